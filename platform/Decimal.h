@@ -1,0 +1,49 @@
+// Exact decimal numbers for money and other scaled values: no binary fraction ever stands in between.
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace norvane
+{
+
+/// coefficient / 10^scale, exact, up to 18 digits. Operations that would need more fail with Overflow (6).
+class Decimal
+{
+public:
+    constexpr Decimal() = default;
+    constexpr Decimal(std::int64_t coefficient, int scale) : m_coefficient(coefficient), m_scale(scale) {}
+
+    /// Reads a whole text such as "-12.340" (blanks around it allowed). @return nothing when it is no number.
+    [[nodiscard]] static std::optional<Decimal> parse(std::string_view text);
+    /// The number that @p text begins with, blanks passed over; no number counts as 0 ("12abc" is 12, "x" is
+    /// 0).
+    [[nodiscard]] static Decimal leading(std::string_view text);
+    /// The shortest decimal that stands for the binary @p number.
+    [[nodiscard]] static Decimal fromDouble(double number);
+
+    [[nodiscard]] constexpr std::int64_t coefficient() const { return m_coefficient; }
+    [[nodiscard]] constexpr int scale() const { return m_scale; }
+
+    /// Multiplies by 10^@p places (divides when negative) by moving the point.
+    [[nodiscard]] Decimal shifted(int places) const;
+    /// Rounds to @p places behind the point, halves away from zero.
+    [[nodiscard]] Decimal rounded(int places) const;
+    /// Rounded to the whole number, halves away from zero.
+    [[nodiscard]] std::int64_t toWhole() const;
+    /// Plain number text without trailing zeros: "12.34", "0.5", "-3".
+    [[nodiscard]] std::string text() const;
+    [[nodiscard]] double toDouble() const;
+
+    [[nodiscard]] bool operator==(const Decimal& other) const;
+
+private:
+    std::int64_t m_coefficient = 0;
+    int m_scale = 0;
+};
+
+} // namespace norvane

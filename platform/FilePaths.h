@@ -1,0 +1,28 @@
+// File names that meet without regard to case, as the registers' tools spell them (Nmem.DAT, MEM.dat,
+// mem.dat).
+#pragma once
+
+#include <QString>
+
+namespace norvane
+{
+
+/// Joins with the platform's separator; @p name may begin with one, with "\" or with neither.
+[[nodiscard]] QString joinPath(const QString& folder, const QString& name);
+
+/// The existing file or folder that @p path names without regard to case, each part looked up on disk; an
+/// exact match wins. @return @p path itself, in the platform's form, when nothing matches.
+[[nodiscard]] QString existingPath(const QString& path);
+
+/// True when @p path names an existing file or folder without regard to case.
+[[nodiscard]] bool pathExists(const QString& path);
+
+/// The bytes of a file, found without regard to case.
+/// @throws RuntimeFailure 53 when there is none, 75 when it cannot be read.
+[[nodiscard]] QByteArray readWholeFile(const QString& path);
+
+/// Replaces the content of a file, found without regard to case, or makes it.
+/// @throws RuntimeFailure 75 when it cannot be opened for writing, 61 when the disk is full.
+void writeWholeFile(const QString& path, const QByteArray& content);
+
+} // namespace norvane

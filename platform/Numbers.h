@@ -1,0 +1,35 @@
+// Numbers and texts by the former platform's conversion rules, on which settings, screens and text records
+// rest.
+#pragma once
+
+#include <QString>
+
+namespace norvane
+{
+
+/// The number that @p text begins with, blanks passed over; 0 when there is none ("12abc" is 12, "" is 0).
+/// The point is the decimal sign on every machine.
+[[nodiscard]] double leadingNumber(QStringView text);
+
+/// Shortest plain text of a number: "12.5", "0.5", "-3", never an exponent for the numbers that tables hold.
+[[nodiscard]] QString numberText(double number);
+/// The same with a place for the sign: " 12.5", "-3".
+[[nodiscard]] QString signedNumberText(double number);
+
+/// Converts the whole text to a number (blanks around it allowed).
+/// @throws RuntimeFailure 13 when the text is no number, empty text included.
+[[nodiscard]] double toNumber(QStringView text);
+/// The same rounded to a whole number, halves to the even neighbour. @throws 13, and 6 outside @p bits (16 or
+/// 32).
+[[nodiscard]] int toWholeNumber(QStringView text, int bits = 32);
+/// Rounds halves to the even neighbour. @throws 6 when it does not fit 32 bits.
+[[nodiscard]] int roundHalfEven(double number);
+/// "True"/"False" in any case, or a number of which any but 0 is true. @throws 13 for any other text.
+[[nodiscard]] bool toBoolean(QStringView text);
+
+/// Formats a number by a pattern of zeros with an optional point ("00", "0000", "0000.00"): at least so many
+/// digits before the point and exactly so many behind it, halves away from zero in decimal.
+/// Empty text stays empty. @throws RuntimeFailure 13 when @p text is neither empty nor a number.
+[[nodiscard]] QString formatNumber(QStringView text, QStringView pattern);
+
+} // namespace norvane

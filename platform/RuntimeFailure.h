@@ -1,0 +1,55 @@
+// The one exception of the program: a failure with the number and text of the former platform's run-time
+// messages. Lower layers throw it; only the outermost handler shows it and ends the program.
+#pragma once
+
+#include <QString>
+
+#include <stdexcept>
+
+namespace norvane
+{
+
+/// Numbers of run-time failures as the user sees them.
+enum class Failure {
+    InvalidArgument = 5,
+    Overflow = 6,
+    TypeMismatch = 13,
+    FileNotFound = 53,
+    InputPastEnd = 62,
+    DeviceIo = 57,
+    DiskFull = 61,
+    PathOrFileAccess = 75,
+    NoCurrentRecord = 3021,
+    DuplicateKey = 3022,
+    UnknownNameInQuery = 3061,
+    TextTooLong = 3163,
+    UnknownName = 3265,
+    RequiredFieldIsNull = 3314,
+    NotOurDatabase = 3343,
+    EngineFailure = 3000,
+    DatabaseLocked = 3260,
+    TableExists = 3010,
+    FieldExists = 3191,
+    Conversion = 3421,
+};
+
+/// A failure that nothing below the outermost handler may pass over silently. Where the system catches
+/// failures, it catches this type and looks at the number.
+class RuntimeFailure : public std::runtime_error
+{
+public:
+    RuntimeFailure(Failure number, const QString& text)
+        : std::runtime_error(text.toStdString()), m_number(number), m_text(text)
+    {
+    }
+    [[nodiscard]] Failure failure() const { return m_number; }
+    [[nodiscard]] int number() const { return static_cast<int>(m_number); }
+    /// What happened, in words for the user, naming the file, table or field concerned.
+    [[nodiscard]] const QString& text() const { return m_text; }
+
+private:
+    Failure m_number;
+    QString m_text;
+};
+
+} // namespace norvane

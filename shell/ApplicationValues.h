@@ -1,0 +1,29 @@
+// The application-wide values: where the program works and for which customer.
+#pragma once
+
+#include <QString>
+
+namespace norvane
+{
+
+/// Plain values, made once by the program and handed to whoever needs them; nothing guards them. Which
+/// routine sets which is part of the system's behaviour: a change of customer leaves databasePath as it was.
+struct ApplicationValues {
+    /// The folder of the program file, without a closing separator.
+    QString appPath;
+    /// The customer's folder name as typed or picked.
+    QString customerName;
+    /// Folder of the customer's setup.ini, database and register files.
+    QString customerPath;
+    /// The customer database in use. Set at the start and by the key editors only.
+    QString databasePath;
+    /// Screen file that the next record editor loads.
+    QString screenFilePath;
+    /// Result of the find dialog.
+    QString searchText;
+    bool searchConfirmed = false;
+    /// "UPLOAD" or "DOWNLOAD", read by the exchange dialog.
+    QString exchangeMode;
+};
+
+} // namespace norvane

@@ -1,0 +1,22 @@
+// The customer's setup.ini: which register model, how it is reached, how many registers there are.
+#pragma once
+
+#include "shell/ApplicationValues.h"
+
+#include <QString>
+
+namespace norvane
+{
+
+/// Path of the customer's settings file.
+[[nodiscard]] QString settingsPath(const ApplicationValues& values);
+
+/// One key of section SetupOption, read afresh from the file; see ProfileFile for absent and empty values.
+[[nodiscard]] QString readSetting(const ApplicationValues& values, const QString& key,
+                                  const QString& defaultText);
+
+/// The register model index ECRModel, default "0", converted to a number.
+/// @throws RuntimeFailure 13 when the value is empty or no number.
+[[nodiscard]] double ecrModel(const ApplicationValues& values);
+
+} // namespace norvane

@@ -1,0 +1,68 @@
+// The small routines that menus, exchange and text records share. The text records depend on their odd cases
+// to the character.
+#pragma once
+
+#include "platform/Boxes.h"
+#include "shell/ApplicationValues.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace norvane
+{
+
+/// The model word that the converter takes: "Velmaro", "Velmarn" or "Dorvik". @throws 13 as ecrModel() does.
+[[nodiscard]] QString GetModelCode(const ApplicationValues& values);
+
+/// 2, 3, or -1 for an empty mem.dat (after telling the user), by the length of mem.dat in the program's
+/// folder.
+/// @throws RuntimeFailure 53 when the file is missing, 6 when it has 32,768 bytes or more.
+[[nodiscard]] int GetFirmwareGeneration(const ApplicationValues& values, Boxes& boxes);
+
+/// Whether a flag stands in an option digit. Position 3 is the register's own table row (3, 5, 7), no bit
+/// test.
+[[nodiscard]] constexpr bool DigitFlagSet(int digit, int position)
+{
+    switch (position) {
+    case 1:
+        return digit == 1 || digit == 3 || digit == 5 || digit == 7;
+    case 2:
+        return digit == 2 || digit == 3 || digit == 6 || digit == 7;
+    case 3:
+        return digit == 3 || digit == 5 || digit == 7;
+    case 4:
+        return digit >= 4 && digit <= 7;
+    default:
+        return false;
+    }
+}
+
+/// Replaces @p value (nothing counts as empty) by its trimmed text brought to @p width characters: mode 0
+/// zeros on the left and the rightmost kept, mode 1 blanks on the right and the leftmost kept, any other
+/// centred.
+/// @return the new value. @throws RuntimeFailure 5 when a centred value is longer than the width.
+QString JustifyField(std::optional<QString>& value, int width, int mode);
+
+/// Each chr(253), the register's own mark in texts, becomes "^". Changes @p text and returns it.
+QString EscapeDelimiter(QString& text);
+/// Each "^" becomes chr(253).
+QString UnescapeDelimiter(QString& text);
+
+/// Trims blanks and removes all leading zeros; a text of zeros only gives empty text (the form of file 16).
+QString StripLeadingZero(QString& text);
+
+/// Lets pending events run once, then runs a tool and waits for it. @return false when it could not be
+/// started.
+bool RunAndWait(const ApplicationValues& values, const QString& commandLine);
+
+/// The last value of status.out in the working directory; empty text when it holds none.
+/// @throws RuntimeFailure 53 when the file cannot be opened.
+[[nodiscard]] QString ReadStatusOut();
+
+/// The digits of the stamp byte of poll194.dll in the program's folder; makes the file when it is missing.
+QString ReadPoll194Stamp(const ApplicationValues& values);
+/// For each byte the decimal texts of its high and its low half.
+[[nodiscard]] QString NibbleDigits(const QByteArray& bytes);
+
+} // namespace norvane

@@ -1,0 +1,79 @@
+// One customer database file: tables and their definitions, statements, transactions.
+#pragma once
+
+#include "store/Definitions.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace norvane::store
+{
+
+class Recordset;
+
+/// An open database. Names of tables, fields and indexes match without regard to case. Not shared between
+/// threads. Open recordsets must be gone before it is.
+class Database
+{
+public:
+    /// Opens an existing file. @throws RuntimeFailure 53 when it is missing, 3343 when it is no database of
+    /// ours, is damaged or belongs to the former engine, 75 when it cannot be read. Opening never writes.
+    explicit Database(const QString& path);
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    /// Makes a new file holding @p tables, all empty. An existing file is replaced.
+    static void create(const QString& path, const QVector<TableDefinition>& tables);
+
+    /// A recordset on a table, placed on the first record in the order of its first index.
+    /// @throws RuntimeFailure 3265 for an unknown table.
+    [[nodiscard]] Recordset openTable(const QString& table);
+    /// A recordset on the rows of a query, or of a table name; read only, forward and backward.
+    /// @throws RuntimeFailure 3061 for an unknown name or a faulty statement.
+    [[nodiscard]] Recordset openQuery(const QString& sql);
+    /// Runs a delete or update statement in the words of the former engine ("delete * from x").
+    /// @return the number of rows touched. @throws RuntimeFailure 3061.
+    qint64 execute(const QString& sql);
+
+    [[nodiscard]] QStringList tableNames() const;
+    [[nodiscard]] bool hasTable(const QString& table) const;
+    /// @throws RuntimeFailure 3265 for an unknown table.
+    [[nodiscard]] TableDefinition table(const QString& table) const;
+    /// @throws RuntimeFailure 3010 when the table exists.
+    void addTable(const TableDefinition& table);
+    /// Old rows keep null in the new field, whatever its default and required mark.
+    /// @throws RuntimeFailure 3191 when the field exists, 3265 for an unknown table.
+    void addField(const QString& table, const FieldDefinition& field);
+    /// Reads the definitions anew, after another connection may have changed them.
+    void refresh();
+
+    class Private;
+
+private:
+    friend class Recordset;
+    friend class Transaction;
+    std::unique_ptr<Private> d;
+};
+
+/// Bulk work in one go: commits when it goes out of scope, also when a failure is thrown through it, since
+/// what was done before a failure stays done. Only a killed process or a power cut rolls back. Nesting is
+/// allowed: the outermost one counts.
+class Transaction
+{
+public:
+    explicit Transaction(Database& database);
+    ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    /// Commits now and reports what goes wrong. @throws RuntimeFailure 61, 75, 3260 ...
+    void commit();
+
+private:
+    Database& m_database;
+    bool m_open = true;
+};
+
+} // namespace norvane::store

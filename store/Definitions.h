@@ -1,0 +1,42 @@
+// Definitions of tables, fields and indexes, as the catalogue lists them and as a database file tells them.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+namespace norvane::store
+{
+
+enum class FieldType {
+    YesNo,   ///< holds -1 or 0; anything not zero becomes true
+    Long,    ///< whole number of 32 bits
+    Double,  ///< number
+    Digits,  ///< whole number of any length, kept digit for digit, ordered and compared by value
+    Text,    ///< at most size characters
+    Date,    ///< a day
+    Counter, ///< whole number that the store counts up for each new record
+};
+
+struct FieldDefinition {
+    QString name;
+    FieldType type = FieldType::Text;
+    int size = 0;          ///< characters of a text field, digits of a digits field, 0 otherwise
+    QString defaultText;   ///< what a new record holds; empty for null
+    bool required = false; ///< may not be null when a record is stored
+};
+
+/// An index over one field. Several names may stand for one index.
+struct IndexDefinition {
+    QStringList names;
+    QString field;
+    bool unique = true;
+};
+
+struct TableDefinition {
+    QString name;
+    QVector<FieldDefinition> fields;
+    QVector<IndexDefinition> indexes;
+};
+
+} // namespace norvane::store

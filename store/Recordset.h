@@ -1,0 +1,81 @@
+// A walk over the records of one table in the order of a named index, or over the rows of a query.
+#pragma once
+
+#include "store/Definitions.h"
+#include "store/Value.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace norvane::store
+{
+
+class Database;
+
+enum class EditMode { None, Editing, Adding };
+enum class Seek { Equal, AtOrAfter };
+
+/// Holds its own place by key and row, so that other recordsets may add and delete records meanwhile. Reading
+/// or storing without a current record is failure 3021. A move abandons an edit or a new record.
+class Recordset
+{
+public:
+    Recordset(Recordset&& other) noexcept;
+    Recordset& operator=(Recordset&& other) noexcept;
+    ~Recordset();
+
+    /// Chooses the order and places the recordset on the first record. @throws 3265 for an unknown index.
+    void setIndex(const QString& name);
+    [[nodiscard]] QString index() const;
+
+    /// @throws RuntimeFailure 3021 on an empty table.
+    void moveFirst();
+    void moveLast();
+    /// Past the last record the recordset is at its end. @throws 3021 when it is there already.
+    void moveNext();
+    void movePrevious();
+    [[nodiscard]] bool atEnd() const;
+    [[nodiscard]] bool atBeginning() const;
+    [[nodiscard]] bool hasCurrent() const;
+    [[nodiscard]] qint64 recordCount() const;
+
+    /// Places the recordset by the current index. @return false when nothing was found; there is no current
+    /// record then. @throws 3421 when a text that is no number is sought on a number index; empty text lies
+    /// before every key.
+    bool seek(Seek comparison, const Value& key);
+
+    /// Starts a new record with the fields' defaults.
+    void addNew();
+    /// Starts changing the current record; on a record already open it goes on.
+    void edit();
+    /// Stores the new or changed record. A new record does not become the current one.
+    /// @throws 3022 duplicate key, 3314 required field is null; the record stays open then.
+    void update();
+    void cancelUpdate();
+    /// Deletes the current record; there is no current record until the next move.
+    void deleteRecord();
+    [[nodiscard]] EditMode editMode() const;
+
+    [[nodiscard]] int fieldCount() const;
+    [[nodiscard]] const FieldDefinition& field(int ordinal) const;
+    /// Ordinal from 0. @throws RuntimeFailure 3265 for an unknown field.
+    [[nodiscard]] int fieldOrdinal(const QString& name) const;
+
+    /// The value in the record being edited or added, else in the current one. @throws 3265, 3021.
+    [[nodiscard]] const Value& value(int ordinal) const;
+    [[nodiscard]] const Value& value(const QString& name) const { return value(fieldOrdinal(name)); }
+    /// Converts to the field's type. @throws 3421 when the value does not convert, 3163 when a text is too
+    /// long, 3265, and 3020 (as 3021) outside edit() and addNew().
+    void setValue(int ordinal, Value value);
+    void setValue(const QString& name, Value value) { setValue(fieldOrdinal(name), std::move(value)); }
+
+    class Private;
+
+private:
+    friend class Database;
+    explicit Recordset(std::unique_ptr<Private> d);
+    std::unique_ptr<Private> d;
+};
+
+} // namespace norvane::store

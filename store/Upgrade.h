@@ -1,0 +1,16 @@
+// Brings older customer databases to the current layout.
+#pragma once
+
+#include <QString>
+
+namespace norvane::store
+{
+
+/// Runs the upgrade steps in their order on the database at @p path; the first failure of any kind (a field
+/// that exists already is one) ends the routine silently, with nothing undone.
+void UpgradeDatabase(const QString& path);
+
+/// Adds the field unitdescription to productmix; every failure is passed over.
+void UpgradeUnitDescription(const QString& path);
+
+} // namespace norvane::store

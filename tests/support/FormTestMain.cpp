@@ -1,0 +1,45 @@
+// Entry of the tests with widgets.
+#include "tests/support/FormTest.h"
+
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QStyleFactory>
+
+namespace
+{
+
+std::optional<norvane::RuntimeFailure>& caught()
+{
+    static std::optional<norvane::RuntimeFailure> failure;
+    return failure;
+}
+
+class TestApplication : public QApplication
+{
+public:
+    using QApplication::QApplication;
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const norvane::RuntimeFailure& failure) {
+            caught() = failure;
+            return true;
+        }
+    }
+};
+
+} // namespace
+
+std::optional<norvane::RuntimeFailure> norvane::test::takeFailure()
+{
+    return std::exchange(caught(), std::nullopt);
+}
+
+int main(int argc, char** argv)
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    TestApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,68 @@
+// Boxes for the tests: records what was shown and answers as told beforehand.
+#pragma once
+
+#include "platform/Boxes.h"
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+namespace norvane::test
+{
+
+struct ShownBox {
+    QString text;
+    QString title;
+    BoxIcon icon = BoxIcon::None;
+    bool operator==(const ShownBox&) const = default;
+};
+
+/// Answers Yes/No and typed texts in the order in which they were put in; a question without an answer counts
+/// as No, an input box without one as cancelled.
+class RecordingBoxes : public Boxes
+{
+public:
+    std::vector<ShownBox> shown;
+    std::deque<bool> answers;
+    std::deque<QString> typed;
+    int beeps = 0;
+    /// Runs while a box stands open, to look at what is behind it.
+    std::function<void(const ShownBox&)> whileOpen;
+
+    void message(const QString& text, const QString& title, BoxIcon icon) override
+    {
+        record({text, title.isEmpty() ? applicationTitle() : title, icon});
+    }
+    bool ask(const QString& text, const QString& title, BoxIcon icon) override
+    {
+        record({text, title, icon});
+        return takeFront(answers);
+    }
+    QString input(const QString& prompt, const QString& title, const QString& /*initial*/) override
+    {
+        record({prompt, title, BoxIcon::None});
+        return takeFront(typed);
+    }
+    void beep() override { ++beeps; }
+
+private:
+    void record(ShownBox box)
+    {
+        if (whileOpen) {
+            whileOpen(box);
+        }
+        shown.push_back(std::move(box));
+    }
+    template <typename Answer>
+    static Answer takeFront(std::deque<Answer>& queue)
+    {
+        if (queue.empty()) {
+            return {};
+        }
+        Answer answer = queue.front();
+        queue.pop_front();
+        return answer;
+    }
+};
+
+} // namespace norvane::test
