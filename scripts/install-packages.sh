@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Installs what building and running the program needs on Debian 12, if anything is missing.
+# With --headless also what the tests and screenshots without a screen need.
+set -euo pipefail
+
+packages=(
+  g++ cmake ninja-build ccache git
+  qt6-base-dev qt6-serialport-dev libgl-dev
+  libsqlitecpp-dev libsqlite3-dev
+  libgtest-dev libgmock-dev libbenchmark-dev
+  fonts-dejavu-core
+)
+
+missing=()
+for package in "${packages[@]}"; do
+  if ! dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed; then
+    missing+=("$package")
+  fi
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+echo "Installing: ${missing[*]}"
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  as_root=(sudo)
+fi
+"${as_root[@]}" apt-get update -q
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
