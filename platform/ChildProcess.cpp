@@ -1,0 +1,74 @@
+// Starting the external tools; see ChildProcess.h.
+#include "platform/ChildProcess.h"
+
+#include "platform/FilePaths.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+
+namespace norvane
+{
+namespace
+{
+
+QStringList spellings(const QString& name)
+{
+#ifdef Q_OS_WIN
+    return {name, name + QStringLiteral(".exe")};
+#else
+    return {name};
+#endif
+}
+
+/// Where a bare name is looked for, in order.
+QStringList searchFolders(const QString& programFolder)
+{
+    QStringList folders{programFolder, QDir::currentPath()};
+    folders += qEnvironmentVariable("PATH").split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    return folders;
+}
+
+QString programAt(const QString& path)
+{
+    const QFileInfo file(existingPath(path));
+    return file.isFile() && file.isExecutable() ? file.absoluteFilePath() : QString();
+}
+
+} // namespace
+
+QStringList commandWords(const QString& commandLine)
+{
+    return QProcess::splitCommand(commandLine);
+}
+
+QString findProgram(const QString& name, const QString& programFolder)
+{
+    const bool hasFolder = name.contains(u'/') || name.contains(u'\\');
+    const auto folders = hasFolder ? QStringList{QString()} : searchFolders(programFolder);
+    for (const auto& folder : folders)
+        for (const auto& spelling : spellings(name))
+            if (const auto program = programAt(hasFolder ? spelling : joinPath(folder, spelling));
+                !program.isEmpty())
+                return program;
+    return {};
+}
+
+ChildResult runAndWait(const QString& commandLine, const QString& programFolder)
+{
+    QStringList words = commandWords(commandLine);
+    const QString program = words.isEmpty() ? QString() : findProgram(words.takeFirst(), programFolder);
+    if (program.isEmpty())
+        return ChildResult::NotFound;
+
+    QProcess child;
+    child.setProcessChannelMode(QProcess::ForwardedChannels);
+    child.setInputChannelMode(QProcess::ForwardedInputChannel);
+    child.start(program, words);
+    if (!child.waitForStarted(-1))
+        return ChildResult::NotStarted;
+    child.waitForFinished(-1);
+    return ChildResult::Ended;
+}
+
+} // namespace norvane

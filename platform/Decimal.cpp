@@ -1,0 +1,162 @@
+// Exact decimal arithmetic on a 64-bit coefficient; see Decimal.h.
+#include "platform/Decimal.h"
+
+#include "platform/NumberScan.h"
+#include "platform/RuntimeFailure.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace norvane
+{
+namespace
+{
+
+constexpr int mostDigits = 18;
+/// Powers of ten up to this one are exact in a double.
+constexpr int exactDoublePower = 22;
+constexpr std::int64_t exactDoubleLimit = std::int64_t{1} << 53;
+
+constexpr auto powersOfTen = [] {
+    std::array<std::int64_t, mostDigits + 1> powers{1};
+    for (std::size_t i = 1; i < powers.size(); ++i)
+        powers[i] = powers[i - 1] * 10;
+    return powers;
+}();
+
+constexpr std::int64_t powerOfTen(int exponent)
+{
+    return powersOfTen[static_cast<std::size_t>(exponent)];
+}
+
+[[noreturn]] void failOverflow()
+{
+    throw RuntimeFailure(Failure::Overflow, QStringLiteral("Overflow: a number of more than 18 digits"));
+}
+
+std::int64_t multiplied(std::int64_t coefficient, int exponent)
+{
+    if (coefficient == 0)
+        return 0;
+    if (exponent > mostDigits || std::abs(coefficient) >= powerOfTen(mostDigits - exponent))
+        failOverflow();
+    return coefficient * powerOfTen(exponent);
+}
+
+/// Zeros behind the last significant digit of a fraction, and leading ones, take no room.
+std::string_view significant(std::string_view digits, int& scale)
+{
+    const auto first = digits.find_first_not_of('0');
+    if (first == std::string_view::npos) {
+        scale = 0;
+        return {};
+    }
+    digits.remove_prefix(first);
+    while (scale > 0 && digits.size() > mostDigits && digits.back() == '0') {
+        digits.remove_suffix(1);
+        --scale;
+    }
+    return digits;
+}
+
+Decimal fromScanned(const ScannedNumber& number)
+{
+    int scale = number.scale;
+    const auto digits = significant(number.digits, scale);
+    if (digits.size() > mostDigits)
+        failOverflow();
+    std::int64_t coefficient = 0;
+    for (const char digit : digits)
+        coefficient = coefficient * 10 + (digit - '0');
+    if (number.negative)
+        coefficient = -coefficient;
+    return Decimal(coefficient, scale).shifted(0);
+}
+
+} // namespace
+
+std::optional<Decimal> Decimal::parse(std::string_view text)
+{
+    const auto number = scanWholeNumber(text);
+    return number ? std::optional(fromScanned(*number)) : std::nullopt;
+}
+
+Decimal Decimal::leading(std::string_view text)
+{
+    const auto number = scanLeadingNumber(text);
+    return number ? fromScanned(*number) : Decimal();
+}
+
+Decimal Decimal::fromDouble(double number)
+{
+    if (!std::isfinite(number))
+        failOverflow();
+    std::array<char, 32> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
+    return leading(std::string_view(buffer.data(), static_cast<std::size_t>(end - buffer.data())));
+}
+
+Decimal Decimal::shifted(int places) const
+{
+    const int scale = m_scale - places;
+    return scale >= 0 ? Decimal(m_coefficient, scale) : Decimal(multiplied(m_coefficient, -scale), 0);
+}
+
+Decimal Decimal::rounded(int places) const
+{
+    const int surplus = m_scale - places;
+    if (surplus <= 0)
+        return *this;
+    if (surplus > mostDigits)
+        return {0, places};
+    const std::int64_t divisor = powerOfTen(surplus);
+    const std::int64_t rest = m_coefficient % divisor;
+    std::int64_t quotient = m_coefficient / divisor;
+    if (std::abs(rest) * 2 >= divisor)
+        quotient += m_coefficient < 0 ? -1 : 1;
+    return {quotient, places};
+}
+
+std::int64_t Decimal::toWhole() const
+{
+    return rounded(0).shifted(0).m_coefficient;
+}
+
+std::string Decimal::text() const
+{
+    const Decimal plain = shifted(0);
+    std::string digits = std::to_string(std::abs(plain.m_coefficient));
+    const auto scale = static_cast<std::size_t>(plain.m_scale);
+    if (digits.size() <= scale)
+        digits.insert(0, scale - digits.size() + 1, '0');
+    if (scale > 0) {
+        digits.insert(digits.size() - scale, 1, '.');
+        digits.erase(digits.find_last_not_of('0') + 1);
+        if (digits.back() == '.')
+            digits.pop_back();
+    }
+    return m_coefficient < 0 ? '-' + digits : digits;
+}
+
+double Decimal::toDouble() const
+{
+    // Both sides exact: one division gives the nearest double.
+    if (m_scale >= 0 && m_scale <= exactDoublePower && std::abs(m_coefficient) <= exactDoubleLimit) {
+        static constexpr std::array<double, exactDoublePower + 1> powers{
+            1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+            1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+        return static_cast<double>(m_coefficient) / powers[static_cast<std::size_t>(m_scale)];
+    }
+    const std::string plain = text();
+    double value = 0;
+    std::from_chars(plain.data(), plain.data() + plain.size(), value);
+    return value;
+}
+
+bool Decimal::operator==(const Decimal& other) const
+{
+    return text() == other.text();
+}
+
+} // namespace norvane

@@ -1,0 +1,26 @@
+// Reading of the customer's setup.ini; see CustomerSettings.h.
+#include "shell/CustomerSettings.h"
+
+#include "platform/FilePaths.h"
+#include "platform/Numbers.h"
+#include "platform/ProfileFile.h"
+
+namespace norvane
+{
+
+QString settingsPath(const ApplicationValues& values)
+{
+    return joinPath(values.customerPath, QStringLiteral("setup.ini"));
+}
+
+QString readSetting(const ApplicationValues& values, const QString& key, const QString& defaultText)
+{
+    return ProfileFile(settingsPath(values)).value(QStringLiteral("SetupOption"), key, defaultText);
+}
+
+double ecrModel(const ApplicationValues& values)
+{
+    return toNumber(readSetting(values, QStringLiteral("ECRModel"), QStringLiteral("0")));
+}
+
+} // namespace norvane

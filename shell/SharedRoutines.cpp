@@ -1,0 +1,165 @@
+// The routines shared by menus, exchange and text records; see SharedRoutines.h.
+#include "shell/SharedRoutines.h"
+
+#include "platform/ChildProcess.h"
+#include "platform/FilePaths.h"
+#include "platform/Numbers.h"
+#include "platform/RuntimeFailure.h"
+#include "platform/TextFields.h"
+#include "shell/CustomerSettings.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <limits>
+
+namespace norvane
+{
+namespace
+{
+
+/// Shortest memory file of the newer firmware.
+constexpr qint64 newerFirmwareLength = 78;
+/// The register's own mark in texts, and the character that stands for it in the database.
+constexpr QChar registerMark{0xFD};
+constexpr QChar shownMark{u'^'};
+/// Place of the stamp in a poll file, from 0.
+constexpr qint64 stampPosition = 4;
+/// The mark by which old tools end a text file.
+constexpr char endOfTextFile = 0x1A;
+
+QString centred(const QString& text, int width)
+{
+    if (text.size() > width)
+        throw RuntimeFailure(
+            Failure::InvalidArgument,
+            QStringLiteral("Invalid argument: \"%1\" is longer than %2 characters").arg(text).arg(width));
+    const int pad = roundHalfEven(static_cast<double>(width - text.size()) / 2);
+    return (QString(pad, u' ') + text).leftJustified(width, u' ', true);
+}
+
+/// Cuts the next comma- or line-separated value off @p rest. A quoted value may hold commas.
+QByteArray takeValue(QByteArrayView& rest)
+{
+    rest = rest.trimmed();
+    QByteArray value;
+    bool quoted = false;
+    qsizetype i = 0;
+    for (; i < rest.size(); ++i) {
+        const char c = rest[i];
+        if (!quoted && (c == ',' || c == '\r' || c == '\n'))
+            break;
+        if (c == '"')
+            quoted = !quoted;
+        else
+            value.append(c);
+    }
+    rest = rest.sliced(qMin(i + 1, rest.size()));
+    return value.trimmed();
+}
+
+} // namespace
+
+QString GetModelCode(const ApplicationValues& values)
+{
+    const double model = ecrModel(values);
+    if (model == 0 || model == 1)
+        return QStringLiteral("Velmaro");
+    return model == 2 ? QStringLiteral("Velmarn") : QStringLiteral("Dorvik");
+}
+
+int GetFirmwareGeneration(const ApplicationValues& values, Boxes& boxes)
+{
+    const QString path = joinPath(values.appPath, QStringLiteral("mem.dat"));
+    const QFileInfo file(existingPath(path));
+    if (!file.isFile())
+        throw RuntimeFailure(Failure::FileNotFound, QStringLiteral("File not found: %1").arg(path));
+    if (file.size() > std::numeric_limits<std::int16_t>::max())
+        throw RuntimeFailure(Failure::Overflow,
+                             QStringLiteral("Overflow: %1 is no memory file of a register").arg(path));
+    if (file.size() == 0) {
+        boxes.message(QStringLiteral("You must upload the data from the Velmar"));
+        return -1;
+    }
+    return file.size() < newerFirmwareLength ? 2 : 3;
+}
+
+QString JustifyField(std::optional<QString>& value, int width, int mode)
+{
+    const QString text = value ? trimBlanks(*value).toString() : QString();
+    QString result;
+    switch (mode) {
+    case 0:
+        result = (QString(width, u'0') + text).right(width);
+        break;
+    case 1:
+        result = text.leftJustified(width, u' ', true);
+        break;
+    default:
+        result = centred(text, width);
+    }
+    value = result;
+    return result;
+}
+
+QString EscapeDelimiter(QString& text)
+{
+    return text.replace(registerMark, shownMark);
+}
+
+QString UnescapeDelimiter(QString& text)
+{
+    return text.replace(shownMark, registerMark);
+}
+
+QString StripLeadingZero(QString& text)
+{
+    QStringView rest = trimBlanks(text);
+    while (rest.startsWith(u'0'))
+        rest = rest.sliced(1);
+    text = rest.toString();
+    return text;
+}
+
+bool RunAndWait(const ApplicationValues& values, const QString& commandLine)
+{
+    QCoreApplication::processEvents();
+    return runAndWait(commandLine, values.appPath) == ChildResult::Ended;
+}
+
+QString ReadStatusOut()
+{
+    QByteArray content = readWholeFile(QStringLiteral("status.out"));
+    if (const auto end = content.indexOf(endOfTextFile); end >= 0)
+        content.truncate(end);
+    // An empty place is no value: a line end too many must not turn an error into a success.
+    QByteArray last;
+    for (QByteArrayView rest = content; !rest.isEmpty();)
+        if (const QByteArray value = takeValue(rest); !value.isEmpty())
+            last = value;
+    return QString::fromLatin1(last);
+}
+
+QString ReadPoll194Stamp(const ApplicationValues& values)
+{
+    const QString path = joinPath(values.appPath, QStringLiteral("poll194.dll"));
+    QFile file(existingPath(path));
+    if (!file.open(QIODevice::ReadWrite) && !file.open(QIODevice::ReadOnly))
+        throw RuntimeFailure(Failure::PathOrFileAccess,
+                             QStringLiteral("Path/File access error: %1").arg(path));
+    const QByteArray stamp = file.seek(stampPosition) ? file.read(1) : QByteArray();
+    return NibbleDigits(stamp.isEmpty() ? QByteArray(" ") : stamp);
+}
+
+QString NibbleDigits(const QByteArray& bytes)
+{
+    QString digits;
+    for (const char byte : bytes) {
+        const auto value = static_cast<unsigned char>(byte);
+        digits += QString::number(value >> 4) + QString::number(value & 0x0F);
+    }
+    return digits;
+}
+
+} // namespace norvane
