@@ -118,7 +118,9 @@ void writeWholeFile(const QString& path, const QByteArray& content)
     QSaveFile file(pathForWriting(path));
     if (!file.open(QIODevice::WriteOnly))
         failAccess(path, file.errorString());
-    file.write(content);
+    // A disk that fills up takes a part of the bytes without an error; only what was really written counts.
+    if (file.write(content) != content.size() || !file.flush())
+        file.cancelWriting();
     if (!file.commit())
         throw RuntimeFailure(Failure::DiskFull,
                              QStringLiteral("Disk full: %1 (%2)").arg(path, file.errorString()));

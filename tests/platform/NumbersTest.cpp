@@ -1,0 +1,142 @@
+#include "platform/Numbers.h"
+
+#include "platform/RuntimeFailure.h"
+#include "tests/platform/TestFolder.h"
+
+namespace norvane
+{
+namespace
+{
+
+using test::failureOf;
+
+TEST(Numbers, ALeadingNumberIsReadAsFarAsItGoes)
+{
+    const struct {
+        const char16_t* text;
+        double number;
+    } rows[] = {
+        {u"", 0},
+        {u"x12", 0},
+        {u"12abc", 12},
+        {u" 1 5.2 5 ", 15.25}, // blanks are passed over
+                               // wherever they stand
+        {u"\t7\n8", 78},
+        {u"-3.50", -3.5},
+        {u"+4", 4},
+        {u"- 4", -4},
+        {u".5", 0.5},
+        {u"5.", 5},
+        {u"1.2.3", 1.2},
+        {u"1,234", 1}, // the point alone is the decimal sign
+        {u"12e", 12},
+        {u"12e+", 12},
+        {u"1e3", 1000},
+        {u"25D-1x", 2.5},
+        {u"1e-999", 0},
+        {u"-", 0},
+        {u".", 0},
+        {u"\u0664", 0}, // no digits of other scripts
+        {u"0000120", 120},
+        {u"inf", 0},
+    };
+    for (const auto& row : rows) {
+        EXPECT_DOUBLE_EQ(leadingNumber(row.text), row.number)
+            << '"' << QString::fromUtf16(row.text).toStdString() << '"';
+    }
+    EXPECT_EQ(failureOf([] { (void)leadingNumber(u"1e999"); }), 6);
+    EXPECT_EQ(failureOf([] { (void)leadingNumber(QString(400, u'9') + QStringLiteral(".5")); }), 6);
+}
+
+TEST(Numbers, AWholeTextIsANumberOrATypeMismatch)
+{
+    EXPECT_EQ(toNumber(u" 2.5\t"), 2.5);
+    EXPECT_EQ(toNumber(u"-.5e1"), -5);
+    for (const auto* text : {u"", u" ", u"12abc", u"1 2", u"-", u".", u"1e", u"nan", u"0x10", u"1,5"}) {
+        EXPECT_EQ(failureOf([text] { (void)toNumber(text); }), 13) << QString::fromUtf16(text).toStdString();
+    }
+}
+
+TEST(Numbers, WholeNumbersTakeHalvesToTheEvenNeighbourAndKeepToTheirRange)
+{
+    const struct {
+        const char16_t* text;
+        int whole;
+    } rows[] = {{u"0.5", 0}, {u"1.5", 2}, {u"2.5", 2}, {u"-0.5", 0}, {u"-1.5", -2}, {u"2.51", 3}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(toWholeNumber(row.text), row.whole) << QString::fromUtf16(row.text).toStdString();
+    }
+    EXPECT_EQ(toWholeNumber(u"32767.4", 16), 32767);
+    EXPECT_EQ(toWholeNumber(u"-32768", 16), -32768);
+    EXPECT_EQ(toWholeNumber(u"2147483647.4"), 2147483647);
+    EXPECT_EQ(failureOf([] { (void)toWholeNumber(u"32767.5", 16); }), 6);
+    EXPECT_EQ(failureOf([] { (void)toWholeNumber(u"2147483647.5"); }), 6);
+    EXPECT_EQ(failureOf([] { (void)toWholeNumber(u"-2147483649"); }), 6);
+    EXPECT_EQ(failureOf([] { (void)toWholeNumber(u"two"); }), 13);
+}
+
+TEST(Numbers, NumberTextsAreShortAndPlain)
+{
+    const struct {
+        double number;
+        const char16_t* text;
+    } rows[] = {{0, u"0"},           {-0.0, u"0"},      {12.5, u"12.5"}, {0.5, u"0.5"},
+                {-3, u"-3"},         {12.34, u"12.34"}, {0.1, u"0.1"},   {1e15, u"1000000000000000"},
+                {1e-7, u"0.0000001"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(numberText(row.number), row.text);
+    }
+    EXPECT_EQ(signedNumberText(0), u" 0");
+    EXPECT_EQ(signedNumberText(1.5), u" 1.5");
+    EXPECT_EQ(signedNumberText(-1.5), u"-1.5");
+}
+
+TEST(Numbers, BooleansAreWordsOrNumbers)
+{
+    for (const auto* text : {u"True", u"TRUE", u" true ", u"1", u"-1", u"0.2"}) {
+        EXPECT_TRUE(toBoolean(text)) << QString::fromUtf16(text).toStdString();
+    }
+    for (const auto* text : {u"False", u"fALSE", u"0", u"0.0", u"-0"}) {
+        EXPECT_FALSE(toBoolean(text)) << QString::fromUtf16(text).toStdString();
+    }
+    for (const auto* text : {u"", u"yes", u"T", u"True1"}) {
+        EXPECT_EQ(failureOf([text] { (void)toBoolean(text); }), 13) << QString::fromUtf16(text).toStdString();
+    }
+}
+
+TEST(Numbers, PatternsFormatInExactDecimal)
+{
+    const struct {
+        const char16_t* text;
+        const char16_t* pattern;
+        const char16_t* formatted;
+    } rows[] = {
+        {u"4", u"00", u"04"},
+        {u"123", u"00", u"123"}, // a longer number keeps its digits
+        {u"007", u"00", u"07"},
+        {u"", u"00", u""},
+        {u"0.5", u"00", u"01"}, // halves go away from zero
+        {u"2.5", u"00", u"03"},
+        {u"-2.5", u"00", u"-03"},
+        {u"-0.4", u"00", u"00"},
+        {u"99.5", u"00", u"100"},
+        {u"12.345", u"0000.00", u"0012.35"}, // 12.345 lies below the half in binary
+        {u"1.005", u"0.00", u"1.01"},
+        {u"9.999", u"0.00", u"10.00"},
+        {u".5", u"0.00", u"0.50"},
+        {u"0.004", u"0.00", u"0.00"},
+        {u"1e2", u"0000", u"0100"},
+        {u"15e-3", u"0.00", u"0.02"},
+        {u"123456789012345678901234", u"00", u"123456789012345678901234"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(formatNumber(row.text, row.pattern), row.formatted)
+            << QString::fromUtf16(row.text).toStdString() << " by "
+            << QString::fromUtf16(row.pattern).toStdString();
+    }
+    EXPECT_EQ(failureOf([] { (void)formatNumber(u"4x", u"00"); }), 13);
+    EXPECT_EQ(failureOf([] { (void)formatNumber(u"  ", u"00"); }), 13);
+}
+
+} // namespace
+} // namespace norvane

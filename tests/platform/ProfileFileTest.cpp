@@ -1,0 +1,141 @@
+#include "platform/ProfileFile.h"
+
+#include "tests/platform/TestFolder.h"
+
+namespace norvane
+{
+namespace
+{
+
+using test::TestFolder;
+
+const QString section = QStringLiteral("SetupOption");
+
+QString valueIn(const QByteArray& file, const char* key, const char* defaultText = "absent",
+                int limit = profileValueLimit)
+{
+    const TestFolder folder;
+    folder.write("setup.ini", file);
+    return ProfileFile(folder.path("setup.ini"))
+        .value(section, QString::fromUtf8(key), QString::fromUtf8(defaultText), limit);
+}
+
+QByteArray afterWriting(const QByteArray& file, const char* key, const char* value)
+{
+    const TestFolder folder;
+    folder.write("setup.ini", file);
+    EXPECT_TRUE(ProfileFile::write(folder.path("setup.ini"), section, QString::fromUtf8(key),
+                                   QString::fromUtf8(value)));
+    EXPECT_EQ(folder.names().size(), 1);
+    return folder.read("setup.ini");
+}
+
+TEST(ProfileFile, ReadsAsTheFormerPlatformDid)
+{
+    const struct {
+        const char* what;
+        const char* file;
+        const char* value;
+    } rows[] = {
+        {"case-blind names", "[SETUPoption]\r\nPORT=2\r\n", "2"},
+        {"blanks around names and value", " [ SetupOption ] \r\n\t port \t= \t 2 \t\r\n", "2"},
+        {"sign place", "[SetupOption]\nPort= 0\n", "0"},
+        {"no line end", "[SetupOption]\nPort=3", "3"},
+        {"first key wins", "[SetupOption]\nPort=1\nPort=2\n", "1"},
+        {"first key wins over sections", "[SetupOption]\nPort=1\n[x]\n[setupoption]\nPort=2\n", "1"},
+        {"section goes on further down", "[SetupOption]\n[x]\nPort=1\n[setupoption]\nPort=2\n", "2"},
+        {"other section", "[x]\nPort=1\n", "absent"},
+        {"before any section", "Port=1\n[SetupOption]\n", "absent"},
+        {"comment", "[SetupOption]\n;Port=1\n ; Port=1\n", "absent"},
+        {"comment mark in a value", "[SetupOption]\nPort=1;2\n", "1;2"},
+        {"key without equals sign", "[SetupOption]\nPort\nPort=1\n", "1"},
+        {"longer key", "[SetupOption]\nPort1=1\n", "absent"},
+        {"present and empty", "[SetupOption]\nPort=\n", ""},
+        {"second equals sign", "[SetupOption]\nPort=a=b\n", "a=b"},
+        {"double quotes", "[SetupOption]\nPort=\" a \"\n", " a "},
+        {"single quotes", "[SetupOption]\nPort='a'\n", "a"},
+        {"one pair only", "[SetupOption]\nPort=\"'a'\"\n", "'a'"},
+        {"unequal quotes", "[SetupOption]\nPort=\"a'\n", "\"a'"},
+        {"a single quote", "[SetupOption]\nPort=\"\n", "\""},
+        {"quotes around nothing", "[SetupOption]\nPort=\"\"\n", ""},
+        {"marked UTF-8", "\xEF\xBB\xBF[SetupOption]\nPort=\xC3\xA4\n", "ä"},
+        {"Windows-1252", "[SetupOption]\nPort=\xE4\x80\n", "ä€"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(valueIn(row.file, "Port"), QString::fromUtf8(row.value)) << row.what;
+    }
+}
+
+TEST(ProfileFile, CutsLongValuesAndTrimsDefaults)
+{
+    const QByteArray file = "[SetupOption]\nList=\"" + QByteArray(300, 'x') + "\"\n";
+    EXPECT_EQ(valueIn(file, "List"), QString(144, u'x'));
+    EXPECT_EQ(valueIn(file, "List", "", profileListLimit), QString(255, u'x'));
+    EXPECT_EQ(valueIn(file, "ModemReset", "AT&F "), QStringLiteral("AT&F"));
+    EXPECT_EQ(valueIn(file, "Telephone", " "), QString());
+    EXPECT_EQ(valueIn(file, "Telephone", " x "), QStringLiteral(" x"));
+
+    const TestFolder folder;
+    EXPECT_EQ(ProfileFile(folder.path("none.ini")).value(section, QStringLiteral("Port"), section), section);
+    EXPECT_EQ(ProfileFile(folder.path()).value(section, QStringLiteral("Port"), section), section);
+}
+
+TEST(ProfileFile, WritesOneKeyAndKeepsEveryOtherByte)
+{
+    const struct {
+        const char* what;
+        const char* before;
+        const char* after;
+    } rows[] = {
+        {"replaced", "[SetupOption]\r\n; dealer's note\r\nport=1\r\nBaud=2\r\n",
+         "[SetupOption]\r\n; dealer's note\r\nPort= 3\r\nBaud=2\r\n"},
+        {"first of two", "[SetupOption]\nPort=1\nPort=2\n", "[SetupOption]\nPort= 3\nPort=2\n"},
+        {"not in another section", "[x]\nPort=1\n[setupoption]\n\n[y]\n",
+         "[x]\nPort=1\n[setupoption]\nPort= 3\n\n[y]\n"},
+        {"behind the last key", "[SetupOption]\n\na=1\n\n\n[y]\nb=1\n",
+         "[SetupOption]\n\na=1\nPort= 3\n\n\n[y]\nb=1\n"},
+        {"a comment is no key", "[SetupOption]\r\n;Port=1\r\n", "[SetupOption]\r\n;Port=1\r\nPort= 3\r\n"},
+        {"open last line", "[SetupOption]\nPort=1", "[SetupOption]\nPort= 3"},
+        {"open last line, appended", "[SetupOption]\na=1", "[SetupOption]\na=1\nPort= 3\n"},
+        {"new section", "[x]\na=1\n", "[x]\na=1\n[SetupOption]\nPort= 3\n"},
+        {"foreign bytes", "[SetupOption]\n\x81\xFF=\xE4\nnonsense\n",
+         "[SetupOption]\n\x81\xFF=\xE4\nnonsense\nPort= 3\n"},
+        {"marked UTF-8", "\xEF\xBB\xBF[SetupOption]\nn=\xC3\xA4\n",
+         "\xEF\xBB\xBF[SetupOption]\nn=\xC3\xA4\nPort= 3\n"},
+        {"empty file", "", "[SetupOption]\r\nPort= 3\r\n"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(afterWriting(row.before, "Port", " 3"), row.after) << row.what;
+    }
+    EXPECT_EQ(afterWriting("", "Telephone", "Ä€"), "[SetupOption]\r\nTelephone=\xC4\x80\r\n");
+}
+
+TEST(ProfileFile, MakesAMissingFileAndFindsOneOfOtherCase)
+{
+    const TestFolder folder;
+    EXPECT_TRUE(ProfileFile::write(folder.path("setup.ini"), section, QStringLiteral("a"), section));
+    EXPECT_TRUE(ProfileFile::write(folder.path("SETUP.INI"), section, QStringLiteral("b"), section));
+    EXPECT_EQ(folder.names(), QStringList{QStringLiteral("setup.ini")});
+    EXPECT_EQ(folder.read("setup.ini"), "[SetupOption]\r\na=SetupOption\r\nb=SetupOption\r\n");
+    EXPECT_FALSE(ProfileFile::write(folder.path("none/setup.ini"), section, section, section));
+    EXPECT_FALSE(ProfileFile::write(folder.path(), section, section, section));
+}
+
+#ifdef Q_OS_UNIX
+TEST(ProfileFile, AFailedWriteLeavesTheFormerFileWhole)
+{
+    const QByteArray former = "[SetupOption]\r\n" + QByteArray(5000, ';') + "\r\n";
+    const TestFolder folder;
+    folder.write("setup.ini", former);
+    bool written = true;
+    {
+        const test::FullDisk full(100);
+        written = ProfileFile::write(folder.path("setup.ini"), section, QStringLiteral("Port"), section);
+    }
+    EXPECT_FALSE(written);
+    EXPECT_EQ(folder.read("setup.ini"), former);
+}
+#endif
+
+} // namespace
+} // namespace norvane

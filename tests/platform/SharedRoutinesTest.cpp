@@ -1,0 +1,182 @@
+#include "shell/SharedRoutines.h"
+
+#include "tests/platform/TestFolder.h"
+#include "tests/support/RecordingBoxes.h"
+
+namespace norvane
+{
+namespace
+{
+
+using test::failureOf;
+using test::TestFolder;
+using test::WorkingDirectory;
+
+class SharedRoutinesTest : public testing::Test
+{
+protected:
+    SharedRoutinesTest()
+    {
+        m_values.appPath = m_app.path();
+        m_values.customerPath = m_app.path("Cafe");
+    }
+
+    TestFolder m_app;
+    WorkingDirectory m_here{m_app.path()};
+    ApplicationValues m_values;
+    test::RecordingBoxes m_boxes;
+};
+
+TEST_F(SharedRoutinesTest, ModelIndexesGiveTheConvertersWords)
+{
+    EXPECT_EQ(GetModelCode(m_values), u"Velmaro") << "without a settings file";
+    const struct {
+        const char* model;
+        const char16_t* code;
+    } rows[] = {{" 0", u"Velmaro"}, {"1", u"Velmaro"}, {"2", u"Velmarn"},
+                {"3", u"Dorvik"},   {"-1", u"Dorvik"}, {"17", u"Dorvik"}};
+    for (const auto& row : rows) {
+        m_app.write("Cafe/setup.ini", QByteArray("[SetupOption]\r\nECRModel=") + row.model);
+        EXPECT_EQ(GetModelCode(m_values), row.code) << row.model;
+    }
+    m_app.write("Cafe/setup.ini", "[SetupOption]\r\nECRModel=\r\n");
+    EXPECT_EQ(failureOf([this] { (void)GetModelCode(m_values); }), 13);
+}
+
+TEST_F(SharedRoutinesTest, TheMemoryFilesLengthTellsTheGeneration)
+{
+    EXPECT_EQ(failureOf([this] { (void)GetFirmwareGeneration(m_values, m_boxes); }), 53);
+    for (const auto& [length, generation] : {std::pair{1, 2}, {77, 2}, {78, 3}, {32'767, 3}}) {
+        m_app.write("MEM.dat", QByteArray(length, 'm'));
+        EXPECT_EQ(GetFirmwareGeneration(m_values, m_boxes), generation) << length;
+    }
+    m_app.write("MEM.dat", QByteArray(32'768, 'm'));
+    EXPECT_EQ(failureOf([this] { (void)GetFirmwareGeneration(m_values, m_boxes); }), 6);
+    EXPECT_TRUE(m_boxes.shown.empty());
+
+    m_app.write("MEM.dat", "");
+    EXPECT_EQ(GetFirmwareGeneration(m_values, m_boxes), -1);
+    const test::ShownBox box{QStringLiteral("You must upload the data from the Velmar"), applicationTitle(),
+                             BoxIcon::None};
+    EXPECT_EQ(m_boxes.shown, std::vector{box});
+}
+
+TEST_F(SharedRoutinesTest, OptionDigitsFollowTheRegistersTable)
+{
+    const struct {
+        int position;
+        const char* flags; ///< for the digits 0 to 9
+    } rows[] = {{1, "0101010100"}, {2, "0011001100"}, {3, "0001010100"}, {4, "0000111100"},
+                {0, "0000000000"}, {5, "0000000000"}, {6, "0000000000"}};
+    for (const auto& row : rows) {
+        for (int digit = 0; digit < 10; ++digit) {
+            EXPECT_EQ(DigitFlagSet(digit, row.position), row.flags[digit] == '1')
+                << digit << " at position " << row.position;
+        }
+    }
+    EXPECT_FALSE(DigitFlagSet(-1, 1));
+}
+
+TEST_F(SharedRoutinesTest, FieldsAreBroughtToTheirWidth)
+{
+    const struct {
+        const char* value;
+        int width;
+        int mode;
+        const char* field;
+    } rows[] = {
+        {"", 3, 0, "000"},
+        {" 12 ", 4, 0, "0012"},
+        {"123456", 4, 0, "3456"},
+        {"-5", 4, 0, "00-5"},
+        {"", 3, 1, "   "},
+        {"  ab ", 4, 1, "ab  "},
+        {"123456", 4, 1, "1234"},
+        {"Größe", 5, 1, "Größe"},          // characters, not bytes
+        {"\ta\u00A0", 4, 1, "\ta\u00A0 "}, // only spaces are blanks
+        {"ab", 5, 2, "  ab "},
+        {"ab", 7, 2, "  ab   "}, // a pad of 2.5 goes to the even neighbour
+        {"abcd", 4, 2, "abcd"},
+        {"ab", 5, 99, "  ab "},
+    };
+    for (const auto& row : rows) {
+        std::optional<QString> value = QString::fromUtf8(row.value);
+        const QString field = QString::fromUtf8(row.field);
+        EXPECT_EQ(JustifyField(value, row.width, row.mode), field) << row.value << ", mode " << row.mode;
+        EXPECT_EQ(value, field) << "the caller's own value";
+    }
+    std::optional<QString> nothing;
+    EXPECT_EQ(JustifyField(nothing, 3, 0), u"000");
+    std::optional<QString> longer = QStringLiteral("abcdef");
+    EXPECT_EQ(failureOf([&longer] { JustifyField(longer, 4, 2); }), 5);
+}
+
+TEST_F(SharedRoutinesTest, TheRegistersMarkIsShownAsACircumflex)
+{
+    QString text = QStringLiteral("ýCola ý0.5ý");
+    EXPECT_EQ(EscapeDelimiter(text), u"^Cola ^0.5^");
+    EXPECT_EQ(text, u"^Cola ^0.5^");
+    EXPECT_EQ(UnescapeDelimiter(text), QStringLiteral("ýCola ý0.5ý"));
+    EXPECT_EQ(text, QStringLiteral("ýCola ý0.5ý"));
+}
+
+TEST_F(SharedRoutinesTest, AllLeadingZerosGo)
+{
+    const struct {
+        const char16_t* text;
+        const char16_t* stripped;
+    } rows[] = {{u" 0120 ", u"120"}, {u"0000", u""}, {u"", u""}, {u" 12 ", u"12"}, {u"0 5", u" 5"}};
+    for (const auto& row : rows) {
+        QString text = QString::fromUtf16(row.text);
+        EXPECT_EQ(StripLeadingZero(text), row.stripped);
+        EXPECT_EQ(text, row.stripped);
+    }
+}
+
+TEST_F(SharedRoutinesTest, TheLastValueOfTheStatusFileCounts)
+{
+    EXPECT_EQ(failureOf([] { (void)ReadStatusOut(); }), 53);
+    const struct {
+        const char* content;
+        const char16_t* status;
+    } rows[] = {
+        {"", u""},
+        {"0", u"0"},
+        {"0\r\n8\r\n", u"8"},
+        {"8,0", u"0"},
+        {" 0 , -13 \r\n", u"-13"},
+        {"\"0\",\"8\"\r\n", u"8"},
+        {"\"a,b\"\r\n", u"a,b"},
+        {"8\r\n\r\n\x1A", u"8"}, // neither the empty line nor the end mark hides the error
+        {"8,\r\n", u"8"},
+        {"\r\n , \r\n", u""},
+    };
+    for (const auto& row : rows) {
+        m_app.write("STATUS.OUT", row.content);
+        EXPECT_EQ(ReadStatusOut(), row.status) << row.content;
+    }
+}
+
+TEST_F(SharedRoutinesTest, TheStampIsTheFifthByteOfThePollFile)
+{
+    EXPECT_EQ(ReadPoll194Stamp(m_values), u"20");
+    EXPECT_EQ(m_app.names(), QStringList{QStringLiteral("poll194.dll")}) << "made by the query, and empty";
+    EXPECT_EQ(m_app.read("poll194.dll"), "");
+    m_app.write("poll194.dll", "1234");
+    EXPECT_EQ(ReadPoll194Stamp(m_values), u"20");
+    m_app.write("poll194.dll", "1234\x1Fz");
+    EXPECT_EQ(ReadPoll194Stamp(m_values), u"115");
+    EXPECT_EQ(m_app.read("poll194.dll"), "1234\x1Fz");
+    EXPECT_EQ(NibbleDigits("\x23\xFF"), u"231515");
+}
+
+TEST_F(SharedRoutinesTest, ToolsRunFromTheProgramsFolder)
+{
+    ASSERT_TRUE(QFile::copy(QStringLiteral(CHILD_PROBE), m_app.path("VELMARCOMM")));
+    EXPECT_TRUE(RunAndWait(m_values, QStringLiteral("VELMARCOMM log status.out  0,8")));
+    EXPECT_TRUE(ReadStatusOut().contains(QStringLiteral("/"))) << "the probe's last line is its folder";
+    EXPECT_FALSE(RunAndWait(m_values, QStringLiteral("CONVERTER wVelmaro")));
+}
+
+} // namespace
+} // namespace norvane
