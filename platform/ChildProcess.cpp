@@ -46,11 +46,13 @@ QString findProgram(const QString& name, const QString& programFolder)
 {
     const bool hasFolder = name.contains(u'/') || name.contains(u'\\');
     const auto folders = hasFolder ? QStringList{QString()} : searchFolders(programFolder);
-    for (const auto& folder : folders)
-        for (const auto& spelling : spellings(name))
-            if (const auto program = programAt(hasFolder ? spelling : joinPath(folder, spelling));
-                !program.isEmpty())
+    for (const auto& folder : folders) {
+        for (const auto& spelling : spellings(name)) {
+            auto program = programAt(hasFolder ? spelling : joinPath(folder, spelling));
+            if (!program.isEmpty())
                 return program;
+        }
+    }
     return {};
 }
 

@@ -27,9 +27,10 @@ QString entryOf(const QString& folder, const QString& name)
     // Sorted by name, so that of two such files it is always the same one that counts.
     const auto entries = QDir(folder.isEmpty() ? QStringLiteral(".") : folder)
                              .entryList(QDir::AllEntries | QDir::Hidden | QDir::System, QDir::Name);
-    for (const auto& entry : entries)
+    for (const auto& entry : entries) {
         if (entry.compare(name, Qt::CaseInsensitive) == 0)
             return entry;
+    }
     return {};
 }
 
@@ -121,9 +122,10 @@ void writeWholeFile(const QString& path, const QByteArray& content)
     // A disk that fills up takes a part of the bytes without an error; only what was really written counts.
     if (file.write(content) != content.size() || !file.flush())
         file.cancelWriting();
-    if (!file.commit())
+    if (!file.commit()) {
         throw RuntimeFailure(Failure::DiskFull,
                              QStringLiteral("Disk full: %1 (%2)").arg(path, file.errorString()));
+    }
 }
 
 } // namespace norvane

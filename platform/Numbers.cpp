@@ -58,10 +58,11 @@ void addOneToLastDigit(std::string& digits)
     auto at = digits.rbegin();
     for (; at != digits.rend() && *at == '9'; ++at)
         *at = '0';
-    if (at == digits.rend())
+    if (at == digits.rend()) {
         digits.insert(digits.begin(), '1');
-    else
+    } else {
         ++*at;
+    }
 }
 
 PlainDigits roundedDigits(const ScannedNumber& number, std::size_t places)

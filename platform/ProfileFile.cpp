@@ -124,9 +124,10 @@ bool sameName(const QString& left, const QString& right)
 
 qsizetype lineOfSection(const ProfileLines& lines, const QString& section)
 {
-    for (qsizetype i = 0; i < lines.count(); ++i)
+    for (qsizetype i = 0; i < lines.count(); ++i) {
         if (const auto name = sectionName(lines.text(i)); name && sameName(*name, section))
             return i;
+    }
     return -1;
 }
 

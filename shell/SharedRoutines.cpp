@@ -31,10 +31,11 @@ constexpr char endOfTextFile = 0x1A;
 
 QString centred(const QString& text, int width)
 {
-    if (text.size() > width)
-        throw RuntimeFailure(
-            Failure::InvalidArgument,
-            QStringLiteral("Invalid argument: \"%1\" is longer than %2 characters").arg(text).arg(width));
+    if (text.size() > width) {
+        throw RuntimeFailure(Failure::InvalidArgument,
+                             QStringLiteral("Invalid argument: \"%1\" is longer than %2 characters")
+                                 .arg(text, QString::number(width)));
+    }
     const int pad = roundHalfEven(static_cast<double>(width - text.size()) / 2);
     return (QString(pad, u' ') + text).leftJustified(width, u' ', true);
 }
@@ -50,10 +51,11 @@ QByteArray takeValue(QByteArrayView& rest)
         const char c = rest[i];
         if (!quoted && (c == ',' || c == '\r' || c == '\n'))
             break;
-        if (c == '"')
+        if (c == '"') {
             quoted = !quoted;
-        else
+        } else {
             value.append(c);
+        }
     }
     rest = rest.sliced(qMin(i + 1, rest.size()));
     return value.trimmed();
@@ -75,9 +77,10 @@ int GetFirmwareGeneration(const ApplicationValues& values, Boxes& boxes)
     const QFileInfo file(existingPath(path));
     if (!file.isFile())
         throw RuntimeFailure(Failure::FileNotFound, QStringLiteral("File not found: %1").arg(path));
-    if (file.size() > std::numeric_limits<std::int16_t>::max())
+    if (file.size() > std::numeric_limits<std::int16_t>::max()) {
         throw RuntimeFailure(Failure::Overflow,
                              QStringLiteral("Overflow: %1 is no memory file of a register").arg(path));
+    }
     if (file.size() == 0) {
         boxes.message(QStringLiteral("You must upload the data from the Velmar"));
         return -1;
@@ -135,9 +138,10 @@ QString ReadStatusOut()
         content.truncate(end);
     // An empty place is no value: a line end too many must not turn an error into a success.
     QByteArray last;
-    for (QByteArrayView rest = content; !rest.isEmpty();)
+    for (QByteArrayView rest = content; !rest.isEmpty();) {
         if (const QByteArray value = takeValue(rest); !value.isEmpty())
             last = value;
+    }
     return QString::fromLatin1(last);
 }
 
@@ -145,9 +149,10 @@ QString ReadPoll194Stamp(const ApplicationValues& values)
 {
     const QString path = joinPath(values.appPath, QStringLiteral("poll194.dll"));
     QFile file(existingPath(path));
-    if (!file.open(QIODevice::ReadWrite) && !file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadWrite) && !file.open(QIODevice::ReadOnly)) {
         throw RuntimeFailure(Failure::PathOrFileAccess,
                              QStringLiteral("Path/File access error: %1").arg(path));
+    }
     const QByteArray stamp = file.seek(stampPosition) ? file.read(1) : QByteArray();
     return NibbleDigits(stamp.isEmpty() ? QByteArray(" ") : stamp);
 }

@@ -21,9 +21,9 @@ int main(int argc, char** argv)
         std::this_thread::sleep_for(std::chrono::milliseconds(300));
     }
     std::ofstream log(argv[2]);
+    log << std::filesystem::current_path().string() << '\n';
     for (int i = 3; i < argc; ++i) {
         log << argv[i] << '\n';
     }
-    log << std::filesystem::current_path().string() << '\n';
     return 0;
 }

