@@ -1,0 +1,50 @@
+// The one place that says how the program looks: style, font, colours, spacing, icon. Forms take their
+// margins and colours from here and set none of their own.
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+
+class QApplication;
+class QWidget;
+
+namespace norvane::ui
+{
+
+/// Distances in device-independent pixels.
+namespace spacing
+{
+inline constexpr int formMargin = 14; ///< between a form's edge and its content
+inline constexpr int groupGap = 12;   ///< between groups of controls
+inline constexpr int controlGap = 8;  ///< between neighbouring controls
+} // namespace spacing
+
+/// Smallest width of a button in device-independent pixels, so that the buttons of a row are alike.
+inline constexpr int buttonWidth = 96;
+
+/// Height of the one font in device-independent pixels. Screen files place their controls in twips, 15 to
+/// the pixel, so that texts must be as wide on every platform, whatever its resolution.
+inline constexpr int fontPixels = 12;
+
+namespace colours
+{
+inline constexpr QColor accent{0x1f, 0x5f, 0x8b};     ///< selections, headings, the icon
+inline constexpr QColor accentDark{0x14, 0x3d, 0x5c}; ///< the darker end of the splash
+inline constexpr QColor window{0xf2, 0xf4, 0xf6};
+inline constexpr QColor desktop{0xc3, 0xcd, 0xd6}; ///< behind the screens in the main window
+inline constexpr QColor text{0x1c, 0x23, 0x2a};
+inline constexpr QColor greyedText{0x8b, 0x95, 0x9e};
+inline constexpr QColor linePale{0xd8, 0xde, 0xe4};
+} // namespace colours
+
+/// Gives @p application its style, font, palette and window icon. Once, before the first window.
+void applyAppearance(QApplication& application);
+
+/// The program's icon, drawn for every size that platforms ask for.
+[[nodiscard]] QIcon applicationIcon();
+
+/// Places @p form in the middle of @p frame, by the sizes of both; never beyond the frame's upper left
+/// corner.
+void centreOn(QWidget& form, const QWidget& frame);
+
+} // namespace norvane::ui

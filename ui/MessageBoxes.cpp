@@ -1,0 +1,94 @@
+// Boxes made of the toolkit's own; see MessageBoxes.h.
+#include "ui/MessageBoxes.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace norvane::ui
+{
+namespace
+{
+
+/// The arrow while a box waits for the user, even when the work behind it shows the wait pointer.
+class ArrowPointer
+{
+public:
+    ArrowPointer() { QApplication::setOverrideCursor(QCursor(Qt::ArrowCursor)); }
+    ~ArrowPointer() { QApplication::restoreOverrideCursor(); }
+    ArrowPointer(const ArrowPointer&) = delete;
+    ArrowPointer& operator=(const ArrowPointer&) = delete;
+};
+
+QMessageBox::Icon boxIcon(BoxIcon icon)
+{
+    switch (icon) {
+    case BoxIcon::Information:
+        return QMessageBox::Information;
+    case BoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case BoxIcon::Question:
+        return QMessageBox::Question;
+    case BoxIcon::Critical:
+        return QMessageBox::Critical;
+    case BoxIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// Texts end a line with a carriage return, with or without a line feed; the box knows line feeds only. A
+/// last line end would leave a gap above the button.
+QString shownText(QString text)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    while (text.endsWith(u'\n'))
+        text.chop(1);
+    return text;
+}
+
+QMessageBox::StandardButton show(const QString& text, const QString& title, BoxIcon icon,
+                                 QMessageBox::StandardButtons buttons)
+{
+    const ArrowPointer arrow;
+    QMessageBox box(boxIcon(icon), title.isEmpty() ? applicationTitle() : title, shownText(text), buttons,
+                    QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("MessageBox"));
+    box.setTextFormat(Qt::PlainText);
+    if (buttons.testFlag(QMessageBox::No)) {
+        box.setDefaultButton(QMessageBox::Yes);
+        box.setEscapeButton(QMessageBox::No);
+    }
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+} // namespace
+
+void MessageBoxes::message(const QString& text, const QString& title, BoxIcon icon)
+{
+    show(text, title, icon, QMessageBox::Ok);
+}
+
+bool MessageBoxes::ask(const QString& text, const QString& title, BoxIcon icon)
+{
+    return show(text, title, icon, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+QString MessageBoxes::input(const QString& prompt, const QString& title, const QString& initial)
+{
+    const ArrowPointer arrow;
+    QInputDialog box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("InputBox"));
+    box.setWindowTitle(title.isEmpty() ? applicationTitle() : title);
+    box.setLabelText(shownText(prompt));
+    box.setTextValue(initial);
+    return box.exec() == QDialog::Accepted ? box.textValue() : QString();
+}
+
+void MessageBoxes::beep()
+{
+    QApplication::beep();
+}
+
+} // namespace norvane::ui

@@ -1,0 +1,20 @@
+// Message, question and input boxes on the screen.
+#pragma once
+
+#include "platform/Boxes.h"
+
+namespace norvane::ui
+{
+
+/// Boxes over the window in use. Their objects are named "MessageBox" and "InputBox". Texts are shown as they
+/// stand, never as markup; a carriage return starts a new line.
+class MessageBoxes : public Boxes
+{
+public:
+    void message(const QString& text, const QString& title, BoxIcon icon) override;
+    bool ask(const QString& text, const QString& title, BoxIcon icon) override;
+    QString input(const QString& prompt, const QString& title, const QString& initial) override;
+    void beep() override;
+};
+
+} // namespace norvane::ui

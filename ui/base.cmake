@@ -1,0 +1,7 @@
+# The part of ui/ that every form needs, whatever it shows: look, wait pointer, message boxes.
+norvane_library(norvane_ui_base
+  SOURCES
+    "${PROJECT_SOURCE_DIR}/ui/Appearance.cpp"
+    "${PROJECT_SOURCE_DIR}/ui/MessageBoxes.cpp"
+    "${PROJECT_SOURCE_DIR}/ui/RegisterPicture.cpp"
+  LINKS Qt6::Widgets norvane_platform)
