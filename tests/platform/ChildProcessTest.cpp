@@ -1,3 +1,4 @@
+// Tools found and run as real child processes, in folders of the test's own.
 #include "platform/ChildProcess.h"
 
 #include "tests/platform/TestFolder.h"

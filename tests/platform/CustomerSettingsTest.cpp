@@ -1,3 +1,4 @@
+// What readers of setup.ini get, from files as dealers edit them by hand.
 #include "shell/CustomerSettings.h"
 
 #include "tests/platform/TestFolder.h"

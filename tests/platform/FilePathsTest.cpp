@@ -1,3 +1,4 @@
+// Case-blind file names, whole files read and replaced, and what a full disk leaves behind.
 #include "platform/FilePaths.h"
 
 #include "tests/platform/TestFolder.h"

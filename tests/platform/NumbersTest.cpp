@@ -1,3 +1,4 @@
+// Conversions between texts and numbers as settings, screens and text records rely on them.
 #include "platform/Numbers.h"
 
 #include "platform/RuntimeFailure.h"

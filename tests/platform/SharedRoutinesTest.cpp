@@ -1,3 +1,4 @@
+// The shared routines to the character, with the files that registers and tools leave behind.
 #include "shell/SharedRoutines.h"
 
 #include "tests/platform/TestFolder.h"
@@ -124,7 +125,7 @@ TEST_F(SharedRoutinesTest, TheLastValueOfTheStatusFileCounts)
                 {"\"0\",\"a,b\"\r\n", u"a,b"},
                 // neither an empty place nor the end mark hides the error
                 {"8\r\n\r\n\x1A", u"8"},
-                {"8,\r\n", u"8"},
+                {"8,,\r\n", u"8"},
                 {"\r\n , \r\n", u""}};
     for (const auto& row : rows) {
         m_app.write("STATUS.OUT", row.content);

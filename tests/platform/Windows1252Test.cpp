@@ -1,3 +1,4 @@
+// The registers' character set, both ways and by both roads.
 #include "platform/Windows1252.h"
 
 #include <gtest/gtest.h>
