@@ -1,0 +1,54 @@
+// The bank of registers behind the tools: a folder with one sub-folder for each register.
+//
+// registers.ini, in the working directory or beside the tool, says in [Bank] Folder= where the bank is, relative to
+// itself. Each register's folder is its number from 1 and holds register.ini, the binary files NN.dat, the open
+// totals (totals/NNN.txt) and those consolidated for collection (consolidated/NNN.txt).
+#pragma once
+
+#include "tools/bank/Model.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <optional>
+
+namespace bank
+{
+
+struct Register {
+    int number = 0;
+    QString folder;
+    Model model = Model::Velmarn;
+    int generation = 3; ///< of the firmware, 2 or 3: decides the length of the memory file
+    bool cards = true;  ///< has the files of the card functions (71, 85, 86)
+    int port = 1;       ///< the serial port that it hangs on
+    bool on = true;
+    bool busy = false;
+
+    [[nodiscard]] bool knowsFile(int file) const;
+    [[nodiscard]] QString filePath(int file) const;
+    /// The columns of its memory file, of as many as its generation has. @throws ToolFailure
+    [[nodiscard]] QList<QByteArray> memory() const;
+
+    void save() const; ///< writes register.ini
+};
+
+class Bank
+{
+public:
+    explicit Bank(QString folder) : m_folder(std::move(folder)) {}
+
+    /// Looks for registers.ini in the working directory, then in @p toolFolder.
+    static std::optional<Bank> find(const QString& toolFolder);
+
+    [[nodiscard]] QString folder() const { return m_folder; }
+    /// All registers in the order of their numbers.
+    [[nodiscard]] QList<Register> registers() const;
+    /// Those on serial port @p port: the first is the one at the end of the line.
+    [[nodiscard]] QList<Register> registersOn(int port) const;
+
+private:
+    QString m_folder;
+};
+
+} // namespace bank

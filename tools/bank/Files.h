@@ -1,0 +1,20 @@
+// Files by names that meet without regard to letter case, as the registers' tools always found them.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace bank
+{
+
+/// @return the path of the file in @p folder whose name equals @p name but for letter case; the path with the
+/// name as given when there is none. An exact match goes before others.
+[[nodiscard]] QString pathOf(const QString& folder, const QString& name);
+
+/// Reads the whole file. @throws ToolFailure FileOpenError
+[[nodiscard]] QByteArray readFile(const QString& path);
+
+/// Replaces the file whole or not at all. @throws ToolFailure FileWriteError
+void writeFile(const QString& path, const QByteArray& bytes);
+
+} // namespace bank

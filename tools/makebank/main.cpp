@@ -1,0 +1,112 @@
+// makebank: makes a bank of registers with factory contents.
+//   makebank <folder> [--registers N] [--model 0|1|2|3] [--plus N] [--fresh]
+// A bank that is there is kept as it stands unless --fresh is given.
+#include "tools/bank/Bank.h"
+#include "tools/bank/ToolFailure.h"
+#include "tools/makebank/Factory.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+
+#include <cstdio>
+
+namespace
+{
+
+using namespace bank;
+
+constexpr int mostRegisters = 32;
+constexpr int mostPlus = 99999;
+
+struct Wish {
+    QString folder;
+    int registers = 1;
+    int kind = 2;
+    int plus = 0;
+    bool fresh = false;
+};
+
+int numberOf(const QCommandLineParser& parser, const QString& name, int least, int most)
+{
+    bool isNumber = false;
+    const int number = parser.value(name).toInt(&isNumber);
+    if (!isNumber || number < least || number > most)
+        throw std::runtime_error(QStringLiteral("--%1 takes %2 to %3").arg(name).arg(least).arg(most).toStdString());
+    return number;
+}
+
+Wish readWish(const QCoreApplication& application)
+{
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("Folder of the bank."));
+    parser.addOptions({
+        {QStringLiteral("registers"), QStringLiteral("Number of registers."), QStringLiteral("N"), QStringLiteral("1")},
+        {QStringLiteral("model"), QStringLiteral("Kind of register, 0 to 3."), QStringLiteral("index"),
+         QStringLiteral("2")},
+        {QStringLiteral("plus"), QStringLiteral("Number of PLUs; 0: the shop's own range."), QStringLiteral("N"),
+         QStringLiteral("0")},
+        {QStringLiteral("fresh"), QStringLiteral("Make the bank anew.")},
+    });
+    parser.process(application);
+    if (parser.positionalArguments().size() != 1)
+        throw std::runtime_error("one folder is needed, see --help");
+    return {parser.positionalArguments().first(), numberOf(parser, QStringLiteral("registers"), 1, mostRegisters),
+            numberOf(parser, QStringLiteral("model"), 0, 3), numberOf(parser, QStringLiteral("plus"), 0, mostPlus),
+            parser.isSet(QStringLiteral("fresh"))};
+}
+
+void makeRegister(const Wish& wish, int number)
+{
+    const auto& kind = kindOf(wish.kind);
+    Register made;
+    made.number = number;
+    made.folder = QDir(wish.folder).filePath(QString::number(number));
+    made.model = kind.model;
+    made.generation = kind.generation;
+    made.cards = kind.cards;
+    if (!QDir().mkpath(made.folder))
+        throw std::runtime_error("cannot make folder " + made.folder.toStdString());
+    fillRegister(made, wish.kind, wish.plus);
+    made.save();
+}
+
+/// Takes away what makebank made, and nothing else that may lie in the folder.
+void removeBank(const Wish& wish)
+{
+    const QDir bank(wish.folder);
+    for (int number = 1; number <= mostRegisters; ++number) {
+        QDir folder(bank.filePath(QString::number(number)));
+        if (folder.exists(QStringLiteral("register.ini")))
+            folder.removeRecursively();
+    }
+    QFile::remove(bank.filePath(QStringLiteral("faults.log")));
+}
+
+void run(const Wish& wish)
+{
+    if (wish.fresh)
+        removeBank(wish);
+    if (!Bank(wish.folder).registers().isEmpty()) {
+        std::printf("The bank %s is kept as it stands.\n", qPrintable(wish.folder));
+        return;
+    }
+    for (int number = 1; number <= wish.registers; ++number)
+        makeRegister(wish, number);
+    std::printf("Made %d registers in %s.\n", wish.registers, qPrintable(wish.folder));
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    try {
+        run(readWish(application));
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "makebank: %s\n", failure.what());
+        return 1;
+    }
+    return 0;
+}

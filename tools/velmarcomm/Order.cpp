@@ -1,0 +1,218 @@
+// The grammar of VELMARCOMM's command line; see Order.h.
+//   speed port [N<name>] -U|-u <file>              program exchange, fetch or opening
+//   speed F1 <n>T port N<name> -D|-d <file> | -a   program exchange, send
+//   rate [F1 <n>T] ...                             sales lines, without a port word
+#include "tools/velmarcomm/Order.h"
+
+#include "tools/bank/ToolFailure.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace bank
+{
+namespace
+{
+
+/// Each file answers to one letter only on the way up and to one on the way down.
+struct FileLetters {
+    int file;
+    char fetch;
+    char send; ///< 'a' stands without a number; blank: the file is never sent
+};
+
+constexpr std::array fileLetters{
+    FileLetters{1, 'U', 'D'},  FileLetters{2, 'U', 'D'},  FileLetters{3, 'U', 'D'},
+    FileLetters{4, 'U', 'd'},  FileLetters{5, 'U', 'd'},  FileLetters{6, 'U', 'd'},
+    FileLetters{7, 'U', 'd'},  FileLetters{8, 'U', 'd'},  FileLetters{9, 'U', 'd'},
+    FileLetters{10, 'U', 'd'}, FileLetters{11, 'U', 'd'}, FileLetters{12, 'U', 'd'},
+    FileLetters{13, 'U', 'd'}, FileLetters{14, 'U', 'd'}, FileLetters{15, 'U', 'd'},
+    FileLetters{16, 'u', 'D'}, FileLetters{17, 'u', 'D'}, FileLetters{18, 'u', 'D'},
+    FileLetters{20, 'U', 'D'}, FileLetters{21, 'U', 'D'}, FileLetters{22, 'U', 'D'},
+    FileLetters{23, 'U', 'd'}, FileLetters{24, 'U', 'D'}, FileLetters{25, 'U', 'D'},
+    FileLetters{26, 'U', 'D'}, FileLetters{27, 'u', 'D'}, FileLetters{28, 'u', 'D'},
+    FileLetters{29, 'U', 'd'}, FileLetters{30, 'u', 'D'}, FileLetters{32, 'u', 'D'},
+    FileLetters{33, 'u', 'D'}, FileLetters{34, 'u', 'D'}, FileLetters{35, 'u', 'D'},
+    FileLetters{36, 'U', 'd'}, FileLetters{37, 'u', 'D'}, FileLetters{38, 'u', 'D'},
+    FileLetters{39, 'u', 'D'}, FileLetters{40, 'u', 'D'}, FileLetters{41, 'u', 'D'},
+    FileLetters{42, 'u', 'D'}, FileLetters{43, 'u', 'D'}, FileLetters{44, 'u', 'D'},
+    FileLetters{45, 'u', 'D'}, FileLetters{46, 'u', 'D'}, FileLetters{47, 'u', 'D'},
+    FileLetters{48, 'u', 'D'}, FileLetters{49, 'u', 'D'}, FileLetters{50, 'u', 'D'},
+    FileLetters{51, 'u', 'D'}, FileLetters{52, 'U', ' '}, FileLetters{57, 'u', 'D'},
+    FileLetters{58, 'u', 'D'}, FileLetters{59, 'u', 'D'}, FileLetters{60, 'u', 'D'},
+    FileLetters{61, 'u', 'D'}, FileLetters{62, 'u', 'D'}, FileLetters{63, 'u', 'D'},
+    FileLetters{64, 'u', 'D'}, FileLetters{65, 'U', 'd'}, FileLetters{67, 'U', 'a'},
+    FileLetters{68, 'u', 'D'}, FileLetters{69, 'u', 'D'}, FileLetters{70, 'u', 'D'},
+    FileLetters{71, 'u', 'D'}, FileLetters{81, 'u', 'D'}, FileLetters{83, 'u', 'D'},
+    FileLetters{85, 'u', 'D'}, FileLetters{86, 'u', 'D'},
+};
+
+constexpr int memoryFileNumber = 52;
+
+enum Use : unsigned { Program = 1, Sales = 2, OneRegister = 4, AllRegisters = 8 };
+
+/// The words behind speed, range and port, and on which lines they may stand.
+struct Suffix {
+    QString words;
+    Order::Kind kind;
+    int file;
+    QString name;
+    unsigned uses;
+};
+
+QString fileName(int file)
+{
+    return file == memoryFileNumber ? QStringLiteral("mem.DAT") : QStringLiteral("%1.DAT").arg(file);
+}
+
+void addFile(std::vector<Suffix>& table, const FileLetters& row)
+{
+    const QString name = fileName(row.file);
+    const auto number = QString::number(row.file);
+    const auto words = [&name](char letter, const QString& last) {
+        return QStringLiteral("N%1 -%2%3").arg(name, QString(QLatin1Char(letter)), last);
+    };
+    const unsigned fetchUses = OneRegister | Program | (row.file == memoryFileNumber ? Sales : 0U);
+    table.push_back({words(row.fetch, u' ' + number), Order::Kind::Fetch, row.file, name, fetchUses});
+    if (row.send != ' ') {
+        table.push_back({words(row.send, row.send == 'a' ? QString() : u' ' + number), Order::Kind::Send,
+                         row.file, name, AllRegisters | Program});
+    }
+}
+
+std::vector<Suffix> makeSuffixes()
+{
+    std::vector<Suffix> table{
+        {QStringLiteral("-U 250"), Order::Kind::Open, 250, {}, OneRegister | Program | Sales},
+        {QStringLiteral("P0001010100010000000000000000000000000000000000000000000100 -Z"),
+         Order::Kind::Consolidate, 0, {}, AllRegisters | Sales},
+        {QStringLiteral("-P 190 191 192 194 218"), Order::Kind::Collect, 0, {}, AllRegisters | Sales},
+        {QStringLiteral("-C"), Order::Kind::Clear, 0, {}, AllRegisters | Sales},
+    };
+    for (const auto& row : fileLetters)
+        addFile(table, row);
+    return table;
+}
+
+ToolFailure badArgument(const QString& text)
+{
+    return {BadArgument, text};
+}
+
+/// Why @p words are no known suffix: a command that does not exist differs from a mistyped argument.
+ToolFailure refusal(const QStringList& words)
+{
+    const QString all = words.join(u' ');
+    const auto command = std::find_if(words.begin(), words.end(),
+                                      [](const QString& word) { return word.startsWith(u'-'); });
+    if (command == words.end())
+        return badArgument(QStringLiteral("no command in \"%1\"").arg(all));
+    bool isNumber = true;
+    if (command + 1 != words.end())
+        (command + 1)->toInt(&isNumber);
+    if (!isNumber)
+        return {ArgumentConversionError, QStringLiteral("no number in \"%1\"").arg(all)};
+    return {UnknownCommand, QStringLiteral("unknown command \"%1\"").arg(all)};
+}
+
+const Suffix& suffixOf(const QStringList& words)
+{
+    static const auto table = makeSuffixes();
+    const QString joined = words.join(u' ');
+    const auto found = std::find_if(table.begin(), table.end(),
+                                    [&joined](const Suffix& each) { return each.words == joined; });
+    if (found == table.end())
+        throw refusal(words);
+    return *found;
+}
+
+/// The words in front, taken one by one.
+class Front
+{
+public:
+    explicit Front(QStringList words) : m_words(std::move(words)) {}
+
+    [[nodiscard]] const QStringList& rest() const { return m_words; }
+
+    bool take(const QString& word)
+    {
+        const bool there = !m_words.isEmpty() && m_words.first() == word;
+        if (there)
+            m_words.removeFirst();
+        return there;
+    }
+    bool takeOneOf(const QStringList& words)
+    {
+        return std::any_of(words.begin(), words.end(), [this](const QString& word) { return take(word); });
+    }
+    int takePort()
+    {
+        for (int port = 1; port <= 4; ++port) {
+            if (take(QStringLiteral("c%1").arg(port)))
+                return port;
+        }
+        throw badArgument(QStringLiteral("no port word c1 to c4"));
+    }
+    int takeLastRegister()
+    {
+        for (int last = 1; last <= 32; ++last) {
+            if (take(QStringLiteral("%1T").arg(last)))
+                return last;
+        }
+        throw badArgument(QStringLiteral("no last register 1T to 32T behind F1"));
+    }
+
+private:
+    QStringList m_words;
+};
+
+} // namespace
+
+QString Order::kindWord() const
+{
+    switch (kind) {
+    case Kind::Open:
+        return QStringLiteral("open");
+    case Kind::Fetch:
+        return QStringLiteral("fetch");
+    case Kind::Send:
+        return QStringLiteral("send");
+    case Kind::Consolidate:
+        return QStringLiteral("consolidate");
+    case Kind::Collect:
+        return QStringLiteral("collect");
+    case Kind::Clear:
+        break;
+    }
+    return QStringLiteral("clear");
+}
+
+Order parseOrder(const QStringList& words)
+{
+    static const QStringList speeds{QStringLiteral("s2"), QStringLiteral("s4"), QStringLiteral("s9"),
+                                    QStringLiteral("s1")};
+    static const QStringList rates{QStringLiteral("1200"), QStringLiteral("2400"), QStringLiteral("9600"),
+                                   QStringLiteral("19200")};
+    Front front(words);
+    Order order;
+    const bool program = front.takeOneOf(speeds);
+    if (!program && !front.takeOneOf(rates))
+        throw badArgument(QStringLiteral("no speed word and no rate"));
+    const bool range = front.take(QStringLiteral("F1"));
+    if (range)
+        order.registers = front.takeLastRegister();
+    if (program)
+        order.port = front.takePort();
+
+    const auto& suffix = suffixOf(front.rest());
+    const unsigned use = (program ? Program : Sales) | (range ? AllRegisters : OneRegister);
+    if ((suffix.uses & use) != use)
+        throw badArgument(QStringLiteral("\"%1\" does not stand on such a line").arg(suffix.words));
+    order.kind = suffix.kind;
+    order.file = suffix.file;
+    order.name = suffix.name;
+    return order;
+}
+
+} // namespace bank
