@@ -1,0 +1,52 @@
+// The list of empty menu entries; see NotYetBuilt.h.
+#include "shell/NotYetBuilt.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::shell
+{
+namespace
+{
+
+// clang-format off
+constexpr auto entries = std::to_array<QLatin1StringView>({
+    // Screens without a screen file.
+    "ServiceMode"_L1, "GeneralOptions"_L1, "TaxOptions"_L1, "CashDrawer"_L1, "TrainingMode"_L1,
+    "LevelModOptions"_L1, "TrackOptions"_L1, "KPOptions"_L1, "ValidOptins"_L1, "GeneralPrintOption"_L1,
+    "ReportPrintOption"_L1, "ReportOption"_L1, "TimeKeeping"_L1, "EJPrint"_L1, "VatMenu"_L1,
+    "LogoMessage"_L1, "ErrorMessage"_L1, "FinancialRpt"_L1, "EmpReport"_L1, "ChequeEndorse"_L1,
+    "GuestMessage"_L1, "ValidMessage"_L1, "TimePeriodMenu"_L1, "EmployeeMenu"_L1, "Payrate"_L1,
+    "JobCode"_L1, "AuthorityMenu"_L1, "CardCat"_L1, "Hotlist"_L1,
+    // Key editors.
+    "KeyboardLocation"_L1, "FunctionMenu"_L1, "WLUMenu"_L1,
+    // Sales: the collection run and the reports.
+    "CollectSales"_L1,
+    "PLUSalesByDate"_L1, "PLUSalesWeekTodate"_L1, "PLUSalesMonthTodate"_L1, "PLUSalesYearToDate"_L1,
+    "FinDate"_L1, "Finweek"_L1, "FinMonth"_L1, "FinYear"_L1,
+    "ClerkDate"_L1, "clerkweek"_L1, "Clerkmonth"_L1, "Clerkyear"_L1,
+    "TimeByDate"_L1, "TimeWeek"_L1, "TimeMonth"_L1, "TimeYear"_L1,
+    "MixDate"_L1, "MixWeek"_L1, "MixMonth"_L1, "Mixyear"_L1,
+    // Price utilities and resets.
+    "TransferEuro"_L1, "TransferCurrent"_L1, "Transfer1to2"_L1, "Transfer2to1"_L1, "SalesReset"_L1,
+    "ResetPrice"_L1,
+    // Keyboard overlays.
+    "Velmarkeyboard"_L1, "DorvikKeyboard"_L1, "Quelmontkeyboard"_L1,
+});
+// clang-format on
+
+} // namespace
+
+std::span<const QLatin1StringView> notYetBuilt()
+{
+    return entries;
+}
+
+bool isNotYetBuilt(QLatin1StringView entry)
+{
+    return std::ranges::find(entries, entry) != entries.end();
+}
+
+} // namespace norvane::shell

@@ -1,0 +1,95 @@
+// Tables of the entries that depend on model or firmware; see ScreenChoice.h.
+#include "shell/ScreenChoice.h"
+
+#include "platform/RuntimeFailure.h"
+#include "shell/CustomerSettings.h"
+#include "shell/SharedRoutines.h"
+#include "store/Database.h"
+#include "store/Recordset.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::shell
+{
+namespace
+{
+
+/// Targets for ECRModel 0, 1, 2 and any other.
+struct ByModel {
+    QLatin1StringView entry;
+    std::array<QLatin1StringView, 4> targets;
+};
+
+// clang-format off
+constexpr auto byModel = std::to_array<ByModel>({
+    {"PLUMENU"_L1, {"\\PLUVelmarv2.scn"_L1, "\\PLUVelmarv2card.scn"_L1, "\\PLUVelmarv3.scn"_L1, "\\PLU.scn"_L1}},
+    // The card variant's file is spelled without the digit.
+    {"PLUStatusMenu"_L1, {"\\PLUstatVelmarv2.scn"_L1, "\\PLUstatVelmarvcard.scn"_L1, "\\PLUstatVelmarv3.scn"_L1, "\\PLUstat.scn"_L1}},
+    {"GeneralOptions"_L1, {"\\GenFuncVelmarv2.scn"_L1, "\\GenFuncVelmarv2card.scn"_L1, "\\GenFuncVelmarv3.scn"_L1, "\\GenFunc.scn"_L1}},
+    {"GeneralPrintOption"_L1, {"\\GenPrtOpVelmarv2.scn"_L1, "\\GenPrtOpVelmarv2card.scn"_L1, "\\GenPrtOpVelmarv3.scn"_L1, "\\GenPrtOp.scn"_L1}},
+    {"AuthorityMenu"_L1, {"\\AuthLVLVelmarv2.scn"_L1, "\\AuthLVLVelmarv2card.scn"_L1, "\\AuthLVLVelmarv3.scn"_L1, "\\AuthLVL.scn"_L1}},
+    {"EmployeeMenu"_L1, {"\\employeeVelmarv2.scn"_L1, "\\employeeVelmarv2.scn"_L1, "\\employeeVelmarv3.scn"_L1, "\\employee.scn"_L1}},
+    {"EJPrint"_L1, {"\\EJPRTv2.scn"_L1, "\\EJPRTv2.scn"_L1, "\\EJPRTv3.scn"_L1, "\\EJPRT.scn"_L1}},
+    {"KeyboardLocation"_L1, {"KeyLayoutVelmar"_L1, "KeyLayoutVelmar"_L1, "KeyLayoutVelmar"_L1, "KeyLayoutDorvik"_L1}},
+});
+// clang-format on
+
+struct Gate {
+    QLatin1StringView entry;
+    QLatin1StringView table;
+    QLatin1StringView emptyText;
+};
+
+constexpr auto gates = std::to_array<Gate>({
+    {"CardCat"_L1, "cardcategory"_L1, "You must upload the Card Catergory file from the ECR"_L1},
+    {"Hotlist"_L1, "hotlist"_L1, "You must upload the Hot List file from the ECR"_L1},
+});
+
+std::size_t columnOf(double model)
+{
+    return model == 0 ? 0 : model == 1 ? 1 : model == 2 ? 2 : 3;
+}
+
+template <typename Table>
+const auto& rowOf(const Table& table, const MenuEntry& entry)
+{
+    const auto* const row = std::ranges::find(table, entry.name, &Table::value_type::entry);
+    Q_ASSERT(row != table.end());
+    return *row;
+}
+
+bool hasRecords(const ApplicationValues& values, const QString& table)
+{
+    store::Database database(values.databasePath);
+    return database.openTable(table).recordCount() > 0;
+}
+
+} // namespace
+
+QString targetOf(const MenuEntry& entry, const ApplicationValues& values)
+{
+    if (entry.opens != Opens::ModelScreen && entry.opens != Opens::ModelForm)
+        return entry.target;
+    return rowOf(byModel, entry).targets[columnOf(ecrModel(values))];
+}
+
+bool mayOpen(const MenuEntry& entry, const ApplicationValues& values, Boxes& boxes)
+{
+    if (entry.opens != Opens::GatedScreen)
+        return true;
+    const Gate& gate = rowOf(gates, entry);
+    if (GetFirmwareGeneration(values, boxes) == 2) {
+        boxes.message(u"Option not available on this firmware"_s);
+        return false;
+    }
+    if (!hasRecords(values, gate.table)) {
+        boxes.message(gate.emptyText, u"Data Error"_s, BoxIcon::Critical);
+        return false;
+    }
+    return true;
+}
+
+} // namespace norvane::shell
