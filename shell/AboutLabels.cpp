@@ -1,0 +1,34 @@
+// Texts of splash and about window; see AboutLabels.h.
+#include "shell/AboutLabels.h"
+
+#include "platform/Boxes.h"
+
+#include <QLabel>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::shell
+{
+
+QString aboutCaption()
+{
+    return u"About "_s + applicationTitle();
+}
+
+AboutLabels makeAboutLabels()
+{
+    return {makeTextLabel(u"lblTitle"_s, applicationTitle()),
+            makeTextLabel(u"lblVersion"_s, u"Version "_s + QStringLiteral(NORVANE_VERSION)),
+            makeTextLabel(u"lblDescription"_s, u"Norvane Dorvik Programming Utility"_s)};
+}
+
+QLabel* makeTextLabel(const QString& name, const QString& text)
+{
+    auto* const label = new QLabel(text);
+    label->setObjectName(name);
+    label->setAccessibleName(name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace norvane::shell

@@ -1,0 +1,47 @@
+// Opening of setup, about and customer dialog; see FrameOpeners.h.
+#include "shell/FrameOpeners.h"
+
+#include "shell/frmAbout.h"
+#include "shell/FrmCustomer.h"
+#include "shell/FrmSetup.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::shell
+{
+namespace
+{
+
+/// The database stays the former customer's: screens and exchange go on with databasePath as it is until a
+/// key editor sets it anew.
+void changeCustomer(FrmMain& main, ApplicationValues& values, Boxes& boxes)
+{
+    main.setCursor(Qt::WaitCursor);
+    FrmCustomer dialog(values, boxes, &main);
+    const bool chosen = dialog.exec() == QDialog::Accepted;
+    if (chosen)
+        main.showCustomer();
+    main.unsetCursor();
+    if (!chosen)
+        main.unload();
+}
+
+} // namespace
+
+FrmMain::Openers makeFrameOpeners(ApplicationValues& values, Boxes& boxes)
+{
+    FrmMain::Openers openers;
+    openers.insert(u"Exit"_s, [](FrmMain& main, const MenuEntry&) { main.close(); });
+    openers.insert(u"FrmSetup"_s, [&values](FrmMain& main, const MenuEntry&) {
+        main.showShared(u"FrmSetup"_s, [&] { return new FrmSetup(values, main.statusBar1()); });
+    });
+    openers.insert(u"frmAbout"_s, [&boxes](FrmMain& main, const MenuEntry&) {
+        main.showShared(u"frmAbout"_s, [&] { return new frmAbout(boxes, main.statusBar1()); });
+    });
+    openers.insert(u"FrmCustomer"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
+        changeCustomer(main, values, boxes);
+    });
+    return openers;
+}
+
+} // namespace norvane::shell

@@ -1,0 +1,124 @@
+// Controls of the setup dialog, made from the table of settings; see FrmSetup.h.
+#include "shell/FrmSetup.h"
+
+#include "platform/ProfileFile.h"
+#include "ui/Appearance.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::shell
+{
+namespace
+{
+
+constexpr int controlWidth = 200;
+constexpr int labelWidth = 100;
+
+bool hasList(const Setting& setting)
+{
+    return setting.form != SettingForm::UpperText;
+}
+
+} // namespace
+
+FrmSetup::FrmSetup(const ApplicationValues& values, MainStatusBar& status, QWidget* parent)
+    : StatusForm(u"FrmSetup"_s, u"Setup"_s, u"Setup....."_s, status, parent), m_values(values),
+      m_controls(static_cast<qsizetype>(settings().size()))
+{
+    layOut();
+    load();
+}
+
+void FrmSetup::layOut()
+{
+    auto* const column = new QVBoxLayout(this);
+    constexpr int margin = ui::spacing::formMargin;
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(ui::spacing::groupGap);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    column->addWidget(makeFrame(u"PC Setup"_s, true));
+    column->addWidget(makeFrame(u"Modem Settings"_s, false));
+
+    QPushButton* const CmdSave = addButton(u"CmdSave"_s, u"&Save"_s);
+    QPushButton* const CmdExit = addButton(u"CmdExit"_s, u"E&xit"_s);
+    setKeys(CmdSave, CmdExit);
+    connect(CmdSave, &QPushButton::clicked, this, &FrmSetup::save);
+    connect(CmdExit, &QPushButton::clicked, this, &QWidget::close);
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(ui::spacing::controlGap);
+    buttons->addStretch();
+    buttons->addWidget(CmdSave);
+    buttons->addWidget(CmdExit);
+    column->addLayout(buttons);
+}
+
+QGroupBox* FrmSetup::makeFrame(const QString& caption, bool withLists)
+{
+    auto* const frame = new QGroupBox(caption, this);
+    auto* const rows = new QFormLayout(frame);
+    rows->setSpacing(ui::spacing::controlGap);
+    for (qsizetype row = 0; const Setting& setting : settings()) {
+        if (hasList(setting) == withLists) {
+            m_controls[row] = makeControl(setting);
+            // Labels of one width, so that the controls of both frames stand below each other.
+            auto* const label = new QLabel(setting.label);
+            label->setMinimumWidth(labelWidth);
+            rows->addRow(label, m_controls[row]);
+        }
+        ++row;
+    }
+    return frame;
+}
+
+QWidget* FrmSetup::makeControl(const Setting& setting)
+{
+    QWidget* control = nullptr;
+    if (hasList(setting)) {
+        auto* const combo = new QComboBox;
+        combo->addItems(setting.items);
+        control = combo;
+    } else {
+        auto* const text = new QLineEdit;
+        text->setMaxLength(profileValueLimit); // what lies beyond would be cut at the next reading
+        control = text;
+    }
+    control->setObjectName(setting.control);
+    control->setAccessibleName(setting.control);
+    control->setFixedWidth(controlWidth);
+    return control;
+}
+
+void FrmSetup::load()
+{
+    const QList<SettingValue> read = readSettings(m_values);
+    for (qsizetype row = 0; row < read.size(); ++row) {
+        if (auto* const combo = qobject_cast<QComboBox*>(m_controls[row]))
+            combo->setCurrentIndex(read[row].index);
+        else if (auto* const text = qobject_cast<QLineEdit*>(m_controls[row]))
+            text->setText(read[row].text);
+    }
+}
+
+void FrmSetup::save()
+{
+    QList<SettingValue> shown;
+    for (const QWidget* const control : m_controls) {
+        if (const auto* const combo = qobject_cast<const QComboBox*>(control))
+            shown.append(SettingValue{combo->currentIndex(), {}});
+        else if (const auto* const text = qobject_cast<const QLineEdit*>(control))
+            shown.append(SettingValue{-1, text->text()});
+    }
+    writeSettings(m_values, shown);
+    close();
+}
+
+} // namespace norvane::shell

@@ -1,0 +1,35 @@
+// The setup dialog: how the PC reaches this customer's registers, and which model they are.
+#pragma once
+
+#include "shell/ApplicationValues.h"
+#include "shell/SetupModel.h"
+#include "shell/StatusForm.h"
+
+class QGroupBox;
+
+namespace norvane::shell
+{
+
+/// A child window of the main window. Reads the customer's settings when it is made, writes them on Save for
+/// whichever customer is chosen then.
+class FrmSetup : public StatusForm
+{
+    Q_OBJECT
+
+public:
+    /// @throws RuntimeFailure as readSettings() does.
+    FrmSetup(const ApplicationValues& values, MainStatusBar& status, QWidget* parent = nullptr);
+
+private:
+    /// A frame with the settings that are chosen from a list, or with those that are typed.
+    [[nodiscard]] QGroupBox* makeFrame(const QString& caption, bool withLists);
+    [[nodiscard]] QWidget* makeControl(const Setting& setting);
+    void layOut();
+    void load();
+    void save();
+
+    const ApplicationValues& m_values;
+    QList<QWidget*> m_controls; ///< combo or line edit, in the order of settings()
+};
+
+} // namespace norvane::shell

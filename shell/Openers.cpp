@@ -1,0 +1,47 @@
+// The frame's own forms, the record editor and the exchange dialog; see Openers.h.
+#include "shell/Openers.h"
+
+#include "exchange/FrmComm.h"
+#include "screens/OptionForm.h"
+#include "shell/FrameOpeners.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::shell
+{
+namespace
+{
+
+/// Both directions of the exchange dialog.
+struct Direction {
+    QLatin1StringView entry;
+    QLatin1StringView mode;
+    QLatin1StringView caption;
+};
+constexpr Direction upload{"UploadVelmar"_L1, "UPLOAD"_L1, "Upload From ECR"_L1};
+constexpr Direction download{"DownloadVelmar"_L1, "DOWNLOAD"_L1, "Download to ECR"_L1};
+
+void openExchange(FrmMain& main, const MenuEntry& entry, ApplicationValues& values, Boxes& boxes)
+{
+    const Direction& direction = entry.name == upload.entry ? upload : download;
+    values.exchangeMode = direction.mode;
+    exchange::FrmComm dialog(values, boxes, &main);
+    dialog.setWindowTitle(direction.caption);
+    dialog.exec();
+}
+
+} // namespace
+
+FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
+{
+    FrmMain::Openers openers = makeFrameOpeners(values, boxes);
+    openers.insert(u"OptionForm"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
+        main.showChild(new screens::OptionForm(values, boxes));
+    });
+    openers.insert(u"FrmComm"_s, [&values, &boxes](FrmMain& main, const MenuEntry& entry) {
+        openExchange(main, entry, values, boxes);
+    });
+    return openers;
+}
+
+} // namespace norvane::shell

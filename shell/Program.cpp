@@ -1,0 +1,79 @@
+// Showing of the last failure and the end of the process; see Program.h.
+#include "shell/Program.h"
+
+#include "platform/RuntimeFailure.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::shell
+{
+namespace
+{
+
+constexpr int outOfMemory = 7;
+constexpr int internalError = 51;
+constexpr int failedExit = 1;
+
+} // namespace
+
+FatalFailure describeFailure(const std::exception_ptr& failure)
+{
+    try {
+        std::rethrow_exception(failure);
+    } catch (const RuntimeFailure& runtimeFailure) {
+        return {runtimeFailure.number(), runtimeFailure.text()};
+    } catch (const std::bad_alloc&) {
+        return {outOfMemory, u"Out of memory"_s};
+    } catch (const std::exception& other) {
+        return {internalError, u"Internal error: "_s + QString::fromLocal8Bit(other.what())};
+    } catch (...) {
+        return {internalError, u"Internal error"_s};
+    }
+}
+
+Program::Program(int& argc, char** argv, Boxes& boxes) : QApplication(argc, argv), m_boxes(boxes)
+{
+    // The main window's end is the program's end, and no other window's: there is none between the splash and
+    // the choice of the customer.
+    setQuitOnLastWindowClosed(false);
+}
+
+bool Program::notify(QObject* receiver, QEvent* event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (...) {
+        // A window that cannot be painted fails again while the box stands over it; one box is enough.
+        if (m_ending)
+            return true;
+        end(std::current_exception());
+    }
+}
+
+int Program::guarded(const std::function<int()>& work)
+{
+    try {
+        return work();
+    } catch (...) {
+        end(std::current_exception());
+    }
+}
+
+void Program::end(const std::exception_ptr& failure)
+{
+    m_ending = true;
+    const FatalFailure shown = describeFailure(failure);
+    while (overrideCursor())
+        restoreOverrideCursor();
+    m_boxes.message(u"Run-time error '%1':\r\r%2"_s.arg(shown.number).arg(shown.text), {}, BoxIcon::Critical);
+    // The system closes what is still open; the store's files bear an end at any moment. Destructors of
+    // windows that stand in the middle of something would do more harm than good.
+    std::fflush(nullptr);
+    std::_Exit(failedExit);
+}
+
+} // namespace norvane::shell

@@ -1,0 +1,29 @@
+// The about window.
+#pragma once
+
+#include "platform/Boxes.h"
+#include "shell/StatusForm.h"
+
+class QLayout;
+
+namespace norvane::shell
+{
+
+/// A child window of the main window: name, version and purpose of the program, and whose risk its use is.
+class frmAbout : public StatusForm
+{
+    Q_OBJECT
+
+public:
+    frmAbout(Boxes& boxes, MainStatusBar& status, QWidget* parent = nullptr);
+
+private:
+    void layOut();
+    [[nodiscard]] static QLayout* layOutLabels();
+    [[nodiscard]] QLayout* layOutButtons();
+    void startSysInfo();
+
+    Boxes& m_boxes;
+};
+
+} // namespace norvane::shell

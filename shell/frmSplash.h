@@ -1,0 +1,31 @@
+// The splash: the first window that the user sees.
+#pragma once
+
+#include "shell/StatusForm.h"
+
+namespace norvane::shell
+{
+
+/// Stays until the start sequence closes it; neither a click nor a key ends it earlier. Place it on the main
+/// window with ui::centreOn().
+class frmSplash : public StatusForm
+{
+    Q_OBJECT
+
+public:
+    explicit frmSplash(MainStatusBar& status);
+
+    /// Closes the splash, which the user cannot do.
+    void unload();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void layOut();
+
+    bool m_unloading = false;
+};
+
+} // namespace norvane::shell
