@@ -21,6 +21,7 @@ enum class Failure {
     PathOrFileAccess = 75,
     NoCurrentRecord = 3021,
     DuplicateKey = 3022,
+    ReadOnlyRecords = 3027,
     UnknownNameInQuery = 3061,
     TextTooLong = 3163,
     UnknownName = 3265,

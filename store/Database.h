@@ -31,7 +31,8 @@ public:
     /// A recordset on a table, placed on the first record in the order of its first index.
     /// @throws RuntimeFailure 3265 for an unknown table.
     [[nodiscard]] Recordset openTable(const QString& table);
-    /// A recordset on the rows of a query, or of a table name; read only, forward and backward.
+    /// A recordset on the rows of a query, or on a table when @p sql is its name. The rows are those that the
+    /// query finds now; those of one table's plain fields can be edited and deleted, others are read only.
     /// @throws RuntimeFailure 3061 for an unknown name or a faulty statement.
     [[nodiscard]] Recordset openQuery(const QString& sql);
     /// Runs a delete or update statement in the words of the former engine ("delete * from x").

@@ -39,17 +39,31 @@ public:
     [[nodiscard]] bool atBeginning() const;
     [[nodiscard]] bool hasCurrent() const;
     [[nodiscard]] qint64 recordCount() const;
+    /// Places a recordset on a query's rows on the row at @p position, counted from 0 in the order of the
+    /// query as it was run. @return false when there is no such row (any more); there is no current record
+    /// then.
+    /// @throws 3000 on a recordset that walks a table by index.
+    bool moveTo(qint64 position);
+    /// Whether records can be changed: those of a table, and those of a query that takes fields of one table
+    /// as they are.
+    [[nodiscard]] bool isUpdatable() const;
 
     /// Places the recordset by the current index. @return false when nothing was found; there is no current
     /// record then. @throws 3421 when a text that is no number is sought on a number index; empty text lies
-    /// before every key.
+    /// before every key, and 3000 on a query or a table without an index. After a failed seek only
+    /// moveFirst(), moveLast() and another seek lead to a record; moveNext() and movePrevious() fail with
+    /// 3021.
     bool seek(Seek comparison, const Value& key);
 
-    /// Starts a new record with the fields' defaults.
+    /// Starts a new record with the fields' defaults; one that was open is abandoned.
+    /// @throws 3027 on a query.
     void addNew();
-    /// Starts changing the current record; on a record already open it goes on.
+    /// Starts changing the current record as it now stands in the file; on an edit already open it goes on. A
+    /// new record that was open is abandoned. @throws 3027 when the query's rows cannot be changed.
     void edit();
-    /// Stores the new or changed record. A new record does not become the current one.
+    /// Stores the new or changed record. A new record does not become the current one, and an index can take
+    /// a changed one to another place, where it stays the current record. Only fields with another value than
+    /// before are written.
     /// @throws 3022 duplicate key, 3314 required field is null; the record stays open then.
     void update();
     void cancelUpdate();
@@ -66,7 +80,7 @@ public:
     [[nodiscard]] const Value& value(int ordinal) const;
     [[nodiscard]] const Value& value(const QString& name) const { return value(fieldOrdinal(name)); }
     /// Converts to the field's type. @throws 3421 when the value does not convert, 3163 when a text is too
-    /// long, 3265, and 3020 (as 3021) outside edit() and addNew().
+    /// long, 3265, and 3021 outside edit() and addNew().
     void setValue(int ordinal, Value value);
     void setValue(const QString& name, Value value) { setValue(fieldOrdinal(name), std::move(value)); }
 

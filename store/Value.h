@@ -4,6 +4,7 @@
 #include <QDate>
 #include <QString>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -44,6 +45,9 @@ public:
     [[nodiscard]] QDate toDate() const;
     /// The text itself of a text value, empty otherwise. Lives as long as the value does.
     [[nodiscard]] std::string_view textView() const;
+
+    /// Makes this a text; a walk that reads row after row into one value allocates nothing anew.
+    void setText(const char* utf8, std::size_t length);
 
     using Data = std::variant<std::monostate, bool, std::int64_t, double, std::string, QDate>;
     [[nodiscard]] const Data& data() const { return m_data; }

@@ -1,0 +1,135 @@
+// The open database: its connection, the shapes of its tables, statements; see Database.h.
+#include "store/Database.h"
+
+#include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
+#include "store/DatabaseFile.h"
+#include "store/DatabasePrivate.h"
+#include "store/PreparedStatement.h"
+#include "store/Recordset.h"
+#include "store/RecordsetPrivate.h"
+#include "store/SqlTranslation.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+namespace norvane::store
+{
+namespace
+{
+
+[[noreturn]] void failExists(Failure number, const QString& what)
+{
+    throw RuntimeFailure(number, QStringLiteral("%1 already exists.").arg(what));
+}
+
+bool hasField(const TableDefinition& table, const QString& name)
+{
+    return std::any_of(table.fields.cbegin(), table.fields.cend(), [&name](const FieldDefinition& field) {
+        return field.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+}
+
+} // namespace
+
+Database::Private::Private(const QString& path)
+    : m_path(existingPath(path)), m_connection(openDatabaseFile(m_path))
+{
+}
+
+std::shared_ptr<const TableShape> Database::Private::findShape(const QString& table)
+{
+    auto& shape = m_shapes[table.toCaseFolded()];
+    if (!shape) {
+        if (auto definition = Schema(connection()).read(table))
+            shape = std::make_shared<const TableShape>(std::move(*definition));
+    }
+    return shape;
+}
+
+std::shared_ptr<const TableShape> Database::Private::shape(const QString& table)
+{
+    auto shape = findShape(table);
+    if (!shape)
+        throw RuntimeFailure(Failure::UnknownName,
+                             QStringLiteral("Item not found: %1 has no table %2.").arg(m_path, table));
+    return shape;
+}
+
+std::int64_t Database::Private::changes() const
+{
+    return sqlite3_total_changes64(connection());
+}
+
+Database::Database(const QString& path) : d(std::make_unique<Private>(path)) {}
+Database::~Database() = default;
+
+void Database::create(const QString& path, const QVector<TableDefinition>& tables)
+{
+    createDatabaseFile(existingPath(path), tables);
+}
+
+Recordset Database::openTable(const QString& table)
+{
+    return Recordset(std::make_unique<Recordset::Private>(*d, d->shape(table)));
+}
+
+Recordset Database::openQuery(const QString& sql)
+{
+    const QString table = loneTableName(sql);
+    if (!table.isEmpty()) {
+        if (auto shape = d->findShape(table))
+            return Recordset(std::make_unique<Recordset::Private>(*d, std::move(shape)));
+        throw RuntimeFailure(Failure::UnknownNameInQuery,
+                             QStringLiteral("Unknown name or faulty statement. %1").arg(sql));
+    }
+    return Recordset(std::make_unique<Recordset::Private>(*d, sql));
+}
+
+qint64 Database::execute(const QString& sql)
+{
+    const auto translated = translateSql(sql);
+    PreparedStatement statement(d->connection(), translated.sql.toStdString(), sql);
+    return statement.run();
+}
+
+QStringList Database::tableNames() const
+{
+    return Schema(d->connection()).tableNames();
+}
+
+bool Database::hasTable(const QString& table) const
+{
+    return d->findShape(table) != nullptr;
+}
+
+TableDefinition Database::table(const QString& table) const
+{
+    return d->shape(table)->definition();
+}
+
+void Database::addTable(const TableDefinition& table)
+{
+    if (hasTable(table.name))
+        failExists(Failure::TableExists, QStringLiteral("Table %1").arg(table.name));
+    Schema(d->connection()).addTable(table);
+    d->forgetShapes();
+}
+
+void Database::addField(const QString& table, const FieldDefinition& field)
+{
+    const auto shape = d->shape(table);
+    if (hasField(shape->definition(), field.name))
+        failExists(Failure::FieldExists,
+                   QStringLiteral("Field %1 of table %2").arg(field.name, shape->name()));
+    Schema(d->connection()).addField(shape->definition(), field);
+    d->forgetShapes();
+}
+
+void Database::refresh()
+{
+    d->forgetShapes();
+}
+
+} // namespace norvane::store

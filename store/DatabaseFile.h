@@ -1,0 +1,18 @@
+// Opening and making database files: what is ours, what is left alone.
+#pragma once
+
+#include "store/Definitions.h"
+
+#include <SQLiteCpp/Database.h>
+
+namespace norvane::store
+{
+
+/// Opens an existing file for reading and, where it may be written, for writing. @throws as Database does.
+[[nodiscard]] SQLite::Database openDatabaseFile(const QString& path);
+
+/// Makes a file beside @p path and puts it in its place once it is whole.
+/// @throws RuntimeFailure 75, 61.
+void createDatabaseFile(const QString& path, const QVector<TableDefinition>& tables);
+
+} // namespace norvane::store

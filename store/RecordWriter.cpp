@@ -1,0 +1,133 @@
+// The SQL of storing one record; see RecordWriter.h.
+#include "store/RecordWriter.h"
+
+#include "platform/RuntimeFailure.h"
+
+#include <algorithm>
+
+namespace norvane::store
+{
+namespace
+{
+
+/// A screen can change any choice of fields; the statements of the last few choices are worth keeping.
+constexpr std::size_t mostUpdates = 16;
+
+/// A counter without a value of its own counts on from the highest there is.
+std::string insertedValue(const TableShape& shape, const FieldDefinition& field)
+{
+    if (field.type != FieldType::Counter)
+        return "?";
+    const std::string name = quotedName(field.name);
+    return "COALESCE(?, (SELECT COALESCE(MAX(" + name + "), 0) + 1 FROM " + quotedName(shape.name()) + "))";
+}
+
+} // namespace
+
+RecordWriter::RecordWriter(Database::Private& database, std::shared_ptr<const TableShape> shape)
+    : m_database(database), m_shape(std::move(shape))
+{
+    const auto& fields = m_shape->definition().fields;
+    for (int i = 0; i < fields.size(); ++i) {
+        if (fields.at(i).required && fields.at(i).type != FieldType::Counter)
+            m_required.push_back(i);
+    }
+}
+
+std::unique_ptr<PreparedStatement> RecordWriter::prepare(const std::string& sql) const
+{
+    return std::make_unique<PreparedStatement>(
+        m_database.connection(), sql,
+        QStringLiteral("%1, table %2.").arg(m_database.path(), m_shape->name()));
+}
+
+std::string RecordWriter::insertSql() const
+{
+    std::string names;
+    std::string values;
+    for (const auto& field : m_shape->definition().fields) {
+        names += (names.empty() ? "" : ", ") + quotedName(field.name);
+        values += (values.empty() ? "" : ", ") + insertedValue(*m_shape, field);
+    }
+    return "INSERT INTO " + quotedName(m_shape->name()) + " (" + names + ") VALUES (" + values + ')';
+}
+
+std::string RecordWriter::updateSql(const std::vector<int>& fields) const
+{
+    std::string changes;
+    for (const int field : fields) {
+        changes += changes.empty() ? "" : ", ";
+        changes += quotedName(m_shape->definition().fields.at(field).name) + " = ?";
+    }
+    return "UPDATE " + quotedName(m_shape->name()) + " SET " + changes + " WHERE _rowid_ = ?";
+}
+
+PreparedStatement& RecordWriter::updateOf(const std::vector<int>& fields)
+{
+    if (m_updates.size() >= mostUpdates && !m_updates.contains(fields))
+        m_updates.clear();
+    auto& statement = m_updates[fields];
+    if (!statement)
+        statement = prepare(updateSql(fields));
+    return *statement;
+}
+
+void RecordWriter::checkRequired(const std::vector<Value>& values) const
+{
+    for (const int field : m_required) {
+        if (values[static_cast<std::size_t>(field)].isNull()) {
+            throw RuntimeFailure(Failure::RequiredFieldIsNull,
+                                 QStringLiteral("Field %1 of table %2 must have a value.")
+                                     .arg(m_shape->definition().fields.at(field).name, m_shape->name()));
+        }
+    }
+}
+
+void RecordWriter::failGone() const
+{
+    throw RuntimeFailure(
+        Failure::NoCurrentRecord,
+        QStringLiteral("No current record: it was deleted from table %1.").arg(m_shape->name()));
+}
+
+void RecordWriter::insert(const std::vector<Value>& values)
+{
+    checkRequired(values);
+    if (!m_insert)
+        m_insert = prepare(insertSql());
+    int parameter = 0;
+    for (const auto& value : values)
+        m_insert->bind(++parameter, value);
+    m_insert->run();
+}
+
+void RecordWriter::update(std::int64_t rowId, const std::vector<Value>& before,
+                          const std::vector<Value>& after)
+{
+    checkRequired(after);
+    std::vector<int> changed;
+    for (std::size_t i = 0; i < after.size(); ++i) {
+        if (!(before[i] == after[i]))
+            changed.push_back(static_cast<int>(i));
+    }
+    if (changed.empty())
+        return;
+    auto& statement = updateOf(changed);
+    int parameter = 0;
+    for (const int field : changed)
+        statement.bind(++parameter, after[static_cast<std::size_t>(field)]);
+    statement.bind(++parameter, rowId);
+    if (statement.run() == 0)
+        failGone();
+}
+
+void RecordWriter::remove(std::int64_t rowId)
+{
+    if (!m_remove)
+        m_remove = prepare("DELETE FROM " + quotedName(m_shape->name()) + " WHERE _rowid_ = ?");
+    m_remove->bind(1, rowId);
+    if (m_remove->run() == 0)
+        failGone();
+}
+
+} // namespace norvane::store

@@ -1,0 +1,45 @@
+// Storing records: the statements that insert, change and delete one row.
+#pragma once
+
+#include "store/DatabasePrivate.h"
+#include "store/PreparedStatement.h"
+
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace norvane::store
+{
+
+/// Writes records of one shape. The statements are prepared once; a change names only the fields that are
+/// really different, so that a walk that stores what is there already writes nothing, and an index is touched
+/// only with its key.
+class RecordWriter
+{
+public:
+    RecordWriter(Database::Private& database, std::shared_ptr<const TableShape> shape);
+
+    /// @throws RuntimeFailure 3022, 3314 and what the engine reports.
+    void insert(const std::vector<Value>& values);
+    /// @throws RuntimeFailure 3022, 3314, 3021 when the row is gone, and what the engine reports.
+    void update(std::int64_t rowId, const std::vector<Value>& before, const std::vector<Value>& after);
+    /// @throws RuntimeFailure 3021 when the row is gone, and what the engine reports.
+    void remove(std::int64_t rowId);
+
+private:
+    [[nodiscard]] std::unique_ptr<PreparedStatement> prepare(const std::string& sql) const;
+    [[nodiscard]] std::string insertSql() const;
+    [[nodiscard]] std::string updateSql(const std::vector<int>& fields) const;
+    PreparedStatement& updateOf(const std::vector<int>& fields);
+    void checkRequired(const std::vector<Value>& values) const;
+    [[noreturn]] void failGone() const;
+
+    Database::Private& m_database;
+    std::shared_ptr<const TableShape> m_shape;
+    std::vector<int> m_required;
+    std::unique_ptr<PreparedStatement> m_insert;
+    std::unique_ptr<PreparedStatement> m_remove;
+    std::map<std::vector<int>, std::unique_ptr<PreparedStatement>> m_updates;
+};
+
+} // namespace norvane::store

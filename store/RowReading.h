@@ -1,0 +1,33 @@
+// Reading whole records of a table, for every cursor alike.
+#pragma once
+
+#include "store/Cursor.h"
+#include "store/PreparedStatement.h"
+#include "store/Schema.h"
+
+#include <string>
+
+namespace norvane::store
+{
+
+/// The beginning of a statement that reads all fields of a shape and the row id: "SELECT ... FROM ...".
+[[nodiscard]] inline std::string selectFields(const TableShape& shape)
+{
+    std::string sql = "SELECT ";
+    for (const auto& field : shape.definition().fields)
+        sql += quotedName(field.name) + ", ";
+    return sql + "_rowid_ FROM " + quotedName(shape.name());
+}
+
+/// Takes over the row that such a statement stands on; @p row keeps the room that its texts have.
+inline void readFields(PreparedStatement& statement, const TableShape& shape, Row& row)
+{
+    const auto& fields = shape.definition().fields;
+    const int count = static_cast<int>(fields.size());
+    row.values.resize(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        statement.read(i, fields.at(i).type, row.values[static_cast<std::size_t>(i)]);
+    row.rowId = statement.whole(count);
+}
+
+} // namespace norvane::store

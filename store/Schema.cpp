@@ -1,0 +1,266 @@
+// The definitions' two tables and the SQL that makes the tables they describe; see Schema.h.
+#include "store/Schema.h"
+
+#include "store/FieldConversion.h"
+#include "store/PreparedStatement.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace norvane::store
+{
+namespace
+{
+
+struct TypeRow {
+    FieldType type;
+    const char* word;        ///< in the definitions
+    const char* declaration; ///< of the column
+};
+
+/// Texts meet without regard to case, as users seek them. The tables are strict: a statement cannot leave a
+/// text in a number field either.
+constexpr TypeRow types[] = {
+    {FieldType::YesNo, "yesno", "INTEGER"},
+    {FieldType::Long, "long", "INTEGER"},
+    {FieldType::Double, "double", "REAL"},
+    {FieldType::Digits, "digits", "TEXT COLLATE norvane_digits"},
+    {FieldType::Text, "text", "TEXT COLLATE NOCASE"},
+    {FieldType::Date, "date", "TEXT"},
+    {FieldType::Counter, "counter", "INTEGER"},
+};
+
+const TypeRow& rowOf(FieldType type)
+{
+    return *std::find_if(std::begin(types), std::end(types),
+                         [type](const TypeRow& row) { return row.type == type; });
+}
+
+FieldType typeOfWord(const QString& word)
+{
+    const auto* row = std::find_if(std::begin(types), std::end(types), [&word](const TypeRow& candidate) {
+        return word == QLatin1String(candidate.word);
+    });
+    return row == std::end(types) ? FieldType::Text : row->type;
+}
+
+std::string columnDeclaration(const FieldDefinition& field)
+{
+    return quotedName(field.name) + ' ' + rowOf(field.type).declaration;
+}
+
+std::string tableDeclaration(const TableDefinition& table)
+{
+    std::string columns;
+    for (const auto& field : table.fields)
+        columns += (columns.empty() ? "" : ", ") + columnDeclaration(field);
+    return "CREATE TABLE " + quotedName(table.name) + " (" + columns + ") STRICT";
+}
+
+std::string indexDeclaration(const QString& table, int number, const IndexDefinition& index)
+{
+    const QString name = QStringLiteral("%1 index %2").arg(table).arg(number);
+    return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " + quotedName(name) + " ON " +
+           quotedName(table) + " (" + quotedName(index.field) + ')';
+}
+
+std::vector<Value> defaultsOf(const TableDefinition& table)
+{
+    std::vector<Value> values;
+    for (const auto& field : table.fields) {
+        Value value = field.defaultText.isEmpty() ? Value() : Value::text(field.defaultText);
+        // A default longer than its field is cut to it: it is the register's own word, not the user's.
+        if (field.type == FieldType::Text && field.size > 0)
+            value = value.isNull() ? value : Value::text(field.defaultText.left(field.size));
+        convertToField(value, field, table.name);
+        values.push_back(std::move(value));
+    }
+    return values;
+}
+
+/// Undoes what was done since it was made unless it is kept; works inside a transaction and outside.
+class Savepoint
+{
+public:
+    explicit Savepoint(sqlite3* connection) : m_connection(connection) { run("SAVEPOINT definitions"); }
+    ~Savepoint()
+    {
+        if (m_kept)
+            return;
+        sqlite3_exec(m_connection, "ROLLBACK TO definitions", nullptr, nullptr, nullptr);
+        sqlite3_exec(m_connection, "RELEASE definitions", nullptr, nullptr, nullptr);
+    }
+    Savepoint(const Savepoint&) = delete;
+    Savepoint& operator=(const Savepoint&) = delete;
+    void keep()
+    {
+        run("RELEASE definitions");
+        m_kept = true;
+    }
+
+private:
+    void run(const char* sql) { PreparedStatement(m_connection, sql, QStringLiteral("Definitions.")).run(); }
+
+    sqlite3* m_connection;
+    bool m_kept = false;
+};
+
+constexpr const char* definitionTables[] = {
+    "CREATE TABLE norvane_field (table_name TEXT COLLATE NOCASE, ordinal INTEGER, name TEXT, type TEXT, "
+    "size INTEGER, default_text TEXT, required INTEGER, PRIMARY KEY (table_name, ordinal)) STRICT, WITHOUT "
+    "ROWID",
+    "CREATE TABLE norvane_index (table_name TEXT COLLATE NOCASE, number INTEGER, name_number INTEGER, "
+    "name TEXT, field TEXT, is_unique INTEGER, PRIMARY KEY (table_name, number, name_number)) STRICT, "
+    "WITHOUT "
+    "ROWID",
+};
+
+} // namespace
+
+TableShape::TableShape(TableDefinition definition)
+    : m_definition(std::move(definition)), m_defaults(defaultsOf(m_definition))
+{
+    for (int i = 0; i < m_definition.fields.size(); ++i)
+        m_ordinals.insert(m_definition.fields.at(i).name.toCaseFolded(), i);
+}
+
+std::optional<int> TableShape::ordinal(const QString& field) const
+{
+    const auto found = m_ordinals.constFind(field.toCaseFolded());
+    return found == m_ordinals.cend() ? std::nullopt : std::optional(*found);
+}
+
+const IndexDefinition* TableShape::index(const QString& name) const
+{
+    const auto found =
+        std::find_if(m_definition.indexes.cbegin(), m_definition.indexes.cend(),
+                     [&name](const auto& index) { return index.names.contains(name, Qt::CaseInsensitive); });
+    return found == m_definition.indexes.cend() ? nullptr : &*found;
+}
+
+void Schema::run(const std::string& sql, const QString& what)
+{
+    PreparedStatement(m_connection, sql, what).run();
+}
+
+void Schema::prepareFile()
+{
+    const QString what = QStringLiteral("Definitions.");
+    run("PRAGMA application_id = " + std::to_string(applicationId), what);
+    run("PRAGMA user_version = " + std::to_string(formatVersion), what);
+    for (const char* sql : definitionTables)
+        run(sql, what);
+}
+
+QStringList Schema::tableNames() const
+{
+    QStringList names;
+    PreparedStatement select(m_connection, "SELECT table_name FROM norvane_field WHERE ordinal = 0",
+                             QStringLiteral("Definitions."));
+    while (select.step())
+        names.append(select.text(0));
+    return names;
+}
+
+QVector<FieldDefinition> Schema::readFields(const QString& table, QString& storedName) const
+{
+    PreparedStatement select(m_connection,
+                             "SELECT table_name, name, type, size, default_text, required FROM norvane_field "
+                             "WHERE table_name = ? ORDER BY ordinal",
+                             QStringLiteral("Definitions."));
+    const Value key = Value::text(table);
+    select.bind(1, key);
+    QVector<FieldDefinition> fields;
+    while (select.step()) {
+        if (fields.isEmpty())
+            storedName = select.text(0);
+        fields.append({select.text(1), typeOfWord(select.text(2)), static_cast<int>(select.whole(3)),
+                       select.text(4), select.whole(5) != 0});
+    }
+    return fields;
+}
+
+QVector<IndexDefinition> Schema::readIndexes(const QString& table) const
+{
+    PreparedStatement select(m_connection,
+                             "SELECT number, name, field, is_unique FROM norvane_index WHERE table_name = ? "
+                             "ORDER BY number, name_number",
+                             QStringLiteral("Definitions."));
+    const Value key = Value::text(table);
+    select.bind(1, key);
+    QVector<IndexDefinition> indexes;
+    while (select.step()) {
+        if (select.whole(0) == indexes.size())
+            indexes.append({{}, select.text(2), select.whole(3) != 0});
+        indexes.last().names.append(select.text(1));
+    }
+    return indexes;
+}
+
+std::optional<TableDefinition> Schema::read(const QString& table) const
+{
+    TableDefinition definition;
+    definition.fields = readFields(table, definition.name);
+    if (definition.fields.isEmpty())
+        return std::nullopt;
+    definition.indexes = readIndexes(table);
+    return definition;
+}
+
+void Schema::writeField(const QString& table, int ordinal, const FieldDefinition& field)
+{
+    PreparedStatement insert(m_connection, "INSERT INTO norvane_field VALUES (?, ?, ?, ?, ?, ?, ?)",
+                             QStringLiteral("Definitions."));
+    const Value values[] = {Value::text(table),
+                            Value::whole(ordinal),
+                            Value::text(field.name),
+                            Value::text(std::string(rowOf(field.type).word)),
+                            Value::whole(field.size),
+                            Value::text(field.defaultText),
+                            Value::whole(field.required ? 1 : 0)};
+    for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
+        insert.bind(i + 1, values[i]);
+    insert.run();
+}
+
+void Schema::writeIndex(const QString& table, int number, const IndexDefinition& index)
+{
+    PreparedStatement insert(m_connection, "INSERT INTO norvane_index VALUES (?, ?, ?, ?, ?, ?)",
+                             QStringLiteral("Definitions."));
+    for (int i = 0; i < index.names.size(); ++i) {
+        const Value values[] = {Value::text(table),       Value::whole(number),
+                                Value::whole(i),          Value::text(index.names.at(i)),
+                                Value::text(index.field), Value::whole(index.unique ? 1 : 0)};
+        for (int k = 0; k < static_cast<int>(std::size(values)); ++k)
+            insert.bind(k + 1, values[k]);
+        insert.run();
+    }
+}
+
+void Schema::addTable(const TableDefinition& table)
+{
+    Savepoint savepoint(m_connection);
+    const QString what = QStringLiteral("Table %1.").arg(table.name);
+    run(tableDeclaration(table), what);
+    for (int i = 0; i < table.fields.size(); ++i)
+        writeField(table.name, i, table.fields.at(i));
+    for (int i = 0; i < table.indexes.size(); ++i) {
+        run(indexDeclaration(table.name, i, table.indexes.at(i)), what);
+        writeIndex(table.name, i, table.indexes.at(i));
+    }
+    savepoint.keep();
+}
+
+void Schema::addField(const TableDefinition& table, const FieldDefinition& field)
+{
+    Savepoint savepoint(m_connection);
+    // No default is declared, so that the rows that are there hold null.
+    run("ALTER TABLE " + quotedName(table.name) + " ADD COLUMN " + columnDeclaration(field),
+        QStringLiteral("Table %1.").arg(table.name));
+    writeField(table.name, static_cast<int>(table.fields.size()), field);
+    savepoint.keep();
+}
+
+} // namespace norvane::store

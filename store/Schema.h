@@ -1,0 +1,73 @@
+// The definitions of tables as a database file tells them, and the making of tables and fields.
+#pragma once
+
+#include "store/Definitions.h"
+#include "store/Value.h"
+
+#include <QHash>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+struct sqlite3;
+
+namespace norvane::store
+{
+
+/// A table's definition with what recordsets look up in it, made once and shared by them.
+class TableShape
+{
+public:
+    explicit TableShape(TableDefinition definition);
+
+    [[nodiscard]] const TableDefinition& definition() const { return m_definition; }
+    [[nodiscard]] const QString& name() const { return m_definition.name; }
+    [[nodiscard]] std::optional<int> ordinal(const QString& field) const;
+    /// What a new record holds, by ordinal.
+    [[nodiscard]] const std::vector<Value>& defaults() const { return m_defaults; }
+    /// The index that @p name stands for, nullptr when there is none.
+    [[nodiscard]] const IndexDefinition* index(const QString& name) const;
+
+private:
+    TableDefinition m_definition;
+    QHash<QString, int> m_ordinals;
+    std::vector<Value> m_defaults;
+};
+
+/// Reads and writes definitions. They lie in two tables of the store's own beside the tables that they
+/// describe: SQLite's declared types are free text that knows nothing of required fields, defaults or two
+/// names of one index, and a declaration can hardly be changed after a field was added.
+class Schema
+{
+public:
+    explicit Schema(sqlite3* connection) : m_connection(connection) {}
+
+    /// Makes the two tables of definitions in an empty file.
+    void prepareFile();
+    [[nodiscard]] QStringList tableNames() const;
+    /// The table's definition, nothing when there is none of that name.
+    [[nodiscard]] std::optional<TableDefinition> read(const QString& table) const;
+    /// Both are done wholly or not at all.
+    void addTable(const TableDefinition& table);
+    void addField(const TableDefinition& table, const FieldDefinition& field);
+
+private:
+    void run(const std::string& sql, const QString& what);
+    void writeField(const QString& table, int ordinal, const FieldDefinition& field);
+    void writeIndex(const QString& table, int number, const IndexDefinition& index);
+    [[nodiscard]] QVector<FieldDefinition> readFields(const QString& table, QString& storedName) const;
+    [[nodiscard]] QVector<IndexDefinition> readIndexes(const QString& table) const;
+
+    sqlite3* m_connection;
+};
+
+/// Marks a file as a database of ours in its header.
+inline constexpr std::uint32_t applicationId = 0x4E765631;
+/// The layout of the definitions; a file with a higher one was made by a later program.
+inline constexpr int formatVersion = 1;
+
+/// The collation under which digit texts compare by value; to be registered on every connection.
+inline constexpr const char* digitsCollation = "norvane_digits";
+
+} // namespace norvane::store

@@ -1,0 +1,26 @@
+// Statements in the words of the former database engine, as screens and utilities write them, and what SQLite
+// wants instead.
+#pragma once
+
+#include <QString>
+
+namespace norvane::store
+{
+
+/// A statement translated: "delete * from x" loses its star, True is -1, texts may stand in double quotes,
+/// "&" joins texts, "#12/31/2003#" is a day, "select top n" becomes a limit, "like" takes the wildcards * and
+/// ?. Names in square brackets stay as they are.
+struct TranslatedSql {
+    QString sql;
+    /// The same with the row id of its only table as a further, last column, for a plain choice of records
+    /// whose rows may be edited; empty when the statement joins, groups or counts.
+    QString withRowId;
+};
+
+[[nodiscard]] TranslatedSql translateSql(const QString& statement);
+
+/// The table that @p statement consists of when it is no more than a name ("PLUDATA", "[PLUDATA]"); empty for
+/// a statement.
+[[nodiscard]] QString loneTableName(const QString& statement);
+
+} // namespace norvane::store

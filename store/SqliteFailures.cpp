@@ -1,0 +1,54 @@
+// Result codes and what they mean to the user; see SqliteFailures.h.
+#include "store/SqliteFailures.h"
+
+#include "platform/RuntimeFailure.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace norvane::store
+{
+namespace
+{
+
+struct Meaning {
+    int code;
+    Failure failure;
+    const char* text;
+};
+
+/// Extended codes stand before the plain ones that they belong to.
+constexpr Meaning meanings[] = {
+    {SQLITE_CONSTRAINT_DATATYPE, Failure::Conversion, "Data type conversion error."},
+    {SQLITE_CONSTRAINT, Failure::DuplicateKey, "A record with the same key exists already."},
+    {SQLITE_MISMATCH, Failure::Conversion, "Data type conversion error."},
+    {SQLITE_NOTADB, Failure::NotOurDatabase, "The file is no database of this program, or it is damaged."},
+    {SQLITE_CORRUPT, Failure::NotOurDatabase, "The database is damaged."},
+    {SQLITE_BUSY, Failure::DatabaseLocked, "The database is in use by another program."},
+    {SQLITE_LOCKED, Failure::DatabaseLocked, "The database is in use."},
+    {SQLITE_READONLY, Failure::PathOrFileAccess, "The database or its folder is read only."},
+    {SQLITE_CANTOPEN, Failure::PathOrFileAccess, "The database or its folder cannot be opened."},
+    {SQLITE_PERM, Failure::PathOrFileAccess, "The database may not be opened."},
+    {SQLITE_FULL, Failure::DiskFull, "The disk is full."},
+    {SQLITE_IOERR, Failure::DeviceIo, "The database cannot be read or written."},
+    {SQLITE_ERROR, Failure::UnknownNameInQuery, "Unknown name or faulty statement."},
+};
+
+} // namespace
+
+void failWithSqlite(sqlite3* connection, const QString& what)
+{
+    const int code = sqlite3_extended_errcode(connection);
+    const auto* meaning = std::find_if(std::begin(meanings), std::end(meanings), [code](const Meaning& row) {
+        return row.code == code || row.code == (code & 0xFF);
+    });
+    const bool known = meaning != std::end(meanings);
+    throw RuntimeFailure(known ? meaning->failure : Failure::EngineFailure,
+                         QStringLiteral("%1 %2 (%3)")
+                             .arg(QString::fromLatin1(known ? meaning->text : "The database failed."), what,
+                                  QString::fromUtf8(sqlite3_errmsg(connection))));
+}
+
+} // namespace norvane::store

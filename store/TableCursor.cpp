@@ -1,0 +1,216 @@
+// The statements behind each move and the rows read ahead; see TableCursor.h.
+#include "store/TableCursor.h"
+
+#include "store/FieldConversion.h"
+#include "store/RowReading.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace norvane::store
+{
+namespace
+{
+
+/// Beyond this many rows a batch saves no more time.
+constexpr std::size_t mostAhead = 128;
+/// A few steps are a user's, who wants what is there now; a long walk is a program's.
+constexpr int stepsBeforeReadingAhead = 8;
+/// A user cannot store on one screen and move on another within this time.
+constexpr std::chrono::milliseconds freshTime{50};
+
+std::string withKeyName(std::string_view sql, const std::string& key)
+{
+    std::string result;
+    for (const char c : sql) {
+        if (c == '%')
+            result += key;
+        else
+            result += c;
+    }
+    return result;
+}
+
+} // namespace
+
+// "%" stands for the key; ?1 is a key and ?2 a row id. Records without a key come before all others, and a
+// comparison never finds them, so they have statements of their own.
+const std::array<TableCursor::AccessSql, TableCursor::AccessCount> TableCursor::accesses = {{
+    /* First */ {" ORDER BY %, _rowid_", " ORDER BY _rowid_"},
+    /* Last */ {" ORDER BY % DESC, _rowid_ DESC", " ORDER BY _rowid_ DESC"},
+    /* Next */
+    {" WHERE (%, _rowid_) > (?1, ?2) ORDER BY %, _rowid_", " WHERE _rowid_ > ?2 ORDER BY _rowid_"},
+    /* Previous */
+    {" WHERE (%, _rowid_) < (?1, ?2) ORDER BY % DESC, _rowid_ DESC",
+     " WHERE _rowid_ < ?2 ORDER BY _rowid_ DESC"},
+    /* NextNull */ {" WHERE % IS NULL AND _rowid_ > ?2 ORDER BY _rowid_", nullptr},
+    /* PreviousNull */ {" WHERE % IS NULL AND _rowid_ < ?2 ORDER BY _rowid_ DESC", nullptr},
+    /* FirstKey */ {" WHERE % IS NOT NULL ORDER BY %, _rowid_", nullptr},
+    /* LastNull */ {" WHERE % IS NULL ORDER BY _rowid_ DESC", nullptr},
+    /* SeekEqual */ {" WHERE % = ?1 ORDER BY _rowid_", nullptr},
+    /* SeekAtOrAfter */ {" WHERE % >= ?1 ORDER BY %, _rowid_", nullptr},
+    /* ByRowId */ {" WHERE _rowid_ = ?2", " WHERE _rowid_ = ?2"},
+}};
+
+TableCursor::TableCursor(Database::Private& database, std::shared_ptr<const TableShape> shape)
+    : m_database(database), m_shape(std::move(shape))
+{
+    const auto& indexes = m_shape->definition().indexes;
+    setIndex(indexes.isEmpty() ? nullptr : &indexes.first());
+}
+
+void TableCursor::setIndex(const IndexDefinition* index)
+{
+    m_index = index;
+    m_keyOrdinal = index ? m_shape->ordinal(index->field).value_or(-1) : -1;
+    m_statements = {};
+    m_filled = 0;
+}
+
+PreparedStatement& TableCursor::statement(Access access)
+{
+    auto& statement = m_statements.at(access);
+    if (!statement) {
+        const auto& words = accesses.at(access);
+        const std::string sql =
+            selectFields(*m_shape) +
+            (m_index ? withKeyName(words.withKey, quotedName(m_index->field)) : words.withoutKey);
+        statement = std::make_unique<PreparedStatement>(
+            m_database.connection(), sql,
+            QStringLiteral("%1, table %2.").arg(m_database.path(), m_shape->name()));
+    }
+    return *statement;
+}
+
+/// Reads up to @p most rows and stands on the first. Nothing changes when there is none.
+bool TableCursor::read(Access access, const Value& key, std::int64_t rowId, std::size_t most)
+{
+    auto& select = statement(access);
+    const StatementRun run(select);
+    select.bindIfUsed(1, key);
+    select.bindIfUsed(2, rowId);
+    std::size_t count = 0;
+    for (; count < most && select.step(); ++count) {
+        if (count == m_spare.size())
+            m_spare.emplace_back();
+        readFields(select, *m_shape, m_spare[count]);
+    }
+    if (count == 0)
+        return false;
+    m_rows.swap(m_spare);
+    m_filled = count;
+    m_at = 0;
+    takePlace();
+    stampNow();
+    return true;
+}
+
+void TableCursor::takePlace()
+{
+    const Row& current = m_rows[m_at];
+    m_rowId = current.rowId;
+    if (m_keyOrdinal >= 0)
+        m_key = current.values[static_cast<std::size_t>(m_keyOrdinal)];
+}
+
+void TableCursor::stampNow()
+{
+    m_stamp = {m_database.changes(), m_database.transactionNumber(), std::chrono::steady_clock::now()};
+}
+
+bool TableCursor::isFresh() const
+{
+    if (m_filled == 0 || m_stamp.changes != m_database.changes())
+        return false;
+    // Inside a transaction nobody else can store.
+    const auto transaction = m_database.transactionNumber();
+    if (transaction != 0)
+        return transaction == m_stamp.transaction;
+    return std::chrono::steady_clock::now() - m_stamp.time < freshTime;
+}
+
+bool TableCursor::placeHasNoKey() const
+{
+    return m_keyOrdinal >= 0 && m_key.isNull();
+}
+
+bool TableCursor::first()
+{
+    m_steps = 0;
+    return read(First, {}, 0);
+}
+
+bool TableCursor::last()
+{
+    return read(Last, {}, 0);
+}
+
+bool TableCursor::next()
+{
+    const bool fresh = isFresh();
+    if (fresh && m_at + 1 < m_filled) {
+        ++m_at;
+        takePlace();
+        return true;
+    }
+    m_steps = fresh ? m_steps + 1 : 0;
+    m_ahead = m_steps < stepsBeforeReadingAhead ? 1 : std::min(m_ahead * 2, mostAhead);
+    if (!placeHasNoKey())
+        return read(Next, m_key, m_rowId, m_ahead);
+    return read(NextNull, {}, m_rowId, m_ahead) || read(FirstKey, {}, 0, m_ahead);
+}
+
+bool TableCursor::previous()
+{
+    if (placeHasNoKey())
+        return read(PreviousNull, {}, m_rowId);
+    return read(Previous, m_key, m_rowId) || (m_keyOrdinal >= 0 && read(LastNull, {}, 0));
+}
+
+bool TableCursor::seek(Seek comparison, const Value& key)
+{
+    m_steps = 0;
+    const auto& field = m_shape->definition().fields.at(m_keyOrdinal);
+    const Value sought = indexKey(key, field, m_shape->name());
+    if (sought.isNull())
+        return comparison == Seek::AtOrAfter && first();
+    return read(comparison == Seek::Equal ? SeekEqual : SeekAtOrAfter, sought, 0);
+}
+
+qint64 TableCursor::count()
+{
+    PreparedStatement select(m_database.connection(), "SELECT count(*) FROM " + quotedName(m_shape->name()),
+                             m_shape->name());
+    select.step();
+    return select.whole(0);
+}
+
+bool TableCursor::reread()
+{
+    const bool mineAlone = m_database.transactionNumber() != 0;
+    return (mineAlone && isFresh()) || read(ByRowId, {}, m_rowId);
+}
+
+/// What was read ahead holds on when the only change since then was this recordset's own to one row.
+void TableCursor::keepReadAhead()
+{
+    if (m_stamp.changes + 1 == m_database.changes())
+        ++m_stamp.changes;
+}
+
+void TableCursor::rowStored(const std::vector<Value>& values)
+{
+    const auto key = static_cast<std::size_t>(std::max(m_keyOrdinal, 0));
+    const bool staysInPlace = m_keyOrdinal < 0 || m_rows[m_at].values[key] == values[key];
+    m_rows[m_at].values = values;
+    takePlace();
+    if (staysInPlace)
+        keepReadAhead();
+}
+
+void TableCursor::rowDeleted()
+{
+    keepReadAhead();
+}
+
+} // namespace norvane::store

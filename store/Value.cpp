@@ -1,0 +1,105 @@
+// What a value looks like as text, number and date, whichever kind it holds; see Value.h.
+#include "store/Value.h"
+
+#include "platform/Numbers.h"
+#include "store/FieldConversion.h"
+
+#include <charconv>
+
+namespace norvane::store
+{
+namespace
+{
+
+template <class... Ts>
+struct Overloaded : Ts... {
+    using Ts::operator()...;
+};
+template <class... Ts>
+Overloaded(Ts...) -> Overloaded<Ts...>;
+
+/// The plain spelling that nearly every stored number has; anything else takes the longer way.
+bool readPlainNumber(std::string_view text, double& number)
+{
+    if (text.empty() || !(text.front() == '-' || (text.front() >= '0' && text.front() <= '9')))
+        return false;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+    return result.ec == std::errc() && result.ptr == text.data() + text.size() && text.back() >= '0' &&
+           text.back() <= '9';
+}
+
+double leadingNumberOf(const std::string& text)
+{
+    double number = 0;
+    return readPlainNumber(text, number) ? number : leadingNumber(QString::fromStdString(text));
+}
+
+} // namespace
+
+bool Value::isTrue() const
+{
+    return std::visit(Overloaded{[](bool yes) { return yes; },
+                                 [](std::int64_t number) { return number == -1; },
+                                 [](double number) { return number == -1; },
+                                 [](const auto&) {
+                                     return false;
+                                 }},
+                      m_data);
+}
+
+QString Value::toText() const
+{
+    return QString::fromStdString(toUtf8());
+}
+
+std::string Value::toUtf8() const
+{
+    return std::visit(Overloaded{[](std::monostate) { return std::string(); },
+                                 [](bool yes) { return std::string(yes ? "True" : "False"); },
+                                 [](std::int64_t number) { return std::to_string(number); },
+                                 [](double number) { return numberText(number).toStdString(); },
+                                 [](const std::string& text) { return text; },
+                                 [](QDate date) {
+                                     return date.toString(QStringLiteral("dd/MM/yyyy")).toStdString();
+                                 }},
+                      m_data);
+}
+
+double Value::toNumber() const
+{
+    return std::visit(Overloaded{[](bool yes) { return yes ? -1.0 : 0.0; },
+                                 [](std::int64_t number) { return static_cast<double>(number); },
+                                 [](double number) { return number; },
+                                 [](const std::string& text) { return leadingNumberOf(text); },
+                                 [](const auto&) {
+                                     return 0.0;
+                                 }},
+                      m_data);
+}
+
+QDate Value::toDate() const
+{
+    return std::visit(Overloaded{[](QDate date) { return date; },
+                                 [](const std::string& text) { return dateOfText(text); },
+                                 [](const auto&) {
+                                     return QDate();
+                                 }},
+                      m_data);
+}
+
+std::string_view Value::textView() const
+{
+    const auto* text = std::get_if<std::string>(&m_data);
+    return text ? std::string_view(*text) : std::string_view();
+}
+
+void Value::setText(const char* utf8, std::size_t length)
+{
+    if (auto* text = std::get_if<std::string>(&m_data)) {
+        text->assign(utf8, length);
+    } else {
+        m_data.emplace<std::string>(utf8, length);
+    }
+}
+
+} // namespace norvane::store
