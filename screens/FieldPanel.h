@@ -1,0 +1,83 @@
+// The scrolling panel of a screen with the controls of its fields.
+#pragma once
+
+#include "screens/RecordEditor.h"
+#include "screens/ScreenDefinition.h"
+
+#include <QHash>
+#include <QScrollArea>
+
+#include <memory>
+
+class QLabel;
+
+namespace norvane::ui
+{
+class NumberBox;
+}
+
+namespace norvane::screens
+{
+
+class GridControl;
+
+/// Heights of the controls in twips, which no screen file gives; labels are as high as boxes, so that a label
+/// stands level with the box of the same "Y".
+inline constexpr double controlHeight = 360;
+inline constexpr double checkHeight = 300; ///< long columns of check boxes stay close together
+inline constexpr double findButtonWidth = 1200;
+
+/// Makes a control for each definition and knows them by kind and element. The panel is as high as the
+/// largest "Y" of its find buttons, boxes and combos (a grid counts by its height, check boxes and labels do
+/// not count) and 10 twips more; what lies below is cut.
+class FieldPanel : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit FieldPanel(std::shared_ptr<store::Database> database, QWidget* parent = nullptr);
+
+    /// @throws RuntimeFailure of the control's query, 13 for a list column that is no number.
+    void addControl(const ControlDefinition& definition);
+    /// After the last control: size of the panel, tab order, labels tied to their controls.
+    void finish();
+
+    /// The controls that are bound to fields, in the order of the file, with what they show.
+    [[nodiscard]] BoundFields contents() const;
+    /// Shows @p fields, which come from contents().
+    void showContents(const BoundFields& fields);
+    /// Controls in tab order.
+    [[nodiscard]] const QVector<QWidget*>& tabOrder() const { return m_tabOrder; }
+
+Q_SIGNALS:
+    void findPressed(int element);
+    void maximumExceeded(norvane::ui::NumberBox* box);
+    void gridDataError(norvane::screens::GridControl* grid, const QModelIndex& index);
+
+private:
+    struct Control {
+        ControlDefinition definition;
+        QWidget* widget;
+    };
+
+    [[nodiscard]] QWidget* make(const ControlDefinition& definition, int element);
+    [[nodiscard]] QWidget* makeFind(int element);
+    [[nodiscard]] QWidget* makeNumber(const ControlDefinition& definition);
+    [[nodiscard]] QWidget* makeText(const ControlDefinition& definition);
+    [[nodiscard]] QWidget* makeCombo(const ControlDefinition& definition);
+    [[nodiscard]] QWidget* makeGrid(const ControlDefinition& definition);
+    [[nodiscard]] int nextElement(ControlKind kind);
+    void place(const ControlDefinition& definition, QWidget& widget);
+    void countBottom(const ControlDefinition& definition);
+    void chain();
+
+    std::shared_ptr<store::Database> m_database;
+    QWidget* m_picture; ///< carries the controls
+    QVector<Control> m_controls;
+    QHash<ControlKind, int> m_counters; ///< next element of each kind
+    GridControl* m_grid = nullptr;      ///< the one grid; each grid section is about it
+    double m_bottom = 0;                ///< twips
+    QVector<QWidget*> m_tabOrder;
+};
+
+} // namespace norvane::screens

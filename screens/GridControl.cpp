@@ -1,0 +1,54 @@
+// See GridControl.h.
+#include "screens/GridControl.h"
+
+#include "screens/GridModel.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+
+namespace norvane::screens
+{
+namespace
+{
+
+constexpr int heightOfRow = 24;
+
+} // namespace
+
+GridControl::GridControl(QWidget* parent) : QTableView(parent)
+{
+    setAlternatingRowColors(true);
+    setTabKeyNavigation(false);
+    setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked | SelectedClicked);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(heightOfRow);
+    horizontalHeader()->setHighlightSections(false);
+}
+
+void GridControl::showQuery(const std::shared_ptr<store::Database>& database,
+                            const ControlDefinition& definition)
+{
+    auto* const grid = new GridModel(database, definition.sqlCriteria, definition.gridColumns, this);
+    // The message may open only after the view is done with the editor that it closes.
+    connect(grid, &GridModel::refused, this, &GridControl::dataError, Qt::QueuedConnection);
+    delete model();
+    setModel(grid);
+    for (int column = 0; column < definition.gridColumns.size(); ++column) {
+        const GridColumn& told = definition.gridColumns[column];
+        if (told.width)
+            setColumnWidth(column, qRound(*told.width / twipsPerPixel));
+        setColumnHidden(column, !told.visible);
+    }
+}
+
+void GridControl::retryCell(const QModelIndex& index)
+{
+    setFocus();
+    setCurrentIndex(index);
+    edit(index);
+    if (auto* const editor = viewport()->findChild<QLineEdit*>())
+        editor->clear();
+}
+
+} // namespace norvane::screens

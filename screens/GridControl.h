@@ -1,0 +1,33 @@
+// The grid of a screen.
+#pragma once
+
+#include "screens/ScreenDefinition.h"
+#include "store/Database.h"
+
+#include <QTableView>
+
+#include <memory>
+
+namespace norvane::screens
+{
+
+/// Shows a query; the cells of its columns can be edited where they are not locked.
+class GridControl : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit GridControl(QWidget* parent = nullptr);
+
+    /// Shows the query of @p definition under its headings, in the place of what was shown before.
+    /// @throws RuntimeFailure 3061, 5
+    void showQuery(const std::shared_ptr<store::Database>& database, const ControlDefinition& definition);
+    /// Opens the current cell anew, emptied, with the focus in it.
+    void retryCell(const QModelIndex& index);
+
+Q_SIGNALS:
+    /// What was entered cannot be stored. Raised once the cell's editor is closed.
+    void dataError(const QModelIndex& index);
+};
+
+} // namespace norvane::screens

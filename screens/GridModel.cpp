@@ -1,0 +1,183 @@
+// Rows of a grid; see GridModel.h.
+#include "screens/GridModel.h"
+
+#include "platform/Numbers.h"
+#include "platform/RuntimeFailure.h"
+
+#include <cstdlib>
+
+namespace norvane::screens
+{
+namespace
+{
+
+constexpr int rowsAtATime = 200;
+
+/// The zeros and the point of a format such as "#,##0.00" are what counts.
+QString zerosOf(const QString& format)
+{
+    QString zeros;
+    for (const QChar character : format)
+        if (character == u'0' || character == u'.')
+            zeros += character;
+    return zeros;
+}
+
+bool isNumber(const QString& text)
+{
+    return Decimal::parse(text.toStdString()).has_value();
+}
+
+QString formatted(const store::Value& value, const QString& format)
+{
+    const QString text = value.toText();
+    const QString zeros = zerosOf(format);
+    return zeros.isEmpty() || !isNumber(text) ? text : formatNumber(text, zeros);
+}
+
+} // namespace
+
+GridModel::GridModel(std::shared_ptr<store::Database> database, const QString& sql,
+                     QVector<GridColumn> columns, QObject* parent)
+    : QAbstractTableModel(parent), m_database(std::move(database)), m_columns(std::move(columns))
+{
+    if (sql.isEmpty())
+        return;
+    m_records.emplace(m_database->openQuery(sql));
+    m_total = static_cast<int>(m_records->recordCount());
+    if (m_columns.size() > m_records->fieldCount())
+        throw RuntimeFailure(Failure::InvalidArgument,
+                             QStringLiteral("The grid has %1 headings and its query %2 columns")
+                                 .arg(m_columns.size())
+                                 .arg(m_records->fieldCount()));
+    fetchMore({});
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const
+{
+    if (parent.isValid())
+        return 0;
+    return m_records ? m_records->fieldCount() : static_cast<int>(m_columns.size());
+}
+
+bool GridModel::canFetchMore(const QModelIndex& parent) const
+{
+    return !parent.isValid() && rowCount() < m_total;
+}
+
+void GridModel::fetchMore(const QModelIndex& /*parent*/)
+{
+    const int first = rowCount();
+    const int last = qMin(m_total, first + rowsAtATime) - 1;
+    if (last < first)
+        return;
+    beginInsertRows({}, first, last);
+    for (int row = first; row <= last; ++row) {
+        moveTo(row);
+        m_rows.push_back(currentRow());
+    }
+    endInsertRows();
+}
+
+GridModel::Row GridModel::currentRow() const
+{
+    Row row;
+    for (int field = 0; field < m_records->fieldCount(); ++field)
+        row.push_back(m_records->value(field));
+    return row;
+}
+
+void GridModel::moveTo(int row)
+{
+    if (row < std::abs(row - m_place)) {
+        m_records->moveFirst();
+        m_place = 0;
+    }
+    for (; m_place < row; ++m_place)
+        m_records->moveNext();
+    for (; m_place > row; --m_place)
+        m_records->movePrevious();
+}
+
+const store::Value& GridModel::cell(const QModelIndex& index) const
+{
+    return m_rows[static_cast<std::size_t>(index.row())][static_cast<std::size_t>(index.column())];
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+        return formatted(cell(index), column(index.column()).numberFormat);
+    case Qt::EditRole:
+        return cell(index).toText();
+    case Qt::TextAlignmentRole: {
+        const bool isNumeric = !cell(index).isText() || !column(index.column()).numberFormat.isEmpty();
+        return static_cast<int>((isNumeric ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    }
+    default:
+        return {};
+    }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return section < m_columns.size() ? m_columns[section].caption : m_records->field(section).name;
+}
+
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const
+{
+    const auto flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    return column(index.column()).locked ? flags : flags | Qt::ItemIsEditable;
+}
+
+store::Value GridModel::valueOf(int column, const QString& text) const
+{
+    if (text.isEmpty() && m_records->field(column).type != store::FieldType::Text)
+        return {};
+    // Prices stand in text fields, which take any text; a column of numbers must not.
+    if (!this->column(column).numberFormat.isEmpty() && !text.isEmpty()) {
+        const auto number = Decimal::parse(text.toStdString());
+        if (!number)
+            throw RuntimeFailure(Failure::Conversion, QStringLiteral("\"%1\" is no number").arg(text));
+        return store::Value::text(number->text());
+    }
+    return store::Value::text(text);
+}
+
+void GridModel::storeCell(const QModelIndex& index, const QString& text)
+{
+    moveTo(index.row());
+    try {
+        m_records->edit();
+        m_records->setValue(index.column(), valueOf(index.column(), text));
+        m_records->update();
+    } catch (const RuntimeFailure&) {
+        m_records->cancelUpdate();
+        throw;
+    }
+    m_rows[static_cast<std::size_t>(index.row())] = currentRow();
+}
+
+bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role != Qt::EditRole || value.toString() == cell(index).toText())
+        return false;
+    try {
+        storeCell(index, value.toString());
+    } catch (const RuntimeFailure&) {
+        Q_EMIT refused(index);
+        return false;
+    }
+    Q_EMIT dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
+    return true;
+}
+
+} // namespace norvane::screens

@@ -1,0 +1,61 @@
+// Rows of a query as a grid shows and edits them.
+#pragma once
+
+#include "screens/ScreenDefinition.h"
+#include "store/Database.h"
+#include "store/Recordset.h"
+
+#include <QAbstractTableModel>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace norvane::screens
+{
+
+/// Reads the rows as the user scrolls to them, so that a long table opens at once. An edited cell is stored
+/// at once. The grid has no record in common with the rest of its screen.
+class GridModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    /// @param sql a query or the name of a table; an empty text gives a grid without rows.
+    /// @param columns headings and formats of the first columns; the query's further ones show under their
+    /// field names. @throws RuntimeFailure 3061 for a faulty query, 5 for more headings than columns.
+    GridModel(std::shared_ptr<store::Database> database, const QString& sql, QVector<GridColumn> columns,
+              QObject* parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] bool canFetchMore(const QModelIndex& parent) const override;
+    void fetchMore(const QModelIndex& parent) override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+Q_SIGNALS:
+    /// The store cannot hold what was entered; the cell keeps its value.
+    void refused(const QModelIndex& index);
+
+private:
+    using Row = std::vector<store::Value>;
+
+    [[nodiscard]] GridColumn column(int number) const { return m_columns.value(number); }
+    [[nodiscard]] const store::Value& cell(const QModelIndex& index) const;
+    [[nodiscard]] Row currentRow() const;
+    void moveTo(int row);
+    void storeCell(const QModelIndex& index, const QString& text);
+    [[nodiscard]] store::Value valueOf(int column, const QString& text) const;
+
+    std::shared_ptr<store::Database> m_database;
+    QVector<GridColumn> m_columns;
+    std::optional<store::Recordset> m_records;
+    int m_place = 0; ///< row on which the recordset stands
+    int m_total = 0;
+    std::vector<Row> m_rows; ///< those read so far
+};
+
+} // namespace norvane::screens

@@ -1,0 +1,77 @@
+// The one record editor behind all screens that are described by screen files.
+#pragma once
+
+#include "platform/Boxes.h"
+#include "screens/ReportRunner.h"
+#include "screens/ScreenReader.h"
+#include "shell/ApplicationValues.h"
+#include "store/Database.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QPushButton;
+
+namespace norvane::ui
+{
+class NumberBox;
+}
+
+namespace norvane::screens
+{
+
+class FieldPanel;
+class GridControl;
+class RecordEditor;
+
+/// Builds itself from the screen file at ApplicationValues::screenFilePath over the database at databasePath.
+/// Each instance has a connection and a place in the table of its own, so that several may be open on one
+/// table. Closing it loses what was not saved, without a question.
+class OptionForm : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @param reports behind the print button, which is greyed without it.
+    /// @throws RuntimeFailure 3265 for an unknown table, index or field, 3021 for an empty table, 13 for a
+    /// bad number or word in the file, and those of the database; the text names the screen file.
+    OptionForm(ApplicationValues& values, Boxes& boxes, ReportRunner* reports = nullptr,
+               QWidget* parent = nullptr);
+    ~OptionForm() override;
+
+    [[nodiscard]] QSize sizeHint() const override { return m_size; }
+
+    /// Puts the current record into the controls.
+    void ShowFields();
+
+private:
+    void openTable();
+    void buildWindow();
+    void buildControls();
+    void buildButtons();
+    void fitButtons(const QVector<QPushButton*>& shown);
+
+    void addRecord();
+    void saveRecord();
+    void deleteRecord();
+    void nextRecord();
+    void previousRecord();
+    void findRecord(int element);
+    void printReport();
+    void rejectNumber(ui::NumberBox& box);
+    void rejectCell(GridControl& grid, const QModelIndex& index);
+    void tellNoMoreRecords();
+
+    ApplicationValues& m_values;
+    Boxes& m_boxes;
+    ReportRunner* m_reports;
+    ScreenReader m_file;
+    QString m_databasePath;
+    std::shared_ptr<store::Database> m_database;
+    std::unique_ptr<RecordEditor> m_editor;
+    FieldPanel* CSPict1 = nullptr;
+    QSize m_size;
+};
+
+} // namespace norvane::screens

@@ -1,0 +1,215 @@
+// Operations of a screen on its table; see RecordEditor.h.
+#include "screens/RecordEditor.h"
+
+#include "platform/Numbers.h"
+#include "platform/RuntimeFailure.h"
+
+#include <array>
+
+namespace norvane::screens
+{
+namespace
+{
+
+constexpr int pluNumberDigits = 18;
+
+QString pluNumber(const QString& text)
+{
+    return (QString(pluNumberDigits, u'0') + text).right(pluNumberDigits);
+}
+
+bool isPluNumber(const QString& name)
+{
+    return name.compare(QLatin1String("PLUNUMBER"), Qt::CaseInsensitive) == 0;
+}
+
+/// Runs @p act and names the screen file in its failure: most of them are slips in that file.
+template <typename Act>
+auto namingFile(const QString& file, Act act)
+{
+    try {
+        return act();
+    } catch (const RuntimeFailure& failure) {
+        throw RuntimeFailure(failure.failure(), QStringLiteral("%1 (%2)").arg(failure.text(), file));
+    }
+}
+
+store::Value leadingNumberOf(const store::Value& value)
+{
+    if (value.isYesNo())
+        return store::Value::whole(value.isTrue() ? -1 : 0);
+    return store::Value::text(Decimal::leading(value.toUtf8()).text());
+}
+
+store::Value shownNumber(const store::Value& value)
+{
+    return store::Value::text(Decimal::leading(value.toUtf8()).text());
+}
+
+/// A whole-number box has no way to show null, unlike the others.
+store::Value shownInteger(const store::Value& value, const QString& field)
+{
+    if (value.isNull())
+        throw RuntimeFailure(Failure::TypeMismatch,
+                             QStringLiteral("Invalid use of null: field \"%1\" holds no number").arg(field));
+    return shownNumber(value);
+}
+
+store::Value shownValue(const BoundField& field, const store::Value& value)
+{
+    switch (field.kind) {
+    case ControlKind::Text:
+        return store::Value::text(value.toUtf8());
+    case ControlKind::Integer:
+        return shownInteger(value, field.dataField);
+    case ControlKind::Decimal:
+        return shownNumber(value);
+    case ControlKind::Check:
+        return store::Value::whole(value.isTrue() ? 1 : 0);
+    default:
+        return value;
+    }
+}
+
+store::Value blankValue(ControlKind kind)
+{
+    return kind == ControlKind::Text ? store::Value::text(std::string()) : store::Value::whole(0);
+}
+
+/// A number field shows null as an empty box; saved unchanged it stays null.
+store::Value textToStore(const store::Value& content, const store::FieldDefinition& field)
+{
+    const bool isBlank = QString::fromStdString(content.toUtf8()).trimmed().isEmpty();
+    return isBlank && field.type != store::FieldType::Text ? store::Value() : content;
+}
+
+store::Value valueToStore(const BoundField& field, const store::FieldDefinition& definition)
+{
+    switch (field.kind) {
+    case ControlKind::Text:
+        return textToStore(field.content, definition);
+    case ControlKind::Integer:
+        return store::Value::whole(toWholeNumber(field.content.toText()));
+    case ControlKind::Combo:
+    case ControlKind::Decimal:
+        return leadingNumberOf(field.content);
+    default:
+        return field.content;
+    }
+}
+
+using KindOrder = std::array<ControlKind, 5>;
+constexpr KindOrder showOrder{ControlKind::Text, ControlKind::Combo, ControlKind::Integer,
+                              ControlKind::Decimal, ControlKind::Check};
+constexpr KindOrder saveOrder{ControlKind::Text, ControlKind::Combo, ControlKind::Decimal,
+                              ControlKind::Integer, ControlKind::Check};
+
+/// The kinds one after the other; controls without a field are left out.
+template <typename Fields, typename Act>
+void forEachBound(Fields& fields, const KindOrder& order, Act act)
+{
+    for (const ControlKind kind : order)
+        for (auto& field : fields)
+            if (field.kind == kind && !field.dataField.trimmed().isEmpty())
+                act(field);
+}
+
+} // namespace
+
+RecordEditor::RecordEditor(std::shared_ptr<store::Database> database, ScreenTable table, QString screenFile)
+    : m_database(std::move(database)), m_table(std::move(table)), m_screenFile(std::move(screenFile)),
+      m_records(namingFile(m_screenFile, [&] { return m_database->openTable(m_table.table); }))
+{
+    chooseIndex(m_table.firstIndex);
+}
+
+void RecordEditor::chooseIndex(const QString& index)
+{
+    namingFile(m_screenFile, [&] { m_records.setIndex(index); });
+}
+
+void RecordEditor::showFields(BoundFields& fields) const
+{
+    namingFile(m_screenFile, [&] {
+        forEachBound(fields, showOrder, [this](BoundField& field) {
+            field.content = shownValue(field, m_records.value(field.dataField));
+        });
+    });
+}
+
+void RecordEditor::add(BoundFields& fields)
+{
+    forEachBound(fields, showOrder, [](BoundField& field) { field.content = blankValue(field.kind); });
+    m_records.addNew();
+}
+
+SaveOutcome RecordEditor::save(BoundFields& fields)
+{
+    try {
+        if (m_records.editMode() != store::EditMode::Adding)
+            m_records.edit();
+        forEachBound(fields, saveOrder, [this](BoundField& field) { storeField(field); });
+        m_records.update();
+        return SaveOutcome::Stored;
+    } catch (const RuntimeFailure& failure) {
+        return failure.failure() == Failure::DuplicateKey ? SaveOutcome::DuplicateKey : SaveOutcome::Refused;
+    }
+}
+
+void RecordEditor::storeField(BoundField& field)
+{
+    if (field.kind == ControlKind::Text && isPluNumber(field.dataField))
+        field.content = store::Value::text(pluNumber(field.content.toText()));
+    if (field.readOnly)
+        return;
+    const int ordinal = m_records.fieldOrdinal(field.dataField);
+    m_records.setValue(ordinal, valueToStore(field, m_records.field(ordinal)));
+}
+
+void RecordEditor::deleteRecord()
+{
+    if (m_records.editMode() == store::EditMode::Adding) {
+        // The user sees the new record, so it is the one that goes; the one behind it stays.
+        m_records.cancelUpdate();
+    } else {
+        m_records.deleteRecord();
+    }
+    m_records.moveFirst();
+    m_beyondLast = false;
+}
+
+bool RecordEditor::next()
+{
+    if (!m_beyondLast)
+        m_records.moveNext();
+    if (!m_beyondLast && !m_records.atEnd())
+        return true;
+    m_records.moveLast();
+    m_beyondLast = false;
+    return false;
+}
+
+bool RecordEditor::previous()
+{
+    if (m_beyondLast) {
+        m_records.moveLast();
+        m_beyondLast = false;
+        return true;
+    }
+    m_records.movePrevious();
+    if (!m_records.atBeginning())
+        return true;
+    m_records.moveFirst();
+    return false;
+}
+
+bool RecordEditor::find(int button, const QString& text)
+{
+    const QString& index = button == 2 ? m_table.secondIndex : m_table.firstIndex;
+    chooseIndex(index);
+    const QString key = isPluNumber(index) ? pluNumber(text) : text;
+    m_beyondLast = !m_records.seek(store::Seek::AtOrAfter, store::Value::text(key));
+    return !m_beyondLast;
+}
+
+} // namespace norvane::screens

@@ -1,0 +1,27 @@
+// What the print button of a screen asks for.
+#pragma once
+
+#include <QString>
+
+namespace norvane::screens
+{
+
+struct ReportRequest {
+    QString reportFile; ///< path of the layout
+    QString title;      ///< of the report's window
+    QString database;   ///< path of the database that the report reads, as stored
+};
+
+/// Shows a report over a whole table.
+class ReportRunner
+{
+public:
+    ReportRunner() = default;
+    ReportRunner(const ReportRunner&) = delete;
+    ReportRunner& operator=(const ReportRunner&) = delete;
+    virtual ~ReportRunner() = default;
+
+    virtual void run(const ReportRequest& request) = 0;
+};
+
+} // namespace norvane::screens

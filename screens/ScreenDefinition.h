@@ -1,0 +1,94 @@
+// What a screen file (.scn) says: the table that a screen edits, its window, its controls, its buttons, its
+// report.
+#pragma once
+
+#include "platform/Decimal.h"
+
+#include <QString>
+#include <QVector>
+
+#include <optional>
+
+namespace norvane::screens
+{
+
+/// Screen files measure in twips, 15 to the pixel.
+inline constexpr double twipsPerPixel = 15;
+
+/// Section "Database".
+struct ScreenTable {
+    QString table;       ///< empty when the file does not say it
+    QString firstIndex;  ///< order at the start and of find button 1; empty when the file does not say it
+    QString secondIndex; ///< order of find button 2; the first index when the file gives no second one
+};
+
+/// Section "FormName".
+struct ScreenWindow {
+    QString name;      ///< caption
+    QString helpTopic; ///< kept with the screen; nothing shows it
+    std::optional<double> width;
+    std::optional<double> height;
+};
+
+enum class ControlKind { Find, Check, Label, Integer, Decimal, Text, Combo, Grid };
+
+/// Column of a grid.
+struct GridColumn {
+    QString caption;
+    std::optional<double> width; ///< twips
+    bool locked = false;         ///< cannot be edited
+    QString numberFormat;        ///< zeros with a point ("0.00"); empty shows the value as it is
+    bool visible = true;
+};
+
+/// Section "FieldN". What the file does not give stays empty, and the control stays as it is made.
+struct ControlDefinition {
+    QString section; ///< "Field12"
+    ControlKind kind = ControlKind::Label;
+    std::optional<double> x; ///< twips, as are all lengths here
+    std::optional<double> y;
+    std::optional<double> width;
+    std::optional<double> height;
+    std::optional<bool> visible;
+    std::optional<bool> enabled;
+    std::optional<bool> readOnly;
+    std::optional<int> tabIndex;
+    std::optional<int> decimals;
+    std::optional<Decimal> maximum; ///< largest number of a number box, most characters of a text box
+    QString description;
+    QString dataField;
+    QString justify;      ///< "0" left, "1" right, "2" centre
+    QString characters;   ///< "NUMERIC" in any case for digits only
+    QString sqlCriteria;  ///< query behind a combo or grid
+    QString list;         ///< rows of a combo without query: "0;Off,1;On"
+    QString columnWidths; ///< of a combo's list, in twips, separated by ";"; 0 hides a column
+    QString valueColumn;  ///< column of a combo's list that is the value, from 0
+    QVector<GridColumn> gridColumns;
+};
+
+/// Section "visiblekeys". The exit button is always shown.
+struct ScreenButtons {
+    bool add = false;
+    bool previous = false;
+    bool next = false;
+    bool remove = false;
+    bool save = true;
+    bool print = false;
+};
+
+/// Section "CrystalReport", as written in the file.
+struct ScreenReport {
+    QString file;
+    QString title;
+};
+
+/// A whole screen file.
+struct ScreenDefinition {
+    ScreenTable table;
+    ScreenWindow window;
+    QVector<ControlDefinition> controls;
+    ScreenButtons buttons;
+    ScreenReport report;
+};
+
+} // namespace norvane::screens

@@ -1,0 +1,42 @@
+// Reader of screen files (.scn).
+#pragma once
+
+#include "platform/ProfileFile.h"
+#include "screens/ScreenDefinition.h"
+
+namespace norvane::screens
+{
+
+/// Reads a screen file once and hands it out section by section, so that a screen can report what is wrong in
+/// the order in which it builds itself. Missing keys, sections and files are no failure. A number that is
+/// none, or a word that is neither true nor false, is failure 13 with a text that names file, section and
+/// key.
+class ScreenReader
+{
+public:
+    explicit ScreenReader(const QString& path);
+
+    [[nodiscard]] const QString& path() const { return m_path; }
+    [[nodiscard]] ScreenTable table() const;
+    /// @throws RuntimeFailure 13
+    [[nodiscard]] ScreenWindow window() const;
+    /// The controls from "Field1" up to the first section without a control type; sections of an unknown type
+    /// are left out. @throws RuntimeFailure 13, 6
+    [[nodiscard]] QVector<ControlDefinition> controls() const;
+    [[nodiscard]] ScreenButtons buttons() const;
+    [[nodiscard]] ScreenReport report() const;
+    /// All of it. @throws RuntimeFailure 13, 6
+    [[nodiscard]] ScreenDefinition whole() const;
+
+private:
+    [[nodiscard]] ControlDefinition control(const QString& section, ControlKind kind) const;
+    [[nodiscard]] QVector<GridColumn> gridColumns(const QString& section) const;
+    /// Hands the value of a key that is given to @p convert.
+    template <typename Convert>
+    void read(const QString& section, const QString& key, int limit, Convert convert) const;
+
+    QString m_path;
+    ProfileFile m_file;
+};
+
+} // namespace norvane::screens

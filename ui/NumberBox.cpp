@@ -1,0 +1,102 @@
+// Typing rules of the number boxes; see NumberBox.h.
+#include "ui/NumberBox.h"
+
+#include <QValidator>
+
+#include <algorithm>
+
+namespace norvane::ui
+{
+namespace
+{
+
+/// What exact numbers hold; a longer one cannot be typed.
+constexpr int mostDigits = 18;
+
+QStringView withoutLeadingZeros(QStringView digits)
+{
+    while (digits.startsWith(u'0'))
+        digits = digits.sliced(1);
+    return digits;
+}
+
+/// Compares plain number texts digit by digit, so that no digit of a long number is lost.
+bool isAbove(const QString& left, const QString& right)
+{
+    const QStringView leftWhole = withoutLeadingZeros(QStringView(left).left(left.indexOf(u'.')));
+    const QStringView rightWhole = withoutLeadingZeros(QStringView(right).left(right.indexOf(u'.')));
+    if (leftWhole.size() != rightWhole.size())
+        return leftWhole.size() > rightWhole.size();
+    if (leftWhole != rightWhole)
+        return leftWhole > rightWhole;
+    return left.section(u'.', 1).leftJustified(mostDigits, u'0') >
+           right.section(u'.', 1).leftJustified(mostDigits, u'0');
+}
+
+} // namespace
+
+/// Digits and, where there is a fraction, one point. A comma is taken as a point, since many keyboards have
+/// it there.
+class NumberBox::Validator : public QValidator
+{
+public:
+    Validator(Point point, QObject* parent) : QValidator(parent), m_point(point) {}
+
+    void allowMinus(bool allowed) { m_minus = allowed; }
+
+    State validate(QString& input, int& /*cursor*/) const override
+    {
+        if (m_point == Point::Allowed)
+            input.replace(u',', u'.');
+        QStringView rest(input);
+        if (m_minus && rest.startsWith(u'-'))
+            rest = rest.sliced(1);
+        const auto isDigit = [](QChar character) {
+            return character >= u'0' && character <= u'9';
+        };
+        const auto digits = std::count_if(rest.begin(), rest.end(), isDigit);
+        const auto points = m_point == Point::Allowed ? rest.count(u'.') : 0;
+        const bool isNumber = digits + points == rest.size() && points <= 1 && digits <= mostDigits;
+        return isNumber ? Acceptable : Invalid;
+    }
+
+private:
+    Point m_point;
+    bool m_minus = false;
+};
+
+NumberBox::NumberBox(Point point, QWidget* parent)
+    : QLineEdit(parent), m_validator(new Validator(point, this))
+{
+    setValidator(m_validator);
+    setAlignment(Qt::AlignRight);
+    connect(this, &QLineEdit::textEdited, this, &NumberBox::takeTyping);
+    connect(this, &QLineEdit::editingFinished, this, [this] { setText(shownText(value())); });
+}
+
+void NumberBox::setMaximum(const Decimal& maximum)
+{
+    m_maximum = QString::fromStdString(maximum.text());
+}
+
+Decimal NumberBox::value() const
+{
+    return Decimal::leading(text().toStdString());
+}
+
+void NumberBox::setValue(const Decimal& value)
+{
+    m_validator->allowMinus(value.coefficient() < 0);
+    setText(shownText(value));
+}
+
+void NumberBox::takeTyping(const QString& text)
+{
+    if (!m_maximum.isEmpty() && !text.startsWith(u'-') && isAbove(text, m_maximum)) {
+        Q_EMIT maximumExceeded();
+        return;
+    }
+    Q_EMIT valueEdited();
+}
+
+} // namespace norvane::ui

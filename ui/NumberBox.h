@@ -1,0 +1,45 @@
+// What the whole-number box and the decimal box share: typing rules, maximum, the event above it.
+#pragma once
+
+#include "platform/Decimal.h"
+
+#include <QLineEdit>
+
+namespace norvane::ui
+{
+
+/// A box for one number without a sign: registers know no negative amounts, so that no minus can be typed. A
+/// stored negative number is shown all the same and stays what it is until it is typed over. Holds up to 18
+/// digits. An empty box counts as 0. Setting a value by program raises no signal.
+class NumberBox : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    /// The largest number that may be typed; a larger one raises maximumExceeded.
+    void setMaximum(const Decimal& maximum);
+    [[nodiscard]] Decimal value() const;
+    virtual void setValue(const Decimal& value);
+
+Q_SIGNALS:
+    /// The user changed the number.
+    void valueEdited();
+    /// What the user typed or pasted is above the maximum. Raised once for each such entry, as soon as it is
+    /// made; the box still holds the number, and the form decides what becomes of it.
+    void maximumExceeded();
+
+protected:
+    enum class Point { None, Allowed };
+    NumberBox(Point point, QWidget* parent);
+    /// The text that the box shows for @p value when nobody is typing.
+    [[nodiscard]] virtual QString shownText(const Decimal& value) const = 0;
+
+private:
+    void takeTyping(const QString& text);
+
+    class Validator;
+    Validator* m_validator;
+    QString m_maximum; ///< plain number text; empty without a maximum
+};
+
+} // namespace norvane::ui

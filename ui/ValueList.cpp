@@ -1,0 +1,160 @@
+// Rows, columns and value of the value list; see ValueList.h.
+#include "ui/ValueList.h"
+
+#include "platform/Decimal.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace norvane::ui
+{
+namespace
+{
+
+constexpr int columnGap = 10;
+constexpr int columnsRole = Qt::UserRole;
+
+bool sameValue(const QString& left, const QString& right)
+{
+    const auto leftNumber = Decimal::parse(left.toStdString());
+    const auto rightNumber = Decimal::parse(right.toStdString());
+    return leftNumber && rightNumber ? *leftNumber == *rightNumber : left.trimmed() == right.trimmed();
+}
+
+} // namespace
+
+/// Draws the columns of each row one below the other.
+class ValueList::ColumnsDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void setWidths(const QVector<int>& widths) { m_widths = widths; }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem row = option;
+        initStyleOption(&row, index);
+        row.text.clear();
+        QStyle& style = *QApplication::style();
+        style.drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+        const auto role =
+            row.state.testFlag(QStyle::State_Selected) ? QPalette::HighlightedText : QPalette::Text;
+        QRect place = row.rect.adjusted(columnGap / 2, 0, 0, 0);
+        const QStringList columns = index.data(columnsRole).toStringList();
+        for (qsizetype column = 0; column < columns.size(); ++column) {
+            const int width = m_widths.value(column);
+            if (width == 0)
+                continue;
+            if (column < columns.size() - 1)
+                place.setWidth(width);
+            style.drawItemText(painter, place, Qt::AlignLeft | Qt::AlignVCenter, row.palette, true,
+                               columns[column], role);
+            place.setLeft(place.left() + width + columnGap);
+            place.setRight(row.rect.right());
+        }
+    }
+
+private:
+    QVector<int> m_widths;
+};
+
+ValueList::ValueList(QWidget* parent) : QComboBox(parent)
+{
+    setMaxVisibleItems(16);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    connect(this, &QComboBox::activated, this, &ValueList::takePick);
+}
+
+void ValueList::setRows(const QVector<QStringList>& rows)
+{
+    m_rows = rows;
+    fillTexts();
+}
+
+void ValueList::setValueColumn(int column)
+{
+    m_valueColumn = column;
+    setValue(m_value);
+}
+
+void ValueList::setColumnWidths(const QVector<int>& widths)
+{
+    m_widths = widths;
+    fillTexts();
+}
+
+void ValueList::fillTexts()
+{
+    clear();
+    for (const QStringList& row : std::as_const(m_rows)) {
+        QStringList shown;
+        for (qsizetype column = 0; column < row.size(); ++column)
+            if (m_widths.value(column, 1) != 0)
+                shown += row[column];
+        addItem(shown.join(QStringLiteral("  ")), row);
+    }
+    setValue(m_value);
+}
+
+void ValueList::setValue(const QString& value)
+{
+    m_value = value;
+    const auto hasValue = [&](const QStringList& row) {
+        return sameValue(row.value(m_valueColumn), value);
+    };
+    const auto row = value.isNull() ? m_rows.cend() : std::find_if(m_rows.cbegin(), m_rows.cend(), hasValue);
+    const bool found = row != m_rows.cend();
+    setCurrentIndex(found ? static_cast<int>(row - m_rows.cbegin()) : -1);
+    setPlaceholderText(found ? QString() : value);
+}
+
+void ValueList::takePick(int row)
+{
+    m_value = m_rows.value(row).value(m_valueColumn);
+    setPlaceholderText({});
+    Q_EMIT valueEdited();
+}
+
+int ValueList::columnWidth(qsizetype column) const
+{
+    if (column < m_widths.size())
+        return m_widths[column];
+    int widest = 0;
+    for (const QStringList& row : m_rows)
+        widest = qMax(widest, fontMetrics().horizontalAdvance(row.value(column)));
+    return widest;
+}
+
+void ValueList::showPopup()
+{
+    qsizetype columns = 0;
+    for (const QStringList& row : std::as_const(m_rows))
+        columns = qMax(columns, row.size());
+    QVector<int> widths;
+    int all = columnGap + view()->verticalScrollBar()->sizeHint().width();
+    for (qsizetype column = 0; column < columns; ++column) {
+        widths += columnWidth(column);
+        all += widths.back() + columnGap;
+    }
+    view()->setMinimumWidth(all);
+    if (!m_delegate) {
+        m_delegate = new ColumnsDelegate(this);
+        view()->setItemDelegate(m_delegate);
+    }
+    m_delegate->setWidths(widths);
+    QComboBox::showPopup();
+}
+
+void ValueList::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
+} // namespace norvane::ui

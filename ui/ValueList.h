@@ -1,0 +1,55 @@
+// Drop-down list whose rows stand for the values of a field.
+#pragma once
+
+#include <QComboBox>
+#include <QStringList>
+#include <QVector>
+
+namespace norvane::ui
+{
+
+/// Each row has several columns; one of them is the value that is stored, and the user sees all ("3 Drinks").
+/// A value without a row is kept until the user picks one: it shows no row, only its own text in grey.
+class ValueList : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ValueList(QWidget* parent = nullptr);
+
+    void setRows(const QVector<QStringList>& rows);
+    /// Which column, from 0, is the value; the first at first.
+    void setValueColumn(int column);
+    /// Widths of the columns in the open list, in device-independent pixels; a column of width 0 is not
+    /// shown, columns without a width are as wide as their longest text.
+    void setColumnWidths(const QVector<int>& widths);
+
+    /// The value shown or picked; a null text when there is none.
+    [[nodiscard]] QString value() const { return m_value; }
+    /// Shows the row with @p value, numbers met by their value ("03" is 3). A null text clears the list.
+    void setValue(const QString& value);
+
+    void showPopup() override;
+
+Q_SIGNALS:
+    /// The user picked a row.
+    void valueEdited();
+
+protected:
+    /// A wheel turned over the list scrolls the screen and changes no value.
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void takePick(int row);
+    void fillTexts();
+    [[nodiscard]] int columnWidth(qsizetype column) const;
+
+    class ColumnsDelegate;
+    ColumnsDelegate* m_delegate = nullptr; ///< made for the first look at the open list
+    QVector<QStringList> m_rows;
+    QVector<int> m_widths;
+    int m_valueColumn = 0;
+    QString m_value;
+};
+
+} // namespace norvane::ui
