@@ -30,8 +30,10 @@ Register readRegister(int number, const QString& folder)
     result.folder = folder;
     const auto word = ini.value(QStringLiteral("Model")).toString();
     const auto model = modelOfWord(word);
-    if (!model)
-        throw ToolFailure(FileInformationWrong, QStringLiteral("%1: unknown model \"%2\"").arg(ini.fileName(), word));
+    if (!model) {
+        throw ToolFailure(FileInformationWrong,
+                          QStringLiteral("%1: unknown model \"%2\"").arg(ini.fileName(), word));
+    }
     result.model = *model;
     result.generation = ini.value(QStringLiteral("Generation"), 3).toInt();
     result.cards = ini.value(QStringLiteral("Cards"), 1).toInt() != 0;

@@ -10,9 +10,10 @@ namespace bank
 
 /// One step of a tool, as a fault is matched against it.
 struct Step {
-    QString tool;    ///< "VELMARCOMM" or "convert"
-    QString command; ///< VELMARCOMM: open, fetch, send, consolidate, collect, clear; convert: "u67" and the like
-    int file = 0;    ///< 0: the step has no file of its own
+    QString tool; ///< "VELMARCOMM" or "convert"
+    QString
+        command;  ///< VELMARCOMM: open, fetch, send, consolidate, collect, clear; convert: "u67" and the like
+    int file = 0; ///< 0: the step has no file of its own
 };
 
 struct Fault {
@@ -24,8 +25,8 @@ struct Fault {
     std::optional<int> bytesLeft; ///< what arrives of a fetched file; the result stays 0
 };
 
-/// @return the first fault of @p bankFolder's faults.ini that is due at @p step. Every matching call is counted in
-/// faults.log, so that a fault with Nth= comes at the nth one.
+/// @return the first fault of @p bankFolder's faults.ini that is due at @p step. Every matching call is
+/// counted in faults.log, so that a fault with Nth= comes at the nth one.
 [[nodiscard]] std::optional<Fault> dueFault(const QString& bankFolder, const Step& step);
 
 /// Hangs and crashes as the fault says; comes back when it asks for neither or only for a pause.

@@ -32,12 +32,13 @@ public:
     {
         Columns result;
         while (*m_at != '\0' && *m_at != ')') {
-            if (*m_at == ' ')
+            if (*m_at == ' ') {
                 ++m_at;
-            else if (std::isdigit(static_cast<unsigned char>(*m_at)) != 0)
+            } else if (std::isdigit(static_cast<unsigned char>(*m_at)) != 0) {
                 repeat(result);
-            else
+            } else {
                 result.push_back(column());
+            }
         }
         return result;
     }

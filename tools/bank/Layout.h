@@ -22,8 +22,8 @@ enum class Form : quint8 {
 
 struct Column {
     Form form = Form::Text;
-    int width = 0;               ///< characters in the text form; of Bare the longest
-    QList<QByteArray> values{};  ///< of Bare and Code: what may stand there
+    int width = 0;              ///< characters in the text form; of Bare the longest
+    QList<QByteArray> values{}; ///< of Bare and Code: what may stand there
 
     /// Bytes in the packed record.
     [[nodiscard]] int packedLength() const;
@@ -34,7 +34,10 @@ using Columns = std::vector<Column>;
 /// Layout codes are file numbers; the memory file of the newer generation has the code of its conversion.
 constexpr int memoryFile = 52;
 constexpr int newerMemoryCode = 352;
-constexpr int generationOf(int memoryCode) { return memoryCode == newerMemoryCode ? 3 : 2; }
+constexpr int generationOf(int memoryCode)
+{
+    return memoryCode == newerMemoryCode ? 3 : 2;
+}
 
 /// All layout codes in ascending order.
 [[nodiscard]] const std::vector<int>& layoutCodes();

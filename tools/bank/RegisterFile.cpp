@@ -62,9 +62,9 @@ RegisterFile fromBytes(const QByteArray& bytes)
     file.records = bytes.mid(headerLength);
     const qint64 promised = static_cast<qint64>(count) * length;
     if (file.records.size() != promised) {
-        throw ToolFailure(FileSizeMismatch, QStringLiteral("%1 bytes of records, %2 expected")
-                                                .arg(file.records.size())
-                                                .arg(promised));
+        throw ToolFailure(
+            FileSizeMismatch,
+            QStringLiteral("%1 bytes of records, %2 expected").arg(file.records.size()).arg(promised));
     }
     if (checksum(bytes.left(headLength), file.records) != sum)
         throw ToolFailure(BadCrc, QStringLiteral("the checksum does not fit the content"));
@@ -77,8 +77,8 @@ RegisterFile fromBytes(const QByteArray& bytes, int file, Model model)
     if (result.file != file)
         throw wrongInformation(QStringLiteral("holds file %1, not %2").arg(result.file).arg(file));
     if (result.model != model) {
-        throw wrongInformation(QStringLiteral("made for a %1, not for a %2")
-                                   .arg(modelWord(result.model), modelWord(model)));
+        throw wrongInformation(
+            QStringLiteral("made for a %1, not for a %2").arg(modelWord(result.model), modelWord(model)));
     }
     return result;
 }

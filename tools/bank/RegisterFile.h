@@ -1,7 +1,8 @@
 // A register's binary file: a header of 16 bytes and records of one length.
 //
 //   1..4   "NVRF"            5  stamp (report files only, else 0)   6  file number   7  model   8  format, 1
-//   9..12  record count      13..14  record length                  15..16  CRC-16 of bytes 1..14 and the records
+//   9..12  record count      13..14  record length                  15..16  CRC-16 of bytes 1..14 and the
+//   records
 //
 // Numbers are big-endian. The stamp stands at byte 5 because that is where a collected report carries it.
 #pragma once
@@ -16,11 +17,14 @@ namespace bank
 struct RegisterFile {
     int file = 0;
     Model model = Model::Velmaro;
-    int recordLength = 0;  ///< bytes
-    QByteArray records{};  ///< all records, one behind the other
+    int recordLength = 0; ///< bytes
+    QByteArray records{}; ///< all records, one behind the other
     quint8 stamp = 0;
 
-    [[nodiscard]] qsizetype recordCount() const { return recordLength == 0 ? 0 : records.size() / recordLength; }
+    [[nodiscard]] qsizetype recordCount() const
+    {
+        return recordLength == 0 ? 0 : records.size() / recordLength;
+    }
     [[nodiscard]] QByteArray record(qsizetype index) const
     {
         return records.mid(index * recordLength, recordLength);
@@ -29,8 +33,8 @@ struct RegisterFile {
 
 [[nodiscard]] QByteArray toBytes(const RegisterFile& file);
 
-/// @throws ToolFailure FileInformationWrong for what is no register file, FileSizeMismatch when the length does
-/// not fit the header, BadCrc when the content was changed.
+/// @throws ToolFailure FileInformationWrong for what is no register file, FileSizeMismatch when the length
+/// does not fit the header, BadCrc when the content was changed.
 [[nodiscard]] RegisterFile fromBytes(const QByteArray& bytes);
 
 /// As fromBytes(), and refuses another file number or model. @throws ToolFailure FileInformationWrong

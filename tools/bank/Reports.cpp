@@ -1,7 +1,7 @@
 // Consolidating, adding up and writing reports; see Reports.h.
 //
-// A record of a collected file holds its numbers as 64-bit big-endian thousandths, in report 194 behind the 18
-// digits of the PLU and, when the register is set to send them, the 16 characters of its description.
+// A record of a collected file holds its numbers as 64-bit big-endian thousandths, in report 194 behind the
+// 18 digits of the PLU and, when the register is set to send them, the 16 characters of its description.
 #include "tools/bank/Reports.h"
 
 #include "tools/bank/Files.h"
@@ -163,8 +163,10 @@ bool consolidateReports(const Register& target)
 void clearReports(const Register& target)
 {
     QDir folder(QDir(target.folder).filePath(QStringLiteral("consolidated")));
-    if (folder.exists() && !folder.removeRecursively())
-        throw ToolFailure(reportClearError, QStringLiteral("%1: reports cannot be cleared").arg(folder.path()));
+    if (folder.exists() && !folder.removeRecursively()) {
+        throw ToolFailure(reportClearError,
+                          QStringLiteral("%1: reports cannot be cleared").arg(folder.path()));
+    }
 }
 
 void Collection::add(const Register& source)

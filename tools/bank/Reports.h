@@ -1,7 +1,7 @@
 // The sales reports of a register: open totals, what is consolidated for collection, and the collected files.
 //
-// totals/NNN.txt and consolidated/NNN.txt hold one line of comma-separated numbers for each item; those of report
-// 194 begin with the PLU number. An absent line counts as zeros.
+// totals/NNN.txt and consolidated/NNN.txt hold one line of comma-separated numbers for each item; those of
+// report 194 begin with the PLU number. An absent line counts as zeros.
 #pragma once
 
 #include "tools/bank/Bank.h"

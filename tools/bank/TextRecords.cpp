@@ -36,7 +36,9 @@ void checkWidth(const QByteArray& value, const Column& column)
 
 void checkContent(const QByteArray& value, const Column& column)
 {
-    const auto isControl = [](char each) { return static_cast<unsigned char>(each) < 0x20; };
+    const auto isControl = [](char each) {
+        return static_cast<unsigned char>(each) < 0x20;
+    };
     switch (column.form) {
     case Form::Text:
         if (std::any_of(value.begin(), value.end(), isControl))
@@ -150,8 +152,10 @@ QByteArray packText(const QByteArray& text, const Columns& columns)
     for (qsizetype start = 0; start < text.size();) {
         ++number;
         const auto end = text.indexOf(lineEnd, start);
-        if (end < 0)
-            throw TextFault(number, 0, QStringLiteral("the line does not end in carriage return and line feed"));
+        if (end < 0) {
+            throw TextFault(number, 0,
+                            QStringLiteral("the line does not end in carriage return and line feed"));
+        }
         records += packLine(text.mid(start, end - start), columns, number);
         start = end + lineEnd.size();
     }

@@ -21,7 +21,8 @@ enum Result {
     TimeOut = 8,
     BadCrc = 11,
     MachineBusy = 12,
-    /// The consolidated reports of an earlier run still wait for collection or clearing; they stay as they are.
+    /// The consolidated reports of an earlier run still wait for collection or clearing; they stay as they
+    /// are.
     ReportsWaiting = -13,
 };
 

@@ -1,6 +1,5 @@
-// convert: turns a register's binary file into comma text and back, and collected reports into text. The exit code
-// is not zero when anything does not fit; the target is then left as it was.
-#include "tools/convert/Operation.h"
+// convert: turns a register's binary file into comma text and back, and collected reports into text. The exit
+// code is not zero when anything does not fit; the target is then left as it was.
 #include "tools/bank/Bank.h"
 #include "tools/bank/FaultList.h"
 #include "tools/bank/Files.h"
@@ -9,6 +8,7 @@
 #include "tools/bank/Reports.h"
 #include "tools/bank/TextRecords.h"
 #include "tools/bank/ToolFailure.h"
+#include "tools/convert/Operation.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -81,8 +81,9 @@ void run(const Operation& operation)
     try {
         writeFile(pathOf(folder, operation.target), converted(operation, source));
     } catch (const TextFault& fault) {
-        throw ToolFailure(FileInformationWrong,
-                          QStringLiteral("%1: %2").arg(place(operation, fault), QString::fromUtf8(fault.what())));
+        throw ToolFailure(
+            FileInformationWrong,
+            QStringLiteral("%1: %2").arg(place(operation, fault), QString::fromUtf8(fault.what())));
     }
 }
 

@@ -46,7 +46,10 @@ QString contentsName(int file, Model model)
 class Works
 {
 public:
-    Works(const Register& target, int kindIndex, int plus) : m_target(target), m_kindIndex(kindIndex), m_plus(plus) {}
+    Works(const Register& target, int kindIndex, int plus)
+        : m_target(target), m_kindIndex(kindIndex), m_plus(plus)
+    {
+    }
 
     void run()
     {
@@ -124,9 +127,9 @@ private:
         const auto shop = contents(pluFile);
         for (const auto& record : shop)
             numbers += record.first();
-        return layOutKeyboards(
-            resource(m_target.model == Model::Dorvik ? QStringLiteral("keys-dorvik") : QStringLiteral("keys-velmar")),
-            numbers);
+        return layOutKeyboards(resource(m_target.model == Model::Dorvik ? QStringLiteral("keys-dorvik")
+                                                                        : QStringLiteral("keys-velmar")),
+                               numbers);
     }
 
     /// The shop's range, cut to the wanted number or continued with numbered variants of its articles.
@@ -159,7 +162,8 @@ private:
             QByteArrayList record{article.first()};
             for (int level = 0; level < levels; ++level) {
                 const auto price = article.at(firstPrice + 2 * level).toInt();
-                record += padded(QByteArray::number(price / 100), layout.at(static_cast<std::size_t>(level) + 1));
+                record +=
+                    padded(QByteArray::number(price / 100), layout.at(static_cast<std::size_t>(level) + 1));
             }
             records += record;
         }

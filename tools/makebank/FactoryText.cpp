@@ -31,16 +31,17 @@ public:
 
     void takeLine(const QByteArray& line)
     {
-        if (line.startsWith("columns "))
+        if (line.startsWith("columns ")) {
             setTargets(line.mid(8));
-        else if (line.startsWith("default "))
+        } else if (line.startsWith("default ")) {
             setDefaults(line.mid(8));
-        else if (line.startsWith("fill "))
+        } else if (line.startsWith("fill ")) {
             fill(line.mid(5));
-        else if (line.startsWith('*'))
+        } else if (line.startsWith('*')) {
             repeat(line.mid(1));
-        else
+        } else {
             addRow(line);
+        }
     }
 
     [[nodiscard]] const Records& records() const { return m_records; }
@@ -73,11 +74,10 @@ private:
 
     void fill(const QByteArray& line)
     {
-        const auto blank = line.indexOf(' ');
-        const auto word = line.left(blank);
+        const auto word = line.split(' ').first();
         const int count = word == "room" ? m_room : word.toInt();
         while (m_records.size() < count)
-            addRow(blank < 0 ? QByteArray() : line.mid(blank + 1));
+            addRow(line.mid(word.size() + 1));
     }
 
     void addRow(QByteArray row)
@@ -136,12 +136,11 @@ Records readFactoryText(const QByteArray& text, const QString& name, const Colum
         try {
             reader.takeLine(line);
         } catch (const std::runtime_error& failure) {
-            throw std::runtime_error(
-                QStringLiteral("factory contents %1, line %2: %3")
-                    .arg(name)
-                    .arg(number)
-                    .arg(QString::fromUtf8(failure.what()))
-                    .toStdString());
+            throw std::runtime_error(QStringLiteral("factory contents %1, line %2: %3")
+                                         .arg(name)
+                                         .arg(number)
+                                         .arg(QString::fromUtf8(failure.what()))
+                                         .toStdString());
         }
     }
     return reader.records();

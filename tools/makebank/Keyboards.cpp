@@ -1,4 +1,5 @@
-// Walks the key plan as the register numbers its keys: column by column from the left, each from the bottom up.
+// Walks the key plan as the register numbers its keys: column by column from the left, each from the bottom
+// up.
 #include "tools/makebank/Keyboards.h"
 
 namespace bank

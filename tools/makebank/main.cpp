@@ -31,8 +31,10 @@ int numberOf(const QCommandLineParser& parser, const QString& name, int least, i
 {
     bool isNumber = false;
     const int number = parser.value(name).toInt(&isNumber);
-    if (!isNumber || number < least || number > most)
-        throw std::runtime_error(QStringLiteral("--%1 takes %2 to %3").arg(name).arg(least).arg(most).toStdString());
+    if (!isNumber || number < least || number > most) {
+        throw std::runtime_error(
+            QStringLiteral("--%1 takes %2 to %3").arg(name).arg(least).arg(most).toStdString());
+    }
     return number;
 }
 
@@ -42,19 +44,21 @@ Wish readWish(const QCoreApplication& application)
     parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("Folder of the bank."));
     parser.addOptions({
-        {QStringLiteral("registers"), QStringLiteral("Number of registers."), QStringLiteral("N"), QStringLiteral("1")},
+        {QStringLiteral("registers"), QStringLiteral("Number of registers."), QStringLiteral("N"),
+         QStringLiteral("1")},
         {QStringLiteral("model"), QStringLiteral("Kind of register, 0 to 3."), QStringLiteral("index"),
          QStringLiteral("2")},
-        {QStringLiteral("plus"), QStringLiteral("Number of PLUs; 0: the shop's own range."), QStringLiteral("N"),
-         QStringLiteral("0")},
+        {QStringLiteral("plus"), QStringLiteral("Number of PLUs; 0: the shop's own range."),
+         QStringLiteral("N"), QStringLiteral("0")},
         {QStringLiteral("fresh"), QStringLiteral("Make the bank anew.")},
     });
     parser.process(application);
     if (parser.positionalArguments().size() != 1)
         throw std::runtime_error("one folder is needed, see --help");
-    return {parser.positionalArguments().first(), numberOf(parser, QStringLiteral("registers"), 1, mostRegisters),
-            numberOf(parser, QStringLiteral("model"), 0, 3), numberOf(parser, QStringLiteral("plus"), 0, mostPlus),
-            parser.isSet(QStringLiteral("fresh"))};
+    return {parser.positionalArguments().first(),
+            numberOf(parser, QStringLiteral("registers"), 1, mostRegisters),
+            numberOf(parser, QStringLiteral("model"), 0, 3),
+            numberOf(parser, QStringLiteral("plus"), 0, mostPlus), parser.isSet(QStringLiteral("fresh"))};
 }
 
 void makeRegister(const Wish& wish, int number)

@@ -86,7 +86,10 @@ std::vector<Suffix> makeSuffixes()
     std::vector<Suffix> table{
         {QStringLiteral("-U 250"), Order::Kind::Open, 250, {}, OneRegister | Program | Sales},
         {QStringLiteral("P0001010100010000000000000000000000000000000000000000000100 -Z"),
-         Order::Kind::Consolidate, 0, {}, AllRegisters | Sales},
+         Order::Kind::Consolidate,
+         0,
+         {},
+         AllRegisters | Sales},
         {QStringLiteral("-P 190 191 192 194 218"), Order::Kind::Collect, 0, {}, AllRegisters | Sales},
         {QStringLiteral("-C"), Order::Kind::Clear, 0, {}, AllRegisters | Sales},
     };
@@ -104,8 +107,8 @@ ToolFailure badArgument(const QString& text)
 ToolFailure refusal(const QStringList& words)
 {
     const QString all = words.join(u' ');
-    const auto command = std::find_if(words.begin(), words.end(),
-                                      [](const QString& word) { return word.startsWith(u'-'); });
+    const auto command =
+        std::find_if(words.begin(), words.end(), [](const QString& word) { return word.startsWith(u'-'); });
     if (command == words.end())
         return badArgument(QStringLiteral("no command in \"%1\"").arg(all));
     bool isNumber = true;

@@ -25,8 +25,8 @@ void expectAnswer(const Register& target)
         throw ToolFailure(MachineBusy, QStringLiteral("register %1 is busy").arg(target.number));
 }
 
-/// The registers of an order, asked for one by one so that a missing or silent one stops the run at its place and
-/// what went before it stays done.
+/// The registers of an order, asked for one by one so that a missing or silent one stops the run at its place
+/// and what went before it stays done.
 class Line
 {
 public:
@@ -43,8 +43,11 @@ public:
     void each(Act act) const
     {
         for (int place = 1; place <= m_last; ++place) {
-            if (place == m_failsAt)
-                throw ToolFailure(m_failure, QStringLiteral("fault file: result %1 at register %2").arg(m_failure).arg(place));
+            if (place == m_failsAt) {
+                throw ToolFailure(
+                    m_failure,
+                    QStringLiteral("fault file: result %1 at register %2").arg(m_failure).arg(place));
+            }
             if (place > m_registers.size())
                 throw ToolFailure(TimeOut, QStringLiteral("no register %1 on the line").arg(place));
             const auto& target = m_registers.at(place - 1);

@@ -1,5 +1,5 @@
-// VELMARCOMM: moves register files between the working directory and the bank of registers and leaves the result
-// in status.out.
+// VELMARCOMM: moves register files between the working directory and the bank of registers and leaves the
+// result in status.out.
 #include "tools/bank/Files.h"
 #include "tools/bank/ToolFailure.h"
 #include "tools/velmarcomm/Transfer.h"
@@ -23,8 +23,10 @@ void run(const QStringList& words, Outcome& outcome)
 {
     const auto order = parseOrder(words);
     const auto found = Bank::find(QCoreApplication::applicationDirPath());
-    if (!found)
-        throw ToolFailure(TimeOut, QStringLiteral("no registers.ini here or beside the tool: no register answers"));
+    if (!found) {
+        throw ToolFailure(TimeOut,
+                          QStringLiteral("no registers.ini here or beside the tool: no register answers"));
+    }
     const auto fault =
         dueFault(found->folder(), {QStringLiteral("VELMARCOMM"), order.kindWord(), order.file});
     if (fault) {

@@ -1,0 +1,200 @@
+// convert: every register file of every model to text and back, and what it refuses.
+#include "ToolBench.h"
+
+#include <map>
+
+namespace bank::test
+{
+namespace
+{
+
+const QStringList modelWords{q("Velmaro"), q("Velmaro"), q("Velmarn"), q("Dorvik")};
+
+/// Columns of a line of each file, and records of a fresh register (Velmar, then Dorvik; 0: by model).
+struct Shape {
+    int columns;
+    int onVelmar;
+    int onDorvik;
+};
+
+const std::map<int, Shape> shapes{
+    {1, {3, 99, 99}},    {2, {6, 266, 266}},  {3, {61, 1, 1}},   {4, {4, 1, 1}},      {5, {5, 1, 1}},
+    {6, {5, 1, 1}},      {7, {6, 1, 1}},      {8, {14, 1, 1}},   {9, {8, 1, 1}},      {10, {3, 1, 1}},
+    {11, {24, 1, 1}},    {12, {4, 1, 1}},     {13, {6, 1, 1}},   {14, {5, 1, 1}},     {15, {25, 1, 1}},
+    {16, {1, 845, 790}}, {17, {1, 845, 790}}, {20, {1, 80, 80}}, {21, {1, 118, 118}}, {22, {1, 118, 118}},
+    {23, {11, 1, 1}},    {24, {4, 1, 1}},     {25, {11, 1, 1}},  {26, {11, 1, 1}},    {29, {30, 6, 6}},
+    {32, {9, 20, 20}},   {33, {1, 20, 20}},   {34, {1, 20, 20}}, {36, {7, 1, 1}},     {57, {106, 0, 99}},
+    {58, {3, 0, 500}},   {60, {61, 0, 99}},   {63, {28, 0, 99}}, {64, {3, 0, 24}},    {65, {17, 0, 99}},
+    {67, {22, 0, 0}},    {70, {3, 0, 300}},   {71, {6, 0, 0}},   {85, {6, 0, 20}},    {86, {2, 0, 20}},
+};
+
+class RoundTrip : public testing::TestWithParam<int>
+{
+};
+
+TEST_P(RoundTrip, ofEveryFileIsTheSameByteForByte)
+{
+    const int model = GetParam();
+    const ToolBench bench(1, model);
+    const auto& word = modelWords.at(model);
+    for (const auto& [file, shape] : shapes) {
+        const auto source = q("bank/1/%1.dat").arg(file);
+        EXPECT_EQ(bench.has(source), model != 0 || (file != 71 && file < 85)) << file;
+        if (!bench.has(source))
+            continue;
+        const auto code = q("%1").arg(file, 2, 10, QLatin1Char('0'));
+        const auto down = (file == 63 && model == 3 ? q("d1") : q("d")) + code;
+        EXPECT_EQ(bench.convert(q("w%1 f../%2 tout.txt u%3").arg(word, source, code)).errors, "");
+        EXPECT_EQ(bench.convert(q("w%1 fout.txt tback.dat %2").arg(word, down)).errors, "");
+        EXPECT_EQ(bench.convert(q("w%1 fback.dat tagain.txt u%2").arg(word, code)).errors, "");
+        EXPECT_EQ(bench.read("work/back.dat"), bench.read(source)) << file;
+
+        const auto text = bench.read("work/out.txt");
+        EXPECT_EQ(bench.read("work/again.txt"), text) << file;
+        EXPECT_TRUE(text.endsWith("\r\n") && !text.contains(",\r\n")) << file;
+        EXPECT_EQ(text.left(text.indexOf('\r')).count(',') + 1, shape.columns) << file;
+        const int records = model == 3 ? shape.onDorvik : shape.onVelmar;
+        if (records != 0) {
+            EXPECT_EQ(text.count('\n'), records) << file;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Models, RoundTrip, testing::Range(0, 4));
+
+TEST(Convert, writesFixedWidthsAndTheRegistersMark)
+{
+    const ToolBench bench;
+    const auto firstLine = [&bench](const char* file, const char* operation) {
+        EXPECT_EQ(
+            bench.convert(q("wVelmarn f../bank/1/%1.dat tout.txt %2").arg(q(file), q(operation))).errors, "");
+        return bench.read("work/out.txt").split('\n').first();
+    };
+    EXPECT_EQ(
+        firstLine("67", "u67"),
+        "000000000000001001,Espresso        ,01,0003,0000,0000,0000,60,0001,0001,000000000000000000,0000,"
+        "00000200,01,00000260,02,00000000,03,00000000,04,00000140,05\r");
+    EXPECT_EQ(firstLine("1", "u01"), "Hot Drinks  ,40,40\r");
+    EXPECT_EQ(firstLine("19", "u19"), "REGISTER                      \r");
+    EXPECT_TRUE(firstLine("23", "u23").startsWith("40,\xFDHARBOUR STREET CAFE "));
+    EXPECT_TRUE(firstLine("11", "u11").contains(",\xA3  ,\x80  ,"));
+}
+
+TEST(Convert, knowsTheWidthsAndWordsOfEachModel)
+{
+    struct Case {
+        int model;
+        const char* line;
+        int exitCode;
+    };
+    const std::vector<Case> cases{
+        {2, "wVelmarn f../bank/1/52.dat tm.txt u352", 0},
+        {2, "wVelmarn f../bank/1/52.dat tm.txt u52", 4},
+        {0, "wVelmaro f../bank/1/52.dat tm.txt u52", 0},
+        {0, "wVelmaro f../bank/1/52.dat tm.txt u352", 4},
+        {3, "wDorvik f../bank/1/52.dat tm.txt u352", 0},
+        {3, "wDorvik f../bank/1/63.dat t63.txt u63", 0},
+        {3, "wDorvik f63.txt t63.dat d63", 1},
+        {2, "wVelmarn f63.txt t63.dat d163", 1},
+        {2, "wDorvik f../bank/1/1.dat t1.txt u01", 3},
+        {0, "wVelmarn f../bank/1/1.dat t1.txt u01", 3},
+        {3, "wDorvik f../bank/1/23.dat t23.txt u23", 0},
+        {2, "wVelmarn f../bank/1/23.dat t23.txt u23", 0},
+    };
+    std::map<int, QByteArray> logos;
+    for (const auto& each : cases) {
+        const ToolBench bench(1, each.model);
+        EXPECT_EQ(bench.convert(q(each.line)).exitCode, each.exitCode) << each.line;
+        if (bench.has(q("work/m.txt"))) {
+            EXPECT_EQ(bench.read("work/m.txt").count(','), each.model == 0 ? 36 : 38) << each.line;
+        }
+        if (bench.has(q("work/23.txt")))
+            logos[each.model] = bench.read("work/23.txt");
+    }
+    EXPECT_EQ(logos[3].size(), 2 + 10 * 33 + 2);
+    EXPECT_EQ(logos[2].size(), 2 + 10 * 41 + 2);
+}
+
+TEST(Convert, tellsTheGenerationsApartByTheMemoryFilesLength)
+{
+    EXPECT_LT(ToolBench(1, 1).read("bank/1/52.dat").size(), 78);
+    EXPECT_GE(ToolBench(1, 2).read("bank/1/52.dat").size(), 78);
+    EXPECT_GE(ToolBench(1, 3).read("bank/1/52.dat").size(), 78);
+}
+
+TEST(Convert, refusesATextThatDoesNotFitAndNamesThePlace)
+{
+    const ToolBench bench;
+    struct Case {
+        const char* operation;
+        QByteArray text;
+        const char* place; ///< as told on the error channel
+    };
+    const QByteArray group = "Hot Drinks  ,40,40\r\n";
+    const std::vector<Case> cases{
+        {"d01", "", "line 1:"},
+        {"d01", "Hot Drinks  ,40\r\n", "line 1, column 3: 2 columns, 3 expected"},
+        {"d01", group + "Hot Drinks  ,40,40,\r\n", "line 2, column 4: 4 columns, 3 expected"},
+        {"d01", group + "Hot, Drinks ,40,40\r\n", "line 2, column 1:"},
+        {"d01", group + group + "Hot Drinks,40,40\r\n", "line 3, column 1:"},
+        {"d01", "Hot Drinks  ,48,40\r\n", "line 1, column 2:"},
+        {"d01", "Hot Drinks  ,40,4\r\n", "line 1, column 3:"},
+        {"d01", "Hot\tDrinks  ,40,40\r\n", "line 1, column 1:"},
+        {"d01", "Hot Drinks  ,40,40\n", "line 1:"},
+        {"d01", group + "Hot Drinks  ,40,40", "line 2:"},
+        {"d01", group + "\r\n", "line 2, column 1:"},
+        {"d58", "Coffee      ,g   ,-018\r\n", "line 1, column 3:"},
+        {"d58", "Coffee      ,g   ,18.0\r\n", "line 1, column 3:"},
+        {"d64", "0600,0759,30\r\n", "line 1, column 3:"},
+        {"d06", "22,2468,0099,40," + QByteArray(59, '0') + "\r\n", "line 1, column 5:"},
+        {"d06", "22,2468,0099,00," + QByteArray(60, '0') + "\r\n", "line 1, column 4:"},
+        {"d06", "22,2468,0099,40," + QByteArray(59, '0') + "1\r\n", "line 1, column 5:"},
+        {"d63", "A,B\r\n", "line 1, column 1:"},
+    };
+    for (const auto& each : cases) {
+        bench.write("work/in.txt", each.text);
+        bench.write("work/out.dat", "as it was");
+        const auto ended = bench.convert(q("wVelmarn fin.txt tout.dat %1").arg(q(each.operation)));
+        EXPECT_NE(ended.exitCode, 0) << each.text.toStdString();
+        EXPECT_TRUE(ended.errors.contains(QByteArray("in.txt, ") + each.place)) << ended.errors.toStdString();
+        EXPECT_EQ(bench.read("work/out.dat"), "as it was") << each.text.toStdString();
+    }
+}
+
+TEST(Convert, refusesLinesAndBinariesThatAreNone)
+{
+    const ToolBench bench;
+    bench.comm(q("s9 c1 N1.DAT -U 1"));
+    bench.write("work/bad.dat", bench.read("work/1.DAT").chopped(3));
+    bench.write("work/empty.dat", "");
+    bench.write("work/1.txt", "as it was");
+    for (const auto* line : {"",
+                             "wVelmarn f1.dat t1.txt",
+                             "wVelmarn f1.dat t1.txt u01 more",
+                             "Velmarn f1.dat t1.txt u01",
+                             "wvelmarn f1.dat t1.txt u01",
+                             "wVelmar f1.dat t1.txt u01",
+                             "wVelmarn t1.txt f1.dat u01",
+                             "wVelmarn f1.dat t1.txt u1",
+                             "wVelmarn f1.dat t1.txt u18",
+                             "wVelmarn f1.dat t1.txt U01",
+                             "wVelmarn f1.txt t1.dat d19",
+                             "wVelmarn f1.txt t1.dat d52",
+                             "wVelmarn f1.dat t1.txt S193",
+                             "wVelmarn f1.dat t1.txt u02",
+                             "wVelmarn f1.dat t1.txt S190",
+                             "wVelmarn fnone.dat t1.txt u01",
+                             "wVelmarn fbad.dat t1.txt u01",
+                             "wVelmarn fempty.dat t1.txt u01",
+                             "wVelmarn fempty.dat t1.txt u352",
+                             "wVelmarn f1.dat tnowhere/1.txt u01"}) {
+        const auto ended = bench.convert(q(line));
+        EXPECT_NE(ended.exitCode, 0) << line;
+        EXPECT_FALSE(ended.errors.isEmpty()) << line;
+        EXPECT_EQ(bench.read("work/1.txt"), "as it was") << line;
+    }
+    EXPECT_EQ(bench.convert(q("wVelmarn f1.dat t1.txt u01")).exitCode, 0) << "the name meets 1.DAT";
+}
+
+} // namespace
+} // namespace bank::test
