@@ -24,6 +24,12 @@ namespace
     throw RuntimeFailure(number, QStringLiteral("%1 already exists.").arg(what));
 }
 
+[[noreturn]] void failQuery(const QString& sql)
+{
+    throw RuntimeFailure(Failure::UnknownNameInQuery,
+                         QStringLiteral("Unknown name or faulty statement. \"%1\"").arg(sql));
+}
+
 bool hasField(const TableDefinition& table, const QString& name)
 {
     return std::any_of(table.fields.cbegin(), table.fields.cend(), [&name](const FieldDefinition& field) {
@@ -81,8 +87,7 @@ Recordset Database::openQuery(const QString& sql)
     if (!table.isEmpty()) {
         if (auto shape = d->findShape(table))
             return Recordset(std::make_unique<Recordset::Private>(*d, std::move(shape)));
-        throw RuntimeFailure(Failure::UnknownNameInQuery,
-                             QStringLiteral("Unknown name or faulty statement. %1").arg(sql));
+        failQuery(sql);
     }
     return Recordset(std::make_unique<Recordset::Private>(*d, sql));
 }
@@ -90,6 +95,8 @@ Recordset Database::openQuery(const QString& sql)
 qint64 Database::execute(const QString& sql)
 {
     const auto translated = translateSql(sql);
+    if (!translated.changesRecords)
+        failQuery(sql);
     PreparedStatement statement(d->connection(), translated.sql.toStdString(), sql);
     return statement.run();
 }

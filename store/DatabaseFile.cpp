@@ -102,6 +102,7 @@ void prepareConnection(SQLite::Database& database, const QString& path)
     sqlite3_extended_result_codes(connection, 1);
     // A double-quoted word is a name or a fault, never silently a text.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_create_collation_v2(connection, digitsCollation, SQLITE_UTF8, nullptr, compareInEngine, nullptr);
     for (const char* sql : settings)
         run(connection, sql, path);

@@ -1,6 +1,7 @@
 // Binding and reading of values; see PreparedStatement.h.
 #include "store/PreparedStatement.h"
 
+#include "platform/RuntimeFailure.h"
 #include "store/SqliteFailures.h"
 
 #include <sqlite3.h>
@@ -82,6 +83,9 @@ PreparedStatement::PreparedStatement(sqlite3* connection, const std::string& sql
     check(sqlite3_prepare_v3(connection, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
                              &statement, nullptr));
     m_statement.reset(statement);
+    if (!statement)
+        throw RuntimeFailure(Failure::UnknownNameInQuery,
+                             QStringLiteral("The statement is empty. %1").arg(m_what));
 }
 
 void PreparedStatement::fail()

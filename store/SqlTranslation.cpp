@@ -6,6 +6,7 @@
 #include <QVector>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace norvane::store
 {
@@ -213,18 +214,22 @@ qsizetype fromOf(const Tokens& tokens)
     return tokens.size();
 }
 
+bool isOneOf(const Token& token, std::initializer_list<const char*> words)
+{
+    return std::any_of(words.begin(), words.end(), [&token](const char* word) { return token.isWord(word); });
+}
+
 bool joinsOrGroups(const Tokens& tokens, qsizetype from)
 {
-    static constexpr const char* words[] = {"distinct", "group",     "having", "union",
-                                            "join",     "intersect", "except"};
     const bool hasWord = std::any_of(tokens.begin(), tokens.end(), [](const Token& token) {
-        return std::any_of(std::begin(words), std::end(words),
-                           [&token](const char* word) { return token.isWord(word); });
+        return isOneOf(token, {"distinct", "group", "having", "union", "join", "intersect", "except"});
     });
-    const auto table = nextAfter(tokens, from);
-    const auto after = nextAfter(tokens, table);
-    return hasWord || table >= tokens.size() || tokens.at(table).isSign('(') ||
-           (after < tokens.size() && tokens.at(after).isSign(','));
+    // A second table or a query in the place of a table.
+    const auto end = std::find_if(tokens.begin() + from, tokens.end(), [](const Token& token) {
+        return isOneOf(token, {"where", "order", "limit"});
+    });
+    return hasWord || std::any_of(tokens.begin() + from, end,
+                                  [](const Token& token) { return token.isSign(',') || token.isSign('('); });
 }
 
 QString withRowIdOf(const Tokens& tokens)
@@ -248,7 +253,8 @@ TranslatedSql translateSql(const QString& statement)
     moveTopToLimit(tokens);
     changeWords(tokens);
     changeWildcards(tokens);
-    return {joined(tokens), withRowIdOf(tokens)};
+    const bool changes = !tokens.isEmpty() && isOneOf(tokens.first(), {"delete", "update", "insert"});
+    return {joined(tokens), withRowIdOf(tokens), changes};
 }
 
 QString loneTableName(const QString& statement)

@@ -15,6 +15,7 @@ struct TranslatedSql {
     /// The same with the row id of its only table as a further, last column, for a plain choice of records
     /// whose rows may be edited; empty when the statement joins, groups or counts.
     QString withRowId;
+    bool changesRecords = false; ///< it deletes, updates or inserts
 };
 
 [[nodiscard]] TranslatedSql translateSql(const QString& statement);

@@ -1,0 +1,141 @@
+// Queries and statements in the words that screens and utilities use.
+#include "tests/store/StoreFolder.h"
+
+namespace norvane::store::test
+{
+namespace
+{
+
+class QueryTest : public testing::Test
+{
+protected:
+    QueryTest()
+    {
+        auto records = m_database.openTable(QStringLiteral("items"));
+        for (const char* each : {"1", "2", "3"}) {
+            records.addNew();
+            records.setValue(QStringLiteral("NUMBER"), text(each));
+            records.setValue(QStringLiteral("DESCRIPTION"), Value::text("It's \"" + std::string(each) + '"'));
+            records.setValue(QStringLiteral("GROUPNO"), text(each));
+            records.setValue(QStringLiteral("TAX/x"), Value::whole(std::string(each) == "2" ? 0 : 1));
+            records.setValue(QStringLiteral("OPENEURO&LOCALDRAWER"),
+                             Value::text("0" + std::string(each) + "/12/2003"));
+            records.setValue(QStringLiteral("#OfCondiments"), text(std::string(each) == "1" ? "100" : each));
+            records.update();
+        }
+    }
+
+    /// The rows' fields, one after the other.
+    std::string rowsOf(const QString& sql)
+    {
+        auto rows = m_database.openQuery(sql);
+        std::string found;
+        for (; !rows.atEnd(); rows.moveNext()) {
+            for (int i = 0; i < rows.fieldCount(); ++i)
+                found += rows.value(i).toUtf8() + ' ';
+        }
+        return found;
+    }
+
+    StoreFolder m_folder;
+    Database m_database{m_folder.path()};
+};
+
+TEST_F(QueryTest, TakesTheWordsOfTheScreens)
+{
+    struct Case {
+        const char* sql;
+        const char* rows;
+    };
+    const Case cases[] = {
+        {"select number, groupno from items", "1 1 2 2 3 3 "},
+        {"SELECT [Number] FROM [ITEMS] WHERE [tax/X] = True ORDER BY [number] DESC;", "3 1 "},
+        {"select number from items where [TAX/x]=False", "2 "},
+        {"select number from items where description = \"It's \"\"2\"\"\"", "2 "},
+        {"select number from items where description = 'it''s \"3\"'", "3 "},
+        {"select number from items where description like '*2*'", "2 "},
+        {"select number from items where number like \"?\" and groupno > 2", "3 "},
+        {"select top 2 number from items order by number desc", "3 2 "},
+        {"select number from items where [OPENEURO&LOCALDRAWER] >= #12/02/2003#", "2 3 "},
+        {"select number & '-' & groupno as both from items where items!groupno = 1", "1-1 "},
+        {"select [#OfCondiments] from items order by [#OfCondiments]", "2 3 100 "},
+        {"select count(*), sum(groupno) from items", "3 6 "},
+        {"select distinct [TAX/x] from items order by 1 desc", "False True "},
+        {"select number from items where number = 'True'", ""},
+    };
+    for (const auto& each : cases)
+        EXPECT_EQ(rowsOf(QString::fromUtf8(each.sql)), each.rows) << each.sql;
+}
+
+TEST_F(QueryTest, UnknownNamesAndFaultyStatementsFail)
+{
+    for (const char* sql :
+         {"nothing", "select number from nothing", "select nothing from items", "select [nothing] from items",
+          "select number from items where nothing = 1", "selekt", "delete * from items", "", "  "})
+        EXPECT_EQ(failureOf([&] { static_cast<void>(m_database.openQuery(QString::fromUtf8(sql))); }), 3061)
+            << sql;
+    for (const char* sql : {"delete * from nothing", "update items set nothing = 1", "drop table items", ""})
+        EXPECT_EQ(failureOf([&] { m_database.execute(QString::fromUtf8(sql)); }), 3061) << sql;
+    EXPECT_EQ(m_database.openTable(QStringLiteral("items")).recordCount(), 3);
+}
+
+TEST_F(QueryTest, ChangesAndDeletesByStatement)
+{
+    EXPECT_EQ(m_database.execute(QStringLiteral("update ITEMS set description='0.00', [ROUNDON%] = 1.5")), 3);
+    EXPECT_EQ(rowsOf(QStringLiteral("select description, [roundon%] from items where number='2'")),
+              "0.00 1.5 ");
+    EXPECT_EQ(failureOf([&] { m_database.execute(QStringLiteral("update items set groupno = 'x'")); }), 3421);
+    EXPECT_EQ(failureOf([&] { m_database.execute(QStringLiteral("update items set number = 'x'")); }), 3022);
+    EXPECT_EQ(m_database.execute(QStringLiteral("delete items.* from items where groupno=2")), 1);
+    EXPECT_EQ(m_database.execute(QStringLiteral("delete * from items")), 2);
+    EXPECT_EQ(m_database.openTable(QStringLiteral("items")).recordCount(), 0);
+}
+
+TEST_F(QueryTest, RowsOfOneTableCanBeChanged)
+{
+    auto rows = m_database.openQuery(QStringLiteral(
+        "select number, description, groupno from items where groupno > 1 order by number desc"));
+    ASSERT_TRUE(rows.isUpdatable());
+    EXPECT_EQ(rows.field(1).size, 16);
+    EXPECT_EQ(rows.recordCount(), 2);
+    ASSERT_TRUE(rows.moveTo(1));
+    rows.edit();
+    rows.setValue(QStringLiteral("Description"), text("Cola"));
+    EXPECT_EQ(failureOf([&] { rows.setValue(2, text("x")); }), 3421);
+    rows.update();
+    EXPECT_EQ(rows.value(1), text("Cola"));
+    EXPECT_EQ(rowsOf(QStringLiteral("select description from items where number = '2'")), "Cola ");
+
+    m_database.execute(QStringLiteral("delete * from items where number = '3'"));
+    EXPECT_FALSE(rows.moveTo(0));
+    EXPECT_FALSE(rows.moveTo(2));
+    rows.moveFirst();
+    EXPECT_EQ(rows.value(0), text("2")); // the deleted row is passed over
+    rows.deleteRecord();
+    EXPECT_EQ(rowsOf(QStringLiteral("items")).substr(0, 2), "1 ");
+    EXPECT_EQ(failureOf([&] { rows.addNew(); }), 3027);
+}
+
+TEST_F(QueryTest, ComputedRowsAreReadOnly)
+{
+    for (const char* sql : {"select groupno + 1 from items", "select distinct groupno from items",
+                            "select count(*) from items", "select a.number from items a, items b",
+                            "select number as n from items", "select groupno from items group by groupno",
+                            "select number from items union select number from items",
+                            "select number from (select number from items)"}) {
+        auto rows = m_database.openQuery(QString::fromUtf8(sql));
+        EXPECT_FALSE(rows.isUpdatable()) << sql;
+        EXPECT_EQ(failureOf([&] { rows.edit(); }), 3027) << sql;
+    }
+}
+
+TEST_F(QueryTest, ATableNameGivesItsRecordsInTheirOrder)
+{
+    auto rows = m_database.openQuery(QStringLiteral(" [items] ;"));
+    EXPECT_TRUE(rows.isUpdatable());
+    EXPECT_EQ(numbersOf(rows), "1 2 3");
+    EXPECT_EQ(rows.index(), QStringLiteral("plunumber"));
+}
+
+} // namespace
+} // namespace norvane::store::test
