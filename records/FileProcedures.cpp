@@ -1,0 +1,204 @@
+// The one upload and the one download of all register files; see FileProcedures.h.
+#include "records/FileProcedures.h"
+
+#include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
+#include "records/RecordReader.h"
+#include "records/RecordWriter.h"
+#include "records/RegisterFiles.h"
+#include "shell/SharedRoutines.h"
+#include "store/Database.h"
+
+#include <QFile>
+
+namespace norvane::records
+{
+namespace
+{
+
+/// What a writer returns that has touched no file.
+constexpr int nothingWritten = 1;
+/// So much text is gathered before it goes to the file.
+constexpr std::size_t writeBlock = std::size_t{64} * 1024;
+
+QString textName(const RegisterFile& file)
+{
+    return QStringLiteral("%1.txt").arg(file.number);
+}
+
+QString importLine(const RegisterFile& file, const ApplicationValues& values)
+{
+    return QStringLiteral("convert w%1 f%2.dat t%2.txt %3")
+        .arg(GetModelCode(values), QString::number(file.number), QLatin1String(file.importOperation));
+}
+
+QString exportLine(const RegisterFile& file, const ApplicationValues& values)
+{
+    return QStringLiteral("convert w%1 f%2.txt t%2.dat %3")
+        .arg(GetModelCode(values), QString::number(file.number), QLatin1String(file.exportOperation));
+}
+
+/// Stores the lines of a text file one by one.
+class Import
+{
+public:
+    Import(const RegisterFile& file, store::Recordset& records)
+        : m_file(file), m_records(records), m_reader(file.layout(), records)
+    {
+    }
+
+    void storeAll(std::string_view text)
+    {
+        for (qint64 number = 1; !text.empty(); ++number)
+            storeLine(takeLine(text), number);
+    }
+
+private:
+    void storeLine(std::string_view line, qint64 number)
+    {
+        try {
+            if (m_file.upload == Upload::ReplacesTable) {
+                addRecord(line, number);
+            } else {
+                updateRecord(line, number);
+            }
+        } catch (const RuntimeFailure& failure) {
+            throw RuntimeFailure(failure.failure(),
+                                 QStringLiteral("%1: %2").arg(placeOf(number), failure.text()));
+        }
+    }
+
+    /// Where a failure came up, in words for the user. A record that could not be stored has no column.
+    [[nodiscard]] QString placeOf(qint64 line) const
+    {
+        const QString place = QStringLiteral("%1, line %2").arg(textName(m_file)).arg(line);
+        const int column = m_reader.column();
+        return column == 0 ? place : QStringLiteral("%1, column %2").arg(place).arg(column);
+    }
+
+    void addRecord(std::string_view line, qint64 number)
+    {
+        m_records.addNew();
+        m_reader.read(line, number);
+        m_records.update();
+    }
+
+    void updateRecord(std::string_view line, qint64 number)
+    {
+        auto rest = line;
+        if (!m_records.seek(store::Seek::Equal, store::Value::text(plainFromRegister(takeField(rest)))))
+            return;
+        m_records.edit();
+        m_reader.read(line, number);
+        m_records.update();
+    }
+
+    const RegisterFile& m_file;
+    store::Recordset& m_records;
+    RecordReader m_reader;
+};
+
+/// The text file of a download, opened for output and thereby emptied.
+class TextOutput
+{
+public:
+    explicit TextOutput(const QString& path) : m_file(existingPath(path))
+    {
+        if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
+            throw RuntimeFailure(
+                Failure::PathOrFileAccess,
+                QStringLiteral("Path/File access error: %1 (%2)").arg(path, m_file.errorString()));
+        }
+    }
+
+    void write(const std::string& text)
+    {
+        const auto size = static_cast<qint64>(text.size());
+        if (m_file.write(text.data(), size) != size) {
+            throw RuntimeFailure(
+                Failure::DiskFull,
+                QStringLiteral("Disk full: %1 (%2)").arg(m_file.fileName(), m_file.errorString()));
+        }
+    }
+
+private:
+    QFile m_file;
+};
+
+void writeRecords(const RegisterFile& file, store::Recordset& records, TextOutput& output)
+{
+    records.moveFirst();
+    const RecordWriter writer(file.layout(), records);
+    std::string text;
+    for (; !records.atEnd(); records.moveNext()) {
+        writer.appendLine(text);
+        if (text.size() >= writeBlock) {
+            output.write(text);
+            text.clear();
+        }
+    }
+    output.write(text);
+}
+
+bool isEmpty(const RegisterFile& file, const QString& databasePath)
+{
+    store::Database database(databasePath);
+    return database.openTable(QLatin1String(file.table)).recordCount() == 0;
+}
+
+const RegisterFile& fileWithLayout(int number)
+{
+    const RegisterFile* file = registerFile(number);
+    Q_ASSERT(file != nullptr && file->layout != nullptr);
+    return *file;
+}
+
+} // namespace
+
+bool hasImporter(int file)
+{
+    const RegisterFile* found = registerFile(file);
+    return found != nullptr && found->layout != nullptr;
+}
+
+bool hasExporter(int file)
+{
+    return hasImporter(file) && registerFile(file)->exporter != nullptr;
+}
+
+void importRegisterFile(int number, const ProcedureContext& context)
+{
+    const RegisterFile& file = fileWithLayout(number);
+    context.runCommand(importLine(file, context.values));
+
+    store::Database database(context.values.databasePath);
+    store::Transaction transaction(database);
+    store::Recordset records = database.openTable(QLatin1String(file.table));
+    records.setIndex(QLatin1String(file.index));
+    // The table goes before the text is looked for: without a text it stays empty.
+    if (file.upload == Upload::ReplacesTable)
+        database.execute(QStringLiteral("delete * from %1").arg(QLatin1String(file.table)));
+    const QByteArray content = readWholeFile(textName(file));
+    Import(file, records)
+        .storeAll(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
+    transaction.commit();
+}
+
+int exportRegisterFile(int number, const ProcedureContext& context)
+{
+    const RegisterFile& file = fileWithLayout(number);
+    const QString& databasePath = context.values.databasePath;
+    if (file.emptyTable == EmptyTable::Skips && isEmpty(file, databasePath))
+        return nothingWritten;
+    {
+        TextOutput output(joinPath(context.values.appPath, textName(file)));
+        store::Database database(databasePath);
+        store::Recordset records = database.openTable(QLatin1String(file.table));
+        records.setIndex(QLatin1String(file.index));
+        writeRecords(file, records, output);
+    }
+    context.runCommand(exportLine(file, context.values));
+    return 0;
+}
+
+} // namespace norvane::records

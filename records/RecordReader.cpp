@@ -1,0 +1,205 @@
+// Converts the columns of a record; see RecordReader.h. An import of all PLUs passes some two million columns
+// through here, so the usual column is converted without a detour.
+#include "records/RecordReader.h"
+
+#include "platform/Decimal.h"
+#include "platform/RuntimeFailure.h"
+#include "platform/TextFields.h"
+#include "records/RecordText.h"
+#include "shell/SharedRoutines.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+
+namespace norvane::records
+{
+namespace
+{
+
+using store::FieldType;
+using store::Value;
+
+/// So many digits fit a whole number of the table whatever they are.
+constexpr std::size_t shortNumber = 9;
+/// So many digits fit a decimal whatever they are.
+constexpr std::size_t longestCoefficient = 18;
+/// What a symbol is kept as: its code, the register's own mark as that of the "^" that stands for it.
+constexpr unsigned char registerMark = 0xFD;
+
+/// The number that @p text consists of. @return nothing when it is not digits alone or too long for it.
+std::optional<std::int64_t> plainNumber(std::string_view text, std::size_t mostDigits)
+{
+    std::int64_t number = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool whole = result.ec == std::errc() && result.ptr == text.data() + text.size();
+    return whole && text.size() <= mostDigits && text.front() != '-' ? std::optional(number) : std::nullopt;
+}
+
+bool holdsNumbers(FieldType type)
+{
+    return type == FieldType::Long || type == FieldType::Double || type == FieldType::YesNo;
+}
+
+Value numberValue(FieldType type, std::string_view text)
+{
+    if (type != FieldType::Text && trimBlanks(text).empty())
+        return {};
+    if (holdsNumbers(type)) {
+        if (const auto number = plainNumber(text, shortNumber))
+            return Value::whole(*number);
+    }
+    return Value::text(plainFromRegister(text));
+}
+
+/// Exact: prices of text fields get their plain number text, number fields the nearest number to it.
+Value scaledValue(FieldType type, std::string_view text, int scale)
+{
+    if (trimBlanks(text).empty())
+        return {};
+    const auto whole = plainNumber(text, longestCoefficient);
+    const auto parsed = whole ? std::optional(Decimal(*whole, 0)) : Decimal::parse(text);
+    if (!parsed) {
+        throw RuntimeFailure(Failure::TypeMismatch,
+                             QStringLiteral("Type mismatch: \"%1\" is no number")
+                                 .arg(QString::fromStdString(plainFromRegister(text))));
+    }
+    const Decimal number = parsed->shifted(-scale);
+    return holdsNumbers(type) ? Value::number(number.toDouble()) : Value::text(number.text());
+}
+
+/// @p utf8 cut to @p characters.
+std::string_view cutTo(std::string_view utf8, int characters)
+{
+    std::size_t end = 0;
+    for (; end < utf8.size(); ++end) {
+        const bool begins = (static_cast<unsigned char>(utf8[end]) & 0xC0U) != 0x80;
+        if (begins && characters-- == 0)
+            break;
+    }
+    return utf8.substr(0, end);
+}
+
+Value choiceValue(const DigitPart& part, int number)
+{
+    return part.value == DigitPart::Value::Flag ? Value::yesNo(number != 0) : Value::whole(number);
+}
+
+} // namespace
+
+RecordReader::RecordReader(const RecordLayout& layout, store::Recordset& records)
+    : m_records(records), m_numbersLines(!layout.lineNumberField.empty())
+{
+    if (m_numbersLines)
+        m_lineNumber = targetOf(layout.lineNumberField);
+    for (const Column& column : layout.columns)
+        m_steps.push_back(stepOf(column));
+}
+
+RecordReader::Target RecordReader::targetOf(const std::string& field) const
+{
+    const int ordinal = m_records.fieldOrdinal(QString::fromStdString(field));
+    const auto& definition = m_records.field(ordinal);
+    return {ordinal, definition.type, definition.size};
+}
+
+RecordReader::Step RecordReader::stepOf(const Column& column) const
+{
+    Step step{&column, {}, {}};
+    if (column.readForm != Form::Literal && column.readForm != Form::Options)
+        step.target = targetOf(column.readField);
+    for (std::size_t place = 0; place < column.digits.size(); ++place) {
+        for (const DigitPart& part : column.digits[place]) {
+            if (part.reading != DigitPart::Reading::Nothing)
+                step.digits.push_back({&part, targetOf(part.readField), part.fromRightDigit ? 1 : place});
+        }
+    }
+    return step;
+}
+
+void RecordReader::read(std::string_view line, std::int64_t lineNumber)
+{
+    m_column = 0;
+    if (m_numbersLines)
+        set(m_lineNumber, Value::whole(lineNumber));
+    for (const Step& step : m_steps) {
+        ++m_column;
+        store(step, takeField(line), lineNumber);
+    }
+    m_column = 0;
+}
+
+void RecordReader::store(const Step& step, std::string_view text, std::int64_t lineNumber)
+{
+    switch (step.column->readForm) {
+    case Form::Number:
+        storeNumber(step, text);
+        break;
+    case Form::Text:
+        storeText(step, text, lineNumber);
+        break;
+    case Form::Options:
+        storeOptions(step, text);
+        break;
+    case Form::Symbol: {
+        const auto code = static_cast<unsigned char>(stripLeadingZero(text).front());
+        set(step.target, Value::whole(code == registerMark ? '^' : code));
+        break;
+    }
+    case Form::Literal:
+        break;
+    }
+}
+
+void RecordReader::storeNumber(const Step& step, std::string_view text)
+{
+    const Column& column = *step.column;
+    std::string_view digits = column.raw ? text : stripLeadingZero(text);
+    if (column.firstCharacter)
+        digits = digits.substr(0, 1);
+    const auto type = step.target.type;
+    set(step.target, column.scale == 0 ? numberValue(type, digits) : scaledValue(type, digits, column.scale));
+}
+
+void RecordReader::storeText(const Step& step, std::string_view text, std::int64_t lineNumber)
+{
+    const std::string& name = step.column->defaultText;
+    if (!name.empty() && trimBlanks(text).empty()) {
+        const std::string numbered = name + std::to_string(lineNumber);
+        set(step.target, Value::text(std::string(cutTo(numbered, step.target.size))));
+    } else {
+        set(step.target, Value::text(textFromRegister(text)));
+    }
+}
+
+void RecordReader::storeOptions(const Step& step, std::string_view text)
+{
+    const auto digits = optionDigits(text);
+    for (const Digit& digit : step.digits)
+        storeDigit(digit, digits.at(digit.place), text);
+}
+
+void RecordReader::storeDigit(const Digit& digit, int value, std::string_view column)
+{
+    const DigitPart& part = *digit.part;
+    if (part.reading == DigitPart::Reading::FirstCharacter) {
+        const auto first = column.empty() ? std::string_view("0") : column.substr(0, 1);
+        set(digit.target, numberValue(digit.target.type, first));
+        return;
+    }
+    const auto found = std::find_if(part.choices.begin(), part.choices.end(), [&](const DigitChoice& choice) {
+        return DigitFlagSet(value, choice.selector);
+    });
+    if (found != part.choices.end()) {
+        set(digit.target, choiceValue(part, found->value));
+    } else if (part.reading != DigitPart::Reading::ChoiceOrKept) {
+        set(digit.target, choiceValue(part, 0));
+    }
+}
+
+void RecordReader::set(const Target& target, Value value)
+{
+    m_records.setValue(target.ordinal, std::move(value));
+}
+
+} // namespace norvane::records

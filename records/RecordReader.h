@@ -1,0 +1,66 @@
+// From the text of a register record to the fields of a table.
+#pragma once
+
+#include "records/RecordLayout.h"
+#include "store/Recordset.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace norvane::records
+{
+
+/// Stores the columns of one line after another into the record that is open on a recordset. Fields are
+/// looked up once; the layout and the recordset must outlive the reader.
+class RecordReader
+{
+public:
+    /// @throws RuntimeFailure 3265 when the table lacks a field of the layout.
+    RecordReader(const RecordLayout& layout, store::Recordset& records);
+
+    /// Stores all columns of @p line (bytes of the register, no line end) in the layout's order; of two
+    /// columns for one field the later counts. A missing column of a number stores 0, of option digits clears
+    /// them, of a text stores an empty text; a number column of blanks alone stores null.
+    /// @param lineNumber counts from 1.
+    /// @throws RuntimeFailure 13 for option digits or a scaled number that are none, and what
+    /// Recordset::setValue throws.
+    void read(std::string_view line, std::int64_t lineNumber);
+
+    /// The column, from 1, in which the reading of a line failed; 0 when no line stands half read.
+    [[nodiscard]] int column() const { return m_column; }
+
+private:
+    struct Target {
+        int ordinal = 0;
+        store::FieldType type = store::FieldType::Text;
+        int size = 0;
+    };
+    struct Digit {
+        const DigitPart* part;
+        Target target;
+        std::size_t place; ///< 0 is the left digit
+    };
+    struct Step {
+        const Column* column;
+        Target target;
+        std::vector<Digit> digits;
+    };
+
+    [[nodiscard]] Target targetOf(const std::string& field) const;
+    [[nodiscard]] Step stepOf(const Column& column) const;
+    void store(const Step& step, std::string_view text, std::int64_t lineNumber);
+    void storeNumber(const Step& step, std::string_view text);
+    void storeText(const Step& step, std::string_view text, std::int64_t lineNumber);
+    void storeOptions(const Step& step, std::string_view text);
+    void storeDigit(const Digit& digit, int value, std::string_view column);
+    void set(const Target& target, store::Value value);
+
+    store::Recordset& m_records;
+    bool m_numbersLines = false;
+    Target m_lineNumber;
+    std::vector<Step> m_steps;
+    int m_column = 0;
+};
+
+} // namespace norvane::records

@@ -1,0 +1,48 @@
+// The text of a register record: lines, comma columns, numbers filled with zeros, texts filled with blanks,
+// packed option digits. All of it works on views of the file's own bytes (Windows-1252).
+#pragma once
+
+#include <QString>
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace norvane::records
+{
+
+/// Takes the next line off @p text, without its line end: CR LF, a lone LF or a lone CR. A line end at the
+/// very end of the text begins no further line.
+[[nodiscard]] std::string_view takeLine(std::string_view& text);
+
+/// What of a text file counts: all before the end mark (byte 1A) that old tools leave behind the last line.
+[[nodiscard]] std::string_view withoutEndMark(std::string_view text);
+
+/// Takes the next column off @p line. There is no quoting: a comma always ends a column. Columns beyond the
+/// end of a line are empty.
+[[nodiscard]] std::string_view takeField(std::string_view& line);
+
+/// While the trimmed text begins with a zero, it is replaced by the trimmed text without that zero. Blanks
+/// around a text that begins with anything else stay. @return "0" when nothing is left; a text of blanks
+/// alone as it is.
+[[nodiscard]] std::string_view stripLeadingZero(std::string_view text);
+/// The same on a text of the exchange forms; changes @p text and returns it.
+QString StripLeadingZero(QString& text);
+
+/// The two digits of an option column, 0 to 9 each, after the text was brought to two digits ("4" is 0 and
+/// 4). Empty text counts as "00". @throws RuntimeFailure 13 for anything that does not give two digits.
+[[nodiscard]] std::array<int, 2> optionDigits(std::string_view column);
+
+/// Appends the trimmed @p text brought to @p width bytes: zeros on the left, the rightmost bytes kept.
+void appendZeroFilled(std::string& out, std::string_view text, std::size_t width);
+/// Appends the trimmed text in the register's character set, brought to @p width bytes: blanks on the right,
+/// the leftmost bytes kept. Each "^" becomes the register's own mark.
+void appendBlankFilled(std::string& out, std::string_view utf8, std::size_t width);
+
+/// A text column as the database holds it: UTF-8, the register's own mark shown as "^".
+[[nodiscard]] std::string textFromRegister(std::string_view bytes);
+
+/// A column whose text passes as it is, without regard to the register's mark.
+[[nodiscard]] std::string plainFromRegister(std::string_view bytes);
+
+} // namespace norvane::records

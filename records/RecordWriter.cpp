@@ -1,0 +1,188 @@
+// Builds the columns of a record; see RecordWriter.h.
+#include "records/RecordWriter.h"
+
+#include "platform/Decimal.h"
+#include "platform/Numbers.h"
+#include "platform/RuntimeFailure.h"
+#include "platform/Windows1252.h"
+#include "records/RecordText.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace norvane::records
+{
+namespace
+{
+
+using store::Value;
+
+constexpr int largestCode = 255;
+
+/// A field's value as text without a copy where the value has one already; lives as long as the value.
+class ValueText
+{
+public:
+    explicit ValueText(const Value& value)
+    {
+        if (value.isText()) {
+            m_view = value.textView();
+        } else if (value.isYesNo()) {
+            m_view = value.isTrue() ? "1" : "0";
+        } else if (!value.isNull()) {
+            m_own = value.toUtf8();
+            m_view = m_own;
+        }
+    }
+    [[nodiscard]] std::string_view view() const { return m_view; }
+
+private:
+    std::string m_own;
+    std::string_view m_view;
+};
+
+bool isAscii(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+void appendPlainNumber(std::string& out, std::string_view text, std::size_t width)
+{
+    if (isAscii(text)) {
+        appendZeroFilled(out, text, width);
+        return;
+    }
+    std::string bytes;
+    appendWindows1252FromUtf8(bytes, text);
+    appendZeroFilled(out, bytes, width);
+}
+
+void appendScaledNumber(std::string& out, std::string_view text, const Column& column)
+{
+    const auto number = Decimal::leading(text).shifted(column.scale).toWhole();
+    appendZeroFilled(out, std::to_string(number), column.width);
+}
+
+} // namespace
+
+RecordWriter::RecordWriter(const RecordLayout& layout, const store::Recordset& records) : m_records(records)
+{
+    for (const Column& column : layout.columns)
+        m_steps.push_back(stepOf(column));
+}
+
+int RecordWriter::ordinalOf(const std::string& field) const
+{
+    return m_records.fieldOrdinal(QString::fromStdString(field));
+}
+
+RecordWriter::Step RecordWriter::stepOf(const Column& column) const
+{
+    Step step{&column, 0, {}};
+    if (column.form != Form::Literal && column.form != Form::Options)
+        step.ordinal = ordinalOf(column.field);
+    for (std::size_t place = 0; place < column.digits.size(); ++place) {
+        for (const DigitPart& part : column.digits[place])
+            step.digits[place].push_back({&part, ordinalOf(part.field)});
+    }
+    return step;
+}
+
+void RecordWriter::appendLine(std::string& out) const
+{
+    for (const Step& step : m_steps) {
+        if (&step != &m_steps.front())
+            out += ',';
+        appendColumn(out, step);
+    }
+    out += "\r\n";
+}
+
+void RecordWriter::appendColumn(std::string& out, const Step& step) const
+{
+    switch (step.column->form) {
+    case Form::Number:
+        appendNumber(out, step);
+        break;
+    case Form::Text:
+        appendBlankFilled(out, ValueText(m_records.value(step.ordinal)).view(), step.column->width);
+        break;
+    case Form::Options:
+        appendOptions(out, step);
+        break;
+    case Form::Symbol:
+        appendSymbol(out, step);
+        break;
+    case Form::Literal:
+        break;
+    }
+    out += step.column->literal;
+}
+
+void RecordWriter::appendNumber(std::string& out, const Step& step) const
+{
+    const Column& column = *step.column;
+    const ValueText text(m_records.value(step.ordinal));
+    const auto start = out.size();
+    if (column.scale == 0) {
+        appendPlainNumber(out, text.view(), column.width);
+    } else {
+        appendScaledNumber(out, text.view(), column);
+    }
+    const auto& [usual, instead] = column.replacement;
+    if (!usual.empty() && std::string_view(out).substr(start) == usual)
+        out.replace(start, usual.size(), instead);
+}
+
+void RecordWriter::appendOptions(std::string& out, const Step& step) const
+{
+    const int left = digitOf(step.digits[0]);
+    const int right = digitOf(step.digits[1]);
+    if (step.column->bareOptions) {
+        out += std::to_string(10 * left + right);
+    } else {
+        out += std::to_string(left) + std::to_string(right);
+    }
+}
+
+/// A code that stands for no character of the register is sent as blanks.
+void RecordWriter::appendSymbol(std::string& out, const Step& step) const
+{
+    const int code = roundHalfEven(m_records.value(step.ordinal).toNumber());
+    std::string utf8;
+    if (code > 0 && code <= largestCode)
+        appendUtf8FromWindows1252(utf8, std::string(1, static_cast<char>(code)));
+    appendBlankFilled(out, utf8, step.column->width);
+}
+
+int RecordWriter::digitOf(const std::vector<Digit>& parts) const
+{
+    int sum = 0;
+    for (const Digit& digit : parts)
+        sum += weightOf(digit);
+    return sum;
+}
+
+int RecordWriter::weightOf(const Digit& digit) const
+{
+    const DigitPart& part = *digit.part;
+    const Value& value = m_records.value(digit.ordinal);
+    switch (part.writing) {
+    case DigitPart::Writing::Nothing:
+        return 0;
+    case DigitPart::Writing::Always:
+        return part.choices.front().weight;
+    case DigitPart::Writing::OwnNumber:
+        return roundHalfEven(value.toNumber());
+    case DigitPart::Writing::Choice:
+        break;
+    }
+    if (part.value == DigitPart::Value::Flag)
+        return value.isTrue() ? part.choices.front().weight : 0;
+    const auto found = std::find_if(part.choices.begin(), part.choices.end(), [&](const DigitChoice& choice) {
+        return choice.value == value.toNumber();
+    });
+    return found == part.choices.end() ? 0 : found->weight;
+}
+
+} // namespace norvane::records

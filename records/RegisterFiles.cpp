@@ -1,0 +1,79 @@
+// The rows of the file catalogue; see RegisterFiles.h.
+#include "records/RegisterFiles.h"
+
+#include "records/RecordLayouts.h"
+
+#include <algorithm>
+
+namespace norvane::records
+{
+namespace
+{
+
+constexpr auto fails = EmptyTable::Fails;
+constexpr auto skips = EmptyTable::Skips;
+constexpr auto replaces = Upload::ReplacesTable;
+constexpr auto updates = Upload::UpdatesRecords;
+
+// clang-format off
+constexpr RegisterFile files[] = {
+    { 1, "GROUPS",                     "FileGroupData",            "WriteGROUPData",            "groupno",     "u01", "d01",   fails, replaces, groupLayout},
+    { 2, "FUNCTIONKEY",                "FileFunctionKey",          "WriteFunctionKeyData",      "primarykey",  "u02", "d02",   fails, replaces, nullptr},
+    { 3, "GENERALFUNCTIONS",           "FileGeneralOptionData",    "WriteGeneralOptionData",    "primarykey",  "u03", "d03",   fails, replaces, generalOptionLayout},
+    { 4, "TAXOPTIONS",                 "FileTaxOptionData",        "WriteFileTaxOptiondata",    "primarykey",  "u04", "d04",   fails, replaces, taxOptionLayout},
+    { 5, "CASHDRAWEROPTIONS",          "FileDrawerOptionData",     "WriteFileDrawerOptionData", "primarykey",  "u05", "d05",   fails, replaces, drawerOptionLayout},
+    { 6, "TRAININGMODEOPTIONS",        "FileTrainModeData",        "WriteFileTrainModeData",    "primarykey",  "u06", "d06",   fails, replaces, trainingOptionLayout},
+    { 7, "LEVELMODIFIEROPTIONS",       "FileLevelOptionData",      "WriteFileLevelModeData",    "primarykey",  "u07", "d07",   fails, replaces, levelOptionLayout},
+    { 8, "TRACKINGFILEOPTIONS",        "FileCheckTrackingData",    "WriteTrackingModeData",     "primarykey",  "u08", "d08",   fails, replaces, checkTrackingLayout},
+    { 9, "KITCHENPRINTOPTIONS",        "FileKPKVOptionData",       "WriteKPModeData",           "primarykey",  "u09", "d09",   fails, replaces, kitchenPrintLayout},
+    {10, "VALIDSUBTOTALOPTIONS",       "FileValidOptionData",      "WriteValidationData",       "primarykey",  "u10", "d10",   fails, replaces, validationLayout},
+    {11, "GENERALPRINTOPTION",         "FileGeneralPrintData",     "WriteGeneralPrintData",     "primarykey",  "u11", "d11",   fails, replaces, generalPrintLayout},
+    {12, "REPORTPRINTINGOPTIONS",      "FileReportPrintData",      "WriteReportPrintData",      "primarykey",  "u12", "d12",   fails, replaces, reportPrintLayout},
+    {13, "REPORTOPTIONS",              "FileReportOptionData",     "WriteReportData",           "primarykey",  "u13", "d13",   fails, replaces, reportOptionLayout},
+    {14, "TIMEKEEPING",                "FileTimeKeepingData",      "WriteTimeKeepingData",      "primarykey",  "u14", "d14",   fails, replaces, timeKeepingLayout},
+    {15, "smode",                      "FileSmodeData",            "WriteSmodeData",            "primarykey",  "u15", "d15",   fails, replaces, nullptr},
+    {16, "KEYLINK",                    "FileKeylinkData",          "WriteKeyLinkData",          "primarykey",  "u16", "d16",   fails, replaces, nullptr},
+    {17, "NLU",                        "FileNLUData",              "WriteNLUData",              "primarykey",  "u17", "d17",   fails, replaces, nullptr},
+    {19, "SYSTEMDESCRIPTORS",          "FilesystemMessageData",    nullptr,                     "primarykey",  "u19", nullptr, fails, replaces, nullptr},
+    {20, "ERRORMESSAGE",               "FileERRORMessageData",     "WriteErrorData",            "primarykey",  "u20", "d20",   fails, replaces, nullptr},
+    {21, "FINANCIALREPORTDESCRIPTORS", "FileFinancialMessageData", "WriteFinReptMessageData",   "primarykey",  "u21", "d21",   fails, replaces, nullptr},
+    {22, "EMPLOYEEREPORTDESCRIPTORS",  "FileEmployeeMessageData",  "WriteEmpRepMessdata",       "primarykey",  "u22", "d22",   fails, replaces, nullptr},
+    {23, "LOGOMESSAGE",                "FileLogoMessageData",      "WriteLogoData",             "primarykey",  "u23", "d23",   skips, replaces, nullptr},
+    {24, "VALIDATIONMESSAGE",          "FileValidmessage",         "writevalidmessage",         "primarykey",  "u24", "d24",   skips, replaces, nullptr},
+    {25, "CHECKENDORSEMESSAGE",        "FileCheckEndorseMessage",  "WriteCheckEndorseMessage",  "primarykey",  "u25", "d25",   skips, replaces, nullptr},
+    {26, "GUESTCHECKMESSAGE",          "FileGuestCheckMessage",    "WriteGuestCheckMessage",    "primarykey",  "u26", "d26",   skips, replaces, nullptr},
+    {29, "TAXRATES",                   "FileTaxRates",             "WriteTaxRates",             "primarykey",  "u29", "d29",   fails, replaces, nullptr},
+    {32, "AUTHORITYLEVEL",             "FileAuthorityLevels",      "WriteAuthorityLevels",      "primarykey",  "u32", "d32",   fails, replaces, nullptr},
+    {33, "JOBCODE",                    "FileJobCode",              "WriteJobCodeData",          "primarykey",  "u33", "d33",   fails, replaces, nullptr},
+    {34, "PAYRATE",                    "FilePayRate",              "WritePayrateData",          "primarykey",  "u34", "d34",   fails, replaces, nullptr},
+    {36, "EJDETAILPRINT",              "FileEJDetailData",         "WriteEJData",               "primarykey",  "u36", "d36",   fails, replaces, journalDetailLayout},
+    {57, "WLU",                        "FileWLUdata",              "WriteWLUData",              "primarykey",  "u57", "d57",   fails, replaces, nullptr},
+    {58, "PRODUCTMIX",                 "FileProductMixdata",       "WritePRODUCTMIXData",       "primarykeys", "u58", "d58",   fails, replaces, productMixLayout},
+    {60, "RECIPE",                     "FileRecipeData",           "WriteRecipeData",           "recipeno",    "u60", "d60",   fails, replaces, nullptr},
+    {63, "EMPLOYEE",                   "FileEmployeeData",         "WriteEmployeeData",         "primarykey",  "u63", "d63",   fails, replaces, nullptr},
+    {64, "TIMEPERIOD",                 "FileTimePeriod",           "WriteTimePeriod",           "id",          "u64", "d64",   fails, replaces, nullptr},
+    {65, "PLUSTATUS",                  "FilePLUStatusData",        "WritePluStatusData",        "primarykey",  "u65", "d65",   fails, replaces, pluStatusLayout},
+    {67, "PLUDATA",                    "FilePLUdata",              "WritePLUData",              "plunumber",   "u67", "d67",   fails, replaces, pluLayout},
+    {70, "MIXNMATCH",                  "FileMixNMatchData",        "WriteMixNMatchData",        "primarykey",  "u70", "d70",   skips, replaces, mixAndMatchLayout},
+    {71, "PLUDATA",                    "FilePLUPoint",             "WritePLUPoint",             "plunumber",   "u71", "d71",   skips, updates,  pluPointsLayout},
+    {85, "CARDCATEGORY",               "FileCardCategory",         "WriteCardCategory",         "primarykey",  "u85", "d85",   skips, replaces, nullptr},
+    {86, "HOTLIST",                    "FileHotlistdata",          "WriteHotlistdata",          "primarykey",  "u86", "d86",   skips, replaces, nullptr},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const RegisterFile> registerFiles()
+{
+    return files;
+}
+
+const RegisterFile* registerFile(int number)
+{
+    const auto* const found =
+        std::find_if(std::begin(files), std::end(files),
+                     [number](const RegisterFile& file) { return file.number == number; });
+    return found == std::end(files) ? nullptr : found;
+}
+
+} // namespace norvane::records

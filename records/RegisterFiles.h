@@ -1,0 +1,45 @@
+// The catalogue of the register files that have a text form: which table stands behind a file, which
+// procedures move it and how.
+#pragma once
+
+#include "records/RecordLayout.h"
+
+#include <span>
+
+namespace norvane::records
+{
+
+/// What an upload does with the table.
+enum class Upload {
+    ReplacesTable,  ///< all old records go, each line becomes a record
+    UpdatesRecords, ///< each line changes the record whose key is its first column; a line without one is
+                    ///< dropped
+};
+
+/// What a download does when the table has no records.
+enum class EmptyTable {
+    Fails, ///< with failure 3021
+    Skips, ///< no file is touched and nothing is converted
+};
+
+/// One register file. The procedures are known to users and papers by their names.
+struct RegisterFile {
+    int number;
+    const char* table;
+    const char* importer;        ///< name of the procedure that reads the text into the table
+    const char* exporter;        ///< name of the procedure that writes it, nullptr for none
+    const char* index;           ///< order in which records are written and keys are sought
+    const char* importOperation; ///< what the converter is asked for, binary to text
+    const char* exportOperation; ///< text to binary
+    EmptyTable emptyTable;
+    Upload upload;
+    const RecordLayout& (*layout)(); ///< nullptr while the file is only kept, not read
+};
+
+/// All files in the order of their numbers.
+[[nodiscard]] std::span<const RegisterFile> registerFiles();
+
+/// The file with this number; nullptr when it has no text form.
+[[nodiscard]] const RegisterFile* registerFile(int number);
+
+} // namespace norvane::records
