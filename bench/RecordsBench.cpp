@@ -1,0 +1,425 @@
+// What an import and an export of the PLU file cost beside the least that could do the work: a loop that
+// splits, converts and binds into one prepared insert, and one that selects and writes.
+#include "platform/Boxes.h"
+#include "records/FileProcedures.h"
+#include "store/Catalogue.h"
+#include "store/Database.h"
+
+#include <benchmark/benchmark.h>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <sqlite3.h>
+
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace norvane;
+using Seconds = std::chrono::duration<double>;
+
+constexpr int pluFile = 67;
+constexpr std::size_t columnCount = 22;
+
+class SilentBoxes : public Boxes
+{
+public:
+    void message(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/) override {}
+    bool ask(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/) override { return false; }
+    QString input(const QString& /*prompt*/, const QString& /*title*/, const QString& /*initial*/) override
+    {
+        return {};
+    }
+    void beep() override {}
+};
+
+/// What all rows add up to, so that nothing can be fast by not arriving.
+struct Sums {
+    std::int64_t rows = 0;
+    std::int64_t status = 0;
+    std::int64_t cents = 0;
+    std::int64_t flags = 0;
+    bool operator==(const Sums&) const = default;
+};
+
+std::string zeroFilled(std::int64_t number, std::size_t width)
+{
+    const auto digits = std::to_string(number);
+    return std::string(width - digits.size(), '0') + digits;
+}
+
+/// The text of @p lines PLUs, and what they add up to.
+std::string pluText(int lines, Sums& sums)
+{
+    std::string text;
+    for (int i = 0; i < lines; ++i) {
+        text += zeroFilled(5000000000000LL + i * 7LL, 18) + ",Article " + zeroFilled(i, 8) + ',';
+        text += zeroFilled(i % 99, 2) + ',' + zeroFilled(i % 500, 4) + ",0000,0001," + zeroFilled(i % 30, 4);
+        text += i % 2 == 0 ? ",45," : ",20,";
+        text += "0000," + zeroFilled(i % 100, 4) + ",000000000000000000,0000";
+        for (int price = 1; price <= 5; ++price) {
+            const int cents = (i * 31 + price * 17) % 100000;
+            text += ',' + zeroFilled(cents, 8) + ',' + zeroFilled(price, 2);
+            sums.cents += cents;
+        }
+        text += "\r\n";
+        sums.status += i % 500;
+        sums.flags += i % 2 == 0 ? 3 : 1;
+    }
+    sums.rows = lines;
+    return text;
+}
+
+void require(bool condition, const char* what)
+{
+    if (!condition) {
+        std::cerr << "benchmark failed: " << what << '\n';
+        std::abort();
+    }
+}
+
+/// A folder with a database and the text of so many PLUs.
+class Shop
+{
+public:
+    explicit Shop(int lines)
+    {
+        values.appPath = folder.path();
+        values.customerPath = folder.path();
+        values.databasePath = folder.filePath(QStringLiteral("velmar.mdb"));
+        bareDatabase = folder.filePath(QStringLiteral("bare.mdb"));
+        store::Database::create(values.databasePath, store::catalogue());
+        store::Database::create(bareDatabase, store::catalogue());
+        text = pluText(lines, sums);
+        std::ofstream(path("67.txt"), std::ios::binary) << text;
+        std::ofstream(path("setup.ini")) << "[SetupOption]\nECRModel=0\n";
+        QDir::setCurrent(folder.path());
+    }
+    ~Shop() { QDir::setCurrent(QDir::rootPath()); }
+    Shop(const Shop&) = delete;
+    Shop& operator=(const Shop&) = delete;
+
+    [[nodiscard]] std::string path(const char* name) const
+    {
+        return folder.filePath(QLatin1String(name)).toStdString();
+    }
+    [[nodiscard]] records::ProcedureContext context()
+    {
+        return {values, boxes, [](const QString&) {
+                    return true;
+                }};
+    }
+
+    QTemporaryDir folder;
+    ApplicationValues values;
+    QString bareDatabase;
+    SilentBoxes boxes;
+    std::string text;
+    Sums sums;
+};
+
+class BareDatabase
+{
+public:
+    explicit BareDatabase(const QString& path)
+    {
+        require(sqlite3_open(path.toUtf8().constData(), &m_database) == SQLITE_OK, "open");
+        run("pragma synchronous=full");
+    }
+    ~BareDatabase() { sqlite3_close(m_database); }
+    BareDatabase(const BareDatabase&) = delete;
+    BareDatabase& operator=(const BareDatabase&) = delete;
+
+    void run(const char* sql) const
+    {
+        require(sqlite3_exec(m_database, sql, nullptr, nullptr, nullptr) == SQLITE_OK, sql);
+    }
+    [[nodiscard]] sqlite3_stmt* prepare(const char* sql) const
+    {
+        sqlite3_stmt* statement = nullptr;
+        require(sqlite3_prepare_v2(m_database, sql, -1, &statement, nullptr) == SQLITE_OK,
+                sqlite3_errmsg(m_database));
+        return statement;
+    }
+
+private:
+    sqlite3* m_database = nullptr;
+};
+
+constexpr const char* bareInsert =
+    "insert into PLUDATA (PLUNUMBER,DESCRIPTION,GROUPNO,PLUSTATUS,WLUNUMBER,PIECECOUNT,RECIPENO,MIXNMATCH,"
+    "PRODUCTMIX,STOCKLINK,MODIFIER,PRICE1,PRICELEVEL1,PRICE2,PRICELEVEL2,PRICE3,PRICELEVEL3,PRICE4,"
+    "PRICELEVEL4,PRICE5,PRICELEVEL5,INactive,PRESET,OVERRIDE,pricechange,printNV) "
+    "values (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)";
+
+/// How the bare loop binds each column of the text.
+enum class Bare { Text, Whole, Long, Cents, Options };
+constexpr std::array<Bare, columnCount> bareColumns{
+    Bare::Text,  Bare::Text,  Bare::Whole, Bare::Whole, Bare::Whole, Bare::Whole, Bare::Whole, Bare::Options,
+    Bare::Whole, Bare::Whole, Bare::Long,  Bare::Whole, Bare::Cents, Bare::Whole, Bare::Cents, Bare::Whole,
+    Bare::Cents, Bare::Whole, Bare::Cents, Bare::Whole, Bare::Cents, Bare::Whole};
+constexpr int firstFlag = 22;
+
+void bindText(sqlite3_stmt* statement, int place, std::string_view text)
+{
+    sqlite3_bind_text(statement, place, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+}
+
+std::int64_t toWhole(std::string_view text)
+{
+    std::int64_t number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+void bindCents(sqlite3_stmt* statement, int place, std::string_view text)
+{
+    const auto cents = toWhole(text);
+    std::array<char, 32> buffer{};
+    const int size = std::snprintf(buffer.data(), buffer.size(), "%lld.%02lld",
+                                   static_cast<long long>(cents / 100), static_cast<long long>(cents % 100));
+    bindText(statement, place, {buffer.data(), static_cast<std::size_t>(size)});
+}
+
+void bindOptions(sqlite3_stmt* statement, std::string_view text)
+{
+    const int left = text[0] - '0';
+    const int right = text[1] - '0';
+    int place = firstFlag;
+    for (const int flag : {left & 4, left & 2, left & 1, right & 4, right & 1})
+        sqlite3_bind_int(statement, place++, flag != 0 ? -1 : 0);
+}
+
+void bindColumn(sqlite3_stmt* statement, Bare form, int place, std::string_view text)
+{
+    switch (form) {
+    case Bare::Text:
+        return bindText(statement, place, text);
+    case Bare::Whole:
+        sqlite3_bind_int64(statement, place, toWhole(text));
+        return;
+    case Bare::Long:
+        return bindText(statement, place,
+                        text.substr(std::min(text.find_first_not_of('0'), text.size() - 1)));
+    case Bare::Cents:
+        return bindCents(statement, place, text);
+    case Bare::Options:
+        return bindOptions(statement, text);
+    }
+}
+
+void bareImport(const Shop& shop)
+{
+    const BareDatabase database(shop.bareDatabase);
+    database.run("begin");
+    database.run("delete from PLUDATA");
+    std::ifstream file(shop.path("67.txt"), std::ios::binary);
+    sqlite3_stmt* insert = database.prepare(bareInsert);
+    for (std::string line; std::getline(file, line, '\n');) {
+        line.pop_back();
+        std::string_view rest = line;
+        int place = 1;
+        for (const Bare form : bareColumns) {
+            const auto comma = rest.find(',');
+            bindColumn(insert, form, place, rest.substr(0, comma));
+            place += form == Bare::Options ? 0 : 1;
+            rest.remove_prefix(comma == std::string_view::npos ? rest.size() : comma + 1);
+        }
+        require(sqlite3_step(insert) == SQLITE_DONE, "insert");
+        sqlite3_reset(insert);
+    }
+    sqlite3_finalize(insert);
+    database.run("commit");
+}
+
+constexpr const char* bareSelect =
+    "select PLUNUMBER,DESCRIPTION,GROUPNO,PLUSTATUS,WLUNUMBER,PIECECOUNT,RECIPENO,"
+    "INactive,PRESET,OVERRIDE,pricechange,printNV,MIXNMATCH,PRODUCTMIX,STOCKLINK,MODIFIER,PRICE1,PRICELEVEL1,"
+    "PRICE2,PRICELEVEL2,PRICE3,PRICELEVEL3,PRICE4,PRICELEVEL4,PRICE5,PRICELEVEL5 from PLUDATA order by "
+    "PLUNUMBER";
+
+std::string_view columnText(sqlite3_stmt* statement, int place)
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, place));
+    return text == nullptr ? std::string_view() : text;
+}
+
+void appendFilled(std::string& line, std::string_view text, std::size_t width)
+{
+    line.append(width > text.size() ? width - text.size() : 0, '0').append(text).push_back(',');
+}
+
+void appendWhole(std::string& line, std::int64_t number, std::size_t width)
+{
+    std::array<char, 24> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
+    appendFilled(line, {buffer.data(), static_cast<std::size_t>(end - buffer.data())}, width);
+}
+
+std::int64_t centsOf(std::string_view text)
+{
+    const auto point = text.find('.');
+    std::int64_t cents = toWhole(text.substr(0, point)) * 100;
+    if (point != std::string_view::npos) {
+        std::string fraction(text.substr(point + 1));
+        fraction.resize(2, '0');
+        cents += toWhole(fraction);
+    }
+    return cents;
+}
+
+void bareExport(const Shop& shop)
+{
+    const BareDatabase database(shop.values.databasePath);
+    std::ofstream file(shop.path("bare.txt"), std::ios::binary);
+    sqlite3_stmt* select = database.prepare(bareSelect);
+    std::string line;
+    while (sqlite3_step(select) == SQLITE_ROW) {
+        const auto whole = [&](int place, std::size_t width) {
+            appendWhole(line, sqlite3_column_int64(select, place), width);
+        };
+        const auto flag = [&](int place, int weight) {
+            return sqlite3_column_int(select, place) == -1 ? weight : 0;
+        };
+        line.clear();
+        appendFilled(line, columnText(select, 0), 18);
+        line += columnText(select, 1);
+        line.append(16 - std::min<std::size_t>(16, columnText(select, 1).size()), ' ') += ',';
+        whole(2, 2);
+        for (const int place : {3, 4, 5, 6})
+            whole(place, 4);
+        line += std::to_string(flag(7, 4) + flag(8, 2) + flag(9, 1));
+        line += std::to_string(flag(10, 4) + flag(11, 1)) + ',';
+        whole(12, 4);
+        whole(13, 4);
+        appendFilled(line, columnText(select, 14), 18);
+        whole(15, 4);
+        for (int place = 16; place < 26; place += 2) {
+            appendWhole(line, centsOf(columnText(select, place)), 8);
+            whole(place + 1, 2);
+        }
+        line.back() = '\r';
+        line += '\n';
+        file << line;
+    }
+    sqlite3_finalize(select);
+}
+
+Sums sumsOf(const QString& path)
+{
+    const BareDatabase database(path);
+    sqlite3_stmt* select = database.prepare(
+        "select count(*), sum(PLUSTATUS), cast(round(sum(100*(PRICE1+PRICE2+PRICE3+PRICE4+PRICE5))) as int),"
+        "sum((INactive<>0)+(PRESET<>0)+(OVERRIDE<>0)+(pricechange<>0)+(printNV<>0)) from PLUDATA");
+    require(sqlite3_step(select) == SQLITE_ROW, "sums");
+    const Sums sums{sqlite3_column_int64(select, 0), sqlite3_column_int64(select, 1),
+                    sqlite3_column_int64(select, 2), sqlite3_column_int64(select, 3)};
+    sqlite3_finalize(select);
+    return sums;
+}
+
+template <typename Work>
+double secondsOf(Work work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return Seconds(std::chrono::steady_clock::now() - start).count();
+}
+
+/// Runs ours and the bare loop by turns and reports how many times the bare loop's time ours takes.
+template <typename Ours, typename BareLoop>
+void compare(benchmark::State& state, Ours ours, BareLoop bareLoop)
+{
+    double oursTotal = 0;
+    double bareTotal = 0;
+    for (auto _ : state) {
+        bareTotal += secondsOf(bareLoop);
+        const double seconds = secondsOf(ours);
+        oursTotal += seconds;
+        state.SetIterationTime(seconds);
+    }
+    const auto runs = static_cast<double>(state.iterations());
+    state.counters["ratio"] = oursTotal / bareTotal;
+    state.counters["bare_ms"] = bareTotal / runs * 1e3;
+    state.counters["us_per_line"] = oursTotal / runs * 1e6 / static_cast<double>(state.range(0));
+}
+
+void importPlus(benchmark::State& state)
+{
+    Shop shop(static_cast<int>(state.range(0)));
+    compare(
+        state, [&] { records::importRegisterFile(pluFile, shop.context()); }, [&] { bareImport(shop); });
+    require(sumsOf(shop.values.databasePath) == shop.sums, "the import lost rows");
+    require(sumsOf(shop.bareDatabase) == shop.sums, "the bare loop lost rows");
+}
+
+void exportPlus(benchmark::State& state)
+{
+    Shop shop(static_cast<int>(state.range(0)));
+    records::importRegisterFile(pluFile, shop.context());
+    compare(
+        state, [&] { records::exportRegisterFile(pluFile, shop.context()); }, [&] { bareExport(shop); });
+    const auto contentOf = [&shop](const char* name) {
+        QFile file(QString::fromStdString(shop.path(name)));
+        require(file.open(QIODevice::ReadOnly), name);
+        return file.readAll().toStdString();
+    };
+    require(contentOf("67.txt") == shop.text, "the export is not what was imported");
+    require(contentOf("bare.txt") == shop.text, "the bare export is not what was imported");
+}
+
+/// A line of this process's status, in bytes.
+std::int64_t statusBytes(const char* name)
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.starts_with(name))
+            return std::atoll(line.c_str() + std::strlen(name)) * 1024;
+    }
+    return 0;
+}
+
+/// The most memory that an import takes above what the process had, as a multiple of the file's size. It is
+/// measured in a process of its own, whose mark of the highest use was set back before.
+void importMemory(benchmark::State& state)
+{
+    Shop shop(static_cast<int>(state.range(0)));
+    std::array<int, 2> pipeEnds{};
+    require(pipe(pipeEnds.data()) == 0, "pipe");
+    for (auto _ : state) {
+        const auto child = fork();
+        if (child == 0) {
+            std::ofstream("/proc/self/clear_refs") << "5";
+            const auto before = statusBytes("VmRSS:");
+            records::importRegisterFile(pluFile, shop.context());
+            const auto taken = statusBytes("VmHWM:") - before;
+            std::_Exit(write(pipeEnds[1], &taken, sizeof taken) == sizeof taken ? 0 : 1);
+        }
+        int status = 0;
+        std::int64_t taken = 0;
+        require(waitpid(child, &status, 0) == child && status == 0, "child");
+        require(read(pipeEnds[0], &taken, sizeof taken) == sizeof taken, "read");
+        state.counters["memory_per_file_size"] =
+            static_cast<double>(taken) / static_cast<double>(shop.text.size());
+    }
+    require(sumsOf(shop.values.databasePath) == shop.sums, "the import lost rows");
+    close(pipeEnds[0]);
+    close(pipeEnds[1]);
+}
+
+} // namespace
+
+BENCHMARK(importPlus)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(exportPlus)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(importMemory)->Arg(100000)->Iterations(3)->Unit(benchmark::kMillisecond);
+
+BENCHMARK_MAIN();
