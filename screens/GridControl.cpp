@@ -47,8 +47,9 @@ void GridControl::retryCell(const QModelIndex& index)
     setFocus();
     setCurrentIndex(index);
     edit(index);
-    if (auto* const editor = viewport()->findChild<QLineEdit*>())
-        editor->clear();
+    // The editor that was closed may be around still; the one opened now is the last.
+    if (const auto editors = viewport()->findChildren<QLineEdit*>(); !editors.isEmpty())
+        editors.last()->clear();
 }
 
 } // namespace norvane::screens

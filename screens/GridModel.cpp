@@ -4,8 +4,6 @@
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
 
-#include <cstdlib>
-
 namespace norvane::screens
 {
 namespace
@@ -21,6 +19,17 @@ QString zerosOf(const QString& format)
         if (character == u'0' || character == u'.')
             zeros += character;
     return zeros;
+}
+
+/// A table's name stands for all its records in the order of its first index.
+QString queryOf(const store::Database& database, const QString& sql)
+{
+    if (!database.hasTable(sql))
+        return sql;
+    const store::TableDefinition table = database.table(sql);
+    const QString query = QStringLiteral("select * from [%1]").arg(table.name);
+    return table.indexes.isEmpty() ? query
+                                   : query + QStringLiteral(" order by [%1]").arg(table.indexes[0].field);
 }
 
 bool isNumber(const QString& text)
@@ -43,7 +52,7 @@ GridModel::GridModel(std::shared_ptr<store::Database> database, const QString& s
 {
     if (sql.isEmpty())
         return;
-    m_records.emplace(m_database->openQuery(sql));
+    m_records.emplace(m_database->openQuery(queryOf(*m_database, sql)));
     m_total = static_cast<int>(m_records->recordCount());
     if (m_columns.size() > m_records->fieldCount())
         throw RuntimeFailure(Failure::InvalidArgument,
@@ -77,31 +86,20 @@ void GridModel::fetchMore(const QModelIndex& /*parent*/)
     if (last < first)
         return;
     beginInsertRows({}, first, last);
-    for (int row = first; row <= last; ++row) {
-        moveTo(row);
-        m_rows.push_back(currentRow());
-    }
+    for (int row = first; row <= last; ++row)
+        m_rows.push_back(readRow(row));
     endInsertRows();
 }
 
-GridModel::Row GridModel::currentRow() const
+/// A row that another screen has deleted meanwhile stays as a line of blanks.
+GridModel::Row GridModel::readRow(int row)
 {
-    Row row;
+    Row values(static_cast<std::size_t>(m_records->fieldCount()));
+    if (!m_records->moveTo(row))
+        return values;
     for (int field = 0; field < m_records->fieldCount(); ++field)
-        row.push_back(m_records->value(field));
-    return row;
-}
-
-void GridModel::moveTo(int row)
-{
-    if (row < std::abs(row - m_place)) {
-        m_records->moveFirst();
-        m_place = 0;
-    }
-    for (; m_place < row; ++m_place)
-        m_records->moveNext();
-    for (; m_place > row; --m_place)
-        m_records->movePrevious();
+        values[static_cast<std::size_t>(field)] = m_records->value(field);
+    return values;
 }
 
 const store::Value& GridModel::cell(const QModelIndex& index) const
@@ -135,7 +133,8 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const
 {
     const auto flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    return column(index.column()).locked ? flags : flags | Qt::ItemIsEditable;
+    const bool isLocked = column(index.column()).locked || !m_records->isUpdatable();
+    return isLocked ? flags : flags | Qt::ItemIsEditable;
 }
 
 store::Value GridModel::valueOf(int column, const QString& text) const
@@ -154,7 +153,7 @@ store::Value GridModel::valueOf(int column, const QString& text) const
 
 void GridModel::storeCell(const QModelIndex& index, const QString& text)
 {
-    moveTo(index.row());
+    m_records->moveTo(index.row());
     try {
         m_records->edit();
         m_records->setValue(index.column(), valueOf(index.column(), text));
@@ -163,7 +162,7 @@ void GridModel::storeCell(const QModelIndex& index, const QString& text)
         m_records->cancelUpdate();
         throw;
     }
-    m_rows[static_cast<std::size_t>(index.row())] = currentRow();
+    m_rows[static_cast<std::size_t>(index.row())] = readRow(index.row());
 }
 
 bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role)

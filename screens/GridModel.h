@@ -45,15 +45,13 @@ private:
 
     [[nodiscard]] GridColumn column(int number) const { return m_columns.value(number); }
     [[nodiscard]] const store::Value& cell(const QModelIndex& index) const;
-    [[nodiscard]] Row currentRow() const;
-    void moveTo(int row);
+    [[nodiscard]] Row readRow(int row);
     void storeCell(const QModelIndex& index, const QString& text);
     [[nodiscard]] store::Value valueOf(int column, const QString& text) const;
 
     std::shared_ptr<store::Database> m_database;
     QVector<GridColumn> m_columns;
     std::optional<store::Recordset> m_records;
-    int m_place = 0; ///< row on which the recordset stands
     int m_total = 0;
     std::vector<Row> m_rows; ///< those read so far
 };

@@ -1,0 +1,258 @@
+// What the buttons of a screen do to a table, seen in the table.
+#include "screens/RecordEditor.h"
+
+#include "tests/screens/ScreenFixture.h"
+
+namespace norvane::screens
+{
+namespace
+{
+
+using store::Value;
+using test::failureOf;
+
+BoundField bound(ControlKind kind, const char* field, bool readOnly = false)
+{
+    return {kind, QString::fromLatin1(field), readOnly, {}};
+}
+
+Value text(const char* value)
+{
+    return Value::text(std::string(value));
+}
+
+class RecordEditorTest : public testing::Test
+{
+protected:
+    RecordEditor editor(const char* table = "groups", const char* first = "GroupNo",
+                        const char* second = "byname")
+    {
+        return {std::make_shared<store::Database>(m_shop.values.databasePath),
+                {QString::fromLatin1(table), QString::fromLatin1(first), QString::fromLatin1(second)},
+                QStringLiteral("test.scn")};
+    }
+    RecordEditor pluEditor() { return editor("PLUDATA", "PLUNUMBER", "plunumber"); }
+
+    test::ScreenFixture m_shop;
+    BoundFields m_groupFields{bound(ControlKind::Integer, "GROUPNO"), bound(ControlKind::Text, "description"),
+                              bound(ControlKind::Decimal, "Price"),   bound(ControlKind::Combo, "LINK"),
+                              bound(ControlKind::Check, "TAX1"),      bound(ControlKind::Check, "FLAG")};
+    BoundFields m_pluFields{bound(ControlKind::Text, "PLUNUMBER"), bound(ControlKind::Text, "DESCRIPTION")};
+};
+
+TEST_F(RecordEditorTest, ShowsTheFirstRecordOfTheIndex)
+{
+    editor().showFields(m_groupFields);
+    QStringList shown;
+    for (const BoundField& field : std::as_const(m_groupFields))
+        shown += field.content.toText();
+    EXPECT_EQ(shown.join(u'|'), QStringLiteral("1|Wines|12.34|3|1|0"))
+        << "a flag that holds 1 is not true and shows unticked";
+    editor("GROUPS", "byname").showFields(m_groupFields);
+    EXPECT_EQ(m_groupFields[1].content.toText(), QStringLiteral("Beers"));
+}
+
+TEST_F(RecordEditorTest, NullIsEmptyOrZeroButNotInAWholeNumberBox)
+{
+    m_shop.execute("update GROUPS set DESCRIPTION = null, PRICE = null, LINK = null, TAX1 = null");
+    editor().showFields(m_groupFields);
+    EXPECT_EQ(m_groupFields[1].content, text(""));
+    EXPECT_EQ(m_groupFields[2].content, text("0"));
+    EXPECT_TRUE(m_groupFields[3].content.isNull());
+    EXPECT_EQ(m_groupFields[4].content, Value::whole(0));
+    BoundFields fields{bound(ControlKind::Integer, "LINK")};
+    EXPECT_EQ(failureOf([&] { editor().showFields(fields); }), 13);
+}
+
+TEST_F(RecordEditorTest, NamesThatTheTableDoesNotHaveFailWithTheScreensName)
+{
+    BoundFields fields{bound(ControlKind::Text, "NOFIELD")};
+    EXPECT_EQ(failureOf([&] { editor("nothing"); }), 3265);
+    EXPECT_EQ(failureOf([&] { editor("GROUPS", "primarykey"); }), 3265);
+    EXPECT_EQ(failureOf([&] { editor("GROUPS", ""); }), 3265);
+    try {
+        editor().showFields(fields);
+        ADD_FAILURE();
+    } catch (const RuntimeFailure& failure) {
+        EXPECT_EQ(failure.number(), 3265);
+        EXPECT_TRUE(failure.text().contains(QStringLiteral("NOFIELD")) &&
+                    failure.text().contains(QStringLiteral("test.scn")))
+            << failure.what();
+    }
+    m_shop.execute("delete * from GROUPS");
+    EXPECT_EQ(failureOf([&] { editor().showFields(m_groupFields); }), 3021);
+}
+
+TEST_F(RecordEditorTest, SavesEachKindInItsForm)
+{
+    RecordEditor groups = editor();
+    groups.showFields(m_groupFields);
+    const char* const typed[] = {"1", "Ports", "7.50", "2 ", "1", "1"};
+    for (int at = 0; at < m_groupFields.size(); ++at)
+        m_groupFields[at].content = text(typed[at]);
+    EXPECT_EQ(groups.save(m_groupFields), SaveOutcome::Stored);
+    EXPECT_EQ(
+        m_shop.rows("select GROUPNO, DESCRIPTION, PRICE, LINK, TAX1, FLAG from GROUPS where GROUPNO = 1"),
+        QStringList{QStringLiteral("1|Ports|7.5|2|True|1")});
+}
+
+TEST_F(RecordEditorTest, ReadOnlyBoxesAreNotWritten)
+{
+    RecordEditor groups = editor();
+    BoundFields fields{bound(ControlKind::Text, "DESCRIPTION", true),
+                       bound(ControlKind::Integer, "LINK", true), bound(ControlKind::Decimal, "RATE", true)};
+    for (BoundField& field : fields)
+        field.content = text("9");
+    EXPECT_EQ(groups.save(fields), SaveOutcome::Stored);
+    EXPECT_EQ(m_shop.rows("select DESCRIPTION, LINK, RATE from GROUPS where GROUPNO = 1"),
+              QStringList{QStringLiteral("Wines|3|1.5")});
+}
+
+TEST_F(RecordEditorTest, AnEmptyBoxOfANumberFieldLeavesItNull)
+{
+    RecordEditor groups = editor();
+    BoundFields fields{bound(ControlKind::Text, "LONGLINK"), bound(ControlKind::Text, "DESCRIPTION")};
+    groups.showFields(fields);
+    fields[1].content = text("Ports");
+    EXPECT_EQ(groups.save(fields), SaveOutcome::Stored);
+    fields[0].content = text("999999999999999999");
+    EXPECT_EQ(groups.save(fields), SaveOutcome::Stored);
+    EXPECT_EQ(m_shop.rows("select LONGLINK, DESCRIPTION from GROUPS where GROUPNO < 3 order by GROUPNO"),
+              (QStringList{QStringLiteral("999999999999999999|Ports"), QStringLiteral("null|Beers")}));
+}
+
+TEST_F(RecordEditorTest, PluNumbersAreFilledToTheirWidth)
+{
+    RecordEditor plus = pluEditor();
+    plus.add(m_pluFields);
+    m_pluFields[0].content = text("99000000000000000077");
+    m_pluFields[1].content = text("Stout");
+    EXPECT_EQ(plus.save(m_pluFields), SaveOutcome::Stored);
+    EXPECT_EQ(m_pluFields[0].content, text("000000000000000077"));
+    BoundFields shownOnly{bound(ControlKind::Text, "PluNumber", true)};
+    shownOnly[0].content = text("8");
+    EXPECT_EQ(plus.save(shownOnly), SaveOutcome::Stored);
+    EXPECT_EQ(shownOnly[0].content, text("000000000000000008")) << "filled also where it is not written";
+    EXPECT_EQ(m_shop.rows("select PLUNUMBER from PLUDATA order by PLUNUMBER"),
+              (QStringList{QStringLiteral("000000000000000005"), QStringLiteral("000000000000000077"),
+                           QStringLiteral("000000000000000123")}));
+}
+
+TEST_F(RecordEditorTest, ADuplicateKeyKeepsTheRecordOpenForTheNextTry)
+{
+    RecordEditor plus = pluEditor();
+    plus.add(m_pluFields);
+    EXPECT_EQ(m_pluFields[1].content, text(""));
+    m_pluFields[0].content = text("123");
+    m_pluFields[1].content = text("Stout");
+    EXPECT_EQ(plus.save(m_pluFields), SaveOutcome::DuplicateKey);
+    m_pluFields[0].content = text("124");
+    EXPECT_EQ(plus.save(m_pluFields), SaveOutcome::Stored) << "still the new record";
+    EXPECT_EQ(m_shop.rows("select DESCRIPTION from PLUDATA order by PLUNUMBER"),
+              (QStringList{QStringLiteral("Lager"), QStringLiteral("Claret"), QStringLiteral("Stout")}));
+    // The same for a record that exists.
+    plus.showFields(m_pluFields);
+    m_pluFields[0].content = text("124");
+    EXPECT_EQ(plus.save(m_pluFields), SaveOutcome::DuplicateKey);
+    m_pluFields[0].content = text("4");
+    EXPECT_EQ(plus.save(m_pluFields), SaveOutcome::Stored);
+    EXPECT_EQ(m_shop.rows("select DESCRIPTION from PLUDATA where PLUNUMBER = '000000000000000004'"),
+              QStringList{QStringLiteral("Lager")});
+}
+
+TEST_F(RecordEditorTest, OtherFailuresOfASavePassSilently)
+{
+    RecordEditor groups = editor();
+    for (const char* typed : {"a name that is much too long", "fits"}) {
+        BoundFields fields{bound(ControlKind::Text, "DESCRIPTION"), bound(ControlKind::Integer, "LINK")};
+        fields[0].content = text(typed);
+        fields[1].content = text("3000000000");
+        EXPECT_EQ(groups.save(fields), SaveOutcome::Refused) << typed;
+    }
+    EXPECT_EQ(m_shop.rows("select DESCRIPTION, LINK from GROUPS where GROUPNO = 1"),
+              QStringList{QStringLiteral("Wines|3")});
+}
+
+TEST_F(RecordEditorTest, MovesStopAtBothEndsAndDropWhatIsOpen)
+{
+    RecordEditor groups = editor();
+    BoundFields fields{bound(ControlKind::Text, "DESCRIPTION")};
+    const auto shown = [&] {
+        groups.showFields(fields);
+        return fields[0].content.toText();
+    };
+    EXPECT_FALSE(groups.previous());
+    EXPECT_EQ(shown(), QStringLiteral("Wines"));
+    EXPECT_TRUE(groups.next());
+    EXPECT_TRUE(groups.next());
+    EXPECT_FALSE(groups.next());
+    EXPECT_EQ(shown(), QStringLiteral("Food"));
+    groups.add(fields);
+    groups.add(fields);
+    EXPECT_TRUE(groups.previous());
+    EXPECT_EQ(shown(), QStringLiteral("Beers"));
+    fields[0].content = text("Ales");
+    EXPECT_EQ(groups.save(fields), SaveOutcome::Stored) << "the new records are gone; this one is changed";
+    EXPECT_EQ(m_shop.rows("select DESCRIPTION from GROUPS order by GROUPNO"),
+              (QStringList{QStringLiteral("Wines"), QStringLiteral("Ales"), QStringLiteral("Food")}));
+}
+
+TEST_F(RecordEditorTest, FindLandsAtOrAfterTheTextAndItsIndexStays)
+{
+    RecordEditor groups = editor();
+    BoundFields fields{bound(ControlKind::Text, "DESCRIPTION")};
+    const auto shown = [&] {
+        groups.showFields(fields);
+        return fields[0].content.toText();
+    };
+    EXPECT_TRUE(groups.find(1, QStringLiteral("2")));
+    EXPECT_EQ(shown(), QStringLiteral("Beers"));
+    EXPECT_TRUE(groups.find(2, QStringLiteral("C")));
+    EXPECT_EQ(shown(), QStringLiteral("Food"));
+    EXPECT_TRUE(groups.next());
+    EXPECT_EQ(shown(), QStringLiteral("Wines")) << "by name";
+    EXPECT_TRUE(groups.find(1, {}));
+    EXPECT_EQ(shown(), QStringLiteral("Wines")) << "an empty text lies before every key";
+    EXPECT_EQ(failureOf([&] { (void)groups.find(1, QStringLiteral("two")); }), 3421);
+}
+
+TEST_F(RecordEditorTest, AfterASearchInVainTheMovesGoToTheLastRecord)
+{
+    RecordEditor groups = editor();
+    BoundFields fields{bound(ControlKind::Text, "DESCRIPTION")};
+    for (const bool forward : {true, false}) {
+        EXPECT_FALSE(groups.find(1, QStringLiteral("4")));
+        EXPECT_EQ(groups.save(fields), SaveOutcome::Refused) << "there is no current record";
+        EXPECT_EQ(forward ? groups.next() : groups.previous(), !forward);
+        groups.showFields(fields);
+        EXPECT_EQ(fields[0].content.toText(), QStringLiteral("Food"));
+    }
+}
+
+TEST_F(RecordEditorTest, FindFillsPluNumbers)
+{
+    RecordEditor plus = pluEditor();
+    EXPECT_TRUE(plus.find(1, QStringLiteral("123")));
+    plus.showFields(m_pluFields);
+    EXPECT_EQ(m_pluFields[1].content.toText(), QStringLiteral("Claret"));
+    EXPECT_FALSE(plus.find(2, QStringLiteral("124")));
+}
+
+TEST_F(RecordEditorTest, DeletesTheCurrentRecordAndDropsANewOne)
+{
+    RecordEditor groups = editor();
+    BoundFields fields{bound(ControlKind::Text, "DESCRIPTION")};
+    groups.add(fields);
+    groups.deleteRecord();
+    EXPECT_EQ(m_shop.rows("select GROUPNO from GROUPS").size(), 3);
+    EXPECT_TRUE(groups.next());
+    groups.deleteRecord();
+    groups.showFields(fields);
+    EXPECT_EQ(fields[0].content.toText(), QStringLiteral("Wines"));
+    groups.deleteRecord();
+    EXPECT_EQ(failureOf([&] { groups.deleteRecord(); }), 3021) << "the last one leaves nothing to show";
+    EXPECT_TRUE(m_shop.rows("select GROUPNO from GROUPS").isEmpty());
+}
+
+} // namespace
+} // namespace norvane::screens
