@@ -1,0 +1,96 @@
+// The catalogue of what is collected from the registers: sales of each kind, and the memory allocation.
+#include "store/CatalogueRows.h"
+
+namespace norvane::store::rows
+{
+namespace
+{
+
+// Totals of one item on the day of a collection; the clerks' have the clerk beside the item.
+constexpr Row itemSales[] = {
+    mustBeSet(whole("ID")),
+    mustBeSet(date("SALESDATE")),
+    zeroUnlessSet(decimal("QUANTITY")),
+    zeroUnlessSet(decimal("VALUE")),
+};
+
+constexpr Row clerkSales[] = {
+    mustBeSet(whole("ID")),          mustBeSet(whole("CLERKID")),
+    mustBeSet(date("SALESDATE")),    zeroUnlessSet(decimal("QUANTITY")),
+    zeroUnlessSet(decimal("VALUE")),
+};
+
+constexpr Row pluSales[] = {
+    mustBeSet(text("ID", 18)),
+    mustBeSet(date("SALESDATE")),
+    mustBeSet(decimal("PROMO")),
+    mustBeSet(decimal("WASTE")),
+    numbered(5, zeroUnlessSet(decimal("COUNT*")), zeroUnlessSet(decimal("VALUE*"))),
+};
+
+// Register file 52. Kept as text so that a register's odd answer, or a line that ends early, is stored as it
+// came; the flags tell which totals the register keeps.
+constexpr Row memoryAllocation[] = {
+    counter("ID"),
+    reported("reporttotals"),
+    reported("REPORTCOUNTERS"),
+    reported("PLU"),
+    reported("PLUSTATUS"),
+    reported("PRICELEVELS"),
+    reported("EMPLOYEES"),
+    reported("TIME/EMPLOYEE"),
+    reported("LINES/SOFTCHECK"),
+    reported("TRACKINGFILES"),
+    numbered(4, reported("TRACK*")),
+    reported("TIMEPERIOD"),
+    reported("PRODUCTMIXGROUP"),
+    reported("PRODUCTMIXTIME"),
+    reported("WLU"),
+    reported("LINES/PLU"),
+    reported("RECIPE"),
+    reported("INVENTORYINGREDIENT"),
+    reported("LINE/EJ"),
+    reported("PAIDRECALL"),
+    reported("SUPER"),
+    reported("LINES/TRANSACTIONS"),
+    flag("PLUBYLEVEL"),
+    flag("GROUPBYEMPLOYEE"),
+    flag("CHECKTRACKSOFT"),
+    flag("PROJECTIONS"),
+    flag("STOREBITMAP"),
+    flag("EATINTIMEPERIOD"),
+    flag("TAKEOUTTIMEPERIOD"),
+    flag("DRIVETHRUTIMEPERIOD"),
+    numbered(4, flag("TRACK*TIME")),
+    numbered(5, flag("Z*GROUPTIME")),
+    numbered(5, flag("Z*FINANCIAL")),
+    numbered(5, flag("Z*EMPLOYEE")),
+    numbered(5, flag("Z*PLU")),
+    numbered(5, flag("Z*GROUP")),
+    numbered(5, flag("Z*TIME")),
+    numbered(5, flag("Z*TIMEKEEP")),
+    reported("MIX"),
+    flag("CLERKINTERRUPT"),
+    numbered(5, flag("Z*MIX")),
+    reported("CATEGORY"),
+    reported("HOTLIST"),
+};
+
+constexpr TableRow tables[] = {
+    {"TIMESALES", itemSales},
+    {"CLERKSALES", clerkSales},
+    {"PLUSALES", pluSales},
+    {"MIXSALES", itemSales},
+    {"GROUPSALES", itemSales},
+    {"FINANCIALSALES", itemSales},
+    {"memoryallocation", memoryAllocation, {"primarykey"}, "ID"},
+};
+
+} // namespace
+
+std::span<const TableRow> collectedTables()
+{
+    return tables;
+}
+
+} // namespace norvane::store::rows

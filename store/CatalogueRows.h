@@ -1,0 +1,117 @@
+// The words in which the catalogue's tables are written, one row for a field or for a numbered group of
+// fields. Only the Catalogue*.cpp files use them; everybody else reads store/Catalogue.h.
+#pragma once
+
+#include "store/Definitions.h"
+
+#include <array>
+#include <span>
+
+namespace norvane::store::rows
+{
+
+struct FieldRow {
+    const char* name = nullptr;
+    FieldType type = FieldType::Text;
+    int size = 0;
+    const char* defaultText = "";
+    bool required = false;
+};
+
+/// A field, or fields that come again and again with a number in their names.
+struct Row {
+    std::array<FieldRow, 3> fields{};
+    int times = 0; ///< 0: stands once, the name as it is
+
+    constexpr Row(FieldRow field) : fields{field} {}
+    constexpr Row(int count, FieldRow first, FieldRow second, FieldRow third)
+        : fields{first, second, third}, times(count)
+    {
+    }
+};
+
+/// The fields in turn for 1, then for 2, up to @p times; the number takes the place of "*" in their names.
+constexpr Row numbered(int times, FieldRow first, FieldRow second = {}, FieldRow third = {})
+{
+    return {times, first, second, third};
+}
+
+constexpr FieldRow flag(const char* name)
+{
+    return {name, FieldType::YesNo};
+}
+/// A whole number of up to 9 digits: what a number box on a screen can hold.
+constexpr FieldRow whole(const char* name)
+{
+    return {name, FieldType::Long};
+}
+/// A whole number of 10 to 15 digits. A double holds each of them exactly and a decimal box of no places
+/// shows it; a box for whole numbers ends at 2,147,483,647.
+constexpr FieldRow longNumber(const char* name)
+{
+    return {name, FieldType::Double};
+}
+/// A number with decimal places.
+constexpr FieldRow decimal(const char* name)
+{
+    return {name, FieldType::Double};
+}
+/// A whole number of more than 15 digits, which no number type keeps exactly.
+constexpr FieldRow digits(const char* name, int size)
+{
+    return {name, FieldType::Digits, size};
+}
+constexpr FieldRow text(const char* name, int size)
+{
+    return {name, FieldType::Text, size};
+}
+/// A price is a number held as text: the price utilities leave forms such as " 1.5", and what they left must
+/// read back unchanged. Wide enough for any quotient of a price and an exchange rate.
+constexpr FieldRow price(const char* name)
+{
+    return text(name, 20);
+}
+/// What the register reports of its memory, kept as it came.
+constexpr FieldRow reported(const char* name)
+{
+    return text(name, 20);
+}
+constexpr FieldRow date(const char* name)
+{
+    return {name, FieldType::Date};
+}
+constexpr FieldRow counter(const char* name)
+{
+    return {name, FieldType::Counter};
+}
+constexpr FieldRow mustBeSet(FieldRow field)
+{
+    field.required = true;
+    return field;
+}
+/// May not be null, and starts as "0" so that it never is unless somebody makes it so.
+constexpr FieldRow zeroUnlessSet(FieldRow field)
+{
+    field.defaultText = "0";
+    return mustBeSet(field);
+}
+
+/// Lines of messages are 40 characters on the widest printer.
+constexpr int messageLine = 40;
+
+struct TableRow {
+    const char* name = nullptr;
+    std::span<const Row> fields;
+    std::array<const char*, 2> indexNames{}; ///< of the one index; none for a table that is only appended to
+    const char* indexField = nullptr;
+};
+
+[[nodiscard]] std::span<const TableRow> productTables();
+[[nodiscard]] std::span<const TableRow> keyTables();
+[[nodiscard]] std::span<const TableRow> optionTables();
+[[nodiscard]] std::span<const TableRow> printOptionTables();
+[[nodiscard]] std::span<const TableRow> messageTables();
+[[nodiscard]] std::span<const TableRow> staffTables();
+[[nodiscard]] std::span<const TableRow> collectedTables();
+
+} // namespace norvane::store::rows

@@ -1,0 +1,24 @@
+// make_template <file>: writes the template of a customer's database, every table of the current layout,
+// empty.
+#include "platform/RuntimeFailure.h"
+#include "store/Catalogue.h"
+#include "store/Database.h"
+
+#include <QFile>
+
+#include <iostream>
+
+int main(int argc, char* argv[])
+{
+    if (argc != 2) {
+        std::cerr << "usage: make_template <file>\n";
+        return 2;
+    }
+    try {
+        norvane::store::Database::create(QFile::decodeName(argv[1]), norvane::store::catalogue());
+    } catch (const norvane::RuntimeFailure& failure) {
+        std::cerr << "make_template: " << failure.what() << '\n';
+        return 1;
+    }
+    return 0;
+}

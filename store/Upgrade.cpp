@@ -1,0 +1,137 @@
+// The steps that bring an older customer database to the current layout, and the engine that runs them.
+#include "store/Upgrade.h"
+
+#include "platform/RuntimeFailure.h"
+#include "store/Catalogue.h"
+#include "store/Database.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
+
+namespace norvane::store
+{
+namespace
+{
+
+enum class Action {
+    AddFields,     ///< the named fields of the catalogue
+    CreateTable,   ///< the whole table of the catalogue
+    AddTableAgain, ///< always fails, since the table is there
+};
+
+constexpr std::size_t mostFields = 18;
+
+struct Step {
+    Action action = Action::AddFields;
+    const char* table = nullptr;
+    std::array<const char*, mostFields> fields{};
+    /// The type in upgraded databases where it is not the one of the current layout.
+    std::optional<FieldType> type = std::nullopt;
+};
+
+// clang-format off
+constexpr Step steps[] = {
+    {Action::AddFields, "AUTHORITYLEVEL", {"disallowaddinx", "disallowoverrideinx", "disallowsubtractinx"}},
+    {Action::AddFields, "EMPLOYEE", {"dallaskey"}},
+    {Action::AddFields, "KITCHENPRINTOPTIONS", {"REDIRECTTORCPT"}},
+    {Action::AddFields, "PLUDATA", {"PRINTNV"}},
+    // The number that it carries in the current layout does not fit: kept, since such databases are in use.
+    {Action::AddFields, "PLUSTATUS", {"LINKEDNVIMAGE"}, FieldType::YesNo},
+    {Action::AddFields, "GENERALFUNCTIONS",
+     {"redeemcash", "redeemcheck", "redeemmisc1", "redeemmisc2", "redeemmisc3", "redeemmisc4", "redeemmisc5",
+      "redeemmisc6", "redeemmisc7", "redeemmisc8", "redeemmisc9", "redeemmisc10", "redeemmisc11",
+      "redeemmisc12", "redeemmisc13", "redeemmisc14", "redeemmisc15", "redeemmisc16"}},
+    {Action::AddFields, "GeneralPrintOption",
+     {"turnoffautocutter", "prelogoimagercpt", "postlogoimagercpt", "prelogoimagegc", "postlogoimagegc"}},
+    {Action::AddFields, "GeneralPrintOption", {"STOPINTERNALPRINT"}},
+    {Action::CreateTable, "TIMESALES"},
+    {Action::CreateTable, "ClerkSales"},
+    {Action::CreateTable, "PLUSALES"},
+    {Action::CreateTable, "MIXSALES"},
+    {Action::CreateTable, "GROUPSALES"},
+    {Action::CreateTable, "FINANCIALSALES"},
+    {Action::AddFields, "EJDETAILPRINT",
+     {"EJPOINTPAYMENT", "EJSUBTRACTPOINT", "EJADDPOINT", "EJSUBTRACTVALUE", "EJREDEEM", "EJPRINTCARD",
+      "EJCARDSALE", "EJHOTLIST", "EJREMOVECARD", "CONDENSEDPRINT", "PRINTNEGLINES", "DISABLEREGDETAIL"}},
+    {Action::AddFields, "trackingfileoptions", {"DISABLEGCONRECEIPT"}},
+    {Action::AddTableAgain, "trackingfileoptions"},
+};
+// clang-format on
+
+/// The catalogue's definition under the name as the step spells it.
+FieldDefinition fieldOf(const Step& step, const QString& name)
+{
+    const QVector<FieldDefinition>& fields = catalogueTable(QLatin1String(step.table))->fields;
+    FieldDefinition field = *std::find_if(fields.begin(), fields.end(), [&name](const FieldDefinition& each) {
+        return each.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    field.name = name;
+    field.type = step.type.value_or(field.type);
+    return field;
+}
+
+void addFields(Database& database, const Step& step)
+{
+    for (const char* name : step.fields) {
+        if (name != nullptr) {
+            database.addField(QLatin1String(step.table), fieldOf(step, QLatin1String(name)));
+        }
+    }
+}
+
+void createTable(Database& database, const Step& step)
+{
+    TableDefinition table = *catalogueTable(QLatin1String(step.table));
+    table.name = QLatin1String(step.table);
+    database.addTable(table);
+}
+
+void run(Database& database, const Step& step)
+{
+    switch (step.action) {
+    case Action::AddFields:
+        addFields(database, step);
+        break;
+    case Action::CreateTable:
+        createTable(database, step);
+        break;
+    case Action::AddTableAgain:
+        database.addTable(database.table(QLatin1String(step.table)));
+        break;
+    }
+    database.refresh();
+}
+
+} // namespace
+
+void UpgradeDatabase(const QString& path)
+{
+    try {
+        Database database(path);
+        // What was done before a failure stays, but a computer switched off in between leaves the old layout
+        // whole: a layout half way would never be completed by a later start.
+        Transaction transaction(database);
+        for (const Step& step : steps) {
+            run(database, step);
+        }
+    } catch (const RuntimeFailure&) {
+        // A field that exists already is how the current layout is told; nothing is reported.
+        return;
+    }
+}
+
+void UpgradeUnitDescription(const QString& path)
+{
+    try {
+        Database database(path);
+        database.addField(QStringLiteral("productmix"),
+                          {QStringLiteral("unitdescription"), FieldType::Text, 10, QString(), false});
+    } catch (const RuntimeFailure&) {
+        // It is there on every start after the first.
+        return;
+    }
+}
+
+} // namespace norvane::store
