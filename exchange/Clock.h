@@ -1,0 +1,32 @@
+// Time as the modem's waits know it; handed in, so that a test need not sit out the real seconds.
+#pragma once
+
+namespace norvane::exchange
+{
+
+class Clock
+{
+public:
+    Clock() = default;
+    Clock(const Clock&) = delete;
+    Clock& operator=(const Clock&) = delete;
+    virtual ~Clock() = default;
+
+    /// Seconds since the last midnight, with fractions.
+    [[nodiscard]] virtual double secondsSinceMidnight() = 0;
+    /// Lets a moment pass without handling events.
+    virtual void pause() = 0;
+    /// Handles the window events that are pending.
+    virtual void yieldEvents() = 0;
+};
+
+/// The machine's clock and the application's event queue.
+class SystemClock : public Clock
+{
+public:
+    [[nodiscard]] double secondsSinceMidnight() override;
+    void pause() override;
+    void yieldEvents() override;
+};
+
+} // namespace norvane::exchange

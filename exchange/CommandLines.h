@@ -1,0 +1,31 @@
+// The command lines of the transfer tool, to the blank: the tool takes its words by place, and registers have
+// been programmed through exactly these lines.
+#pragma once
+
+#include "exchange/LinkSettings.h"
+
+#include <QString>
+
+namespace norvane::exchange
+{
+
+/// Speed word of a program exchange by list index, its blank included: "s2 ", "s4 ", "s9 ", "s1 ".
+[[nodiscard]] QString speedWord(int baudIndex);
+/// Bare rate of a sales collection and of the serial line by list index: "1200", "2400", "9600", "19200".
+/// The first two do not agree with the set-up list; they are what the registers' modems are set to.
+[[nodiscard]] QString bareRate(int baudIndex);
+/// Port word by list index; the word of port 1 alone has no blank behind it.
+[[nodiscard]] QString portWord(int portIndex);
+
+/// Fetches from the one register at the end of the line.
+[[nodiscard]] QString uploadLine(const LinkSettings& link, const QString& suffix);
+/// Opening exchange ahead of a download, with the one register at the end of the line.
+[[nodiscard]] QString downloadOpeningLine(const LinkSettings& link, const QString& suffix);
+/// Sends to registers 1 to n in one run of the tool.
+[[nodiscard]] QString downloadLine(const LinkSettings& link, const QString& suffix);
+
+/// Suffixes that open every sequence: memory allocation file, and the exchange without a data file.
+inline constexpr const char* memorySuffix = " Nmem.DAT -U 52";
+inline constexpr const char* openingSuffix = "  -U 250";
+
+} // namespace norvane::exchange

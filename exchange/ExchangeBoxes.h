@@ -1,0 +1,46 @@
+// The boxes of the exchange dialog: what a user can choose to move.
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+namespace norvane::exchange
+{
+
+inline constexpr int boxCount = 37;
+/// Boxes that the sequences themselves look at.
+inline constexpr int pluBox = 0;
+inline constexpr int serialPortBox = 23;
+inline constexpr int firstSmartCardBox = 34;
+inline constexpr int pluPointsBox = 36;
+
+/// Values of a check box; there is no third state.
+inline constexpr int boxUnticked = 0;
+inline constexpr int boxTicked = 1;
+
+/// Captions in index order; "&&" shows as one ampersand.
+[[nodiscard]] const std::array<const char*, boxCount>& boxCaptions();
+/// A caption as the user reads it.
+[[nodiscard]] QString boxName(int box);
+
+/// Whether the note about powering off the registers comes before a download of the serial port devices. The
+/// value of its box is held against -1, true as a number, which a ticked box (1) never is.
+[[nodiscard]] bool serialPortNoteDue(int boxValue, const QString& exchangeMode);
+/// The note's text: three lines, each ended by a carriage return.
+[[nodiscard]] QString serialPortNote();
+
+/// The ticks as a sequence sees and changes them.
+class TickBoxes
+{
+public:
+    TickBoxes() = default;
+    TickBoxes(const TickBoxes&) = delete;
+    TickBoxes& operator=(const TickBoxes&) = delete;
+    virtual ~TickBoxes() = default;
+
+    [[nodiscard]] virtual bool isTicked(int box) const = 0;
+    virtual void setTicked(int box, bool ticked) = 0;
+};
+
+} // namespace norvane::exchange

@@ -1,0 +1,61 @@
+// What an upload and a download move, in order: one row for each register file behind a box.
+#pragma once
+
+#include <span>
+
+namespace norvane::exchange
+{
+
+/// A file fetched from the register and kept in the customer's folder.
+struct UploadRow {
+    int box;              ///< index of the box in the exchange dialog
+    int file;             ///< number of the register file
+    const char* literal;  ///< end of the command line; its blanks are exact
+    const char* importer; ///< procedure that reloads the table, nullptr when the file is only kept
+};
+
+/// Which way a binary file is copied around a send.
+enum class Copy {
+    None,
+    ToCustomerAfter,    ///< the file just made and sent becomes the customer's kept copy
+    FromCustomerAfter,  ///< the customer's older copy is laid over the file just sent
+    FromCustomerBefore, ///< the customer's kept copy is what is sent
+};
+
+/// When a row is passed over.
+enum class Skip {
+    Never,
+    WhenTableEmpty, ///< the writer found no rows and touched no file
+    WhenFileEmpty,  ///< the kept file has no bytes; a file that is missing is a failure
+};
+
+/// A file sent to all registers of the range.
+struct DownloadRow {
+    int box;
+    int file;
+    const char* literal;
+    const char* writer; ///< procedure that makes the file from its table, nullptr for a file without a table
+    Copy copy;
+    Skip skip;
+};
+
+/// All rows in the order of execution.
+[[nodiscard]] std::span<const UploadRow> uploadPlan();
+[[nodiscard]] std::span<const DownloadRow> downloadPlan();
+
+/// The rows of one box; they stand together in a plan.
+template <typename Row>
+[[nodiscard]] std::span<const Row> rowsOfBox(std::span<const Row> plan, int box)
+{
+    std::size_t first = 0;
+    while (first < plan.size() && plan[first].box != box) {
+        ++first;
+    }
+    std::size_t end = first;
+    while (end < plan.size() && plan[end].box == box) {
+        ++end;
+    }
+    return plan.subspan(first, end - first);
+}
+
+} // namespace norvane::exchange

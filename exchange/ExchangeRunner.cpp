@@ -1,0 +1,205 @@
+// The upload and download sequences over their plans.
+#include "exchange/ExchangeRunner.h"
+
+#include "exchange/CommandLines.h"
+#include "exchange/MemoryFile.h"
+#include "exchange/MoveDataFile.h"
+#include "exchange/ResultCodes.h"
+#include "platform/ChildProcess.h"
+#include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
+#include "shell/CustomerSettings.h"
+
+#include <QFileInfo>
+
+namespace norvane::exchange
+{
+namespace
+{
+
+/// What a writer returns when its table has no rows and it has touched no file.
+constexpr int nothingWritten = 1;
+
+QString dataFile(int file)
+{
+    return QStringLiteral("%1.dat").arg(file);
+}
+
+/// Length of a register file in the working directory.
+qint64 lengthOf(const QString& name)
+{
+    if (!pathExists(name)) {
+        throw RuntimeFailure(
+            Failure::FileNotFound,
+            QStringLiteral("The file %1 is missing. Upload it from the ECR first.").arg(name));
+    }
+    return QFileInfo(existingPath(name)).size();
+}
+
+} // namespace
+
+ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const LinkSettings& link, TickBoxes& ticks,
+                               ExchangeOutside outside)
+    : m_values(values), m_link(link), m_ticks(ticks),
+      m_outside(std::move(outside)), m_procedures{values, m_outside.boxes, [this](const QString& line) {
+                                                      return runTool(line);
+                                                  }}
+{
+}
+
+void ExchangeRunner::UploadData()
+{
+    if (!transfer(QStringLiteral("Opening exchange"), uploadLine(m_link, QLatin1String(openingSuffix))) ||
+        !transfer(QStringLiteral("Memory allocation"), uploadLine(m_link, QLatin1String(memorySuffix)))) {
+        return;
+    }
+    keepForCustomer(QStringLiteral("MEM.dat"));
+    FileMemory(m_values, m_outside.boxes, [this](const QString& line) { return runTool(line); });
+    moveBoxes(uploadPlan(), &ExchangeRunner::uploadRow);
+}
+
+void ExchangeRunner::downloaddata()
+{
+    if (!transfer(QStringLiteral("Memory allocation"),
+                  downloadOpeningLine(m_link, QLatin1String(memorySuffix))) ||
+        !transfer(QStringLiteral("Opening exchange"),
+                  downloadOpeningLine(m_link, QLatin1String(openingSuffix)))) {
+        return;
+    }
+    moveBoxes(downloadPlan(), &ExchangeRunner::downloadRow);
+}
+
+template <typename Row>
+void ExchangeRunner::moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::*moveRow)(const Row&))
+{
+    for (int box = 0; box < boxCount; ++box) {
+        if (box == firstSmartCardBox) {
+            untickWithoutSmartCards();
+        }
+        if (!m_ticks.isTicked(box)) {
+            continue;
+        }
+        for (const Row& row : rowsOfBox(plan, box)) {
+            if (!m_outside.goOn() || !(this->*moveRow)(row)) {
+                return;
+            }
+        }
+        m_ticks.setTicked(box, false);
+        if (box == pluBox) {
+            // Reloading or sending the PLUs clears their points, so these have to follow.
+            m_ticks.setTicked(pluPointsBox, true);
+        }
+    }
+}
+
+bool ExchangeRunner::uploadRow(const UploadRow& row)
+{
+    showStep("Upload", row.box, row.file);
+    runTool(uploadLine(m_link, QLatin1String(row.literal)));
+    if (!succeeded()) {
+        return false;
+    }
+    if (row.importer != nullptr && records::hasImporter(row.file)) {
+        records::importRegisterFile(row.file, m_procedures);
+    }
+    keepForCustomer(dataFile(row.file));
+    return true;
+}
+
+bool ExchangeRunner::downloadRow(const DownloadRow& row)
+{
+    showStep("Download", row.box, row.file);
+    const QString name = dataFile(row.file);
+    // Without a writer the customer's kept copy is what the registers get, never a file that happens to lie
+    // in the program's folder and may be another customer's.
+    const bool hasWriter = row.writer != nullptr && records::hasExporter(row.file);
+    if (!hasWriter) {
+        copyBeforeSend(name);
+    } else if (records::exportRegisterFile(row.file, m_procedures) == nothingWritten &&
+               row.skip == Skip::WhenTableEmpty) {
+        return true;
+    }
+    if (row.skip == Skip::WhenFileEmpty && lengthOf(name) == 0) {
+        return true;
+    }
+    runTool(downloadLine(m_link, QLatin1String(row.literal)));
+    if (hasWriter) {
+        copyAfterSend(row.copy, name);
+    }
+    return succeeded();
+}
+
+void ExchangeRunner::copyBeforeSend(const QString& name)
+{
+    if (!pathExists(joinPath(m_values.customerPath, name))) {
+        m_outside.showNotice(
+            QStringLiteral("The customer's folder holds no %1. Upload it from the ECR first.").arg(name));
+    }
+    MoveDataFile(m_values.customerPath, m_values.appPath, name);
+}
+
+void ExchangeRunner::copyAfterSend(Copy copy, const QString& name)
+{
+    if (copy == Copy::ToCustomerAfter) {
+        keepForCustomer(name);
+    } else if (copy == Copy::FromCustomerAfter) {
+        MoveDataFile(m_values.customerPath, m_values.appPath, name);
+    }
+}
+
+/// The copy in the customer's folder is the only store of a file without a table: it stays when a tool
+/// reports success and has left nothing to put in its place.
+void ExchangeRunner::keepForCustomer(const QString& name)
+{
+    if (pathExists(joinPath(m_values.appPath, name))) {
+        MoveDataFile(m_values.appPath, m_values.customerPath, name);
+    }
+}
+
+/// Model 0 has no smart card files.
+void ExchangeRunner::untickWithoutSmartCards()
+{
+    if (readSetting(m_values, QStringLiteral("ECRModel"), QStringLiteral("0")) != QLatin1String("0")) {
+        return;
+    }
+    for (int box = firstSmartCardBox; box < boxCount; ++box) {
+        m_ticks.setTicked(box, false);
+    }
+}
+
+/// A tool that does not start leaves the former result standing, and the sequence goes by that; the user is
+/// told beside it.
+bool ExchangeRunner::runTool(const QString& commandLine)
+{
+    const bool started = m_outside.runAndWait(commandLine);
+    if (!started) {
+        m_outside.showNotice(
+            QStringLiteral("The program %1 was not found.").arg(commandWords(commandLine).value(0)));
+    }
+    return started;
+}
+
+bool ExchangeRunner::succeeded()
+{
+    const QString status = m_outside.readStatus();
+    if (resultNumber(status) == 0) {
+        return true;
+    }
+    m_outside.boxes.message(QStringLiteral("Communications Error ") + status,
+                            QStringLiteral("Communication result"));
+    return false;
+}
+
+bool ExchangeRunner::transfer(const QString& step, const QString& commandLine)
+{
+    m_outside.showStep(step);
+    runTool(commandLine);
+    return succeeded();
+}
+
+void ExchangeRunner::showStep(const char* verb, int box, int file)
+{
+    m_outside.showStep(QStringLiteral("%1 %2, file %3").arg(QLatin1String(verb), boxName(box)).arg(file));
+}
+
+} // namespace norvane::exchange

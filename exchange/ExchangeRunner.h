@@ -1,0 +1,72 @@
+// Walks the exchange plans: opens the exchange, moves the files of each ticked box, stops at the first result
+// that is not 0.
+#pragma once
+
+#include "exchange/ExchangeBoxes.h"
+#include "exchange/ExchangePlan.h"
+#include "exchange/LinkSettings.h"
+#include "platform/Boxes.h"
+#include "records/FileProcedures.h"
+#include "shell/ApplicationValues.h"
+
+#include <functional>
+
+namespace norvane::exchange
+{
+
+/// The world outside a sequence.
+struct ExchangeOutside {
+    /// Runs a tool's command line and waits for its end. @return false when the tool could not be started.
+    std::function<bool(const QString& commandLine)> runAndWait;
+    /// The last value of status.out.
+    std::function<QString()> readStatus;
+    /// Names the step in work.
+    std::function<void(const QString& text)> showStep;
+    /// Tells what the user should know but what does not stop the sequence; stands until the run ends.
+    std::function<void(const QString& text)> showNotice;
+    /// Asked before each file: whether the user is still there to want it.
+    std::function<bool()> goOn;
+    Boxes& boxes;
+};
+
+/// One run over the ticked boxes. The values, settings and ticks handed in must outlive it. A box is unticked
+/// when all its files have moved, so that what stays ticked after a failure is what is still to do. Nothing
+/// done is undone.
+class ExchangeRunner
+{
+public:
+    ExchangeRunner(const ApplicationValues& values, const LinkSettings& link, TickBoxes& ticks,
+                   ExchangeOutside outside);
+    ExchangeRunner(const ExchangeRunner&) = delete;
+    ExchangeRunner& operator=(const ExchangeRunner&) = delete;
+
+    /// Fetches from one register, reloads the tables, keeps the binary files in the customer's folder.
+    /// @throws RuntimeFailure 53 when status.out or a text file is missing, 13 when status.out holds no
+    /// number or the model is none, and what the importers throw.
+    void UploadData();
+    /// Makes the files from the tables, or takes the kept ones, and sends them to registers 1 to n.
+    /// @throws as UploadData, and 53 when the kept bitmap file is missing.
+    void downloaddata();
+
+private:
+    template <typename Row>
+    void moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::*moveRow)(const Row&));
+    bool uploadRow(const UploadRow& row);
+    bool downloadRow(const DownloadRow& row);
+    void copyBeforeSend(const QString& name);
+    void copyAfterSend(Copy copy, const QString& name);
+    void keepForCustomer(const QString& name);
+    void untickWithoutSmartCards();
+    bool runTool(const QString& commandLine);
+    bool succeeded();
+    bool transfer(const QString& step, const QString& commandLine);
+    void showStep(const char* verb, int box, int file);
+
+    const ApplicationValues& m_values;
+    const LinkSettings& m_link;
+    TickBoxes& m_ticks;
+    ExchangeOutside m_outside;
+    records::ProcedureContext m_procedures;
+};
+
+} // namespace norvane::exchange

@@ -1,0 +1,68 @@
+// The keys, defaults and treatments of the link values as one table.
+#include "exchange/LinkSettings.h"
+
+#include "platform/Numbers.h"
+#include "platform/RuntimeFailure.h"
+#include "shell/CustomerSettings.h"
+
+#include <limits>
+
+namespace norvane::exchange
+{
+namespace
+{
+
+int listIndex(const QString& text)
+{
+    return roundHalfEven(leadingNumber(text));
+}
+
+int smallNumber(const QString& text)
+{
+    using Small = std::numeric_limits<std::int16_t>;
+    const int number = roundHalfEven(leadingNumber(text));
+    if (number < Small::min() || number > Small::max()) {
+        throw RuntimeFailure(Failure::Overflow,
+                             QStringLiteral("ModemDelay in setup.ini is out of range: %1").arg(text));
+    }
+    return number;
+}
+
+QString connectionWord(const QString& text)
+{
+    return text == QLatin1String("1") ? QStringLiteral("MODEM") : QStringLiteral("DIRECT");
+}
+
+const QString carriageReturn = QStringLiteral("\r");
+
+struct LinkKey {
+    const char* key;
+    const char* defaultText;
+    void (*take)(LinkSettings& link, const QString& text);
+};
+
+// clang-format off
+constexpr LinkKey linkKeys[] = {
+    {"Connectiontype", "0",      [](LinkSettings& l, const QString& t) { l.connectionType = connectionWord(t); }},
+    {"ModemReset",     "AT&F ",  [](LinkSettings& l, const QString& t) { l.resetString = t + carriageReturn; }},
+    {"ModemString",    "ATZ1 ",  [](LinkSettings& l, const QString& t) { l.setUpString = t + carriageReturn; }},
+    {"telephone",      " ",      [](LinkSettings& l, const QString& t) { l.dialString = QStringLiteral("ATD") + t + carriageReturn; }},
+    {"ModemDelay",     " ",      [](LinkSettings& l, const QString& t) { l.modemDelay = smallNumber(t); }},
+    {"baud",           " ",      [](LinkSettings& l, const QString& t) { l.baudIndex = listIndex(t); }},
+    {"port",           " ",      [](LinkSettings& l, const QString& t) { l.portIndex = listIndex(t); }},
+    {"NoOfECRs",       " ",      [](LinkSettings& l, const QString& t) { l.rangeWord = numberText(listIndex(t) + 1.0) + QLatin1Char('T'); }},
+};
+// clang-format on
+
+} // namespace
+
+LinkSettings readLinkSettings(const ApplicationValues& values)
+{
+    LinkSettings link;
+    for (const LinkKey& key : linkKeys) {
+        key.take(link, readSetting(values, QLatin1String(key.key), QLatin1String(key.defaultText)));
+    }
+    return link;
+}
+
+} // namespace norvane::exchange

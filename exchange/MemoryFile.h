@@ -1,0 +1,22 @@
+// The memory allocation file of the register last spoken to, register file 52.
+#pragma once
+
+#include "platform/Boxes.h"
+#include "shell/ApplicationValues.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace norvane::exchange
+{
+
+/// Reloads the table memoryallocation from mem.dat in the program's folder: converts it to 52.txt in the
+/// working directory with @p runCommand, empties the table and stores a row for each line. A failed
+/// conversion is not noticed: an older 52.txt is read then.
+/// @throws RuntimeFailure 53 when mem.dat or 52.txt is missing, 13 when a column of flags is no number; the
+/// table is empty or holds the lines before then.
+void FileMemory(const ApplicationValues& values, Boxes& boxes,
+                const std::function<bool(const QString& commandLine)>& runCommand);
+
+} // namespace norvane::exchange

@@ -1,0 +1,45 @@
+// Dialling the registers' modem before an exchange and hanging up after it. In between the port is closed so
+// that the transfer tool can use it, while the call stays up.
+#pragma once
+
+#include "exchange/Clock.h"
+#include "exchange/LinkSettings.h"
+#include "platform/SerialLine.h"
+
+#include <QStringList>
+
+#include <functional>
+
+namespace norvane::exchange
+{
+
+class Modem
+{
+public:
+    /// @p show puts a text into the form's status bar.
+    Modem(SerialLine& line, Clock& clock, std::function<void(const QString&)> show);
+
+    /// Sets rate and port of the serial line; a port index other than 0 to 3 leaves the port as it was.
+    void setUpLine(const LinkSettings& link);
+
+    /// Resets, programs and dials. Window events are handled during the waits, so the user may leave
+    /// meanwhile: a port closed under a wait ends it.
+    /// @return 0 when connected (the port is closed then), 100 on any failure (the port stays open, for
+    /// Dropphoneline to hang up).
+    [[nodiscard]] int DialModem(const LinkSettings& link);
+
+    /// Sends the escape and hangs up, opening the port if need be; failures of the port are passed over.
+    void Dropphoneline();
+
+private:
+    struct Step;
+    bool converse(const Step& step);
+    bool waitForAnswer(const QStringList& answers, double seconds);
+    void pauseFor(double seconds, double since);
+
+    SerialLine& m_line;
+    Clock& m_clock;
+    std::function<void(const QString&)> m_show;
+};
+
+} // namespace norvane::exchange

@@ -1,0 +1,67 @@
+// The table of result codes.
+#include "exchange/ResultCodes.h"
+
+#include "platform/Numbers.h"
+#include "platform/RuntimeFailure.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace norvane::exchange
+{
+namespace
+{
+
+struct ResultCode {
+    int code;
+    const char* text;
+};
+
+constexpr ResultCode resultCodes[] = {
+    {1, "1. Bad Agrument Entry"},
+    {2, "2. File Open Error"},
+    {3, "3. File Information Is Wrong"},
+    {4, "4. File Size Mismatch"},
+    {5, "5. Argument Conversion Error"},
+    {6, "6. File Write Error"},
+    {7, "7. Unknown Command"},
+    {8, "8. Time Out"},
+    {9, "9. Packet Size Error"},
+    {10, "10. Packet Number Mismatch"},
+    {11, "11. Bad CRC"},
+    {12, "Machine Busy"},
+    {13, "Pre poll Error"},
+    {14, "Pre poll Error"},
+    {15, "Report Clear Error"},
+    {99, "Aborted by User"},
+    {modemFailed, "Modem Failure"},
+    {descriptionsPolled, "Please set\rS-Mode.\r5.System Option.\r13. Send PLU Description when polled to N"},
+};
+
+} // namespace
+
+QString resultText(int status, int dialResult)
+{
+    const auto* row = std::find_if(std::begin(resultCodes), std::end(resultCodes),
+                                   [status](const ResultCode& code) { return code.code == status; });
+    if (row != std::end(resultCodes)) {
+        return QLatin1String(row->text);
+    }
+    return QStringLiteral("Error %1 Sorry Error Unknown").arg(dialResult);
+}
+
+int resultNumber(const QString& statusText)
+{
+    if (statusText.trimmed().isEmpty()) {
+        return 0;
+    }
+    try {
+        return toWholeNumber(statusText);
+    } catch (const RuntimeFailure& failure) {
+        throw RuntimeFailure(
+            failure.failure(),
+            QStringLiteral("status.out holds \"%1\", which is no result code.").arg(statusText.left(80)));
+    }
+}
+
+} // namespace norvane::exchange

@@ -1,0 +1,22 @@
+// The result codes that the transfer tool leaves in status.out, in words.
+#pragma once
+
+#include <QString>
+
+namespace norvane::exchange
+{
+
+/// Result that the dialling of the modem gives on any failure.
+inline constexpr int modemFailed = 100;
+/// Result that a sales collection gives itself when the registers send PLU descriptions with their poll.
+inline constexpr int descriptionsPolled = 101;
+
+/// The text for @p status. A status without a text of its own shows @p dialResult, the number that dialling
+/// gave (0 on a direct link), and not itself.
+[[nodiscard]] QString resultText(int status, int dialResult);
+
+/// A value of status.out as a number; empty text counts as 0.
+/// @throws RuntimeFailure 13 when it is no number, 6 when it is beyond a whole number of 32 bits.
+[[nodiscard]] int resultNumber(const QString& statusText);
+
+} // namespace norvane::exchange

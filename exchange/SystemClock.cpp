@@ -1,0 +1,28 @@
+// The machine's clock.
+#include "exchange/Clock.h"
+
+#include <QCoreApplication>
+#include <QThread>
+#include <QTime>
+
+namespace norvane::exchange
+{
+
+double SystemClock::secondsSinceMidnight()
+{
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+void SystemClock::pause()
+{
+    // Short against the shortest answer of a modem, long against a busy loop.
+    constexpr unsigned long milliseconds = 10;
+    QThread::msleep(milliseconds);
+}
+
+void SystemClock::yieldEvents()
+{
+    QCoreApplication::processEvents();
+}
+
+} // namespace norvane::exchange
