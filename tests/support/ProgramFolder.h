@@ -1,0 +1,46 @@
+// A staged program folder for the tests that walk through real tools: what a dealer's machine has after the
+// installation, and a bank of registers beside it.
+#pragma once
+
+#include "shell/ApplicationValues.h"
+#include "tests/platform/TestFolder.h"
+
+#include <optional>
+
+namespace norvane::test
+{
+
+/// Holds app/ (template database, setup.ini, screens, both tools) and registers/ (the bank) in a temporary
+/// folder. app/ is the working directory while it lives, as it is for the program.
+class ProgramFolder
+{
+public:
+    /// @p model is the index ECRModel of the template settings and the kind of all @p registers; @p plus 0
+    /// gives each the shop's own range of PLUs.
+    explicit ProgramFolder(int model = 2, int registers = 1, int plus = 0);
+
+    [[nodiscard]] QString appPath() const { return m_folder.path("app"); }
+    [[nodiscard]] QString bankPath() const { return m_folder.path("registers"); }
+    /// Path of a register's binary file; registers count from 1.
+    [[nodiscard]] QString registerFile(int number, int file) const;
+    /// Path of a file in the program's folder.
+    [[nodiscard]] QString appFile(const QString& name) const;
+
+    /// Makes a customer by copying the templates, and hands out the values of a program that has chosen it.
+    [[nodiscard]] ApplicationValues makeCustomer(const QString& name) const;
+
+    /// Lets steps of the tools fail as the sections of a faults.ini say, from its first step on; empty text
+    /// mends all.
+    void setFaults(const QByteArray& sections) const;
+    /// Takes "VELMARCOMM" or "convert" away.
+    void removeTool(const char* name) const;
+
+private:
+    void stage(int model, int registers) const;
+    void makeBank(int model, int registers, int plus) const;
+
+    TestFolder m_folder;
+    std::optional<WorkingDirectory> m_workingDirectory;
+};
+
+} // namespace norvane::test
