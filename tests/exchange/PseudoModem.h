@@ -1,0 +1,73 @@
+// A modem at the far end of a pseudo terminal, and a clock that runs faster than the day.
+#pragma once
+
+#include "exchange/Clock.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <deque>
+#include <functional>
+#include <map>
+
+namespace norvane::test
+{
+
+/// Answers each command that ends in a carriage return with the next of its answers, as many seconds later as
+/// told. Keeps all that it got.
+class PseudoModem
+{
+public:
+    struct Answer {
+        QByteArray text;
+        double delay = 0;
+    };
+
+    PseudoModem();
+    ~PseudoModem();
+    PseudoModem(const PseudoModem&) = delete;
+    PseudoModem& operator=(const PseudoModem&) = delete;
+
+    /// Device name for the serial line.
+    [[nodiscard]] QString device() const { return m_device; }
+    void willAnswer(std::deque<Answer> answers) { m_answers = std::move(answers); }
+    /// Puts bytes on the line at a time of the clock, asked or not.
+    void willSay(double time, const QByteArray& text) { m_due.insert({time, text}); }
+    /// Reads what has come and sends what is due at @p now, in seconds that go on past midnight.
+    void act(double now);
+    /// All bytes that have come so far.
+    [[nodiscard]] QByteArray received();
+
+private:
+    void readPending();
+    void say(const QByteArray& text);
+
+    int m_line;
+    QString m_device;
+    std::deque<Answer> m_answers;
+    std::multimap<double, QByteArray> m_due;
+    QByteArray m_received;
+    qsizetype m_answered = 0;
+};
+
+/// Every pause is a tenth of a second on this clock. The modem works whenever time passes.
+class QuickClock : public exchange::Clock
+{
+public:
+    explicit QuickClock(PseudoModem& modem, double start = 36000) : m_modem(modem), m_now(start) {}
+
+    /// Runs at each handling of events, as a user's press would.
+    std::function<void()> onEvents;
+    [[nodiscard]] double now() const { return m_now; }
+
+    [[nodiscard]] double secondsSinceMidnight() override { return m_now; }
+    void pause() override;
+    void yieldEvents() override;
+
+private:
+    PseudoModem& m_modem;
+    double m_now;
+    int m_days = 0;
+};
+
+} // namespace norvane::test
