@@ -88,9 +88,12 @@ TEST(Reports, stampThePluReportByTheRegistersSettings)
 TEST(Reports, refuseTotalsThatAreNoNumbersAndRegistersThatAreOff)
 {
     const ToolBench bench(2);
-    sell(bench, 1, 190, "1,one\r\n");
-    EXPECT_EQ(bench.comm(consolidate), "0");
-    EXPECT_EQ(bench.comm(collect), "3");
+    for (const auto* value : {"one", "", "1.2.3", "1.2345", "9000000000000000000"}) {
+        sell(bench, 1, 190, QByteArray("1,") + value + "\r\n");
+        EXPECT_EQ(bench.comm(consolidate), "0") << value;
+        EXPECT_EQ(bench.comm(collect), "3") << value;
+        EXPECT_EQ(bench.comm(clear), "0") << value;
+    }
     EXPECT_FALSE(bench.has(q("work/poll190.dll")));
     bench.set(2, "On", "0");
     for (const auto& line : {consolidate, collect, clear})

@@ -26,6 +26,7 @@ constexpr int reportClearError = 15;
 constexpr qsizetype pluDigits = 18;
 constexpr qsizetype descriptionWidth = 16;
 constexpr qint64 thousand = 1000;
+constexpr qint64 largestTotal = 1'000'000'000'000; ///< so that sums over all registers stay exact
 
 // The stamp's high half is the number of price levels, its low half says what each record holds.
 constexpr quint8 byLevelBit = 1;
@@ -86,7 +87,8 @@ qint64 thousandthsOf(const QByteArray& text, const QString& path)
     bool fractionFits = false;
     const auto whole = parts.first().toLongLong(&wholeFits);
     const auto rest = fraction.toUInt(&fractionFits);
-    if (!wholeFits || !fractionFits || fraction.size() != 3 || parts.size() > 2) {
+    if (!wholeFits || whole > largestTotal || whole < -largestTotal || !fractionFits ||
+        fraction.size() != 3 || parts.size() > 2) {
         throw ToolFailure(FileInformationWrong,
                           QStringLiteral("%1: no number: %2").arg(path, QString::fromLatin1(text)));
     }
