@@ -36,12 +36,16 @@ FrmCustomer::FrmCustomer(ApplicationValues& values, Boxes& boxes, QWidget* paren
     layOut();
 
     connect(List1, &QListWidget::itemSelectionChanged, this, &FrmCustomer::copyChosenRow);
+    // Going into the list with the keyboard makes a row the current one, which then is the one chosen.
+    connect(List1, &QListWidget::currentItemChanged, this, [](QListWidgetItem* current) {
+        if (current)
+            current->setSelected(true);
+    });
     connect(List1, &QListWidget::itemClicked, this, &FrmCustomer::copyChosenRow);
     connect(List1, &QListWidget::itemDoubleClicked, CSCmdBtn1, &QPushButton::click);
     connect(CSCmdBtn1, &QPushButton::clicked, this, &FrmCustomer::takeCustomer);
     List1->addItems(customerFolders(m_values.appPath));
-    if (List1->count() == 0)
-        text1->setFocus();
+    text1->setFocus();
 }
 
 void FrmCustomer::layOut()

@@ -13,6 +13,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QScreen>
 
 #include <algorithm>
@@ -34,6 +35,13 @@ constexpr Qt::WindowFlags sharedFormFlags = Qt::SubWindow | Qt::CustomizeWindowH
 int pixelsLess(int pixels, int spareTwips)
 {
     return (pixels * twipsPerPixel - spareTwips) / twipsPerPixel;
+}
+
+/// "M&ix & Match Table": an ampersand before a blank marks no access letter but is one of the words.
+QString menuText(QLatin1StringView caption)
+{
+    static const QRegularExpression ampersandWord(QStringLiteral("(?<!&)& "));
+    return caption.toString().replace(ampersandWord, QStringLiteral("&& "));
 }
 
 void nameAction(QAction& action, const MenuEntry& entry)
@@ -88,13 +96,13 @@ void FrmMain::buildMenu()
 QAction* FrmMain::buildEntry(const MenuEntry& entry)
 {
     if (entry.opens == Opens::Menu) {
-        auto* const menu = new QMenu(entry.caption, this);
+        auto* const menu = new QMenu(menuText(entry.caption), this);
         menu->setObjectName(entry.name);
         menu->setAccessibleName(entry.name);
         nameAction(*menu->menuAction(), entry);
         return menu->menuAction();
     }
-    auto* const action = new QAction(entry.caption, this);
+    auto* const action = new QAction(menuText(entry.caption), this);
     nameAction(*action, entry);
     action->setSeparator(entry.opens == Opens::Separator);
     connect(action, &QAction::triggered, this, [this, &entry] { open(entry); });

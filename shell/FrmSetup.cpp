@@ -101,10 +101,11 @@ void FrmSetup::load()
 {
     const QList<SettingValue> read = readSettings(m_values);
     for (qsizetype row = 0; row < read.size(); ++row) {
-        if (auto* const combo = qobject_cast<QComboBox*>(m_controls[row]))
+        if (auto* const combo = qobject_cast<QComboBox*>(m_controls[row])) {
             combo->setCurrentIndex(read[row].index);
-        else if (auto* const text = qobject_cast<QLineEdit*>(m_controls[row]))
+        } else if (auto* const text = qobject_cast<QLineEdit*>(m_controls[row])) {
             text->setText(read[row].text);
+        }
     }
 }
 
@@ -112,10 +113,11 @@ void FrmSetup::save()
 {
     QList<SettingValue> shown;
     for (const QWidget* const control : m_controls) {
-        if (const auto* const combo = qobject_cast<const QComboBox*>(control))
+        if (const auto* const combo = qobject_cast<const QComboBox*>(control)) {
             shown.append(SettingValue{combo->currentIndex(), {}});
-        else if (const auto* const text = qobject_cast<const QLineEdit*>(control))
+        } else if (const auto* const text = qobject_cast<const QLineEdit*>(control)) {
             shown.append(SettingValue{-1, text->text()});
+        }
     }
     writeSettings(m_values, shown);
     close();

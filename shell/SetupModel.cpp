@@ -34,9 +34,10 @@ constexpr std::array readingOrder{0, 3, 7, 1, 2, 4, 5, 6};
 int indexOf(const Setting& setting, const QString& stored)
 {
     const int index = toWholeNumber(stored, storedBits);
-    if (index < -1 || index >= setting.items.size())
+    if (index < -1 || index >= setting.items.size()) {
         throw RuntimeFailure(Failure::InvalidArgument,
                              u"Invalid property value: there is no entry %1 in the list"_s.arg(index));
+    }
     return index;
 }
 

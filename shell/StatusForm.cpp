@@ -51,10 +51,11 @@ void StatusForm::keyPressEvent(QKeyEvent* event)
         auto* const focused = qobject_cast<QPushButton*>(focusWidget());
         pressed = focused ? focused : m_onEnter;
     }
-    if (pressed)
+    if (pressed) {
         pressed->click();
-    else
+    } else {
         QWidget::keyPressEvent(event);
+    }
 }
 
 } // namespace norvane::shell

@@ -71,10 +71,11 @@ void frmSplash::unload()
 
 void frmSplash::closeEvent(QCloseEvent* event)
 {
-    if (m_unloading)
+    if (m_unloading) {
         StatusForm::closeEvent(event);
-    else
+    } else {
         event->ignore();
+    }
 }
 
 void frmSplash::paintEvent(QPaintEvent* /*event*/)
