@@ -236,11 +236,13 @@ TEST_F(OptionFormTest, GridCellsAreStoredAtOnceOrRejected)
         QTest::keyClicks(editor, QString::fromLatin1(keys).mid(1));
         QTest::keyClick(editor, Qt::Key_Return);
         QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     };
     enter(1, "3.9");
     EXPECT_EQ(m_shop.rows("select PRICE1 from PLUDATA order by PLUNUMBER"),
               (QStringList{QStringLiteral("2.5"), QStringLiteral("3.9")}));
     enter(0, "x1");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_boxes.shown.empty(); }));
     EXPECT_EQ(takeBox(), (ShownBox{QStringLiteral("Invalid Data Entry"), QStringLiteral("Operation Error"),
                                    BoxIcon::Exclamation}));
     EXPECT_TRUE(grid->isAncestorOf(QApplication::focusWidget()));
