@@ -57,9 +57,10 @@ std::shared_ptr<const TableShape> Database::Private::findShape(const QString& ta
 std::shared_ptr<const TableShape> Database::Private::shape(const QString& table)
 {
     auto shape = findShape(table);
-    if (!shape)
+    if (!shape) {
         throw RuntimeFailure(Failure::UnknownName,
                              QStringLiteral("Item not found: %1 has no table %2.").arg(m_path, table));
+    }
     return shape;
 }
 
@@ -127,9 +128,10 @@ void Database::addTable(const TableDefinition& table)
 void Database::addField(const QString& table, const FieldDefinition& field)
 {
     const auto shape = d->shape(table);
-    if (hasField(shape->definition(), field.name))
+    if (hasField(shape->definition(), field.name)) {
         failExists(Failure::FieldExists,
                    QStringLiteral("Field %1 of table %2").arg(field.name, shape->name()));
+    }
     Schema(d->connection()).addField(shape->definition(), field);
     d->forgetShapes();
 }

@@ -67,9 +67,10 @@ Header readHeader(sqlite3* connection)
 void checkHeader(sqlite3* connection, const QString& path)
 {
     const Header header = readHeader(connection);
-    if (std::memcmp(header.data(), engineMark, sizeof engineMark) != 0)
+    if (std::memcmp(header.data(), engineMark, sizeof engineMark) != 0) {
         failNotOurs(path,
                     "is no database of this program, is damaged, or was made by a former version of it");
+    }
     if (bigEndian(header, applicationIdAt) != applicationId)
         failNotOurs(path, "is a database of another program");
     if (bigEndian(header, formatVersionAt) > formatVersion)
@@ -151,7 +152,9 @@ SQLite::Database openDatabaseFile(const QString& path)
 {
     if (!QFileInfo::exists(path))
         throw RuntimeFailure(Failure::FileNotFound, QStringLiteral("File not found: %1").arg(shown(path)));
-    auto database = openEngine(path, SQLite::OPEN_READWRITE);
+    // A connection is never shared between threads, so the engine need not lock itself at every call; that is
+    // a fifth of the time of an import.
+    auto database = openEngine(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
     checkHeader(database.getHandle(), path);
     prepareConnection(database, path);
     // The first look at the tables finds a file that was cut short or is damaged at its root.

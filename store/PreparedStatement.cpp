@@ -83,9 +83,10 @@ PreparedStatement::PreparedStatement(sqlite3* connection, const std::string& sql
     check(sqlite3_prepare_v3(connection, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
                              &statement, nullptr));
     m_statement.reset(statement);
-    if (!statement)
+    if (!statement) {
         throw RuntimeFailure(Failure::UnknownNameInQuery,
                              QStringLiteral("The statement is empty. %1").arg(m_what));
+    }
 }
 
 void PreparedStatement::fail()

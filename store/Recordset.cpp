@@ -107,25 +107,28 @@ void Recordset::Private::needRecord() const
 
 void Recordset::Private::needWriter() const
 {
-    if (!writer)
+    if (!writer) {
         throw RuntimeFailure(Failure::ReadOnlyRecords,
                              QStringLiteral("The records cannot be changed. (%1)").arg(shape->name()));
+    }
 }
 
 TableCursor& Recordset::Private::indexed() const
 {
-    if (!tableCursor || !tableCursor->index())
+    if (!tableCursor || !tableCursor->index()) {
         throw RuntimeFailure(Failure::EngineFailure,
                              QStringLiteral("There is no index to seek by. (%1)").arg(shape->name()));
+    }
     return *tableCursor;
 }
 
 ResultCursor& Recordset::Private::result() const
 {
-    if (!resultCursor)
+    if (!resultCursor) {
         throw RuntimeFailure(
             Failure::EngineFailure,
             QStringLiteral("The records of a table have no numbers. (%1)").arg(shape->name()));
+    }
     return *resultCursor;
 }
 
@@ -137,10 +140,11 @@ Recordset::~Recordset() = default;
 void Recordset::setIndex(const QString& name)
 {
     const auto* index = d->tableCursor ? d->shape->index(name) : nullptr;
-    if (!index)
+    if (!index) {
         throw RuntimeFailure(
             Failure::UnknownName,
             QStringLiteral("Item not found: %1 has no index %2.").arg(d->shape->name(), name));
+    }
     d->abandonEdit();
     d->tableCursor->setIndex(index);
     d->indexName = name;
@@ -170,24 +174,26 @@ void Recordset::moveNext()
 {
     using enum Private::Place;
     d->abandonEdit();
-    if (d->place == OnRecord || d->place == Deleted)
+    if (d->place == OnRecord || d->place == Deleted) {
         d->moved(d->cursor->next(), AtEnd);
-    else if (d->place == AtBeginning)
+    } else if (d->place == AtBeginning) {
         d->moved(d->cursor->first(), Empty);
-    else
+    } else {
         d->failNoRecord();
+    }
 }
 
 void Recordset::movePrevious()
 {
     using enum Private::Place;
     d->abandonEdit();
-    if (d->place == OnRecord || d->place == Deleted)
+    if (d->place == OnRecord || d->place == Deleted) {
         d->moved(d->cursor->previous(), AtBeginning);
-    else if (d->place == AtEnd)
+    } else if (d->place == AtEnd) {
         d->moved(d->cursor->last(), Empty);
-    else
+    } else {
         d->failNoRecord();
+    }
 }
 
 bool Recordset::moveTo(qint64 position)
@@ -232,9 +238,10 @@ bool Recordset::seek(Seek comparison, const Value& key)
 void Recordset::addNew()
 {
     d->needWriter();
-    if (d->resultCursor)
+    if (d->resultCursor) {
         throw RuntimeFailure(Failure::ReadOnlyRecords,
                              QStringLiteral("A query takes no new records. (%1)").arg(d->shape->name()));
+    }
     d->edited = d->shape->defaults();
     d->mode = EditMode::Adding;
 }
@@ -303,10 +310,11 @@ const FieldDefinition& Recordset::field(int ordinal) const
 int Recordset::fieldOrdinal(const QString& name) const
 {
     const auto ordinal = d->shape->ordinal(name);
-    if (!ordinal)
+    if (!ordinal) {
         throw RuntimeFailure(
             Failure::UnknownName,
             QStringLiteral("Item not found: %1 has no field %2.").arg(d->shape->name(), name));
+    }
     return *ordinal;
 }
 

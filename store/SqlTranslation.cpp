@@ -122,9 +122,9 @@ private:
 /// The next token after @p at that is no blank; the number of tokens when there is none.
 qsizetype nextAfter(const Tokens& tokens, qsizetype at)
 {
-    do
+    do {
         ++at;
-    while (at < tokens.size() && tokens.at(at).kind == Kind::Blank);
+    } while (at < tokens.size() && tokens.at(at).kind == Kind::Blank);
     return at;
 }
 
@@ -174,10 +174,11 @@ void changeWords(Tokens& tokens)
             if (token.isWord(change.word))
                 token.text = QString::fromLatin1(change.instead);
         }
-        if (token.isSign('&'))
+        if (token.isSign('&')) {
             token.text = QStringLiteral("||");
-        else if (token.isSign('!'))
+        } else if (token.isSign('!')) {
             token.text = QStringLiteral(".");
+        }
     }
 }
 
@@ -194,10 +195,11 @@ QString joined(const Tokens& tokens)
 {
     QString sql;
     for (const auto& token : tokens) {
-        if (token.kind == Kind::Text)
+        if (token.kind == Kind::Text) {
             sql += u'\'' + QString(token.text).replace(u'\'', QStringLiteral("''")) + u'\'';
-        else
+        } else {
             sql += token.text;
+        }
     }
     return sql;
 }

@@ -23,10 +23,11 @@ std::string withKeyName(std::string_view sql, const std::string& key)
 {
     std::string result;
     for (const char c : sql) {
-        if (c == '%')
+        if (c == '%') {
             result += key;
-        else
+        } else {
             result += c;
+        }
     }
     return result;
 }

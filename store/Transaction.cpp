@@ -29,9 +29,10 @@ bool Database::Private::endTransaction()
 void Database::Private::commit()
 {
     // A full disk or a device fault can have ended the transaction already.
-    if (sqlite3_get_autocommit(connection()) != 0)
+    if (sqlite3_get_autocommit(connection()) != 0) {
         throw RuntimeFailure(Failure::DeviceIo,
                              QStringLiteral("The database %1 could not keep what was stored.").arg(m_path));
+    }
     if (sqlite3_exec(connection(), "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK)
         failWithSqlite(connection(), m_path);
 }

@@ -71,9 +71,10 @@ TEST_F(QueryTest, UnknownNamesAndFaultyStatementsFail)
 {
     for (const char* sql :
          {"nothing", "select number from nothing", "select nothing from items", "select [nothing] from items",
-          "select number from items where nothing = 1", "selekt", "delete * from items", "", "  "})
+          "select number from items where nothing = 1", "selekt", "delete * from items", "", "  "}) {
         EXPECT_EQ(failureOf([&] { static_cast<void>(m_database.openQuery(QString::fromUtf8(sql))); }), 3061)
             << sql;
+    }
     for (const char* sql : {"delete * from nothing", "update items set nothing = 1", "drop table items", ""})
         EXPECT_EQ(failureOf([&] { m_database.execute(QString::fromUtf8(sql)); }), 3061) << sql;
     EXPECT_EQ(m_database.openTable(QStringLiteral("items")).recordCount(), 3);
