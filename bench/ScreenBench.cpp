@@ -1,0 +1,168 @@
+// Opening a screen of 100 fields beside creating and laying out the same widgets bare.
+#include "bench/Ratio.h"
+#include "screens/OptionForm.h"
+#include "screens/ScreenReader.h"
+#include "store/Catalogue.h"
+#include "store/Recordset.h"
+#include "ui/Appearance.h"
+#include "ui/DecimalBox.h"
+#include "ui/IntegerBox.h"
+#include "ui/MessageBoxes.h"
+#include "ui/TextBox.h"
+#include "ui/ValueList.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTemporaryDir>
+
+namespace
+{
+
+using namespace norvane;
+using bench::require;
+
+constexpr int fieldCount = 100;
+constexpr int groupCount = 20;
+
+/// Controls in the mixture of a real screen: every second one a label.
+const char* kindOf(int number)
+{
+    constexpr std::array kinds{"TextControl", "IntegerNumberControl", "CheckControl", "DecimalNumberControl",
+                               "ComboControl"};
+    return number % 2 == 0 ? "LabelControl" : kinds.at(static_cast<std::size_t>(number / 2 % 5));
+}
+
+const char* fieldOf(const QByteArray& kind)
+{
+    if (kind == "TextControl")
+        return "DESCRIPTION";
+    return kind == "CheckControl" ? "addtogrouptotal" : "GROUPNO";
+}
+
+QPoint placeOf(int number)
+{
+    return {10 + number % 4 * 170, 10 + number / 4 * 27};
+}
+
+QByteArray screenText()
+{
+    QByteArray text(
+        "[Database]\r\ntable=GROUPS\r\nIndex1=groupno\r\n[FormName]\r\nWidth=12000\r\nHeight=9000\r\n"
+        "[visiblekeys]\r\nShownextrecord=YES\r\nShowpreviousrecord=YES\r\n");
+    for (int number = 0; number < fieldCount; ++number) {
+        const QByteArray kind(kindOf(number));
+        text += "[Field" + QByteArray::number(number + 1) + "]\r\nControlType=" + kind +
+                "\r\nVisible=True\r\nWidth=2400\r\nDescription=Field\r\nMaxvalue=99\r\nX=" +
+                QByteArray::number(placeOf(number).x() * 15) +
+                "\r\nY=" + QByteArray::number(placeOf(number).y() * 15) +
+                "\r\nTabindex=" + QByteArray::number(number) + "\r\nDatafield=" + fieldOf(kind) +
+                "\r\nSQLCriteria=select GROUPNO, DESCRIPTION from GROUPS order by GROUPNO\r\n";
+    }
+    return text;
+}
+
+class Shop
+{
+public:
+    Shop()
+    {
+        values.databasePath = m_folder.filePath(QStringLiteral("velmar.mdb"));
+        values.screenFilePath = m_folder.filePath(QStringLiteral("screen.scn"));
+        QFile file(values.screenFilePath);
+        require(file.open(QIODevice::WriteOnly) && file.write(screenText()) > 0, "screen file");
+        store::Database::create(values.databasePath, store::catalogue());
+        store::Database database(values.databasePath);
+        store::Recordset groups = database.openTable(QStringLiteral("GROUPS"));
+        for (int number = 1; number <= groupCount; ++number) {
+            groups.addNew();
+            groups.setValue(QStringLiteral("GROUPNO"), store::Value::whole(number));
+            groups.setValue(QStringLiteral("DESCRIPTION"), store::Value::text(std::string("Drinks")));
+            groups.update();
+        }
+    }
+    ApplicationValues values;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QWidget* bareControl(const QByteArray& kind, QWidget* parent)
+{
+    if (kind == "LabelControl")
+        return new QLabel(QStringLiteral("Field"), parent);
+    if (kind == "CheckControl")
+        return new QCheckBox(QStringLiteral("Field"), parent);
+    if (kind == "IntegerNumberControl")
+        return new ui::IntegerBox(parent);
+    if (kind == "DecimalNumberControl")
+        return new ui::DecimalBox(parent);
+    if (kind == "TextControl")
+        return new ui::TextBox(parent);
+    auto* const list = new ui::ValueList(parent);
+    QVector<QStringList> rows;
+    for (int row = 0; row <= groupCount; ++row)
+        rows += {QString::number(row), QStringLiteral("Drinks")};
+    list->setRows(rows);
+    return list;
+}
+
+void openBare()
+{
+    QWidget form;
+    form.resize(800, 600);
+    auto* const column = new QVBoxLayout(&form);
+    auto* const panel = new QScrollArea(&form);
+    auto* const picture = new QWidget;
+    for (int number = 0; number < fieldCount; ++number)
+        bareControl(kindOf(number), picture)->setGeometry(QRect(placeOf(number), QSize(160, 24)));
+    picture->resize(700, 700);
+    panel->setWidget(picture);
+    column->addWidget(panel);
+    auto* const row = new QHBoxLayout;
+    for (int button = 0; button < 4; ++button)
+        row->addWidget(new QPushButton(QStringLiteral("&Next"), &form));
+    column->addLayout(row);
+    form.show();
+    QApplication::processEvents();
+    require(form.isVisible(), "the bare form shows");
+}
+
+void openScreen(benchmark::State& state)
+{
+    Shop shop;
+    ui::MessageBoxes boxes;
+    require(screens::ScreenReader(shop.values.screenFilePath).controls().size() == fieldCount, "100 fields");
+    bench::compare(
+        state,
+        [&] {
+            screens::OptionForm form(shop.values, boxes);
+            form.show();
+            QApplication::processEvents();
+            require(form.isVisible(), "the screen shows");
+            require(form.findChild<QLineEdit*>(QStringLiteral("TextControl_10"))->text() ==
+                        QStringLiteral("Drinks"),
+                    "the screen shows its record");
+        },
+        openBare);
+}
+
+} // namespace
+
+BENCHMARK(openScreen)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+int main(int argc, char** argv)
+{
+    // Widgets alone are measured; a screen would only add its own time to both sides.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    ui::applyAppearance(application);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,195 @@
+// Finding and walking among 100,000 PLUs beside the least that could do it: a prepared select that is kept.
+#include "bench/Ratio.h"
+#include "store/Catalogue.h"
+#include "store/Database.h"
+#include "store/Recordset.h"
+
+#include <QTemporaryDir>
+#include <sqlite3.h>
+
+#include <array>
+#include <memory>
+#include <string>
+
+namespace
+{
+
+using namespace norvane;
+using bench::require;
+
+constexpr int pluCount = 100000;
+constexpr int batch = 1000;
+
+/// Numbers that are a multiple of 10, so that a search for one between lands on the next.
+std::string pluNumber(int number)
+{
+    const auto digits = std::to_string(number * 10);
+    return std::string(18 - digits.size(), '0') + digits;
+}
+
+class Shop
+{
+public:
+    Shop()
+    {
+        store::Database::create(path(), store::catalogue());
+        store::Database database(path());
+        const store::Transaction transaction(database);
+        store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
+        for (int number = 1; number <= pluCount; ++number) {
+            plus.addNew();
+            plus.setValue(QStringLiteral("PLUNUMBER"), store::Value::text(pluNumber(number)));
+            plus.setValue(QStringLiteral("DESCRIPTION"),
+                          store::Value::text("Article " + std::to_string(number)));
+            plus.setValue(QStringLiteral("PRICE1"), store::Value::text(std::string("12.34")));
+            for (const char* field : {"GROUPNO", "PLUSTATUS", "WLUNUMBER", "MIXNMATCH", "PRICELEVEL1"})
+                plus.setValue(QString::fromLatin1(field), store::Value::whole(number % 99));
+            plus.update();
+        }
+    }
+    [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("velmar.mdb")); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+const Shop& shop()
+{
+    static const Shop shop;
+    return shop;
+}
+
+/// A prepared select on a connection of its own that reads every column of the row it finds.
+class BareSelect
+{
+public:
+    BareSelect()
+    {
+        require(sqlite3_open(shop().path().toUtf8().constData(), &m_database) == SQLITE_OK, "open");
+        require(sqlite3_prepare_v2(m_database,
+                                   "select * from PLUDATA where PLUNUMBER >= ? order by PLUNUMBER limit 1",
+                                   -1, &m_select, nullptr) == SQLITE_OK,
+                sqlite3_errmsg(m_database));
+    }
+    ~BareSelect()
+    {
+        sqlite3_finalize(m_select);
+        sqlite3_close(m_database);
+    }
+    BareSelect(const BareSelect&) = delete;
+    BareSelect& operator=(const BareSelect&) = delete;
+
+    /// The number of the PLU found.
+    std::string find(const std::string& number)
+    {
+        sqlite3_bind_text(m_select, 1, number.data(), static_cast<int>(number.size()), SQLITE_STATIC);
+        require(sqlite3_step(m_select) == SQLITE_ROW, "a bare search in vain");
+        std::string found;
+        for (int column = 0; column < sqlite3_column_count(m_select); ++column) {
+            switch (sqlite3_column_type(m_select, column)) {
+            case SQLITE_TEXT: {
+                std::string text(reinterpret_cast<const char*>(sqlite3_column_text(m_select, column)));
+                if (column == 0)
+                    found = text;
+                benchmark::DoNotOptimize(text);
+                break;
+            }
+            case SQLITE_INTEGER:
+                benchmark::DoNotOptimize(sqlite3_column_int64(m_select, column));
+                break;
+            default:
+                break;
+            }
+        }
+        sqlite3_reset(m_select);
+        return found;
+    }
+
+private:
+    sqlite3* m_database = nullptr;
+    sqlite3_stmt* m_select = nullptr;
+};
+
+/// Numbers all over the table, each of which is missed by a little.
+std::string soughtNumber(int step)
+{
+    std::string number = pluNumber(1 + step * 7919 % (pluCount - 1));
+    number.back() = '1';
+    return number;
+}
+
+std::string nextNumber(const std::string& sought)
+{
+    return pluNumber(std::stoi(sought.substr(0, sought.size() - 1)) + 1);
+}
+
+void seekAtOrAfter(benchmark::State& state)
+{
+    store::Database database(shop().path());
+    store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
+    BareSelect bare;
+    int step = 0;
+    const auto ours = [&] {
+        for (int i = 0; i < batch; ++i) {
+            const std::string sought = soughtNumber(step++);
+            require(plus.seek(store::Seek::AtOrAfter, store::Value::text(sought)), "found");
+            require(plus.value(0).textView() == nextNumber(sought), "the next PLU");
+        }
+    };
+    int bareStep = 0;
+    bench::compare(state, ours, [&] {
+        for (int i = 0; i < batch; ++i) {
+            const std::string sought = soughtNumber(bareStep++);
+            require(bare.find(sought) == nextNumber(sought), "the next PLU, bare");
+        }
+    });
+}
+
+/// From a closed file to a record that was looked up.
+void openSeekRead(benchmark::State& state)
+{
+    const std::string number = pluNumber(pluCount / 2);
+    for (auto _ : state) {
+        store::Database database(shop().path());
+        store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
+        require(plus.seek(store::Seek::AtOrAfter, store::Value::text(number)), "found");
+        for (int field = 0; field < plus.fieldCount(); ++field)
+            benchmark::DoNotOptimize(plus.value(field).toText());
+    }
+}
+
+/// Steps from a place in the table, given in percent of it.
+void walk(benchmark::State& state, bool forward)
+{
+    store::Database database(shop().path());
+    store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
+    const int place = 1 + static_cast<int>(state.range(0)) * (pluCount - 1) / 100;
+    for (auto _ : state) {
+        state.PauseTiming();
+        require(plus.seek(store::Seek::AtOrAfter, store::Value::text(pluNumber(place))), "found");
+        state.ResumeTiming();
+        for (int step = 0; step < 100; ++step)
+            forward ? plus.moveNext() : plus.movePrevious();
+        require(plus.value(0).textView() == pluNumber(forward ? place + 100 : place - 100), "a hundred on");
+    }
+    state.SetItemsProcessed(state.iterations() * 100);
+}
+
+void next(benchmark::State& state)
+{
+    walk(state, true);
+}
+
+void previous(benchmark::State& state)
+{
+    walk(state, false);
+}
+
+} // namespace
+
+BENCHMARK(seekAtOrAfter)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(openSeekRead)->Unit(benchmark::kMicrosecond);
+BENCHMARK(next)->Arg(1)->Arg(50)->Arg(99)->Unit(benchmark::kMicrosecond);
+BENCHMARK(previous)->Arg(1)->Arg(50)->Arg(99)->Unit(benchmark::kMicrosecond);
+
+BENCHMARK_MAIN();
