@@ -8,6 +8,7 @@
 #include "records/RecordText.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 namespace norvane::records
@@ -29,14 +30,21 @@ public:
             m_view = value.textView();
         } else if (value.isYesNo()) {
             m_view = value.isTrue() ? "1" : "0";
+        } else if (const auto* whole = std::get_if<std::int64_t>(&value.data())) {
+            const auto end = std::to_chars(m_digits.data(), m_digits.data() + m_digits.size(), *whole).ptr;
+            m_view = {m_digits.data(), static_cast<std::size_t>(end - m_digits.data())};
         } else if (!value.isNull()) {
             m_own = value.toUtf8();
             m_view = m_own;
         }
     }
+    ValueText(const ValueText&) = delete;
+    ValueText& operator=(const ValueText&) = delete;
+    ~ValueText() = default;
     [[nodiscard]] std::string_view view() const { return m_view; }
 
 private:
+    std::array<char, 24> m_digits{};
     std::string m_own;
     std::string_view m_view;
 };

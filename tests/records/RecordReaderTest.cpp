@@ -46,18 +46,17 @@ TEST_P(StoredTest, Holds)
     EXPECT_EQ(shop.column(stored.table, stored.field), stored.expected);
 }
 
+// clang-format off
 const Stored storedCases[] = {
     {"number_keeps_its_zeros", 67, "PLUDATA", pluLine(), "PLUNUMBER", "000000000000000017"},
     {"text_keeps_its_blanks", 67, "PLUDATA", pluLine(), "DESCRIPTION", "Lager 0.5 l     "},
-    {"text_in_the_registers_character_set", 67, "PLUDATA", pluLine({{2, "K\xF6lsch \xFD \x80"}}),
-     "DESCRIPTION", "K\u00f6lsch ^ \u20ac"},
+    {"text_in_the_registers_character_set", 67, "PLUDATA", pluLine({{2, "K\xF6lsch \xFD \x80"}}), "DESCRIPTION", "K\u00f6lsch ^ \u20ac"},
     {"text_with_zeros_in_front", 67, "PLUDATA", pluLine({{2, "007"}}), "DESCRIPTION", "007"},
     {"number", 67, "PLUDATA", pluLine(), "PLUSTATUS", "2"},
     {"number_of_zeros", 67, "PLUDATA", pluLine(), "RECIPENO", "0"},
     {"empty_number", 67, "PLUDATA", pluLine({{7, ""}}), "RECIPENO", "0"},
     {"number_of_blanks", 67, "PLUDATA", pluLine({{7, "    "}}), "RECIPENO", "null"},
-    {"every_digit_of_a_long_number", 67, "PLUDATA", pluLine({{11, "987654321098765432"}}), "STOCKLINK",
-     "987654321098765432"},
+    {"every_digit_of_a_long_number", 67, "PLUDATA", pluLine({{11, "987654321098765432"}}), "STOCKLINK", "987654321098765432"},
     {"price", 67, "PLUDATA", pluLine({{13, "00001234"}}), "PRICE1", "12.34"},
     {"price_that_no_binary_fraction_hits", 67, "PLUDATA", pluLine({{13, "99999929"}}), "PRICE1", "999999.29"},
     {"price_of_whole_units", 67, "PLUDATA", pluLine({{13, "00000300"}}), "PRICE1", "3"},
@@ -80,18 +79,15 @@ const Stored storedCases[] = {
     {"lone_line_feeds", 1, "GROUPS", "a,,\nb,40,\n", "addtogrouptotal", "False|True"},
     {"text_behind_the_end_mark", 1, "GROUPS", "a,,\r\n\x1A\r\nb,,\r\n", "DESCRIPTION", "a"},
     {"no_text_at_all", 1, "GROUPS", "", "DESCRIPTION", ""},
-    {"grill_number_lands_in_the_grill_flag", 65, "PLUSTATUS", statusLine({{9, "00"}, {12, "07"}}),
-     "AUTOGRILL", "True"},
-    {"grill_flag_gives_way_to_no_grill_number", 65, "PLUSTATUS", statusLine({{9, "40"}, {12, "00"}}),
-     "AUTOGRILL", "False"},
+    {"grill_number_lands_in_the_grill_flag", 65, "PLUSTATUS", statusLine({{9, "00"}, {12, "07"}}), "AUTOGRILL", "True"},
+    {"grill_flag_gives_way_to_no_grill_number", 65, "PLUSTATUS", statusLine({{9, "40"}, {12, "00"}}), "AUTOGRILL", "False"},
     {"grill_number_itself_is_not_read", 65, "PLUSTATUS", statusLine({{12, "07"}}), "AUTOGRILLNo", "null"},
     {"image_number", 65, "PLUSTATUS", statusLine({{17, "12"}}), "LINKEDNVIMAGE", "12"},
-    {"linked_plu", 65, "PLUSTATUS", statusLine({{15, "123456789012345678"}}), "LINKEDPLU",
-     "123456789012345678"},
-    {"mix_without_a_name", 58, "PRODUCTMIX", "Kilo,kg,1\r\n            ,,\r\n", "DESCRIPTION",
-     "Kilo|Prod Mix 2"},
+    {"linked_plu", 65, "PLUSTATUS", statusLine({{15, "123456789012345678"}}), "LINKEDPLU", "123456789012345678"},
+    {"mix_without_a_name", 58, "PRODUCTMIX", "Kilo,kg,1\r\n            ,,\r\n", "DESCRIPTION", "Kilo|Prod Mix 2"},
     {"offer_price_is_a_number", 70, "MIXNMATCH", "3 for 2     ,03,00000199\r\n", "PRICE", "1.99"},
 };
+// clang-format on
 
 INSTANTIATE_TEST_SUITE_P(Record, StoredTest, testing::ValuesIn(storedCases),
                          [](const auto& stored) { return std::string(stored.param.name); });
@@ -113,17 +109,17 @@ struct Refused {
 
 TEST(RecordReaderTest, NamesTheLineAndColumnThatItRefuses)
 {
+    // clang-format off
     const Refused cases[] = {
         {"letter in a number", 67, pluLine({{3, "A3"}}), 3421, "67.txt, line 2, column 3: "},
         {"letter in a price", 67, pluLine({{15, "0000O250"}}), 13, "67.txt, line 2, column 15: "},
         {"letter in option digits", 67, pluLine({{8, "4x"}}), 13, "67.txt, line 2, column 8: "},
         {"blank option digits", 67, pluLine({{8, "  "}}), 13, "67.txt, line 2, column 8: "},
-        {"text longer than its field", 67, pluLine({{2, "seventeen letters"}}), 3163,
-         "67.txt, line 2, column 2: "},
-        {"key longer than its field", 67, pluLine({{1, "0000000000000000017"}}), 3163,
-         "67.txt, line 2, column 1: "},
+        {"text longer than its field", 67, pluLine({{2, "seventeen letters"}}), 3163, "67.txt, line 2, column 2: "},
+        {"key longer than its field", 67, pluLine({{1, "0000000000000000017"}}), 3163, "67.txt, line 2, column 1: "},
         {"key that was there already", 67, pluLine(), 3022, "67.txt, line 2: "},
     };
+    // clang-format on
     for (const Refused& refused : cases) {
         Shop shop;
         try {
