@@ -341,7 +341,7 @@ void compare(benchmark::State& state, Ours ours, BareLoop bareLoop)
 {
     double oursTotal = 0;
     double bareTotal = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         bareTotal += secondsOf(bareLoop);
         const double seconds = secondsOf(ours);
         oursTotal += seconds;
@@ -395,7 +395,7 @@ void importMemory(benchmark::State& state)
     Shop shop(static_cast<int>(state.range(0)));
     std::array<int, 2> pipeEnds{};
     require(pipe(pipeEnds.data()) == 0, "pipe");
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const auto child = fork();
         if (child == 0) {
             std::ofstream("/proc/self/clear_refs") << "5";
