@@ -11,9 +11,10 @@ QVector<QStringList> rowsOfQuery(store::Database& database, const QString& sql)
 {
     QVector<QStringList> rows{{QStringLiteral("0"), QStringLiteral("Not used")}};
     store::Recordset records = database.openQuery(sql);
-    if (records.fieldCount() < 2)
+    if (records.fieldCount() < 2) {
         throw RuntimeFailure(Failure::UnknownName,
                              QStringLiteral("A list needs a query of two columns: %1").arg(sql));
+    }
     for (; !records.atEnd(); records.moveNext())
         rows += {records.value(0).toText(), records.value(1).toText()};
     return rows;

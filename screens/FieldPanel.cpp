@@ -173,9 +173,10 @@ QWidget* FieldPanel::makeNumber(const ControlDefinition& definition)
 QWidget* FieldPanel::makeText(const ControlDefinition& definition)
 {
     auto* const box = new ui::TextBox(m_picture);
-    if (definition.maximum)
+    if (definition.maximum) {
         box->setLimit(static_cast<int>(qBound(std::int64_t{0}, definition.maximum->toWhole(),
                                               std::int64_t{std::numeric_limits<int>::max()})));
+    }
     if (definition.readOnly.value_or(false))
         makeReadOnly(*box);
     box->setJustify(definition.justify);
@@ -261,9 +262,10 @@ void FieldPanel::chain()
     std::stable_sort(ordered.begin(), ordered.end(), [](const Control& left, const Control& right) {
         return tabPlace(left.definition) < tabPlace(right.definition);
     });
-    for (const Control& control : std::as_const(ordered))
+    for (const Control& control : std::as_const(ordered)) {
         if (control.definition.kind != ControlKind::Label && !m_tabOrder.contains(control.widget))
             m_tabOrder += control.widget;
+    }
     for (qsizetype place = 1; place < m_tabOrder.size(); ++place)
         setTabOrder(m_tabOrder[place - 1], m_tabOrder[place]);
 }
@@ -271,20 +273,23 @@ void FieldPanel::chain()
 BoundFields FieldPanel::contents() const
 {
     BoundFields fields;
-    for (const Control& control : m_controls)
-        if (isBound(control.definition))
+    for (const Control& control : m_controls) {
+        if (isBound(control.definition)) {
             fields.append({control.definition.kind, control.definition.dataField,
                            control.definition.readOnly.value_or(false),
                            contentOf(control.definition.kind, *control.widget)});
+        }
+    }
     return fields;
 }
 
 void FieldPanel::showContents(const BoundFields& fields)
 {
     auto field = fields.cbegin();
-    for (const Control& control : std::as_const(m_controls))
+    for (const Control& control : std::as_const(m_controls)) {
         if (isBound(control.definition))
             showContent(control.definition.kind, *control.widget, (field++)->content);
+    }
 }
 
 } // namespace norvane::screens

@@ -15,9 +15,10 @@ constexpr int rowsAtATime = 200;
 QString zerosOf(const QString& format)
 {
     QString zeros;
-    for (const QChar character : format)
+    for (const QChar character : format) {
         if (character == u'0' || character == u'.')
             zeros += character;
+    }
     return zeros;
 }
 
@@ -54,11 +55,12 @@ GridModel::GridModel(std::shared_ptr<store::Database> database, const QString& s
         return;
     m_records.emplace(m_database->openQuery(queryOf(*m_database, sql)));
     m_total = static_cast<int>(m_records->recordCount());
-    if (m_columns.size() > m_records->fieldCount())
+    if (m_columns.size() > m_records->fieldCount()) {
         throw RuntimeFailure(Failure::InvalidArgument,
                              QStringLiteral("The grid has %1 headings and its query %2 columns")
                                  .arg(m_columns.size())
                                  .arg(m_records->fieldCount()));
+    }
     fetchMore({});
 }
 

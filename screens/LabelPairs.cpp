@@ -67,9 +67,10 @@ void describe(QWidget& control, const QLabel& label)
 /// The control whose next neighbour in the row is @p label.
 QWidget* controlBefore(QLabel& label, const QVector<QWidget*>& controls, const QVector<QLabel*>& labels)
 {
-    for (QWidget* const control : controls)
+    for (QWidget* const control : controls) {
         if (nextInRow(*control, labels) == &label)
             return control;
+    }
     return nullptr;
 }
 

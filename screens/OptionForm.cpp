@@ -208,10 +208,11 @@ void OptionForm::saveRecord()
     BoundFields fields = CSPict1->contents();
     const SaveOutcome outcome = m_editor->save(fields);
     CSPict1->showContents(fields);
-    if (outcome == SaveOutcome::DuplicateKey)
+    if (outcome == SaveOutcome::DuplicateKey) {
         m_boxes.message(QStringLiteral("This item code already exists!\rPlease try again"),
                         QStringLiteral("Data Error Code%1").arg(static_cast<int>(Failure::DuplicateKey)),
                         BoxIcon::Critical);
+    }
 }
 
 void OptionForm::deleteRecord()

@@ -49,9 +49,10 @@ store::Value shownNumber(const store::Value& value)
 /// A whole-number box has no way to show null, unlike the others.
 store::Value shownInteger(const store::Value& value, const QString& field)
 {
-    if (value.isNull())
+    if (value.isNull()) {
         throw RuntimeFailure(Failure::TypeMismatch,
                              QStringLiteral("Invalid use of null: field \"%1\" holds no number").arg(field));
+    }
     return shownNumber(value);
 }
 
@@ -108,10 +109,12 @@ constexpr KindOrder saveOrder{ControlKind::Text, ControlKind::Combo, ControlKind
 template <typename Fields, typename Act>
 void forEachBound(Fields& fields, const KindOrder& order, Act act)
 {
-    for (const ControlKind kind : order)
-        for (auto& field : fields)
+    for (const ControlKind kind : order) {
+        for (auto& field : fields) {
             if (field.kind == kind && !field.dataField.trimmed().isEmpty())
                 act(field);
+        }
+    }
 }
 
 } // namespace

@@ -190,9 +190,10 @@ QVector<ControlDefinition> ScreenReader::controls() const
         const QString type = m_file.value(section, QStringLiteral("ControlType"));
         if (type.isEmpty())
             return controls;
-        for (const KindName& known : kindNames)
+        for (const KindName& known : kindNames) {
             if (isWord(type, known.name))
                 controls += control(section, known.kind);
+        }
     }
 }
 
@@ -223,9 +224,10 @@ QVector<GridColumn> ScreenReader::gridColumns(const QString& section) const
         column.caption = m_file.value(section, QStringLiteral("Caption%1").arg(number));
         if (column.caption.isEmpty())
             return columns;
-        for (const ColumnRule& rule : columnRules)
+        for (const ColumnRule& rule : columnRules) {
             read(section, rule.key + QString::number(number), profileValueLimit,
                  [&](const QString& value) { rule.convert(value, column); });
+        }
         columns += column;
     }
 }

@@ -95,9 +95,10 @@ void ValueList::fillTexts()
     clear();
     for (const QStringList& row : std::as_const(m_rows)) {
         QStringList shown;
-        for (qsizetype column = 0; column < row.size(); ++column)
+        for (qsizetype column = 0; column < row.size(); ++column) {
             if (m_widths.value(column, 1) != 0)
                 shown += row[column];
+        }
         addItem(shown.join(QStringLiteral("  ")), row);
     }
     setValue(m_value);
