@@ -149,7 +149,7 @@ void seekAtOrAfter(benchmark::State& state)
 void openSeekRead(benchmark::State& state)
 {
     const std::string number = pluNumber(pluCount / 2);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         store::Database database(shop().path());
         store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
         require(plus.seek(store::Seek::AtOrAfter, store::Value::text(number)), "found");
@@ -164,7 +164,7 @@ void walk(benchmark::State& state, bool forward)
     store::Database database(shop().path());
     store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
     const int place = 1 + static_cast<int>(state.range(0)) * (pluCount - 1) / 100;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         require(plus.seek(store::Seek::AtOrAfter, store::Value::text(pluNumber(place))), "found");
         state.ResumeTiming();

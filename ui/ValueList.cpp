@@ -18,6 +18,7 @@ namespace
 {
 
 constexpr int columnGap = 10;
+constexpr int rowPadding = 6;
 constexpr int columnsRole = Qt::UserRole;
 
 bool sameValue(const QString& left, const QString& right)
@@ -36,6 +37,11 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     void setWidths(const QVector<int>& widths) { m_widths = widths; }
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, rowPadding);
+    }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {

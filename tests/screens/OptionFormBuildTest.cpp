@@ -122,10 +122,12 @@ TEST_F(OptionFormBuildTest, ATableThatIsNotGivenIsToldAndThenFails)
         m_shop.screen(screen);
         EXPECT_EQ(failureOf([&] { open(); }), 3265) << screen;
         std::vector<ShownBox> expected;
-        for (const char* what : missing)
+        expected.reserve(missing.size());
+        for (const char* what : missing) {
             expected.push_back({QStringLiteral("No %1 defined in %2 file")
                                     .arg(QLatin1String(what), m_shop.values.screenFilePath),
                                 QStringLiteral("Initialisation Error"), BoxIcon::Critical});
+        }
         EXPECT_EQ(m_boxes.shown, expected) << screen;
     }
 }

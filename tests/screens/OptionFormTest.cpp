@@ -43,7 +43,7 @@ protected:
     [[nodiscard]] ShownBox takeBox()
     {
         EXPECT_EQ(m_boxes.shown.size(), 1U);
-        const ShownBox box = m_boxes.shown.empty() ? ShownBox{} : m_boxes.shown.back();
+        ShownBox box = m_boxes.shown.empty() ? ShownBox{} : m_boxes.shown.back();
         m_boxes.shown.clear();
         return box;
     }

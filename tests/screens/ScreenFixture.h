@@ -88,9 +88,10 @@ public:
         QStringList rows;
         for (; !records.atEnd(); records.moveNext()) {
             QStringList columns;
-            for (int field = 0; field < records.fieldCount(); ++field)
+            for (int field = 0; field < records.fieldCount(); ++field) {
                 columns +=
                     records.value(field).isNull() ? QStringLiteral("null") : records.value(field).toText();
+            }
             rows += columns.join(u'|');
         }
         return rows;
