@@ -131,7 +131,7 @@ void FrmMain::open(const MenuEntry& entry)
 
 void FrmMain::openScreen(const MenuEntry& entry)
 {
-    if (!mayOpen(entry, m_values, m_boxes) || isNotYetBuilt(entry.name))
+    if (!mayOpen(entry, m_values, m_boxes))
         return;
     m_values.screenFilePath = joinPath(m_values.appPath, targetOf(entry, m_values));
     const ui::WaitPointer wait;

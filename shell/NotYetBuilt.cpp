@@ -13,13 +13,6 @@ namespace
 
 // clang-format off
 constexpr auto entries = std::to_array<QLatin1StringView>({
-    // Screens without a screen file.
-    "ServiceMode"_L1, "GeneralOptions"_L1, "TaxOptions"_L1, "CashDrawer"_L1, "TrainingMode"_L1,
-    "LevelModOptions"_L1, "TrackOptions"_L1, "KPOptions"_L1, "ValidOptins"_L1, "GeneralPrintOption"_L1,
-    "ReportPrintOption"_L1, "ReportOption"_L1, "TimeKeeping"_L1, "EJPrint"_L1, "VatMenu"_L1,
-    "LogoMessage"_L1, "ErrorMessage"_L1, "FinancialRpt"_L1, "EmpReport"_L1, "ChequeEndorse"_L1,
-    "GuestMessage"_L1, "ValidMessage"_L1, "TimePeriodMenu"_L1, "EmployeeMenu"_L1, "Payrate"_L1,
-    "JobCode"_L1, "AuthorityMenu"_L1, "CardCat"_L1, "Hotlist"_L1,
     // Key editors.
     "KeyboardLocation"_L1, "FunctionMenu"_L1, "WLUMenu"_L1,
     // Sales: the collection run and the reports.

@@ -51,10 +51,11 @@ int failAs(const QString& kind)
         throw std::bad_alloc();
     if (kind == QStringLiteral("dialog"))
         failInDialog();
-    if (kind == QStringLiteral("handler"))
+    if (kind == QStringLiteral("handler")) {
         QTimer::singleShot(0, qApp, fail);
-    else
+    } else {
         QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
+    }
     return QCoreApplication::exec();
 }
 

@@ -63,9 +63,10 @@ protected:
         QWidget* const bar = m_main->menuBar();
         const auto actions = menu.isEmpty() ? bar->actions() : m_main->findChild<QMenu*>(menu)->actions();
         QStringList texts;
-        for (const QAction* const entry : actions)
+        for (const QAction* const entry : actions) {
             texts.append(entry->isSeparator() ? u"-"_s
                                               : entry->text() + (entry->isEnabled() ? u""_s : u" (grey)"_s));
+        }
         return texts;
     }
     QStringList childWindows()
@@ -157,15 +158,13 @@ TEST_F(FrmMainTest, EveryEntryThatIsBuiltOpensItsFileOrFormAndNoOther)
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 
     m_opened.clear();
-    m_folder.write("app/mem.dat", "older");
     for (const QLatin1StringView entry : notYetBuilt()) {
         ASSERT_TRUE(menuEntry(entry)) << entry.data();
         EXPECT_TRUE(action(entry).isEnabled()) << entry.data();
         action(entry).trigger();
     }
     EXPECT_EQ(m_opened, QStringList()) << "nothing stands behind them";
-    EXPECT_EQ(m_boxes.shown.size(), 2U) << "the card entries tell that the firmware is too old";
-    EXPECT_EQ(childWindows(), QStringList());
+    EXPECT_TRUE(m_boxes.shown.empty());
 }
 
 TEST_F(FrmMainTest, AnEntryNeverChoosableHasNoWayToOpen)

@@ -1,6 +1,7 @@
 // Which screen file an entry opens for each register model, and the entries that need newer firmware.
 #include "shell/ScreenChoice.h"
 
+#include "platform/FilePaths.h"
 #include "store/Recordset.h"
 #include "tests/shell/ShellFixture.h"
 
@@ -52,6 +53,19 @@ TEST_F(ScreenChoiceTest, TheModelOfTheMomentChoosesTheFile)
     setModel("");
     EXPECT_EQ(failureOf([this] { (void)target("PLUMENU"_L1); }), 13);
     EXPECT_EQ(target("GroupMenu"_L1), u"\\Group.scn") << "needs no model";
+}
+
+TEST_F(ScreenChoiceTest, EveryScreenThatCanBeChosenIsInstalledForEveryModel)
+{
+    for (const MenuEntry& entry : menuTree()) {
+        const bool screen = entry.opens == Opens::Screen || entry.opens == Opens::ModelScreen ||
+                            entry.opens == Opens::GatedScreen;
+        for (int model = 0; screen && entry.choosable == Choosable::Yes && model < 4; ++model) {
+            setModel(QByteArray::number(model));
+            const QString file = joinPath(QStringLiteral(DATA_DIR), target(entry.name));
+            EXPECT_TRUE(QFile::exists(file)) << file.toStdString();
+        }
+    }
 }
 
 TEST_F(ScreenChoiceTest, CardEntriesAskFirmwareAndTable)
