@@ -1,0 +1,68 @@
+// A shop manager at work: the real program with its forms, over a staged program folder with the real tools
+// and a bank of registers. Acts by menu entries, clicks and keys, looks at what registers and database hold.
+#pragma once
+
+#include "shell/FrmMain.h"
+#include "tests/support/ProgramFolder.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <QList>
+
+#include <functional>
+#include <memory>
+
+class QDialog;
+
+namespace norvane::test
+{
+
+/// Numbers of boxes in the exchange dialog.
+using BoxNumbers = QList<int>;
+
+class Shop
+{
+public:
+    /// Starts with a new customer taken through the customer dialog. @p model is the index ECRModel.
+    Shop(int model, int registers);
+
+    [[nodiscard]] ProgramFolder& folder() { return m_folder; }
+    [[nodiscard]] const ApplicationValues& values() const { return m_values; }
+    [[nodiscard]] RecordingBoxes& boxes() { return m_boxes; }
+
+    /// Opens the exchange dialog, ticks @p boxes, presses OK, leaves. @return the boxes still ticked after
+    /// it.
+    BoxNumbers upload(const BoxNumbers& boxes) { return exchange("UploadVelmar", boxes); }
+    BoxNumbers download(const BoxNumbers& boxes) { return exchange("DownloadVelmar", boxes); }
+
+    /// Chooses a menu entry that opens a screen. @return the screen.
+    QWidget& openScreen(const char* entry);
+    /// Presses a button of a form, or a find button with its answer typed into the dialog.
+    static void press(QWidget& form, const char* button);
+    void find(QWidget& form, const char* text);
+    /// The control of @p form that the open screen's file binds to @p field.
+    QWidget& control(QWidget& form, const char* field);
+    /// Types @p text over what the control holds.
+    void type(QWidget& form, const char* field, const char* text);
+
+    /// What a register holds in a file, as text lines split at the commas.
+    [[nodiscard]] QList<QByteArrayList> recordsOf(int registerNumber, int file) const;
+    /// The line of a register's file that begins with @p key.
+    [[nodiscard]] QByteArrayList recordOf(int registerNumber, int file, const QByteArray& key) const;
+    /// A field of the first record of a table; or of the record with @p key in the table's first index.
+    [[nodiscard]] QString stored(const char* table, const char* field, const QString& key = {}) const;
+    [[nodiscard]] qint64 rowsOf(const char* table) const;
+    /// Runs a statement on the customer's database, as another program at the same file would.
+    void execute(const char* sql) const;
+
+private:
+    BoxNumbers exchange(const char* entry, const BoxNumbers& boxes);
+    /// Chooses a menu entry; @p act runs as soon as a modal dialog stands open.
+    void choose(const char* entry, const std::function<void(QDialog&)>& act = {});
+
+    ProgramFolder m_folder;
+    ApplicationValues m_values;
+    RecordingBoxes m_boxes;
+    std::unique_ptr<shell::FrmMain> m_main;
+};
+
+} // namespace norvane::test
