@@ -146,7 +146,7 @@ QWidget* FieldPanel::make(const ControlDefinition& definition, int element)
 
 QWidget* FieldPanel::makeFind(int element)
 {
-    auto* const button = new QPushButton(QStringLiteral("&Find"), m_picture);
+    auto* const button = new QPushButton(QStringLiteral("F&ind"), m_picture);
     button->setAutoDefault(true);
     connect(button, &QPushButton::clicked, this, [this, element] { Q_EMIT findPressed(element); });
     return button;
