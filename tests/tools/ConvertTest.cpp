@@ -72,7 +72,7 @@ TEST(Convert, writesFixedWidthsAndTheRegistersMark)
     };
     EXPECT_EQ(
         firstLine("67", "u67"),
-        "000000000000001001,Espresso        ,01,0003,0000,0000,0000,60,0001,0001,000000000000000000,0000,"
+        "000000000000001001,Espresso        ,01,0003,0000,0000,0000,30,0001,0001,000000000000000000,0000,"
         "00000200,01,00000260,02,00000000,03,00000000,04,00000140,05\r");
     EXPECT_EQ(firstLine("1", "u01"), "Hot Drinks  ,40,40\r");
     EXPECT_EQ(firstLine("19", "u19"), "REGISTER                      \r");
