@@ -6,6 +6,7 @@
 #include "records/RecordReader.h"
 #include "records/RecordWriter.h"
 #include "records/RegisterFiles.h"
+#include "shell/CustomerSettings.h"
 #include "shell/SharedRoutines.h"
 #include "store/Database.h"
 
@@ -34,8 +35,29 @@ QString importLine(const RegisterFile& file, const ApplicationValues& values)
 
 QString exportLine(const RegisterFile& file, const ApplicationValues& values)
 {
+    const QString model = GetModelCode(values);
+    const bool isDorvik = model.compare(QLatin1String("Dorvik"), Qt::CaseInsensitive) == 0;
+    const char* operation =
+        isDorvik && file.dorvikOperation != nullptr ? file.dorvikOperation : file.exportOperation;
     return QStringLiteral("convert w%1 f%2.txt t%2.dat %3")
-        .arg(GetModelCode(values), QString::number(file.number), QLatin1String(file.exportOperation));
+        .arg(model, QString::number(file.number), QLatin1String(operation));
+}
+
+/// Characters of a message line: the wide printers of the models 0, 1 and 2 have more.
+std::size_t messageWidth(const ApplicationValues& values)
+{
+    constexpr std::size_t wide = 40;
+    constexpr std::size_t narrow = 32;
+    const double model = ecrModel(values);
+    return model == 0 || model == 1 || model == 2 ? wide : narrow;
+}
+
+RegisterTraits traitsOf(const ProcedureContext& context)
+{
+    return {[&context] { return messageWidth(context.values); },
+            [&context] {
+                return GetFirmwareGeneration(context.values, context.boxes);
+            }};
 }
 
 /// Stores the lines of a text file one by one.
@@ -125,10 +147,11 @@ private:
     QFile m_file;
 };
 
-void writeRecords(const RegisterFile& file, store::Recordset& records, TextOutput& output)
+void writeRecords(const RegisterFile& file, store::Recordset& records, TextOutput& output,
+                  const ProcedureContext& context)
 {
     records.moveFirst();
-    const RecordWriter writer(file.layout(), records);
+    RecordWriter writer(file.layout(), records, traitsOf(context));
     std::string text;
     for (; !records.atEnd(); records.moveNext()) {
         writer.appendLine(text);
@@ -195,7 +218,7 @@ int exportRegisterFile(int number, const ProcedureContext& context)
         store::Database database(databasePath);
         store::Recordset records = database.openTable(QLatin1String(file.table));
         records.setIndex(QLatin1String(file.index));
-        writeRecords(file, records, output);
+        writeRecords(file, records, output, context);
     }
     context.runCommand(exportLine(file, context.values));
     return 0;

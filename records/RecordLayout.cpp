@@ -1,6 +1,8 @@
 // The words in which record layouts are written; see RecordLayout.h.
 #include "records/RecordLayout.h"
 
+#include <algorithm>
+
 namespace norvane::records
 {
 namespace
@@ -26,12 +28,23 @@ Column column(Form form, std::size_t width, const char* field)
 }
 
 constexpr std::size_t symbolWidth = 3;
+constexpr std::size_t pieceWidth = 2;
 
 std::string numberedName(std::string name, int number)
 {
     if (const auto star = name.find('*'); star != std::string::npos)
         name.replace(star, 1, std::to_string(number));
     return name;
+}
+
+void numberDigits(Column& column, int number)
+{
+    for (auto& parts : column.digits) {
+        for (DigitPart& part : parts) {
+            part.field = numberedName(part.field, number);
+            part.readField = numberedName(part.readField, number);
+        }
+    }
 }
 
 } // namespace
@@ -136,6 +149,58 @@ Column Column::firstCharacterOnly() const
     return with(*this, [](Column& made) { made.firstCharacter = true; });
 }
 
+Column Column::cutTo(std::size_t characters) const
+{
+    return with(*this, [&](Column& made) { made.cut = characters; });
+}
+
+Column Column::strippedOfZeros() const
+{
+    return with(*this, [](Column& made) { made.stripped = true; });
+}
+
+Column Column::keepingMarks() const
+{
+    return with(*this, [](Column& made) { made.marksKept = true; });
+}
+
+Column Column::withCodeWords(std::vector<CodeWord> words) const
+{
+    return with(*this, [&](Column& made) { made.codeWords = std::move(words); });
+}
+
+Column Column::leftBoundWhile(const char* otherField, const char* value, std::size_t places) const
+{
+    return with(*this, [&](Column& made) {
+        made.kindField = otherField;
+        made.kind = value;
+        made.leftPlaces = places;
+    });
+}
+
+Column Column::rereading() const
+{
+    return with(*this, [](Column& made) { made.rereads = true; });
+}
+
+Column Column::onlyRead() const
+{
+    return with(*this, [](Column& made) { made.written = false; });
+}
+
+Column Column::withheldFrom(int first, std::vector<std::string> texts) const
+{
+    return with(*this, [&](Column& made) {
+        made.firstWithheld = first;
+        made.withheldTexts = std::move(texts);
+    });
+}
+
+Column Column::joinedBy(const char* between) const
+{
+    return with(*this, [&](Column& made) { made.point = between; });
+}
+
 Column Column::bare() const
 {
     return with(*this, [](Column& made) { made.bareOptions = true; });
@@ -176,6 +241,19 @@ Column symbol(const char* field)
     return column(Form::Symbol, symbolWidth, field);
 }
 
+Column messageLine(const char* field)
+{
+    return with(text(0, field).strippedOfZeros(), [](Column& made) { made.isMessageLine = true; });
+}
+
+Column piece(const char* field, const char* pattern, int place)
+{
+    return with(column(Form::Piece, pieceWidth, field), [&](Column& made) {
+        made.pattern = pattern;
+        made.place = place;
+    });
+}
+
 Column spare(std::size_t zeros)
 {
     return with(Column(), [&](Column& made) { made.literal.assign(zeros, '0'); });
@@ -188,17 +266,45 @@ ColumnGroup numbered(int times, const std::vector<Column>& columns)
         for (Column made : columns) {
             made.field = numberedName(made.field, number);
             made.readField = numberedName(made.readField, number);
+            made.kindField = numberedName(made.kindField, number);
+            numberDigits(made, number);
             all.push_back(std::move(made));
         }
     }
     return all;
 }
 
-RecordLayout::RecordLayout(std::string numberField, const std::vector<ColumnGroup>& groups)
-    : lineNumberField(std::move(numberField))
+ColumnGroup hexBytes(int bytes, std::size_t width, const char* field)
+{
+    std::vector<Column> all;
+    for (int byte = 0; byte < bytes; ++byte) {
+        all.push_back(with(column(Form::HexByte, width, field), [&](Column& made) { made.place = byte; }));
+    }
+    return all;
+}
+
+ColumnSet::ColumnSet(std::vector<int> recordNumbers, const std::vector<ColumnGroup>& groups)
+    : records(std::move(recordNumbers))
 {
     for (const ColumnGroup& group : groups)
         columns.insert(columns.end(), group.columns.begin(), group.columns.end());
+}
+
+RecordLayout::RecordLayout(std::string numberField, const std::vector<ColumnGroup>& groups,
+                           const std::vector<ColumnSet>& others)
+    : lineNumberField(std::move(numberField)), sets{ColumnSet({}, groups)}
+{
+    sets.insert(sets.end(), others.begin(), others.end());
+}
+
+std::size_t RecordLayout::setOf(std::int64_t record) const
+{
+    for (std::size_t set = 1; set < sets.size(); ++set) {
+        const auto& numbers = sets[set].records;
+        if (std::find(numbers.begin(), numbers.end(), record) != numbers.end())
+            return set;
+    }
+    return 0;
 }
 
 } // namespace norvane::records

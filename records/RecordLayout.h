@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -68,7 +69,16 @@ enum class Form {
     Text,    ///< text filled with blanks
     Options, ///< two option digits
     Symbol,  ///< a character, kept as its code
+    HexByte, ///< one byte of a field of hexadecimal digits, as a decimal number
+    Piece,   ///< two characters of a number that is sent in several columns
     Literal, ///< the same text in every record, never read
+};
+
+/// A number that the register and the table name differently.
+struct CodeWord {
+    std::string answered; ///< by the register, without leading zeros
+    std::string stored;
+    std::string sent;
 };
 
 /// One column of a record.
@@ -87,8 +97,30 @@ public:
     [[nodiscard]] Column namedByDefault(const char* text) const;
     /// Sent with @p literal right behind the value.
     [[nodiscard]] Column followedBy(const char* literal) const;
-    /// Read, only the first character counts after the leading zeros are gone.
+    /// Read, only the first character counts after the leading zeros are gone. Of option digits it is the
+    /// left one, and only the digits of exactly one choice, 4 and 2, count.
     [[nodiscard]] Column firstCharacterOnly() const;
+    /// Read, only the first @p characters count, leading zeros included.
+    [[nodiscard]] Column cutTo(std::size_t characters) const;
+    /// A text whose leading zeros go when it is read; one without anything left is "0".
+    [[nodiscard]] Column strippedOfZeros() const;
+    /// A text in which "^" goes to the register as it is.
+    [[nodiscard]] Column keepingMarks() const;
+    /// Read, zeros alone are empty text, and some numbers have another name in the table.
+    [[nodiscard]] Column withCodeWords(std::vector<CodeWord> words) const;
+    /// While @p kindField holds @p kind, the number stands in the first @p places of the column, zeros
+    /// behind.
+    [[nodiscard]] Column leftBoundWhile(const char* kindField, const char* kind, std::size_t places) const;
+    /// Read, takes the text of the column before once more.
+    [[nodiscard]] Column rereading() const;
+    /// A column that is only read: the register is never told it here.
+    [[nodiscard]] Column onlyRead() const;
+    /// Newer firmware is never told these records' own text, from the record @p first on: it gets the latest
+    /// of
+    /// @p texts that a record without a text of its own called for in this download, blanks before that.
+    [[nodiscard]] Column withheldFrom(int first, std::vector<std::string> texts) const;
+    /// A piece that is read behind the ones before with @p point in between.
+    [[nodiscard]] Column joinedBy(const char* point) const;
     /// Option digits sent as the number that they make, without a leading zero.
     [[nodiscard]] Column bare() const;
     /// Option digits that are read as a plain number into @p field.
@@ -107,6 +139,21 @@ public:
     std::string defaultText;
     std::string literal; ///< the literal itself, or what follows the value
     std::array<std::vector<DigitPart>, 2> digits;
+    std::size_t cut = std::string::npos; ///< characters that are read
+    bool stripped = false;
+    bool marksKept = false;
+    bool isMessageLine = false; ///< as wide as the register's message lines, whatever the width above
+    bool rereads = false;
+    bool written = true;
+    std::vector<CodeWord> codeWords;
+    std::string kindField; ///< empty when the column is always the same
+    std::string kind;
+    std::size_t leftPlaces = 0; ///< of a number that is left bound
+    int firstWithheld = 0;
+    std::vector<std::string> withheldTexts; ///< of the record firstWithheld and those behind it
+    int place = 0;       ///< of a byte, from 0; of a piece in the number, from its end when negative
+    std::string pattern; ///< of the number whose piece this is
+    std::string point;
 };
 
 [[nodiscard]] Column number(std::size_t width, const char* field);
@@ -115,6 +162,11 @@ public:
 [[nodiscard]] Column text(std::size_t width, const char* field);
 [[nodiscard]] Column options(std::vector<DigitPart> left, std::vector<DigitPart> right = {});
 [[nodiscard]] Column symbol(const char* field);
+/// A line of a message, stripped of zeros, as wide as the register prints.
+[[nodiscard]] Column messageLine(const char* field);
+/// Two characters, from @p place on, of a number brought to @p pattern; read, the pieces are joined again,
+/// the one at place 0 begins.
+[[nodiscard]] Column piece(const char* field, const char* pattern, int place);
 /// Room for later options of the register: so many zeros.
 [[nodiscard]] Column spare(std::size_t zeros);
 
@@ -130,13 +182,28 @@ struct ColumnGroup {
 /// names.
 [[nodiscard]] ColumnGroup numbered(int times, const std::vector<Column>& columns);
 
+/// So many bytes of a field of hexadecimal digits, each a column of @p width digits.
+[[nodiscard]] ColumnGroup hexBytes(int bytes, std::size_t width, const char* field);
+
+/// The columns of the records with certain numbers, counted from 1.
+struct ColumnSet {
+    ColumnSet(std::vector<int> recordNumbers, const std::vector<ColumnGroup>& groups);
+
+    std::vector<int> records; ///< empty for all that no other set names
+    std::vector<Column> columns;
+};
+
 /// All columns of a register file.
 struct RecordLayout {
-    RecordLayout(std::string numberField, const std::vector<ColumnGroup>& groups);
+    RecordLayout(std::string numberField, const std::vector<ColumnGroup>& groups,
+                 const std::vector<ColumnSet>& others = {});
+
+    /// Place in the sets of the columns of a record.
+    [[nodiscard]] std::size_t setOf(std::int64_t record) const;
 
     /// Field that takes the number of the line, from 1; empty for none.
     std::string lineNumberField;
-    std::vector<Column> columns;
+    std::vector<ColumnSet> sets; ///< the usual one first
 };
 
 } // namespace norvane::records

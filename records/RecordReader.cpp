@@ -52,6 +52,12 @@ Value numberValue(FieldType type, std::string_view text)
     return Value::text(plainFromRegister(text));
 }
 
+[[noreturn]] void failNoNumber(std::string_view text)
+{
+    throw RuntimeFailure(Failure::TypeMismatch, QStringLiteral("Type mismatch: \"%1\" is no number")
+                                                    .arg(QString::fromStdString(plainFromRegister(text))));
+}
+
 /// Exact: prices of text fields get their plain number text, number fields the nearest number to it.
 Value scaledValue(FieldType type, std::string_view text, int scale)
 {
@@ -59,11 +65,8 @@ Value scaledValue(FieldType type, std::string_view text, int scale)
         return {};
     const auto whole = plainNumber(text, longestCoefficient);
     const auto parsed = whole ? std::optional(Decimal(*whole, 0)) : Decimal::parse(text);
-    if (!parsed) {
-        throw RuntimeFailure(Failure::TypeMismatch,
-                             QStringLiteral("Type mismatch: \"%1\" is no number")
-                                 .arg(QString::fromStdString(plainFromRegister(text))));
-    }
+    if (!parsed)
+        failNoNumber(text);
     const Decimal number = parsed->shifted(-scale);
     return holdsNumbers(type) ? Value::number(number.toDouble()) : Value::text(number.text());
 }
@@ -80,6 +83,25 @@ std::string_view cutTo(std::string_view utf8, int characters)
     return utf8.substr(0, end);
 }
 
+/// The two hexadecimal digits of a byte in decimal; of a larger number those of its lowest byte.
+std::string hexByte(std::string_view text)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    constexpr unsigned digitMask = 0xF;
+    const auto number = trimBlanks(text).empty() ? std::optional(Decimal()) : Decimal::parse(text);
+    if (!number)
+        failNoNumber(text);
+    const auto byte = static_cast<std::uint64_t>(number->toWhole());
+    return {digits[(byte >> 4U) & digitMask], digits[byte & digitMask]};
+}
+
+/// The choice digit that the column begins with behind its zeros; any other character is no choice.
+std::array<int, 2> firstDigit(std::string_view text)
+{
+    const char first = stripLeadingZero(text).front();
+    return {first == '4' ? 4 : first == '2' ? 2 : 0, 0};
+}
+
 Value choiceValue(const DigitPart& part, int number)
 {
     return part.value == DigitPart::Value::Flag ? Value::yesNo(number != 0) : Value::whole(number);
@@ -88,12 +110,15 @@ Value choiceValue(const DigitPart& part, int number)
 } // namespace
 
 RecordReader::RecordReader(const RecordLayout& layout, store::Recordset& records)
-    : m_records(records), m_numbersLines(!layout.lineNumberField.empty())
+    : m_layout(layout), m_records(records), m_numbersLines(!layout.lineNumberField.empty())
 {
     if (m_numbersLines)
         m_lineNumber = targetOf(layout.lineNumberField);
-    for (const Column& column : layout.columns)
-        m_steps.push_back(stepOf(column));
+    for (const ColumnSet& set : layout.sets) {
+        auto& steps = m_sets.emplace_back();
+        for (const Column& column : set.columns)
+            steps.push_back(stepOf(column));
+    }
 }
 
 RecordReader::Target RecordReader::targetOf(const std::string& field) const
@@ -105,9 +130,11 @@ RecordReader::Target RecordReader::targetOf(const std::string& field) const
 
 RecordReader::Step RecordReader::stepOf(const Column& column) const
 {
-    Step step{&column, {}, {}};
+    Step step{&column, {}, {}, {}};
     if (column.readForm != Form::Literal && column.readForm != Form::Options)
         step.target = targetOf(column.readField);
+    if (!column.kindField.empty())
+        step.kind = targetOf(column.kindField);
     for (std::size_t place = 0; place < column.digits.size(); ++place) {
         for (const DigitPart& part : column.digits[place]) {
             if (part.reading != DigitPart::Reading::Nothing)
@@ -122,9 +149,13 @@ void RecordReader::read(std::string_view line, std::int64_t lineNumber)
     m_column = 0;
     if (m_numbersLines)
         set(m_lineNumber, Value::whole(lineNumber));
-    for (const Step& step : m_steps) {
-        ++m_column;
-        store(step, takeField(line), lineNumber);
+    std::string_view text;
+    for (const Step& step : m_sets[m_layout.setOf(lineNumber)]) {
+        if (!step.column->rereads) {
+            ++m_column;
+            text = takeField(line);
+        }
+        store(step, text, lineNumber);
     }
     m_column = 0;
 }
@@ -146,6 +177,12 @@ void RecordReader::store(const Step& step, std::string_view text, std::int64_t l
         set(step.target, Value::whole(code == registerMark ? '^' : code));
         break;
     }
+    case Form::HexByte:
+        storeHexByte(step, text);
+        break;
+    case Form::Piece:
+        storePiece(step, text);
+        break;
     case Form::Literal:
         break;
     }
@@ -154,11 +191,52 @@ void RecordReader::store(const Step& step, std::string_view text, std::int64_t l
 void RecordReader::storeNumber(const Step& step, std::string_view text)
 {
     const Column& column = *step.column;
+    if (!column.codeWords.empty()) {
+        storeCodeWord(step, text);
+        return;
+    }
+    text = text.substr(0, charactersRead(step));
     std::string_view digits = column.raw ? text : stripLeadingZero(text);
     if (column.firstCharacter)
         digits = digits.substr(0, 1);
     const auto type = step.target.type;
     set(step.target, column.scale == 0 ? numberValue(type, digits) : scaledValue(type, digits, column.scale));
+}
+
+std::size_t RecordReader::charactersRead(const Step& step) const
+{
+    const Column& column = *step.column;
+    const bool leftBound =
+        !column.kindField.empty() && m_records.value(step.kind.ordinal).toUtf8() == column.kind;
+    return leftBound ? column.leftPlaces : column.cut;
+}
+
+void RecordReader::storeCodeWord(const Step& step, std::string_view text)
+{
+    QString shown = QString::fromStdString(plainFromRegister(text));
+    std::string name = norvane::StripLeadingZero(shown).toStdString();
+    const auto& words = step.column->codeWords;
+    const auto found =
+        std::find_if(words.begin(), words.end(), [&](const CodeWord& word) { return word.answered == name; });
+    set(step.target, Value::text(found == words.end() ? std::move(name) : found->stored));
+}
+
+void RecordReader::storeHexByte(const Step& step, std::string_view text)
+{
+    if (step.column->place == 0)
+        m_joined.clear();
+    m_joined += hexByte(text);
+    set(step.target, Value::text(m_joined));
+}
+
+/// A column that is not there adds nothing, not even the point.
+void RecordReader::storePiece(const Step& step, std::string_view text)
+{
+    if (step.column->place == 0)
+        m_joined.clear();
+    if (!text.empty())
+        m_joined.append(step.column->point).append(text);
+    set(step.target, numberValue(step.target.type, m_joined));
 }
 
 void RecordReader::storeText(const Step& step, std::string_view text, std::int64_t lineNumber)
@@ -168,13 +246,14 @@ void RecordReader::storeText(const Step& step, std::string_view text, std::int64
         const std::string numbered = name + std::to_string(lineNumber);
         set(step.target, Value::text(std::string(cutTo(numbered, step.target.size))));
     } else {
-        set(step.target, Value::text(textFromRegister(text)));
+        set(step.target,
+            Value::text(textFromRegister(step.column->stripped ? stripLeadingZero(text) : text)));
     }
 }
 
 void RecordReader::storeOptions(const Step& step, std::string_view text)
 {
-    const auto digits = optionDigits(text);
+    const auto digits = step.column->firstCharacter ? firstDigit(text) : optionDigits(text);
     for (const Digit& digit : step.digits)
         storeDigit(digit, digits.at(digit.place), text);
 }

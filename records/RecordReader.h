@@ -5,6 +5,7 @@
 #include "store/Recordset.h"
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -44,6 +45,7 @@ private:
     struct Step {
         const Column* column;
         Target target;
+        Target kind;
         std::vector<Digit> digits;
     };
 
@@ -53,14 +55,20 @@ private:
     void storeNumber(const Step& step, std::string_view text);
     void storeText(const Step& step, std::string_view text, std::int64_t lineNumber);
     void storeOptions(const Step& step, std::string_view text);
+    void storeCodeWord(const Step& step, std::string_view text);
+    void storeHexByte(const Step& step, std::string_view text);
+    void storePiece(const Step& step, std::string_view text);
+    [[nodiscard]] std::size_t charactersRead(const Step& step) const;
     void storeDigit(const Digit& digit, int value, std::string_view column);
     void set(const Target& target, store::Value value);
 
+    const RecordLayout& m_layout;
     store::Recordset& m_records;
     bool m_numbersLines = false;
     Target m_lineNumber;
-    std::vector<Step> m_steps;
+    std::vector<std::vector<Step>> m_sets;
     int m_column = 0;
+    std::string m_joined; ///< hexadecimal digits or pieces of the columns before
 };
 
 } // namespace norvane::records

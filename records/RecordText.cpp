@@ -89,11 +89,17 @@ void appendZeroFilled(std::string& out, std::string_view text, std::size_t width
     }
 }
 
-void appendBlankFilled(std::string& out, std::string_view utf8, std::size_t width)
+void appendPlainBlankFilled(std::string& out, std::string_view utf8, std::size_t width)
 {
     const auto start = out.size();
     appendWindows1252FromUtf8(out, trimBlanks(utf8));
     out.resize(start + width, ' ');
+}
+
+void appendBlankFilled(std::string& out, std::string_view utf8, std::size_t width)
+{
+    const auto start = out.size();
+    appendPlainBlankFilled(out, utf8, width);
     std::replace(out.begin() + static_cast<std::ptrdiff_t>(start), out.end(), shownMark, registerMark);
 }
 

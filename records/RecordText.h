@@ -39,6 +39,9 @@ void appendZeroFilled(std::string& out, std::string_view text, std::size_t width
 /// the leftmost bytes kept. Each "^" becomes the register's own mark.
 void appendBlankFilled(std::string& out, std::string_view utf8, std::size_t width);
 
+/// The same with "^" left as it is.
+void appendPlainBlankFilled(std::string& out, std::string_view utf8, std::size_t width);
+
 /// A text column as the database holds it: UTF-8, the register's own mark shown as "^".
 [[nodiscard]] std::string textFromRegister(std::string_view bytes);
 

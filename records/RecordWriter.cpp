@@ -4,12 +4,14 @@
 #include "platform/Decimal.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
+#include "platform/TextFields.h"
 #include "platform/Windows1252.h"
 #include "records/RecordText.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdlib>
 
 namespace norvane::records
 {
@@ -19,6 +21,8 @@ namespace
 using store::Value;
 
 constexpr int largestCode = 255;
+/// Firmware from here on keeps some texts to itself.
+constexpr int withholdingGeneration = 3;
 
 /// A field's value as text without a copy where the value has one already; lives as long as the value.
 class ValueText
@@ -73,10 +77,26 @@ void appendScaledNumber(std::string& out, std::string_view text, const Column& c
 
 } // namespace
 
-RecordWriter::RecordWriter(const RecordLayout& layout, const store::Recordset& records) : m_records(records)
+RecordWriter::RecordWriter(const RecordLayout& layout, const store::Recordset& records, RegisterTraits traits)
+    : m_layout(layout), m_records(records), m_traits(std::move(traits))
 {
-    for (const Column& column : layout.columns)
-        m_steps.push_back(stepOf(column));
+    const auto isMessage = [](const Column& column) {
+        return column.isMessageLine;
+    };
+    const auto withholds = [](const Column& column) {
+        return !column.withheldTexts.empty();
+    };
+    for (const ColumnSet& set : layout.sets) {
+        auto& steps = m_sets.emplace_back();
+        for (const Column& column : set.columns) {
+            if (column.written)
+                steps.push_back(stepOf(column));
+        }
+    }
+    const auto& usual = layout.sets.front().columns;
+    m_hasMessages = std::any_of(usual.begin(), usual.end(), isMessage);
+    m_withholdsTexts = std::any_of(usual.begin(), usual.end(), withholds) &&
+                       m_traits.firmwareGeneration() == withholdingGeneration;
 }
 
 int RecordWriter::ordinalOf(const std::string& field) const
@@ -86,9 +106,11 @@ int RecordWriter::ordinalOf(const std::string& field) const
 
 RecordWriter::Step RecordWriter::stepOf(const Column& column) const
 {
-    Step step{&column, 0, {}};
+    Step step{&column, 0, 0, {}};
     if (column.form != Form::Literal && column.form != Form::Options)
         step.ordinal = ordinalOf(column.field);
+    if (!column.kindField.empty())
+        step.kindOrdinal = ordinalOf(column.kindField);
     for (std::size_t place = 0; place < column.digits.size(); ++place) {
         for (const DigitPart& part : column.digits[place])
             step.digits[place].push_back({&part, ordinalOf(part.field)});
@@ -96,24 +118,28 @@ RecordWriter::Step RecordWriter::stepOf(const Column& column) const
     return step;
 }
 
-void RecordWriter::appendLine(std::string& out) const
+void RecordWriter::appendLine(std::string& out)
 {
-    for (const Step& step : m_steps) {
-        if (&step != &m_steps.front())
+    ++m_record;
+    if (m_hasMessages)
+        m_messageWidth = m_traits.messageWidth();
+    const auto& steps = m_sets[m_layout.setOf(m_record)];
+    for (const Step& step : steps) {
+        if (&step != &steps.front())
             out += ',';
         appendColumn(out, step);
     }
     out += "\r\n";
 }
 
-void RecordWriter::appendColumn(std::string& out, const Step& step) const
+void RecordWriter::appendColumn(std::string& out, const Step& step)
 {
     switch (step.column->form) {
     case Form::Number:
         appendNumber(out, step);
         break;
     case Form::Text:
-        appendBlankFilled(out, ValueText(m_records.value(step.ordinal)).view(), step.column->width);
+        appendText(out, step);
         break;
     case Form::Options:
         appendOptions(out, step);
@@ -121,16 +147,83 @@ void RecordWriter::appendColumn(std::string& out, const Step& step) const
     case Form::Symbol:
         appendSymbol(out, step);
         break;
+    case Form::HexByte:
+        appendHexByte(out, step);
+        break;
+    case Form::Piece:
+        appendPiece(out, step);
+        break;
     case Form::Literal:
         break;
     }
     out += step.column->literal;
 }
 
-void RecordWriter::appendNumber(std::string& out, const Step& step) const
+bool RecordWriter::isWithheld(const Column& column) const
+{
+    const auto last = column.firstWithheld + static_cast<std::int64_t>(column.withheldTexts.size());
+    return m_withholdsTexts && m_record >= column.firstWithheld && m_record < last;
+}
+
+void RecordWriter::appendText(std::string& out, const Step& step)
 {
     const Column& column = *step.column;
     const ValueText text(m_records.value(step.ordinal));
+    auto sent = text.view();
+    if (isWithheld(column)) {
+        if (trimBlanks(sent).empty())
+            m_latestDefault = column.withheldTexts[static_cast<std::size_t>(m_record - column.firstWithheld)];
+        sent = m_latestDefault;
+    }
+    const auto width = column.isMessageLine ? m_messageWidth : column.width;
+    (column.marksKept ? appendPlainBlankFilled : appendBlankFilled)(out, sent, width);
+}
+
+void RecordWriter::appendLeftBound(std::string& out, const Step& step) const
+{
+    const Column& column = *step.column;
+    appendPlainNumber(out, ValueText(m_records.value(step.ordinal)).view(), column.leftPlaces);
+    out.append(column.width - column.leftPlaces, '0');
+}
+
+/// The field's two digits as far as they are hexadecimal, the rest counts as not there.
+void RecordWriter::appendHexByte(std::string& out, const Step& step) const
+{
+    const ValueText text(m_records.value(step.ordinal));
+    std::string digits;
+    appendWindows1252FromUtf8(digits, text.view());
+    const auto start = std::min(2 * static_cast<std::size_t>(step.column->place), digits.size());
+    const auto pair = std::string_view(digits).substr(start, 2);
+    unsigned byte = 0;
+    std::from_chars(pair.data(), pair.data() + pair.size(), byte, 16);
+    appendZeroFilled(out, std::to_string(byte), step.column->width);
+}
+
+void RecordWriter::appendPiece(std::string& out, const Step& step) const
+{
+    const Column& column = *step.column;
+    const Value& value = m_records.value(step.ordinal);
+    const QString number = value.isNull() ? QStringLiteral("0") : value.toText();
+    const std::string all = formatNumber(number, QString::fromStdString(column.pattern)).toStdString();
+    const auto place = static_cast<std::size_t>(std::abs(column.place));
+    out += all.substr(column.place < 0 ? all.size() - place : place, column.width);
+}
+
+void RecordWriter::appendNumber(std::string& out, const Step& step) const
+{
+    const Column& column = *step.column;
+    if (!column.kindField.empty() && m_records.value(step.kindOrdinal).toUtf8() == column.kind) {
+        appendLeftBound(out, step);
+        return;
+    }
+    const ValueText text(m_records.value(step.ordinal));
+    const auto& words = column.codeWords;
+    const auto word = std::find_if(words.begin(), words.end(),
+                                   [&](const CodeWord& known) { return known.stored == text.view(); });
+    if (word != words.end()) {
+        out += word->sent;
+        return;
+    }
     const auto start = out.size();
     if (column.scale == 0) {
         appendPlainNumber(out, text.view(), column.width);

@@ -4,24 +4,34 @@
 #include "records/RecordLayout.h"
 #include "store/Recordset.h"
 
+#include <array>
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace norvane::records
 {
 
+/// What a layout may have to know of the customer's register.
+struct RegisterTraits {
+    std::function<std::size_t()> messageWidth; ///< characters of a message line, asked for each record
+    std::function<int()> firmwareGeneration;   ///< asked once, before the first record
+};
+
 /// Makes lines from the current record of a recordset. Fields are looked up once; the layout and the
 /// recordset must outlive the writer.
 class RecordWriter
 {
 public:
-    /// @throws RuntimeFailure 3265 when the table lacks a field of the layout.
-    RecordWriter(const RecordLayout& layout, const store::Recordset& records);
+    /// @throws RuntimeFailure 3265 when the table lacks a field of the layout, and what @p traits throw.
+    RecordWriter(const RecordLayout& layout, const store::Recordset& records, RegisterTraits traits);
 
     /// Appends the current record's line in the register's character set, closed by CR LF. Null counts as
-    /// empty: zeros in a number column, blanks in a text column.
+    /// empty: zeros in a number column, blanks in a text column. The lines are counted: some records have
+    /// columns of their own.
     /// @throws RuntimeFailure 3021 without a current record, 6 for a scaled number of more than 18 digits.
-    void appendLine(std::string& out) const;
+    void appendLine(std::string& out);
 
 private:
     struct Digit {
@@ -31,20 +41,33 @@ private:
     struct Step {
         const Column* column;
         int ordinal;
+        int kindOrdinal;
         std::array<std::vector<Digit>, 2> digits;
     };
 
     [[nodiscard]] int ordinalOf(const std::string& field) const;
     [[nodiscard]] Step stepOf(const Column& column) const;
-    void appendColumn(std::string& out, const Step& step) const;
+    void appendColumn(std::string& out, const Step& step);
+    void appendText(std::string& out, const Step& step);
+    void appendLeftBound(std::string& out, const Step& step) const;
+    void appendHexByte(std::string& out, const Step& step) const;
+    void appendPiece(std::string& out, const Step& step) const;
+    [[nodiscard]] bool isWithheld(const Column& column) const;
     void appendNumber(std::string& out, const Step& step) const;
     void appendOptions(std::string& out, const Step& step) const;
     void appendSymbol(std::string& out, const Step& step) const;
     [[nodiscard]] int digitOf(const std::vector<Digit>& parts) const;
     [[nodiscard]] int weightOf(const Digit& digit) const;
 
+    const RecordLayout& m_layout;
     const store::Recordset& m_records;
-    std::vector<Step> m_steps;
+    RegisterTraits m_traits;
+    std::vector<std::vector<Step>> m_sets;
+    std::int64_t m_record = 0; ///< number of the line, from 1
+    bool m_hasMessages = false;
+    std::size_t m_messageWidth = 0;
+    bool m_withholdsTexts = false;
+    std::string m_latestDefault; ///< sent for a text that is withheld
 };
 
 } // namespace norvane::records

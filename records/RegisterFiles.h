@@ -34,6 +34,8 @@ struct RegisterFile {
     EmptyTable emptyTable;
     Upload upload;
     const RecordLayout& (*layout)(); ///< nullptr while the file is only kept, not read
+    /// Text to binary for the model Dorvik, nullptr where it is like the other models.
+    const char* dorvikOperation = nullptr;
 };
 
 /// All files in the order of their numbers.
