@@ -31,4 +31,34 @@ namespace norvane::records
 [[nodiscard]] const RecordLayout& timeKeepingLayout();
 [[nodiscard]] const RecordLayout& journalDetailLayout();
 
+// MessageLayouts.cpp
+[[nodiscard]] const RecordLayout& systemDescriptorLayout();
+[[nodiscard]] const RecordLayout& errorMessageLayout();
+[[nodiscard]] const RecordLayout& financialReportLayout();
+[[nodiscard]] const RecordLayout& employeeReportLayout();
+[[nodiscard]] const RecordLayout& logoMessageLayout();
+[[nodiscard]] const RecordLayout& validationMessageLayout();
+[[nodiscard]] const RecordLayout& checkEndorseMessageLayout();
+[[nodiscard]] const RecordLayout& guestCheckMessageLayout();
+
+// StaffLayouts.cpp
+[[nodiscard]] const RecordLayout& employeeLayout();
+[[nodiscard]] const RecordLayout& jobCodeLayout();
+[[nodiscard]] const RecordLayout& payRateLayout();
+[[nodiscard]] const RecordLayout& authorityLevelLayout();
+[[nodiscard]] const RecordLayout& timePeriodLayout();
+
+// ServiceLayouts.cpp
+[[nodiscard]] const RecordLayout& taxRateLayout();
+[[nodiscard]] const RecordLayout& serviceModeLayout();
+
+// KeyLayouts.cpp
+[[nodiscard]] const RecordLayout& functionKeyLayout();
+[[nodiscard]] const RecordLayout& keyLinkLayout();
+[[nodiscard]] const RecordLayout& numberLookUpLayout();
+[[nodiscard]] const RecordLayout& windowLookUpLayout();
+[[nodiscard]] const RecordLayout& recipeLayout();
+[[nodiscard]] const RecordLayout& cardCategoryLayout();
+[[nodiscard]] const RecordLayout& hotListLayout();
+
 } // namespace norvane::records
