@@ -169,10 +169,10 @@ bool isEmpty(const RegisterFile& file, const QString& databasePath)
     return database.openTable(QLatin1String(file.table)).recordCount() == 0;
 }
 
-const RegisterFile& fileWithLayout(int number)
+const RegisterFile& knownFile(int number)
 {
     const RegisterFile* file = registerFile(number);
-    Q_ASSERT(file != nullptr && file->layout != nullptr);
+    Q_ASSERT(file != nullptr);
     return *file;
 }
 
@@ -180,8 +180,7 @@ const RegisterFile& fileWithLayout(int number)
 
 bool hasImporter(int file)
 {
-    const RegisterFile* found = registerFile(file);
-    return found != nullptr && found->layout != nullptr;
+    return registerFile(file) != nullptr;
 }
 
 bool hasExporter(int file)
@@ -191,7 +190,7 @@ bool hasExporter(int file)
 
 void importRegisterFile(int number, const ProcedureContext& context)
 {
-    const RegisterFile& file = fileWithLayout(number);
+    const RegisterFile& file = knownFile(number);
     context.runCommand(importLine(file, context.values));
 
     store::Database database(context.values.databasePath);
@@ -209,7 +208,7 @@ void importRegisterFile(int number, const ProcedureContext& context)
 
 int exportRegisterFile(int number, const ProcedureContext& context)
 {
-    const RegisterFile& file = fileWithLayout(number);
+    const RegisterFile& file = knownFile(number);
     const QString& databasePath = context.values.databasePath;
     if (file.emptyTable == EmptyTable::Skips && isEmpty(file, databasePath))
         return nothingWritten;

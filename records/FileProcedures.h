@@ -39,7 +39,8 @@ void importRegisterFile(int file, const ProcedureContext& context);
 /// @return 1 when the table is empty and the file is one that is passed over then, no file is touched; else
 /// 0.
 /// @throws RuntimeFailure 3021 when the table is empty and the file is not passed over, with NN.txt emptied;
-/// 75 when NN.txt cannot be opened, 61 when the disk is full.
+/// 75 when NN.txt cannot be opened, 61 when the disk is full; what GetModelCode() throws, and for the
+/// function keys, file 2, what GetFirmwareGeneration() throws.
 int exportRegisterFile(int file, const ProcedureContext& context);
 
 } // namespace norvane::records

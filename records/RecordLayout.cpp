@@ -277,6 +277,7 @@ ColumnGroup numbered(int times, const std::vector<Column>& columns)
 ColumnGroup hexBytes(int bytes, std::size_t width, const char* field)
 {
     std::vector<Column> all;
+    all.reserve(static_cast<std::size_t>(bytes));
     for (int byte = 0; byte < bytes; ++byte) {
         all.push_back(with(column(Form::HexByte, width, field), [&](Column& made) { made.place = byte; }));
     }

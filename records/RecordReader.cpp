@@ -218,7 +218,9 @@ void RecordReader::storeCodeWord(const Step& step, std::string_view text)
     const auto& words = step.column->codeWords;
     const auto found =
         std::find_if(words.begin(), words.end(), [&](const CodeWord& word) { return word.answered == name; });
-    set(step.target, Value::text(found == words.end() ? std::move(name) : found->stored));
+    if (found != words.end())
+        name = found->stored;
+    set(step.target, Value::text(std::move(name)));
 }
 
 void RecordReader::storeHexByte(const Step& step, std::string_view text)

@@ -24,7 +24,7 @@ public:
     /// columns for one field the later counts. A missing column of a number stores 0, of option digits clears
     /// them, of a text stores an empty text; a number column of blanks alone stores null.
     /// @param lineNumber counts from 1.
-    /// @throws RuntimeFailure 13 for option digits or a scaled number that are none, and what
+    /// @throws RuntimeFailure 13 for option digits, a scaled number or a byte that are none, and what
     /// Recordset::setValue throws.
     void read(std::string_view line, std::int64_t lineNumber);
 

@@ -33,7 +33,7 @@ struct RegisterFile {
     const char* exportOperation; ///< text to binary
     EmptyTable emptyTable;
     Upload upload;
-    const RecordLayout& (*layout)(); ///< nullptr while the file is only kept, not read
+    const RecordLayout& (*layout)();
     /// Text to binary for the model Dorvik, nullptr where it is like the other models.
     const char* dorvikOperation = nullptr;
 };
