@@ -65,8 +65,9 @@ bool copyTemplate(const ApplicationValues& values, const QString& name)
 
 QStringList customerFolders(const QString& appPath)
 {
-    QStringList names =
-        QDir(appPath).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+    // A customer whose name begins with a dot is one like any other, whatever the platform hides.
+    QStringList names = QDir(appPath).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot,
+                                                QDir::Name | QDir::IgnoreCase);
     std::ranges::for_each(names, toUpperCase);
     return names;
 }

@@ -16,8 +16,9 @@ TEST_F(CustomerFoldersTest, FoldersAreListedInUpperCaseAndStillMeetWhenTheyArePi
 {
     m_folder.write("app/aroma/x", "");
     m_folder.write("app/Straße ı/x", "");
+    m_folder.write("app/.com shop/x", "");
     const QStringList listed = customerFolders(m_values.appPath);
-    EXPECT_EQ(listed, (QStringList{u"AROMA"_s, u"CAFE"_s, u"STRAßE ı"_s}));
+    EXPECT_EQ(listed, (QStringList{u".COM SHOP"_s, u"AROMA"_s, u"CAFE"_s, u"STRAßE ı"_s}));
     for (const QString& name : listed)
         EXPECT_EQ(chooseCustomer(m_values, name), CustomerChoice::Taken) << name.toStdString();
     EXPECT_EQ(customerFolders(m_values.appPath), listed) << "nothing was made";
