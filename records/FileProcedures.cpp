@@ -152,6 +152,7 @@ void writeRecords(const RegisterFile& file, store::Recordset& records, TextOutpu
 {
     records.moveFirst();
     RecordWriter writer(file.layout(), records, traitsOf(context));
+    records.readOnly(writer.fields());
     std::string text;
     for (; !records.atEnd(); records.moveNext()) {
         writer.appendLine(text);

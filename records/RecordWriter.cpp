@@ -99,12 +99,12 @@ RecordWriter::RecordWriter(const RecordLayout& layout, const store::Recordset& r
                        m_traits.firmwareGeneration() == withholdingGeneration;
 }
 
-int RecordWriter::ordinalOf(const std::string& field) const
+int RecordWriter::ordinalOf(const std::string& field)
 {
-    return m_records.fieldOrdinal(QString::fromStdString(field));
+    return m_fields.emplace_back(m_records.fieldOrdinal(QString::fromStdString(field)));
 }
 
-RecordWriter::Step RecordWriter::stepOf(const Column& column) const
+RecordWriter::Step RecordWriter::stepOf(const Column& column)
 {
     Step step{&column, 0, 0, {}};
     if (column.form != Form::Literal && column.form != Form::Options)

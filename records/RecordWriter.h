@@ -33,6 +33,9 @@ public:
     /// @throws RuntimeFailure 3021 without a current record, 6 for a scaled number of more than 18 digits.
     void appendLine(std::string& out);
 
+    /// Ordinals of the fields that lines are made from; the others need not be read.
+    [[nodiscard]] const std::vector<int>& fields() const { return m_fields; }
+
 private:
     struct Digit {
         const DigitPart* part;
@@ -45,8 +48,8 @@ private:
         std::array<std::vector<Digit>, 2> digits;
     };
 
-    [[nodiscard]] int ordinalOf(const std::string& field) const;
-    [[nodiscard]] Step stepOf(const Column& column) const;
+    [[nodiscard]] int ordinalOf(const std::string& field);
+    [[nodiscard]] Step stepOf(const Column& column);
     void appendColumn(std::string& out, const Step& step);
     void appendText(std::string& out, const Step& step);
     void appendLeftBound(std::string& out, const Step& step) const;
@@ -63,6 +66,7 @@ private:
     const store::Recordset& m_records;
     RegisterTraits m_traits;
     std::vector<std::vector<Step>> m_sets;
+    std::vector<int> m_fields;
     std::int64_t m_record = 0; ///< number of the line, from 1
     bool m_hasMessages = false;
     std::size_t m_messageWidth = 0;

@@ -151,6 +151,14 @@ void Recordset::setIndex(const QString& name)
     d->moved(d->cursor->first(), Private::Place::Empty);
 }
 
+void Recordset::readOnly(const std::vector<int>& fields)
+{
+    d->indexed().limitTo(fields);
+    d->abandonEdit();
+    d->writer.reset();
+    d->moved(d->cursor->first(), Private::Place::Empty);
+}
+
 QString Recordset::index() const
 {
     return d->indexName;

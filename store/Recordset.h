@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 namespace norvane::store
 {
@@ -28,6 +29,10 @@ public:
     /// Chooses the order and places the recordset on the first record. @throws 3265 for an unknown index.
     void setIndex(const QString& name);
     [[nodiscard]] QString index() const;
+    /// For walks over many records of a table: from now on only the fields of these ordinals are read, all
+    /// others show null, and the records cannot be changed. Places the recordset on the first record.
+    /// @throws RuntimeFailure 3000 on a query.
+    void readOnly(const std::vector<int>& fields);
 
     /// @throws RuntimeFailure 3021 on an empty table.
     void moveFirst();

@@ -68,7 +68,8 @@ const Row* ReadRows::load(qint64 position)
 RowsOfTable::RowsOfTable(Database::Private& database, PreparedStatement& select,
                          std::shared_ptr<const TableShape> shape)
     : m_shape(std::move(shape)),
-      m_byRowId(database.connection(), selectFields(*m_shape) + " WHERE _rowid_ = ?1", m_shape->name())
+      m_byRowId(database.connection(),
+                selectFields(*m_shape, [](int) { return true; }) + " WHERE _rowid_ = ?1", m_shape->name())
 {
     const StatementRun run(select);
     const int rowIdColumn = select.columnCount() - 1;

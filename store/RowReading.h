@@ -10,12 +10,14 @@
 namespace norvane::store
 {
 
-/// The beginning of a statement that reads all fields of a shape and the row id: "SELECT ... FROM ...".
-[[nodiscard]] inline std::string selectFields(const TableShape& shape)
+/// The beginning of a statement that reads the fields of a shape and the row id: "SELECT ... FROM ...". A
+/// field for which @p isRead (ordinal) is false is left unread and null, at its place all the same.
+template <typename IsRead>
+[[nodiscard]] std::string selectFields(const TableShape& shape, IsRead isRead)
 {
     std::string sql = "SELECT ";
-    for (const auto& field : shape.definition().fields)
-        sql += quotedName(field.name) + ", ";
+    for (int ordinal = 0; const auto& field : shape.definition().fields)
+        sql += (isRead(ordinal++) ? quotedName(field.name) : std::string("NULL")) + ", ";
     return sql + "_rowid_ FROM " + quotedName(shape.name());
 }
 

@@ -74,13 +74,25 @@ PreparedStatement& TableCursor::statement(Access access)
     if (!statement) {
         const auto& words = accesses.at(access);
         const std::string sql =
-            selectFields(*m_shape) +
+            selectFields(*m_shape, [this](int ordinal) { return isRead(ordinal); }) +
             (m_index ? withKeyName(words.withKey, quotedName(m_index->field)) : words.withoutKey);
         statement = std::make_unique<PreparedStatement>(
             m_database.connection(), sql,
             QStringLiteral("%1, table %2.").arg(m_database.path(), m_shape->name()));
     }
     return *statement;
+}
+
+bool TableCursor::isRead(int ordinal) const
+{
+    return m_onlyFields.empty() || ordinal == m_keyOrdinal ||
+           std::find(m_onlyFields.begin(), m_onlyFields.end(), ordinal) != m_onlyFields.end();
+}
+
+void TableCursor::limitTo(const std::vector<int>& fields)
+{
+    m_onlyFields = fields;
+    setIndex(m_index);
 }
 
 /// Reads up to @p most rows and stands on the first. Nothing changes when there is none.

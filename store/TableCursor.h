@@ -30,6 +30,8 @@ public:
     void setIndex(const IndexDefinition* index);
     [[nodiscard]] const IndexDefinition* index() const { return m_index; }
     bool seek(Seek comparison, const Value& key);
+    /// Reads these fields and the key alone from now on; all others are null. The place is lost.
+    void limitTo(const std::vector<int>& fields);
 
     bool first() override;
     bool last() override;
@@ -70,6 +72,7 @@ private:
     static const std::array<AccessSql, AccessCount> accesses;
 
     PreparedStatement& statement(Access access);
+    [[nodiscard]] bool isRead(int ordinal) const;
     bool read(Access access, const Value& key, std::int64_t rowId, std::size_t most = 1);
     [[nodiscard]] bool isFresh() const;
     [[nodiscard]] bool placeHasNoKey() const;
@@ -81,6 +84,7 @@ private:
     std::shared_ptr<const TableShape> m_shape;
     const IndexDefinition* m_index = nullptr;
     int m_keyOrdinal = -1;
+    std::vector<int> m_onlyFields; ///< empty: all
     std::array<std::unique_ptr<PreparedStatement>, AccessCount> m_statements;
 
     std::vector<Row> m_rows;  ///< the first m_filled of them are the rows read, m_at is the place
