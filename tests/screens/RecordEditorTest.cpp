@@ -64,25 +64,6 @@ TEST_F(RecordEditorTest, NullIsEmptyOrZeroButNotInAWholeNumberBox)
     EXPECT_EQ(failureOf([&] { editor().showFields(fields); }), 13);
 }
 
-TEST_F(RecordEditorTest, NamesThatTheTableDoesNotHaveFailWithTheScreensName)
-{
-    BoundFields fields{bound(ControlKind::Text, "NOFIELD")};
-    EXPECT_EQ(failureOf([&] { editor("nothing"); }), 3265);
-    EXPECT_EQ(failureOf([&] { editor("GROUPS", "primarykey"); }), 3265);
-    EXPECT_EQ(failureOf([&] { editor("GROUPS", ""); }), 3265);
-    try {
-        editor().showFields(fields);
-        ADD_FAILURE();
-    } catch (const RuntimeFailure& failure) {
-        EXPECT_EQ(failure.number(), 3265);
-        EXPECT_TRUE(failure.text().contains(QStringLiteral("NOFIELD")) &&
-                    failure.text().contains(QStringLiteral("test.scn")))
-            << failure.what();
-    }
-    m_shop.execute("delete * from GROUPS");
-    EXPECT_EQ(failureOf([&] { editor().showFields(m_groupFields); }), 3021);
-}
-
 TEST_F(RecordEditorTest, SavesEachKindInItsForm)
 {
     RecordEditor groups = editor();

@@ -64,33 +64,6 @@ TEST_F(ScreenReaderTest, TheScanEndsAtAGapAndPassesOverUnknownTypes)
     EXPECT_EQ(controls.front().section, QStringLiteral("Field2"));
 }
 
-TEST_F(ScreenReaderTest, EachKindReadsItsOwnKeys)
-{
-    const QByteArray every = "X=10\nY=20\nVisible=True\nWidth=30\nHeight=40\nTabindex=5\nDescription=d\n"
-                             "Enabled=false\nReadOnly=-1\nMaxvalue=99.5\nDatafield=f\nDecimalNumbers=3\n"
-                             "Justify=2\nCharacters=numeric\nColumnwidth=1;2\nValuecol=1\nList=0;a";
-    // Keys: Width Height Description Enabled ReadOnly Maxvalue Datafield DecimalNumbers Justify Characters
-    // Columnwidth Valuecol List; "x" for each that is read.
-    const QHash<QByteArray, QByteArray> expected{
-        {"FindControl", "............."},          {"CheckControl", "x.xx..x......"},
-        {"LabelControl", "x.x.........."},         {"IntegerNumberControl", "x...xxx......"},
-        {"DecimalNumberControl", "x...xxxx....."}, {"TextControl", "x...xxx.xx..."},
-        {"ComboControl", "x.....x...xxx"},         {"GridControl", "xx..........."}};
-    for (auto kind = expected.cbegin(); kind != expected.cend(); ++kind) {
-        const ControlDefinition control = onlyControl(kind.key(), every);
-        QByteArray read;
-        for (const bool given :
-             {control.width.has_value(), control.height.has_value(), !control.description.isEmpty(),
-              control.enabled.has_value(), control.readOnly.has_value(), control.maximum.has_value(),
-              !control.dataField.isEmpty(), control.decimals.has_value(), !control.justify.isEmpty(),
-              !control.characters.isEmpty(), !control.columnWidths.isEmpty(), !control.valueColumn.isEmpty(),
-              !control.list.isEmpty()})
-            read += given ? 'x' : '.';
-        EXPECT_EQ(read, kind.value()) << kind.key().constData();
-        EXPECT_TRUE(control.x && control.y && control.visible && control.tabIndex) << kind.key().constData();
-    }
-}
-
 TEST_F(ScreenReaderTest, AQueryPutsTheListOut)
 {
     EXPECT_TRUE(onlyControl("ComboControl", "SQLCriteria=select * from x\nList=0;a").list.isEmpty());
