@@ -100,13 +100,5 @@ TEST(NumberBoxTest, AWholeNumberBoxWithoutMaximumTakesWhatCanBeSaved)
     EXPECT_EQ(exceeded.count(), 1);
 }
 
-TEST(NumberBoxTest, AReadOnlyBoxTakesNoKeys)
-{
-    IntegerBox box;
-    box.setValue(Decimal(5, 0));
-    box.setReadOnly(true);
-    EXPECT_EQ(typed(box, "7"), QStringLiteral("5"));
-}
-
 } // namespace
 } // namespace norvane::ui

@@ -2,7 +2,6 @@
 #include "ui/TextBox.h"
 
 #include <gtest/gtest.h>
-#include <QSignalSpy>
 #include <QTest>
 
 namespace norvane::ui
@@ -45,27 +44,6 @@ TEST(TextBoxTest, DigitsOnly)
     box.setDigitsOnly();
     QTest::keyClicks(&box, QStringLiteral("1a-2 3"));
     EXPECT_EQ(box.text(), QStringLiteral("123"));
-}
-
-TEST(TextBoxTest, OnlyTypingIsReported)
-{
-    TextBox box;
-    QSignalSpy edited(&box, &QLineEdit::textEdited);
-    box.showText(QStringLiteral("a"));
-    EXPECT_EQ(edited.count(), 0);
-    QTest::keyClicks(&box, QStringLiteral("b"));
-    EXPECT_EQ(edited.count(), 1);
-}
-
-TEST(TextBoxTest, JustifyCodes)
-{
-    TextBox box;
-    const std::pair<const char*, Qt::Alignment> codes[] = {
-        {"2", Qt::AlignHCenter}, {"x", Qt::AlignHCenter}, {"1", Qt::AlignRight}, {"0", Qt::AlignLeft}};
-    for (const auto& [code, alignment] : codes) {
-        box.setJustify(QLatin1String(code));
-        EXPECT_EQ(box.alignment() & Qt::AlignHorizontal_Mask, alignment) << code;
-    }
 }
 
 } // namespace

@@ -52,15 +52,6 @@ TEST_F(ValueListTest, NullAndUnknownValuesShowNoRowAndStay)
     EXPECT_TRUE(m_list.value().isNull());
 }
 
-TEST_F(ValueListTest, AUsersPickIsTheValue)
-{
-    m_list.setValue(QStringLiteral("7"));
-    QTest::keyClick(&m_list, Qt::Key_Down);
-    QTest::keyClick(&m_list, Qt::Key_Down);
-    EXPECT_EQ(m_list.value(), QStringLiteral("1"));
-    EXPECT_EQ(m_edited.count(), 2);
-}
-
 TEST_F(ValueListTest, AWheelChangesNothing)
 {
     m_list.setValue(QStringLiteral("1"));
