@@ -115,13 +115,6 @@ TEST(Convert, knowsTheWidthsAndWordsOfEachModel)
     EXPECT_EQ(logos[2].size(), 2 + 10 * 41 + 2);
 }
 
-TEST(Convert, tellsTheGenerationsApartByTheMemoryFilesLength)
-{
-    EXPECT_LT(ToolBench(1, 1).read("bank/1/52.dat").size(), 78);
-    EXPECT_GE(ToolBench(1, 2).read("bank/1/52.dat").size(), 78);
-    EXPECT_GE(ToolBench(1, 3).read("bank/1/52.dat").size(), 78);
-}
-
 TEST(Convert, refusesATextThatDoesNotFitAndNamesThePlace)
 {
     const ToolBench bench;
