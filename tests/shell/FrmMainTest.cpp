@@ -167,15 +167,6 @@ TEST_F(FrmMainTest, EveryEntryThatIsBuiltOpensItsFileOrFormAndNoOther)
     EXPECT_TRUE(m_boxes.shown.empty());
 }
 
-TEST_F(FrmMainTest, AnEntryNeverChoosableHasNoWayToOpen)
-{
-    for (const MenuEntry& entry : menuTree()) {
-        if (entry.choosable == Choosable::No)
-            action(entry.name).trigger();
-    }
-    EXPECT_EQ(m_opened, QStringList());
-}
-
 TEST_F(FrmMainTest, SetupAndAboutStandOnceInTheMiddleAndSpeakInTheStatusBar)
 {
     EXPECT_EQ(panel(), u"Ready.....");
