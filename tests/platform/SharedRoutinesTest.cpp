@@ -144,13 +144,5 @@ TEST_F(SharedRoutinesTest, TheStampIsTheFifthByteOfThePollFile)
     EXPECT_EQ(NibbleDigits("\x23\xFF"), u"231515");
 }
 
-TEST_F(SharedRoutinesTest, ToolsRunFromTheProgramsFolder)
-{
-    ASSERT_TRUE(QFile::copy(QStringLiteral(CHILD_PROBE), m_app.path("VELMARCOMM")));
-    EXPECT_TRUE(RunAndWait(m_values, QStringLiteral("VELMARCOMM log status.out  0,8")));
-    EXPECT_EQ(ReadStatusOut(), u"8");
-    EXPECT_FALSE(RunAndWait(m_values, QStringLiteral("CONVERTER wVelmaro")));
-}
-
 } // namespace
 } // namespace norvane
