@@ -36,13 +36,6 @@ TEST(Catalogue, NamesEveryTableAndFieldOnce)
     }
 }
 
-TEST(Catalogue, FindsTablesInAnySpelling)
-{
-    ASSERT_NE(catalogueTable(QStringLiteral("ClerkSales")), nullptr);
-    EXPECT_EQ(catalogueTable(QStringLiteral("ClerkSales"))->name, QStringLiteral("CLERKSALES"));
-    EXPECT_EQ(catalogueTable(QStringLiteral("CLERK SALES")), nullptr);
-}
-
 TEST(Catalogue, CountsNumberedFieldsInTheOrderOfTheRecord)
 {
     const struct {

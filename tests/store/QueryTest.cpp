@@ -130,13 +130,5 @@ TEST_F(QueryTest, ComputedRowsAreReadOnly)
     }
 }
 
-TEST_F(QueryTest, ATableNameGivesItsRecordsInTheirOrder)
-{
-    auto rows = m_database.openQuery(QStringLiteral(" [items] ;"));
-    EXPECT_TRUE(rows.isUpdatable());
-    EXPECT_EQ(numbersOf(rows), "1 2 3");
-    EXPECT_EQ(rows.index(), QStringLiteral("plunumber"));
-}
-
 } // namespace
 } // namespace norvane::store::test
