@@ -1,5 +1,6 @@
 // What an import and an export of the PLU file cost beside the least that could do the work: a loop that
 // splits, converts and binds into one prepared insert, and one that selects and writes.
+#include "bench/Ratio.h"
 #include "platform/Boxes.h"
 #include "records/FileProcedures.h"
 #include "store/Catalogue.h"
@@ -13,11 +14,8 @@
 
 #include <array>
 #include <charconv>
-#include <chrono>
-#include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <iostream>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -25,7 +23,8 @@ namespace
 {
 
 using namespace norvane;
-using Seconds = std::chrono::duration<double>;
+using bench::compare;
+using bench::require;
 
 constexpr int pluFile = 67;
 constexpr std::size_t columnCount = 22;
@@ -77,14 +76,6 @@ std::string pluText(int lines, Sums& sums)
     }
     sums.rows = lines;
     return text;
-}
-
-void require(bool condition, const char* what)
-{
-    if (!condition) {
-        std::cerr << "benchmark failed: " << what << '\n';
-        std::abort();
-    }
 }
 
 /// A folder with a database and the text of so many PLUs.
@@ -327,36 +318,18 @@ Sums sumsOf(const QString& path)
     return sums;
 }
 
-template <typename Work>
-double secondsOf(Work work)
+/// As compare(), and the cost of a line.
+template <typename Ours, typename Bare>
+void compareLines(benchmark::State& state, Ours ours, Bare bare)
 {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return Seconds(std::chrono::steady_clock::now() - start).count();
-}
-
-/// Runs ours and the bare loop by turns and reports how many times the bare loop's time ours takes.
-template <typename Ours, typename BareLoop>
-void compare(benchmark::State& state, Ours ours, BareLoop bareLoop)
-{
-    double oursTotal = 0;
-    double bareTotal = 0;
-    while (state.KeepRunning()) {
-        bareTotal += secondsOf(bareLoop);
-        const double seconds = secondsOf(ours);
-        oursTotal += seconds;
-        state.SetIterationTime(seconds);
-    }
-    const auto runs = static_cast<double>(state.iterations());
-    state.counters["ratio"] = oursTotal / bareTotal;
-    state.counters["bare_ms"] = bareTotal / runs * 1e3;
-    state.counters["us_per_line"] = oursTotal / runs * 1e6 / static_cast<double>(state.range(0));
+    const double seconds = compare(state, ours, bare);
+    state.counters["us_per_line"] = seconds * 1e6 / static_cast<double>(state.range(0));
 }
 
 void importPlus(benchmark::State& state)
 {
     Shop shop(static_cast<int>(state.range(0)));
-    compare(
+    compareLines(
         state, [&] { records::importRegisterFile(pluFile, shop.context()); }, [&] { bareImport(shop); });
     require(sumsOf(shop.values.databasePath) == shop.sums, "the import lost rows");
     require(sumsOf(shop.bareDatabase) == shop.sums, "the bare loop lost rows");
@@ -366,7 +339,7 @@ void exportPlus(benchmark::State& state)
 {
     Shop shop(static_cast<int>(state.range(0)));
     records::importRegisterFile(pluFile, shop.context());
-    compare(
+    compareLines(
         state, [&] { records::exportRegisterFile(pluFile, shop.context()); }, [&] { bareExport(shop); });
     const auto contentOf = [&shop](const char* name) {
         QFile file(QString::fromStdString(shop.path(name)));
