@@ -124,6 +124,11 @@ Column Column::scaled(int places) const
     return with(*this, [&](Column& made) { made.scale = places; });
 }
 
+Column Column::byLeadingNumber() const
+{
+    return with(*this, [](Column& made) { made.leading = true; });
+}
+
 Column Column::writtenInstead(const char* usual, const char* instead) const
 {
     return with(*this, [&](Column& made) { made.replacement = {usual, instead}; });

@@ -89,6 +89,8 @@ public:
     [[nodiscard]] Column asItStands() const;
     /// The register counts in tenths, hundredths ... of the stored number, @p places behind the point.
     [[nodiscard]] Column scaled(int places) const;
+    /// Read, a scaled number is the one that the text begins with; a text that begins with none is 0.
+    [[nodiscard]] Column byLeadingNumber() const;
     /// A column that came out as @p usual is sent as @p instead.
     [[nodiscard]] Column writtenInstead(const char* usual, const char* instead) const;
     /// Sent from one field, read into another.
@@ -133,6 +135,7 @@ public:
     std::string readField;         ///< read into this field
     int scale = 0;                 ///< places behind the point
     bool raw = false;              ///< read as it stands
+    bool leading = false;          ///< only the number in front is read
     bool firstCharacter = false;
     bool bareOptions = false;
     std::pair<std::string, std::string> replacement; ///< what is sent instead of what; empty for none

@@ -58,17 +58,23 @@ Value numberValue(FieldType type, std::string_view text)
                                                     .arg(QString::fromStdString(plainFromRegister(text))));
 }
 
-/// Exact: prices of text fields get their plain number text, number fields the nearest number to it.
-Value scaledValue(FieldType type, std::string_view text, int scale)
+/// The nearest number to @p number for number fields; text fields, prices, get its plain text.
+Value exactValue(FieldType type, const Decimal& number)
 {
+    return holdsNumbers(type) ? Value::number(number.toDouble()) : Value::text(number.text());
+}
+
+Value scaledValue(FieldType type, std::string_view text, const Column& column)
+{
+    if (column.leading)
+        return exactValue(type, Decimal::leading(text).shifted(-column.scale));
     if (trimBlanks(text).empty())
         return {};
     const auto whole = plainNumber(text, longestCoefficient);
     const auto parsed = whole ? std::optional(Decimal(*whole, 0)) : Decimal::parse(text);
     if (!parsed)
         failNoNumber(text);
-    const Decimal number = parsed->shifted(-scale);
-    return holdsNumbers(type) ? Value::number(number.toDouble()) : Value::text(number.text());
+    return exactValue(type, parsed->shifted(-column.scale));
 }
 
 /// @p utf8 cut to @p characters.
@@ -200,7 +206,7 @@ void RecordReader::storeNumber(const Step& step, std::string_view text)
     if (column.firstCharacter)
         digits = digits.substr(0, 1);
     const auto type = step.target.type;
-    set(step.target, column.scale == 0 ? numberValue(type, digits) : scaledValue(type, digits, column.scale));
+    set(step.target, column.scale == 0 ? numberValue(type, digits) : scaledValue(type, digits, column));
 }
 
 std::size_t RecordReader::charactersRead(const Step& step) const

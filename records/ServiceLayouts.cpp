@@ -11,7 +11,7 @@ namespace norvane::records
 const RecordLayout& taxRateLayout()
 {
     static const RecordLayout layout{"ID", {
-        number(6, "taxrate").scaled(3),
+        number(6, "taxrate").scaled(3).byLeadingNumber(),
         options({threeWay("TAXTYPE")}).firstCharacterOnly(),
         spare(2),
         number(4, "first"),

@@ -135,6 +135,7 @@ TEST(FileLayoutsTest, ReadsWhatOnlyARegisterSends)
         {64, "0000,0000,40\r\n", "STARTTIME", "0000"},
         {29, "17500,04\r\n17500,60\r\n,x0\r\n", "TAXTYPE", "2|0|0"},
         {29, "017500,40\r\n", "highhold", "0"},
+        {29, "17500%,\r\n  ,\r\nfree,\r\n", "taxrate", "17.5|0|0"},
         {29, "1,2,3,4,5,6,7,0008,9\r\n", "repeatbreaktotal", "8"},
         {29, "1,2,3,4,5,6,7,0008,9\r\n", "first", "5"},
         {15, "60\r\n", "DECIMALPlace", "2"},
