@@ -5,7 +5,9 @@
 #include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"
 
+#include <algorithm>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace norvane::store::test
@@ -34,6 +36,19 @@ inline TableDefinition itemTable()
             {{{QStringLiteral("plunumber"), QStringLiteral("primarykey")}, QStringLiteral("NUMBER"), true},
              {{QStringLiteral("bygroup")}, QStringLiteral("GROUPNO"), false},
              {{QStringLiteral("bylink")}, QStringLiteral("#OfCondiments"), false}}};
+}
+
+/// Whether two tables have the same fields and indexes in the same order.
+inline bool same(const TableDefinition& left, const TableDefinition& right)
+{
+    const auto ofField = [](const FieldDefinition& it) {
+        return std::tie(it.name, it.type, it.size, it.defaultText, it.required);
+    };
+    const auto ofIndex = [](const IndexDefinition& it) {
+        return std::tie(it.names, it.field, it.unique);
+    };
+    return left.name == right.name && std::ranges::equal(left.fields, right.fields, {}, ofField, ofField) &&
+           std::ranges::equal(left.indexes, right.indexes, {}, ofIndex, ofIndex);
 }
 
 class StoreFolder
