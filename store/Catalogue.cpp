@@ -14,6 +14,7 @@
 //
 // A table whose record has no number of its own has a counter as its key, outside the record. Each index is
 // unique and stands over the key field; the sales tables have none, since each collection only appends.
+// What reports choose their rows by has the engine's own index (docs/decisions/).
 #include "store/Catalogue.h"
 
 #include "store/CatalogueRows.h"
@@ -62,6 +63,7 @@ TableDefinition tableFrom(const rows::TableRow& row)
         }
         table.indexes.append(index);
     }
+    table.searchedField = QLatin1String(row.searchedField);
     return table;
 }
 

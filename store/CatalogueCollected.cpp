@@ -76,13 +76,19 @@ constexpr Row memoryAllocation[] = {
     reported("HOTLIST"),
 };
 
+/// Each collection appends, so only reports look for rows: by the day.
+constexpr TableRow salesTable(const char* name, std::span<const Row> fields)
+{
+    return {name, fields, {}, nullptr, "SALESDATE"};
+}
+
 constexpr TableRow tables[] = {
-    {"TIMESALES", itemSales},
-    {"CLERKSALES", clerkSales},
-    {"PLUSALES", pluSales},
-    {"MIXSALES", itemSales},
-    {"GROUPSALES", itemSales},
-    {"FINANCIALSALES", itemSales},
+    salesTable("TIMESALES", itemSales),
+    salesTable("CLERKSALES", clerkSales),
+    salesTable("PLUSALES", pluSales),
+    salesTable("MIXSALES", itemSales),
+    salesTable("GROUPSALES", itemSales),
+    salesTable("FINANCIALSALES", itemSales),
     {"memoryallocation", memoryAllocation, {"primarykey"}, "ID"},
 };
 

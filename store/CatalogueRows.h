@@ -104,6 +104,7 @@ struct TableRow {
     std::span<const Row> fields;
     std::array<const char*, 2> indexNames{}; ///< of the one index; none for a table that is only appended to
     const char* indexField = nullptr;
+    const char* searchedField = nullptr; ///< see TableDefinition
 };
 
 [[nodiscard]] std::span<const TableRow> productTables();

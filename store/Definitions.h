@@ -37,6 +37,9 @@ struct TableDefinition {
     QString name;
     QVector<FieldDefinition> fields;
     QVector<IndexDefinition> indexes;
+    /// A field by which queries choose records of a table that grows without end: the file finds them
+    /// quickly, though no recordset can be set to it. Only for making a table, not told of one that is there.
+    QString searchedField = {};
 };
 
 } // namespace norvane::store

@@ -66,6 +66,13 @@ std::string indexDeclaration(const QString& table, int number, const IndexDefini
            quotedName(table) + " (" + quotedName(index.field) + ')';
 }
 
+/// The engine takes it for queries by itself; the definitions do not tell of it.
+std::string searchDeclaration(const TableDefinition& table)
+{
+    return "CREATE INDEX " + quotedName(table.name + QStringLiteral(" search")) + " ON " +
+           quotedName(table.name) + " (" + quotedName(table.searchedField) + ')';
+}
+
 std::vector<Value> defaultsOf(const TableDefinition& table)
 {
     std::vector<Value> values;
@@ -250,6 +257,8 @@ void Schema::addTable(const TableDefinition& table)
         run(indexDeclaration(table.name, i, table.indexes.at(i)), what);
         writeIndex(table.name, i, table.indexes.at(i));
     }
+    if (!table.searchedField.isEmpty())
+        run(searchDeclaration(table), what);
     savepoint.keep();
 }
 
