@@ -33,7 +33,10 @@ class SilentBoxes : public Boxes
 {
 public:
     void message(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/) override {}
-    bool ask(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/) override { return false; }
+    bool ask(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/, BoxAnswer /*preset*/) override
+    {
+        return false;
+    }
     QString input(const QString& /*prompt*/, const QString& /*title*/, const QString& /*initial*/) override
     {
         return {};

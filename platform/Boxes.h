@@ -8,6 +8,8 @@ namespace norvane
 {
 
 enum class BoxIcon { None, Information, Exclamation, Question, Critical };
+/// The answer of a question box that Enter gives.
+enum class BoxAnswer { Yes, No };
 
 /// The program's own title, which a box without a title of its own carries.
 inline const QString& applicationTitle()
@@ -27,7 +29,8 @@ public:
     /// Shows @p text with an OK button and waits for it. An empty @p title stands for applicationTitle().
     virtual void message(const QString& text, const QString& title = {}, BoxIcon icon = BoxIcon::None) = 0;
     /// Asks @p text with Yes and No; closing the box counts as No. @return true for Yes.
-    virtual bool ask(const QString& text, const QString& title, BoxIcon icon = BoxIcon::Question) = 0;
+    virtual bool ask(const QString& text, const QString& title, BoxIcon icon = BoxIcon::Question,
+                     BoxAnswer preset = BoxAnswer::Yes) = 0;
     /// Asks for a line of text. Cancel gives empty text, as an emptied box does.
     virtual QString input(const QString& prompt, const QString& title, const QString& initial = {}) = 0;
     /// The platform's warning sound.

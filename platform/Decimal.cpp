@@ -118,6 +118,29 @@ Decimal Decimal::rounded(int places) const
     return {quotient, places};
 }
 
+Decimal Decimal::dividedBy(const Decimal& divisor, int digits) const
+{
+    // A remainder below 10^18 times ten still fits 64 bits without sign.
+    const auto by = static_cast<std::uint64_t>(std::abs(divisor.m_coefficient));
+    const auto limit = static_cast<std::uint64_t>(powerOfTen(digits));
+    auto quotient = static_cast<std::uint64_t>(std::abs(m_coefficient));
+    auto rest = quotient % by;
+    quotient /= by;
+    int scale = m_scale - divisor.m_scale;
+    // One digit more than asked for, to round by.
+    for (; rest != 0 && quotient < limit; ++scale) {
+        quotient = quotient * 10 + rest * 10 / by;
+        rest = rest * 10 % by;
+    }
+    int surplus = 0;
+    while (quotient / static_cast<std::uint64_t>(powerOfTen(surplus)) >= limit)
+        ++surplus;
+    const bool negative = (m_coefficient < 0) != (divisor.m_coefficient < 0);
+    const auto exact = static_cast<std::int64_t>(quotient);
+    const Decimal rounded = Decimal(negative ? -exact : exact, surplus).rounded(0);
+    return Decimal(rounded.m_coefficient, scale - surplus).shifted(0);
+}
+
 std::int64_t Decimal::toWhole() const
 {
     return rounded(0).shifted(0).m_coefficient;

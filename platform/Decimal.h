@@ -33,6 +33,8 @@ public:
     [[nodiscard]] Decimal shifted(int places) const;
     /// Rounds to @p places behind the point, halves away from zero.
     [[nodiscard]] Decimal rounded(int places) const;
+    /// The quotient to @p digits significant digits (up to 17), halves away from zero. @p divisor is not 0.
+    [[nodiscard]] Decimal dividedBy(const Decimal& divisor, int digits) const;
     /// Rounded to the whole number, halves away from zero.
     [[nodiscard]] std::int64_t toWhole() const;
     /// Plain number text without trailing zeros: "12.34", "0.5", "-3".

@@ -8,8 +8,8 @@
 #include "ui/Appearance.h"
 #include "ui/WaitPointer.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -17,6 +17,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace norvane::shell
 {
@@ -111,6 +112,8 @@ QAction* FrmMain::buildEntry(const MenuEntry& entry)
 
 void FrmMain::open(const MenuEntry& entry)
 {
+    if (m_working)
+        return;
     switch (entry.opens) {
     case Opens::Screen:
     case Opens::ModelScreen:
@@ -192,8 +195,32 @@ void FrmMain::unload()
     close();
 }
 
+void FrmMain::beginWork()
+{
+    m_working = true;
+    m_focusBeforeWork = QApplication::focusWidget();
+    menuBar()->setEnabled(false);
+    m_area->setEnabled(false);
+}
+
+void FrmMain::endWork()
+{
+    m_working = false;
+    menuBar()->setEnabled(true);
+    m_area->setEnabled(true);
+    if (m_focusBeforeWork)
+        m_focusBeforeWork->setFocus();
+    if (std::exchange(m_closeAfterWork, false))
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
 void FrmMain::closeEvent(QCloseEvent* event)
 {
+    if (m_working) {
+        m_closeAfterWork = true;
+        event->ignore();
+        return;
+    }
     m_unloading = m_unloading || m_boxes.ask(QStringLiteral("Are You Sure?"), QStringLiteral("Exit Program"),
                                              BoxIcon::Question);
     event->setAccepted(m_unloading);

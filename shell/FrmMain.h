@@ -7,6 +7,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <QPointer>
 
 #include <functional>
 
@@ -45,6 +46,10 @@ public:
     /// Unloads the window and its child windows without asking.
     void unload();
 
+    /// Takes no further work until endWork(): see LongWork.
+    void beginWork();
+    void endWork();
+
 Q_SIGNALS:
     /// The window is gone for good; the program ends.
     void unloaded();
@@ -68,6 +73,9 @@ private:
     QMdiArea* m_area;
     MainStatusBar* StatusBar1;
     bool m_unloading = false;
+    bool m_working = false;
+    bool m_closeAfterWork = false;
+    QPointer<QWidget> m_focusBeforeWork;
 };
 
 } // namespace norvane::shell

@@ -113,14 +113,14 @@ constexpr auto entries = std::to_array<MenuEntry>({
     {"Programscans"_L1, "Pluprice"_L1, "PLU Price Levels"_L1, Form, "Frmreports"_L1, never},
 
     {""_L1, "Utils"_L1, "&Utilities"_L1, Menu},
-    {"Utils"_L1, "TransferEuro"_L1, "Transfer Current Price to &Euro"_L1, Form, "TransferEuro"_L1},
-    {"Utils"_L1, "TransferCurrent"_L1, "Transfer Euro Price to &Current"_L1, Form, "TransferCurrent"_L1},
+    {"Utils"_L1, "TransferEuro"_L1, "Transfer Current Price to &Euro"_L1, Form, "TransferEuro_Click"_L1},
+    {"Utils"_L1, "TransferCurrent"_L1, "Transfer Euro Price to &Current"_L1, Form, "TransferCurrent_Click"_L1},
     {"Utils"_L1, ""_L1, ""_L1, Separator},
-    {"Utils"_L1, "Transfer1to2"_L1, "Transfer 1st Price To 2nd Price (Euro)"_L1, Form, "Transfer1to2"_L1},
-    {"Utils"_L1, "Transfer2to1"_L1, "Transfer 2nd Price to 1st Price (Euro)"_L1, Form, "Transfer2to1"_L1},
+    {"Utils"_L1, "Transfer1to2"_L1, "Transfer 1st Price To 2nd Price (Euro)"_L1, Form, "Transfer1to2_Click"_L1},
+    {"Utils"_L1, "Transfer2to1"_L1, "Transfer 2nd Price to 1st Price (Euro)"_L1, Form, "Transfer2to1_Click"_L1},
     {"Utils"_L1, ""_L1, ""_L1, Separator},
-    {"Utils"_L1, "SalesReset"_L1, "Reset Sales"_L1, Form, "SalesReset"_L1},
-    {"Utils"_L1, "ResetPrice"_L1, "&Reset Prices"_L1, Form, "ResetPrice"_L1},
+    {"Utils"_L1, "SalesReset"_L1, "Reset Sales"_L1, Form, "SalesReset_Click"_L1},
+    {"Utils"_L1, "ResetPrice"_L1, "&Reset Prices"_L1, Form, "ResetPrice_Click"_L1},
 
     {""_L1, "KeyboardPrint"_L1, "&Keyboards"_L1, Menu},
     {"KeyboardPrint"_L1, "Velmarkeyboard"_L1, "Velmar Keyboard"_L1, Form, "Velmar"_L1},
@@ -128,8 +128,8 @@ constexpr auto entries = std::to_array<MenuEntry>({
     {"KeyboardPrint"_L1, "Quelmontkeyboard"_L1, "Quelmont Keyboard"_L1, Form, "Quelmont"_L1},
 
     {""_L1, "NVIMAGE"_L1, "N&V Image"_L1, Menu, {}, never},
-    {"NVIMAGE"_L1, "Convert350"_L1, "Convert Images for SRP350"_L1, Form, "Convert350"_L1, never},
-    {"NVIMAGE"_L1, "convert550"_L1, "Convert Images for SRP550"_L1, Form, "convert550"_L1, never},
+    {"NVIMAGE"_L1, "Convert350"_L1, "Convert Images for SRP350"_L1, Form, "Convert350_Click"_L1, never},
+    {"NVIMAGE"_L1, "convert550"_L1, "Convert Images for SRP550"_L1, Form, "convert550_Click"_L1, never},
 
     {""_L1, "Setup"_L1, "&Setup"_L1, Menu},
     {"Setup"_L1, "DataSetup"_L1, "&Setup"_L1, Form, "FrmSetup"_L1},

@@ -22,9 +22,6 @@ constexpr auto entries = std::to_array<QLatin1StringView>({
     "ClerkDate"_L1, "clerkweek"_L1, "Clerkmonth"_L1, "Clerkyear"_L1,
     "TimeByDate"_L1, "TimeWeek"_L1, "TimeMonth"_L1, "TimeYear"_L1,
     "MixDate"_L1, "MixWeek"_L1, "MixMonth"_L1, "Mixyear"_L1,
-    // Price utilities and resets.
-    "TransferEuro"_L1, "TransferCurrent"_L1, "Transfer1to2"_L1, "Transfer2to1"_L1, "SalesReset"_L1,
-    "ResetPrice"_L1,
     // Keyboard overlays.
     "Velmarkeyboard"_L1, "DorvikKeyboard"_L1, "Quelmontkeyboard"_L1,
 });

@@ -4,6 +4,7 @@
 #include "exchange/FrmComm.h"
 #include "screens/OptionForm.h"
 #include "shell/FrameOpeners.h"
+#include "shell/UtilityOpeners.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,6 +42,7 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
     openers.insert(u"FrmComm"_s, [&values, &boxes](FrmMain& main, const MenuEntry& entry) {
         openExchange(main, entry, values, boxes);
     });
+    openers.insert(makeUtilityOpeners(values, boxes));
     return openers;
 }
 

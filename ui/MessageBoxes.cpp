@@ -49,17 +49,17 @@ QString shownText(QString text)
 }
 
 QMessageBox::StandardButton show(const QString& text, const QString& title, BoxIcon icon,
-                                 QMessageBox::StandardButtons buttons)
+                                 QMessageBox::StandardButtons buttons,
+                                 QMessageBox::StandardButton preset = QMessageBox::Ok)
 {
     const ArrowPointer arrow;
     QMessageBox box(boxIcon(icon), title.isEmpty() ? applicationTitle() : title, shownText(text), buttons,
                     QApplication::activeWindow());
     box.setObjectName(QStringLiteral("MessageBox"));
     box.setTextFormat(Qt::PlainText);
-    if (buttons.testFlag(QMessageBox::No)) {
-        box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(preset);
+    if (buttons.testFlag(QMessageBox::No))
         box.setEscapeButton(QMessageBox::No);
-    }
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -70,9 +70,10 @@ void MessageBoxes::message(const QString& text, const QString& title, BoxIcon ic
     show(text, title, icon, QMessageBox::Ok);
 }
 
-bool MessageBoxes::ask(const QString& text, const QString& title, BoxIcon icon)
+bool MessageBoxes::ask(const QString& text, const QString& title, BoxIcon icon, BoxAnswer preset)
 {
-    return show(text, title, icon, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    const auto presetButton = preset == BoxAnswer::Yes ? QMessageBox::Yes : QMessageBox::No;
+    return show(text, title, icon, QMessageBox::Yes | QMessageBox::No, presetButton) == QMessageBox::Yes;
 }
 
 QString MessageBoxes::input(const QString& prompt, const QString& title, const QString& initial)

@@ -12,7 +12,7 @@ class MessageBoxes : public Boxes
 {
 public:
     void message(const QString& text, const QString& title, BoxIcon icon) override;
-    bool ask(const QString& text, const QString& title, BoxIcon icon) override;
+    bool ask(const QString& text, const QString& title, BoxIcon icon, BoxAnswer preset) override;
     QString input(const QString& prompt, const QString& title, const QString& initial) override;
     void beep() override;
 };

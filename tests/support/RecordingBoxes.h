@@ -14,6 +14,7 @@ struct ShownBox {
     QString text;
     QString title;
     BoxIcon icon = BoxIcon::None;
+    BoxAnswer preset = BoxAnswer::Yes; ///< of a question
     bool operator==(const ShownBox&) const = default;
 };
 
@@ -33,9 +34,9 @@ public:
     {
         record({text, title.isEmpty() ? applicationTitle() : title, icon});
     }
-    bool ask(const QString& text, const QString& title, BoxIcon icon) override
+    bool ask(const QString& text, const QString& title, BoxIcon icon, BoxAnswer preset) override
     {
-        record({text, title, icon});
+        record({text, title, icon, preset});
         return takeFront(answers);
     }
     QString input(const QString& prompt, const QString& title, const QString& /*initial*/) override

@@ -1,0 +1,36 @@
+// The turns of the event loop; see LongWork.h.
+#include "shell/LongWork.h"
+
+#include "shell/FrmMain.h"
+
+#include <QCoreApplication>
+
+namespace norvane::shell
+{
+namespace
+{
+
+/// Too short for a user to notice, long enough for a thousand records.
+constexpr std::chrono::milliseconds betweenTurns{15};
+
+} // namespace
+
+LongWork::LongWork(FrmMain& main) : m_main(main)
+{
+    m_main.beginWork();
+}
+
+LongWork::~LongWork()
+{
+    m_main.endWork();
+}
+
+void LongWork::letEventsRun()
+{
+    if (std::chrono::steady_clock::now() < m_nextTurn)
+        return;
+    QCoreApplication::processEvents();
+    m_nextTurn = std::chrono::steady_clock::now() + betweenTurns;
+}
+
+} // namespace norvane::shell

@@ -1,0 +1,12 @@
+// The handlers of the menus Utilities and N&V Image.
+#pragma once
+
+#include "shell/FrmMain.h"
+
+namespace norvane::shell
+{
+
+/// By handler name ("TransferEuro_Click"). The references are kept and must outlive the main window.
+[[nodiscard]] FrmMain::Openers makeUtilityOpeners(const ApplicationValues& values, Boxes& boxes);
+
+} // namespace norvane::shell

@@ -1,0 +1,36 @@
+// The steps of the rounding, in whole thousandths; see PriceConversion.h.
+#include "utilities/PriceConversion.h"
+
+#include "platform/Numbers.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace norvane::utilities
+{
+namespace
+{
+
+/// What a quotient is good for before it is rounded at a place.
+constexpr int significantDigits = 15;
+
+} // namespace
+
+std::optional<Decimal> exchangeRate(const QString& answer)
+{
+    const double rate = leadingNumber(answer);
+    return rate == 0 ? std::nullopt : std::optional(Decimal::fromDouble(rate));
+}
+
+std::string convertedPrice(std::string_view price, const Decimal& rate)
+{
+    const Decimal quotient = Decimal::leading(price).dividedBy(rate, significantDigits);
+    const std::int64_t cut = quotient.rounded(4).shifted(4).coefficient() / 10;
+    const std::int64_t lastDigit = std::abs(cut) % 10;
+    // A small last digit is taken off the signed number, so a negative price moves away from zero: -1.234
+    // becomes -1.238 and is -1.24.
+    const Decimal result = Decimal(lastDigit >= 5 ? cut : cut - lastDigit, 3).rounded(2);
+    return result.coefficient() < 0 ? result.text() : ' ' + result.text();
+}
+
+} // namespace norvane::utilities

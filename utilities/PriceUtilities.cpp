@@ -1,0 +1,111 @@
+// Table and engine of the Utilities menu; see PriceUtilities.h.
+#include "utilities/PriceUtilities.h"
+
+#include "utilities/PriceConversion.h"
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::utilities
+{
+namespace
+{
+
+using Statements = std::span<const QLatin1StringView>;
+
+// clang-format off
+constexpr auto currentToEuro = std::to_array<PricePair>({
+    {"price1"_L1, "EuroPrice1"_L1},
+    {"price2"_L1, "europrice2"_L1},
+    {"price3"_L1, "europrice3"_L1},
+    {"price4"_L1, "europrice4"_L1},
+    {"price5"_L1, "europrice5"_L1},
+});
+constexpr auto euroToCurrent = std::to_array<PricePair>({
+    {"EuroPrice1"_L1, "price1"_L1},
+    {"europrice2"_L1, "price2"_L1},
+    {"europrice3"_L1, "price3"_L1},
+    {"europrice4"_L1, "price4"_L1},
+    {"europrice5"_L1, "price5"_L1},
+});
+// A register has no euro fields; its second price can serve as one.
+constexpr auto firstToSecond = std::to_array<PricePair>({{"price1"_L1, "Price2"_L1}});
+constexpr auto secondToFirst = std::to_array<PricePair>({{"Price2"_L1, "price1"_L1}});
+
+constexpr auto resetPrices = std::to_array<QLatin1StringView>({
+    "update pludata set price1='0.00', price2='0.00', price3='0.00', price4='0.00', price5='0.00',"
+    "europrice1='0.00', europrice2='0.00', europrice3='0.00', europrice4='0.00', europrice5='0.00'"_L1,
+});
+constexpr auto resetSales = std::to_array<QLatin1StringView>({
+    "delete * from clerksales"_L1,
+    "delete * from groupsales"_L1,
+    "delete * from financialsales"_L1,
+    "delete * from mixsales"_L1,
+    "delete * from plusales"_L1,
+    "delete * from timesales"_L1,
+});
+// The smart cards' categories go with the sales of the cards; the next upload brings them back.
+constexpr auto resetCards = std::to_array<QLatin1StringView>({"delete * from CARDCATEGORY"_L1});
+
+constexpr BoxWords toEuro{"Update Euro prices"_L1, "Continue?"_L1};
+constexpr BoxWords fromEuro{"Update Prices with Euro Prices"_L1, "Do you wish to overwrite your current prices?"_L1};
+constexpr BoxWords converted{"Euro Conversion"_L1, "Conversion complete..."_L1};
+
+constexpr auto utilities = std::to_array<PriceUtility>({
+    {"TransferEuro_Click"_L1,    toEuro,   true,  currentToEuro, {}, converted},
+    {"TransferCurrent_Click"_L1, fromEuro, false, euroToCurrent, {}, converted},
+    {"Transfer1to2_Click"_L1,    toEuro,   true,  firstToSecond, {}, converted},
+    {"Transfer2to1_Click"_L1,    fromEuro, false, secondToFirst, {}, converted},
+    {"ResetPrice_Click"_L1, {"Reset Prices?"_L1, "Do you wish to reset prices?"_L1}, false, {},
+     resetPrices, {"Price Reset"_L1, "Price Reset Complete!"_L1}},
+    {"SalesReset_Click"_L1, {"Reset Sales Data?"_L1, "Do you wish to reset ALL Sales data?"_L1}, false, {},
+     resetSales, {"Sales Reset"_L1, "Sales Reset Complete!"_L1}, resetCards},
+});
+// clang-format on
+
+void execute(Statements statements, const QString& databasePath)
+{
+    if (statements.empty())
+        return;
+    store::Database database(databasePath);
+    for (const QLatin1StringView statement : statements)
+        database.execute(statement);
+}
+
+/// @return false when the user gave no rate.
+bool walk(const PriceUtility& utility, const QString& databasePath, Boxes& boxes, const WalkFrame& frame)
+{
+    store::Database database(databasePath);
+    auto plus = database.openTable(u"pludata"_s);
+    std::optional<Decimal> rate;
+    if (utility.asksRate) {
+        rate = exchangeRate(boxes.input(u"Please enter the current Euro Exchange"_s, u"Euro Rate"_s));
+        if (!rate)
+            return false;
+    }
+    frame.begins();
+    transferPrices(database, plus, utility.fields, rate, frame.everyRow);
+    return true;
+}
+
+} // namespace
+
+std::span<const PriceUtility> priceUtilities()
+{
+    return utilities;
+}
+
+void runPriceUtility(const PriceUtility& utility, const QString& databasePath, Boxes& boxes,
+                     const WalkFrame& frame)
+{
+    if (!boxes.ask(utility.confirm.text, utility.confirm.title, BoxIcon::Question, BoxAnswer::No))
+        return;
+    if (!utility.fields.empty() && !walk(utility, databasePath, boxes, frame))
+        return;
+    execute(utility.statements, databasePath);
+    boxes.message(utility.done.text, utility.done.title);
+    execute(utility.afterwards, databasePath);
+}
+
+} // namespace norvane::utilities

@@ -1,0 +1,53 @@
+// Reading, converting and storing, record by record; see PriceWalk.h.
+#include "utilities/PriceWalk.h"
+
+#include "utilities/PriceConversion.h"
+
+#include <vector>
+
+namespace norvane::utilities
+{
+namespace
+{
+
+/// A pair of fields by their places in the record.
+struct PairOfPlaces {
+    int source;
+    int target;
+};
+
+std::vector<PairOfPlaces> placesOf(const store::Recordset& plus, std::span<const PricePair> fields)
+{
+    std::vector<PairOfPlaces> places;
+    for (const PricePair& pair : fields)
+        places.push_back({plus.fieldOrdinal(pair.source), plus.fieldOrdinal(pair.target)});
+    return places;
+}
+
+store::Value targetValue(const store::Value& source, const std::optional<Decimal>& rate)
+{
+    if (!rate)
+        return source;
+    return store::Value::text(source.isText() ? convertedPrice(source.textView(), *rate)
+                                              : convertedPrice(source.toUtf8(), *rate));
+}
+
+} // namespace
+
+void transferPrices(store::Database& database, store::Recordset& plus, std::span<const PricePair> fields,
+                    const std::optional<Decimal>& rate, const std::function<void()>& everyRow)
+{
+    const auto places = placesOf(plus, fields);
+    store::Transaction transaction(database);
+    plus.setIndex(QStringLiteral("plunumber"));
+    for (plus.moveFirst(); !plus.atEnd(); plus.moveNext()) {
+        everyRow();
+        plus.edit();
+        for (const auto& [source, target] : places)
+            plus.setValue(target, targetValue(plus.value(source), rate));
+        plus.update();
+    }
+    transaction.commit();
+}
+
+} // namespace norvane::utilities
