@@ -43,18 +43,9 @@ QString exportLine(const RegisterFile& file, const ApplicationValues& values)
         .arg(model, QString::number(file.number), QLatin1String(operation));
 }
 
-/// Characters of a message line: the wide printers of the models 0, 1 and 2 have more.
-std::size_t messageWidth(const ApplicationValues& values)
-{
-    constexpr std::size_t wide = 40;
-    constexpr std::size_t narrow = 32;
-    const double model = ecrModel(values);
-    return model == 0 || model == 1 || model == 2 ? wide : narrow;
-}
-
 RegisterTraits traitsOf(const ProcedureContext& context)
 {
-    return {[&context] { return messageWidth(context.values); },
+    return {[&context] { return static_cast<std::size_t>(messageWidth(context.values)); },
             [&context] {
                 return GetFirmwareGeneration(context.values, context.boxes);
             }};

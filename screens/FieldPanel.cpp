@@ -84,6 +84,13 @@ bool isBound(const ControlDefinition& definition)
     return !definition.dataField.trimmed().isEmpty();
 }
 
+/// Whether a user comes to the screen for this control: it is in view and takes an entry.
+bool isEditable(const ControlDefinition& definition, const QWidget& widget)
+{
+    return definition.kind != ControlKind::Label && definition.kind != ControlKind::Find &&
+           !definition.readOnly.value_or(false) && widget.isEnabled() && !widget.isHidden();
+}
+
 } // namespace
 
 FieldPanel::FieldPanel(std::shared_ptr<store::Database> database, QWidget* parent)
@@ -180,8 +187,11 @@ QWidget* FieldPanel::makeText(const ControlDefinition& definition)
     if (definition.readOnly.value_or(false))
         makeReadOnly(*box);
     box->setJustify(definition.justify);
-    if (definition.characters.compare(QLatin1String("NUMERIC"), Qt::CaseInsensitive) == 0)
-        box->setDigitsOnly();
+    if (definition.characters.compare(QLatin1String("NUMERIC"), Qt::CaseInsensitive) == 0) {
+        box->setCharacters(ui::TextBox::Characters::Digits);
+    } else if (definition.isHexadecimal) {
+        box->setCharacters(ui::TextBox::Characters::Hexadecimal);
+    }
     return box;
 }
 
@@ -268,6 +278,19 @@ void FieldPanel::chain()
     }
     for (qsizetype place = 1; place < m_tabOrder.size(); ++place)
         setTabOrder(m_tabOrder[place - 1], m_tabOrder[place]);
+    const auto first = std::find_if(ordered.cbegin(), ordered.cend(), [](const Control& control) {
+        return isEditable(control.definition, *control.widget);
+    });
+    m_firstEditable = first == ordered.cend() ? nullptr : first->widget;
+}
+
+void FieldPanel::focusFirst()
+{
+    if (m_firstEditable != nullptr) {
+        m_firstEditable->setFocus();
+    } else if (!m_tabOrder.isEmpty()) {
+        m_tabOrder.constFirst()->setFocus();
+    }
 }
 
 BoundFields FieldPanel::contents() const

@@ -48,6 +48,9 @@ public:
     void showContents(const BoundFields& fields);
     /// Controls in tab order.
     [[nodiscard]] const QVector<QWidget*>& tabOrder() const { return m_tabOrder; }
+    /// Puts the focus where a user begins: into the first control in tab order that takes an entry. The
+    /// number of the record, which comes before it on most screens, cannot be changed there.
+    void focusFirst();
 
 Q_SIGNALS:
     void findPressed(int element);
@@ -78,6 +81,7 @@ private:
     GridControl* m_grid = nullptr;      ///< the one grid; each grid section is about it
     double m_bottom = 0;                ///< twips
     QVector<QWidget*> m_tabOrder;
+    QWidget* m_firstEditable = nullptr;
 };
 
 } // namespace norvane::screens

@@ -2,9 +2,10 @@
 #include "screens/GridControl.h"
 
 #include "screens/GridModel.h"
+#include "ui/TextBox.h"
 
 #include <QHeaderView>
-#include <QLineEdit>
+#include <QStyledItemDelegate>
 
 namespace norvane::screens
 {
@@ -13,10 +14,26 @@ namespace
 
 constexpr int heightOfRow = 24;
 
+/// Cells are edited in the box that the fields of a screen have, which takes what registers know.
+class CellDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                          const QModelIndex& /*index*/) const override
+    {
+        auto* const box = new ui::TextBox(parent);
+        box->setFrame(false);
+        return box;
+    }
+};
+
 } // namespace
 
 GridControl::GridControl(QWidget* parent) : QTableView(parent)
 {
+    setItemDelegate(new CellDelegate(this));
     setAlternatingRowColors(true);
     setTabKeyNavigation(false);
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked | SelectedClicked);

@@ -7,6 +7,7 @@
 #include "screens/FrmSearch.h"
 #include "screens/GridControl.h"
 #include "screens/RecordEditor.h"
+#include "screens/RegisterTexts.h"
 #include "ui/Appearance.h"
 #include "ui/NumberBox.h"
 #include "ui/WaitPointer.h"
@@ -83,8 +84,7 @@ OptionForm::OptionForm(ApplicationValues& values, Boxes& boxes, ReportRunner* re
     buildControls();
     buildButtons();
     ShowFields();
-    if (!CSPict1->tabOrder().isEmpty())
-        CSPict1->tabOrder().constFirst()->setFocus();
+    CSPict1->focusFirst();
 }
 
 OptionForm::~OptionForm() = default;
@@ -116,8 +116,10 @@ void OptionForm::buildWindow()
 void OptionForm::buildControls()
 {
     CSPict1 = new FieldPanel(m_database, this);
-    for (const ControlDefinition& definition : m_file.controls()) {
+    const QString table = m_file.table().table;
+    for (ControlDefinition& definition : m_file.controls()) {
         try {
+            fitToRegister(definition, table, m_values);
             CSPict1->addControl(definition);
         } catch (const RuntimeFailure& failure) {
             throw RuntimeFailure(failure.failure(),
@@ -201,6 +203,7 @@ void OptionForm::addRecord()
     BoundFields fields = CSPict1->contents();
     m_editor->add(fields);
     CSPict1->showContents(fields);
+    CSPict1->focusFirst();
 }
 
 void OptionForm::saveRecord()

@@ -57,12 +57,13 @@ struct ControlDefinition {
     std::optional<Decimal> maximum; ///< largest number of a number box, most characters of a text box
     QString description;
     QString dataField;
-    QString justify;      ///< "0" left, "1" right, "2" centre
-    QString characters;   ///< "NUMERIC" in any case for digits only
-    QString sqlCriteria;  ///< query behind a combo or grid
-    QString list;         ///< rows of a combo without query: "0;Off,1;On"
-    QString columnWidths; ///< of a combo's list, in twips, separated by ";"; 0 hides a column
-    QString valueColumn;  ///< column of a combo's list that is the value, from 0
+    QString justify;            ///< "0" left, "1" right, "2" centre
+    QString characters;         ///< "NUMERIC" in any case for digits only
+    bool isHexadecimal = false; ///< no word of the file, see RegisterTexts.h
+    QString sqlCriteria;        ///< query behind a combo or grid
+    QString list;               ///< rows of a combo without query: "0;Off,1;On"
+    QString columnWidths;       ///< of a combo's list, in twips, separated by ";"; 0 hides a column
+    QString valueColumn;        ///< column of a combo's list that is the value, from 0
     QVector<GridColumn> gridColumns;
 };
 

@@ -23,4 +23,12 @@ double ecrModel(const ApplicationValues& values)
     return toNumber(readSetting(values, QStringLiteral("ECRModel"), QStringLiteral("0")));
 }
 
+int messageWidth(const ApplicationValues& values)
+{
+    constexpr int wide = 40;
+    constexpr int narrow = 32;
+    const double model = ecrModel(values);
+    return model == 0 || model == 1 || model == 2 ? wide : narrow;
+}
+
 } // namespace norvane

@@ -19,4 +19,8 @@ namespace norvane
 /// @throws RuntimeFailure 13 when the value is empty or no number.
 [[nodiscard]] double ecrModel(const ApplicationValues& values);
 
+/// Characters of a message line: the printers of the models 0, 1 and 2 are wider than those of all others.
+/// @throws 13 as ecrModel() does.
+[[nodiscard]] int messageWidth(const ApplicationValues& values);
+
 } // namespace norvane

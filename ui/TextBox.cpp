@@ -1,8 +1,12 @@
 // Limits and typing in the text box; see TextBox.h.
 #include "ui/TextBox.h"
 
+#include "platform/Windows1252.h"
+
 #include <QKeyEvent>
-#include <QRegularExpressionValidator>
+#include <QValidator>
+
+#include <algorithm>
 
 namespace norvane::ui
 {
@@ -18,7 +22,54 @@ bool typesCharacter(const QKeyEvent& event)
            !event.modifiers().testFlag(Qt::ControlModifier);
 }
 
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+bool isHexadecimal(QChar character)
+{
+    const QChar small = character.toLower();
+    return isDigit(character) || (small >= u'a' && small <= u'f');
+}
+
+bool isOnRegister(QChar character)
+{
+    return fitsWindows1252(QStringView(&character, 1));
+}
+
 } // namespace
+
+/// Lets no character in that must not be typed. Those that a stored text brought may stay: a box that refused
+/// them could not even be mended.
+class TextBox::Validator : public QValidator
+{
+public:
+    explicit Validator(TextBox& box) : QValidator(&box), m_box(box) {}
+
+    State validate(QString& input, int& /*cursor*/) const override
+    {
+        return m_box.refusedIn(input) <= m_box.m_refusedHeld ? Acceptable : Invalid;
+    }
+
+private:
+    const TextBox& m_box;
+};
+
+TextBox::TextBox(QWidget* parent) : QLineEdit(parent)
+{
+    setValidator(new Validator(*this));
+    connect(this, &QLineEdit::textChanged, this,
+            [this](const QString& text) { m_refusedHeld = refusedIn(text); });
+}
+
+qsizetype TextBox::refusedIn(QStringView text) const
+{
+    const auto mayBeTyped = m_characters == Characters::Digits        ? isDigit
+                            : m_characters == Characters::Hexadecimal ? isHexadecimal
+                                                                      : isOnRegister;
+    return text.size() - std::count_if(text.begin(), text.end(), mayBeTyped);
+}
 
 void TextBox::setLimit(int characters)
 {
@@ -26,10 +77,10 @@ void TextBox::setLimit(int characters)
     showText(text());
 }
 
-void TextBox::setDigitsOnly()
+void TextBox::setCharacters(Characters characters)
 {
-    static const QRegularExpression digits(QStringLiteral("[0-9]*"));
-    setValidator(new QRegularExpressionValidator(digits, this));
+    m_characters = characters;
+    m_refusedHeld = refusedIn(text());
 }
 
 void TextBox::setJustify(const QString& code)
@@ -56,8 +107,8 @@ void TextBox::keyPressEvent(QKeyEvent* event)
 {
     const bool isFull = text().size() >= maxLength() && !hasSelectedText();
     const int cursor = cursorPosition();
-    if (isFull && typesCharacter(*event) && !isReadOnly() && cursor < text().size() &&
-        text().endsWith(u' ')) {
+    if (isFull && typesCharacter(*event) && refusedIn(event->text()) == 0 && !isReadOnly() &&
+        cursor < text().size() && text().endsWith(u' ')) {
         setText(text().chopped(1));
         setCursorPosition(cursor);
     }

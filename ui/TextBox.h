@@ -6,19 +6,28 @@
 namespace norvane::ui
 {
 
-/// A line of at most so many characters, digits only where told. Fields of registers are often padded with
-/// blanks to their full width; typing into such a text pushes its trailing blanks out, so that a full box
-/// can be edited like any other. QLineEdit::textEdited tells typing from setting by program.
+/// A line of at most so many characters of a kind. What a register cannot hold is refused when it is typed
+/// or pasted, since a download would send "?" for it. Fields of registers are often padded with blanks to
+/// their full width; typing into such a text pushes its trailing blanks out, so that a full box can be edited
+/// like any other. QLineEdit::textEdited tells typing from setting by program.
 class TextBox : public QLineEdit
 {
     Q_OBJECT
 
 public:
-    using QLineEdit::QLineEdit;
+    enum class Characters {
+        Register, ///< all of the registers' character set, Windows-1252
+        Digits,
+        Hexadecimal, ///< hexadecimal digits in either case
+    };
+
+    explicit TextBox(QWidget* parent = nullptr);
 
     /// Most characters that can be typed; 0 for no limit.
     void setLimit(int characters);
-    void setDigitsOnly();
+    /// What can be typed; Characters::Register at first. Other characters of a stored text stay until they
+    /// are deleted.
+    void setCharacters(Characters characters);
     /// Code of the side the text stands at: "0" left, "1" right, "2" centre; any other changes nothing.
     void setJustify(const QString& code);
     /// Shows a stored text, whole even when it is longer than the limit: saving must not cut it.
@@ -28,6 +37,11 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    [[nodiscard]] qsizetype refusedIn(QStringView text) const;
+
+    class Validator;
+    Characters m_characters = Characters::Register;
+    qsizetype m_refusedHeld = 0; ///< characters of the text shown that could not be typed
     int m_limit = 0;
 };
 

@@ -74,11 +74,13 @@ TEST_F(OptionFormBuildTest, ButtonsAreThoseOfTheFile)
 
 TEST_F(OptionFormBuildTest, TabFollowsTheFilesOrderAndEndsInTheButtons)
 {
-    const Form form =
-        open(m_groups + "[visiblekeys]\nShownextrecord=YES\n"
-                        "[Field1]\nControlType=TextControl\nVisible=True\nTabindex=2\n"
-                        "[Field2]\nControlType=CheckControl\nVisible=True\n"
-                        "[Field3]\nControlType=IntegerNumberControl\nVisible=True\nTabindex=1\n");
+    const Form form = open(
+        m_groups + "[visiblekeys]\nShownextrecord=YES\n"
+                   "[Field1]\nControlType=TextControl\nVisible=True\nTabindex=2\n"
+                   "[Field2]\nControlType=CheckControl\nVisible=True\n"
+                   "[Field3]\nControlType=IntegerNumberControl\nVisible=True\nTabindex=1\nReadOnly=True\n");
+    EXPECT_EQ(QApplication::focusWidget(), control(form, "TextControl_1")) << "the first that takes an entry";
+    control(form, "IntegerNumberControl_1")->setFocus();
     QStringList visited;
     for (int stop = 0; stop < 6; ++stop) {
         visited += QApplication::focusWidget()->objectName();

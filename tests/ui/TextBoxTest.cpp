@@ -1,7 +1,9 @@
-// The text box: limits, digits, padded texts.
+// The text box: limits, characters, padded texts.
 #include "ui/TextBox.h"
 
 #include <gtest/gtest.h>
+#include <QApplication>
+#include <QClipboard>
 #include <QTest>
 
 namespace norvane::ui
@@ -38,12 +40,40 @@ TEST(TextBoxTest, TypingIntoAPaddedTextPushesTheBlanksOut)
     EXPECT_EQ(box.text(), QStringLiteral("App123le")) << "no letter is lost";
 }
 
-TEST(TextBoxTest, DigitsOnly)
+TEST(TextBoxTest, RefusesWhatTheFieldCannotHold)
+{
+    const struct {
+        TextBox::Characters characters;
+        const char* typed;
+        const char* kept;
+    } cases[] = {{TextBox::Characters::Register, "Caf\u00e9 5\u20ac \u2605\u0142\u2713\u201cok\u201d",
+                  "Caf\u00e9 5\u20ac \u201cok\u201d"},
+                 {TextBox::Characters::Digits, "1a-2 3\u0663", "123"},
+                 {TextBox::Characters::Hexadecimal, "0Ag f9.-x", "0Af9"}};
+    for (const auto& [characters, typed, kept] : cases) {
+        TextBox box;
+        box.setCharacters(characters);
+        QTest::keyClicks(&box, QString::fromUtf8(typed));
+        EXPECT_EQ(box.text(), QString::fromUtf8(kept)) << typed;
+        QApplication::clipboard()->setText(QString::fromUtf8(typed));
+        box.paste();
+        EXPECT_EQ(box.text(), QString::fromUtf8(kept)) << "pasted " << typed;
+    }
+}
+
+TEST(TextBoxTest, AStoredTextThatCouldNotBeTypedCanBeMended)
 {
     TextBox box;
-    box.setDigitsOnly();
-    QTest::keyClicks(&box, QStringLiteral("1a-2 3"));
-    EXPECT_EQ(box.text(), QStringLiteral("123"));
+    box.setLimit(4);
+    box.setCharacters(TextBox::Characters::Hexadecimal);
+    box.showText(QStringLiteral("0G  "));
+    QTest::keyClick(&box, Qt::Key_End);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    QTest::keyClick(&box, Qt::Key_Home);
+    QTest::keyClicks(&box, QStringLiteral("xA"));
+    EXPECT_EQ(box.text(), QStringLiteral("A0G "));
+    QTest::keyClicks(&box, QStringLiteral("z"));
+    EXPECT_EQ(box.text(), QStringLiteral("A0G ")) << "no blank is pushed out for what is refused";
 }
 
 } // namespace

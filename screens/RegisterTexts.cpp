@@ -1,0 +1,63 @@
+// Table of the texts with rules of their own; see RegisterTexts.h.
+#include "screens/RegisterTexts.h"
+
+#include "shell/CustomerSettings.h"
+
+#include <algorithm>
+
+namespace norvane::screens
+{
+namespace
+{
+
+enum class TextRule {
+    /// The word "Characters" of a screen file knows digits only and must go on ignoring any other.
+    Hexadecimal,
+    /// One screen file serves all models, whose printers differ in width.
+    MessageLine,
+};
+
+struct RuledField {
+    QLatin1String table;
+    QLatin1String field; ///< how its name begins
+    TextRule rule;
+};
+
+constexpr RuledField ruledFields[] = {
+    {QLatin1String("EMPLOYEE"), QLatin1String("dallaskey"), TextRule::Hexadecimal},
+    {QLatin1String("LOGOMESSAGE"), QLatin1String("PREAMBLE"), TextRule::MessageLine},
+    {QLatin1String("LOGOMESSAGE"), QLatin1String("POSTAMBLE"), TextRule::MessageLine},
+    {QLatin1String("GUESTCHECKMESSAGE"), QLatin1String("PREAMBLE"), TextRule::MessageLine},
+    {QLatin1String("GUESTCHECKMESSAGE"), QLatin1String("POSTAMBLE"), TextRule::MessageLine},
+    {QLatin1String("VALIDATIONMESSAGE"), QLatin1String("LINE"), TextRule::MessageLine},
+    {QLatin1String("CHECKENDORSEMESSAGE"), QLatin1String("LINE"), TextRule::MessageLine},
+};
+
+void narrowTo(ControlDefinition& control, int characters)
+{
+    const Decimal width(characters, 0);
+    if (!control.maximum || control.maximum->toDouble() > characters)
+        control.maximum = width;
+}
+
+} // namespace
+
+void fitToRegister(ControlDefinition& control, const QString& table, const ApplicationValues& values)
+{
+    if (control.kind != ControlKind::Text)
+        return;
+    const auto isAbout = [&](const RuledField& row) {
+        return table.compare(row.table, Qt::CaseInsensitive) == 0 &&
+               control.dataField.trimmed().startsWith(row.field, Qt::CaseInsensitive);
+    };
+    const auto* const row = std::find_if(std::begin(ruledFields), std::end(ruledFields), isAbout);
+    if (row == std::end(ruledFields))
+        return;
+    if (row->rule == TextRule::Hexadecimal) {
+        control.isHexadecimal = true;
+    } else {
+        narrowTo(control, messageWidth(values));
+    }
+}
+
+} // namespace norvane::screens

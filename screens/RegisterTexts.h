@@ -1,0 +1,16 @@
+// What registers ask of a text beyond what a screen file can say.
+#pragma once
+
+#include "screens/ScreenDefinition.h"
+#include "shell/ApplicationValues.h"
+
+namespace norvane::screens
+{
+
+/// Narrows what can be typed into @p control, whose field is one of @p table, to what the customer's
+/// registers take: hexadecimal digits in a key, a message line as wide as the model's printer. Controls of
+/// other fields stay as the file describes them.
+/// @throws RuntimeFailure 13 when the width depends on a model that the settings do not give.
+void fitToRegister(ControlDefinition& control, const QString& table, const ApplicationValues& values);
+
+} // namespace norvane::screens
