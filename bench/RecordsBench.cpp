@@ -1,16 +1,15 @@
 // What an import and an export of the PLU file cost beside the least that could do the work: a loop that
 // splits, converts and binds into one prepared insert, and one that selects and writes.
-#include "bench/Ratio.h"
-#include "platform/Boxes.h"
+#include "bench/BareDatabase.h"
 #include "records/FileProcedures.h"
 #include "store/Catalogue.h"
 #include "store/Database.h"
+#include "tests/support/RecordingBoxes.h"
 
 #include <benchmark/benchmark.h>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <sqlite3.h>
 
 #include <array>
 #include <charconv>
@@ -23,26 +22,14 @@ namespace
 {
 
 using namespace norvane;
+using bench::BareDatabase;
+using bench::bindText;
+using bench::columnText;
 using bench::compare;
 using bench::require;
 
 constexpr int pluFile = 67;
 constexpr std::size_t columnCount = 22;
-
-class SilentBoxes : public Boxes
-{
-public:
-    void message(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/) override {}
-    bool ask(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/, BoxAnswer /*preset*/) override
-    {
-        return false;
-    }
-    QString input(const QString& /*prompt*/, const QString& /*title*/, const QString& /*initial*/) override
-    {
-        return {};
-    }
-    void beep() override {}
-};
 
 /// What all rows add up to, so that nothing can be fast by not arriving.
 struct Sums {
@@ -116,37 +103,9 @@ public:
     QTemporaryDir folder;
     ApplicationValues values;
     QString bareDatabase;
-    SilentBoxes boxes;
+    test::RecordingBoxes boxes;
     std::string text;
     Sums sums;
-};
-
-class BareDatabase
-{
-public:
-    explicit BareDatabase(const QString& path)
-    {
-        require(sqlite3_open(path.toUtf8().constData(), &m_database) == SQLITE_OK, "open");
-        run("pragma synchronous=full");
-    }
-    ~BareDatabase() { sqlite3_close(m_database); }
-    BareDatabase(const BareDatabase&) = delete;
-    BareDatabase& operator=(const BareDatabase&) = delete;
-
-    void run(const char* sql) const
-    {
-        require(sqlite3_exec(m_database, sql, nullptr, nullptr, nullptr) == SQLITE_OK, sql);
-    }
-    [[nodiscard]] sqlite3_stmt* prepare(const char* sql) const
-    {
-        sqlite3_stmt* statement = nullptr;
-        require(sqlite3_prepare_v2(m_database, sql, -1, &statement, nullptr) == SQLITE_OK,
-                sqlite3_errmsg(m_database));
-        return statement;
-    }
-
-private:
-    sqlite3* m_database = nullptr;
 };
 
 constexpr const char* bareInsert =
@@ -162,11 +121,6 @@ constexpr std::array<Bare, columnCount> bareColumns{
     Bare::Whole, Bare::Whole, Bare::Long,  Bare::Whole, Bare::Cents, Bare::Whole, Bare::Cents, Bare::Whole,
     Bare::Cents, Bare::Whole, Bare::Cents, Bare::Whole, Bare::Cents, Bare::Whole};
 constexpr int firstFlag = 22;
-
-void bindText(sqlite3_stmt* statement, int place, std::string_view text)
-{
-    sqlite3_bind_text(statement, place, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
-}
 
 std::int64_t toWhole(std::string_view text)
 {
@@ -228,8 +182,7 @@ void bareImport(const Shop& shop)
             place += form == Bare::Options ? 0 : 1;
             rest.remove_prefix(comma == std::string_view::npos ? rest.size() : comma + 1);
         }
-        require(sqlite3_step(insert) == SQLITE_DONE, "insert");
-        sqlite3_reset(insert);
+        bench::runOnce(insert);
     }
     sqlite3_finalize(insert);
     database.run("commit");
@@ -240,12 +193,6 @@ constexpr const char* bareSelect =
     "INactive,PRESET,OVERRIDE,pricechange,printNV,MIXNMATCH,PRODUCTMIX,STOCKLINK,MODIFIER,PRICE1,PRICELEVEL1,"
     "PRICE2,PRICELEVEL2,PRICE3,PRICELEVEL3,PRICE4,PRICELEVEL4,PRICE5,PRICELEVEL5 from PLUDATA order by "
     "PLUNUMBER";
-
-std::string_view columnText(sqlite3_stmt* statement, int place)
-{
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, place));
-    return text == nullptr ? std::string_view() : text;
-}
 
 void appendFilled(std::string& line, std::string_view text, std::size_t width)
 {
