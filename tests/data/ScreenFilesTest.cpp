@@ -1,15 +1,21 @@
-// Holds every screen file that is installed against the table catalogue and against the geometry of the form
-// that shows it. Each check returns what is wrong in the words of somebody who has to mend the file.
-#include "platform/RuntimeFailure.h"
-#include "screens/ComboRows.h"
+// Holds every screen file that is installed against the table catalogue, against the columns of the register
+// files and against the form that it makes. Complaints are in the words of somebody who has to mend the file.
+#include "records/RegisterFiles.h"
+#include "screens/FieldPanel.h"
+#include "screens/OptionForm.h"
 #include "screens/ScreenReader.h"
 #include "store/Catalogue.h"
-#include "store/Database.h"
 #include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"
+#include "tests/support/RecordingBoxes.h"
+#include "ui/Appearance.h"
+#include "ui/TextBox.h"
+#include "ui/ValueList.h"
 
-#include <gtest/gtest.h>
-#include <QRectF>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QScrollBar>
 #include <QSet>
 
 #include <algorithm>
@@ -22,16 +28,6 @@ namespace
 using store::FieldDefinition;
 using store::FieldType;
 using store::TableDefinition;
-
-/// The form's own sizes, in twips.
-constexpr double boxHeight = 360;
-constexpr double checkHeight = 300;
-constexpr double findWidth = 1200;
-constexpr double findHeight = 360;
-/// A control ends this far before the edge of the window.
-constexpr double edge = 60;
-/// The panel reaches this far below the largest Y that counts.
-constexpr double panelMargin = 10;
 
 /// Fields that a screen leaves out on purpose. A name that ends in "*" stands for all that begin so.
 struct LeftOut {
@@ -89,38 +85,94 @@ bool isListed(const char* list, const QString& name)
     });
 }
 
-bool isNumber(const ControlDefinition& control)
+/// Pixels between a text and the edges of its box.
+constexpr int boxMargins = 8;
+
+bool sameName(const QString& left, const QString& right)
 {
-    return control.kind == ControlKind::Integer || control.kind == ControlKind::Decimal;
+    return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
-/// The prices of PLUs are numbers held as text.
+/// Prices are numbers held as text.
 bool isPrice(const FieldDefinition& field)
 {
     return isListed("PRICE1 PRICE2 PRICE3 PRICE4 PRICE5 EuroPrice*", field.name);
 }
 
-QRectF placeOf(const ControlDefinition& control)
+/// Whether a control of @p kind shows and stores what @p field holds.
+bool canHold(const ControlDefinition& control, const FieldDefinition& field)
 {
-    const bool find = control.kind == ControlKind::Find;
-    const double ownHeight = find ? findHeight : control.kind == ControlKind::Check ? checkHeight : boxHeight;
-    return {control.x.value_or(0), control.y.value_or(0), find ? findWidth : control.width.value_or(0),
-            control.height.value_or(ownHeight)};
+    switch (control.kind) {
+    case ControlKind::Check:
+        return field.type == FieldType::YesNo;
+    case ControlKind::Integer:
+    case ControlKind::Combo:
+        return field.type == FieldType::Long;
+    case ControlKind::Decimal:
+        return field.type == FieldType::Long || field.type == FieldType::Double || isPrice(field);
+    case ControlKind::Text:
+        return (field.type == FieldType::Text && !isPrice(field)) ||
+               (field.type == FieldType::Digits && sameName(control.characters, QStringLiteral("NUMERIC")));
+    default:
+        return false;
+    }
 }
 
-/// Height of the panel that carries the controls: check boxes and labels do not count, a grid counts with its
-/// height.
-double panelHeight(const QVector<ControlDefinition>& controls)
+/// The column of a register file that sends @p field; nullptr when none does.
+const records::Column* columnOf(const QString& table, const QString& field)
 {
-    double largest = 0;
-    for (const auto& control : controls) {
-        if (control.kind == ControlKind::Grid) {
-            largest = qMax(largest, control.height.value_or(0));
-        } else if (control.kind != ControlKind::Check && control.kind != ControlKind::Label) {
-            largest = qMax(largest, control.y.value_or(0));
+    for (const auto& file : records::registerFiles()) {
+        if (!sameName(QLatin1String(file.table), table))
+            continue;
+        for (const auto& set : file.layout().sets) {
+            for (const auto& column : set.columns) {
+                if (sameName(QString::fromStdString(column.field), field))
+                    return &column;
+            }
         }
     }
-    return largest + panelMargin;
+    return nullptr;
+}
+
+/// What Maxvalue of @p control must be for @p column: the largest number, or the most characters. 0 where the
+/// column's width does not say it.
+Decimal largestOf(const ControlDefinition& control, const records::Column& column)
+{
+    constexpr int widestMessage = 40;
+    const auto width = static_cast<std::int64_t>(column.isMessageLine ? widestMessage : column.width);
+    const bool isWide = column.form == records::Form::Number || column.form == records::Form::Text;
+    if (!isWide || sameName(control.dataField, QStringLiteral("ENDTIME"))) // a time of the day
+        return {};
+    if (control.kind == ControlKind::Text)
+        return {width, 0};
+    return Decimal::leading(std::string(static_cast<std::size_t>(width), '9')).shifted(-column.scale);
+}
+
+/// The catalogue's tables with one record of zeros and empty texts in each.
+const QString& filledDatabase()
+{
+    static const test::TestFolder folder;
+    static const QString path = [] {
+        QString made = folder.path("velmar.mdb");
+        store::Database::create(made, store::catalogue());
+        store::Database database(made);
+        for (const TableDefinition& table : store::catalogue()) {
+            store::Recordset records = database.openTable(table.name);
+            records.addNew();
+            for (const FieldDefinition& field : table.fields) {
+                if (field.type == FieldType::Text && !isPrice(field)) {
+                    records.setValue(field.name, store::Value::text(std::string()));
+                } else if (field.type != FieldType::Counter && field.type != FieldType::Date) {
+                    records.setValue(field.name, store::Value::whole(0));
+                }
+            }
+            if (std::none_of(table.fields.begin(), table.fields.end(),
+                             [](const auto& field) { return field.type == FieldType::Date; }))
+                records.update();
+        }
+        return made;
+    }();
+    return path;
 }
 
 /// One screen file with its complaints.
@@ -131,6 +183,7 @@ protected:
         : m_name(QString::fromStdString(GetParam())), m_path(QStringLiteral(SCREEN_FILES "/") + m_name),
           m_screen(ScreenReader(m_path).whole()), m_table(store::catalogueTable(m_screen.table.table))
     {
+        ui::applyAppearance(static_cast<QApplication&>(*QCoreApplication::instance()));
     }
 
     void TearDown() override
@@ -138,37 +191,29 @@ protected:
         EXPECT_TRUE(m_complaints.isEmpty()) << m_complaints.join(u'\n').toStdString();
     }
 
-    void complain(const QString& text) { m_complaints += text; }
-    void complain(const ControlDefinition& control, const QString& text)
+    void complain(const QString& about, const char* text)
     {
-        complain(QStringLiteral("[%1] %2%3: %4")
-                     .arg(control.section, control.description, control.dataField, text));
+        m_complaints += QStringLiteral("%1: %2").arg(about, QLatin1String(text));
+    }
+    void complain(const ControlDefinition& control, const char* text)
+    {
+        complain(QStringLiteral("[%1] %2%3").arg(control.section, control.description, control.dataField),
+                 text);
     }
 
     [[nodiscard]] const FieldDefinition* fieldOf(const ControlDefinition& control) const
     {
-        const auto sameName = [&](const FieldDefinition& field) {
-            return field.name.compare(control.dataField, Qt::CaseInsensitive) == 0;
+        const auto isIt = [&](const FieldDefinition& field) {
+            return sameName(field.name, control.dataField);
         };
-        const auto found = std::find_if(m_table->fields.begin(), m_table->fields.end(), sameName);
+        const auto found = std::find_if(m_table->fields.begin(), m_table->fields.end(), isIt);
         return found == m_table->fields.end() ? nullptr : &*found;
     }
 
-    [[nodiscard]] QVector<ControlDefinition> visible() const
-    {
-        QVector<ControlDefinition> controls = m_screen.controls;
-        controls.removeIf([](const auto& control) { return !control.visible.value_or(false); });
-        return controls;
-    }
-
-    /// The catalogue's tables, all empty.
-    static store::Database emptyDatabase()
-    {
-        static const test::TestFolder folder;
-        const QString path = folder.path("velmar.mdb");
-        store::Database::create(path, store::catalogue());
-        return store::Database(path);
-    }
+    void checkKind(const ControlDefinition& control, const FieldDefinition& field);
+    void checkLimit(const ControlDefinition& control, const FieldDefinition& field);
+    void checkControl(const QWidget& control);
+    void checkOrder(const QVector<QWidget*>& order);
 
     QString m_name;
     QString m_path;
@@ -179,29 +224,25 @@ private:
     QStringList m_complaints;
 };
 
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 TEST_P(ScreenFile, IsReadWhole)
 {
-    const QByteArray bytes = bytesOf(m_path);
+    QFile file(m_path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
     if (bytes.count('\n') != bytes.count("\r\n") || !bytes.endsWith("\r\n"))
-        complain(QStringLiteral("line ends are not CR LF throughout"));
+        complain(m_name, "line ends are not CR LF throughout");
     if (bytes.count("\r\n[Field") != m_screen.controls.size())
-        complain(QStringLiteral("sections are numbered with a gap, or have no known control type"));
+        complain(m_name, "sections are numbered with a gap, or have no known control type");
     for (const QByteArray& line : bytes.split('\n')) {
         const qsizetype limit = line.startsWith("List=") ? profileListLimit : profileValueLimit;
         if (line.trimmed().size() - line.indexOf('=') - 1 > limit)
-            complain(QStringLiteral("too long to be read: ") + QString::fromLatin1(line.trimmed()));
+            complain(QString::fromLatin1(line.trimmed()), "too long to be read");
     }
     if (m_screen.window.name.isEmpty() || !m_screen.window.width || !m_screen.window.height)
-        complain(QStringLiteral("the window has no name or no size"));
+        complain(m_name, "the window has no name or no size");
 }
 
-TEST_P(ScreenFile, NamesWhatTheDatabaseHas)
+TEST_P(ScreenFile, BindsControlsToFieldsThatTheyCanHold)
 {
     ASSERT_NE(m_table, nullptr) << m_screen.table.table.toStdString();
     for (const QString& index : {m_screen.table.firstIndex, m_screen.table.secondIndex}) {
@@ -209,163 +250,165 @@ TEST_P(ScreenFile, NamesWhatTheDatabaseHas)
             return definition.names.contains(index, Qt::CaseInsensitive);
         };
         if (std::none_of(m_table->indexes.begin(), m_table->indexes.end(), hasName))
-            complain(QStringLiteral("the table has no index ") + index);
+            complain(index, "the table has no such index");
     }
     QSet<QString> seen;
     for (const auto& control : m_screen.controls) {
         if (control.dataField.isEmpty())
             continue;
-        if (!fieldOf(control))
-            complain(control, QStringLiteral("the table has no such field"));
         if (seen.contains(control.dataField.toUpper()))
-            complain(control, QStringLiteral("stands twice on the screen"));
+            complain(control, "stands twice on the screen");
         seen += control.dataField.toUpper();
-    }
-}
-
-TEST_P(ScreenFile, HasControlsThatHoldWhatTheirFieldsHold)
-{
-    for (const auto& control : m_screen.controls) {
-        const FieldDefinition* field = fieldOf(control);
-        if (!field)
-            continue;
-        const FieldType type = field->type;
-        const bool digits = control.characters.compare(QLatin1String("NUMERIC"), Qt::CaseInsensitive) == 0;
-        const bool fits =
-            control.kind == ControlKind::Check     ? type == FieldType::YesNo
-            : control.kind == ControlKind::Integer ? type == FieldType::Long
-            : control.kind == ControlKind::Combo   ? type == FieldType::Long
-            : control.kind == ControlKind::Decimal
-                ? type == FieldType::Long || type == FieldType::Double || isPrice(*field)
-                : (type == FieldType::Text && !isPrice(*field)) || (type == FieldType::Digits && digits);
-        if (!fits)
-            complain(control, QStringLiteral("this kind of control cannot hold the field"));
-        const bool canBeEmpty =
-            std::any_of(std::begin(mayBeEmpty), std::end(mayBeEmpty), [&](const MayBeEmpty& row) {
-                return m_table->name == QLatin1String(row.table) && isListed(row.fields, field->name);
-            });
-        if (canBeEmpty && control.kind == ControlKind::Integer)
-            complain(control, QStringLiteral("may be empty, which a box for whole numbers cannot show"));
-    }
-}
-
-TEST_P(ScreenFile, LimitsWhatIsTypedToTheField)
-{
-    for (const auto& control : visible()) {
-        const FieldDefinition* field = fieldOf(control);
-        if (!field || (!isNumber(control) && control.kind != ControlKind::Text))
-            continue;
-        if (!control.maximum || control.maximum->toDouble() < 1) {
-            complain(control, QStringLiteral("has no Maxvalue"));
-        } else if (control.kind == ControlKind::Text) {
-            if (control.maximum->toDouble() > field->size)
-                complain(control, QStringLiteral("takes more characters than the field"));
-        } else if (control.kind == ControlKind::Integer) {
-            // No register column of whole numbers that end in a box has more than nine digits.
-            if (control.maximum->toDouble() > 999999999)
-                complain(control, QStringLiteral("takes more digits than a whole number field"));
-        } else if (control.maximum->scale() > control.decimals.value_or(-1)) {
-            complain(control, QStringLiteral("Maxvalue and DecimalNumbers differ"));
-        } else if (isPrice(*field) && !(*control.maximum == Decimal(99999999, 2))) {
-            complain(control, QStringLiteral("a price has six digits before the point and two behind"));
+        if (const FieldDefinition* const field = fieldOf(control)) {
+            checkKind(control, *field);
+            checkLimit(control, *field);
+        } else {
+            complain(control, "the table has no such field");
         }
     }
 }
 
-TEST_P(ScreenFile, KeepsRecordNumbersFromBeingChanged)
+void ScreenFile::checkKind(const ControlDefinition& control, const FieldDefinition& field)
 {
-    const QString key = m_table->indexes.first().field;
-    for (const auto& control : visible()) {
-        const bool isKey = control.dataField.compare(key, Qt::CaseInsensitive) == 0;
-        if (isKey && !m_screen.buttons.add && !control.readOnly.value_or(false))
-            complain(control, QStringLiteral("is the number of the register's record"));
-    }
-    if (m_screen.buttons.add != (m_table->name == QLatin1String("PLUDATA") && m_screen.buttons.save))
-        complain(QStringLiteral("only PLUs may be added"));
-    if (m_screen.buttons.add != m_screen.buttons.remove || m_screen.buttons.next != m_screen.buttons.previous)
-        complain(QStringLiteral("has only one button of a pair"));
+    if (!canHold(control, field))
+        complain(control, "this kind of control cannot hold the field");
+    const auto canBeEmpty = [&](const MayBeEmpty& row) {
+        return m_table->name == QLatin1String(row.table) && isListed(row.fields, field.name);
+    };
+    if (control.kind == ControlKind::Integer &&
+        std::any_of(std::begin(mayBeEmpty), std::end(mayBeEmpty), canBeEmpty))
+        complain(control, "may be empty, which a box for whole numbers cannot show");
 }
 
-TEST_P(ScreenFile, OffersEveryFieldThatAUserMaySet)
+void ScreenFile::checkLimit(const ControlDefinition& control, const FieldDefinition& field)
 {
+    const bool isTyped = control.kind == ControlKind::Integer || control.kind == ControlKind::Decimal ||
+                         control.kind == ControlKind::Text;
+    if (!isTyped || control.readOnly.value_or(false) || !control.visible.value_or(false))
+        return;
+    if (!control.maximum || control.maximum->toDouble() < 1)
+        return complain(control, "has no Maxvalue");
+    const auto* const column = columnOf(m_table->name, field.name);
+    const Decimal largest = column != nullptr ? largestOf(control, *column) : Decimal();
+    if (!(largest == Decimal()) && !(*control.maximum == largest))
+        complain(control, ("the register's column takes up to " + largest.text()).c_str());
+    if (control.kind == ControlKind::Text && control.maximum->toDouble() > field.size)
+        complain(control, "takes more characters than the field");
+    if (control.kind == ControlKind::Decimal && control.maximum->scale() != control.decimals.value_or(-1))
+        complain(control, "Maxvalue and DecimalNumbers differ");
+    const int needed =
+        QFontMetrics(QApplication::font()).horizontalAdvance(QString::fromStdString(control.maximum->text()));
+    if (control.kind != ControlKind::Text && control.width.value_or(0) / twipsPerPixel < needed + boxMargins)
+        complain(control, "is too narrow for its largest number");
+}
+
+TEST_P(ScreenFile, OffersWhatAUserMaySetAndNothingElse)
+{
+    const QString& key = m_table->indexes.first().field;
     QSet<QString> offered;
     QString queries;
-    for (const auto& control : visible()) {
+    for (const auto& control : m_screen.controls) {
+        if (!control.visible.value_or(false))
+            continue;
         offered += control.dataField.toUpper();
-        if (control.kind == ControlKind::Grid)
-            queries += control.sqlCriteria.toUpper();
+        queries += control.sqlCriteria.toUpper();
+        if (sameName(control.dataField, key) && !m_screen.buttons.add && !control.readOnly.value_or(false))
+            complain(control, "is the number of the register's record");
     }
     const auto isLeftOut = [&](const QString& field) {
         return std::any_of(std::begin(leftOut), std::end(leftOut), [&](const LeftOut& row) {
-            return m_table->name.compare(QLatin1String(row.table), Qt::CaseInsensitive) == 0 &&
-                   isListed(row.files, m_name) && isListed(row.fields, field);
+            return sameName(m_table->name, QLatin1String(row.table)) && isListed(row.files, m_name) &&
+                   isListed(row.fields, field);
         });
     };
-    // The number of an option table's only record tells the user nothing.
-    const QString& key = m_table->indexes.first().field;
+    const bool hasGrid = std::any_of(m_screen.controls.begin(), m_screen.controls.end(),
+                                     [](const auto& control) { return control.kind == ControlKind::Grid; });
     for (const auto& field : m_table->fields) {
         const QString name = field.name.toUpper();
-        const bool onlyRecord = field.name == key && !m_screen.buttons.next;
-        if (!offered.contains(name) && !queries.contains(name) && !onlyRecord && !isLeftOut(name))
-            complain(field.name + QStringLiteral(" is not on the screen"));
+        const bool isShown = offered.contains(name) || (hasGrid && queries.contains(name));
+        // The number of an option table's only record tells the user nothing.
+        const bool isOnlyRecord = field.name == key && !m_screen.buttons.next;
+        if (!isShown && !isOnlyRecord && !isLeftOut(name))
+            complain(field.name, "is not on the screen");
         if (offered.contains(name) && isLeftOut(name))
-            complain(field.name + QStringLiteral(" is on the screen though it is listed as left out"));
+            complain(field.name, "is on the screen though it is listed as left out");
     }
+    if (m_screen.buttons.add != (m_table->name == QLatin1String("PLUDATA") && m_screen.buttons.save) ||
+        m_screen.buttons.add != m_screen.buttons.remove)
+        complain(m_name, "only PLUs may be added and deleted");
+    if (m_screen.buttons.next != m_screen.buttons.previous)
+        complain(m_name, "has only one button of a pair");
 }
 
-TEST_P(ScreenFile, OverlapsNothingAndStaysInsideThePanel)
+void ScreenFile::checkControl(const QWidget& control)
 {
-    const auto controls = visible();
-    const QRectF panel(0, 0, m_screen.window.width.value_or(0) - edge, panelHeight(m_screen.controls));
-    for (qsizetype first = 0; first < controls.size(); ++first) {
-        const QRectF place = placeOf(controls[first]);
-        if (place.isEmpty())
-            complain(controls[first], QStringLiteral("has no size"));
-        if (!panel.contains(place))
-            complain(controls[first], QStringLiteral("is cut by the panel or the form"));
-        for (const auto& second : controls.mid(first + 1)) {
-            if (place.intersects(placeOf(second)))
-                complain(controls[first], QStringLiteral("overlaps ") + second.section);
-        }
+    const QString name = QStringLiteral("%1 (%2)").arg(control.objectName(), control.accessibleDescription());
+    const auto widthOf = [&](const QString& text) {
+        return control.fontMetrics().horizontalAdvance(text);
+    };
+    int needed = 0;
+    if (const auto* const label = qobject_cast<const QLabel*>(&control)) {
+        needed = label->sizeHint().width();
+    } else if (const auto* const check = qobject_cast<const QCheckBox*>(&control)) {
+        needed = check->sizeHint().width();
+    } else if (const auto* const box = qobject_cast<const ui::TextBox*>(&control)) {
+        needed = boxMargins + control.fontMetrics().averageCharWidth() * qMin(box->maxLength(), 40);
+    } else if (const auto* const list = qobject_cast<const ui::ValueList*>(&control)) {
+        if (list->count() < 2)
+            complain(name, "leaves nothing to pick");
+        for (int row = 0; row < list->count(); ++row)
+            needed = qMax(needed, widthOf(list->itemText(row)));
     }
+    if (needed > control.width())
+        complain(name, "is too narrow for its text");
 }
 
 /// Down a column and then the next one, or along a row and then the next one: nothing that is reached later
 /// lies both above, or level, and to the left, or level.
-TEST_P(ScreenFile, IsWalkedInReadingOrder)
+void ScreenFile::checkOrder(const QVector<QWidget*>& order)
 {
-    auto controls = visible();
-    controls.removeIf([](const auto& control) { return control.kind == ControlKind::Label; });
-    for (qsizetype later = 0; later < controls.size(); ++later) {
-        const QRectF place = placeOf(controls[later]);
-        if (controls[later].tabIndex != static_cast<int>(later) + 1)
-            complain(controls[later], QStringLiteral("Tabindex is not the place in the file"));
-        for (qsizetype earlier = 0; earlier < later; ++earlier) {
-            const QRectF before = placeOf(controls[earlier]);
-            if (place.center().y() <= before.center().y() + 30 && place.left() <= before.left())
-                complain(controls[later], QStringLiteral("is reached after ") + controls[earlier].section);
+    for (qsizetype later = 0; later < order.size(); ++later) {
+        const QRect place = order[later]->geometry();
+        for (const QWidget* const earlier : order.mid(0, later)) {
+            const QRect before = earlier->geometry();
+            if (place.center().y() <= before.center().y() + 2 && place.left() <= before.left())
+                complain(order[later]->objectName() + QStringLiteral(" after ") + earlier->objectName(),
+                         "is not the order of reading");
         }
     }
 }
 
-TEST_P(ScreenFile, ListsWhatCanBePicked)
+TEST_P(ScreenFile, MakesAFormThatCanBeRead)
 {
-    auto database = emptyDatabase();
-    for (const auto& control : visible()) {
-        if (control.kind == ControlKind::Grid) {
-            EXPECT_EQ(database.openQuery(control.sqlCriteria).fieldCount(), control.gridColumns.size());
-        } else if (control.kind == ControlKind::Combo) {
-            const bool isFixed = control.sqlCriteria.isEmpty();
-            const auto rows = isFixed ? rowsOfList(control.list) : rowsOfQuery(database, control.sqlCriteria);
-            if (isFixed && rows.size() < 2)
-                complain(control, QStringLiteral("leaves nothing to pick"));
-            for (const QStringList& row : rows) {
-                if (row.size() != 2 || row.last().isEmpty())
-                    complain(control, QStringLiteral("a row is not a value and its text"));
-            }
-            if (control.columnWidths.count(u';') != 1 || control.valueColumn != QLatin1String("0"))
-                complain(control, QStringLiteral("does not say how the two columns are shown"));
+    ApplicationValues values;
+    values.databasePath = filledDatabase();
+    values.screenFilePath = m_path;
+    test::RecordingBoxes boxes;
+    OptionForm form(values, boxes);
+    form.show();
+    QApplication::processEvents();
+    auto& panel = *form.findChild<FieldPanel*>();
+    if (panel.horizontalScrollBar()->maximum() > 0)
+        complain(m_name, "the form is too narrow for its controls");
+    QVector<QWidget*> controls =
+        panel.widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    controls.removeIf([](const QWidget* control) { return control->isHidden(); });
+    for (qsizetype first = 0; first < controls.size(); ++first) {
+        const QWidget& control = *controls[first];
+        checkControl(control);
+        if (!panel.widget()->rect().contains(control.geometry()))
+            complain(control.objectName(), "is cut by the panel");
+        for (const QWidget* const other : controls.mid(first + 1)) {
+            if (control.geometry().intersects(other->geometry()))
+                complain(control.objectName() + u' ' + other->objectName(), "overlap");
         }
+    }
+    QVector<QWidget*> order = panel.tabOrder();
+    order.removeIf([](const QWidget* control) { return control->isHidden(); });
+    checkOrder(order);
+    for (const auto& control : m_screen.controls) {
+        if (control.visible.value_or(false) && control.kind != ControlKind::Label && !control.tabIndex)
+            complain(control, "has no Tabindex");
     }
 }
 
