@@ -31,6 +31,7 @@ build/release/tools/makebank "$bank" --registers 3 $fresh
 [ -f "$app/registers.ini" ] || printf '[Bank]\r\nFolder=../registers\r\n' > "$app/registers.ini"
 
 echo "Staged: $app (program), $bank (three registers)"
+echo "To ring a day's sales on them: build/release/tools/ringsales $bank"
 [ "$start" = yes ] || exit 0
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ] && [ -z "${QT_QPA_PLATFORM:-}" ]; then
   echo "There is no display to show the program on (DISPLAY is not set)." >&2

@@ -40,6 +40,10 @@ Register readRegister(int number, const QString& folder)
     result.port = ini.value(QStringLiteral("Port"), 1).toInt();
     result.on = ini.value(QStringLiteral("On"), 1).toInt() != 0;
     result.busy = ini.value(QStringLiteral("Busy"), 0).toInt() != 0;
+    bool isStamp = false;
+    const auto stamp = ini.value(QStringLiteral("Stamp")).toString().toUShort(&isStamp, 16);
+    if (isStamp)
+        result.stamp = static_cast<quint8>(stamp);
     return result;
 }
 
@@ -63,6 +67,16 @@ bool Register::knowsFile(int file) const
 QString Register::filePath(int file) const
 {
     return QDir(folder).filePath(QStringLiteral("%1.dat").arg(file));
+}
+
+QList<QByteArrayList> Register::records(int file) const
+{
+    const auto columns = columnsOf(file, model);
+    const auto content = fromBytes(readFile(filePath(file)), file, model);
+    QList<QByteArrayList> result;
+    for (qsizetype i = 0; i < content.recordCount(); ++i)
+        result += unpackRecord(content.record(i), columns, i + 1);
+    return result;
 }
 
 QList<QByteArray> Register::memory() const

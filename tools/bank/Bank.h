@@ -2,12 +2,12 @@
 //
 // registers.ini, in the working directory or beside the tool, says in [Bank] Folder= where the bank is,
 // relative to itself. Each register's folder is its number from 1 and holds register.ini, the binary files
-// NN.dat, the open totals (totals/NNN.txt) and those consolidated for collection (consolidated/NNN.txt).
+// NN.dat and what it sold (Totals.h).
 #pragma once
 
 #include "tools/bank/Model.h"
 
-#include <QByteArray>
+#include <QByteArrayList>
 #include <QList>
 
 #include <optional>
@@ -24,9 +24,12 @@ struct Register {
     int port = 1;       ///< the serial port that it hangs on
     bool on = true;
     bool busy = false;
+    std::optional<quint8> stamp; ///< of its PLU report, in place of what its settings give
 
     [[nodiscard]] bool knowsFile(int file) const;
     [[nodiscard]] QString filePath(int file) const;
+    /// The columns of each record of a file with a text form. @throws ToolFailure, TextFault
+    [[nodiscard]] QList<QByteArrayList> records(int file) const;
     /// The columns of its memory file, of as many as its generation has. @throws ToolFailure
     [[nodiscard]] QList<QByteArray> memory() const;
 

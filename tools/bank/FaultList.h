@@ -22,7 +22,7 @@ struct Fault {
     int hangSeconds = 0;          ///< waits so long before anything else
     bool crash = false;           ///< ends as a program fault does, nothing written
     QString status;               ///< none: status.out is not touched; garbage: it holds no number
-    std::optional<int> bytesLeft; ///< what arrives of a fetched file; the result stays 0
+    std::optional<int> bytesLeft; ///< what arrives of each file; the result stays 0
 };
 
 /// @return the first fault of @p bankFolder's faults.ini that is due at @p step. Every matching call is

@@ -1,14 +1,11 @@
-// The sales reports of a register: open totals, what is consolidated for collection, and the collected files.
-//
-// totals/NNN.txt and consolidated/NNN.txt hold one line of comma-separated numbers for each item; those of
-// report 194 begin with the PLU number. An absent line counts as zeros.
+// The sales reports of the registers: consolidated for collection, added up into one set of files, cleared.
 #pragma once
 
 #include "tools/bank/Bank.h"
 #include "tools/bank/RegisterFile.h"
+#include "tools/bank/Totals.h"
 
 #include <QByteArray>
-#include <QList>
 
 #include <map>
 #include <vector>
@@ -16,14 +13,8 @@
 namespace bank
 {
 
-/// Numbers are thousandths, so that weights and money add up exactly.
-using Numbers = std::vector<qint64>;
-
 /// The five reports in the order in which they are asked for.
 [[nodiscard]] const std::vector<int>& reportFiles();
-
-/// Items of the financial report, and of each clerk's block.
-constexpr int financialItems = 118;
 
 /// Moves the open totals over to be collected.
 /// @return false when those of an earlier run still wait; they and the open totals then stay as they are.
@@ -32,7 +23,8 @@ constexpr int financialItems = 118;
 /// Forgets the consolidated totals. @throws ToolFailure 15 when they cannot be removed
 void clearReports(const Register& target);
 
-/// The consolidated totals of several registers, added up.
+/// The consolidated totals of several registers, added up. The first register says what the PLU report looks
+/// like; price levels of the others that it has no room for are counted with its last one.
 class Collection
 {
 public:
@@ -41,7 +33,8 @@ public:
     [[nodiscard]] std::vector<RegisterFile> files() const;
 
 private:
-    void addPlus(const Register& source);
+    void addByPlace(const Register& source, const Totals& totals);
+    void addPlus(const Register& source, const Totals& totals);
 
     struct Plu {
         QByteArray description;

@@ -76,13 +76,18 @@ void expectKnown(const Register& target, int file)
     }
 }
 
+void cut(QByteArray& arrived, const std::optional<Fault>& fault)
+{
+    if (fault && fault->bytesLeft)
+        arrived.truncate(*fault->bytesLeft);
+}
+
 void fetch(const Order& order, const Line& line, const std::optional<Fault>& fault)
 {
     line.each([&](const Register& source) {
         expectKnown(source, order.file);
         auto bytes = readFile(source.filePath(order.file));
-        if (fault && fault->bytesLeft)
-            bytes.truncate(*fault->bytesLeft);
+        cut(bytes, fault);
         writeFile(inWorkingFolder(order.name), bytes);
     });
 }
@@ -122,12 +127,15 @@ int consolidate(const Line& line)
     return result;
 }
 
-void collect(const Line& line)
+void collect(const Line& line, const std::optional<Fault>& fault)
 {
     Collection collection;
     line.each([&collection](const Register& source) { collection.add(source); });
-    for (const auto& file : collection.files())
-        writeFile(inWorkingFolder(QStringLiteral("poll%1.dll").arg(file.file)), toBytes(file));
+    for (const auto& file : collection.files()) {
+        auto bytes = toBytes(file);
+        cut(bytes, fault);
+        writeFile(inWorkingFolder(QStringLiteral("poll%1.dll").arg(file.file)), bytes);
+    }
 }
 
 } // namespace
@@ -148,7 +156,7 @@ int carryOut(const Order& order, const Bank& bank, const std::optional<Fault>& f
     case Order::Kind::Consolidate:
         return consolidate(line);
     case Order::Kind::Collect:
-        collect(line);
+        collect(line, fault);
         break;
     case Order::Kind::Clear:
         line.each(clearReports);

@@ -1,0 +1,129 @@
+// ringsales: rings up a day's sales on registers of a bank.
+//   ringsales <folder> [--registers 1,3] [--tickets N] [--seed N] [--journal file]
+// What is rung adds to what the registers have sold already.
+#include "tools/bank/Bank.h"
+#include "tools/bank/Files.h"
+#include "tools/bank/TextRecords.h"
+#include "tools/bank/ToolFailure.h"
+#include "tools/ringsales/Journal.h"
+#include "tools/ringsales/Posting.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDate>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace
+{
+
+using namespace bank;
+
+constexpr int mostTickets = 100'000;
+constexpr qint64 thousand = 1000; ///< of the parts that money is counted in
+constexpr qint64 cent = 10;
+
+struct Wish {
+    QString folder;
+    QStringList registers; ///< empty for all
+    int tickets = 0;
+    quint64 seed = 0;
+    QString journal;
+};
+
+template <typename Number>
+Number numberOf(const QCommandLineParser& parser, const QString& name, Number most)
+{
+    bool isNumber = false;
+    const auto number = parser.value(name).toULongLong(&isNumber);
+    if (!isNumber || number > static_cast<quint64>(most))
+        throw std::runtime_error(QStringLiteral("--%1 takes 0 to %2").arg(name).arg(most).toStdString());
+    return static_cast<Number>(number);
+}
+
+Wish readWish(const QCoreApplication& application)
+{
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("Folder of the bank."));
+    parser.addOptions({
+        {QStringLiteral("registers"), QStringLiteral("Their numbers, such as 1,3; all when left out."),
+         QStringLiteral("numbers")},
+        {QStringLiteral("tickets"), QStringLiteral("Customers at each register."), QStringLiteral("N"),
+         QStringLiteral("100")},
+        {QStringLiteral("seed"), QStringLiteral("The same number rings the same day; today's date else."),
+         QStringLiteral("N"), QDate::currentDate().toString(QStringLiteral("yyyyMMdd"))},
+        {QStringLiteral("journal"), QStringLiteral("File for a line of each item rung."),
+         QStringLiteral("file")},
+    });
+    parser.process(application);
+    if (parser.positionalArguments().size() != 1)
+        throw std::runtime_error("one folder is needed, see --help");
+    return {parser.positionalArguments().first(),
+            parser.value(QStringLiteral("registers")).split(u',', Qt::SkipEmptyParts),
+            numberOf(parser, QStringLiteral("tickets"), mostTickets),
+            numberOf(parser, QStringLiteral("seed"), ~quint64{0}), parser.value(QStringLiteral("journal"))};
+}
+
+QList<Register> chosenRegisters(const Wish& wish)
+{
+    auto all = Bank(wish.folder).registers();
+    if (all.isEmpty())
+        throw std::runtime_error("no registers in " + wish.folder.toStdString());
+    if (wish.registers.isEmpty())
+        return all;
+    QList<Register> chosen;
+    for (const auto& word : wish.registers) {
+        const int number = word.trimmed().toInt();
+        if (number < 1 || number > all.size())
+            throw std::runtime_error("no register " + word.toStdString());
+        chosen += all.at(number - 1);
+    }
+    return chosen;
+}
+
+/// @return the lines of the journal
+QByteArray ring(const Register& on, const Wish& wish)
+{
+    const auto programme = Programme::read(on);
+    // A seed apart for each register, so that its day is the same whichever others are rung.
+    const Dice dice(wish.seed * 100 + static_cast<quint64>(on.number));
+    auto totals = Totals::read(openTotals(on));
+    QByteArray journal;
+    qint64 value = 0;
+    for (const auto& ticket : ringDay(programme, wish.tickets, dice)) {
+        post(ticket, totals);
+        journal += journalLines(on.number, ticket);
+        value += ticket.value();
+    }
+    totals.write(openTotals(on));
+    std::printf("Register %d: %d tickets, net sales %s%lld.%02lld\n", on.number, wish.tickets,
+                value < 0 ? "-" : "", std::abs(value) / thousand, std::abs(value) % thousand / cent);
+    return journal;
+}
+
+void run(const Wish& wish)
+{
+    auto journal = journalHead();
+    const auto registers = chosenRegisters(wish);
+    for (const auto& each : registers)
+        journal += ring(each, wish);
+    if (!wish.journal.isEmpty())
+        writeFile(wish.journal, journal);
+    std::printf("Seed %llu\n", static_cast<unsigned long long>(wish.seed));
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    try {
+        run(readWish(application));
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "ringsales: %s\n", failure.what());
+        return 1;
+    }
+    return 0;
+}
