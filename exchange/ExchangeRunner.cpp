@@ -1,10 +1,10 @@
 // The upload and download sequences over their plans.
 #include "exchange/ExchangeRunner.h"
 
-#include "exchange/CommandLines.h"
 #include "exchange/MemoryFile.h"
 #include "exchange/MoveDataFile.h"
-#include "exchange/ResultCodes.h"
+#include "link/CommandLines.h"
+#include "link/ResultCodes.h"
 #include "platform/ChildProcess.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
@@ -38,8 +38,8 @@ qint64 lengthOf(const QString& name)
 
 } // namespace
 
-ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const LinkSettings& link, TickBoxes& ticks,
-                               ExchangeOutside outside)
+ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::LinkSettings& link,
+                               TickBoxes& ticks, ExchangeOutside outside)
     : m_values(values), m_link(link), m_ticks(ticks),
       m_outside(std::move(outside)), m_procedures{values, m_outside.boxes, [this](const QString& line) {
                                                       return runTool(line);
@@ -49,8 +49,10 @@ ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const LinkSettin
 
 void ExchangeRunner::UploadData()
 {
-    if (!transfer(QStringLiteral("Opening exchange"), uploadLine(m_link, QLatin1String(openingSuffix))) ||
-        !transfer(QStringLiteral("Memory allocation"), uploadLine(m_link, QLatin1String(memorySuffix)))) {
+    if (!transfer(QStringLiteral("Opening exchange"),
+                  link::uploadLine(m_link, QLatin1String(link::openingSuffix))) ||
+        !transfer(QStringLiteral("Memory allocation"),
+                  link::uploadLine(m_link, QLatin1String(link::memorySuffix)))) {
         return;
     }
     keepForCustomer(QStringLiteral("MEM.dat"));
@@ -61,9 +63,9 @@ void ExchangeRunner::UploadData()
 void ExchangeRunner::downloaddata()
 {
     if (!transfer(QStringLiteral("Memory allocation"),
-                  downloadOpeningLine(m_link, QLatin1String(memorySuffix))) ||
+                  link::downloadOpeningLine(m_link, QLatin1String(link::memorySuffix))) ||
         !transfer(QStringLiteral("Opening exchange"),
-                  downloadOpeningLine(m_link, QLatin1String(openingSuffix)))) {
+                  link::downloadOpeningLine(m_link, QLatin1String(link::openingSuffix)))) {
         return;
     }
     moveBoxes(downloadPlan(), &ExchangeRunner::downloadRow);
@@ -95,7 +97,7 @@ void ExchangeRunner::moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::
 bool ExchangeRunner::uploadRow(const UploadRow& row)
 {
     showStep("Upload", row.box, row.file);
-    runTool(uploadLine(m_link, QLatin1String(row.literal)));
+    runTool(link::uploadLine(m_link, QLatin1String(row.literal)));
     if (!succeeded()) {
         return false;
     }
@@ -122,7 +124,7 @@ bool ExchangeRunner::downloadRow(const DownloadRow& row)
     if (row.skip == Skip::WhenFileEmpty && lengthOf(name) == 0) {
         return true;
     }
-    runTool(downloadLine(m_link, QLatin1String(row.literal)));
+    runTool(link::downloadLine(m_link, QLatin1String(row.literal)));
     if (hasWriter) {
         copyAfterSend(row.copy, name);
     }
@@ -182,7 +184,7 @@ bool ExchangeRunner::runTool(const QString& commandLine)
 bool ExchangeRunner::succeeded()
 {
     const QString status = m_outside.readStatus();
-    if (resultNumber(status) == 0) {
+    if (link::resultNumber(status) == 0) {
         return true;
     }
     m_outside.boxes.message(QStringLiteral("Communications Error ") + status,

@@ -4,7 +4,7 @@
 
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangePlan.h"
-#include "exchange/LinkSettings.h"
+#include "link/LinkSettings.h"
 #include "platform/Boxes.h"
 #include "records/FileProcedures.h"
 #include "shell/ApplicationValues.h"
@@ -35,7 +35,7 @@ struct ExchangeOutside {
 class ExchangeRunner
 {
 public:
-    ExchangeRunner(const ApplicationValues& values, const LinkSettings& link, TickBoxes& ticks,
+    ExchangeRunner(const ApplicationValues& values, const link::LinkSettings& link, TickBoxes& ticks,
                    ExchangeOutside outside);
     ExchangeRunner(const ExchangeRunner&) = delete;
     ExchangeRunner& operator=(const ExchangeRunner&) = delete;
@@ -63,7 +63,7 @@ private:
     void showStep(const char* verb, int box, int file);
 
     const ApplicationValues& m_values;
-    const LinkSettings& m_link;
+    const link::LinkSettings& m_link;
     TickBoxes& m_ticks;
     ExchangeOutside m_outside;
     records::ProcedureContext m_procedures;

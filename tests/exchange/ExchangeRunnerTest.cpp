@@ -80,7 +80,7 @@ private:
         notices.clear();
         boxes.shown.clear();
         ticks.ticked = wanted;
-        const LinkSettings link = readLinkSettings(values);
+        const link::LinkSettings link = link::readLinkSettings(values);
         ExchangeRunner runner(values, link, ticks,
                               {.runAndWait =
                                    [this](const QString& line) {

@@ -7,9 +7,9 @@
 #include "shell/CustomerSettings.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
-#include "tests/exchange/PseudoModem.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/ProgramFolder.h"
+#include "tests/support/PseudoModem.h"
 #include "tests/support/RecordingBoxes.h"
 
 #include <gtest/gtest.h>

@@ -1,12 +1,12 @@
 // What the user reads for a result of the transfer tool.
-#include "exchange/ResultCodes.h"
+#include "link/ResultCodes.h"
 
 #include "platform/RuntimeFailure.h"
 
 #include <gtest/gtest.h>
 #include <QStringList>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 namespace
 {
@@ -42,4 +42,4 @@ TEST(ResultCodes, ReadAStatusValue)
 }
 
 } // namespace
-} // namespace norvane::exchange
+} // namespace norvane::link

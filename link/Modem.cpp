@@ -1,12 +1,12 @@
 // The modem's conversation: command, answer, pause.
-#include "exchange/Modem.h"
+#include "link/Modem.h"
 
-#include "exchange/CommandLines.h"
-#include "exchange/ResultCodes.h"
+#include "link/CommandLines.h"
+#include "link/ResultCodes.h"
 
 #include <algorithm>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 namespace
 {
@@ -130,4 +130,4 @@ void Modem::Dropphoneline()
     m_line.close();
 }
 
-} // namespace norvane::exchange
+} // namespace norvane::link

@@ -6,7 +6,7 @@
 
 #include <QString>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 
 /// The link values. Read anew at each press of OK, so that a change in the set-up dialog counts at once.
@@ -28,4 +28,4 @@ struct LinkSettings {
 /// @throws RuntimeFailure 6 when a number does not fit (the dial time-out holds at most 32,767 seconds).
 [[nodiscard]] LinkSettings readLinkSettings(const ApplicationValues& values);
 
-} // namespace norvane::exchange
+} // namespace norvane::link

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 
 /// Result that the dialling of the modem gives on any failure.
@@ -19,4 +19,4 @@ inline constexpr int descriptionsPolled = 101;
 /// @throws RuntimeFailure 13 when it is no number, 6 when it is beyond a whole number of 32 bits.
 [[nodiscard]] int resultNumber(const QString& statusText);
 
-} // namespace norvane::exchange
+} // namespace norvane::link

@@ -1,13 +1,13 @@
 // Dialling and hanging up on a real serial port with a modem at the other end.
-#include "exchange/Modem.h"
+#include "link/Modem.h"
 
-#include "exchange/ResultCodes.h"
-#include "tests/exchange/PseudoModem.h"
+#include "link/ResultCodes.h"
+#include "tests/support/PseudoModem.h"
 
 #include <gtest/gtest.h>
 #include <QCoreApplication>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 namespace
 {
@@ -176,4 +176,4 @@ TEST_F(ModemTest, EndsTheWaitWhenTheUserHangsUpInItsMidst)
 }
 
 } // namespace
-} // namespace norvane::exchange
+} // namespace norvane::link

@@ -1,5 +1,5 @@
 // The far end of the pseudo terminal.
-#include "tests/exchange/PseudoModem.h"
+#include "tests/support/PseudoModem.h"
 
 #include <gtest/gtest.h>
 #include <QCoreApplication>

@@ -1,5 +1,5 @@
 // The table of result codes.
-#include "exchange/ResultCodes.h"
+#include "link/ResultCodes.h"
 
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 namespace
 {
@@ -64,4 +64,4 @@ int resultNumber(const QString& statusText)
     }
 }
 
-} // namespace norvane::exchange
+} // namespace norvane::link

@@ -1,5 +1,5 @@
 // The keys, defaults and treatments of the link values as one table.
-#include "exchange/LinkSettings.h"
+#include "link/LinkSettings.h"
 
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
@@ -7,7 +7,7 @@
 
 #include <limits>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 namespace
 {
@@ -65,4 +65,4 @@ LinkSettings readLinkSettings(const ApplicationValues& values)
     return link;
 }
 
-} // namespace norvane::exchange
+} // namespace norvane::link

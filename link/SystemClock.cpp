@@ -1,11 +1,11 @@
 // The machine's clock.
-#include "exchange/Clock.h"
+#include "link/Clock.h"
 
 #include <QCoreApplication>
 #include <QThread>
 #include <QTime>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 
 double SystemClock::secondsSinceMidnight()
@@ -25,4 +25,4 @@ void SystemClock::yieldEvents()
     QCoreApplication::processEvents();
 }
 
-} // namespace norvane::exchange
+} // namespace norvane::link

@@ -1,7 +1,7 @@
 // Time as the modem's waits know it; handed in, so that a test need not sit out the real seconds.
 #pragma once
 
-namespace norvane::exchange
+namespace norvane::link
 {
 
 class Clock
@@ -29,4 +29,4 @@ public:
     void yieldEvents() override;
 };
 
-} // namespace norvane::exchange
+} // namespace norvane::link

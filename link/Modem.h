@@ -2,15 +2,15 @@
 // that the transfer tool can use it, while the call stays up.
 #pragma once
 
-#include "exchange/Clock.h"
-#include "exchange/LinkSettings.h"
+#include "link/Clock.h"
+#include "link/LinkSettings.h"
 #include "platform/SerialLine.h"
 
 #include <QStringList>
 
 #include <functional>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 
 class Modem
@@ -42,4 +42,4 @@ private:
     std::function<void(const QString&)> m_show;
 };
 
-} // namespace norvane::exchange
+} // namespace norvane::link

@@ -1,9 +1,9 @@
 // Words and forms of the transfer tool's command lines.
-#include "exchange/CommandLines.h"
+#include "link/CommandLines.h"
 
 #include <array>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 namespace
 {
@@ -59,4 +59,14 @@ QString downloadLine(const LinkSettings& link, const QString& suffix)
            portWord(link.portIndex) + suffix;
 }
 
-} // namespace norvane::exchange
+QString salesOpeningLine(const LinkSettings& link, const QString& suffix)
+{
+    return tool + bareRate(link.baudIndex) + blank + suffix;
+}
+
+QString salesLine(const LinkSettings& link, const QString& suffix)
+{
+    return tool + bareRate(link.baudIndex) + QStringLiteral(" F1 ") + link.rangeWord + blank + suffix;
+}
+
+} // namespace norvane::link

@@ -2,11 +2,11 @@
 // been programmed through exactly these lines.
 #pragma once
 
-#include "exchange/LinkSettings.h"
+#include "link/LinkSettings.h"
 
 #include <QString>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 
 /// Speed word of a program exchange by list index, its blank included: "s2 ", "s4 ", "s9 ", "s1 ".
@@ -24,8 +24,14 @@ namespace norvane::exchange
 /// Sends to registers 1 to n in one run of the tool.
 [[nodiscard]] QString downloadLine(const LinkSettings& link, const QString& suffix);
 
+/// Opening exchange ahead of a sales collection, with one register. The lines of a collection carry no port:
+/// the tool takes the one that it is set to.
+[[nodiscard]] QString salesOpeningLine(const LinkSettings& link, const QString& suffix);
+/// A step of a sales collection at registers 1 to n in one run of the tool.
+[[nodiscard]] QString salesLine(const LinkSettings& link, const QString& suffix);
+
 /// Suffixes that open every sequence: memory allocation file, and the exchange without a data file.
 inline constexpr const char* memorySuffix = " Nmem.DAT -U 52";
 inline constexpr const char* openingSuffix = "  -U 250";
 
-} // namespace norvane::exchange
+} // namespace norvane::link

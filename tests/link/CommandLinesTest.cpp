@@ -1,7 +1,6 @@
 // The tool's command lines from a customer's settings file, blank by blank.
-#include "exchange/CommandLines.h"
+#include "link/CommandLines.h"
 
-#include "exchange/ExchangePlan.h"
 #include "platform/RuntimeFailure.h"
 #include "shell/CustomerSettings.h"
 
@@ -10,9 +9,8 @@
 #include <QTemporaryDir>
 
 #include <ostream>
-#include <set>
 
-namespace norvane::exchange
+namespace norvane::link
 {
 namespace
 {
@@ -110,24 +108,5 @@ TEST(LinkSettings, RefusesATimeOutBeyondASmallNumber)
     }
 }
 
-TEST(ExchangePlan, CopiesAndSkipsRowByRow)
-{
-    std::set<int> olderLaidOver;
-    std::set<int> skipped;
-    for (const DownloadRow& row : downloadPlan()) {
-        if (row.copy == Copy::FromCustomerAfter) {
-            olderLaidOver.insert(row.file);
-        }
-        if (row.skip == Skip::WhenTableEmpty) {
-            skipped.insert(row.file);
-        }
-        EXPECT_EQ(row.copy == Copy::FromCustomerBefore, row.writer == nullptr) << row.file;
-        EXPECT_EQ(row.copy == Copy::None, row.file == 58);
-        EXPECT_EQ(row.skip == Skip::WhenFileEmpty, row.file == 83);
-    }
-    EXPECT_EQ(olderLaidOver, (std::set<int>{15, 29, 64, 32, 17, 16, 33, 34, 85, 86, 71}));
-    EXPECT_EQ(skipped, (std::set<int>{23, 24, 25, 26, 70, 85, 86, 71}));
-}
-
 } // namespace
-} // namespace norvane::exchange
+} // namespace norvane::link

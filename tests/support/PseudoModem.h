@@ -1,7 +1,7 @@
 // A modem at the far end of a pseudo terminal, and a clock that runs faster than the day.
 #pragma once
 
-#include "exchange/Clock.h"
+#include "link/Clock.h"
 
 #include <QByteArray>
 #include <QString>
@@ -51,7 +51,7 @@ private:
 };
 
 /// Every pause is a tenth of a second on this clock. The modem works whenever time passes.
-class QuickClock : public exchange::Clock
+class QuickClock : public link::Clock
 {
 public:
     explicit QuickClock(PseudoModem& modem, double start = 36000) : m_modem(modem), m_now(start) {}

@@ -1,0 +1,174 @@
+// The run, the leaving and the status bar of the forms that speak with the registers; see LinkForm.h.
+#include "link/LinkForm.h"
+
+#include "shell/SharedRoutines.h"
+#include "ui/Appearance.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QStatusBar>
+
+namespace norvane::link
+{
+
+LinkForm::LinkForm(const char* name, const char* runCaption, ApplicationValues& values, Boxes& boxes,
+                   QWidget* parent)
+    : QDialog(parent), m_values(values), m_boxes(boxes), m_line(makeSerialLine()),
+      m_clock(std::make_unique<SystemClock>())
+{
+    setObjectName(QLatin1String(name));
+    setAccessibleName(objectName());
+    Communicate = addButton("Communicate", runCaption);
+    Communicate->setDefault(true);
+    connect(Communicate, &QPushButton::clicked, this, &LinkForm::communicate);
+    CSCmdBtn1 = addButton("CSCmdBtn1", "E&xit");
+    connect(CSCmdBtn1, &QPushButton::clicked, this, &LinkForm::reject);
+    StatusBar1 = new QStatusBar(this);
+    StatusBar1->setObjectName(QStringLiteral("StatusBar1"));
+    StatusBar1->setAccessibleName(QStringLiteral("StatusBar1"));
+    StatusBar1->setSizeGripEnabled(false);
+}
+
+LinkForm::~LinkForm() = default;
+
+void LinkForm::setSerialLine(std::unique_ptr<SerialLine> line)
+{
+    m_line = std::move(line);
+}
+
+void LinkForm::setClock(std::unique_ptr<Clock> clock)
+{
+    m_clock = std::move(clock);
+}
+
+QPushButton* LinkForm::addButton(const char* name, const char* caption)
+{
+    auto* button = new QPushButton(QLatin1String(caption), this);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(QLatin1String(name));
+    button->setAutoDefault(false);
+    button->setMinimumWidth(ui::buttonWidth);
+    return button;
+}
+
+void LinkForm::layOut(QLayout* content, const QList<QPushButton*>& others)
+{
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(ui::spacing::controlGap);
+    for (QPushButton* button : others) {
+        buttons->addWidget(button);
+    }
+    buttons->addStretch();
+    buttons->addWidget(Communicate);
+    buttons->addWidget(CSCmdBtn1);
+    auto* inner = new QVBoxLayout;
+    inner->addLayout(content);
+    inner->addSpacing(ui::spacing::groupGap);
+    inner->addLayout(buttons);
+    constexpr int margin = ui::spacing::formMargin;
+    inner->setContentsMargins(margin, margin, margin, margin);
+
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addLayout(inner);
+    whole->addWidget(StatusBar1);
+    whole->setSizeConstraint(QLayout::SetFixedSize);
+    // The base makes its buttons first, so that they would come ahead of the form's own controls.
+    const QList<QPushButton*> inOrder = others + QList<QPushButton*>{Communicate, CSCmdBtn1};
+    for (QPushButton* button : inOrder) {
+        setTabOrder(previousInFocusChain(), button);
+    }
+}
+
+void LinkForm::communicate()
+{
+    if (m_work != Work::None) {
+        return;
+    }
+    m_work = Work::Preparing;
+    m_exitPressed = false;
+    m_notice.clear();
+    Communicate->setEnabled(false);
+    bool leavesAtEnd = false;
+    {
+        const auto ended = qScopeGuard([this, &leavesAtEnd] {
+            leavesAtEnd = m_exitPressed && m_work == Work::Moving;
+            m_work = Work::None;
+            m_waitPointer.reset();
+            Communicate->setEnabled(true);
+            Communicate->setFocus();
+        });
+        run();
+    }
+    if (leavesAtEnd) {
+        leave();
+    }
+}
+
+int LinkForm::connectLink(const LinkSettings& link)
+{
+    m_link = link;
+    m_waitPointer.emplace();
+    m_modem = std::make_unique<Modem>(*m_line, *m_clock, [this](const QString& text) { showStep(text); });
+    m_modem->setUpLine(m_link);
+    int result = 0;
+    if (m_link.isModem()) {
+        m_work = Work::Dialling;
+        result = m_modem->DialModem(m_link);
+    }
+    if (!m_exitPressed) {
+        m_work = Work::Moving;
+    }
+    return result;
+}
+
+void LinkForm::disconnectLink()
+{
+    if (m_link.isModem()) {
+        m_modem->Dropphoneline();
+    }
+}
+
+void LinkForm::reject()
+{
+    m_exitPressed = true;
+    if (m_work == Work::Moving) {
+        showNotice(leavingNotice());
+        return;
+    }
+    disconnectLink();
+    leave();
+}
+
+void LinkForm::leave()
+{
+    m_waitPointer.reset();
+    QDialog::reject();
+}
+
+bool LinkForm::runTool(const QString& commandLine)
+{
+    return RunAndWait(m_values, commandLine);
+}
+
+/// The command strings of a modem end in a carriage return, which a status bar would show as a blot.
+void LinkForm::showStep(const QString& text)
+{
+    m_step = text.trimmed();
+    showStatus();
+}
+
+void LinkForm::showNotice(const QString& text)
+{
+    m_notice = text;
+    showStatus();
+}
+
+void LinkForm::showStatus()
+{
+    const bool both = !m_step.isEmpty() && !m_notice.isEmpty();
+    StatusBar1->showMessage(m_step + (both ? QStringLiteral("    ") : QString()) + m_notice);
+}
+
+} // namespace norvane::link

@@ -1,0 +1,97 @@
+// What the exchange dialog and the sales collection share: the run's button, the exit, the status bar, and
+// the modem around a run.
+#pragma once
+
+#include "link/Clock.h"
+#include "link/LinkSettings.h"
+#include "link/Modem.h"
+#include "platform/Boxes.h"
+#include "platform/SerialLine.h"
+#include "shell/ApplicationValues.h"
+#include "ui/WaitPointer.h"
+
+#include <QDialog>
+
+#include <memory>
+#include <optional>
+
+class QBoxLayout;
+class QPushButton;
+class QStatusBar;
+
+namespace norvane::link
+{
+
+/// Base of the forms that speak with the registers. A run blocks but for the modem's waits and one look at
+/// the pending events before each tool, so the user can leave meanwhile.
+class LinkForm : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Puts another serial line or clock in the place of the machine's; before the first run.
+    void setSerialLine(std::unique_ptr<SerialLine> line);
+    void setClock(std::unique_ptr<Clock> clock);
+
+public Q_SLOTS:
+    /// The "E&xit" button, Escape and the window's close button: hangs up a modem and leaves, also in the
+    /// midst of the dialling. Tools at work end the step first.
+    void reject() override;
+
+protected:
+    /// @p name becomes the form's object name, @p runCaption stands on the button Communicate.
+    LinkForm(const char* name, const char* runCaption, ApplicationValues& values, Boxes& boxes,
+             QWidget* parent);
+    ~LinkForm() override;
+
+    /// A button of the form, still to be placed.
+    [[nodiscard]] QPushButton* addButton(const char* name, const char* caption);
+    /// Puts @p content over a row of buttons, @p others ahead of Communicate and Exit, and the status bar
+    /// below. The size is fixed by that.
+    void layOut(QLayout* content, const QList<QPushButton*>& others = {});
+
+    /// One press of Communicate.
+    virtual void run() = 0;
+    /// What the user reads who leaves while tools are at work.
+    [[nodiscard]] virtual QString leavingNotice() const = 0;
+
+    /// Sets up the serial line, shows the wait pointer, and dials when @p link is a modem.
+    /// @return 0 when the registers can be reached, modemFailed when the dialling failed. A user who left
+    /// during the dialling has hung up already; see exitPressed().
+    [[nodiscard]] int connectLink(const LinkSettings& link);
+    /// Hangs up a modem; nothing on a direct line.
+    void disconnectLink();
+    [[nodiscard]] bool exitPressed() const { return m_exitPressed; }
+
+    /// Runs a tool and waits for it. @return false when it could not be started.
+    bool runTool(const QString& commandLine);
+    /// Names the step in work.
+    void showStep(const QString& text);
+    /// Shows @p text beside the steps until the run ends.
+    void showNotice(const QString& text);
+
+    ApplicationValues& m_values;
+    Boxes& m_boxes;
+    QPushButton* Communicate = nullptr;
+    QPushButton* CSCmdBtn1 = nullptr;
+    QStatusBar* StatusBar1 = nullptr;
+
+private:
+    void communicate();
+    void leave();
+    void showStatus();
+
+    std::unique_ptr<SerialLine> m_line;
+    std::unique_ptr<Clock> m_clock;
+    std::unique_ptr<Modem> m_modem;
+    LinkSettings m_link; ///< of the last run
+    /// What a run is busy with.
+    enum class Work { None, Preparing, Dialling, Moving };
+    Work m_work = Work::None;
+    bool m_exitPressed = false; ///< while a run was busy
+    QString m_step;
+    QString m_notice;
+    std::optional<ui::WaitPointer> m_waitPointer;
+};
+
+} // namespace norvane::link

@@ -1,0 +1,266 @@
+// The five readers as one table, and the engine that reads by it; see PollImport.h.
+#include "sales/PollImport.h"
+
+#include "platform/Decimal.h"
+#include "platform/FilePaths.h"
+#include "platform/Numbers.h"
+#include "platform/RuntimeFailure.h"
+#include "records/RecordText.h"
+#include "sales/PollText.h"
+#include "shell/SharedRoutines.h"
+#include "store/Database.h"
+#include "store/Recordset.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <string>
+
+namespace norvane::sales
+{
+namespace
+{
+
+using store::Value;
+
+constexpr const char* itemFields[] = {"quantity", "value"};
+constexpr const char* mixFields[] = {"quantity"};
+constexpr const char* pluFields[] = {"ID",     "promo",  "waste",  "count1", "value1", "count2",
+                                     "value2", "count3", "value3", "count4", "value4"};
+
+// clang-format off
+constexpr PollFile readers[] = {
+    {"FileFinSales",   "poll190.txt", "financialsales", itemFields, Numbering::Running, RecordForm::Fixed,   false, 0},
+    {"FilePLUSales",   "poll194.txt", "plusales",       pluFields,  Numbering::ByText,  RecordForm::Stamped, true,  0},
+    {"FileTimeSales",  "poll191.txt", "Timesales",      itemFields, Numbering::Running, RecordForm::Fixed,   false, 0},
+    {"FilemixSales",   "poll218.txt", "mixsales",       mixFields,  Numbering::Running, RecordForm::Fixed,   false, 2},
+    {"FileClerkSales", "poll192.txt", "CLERKSALES",     itemFields, Numbering::ByBlock, RecordForm::Fixed,   false, 0},
+};
+// clang-format on
+
+/// Records of one clerk.
+constexpr std::int64_t blockLength = 118;
+
+/// How many price levels the PLU report has by its stamp. The first row that fits counts, so that a last
+/// digit of 0 means one level whatever stands before it.
+struct StampLayout {
+    enum { First, Last } place;
+    char digit;
+    std::size_t levels;
+};
+constexpr StampLayout stampLayouts[] = {
+    {StampLayout::Last, '0', 1},  {StampLayout::First, '1', 1}, {StampLayout::First, '2', 2},
+    {StampLayout::First, '3', 3}, {StampLayout::First, '4', 4},
+};
+/// Values of a PLU record ahead of its levels, and of each level.
+constexpr std::size_t pluHead = 3;
+constexpr std::size_t levelValues = 2;
+
+/// @return 0 when the stamp fits no layout.
+std::size_t valuesByStamp(const QString& stamp)
+{
+    const auto* const layout =
+        std::find_if(std::begin(stampLayouts), std::end(stampLayouts), [&stamp](const StampLayout& each) {
+            const QChar digit = each.place == StampLayout::First ? stamp.front() : stamp.back();
+            return digit == QLatin1Char(each.digit);
+        });
+    return layout == std::end(stampLayouts) ? 0 : pluHead + levelValues * layout->levels;
+}
+
+/// A text for a message, where a file of another kind can be one value as a whole.
+QString shown(std::string_view text)
+{
+    constexpr std::size_t longest = 40;
+    return QString::fromStdString(records::plainFromRegister(text.substr(0, longest)));
+}
+
+[[noreturn]] void failNoNumber(std::string_view text)
+{
+    throw RuntimeFailure(Failure::TypeMismatch,
+                         QStringLiteral("Type mismatch: \"%1\" is no number").arg(shown(text)));
+}
+
+/// The usual spelling without a detour: digits with a point at most.
+bool readPlainNumber(std::string_view text, double& number)
+{
+    const auto result =
+        std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+    const char last = text.empty() ? ' ' : text.back();
+    return result.ec == std::errc() && result.ptr == text.data() + text.size() && last >= '0' && last <= '9';
+}
+
+double numberOf(std::string_view text)
+{
+    double number = 0;
+    if (readPlainNumber(text, number))
+        return number;
+    const QString spelled = QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+    try {
+        return toNumber(spelled);
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() == Failure::TypeMismatch)
+            failNoNumber(text);
+        throw;
+    }
+}
+
+/// The point moves in decimal: a hundred times 0.07 is 7 exactly.
+double shiftedNumberOf(std::string_view text, int shift)
+{
+    const auto number = Decimal::parse(text);
+    if (!number)
+        failNoNumber(text);
+    return number->shifted(shift).toDouble();
+}
+
+/// Stores one record after another.
+class Import
+{
+public:
+    Import(const PollFile& file, store::Recordset& records, const ApplicationValues& values, QDate collected);
+
+    void storeAll(PollText& text);
+
+private:
+    void storeRecord(PollText& text);
+    void count();
+    void needLayout() const;
+    void readValues(PollText& text);
+    [[nodiscard]] Value valueOf(std::size_t at, std::string_view text);
+    void addRow();
+    [[nodiscard]] int ordinal(const char* field) const
+    {
+        return m_records.fieldOrdinal(QLatin1String(field));
+    }
+
+    const PollFile& m_file;
+    store::Recordset& m_records;
+    QDate m_collected;
+    QString m_stamp;
+    std::size_t m_valuesOfRecord;
+    std::array<int, std::size(pluFields)> m_ordinals{};
+    int m_date;
+    int m_id;
+    int m_clerk = -1;
+
+    std::int64_t m_record = 0; ///< its number in the file, from 1
+    std::int64_t m_itemId = 0;
+    std::int64_t m_clerkId = 1;
+    std::array<Value, std::size(pluFields)> m_values;
+    bool m_allZero = true;
+};
+
+Import::Import(const PollFile& file, store::Recordset& records, const ApplicationValues& values,
+               QDate collected)
+    : m_file(file), m_records(records), m_collected(collected), m_valuesOfRecord(file.fields.size()),
+      m_date(ordinal("salesdate")), m_id(ordinal("ID"))
+{
+    if (file.form == RecordForm::Stamped) {
+        m_stamp = ReadPoll194Stamp(values).trimmed();
+        m_valuesOfRecord = valuesByStamp(m_stamp);
+    }
+    if (file.numbering == Numbering::ByBlock)
+        m_clerk = ordinal("CLERKID");
+    for (std::size_t at = 0; at < file.fields.size(); ++at)
+        m_ordinals.at(at) = ordinal(file.fields[at]);
+}
+
+void Import::storeAll(PollText& text)
+{
+    while (!text.atEnd()) {
+        count();
+        try {
+            storeRecord(text);
+        } catch (const RuntimeFailure& failure) {
+            throw RuntimeFailure(failure.failure(), QStringLiteral("%1, record %2: %3")
+                                                        .arg(QLatin1String(m_file.name))
+                                                        .arg(m_record)
+                                                        .arg(failure.text()));
+        }
+    }
+}
+
+void Import::storeRecord(PollText& text)
+{
+    needLayout();
+    readValues(text);
+    if (m_file.keepsZeros || !m_allZero)
+        addRow();
+}
+
+/// Records that are passed over count too, so that an item keeps its number.
+void Import::count()
+{
+    ++m_record;
+    ++m_itemId;
+    if (m_file.numbering == Numbering::ByBlock && m_itemId > blockLength) {
+        m_itemId = 1;
+        ++m_clerkId;
+    }
+}
+
+void Import::needLayout() const
+{
+    if (m_valuesOfRecord == 0) {
+        throw RuntimeFailure(
+            Failure::RequiredFieldIsNull,
+            QStringLiteral("The stamp %1 of poll194.dll fits no layout of the PLU sales.").arg(m_stamp));
+    }
+}
+
+void Import::readValues(PollText& text)
+{
+    m_allZero = true;
+    for (std::size_t at = 0; at < m_valuesOfRecord; ++at) {
+        const auto next = text.next();
+        if (!next) {
+            throw RuntimeFailure(Failure::InputPastEnd,
+                                 QStringLiteral("Input past end of file: the record has %1 of %2 values")
+                                     .arg(at)
+                                     .arg(m_valuesOfRecord));
+        }
+        m_values.at(at) = valueOf(at, *next);
+    }
+}
+
+Value Import::valueOf(std::size_t at, std::string_view text)
+{
+    if (at == 0 && m_file.numbering == Numbering::ByText && !text.empty())
+        return Value::text(records::plainFromRegister(text));
+    const double number = m_file.shift == 0 ? numberOf(text) : shiftedNumberOf(text, m_file.shift);
+    m_allZero = m_allZero && number == 0;
+    return Value::number(number);
+}
+
+void Import::addRow()
+{
+    m_records.addNew();
+    if (m_file.numbering != Numbering::ByText)
+        m_records.setValue(m_id, Value::whole(m_itemId));
+    if (m_clerk >= 0)
+        m_records.setValue(m_clerk, Value::whole(m_clerkId));
+    m_records.setValue(m_date, Value::date(m_collected));
+    for (std::size_t at = 0; at < m_valuesOfRecord; ++at)
+        m_records.setValue(m_ordinals.at(at), std::move(m_values.at(at)));
+    m_records.update();
+}
+
+} // namespace
+
+std::span<const PollFile> pollFiles()
+{
+    return readers;
+}
+
+void importPollFile(const PollFile& file, const ApplicationValues& values, QDate collected)
+{
+    store::Database database(values.databasePath);
+    store::Transaction transaction(database);
+    store::Recordset records = database.openTable(QLatin1String(file.table));
+    const QByteArray content = readWholeFile(joinPath(values.appPath, QLatin1String(file.name)));
+    PollText text({content.constData(), static_cast<std::size_t>(content.size())});
+    Import(file, records, values, collected).storeAll(text);
+    transaction.commit();
+}
+
+} // namespace norvane::sales

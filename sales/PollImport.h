@@ -1,0 +1,49 @@
+// From the text of a collected report to the rows of a sales table.
+#pragma once
+
+#include "shell/ApplicationValues.h"
+
+#include <QDate>
+
+#include <span>
+
+namespace norvane::sales
+{
+
+/// What a row's ID is, when the record does not tell it.
+enum class Numbering {
+    ByText,  ///< the record's first value is the item's code
+    Running, ///< the place of the record in the file, from 1
+    ByBlock, ///< the place of the record in the clerk's block; the number of the block is CLERKID
+};
+
+/// Which values a record has.
+enum class RecordForm {
+    Fixed,   ///< one for each field
+    Stamped, ///< so many as the stamp of the PLU report tells
+};
+
+/// One of the five readers.
+struct PollFile {
+    const char* procedure; ///< its name, as "FileFinSales"
+    const char* name;      ///< text file in the program's folder, as "poll190.txt"
+    const char* table;
+    std::span<const char* const> fields; ///< what the values of a record are stored in, in their order
+    Numbering numbering;
+    RecordForm form;
+    bool keepsZeros; ///< whether a record of nothing but zeros becomes a row
+    int shift;       ///< places by which the point of a value moves to the right
+};
+
+/// The five readers in the order in which a collection runs them.
+[[nodiscard]] std::span<const PollFile> pollFiles();
+
+/// Appends a row to the reader's table for each record of its file, dated @p collected: nothing in a file
+/// tells when its sales were made. All in one transaction, which stays when a failure ends it, so that the
+/// records ahead of a bad one are kept; a process that is killed leaves the table as it was.
+/// @throws RuntimeFailure 53 when the file is missing; naming file and record 62 when the last record is
+/// short, 13 for a value that is empty or no number, 6 for one that is too large, 3163 for an item's code
+/// that is too long, 3314 at the first record when the PLU report's stamp fits no layout.
+void importPollFile(const PollFile& file, const ApplicationValues& values, QDate collected);
+
+} // namespace norvane::sales
