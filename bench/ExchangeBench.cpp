@@ -91,7 +91,7 @@ public:
 
     Meter run(void (exchange::ExchangeRunner::*sequence)())
     {
-        const exchange::LinkSettings link = exchange::readLinkSettings(m_values);
+        const link::LinkSettings link = link::readLinkSettings(m_values);
         AllBoxes boxes;
         Meter meter;
         exchange::ExchangeRunner runner(
