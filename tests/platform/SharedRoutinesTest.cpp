@@ -31,14 +31,18 @@ protected:
 TEST_F(SharedRoutinesTest, ModelIndexesGiveTheConvertersWords)
 {
     EXPECT_EQ(GetModelCode(m_values), u"Velmaro") << "without a settings file";
-    const struct {
-        const char* model;
-        const char16_t* code;
-    } rows[] = {{" 0", u"Velmaro"}, {"1", u"Velmaro"}, {"2", u"Velmarn"},
-                {"3", u"Dorvik"},   {"-1", u"Dorvik"}, {"17", u"Dorvik"}};
-    for (const auto& row : rows) {
-        m_app.write("Cafe/setup.ini", QByteArray("[SetupOption]\r\nECRModel=") + row.model);
-        EXPECT_EQ(GetModelCode(m_values), row.code) << row.model;
+    for (const auto& [model, code] : {std::pair{" 0", u"Velmaro"},
+                                      {"1", u"Velmaro"},
+                                      {"2", u"Velmarn"},
+                                      {"3", u"Dorvik"},
+                                      {"-1", u"Dorvik"},
+                                      {"17", u"Dorvik"}}) {
+        m_app.write("Cafe/setup.ini", QByteArray("[SetupOption]\r\nECRModel=") + model);
+        EXPECT_EQ(GetModelCode(m_values), code) << model;
+    }
+    for (const char* model : {"", "two", "2x"}) {
+        m_app.write("Cafe/setup.ini", QByteArray("[SetupOption]\r\nECRModel=") + model);
+        EXPECT_EQ(failureOf([this] { (void)GetModelCode(m_values); }), 13) << model;
     }
 }
 
@@ -101,35 +105,28 @@ TEST_F(SharedRoutinesTest, TheRegistersMarkIsShownAsACircumflex)
 
 TEST_F(SharedRoutinesTest, AllLeadingZerosGo)
 {
-    const struct {
-        const char16_t* text;
-        const char16_t* stripped;
-    } rows[] = {{u" 0120 ", u"120"}, {u"0000", u""}, {u"", u""}, {u" 12 ", u"12"}, {u"0 5", u" 5"}};
-    for (const auto& row : rows) {
-        QString text = QString::fromUtf16(row.text);
-        EXPECT_EQ(StripLeadingZero(text), row.stripped);
-        EXPECT_EQ(text, row.stripped);
+    for (const auto& [given, stripped] :
+         {std::pair{u" 0120 ", u"120"}, {u"0000", u""}, {u"", u""}, {u" 12 ", u"12"}, {u"0 5", u" 5"}}) {
+        QString text = QString::fromUtf16(given);
+        EXPECT_EQ(StripLeadingZero(text), stripped);
+        EXPECT_EQ(text, stripped);
     }
 }
 
 TEST_F(SharedRoutinesTest, TheLastValueOfTheStatusFileCounts)
 {
     EXPECT_EQ(failureOf([] { (void)ReadStatusOut(); }), 53);
-    const struct {
-        const char* content;
-        const char16_t* status;
-    } rows[] = {{"", u""},
-                {"0\r\n8\r\n", u"8"},
-                {"8,0", u"0"},
-                {" 0 , -13 \r\n", u"-13"},
-                {"\"0\",\"a,b\"\r\n", u"a,b"},
-                // neither an empty place nor the end mark hides the error
-                {"8\r\n\r\n\x1A", u"8"},
-                {"8,,\r\n", u"8"},
-                {"\r\n , \r\n", u""}};
-    for (const auto& row : rows) {
-        m_app.write("STATUS.OUT", row.content);
-        EXPECT_EQ(ReadStatusOut(), row.status) << row.content;
+    // Neither an empty place nor the end mark hides the error.
+    for (const auto& [content, status] : {std::pair{"", u""},
+                                          {"0\r\n8\r\n", u"8"},
+                                          {"8,0", u"0"},
+                                          {" 0 , -13 \r\n", u"-13"},
+                                          {"\"0\",\"a,b\"\r\n", u"a,b"},
+                                          {"8\r\n\r\n\x1A", u"8"},
+                                          {"8,,\r\n", u"8"},
+                                          {"\r\n , \r\n", u""}}) {
+        m_app.write("STATUS.OUT", content);
+        EXPECT_EQ(ReadStatusOut(), status) << content;
     }
 }
 
