@@ -72,27 +72,11 @@ TEST_F(CustomerFoldersTest, ABlankNameIsInvalidAndStandsInTheNameAllTheSame)
 
 TEST_F(CustomerFoldersTest, ARefusedNameChangesNothingOnDisk)
 {
-    const QString names[] = {u".."_s,
-                             u"../Out"_s,
-                             u"..\\Out"_s,
-                             u"Cafe/../../Out"_s,
-                             u"Cafe\\..\\..\\Out"_s,
-                             u"."_s,
-                             u".. "_s,
-                             u"..."_s,
-                             u" ../Out"_s,
-                             u"/tmp"_s,
-                             u"\\Out"_s,
-                             u"C:\\Out"_s,
-                             u"C:Out"_s,
-                             u"Cafe:x"_s,
-                             u"velmar.mdb"_s,
-                             u"SETUP.INI"_s,
-                             u"None/Shop"_s,
-                             u"velmar.mdb/Shop"_s,
-                             QString(300, u'x'),
-                             m_folder.path("Out")};
-    for (const QString& name : names) {
+    QStringList names =
+        u"..;../Out;..\\Out;Cafe/../../Out;Cafe\\..\\..\\Out;.;.. ;...; ../Out;/tmp;\\Out;C:\\Out;C:Out;"
+        "Cafe:x;velmar.mdb;SETUP.INI;None/Shop;velmar.mdb/Shop"_s.split(u';');
+    names << QString(300, u'x') << m_folder.path("Out");
+    for (const QString& name : std::as_const(names)) {
         EXPECT_EQ(chooseCustomer(m_values, name), CustomerChoice::Failed) << name.toStdString();
         EXPECT_EQ(m_values.customerName, name);
         EXPECT_EQ(m_values.customerPath, m_folder.path("app/Cafe")) << name.toStdString();
