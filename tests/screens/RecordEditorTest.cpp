@@ -40,31 +40,23 @@ protected:
     BoundFields m_pluFields{bound(ControlKind::Text, "PLUNUMBER"), bound(ControlKind::Text, "DESCRIPTION")};
 };
 
-TEST_F(RecordEditorTest, ShowsTheFirstRecordOfTheIndex)
-{
-    editor().showFields(m_groupFields);
-    QStringList shown;
-    for (const BoundField& field : std::as_const(m_groupFields))
-        shown += field.content.toText();
-    EXPECT_EQ(shown.join(u'|'), QStringLiteral("1|Wines|12.34|3|1|0"))
-        << "a flag that holds 1 is not true and shows unticked";
-    editor("GROUPS", "byname").showFields(m_groupFields);
-    EXPECT_EQ(m_groupFields[1].content.toText(), QStringLiteral("Beers"));
-}
-
 TEST_F(RecordEditorTest, NullIsEmptyOrZeroButNotInAWholeNumberBox)
 {
+    editor("GROUPS", "byname").showFields(m_groupFields);
+    EXPECT_EQ(m_groupFields[1].content.toText(), QStringLiteral("Beers"));
+    EXPECT_EQ(m_groupFields[4].content, Value::whole(0));
     m_shop.execute("update GROUPS set DESCRIPTION = null, PRICE = null, LINK = null, TAX1 = null");
     editor().showFields(m_groupFields);
     EXPECT_EQ(m_groupFields[1].content, text(""));
     EXPECT_EQ(m_groupFields[2].content, text("0"));
     EXPECT_TRUE(m_groupFields[3].content.isNull());
     EXPECT_EQ(m_groupFields[4].content, Value::whole(0));
+    EXPECT_EQ(m_groupFields[5].content, Value::whole(0)) << "a flag that holds 1 is not true";
     BoundFields fields{bound(ControlKind::Integer, "LINK")};
     EXPECT_EQ(failureOf([&] { editor().showFields(fields); }), 13);
 }
 
-TEST_F(RecordEditorTest, SavesEachKindInItsForm)
+TEST_F(RecordEditorTest, SavesEachKindInItsFormAndLeavesReadOnlyBoxesOut)
 {
     RecordEditor groups = editor();
     groups.showFields(m_groupFields);
@@ -72,34 +64,20 @@ TEST_F(RecordEditorTest, SavesEachKindInItsForm)
     for (int at = 0; at < m_groupFields.size(); ++at)
         m_groupFields[at].content = text(typed[at]);
     EXPECT_EQ(groups.save(m_groupFields), SaveOutcome::Stored);
-    EXPECT_EQ(
-        m_shop.rows("select GROUPNO, DESCRIPTION, PRICE, LINK, TAX1, FLAG from GROUPS where GROUPNO = 1"),
-        QStringList{QStringLiteral("1|Ports|7.5|2|True|1")});
-}
-
-TEST_F(RecordEditorTest, ReadOnlyBoxesAreNotWritten)
-{
-    RecordEditor groups = editor();
     BoundFields fields{bound(ControlKind::Text, "DESCRIPTION", true),
-                       bound(ControlKind::Integer, "LINK", true), bound(ControlKind::Decimal, "RATE", true)};
+                       bound(ControlKind::Integer, "LINK", true), bound(ControlKind::Decimal, "RATE", true),
+                       bound(ControlKind::Text, "LONGLINK")};
     for (BoundField& field : fields)
         field.content = text("9");
+    fields[3].content = text("999999999999999999");
     EXPECT_EQ(groups.save(fields), SaveOutcome::Stored);
-    EXPECT_EQ(m_shop.rows("select DESCRIPTION, LINK, RATE from GROUPS where GROUPNO = 1"),
-              QStringList{QStringLiteral("Wines|3|1.5")});
-}
-
-TEST_F(RecordEditorTest, AnEmptyBoxOfANumberFieldLeavesItNull)
-{
-    RecordEditor groups = editor();
-    BoundFields fields{bound(ControlKind::Text, "LONGLINK"), bound(ControlKind::Text, "DESCRIPTION")};
-    groups.showFields(fields);
-    fields[1].content = text("Ports");
+    EXPECT_EQ(m_shop.rows("select GROUPNO, DESCRIPTION, PRICE, LINK, TAX1, FLAG, RATE, LONGLINK from GROUPS "
+                          "where GROUPNO = 1"),
+              QStringList{QStringLiteral("1|Ports|7.5|2|True|1|1.5|999999999999999999")});
+    fields[3].content = text("");
     EXPECT_EQ(groups.save(fields), SaveOutcome::Stored);
-    fields[0].content = text("999999999999999999");
-    EXPECT_EQ(groups.save(fields), SaveOutcome::Stored);
-    EXPECT_EQ(m_shop.rows("select LONGLINK, DESCRIPTION from GROUPS where GROUPNO < 3 order by GROUPNO"),
-              (QStringList{QStringLiteral("999999999999999999|Ports"), QStringLiteral("null|Beers")}));
+    EXPECT_EQ(m_shop.rows("select LONGLINK from GROUPS where GROUPNO = 1"),
+              QStringList{QStringLiteral("null")});
 }
 
 TEST_F(RecordEditorTest, PluNumbersAreFilledToTheirWidth)
@@ -117,26 +95,21 @@ TEST_F(RecordEditorTest, PluNumbersAreFilledToTheirWidth)
     EXPECT_EQ(m_shop.rows("select PLUNUMBER from PLUDATA order by PLUNUMBER"),
               (QStringList{QStringLiteral("000000000000000005"), QStringLiteral("000000000000000077"),
                            QStringLiteral("000000000000000123")}));
+    EXPECT_TRUE(plus.find(1, QStringLiteral("123")));
+    plus.showFields(m_pluFields);
+    EXPECT_EQ(m_pluFields[1].content.toText(), QStringLiteral("Claret"));
+    EXPECT_FALSE(plus.find(2, QStringLiteral("124")));
 }
 
-TEST_F(RecordEditorTest, ADuplicateKeyKeepsTheRecordOpenForTheNextTry)
+TEST_F(RecordEditorTest, AChangedKeyThatIsTakenKeepsTheRecordOpen)
 {
     RecordEditor plus = pluEditor();
-    plus.add(m_pluFields);
-    EXPECT_EQ(m_pluFields[1].content, text(""));
-    m_pluFields[0].content = text("123");
-    m_pluFields[1].content = text("Stout");
-    EXPECT_EQ(plus.save(m_pluFields), SaveOutcome::DuplicateKey);
-    m_pluFields[0].content = text("124");
-    EXPECT_EQ(plus.save(m_pluFields), SaveOutcome::Stored) << "still the new record";
-    EXPECT_EQ(m_shop.rows("select DESCRIPTION from PLUDATA order by PLUNUMBER"),
-              (QStringList{QStringLiteral("Lager"), QStringLiteral("Claret"), QStringLiteral("Stout")}));
-    // The same for a record that exists.
     plus.showFields(m_pluFields);
-    m_pluFields[0].content = text("124");
-    EXPECT_EQ(plus.save(m_pluFields), SaveOutcome::DuplicateKey);
-    m_pluFields[0].content = text("4");
-    EXPECT_EQ(plus.save(m_pluFields), SaveOutcome::Stored);
+    for (const auto& [number, outcome] :
+         {std::pair{"123", SaveOutcome::DuplicateKey}, {"4", SaveOutcome::Stored}}) {
+        m_pluFields[0].content = text(number);
+        EXPECT_EQ(plus.save(m_pluFields), outcome) << number;
+    }
     EXPECT_EQ(m_shop.rows("select DESCRIPTION from PLUDATA where PLUNUMBER = '000000000000000004'"),
               QStringList{QStringLiteral("Lager")});
 }
@@ -154,49 +127,6 @@ TEST_F(RecordEditorTest, OtherFailuresOfASavePassSilently)
               QStringList{QStringLiteral("Wines|3")});
 }
 
-TEST_F(RecordEditorTest, MovesStopAtBothEndsAndDropWhatIsOpen)
-{
-    RecordEditor groups = editor();
-    BoundFields fields{bound(ControlKind::Text, "DESCRIPTION")};
-    const auto shown = [&] {
-        groups.showFields(fields);
-        return fields[0].content.toText();
-    };
-    EXPECT_FALSE(groups.previous());
-    EXPECT_EQ(shown(), QStringLiteral("Wines"));
-    EXPECT_TRUE(groups.next());
-    EXPECT_TRUE(groups.next());
-    EXPECT_FALSE(groups.next());
-    EXPECT_EQ(shown(), QStringLiteral("Food"));
-    groups.add(fields);
-    groups.add(fields);
-    EXPECT_TRUE(groups.previous());
-    EXPECT_EQ(shown(), QStringLiteral("Beers"));
-    fields[0].content = text("Ales");
-    EXPECT_EQ(groups.save(fields), SaveOutcome::Stored) << "the new records are gone; this one is changed";
-    EXPECT_EQ(m_shop.rows("select DESCRIPTION from GROUPS order by GROUPNO"),
-              (QStringList{QStringLiteral("Wines"), QStringLiteral("Ales"), QStringLiteral("Food")}));
-}
-
-TEST_F(RecordEditorTest, FindLandsAtOrAfterTheTextAndItsIndexStays)
-{
-    RecordEditor groups = editor();
-    BoundFields fields{bound(ControlKind::Text, "DESCRIPTION")};
-    const auto shown = [&] {
-        groups.showFields(fields);
-        return fields[0].content.toText();
-    };
-    EXPECT_TRUE(groups.find(1, QStringLiteral("2")));
-    EXPECT_EQ(shown(), QStringLiteral("Beers"));
-    EXPECT_TRUE(groups.find(2, QStringLiteral("C")));
-    EXPECT_EQ(shown(), QStringLiteral("Food"));
-    EXPECT_TRUE(groups.next());
-    EXPECT_EQ(shown(), QStringLiteral("Wines")) << "by name";
-    EXPECT_TRUE(groups.find(1, {}));
-    EXPECT_EQ(shown(), QStringLiteral("Wines")) << "an empty text lies before every key";
-    EXPECT_EQ(failureOf([&] { (void)groups.find(1, QStringLiteral("two")); }), 3421);
-}
-
 TEST_F(RecordEditorTest, AfterASearchInVainTheMovesGoToTheLastRecord)
 {
     RecordEditor groups = editor();
@@ -210,29 +140,20 @@ TEST_F(RecordEditorTest, AfterASearchInVainTheMovesGoToTheLastRecord)
     }
 }
 
-TEST_F(RecordEditorTest, FindFillsPluNumbers)
-{
-    RecordEditor plus = pluEditor();
-    EXPECT_TRUE(plus.find(1, QStringLiteral("123")));
-    plus.showFields(m_pluFields);
-    EXPECT_EQ(m_pluFields[1].content.toText(), QStringLiteral("Claret"));
-    EXPECT_FALSE(plus.find(2, QStringLiteral("124")));
-}
-
-TEST_F(RecordEditorTest, DeletesTheCurrentRecordAndDropsANewOne)
+TEST_F(RecordEditorTest, AMoveOrADeletionDropsANewRecord)
 {
     RecordEditor groups = editor();
     BoundFields fields{bound(ControlKind::Text, "DESCRIPTION")};
     groups.add(fields);
-    groups.deleteRecord();
-    EXPECT_EQ(m_shop.rows("select GROUPNO from GROUPS").size(), 3);
+    groups.add(fields);
     EXPECT_TRUE(groups.next());
-    groups.deleteRecord();
     groups.showFields(fields);
-    EXPECT_EQ(fields[0].content.toText(), QStringLiteral("Wines"));
+    fields[0].content = text("Ales");
+    EXPECT_EQ(groups.save(fields), SaveOutcome::Stored) << "the new records are gone; this one is changed";
+    groups.add(fields);
     groups.deleteRecord();
-    EXPECT_EQ(failureOf([&] { groups.deleteRecord(); }), 3021) << "the last one leaves nothing to show";
-    EXPECT_TRUE(m_shop.rows("select GROUPNO from GROUPS").isEmpty());
+    EXPECT_EQ(m_shop.rows("select DESCRIPTION from GROUPS order by GROUPNO"),
+              (QStringList{QStringLiteral("Wines"), QStringLiteral("Ales"), QStringLiteral("Food")}));
 }
 
 } // namespace

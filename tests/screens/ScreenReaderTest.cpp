@@ -1,6 +1,7 @@
 // Screen files as their authors write them, odd ones included.
 #include "screens/ScreenReader.h"
 
+#include "screens/ComboRows.h"
 #include "tests/platform/TestFolder.h"
 
 namespace norvane::screens
@@ -64,16 +65,14 @@ TEST_F(ScreenReaderTest, TheScanEndsAtAGapAndPassesOverUnknownTypes)
     EXPECT_EQ(controls.front().section, QStringLiteral("Field2"));
 }
 
-TEST_F(ScreenReaderTest, AQueryPutsTheListOut)
-{
-    EXPECT_TRUE(onlyControl("ComboControl", "SQLCriteria=select * from x\nList=0;a").list.isEmpty());
-}
-
-TEST_F(ScreenReaderTest, ValuesAreCutButListsMayBeLonger)
+TEST_F(ScreenReaderTest, ListsMayBeLongerThanOtherValuesAndGiveWayToAQuery)
 {
     const QByteArray longText(300, 'x');
     EXPECT_EQ(onlyControl("LabelControl", "Description=" + longText).description.size(), 144);
     EXPECT_EQ(onlyControl("ComboControl", "List=" + longText).list.size(), 255);
+    EXPECT_TRUE(onlyControl("ComboControl", "SQLCriteria=select * from x\nList=0;a").list.isEmpty());
+    EXPECT_EQ(rowsOfList(QStringLiteral("0;Off,")).size(), 1) << "a closing comma makes no row";
+    EXPECT_TRUE(rowsOfList({}).isEmpty());
 }
 
 TEST_F(ScreenReaderTest, GridColumnsEndAtTheFirstWithoutCaption)
