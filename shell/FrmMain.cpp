@@ -8,8 +8,8 @@
 #include "ui/Appearance.h"
 #include "ui/WaitPointer.h"
 
-#include <QApplication>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -198,7 +198,7 @@ void FrmMain::unload()
 void FrmMain::beginWork()
 {
     m_working = true;
-    m_focusBeforeWork = QApplication::focusWidget();
+    m_focusBeforeWork = focusWidget();
     menuBar()->setEnabled(false);
     m_area->setEnabled(false);
 }

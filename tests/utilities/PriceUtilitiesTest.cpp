@@ -133,10 +133,9 @@ TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClos
         auto records = database.openTable(table);
         records.addNew();
         for (int i = 0; i < records.fieldCount(); ++i) {
+            const bool isDate = records.field(i).type == store::FieldType::Date;
             if (records.field(i).required)
-                records.setValue(i, records.field(i).type == store::FieldType::Date
-                                        ? store::Value::date({2026, 11, 24})
-                                        : store::Value::whole(1));
+                records.setValue(i, isDate ? store::Value::date({2026, 11, 24}) : store::Value::whole(1));
         }
         records.update();
     }
