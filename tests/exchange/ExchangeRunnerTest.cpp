@@ -177,38 +177,6 @@ TEST(ExchangeRunner, FetchesEveryFileFromOneRegisterAndSendsItToAll)
     }
 }
 
-TEST(ExchangeRunner, MovesThePointsBehindThePlusWhereTheModelHasCards)
-{
-    for (const int model : {0, 1, 2, 3}) {
-        SCOPED_TRACE(model);
-        Exchange shop(model);
-        shop.upload({0, 34, 35});
-        EXPECT_EQ(shop.files(), model == 0 ? QList<int>{67} : (QList<int>{67, 85, 86, 71}));
-        EXPECT_TRUE(shop.ticks.ticked.empty());
-        shop.download({0});
-        EXPECT_EQ(shop.files(), model == 0 ? QList<int>{67} : (QList<int>{67, 71}));
-        EXPECT_TRUE(shop.ticks.ticked.empty());
-        EXPECT_TRUE(shop.boxes.shown.empty());
-    }
-}
-
-TEST(ExchangeRunner, StopsAtAFailingStepAndBeginsThatBoxAnew)
-{
-    Exchange shop(2);
-    shop.folder.setFaults("[Off]\nTool=VELMARCOMM\nCommand=fetch\nFile=9\nResult=8\nNth=1\n");
-    shop.upload({2, 4, 5});
-    EXPECT_EQ(shop.files(), (QList<int>{1, 3, 4, 5, 6, 7, 8, 9}));
-    EXPECT_TRUE(shop.showsOnly("Communications Error 8"));
-    EXPECT_EQ(shop.ticks.ticked, (Boxset{4, 5}));
-    EXPECT_TRUE(pathExists(shop.kept("8.dat")));
-    EXPECT_FALSE(pathExists(shop.kept("9.dat")));
-
-    shop.upload(Boxset(shop.ticks.ticked));
-    EXPECT_EQ(shop.files().value(0), 3);
-    EXPECT_TRUE(shop.ticks.ticked.empty());
-    EXPECT_TRUE(shop.boxes.shown.empty());
-}
-
 TEST(ExchangeRunner, StopsAtAFailingOpening)
 {
     Exchange shop(2);
@@ -220,15 +188,6 @@ TEST(ExchangeRunner, StopsAtAFailingOpening)
     EXPECT_EQ(shop.transfers.size(), 2) << "the memory file comes first on the way down";
     EXPECT_TRUE(shop.showsOnly("Communications Error 8"));
     EXPECT_EQ(shop.ticks.ticked, Boxset{2});
-}
-
-TEST(ExchangeRunner, SkipsARowWithoutRecords)
-{
-    Exchange shop(2);
-    shop.download({15});
-    EXPECT_EQ(shop.files(), QList<int>());
-    EXPECT_TRUE(shop.ticks.ticked.empty());
-    EXPECT_FALSE(pathExists(shop.folder.appFile(QStringLiteral("70.txt"))));
 }
 
 TEST(ExchangeRunner, SendsTheKeptBitmapOnlyWhenItHasBytes)

@@ -1,17 +1,7 @@
 // The memory allocation row after a conversion that left a given text.
 #include "exchange/MemoryFile.h"
 
-#include "platform/FilePaths.h"
-#include "platform/RuntimeFailure.h"
-#include "shell/CustomerSettings.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
-#include "tests/support/RecordingBoxes.h"
-
-#include <gtest/gtest.h>
-#include <QDir>
-#include <QTemporaryDir>
+#include "tests/records/Shop.h"
 
 namespace norvane::exchange
 {
@@ -26,105 +16,54 @@ constexpr const char* fullLine =
 class MemoryFileTest : public testing::Test
 {
 protected:
-    MemoryFileTest()
-    {
-        QDir::setCurrent(m_folder.path());
-        m_values.appPath = m_folder.path();
-        m_values.customerPath = m_folder.path();
-        m_values.databasePath = m_folder.filePath(QStringLiteral("velmar.mdb"));
-        store::Database::create(m_values.databasePath, store::catalogue());
-        writeWholeFile(settingsPath(m_values), "[SetupOption]\r\nECRModel= 2\r\n");
-    }
-    ~MemoryFileTest() override { QDir::setCurrent(QDir::rootPath()); }
-
     /// Runs the procedure for a mem.dat of so many bytes, with a converter that leaves @p text.
     void fileMemory(int bytes, const QByteArray& text)
     {
-        writeWholeFile(m_folder.filePath(QStringLiteral("MEM.DAT")), QByteArray(bytes, 'm'));
-        FileMemory(m_values, m_boxes, [&](const QString& line) {
-            m_lines << line;
-            writeWholeFile(QStringLiteral("52.txt"), text);
-            return true;
-        });
+        m_shop.folder.write("MEM.DAT", QByteArray(bytes, 'm'));
+        m_shop.converter = [this, text] {
+            m_shop.folder.write("52.txt", text);
+        };
+        FileMemory(m_shop.values, m_shop.boxes, m_shop.context().runCommand);
     }
-    [[nodiscard]] QString field(const char* name) const
+    [[nodiscard]] std::string field(const char* name) const
     {
-        store::Database database(m_values.databasePath);
-        return database.openTable(QStringLiteral("memoryallocation")).value(QLatin1String(name)).toText();
+        return m_shop.column("memoryallocation", name);
     }
-    [[nodiscard]] qint64 rows() const
-    {
-        store::Database database(m_values.databasePath);
-        return database.openTable(QStringLiteral("memoryallocation")).recordCount();
-    }
+    [[nodiscard]] qint64 rows() const { return m_shop.rows("memoryallocation"); }
 
-    QTemporaryDir m_folder;
-    ApplicationValues m_values;
-    norvane::test::RecordingBoxes m_boxes;
-    QStringList m_lines;
+    records::test::Shop m_shop;
 };
 
 TEST_F(MemoryFileTest, StoresEveryColumnOfTheNewerGeneration)
 {
     fileMemory(78, fullLine);
-    EXPECT_EQ(m_lines, QStringList{QStringLiteral("convert wVelmarn fMEM.dat t52.txt u352")});
-    ASSERT_EQ(rows(), 1);
+    EXPECT_EQ(m_shop.commands, QStringList{QStringLiteral("convert wVelmaro fMEM.dat t52.txt u352")});
+    // clang-format off
     const std::pair<const char*, const char*> fields[] = {
-        {"PLU", "500"},
-        {"PLUSTATUS", "0"},
-        {"TIME/EMPLOYEE", "12"},
-        {"TRACK4", "4"},
-        {"TIMEPERIOD", "24"},
-        {"LINES/PLU", "6"},
-        {"LINE/EJ", "40"},
-        {"LINES/TRANSACTIONS", "99"},
-        {"PLUBYLEVEL", "True"},
-        {"GROUPBYEMPLOYEE", "False"},
-        {"CHECKTRACKSOFT", "False"},
-        {"PROJECTIONS", "True"},
-        {"STOREBITMAP", "False"},
-        {"EATINTIMEPERIOD", "True"},
-        {"TRACK1TIME", "True"},
-        {"TRACK3TIME", "True"},
-        {"TRACK2TIME", "False"},
-        {"Z3GROUPTIME", "True"},
-        {"Z4GROUPTIME", "True"},
-        {"Z5GROUPTIME", "True"},
-        {"Z2EMPLOYEE", "True"},
-        {"Z4PLU", "True"},
-        {"Z5PLU", "False"},
-        {"Z1GROUP", "True"},
-        {"Z5TIME", "True"},
-        {"Z4TIME", "False"},
-        {"Z5TIMEKEEP", "True"},
-        {"CLERKINTERRUPT", "True"},
-        {"Z3MIX", "True"},
-        {"Z4MIX", "False"},
-        {"CATEGORY", "16"},
+{"PLU", "500"}, {"PLUSTATUS", "0"}, {"TIME/EMPLOYEE", "12"}, {"TRACK4", "4"}, {"TIMEPERIOD", "24"}, {"LINES/PLU", "6"}, {"LINE/EJ", "40"}, {"LINES/TRANSACTIONS", "99"}, {"PLUBYLEVEL", "True"}, {"GROUPBYEMPLOYEE", "False"}, {"CHECKTRACKSOFT", "False"}, {"PROJECTIONS", "True"}, {"STOREBITMAP", "False"}, {"EATINTIMEPERIOD", "True"}, {"TRACK1TIME", "True"}, {"TRACK3TIME", "True"}, {"TRACK2TIME", "False"}, {"Z3GROUPTIME", "True"}, {"Z4GROUPTIME", "True"}, {"Z5GROUPTIME", "True"}, {"Z2EMPLOYEE", "True"}, {"Z4PLU", "True"}, {"Z5PLU", "False"}, {"Z1GROUP", "True"}, {"Z5TIME", "True"}, {"Z4TIME", "False"}, {"Z5TIMEKEEP", "True"}, {"CLERKINTERRUPT", "True"}, {"Z3MIX", "True"}, {"Z4MIX", "False"}, {"CATEGORY", "16"},
     };
-    for (const auto& [name, expected] : fields) {
-        EXPECT_EQ(field(name).toStdString(), expected) << name;
-    }
-    EXPECT_EQ(field("HOTLIST").toInt(), 321);
-    EXPECT_TRUE(m_boxes.shown.empty());
+    // clang-format on
+    for (const auto& [name, expected] : fields)
+        EXPECT_EQ(field(name), expected) << name;
+    EXPECT_EQ(field("HOTLIST"), "0321");
+    EXPECT_TRUE(m_shop.boxes.shown.empty());
 }
 
 TEST_F(MemoryFileTest, LeavesTheCardCountsOfTheOlderGenerationUnset)
 {
     fileMemory(77, fullLine);
-    EXPECT_EQ(m_lines, QStringList{QStringLiteral("convert wVelmarn fMEM.dat t52.txt u52")});
-    EXPECT_EQ(field("CATEGORY"), QString());
-    EXPECT_EQ(field("HOTLIST"), QString());
-    EXPECT_EQ(field("Z3MIX"), QStringLiteral("True"));
+    EXPECT_EQ(m_shop.commands, QStringList{QStringLiteral("convert wVelmaro fMEM.dat t52.txt u52")});
+    EXPECT_EQ(field("CATEGORY"), "null");
+    EXPECT_EQ(field("HOTLIST"), "null");
+    EXPECT_EQ(field("Z3MIX"), "True");
 }
 
 TEST_F(MemoryFileTest, ReplacesTheRowAndTakesShortLines)
 {
     fileMemory(78, fullLine);
     fileMemory(78, "1,2\r\n\r\n");
-    EXPECT_EQ(rows(), 2) << "an empty line is a record too";
-    EXPECT_EQ(field("PLU"), QStringLiteral("0"));
-    EXPECT_EQ(field("Z1PLU"), QStringLiteral("False"));
+    EXPECT_EQ(field("PLU"), "0|0") << "an empty line is a record too";
+    EXPECT_EQ(field("Z1PLU"), "False|False");
     fileMemory(78, "");
     EXPECT_EQ(rows(), 0);
 }
@@ -132,23 +71,17 @@ TEST_F(MemoryFileTest, ReplacesTheRowAndTakesShortLines)
 TEST_F(MemoryFileTest, AsksForAnUploadTwiceWhenTheFileIsEmpty)
 {
     fileMemory(0, fullLine);
-    EXPECT_EQ(m_lines, QStringList{QStringLiteral("convert wVelmarn fMEM.dat t52.txt u352")});
-    ASSERT_EQ(m_boxes.shown.size(), 2U);
-    EXPECT_EQ(m_boxes.shown[0].text, QStringLiteral("You must upload the data from the Velmar"));
-    EXPECT_EQ(field("CATEGORY"), QString());
+    EXPECT_EQ(m_shop.commands, QStringList{QStringLiteral("convert wVelmaro fMEM.dat t52.txt u352")});
+    ASSERT_EQ(m_shop.boxes.shown.size(), 2U);
+    EXPECT_EQ(m_shop.boxes.shown[0].text, QStringLiteral("You must upload the data from the Velmar"));
+    EXPECT_EQ(field("CATEGORY"), "null");
 }
 
 TEST_F(MemoryFileTest, FailsOnFlagsThatAreNoNumberAfterEmptyingTheTable)
 {
     fileMemory(78, fullLine);
-    QByteArray line = fullLine;
-    line.replace(",45,12,", ",4x,12,");
-    try {
-        fileMemory(78, line);
-        FAIL() << "no failure";
-    } catch (const RuntimeFailure& failure) {
-        EXPECT_EQ(failure.failure(), Failure::TypeMismatch);
-    }
+    EXPECT_EQ(test::failureOf([this] { fileMemory(78, QByteArray(fullLine).replace(",45,12,", ",4x,12,")); }),
+              13);
     EXPECT_EQ(rows(), 0);
 }
 
