@@ -58,16 +58,14 @@ TEST_F(ModemTest, ResetsProgramsDialsAndLeavesThePortToTheTool)
     EXPECT_NEAR(m_clock.now() - start, 1 + 14 + 20 + 2 * 2, 1);
 }
 
-struct DialCase {
-    const char* name;
-    std::deque<PseudoModem::Answer> answers;
-    int result;
-    int commands; ///< how many the modem got
-};
-
 TEST_F(ModemTest, TakesWhatCountsAsAnAnswer)
 {
-    const DialCase cases[] = {
+    const struct {
+        const char* name;
+        std::deque<PseudoModem::Answer> answers;
+        int result;
+        int commands; ///< how many the modem got
+    } cases[] = {
         {"numeric codes", {{"0\r"}, {"0\r"}, {"12\r"}}, 0, 3},
         {"the other connect code", {{"0\r"}, {"0\r"}, {"13\r"}}, 0, 3},
         {"an echo that holds a zero", {{"AT&F0\r"}, {"ATS0=0\r"}, {"CONNECT"}}, 0, 3},
@@ -77,7 +75,7 @@ TEST_F(ModemTest, TakesWhatCountsAsAnAnswer)
         {"ERROR to the dialling", {{"OK"}, {"OK"}, {"ERROR\r\n"}}, modemFailed, 3},
         {"connect after the time-out", {{"OK"}, {"OK"}, {"CONNECT", 31}}, modemFailed, 3},
     };
-    for (const DialCase& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         const qsizetype before = m_far.received().count('\r');
         EXPECT_EQ(dial(c.answers), c.result);
@@ -85,6 +83,8 @@ TEST_F(ModemTest, TakesWhatCountsAsAnAnswer)
         EXPECT_EQ(m_line->isOpen(), c.result != 0) << "a failure leaves the port to the hang-up";
         m_line->close();
     }
+    m_link.modemDelay = 0;
+    EXPECT_EQ(dial({{"OK"}, {"OK"}, {"CONNECT", 1}}), modemFailed) << "without a time-out";
 }
 
 TEST_F(ModemTest, JoinsAnAnswerThatComesInPieces)
@@ -94,24 +94,15 @@ TEST_F(ModemTest, JoinsAnAnswerThatComesInPieces)
     EXPECT_EQ(dial({{"O"}, {"OK"}, {"CONN"}}), 0);
 }
 
-TEST_F(ModemTest, DropsWhatComesInBeforeTheNextCommand)
+/// What comes in within the pause behind an answer belongs to no later command but the dialling.
+TEST_F(ModemTest, DropsWhatComesInBeforeTheProgrammingAlone)
 {
-    // Within the pause behind the answer to the reset: no answer to the programming.
     m_far.willSay(36001, "OK");
     EXPECT_EQ(dial({{"OK"}}), modemFailed);
     EXPECT_EQ(m_far.received(), QByteArray("AT&F\rATZ1\r"));
-}
-
-TEST_F(ModemTest, KeepsWhatComesInBeforeTheDialling)
-{
-    m_far.willSay(36003.5, "CONNECT");
+    m_line->close();
+    m_far.willSay(m_clock.now() + 3.5, "CONNECT");
     EXPECT_EQ(dial({{"OK"}, {"OK"}}), 0);
-}
-
-TEST_F(ModemTest, GivesUpAtOnceWithoutADialTimeOut)
-{
-    m_link.modemDelay = 0;
-    EXPECT_EQ(dial({{"OK"}, {"OK"}, {"CONNECT", 1}}), modemFailed);
 }
 
 TEST_F(ModemTest, DoesNotTimeOutAcrossMidnight)
@@ -132,11 +123,27 @@ TEST_F(ModemTest, EndsAPauseAcrossMidnight)
 
 TEST_F(ModemTest, FailsOnAPortThatCannotBeOpened)
 {
+    EXPECT_FALSE(m_line->send(QStringLiteral("AT"))) << "not open yet";
     const auto line = makeSerialLine({QStringLiteral("no-such-port")});
     Modem modem(*line, m_clock, [](const QString&) {});
     EXPECT_EQ(modem.DialModem(m_link), modemFailed);
     modem.Dropphoneline();
     EXPECT_FALSE(line->isOpen());
+}
+
+TEST_F(ModemTest, AModemThatIsUnpluggedEndsNeitherWaitNorProgram)
+{
+    auto far = std::make_unique<PseudoModem>();
+    const auto line = makeSerialLine({far->device()});
+    ASSERT_TRUE(line->open());
+    EXPECT_FALSE(line->open()) << "an open port cannot be opened once more";
+    far.reset();
+    EXPECT_EQ(line->inputCount(), 0);
+    line->clearInput();
+    (void)line->send(QStringLiteral("+++"));
+    line->close();
+    EXPECT_FALSE(line->isOpen());
+    EXPECT_FALSE(line->open());
 }
 
 TEST_F(ModemTest, LeavesThePortAsItWasForAnIndexBeyondFour)
