@@ -9,7 +9,6 @@ namespace
 {
 
 constexpr std::string_view blanks = " \t";
-constexpr std::string_view separators = ",\r\n";
 constexpr std::string_view whiteSpace = " \t\r\n";
 
 std::string_view trimmed(std::string_view text)
@@ -18,6 +17,11 @@ std::string_view trimmed(std::string_view text)
     if (first == std::string_view::npos)
         return {};
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+bool isSeparator(char c)
+{
+    return c == ',' || c == '\r' || c == '\n';
 }
 
 /// Where the value that @p text begins with ends. A comma between quotes is part of the value.
@@ -29,7 +33,7 @@ std::size_t endOfValue(std::string_view text)
         const auto closing = text.find('"', first + 1);
         from = closing == std::string_view::npos ? first : closing + 1;
     }
-    while (from < text.size() && separators.find(text[from]) == std::string_view::npos)
+    while (from < text.size() && !isSeparator(text[from]))
         ++from;
     return from;
 }

@@ -6,6 +6,9 @@
 
 #include <sqlite3.h>
 
+#include <array>
+#include <cstdio>
+#include <string_view>
 #include <utility>
 
 namespace norvane::store
@@ -13,10 +16,19 @@ namespace norvane::store
 namespace
 {
 
-/// Days lie in the file as yyyy-mm-dd, which orders as text does.
-std::string dayText(QDate date)
+/// Room for a day as text, with a margin for years out of the usual.
+using DayText = std::array<char, 24>;
+
+/// Days lie in the file as yyyy-mm-dd, which orders as text does. Every row of a collection carries one, so
+/// it is written without the detour over the platform's texts.
+std::string_view dayText(QDate date, DayText& room)
 {
-    return date.toString(Qt::ISODate).toStdString();
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    date.getDate(&year, &month, &day);
+    const int size = std::snprintf(room.data(), room.size(), "%04d-%02d-%02d", year, month, day);
+    return {room.data(), static_cast<std::size_t>(size)};
 }
 
 QString fromColumn(const char* text)
@@ -113,7 +125,8 @@ void PreparedStatement::bind(int parameter, const Value& value)
     } else if (const auto* number = std::get_if<double>(&value.data())) {
         check(sqlite3_bind_double(statement, parameter, *number));
     } else if (const auto* date = std::get_if<QDate>(&value.data())) {
-        const std::string day = dayText(*date);
+        DayText room;
+        const std::string_view day = dayText(*date, room);
         check(sqlite3_bind_text(statement, parameter, day.data(), static_cast<int>(day.size()),
                                 SQLITE_TRANSIENT));
     } else {
