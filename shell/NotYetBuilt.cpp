@@ -15,8 +15,7 @@ namespace
 constexpr auto entries = std::to_array<QLatin1StringView>({
     // Key editors.
     "KeyboardLocation"_L1, "FunctionMenu"_L1, "WLUMenu"_L1,
-    // Sales: the collection run and the reports.
-    "CollectSales"_L1,
+    // Sales reports.
     "PLUSalesByDate"_L1, "PLUSalesWeekTodate"_L1, "PLUSalesMonthTodate"_L1, "PLUSalesYearToDate"_L1,
     "FinDate"_L1, "Finweek"_L1, "FinMonth"_L1, "FinYear"_L1,
     "ClerkDate"_L1, "clerkweek"_L1, "Clerkmonth"_L1, "Clerkyear"_L1,

@@ -1,7 +1,8 @@
-// The frame's own forms, the record editor and the exchange dialog; see Openers.h.
+// The frame's own forms, the record editor, the exchange dialog and the sales collection; see Openers.h.
 #include "shell/Openers.h"
 
 #include "exchange/FrmComm.h"
+#include "sales/FrmsalesComm.h"
 #include "screens/OptionForm.h"
 #include "shell/FrameOpeners.h"
 #include "shell/UtilityOpeners.h"
@@ -41,6 +42,9 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
     });
     openers.insert(u"FrmComm"_s, [&values, &boxes](FrmMain& main, const MenuEntry& entry) {
         openExchange(main, entry, values, boxes);
+    });
+    openers.insert(u"FrmsalesComm"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
+        main.showShared(u"FrmsalesComm"_s, [&] { return new sales::FrmsalesComm(values, boxes); });
     });
     openers.insert(makeUtilityOpeners(values, boxes));
     return openers;

@@ -1,0 +1,71 @@
+// The collection of a day's sales from all registers, in the order that protects them.
+#pragma once
+
+#include "link/LinkSettings.h"
+#include "platform/Boxes.h"
+#include "shell/ApplicationValues.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace norvane::sales
+{
+
+/// The world outside a collection.
+struct CollectionOutside {
+    /// Brings the link up. @return what the dialling gave, 0 on a direct link.
+    std::function<int(const link::LinkSettings& link)> connectLink;
+    /// Hangs up a modem; nothing on a direct link.
+    std::function<void()> disconnectLink;
+    /// Runs a tool's command line and waits for its end. @return false when the tool could not be started.
+    std::function<bool(const QString& commandLine)> runAndWait;
+    /// The last value of status.out.
+    std::function<QString()> readStatus;
+    /// Names the step in work; what was named last stays when the run ends.
+    std::function<void(const QString& text)> showStep;
+    /// Tells what the user should know but what does not stop the run.
+    std::function<void(const QString& text)> showNotice;
+    /// Asked ahead of each step until the import begins: whether the user is still there to want it.
+    std::function<bool()> goOn;
+    Boxes& boxes;
+};
+
+/// One run: consolidate at the registers, collect, import, clear at the registers. The registers forget their
+/// sales only after all five imports ended, so a run that fails before loses nothing; one that fails between
+/// import and clearing leaves the sales in the tables and at the registers.
+class CollectionRun
+{
+public:
+    /// The values must outlive the run.
+    CollectionRun(const ApplicationValues& values, CollectionOutside outside);
+    CollectionRun(const CollectionRun&) = delete;
+    CollectionRun& operator=(const CollectionRun&) = delete;
+
+    /// Ends with the result's text in a box when a step fails. A modem is hung up in any case, ahead of the
+    /// box.
+    /// @throws RuntimeFailure 53 when status.out is missing, 13 when it holds no number or the model is none,
+    /// 6 and 13 for link settings, and what importPollFile() throws.
+    void collect();
+
+private:
+    struct ToolStep;
+    static const ToolStep stepsAheadOfImport[];
+    static const ToolStep clearing;
+
+    [[nodiscard]] std::optional<int> failedResult();
+    [[nodiscard]] std::optional<int> runStep(const ToolStep& step);
+    [[nodiscard]] bool sendsDescriptions() const;
+    void convertReports();
+    void importReports() const;
+    void runTool(const QString& commandLine);
+
+    const ApplicationValues& m_values;
+    CollectionOutside m_outside;
+    link::LinkSettings m_link;
+    int m_dialResult = 0;
+    bool m_left = false;
+};
+
+} // namespace norvane::sales
