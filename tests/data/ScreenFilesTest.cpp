@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QSet>
+#include <QTest>
 
 #include <algorithm>
 
@@ -109,7 +110,8 @@ bool canHold(const ControlDefinition& control, const FieldDefinition& field)
     case ControlKind::Combo:
         return field.type == FieldType::Long;
     case ControlKind::Decimal:
-        return field.type == FieldType::Long || field.type == FieldType::Double || isPrice(field);
+        return field.type == FieldType::Long || field.type == FieldType::Double || isPrice(field) ||
+               control.readOnly.value_or(false);
     case ControlKind::Text:
         return (field.type == FieldType::Text && !isPrice(field)) ||
                (field.type == FieldType::Digits && sameName(control.characters, QStringLiteral("NUMERIC")));
@@ -371,9 +373,10 @@ void ScreenFile::checkOrder(const QVector<QWidget*>& order)
         const QRect place = order[later]->geometry();
         for (const QWidget* const earlier : order.mid(0, later)) {
             const QRect before = earlier->geometry();
-            if (place.center().y() <= before.center().y() + 2 && place.left() <= before.left())
+            if (place.center().y() <= before.center().y() + 2 && place.left() <= before.left()) {
                 complain(order[later]->objectName() + QStringLiteral(" after ") + earlier->objectName(),
                          "is not the order of reading");
+            }
         }
     }
 }
@@ -409,6 +412,39 @@ TEST_P(ScreenFile, MakesAFormThatCanBeRead)
     for (const auto& control : m_screen.controls) {
         if (control.visible.value_or(false) && control.kind != ControlKind::Label && !control.tabIndex)
             complain(control, "has no Tabindex");
+    }
+}
+
+TEST(InstalledScreens, TakeWhatTheRegistersOfTheModelHold)
+{
+    const struct {
+        const char* file;
+        const char* model;
+        const char* box;
+        QString typed;
+        QString kept;
+    } cases[] = {
+        {"logomess.scn", "2", "TextControl_10", QString(50, u'x'), QString(40, u'x')},
+        {"logomess.scn", "3", "TextControl_10", QString(50, u'x'), QString(32, u'x')},
+        {"valdmess.scn", "3", "TextControl_1", QString(50, u'x'), QString(32, u'x')},
+        {"chqenmes.scn", "3", "TextControl_10", QString(50, u'x'), QString(32, u'x')},
+        {"gstchk.scn", "3", "TextControl_1", QString(50, u'x'), QString(32, u'x')},
+        {"errmess.scn", "3", "TextControl_1", QString(50, u'x'), QString(30, u'x')},
+        {"employee.scn", "3", "TextControl_2", QStringLiteral("0a-G 2D"), QStringLiteral("0a2D")},
+    };
+    for (const auto& [file, model, name, typed, kept] : cases) {
+        const test::TestFolder customer;
+        customer.write("setup.ini", QByteArray("[SetupOption]\r\nECRModel=") + model + "\r\n");
+        ApplicationValues values;
+        values.customerPath = customer.path();
+        values.databasePath = filledDatabase();
+        values.screenFilePath = QStringLiteral(SCREEN_FILES "/") + QLatin1String(file);
+        test::RecordingBoxes boxes;
+        const OptionForm form(values, boxes);
+        auto* const box = form.findChild<ui::TextBox*>(QLatin1String(name));
+        ASSERT_NE(box, nullptr) << file;
+        QTest::keyClicks(box, typed);
+        EXPECT_EQ(box->text(), kept) << file << ", model " << model;
     }
 }
 
