@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Makes docs/images/screens-N.png anew: every screen of the menu on a database filled from a register of its
+# model. Each screen by itself, for every model, lies in build/contact-sheet/single/ afterwards.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/install-packages.sh
+cmake --preset ci
+cmake --build --preset ci --target contact_sheet
+sheets=build/contact-sheet
+rm -rf "$sheets"
+mkdir -p "$sheets"
+ASAN_OPTIONS="${ASAN_OPTIONS:-detect_leaks=0}" build/ci/tests/screens/contact_sheet "$sheets"
+rm -f docs/images/screens-*.png
+cp "$sheets"/screens-*.png docs/images/
+ls -l docs/images/screens-*.png
