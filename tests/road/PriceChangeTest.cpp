@@ -4,8 +4,6 @@
 
 #include <QLineEdit>
 
-#include <numeric>
-
 namespace norvane
 {
 namespace
@@ -83,58 +81,6 @@ TEST_P(PriceChange, EachBoxMovesByItself)
         const bool ofSmartCards = file == 86;
         const bool isMemoryFile = file == 52;
         EXPECT_EQ(kept(file), !isMemoryFile && (!ofSmartCards || hasSmartCards())) << file;
-    }
-}
-
-/// How the record on a line of a file comes back where the registers' own rules change it.
-void applyRules(int file, qsizetype line, QByteArrayList& record)
-{
-    constexpr qsizetype flagsColumn = 8;
-    constexpr qsizetype grillNumberColumn = 11;
-    if (file == 58 && record.first().trimmed().isEmpty()) {
-        const QByteArray name = "Prod Mix " + QByteArray::number(line);
-        record.first() = name.left(12).leftJustified(12, ' ');
-    }
-    if (file == 65) {
-        // The grill number is read into the flag beside it and is never read back.
-        const bool grill = record[grillNumberColumn] != "00";
-        const int left = (record[flagsColumn][0] - '0') & 1;
-        record[flagsColumn][0] = static_cast<char>('0' + left + (grill ? 4 : 0));
-        record[grillNumberColumn] = "00";
-    }
-}
-
-QByteArrayList joined(const QList<QByteArrayList>& records)
-{
-    QByteArrayList lines;
-    for (const QByteArrayList& record : records)
-        lines << record.join(',');
-    return lines;
-}
-
-/// The product files of a register come to all registers as they were.
-TEST_P(PriceChange, AnUnchangedProgrammeComesBackAsItWas)
-{
-    QList<int> files{1, 58, 65, 67, 70};
-    const test::BoxNumbers boxes{0, 1, 2, 14, 15};
-    if (hasSmartCards())
-        files << 71;
-    QHash<int, QList<QByteArrayList>> expected;
-    for (const int file : files) {
-        expected[file] = m_shop.recordsOf(1, file);
-        for (qsizetype line = 1; line <= expected[file].size(); ++line)
-            applyRules(file, line, expected[file][line - 1]);
-    }
-    EXPECT_TRUE(m_shop.upload(boxes).isEmpty());
-    EXPECT_TRUE(m_shop.download(boxes).isEmpty());
-    for (int number = 1; number <= GetParam().registers; ++number) {
-        for (const int file : files) {
-            const QByteArrayList now = joined(m_shop.recordsOf(number, file));
-            const QByteArrayList before = joined(expected[file]);
-            ASSERT_EQ(now.size(), before.size()) << "register " << number << ", file " << file;
-            for (qsizetype line = 0; line < now.size(); ++line)
-                ASSERT_STREQ(now[line], before[line]) << "register " << number << ", file " << file;
-        }
     }
 }
 

@@ -22,6 +22,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <numeric>
+
 namespace norvane::test
 {
 namespace
@@ -92,6 +94,13 @@ void Shop::choose(const char* entry, const std::function<void(QDialog&)>& act)
     child<QAction>(*m_main, QString::fromLatin1(entry)).trigger();
 }
 
+BoxNumbers Shop::everyBox()
+{
+    BoxNumbers all(boxCount);
+    std::iota(all.begin(), all.end(), 0);
+    return all;
+}
+
 BoxNumbers Shop::exchange(const char* entry, const BoxNumbers& boxes)
 {
     BoxNumbers left;
@@ -99,8 +108,12 @@ BoxNumbers Shop::exchange(const char* entry, const BoxNumbers& boxes)
         const auto box = [&dialog](int index) -> QCheckBox& {
             return child<QCheckBox>(dialog, QStringLiteral("check1_%1").arg(index));
         };
-        for (const int index : boxes)
-            box(index).click();
+        if (boxes == everyBox()) {
+            click(child<QPushButton>(dialog, QStringLiteral("CSCmdBtn2")));
+        } else {
+            for (const int index : boxes)
+                box(index).click();
+        }
         click(child<QPushButton>(dialog, QStringLiteral("Communicate")));
         for (int index = 0; index < boxCount; ++index) {
             if (box(index).isChecked())
@@ -111,13 +124,21 @@ BoxNumbers Shop::exchange(const char* entry, const BoxNumbers& boxes)
     return left;
 }
 
-QWidget& Shop::openScreen(const char* entry)
+QWidget& Shop::openForm(const char* entry)
 {
     choose(entry);
     QMdiSubWindow* const window = child<QMdiArea>(*m_main, QString()).activeSubWindow();
-    if (window == nullptr || window->widget()->objectName() != QLatin1String("OptionForm"))
-        throw std::runtime_error(std::string("no screen behind ") + entry);
+    if (window == nullptr)
+        throw std::runtime_error(std::string("no form behind ") + entry);
     return *window->widget();
+}
+
+QWidget& Shop::openScreen(const char* entry)
+{
+    QWidget& form = openForm(entry);
+    if (form.objectName() != QLatin1String("OptionForm"))
+        throw std::runtime_error(std::string("no screen behind ") + entry);
+    return form;
 }
 
 void Shop::press(QWidget& form, const char* button)

@@ -29,11 +29,15 @@ public:
     [[nodiscard]] const ApplicationValues& values() const { return m_values; }
     [[nodiscard]] RecordingBoxes& boxes() { return m_boxes; }
 
+    /// What "Select All" ticks.
+    [[nodiscard]] static BoxNumbers everyBox();
     /// Opens the exchange dialog, ticks @p boxes, presses OK, leaves. @return the boxes still ticked after
     /// it.
     BoxNumbers upload(const BoxNumbers& boxes) { return exchange("UploadVelmar", boxes); }
     BoxNumbers download(const BoxNumbers& boxes) { return exchange("DownloadVelmar", boxes); }
 
+    /// Chooses a menu entry that opens a form which is not modal. @return the form.
+    QWidget& openForm(const char* entry);
     /// Chooses a menu entry that opens a screen. @return the screen.
     QWidget& openScreen(const char* entry);
     /// Presses a button of a form, or a find button with its answer typed into the dialog.

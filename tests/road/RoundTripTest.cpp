@@ -1,0 +1,238 @@
+// The whole programme of a register on its way into the database and out to a second register. What the
+// second register holds then is what the first one held, but for the differences that are listed here.
+#include "records/RegisterFiles.h"
+#include "tests/road/Shop.h"
+#include "tests/support/FormTest.h"
+
+#include <map>
+
+namespace norvane
+{
+namespace
+{
+
+using test::Shop;
+
+constexpr int descriptorFile = 19;
+constexpr int memoryFile = 52;
+constexpr int imageFile = 83;
+constexpr int lastFile = 86;
+
+/// What becomes of one column: the text to change, the record that was sent, its line from 1, its column.
+struct Travelling {
+    QByteArray& text;
+    const QByteArrayList& sent;
+    qsizetype line;
+    qsizetype column;
+
+    [[nodiscard]] QByteArray sentIn(qsizetype other) const { return sent.at(other - 1); }
+    /// A number of another column at this one's width.
+    void becomes(const QByteArray& number) const
+    {
+        text = number.right(text.size()).rightJustified(text.size(), '0');
+    }
+    void isNamed(const char* name) const
+    {
+        if (text.trimmed().isEmpty())
+            text = (name + QByteArray::number(line)).left(text.size()).leftJustified(text.size());
+    }
+};
+
+using Change = std::function<void(const Travelling&)>;
+
+/// One difference between what a register sends and what it gets back.
+struct Difference {
+    int file;
+    int firstModel; ///< on the models from this index on
+    qsizetype column;
+    Change change;
+    qsizetype every = 0;      ///< again in each so many columns
+    qsizetype lastColumn = 0; ///< for the repetition
+};
+
+/// An option digit, 0 is the left one.
+Change digit(qsizetype place, char sent, char back)
+{
+    return [=](const Travelling& here) {
+        if (here.text[place] == sent)
+            here.text[place] = back;
+    };
+}
+
+Change text(const char* sent, const char* back)
+{
+    return [=](const Travelling& here) {
+        if (here.text == sent)
+            here.text = back;
+    };
+}
+
+// clang-format off
+const Difference differences[] = {
+    // A function key's text is the one text whose "^" goes out as it is, not as the register's mark.
+    {2, 0, 1, [](const Travelling& key) { key.text.replace('\xFD', '^'); }},
+    // Newer firmware keeps the texts of its card keys: blanks, as no key without a text called for a default.
+    {2, 2, 1, [](const Travelling& key) { if (key.line >= 257) key.text.fill(' '); }},
+    // Destination 2 beside the eat-in question is the digit of destination 3.
+    {3, 0, 1, digit(1, '5', '7')},
+    // The start cursor is told at weight 2 and answered at weight 1, sign-on method 3 is answered as 4.
+    {3, 0, 7, digit(0, '5', '6')},
+    {3, 0, 7, digit(1, '3', '2')},
+    // The default price level goes out with a zero behind it: ten times as much with each journey.
+    {7, 0, 4, text("001", "010")},
+    // That check 4 holds check 3 is told in the left digit and answered in the right one.
+    {8, 0, 2, digit(0, '5', '4')},
+    // The port is the first digit behind the zeros, and goes out as the left one.
+    {10, 0, 2, text("05", "50")},
+    // A receipt after an interrupt is always asked for.
+    {11, 0, 2, digit(0, '0', '4')},
+    // A receipt at the time clock is told in two places and answered in the second.
+    {11, 0, 2, digit(1, '5', '1')},
+    // How the date is printed is only ever read.
+    {11, 0, 4, digit(0, '7', '4')},
+    // A currency symbol is one character.
+    {11, 0, 11, text("Fr ", "F  ")},
+    // The question before a reset is answered at the place of the omitted tax totals.
+    {13, 0, 2, digit(1, '4', '5')},
+    // Three decimal places are told as 6, which reads as two.
+    {15, 0, 1, digit(0, '6', '4')},
+    // Texts lose the blanks in front of them, message lines their zeros too.
+    {25, 0, 5, [](const Travelling& line) { line.text = line.text.trimmed().leftJustified(line.text.size()); }},
+    {26, 0, 10, [](const Travelling& line) { if (line.text.startsWith('0')) line.text = line.text.sliced(1) + ' '; }},
+    // Each number of a tax table comes from the column behind it, all reserves and the end from the first reserve.
+    {29, 0, 4, [](const Travelling& rate) { rate.becomes(rate.sentIn(rate.column + 1)); }, 1, 7},
+    {29, 0, 9, [](const Travelling& rate) { rate.becomes(rate.sentIn(8)); }, 1, 30},
+    // Negative sales are told in column 2 and overwritten by the detail option of column 3, which is lost itself.
+    {36, 0, 2, digit(1, '3', '7')},
+    {36, 0, 3, digit(0, '6', '2')},
+    // Added points give way to the removed card in the same way.
+    {36, 0, 4, digit(1, '0', '1')},
+    {36, 0, 5, digit(1, '1', '0')},
+    // Product mixes and recipes without a name get one.
+    {58, 0, 1, [](const Travelling& mix) { mix.isNamed("Prod Mix "); }},
+    {60, 0, 1, [](const Travelling& recipe) { recipe.isNamed("Recipe "); }},
+    // The kinds of a recipe's items go down by one, and the quantity sent is the item's number.
+    {60, 0, 2, text("20", "00"), 3, 61},
+    {60, 0, 2, text("40", "20"), 3, 61},
+    {60, 0, 4, [](const Travelling& item) { item.becomes(item.sentIn(item.column - 1)); }, 3, 61},
+    // The grill number is read into the flag before it and is never sent.
+    {65, 0, 9, [](const Travelling& status) {
+         const int rest = (status.text[0] - '0') & 1;
+         status.text[0] = static_cast<char>('0' + rest + (status.sentIn(12) == "00" ? 0 : 4));
+     }},
+    {65, 0, 12, [](const Travelling& status) { status.text = "00"; }},
+    // A price without a level is one of the level that it stands at.
+    {67, 0, 22, text("00", "05")},
+};
+// clang-format on
+
+/// Applies a difference to a record. @return whether it changed anything.
+bool apply(const Difference& difference, const QByteArrayList& sent, qsizetype line, QByteArrayList& expected)
+{
+    const QByteArrayList before = expected;
+    qsizetype column = difference.column;
+    do {
+        difference.change({expected[column - 1], sent, line, column});
+        column += difference.every;
+    } while (column <= difference.lastColumn);
+    return expected != before;
+}
+
+QList<QByteArrayList> expectedOf(int file, int model, const QList<QByteArrayList>& sent)
+{
+    QList<QByteArrayList> expected = sent;
+    for (const Difference& difference : differences) {
+        if (difference.file != file || model < difference.firstModel)
+            continue;
+        bool seen = false;
+        for (qsizetype line = 1; line <= sent.size(); ++line)
+            seen = apply(difference, sent[line - 1], line, expected[line - 1]) || seen;
+        EXPECT_TRUE(seen) << "file " << file << ", column " << difference.column
+                          << ": a listed difference that did not come up";
+    }
+    return expected;
+}
+
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    return file.readAll();
+}
+
+/// All boxes at once, from the first of two registers to both.
+class RoundTrip : public testing::TestWithParam<int>
+{
+protected:
+    static constexpr int first = 1;
+    static constexpr int second = 2;
+
+    [[nodiscard]] QString path(int machine, int file) { return m_shop.folder().registerFile(machine, file); }
+    [[nodiscard]] static bool hasText(int file) { return records::registerFile(file) != nullptr; }
+
+    /// Keeps what the first register holds and leaves nothing of the factory in the second one, so what that
+    /// has later has come.
+    void takeStock()
+    {
+        for (int file = 1; file <= lastFile; ++file) {
+            if (!QFile::exists(path(first, file)))
+                continue;
+            if (hasText(file)) {
+                m_texts[file] = m_shop.recordsOf(first, file);
+            } else {
+                m_bytes[file] = bytesOf(path(first, file));
+            }
+            if (file != memoryFile) {
+                EXPECT_TRUE(QFile::remove(path(second, file)));
+            }
+        }
+        EXPECT_EQ(m_texts.erase(descriptorFile), 1U);
+    }
+
+    void moveEverything()
+    {
+        EXPECT_TRUE(m_shop.upload(Shop::everyBox()).isEmpty());
+        EXPECT_TRUE(m_shop.download(Shop::everyBox()).isEmpty());
+        for (const auto& box : m_shop.boxes().shown)
+            ADD_FAILURE() << box.text.toStdString();
+        if (const auto failure = test::takeFailure())
+            ADD_FAILURE() << failure->text().toStdString();
+    }
+
+    void compareText(int file, const QList<QByteArrayList>& sent)
+    {
+        SCOPED_TRACE(testing::Message() << "file " << file);
+        const auto expected = expectedOf(file, GetParam(), sent);
+        const auto back = m_shop.recordsOf(second, file);
+        ASSERT_EQ(back.size(), expected.size());
+        for (qsizetype line = 0; line < back.size(); ++line)
+            ASSERT_STREQ(back[line].join(','), expected[line].join(',')) << "line " << line + 1;
+    }
+
+    Shop m_shop{GetParam(), 2};
+    std::map<int, QList<QByteArrayList>> m_texts;
+    std::map<int, QByteArray> m_bytes;
+};
+
+TEST_P(RoundTrip, BringsEverythingBackButForTheListedDifferences)
+{
+    takeStock();
+    EXPECT_EQ(m_texts.size(), GetParam() == 0 ? 37U : 40U);
+    EXPECT_EQ(m_bytes.size(), 28U);
+    moveEverything();
+    for (const auto& [file, sent] : m_texts)
+        compareText(file, sent);
+    for (const auto& [file, bytes] : m_bytes) {
+        // A register without a picture has an empty image file, which is not sent.
+        const bool arrives = file != imageFile || !bytes.isEmpty();
+        ASSERT_EQ(QFile::exists(path(second, file)), arrives) << file;
+        EXPECT_TRUE(!arrives || bytesOf(path(second, file)) == bytes) << file;
+    }
+    EXPECT_EQ(bytesOf(m_shop.values().customerPath + QStringLiteral("/MEM.dat")), m_bytes[memoryFile]);
+    EXPECT_FALSE(QFile::exists(path(second, descriptorFile))) << "nobody moves the system descriptors";
+}
+
+INSTANTIATE_TEST_SUITE_P(Models, RoundTrip, testing::Range(0, 4));
+
+} // namespace
+} // namespace norvane
