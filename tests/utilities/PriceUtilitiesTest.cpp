@@ -16,21 +16,12 @@ namespace norvane::shell
 namespace
 {
 
-using Prices = QStringList;
-using Shown = std::vector<test::ShownBox>;
-
-const test::ShownBox toEuro{u"Continue?"_s, u"Update Euro prices"_s, BoxIcon::Question, BoxAnswer::No};
-const test::ShownBox fromEuro{u"Do you wish to overwrite your current prices?"_s,
-                              u"Update Prices with Euro Prices"_s, BoxIcon::Question, BoxAnswer::No};
-const test::ShownBox rateBox{u"Please enter the current Euro Exchange"_s, u"Euro Rate"_s};
-const test::ShownBox converted{u"Conversion complete..."_s, u"Euro Conversion"_s};
-const test::ShownBox resetPrices{u"Do you wish to reset prices?"_s, u"Reset Prices?"_s, BoxIcon::Question,
-                                 BoxAnswer::No};
-const test::ShownBox resetSales{u"Do you wish to reset ALL Sales data?"_s, u"Reset Sales Data?"_s,
-                                BoxIcon::Question, BoxAnswer::No};
-
-const QStringList handlers = {u"TransferEuro"_s, u"TransferCurrent"_s, u"Transfer1to2"_s,
-                              u"Transfer2to1"_s, u"ResetPrice"_s,      u"SalesReset"_s};
+const QString toEuro = u"Update Euro prices: Continue?"_s;
+const QString fromEuro = u"Update Prices with Euro Prices: Do you wish to overwrite your current prices?"_s;
+const QString rateBox = u"Euro Rate: Please enter the current Euro Exchange"_s;
+const QString converted = u"Euro Conversion: Conversion complete..."_s;
+const QString priceFields =
+    u"PRICE1, PRICE2, PRICE3, PRICE4, PRICE5, EuroPrice1, EuroPrice2, EuroPrice3, EuroPrice4, EuroPrice5"_s;
 
 class PriceUtilitiesTest : public ShellFixture
 {
@@ -38,40 +29,38 @@ protected:
     PriceUtilitiesTest() : m_main(m_values, m_boxes, makeOpeners(m_values, m_boxes)) { m_main.show(); }
 
     QAction& action(const QString& name) { return *m_main.findChild<QAction*>(name); }
-    void choose(const QString& name, std::deque<QString> typed = {})
+    /// Chooses the entry and answers Yes. @return the boxes shown.
+    QStringList choose(const QString& name, const QString& typed = {})
     {
-        m_boxes.shown.clear();
         m_boxes.answers = {true};
-        m_boxes.typed = std::move(typed);
+        m_boxes.typed = {typed};
         action(name).trigger();
+        return takeBoxes();
     }
-
-    /// A PLU with its prices 1 to 5 and its euro prices 1 to 5, divided by bars; an empty one is null.
-    void addPlu(const QString& number, const QString& prices) const
+    QStringList takeBoxes()
+    {
+        QStringList boxes;
+        for (const auto& box : std::exchange(m_boxes.shown, {}))
+            boxes.append(box.title + u": "_s + box.text);
+        return boxes;
+    }
+    /// A PLU with its prices 1 to 5 and euro prices 1 to 5 as they stand in a statement.
+    void addPlu(int number, const QString& prices) const
+    {
+        store::Database(m_values.databasePath)
+            .execute(u"insert into PLUDATA (PLUNUMBER, %1) values ('%2', %3)"_s.arg(priceFields)
+                         .arg(number)
+                         .arg(prices));
+    }
+    [[nodiscard]] QStringList prices() const
     {
         store::Database database(m_values.databasePath);
-        auto plus = database.openTable(u"PLUDATA"_s);
-        plus.addNew();
-        plus.setValue(u"PLUNUMBER"_s, store::Value::text(number));
-        for (int i = 0; const QString& price : prices.split(u'|')) {
-            if (!price.isEmpty())
-                plus.setValue(priceField(i), store::Value::text(price));
-            ++i;
-        }
-        plus.update();
-    }
-    static QString priceField(int place)
-    {
-        return place < 5 ? u"PRICE%1"_s.arg(place + 1) : u"EuroPrice%1"_s.arg(place - 4);
-    }
-    [[nodiscard]] Prices prices() const
-    {
-        store::Database database(m_values.databasePath);
-        Prices all;
-        for (auto plus = database.openTable(u"PLUDATA"_s); !plus.atEnd(); plus.moveNext()) {
+        QStringList all;
+        auto plus = database.openQuery(u"select %1 from PLUDATA order by PLUNUMBER"_s.arg(priceFields));
+        for (; !plus.atEnd(); plus.moveNext()) {
             QStringList one;
-            for (int i = 0; i < 10; ++i)
-                one.append(plus.value(priceField(i)).toText());
+            for (int i = 0; i < plus.fieldCount(); ++i)
+                one.append(plus.value(i).toText());
             all.append(one.join(u'|'));
         }
         return all;
@@ -80,40 +69,43 @@ protected:
     FrmMain m_main;
 };
 
-TEST_F(PriceUtilitiesTest, EachTransferFillsItsOwnFieldsOfEveryPlu)
+TEST_F(PriceUtilitiesTest, EachEntryFillsItsOwnFieldsOfEveryPlu)
 {
     makeCustomerDatabase();
-    const QString first = u"1.00|2.00|0.00|abc|-1.00|9.1|9.2|9.3|9.4|"_s;
-    const QString second = u" 1.5||3|4|5|6|7|8|9|10"_s;
-    addPlu(u"000000000000000002"_s, second);
-    addPlu(u"000000000000000001"_s, first);
-
-    choose(u"Transfer1to2"_s, {u"0.68"_s});
-    EXPECT_EQ(m_boxes.shown, (Shown{toEuro, rateBox, converted}));
-    EXPECT_EQ(prices(),
-              (Prices{u"1.00| 1.47|0.00|abc|-1.00|9.1|9.2|9.3|9.4|"_s, u" 1.5| 2.21|3|4|5|6|7|8|9|10"_s}));
-
-    choose(u"TransferEuro"_s, {u"1,5"_s});
-    EXPECT_EQ(m_boxes.shown, (Shown{toEuro, rateBox, converted}));
-    const Prices euro{u"1.00| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1"_s,
-                      u" 1.5| 2.21|3|4|5| 1.5| 2.21| 3| 4| 5"_s};
-    EXPECT_EQ(prices(), euro);
-    choose(u"TransferEuro"_s, {u"1"_s});
-    EXPECT_EQ(prices(), euro) << "the same prices again, not the converted ones";
-
-    choose(u"Transfer2to1"_s);
-    EXPECT_EQ(m_boxes.shown, (Shown{fromEuro, converted}));
-    EXPECT_EQ(prices(), (Prices{u" 1.47| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1"_s,
-                                u" 2.21| 2.21|3|4|5| 1.5| 2.21| 3| 4| 5"_s}));
-
-    choose(u"TransferCurrent"_s);
-    EXPECT_EQ(m_boxes.shown, (Shown{fromEuro, converted}));
-    EXPECT_EQ(prices(), (Prices{u" 1| 1.47| 0| 0|-1| 1| 1.47| 0| 0|-1"_s,
-                                u" 1.5| 2.21| 3| 4| 5| 1.5| 2.21| 3| 4| 5"_s}));
-
-    choose(u"ResetPrice"_s);
-    EXPECT_EQ(m_boxes.shown, (Shown{resetPrices, {u"Price Reset Complete!"_s, u"Price Reset"_s}}));
-    EXPECT_EQ(prices(), Prices(2, QStringList(10, u"0.00"_s).join(u'|')));
+    addPlu(2, u"' 1.5', null, '3', '4', '5', '6', '7', '8', '9', '10'"_s);
+    addPlu(1, u"'1.00', '2.00', '0.00', 'abc', '-1.00', '9.1', '9.2', '9.3', '9.4', null"_s);
+    struct Step {
+        QString entry;
+        QString rate;
+        QStringList boxes;
+        QStringList prices;
+    };
+    const QStringList euro{u"1.00| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1"_s,
+                           u" 1.5| 2.21|3|4|5| 1.5| 2.21| 3| 4| 5"_s};
+    const QStringList resetBoxes{u"Reset Prices?: Do you wish to reset prices?"_s,
+                                 u"Price Reset: Price Reset Complete!"_s};
+    const Step steps[] = {
+        {u"Transfer1to2"_s,
+         u"0.68"_s,
+         {toEuro, rateBox, converted},
+         {u"1.00| 1.47|0.00|abc|-1.00|9.1|9.2|9.3|9.4|"_s, u" 1.5| 2.21|3|4|5|6|7|8|9|10"_s}},
+        {u"TransferEuro"_s, u"1,5"_s, {toEuro, rateBox, converted}, euro},
+        // Once more: from the same current prices.
+        {u"TransferEuro"_s, u"1"_s, {toEuro, rateBox, converted}, euro},
+        {u"Transfer2to1"_s,
+         {},
+         {fromEuro, converted},
+         {u" 1.47| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1"_s, u" 2.21| 2.21|3|4|5| 1.5| 2.21| 3| 4| 5"_s}},
+        {u"TransferCurrent"_s,
+         {},
+         {fromEuro, converted},
+         {u" 1| 1.47| 0| 0|-1| 1| 1.47| 0| 0|-1"_s, u" 1.5| 2.21| 3| 4| 5| 1.5| 2.21| 3| 4| 5"_s}},
+        {u"ResetPrice"_s, {}, resetBoxes, QStringList(2, QStringList(10, u"0.00"_s).join(u'|'))},
+    };
+    for (const auto& [entry, rate, boxes, stored] : steps) {
+        EXPECT_EQ(choose(entry, rate), boxes);
+        EXPECT_EQ(prices(), stored) << entry.toStdString();
+    }
 }
 
 TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClosed)
@@ -121,68 +113,48 @@ TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClos
     makeCustomerDatabase();
     const QStringList tables = {u"clerksales"_s, u"groupsales"_s, u"financialsales"_s, u"mixsales"_s,
                                 u"plusales"_s,   u"timesales"_s,  u"CARDCATEGORY"_s};
-    const auto counts = [&] {
-        store::Database database(m_values.databasePath);
-        QString all;
-        for (const QString& table : tables)
-            all += QString::number(database.openTable(table).recordCount());
-        return all;
-    };
-    for (const QString& table : tables) {
-        store::Database database(m_values.databasePath);
-        auto records = database.openTable(table);
-        records.addNew();
-        for (int i = 0; i < records.fieldCount(); ++i) {
-            const bool isDate = records.field(i).type == store::FieldType::Date;
-            if (records.field(i).required)
-                records.setValue(i, isDate ? store::Value::date({2026, 11, 24}) : store::Value::whole(1));
-        }
-        records.update();
-    }
-    addPlu(u"1"_s, u"1|2|3|4|5|6|7|8|9|10"_s);
-    ASSERT_EQ(counts(), u"1111111");
-
-    QStringList whileOpen;
+    QStringList counts;
     m_boxes.whileOpen = [&](const test::ShownBox&) {
-        whileOpen.append(counts());
+        store::Database database(m_values.databasePath);
+        counts.append(QString());
+        for (const QString& table : tables)
+            counts.back() += QString::number(database.openTable(table).recordCount());
     };
-    choose(u"SalesReset"_s);
-    EXPECT_EQ(m_boxes.shown, (Shown{resetSales, {u"Sales Reset Complete!"_s, u"Sales Reset"_s}}));
-    EXPECT_EQ(whileOpen, (QStringList{u"1111111"_s, u"0000001"_s}));
-    EXPECT_EQ(counts(), u"0000000");
-    EXPECT_EQ(prices(), Prices{u"1|2|3|4|5|6|7|8|9|10"_s});
+    for (const QString& table : tables)
+        store::Database(m_values.databasePath).execute(u"insert into %1 default values"_s.arg(table));
+    EXPECT_EQ(choose(u"SalesReset"_s),
+              (QStringList{u"Reset Sales Data?: Do you wish to reset ALL Sales data?"_s,
+                           u"Sales Reset: Sales Reset Complete!"_s}));
+    m_boxes.whileOpen({});
+    EXPECT_EQ(counts, (QStringList{u"1111111"_s, u"0000001"_s, u"0000000"_s}));
 }
 
 TEST_F(PriceUtilitiesTest, NoOpensNoDatabaseAndARateOfZeroChangesNothing)
 {
     // There is no database yet: opening it would fail.
-    for (const QString& handler : handlers) {
-        m_boxes.shown.clear();
-        EXPECT_EQ(test::failureOf([&] { action(handler).trigger(); }), 0) << handler.toStdString();
-        EXPECT_EQ(m_boxes.shown.size(), 1U);
-    }
-    EXPECT_EQ(test::failureOf([&] { choose(u"TransferEuro"_s); }), 53);
+    for (QAction* const entry : m_main.findChild<QWidget*>(u"Utils"_s)->actions())
+        EXPECT_EQ(test::failureOf([&] { entry->trigger(); }), 0);
+    ASSERT_EQ(m_boxes.shown.size(), 6U) << "the question alone";
+    for (const auto& box : m_boxes.shown)
+        EXPECT_EQ(box.preset, BoxAnswer::No) << box.title.toStdString();
+    takeBoxes();
 
     makeCustomerDatabase();
-    addPlu(u"1"_s, u"1|2|3|4|5|6|7|8|9|10"_s);
-    for (const QString& rate : {u""_s, u"0"_s, u"rate"_s}) {
-        choose(u"TransferEuro"_s, {rate});
-        EXPECT_EQ(m_boxes.shown, (Shown{toEuro, rateBox}));
-    }
-    EXPECT_EQ(prices(), Prices{u"1|2|3|4|5|6|7|8|9|10"_s});
+    addPlu(1, u"1, 2, 3, 4, 5, 6, 7, 8, 9, 10"_s);
+    for (const QString& rate : {u""_s, u"0"_s, u"rate"_s})
+        EXPECT_EQ(choose(u"TransferEuro"_s, rate), (QStringList{toEuro, rateBox}));
+    EXPECT_EQ(prices(), QStringList{u"1|2|3|4|5|6|7|8|9|10"_s});
 }
 
 TEST_F(PriceUtilitiesTest, AFailureAmidTheWalkKeepsTheRecordsBeforeItAndGivesTheWindowBack)
 {
     makeCustomerDatabase();
-    for (int number = 1; number <= 5; ++number)
-        addPlu(QString::number(number), (number == 3 ? u"1e40"_s : u"3"_s) + u"|old|||||||||"_s);
-    EXPECT_EQ(test::failureOf([&] { choose(u"Transfer1to2"_s, {u"2"_s}); }), 6);
-    EXPECT_EQ(m_boxes.shown, (Shown{toEuro, rateBox}));
-    QStringList second;
-    for (const QString& plu : prices())
-        second.append(plu.split(u'|').at(1));
-    EXPECT_EQ(second, (QStringList{u" 1.5"_s, u" 1.5"_s, u"old"_s, u"old"_s, u"old"_s}));
+    for (const int number : {1, 2, 3, 4})
+        addPlu(number, (number == 3 ? u"'1e40'"_s : u"'3'"_s) + u", 'old', 3, 4, 5, 6, 7, 8, 9, 10"_s);
+    EXPECT_EQ(test::failureOf([&] { choose(u"Transfer1to2"_s, u"2"_s); }), 6);
+    EXPECT_EQ(takeBoxes(), (QStringList{toEuro, rateBox}));
+    EXPECT_EQ(prices().join(u' ').count(u"3| 1.5|3|"_s), 2);
+    EXPECT_EQ(prices().join(u' ').count(u"|old|3|"_s), 2);
     EXPECT_TRUE(m_main.menuBar()->isEnabled());
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
@@ -190,29 +162,53 @@ TEST_F(PriceUtilitiesTest, AFailureAmidTheWalkKeepsTheRecordsBeforeItAndGivesThe
 TEST_F(PriceUtilitiesTest, DuringTheWalkTheWindowLivesTakesNoOtherEntryAndClosesOnlyAfterwards)
 {
     makeCustomerDatabase();
-    addPlu(u"1"_s, u"1|2|3|4|5|6|7|8|9|10"_s);
+    addPlu(1, u"1, 2, 3, 4, 5, 6, 7, 8, 9, 10"_s);
     int turns = 0;
     QTimer::singleShot(0, &m_main, [&] {
         ++turns;
         ASSERT_TRUE(QGuiApplication::overrideCursor());
         EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
         EXPECT_FALSE(m_main.menuBar()->isEnabled());
-        for (const QString& handler : handlers + QStringList{u"Exit"_s})
-            action(handler).trigger();
+        for (const QString& entry : {u"TransferEuro"_s, u"ResetPrice"_s, u"Exit"_s})
+            action(entry).trigger();
         m_main.close();
         EXPECT_TRUE(m_main.isVisible());
-        EXPECT_EQ(m_boxes.shown, (Shown{toEuro, rateBox}));
     });
-    choose(u"TransferEuro"_s, {u"2"_s});
+    EXPECT_EQ(choose(u"TransferEuro"_s, u"2"_s), (QStringList{toEuro, rateBox, converted}));
     EXPECT_EQ(turns, 1);
-    EXPECT_EQ(m_boxes.shown, (Shown{toEuro, rateBox, converted}));
-    EXPECT_EQ(prices(), Prices{u"1|2|3|4|5| 0.5| 1| 1.5| 2| 2.5"_s});
+    EXPECT_EQ(prices(), QStringList{u"1|2|3|4|5| 0.5| 1| 1.5| 2| 2.5"_s});
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     EXPECT_TRUE(m_main.menuBar()->isEnabled());
 
     m_boxes.answers = {true};
     EXPECT_TRUE(QTest::qWaitFor([this] { return !m_main.isVisible(); })) << "the close that was put off";
-    EXPECT_EQ(m_boxes.shown.back().title, u"Exit Program");
+    EXPECT_EQ(takeBoxes(), QStringList{u"Exit Program: Are You Sure?"_s});
+}
+
+TEST_F(PriceUtilitiesTest, LogoImagesTellTheRulesAndOnlyTheFirstEntryRunsTheConverterToItsEnd)
+{
+    // The entries cannot be chosen in the menu: what stands behind them is called.
+    const auto openers = makeOpeners(m_values, m_boxes);
+    m_values.appPath = m_folder.path("my app");
+    const auto notice = [&](QLatin1StringView entry) {
+        openers.value(menuEntry(entry)->target)(m_main, *menuEntry(entry));
+        return takeBoxes();
+    };
+    const QString rules =
+        applicationTitle() +
+        u": This utility converts the bitmap's you have created into a single DAT file ready for "
+        "downloading to the cash register\n\nYou MUST ensure that non of the images you are converting are "
+        "greater "
+        "than 432 X 144 pixels\n\nPlease note this conversion works "_s;
+    const QStringList first{rules + u"with SRP350 printers only"_s};
+    EXPECT_EQ(notice("Convert350"_L1), first) << "and nothing more where there is no converter";
+
+    m_folder.write("my app/conv_nv.exe", "#!/bin/sh\nsleep 0.1\necho made > \"$(dirname \"$0\")/made\"\n");
+    QFile::setPermissions(m_folder.path("my app/conv_nv.exe"), QFile::ReadOwner | QFile::ExeOwner);
+    EXPECT_EQ(notice("convert550"_L1), QStringList{rules + u"for SRP500 printers only"_s});
+    EXPECT_FALSE(QFile::exists(m_folder.path("my app/made")));
+    EXPECT_EQ(notice("Convert350"_L1), first);
+    EXPECT_EQ(m_folder.read("my app/made"), "made\n");
 }
 
 } // namespace
