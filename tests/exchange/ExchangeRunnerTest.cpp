@@ -190,6 +190,16 @@ TEST(ExchangeRunner, StopsAtAFailingOpening)
     EXPECT_EQ(shop.ticks.ticked, Boxset{2});
 }
 
+TEST(ExchangeRunner, SendsNothingOfAnEmptyTableThatIsPassedOver)
+{
+    Exchange shop(2);
+    shop.upload({15});
+    store::Database(shop.values.databasePath).execute(QStringLiteral("delete * from MIXNMATCH"));
+    shop.download({15});
+    EXPECT_EQ(shop.files(), QList<int>());
+    EXPECT_TRUE(shop.ticks.ticked.empty());
+}
+
 TEST(ExchangeRunner, SendsTheKeptBitmapOnlyWhenItHasBytes)
 {
     Exchange shop(2);

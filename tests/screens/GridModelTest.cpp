@@ -16,19 +16,15 @@ protected:
         return std::make_unique<GridModel>(std::make_shared<store::Database>(m_shop.values.databasePath),
                                            QString::fromLatin1(sql), columns);
     }
-    [[nodiscard]] std::unique_ptr<GridModel> priceGrid() const
-    {
-        GridColumn number{QStringLiteral("Number"), {}, true, {}, true};
-        GridColumn price{QStringLiteral("Price"), {}, false, QStringLiteral("#,##0.00"), true};
-        return grid("select PLUNUMBER, PRICE1, GROUPNO from PLUDATA order by PLUNUMBER", {number, price});
-    }
 
     test::ScreenFixture m_shop;
 };
 
 TEST_F(GridModelTest, ShowsFormatsAndStoresACellAtOnceOrRefusesIt)
 {
-    const auto model = priceGrid();
+    const auto model = grid("select PLUNUMBER, PRICE1, GROUPNO from PLUDATA order by PLUNUMBER",
+                            {{QStringLiteral("Number"), {}, true, {}, true},
+                             {QStringLiteral("Price"), {}, false, QStringLiteral("#,##0.00"), true}});
     EXPECT_EQ(model->headerData(1, Qt::Horizontal, Qt::DisplayRole), QStringLiteral("Price"));
     EXPECT_EQ(model->headerData(2, Qt::Horizontal, Qt::DisplayRole), QStringLiteral("GROUPNO"));
     EXPECT_EQ(model->index(0, 1).data(), QStringLiteral("2.50"));

@@ -73,21 +73,6 @@ TEST_F(RecordsetTest, RecordsWithoutAKeyComeFirst)
     EXPECT_EQ(m_records.value(number), text("02"));
 }
 
-TEST_F(RecordsetTest, EqualKeysKeepTheOrderInWhichTheyWereAdded)
-{
-    const Transaction transaction(m_database);
-    for (int i = 999; i >= 700; --i)
-        addItem(m_records, std::to_string(i).c_str(), Value::whole(i % 2));
-    m_records.setIndex(bygroup);
-    int last = 1000;
-    int seen = 0;
-    for (; !m_records.atEnd() && m_records.value(group) == Value::whole(0); m_records.moveNext(), ++seen) {
-        EXPECT_LT(m_records.value(number).toNumber(), last);
-        last = static_cast<int>(m_records.value(number).toNumber());
-    }
-    EXPECT_EQ(seen, 150);
-}
-
 TEST_F(RecordsetTest, AWalkSeesWhatComesAndGoesAheadOfIt)
 {
     const Transaction transaction(m_database);
