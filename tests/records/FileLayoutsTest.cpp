@@ -291,36 +291,5 @@ TEST(FileLayoutsTest, KeepsTheTextsOfTheCardKeysFromNewerFirmware)
     }
 }
 
-TEST(FileLayoutsTest, NamesTheColumnThatItRefuses)
-{
-    struct Refused {
-        int file;
-        QByteArray text;
-        int failure;
-        const char* place;
-    };
-    const Refused cases[] = {
-        {63, "Ann" + QByteArray(",0").repeated(20) + ",1,2,0x3", 13, "63.txt, line 1, column 24: "},
-        {57, "a,0,0,0,00,00,x0,1", 13, "57.txt, line 1, column 7: "},
-        {57, "a,0,0,0,00,00,00,12a", 3421, "57.txt, line 1, column 8: "},
-        {29, "17500,40,00,1,2,3,4,5x", 3421, "29.txt, line 1, column 8: "},
-        {16, "12345", 3163, "16.txt, line 1, column 1: "},
-        {20, QByteArray(31, 'x'), 3163, "20.txt, line 1, column 1: "},
-        {23, "40," + QByteArray(41, 'x'), 3163, "23.txt, line 1, column 2: "},
-        {2, "a,1O,0,0,0,0", 3421, "2.txt, line 1, column 2: "},
-    };
-    for (const Refused& refused : cases) {
-        Shop shop;
-        try {
-            shop.import(refused.file, refused.text);
-            ADD_FAILURE() << refused.file << ' ' << refused.place;
-        } catch (const RuntimeFailure& failure) {
-            EXPECT_EQ(failure.number(), refused.failure) << refused.place;
-            EXPECT_TRUE(failure.text().startsWith(QLatin1String(refused.place)))
-                << refused.place << failure.text().toStdString();
-        }
-    }
-}
-
 } // namespace
 } // namespace norvane::records

@@ -1,0 +1,212 @@
+// Lines that no register should send, for every file and every column of the catalogue: what they store, and
+// where a line is refused.
+#include "records/RegisterFiles.h"
+#include "store/Catalogue.h"
+#include "tests/records/Shop.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace norvane::records
+{
+namespace
+{
+
+using store::FieldDefinition;
+using store::FieldType;
+using test::Shop;
+
+constexpr int pluFile = 67;
+constexpr qsizetype keyWidth = 18; ///< of a PLU
+
+const FieldDefinition& fieldOf(const RegisterFile& file, const std::string& name)
+{
+    const auto& fields = store::catalogueTable(QLatin1String(file.table))->fields;
+    return *std::find_if(fields.begin(), fields.end(), [&](const FieldDefinition& field) {
+        return field.name.compare(QString::fromStdString(name), Qt::CaseInsensitive) == 0;
+    });
+}
+
+/// The columns of a line, in the order in which they are read.
+std::vector<Column> columnsRead(const ColumnSet& set)
+{
+    std::vector<Column> columns;
+    std::copy_if(set.columns.begin(), set.columns.end(), std::back_inserter(columns),
+                 [](const Column& column) { return !column.rereads; });
+    return columns;
+}
+
+std::set<std::string> fieldsRead(const RegisterFile& file)
+{
+    std::set<std::string> fields;
+    for (const Column& column : file.layout().sets.front().columns) {
+        if (column.readForm != Form::Literal && column.readForm != Form::Options)
+            fields.insert(column.readField);
+        for (const auto& digit : column.digits) {
+            for (const DigitPart& part : digit)
+                fields.insert(part.readField);
+        }
+    }
+    return fields;
+}
+
+/// A line with @p options in all option digits and something small in all other columns; @p number makes the
+/// keys of PLUs differ.
+QByteArrayList usualLine(const ColumnSet& set, const QByteArray& options, qsizetype number = 1)
+{
+    QByteArrayList line;
+    for (const Column& column : columnsRead(set)) {
+        const bool isKey = column.field == "PLUNUMBER";
+        line << (column.form == Form::Options ? options
+                 : isKey                      ? QByteArray::number(number).rightJustified(keyWidth, '0')
+                                              : "1");
+    }
+    return line;
+}
+
+/// Lines that are to store the same, one by one.
+struct LinePairs {
+    QByteArray odd;
+    QByteArray plain;
+    qsizetype count = 0;
+
+    void add(const QByteArrayList& oddLine, const QByteArrayList& plainLine)
+    {
+        odd += oddLine.join(',') + "\r\n";
+        plain += plainLine.join(',') + "\r\n";
+        ++count;
+    }
+};
+
+LinePairs linePairs(const ColumnSet& set)
+{
+    LinePairs pairs;
+    const auto columns = static_cast<qsizetype>(columnsRead(set).size());
+    for (qsizetype length = 0; length <= columns; ++length) {
+        const QByteArrayList line = usualLine(set, "40", pairs.count + 1);
+        pairs.add(line.first(length), line.first(length) + QByteArrayList(columns - length));
+    }
+    const QByteArrayList line = usualLine(set, "40", pairs.count + 1);
+    pairs.add(line + QByteArrayList{"9", "", "zz"}, line);
+    // Eight and nine are no sums of flags: neither sets any.
+    pairs.add(usualLine(set, "89", pairs.count + 1), usualLine(set, "00", pairs.count + 1));
+    return pairs;
+}
+
+/// What an import of lines with some numbers stored: record by record, then field by field.
+using Rows = std::vector<std::map<std::string, std::string>>;
+
+Rows rowsOf(Shop& shop, const RegisterFile& file, qsizetype lines, const QByteArray& text)
+{
+    if (file.upload == Upload::UpdatesRecords) {
+        QByteArray plus;
+        for (qsizetype number = 1; number <= lines; ++number)
+            plus += QByteArray::number(number).rightJustified(keyWidth, '0') + "\r\n";
+        shop.import(pluFile, plus);
+    }
+    shop.import(file.number, text);
+    store::Database database(shop.values.databasePath);
+    auto records = database.openTable(QLatin1String(file.table));
+    Rows rows;
+    for (qint64 left = records.recordCount(); left > 0; --left, records.moveNext()) {
+        auto& row = rows.emplace_back();
+        for (const std::string& field : fieldsRead(file))
+            row[field] = records.value(QString::fromStdString(field)).toUtf8();
+    }
+    return rows;
+}
+
+/// What may be stored of an empty line: nothing that a register could take for a setting.
+bool isNothing(const std::string& value)
+{
+    static const std::set<std::string> nothings{"",           "0",        "False", "00000000000000",
+                                                "Prod Mix 1", "Recipe 1", "48"};
+    return nothings.count(value) != 0;
+}
+
+TEST(BadInputTest, StoresOddLinesLikePlainOnes)
+{
+    // A first character and a plain number are taken as they are, whatever the digits.
+    const std::set<std::string> anyDigit{"GLOBALENTRY", "stockisdeducted"};
+    Shop shop;
+    for (const RegisterFile& file : registerFiles()) {
+        SCOPED_TRACE(file.importer);
+        const LinePairs pairs = linePairs(file.layout().sets.front());
+        Rows odd = rowsOf(shop, file, pairs.count, pairs.odd);
+        Rows plain = rowsOf(shop, file, pairs.count, pairs.plain);
+        if (file.upload == Upload::ReplacesTable) {
+            for (const auto& [field, value] : odd.at(0))
+                EXPECT_TRUE(isNothing(value)) << field << ' ' << value;
+        }
+        for (const std::string& field : anyDigit) {
+            EXPECT_EQ(odd.back().erase(field), plain.back().erase(field));
+        }
+        EXPECT_EQ(odd.size(), static_cast<std::size_t>(pairs.count));
+        EXPECT_EQ(odd, plain);
+    }
+}
+
+struct Fault {
+    QByteArray text;
+    int failure = 0; ///< 0 when the column takes anything
+};
+
+/// A letter where digits belong, or more text than the field has room for.
+Fault faultOf(const RegisterFile& file, const Column& column)
+{
+    constexpr int mismatch = 13;
+    constexpr int conversion = 3421;
+    constexpr int tooLong = 3163;
+    switch (column.readForm) {
+    case Form::Options:
+        return {"4x", column.firstCharacter ? 0 : mismatch};
+    case Form::HexByte:
+        return {"1x", mismatch};
+    case Form::Piece:
+        return {"1x", conversion};
+    case Form::Symbol:
+    case Form::Literal:
+        return {"xx"};
+    case Form::Text:
+    case Form::Number:
+        break;
+    }
+    const FieldDefinition& field = fieldOf(file, column.readField);
+    if (column.scale != 0)
+        return {"1x", column.leading ? 0 : mismatch};
+    if (field.type != FieldType::Text)
+        return {"1x", column.firstCharacter ? 0 : conversion};
+    const bool isOnlySought = file.upload == Upload::UpdatesRecords;
+    return {QByteArray(field.size + 1, 'y'), isOnlySought ? 0 : tooLong};
+}
+
+TEST(BadInputTest, NamesEachColumnThatItRefuses)
+{
+    Shop shop;
+    for (const RegisterFile& file : registerFiles()) {
+        shop.import(pluFile, QByteArray(keyWidth - 1, '0') + "1\r\n");
+        for (const ColumnSet& set : file.layout().sets) {
+            const int line = set.records.empty() ? 1 : set.records.front();
+            const auto columns = columnsRead(set);
+            for (std::size_t column = 0; column < columns.size(); ++column) {
+                const Fault fault = faultOf(file, columns[column]);
+                QByteArrayList bad = usualLine(set, "40");
+                bad[static_cast<qsizetype>(column)] = fault.text;
+                QString place;
+                try {
+                    shop.import(file.number, QByteArray("\r\n").repeated(line - 1) + bad.join(','));
+                } catch (const RuntimeFailure& failure) {
+                    EXPECT_EQ(failure.number(), fault.failure)
+                        << file.importer << failure.text().toStdString();
+                    place = failure.text().section(u':', 0, 0);
+                }
+                const auto expected = QStringLiteral("%1.txt, line %2, column %3").arg(file.number).arg(line);
+                EXPECT_EQ(place, fault.failure == 0 ? QString() : expected.arg(column + 1)) << file.importer;
+            }
+        }
+    }
+}
+
+} // namespace
+} // namespace norvane::records
