@@ -109,8 +109,18 @@ void prepareConnection(SQLite::Database& database, const QString& path)
         run(connection, sql, path);
 }
 
+/// The engine's count of its own memory is asked for nowhere and costs a lock at each piece of memory, of
+/// which the reading of the layout takes thousands. It can only be switched off ahead of the first
+/// connection.
+void stopCountingMemory()
+{
+    static const int result = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+    Q_UNUSED(result)
+}
+
 SQLite::Database openEngine(const QString& path, int flags)
 {
+    stopCountingMemory();
     try {
         // An absolute path is never taken for a web-like address.
         return SQLite::Database(QFileInfo(path).absoluteFilePath().toStdString(), flags, busyMilliseconds);
