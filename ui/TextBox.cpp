@@ -106,13 +106,22 @@ void TextBox::showText(const QString& text)
 void TextBox::keyPressEvent(QKeyEvent* event)
 {
     const bool isFull = text().size() >= maxLength() && !hasSelectedText();
-    const int cursor = cursorPosition();
-    if (isFull && typesCharacter(*event) && refusedIn(event->text()) == 0 && !isReadOnly() &&
-        cursor < text().size() && text().endsWith(u' ')) {
-        setText(text().chopped(1));
-        setCursorPosition(cursor);
-    }
+    if (isFull && !isReadOnly() && text().endsWith(u' ') && typesCharacter(*event) &&
+        refusedIn(event->text()) == 0)
+        makeRoom();
     QLineEdit::keyPressEvent(event);
+}
+
+void TextBox::makeRoom()
+{
+    int cursor = cursorPosition();
+    // The end key, and a click into the empty part, lead behind the blanks; what is meant is behind the text.
+    if (cursor == text().size()) {
+        while (cursor > 0 && text().at(cursor - 1) == u' ')
+            --cursor;
+    }
+    setText(text().chopped(1));
+    setCursorPosition(cursor);
 }
 
 } // namespace norvane::ui

@@ -38,6 +38,7 @@ protected:
 
 private:
     [[nodiscard]] qsizetype refusedIn(QStringView text) const;
+    void makeRoom();
 
     class Validator;
     Characters m_characters = Characters::Register;

@@ -38,6 +38,10 @@ TEST(TextBoxTest, TypingIntoAPaddedTextPushesTheBlanksOut)
     EXPECT_EQ(box.text(), QStringLiteral("Apple   "));
     QTest::keyClicks(&box, QStringLiteral("12345"));
     EXPECT_EQ(box.text(), QStringLiteral("App123le")) << "no letter is lost";
+    box.showText(QStringLiteral("Ale     "));
+    QTest::keyClick(&box, Qt::Key_End);
+    QTest::keyClicks(&box, QStringLiteral("s 1"));
+    EXPECT_EQ(box.text(), QStringLiteral("Ales 1  ")) << "the end is behind the text, not behind its blanks";
 }
 
 /// QTest's own key clicks know no keys beyond Latin-1.
