@@ -1,7 +1,6 @@
 // What an upload and a download do with the converter, the table and the files, and what they leave when
 // something is missing.
 #include "records/RegisterFiles.h"
-#include "store/Catalogue.h"
 #include "tests/records/Shop.h"
 
 #include <gtest/gtest.h>
@@ -13,23 +12,23 @@ namespace
 {
 
 using norvane::test::failureOf;
+using store::Value;
 using test::pluLine;
 using test::Shop;
+using test::text;
 
-TEST(FileProceduresTest, ConvertsFirstAndReadsWhatItLeft)
+TEST(FileProceduresTest, WritesWholeLinesInTheOrderOfTheIndex)
 {
-    const std::pair<int, const char*> models[] = {
-        {0, "Velmaro"}, {1, "Velmaro"}, {2, "Velmarn"}, {3, "Dorvik"}};
-    for (const auto& [model, word] : models) {
-        Shop shop;
-        shop.setModel(model);
-        shop.import(67, pluLine());
-        shop.import(1, "Food,40,40\r\n");
-        EXPECT_EQ(shop.commands,
-                  QStringList({QStringLiteral("convert w%1 f67.dat t67.txt u67").arg(QLatin1String(word)),
-                               QStringLiteral("convert w%1 f1.dat t1.txt u01").arg(QLatin1String(word))}));
-        EXPECT_EQ(shop.rows("PLUDATA"), 1);
-    }
+    Shop shop;
+    shop.add("GROUPS",
+             {{"GROUPNO", Value::whole(10)}, {"DESCRIPTION", text("Wine")}, {"tax6", Value::yesNo(true)}});
+    shop.add("GROUPS", {{"GROUPNO", Value::whole(9)},
+                        {"DESCRIPTION", text("Food")},
+                        {"addtogrouptotal", Value::yesNo(true)},
+                        {"tax1", Value::yesNo(true)},
+                        {"tax3", Value::yesNo(true)}});
+    EXPECT_EQ(shop.exported(1), "Food        ,40,50\r\nWine        ,00,01\r\n");
+    EXPECT_EQ(shop.commands, QStringList(QStringLiteral("convert wVelmaro f1.txt t1.dat d01")));
 }
 
 TEST(FileProceduresTest, ReplacesTheWholeTable)
@@ -38,24 +37,11 @@ TEST(FileProceduresTest, ReplacesTheWholeTable)
     shop.import(1, "a,,\r\nb,,\r\nc,,\r\n");
     shop.import(1, "d,,\r\n");
     EXPECT_EQ(shop.column("GROUPS", "DESCRIPTION"), "d");
-    // A conversion that fails is not noticed: the former text is read again.
-    shop.add("GROUPS", {{"GROUPNO", store::Value::whole(2)}});
-    shop.converter = [] {
-    };
-    importRegisterFile(1, shop.context());
-    EXPECT_EQ(shop.column("GROUPS", "DESCRIPTION"), "d");
 }
 
-TEST(FileProceduresTest, LeavesAnEmptyTableWithoutAText)
+TEST(FileProceduresTest, LeavesThePlusWithoutATextOfTheirPoints)
 {
     Shop shop;
-    shop.import(70, "3 for 2,3,199\r\n");
-    QFile::remove(shop.folder.path("70.txt"));
-    shop.converter = [] {
-    };
-    EXPECT_EQ(failureOf([&] { importRegisterFile(70, shop.context()); }), 53);
-    EXPECT_EQ(shop.rows("MIXNMATCH"), 0);
-
     shop.import(67, pluLine());
     shop.converter = [] {
     };
@@ -109,21 +95,6 @@ TEST(FileProceduresTest, FailsWhenTheTextCannotBeWritten)
         QFile::link(QStringLiteral("/dev/full"), shop.folder.path("1.txt"));
         EXPECT_EQ(failureOf([&] { exportRegisterFile(1, shop.context()); }), 61);
     }
-}
-
-TEST(FileProceduresTest, KnowsEachTableAndOrderOfTheCatalogue)
-{
-    for (const RegisterFile& file : registerFiles()) {
-        const auto* table = store::catalogueTable(QLatin1String(file.table));
-        ASSERT_NE(table, nullptr) << file.number;
-        const bool hasIndex =
-            std::any_of(table->indexes.begin(), table->indexes.end(), [&](const auto& index) {
-                return index.names.contains(QLatin1String(file.index), Qt::CaseInsensitive);
-            });
-        EXPECT_TRUE(hasIndex) << file.number;
-    }
-    EXPECT_FALSE(hasImporter(18));
-    EXPECT_FALSE(hasExporter(18));
 }
 
 TEST(FileProceduresTest, LeavesTheTableAsItWasWhenTheProgramIsKilled)
