@@ -22,10 +22,8 @@ FrmsalesComm::FrmsalesComm(ApplicationValues& values, Boxes& boxes, QWidget* par
 {
     setWindowTitle(QStringLiteral("Collect Sales."));
     auto* explanation = new QLabel(
-        QStringLiteral("Adds the sales of all registers to the database and clears them at the registers."),
-        this);
-    explanation->setWordWrap(true);
-    explanation->setFixedWidth(contentWidth);
+        QStringLiteral("Fetches the sales of all registers into the database and clears them there."), this);
+    explanation->setMinimumWidth(contentWidth);
     auto* content = new QVBoxLayout;
     content->addWidget(explanation);
     layOut(content);

@@ -95,9 +95,10 @@ public:
     }
     void useModem()
     {
-        for (const auto& [key, value] : {std::pair("Connectiontype", "1"), {"ModemDelay", "30"}})
+        for (const auto& [key, value] : {std::pair("Connectiontype", "1"), {"ModemDelay", "30"}}) {
             ProfileFile::write(settingsPath(values), QStringLiteral("SetupOption"), QLatin1String(key),
                                QLatin1String(value));
+        }
         form.setSerialLine(makeSerialLine({far.device()}));
         auto quick = std::make_unique<QuickClock>(far);
         clock = quick.get();
@@ -181,9 +182,10 @@ TEST(FrmsalesComm, EndsAtAResultThatIsNotAccepted)
         {"unknown code", "Command=collect\nResult=77", unknown, "Collect Report Files"},
         {"clearing", "Command=clear\nResult=15", "Report Clear Error", "Clear Data at ECR", true},
     };
+    Collection shop;
     for (const ErrorExit& c : exits) {
         SCOPED_TRACE(c.name);
-        Collection shop;
+        shop.boxes.shown.clear();
         shop.folder.setFaults(QByteArray("[fault]\nTool=VELMARCOMM\n") + c.faults + '\n');
         shop.collect();
         EXPECT_EQ(shop.boxes.shown, (std::vector{test::ShownBox{QLatin1String(c.text),
@@ -211,8 +213,7 @@ TEST(FrmsalesComm, CollectsWhatWaitsFromAnEarlierRun)
     }
 }
 
-/// As the collecting would leave it, but with a stamp of the test's own: what is collected cannot be told
-/// otherwise without programming the registers.
+/// The stamp is the test's own: a tool that crashes leaves the former result and the former files standing.
 TEST(FrmsalesComm, StopsAtRegistersThatSendDescriptions)
 {
     for (const char stamp : {'\x41', '\x42', '\x43'}) {
@@ -223,7 +224,7 @@ TEST(FrmsalesComm, StopsAtRegistersThatSendDescriptions)
         shop.sell(1);
         writeWholeFile(shop.folder.appFile(QStringLiteral("poll194.dll")), QByteArray("RPT\x01", 4) + stamp);
         shop.folder.setFaults(
-            "[kept]\nCommand=collect\nResult=0\n[old]\nTool=convert\nCommand=S194\nResult=1\n");
+            "[kept]\nCommand=collect\nCrash=1\n[old]\nTool=convert\nCommand=S194\nResult=1\n");
         shop.collect();
         const bool goesOn = stamp == '\x41';
         EXPECT_EQ(shop.boxes.shown.empty(), goesOn);
