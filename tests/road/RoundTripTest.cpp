@@ -61,6 +61,18 @@ Change digit(qsizetype place, char sent, char back)
     };
 }
 
+/// A bit of an option digit.
+void setBit(QByteArray& options, qsizetype place, int weight, bool on)
+{
+    const int others = (options[place] - '0') & ~weight;
+    options[place] = static_cast<char>('0' + others + (on ? weight : 0));
+}
+
+bool hasBit(const QByteArray& options, qsizetype place, int weight)
+{
+    return ((options[place] - '0') & weight) != 0;
+}
+
 Change text(const char* sent, const char* back)
 {
     return [=](const Travelling& here) {
@@ -72,57 +84,54 @@ Change text(const char* sent, const char* back)
 // clang-format off
 const Difference differences[] = {
     // A function key's text is the one text whose "^" goes out as it is, not as the register's mark.
-    {2, 0, 1, [](const Travelling& key) { key.text.replace('\xFD', '^'); }},
+    {2, 0, 1, [](const Travelling& here) { here.text.replace('\xFD', '^'); }},
     // Newer firmware keeps the texts of its card keys: blanks, as no key without a text called for a default.
-    {2, 2, 1, [](const Travelling& key) { if (key.line >= 257) key.text.fill(' '); }},
+    {2, 2, 1, [](const Travelling& here) { if (here.line >= 257) here.text.fill(' '); }},
     // Destination 2 beside the eat-in question is the digit of destination 3.
     {3, 0, 1, digit(1, '5', '7')},
-    // The start cursor is told at weight 2 and answered at weight 1, sign-on method 3 is answered as 4.
+    // The start cursor is told at weight 2 and answered at weight 1; sign-on method 3 reads as 2.
     {3, 0, 7, digit(0, '5', '6')},
     {3, 0, 7, digit(1, '3', '2')},
     // The default price level goes out with a zero behind it: ten times as much with each journey.
     {7, 0, 4, text("001", "010")},
     // That check 4 holds check 3 is told in the left digit and answered in the right one.
-    {8, 0, 2, digit(0, '5', '4')},
+    {8, 0, 2, digit(0, '7', '6')},
     // The port is the first digit behind the zeros, and goes out as the left one.
     {10, 0, 2, text("05", "50")},
     // A receipt after an interrupt is always asked for.
-    {11, 0, 2, digit(0, '0', '4')},
+    {11, 0, 2, [](const Travelling& here) { setBit(here.text, 0, 4, true); }},
     // A receipt at the time clock is told in two places and answered in the second.
-    {11, 0, 2, digit(1, '5', '1')},
+    {11, 0, 2, [](const Travelling& here) { setBit(here.text, 1, 4, hasBit(here.sentIn(3), 0, 1)); }},
     // How the date is printed is only ever read.
-    {11, 0, 4, digit(0, '7', '4')},
+    {11, 0, 4, [](const Travelling& here) { setBit(here.text, 0, 3, false); }},
     // A currency symbol is one character.
     {11, 0, 11, text("Fr ", "F  ")},
     // The question before a reset is answered at the place of the omitted tax totals.
-    {13, 0, 2, digit(1, '4', '5')},
+    {13, 0, 2, [](const Travelling& here) { setBit(here.text, 1, 1, hasBit(here.text, 1, 4)); }},
     // Three decimal places are told as 6, which reads as two.
-    {15, 0, 1, digit(0, '6', '4')},
+    {15, 0, 1, [](const Travelling& here) { setBit(here.text, 0, 2, false); }},
     // Texts lose the blanks in front of them, message lines their zeros too.
-    {25, 0, 5, [](const Travelling& line) { line.text = line.text.trimmed().leftJustified(line.text.size()); }},
-    {26, 0, 10, [](const Travelling& line) { if (line.text.startsWith('0')) line.text = line.text.sliced(1) + ' '; }},
+    {25, 0, 5, [](const Travelling& here) { here.text = here.text.trimmed().leftJustified(here.text.size()); }},
+    {26, 0, 10, [](const Travelling& here) { if (here.text.startsWith('0')) here.text = here.text.sliced(1) + ' '; }},
     // Each number of a tax table comes from the column behind it, all reserves and the end from the first reserve.
-    {29, 0, 4, [](const Travelling& rate) { rate.becomes(rate.sentIn(rate.column + 1)); }, 1, 7},
-    {29, 0, 9, [](const Travelling& rate) { rate.becomes(rate.sentIn(8)); }, 1, 30},
+    {29, 0, 4, [](const Travelling& here) { here.becomes(here.sentIn(here.column + 1)); }, 1, 7},
+    {29, 0, 9, [](const Travelling& here) { here.becomes(here.sentIn(8)); }, 1, 30},
     // Negative sales are told in column 2 and overwritten by the detail option of column 3, which is lost itself.
-    {36, 0, 2, digit(1, '3', '7')},
-    {36, 0, 3, digit(0, '6', '2')},
+    {36, 0, 2, [](const Travelling& here) { setBit(here.text, 1, 4, hasBit(here.sentIn(3), 0, 4)); }},
+    {36, 0, 3, [](const Travelling& here) { setBit(here.text, 0, 4, false); }},
     // Added points give way to the removed card in the same way.
-    {36, 0, 4, digit(1, '0', '1')},
-    {36, 0, 5, digit(1, '1', '0')},
+    {36, 0, 4, [](const Travelling& here) { setBit(here.text, 1, 1, hasBit(here.sentIn(5), 1, 1)); }},
+    {36, 0, 5, [](const Travelling& here) { setBit(here.text, 1, 1, false); }},
     // Product mixes and recipes without a name get one.
-    {58, 0, 1, [](const Travelling& mix) { mix.isNamed("Prod Mix "); }},
-    {60, 0, 1, [](const Travelling& recipe) { recipe.isNamed("Recipe "); }},
+    {58, 0, 1, [](const Travelling& here) { here.isNamed("Prod Mix "); }},
+    {60, 0, 1, [](const Travelling& here) { here.isNamed("Recipe "); }},
     // The kinds of a recipe's items go down by one, and the quantity sent is the item's number.
     {60, 0, 2, text("20", "00"), 3, 61},
     {60, 0, 2, text("40", "20"), 3, 61},
-    {60, 0, 4, [](const Travelling& item) { item.becomes(item.sentIn(item.column - 1)); }, 3, 61},
+    {60, 0, 4, [](const Travelling& here) { here.becomes(here.sentIn(here.column - 1)); }, 3, 61},
     // The grill number is read into the flag before it and is never sent.
-    {65, 0, 9, [](const Travelling& status) {
-         const int rest = (status.text[0] - '0') & 1;
-         status.text[0] = static_cast<char>('0' + rest + (status.sentIn(12) == "00" ? 0 : 4));
-     }},
-    {65, 0, 12, [](const Travelling& status) { status.text = "00"; }},
+    {65, 0, 9, [](const Travelling& here) { setBit(here.text, 0, 4, here.sentIn(12) != "00"); }},
+    {65, 0, 12, [](const Travelling& here) { here.text = "00"; }},
     // A price without a level is one of the level that it stands at.
     {67, 0, 22, text("00", "05")},
 };
