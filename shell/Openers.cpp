@@ -32,6 +32,17 @@ void openExchange(FrmMain& main, const MenuEntry& entry, ApplicationValues& valu
     dialog.exec();
 }
 
+/// The menus can be used while its modem dials, so the program can be ended meanwhile: that leaves the form
+/// as its own exit does.
+void openCollection(FrmMain& main, ApplicationValues& values, Boxes& boxes)
+{
+    main.showShared(u"FrmsalesComm"_s, [&] {
+        auto* const form = new sales::FrmsalesComm(values, boxes);
+        QObject::connect(&main, &FrmMain::unloaded, form, &QDialog::reject);
+        return form;
+    });
+}
+
 } // namespace
 
 FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
@@ -44,7 +55,7 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
         openExchange(main, entry, values, boxes);
     });
     openers.insert(u"FrmsalesComm"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
-        main.showShared(u"FrmsalesComm"_s, [&] { return new sales::FrmsalesComm(values, boxes); });
+        openCollection(main, values, boxes);
     });
     openers.insert(makeUtilityOpeners(values, boxes));
     return openers;

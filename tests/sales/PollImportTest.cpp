@@ -125,16 +125,6 @@ TEST(PollImport, TurnsRecordsIntoRows)
     }
 }
 
-TEST(PollImport, AppendsToWhatIsThere)
-{
-    const Collected shop;
-    const PollFile& file = readerOf("FileFinSales");
-    shop.text(file, "1,2\r\n");
-    EXPECT_FALSE(shop.import(file));
-    EXPECT_FALSE(shop.import(file));
-    EXPECT_EQ(shop.rows(file), "1 24/11/2026 1 2\n1 24/11/2026 1 2\n");
-}
-
 struct BadCase {
     const char* name;
     const char* procedure;
