@@ -1,8 +1,6 @@
 // convert: every register file of every model to text and back, and what it refuses.
 #include "ToolBench.h"
 
-#include <map>
-
 namespace bank::test
 {
 namespace
@@ -37,25 +35,7 @@ TEST_P(RoundTrip, ofEveryFileIsTheSameByteForByte)
 
 INSTANTIATE_TEST_SUITE_P(Models, RoundTrip, testing::Range(0, 4));
 
-TEST(Convert, writesFixedWidthsAndTheRegistersMark)
-{
-    const ToolBench bench;
-    const auto firstLine = [&bench](const char* file, const char* operation) {
-        EXPECT_EQ(
-            bench.convert(q("wVelmarn f../bank/1/%1.dat tout.txt %2").arg(q(file), q(operation))).errors, "");
-        return bench.read("work/out.txt").split('\n').first();
-    };
-    EXPECT_EQ(
-        firstLine("67", "u67"),
-        "000000000000001001,Espresso        ,01,0003,0000,0000,0000,30,0001,0001,000000000000000000,0000,"
-        "00000200,01,00000260,02,00000000,03,00000000,04,00000140,05\r");
-    EXPECT_EQ(firstLine("1", "u01"), "Hot Drinks  ,40,40\r");
-    EXPECT_EQ(firstLine("19", "u19"), "REGISTER                      \r");
-    EXPECT_TRUE(firstLine("23", "u23").startsWith("40,\xFDHARBOUR STREET CAFE "));
-    EXPECT_TRUE(firstLine("11", "u11").contains(",\xA3  ,\x80  ,"));
-}
-
-TEST(Convert, knowsTheWidthsAndWordsOfEachModel)
+TEST(Convert, knowsTheWordsOfEachModel)
 {
     struct Case {
         int model;
@@ -63,31 +43,19 @@ TEST(Convert, knowsTheWidthsAndWordsOfEachModel)
         int exitCode;
     };
     const std::vector<Case> cases{
-        {2, "wVelmarn f../bank/1/52.dat tm.txt u352", 0},
-        {2, "wVelmarn f../bank/1/52.dat tm.txt u52", 4},
-        {0, "wVelmaro f../bank/1/52.dat tm.txt u52", 0},
-        {0, "wVelmaro f../bank/1/52.dat tm.txt u352", 4},
-        {3, "wDorvik f../bank/1/52.dat tm.txt u352", 0},
-        {3, "wDorvik f../bank/1/63.dat t63.txt u63", 0},
-        {3, "wDorvik f63.txt t63.dat d63", 1},
-        {2, "wVelmarn f63.txt t63.dat d163", 1},
-        {2, "wDorvik f../bank/1/1.dat t1.txt u01", 3},
+        {2, "wVelmarn f../bank/1/52.dat tm.txt u352", 0}, {2, "wVelmarn f../bank/1/52.dat tm.txt u52", 4},
+        {0, "wVelmaro f../bank/1/52.dat tm.txt u52", 0},  {0, "wVelmaro f../bank/1/52.dat tm.txt u352", 4},
+        {3, "wDorvik f../bank/1/52.dat tm.txt u352", 0},  {3, "wDorvik f63.txt t63.dat d63", 1},
+        {2, "wVelmarn f63.txt t63.dat d163", 1},          {2, "wDorvik f../bank/1/1.dat t1.txt u01", 3},
         {0, "wVelmarn f../bank/1/1.dat t1.txt u01", 3},
-        {3, "wDorvik f../bank/1/23.dat t23.txt u23", 0},
-        {2, "wVelmarn f../bank/1/23.dat t23.txt u23", 0},
     };
-    std::map<int, QByteArray> logos;
     for (const auto& each : cases) {
         const ToolBench bench(1, each.model);
         EXPECT_EQ(bench.convert(q(each.line)).exitCode, each.exitCode) << each.line;
-        if (bench.has(q("work/m.txt"))) {
+        if (each.exitCode == 0) {
             EXPECT_EQ(bench.read("work/m.txt").count(','), each.model == 0 ? 36 : 38) << each.line;
         }
-        if (bench.has(q("work/23.txt")))
-            logos[each.model] = bench.read("work/23.txt");
     }
-    EXPECT_EQ(logos[3].size(), 2 + 10 * 33 + 2);
-    EXPECT_EQ(logos[2].size(), 2 + 10 * 41 + 2);
 }
 
 TEST(Convert, refusesATextThatDoesNotFitAndNamesThePlace)
