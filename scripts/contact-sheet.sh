@@ -10,7 +10,7 @@ cmake --build --preset ci --target contact_sheet
 sheets=build/contact-sheet
 rm -rf "$sheets"
 mkdir -p "$sheets"
-ASAN_OPTIONS="${ASAN_OPTIONS:-detect_leaks=0}" build/ci/tests/screens/contact_sheet "$sheets"
+ASAN_OPTIONS="${ASAN_OPTIONS:-detect_leaks=0}" build/ci/scripts/contactsheet/contact_sheet "$sheets"
 rm -f docs/images/screens-*.png
 cp "$sheets"/screens-*.png docs/images/
 ls -l docs/images/screens-*.png
