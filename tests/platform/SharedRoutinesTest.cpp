@@ -46,22 +46,13 @@ TEST_F(SharedRoutinesTest, ModelIndexesGiveTheConvertersWords)
     }
 }
 
-TEST_F(SharedRoutinesTest, TheMemoryFilesLengthTellsTheGeneration)
+TEST_F(SharedRoutinesTest, AMemoryFileBeyondASmallNumberHasNoGeneration)
 {
-    EXPECT_EQ(failureOf([this] { (void)GetFirmwareGeneration(m_values, m_boxes); }), 53);
-    for (const auto& [length, generation] : {std::pair{1, 2}, {77, 2}, {78, 3}, {32'767, 3}}) {
-        m_app.write("MEM.dat", QByteArray(length, 'm'));
-        EXPECT_EQ(GetFirmwareGeneration(m_values, m_boxes), generation) << length;
-    }
+    m_app.write("MEM.dat", QByteArray(32'767, 'm'));
+    EXPECT_EQ(GetFirmwareGeneration(m_values, m_boxes), 3);
     m_app.write("MEM.dat", QByteArray(32'768, 'm'));
     EXPECT_EQ(failureOf([this] { (void)GetFirmwareGeneration(m_values, m_boxes); }), 6);
     EXPECT_TRUE(m_boxes.shown.empty());
-
-    m_app.write("MEM.dat", "");
-    EXPECT_EQ(GetFirmwareGeneration(m_values, m_boxes), -1);
-    const test::ShownBox box{QStringLiteral("You must upload the data from the Velmar"), applicationTitle(),
-                             BoxIcon::None};
-    EXPECT_EQ(m_boxes.shown, std::vector{box});
 }
 
 TEST_F(SharedRoutinesTest, PositionThreeIsARowOfTheRegisterAndNoBit)

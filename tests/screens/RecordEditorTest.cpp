@@ -131,6 +131,7 @@ TEST_F(RecordEditorTest, AfterASearchInVainTheMovesGoToTheLastRecord)
 {
     RecordEditor groups = editor();
     BoundFields fields{bound(ControlKind::Text, "DESCRIPTION")};
+    EXPECT_TRUE(groups.find(1, {})) << "an empty text lies before every key";
     for (const bool forward : {true, false}) {
         EXPECT_FALSE(groups.find(1, QStringLiteral("4")));
         EXPECT_EQ(groups.save(fields), SaveOutcome::Refused) << "there is no current record";
