@@ -83,15 +83,15 @@ TEST(Value, IsConvertedOrRefusedByItsField)
     const StoreFolder folder;
     Database database(folder.path());
     auto items = database.openTable(QStringLiteral("items"));
-    for (const auto& [field, given, held, failure] : rows) {
+    for (const auto& row : rows) {
+        const QString field = QString::fromUtf8(row.field);
         database.execute(QStringLiteral("delete * from items"));
         items.addNew();
-        EXPECT_EQ(failureOf([&] { items.setValue(QString::fromUtf8(field), given); }), failure)
-            << given.toUtf8();
+        EXPECT_EQ(failureOf([&] { items.setValue(field, row.given); }), row.failure) << row.given.toUtf8();
         items.update();
         Database other(folder.path());
-        const auto stored = other.openTable(QStringLiteral("items")).value(QString::fromUtf8(field));
-        EXPECT_EQ(stored, failure == 0 ? held : Value()) << field << ' ' << stored.toUtf8();
+        const auto stored = other.openTable(QStringLiteral("items")).value(field);
+        EXPECT_EQ(stored, row.failure == 0 ? row.held : Value()) << row.field << ' ' << stored.toUtf8();
     }
 }
 
