@@ -1,0 +1,193 @@
+// The boxes and lists of the screens under a user's fingers.
+#include "ui/DecimalBox.h"
+#include "ui/IntegerBox.h"
+#include "ui/TextBox.h"
+#include "ui/ValueList.h"
+
+#include <gtest/gtest.h>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QClipboard>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::ui
+{
+namespace
+{
+
+/// What the box shows after @p keys were typed over its content and the box was left by Enter.
+QString typed(NumberBox& box, const char* keys)
+{
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_Delete);
+    QTest::keyClicks(&box, QString::fromLatin1(keys));
+    QTest::keyClick(&box, Qt::Key_Return);
+    return box.text();
+}
+
+TEST(NumberBox, TypingRules)
+{
+    IntegerBox whole;
+    DecimalBox money;
+    constexpr const char* cases[][3] = {{"007", "7", "7.00"},           {"12,5", "125", "12.50"},
+                                        {"1.2.3", "123", "1.23"},       {"-1e3x", "13", "13.00"},
+                                        {".12345", "12345", "0.12345"}, {"", "0", "0.00"}};
+    for (const auto& [keys, wholeText, moneyText] : cases) {
+        EXPECT_EQ(typed(whole, keys), QLatin1String(wholeText)) << keys;
+        EXPECT_EQ(typed(money, keys), QLatin1String(moneyText)) << keys;
+    }
+}
+
+TEST(NumberBox, ValuesSetByProgramComeBackAndRaiseNothing)
+{
+    DecimalBox box;
+    QSignalSpy edited(&box, &NumberBox::valueEdited);
+    QSignalSpy exceeded(&box, &NumberBox::maximumExceeded);
+    box.setMaximum(Decimal(10, 0));
+    for (const Decimal value : {Decimal(-5, 1), Decimal(12345, 4), Decimal(999999999999999999, 0)}) {
+        box.setValue(value);
+        EXPECT_EQ(box.value(), value) << value.text();
+    }
+    EXPECT_EQ(edited.count() + exceeded.count(), 0);
+    box.setDecimals(0);
+    box.setValue(Decimal(7, 0));
+    EXPECT_EQ(box.text(), u"7"_s);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    EXPECT_EQ(edited.count(), 1);
+}
+
+TEST(NumberBox, TheMaximumIsReportedOnceForEachEntryAboveIt)
+{
+    DecimalBox box;
+    QSignalSpy exceeded(&box, &NumberBox::maximumExceeded);
+    QObject::connect(&box, &NumberBox::maximumExceeded, &box, [&] {
+        box.setValue({});
+        box.selectAll();
+    });
+    box.setMaximum(Decimal(9999, 2));
+    EXPECT_EQ(typed(box, "0099.990"), u"99.99"_s);
+    EXPECT_EQ(exceeded.count(), 0);
+    EXPECT_EQ(typed(box, "99.991"), u"0.00"_s);
+    EXPECT_EQ(exceeded.count(), 1);
+    EXPECT_EQ(typed(box, "1005"), u"5.00"_s) << "the next digit begins a new entry";
+
+    IntegerBox whole; // without a maximum it takes what can be saved
+    QSignalSpy tooLarge(&whole, &NumberBox::maximumExceeded);
+    typed(whole, "2147483647");
+    EXPECT_EQ(tooLarge.count(), 0);
+    typed(whole, "2147483648");
+    EXPECT_EQ(tooLarge.count(), 1);
+}
+
+TEST(TextBox, TypingStopsAtTheLimitButAStoredTextStaysWhole)
+{
+    TextBox box;
+    box.setLimit(4);
+    box.showText(u"Cocktails"_s);
+    EXPECT_EQ(box.text(), u"Cocktails"_s);
+    for (const auto& [limit, kept] : {std::pair{4, u"Drin"_s}, {0, u"Drinks"_s}}) {
+        box.setLimit(limit);
+        box.showText({});
+        QTest::keyClicks(&box, u"Drinks"_s);
+        EXPECT_EQ(box.text(), kept);
+    }
+}
+
+TEST(TextBox, TypingIntoAPaddedTextPushesTheBlanksOut)
+{
+    TextBox box;
+    box.setLimit(8);
+    box.showText(u"Ale     "_s);
+    QTest::keyClick(&box, Qt::Key_Right);
+    QTest::keyClicks(&box, u"pp"_s);
+    EXPECT_EQ(box.text(), u"Apple   "_s);
+    QTest::keyClicks(&box, u"12345"_s);
+    EXPECT_EQ(box.text(), u"App123le"_s) << "no letter is lost";
+    box.showText(u"Ale     "_s);
+    QTest::keyClick(&box, Qt::Key_End);
+    QTest::keyClicks(&box, u"s 1"_s);
+    EXPECT_EQ(box.text(), u"Ales 1  "_s) << "the end is behind the text, not behind its blanks";
+}
+
+TEST(TextBox, RefusesWhatTheFieldCannotHold)
+{
+    using enum TextBox::Characters;
+    const struct {
+        TextBox::Characters characters;
+        QString typed;
+        QString kept;
+    } cases[] = {
+        {Register, u"Caf\u00e9 5\u20ac \u2605\u0142\u201cok\u201d"_s, u"Caf\u00e9 5\u20ac \u201cok\u201d"_s},
+        {Digits, u"1a-2 3\u0663"_s, u"123"_s},
+        {Hexadecimal, u"0Ag f9.-x"_s, u"0Af9"_s}};
+    for (const auto& [characters, typed, kept] : cases) {
+        TextBox box;
+        box.setCharacters(characters);
+        for (const QChar character : typed) // QTest's own key clicks know no keys beyond Latin-1
+            QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString(character), Qt::NoModifier);
+        EXPECT_EQ(box.text(), kept);
+        QApplication::clipboard()->setText(typed);
+        box.paste();
+        EXPECT_EQ(box.text(), kept) << "pasted";
+    }
+}
+
+TEST(TextBox, AStoredTextThatCouldNotBeTypedCanBeMended)
+{
+    TextBox box;
+    box.setLimit(4);
+    box.setCharacters(TextBox::Characters::Hexadecimal);
+    box.showText(u"0G  "_s);
+    QTest::keyClick(&box, Qt::Key_End);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    QTest::keyClick(&box, Qt::Key_Home);
+    QTest::keyClicks(&box, u"xAz"_s);
+    EXPECT_EQ(box.text(), u"A0G "_s) << "no blank is pushed out for what is refused";
+}
+
+TEST(ValueList, TheValueSelectsItsRowAndStaysAsItWasGiven)
+{
+    ValueList list;
+    const QSignalSpy edited(&list, &ValueList::valueEdited);
+    EXPECT_TRUE(list.value().isNull());
+    EXPECT_EQ(list.currentIndex(), -1);
+    list.setValue(u"02"_s);
+    list.setRows({{u"0"_s, u"Not used"_s}, {u"1"_s, u"Wines"_s}, {u"2"_s, u"Beers"_s}});
+    EXPECT_EQ(list.currentText(), u"2  Beers"_s);
+    EXPECT_EQ(list.value(), u"02"_s);
+    list.setValue(u"7"_s);
+    EXPECT_EQ(list.currentIndex(), -1);
+    EXPECT_EQ(list.value(), u"7"_s);
+    list.setValueColumn(1);
+    list.setValue(u"Wines"_s);
+    EXPECT_EQ(list.currentIndex(), 1);
+
+    QWheelEvent turn({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&list, &turn);
+    EXPECT_EQ(list.value(), u"Wines"_s);
+    EXPECT_FALSE(turn.isAccepted()) << "it scrolls the screen instead";
+    EXPECT_EQ(edited.count(), 0);
+}
+
+TEST(ValueList, TheOpenListIsAsWideAsItsColumnsAndHidesThoseOfNoWidth)
+{
+    ValueList list;
+    list.setRows({{u"1"_s, u"Wines"_s}, {u"2"_s, u"Beers"_s}});
+    list.resize(40, 24);
+    list.setColumnWidths({0, 150});
+    list.setValue(u"2"_s);
+    EXPECT_EQ(list.currentText(), u"Beers"_s);
+    list.show();
+    list.showPopup();
+    EXPECT_GE(list.view()->width(), 150);
+    QTest::keyClick(list.view(), Qt::Key_Up);
+    QTest::keyClick(list.view(), Qt::Key_Return);
+    EXPECT_EQ(list.value(), u"1"_s);
+}
+
+} // namespace
+} // namespace norvane::ui
