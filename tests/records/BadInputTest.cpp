@@ -143,7 +143,8 @@ TEST(BadInputTest, StoresOddLinesLikePlainOnes)
             EXPECT_EQ(odd.back().erase(field), plain.back().erase(field));
         }
         EXPECT_EQ(odd.size(), static_cast<std::size_t>(pairs.count));
-        EXPECT_EQ(odd, plain);
+        for (std::size_t line = 0; line < plain.size(); ++line)
+            EXPECT_EQ(odd.at(line), plain[line]) << "line " << line + 1;
     }
 }
 
@@ -193,16 +194,17 @@ TEST(BadInputTest, NamesEachColumnThatItRefuses)
                 const Fault fault = faultOf(file, columns[column]);
                 QByteArrayList bad = usualLine(set, "40");
                 bad[static_cast<qsizetype>(column)] = fault.text;
-                QString place;
+                std::string place;
                 try {
                     shop.import(file.number, QByteArray("\r\n").repeated(line - 1) + bad.join(','));
                 } catch (const RuntimeFailure& failure) {
                     EXPECT_EQ(failure.number(), fault.failure)
                         << file.importer << failure.text().toStdString();
-                    place = failure.text().section(u':', 0, 0);
+                    place = failure.text().section(u':', 0, 0).toStdString();
                 }
-                const auto expected = QStringLiteral("%1.txt, line %2, column %3").arg(file.number).arg(line);
-                EXPECT_EQ(place, fault.failure == 0 ? QString() : expected.arg(column + 1)) << file.importer;
+                const auto refused =
+                    QStringLiteral("%1.txt, line %2, column %3").arg(file.number).arg(line).arg(column + 1);
+                EXPECT_EQ(place, fault.failure == 0 ? "" : refused.toStdString()) << file.importer;
             }
         }
     }
