@@ -1,7 +1,10 @@
-// The tool's command lines from a customer's settings file, blank by blank.
+// What the transfer tool and the modem are told by a customer's settings file, and how results read.
 #include "link/CommandLines.h"
 
+#include "link/ResultCodes.h"
 #include "tests/platform/TestFolder.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::link
 {
@@ -19,52 +22,56 @@ LinkSettings settingsFrom(const QByteArray& keys)
 
 TEST(CommandLines, AreTheSettingsWordsToTheBlank)
 {
-    const struct {
-        const char* keys;
-        const char* upload;
-        const char* opening;
-        const char* send;
-        const char* rate;
-    } rows[] = {
-        {"", "VELMARCOMM s2 c1  N67.DAT -U 67", "VELMARCOMM s2  c1 Nmem.DAT -U 52",
-         "VELMARCOMM s2  F1 1T c1  N1.DAT -D 1", "1200"},
-        {"Port= 0\r\nBaud= 2\r\nNoOfECRs=2\r\n", "VELMARCOMM s9 c1  N67.DAT -U 67",
-         "VELMARCOMM s9  c1 Nmem.DAT -U 52", "VELMARCOMM s9  F1 3T c1  N1.DAT -D 1", "9600"},
-        {"port=3\r\nbaud=3\r\nNoOfECRs=31\r\n", "VELMARCOMM s1 c4   N67.DAT -U 67",
-         "VELMARCOMM s1  c4  Nmem.DAT -U 52", "VELMARCOMM s1  F1 32T c4   N1.DAT -D 1", "19200"},
-        {"port=1\r\nbaud=1\r\nNoOfECRs=1\r\n", "VELMARCOMM s4 c2   N67.DAT -U 67",
-         "VELMARCOMM s4  c2  Nmem.DAT -U 52", "VELMARCOMM s4  F1 2T c2   N1.DAT -D 1", "2400"},
-        {"port=4\r\nbaud=-1\r\nNoOfECRs=-1\r\n", "VELMARCOMM s9 c1   N67.DAT -U 67",
-         "VELMARCOMM s9  c1  Nmem.DAT -U 52", "VELMARCOMM s9  F1 0T c1   N1.DAT -D 1", "9600"},
+    constexpr const char* rows[][3] = {
+        {"", "VELMARCOMM s2  F1 1T c1  N1.DAT -D 1", "1200"},
+        {"port=1\r\nbaud=1\r\nNoOfECRs=1", "VELMARCOMM s4  F1 2T c2   N1.DAT -D 1", "2400"},
+        {"Port= 0\r\nBaud= 2\r\nNoOfECRs=2", "VELMARCOMM s9  F1 3T c1  N1.DAT -D 1", "9600"},
+        {"port=3\r\nbaud=3\r\nNoOfECRs=31", "VELMARCOMM s1  F1 32T c4   N1.DAT -D 1", "19200"},
+        {"port=4\r\nbaud=-1\r\nNoOfECRs=-1", "VELMARCOMM s9  F1 0T c1   N1.DAT -D 1", "9600"},
     };
-    for (const auto& row : rows) {
-        const LinkSettings link = settingsFrom(row.keys);
-        EXPECT_EQ(uploadLine(link, QStringLiteral("  N67.DAT -U 67")).toStdString(), row.upload);
-        EXPECT_EQ(downloadOpeningLine(link, QLatin1String(memorySuffix)).toStdString(), row.opening);
-        EXPECT_EQ(downloadLine(link, QStringLiteral("  N1.DAT -D 1")).toStdString(), row.send);
-        EXPECT_EQ(bareRate(link.baudIndex).toStdString(), row.rate);
+    for (const auto& [keys, download, rate] : rows) {
+        const LinkSettings link = settingsFrom(keys);
+        EXPECT_EQ(downloadLine(link, u"  N1.DAT -D 1"_s).toStdString(), download);
+        EXPECT_EQ(bareRate(link.baudIndex).toStdString(), rate);
     }
+    const LinkSettings link = settingsFrom("port=3\r\nbaud=3");
+    EXPECT_EQ(uploadLine(link, u"  N67.DAT -U 67"_s), u"VELMARCOMM s1 c4   N67.DAT -U 67"_s);
+    EXPECT_EQ(downloadOpeningLine(link, QLatin1String(memorySuffix)), u"VELMARCOMM s1  c4  Nmem.DAT -U 52"_s);
 }
 
 TEST(LinkSettings, TakesDefaultsAndKeepsEmptyTexts)
 {
-    const LinkSettings absent = settingsFrom("");
-    EXPECT_EQ(absent.connectionType, QStringLiteral("DIRECT"));
-    EXPECT_EQ(absent.resetString, QStringLiteral("AT&F\r"));
-    EXPECT_EQ(absent.setUpString, QStringLiteral("ATZ1\r"));
-    EXPECT_EQ(absent.dialString, QStringLiteral("ATD\r"));
-    EXPECT_EQ(absent.modemDelay, 0);
-
-    const LinkSettings set = settingsFrom("CONNECTIONTYPE=1\r\nmodemreset=\r\nModemString=ATX3\r\n"
-                                          "Telephone=0,0201 55\r\nModemDelay=45 s\r\n");
-    EXPECT_TRUE(set.isModem());
-    EXPECT_EQ(set.resetString, QStringLiteral("\r"));
-    EXPECT_EQ(set.setUpString, QStringLiteral("ATX3\r"));
-    EXPECT_EQ(set.dialString, QStringLiteral("ATD0,0201 55\r"));
-    EXPECT_EQ(set.modemDelay, 45);
-    EXPECT_FALSE(settingsFrom("Connectiontype=7\r\n").isModem());
-    EXPECT_EQ(settingsFrom("ModemDelay=32767\r\n").modemDelay, 32767);
+    const struct {
+        const char* keys;
+        bool isModem;
+        QStringList strings; ///< reset, set-up, dial
+        int delay;
+    } rows[] = {
+        {"", false, {u"AT&F\r"_s, u"ATZ1\r"_s, u"ATD\r"_s}, 0},
+        {"CONNECTIONTYPE=1\r\nmodemreset=\r\nModemString=ATX3\r\nTelephone=0,0201 55\r\nModemDelay=45 s",
+         true,
+         {u"\r"_s, u"ATX3\r"_s, u"ATD0,0201 55\r"_s},
+         45},
+        {"Connectiontype=7\r\nModemDelay=32767", false, {u"AT&F\r"_s, u"ATZ1\r"_s, u"ATD\r"_s}, 32767}};
+    for (const auto& [keys, isModem, strings, delay] : rows) {
+        const LinkSettings link = settingsFrom(keys);
+        EXPECT_EQ(link.isModem(), isModem) << keys;
+        EXPECT_EQ((QStringList{link.resetString, link.setUpString, link.dialString}), strings) << keys;
+        EXPECT_EQ(link.modemDelay, delay);
+    }
     EXPECT_EQ(test::failureOf([] { (void)settingsFrom("ModemDelay=32768\r\n"); }), 6);
+}
+
+TEST(ResultCodes, HaveTheirOwnWordsOrShowTheDialResult)
+{
+    EXPECT_EQ(resultText(1, 0), u"1. Bad Agrument Entry"_s);
+    EXPECT_EQ(resultText(13, 0), resultText(14, 0));
+    EXPECT_EQ(resultText(100, 0), u"Modem Failure"_s);
+    EXPECT_EQ(resultText(101, 0).count(u'\r'), 3);
+    EXPECT_EQ(resultText(-13, 0), u"Error 0 Sorry Error Unknown"_s);
+    EXPECT_EQ(resultText(0, modemFailed), u"Error 100 Sorry Error Unknown"_s);
+    EXPECT_EQ(resultNumber(u" -14 "_s), -14);
+    EXPECT_EQ(test::failureOf([] { (void)resultNumber(u"PK\x03"_s); }), 13);
 }
 
 } // namespace

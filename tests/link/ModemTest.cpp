@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 #include <QCoreApplication>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::link
 {
 namespace
@@ -18,14 +20,6 @@ using test::QuickClock;
 class ModemTest : public testing::Test
 {
 protected:
-    ModemTest()
-    {
-        m_link.connectionType = QStringLiteral("MODEM");
-        m_link.resetString = QStringLiteral("AT&F\r");
-        m_link.setUpString = QStringLiteral("ATZ1\r");
-        m_link.dialString = QStringLiteral("ATD555\r");
-        m_link.modemDelay = 30;
-    }
     /// @return the result of a dialling that gets these answers to its three commands.
     int dial(std::deque<PseudoModem::Answer> answers)
     {
@@ -38,7 +32,12 @@ protected:
     PseudoModem m_far;
     QuickClock m_clock{m_far};
     std::unique_ptr<SerialLine> m_line = makeSerialLine({m_far.device()});
-    LinkSettings m_link;
+    LinkSettings m_link{.connectionType = u"MODEM"_s,
+                        .resetString = u"AT&F\r"_s,
+                        .setUpString = u"ATZ1\r"_s,
+                        .dialString = u"ATD555\r"_s,
+                        .modemDelay = 30,
+                        .rangeWord = u"1T"_s};
     QStringList m_shown;
     Modem m_modem{*m_line, m_clock, [this](const QString& text) {
                       m_shown << text;
@@ -51,9 +50,8 @@ TEST_F(ModemTest, ResetsProgramsDialsAndLeavesThePortToTheTool)
     EXPECT_EQ(dial({{"\r\nOK\r\n", 1}, {"\r\nOK\r\n", 14}, {"\r\nCONNECT 9600\r\n", 20}}), 0);
     EXPECT_FALSE(m_line->isOpen());
     EXPECT_EQ(m_far.received(), QByteArray("AT&F\rATZ1\rATD555\r"));
-    EXPECT_EQ(m_shown, (QStringList{QStringLiteral("Resetting Modem .......AT&F\r"),
-                                    QStringLiteral("Programming Modem .......ATZ1\r"),
-                                    QStringLiteral("Dialing ATD555\r"), QStringLiteral("Connected")}));
+    EXPECT_EQ(m_shown, (QStringList{u"Resetting Modem .......AT&F\r"_s, u"Programming Modem .......ATZ1\r"_s,
+                                    u"Dialing ATD555\r"_s, u"Connected"_s}));
     // The answers' seconds and two pauses of more than two.
     EXPECT_NEAR(m_clock.now() - start, 1 + 14 + 20 + 2 * 2, 1);
 }
@@ -87,52 +85,38 @@ TEST_F(ModemTest, TakesWhatCountsAsAnAnswer)
     EXPECT_EQ(dial({{"OK"}, {"OK"}, {"CONNECT", 1}}), modemFailed) << "without a time-out";
 }
 
-TEST_F(ModemTest, JoinsAnAnswerThatComesInPieces)
+/// What comes in within the pause behind an answer belongs to no later command but the dialling.
+TEST_F(ModemTest, JoinsPiecesAndDropsWhatComesInBeforeTheProgrammingAlone)
 {
     m_far.willSay(36001, "K");
-    m_far.willSay(36010, "ECT");
-    EXPECT_EQ(dial({{"O"}, {"OK"}, {"CONN"}}), 0);
-}
-
-/// What comes in within the pause behind an answer belongs to no later command but the dialling.
-TEST_F(ModemTest, DropsWhatComesInBeforeTheProgrammingAlone)
-{
-    m_far.willSay(36001, "OK");
-    EXPECT_EQ(dial({{"OK"}}), modemFailed);
+    m_far.willSay(36002.5, "OK");
+    EXPECT_EQ(dial({{"O"}}), modemFailed);
     EXPECT_EQ(m_far.received(), QByteArray("AT&F\rATZ1\r"));
     m_line->close();
     m_far.willSay(m_clock.now() + 3.5, "CONNECT");
     EXPECT_EQ(dial({{"OK"}, {"OK"}}), 0);
 }
 
-TEST_F(ModemTest, DoesNotTimeOutAcrossMidnight)
+TEST_F(ModemTest, DoesNotTimeOutAcrossMidnightButEndsItsPauses)
 {
     QuickClock late(m_far, 86390);
     Modem modem(*m_line, late, [](const QString&) {});
     m_far.willAnswer({{"OK"}, {"OK"}, {"CONNECT", 60}});
     EXPECT_EQ(modem.DialModem(m_link), 0) << "the dialling would end after 30 seconds by day";
+    QuickClock later(m_far, 86399.5);
+    Modem(*m_line, later, [](const QString&) {}).Dropphoneline();
+    EXPECT_NEAR(later.now(), 1.5, 0.3);
 }
 
-TEST_F(ModemTest, EndsAPauseAcrossMidnight)
+TEST_F(ModemTest, PassesOverAPortThatIsMissingOrUnplugged)
 {
-    QuickClock late(m_far, 86399.5);
-    Modem modem(*m_line, late, [](const QString&) {});
-    modem.Dropphoneline();
-    EXPECT_NEAR(late.now(), 1.5, 0.3);
-}
-
-TEST_F(ModemTest, FailsOnAPortThatCannotBeOpened)
-{
-    EXPECT_FALSE(m_line->send(QStringLiteral("AT"))) << "not open yet";
-    const auto line = makeSerialLine({QStringLiteral("no-such-port")});
-    Modem modem(*line, m_clock, [](const QString&) {});
+    EXPECT_FALSE(m_line->send(u"AT"_s)) << "not open yet";
+    const auto missing = makeSerialLine({u"no-such-port"_s});
+    Modem modem(*missing, m_clock, [](const QString&) {});
     EXPECT_EQ(modem.DialModem(m_link), modemFailed);
     modem.Dropphoneline();
-    EXPECT_FALSE(line->isOpen());
-}
+    EXPECT_FALSE(missing->isOpen());
 
-TEST_F(ModemTest, AModemThatIsUnpluggedEndsNeitherWaitNorProgram)
-{
     auto far = std::make_unique<PseudoModem>();
     const auto line = makeSerialLine({far->device()});
     ASSERT_TRUE(line->open());
@@ -140,22 +124,16 @@ TEST_F(ModemTest, AModemThatIsUnpluggedEndsNeitherWaitNorProgram)
     far.reset();
     EXPECT_EQ(line->inputCount(), 0);
     line->clearInput();
-    (void)line->send(QStringLiteral("+++"));
+    (void)line->send(u"+++"_s);
     line->close();
-    EXPECT_FALSE(line->isOpen());
     EXPECT_FALSE(line->open());
-}
-
-TEST_F(ModemTest, LeavesThePortAsItWasForAnIndexBeyondFour)
-{
-    m_link.portIndex = 0;
-    m_modem.setUpLine(m_link);
-    m_link.portIndex = 4;
-    EXPECT_EQ(dial({{"OK"}, {"OK"}, {"CONNECT"}}), 0);
 }
 
 TEST_F(ModemTest, HangsUpAnOpenAndAClosedPort)
 {
+    m_link.portIndex = 0;
+    m_modem.setUpLine(m_link);
+    m_link.portIndex = 4; // beyond the list: the port stays as it was
     for (const bool open : {false, true}) {
         SCOPED_TRACE(open);
         m_modem.setUpLine(m_link);
@@ -167,19 +145,6 @@ TEST_F(ModemTest, HangsUpAnOpenAndAClosedPort)
         EXPECT_EQ(m_far.received(), before + "+++ATH\r");
         EXPECT_GT(m_clock.now() - start, 2) << "the escape needs silence after it";
     }
-}
-
-TEST_F(ModemTest, EndsTheWaitWhenTheUserHangsUpInItsMidst)
-{
-    m_clock.onEvents = [this, left = false]() mutable {
-        if (!left && m_clock.now() > 36005) {
-            left = true;
-            m_modem.Dropphoneline();
-        }
-    };
-    EXPECT_EQ(dial({}), modemFailed);
-    EXPECT_LT(m_clock.now(), 36010);
-    EXPECT_EQ(m_far.received(), QByteArray("AT&F\r+++ATH\r"));
 }
 
 } // namespace
