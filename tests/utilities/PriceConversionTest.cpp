@@ -13,12 +13,9 @@ TEST(PriceConversionTest, APriceIsDividedCutAtTheFourthPlaceAndRoundedOnTheThird
     // price, what the user types as rate, what is stored
     constexpr const char* cases[][3] = {
         {"1.00", "0.68", " 1.47"},
-        {"2.00", "0.68", " 2.94"},
-        {"0.00", "0.68", " 0"},
         {"", "0.68", " 0"},
         {"abc", "0.68", " 0"},
         {" 1.5", "1", " 1.5"},
-        {"0.68", "1", " 0.68"},
         {"7.5kg", " 2.5 DM", " 3"},
         {"3", "1,5", " 3"},
         // The fourth place is rounded before it is cut, so a price can round up twice.
@@ -34,7 +31,6 @@ TEST(PriceConversionTest, APriceIsDividedCutAtTheFourthPlaceAndRoundedOnTheThird
         // The third digit is taken off a negative price, which leads away from zero.
         {"-1.234", "1", "-1.24"},
         {"-1.232", "1", "-1.23"},
-        {"-0.68", "1", "-0.68"},
         {"-0.0004", "1", " 0"},
         {"1.00", "-0.68", "-1.47"},
     };
