@@ -77,6 +77,7 @@ TEST(RecordReaderTest, KeepsWhatCameBeforeALineThatItRefuses)
         int failure;
         const char* place;
     } cases[] = {{pluLine({{8, "  "}}), 13, "67.txt, line 2, column 8: "},
+                 {pluLine({{8, "-4"}}), 13, "67.txt, line 2, column 8: "},
                  {pluLine(), 3022, "67.txt, line 2: "}};
     for (const auto& [line, number, place] : cases) {
         Shop shop;
