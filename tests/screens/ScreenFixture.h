@@ -1,112 +1,161 @@
-// A shop's small database and screen files for the tests of screens.
+// A screen over a shop's small database, driven as a user would.
 #pragma once
 
+#include "screens/OptionForm.h"
 #include "shell/ApplicationValues.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"
+#include "tests/support/FormTest.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
 
 namespace norvane::test
 {
 
+using namespace Qt::Literals::StringLiterals;
+
 /// Two tables: GROUPS with its number as key and an index over the names, PLUDATA with 18-digit keys.
 inline QVector<store::TableDefinition> shopTables()
 {
-    using store::FieldType;
-    const auto text = [](const char* name) {
-        return QString::fromLatin1(name);
-    };
-    const store::TableDefinition groups{
-        text("GROUPS"),
-        {{text("GROUPNO"), FieldType::Long, 0, {}, false},
-         {text("DESCRIPTION"), FieldType::Text, 12, {}, false},
-         {text("RATE"), FieldType::Double, 0, {}, false},
-         {text("PRICE"), FieldType::Text, 12, {}, false},
-         {text("LINK"), FieldType::Long, 0, {}, false},
-         {text("LONGLINK"), FieldType::Digits, 18, {}, false},
-         {text("TAX1"), FieldType::YesNo, 0, {}, false},
-         {text("FLAG"), FieldType::Long, 0, {}, false}},
-        {{{text("groupno")}, text("GROUPNO"), true}, {{text("byname")}, text("DESCRIPTION"), false}}};
-    const store::TableDefinition plus{text("PLUDATA"),
-                                      {{text("PLUNUMBER"), FieldType::Text, 18, {}, false},
-                                       {text("DESCRIPTION"), FieldType::Text, 16, {}, false},
-                                       {text("PRICE1"), FieldType::Text, 12, {}, false},
-                                       {text("GROUPNO"), FieldType::Long, 0, {}, false}},
-                                      {{{text("plunumber")}, text("PLUNUMBER"), true}}};
-    return {groups, plus};
+    using enum store::FieldType;
+    return {{u"GROUPS"_s,
+             {{u"GROUPNO"_s, Long, 0, {}},
+              {u"DESCRIPTION"_s, Text, 12, {}},
+              {u"RATE"_s, Double, 0, {}},
+              {u"PRICE"_s, Text, 12, {}},
+              {u"LINK"_s, Long, 0, {}},
+              {u"LONGLINK"_s, Digits, 18, {}},
+              {u"TAX1"_s, YesNo, 0, {}},
+              {u"FLAG"_s, Long, 0, {}}},
+             {{{u"groupno"_s}, u"GROUPNO"_s}, {{u"byname"_s}, u"DESCRIPTION"_s, false}}},
+            {u"PLUDATA"_s,
+             {{u"PLUNUMBER"_s, Text, 18, {}},
+              {u"DESCRIPTION"_s, Text, 16, {}},
+              {u"PRICE1"_s, Text, 12, {}},
+              {u"GROUPNO"_s, Long, 0, {}}},
+             {{{u"plunumber"_s}, u"PLUNUMBER"_s}}}};
 }
 
-/// A folder with such a database and with screen files as the tests write them.
-class ScreenFixture
+class ScreenFixture : public testing::Test
 {
-public:
+protected:
+    using Form = std::unique_ptr<screens::OptionForm>;
+
     ScreenFixture()
     {
-        values.appPath = folder.path();
-        values.databasePath = folder.path("velmar.mdb");
-        values.screenFilePath = folder.path("test.scn");
-        store::Database::create(values.databasePath, shopTables());
-        addGroup(1, "Wines", 3);
-        addGroup(2, "Beers", 1);
-        addGroup(3, "Food", 2);
-        addPlu("000000000000000005", "Lager");
-        addPlu("000000000000000123", "Claret");
+        m_values.appPath = m_folder.path();
+        m_values.databasePath = m_folder.path("velmar.mdb");
+        m_values.screenFilePath = m_folder.path("test.scn");
+        store::Database::create(m_values.databasePath, shopTables());
+        for (const char* group : {"1, 'Wines', 3, 1, 1", "2, 'Beers', 1, 0, -1", "3, 'Food', 2, 0, -1"}) {
+            execute("insert into GROUPS (RATE, PRICE, GROUPNO, DESCRIPTION, LINK, TAX1, FLAG) values (1.5, "
+                    "'12.34', " +
+                    QByteArray(group) + ")");
+        }
+        execute("insert into PLUDATA values ('000000000000000005', 'Lager', '2.5', 1)");
+        execute("insert into PLUDATA values ('000000000000000123', 'Claret', '2.5', 1)");
     }
 
-    void addGroup(int number, const char* name, int link) const
+    void execute(const QByteArray& sql) const
     {
-        store::Database database(values.databasePath);
-        store::Recordset records = database.openTable(QStringLiteral("GROUPS"));
-        records.addNew();
-        records.setValue(QStringLiteral("GROUPNO"), store::Value::whole(number));
-        records.setValue(QStringLiteral("DESCRIPTION"), store::Value::text(std::string(name)));
-        records.setValue(QStringLiteral("RATE"), store::Value::number(1.5));
-        records.setValue(QStringLiteral("PRICE"), store::Value::text(std::string("12.34")));
-        records.setValue(QStringLiteral("LINK"), store::Value::whole(link));
-        records.setValue(QStringLiteral("TAX1"), store::Value::yesNo(number == 1));
-        records.setValue(QStringLiteral("FLAG"), store::Value::whole(number == 1 ? 1 : -1));
-        records.update();
+        store::Database(m_values.databasePath).execute(QString::fromUtf8(sql));
     }
-
-    void addPlu(const char* number, const char* name) const
+    /// All rows of a query as another program would read them: columns joined by "|", null as "null", a blank
+    /// between rows.
+    [[nodiscard]] std::string rows(const char* sql) const
     {
-        store::Database database(values.databasePath);
-        store::Recordset records = database.openTable(QStringLiteral("PLUDATA"));
-        records.addNew();
-        records.setValue(QStringLiteral("PLUNUMBER"), store::Value::text(std::string(number)));
-        records.setValue(QStringLiteral("DESCRIPTION"), store::Value::text(std::string(name)));
-        records.setValue(QStringLiteral("PRICE1"), store::Value::text(std::string("2.5")));
-        records.setValue(QStringLiteral("GROUPNO"), store::Value::whole(1));
-        records.update();
-    }
-
-    /// All rows of a query as another program would read them: columns joined by "|", null as "null".
-    [[nodiscard]] QStringList rows(const char* sql) const
-    {
-        store::Database database(values.databasePath);
-        store::Recordset records = database.openQuery(QString::fromUtf8(sql));
+        store::Database database(m_values.databasePath);
         QStringList rows;
-        for (; !records.atEnd(); records.moveNext()) {
+        for (auto records = database.openQuery(QString::fromUtf8(sql)); !records.atEnd();
+             records.moveNext()) {
             QStringList columns;
-            for (int field = 0; field < records.fieldCount(); ++field) {
-                columns +=
-                    records.value(field).isNull() ? QStringLiteral("null") : records.value(field).toText();
-            }
+            for (int field = 0; field < records.fieldCount(); ++field)
+                columns += records.value(field).isNull() ? u"null"_s : records.value(field).toText();
             rows += columns.join(u'|');
         }
-        return rows;
-    }
-
-    void execute(const char* sql) const
-    {
-        store::Database(values.databasePath).execute(QString::fromUtf8(sql));
+        return rows.join(u' ').toStdString();
     }
 
     /// Writes the screen file; lines are given with "\n".
-    void screen(QByteArray text) const { folder.write("test.scn", text.replace("\n", "\r\n")); }
+    void screen(QByteArray text) const { m_folder.write("test.scn", text.replace("\n", "\r\n")); }
+    /// Opens the screen file that is written now.
+    Form open(screens::ReportRunner* reports = nullptr)
+    {
+        auto form = std::make_unique<screens::OptionForm>(m_values, m_boxes, reports);
+        form->show();
+        QApplication::setActiveWindow(form.get());
+        EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+        return form;
+    }
+    Form open(const QByteArray& text)
+    {
+        screen(text);
+        return open();
+    }
+    template <typename Widget = QWidget>
+    static Widget* control(const Form& form, const char* name)
+    {
+        auto* const found = form->findChild<Widget*>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    static void press(const Form& form, const char* button)
+    {
+        QTest::mouseClick(control<QAbstractButton>(form, button), Qt::LeftButton);
+    }
+    static void type(const Form& form, const char* box, const char* text)
+    {
+        auto* const edit = control<QLineEdit>(form, box);
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_Delete);
+        QTest::keyClicks(edit, QString::fromUtf8(text));
+    }
+    static std::string text(const Form& form, const char* box)
+    {
+        return control<QLineEdit>(form, box)->text().toStdString();
+    }
+    /// Presses a find button, types into the dialog and ends it with a key, or with the button @p answer.
+    static void find(const Form& form, const char* button, const char* searchText,
+                     Qt::Key key = Qt::Key_Return, const char* answer = nullptr)
+    {
+        QTimer::singleShot(0, [=] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            ASSERT_NE(dialog, nullptr);
+            auto* const box = dialog->findChild<QLineEdit*>(u"SearchData"_s);
+            QTest::keyClicks(box, QString::fromUtf8(searchText));
+            if (answer != nullptr) {
+                dialog->findChild<QAbstractButton*>(QLatin1String(answer))->click();
+            } else {
+                QTest::keyClick(box, key);
+            }
+        });
+        press(form, button);
+    }
+    [[nodiscard]] ShownBox takeBox()
+    {
+        EXPECT_EQ(m_boxes.shown.size(), 1U);
+        const auto shown = std::exchange(m_boxes.shown, {});
+        return shown.empty() ? ShownBox{} : shown.back();
+    }
+    /// The number of the failure that reached the outermost handler, 0 for none.
+    static int failureNumber()
+    {
+        const auto failure = takeFailure();
+        return failure ? failure->number() : 0;
+    }
 
-    TestFolder folder;
-    ApplicationValues values;
+    TestFolder m_folder;
+    ApplicationValues m_values;
+    RecordingBoxes m_boxes;
 };
 
 } // namespace norvane::test
