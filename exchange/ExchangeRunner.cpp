@@ -39,7 +39,7 @@ qint64 lengthOf(const QString& name)
 } // namespace
 
 ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::LinkSettings& link,
-                               TickBoxes& ticks, ExchangeOutside outside)
+                               TickBoxes& ticks, link::RunOutside outside)
     : m_values(values), m_link(link), m_ticks(ticks),
       m_outside(std::move(outside)), m_procedures{values, m_outside.boxes, [this](const QString& line) {
                                                       return runTool(line);

@@ -5,29 +5,14 @@
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangePlan.h"
 #include "link/LinkSettings.h"
-#include "platform/Boxes.h"
+#include "link/RunOutside.h"
 #include "records/FileProcedures.h"
 #include "shell/ApplicationValues.h"
 
-#include <functional>
+#include <span>
 
 namespace norvane::exchange
 {
-
-/// The world outside a sequence.
-struct ExchangeOutside {
-    /// Runs a tool's command line and waits for its end. @return false when the tool could not be started.
-    std::function<bool(const QString& commandLine)> runAndWait;
-    /// The last value of status.out.
-    std::function<QString()> readStatus;
-    /// Names the step in work.
-    std::function<void(const QString& text)> showStep;
-    /// Tells what the user should know but what does not stop the sequence; stands until the run ends.
-    std::function<void(const QString& text)> showNotice;
-    /// Asked before each file: whether the user is still there to want it.
-    std::function<bool()> goOn;
-    Boxes& boxes;
-};
 
 /// One run over the ticked boxes. The values, settings and ticks handed in must outlive it. A box is unticked
 /// when all its files have moved, so that what stays ticked after a failure is what is still to do. Nothing
@@ -36,7 +21,7 @@ class ExchangeRunner
 {
 public:
     ExchangeRunner(const ApplicationValues& values, const link::LinkSettings& link, TickBoxes& ticks,
-                   ExchangeOutside outside);
+                   link::RunOutside outside);
     ExchangeRunner(const ExchangeRunner&) = delete;
     ExchangeRunner& operator=(const ExchangeRunner&) = delete;
 
@@ -65,7 +50,7 @@ private:
     const ApplicationValues& m_values;
     const link::LinkSettings& m_link;
     TickBoxes& m_ticks;
-    ExchangeOutside m_outside;
+    link::RunOutside m_outside;
     records::ProcedureContext m_procedures;
 };
 

@@ -3,7 +3,6 @@
 
 #include "exchange/ExchangeRunner.h"
 #include "link/ResultCodes.h"
-#include "shell/SharedRoutines.h"
 #include "ui/Appearance.h"
 
 #include <QCheckBox>
@@ -96,13 +95,7 @@ void FrmComm::runSequence(const link::LinkSettings& link)
 
 void FrmComm::moveTicked(const link::LinkSettings& link)
 {
-    ExchangeRunner runner(m_values, link, *this,
-                          {.runAndWait = [this](const QString& line) { return runTool(line); },
-                           .readStatus = ReadStatusOut,
-                           .showStep = [this](const QString& text) { showStep(text); },
-                           .showNotice = [this](const QString& text) { showNotice(text); },
-                           .goOn = [this] { return !exitPressed(); },
-                           .boxes = m_boxes});
+    ExchangeRunner runner(m_values, link, *this, outside());
     if (m_values.exchangeMode == QLatin1String("UPLOAD")) {
         runner.UploadData();
     } else {

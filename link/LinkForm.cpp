@@ -147,9 +147,14 @@ void LinkForm::leave()
     QDialog::reject();
 }
 
-bool LinkForm::runTool(const QString& commandLine)
+RunOutside LinkForm::outside()
 {
-    return RunAndWait(m_values, commandLine);
+    return {.runAndWait = [this](const QString& line) { return RunAndWait(m_values, line); },
+            .readStatus = ReadStatusOut,
+            .showStep = [this](const QString& text) { showStep(text); },
+            .showNotice = [this](const QString& text) { showNotice(text); },
+            .goOn = [this] { return !m_exitPressed; },
+            .boxes = m_boxes};
 }
 
 /// The command strings of a modem end in a carriage return, which a status bar would show as a blot.

@@ -5,7 +5,7 @@
 #include "link/Clock.h"
 #include "link/LinkSettings.h"
 #include "link/Modem.h"
-#include "platform/Boxes.h"
+#include "link/RunOutside.h"
 #include "platform/SerialLine.h"
 #include "shell/ApplicationValues.h"
 #include "ui/WaitPointer.h"
@@ -63,12 +63,10 @@ protected:
     void disconnectLink();
     [[nodiscard]] bool exitPressed() const { return m_exitPressed; }
 
-    /// Runs a tool and waits for it. @return false when it could not be started.
-    bool runTool(const QString& commandLine);
+    /// This form as the outside of a run of the tools; the form must outlive it.
+    [[nodiscard]] RunOutside outside();
     /// Names the step in work.
     void showStep(const QString& text);
-    /// Shows @p text beside the steps until the run ends.
-    void showNotice(const QString& text);
 
     ApplicationValues& m_values;
     Boxes& m_boxes;
@@ -79,6 +77,8 @@ protected:
 private:
     void communicate();
     void leave();
+    /// Shows @p text beside the steps until the run ends.
+    void showNotice(const QString& text);
     void showStatus();
 
     std::unique_ptr<SerialLine> m_line;

@@ -64,7 +64,7 @@ void CollectionRun::collect()
     m_link = link::readLinkSettings(m_values);
     m_left = false;
     m_dialResult = m_outside.connectLink(m_link);
-    if (!m_outside.goOn()) {
+    if (!m_outside.run.goOn()) {
         // Who has left during the dialling has hung up already.
         return;
     }
@@ -75,8 +75,8 @@ void CollectionRun::collect()
         failed = failedResult();
     }
     if (failed) {
-        m_outside.boxes.message(link::resultText(*failed, m_dialResult),
-                                QStringLiteral("Communications Error"));
+        m_outside.run.boxes.message(link::resultText(*failed, m_dialResult),
+                                    QStringLiteral("Communications Error"));
     }
 }
 
@@ -92,7 +92,7 @@ std::optional<int> CollectionRun::failedResult()
             return failed;
         }
     }
-    m_outside.showStep(QStringLiteral("Parse data...."));
+    m_outside.run.showStep(QStringLiteral("Parse data...."));
     if (sendsDescriptions()) {
         return link::descriptionsPolled;
     }
@@ -102,21 +102,21 @@ std::optional<int> CollectionRun::failedResult()
     if (const auto failed = runStep(clearing)) {
         return failed;
     }
-    m_outside.showStep(QStringLiteral("Communications Successful...."));
+    m_outside.run.showStep(QStringLiteral("Communications Successful...."));
     return std::nullopt;
 }
 
 std::optional<int> CollectionRun::runStep(const ToolStep& step)
 {
-    if (&step != &clearing && !m_outside.goOn()) {
+    if (&step != &clearing && !m_outside.run.goOn()) {
         m_left = true;
         return std::nullopt;
     }
     if (step.statusText != nullptr) {
-        m_outside.showStep(QLatin1String(step.statusText));
+        m_outside.run.showStep(QLatin1String(step.statusText));
     }
     runTool(step.line(m_link, QLatin1String(step.suffix)));
-    const int result = link::resultNumber(m_outside.readStatus());
+    const int result = link::resultNumber(m_outside.run.readStatus());
     const bool succeeded = result == 0 || (step.passesWaiting && waits(result));
     return succeeded ? std::nullopt : std::optional(result);
 }
@@ -148,8 +148,8 @@ void CollectionRun::importReports() const
 
 void CollectionRun::runTool(const QString& commandLine)
 {
-    if (!m_outside.runAndWait(commandLine)) {
-        m_outside.showNotice(
+    if (!m_outside.run.runAndWait(commandLine)) {
+        m_outside.run.showNotice(
             QStringLiteral("The program %1 was not found.").arg(commandWords(commandLine).value(0)));
     }
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "link/LinkSettings.h"
-#include "platform/Boxes.h"
+#include "link/RunOutside.h"
 #include "shell/ApplicationValues.h"
 
 #include <QString>
@@ -19,17 +19,7 @@ struct CollectionOutside {
     std::function<int(const link::LinkSettings& link)> connectLink;
     /// Hangs up a modem; nothing on a direct link.
     std::function<void()> disconnectLink;
-    /// Runs a tool's command line and waits for its end. @return false when the tool could not be started.
-    std::function<bool(const QString& commandLine)> runAndWait;
-    /// The last value of status.out.
-    std::function<QString()> readStatus;
-    /// Names the step in work; what was named last stays when the run ends.
-    std::function<void(const QString& text)> showStep;
-    /// Tells what the user should know but what does not stop the run.
-    std::function<void(const QString& text)> showNotice;
-    /// Asked ahead of each step until the import begins: whether the user is still there to want it.
-    std::function<bool()> goOn;
-    Boxes& boxes;
+    link::RunOutside run;
 };
 
 /// One run: consolidate at the registers, collect, import, clear at the registers. The registers forget their

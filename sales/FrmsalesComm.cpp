@@ -2,7 +2,6 @@
 #include "sales/FrmsalesComm.h"
 
 #include "sales/CollectionRun.h"
-#include "shell/SharedRoutines.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -34,12 +33,7 @@ void FrmsalesComm::run()
     CollectionRun(m_values,
                   {.connectLink = [this](const link::LinkSettings& link) { return connectLink(link); },
                    .disconnectLink = [this] { disconnectLink(); },
-                   .runAndWait = [this](const QString& line) { return runTool(line); },
-                   .readStatus = ReadStatusOut,
-                   .showStep = [this](const QString& text) { showStep(text); },
-                   .showNotice = [this](const QString& text) { showNotice(text); },
-                   .goOn = [this] { return !exitPressed(); },
-                   .boxes = m_boxes})
+                   .run = outside()})
         .collect();
 }
 
