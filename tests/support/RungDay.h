@@ -35,10 +35,7 @@ public:
     [[nodiscard]] ReportSums sums(int report) const;
 
 private:
-    struct Entry;
-    void addEntry(const Entry& entry, std::size_t levels);
-    void addTicket(const Entry& last, qint64 value);
-    void addLine(const Entry& entry, const QByteArray& name, qint64 quantity, qint64 value);
+    void addLine(const QByteArray& clerk, const QByteArray& name, const std::vector<qint64>& numbers);
 
     QByteArrayList m_financialNames;
     QByteArrayList m_employeeNames;
