@@ -8,11 +8,7 @@
 namespace
 {
 
-std::optional<norvane::RuntimeFailure>& caught()
-{
-    static std::optional<norvane::RuntimeFailure> failure;
-    return failure;
-}
+std::optional<norvane::RuntimeFailure> caught;
 
 class TestApplication : public QApplication
 {
@@ -23,7 +19,7 @@ public:
         try {
             return QApplication::notify(receiver, event);
         } catch (const norvane::RuntimeFailure& failure) {
-            caught() = failure;
+            caught = failure;
             return true;
         }
     }
@@ -33,7 +29,7 @@ public:
 
 std::optional<norvane::RuntimeFailure> norvane::test::takeFailure()
 {
-    return std::exchange(caught(), std::nullopt);
+    return std::exchange(caught, std::nullopt);
 }
 
 int main(int argc, char** argv)

@@ -19,42 +19,24 @@ void copyInto(const QString& file, const QString& folder)
     QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
 }
 
-const QString settingsSection = QStringLiteral("SetupOption");
-
 } // namespace
 
 ProgramFolder::ProgramFolder(int model, int registers, int plus)
 {
-    EXPECT_TRUE(QDir().mkpath(appPath()));
-    stage(model, registers);
-    makeBank(model, registers, plus);
-    m_workingDirectory.emplace(appPath());
-}
-
-void ProgramFolder::stage(int model, int registers) const
-{
-    for (const char* file : {TEMPLATE_DATABASE, DATA_DIR "/setup.ini", VELMARCOMM_TOOL, CONVERT_TOOL}) {
-        copyInto(QString::fromUtf8(file), appPath());
-    }
-    const QDir data(QStringLiteral(DATA_DIR));
-    for (const QString& screen : data.entryList({QStringLiteral("*.scn")})) {
-        copyInto(data.filePath(screen), appPath());
-    }
-    const QString settings = appFile(QStringLiteral("setup.ini"));
-    ProfileFile::write(settings, settingsSection, QStringLiteral("ECRModel"), QString::number(model));
-    ProfileFile::write(settings, settingsSection, QStringLiteral("NoOfECRs"), QString::number(registers - 1));
     m_folder.write("app/registers.ini", "[Bank]\r\nFolder=../registers\r\n");
-}
-
-void ProgramFolder::makeBank(int model, int registers, int plus) const
-{
-    QProcess makebank;
-    makebank.start(QStringLiteral(MAKEBANK_TOOL),
-                   {bankPath(), QStringLiteral("--registers"), QString::number(registers),
-                    QStringLiteral("--model"), QString::number(model), QStringLiteral("--plus"),
-                    QString::number(plus)});
-    EXPECT_TRUE(makebank.waitForFinished(-1));
-    EXPECT_EQ(makebank.exitCode(), 0) << makebank.readAllStandardError().toStdString();
+    for (const char* file : {TEMPLATE_DATABASE, DATA_DIR "/setup.ini", VELMARCOMM_TOOL, CONVERT_TOOL})
+        copyInto(QString::fromUtf8(file), appPath());
+    for (const QFileInfo& screen : QDir(QStringLiteral(DATA_DIR)).entryInfoList({QStringLiteral("*.scn")}))
+        copyInto(screen.filePath(), appPath());
+    for (const auto& [key, value] : {std::pair("ECRModel", model), {"NoOfECRs", registers - 1}}) {
+        ProfileFile::write(appFile(QStringLiteral("setup.ini")), QStringLiteral("SetupOption"),
+                           QLatin1String(key), QString::number(value));
+    }
+    const auto bank =
+        QStringLiteral("--registers %1 --model %2 --plus %3").arg(registers).arg(model).arg(plus);
+    EXPECT_EQ(QProcess::execute(QStringLiteral(MAKEBANK_TOOL), QStringList(bankPath()) + bank.split(u' ')),
+              0);
+    m_workingDirectory.emplace(appPath());
 }
 
 QString ProgramFolder::registerFile(int number, int file) const
@@ -74,9 +56,8 @@ ApplicationValues ProgramFolder::makeCustomer(const QString& name) const
     values.customerName = name;
     values.customerPath = appFile(name);
     EXPECT_TRUE(QDir().mkpath(values.customerPath));
-    for (const char* file : {"velmar.mdb", "setup.ini"}) {
+    for (const char* file : {"velmar.mdb", "setup.ini"})
         copyInto(appFile(QLatin1String(file)), values.customerPath);
-    }
     values.databasePath = joinPath(values.customerPath, QStringLiteral("velmar.mdb"));
     return values;
 }

@@ -36,9 +36,6 @@ public:
     void removeTool(const char* name) const;
 
 private:
-    void stage(int model, int registers) const;
-    void makeBank(int model, int registers, int plus) const;
-
     TestFolder m_folder;
     std::optional<WorkingDirectory> m_workingDirectory;
 };
