@@ -5,10 +5,9 @@
 #include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"
 
-#include <algorithm>
+#include <initializer_list>
 #include <string>
-#include <tuple>
-#include <vector>
+#include <utility>
 
 namespace norvane::store::test
 {
@@ -38,17 +37,24 @@ inline TableDefinition itemTable()
              {{QStringLiteral("bylink")}, QStringLiteral("#OfCondiments"), false}}};
 }
 
-/// Whether two tables have the same fields and indexes in the same order.
-inline bool same(const TableDefinition& left, const TableDefinition& right)
+/// What the file tells of a table: a line for the table, for each field and for each index.
+inline QStringList linesOf(const TableDefinition& table)
 {
-    const auto ofField = [](const FieldDefinition& it) {
-        return std::tie(it.name, it.type, it.size, it.defaultText, it.required);
-    };
-    const auto ofIndex = [](const IndexDefinition& it) {
-        return std::tie(it.names, it.field, it.unique);
-    };
-    return left.name == right.name && std::ranges::equal(left.fields, right.fields, {}, ofField, ofField) &&
-           std::ranges::equal(left.indexes, right.indexes, {}, ofIndex, ofIndex);
+    QStringList lines{table.name + QStringLiteral(" is a table")};
+    for (const FieldDefinition& it : table.fields) {
+        lines << QStringLiteral("%1.%2 type %3 size %4 required %5 default %6")
+                     .arg(table.name, it.name)
+                     .arg(static_cast<int>(it.type))
+                     .arg(it.size)
+                     .arg(it.required)
+                     .arg(it.defaultText);
+    }
+    for (const IndexDefinition& it : table.indexes) {
+        lines << QStringLiteral("%1 index %2 of %3 unique %4")
+                     .arg(table.name, it.names.join(u'/'), it.field)
+                     .arg(it.unique);
+    }
+    return lines;
 }
 
 class StoreFolder
@@ -65,22 +71,23 @@ private:
     TestFolder m_folder;
 };
 
-inline void addItem(Recordset& items, const char* number, const Value& group = {})
+inline void add(Recordset& records, std::initializer_list<std::pair<const char*, Value>> values)
 {
-    items.addNew();
-    items.setValue(QStringLiteral("NUMBER"), text(number));
-    items.setValue(QStringLiteral("GROUPNO"), group);
-    items.update();
+    records.addNew();
+    for (const auto& [field, value] : values)
+        records.setValue(QString::fromUtf8(field), value);
+    records.update();
 }
 
-/// The numbers of the items from the first to the last in the current order.
-inline std::string numbersOf(Recordset& items)
+/// The numbers of the items in the current order, from the first on or from the last back.
+inline std::string numbersOf(Recordset& items, bool backwards = false)
 {
     std::string numbers;
-    if (items.recordCount() > 0)
-        items.moveFirst();
-    for (; !items.atEnd(); items.moveNext())
+    backwards ? items.moveLast() : items.moveFirst();
+    while (items.hasCurrent()) {
         numbers += (numbers.empty() ? "" : " ") + items.value(QStringLiteral("NUMBER")).toUtf8();
+        backwards ? items.movePrevious() : items.moveNext();
+    }
     return numbers;
 }
 

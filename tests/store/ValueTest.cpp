@@ -21,9 +21,10 @@ TEST(Value, GivesTextNumberAndTruth)
                 {Value::whole(1), "1", 1, false}, // one is not yes
                 {Value::whole(-1), "-1", -1, true},
                 {Value::number(0.1), "0.1", 0.1, false},
-                {Value::number(12), "12", 12, false},
+                {Value::number(1e15), "1000000000000000", 1e15, false},
+                {Value::number(-1e-7), "-0.0000001", -1e-7, false},
+                {Value::number(-0.0), "0", 0, false},
                 {text(" 1.5x"), " 1.5x", 1.5, false},
-                {text("12.34"), "12.34", 12.34, false},
                 {text("inf"), "inf", 0, false},
                 {Value::date(QDate(2003, 2, 1)), "01/02/2003", 0, false}};
     for (const auto& row : rows) {
@@ -50,7 +51,6 @@ TEST(Value, IsConvertedOrRefusedByItsField)
         {"GROUPNO", Value::number(3.5), Value::whole(4), 0},
         {"GROUPNO", Value::yesNo(true), Value::whole(-1), 0},
         {"GROUPNO", text("   "), Value(), 0},
-        {"GROUPNO", text(""), Value(), 0},
         {"GROUPNO", text("12a"), {}, 3421},
         {"GROUPNO", text("2147483648"), {}, 3421},
         {"GROUPNO", Value::number(1e300), {}, 3421},
@@ -62,9 +62,7 @@ TEST(Value, IsConvertedOrRefusedByItsField)
         {"#OfCondiments", longDigits, longDigits, 0},
         {"#OfCondiments", text(" 0012 "), text("0012"), 0},
         {"#OfCondiments", Value::whole(9007199254740993), text("9007199254740993"), 0},
-        {"#OfCondiments", Value::number(12), text("12"), 0},
         {"#OfCondiments", text("1x"), {}, 3421},
-        {"#OfCondiments", text("  "), Value(), 0},
         {"TAX/x", Value::whole(7), Value::yesNo(true), 0},
         {"TAX/x", text("Yes"), Value::yesNo(true), 0},
         {"TAX/x", text("0"), Value::yesNo(false), 0},
@@ -78,7 +76,6 @@ TEST(Value, IsConvertedOrRefusedByItsField)
         {"DESCRIPTION", text("Cola  "), text("Cola  "), 0},
         {"DESCRIPTION", text(""), text(""), 0},
         {"DESCRIPTION", Value::number(12.50), text("12.5"), 0},
-        {"DESCRIPTION", Value::whole(-7), text("-7"), 0},
     };
     const StoreFolder folder;
     Database database(folder.path());
