@@ -267,9 +267,10 @@ TEST_P(ScreenFile, OffersWhatAUserMaySetAndNothingElse)
         // The number of an option table's only record tells the user nothing.
         const bool isOnlyRecord = field.name == key && !buttons.next;
         const bool isOffered = offered.contains(field.name, Qt::CaseInsensitive);
-        if (isOffered == isLeftOut && !isOnlyRecord)
+        if (isOffered == isLeftOut && !isOnlyRecord) {
             complain(field.name,
                      isOffered ? u"is on the screen though listed as left out"_s : u"is not on the screen"_s);
+        }
     }
     EXPECT_EQ(buttons.add, m_table->name == u"PLUDATA" && buttons.save) << "only PLUs may be added";
     EXPECT_EQ(buttons.remove, buttons.add);
@@ -289,9 +290,10 @@ void ScreenFile::checkWidth(const QWidget& control)
         for (int row = 0; row < list->count(); ++row)
             needed = qMax(needed, control.fontMetrics().horizontalAdvance(list->itemText(row)));
     }
-    if (needed > control.width())
+    if (needed > control.width()) {
         complain(control.objectName() + u' ' + control.accessibleDescription(),
                  u"is too narrow for its text"_s);
+    }
 }
 
 TEST_P(ScreenFile, MakesAFormThatCanBeRead)
@@ -327,9 +329,10 @@ TEST_P(ScreenFile, MakesAFormThatCanBeRead)
         const QRect place = order[later]->geometry();
         for (const QWidget* const earlier : order.mid(0, later)) {
             const QRect before = earlier->geometry();
-            if (place.center().y() <= before.center().y() + 2 && place.left() <= before.left())
+            if (place.center().y() <= before.center().y() + 2 && place.left() <= before.left()) {
                 complain(order[later]->objectName() + u" after "_s + earlier->objectName(),
                          u"is not the order of reading"_s);
+            }
         }
     }
 }
