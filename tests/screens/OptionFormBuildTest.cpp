@@ -114,9 +114,10 @@ TEST_F(OptionFormBuildTest, ATableThatIsNotGivenIsToldAndThenFails)
     for (const auto& [text, missing] : cases) {
         EXPECT_EQ(failureOf([&, text = text] { open(text); }), 3265) << text;
         std::vector<test::ShownBox> expected;
-        for (const QString& what : missing)
+        for (const QString& what : missing) {
             expected.push_back({u"No %1 defined in %2 file"_s.arg(what, m_values.screenFilePath),
                                 u"Initialisation Error"_s, BoxIcon::Critical});
+        }
         EXPECT_EQ(std::exchange(m_boxes.shown, {}), expected) << text;
     }
 }

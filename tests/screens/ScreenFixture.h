@@ -155,7 +155,10 @@ protected:
 
     TestFolder m_folder;
     ApplicationValues m_values;
-    RecordingBoxes m_boxes;
+    struct : RecordingBoxes {
+        int heard = 0;
+        void beep() override { ++heard; }
+    } m_boxes;
 };
 
 } // namespace norvane::test
