@@ -3,6 +3,9 @@
 #include "tests/support/FormTest.h"
 
 #include <QLineEdit>
+#include <QTest>
+
+#include <algorithm>
 
 namespace norvane
 {
@@ -13,81 +16,52 @@ using test::Shop;
 
 constexpr int pluFile = 67;
 constexpr int firstPriceColumn = 12; ///< from 0
-constexpr int pluBox = 0;
-constexpr int pointsBox = 36;
 
-struct RoadCase {
-    const char* name;
-    int model;
-    int registers;
+/// Older Velmar with one register; newer Velmar and Dorvik with three.
+class PriceChange : public testing::TestWithParam<std::pair<int, int>>
+{
 };
 
-std::ostream& operator<<(std::ostream& out, const RoadCase& c)
-{
-    return out << c.name;
-}
-
-class PriceChange : public testing::TestWithParam<RoadCase>
-{
-protected:
-    [[nodiscard]] bool hasSmartCards() const { return GetParam().model != 0; }
-
-    Shop m_shop{GetParam().model, GetParam().registers};
-};
-
-/// What the three registers hold after a price change is the register's own record with the new price in it.
+/// What the registers hold after a price change is the register's own record with the new price in it.
 TEST_P(PriceChange, ReachesEveryRegister)
 {
-    EXPECT_TRUE(m_shop.upload({pluBox, 1, 2, 14, 15}).isEmpty());
-    const auto before = m_shop.recordsOf(1, pluFile);
-    ASSERT_FALSE(before.isEmpty());
-    ASSERT_EQ(m_shop.rowsOf("PLUDATA"), before.size());
-    QByteArrayList expected = m_shop.recordOf(1, pluFile, "1005");
+    const auto [model, registers] = GetParam();
+    Shop shop(model, registers);
+    EXPECT_TRUE(shop.upload({0, 1, 2, 14, 15}).isEmpty());
+    EXPECT_EQ(QFile::exists(shop.values().customerPath + QStringLiteral("/71.dat")), model != 0)
+        << "PLUs clear their points in a register, so the points follow them where there are any";
+    const auto before = shop.recordsOf(1, pluFile);
+    ASSERT_EQ(shop.rowsOf("PLUDATA"), before.size());
+    const QByteArray number = QByteArray("1005").rightJustified(18, '0');
+    const auto plu = std::find_if(before.begin(), before.end(),
+                                  [&number](const auto& record) { return record.first() == number; });
+    ASSERT_NE(plu, before.end());
 
-    QWidget& screen = m_shop.openScreen("PLUMENU");
-    m_shop.find(screen, "1005");
-    auto* const number = qobject_cast<QLineEdit*>(&m_shop.control(screen, "PLUNUMBER"));
-    ASSERT_NE(number, nullptr);
-    EXPECT_EQ(number->text().toLatin1(), expected.first());
-    m_shop.type(screen, "PRICE1", "1234.56");
+    QWidget& screen = shop.openForm("PLUMENU");
+    Shop::find(screen, "1005");
+    EXPECT_EQ(screen.findChild<QLineEdit*>(QStringLiteral("TextControl_1"))->text().toLatin1(), number);
+    auto* const price = screen.findChild<QLineEdit*>(QStringLiteral("DecimalNumberControl_1"));
+    price->selectAll();
+    QTest::keyClicks(price, QStringLiteral("1234.56"));
     Shop::press(screen, "SaveRecord");
-    EXPECT_EQ(m_shop.stored("PLUDATA", "PRICE1", number->text()), QStringLiteral("1234.56"));
     Shop::press(screen, "ExitForm");
+    EXPECT_EQ(shop.stored("select PRICE1 from PLUDATA where PLUNUMBER='" + number + "'"),
+              QStringLiteral("1234.56"));
 
-    EXPECT_TRUE(m_shop.download({pluBox}).isEmpty());
-    EXPECT_TRUE(m_shop.boxes().shown.empty());
+    EXPECT_TRUE(shop.download({0}).isEmpty());
+    EXPECT_TRUE(shop.boxes().shown.empty());
     EXPECT_FALSE(test::takeFailure().has_value());
+    QByteArrayList expected = *plu;
     expected[firstPriceColumn] = "00123456";
-    for (int machine = 1; machine <= GetParam().registers; ++machine) {
-        EXPECT_EQ(m_shop.recordOf(machine, pluFile, "1005"), expected) << "register " << machine;
-        EXPECT_EQ(m_shop.recordsOf(machine, pluFile).size(), before.size());
-    }
-}
-
-/// Each box by itself, there and back: all files of it move, and the customer keeps their binary copies.
-TEST_P(PriceChange, EachBoxMovesByItself)
-{
-    for (int box = 0; box <= pointsBox; ++box) {
-        SCOPED_TRACE(testing::Message() << "box " << box);
-        EXPECT_TRUE(m_shop.upload({box}).isEmpty());
-        EXPECT_TRUE(m_shop.download({box}).isEmpty());
-        EXPECT_TRUE(m_shop.boxes().shown.empty());
-        EXPECT_FALSE(test::takeFailure().has_value());
-    }
-    const auto kept = [this](int file) {
-        return QFile::exists(m_shop.values().customerPath + QStringLiteral("/%1.dat").arg(file));
-    };
-    for (const int file : {1, 2, 18, 36, 52, 65, 67, 70, 83, 86}) {
-        const bool ofSmartCards = file == 86;
-        const bool isMemoryFile = file == 52;
-        EXPECT_EQ(kept(file), !isMemoryFile && (!ofSmartCards || hasSmartCards())) << file;
+    for (int machine = 1; machine <= registers; ++machine) {
+        const auto after = shop.recordsOf(machine, pluFile);
+        ASSERT_EQ(after.size(), before.size()) << "register " << machine;
+        EXPECT_EQ(after[plu - before.begin()], expected) << "register " << machine;
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Models, PriceChange,
-                         testing::Values(RoadCase{"older Velmar, one register", 0, 1},
-                                         RoadCase{"newer Velmar, three registers", 2, 3},
-                                         RoadCase{"Dorvik, three registers", 3, 3}));
+                         testing::Values(std::pair(0, 1), std::pair(2, 3), std::pair(3, 3)));
 
 } // namespace
 } // namespace norvane

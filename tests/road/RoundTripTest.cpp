@@ -1,5 +1,6 @@
 // The whole programme of a register on its way into the database and out to a second register. What the
 // second register holds then is what the first one held, but for the differences that are listed here.
+#include "platform/FilePaths.h"
 #include "records/RegisterFiles.h"
 #include "tests/road/Shop.h"
 #include "tests/support/FormTest.h"
@@ -12,8 +13,6 @@ namespace norvane
 {
 namespace
 {
-
-using test::Shop;
 
 constexpr int descriptorFile = 19;
 constexpr int memoryFile = 52;
@@ -164,13 +163,6 @@ QList<QByteArrayList> expectedOf(int file, int model, const QList<QByteArrayList
     return expected;
 }
 
-QByteArray bytesOf(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    return file.readAll();
-}
-
 /// All boxes at once, from the first of two registers to both.
 class RoundTrip : public testing::TestWithParam<int>
 {
@@ -191,7 +183,7 @@ protected:
             if (hasText(file)) {
                 m_texts[file] = m_shop.recordsOf(first, file);
             } else {
-                m_bytes[file] = bytesOf(path(first, file));
+                m_bytes[file] = readWholeFile(path(first, file));
             }
             if (file != memoryFile) {
                 EXPECT_TRUE(QFile::remove(path(second, file)));
@@ -202,12 +194,12 @@ protected:
 
     void moveEverything()
     {
-        EXPECT_TRUE(m_shop.upload(Shop::everyBox()).isEmpty());
+        EXPECT_TRUE(m_shop.upload().isEmpty());
         // Nobody notices a conversion that fails and sends what is left of the upload: nothing is left.
         QDir app(m_shop.folder().appPath());
         for (const QString& file : app.entryList({QStringLiteral("*.dat")}))
             EXPECT_TRUE(app.remove(file));
-        EXPECT_TRUE(m_shop.download(Shop::everyBox()).isEmpty());
+        EXPECT_TRUE(m_shop.download().isEmpty());
         for (const auto& box : m_shop.boxes().shown)
             ADD_FAILURE() << box.text.toStdString();
         if (const auto failure = test::takeFailure())
@@ -224,7 +216,7 @@ protected:
             ASSERT_STREQ(back[line].join(','), expected[line].join(',')) << "line " << line + 1;
     }
 
-    Shop m_shop{GetParam(), 2};
+    test::Shop m_shop{GetParam(), 2};
     std::map<int, QList<QByteArrayList>> m_texts;
     std::map<int, QByteArray> m_bytes;
 };
@@ -241,9 +233,9 @@ TEST_P(RoundTrip, BringsEverythingBackButForTheListedDifferences)
         // A register without a picture has an empty image file, which is not sent.
         const bool arrives = file != imageFile || !bytes.isEmpty();
         ASSERT_EQ(QFile::exists(path(second, file)), arrives) << file;
-        EXPECT_TRUE(!arrives || bytesOf(path(second, file)) == bytes) << file;
+        EXPECT_TRUE(!arrives || readWholeFile(path(second, file)) == bytes) << file;
     }
-    EXPECT_EQ(bytesOf(m_shop.values().customerPath + QStringLiteral("/MEM.dat")), m_bytes[memoryFile]);
+    EXPECT_EQ(readWholeFile(m_shop.values().customerPath + QStringLiteral("/MEM.dat")), m_bytes[memoryFile]);
     EXPECT_FALSE(QFile::exists(path(second, descriptorFile))) << "nobody moves the system descriptors";
 }
 

@@ -1,4 +1,5 @@
 // A day's sales come home: rung at three registers, collected over the real form, added up in the tables.
+#include "platform/FilePaths.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 #include "tests/road/Shop.h"
@@ -15,10 +16,12 @@ namespace
 {
 
 using test::ReportSums;
-using test::RungDay;
 using test::Shop;
 
 constexpr int registers = 3;
+
+const std::vector<const char*> pluNumbers{"PROMO",  "WASTE",  "COUNT1", "VALUE1", "COUNT2",
+                                          "VALUE2", "COUNT3", "VALUE3", "COUNT4", "VALUE4"};
 
 struct SalesTable {
     int report;
@@ -31,10 +34,7 @@ const std::vector<SalesTable> tables{
     {190, "FINANCIALSALES", {"QUANTITY", "VALUE"}, 1},
     {191, "TIMESALES", {"QUANTITY", "VALUE"}, 1},
     {192, "CLERKSALES", {"QUANTITY", "VALUE"}, 1},
-    {194,
-     "PLUSALES",
-     {"PROMO", "WASTE", "COUNT1", "VALUE1", "COUNT2", "VALUE2", "COUNT3", "VALUE3", "COUNT4", "VALUE4"},
-     1},
+    {194, "PLUSALES", pluNumbers, 1},
     {218, "MIXSALES", {"QUANTITY"}, 100},
 };
 
@@ -46,37 +46,32 @@ protected:
         // Whatever the register's settings are: totals on four price levels, without descriptions.
         QSettings(m_shop.folder().bankPath() + QStringLiteral("/1/register.ini"), QSettings::IniFormat)
             .setValue(QStringLiteral("Register/Stamp"), QStringLiteral("41"));
-        const auto namesOf = [this](int file) {
-            QByteArrayList names;
-            for (const QByteArrayList& record : m_shop.recordsOf(1, file))
-                names << record.first().trimmed();
-            return names;
-        };
-        m_rung = std::make_unique<RungDay>(namesOf(21), namesOf(22));
-        m_form = &m_shop.openForm("CollectSales");
+    }
+
+    [[nodiscard]] QByteArrayList namesOf(int file) const
+    {
+        QByteArrayList names;
+        for (const QByteArrayList& record : m_shop.recordsOf(1, file))
+            names << record.first().trimmed();
+        return names;
     }
 
     void ring(int seed)
     {
-        QProcess ringsales;
-        ringsales.start(QStringLiteral(RINGSALES_TOOL),
-                        {m_shop.folder().bankPath(), QStringLiteral("--seed"), QString::number(seed),
-                         QStringLiteral("--tickets"), QStringLiteral("60"), QStringLiteral("--journal"),
-                         m_shop.folder().appFile(QStringLiteral("day.csv"))});
-        ASSERT_TRUE(ringsales.waitForFinished(-1));
-        ASSERT_EQ(ringsales.exitCode(), 0) << ringsales.readAllStandardError().constData();
-        QFile journal(m_shop.folder().appFile(QStringLiteral("day.csv")));
-        ASSERT_TRUE(journal.open(QIODevice::ReadOnly));
-        m_rung->add(journal.readAll(), 4);
+        const QString journal = m_shop.folder().appFile(QStringLiteral("day.csv"));
+        const auto options = QStringLiteral("--tickets 60 --seed %1 --journal").arg(seed).split(u' ');
+        ASSERT_EQ(QProcess::execute(QStringLiteral(RINGSALES_TOOL),
+                                    QStringList(m_shop.folder().bankPath()) + options + QStringList(journal)),
+                  0);
+        m_rung.add(readWholeFile(journal), 4);
     }
 
     /// @return what the status bar shows at the end
     QString collect()
     {
-        Shop::press(*m_form, "Communicate");
+        Shop::press(m_form, "Communicate");
         EXPECT_FALSE(test::takeFailure().has_value());
-        auto* const bar = m_form->findChild<QStatusBar*>(QStringLiteral("StatusBar1"));
-        return bar == nullptr ? QString() : bar->currentMessage();
+        return m_form.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage();
     }
 
     [[nodiscard]] ReportSums stored(const SalesTable& table) const
@@ -100,12 +95,12 @@ protected:
     void expectTablesHoldWhatWasRung() const
     {
         for (const SalesTable& table : tables)
-            EXPECT_EQ(stored(table), m_rung->sums(table.report)) << table.name;
+            EXPECT_EQ(stored(table), m_rung.sums(table.report)) << table.name;
     }
 
     Shop m_shop{GetParam(), registers};
-    std::unique_ptr<RungDay> m_rung;
-    QWidget* m_form = nullptr;
+    test::RungDay m_rung{namesOf(21), namesOf(22)};
+    QWidget& m_form = m_shop.openForm("CollectSales");
 };
 
 /// The second day is collected in two goes: a register was off at the first.
@@ -120,9 +115,8 @@ TEST_P(SalesDay, ComesHomeOnceAndTheNextDayBesideIt)
     m_shop.folder().setFaults("[Off]\nCommand=consolidate\nRegister=2\nResult=8\n");
     ring(2);
     EXPECT_EQ(collect(), QStringLiteral("Consolidate Reports"));
-    ASSERT_EQ(m_shop.boxes().shown.size(), 1U);
-    EXPECT_EQ(m_shop.boxes().shown.front().text, QStringLiteral("8. Time Out"));
-    EXPECT_EQ(m_shop.boxes().shown.front().title, QStringLiteral("Communications Error"));
+    EXPECT_EQ(m_shop.boxes().shown, (std::vector{test::ShownBox{QStringLiteral("8. Time Out"),
+                                                                QStringLiteral("Communications Error")}}));
     m_shop.folder().setFaults({});
     EXPECT_EQ(collect(), done);
     expectTablesHoldWhatWasRung();

@@ -2,14 +2,10 @@
 #include "tests/road/Shop.h"
 
 #include "platform/FilePaths.h"
-#include "platform/ProfileFile.h"
-#include "shell/CustomerFolders.h"
-#include "shell/FrmCustomer.h"
 #include "shell/Openers.h"
 #include "shell/SharedRoutines.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
-#include "store/Upgrade.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -22,15 +18,12 @@
 #include <QTest>
 #include <QTimer>
 
-#include <numeric>
-
 namespace norvane::test
 {
 namespace
 {
 
 constexpr int boxCount = 37;
-constexpr int pluNumberWidth = 18;
 
 template <typename Control>
 Control& child(const QWidget& form, const QString& name)
@@ -39,11 +32,6 @@ Control& child(const QWidget& form, const QString& name)
     if (found == nullptr)
         throw std::runtime_error("no control " + name.toStdString());
     return *found;
-}
-
-void click(QAbstractButton& button)
-{
-    QTest::mouseClick(&button, Qt::LeftButton);
 }
 
 /// Runs @p act on the next modal dialog that opens.
@@ -56,33 +44,11 @@ void onDialog(const std::function<void(QDialog&)>& act)
     });
 }
 
-/// Element numbers count from 1 within each kind of control.
-QString elementName(const ProfileFile& screen, const QString& field)
-{
-    QHash<QString, int> elements;
-    for (int section = 1;; ++section) {
-        const QString name = QStringLiteral("Field%1").arg(section);
-        const QString kind = screen.value(name, QStringLiteral("ControlType"));
-        if (kind.isEmpty())
-            throw std::runtime_error("no field " + field.toStdString());
-        const int element = ++elements[kind.toUpper()];
-        if (screen.value(name, QStringLiteral("Datafield")).compare(field, Qt::CaseInsensitive) == 0)
-            return QStringLiteral("%1_%2").arg(kind).arg(element);
-    }
-}
-
 } // namespace
 
-Shop::Shop(int model, int registers) : m_folder(model, registers)
+Shop::Shop(int model, int registers)
+    : m_folder(model, registers), m_values(m_folder.makeCustomer(QStringLiteral("Corner Shop")))
 {
-    m_values.appPath = m_folder.appPath();
-    shell::FrmCustomer dialog(m_values, m_boxes);
-    QTest::keyClicks(&child<QLineEdit>(dialog, QStringLiteral("text1")), QStringLiteral("Corner Shop"));
-    click(child<QPushButton>(dialog, QStringLiteral("CSCmdBtn1")));
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    m_boxes.shown.clear();
-    m_values.databasePath = shell::customerDatabase(m_values.customerPath);
-    store::UpgradeUnitDescription(m_values.databasePath);
     m_main = std::make_unique<shell::FrmMain>(m_values, m_boxes, shell::makeOpeners(m_values, m_boxes));
     m_main->show();
 }
@@ -94,13 +60,6 @@ void Shop::choose(const char* entry, const std::function<void(QDialog&)>& act)
     child<QAction>(*m_main, QString::fromLatin1(entry)).trigger();
 }
 
-BoxNumbers Shop::everyBox()
-{
-    BoxNumbers all(boxCount);
-    std::iota(all.begin(), all.end(), 0);
-    return all;
-}
-
 BoxNumbers Shop::exchange(const char* entry, const BoxNumbers& boxes)
 {
     BoxNumbers left;
@@ -108,18 +67,16 @@ BoxNumbers Shop::exchange(const char* entry, const BoxNumbers& boxes)
         const auto box = [&dialog](int index) -> QCheckBox& {
             return child<QCheckBox>(dialog, QStringLiteral("check1_%1").arg(index));
         };
-        if (boxes == everyBox()) {
-            click(child<QPushButton>(dialog, QStringLiteral("CSCmdBtn2")));
-        } else {
-            for (const int index : boxes)
-                box(index).click();
-        }
-        click(child<QPushButton>(dialog, QStringLiteral("Communicate")));
+        if (boxes.isEmpty())
+            press(dialog, "CSCmdBtn2");
+        for (const int index : boxes)
+            box(index).click();
+        press(dialog, "Communicate");
         for (int index = 0; index < boxCount; ++index) {
             if (box(index).isChecked())
                 left << index;
         }
-        click(child<QPushButton>(dialog, QStringLiteral("CSCmdBtn1")));
+        press(dialog, "CSCmdBtn1");
     });
     return left;
 }
@@ -133,80 +90,43 @@ QWidget& Shop::openForm(const char* entry)
     return *window->widget();
 }
 
-QWidget& Shop::openScreen(const char* entry)
-{
-    QWidget& form = openForm(entry);
-    if (form.objectName() != QLatin1String("OptionForm"))
-        throw std::runtime_error(std::string("no screen behind ") + entry);
-    return form;
-}
-
 void Shop::press(QWidget& form, const char* button)
 {
-    click(child<QPushButton>(form, QString::fromLatin1(button)));
+    QTest::mouseClick(&child<QPushButton>(form, QString::fromLatin1(button)), Qt::LeftButton);
 }
 
 void Shop::find(QWidget& form, const char* text)
 {
     onDialog([text](QDialog& dialog) {
         QTest::keyClicks(&child<QLineEdit>(dialog, QStringLiteral("SearchData")), QString::fromLatin1(text));
-        click(child<QPushButton>(dialog, QStringLiteral("ExitControl_0")));
+        press(dialog, "ExitControl_0");
     });
     press(form, "FindControl_1");
 }
 
-QWidget& Shop::control(QWidget& form, const char* field)
-{
-    const ProfileFile screen(existingPath(m_values.screenFilePath));
-    return child<QWidget>(form, elementName(screen, QString::fromLatin1(field)));
-}
-
-void Shop::type(QWidget& form, const char* field, const char* text)
-{
-    QWidget& box = control(form, field);
-    QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(&box, QString::fromLatin1(text));
-}
-
 QList<QByteArrayList> Shop::recordsOf(int registerNumber, int file) const
 {
-    const TestFolder elsewhere;
-    const QString source = QStringLiteral("%1.dat").arg(file);
-    EXPECT_TRUE(QFile::copy(m_folder.registerFile(registerNumber, file), elsewhere.path(qPrintable(source))));
+    const QString source = m_folder.registerFile(registerNumber, file);
+    const QString text = joinPath(m_folder.bankPath(), QStringLiteral("out.txt"));
     QProcess convert;
-    convert.setWorkingDirectory(elsewhere.path());
+    convert.setWorkingDirectory(QFileInfo(source).path());
     convert.start(m_folder.appFile(QStringLiteral("convert")),
-                  {QStringLiteral("w") + GetModelCode(m_values), QStringLiteral("f") + source,
-                   QStringLiteral("tout.txt"), QStringLiteral("u%1").arg(file, 2, 10, QLatin1Char('0'))});
+                  {QStringLiteral("w") + GetModelCode(m_values), QStringLiteral("f%1.dat").arg(file),
+                   QStringLiteral("t../out.txt"), QStringLiteral("u%1").arg(file, 2, 10, QLatin1Char('0'))});
     EXPECT_TRUE(convert.waitForFinished(-1));
     EXPECT_EQ(convert.exitCode(), 0) << convert.readAllStandardError().toStdString();
     QList<QByteArrayList> records;
-    for (const QByteArray& line : elsewhere.read("out.txt").split('\n')) {
+    for (const QByteArray& line : readWholeFile(text).split('\n')) {
         if (!line.isEmpty())
             records << line.chopped(1).split(',');
     }
     return records;
 }
 
-QByteArrayList Shop::recordOf(int registerNumber, int file, const QByteArray& key) const
-{
-    for (const QByteArrayList& record : recordsOf(registerNumber, file)) {
-        if (record.first() == key.rightJustified(pluNumberWidth, '0'))
-            return record;
-    }
-    ADD_FAILURE() << "register " << registerNumber << " has no record " << key.constData();
-    return {};
-}
-
-QString Shop::stored(const char* table, const char* field, const QString& key) const
+QString Shop::stored(const QByteArray& query) const
 {
     store::Database database(m_values.databasePath);
-    store::Recordset records = database.openTable(QString::fromLatin1(table));
-    if (!key.isEmpty() && !records.seek(store::Seek::Equal, store::Value::text(key))) {
-        ADD_FAILURE() << "no record " << qPrintable(key) << " in " << table;
-        return {};
-    }
-    return records.value(QString::fromLatin1(field)).toText();
+    return database.openQuery(QString::fromLatin1(query)).value(0).toText();
 }
 
 qint64 Shop::rowsOf(const char* table) const
@@ -217,8 +137,7 @@ qint64 Shop::rowsOf(const char* table) const
 
 void Shop::execute(const char* sql) const
 {
-    store::Database database(m_values.databasePath);
-    database.execute(QString::fromLatin1(sql));
+    store::Database(m_values.databasePath).execute(QString::fromLatin1(sql));
 }
 
 } // namespace norvane::test

@@ -22,38 +22,28 @@ using BoxNumbers = QList<int>;
 class Shop
 {
 public:
-    /// Starts with a new customer taken through the customer dialog. @p model is the index ECRModel.
+    /// Starts with a new customer. @p model is the index ECRModel.
     Shop(int model, int registers);
 
     [[nodiscard]] ProgramFolder& folder() { return m_folder; }
     [[nodiscard]] const ApplicationValues& values() const { return m_values; }
     [[nodiscard]] RecordingBoxes& boxes() { return m_boxes; }
 
-    /// What "Select All" ticks.
-    [[nodiscard]] static BoxNumbers everyBox();
-    /// Opens the exchange dialog, ticks @p boxes, presses OK, leaves. @return the boxes still ticked after
-    /// it.
-    BoxNumbers upload(const BoxNumbers& boxes) { return exchange("UploadVelmar", boxes); }
-    BoxNumbers download(const BoxNumbers& boxes) { return exchange("DownloadVelmar", boxes); }
+    /// Opens the exchange dialog, ticks @p boxes or, without any, all by "Select All", presses OK, leaves.
+    /// @return the boxes still ticked after it.
+    BoxNumbers upload(const BoxNumbers& boxes = {}) { return exchange("UploadVelmar", boxes); }
+    BoxNumbers download(const BoxNumbers& boxes = {}) { return exchange("DownloadVelmar", boxes); }
 
     /// Chooses a menu entry that opens a form which is not modal. @return the form.
     QWidget& openForm(const char* entry);
-    /// Chooses a menu entry that opens a screen. @return the screen.
-    QWidget& openScreen(const char* entry);
     /// Presses a button of a form, or a find button with its answer typed into the dialog.
     static void press(QWidget& form, const char* button);
-    void find(QWidget& form, const char* text);
-    /// The control of @p form that the open screen's file binds to @p field.
-    QWidget& control(QWidget& form, const char* field);
-    /// Types @p text over what the control holds.
-    void type(QWidget& form, const char* field, const char* text);
+    static void find(QWidget& form, const char* text);
 
     /// What a register holds in a file, as text lines split at the commas.
     [[nodiscard]] QList<QByteArrayList> recordsOf(int registerNumber, int file) const;
-    /// The line of a register's file that begins with @p key.
-    [[nodiscard]] QByteArrayList recordOf(int registerNumber, int file, const QByteArray& key) const;
-    /// A field of the first record of a table; or of the record with @p key in the table's first index.
-    [[nodiscard]] QString stored(const char* table, const char* field, const QString& key = {}) const;
+    /// The first field of the first record of a query.
+    [[nodiscard]] QString stored(const QByteArray& query) const;
     [[nodiscard]] qint64 rowsOf(const char* table) const;
     /// Runs a statement on the customer's database, as another program at the same file would.
     void execute(const char* sql) const;
