@@ -25,43 +25,27 @@ PseudoModem::~PseudoModem()
     ::close(m_line);
 }
 
-void PseudoModem::say(const QByteArray& text)
-{
-    EXPECT_EQ(::write(m_line, text.constData(), static_cast<std::size_t>(text.size())), text.size());
-}
-
-void PseudoModem::readPending()
-{
-    char buffer[256];
-    for (;;) {
-        const auto count = ::read(m_line, buffer, sizeof buffer);
-        if (count <= 0) {
-            return;
-        }
-        m_received.append(buffer, count);
-    }
-}
-
 void PseudoModem::act(double now)
 {
-    readPending();
-    for (qsizetype end = m_received.indexOf('\r', m_answered); end >= 0;
-         end = m_received.indexOf('\r', m_answered)) {
-        m_answered = end + 1;
+    const auto commands = received().count('\r');
+    for (; m_commands < commands; ++m_commands) {
         if (!m_answers.empty()) {
             willSay(now + m_answers.front().delay, m_answers.front().text);
             m_answers.pop_front();
         }
     }
-    while (!m_due.empty() && m_due.begin()->first <= now) {
-        say(m_due.begin()->second);
-        m_due.erase(m_due.begin());
+    for (; !m_due.empty() && m_due.begin()->first <= now; m_due.erase(m_due.begin())) {
+        const QByteArray& text = m_due.begin()->second;
+        EXPECT_EQ(::write(m_line, text.constData(), static_cast<std::size_t>(text.size())), text.size());
     }
 }
 
 QByteArray PseudoModem::received()
 {
-    readPending();
+    char buffer[256];
+    for (auto count = ::read(m_line, buffer, sizeof buffer); count > 0;
+         count = ::read(m_line, buffer, sizeof buffer))
+        m_received.append(buffer, count);
     return m_received;
 }
 
@@ -69,11 +53,7 @@ void QuickClock::pause()
 {
     QThread::msleep(1);
     m_now += 0.1;
-    if (m_now >= 86400) {
-        m_now -= 86400;
-        ++m_days;
-    }
-    m_modem.act(m_days * 86400 + m_now);
+    m_modem.act(m_now);
 }
 
 void QuickClock::yieldEvents()

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <cmath>
 #include <deque>
 #include <functional>
 #include <map>
@@ -30,7 +31,12 @@ public:
 
     /// Device name for the serial line.
     [[nodiscard]] QString device() const { return m_device; }
-    void willAnswer(std::deque<Answer> answers) { m_answers = std::move(answers); }
+    /// Answers the commands that come from now on.
+    void willAnswer(std::deque<Answer> answers)
+    {
+        m_commands = received().count('\r');
+        m_answers = std::move(answers);
+    }
     /// Puts bytes on the line at a time of the clock, asked or not.
     void willSay(double time, const QByteArray& text) { m_due.insert({time, text}); }
     /// Reads what has come and sends what is due at @p now, in seconds that go on past midnight.
@@ -39,15 +45,12 @@ public:
     [[nodiscard]] QByteArray received();
 
 private:
-    void readPending();
-    void say(const QByteArray& text);
-
     int m_line;
     QString m_device;
     std::deque<Answer> m_answers;
     std::multimap<double, QByteArray> m_due;
     QByteArray m_received;
-    qsizetype m_answered = 0;
+    qsizetype m_commands = 0; ///< that had their turn to be answered
 };
 
 /// Every pause is a tenth of a second on this clock. The modem works whenever time passes.
@@ -58,16 +61,15 @@ public:
 
     /// Runs at each handling of events, as a user's press would.
     std::function<void()> onEvents;
-    [[nodiscard]] double now() const { return m_now; }
+    [[nodiscard]] double now() const { return std::fmod(m_now, 86400); }
 
-    [[nodiscard]] double secondsSinceMidnight() override { return m_now; }
+    [[nodiscard]] double secondsSinceMidnight() override { return now(); }
     void pause() override;
     void yieldEvents() override;
 
 private:
     PseudoModem& m_modem;
-    double m_now;
-    int m_days = 0;
+    double m_now; ///< goes on past midnight
 };
 
 } // namespace norvane::test
