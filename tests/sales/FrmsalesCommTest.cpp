@@ -12,7 +12,6 @@
 #include "tests/support/PseudoModem.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <gtest/gtest.h>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QStatusBar>
@@ -24,63 +23,17 @@ namespace
 {
 
 using test::PseudoModem;
+using test::ShownBox;
 
-const std::vector<const char*> salesTables{"FINANCIALSALES", "PLUSALES", "TIMESALES", "MIXSALES",
-                                           "CLERKSALES"};
+const QString errorTitle = QStringLiteral("Communications Error");
+const char* const done = "Communications Successful....";
 
 /// Two registers that have sold something, and the form.
-class Collection
+class FrmsalesCommTest : public testing::Test
 {
-public:
-    Collection()
+protected:
+    FrmsalesCommTest()
     {
-        sell(1);
-        sell(2);
-        form.show();
-    }
-    ~Collection() { EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr); }
-    Collection(const Collection&) = delete;
-    Collection& operator=(const Collection&) = delete;
-
-    [[nodiscard]] QPushButton& button(const char* name) const
-    {
-        return *form.findChild<QPushButton*>(QLatin1String(name));
-    }
-    void collect() { QTest::mouseClick(&button("Communicate"), Qt::LeftButton); }
-    [[nodiscard]] std::string status() const
-    {
-        return form.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage().toStdString();
-    }
-    /// Whether the sales still stand at the registers, open or consolidated.
-    [[nodiscard]] bool registersHoldSales() const
-    {
-        return pathExists(registerPath(1, "totals")) || pathExists(registerPath(1, "consolidated"));
-    }
-    [[nodiscard]] qint64 rowsOf(const char* table) const
-    {
-        store::Database database(values.databasePath);
-        return database.openTable(QLatin1String(table)).recordCount();
-    }
-    [[nodiscard]] qint64 allRows() const
-    {
-        qint64 rows = 0;
-        for (const char* table : salesTables)
-            rows += rowsOf(table);
-        return rows;
-    }
-    [[nodiscard]] double sumOf(const char* table, const char* field) const
-    {
-        store::Database database(values.databasePath);
-        store::Recordset records = database.openTable(QLatin1String(table));
-        double sum = 0;
-        for (; !records.atEnd(); records.moveNext())
-            sum += records.value(QLatin1String(field)).toNumber();
-        return sum;
-    }
-    void sell(int number) const
-    {
-        const QString totals = registerPath(number, "totals");
-        QDir().mkpath(totals);
         const std::pair<const char*, QByteArray> reports[] = {
             {"190.txt", "10,100.05\r\n0,0\r\n1,2.5\r\n"},
             {"191.txt", "3,9.99\r\n"},
@@ -88,8 +41,43 @@ public:
             {"194.txt", "1001,0,0,2,5.4,1,3.1\r\n"},
             {"218.txt", "7\r\n"},
         };
-        for (const auto& [name, text] : reports)
-            writeWholeFile(joinPath(totals, QLatin1String(name)), text);
+        for (const char* totals : {"1/totals", "2/totals"}) {
+            QDir().mkpath(bankPath(totals));
+            for (const auto& [name, text] : reports)
+                writeWholeFile(joinPath(bankPath(totals), QLatin1String(name)), text);
+        }
+        form.show();
+    }
+    void TearDown() override { EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr); }
+
+    void press(const char* name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
+    /// @p faults of the tools, as a section of a faults.ini.
+    void collect(const QByteArray& faults = {})
+    {
+        folder.setFaults("[fault]\n" + faults + '\n');
+        boxes.shown.clear();
+        press("Communicate");
+    }
+    [[nodiscard]] QPushButton& button(const char* name) const
+    {
+        return *form.findChild<QPushButton*>(QLatin1String(name));
+    }
+    [[nodiscard]] std::string status() const
+    {
+        return form.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage().toStdString();
+    }
+    /// Whether the sales still stand at the registers, open or consolidated.
+    [[nodiscard]] bool registersHoldSales() const
+    {
+        return pathExists(bankPath("1/totals")) || pathExists(bankPath("1/consolidated"));
+    }
+    [[nodiscard]] qint64 rows() const
+    {
+        store::Database database(values.databasePath);
+        qint64 count = 0;
+        for (const char* table : {"FINANCIALSALES", "PLUSALES", "TIMESALES", "MIXSALES", "CLERKSALES"})
+            count += database.openTable(QLatin1String(table)).recordCount();
+        return count;
     }
     void useModem()
     {
@@ -100,221 +88,152 @@ public:
         form.setSerialLine(makeSerialLine({far.device()}));
         form.setClock(std::make_unique<test::QuickClock>(far));
     }
+    [[nodiscard]] QString bankPath(const char* name) const
+    {
+        return joinPath(folder.bankPath(), QLatin1String(name));
+    }
 
     test::ProgramFolder folder{2, 2, 20};
     ApplicationValues values = folder.makeCustomer(QStringLiteral("Corner Shop"));
     test::RecordingBoxes boxes;
     PseudoModem far;
     FrmsalesComm form{values, boxes};
-
-private:
-    [[nodiscard]] QString registerPath(int number, const char* name) const
-    {
-        return joinPath(folder.bankPath(), QStringLiteral("%1/%2").arg(number).arg(QLatin1String(name)));
-    }
 };
 
-TEST(FrmsalesComm, BringsTheSalesHomeAndClearsTheRegisters)
+TEST_F(FrmsalesCommTest, EndsAtAResultThatIsNotAccepted)
 {
-    Collection shop;
-    EXPECT_EQ(shop.form.windowTitle(), QStringLiteral("Collect Sales."));
-    EXPECT_EQ(shop.button("Communicate").text(), QStringLiteral("Collect Sales"));
-    EXPECT_EQ(shop.button("CSCmdBtn1").text(), QStringLiteral("E&xit"));
-    EXPECT_FALSE(shop.form.isModal());
-    shop.collect();
-    EXPECT_EQ(shop.status(), "Communications Successful....");
-    EXPECT_TRUE(shop.boxes.shown.empty());
-    EXPECT_FALSE(shop.registersHoldSales());
-    EXPECT_EQ(shop.rowsOf("FINANCIALSALES"), 2) << "without the zeros";
-    EXPECT_EQ(shop.rowsOf("PLUSALES"), 20) << "with the zeros";
-    EXPECT_DOUBLE_EQ(shop.sumOf("FINANCIALSALES", "VALUE"), 205.1);
-    QTest::keyClick(&shop.form, Qt::Key_Escape);
-    EXPECT_FALSE(shop.form.isVisible());
-}
-
-struct ErrorExit {
-    const char* name;
-    const char* faults;
-    const char* text;   ///< of the box
-    const char* status; ///< of the status bar
-    bool imported = false;
-};
-
-const char* const unknown = "Error 0 Sorry Error Unknown";
-
-TEST(FrmsalesComm, EndsAtAResultThatIsNotAccepted)
-{
-    const ErrorExit exits[] = {
-        {"memory", "Command=fetch\nFile=52\nResult=1", "1. Bad Agrument Entry", "Get Memory"},
-        {"memory not written", "Command=fetch\nFile=52\nResult=6", "6. File Write Error", "Get Memory"},
-        {"opening", "Command=open\nResult=7", "7. Unknown Command", "Get Memory"},
-        {"opening time out", "Command=open\nResult=8", "8. Time Out", "Get Memory"},
-        {"aborted", "Command=open\nResult=99", "Aborted by User", "Get Memory"},
-        {"modem by the tool", "Command=open\nResult=100", "Modem Failure", "Get Memory"},
-        {"consolidation busy", "Command=consolidate\nResult=12", "Machine Busy", "Consolidate Reports"},
-        {"consolidation 13", "Command=consolidate\nResult=13", "Pre poll Error", "Consolidate Reports"},
-        {"consolidation 14", "Command=consolidate\nResult=14", "Pre poll Error", "Consolidate Reports"},
-        {"consolidation -12", "Command=consolidate\nResult=-12", unknown, "Consolidate Reports"},
-        {"a later register", "Command=consolidate\nRegister=2\nResult=8", "8. Time Out",
-         "Consolidate Reports"},
-        {"collecting", "Command=collect\nResult=2", "2. File Open Error", "Collect Report Files"},
-        {"wrong information", "Command=collect\nResult=3", "3. File Information Is Wrong",
-         "Collect Report Files"},
-        {"wrong size", "Command=collect\nResult=4", "4. File Size Mismatch", "Collect Report Files"},
-        {"conversion", "Command=collect\nResult=5", "5. Argument Conversion Error", "Collect Report Files"},
-        {"packet size", "Command=collect\nResult=9", "9. Packet Size Error", "Collect Report Files"},
-        {"packet number", "Command=collect\nResult=10", "10. Packet Number Mismatch", "Collect Report Files"},
-        {"damaged", "Command=collect\nResult=11", "11. Bad CRC", "Collect Report Files"},
-        {"collecting -13", "Command=collect\nResult=-13", unknown, "Collect Report Files"},
-        {"unknown code", "Command=collect\nResult=77", unknown, "Collect Report Files"},
-        {"clearing", "Command=clear\nResult=15", "Report Clear Error", "Clear Data at ECR", true},
+    const char* const unknown = "Error 0 Sorry Error Unknown";
+    const char* const memory = "Get Memory";
+    const char* const consolidation = "Consolidate Reports";
+    const char* const collection = "Collect Report Files";
+    const struct {
+        const char* faults;
+        const char* text; ///< of the box
+        const char* status;
+        bool imported = false;
+    } exits[] = {
+        {"Command=fetch\nFile=52\nResult=1", "1. Bad Agrument Entry", memory},
+        {"Command=fetch\nFile=52\nResult=6", "6. File Write Error", memory},
+        {"Command=open\nResult=7", "7. Unknown Command", memory},
+        {"Command=open\nResult=8", "8. Time Out", memory},
+        {"Command=open\nResult=99", "Aborted by User", memory},
+        {"Command=open\nResult=100", "Modem Failure", memory},
+        {"Command=consolidate\nResult=12", "Machine Busy", consolidation},
+        {"Command=consolidate\nResult=13", "Pre poll Error", consolidation},
+        {"Command=consolidate\nResult=14", "Pre poll Error", consolidation},
+        {"Command=consolidate\nResult=-12", unknown, consolidation},
+        {"Command=consolidate\nRegister=2\nResult=8", "8. Time Out", consolidation},
+        {"Command=collect\nResult=2", "2. File Open Error", collection},
+        {"Command=collect\nResult=3", "3. File Information Is Wrong", collection},
+        {"Command=collect\nResult=4", "4. File Size Mismatch", collection},
+        {"Command=collect\nResult=5", "5. Argument Conversion Error", collection},
+        {"Command=collect\nResult=9", "9. Packet Size Error", collection},
+        {"Command=collect\nResult=10", "10. Packet Number Mismatch", collection},
+        {"Command=collect\nResult=11", "11. Bad CRC", collection},
+        {"Command=collect\nResult=-13", unknown, collection},
+        {"Command=collect\nResult=77", unknown, collection},
+        {"Command=clear\nResult=15", "Report Clear Error", "Clear Data at ECR", true},
     };
-    Collection shop;
-    for (const ErrorExit& c : exits) {
-        SCOPED_TRACE(c.name);
-        shop.boxes.shown.clear();
-        shop.folder.setFaults(QByteArray("[fault]\nTool=VELMARCOMM\n") + c.faults + '\n');
-        shop.collect();
-        EXPECT_EQ(shop.boxes.shown, (std::vector{test::ShownBox{QLatin1String(c.text),
-                                                                QStringLiteral("Communications Error")}}));
-        EXPECT_EQ(shop.status(), c.status);
-        EXPECT_EQ(shop.allRows() > 0, c.imported);
-        EXPECT_TRUE(shop.registersHoldSales());
-        EXPECT_TRUE(shop.form.isVisible());
+    for (const auto& c : exits) {
+        SCOPED_TRACE(c.faults);
+        collect(QByteArray("Tool=VELMARCOMM\n") + c.faults);
+        EXPECT_EQ(boxes.shown, (std::vector{ShownBox{QLatin1String(c.text), errorTitle}}));
+        EXPECT_EQ(status(), c.status);
+        EXPECT_EQ(rows() > 0, c.imported);
+        EXPECT_TRUE(registersHoldSales());
+        EXPECT_TRUE(form.isVisible());
     }
+    collect("Command=consolidate\nResult=-14");
+    EXPECT_EQ(status(), done) << "as with the register's own -13: sales that wait are collected";
+    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_FALSE(registersHoldSales());
 }
 
-/// Sales that were consolidated by a run that ended before it cleared them are collected by the next.
-TEST(FrmsalesComm, CollectsWhatWaitsFromAnEarlierRun)
+TEST_F(FrmsalesCommTest, StopsAtRegistersThatSendDescriptions)
 {
-    for (const char* faults : {"", "[fault]\nCommand=consolidate\nResult=-14\n"}) {
-        Collection shop;
-        shop.folder.setFaults("[fault]\nCommand=collect\nResult=8\n");
-        shop.collect();
-        shop.folder.setFaults(faults);
-        shop.collect();
-        EXPECT_EQ(shop.status(), "Communications Successful....");
-        EXPECT_EQ(shop.boxes.shown.size(), 1U);
-        EXPECT_DOUBLE_EQ(shop.sumOf("FINANCIALSALES", "VALUE"), 205.1);
-        EXPECT_FALSE(shop.registersHoldSales());
-    }
-}
-
-/// The stamp is the test's own: a tool that crashes leaves the former result and the former files standing.
-TEST(FrmsalesComm, StopsAtRegistersThatSendDescriptions)
-{
-    for (const char stamp : {'\x41', '\x42', '\x43'}) {
-        SCOPED_TRACE(static_cast<int>(stamp));
-        Collection shop;
-        shop.collect();
-        const qint64 rows = shop.allRows();
-        shop.sell(1);
-        writeWholeFile(shop.folder.appFile(QStringLiteral("poll194.dll")), QByteArray("RPT\x01", 4) + stamp);
-        shop.folder.setFaults(
-            "[kept]\nCommand=collect\nCrash=1\n[old]\nTool=convert\nCommand=S194\nResult=1\n");
-        shop.collect();
-        const bool goesOn = stamp == '\x41';
-        EXPECT_EQ(shop.boxes.shown.empty(), goesOn);
-        EXPECT_EQ(shop.allRows() > rows, goesOn);
-        EXPECT_EQ(shop.registersHoldSales(), !goesOn);
-        if (!goesOn) {
-            EXPECT_EQ(shop.boxes.shown.at(0),
-                      (test::ShownBox{QStringLiteral("Please set\rS-Mode.\r5.System Option.\r"
-                                                     "13. Send PLU Description when polled to N"),
-                                      QStringLiteral("Communications Error")}));
-            EXPECT_EQ(shop.status(), "Parse data....");
-        }
+    const ShownBox advice{QStringLiteral("Please set\rS-Mode.\r5.System Option.\r"
+                                         "13. Send PLU Description when polled to N"),
+                          errorTitle};
+    for (const char* stamp : {"42", "43", "41"}) {
+        SCOPED_TRACE(stamp);
+        ProfileFile::write(bankPath("1/register.ini"), QStringLiteral("Register"), QStringLiteral("Stamp"),
+                           QLatin1String(stamp));
+        collect();
+        const bool goesOn = QLatin1String(stamp) == QLatin1String("41");
+        EXPECT_EQ(rows() > 0, goesOn);
+        EXPECT_EQ(registersHoldSales(), !goesOn);
+        EXPECT_EQ(status(), goesOn ? done : "Parse data....");
+        EXPECT_EQ(boxes.shown, std::vector<ShownBox>(goesOn ? 0 : 1, advice));
     }
 }
 
 /// The third of five imports fails: what came before stays, and the registers keep everything.
-TEST(FrmsalesComm, ClearsNothingAfterAFailedImport)
+TEST_F(FrmsalesCommTest, ClearsNothingAfterAFailedImport)
 {
-    Collection shop;
-    writeWholeFile(shop.folder.appFile(QStringLiteral("POLL191.txt")), "1,2\r\n3");
-    shop.folder.setFaults("[old]\nTool=convert\nCommand=S191\nResult=1\n");
-    shop.collect();
+    writeWholeFile(folder.appFile(QStringLiteral("POLL191.txt")), "1,2\r\n3");
+    collect("Tool=convert\nCommand=S191\nResult=1");
     const auto failure = test::takeFailure();
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 62);
     EXPECT_TRUE(failure->text().contains(QStringLiteral("poll191.txt, record 2"))) << failure->what();
-    EXPECT_TRUE(shop.registersHoldSales());
-    EXPECT_EQ(shop.rowsOf("FINANCIALSALES"), 2);
-    EXPECT_EQ(shop.rowsOf("TIMESALES"), 1);
-    EXPECT_EQ(shop.rowsOf("MIXSALES") + shop.rowsOf("CLERKSALES"), 0);
+    EXPECT_TRUE(registersHoldSales());
+    EXPECT_EQ(rows(), 2 + 20 + 1) << "financial lines, PLUs, time periods";
 }
 
-TEST(FrmsalesComm, EndsWithoutClearingWhenLeftInTheMidst)
+TEST_F(FrmsalesCommTest, EndsWithoutClearingWhenLeftInTheMidst)
 {
-    Collection shop;
-    QTimer::singleShot(0, &shop.button("CSCmdBtn1"), &QPushButton::click);
-    shop.collect();
-    EXPECT_FALSE(shop.form.isVisible());
-    EXPECT_TRUE(shop.boxes.shown.empty());
-    EXPECT_TRUE(shop.registersHoldSales());
-    EXPECT_EQ(shop.allRows(), 0);
+    EXPECT_EQ(form.windowTitle(), QStringLiteral("Collect Sales."));
+    EXPECT_EQ(button("Communicate").text(), QStringLiteral("Collect Sales"));
+    EXPECT_EQ(button("CSCmdBtn1").text(), QStringLiteral("E&xit"));
+    QTimer::singleShot(0, &form, [this] { QTest::keyClick(&form, Qt::Key_Escape); });
+    collect();
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_TRUE(registersHoldSales());
+    EXPECT_EQ(rows(), 0);
 }
 
-TEST(FrmsalesComm, NamesAToolThatIsMissing)
+TEST_F(FrmsalesCommTest, NamesAToolThatIsMissing)
 {
-    Collection shop;
-    shop.collect();
-    shop.folder.removeTool("VELMARCOMM");
-    shop.collect();
-    EXPECT_EQ(shop.status(), "Communications Successful....    The program VELMARCOMM was not found.");
+    collect();
+    folder.removeTool("VELMARCOMM");
+    collect();
+    EXPECT_EQ(status(), "Communications Successful....    The program VELMARCOMM was not found.");
 }
 
-TEST(FrmsalesComm, DialsCollectsAndHangsUp)
+TEST_F(FrmsalesCommTest, DialsCollectsAndHangsUp)
 {
-    struct {
-        const char* name;
-        const char* faults;
+    useModem();
+    const std::deque<PseudoModem::Answer> connects{{"OK"}, {"OK"}, {"CONNECT"}};
+    const QByteArray call = "AT&F\rATZ1\rATD\r+++ATH\r";
+    const struct {
         std::deque<PseudoModem::Answer> answers;
+        const char* faults;
         QByteArray received;
-        const char* text;
+        const char* text; ///< of the box
         const char* status;
-    } const cases[] = {
-        {"goes through",
-         "",
-         {{"OK"}, {"OK"}, {"CONNECT"}},
-         "AT&F\rATZ1\rATD\r+++ATH\r",
-         nullptr,
-         "Communications Successful...."},
-        {"no answer",
-         "",
-         {},
-         "AT&F\r+++ATH\r",
-         "Error 100 Sorry Error Unknown",
-         "Resetting Modem .......AT&F"},
-        {"a step fails",
-         "[f]\nCommand=collect\nResult=8\n",
-         {{"OK"}, {"OK"}, {"CONNECT"}},
-         "AT&F\rATZ1\rATD\r+++ATH\r",
-         "8. Time Out",
-         "Collect Report Files"},
+    } calls[] = {
+        {{}, "", "AT&F\r+++ATH\r", "Error 100 Sorry Error Unknown", "Resetting Modem .......AT&F"},
+        {connects, "Command=collect\nResult=8\n", call, "8. Time Out", "Collect Report Files"},
+        {connects, "", call, nullptr, done},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        Collection shop;
-        shop.useModem();
-        shop.far.willAnswer(c.answers);
-        shop.folder.setFaults(c.faults);
-        QByteArray receivedAtBox;
-        shop.boxes.whileOpen = [&](const test::ShownBox&) {
-            receivedAtBox = shop.far.received();
+    QByteArray expected;
+    for (const auto& c : calls) {
+        SCOPED_TRACE(c.status);
+        expected += c.received;
+        boxes.whileOpen = [&](const ShownBox&) {
+            EXPECT_EQ(far.received(), expected) << "the line is free while the box stands";
         };
-        shop.collect();
-        EXPECT_EQ(shop.far.received(), c.received);
-        EXPECT_EQ(shop.status(), c.status);
-        ASSERT_EQ(shop.boxes.shown.size(), c.text == nullptr ? 0U : 1U);
-        if (c.text != nullptr) {
-            EXPECT_EQ(shop.boxes.shown.front().text, QLatin1String(c.text));
-            EXPECT_EQ(receivedAtBox, c.received) << "the line is free while the box stands";
-        }
-        QTest::mouseClick(&shop.button("CSCmdBtn1"), Qt::LeftButton);
-        EXPECT_TRUE(shop.far.received().endsWith("+++ATH\r+++ATH\r"));
-        EXPECT_FALSE(shop.form.isVisible());
+        far.willAnswer(c.answers);
+        collect(c.faults);
+        EXPECT_EQ(far.received(), expected);
+        EXPECT_EQ(status(), c.status);
+        ASSERT_EQ(boxes.shown.size(), c.text == nullptr ? 0U : 1U);
+        EXPECT_TRUE(c.text == nullptr || boxes.shown[0].text == QLatin1String(c.text));
     }
+    press("CSCmdBtn1");
+    EXPECT_EQ(far.received(), expected + "+++ATH\r") << "leaving hangs up in any case";
+    EXPECT_FALSE(form.isVisible());
 }
 
 } // namespace
