@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 namespace norvane::records
 {
 namespace
@@ -42,7 +44,6 @@ const Travel travels[] = {
     {"text", 67, {{"DESCRIPTION", text(" Tea ")}}, 2, 1, "Tea             ", "DESCRIPTION", "Tea             "},
     {"text_in_the_character_set", 67, {{"DESCRIPTION", text("T\u00fcr^\u4e2d\u20ac")}}, 2, 1, "T\xFCr\xFD?\x80          ", "DESCRIPTION", "T\u00fcr^?\u20ac          "},
     {"null_text", 67, {{"DESCRIPTION", Value()}}, 2, 1, "                ", "DESCRIPTION", "                "},
-    {"number", 67, {{"PLUSTATUS", whole(7)}}, 4, 1, "0007", "PLUSTATUS", "7"},
     {"number_loses_its_left_end", 67, {{"PLUSTATUS", whole(123456)}}, 4, 1, "3456", "PLUSTATUS", "3456"},
     {"null_number", 67, {{"PLUSTATUS", Value()}}, 4, 1, "0000", "PLUSTATUS", "0"},
     {"long_number", 67, {{"STOCKLINK", text("987654321098765432")}}, 11, 1, "987654321098765432", "STOCKLINK", "987654321098765432"},
@@ -55,18 +56,15 @@ const Travel travels[] = {
     {"flags", 67, {{"OVERRIDE", yes()}}, 8, 1, "10", "OVERRIDE", "True"},
     {"first_level_where_none_is_set", 67, {{"PRICELEVEL1", Value()}}, 14, 1, "01", "PRICELEVEL1", "1"},
     {"fifth_level_where_none_is_set", 67, {{"PRICELEVEL5", whole(0)}}, 22, 1, "05", "PRICELEVEL5", "5"},
-    {"level_that_is_set", 67, {{"PRICELEVEL3", whole(1)}}, 18, 1, "01", "PRICELEVEL3", "1"},
     {"unit", 58, {{"unitDESCRIPTION", text("Kilogramme")}}, 2, 1, "Kilo", "unitDESCRIPTION", "Kilo"},
     {"grill_number_and_flag", 65, {{"AUTOGRILL", yes()}, {"AUTOGRILLNo", whole(7)}, {"LINKEDNVIMAGE", whole(12)}}, 9, 9, "40,00,00,07,00,00,000000000000000000,00,12", "AUTOGRILL", "True"},
     {"descriptor", 20, {{"ERRORMESSAGE", text("NO ^ PAPER")}}, 1, 1, "NO \xFD PAPER                    ", "ERRORMESSAGE", "NO ^ PAPER                    "},
     {"descriptor_loses_zeros", 21, {{"financialreport", text("00 NET")}}, 1, 1, "00 NET                        ", "financialreport", " NET"},
     {"justify_2", 23, {{"Justify", whole(2)}}, 1, 1, "40", "Justify", "2"},
-    {"justify_1", 25, {{"Justify", whole(1)}}, 1, 1, "20", "Justify", "1"},
     {"employee_codes", 63, {{"dallaskey", text("0A0000000000FF")}, {"SOCIAL", text("123456789012")}, {"SIGNONCODE", Value::number(9876543210.0)}, {"JOB1CODE", whole(7)}, {"PAYRATE6", whole(12)}, {"Trainmode", yes()}}, 2, 20, "123456789012,9876543210,0000000000,00,07,00,00,00,00,00,00,00,00,00,00,12,00,40,00,00", "PAYRATE6", "12"},
     {"key_bytes", 63, {{"dallaskey", text("0A0000000000FF")}}, 22, 7, "0010,0000,0000,0000,0000,0000,0255", "dallaskey", "0A0000000000FF"},
     {"key_without_bytes", 63, {{"dallaskey", text("")}}, 22, 7, "0000,0000,0000,0000,0000,0000,0000", "dallaskey", "00000000000000"},
     {"key_of_odd_digits", 63, {{"dallaskey", text("G1 A1 Fg-1\u00e4f")}}, 22, 7, "0000,0000,0001,0015,0000,0000,0000", "dallaskey", "000001" "0F000000"},
-    {"pay_rate", 34, {{"rate", Value::number(12.5)}}, 1, 1, "1250", "rate", "12.5"},
     {"last_authority", 32, {{"DISALLOWSUBTRACTINX", yes()}, {"DISALLOWADDINX", yes()}}, 9, 1, "21", "DISALLOWSUBTRACTINX", "True"},
     {"start_time", 64, {{"STARTTIME", text("930")}, {"ENDTIME", whole(945)}, {"ACTIVE", yes()}}, 1, 3, "0930,0945,40", "STARTTIME", "0930"},
     {"tax_rate", 29, {{"taxrate", Value::number(17.5)}, {"TAXTYPE", whole(1)}}, 1, 3, "017500,20,00", "taxrate", "17.5"},
@@ -74,7 +72,7 @@ const Travel travels[] = {
     {"tax_total_stands_twice", 29, {{"repeatbreaktotal", whole(9)}, {"highhold", Value::number(9876543210.0)}}, 28, 3, "000009,000009,9876543210", "highhold", "0"},
     {"three_places_come_back_as_two", 15, {{"DECIMALPlace", whole(3)}, {"SENDPLUDESCRIPTOR", yes()}, {"PRINTERRORPOLLING", yes()}}, 1, 1, "74", "DECIMALPlace", "2"},
     {"service_numbers", 15, {{"storenumber", whole(123456)}, {"timein/out", whole(5)}, {"check4", whole(4)}, {"z5pass", whole(55)}, {"rompass", whole(9999)}}, 2, 23, "123456,00,00,00,05,00,00,00,04,00,00,00,00,0000,0000,0000,0000,0055,0000,0000,00,00,9999", "rompass", "9999"},
-    {"function_key", 2, {{"DESCRIPTION", text("CASH^")}, {"HALO", whole(99999999)}, {"flag1", whole(44)}, {"flag2", whole(1)}, {"flag4", whole(20)}}, 1, 6, "CASH^       ,99999999,44,01,00,20", "flag4", "20"},
+    {"function_keys_count_by_line", 2, {{"id", whole(258)}, {"flag2", whole(1234)}}, 4, 1, "34", "flag2", "34"},
     {"key_link_none", 16, {{"KEYLINK", text("0")}}, 1, 1, "0200", "KEYLINK", "0"},
     {"key_link_271", 16, {{"KEYLINK", text("271")}}, 1, 1, "0300", "KEYLINK", "271"},
     {"key_link_empty", 16, {{"KEYLINK", text("")}}, 1, 1, "0000", "KEYLINK", ""},
@@ -82,8 +80,6 @@ const Travel travels[] = {
     {"window", 57, {{"LINK", whole(3)}, {"#OfCondiments", whole(2)}, {"#OfWLU", whole(9)}, {"Allowplu", yes()}, {"allowexit", yes()}, {"condimentsort", yes()}}, 2, 5, "0003,02,0009,22,40", "condimentsort", "True"},
     {"window_function", 57, {{"wlutype1", whole(2)}, {"codenumber1", text("12")}}, 7, 2, "40,001200000000000000", "codenumber1", "12"},
     {"window_plu_of_18_digits", 57, {{"codenumber2", text("123456789012345678")}}, 9, 2, "00,123456789012345678", "codenumber2", "123456789012345678"},
-    {"card_category", 85, {{"DESCRIPTOR", text("Staff")}, {"REDEEMMULTIPLIER", whole(4)}, {"INACTIVE", yes()}, {"DISALLOWPOINT", yes()}}, 1, 6, "Staff           ,0000,0000,0000,0004,12", "DISALLOWPOINT", "True"},
-    {"hot_list", 86, {{"REFERENCE", text("123")}, {"HOTLISTED", yes()}}, 1, 2, "123                           ,01", "HOTLISTED", "True"},
     {"destination", 3, {{"DEFAULTDESTINATION", whole(2)}}, 1, 1, "01", "DEFAULTDESTINATION", "2"},
     {"destination_1_is_sent_as_2", 3, {{"DEFAULTDESTINATION", whole(1)}}, 1, 1, "02", "DEFAULTDESTINATION", "1"},
     {"destination_beside_eat_in", 3, {{"DEFAULTDESTINATION", whole(2)}, {"EATINBEFOREENDOFSALE", yes()}}, 1, 1, "05", "DEFAULTDESTINATION", "3"},
@@ -113,8 +109,25 @@ const struct {
     const char* field;
     const char* stored;
 } reads[] = {
+    {1, "a\r\nb\r\nc", "GROUPNO", "1|2|3"},
+    {1, "a,,\nb,40,\n", "addtogrouptotal", "False|True"},
+    {1, "a,,\rb,40,\r", "addtogrouptotal", "False|True"},
+    {1, "a,,\r\n\x1A\r\nb,,\r\n", "DESCRIPTION", "a"},
+    {1, "", "DESCRIPTION", ""},
+    {67, ",007", "DESCRIPTION", "007"},
+    {67, ",\"Fish\"", "DESCRIPTION", "\"Fish\""},
+    {67, ",Fish, 12", "GROUPNO", "12"},
+    {67, ",,,,,,    ", "RECIPENO", "null"},
+    {67, ",,,,,,,40", "INactive", "True"},
+    {67, ",,,,,,,05", "printNV", "True"},
+    {67, ",,,,,,,57", "PRESET", "False"},
+    {67, ",,,,,,,4", "pricechange", "True"},
+    {67, ",,,,,,, 4", "pricechange", "True"},
+    {65, ",,,,,,,,00,,,07", "AUTOGRILL", "True"},
+    {65, ",,,,,,,,40,,,00", "AUTOGRILL", "False"},
+    {65, ",,,,,,,,,,,07", "AUTOGRILLNo", "null"},
     {19, "007 x", "SYSTEMDESCRIPTORS", "007 x"},
-    {20, "\r\n   \r\n0000\r\n", "ERRORMESSAGE", "0|   |0"},
+    {20, "\r\n  \r\n0000\r\n0012\r\n 12 \r\n 0120 \r\n00 12\r\n0 012\r\n007 Days  \r\n0  \r\n", "ERRORMESSAGE", "0|  |0|12| 12 |120| 12|12|7 Days|0"},
     {24, "80,a\r\n70\r\n4", "Justify", "0|2|0"},
     {63, "Ann" + QByteArray(",0").repeated(17) + ",00,0,0,0300,,  ,4095,-1,1,2", "dallaskey", "2C0000FFFF0102"},
     {34, "0005\r\n\r\n", "rate", "0.05|0"},
@@ -182,16 +195,13 @@ TEST(FileLayoutsTest, ReadsWhatOnlyARegisterSends)
     }
 }
 
-constexpr int keyCount = 266;
-
 /// All function keys of a register, some replaced.
 QByteArray functionKeys(const std::map<int, QByteArray>& replaced)
 {
     QByteArray keys;
-    for (int key = 1; key <= keyCount; ++key) {
-        const auto own = replaced.find(key);
-        keys += own == replaced.end() ? "KEY         ,00000000,00,00,00,00" : own->second;
-        keys += "\r\n";
+    for (int key = 1; key <= 266; ++key) {
+        const bool isUsual = replaced.count(key) == 0;
+        keys += (isUsual ? "KEY         ,00000000,00,00,00,00" : replaced.at(key)) + "\r\n";
     }
     return keys;
 }
@@ -208,57 +218,45 @@ TEST(FileLayoutsTest, KeepsNumbersInTheFlagsOfSomeFunctionKeys)
         {265, "E           ,00000000,00,00,12,50"},
     });
     shop.import(2, keys);
-    const auto stored = [&](const char* field, int key) {
-        return QString::fromStdString(shop.column("FUNCTIONKEY", field)).split(u'|').at(key - 1);
+    const auto stored = [&](const char* field, int first, int last) {
+        return QString::fromStdString(shop.column("FUNCTIONKEY", field)).section(u'|', first - 1, last - 1);
     };
-    EXPECT_EQ(stored("flag2", 257), QStringLiteral("12"));
-    EXPECT_EQ(stored("flag2", 258), QStringLiteral("1234"));
-    EXPECT_EQ(stored("flag3", 258), QStringLiteral("null"));
-    EXPECT_EQ(stored("flag2", 259), QStringLiteral("5"));
-    EXPECT_EQ(stored("flag2", 264), QStringLiteral("12.5"));
-    EXPECT_EQ(stored("flag4", 264), QStringLiteral("null"));
-    EXPECT_EQ(stored("flag4", 265), QStringLiteral("50"));
+    EXPECT_EQ(stored("flag2", 257, 264), QStringLiteral("12|1234|5|0|0|0|0|12.5"));
+    EXPECT_EQ(stored("flag3", 257, 258), QStringLiteral("34|null"));
+    EXPECT_EQ(stored("flag4", 264, 265), QStringLiteral("null|50"));
     EXPECT_EQ(shop.exported(2), keys);
 
     // A number that ends early, or is not there, is one all the same.
     shop.import(2, functionKeys({{258, "B,0,0,12"}, {259, "C"}, {264, "D,0,0,01,02"}}));
-    const auto lines = shop.exported(2).split('\n');
-    EXPECT_EQ(lines.at(257), "B           ,00000000,00,00,12,00\r");
-    EXPECT_EQ(lines.at(258), "C           ,00000000,00,00,00,00\r");
-    EXPECT_EQ(lines.at(263), "D           ,00000000,00,01,02,00\r");
-}
-
-TEST(FileLayoutsTest, CountsFunctionKeysByLine)
-{
-    Shop shop;
-    shop.folder.write("mem.dat", QByteArray(78, 0));
-    shop.add("FUNCTIONKEY", {{"id", whole(258)}, {"DESCRIPTION", text("B")}, {"flag2", whole(1234)}});
-    EXPECT_EQ(shop.exported(2), "B           ,00000000,00,34,00,00\r\n");
+    EXPECT_EQ(shop.exported(2), functionKeys({{258, "B           ,00000000,00,00,12,00"},
+                                              {259, "C           ,00000000,00,00,00,00"},
+                                              {264, "D           ,00000000,00,01,02,00"}}));
 }
 
 TEST(FileLayoutsTest, KeepsTheTextsOfTheCardKeysFromNewerFirmware)
 {
-    const QByteArray blank = "            ,00000000,00,00,00,00";
-    const QByteArray keys = functionKeys({{256, blank}, {258, blank}, {260, blank}, {266, blank}});
-    const auto sent = [&](int memorySize, Shop& shop) {
+    const char* const older = "|KEY||KEY||KEY|KEY|KEY|KEY|KEY|";
+    const struct {
+        int memorySize;
+        const char* texts; ///< of the keys 256 to 266
+        std::size_t boxes; ///< the firmware is asked for once
+    } cases[] = {
+        {78,
+         "||ADD BALANCE|ADD BALANCE|ADD POINTS|ADD POINTS|ADD POINTS|ADD POINTS|ADD POINTS|ADD POINTS|"
+         "DEL HOTLIST",
+         0},
+        {77, older, 0},
+        {0, older, 1},
+    };
+    for (const auto& [memorySize, expected, boxes] : cases) {
+        Shop shop;
         shop.folder.write("mem.dat", QByteArray(memorySize, 0));
-        shop.import(2, keys);
+        shop.import(2, functionKeys({{256, ""}, {258, ""}, {260, ""}, {266, ""}}));
         QByteArrayList texts;
         for (const QByteArray& line : shop.exported(2).split('\n').mid(255, 11))
-            texts << line.left(12);
-        return texts;
-    };
-    Shop newer;
-    EXPECT_EQ(sent(78, newer), QByteArrayList({"            ", "            ", "ADD BALANCE ", "ADD BALANCE ",
-                                               "ADD POINTS  ", "ADD POINTS  ", "ADD POINTS  ", "ADD POINTS  ",
-                                               "ADD POINTS  ", "ADD POINTS  ", "DEL HOTLIST "}));
-    for (const int memorySize : {77, 0}) {
-        Shop older;
-        EXPECT_EQ(
-            sent(memorySize, older).join('|'),
-            "            |KEY         |            |KEY         |            |KEY         |KEY         |"
-            "KEY         |KEY         |KEY         |            ");
-        EXPECT_EQ(older.boxes.shown.size(), memorySize == 0 ? 1U : 0U) << "the firmware is asked for once";
+            texts << line.left(12).trimmed();
+        EXPECT_EQ(texts.join('|'), expected);
+        EXPECT_EQ(shop.boxes.shown.size(), boxes) << memorySize;
     }
 }
 

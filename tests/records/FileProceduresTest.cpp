@@ -4,7 +4,10 @@
 #include "tests/records/Shop.h"
 
 #include <gtest/gtest.h>
-#include <QProcess>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace norvane::records
 {
@@ -13,11 +16,11 @@ namespace
 
 using norvane::test::failureOf;
 using store::Value;
-using test::pluLine;
+using test::plu;
 using test::Shop;
 using test::text;
 
-TEST(FileProceduresTest, WritesWholeLinesInTheOrderOfTheIndex)
+TEST(FileProceduresTest, WritesOverTheFileOfAnotherSpellingInTheOrderOfTheIndex)
 {
     Shop shop;
     shop.add("GROUPS",
@@ -27,42 +30,60 @@ TEST(FileProceduresTest, WritesWholeLinesInTheOrderOfTheIndex)
                         {"addtogrouptotal", Value::yesNo(true)},
                         {"tax1", Value::yesNo(true)},
                         {"tax3", Value::yesNo(true)}});
-    EXPECT_EQ(shop.exported(1), "Food        ,40,50\r\nWine        ,00,01\r\n");
+    shop.folder.write("1.TXT", QByteArray(100000, 'x'));
+    QByteArray written;
+    shop.converter = [&] {
+        written = shop.folder.read("1.TXT");
+    };
+    EXPECT_EQ(exportRegisterFile(1, shop.context()), 0);
+    EXPECT_EQ(written, "Food        ,40,50\r\nWine        ,00,01\r\n");
+    EXPECT_FALSE(shop.folder.names().contains(QStringLiteral("1.txt")));
     EXPECT_EQ(shop.commands, QStringList(QStringLiteral("convert wVelmaro f1.txt t1.dat d01")));
 }
 
-TEST(FileProceduresTest, ReplacesTheWholeTable)
+/// The points go with the records that hold them, but not before there are others.
+TEST(FileProceduresTest, SetsThePointsOfThePlusThatAreThere)
 {
     Shop shop;
-    shop.import(1, "a,,\r\nb,,\r\nc,,\r\n");
-    shop.import(1, "d,,\r\n");
-    EXPECT_EQ(shop.column("GROUPS", "DESCRIPTION"), "d");
-}
-
-TEST(FileProceduresTest, LeavesThePlusWithoutATextOfTheirPoints)
-{
-    Shop shop;
-    shop.import(67, pluLine());
+    shop.import(67, plu(17) + ",,,,,,,,,,,,00000250\r\n" + plu(18));
+    shop.import(71, plu(18) +
+                        ",0001,0002,0003,0004,0050\r\n"
+                        "18,9,9,9,9,9\r\n"
+                        "\r\n" +
+                        plu(99) + ",0009,0009,0009,0009,0009\r\n" + plu(17) + ",7");
+    QFile::remove(shop.folder.path("71.txt"));
     shop.converter = [] {
     };
     EXPECT_EQ(failureOf([&] { importRegisterFile(71, shop.context()); }), 53);
-    EXPECT_EQ(shop.rows("PLUDATA"), 1);
+    EXPECT_EQ(shop.column("PLUDATA", "PLUNUMBER"), (plu(17) + '|' + plu(18)).toStdString());
+    EXPECT_EQ(shop.column("PLUDATA", "POINT1"), "7|1");
+    EXPECT_EQ(shop.column("PLUDATA", "POINT5"), "0|50");
+    EXPECT_EQ(shop.column("PLUDATA", "PRICE1"), "2.5|0");
+
+    shop.import(67, plu(17));
+    EXPECT_EQ(shop.column("PLUDATA", "POINT1"), "null");
 }
 
-TEST(FileProceduresTest, ConvertsWhatItWroteOverTheFileOfAnotherSpelling)
+TEST(FileProceduresTest, KeepsWhatCameBeforeALineThatItRefuses)
 {
-    Shop shop;
-    shop.import(70, "3 for 2,3,199\r\n");
-    QFile::remove(shop.folder.path("70.txt"));
-    shop.folder.write("70.TXT", QByteArray(100000, 'x'));
-    QByteArray written;
-    shop.converter = [&] {
-        written = shop.folder.read("70.TXT");
-    };
-    EXPECT_EQ(exportRegisterFile(70, shop.context()), 0);
-    EXPECT_EQ(written, "3 for 2     ,03,00000199\r\n");
-    EXPECT_FALSE(shop.folder.names().contains(QStringLiteral("70.txt")));
-    EXPECT_EQ(shop.commands.last(), QStringLiteral("convert wVelmaro f70.txt t70.dat d70"));
+    const struct {
+        QByteArray line;
+        int failure;
+        const char* place;
+    } cases[] = {{plu(18) + ",,,,,,,  ", 13, "67.txt, line 2, column 8: "},
+                 {plu(18) + ",,,,,,,-4", 13, "67.txt, line 2, column 8: "},
+                 {plu(17), 3022, "67.txt, line 2: "}};
+    for (const auto& [line, number, place] : cases) {
+        Shop shop;
+        try {
+            shop.import(67, plu(17) + "\r\n" + line + "\r\n" + plu(19));
+            ADD_FAILURE() << line.toStdString();
+        } catch (const RuntimeFailure& failure) {
+            EXPECT_EQ(failure.number(), number);
+            EXPECT_TRUE(failure.text().startsWith(QLatin1String(place))) << failure.what();
+        }
+        EXPECT_EQ(shop.column("PLUDATA", "PLUNUMBER"), plu(17).toStdString());
+    }
 }
 
 TEST(FileProceduresTest, PassesOverOrFailsOnAnEmptyTable)
@@ -83,43 +104,42 @@ TEST(FileProceduresTest, PassesOverOrFailsOnAnEmptyTable)
     }
 }
 
-TEST(FileProceduresTest, FailsWhenTheTextCannotBeWritten)
+TEST(FileProceduresTest, FailsWhenTheDiskIsFull)
 {
     Shop shop;
     shop.import(1, "Food,40,40\r\n");
     QFile::remove(shop.folder.path("1.txt"));
-    QDir(shop.folder.path()).mkdir(QStringLiteral("1.txt"));
-    EXPECT_EQ(failureOf([&] { exportRegisterFile(1, shop.context()); }), 75);
-    if (QFile::exists(QStringLiteral("/dev/full"))) {
-        QDir(shop.folder.path()).rmdir(QStringLiteral("1.txt"));
-        QFile::link(QStringLiteral("/dev/full"), shop.folder.path("1.txt"));
-        EXPECT_EQ(failureOf([&] { exportRegisterFile(1, shop.context()); }), 61);
-    }
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), shop.folder.path("1.txt")));
+    EXPECT_EQ(failureOf([&] { exportRegisterFile(1, shop.context()); }), 61);
 }
 
 TEST(FileProceduresTest, LeavesTheTableAsItWasWhenTheProgramIsKilled)
 {
     Shop shop;
-    shop.import(67, pluLine() + pluLine({{1, "000000000000000018"}}));
+    shop.import(67, plu(17) + "\r\n" + plu(18));
     QByteArray text;
     for (int number = 0; number < 100000; ++number)
-        text += pluLine({{1, QByteArray::number(number).rightJustified(18, '0')}});
-    shop.folder.write("67.txt", text);
+        text += plu(number) + ",Lager 0.5 l     ,03,0002\r\n";
     const qint64 sizeBefore = QFileInfo(shop.values.databasePath).size();
+    const auto hasGrown = [&] {
+        return QFileInfo(shop.values.databasePath).size() > sizeBefore;
+    };
 
-    QProcess child;
-    child.setProcessChannelMode(QProcess::ForwardedChannels);
-    child.start(QStringLiteral(IMPORT_PROBE), {shop.folder.path()});
-    ASSERT_TRUE(child.waitForStarted());
+    const pid_t child = fork();
+    if (child == 0) {
+        shop.import(67, text);
+        _exit(0);
+    }
     // Records have reached the file itself when it grows.
-    while (child.state() == QProcess::Running && QFileInfo(shop.values.databasePath).size() <= sizeBefore)
-        child.waitForFinished(1);
-    child.kill();
-    child.waitForFinished();
-    ASSERT_EQ(child.exitStatus(), QProcess::CrashExit) << "the import had ended before";
-    EXPECT_GT(QFileInfo(shop.values.databasePath).size(), sizeBefore);
+    int state = 0;
+    while (!hasGrown() && waitpid(child, &state, WNOHANG) == 0)
+        usleep(1000);
+    kill(child, SIGKILL);
+    waitpid(child, &state, 0);
+    ASSERT_TRUE(WIFSIGNALED(state)) << "the import had ended before";
+    EXPECT_TRUE(hasGrown());
 
-    EXPECT_EQ(shop.column("PLUDATA", "PLUNUMBER"), "000000000000000017|000000000000000018");
+    EXPECT_EQ(shop.column("PLUDATA", "PLUNUMBER"), (plu(17) + '|' + plu(18)).toStdString());
 }
 
 } // namespace

@@ -9,7 +9,6 @@
 #include "tests/platform/TestFolder.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <map>
 #include <utility>
 #include <vector>
 
@@ -27,12 +26,7 @@ public:
         values.customerPath = folder.path();
         values.databasePath = folder.path("velmar.mdb");
         store::Database::create(values.databasePath, store::catalogue());
-        setModel(0);
-    }
-
-    void setModel(int ecrModel) const
-    {
-        folder.write("setup.ini", "[SetupOption]\r\nECRModel= " + QByteArray::number(ecrModel) + "\r\n");
+        folder.write("setup.ini", "[SetupOption]\r\nECRModel= 0\r\n");
     }
 
     /// Uploads a file whose conversion leaves @p text.
@@ -102,21 +96,10 @@ public:
     QStringList commands;
 };
 
-/// A line of @p columns with some, counted from 1, replaced.
-inline QByteArray lineWith(QByteArrayList columns, const std::map<int, QByteArray>& replaced)
+/// The number of a PLU as a register sends it.
+inline QByteArray plu(int number)
 {
-    for (const auto& [column, text] : replaced)
-        columns[column - 1] = text;
-    return columns.join(',') + "\r\n";
-}
-
-/// A PLU as a register sends it.
-inline QByteArray pluLine(const std::map<int, QByteArray>& replaced = {})
-{
-    static const QByteArray usual =
-        "000000000000000017,Lager 0.5 l     ,03,0002,0000,0001,0000,45,0000,0001,000000000000000000,0000,"
-        "00000250,01,00000300,02,00000000,03,00000000,04,00000000,05";
-    return lineWith(usual.split(','), replaced);
+    return QByteArray::number(number).rightJustified(18, '0');
 }
 
 inline store::Value text(const char* value)
