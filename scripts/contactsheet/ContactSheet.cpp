@@ -91,7 +91,7 @@ QVector<Shot> shotsOf(int model)
         shop.boxes().shown.clear();
         actionOf(entry).setEnabled(true); // some stand in the menu greyed
         try {
-            QWidget& screen = shop.openScreen(entry.name.data());
+            QWidget& screen = shop.openForm(entry.name.data());
             shots.append({target, captionOf(entry), QString::fromLatin1(modelNames[model]), picture(screen)});
             test::Shop::press(screen, "ExitForm");
         } catch (const RuntimeFailure& failure) {
