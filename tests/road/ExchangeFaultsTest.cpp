@@ -36,6 +36,10 @@ TEST_F(ExchangeFaults, ARegisterThatGoesOffLeavesTheRestTicked)
     m_shop.folder().setFaults("");
     EXPECT_EQ(m_shop.upload({4, 5, 6}), BoxNumbers());
     EXPECT_TRUE(m_shop.boxes().shown.empty());
+
+    m_shop.folder().setFaults("[off]\nTool=VELMARCOMM\nCommand=send\nFile=9\nResult=8\n");
+    EXPECT_EQ(m_shop.download({1, 4, 5, 6}), (BoxNumbers{4, 5, 6}));
+    EXPECT_EQ(m_shop.boxes().shown.size(), 1U);
 }
 
 /// A conversion that fails is not noticed: without any text the table is empty and the program ends with the
