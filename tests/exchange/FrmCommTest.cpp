@@ -46,18 +46,10 @@ protected:
     {
         return form.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage();
     }
-    [[nodiscard]] int tickedBoxes() const
+    void upload()
     {
-        int count = 0;
-        for (int index = 0; index < boxCount; ++index) {
-            count += box(index).isChecked() ? 1 : 0;
-        }
-        return count;
-    }
-    [[nodiscard]] qint64 memoryRows() const
-    {
-        store::Database database(values.databasePath);
-        return database.openTable(QStringLiteral("memoryallocation")).recordCount();
+        values.exchangeMode = QStringLiteral("UPLOAD");
+        press("Communicate");
     }
     /// Puts the modem at the far end of the line and makes it the customer's connection.
     void useModem()
@@ -82,72 +74,47 @@ protected:
 
 TEST_F(FrmCommTest, ShowsItsBoxesInThreeColumnsUnticked)
 {
-    EXPECT_EQ(tickedBoxes(), 0);
-    for (int index = 1; index < boxCount; ++index) {
-        const QPoint here = box(index).mapTo(&form, QPoint());
-        const QPoint before = box(index - 1).mapTo(&form, QPoint());
-        if (index == 13 || index == 26) {
-            EXPECT_GT(here.x(), before.x() + box(index - 1).width()) << index;
-            EXPECT_EQ(here.y(), box(0).mapTo(&form, QPoint()).y()) << index;
-        } else {
-            EXPECT_EQ(here.x(), before.x()) << index;
-            EXPECT_GT(here.y(), before.y()) << index;
-        }
+    const auto top = [this](int index) {
+        return box(index).mapTo(&form, QPoint()).y();
+    };
+    for (int index = 0; index < boxCount; ++index) {
+        EXPECT_EQ(top(index) == top(0), index == 0 || index == 13 || index == 26) << index;
         EXPECT_GE(box(index).width(), box(index).sizeHint().width()) << index;
+        EXPECT_FALSE(box(index).isChecked()) << index;
+        EXPECT_EQ(box(index).accessibleName(), box(index).objectName());
     }
     EXPECT_EQ(box(11).text(), QStringLiteral("Printer Tables && KV Routing"));
     EXPECT_EQ(box(36).text(), QStringLiteral("Smartcard PLU Points"));
-    EXPECT_EQ(box(21).accessibleName(), QStringLiteral("check1_21"));
-    EXPECT_EQ(button("Communicate").text(), QStringLiteral("&OK"));
-    EXPECT_EQ(button("CSCmdBtn1").text(), QStringLiteral("E&xit"));
-    EXPECT_EQ(button("CSCmdBtn2").text(), QStringLiteral("&Select All"));
-    EXPECT_EQ(form.minimumSize(), form.maximumSize());
+    for (const auto& [name, text] :
+         {std::pair("Communicate", "&OK"), {"CSCmdBtn1", "E&xit"}, {"CSCmdBtn2", "&Select All"}})
+        EXPECT_EQ(button(name).text(), QLatin1String(text));
 }
 
-TEST_F(FrmCommTest, MovesAllThatSelectAllTicksAndUnticksIt)
+TEST_F(FrmCommTest, NamesAToolThatIsMissingAndGoesByTheFormerResult)
 {
-    press("CSCmdBtn2");
-    EXPECT_EQ(tickedBoxes(), 37);
-    values.exchangeMode = QStringLiteral("UPLOAD");
-    press("Communicate");
-    EXPECT_EQ(tickedBoxes(), 0);
-    box(23).click();
-    values.exchangeMode = QStringLiteral("DOWNLOAD");
-    press("Communicate");
-    EXPECT_EQ(tickedBoxes(), 0);
-    EXPECT_TRUE(boxes.shown.empty()) << "no note about the serial port devices for a box with two states";
+    box(11).click();
+    upload();
     EXPECT_EQ(status(), QString());
-}
-
-TEST_F(FrmCommTest, NamesAToolThatIsMissing)
-{
-    values.exchangeMode = QStringLiteral("UPLOAD");
-    press("Communicate");
+    const QString kept = joinPath(values.customerPath, QStringLiteral("43.dat"));
+    const QByteArray bytes = readWholeFile(kept);
+    QFile::remove(folder.appFile(QStringLiteral("43.dat")));
     folder.removeTool("VELMARCOMM");
-    press("Communicate");
+    box(11).click();
+    upload();
     EXPECT_EQ(status(), QStringLiteral("The program VELMARCOMM was not found."));
+    EXPECT_EQ(readWholeFile(kept), bytes) << "the only copy stays when nothing came";
+    EXPECT_FALSE(box(11).isChecked());
     EXPECT_TRUE(boxes.shown.empty());
-}
-
-TEST_F(FrmCommTest, LeavesByExitAndByEscape)
-{
-    useModem();
-    press("CSCmdBtn1");
-    EXPECT_FALSE(form.isVisible());
-    EXPECT_EQ(far.received(), QByteArray()) << "no connection type was read yet";
-    form.show();
-    QTest::keyClick(&form, Qt::Key_Escape);
-    EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(FrmCommTest, EndsTheFileInWorkWhenLeftInTheMidst)
 {
     box(2).click();
-    values.exchangeMode = QStringLiteral("UPLOAD");
-    QTimer::singleShot(0, &button("CSCmdBtn1"), &QPushButton::click);
-    press("Communicate");
+    QTimer::singleShot(0, &form, [this] { QTest::keyClick(&form, Qt::Key_Escape); });
+    upload();
     EXPECT_FALSE(form.isVisible());
-    EXPECT_EQ(memoryRows(), 1);
+    EXPECT_EQ(
+        store::Database(values.databasePath).openTable(QStringLiteral("memoryallocation")).recordCount(), 1);
     EXPECT_FALSE(pathExists(joinPath(values.customerPath, QStringLiteral("1.dat"))));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
@@ -155,28 +122,44 @@ TEST_F(FrmCommTest, EndsTheFileInWorkWhenLeftInTheMidst)
 TEST_F(FrmCommTest, DialsExchangesAndHangsUp)
 {
     useModem();
-    far.willAnswer({{"OK"}, {"OK"}, {"CONNECT"}});
-    values.exchangeMode = QStringLiteral("UPLOAD");
-    press("Communicate");
-    EXPECT_EQ(far.received(), QByteArray("AT&F\rATZ1\rATD\r+++ATH\r"));
-    EXPECT_EQ(memoryRows(), 1);
-    EXPECT_TRUE(boxes.shown.empty());
     press("CSCmdBtn1");
-    EXPECT_TRUE(far.received().endsWith("ATH\r+++ATH\r")) << "leaving hangs up in any case";
-}
-
-TEST_F(FrmCommTest, RunsNothingWhenTheModemFails)
-{
-    useModem();
-    values.exchangeMode = QStringLiteral("UPLOAD");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(far.received(), QByteArray()) << "no connection type was read yet";
+    form.show();
     box(2).click();
-    press("Communicate");
-    EXPECT_EQ(boxes.shown, (std::vector{test::ShownBox{QStringLiteral("Modem Failure"),
-                                                       QStringLiteral("Communications Error")}}));
-    EXPECT_EQ(far.received(), QByteArray("AT&F\r+++ATH\r"));
-    EXPECT_FALSE(pathExists(folder.appFile(QStringLiteral("status.out"))));
-    EXPECT_TRUE(box(2).isChecked());
-    EXPECT_TRUE(form.isVisible());
+    const std::deque<PseudoModem::Answer> connects{{"OK"}, {"OK"}, {"CONNECT"}};
+    const QByteArray call = "AT&F\rATZ1\rATD\r+++ATH\r";
+    const struct {
+        const char* name;
+        std::deque<PseudoModem::Answer> answers;
+        QByteArray received;
+        bool moves;
+        int failure; ///< that ends the run
+    } calls[] = {
+        {"no answer", {}, "AT&F\r+++ATH\r", false, 0},
+        {"a call", connects, call, true, 0},
+        {"a failure in the midst", connects, call, false, 13},
+    };
+    QByteArray expected;
+    for (const auto& c : calls) {
+        SCOPED_TRACE(c.name);
+        boxes.shown.clear();
+        box(2).setChecked(true);
+        folder.setFaults(c.failure == 0 ? "" : "[Bad]\nTool=VELMARCOMM\nStatus=garbage\n");
+        far.willAnswer(c.answers);
+        upload();
+        expected += c.received;
+        EXPECT_EQ(far.received(), expected);
+        EXPECT_EQ(box(2).isChecked(), !c.moves);
+        const auto failure = test::takeFailure();
+        EXPECT_EQ(failure ? failure->number() : 0, c.failure);
+        EXPECT_EQ(boxes.shown, std::vector<test::ShownBox>(c.answers.empty() ? 1 : 0,
+                                                           {QStringLiteral("Modem Failure"),
+                                                            QStringLiteral("Communications Error")}));
+        EXPECT_EQ(pathExists(folder.appFile(QStringLiteral("status.out"))), !c.answers.empty());
+    }
+    press("CSCmdBtn1");
+    EXPECT_EQ(far.received(), expected + "+++ATH\r") << "leaving hangs up in any case";
 }
 
 TEST_F(FrmCommTest, HangsUpWhenLeftWhileDialling)
@@ -190,27 +173,13 @@ TEST_F(FrmCommTest, HangsUpWhenLeftWhileDialling)
             press("CSCmdBtn1");
         }
     };
-    values.exchangeMode = QStringLiteral("UPLOAD");
-    press("Communicate");
+    upload();
     EXPECT_EQ(shown, QStringLiteral("Resetting Modem .......AT&F"));
     EXPECT_FALSE(form.isVisible());
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_EQ(far.received(), QByteArray("AT&F\r+++ATH\r"));
     EXPECT_FALSE(pathExists(folder.appFile(QStringLiteral("status.out"))));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-}
-
-TEST_F(FrmCommTest, HangsUpWhenAFailureEndsTheRun)
-{
-    useModem();
-    far.willAnswer({{"OK"}, {"OK"}, {"CONNECT"}});
-    folder.setFaults("[None]\nTool=VELMARCOMM\nStatus=none\n");
-    values.exchangeMode = QStringLiteral("UPLOAD");
-    press("Communicate");
-    const auto failure = test::takeFailure();
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->failure(), Failure::FileNotFound);
-    EXPECT_TRUE(far.received().endsWith("+++ATH\r"));
 }
 
 } // namespace

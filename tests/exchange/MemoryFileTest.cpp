@@ -25,64 +25,53 @@ protected:
         };
         FileMemory(m_shop.values, m_shop.boxes, m_shop.context().runCommand);
     }
-    [[nodiscard]] std::string field(const char* name) const
+    /// Compares the row with fields as "name=value", parted by blanks.
+    void expectFields(const QString& expected) const
     {
-        return m_shop.column("memoryallocation", name);
+        QStringList found;
+        for (const QString& field : expected.split(u' ')) {
+            const QString name = field.section(u'=', 0, 0);
+            found << name + u'=' + QString::fromStdString(m_shop.column("memoryallocation", name.toLatin1()));
+        }
+        EXPECT_EQ(found.join(u' ').toStdString(), expected.toStdString());
     }
-    [[nodiscard]] qint64 rows() const { return m_shop.rows("memoryallocation"); }
 
     records::test::Shop m_shop;
 };
 
-TEST_F(MemoryFileTest, StoresEveryColumnOfTheNewerGeneration)
+TEST_F(MemoryFileTest, StoresEveryColumnOfTheGeneration)
 {
     fileMemory(78, fullLine);
-    EXPECT_EQ(m_shop.commands, QStringList{QStringLiteral("convert wVelmaro fMEM.dat t52.txt u352")});
-    // clang-format off
-    const std::pair<const char*, const char*> fields[] = {
-{"PLU", "500"}, {"PLUSTATUS", "0"}, {"TIME/EMPLOYEE", "12"}, {"TRACK4", "4"}, {"TIMEPERIOD", "24"}, {"LINES/PLU", "6"}, {"LINE/EJ", "40"}, {"LINES/TRANSACTIONS", "99"}, {"PLUBYLEVEL", "True"}, {"GROUPBYEMPLOYEE", "False"}, {"CHECKTRACKSOFT", "False"}, {"PROJECTIONS", "True"}, {"STOREBITMAP", "False"}, {"EATINTIMEPERIOD", "True"}, {"TRACK1TIME", "True"}, {"TRACK3TIME", "True"}, {"TRACK2TIME", "False"}, {"Z3GROUPTIME", "True"}, {"Z4GROUPTIME", "True"}, {"Z5GROUPTIME", "True"}, {"Z2EMPLOYEE", "True"}, {"Z4PLU", "True"}, {"Z5PLU", "False"}, {"Z1GROUP", "True"}, {"Z5TIME", "True"}, {"Z4TIME", "False"}, {"Z5TIMEKEEP", "True"}, {"CLERKINTERRUPT", "True"}, {"Z3MIX", "True"}, {"Z4MIX", "False"}, {"CATEGORY", "16"},
-    };
-    // clang-format on
-    for (const auto& [name, expected] : fields)
-        EXPECT_EQ(field(name), expected) << name;
-    EXPECT_EQ(field("HOTLIST"), "0321");
+    for (const QString& expected :
+         {QStringLiteral("PLU=500 PLUSTATUS=0 TIME/EMPLOYEE=12 TRACK4=4 TIMEPERIOD=24 LINES/PLU=6 LINE/EJ=40 "
+                         "LINES/TRANSACTIONS=99"),
+          QStringLiteral("PLUBYLEVEL=True GROUPBYEMPLOYEE=False CHECKTRACKSOFT=False PROJECTIONS=True "
+                         "STOREBITMAP=False EATINTIMEPERIOD=True TRACK1TIME=True TRACK3TIME=True "
+                         "TRACK2TIME=False CLERKINTERRUPT=True"),
+          QStringLiteral("Z3GROUPTIME=True Z4GROUPTIME=True Z5GROUPTIME=True Z2EMPLOYEE=True Z4PLU=True "
+                         "Z5PLU=False Z1GROUP=True Z5TIME=True Z4TIME=False Z5TIMEKEEP=True"),
+          QStringLiteral("Z3MIX=True Z4MIX=False CATEGORY=16 HOTLIST=0321")})
+        expectFields(expected);
     EXPECT_TRUE(m_shop.boxes.shown.empty());
-}
-
-TEST_F(MemoryFileTest, LeavesTheCardCountsOfTheOlderGenerationUnset)
-{
     fileMemory(77, fullLine);
-    EXPECT_EQ(m_shop.commands, QStringList{QStringLiteral("convert wVelmaro fMEM.dat t52.txt u52")});
-    EXPECT_EQ(field("CATEGORY"), "null");
-    EXPECT_EQ(field("HOTLIST"), "null");
-    EXPECT_EQ(field("Z3MIX"), "True");
+    expectFields(QStringLiteral("Z3MIX=True CATEGORY=null HOTLIST=null"));
+    fileMemory(0, fullLine);
+    expectFields(QStringLiteral("Z3MIX=True CATEGORY=null HOTLIST=null"));
+    ASSERT_EQ(m_shop.boxes.shown.size(), 2U) << "an empty memory file tells no generation";
+    EXPECT_EQ(m_shop.boxes.shown[0].text, QStringLiteral("You must upload the data from the Velmar"));
+    const QString line = QStringLiteral("convert wVelmaro fMEM.dat t52.txt ");
+    EXPECT_EQ(m_shop.commands, (QStringList{line + QLatin1String("u352"), line + QLatin1String("u52"),
+                                            line + QLatin1String("u352")}));
 }
 
-TEST_F(MemoryFileTest, ReplacesTheRowAndTakesShortLines)
+TEST_F(MemoryFileTest, ReplacesTheRowWhateverTheLinesAre)
 {
     fileMemory(78, fullLine);
     fileMemory(78, "1,2\r\n\r\n");
-    EXPECT_EQ(field("PLU"), "0|0") << "an empty line is a record too";
-    EXPECT_EQ(field("Z1PLU"), "False|False");
-    fileMemory(78, "");
-    EXPECT_EQ(rows(), 0);
-}
-
-TEST_F(MemoryFileTest, AsksForAnUploadTwiceWhenTheFileIsEmpty)
-{
-    fileMemory(0, fullLine);
-    EXPECT_EQ(m_shop.commands, QStringList{QStringLiteral("convert wVelmaro fMEM.dat t52.txt u352")});
-    ASSERT_EQ(m_shop.boxes.shown.size(), 2U);
-    EXPECT_EQ(m_shop.boxes.shown[0].text, QStringLiteral("You must upload the data from the Velmar"));
-    EXPECT_EQ(field("CATEGORY"), "null");
-}
-
-TEST_F(MemoryFileTest, FailsOnFlagsThatAreNoNumberAfterEmptyingTheTable)
-{
-    fileMemory(78, fullLine);
+    expectFields(QStringLiteral("PLU=0|0 Z1PLU=False|False")); // an empty line is a record too
     EXPECT_EQ(test::failureOf([this] { fileMemory(78, QByteArray(fullLine).replace(",45,12,", ",4x,12,")); }),
               13);
-    EXPECT_EQ(rows(), 0);
+    EXPECT_EQ(m_shop.rows("memoryallocation"), 0);
 }
 
 } // namespace
