@@ -1,4 +1,4 @@
-// The customer dialog as the user meets it: list, name, messages, and the way out.
+// The customer dialog as the user meets it: list, name, messages.
 #include "shell/FrmCustomer.h"
 
 #include "tests/shell/ShellFixture.h"
@@ -25,9 +25,7 @@ protected:
         m_form->open();
     }
 
-    QListWidget& list() { return *m_form->findChild<QListWidget*>(u"List1"_s); }
-    QLineEdit& name() { return *m_form->findChild<QLineEdit*>(u"text1"_s); }
-    void pressOk() { m_form->findChild<QPushButton*>(u"CSCmdBtn1"_s)->click(); }
+    QLineEdit& name() { return child<QLineEdit>(*m_form, "text1"); }
 
     std::optional<FrmCustomer> m_form;
 };
@@ -35,18 +33,15 @@ protected:
 TEST_F(FrmCustomerTest, AClickOnARowPutsItsNameIntoTheBoxAndOkTakesIt)
 {
     EXPECT_EQ(m_form->windowTitle(), u"Select Customer");
-    ASSERT_EQ(list().count(), 2);
-    EXPECT_TRUE(name().text().isEmpty());
-    const auto clickRow = [this](int row) {
-        QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
-                          list().visualItemRect(list().item(row)).center());
-    };
-    clickRow(1);
-    EXPECT_EQ(name().text(), u"CAFE");
-    name().clear();
-    clickRow(1);
-    EXPECT_EQ(name().text(), u"CAFE") << "the same row again";
-    clickRow(0);
+    auto& list = child<QListWidget>(*m_form, "List1");
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(name().text(), QString());
+    const std::pair<int, QString> clicks[] = {{1, u"CAFE"_s}, {1, u"CAFE"_s}, {0, u"AROMA"_s}};
+    for (const auto& [row, customer] : clicks) {
+        name().clear();
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
+        EXPECT_EQ(name().text(), customer);
+    }
     QTest::keyClick(&name(), Qt::Key_Return);
     EXPECT_EQ(m_form->result(), QDialog::Accepted);
     EXPECT_EQ(m_values.customerName, u"AROMA");
@@ -54,45 +49,35 @@ TEST_F(FrmCustomerTest, AClickOnARowPutsItsNameIntoTheBoxAndOkTakesIt)
     EXPECT_TRUE(m_boxes.shown.empty());
 }
 
-TEST_F(FrmCustomerTest, ANewCustomerIsAnnouncedAfterTheDialogHasGone)
+TEST_F(FrmCustomerTest, AWrongNameIsToldOverTheDialogAndANewOneAfterIt)
 {
-    m_boxes.whileOpen = [this](const test::ShownBox&) {
-        EXPECT_FALSE(m_form->isVisible());
-    };
-    QTest::keyClicks(&name(), u"New"_s);
-    pressOk();
-    EXPECT_EQ(m_boxes.shown, (std::vector<test::ShownBox>{
-                                 {u"Your new database has been created please\rupload program from your cash "
-                                  "register.  \r"_s,
-                                  u"Information "_s, BoxIcon::Information}}));
-    EXPECT_TRUE(QFile::exists(m_folder.path("app/New/velmar.mdb")));
-}
-
-TEST_F(FrmCustomerTest, AWrongNameIsToldAndTheDialogStays)
-{
-    const test::ShownBox invalid{u"Invalid Entry"_s, applicationTitle(), BoxIcon::Critical};
     const test::ShownBox refused{u"Error Creating Directory \rRe run software"_s, u"System Error"_s,
                                  BoxIcon::Critical};
-    for (const auto& [typed, box] :
-         {std::pair{u"   "_s, invalid}, {u"../x"_s, refused}, {u"No/Where"_s, refused}}) {
+    const struct {
+        QString typed;
+        test::ShownBox box;
+        bool stays;
+    } rows[] = {
+        {u"   "_s, {u"Invalid Entry"_s, applicationTitle(), BoxIcon::Critical}, true},
+        {u"../x"_s, refused, true},
+        {u"No/Where"_s, refused, true},
+        {u"New"_s,
+         {u"Your new database has been created please\rupload program from your cash register.  \r"_s,
+          u"Information "_s, BoxIcon::Information},
+         false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.typed.toStdString());
         m_boxes.shown.clear();
-        name().setText(typed);
-        pressOk();
-        EXPECT_EQ(m_boxes.shown, std::vector{box}) << typed.toStdString();
-        EXPECT_TRUE(m_form->isVisible());
+        m_boxes.whileOpen = [this, &row](const test::ShownBox&) {
+            EXPECT_EQ(m_form->isVisible(), row.stays);
+        };
+        name().setText(row.typed);
+        child<QPushButton>(*m_form, "CSCmdBtn1").click();
+        EXPECT_EQ(m_boxes.shown, std::vector{row.box});
+        EXPECT_EQ(m_form->isVisible(), row.stays);
     }
-}
-
-TEST_F(FrmCustomerTest, ClosingAsksAndOnlyYesLeaves)
-{
-    m_boxes.answers = {false, true};
-    m_form->close();
-    EXPECT_TRUE(m_form->isVisible());
-    QTest::keyClick(&*m_form, Qt::Key_Escape);
-    EXPECT_FALSE(m_form->isVisible());
-    EXPECT_EQ(m_form->result(), QDialog::Rejected);
-    const test::ShownBox question{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question};
-    EXPECT_EQ(m_boxes.shown, std::vector({question, question}));
+    EXPECT_TRUE(QFile::exists(m_folder.path("app/New/velmar.mdb")));
 }
 
 } // namespace

@@ -26,6 +26,11 @@ protected:
         m_values.databasePath = m_folder.path("app/Cafe/velmar.mdb");
     }
 
+    template <typename Object>
+    static Object& child(const QObject& parent, const char* name)
+    {
+        return *parent.findChild<Object*>(QLatin1String(name));
+    }
     void makeCustomerDatabase() const { store::Database::create(m_values.databasePath, store::catalogue()); }
     void setModel(const QByteArray& model) const
     {

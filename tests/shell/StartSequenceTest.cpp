@@ -37,7 +37,6 @@ protected:
     /// Runs the start with these clock readings and then acts on the customer dialog.
     bool run(std::deque<double> readings, const std::function<void(QWidget&)>& choose)
     {
-        m_readings = std::move(readings);
         QTimer waitForDialog;
         QObject::connect(&waitForDialog, &QTimer::timeout, [&] {
             if (QWidget* const dialog = shown(u"FrmCustomer"_s)) {
@@ -49,78 +48,69 @@ protected:
             }
         });
         waitForDialog.start(0);
-        return StartSequence(m_values, m_boxes, m_main, [this] { return nextReading(); }).run();
+        const auto clock = [&readings, this] {
+            if (QWidget* const splash = shown(u"frmSplash"_s))
+                lookAt(*splash);
+            const double reading = readings.front();
+            readings.pop_front();
+            return reading;
+        };
+        const bool chosen = StartSequence(m_values, m_boxes, m_main, clock).run();
+        EXPECT_EQ(readings, std::deque<double>{999}) << "exactly four seconds are not yet enough";
+        return chosen;
     }
-    static void take(QWidget& dialog, const QString& name)
+    void lookAt(QWidget& splash)
     {
-        QTest::keyClicks(dialog.findChild<QWidget*>(u"text1"_s), name);
-        dialog.findChild<QPushButton*>(u"CSCmdBtn1"_s)->click();
-    }
-
-    FrmMain m_main{m_values, m_boxes, {}};
-    std::function<void(QWidget&)> m_onSplash = [](QWidget&) {
-    };
-    std::deque<double> m_readings;
-
-private:
-    double nextReading()
-    {
-        if (QWidget* const splash = shown(u"frmSplash"_s))
-            m_onSplash(*splash);
-        const double reading = m_readings.front();
-        m_readings.pop_front();
-        return reading;
-    }
-};
-
-TEST_F(StartSequenceTest, TheSplashStaysALittleOverFourSecondsAndNobodyShortensIt)
-{
-    m_onSplash = [this](QWidget& splash) {
         EXPECT_EQ(m_main.statusBar1().panel(), u"About.....");
         EXPECT_EQ(splash.windowTitle(), u"About Norvane Velmar and Dorvik Utility.");
-        EXPECT_EQ(splash.findChild<QLabel*>(u"lblTitle"_s)->text(), applicationTitle());
-        EXPECT_EQ(splash.findChild<QLabel*>(u"lblVersion"_s)->text(), u"Version " NORVANE_VERSION);
+        EXPECT_EQ(child<QLabel>(splash, "lblTitle").text(), applicationTitle());
+        EXPECT_EQ(child<QLabel>(splash, "lblVersion").text(), u"Version " NORVANE_VERSION);
         QTest::mouseClick(&splash, Qt::LeftButton);
         QTest::keyClick(&splash, Qt::Key_Escape);
         splash.close();
-        EXPECT_TRUE(splash.isVisible());
-    };
-    EXPECT_TRUE(run({100, 102, 104, 104.1, 999}, [](QWidget& dialog) { take(dialog, u"Cafe"_s); }));
-    EXPECT_EQ(m_readings, std::deque<double>{999}) << "exactly four seconds are not yet enough";
-}
+        EXPECT_TRUE(splash.isVisible()) << "nobody shortens it";
+    }
 
-TEST_F(StartSequenceTest, AStartBeforeMidnightWaitsForTheNextDay)
-{
-    EXPECT_TRUE(run({86'398, 86'399, 1, 5, 40'000, 86'397, 86'402.5},
-                    [](QWidget& dialog) { take(dialog, u"Cafe"_s); }));
-    EXPECT_TRUE(m_readings.empty());
-}
+    FrmMain m_main{m_values, m_boxes, {}};
+};
 
-TEST_F(StartSequenceTest, ACustomerTakenGivesDatabaseLateFieldAndReadyWindow)
+TEST_F(StartSequenceTest, ACustomerTakenGivesAnUpgradedDatabaseAndAReadyWindow)
 {
-    store::TableDefinition mix = *store::catalogueTable(u"productmix"_s);
-    mix.fields.removeIf(
-        [](const auto& field) { return field.name.compare(u"unitdescription", Qt::CaseInsensitive) == 0; });
-    store::Database::create(m_folder.path("app/Cafe/velmar.mdb"), {mix});
-    EXPECT_TRUE(run({0, 5}, [](QWidget& dialog) { take(dialog, u"CAFE"_s); }));
+    // As an older version made it.
+    QList<store::TableDefinition> tables;
+    for (const auto& [name, lateFields] :
+         {std::pair{u"productmix"_s, u"unitdescription"_s}, {u"authoritylevel"_s, u"disallow"_s}}) {
+        tables.append(*store::catalogueTable(name));
+        tables.back().fields.removeIf([&late = lateFields](const auto& field) {
+            return field.name.startsWith(late, Qt::CaseInsensitive);
+        });
+    }
+    store::Database::create(m_folder.path("app/Cafe/velmar.mdb"), tables);
+    EXPECT_TRUE(run({100, 102, 104, 104.1, 999}, [](QWidget& dialog) {
+        QTest::keyClicks(&child<QWidget>(dialog, "text1"), u"cAFE"_s);
+        child<QPushButton>(dialog, "CSCmdBtn1").click();
+    }));
+    EXPECT_EQ(m_values.customerPath, m_folder.path("app/Cafe")) << "as it is on disk";
     EXPECT_EQ(m_values.databasePath, m_folder.path("app/Cafe/velmar.mdb"));
-    EXPECT_EQ(store::Database(m_values.databasePath).table(u"productmix"_s).fields.size(),
-              mix.fields.size() + 1);
+    for (const auto& table : tables) {
+        const auto fields = store::Database(m_values.databasePath).table(table.name).fields.size();
+        EXPECT_GT(fields, table.fields.size()) << table.name.toStdString();
+    }
     EXPECT_TRUE(m_main.isVisible());
-    EXPECT_EQ(m_main.statusBar1().statusText(), u"Customer Database CAFE");
+    EXPECT_EQ(m_main.statusBar1().statusText(), u"Customer Database cAFE") << "as typed";
 }
 
-TEST_F(StartSequenceTest, AFolderWithoutADatabaseReachesTheMainWindowAllTheSame)
+TEST_F(StartSequenceTest, ClosingTheCustomerDialogAsksAndOnlyYesEndsTheStart)
 {
-    EXPECT_TRUE(run({0, 5}, [](QWidget& dialog) { take(dialog, u"cafe"_s); }));
-    EXPECT_TRUE(m_main.isVisible());
-    EXPECT_FALSE(QFile::exists(m_values.databasePath));
-}
-
-TEST_F(StartSequenceTest, ClosingTheCustomerDialogEndsTheStart)
-{
-    m_boxes.answers = {true};
-    EXPECT_FALSE(run({0, 5}, [](QWidget& dialog) { dialog.close(); }));
+    m_boxes.answers = {false, true};
+    EXPECT_FALSE(run({0, 4.1, 999}, [](QWidget& dialog) {
+        dialog.close();
+        EXPECT_TRUE(dialog.isVisible());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible());
+    }));
+    EXPECT_EQ(m_boxes.shown,
+              std::vector(2, test::ShownBox{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question}));
     EXPECT_FALSE(m_main.isVisible());
     EXPECT_EQ(m_values.databasePath, QString());
 }
