@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 
 namespace bank::test
@@ -32,53 +33,47 @@ public:
         EXPECT_EQ(run(MAKEBANK, words).exitCode, 0);
     }
 
-    [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
-    [[nodiscard]] QString path(const char* name) const { return path(QString::fromUtf8(name)); }
-    [[nodiscard]] bool has(const QString& name) const { return QFile::exists(path(name)); }
+    [[nodiscard]] QString path(QAnyStringView name) const { return m_folder.filePath(name.toString()); }
+    [[nodiscard]] bool has(QAnyStringView name) const { return QFile::exists(path(name)); }
 
-    template <typename Name>
-    void write(const Name& name, const QByteArray& bytes) const
+    void write(QAnyStringView name, const QByteArray& bytes) const
     {
         QFile file(path(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << file.fileName().toStdString();
         ASSERT_EQ(file.write(bytes), bytes.size());
     }
-    template <typename Name>
-    [[nodiscard]] QByteArray read(const Name& name) const
+    [[nodiscard]] QByteArray read(QAnyStringView name) const
     {
         QFile file(path(name));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
         return file.readAll();
     }
 
-    /// Adds or changes one line of a register's register.ini.
-    void set(int number, const QByteArray& key, const QByteArray& value) const
+    /// Changes one line of a register's register.ini.
+    void set(int number, const char* key, const char* value) const
     {
-        const auto name = QStringLiteral("bank/%1/register.ini").arg(number);
-        auto lines = read(name).split('\n');
-        lines.removeIf([&key](const QByteArray& line) { return line.startsWith(key + '='); });
-        lines.removeAll({});
-        write(name, (lines << key + '=' + value).join('\n') + '\n');
+        QSettings(path(QStringLiteral("bank/%1/register.ini").arg(number)), QSettings::IniFormat)
+            .setValue(QStringLiteral("Register/") + QLatin1String(key), QLatin1String(value));
     }
 
-    Ended run(const char* program, const QString& words) const
+    Ended run(const char* program, QAnyStringView words) const
     {
         QProcess child;
         child.setWorkingDirectory(path("work"));
-        child.start(QString::fromUtf8(program), QProcess::splitCommand(words));
+        child.start(QString::fromUtf8(program), QProcess::splitCommand(words.toString()));
         EXPECT_TRUE(child.waitForFinished(60000));
         return {child.exitCode(), child.exitStatus() == QProcess::CrashExit, child.readAllStandardError()};
     }
 
     /// Runs VELMARCOMM. @return what it left in status.out, "" when it left none
-    QByteArray comm(const QString& words) const
+    QByteArray comm(QAnyStringView words) const
     {
         QFile::remove(path("work/status.out"));
         run(VELMARCOMM_TOOL, words);
-        return has(QStringLiteral("work/status.out")) ? read("work/status.out").trimmed() : QByteArray();
+        return has("work/status.out") ? read("work/status.out").trimmed() : QByteArray();
     }
 
-    Ended convert(const QString& words) const { return run(CONVERT_TOOL, words); }
+    Ended convert(QAnyStringView words) const { return run(CONVERT_TOOL, words); }
 
 private:
     QTemporaryDir m_folder;

@@ -1,4 +1,5 @@
-// What moves between the working directory and the registers, and what is refused on the way.
+// VELMARCOMM: which command lines it takes, what moves between the working directory and the registers, and
+// with which result it refuses others.
 #include "ToolBench.h"
 
 namespace bank::test
@@ -6,170 +7,146 @@ namespace bank::test
 namespace
 {
 
-/// Fetches the groups from register 1 and gives one of them another name.
-QByteArray changedGroups(const ToolBench& bench)
+/// The exchanges of the program send each line that it knows.
+TEST(Transfer, takesOrRefusesLines)
 {
-    EXPECT_EQ(bench.comm(q("s9 c1 N1.DAT -U 1")), "0");
-    EXPECT_EQ(bench.convert(q("wVelmarn f1.DAT t1.txt u01")).exitCode, 0);
-    auto text = bench.read("work/1.txt");
-    bench.write("work/1.txt", text.replace("Hot Drinks  ", "Warm Drinks "));
-    EXPECT_EQ(bench.convert(q("wVelmarn f1.txt t1.dat d01")).exitCode, 0);
-    return bench.read("work/1.DAT");
+    const ToolBench bench(2);
+    bench.comm("s9 c1 N1.DAT -U 1");
+    const auto zeros = q("P0001010100010000000000000000000000000000000000000000000100 -Z");
+    const std::pair<const char*, const char*> cases[] = {
+        // lines of all three kinds
+        {"0", "s9 c1 -U 250; s2 c1 Nmem.DAT -U 52; s4 F1 2T c1 N1.DAT -D 1; s1 F1 1T c1 N1.DAT -D 1; "
+              "1200 Nmem.DAT -U 52; 19200 -U 250; 2400 F1 2T ZEROS; 9600 F1 2T -P 190 191 192 194 218; "
+              "9600 F1 1T -C"},
+        // words that are missing, unknown, in the wrong place or of another kind of line
+        {"1", "; s9; c1 s9 -U 250; s9 N1.DAT -U 1; s9 c1 N1.DAT; s3 c1 -U 250; 4800 -U 250; s9 c5 -U 250; "
+              "s9 C1 -U 250; s9 F2 2T c1 N1.DAT -D 1; s9 F1 0T c1 N1.DAT -D 1; s9 F1 33T c1 N1.DAT -D 1; "
+              "s9 F1 02T c1 N1.DAT -D 1; s9 F1 2 c1 N1.DAT -D 1; s9 F1 2T c1 N1.DAT -U 1; s9 c1 N1.DAT -D 1; "
+              "9600 N1.DAT -U 1; 9600 -C; s9 F1 2T c1 -C; s9 F1 2T c1 ZEROS"},
+        // commands and files that do not exist, and those with the letter of another
+        {"7",
+         "s9 c1 1.DAT -U 1; s9 c1 N1.DAT -U 1 2; 9600 c1 -U 250; s9 c1 -X 250; s9 c1 -u 250; "
+         "s9 c1 N19.DAT -U 19; s9 c1 N99.DAT -U 99; s9 c1 N2.DAT -U 1; s9 c1 N1.dat -U 1; "
+         "s9 c1 Nmem.DAT -D 52; s9 F1 1T c1 N67.DAT -D 67; s9 F1 1T c1 N1.DAT -a; "
+         "9600 F1 2T -P 190 191 192 194; 9600 F1 2T -P 191 190 192 194 218; 9600 F1 2T P000101010001 -Z; "
+         "s9 c1 N1.DAT -u 1; s9 c1 N36.DAT -u 36; s9 c1 N57.DAT -U 57; s9 F1 1T c1 N1.DAT -d 1; "
+         "s9 F1 1T c1 N4.DAT -D 4; s9 F1 1T c1 N65.DAT -D 65; s9 F1 1T c1 N57.DAT -d 57"},
+        // no number where one belongs
+        {"5", "s9 c1 N1.DAT -U one"},
+    };
+    for (const auto& [result, lines] : cases) {
+        for (QString line : q(lines).split(q("; ")))
+            EXPECT_EQ(bench.comm(line.replace(q("ZEROS"), zeros)), result) << line.toStdString();
+    }
 }
 
-TEST(Transfer, sendsToTheRangeAndStopsAtTheFirstRegisterThatIsOff)
+TEST(Transfer, servesTheRegistersOfAPortOneByOne)
 {
     const ToolBench bench(3);
-    const auto sent = changedGroups(bench);
-    bench.set(2, "On", "0");
-    EXPECT_EQ(bench.comm(q("s9 F1 3T c1 N1.DAT -D 1")), "8");
-    EXPECT_EQ(bench.read("bank/1/1.dat"), sent);
-    EXPECT_NE(bench.read("bank/2/1.dat"), sent);
-    EXPECT_NE(bench.read("bank/3/1.dat"), sent);
-    bench.set(2, "On", "1");
-    EXPECT_EQ(bench.comm(q("s9 F1 2T c1 N1.DAT -D 1")), "0");
-    EXPECT_EQ(bench.read("bank/2/1.dat"), sent);
-    EXPECT_NE(bench.read("bank/3/1.dat"), sent);
-}
-
-TEST(Transfer, fetchesFromTheFirstRegisterOfThePort)
-{
-    const ToolBench bench(3);
-    bench.set(1, "Port", "2");
-    EXPECT_EQ(bench.comm(q("s9 c1 N18.DAT -u 18")), "0");
-    EXPECT_EQ(bench.read("work/18.DAT"), bench.read("bank/2/18.dat"));
-    EXPECT_NE(bench.read("work/18.DAT"), bench.read("bank/3/18.dat"));
-    EXPECT_EQ(bench.comm(q("s9 c2 N18.DAT -u 18")), "0");
+    bench.set(3, "Port", "2");
+    EXPECT_EQ(bench.comm("s9 c3 N18.DAT -u 18"), "8");
+    EXPECT_EQ(bench.comm("s9 c1 N18.DAT -u 18"), "0");
     EXPECT_EQ(bench.read("work/18.DAT"), bench.read("bank/1/18.dat"));
-    EXPECT_EQ(bench.comm(q("s9 c3 N18.DAT -u 18")), "8");
-    EXPECT_EQ(bench.comm(q("s9 F1 3T c1 N18.DAT -D 18")), "8") << "only two hang on port 1";
-}
+    EXPECT_EQ(bench.comm("s9 c2 N18.DAT -u 18"), "0");
+    const auto sent = bench.read("work/18.DAT");
+    EXPECT_EQ(sent, bench.read("bank/3/18.dat"));
+    EXPECT_NE(sent, bench.read("bank/1/18.dat"));
 
-TEST(Transfer, replacesAFileWhoseNameDiffersInCaseOnly)
-{
-    const ToolBench bench;
+    bench.set(2, "On", "0");
+    EXPECT_EQ(bench.comm("s9 F1 2T c1 N18.DAT -D 18"), "8");
+    EXPECT_EQ(bench.read("bank/1/18.dat"), sent);
+    bench.set(2, "On", "1");
+    EXPECT_EQ(bench.comm("s9 F1 1T c1 N18.DAT -D 18"), "0");
+    EXPECT_NE(bench.read("bank/2/18.dat"), sent);
+    EXPECT_EQ(bench.comm("s9 F1 3T c1 N18.DAT -D 18"), "8") << "only two hang on port 1";
+    EXPECT_EQ(bench.read("bank/2/18.dat"), sent);
+
     bench.write("work/MEM.dat", "old");
-    EXPECT_EQ(bench.comm(q("9600 Nmem.DAT -U 52")), "0");
-    EXPECT_FALSE(bench.has(q("work/mem.DAT")));
+    EXPECT_EQ(bench.comm("9600 Nmem.DAT -U 52"), "0");
+    EXPECT_FALSE(bench.has("work/mem.DAT"));
     EXPECT_EQ(bench.read("work/MEM.dat"), bench.read("bank/1/52.dat"));
 }
 
 TEST(Transfer, refusesWhatDoesNotFitTheRegister)
 {
     const ToolBench bench;
-    bench.comm(q("s9 c1 N1.DAT -U 1"));
-    const auto good = bench.read("bank/1/1.dat");
+    const auto good = bench.read("bank/1/70.dat");
     auto damaged = good;
     damaged[40] = 'x';
-    auto otherFile = good;
-    otherFile[5] = 2;
-    auto otherModel = good;
-    otherModel[6] = 2;
+    // The register's own offers and one more than it has room for.
+    bench.convert("wVelmarn f../bank/1/70.dat t70.txt u70");
+    const auto text = bench.read("work/70.txt");
+    bench.write("work/70.txt", text + text.left(text.indexOf('\n') + 1));
+    EXPECT_EQ(bench.convert("wVelmarn f70.txt t70.dat d70").exitCode, 0);
 
-    struct Case {
+    const struct {
         const char* name;
         QByteArray bytes;
         const char* result;
-    };
-    const std::vector<Case> cases{
+    } cases[] = {
         {"empty", "", "3"},
-        {"text", "Hot Drinks  ,40,40\r\n", "3"},
-        {"cut", good.chopped(1), "4"},
-        {"longer", good + 'x', "4"},
-        {"damaged", damaged, "11"},
-        {"another file's number", otherFile, "11"},
-        {"another model's word", otherModel, "11"},
+        {"text", text, "3"},
         {"another file", bench.read("bank/1/58.dat"), "3"},
         {"opaque file", bench.read("bank/1/18.dat"), "3"},
+        {"cut", good.chopped(1), "4"},
+        {"longer", good + 'x', "4"},
+        {"a record too many", bench.read("work/70.dat"), "4"},
+        {"damaged", damaged, "11"},
     };
     for (const auto& each : cases) {
-        bench.write("work/1.DAT", each.bytes);
-        EXPECT_EQ(bench.comm(q("s9 F1 1T c1 N1.DAT -D 1")), each.result) << each.name;
-        EXPECT_EQ(bench.read("bank/1/1.dat"), good) << each.name;
+        bench.write("work/70.DAT", each.bytes);
+        EXPECT_EQ(bench.comm("s9 F1 1T c1 N70.DAT -D 70"), each.result) << each.name;
+        EXPECT_EQ(bench.read("bank/1/70.dat"), good) << each.name;
     }
-}
-
-TEST(Transfer, refusesMoreRecordsThanTheRegisterHasRoomFor)
-{
-    const ToolBench bench;
-    bench.comm(q("s9 c1 N70.DAT -u 70"));
-    bench.convert(q("wVelmarn f70.DAT t70.txt u70"));
-    auto text = bench.read("work/70.txt");
-    bench.write("work/70.txt", text + text.left(text.indexOf('\n') + 1));
-    ASSERT_EQ(bench.convert(q("wVelmarn f70.txt t70.dat d70")).exitCode, 0);
-    EXPECT_EQ(bench.comm(q("s9 F1 1T c1 N70.DAT -D 70")), "4");
 }
 
 TEST(Transfer, answersForTheStateOfTheRegister)
 {
-    struct Case {
-        const char* name;
-        void (*prepare)(const ToolBench&);
+    const ToolBench bench;
+    const char* const fetch = "s9 c1 N1.DAT -U 1";
+    const char* const send = "s9 F1 1T c1 N1.DAT -D 1";
+    EXPECT_EQ(bench.comm(send), "2") << "nothing to send";
+    EXPECT_EQ(bench.comm(fetch), "0");
+    const struct {
+        const char* key;
+        const char* value;
+        const char* usual;
         const char* line;
         const char* result;
+    } states[] = {
+        {"On", "0", "1", "s9 c1 -U 250", "8"},
+        {"Busy", "1", "0", fetch, "12"},
+        {"Cards", "0", "1", "s9 c1 N71.DAT -u 71", "3"},
+        {"Model", "Dorvik", "Velmarn", send, "3"},
     };
-    const std::vector<Case> cases{
-        {"off", [](const ToolBench& b) { b.set(1, "On", "0"); }, "s9 c1 -U 250", "8"},
-        {"busy", [](const ToolBench& b) { b.set(1, "Busy", "1"); }, "s9 c1 N1.DAT -U 1", "12"},
-        {"no card functions", [](const ToolBench& b) { b.set(1, "Cards", "0"); }, "s9 c1 N71.DAT -u 71", "3"},
-        {"file lost", [](const ToolBench& b) { QFile::remove(b.path("bank/1/1.dat")); }, "s9 c1 N1.DAT -U 1",
-         "2"},
-        {"nothing to send", [](const ToolBench&) {}, "s9 F1 1T c1 N1.DAT -D 1", "2"},
-        {"another model",
-         [](const ToolBench& b) {
-             b.comm(q("s9 c1 N1.DAT -U 1"));
-             b.set(1, "Model", "Dorvik");
-         },
-         "s9 F1 1T c1 N1.DAT -D 1", "3"},
-        {"no bank", [](const ToolBench& b) { QFile::remove(b.path("work/registers.ini")); }, "s9 c1 -U 250",
-         "8"},
-    };
-    for (const auto& each : cases) {
-        const ToolBench bench;
-        each.prepare(bench);
-        EXPECT_EQ(bench.comm(q(each.line)), each.result) << each.name;
+    for (const auto& state : states) {
+        bench.set(1, state.key, state.value);
+        EXPECT_EQ(bench.comm(state.line), state.result) << state.key;
+        bench.set(1, state.key, state.usual);
     }
-    const ToolBench bench;
-    bench.set(1, "On", "0");
-    const auto ended = bench.run(VELMARCOMM_TOOL, q("s9 c1 -U 250"));
-    EXPECT_EQ(ended.exitCode, 1);
-    EXPECT_TRUE(ended.errors.contains("register 1 does not answer")) << ended.errors.toStdString();
+    QFile::remove(bench.path("bank/1/1.dat"));
+    EXPECT_EQ(bench.comm(fetch), "2") << "the register lost its file";
+    QFile::remove(bench.path("work/registers.ini"));
+    EXPECT_EQ(bench.comm("s9 c1 -U 250"), "8") << "no bank";
 }
 
 /// Results, ranges and lost states are used by the tests of the exchanges.
 TEST(Faults, comeWhereTheFaultFileSays)
 {
-    const struct {
-        const char* name;
-        const char* ini;
-        QList<QByteArray> results; ///< of the same line again and again; "" for no status.out
-    } faults[] = {
-        {"by kind", "Command=send\nResult=9", {"0"}},
-        {"by another file", "Command=fetch\nFile=2\nResult=6", {"0"}},
-        {"the second time", "File=1\nNth=2\nResult=10", {"0", "10", "0"}},
-        {"of another tool", "Tool=convert\nResult=1", {"0"}},
-        {"crash", "Crash=1", {""}},
-        {"negative", "Command=fetch\nResult=-14", {"-14"}},
-        {"pause", "Hang=1", {"0"}},
-    };
-    for (const auto& fault : faults) {
-        const ToolBench bench;
-        bench.write("bank/faults.ini", QByteArray("[Fault]\n") + fault.ini + '\n');
-        for (const auto& result : fault.results)
-            EXPECT_EQ(bench.comm(q("s9 c1 N1.DAT -U 1")), result) << fault.name;
-    }
-}
-
-TEST(Faults, cutWhatIsFetchedAndCrashAConversion)
-{
     const ToolBench bench;
-    bench.comm(q("s9 c1 N1.DAT -U 1"));
-    bench.write("work/1.txt", "as it was");
-    bench.write("bank/faults.ini", "[A]\nCommand=fetch\nFile=52\nBytesLeft=0\n"
-                                   "[B]\nTool=convert\nFile=1\nCrash=1\n");
-    EXPECT_EQ(bench.comm(q("s9 c1 Nmem.DAT -U 52")), "0");
+    bench.write("bank/faults.ini", "[OtherCommand]\nCommand=send\nResult=9\n"
+                                   "[OtherFile]\nCommand=fetch\nFile=2\nResult=6\n"
+                                   "[SecondTime]\nTool=VELMARCOMM\nFile=1\nNth=2\nResult=-14\n"
+                                   "[Crash]\nFile=58\nCrash=1\n"
+                                   "[Cut]\nCommand=fetch\nFile=52\nBytesLeft=0\n"
+                                   "[OtherTool]\nTool=convert\nFile=1\nCrash=1\n");
+    for (const char* const result : {"0", "-14", "0"})
+        EXPECT_EQ(bench.comm("s9 c1 N1.DAT -U 1"), result);
+    EXPECT_EQ(bench.comm("s9 c1 N58.DAT -u 58"), "") << "a tool that crashed leaves no result";
+    EXPECT_EQ(bench.comm("s9 c1 Nmem.DAT -U 52"), "0");
     EXPECT_EQ(bench.read("work/mem.DAT"), "");
-    EXPECT_TRUE(bench.convert(q("wVelmarn f1.dat t1.txt u01")).crashed);
+    bench.write("work/1.txt", "as it was");
+    EXPECT_TRUE(bench.convert("wVelmarn f1.dat t1.txt u01").crashed);
     EXPECT_EQ(bench.read("work/1.txt"), "as it was");
 }
 
