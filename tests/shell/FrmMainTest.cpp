@@ -62,7 +62,6 @@ protected:
             names.append(child->widget() ? child->widget()->objectName() : u"(empty frame)"_s);
         return names;
     }
-    QString panel() { return m_main->statusBar1().panel(); }
 
     FrmMain::Openers m_openers;
     QString m_opened; ///< the last entry and what it opened
@@ -104,38 +103,41 @@ TEST_F(FrmMainTest, SetupAndAboutStandOnceInTheMiddleAndSpeakInTheStatusBar)
 {
     choose("DataSetup");
     choose("DataSetup");
-    EXPECT_EQ(panel(), u"Setup.....");
+    EXPECT_EQ(m_main->statusBar1().panel(), u"Setup.....");
     QMdiSubWindow* const setup = m_main->findChild<QMdiArea*>()->subWindowList().first();
     EXPECT_EQ(setup->pos(),
               QPoint((m_main->width() - setup->width()) / 2, (m_main->height() - setup->height()) / 2));
     choose("About");
-    EXPECT_EQ(panel(), u"About.....");
+    EXPECT_EQ(m_main->statusBar1().panel(), u"About.....");
     EXPECT_EQ(childWindows(), (QStringList{u"FrmSetup"_s, u"frmAbout"_s}));
     const auto& about = child<QWidget>(*m_main, "frmAbout");
     EXPECT_EQ(child<QLabel>(about, "lblDescription").text(), u"Norvane Dorvik Programming Utility");
     child<QPushButton>(about, "cmdSysInfo").click();
     EXPECT_EQ(m_boxes.shown.back().text, u"System Information Is Unavailable At This Time");
     child<QPushButton>(about, "cmdOK").click();
-    EXPECT_EQ(panel(), u"Ready.....");
+    EXPECT_EQ(m_main->statusBar1().panel(), u"Ready.....");
     setup->close();
     EXPECT_TRUE(QTest::qWaitFor([this] { return childWindows().isEmpty(); }));
 }
 
 TEST_F(FrmMainTest, AChangeOfCustomerKeepsTheDatabaseAndEveryWayOutAsksOnce)
 {
-    m_folder.write("app/Aroma/setup.ini", "");
     const QString database = m_values.databasePath;
     QTimer::singleShot(0, [] {
         QWidget* const dialog = QApplication::activeModalWidget();
         ASSERT_TRUE(dialog);
-        QTest::keyClicks(&child<QWidget>(*dialog, "text1"), u"AROMA"_s);
+        QTest::keyClicks(&child<QWidget>(*dialog, "text1"), u"New"_s);
         child<QPushButton>(*dialog, "CSCmdBtn1").click();
     });
+    m_boxes.whileOpen = [](const test::ShownBox&) {
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "the dialog has gone";
+    };
     choose("ChangeCustomer");
-    EXPECT_EQ(m_main->statusBar1().statusText(), u"Customer Database AROMA");
-    EXPECT_EQ(m_values.customerPath, m_folder.path("app/Aroma"));
+    EXPECT_EQ(m_main->statusBar1().statusText(), u"Customer Database New");
+    EXPECT_EQ(m_values.customerPath, m_folder.path("app/New"));
     EXPECT_EQ(m_values.databasePath, database);
 
+    m_boxes.whileOpen = {};
     QSignalSpy ended(&*m_main, &FrmMain::unloaded);
     choose("DataSetup");
     m_boxes.answers = {false, false, true};
@@ -148,8 +150,11 @@ TEST_F(FrmMainTest, AChangeOfCustomerKeepsTheDatabaseAndEveryWayOutAsksOnce)
     choose("ChangeCustomer");
     EXPECT_FALSE(m_main->isVisible());
     EXPECT_EQ(ended.size(), 1);
+    const test::ShownBox made{
+        u"Your new database has been created please\rupload program from your cash register.  \r"_s,
+        u"Information "_s, BoxIcon::Information};
     const test::ShownBox question{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question};
-    EXPECT_EQ(m_boxes.shown, std::vector(3, question));
+    EXPECT_EQ(m_boxes.shown, (std::vector{made, question, question, question}));
 }
 
 } // namespace

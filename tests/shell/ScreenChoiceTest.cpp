@@ -2,7 +2,6 @@
 #include "shell/ScreenChoice.h"
 
 #include "platform/FilePaths.h"
-#include "store/Recordset.h"
 #include "tests/shell/ShellFixture.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -93,13 +92,7 @@ TEST_F(ScreenChoiceTest, CardEntriesAskFirmwareAndTable)
         EXPECT_EQ(shown, row.shown) << row.memoryLength << row.entry.data();
     }
     EXPECT_EQ(m_boxes.shown.back().title, u"Data Error");
-    {
-        store::Database database(m_values.databasePath);
-        store::Recordset cards = database.openTable(u"hotlist"_s);
-        cards.addNew();
-        cards.setValue(0, store::Value::text(u"1"_s));
-        cards.update();
-    }
+    store::Database(m_values.databasePath).execute(u"insert into hotlist (id) values (1)"_s);
     EXPECT_TRUE(opens("Hotlist"_L1));
 }
 

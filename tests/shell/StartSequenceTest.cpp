@@ -1,4 +1,5 @@
-// The start with a clock of the test's own: how long the splash stays, what the choice of a customer sets.
+// The start with a clock of the test's own: how long the splash stays, the customer dialog as the user meets
+// it there, what the choice sets.
 #include "shell/StartSequence.h"
 
 #include "shell/FrmMain.h"
@@ -7,6 +8,8 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -86,10 +89,24 @@ TEST_F(StartSequenceTest, ACustomerTakenGivesAnUpgradedDatabaseAndAReadyWindow)
         });
     }
     store::Database::create(m_folder.path("app/Cafe/velmar.mdb"), tables);
+    m_folder.write("app/Aroma/setup.ini", "");
     EXPECT_TRUE(run({100, 102, 104, 104.1, 999}, [](QWidget& dialog) {
-        QTest::keyClicks(&child<QWidget>(dialog, "text1"), u"cAFE"_s);
-        child<QPushButton>(dialog, "CSCmdBtn1").click();
+        EXPECT_EQ(dialog.windowTitle(), u"Select Customer");
+        auto& list = child<QListWidget>(dialog, "List1");
+        auto& name = child<QLineEdit>(dialog, "text1");
+        EXPECT_EQ(list.count(), 2);
+        EXPECT_EQ(name.text(), QString());
+        const std::pair<int, QString> clicks[] = {{1, u"CAFE"_s}, {1, u"CAFE"_s}, {0, u"AROMA"_s}};
+        for (const auto& [row, customer] : clicks) {
+            name.clear();
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                              list.visualItemRect(list.item(row)).center());
+            EXPECT_EQ(name.text(), customer);
+        }
+        name.setText(u"cAFE"_s);
+        QTest::keyClick(&name, Qt::Key_Return);
     }));
+    EXPECT_TRUE(m_boxes.shown.empty());
     EXPECT_EQ(m_values.customerPath, m_folder.path("app/Cafe")) << "as it is on disk";
     EXPECT_EQ(m_values.databasePath, m_folder.path("app/Cafe/velmar.mdb"));
     for (const auto& table : tables) {
@@ -100,17 +117,29 @@ TEST_F(StartSequenceTest, ACustomerTakenGivesAnUpgradedDatabaseAndAReadyWindow)
     EXPECT_EQ(m_main.statusBar1().statusText(), u"Customer Database cAFE") << "as typed";
 }
 
-TEST_F(StartSequenceTest, ClosingTheCustomerDialogAsksAndOnlyYesEndsTheStart)
+TEST_F(StartSequenceTest, AWrongNameIsToldAndOnlyYesEndsTheStart)
 {
+    const test::ShownBox refused{u"Error Creating Directory \rRe run software"_s, u"System Error"_s,
+                                 BoxIcon::Critical};
+    const test::ShownBox question{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question};
     m_boxes.answers = {false, true};
     EXPECT_FALSE(run({0, 4.1, 999}, [](QWidget& dialog) {
+        for (const QString& typed : {u"   "_s, u"../x"_s, u"No/Where"_s}) {
+            child<QLineEdit>(dialog, "text1").setText(typed);
+            child<QPushButton>(dialog, "CSCmdBtn1").click();
+            EXPECT_TRUE(dialog.isVisible()) << typed.toStdString();
+        }
         dialog.close();
         EXPECT_TRUE(dialog.isVisible());
         QTest::keyClick(&dialog, Qt::Key_Escape);
         EXPECT_FALSE(dialog.isVisible());
     }));
     EXPECT_EQ(m_boxes.shown,
-              std::vector(2, test::ShownBox{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question}));
+              (std::vector<test::ShownBox>{{u"Invalid Entry"_s, applicationTitle(), BoxIcon::Critical},
+                                           refused,
+                                           refused,
+                                           question,
+                                           question}));
     EXPECT_FALSE(m_main.isVisible());
     EXPECT_EQ(m_values.databasePath, QString());
 }
