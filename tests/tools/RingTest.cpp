@@ -27,8 +27,7 @@ QByteArray journal(const ToolBench& bench, const QString& options)
 /// What a register calls the lines of a report.
 QByteArrayList namesOf(const ToolBench& bench, int file)
 {
-    EXPECT_EQ(bench.comm(q("s9 c1 N%1.DAT -U %1").arg(file)), "0");
-    EXPECT_EQ(bench.convert(q("wVelmarn f%1.DAT tnames.txt u%1").arg(file)).exitCode, 0);
+    EXPECT_EQ(bench.convert(q("wVelmarn f../bank/1/%1.dat tnames.txt u%1").arg(file)).exitCode, 0);
     QByteArrayList names;
     for (const auto& line : bench.read("work/names.txt").split('\n'))
         names += line.trimmed();
