@@ -97,7 +97,7 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndGoesByTheFormerResult)
     EXPECT_EQ(status(), QString());
     const QString kept = joinPath(values.customerPath, QStringLiteral("43.dat"));
     const QByteArray bytes = readWholeFile(kept);
-    QFile::remove(folder.appFile(QStringLiteral("43.dat")));
+    EXPECT_TRUE(QFile::remove(existingPath(folder.appFile(QStringLiteral("43.dat")))));
     folder.removeTool("VELMARCOMM");
     box(11).click();
     upload();
