@@ -1,7 +1,6 @@
-// What the transfer tool and the modem are told by a customer's settings file, and how results read.
+// What the transfer tool and the modem are told by a customer's settings file.
 #include "link/CommandLines.h"
 
-#include "link/ResultCodes.h"
 #include "tests/platform/TestFolder.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -60,18 +59,6 @@ TEST(LinkSettings, TakesDefaultsAndKeepsEmptyTexts)
         EXPECT_EQ(link.modemDelay, delay);
     }
     EXPECT_EQ(test::failureOf([] { (void)settingsFrom("ModemDelay=32768\r\n"); }), 6);
-}
-
-TEST(ResultCodes, HaveTheirOwnWordsOrShowTheDialResult)
-{
-    EXPECT_EQ(resultText(1, 0), u"1. Bad Agrument Entry"_s);
-    EXPECT_EQ(resultText(13, 0), resultText(14, 0));
-    EXPECT_EQ(resultText(100, 0), u"Modem Failure"_s);
-    EXPECT_EQ(resultText(101, 0).count(u'\r'), 3);
-    EXPECT_EQ(resultText(-13, 0), u"Error 0 Sorry Error Unknown"_s);
-    EXPECT_EQ(resultText(0, modemFailed), u"Error 100 Sorry Error Unknown"_s);
-    EXPECT_EQ(resultNumber(u" -14 "_s), -14);
-    EXPECT_EQ(test::failureOf([] { (void)resultNumber(u"PK\x03"_s); }), 13);
 }
 
 } // namespace

@@ -33,20 +33,5 @@ TEST(MakeBank, makesTheSameRegistersAndKeepsThemUnlessAskedForFreshOnes)
     EXPECT_FALSE(bench.has("work/new"));
 }
 
-TEST(MakeBank, fillsAsManyPlusAsAskedFor)
-{
-    for (const int plus : {5, 2000}) {
-        const ToolBench bench(1, 3, q("--plus %1").arg(plus));
-        for (const int file : {67, 71}) {
-            EXPECT_EQ(bench.convert(q("wDorvik f../bank/1/%1.dat tout.txt u%1").arg(file)).errors, "");
-            QStringList numbers;
-            for (const auto& line : bench.read("work/out.txt").trimmed().split('\n'))
-                numbers << QString::fromLatin1(line.left(18));
-            EXPECT_EQ(numbers.size(), plus);
-            EXPECT_EQ(numbers.removeDuplicates(), 0) << "every PLU has a number of its own";
-        }
-    }
-}
-
 } // namespace
 } // namespace bank::test

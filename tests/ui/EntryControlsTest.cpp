@@ -136,19 +136,6 @@ TEST(TextBox, RefusesWhatTheFieldCannotHold)
     }
 }
 
-TEST(TextBox, AStoredTextThatCouldNotBeTypedCanBeMended)
-{
-    TextBox box;
-    box.setLimit(4);
-    box.setCharacters(TextBox::Characters::Hexadecimal);
-    box.showText(u"0G  "_s);
-    QTest::keyClick(&box, Qt::Key_End);
-    QTest::keyClick(&box, Qt::Key_Backspace);
-    QTest::keyClick(&box, Qt::Key_Home);
-    QTest::keyClicks(&box, u"xAz"_s);
-    EXPECT_EQ(box.text(), u"A0G "_s) << "no blank is pushed out for what is refused";
-}
-
 TEST(ValueList, TheValueSelectsItsRowAndStaysAsItWasGiven)
 {
     ValueList list;
