@@ -47,6 +47,7 @@ protected:
                 writeWholeFile(joinPath(bankPath(totals), QLatin1String(name)), text);
         }
         form.show();
+        EXPECT_FALSE(form.isModal()) << "the menus stay usable";
     }
     void TearDown() override { EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr); }
 

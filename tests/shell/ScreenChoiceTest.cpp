@@ -29,6 +29,9 @@ TEST_F(ScreenChoiceTest, TheModelOfTheMomentChoosesTheFile)
         {"PLUMENU"_L1, "\\PLUVelmarv2.scn \\PLUVelmarv2card.scn \\PLUVelmarv3.scn \\PLU.scn"},
         {"PLUStatusMenu"_L1,
          "\\PLUstatVelmarv2.scn \\PLUstatVelmarvcard.scn \\PLUstatVelmarv3.scn \\PLUstat.scn"},
+        {"EmployeeMenu"_L1,
+         "\\employeeVelmarv2.scn \\employeeVelmarv2.scn \\employeeVelmarv3.scn \\employee.scn"},
+        {"EJPrint"_L1, "\\EJPRTv2.scn \\EJPRTv2.scn \\EJPRTv3.scn \\EJPRT.scn"},
         {"KeyboardLocation"_L1, "KeyLayoutVelmar KeyLayoutVelmar KeyLayoutVelmar KeyLayoutDorvik"},
         {"GroupMenu"_L1, "\\Group.scn \\Group.scn \\Group.scn \\Group.scn"},
     };
