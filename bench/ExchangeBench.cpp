@@ -1,8 +1,8 @@
 // Select All up and Select All down on a full register, with the real tools: what of the time is the
 // program's own, and which register files it goes to.
+#include "base/SharedRoutines.h"
 #include "bench/Ratio.h"
 #include "exchange/ExchangeRunner.h"
-#include "shell/SharedRoutines.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 #include "tests/support/ProgramFolder.h"

@@ -1,6 +1,7 @@
 // The upload and download sequences over their plans.
 #include "exchange/ExchangeRunner.h"
 
+#include "base/CustomerSettings.h"
 #include "exchange/MemoryFile.h"
 #include "exchange/MoveDataFile.h"
 #include "link/CommandLines.h"
@@ -8,7 +9,6 @@
 #include "platform/ChildProcess.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
-#include "shell/CustomerSettings.h"
 
 #include <QFileInfo>
 

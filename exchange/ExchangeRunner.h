@@ -2,12 +2,12 @@
 // that is not 0.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangePlan.h"
 #include "link/LinkSettings.h"
 #include "link/RunOutside.h"
 #include "records/FileProcedures.h"
-#include "shell/ApplicationValues.h"
 
 #include <span>
 

@@ -1,9 +1,9 @@
 // The columns of the memory allocation text and their fields, and the procedure that stores them.
 #include "exchange/MemoryFile.h"
 
+#include "base/SharedRoutines.h"
 #include "platform/FilePaths.h"
 #include "records/RecordText.h"
-#include "shell/SharedRoutines.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 

@@ -1,8 +1,8 @@
 // The memory allocation file of the register last spoken to, register file 52.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "shell/ApplicationValues.h"
 
 #include <QString>
 

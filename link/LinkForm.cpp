@@ -1,7 +1,7 @@
 // The run, the leaving and the status bar of the forms that speak with the registers; see LinkForm.h.
 #include "link/LinkForm.h"
 
-#include "shell/SharedRoutines.h"
+#include "base/SharedRoutines.h"
 #include "ui/Appearance.h"
 
 #include <QHBoxLayout>

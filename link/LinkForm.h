@@ -2,12 +2,12 @@
 // the modem around a run.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "link/Clock.h"
 #include "link/LinkSettings.h"
 #include "link/Modem.h"
 #include "link/RunOutside.h"
 #include "platform/SerialLine.h"
-#include "shell/ApplicationValues.h"
 #include "ui/WaitPointer.h"
 
 #include <QDialog>

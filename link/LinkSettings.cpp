@@ -1,9 +1,9 @@
 // The keys, defaults and treatments of the link values as one table.
 #include "link/LinkSettings.h"
 
+#include "base/CustomerSettings.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
-#include "shell/CustomerSettings.h"
 
 #include <limits>
 

@@ -2,7 +2,7 @@
 // them.
 #pragma once
 
-#include "shell/ApplicationValues.h"
+#include "base/ApplicationValues.h"
 
 #include <QString>
 

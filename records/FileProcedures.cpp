@@ -1,13 +1,13 @@
 // The one upload and the one download of all register files; see FileProcedures.h.
 #include "records/FileProcedures.h"
 
+#include "base/CustomerSettings.h"
+#include "base/SharedRoutines.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "records/RecordReader.h"
 #include "records/RecordWriter.h"
 #include "records/RegisterFiles.h"
-#include "shell/CustomerSettings.h"
-#include "shell/SharedRoutines.h"
 #include "store/Database.h"
 
 #include <QFile>

@@ -2,9 +2,9 @@
 // the text into the table, Write... makes it from the table.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 #include "records/RecordText.h"
-#include "shell/ApplicationValues.h"
 
 #include <QString>
 

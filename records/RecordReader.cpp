@@ -2,11 +2,11 @@
 // through here, so the usual column is converted without a detour.
 #include "records/RecordReader.h"
 
+#include "base/SharedRoutines.h"
 #include "platform/Decimal.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/TextFields.h"
 #include "records/RecordText.h"
-#include "shell/SharedRoutines.h"
 
 #include <algorithm>
 #include <charconv>

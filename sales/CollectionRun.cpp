@@ -1,11 +1,11 @@
 // The steps of a collection as a table, and the run over them; see CollectionRun.h.
 #include "sales/CollectionRun.h"
 
+#include "base/SharedRoutines.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
 #include "platform/ChildProcess.h"
 #include "sales/PollImport.h"
-#include "shell/SharedRoutines.h"
 
 #include <QDate>
 #include <QScopeGuard>

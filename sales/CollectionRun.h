@@ -1,9 +1,9 @@
 // The collection of a day's sales from all registers, in the order that protects them.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "link/LinkSettings.h"
 #include "link/RunOutside.h"
-#include "shell/ApplicationValues.h"
 
 #include <QString>
 

@@ -1,13 +1,13 @@
 // The five readers as one table, and the engine that reads by it; see PollImport.h.
 #include "sales/PollImport.h"
 
+#include "base/SharedRoutines.h"
 #include "platform/Decimal.h"
 #include "platform/FilePaths.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
 #include "records/RecordText.h"
 #include "sales/PollText.h"
-#include "shell/SharedRoutines.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 

@@ -1,7 +1,7 @@
 // From the text of a collected report to the rows of a sales table.
 #pragma once
 
-#include "shell/ApplicationValues.h"
+#include "base/ApplicationValues.h"
 
 #include <QDate>
 

@@ -1,6 +1,7 @@
 // Makes, places and reads the controls of a screen; see FieldPanel.h.
 #include "screens/FieldPanel.h"
 
+#include "paper/Length.h"
 #include "platform/Numbers.h"
 #include "screens/ComboRows.h"
 #include "screens/ControlContents.h"
@@ -28,7 +29,7 @@ constexpr double marginBelow = 10; ///< twips between the lowest "Y" and the end
 
 int pixels(double twips)
 {
-    return qRound(twips / twipsPerPixel);
+    return paper::screenPixels(paper::twips(twips));
 }
 
 /// How controls of a kind are called and what they are before the file says otherwise.

@@ -1,7 +1,7 @@
 // The find dialog of a screen.
 #pragma once
 
-#include "shell/ApplicationValues.h"
+#include "base/ApplicationValues.h"
 
 #include <QDialog>
 

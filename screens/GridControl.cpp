@@ -1,6 +1,7 @@
 // See GridControl.h.
 #include "screens/GridControl.h"
 
+#include "paper/Length.h"
 #include "screens/GridModel.h"
 #include "ui/TextBox.h"
 
@@ -54,7 +55,7 @@ void GridControl::showQuery(const std::shared_ptr<store::Database>& database,
     for (int column = 0; column < definition.gridColumns.size(); ++column) {
         const GridColumn& told = definition.gridColumns[column];
         if (told.width)
-            setColumnWidth(column, qRound(*told.width / twipsPerPixel));
+            setColumnWidth(column, paper::screenPixels(paper::twips(*told.width)));
         setColumnHidden(column, !told.visible);
     }
 }

@@ -1,6 +1,7 @@
 // The record editor's window, buttons and messages; see OptionForm.h.
 #include "screens/OptionForm.h"
 
+#include "paper/Length.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "screens/FieldPanel.h"
@@ -108,9 +109,8 @@ void OptionForm::buildWindow()
 {
     const ScreenWindow window = m_file.window();
     setWindowTitle(window.name.isEmpty() ? designedCaption() : window.name);
-    m_size = QSizeF(window.width.value_or(designedWidth) / twipsPerPixel,
-                    window.height.value_or(designedHeight) / twipsPerPixel)
-                 .toSize();
+    m_size = QSize(paper::screenPixels(paper::twips(window.width.value_or(designedWidth))),
+                   paper::screenPixels(paper::twips(window.height.value_or(designedHeight))));
 }
 
 void OptionForm::buildControls()

@@ -1,10 +1,10 @@
 // The one record editor behind all screens that are described by screen files.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 #include "screens/ReportRunner.h"
 #include "screens/ScreenReader.h"
-#include "shell/ApplicationValues.h"
 #include "store/Database.h"
 
 #include <QWidget>

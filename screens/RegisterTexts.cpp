@@ -1,7 +1,7 @@
 // Table of the texts with rules of their own; see RegisterTexts.h.
 #include "screens/RegisterTexts.h"
 
-#include "shell/CustomerSettings.h"
+#include "base/CustomerSettings.h"
 
 #include <algorithm>
 

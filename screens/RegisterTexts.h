@@ -1,8 +1,8 @@
 // What registers ask of a text beyond what a screen file can say.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "screens/ScreenDefinition.h"
-#include "shell/ApplicationValues.h"
 
 namespace norvane::screens
 {

@@ -12,9 +12,6 @@
 namespace norvane::screens
 {
 
-/// Screen files measure in twips, 15 to the pixel.
-inline constexpr double twipsPerPixel = 15;
-
 /// Section "Database".
 struct ScreenTable {
     QString table;       ///< empty when the file does not say it

@@ -1,7 +1,7 @@
 // Customers are folders beside the program: which there are, how one is taken and how a new one is made.
 #pragma once
 
-#include "shell/ApplicationValues.h"
+#include "base/ApplicationValues.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 // The customer dialog: take an existing customer or make a new one.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "shell/ApplicationValues.h"
 
 #include <QDialog>
 

@@ -1,6 +1,7 @@
 // Menu handlers and child windows; see FrmMain.h.
 #include "shell/FrmMain.h"
 
+#include "paper/Length.h"
 #include "platform/FilePaths.h"
 #include "shell/MainStatusBar.h"
 #include "shell/NotYetBuilt.h"
@@ -24,18 +25,19 @@ namespace norvane::shell
 namespace
 {
 
-constexpr int twipsPerPixel = 15;
 /// What the window leaves free of the screen.
-constexpr int spareWidthTwips = 4;
-constexpr int spareHeightTwips = 450;
+constexpr double spareWidthTwips = 4;
+constexpr double spareHeightTwips = 450;
 
 /// The shared forms have one size, and one way out beside their own buttons.
 constexpr Qt::WindowFlags sharedFormFlags = Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 
-int pixelsLess(int pixels, int spareTwips)
+/// Whole pixels only: a begun one stays free.
+int pixelsLess(int pixels, double spareTwips)
 {
-    return (pixels * twipsPerPixel - spareTwips) / twipsPerPixel;
+    const paper::Length left = paper::dots(pixels, paper::screenDotsPerInch) - paper::twips(spareTwips);
+    return static_cast<int>(left.inDots(paper::screenDotsPerInch));
 }
 
 /// "M&ix & Match Table": an ampersand before a blank marks no access letter but is one of the words.

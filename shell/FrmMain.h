@@ -1,8 +1,8 @@
 // The main window: the menu, the frame for the screens, the status bar.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "shell/ApplicationValues.h"
 #include "shell/MenuTree.h"
 
 #include <QHash>

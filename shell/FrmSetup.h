@@ -1,7 +1,7 @@
 // The setup dialog: how the PC reaches this customer's registers, and which model they are.
 #pragma once
 
-#include "shell/ApplicationValues.h"
+#include "base/ApplicationValues.h"
 #include "shell/SetupModel.h"
 #include "shell/StatusForm.h"
 

@@ -1,5 +1,5 @@
 // Entry of the program.
-#include "shell/ApplicationValues.h"
+#include "base/ApplicationValues.h"
 #include "shell/FrmMain.h"
 #include "shell/Openers.h"
 #include "shell/Program.h"

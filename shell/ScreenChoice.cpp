@@ -1,9 +1,9 @@
 // Tables of the entries that depend on model or firmware; see ScreenChoice.h.
 #include "shell/ScreenChoice.h"
 
+#include "base/CustomerSettings.h"
+#include "base/SharedRoutines.h"
 #include "platform/RuntimeFailure.h"
-#include "shell/CustomerSettings.h"
-#include "shell/SharedRoutines.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 

@@ -1,8 +1,8 @@
 // What a menu entry opens for the register model at hand, and whether it may open now.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "shell/ApplicationValues.h"
 #include "shell/MenuTree.h"
 
 namespace norvane::shell

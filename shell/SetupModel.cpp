@@ -1,10 +1,10 @@
 // Table of the settings and their form in setup.ini; see SetupModel.h.
 #include "shell/SetupModel.h"
 
+#include "base/CustomerSettings.h"
 #include "platform/Numbers.h"
 #include "platform/ProfileFile.h"
 #include "platform/RuntimeFailure.h"
-#include "shell/CustomerSettings.h"
 
 #include <algorithm>
 #include <array>

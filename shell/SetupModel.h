@@ -1,7 +1,7 @@
 // The customer's settings as the setup dialog shows and writes them: one row for each key of setup.ini.
 #pragma once
 
-#include "shell/ApplicationValues.h"
+#include "base/ApplicationValues.h"
 
 #include <QList>
 #include <QStringList>

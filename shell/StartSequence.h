@@ -1,8 +1,8 @@
 // From the start of the program to the main window that is ready for work.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "shell/ApplicationValues.h"
 
 #include <functional>
 

@@ -1,8 +1,8 @@
 // The notices and the start of the converter; see LogoImages.h.
 #include "utilities/LogoImages.h"
 
+#include "base/SharedRoutines.h"
 #include "platform/FilePaths.h"
-#include "shell/SharedRoutines.h"
 
 #include <array>
 

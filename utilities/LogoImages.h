@@ -1,8 +1,8 @@
 // The entries that prepare bitmaps for a receipt printer: a notice, and the external program that does it.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "shell/ApplicationValues.h"
 
 #include <QLatin1StringView>
 

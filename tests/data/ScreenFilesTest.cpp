@@ -1,5 +1,6 @@
 // Holds every screen file that is installed against the table catalogue, against the columns of the register
 // files and against the form that it makes.
+#include "paper/Length.h"
 #include "records/RegisterFiles.h"
 #include "screens/FieldPanel.h"
 #include "screens/OptionForm.h"
@@ -240,7 +241,7 @@ void ScreenFile::checkLimit(const ControlDefinition& control, const FieldDefinit
     if (control.kind == ControlKind::Decimal && control.maximum->scale() != control.decimals.value_or(-1))
         complain(control, u"Maxvalue and DecimalNumbers differ"_s);
     const int needed = boxMargins + QFontMetrics(QApplication::font()).horizontalAdvance(maximum);
-    if (!isText && control.width.value_or(0) / twipsPerPixel < needed)
+    if (!isText && paper::screenPixels(paper::twips(control.width.value_or(0))) < needed)
         complain(control, u"is too narrow for its largest number"_s);
 }
 

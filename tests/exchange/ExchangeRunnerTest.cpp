@@ -2,8 +2,8 @@
 // the folders, the ticks that stay, the boxes that the user sees.
 #include "exchange/ExchangeRunner.h"
 
+#include "base/SharedRoutines.h"
 #include "platform/FilePaths.h"
-#include "shell/SharedRoutines.h"
 #include "store/Database.h"
 #include "tests/support/ProgramFolder.h"
 #include "tests/support/RecordingBoxes.h"

@@ -1,9 +1,9 @@
 // Menu entries, clicks and keys; see Shop.h.
 #include "tests/road/Shop.h"
 
+#include "base/SharedRoutines.h"
 #include "platform/FilePaths.h"
 #include "shell/Openers.h"
-#include "shell/SharedRoutines.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 

@@ -2,9 +2,9 @@
 // end of a pseudo terminal.
 #include "sales/FrmsalesComm.h"
 
+#include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
 #include "platform/ProfileFile.h"
-#include "shell/CustomerSettings.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 #include "tests/support/FormTest.h"

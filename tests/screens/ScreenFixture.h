@@ -1,8 +1,8 @@
 // A screen over a shop's small database, driven as a user would.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "screens/OptionForm.h"
-#include "shell/ApplicationValues.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"

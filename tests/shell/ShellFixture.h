@@ -1,8 +1,8 @@
 // A program folder of a test's own with real templates, and one customer in it.
 #pragma once
 
-#include "shell/ApplicationValues.h"
-#include "shell/SharedRoutines.h"
+#include "base/ApplicationValues.h"
+#include "base/SharedRoutines.h"
 #include "store/Catalogue.h"
 #include "store/Database.h"
 #include "tests/platform/TestFolder.h"

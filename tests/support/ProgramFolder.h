@@ -2,7 +2,7 @@
 // installation, and a bank of registers beside it.
 #pragma once
 
-#include "shell/ApplicationValues.h"
+#include "base/ApplicationValues.h"
 #include "tests/platform/TestFolder.h"
 
 #include <optional>

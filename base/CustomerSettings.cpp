@@ -1,5 +1,5 @@
 // Reading of the customer's setup.ini; see CustomerSettings.h.
-#include "shell/CustomerSettings.h"
+#include "base/CustomerSettings.h"
 
 #include "platform/FilePaths.h"
 #include "platform/Numbers.h"

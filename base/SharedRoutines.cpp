@@ -1,12 +1,12 @@
 // The routines shared by menus, exchange and text records; see SharedRoutines.h.
-#include "shell/SharedRoutines.h"
+#include "base/SharedRoutines.h"
 
+#include "base/CustomerSettings.h"
 #include "platform/ChildProcess.h"
 #include "platform/FilePaths.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/TextFields.h"
-#include "shell/CustomerSettings.h"
 
 #include <QCoreApplication>
 #include <QFile>

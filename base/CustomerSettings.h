@@ -1,7 +1,7 @@
 // The customer's setup.ini: which register model, how it is reached, how many registers there are.
 #pragma once
 
-#include "shell/ApplicationValues.h"
+#include "base/ApplicationValues.h"
 
 #include <QString>
 

@@ -2,8 +2,8 @@
 // to the character.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "shell/ApplicationValues.h"
 
 #include <QString>
 

@@ -1,5 +1,5 @@
 // The shared routines to the character, with the files that registers and tools leave behind.
-#include "shell/SharedRoutines.h"
+#include "base/SharedRoutines.h"
 
 #include "tests/platform/TestFolder.h"
 

@@ -1,0 +1,73 @@
+// A length on paper or on the screen, whatever unit it was told in. Screen files tell twips, overlays and
+// report pages millimetres, printers dots.
+#pragma once
+
+#include <cmath>
+#include <compare>
+#include <cstdint>
+
+namespace norvane::paper
+{
+
+/// Logical pixels of a screen to the inch; the widget kit scales them to the real ones.
+inline constexpr double screenDotsPerInch = 96;
+
+/// Counts in 1/914,400 inch, of which a millimetre, a twip and a dot of the usual printers (300, 600 to the
+/// inch) are whole multiples: lengths add up and compare exactly.
+class Length
+{
+public:
+    constexpr Length() = default;
+
+    [[nodiscard]] constexpr double inMillimetres() const { return in(unitsPerInch / millimetresPerInch); }
+    /// 1,440 to the inch, 15 to a pixel of the screen.
+    [[nodiscard]] constexpr double inTwips() const { return in(unitsPerInch / twipsPerInch); }
+    [[nodiscard]] constexpr double inDots(double dotsPerInch) const { return in(unitsPerInch / dotsPerInch); }
+
+    constexpr auto operator<=>(const Length&) const = default;
+    friend constexpr Length operator+(Length a, Length b) { return Length(a.m_units + b.m_units); }
+    friend constexpr Length operator-(Length a, Length b) { return Length(a.m_units - b.m_units); }
+
+    friend Length millimetres(double count);
+    friend Length twips(double count);
+    friend Length dots(double count, double dotsPerInch);
+
+private:
+    static constexpr double unitsPerInch = 914'400;
+    static constexpr double millimetresPerInch = 25.4;
+    static constexpr double twipsPerInch = 1'440;
+
+    explicit constexpr Length(std::int64_t units) : m_units(units) {}
+    static Length made(double count, double countsPerInch)
+    {
+        return Length(std::llround(count * unitsPerInch / countsPerInch));
+    }
+    [[nodiscard]] constexpr double in(double unitsPerCount) const
+    {
+        return static_cast<double>(m_units) / unitsPerCount;
+    }
+
+    std::int64_t m_units = 0;
+};
+
+[[nodiscard]] inline Length millimetres(double count)
+{
+    return Length::made(count, Length::millimetresPerInch);
+}
+[[nodiscard]] inline Length twips(double count)
+{
+    return Length::made(count, Length::twipsPerInch);
+}
+/// Dots of a device that has @p dotsPerInch of them to the inch.
+[[nodiscard]] inline Length dots(double count, double dotsPerInch)
+{
+    return Length::made(count, dotsPerInch);
+}
+
+/// The nearest pixel of the screen, halves away from zero.
+[[nodiscard]] inline int screenPixels(Length length)
+{
+    return static_cast<int>(std::lround(length.inDots(screenDotsPerInch)));
+}
+
+} // namespace norvane::paper
