@@ -7,12 +7,14 @@
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/TextFields.h"
+#include "platform/TextValues.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 
 #include <limits>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane
 {
@@ -24,10 +26,6 @@ constexpr qint64 newerFirmwareLength = 78;
 /// The register's own mark in texts, and the character that stands for it in the database.
 constexpr QChar registerMark{0xFD};
 constexpr QChar shownMark{u'^'};
-/// Place of the stamp in a poll file, from 0.
-constexpr qint64 stampPosition = 4;
-/// The mark by which old tools end a text file.
-constexpr char endOfTextFile = 0x1A;
 
 QString centred(const QString& text, int width)
 {
@@ -38,27 +36,6 @@ QString centred(const QString& text, int width)
     }
     const int pad = roundHalfEven(static_cast<double>(width - text.size()) / 2);
     return (QString(pad, u' ') + text).leftJustified(width, u' ', true);
-}
-
-/// Cuts the next comma- or line-separated value off @p rest. A quoted value may hold commas.
-QByteArray takeValue(QByteArrayView& rest)
-{
-    rest = rest.trimmed();
-    QByteArray value;
-    bool quoted = false;
-    qsizetype i = 0;
-    for (; i < rest.size(); ++i) {
-        const char c = rest[i];
-        if (!quoted && (c == ',' || c == '\r' || c == '\n'))
-            break;
-        if (c == '"') {
-            quoted = !quoted;
-        } else {
-            value.append(c);
-        }
-    }
-    rest = rest.sliced(qMin(i + 1, rest.size()));
-    return value.trimmed();
 }
 
 } // namespace
@@ -133,38 +110,13 @@ bool RunAndWait(const ApplicationValues& values, const QString& commandLine)
 
 QString ReadStatusOut()
 {
-    QByteArray content = readWholeFile(QStringLiteral("status.out"));
-    if (const auto end = content.indexOf(endOfTextFile); end >= 0)
-        content.truncate(end);
+    const QByteArray content = readWholeFile(u"status.out"_s);
+    TextValues values({content.constData(), static_cast<std::size_t>(content.size())});
     // An empty place is no value: a line end too many must not turn an error into a success.
-    QByteArray last;
-    for (QByteArrayView rest = content; !rest.isEmpty();) {
-        if (const QByteArray value = takeValue(rest); !value.isEmpty())
-            last = value;
-    }
-    return QString::fromLatin1(last);
-}
-
-QString ReadPoll194Stamp(const ApplicationValues& values)
-{
-    const QString path = joinPath(values.appPath, QStringLiteral("poll194.dll"));
-    QFile file(existingPath(path));
-    if (!file.open(QIODevice::ReadWrite) && !file.open(QIODevice::ReadOnly)) {
-        throw RuntimeFailure(Failure::PathOrFileAccess,
-                             QStringLiteral("Path/File access error: %1").arg(path));
-    }
-    const QByteArray stamp = file.seek(stampPosition) ? file.read(1) : QByteArray();
-    return NibbleDigits(stamp.isEmpty() ? QByteArray(" ") : stamp);
-}
-
-QString NibbleDigits(const QByteArray& bytes)
-{
-    QString digits;
-    for (const char byte : bytes) {
-        const auto value = static_cast<unsigned char>(byte);
-        digits += QString::number(value >> 4) + QString::number(value & 0x0F);
-    }
-    return digits;
+    std::string_view last;
+    while (const auto value = values.next())
+        last = value->empty() ? last : *value;
+    return QString::fromLatin1(last).remove(u'"');
 }
 
 } // namespace norvane

@@ -60,9 +60,4 @@ bool RunAndWait(const ApplicationValues& values, const QString& commandLine);
 /// @throws RuntimeFailure 53 when the file cannot be opened.
 [[nodiscard]] QString ReadStatusOut();
 
-/// The digits of the stamp byte of poll194.dll in the program's folder; makes the file when it is missing.
-QString ReadPoll194Stamp(const ApplicationValues& values);
-/// For each byte the decimal texts of its high and its low half.
-[[nodiscard]] QString NibbleDigits(const QByteArray& bytes);
-
 } // namespace norvane

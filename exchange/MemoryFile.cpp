@@ -3,6 +3,7 @@
 
 #include "base/SharedRoutines.h"
 #include "platform/FilePaths.h"
+#include "platform/TextValues.h"
 #include "records/RecordText.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
@@ -160,7 +161,7 @@ void FileMemory(const ApplicationValues& values, Boxes& boxes,
     store::Recordset record = database.openTable(QStringLiteral("memoryallocation"));
     database.execute(QStringLiteral("delete * from memoryallocation"));
     const std::string content = readWholeFile(QStringLiteral("52.txt")).toStdString();
-    for (std::string_view rest = records::withoutEndMark(content); !rest.empty();) {
+    for (std::string_view rest = withoutEndMark(content); !rest.empty();) {
         storeLine(record, records::takeLine(rest), generation);
     }
     transaction.commit();

@@ -5,6 +5,7 @@
 #include "base/SharedRoutines.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
+#include "platform/TextValues.h"
 #include "records/RecordReader.h"
 #include "records/RecordWriter.h"
 #include "records/RegisterFiles.h"

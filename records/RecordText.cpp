@@ -16,8 +16,6 @@ namespace
 /// The register's own mark in texts, and the character by which it is shown and edited.
 constexpr char registerMark = '\xFD';
 constexpr char shownMark = '^';
-/// Ends a text file for tools that know no file length.
-constexpr char endMark = '\x1A';
 
 constexpr bool isDigit(char c)
 {
@@ -33,11 +31,6 @@ std::string_view takeLine(std::string_view& text)
     text.remove_prefix(end);
     text.remove_prefix(text.starts_with("\r\n") ? 2 : std::min<std::size_t>(text.size(), 1));
     return line;
-}
-
-std::string_view withoutEndMark(std::string_view text)
-{
-    return text.substr(0, text.find(endMark));
 }
 
 std::string_view takeField(std::string_view& line)

@@ -15,9 +15,6 @@ namespace norvane::records
 /// very end of the text begins no further line.
 [[nodiscard]] std::string_view takeLine(std::string_view& text);
 
-/// What of a text file counts: all before the end mark (byte 1A) that old tools leave behind the last line.
-[[nodiscard]] std::string_view withoutEndMark(std::string_view text);
-
 /// Takes the next column off @p line. There is no quoting: a comma always ends a column. Columns beyond the
 /// end of a line are empty.
 [[nodiscard]] std::string_view takeField(std::string_view& line);

@@ -6,6 +6,7 @@
 #include "link/ResultCodes.h"
 #include "platform/ChildProcess.h"
 #include "sales/PollImport.h"
+#include "sales/PollStamp.h"
 
 #include <QDate>
 #include <QScopeGuard>

@@ -1,13 +1,13 @@
 // The five readers as one table, and the engine that reads by it; see PollImport.h.
 #include "sales/PollImport.h"
 
-#include "base/SharedRoutines.h"
 #include "platform/Decimal.h"
 #include "platform/FilePaths.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
+#include "platform/TextValues.h"
 #include "records/RecordText.h"
-#include "sales/PollText.h"
+#include "sales/PollStamp.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 
@@ -119,13 +119,13 @@ class Import
 public:
     Import(const PollFile& file, store::Recordset& records, const ApplicationValues& values, QDate collected);
 
-    void storeAll(PollText& text);
+    void storeAll(TextValues& text);
 
 private:
-    void storeRecord(PollText& text);
+    void storeRecord(TextValues& text);
     void count();
     void needLayout() const;
-    void readValues(PollText& text);
+    void readValues(TextValues& text);
     [[nodiscard]] Value valueOf(std::size_t at, std::string_view text);
     void addRow();
     [[nodiscard]] int ordinal(const char* field) const
@@ -165,7 +165,7 @@ Import::Import(const PollFile& file, store::Recordset& records, const Applicatio
         m_ordinals.at(at) = ordinal(file.fields[at]);
 }
 
-void Import::storeAll(PollText& text)
+void Import::storeAll(TextValues& text)
 {
     while (!text.atEnd()) {
         count();
@@ -180,7 +180,7 @@ void Import::storeAll(PollText& text)
     }
 }
 
-void Import::storeRecord(PollText& text)
+void Import::storeRecord(TextValues& text)
 {
     needLayout();
     readValues(text);
@@ -208,7 +208,7 @@ void Import::needLayout() const
     }
 }
 
-void Import::readValues(PollText& text)
+void Import::readValues(TextValues& text)
 {
     m_allZero = true;
     for (std::size_t at = 0; at < m_valuesOfRecord; ++at) {
@@ -258,7 +258,7 @@ void importPollFile(const PollFile& file, const ApplicationValues& values, QDate
     store::Transaction transaction(database);
     store::Recordset records = database.openTable(QLatin1String(file.table));
     const QByteArray content = readWholeFile(joinPath(values.appPath, QLatin1String(file.name)));
-    PollText text({content.constData(), static_cast<std::size_t>(content.size())});
+    TextValues text({content.constData(), static_cast<std::size_t>(content.size())});
     Import(file, records, values, collected).storeAll(text);
     transaction.commit();
 }

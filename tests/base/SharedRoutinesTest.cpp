@@ -81,19 +81,11 @@ TEST_F(SharedRoutinesTest, TheLastValueOfTheStatusFileCounts)
                                           {" 0 , -13 \r\n", u"-13"},
                                           {"\"0\",\"a,b\"\r\n", u"a,b"},
                                           {"8\r\n\r\n\x1A", u"8"},
-                                          {"8,,\r\n", u"8"}}) {
+                                          {"8,,\r\n", u"8"},
+                                          {"\"8,0\r\n", u"8,0"}}) {
         m_app.write("STATUS.OUT", content);
         EXPECT_EQ(ReadStatusOut(), status) << content;
     }
-}
-
-TEST_F(SharedRoutinesTest, TheStampIsTheFifthByteOfThePollFile)
-{
-    EXPECT_EQ(ReadPoll194Stamp(m_values), u"20");
-    EXPECT_EQ(m_app.read("poll194.dll"), "") << "made by the query, and empty";
-    m_app.write("poll194.dll", "1234\x1Fz");
-    EXPECT_EQ(ReadPoll194Stamp(m_values), u"115");
-    EXPECT_EQ(m_app.read("poll194.dll"), "1234\x1Fz");
 }
 
 } // namespace

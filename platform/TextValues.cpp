@@ -1,13 +1,15 @@
-// Cutting a poll text into its values; see PollText.h. A report of all PLUs is close to a million of them.
-#include "sales/PollText.h"
+// Cuts a text into its values; see TextValues.h. A report of all PLUs holds close to a million of them.
+#include "platform/TextValues.h"
 
-#include "records/RecordText.h"
+#include <algorithm>
 
-namespace norvane::sales
+namespace norvane
 {
 namespace
 {
 
+/// Ends a text file for tools that know no file length.
+constexpr char endMark = '\x1A';
 constexpr std::string_view blanks = " \t";
 constexpr std::string_view whiteSpace = " \t\r\n";
 
@@ -24,14 +26,15 @@ bool isSeparator(char c)
     return c == ',' || c == '\r' || c == '\n';
 }
 
-/// Where the value that @p text begins with ends. A comma between quotes is part of the value.
+/// Where the first value of @p text ends. A comma between quotes is part of the value; an opening quote
+/// without a closing one takes the rest of the text.
 std::size_t endOfValue(std::string_view text)
 {
     std::size_t from = 0;
     const auto first = text.find_first_not_of(blanks);
     if (first != std::string_view::npos && text[first] == '"') {
         const auto closing = text.find('"', first + 1);
-        from = closing == std::string_view::npos ? first : closing + 1;
+        from = closing == std::string_view::npos ? text.size() : closing + 1;
     }
     while (from < text.size() && !isSeparator(text[from]))
         ++from;
@@ -46,26 +49,28 @@ std::string_view withoutQuotes(std::string_view value)
 
 } // namespace
 
-PollText::PollText(std::string_view text) : m_rest(records::withoutEndMark(text))
+std::string_view withoutEndMark(std::string_view text)
+{
+    return text.substr(0, text.find(endMark));
+}
+
+TextValues::TextValues(std::string_view text) : m_rest(withoutEndMark(text))
 {
     m_rest = m_rest.substr(0, m_rest.find_last_not_of(whiteSpace) + 1);
 }
 
-std::optional<std::string_view> PollText::next()
+std::optional<std::string_view> TextValues::next()
 {
     if (atEnd())
         return std::nullopt;
     const auto end = endOfValue(m_rest);
     const auto value = withoutQuotes(trimmed(m_rest.substr(0, end)));
-    m_valueDue = false;
-    auto past = end;
-    if (past < m_rest.size()) {
-        m_valueDue = m_rest[past] == ',';
-        past += m_rest.substr(past).starts_with("\r\n") ? 2U : 1U;
-    }
-    m_rest.remove_prefix(past);
-    m_valueDue = m_valueDue && m_rest.empty();
+    m_rest.remove_prefix(end);
+    const bool comma = m_rest.starts_with(',');
+    const std::size_t separator = m_rest.starts_with("\r\n") ? 2 : 1;
+    m_rest.remove_prefix(std::min(separator, m_rest.size()));
+    m_valueDue = comma && m_rest.empty();
     return value;
 }
 
-} // namespace norvane::sales
+} // namespace norvane

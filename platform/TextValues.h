@@ -1,0 +1,32 @@
+// Texts that the external tools leave: values between commas and line ends, with no regard to lines.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace norvane
+{
+
+/// The part of a text file that counts: all before the end mark (byte 1A) that old tools write behind the
+/// last line.
+[[nodiscard]] std::string_view withoutEndMark(std::string_view text);
+
+/// Takes one value after another from a text, as views of it; the text must outlive them. Each value comes
+/// trimmed and without the quotes around it. A line end parts two values as a comma does. An opening quote
+/// without a closing one makes one value, quote and all, of the rest. Blank lines at the end and everything
+/// behind an end mark are no values.
+class TextValues
+{
+public:
+    explicit TextValues(std::string_view text);
+
+    [[nodiscard]] bool atEnd() const { return m_rest.empty() && !m_valueDue; }
+    /// The next value, which may be empty. @return nothing at the end of the text.
+    [[nodiscard]] std::optional<std::string_view> next();
+
+private:
+    std::string_view m_rest;
+    bool m_valueDue = false; ///< an empty value stands behind a comma that ends the text
+};
+
+} // namespace norvane

@@ -1,0 +1,18 @@
+// The stamp of a collected PLU report, which tells what its records hold.
+#pragma once
+
+#include "base/ApplicationValues.h"
+
+#include <QString>
+
+namespace norvane::sales
+{
+
+/// The digits of the stamp byte of poll194.dll in the program's folder; makes the file when it is missing.
+/// @throws RuntimeFailure 75 when the file cannot be opened.
+QString ReadPoll194Stamp(const ApplicationValues& values);
+
+/// For each byte the decimal texts of its high and its low half.
+[[nodiscard]] QString NibbleDigits(const QByteArray& bytes);
+
+} // namespace norvane::sales
