@@ -18,7 +18,7 @@ QString aboutCaption()
 AboutLabels makeAboutLabels()
 {
     return {makeTextLabel(u"lblTitle"_s, applicationTitle()),
-            makeTextLabel(u"lblVersion"_s, u"Version "_s + QStringLiteral(NORVANE_VERSION)),
+            makeTextLabel(u"lblVersion"_s, u"Version "_s + QLatin1StringView(NORVANE_VERSION)),
             makeTextLabel(u"lblDescription"_s, u"Norvane Dorvik Programming Utility"_s)};
 }
 

@@ -1,4 +1,4 @@
-// What the splash and the about window say of the program: the same caption and the same three labels.
+// The caption and the three labels that the splash and the about window share.
 #pragma once
 
 #include <QString>
@@ -11,7 +11,7 @@ namespace norvane::shell
 /// The caption of both windows.
 [[nodiscard]] QString aboutCaption();
 
-/// The labels, without a parent; the layout that takes them gives them one.
+/// The labels. They have no parent until a layout takes them.
 struct AboutLabels {
     QLabel* lblTitle;       ///< the application's title
     QLabel* lblVersion;     ///< "Version " and the program's version, major.minor.revision

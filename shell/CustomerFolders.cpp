@@ -11,16 +11,18 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::shell
 {
 namespace
 {
 
-const auto databaseName = QStringLiteral("velmar.mdb");
-const auto settingsName = QStringLiteral("setup.ini");
+const auto databaseName = u"velmar.mdb"_s;
+const auto settingsName = u"setup.ini"_s;
 
-/// Character by character, and only where the result still meets the folder when it is looked up without
-/// regard to case: "Straße" as "STRASSE" would not.
+/// Changes only characters that still match when case is ignored. "Straße" must not become "STRASSE", which
+/// is another folder.
 void toUpperCase(QString& name)
 {
     for (QChar& c : name) {
@@ -29,13 +31,14 @@ void toUpperCase(QString& name)
     }
 }
 
-/// A step of a path that is no name but a direction: ".", "..", and what some platforms read as such.
+/// Whether @p part is ".", "..", or what some platforms read as one of them ("...", ".. ").
 bool isDirection(const QString& part)
 {
     return !part.isEmpty() && std::ranges::all_of(part, [](QChar c) { return c == u'.' || c == u' '; });
 }
 
-/// Whether @p name can only name a folder below the program's. A colon begins a drive or a hidden stream.
+/// Whether @p name can only lead to a folder inside the program's. A colon ends a drive or starts a hidden
+/// stream.
 bool staysInside(const QString& name)
 {
     const QString path = QString(name).replace(u'\\', u'/');
@@ -44,7 +47,7 @@ bool staysInside(const QString& name)
     return std::ranges::none_of(path.split(u'/'), isDirection);
 }
 
-/// Where a new folder is made: the folder above it may be spelled in any case, its own name is as typed.
+/// Makes the folder with its name as typed; the folders above it may be spelled in any case.
 bool makeFolder(const QString& path)
 {
     const QFileInfo folder(path);
@@ -57,15 +60,32 @@ bool copyTemplate(const ApplicationValues& values, const QString& name)
     const QString copy = joinPath(values.customerPath, name);
     if (!QFile::copy(existingPath(joinPath(values.appPath, name)), copy))
         return false;
-    // A template installed read-only would otherwise make a customer that cannot be changed.
+    // The copy of a read-only template could not be changed otherwise.
     return QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
+}
+
+/// Makes a customer of the new folder @p path.
+CustomerChoice fillFolder(ApplicationValues& values, const QString& path)
+{
+    values.customerPath = existingPath(path);
+    const bool complete = copyTemplate(values, databaseName) && copyTemplate(values, settingsName);
+    return complete ? CustomerChoice::Created : CustomerChoice::Failed;
+}
+
+CustomerChoice takeFolder(ApplicationValues& values, const QString& path)
+{
+    if (!QFileInfo(path).isDir())
+        return CustomerChoice::Failed;
+    values.customerPath = path;
+    store::UpgradeDatabase(customerDatabase(path));
+    return CustomerChoice::Taken;
 }
 
 } // namespace
 
 QStringList customerFolders(const QString& appPath)
 {
-    // A customer whose name begins with a dot is one like any other, whatever the platform hides.
+    // A customer's name may begin with a dot, which some platforms take for hidden.
     QStringList names = QDir(appPath).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot,
                                                 QDir::Name | QDir::IgnoreCase);
     std::ranges::for_each(names, toUpperCase);
@@ -84,21 +104,10 @@ CustomerChoice chooseCustomer(ApplicationValues& values, const QString& typed)
         return CustomerChoice::InvalidEntry;
     if (!staysInside(typed))
         return CustomerChoice::Failed;
-
     QString path = joinPath(values.appPath, typed);
     while (path.endsWith(QDir::separator()))
         path.chop(1);
-    if (makeFolder(path)) {
-        values.customerPath = existingPath(path);
-        const bool complete = copyTemplate(values, databaseName) && copyTemplate(values, settingsName);
-        return complete ? CustomerChoice::Created : CustomerChoice::Failed;
-    }
-    path = existingPath(path);
-    if (!QFileInfo(path).isDir())
-        return CustomerChoice::Failed;
-    values.customerPath = path;
-    store::UpgradeDatabase(customerDatabase(path));
-    return CustomerChoice::Taken;
+    return makeFolder(path) ? fillFolder(values, path) : takeFolder(values, existingPath(path));
 }
 
 } // namespace norvane::shell

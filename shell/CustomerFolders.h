@@ -1,4 +1,4 @@
-// Customers are folders beside the program: which there are, how one is taken and how a new one is made.
+// Customers are folders in the program's folder: lists them, takes one, makes a new one.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -8,21 +8,20 @@
 namespace norvane::shell
 {
 
-/// The folders under @p appPath in upper case, whether or not they hold a database. Their order is that of
-/// the file systems the program comes from, which list by name.
+/// All folders in @p appPath, in upper case and sorted by name, with or without a database in them.
 [[nodiscard]] QStringList customerFolders(const QString& appPath);
 
 enum class CustomerChoice {
     InvalidEntry, ///< blank name
     Created,      ///< new folder with copies of the template database and settings
-    Taken,        ///< existing folder; its database was brought up to date
-    Failed,       ///< refused name, or a step that failed; a folder already made stays
+    Taken,        ///< existing folder; its database was upgraded
+    Failed,       ///< refused name or failed step; a folder that was made stays
 };
 
-/// Takes the customer named @p typed, or makes it when there is no such folder. customerName holds the text
-/// as typed whatever comes of it; customerPath changes with a customer made or taken, and holds the folder's
-/// real name on disk. A backslash or slash leads into a folder that exists. A name never leads out of the
-/// program's folder: "..", a drive or an absolute path is Failed.
+/// Takes the customer named @p typed, or makes it when there is no such folder. Always sets customerName to
+/// the text as typed; sets customerPath to the folder as it is spelled on disk, once there is one. A
+/// backslash or slash leads into a folder that exists. "..", a drive or an absolute path is Failed: no name
+/// leads out of the program's folder.
 [[nodiscard]] CustomerChoice chooseCustomer(ApplicationValues& values, const QString& typed);
 
 /// The database of the customer whose folder is @p customerPath.

@@ -12,8 +12,8 @@ namespace norvane::shell
 namespace
 {
 
-/// The database stays the former customer's: screens and exchange go on with databasePath as it is until a
-/// key editor sets it anew.
+/// Leaves databasePath alone: screens and exchange use the previous customer's database until a key editor
+/// sets it.
 void changeCustomer(FrmMain& main, ApplicationValues& values, Boxes& boxes)
 {
     main.setCursor(Qt::WaitCursor);

@@ -1,4 +1,4 @@
-// The forms of the frame itself behind the menu: setup, about, change of customer, exit.
+// Openers of the entries Exit, Setup, Change Customer File and About.
 #pragma once
 
 #include "shell/FrmMain.h"
@@ -6,7 +6,7 @@
 namespace norvane::shell
 {
 
-/// The references are kept and must outlive the main window.
+/// Keeps the references, which must outlive the main window.
 [[nodiscard]] FrmMain::Openers makeFrameOpeners(ApplicationValues& values, Boxes& boxes);
 
 } // namespace norvane::shell

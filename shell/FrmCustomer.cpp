@@ -1,4 +1,4 @@
-// Controls and messages of the customer dialog; see FrmCustomer.h. The rules are in CustomerFolders.
+// Controls and messages of the customer dialog; see FrmCustomer.h. CustomerFolders has the rules.
 #include "shell/FrmCustomer.h"
 
 #include "shell/CustomerFolders.h"
@@ -11,62 +11,71 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::shell
 {
 namespace
 {
 
-constexpr int listWidth = 360;
-constexpr int listHeight = 220;
+constexpr QSize listSize{360, 220};
 
 } // namespace
 
 FrmCustomer::FrmCustomer(ApplicationValues& values, Boxes& boxes, QWidget* parent)
     : QDialog(parent), m_values(values), m_boxes(boxes), List1(new QListWidget(this)),
-      text1(new QLineEdit(this)), CSCmdBtn1(new QPushButton(QStringLiteral("&Ok"), this))
+      text1(new QLineEdit(this)), CSCmdBtn1(new QPushButton(u"&Ok"_s, this))
 {
-    setObjectName(QStringLiteral("FrmCustomer"));
-    setWindowTitle(QStringLiteral("Select Customer"));
-    List1->setObjectName(QStringLiteral("List1"));
-    text1->setObjectName(QStringLiteral("text1"));
-    CSCmdBtn1->setObjectName(QStringLiteral("CSCmdBtn1"));
+    setObjectName(u"FrmCustomer"_s);
+    setWindowTitle(u"Select Customer"_s);
+    List1->setObjectName(u"List1"_s);
+    text1->setObjectName(u"text1"_s);
+    CSCmdBtn1->setObjectName(u"CSCmdBtn1"_s);
     for (QWidget* const control : std::initializer_list<QWidget*>{this, List1, text1, CSCmdBtn1})
         control->setAccessibleName(control->objectName());
-    CSCmdBtn1->setDefault(true);
     layOut();
-
-    connect(List1, &QListWidget::itemSelectionChanged, this, &FrmCustomer::copyChosenRow);
-    // Going into the list with the keyboard makes a row the current one, which then is the one chosen.
-    connect(List1, &QListWidget::currentItemChanged, this, [](QListWidgetItem* current) {
-        if (current)
-            current->setSelected(true);
-    });
-    connect(List1, &QListWidget::itemClicked, this, &FrmCustomer::copyChosenRow);
-    connect(List1, &QListWidget::itemDoubleClicked, CSCmdBtn1, &QPushButton::click);
-    connect(CSCmdBtn1, &QPushButton::clicked, this, &FrmCustomer::takeCustomer);
+    connectList();
     List1->addItems(customerFolders(m_values.appPath));
     text1->setFocus();
 }
 
 void FrmCustomer::layOut()
 {
-    auto* const frame = new QGroupBox(QStringLiteral("Select / Create Customer"), this);
-    auto* const label = new QLabel(QStringLiteral("Select Existing Customer"), frame);
-    label->setBuddy(List1);
-    List1->setMinimumSize(listWidth, listHeight);
-    auto* const inFrame = new QVBoxLayout(frame);
-    inFrame->setSpacing(ui::spacing::controlGap);
-    inFrame->addWidget(label);
-    inFrame->addWidget(List1);
-    inFrame->addWidget(text1);
-
     CSCmdBtn1->setMinimumWidth(ui::buttonWidth);
+    CSCmdBtn1->setDefault(true);
+    connect(CSCmdBtn1, &QPushButton::clicked, this, &FrmCustomer::takeCustomer);
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(ui::spacing::formMargin, ui::spacing::formMargin, ui::spacing::formMargin,
-                               ui::spacing::formMargin);
+    constexpr int margin = ui::spacing::formMargin;
+    column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(ui::spacing::groupGap);
-    column->addWidget(frame);
+    column->addWidget(makeFrame());
     column->addWidget(CSCmdBtn1, 0, Qt::AlignRight);
+}
+
+QGroupBox* FrmCustomer::makeFrame()
+{
+    auto* const frame = new QGroupBox(u"Select / Create Customer"_s, this);
+    auto* const label = new QLabel(u"Select Existing Customer"_s, frame);
+    label->setBuddy(List1);
+    List1->setMinimumSize(listSize);
+    auto* const column = new QVBoxLayout(frame);
+    column->setSpacing(ui::spacing::controlGap);
+    column->addWidget(label);
+    column->addWidget(List1);
+    column->addWidget(text1);
+    return frame;
+}
+
+void FrmCustomer::connectList()
+{
+    connect(List1, &QListWidget::itemSelectionChanged, this, &FrmCustomer::copyChosenRow);
+    // Tab into the list makes a row the current one without selecting it.
+    connect(List1, &QListWidget::currentItemChanged, this, [](QListWidgetItem* current) {
+        if (current)
+            current->setSelected(true);
+    });
+    connect(List1, &QListWidget::itemClicked, this, &FrmCustomer::copyChosenRow);
+    connect(List1, &QListWidget::itemDoubleClicked, CSCmdBtn1, &QPushButton::click);
 }
 
 void FrmCustomer::copyChosenRow()
@@ -79,28 +88,30 @@ void FrmCustomer::takeCustomer()
 {
     switch (chooseCustomer(m_values, text1->text())) {
     case CustomerChoice::InvalidEntry:
-        m_boxes.message(QStringLiteral("Invalid Entry"), {}, BoxIcon::Critical);
-        break;
+        m_boxes.message(u"Invalid Entry"_s, {}, BoxIcon::Critical);
+        return;
     case CustomerChoice::Failed:
-        m_boxes.message(QStringLiteral("Error Creating Directory \rRe run software"),
-                        QStringLiteral("System Error"), BoxIcon::Critical);
-        break;
+        m_boxes.message(u"Error Creating Directory \rRe run software"_s, u"System Error"_s,
+                        BoxIcon::Critical);
+        return;
     case CustomerChoice::Taken:
-        accept();
-        break;
+        return accept();
     case CustomerChoice::Created:
-        accept();
-        m_boxes.message(
-            QStringLiteral("Your new database has been created please\rupload program from your cash "
-                           "register.  \r"),
-            QStringLiteral("Information "), BoxIcon::Information);
-        break;
+        return welcomeNewCustomer();
     }
+}
+
+void FrmCustomer::welcomeNewCustomer()
+{
+    accept();
+    m_boxes.message(
+        u"Your new database has been created please\rupload program from your cash register.  \r"_s,
+        u"Information "_s, BoxIcon::Information);
 }
 
 void FrmCustomer::reject()
 {
-    if (m_boxes.ask(QStringLiteral("Are You Sure?"), QStringLiteral("Exit Program"), BoxIcon::Question))
+    if (m_boxes.ask(u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question))
         QDialog::reject();
 }
 

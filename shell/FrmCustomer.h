@@ -1,4 +1,4 @@
-// The customer dialog: take an existing customer or make a new one.
+// The customer dialog: choose an existing customer or make a new one.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -6,6 +6,7 @@
 
 #include <QDialog>
 
+class QGroupBox;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
@@ -13,8 +14,8 @@ class QPushButton;
 namespace norvane::shell
 {
 
-/// Run it with exec(): accepted means that a customer stands in the values, rejected that the user closed the
-/// dialog and wants the whole program to end at once.
+/// Run it with exec(): accepted means that the values hold the customer, rejected that the user wants to end
+/// the whole program.
 class FrmCustomer : public QDialog
 {
     Q_OBJECT
@@ -23,13 +24,16 @@ public:
     FrmCustomer(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
 public Q_SLOTS:
-    /// The window's close button and Escape: asks, and stays open after No.
+    /// The window's close button and Escape: asks first, and stays open after No.
     void reject() override;
 
 private:
     void layOut();
+    [[nodiscard]] QGroupBox* makeFrame();
+    void connectList();
     void copyChosenRow();
     void takeCustomer();
+    void welcomeNewCustomer();
 
     ApplicationValues& m_values;
     Boxes& m_boxes;

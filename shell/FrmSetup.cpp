@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -28,6 +27,37 @@ bool hasList(const Setting& setting)
     return setting.form != SettingForm::UpperText;
 }
 
+QWidget* makeList(const Setting& setting)
+{
+    auto* const list = new QComboBox;
+    list->addItems(itemsOf(setting));
+    return list;
+}
+
+QWidget* makeTextBox()
+{
+    auto* const box = new QLineEdit;
+    box->setMaxLength(profileValueLimit); // the next reading would cut a longer text
+    return box;
+}
+
+QWidget* makeControl(const Setting& setting)
+{
+    QWidget* const control = hasList(setting) ? makeList(setting) : makeTextBox();
+    control->setObjectName(setting.control);
+    control->setAccessibleName(setting.control);
+    control->setFixedWidth(controlWidth);
+    return control;
+}
+
+/// As wide as every other, so that the controls of both frames are in line.
+QLabel* makeLabel(const Setting& setting)
+{
+    auto* const label = new QLabel(setting.label);
+    label->setMinimumWidth(labelWidth);
+    return label;
+}
+
 } // namespace
 
 FrmSetup::FrmSetup(const ApplicationValues& values, MainStatusBar& status, QWidget* parent)
@@ -40,25 +70,20 @@ FrmSetup::FrmSetup(const ApplicationValues& values, MainStatusBar& status, QWidg
 
 void FrmSetup::layOut()
 {
-    auto* const column = new QVBoxLayout(this);
-    constexpr int margin = ui::spacing::formMargin;
-    column->setContentsMargins(margin, margin, margin, margin);
-    column->setSpacing(ui::spacing::groupGap);
-    column->setSizeConstraint(QLayout::SetFixedSize);
+    QVBoxLayout* const column = makeColumn();
     column->addWidget(makeFrame(u"PC Setup"_s, true));
     column->addWidget(makeFrame(u"Modem Settings"_s, false));
+    column->addLayout(makeButtons());
+}
 
+QLayout* FrmSetup::makeButtons()
+{
     QPushButton* const CmdSave = addButton(u"CmdSave"_s, u"&Save"_s);
     QPushButton* const CmdExit = addButton(u"CmdExit"_s, u"E&xit"_s);
     setKeys(CmdSave, CmdExit);
     connect(CmdSave, &QPushButton::clicked, this, &FrmSetup::save);
     connect(CmdExit, &QPushButton::clicked, this, &QWidget::close);
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(ui::spacing::controlGap);
-    buttons->addStretch();
-    buttons->addWidget(CmdSave);
-    buttons->addWidget(CmdExit);
-    column->addLayout(buttons);
+    return makeButtonRow({CmdSave, CmdExit});
 }
 
 QGroupBox* FrmSetup::makeFrame(const QString& caption, bool withLists)
@@ -69,32 +94,11 @@ QGroupBox* FrmSetup::makeFrame(const QString& caption, bool withLists)
     for (qsizetype row = 0; const Setting& setting : settings()) {
         if (hasList(setting) == withLists) {
             m_controls[row] = makeControl(setting);
-            // Labels of one width, so that the controls of both frames stand below each other.
-            auto* const label = new QLabel(setting.label);
-            label->setMinimumWidth(labelWidth);
-            rows->addRow(label, m_controls[row]);
+            rows->addRow(makeLabel(setting), m_controls[row]);
         }
         ++row;
     }
     return frame;
-}
-
-QWidget* FrmSetup::makeControl(const Setting& setting)
-{
-    QWidget* control = nullptr;
-    if (hasList(setting)) {
-        auto* const combo = new QComboBox;
-        combo->addItems(setting.items);
-        control = combo;
-    } else {
-        auto* const text = new QLineEdit;
-        text->setMaxLength(profileValueLimit); // what lies beyond would be cut at the next reading
-        control = text;
-    }
-    control->setObjectName(setting.control);
-    control->setAccessibleName(setting.control);
-    control->setFixedWidth(controlWidth);
-    return control;
 }
 
 void FrmSetup::load()

@@ -10,8 +10,8 @@ class QGroupBox;
 namespace norvane::shell
 {
 
-/// A child window of the main window. Reads the customer's settings when it is made, writes them on Save for
-/// whichever customer is chosen then.
+/// A child window of the main window. Reads the customer's settings when it opens. Save writes them for the
+/// customer who is chosen by then, who may be another one.
 class FrmSetup : public StatusForm
 {
     Q_OBJECT
@@ -21,15 +21,15 @@ public:
     FrmSetup(const ApplicationValues& values, MainStatusBar& status, QWidget* parent = nullptr);
 
 private:
-    /// A frame with the settings that are chosen from a list, or with those that are typed.
+    /// A frame with the settings that are chosen from lists, or with those that are typed.
     [[nodiscard]] QGroupBox* makeFrame(const QString& caption, bool withLists);
-    [[nodiscard]] QWidget* makeControl(const Setting& setting);
+    [[nodiscard]] QLayout* makeButtons();
     void layOut();
     void load();
     void save();
 
     const ApplicationValues& m_values;
-    QList<QWidget*> m_controls; ///< combo or line edit, in the order of settings()
+    QList<QWidget*> m_controls; ///< a list or a text box each, in the order of settings()
 };
 
 } // namespace norvane::shell

@@ -1,4 +1,4 @@
-// The turns of the event loop; see LongWork.h.
+// When pending events run; see LongWork.h.
 #include "shell/LongWork.h"
 
 #include "shell/FrmMain.h"
@@ -10,7 +10,7 @@ namespace norvane::shell
 namespace
 {
 
-/// Too short for a user to notice, long enough for a thousand records.
+/// Too short for a user to notice, long enough for about a thousand records.
 constexpr std::chrono::milliseconds betweenTurns{15};
 
 } // namespace

@@ -1,4 +1,4 @@
-// Long work behind a menu entry during which the main window stays alive.
+// Keeps the main window alive during long work behind a menu entry.
 #pragma once
 
 #include "ui/WaitPointer.h"
@@ -10,9 +10,9 @@ namespace norvane::shell
 
 class FrmMain;
 
-/// While it lives, the wait pointer is shown and the main window paints, moves and answers the desktop, but
-/// takes no further work: the menu and the child windows are disabled, since a screen would have to wait for
-/// the database that the work holds, and a close of the window is put off until the end.
+/// While it lives, the wait pointer is shown and the main window can be painted and moved. Its menu and child
+/// windows are disabled, since a screen would wait for the database that the work holds. A close of the
+/// window happens after the work.
 class LongWork
 {
 public:
@@ -21,8 +21,8 @@ public:
     LongWork(const LongWork&) = delete;
     LongWork& operator=(const LongWork&) = delete;
 
-    /// Lets pending events run. May be called for every record: between two real turns it only looks at the
-    /// clock.
+    /// Lets pending events run, but not more often than every few milliseconds, so that every record may call
+    /// it.
     void letEventsRun();
 
 private:

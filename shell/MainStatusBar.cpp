@@ -6,6 +6,8 @@
 
 #include <QLabel>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::shell
 {
 namespace
@@ -22,14 +24,18 @@ QLabel* statusLabel(const QString& name)
 
 } // namespace
 
-MainStatusBar::MainStatusBar(QWidget* parent)
-    : QStatusBar(parent), m_panel(statusLabel(QStringLiteral("Panel1"))),
-      m_text(statusLabel(QStringLiteral("StatusText")))
+QString readyText()
 {
-    setObjectName(QStringLiteral("StatusBar1"));
+    return u"Ready....."_s;
+}
+
+MainStatusBar::MainStatusBar(QWidget* parent)
+    : QStatusBar(parent), m_panel(statusLabel(u"Panel1"_s)), m_text(statusLabel(u"StatusText"_s))
+{
+    setObjectName(u"StatusBar1"_s);
     setAccessibleName(objectName());
     m_panel->setMinimumWidth(panelWidth);
-    // A customer's name may be longer than the window is wide.
+    // A long customer name must not widen the window.
     m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     addWidget(m_panel);
     addWidget(m_text, 1);

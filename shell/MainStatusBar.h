@@ -1,4 +1,4 @@
-// The status bar of the main window, in which the dialogs beside it say what goes on.
+// The status bar of the main window, in which the forms tell that they are open.
 #pragma once
 
 #include <QStatusBar>
@@ -8,7 +8,7 @@ class QLabel;
 namespace norvane::shell
 {
 
-/// One panel ("Ready.....") and, beside it, the plain status text that names the customer.
+/// A panel ("Ready.....") and beside it the status text, which names the customer.
 class MainStatusBar : public QStatusBar
 {
     Q_OBJECT
@@ -26,11 +26,7 @@ private:
     QLabel* m_text;
 };
 
-/// The panel's text while nothing of its own is open.
-inline const QString& readyText()
-{
-    static const QString text = QStringLiteral("Ready.....");
-    return text;
-}
+/// The panel's text while no form has set another one.
+[[nodiscard]] QString readyText();
 
 } // namespace norvane::shell

@@ -1,4 +1,4 @@
-// Table of the menu; see MenuTree.h. Captions are the user's words, trailing blanks and spelling included.
+// Table of the menu; see MenuTree.h. Trailing blanks and odd spellings belong to the captions.
 #include "shell/MenuTree.h"
 
 #include <algorithm>
@@ -136,7 +136,7 @@ constexpr auto entries = std::to_array<MenuEntry>({
     {"Setup"_L1, "ChangeCustomer"_L1, "&Change Customer File"_L1, Form, "FrmCustomer"_L1},
 
     {""_L1, "About"_L1, "&About"_L1, Form, "frmAbout"_L1},
-    // There is no help file, and no way to choose the entry.
+    // There is no help file.
     {""_L1, "HelpMenu"_L1, "&Help"_L1, Nothing, {}, never},
 });
 // clang-format on

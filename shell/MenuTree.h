@@ -1,4 +1,4 @@
-// The menu of the main window, which is the program's whole command surface, as a table.
+// The menu of the main window as a table: everything that a user can start.
 #pragma once
 
 #include <QLatin1StringView>
@@ -9,13 +9,13 @@ namespace norvane::shell
 {
 
 enum class Opens {
-    Nothing,     ///< the entry is there, but nothing was ever put behind it
-    Menu,        ///< its entries
+    Nothing,     ///< an entry without any function
+    Menu,        ///< a menu of further entries
     Screen,      ///< a record editor with the screen file `target`
-    ModelScreen, ///< a record editor whose file depends on the register model, see ScreenChoice
+    ModelScreen, ///< a record editor; the register model decides on the screen file, see ScreenChoice
     GatedScreen, ///< a record editor that needs newer firmware and a table with records, see ScreenChoice
     Form,        ///< the form or procedure `target` of the program's openers
-    ModelForm,   ///< a form that depends on the register model, see ScreenChoice
+    ModelForm,   ///< a form; the register model decides on which one, see ScreenChoice
     Separator,
 };
 
@@ -27,14 +27,14 @@ struct MenuEntry {
     QLatin1StringView caption;
     Opens opens;
     QLatin1StringView target = {};
-    /// No code ever switches an entry on or off; one that cannot be chosen is greyed.
+    /// Never changes while the program runs; an entry that cannot be chosen is grey.
     Choosable choosable = Choosable::Yes;
 };
 
-/// All entries; those of one menu stand in their order on the screen, a menu stands before its entries.
+/// All entries, each menu before its own; the entries of a menu in their order on the screen.
 [[nodiscard]] std::span<const MenuEntry> menuTree();
 
-/// The entry of this control name; nullptr when there is none.
+/// The entry with the control name @p name, or nullptr.
 [[nodiscard]] const MenuEntry* menuEntry(QLatin1StringView name);
 
 } // namespace norvane::shell

@@ -1,4 +1,4 @@
-// The list of empty menu entries; see NotYetBuilt.h.
+// The list of entries; see NotYetBuilt.h.
 #include "shell/NotYetBuilt.h"
 
 #include <algorithm>

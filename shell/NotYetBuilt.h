@@ -1,4 +1,4 @@
-// Which menu entries stand in the menu but have nothing behind them so far.
+// The menu entries whose form or procedure is still to be written.
 #pragma once
 
 #include <QLatin1StringView>
@@ -8,11 +8,11 @@
 namespace norvane::shell
 {
 
-/// Control names of the entries that can be chosen and open nothing, because their form or procedure does not
-/// exist yet. README's list is written from this one. Whoever adds the missing part takes the row out.
+/// Control names of the entries that can be chosen but open nothing yet. README lists them too. Who writes
+/// the missing part removes the row.
 [[nodiscard]] std::span<const QLatin1StringView> notYetBuilt();
 
-/// Whether the entry of this control name is one of them.
+/// Whether @p entry is one of these control names.
 [[nodiscard]] bool isNotYetBuilt(QLatin1StringView entry);
 
 } // namespace norvane::shell

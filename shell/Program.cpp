@@ -1,4 +1,4 @@
-// Showing of the last failure and the end of the process; see Program.h.
+// The last failure of the process; see Program.h.
 #include "shell/Program.h"
 
 #include "platform/RuntimeFailure.h"
@@ -37,8 +37,7 @@ FatalFailure describeFailure(const std::exception_ptr& failure)
 
 Program::Program(int& argc, char** argv, Boxes& boxes) : QApplication(argc, argv), m_boxes(boxes)
 {
-    // The main window's end is the program's end, and no other window's: there is none between the splash and
-    // the choice of the customer.
+    // Only the main window ends the program. No window at all is open between splash and customer dialog.
     setQuitOnLastWindowClosed(false);
 }
 
@@ -47,7 +46,7 @@ bool Program::notify(QObject* receiver, QEvent* event)
     try {
         return QApplication::notify(receiver, event);
     } catch (...) {
-        // A window that cannot be painted fails again while the box stands over it; one box is enough.
+        // A window that cannot be painted fails again while the box is open; one box is enough.
         if (m_ending)
             return true;
         end(std::current_exception());
@@ -70,8 +69,8 @@ void Program::end(const std::exception_ptr& failure)
     while (overrideCursor())
         restoreOverrideCursor();
     m_boxes.message(u"Run-time error '%1':\r\r%2"_s.arg(shown.number).arg(shown.text), {}, BoxIcon::Critical);
-    // The system closes what is still open; the store's files bear an end at any moment. Destructors of
-    // windows that stand in the middle of something would do more harm than good.
+    // No destructors: the windows are in the middle of something. The system closes all files, and a database
+    // stays whole whenever the process ends.
     std::fflush(nullptr);
     std::_Exit(failedExit);
 }

@@ -1,4 +1,4 @@
-// The application object with the outermost handler of failures.
+// The application object, which shows the failures that nothing else caught.
 #pragma once
 
 #include "platform/Boxes.h"
@@ -11,19 +11,18 @@
 namespace norvane::shell
 {
 
-/// A failure that nothing caught: the number and the text that the user gets to see.
+/// What the user sees of a failure.
 struct FatalFailure {
     int number;
     QString text;
 };
 
-/// What @p failure is to the user. A failure that is none of the program's own (out of memory, an error of a
-/// library) has a number, too: 7 and 51.
+/// Number and text of @p failure: 7 when memory ran out, 51 for an error of a library.
 [[nodiscard]] FatalFailure describeFailure(const std::exception_ptr& failure);
 
-/// Whatever an event handler or the start of the program lets through ends here: the user sees "Run-time
-/// error 'number':" with the text, and the process ends at once with exit code 1. At once, because the code
-/// below a nested event loop, such as the caller of a modal dialog, must not go on as if all were well.
+/// Shows a failure that an event handler or the start of the program did not catch as "Run-time error
+/// 'number':" with its text, then ends the process with exit code 1. It ends at once, because the caller of a
+/// modal dialog must not go on as if nothing had happened.
 class Program : public QApplication
 {
     Q_OBJECT
@@ -33,7 +32,7 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override;
 
-    /// Runs what happens outside of the event loop under the same handler. @return what @p work returns.
+    /// Runs @p work, which is outside of the event loop, with the same handler. @return what @p work returns.
     int guarded(const std::function<int()>& work);
 
 private:

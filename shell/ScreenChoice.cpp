@@ -1,4 +1,4 @@
-// Tables of the entries that depend on model or firmware; see ScreenChoice.h.
+// Tables of the entries that need the model or the firmware; see ScreenChoice.h.
 #include "shell/ScreenChoice.h"
 
 #include "base/CustomerSettings.h"
@@ -17,7 +17,7 @@ namespace norvane::shell
 namespace
 {
 
-/// Targets for ECRModel 0, 1, 2 and any other.
+/// What an entry opens for ECRModel 0, 1, 2 and any other.
 struct ByModel {
     QLatin1StringView entry;
     std::array<QLatin1StringView, 4> targets;
@@ -26,7 +26,7 @@ struct ByModel {
 // clang-format off
 constexpr auto byModel = std::to_array<ByModel>({
     {"PLUMENU"_L1, {"\\PLUVelmarv2.scn"_L1, "\\PLUVelmarv2card.scn"_L1, "\\PLUVelmarv3.scn"_L1, "\\PLU.scn"_L1}},
-    // The card variant's file is spelled without the digit.
+    // The file for cards has no "2" in its name.
     {"PLUStatusMenu"_L1, {"\\PLUstatVelmarv2.scn"_L1, "\\PLUstatVelmarvcard.scn"_L1, "\\PLUstatVelmarv3.scn"_L1, "\\PLUstat.scn"_L1}},
     {"GeneralOptions"_L1, {"\\GenFuncVelmarv2.scn"_L1, "\\GenFuncVelmarv2card.scn"_L1, "\\GenFuncVelmarv3.scn"_L1, "\\GenFunc.scn"_L1}},
     {"GeneralPrintOption"_L1, {"\\GenPrtOpVelmarv2.scn"_L1, "\\GenPrtOpVelmarv2card.scn"_L1, "\\GenPrtOpVelmarv3.scn"_L1, "\\GenPrtOp.scn"_L1}},
@@ -37,6 +37,7 @@ constexpr auto byModel = std::to_array<ByModel>({
 });
 // clang-format on
 
+/// The table that a gated screen needs, and what is shown when it is empty.
 struct Gate {
     QLatin1StringView entry;
     QLatin1StringView table;
@@ -80,16 +81,15 @@ bool mayOpen(const MenuEntry& entry, const ApplicationValues& values, Boxes& box
 {
     if (entry.opens != Opens::GatedScreen)
         return true;
-    const Gate& gate = rowOf(gates, entry);
     if (GetFirmwareGeneration(values, boxes) == 2) {
         boxes.message(u"Option not available on this firmware"_s);
         return false;
     }
-    if (!hasRecords(values, gate.table)) {
+    const Gate& gate = rowOf(gates, entry);
+    const bool isFilled = hasRecords(values, gate.table);
+    if (!isFilled)
         boxes.message(gate.emptyText, u"Data Error"_s, BoxIcon::Critical);
-        return false;
-    }
-    return true;
+    return isFilled;
 }
 
 } // namespace norvane::shell

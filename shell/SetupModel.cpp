@@ -1,12 +1,11 @@
-// Table of the settings and their form in setup.ini; see SetupModel.h.
+// Table of the settings and how setup.ini spells them; see SetupModel.h.
 #include "shell/SetupModel.h"
 
 #include "base/CustomerSettings.h"
+#include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
 #include "platform/ProfileFile.h"
-#include "platform/RuntimeFailure.h"
 
-#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,25 +15,33 @@ namespace norvane::shell
 namespace
 {
 
-constexpr int mostRegisters = 32;
-constexpr int storedBits = 16;
+using enum SettingForm;
 
-QStringList registerCounts()
-{
-    QStringList counts;
-    for (int count = 1; count <= mostRegisters; ++count)
-        counts.append(QString::number(count));
-    return counts;
-}
+// clang-format off
+constexpr auto table = std::to_array<Setting>({
+    {"Port"_L1, SignedIndex, "0"_L1, "CboPort"_L1, "Serial Port"_L1, "Port 1|Port 2|Port 3|Port 4"_L1},
+    {"Baud"_L1, SignedIndex, "0"_L1, "CboBaud"_L1, "Baud Rate"_L1, "2400|4800|9600|19200"_L1},
+    {"ConnectionType"_L1, SignedIndex, "0"_L1, "CboConnection"_L1, "Connection"_L1, "Direct|Modem"_L1},
+    {"NoOfECRs"_L1, PlainIndex, "0"_L1, "CboECRs"_L1, "No Of ECR's"_L1,
+     "1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16|17|18|19|20|21|22|23|24|25|26|27|28|29|30|31|32"_L1},
+    {"ModemReset"_L1, UpperText, "AT&F"_L1, "TxtReset"_L1, "Modem Reset"_L1, {}},
+    {"ModemString"_L1, UpperText, "ATZ1"_L1, "TxtString"_L1, "Modem String"_L1, {}},
+    {"Telephone"_L1, UpperText, {}, "TxtTelephone"_L1, "Telephone No."_L1, {}},
+    {"ECRModel"_L1, SignedIndex, "0"_L1, "CboModel"_L1, "ECR Model"_L1,
+     "Velmar -V2|Velmar V2 Card|Velmar +V3|Dorvik"_L1},
+});
+// clang-format on
 
-/// The rows in the order in which they are read, so that the first wrong value of a file is always the one
-/// that is reported.
+/// The rows in the order in which they are read. It decides which of several wrong values is reported.
 constexpr std::array readingOrder{0, 3, 7, 1, 2, 4, 5, 6};
+
+/// Indexes are numbers of 16 bits.
+constexpr int indexBits = 16;
 
 int indexOf(const Setting& setting, const QString& stored)
 {
-    const int index = toWholeNumber(stored, storedBits);
-    if (index < -1 || index >= setting.items.size()) {
+    const int index = toWholeNumber(stored, indexBits);
+    if (index < -1 || index >= itemsOf(setting).size()) {
         throw RuntimeFailure(Failure::InvalidArgument,
                              u"Invalid property value: there is no entry %1 in the list"_s.arg(index));
     }
@@ -46,24 +53,22 @@ SettingValue readValue(const ApplicationValues& values, const Setting& setting)
     QString stored = readSetting(values, setting.key, setting.defaultText);
     if (stored.isEmpty())
         stored = setting.defaultText;
-    if (setting.form == SettingForm::UpperText)
+    if (setting.form == UpperText)
         return {-1, stored};
-    try {
-        return {indexOf(setting, stored), {}};
-    } catch (const RuntimeFailure& failure) {
-        throw RuntimeFailure(failure.failure(), u"%1\n%2=%3 in %4"_s.arg(failure.text(), setting.key, stored,
-                                                                         settingsPath(values)));
-    }
+    const auto withPlace = [&](const QString& text) {
+        return u"%1\n%2=%3 in %4"_s.arg(text, setting.key, stored, settingsPath(values));
+    };
+    return {atPlace(withPlace, [&] { return indexOf(setting, stored); }), {}};
 }
 
 QString storedText(const Setting& setting, const SettingValue& value)
 {
     switch (setting.form) {
-    case SettingForm::SignedIndex:
+    case SignedIndex:
         return signedNumberText(value.index);
-    case SettingForm::PlainIndex:
+    case PlainIndex:
         return numberText(value.index);
-    case SettingForm::UpperText:
+    case UpperText:
         break;
     }
     return value.text.toUpper();
@@ -73,43 +78,17 @@ QString storedText(const Setting& setting, const SettingValue& value)
 
 std::span<const Setting> settings()
 {
-    using enum SettingForm;
-    static const std::array table{
-        Setting{u"Port"_s,
-                SignedIndex,
-                u"0"_s,
-                u"CboPort"_s,
-                u"Serial Port"_s,
-                {u"Port 1"_s, u"Port 2"_s, u"Port 3"_s, u"Port 4"_s}},
-        Setting{u"Baud"_s,
-                SignedIndex,
-                u"0"_s,
-                u"CboBaud"_s,
-                u"Baud Rate"_s,
-                {u"2400"_s, u"4800"_s, u"9600"_s, u"19200"_s}},
-        Setting{u"ConnectionType"_s,
-                SignedIndex,
-                u"0"_s,
-                u"CboConnection"_s,
-                u"Connection"_s,
-                {u"Direct"_s, u"Modem"_s}},
-        Setting{u"NoOfECRs"_s, PlainIndex, u"0"_s, u"CboECRs"_s, u"No Of ECR's"_s, registerCounts()},
-        Setting{u"ModemReset"_s, UpperText, u"AT&F"_s, u"TxtReset"_s, u"Modem Reset"_s, {}},
-        Setting{u"ModemString"_s, UpperText, u"ATZ1"_s, u"TxtString"_s, u"Modem String"_s, {}},
-        Setting{u"Telephone"_s, UpperText, {}, u"TxtTelephone"_s, u"Telephone No."_s, {}},
-        Setting{u"ECRModel"_s,
-                SignedIndex,
-                u"0"_s,
-                u"CboModel"_s,
-                u"ECR Model"_s,
-                {u"Velmar -V2"_s, u"Velmar V2 Card"_s, u"Velmar +V3"_s, u"Dorvik"_s}},
-    };
     return table;
+}
+
+QStringList itemsOf(const Setting& setting)
+{
+    return setting.items.toString().split(u'|');
 }
 
 QList<SettingValue> readSettings(const ApplicationValues& values)
 {
-    QList<SettingValue> read(static_cast<qsizetype>(settings().size()));
+    QList<SettingValue> read(std::ssize(table));
     for (const int row : readingOrder)
         read[row] = readValue(values, settings()[static_cast<std::size_t>(row)]);
     return read;

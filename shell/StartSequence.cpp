@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr double splashSeconds = 4;
-/// Between two looks at the clock, so that the wait does not keep the processor busy.
+/// Between two looks at the clock, so that the processor is free meanwhile.
 constexpr unsigned long pauseMilliseconds = 10;
 constexpr double millisecondsPerSecond = 1000;
 
@@ -54,7 +54,7 @@ void StartSequence::showSplash()
     splash.unload();
 }
 
-/// Plain seconds since midnight: a splash shown just before midnight stays for about a day.
+/// The clock starts again at midnight, so a splash shown just before stays for about a day.
 void StartSequence::waitOutSplash(double shownAt)
 {
     while (m_clock() - shownAt <= splashSeconds) {

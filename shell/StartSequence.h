@@ -1,4 +1,4 @@
-// From the start of the program to the main window that is ready for work.
+// What happens between the start of the program and the ready main window.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -18,15 +18,16 @@ using SecondsSinceMidnight = std::function<double()>;
 /// The machine's clock.
 [[nodiscard]] double machineSecondsSinceMidnight();
 
-/// Runs once. The main window exists before it and stays hidden until its end, since the splash writes into
-/// the window's status bar and stands in its middle.
+/// Runs once. The main window is made before it, since the splash needs its status bar and its place, but is
+/// shown last.
 class StartSequence
 {
 public:
     StartSequence(ApplicationValues& values, Boxes& boxes, FrmMain& mainWindow, SecondsSinceMidnight clock);
 
-    /// Splash, choice of the customer, databasePath, the late field of the customer's database, main window.
-    /// @return false when the user closed the customer dialog: the program ends then, and nothing was shown.
+    /// Shows the splash, lets the user choose the customer, sets databasePath, adds the field that older
+    /// databases lack, shows the main window.
+    /// @return false when the user closed the customer dialog: the program ends without a main window.
     [[nodiscard]] bool run();
 
 private:

@@ -5,8 +5,10 @@
 #include "ui/Appearance.h"
 
 #include <QCloseEvent>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace norvane::shell
 {
@@ -21,6 +23,16 @@ StatusForm::StatusForm(const QString& name, const QString& caption, const QStrin
     m_status.setPanel(panelText);
 }
 
+QVBoxLayout* StatusForm::makeColumn()
+{
+    auto* const column = new QVBoxLayout(this);
+    constexpr int margin = ui::spacing::formMargin;
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(ui::spacing::groupGap);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    return column;
+}
+
 QPushButton* StatusForm::addButton(const QString& name, const QString& caption)
 {
     auto* const button = new QPushButton(caption, this);
@@ -28,6 +40,16 @@ QPushButton* StatusForm::addButton(const QString& name, const QString& caption)
     button->setAccessibleName(name);
     button->setMinimumWidth(ui::buttonWidth);
     return button;
+}
+
+QLayout* StatusForm::makeButtonRow(std::initializer_list<QPushButton*> buttons)
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(ui::spacing::controlGap);
+    row->addStretch();
+    for (QPushButton* const button : buttons)
+        row->addWidget(button);
+    return row;
 }
 
 void StatusForm::setKeys(QPushButton* onEnter, QPushButton* onEscape)
@@ -42,17 +64,20 @@ void StatusForm::closeEvent(QCloseEvent* event)
     QWidget::closeEvent(event);
 }
 
+QPushButton* StatusForm::buttonFor(int key) const
+{
+    if (key == Qt::Key_Escape)
+        return m_onEscape;
+    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        return nullptr;
+    auto* const focused = qobject_cast<QPushButton*>(focusWidget());
+    return focused ? focused : m_onEnter;
+}
+
 void StatusForm::keyPressEvent(QKeyEvent* event)
 {
-    QPushButton* pressed = nullptr;
-    if (event->key() == Qt::Key_Escape) {
-        pressed = m_onEscape;
-    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        auto* const focused = qobject_cast<QPushButton*>(focusWidget());
-        pressed = focused ? focused : m_onEnter;
-    }
-    if (pressed) {
-        pressed->click();
+    if (QPushButton* const button = buttonFor(event->key())) {
+        button->click();
     } else {
         QWidget::keyPressEvent(event);
     }

@@ -1,4 +1,4 @@
-// Price utilities and logo images in the frame of the main window; see UtilityOpeners.h.
+// Runs price utilities and logo images for the main window; see UtilityOpeners.h.
 #include "shell/UtilityOpeners.h"
 
 #include "shell/LongWork.h"
@@ -16,11 +16,13 @@ void runUtility(FrmMain& main, const utilities::PriceUtility& utility, const App
                 Boxes& boxes)
 {
     std::optional<LongWork> work;
-    const utilities::WalkFrame frame{[&] { work.emplace(main); },
-                                     [&] {
-                                         work->letEventsRun();
-                                     }};
-    utilities::runPriceUtility(utility, values.databasePath, boxes, frame);
+    const auto begin = [&] {
+        work.emplace(main);
+    };
+    const auto everyRow = [&] {
+        work->letEventsRun();
+    };
+    utilities::runPriceUtility(utility, values.databasePath, boxes, {begin, everyRow});
 }
 
 } // namespace

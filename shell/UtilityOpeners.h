@@ -1,4 +1,4 @@
-// The handlers of the menus Utilities and N&V Image.
+// Openers of the menus Utilities and N&V Image.
 #pragma once
 
 #include "shell/FrmMain.h"
@@ -6,7 +6,7 @@
 namespace norvane::shell
 {
 
-/// By handler name ("TransferEuro_Click"). The references are kept and must outlive the main window.
+/// By handler name ("TransferEuro_Click"). Keeps the references, which must outlive the main window.
 [[nodiscard]] FrmMain::Openers makeUtilityOpeners(const ApplicationValues& values, Boxes& boxes);
 
 } // namespace norvane::shell

@@ -6,7 +6,6 @@
 
 #include <QFrame>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -21,11 +20,39 @@ namespace
 constexpr int iconSide = 64;
 constexpr int textWidth = 380;
 
-QString disclaimer()
+constexpr auto disclaimer =
+    "Warning: this program changes how cash registers calculate, print and report. Check every register "
+    "after a transfer; its makers answer for no loss that comes from its use."_L1;
+
+QLabel* makePicture()
 {
-    return u"Warning: this program changes how cash registers calculate, print and report. Check every "
-           u"register "
-           "after a transfer; its makers answer for no loss that comes from its use."_s;
+    auto* const picture = new QLabel;
+    picture->setPixmap(ui::applicationIcon().pixmap(iconSide));
+    return picture;
+}
+
+/// The picture with the labels beside it.
+QLayout* makeHeading()
+{
+    const AboutLabels labels = makeAboutLabels();
+    QFont bold = labels.lblTitle->font();
+    bold.setBold(true);
+    labels.lblTitle->setFont(bold);
+    auto* const grid = new QGridLayout;
+    grid->setHorizontalSpacing(ui::spacing::formMargin);
+    grid->addWidget(makePicture(), 0, 0, 3, 1, Qt::AlignTop);
+    for (int row = 0; QLabel* const label : {labels.lblTitle, labels.lblVersion, labels.lblDescription})
+        grid->addWidget(label, row++, 1);
+    grid->setColumnStretch(1, 1);
+    return grid;
+}
+
+QLabel* makeDisclaimer()
+{
+    QLabel* const label = makeTextLabel(u"lblDisclaimer"_s, disclaimer);
+    label->setWordWrap(true);
+    label->setFixedWidth(textWidth);
+    return label;
 }
 
 } // namespace
@@ -38,57 +65,26 @@ frmAbout::frmAbout(Boxes& boxes, MainStatusBar& status, QWidget* parent)
 
 void frmAbout::layOut()
 {
-    auto* const rows = new QVBoxLayout(this);
-    constexpr int margin = ui::spacing::formMargin;
-    rows->setContentsMargins(margin, margin, margin, margin);
-    rows->setSpacing(ui::spacing::groupGap);
-    rows->setSizeConstraint(QLayout::SetFixedSize);
-    rows->addLayout(layOutLabels());
+    QVBoxLayout* const column = makeColumn();
+    column->addLayout(makeHeading());
     auto* const line = new QFrame;
     line->setFrameStyle(static_cast<int>(QFrame::HLine) | static_cast<int>(QFrame::Sunken));
-    rows->addWidget(line);
-    QLabel* const lblDisclaimer = makeTextLabel(u"lblDisclaimer"_s, disclaimer());
-    lblDisclaimer->setWordWrap(true);
-    lblDisclaimer->setFixedWidth(textWidth);
-    rows->addWidget(lblDisclaimer);
-    rows->addLayout(layOutButtons());
+    column->addWidget(line);
+    column->addWidget(makeDisclaimer());
+    column->addLayout(makeButtons());
 }
 
-QLayout* frmAbout::layOutLabels()
-{
-    auto* const picture = new QLabel;
-    picture->setPixmap(ui::applicationIcon().pixmap(iconSide));
-    const AboutLabels labels = makeAboutLabels();
-    QFont bold = labels.lblTitle->font();
-    bold.setBold(true);
-    labels.lblTitle->setFont(bold);
-
-    auto* const grid = new QGridLayout;
-    grid->setHorizontalSpacing(ui::spacing::formMargin);
-    grid->addWidget(picture, 0, 0, 3, 1, Qt::AlignTop);
-    grid->addWidget(labels.lblTitle, 0, 1);
-    grid->addWidget(labels.lblVersion, 1, 1);
-    grid->addWidget(labels.lblDescription, 2, 1);
-    grid->setColumnStretch(1, 1);
-    return grid;
-}
-
-QLayout* frmAbout::layOutButtons()
+QLayout* frmAbout::makeButtons()
 {
     QPushButton* const cmdOK = addButton(u"cmdOK"_s, u"OK"_s);
     QPushButton* const cmdSysInfo = addButton(u"cmdSysInfo"_s, u"&System Info..."_s);
     setKeys(cmdOK, cmdOK);
     connect(cmdOK, &QPushButton::clicked, this, &QWidget::close);
     connect(cmdSysInfo, &QPushButton::clicked, this, &frmAbout::startSysInfo);
-    auto* const buttons = new QHBoxLayout;
-    buttons->setSpacing(ui::spacing::controlGap);
-    buttons->addStretch();
-    buttons->addWidget(cmdOK);
-    buttons->addWidget(cmdSysInfo);
-    return buttons;
+    return makeButtonRow({cmdOK, cmdSysInfo});
 }
 
-/// No platform that the program runs on so far has a program of that kind which it could name.
+/// No platform that the program runs on so far has a system information program to start.
 void frmAbout::startSysInfo()
 {
     m_boxes.message(u"System Information Is Unavailable At This Time"_s);

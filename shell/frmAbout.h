@@ -9,7 +9,7 @@ class QLayout;
 namespace norvane::shell
 {
 
-/// A child window of the main window: name, version and purpose of the program, and whose risk its use is.
+/// A child window of the main window: name, version and purpose of the program, and a warning.
 class frmAbout : public StatusForm
 {
     Q_OBJECT
@@ -19,8 +19,7 @@ public:
 
 private:
     void layOut();
-    [[nodiscard]] static QLayout* layOutLabels();
-    [[nodiscard]] QLayout* layOutButtons();
+    [[nodiscard]] QLayout* makeButtons();
     void startSysInfo();
 
     Boxes& m_boxes;

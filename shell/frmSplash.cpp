@@ -24,7 +24,7 @@ constexpr int pictureMargin = 36;
 constexpr int titlePixels = 20;
 constexpr int textPixels = 14;
 
-void dress(QLabel& label, int pixels, QFont::Weight weight, const QColor& colour)
+void setLook(QLabel& label, int pixels, QFont::Weight weight, const QColor& colour)
 {
     QFont font = label.font();
     font.setPixelSize(pixels);
@@ -34,6 +34,15 @@ void dress(QLabel& label, int pixels, QFont::Weight weight, const QColor& colour
     palette.setColor(QPalette::WindowText, colour);
     label.setPalette(palette);
     label.setWordWrap(true);
+}
+
+AboutLabels makeSplashLabels()
+{
+    const AboutLabels labels = makeAboutLabels();
+    setLook(*labels.lblTitle, titlePixels, QFont::DemiBold, Qt::white);
+    setLook(*labels.lblDescription, textPixels, QFont::Normal, ui::colours::linePale);
+    setLook(*labels.lblVersion, textPixels, QFont::Normal, ui::colours::linePale);
+    return labels;
 }
 
 } // namespace
@@ -48,11 +57,7 @@ frmSplash::frmSplash(MainStatusBar& status)
 
 void frmSplash::layOut()
 {
-    const AboutLabels labels = makeAboutLabels();
-    dress(*labels.lblTitle, titlePixels, QFont::DemiBold, Qt::white);
-    dress(*labels.lblDescription, textPixels, QFont::Normal, ui::colours::linePale);
-    dress(*labels.lblVersion, textPixels, QFont::Normal, ui::colours::linePale);
-
+    const AboutLabels labels = makeSplashLabels();
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(pictureSide + 2 * pictureMargin, pictureMargin, pictureMargin, pictureMargin);
     rows->setSpacing(ui::spacing::groupGap);

@@ -6,8 +6,7 @@
 namespace norvane::shell
 {
 
-/// Stays until the start sequence closes it; neither a click nor a key ends it earlier. Place it on the main
-/// window with ui::centreOn().
+/// Stays until unload(): no click and no key closes it. Place it on the main window with ui::centreOn().
 class frmSplash : public StatusForm
 {
     Q_OBJECT
@@ -15,7 +14,7 @@ class frmSplash : public StatusForm
 public:
     explicit frmSplash(MainStatusBar& status);
 
-    /// Closes the splash, which the user cannot do.
+    /// Closes the splash.
     void unload();
 
 protected:
