@@ -1,4 +1,4 @@
-// The notices and the start of the converter; see LogoImages.h.
+// Notices and start of the converter; see LogoImages.h.
 #include "utilities/LogoImages.h"
 
 #include "base/SharedRoutines.h"
@@ -38,7 +38,7 @@ std::span<const LogoConversion> logoConversions()
 void convertLogoImages(const LogoConversion& conversion, const ApplicationValues& values, Boxes& boxes)
 {
     boxes.message(notice(conversion));
-    // The quotes keep a folder with blanks in its name in one word.
+    // In quotes, since the folder's name may have blanks.
     if (conversion.startsConverter)
         RunAndWait(values, u'"' + joinPath(values.appPath, u"conv_nv.exe"_s) + u'"');
 }

@@ -1,4 +1,4 @@
-// The entries that prepare bitmaps for a receipt printer: a notice, and the external program that does it.
+// The menu entries that prepare bitmaps for a receipt printer: a notice and an external program.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -11,7 +11,7 @@
 namespace norvane::utilities
 {
 
-/// One entry. The second one names another printer than its caption does, and starts nothing.
+/// One entry. The second one names another printer than its caption, and starts no program.
 struct LogoConversion {
     QLatin1StringView handler; ///< "Convert350_Click"
     QLatin1StringView printerNote;
@@ -20,9 +20,8 @@ struct LogoConversion {
 
 [[nodiscard]] std::span<const LogoConversion> logoConversions();
 
-/// Tells what the images must be like, then runs the converter from the program's folder and waits for the
-/// user to close it. Without that program nothing happens after the notice. Whatever the converter makes
-/// stays where the user put it.
+/// Tells what the images must be like, then runs the converter from the program's folder and waits until the
+/// user closes it. Nothing happens after the notice when the converter is missing.
 void convertLogoImages(const LogoConversion& conversion, const ApplicationValues& values, Boxes& boxes);
 
 } // namespace norvane::utilities

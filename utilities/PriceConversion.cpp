@@ -1,4 +1,4 @@
-// The steps of the rounding, in whole thousandths; see PriceConversion.h.
+// The steps of the rounding; see PriceConversion.h.
 #include "utilities/PriceConversion.h"
 
 #include "platform/Numbers.h"
@@ -11,7 +11,7 @@ namespace norvane::utilities
 namespace
 {
 
-/// What a quotient is good for before it is rounded at a place.
+/// Digits of a quotient before it is rounded.
 constexpr int significantDigits = 15;
 
 } // namespace
@@ -27,8 +27,8 @@ std::string convertedPrice(std::string_view price, const Decimal& rate)
     const Decimal quotient = Decimal::leading(price).dividedBy(rate, significantDigits);
     const std::int64_t cut = quotient.rounded(4).shifted(4).coefficient() / 10;
     const std::int64_t lastDigit = std::abs(cut) % 10;
-    // A small last digit is taken off the signed number, so a negative price moves away from zero: -1.234
-    // becomes -1.238 and is -1.24.
+    // `cut` counts thousandths. Its last digit is subtracted from the signed number, so a negative price
+    // moves away from zero: -1.234 becomes -1.238 and then -1.24.
     const Decimal result = Decimal(lastDigit >= 5 ? cut : cut - lastDigit, 3).rounded(2);
     return result.coefficient() < 0 ? result.text() : ' ' + result.text();
 }

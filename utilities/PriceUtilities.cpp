@@ -1,4 +1,4 @@
-// Table and engine of the Utilities menu; see PriceUtilities.h.
+// Table of the Utilities menu and how a row is run; see PriceUtilities.h.
 #include "utilities/PriceUtilities.h"
 
 #include "utilities/PriceConversion.h"
@@ -45,7 +45,7 @@ constexpr auto resetSales = std::to_array<QLatin1StringView>({
     "delete * from plusales"_L1,
     "delete * from timesales"_L1,
 });
-// The smart cards' categories go with the sales of the cards; the next upload brings them back.
+// The card categories are lost too, until the next upload.
 constexpr auto resetCards = std::to_array<QLatin1StringView>({"delete * from CARDCATEGORY"_L1});
 
 constexpr BoxWords toEuro{"Update Euro prices"_L1, "Continue?"_L1};

@@ -1,4 +1,4 @@
-// The entries of the Utilities menu: what each asks, does and tells, as a table, and the one engine for it.
+// The entries of the Utilities menu: what each asks, does and tells.
 #pragma once
 
 #include "platform/Boxes.h"
@@ -19,7 +19,7 @@ struct BoxWords {
     QLatin1StringView text;
 };
 
-/// One entry. It is either a walk over the PLUs or a number of statements.
+/// One entry. It either changes every PLU (`fields`) or runs `statements`.
 struct PriceUtility {
     QLatin1StringView handler; ///< "TransferEuro_Click"
     BoxWords confirm;
@@ -27,21 +27,21 @@ struct PriceUtility {
     std::span<const PricePair> fields;
     std::span<const QLatin1StringView> statements;
     BoxWords done;
-    /// Run after the user has closed the last box, and never told.
+    /// Run after the user has closed the last box, which does not mention them.
     std::span<const QLatin1StringView> afterwards = {};
 };
 
 [[nodiscard]] std::span<const PriceUtility> priceUtilities();
 
-/// What the window around a walk does meanwhile.
+/// What the window does while every PLU is changed.
 struct WalkFrame {
-    std::function<void()> begins;   ///< the user has answered everything, the records come now
-    std::function<void()> everyRow; ///< lets the window's events run; called often, so it must be cheap
+    std::function<void()> begins;   ///< called after the user's last answer, before the first record
+    std::function<void()> everyRow; ///< called before each record, so it must be cheap
 };
 
-/// Asks, with No as the answer that Enter gives, does the work on the database at @p databasePath and tells
-/// that it is done. No, and a rate of 0, end it with no word.
-/// @throws RuntimeFailure what the database reports; what was done before stays done.
+/// Asks (Enter means No), changes the database at @p databasePath and tells that it is done. Does nothing
+/// more after No or a rate of 0.
+/// @throws RuntimeFailure what the database reports; the changes before it stay.
 void runPriceUtility(const PriceUtility& utility, const QString& databasePath, Boxes& boxes,
                      const WalkFrame& frame);
 

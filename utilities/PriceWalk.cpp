@@ -1,16 +1,18 @@
-// Reading, converting and storing, record by record; see PriceWalk.h.
+// Reads, converts and stores record by record; see PriceWalk.h.
 #include "utilities/PriceWalk.h"
 
 #include "utilities/PriceConversion.h"
 
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::utilities
 {
 namespace
 {
 
-/// A pair of fields by their places in the record.
+/// A price pair as places in the record, which are faster than names.
 struct PairOfPlaces {
     int source;
     int target;
@@ -32,6 +34,15 @@ store::Value targetValue(const store::Value& source, const std::optional<Decimal
                                               : convertedPrice(source.toUtf8(), *rate));
 }
 
+void transferRow(store::Recordset& plus, const std::vector<PairOfPlaces>& places,
+                 const std::optional<Decimal>& rate)
+{
+    plus.edit();
+    for (const auto& [source, target] : places)
+        plus.setValue(target, targetValue(plus.value(source), rate));
+    plus.update();
+}
+
 } // namespace
 
 void transferPrices(store::Database& database, store::Recordset& plus, std::span<const PricePair> fields,
@@ -39,13 +50,10 @@ void transferPrices(store::Database& database, store::Recordset& plus, std::span
 {
     const auto places = placesOf(plus, fields);
     store::Transaction transaction(database);
-    plus.setIndex(QStringLiteral("plunumber"));
+    plus.setIndex(u"plunumber"_s);
     for (plus.moveFirst(); !plus.atEnd(); plus.moveNext()) {
         everyRow();
-        plus.edit();
-        for (const auto& [source, target] : places)
-            plus.setValue(target, targetValue(plus.value(source), rate));
-        plus.update();
+        transferRow(plus, places, rate);
     }
     transaction.commit();
 }

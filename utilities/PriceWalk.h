@@ -1,4 +1,4 @@
-// The walk over all PLUs that fills price fields from others.
+// Fills price fields of all PLUs from other ones.
 #pragma once
 
 #include "platform/Decimal.h"
@@ -21,11 +21,11 @@ struct PricePair {
 };
 
 /// Fills the target fields of every record of @p plus, a recordset on pludata in @p database, in the order of
-/// index plunumber: with the source converted at @p rate, or value for value without one. Calls @p everyRow
-/// before each record.
+/// index plunumber: with the source converted at @p rate, or with the source itself without a rate. Calls
+/// @p everyRow before each record.
 ///
-/// One transaction, which commits at the end and also when a failure comes through it: the records before it
-/// stay changed. Until then other connections cannot store, nor always read.
+/// One transaction, which a failure commits too: the records before it stay changed. Until then other
+/// connections cannot write, and sometimes not read.
 /// @throws RuntimeFailure 3021 when there are no records.
 void transferPrices(store::Database& database, store::Recordset& plus, std::span<const PricePair> fields,
                     const std::optional<Decimal>& rate, const std::function<void()>& everyRow);
