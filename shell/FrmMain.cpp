@@ -20,60 +20,68 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::shell
 {
 namespace
 {
 
-/// What the window leaves free of the screen.
+/// The window is so much smaller than the screen.
 constexpr double spareWidthTwips = 4;
 constexpr double spareHeightTwips = 450;
 
-/// The shared forms have one size, and one way out beside their own buttons.
+/// The shared forms have a title with a close button, but their size is fixed.
 constexpr Qt::WindowFlags sharedFormFlags = Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 
-/// Whole pixels only: a begun one stays free.
+/// Rounded down to whole pixels.
 int pixelsLess(int pixels, double spareTwips)
 {
     const paper::Length left = paper::dots(pixels, paper::screenDotsPerInch) - paper::twips(spareTwips);
     return static_cast<int>(left.inDots(paper::screenDotsPerInch));
 }
 
-/// "M&ix & Match Table": an ampersand before a blank marks no access letter but is one of the words.
+/// An ampersand before a blank is text and marks no access letter: "M&ix & Match Table".
 QString menuText(QLatin1StringView caption)
 {
-    static const QRegularExpression ampersandWord(QStringLiteral("(?<!&)& "));
-    return caption.toString().replace(ampersandWord, QStringLiteral("&& "));
+    static const QRegularExpression ampersandWord(u"(?<!&)& "_s);
+    return caption.toString().replace(ampersandWord, u"&& "_s);
 }
 
 void nameAction(QAction& action, const MenuEntry& entry)
 {
     action.setObjectName(entry.name);
     action.setEnabled(entry.choosable == Choosable::Yes);
-    // Some desktops move entries named "About" or "Setup" into a menu of their own.
+    // Some desktops would move entries named "About" or "Setup" into another menu.
     action.setMenuRole(QAction::NoRole);
 }
 
 } // namespace
 
 FrmMain::FrmMain(ApplicationValues& values, Boxes& boxes, Openers openers)
-    : m_values(values), m_boxes(boxes), m_openers(std::move(openers)), m_area(new QMdiArea(this)),
+    : m_values(values), m_boxes(boxes), m_openers(std::move(openers)), m_area(makeArea()),
       StatusBar1(new MainStatusBar(this))
 {
-    setObjectName(QStringLiteral("FrmMain"));
+    setObjectName(u"FrmMain"_s);
     setAccessibleName(objectName());
-    setWindowTitle(QStringLiteral("Norvane Velmar & Dorvik Programming Utility."));
-    m_area->setObjectName(QStringLiteral("Workspace"));
-    m_area->setAccessibleName(m_area->objectName());
-    m_area->setBackground(ui::colours::desktop);
-    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setWindowTitle(u"Norvane Velmar & Dorvik Programming Utility."_s);
     setCentralWidget(m_area);
     setStatusBar(StatusBar1);
     StatusBar1->setPanel(readyText());
     buildMenu();
     placeOnScreen();
+}
+
+QMdiArea* FrmMain::makeArea()
+{
+    auto* const area = new QMdiArea(this);
+    area->setObjectName(u"Workspace"_s);
+    area->setAccessibleName(area->objectName());
+    area->setBackground(ui::colours::desktop);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    return area;
 }
 
 void FrmMain::placeOnScreen()
@@ -98,13 +106,8 @@ void FrmMain::buildMenu()
 
 QAction* FrmMain::buildEntry(const MenuEntry& entry)
 {
-    if (entry.opens == Opens::Menu) {
-        auto* const menu = new QMenu(menuText(entry.caption), this);
-        menu->setObjectName(entry.name);
-        menu->setAccessibleName(entry.name);
-        nameAction(*menu->menuAction(), entry);
-        return menu->menuAction();
-    }
+    if (entry.opens == Opens::Menu)
+        return buildMenuOf(entry);
     auto* const action = new QAction(menuText(entry.caption), this);
     nameAction(*action, entry);
     action->setSeparator(entry.opens == Opens::Separator);
@@ -112,25 +115,24 @@ QAction* FrmMain::buildEntry(const MenuEntry& entry)
     return action;
 }
 
+QAction* FrmMain::buildMenuOf(const MenuEntry& entry)
+{
+    auto* const menu = new QMenu(menuText(entry.caption), this);
+    menu->setObjectName(entry.name);
+    menu->setAccessibleName(entry.name);
+    nameAction(*menu->menuAction(), entry);
+    return menu->menuAction();
+}
+
 void FrmMain::open(const MenuEntry& entry)
 {
     if (m_working)
         return;
-    switch (entry.opens) {
-    case Opens::Screen:
-    case Opens::ModelScreen:
-    case Opens::GatedScreen:
+    const bool isForm = entry.opens == Opens::Form || entry.opens == Opens::ModelForm;
+    if (opensScreen(entry)) {
         openScreen(entry);
-        break;
-    case Opens::Form:
-    case Opens::ModelForm:
-        if (!isNotYetBuilt(entry.name))
-            callOpener(targetOf(entry, m_values), entry);
-        break;
-    case Opens::Nothing:
-    case Opens::Menu:
-    case Opens::Separator:
-        break;
+    } else if (isForm && !isNotYetBuilt(entry.name)) {
+        callOpener(targetOf(entry, m_values), entry);
     }
 }
 
@@ -140,7 +142,7 @@ void FrmMain::openScreen(const MenuEntry& entry)
         return;
     m_values.screenFilePath = joinPath(m_values.appPath, targetOf(entry, m_values));
     const ui::WaitPointer wait;
-    callOpener(QStringLiteral("OptionForm"), entry);
+    callOpener(u"OptionForm"_s, entry);
 }
 
 void FrmMain::callOpener(const QString& form, const MenuEntry& entry)
@@ -153,8 +155,8 @@ QMdiSubWindow& FrmMain::showChild(QWidget* form, Qt::WindowFlags flags)
 {
     form->setAttribute(Qt::WA_DeleteOnClose);
     QMdiSubWindow* const child = m_area->addSubWindow(form, flags);
-    child->setObjectName(form->objectName() + QStringLiteral("Window"));
-    // A form that closes itself leaves an empty frame behind, otherwise.
+    child->setObjectName(form->objectName() + u"Window"_s);
+    // Otherwise a form that closes itself leaves an empty frame behind.
     connect(form, &QObject::destroyed, child, &QObject::deleteLater);
     form->show();
     child->show();
@@ -163,8 +165,7 @@ QMdiSubWindow& FrmMain::showChild(QWidget* form, Qt::WindowFlags flags)
     return *child;
 }
 
-/// In the middle of the window, but with its lower edge still on the area that the menu and the status bar
-/// leave.
+/// In the middle of the window, but moved up when the status bar would cover its lower edge.
 void FrmMain::place(QMdiSubWindow& child)
 {
     ui::centreOn(child, *this);
@@ -188,7 +189,7 @@ void FrmMain::showShared(const QString& name, const std::function<QWidget*()>& m
 
 void FrmMain::showCustomer()
 {
-    StatusBar1->setStatusText(QStringLiteral("Customer Database ") + m_values.customerName);
+    StatusBar1->setStatusText(u"Customer Database "_s + m_values.customerName);
 }
 
 void FrmMain::unload()
@@ -223,8 +224,7 @@ void FrmMain::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    m_unloading = m_unloading || m_boxes.ask(QStringLiteral("Are You Sure?"), QStringLiteral("Exit Program"),
-                                             BoxIcon::Question);
+    m_unloading = m_unloading || m_boxes.ask(u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question);
     event->setAccepted(m_unloading);
     if (m_unloading)
         Q_EMIT unloaded();

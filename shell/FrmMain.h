@@ -20,46 +20,48 @@ namespace norvane::shell
 
 class MainStatusBar;
 
-/// Reads nothing and opens nothing by itself: the menu table says what an entry opens, the openers do it.
+/// The menu table says what an entry opens; the openers, which are handed in, open it.
 class FrmMain : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /// Opens what stands behind a menu entry.
+    /// Opens what a menu entry is for.
     using Opener = std::function<void(FrmMain&, const MenuEntry&)>;
-    /// Openers by form name ("FrmComm"); the record editor goes by "OptionForm" and finds its file in
+    /// Openers by form name ("FrmComm"). The record editor is "OptionForm" and finds its file in
     /// screenFilePath. An entry whose form has no opener opens nothing.
     using Openers = QHash<QString, Opener>;
 
     FrmMain(ApplicationValues& values, Boxes& boxes, Openers openers);
 
     [[nodiscard]] MainStatusBar& statusBar1() { return *StatusBar1; }
-    /// Puts "Customer Database " and the customer's name into the status bar.
+    /// Shows "Customer Database " and the customer's name in the status bar.
     void showCustomer();
 
-    /// Shows @p form as a child window in the middle of this one. The child window, which has @p flags, owns
-    /// the form from now on; the form's own close ends both.
+    /// Shows @p form in the middle of this window. The returned child window has @p flags and owns the form;
+    /// when the form closes, both are gone.
     QMdiSubWindow& showChild(QWidget* form, Qt::WindowFlags flags = {});
-    /// Shows the one instance of form @p name, which has a fixed size; makes it when it is not open yet.
+    /// Shows the form @p name, of which only one is open at a time; makes it when none is. Its size is fixed.
     void showShared(const QString& name, const std::function<QWidget*()>& make);
-    /// Unloads the window and its child windows without asking.
+    /// Closes the window and its child windows without asking.
     void unload();
 
-    /// Takes no further work until endWork(): see LongWork.
+    /// Nothing can be opened or closed until endWork(); see LongWork.
     void beginWork();
     void endWork();
 
 Q_SIGNALS:
-    /// The window is gone for good; the program ends.
+    /// The window was closed; the program ends.
     void unloaded();
 
 protected:
-    /// Asks before the window goes, however it is closed.
+    /// Asks first, however the user closes the window.
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildMenu();
+    [[nodiscard]] QMdiArea* makeArea();
+    [[nodiscard]] QAction* buildMenuOf(const MenuEntry& entry);
     [[nodiscard]] QAction* buildEntry(const MenuEntry& entry);
     void placeOnScreen();
     void open(const MenuEntry& entry);

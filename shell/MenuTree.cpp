@@ -148,6 +148,11 @@ std::span<const MenuEntry> menuTree()
     return entries;
 }
 
+bool opensScreen(const MenuEntry& entry)
+{
+    return entry.opens == Screen || entry.opens == ModelScreen || entry.opens == GatedScreen;
+}
+
 const MenuEntry* menuEntry(QLatin1StringView name)
 {
     const auto* const found = std::ranges::find(entries, name, &MenuEntry::name);

@@ -34,6 +34,9 @@ struct MenuEntry {
 /// All entries, each menu before its own; the entries of a menu in their order on the screen.
 [[nodiscard]] std::span<const MenuEntry> menuTree();
 
+/// Whether @p entry opens a record editor.
+[[nodiscard]] bool opensScreen(const MenuEntry& entry);
+
 /// The entry with the control name @p name, or nullptr.
 [[nodiscard]] const MenuEntry* menuEntry(QLatin1StringView name);
 

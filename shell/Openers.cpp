@@ -1,4 +1,4 @@
-// The frame's own forms, the record editor, the exchange dialog and the sales collection; see Openers.h.
+// Opens record editor, exchange dialog and sales collection; see Openers.h.
 #include "shell/Openers.h"
 
 #include "exchange/FrmComm.h"
@@ -14,7 +14,7 @@ namespace norvane::shell
 namespace
 {
 
-/// Both directions of the exchange dialog.
+/// What the exchange dialog is opened for.
 struct Direction {
     QLatin1StringView entry;
     QLatin1StringView mode;
@@ -32,8 +32,7 @@ void openExchange(FrmMain& main, const MenuEntry& entry, ApplicationValues& valu
     dialog.exec();
 }
 
-/// The menus can be used while its modem dials, so the program can be ended meanwhile: that leaves the form
-/// as its own exit does.
+/// The user can end the program while the modem dials. The form must hang up then, as its own exit does.
 void openCollection(FrmMain& main, ApplicationValues& values, Boxes& boxes)
 {
     main.showShared(u"FrmsalesComm"_s, [&] {

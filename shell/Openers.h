@@ -1,4 +1,4 @@
-// What stands behind the menu entries: every form of the program that there is.
+// Openers of all menu entries.
 #pragma once
 
 #include "shell/FrmMain.h"
@@ -6,7 +6,7 @@
 namespace norvane::shell
 {
 
-/// The openers for the main window. The references are kept and must outlive it.
+/// Keeps the references, which must outlive the main window.
 [[nodiscard]] FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes);
 
 } // namespace norvane::shell

@@ -45,12 +45,6 @@ struct Shot {
     QImage image;
 };
 
-bool opensScreen(const shell::MenuEntry& entry)
-{
-    return entry.opens == shell::Opens::Screen || entry.opens == shell::Opens::ModelScreen ||
-           entry.opens == shell::Opens::GatedScreen;
-}
-
 QAction& actionOf(const shell::MenuEntry& entry)
 {
     for (const QWidget* const window : QApplication::topLevelWidgets()) {
@@ -85,7 +79,8 @@ QVector<Shot> shotsOf(int model)
     shop.execute("insert into SYSTEMDESCRIPTORS (ID, SYSTEMDESCRIPTORS) values (1, 'TOTAL')");
     QVector<Shot> shots;
     for (const shell::MenuEntry& entry : shell::menuTree()) {
-        const QString target = opensScreen(entry) ? shell::targetOf(entry, shop.values()).mid(1) : QString();
+        const QString target =
+            shell::opensScreen(entry) ? shell::targetOf(entry, shop.values()).mid(1) : QString();
         if (target.isEmpty() || !QFileInfo::exists(target))
             continue;
         shop.boxes().shown.clear();
