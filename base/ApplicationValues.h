@@ -17,11 +17,6 @@ struct ApplicationValues {
     QString customerPath;
     /// The customer database in use. Set at the start and by the key editors only.
     QString databasePath;
-    /// Screen file that the next record editor loads.
-    QString screenFilePath;
-    /// Result of the find dialog.
-    QString searchText;
-    bool searchConfirmed = false;
     /// "UPLOAD" or "DOWNLOAD", read by the exchange dialog.
     QString exchangeMode;
 };

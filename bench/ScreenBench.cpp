@@ -73,8 +73,7 @@ public:
     Shop()
     {
         values.databasePath = m_folder.filePath(QStringLiteral("velmar.mdb"));
-        values.screenFilePath = m_folder.filePath(QStringLiteral("screen.scn"));
-        QFile file(values.screenFilePath);
+        QFile file(screenFilePath);
         require(file.open(QIODevice::WriteOnly) && file.write(screenText()) > 0, "screen file");
         store::Database::create(values.databasePath, store::catalogue());
         store::Database database(values.databasePath);
@@ -86,10 +85,13 @@ public:
             groups.update();
         }
     }
-    ApplicationValues values;
 
 private:
     QTemporaryDir m_folder;
+
+public:
+    const QString screenFilePath = m_folder.filePath(QStringLiteral("screen.scn"));
+    ApplicationValues values;
 };
 
 QWidget* bareControl(const QByteArray& kind, QWidget* parent)
@@ -137,11 +139,11 @@ void openScreen(benchmark::State& state)
 {
     Shop shop;
     ui::MessageBoxes boxes;
-    require(screens::ScreenReader(shop.values.screenFilePath).controls().size() == fieldCount, "100 fields");
+    require(screens::ScreenReader(shop.screenFilePath).controls().size() == fieldCount, "100 fields");
     bench::compare(
         state,
         [&] {
-            screens::OptionForm form(shop.values, boxes);
+            screens::OptionForm form(shop.screenFilePath, shop.values, boxes);
             form.show();
             QApplication::processEvents();
             require(form.isVisible(), "the screen shows");

@@ -4,6 +4,7 @@
 #include "exchange/ExchangeRunner.h"
 #include "link/ResultCodes.h"
 #include "ui/Appearance.h"
+#include "ui/StatusLine.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -62,7 +63,7 @@ QLayout* FrmComm::columnsOfBoxes() const
 void FrmComm::run()
 {
     // The ticks that are left tell how it went.
-    const auto ended = qScopeGuard([this] { showStep({}); });
+    const auto ended = qScopeGuard([this] { StatusBar1->setStep({}); });
     exchange();
 }
 

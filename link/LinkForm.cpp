@@ -3,11 +3,12 @@
 
 #include "base/SharedRoutines.h"
 #include "ui/Appearance.h"
+#include "ui/FormKit.h"
+#include "ui/StatusLine.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QStatusBar>
 
 namespace norvane::link
 {
@@ -17,17 +18,13 @@ LinkForm::LinkForm(const char* name, const char* runCaption, ApplicationValues& 
     : QDialog(parent), m_values(values), m_boxes(boxes), m_line(makeSerialLine()),
       m_clock(std::make_unique<SystemClock>())
 {
-    setObjectName(QLatin1String(name));
-    setAccessibleName(objectName());
+    ui::nameControl(*this, QLatin1String(name));
     Communicate = addButton("Communicate", runCaption);
     Communicate->setDefault(true);
     connect(Communicate, &QPushButton::clicked, this, &LinkForm::communicate);
     CSCmdBtn1 = addButton("CSCmdBtn1", "E&xit");
     connect(CSCmdBtn1, &QPushButton::clicked, this, &LinkForm::reject);
-    StatusBar1 = new QStatusBar(this);
-    StatusBar1->setObjectName(QStringLiteral("StatusBar1"));
-    StatusBar1->setAccessibleName(QStringLiteral("StatusBar1"));
-    StatusBar1->setSizeGripEnabled(false);
+    StatusBar1 = new ui::StatusLine(this);
 }
 
 LinkForm::~LinkForm() = default;
@@ -44,11 +41,8 @@ void LinkForm::setClock(std::unique_ptr<Clock> clock)
 
 QPushButton* LinkForm::addButton(const char* name, const char* caption)
 {
-    auto* button = new QPushButton(QLatin1String(caption), this);
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(QLatin1String(name));
+    QPushButton* const button = ui::makeButton(QLatin1String(name), QLatin1String(caption), this);
     button->setAutoDefault(false);
-    button->setMinimumWidth(ui::buttonWidth);
     return button;
 }
 
@@ -88,7 +82,7 @@ void LinkForm::communicate()
     }
     m_work = Work::Preparing;
     m_exitPressed = false;
-    m_notice.clear();
+    StatusBar1->setNotice({});
     Communicate->setEnabled(false);
     bool leavesAtEnd = false;
     {
@@ -110,7 +104,8 @@ int LinkForm::connectLink(const LinkSettings& link)
 {
     m_link = link;
     m_waitPointer.emplace();
-    m_modem = std::make_unique<Modem>(*m_line, *m_clock, [this](const QString& text) { showStep(text); });
+    m_modem = std::make_unique<Modem>(*m_line, *m_clock,
+                                      [this](const QString& text) { StatusBar1->setStep(text); });
     m_modem->setUpLine(m_link);
     int result = 0;
     if (m_link.isModem()) {
@@ -134,7 +129,7 @@ void LinkForm::reject()
 {
     m_exitPressed = true;
     if (m_work == Work::Moving) {
-        showNotice(leavingNotice());
+        StatusBar1->setNotice(leavingNotice());
         return;
     }
     disconnectLink();
@@ -151,29 +146,10 @@ RunOutside LinkForm::outside()
 {
     return {.runAndWait = [this](const QString& line) { return RunAndWait(m_values, line); },
             .readStatus = ReadStatusOut,
-            .showStep = [this](const QString& text) { showStep(text); },
-            .showNotice = [this](const QString& text) { showNotice(text); },
+            .showStep = [this](const QString& text) { StatusBar1->setStep(text); },
+            .showNotice = [this](const QString& text) { StatusBar1->setNotice(text); },
             .goOn = [this] { return !m_exitPressed; },
             .boxes = m_boxes};
-}
-
-/// The command strings of a modem end in a carriage return, which a status bar would show as a blot.
-void LinkForm::showStep(const QString& text)
-{
-    m_step = text.trimmed();
-    showStatus();
-}
-
-void LinkForm::showNotice(const QString& text)
-{
-    m_notice = text;
-    showStatus();
-}
-
-void LinkForm::showStatus()
-{
-    const bool both = !m_step.isEmpty() && !m_notice.isEmpty();
-    StatusBar1->showMessage(m_step + (both ? QStringLiteral("    ") : QString()) + m_notice);
 }
 
 } // namespace norvane::link

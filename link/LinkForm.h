@@ -17,7 +17,11 @@
 
 class QBoxLayout;
 class QPushButton;
-class QStatusBar;
+
+namespace norvane::ui
+{
+class StatusLine;
+}
 
 namespace norvane::link
 {
@@ -65,21 +69,15 @@ protected:
 
     /// This form as the outside of a run of the tools; the form must outlive it.
     [[nodiscard]] RunOutside outside();
-    /// Names the step in work.
-    void showStep(const QString& text);
-
     ApplicationValues& m_values;
     Boxes& m_boxes;
     QPushButton* Communicate = nullptr;
     QPushButton* CSCmdBtn1 = nullptr;
-    QStatusBar* StatusBar1 = nullptr;
+    ui::StatusLine* StatusBar1 = nullptr;
 
 private:
     void communicate();
     void leave();
-    /// Shows @p text beside the steps until the run ends.
-    void showNotice(const QString& text);
-    void showStatus();
 
     std::unique_ptr<SerialLine> m_line;
     std::unique_ptr<Clock> m_clock;
@@ -89,8 +87,6 @@ private:
     enum class Work { None, Preparing, Dialling, Moving };
     Work m_work = Work::None;
     bool m_exitPressed = false; ///< while a run was busy
-    QString m_step;
-    QString m_notice;
     std::optional<ui::WaitPointer> m_waitPointer;
 };
 

@@ -4,16 +4,17 @@
 #include "platform/RuntimeFailure.h"
 #include "store/Recordset.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::screens
 {
 
 QVector<QStringList> rowsOfQuery(store::Database& database, const QString& sql)
 {
-    QVector<QStringList> rows{{QStringLiteral("0"), QStringLiteral("Not used")}};
+    QVector<QStringList> rows{{u"0"_s, u"Not used"_s}};
     store::Recordset records = database.openQuery(sql);
     if (records.fieldCount() < 2) {
-        throw RuntimeFailure(Failure::UnknownName,
-                             QStringLiteral("A list needs a query of two columns: %1").arg(sql));
+        throw RuntimeFailure(Failure::UnknownName, u"A list needs a query of two columns: %1"_s.arg(sql));
     }
     for (; !records.atEnd(); records.moveNext())
         rows += {records.value(0).toText(), records.value(1).toText()};

@@ -8,6 +8,7 @@
 #include "screens/GridControl.h"
 #include "screens/LabelPairs.h"
 #include "ui/DecimalBox.h"
+#include "ui/FormKit.h"
 #include "ui/IntegerBox.h"
 #include "ui/TextBox.h"
 #include "ui/ValueList.h"
@@ -19,6 +20,8 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::screens
 {
@@ -97,10 +100,9 @@ bool isEditable(const ControlDefinition& definition, const QWidget& widget)
 FieldPanel::FieldPanel(std::shared_ptr<store::Database> database, QWidget* parent)
     : QScrollArea(parent), m_database(std::move(database)), m_picture(new QWidget(this))
 {
-    setObjectName(QStringLiteral("CSPict1"));
-    setAccessibleName(objectName());
+    ui::nameControl(*this, u"CSPict1"_s);
     setFrameShape(QFrame::NoFrame);
-    m_picture->setObjectName(QStringLiteral("Picture1"));
+    m_picture->setObjectName(u"Picture1"_s);
     m_picture->resize(0, 0);
 }
 
@@ -108,9 +110,7 @@ void FieldPanel::addControl(const ControlDefinition& definition)
 {
     const int element = definition.kind == ControlKind::Grid ? 0 : nextElement(definition.kind);
     QWidget* const widget = make(definition, element);
-    widget->setObjectName(
-        QStringLiteral("%1_%2").arg(QLatin1String(templateOf(definition.kind).array)).arg(element));
-    widget->setAccessibleName(widget->objectName());
+    ui::nameControl(*widget, u"%1_%2"_s.arg(QLatin1String(templateOf(definition.kind).array)).arg(element));
     place(definition, *widget);
     countBottom(definition);
     m_controls.append({definition, widget});
@@ -154,7 +154,7 @@ QWidget* FieldPanel::make(const ControlDefinition& definition, int element)
 
 QWidget* FieldPanel::makeFind(int element)
 {
-    auto* const button = new QPushButton(QStringLiteral("F&ind"), m_picture);
+    auto* const button = new QPushButton(u"F&ind"_s, m_picture);
     button->setAutoDefault(true);
     connect(button, &QPushButton::clicked, this, [this, element] { Q_EMIT findPressed(element); });
     return button;
@@ -188,7 +188,7 @@ QWidget* FieldPanel::makeText(const ControlDefinition& definition)
     if (definition.readOnly.value_or(false))
         makeReadOnly(*box);
     box->setJustify(definition.justify);
-    if (definition.characters.compare(QLatin1String("NUMERIC"), Qt::CaseInsensitive) == 0) {
+    if (definition.characters.compare("NUMERIC"_L1, Qt::CaseInsensitive) == 0) {
         box->setCharacters(ui::TextBox::Characters::Digits);
     } else if (definition.isHexadecimal) {
         box->setCharacters(ui::TextBox::Characters::Hexadecimal);

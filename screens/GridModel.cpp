@@ -4,6 +4,8 @@
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::screens
 {
 namespace
@@ -28,9 +30,8 @@ QString queryOf(const store::Database& database, const QString& sql)
     if (!database.hasTable(sql))
         return sql;
     const store::TableDefinition table = database.table(sql);
-    const QString query = QStringLiteral("select * from [%1]").arg(table.name);
-    return table.indexes.isEmpty() ? query
-                                   : query + QStringLiteral(" order by [%1]").arg(table.indexes[0].field);
+    const QString query = u"select * from [%1]"_s.arg(table.name);
+    return table.indexes.isEmpty() ? query : query + u" order by [%1]"_s.arg(table.indexes[0].field);
 }
 
 bool isNumber(const QString& text)
@@ -57,8 +58,7 @@ GridModel::GridModel(std::shared_ptr<store::Database> database, const QString& s
     m_total = static_cast<int>(m_records->recordCount());
     if (m_columns.size() > m_records->fieldCount()) {
         throw RuntimeFailure(Failure::InvalidArgument,
-                             QStringLiteral("The grid has %1 headings and its query %2 columns")
-                                 .arg(m_columns.size())
+                             u"The grid has %1 headings and its query %2 columns"_s.arg(m_columns.size())
                                  .arg(m_records->fieldCount()));
     }
     fetchMore({});

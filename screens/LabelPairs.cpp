@@ -7,6 +7,8 @@
 
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::screens
 {
 namespace
@@ -41,7 +43,7 @@ Widget* nextInRow(const QWidget& widget, const QVector<Widget*>& others)
 /// Without a control to lead to, an access letter is no more than an "&" in the text.
 QString withoutAccessLetter(QString text)
 {
-    const QString twice = QStringLiteral("&&");
+    const QString twice = u"&&"_s;
     text.replace(twice, QString(QChar::Null));
     text.remove(u'&');
     return text.replace(QChar::Null, u'&');

@@ -2,14 +2,15 @@
 #include "screens/OptionForm.h"
 
 #include "paper/Length.h"
+#include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
-#include "platform/RuntimeFailure.h"
 #include "screens/FieldPanel.h"
-#include "screens/FrmSearch.h"
 #include "screens/GridControl.h"
 #include "screens/RecordEditor.h"
 #include "screens/RegisterTexts.h"
 #include "ui/Appearance.h"
+#include "ui/FormKit.h"
+#include "ui/FrmSearch.h"
 #include "ui/NumberBox.h"
 #include "ui/WaitPointer.h"
 
@@ -18,7 +19,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <array>
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::screens
 {
@@ -30,56 +31,21 @@ constexpr double designedWidth = 9000;
 constexpr double designedHeight = 6600;
 const QString& designedCaption()
 {
-    static const QString caption = QStringLiteral("Options");
+    static const QString caption = u"Options"_s;
     return caption;
 }
 
 /// Where the form is too narrow for buttons of the usual width, they become narrower, down to this.
 constexpr int narrowestButton = 64;
 
-/// The fixed buttons from left to right, those that move before those that change something.
-struct ButtonRow {
-    const char* name;
-    const char* caption;
-    bool (*shown)(const ScreenButtons&);
-    bool beginsRightGroup = false;
-};
-constexpr std::array<ButtonRow, 7> buttonRows{{
-    {"PreviousRecord", "Previous",
-     [](const ScreenButtons& told) {
-         return told.previous;
-     }},
-    {"NextRecord", "&Next",
-     [](const ScreenButtons& told) {
-         return told.next;
-     }},
-    {"AddRecord", "&Add ", [](const ScreenButtons& told) { return told.add; }, true},
-    {"DeleteRecord", "&Delete",
-     [](const ScreenButtons& told) {
-         return told.remove;
-     }},
-    {"SaveRecord", "&Save",
-     [](const ScreenButtons& told) {
-         return told.save;
-     }},
-    {"PrintReport", "&Print",
-     [](const ScreenButtons& told) {
-         return told.print;
-     }},
-    {"ExitForm", "E&xit",
-     [](const ScreenButtons&) {
-         return true;
-     }},
-}};
-
 } // namespace
 
-OptionForm::OptionForm(ApplicationValues& values, Boxes& boxes, ReportRunner* reports, QWidget* parent)
-    : QWidget(parent), m_values(values), m_boxes(boxes), m_reports(reports), m_file(values.screenFilePath),
+OptionForm::OptionForm(const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes,
+                       ReportRunner* reports, QWidget* parent)
+    : QWidget(parent), m_values(values), m_boxes(boxes), m_reports(reports), m_file(screenFilePath),
       m_databasePath(values.databasePath)
 {
-    setObjectName(QStringLiteral("OptionForm"));
-    setAccessibleName(objectName());
+    ui::nameControl(*this, u"OptionForm"_s);
     openTable();
     buildWindow();
     buildControls();
@@ -94,8 +60,8 @@ void OptionForm::openTable()
 {
     const ScreenTable table = m_file.table();
     const auto tellMissing = [&](const char* what) {
-        m_boxes.message(QStringLiteral("No %1 defined in %2 file").arg(QLatin1String(what), m_file.path()),
-                        QStringLiteral("Initialisation Error"), BoxIcon::Critical);
+        m_boxes.message(u"No %1 defined in %2 file"_s.arg(QLatin1String(what), m_file.path()),
+                        u"Initialisation Error"_s, BoxIcon::Critical);
     };
     if (table.table.isEmpty())
         tellMissing("database table");
@@ -118,14 +84,13 @@ void OptionForm::buildControls()
     CSPict1 = new FieldPanel(m_database, this);
     const QString table = m_file.table().table;
     for (ControlDefinition& definition : m_file.controls()) {
-        try {
+        const auto explain = [&](const QString& text) {
+            return u"%1 (%2, section [%3])"_s.arg(text, m_file.path(), definition.section);
+        };
+        atPlace(explain, [&] {
             fitToRegister(definition, table, m_values);
             CSPict1->addControl(definition);
-        } catch (const RuntimeFailure& failure) {
-            throw RuntimeFailure(failure.failure(),
-                                 QStringLiteral("%1 (%2, section [%3])")
-                                     .arg(failure.text(), m_file.path(), definition.section));
-        }
+        });
     }
     CSPict1->finish();
     connect(CSPict1, &FieldPanel::findPressed, this, &OptionForm::findRecord);
@@ -134,42 +99,54 @@ void OptionForm::buildControls()
             [this](GridControl* grid, const QModelIndex& index) { rejectCell(*grid, index); });
 }
 
+/// From left to right, those that move before those that change something. Only "E&xit" is always shown.
+const QVector<OptionForm::ButtonRow>& OptionForm::buttonRows()
+{
+    static const QVector<ButtonRow> rows{
+        {"PreviousRecord", "Previous", &ScreenButtons::previous, &OptionForm::previousRecord},
+        {"NextRecord", "&Next", &ScreenButtons::next, &OptionForm::nextRecord},
+        {"AddRecord", "&Add ", &ScreenButtons::add, &OptionForm::addRecord, true},
+        {"DeleteRecord", "&Delete", &ScreenButtons::remove, &OptionForm::deleteRecord},
+        {"SaveRecord", "&Save", &ScreenButtons::save, &OptionForm::saveRecord},
+        {"PrintReport", "&Print", &ScreenButtons::print, &OptionForm::printReport},
+        {"ExitForm", "E&xit", nullptr, &OptionForm::exitForm},
+    };
+    return rows;
+}
+
 void OptionForm::buildButtons()
 {
-    constexpr std::array actions{&OptionForm::previousRecord, &OptionForm::nextRecord,
-                                 &OptionForm::addRecord,      &OptionForm::deleteRecord,
-                                 &OptionForm::saveRecord,     &OptionForm::printReport};
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(ui::spacing::formMargin, 0, ui::spacing::formMargin, ui::spacing::controlGap);
     row->setSpacing(ui::spacing::controlGap);
     const ScreenButtons told = m_file.buttons();
     QVector<QPushButton*> shown;
-    QWidget* before = CSPict1->tabOrder().isEmpty() ? nullptr : CSPict1->tabOrder().constLast();
-    for (std::size_t place = 0; place < buttonRows.size(); ++place) {
-        const ButtonRow& entry = buttonRows[place];
-        auto* const button = new QPushButton(QLatin1String(entry.caption), this);
-        button->setObjectName(QLatin1String(entry.name));
-        button->setAccessibleName(button->objectName());
-        // Enter presses the button that has the focus, and no other.
-        button->setAutoDefault(true);
-        if (place < actions.size()) {
-            connect(button, &QPushButton::clicked, this, actions[place]);
-        } else {
-            connect(button, &QPushButton::clicked, this, &QWidget::close);
-        }
-        if (entry.beginsRightGroup)
-            row->addStretch();
-        row->addWidget(button);
-        button->setVisible(entry.shown(told));
-        if (entry.shown(told))
+    for (const ButtonRow& entry : buttonRows()) {
+        QPushButton* const button = addButton(entry, *row);
+        const bool isShown = entry.shown == nullptr || told.*entry.shown;
+        button->setVisible(isShown);
+        if (isShown)
             shown += button;
-        if (before)
-            setTabOrder(before, button);
-        before = button;
     }
-    findChild<QPushButton*>(QStringLiteral("PrintReport"))->setEnabled(m_reports != nullptr);
+    findChild<QPushButton*>(u"PrintReport"_s)->setEnabled(m_reports != nullptr);
     fitButtons(shown);
+    layOut(row);
+}
 
+QPushButton* OptionForm::addButton(const ButtonRow& entry, QHBoxLayout& row)
+{
+    QPushButton* const button = ui::makeButton(QLatin1String(entry.name), QLatin1String(entry.caption), this);
+    // Enter presses the button that has the focus, and no other.
+    button->setAutoDefault(true);
+    connect(button, &QPushButton::clicked, this, entry.pressed);
+    if (entry.beginsRightGroup)
+        row.addStretch();
+    row.addWidget(button);
+    return button;
+}
+
+void OptionForm::layOut(QHBoxLayout* buttons)
+{
     auto* const line = new QFrame(this);
     line->setFrameShape(QFrame::HLine);
     line->setForegroundRole(QPalette::Mid);
@@ -178,7 +155,7 @@ void OptionForm::buildButtons()
     column->setSpacing(ui::spacing::controlGap);
     column->addWidget(CSPict1, 1);
     column->addWidget(line);
-    column->addLayout(row);
+    column->addLayout(buttons);
     m_size = m_size.expandedTo(QSize(minimumSizeHint().width(), 0));
     resize(m_size);
 }
@@ -212,15 +189,15 @@ void OptionForm::saveRecord()
     const SaveOutcome outcome = m_editor->save(fields);
     CSPict1->showContents(fields);
     if (outcome == SaveOutcome::DuplicateKey) {
-        m_boxes.message(QStringLiteral("This item code already exists!\rPlease try again"),
-                        QStringLiteral("Data Error Code%1").arg(static_cast<int>(Failure::DuplicateKey)),
+        m_boxes.message(u"This item code already exists!\rPlease try again"_s,
+                        u"Data Error Code%1"_s.arg(static_cast<int>(Failure::DuplicateKey)),
                         BoxIcon::Critical);
     }
 }
 
 void OptionForm::deleteRecord()
 {
-    if (!m_boxes.ask(QStringLiteral("Are You Sure?"), QStringLiteral("Delete Record"), BoxIcon::Critical))
+    if (!m_boxes.ask(u"Are You Sure?"_s, u"Delete Record"_s, BoxIcon::Critical))
         return;
     m_editor->deleteRecord();
     ShowFields();
@@ -242,21 +219,23 @@ void OptionForm::previousRecord()
 
 void OptionForm::tellNoMoreRecords()
 {
-    m_boxes.message(QStringLiteral("No More Records"), QStringLiteral("Searching..."), BoxIcon::Exclamation);
+    m_boxes.message(u"No More Records"_s, u"Searching..."_s, BoxIcon::Exclamation);
 }
 
 void OptionForm::findRecord(int element)
 {
-    m_values.searchText.clear();
-    m_values.searchConfirmed = false;
-    FrmSearch dialog(m_values, window());
-    dialog.exec();
-    if (!m_values.searchConfirmed)
+    const auto searchText = ui::FrmSearch::ask(window());
+    if (!searchText)
         return;
-    if (m_editor->find(element, m_values.searchText))
+    if (m_editor->find(element, *searchText))
         return ShowFields();
     m_boxes.beep();
-    m_boxes.message(QStringLiteral("No Record"), QStringLiteral("Search"), BoxIcon::Exclamation);
+    m_boxes.message(u"No Record"_s, u"Search"_s, BoxIcon::Exclamation);
+}
+
+void OptionForm::exitForm()
+{
+    close();
 }
 
 void OptionForm::printReport()
@@ -270,16 +249,14 @@ void OptionForm::printReport()
 void OptionForm::rejectNumber(ui::NumberBox& box)
 {
     box.setValue({});
-    m_boxes.message(QStringLiteral("Maximum Value Exceeded"), QStringLiteral("Input Error"),
-                    BoxIcon::Exclamation);
+    m_boxes.message(u"Maximum Value Exceeded"_s, u"Input Error"_s, BoxIcon::Exclamation);
     box.setFocus();
     box.selectAll();
 }
 
 void OptionForm::rejectCell(GridControl& grid, const QModelIndex& index)
 {
-    m_boxes.message(QStringLiteral("Invalid Data Entry"), QStringLiteral("Operation Error"),
-                    BoxIcon::Exclamation);
+    m_boxes.message(u"Invalid Data Entry"_s, u"Operation Error"_s, BoxIcon::Exclamation);
     grid.retryCell(index);
 }
 

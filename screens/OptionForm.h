@@ -11,6 +11,7 @@
 
 #include <memory>
 
+class QHBoxLayout;
 class QPushButton;
 
 namespace norvane::ui
@@ -25,7 +26,7 @@ class FieldPanel;
 class GridControl;
 class RecordEditor;
 
-/// Builds itself from the screen file at ApplicationValues::screenFilePath over the database at databasePath.
+/// Builds itself from a screen file over the database at databasePath.
 /// Each instance has a connection and a place in the table of its own, so that several may be open on one
 /// table. Closing it loses what was not saved, without a question.
 class OptionForm : public QWidget
@@ -36,8 +37,8 @@ public:
     /// @param reports behind the print button, which is greyed without it.
     /// @throws RuntimeFailure 3265 for an unknown table, index or field, 3021 for an empty table, 13 for a
     /// bad number or word in the file, and those of the database; the text names the screen file.
-    OptionForm(ApplicationValues& values, Boxes& boxes, ReportRunner* reports = nullptr,
-               QWidget* parent = nullptr);
+    OptionForm(const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes,
+               ReportRunner* reports = nullptr, QWidget* parent = nullptr);
     ~OptionForm() override;
 
     [[nodiscard]] QSize sizeHint() const override { return m_size; }
@@ -46,10 +47,21 @@ public:
     void ShowFields();
 
 private:
+    struct ButtonRow {
+        const char* name;
+        const char* caption;
+        bool ScreenButtons::*shown; ///< nullptr: always
+        void (OptionForm::*pressed)();
+        bool beginsRightGroup = false;
+    };
+    [[nodiscard]] static const QVector<ButtonRow>& buttonRows();
+
     void openTable();
     void buildWindow();
     void buildControls();
     void buildButtons();
+    [[nodiscard]] QPushButton* addButton(const ButtonRow& entry, QHBoxLayout& row);
+    void layOut(QHBoxLayout* buttons);
     void fitButtons(const QVector<QPushButton*>& shown);
 
     void addRecord();
@@ -59,11 +71,12 @@ private:
     void previousRecord();
     void findRecord(int element);
     void printReport();
+    void exitForm();
     void rejectNumber(ui::NumberBox& box);
     void rejectCell(GridControl& grid, const QModelIndex& index);
     void tellNoMoreRecords();
 
-    ApplicationValues& m_values;
+    const ApplicationValues& m_values;
     Boxes& m_boxes;
     ReportRunner* m_reports;
     ScreenReader m_file;

@@ -6,6 +6,8 @@
 
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::screens
 {
 namespace
@@ -20,7 +22,7 @@ QString pluNumber(const QString& text)
 
 bool isPluNumber(const QString& name)
 {
-    return name.compare(QLatin1String("PLUNUMBER"), Qt::CaseInsensitive) == 0;
+    return name.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) == 0;
 }
 
 /// Runs @p act and names the screen file in its failure: most of them are slips in that file.
@@ -30,7 +32,7 @@ auto namingFile(const QString& file, Act act)
     try {
         return act();
     } catch (const RuntimeFailure& failure) {
-        throw RuntimeFailure(failure.failure(), QStringLiteral("%1 (%2)").arg(failure.text(), file));
+        throw RuntimeFailure(failure.failure(), u"%1 (%2)"_s.arg(failure.text(), file));
     }
 }
 

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::screens
 {
 namespace
@@ -24,13 +26,13 @@ struct RuledField {
 };
 
 constexpr RuledField ruledFields[] = {
-    {QLatin1String("EMPLOYEE"), QLatin1String("dallaskey"), TextRule::Hexadecimal},
-    {QLatin1String("LOGOMESSAGE"), QLatin1String("PREAMBLE"), TextRule::MessageLine},
-    {QLatin1String("LOGOMESSAGE"), QLatin1String("POSTAMBLE"), TextRule::MessageLine},
-    {QLatin1String("GUESTCHECKMESSAGE"), QLatin1String("PREAMBLE"), TextRule::MessageLine},
-    {QLatin1String("GUESTCHECKMESSAGE"), QLatin1String("POSTAMBLE"), TextRule::MessageLine},
-    {QLatin1String("VALIDATIONMESSAGE"), QLatin1String("LINE"), TextRule::MessageLine},
-    {QLatin1String("CHECKENDORSEMESSAGE"), QLatin1String("LINE"), TextRule::MessageLine},
+    {"EMPLOYEE"_L1, "dallaskey"_L1, TextRule::Hexadecimal},
+    {"LOGOMESSAGE"_L1, "PREAMBLE"_L1, TextRule::MessageLine},
+    {"LOGOMESSAGE"_L1, "POSTAMBLE"_L1, TextRule::MessageLine},
+    {"GUESTCHECKMESSAGE"_L1, "PREAMBLE"_L1, TextRule::MessageLine},
+    {"GUESTCHECKMESSAGE"_L1, "POSTAMBLE"_L1, TextRule::MessageLine},
+    {"VALIDATIONMESSAGE"_L1, "LINE"_L1, TextRule::MessageLine},
+    {"CHECKENDORSEMESSAGE"_L1, "LINE"_L1, TextRule::MessageLine},
 };
 
 void narrowTo(ControlDefinition& control, int characters)

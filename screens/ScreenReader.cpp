@@ -7,6 +7,8 @@
 #include <array>
 #include <initializer_list>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::screens
 {
 namespace
@@ -18,14 +20,14 @@ struct KindName {
 };
 
 constexpr std::array<KindName, 8> kindNames{{
-    {QLatin1String("FINDCONTROL"), ControlKind::Find},
-    {QLatin1String("CHECKCONTROL"), ControlKind::Check},
-    {QLatin1String("LABELCONTROL"), ControlKind::Label},
-    {QLatin1String("INTEGERNUMBERCONTROL"), ControlKind::Integer},
-    {QLatin1String("DECIMALNUMBERCONTROL"), ControlKind::Decimal},
-    {QLatin1String("TEXTCONTROL"), ControlKind::Text},
-    {QLatin1String("COMBOCONTROL"), ControlKind::Combo},
-    {QLatin1String("GRIDCONTROL"), ControlKind::Grid},
+    {"FINDCONTROL"_L1, ControlKind::Find},
+    {"CHECKCONTROL"_L1, ControlKind::Check},
+    {"LABELCONTROL"_L1, ControlKind::Label},
+    {"INTEGERNUMBERCONTROL"_L1, ControlKind::Integer},
+    {"DECIMALNUMBERCONTROL"_L1, ControlKind::Decimal},
+    {"TEXTCONTROL"_L1, ControlKind::Text},
+    {"COMBOCONTROL"_L1, ControlKind::Combo},
+    {"GRIDCONTROL"_L1, ControlKind::Grid},
 }};
 
 template <auto member>
@@ -88,26 +90,25 @@ struct KeyRule {
 };
 
 constexpr std::array<KeyRule, 17> keyRules{{
-    {QLatin1String("X"), all, takeNumber<&ControlDefinition::x>},
-    {QLatin1String("Y"), all, takeNumber<&ControlDefinition::y>},
-    {QLatin1String("Visible"), all, takeYesNo<&ControlDefinition::visible>},
-    {QLatin1String("Width"), all & ~find, takeNumber<&ControlDefinition::width>},
-    {QLatin1String("Height"), grid, takeNumber<&ControlDefinition::height>},
-    {QLatin1String("Tabindex"), all, takeWhole<&ControlDefinition::tabIndex>},
-    {QLatin1String("Description"), check | label, takeText<&ControlDefinition::description>},
-    {QLatin1String("Enabled"), check, takeYesNo<&ControlDefinition::enabled>},
-    {QLatin1String("ReadOnly"), number | text, takeYesNo<&ControlDefinition::readOnly>},
-    {QLatin1String("Maxvalue"), number | text, takeMaximum},
-    {QLatin1String("Datafield"), check | number | text | combo, takeText<&ControlDefinition::dataField>},
-    {QLatin1String("DecimalNumbers"), decimal, takeWhole<&ControlDefinition::decimals>},
-    {QLatin1String("Justify"), text, takeText<&ControlDefinition::justify>},
-    {QLatin1String("Characters"), text, takeText<&ControlDefinition::characters>},
-    {QLatin1String("SQLCriteria"), combo | grid, takeText<&ControlDefinition::sqlCriteria>},
-    {QLatin1String("Columnwidth"), combo, takeText<&ControlDefinition::columnWidths>},
-    {QLatin1String("Valuecol"), combo, takeText<&ControlDefinition::valueColumn>},
+    {"X"_L1, all, takeNumber<&ControlDefinition::x>},
+    {"Y"_L1, all, takeNumber<&ControlDefinition::y>},
+    {"Visible"_L1, all, takeYesNo<&ControlDefinition::visible>},
+    {"Width"_L1, all & ~find, takeNumber<&ControlDefinition::width>},
+    {"Height"_L1, grid, takeNumber<&ControlDefinition::height>},
+    {"Tabindex"_L1, all, takeWhole<&ControlDefinition::tabIndex>},
+    {"Description"_L1, check | label, takeText<&ControlDefinition::description>},
+    {"Enabled"_L1, check, takeYesNo<&ControlDefinition::enabled>},
+    {"ReadOnly"_L1, number | text, takeYesNo<&ControlDefinition::readOnly>},
+    {"Maxvalue"_L1, number | text, takeMaximum},
+    {"Datafield"_L1, check | number | text | combo, takeText<&ControlDefinition::dataField>},
+    {"DecimalNumbers"_L1, decimal, takeWhole<&ControlDefinition::decimals>},
+    {"Justify"_L1, text, takeText<&ControlDefinition::justify>},
+    {"Characters"_L1, text, takeText<&ControlDefinition::characters>},
+    {"SQLCriteria"_L1, combo | grid, takeText<&ControlDefinition::sqlCriteria>},
+    {"Columnwidth"_L1, combo, takeText<&ControlDefinition::columnWidths>},
+    {"Valuecol"_L1, combo, takeText<&ControlDefinition::valueColumn>},
 }};
-constexpr KeyRule listRule{QLatin1String("List"), combo, takeText<&ControlDefinition::list>,
-                           profileListLimit};
+constexpr KeyRule listRule{"List"_L1, combo, takeText<&ControlDefinition::list>, profileListLimit};
 
 struct ColumnRule {
     QLatin1String key; ///< the column's number follows
@@ -115,19 +116,19 @@ struct ColumnRule {
 };
 
 constexpr std::array<ColumnRule, 4> columnRules{{
-    {QLatin1String("Colwidth"),
+    {"Colwidth"_L1,
      [](const QString& value, GridColumn& column) {
          column.width = toNumber(value);
      }},
-    {QLatin1String("locked"),
+    {"locked"_L1,
      [](const QString& value, GridColumn& column) {
          column.locked = toBoolean(value);
      }},
-    {QLatin1String("numberFormat"),
+    {"numberFormat"_L1,
      [](const QString& value, GridColumn& column) {
          column.numberFormat = value;
      }},
-    {QLatin1String("Visible"),
+    {"Visible"_L1,
      [](const QString& value, GridColumn& column) {
          column.visible = toBoolean(value);
      }},
@@ -151,18 +152,16 @@ void ScreenReader::read(const QString& section, const QString& key, int limit, C
     try {
         convert(value);
     } catch (const RuntimeFailure& failure) {
-        throw RuntimeFailure(
-            failure.failure(),
-            QStringLiteral("%1 (%2, section [%3], key %4)").arg(failure.text(), m_path, section, key));
+        throw RuntimeFailure(failure.failure(),
+                             u"%1 (%2, section [%3], key %4)"_s.arg(failure.text(), m_path, section, key));
     }
 }
 
 ScreenTable ScreenReader::table() const
 {
-    const QString section = QStringLiteral("Database");
-    ScreenTable table{m_file.value(section, QStringLiteral("table")),
-                      m_file.value(section, QStringLiteral("Index1")),
-                      m_file.value(section, QStringLiteral("Index2"))};
+    const QString section = u"Database"_s;
+    ScreenTable table{m_file.value(section, u"table"_s), m_file.value(section, u"Index1"_s),
+                      m_file.value(section, u"Index2"_s)};
     if (table.secondIndex.isEmpty())
         table.secondIndex = table.firstIndex;
     return table;
@@ -170,14 +169,11 @@ ScreenTable ScreenReader::table() const
 
 ScreenWindow ScreenReader::window() const
 {
-    const QString section = QStringLiteral("FormName");
-    ScreenWindow window{m_file.value(section, QStringLiteral("Name")),
-                        m_file.value(section, QStringLiteral("HelpHTML")),
-                        {},
-                        {}};
-    read(section, QStringLiteral("Width"), profileValueLimit,
+    const QString section = u"FormName"_s;
+    ScreenWindow window{m_file.value(section, u"Name"_s), m_file.value(section, u"HelpHTML"_s), {}, {}};
+    read(section, u"Width"_s, profileValueLimit,
          [&](const QString& value) { window.width = toNumber(value); });
-    read(section, QStringLiteral("Height"), profileValueLimit,
+    read(section, u"Height"_s, profileValueLimit,
          [&](const QString& value) { window.height = toNumber(value); });
     return window;
 }
@@ -186,8 +182,8 @@ QVector<ControlDefinition> ScreenReader::controls() const
 {
     QVector<ControlDefinition> controls;
     for (int number = 1;; ++number) {
-        const QString section = QStringLiteral("Field%1").arg(number);
-        const QString type = m_file.value(section, QStringLiteral("ControlType"));
+        const QString section = u"Field%1"_s.arg(number);
+        const QString type = m_file.value(section, u"ControlType"_s);
         if (type.isEmpty())
             return controls;
         for (const KindName& known : kindNames) {
@@ -221,7 +217,7 @@ QVector<GridColumn> ScreenReader::gridColumns(const QString& section) const
     QVector<GridColumn> columns;
     for (int number = 0;; ++number) {
         GridColumn column;
-        column.caption = m_file.value(section, QStringLiteral("Caption%1").arg(number));
+        column.caption = m_file.value(section, u"Caption%1"_s.arg(number));
         if (column.caption.isEmpty())
             return columns;
         for (const ColumnRule& rule : columnRules) {
@@ -235,22 +231,17 @@ QVector<GridColumn> ScreenReader::gridColumns(const QString& section) const
 ScreenButtons ScreenReader::buttons() const
 {
     const auto says = [this](const char* key, QLatin1String word) {
-        return isWord(m_file.value(QStringLiteral("visiblekeys"), QLatin1String(key)), word);
+        return isWord(m_file.value(u"visiblekeys"_s, QLatin1String(key)), word);
     };
     const QLatin1String yes("YES");
-    return {says("ShowAddrecord", yes),
-            says("Showpreviousrecord", yes),
-            says("Shownextrecord", yes),
-            says("Showdeleterecord", yes),
-            !says("Showsaverecord", QLatin1String("NO")),
-            says("Showprintrecord", yes)};
+    return {says("ShowAddrecord", yes),    says("Showpreviousrecord", yes),  says("Shownextrecord", yes),
+            says("Showdeleterecord", yes), !says("Showsaverecord", "NO"_L1), says("Showprintrecord", yes)};
 }
 
 ScreenReport ScreenReader::report() const
 {
-    const QString section = QStringLiteral("CrystalReport");
-    return {m_file.value(section, QStringLiteral("CrystalReportFile")),
-            m_file.value(section, QStringLiteral("CrystalReportTitle"))};
+    const QString section = u"CrystalReport"_s;
+    return {m_file.value(section, u"CrystalReportFile"_s), m_file.value(section, u"CrystalReportTitle"_s)};
 }
 
 ScreenDefinition ScreenReader::whole() const

@@ -28,9 +28,9 @@ void changeCustomer(FrmMain& main, ApplicationValues& values, Boxes& boxes)
 
 } // namespace
 
-FrmMain::Openers makeFrameOpeners(ApplicationValues& values, Boxes& boxes)
+FrmMain::FormOpeners makeFrameOpeners(ApplicationValues& values, Boxes& boxes)
 {
-    FrmMain::Openers openers;
+    FrmMain::FormOpeners openers;
     openers.insert(u"Exit"_s, [](FrmMain& main, const MenuEntry&) { main.close(); });
     openers.insert(u"FrmSetup"_s, [&values](FrmMain& main, const MenuEntry&) {
         main.showShared(u"FrmSetup"_s, [&] { return new FrmSetup(values, main.statusBar1()); });

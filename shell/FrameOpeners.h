@@ -7,6 +7,6 @@ namespace norvane::shell
 {
 
 /// Keeps the references, which must outlive the main window.
-[[nodiscard]] FrmMain::Openers makeFrameOpeners(ApplicationValues& values, Boxes& boxes);
+[[nodiscard]] FrmMain::FormOpeners makeFrameOpeners(ApplicationValues& values, Boxes& boxes);
 
 } // namespace norvane::shell

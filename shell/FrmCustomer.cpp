@@ -3,6 +3,7 @@
 
 #include "shell/CustomerFolders.h"
 #include "ui/Appearance.h"
+#include "ui/FormKit.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -24,15 +25,12 @@ constexpr QSize listSize{360, 220};
 
 FrmCustomer::FrmCustomer(ApplicationValues& values, Boxes& boxes, QWidget* parent)
     : QDialog(parent), m_values(values), m_boxes(boxes), List1(new QListWidget(this)),
-      text1(new QLineEdit(this)), CSCmdBtn1(new QPushButton(u"&Ok"_s, this))
+      text1(new QLineEdit(this)), CSCmdBtn1(ui::makeButton(u"CSCmdBtn1"_s, u"&Ok"_s, this))
 {
-    setObjectName(u"FrmCustomer"_s);
+    ui::nameControl(*this, u"FrmCustomer"_s);
+    ui::nameControl(*List1, u"List1"_s);
+    ui::nameControl(*text1, u"text1"_s);
     setWindowTitle(u"Select Customer"_s);
-    List1->setObjectName(u"List1"_s);
-    text1->setObjectName(u"text1"_s);
-    CSCmdBtn1->setObjectName(u"CSCmdBtn1"_s);
-    for (QWidget* const control : std::initializer_list<QWidget*>{this, List1, text1, CSCmdBtn1})
-        control->setAccessibleName(control->objectName());
     layOut();
     connectList();
     List1->addItems(customerFolders(m_values.appPath));
@@ -41,7 +39,6 @@ FrmCustomer::FrmCustomer(ApplicationValues& values, Boxes& boxes, QWidget* paren
 
 void FrmCustomer::layOut()
 {
-    CSCmdBtn1->setMinimumWidth(ui::buttonWidth);
     CSCmdBtn1->setDefault(true);
     connect(CSCmdBtn1, &QPushButton::clicked, this, &FrmCustomer::takeCustomer);
     auto* const column = new QVBoxLayout(this);

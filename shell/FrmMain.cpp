@@ -59,7 +59,7 @@ void nameAction(QAction& action, const MenuEntry& entry)
 
 } // namespace
 
-FrmMain::FrmMain(ApplicationValues& values, Boxes& boxes, Openers openers)
+FrmMain::FrmMain(const ApplicationValues& values, Boxes& boxes, Openers openers)
     : m_values(values), m_boxes(boxes), m_openers(std::move(openers)), m_area(makeArea()),
       StatusBar1(new MainStatusBar(this))
 {
@@ -132,7 +132,7 @@ void FrmMain::open(const MenuEntry& entry)
     if (opensScreen(entry)) {
         openScreen(entry);
     } else if (isForm && !isNotYetBuilt(entry.name)) {
-        callOpener(targetOf(entry, m_values), entry);
+        openForm(entry);
     }
 }
 
@@ -140,14 +140,14 @@ void FrmMain::openScreen(const MenuEntry& entry)
 {
     if (!mayOpen(entry, m_values, m_boxes))
         return;
-    m_values.screenFilePath = joinPath(m_values.appPath, targetOf(entry, m_values));
     const ui::WaitPointer wait;
-    callOpener(u"OptionForm"_s, entry);
+    if (m_openers.screen)
+        m_openers.screen(*this, joinPath(m_values.appPath, targetOf(entry, m_values)));
 }
 
-void FrmMain::callOpener(const QString& form, const MenuEntry& entry)
+void FrmMain::openForm(const MenuEntry& entry)
 {
-    if (const Opener opener = m_openers.value(form))
+    if (const Opener opener = m_openers.forms.value(targetOf(entry, m_values)))
         opener(*this, entry);
 }
 

@@ -28,11 +28,17 @@ class FrmMain : public QMainWindow
 public:
     /// Opens what a menu entry is for.
     using Opener = std::function<void(FrmMain&, const MenuEntry&)>;
-    /// Openers by form name ("FrmComm"). The record editor is "OptionForm" and finds its file in
-    /// screenFilePath. An entry whose form has no opener opens nothing.
-    using Openers = QHash<QString, Opener>;
+    /// By form name ("FrmComm").
+    using FormOpeners = QHash<QString, Opener>;
+    /// Opens a record editor with the screen file @p screenFilePath.
+    using ScreenOpener = std::function<void(FrmMain&, const QString& screenFilePath)>;
+    /// An entry without an opener opens nothing.
+    struct Openers {
+        FormOpeners forms;
+        ScreenOpener screen;
+    };
 
-    FrmMain(ApplicationValues& values, Boxes& boxes, Openers openers);
+    FrmMain(const ApplicationValues& values, Boxes& boxes, Openers openers);
 
     [[nodiscard]] MainStatusBar& statusBar1() { return *StatusBar1; }
     /// Shows "Customer Database " and the customer's name in the status bar.
@@ -66,10 +72,10 @@ private:
     void placeOnScreen();
     void open(const MenuEntry& entry);
     void openScreen(const MenuEntry& entry);
-    void callOpener(const QString& form, const MenuEntry& entry);
+    void openForm(const MenuEntry& entry);
     void place(QMdiSubWindow& child);
 
-    ApplicationValues& m_values;
+    const ApplicationValues& m_values;
     Boxes& m_boxes;
     Openers m_openers;
     QMdiArea* m_area;

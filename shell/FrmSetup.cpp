@@ -3,6 +3,7 @@
 
 #include "platform/ProfileFile.h"
 #include "ui/Appearance.h"
+#include "ui/FormKit.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -70,7 +71,7 @@ FrmSetup::FrmSetup(const ApplicationValues& values, MainStatusBar& status, QWidg
 
 void FrmSetup::layOut()
 {
-    QVBoxLayout* const column = makeColumn();
+    QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
     column->addWidget(makeFrame(u"PC Setup"_s, true));
     column->addWidget(makeFrame(u"Modem Settings"_s, false));
     column->addLayout(makeButtons());
@@ -78,12 +79,12 @@ void FrmSetup::layOut()
 
 QLayout* FrmSetup::makeButtons()
 {
-    QPushButton* const CmdSave = addButton(u"CmdSave"_s, u"&Save"_s);
-    QPushButton* const CmdExit = addButton(u"CmdExit"_s, u"E&xit"_s);
+    QPushButton* const CmdSave = ui::makeButton(u"CmdSave"_s, u"&Save"_s, this);
+    QPushButton* const CmdExit = ui::makeButton(u"CmdExit"_s, u"E&xit"_s, this);
     setKeys(CmdSave, CmdExit);
     connect(CmdSave, &QPushButton::clicked, this, &FrmSetup::save);
     connect(CmdExit, &QPushButton::clicked, this, &QWidget::close);
-    return makeButtonRow({CmdSave, CmdExit});
+    return ui::makeButtonRow({CmdSave, CmdExit});
 }
 
 QGroupBox* FrmSetup::makeFrame(const QString& caption, bool withLists)

@@ -46,10 +46,7 @@ void openCollection(FrmMain& main, ApplicationValues& values, Boxes& boxes)
 
 FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
 {
-    FrmMain::Openers openers = makeFrameOpeners(values, boxes);
-    openers.insert(u"OptionForm"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
-        main.showChild(new screens::OptionForm(values, boxes));
-    });
+    FrmMain::FormOpeners openers = makeFrameOpeners(values, boxes);
     openers.insert(u"FrmComm"_s, [&values, &boxes](FrmMain& main, const MenuEntry& entry) {
         openExchange(main, entry, values, boxes);
     });
@@ -57,7 +54,9 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
         openCollection(main, values, boxes);
     });
     openers.insert(makeUtilityOpeners(values, boxes));
-    return openers;
+    return {openers, [&values, &boxes](FrmMain& main, const QString& screenFilePath) {
+                main.showChild(new screens::OptionForm(screenFilePath, values, boxes));
+            }};
 }
 
 } // namespace norvane::shell

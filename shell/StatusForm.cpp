@@ -2,13 +2,11 @@
 #include "shell/StatusForm.h"
 
 #include "shell/MainStatusBar.h"
-#include "ui/Appearance.h"
+#include "ui/FormKit.h"
 
 #include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace norvane::shell
 {
@@ -17,39 +15,9 @@ StatusForm::StatusForm(const QString& name, const QString& caption, const QStrin
                        MainStatusBar& status, QWidget* parent)
     : QWidget(parent), m_status(status)
 {
-    setObjectName(name);
-    setAccessibleName(name);
+    ui::nameControl(*this, name);
     setWindowTitle(caption);
     m_status.setPanel(panelText);
-}
-
-QVBoxLayout* StatusForm::makeColumn()
-{
-    auto* const column = new QVBoxLayout(this);
-    constexpr int margin = ui::spacing::formMargin;
-    column->setContentsMargins(margin, margin, margin, margin);
-    column->setSpacing(ui::spacing::groupGap);
-    column->setSizeConstraint(QLayout::SetFixedSize);
-    return column;
-}
-
-QPushButton* StatusForm::addButton(const QString& name, const QString& caption)
-{
-    auto* const button = new QPushButton(caption, this);
-    button->setObjectName(name);
-    button->setAccessibleName(name);
-    button->setMinimumWidth(ui::buttonWidth);
-    return button;
-}
-
-QLayout* StatusForm::makeButtonRow(std::initializer_list<QPushButton*> buttons)
-{
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(ui::spacing::controlGap);
-    row->addStretch();
-    for (QPushButton* const button : buttons)
-        row->addWidget(button);
-    return row;
 }
 
 void StatusForm::setKeys(QPushButton* onEnter, QPushButton* onEscape)

@@ -3,11 +3,7 @@
 
 #include <QWidget>
 
-#include <initializer_list>
-
-class QLayout;
 class QPushButton;
-class QVBoxLayout;
 
 namespace norvane::shell
 {
@@ -24,12 +20,6 @@ protected:
     StatusForm(const QString& name, const QString& caption, const QString& panelText, MainStatusBar& status,
                QWidget* parent);
 
-    /// The column that the form's contents stand in; the form is as large as they need, and no larger.
-    [[nodiscard]] QVBoxLayout* makeColumn();
-    /// A button of the form, still to be placed.
-    [[nodiscard]] QPushButton* addButton(const QString& name, const QString& caption);
-    /// A row of @p buttons at the right edge, still to be placed.
-    [[nodiscard]] static QLayout* makeButtonRow(std::initializer_list<QPushButton*> buttons);
     /// Enter presses the button with the focus, or @p onEnter when none has it; Escape presses @p onEscape.
     void setKeys(QPushButton* onEnter, QPushButton* onEscape);
 

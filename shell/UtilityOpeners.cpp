@@ -27,9 +27,9 @@ void runUtility(FrmMain& main, const utilities::PriceUtility& utility, const App
 
 } // namespace
 
-FrmMain::Openers makeUtilityOpeners(const ApplicationValues& values, Boxes& boxes)
+FrmMain::FormOpeners makeUtilityOpeners(const ApplicationValues& values, Boxes& boxes)
 {
-    FrmMain::Openers openers;
+    FrmMain::FormOpeners openers;
     for (const auto& utility : utilities::priceUtilities()) {
         openers.insert(utility.handler,
                        [&](FrmMain& main, const MenuEntry&) { runUtility(main, utility, values, boxes); });

@@ -7,6 +7,6 @@ namespace norvane::shell
 {
 
 /// By handler name ("TransferEuro_Click"). Keeps the references, which must outlive the main window.
-[[nodiscard]] FrmMain::Openers makeUtilityOpeners(const ApplicationValues& values, Boxes& boxes);
+[[nodiscard]] FrmMain::FormOpeners makeUtilityOpeners(const ApplicationValues& values, Boxes& boxes);
 
 } // namespace norvane::shell

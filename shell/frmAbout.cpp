@@ -3,6 +3,7 @@
 
 #include "shell/AboutLabels.h"
 #include "ui/Appearance.h"
+#include "ui/FormKit.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -65,7 +66,7 @@ frmAbout::frmAbout(Boxes& boxes, MainStatusBar& status, QWidget* parent)
 
 void frmAbout::layOut()
 {
-    QVBoxLayout* const column = makeColumn();
+    QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
     column->addLayout(makeHeading());
     auto* const line = new QFrame;
     line->setFrameStyle(static_cast<int>(QFrame::HLine) | static_cast<int>(QFrame::Sunken));
@@ -76,12 +77,12 @@ void frmAbout::layOut()
 
 QLayout* frmAbout::makeButtons()
 {
-    QPushButton* const cmdOK = addButton(u"cmdOK"_s, u"OK"_s);
-    QPushButton* const cmdSysInfo = addButton(u"cmdSysInfo"_s, u"&System Info..."_s);
+    QPushButton* const cmdOK = ui::makeButton(u"cmdOK"_s, u"OK"_s, this);
+    QPushButton* const cmdSysInfo = ui::makeButton(u"cmdSysInfo"_s, u"&System Info..."_s, this);
     setKeys(cmdOK, cmdOK);
     connect(cmdOK, &QPushButton::clicked, this, &QWidget::close);
     connect(cmdSysInfo, &QPushButton::clicked, this, &frmAbout::startSysInfo);
-    return makeButtonRow({cmdOK, cmdSysInfo});
+    return ui::makeButtonRow({cmdOK, cmdSysInfo});
 }
 
 /// No platform that the program runs on so far has a system information program to start.

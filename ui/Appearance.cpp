@@ -10,6 +10,8 @@
 #include <QProxyStyle>
 #include <QWidget>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::ui
 {
 namespace
@@ -19,7 +21,7 @@ namespace
 class FormStyle : public QProxyStyle
 {
 public:
-    FormStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    FormStyle() : QProxyStyle(u"Fusion"_s) {}
 
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* answer) const override

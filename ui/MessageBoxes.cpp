@@ -6,6 +6,8 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::ui
 {
 namespace
@@ -42,7 +44,7 @@ QMessageBox::Icon boxIcon(BoxIcon icon)
 /// last line end would leave a gap above the button.
 QString shownText(QString text)
 {
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
     while (text.endsWith(u'\n'))
         text.chop(1);
     return text;
@@ -55,7 +57,7 @@ QMessageBox::StandardButton show(const QString& text, const QString& title, BoxI
     const ArrowPointer arrow;
     QMessageBox box(boxIcon(icon), title.isEmpty() ? applicationTitle() : title, shownText(text), buttons,
                     QApplication::activeWindow());
-    box.setObjectName(QStringLiteral("MessageBox"));
+    box.setObjectName(u"MessageBox"_s);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(preset);
     if (buttons.testFlag(QMessageBox::No))
@@ -80,7 +82,7 @@ QString MessageBoxes::input(const QString& prompt, const QString& title, const Q
 {
     const ArrowPointer arrow;
     QInputDialog box(QApplication::activeWindow());
-    box.setObjectName(QStringLiteral("InputBox"));
+    box.setObjectName(u"InputBox"_s);
     box.setWindowTitle(title.isEmpty() ? applicationTitle() : title);
     box.setLabelText(shownText(prompt));
     box.setTextValue(initial);

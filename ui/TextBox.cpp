@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::ui
 {
 namespace
@@ -85,11 +87,11 @@ void TextBox::setCharacters(Characters characters)
 
 void TextBox::setJustify(const QString& code)
 {
-    if (code == QLatin1String("0")) {
+    if (code == "0"_L1) {
         setAlignment(Qt::AlignLeft);
-    } else if (code == QLatin1String("1")) {
+    } else if (code == "1"_L1) {
         setAlignment(Qt::AlignRight);
-    } else if (code == QLatin1String("2")) {
+    } else if (code == "2"_L1) {
         setAlignment(Qt::AlignHCenter);
     }
 }

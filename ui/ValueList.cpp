@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::ui
 {
 namespace
@@ -105,7 +107,7 @@ void ValueList::fillTexts()
             if (m_widths.value(column, 1) != 0)
                 shown += row[column];
         }
-        addItem(shown.join(QStringLiteral("  ")), row);
+        addItem(shown.join(u"  "_s), row);
     }
     setValue(m_value);
 }

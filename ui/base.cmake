@@ -2,6 +2,9 @@
 norvane_library(norvane_ui_base
   SOURCES
     "${PROJECT_SOURCE_DIR}/ui/Appearance.cpp"
+    "${PROJECT_SOURCE_DIR}/ui/FormKit.cpp"
+    "${PROJECT_SOURCE_DIR}/ui/FrmSearch.cpp"
     "${PROJECT_SOURCE_DIR}/ui/MessageBoxes.cpp"
     "${PROJECT_SOURCE_DIR}/ui/RegisterPicture.cpp"
+    "${PROJECT_SOURCE_DIR}/ui/StatusLine.cpp"
   LINKS Qt6::Widgets norvane_platform)

@@ -301,9 +301,8 @@ TEST_P(ScreenFile, MakesAFormThatCanBeRead)
 {
     ApplicationValues values;
     values.databasePath = filledDatabase();
-    values.screenFilePath = m_path;
     test::RecordingBoxes boxes;
-    OptionForm form(values, boxes);
+    OptionForm form(m_path, values, boxes);
     form.show();
     QApplication::processEvents();
     auto& panel = *form.findChild<FieldPanel*>();
@@ -359,9 +358,8 @@ TEST(InstalledScreens, TakeWhatTheRegistersOfTheModelHold)
         ApplicationValues values;
         values.customerPath = customer.path();
         values.databasePath = filledDatabase();
-        values.screenFilePath = QStringLiteral(SCREEN_FILES "/") + file;
         test::RecordingBoxes boxes;
-        const OptionForm form(values, boxes);
+        const OptionForm form(QStringLiteral(SCREEN_FILES "/") + file, values, boxes);
         auto* const box = form.findChild<ui::TextBox*>(QLatin1String(name));
         ASSERT_NE(box, nullptr) << qPrintable(file);
         QTest::keyClicks(box, typed);

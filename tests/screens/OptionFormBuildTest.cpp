@@ -115,7 +115,7 @@ TEST_F(OptionFormBuildTest, ATableThatIsNotGivenIsToldAndThenFails)
         EXPECT_EQ(failureOf([&, text = text] { open(text); }), 3265) << text;
         std::vector<test::ShownBox> expected;
         for (const QString& what : missing) {
-            expected.push_back({u"No %1 defined in %2 file"_s.arg(what, m_values.screenFilePath),
+            expected.push_back({u"No %1 defined in %2 file"_s.arg(what, m_screenFilePath),
                                 u"Initialisation Error"_s, BoxIcon::Critical});
         }
         EXPECT_EQ(std::exchange(m_boxes.shown, {}), expected) << text;
@@ -148,7 +148,7 @@ TEST_F(OptionFormBuildTest, FaultsFailWithTheNameOfTheFileAndOfTheKey)
             ADD_FAILURE() << text.data();
         } catch (const RuntimeFailure& failure) {
             EXPECT_EQ(failure.number(), number) << text.data();
-            for (const QString& part : {m_values.screenFilePath, QString::fromLatin1(named)})
+            for (const QString& part : {m_screenFilePath, QString::fromLatin1(named)})
                 EXPECT_TRUE(failure.text().contains(part)) << failure.what();
         }
     }

@@ -53,7 +53,6 @@ protected:
     {
         m_values.appPath = m_folder.path();
         m_values.databasePath = m_folder.path("velmar.mdb");
-        m_values.screenFilePath = m_folder.path("test.scn");
         store::Database::create(m_values.databasePath, shopTables());
         for (const char* group : {"1, 'Wines', 3, 1, 1", "2, 'Beers', 1, 0, -1", "3, 'Food', 2, 0, -1"}) {
             execute("insert into GROUPS (RATE, PRICE, GROUPNO, DESCRIPTION, LINK, TAX1, FLAG) values (1.5, "
@@ -89,7 +88,7 @@ protected:
     /// Opens the screen file that is written now.
     Form open(screens::ReportRunner* reports = nullptr)
     {
-        auto form = std::make_unique<screens::OptionForm>(m_values, m_boxes, reports);
+        auto form = std::make_unique<screens::OptionForm>(m_screenFilePath, m_values, m_boxes, reports);
         form->show();
         QApplication::setActiveWindow(form.get());
         EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
@@ -154,6 +153,7 @@ protected:
     }
 
     TestFolder m_folder;
+    QString m_screenFilePath = m_folder.path("test.scn");
     ApplicationValues m_values;
     struct : RecordingBoxes {
         int heard = 0;

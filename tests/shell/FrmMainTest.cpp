@@ -27,14 +27,15 @@ class FrmMainTest : public ShellFixture
 protected:
     FrmMainTest()
     {
-        for (const QString& form : {u"OptionForm"_s, u"FrmComm"_s}) {
-            m_openers.insert(form, [this, form](FrmMain&, const MenuEntry& entry) {
-                const bool screen = form == u"OptionForm";
-                EXPECT_EQ(QGuiApplication::overrideCursor() != nullptr, screen) << "the wait pointer";
-                m_opened = QString(entry.name) + u' ' + (screen ? m_values.screenFilePath : form);
-            });
-        }
-        m_openers.insert(makeFrameOpeners(m_values, m_boxes));
+        m_openers.screen = [this](FrmMain&, const QString& screenFilePath) {
+            EXPECT_NE(QGuiApplication::overrideCursor(), nullptr) << "the wait pointer";
+            m_opened = screenFilePath;
+        };
+        m_openers.forms = makeFrameOpeners(m_values, m_boxes);
+        m_openers.forms.insert(u"FrmComm"_s, [this](FrmMain&, const MenuEntry& entry) {
+            EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+            m_opened = QString(entry.name);
+        });
         m_main.emplace(m_values, m_boxes, m_openers);
         m_main->show();
     }
@@ -64,7 +65,7 @@ protected:
     }
 
     FrmMain::Openers m_openers;
-    QString m_opened; ///< the last entry and what it opened
+    QString m_opened; ///< the screen file, or the entry that asked for a form
     std::optional<FrmMain> m_main;
 };
 
@@ -90,11 +91,11 @@ TEST_F(FrmMainTest, EntriesOpenTheirFileOrForm)
     const std::pair<const char*, QString> rows[] = {{"PLUMENU", app + u"/PLUVelmarv3.scn"_s},
                                                     {"EuroPrice", app + u"/plutble.scn"_s},
                                                     {"ViewMemorys", app + u"/Memory.scn"_s},
-                                                    {"UploadVelmar", u"FrmComm"_s},
-                                                    {"DownloadVelmar", u"FrmComm"_s}};
+                                                    {"UploadVelmar", u"UploadVelmar"_s},
+                                                    {"DownloadVelmar", u"DownloadVelmar"_s}};
     for (const auto& [entry, opened] : rows) {
         choose(entry);
-        EXPECT_EQ(m_opened, QLatin1String(entry) + u' ' + opened);
+        EXPECT_EQ(std::exchange(m_opened, {}), opened) << entry;
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     }
 }

@@ -182,7 +182,7 @@ TEST_F(PriceUtilitiesTest, LogoImagesTellTheRulesAndOnlyTheFirstEntryRunsTheConv
     const auto openers = makeOpeners(m_values, m_boxes);
     m_values.appPath = m_folder.path("my app");
     const auto notice = [&](QLatin1StringView entry) {
-        openers.value(menuEntry(entry)->target)(m_main, *menuEntry(entry));
+        openers.forms.value(menuEntry(entry)->target)(m_main, *menuEntry(entry));
         return takeBoxes().value(0).section(u"this conversion works "_s, 1);
     };
     EXPECT_EQ(notice("Convert350"_L1), u"with SRP350 printers only"_s) << "and no more without a converter";

@@ -1,0 +1,50 @@
+// See FormKit.h.
+#include "ui/FormKit.h"
+
+#include "ui/Appearance.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace norvane::ui
+{
+
+void nameControl(QWidget& control, const QString& name)
+{
+    control.setObjectName(name);
+    control.setAccessibleName(name);
+}
+
+QPushButton* makeButton(const QString& name, const QString& caption, QWidget* form)
+{
+    auto* const button = new QPushButton(caption, form);
+    nameControl(*button, name);
+    button->setMinimumWidth(buttonWidth);
+    return button;
+}
+
+QHBoxLayout* makeButtonRow(std::initializer_list<QPushButton*> buttons,
+                           std::initializer_list<QPushButton*> left)
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(spacing::controlGap);
+    for (QPushButton* const button : left)
+        row->addWidget(button);
+    row->addStretch();
+    for (QPushButton* const button : buttons)
+        row->addWidget(button);
+    return row;
+}
+
+QVBoxLayout* makeFormColumn(QWidget& form, int gap)
+{
+    auto* const column = new QVBoxLayout(&form);
+    constexpr int margin = spacing::formMargin;
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(gap);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    return column;
+}
+
+} // namespace norvane::ui

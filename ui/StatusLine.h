@@ -1,0 +1,27 @@
+// The status line of a form that runs steps one after another.
+#pragma once
+
+#include <QStatusBar>
+
+namespace norvane::ui
+{
+
+/// Names the step in work and, beside it, a notice that stands until it is replaced.
+class StatusLine : public QStatusBar
+{
+    Q_OBJECT
+
+public:
+    explicit StatusLine(QWidget* parent = nullptr);
+
+    void setStep(const QString& text);
+    void setNotice(const QString& text);
+
+private:
+    void showBoth();
+
+    QString m_step;
+    QString m_notice;
+};
+
+} // namespace norvane::ui
