@@ -6,37 +6,30 @@
 namespace norvane::exchange
 {
 
-/// A file fetched from the register and kept in the customer's folder.
+/// A file fetched from the register and kept in the customer's folder. The file catalogue knows the procedure
+/// that loads its table, and files without one are only kept.
 struct UploadRow {
-    int box;              ///< index of the box in the exchange dialog
-    int file;             ///< number of the register file
-    const char* literal;  ///< end of the command line; its blanks are exact
-    const char* importer; ///< procedure that reloads the table, nullptr when the file is only kept
+    int box;             ///< index of the box in the exchange dialog
+    int file;            ///< number of the register file
+    const char* literal; ///< end of the command line; its blanks are exact
 };
 
 /// Which way a binary file is copied around a send.
 enum class Copy {
     None,
-    ToCustomerAfter,    ///< the file just made and sent becomes the customer's kept copy
-    FromCustomerAfter,  ///< the customer's older copy is laid over the file just sent
-    FromCustomerBefore, ///< the customer's kept copy is what is sent
+    ToCustomerAfter,         ///< the file just made and sent becomes the customer's kept copy
+    FromCustomerAfter,       ///< the customer's older copy replaces the file just sent
+    FromCustomerBefore,      ///< the customer's kept copy is what is sent
+    FromCustomerUnlessEmpty, ///< the same, but a copy without bytes is not sent; a missing one is a failure
 };
 
-/// When a row is passed over.
-enum class Skip {
-    Never,
-    WhenTableEmpty, ///< the writer found no rows and touched no file
-    WhenFileEmpty,  ///< the kept file has no bytes; a file that is missing is a failure
-};
-
-/// A file sent to all registers of the range.
+/// A file sent to all registers of the range. The file catalogue knows the procedure that makes it from its
+/// table, and whether an empty table is passed over.
 struct DownloadRow {
     int box;
     int file;
     const char* literal;
-    const char* writer; ///< procedure that makes the file from its table, nullptr for a file without a table
     Copy copy;
-    Skip skip;
 };
 
 /// All rows in the order of execution.
@@ -48,13 +41,11 @@ template <typename Row>
 [[nodiscard]] std::span<const Row> rowsOfBox(std::span<const Row> plan, int box)
 {
     std::size_t first = 0;
-    while (first < plan.size() && plan[first].box != box) {
+    while (first < plan.size() && plan[first].box != box)
         ++first;
-    }
     std::size_t end = first;
-    while (end < plan.size() && plan[end].box == box) {
+    while (end < plan.size() && plan[end].box == box)
         ++end;
-    }
     return plan.subspan(first, end - first);
 }
 

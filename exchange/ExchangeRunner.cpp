@@ -17,9 +17,6 @@ namespace norvane::exchange
 namespace
 {
 
-/// What a writer returns when its table has no rows and it has touched no file.
-constexpr int nothingWritten = 1;
-
 QString dataFile(int file)
 {
     return QStringLiteral("%1.dat").arg(file);
@@ -101,7 +98,7 @@ bool ExchangeRunner::uploadRow(const UploadRow& row)
     if (!succeeded()) {
         return false;
     }
-    if (row.importer != nullptr && records::hasImporter(row.file)) {
+    if (records::hasImporter(row.file)) {
         records::importRegisterFile(row.file, m_procedures);
     }
     keepForCustomer(dataFile(row.file));
@@ -111,42 +108,40 @@ bool ExchangeRunner::uploadRow(const UploadRow& row)
 bool ExchangeRunner::downloadRow(const DownloadRow& row)
 {
     showStep("Download", row.box, row.file);
-    const QString name = dataFile(row.file);
-    // Without a writer the customer's kept copy is what the registers get, never a file that happens to lie
-    // in the program's folder and may be another customer's.
-    const bool hasWriter = row.writer != nullptr && records::hasExporter(row.file);
-    if (!hasWriter) {
-        copyBeforeSend(name);
-    } else if (records::exportRegisterFile(row.file, m_procedures) == nothingWritten &&
-               row.skip == Skip::WhenTableEmpty) {
+    const bool fromTable = records::hasExporter(row.file);
+    if (fromTable ? !makeFile(row.file) : !takeKeptFile(row))
         return true;
-    }
-    if (row.skip == Skip::WhenFileEmpty && lengthOf(name) == 0) {
-        return true;
-    }
     runTool(link::downloadLine(m_link, QLatin1String(row.literal)));
-    if (hasWriter) {
-        copyAfterSend(row.copy, name);
-    }
+    if (fromTable)
+        copyAfterSend(row);
     return succeeded();
 }
 
-void ExchangeRunner::copyBeforeSend(const QString& name)
+/// @return whether there is a file to send.
+bool ExchangeRunner::makeFile(int file)
 {
+    return records::exportRegisterFile(file, m_procedures) != records::Exported::Nothing;
+}
+
+/// Without a table the customer's kept copy is sent, never a file that happens to lie in the program's folder
+/// and may be another customer's. @return whether there is a file to send.
+bool ExchangeRunner::takeKeptFile(const DownloadRow& row)
+{
+    const QString name = dataFile(row.file);
     if (!pathExists(joinPath(m_values.customerPath, name))) {
         m_outside.showNotice(
             QStringLiteral("The customer's folder holds no %1. Upload it from the ECR first.").arg(name));
     }
     MoveDataFile(m_values.customerPath, m_values.appPath, name);
+    return row.copy != Copy::FromCustomerUnlessEmpty || lengthOf(name) > 0;
 }
 
-void ExchangeRunner::copyAfterSend(Copy copy, const QString& name)
+void ExchangeRunner::copyAfterSend(const DownloadRow& row)
 {
-    if (copy == Copy::ToCustomerAfter) {
-        keepForCustomer(name);
-    } else if (copy == Copy::FromCustomerAfter) {
-        MoveDataFile(m_values.customerPath, m_values.appPath, name);
-    }
+    if (row.copy == Copy::ToCustomerAfter)
+        keepForCustomer(dataFile(row.file));
+    else if (row.copy == Copy::FromCustomerAfter)
+        MoveDataFile(m_values.customerPath, m_values.appPath, dataFile(row.file));
 }
 
 /// The copy in the customer's folder is the only store of a file without a table: it stays when a tool

@@ -38,8 +38,9 @@ private:
     void moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::*moveRow)(const Row&));
     bool uploadRow(const UploadRow& row);
     bool downloadRow(const DownloadRow& row);
-    void copyBeforeSend(const QString& name);
-    void copyAfterSend(Copy copy, const QString& name);
+    [[nodiscard]] bool makeFile(int file);
+    [[nodiscard]] bool takeKeptFile(const DownloadRow& row);
+    void copyAfterSend(const DownloadRow& row);
     void keepForCustomer(const QString& name);
     void untickWithoutSmartCards();
     bool runTool(const QString& commandLine);

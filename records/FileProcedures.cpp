@@ -18,8 +18,6 @@ namespace norvane::records
 namespace
 {
 
-/// What a writer returns that has touched no file.
-constexpr int nothingWritten = 1;
 /// So much text is gathered before it goes to the file.
 constexpr std::size_t writeBlock = std::size_t{64} * 1024;
 
@@ -199,12 +197,12 @@ void importRegisterFile(int number, const ProcedureContext& context)
     transaction.commit();
 }
 
-int exportRegisterFile(int number, const ProcedureContext& context)
+Exported exportRegisterFile(int number, const ProcedureContext& context)
 {
     const RegisterFile& file = knownFile(number);
     const QString& databasePath = context.values.databasePath;
     if (file.emptyTable == EmptyTable::Skips && isEmpty(file, databasePath))
-        return nothingWritten;
+        return Exported::Nothing;
     {
         TextOutput output(joinPath(context.values.appPath, textName(file)));
         store::Database database(databasePath);
@@ -213,7 +211,7 @@ int exportRegisterFile(int number, const ProcedureContext& context)
         writeRecords(file, records, output, context);
     }
     context.runCommand(exportLine(file, context.values));
-    return 0;
+    return Exported::File;
 }
 
 } // namespace norvane::records

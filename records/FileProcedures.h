@@ -34,13 +34,18 @@ struct ProcedureContext {
 /// RecordReader::read and Recordset::update throw, its text naming file, line and column.
 void importRegisterFile(int file, const ProcedureContext& context);
 
+/// What a Write... procedure has made.
+enum class Exported {
+    Nothing,
+    File,
+};
+
 /// The Write... procedure: makes NN.txt in the program's folder from all records of the table in the order of
 /// the file's index, then converts it to NN.dat.
-/// @return 1 when the table is empty and the file is one that is passed over then, no file is touched; else
-/// 0.
+/// @return Nothing when the table is empty and the file is one that is passed over then; no file is touched.
 /// @throws RuntimeFailure 3021 when the table is empty and the file is not passed over, with NN.txt emptied;
 /// 75 when NN.txt cannot be opened, 61 when the disk is full; what GetModelCode() throws, and for the
 /// function keys, file 2, what GetFirmwareGeneration() throws.
-int exportRegisterFile(int file, const ProcedureContext& context);
+Exported exportRegisterFile(int file, const ProcedureContext& context);
 
 } // namespace norvane::records

@@ -35,7 +35,7 @@ TEST(FileProceduresTest, WritesOverTheFileOfAnotherSpellingInTheOrderOfTheIndex)
     shop.converter = [&] {
         written = shop.folder.read("1.TXT");
     };
-    EXPECT_EQ(exportRegisterFile(1, shop.context()), 0);
+    EXPECT_EQ(exportRegisterFile(1, shop.context()), Exported::File);
     EXPECT_EQ(written, "Food        ,40,50\r\nWine        ,00,01\r\n");
     EXPECT_FALSE(shop.folder.names().contains(QStringLiteral("1.txt")));
     EXPECT_EQ(shop.commands, QStringList(QStringLiteral("convert wVelmaro f1.txt t1.dat d01")));
@@ -94,10 +94,10 @@ TEST(FileProceduresTest, PassesOverOrFailsOnAnEmptyTable)
         Shop shop;
         const QByteArray name = QByteArray::number(file.number) + ".txt";
         shop.folder.write(name.constData(), "former text");
-        int result = 0;
+        auto result = Exported::File;
         const int failure = failureOf([&] { result = exportRegisterFile(file.number, shop.context()); });
         const bool skips = file.emptyTable == EmptyTable::Skips;
-        EXPECT_EQ(result, skips ? 1 : 0) << file.number;
+        EXPECT_EQ(result, skips ? Exported::Nothing : Exported::File) << file.number;
         EXPECT_EQ(failure, skips ? 0 : 3021) << file.number;
         EXPECT_EQ(shop.folder.read(name.constData()), skips ? "former text" : "") << file.number;
         EXPECT_TRUE(shop.commands.isEmpty()) << file.number;
