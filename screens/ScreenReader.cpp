@@ -181,8 +181,8 @@ ScreenWindow ScreenReader::window() const
 QVector<ControlDefinition> ScreenReader::controls() const
 {
     QVector<ControlDefinition> controls;
-    for (int number = 1;; ++number) {
-        const QString section = u"Field%1"_s.arg(number);
+    for (int index = 1;; ++index) {
+        const QString section = u"Field%1"_s.arg(index);
         const QString type = m_file.value(section, u"ControlType"_s);
         if (type.isEmpty())
             return controls;
@@ -215,13 +215,13 @@ ControlDefinition ScreenReader::control(const QString& section, ControlKind kind
 QVector<GridColumn> ScreenReader::gridColumns(const QString& section) const
 {
     QVector<GridColumn> columns;
-    for (int number = 0;; ++number) {
+    for (int index = 0;; ++index) {
         GridColumn column;
-        column.caption = m_file.value(section, u"Caption%1"_s.arg(number));
+        column.caption = m_file.value(section, u"Caption%1"_s.arg(index));
         if (column.caption.isEmpty())
             return columns;
         for (const ColumnRule& rule : columnRules) {
-            read(section, rule.key + QString::number(number), profileValueLimit,
+            read(section, rule.key + QString::number(index), profileValueLimit,
                  [&](const QString& value) { rule.convert(value, column); });
         }
         columns += column;

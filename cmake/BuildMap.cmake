@@ -1,0 +1,47 @@
+# Writes down what is linked with what, for the test that holds every include against it (tests/architecture).
+
+# Sets <result> to the targets of a folder and of all folders below it.
+function(norvane_targets_below folder result)
+  get_property(all DIRECTORY "${folder}" PROPERTY BUILDSYSTEM_TARGETS)
+  get_property(subfolders DIRECTORY "${folder}" PROPERTY SUBDIRECTORIES)
+  foreach(subfolder ${subfolders})
+    norvane_targets_below("${subfolder}" below)
+    list(APPEND all ${below})
+  endforeach()
+  set(${result} ${all} PARENT_SCOPE)
+endfunction()
+
+# Appends the lines of one target: its kind, name and folder, then its sources and direct links.
+function(norvane_describe_target target result)
+  get_target_property(kind ${target} TYPE)
+  get_target_property(folder ${target} SOURCE_DIR)
+  set(lines "target ${kind} ${target} ${folder}\n")
+  foreach(property SOURCES LINK_LIBRARIES INTERFACE_LINK_LIBRARIES)
+    get_target_property(entries ${target} ${property})
+    if(NOT entries)
+      continue()
+    endif()
+    foreach(entry ${entries})
+      if(property STREQUAL "SOURCES")
+        cmake_path(ABSOLUTE_PATH entry BASE_DIRECTORY "${folder}" NORMALIZE)
+      endif()
+      string(APPEND lines "${property} ${entry}\n")
+    endforeach()
+  endforeach()
+  set(${result} "${${result}}${lines}" PARENT_SCOPE)
+endfunction()
+
+# norvane_write_build_map(<file>): call it after the last target. The toolkit's targets are written too, since one of
+# its libraries may bring another.
+function(norvane_write_build_map file)
+  norvane_targets_below("${PROJECT_SOURCE_DIR}" targets)
+  foreach(module Core Gui PrintSupport SerialPort Test Widgets)
+    if(TARGET Qt6::${module})
+      list(APPEND targets Qt6::${module})
+    endif()
+  endforeach()
+  foreach(target ${targets})
+    norvane_describe_target(${target} map)
+  endforeach()
+  file(WRITE "${file}" "${map}")
+endfunction()
