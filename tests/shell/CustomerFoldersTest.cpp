@@ -10,7 +10,16 @@ namespace norvane::shell
 namespace
 {
 
-using CustomerFoldersTest = ShellFixture;
+class CustomerFoldersTest : public ShellFixture
+{
+protected:
+    void expectCustomerIn(const QByteArray& folder) const
+    {
+        EXPECT_EQ(m_values.customerPath.toLower(), m_folder.path(folder).toLower());
+        EXPECT_EQ(m_folder.read(folder + "/velmar.mdb"), "template");
+        EXPECT_EQ(m_folder.read(folder + "/setup.ini"), m_folder.read("app/setup.ini"));
+    }
+};
 
 TEST_F(CustomerFoldersTest, FoldersAreListedInUpperCaseAndStillMeetWhenTheyArePicked)
 {
@@ -36,19 +45,18 @@ TEST_F(CustomerFoldersTest, ANewNameMakesAFolderWithCopiesOfTheTemplates)
                 {u"  "_s, CustomerChoice::InvalidEntry, "app/Cafe/Bar"},
                 {u"cafe/Grill"_s, CustomerChoice::Created, "app/Cafe/Grill"},
                 {u"Cafe "_s, CustomerChoice::Created, "app/Cafe "}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.typed.toStdString());
-        EXPECT_EQ(chooseCustomer(m_values, row.typed), row.choice);
-        EXPECT_EQ(m_values.customerName, row.typed);
-        EXPECT_EQ(m_values.customerPath.toLower(), m_folder.path(row.folder).toLower());
-        const auto copy = [&row, this](const char* name) {
-            return m_folder.read((QByteArray(row.folder) + name).constData());
-        };
-        EXPECT_EQ(copy("/velmar.mdb"), "template");
-        EXPECT_EQ(copy("/setup.ini"), m_folder.read("app/setup.ini"));
+    for (const auto& [typed, choice, folder] : rows) {
+        SCOPED_TRACE(typed.toStdString());
+        EXPECT_EQ(chooseCustomer(m_values, typed), choice);
+        EXPECT_EQ(m_values.customerName, typed);
+        expectCustomerIn(folder);
     }
     EXPECT_EQ(m_values.databasePath, m_folder.path("app/Cafe/velmar.mdb"))
         << "the start sets it, not the choice";
+}
+
+TEST_F(CustomerFoldersTest, AHalfMadeCustomerStaysAndCanBeTaken)
+{
     QFile::remove(m_folder.path("app/setup.ini"));
     EXPECT_EQ(chooseCustomer(m_values, u"Half"_s), CustomerChoice::Failed);
     EXPECT_EQ(m_folder.read("app/Half/velmar.mdb"), "template");

@@ -1,5 +1,4 @@
-// Fails as its argument says, under the program's own outermost handler and with its real boxes, whose text
-// it prints before it presses OK.
+// Fails as its argument says, with the program's own handler and real boxes. Prints each box and presses OK.
 #include "platform/RuntimeFailure.h"
 #include "shell/Program.h"
 #include "ui/MessageBoxes.h"
@@ -12,27 +11,28 @@
 #include <cstdio>
 
 using namespace norvane;
+using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
 
 [[noreturn]] void fail()
 {
-    throw RuntimeFailure(Failure::FileNotFound, QStringLiteral("File not found: mem.dat"));
+    throw RuntimeFailure(Failure::FileNotFound, u"File not found: mem.dat"_s);
 }
 
 int failAs(const QString& kind)
 {
-    if (kind == QStringLiteral("library"))
+    if (kind == u"library")
         throw std::logic_error("odd");
-    if (kind == QStringLiteral("memory"))
+    if (kind == u"memory")
         throw std::bad_alloc();
     QTimer::singleShot(0, qApp, [kind] {
-        if (kind != QStringLiteral("none"))
+        if (kind != u"none")
             fail();
         QCoreApplication::exit(0);
     });
-    if (kind == QStringLiteral("dialog")) {
+    if (kind == u"dialog") {
         QDialog().exec();
         std::puts("went on"); // code behind a dialog that failed must not
     }

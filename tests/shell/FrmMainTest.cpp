@@ -1,4 +1,4 @@
-// The menu in the real main window, the windows in it, the status bar and the way out.
+// The menu in the real main window, its child windows, the status bar and the end of the program.
 #include "shell/FrmMain.h"
 
 #include "shell/FrameOpeners.h"
@@ -64,6 +64,24 @@ protected:
         return names;
     }
 
+    void changeCustomer(const QString& typed)
+    {
+        QTimer::singleShot(0, [typed] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            ASSERT_TRUE(dialog);
+            QTest::keyClicks(&child<QWidget>(*dialog, "text1"), typed);
+            child<QPushButton>(*dialog, "CSCmdBtn1").click();
+        });
+        choose("ChangeCustomer");
+    }
+    void pressButtonsOf(QWidget& about)
+    {
+        EXPECT_EQ(child<QLabel>(about, "lblDescription").text(), u"Norvane Dorvik Programming Utility");
+        child<QPushButton>(about, "cmdSysInfo").click();
+        EXPECT_EQ(m_boxes.shown.back().text, u"System Information Is Unavailable At This Time");
+        child<QPushButton>(about, "cmdOK").click();
+    }
+
     FrmMain::Openers m_openers;
     QString m_opened; ///< the screen file, or the entry that asked for a form
     std::optional<FrmMain> m_main;
@@ -111,34 +129,32 @@ TEST_F(FrmMainTest, SetupAndAboutStandOnceInTheMiddleAndSpeakInTheStatusBar)
     choose("About");
     EXPECT_EQ(m_main->statusBar1().panel(), u"About.....");
     EXPECT_EQ(childWindows(), (QStringList{u"FrmSetup"_s, u"frmAbout"_s}));
-    const auto& about = child<QWidget>(*m_main, "frmAbout");
-    EXPECT_EQ(child<QLabel>(about, "lblDescription").text(), u"Norvane Dorvik Programming Utility");
-    child<QPushButton>(about, "cmdSysInfo").click();
-    EXPECT_EQ(m_boxes.shown.back().text, u"System Information Is Unavailable At This Time");
-    child<QPushButton>(about, "cmdOK").click();
+    pressButtonsOf(child<QWidget>(*m_main, "frmAbout"));
     EXPECT_EQ(m_main->statusBar1().panel(), u"Ready.....");
     setup->close();
     EXPECT_TRUE(QTest::qWaitFor([this] { return childWindows().isEmpty(); }));
 }
 
-TEST_F(FrmMainTest, AChangeOfCustomerKeepsTheDatabaseAndEveryWayOutAsksOnce)
+const test::ShownBox question{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question};
+
+TEST_F(FrmMainTest, AChangeOfCustomerKeepsTheDatabase)
 {
     const QString database = m_values.databasePath;
-    QTimer::singleShot(0, [] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        ASSERT_TRUE(dialog);
-        QTest::keyClicks(&child<QWidget>(*dialog, "text1"), u"New"_s);
-        child<QPushButton>(*dialog, "CSCmdBtn1").click();
-    });
     m_boxes.whileOpen = [](const test::ShownBox&) {
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "the dialog has gone";
     };
-    choose("ChangeCustomer");
+    changeCustomer(u"New"_s);
     EXPECT_EQ(m_main->statusBar1().statusText(), u"Customer Database New");
     EXPECT_EQ(m_values.customerPath, m_folder.path("app/New"));
     EXPECT_EQ(m_values.databasePath, database);
+    const test::ShownBox made{
+        u"Your new database has been created please\rupload program from your cash register.  \r"_s,
+        u"Information "_s, BoxIcon::Information};
+    EXPECT_EQ(m_boxes.shown, std::vector{made});
+}
 
-    m_boxes.whileOpen = {};
+TEST_F(FrmMainTest, EveryWayOutAsksOnce)
+{
     QSignalSpy ended(&*m_main, &FrmMain::unloaded);
     choose("DataSetup");
     m_boxes.answers = {false, false, true};
@@ -151,11 +167,7 @@ TEST_F(FrmMainTest, AChangeOfCustomerKeepsTheDatabaseAndEveryWayOutAsksOnce)
     choose("ChangeCustomer");
     EXPECT_FALSE(m_main->isVisible());
     EXPECT_EQ(ended.size(), 1);
-    const test::ShownBox made{
-        u"Your new database has been created please\rupload program from your cash register.  \r"_s,
-        u"Information "_s, BoxIcon::Information};
-    const test::ShownBox question{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question};
-    EXPECT_EQ(m_boxes.shown, (std::vector{made, question, question, question}));
+    EXPECT_EQ(m_boxes.shown, (std::vector{question, question, question}));
 }
 
 } // namespace

@@ -36,17 +36,19 @@ protected:
     std::optional<FrmSetup> m_form;
 };
 
+/// Lists with their default and their last entry.
+constexpr std::pair<const char*, const char*> defaultLists[] = {{"CboPort", "Port 1 Port 4"},
+                                                                {"CboBaud", "2400 19200"},
+                                                                {"CboConnection", "Direct Modem"},
+                                                                {"CboECRs", "1 32"},
+                                                                {"CboModel", "Velmar -V2 Dorvik"}};
+
 TEST_F(FrmSetupTest, WithoutAFileTheDefaultsAreShownAndSaveMakesIt)
 {
     QFile::remove(m_folder.path("app/Cafe/setup.ini"));
     open();
     EXPECT_EQ(m_status.panel(), u"Setup.....");
-    const std::pair<const char*, const char*> shown[] = {{"CboPort", "Port 1 Port 4"},
-                                                         {"CboBaud", "2400 19200"},
-                                                         {"CboConnection", "Direct Modem"},
-                                                         {"CboECRs", "1 32"},
-                                                         {"CboModel", "Velmar -V2 Dorvik"}};
-    for (const auto& [name, ends] : shown) {
+    for (const auto& [name, ends] : defaultLists) {
         const QComboBox& list = combo(name);
         EXPECT_EQ(list.currentText() + u' ' + list.itemText(list.count() - 1), QLatin1String(ends)) << name;
     }
@@ -96,7 +98,7 @@ TEST_F(FrmSetupTest, EnterSavesAndEscapeAndExitLeave)
 
 TEST_F(FrmSetupTest, AnIndexOutsideItsListIsAFailure)
 {
-    // Of two wrong values the first in the order of reading counts.
+    // Of two wrong values the one that is read first is reported.
     const std::pair<const char*, int> cases[] = {{"Port=4", 5},       {"Baud=-2", 5},
                                                  {"NoOfECRs=32", 5},  {"Connectiontype=2", 5},
                                                  {"ECRModel=4", 5},   {"ECRModel=x", 13},

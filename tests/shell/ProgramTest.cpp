@@ -1,4 +1,4 @@
-// What the user sees of a failure that nothing caught, and how the process ends: in a real child process.
+// What the user sees of a failure that nothing caught, and how a real process ends with it.
 #include "shell/Program.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +11,18 @@ namespace norvane::shell
 namespace
 {
 
+/// Runs the failing program as @p kind and expects one box with @p shown, or none for an empty text.
+void expectShown(const QString& kind, const QString& shown)
+{
+    QProcess program;
+    program.start(QLatin1StringView(FAILING_PROGRAM), {kind});
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(QString::fromUtf8(program.readAllStandardOutput()),
+              shown.isEmpty() ? shown : applicationTitle() + u"|Run-time error '"_s + shown);
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), shown.isEmpty() ? 0 : 1);
+}
+
 TEST(ProgramTest, AFailureIsShownOnceAndEndsTheProcess)
 {
     const QString notFound = u"53':\n\nFile not found: mem.dat\n"_s;
@@ -21,13 +33,7 @@ TEST(ProgramTest, AFailureIsShownOnceAndEndsTheProcess)
                                                 {u"none"_s, QString()}};
     for (const auto& [kind, shown] : rows) {
         SCOPED_TRACE(kind.toStdString());
-        QProcess program;
-        program.start(QStringLiteral(FAILING_PROGRAM), {kind});
-        ASSERT_TRUE(program.waitForFinished());
-        EXPECT_EQ(QString::fromUtf8(program.readAllStandardOutput()),
-                  shown.isEmpty() ? shown : applicationTitle() + u"|Run-time error '"_s + shown);
-        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
-        EXPECT_EQ(program.exitCode(), shown.isEmpty() ? 0 : 1);
+        expectShown(kind, shown);
     }
 }
 

@@ -21,27 +21,39 @@ protected:
         return targetOf(*menuEntry(entry), m_values);
     }
     bool opens(QLatin1StringView entry) { return mayOpen(*menuEntry(entry), m_values, m_boxes); }
+    /// The length of the memory file tells the firmware.
+    void setMemoryFile(int length) const { m_folder.write("app/mem.dat", QByteArray(length, 'm')); }
+    /// The texts of the boxes since the last call.
+    QStringList shownTexts()
+    {
+        QStringList texts;
+        for (const auto& box : std::exchange(m_boxes.shown, {}))
+            texts.append(box.text);
+        return texts;
+    }
+};
+
+/// Entries and what they open for the models 0 to 3.
+constexpr std::pair<QLatin1StringView, const char*> targets[] = {
+    {"PLUMENU"_L1, "\\PLUVelmarv2.scn \\PLUVelmarv2card.scn \\PLUVelmarv3.scn \\PLU.scn"},
+    {"PLUStatusMenu"_L1,
+     "\\PLUstatVelmarv2.scn \\PLUstatVelmarvcard.scn \\PLUstatVelmarv3.scn \\PLUstat.scn"},
+    {"EmployeeMenu"_L1,
+     "\\employeeVelmarv2.scn \\employeeVelmarv2.scn \\employeeVelmarv3.scn \\employee.scn"},
+    {"EJPrint"_L1, "\\EJPRTv2.scn \\EJPRTv2.scn \\EJPRTv3.scn \\EJPRT.scn"},
+    {"KeyboardLocation"_L1, "KeyLayoutVelmar KeyLayoutVelmar KeyLayoutVelmar KeyLayoutDorvik"},
+    {"GroupMenu"_L1, "\\Group.scn \\Group.scn \\Group.scn \\Group.scn"},
 };
 
 TEST_F(ScreenChoiceTest, TheModelOfTheMomentChoosesTheFile)
 {
-    const std::pair<QLatin1StringView, const char*> rows[] = {
-        {"PLUMENU"_L1, "\\PLUVelmarv2.scn \\PLUVelmarv2card.scn \\PLUVelmarv3.scn \\PLU.scn"},
-        {"PLUStatusMenu"_L1,
-         "\\PLUstatVelmarv2.scn \\PLUstatVelmarvcard.scn \\PLUstatVelmarv3.scn \\PLUstat.scn"},
-        {"EmployeeMenu"_L1,
-         "\\employeeVelmarv2.scn \\employeeVelmarv2.scn \\employeeVelmarv3.scn \\employee.scn"},
-        {"EJPrint"_L1, "\\EJPRTv2.scn \\EJPRTv2.scn \\EJPRTv3.scn \\EJPRT.scn"},
-        {"KeyboardLocation"_L1, "KeyLayoutVelmar KeyLayoutVelmar KeyLayoutVelmar KeyLayoutDorvik"},
-        {"GroupMenu"_L1, "\\Group.scn \\Group.scn \\Group.scn \\Group.scn"},
-    };
-    for (const auto& [entry, targets] : rows) {
+    for (const auto& [entry, expected] : targets) {
         QStringList found;
         for (int model = 0; model < 4; ++model) {
             setModel(QByteArray::number(model));
             found << target(entry);
         }
-        EXPECT_EQ(found.join(u' '), QLatin1String(targets)) << entry.data();
+        EXPECT_EQ(found.join(u' '), QLatin1String(expected)) << entry.data();
     }
     setModel("7");
     EXPECT_EQ(target("PLUMENU"_L1), u"\\PLU.scn");
@@ -58,25 +70,27 @@ TEST_F(ScreenChoiceTest, EveryScreenThatCanBeChosenIsInstalledForEveryModel)
         for (int model = 0; entry.choosable == Choosable::Yes && model < 4; ++model) {
             setModel(QByteArray::number(model));
             const QString file = target(entry.name);
-            EXPECT_TRUE(!file.endsWith(u".scn") || QFile::exists(joinPath(QStringLiteral(DATA_DIR), file)))
+            EXPECT_TRUE(!file.endsWith(u".scn") || QFile::exists(joinPath(QLatin1StringView(DATA_DIR), file)))
                 << file.toStdString();
         }
     }
 }
 
-TEST_F(ScreenChoiceTest, CardEntriesAskFirmwareAndTable)
+const QString tooOld = u"Option not available on this firmware"_s;
+const QString noMemory = u"You must upload the data from the Velmar"_s;
+const QString noCards = u"You must upload the Card Catergory file from the ECR"_s;
+const QString noHotlist = u"You must upload the Hot List file from the ECR"_s;
+
+TEST_F(ScreenChoiceTest, CardEntriesFailWithoutMemoryFileOrDatabase)
 {
-    const auto setMemoryFile = [this](int length) {
-        m_folder.write("app/mem.dat", QByteArray(length, 'm'));
-    };
     EXPECT_EQ(failureOf([this] { opens("CardCat"_L1); }), 53) << "no memory file";
     setMemoryFile(78);
     EXPECT_EQ(failureOf([this] { opens("CardCat"_L1); }), 53) << "no database";
+}
+
+TEST_F(ScreenChoiceTest, CardEntriesAskFirmwareAndTable)
+{
     makeCustomerDatabase();
-    const QString tooOld = u"Option not available on this firmware"_s;
-    const QString noMemory = u"You must upload the data from the Velmar"_s;
-    const QString noCards = u"You must upload the Card Catergory file from the ECR"_s;
-    const QString noHotlist = u"You must upload the Hot List file from the ECR"_s;
     const struct {
         int memoryLength;
         QLatin1StringView entry;
@@ -87,16 +101,19 @@ TEST_F(ScreenChoiceTest, CardEntriesAskFirmwareAndTable)
     };
     for (const auto& row : rows) {
         setMemoryFile(row.memoryLength);
-        m_boxes.shown.clear();
         EXPECT_EQ(opens(row.entry), row.shown.empty()) << row.entry.data();
-        QStringList shown;
-        for (const auto& box : m_boxes.shown)
-            shown.append(box.text);
-        EXPECT_EQ(shown, row.shown) << row.memoryLength << row.entry.data();
+        EXPECT_EQ(shownTexts(), row.shown) << row.memoryLength << row.entry.data();
     }
-    EXPECT_EQ(m_boxes.shown.back().title, u"Data Error");
     store::Database(m_values.databasePath).execute(u"insert into hotlist (id) values (1)"_s);
     EXPECT_TRUE(opens("Hotlist"_L1));
+}
+
+TEST_F(ScreenChoiceTest, AnEmptyTableIsADataError)
+{
+    makeCustomerDatabase();
+    setMemoryFile(78);
+    EXPECT_FALSE(opens("Hotlist"_L1));
+    EXPECT_EQ(m_boxes.shown.back().title, u"Data Error");
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// A program folder of a test's own with real templates, and one customer in it.
+// A program folder with templates and one customer, made for each test.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -11,7 +11,7 @@
 namespace norvane::shell
 {
 
-/// The program's folder is "app"; what stands beside it must stay alone.
+/// The program's folder is "app"; a test must find nothing new beside it.
 class ShellFixture : public testing::Test
 {
 protected:
@@ -21,7 +21,7 @@ protected:
         m_folder.write("app/velmar.mdb", "template");
         m_folder.write("app/Cafe/setup.ini", "[SetupOption]\r\nECRModel= 0\r\n");
         m_values.appPath = m_folder.path("app");
-        m_values.customerName = QStringLiteral("Cafe");
+        m_values.customerName = QLatin1StringView("Cafe");
         m_values.customerPath = m_folder.path("app/Cafe");
         m_values.databasePath = m_folder.path("app/Cafe/velmar.mdb");
     }

@@ -1,4 +1,4 @@
-// The Utilities menu in the real main window: the boxes that it shows and what is in the tables afterwards.
+// The Utilities menu in the real main window: its boxes, and what is in the tables afterwards.
 #include "shell/FrmMain.h"
 #include "shell/Openers.h"
 #include "store/Recordset.h"
@@ -45,7 +45,7 @@ protected:
         return boxes;
     }
     void execute(const QString& sql) const { store::Database(m_values.databasePath).execute(sql); }
-    /// A PLU with its prices 1 to 5 and euro prices 1 to 5 as they stand in a statement.
+    /// Adds a PLU; @p prices are its prices 1 to 5 and euro prices 1 to 5 as SQL values.
     void addPlu(int number, const QString& prices) const
     {
         execute(u"insert into PLUDATA (PLUNUMBER, %1) values ('%2', %3)"_s.arg(priceFields)
@@ -67,7 +67,51 @@ protected:
         return all.join(u"  "_s).toStdString();
     }
 
+    /// The numbers of records, one digit for each table.
+    [[nodiscard]] QString recordCounts(const QStringList& tables) const
+    {
+        store::Database database(m_values.databasePath);
+        QString counts;
+        for (const QString& table : tables)
+            counts += QString::number(database.openTable(table).recordCount());
+        return counts;
+    }
+    /// What a user may try while the work runs.
+    void tryToInterrupt()
+    {
+        ASSERT_TRUE(QGuiApplication::overrideCursor());
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        for (const char* const entry : {"TransferEuro", "ResetPrice", "Exit"})
+            action(entry).trigger();
+        m_main.close();
+        EXPECT_TRUE(m_main.isVisible());
+    }
+
     FrmMain m_main;
+};
+
+const QStringList toEuroBoxes{toEuro, rateBox, converted};
+const QStringList fromEuroBoxes{fromEuro, converted};
+/// Entry, rate, boxes and the prices of both PLUs afterwards; each step goes on from the one before.
+const struct {
+    const char* entry;
+    const char* rate;
+    QStringList boxes;
+    const char* prices;
+} steps[] = {
+    {"Transfer1to2", "0.68", toEuroBoxes,
+     "1.00| 1.47|0.00|abc|-1.00|9.1|9.2|9.3|9.4|  3| 4.41|3|4|5|6|7|8|9|0"},
+    {"TransferEuro", "1,5", toEuroBoxes,
+     "1.00| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1  3| 4.41|3|4|5| 3| 4.41| 3| 4| 5"},
+    {"Transfer2to1", "", fromEuroBoxes,
+     " 1.47| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1   4.41| 4.41|3|4|5| 3| 4.41| 3| 4| 5"},
+    {"TransferCurrent", "", fromEuroBoxes,
+     " 1| 1.47| 0| 0|-1| 1| 1.47| 0| 0|-1   3| 4.41| 3| 4| 5| 3| 4.41| 3| 4| 5"},
+    {"ResetPrice",
+     "",
+     {u"Reset Prices?: Do you wish to reset prices?"_s, u"Price Reset: Price Reset Complete!"_s},
+     "0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00  "
+     "0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00"},
 };
 
 TEST_F(PriceUtilitiesTest, EachEntryFillsItsOwnFieldsOfEveryPlu)
@@ -75,28 +119,6 @@ TEST_F(PriceUtilitiesTest, EachEntryFillsItsOwnFieldsOfEveryPlu)
     makeCustomerDatabase();
     addPlu(2, u"'3', null, '3', '4', '5', '6', '7', '8', '9', '0'"_s);
     addPlu(1, u"'1.00', '2.00', '0.00', 'abc', '-1.00', '9.1', '9.2', '9.3', '9.4', null"_s);
-    const QStringList toEuroBoxes{toEuro, rateBox, converted};
-    const QStringList fromEuroBoxes{fromEuro, converted};
-    const struct {
-        const char* entry;
-        const char* rate;
-        QStringList boxes;
-        const char* prices;
-    } steps[] = {
-        {"Transfer1to2", "0.68", toEuroBoxes,
-         "1.00| 1.47|0.00|abc|-1.00|9.1|9.2|9.3|9.4|  3| 4.41|3|4|5|6|7|8|9|0"},
-        {"TransferEuro", "1,5", toEuroBoxes,
-         "1.00| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1  3| 4.41|3|4|5| 3| 4.41| 3| 4| 5"},
-        {"Transfer2to1", "", fromEuroBoxes,
-         " 1.47| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1   4.41| 4.41|3|4|5| 3| 4.41| 3| 4| 5"},
-        {"TransferCurrent", "", fromEuroBoxes,
-         " 1| 1.47| 0| 0|-1| 1| 1.47| 0| 0|-1   3| 4.41| 3| 4| 5| 3| 4.41| 3| 4| 5"},
-        {"ResetPrice",
-         "",
-         {u"Reset Prices?: Do you wish to reset prices?"_s, u"Price Reset: Price Reset Complete!"_s},
-         "0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00  "
-         "0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00|0.00"},
-    };
     for (const auto& [entry, rate, boxes, stored] : steps) {
         EXPECT_EQ(choose(entry, rate), boxes);
         EXPECT_EQ(prices(), stored) << entry;
@@ -111,16 +133,12 @@ TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClos
     for (const QString& table : tables)
         execute(u"insert into %1 default values"_s.arg(table));
     QStringList counts;
-    const auto count = [&](const auto&...) {
-        store::Database database(m_values.databasePath);
-        counts.append(QString());
-        for (const QString& table : tables)
-            counts.back() += QString::number(database.openTable(table).recordCount());
+    m_boxes.whileOpen = [&](const auto&) {
+        counts.append(recordCounts(tables));
     };
-    m_boxes.whileOpen = count;
     EXPECT_EQ(choose("SalesReset"), (QStringList{u"Reset Sales Data?: Do you wish to reset ALL Sales data?"_s,
                                                  u"Sales Reset: Sales Reset Complete!"_s}));
-    count();
+    counts.append(recordCounts(tables));
     EXPECT_EQ(counts, (QStringList{u"1111111"_s, u"0000001"_s, u"0000000"_s}));
 }
 
@@ -161,12 +179,7 @@ TEST_F(PriceUtilitiesTest, DuringTheWalkTheWindowLivesTakesNoOtherEntryAndCloses
     int turns = 0;
     QTimer::singleShot(0, &m_main, [&] {
         ++turns;
-        ASSERT_TRUE(QGuiApplication::overrideCursor());
-        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
-        for (const char* const entry : {"TransferEuro", "ResetPrice", "Exit"})
-            action(entry).trigger();
-        m_main.close();
-        EXPECT_TRUE(m_main.isVisible());
+        tryToInterrupt();
     });
     EXPECT_EQ(choose("TransferEuro", "2"), (QStringList{toEuro, rateBox, converted}));
     EXPECT_EQ(turns, 1);
