@@ -12,6 +12,8 @@
 #include <charconv>
 #include <fstream>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 
@@ -49,8 +51,8 @@ public:
     Shop()
     {
         values.appPath = m_folder.path();
-        values.databasePath = m_folder.filePath(QStringLiteral("velmar.mdb"));
-        bareDatabase = m_folder.filePath(QStringLiteral("bare.mdb"));
+        values.databasePath = m_folder.filePath(u"velmar.mdb"_s);
+        bareDatabase = m_folder.filePath(u"bare.mdb"_s);
         for (const QString& path : {values.databasePath, bareDatabase})
             store::Database::create(path, store::catalogue());
         write("poll194.txt", pollText());
@@ -58,7 +60,7 @@ public:
     }
     [[nodiscard]] std::string path(const char* name) const
     {
-        return m_folder.filePath(QLatin1String(name)).toStdString();
+        return m_folder.filePath(QLatin1StringView(name)).toStdString();
     }
 
     ApplicationValues values;

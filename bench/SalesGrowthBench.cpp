@@ -14,6 +14,8 @@
 #include <array>
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 
@@ -63,9 +65,9 @@ public:
     void appendDay()
     {
         store::Transaction transaction(*m_database);
-        store::Recordset sales = m_database->openTable(QStringLiteral("PLUSALES"));
+        store::Recordset sales = m_database->openTable(u"PLUSALES"_s);
         const auto ordinal = [&sales](const char* field) {
-            return sales.fieldOrdinal(QLatin1String(field));
+            return sales.fieldOrdinal(QLatin1StringView(field));
         };
         const std::array<int, 6> fields{ordinal("ID"),    ordinal("SALESDATE"), ordinal("PROMO"),
                                         ordinal("WASTE"), ordinal("COUNT1"),    ordinal("VALUE1")};
@@ -87,7 +89,7 @@ public:
 
 private:
     [[nodiscard]] static QDate first() { return {2017, 1, 1}; }
-    [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("velmar.mdb")); }
+    [[nodiscard]] QString path() const { return m_folder.filePath(u"velmar.mdb"_s); }
 
     QTemporaryDir m_folder;
     std::unique_ptr<store::Database> m_database;
@@ -120,15 +122,15 @@ void appendDay(benchmark::State& state, bool indexed)
 
 QString dateWord(QDate day)
 {
-    return day.toString(QStringLiteral("'#'M/d/yyyy'#'"));
+    return day.toString(u"'#'M/d/yyyy'#'"_s);
 }
 
 /// All records of one day some way back, one by one.
 void readDay(benchmark::State& state, bool indexed)
 {
     GrowingShop& grown = shopOf(state, indexed);
-    const QString query = QStringLiteral("select * from PLUSALES where SALESDATE = %1")
-                              .arg(dateWord(grown.dayBefore(daysPerMonth / 2)));
+    const QString query =
+        u"select * from PLUSALES where SALESDATE = %1"_s.arg(dateWord(grown.dayBefore(daysPerMonth / 2)));
     while (state.KeepRunning()) {
         store::Recordset sales = grown.database().openQuery(query);
         int rows = 0;
@@ -144,9 +146,9 @@ void readDay(benchmark::State& state, bool indexed)
 void addUp(benchmark::State& state, bool indexed, int days)
 {
     GrowingShop& grown = shopOf(state, indexed);
-    const QString query = QStringLiteral("select ID, count(*) as DAYS, sum(COUNT1) as SOLD from PLUSALES "
-                                         "where SALESDATE >= %1 and SALESDATE <= %2 group by ID")
-                              .arg(dateWord(grown.dayBefore(days - 1)), dateWord(grown.dayBefore(0)));
+    const QString query = u"select ID, count(*) as DAYS, sum(COUNT1) as SOLD from PLUSALES "
+                          "where SALESDATE >= %1 and SALESDATE <= %2 group by ID"_s.arg(
+                              dateWord(grown.dayBefore(days - 1)), dateWord(grown.dayBefore(0)));
     while (state.KeepRunning()) {
         store::Recordset totals = grown.database().openQuery(query);
         require(totals.value(1).toNumber() == days, "all days of the period");

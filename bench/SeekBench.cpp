@@ -11,6 +11,8 @@
 #include <memory>
 #include <string>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 
@@ -35,19 +37,18 @@ public:
         store::Database::create(path(), store::catalogue());
         store::Database database(path());
         const store::Transaction transaction(database);
-        store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
+        store::Recordset plus = database.openTable(u"PLUDATA"_s);
         for (int number = 1; number <= pluCount; ++number) {
             plus.addNew();
-            plus.setValue(QStringLiteral("PLUNUMBER"), store::Value::text(pluNumber(number)));
-            plus.setValue(QStringLiteral("DESCRIPTION"),
-                          store::Value::text("Article " + std::to_string(number)));
-            plus.setValue(QStringLiteral("PRICE1"), store::Value::text(std::string("12.34")));
+            plus.setValue(u"PLUNUMBER"_s, store::Value::text(pluNumber(number)));
+            plus.setValue(u"DESCRIPTION"_s, store::Value::text("Article " + std::to_string(number)));
+            plus.setValue(u"PRICE1"_s, store::Value::text(std::string("12.34")));
             for (const char* field : {"GROUPNO", "PLUSTATUS", "WLUNUMBER", "MIXNMATCH", "PRICELEVEL1"})
                 plus.setValue(QString::fromLatin1(field), store::Value::whole(number % 99));
             plus.update();
         }
     }
-    [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("velmar.mdb")); }
+    [[nodiscard]] QString path() const { return m_folder.filePath(u"velmar.mdb"_s); }
 
 private:
     QTemporaryDir m_folder;
@@ -126,7 +127,7 @@ std::string nextNumber(const std::string& sought)
 void seekAtOrAfter(benchmark::State& state)
 {
     store::Database database(shop().path());
-    store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
+    store::Recordset plus = database.openTable(u"PLUDATA"_s);
     BareSelect bare;
     int step = 0;
     const auto ours = [&] {
@@ -151,7 +152,7 @@ void openSeekRead(benchmark::State& state)
     const std::string number = pluNumber(pluCount / 2);
     while (state.KeepRunning()) {
         store::Database database(shop().path());
-        store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
+        store::Recordset plus = database.openTable(u"PLUDATA"_s);
         require(plus.seek(store::Seek::AtOrAfter, store::Value::text(number)), "found");
         for (int field = 0; field < plus.fieldCount(); ++field)
             benchmark::DoNotOptimize(plus.value(field).toText());
@@ -162,7 +163,7 @@ void openSeekRead(benchmark::State& state)
 void walk(benchmark::State& state, bool forward)
 {
     store::Database database(shop().path());
-    store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
+    store::Recordset plus = database.openTable(u"PLUDATA"_s);
     const int place = 1 + static_cast<int>(state.range(0)) * (pluCount - 1) / 100;
     while (state.KeepRunning()) {
         state.PauseTiming();

@@ -10,11 +10,14 @@
 #include "sales/PollStamp.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
+#include "store/SalesTables.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <string>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::sales
 {
@@ -30,11 +33,11 @@ constexpr const char* pluFields[] = {"ID",     "promo",  "waste",  "count1", "va
 
 // clang-format off
 constexpr PollFile readers[] = {
-    {"FileFinSales",   "poll190.txt", "financialsales", itemFields, Numbering::Running, RecordForm::Fixed,   false, 0},
-    {"FilePLUSales",   "poll194.txt", "plusales",       pluFields,  Numbering::ByText,  RecordForm::Stamped, true,  0},
-    {"FileTimeSales",  "poll191.txt", "Timesales",      itemFields, Numbering::Running, RecordForm::Fixed,   false, 0},
-    {"FilemixSales",   "poll218.txt", "mixsales",       mixFields,  Numbering::Running, RecordForm::Fixed,   false, 2},
-    {"FileClerkSales", "poll192.txt", "CLERKSALES",     itemFields, Numbering::ByBlock, RecordForm::Fixed,   false, 0},
+    {"FileFinSales",   "poll190.txt", store::salestable::financials, itemFields, Numbering::Running, RecordForm::Fixed,   false, 0},
+    {"FilePLUSales",   "poll194.txt", store::salestable::plus,       pluFields,  Numbering::ByText,  RecordForm::Stamped, true,  0},
+    {"FileTimeSales",  "poll191.txt", store::salestable::times,      itemFields, Numbering::Running, RecordForm::Fixed,   false, 0},
+    {"FilemixSales",   "poll218.txt", store::salestable::mixes,      mixFields,  Numbering::Running, RecordForm::Fixed,   false, 2},
+    {"FileClerkSales", "poll192.txt", store::salestable::clerks,     itemFields, Numbering::ByBlock, RecordForm::Fixed,   false, 0},
 };
 // clang-format on
 
@@ -76,8 +79,7 @@ QString shown(std::string_view text)
 
 [[noreturn]] void failNoNumber(std::string_view text)
 {
-    throw RuntimeFailure(Failure::TypeMismatch,
-                         QStringLiteral("Type mismatch: \"%1\" is no number").arg(shown(text)));
+    throw RuntimeFailure(Failure::TypeMismatch, u"Type mismatch: \"%1\" is no number"_s.arg(shown(text)));
 }
 
 /// The usual spelling without a detour: digits with a point at most.
@@ -130,7 +132,7 @@ private:
     void addRow();
     [[nodiscard]] int ordinal(const char* field) const
     {
-        return m_records.fieldOrdinal(QLatin1String(field));
+        return m_records.fieldOrdinal(QLatin1StringView(field));
     }
 
     const PollFile& m_file;
@@ -153,7 +155,7 @@ private:
 Import::Import(const PollFile& file, store::Recordset& records, const ApplicationValues& values,
                QDate collected)
     : m_file(file), m_records(records), m_collected(collected), m_valuesOfRecord(file.fields.size()),
-      m_date(ordinal("salesdate")), m_id(ordinal("ID"))
+      m_date(ordinal(store::salestable::day)), m_id(ordinal("ID"))
 {
     if (file.form == RecordForm::Stamped) {
         m_stamp = ReadPoll194Stamp(values).trimmed();
@@ -172,10 +174,9 @@ void Import::storeAll(TextValues& text)
         try {
             storeRecord(text);
         } catch (const RuntimeFailure& failure) {
-            throw RuntimeFailure(failure.failure(), QStringLiteral("%1, record %2: %3")
-                                                        .arg(QLatin1String(m_file.name))
-                                                        .arg(m_record)
-                                                        .arg(failure.text()));
+            throw RuntimeFailure(
+                failure.failure(),
+                u"%1, record %2: %3"_s.arg(QLatin1StringView(m_file.name)).arg(m_record).arg(failure.text()));
         }
     }
 }
@@ -202,9 +203,8 @@ void Import::count()
 void Import::needLayout() const
 {
     if (m_valuesOfRecord == 0) {
-        throw RuntimeFailure(
-            Failure::RequiredFieldIsNull,
-            QStringLiteral("The stamp %1 of poll194.dll fits no layout of the PLU sales.").arg(m_stamp));
+        throw RuntimeFailure(Failure::RequiredFieldIsNull,
+                             u"The stamp %1 of poll194.dll fits no layout of the PLU sales."_s.arg(m_stamp));
     }
 }
 
@@ -214,10 +214,9 @@ void Import::readValues(TextValues& text)
     for (std::size_t at = 0; at < m_valuesOfRecord; ++at) {
         const auto next = text.next();
         if (!next) {
-            throw RuntimeFailure(Failure::InputPastEnd,
-                                 QStringLiteral("Input past end of file: the record has %1 of %2 values")
-                                     .arg(at)
-                                     .arg(m_valuesOfRecord));
+            throw RuntimeFailure(
+                Failure::InputPastEnd,
+                u"Input past end of file: the record has %1 of %2 values"_s.arg(at).arg(m_valuesOfRecord));
         }
         m_values.at(at) = valueOf(at, *next);
     }
@@ -256,8 +255,8 @@ void importPollFile(const PollFile& file, const ApplicationValues& values, QDate
 {
     store::Database database(values.databasePath);
     store::Transaction transaction(database);
-    store::Recordset records = database.openTable(QLatin1String(file.table));
-    const QByteArray content = readWholeFile(joinPath(values.appPath, QLatin1String(file.name)));
+    store::Recordset records = database.openTable(QLatin1StringView(file.table));
+    const QByteArray content = readWholeFile(joinPath(values.appPath, QLatin1StringView(file.name)));
     TextValues text({content.constData(), static_cast<std::size_t>(content.size())});
     Import(file, records, values, collected).storeAll(text);
     transaction.commit();

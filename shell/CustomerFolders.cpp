@@ -77,7 +77,9 @@ CustomerChoice takeFolder(ApplicationValues& values, const QString& path)
     if (!QFileInfo(path).isDir())
         return CustomerChoice::Failed;
     values.customerPath = path;
-    store::UpgradeDatabase(customerDatabase(path));
+    const QString database = customerDatabase(path);
+    store::UpgradeDatabase(database);
+    store::completeDatabase(database);
     return CustomerChoice::Taken;
 }
 

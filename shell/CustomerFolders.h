@@ -14,7 +14,7 @@ namespace norvane::shell
 enum class CustomerChoice {
     InvalidEntry, ///< blank name
     Created,      ///< new folder with copies of the template database and settings
-    Taken,        ///< existing folder; its database was upgraded
+    Taken,        ///< existing folder; its database was upgraded and completed
     Failed,       ///< refused name or failed step; a folder that was made stays
 };
 

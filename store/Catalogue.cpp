@@ -28,21 +28,20 @@ namespace
 
 FieldDefinition fieldFrom(const rows::FieldRow& row, const QString& name)
 {
-    return {name, row.type, row.size, QLatin1String(row.defaultText), row.required};
+    return {name, row.type, row.size, QLatin1StringView(row.defaultText), row.required};
 }
 
 void appendFields(QVector<FieldDefinition>& fields, const rows::Row& row)
 {
     if (row.times == 0) {
-        fields.append(fieldFrom(row.fields[0], QLatin1String(row.fields[0].name)));
+        fields.append(fieldFrom(row.fields[0], QLatin1StringView(row.fields[0].name)));
         return;
     }
     for (int number = 1; number <= row.times; ++number) {
         for (const rows::FieldRow& field : row.fields) {
             if (field.name != nullptr) {
-                const QString pattern = QLatin1String(field.name);
-                fields.append(
-                    fieldFrom(field, QString(pattern).replace(QLatin1Char('*'), QString::number(number))));
+                const QString pattern = QLatin1StringView(field.name);
+                fields.append(fieldFrom(field, QString(pattern).replace(u'*', QString::number(number))));
             }
         }
     }
@@ -50,20 +49,20 @@ void appendFields(QVector<FieldDefinition>& fields, const rows::Row& row)
 
 TableDefinition tableFrom(const rows::TableRow& row)
 {
-    TableDefinition table{QLatin1String(row.name), {}, {}};
+    TableDefinition table{QLatin1StringView(row.name), {}, {}};
     for (const rows::Row& fields : row.fields) {
         appendFields(table.fields, fields);
     }
     if (row.indexField != nullptr) {
-        IndexDefinition index{{}, QLatin1String(row.indexField)};
+        IndexDefinition index{{}, QLatin1StringView(row.indexField)};
         for (const char* name : row.indexNames) {
             if (name != nullptr) {
-                index.names.append(QLatin1String(name));
+                index.names.append(QLatin1StringView(name));
             }
         }
         table.indexes.append(index);
     }
-    table.searchedField = QLatin1String(row.searchedField);
+    table.searchedField = QLatin1StringView(row.searchedField);
     return table;
 }
 

@@ -1,5 +1,6 @@
 // The catalogue of what is collected from the registers: sales of each kind, and the memory allocation.
 #include "store/CatalogueRows.h"
+#include "store/SalesTables.h"
 
 namespace norvane::store::rows
 {
@@ -9,20 +10,20 @@ namespace
 // Totals of one item on the day of a collection; the clerks' have the clerk beside the item.
 constexpr Row itemSales[] = {
     mustBeSet(whole("ID")),
-    mustBeSet(date("SALESDATE")),
+    mustBeSet(date(salestable::day)),
     zeroUnlessSet(decimal("QUANTITY")),
     zeroUnlessSet(decimal("VALUE")),
 };
 
 constexpr Row clerkSales[] = {
-    mustBeSet(whole("ID")),          mustBeSet(whole("CLERKID")),
-    mustBeSet(date("SALESDATE")),    zeroUnlessSet(decimal("QUANTITY")),
+    mustBeSet(whole("ID")),           mustBeSet(whole("CLERKID")),
+    mustBeSet(date(salestable::day)), zeroUnlessSet(decimal("QUANTITY")),
     zeroUnlessSet(decimal("VALUE")),
 };
 
 constexpr Row pluSales[] = {
     mustBeSet(text("ID", 18)),
-    mustBeSet(date("SALESDATE")),
+    mustBeSet(date(salestable::day)),
     mustBeSet(decimal("PROMO")),
     mustBeSet(decimal("WASTE")),
     numbered(5, zeroUnlessSet(decimal("COUNT*")), zeroUnlessSet(decimal("VALUE*"))),
@@ -79,16 +80,16 @@ constexpr Row memoryAllocation[] = {
 /// Each collection appends, so only reports look for rows: by the day.
 constexpr TableRow salesTable(const char* name, std::span<const Row> fields)
 {
-    return {name, fields, {}, nullptr, "SALESDATE"};
+    return {name, fields, {}, nullptr, salestable::day};
 }
 
 constexpr TableRow tables[] = {
-    salesTable("TIMESALES", itemSales),
-    salesTable("CLERKSALES", clerkSales),
-    salesTable("PLUSALES", pluSales),
-    salesTable("MIXSALES", itemSales),
-    salesTable("GROUPSALES", itemSales),
-    salesTable("FINANCIALSALES", itemSales),
+    salesTable(salestable::times, itemSales),
+    salesTable(salestable::clerks, clerkSales),
+    salesTable(salestable::plus, pluSales),
+    salesTable(salestable::mixes, itemSales),
+    salesTable(salestable::groups, itemSales),
+    salesTable(salestable::financials, itemSales),
     {"memoryallocation", memoryAllocation, {"primarykey"}, "ID"},
 };
 

@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -21,13 +23,12 @@ namespace
 
 [[noreturn]] void failExists(Failure number, const QString& what)
 {
-    throw RuntimeFailure(number, QStringLiteral("%1 already exists.").arg(what));
+    throw RuntimeFailure(number, u"%1 already exists."_s.arg(what));
 }
 
 [[noreturn]] void failQuery(const QString& sql)
 {
-    throw RuntimeFailure(Failure::UnknownNameInQuery,
-                         QStringLiteral("Unknown name or faulty statement. \"%1\"").arg(sql));
+    throw RuntimeFailure(Failure::UnknownNameInQuery, u"Unknown name or faulty statement. \"%1\""_s.arg(sql));
 }
 
 bool hasField(const TableDefinition& table, const QString& name)
@@ -59,7 +60,7 @@ std::shared_ptr<const TableShape> Database::Private::shape(const QString& table)
     auto shape = findShape(table);
     if (!shape) {
         throw RuntimeFailure(Failure::UnknownName,
-                             QStringLiteral("Item not found: %1 has no table %2.").arg(m_path, table));
+                             u"Item not found: %1 has no table %2."_s.arg(m_path, table));
     }
     return shape;
 }
@@ -120,7 +121,7 @@ TableDefinition Database::table(const QString& table) const
 void Database::addTable(const TableDefinition& table)
 {
     if (hasTable(table.name))
-        failExists(Failure::TableExists, QStringLiteral("Table %1").arg(table.name));
+        failExists(Failure::TableExists, u"Table %1"_s.arg(table.name));
     Schema(d->connection()).addTable(table);
     d->forgetShapes();
 }
@@ -129,11 +130,17 @@ void Database::addField(const QString& table, const FieldDefinition& field)
 {
     const auto shape = d->shape(table);
     if (hasField(shape->definition(), field.name)) {
-        failExists(Failure::FieldExists,
-                   QStringLiteral("Field %1 of table %2").arg(field.name, shape->name()));
+        failExists(Failure::FieldExists, u"Field %1 of table %2"_s.arg(field.name, shape->name()));
     }
     Schema(d->connection()).addField(shape->definition(), field);
     d->forgetShapes();
+}
+
+void Database::complete(const QVector<TableDefinition>& tables)
+{
+    Schema schema(d->connection());
+    for (const auto& table : tables)
+        schema.completeTable(table);
 }
 
 void Database::refresh()

@@ -48,6 +48,9 @@ public:
     /// Old rows keep null in the new field, whatever its default and required mark.
     /// @throws RuntimeFailure 3191 when the field exists, 3265 for an unknown table.
     void addField(const QString& table, const FieldDefinition& field);
+    /// Makes what the file keeps beside @p tables for quick queries and still lacks, such as the index over
+    /// the day of a sales table. Tables that are missing stay so; a complete file is not written to.
+    void complete(const QVector<TableDefinition>& tables);
     /// Reads the definitions anew, after another connection may have changed them.
     void refresh();
 

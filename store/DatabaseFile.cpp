@@ -16,6 +16,8 @@
 #include <cstring>
 #include <filesystem>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -47,9 +49,8 @@ QString shown(const QString& path)
 
 [[noreturn]] void failNotOurs(const QString& path, const char* why)
 {
-    throw RuntimeFailure(
-        Failure::NotOurDatabase,
-        QStringLiteral("Unrecognized database format. %1 %2.").arg(shown(path), QString::fromLatin1(why)));
+    throw RuntimeFailure(Failure::NotOurDatabase, u"Unrecognized database format. %1 %2."_s.arg(
+                                                      shown(path), QString::fromLatin1(why)));
 }
 
 /// Reads through the engine's own file handle: closing a second handle on the file would take away the locks
@@ -125,9 +126,8 @@ SQLite::Database openEngine(const QString& path, int flags)
         // An absolute path is never taken for a web-like address.
         return SQLite::Database(QFileInfo(path).absoluteFilePath().toStdString(), flags, busyMilliseconds);
     } catch (const SQLite::Exception& failure) {
-        throw RuntimeFailure(Failure::PathOrFileAccess,
-                             QStringLiteral("Path/File access error: %1 (%2)")
-                                 .arg(shown(path), QString::fromUtf8(failure.what())));
+        throw RuntimeFailure(Failure::PathOrFileAccess, u"Path/File access error: %1 (%2)"_s.arg(
+                                                            shown(path), QString::fromUtf8(failure.what())));
     }
 }
 
@@ -146,13 +146,13 @@ void writeTables(const QString& path, const QVector<TableDefinition>& tables)
 /// The journal of a file that is gone must not be played back into the new one.
 void putInPlace(const QString& from, const QString& to)
 {
-    QFile::remove(to + QStringLiteral("-journal"));
+    QFile::remove(to + u"-journal"_s);
     std::error_code error;
     std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), error);
     if (error) {
         throw RuntimeFailure(Failure::PathOrFileAccess,
-                             QStringLiteral("Path/File access error: %1 (%2)")
-                                 .arg(shown(to), QString::fromLocal8Bit(error.message().c_str())));
+                             u"Path/File access error: %1 (%2)"_s.arg(
+                                 shown(to), QString::fromLocal8Bit(error.message().c_str())));
     }
 }
 
@@ -161,7 +161,7 @@ void putInPlace(const QString& from, const QString& to)
 SQLite::Database openDatabaseFile(const QString& path)
 {
     if (!QFileInfo::exists(path))
-        throw RuntimeFailure(Failure::FileNotFound, QStringLiteral("File not found: %1").arg(shown(path)));
+        throw RuntimeFailure(Failure::FileNotFound, u"File not found: %1"_s.arg(shown(path)));
     // A connection is never shared between threads, so the engine need not lock itself at every call; that is
     // a fifth of the time of an import.
     auto database = openEngine(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
@@ -174,9 +174,9 @@ SQLite::Database openDatabaseFile(const QString& path)
 
 void createDatabaseFile(const QString& path, const QVector<TableDefinition>& tables)
 {
-    const QString unfinished = path + QStringLiteral(".new");
+    const QString unfinished = path + u".new"_s;
     QFile::remove(unfinished);
-    QFile::remove(unfinished + QStringLiteral("-journal"));
+    QFile::remove(unfinished + u"-journal"_s);
     try {
         writeTables(unfinished, tables);
         putInPlace(unfinished, path);

@@ -12,6 +12,8 @@
 #include <limits>
 #include <optional>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -23,23 +25,21 @@ constexpr double largestExactWhole = 9007199254740992.0;
 
 QString fieldName(const FieldDefinition& field, const QString& table)
 {
-    return QStringLiteral("Field %1 of table %2").arg(field.name, table);
+    return u"Field %1 of table %2"_s.arg(field.name, table);
 }
 
 [[noreturn]] void failConversion(const Value& value, const FieldDefinition& field, const QString& table)
 {
-    throw RuntimeFailure(Failure::Conversion,
-                         QStringLiteral("Data type conversion error. %1 cannot hold \"%2\".")
-                             .arg(fieldName(field, table), value.toText()));
+    throw RuntimeFailure(Failure::Conversion, u"Data type conversion error. %1 cannot hold \"%2\"."_s.arg(
+                                                  fieldName(field, table), value.toText()));
 }
 
 [[noreturn]] void failTooLong(const Value& value, const FieldDefinition& field, const QString& table)
 {
-    throw RuntimeFailure(Failure::TextTooLong,
-                         QStringLiteral("The text is too long. %1 holds %2 characters, not \"%3\".")
-                             .arg(fieldName(field, table))
-                             .arg(field.size)
-                             .arg(value.toText()));
+    throw RuntimeFailure(Failure::TextTooLong, u"The text is too long. %1 holds %2 characters, not \"%3\"."_s
+                                                   .arg(fieldName(field, table))
+                                                   .arg(field.size)
+                                                   .arg(value.toText()));
 }
 
 bool isBlank(std::string_view text)
@@ -133,12 +133,12 @@ std::optional<Value> toDigits(const Value& value)
 std::optional<bool> yesNoWord(std::string_view text)
 {
     struct Word {
-        QLatin1String word;
+        QLatin1StringView word;
         bool yes;
     };
     static constexpr Word words[] = {
-        {QLatin1String("true"), true},   {QLatin1String("yes"), true}, {QLatin1String("on"), true},
-        {QLatin1String("false"), false}, {QLatin1String("no"), false}, {QLatin1String("off"), false},
+        {"true"_L1, true},   {"yes"_L1, true}, {"on"_L1, true},
+        {"false"_L1, false}, {"no"_L1, false}, {"off"_L1, false},
     };
     const QString trimmed = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).trimmed();
     for (const auto& word : words) {
@@ -273,7 +273,7 @@ QDate dateOfText(std::string_view text)
 {
     const QString trimmed = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).trimmed();
     const QDate iso = QDate::fromString(trimmed, Qt::ISODate);
-    return iso.isValid() ? iso : QDate::fromString(trimmed, QStringLiteral("d/M/yyyy"));
+    return iso.isValid() ? iso : QDate::fromString(trimmed, u"d/M/yyyy"_s);
 }
 
 } // namespace norvane::store

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -96,8 +98,7 @@ PreparedStatement::PreparedStatement(sqlite3* connection, const std::string& sql
                              &statement, nullptr));
     m_statement.reset(statement);
     if (!statement) {
-        throw RuntimeFailure(Failure::UnknownNameInQuery,
-                             QStringLiteral("The statement is empty. %1").arg(m_what));
+        throw RuntimeFailure(Failure::UnknownNameInQuery, u"The statement is empty. %1"_s.arg(m_what));
     }
 }
 

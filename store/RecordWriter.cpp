@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -36,9 +38,8 @@ RecordWriter::RecordWriter(Database::Private& database, std::shared_ptr<const Ta
 
 std::unique_ptr<PreparedStatement> RecordWriter::prepare(const std::string& sql) const
 {
-    return std::make_unique<PreparedStatement>(
-        m_database.connection(), sql,
-        QStringLiteral("%1, table %2.").arg(m_database.path(), m_shape->name()));
+    return std::make_unique<PreparedStatement>(m_database.connection(), sql,
+                                               u"%1, table %2."_s.arg(m_database.path(), m_shape->name()));
 }
 
 std::string RecordWriter::insertSql() const
@@ -77,17 +78,16 @@ void RecordWriter::checkRequired(const std::vector<Value>& values) const
     for (const int field : m_required) {
         if (values[static_cast<std::size_t>(field)].isNull()) {
             throw RuntimeFailure(Failure::RequiredFieldIsNull,
-                                 QStringLiteral("Field %1 of table %2 must have a value.")
-                                     .arg(m_shape->definition().fields.at(field).name, m_shape->name()));
+                                 u"Field %1 of table %2 must have a value."_s.arg(
+                                     m_shape->definition().fields.at(field).name, m_shape->name()));
         }
     }
 }
 
 void RecordWriter::failGone() const
 {
-    throw RuntimeFailure(
-        Failure::NoCurrentRecord,
-        QStringLiteral("No current record: it was deleted from table %1.").arg(m_shape->name()));
+    throw RuntimeFailure(Failure::NoCurrentRecord,
+                         u"No current record: it was deleted from table %1."_s.arg(m_shape->name()));
 }
 
 void RecordWriter::insert(const std::vector<Value>& values)

@@ -6,6 +6,8 @@
 #include "store/RecordsetPrivate.h"
 #include "store/SqlTranslation.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -66,7 +68,7 @@ void Recordset::Private::openRows(Database::Private& database, const QString& qu
     const auto sql = translateSql(query);
     PreparedStatement select(database.connection(), sql.sql.toStdString(), query);
     if (!select.onlyReads() || select.columnCount() == 0)
-        throw RuntimeFailure(Failure::UnknownNameInQuery, QStringLiteral("No query: %1").arg(query));
+        throw RuntimeFailure(Failure::UnknownNameInQuery, u"No query: %1"_s.arg(query));
     auto columns = columnsOf(database, select, query);
     std::unique_ptr<ResultCursor> rows;
     if (columns.plain && !sql.withRowId.isEmpty()) {
@@ -95,8 +97,7 @@ void Recordset::Private::abandonEdit()
 
 void Recordset::Private::failNoRecord() const
 {
-    throw RuntimeFailure(Failure::NoCurrentRecord,
-                         QStringLiteral("No current record. (%1)").arg(shape->name()));
+    throw RuntimeFailure(Failure::NoCurrentRecord, u"No current record. (%1)"_s.arg(shape->name()));
 }
 
 void Recordset::Private::needRecord() const
@@ -109,7 +110,7 @@ void Recordset::Private::needWriter() const
 {
     if (!writer) {
         throw RuntimeFailure(Failure::ReadOnlyRecords,
-                             QStringLiteral("The records cannot be changed. (%1)").arg(shape->name()));
+                             u"The records cannot be changed. (%1)"_s.arg(shape->name()));
     }
 }
 
@@ -117,7 +118,7 @@ TableCursor& Recordset::Private::indexed() const
 {
     if (!tableCursor || !tableCursor->index()) {
         throw RuntimeFailure(Failure::EngineFailure,
-                             QStringLiteral("There is no index to seek by. (%1)").arg(shape->name()));
+                             u"There is no index to seek by. (%1)"_s.arg(shape->name()));
     }
     return *tableCursor;
 }
@@ -125,9 +126,8 @@ TableCursor& Recordset::Private::indexed() const
 ResultCursor& Recordset::Private::result() const
 {
     if (!resultCursor) {
-        throw RuntimeFailure(
-            Failure::EngineFailure,
-            QStringLiteral("The records of a table have no numbers. (%1)").arg(shape->name()));
+        throw RuntimeFailure(Failure::EngineFailure,
+                             u"The records of a table have no numbers. (%1)"_s.arg(shape->name()));
     }
     return *resultCursor;
 }
@@ -141,9 +141,8 @@ void Recordset::setIndex(const QString& name)
 {
     const auto* index = d->tableCursor ? d->shape->index(name) : nullptr;
     if (!index) {
-        throw RuntimeFailure(
-            Failure::UnknownName,
-            QStringLiteral("Item not found: %1 has no index %2.").arg(d->shape->name(), name));
+        throw RuntimeFailure(Failure::UnknownName,
+                             u"Item not found: %1 has no index %2."_s.arg(d->shape->name(), name));
     }
     d->abandonEdit();
     d->tableCursor->setIndex(index);
@@ -248,7 +247,7 @@ void Recordset::addNew()
     d->needWriter();
     if (d->resultCursor) {
         throw RuntimeFailure(Failure::ReadOnlyRecords,
-                             QStringLiteral("A query takes no new records. (%1)").arg(d->shape->name()));
+                             u"A query takes no new records. (%1)"_s.arg(d->shape->name()));
     }
     d->edited = d->shape->defaults();
     d->mode = EditMode::Adding;
@@ -319,9 +318,8 @@ int Recordset::fieldOrdinal(const QString& name) const
 {
     const auto ordinal = d->shape->ordinal(name);
     if (!ordinal) {
-        throw RuntimeFailure(
-            Failure::UnknownName,
-            QStringLiteral("Item not found: %1 has no field %2.").arg(d->shape->name(), name));
+        throw RuntimeFailure(Failure::UnknownName,
+                             u"Item not found: %1 has no field %2."_s.arg(d->shape->name(), name));
     }
     return *ordinal;
 }

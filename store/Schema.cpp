@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <iterator>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -41,7 +43,7 @@ const TypeRow& rowOf(FieldType type)
 FieldType typeOfWord(const QString& word)
 {
     const auto* row = std::find_if(std::begin(types), std::end(types), [&word](const TypeRow& candidate) {
-        return word == QLatin1String(candidate.word);
+        return word == QLatin1StringView(candidate.word);
     });
     return row == std::end(types) ? FieldType::Text : row->type;
 }
@@ -61,16 +63,25 @@ std::string tableDeclaration(const TableDefinition& table)
 
 std::string indexDeclaration(const QString& table, int number, const IndexDefinition& index)
 {
-    const QString name = QStringLiteral("%1 index %2").arg(table).arg(number);
+    const QString name = u"%1 index %2"_s.arg(table).arg(number);
     return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " + quotedName(name) + " ON " +
            quotedName(table) + " (" + quotedName(index.field) + ')';
 }
 
-/// The engine takes it for queries by itself; the definitions do not tell of it.
-std::string searchDeclaration(const TableDefinition& table)
+/// Something that the file keeps beside a table and the definitions do not list.
+struct Companion {
+    QString name;
+    std::string declaration;
+};
+
+/// Everything that the file keeps beside a table: the index by which queries find rows of a sales table.
+std::vector<Companion> companionsOf(const TableDefinition& table)
 {
-    return "CREATE INDEX " + quotedName(table.name + QStringLiteral(" search")) + " ON " +
-           quotedName(table.name) + " (" + quotedName(table.searchedField) + ')';
+    if (table.searchedField.isEmpty())
+        return {};
+    const QString name = table.name + u" search"_s;
+    return {{name, "CREATE INDEX " + quotedName(name) + " ON " + quotedName(table.name) + " (" +
+                       quotedName(table.searchedField) + ')'}};
 }
 
 std::vector<Value> defaultsOf(const TableDefinition& table)
@@ -108,7 +119,7 @@ public:
     }
 
 private:
-    void run(const char* sql) { PreparedStatement(m_connection, sql, QStringLiteral("Definitions.")).run(); }
+    void run(const char* sql) { PreparedStatement(m_connection, sql, u"Definitions."_s).run(); }
 
     sqlite3* m_connection;
     bool m_kept = false;
@@ -154,7 +165,7 @@ void Schema::run(const std::string& sql, const QString& what)
 
 void Schema::prepareFile()
 {
-    const QString what = QStringLiteral("Definitions.");
+    const QString what = u"Definitions."_s;
     run("PRAGMA application_id = " + std::to_string(applicationId), what);
     run("PRAGMA user_version = " + std::to_string(formatVersion), what);
     for (const char* sql : definitionTables)
@@ -165,7 +176,7 @@ QStringList Schema::tableNames() const
 {
     QStringList names;
     PreparedStatement select(m_connection, "SELECT table_name FROM norvane_field WHERE ordinal = 0",
-                             QStringLiteral("Definitions."));
+                             u"Definitions."_s);
     while (select.step())
         names.append(select.text(0));
     return names;
@@ -176,7 +187,7 @@ QVector<FieldDefinition> Schema::readFields(const QString& table, QString& store
     PreparedStatement select(m_connection,
                              "SELECT table_name, name, type, size, default_text, required FROM norvane_field "
                              "WHERE table_name = ? ORDER BY ordinal",
-                             QStringLiteral("Definitions."));
+                             u"Definitions."_s);
     const Value key = Value::text(table);
     select.bind(1, key);
     QVector<FieldDefinition> fields;
@@ -194,7 +205,7 @@ QVector<IndexDefinition> Schema::readIndexes(const QString& table) const
     PreparedStatement select(m_connection,
                              "SELECT number, name, field, is_unique FROM norvane_index WHERE table_name = ? "
                              "ORDER BY number, name_number",
-                             QStringLiteral("Definitions."));
+                             u"Definitions."_s);
     const Value key = Value::text(table);
     select.bind(1, key);
     QVector<IndexDefinition> indexes;
@@ -219,7 +230,7 @@ std::optional<TableDefinition> Schema::read(const QString& table) const
 void Schema::writeField(const QString& table, int ordinal, const FieldDefinition& field)
 {
     PreparedStatement insert(m_connection, "INSERT INTO norvane_field VALUES (?, ?, ?, ?, ?, ?, ?)",
-                             QStringLiteral("Definitions."));
+                             u"Definitions."_s);
     const Value values[] = {Value::text(table),
                             Value::whole(ordinal),
                             Value::text(field.name),
@@ -235,7 +246,7 @@ void Schema::writeField(const QString& table, int ordinal, const FieldDefinition
 void Schema::writeIndex(const QString& table, int number, const IndexDefinition& index)
 {
     PreparedStatement insert(m_connection, "INSERT INTO norvane_index VALUES (?, ?, ?, ?, ?, ?)",
-                             QStringLiteral("Definitions."));
+                             u"Definitions."_s);
     for (int i = 0; i < index.names.size(); ++i) {
         const Value values[] = {Value::text(table),       Value::whole(number),
                                 Value::whole(i),          Value::text(index.names.at(i)),
@@ -249,7 +260,7 @@ void Schema::writeIndex(const QString& table, int number, const IndexDefinition&
 void Schema::addTable(const TableDefinition& table)
 {
     Savepoint savepoint(m_connection);
-    const QString what = QStringLiteral("Table %1.").arg(table.name);
+    const QString what = u"Table %1."_s.arg(table.name);
     run(tableDeclaration(table), what);
     for (int i = 0; i < table.fields.size(); ++i)
         writeField(table.name, i, table.fields.at(i));
@@ -257,9 +268,25 @@ void Schema::addTable(const TableDefinition& table)
         run(indexDeclaration(table.name, i, table.indexes.at(i)), what);
         writeIndex(table.name, i, table.indexes.at(i));
     }
-    if (!table.searchedField.isEmpty())
-        run(searchDeclaration(table), what);
+    completeTable(table);
     savepoint.keep();
+}
+
+bool Schema::exists(const QString& name) const
+{
+    PreparedStatement select(m_connection, "SELECT 1 FROM sqlite_schema WHERE name = ? COLLATE NOCASE",
+                             u"Definitions."_s);
+    const Value key = Value::text(name);
+    select.bind(1, key);
+    return select.step();
+}
+
+void Schema::completeTable(const TableDefinition& table)
+{
+    for (const auto& [name, declaration] : companionsOf(table)) {
+        if (exists(table.name) && !exists(name))
+            run(declaration, u"Table %1."_s.arg(table.name));
+    }
 }
 
 void Schema::addField(const TableDefinition& table, const FieldDefinition& field)
@@ -267,7 +294,7 @@ void Schema::addField(const TableDefinition& table, const FieldDefinition& field
     Savepoint savepoint(m_connection);
     // No default is declared, so that the rows that are there hold null.
     run("ALTER TABLE " + quotedName(table.name) + " ADD COLUMN " + columnDeclaration(field),
-        QStringLiteral("Table %1.").arg(table.name));
+        u"Table %1."_s.arg(table.name));
     writeField(table.name, static_cast<int>(table.fields.size()), field);
     savepoint.keep();
 }

@@ -51,8 +51,12 @@ public:
     /// Both are done wholly or not at all.
     void addTable(const TableDefinition& table);
     void addField(const TableDefinition& table, const FieldDefinition& field);
+    /// Makes what the file keeps beside @p table and still lacks. Writes nothing when the table is missing
+    /// or nothing is lacking.
+    void completeTable(const TableDefinition& table);
 
 private:
+    [[nodiscard]] bool exists(const QString& name) const;
     void run(const std::string& sql, const QString& what);
     void writeField(const QString& table, int ordinal, const FieldDefinition& field);
     void writeIndex(const QString& table, int number, const IndexDefinition& index);

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <initializer_list>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -21,7 +23,7 @@ struct Token {
 
     [[nodiscard]] bool isWord(const char* word) const
     {
-        return kind == Kind::Word && text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+        return kind == Kind::Word && text.compare(QLatin1StringView(word), Qt::CaseInsensitive) == 0;
     }
     [[nodiscard]] bool isSign(char sign) const
     {
@@ -72,13 +74,13 @@ private:
 
     Token dayOrSign()
     {
-        static const QRegularExpression day(QStringLiteral("\\G#\\s*(\\d{1,2}/\\d{1,2}/\\d{4})\\s*#"));
+        static const QRegularExpression day(u"\\G#\\s*(\\d{1,2}/\\d{1,2}/\\d{4})\\s*#"_s);
         const auto match = day.match(m_sql, m_at);
         if (!match.hasMatch())
             return takeSign();
         m_at = match.capturedEnd();
         // Days in statements stand month first, whatever the machine's own habit.
-        const QDate date = QDate::fromString(match.captured(1), QStringLiteral("M/d/yyyy"));
+        const QDate date = QDate::fromString(match.captured(1), u"M/d/yyyy"_s);
         return {Kind::Text, date.toString(Qt::ISODate)};
     }
 
@@ -146,7 +148,7 @@ void dropStarOfDelete(Tokens& tokens)
     if (from == tokens.end())
         return;
     tokens.erase(tokens.begin() + 1, from);
-    tokens.insert(1, {Kind::Blank, QStringLiteral(" ")});
+    tokens.insert(1, {Kind::Blank, u" "_s});
 }
 
 void moveTopToLimit(Tokens& tokens)
@@ -158,7 +160,7 @@ void moveTopToLimit(Tokens& tokens)
         return;
     const QString limit = tokens.at(count).text;
     tokens.erase(tokens.begin() + top, tokens.begin() + count + 1);
-    tokens.append({Kind::Word, QStringLiteral(" LIMIT ") + limit});
+    tokens.append({Kind::Word, u" LIMIT "_s + limit});
 }
 
 void changeWords(Tokens& tokens)
@@ -175,9 +177,9 @@ void changeWords(Tokens& tokens)
                 token.text = QString::fromLatin1(change.instead);
         }
         if (token.isSign('&')) {
-            token.text = QStringLiteral("||");
+            token.text = u"||"_s;
         } else if (token.isSign('!')) {
-            token.text = QStringLiteral(".");
+            token.text = u"."_s;
         }
     }
 }
@@ -196,7 +198,7 @@ QString joined(const Tokens& tokens)
     QString sql;
     for (const auto& token : tokens) {
         if (token.kind == Kind::Text) {
-            sql += u'\'' + QString(token.text).replace(u'\'', QStringLiteral("''")) + u'\'';
+            sql += u'\'' + QString(token.text).replace(u'\'', u"''"_s) + u'\'';
         } else {
             sql += token.text;
         }
@@ -241,7 +243,7 @@ QString withRowIdOf(const Tokens& tokens)
         joinsOrGroups(tokens, from))
         return {};
     Tokens extended = tokens;
-    extended.insert(from, {Kind::Word, QStringLiteral(", _rowid_ ")});
+    extended.insert(from, {Kind::Word, u", _rowid_ "_s});
     return joined(extended);
 }
 

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <iterator>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -45,10 +47,10 @@ void failWithSqlite(sqlite3* connection, const QString& what)
         return row.code == code || row.code == (code & 0xFF);
     });
     const bool known = meaning != std::end(meanings);
-    throw RuntimeFailure(known ? meaning->failure : Failure::EngineFailure,
-                         QStringLiteral("%1 %2 (%3)")
-                             .arg(QString::fromLatin1(known ? meaning->text : "The database failed."), what,
-                                  QString::fromUtf8(sqlite3_errmsg(connection))));
+    throw RuntimeFailure(
+        known ? meaning->failure : Failure::EngineFailure,
+        u"%1 %2 (%3)"_s.arg(QString::fromLatin1(known ? meaning->text : "The database failed."), what,
+                            QString::fromUtf8(sqlite3_errmsg(connection))));
 }
 
 } // namespace norvane::store

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <string_view>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -77,8 +79,7 @@ PreparedStatement& TableCursor::statement(Access access)
             selectFields(*m_shape, [this](int ordinal) { return isRead(ordinal); }) +
             (m_index ? withKeyName(words.withKey, quotedName(m_index->field)) : words.withoutKey);
         statement = std::make_unique<PreparedStatement>(
-            m_database.connection(), sql,
-            QStringLiteral("%1, table %2.").arg(m_database.path(), m_shape->name()));
+            m_database.connection(), sql, u"%1, table %2."_s.arg(m_database.path(), m_shape->name()));
     }
     return *statement;
 }

@@ -7,6 +7,8 @@
 #include <QtGlobal>
 #include <sqlite3.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 
@@ -31,7 +33,7 @@ void Database::Private::commit()
     // A full disk or a device fault can have ended the transaction already.
     if (sqlite3_get_autocommit(connection()) != 0) {
         throw RuntimeFailure(Failure::DeviceIo,
-                             QStringLiteral("The database %1 could not keep what was stored.").arg(m_path));
+                             u"The database %1 could not keep what was stored."_s.arg(m_path));
     }
     if (sqlite3_exec(connection(), "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK)
         failWithSqlite(connection(), m_path);

@@ -7,8 +7,11 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <optional>
 #include <span>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::store
 {
@@ -63,7 +66,7 @@ constexpr Step steps[] = {
 /// The catalogue's definition under the name as the step spells it.
 FieldDefinition fieldOf(const Step& step, const QString& name)
 {
-    const QVector<FieldDefinition>& fields = catalogueTable(QLatin1String(step.table))->fields;
+    const QVector<FieldDefinition>& fields = catalogueTable(QLatin1StringView(step.table))->fields;
     FieldDefinition field = *std::find_if(fields.begin(), fields.end(), [&name](const FieldDefinition& each) {
         return each.name.compare(name, Qt::CaseInsensitive) == 0;
     });
@@ -75,16 +78,15 @@ FieldDefinition fieldOf(const Step& step, const QString& name)
 void addFields(Database& database, const Step& step)
 {
     for (const char* name : step.fields) {
-        if (name != nullptr) {
-            database.addField(QLatin1String(step.table), fieldOf(step, QLatin1String(name)));
-        }
+        if (name != nullptr)
+            database.addField(QLatin1StringView(step.table), fieldOf(step, QLatin1StringView(name)));
     }
 }
 
 void createTable(Database& database, const Step& step)
 {
-    TableDefinition table = *catalogueTable(QLatin1String(step.table));
-    table.name = QLatin1String(step.table);
+    TableDefinition table = *catalogueTable(QLatin1StringView(step.table));
+    table.name = QLatin1StringView(step.table);
     database.addTable(table);
 }
 
@@ -98,40 +100,47 @@ void run(Database& database, const Step& step)
         createTable(database, step);
         break;
     case Action::AddTableAgain:
-        database.addTable(database.table(QLatin1String(step.table)));
+        database.addTable(database.table(QLatin1StringView(step.table)));
         break;
     }
     database.refresh();
+}
+
+/// A customer is taken whatever state the database is in, so no failure leaves here. A field that exists
+/// already is the usual one: it tells the current layout.
+void workQuietly(const QString& path, const std::function<void(Database&)>& work)
+{
+    try {
+        Database database(path);
+        work(database);
+    } catch (const RuntimeFailure&) {
+        return;
+    }
 }
 
 } // namespace
 
 void UpgradeDatabase(const QString& path)
 {
-    try {
-        Database database(path);
+    workQuietly(path, [](Database& database) {
         // What was done before a failure stays, but a computer switched off in between leaves the old layout
         // whole: a layout half way would never be completed by a later start.
-        Transaction transaction(database);
-        for (const Step& step : steps) {
+        const Transaction transaction(database);
+        for (const Step& step : steps)
             run(database, step);
-        }
-    } catch (const RuntimeFailure&) {
-        // A field that exists already is how the current layout is told; nothing is reported.
-        return;
-    }
+    });
 }
 
 void UpgradeUnitDescription(const QString& path)
 {
-    try {
-        Database database(path);
-        database.addField(QStringLiteral("productmix"),
-                          {QStringLiteral("unitdescription"), FieldType::Text, 10, QString(), false});
-    } catch (const RuntimeFailure&) {
-        // It is there on every start after the first.
-        return;
-    }
+    workQuietly(path, [](Database& database) {
+        database.addField(u"productmix"_s, {u"unitdescription"_s, FieldType::Text, 10, QString(), false});
+    });
+}
+
+void completeDatabase(const QString& path)
+{
+    workQuietly(path, [](Database& database) { database.complete(catalogue()); });
 }
 
 } // namespace norvane::store

@@ -10,6 +10,11 @@ namespace norvane::store
 /// that exists already is one) ends the routine silently, with nothing undone.
 void UpgradeDatabase(const QString& path);
 
+/// Makes what the store keeps beside the tables for quick queries and an earlier build of the program did not
+/// make yet. Adds no table and no field, so the upgrade's rule stands. Every failure is passed over: the
+/// customer is used without it, and the next call tries again.
+void completeDatabase(const QString& path);
+
 /// Adds the field unitdescription to productmix; every failure is passed over.
 void UpgradeUnitDescription(const QString& path);
 

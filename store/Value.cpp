@@ -6,6 +6,8 @@
 
 #include <charconv>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store
 {
 namespace
@@ -60,7 +62,7 @@ std::string Value::toUtf8() const
                                  [](double number) { return numberText(number).toStdString(); },
                                  [](const std::string& text) { return text; },
                                  [](QDate date) {
-                                     return date.toString(QStringLiteral("dd/MM/yyyy")).toStdString();
+                                     return date.toString(u"dd/MM/yyyy"_s).toStdString();
                                  }},
                       m_data);
 }

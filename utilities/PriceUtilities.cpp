@@ -1,6 +1,7 @@
 // Table of the Utilities menu and how a row is run; see PriceUtilities.h.
 #include "utilities/PriceUtilities.h"
 
+#include "store/SalesTables.h"
 #include "utilities/PriceConversion.h"
 
 #include <array>
@@ -12,7 +13,8 @@ namespace norvane::utilities
 namespace
 {
 
-using Statements = std::span<const QLatin1StringView>;
+using Tables = std::span<const char* const>;
+namespace salestable = store::salestable;
 
 // clang-format off
 constexpr auto currentToEuro = std::to_array<PricePair>({
@@ -33,20 +35,15 @@ constexpr auto euroToCurrent = std::to_array<PricePair>({
 constexpr auto firstToSecond = std::to_array<PricePair>({{"price1"_L1, "Price2"_L1}});
 constexpr auto secondToFirst = std::to_array<PricePair>({{"Price2"_L1, "price1"_L1}});
 
-constexpr auto resetPrices = std::to_array<QLatin1StringView>({
+constexpr auto resetPrices =
     "update pludata set price1='0.00', price2='0.00', price3='0.00', price4='0.00', price5='0.00',"
-    "europrice1='0.00', europrice2='0.00', europrice3='0.00', europrice4='0.00', europrice5='0.00'"_L1,
-});
-constexpr auto resetSales = std::to_array<QLatin1StringView>({
-    "delete * from clerksales"_L1,
-    "delete * from groupsales"_L1,
-    "delete * from financialsales"_L1,
-    "delete * from mixsales"_L1,
-    "delete * from plusales"_L1,
-    "delete * from timesales"_L1,
+    "europrice1='0.00', europrice2='0.00', europrice3='0.00', europrice4='0.00', europrice5='0.00'"_L1;
+constexpr auto resetSales = std::to_array<const char*>({
+    salestable::clerks, salestable::groups, salestable::financials,
+    salestable::mixes,  salestable::plus,   salestable::times,
 });
 // The card categories are lost too, until the next upload.
-constexpr auto resetCards = std::to_array<QLatin1StringView>({"delete * from CARDCATEGORY"_L1});
+constexpr auto resetCards = std::to_array<const char*>({"CARDCATEGORY"});
 
 constexpr BoxWords toEuro{"Update Euro prices"_L1, "Continue?"_L1};
 constexpr BoxWords fromEuro{"Update Prices with Euro Prices"_L1, "Do you wish to overwrite your current prices?"_L1};
@@ -60,17 +57,17 @@ constexpr auto utilities = std::to_array<PriceUtility>({
     {"ResetPrice_Click"_L1, {"Reset Prices?"_L1, "Do you wish to reset prices?"_L1}, false, {},
      resetPrices, {"Price Reset"_L1, "Price Reset Complete!"_L1}},
     {"SalesReset_Click"_L1, {"Reset Sales Data?"_L1, "Do you wish to reset ALL Sales data?"_L1}, false, {},
-     resetSales, {"Sales Reset"_L1, "Sales Reset Complete!"_L1}, resetCards},
+     {}, {"Sales Reset"_L1, "Sales Reset Complete!"_L1}, resetSales, resetCards},
 });
 // clang-format on
 
-void execute(Statements statements, const QString& databasePath)
+void empty(Tables tables, const QString& databasePath)
 {
-    if (statements.empty())
+    if (tables.empty())
         return;
     store::Database database(databasePath);
-    for (const QLatin1StringView statement : statements)
-        database.execute(statement);
+    for (const char* table : tables)
+        database.execute(u"delete * from %1"_s.arg(QLatin1StringView(table)));
 }
 
 /// @return false when the user gave no rate.
@@ -103,9 +100,11 @@ void runPriceUtility(const PriceUtility& utility, const QString& databasePath, B
         return;
     if (!utility.fields.empty() && !walk(utility, databasePath, boxes, frame))
         return;
-    execute(utility.statements, databasePath);
+    if (!utility.statement.isEmpty())
+        store::Database(databasePath).execute(utility.statement);
+    empty(utility.emptied, databasePath);
     boxes.message(utility.done.text, utility.done.title);
-    execute(utility.afterwards, databasePath);
+    empty(utility.emptiedAfterwards, databasePath);
 }
 
 } // namespace norvane::utilities

@@ -19,16 +19,17 @@ struct BoxWords {
     QLatin1StringView text;
 };
 
-/// One entry. It either changes every PLU (`fields`) or runs `statements`.
+/// One entry. It changes every PLU (`fields`), runs a statement or empties tables.
 struct PriceUtility {
     QLatin1StringView handler; ///< "TransferEuro_Click"
     BoxWords confirm;
     bool asksRate;
     std::span<const PricePair> fields;
-    std::span<const QLatin1StringView> statements;
+    QLatin1StringView statement; ///< empty for none
     BoxWords done;
-    /// Run after the user has closed the last box, which does not mention them.
-    std::span<const QLatin1StringView> afterwards = {};
+    std::span<const char* const> emptied = {}; ///< tables, in this order
+    /// Emptied after the user has closed the last box, which does not mention them.
+    std::span<const char* const> emptiedAfterwards = {};
 };
 
 [[nodiscard]] std::span<const PriceUtility> priceUtilities();

@@ -20,7 +20,7 @@ namespace
 std::string rowsOf(const QString& databasePath, const char* table)
 {
     store::Database database(databasePath);
-    store::Recordset records = database.openTable(QLatin1String(table));
+    store::Recordset records = database.openTable(QLatin1StringView(table));
     std::string text;
     for (; !records.atEnd(); records.moveNext()) {
         for (int field = 0; field < records.fieldCount(); ++field)
@@ -63,7 +63,7 @@ protected:
             importPollFile(*file, m_values, QDate(2026, 11, 24));
         } catch (const RuntimeFailure& thrown) {
             failure = thrown.number();
-            EXPECT_TRUE(thrown.text().contains(QLatin1String(c.told))) << thrown.what();
+            EXPECT_TRUE(thrown.text().contains(QLatin1StringView(c.told))) << thrown.what();
         }
         EXPECT_EQ(failure, c.failure);
         EXPECT_EQ(rowsOf(m_values.databasePath, file->table), c.rows);

@@ -2,12 +2,14 @@
 #include "tests/platform/FullDisk.h"
 #include "tests/store/StoreFolder.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store::test
 {
 namespace
 {
 
-const QString items = QStringLiteral("items");
+const QString items = u"items"_s;
 
 TEST(Database, AForeignOrDamagedFileIsRefusedAndLeftAsItIs)
 {
@@ -30,7 +32,7 @@ TEST(Database, AForeignOrDamagedFileIsRefusedAndLeftAsItIs)
     }
     EXPECT_EQ(failureOf([&] { Database database(folder.folder().path("none.mdb")); }), 53);
     EXPECT_EQ(failureOf([&] { Database database(folder.folder().path()); }), 75);
-    EXPECT_EQ(folder.folder().names(), QStringList{QStringLiteral("velmar.mdb")});
+    EXPECT_EQ(folder.folder().names(), QStringList{u"velmar.mdb"_s});
 }
 
 TEST(Database, AnAddedFieldLeavesOldRowsNullUntilTheyAreStored)
@@ -41,7 +43,7 @@ TEST(Database, AnAddedFieldLeavesOldRowsNullUntilTheyAreStored)
     EXPECT_EQ(elsewhere.table(items).fields.size(), 8);
     auto before = database.openTable(items);
     add(before, {{"NUMBER", text("1")}});
-    const FieldDefinition key{QStringLiteral("dallaskey"), FieldType::Text, 14, QStringLiteral("none"), true};
+    const FieldDefinition key{u"dallaskey"_s, FieldType::Text, 14, u"none"_s, true};
     database.addField(items, key);
     add(before, {{"NUMBER", text("2")}}); // a recordset opened before goes on with the fields that it knows
 
@@ -58,8 +60,8 @@ TEST(Database, AnAddedFieldLeavesOldRowsNullUntilTheyAreStored)
 #ifdef Q_OS_UNIX
 TEST(Transaction, ThatFindsNoRoomFailsAndLeavesTheTableAsItWas)
 {
-    const QString notes = QStringLiteral("notes");
-    const StoreFolder folder({{notes, {{QStringLiteral("NOTE"), FieldType::Text, 0, {}, false}}, {}}});
+    const QString notes = u"notes"_s;
+    const StoreFolder folder({{notes, {{u"NOTE"_s, FieldType::Text, 0, {}, false}}, {}}});
     Database database(folder.path());
     const auto addNotes = [&](int count) {
         auto records = database.openTable(notes);

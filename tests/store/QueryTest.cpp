@@ -1,6 +1,8 @@
 // Queries and statements in the words that screens and utilities use.
 #include "tests/store/StoreFolder.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store::test
 {
 namespace
@@ -11,7 +13,7 @@ class QueryTest : public testing::Test
 protected:
     QueryTest()
     {
-        auto records = m_database.openTable(QStringLiteral("items"));
+        auto records = m_database.openTable(u"items"_s);
         for (const std::string each : {"1", "2", "3"}) {
             add(records, {{"NUMBER", Value::text(each)},
                           {"DESCRIPTION", Value::text("It's \"" + each + '"')},
@@ -70,42 +72,41 @@ TEST_F(QueryTest, UnknownNamesAndFaultyStatementsFail)
     }
     for (const char* sql : {"delete * from nothing", "update items set nothing = 1", "drop table items", ""})
         EXPECT_EQ(failureOf([&] { m_database.execute(QString::fromUtf8(sql)); }), 3061) << sql;
-    EXPECT_EQ(m_database.openTable(QStringLiteral("items")).recordCount(), 3);
+    EXPECT_EQ(m_database.openTable(u"items"_s).recordCount(), 3);
 }
 
 TEST_F(QueryTest, ChangesAndDeletesByStatement)
 {
-    EXPECT_EQ(m_database.execute(QStringLiteral("update ITEMS set description='0.00', [ROUNDON%] = 1.5")), 3);
-    EXPECT_EQ(rowsOf(QStringLiteral("select description, [roundon%] from items where number='2'")),
-              "0.00 1.5 ");
-    EXPECT_EQ(failureOf([&] { m_database.execute(QStringLiteral("update items set groupno = 'x'")); }), 3421);
-    EXPECT_EQ(failureOf([&] { m_database.execute(QStringLiteral("update items set number = 'x'")); }), 3022);
-    EXPECT_EQ(m_database.execute(QStringLiteral("delete items.* from items where groupno=2")), 1);
-    EXPECT_EQ(m_database.execute(QStringLiteral("delete * from items")), 2);
-    EXPECT_EQ(m_database.openTable(QStringLiteral("items")).recordCount(), 0);
+    EXPECT_EQ(m_database.execute(u"update ITEMS set description='0.00', [ROUNDON%] = 1.5"_s), 3);
+    EXPECT_EQ(rowsOf(u"select description, [roundon%] from items where number='2'"_s), "0.00 1.5 ");
+    EXPECT_EQ(failureOf([&] { m_database.execute(u"update items set groupno = 'x'"_s); }), 3421);
+    EXPECT_EQ(failureOf([&] { m_database.execute(u"update items set number = 'x'"_s); }), 3022);
+    EXPECT_EQ(m_database.execute(u"delete items.* from items where groupno=2"_s), 1);
+    EXPECT_EQ(m_database.execute(u"delete * from items"_s), 2);
+    EXPECT_EQ(m_database.openTable(u"items"_s).recordCount(), 0);
 }
 
 TEST_F(QueryTest, RowsOfOneTableCanBeChangedAndComputedOnesCannot)
 {
-    auto rows = m_database.openQuery(QStringLiteral(
-        "select number, description, groupno from items where groupno > 1 order by number desc"));
+    auto rows = m_database.openQuery(
+        u"select number, description, groupno from items where groupno > 1 order by number desc"_s);
     EXPECT_EQ(rows.field(1).size, 16);
     EXPECT_EQ(rows.recordCount(), 2);
     ASSERT_TRUE(rows.moveTo(1));
     rows.edit();
-    rows.setValue(QStringLiteral("Description"), text("Cola"));
+    rows.setValue(u"Description"_s, text("Cola"));
     EXPECT_EQ(failureOf([&] { rows.setValue(2, text("x")); }), 3421);
     rows.update();
     EXPECT_EQ(rows.value(1), text("Cola"));
-    EXPECT_EQ(rowsOf(QStringLiteral("select description from items where number = '2'")), "Cola ");
+    EXPECT_EQ(rowsOf(u"select description from items where number = '2'"_s), "Cola ");
 
-    m_database.execute(QStringLiteral("delete * from items where number = '3'"));
+    m_database.execute(u"delete * from items where number = '3'"_s);
     EXPECT_FALSE(rows.moveTo(0));
     EXPECT_FALSE(rows.moveTo(2));
     rows.moveFirst();
     EXPECT_EQ(rows.value(0), text("2")); // the deleted row is passed over
     rows.deleteRecord();
-    EXPECT_EQ(rowsOf(QStringLiteral("items")).substr(0, 2), "1 ");
+    EXPECT_EQ(rowsOf(u"items"_s).substr(0, 2), "1 ");
     EXPECT_EQ(failureOf([&] { rows.addNew(); }), 3027);
 
     for (const char* sql : {"select groupno + 1 from items", "select distinct groupno from items",

@@ -1,14 +1,16 @@
 // Walking, seeking and storing records of a table.
 #include "tests/store/StoreFolder.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store::test
 {
 namespace
 {
 
-const QString items = QStringLiteral("ITEMS");
-const QString group = QStringLiteral("groupno");
-const QString bygroup = QStringLiteral("ByGroup");
+const QString items = u"ITEMS"_s;
+const QString group = u"groupno"_s;
+const QString bygroup = u"ByGroup"_s;
 
 class RecordsetTest : public testing::Test
 {
@@ -18,9 +20,9 @@ protected:
     {
         for (const char* each : {"03", "01", "05", "02", "04"})
             add(m_records, {{"NUMBER", text(each)}, {"GROUPNO", text(each)}});
-        m_database.execute(QStringLiteral("update items set groupno = null where number = '01'"));
+        m_database.execute(u"update items set groupno = null where number = '01'"_s);
     }
-    std::string number() const { return m_records.value(QStringLiteral("number")).toUtf8(); }
+    std::string number() const { return m_records.value(u"number"_s).toUtf8(); }
     void change(const QString& field, const Value& value)
     {
         m_records.edit();
@@ -70,8 +72,7 @@ TEST_F(RecordsetTest, AWalkSeesWhatComesAndGoesAheadOfIt)
         add(m_records, {{"NUMBER", Value::whole(i)}});
     for (m_records.moveFirst(); !m_records.atEnd(); m_records.moveNext())
         change(group, Value::number(std::stoi(number()) * 2));
-    EXPECT_EQ(m_database.execute(QStringLiteral("update items set count1 = 1 where groupno = 2 * number")),
-              300);
+    EXPECT_EQ(m_database.execute(u"update items set count1 = 1 where groupno = 2 * number"_s), 300);
 
     auto other = m_database.openTable(items);
     int seen = 0;
@@ -150,7 +151,7 @@ TEST_F(RecordsetTest, SeeksByTheCurrentIndex)
 
 TEST_F(RecordsetTest, ANewRecordIsNotTheCurrentOneAndAChangedOneStaysIt)
 {
-    const QString key = QStringLiteral("NUMBER");
+    const QString key = u"NUMBER"_s;
     fill();
     m_records.moveFirst();
     add(m_records, {{"NUMBER", text("06")}});
@@ -186,13 +187,13 @@ TEST_F(RecordsetTest, ANewRecordIsNotTheCurrentOneAndAChangedOneStaysIt)
 
 TEST_F(RecordsetTest, ANewRecordHasItsDefaultsAndNeedsItsRequiredFields)
 {
-    const QString count = QStringLiteral("count1");
+    const QString count = u"count1"_s;
     m_records.addNew();
     EXPECT_EQ(m_records.value(count), Value::number(0));
     EXPECT_TRUE(m_records.value(group).isNull());
     m_records.setValue(count, Value());
     EXPECT_EQ(failureOf([&] { m_records.update(); }), 3314);
-    EXPECT_EQ(failureOf([&] { (void)m_records.value(QStringLiteral("nothing")); }), 3265);
+    EXPECT_EQ(failureOf([&] { (void)m_records.value(u"nothing"_s); }), 3265);
     m_records.setValue(count, text("1.5"));
     m_records.update();
     m_records.moveFirst();

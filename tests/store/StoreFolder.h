@@ -12,6 +12,8 @@
 namespace norvane::store::test
 {
 
+using namespace Qt::Literals::StringLiterals;
+
 using norvane::test::failureOf;
 using norvane::test::TestFolder;
 
@@ -23,36 +25,34 @@ inline Value text(const char* utf8)
 /// A table such as a register's price look-ups, with every type and with names that hold punctuation.
 inline TableDefinition itemTable()
 {
-    return {QStringLiteral("Items"),
-            {{QStringLiteral("NUMBER"), FieldType::Text, 18, {}, false},
-             {QStringLiteral("DESCRIPTION"), FieldType::Text, 16, {}, false},
-             {QStringLiteral("GROUPNO"), FieldType::Long, 0, {}, false},
-             {QStringLiteral("ROUNDON%"), FieldType::Double, 0, {}, false},
-             {QStringLiteral("#OfCondiments"), FieldType::Digits, 18, {}, false},
-             {QStringLiteral("TAX/x"), FieldType::YesNo, 0, {}, false},
-             {QStringLiteral("OPENEURO&LOCALDRAWER"), FieldType::Date, 0, {}, false},
-             {QStringLiteral("COUNT1"), FieldType::Double, 0, QStringLiteral("0"), true}},
-            {{{QStringLiteral("plunumber"), QStringLiteral("primarykey")}, QStringLiteral("NUMBER"), true},
-             {{QStringLiteral("bygroup")}, QStringLiteral("GROUPNO"), false},
-             {{QStringLiteral("bylink")}, QStringLiteral("#OfCondiments"), false}}};
+    return {u"Items"_s,
+            {{u"NUMBER"_s, FieldType::Text, 18, {}, false},
+             {u"DESCRIPTION"_s, FieldType::Text, 16, {}, false},
+             {u"GROUPNO"_s, FieldType::Long, 0, {}, false},
+             {u"ROUNDON%"_s, FieldType::Double, 0, {}, false},
+             {u"#OfCondiments"_s, FieldType::Digits, 18, {}, false},
+             {u"TAX/x"_s, FieldType::YesNo, 0, {}, false},
+             {u"OPENEURO&LOCALDRAWER"_s, FieldType::Date, 0, {}, false},
+             {u"COUNT1"_s, FieldType::Double, 0, u"0"_s, true}},
+            {{{u"plunumber"_s, u"primarykey"_s}, u"NUMBER"_s, true},
+             {{u"bygroup"_s}, u"GROUPNO"_s, false},
+             {{u"bylink"_s}, u"#OfCondiments"_s, false}}};
 }
 
 /// What the file tells of a table: a line for the table, for each field and for each index.
 inline QStringList linesOf(const TableDefinition& table)
 {
-    QStringList lines{table.name + QStringLiteral(" is a table")};
+    QStringList lines{table.name + u" is a table"_s};
     for (const FieldDefinition& it : table.fields) {
-        lines << QStringLiteral("%1.%2 type %3 size %4 required %5 default %6")
-                     .arg(table.name, it.name)
+        lines << u"%1.%2 type %3 size %4 required %5 default %6"_s.arg(table.name, it.name)
                      .arg(static_cast<int>(it.type))
                      .arg(it.size)
                      .arg(it.required)
                      .arg(it.defaultText);
     }
     for (const IndexDefinition& it : table.indexes) {
-        lines << QStringLiteral("%1 index %2 of %3 unique %4")
-                     .arg(table.name, it.names.join(u'/'), it.field)
-                     .arg(it.unique);
+        lines
+            << u"%1 index %2 of %3 unique %4"_s.arg(table.name, it.names.join(u'/'), it.field).arg(it.unique);
     }
     return lines;
 }
@@ -85,7 +85,7 @@ inline std::string numbersOf(Recordset& items, bool backwards = false)
     std::string numbers;
     backwards ? items.moveLast() : items.moveFirst();
     while (items.hasCurrent()) {
-        numbers += (numbers.empty() ? "" : " ") + items.value(QStringLiteral("NUMBER")).toUtf8();
+        numbers += (numbers.empty() ? "" : " ") + items.value(u"NUMBER"_s).toUtf8();
         backwards ? items.movePrevious() : items.moveNext();
     }
     return numbers;

@@ -3,9 +3,12 @@
 #include "store/Upgrade.h"
 
 #include "store/Catalogue.h"
+#include "tests/platform/FullDisk.h"
 #include "tests/store/StoreFolder.h"
 
 #include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::store
 {
@@ -18,13 +21,14 @@ using test::StoreFolder;
 bool cameLater(const QString& place)
 {
     static const QRegularExpression later(
-        QRegularExpression::anchoredPattern(QStringLiteral(
-            "AUTHORITYLEVEL.DISALLOW.*|EMPLOYEE.DALLASKEY|KITCHENPRINTOPTIONS.REDIRECTTORCPT|PLUDATA.PRINTNV|"
+        QRegularExpression::anchoredPattern(
+            u"AUTHORITYLEVEL.DISALLOW.*|EMPLOYEE.DALLASKEY|KITCHENPRINTOPTIONS.REDIRECTTORCPT|PLUDATA."
+            u"PRINTNV|"
             "PLUSTATUS.LINKEDNVIMAGE|GENERALFUNCTIONS.REDEEM.*|"
             "GENERALPRINTOPTION.(TURNOFFAUTOCUTTER|(PRE|POST)LOGOIMAGE.*|STOPINTERNALPRINT)|"
             "EJDETAILPRINT.(EJ(POINTPAYMENT|(SUBTRACT|ADD)(POINT|VALUE)|REDEEM|PRINTCARD|CARDSALE|HOTLIST|"
             "REMOVECARD)|CONDENSEDPRINT|PRINTNEGLINES|DISABLEREGDETAIL)|"
-            "TRACKINGFILEOPTIONS.DISABLEGCONRECEIPT|PRODUCTMIX.UNITDESCRIPTION|[A-Z]*SALES")),
+            "TRACKINGFILEOPTIONS.DISABLEGCONRECEIPT|PRODUCTMIX.UNITDESCRIPTION|[A-Z]*SALES"_s),
         QRegularExpression::CaseInsensitiveOption);
     return later.match(place).hasMatch();
 }
@@ -73,7 +77,7 @@ TEST(Upgrade, BringsAnOldDatabaseToTheCurrentLayout)
     for (TableDefinition& table : wanted) {
         for (FieldDefinition& field : table.fields) {
             // The number of the current layout came too late for databases that have the flag.
-            if (field.name == QStringLiteral("LINKEDNVIMAGE"))
+            if (field.name == u"LINKEDNVIMAGE"_s)
                 field.type = FieldType::YesNo;
         }
     }
@@ -88,7 +92,7 @@ TEST(Upgrade, WritesNothingIntoACurrentDatabaseWhichTellsTheCatalogue)
     UpgradeUnitDescription(folder.path());
     {
         Database database(folder.folder().path("VELMAR.mdb"));
-        EXPECT_EQ(database.openTable(QStringLiteral("pludata")).recordCount(), 0);
+        EXPECT_EQ(database.openTable(u"pludata"_s).recordCount(), 0);
         EXPECT_EQ(database.tableNames().size(), catalogue().size());
         for (const TableDefinition& expected : catalogue()) {
             EXPECT_TRUE(test::linesOf(database.table(expected.name.toLower())) == test::linesOf(expected))
@@ -96,7 +100,7 @@ TEST(Upgrade, WritesNothingIntoACurrentDatabaseWhichTellsTheCatalogue)
         }
     }
     EXPECT_TRUE(folder.folder().read("velmar.mdb") == before);
-    EXPECT_EQ(folder.folder().names(), QStringList{QStringLiteral("velmar.mdb")});
+    EXPECT_EQ(folder.folder().names(), QStringList{u"velmar.mdb"_s});
 }
 
 TEST(Upgrade, StopsWhereALaterFieldStandsAlreadyAndIsNeverCompleted)
@@ -111,7 +115,7 @@ TEST(Upgrade, StopsWhereALaterFieldStandsAlreadyAndIsNeverCompleted)
         {"TRACKINGFILEOPTIONS.DISABLEGCONRECEIPT", "EJDETAILPRINT.DISABLEREGDETAIL", ""},
     };
     for (const auto& [standing, done, missing] : cases) {
-        const StoreFolder folder(oldLayout(QLatin1String(standing)));
+        const StoreFolder folder(oldLayout(QLatin1StringView(standing)));
         for (int start = 1; start <= 2; ++start) {
             UpgradeDatabase(folder.path());
             const std::string layout = '\n' + layoutIn(folder);
@@ -120,6 +124,89 @@ TEST(Upgrade, StopsWhereALaterFieldStandsAlreadyAndIsNeverCompleted)
                 << standing << ", start " << start;
         }
     }
+}
+
+/// The current layout as the first build with sales tables made it: without what is kept beside the tables.
+QVector<TableDefinition> withoutCompanions()
+{
+    QVector<TableDefinition> tables = catalogue();
+    for (TableDefinition& table : tables)
+        table.searchedField.clear();
+    return tables;
+}
+
+/// All values of a query's rows.
+QStringList valuesOf(const StoreFolder& folder, const QString& sql)
+{
+    Database database(folder.path());
+    Recordset rows = database.openQuery(sql);
+    QStringList values;
+    for (; !rows.atEnd(); rows.moveNext()) {
+        for (int field = 0; field < rows.fieldCount(); ++field)
+            values << rows.value(field).toText();
+    }
+    return values;
+}
+
+/// Everything that stands in a file, the engine's own view of it.
+QStringList engineLayoutOf(const StoreFolder& folder)
+{
+    return valuesOf(folder, u"select type, name, sql from sqlite_schema order by name"_s);
+}
+
+TEST(Completion, GivesADatabaseOfAnEarlierBuildWhatANewOneHas)
+{
+    const StoreFolder folder(withoutCompanions());
+    {
+        Database database(folder.path());
+        Recordset sales = database.openTable(u"mixsales"_s);
+        test::add(sales, {{"ID", Value::whole(7)}, {"SALESDATE", Value::date({2026, 11, 24})}});
+    }
+    const QString aDay = u"from mixsales where SALESDATE = #11/24/2026#"_s;
+    const QString plan = u"explain query plan select * "_s + aDay;
+    EXPECT_FALSE(valuesOf(folder, plan).join(u' ').contains(u"USING INDEX"_s));
+    const std::string tables = layoutIn(folder);
+    completeDatabase(folder.path());
+    EXPECT_EQ(engineLayoutOf(folder), engineLayoutOf(StoreFolder(catalogue())));
+    EXPECT_TRUE(valuesOf(folder, plan).join(u' ').contains(u"USING INDEX"_s));
+    EXPECT_EQ(layoutIn(folder), tables);
+    EXPECT_EQ(valuesOf(folder, u"select ID "_s + aDay), QStringList{u"7"_s});
+
+    const QByteArray before = folder.folder().read("velmar.mdb");
+    completeDatabase(folder.path());
+    EXPECT_TRUE(folder.folder().read("velmar.mdb") == before) << "a second run writes nothing";
+}
+
+TEST(Completion, AddsNoTableAndNoFieldThatTheUpgradeLeftOut)
+{
+    const StoreFolder folder(oldLayout(u"PLUSALES"_s));
+    UpgradeDatabase(folder.path());
+    const std::string tables = layoutIn(folder);
+    completeDatabase(folder.path());
+    EXPECT_EQ(layoutIn(folder), tables);
+    // The upgrade makes the three tables with their indexes; the fourth stood already.
+    const QString indexed = u"select tbl_name from sqlite_schema where name like '* search' order by 1"_s;
+    EXPECT_EQ(valuesOf(folder, indexed).join(u' ').toUpper(), u"CLERKSALES PLUSALES TIMESALES"_s);
+}
+
+TEST(Completion, PassesOverEveryFailureAndLeavesTheFileWhole)
+{
+    const StoreFolder folder(withoutCompanions());
+    completeDatabase(folder.folder().path("none.mdb"));
+    folder.folder().write("other.mdb", "no database");
+    completeDatabase(folder.folder().path("other.mdb"));
+    EXPECT_EQ(folder.folder().read("other.mdb"), "no database");
+    EXPECT_EQ(folder.folder().names(), (QStringList{u"other.mdb"_s, u"velmar.mdb"_s}));
+#ifdef Q_OS_UNIX
+    const std::string tables = layoutIn(folder);
+    {
+        const norvane::test::FullDisk disk(4096);
+        completeDatabase(folder.path());
+    }
+    EXPECT_EQ(layoutIn(folder), tables);
+    completeDatabase(folder.path());
+    EXPECT_EQ(engineLayoutOf(folder), engineLayoutOf(StoreFolder(catalogue())));
+#endif
 }
 
 } // namespace

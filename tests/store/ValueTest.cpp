@@ -3,6 +3,8 @@
 
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::store::test
 {
 namespace
@@ -79,15 +81,15 @@ TEST(Value, IsConvertedOrRefusedByItsField)
     };
     const StoreFolder folder;
     Database database(folder.path());
-    auto items = database.openTable(QStringLiteral("items"));
+    auto items = database.openTable(u"items"_s);
     for (const auto& row : rows) {
         const QString field = QString::fromUtf8(row.field);
-        database.execute(QStringLiteral("delete * from items"));
+        database.execute(u"delete * from items"_s);
         items.addNew();
         EXPECT_EQ(failureOf([&] { items.setValue(field, row.given); }), row.failure) << row.given.toUtf8();
         items.update();
         Database other(folder.path());
-        const auto stored = other.openTable(QStringLiteral("items")).value(field);
+        const auto stored = other.openTable(u"items"_s).value(field);
         EXPECT_EQ(stored, row.failure == 0 ? row.held : Value()) << row.field << ' ' << stored.toUtf8();
     }
 }
