@@ -17,8 +17,6 @@ struct ApplicationValues {
     QString customerPath;
     /// The customer database in use. Set at the start and by the key editors only.
     QString databasePath;
-    /// "UPLOAD" or "DOWNLOAD", read by the exchange dialog.
-    QString exchangeMode;
 };
 
 } // namespace norvane

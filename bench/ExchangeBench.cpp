@@ -17,6 +17,8 @@
 #include <map>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 
@@ -63,7 +65,7 @@ public:
 
 private:
     std::map<QString, double> m_steps;
-    QString m_step = QStringLiteral("Start");
+    QString m_step = u"Start"_s;
     double m_tools = 0;
     std::chrono::steady_clock::time_point m_since = std::chrono::steady_clock::now();
 };
@@ -87,7 +89,7 @@ private:
 class Shop
 {
 public:
-    Shop() : m_folder(dorvik, 1, pluCount), m_values(m_folder.makeCustomer(QStringLiteral("Shop"))) {}
+    Shop() : m_folder(dorvik, 1, pluCount), m_values(m_folder.makeCustomer(u"Shop"_s)) {}
 
     Meter run(void (exchange::ExchangeRunner::*sequence)())
     {
@@ -111,7 +113,7 @@ public:
     void checkTable()
     {
         store::Database database(m_values.databasePath);
-        require(database.openTable(QStringLiteral("PLUDATA")).recordCount() == pluCount, "all PLUs came");
+        require(database.openTable(u"PLUDATA"_s).recordCount() == pluCount, "all PLUs came");
     }
     /// Takes a file away from the register, so that only a send can bring it back.
     void emptyRegister() { require(QFile::remove(pluFile()), "the register's PLUs go"); }

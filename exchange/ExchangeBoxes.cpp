@@ -1,6 +1,8 @@
 // Captions of the exchange dialog's boxes and the note about the serial port devices.
 #include "exchange/ExchangeBoxes.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::exchange
 {
 
@@ -51,20 +53,20 @@ const std::array<const char*, boxCount>& boxCaptions()
 QString boxName(int box)
 {
     QString name = QLatin1String(boxCaptions().at(static_cast<std::size_t>(box)));
-    return name.replace(QLatin1String("&&"), QLatin1String("&")).trimmed();
+    return name.replace("&&"_L1, "&"_L1).trimmed();
 }
 
 bool serialPortNoteDue(int boxValue, const QString& exchangeMode)
 {
     constexpr int trueAsNumber = -1;
-    return boxValue == trueAsNumber && exchangeMode == QLatin1String("DOWNLOAD");
+    return boxValue == trueAsNumber && exchangeMode == "DOWNLOAD"_L1;
 }
 
 QString serialPortNote()
 {
-    return QStringLiteral("You have selected to transmit the SERIAL PORT DEVICE option.\r"
-                          "Please ensure you power off the ECR after the transmission \r"
-                          "to ensure all new settings are initialised\r");
+    return u"You have selected to transmit the SERIAL PORT DEVICE option.\r"
+           u"Please ensure you power off the ECR after the transmission \r"
+           u"to ensure all new settings are initialised\r"_s;
 }
 
 } // namespace norvane::exchange

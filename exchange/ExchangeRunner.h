@@ -36,6 +36,8 @@ public:
 private:
     template <typename Row>
     void moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::*moveRow)(const Row&));
+    template <typename Row>
+    bool moveBox(int box, std::span<const Row> rows, bool (ExchangeRunner::*moveRow)(const Row&));
     bool uploadRow(const UploadRow& row);
     bool downloadRow(const DownloadRow& row);
     [[nodiscard]] bool makeFile(int file);
@@ -43,7 +45,6 @@ private:
     void copyAfterSend(const DownloadRow& row);
     void keepForCustomer(const QString& name);
     void untickWithoutSmartCards();
-    bool runTool(const QString& commandLine);
     bool succeeded();
     bool transfer(const QString& step, const QString& commandLine);
     void showStep(const char* verb, int box, int file);

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QScopeGuard>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::exchange
 {
 namespace
@@ -23,8 +25,8 @@ constexpr int columnGap = 2 * ui::spacing::groupGap;
 
 } // namespace
 
-FrmComm::FrmComm(ApplicationValues& values, Boxes& boxes, QWidget* parent)
-    : LinkForm("FrmComm", "&OK", values, boxes, parent)
+FrmComm::FrmComm(QString exchangeMode, const ApplicationValues& values, Boxes& boxes, QWidget* parent)
+    : LinkForm("FrmComm", "&OK", values, boxes, parent), m_exchangeMode(std::move(exchangeMode))
 {
     setModal(true);
     buildBoxes();
@@ -39,7 +41,7 @@ void FrmComm::buildBoxes()
     for (int box = 0; box < boxCount; ++box) {
         const auto index = static_cast<std::size_t>(box);
         check1[index] = new QCheckBox(QLatin1String(boxCaptions()[index]), this);
-        check1[index]->setObjectName(QStringLiteral("check1_%1").arg(box));
+        check1[index]->setObjectName(u"check1_%1"_s.arg(box));
         check1[index]->setAccessibleName(check1[index]->objectName());
     }
 }
@@ -48,21 +50,24 @@ QLayout* FrmComm::columnsOfBoxes() const
 {
     auto* columns = new QHBoxLayout;
     columns->setSpacing(columnGap);
-    for (std::size_t column = 0; column + 1 < columnStarts.size(); ++column) {
-        auto* boxes = new QVBoxLayout;
-        boxes->setSpacing(ui::spacing::controlGap);
-        for (int box = columnStarts[column]; box < columnStarts[column + 1]; ++box) {
-            boxes->addWidget(check1[static_cast<std::size_t>(box)]);
-        }
-        boxes->addStretch();
-        columns->addLayout(boxes);
-    }
+    for (std::size_t column = 0; column + 1 < columnStarts.size(); ++column)
+        columns->addLayout(columnOfBoxes(columnStarts[column], columnStarts[column + 1]));
     return columns;
+}
+
+QLayout* FrmComm::columnOfBoxes(int first, int end) const
+{
+    auto* column = new QVBoxLayout;
+    column->setSpacing(ui::spacing::controlGap);
+    for (int box = first; box < end; ++box)
+        column->addWidget(check1[static_cast<std::size_t>(box)]);
+    column->addStretch();
+    return column;
 }
 
 void FrmComm::run()
 {
-    // The ticks that are left tell how it went.
+    // A finished run shows no step; the ticks that are left say what did not move.
     const auto ended = qScopeGuard([this] { StatusBar1->setStep({}); });
     exchange();
 }
@@ -70,26 +75,30 @@ void FrmComm::run()
 /// The order of an OK: note, settings, dialling, sequence, hanging up.
 void FrmComm::exchange()
 {
-    if (serialPortNoteDue(isTicked(serialPortBox) ? boxTicked : boxUnticked, m_values.exchangeMode)) {
-        m_boxes.message(serialPortNote(), QStringLiteral("Please note...."), BoxIcon::Exclamation);
-    }
+    noteSerialPort();
     const link::LinkSettings link = link::readLinkSettings(m_values);
     const int result = connectLink(link);
     if (exitPressed()) {
-        // Exit has hung up already, and who has left wants no more boxes.
+        // Exit has hung up; show nothing.
         return;
     }
     if (result == link::modemFailed) {
         disconnectLink();
-        m_boxes.message(QStringLiteral("Modem Failure"), QStringLiteral("Communications Error"));
+        m_boxes.message(u"Modem Failure"_s, u"Communications Error"_s);
         return;
     }
     runSequence(link);
 }
 
+void FrmComm::noteSerialPort()
+{
+    if (serialPortNoteDue(isTicked(serialPortBox) ? boxTicked : boxUnticked, m_exchangeMode))
+        m_boxes.message(serialPortNote(), u"Please note...."_s, BoxIcon::Exclamation);
+}
+
 void FrmComm::runSequence(const link::LinkSettings& link)
 {
-    // Also when a failure ends the sequence: a call that nobody hangs up costs the shop money.
+    // Also when a failure ends the sequence: an open call costs the shop money.
     const auto hangUp = qScopeGuard([this] { disconnectLink(); });
     moveTicked(link);
 }
@@ -97,23 +106,21 @@ void FrmComm::runSequence(const link::LinkSettings& link)
 void FrmComm::moveTicked(const link::LinkSettings& link)
 {
     ExchangeRunner runner(m_values, link, *this, outside());
-    if (m_values.exchangeMode == QLatin1String("UPLOAD")) {
+    if (m_exchangeMode == "UPLOAD"_L1)
         runner.UploadData();
-    } else {
+    else
         runner.downloaddata();
-    }
 }
 
 QString FrmComm::leavingNotice() const
 {
-    return QStringLiteral("Leaving after this file .......");
+    return u"Leaving after this file ......."_s;
 }
 
 void FrmComm::selectAll()
 {
-    for (int box = 0; box < boxCount; ++box) {
+    for (int box = 0; box < boxCount; ++box)
         setTicked(box, true);
-    }
 }
 
 bool FrmComm::isTicked(int box) const

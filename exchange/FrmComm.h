@@ -12,15 +12,15 @@ class QCheckBox;
 namespace norvane::exchange
 {
 
-/// Serves both directions: values.exchangeMode "UPLOAD" fetches from one register, anything else sends to
-/// all. The menu gives the dialog its caption. All boxes start unticked. Who leaves while a file is being
-/// moved leaves behind it.
+/// Serves both directions; the menu gives the dialog its caption. All boxes start unticked. Closing takes
+/// effect after the current file.
 class FrmComm : public link::LinkForm, private TickBoxes
 {
     Q_OBJECT
 
 public:
-    FrmComm(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
+    /// @param exchangeMode "UPLOAD" fetches from one register, anything else sends to all.
+    FrmComm(QString exchangeMode, const ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
 protected:
     void run() override;
@@ -29,15 +29,18 @@ protected:
 private:
     void buildBoxes();
     [[nodiscard]] QLayout* columnsOfBoxes() const;
+    [[nodiscard]] QLayout* columnOfBoxes(int first, int end) const;
 
     void selectAll();
     void exchange();
+    void noteSerialPort();
     void runSequence(const link::LinkSettings& link);
     void moveTicked(const link::LinkSettings& link);
 
     [[nodiscard]] bool isTicked(int box) const override;
     void setTicked(int box, bool ticked) override;
 
+    QString m_exchangeMode;
     std::array<QCheckBox*, boxCount> check1{};
     QPushButton* CSCmdBtn2 = nullptr;
 };

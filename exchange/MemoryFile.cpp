@@ -12,6 +12,8 @@
 #include <string>
 #include <string_view>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::exchange
 {
 namespace
@@ -91,7 +93,8 @@ constexpr Column columns[] = {
     /* 39 */ text("HOTLIST", true),
 };
 // clang-format on
-/// The register's generation is asked for once more behind this column.
+
+/// The register's generation is asked for once more after this column.
 constexpr std::size_t generationAskedAfter = 37;
 
 constexpr int newerGeneration = 3;
@@ -112,20 +115,14 @@ void storeFlags(store::Recordset& record, const Column& column, std::string_view
 
 void storeColumn(store::Recordset& record, const Column& column, std::string_view value)
 {
-    switch (column.form) {
-    case Form::PassedOver:
+    if (column.form == Form::PassedOver)
         return;
-    case Form::Text:
-        record.setValue(QLatin1String(column.field), store::Value::text(records::plainFromRegister(value)));
-        return;
-    case Form::Count:
-        record.setValue(QLatin1String(column.field),
-                        store::Value::text(records::plainFromRegister(records::stripLeadingZero(value))));
-        return;
-    case Form::Flags:
+    if (column.form == Form::Flags) {
         storeFlags(record, column, value);
         return;
     }
+    const auto kept = column.form == Form::Count ? records::stripLeadingZero(value) : value;
+    record.setValue(QLatin1String(column.field), store::Value::text(records::plainFromRegister(kept)));
 }
 
 void storeLine(store::Recordset& record, std::string_view line, const std::function<int()>& generation)
@@ -133,15 +130,26 @@ void storeLine(store::Recordset& record, std::string_view line, const std::funct
     int asked = 0;
     record.addNew();
     for (std::size_t column = 0; column < std::size(columns); ++column) {
-        if (column == generationAskedAfter) {
+        if (column == generationAskedAfter)
             asked = generation();
-        }
         const std::string_view value = records::takeField(line);
-        if (!columns[column].newerGenerationOnly || asked == newerGeneration) {
+        if (!columns[column].newerGenerationOnly || asked == newerGeneration)
             storeColumn(record, columns[column], value);
-        }
     }
     record.update();
+}
+
+/// Replaces the table's rows by those of the text.
+void reloadTable(const QString& databasePath, const std::function<int()>& generation)
+{
+    store::Database database(databasePath);
+    store::Transaction transaction(database);
+    store::Recordset record = database.openTable(u"memoryallocation"_s);
+    database.execute(u"delete * from memoryallocation"_s);
+    const std::string content = readWholeFile(u"52.txt"_s).toStdString();
+    for (std::string_view rest = withoutEndMark(content); !rest.empty();)
+        storeLine(record, records::takeLine(rest), generation);
+    transaction.commit();
 }
 
 } // namespace
@@ -152,19 +160,9 @@ void FileMemory(const ApplicationValues& values, Boxes& boxes,
     const auto generation = [&] {
         return GetFirmwareGeneration(values, boxes);
     };
-    const QString operation =
-        generation() == olderGeneration ? QStringLiteral("u52") : QStringLiteral("u352");
-    runCommand(QStringLiteral("convert w%1 fMEM.dat t52.txt %2").arg(GetModelCode(values), operation));
-
-    store::Database database(values.databasePath);
-    store::Transaction transaction(database);
-    store::Recordset record = database.openTable(QStringLiteral("memoryallocation"));
-    database.execute(QStringLiteral("delete * from memoryallocation"));
-    const std::string content = readWholeFile(QStringLiteral("52.txt")).toStdString();
-    for (std::string_view rest = withoutEndMark(content); !rest.empty();) {
-        storeLine(record, records::takeLine(rest), generation);
-    }
-    transaction.commit();
+    const QString operation = generation() == olderGeneration ? u"u52"_s : u"u352"_s;
+    runCommand(u"convert w%1 fMEM.dat t52.txt %2"_s.arg(GetModelCode(values), operation));
+    reloadTable(values.databasePath, generation);
 }
 
 } // namespace norvane::exchange

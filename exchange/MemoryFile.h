@@ -13,7 +13,7 @@ namespace norvane::exchange
 
 /// Reloads the table memoryallocation from mem.dat in the program's folder: converts it to 52.txt in the
 /// working directory with @p runCommand, empties the table and stores a row for each line. A failed
-/// conversion is not noticed: an older 52.txt is read then.
+/// conversion goes unnoticed; it reads an older 52.txt then.
 /// @throws RuntimeFailure 53 when mem.dat or 52.txt is missing, 13 when a column of flags is no number; the
 /// table is empty or holds the lines before then.
 void FileMemory(const ApplicationValues& values, Boxes& boxes,

@@ -6,19 +6,20 @@
 
 #include <QFile>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::exchange
 {
 namespace
 {
 
-/// All spellings go, so that none is found any more.
+/// Removes the file in every spelling, so that no other one is found next.
 void removeEverySpelling(const QString& path)
 {
     while (pathExists(path)) {
         const QString found = existingPath(path);
         if (!QFile::remove(found)) {
-            throw RuntimeFailure(Failure::PathOrFileAccess,
-                                 QStringLiteral("The file %1 cannot be deleted.").arg(found));
+            throw RuntimeFailure(Failure::PathOrFileAccess, u"The file %1 cannot be deleted."_s.arg(found));
         }
     }
 }
@@ -33,8 +34,8 @@ void MoveDataFile(const QString& source, const QString& target, const QString& n
         removeEverySpelling(to);
         return;
     }
-    // The copy takes the older one's place only when it stands whole: an unreadable source or a full disk
-    // must not cost the customer's only copy.
+    // The whole file is read and written before it replaces the older copy: an unreadable source or a full
+    // disk must not cost the customer's only copy.
     writeWholeFile(to, readWholeFile(from));
 }
 

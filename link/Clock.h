@@ -4,6 +4,7 @@
 namespace norvane::link
 {
 
+/// The time of day, waiting, and the pending events.
 class Clock
 {
 public:

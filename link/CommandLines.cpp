@@ -3,6 +3,8 @@
 
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::link
 {
 namespace
@@ -23,8 +25,8 @@ QString word(const Words& words, int index)
     return QLatin1String(listed ? words.byIndex[static_cast<std::size_t>(index)] : words.other);
 }
 
-const QString tool = QStringLiteral("VELMARCOMM ");
-const QString blank = QStringLiteral(" ");
+const QString tool = u"VELMARCOMM "_s;
+const QString blank = u" "_s;
 
 } // namespace
 
@@ -55,8 +57,8 @@ QString downloadOpeningLine(const LinkSettings& link, const QString& suffix)
 
 QString downloadLine(const LinkSettings& link, const QString& suffix)
 {
-    return tool + speedWord(link.baudIndex) + QStringLiteral(" F1 ") + link.rangeWord + blank +
-           portWord(link.portIndex) + suffix;
+    return tool + speedWord(link.baudIndex) + u" F1 "_s + link.rangeWord + blank + portWord(link.portIndex) +
+           suffix;
 }
 
 QString salesOpeningLine(const LinkSettings& link, const QString& suffix)
@@ -66,7 +68,7 @@ QString salesOpeningLine(const LinkSettings& link, const QString& suffix)
 
 QString salesLine(const LinkSettings& link, const QString& suffix)
 {
-    return tool + bareRate(link.baudIndex) + QStringLiteral(" F1 ") + link.rangeWord + blank + suffix;
+    return tool + bareRate(link.baudIndex) + u" F1 "_s + link.rangeWord + blank + suffix;
 }
 
 } // namespace norvane::link

@@ -31,7 +31,7 @@ namespace norvane::link
 [[nodiscard]] QString salesLine(const LinkSettings& link, const QString& suffix);
 
 /// Suffixes that open every sequence: memory allocation file, and the exchange without a data file.
-inline constexpr const char* memorySuffix = " Nmem.DAT -U 52";
-inline constexpr const char* openingSuffix = "  -U 250";
+inline constexpr QLatin1StringView memorySuffix{" Nmem.DAT -U 52"};
+inline constexpr QLatin1StringView openingSuffix{"  -U 250"};
 
 } // namespace norvane::link

@@ -13,7 +13,7 @@
 namespace norvane::link
 {
 
-LinkForm::LinkForm(const char* name, const char* runCaption, ApplicationValues& values, Boxes& boxes,
+LinkForm::LinkForm(const char* name, const char* runCaption, const ApplicationValues& values, Boxes& boxes,
                    QWidget* parent)
     : QDialog(parent), m_values(values), m_boxes(boxes), m_line(makeSerialLine()),
       m_clock(std::make_unique<SystemClock>())
@@ -46,20 +46,24 @@ QPushButton* LinkForm::addButton(const char* name, const char* caption)
     return button;
 }
 
+QHBoxLayout* LinkForm::buttonRow(const QList<QPushButton*>& others) const
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(ui::spacing::controlGap);
+    for (QPushButton* button : others)
+        row->addWidget(button);
+    row->addStretch();
+    row->addWidget(Communicate);
+    row->addWidget(CSCmdBtn1);
+    return row;
+}
+
 void LinkForm::layOut(QLayout* content, const QList<QPushButton*>& others)
 {
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(ui::spacing::controlGap);
-    for (QPushButton* button : others) {
-        buttons->addWidget(button);
-    }
-    buttons->addStretch();
-    buttons->addWidget(Communicate);
-    buttons->addWidget(CSCmdBtn1);
     auto* inner = new QVBoxLayout;
     inner->addLayout(content);
     inner->addSpacing(ui::spacing::groupGap);
-    inner->addLayout(buttons);
+    inner->addLayout(buttonRow(others));
     constexpr int margin = ui::spacing::formMargin;
     inner->setContentsMargins(margin, margin, margin, margin);
 
@@ -68,36 +72,48 @@ void LinkForm::layOut(QLayout* content, const QList<QPushButton*>& others)
     whole->addLayout(inner);
     whole->addWidget(StatusBar1);
     whole->setSizeConstraint(QLayout::SetFixedSize);
-    // The base makes its buttons first, so that they would come ahead of the form's own controls.
+    tabToButtonsLast(others);
+}
+
+/// This class makes its buttons first, so that Tab would reach them ahead of the form's own controls.
+void LinkForm::tabToButtonsLast(const QList<QPushButton*>& others)
+{
     const QList<QPushButton*> inOrder = others + QList<QPushButton*>{Communicate, CSCmdBtn1};
-    for (QPushButton* button : inOrder) {
+    for (QPushButton* button : inOrder)
         setTabOrder(previousInFocusChain(), button);
-    }
 }
 
 void LinkForm::communicate()
 {
-    if (m_work != Work::None) {
+    if (m_work != Work::None)
         return;
+    beginRun();
+    bool leavesNow = false;
+    {
+        const auto ended = qScopeGuard([&] { leavesNow = endRun(); });
+        run();
     }
+    if (leavesNow)
+        leave();
+}
+
+void LinkForm::beginRun()
+{
     m_work = Work::Preparing;
     m_exitPressed = false;
     StatusBar1->setNotice({});
     Communicate->setEnabled(false);
-    bool leavesAtEnd = false;
-    {
-        const auto ended = qScopeGuard([this, &leavesAtEnd] {
-            leavesAtEnd = m_exitPressed && m_work == Work::Moving;
-            m_work = Work::None;
-            m_waitPointer.reset();
-            Communicate->setEnabled(true);
-            Communicate->setFocus();
-        });
-        run();
-    }
-    if (leavesAtEnd) {
-        leave();
-    }
+}
+
+/// @return whether the user asked to leave while tools were at work.
+bool LinkForm::endRun()
+{
+    const bool leaves = m_exitPressed && m_work == Work::Moving;
+    m_work = Work::None;
+    m_waitPointer.reset();
+    Communicate->setEnabled(true);
+    Communicate->setFocus();
+    return leaves;
 }
 
 int LinkForm::connectLink(const LinkSettings& link)
@@ -107,22 +123,24 @@ int LinkForm::connectLink(const LinkSettings& link)
     m_modem = std::make_unique<Modem>(*m_line, *m_clock,
                                       [this](const QString& text) { StatusBar1->setStep(text); });
     m_modem->setUpLine(m_link);
-    int result = 0;
-    if (m_link.isModem()) {
-        m_work = Work::Dialling;
-        result = m_modem->DialModem(m_link);
-    }
-    if (!m_exitPressed) {
+    const int result = dial();
+    if (!m_exitPressed)
         m_work = Work::Moving;
-    }
     return result;
+}
+
+int LinkForm::dial()
+{
+    if (!m_link.isModem())
+        return 0;
+    m_work = Work::Dialling;
+    return m_modem->DialModem(m_link);
 }
 
 void LinkForm::disconnectLink()
 {
-    if (m_link.isModem()) {
+    if (m_link.isModem())
         m_modem->Dropphoneline();
-    }
 }
 
 void LinkForm::reject()

@@ -15,7 +15,7 @@
 #include <memory>
 #include <optional>
 
-class QBoxLayout;
+class QHBoxLayout;
 class QPushButton;
 
 namespace norvane::ui
@@ -26,25 +26,25 @@ class StatusLine;
 namespace norvane::link
 {
 
-/// Base of the forms that speak with the registers. A run blocks but for the modem's waits and one look at
-/// the pending events before each tool, so the user can leave meanwhile.
+/// Base of the forms that speak with the registers. A run blocks the window. It handles events only while the
+/// modem waits and once before each tool, so that the user can leave.
 class LinkForm : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Puts another serial line or clock in the place of the machine's; before the first run.
+    /// Replace the machine's serial line and clock; before the first run.
     void setSerialLine(std::unique_ptr<SerialLine> line);
     void setClock(std::unique_ptr<Clock> clock);
 
 public Q_SLOTS:
-    /// The "E&xit" button, Escape and the window's close button: hangs up a modem and leaves, also in the
-    /// midst of the dialling. Tools at work end the step first.
+    /// The "E&xit" button, Escape and the window's close button: hangs up a modem and leaves, even while it
+    /// dials. While tools are at work, leaving takes effect after the current step.
     void reject() override;
 
 protected:
     /// @p name becomes the form's object name, @p runCaption stands on the button Communicate.
-    LinkForm(const char* name, const char* runCaption, ApplicationValues& values, Boxes& boxes,
+    LinkForm(const char* name, const char* runCaption, const ApplicationValues& values, Boxes& boxes,
              QWidget* parent);
     ~LinkForm() override;
 
@@ -56,12 +56,12 @@ protected:
 
     /// One press of Communicate.
     virtual void run() = 0;
-    /// What the user reads who leaves while tools are at work.
+    /// Shown when the user leaves while tools are at work.
     [[nodiscard]] virtual QString leavingNotice() const = 0;
 
     /// Sets up the serial line, shows the wait pointer, and dials when @p link is a modem.
     /// @return 0 when the registers can be reached, modemFailed when the dialling failed. A user who left
-    /// during the dialling has hung up already; see exitPressed().
+    /// while it dialled has hung up already; see exitPressed().
     [[nodiscard]] int connectLink(const LinkSettings& link);
     /// Hangs up a modem; nothing on a direct line.
     void disconnectLink();
@@ -69,14 +69,20 @@ protected:
 
     /// This form as the outside of a run of the tools; the form must outlive it.
     [[nodiscard]] RunOutside outside();
-    ApplicationValues& m_values;
+
+    const ApplicationValues& m_values;
     Boxes& m_boxes;
     QPushButton* Communicate = nullptr;
     QPushButton* CSCmdBtn1 = nullptr;
     ui::StatusLine* StatusBar1 = nullptr;
 
 private:
+    [[nodiscard]] QHBoxLayout* buttonRow(const QList<QPushButton*>& others) const;
+    void tabToButtonsLast(const QList<QPushButton*>& others);
     void communicate();
+    void beginRun();
+    [[nodiscard]] bool endRun();
+    [[nodiscard]] int dial();
     void leave();
 
     std::unique_ptr<SerialLine> m_line;
@@ -86,7 +92,7 @@ private:
     /// What a run is busy with.
     enum class Work { None, Preparing, Dialling, Moving };
     Work m_work = Work::None;
-    bool m_exitPressed = false; ///< while a run was busy
+    bool m_exitPressed = false; ///< since the run began
     std::optional<ui::WaitPointer> m_waitPointer;
 };
 

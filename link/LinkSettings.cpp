@@ -7,6 +7,8 @@
 
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::link
 {
 namespace
@@ -22,18 +24,17 @@ int smallNumber(const QString& text)
     using Small = std::numeric_limits<std::int16_t>;
     const int number = roundHalfEven(leadingNumber(text));
     if (number < Small::min() || number > Small::max()) {
-        throw RuntimeFailure(Failure::Overflow,
-                             QStringLiteral("ModemDelay in setup.ini is out of range: %1").arg(text));
+        throw RuntimeFailure(Failure::Overflow, u"ModemDelay in setup.ini is out of range: %1"_s.arg(text));
     }
     return number;
 }
 
 QString connectionWord(const QString& text)
 {
-    return text == QLatin1String("1") ? QStringLiteral("MODEM") : QStringLiteral("DIRECT");
+    return text == "1"_L1 ? u"MODEM"_s : u"DIRECT"_s;
 }
 
-const QString carriageReturn = QStringLiteral("\r");
+const QString carriageReturn = u"\r"_s;
 
 struct LinkKey {
     const char* key;
@@ -46,11 +47,11 @@ constexpr LinkKey linkKeys[] = {
     {"Connectiontype", "0",      [](LinkSettings& l, const QString& t) { l.connectionType = connectionWord(t); }},
     {"ModemReset",     "AT&F ",  [](LinkSettings& l, const QString& t) { l.resetString = t + carriageReturn; }},
     {"ModemString",    "ATZ1 ",  [](LinkSettings& l, const QString& t) { l.setUpString = t + carriageReturn; }},
-    {"telephone",      " ",      [](LinkSettings& l, const QString& t) { l.dialString = QStringLiteral("ATD") + t + carriageReturn; }},
+    {"telephone",      " ",      [](LinkSettings& l, const QString& t) { l.dialString = u"ATD"_s + t + carriageReturn; }},
     {"ModemDelay",     " ",      [](LinkSettings& l, const QString& t) { l.modemDelay = smallNumber(t); }},
     {"baud",           " ",      [](LinkSettings& l, const QString& t) { l.baudIndex = listIndex(t); }},
     {"port",           " ",      [](LinkSettings& l, const QString& t) { l.portIndex = listIndex(t); }},
-    {"NoOfECRs",       " ",      [](LinkSettings& l, const QString& t) { l.rangeWord = numberText(listIndex(t) + 1.0) + QLatin1Char('T'); }},
+    {"NoOfECRs",       " ",      [](LinkSettings& l, const QString& t) { l.rangeWord = numberText(listIndex(t) + 1.0) + u'T'; }},
 };
 // clang-format on
 
@@ -59,9 +60,8 @@ constexpr LinkKey linkKeys[] = {
 LinkSettings readLinkSettings(const ApplicationValues& values)
 {
     LinkSettings link;
-    for (const LinkKey& key : linkKeys) {
+    for (const LinkKey& key : linkKeys)
         key.take(link, readSetting(values, QLatin1String(key.key), QLatin1String(key.defaultText)));
-    }
     return link;
 }
 

@@ -20,7 +20,7 @@ struct LinkSettings {
     int portIndex = 0;  ///< list index from 0, so serial port number less one
     QString rangeWord;  ///< last register of the range, "1T" to "32T"
 
-    [[nodiscard]] bool isModem() const { return connectionType == QLatin1String("MODEM"); }
+    [[nodiscard]] bool isModem() const { return connectionType == u"MODEM"; }
 };
 
 /// Reads the link values. Numbers are taken by the leading number of their text, so that blanks and no key at

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::link
 {
 namespace
@@ -17,9 +19,15 @@ constexpr double secondsOfDay = 86400;
 constexpr int portCount = 4;
 
 /// "0" is the numeric form of "OK". An echoed command that holds a zero passes as the answer too.
-const QStringList readyAnswers{QStringLiteral("0"), QStringLiteral("OK")};
+const QStringList readyAnswers{u"0"_s, u"OK"_s};
 /// Numeric codes of modems that answer in digits, and the word of those that do not.
-const QStringList connectAnswers{QStringLiteral("13"), QStringLiteral("12"), QStringLiteral("CONNECT")};
+const QStringList connectAnswers{u"13"_s, u"12"_s, u"CONNECT"_s};
+
+bool holdsAny(const QString& received, const QStringList& answers)
+{
+    return std::any_of(answers.begin(), answers.end(),
+                       [&](const QString& answer) { return received.contains(answer); });
+}
 
 } // namespace
 
@@ -38,37 +46,36 @@ Modem::Modem(SerialLine& line, Clock& clock, std::function<void(const QString&)>
 
 void Modem::setUpLine(const LinkSettings& link)
 {
-    m_line.setSettings(bareRate(link.baudIndex) + QStringLiteral(",N,8,1"));
-    if (link.portIndex >= 0 && link.portIndex < portCount) {
+    m_line.setSettings(bareRate(link.baudIndex) + u",N,8,1"_s);
+    if (link.portIndex >= 0 && link.portIndex < portCount)
         m_line.setPort(link.portIndex + 1);
-    }
 }
 
 int Modem::DialModem(const LinkSettings& link)
 {
     setUpLine(link);
-    if (!m_line.open()) {
+    const Step dialling{u"Dialing "_s, link.dialString, connectAnswers, static_cast<double>(link.modemDelay)};
+    // The input is not cleared before the dialling: its answer may come in early and must not be lost.
+    if (!m_line.open() || !prepare(link) || !converse(dialling))
         return modemFailed;
-    }
+    m_show(u"Connected"_s);
+    m_line.close();
+    return 0;
+}
+
+bool Modem::prepare(const LinkSettings& link)
+{
     const Step preparations[] = {
-        {QStringLiteral("Resetting Modem ......."), link.resetString, readyAnswers, answerSeconds},
-        {QStringLiteral("Programming Modem ......."), link.setUpString, readyAnswers, answerSeconds},
+        {u"Resetting Modem ......."_s, link.resetString, readyAnswers, answerSeconds},
+        {u"Programming Modem ......."_s, link.setUpString, readyAnswers, answerSeconds},
     };
     for (const Step& step : preparations) {
         m_line.clearInput();
-        if (!converse(step)) {
-            return modemFailed;
-        }
+        if (!converse(step))
+            return false;
         pauseFor(settleSeconds, m_clock.secondsSinceMidnight());
     }
-    // What came in during the last pause is left standing: an answer to the dialling may not be lost.
-    if (!converse({QStringLiteral("Dialing "), link.dialString, connectAnswers,
-                   static_cast<double>(link.modemDelay)})) {
-        return modemFailed;
-    }
-    m_show(QStringLiteral("Connected"));
-    m_line.close();
-    return 0;
+    return true;
 }
 
 bool Modem::converse(const Step& step)
@@ -78,55 +85,44 @@ bool Modem::converse(const Step& step)
     return waitForAnswer(step.answers, step.seconds);
 }
 
-/// The time-out looks at the clock of the day alone, so a wait across midnight does not time out.
+/// The time-out reads the time of day only, so a wait across midnight does not time out.
 bool Modem::waitForAnswer(const QStringList& answers, double seconds)
 {
     const double start = m_clock.secondsSinceMidnight();
-    QString received;
-    for (;;) {
+    for (QString received;; m_clock.pause()) {
         m_clock.yieldEvents();
-        if (!m_line.isOpen()) {
+        if (!m_line.isOpen())
             return false;
-        }
-        if (m_line.inputCount() != 0) {
+        if (m_line.inputCount() != 0)
             received += m_line.takeInput();
-        }
-        const auto holds = [&received](const QString& answer) {
-            return received.contains(answer);
-        };
-        if (std::any_of(answers.begin(), answers.end(), holds)) {
+        if (holdsAny(received, answers))
             return true;
-        }
-        if (m_clock.secondsSinceMidnight() - start > seconds) {
+        if (m_clock.secondsSinceMidnight() - start > seconds)
             return false;
-        }
-        m_clock.pause();
     }
 }
 
-/// A pause does end after midnight: nothing else could end it.
+/// A pause ends after midnight too: nothing else could end it.
 void Modem::pauseFor(double seconds, double since)
 {
     const auto passed = [&] {
         const double difference = m_clock.secondsSinceMidnight() - since;
         return difference < 0 ? difference + secondsOfDay : difference;
     };
-    while (passed() <= seconds) {
+    while (passed() <= seconds)
         m_clock.pause();
-    }
 }
 
 void Modem::Dropphoneline()
 {
-    if (!m_line.isOpen()) {
+    if (!m_line.isOpen())
         m_line.open();
-    }
     m_line.clearInput();
     const double start = m_clock.secondsSinceMidnight();
-    m_line.send(QStringLiteral("+++"));
+    m_line.send(u"+++"_s);
     m_line.clearInput();
     pauseFor(settleSeconds, start);
-    m_line.send(QStringLiteral("ATH\r"));
+    m_line.send(u"ATH\r"_s);
     m_line.close();
 }
 

@@ -13,6 +13,7 @@
 namespace norvane::link
 {
 
+/// One modem on one serial line.
 class Modem
 {
 public:
@@ -22,17 +23,18 @@ public:
     /// Sets rate and port of the serial line; a port index other than 0 to 3 leaves the port as it was.
     void setUpLine(const LinkSettings& link);
 
-    /// Resets, programs and dials. Window events are handled during the waits, so the user may leave
-    /// meanwhile: a port closed under a wait ends it.
+    /// Resets, programs and dials. Handles window events while it waits, so that the user can leave: closing
+    /// the port ends the wait.
     /// @return 0 when connected (the port is closed then), 100 on any failure (the port stays open, for
     /// Dropphoneline to hang up).
     [[nodiscard]] int DialModem(const LinkSettings& link);
 
-    /// Sends the escape and hangs up, opening the port if need be; failures of the port are passed over.
+    /// Sends the escape and hangs up, opening the port if need be; ignores failures of the port.
     void Dropphoneline();
 
 private:
     struct Step;
+    [[nodiscard]] bool prepare(const LinkSettings& link);
     bool converse(const Step& step);
     bool waitForAnswer(const QStringList& answers, double seconds);
     void pauseFor(double seconds, double since);

@@ -1,11 +1,13 @@
 // The table of result codes.
 #include "link/ResultCodes.h"
 
+#include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
-#include "platform/RuntimeFailure.h"
 
 #include <algorithm>
 #include <iterator>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::link
 {
@@ -44,24 +46,19 @@ QString resultText(int status, int dialResult)
 {
     const auto* row = std::find_if(std::begin(resultCodes), std::end(resultCodes),
                                    [status](const ResultCode& code) { return code.code == status; });
-    if (row != std::end(resultCodes)) {
+    if (row != std::end(resultCodes))
         return QLatin1String(row->text);
-    }
-    return QStringLiteral("Error %1 Sorry Error Unknown").arg(dialResult);
+    return u"Error %1 Sorry Error Unknown"_s.arg(dialResult);
 }
 
 int resultNumber(const QString& statusText)
 {
-    if (statusText.trimmed().isEmpty()) {
+    if (statusText.trimmed().isEmpty())
         return 0;
-    }
-    try {
-        return toWholeNumber(statusText);
-    } catch (const RuntimeFailure& failure) {
-        throw RuntimeFailure(
-            failure.failure(),
-            QStringLiteral("status.out holds \"%1\", which is no result code.").arg(statusText.left(80)));
-    }
+    const auto explain = [&](const QString&) {
+        return u"status.out holds \"%1\", which is no result code."_s.arg(statusText.left(80));
+    };
+    return atPlace(explain, [&] { return toWholeNumber(statusText); });
 }
 
 } // namespace norvane::link

@@ -25,4 +25,8 @@ struct RunOutside {
     Boxes& boxes;
 };
 
+/// Runs a tool and tells the user when it could not be started. The run goes on all the same: status.out
+/// keeps the previous result. @return whether the tool was started.
+bool runTool(const RunOutside& outside, const QString& commandLine);
+
 } // namespace norvane::link

@@ -4,7 +4,6 @@
 #include "base/SharedRoutines.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
-#include "platform/ChildProcess.h"
 #include "sales/PollImport.h"
 #include "sales/PollStamp.h"
 
@@ -12,6 +11,8 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::sales
 {
@@ -21,8 +22,7 @@ namespace
 /// The reports in the order in which they are collected and made into text.
 constexpr int reports[] = {190, 191, 192, 194, 218};
 
-/// Results of the consolidation that stand for sales already consolidated and waiting: they are collected
-/// now.
+/// Results of the consolidation that mean: sales were consolidated before and wait to be collected.
 constexpr int waitingResults[] = {-13, -14};
 
 bool waits(int result)
@@ -35,9 +35,9 @@ bool waits(int result)
 
 /// One run of the transfer tool.
 struct CollectionRun::ToolStep {
-    const char* statusText; ///< nullptr leaves the former step's text standing
+    const char* statusText; ///< nullptr keeps the text of the step before
     QString (*line)(const link::LinkSettings& link, const QString& suffix);
-    const char* suffix;
+    QLatin1StringView suffix;
     bool passesWaiting; ///< whether sales that wait from an earlier run are as good as success
 };
 
@@ -46,11 +46,11 @@ const CollectionRun::ToolStep CollectionRun::stepsAheadOfImport[] = {
     {"Get Memory",           link::salesOpeningLine, link::memorySuffix,            false},
     {nullptr,                link::salesOpeningLine, link::openingSuffix,           false},
     {"Consolidate Reports",  link::salesLine,
-     " P0001010100010000000000000000000000000000000000000000000100 -Z",            true},
-    {"Collect Report Files", link::salesLine,        " -P 190 191 192 194 218",     false},
+     " P0001010100010000000000000000000000000000000000000000000100 -Z"_L1,         true},
+    {"Collect Report Files", link::salesLine,        " -P 190 191 192 194 218"_L1,  false},
 };
 const CollectionRun::ToolStep CollectionRun::clearing =
-    {"Clear Data at ECR",    link::salesLine,        " -C",                         false};
+    {"Clear Data at ECR",    link::salesLine,        " -C"_L1,                      false};
 // clang-format on
 
 CollectionRun::CollectionRun(const ApplicationValues& values, CollectionOutside outside)
@@ -60,51 +60,58 @@ CollectionRun::CollectionRun(const ApplicationValues& values, CollectionOutside 
 
 void CollectionRun::collect()
 {
-    // Asked for what it leaves behind: poll194.dll exists from now on, empty if need be.
+    // Called because it makes an empty poll194.dll when there is none.
     (void)ReadPoll194Stamp(m_values);
     m_link = link::readLinkSettings(m_values);
     m_left = false;
     m_dialResult = m_outside.connectLink(m_link);
-    if (!m_outside.run.goOn()) {
-        // Who has left during the dialling has hung up already.
+    // Leaving while the modem dialled has hung up already.
+    if (!m_outside.run.goOn())
         return;
-    }
-    std::optional<int> failed;
-    {
-        // Also when a failure ends the run: a call that nobody hangs up costs the shop money.
-        const auto hangUp = qScopeGuard([this] { m_outside.disconnectLink(); });
-        failed = failedResult();
-    }
-    if (failed) {
-        m_outside.run.boxes.message(link::resultText(*failed, m_dialResult),
-                                    QStringLiteral("Communications Error"));
-    }
+    if (const auto failed = resultOfCall())
+        m_outside.run.boxes.message(link::resultText(*failed, m_dialResult), u"Communications Error"_s);
+}
+
+std::optional<int> CollectionRun::resultOfCall()
+{
+    // Also when a failure ends the run: an open call costs the shop money.
+    const auto hangUp = qScopeGuard([this] { m_outside.disconnectLink(); });
+    return failedResult();
 }
 
 /// All steps. @return the result that stopped them, nothing when they went through or the user left.
 std::optional<int> CollectionRun::failedResult()
 {
-    if (m_dialResult == link::modemFailed) {
-        // No step has a result yet.
+    // No step has a result yet.
+    if (m_dialResult == link::modemFailed)
         return 0;
-    }
-    for (const ToolStep& step : stepsAheadOfImport) {
-        if (const auto failed = runStep(step); failed || m_left) {
-            return failed;
-        }
-    }
-    m_outside.run.showStep(QStringLiteral("Parse data...."));
-    if (sendsDescriptions()) {
+    if (const auto failed = fetchReports(); failed || m_left)
+        return failed;
+    m_outside.run.showStep(u"Parse data...."_s);
+    if (sendsDescriptions())
         return link::descriptionsPolled;
-    }
     convertReports();
     importReports();
-    // Nothing but a failure may part the import from the clearing: a repeat would add the same sales again.
-    if (const auto failed = runStep(clearing)) {
-        return failed;
+    return clearRegisters();
+}
+
+std::optional<int> CollectionRun::fetchReports()
+{
+    for (const ToolStep& step : stepsAheadOfImport) {
+        if (const auto failed = runStep(step); failed || m_left)
+            return failed;
     }
-    m_outside.run.showStep(QStringLiteral("Communications Successful...."));
     return std::nullopt;
+}
+
+/// Follows the import at once: only a failure may come between, because a repeated import adds the same
+/// sales again.
+std::optional<int> CollectionRun::clearRegisters()
+{
+    const auto failed = runStep(clearing);
+    if (!failed)
+        m_outside.run.showStep(u"Communications Successful...."_s);
+    return failed;
 }
 
 std::optional<int> CollectionRun::runStep(const ToolStep& step)
@@ -113,46 +120,35 @@ std::optional<int> CollectionRun::runStep(const ToolStep& step)
         m_left = true;
         return std::nullopt;
     }
-    if (step.statusText != nullptr) {
+    if (step.statusText != nullptr)
         m_outside.run.showStep(QLatin1String(step.statusText));
-    }
-    runTool(step.line(m_link, QLatin1String(step.suffix)));
+    link::runTool(m_outside.run, step.line(m_link, step.suffix));
     const int result = link::resultNumber(m_outside.run.readStatus());
     const bool succeeded = result == 0 || (step.passesWaiting && waits(result));
     return succeeded ? std::nullopt : std::optional(result);
 }
 
-/// By the stamp of the PLU report: such records hold a text that no layout has a place for.
+/// The stamp of the PLU report tells. Such records hold a text that no layout has a place for.
 bool CollectionRun::sendsDescriptions() const
 {
     const QString stamp = ReadPoll194Stamp(m_values).trimmed();
-    return stamp.endsWith(QLatin1Char('3')) || stamp.endsWith(QLatin1Char('2'));
+    return stamp.endsWith(u'3') || stamp.endsWith(u'2');
 }
 
-/// Nobody looks at how a conversion ended: a former text that is left standing is imported as it is.
+/// Nothing checks how a conversion ended: when it fails, an older text is imported as it is.
 void CollectionRun::convertReports()
 {
     const QString model = GetModelCode(m_values);
-    for (const int report : reports) {
-        runTool(QStringLiteral("convert w%1 fpoll%2.dll tPOLL%2.txt S%2").arg(model).arg(report));
-    }
+    for (const int report : reports)
+        link::runTool(m_outside.run, u"convert w%1 fpoll%2.dll tPOLL%2.txt S%2"_s.arg(model).arg(report));
 }
 
 void CollectionRun::importReports() const
 {
     // One day for all reports, also when the imports run across midnight.
     const QDate collected = QDate::currentDate();
-    for (const PollFile& file : pollFiles()) {
+    for (const PollFile& file : pollFiles())
         importPollFile(file, m_values, collected);
-    }
-}
-
-void CollectionRun::runTool(const QString& commandLine)
-{
-    if (!m_outside.run.runAndWait(commandLine)) {
-        m_outside.run.showNotice(
-            QStringLiteral("The program %1 was not found.").arg(commandWords(commandLine).value(0)));
-    }
 }
 
 } // namespace norvane::sales

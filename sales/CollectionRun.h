@@ -33,8 +33,7 @@ public:
     CollectionRun(const CollectionRun&) = delete;
     CollectionRun& operator=(const CollectionRun&) = delete;
 
-    /// Ends with the result's text in a box when a step fails. A modem is hung up in any case, ahead of the
-    /// box.
+    /// Shows the result's text in a box when a step fails. A modem is always hung up first.
     /// @throws RuntimeFailure 53 when status.out is missing, 13 when it holds no number or the model is none,
     /// 6 and 13 for link settings, and what importPollFile() throws.
     void collect();
@@ -44,12 +43,14 @@ private:
     static const ToolStep stepsAheadOfImport[];
     static const ToolStep clearing;
 
+    [[nodiscard]] std::optional<int> resultOfCall();
     [[nodiscard]] std::optional<int> failedResult();
+    [[nodiscard]] std::optional<int> fetchReports();
+    [[nodiscard]] std::optional<int> clearRegisters();
     [[nodiscard]] std::optional<int> runStep(const ToolStep& step);
     [[nodiscard]] bool sendsDescriptions() const;
     void convertReports();
     void importReports() const;
-    void runTool(const QString& commandLine);
 
     const ApplicationValues& m_values;
     CollectionOutside m_outside;

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::sales
 {
 namespace
@@ -16,12 +18,12 @@ constexpr int contentWidth = 420;
 
 } // namespace
 
-FrmsalesComm::FrmsalesComm(ApplicationValues& values, Boxes& boxes, QWidget* parent)
+FrmsalesComm::FrmsalesComm(const ApplicationValues& values, Boxes& boxes, QWidget* parent)
     : LinkForm("FrmsalesComm", "Collect Sales", values, boxes, parent)
 {
-    setWindowTitle(QStringLiteral("Collect Sales."));
-    auto* explanation = new QLabel(
-        QStringLiteral("Fetches the sales of all registers into the database and clears them there."), this);
+    setWindowTitle(u"Collect Sales."_s);
+    auto* explanation =
+        new QLabel(u"Fetches the sales of all registers into the database and clears them there."_s, this);
     explanation->setMinimumWidth(contentWidth);
     auto* content = new QVBoxLayout;
     content->addWidget(explanation);
@@ -39,7 +41,7 @@ void FrmsalesComm::run()
 
 QString FrmsalesComm::leavingNotice() const
 {
-    return QStringLiteral("Leaving after this step .......");
+    return u"Leaving after this step ......."_s;
 }
 
 } // namespace norvane::sales

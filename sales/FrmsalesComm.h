@@ -6,14 +6,14 @@
 namespace norvane::sales
 {
 
-/// Not modal: the menus can be used while a modem dials. Who leaves before the sales are imported ends the
-/// run there, with the sales still at the registers; later the run goes to its end first.
+/// Not modal: the menus can be used while a modem dials. Leaving before the import ends the run there, with
+/// the sales still at the registers. Leaving later takes effect when the run has ended.
 class FrmsalesComm : public link::LinkForm
 {
     Q_OBJECT
 
 public:
-    FrmsalesComm(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
+    FrmsalesComm(const ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
 protected:
     void run() override;

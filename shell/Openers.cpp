@@ -23,17 +23,16 @@ struct Direction {
 constexpr Direction upload{"UploadVelmar"_L1, "UPLOAD"_L1, "Upload From ECR"_L1};
 constexpr Direction download{"DownloadVelmar"_L1, "DOWNLOAD"_L1, "Download to ECR"_L1};
 
-void openExchange(FrmMain& main, const MenuEntry& entry, ApplicationValues& values, Boxes& boxes)
+void openExchange(FrmMain& main, const MenuEntry& entry, const ApplicationValues& values, Boxes& boxes)
 {
     const Direction& direction = entry.name == upload.entry ? upload : download;
-    values.exchangeMode = direction.mode;
-    exchange::FrmComm dialog(values, boxes, &main);
+    exchange::FrmComm dialog(direction.mode, values, boxes, &main);
     dialog.setWindowTitle(direction.caption);
     dialog.exec();
 }
 
 /// The user can end the program while the modem dials. The form must hang up then, as its own exit does.
-void openCollection(FrmMain& main, ApplicationValues& values, Boxes& boxes)
+void openCollection(FrmMain& main, const ApplicationValues& values, Boxes& boxes)
 {
     main.showShared(u"FrmsalesComm"_s, [&] {
         auto* const form = new sales::FrmsalesComm(values, boxes);

@@ -12,6 +12,8 @@
 
 #include <set>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::exchange
 {
 namespace
@@ -35,7 +37,7 @@ class Exchange
 {
 public:
     explicit Exchange(int model, int registers = 1)
-        : folder(model, registers), values(folder.makeCustomer(QStringLiteral("Corner Shop")))
+        : folder(model, registers), values(folder.makeCustomer(u"Corner Shop"_s))
     {
     }
     void upload(const std::set<int>& wanted) { run(wanted, &ExchangeRunner::UploadData); }
@@ -45,19 +47,18 @@ public:
     {
         QList<int> numbers;
         for (const QString& line : transfers.mid(2))
-            numbers << line.section(QStringLiteral(" N"), 1).section(u'.', 0, 0).toInt();
+            numbers << line.section(u" N"_s, 1).section(u'.', 0, 0).toInt();
         return numbers;
     }
     /// A register file in the customer's folder and in the program's.
     [[nodiscard]] QString kept(int file) const
     {
-        return joinPath(values.customerPath, QStringLiteral("%1.dat").arg(file));
+        return joinPath(values.customerPath, u"%1.dat"_s.arg(file));
     }
-    [[nodiscard]] QString made(int file) const { return folder.appFile(QStringLiteral("%1.dat").arg(file)); }
+    [[nodiscard]] QString made(int file) const { return folder.appFile(u"%1.dat"_s.arg(file)); }
     [[nodiscard]] bool showsOnly(const char* text) const
     {
-        return boxes.shown ==
-               std::vector{test::ShownBox{QLatin1String(text), QStringLiteral("Communication result")}};
+        return boxes.shown == std::vector{test::ShownBox{QLatin1String(text), u"Communication result"_s}};
     }
 
     test::ProgramFolder folder;
@@ -78,7 +79,7 @@ private:
         ExchangeRunner runner(values, link, ticks,
                               {.runAndWait =
                                    [this](const QString& line) {
-                                       if (line.startsWith(QLatin1String("VELMARCOMM")))
+                                       if (line.startsWith("VELMARCOMM"_L1))
                                            transfers << line;
                                        return RunAndWait(values, line);
                                    },
@@ -106,7 +107,7 @@ std::string linesOf(const QString& prefix, std::initializer_list<std::pair<const
     QStringList lines;
     for (const auto& [literal, files] : runs) {
         for (const QString& file : QString::fromLatin1(files).split(u' '))
-            lines << prefix + QString::fromLatin1(literal).replace(QLatin1String("%1"), file);
+            lines << prefix + QString::fromLatin1(literal).replace("%1"_L1, file);
     }
     return lines.join(u'\n').toStdString();
 }
@@ -118,7 +119,7 @@ TEST(ExchangeRunner, FetchesEveryFileFromOneRegisterAndSendsItToAll)
     Exchange shop(2, 3);
     shop.upload(allBoxes());
     EXPECT_EQ(shop.transfers.join(u'\n').toStdString(),
-              linesOf(QStringLiteral("VELMARCOMM s9 c1"),
+              linesOf(u"VELMARCOMM s9 c1"_s,
                       {{"  -U 250", "-"},
                        {" Nmem.DAT -U 52", "-"},
                        {"  N%1.DAT -U %1", "67"},
@@ -136,9 +137,8 @@ TEST(ExchangeRunner, FetchesEveryFileFromOneRegisterAndSendsItToAll)
     }
     shop.download(allBoxes());
     EXPECT_EQ(shop.transfers.join(u'\n').toStdString(),
-              linesOf(QStringLiteral("VELMARCOMM s9  c1"), {{" Nmem.DAT -U 52", "-"}, {"  -U 250", "-"}}) +
-                  '\n' +
-                  linesOf(QStringLiteral("VELMARCOMM s9  F1 3T c1"),
+              linesOf(u"VELMARCOMM s9  c1"_s, {{" Nmem.DAT -U 52", "-"}, {"  -U 250", "-"}}) + '\n' +
+                  linesOf(u"VELMARCOMM s9  F1 3T c1"_s,
                           {{"  N%1.DAT -a", "67"},
                            {"  N%1.DAT -d %1", "65"},
                            {"  N%1.DAT -D %1", "1 2"},
@@ -152,11 +152,10 @@ TEST(ExchangeRunner, FetchesEveryFileFromOneRegisterAndSendsItToAll)
     std::set<int> comesBack;
     std::set<int> onlyStays;
     for (const DownloadRow& row : downloadPlan()) {
-        if (readWholeFile(shop.made(row.file)) == "older") {
+        if (readWholeFile(shop.made(row.file)) == "older")
             comesBack.insert(row.file);
-        } else if (readWholeFile(shop.kept(row.file)) == "older") {
+        else if (readWholeFile(shop.kept(row.file)) == "older")
             onlyStays.insert(row.file);
-        }
     }
     EXPECT_EQ(comesBack, (std::set<int>{15, 16, 17, 29, 32, 33, 34, 64, 71, 85, 86}));
     EXPECT_EQ(onlyStays, std::set<int>{58});
@@ -167,7 +166,7 @@ TEST(ExchangeRunner, FetchesEveryFileFromOneRegisterAndSendsItToAll)
     store::Database database(shop.values.databasePath);
     for (const char* table : {"LOGOMESSAGE", "VALIDATIONMESSAGE", "CHECKENDORSEMESSAGE", "GUESTCHECKMESSAGE",
                               "MIXNMATCH", "CARDCATEGORY", "HOTLIST"})
-        database.execute(QStringLiteral("delete * from ") + QLatin1String(table));
+        database.execute(u"delete * from "_s + QLatin1String(table));
     shop.download(allBoxes());
     EXPECT_EQ(shop.files(), files);
     EXPECT_TRUE(shop.ticks.ticked.empty());
@@ -186,7 +185,7 @@ TEST(ExchangeRunner, StopsByTheResultThatStandsInStatusOut)
     EXPECT_TRUE(shop.showsOnly("Communications Error 8"));
     EXPECT_EQ(shop.ticks.ticked, std::set<int>{2});
 
-    const QString status = shop.folder.appFile(QStringLiteral("status.out"));
+    const QString status = shop.folder.appFile(u"status.out"_s);
     shop.folder.setFaults("[None]\nTool=VELMARCOMM\nStatus=none\n");
     writeWholeFile(status, "0,8\r\n");
     shop.upload({2});
@@ -204,7 +203,7 @@ TEST(ExchangeRunner, SendsNoFileOfAnotherCustomerAndKeepsWhatItSends)
     for (const int file : {43, 83})
         writeWholeFile(shop.made(file), "another customer's");
     shop.download({11});
-    EXPECT_TRUE(shop.notices.value(0).contains(QLatin1String("43.dat")));
+    EXPECT_TRUE(shop.notices.value(0).contains("43.dat"_L1));
     EXPECT_TRUE(shop.showsOnly("Communications Error 2"));
     EXPECT_EQ(readWholeFile(shop.folder.registerFile(1, 43)), own);
     EXPECT_EQ(test::failureOf([&] { shop.download({22}); }), 53) << "no bitmap";

@@ -19,6 +19,8 @@
 #include <QStatusBar>
 #include <QtTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::exchange
 {
 namespace
@@ -35,7 +37,7 @@ protected:
 
     [[nodiscard]] QCheckBox& box(int index) const
     {
-        return *form.findChild<QCheckBox*>(QStringLiteral("check1_%1").arg(index));
+        return *form.findChild<QCheckBox*>(u"check1_%1"_s.arg(index));
     }
     [[nodiscard]] QPushButton& button(const char* name) const
     {
@@ -44,18 +46,17 @@ protected:
     void press(const char* name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
     [[nodiscard]] QString status() const
     {
-        return form.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage();
+        return form.findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage();
     }
     void upload()
     {
-        values.exchangeMode = QStringLiteral("UPLOAD");
         press("Communicate");
     }
     /// Puts the modem at the far end of the line and makes it the customer's connection.
     void useModem()
     {
         for (const auto& [key, value] : {std::pair("Connectiontype", "1"), {"ModemDelay", "30"}}) {
-            ProfileFile::write(settingsPath(values), QStringLiteral("SetupOption"), QLatin1String(key),
+            ProfileFile::write(settingsPath(values), u"SetupOption"_s, QLatin1String(key),
                                QLatin1String(value));
         }
         form.setSerialLine(makeSerialLine({far.device()}));
@@ -65,11 +66,11 @@ protected:
     }
 
     test::ProgramFolder folder;
-    ApplicationValues values = folder.makeCustomer(QStringLiteral("Corner Shop"));
+    ApplicationValues values = folder.makeCustomer(u"Corner Shop"_s);
     test::RecordingBoxes boxes;
     PseudoModem far;
     QuickClock* clock = nullptr;
-    FrmComm form{values, boxes};
+    FrmComm form{u"UPLOAD"_s, values, boxes};
 };
 
 TEST_F(FrmCommTest, ShowsItsBoxesInThreeColumnsUnticked)
@@ -83,8 +84,8 @@ TEST_F(FrmCommTest, ShowsItsBoxesInThreeColumnsUnticked)
         EXPECT_FALSE(box(index).isChecked()) << index;
         EXPECT_EQ(box(index).accessibleName(), box(index).objectName());
     }
-    EXPECT_EQ(box(11).text(), QStringLiteral("Printer Tables && KV Routing"));
-    EXPECT_EQ(box(36).text(), QStringLiteral("Smartcard PLU Points"));
+    EXPECT_EQ(box(11).text(), u"Printer Tables && KV Routing"_s);
+    EXPECT_EQ(box(36).text(), u"Smartcard PLU Points"_s);
     for (const auto& [name, text] :
          {std::pair("Communicate", "&OK"), {"CSCmdBtn1", "E&xit"}, {"CSCmdBtn2", "&Select All"}})
         EXPECT_EQ(button(name).text(), QLatin1String(text));
@@ -95,13 +96,13 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndGoesByTheFormerResult)
     box(11).click();
     upload();
     EXPECT_EQ(status(), QString());
-    const QString kept = joinPath(values.customerPath, QStringLiteral("43.dat"));
+    const QString kept = joinPath(values.customerPath, u"43.dat"_s);
     const QByteArray bytes = readWholeFile(kept);
-    EXPECT_TRUE(QFile::remove(existingPath(folder.appFile(QStringLiteral("43.dat")))));
+    EXPECT_TRUE(QFile::remove(existingPath(folder.appFile(u"43.dat"_s))));
     folder.removeTool("VELMARCOMM");
     box(11).click();
     upload();
-    EXPECT_EQ(status(), QStringLiteral("The program VELMARCOMM was not found."));
+    EXPECT_EQ(status(), u"The program VELMARCOMM was not found."_s);
     EXPECT_EQ(readWholeFile(kept), bytes) << "the only copy stays when nothing came";
     EXPECT_FALSE(box(11).isChecked());
     EXPECT_TRUE(boxes.shown.empty());
@@ -113,9 +114,8 @@ TEST_F(FrmCommTest, EndsTheFileInWorkWhenLeftInTheMidst)
     QTimer::singleShot(0, &form, [this] { QTest::keyClick(&form, Qt::Key_Escape); });
     upload();
     EXPECT_FALSE(form.isVisible());
-    EXPECT_EQ(
-        store::Database(values.databasePath).openTable(QStringLiteral("memoryallocation")).recordCount(), 1);
-    EXPECT_FALSE(pathExists(joinPath(values.customerPath, QStringLiteral("1.dat"))));
+    EXPECT_EQ(store::Database(values.databasePath).openTable(u"memoryallocation"_s).recordCount(), 1);
+    EXPECT_FALSE(pathExists(joinPath(values.customerPath, u"1.dat"_s)));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
@@ -154,9 +154,8 @@ TEST_F(FrmCommTest, DialsExchangesAndHangsUp)
         const auto failure = test::takeFailure();
         EXPECT_EQ(failure ? failure->number() : 0, c.failure);
         EXPECT_EQ(boxes.shown, std::vector<test::ShownBox>(c.answers.empty() ? 1 : 0,
-                                                           {QStringLiteral("Modem Failure"),
-                                                            QStringLiteral("Communications Error")}));
-        EXPECT_EQ(pathExists(folder.appFile(QStringLiteral("status.out"))), !c.answers.empty());
+                                                           {u"Modem Failure"_s, u"Communications Error"_s}));
+        EXPECT_EQ(pathExists(folder.appFile(u"status.out"_s)), !c.answers.empty());
     }
     press("CSCmdBtn1");
     EXPECT_EQ(far.received(), expected + "+++ATH\r") << "leaving hangs up in any case";
@@ -174,11 +173,11 @@ TEST_F(FrmCommTest, HangsUpWhenLeftWhileDialling)
         }
     };
     upload();
-    EXPECT_EQ(shown, QStringLiteral("Resetting Modem .......AT&F"));
+    EXPECT_EQ(shown, u"Resetting Modem .......AT&F"_s);
     EXPECT_FALSE(form.isVisible());
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_EQ(far.received(), QByteArray("AT&F\r+++ATH\r"));
-    EXPECT_FALSE(pathExists(folder.appFile(QStringLiteral("status.out"))));
+    EXPECT_FALSE(pathExists(folder.appFile(u"status.out"_s)));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 

@@ -3,6 +3,8 @@
 
 #include "tests/records/Shop.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::exchange
 {
 namespace
@@ -43,32 +45,31 @@ TEST_F(MemoryFileTest, StoresEveryColumnOfTheGeneration)
 {
     fileMemory(78, fullLine);
     for (const QString& expected :
-         {QStringLiteral("PLU=500 PLUSTATUS=0 TIME/EMPLOYEE=12 TRACK4=4 TIMEPERIOD=24 LINES/PLU=6 LINE/EJ=40 "
-                         "LINES/TRANSACTIONS=99"),
-          QStringLiteral("PLUBYLEVEL=True GROUPBYEMPLOYEE=False CHECKTRACKSOFT=False PROJECTIONS=True "
-                         "STOREBITMAP=False EATINTIMEPERIOD=True TRACK1TIME=True TRACK3TIME=True "
-                         "TRACK2TIME=False CLERKINTERRUPT=True"),
-          QStringLiteral("Z3GROUPTIME=True Z4GROUPTIME=True Z5GROUPTIME=True Z2EMPLOYEE=True Z4PLU=True "
-                         "Z5PLU=False Z1GROUP=True Z5TIME=True Z4TIME=False Z5TIMEKEEP=True"),
-          QStringLiteral("Z3MIX=True Z4MIX=False CATEGORY=16 HOTLIST=0321")})
+         {u"PLU=500 PLUSTATUS=0 TIME/EMPLOYEE=12 TRACK4=4 TIMEPERIOD=24 LINES/PLU=6 LINE/EJ=40 "
+          u"LINES/TRANSACTIONS=99"_s,
+          u"PLUBYLEVEL=True GROUPBYEMPLOYEE=False CHECKTRACKSOFT=False PROJECTIONS=True "
+          u"STOREBITMAP=False EATINTIMEPERIOD=True TRACK1TIME=True TRACK3TIME=True "
+          u"TRACK2TIME=False CLERKINTERRUPT=True"_s,
+          u"Z3GROUPTIME=True Z4GROUPTIME=True Z5GROUPTIME=True Z2EMPLOYEE=True Z4PLU=True "
+          u"Z5PLU=False Z1GROUP=True Z5TIME=True Z4TIME=False Z5TIMEKEEP=True"_s,
+          u"Z3MIX=True Z4MIX=False CATEGORY=16 HOTLIST=0321"_s})
         expectFields(expected);
     EXPECT_TRUE(m_shop.boxes.shown.empty());
     fileMemory(77, fullLine);
-    expectFields(QStringLiteral("Z3MIX=True CATEGORY=null HOTLIST=null"));
+    expectFields(u"Z3MIX=True CATEGORY=null HOTLIST=null"_s);
     fileMemory(0, fullLine);
-    expectFields(QStringLiteral("Z3MIX=True CATEGORY=null HOTLIST=null"));
+    expectFields(u"Z3MIX=True CATEGORY=null HOTLIST=null"_s);
     ASSERT_EQ(m_shop.boxes.shown.size(), 2U) << "an empty memory file tells no generation";
-    EXPECT_EQ(m_shop.boxes.shown[0].text, QStringLiteral("You must upload the data from the Velmar"));
-    const QString line = QStringLiteral("convert wVelmaro fMEM.dat t52.txt ");
-    EXPECT_EQ(m_shop.commands, (QStringList{line + QLatin1String("u352"), line + QLatin1String("u52"),
-                                            line + QLatin1String("u352")}));
+    EXPECT_EQ(m_shop.boxes.shown[0].text, u"You must upload the data from the Velmar"_s);
+    const QString line = u"convert wVelmaro fMEM.dat t52.txt "_s;
+    EXPECT_EQ(m_shop.commands, (QStringList{line + "u352"_L1, line + "u52"_L1, line + "u352"_L1}));
 }
 
 TEST_F(MemoryFileTest, ReplacesTheRowWhateverTheLinesAre)
 {
     fileMemory(78, fullLine);
     fileMemory(78, "1,2\r\n\r\n");
-    expectFields(QStringLiteral("PLU=0|0 Z1PLU=False|False")); // an empty line is a record too
+    expectFields(u"PLU=0|0 Z1PLU=False|False"_s); // an empty line is a record too
     EXPECT_EQ(test::failureOf([this] { fileMemory(78, QByteArray(fullLine).replace(",45,12,", ",4x,12,")); }),
               13);
     EXPECT_EQ(m_shop.rows("memoryallocation"), 0);

@@ -17,6 +17,8 @@
 #include <QStatusBar>
 #include <QtTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::sales
 {
 namespace
@@ -25,7 +27,7 @@ namespace
 using test::PseudoModem;
 using test::ShownBox;
 
-const QString errorTitle = QStringLiteral("Communications Error");
+const QString errorTitle = u"Communications Error"_s;
 const char* const done = "Communications Successful....";
 
 /// Two registers that have sold something, and the form.
@@ -65,7 +67,7 @@ protected:
     }
     [[nodiscard]] std::string status() const
     {
-        return form.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage().toStdString();
+        return form.findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage().toStdString();
     }
     /// Whether the sales still stand at the registers, open or consolidated.
     [[nodiscard]] bool registersHoldSales() const
@@ -83,7 +85,7 @@ protected:
     void useModem()
     {
         for (const auto& [key, value] : {std::pair("Connectiontype", "1"), {"ModemDelay", "30"}}) {
-            ProfileFile::write(settingsPath(values), QStringLiteral("SetupOption"), QLatin1String(key),
+            ProfileFile::write(settingsPath(values), u"SetupOption"_s, QLatin1String(key),
                                QLatin1String(value));
         }
         form.setSerialLine(makeSerialLine({far.device()}));
@@ -95,7 +97,7 @@ protected:
     }
 
     test::ProgramFolder folder{2, 2, 20};
-    ApplicationValues values = folder.makeCustomer(QStringLiteral("Corner Shop"));
+    ApplicationValues values = folder.makeCustomer(u"Corner Shop"_s);
     test::RecordingBoxes boxes;
     PseudoModem far;
     FrmsalesComm form{values, boxes};
@@ -152,15 +154,14 @@ TEST_F(FrmsalesCommTest, EndsAtAResultThatIsNotAccepted)
 
 TEST_F(FrmsalesCommTest, StopsAtRegistersThatSendDescriptions)
 {
-    const ShownBox advice{QStringLiteral("Please set\rS-Mode.\r5.System Option.\r"
-                                         "13. Send PLU Description when polled to N"),
+    const ShownBox advice{u"Please set\rS-Mode.\r5.System Option.\r"
+                          u"13. Send PLU Description when polled to N"_s,
                           errorTitle};
     for (const char* stamp : {"42", "43", "41"}) {
         SCOPED_TRACE(stamp);
-        ProfileFile::write(bankPath("1/register.ini"), QStringLiteral("Register"), QStringLiteral("Stamp"),
-                           QLatin1String(stamp));
+        ProfileFile::write(bankPath("1/register.ini"), u"Register"_s, u"Stamp"_s, QLatin1String(stamp));
         collect();
-        const bool goesOn = QLatin1String(stamp) == QLatin1String("41");
+        const bool goesOn = QLatin1String(stamp) == "41"_L1;
         EXPECT_EQ(rows() > 0, goesOn);
         EXPECT_EQ(registersHoldSales(), !goesOn);
         EXPECT_EQ(status(), goesOn ? done : "Parse data....");
@@ -171,21 +172,21 @@ TEST_F(FrmsalesCommTest, StopsAtRegistersThatSendDescriptions)
 /// The third of five imports fails: what came before stays, and the registers keep everything.
 TEST_F(FrmsalesCommTest, ClearsNothingAfterAFailedImport)
 {
-    writeWholeFile(folder.appFile(QStringLiteral("POLL191.txt")), "1,2\r\n3");
+    writeWholeFile(folder.appFile(u"POLL191.txt"_s), "1,2\r\n3");
     collect("Tool=convert\nCommand=S191\nResult=1");
     const auto failure = test::takeFailure();
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), 62);
-    EXPECT_TRUE(failure->text().contains(QStringLiteral("poll191.txt, record 2"))) << failure->what();
+    EXPECT_TRUE(failure->text().contains(u"poll191.txt, record 2"_s)) << failure->what();
     EXPECT_TRUE(registersHoldSales());
     EXPECT_EQ(rows(), 2 + 20 + 1) << "financial lines, PLUs, time periods";
 }
 
 TEST_F(FrmsalesCommTest, EndsWithoutClearingWhenLeftInTheMidst)
 {
-    EXPECT_EQ(form.windowTitle(), QStringLiteral("Collect Sales."));
-    EXPECT_EQ(button("Communicate").text(), QStringLiteral("Collect Sales"));
-    EXPECT_EQ(button("CSCmdBtn1").text(), QStringLiteral("E&xit"));
+    EXPECT_EQ(form.windowTitle(), u"Collect Sales."_s);
+    EXPECT_EQ(button("Communicate").text(), u"Collect Sales"_s);
+    EXPECT_EQ(button("CSCmdBtn1").text(), u"E&xit"_s);
     QTimer::singleShot(0, &form, [this] { QTest::keyClick(&form, Qt::Key_Escape); });
     collect();
     EXPECT_FALSE(form.isVisible());
