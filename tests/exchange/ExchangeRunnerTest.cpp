@@ -42,7 +42,7 @@ public:
     }
     void upload(const std::set<int>& wanted) { run(wanted, &ExchangeRunner::UploadData); }
     void download(const std::set<int>& wanted) { run(wanted, &ExchangeRunner::downloaddata); }
-    /// Numbers of the files that the transfer tool was asked for, behind the opening exchanges.
+    /// Numbers of the files that the transfer tool was asked for after the opening exchanges.
     [[nodiscard]] QList<int> files() const
     {
         QList<int> numbers;
@@ -76,19 +76,23 @@ private:
         boxes.shown.clear();
         ticks.ticked = wanted;
         const link::LinkSettings link = link::readLinkSettings(values);
-        ExchangeRunner runner(values, link, ticks,
-                              {.runAndWait =
-                                   [this](const QString& line) {
-                                       if (line.startsWith("VELMARCOMM"_L1))
-                                           transfers << line;
-                                       return RunAndWait(values, line);
-                                   },
-                               .readStatus = ReadStatusOut,
-                               .showStep = [](const QString&) {},
-                               .showNotice = [this](const QString& text) { notices << text; },
-                               .goOn = [] { return true; },
-                               .boxes = boxes});
+        ExchangeRunner runner(values, link, ticks, outside());
         (runner.*sequence)();
+    }
+    [[nodiscard]] link::RunOutside outside()
+    {
+        return {.runAndWait = [this](const QString& line) { return runTool(line); },
+                .readStatus = ReadStatusOut,
+                .showStep = [](const QString&) {},
+                .showNotice = [this](const QString& text) { notices << text; },
+                .goOn = [] { return true; },
+                .boxes = boxes};
+    }
+    bool runTool(const QString& line)
+    {
+        if (line.startsWith("VELMARCOMM"_L1))
+            transfers << line;
+        return RunAndWait(values, line);
     }
 };
 
@@ -100,8 +104,7 @@ std::set<int> allBoxes()
     return all;
 }
 
-/// Lines of the tool. Those of a run differ in the file's number alone, which stands at each %1 of its
-/// literal.
+/// Lines of the tool: the literal of each run with every %1 replaced by each of its file numbers in turn.
 std::string linesOf(const QString& prefix, std::initializer_list<std::pair<const char*, const char*>> runs)
 {
     QStringList lines;
@@ -112,43 +115,43 @@ std::string linesOf(const QString& prefix, std::initializer_list<std::pair<const
     return lines.join(u'\n').toStdString();
 }
 
-/// Then the rows' own ways: with the customer's copies alone, older ones of what is made anew, and without
-/// records.
-TEST(ExchangeRunner, FetchesEveryFileFromOneRegisterAndSendsItToAll)
-{
-    Exchange shop(2, 3);
-    shop.upload(allBoxes());
-    EXPECT_EQ(shop.transfers.join(u'\n').toStdString(),
-              linesOf(u"VELMARCOMM s9 c1"_s,
-                      {{"  -U 250", "-"},
-                       {" Nmem.DAT -U 52", "-"},
-                       {"  N%1.DAT -U %1", "67"},
-                       {" N%1.DAT -U %1", "65"},
-                       {"  N%1.DAT -U %1", "1 2 3 4 5 6 7 8 9 10 11 12 13 14 36 15 29 23 20 21 22 24 25 26"},
-                       {"  N%1.DAT -u %1", "57 64 63 32 43 46 47 48 49 61 18 37 38 39 40 42 58 59 70 41 28 "
-                                           "81 68 30 17 83"},
-                       {" N%1.DAT -u %1", "44 16 27 33 34 35 45 50 51 69 60 62 85 86 71"}}));
-    EXPECT_TRUE(shop.ticks.ticked.empty());
+const std::string linesUp =
+    linesOf(u"VELMARCOMM s9 c1"_s,
+            {{"  -U 250", "-"},
+             {" Nmem.DAT -U 52", "-"},
+             {"  N%1.DAT -U %1", "67"},
+             {" N%1.DAT -U %1", "65"},
+             {"  N%1.DAT -U %1", "1 2 3 4 5 6 7 8 9 10 11 12 13 14 36 15 29 23 20 21 22 24 25 26"},
+             {"  N%1.DAT -u %1", "57 64 63 32 43 46 47 48 49 61 18 37 38 39 40 42 58 59 70 41 28 "
+                                 "81 68 30 17 83"},
+             {" N%1.DAT -u %1", "44 16 27 33 34 35 45 50 51 69 60 62 85 86 71"}});
 
+const std::string linesDown =
+    linesOf(u"VELMARCOMM s9  c1"_s, {{" Nmem.DAT -U 52", "-"}, {"  -U 250", "-"}}) + '\n' +
+    linesOf(u"VELMARCOMM s9  F1 3T c1"_s,
+            {{"  N%1.DAT -a", "67"},
+             {"  N%1.DAT -d %1", "65"},
+             {"  N%1.DAT -D %1", "1 2"},
+             {"  N%1.DAT -d %1", "15"},
+             {"  N%1.DAT -D %1", "3"},
+             {"  N%1.DAT -d %1", "4 5 6 7 8 9 10 11 12 13 14 36 29 23"},
+             {"  N%1.DAT -D %1", "20 21 22 24 25 26 57 64 63 32 43 46 47 48 49 61 18 37 38 39 "
+                                 "40 42 58 59 70 41 28 81 68 30 17 83 44 16 27 33 34 35 45 50 "
+                                 "51 69 60 62 85 86 71"}});
+
+/// Sends all files. The program's folder holds none, the customer's an older copy of each that has a table.
+void downloadOverOlderCopies(Exchange& shop)
+{
     for (const DownloadRow& row : downloadPlan()) {
         QFile::remove(existingPath(shop.made(row.file)));
         if (records::hasExporter(row.file))
             writeWholeFile(shop.kept(row.file), "older");
     }
     shop.download(allBoxes());
-    EXPECT_EQ(shop.transfers.join(u'\n').toStdString(),
-              linesOf(u"VELMARCOMM s9  c1"_s, {{" Nmem.DAT -U 52", "-"}, {"  -U 250", "-"}}) + '\n' +
-                  linesOf(u"VELMARCOMM s9  F1 3T c1"_s,
-                          {{"  N%1.DAT -a", "67"},
-                           {"  N%1.DAT -d %1", "65"},
-                           {"  N%1.DAT -D %1", "1 2"},
-                           {"  N%1.DAT -d %1", "15"},
-                           {"  N%1.DAT -D %1", "3"},
-                           {"  N%1.DAT -d %1", "4 5 6 7 8 9 10 11 12 13 14 36 29 23"},
-                           {"  N%1.DAT -D %1", "20 21 22 24 25 26 57 64 63 32 43 46 47 48 49 61 18 37 38 39 "
-                                               "40 42 58 59 70 41 28 81 68 30 17 83 44 16 27 33 34 35 45 50 "
-                                               "51 69 60 62 85 86 71"}}));
-    EXPECT_TRUE(shop.ticks.ticked.empty());
+}
+
+void expectCopies(const Exchange& shop)
+{
     std::set<int> comesBack;
     std::set<int> onlyStays;
     for (const DownloadRow& row : downloadPlan()) {
@@ -159,14 +162,33 @@ TEST(ExchangeRunner, FetchesEveryFileFromOneRegisterAndSendsItToAll)
     }
     EXPECT_EQ(comesBack, (std::set<int>{15, 16, 17, 29, 32, 33, 34, 64, 71, 85, 86}));
     EXPECT_EQ(onlyStays, std::set<int>{58});
+}
 
-    QList<int> files = shop.files();
-    for (const int passedOver : {23, 24, 25, 26, 70, 85, 86})
-        files.removeOne(passedOver);
+void emptyTablesThatMayBe(const Exchange& shop)
+{
     store::Database database(shop.values.databasePath);
     for (const char* table : {"LOGOMESSAGE", "VALIDATIONMESSAGE", "CHECKENDORSEMESSAGE", "GUESTCHECKMESSAGE",
                               "MIXNMATCH", "CARDCATEGORY", "HOTLIST"})
         database.execute(u"delete * from "_s + QLatin1String(table));
+}
+
+/// One shop for all three runs: the tools start some two hundred times.
+TEST(ExchangeRunner, FetchesEveryFileFromOneRegisterAndSendsItToAll)
+{
+    Exchange shop(2, 3);
+    shop.upload(allBoxes());
+    EXPECT_EQ(shop.transfers.join(u'\n').toStdString(), linesUp);
+    EXPECT_TRUE(shop.ticks.ticked.empty());
+
+    downloadOverOlderCopies(shop);
+    EXPECT_EQ(shop.transfers.join(u'\n').toStdString(), linesDown);
+    EXPECT_TRUE(shop.ticks.ticked.empty());
+    expectCopies(shop);
+
+    QList<int> files = shop.files();
+    for (const int passedOver : {23, 24, 25, 26, 70, 85, 86})
+        files.removeOne(passedOver);
+    emptyTablesThatMayBe(shop);
     shop.download(allBoxes());
     EXPECT_EQ(shop.files(), files);
     EXPECT_TRUE(shop.ticks.ticked.empty());
@@ -184,7 +206,11 @@ TEST(ExchangeRunner, StopsByTheResultThatStandsInStatusOut)
     EXPECT_EQ(shop.transfers.size(), 2) << "the memory file comes first on the way down";
     EXPECT_TRUE(shop.showsOnly("Communications Error 8"));
     EXPECT_EQ(shop.ticks.ticked, std::set<int>{2});
+}
 
+TEST(ExchangeRunner, GoesByAnOldResultWhenTheToolLeavesNone)
+{
+    Exchange shop(2);
     const QString status = shop.folder.appFile(u"status.out"_s);
     shop.folder.setFaults("[None]\nTool=VELMARCOMM\nStatus=none\n");
     writeWholeFile(status, "0,8\r\n");
@@ -196,7 +222,7 @@ TEST(ExchangeRunner, StopsByTheResultThatStandsInStatusOut)
     EXPECT_EQ(test::failureOf([&] { shop.upload({2}); }), 53);
 }
 
-TEST(ExchangeRunner, SendsNoFileOfAnotherCustomerAndKeepsWhatItSends)
+TEST(ExchangeRunner, SendsNoFileOfAnotherCustomer)
 {
     Exchange shop(2);
     const QByteArray own = readWholeFile(shop.folder.registerFile(1, 43));
@@ -208,14 +234,18 @@ TEST(ExchangeRunner, SendsNoFileOfAnotherCustomerAndKeepsWhatItSends)
     EXPECT_EQ(readWholeFile(shop.folder.registerFile(1, 43)), own);
     EXPECT_EQ(test::failureOf([&] { shop.download({22}); }), 53) << "no bitmap";
     EXPECT_EQ(shop.ticks.ticked, std::set<int>{22});
+}
 
+TEST(ExchangeRunner, KeepsWhatItSendsAlsoWhenARegisterRefusesIt)
+{
+    Exchange shop(2);
     shop.upload({2});
     const QByteArray sent = readWholeFile(shop.kept(1));
     writeWholeFile(shop.kept(1), "older");
     shop.folder.setFaults("[Groups]\nFile=1\nCommand=send\nResult=8\n");
     shop.download({2});
     EXPECT_TRUE(shop.showsOnly("Communications Error 8"));
-    EXPECT_EQ(readWholeFile(shop.kept(1)), sent) << "also when the register refused it";
+    EXPECT_EQ(readWholeFile(shop.kept(1)), sent);
 }
 
 } // namespace

@@ -2,22 +2,12 @@
 // end of a pseudo terminal.
 #include "exchange/FrmComm.h"
 
-#include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
-#include "platform/ProfileFile.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
-#include "tests/support/FormTest.h"
-#include "tests/support/ProgramFolder.h"
-#include "tests/support/PseudoModem.h"
-#include "tests/support/RecordingBoxes.h"
+#include "tests/support/LinkFormTest.h"
 
-#include <gtest/gtest.h>
 #include <QCheckBox>
-#include <QGuiApplication>
-#include <QPushButton>
-#include <QStatusBar>
-#include <QtTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,51 +16,40 @@ namespace norvane::exchange
 namespace
 {
 
-using test::PseudoModem;
-using test::QuickClock;
+/// One press of OK with a modem.
+struct Call {
+    const char* name;
+    const char* faults; ///< of the tool
+    bool connects;
+    bool moves;
+    int failure; ///< that ends the run
+};
 
-class FrmCommTest : public testing::Test
+class FrmCommTest : public test::LinkFormTest<FrmComm>
 {
 protected:
-    void SetUp() override { form.show(); }
-    void TearDown() override { EXPECT_FALSE(test::takeFailure()); }
+    FrmCommTest() : LinkFormTest(1, 0, u"UPLOAD"_s) {}
 
     [[nodiscard]] QCheckBox& box(int index) const
     {
         return *form.findChild<QCheckBox*>(u"check1_%1"_s.arg(index));
     }
-    [[nodiscard]] QPushButton& button(const char* name) const
+    void upload() { press("Communicate"); }
+    void expectCall(const Call& call)
     {
-        return *form.findChild<QPushButton*>(QLatin1String(name));
+        boxes.shown.clear();
+        box(2).setChecked(true);
+        folder.setFaults(call.faults);
+        willConnect(call.connects);
+        upload();
+        expectHungUp();
+        EXPECT_EQ(box(2).isChecked(), !call.moves);
+        const auto failure = test::takeFailure();
+        EXPECT_EQ(failure ? failure->number() : 0, call.failure);
+        EXPECT_EQ(boxes.shown, std::vector<test::ShownBox>(call.connects ? 0 : 1,
+                                                           {u"Modem Failure"_s, u"Communications Error"_s}));
+        EXPECT_EQ(pathExists(folder.appFile(u"status.out"_s)), call.connects);
     }
-    void press(const char* name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
-    [[nodiscard]] QString status() const
-    {
-        return form.findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage();
-    }
-    void upload()
-    {
-        press("Communicate");
-    }
-    /// Puts the modem at the far end of the line and makes it the customer's connection.
-    void useModem()
-    {
-        for (const auto& [key, value] : {std::pair("Connectiontype", "1"), {"ModemDelay", "30"}}) {
-            ProfileFile::write(settingsPath(values), u"SetupOption"_s, QLatin1String(key),
-                               QLatin1String(value));
-        }
-        form.setSerialLine(makeSerialLine({far.device()}));
-        auto quick = std::make_unique<QuickClock>(far);
-        clock = quick.get();
-        form.setClock(std::move(quick));
-    }
-
-    test::ProgramFolder folder;
-    ApplicationValues values = folder.makeCustomer(u"Corner Shop"_s);
-    test::RecordingBoxes boxes;
-    PseudoModem far;
-    QuickClock* clock = nullptr;
-    FrmComm form{u"UPLOAD"_s, values, boxes};
 };
 
 TEST_F(FrmCommTest, ShowsItsBoxesInThreeColumnsUnticked)
@@ -95,14 +74,14 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndGoesByTheFormerResult)
 {
     box(11).click();
     upload();
-    EXPECT_EQ(status(), QString());
+    EXPECT_EQ(status(), "");
     const QString kept = joinPath(values.customerPath, u"43.dat"_s);
     const QByteArray bytes = readWholeFile(kept);
     EXPECT_TRUE(QFile::remove(existingPath(folder.appFile(u"43.dat"_s))));
     folder.removeTool("VELMARCOMM");
     box(11).click();
     upload();
-    EXPECT_EQ(status(), u"The program VELMARCOMM was not found."_s);
+    EXPECT_EQ(status(), "The program VELMARCOMM was not found.");
     EXPECT_EQ(readWholeFile(kept), bytes) << "the only copy stays when nothing came";
     EXPECT_FALSE(box(11).isChecked());
     EXPECT_TRUE(boxes.shown.empty());
@@ -111,12 +90,11 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndGoesByTheFormerResult)
 TEST_F(FrmCommTest, EndsTheFileInWorkWhenLeftInTheMidst)
 {
     box(2).click();
-    QTimer::singleShot(0, &form, [this] { QTest::keyClick(&form, Qt::Key_Escape); });
+    pressEscapeSoon();
     upload();
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(store::Database(values.databasePath).openTable(u"memoryallocation"_s).recordCount(), 1);
     EXPECT_FALSE(pathExists(joinPath(values.customerPath, u"1.dat"_s)));
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(FrmCommTest, DialsExchangesAndHangsUp)
@@ -126,45 +104,20 @@ TEST_F(FrmCommTest, DialsExchangesAndHangsUp)
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(far.received(), QByteArray()) << "no connection type was read yet";
     form.show();
-    box(2).click();
-    const std::deque<PseudoModem::Answer> connects{{"OK"}, {"OK"}, {"CONNECT"}};
-    const QByteArray call = "AT&F\rATZ1\rATD\r+++ATH\r";
-    const struct {
-        const char* name;
-        std::deque<PseudoModem::Answer> answers;
-        QByteArray received;
-        bool moves;
-        int failure; ///< that ends the run
-    } calls[] = {
-        {"no answer", {}, "AT&F\r+++ATH\r", false, 0},
-        {"a call", connects, call, true, 0},
-        {"a failure in the midst", connects, call, false, 13},
-    };
-    QByteArray expected;
-    for (const auto& c : calls) {
-        SCOPED_TRACE(c.name);
-        boxes.shown.clear();
-        box(2).setChecked(true);
-        folder.setFaults(c.failure == 0 ? "" : "[Bad]\nTool=VELMARCOMM\nStatus=garbage\n");
-        far.willAnswer(c.answers);
-        upload();
-        expected += c.received;
-        EXPECT_EQ(far.received(), expected);
-        EXPECT_EQ(box(2).isChecked(), !c.moves);
-        const auto failure = test::takeFailure();
-        EXPECT_EQ(failure ? failure->number() : 0, c.failure);
-        EXPECT_EQ(boxes.shown, std::vector<test::ShownBox>(c.answers.empty() ? 1 : 0,
-                                                           {u"Modem Failure"_s, u"Communications Error"_s}));
-        EXPECT_EQ(pathExists(folder.appFile(u"status.out"_s)), !c.answers.empty());
+    for (const Call& call :
+         {Call{"no answer", "", false, false, 0},
+          {"a call", "", true, true, 0},
+          {"a failure in the midst", "[Bad]\nTool=VELMARCOMM\nStatus=garbage\n", true, false, 13}}) {
+        SCOPED_TRACE(call.name);
+        expectCall(call);
     }
-    press("CSCmdBtn1");
-    EXPECT_EQ(far.received(), expected + "+++ATH\r") << "leaving hangs up in any case";
+    expectExitHangsUp();
 }
 
 TEST_F(FrmCommTest, HangsUpWhenLeftWhileDialling)
 {
     useModem();
-    QString shown;
+    std::string shown;
     clock->onEvents = [&, left = false]() mutable {
         if (!left && clock->now() > 36005) {
             left = true;
@@ -173,12 +126,11 @@ TEST_F(FrmCommTest, HangsUpWhenLeftWhileDialling)
         }
     };
     upload();
-    EXPECT_EQ(shown, u"Resetting Modem .......AT&F"_s);
+    EXPECT_EQ(shown, "Resetting Modem .......AT&F");
     EXPECT_FALSE(form.isVisible());
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_EQ(far.received(), QByteArray("AT&F\r+++ATH\r"));
     EXPECT_FALSE(pathExists(folder.appFile(u"status.out"_s)));
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 } // namespace

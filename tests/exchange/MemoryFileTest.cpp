@@ -27,7 +27,7 @@ protected:
         };
         FileMemory(m_shop.values, m_shop.boxes, m_shop.context().runCommand);
     }
-    /// Compares the row with fields as "name=value", parted by blanks.
+    /// Compares the row with fields as "name=value", separated by blanks.
     void expectFields(const QString& expected) const
     {
         QStringList found;
@@ -41,7 +41,7 @@ protected:
     records::test::Shop m_shop;
 };
 
-TEST_F(MemoryFileTest, StoresEveryColumnOfTheGeneration)
+TEST_F(MemoryFileTest, StoresEveryColumn)
 {
     fileMemory(78, fullLine);
     for (const QString& expected :
@@ -55,6 +55,11 @@ TEST_F(MemoryFileTest, StoresEveryColumnOfTheGeneration)
           u"Z3MIX=True Z4MIX=False CATEGORY=16 HOTLIST=0321"_s})
         expectFields(expected);
     EXPECT_TRUE(m_shop.boxes.shown.empty());
+}
+
+TEST_F(MemoryFileTest, GoesByTheGenerationThatTheFileSizeTells)
+{
+    fileMemory(78, fullLine);
     fileMemory(77, fullLine);
     expectFields(u"Z3MIX=True CATEGORY=null HOTLIST=null"_s);
     fileMemory(0, fullLine);

@@ -35,24 +35,25 @@ TEST(CommandLines, AreTheSettingsWordsToTheBlank)
     }
     const LinkSettings link = settingsFrom("port=3\r\nbaud=3");
     EXPECT_EQ(uploadLine(link, u"  N67.DAT -U 67"_s), u"VELMARCOMM s1 c4   N67.DAT -U 67"_s);
-    EXPECT_EQ(downloadOpeningLine(link, QLatin1String(memorySuffix)), u"VELMARCOMM s1  c4  Nmem.DAT -U 52"_s);
+    EXPECT_EQ(downloadOpeningLine(link, memorySuffix), u"VELMARCOMM s1  c4  Nmem.DAT -U 52"_s);
 }
+
+const struct {
+    const char* keys;
+    bool isModem;
+    QStringList strings; ///< reset, set-up, dial
+    int delay;
+} settings[] = {
+    {"", false, {u"AT&F\r"_s, u"ATZ1\r"_s, u"ATD\r"_s}, 0},
+    {"CONNECTIONTYPE=1\r\nmodemreset=\r\nModemString=ATX3\r\nTelephone=0,0201 55\r\nModemDelay=45 s",
+     true,
+     {u"\r"_s, u"ATX3\r"_s, u"ATD0,0201 55\r"_s},
+     45},
+    {"Connectiontype=7\r\nModemDelay=32767", false, {u"AT&F\r"_s, u"ATZ1\r"_s, u"ATD\r"_s}, 32767}};
 
 TEST(LinkSettings, TakesDefaultsAndKeepsEmptyTexts)
 {
-    const struct {
-        const char* keys;
-        bool isModem;
-        QStringList strings; ///< reset, set-up, dial
-        int delay;
-    } rows[] = {
-        {"", false, {u"AT&F\r"_s, u"ATZ1\r"_s, u"ATD\r"_s}, 0},
-        {"CONNECTIONTYPE=1\r\nmodemreset=\r\nModemString=ATX3\r\nTelephone=0,0201 55\r\nModemDelay=45 s",
-         true,
-         {u"\r"_s, u"ATX3\r"_s, u"ATD0,0201 55\r"_s},
-         45},
-        {"Connectiontype=7\r\nModemDelay=32767", false, {u"AT&F\r"_s, u"ATZ1\r"_s, u"ATD\r"_s}, 32767}};
-    for (const auto& [keys, isModem, strings, delay] : rows) {
+    for (const auto& [keys, isModem, strings, delay] : settings) {
         const LinkSettings link = settingsFrom(keys);
         EXPECT_EQ(link.isModem(), isModem) << keys;
         EXPECT_EQ((QStringList{link.resetString, link.setUpString, link.dialString}), strings) << keys;

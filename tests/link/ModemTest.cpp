@@ -56,24 +56,25 @@ TEST_F(ModemTest, ResetsProgramsDialsAndLeavesThePortToTheTool)
     EXPECT_NEAR(m_clock.now() - start, 1 + 14 + 20 + 2 * 2, 1);
 }
 
+const struct {
+    const char* name;
+    std::deque<PseudoModem::Answer> answers;
+    int result;
+    int commands; ///< how many the modem got
+} answersOfModems[] = {
+    {"numeric codes", {{"0\r"}, {"0\r"}, {"12\r"}}, 0, 3},
+    {"the other connect code", {{"0\r"}, {"0\r"}, {"13\r"}}, 0, 3},
+    {"an echo that holds a zero", {{"AT&F0\r"}, {"ATS0=0\r"}, {"CONNECT"}}, 0, 3},
+    {"silence at the reset", {}, modemFailed, 1},
+    {"OK after 16 seconds", {{"OK\r", 16}}, modemFailed, 1},
+    {"silence at the programming", {{"OK"}}, modemFailed, 2},
+    {"ERROR to the dialling", {{"OK"}, {"OK"}, {"ERROR\r\n"}}, modemFailed, 3},
+    {"connect after the time-out", {{"OK"}, {"OK"}, {"CONNECT", 31}}, modemFailed, 3},
+};
+
 TEST_F(ModemTest, TakesWhatCountsAsAnAnswer)
 {
-    const struct {
-        const char* name;
-        std::deque<PseudoModem::Answer> answers;
-        int result;
-        int commands; ///< how many the modem got
-    } cases[] = {
-        {"numeric codes", {{"0\r"}, {"0\r"}, {"12\r"}}, 0, 3},
-        {"the other connect code", {{"0\r"}, {"0\r"}, {"13\r"}}, 0, 3},
-        {"an echo that holds a zero", {{"AT&F0\r"}, {"ATS0=0\r"}, {"CONNECT"}}, 0, 3},
-        {"silence at the reset", {}, modemFailed, 1},
-        {"OK after 16 seconds", {{"OK\r", 16}}, modemFailed, 1},
-        {"silence at the programming", {{"OK"}}, modemFailed, 2},
-        {"ERROR to the dialling", {{"OK"}, {"OK"}, {"ERROR\r\n"}}, modemFailed, 3},
-        {"connect after the time-out", {{"OK"}, {"OK"}, {"CONNECT", 31}}, modemFailed, 3},
-    };
-    for (const auto& c : cases) {
+    for (const auto& c : answersOfModems) {
         SCOPED_TRACE(c.name);
         const qsizetype before = m_far.received().count('\r');
         EXPECT_EQ(dial(c.answers), c.result);
@@ -85,7 +86,7 @@ TEST_F(ModemTest, TakesWhatCountsAsAnAnswer)
     EXPECT_EQ(dial({{"OK"}, {"OK"}, {"CONNECT", 1}}), modemFailed) << "without a time-out";
 }
 
-/// What comes in within the pause behind an answer belongs to no later command but the dialling.
+/// What comes in during the pause after an answer is dropped, except before the dialling.
 TEST_F(ModemTest, JoinsPiecesAndDropsWhatComesInBeforeTheProgrammingAlone)
 {
     m_far.willSay(36001, "OK");
@@ -108,7 +109,7 @@ TEST_F(ModemTest, DoesNotTimeOutAcrossMidnightButEndsItsPauses)
     EXPECT_NEAR(later.secondsSinceMidnight(), 1.5, 0.3);
 }
 
-TEST_F(ModemTest, PassesOverAPortThatIsMissingOrUnplugged)
+TEST_F(ModemTest, PassesOverAPortThatIsMissing)
 {
     EXPECT_FALSE(m_line->send(u"AT"_s)) << "not open yet";
     const auto missing = makeSerialLine({u"no-such-port"_s});
@@ -116,7 +117,10 @@ TEST_F(ModemTest, PassesOverAPortThatIsMissingOrUnplugged)
     EXPECT_EQ(modem.DialModem(m_link), modemFailed);
     modem.Dropphoneline();
     EXPECT_FALSE(missing->isOpen());
+}
 
+TEST(SerialLine, PassesOverAPortThatIsUnpluggedWhileOpen)
+{
     auto far = std::make_unique<PseudoModem>();
     const auto line = makeSerialLine({far->device()});
     ASSERT_TRUE(line->open());

@@ -2,20 +2,10 @@
 // end of a pseudo terminal.
 #include "sales/FrmsalesComm.h"
 
-#include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
-#include "platform/ProfileFile.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
-#include "tests/support/FormTest.h"
-#include "tests/support/ProgramFolder.h"
-#include "tests/support/PseudoModem.h"
-#include "tests/support/RecordingBoxes.h"
-
-#include <QGuiApplication>
-#include <QPushButton>
-#include <QStatusBar>
-#include <QtTest>
+#include "tests/support/LinkFormTest.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,36 +14,43 @@ namespace norvane::sales
 namespace
 {
 
-using test::PseudoModem;
 using test::ShownBox;
 
 const QString errorTitle = u"Communications Error"_s;
 const char* const done = "Communications Successful....";
 
+constexpr std::pair<const char*, const char*> reports[] = {
+    {"190.txt", "10,100.05\r\n0,0\r\n1,2.5\r\n"},
+    {"191.txt", "3,9.99\r\n"},
+    {"194.txt", "1001,0,0,2,5.4,1,3.1\r\n"},
+    {"218.txt", "7\r\n"},
+};
+
+/// Where a run ends, and how.
+struct Exit {
+    const char* faults;
+    const char* text; ///< of the box, nullptr for none
+    const char* status;
+    bool imported = false;
+    bool connects = true; ///< the modem, if there is one
+};
+
 /// Two registers that have sold something, and the form.
-class FrmsalesCommTest : public testing::Test
+class FrmsalesCommTest : public test::LinkFormTest<FrmsalesComm>
 {
 protected:
-    FrmsalesCommTest()
+    FrmsalesCommTest() : LinkFormTest(2, 20)
     {
-        const std::pair<const char*, QByteArray> reports[] = {
-            {"190.txt", "10,100.05\r\n0,0\r\n1,2.5\r\n"},
-            {"191.txt", "3,9.99\r\n"},
-            {"192.txt", QByteArray("0,0\r\n").repeated(118) + "4,8.4\r\n"},
-            {"194.txt", "1001,0,0,2,5.4,1,3.1\r\n"},
-            {"218.txt", "7\r\n"},
-        };
-        for (const char* totals : {"1/totals", "2/totals"}) {
+        for (const char* totals : {"1/totals/", "2/totals/"}) {
             QDir().mkpath(bankPath(totals));
             for (const auto& [name, text] : reports)
-                writeWholeFile(joinPath(bankPath(totals), QLatin1String(name)), text);
+                writeWholeFile(bankPath(totals) + QLatin1String(name), text);
+            writeWholeFile(bankPath(totals) + "192.txt"_L1,
+                           QByteArray("0,0\r\n").repeated(118) + "4,8.4\r\n");
         }
-        form.show();
         EXPECT_FALSE(form.isModal()) << "the menus stay usable";
     }
-    void TearDown() override { EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr); }
 
-    void press(const char* name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
     /// @p faults of the tools, as a section of a faults.ini.
     void collect(const QByteArray& faults = {})
     {
@@ -61,13 +58,12 @@ protected:
         boxes.shown.clear();
         press("Communicate");
     }
-    [[nodiscard]] QPushButton& button(const char* name) const
+    void expectEnd(const Exit& end)
     {
-        return *form.findChild<QPushButton*>(QLatin1String(name));
-    }
-    [[nodiscard]] std::string status() const
-    {
-        return form.findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage().toStdString();
+        EXPECT_EQ(status(), end.status);
+        ASSERT_EQ(boxes.shown.size(), end.text == nullptr ? 0U : 1U);
+        if (end.text != nullptr)
+            EXPECT_EQ(boxes.shown[0], (ShownBox{QLatin1String(end.text), errorTitle}));
     }
     /// Whether the sales still stand at the registers, open or consolidated.
     [[nodiscard]] bool registersHoldSales() const
@@ -82,67 +78,47 @@ protected:
             count += database.openTable(QLatin1String(table)).recordCount();
         return count;
     }
-    void useModem()
-    {
-        for (const auto& [key, value] : {std::pair("Connectiontype", "1"), {"ModemDelay", "30"}}) {
-            ProfileFile::write(settingsPath(values), u"SetupOption"_s, QLatin1String(key),
-                               QLatin1String(value));
-        }
-        form.setSerialLine(makeSerialLine({far.device()}));
-        form.setClock(std::make_unique<test::QuickClock>(far));
-    }
     [[nodiscard]] QString bankPath(const char* name) const
     {
         return joinPath(folder.bankPath(), QLatin1String(name));
     }
+};
 
-    test::ProgramFolder folder{2, 2, 20};
-    ApplicationValues values = folder.makeCustomer(u"Corner Shop"_s);
-    test::RecordingBoxes boxes;
-    PseudoModem far;
-    FrmsalesComm form{values, boxes};
+constexpr const char* unknown = "Error 0 Sorry Error Unknown";
+constexpr const char* memory = "Get Memory";
+constexpr const char* consolidation = "Consolidate Reports";
+constexpr const char* collection = "Collect Report Files";
+constexpr Exit exits[] = {
+    {"Command=fetch\nFile=52\nResult=1", "1. Bad Agrument Entry", memory},
+    {"Command=fetch\nFile=52\nResult=6", "6. File Write Error", memory},
+    {"Command=open\nResult=7", "7. Unknown Command", memory},
+    {"Command=open\nResult=8", "8. Time Out", memory},
+    {"Command=open\nResult=99", "Aborted by User", memory},
+    {"Command=open\nResult=100", "Modem Failure", memory},
+    {"Command=consolidate\nResult=12", "Machine Busy", consolidation},
+    {"Command=consolidate\nResult=13", "Pre poll Error", consolidation},
+    {"Command=consolidate\nResult=14", "Pre poll Error", consolidation},
+    {"Command=consolidate\nResult=-12", unknown, consolidation},
+    {"Command=consolidate\nRegister=2\nResult=8", "8. Time Out", consolidation},
+    {"Command=collect\nResult=2", "2. File Open Error", collection},
+    {"Command=collect\nResult=3", "3. File Information Is Wrong", collection},
+    {"Command=collect\nResult=4", "4. File Size Mismatch", collection},
+    {"Command=collect\nResult=5", "5. Argument Conversion Error", collection},
+    {"Command=collect\nResult=9", "9. Packet Size Error", collection},
+    {"Command=collect\nResult=10", "10. Packet Number Mismatch", collection},
+    {"Command=collect\nResult=11", "11. Bad CRC", collection},
+    {"Command=collect\nResult=-13", unknown, collection},
+    {"Command=collect\nResult=77", unknown, collection},
+    {"Command=clear\nResult=15", "Report Clear Error", "Clear Data at ECR", true},
 };
 
 TEST_F(FrmsalesCommTest, EndsAtAResultThatIsNotAccepted)
 {
-    const char* const unknown = "Error 0 Sorry Error Unknown";
-    const char* const memory = "Get Memory";
-    const char* const consolidation = "Consolidate Reports";
-    const char* const collection = "Collect Report Files";
-    const struct {
-        const char* faults;
-        const char* text; ///< of the box
-        const char* status;
-        bool imported = false;
-    } exits[] = {
-        {"Command=fetch\nFile=52\nResult=1", "1. Bad Agrument Entry", memory},
-        {"Command=fetch\nFile=52\nResult=6", "6. File Write Error", memory},
-        {"Command=open\nResult=7", "7. Unknown Command", memory},
-        {"Command=open\nResult=8", "8. Time Out", memory},
-        {"Command=open\nResult=99", "Aborted by User", memory},
-        {"Command=open\nResult=100", "Modem Failure", memory},
-        {"Command=consolidate\nResult=12", "Machine Busy", consolidation},
-        {"Command=consolidate\nResult=13", "Pre poll Error", consolidation},
-        {"Command=consolidate\nResult=14", "Pre poll Error", consolidation},
-        {"Command=consolidate\nResult=-12", unknown, consolidation},
-        {"Command=consolidate\nRegister=2\nResult=8", "8. Time Out", consolidation},
-        {"Command=collect\nResult=2", "2. File Open Error", collection},
-        {"Command=collect\nResult=3", "3. File Information Is Wrong", collection},
-        {"Command=collect\nResult=4", "4. File Size Mismatch", collection},
-        {"Command=collect\nResult=5", "5. Argument Conversion Error", collection},
-        {"Command=collect\nResult=9", "9. Packet Size Error", collection},
-        {"Command=collect\nResult=10", "10. Packet Number Mismatch", collection},
-        {"Command=collect\nResult=11", "11. Bad CRC", collection},
-        {"Command=collect\nResult=-13", unknown, collection},
-        {"Command=collect\nResult=77", unknown, collection},
-        {"Command=clear\nResult=15", "Report Clear Error", "Clear Data at ECR", true},
-    };
-    for (const auto& c : exits) {
-        SCOPED_TRACE(c.faults);
-        collect(QByteArray("Tool=VELMARCOMM\n") + c.faults);
-        EXPECT_EQ(boxes.shown, (std::vector{ShownBox{QLatin1String(c.text), errorTitle}}));
-        EXPECT_EQ(status(), c.status);
-        EXPECT_EQ(rows() > 0, c.imported);
+    for (const Exit& end : exits) {
+        SCOPED_TRACE(end.faults);
+        collect(QByteArray("Tool=VELMARCOMM\n") + end.faults);
+        expectEnd(exit);
+        EXPECT_EQ(rows() > 0, end.imported);
         EXPECT_TRUE(registersHoldSales());
         EXPECT_TRUE(form.isVisible());
     }
@@ -187,7 +163,7 @@ TEST_F(FrmsalesCommTest, EndsWithoutClearingWhenLeftInTheMidst)
     EXPECT_EQ(form.windowTitle(), u"Collect Sales."_s);
     EXPECT_EQ(button("Communicate").text(), u"Collect Sales"_s);
     EXPECT_EQ(button("CSCmdBtn1").text(), u"E&xit"_s);
-    QTimer::singleShot(0, &form, [this] { QTest::keyClick(&form, Qt::Key_Escape); });
+    pressEscapeSoon();
     collect();
     EXPECT_FALSE(form.isVisible());
     EXPECT_TRUE(boxes.shown.empty());
@@ -206,36 +182,20 @@ TEST_F(FrmsalesCommTest, NamesAToolThatIsMissing)
 TEST_F(FrmsalesCommTest, DialsCollectsAndHangsUp)
 {
     useModem();
-    const std::deque<PseudoModem::Answer> connects{{"OK"}, {"OK"}, {"CONNECT"}};
-    const QByteArray call = "AT&F\rATZ1\rATD\r+++ATH\r";
-    const struct {
-        std::deque<PseudoModem::Answer> answers;
-        const char* faults;
-        QByteArray received;
-        const char* text; ///< of the box
-        const char* status;
-    } calls[] = {
-        {{}, "", "AT&F\r+++ATH\r", "Error 100 Sorry Error Unknown", "Resetting Modem .......AT&F"},
-        {connects, "Command=collect\nResult=8\n", call, "8. Time Out", "Collect Report Files"},
-        {connects, "", call, nullptr, done},
+    boxes.whileOpen = [this](const ShownBox&) {
+        expectHungUp();
     };
-    QByteArray expected;
-    for (const auto& c : calls) {
-        SCOPED_TRACE(c.status);
-        expected += c.received;
-        boxes.whileOpen = [&](const ShownBox&) {
-            EXPECT_EQ(far.received(), expected) << "the line is free while the box stands";
-        };
-        far.willAnswer(c.answers);
-        collect(c.faults);
-        EXPECT_EQ(far.received(), expected);
-        EXPECT_EQ(status(), c.status);
-        ASSERT_EQ(boxes.shown.size(), c.text == nullptr ? 0U : 1U);
-        EXPECT_TRUE(c.text == nullptr || boxes.shown[0].text == QLatin1String(c.text));
+    for (const Exit& end :
+         {Exit{"", "Error 100 Sorry Error Unknown", "Resetting Modem .......AT&F", false, false},
+          {"Command=collect\nResult=8\n", "8. Time Out", "Collect Report Files"},
+          {"", nullptr, done, true}}) {
+        SCOPED_TRACE(end.status);
+        willConnect(end.connects);
+        collect(end.faults);
+        expectHungUp();
+        expectEnd(exit);
     }
-    press("CSCmdBtn1");
-    EXPECT_EQ(far.received(), expected + "+++ATH\r") << "leaving hangs up in any case";
-    EXPECT_FALSE(form.isVisible());
+    expectExitHangsUp();
 }
 
 } // namespace

@@ -1,0 +1,94 @@
+// What the tests of the forms that speak with registers share: a customer, the real tools with a bank of
+// registers, and a modem at the far end of a pseudo terminal.
+#pragma once
+
+#include "base/CustomerSettings.h"
+#include "platform/ProfileFile.h"
+#include "tests/support/FormTest.h"
+#include "tests/support/ProgramFolder.h"
+#include "tests/support/PseudoModem.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <gtest/gtest.h>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QtTest>
+
+namespace norvane::test
+{
+
+using namespace Qt::Literals::StringLiterals;
+
+/// Makes and shows a @p Form. No test may leave a failure that it has not taken, nor the wait pointer.
+template <typename Form>
+class LinkFormTest : public testing::Test
+{
+protected:
+    /// @param registers, plus as ProgramFolder takes them; @param first arguments of the form ahead of values
+    /// and boxes.
+    template <typename... First>
+    explicit LinkFormTest(int registers, int plus, const First&... first)
+        : folder(2, registers, plus), form(first..., values, boxes)
+    {
+        form.show();
+    }
+    void TearDown() override
+    {
+        EXPECT_FALSE(takeFailure());
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    }
+
+    [[nodiscard]] QPushButton& button(const char* name) const
+    {
+        return *form.template findChild<QPushButton*>(QLatin1String(name));
+    }
+    void press(const char* name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
+    /// Escape, as soon as the form handles events.
+    void pressEscapeSoon()
+    {
+        QTimer::singleShot(0, &form, [this] { QTest::keyClick(&form, Qt::Key_Escape); });
+    }
+    [[nodiscard]] std::string status() const
+    {
+        return form.template findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage().toStdString();
+    }
+
+    /// Puts the modem at the far end of the line and makes it the customer's connection.
+    void useModem()
+    {
+        for (const auto& [key, value] : {std::pair("Connectiontype", "1"), {"ModemDelay", "30"}})
+            ProfileFile::write(settingsPath(values), u"SetupOption"_s, QLatin1String(key),
+                               QLatin1String(value));
+        form.setSerialLine(makeSerialLine({far.device()}));
+        auto quick = std::make_unique<QuickClock>(far);
+        clock = quick.get();
+        form.setClock(std::move(quick));
+    }
+    /// Lets the modem connect the next call or stay silent.
+    void willConnect(bool connects)
+    {
+        far.willAnswer(connects ? std::deque<PseudoModem::Answer>{{"OK"}, {"OK"}, {"CONNECT"}}
+                                : std::deque<PseudoModem::Answer>{});
+        expectedCommands += connects ? "AT&F\rATZ1\rATD\r+++ATH\r" : "AT&F\r+++ATH\r";
+    }
+    /// The calls were made as announced, and the line is free again.
+    void expectHungUp() { EXPECT_EQ(far.received(), expectedCommands); }
+    void expectExitHangsUp()
+    {
+        press("CSCmdBtn1");
+        expectedCommands += "+++ATH\r";
+        expectHungUp();
+        EXPECT_FALSE(form.isVisible());
+    }
+
+    ProgramFolder folder;
+    ApplicationValues values = folder.makeCustomer(u"Corner Shop"_s);
+    RecordingBoxes boxes;
+    PseudoModem far;
+    QuickClock* clock = nullptr;
+    QByteArray expectedCommands;
+    Form form;
+};
+
+} // namespace norvane::test
