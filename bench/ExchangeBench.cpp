@@ -1,5 +1,5 @@
-// Select All up and Select All down on a full register, with the real tools: what of the time is the
-// program's own, and which register files it goes to.
+// Select All up and Select All down on a full register, with the real tools: how much of the time is the
+// program's own, and which register files take it.
 #include "base/SharedRoutines.h"
 #include "bench/Ratio.h"
 #include "exchange/ExchangeRunner.h"
@@ -29,7 +29,7 @@ using Seconds = std::chrono::duration<double>;
 constexpr int dorvik = 3;
 constexpr int pluCount = 10000;
 
-/// Splits the time of a run between the tools and the steps of the program's own.
+/// Measures the tools and the program's own steps apart.
 class Meter
 {
 public:

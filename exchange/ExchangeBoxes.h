@@ -9,7 +9,7 @@ namespace norvane::exchange
 {
 
 inline constexpr int boxCount = 37;
-/// Boxes that the sequences themselves look at.
+/// Boxes with rules of their own.
 inline constexpr int pluBox = 0;
 inline constexpr int serialPortBox = 23;
 inline constexpr int firstSmartCardBox = 34;
@@ -24,13 +24,13 @@ inline constexpr int boxTicked = 1;
 /// A caption as the user reads it.
 [[nodiscard]] QString boxName(int box);
 
-/// Whether the note about powering off the registers comes before a download of the serial port devices. The
-/// value of its box is held against -1, true as a number, which a ticked box (1) never is.
+/// Whether the note about powering off the registers is shown before a download of the serial port devices.
+/// Only a box value of -1 (true as a number) shows it. A ticked box has the value 1, so it never appears.
 [[nodiscard]] bool serialPortNoteDue(int boxValue, const QString& exchangeMode);
 /// The note's text: three lines, each ended by a carriage return.
 [[nodiscard]] QString serialPortNote();
 
-/// The ticks as a sequence sees and changes them.
+/// Access of a sequence to the ticks.
 class TickBoxes
 {
 public:

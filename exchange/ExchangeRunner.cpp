@@ -121,14 +121,13 @@ bool ExchangeRunner::makeFile(int file)
     return records::exportRegisterFile(file, m_procedures) != records::Exported::Nothing;
 }
 
-/// Without a table the customer's kept copy is sent, never a file that happens to lie in the program's folder
-/// and may be another customer's. @return whether there is a file to send.
+/// Without a table the customer's kept copy is sent, never a file found in the program's folder, which may be
+/// another customer's. @return whether there is a file to send.
 bool ExchangeRunner::takeKeptFile(const DownloadRow& row)
 {
     const QString name = dataFile(row.file);
-    if (!pathExists(joinPath(m_values.customerPath, name))) {
+    if (!pathExists(joinPath(m_values.customerPath, name)))
         m_outside.showNotice(u"The customer's folder holds no %1. Upload it from the ECR first."_s.arg(name));
-    }
     MoveDataFile(m_values.customerPath, m_values.appPath, name);
     return row.copy != Copy::FromCustomerUnlessEmpty || lengthOf(name) > 0;
 }

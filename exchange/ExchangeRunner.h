@@ -15,8 +15,8 @@ namespace norvane::exchange
 {
 
 /// One run over the ticked boxes. The values, settings and ticks handed in must outlive it. A box is unticked
-/// when all its files have moved, so that what stays ticked after a failure is what is still to do. Nothing
-/// done is undone.
+/// when all its files have moved, so that after a failure the ticks show what is still to do. Nothing is
+/// undone.
 class ExchangeRunner
 {
 public:

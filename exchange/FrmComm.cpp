@@ -78,10 +78,9 @@ void FrmComm::exchange()
     noteSerialPort();
     const link::LinkSettings link = link::readLinkSettings(m_values);
     const int result = connectLink(link);
-    if (exitPressed()) {
-        // Exit has hung up; show nothing.
+    // Exit has hung up; show nothing.
+    if (exitPressed())
         return;
-    }
     if (result == link::modemFailed) {
         disconnectLink();
         m_boxes.message(u"Modem Failure"_s, u"Communications Error"_s);

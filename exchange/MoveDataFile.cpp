@@ -18,9 +18,8 @@ void removeEverySpelling(const QString& path)
 {
     while (pathExists(path)) {
         const QString found = existingPath(path);
-        if (!QFile::remove(found)) {
+        if (!QFile::remove(found))
             throw RuntimeFailure(Failure::PathOrFileAccess, u"The file %1 cannot be deleted."_s.arg(found));
-        }
     }
 }
 

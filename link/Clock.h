@@ -1,4 +1,4 @@
-// Time as the modem's waits know it; handed in, so that a test need not sit out the real seconds.
+// The modem's waits read this clock. It is handed in, so that a test need not wait real seconds.
 #pragma once
 
 namespace norvane::link

@@ -1,5 +1,4 @@
-// The command lines of the transfer tool, to the blank: the tool takes its words by place, and registers have
-// been programmed through exactly these lines.
+// The command lines of the transfer tool. Every blank counts: the tool finds its words by position.
 #pragma once
 
 #include "link/LinkSettings.h"
@@ -12,20 +11,20 @@ namespace norvane::link
 /// Speed word of a program exchange by list index, its blank included: "s2 ", "s4 ", "s9 ", "s1 ".
 [[nodiscard]] QString speedWord(int baudIndex);
 /// Bare rate of a sales collection and of the serial line by list index: "1200", "2400", "9600", "19200".
-/// The first two do not agree with the set-up list; they are what the registers' modems are set to.
+/// The first two differ from the set-up list; the registers' modems are set to these.
 [[nodiscard]] QString bareRate(int baudIndex);
-/// Port word by list index; the word of port 1 alone has no blank behind it.
+/// Port word by list index; only the word of port 1 has no blank at its end.
 [[nodiscard]] QString portWord(int portIndex);
 
 /// Fetches from the one register at the end of the line.
 [[nodiscard]] QString uploadLine(const LinkSettings& link, const QString& suffix);
-/// Opening exchange ahead of a download, with the one register at the end of the line.
+/// Opening exchange before a download, with the one register at the end of the line.
 [[nodiscard]] QString downloadOpeningLine(const LinkSettings& link, const QString& suffix);
 /// Sends to registers 1 to n in one run of the tool.
 [[nodiscard]] QString downloadLine(const LinkSettings& link, const QString& suffix);
 
-/// Opening exchange ahead of a sales collection, with one register. The lines of a collection carry no port:
-/// the tool takes the one that it is set to.
+/// Opening exchange before a sales collection, with one register. The lines of a collection name no port:
+/// the tool uses the one that it is set to.
 [[nodiscard]] QString salesOpeningLine(const LinkSettings& link, const QString& suffix);
 /// A step of a sales collection at registers 1 to n in one run of the tool.
 [[nodiscard]] QString salesLine(const LinkSettings& link, const QString& suffix);

@@ -1,4 +1,4 @@
-// The run, the leaving and the status bar of the forms that speak with the registers; see LinkForm.h.
+// See LinkForm.h.
 #include "link/LinkForm.h"
 
 #include "base/SharedRoutines.h"
@@ -64,8 +64,7 @@ void LinkForm::layOut(QLayout* content, const QList<QPushButton*>& others)
     inner->addLayout(content);
     inner->addSpacing(ui::spacing::groupGap);
     inner->addLayout(buttonRow(others));
-    constexpr int margin = ui::spacing::formMargin;
-    inner->setContentsMargins(margin, margin, margin, margin);
+    inner->setContentsMargins(QMargins() + ui::spacing::formMargin);
 
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);

@@ -48,10 +48,10 @@ protected:
              QWidget* parent);
     ~LinkForm() override;
 
-    /// A button of the form, still to be placed.
+    /// Makes a button; layOut() places it.
     [[nodiscard]] QPushButton* addButton(const char* name, const char* caption);
-    /// Puts @p content over a row of buttons, @p others ahead of Communicate and Exit, and the status bar
-    /// below. The size is fixed by that.
+    /// Puts @p content above a row of buttons, @p others before Communicate and Exit, and the status bar
+    /// below. The form gets a fixed size.
     void layOut(QLayout* content, const QList<QPushButton*>& others = {});
 
     /// One press of Communicate.
@@ -67,7 +67,7 @@ protected:
     void disconnectLink();
     [[nodiscard]] bool exitPressed() const { return m_exitPressed; }
 
-    /// This form as the outside of a run of the tools; the form must outlive it.
+    /// The outside of a run that shows its steps in this form; the form must outlive it.
     [[nodiscard]] RunOutside outside();
 
     const ApplicationValues& m_values;

@@ -1,4 +1,4 @@
-// The keys, defaults and treatments of the link values as one table.
+// The table of the link values: key, default and conversion.
 #include "link/LinkSettings.h"
 
 #include "base/CustomerSettings.h"
@@ -23,9 +23,8 @@ int smallNumber(const QString& text)
 {
     using Small = std::numeric_limits<std::int16_t>;
     const int number = roundHalfEven(leadingNumber(text));
-    if (number < Small::min() || number > Small::max()) {
+    if (number < Small::min() || number > Small::max())
         throw RuntimeFailure(Failure::Overflow, u"ModemDelay in setup.ini is out of range: %1"_s.arg(text));
-    }
     return number;
 }
 

@@ -1,5 +1,4 @@
-// How the registers are reached: the link values of the customer's setup.ini, as the exchange dialogs take
-// them.
+// How the registers are reached: the link values of the customer's setup.ini.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -9,7 +8,7 @@
 namespace norvane::link
 {
 
-/// The link values. Read anew at each press of OK, so that a change in the set-up dialog counts at once.
+/// The link values. Each press of OK reads them again, so that a change in the set-up dialog counts at once.
 struct LinkSettings {
     QString connectionType; ///< "DIRECT" or "MODEM"; empty before the first reading
     QString resetString;    ///< ends in a carriage return, as the two below
@@ -23,8 +22,7 @@ struct LinkSettings {
     [[nodiscard]] bool isModem() const { return connectionType == u"MODEM"; }
 };
 
-/// Reads the link values. Numbers are taken by the leading number of their text, so that blanks and no key at
-/// all count as 0.
+/// Reads the link values. A number is the leading number of its text; blanks and a missing key count as 0.
 /// @throws RuntimeFailure 6 when a number does not fit (the dial time-out holds at most 32,767 seconds).
 [[nodiscard]] LinkSettings readLinkSettings(const ApplicationValues& values);
 

@@ -18,9 +18,9 @@ constexpr double settleSeconds = 2;
 constexpr double secondsOfDay = 86400;
 constexpr int portCount = 4;
 
-/// "0" is the numeric form of "OK". An echoed command that holds a zero passes as the answer too.
+/// "0" is the numeric form of "OK". An echoed command with a zero in it counts as the answer too.
 const QStringList readyAnswers{u"0"_s, u"OK"_s};
-/// Numeric codes of modems that answer in digits, and the word of those that do not.
+/// The codes of modems that answer in digits, and the word of the others.
 const QStringList connectAnswers{u"13"_s, u"12"_s, u"CONNECT"_s};
 
 bool holdsAny(const QString& received, const QStringList& answers)
@@ -93,8 +93,7 @@ bool Modem::waitForAnswer(const QStringList& answers, double seconds)
         m_clock.yieldEvents();
         if (!m_line.isOpen())
             return false;
-        if (m_line.inputCount() != 0)
-            received += m_line.takeInput();
+        received += m_line.inputCount() == 0 ? QString() : m_line.takeInput();
         if (holdsAny(received, answers))
             return true;
         if (m_clock.secondsSinceMidnight() - start > seconds)

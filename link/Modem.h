@@ -1,5 +1,5 @@
-// Dialling the registers' modem before an exchange and hanging up after it. In between the port is closed so
-// that the transfer tool can use it, while the call stays up.
+// Dials the registers' modem before an exchange and hangs up after it. In between the port is closed, so that
+// the transfer tool can use it; the call stays up.
 #pragma once
 
 #include "link/Clock.h"

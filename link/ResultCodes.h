@@ -8,11 +8,11 @@ namespace norvane::link
 
 /// Result that the dialling of the modem gives on any failure.
 inline constexpr int modemFailed = 100;
-/// Result that a sales collection gives itself when the registers send PLU descriptions with their poll.
+/// Result of a sales collection whose registers send PLU descriptions with their poll.
 inline constexpr int descriptionsPolled = 101;
 
-/// The text for @p status. A status without a text of its own shows @p dialResult, the number that dialling
-/// gave (0 on a direct link), and not itself.
+/// The text for @p status. For a status without a text it names @p dialResult instead, the number that
+/// dialling gave (0 on a direct link).
 [[nodiscard]] QString resultText(int status, int dialResult);
 
 /// A value of status.out as a number; empty text counts as 0.

@@ -1,4 +1,4 @@
-// What a run of the tools needs of the world outside it.
+// What a run of the tools needs from outside.
 #pragma once
 
 #include "platform/Boxes.h"
@@ -10,7 +10,7 @@
 namespace norvane::link
 {
 
-/// The world outside a sequence of the transfer tool and the converter; LinkForm hands out the one of a form.
+/// What a run of the transfer tool and the converter calls; LinkForm::outside() gives that of a form.
 struct RunOutside {
     /// Runs a tool's command line and waits for its end. @return false when the tool could not be started.
     std::function<bool(const QString& commandLine)> runAndWait;
@@ -18,9 +18,9 @@ struct RunOutside {
     std::function<QString()> readStatus;
     /// Names the step in work.
     std::function<void(const QString& text)> showStep;
-    /// Tells what the user should know but what does not stop the run; stands until the run ends.
+    /// Shows a notice that does not stop the run; it stays until the run ends.
     std::function<void(const QString& text)> showNotice;
-    /// Asked before each step that may still be left out: whether the user is still there to want it.
+    /// Asked before each step that may be left out. @return false when the user has left.
     std::function<bool()> goOn;
     Boxes& boxes;
 };

@@ -15,7 +15,7 @@ double SystemClock::secondsSinceMidnight()
 
 void SystemClock::pause()
 {
-    // Short against the shortest answer of a modem, long against a busy loop.
+    // Much shorter than any answer of a modem, and long enough to keep the processor idle.
     constexpr unsigned long milliseconds = 10;
     QThread::msleep(milliseconds);
 }

@@ -38,7 +38,7 @@ struct CollectionRun::ToolStep {
     const char* statusText; ///< nullptr keeps the text of the step before
     QString (*line)(const link::LinkSettings& link, const QString& suffix);
     QLatin1StringView suffix;
-    bool passesWaiting; ///< whether sales that wait from an earlier run are as good as success
+    bool passesWaiting; ///< whether sales waiting from an earlier run count as success
 };
 
 // clang-format off
@@ -65,7 +65,7 @@ void CollectionRun::collect()
     m_link = link::readLinkSettings(m_values);
     m_left = false;
     m_dialResult = m_outside.connectLink(m_link);
-    // Leaving while the modem dialled has hung up already.
+    // A user who left while the modem dialled has hung up already.
     if (!m_outside.run.goOn())
         return;
     if (const auto failed = resultOfCall())
@@ -128,7 +128,7 @@ std::optional<int> CollectionRun::runStep(const ToolStep& step)
     return succeeded ? std::nullopt : std::optional(result);
 }
 
-/// The stamp of the PLU report tells. Such records hold a text that no layout has a place for.
+/// Told by the stamp of the PLU report. No layout has a column for the descriptions in such records.
 bool CollectionRun::sendsDescriptions() const
 {
     const QString stamp = ReadPoll194Stamp(m_values).trimmed();

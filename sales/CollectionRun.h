@@ -1,4 +1,4 @@
-// The collection of a day's sales from all registers, in the order that protects them.
+// The collection of a day's sales from all registers, in an order that loses none.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -13,7 +13,7 @@
 namespace norvane::sales
 {
 
-/// The world outside a collection.
+/// What a collection calls.
 struct CollectionOutside {
     /// Brings the link up. @return what the dialling gave, 0 on a direct link.
     std::function<int(const link::LinkSettings& link)> connectLink;
@@ -22,9 +22,9 @@ struct CollectionOutside {
     link::RunOutside run;
 };
 
-/// One run: consolidate at the registers, collect, import, clear at the registers. The registers forget their
-/// sales only after all five imports ended, so a run that fails before loses nothing; one that fails between
-/// import and clearing leaves the sales in the tables and at the registers.
+/// One run: consolidate at the registers, collect, import, clear at the registers. The registers are cleared
+/// only after all five imports, so a run that fails before loses nothing. A run that fails between import and
+/// clearing leaves the sales both in the tables and at the registers.
 class CollectionRun
 {
 public:

@@ -12,7 +12,7 @@ namespace norvane::sales
 /// @throws RuntimeFailure 75 when the file cannot be opened.
 QString ReadPoll194Stamp(const ApplicationValues& values);
 
-/// For each byte the decimal texts of its high and its low half.
+/// For each byte its high and its low half as decimal numbers: 0x1F gives "115".
 [[nodiscard]] QString NibbleDigits(const QByteArray& bytes);
 
 } // namespace norvane::sales
