@@ -21,7 +21,8 @@ constexpr char utf8Mark[] = "\xEF\xBB\xBF";
 class ProfileLines
 {
 public:
-    explicit ProfileLines(QByteArray bytes = {})
+    ProfileLines() = default;
+    explicit ProfileLines(QByteArray bytes)
     {
         m_isUtf8 = bytes.startsWith(utf8Mark);
         if (m_isUtf8)
@@ -112,11 +113,6 @@ QString withoutTrailingBlanks(QString text)
     return text;
 }
 
-QString lookUpKey(const QString& section, const QString& key)
-{
-    return section.trimmed().toLower() + u'\n' + key.trimmed().toLower();
-}
-
 bool sameName(const QString& left, const QString& right)
 {
     return left.compare(right.trimmed(), Qt::CaseInsensitive) == 0;
@@ -149,34 +145,53 @@ void setKey(ProfileLines& lines, const QString& section, const QString& key, con
     lines.insert(lastUsed + 1, line);
 }
 
+/// A file that cannot be read has no lines.
+ProfileLines readLines(const QString& path)
+{
+    try {
+        return ProfileLines(readWholeFile(path));
+    } catch (const RuntimeFailure&) {
+        return {};
+    }
+}
+
 } // namespace
+
+std::size_t ProfileFile::CaseBlind::operator()(QStringView name) const
+{
+    std::size_t hash = 0;
+    for (const QChar character : name)
+        hash = hash * 31 + character.toCaseFolded().unicode();
+    return hash;
+}
+
+bool ProfileFile::CaseBlind::operator()(QStringView left, QStringView right) const
+{
+    return left.compare(right, Qt::CaseInsensitive) == 0;
+}
 
 ProfileFile::ProfileFile(const QString& path)
 {
-    ProfileLines lines;
-    try {
-        lines = ProfileLines(readWholeFile(path));
-    } catch (const RuntimeFailure&) {
-        return;
-    }
-    std::optional<QString> section;
+    const ProfileLines lines = readLines(path);
+    Section* section = nullptr;
     for (qsizetype i = 0; i < lines.count(); ++i) {
         const auto text = lines.text(i);
-        if (auto name = sectionName(text)) {
-            section = std::move(name);
+        if (const auto name = sectionName(text)) {
+            section = &m_sections[*name];
         } else if (const auto key = keyName(text); key && section) {
-            const auto place = lookUpKey(*section, *key);
-            if (!m_values.contains(place))
-                m_values.insert(place, valueOf(text));
+            section->try_emplace(*key, valueOf(text));
         }
     }
 }
 
-QString ProfileFile::value(const QString& section, const QString& key, const QString& defaultText,
-                           int limit) const
+QString ProfileFile::value(QStringView section, QStringView key, const QString& defaultText, int limit) const
 {
-    const auto found = m_values.constFind(lookUpKey(section, key));
-    return (found != m_values.cend() ? *found : withoutTrailingBlanks(defaultText)).left(limit);
+    const auto named = m_sections.find(section);
+    if (named != m_sections.end()) {
+        if (const auto found = named->second.find(key); found != named->second.end())
+            return found->second.left(limit);
+    }
+    return withoutTrailingBlanks(defaultText).left(limit);
 }
 
 bool ProfileFile::write(const QString& path, const QString& section, const QString& key, const QString& value)

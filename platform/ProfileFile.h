@@ -1,8 +1,9 @@
 // Initialisation files (setup.ini, the .scn screens) by the reading rules of the platform that wrote them.
 #pragma once
 
-#include <QHash>
 #include <QString>
+
+#include <unordered_map>
 
 namespace norvane
 {
@@ -21,7 +22,7 @@ public:
 
     /// @return the value cut to @p limit characters; for a key that is absent, @p defaultText without its
     /// trailing blanks. A key that is present and empty gives empty text.
-    [[nodiscard]] QString value(const QString& section, const QString& key, const QString& defaultText = {},
+    [[nodiscard]] QString value(QStringView section, QStringView key, const QString& defaultText = {},
                                 int limit = profileValueLimit) const;
 
     /// Writes one key at once and keeps every other line, comment and the file's line ends; makes the section
@@ -30,7 +31,15 @@ public:
     static bool write(const QString& path, const QString& section, const QString& key, const QString& value);
 
 private:
-    QHash<QString, QString> m_values; ///< "section\nkey" in lower case
+    /// Finds names without regard to case and without a copy of them: a screen asks for a thousand keys.
+    struct CaseBlind {
+        using is_transparent = void;
+        std::size_t operator()(QStringView name) const;
+        bool operator()(QStringView left, QStringView right) const;
+    };
+    using Section = std::unordered_map<QString, QString, CaseBlind, CaseBlind>;
+
+    std::unordered_map<QString, Section, CaseBlind, CaseBlind> m_sections;
 };
 
 } // namespace norvane

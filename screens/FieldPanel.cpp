@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -67,6 +68,29 @@ void makeReadOnly(QLineEdit& box)
     QPalette palette = box.palette();
     palette.setColor(QPalette::Base, palette.color(QPalette::Window));
     box.setPalette(palette);
+}
+
+ui::NumberBox* makeNumberBox(const ControlDefinition& definition, QWidget* parent)
+{
+    if (definition.kind == ControlKind::Integer)
+        return new ui::IntegerBox(parent);
+    auto* const box = new ui::DecimalBox(parent);
+    box->setDecimals(definition.decimals.value_or(box->decimals()));
+    return box;
+}
+
+int textLimit(const Decimal& maximum)
+{
+    constexpr std::int64_t longest = std::numeric_limits<int>::max();
+    return static_cast<int>(qBound(std::int64_t{0}, maximum.toWhole(), longest));
+}
+
+/// @return nothing for a box that takes all characters of the register.
+std::optional<ui::TextBox::Characters> charactersOf(const ControlDefinition& definition)
+{
+    if (definition.characters.compare("NUMERIC"_L1, Qt::CaseInsensitive) == 0)
+        return ui::TextBox::Characters::Digits;
+    return definition.isHexadecimal ? std::optional(ui::TextBox::Characters::Hexadecimal) : std::nullopt;
 }
 
 QVector<int> listWidths(const QString& text)
@@ -126,30 +150,28 @@ int FieldPanel::nextElement(ControlKind kind)
 
 QWidget* FieldPanel::make(const ControlDefinition& definition, int element)
 {
-    switch (definition.kind) {
-    case ControlKind::Find:
+    if (definition.kind == ControlKind::Find)
         return makeFind(element);
-    case ControlKind::Check: {
-        auto* const box = new QCheckBox(definition.description, m_picture);
-        box->setEnabled(definition.enabled.value_or(true));
-        return box;
-    }
-    case ControlKind::Label: {
-        auto* const label = new QLabel(definition.description, m_picture);
-        label->setTextFormat(Qt::PlainText);
-        return label;
-    }
-    case ControlKind::Integer:
-    case ControlKind::Decimal:
-        return makeNumber(definition);
-    case ControlKind::Text:
-        return makeText(definition);
-    case ControlKind::Combo:
-        return makeCombo(definition);
-    case ControlKind::Grid:
-        break;
-    }
-    return makeGrid(definition);
+    using Maker = QWidget* (FieldPanel::*)(const ControlDefinition&);
+    // In the order of ControlKind, behind the find button.
+    constexpr std::array<Maker, 7> makers{
+        &FieldPanel::makeCheck, &FieldPanel::makeLabel, &FieldPanel::makeNumber, &FieldPanel::makeNumber,
+        &FieldPanel::makeText,  &FieldPanel::makeCombo, &FieldPanel::makeGrid};
+    return (this->*makers.at(static_cast<std::size_t>(definition.kind) - 1))(definition);
+}
+
+QWidget* FieldPanel::makeCheck(const ControlDefinition& definition)
+{
+    auto* const box = new QCheckBox(definition.description, m_picture);
+    box->setEnabled(definition.enabled.value_or(true));
+    return box;
+}
+
+QWidget* FieldPanel::makeLabel(const ControlDefinition& definition)
+{
+    auto* const label = new QLabel(definition.description, m_picture);
+    label->setTextFormat(Qt::PlainText);
+    return label;
 }
 
 QWidget* FieldPanel::makeFind(int element)
@@ -162,14 +184,7 @@ QWidget* FieldPanel::makeFind(int element)
 
 QWidget* FieldPanel::makeNumber(const ControlDefinition& definition)
 {
-    ui::NumberBox* box = nullptr;
-    if (definition.kind == ControlKind::Integer) {
-        box = new ui::IntegerBox(m_picture);
-    } else {
-        auto* const decimalBox = new ui::DecimalBox(m_picture);
-        decimalBox->setDecimals(definition.decimals.value_or(decimalBox->decimals()));
-        box = decimalBox;
-    }
+    ui::NumberBox* const box = makeNumberBox(definition, m_picture);
     if (definition.maximum)
         box->setMaximum(*definition.maximum);
     if (definition.readOnly.value_or(false))
@@ -181,31 +196,34 @@ QWidget* FieldPanel::makeNumber(const ControlDefinition& definition)
 QWidget* FieldPanel::makeText(const ControlDefinition& definition)
 {
     auto* const box = new ui::TextBox(m_picture);
-    if (definition.maximum) {
-        box->setLimit(static_cast<int>(qBound(std::int64_t{0}, definition.maximum->toWhole(),
-                                              std::int64_t{std::numeric_limits<int>::max()})));
-    }
+    if (definition.maximum)
+        box->setLimit(textLimit(*definition.maximum));
     if (definition.readOnly.value_or(false))
         makeReadOnly(*box);
     box->setJustify(definition.justify);
-    if (definition.characters.compare("NUMERIC"_L1, Qt::CaseInsensitive) == 0) {
-        box->setCharacters(ui::TextBox::Characters::Digits);
-    } else if (definition.isHexadecimal) {
-        box->setCharacters(ui::TextBox::Characters::Hexadecimal);
-    }
+    if (const auto characters = charactersOf(definition))
+        box->setCharacters(*characters);
     return box;
 }
 
 QWidget* FieldPanel::makeCombo(const ControlDefinition& definition)
 {
     auto* const list = new ui::ValueList(m_picture);
-    list->setRows(definition.sqlCriteria.isEmpty() ? rowsOfList(definition.list)
-                                                   : rowsOfQuery(*m_database, definition.sqlCriteria));
     if (!definition.columnWidths.isEmpty())
         list->setColumnWidths(listWidths(definition.columnWidths));
     if (!definition.valueColumn.isEmpty())
         list->setValueColumn(toWholeNumber(definition.valueColumn));
+    list->setRows(definition.sqlCriteria.isEmpty() ? rowsOfList(definition.list)
+                                                   : queriedRows(definition.sqlCriteria));
     return list;
+}
+
+const QVector<QStringList>& FieldPanel::queriedRows(const QString& query)
+{
+    const auto known = m_queriedRows.constFind(query);
+    if (known != m_queriedRows.cend())
+        return *known;
+    return *m_queriedRows.insert(query, rowsOfQuery(*m_database, query));
 }
 
 QWidget* FieldPanel::makeGrid(const ControlDefinition& definition)
@@ -249,12 +267,25 @@ void FieldPanel::countBottom(const ControlDefinition& definition)
 void FieldPanel::finish()
 {
     int right = 0;
+    for (const Control& control : std::as_const(m_controls)) {
+        if (!control.widget->isHidden())
+            right = qMax(right, control.widget->geometry().right() + 1);
+    }
+    tieShownLabels();
+    m_picture->resize(right, pixels(m_bottom + marginBelow));
+    setWidget(m_picture);
+    const auto ordered = inTabOrder();
+    chain(ordered);
+    chooseFirst(ordered);
+}
+
+void FieldPanel::tieShownLabels()
+{
     QVector<QLabel*> labels;
     QVector<QWidget*> controls;
     for (const Control& control : std::as_const(m_controls)) {
         if (control.widget->isHidden())
             continue;
-        right = qMax(right, control.widget->geometry().right() + 1);
         if (control.definition.kind == ControlKind::Label) {
             labels += static_cast<QLabel*>(control.widget);
         } else {
@@ -262,23 +293,28 @@ void FieldPanel::finish()
         }
     }
     tieLabels(labels, controls);
-    m_picture->resize(right, pixels(m_bottom + marginBelow));
-    setWidget(m_picture);
-    chain();
 }
 
-void FieldPanel::chain()
+QVector<FieldPanel::Control> FieldPanel::inTabOrder() const
 {
     QVector<Control> ordered = m_controls;
-    std::stable_sort(ordered.begin(), ordered.end(), [](const Control& left, const Control& right) {
-        return tabPlace(left.definition) < tabPlace(right.definition);
-    });
-    for (const Control& control : std::as_const(ordered)) {
+    std::ranges::stable_sort(ordered, {},
+                             [](const Control& control) { return tabPlace(control.definition); });
+    return ordered;
+}
+
+void FieldPanel::chain(const QVector<Control>& ordered)
+{
+    for (const Control& control : ordered) {
         if (control.definition.kind != ControlKind::Label && !m_tabOrder.contains(control.widget))
             m_tabOrder += control.widget;
     }
     for (qsizetype place = 1; place < m_tabOrder.size(); ++place)
         setTabOrder(m_tabOrder[place - 1], m_tabOrder[place]);
+}
+
+void FieldPanel::chooseFirst(const QVector<Control>& ordered)
+{
     const auto first = std::find_if(ordered.cbegin(), ordered.cend(), [](const Control& control) {
         return isEditable(control.definition, *control.widget);
     });

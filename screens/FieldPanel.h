@@ -65,21 +65,28 @@ private:
 
     [[nodiscard]] QWidget* make(const ControlDefinition& definition, int element);
     [[nodiscard]] QWidget* makeFind(int element);
+    [[nodiscard]] QWidget* makeCheck(const ControlDefinition& definition);
+    [[nodiscard]] QWidget* makeLabel(const ControlDefinition& definition);
     [[nodiscard]] QWidget* makeNumber(const ControlDefinition& definition);
     [[nodiscard]] QWidget* makeText(const ControlDefinition& definition);
     [[nodiscard]] QWidget* makeCombo(const ControlDefinition& definition);
     [[nodiscard]] QWidget* makeGrid(const ControlDefinition& definition);
+    [[nodiscard]] const QVector<QStringList>& queriedRows(const QString& query);
     [[nodiscard]] int nextElement(ControlKind kind);
     void place(const ControlDefinition& definition, QWidget& widget);
     void countBottom(const ControlDefinition& definition);
-    void chain();
+    void tieShownLabels();
+    [[nodiscard]] QVector<Control> inTabOrder() const;
+    void chain(const QVector<Control>& ordered);
+    void chooseFirst(const QVector<Control>& ordered);
 
     std::shared_ptr<store::Database> m_database;
     QWidget* m_picture; ///< carries the controls
     QVector<Control> m_controls;
-    QHash<ControlKind, int> m_counters; ///< next element of each kind
-    GridControl* m_grid = nullptr;      ///< the one grid; each grid section is about it
-    double m_bottom = 0;                ///< twips
+    QHash<ControlKind, int> m_counters;                 ///< next element of each kind
+    QHash<QString, QVector<QStringList>> m_queriedRows; ///< many lists of a screen have the same query
+    GridControl* m_grid = nullptr;                      ///< the one grid; each grid section is about it
+    double m_bottom = 0;                                ///< twips
     QVector<QWidget*> m_tabOrder;
     QWidget* m_firstEditable = nullptr;
 };

@@ -147,7 +147,7 @@ store::Value GridModel::valueOf(int column, const QString& text) const
     if (!this->column(column).numberFormat.isEmpty() && !text.isEmpty()) {
         const auto number = Decimal::parse(text.toStdString());
         if (!number)
-            throw RuntimeFailure(Failure::Conversion, QStringLiteral("\"%1\" is no number").arg(text));
+            throw RuntimeFailure(Failure::Conversion, u"\"%1\" is no number"_s.arg(text));
         return store::Value::text(number->text());
     }
     return store::Value::text(text);

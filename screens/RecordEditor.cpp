@@ -1,8 +1,8 @@
 // Operations of a screen on its table; see RecordEditor.h.
 #include "screens/RecordEditor.h"
 
+#include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
-#include "platform/RuntimeFailure.h"
 
 #include <array>
 
@@ -29,11 +29,10 @@ bool isPluNumber(const QString& name)
 template <typename Act>
 auto namingFile(const QString& file, Act act)
 {
-    try {
-        return act();
-    } catch (const RuntimeFailure& failure) {
-        throw RuntimeFailure(failure.failure(), u"%1 (%2)"_s.arg(failure.text(), file));
-    }
+    const auto explain = [&](const QString& text) {
+        return u"%1 (%2)"_s.arg(text, file);
+    };
+    return atPlace(explain, act);
 }
 
 store::Value leadingNumberOf(const store::Value& value)
@@ -53,7 +52,7 @@ store::Value shownInteger(const store::Value& value, const QString& field)
 {
     if (value.isNull()) {
         throw RuntimeFailure(Failure::TypeMismatch,
-                             QStringLiteral("Invalid use of null: field \"%1\" holds no number").arg(field));
+                             u"Invalid use of null: field \"%1\" holds no number"_s.arg(field));
     }
     return shownNumber(value);
 }

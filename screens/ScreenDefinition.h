@@ -80,13 +80,4 @@ struct ScreenReport {
     QString title;
 };
 
-/// A whole screen file.
-struct ScreenDefinition {
-    ScreenTable table;
-    ScreenWindow window;
-    QVector<ControlDefinition> controls;
-    ScreenButtons buttons;
-    ScreenReport report;
-};
-
 } // namespace norvane::screens

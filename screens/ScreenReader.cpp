@@ -1,8 +1,8 @@
 // Keys of screen files as a table: which control reads which, and how each is converted; see ScreenReader.h.
 #include "screens/ScreenReader.h"
 
+#include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
-#include "platform/RuntimeFailure.h"
 
 #include <array>
 #include <initializer_list>
@@ -83,32 +83,32 @@ constexpr Kinds grid = kinds({ControlKind::Grid});
 constexpr Kinds all = find | check | label | number | text | combo | grid;
 
 struct KeyRule {
-    QLatin1String key;
+    QStringView key;
     Kinds readBy;
     void (*convert)(const QString&, ControlDefinition&);
     int limit = profileValueLimit;
 };
 
 constexpr std::array<KeyRule, 17> keyRules{{
-    {"X"_L1, all, takeNumber<&ControlDefinition::x>},
-    {"Y"_L1, all, takeNumber<&ControlDefinition::y>},
-    {"Visible"_L1, all, takeYesNo<&ControlDefinition::visible>},
-    {"Width"_L1, all & ~find, takeNumber<&ControlDefinition::width>},
-    {"Height"_L1, grid, takeNumber<&ControlDefinition::height>},
-    {"Tabindex"_L1, all, takeWhole<&ControlDefinition::tabIndex>},
-    {"Description"_L1, check | label, takeText<&ControlDefinition::description>},
-    {"Enabled"_L1, check, takeYesNo<&ControlDefinition::enabled>},
-    {"ReadOnly"_L1, number | text, takeYesNo<&ControlDefinition::readOnly>},
-    {"Maxvalue"_L1, number | text, takeMaximum},
-    {"Datafield"_L1, check | number | text | combo, takeText<&ControlDefinition::dataField>},
-    {"DecimalNumbers"_L1, decimal, takeWhole<&ControlDefinition::decimals>},
-    {"Justify"_L1, text, takeText<&ControlDefinition::justify>},
-    {"Characters"_L1, text, takeText<&ControlDefinition::characters>},
-    {"SQLCriteria"_L1, combo | grid, takeText<&ControlDefinition::sqlCriteria>},
-    {"Columnwidth"_L1, combo, takeText<&ControlDefinition::columnWidths>},
-    {"Valuecol"_L1, combo, takeText<&ControlDefinition::valueColumn>},
+    {u"X", all, takeNumber<&ControlDefinition::x>},
+    {u"Y", all, takeNumber<&ControlDefinition::y>},
+    {u"Visible", all, takeYesNo<&ControlDefinition::visible>},
+    {u"Width", all & ~find, takeNumber<&ControlDefinition::width>},
+    {u"Height", grid, takeNumber<&ControlDefinition::height>},
+    {u"Tabindex", all, takeWhole<&ControlDefinition::tabIndex>},
+    {u"Description", check | label, takeText<&ControlDefinition::description>},
+    {u"Enabled", check, takeYesNo<&ControlDefinition::enabled>},
+    {u"ReadOnly", number | text, takeYesNo<&ControlDefinition::readOnly>},
+    {u"Maxvalue", number | text, takeMaximum},
+    {u"Datafield", check | number | text | combo, takeText<&ControlDefinition::dataField>},
+    {u"DecimalNumbers", decimal, takeWhole<&ControlDefinition::decimals>},
+    {u"Justify", text, takeText<&ControlDefinition::justify>},
+    {u"Characters", text, takeText<&ControlDefinition::characters>},
+    {u"SQLCriteria", combo | grid, takeText<&ControlDefinition::sqlCriteria>},
+    {u"Columnwidth", combo, takeText<&ControlDefinition::columnWidths>},
+    {u"Valuecol", combo, takeText<&ControlDefinition::valueColumn>},
 }};
-constexpr KeyRule listRule{"List"_L1, combo, takeText<&ControlDefinition::list>, profileListLimit};
+constexpr KeyRule listRule{u"List", combo, takeText<&ControlDefinition::list>, profileListLimit};
 
 struct ColumnRule {
     QLatin1String key; ///< the column's number follows
@@ -144,17 +144,15 @@ bool isWord(const QString& value, QLatin1String word)
 ScreenReader::ScreenReader(const QString& path) : m_path(path), m_file(path) {}
 
 template <typename Convert>
-void ScreenReader::read(const QString& section, const QString& key, int limit, Convert convert) const
+void ScreenReader::read(QStringView section, QStringView key, int limit, Convert convert) const
 {
     const QString value = m_file.value(section, key, {}, limit);
     if (value.isEmpty())
         return;
-    try {
-        convert(value);
-    } catch (const RuntimeFailure& failure) {
-        throw RuntimeFailure(failure.failure(),
-                             u"%1 (%2, section [%3], key %4)"_s.arg(failure.text(), m_path, section, key));
-    }
+    const auto explain = [&](const QString& text) {
+        return u"%1 (%2, section [%3], key %4)"_s.arg(text, m_path, section, key);
+    };
+    atPlace(explain, [&] { convert(value); });
 }
 
 ScreenTable ScreenReader::table() const
@@ -230,23 +228,18 @@ QVector<GridColumn> ScreenReader::gridColumns(const QString& section) const
 
 ScreenButtons ScreenReader::buttons() const
 {
-    const auto says = [this](const char* key, QLatin1String word) {
-        return isWord(m_file.value(u"visiblekeys"_s, QLatin1String(key)), word);
+    const auto says = [this](QStringView key, QLatin1String word) {
+        return isWord(m_file.value(u"visiblekeys", key), word);
     };
     const QLatin1String yes("YES");
-    return {says("ShowAddrecord", yes),    says("Showpreviousrecord", yes),  says("Shownextrecord", yes),
-            says("Showdeleterecord", yes), !says("Showsaverecord", "NO"_L1), says("Showprintrecord", yes)};
+    return {says(u"ShowAddrecord", yes),    says(u"Showpreviousrecord", yes),  says(u"Shownextrecord", yes),
+            says(u"Showdeleterecord", yes), !says(u"Showsaverecord", "NO"_L1), says(u"Showprintrecord", yes)};
 }
 
 ScreenReport ScreenReader::report() const
 {
     const QString section = u"CrystalReport"_s;
     return {m_file.value(section, u"CrystalReportFile"_s), m_file.value(section, u"CrystalReportTitle"_s)};
-}
-
-ScreenDefinition ScreenReader::whole() const
-{
-    return {table(), window(), controls(), buttons(), report()};
 }
 
 } // namespace norvane::screens

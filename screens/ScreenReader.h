@@ -25,15 +25,13 @@ public:
     [[nodiscard]] QVector<ControlDefinition> controls() const;
     [[nodiscard]] ScreenButtons buttons() const;
     [[nodiscard]] ScreenReport report() const;
-    /// All of it. @throws RuntimeFailure 13, 6
-    [[nodiscard]] ScreenDefinition whole() const;
 
 private:
     [[nodiscard]] ControlDefinition control(const QString& section, ControlKind kind) const;
     [[nodiscard]] QVector<GridColumn> gridColumns(const QString& section) const;
     /// Hands the value of a key that is given to @p convert.
     template <typename Convert>
-    void read(const QString& section, const QString& key, int limit, Convert convert) const;
+    void read(QStringView section, QStringView key, int limit, Convert convert) const;
 
     QString m_path;
     ProfileFile m_file;

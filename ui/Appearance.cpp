@@ -47,6 +47,21 @@ QPalette formPalette()
     return palette;
 }
 
+QPixmap iconOfSize(int size)
+{
+    QPixmap pixmap(size, size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours::accent);
+    const double corner = size * 0.18;
+    painter.drawRoundedRect(QRectF(0, 0, size, size), corner, corner);
+    const double margin = size * 0.14;
+    paintRegister(painter, QRectF(margin, margin, size - 2 * margin, size - 2 * margin));
+    return pixmap;
+}
+
 } // namespace
 
 void applyAppearance(QApplication& application)
@@ -62,19 +77,8 @@ void applyAppearance(QApplication& application)
 QIcon applicationIcon()
 {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-        QPixmap pixmap(size, size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(colours::accent);
-        const double corner = size * 0.18;
-        painter.drawRoundedRect(QRectF(0, 0, size, size), corner, corner);
-        const double margin = size * 0.14;
-        paintRegister(painter, QRectF(margin, margin, size - 2 * margin, size - 2 * margin));
-        icon.addPixmap(pixmap);
-    }
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addPixmap(iconOfSize(size));
     return icon;
 }
 

@@ -11,6 +11,8 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <numeric>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -23,12 +25,24 @@ constexpr int columnGap = 10;
 constexpr int rowPadding = 6;
 constexpr int columnsRole = Qt::UserRole;
 
-bool sameValue(const QString& left, const QString& right)
+/// Whether a text means a value: "007" means 7, "3.0" means 3, other texts are compared as they stand.
+class SameValue
 {
-    const auto leftNumber = Decimal::parse(left.toStdString());
-    const auto rightNumber = Decimal::parse(right.toStdString());
-    return leftNumber && rightNumber ? *leftNumber == *rightNumber : left.trimmed() == right.trimmed();
-}
+public:
+    explicit SameValue(const QString& value)
+        : m_text(value.trimmed()), m_number(Decimal::parse(value.toStdString()))
+    {
+    }
+    [[nodiscard]] bool operator()(const QString& other) const
+    {
+        const auto number = m_number ? Decimal::parse(other.toStdString()) : std::nullopt;
+        return number ? *number == *m_number : other.trimmed() == m_text;
+    }
+
+private:
+    QString m_text;
+    std::optional<Decimal> m_number;
+};
 
 } // namespace
 
@@ -50,26 +64,27 @@ public:
         QStyleOptionViewItem row = option;
         initStyleOption(&row, index);
         row.text.clear();
-        QStyle& style = *QApplication::style();
-        style.drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+        QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+        paintColumns(*painter, row, index.data(columnsRole).toStringList());
+    }
+
+private:
+    void paintColumns(QPainter& painter, const QStyleOptionViewItem& row, const QStringList& columns) const
+    {
         const auto role =
             row.state.testFlag(QStyle::State_Selected) ? QPalette::HighlightedText : QPalette::Text;
         QRect place = row.rect.adjusted(columnGap / 2, 0, 0, 0);
-        const QStringList columns = index.data(columnsRole).toStringList();
         for (qsizetype column = 0; column < columns.size(); ++column) {
             const int width = m_widths.value(column);
             if (width == 0)
                 continue;
-            if (column < columns.size() - 1)
-                place.setWidth(width);
-            style.drawItemText(painter, place, Qt::AlignLeft | Qt::AlignVCenter, row.palette, true,
-                               columns[column], role);
+            place.setRight(column < columns.size() - 1 ? place.left() + width - 1 : row.rect.right());
+            QApplication::style()->drawItemText(&painter, place, Qt::AlignLeft | Qt::AlignVCenter,
+                                                row.palette, true, columns[column], role);
             place.setLeft(place.left() + width + columnGap);
-            place.setRight(row.rect.right());
         }
     }
 
-private:
     QVector<int> m_widths;
 };
 
@@ -115,8 +130,8 @@ void ValueList::fillTexts()
 void ValueList::setValue(const QString& value)
 {
     m_value = value;
-    const auto hasValue = [&](const QStringList& row) {
-        return sameValue(row.value(m_valueColumn), value);
+    const auto hasValue = [this, isSame = SameValue(value)](const QStringList& row) {
+        return isSame(row.value(m_valueColumn));
     };
     const auto row = value.isNull() ? m_rows.cend() : std::find_if(m_rows.cbegin(), m_rows.cend(), hasValue);
     const bool found = row != m_rows.cend();
@@ -141,18 +156,23 @@ int ValueList::columnWidth(qsizetype column) const
     return widest;
 }
 
-void ValueList::showPopup()
+QVector<int> ValueList::columnsInPixels() const
 {
     qsizetype columns = 0;
-    for (const QStringList& row : std::as_const(m_rows))
+    for (const QStringList& row : m_rows)
         columns = qMax(columns, row.size());
     QVector<int> widths;
-    int all = columnGap + view()->verticalScrollBar()->sizeHint().width();
-    for (qsizetype column = 0; column < columns; ++column) {
+    for (qsizetype column = 0; column < columns; ++column)
         widths += columnWidth(column);
-        all += widths.back() + columnGap;
-    }
-    view()->setMinimumWidth(all);
+    return widths;
+}
+
+void ValueList::showPopup()
+{
+    const QVector<int> widths = columnsInPixels();
+    const int gaps = columnGap * static_cast<int>(widths.size() + 1);
+    view()->setMinimumWidth(std::accumulate(widths.cbegin(), widths.cend(), gaps) +
+                            view()->verticalScrollBar()->sizeHint().width());
     if (!m_delegate) {
         m_delegate = new ColumnsDelegate(this);
         view()->setItemDelegate(m_delegate);

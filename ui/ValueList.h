@@ -43,6 +43,7 @@ private:
     void takePick(int row);
     void fillTexts();
     [[nodiscard]] int columnWidth(qsizetype column) const;
+    [[nodiscard]] QVector<int> columnsInPixels() const;
 
     class ColumnsDelegate;
     ColumnsDelegate* m_delegate = nullptr; ///< made for the first look at the open list

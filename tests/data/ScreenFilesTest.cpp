@@ -171,8 +171,9 @@ protected:
 
     const QString m_name = QString::fromStdString(GetParam());
     const QString m_path = QStringLiteral(SCREEN_FILES "/") + m_name;
-    const ScreenDefinition m_screen = ScreenReader(m_path).whole();
-    const TableDefinition* m_table = store::catalogueTable(m_screen.table.table);
+    const ScreenReader m_screen{m_path};
+    const QVector<ControlDefinition> m_fields = m_screen.controls();
+    const TableDefinition* m_table = store::catalogueTable(m_screen.table().table);
 };
 
 TEST_P(ScreenFile, IsReadWhole)
@@ -182,23 +183,24 @@ TEST_P(ScreenFile, IsReadWhole)
     const QByteArray bytes = file.readAll();
     EXPECT_TRUE(bytes.count('\n') == bytes.count("\r\n") && bytes.endsWith("\r\n"))
         << "line ends are not CR LF";
-    EXPECT_EQ(bytes.count("\r\n[Field"), m_screen.controls.size())
+    EXPECT_EQ(bytes.count("\r\n[Field"), m_fields.size())
         << "sections are numbered with a gap, or have no known control type";
     for (const QByteArray& line : bytes.split('\n')) {
         const qsizetype limit = line.startsWith("List=") ? profileListLimit : profileValueLimit;
         EXPECT_LE(line.trimmed().size() - line.indexOf('=') - 1, limit) << line.data();
     }
-    EXPECT_TRUE(!m_screen.window.name.isEmpty() && m_screen.window.width && m_screen.window.height)
+    const ScreenWindow window = m_screen.window();
+    EXPECT_TRUE(!window.name.isEmpty() && window.width && window.height)
         << "the window has no name or no size";
 }
 
 TEST_P(ScreenFile, BindsControlsToFieldsThatTheyCanHold)
 {
-    ASSERT_NE(m_table, nullptr) << m_screen.table.table.toStdString();
+    ASSERT_NE(m_table, nullptr) << m_screen.table().table.toStdString();
     store::Database database(filledDatabase());
-    database.openTable(m_table->name).setIndex(m_screen.table.secondIndex);
+    database.openTable(m_table->name).setIndex(m_screen.table().secondIndex);
     QSet<QString> seen;
-    for (const auto& control : m_screen.controls) {
+    for (const auto& control : m_fields) {
         if (control.dataField.isEmpty())
             continue;
         if (seen.contains(control.dataField.toUpper()))
@@ -248,9 +250,9 @@ void ScreenFile::checkLimit(const ControlDefinition& control, const FieldDefinit
 TEST_P(ScreenFile, OffersWhatAUserMaySetAndNothingElse)
 {
     const QString& key = m_table->indexes.first().field;
-    const ScreenButtons& buttons = m_screen.buttons;
+    const ScreenButtons buttons = m_screen.buttons();
     QStringList offered;
-    for (const auto& control : m_screen.controls) {
+    for (const auto& control : m_fields) {
         if (!control.visible.value_or(false))
             continue;
         offered += control.dataField;
