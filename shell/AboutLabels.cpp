@@ -2,6 +2,7 @@
 #include "shell/AboutLabels.h"
 
 #include "platform/Boxes.h"
+#include "ui/FormKit.h"
 
 #include <QLabel>
 
@@ -25,8 +26,7 @@ AboutLabels makeAboutLabels()
 QLabel* makeTextLabel(const QString& name, const QString& text)
 {
     auto* const label = new QLabel(text);
-    label->setObjectName(name);
-    label->setAccessibleName(name);
+    ui::nameControl(*label, name);
     label->setTextFormat(Qt::PlainText);
     return label;
 }

@@ -7,6 +7,7 @@
 #include "shell/NotYetBuilt.h"
 #include "shell/ScreenChoice.h"
 #include "ui/Appearance.h"
+#include "ui/FormKit.h"
 #include "ui/WaitPointer.h"
 
 #include <QCloseEvent>
@@ -63,8 +64,7 @@ FrmMain::FrmMain(const ApplicationValues& values, Boxes& boxes, Openers openers)
     : m_values(values), m_boxes(boxes), m_openers(std::move(openers)), m_area(makeArea()),
       StatusBar1(new MainStatusBar(this))
 {
-    setObjectName(u"FrmMain"_s);
-    setAccessibleName(objectName());
+    ui::nameControl(*this, u"FrmMain"_s);
     setWindowTitle(u"Norvane Velmar & Dorvik Programming Utility."_s);
     setCentralWidget(m_area);
     setStatusBar(StatusBar1);
@@ -76,8 +76,7 @@ FrmMain::FrmMain(const ApplicationValues& values, Boxes& boxes, Openers openers)
 QMdiArea* FrmMain::makeArea()
 {
     auto* const area = new QMdiArea(this);
-    area->setObjectName(u"Workspace"_s);
-    area->setAccessibleName(area->objectName());
+    ui::nameControl(*area, u"Workspace"_s);
     area->setBackground(ui::colours::desktop);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -118,8 +117,7 @@ QAction* FrmMain::buildEntry(const MenuEntry& entry)
 QAction* FrmMain::buildMenuOf(const MenuEntry& entry)
 {
     auto* const menu = new QMenu(menuText(entry.caption), this);
-    menu->setObjectName(entry.name);
-    menu->setAccessibleName(entry.name);
+    ui::nameControl(*menu, entry.name);
     nameAction(*menu->menuAction(), entry);
     return menu->menuAction();
 }

@@ -45,8 +45,7 @@ QWidget* makeTextBox()
 QWidget* makeControl(const Setting& setting)
 {
     QWidget* const control = hasList(setting) ? makeList(setting) : makeTextBox();
-    control->setObjectName(setting.control);
-    control->setAccessibleName(setting.control);
+    ui::nameControl(*control, setting.control);
     control->setFixedWidth(controlWidth);
     return control;
 }

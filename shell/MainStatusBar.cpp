@@ -3,6 +3,7 @@
 
 #include "shell/AboutLabels.h"
 #include "ui/Appearance.h"
+#include "ui/FormKit.h"
 
 #include <QLabel>
 
@@ -32,8 +33,7 @@ QString readyText()
 MainStatusBar::MainStatusBar(QWidget* parent)
     : QStatusBar(parent), m_panel(statusLabel(u"Panel1"_s)), m_text(statusLabel(u"StatusText"_s))
 {
-    setObjectName(u"StatusBar1"_s);
-    setAccessibleName(objectName());
+    ui::nameControl(*this, u"StatusBar1"_s);
     m_panel->setMinimumWidth(panelWidth);
     // A long customer name must not widen the window.
     m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

@@ -1,7 +1,7 @@
-// Takes the pictures of the user guide: every screen of the menu, in the main window of a shop whose database
-// was just filled from a register of each model.
+// Makes the pictures of the user guide: every screen of the menu, filled from a register of each model.
 //   contact_sheet <folder>
-// Writes screens-1.png, screens-2.png ... there, and each screen of each model by itself into single/.
+// Writes screens-1.png, screens-2.png ... there, and each screen of each model as a file of its own in
+// single/.
 #include "platform/RuntimeFailure.h"
 #include "shell/MenuTree.h"
 #include "shell/ScreenChoice.h"
@@ -18,7 +18,10 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <numeric>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
@@ -27,12 +30,12 @@ using namespace norvane;
 
 constexpr const char* modelNames[] = {"Velmar -V2", "Velmar V2 Card", "Velmar +V3", "Dorvik"};
 
-/// The screens that all models share are shown with the contents of the first of these.
+/// A screen that several models share is shown for the first of them in this order.
 constexpr int modelOrder[] = {2, 0, 1, 3};
 
 constexpr int exchangeBoxes = 37;
 
-constexpr double scale = 2.0 / 3; ///< of a screen on a sheet; texts can still be read
+constexpr double scale = 2.0 / 3; ///< texts can still be read
 constexpr int sheetWidth = 1500;
 constexpr int sheetHeight = 2000;
 constexpr int gap = 16;
@@ -56,54 +59,75 @@ QAction& actionOf(const shell::MenuEntry& entry)
 
 QString captionOf(const shell::MenuEntry& entry)
 {
-    static const QRegularExpression accessMark(QStringLiteral("&(?=\\S)"));
+    static const QRegularExpression accessMark(u"&(?=\\S)"_s);
     return QString(entry.caption).remove(accessMark).trimmed();
 }
 
-/// The screen in its frame, with the focus where the user finds it.
+/// The screen with its frame.
 QImage picture(const QWidget& screen)
 {
     QApplication::processEvents();
     return screen.parentWidget()->grab().toImage();
 }
 
-/// Opens the screens of a model one after the other; those that no picture can be taken of are told on the
-/// error output.
+/// A shop whose database was filled from a register of the model.
+class FilledShop : public test::Shop
+{
+public:
+    explicit FilledShop(int model) : Shop(model, 1)
+    {
+        test::BoxNumbers everyBox(exchangeBoxes);
+        std::iota(everyBox.begin(), everyBox.end(), 0);
+        upload(everyBox);
+        // Nothing uploads the descriptors; a picture needs a record.
+        execute("insert into SYSTEMDESCRIPTORS (ID, SYSTEMDESCRIPTORS) values (1, 'TOTAL')");
+    }
+
+    /// Opens the screen of @p entry, takes its picture and closes it. @throws what the screen throws.
+    QImage pictureOf(const shell::MenuEntry& entry)
+    {
+        boxes().shown.clear();
+        actionOf(entry).setEnabled(true); // some are grey
+        QWidget& screen = openForm(entry.name.data());
+        const QImage image = picture(screen);
+        press(screen, "ExitForm");
+        return image;
+    }
+
+    /// The text of the last box since the last picture.
+    QString lastText() { return boxes().shown.empty() ? QString() : boxes().shown.back().text; }
+};
+
+/// Deletes closed windows: first the screen, then the frame that is empty without it.
+void deleteClosed()
+{
+    for (int turn = 0; turn < 2; ++turn)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// Pictures of all screens of a model; reports on the error output which could not be opened.
 QVector<Shot> shotsOf(int model)
 {
-    test::Shop shop(model, 1);
-    test::BoxNumbers everyBox(exchangeBoxes);
-    std::iota(everyBox.begin(), everyBox.end(), 0);
-    shop.upload(everyBox);
-    // Nothing uploads the descriptors; a picture needs a record.
-    shop.execute("insert into SYSTEMDESCRIPTORS (ID, SYSTEMDESCRIPTORS) values (1, 'TOTAL')");
+    FilledShop shop(model);
     QVector<Shot> shots;
     for (const shell::MenuEntry& entry : shell::menuTree()) {
         const QString target =
             shell::opensScreen(entry) ? shell::targetOf(entry, shop.values()).mid(1) : QString();
         if (target.isEmpty() || !QFileInfo::exists(target))
             continue;
-        shop.boxes().shown.clear();
-        actionOf(entry).setEnabled(true); // some stand in the menu greyed
         try {
-            QWidget& screen = shop.openForm(entry.name.data());
-            shots.append({target, captionOf(entry), QString::fromLatin1(modelNames[model]), picture(screen)});
-            test::Shop::press(screen, "ExitForm");
-        } catch (const RuntimeFailure& failure) {
-            std::fprintf(stderr, "%s, %s: %s\n", modelNames[model], qPrintable(target), failure.what());
+            const QString name = QString::fromLatin1(modelNames[model]);
+            shots.append({target, captionOf(entry), name, shop.pictureOf(entry)});
         } catch (const std::exception& failure) {
-            const auto& shown = shop.boxes().shown;
             std::fprintf(stderr, "%s, %s: %s %s\n", modelNames[model], qPrintable(target), failure.what(),
-                         shown.empty() ? "" : qPrintable(shown.back().text));
+                         qPrintable(shop.lastText()));
         }
-        // First the screen goes, then the frame that it leaves behind.
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        deleteClosed();
     }
     return shots;
 }
 
-/// At most 256 colours, its most frequent ones: a fraction of the size, and no eye sees it.
+/// Keeps the 256 most frequent colours: the file is much smaller and looks the same.
 QImage withPalette(const QImage& image)
 {
     QHash<QRgb, int> counts;
@@ -118,35 +142,24 @@ QImage withPalette(const QImage& image)
     return image.convertToFormat(QImage::Format_Indexed8, colours.mid(0, most));
 }
 
-/// Pastes shots on a sheet, row below row, and begins a new sheet when one is full.
+/// Pastes shots on sheets, row by row; a full sheet is saved and a new one begun.
 class Sheets
 {
 public:
     explicit Sheets(const QDir& folder) : m_folder(folder) { begin(); }
 
-    /// Takes as many of @p shots as one row has room for, the first of them in any case.
+    /// Moves as many of @p shots to the sheet as a row has room for, but at least the first.
     void pasteRow(QVector<Shot>& shots)
     {
-        QVector<Shot> row;
-        int width = gap;
-        for (const Shot& shot : std::as_const(shots)) {
-            if (row.isEmpty() || width + sizeOf(shot).width() + gap <= sheetWidth) {
-                row.append(shot);
-                width += sizeOf(shot).width() + gap;
-            }
-        }
-        shots.removeIf([&](const Shot& shot) {
-            return std::any_of(row.cbegin(), row.cend(),
-                               [&](const Shot& taken) { return taken.file == shot.file; });
-        });
-        // The shots come by height, so that the first is the highest.
+        const QVector<Shot> row = takeRow(shots);
+        // The shots are sorted by height.
         const int height = captionHeight + sizeOf(row.constFirst()).height() + gap;
         if (m_bottom + height > sheetHeight) {
             finish();
             begin();
         }
         int left = gap;
-        for (const Shot& shot : std::as_const(row)) {
+        for (const Shot& shot : row) {
             paste(shot, left);
             left += sizeOf(shot).width() + gap;
         }
@@ -155,13 +168,29 @@ public:
 
     void finish()
     {
-        const QString name = QStringLiteral("screens-%1.png").arg(++m_count);
+        const QString name = u"screens-%1.png"_s.arg(++m_count);
         if (!withPalette(m_sheet.copy(0, 0, sheetWidth, m_bottom)).save(m_folder.filePath(name)))
             qFatal("cannot write %s", qPrintable(name));
     }
 
 private:
     static QSize sizeOf(const Shot& shot) { return shot.image.size() * scale; }
+
+    static QVector<Shot> takeRow(QVector<Shot>& shots)
+    {
+        QVector<Shot> row;
+        int width = gap;
+        shots.removeIf([&](const Shot& shot) {
+            const int wider = width + sizeOf(shot).width() + gap;
+            const bool fits = row.isEmpty() || wider <= sheetWidth;
+            if (fits) {
+                row.append(shot);
+                width = wider;
+            }
+            return fits;
+        });
+        return row;
+    }
 
     void begin()
     {
@@ -175,8 +204,7 @@ private:
         QPainter painter(&m_sheet);
         painter.setPen(ui::colours::text);
         const QSize size = sizeOf(shot);
-        const QString text =
-            QStringLiteral("%1  \u2013  %2  \u2013  %3").arg(shot.caption, shot.file, shot.model);
+        const QString text = u"%1  \u2013  %2  \u2013  %3"_s.arg(shot.caption, shot.file, shot.model);
         painter.drawText(QRect(left, m_bottom, size.width(), captionHeight),
                          Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap, text);
         painter.drawImage(left, m_bottom + captionHeight,
@@ -189,14 +217,13 @@ private:
     int m_bottom = 0;
 };
 
-void makeSheets(const QDir& folder)
+/// All screens, each file once, the highest first. Saves every picture of every model into @p single.
+QVector<Shot> takeShots(const QDir& single)
 {
-    const QDir single(folder.filePath(QStringLiteral("single")));
-    folder.mkpath(single.path());
     QVector<Shot> distinct;
     for (const int model : modelOrder) {
         for (const Shot& shot : shotsOf(model)) {
-            const QString name = QStringLiteral("%1-%2.png").arg(shot.file.section(u'.', 0, 0)).arg(model);
+            const QString name = u"%1-%2.png"_s.arg(shot.file.section(u'.', 0, 0)).arg(model);
             shot.image.save(single.filePath(name));
             const auto isSame = [&](const Shot& other) {
                 return other.file.compare(shot.file, Qt::CaseInsensitive) == 0;
@@ -205,13 +232,19 @@ void makeSheets(const QDir& folder)
                 distinct.append(shot);
         }
     }
-    std::stable_sort(distinct.begin(), distinct.end(), [](const Shot& left, const Shot& right) {
-        return left.image.height() > right.image.height();
-    });
-    std::printf("%d screens\n", static_cast<int>(distinct.size()));
+    std::ranges::stable_sort(distinct, std::greater(), [](const Shot& shot) { return shot.image.height(); });
+    return distinct;
+}
+
+void makeSheets(const QDir& folder)
+{
+    const QDir single(folder.filePath(u"single"_s));
+    folder.mkpath(single.path());
+    QVector<Shot> shots = takeShots(single);
+    std::printf("%d screens\n", static_cast<int>(shots.size()));
     Sheets sheets(folder);
-    while (!distinct.isEmpty())
-        sheets.pasteRow(distinct);
+    while (!shots.isEmpty())
+        sheets.pasteRow(shots);
     sheets.finish();
 }
 
@@ -228,7 +261,7 @@ int main(int argc, char** argv)
         return 2;
     }
     ui::applyAppearance(application);
-    // The shops work in folders of their own.
+    // Absolute, since a shop changes the working directory.
     makeSheets(QDir(QDir(QString::fromLocal8Bit(argv[1])).absolutePath()));
     return 0;
 }
