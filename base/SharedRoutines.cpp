@@ -4,9 +4,7 @@
 #include "base/CustomerSettings.h"
 #include "platform/ChildProcess.h"
 #include "platform/FilePaths.h"
-#include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
-#include "platform/TextFields.h"
 #include "platform/TextValues.h"
 
 #include <QCoreApplication>
@@ -23,20 +21,6 @@ namespace
 
 /// Shortest memory file of the newer firmware.
 constexpr qint64 newerFirmwareLength = 78;
-/// The register's own mark in texts, and the character that stands for it in the database.
-constexpr QChar registerMark{0xFD};
-constexpr QChar shownMark{u'^'};
-
-QString centred(const QString& text, int width)
-{
-    if (text.size() > width) {
-        throw RuntimeFailure(Failure::InvalidArgument,
-                             QStringLiteral("Invalid argument: \"%1\" is longer than %2 characters")
-                                 .arg(text, QString::number(width)));
-    }
-    const int pad = roundHalfEven(static_cast<double>(width - text.size()) / 2);
-    return (QString(pad, u' ') + text).leftJustified(width, u' ', true);
-}
 
 } // namespace
 
@@ -63,43 +47,6 @@ int GetFirmwareGeneration(const ApplicationValues& values, Boxes& boxes)
         return -1;
     }
     return file.size() < newerFirmwareLength ? 2 : 3;
-}
-
-QString JustifyField(std::optional<QString>& value, int width, int mode)
-{
-    const QString text = value ? trimBlanks(*value).toString() : QString();
-    QString result;
-    switch (mode) {
-    case 0:
-        result = (QString(width, u'0') + text).right(width);
-        break;
-    case 1:
-        result = text.leftJustified(width, u' ', true);
-        break;
-    default:
-        result = centred(text, width);
-    }
-    value = result;
-    return result;
-}
-
-QString EscapeDelimiter(QString& text)
-{
-    return text.replace(registerMark, shownMark);
-}
-
-QString UnescapeDelimiter(QString& text)
-{
-    return text.replace(shownMark, registerMark);
-}
-
-QString StripLeadingZero(QString& text)
-{
-    QStringView rest = trimBlanks(text);
-    while (rest.startsWith(u'0'))
-        rest = rest.sliced(1);
-    text = rest.toString();
-    return text;
 }
 
 bool RunAndWait(const ApplicationValues& values, const QString& commandLine)

@@ -1,13 +1,10 @@
-// The small routines that menus, exchange and text records share. The text records depend on their odd cases
-// to the character.
+// The small routines that menus, exchange and text records share.
 #pragma once
 
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 
 #include <QString>
-
-#include <optional>
 
 namespace norvane
 {
@@ -37,20 +34,6 @@ namespace norvane
         return false;
     }
 }
-
-/// Replaces @p value (nothing counts as empty) by its trimmed text brought to @p width characters: mode 0
-/// zeros on the left and the rightmost kept, mode 1 blanks on the right and the leftmost kept, any other
-/// centred.
-/// @return the new value. @throws RuntimeFailure 5 when a centred value is longer than the width.
-QString JustifyField(std::optional<QString>& value, int width, int mode);
-
-/// Each chr(253), the register's own mark in texts, becomes "^". Changes @p text and returns it.
-QString EscapeDelimiter(QString& text);
-/// Each "^" becomes chr(253).
-QString UnescapeDelimiter(QString& text);
-
-/// Trims blanks and removes all leading zeros; a text of zeros only gives empty text (the form of file 16).
-QString StripLeadingZero(QString& text);
 
 /// Lets pending events run once, then runs a tool and waits for it. @return false when it could not be
 /// started.

@@ -121,7 +121,7 @@ void storeColumn(store::Recordset& record, const Column& column, std::string_vie
         storeFlags(record, column, value);
         return;
     }
-    const auto kept = column.form == Form::Count ? records::stripLeadingZero(value) : value;
+    const auto kept = column.form == Form::Count ? records::StripLeadingZero(value) : value;
     record.setValue(QLatin1String(column.field), store::Value::text(records::plainFromRegister(kept)));
 }
 

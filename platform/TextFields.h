@@ -10,22 +10,26 @@ namespace norvane
 {
 
 /// @p text without the spaces at both ends; no other white space goes.
+template <typename Char>
+[[nodiscard]] constexpr std::basic_string_view<Char> trimBlanks(std::basic_string_view<Char> text)
+{
+    while (text.starts_with(Char{' '}))
+        text.remove_prefix(1);
+    while (text.ends_with(Char{' '}))
+        text.remove_suffix(1);
+    return text;
+}
+
+/// The same for bytes of any kind.
 [[nodiscard]] constexpr std::string_view trimBlanks(std::string_view text)
 {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+    return trimBlanks<char>(text);
 }
 
 /// The same for a text of the screens and the database.
 [[nodiscard]] inline QStringView trimBlanks(QStringView text)
 {
-    while (text.startsWith(u' '))
-        text = text.sliced(1);
-    while (text.endsWith(u' '))
-        text.chop(1);
-    return text;
+    return trimBlanks(std::u16string_view(text.utf16(), static_cast<std::size_t>(text.size())));
 }
 
 } // namespace norvane

@@ -3,6 +3,7 @@
 
 #include "base/CustomerSettings.h"
 #include "base/SharedRoutines.h"
+#include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/TextValues.h"
@@ -13,33 +14,35 @@
 
 #include <QFile>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::records
 {
 namespace
 {
 
-/// So much text is gathered before it goes to the file.
+/// The text goes to the file in blocks of this size.
 constexpr std::size_t writeBlock = std::size_t{64} * 1024;
 
 QString textName(const RegisterFile& file)
 {
-    return QStringLiteral("%1.txt").arg(file.number);
+    return u"%1.txt"_s.arg(file.number);
 }
 
 QString importLine(const RegisterFile& file, const ApplicationValues& values)
 {
-    return QStringLiteral("convert w%1 f%2.dat t%2.txt %3")
-        .arg(GetModelCode(values), QString::number(file.number), QLatin1String(file.importOperation));
+    return u"convert w%1 f%2.dat t%2.txt %3"_s.arg(GetModelCode(values), QString::number(file.number),
+                                                   QLatin1String(file.importOperation));
 }
 
 QString exportLine(const RegisterFile& file, const ApplicationValues& values)
 {
     const QString model = GetModelCode(values);
-    const bool isDorvik = model.compare(QLatin1String("Dorvik"), Qt::CaseInsensitive) == 0;
+    const bool isDorvik = model.compare("Dorvik"_L1, Qt::CaseInsensitive) == 0;
     const char* operation =
         isDorvik && file.dorvikOperation != nullptr ? file.dorvikOperation : file.exportOperation;
-    return QStringLiteral("convert w%1 f%2.txt t%2.dat %3")
-        .arg(model, QString::number(file.number), QLatin1String(operation));
+    return u"convert w%1 f%2.txt t%2.dat %3"_s.arg(model, QString::number(file.number),
+                                                   QLatin1String(operation));
 }
 
 RegisterTraits traitsOf(const ProcedureContext& context)
@@ -68,24 +71,18 @@ public:
 private:
     void storeLine(std::string_view line, qint64 number)
     {
-        try {
-            if (m_file.upload == Upload::ReplacesTable) {
-                addRecord(line, number);
-            } else {
-                updateRecord(line, number);
-            }
-        } catch (const RuntimeFailure& failure) {
-            throw RuntimeFailure(failure.failure(),
-                                 QStringLiteral("%1: %2").arg(placeOf(number), failure.text()));
-        }
+        const auto store =
+            m_file.upload == Upload::ReplacesTable ? &Import::addRecord : &Import::updateRecord;
+        atPlace([&](const QString& text) { return u"%1: %2"_s.arg(placeOf(number), text); },
+                [&] { (this->*store)(line, number); });
     }
 
     /// Where a failure came up, in words for the user. A record that could not be stored has no column.
     [[nodiscard]] QString placeOf(qint64 line) const
     {
-        const QString place = QStringLiteral("%1, line %2").arg(textName(m_file)).arg(line);
+        const QString place = u"%1, line %2"_s.arg(textName(m_file)).arg(line);
         const int column = m_reader.column();
-        return column == 0 ? place : QStringLiteral("%1, column %2").arg(place).arg(column);
+        return column == 0 ? place : u"%1, column %2"_s.arg(place).arg(column);
     }
 
     void addRecord(std::string_view line, qint64 number)
@@ -117,9 +114,8 @@ public:
     explicit TextOutput(const QString& path) : m_file(existingPath(path))
     {
         if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-            throw RuntimeFailure(
-                Failure::PathOrFileAccess,
-                QStringLiteral("Path/File access error: %1 (%2)").arg(path, m_file.errorString()));
+            throw RuntimeFailure(Failure::PathOrFileAccess,
+                                 u"Path/File access error: %1 (%2)"_s.arg(path, m_file.errorString()));
         }
     }
 
@@ -127,9 +123,8 @@ public:
     {
         const auto size = static_cast<qint64>(text.size());
         if (m_file.write(text.data(), size) != size) {
-            throw RuntimeFailure(
-                Failure::DiskFull,
-                QStringLiteral("Disk full: %1 (%2)").arg(m_file.fileName(), m_file.errorString()));
+            throw RuntimeFailure(Failure::DiskFull,
+                                 u"Disk full: %1 (%2)"_s.arg(m_file.fileName(), m_file.errorString()));
         }
     }
 
@@ -190,7 +185,7 @@ void importRegisterFile(int number, const ProcedureContext& context)
     records.setIndex(QLatin1String(file.index));
     // The table goes before the text is looked for: without a text it stays empty.
     if (file.upload == Upload::ReplacesTable)
-        database.execute(QStringLiteral("delete * from %1").arg(QLatin1String(file.table)));
+        database.execute(u"delete * from %1"_s.arg(QLatin1String(file.table)));
     const QByteArray content = readWholeFile(textName(file));
     Import(file, records)
         .storeAll(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));

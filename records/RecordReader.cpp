@@ -2,15 +2,16 @@
 // through here, so the usual column is converted without a detour.
 #include "records/RecordReader.h"
 
+#include "base/FieldText.h"
 #include "base/SharedRoutines.h"
 #include "platform/Decimal.h"
 #include "platform/RuntimeFailure.h"
-#include "platform/TextFields.h"
 #include "records/RecordText.h"
 
 #include <algorithm>
 #include <charconv>
 #include <optional>
+#include <type_traits>
 
 namespace norvane::records
 {
@@ -20,12 +21,10 @@ namespace
 using store::FieldType;
 using store::Value;
 
-/// So many digits fit a whole number of the table whatever they are.
+/// Any number this short fits a Long.
 constexpr std::size_t shortNumber = 9;
-/// So many digits fit a decimal whatever they are.
+/// Any number this short fits a Decimal.
 constexpr std::size_t longestCoefficient = 18;
-/// What a symbol is kept as: its code, the register's own mark as that of the "^" that stands for it.
-constexpr unsigned char registerMark = 0xFD;
 
 /// The number that @p text consists of. @return nothing when it is not digits alone or too long for it.
 std::optional<std::int64_t> plainNumber(std::string_view text, std::size_t mostDigits)
@@ -64,7 +63,7 @@ Value exactValue(FieldType type, const Decimal& number)
     return holdsNumbers(type) ? Value::number(number.toDouble()) : Value::text(number.text());
 }
 
-Value scaledValue(FieldType type, std::string_view text, const Column& column)
+Value scaledValue(FieldType type, std::string_view text, const ScaledColumn& column)
 {
     if (column.leading)
         return exactValue(type, Decimal::leading(text).shifted(-column.scale));
@@ -104,7 +103,7 @@ std::string hexByte(std::string_view text)
 /// The choice digit that the column begins with behind its zeros; any other character is no choice.
 std::array<int, 2> firstDigit(std::string_view text)
 {
-    const char first = stripLeadingZero(text).front();
+    const char first = StripLeadingZero(text).front();
     return {first == '4' ? 4 : first == '2' ? 2 : 0, 0};
 }
 
@@ -119,7 +118,7 @@ RecordReader::RecordReader(const RecordLayout& layout, store::Recordset& records
     : m_layout(layout), m_records(records), m_numbersLines(!layout.lineNumberField.empty())
 {
     if (m_numbersLines)
-        m_lineNumber = targetOf(layout.lineNumberField);
+        m_lineNumberField = targetOf(layout.lineNumberField);
     for (const ColumnSet& set : layout.sets) {
         auto& steps = m_sets.emplace_back();
         for (const Column& column : set.columns)
@@ -136,135 +135,133 @@ RecordReader::Target RecordReader::targetOf(const std::string& field) const
 
 RecordReader::Step RecordReader::stepOf(const Column& column) const
 {
-    Step step{&column, {}, {}, {}};
-    if (column.readForm != Form::Literal && column.readForm != Form::Options)
-        step.target = targetOf(column.readField);
-    if (!column.kindField.empty())
-        step.kind = targetOf(column.kindField);
+    Step step{&column, false, {}, {}, {}};
+    const auto look = [&]<typename Form>(const Form& form) {
+        if constexpr (std::is_same_v<Form, NumberColumn>) {
+            step.target = targetOf(form.readField);
+            step.rereads = form.rereads;
+        } else if constexpr (std::is_same_v<Form, OptionsColumn>) {
+            addDigits(step, form);
+        } else if constexpr (!std::is_same_v<Form, SpareColumn>) {
+            step.target = targetOf(form.field);
+        }
+        if constexpr (std::is_same_v<Form, LeftBoundColumn>)
+            step.kind = targetOf(form.kindField);
+    };
+    std::visit(look, column);
+    return step;
+}
+
+void RecordReader::addDigits(Step& step, const OptionsColumn& column) const
+{
+    if (!column.numberField.empty())
+        step.target = targetOf(column.numberField);
     for (std::size_t place = 0; place < column.digits.size(); ++place) {
         for (const DigitPart& part : column.digits[place]) {
             if (part.reading != DigitPart::Reading::Nothing)
                 step.digits.push_back({&part, targetOf(part.readField), part.fromRightDigit ? 1 : place});
         }
     }
-    return step;
 }
 
 void RecordReader::read(std::string_view line, std::int64_t lineNumber)
 {
     m_column = 0;
+    m_line = lineNumber;
     if (m_numbersLines)
-        set(m_lineNumber, Value::whole(lineNumber));
+        set(m_lineNumberField, Value::whole(lineNumber));
     std::string_view text;
     for (const Step& step : m_sets[m_layout.setOf(lineNumber)]) {
-        if (!step.column->rereads) {
+        if (!step.rereads) {
             ++m_column;
             text = takeField(line);
         }
-        store(step, text, lineNumber);
+        std::visit([&](const auto& column) { store(column, step, text); }, *step.column);
     }
     m_column = 0;
 }
 
-void RecordReader::store(const Step& step, std::string_view text, std::int64_t lineNumber)
+void RecordReader::store(const NumberColumn& column, const Step& step, std::string_view text)
 {
-    switch (step.column->readForm) {
-    case Form::Number:
-        storeNumber(step, text);
-        break;
-    case Form::Text:
-        storeText(step, text, lineNumber);
-        break;
-    case Form::Options:
-        storeOptions(step, text);
-        break;
-    case Form::Symbol: {
-        const auto code = static_cast<unsigned char>(stripLeadingZero(text).front());
-        set(step.target, Value::whole(code == registerMark ? '^' : code));
-        break;
-    }
-    case Form::HexByte:
-        storeHexByte(step, text);
-        break;
-    case Form::Piece:
-        storePiece(step, text);
-        break;
-    case Form::Literal:
-        break;
-    }
-}
-
-void RecordReader::storeNumber(const Step& step, std::string_view text)
-{
-    const Column& column = *step.column;
-    if (!column.codeWords.empty()) {
-        storeCodeWord(step, text);
-        return;
-    }
-    text = text.substr(0, charactersRead(step));
-    std::string_view digits = column.raw ? text : stripLeadingZero(text);
+    text = text.substr(0, column.cut);
+    std::string_view digits = column.raw ? text : StripLeadingZero(text);
     if (column.firstCharacter)
         digits = digits.substr(0, 1);
-    const auto type = step.target.type;
-    set(step.target, column.scale == 0 ? numberValue(type, digits) : scaledValue(type, digits, column));
+    set(step.target, numberValue(step.target.type, digits));
 }
 
-std::size_t RecordReader::charactersRead(const Step& step) const
+void RecordReader::store(const ScaledColumn& column, const Step& step, std::string_view text)
 {
-    const Column& column = *step.column;
-    const bool leftBound =
-        !column.kindField.empty() && m_records.value(step.kind.ordinal).toUtf8() == column.kind;
-    return leftBound ? column.leftPlaces : column.cut;
+    set(step.target, scaledValue(step.target.type, StripLeadingZero(text), column));
 }
 
-void RecordReader::storeCodeWord(const Step& step, std::string_view text)
+void RecordReader::store(const CodeColumn& column, const Step& step, std::string_view text)
 {
-    QString shown = QString::fromStdString(plainFromRegister(text));
-    std::string name = norvane::StripLeadingZero(shown).toStdString();
-    const auto& words = step.column->codeWords;
-    const auto found =
-        std::find_if(words.begin(), words.end(), [&](const CodeWord& word) { return word.answered == name; });
-    if (found != words.end())
-        name = found->stored;
-    set(step.target, Value::text(std::move(name)));
+    std::string name = plainFromRegister(withoutLeadingZeros(text));
+    const auto found = std::find_if(column.words.begin(), column.words.end(),
+                                    [&](const CodeWord& word) { return word.answered == name; });
+    set(step.target, Value::text(found == column.words.end() ? std::move(name) : found->stored));
 }
 
-void RecordReader::storeHexByte(const Step& step, std::string_view text)
+void RecordReader::store(const LeftBoundColumn& column, const Step& step, std::string_view text)
 {
-    if (step.column->place == 0)
+    if (m_records.value(step.kind.ordinal).toUtf8() == column.kind)
+        text = text.substr(0, column.places);
+    set(step.target, numberValue(step.target.type, StripLeadingZero(text)));
+}
+
+void RecordReader::store(const TextColumn& column, const Step& step, std::string_view text)
+{
+    if (!column.defaultText.empty() && trimBlanks(text).empty()) {
+        const std::string name = column.defaultText + std::to_string(m_line);
+        set(step.target, Value::text(std::string(cutTo(name, step.target.size))));
+    } else {
+        set(step.target, Value::text(textFromRegister(column.stripped ? StripLeadingZero(text) : text)));
+    }
+}
+
+void RecordReader::store(const MessageColumn& /*column*/, const Step& step, std::string_view text)
+{
+    set(step.target, Value::text(textFromRegister(StripLeadingZero(text))));
+}
+
+void RecordReader::store(const OptionsColumn& column, const Step& step, std::string_view text)
+{
+    if (!column.numberField.empty()) {
+        set(step.target, numberValue(step.target.type, StripLeadingZero(text)));
+        return;
+    }
+    const auto digits = column.firstCharacter ? firstDigit(text) : optionDigits(text);
+    for (const Digit& digit : step.digits)
+        storeDigit(digit, digits.at(digit.place), text);
+}
+
+/// A symbol is kept as its code, the register's own mark as that of the "^" that stands for it.
+void RecordReader::store(const SymbolColumn& /*column*/, const Step& step, std::string_view text)
+{
+    const auto code = static_cast<unsigned char>(StripLeadingZero(text).front());
+    set(step.target, Value::whole(code == registerMark ? shownMark : code));
+}
+
+void RecordReader::store(const HexByteColumn& column, const Step& step, std::string_view text)
+{
+    if (column.place == 0)
         m_joined.clear();
     m_joined += hexByte(text);
     set(step.target, Value::text(m_joined));
 }
 
 /// A column that is not there adds nothing, not even the point.
-void RecordReader::storePiece(const Step& step, std::string_view text)
+void RecordReader::store(const PieceColumn& column, const Step& step, std::string_view text)
 {
-    if (step.column->place == 0)
+    if (column.place == 0)
         m_joined.clear();
     if (!text.empty())
-        m_joined.append(step.column->point).append(text);
+        m_joined.append(column.point).append(text);
     set(step.target, numberValue(step.target.type, m_joined));
 }
 
-void RecordReader::storeText(const Step& step, std::string_view text, std::int64_t lineNumber)
-{
-    const std::string& name = step.column->defaultText;
-    if (!name.empty() && trimBlanks(text).empty()) {
-        const std::string numbered = name + std::to_string(lineNumber);
-        set(step.target, Value::text(std::string(cutTo(numbered, step.target.size))));
-    } else {
-        set(step.target,
-            Value::text(textFromRegister(step.column->stripped ? stripLeadingZero(text) : text)));
-    }
-}
-
-void RecordReader::storeOptions(const Step& step, std::string_view text)
-{
-    const auto digits = step.column->firstCharacter ? firstDigit(text) : optionDigits(text);
-    for (const Digit& digit : step.digits)
-        storeDigit(digit, digits.at(digit.place), text);
-}
+void RecordReader::store(const SpareColumn& /*column*/, const Step& /*step*/, std::string_view /*text*/) {}
 
 void RecordReader::storeDigit(const Digit& digit, int value, std::string_view column)
 {

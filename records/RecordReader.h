@@ -44,31 +44,38 @@ private:
     };
     struct Step {
         const Column* column;
+        bool rereads = false; ///< takes the text of the column before
         Target target;
-        Target kind;
+        Target kind; ///< field that tells what kind of number the column holds
         std::vector<Digit> digits;
     };
 
     [[nodiscard]] Target targetOf(const std::string& field) const;
     [[nodiscard]] Step stepOf(const Column& column) const;
-    void store(const Step& step, std::string_view text, std::int64_t lineNumber);
-    void storeNumber(const Step& step, std::string_view text);
-    void storeText(const Step& step, std::string_view text, std::int64_t lineNumber);
-    void storeOptions(const Step& step, std::string_view text);
-    void storeCodeWord(const Step& step, std::string_view text);
-    void storeHexByte(const Step& step, std::string_view text);
-    void storePiece(const Step& step, std::string_view text);
-    [[nodiscard]] std::size_t charactersRead(const Step& step) const;
+    void addDigits(Step& step, const OptionsColumn& column) const;
+
+    void store(const NumberColumn& column, const Step& step, std::string_view text);
+    void store(const ScaledColumn& column, const Step& step, std::string_view text);
+    void store(const CodeColumn& column, const Step& step, std::string_view text);
+    void store(const LeftBoundColumn& column, const Step& step, std::string_view text);
+    void store(const TextColumn& column, const Step& step, std::string_view text);
+    void store(const MessageColumn& column, const Step& step, std::string_view text);
+    void store(const OptionsColumn& column, const Step& step, std::string_view text);
+    void store(const SymbolColumn& column, const Step& step, std::string_view text);
+    void store(const HexByteColumn& column, const Step& step, std::string_view text);
+    void store(const PieceColumn& column, const Step& step, std::string_view text);
+    void store(const SpareColumn& column, const Step& step, std::string_view text);
     void storeDigit(const Digit& digit, int value, std::string_view column);
     void set(const Target& target, store::Value value);
 
     const RecordLayout& m_layout;
     store::Recordset& m_records;
     bool m_numbersLines = false;
-    Target m_lineNumber;
+    Target m_lineNumberField;
+    std::int64_t m_line = 0;
     std::vector<std::vector<Step>> m_sets;
     int m_column = 0;
-    std::string m_joined; ///< hexadecimal digits or pieces of the columns before
+    std::string m_joined; ///< bytes or pieces of the columns before
 };
 
 } // namespace norvane::records

@@ -1,8 +1,6 @@
-// The text of a register record: lines, comma columns, numbers filled with zeros, texts filled with blanks,
-// packed option digits. All of it works on views of the file's own bytes (Windows-1252).
+// Splitting of register records into lines and comma columns, and what some columns hold. All of it works on
+// views of the file's own bytes (Windows-1252).
 #pragma once
-
-#include <QString>
 
 #include <array>
 #include <string>
@@ -22,22 +20,11 @@ namespace norvane::records
 /// While the trimmed text begins with a zero, it is replaced by the trimmed text without that zero. Blanks
 /// around a text that begins with anything else stay. @return "0" when nothing is left; a text of blanks
 /// alone as it is.
-[[nodiscard]] std::string_view stripLeadingZero(std::string_view text);
-/// The same on a text of the exchange forms; changes @p text and returns it.
-QString StripLeadingZero(QString& text);
+[[nodiscard]] std::string_view StripLeadingZero(std::string_view text);
 
 /// The two digits of an option column, 0 to 9 each, after the text was brought to two digits ("4" is 0 and
 /// 4). Empty text counts as "00". @throws RuntimeFailure 13 for anything that does not give two digits.
 [[nodiscard]] std::array<int, 2> optionDigits(std::string_view column);
-
-/// Appends the trimmed @p text brought to @p width bytes: zeros on the left, the rightmost bytes kept.
-void appendZeroFilled(std::string& out, std::string_view text, std::size_t width);
-/// Appends the trimmed text in the register's character set, brought to @p width bytes: blanks on the right,
-/// the leftmost bytes kept. Each "^" becomes the register's own mark.
-void appendBlankFilled(std::string& out, std::string_view utf8, std::size_t width);
-
-/// The same with "^" left as it is.
-void appendPlainBlankFilled(std::string& out, std::string_view utf8, std::size_t width);
 
 /// A text column as the database holds it: UTF-8, the register's own mark shown as "^".
 [[nodiscard]] std::string textFromRegister(std::string_view bytes);

@@ -1,17 +1,18 @@
 // Builds the columns of a record; see RecordWriter.h.
 #include "records/RecordWriter.h"
 
+#include "base/FieldText.h"
 #include "platform/Decimal.h"
 #include "platform/Numbers.h"
-#include "platform/RuntimeFailure.h"
-#include "platform/TextFields.h"
 #include "platform/Windows1252.h"
-#include "records/RecordText.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdlib>
+#include <type_traits>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::records
 {
@@ -21,7 +22,9 @@ namespace
 using store::Value;
 
 constexpr int largestCode = 255;
-/// Firmware from here on keeps some texts to itself.
+constexpr std::size_t symbolWidth = 3;
+constexpr std::size_t pieceWidth = 2;
+/// Firmware that does not get some texts.
 constexpr int withholdingGeneration = 3;
 
 /// A field's value as text without a copy where the value has one already; lives as long as the value.
@@ -58,21 +61,59 @@ bool isAscii(std::string_view text)
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-void appendPlainNumber(std::string& out, std::string_view text, std::size_t width)
+/// @p utf8 in the register's character set, as a view of itself where that is the same.
+class RegisterText
 {
-    if (isAscii(text)) {
-        appendZeroFilled(out, text, width);
-        return;
+public:
+    explicit RegisterText(std::string_view utf8) : m_view(utf8)
+    {
+        if (isAscii(utf8))
+            return;
+        appendWindows1252FromUtf8(m_own, utf8);
+        m_view = m_own;
     }
-    std::string bytes;
-    appendWindows1252FromUtf8(bytes, text);
-    appendZeroFilled(out, bytes, width);
+    RegisterText(const RegisterText&) = delete;
+    RegisterText& operator=(const RegisterText&) = delete;
+    ~RegisterText() = default;
+    [[nodiscard]] std::string_view view() const { return m_view; }
+
+private:
+    std::string m_own;
+    std::string_view m_view;
+};
+
+void appendNumber(std::string& out, const Value& value, std::size_t width)
+{
+    appendZeroFilled(out, RegisterText(ValueText(value).view()).view(), width);
 }
 
-void appendScaledNumber(std::string& out, std::string_view text, const Column& column)
+void appendPlainText(std::string& out, std::string_view utf8, std::size_t width)
 {
-    const auto number = Decimal::leading(text).shifted(column.scale).toWhole();
-    appendZeroFilled(out, std::to_string(number), column.width);
+    appendBlankFilled(out, RegisterText(utf8).view(), width);
+}
+
+void appendText(std::string& out, std::string_view utf8, std::size_t width)
+{
+    std::string bytes;
+    appendWindows1252FromUtf8(bytes, utf8);
+    appendBlankFilled(out, UnescapeDelimiter(bytes), width);
+}
+
+bool isWritten(const Column& column)
+{
+    const auto* number = std::get_if<NumberColumn>(&column);
+    return number == nullptr || number->written;
+}
+
+bool isMessage(const Column& column)
+{
+    return std::holds_alternative<MessageColumn>(column);
+}
+
+bool hasWithheldTexts(const Column& column)
+{
+    const auto* text = std::get_if<TextColumn>(&column);
+    return text != nullptr && !text->withheldTexts.empty();
 }
 
 } // namespace
@@ -80,22 +121,16 @@ void appendScaledNumber(std::string& out, std::string_view text, const Column& c
 RecordWriter::RecordWriter(const RecordLayout& layout, const store::Recordset& records, RegisterTraits traits)
     : m_layout(layout), m_records(records), m_traits(std::move(traits))
 {
-    const auto isMessage = [](const Column& column) {
-        return column.isMessageLine;
-    };
-    const auto withholds = [](const Column& column) {
-        return !column.withheldTexts.empty();
-    };
     for (const ColumnSet& set : layout.sets) {
         auto& steps = m_sets.emplace_back();
         for (const Column& column : set.columns) {
-            if (column.written)
+            if (isWritten(column))
                 steps.push_back(stepOf(column));
         }
     }
     const auto& usual = layout.sets.front().columns;
     m_hasMessages = std::any_of(usual.begin(), usual.end(), isMessage);
-    m_withholdsTexts = std::any_of(usual.begin(), usual.end(), withholds) &&
+    m_withholdsTexts = std::any_of(usual.begin(), usual.end(), hasWithheldTexts) &&
                        m_traits.firmwareGeneration() == withholdingGeneration;
 }
 
@@ -107,15 +142,24 @@ int RecordWriter::ordinalOf(const std::string& field)
 RecordWriter::Step RecordWriter::stepOf(const Column& column)
 {
     Step step{&column, 0, 0, {}};
-    if (column.form != Form::Literal && column.form != Form::Options)
-        step.ordinal = ordinalOf(column.field);
-    if (!column.kindField.empty())
-        step.kindOrdinal = ordinalOf(column.kindField);
+    const auto look = [&]<typename Form>(const Form& form) {
+        if constexpr (std::is_same_v<Form, OptionsColumn>)
+            addDigits(step, form);
+        else if constexpr (!std::is_same_v<Form, SpareColumn>)
+            step.ordinal = ordinalOf(form.field);
+        if constexpr (std::is_same_v<Form, LeftBoundColumn>)
+            step.kindOrdinal = ordinalOf(form.kindField);
+    };
+    std::visit(look, column);
+    return step;
+}
+
+void RecordWriter::addDigits(Step& step, const OptionsColumn& column)
+{
     for (std::size_t place = 0; place < column.digits.size(); ++place) {
         for (const DigitPart& part : column.digits[place])
             step.digits[place].push_back({&part, ordinalOf(part.field)});
     }
-    return step;
 }
 
 void RecordWriter::appendLine(std::string& out)
@@ -123,51 +167,59 @@ void RecordWriter::appendLine(std::string& out)
     ++m_record;
     if (m_hasMessages)
         m_messageWidth = m_traits.messageWidth();
-    const auto& steps = m_sets[m_layout.setOf(m_record)];
-    for (const Step& step : steps) {
-        if (&step != &steps.front())
-            out += ',';
-        appendColumn(out, step);
+    for (const Step& step : m_sets[m_layout.setOf(m_record)]) {
+        std::visit([&](const auto& column) { append(out, column, step); }, *step.column);
+        out += ',';
     }
-    out += "\r\n";
+    // The line end takes the place of the last comma.
+    out.back() = '\r';
+    out += '\n';
 }
 
-void RecordWriter::appendColumn(std::string& out, const Step& step)
+void RecordWriter::append(std::string& out, const NumberColumn& column, const Step& step) const
 {
-    switch (step.column->form) {
-    case Form::Number:
-        appendNumber(out, step);
-        break;
-    case Form::Text:
-        appendText(out, step);
-        break;
-    case Form::Options:
-        appendOptions(out, step);
-        break;
-    case Form::Symbol:
-        appendSymbol(out, step);
-        break;
-    case Form::HexByte:
-        appendHexByte(out, step);
-        break;
-    case Form::Piece:
-        appendPiece(out, step);
-        break;
-    case Form::Literal:
-        break;
-    }
-    out += step.column->literal;
+    const auto start = out.size();
+    appendNumber(out, m_records.value(step.ordinal), column.width);
+    if (!column.usual.empty() && std::string_view(out).substr(start) == column.usual)
+        out.replace(start, column.usual.size(), column.instead);
+    out += column.tail;
 }
 
-bool RecordWriter::isWithheld(const Column& column) const
+void RecordWriter::append(std::string& out, const ScaledColumn& column, const Step& step) const
+{
+    const ValueText text(m_records.value(step.ordinal));
+    const auto number = Decimal::leading(text.view()).shifted(column.scale).toWhole();
+    appendZeroFilled(out, std::to_string(number), column.width);
+}
+
+void RecordWriter::append(std::string& out, const CodeColumn& column, const Step& step) const
+{
+    const Value& value = m_records.value(step.ordinal);
+    const ValueText text(value);
+    const auto word = std::find_if(column.words.begin(), column.words.end(),
+                                   [&](const CodeWord& known) { return known.stored == text.view(); });
+    if (word != column.words.end())
+        out += word->sent;
+    else
+        appendNumber(out, value, column.width);
+}
+
+void RecordWriter::append(std::string& out, const LeftBoundColumn& column, const Step& step) const
+{
+    const bool leftBound = m_records.value(step.kindOrdinal).toUtf8() == column.kind;
+    const auto digits = leftBound ? column.places : column.width;
+    appendNumber(out, m_records.value(step.ordinal), digits);
+    out.append(column.width - digits, '0');
+}
+
+bool RecordWriter::isWithheld(const TextColumn& column) const
 {
     const auto last = column.firstWithheld + static_cast<std::int64_t>(column.withheldTexts.size());
     return m_withholdsTexts && m_record >= column.firstWithheld && m_record < last;
 }
 
-void RecordWriter::appendText(std::string& out, const Step& step)
+void RecordWriter::append(std::string& out, const TextColumn& column, const Step& step)
 {
-    const Column& column = *step.column;
     const ValueText text(m_records.value(step.ordinal));
     auto sent = text.view();
     if (isWithheld(column)) {
@@ -175,85 +227,55 @@ void RecordWriter::appendText(std::string& out, const Step& step)
             m_latestDefault = column.withheldTexts[static_cast<std::size_t>(m_record - column.firstWithheld)];
         sent = m_latestDefault;
     }
-    const auto width = column.isMessageLine ? m_messageWidth : column.width;
-    (column.marksKept ? appendPlainBlankFilled : appendBlankFilled)(out, sent, width);
+    (column.marksKept ? appendPlainText : appendText)(out, sent, column.width);
 }
 
-void RecordWriter::appendLeftBound(std::string& out, const Step& step) const
+void RecordWriter::append(std::string& out, const MessageColumn& /*column*/, const Step& step) const
 {
-    const Column& column = *step.column;
-    appendPlainNumber(out, ValueText(m_records.value(step.ordinal)).view(), column.leftPlaces);
-    out.append(column.width - column.leftPlaces, '0');
+    appendText(out, ValueText(m_records.value(step.ordinal)).view(), m_messageWidth);
 }
 
-/// The field's two digits as far as they are hexadecimal, the rest counts as not there.
-void RecordWriter::appendHexByte(std::string& out, const Step& step) const
-{
-    const ValueText text(m_records.value(step.ordinal));
-    std::string digits;
-    appendWindows1252FromUtf8(digits, text.view());
-    const auto start = std::min(2 * static_cast<std::size_t>(step.column->place), digits.size());
-    const auto pair = std::string_view(digits).substr(start, 2);
-    unsigned byte = 0;
-    std::from_chars(pair.data(), pair.data() + pair.size(), byte, 16);
-    appendZeroFilled(out, std::to_string(byte), step.column->width);
-}
-
-void RecordWriter::appendPiece(std::string& out, const Step& step) const
-{
-    const Column& column = *step.column;
-    const Value& value = m_records.value(step.ordinal);
-    const QString number = value.isNull() ? QStringLiteral("0") : value.toText();
-    const std::string all = formatNumber(number, QString::fromStdString(column.pattern)).toStdString();
-    const auto place = static_cast<std::size_t>(std::abs(column.place));
-    out += all.substr(column.place < 0 ? all.size() - place : place, column.width);
-}
-
-void RecordWriter::appendNumber(std::string& out, const Step& step) const
-{
-    const Column& column = *step.column;
-    if (!column.kindField.empty() && m_records.value(step.kindOrdinal).toUtf8() == column.kind) {
-        appendLeftBound(out, step);
-        return;
-    }
-    const ValueText text(m_records.value(step.ordinal));
-    const auto& words = column.codeWords;
-    const auto word = std::find_if(words.begin(), words.end(),
-                                   [&](const CodeWord& known) { return known.stored == text.view(); });
-    if (word != words.end()) {
-        out += word->sent;
-        return;
-    }
-    const auto start = out.size();
-    if (column.scale == 0) {
-        appendPlainNumber(out, text.view(), column.width);
-    } else {
-        appendScaledNumber(out, text.view(), column);
-    }
-    const auto& [usual, instead] = column.replacement;
-    if (!usual.empty() && std::string_view(out).substr(start) == usual)
-        out.replace(start, usual.size(), instead);
-}
-
-void RecordWriter::appendOptions(std::string& out, const Step& step) const
+void RecordWriter::append(std::string& out, const OptionsColumn& column, const Step& step) const
 {
     const int left = digitOf(step.digits[0]);
     const int right = digitOf(step.digits[1]);
-    if (step.column->bareOptions) {
-        out += std::to_string(10 * left + right);
-    } else {
-        out += std::to_string(left) + std::to_string(right);
-    }
+    out += column.isBare ? std::to_string(10 * left + right) : std::to_string(left) + std::to_string(right);
 }
 
 /// A code that stands for no character of the register is sent as blanks.
-void RecordWriter::appendSymbol(std::string& out, const Step& step) const
+void RecordWriter::append(std::string& out, const SymbolColumn& /*column*/, const Step& step) const
 {
     const int code = roundHalfEven(m_records.value(step.ordinal).toNumber());
-    std::string utf8;
+    std::string symbol;
     if (code > 0 && code <= largestCode)
-        appendUtf8FromWindows1252(utf8, std::string(1, static_cast<char>(code)));
-    appendBlankFilled(out, utf8, step.column->width);
+        symbol = static_cast<char>(code);
+    appendBlankFilled(out, UnescapeDelimiter(symbol), symbolWidth);
+}
+
+/// The field's two digits as far as they are hexadecimal; the rest counts as missing.
+void RecordWriter::append(std::string& out, const HexByteColumn& column, const Step& step) const
+{
+    const ValueText text(m_records.value(step.ordinal));
+    const RegisterText digits(text.view());
+    const auto start = std::min(2 * column.place, digits.view().size());
+    const auto pair = digits.view().substr(start, 2);
+    unsigned byte = 0;
+    std::from_chars(pair.data(), pair.data() + pair.size(), byte, 16);
+    appendZeroFilled(out, std::to_string(byte), column.width);
+}
+
+void RecordWriter::append(std::string& out, const PieceColumn& column, const Step& step) const
+{
+    const Value& value = m_records.value(step.ordinal);
+    const QString number = value.isNull() ? u"0"_s : value.toText();
+    const std::string all = formatNumber(number, QString::fromStdString(column.pattern)).toStdString();
+    const auto place = static_cast<std::size_t>(std::abs(column.place));
+    out += all.substr(column.place < 0 ? all.size() - place : place, pieceWidth);
+}
+
+void RecordWriter::append(std::string& out, const SpareColumn& column, const Step& /*step*/) const
+{
+    out.append(column.zeros, '0');
 }
 
 int RecordWriter::digitOf(const std::vector<Digit>& parts) const

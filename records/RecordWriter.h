@@ -44,21 +44,26 @@ private:
     struct Step {
         const Column* column;
         int ordinal;
-        int kindOrdinal;
+        int kindOrdinal; ///< of the field that tells what kind of number the column holds
         std::array<std::vector<Digit>, 2> digits;
     };
 
     [[nodiscard]] int ordinalOf(const std::string& field);
     [[nodiscard]] Step stepOf(const Column& column);
-    void appendColumn(std::string& out, const Step& step);
-    void appendText(std::string& out, const Step& step);
-    void appendLeftBound(std::string& out, const Step& step) const;
-    void appendHexByte(std::string& out, const Step& step) const;
-    void appendPiece(std::string& out, const Step& step) const;
-    [[nodiscard]] bool isWithheld(const Column& column) const;
-    void appendNumber(std::string& out, const Step& step) const;
-    void appendOptions(std::string& out, const Step& step) const;
-    void appendSymbol(std::string& out, const Step& step) const;
+    void addDigits(Step& step, const OptionsColumn& column);
+
+    void append(std::string& out, const NumberColumn& column, const Step& step) const;
+    void append(std::string& out, const ScaledColumn& column, const Step& step) const;
+    void append(std::string& out, const CodeColumn& column, const Step& step) const;
+    void append(std::string& out, const LeftBoundColumn& column, const Step& step) const;
+    void append(std::string& out, const TextColumn& column, const Step& step);
+    void append(std::string& out, const MessageColumn& column, const Step& step) const;
+    void append(std::string& out, const OptionsColumn& column, const Step& step) const;
+    void append(std::string& out, const SymbolColumn& column, const Step& step) const;
+    void append(std::string& out, const HexByteColumn& column, const Step& step) const;
+    void append(std::string& out, const PieceColumn& column, const Step& step) const;
+    void append(std::string& out, const SpareColumn& column, const Step& step) const;
+    [[nodiscard]] bool isWithheld(const TextColumn& column) const;
     [[nodiscard]] int digitOf(const std::vector<Digit>& parts) const;
     [[nodiscard]] int weightOf(const Digit& digit) const;
 

@@ -43,36 +43,6 @@ TEST_F(SharedRoutinesTest, PositionThreeIsARowOfTheRegisterAndNoBit)
     }
 }
 
-TEST_F(SharedRoutinesTest, TextsAreBroughtToTheFormOfRecords)
-{
-    const struct {
-        std::optional<QString> value;
-        int width;
-        int mode;
-        const char16_t* field;
-    } rows[] = {{QStringLiteral(" 12 "), 4, 0, u"0012"},
-                {QStringLiteral("123456"), 4, 0, u"3456"},
-                {{}, 3, 0, u"000"},
-                {QStringLiteral("  ab "), 4, 1, u"ab  "},
-                {QStringLiteral("123456"), 4, 1, u"1234"},
-                {QStringLiteral("ab"), 5, 2, u"  ab "},
-                {QStringLiteral("ab"), 7, 99, u"  ab   "}};
-    for (auto [value, width, mode, field] : rows) {
-        EXPECT_EQ(JustifyField(value, width, mode), field);
-        EXPECT_EQ(value, QString::fromUtf16(field)) << "the caller's own value";
-    }
-    std::optional<QString> longer = QStringLiteral("abcdef");
-    EXPECT_EQ(failureOf([&longer] { JustifyField(longer, 4, 2); }), 5);
-    QString text = QStringLiteral("ýCola ý0.5ý");
-    EXPECT_EQ(EscapeDelimiter(text), u"^Cola ^0.5^");
-    EXPECT_EQ(UnescapeDelimiter(text), u"ýCola ý0.5ý");
-    for (const auto& [given, stripped] : {std::pair{u" 0120 ", u"120"}, {u"0000", u""}, {u"0 5", u" 5"}}) {
-        text = QString::fromUtf16(given);
-        EXPECT_EQ(StripLeadingZero(text), stripped);
-        EXPECT_EQ(text, stripped);
-    }
-}
-
 TEST_F(SharedRoutinesTest, TheLastValueOfTheStatusFileCounts)
 {
     // Neither an empty place nor the end mark hides the error.

@@ -33,7 +33,10 @@ std::vector<Column> columnsRead(const ColumnSet& set)
 {
     std::vector<Column> columns;
     std::copy_if(set.columns.begin(), set.columns.end(), std::back_inserter(columns),
-                 [](const Column& column) { return !column.rereads; });
+                 [](const Column& column) {
+                     const auto* number = std::get_if<NumberColumn>(&column);
+                     return number == nullptr || !number->rereads;
+                 });
     return columns;
 }
 
@@ -43,9 +46,10 @@ QByteArrayList usualLine(const ColumnSet& set, const QByteArray& options, int nu
 {
     QByteArrayList line;
     for (const Column& column : columnsRead(set)) {
-        line << (column.form == Form::Options  ? options
-                 : column.field == "PLUNUMBER" ? test::plu(number)
-                                               : "1");
+        const auto* asNumber = std::get_if<NumberColumn>(&column);
+        const bool isKey = asNumber != nullptr && asNumber->field == "PLUNUMBER";
+        const bool isOptions = std::holds_alternative<OptionsColumn>(column);
+        line << (isOptions ? options : isKey ? test::plu(number) : "1");
     }
     return line;
 }
@@ -133,33 +137,56 @@ struct Fault {
     int failure = 0; ///< 0 when the column takes anything
 };
 
+constexpr int mismatch = 13;
+constexpr int conversion = 3421;
+constexpr int tooLong = 3163;
+
 /// A letter where digits belong, or more text than the field has room for.
-Fault faultOf(const RegisterFile& file, const Column& column)
+Fault fieldFault(const RegisterFile& file, const std::string& name)
 {
-    constexpr int mismatch = 13;
-    constexpr int conversion = 3421;
-    constexpr int tooLong = 3163;
-    switch (column.readForm) {
-    case Form::Options:
-        return {"4x", column.firstCharacter ? 0 : mismatch};
-    case Form::HexByte:
-        return {"1x", mismatch};
-    case Form::Piece:
-        return {"1x", conversion};
-    case Form::Symbol:
-    case Form::Literal:
-        return {"xx"};
-    case Form::Text:
-    case Form::Number:
-        break;
-    }
-    const FieldDefinition& field = fieldOf(file, column.readField);
-    if (column.scale != 0)
-        return {"1x", column.leading ? 0 : mismatch};
+    const FieldDefinition& field = fieldOf(file, name);
     if (field.type != FieldType::Text)
-        return {"1x", column.firstCharacter ? 0 : conversion};
+        return {"1x", conversion};
     const bool isOnlySought = file.upload == Upload::UpdatesRecords;
     return {QByteArray(field.size + 1, 'y'), isOnlySought ? 0 : tooLong};
+}
+
+template <typename Form>
+Fault faultOf(const RegisterFile& file, const Form& column)
+{
+    return fieldFault(file, column.field);
+}
+
+Fault faultOf(const RegisterFile& file, const NumberColumn& column)
+{
+    return column.firstCharacter ? Fault{"1x"} : fieldFault(file, column.readField);
+}
+
+Fault faultOf(const RegisterFile& /*file*/, const ScaledColumn& column)
+{
+    return {"1x", column.leading ? 0 : mismatch};
+}
+
+Fault faultOf(const RegisterFile& file, const OptionsColumn& column)
+{
+    if (!column.numberField.empty())
+        return fieldFault(file, column.numberField);
+    return {"4x", column.firstCharacter ? 0 : mismatch};
+}
+
+Fault faultOf(const RegisterFile& /*file*/, const HexByteColumn& /*column*/)
+{
+    return {"1x", mismatch};
+}
+
+Fault faultOf(const RegisterFile& /*file*/, const SymbolColumn& /*column*/)
+{
+    return {"xx"};
+}
+
+Fault faultOf(const RegisterFile& /*file*/, const SpareColumn& /*column*/)
+{
+    return {"xx"};
 }
 
 TEST(BadInputTest, NamesEachColumnThatItRefuses)
@@ -171,7 +198,8 @@ TEST(BadInputTest, NamesEachColumnThatItRefuses)
             const int line = set.records.empty() ? 1 : set.records.front();
             const auto columns = columnsRead(set);
             for (std::size_t column = 0; column < columns.size(); ++column) {
-                const Fault fault = faultOf(file, columns[column]);
+                const Fault fault =
+                    std::visit([&file](const auto& form) { return faultOf(file, form); }, columns[column]);
                 QByteArrayList bad = usualLine(set, "40");
                 bad[static_cast<qsizetype>(column)] = fault.text;
                 std::string place;

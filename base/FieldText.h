@@ -1,0 +1,80 @@
+// The forms that a field's text takes in register records. The functions on views and strings work on the
+// registers' bytes as well as on UTF-16; records use them in bulk. The named routines on QString stand on
+// them.
+#pragma once
+
+#include "platform/TextFields.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+namespace norvane
+{
+
+/// The register's own mark in texts, in its bytes and in Unicode, and the character that stands for it in the
+/// database.
+inline constexpr int registerMark = 0xFD;
+inline constexpr int shownMark = '^';
+
+/// Each mark of the register becomes "^". Changes @p text, bytes or QString, and returns it.
+template <typename Text>
+Text& EscapeDelimiter(Text& text)
+{
+    using Char = typename Text::value_type;
+    std::replace(text.begin(), text.end(), static_cast<Char>(registerMark), static_cast<Char>(shownMark));
+    return text;
+}
+
+/// Each "^" becomes the register's mark.
+template <typename Text>
+Text& UnescapeDelimiter(Text& text)
+{
+    using Char = typename Text::value_type;
+    std::replace(text.begin(), text.end(), static_cast<Char>(shownMark), static_cast<Char>(registerMark));
+    return text;
+}
+
+/// Appends the trimmed @p text brought to @p width characters: zeros on the left, the rightmost kept.
+template <typename Char>
+void appendZeroFilled(std::basic_string<Char>& out, std::type_identity_t<std::basic_string_view<Char>> text,
+                      std::size_t width)
+{
+    text = trimBlanks(text);
+    const auto kept = std::min(text.size(), width);
+    out.append(width - kept, '0').append(text.substr(text.size() - kept));
+}
+
+/// Appends the trimmed @p text brought to @p width characters: blanks on the right, the leftmost kept.
+template <typename Char>
+void appendBlankFilled(std::basic_string<Char>& out, std::type_identity_t<std::basic_string_view<Char>> text,
+                       std::size_t width)
+{
+    text = trimBlanks(text).substr(0, width);
+    out.append(text).append(width - text.size(), ' ');
+}
+
+/// The trimmed @p text without its leading zeros; zeros alone give empty text.
+template <typename Char>
+[[nodiscard]] std::basic_string_view<Char> withoutLeadingZeros(std::basic_string_view<Char> text)
+{
+    text = trimBlanks(text);
+    text.remove_prefix(std::min(text.find_first_not_of(Char{'0'}), text.size()));
+    return text;
+}
+
+/// Replaces @p value (nothing counts as empty) by its trimmed text brought to @p width characters: mode 0
+/// zeros on the left and the rightmost kept, mode 1 blanks on the right and the leftmost kept, any other
+/// centred.
+/// @return the new value. @throws RuntimeFailure 5 when a centred value is longer than the width.
+QString JustifyField(std::optional<QString>& value, int width, int mode);
+
+/// Trims blanks and removes all leading zeros; a text of zeros only gives empty text. Changes @p text and
+/// returns it. Key links are read so; other numbers follow records::StripLeadingZero().
+QString StripLeadingZero(QString& text);
+
+} // namespace norvane
