@@ -96,26 +96,48 @@ bool canHold(const ControlDefinition& control, const FieldDefinition& field)
     }
 }
 
+/// What a column tells of the field that it sends.
+struct Sent {
+    std::string field;
+    std::size_t width = 0; ///< 0 where the width says nothing
+    int scale = 0;
+};
+
+Sent sentBy(const records::Column& column)
+{
+    constexpr std::size_t widestMessage = 40;
+    const auto look = []<typename Form>(const Form& form) {
+        Sent sent;
+        if constexpr (requires { form.field; })
+            sent.field = form.field;
+        if constexpr (std::is_same_v<Form, records::MessageColumn>)
+            sent.width = widestMessage;
+        else if constexpr (requires { form.width; } && !std::is_same_v<Form, records::HexByteColumn>)
+            sent.width = form.width;
+        if constexpr (requires { form.scale; })
+            sent.scale = form.scale;
+        return sent;
+    };
+    return std::visit(look, column);
+}
+
 /// What Maxvalue of @p control must be for the column of a register file that sends its field: the largest
 /// number, or the most characters. 0 where no column's width says it.
 Decimal largestOf(const ControlDefinition& control, const QString& table)
 {
-    constexpr std::size_t widestMessage = 40;
     for (const auto& file : records::registerFiles()) {
         if (!isListed(file.table, table))
             continue;
         for (const auto& set : file.layout().sets) {
             for (const auto& column : set.columns) {
-                if (control.dataField.compare(QString::fromStdString(column.field), Qt::CaseInsensitive) != 0)
+                const Sent sent = sentBy(column);
+                if (control.dataField.compare(QString::fromStdString(sent.field), Qt::CaseInsensitive) != 0)
                     continue;
-                const auto width = column.isMessageLine ? widestMessage : column.width;
-                const bool isWide =
-                    column.form == records::Form::Number || column.form == records::Form::Text;
-                if (!isWide || isListed("ENDTIME", control.dataField)) // a time of the day
+                if (sent.width == 0 || isListed("ENDTIME", control.dataField)) // a time of the day
                     return {};
                 if (control.kind == ControlKind::Text)
-                    return {static_cast<std::int64_t>(width), 0};
-                return Decimal::leading(std::string(width, '9')).shifted(-column.scale);
+                    return {static_cast<std::int64_t>(sent.width), 0};
+                return Decimal::leading(std::string(sent.width, '9')).shifted(-sent.scale);
             }
         }
     }
