@@ -10,15 +10,20 @@ namespace
 
 /// Ends a text file for tools that know no file length.
 constexpr char endMark = '\x1A';
-constexpr std::string_view blanks = " \t";
 constexpr std::string_view whiteSpace = " \t\r\n";
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
 
 std::string_view trimmed(std::string_view text)
 {
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 bool isSeparator(char c)
@@ -31,9 +36,10 @@ bool isSeparator(char c)
 std::size_t endOfValue(std::string_view text)
 {
     std::size_t from = 0;
-    const auto first = text.find_first_not_of(blanks);
-    if (first != std::string_view::npos && text[first] == '"') {
-        const auto closing = text.find('"', first + 1);
+    while (from < text.size() && isBlank(text[from]))
+        ++from;
+    if (from < text.size() && text[from] == '"') {
+        const auto closing = text.find('"', from + 1);
         from = closing == std::string_view::npos ? text.size() : closing + 1;
     }
     while (from < text.size() && !isSeparator(text[from]))

@@ -2,6 +2,7 @@
 #include "sales/PollImport.h"
 
 #include "platform/Decimal.h"
+#include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
@@ -82,19 +83,29 @@ QString shown(std::string_view text)
     throw RuntimeFailure(Failure::TypeMismatch, u"Type mismatch: \"%1\" is no number"_s.arg(shown(text)));
 }
 
-/// The usual spelling without a detour: digits with a point at most.
-bool readPlainNumber(std::string_view text, double& number)
+/// Reads digits without a point. Most values of a report are counts, and a whole number is read much faster.
+bool readWhole(std::string_view text, double& number)
 {
-    const auto result =
-        std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+    std::int64_t whole = 0;
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, whole);
+    number = static_cast<double>(whole);
+    return result.ec == std::errc() && result.ptr == end;
+}
+
+/// Reads digits with a point between them.
+bool readFraction(std::string_view text, double& number)
+{
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
     const char last = text.empty() ? ' ' : text.back();
-    return result.ec == std::errc() && result.ptr == text.data() + text.size() && last >= '0' && last <= '9';
+    return result.ec == std::errc() && result.ptr == end && last >= '0' && last <= '9';
 }
 
 double numberOf(std::string_view text)
 {
     double number = 0;
-    if (readPlainNumber(text, number))
+    if (readWhole(text, number) || readFraction(text, number))
         return number;
     const QString spelled = QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
     try {
@@ -124,6 +135,7 @@ public:
     void storeAll(TextValues& text);
 
 private:
+    [[nodiscard]] QString placed(const QString& what) const;
     void storeRecord(TextValues& text);
     void count();
     void needLayout() const;
@@ -171,14 +183,13 @@ void Import::storeAll(TextValues& text)
 {
     while (!text.atEnd()) {
         count();
-        try {
-            storeRecord(text);
-        } catch (const RuntimeFailure& failure) {
-            throw RuntimeFailure(
-                failure.failure(),
-                u"%1, record %2: %3"_s.arg(QLatin1StringView(m_file.name)).arg(m_record).arg(failure.text()));
-        }
+        atPlace([this](const QString& what) { return placed(what); }, [&] { storeRecord(text); });
     }
+}
+
+QString Import::placed(const QString& what) const
+{
+    return u"%1, record %2: %3"_s.arg(QLatin1StringView(m_file.name)).arg(m_record).arg(what);
 }
 
 void Import::storeRecord(TextValues& text)

@@ -1,20 +1,24 @@
 // Makes the definitions of the catalogue from its rows.
 //
-// Every table stands in the Catalogue*.cpp file of its subject, its fields in the order of the register's
-// record, so that it can be held beside the register's file description line by line. Names keep the spelling
-// of the register's own vocabulary, odd ones included. The storage types follow from what a field carries:
+// Every table stands in the Catalogue*.cpp file of its subject. Its fields have the order and the spelling of
+// the register's record, odd ones included, so that the two can be compared line by line.
 //
+// clang-format off
+//   What a field holds                   Type      Why
 //   yes or no                            YesNo
-//   whole number of up to 9 digits       Long      what a number box on a screen can hold
-//   whole number of 10 to 15 digits      Double    sign-on codes, check numbers: exact there
-//   whole number of more digits          Digits    PLU links, window codes, reserved tax columns: digit for
-//   digit number with decimal places           Double    amounts, rates, factors the prices of a PLU Text a
-//   number held as text, see price() text of a stated width               Text      PLU numbers and look-ups
-//   among them: leading zeros count what the register says of its memory Text      kept as it came a day Date
+//   whole number of up to 9 digits       Long      as much as a number box on a screen holds
+//   whole number of 10 to 15 digits      Double    exact up to there: sign-on codes, check numbers
+//   whole number of more digits          Digits    kept digit for digit: PLU links, reserved tax columns
+//   number with decimal places           Double    amounts, rates, factors
+//   price of a PLU                       Text      see price()
+//   text, PLU numbers among them         Text      leading zeros of a PLU number count
+//   what a register says of its memory   Text      kept as it came
+//   day                                  Date
+// clang-format on
 //
-// A table whose record has no number of its own has a counter as its key, outside the record. Each index is
-// unique and stands over the key field; the sales tables have none, since each collection only appends.
-// What reports choose their rows by has the engine's own index (docs/decisions/).
+// A table whose record has no number of its own has a counter as its key. Each index is unique and stands
+// over the key field. The sales tables have no key, since collections only append to them; an index of the
+// engine lets reports find a day (docs/decisions/).
 #include "store/Catalogue.h"
 
 #include "store/CatalogueRows.h"
@@ -50,15 +54,13 @@ void appendFields(QVector<FieldDefinition>& fields, const rows::Row& row)
 TableDefinition tableFrom(const rows::TableRow& row)
 {
     TableDefinition table{QLatin1StringView(row.name), {}, {}};
-    for (const rows::Row& fields : row.fields) {
+    for (const rows::Row& fields : row.fields)
         appendFields(table.fields, fields);
-    }
     if (row.indexField != nullptr) {
         IndexDefinition index{{}, QLatin1StringView(row.indexField)};
         for (const char* name : row.indexNames) {
-            if (name != nullptr) {
+            if (name != nullptr)
                 index.names.append(QLatin1StringView(name));
-            }
         }
         table.indexes.append(index);
     }

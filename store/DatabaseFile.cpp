@@ -23,10 +23,10 @@ namespace norvane::store
 namespace
 {
 
-/// Longer than any piece of work of ours holds the file, short enough for a user to wait.
+/// No work of ours holds the file this long, and a user can wait for it.
 constexpr int busyMilliseconds = 5000;
 
-/// The first bytes of every file of the engine: its mark, the format version of ours and the mark of ours.
+/// Every file of the engine begins with its mark; our format version and our mark follow.
 constexpr std::size_t headerSize = 100;
 constexpr char engineMark[] = "SQLite format 3";
 constexpr std::size_t formatVersionAt = 60;
@@ -53,8 +53,8 @@ QString shown(const QString& path)
                                                       shown(path), QString::fromLatin1(why)));
 }
 
-/// Reads through the engine's own file handle: closing a second handle on the file would take away the locks
-/// that another connection of this process holds. Nothing is locked, played back or written by it.
+/// Reads through the engine's own file handle: closing a second handle would drop the locks that another
+/// connection of this process holds. Locks and writes nothing.
 Header readHeader(sqlite3* connection)
 {
     Header header{};
@@ -90,8 +90,8 @@ void run(sqlite3* connection, const char* sql, const QString& path)
         failWithSqlite(connection, shown(path));
 }
 
-/// A commit is on the disk before it returns. Rows that were deleted need not be overwritten: nothing in them
-/// is secret, and an import empties its table first.
+/// A commit returns once it is on the disk. Deleted rows are not overwritten: they hold no secrets, and every
+/// import empties its table first.
 constexpr const char* settings[] = {
     "PRAGMA synchronous = FULL",
     "PRAGMA secure_delete = OFF",
@@ -110,9 +110,8 @@ void prepareConnection(SQLite::Database& database, const QString& path)
         run(connection, sql, path);
 }
 
-/// The engine's count of its own memory is asked for nowhere and costs a lock at each piece of memory, of
-/// which the reading of the layout takes thousands. It can only be switched off ahead of the first
-/// connection.
+/// The engine's count of its own memory is unused and takes a lock at every allocation. It can only be
+/// switched off before the first connection.
 void stopCountingMemory()
 {
     static const int result = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);

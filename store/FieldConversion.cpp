@@ -180,10 +180,30 @@ void convertToText(Value& value, const FieldDefinition& field, const QString& ta
         failTooLong(value, field, table);
 }
 
-bool holdsAlready(const Value& value, FieldType type)
+/// Whether @p value is what a field of @p type holds already, as nearly all values of an import are.
+bool fits(const Value& value, FieldType type)
 {
-    return (type == FieldType::YesNo && value.isYesNo()) || (type == FieldType::Date && value.isDate()) ||
-           (type == FieldType::Double && value.isDouble() && std::isfinite(value.toNumber()));
+    switch (type) {
+    case FieldType::YesNo:
+        return value.isYesNo();
+    case FieldType::Long:
+    case FieldType::Counter: {
+        const auto* whole = std::get_if<std::int64_t>(&value.data());
+        return whole && fitsLong(*whole);
+    }
+    case FieldType::Double: {
+        const auto* number = std::get_if<double>(&value.data());
+        return number && std::isfinite(*number);
+    }
+    case FieldType::Date: {
+        const auto* date = std::get_if<QDate>(&value.data());
+        return date && date->isValid();
+    }
+    case FieldType::Digits:
+    case FieldType::Text:
+        break;
+    }
+    return false;
 }
 
 std::optional<Value> convertedTo(FieldType type, const Value& value)
@@ -212,6 +232,14 @@ bool isUnset(const Value& value)
     return value.isNull() || (value.isText() && isBlank(value.textView())) || (date && !date->isValid());
 }
 
+Value convertedOrFail(const Value& value, const FieldDefinition& field, const QString& table)
+{
+    auto converted = convertedTo(field.type, value);
+    if (!converted)
+        failConversion(value, field, table);
+    return std::move(*converted);
+}
+
 std::string_view significantDigits(std::string_view digits)
 {
     digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
@@ -222,22 +250,15 @@ std::string_view significantDigits(std::string_view digits)
 
 void convertToField(Value& value, const FieldDefinition& field, const QString& table)
 {
-    if (value.isNull())
+    if (value.isNull() || fits(value, field.type))
         return;
     if (field.type == FieldType::Text) {
         convertToText(value, field, table);
-        return;
-    }
-    if (isUnset(value)) {
+    } else if (isUnset(value)) {
         value = Value();
-        return;
+    } else {
+        value = convertedOrFail(value, field, table);
     }
-    if (holdsAlready(value, field.type))
-        return;
-    auto converted = convertedTo(field.type, value);
-    if (!converted)
-        failConversion(value, field, table);
-    value = std::move(*converted);
 }
 
 Value indexKey(const Value& key, const FieldDefinition& field, const QString& table)

@@ -6,9 +6,6 @@
 
 #include <sqlite3.h>
 
-#include <array>
-#include <cstdio>
-#include <string_view>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -18,19 +15,10 @@ namespace norvane::store
 namespace
 {
 
-/// Room for a day as text, with a margin for years out of the usual.
-using DayText = std::array<char, 24>;
-
-/// Days lie in the file as yyyy-mm-dd, which orders as text does. Every row of a collection carries one, so
-/// it is written without the detour over the platform's texts.
-std::string_view dayText(QDate date, DayText& room)
+/// Days lie in the file as yyyy-mm-dd, which sorts by time.
+std::string dayText(QDate date)
 {
-    int year = 0;
-    int month = 0;
-    int day = 0;
-    date.getDate(&year, &month, &day);
-    const int size = std::snprintf(room.data(), room.size(), "%04d-%02d-%02d", year, month, day);
-    return {room.data(), static_cast<std::size_t>(size)};
+    return date.toString(Qt::ISODate).toStdString();
 }
 
 QString fromColumn(const char* text)
@@ -126,13 +114,21 @@ void PreparedStatement::bind(int parameter, const Value& value)
     } else if (const auto* number = std::get_if<double>(&value.data())) {
         check(sqlite3_bind_double(statement, parameter, *number));
     } else if (const auto* date = std::get_if<QDate>(&value.data())) {
-        DayText room;
-        const std::string_view day = dayText(*date, room);
-        check(sqlite3_bind_text(statement, parameter, day.data(), static_cast<int>(day.size()),
-                                SQLITE_TRANSIENT));
+        bindDay(parameter, *date);
     } else {
         check(sqlite3_bind_null(statement, parameter));
     }
+}
+
+/// All rows of a collection carry the same day, so its text is made once.
+void PreparedStatement::bindDay(int parameter, QDate day)
+{
+    if (m_dayText.empty() || day != m_day) {
+        m_day = day;
+        m_dayText = dayText(day);
+    }
+    check(sqlite3_bind_text(m_statement.get(), parameter, m_dayText.data(),
+                            static_cast<int>(m_dayText.size()), SQLITE_TRANSIENT));
 }
 
 void PreparedStatement::bind(int parameter, std::int64_t value)

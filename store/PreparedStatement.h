@@ -63,10 +63,13 @@ private:
     };
     [[noreturn]] void fail();
     void check(int result);
+    void bindDay(int parameter, QDate day);
 
     sqlite3* m_connection;
     QString m_what;
     std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
+    QDate m_day; ///< the day bound last, and its text
+    std::string m_dayText;
 };
 
 /// Resets a statement at the end of a scope, also when a failure passes through.

@@ -12,10 +12,10 @@ namespace norvane::store
 namespace
 {
 
-/// A screen can change any choice of fields; the statements of the last few choices are worth keeping.
+/// Each set of changed fields has its own statement. Keeps this many.
 constexpr std::size_t mostUpdates = 16;
 
-/// A counter without a value of its own counts on from the highest there is.
+/// A counter that was given no value becomes the highest one plus 1.
 std::string insertedValue(const TableShape& shape, const FieldDefinition& field)
 {
     if (field.type != FieldType::Counter)

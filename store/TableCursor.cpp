@@ -16,7 +16,7 @@ namespace
 
 /// Beyond this many rows a batch saves no more time.
 constexpr std::size_t mostAhead = 128;
-/// A few steps are a user's, who wants what is there now; a long walk is a program's.
+/// A user takes a few steps and must see what is stored now; a longer walk is a program's.
 constexpr int stepsBeforeReadingAhead = 8;
 /// A user cannot store on one screen and move on another within this time.
 constexpr std::chrono::milliseconds freshTime{50};
@@ -205,7 +205,7 @@ bool TableCursor::reread()
     return (mineAlone && isFresh()) || read(ByRowId, {}, m_rowId);
 }
 
-/// What was read ahead holds on when the only change since then was this recordset's own to one row.
+/// The rows read ahead stay valid when this recordset's own change to one row is the only one since.
 void TableCursor::keepReadAhead()
 {
     if (m_stamp.changes + 1 == m_database.changes())

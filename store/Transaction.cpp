@@ -14,8 +14,8 @@ namespace norvane::store
 
 void Database::Private::beginTransaction()
 {
-    // The lock is taken at the start: a reader that wants to write later can be refused at once, without the
-    // wait that the user would rather have.
+    // Takes the lock at once, which waits for another program. A reader that begins to write later would be
+    // refused without waiting.
     if (m_depth == 0 && sqlite3_exec(connection(), "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK)
         failWithSqlite(connection(), m_path);
     if (m_depth == 0)
@@ -55,8 +55,8 @@ Transaction::~Transaction()
     try {
         commit();
     } catch (const RuntimeFailure& failure) {
-        // Another failure may be on its way through here and is the one to show. Work that must be known to
-        // be kept calls commit() itself.
+        // A destructor may not throw: another failure may be passing. Whoever must know that the work was
+        // kept calls commit().
         qWarning("%s", failure.what());
     }
 }
