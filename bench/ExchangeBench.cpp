@@ -96,14 +96,7 @@ public:
         const link::LinkSettings link = link::readLinkSettings(m_values);
         AllBoxes boxes;
         Meter meter;
-        exchange::ExchangeRunner runner(
-            m_values, link, boxes,
-            {.runAndWait = [&](const QString& line) { return meter.tool(m_values, line); },
-             .readStatus = ReadStatusOut,
-             .showStep = [&](const QString& text) { meter.step(text); },
-             .showNotice = [](const QString& text) { require(false, qPrintable(text)); },
-             .goOn = [] { return true; },
-             .boxes = m_boxes});
+        exchange::ExchangeRunner runner(m_values, link, boxes, outside(meter));
         (runner.*sequence)();
         meter.bookOwn();
         require(boxes.allDone() && m_boxes.shown.empty(), "all boxes moved without a word");
@@ -124,6 +117,15 @@ public:
     }
 
 private:
+    link::RunOutside outside(Meter& meter)
+    {
+        return {.runAndWait = [&](const QString& line) { return meter.tool(m_values, line); },
+                .readStatus = ReadStatusOut,
+                .showStep = [&](const QString& text) { meter.step(text); },
+                .showNotice = [](const QString& text) { require(false, qPrintable(text)); },
+                .goOn = [] { return true; },
+                .boxes = m_boxes};
+    }
     [[nodiscard]] QString pluFile() const { return m_folder.registerFile(1, 67); }
 
     test::ProgramFolder m_folder;
