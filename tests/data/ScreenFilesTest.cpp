@@ -188,7 +188,12 @@ protected:
     {
         complain(u"[%1] %2%3"_s.arg(control.section, control.description, control.dataField), text);
     }
+    void checkField(const ControlDefinition& control, const FieldDefinition& field) const;
     void checkLimit(const ControlDefinition& control, const FieldDefinition& field) const;
+    [[nodiscard]] QStringList offeredFields() const;
+    [[nodiscard]] bool isLeftOut(const QString& field) const;
+    static void checkPlaces(const QWidget& picture, const QList<QWidget*>& controls);
+    static void checkOrder(const QVector<QWidget*>& order);
     static void checkWidth(const QWidget& control);
 
     const QString m_name = QString::fromStdString(GetParam());
@@ -232,23 +237,23 @@ TEST_P(ScreenFile, BindsControlsToFieldsThatTheyCanHold)
             return field.name.compare(control.dataField, Qt::CaseInsensitive) == 0;
         };
         const auto field = std::ranges::find_if(m_table->fields, isIt);
-        if (field == m_table->fields.end()) {
-            complain(control, u"the table has no such field"_s);
+        if (field != m_table->fields.end()) {
+            checkField(control, *field);
         } else {
-            if (!canHold(control, *field))
-                complain(control, u"this kind of control cannot hold the field"_s);
-            for (const auto& [table, fields] : mayBeEmpty) {
-                if (control.kind == ControlKind::Integer && m_table->name == QLatin1String(table) &&
-                    isListed(fields, field->name))
-                    complain(control, u"may be empty, which a box for whole numbers cannot show"_s);
-            }
-            checkLimit(control, *field);
+            complain(control, u"the table has no such field"_s);
         }
     }
 }
 
-void ScreenFile::checkLimit(const ControlDefinition& control, const FieldDefinition& field) const
+void ScreenFile::checkField(const ControlDefinition& control, const FieldDefinition& field) const
 {
+    if (!canHold(control, field))
+        complain(control, u"this kind of control cannot hold the field"_s);
+    for (const auto& [table, fields] : mayBeEmpty) {
+        if (control.kind == ControlKind::Integer && m_table->name == QLatin1String(table) &&
+            isListed(fields, field.name))
+            complain(control, u"may be empty, which a box for whole numbers cannot show"_s);
+    }
     const bool isText = control.kind == ControlKind::Text;
     const bool isTyped =
         isText || control.kind == ControlKind::Integer || control.kind == ControlKind::Decimal;
@@ -256,6 +261,12 @@ void ScreenFile::checkLimit(const ControlDefinition& control, const FieldDefinit
         return;
     if (!control.maximum || control.maximum->toDouble() < 1)
         return complain(control, u"has no Maxvalue"_s);
+    checkLimit(control, field);
+}
+
+void ScreenFile::checkLimit(const ControlDefinition& control, const FieldDefinition& field) const
+{
+    const bool isText = control.kind == ControlKind::Text;
     const QString maximum = QString::fromStdString(control.maximum->text());
     const Decimal largest = largestOf(control, m_table->name);
     if (!(largest == Decimal()) && !(*control.maximum == largest))
@@ -269,10 +280,8 @@ void ScreenFile::checkLimit(const ControlDefinition& control, const FieldDefinit
         complain(control, u"is too narrow for its largest number"_s);
 }
 
-TEST_P(ScreenFile, OffersWhatAUserMaySetAndNothingElse)
+QStringList ScreenFile::offeredFields() const
 {
-    const QString& key = m_table->indexes.first().field;
-    const ScreenButtons buttons = m_screen.buttons();
     QStringList offered;
     for (const auto& control : m_fields) {
         if (!control.visible.value_or(false))
@@ -280,26 +289,43 @@ TEST_P(ScreenFile, OffersWhatAUserMaySetAndNothingElse)
         offered += control.dataField;
         if (control.kind == ControlKind::Grid) // the names of its query
             offered += control.sqlCriteria.split(QRegularExpression(u"\\W+"_s));
-        if (control.dataField.compare(key, Qt::CaseInsensitive) == 0 && !buttons.add &&
-            !control.readOnly.value_or(false))
-            complain(control, u"is the number of the register's record"_s);
     }
+    return offered;
+}
+
+bool ScreenFile::isLeftOut(const QString& field) const
+{
+    return std::ranges::any_of(leftOut, [&](const auto& row) {
+        return isListed(row[0], m_name) && isListed(row[1], m_table->name) && isListed(row[2], field);
+    });
+}
+
+TEST_P(ScreenFile, OffersWhatAUserMaySetAndNothingElse)
+{
+    const QStringList offered = offeredFields();
     for (const auto& field : m_table->fields) {
-        const bool isLeftOut = std::ranges::any_of(leftOut, [&](const auto& row) {
-            return isListed(row[0], m_name) && isListed(row[1], m_table->name) &&
-                   isListed(row[2], field.name);
-        });
         // The number of an option table's only record tells the user nothing.
-        const bool isOnlyRecord = field.name == key && !buttons.next;
+        const bool isOnlyRecord = field.name == m_table->indexes.first().field && !m_screen.buttons().next;
         const bool isOffered = offered.contains(field.name, Qt::CaseInsensitive);
-        if (isOffered == isLeftOut && !isOnlyRecord) {
+        if (isOffered == isLeftOut(field.name) && !isOnlyRecord) {
             complain(field.name,
                      isOffered ? u"is on the screen though listed as left out"_s : u"is not on the screen"_s);
         }
     }
+}
+
+TEST_P(ScreenFile, LetsOnlyPlusComeAndGo)
+{
+    const ScreenButtons buttons = m_screen.buttons();
     EXPECT_EQ(buttons.add, m_table->name == u"PLUDATA" && buttons.save) << "only PLUs may be added";
     EXPECT_EQ(buttons.remove, buttons.add);
     EXPECT_EQ(buttons.previous, buttons.next);
+    const QString& key = m_table->indexes.first().field;
+    for (const auto& control : m_fields) {
+        const bool isKey = control.dataField.compare(key, Qt::CaseInsensitive) == 0;
+        if (isKey && control.visible.value_or(false) && !buttons.add && !control.readOnly.value_or(false))
+            complain(control, u"is the number of the register's record"_s);
+    }
 }
 
 void ScreenFile::checkWidth(const QWidget& control)
@@ -336,19 +362,29 @@ TEST_P(ScreenFile, MakesAFormThatCanBeRead)
     };
     auto controls = panel.widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     controls.removeIf(isHidden);
+    checkPlaces(*panel.widget(), controls);
+    auto order = panel.tabOrder();
+    order.removeIf(isHidden);
+    checkOrder(order);
+}
+
+void ScreenFile::checkPlaces(const QWidget& picture, const QList<QWidget*>& controls)
+{
     for (const QWidget* const control : controls) {
         checkWidth(*control);
-        if (!panel.widget()->rect().contains(control->geometry()))
+        if (!picture.rect().contains(control->geometry()))
             complain(control->objectName(), u"is cut by the panel"_s);
         for (const QWidget* const other : controls) {
             if (other != control && control->geometry().intersects(other->geometry()))
                 complain(control->objectName() + u' ' + other->objectName(), u"overlap"_s);
         }
     }
-    // Down a column and then the next one, or along a row and then the next one: nothing that is reached
-    // later lies both above, or level, and to the left, or level.
-    auto order = panel.tabOrder();
-    order.removeIf(isHidden);
+}
+
+/// Down a column and then the next one, or along a row and then the next one: nothing that is reached later
+/// lies both above, or level, and to the left, or level.
+void ScreenFile::checkOrder(const QVector<QWidget*>& order)
+{
     for (qsizetype later = 0; later < order.size(); ++later) {
         const QRect place = order[later]->geometry();
         for (const QWidget* const earlier : order.mid(0, later)) {
@@ -361,22 +397,23 @@ TEST_P(ScreenFile, MakesAFormThatCanBeRead)
     }
 }
 
+const QString long50(50, u'x');
+const struct {
+    QString file;
+    QByteArray model;
+    const char* box;
+    QString typed;
+    QString kept;
+} modelLimits[] = {{u"logomess.scn"_s, "2", "TextControl_10", long50, long50.left(40)},
+                   {u"logomess.scn"_s, "3", "TextControl_10", long50, long50.left(32)},
+                   {u"valdmess.scn"_s, "3", "TextControl_1", long50, long50.left(32)},
+                   {u"chqenmes.scn"_s, "3", "TextControl_10", long50, long50.left(32)},
+                   {u"gstchk.scn"_s, "3", "TextControl_1", long50, long50.left(32)},
+                   {u"employee.scn"_s, "3", "TextControl_2", u"0a-G 2D"_s, u"0a2D"_s}};
+
 TEST(InstalledScreens, TakeWhatTheRegistersOfTheModelHold)
 {
-    const auto long50 = QString(50, u'x');
-    const struct {
-        QString file;
-        QByteArray model;
-        const char* box;
-        QString typed;
-        QString kept;
-    } cases[] = {{u"logomess.scn"_s, "2", "TextControl_10", long50, long50.left(40)},
-                 {u"logomess.scn"_s, "3", "TextControl_10", long50, long50.left(32)},
-                 {u"valdmess.scn"_s, "3", "TextControl_1", long50, long50.left(32)},
-                 {u"chqenmes.scn"_s, "3", "TextControl_10", long50, long50.left(32)},
-                 {u"gstchk.scn"_s, "3", "TextControl_1", long50, long50.left(32)},
-                 {u"employee.scn"_s, "3", "TextControl_2", u"0a-G 2D"_s, u"0a2D"_s}};
-    for (const auto& [file, model, name, typed, kept] : cases) {
+    for (const auto& [file, model, name, typed, kept] : modelLimits) {
         const test::TestFolder customer;
         customer.write("setup.ini", "[SetupOption]\r\nECRModel=" + model + "\r\n");
         ApplicationValues values;
