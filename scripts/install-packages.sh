@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what building and running the program needs on Debian 12, if anything is missing.
-# With --headless also what the tests and screenshots without a screen need.
+#   --checks   also what .ci/run checks the sources with
+#   --clang    also the compiler of the preset clang
 set -euo pipefail
 
 packages=(
@@ -10,6 +11,13 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-dejavu-core
 )
+for option in "$@"; do
+  case "$option" in
+    --checks) packages+=(clang-format clang-tidy) ;;
+    --clang) packages+=(clang-16) ;;
+    *) echo "usage: scripts/install-packages.sh [--checks] [--clang]" >&2; exit 2 ;;
+  esac
+done
 
 missing=()
 for package in "${packages[@]}"; do
