@@ -2,6 +2,8 @@
 #include "tests/road/Shop.h"
 #include "tests/support/FormTest.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane
 {
 namespace
@@ -26,8 +28,8 @@ TEST_F(ExchangeFaults, ARegisterThatGoesOffLeavesTheRestTicked)
 {
     m_shop.folder().setFaults("[off]\nTool=VELMARCOMM\nCommand=fetch\nFile=9\nResult=8\n");
     EXPECT_EQ(m_shop.upload({1, 4, 5, 6}), (BoxNumbers{4, 5, 6}));
-    EXPECT_EQ(m_shop.boxes().shown, (std::vector{test::ShownBox{QStringLiteral("Communications Error 8"),
-                                                                QStringLiteral("Communication result")}}));
+    EXPECT_EQ(m_shop.boxes().shown,
+              (std::vector{test::ShownBox{u"Communications Error 8"_s, u"Communication result"_s}}));
     EXPECT_GT(m_shop.rowsOf("PLUSTATUS"), 0);
     EXPECT_TRUE(keeps("/8.dat"));
     EXPECT_FALSE(keeps("/10.dat"));
@@ -53,7 +55,7 @@ TEST_F(ExchangeFaults, AFailedConversionReadsTheOldText)
     const auto failure = test::takeFailure();
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->number(), 53);
-    EXPECT_TRUE(failure->text().contains(QStringLiteral("1.txt")));
+    EXPECT_TRUE(failure->text().contains(u"1.txt"_s));
     EXPECT_EQ(m_shop.rowsOf("GROUPS"), 0);
 
     m_shop.folder().setFaults("");

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane
 {
 namespace
@@ -16,11 +18,33 @@ using test::Shop;
 
 constexpr int pluFile = 67;
 constexpr int firstPriceColumn = 12; ///< from 0
+const QByteArray number = QByteArray("1005").rightJustified(18, '0');
 
 /// Older Velmar with one register; newer Velmar and Dorvik with three.
 class PriceChange : public testing::TestWithParam<std::pair<int, int>>
 {
 };
+
+qsizetype placeOf(const QByteArray& plu, const QList<QByteArrayList>& records)
+{
+    const auto found = std::find_if(records.begin(), records.end(),
+                                    [&plu](const auto& record) { return record.first() == plu; });
+    return found - records.begin();
+}
+
+/// Finds a PLU on the screen, types a new first price and saves it.
+void changePrice(Shop& shop, const char* find, const QString& price)
+{
+    QWidget& screen = shop.openForm("PLUMENU");
+    Shop::find(screen, find);
+    EXPECT_EQ(screen.findChild<QLineEdit*>(u"TextControl_1"_s)->text().toLatin1(), number);
+    auto* const box = screen.findChild<QLineEdit*>(u"DecimalNumberControl_1"_s);
+    box->selectAll();
+    QTest::keyClicks(box, price);
+    Shop::press(screen, "SaveRecord");
+    Shop::press(screen, "ExitForm");
+    EXPECT_EQ(shop.stored("select PRICE1 from PLUDATA where PLUNUMBER='" + number + "'"), price);
+}
 
 /// What the registers hold after a price change is the register's own record with the new price in it.
 TEST_P(PriceChange, ReachesEveryRegister)
@@ -28,35 +52,22 @@ TEST_P(PriceChange, ReachesEveryRegister)
     const auto [model, registers] = GetParam();
     Shop shop(model, registers);
     EXPECT_TRUE(shop.upload({0, 1, 2, 14, 15}).isEmpty());
-    EXPECT_EQ(QFile::exists(shop.values().customerPath + QStringLiteral("/71.dat")), model != 0)
+    EXPECT_EQ(QFile::exists(shop.values().customerPath + u"/71.dat"_s), model != 0)
         << "PLUs clear their points in a register, so the points follow them where there are any";
     const auto before = shop.recordsOf(1, pluFile);
     ASSERT_EQ(shop.rowsOf("PLUDATA"), before.size());
-    const QByteArray number = QByteArray("1005").rightJustified(18, '0');
-    const auto plu = std::find_if(before.begin(), before.end(),
-                                  [&number](const auto& record) { return record.first() == number; });
-    ASSERT_NE(plu, before.end());
+    const qsizetype place = placeOf(number, before);
+    QByteArrayList expected = before.at(place);
+    expected[firstPriceColumn] = "00123456";
 
-    QWidget& screen = shop.openForm("PLUMENU");
-    Shop::find(screen, "1005");
-    EXPECT_EQ(screen.findChild<QLineEdit*>(QStringLiteral("TextControl_1"))->text().toLatin1(), number);
-    auto* const price = screen.findChild<QLineEdit*>(QStringLiteral("DecimalNumberControl_1"));
-    price->selectAll();
-    QTest::keyClicks(price, QStringLiteral("1234.56"));
-    Shop::press(screen, "SaveRecord");
-    Shop::press(screen, "ExitForm");
-    EXPECT_EQ(shop.stored("select PRICE1 from PLUDATA where PLUNUMBER='" + number + "'"),
-              QStringLiteral("1234.56"));
-
+    changePrice(shop, "1005", u"1234.56"_s);
     EXPECT_TRUE(shop.download({0}).isEmpty());
     EXPECT_TRUE(shop.boxes().shown.empty());
     EXPECT_FALSE(test::takeFailure().has_value());
-    QByteArrayList expected = *plu;
-    expected[firstPriceColumn] = "00123456";
     for (int machine = 1; machine <= registers; ++machine) {
         const auto after = shop.recordsOf(machine, pluFile);
         ASSERT_EQ(after.size(), before.size()) << "register " << machine;
-        EXPECT_EQ(after[plu - before.begin()], expected) << "register " << machine;
+        EXPECT_EQ(after.at(place), expected) << "register " << machine;
     }
 }
 

@@ -12,6 +12,8 @@
 #include <map>
 #include <set>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane
 {
 namespace
@@ -200,7 +202,7 @@ protected:
         EXPECT_TRUE(m_shop.upload().isEmpty());
         // Nobody notices a conversion that fails and sends what is left of the upload: nothing is left.
         QDir app(m_shop.folder().appPath());
-        for (const QString& file : app.entryList({QStringLiteral("*.dat")}))
+        for (const QString& file : app.entryList({u"*.dat"_s}))
             EXPECT_TRUE(app.remove(file));
         EXPECT_TRUE(m_shop.download().isEmpty());
         for (const auto& box : m_shop.boxes().shown)
@@ -238,7 +240,7 @@ TEST_P(RoundTrip, BringsEverythingBackButForTheListedDifferences)
         ASSERT_EQ(QFile::exists(path(second, file)), arrives) << file;
         EXPECT_TRUE(!arrives || readWholeFile(path(second, file)) == bytes) << file;
     }
-    EXPECT_EQ(readWholeFile(m_shop.values().customerPath + QStringLiteral("/MEM.dat")), m_bytes[memoryFile]);
+    EXPECT_EQ(readWholeFile(m_shop.values().customerPath + u"/MEM.dat"_s), m_bytes[memoryFile]);
     EXPECT_FALSE(QFile::exists(path(second, descriptorFile))) << "nobody moves the system descriptors";
 }
 

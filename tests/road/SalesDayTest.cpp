@@ -10,6 +10,8 @@
 #include <QSettings>
 #include <QStatusBar>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane
 {
 namespace
@@ -39,8 +41,8 @@ protected:
     SalesDay()
     {
         // Whatever the register's settings are: totals on four price levels, without descriptions.
-        QSettings(m_shop.folder().bankPath() + QStringLiteral("/1/register.ini"), QSettings::IniFormat)
-            .setValue(QStringLiteral("Register/Stamp"), QStringLiteral("41"));
+        QSettings(m_shop.folder().bankPath() + u"/1/register.ini"_s, QSettings::IniFormat)
+            .setValue(u"Register/Stamp"_s, u"41"_s);
     }
 
     [[nodiscard]] QByteArrayList namesOf(int file) const
@@ -53,9 +55,9 @@ protected:
 
     void ring(int seed)
     {
-        const QString journal = m_shop.folder().appFile(QStringLiteral("day.csv"));
-        const auto options = QStringLiteral("--tickets 60 --seed %1 --journal").arg(seed).split(u' ');
-        ASSERT_EQ(QProcess::execute(QStringLiteral(RINGSALES_TOOL),
+        const QString journal = m_shop.folder().appFile(u"day.csv"_s);
+        const auto options = u"--tickets 60 --seed %1 --journal"_s.arg(seed).split(u' ');
+        ASSERT_EQ(QProcess::execute(QString::fromUtf8(RINGSALES_TOOL),
                                     QStringList(m_shop.folder().bankPath()) + options + QStringList(journal)),
                   0);
         m_rung.add(readWholeFile(journal), 4);
@@ -66,7 +68,7 @@ protected:
     {
         Shop::press(m_form, "Communicate");
         EXPECT_FALSE(test::takeFailure().has_value());
-        return m_form.findChild<QStatusBar*>(QStringLiteral("StatusBar1"))->currentMessage();
+        return m_form.findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage();
     }
 
     [[nodiscard]] ReportSums stored(const SalesTable& table) const
@@ -79,8 +81,8 @@ protected:
         const QStringList numbers = QString::fromLatin1(table.numbers).split(u' ');
         ReportSums sums;
         for (; !rows.atEnd(); rows.moveNext()) {
-            const QByteArray clerk = table.report == 192 ? text(QStringLiteral("CLERKID")) + '/' : "";
-            auto& sum = sums[clerk + text(QStringLiteral("ID"))];
+            const QByteArray clerk = table.report == 192 ? text(u"CLERKID"_s) + '/' : "";
+            auto& sum = sums[clerk + text(u"ID"_s)];
             sum.resize(static_cast<std::size_t>(numbers.size()));
             for (qsizetype i = 0; i < numbers.size(); ++i)
                 sum[static_cast<std::size_t>(i)] += test::thousandths(text(numbers[i])) / table.scale;
@@ -103,7 +105,7 @@ protected:
 /// The second day is collected in two goes: a register was off at the first.
 TEST_P(SalesDay, ComesHomeOnceAndTheNextDayBesideIt)
 {
-    const QString done = QStringLiteral("Communications Successful....");
+    const QString done = u"Communications Successful...."_s;
     ring(1);
     EXPECT_EQ(collect(), done);
     EXPECT_TRUE(m_shop.boxes().shown.empty());
@@ -111,9 +113,9 @@ TEST_P(SalesDay, ComesHomeOnceAndTheNextDayBesideIt)
 
     m_shop.folder().setFaults("[Off]\nCommand=consolidate\nRegister=2\nResult=8\n");
     ring(2);
-    EXPECT_EQ(collect(), QStringLiteral("Consolidate Reports"));
-    EXPECT_EQ(m_shop.boxes().shown, (std::vector{test::ShownBox{QStringLiteral("8. Time Out"),
-                                                                QStringLiteral("Communications Error")}}));
+    EXPECT_EQ(collect(), u"Consolidate Reports"_s);
+    EXPECT_EQ(m_shop.boxes().shown,
+              (std::vector{test::ShownBox{u"8. Time Out"_s, u"Communications Error"_s}}));
     m_shop.folder().setFaults({});
     EXPECT_EQ(collect(), done);
     expectTablesHoldWhatWasRung();

@@ -18,6 +18,8 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::test
 {
 namespace
@@ -47,7 +49,7 @@ void onDialog(const std::function<void(QDialog&)>& act)
 } // namespace
 
 Shop::Shop(int model, int registers)
-    : m_folder(model, registers), m_values(m_folder.makeCustomer(QStringLiteral("Corner Shop")))
+    : m_folder(model, registers), m_values(m_folder.makeCustomer(u"Corner Shop"_s))
 {
     m_main = std::make_unique<shell::FrmMain>(m_values, m_boxes, shell::makeOpeners(m_values, m_boxes));
     m_main->show();
@@ -65,7 +67,7 @@ BoxNumbers Shop::exchange(const char* entry, const BoxNumbers& boxes)
     BoxNumbers left;
     choose(entry, [&](QDialog& dialog) {
         const auto box = [&dialog](int index) -> QCheckBox& {
-            return child<QCheckBox>(dialog, QStringLiteral("check1_%1").arg(index));
+            return child<QCheckBox>(dialog, u"check1_%1"_s.arg(index));
         };
         if (boxes.isEmpty())
             press(dialog, "CSCmdBtn2");
@@ -98,7 +100,7 @@ void Shop::press(QWidget& form, const char* button)
 void Shop::find(QWidget& form, const char* text)
 {
     onDialog([text](QDialog& dialog) {
-        QTest::keyClicks(&child<QLineEdit>(dialog, QStringLiteral("SearchData")), QString::fromLatin1(text));
+        QTest::keyClicks(&child<QLineEdit>(dialog, u"SearchData"_s), QString::fromLatin1(text));
         press(dialog, "ExitControl_0");
     });
     press(form, "FindControl_1");
@@ -107,12 +109,11 @@ void Shop::find(QWidget& form, const char* text)
 QList<QByteArrayList> Shop::recordsOf(int registerNumber, int file) const
 {
     const QString source = m_folder.registerFile(registerNumber, file);
-    const QString text = joinPath(m_folder.bankPath(), QStringLiteral("out.txt"));
+    const QString text = joinPath(m_folder.bankPath(), u"out.txt"_s);
     QProcess convert;
     convert.setWorkingDirectory(QFileInfo(source).path());
-    convert.start(m_folder.appFile(QStringLiteral("convert")),
-                  {QStringLiteral("w") + GetModelCode(m_values), QStringLiteral("f%1.dat").arg(file),
-                   QStringLiteral("t../out.txt"), QStringLiteral("u%1").arg(file, 2, 10, QLatin1Char('0'))});
+    convert.start(m_folder.appFile(u"convert"_s), {u"w"_s + GetModelCode(m_values), u"f%1.dat"_s.arg(file),
+                                                   u"t../out.txt"_s, u"u%1"_s.arg(file, 2, 10, QChar(u'0'))});
     EXPECT_TRUE(convert.waitForFinished(-1));
     EXPECT_EQ(convert.exitCode(), 0) << convert.readAllStandardError().toStdString();
     QList<QByteArrayList> records;

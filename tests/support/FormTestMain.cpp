@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QStyleFactory>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 
@@ -39,6 +41,6 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     TestApplication application(argc, argv);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     return RUN_ALL_TESTS();
 }

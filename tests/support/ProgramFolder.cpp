@@ -6,6 +6,8 @@
 
 #include <QProcess>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::test
 {
 namespace
@@ -26,22 +28,21 @@ ProgramFolder::ProgramFolder(int model, int registers, int plus)
     m_folder.write("app/registers.ini", "[Bank]\r\nFolder=../registers\r\n");
     for (const char* file : {TEMPLATE_DATABASE, DATA_DIR "/setup.ini", VELMARCOMM_TOOL, CONVERT_TOOL})
         copyInto(QString::fromUtf8(file), appPath());
-    for (const QFileInfo& screen : QDir(QStringLiteral(DATA_DIR)).entryInfoList({QStringLiteral("*.scn")}))
+    for (const QFileInfo& screen : QDir(QString::fromUtf8(DATA_DIR)).entryInfoList({u"*.scn"_s}))
         copyInto(screen.filePath(), appPath());
     for (const auto& [key, value] : {std::pair("ECRModel", model), {"NoOfECRs", registers - 1}}) {
-        ProfileFile::write(appFile(QStringLiteral("setup.ini")), QStringLiteral("SetupOption"),
-                           QLatin1String(key), QString::number(value));
+        ProfileFile::write(appFile(u"setup.ini"_s), u"SetupOption"_s, QLatin1String(key),
+                           QString::number(value));
     }
-    const auto bank =
-        QStringLiteral("--registers %1 --model %2 --plus %3").arg(registers).arg(model).arg(plus);
-    EXPECT_EQ(QProcess::execute(QStringLiteral(MAKEBANK_TOOL), QStringList(bankPath()) + bank.split(u' ')),
+    const auto bank = u"--registers %1 --model %2 --plus %3"_s.arg(registers).arg(model).arg(plus);
+    EXPECT_EQ(QProcess::execute(QString::fromUtf8(MAKEBANK_TOOL), QStringList(bankPath()) + bank.split(u' ')),
               0);
     m_workingDirectory.emplace(appPath());
 }
 
 QString ProgramFolder::registerFile(int number, int file) const
 {
-    return joinPath(bankPath(), QStringLiteral("%1/%2.dat").arg(number).arg(file));
+    return joinPath(bankPath(), u"%1/%2.dat"_s.arg(number).arg(file));
 }
 
 QString ProgramFolder::appFile(const QString& name) const
@@ -58,7 +59,7 @@ ApplicationValues ProgramFolder::makeCustomer(const QString& name) const
     EXPECT_TRUE(QDir().mkpath(values.customerPath));
     for (const char* file : {"velmar.mdb", "setup.ini"})
         copyInto(appFile(QLatin1String(file)), values.customerPath);
-    values.databasePath = joinPath(values.customerPath, QStringLiteral("velmar.mdb"));
+    values.databasePath = joinPath(values.customerPath, u"velmar.mdb"_s);
     return values;
 }
 

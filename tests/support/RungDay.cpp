@@ -15,7 +15,53 @@ void addTo(std::vector<qint64>& sum, const std::vector<qint64>& numbers)
     std::transform(sum.begin(), sum.end(), numbers.begin(), sum.begin(), std::plus());
 }
 
+struct ReportLine {
+    QByteArray name;
+    qint64 quantity;
+    qint64 value;
+};
+
 } // namespace
+
+/// One line of the journal, with what it counts as.
+struct RungDay::Entry {
+    const QByteArrayList& heads;
+    const QByteArrayList& columns;
+    const qint64 customer; ///< 1000 for the first entry of a ticket, else 0
+
+    [[nodiscard]] QByteArray text(const char* head) const { return columns.at(heads.indexOf(head)); }
+    [[nodiscard]] qint64 is(const char* entry) const { return text("entry") == entry ? 1 : 0; }
+    [[nodiscard]] std::vector<ReportLine> reportLines() const;
+
+    const qint64 quantity = thousandths(text("quantity"));
+    const qint64 amount = thousandths(text("amount"));
+    const qint64 discount = thousandths(text("discount"));
+    const qint64 sale = is("sale");
+    const qint64 refund = -is("refund");
+    const qint64 promo = is("promo");
+    const qint64 waste = is("waste");
+    const qint64 sold = (sale + refund) * quantity;
+    const qint64 value = (sale + refund) * amount - discount;
+};
+
+std::vector<ReportLine> RungDay::Entry::reportLines() const
+{
+    const auto tender = text("tender").toUpper();
+    return {
+        {"NET SALES", sold, value},
+        {"ITEMS SOLD", sold, 0},
+        {"10% OFF", discount == 0 ? 0 : 1000, -discount},
+        {"GROSS SALES", sale * quantity, sale * amount},
+        {"NEGATIVE SALES", refund * quantity, refund * amount},
+        {"REFUND", refund * quantity, refund * amount},
+        {"PROMO", promo * quantity, promo * amount},
+        {"WASTE", waste * quantity, waste * amount},
+        {"CUSTOMERS", customer, value},
+        {text("destination").toUpper(), customer, value},
+        {tender, customer, value},
+        {(tender.endsWith("CARD") ? "CARDS" : tender) + " IN DRAWER", customer, value},
+    };
+}
 
 void dropZeros(ReportSums& sums)
 {
@@ -41,55 +87,27 @@ void RungDay::add(const QByteArray& journal, std::size_t levels)
     QByteArrayList ticket;
     for (const QByteArray& line : lines.sliced(1)) {
         const auto columns = line.trimmed().split(',');
-        const auto text = [&](const char* head) {
-            return columns.at(heads.indexOf(head));
-        };
-        const qint64 quantity = thousandths(text("quantity"));
-        const qint64 amount = thousandths(text("amount"));
-        const qint64 discount = thousandths(text("discount"));
-        const auto entry = text("entry");
-        const qint64 sale = entry == "sale" ? 1 : 0;
-        const qint64 refund = entry == "refund" ? -1 : 0;
-        const qint64 promo = entry == "promo" ? 1 : 0;
-        const qint64 waste = entry == "waste" ? 1 : 0;
-        const qint64 sold = (sale + refund) * quantity;
-        const qint64 value = (sale + refund) * amount - discount;
-        const qint64 customer = columns.first(2) == ticket ? 0 : 1000;
+        const bool sameTicket = columns.first(2) == ticket;
         ticket = columns.first(2);
-
-        std::vector<qint64> plu(2 + 2 * levels);
-        plu[0] = promo * quantity;
-        plu[1] = waste * quantity;
-        const std::size_t level = std::min<std::size_t>(text("level").toULong(), levels);
-        plu[2 * level] = sold;
-        plu[2 * level + 1] = value;
-        addTo(m_sums[194][text("plu")], plu);
-        addTo(m_sums[191][text("period")], {customer, value});
-        if (text("offer") != "0")
-            addTo(m_sums[218][text("offer")], {sold});
-
-        const auto tender = text("tender").toUpper();
-        const struct {
-            QByteArray name;
-            qint64 quantity;
-            qint64 value;
-        } reportLines[] = {
-            {"NET SALES", sold, value},
-            {"ITEMS SOLD", sold, 0},
-            {"10% OFF", discount == 0 ? 0 : 1000, -discount},
-            {"GROSS SALES", sale * quantity, sale * amount},
-            {"NEGATIVE SALES", refund * quantity, refund * amount},
-            {"REFUND", refund * quantity, refund * amount},
-            {"PROMO", promo * quantity, promo * amount},
-            {"WASTE", waste * quantity, waste * amount},
-            {"CUSTOMERS", customer, value},
-            {text("destination").toUpper(), customer, value},
-            {tender, customer, value},
-            {(tender.endsWith("CARD") ? "CARDS" : tender) + " IN DRAWER", customer, value},
-        };
-        for (const auto& each : reportLines)
-            addLine(text("clerk"), each.name, {each.quantity, each.value});
+        const Entry entry{heads, columns, sameTicket ? 0 : 1000};
+        addItem(entry, levels);
+        for (const auto& [name, quantity, value] : entry.reportLines())
+            addLine(entry.text("clerk"), name, {quantity, value});
     }
+}
+
+void RungDay::addItem(const Entry& entry, std::size_t levels)
+{
+    std::vector<qint64> plu(2 + 2 * levels);
+    plu[0] = entry.promo * entry.quantity;
+    plu[1] = entry.waste * entry.quantity;
+    const std::size_t level = std::min<std::size_t>(entry.text("level").toULong(), levels);
+    plu[2 * level] = entry.sold;
+    plu[2 * level + 1] = entry.value;
+    addTo(m_sums[194][entry.text("plu")], plu);
+    addTo(m_sums[191][entry.text("period")], {entry.customer, entry.value});
+    if (entry.text("offer") != "0")
+        addTo(m_sums[218][entry.text("offer")], {entry.sold});
 }
 
 void RungDay::addLine(const QByteArray& clerk, const QByteArray& name, const std::vector<qint64>& numbers)

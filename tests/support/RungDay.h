@@ -35,6 +35,9 @@ public:
     [[nodiscard]] ReportSums sums(int report) const;
 
 private:
+    struct Entry;
+
+    void addItem(const Entry& entry, std::size_t levels);
     void addLine(const QByteArray& clerk, const QByteArray& name, const std::vector<qint64>& numbers);
 
     QByteArrayList m_financialNames;

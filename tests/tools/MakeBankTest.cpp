@@ -13,20 +13,24 @@ TEST(MakeBank, makesTheSameRegistersAndKeepsThemUnlessAskedForFreshOnes)
     const auto names = QDir(bench.path("bank/1")).entryList(QDir::Files);
     EXPECT_GT(names.size(), 60);
     for (const auto& name : names)
-        EXPECT_EQ(bench.read(q("bank/1/") + name), other.read(q("bank/1/") + name)) << name.toStdString();
+        EXPECT_EQ(bench.read(u"bank/1/"_s + name), other.read(u"bank/1/"_s + name)) << name.toStdString();
 
     bench.write("bank/1/1.dat", "changed");
     bench.write("bank/notes.txt", "mine");
-    EXPECT_EQ(bench.run(MAKEBANK, bench.path("bank") + q(" --registers 3")).exitCode, 0);
+    EXPECT_EQ(bench.run(MAKEBANK, bench.path("bank") + u" --registers 3"_s).exitCode, 0);
     EXPECT_EQ(bench.read("bank/1/1.dat"), "changed");
     EXPECT_FALSE(bench.has("bank/3"));
 
     bench.write("bank/2/register.ini", "damaged");
-    EXPECT_EQ(bench.run(MAKEBANK, bench.path("bank") + q(" --registers 1 --fresh")).exitCode, 0);
+    EXPECT_EQ(bench.run(MAKEBANK, bench.path("bank") + u" --registers 1 --fresh"_s).exitCode, 0);
     EXPECT_EQ(bench.read("bank/1/1.dat"), other.read("bank/1/1.dat"));
     EXPECT_FALSE(bench.has("bank/2"));
     EXPECT_EQ(bench.read("bank/notes.txt"), "mine");
+}
 
+TEST(MakeBank, refusesOptionsThatItDoesNotHave)
+{
+    const ToolBench bench;
     for (const auto* words : {"", "a b", "new --registers 0", "new --registers 33", "new --model 4",
                               "new --plus x", "new --colour red"})
         EXPECT_EQ(bench.run(MAKEBANK, words).exitCode, 1) << words;

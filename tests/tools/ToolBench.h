@@ -12,6 +12,8 @@
 namespace bank::test
 {
 
+using namespace Qt::Literals::StringLiterals;
+
 struct Ended {
     int exitCode = -1;
     bool crashed = false;
@@ -23,13 +25,10 @@ class ToolBench
 public:
     explicit ToolBench(int registers = 1, int model = 2, const QString& more = {})
     {
-        QDir(m_folder.path()).mkpath(QStringLiteral("work"));
+        QDir(m_folder.path()).mkpath(u"work"_s);
         write("work/registers.ini", "[Bank]\r\nFolder=../bank\r\n");
-        const auto words = QStringLiteral("%1 --registers %2 --model %3 %4")
-                               .arg(path("bank"))
-                               .arg(registers)
-                               .arg(model)
-                               .arg(more);
+        const auto words =
+            u"%1 --registers %2 --model %3 %4"_s.arg(path("bank")).arg(registers).arg(model).arg(more);
         EXPECT_EQ(run(MAKEBANK, words).exitCode, 0);
     }
 
@@ -52,8 +51,8 @@ public:
     /// Changes one line of a register's register.ini.
     void set(int number, const char* key, const char* value) const
     {
-        QSettings(path(QStringLiteral("bank/%1/register.ini").arg(number)), QSettings::IniFormat)
-            .setValue(QStringLiteral("Register/") + QLatin1String(key), QLatin1String(value));
+        QSettings(path(u"bank/%1/register.ini"_s.arg(number)), QSettings::IniFormat)
+            .setValue(u"Register/"_s + QLatin1String(key), QLatin1String(value));
     }
 
     Ended run(const char* program, QAnyStringView words) const

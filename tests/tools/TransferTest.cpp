@@ -7,36 +7,37 @@ namespace bank::test
 namespace
 {
 
+/// Lines parted by a semicolon, by the result in status.out.
+const std::pair<const char*, const char*> linesByResult[] = {
+    // lines of all three kinds
+    {"0", "s9 c1 -U 250; s2 c1 Nmem.DAT -U 52; s4 F1 2T c1 N1.DAT -D 1; s1 F1 1T c1 N1.DAT -D 1; "
+          "1200 Nmem.DAT -U 52; 19200 -U 250; 2400 F1 2T ZEROS; 9600 F1 2T -P 190 191 192 194 218; "
+          "9600 F1 1T -C"},
+    // words that are missing, unknown, in the wrong place or of another kind of line
+    {"1", "; s9; c1 s9 -U 250; s9 N1.DAT -U 1; s9 c1 N1.DAT; s3 c1 -U 250; 4800 -U 250; s9 c5 -U 250; "
+          "s9 C1 -U 250; s9 F2 2T c1 N1.DAT -D 1; s9 F1 0T c1 N1.DAT -D 1; s9 F1 33T c1 N1.DAT -D 1; "
+          "s9 F1 02T c1 N1.DAT -D 1; s9 F1 2 c1 N1.DAT -D 1; s9 F1 2T c1 N1.DAT -U 1; s9 c1 N1.DAT -D 1; "
+          "9600 N1.DAT -U 1; 9600 -C; s9 F1 2T c1 -C; s9 F1 2T c1 ZEROS"},
+    // commands and files that do not exist, and those with the letter of another
+    {"7", "s9 c1 1.DAT -U 1; s9 c1 N1.DAT -U 1 2; 9600 c1 -U 250; s9 c1 -X 250; s9 c1 -u 250; "
+          "s9 c1 N19.DAT -U 19; s9 c1 N99.DAT -U 99; s9 c1 N2.DAT -U 1; s9 c1 N1.dat -U 1; "
+          "s9 c1 Nmem.DAT -D 52; s9 F1 1T c1 N67.DAT -D 67; s9 F1 1T c1 N1.DAT -a; "
+          "9600 F1 2T -P 190 191 192 194; 9600 F1 2T -P 191 190 192 194 218; 9600 F1 2T P000101010001 -Z; "
+          "s9 c1 N1.DAT -u 1; s9 c1 N36.DAT -u 36; s9 c1 N57.DAT -U 57; s9 F1 1T c1 N1.DAT -d 1; "
+          "s9 F1 1T c1 N4.DAT -D 4; s9 F1 1T c1 N65.DAT -D 65; s9 F1 1T c1 N57.DAT -d 57"},
+    // no number where one belongs
+    {"5", "s9 c1 N1.DAT -U one"},
+};
+
 /// The exchanges of the program send each line that it knows.
 TEST(Transfer, takesOrRefusesLines)
 {
     const ToolBench bench(2);
     bench.comm("s9 c1 N1.DAT -U 1");
-    const auto zeros = q("P0001010100010000000000000000000000000000000000000000000100 -Z");
-    const std::pair<const char*, const char*> cases[] = {
-        // lines of all three kinds
-        {"0", "s9 c1 -U 250; s2 c1 Nmem.DAT -U 52; s4 F1 2T c1 N1.DAT -D 1; s1 F1 1T c1 N1.DAT -D 1; "
-              "1200 Nmem.DAT -U 52; 19200 -U 250; 2400 F1 2T ZEROS; 9600 F1 2T -P 190 191 192 194 218; "
-              "9600 F1 1T -C"},
-        // words that are missing, unknown, in the wrong place or of another kind of line
-        {"1", "; s9; c1 s9 -U 250; s9 N1.DAT -U 1; s9 c1 N1.DAT; s3 c1 -U 250; 4800 -U 250; s9 c5 -U 250; "
-              "s9 C1 -U 250; s9 F2 2T c1 N1.DAT -D 1; s9 F1 0T c1 N1.DAT -D 1; s9 F1 33T c1 N1.DAT -D 1; "
-              "s9 F1 02T c1 N1.DAT -D 1; s9 F1 2 c1 N1.DAT -D 1; s9 F1 2T c1 N1.DAT -U 1; s9 c1 N1.DAT -D 1; "
-              "9600 N1.DAT -U 1; 9600 -C; s9 F1 2T c1 -C; s9 F1 2T c1 ZEROS"},
-        // commands and files that do not exist, and those with the letter of another
-        {"7",
-         "s9 c1 1.DAT -U 1; s9 c1 N1.DAT -U 1 2; 9600 c1 -U 250; s9 c1 -X 250; s9 c1 -u 250; "
-         "s9 c1 N19.DAT -U 19; s9 c1 N99.DAT -U 99; s9 c1 N2.DAT -U 1; s9 c1 N1.dat -U 1; "
-         "s9 c1 Nmem.DAT -D 52; s9 F1 1T c1 N67.DAT -D 67; s9 F1 1T c1 N1.DAT -a; "
-         "9600 F1 2T -P 190 191 192 194; 9600 F1 2T -P 191 190 192 194 218; 9600 F1 2T P000101010001 -Z; "
-         "s9 c1 N1.DAT -u 1; s9 c1 N36.DAT -u 36; s9 c1 N57.DAT -U 57; s9 F1 1T c1 N1.DAT -d 1; "
-         "s9 F1 1T c1 N4.DAT -D 4; s9 F1 1T c1 N65.DAT -D 65; s9 F1 1T c1 N57.DAT -d 57"},
-        // no number where one belongs
-        {"5", "s9 c1 N1.DAT -U one"},
-    };
-    for (const auto& [result, lines] : cases) {
-        for (QString line : q(lines).split(q("; ")))
-            EXPECT_EQ(bench.comm(line.replace(q("ZEROS"), zeros)), result) << line.toStdString();
+    const auto zeros = u"P0001010100010000000000000000000000000000000000000000000100 -Z"_s;
+    for (const auto& [result, lines] : linesByResult) {
+        for (QString line : q(lines).split(u"; "_s))
+            EXPECT_EQ(bench.comm(line.replace(u"ZEROS"_s, zeros)), result) << line.toStdString();
     }
 }
 
@@ -60,25 +61,36 @@ TEST(Transfer, servesTheRegistersOfAPortOneByOne)
     EXPECT_NE(bench.read("bank/2/18.dat"), sent);
     EXPECT_EQ(bench.comm("s9 F1 3T c1 N18.DAT -D 18"), "8") << "only two hang on port 1";
     EXPECT_EQ(bench.read("bank/2/18.dat"), sent);
+}
 
+TEST(Transfer, bringsTheMemoryUnderTheSpellingThatIsThere)
+{
+    const ToolBench bench;
     bench.write("work/MEM.dat", "old");
     EXPECT_EQ(bench.comm("9600 Nmem.DAT -U 52"), "0");
     EXPECT_FALSE(bench.has("work/mem.DAT"));
     EXPECT_EQ(bench.read("work/MEM.dat"), bench.read("bank/1/52.dat"));
 }
 
+QByteArray offersAsText(const ToolBench& bench)
+{
+    bench.convert("wVelmarn f../bank/1/70.dat t70.txt u70");
+    return bench.read("work/70.txt");
+}
+
+/// The register's own offers and one more than it has room for.
+QByteArray oneOfferTooMany(const ToolBench& bench, const QByteArray& text)
+{
+    bench.write("work/70.txt", text + text.left(text.indexOf('\n') + 1));
+    EXPECT_EQ(bench.convert("wVelmarn f70.txt t70.dat d70").exitCode, 0);
+    return bench.read("work/70.dat");
+}
+
 TEST(Transfer, refusesWhatDoesNotFitTheRegister)
 {
     const ToolBench bench;
     const auto good = bench.read("bank/1/70.dat");
-    auto damaged = good;
-    damaged[40] = 'x';
-    // The register's own offers and one more than it has room for.
-    bench.convert("wVelmarn f../bank/1/70.dat t70.txt u70");
-    const auto text = bench.read("work/70.txt");
-    bench.write("work/70.txt", text + text.left(text.indexOf('\n') + 1));
-    EXPECT_EQ(bench.convert("wVelmarn f70.txt t70.dat d70").exitCode, 0);
-
+    const auto text = offersAsText(bench);
     const struct {
         const char* name;
         QByteArray bytes;
@@ -90,8 +102,8 @@ TEST(Transfer, refusesWhatDoesNotFitTheRegister)
         {"opaque file", bench.read("bank/1/18.dat"), "3"},
         {"cut", good.chopped(1), "4"},
         {"longer", good + 'x', "4"},
-        {"a record too many", bench.read("work/70.dat"), "4"},
-        {"damaged", damaged, "11"},
+        {"a record too many", oneOfferTooMany(bench, text), "4"},
+        {"damaged", QByteArray(good).replace(40, 1, "x"), "11"},
     };
     for (const auto& each : cases) {
         bench.write("work/70.DAT", each.bytes);

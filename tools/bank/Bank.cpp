@@ -14,45 +14,54 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
 {
 
-const QString registerIni = QStringLiteral("register.ini");
+const QString registerIni = u"register.ini"_s;
+
+Model readModel(const QSettings& ini)
+{
+    const auto word = ini.value(u"Model"_s).toString();
+    const auto model = modelOfWord(word);
+    if (!model)
+        throw ToolFailure(FileInformationWrong, u"%1: unknown model \"%2\""_s.arg(ini.fileName(), word));
+    return *model;
+}
+
+std::optional<quint8> readStamp(const QSettings& ini)
+{
+    bool isStamp = false;
+    const auto stamp = ini.value(u"Stamp"_s).toString().toUShort(&isStamp, 16);
+    return isStamp ? std::optional(static_cast<quint8>(stamp)) : std::nullopt;
+}
 
 Register readRegister(int number, const QString& folder)
 {
     QSettings ini(QDir(folder).filePath(registerIni), QSettings::IniFormat);
-    ini.beginGroup(QStringLiteral("Register"));
+    ini.beginGroup(u"Register"_s);
     Register result;
     result.number = number;
     result.folder = folder;
-    const auto word = ini.value(QStringLiteral("Model")).toString();
-    const auto model = modelOfWord(word);
-    if (!model) {
-        throw ToolFailure(FileInformationWrong,
-                          QStringLiteral("%1: unknown model \"%2\"").arg(ini.fileName(), word));
-    }
-    result.model = *model;
-    result.generation = ini.value(QStringLiteral("Generation"), 3).toInt();
-    result.cards = ini.value(QStringLiteral("Cards"), 1).toInt() != 0;
-    result.port = ini.value(QStringLiteral("Port"), 1).toInt();
-    result.on = ini.value(QStringLiteral("On"), 1).toInt() != 0;
-    result.busy = ini.value(QStringLiteral("Busy"), 0).toInt() != 0;
-    bool isStamp = false;
-    const auto stamp = ini.value(QStringLiteral("Stamp")).toString().toUShort(&isStamp, 16);
-    if (isStamp)
-        result.stamp = static_cast<quint8>(stamp);
+    result.model = readModel(ini);
+    result.generation = ini.value(u"Generation"_s, 3).toInt();
+    result.cards = ini.value(u"Cards"_s, 1).toInt() != 0;
+    result.port = ini.value(u"Port"_s, 1).toInt();
+    result.on = ini.value(u"On"_s, 1).toInt() != 0;
+    result.busy = ini.value(u"Busy"_s, 0).toInt() != 0;
+    result.stamp = readStamp(ini);
     return result;
 }
 
 std::optional<QString> bankFolderBeside(const QString& folder)
 {
-    const QString path = QDir(folder).filePath(QStringLiteral("registers.ini"));
+    const QString path = QDir(folder).filePath(u"registers.ini"_s);
     if (!QFileInfo::exists(path))
         return std::nullopt;
-    const auto name = QSettings(path, QSettings::IniFormat).value(QStringLiteral("Bank/Folder")).toString();
+    const auto name = QSettings(path, QSettings::IniFormat).value(u"Bank/Folder"_s).toString();
     return QDir::cleanPath(QDir(folder).filePath(name));
 }
 
@@ -66,7 +75,7 @@ bool Register::knowsFile(int file) const
 
 QString Register::filePath(int file) const
 {
-    return QDir(folder).filePath(QStringLiteral("%1.dat").arg(file));
+    return QDir(folder).filePath(u"%1.dat"_s.arg(file));
 }
 
 QList<QByteArrayList> Register::records(int file) const
@@ -89,13 +98,13 @@ QList<QByteArray> Register::memory() const
 void Register::save() const
 {
     QSettings ini(QDir(folder).filePath(registerIni), QSettings::IniFormat);
-    ini.beginGroup(QStringLiteral("Register"));
-    ini.setValue(QStringLiteral("Model"), modelWord(model));
-    ini.setValue(QStringLiteral("Generation"), generation);
-    ini.setValue(QStringLiteral("Cards"), cards ? 1 : 0);
-    ini.setValue(QStringLiteral("Port"), port);
-    ini.setValue(QStringLiteral("On"), on ? 1 : 0);
-    ini.setValue(QStringLiteral("Busy"), busy ? 1 : 0);
+    ini.beginGroup(u"Register"_s);
+    ini.setValue(u"Model"_s, modelWord(model));
+    ini.setValue(u"Generation"_s, generation);
+    ini.setValue(u"Cards"_s, cards ? 1 : 0);
+    ini.setValue(u"Port"_s, port);
+    ini.setValue(u"On"_s, on ? 1 : 0);
+    ini.setValue(u"Busy"_s, busy ? 1 : 0);
 }
 
 std::optional<Bank> Bank::find(const QString& toolFolder)

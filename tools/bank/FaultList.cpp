@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <thread>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
@@ -22,15 +24,14 @@ bool fits(const QSettings& section, const QString& key, const QString& value)
 
 bool matches(const QSettings& section, const Step& step)
 {
-    return fits(section, QStringLiteral("Tool"), step.tool) &&
-           fits(section, QStringLiteral("Command"), step.command) &&
-           fits(section, QStringLiteral("File"), QString::number(step.file));
+    return fits(section, u"Tool"_s, step.tool) && fits(section, u"Command"_s, step.command) &&
+           fits(section, u"File"_s, QString::number(step.file));
 }
 
 /// Notes one more match of @p name and says how many there were.
 qsizetype countMatch(const QString& bankFolder, const QString& name)
 {
-    QFile log(QDir(bankFolder).filePath(QStringLiteral("faults.log")));
+    QFile log(QDir(bankFolder).filePath(u"faults.log"_s));
     const QByteArray line = name.toUtf8() + '\n';
     if (!log.open(QIODevice::ReadWrite))
         return 1;
@@ -41,16 +42,22 @@ qsizetype countMatch(const QString& bankFolder, const QString& name)
     return count;
 }
 
+bool isTurnOf(const QSettings& section, qsizetype match)
+{
+    const auto nth = section.value(u"Nth"_s).toInt();
+    return nth == 0 || nth == match;
+}
+
 Fault readFault(const QSettings& section)
 {
     Fault fault;
-    fault.result = section.value(QStringLiteral("Result")).toInt();
-    fault.atRegister = section.value(QStringLiteral("Register")).toInt();
-    fault.hangSeconds = section.value(QStringLiteral("Hang")).toInt();
-    fault.crash = section.value(QStringLiteral("Crash")).toInt() != 0;
-    fault.status = section.value(QStringLiteral("Status")).toString();
-    if (section.contains(QStringLiteral("BytesLeft")))
-        fault.bytesLeft = section.value(QStringLiteral("BytesLeft")).toInt();
+    fault.result = section.value(u"Result"_s).toInt();
+    fault.atRegister = section.value(u"Register"_s).toInt();
+    fault.hangSeconds = section.value(u"Hang"_s).toInt();
+    fault.crash = section.value(u"Crash"_s).toInt() != 0;
+    fault.status = section.value(u"Status"_s).toString();
+    if (section.contains(u"BytesLeft"_s))
+        fault.bytesLeft = section.value(u"BytesLeft"_s).toInt();
     return fault;
 }
 
@@ -58,21 +65,18 @@ Fault readFault(const QSettings& section)
 
 std::optional<Fault> dueFault(const QString& bankFolder, const Step& step)
 {
-    const QString path = QDir(bankFolder).filePath(QStringLiteral("faults.ini"));
+    const QString path = QDir(bankFolder).filePath(u"faults.ini"_s);
     if (!QFile::exists(path))
         return std::nullopt;
 
     QSettings ini(path, QSettings::IniFormat);
     std::optional<Fault> due;
-    const auto names = ini.childGroups();
-    for (const auto& name : names) {
+    for (const QString& name : ini.childGroups()) {
         ini.beginGroup(name);
-        if (matches(ini, step)) {
-            const auto nth = ini.value(QStringLiteral("Nth")).toInt();
-            const auto count = countMatch(bankFolder, name);
-            if (!due && (nth == 0 || nth == count))
-                due = readFault(ini);
-        }
+        // Each section that matches counts, also behind the one that is due.
+        const bool now = matches(ini, step) && isTurnOf(ini, countMatch(bankFolder, name));
+        if (now && !due)
+            due = readFault(ini);
         ini.endGroup();
     }
     return due;

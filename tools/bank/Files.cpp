@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 
@@ -28,7 +30,7 @@ QByteArray readFile(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw ToolFailure(FileOpenError, QStringLiteral("%1: %2").arg(path, file.errorString()));
+        throw ToolFailure(FileOpenError, u"%1: %2"_s.arg(path, file.errorString()));
     return file.readAll();
 }
 
@@ -36,7 +38,7 @@ void writeFile(const QString& path, const QByteArray& bytes)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw ToolFailure(FileWriteError, QStringLiteral("%1: %2").arg(path, file.errorString()));
+        throw ToolFailure(FileWriteError, u"%1: %2"_s.arg(path, file.errorString()));
 }
 
 } // namespace bank

@@ -3,13 +3,14 @@
 
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
 {
 
-const std::array<QString, 3> words{QStringLiteral("Velmaro"), QStringLiteral("Velmarn"),
-                                   QStringLiteral("Dorvik")};
+const std::array<QString, 3> words{u"Velmaro"_s, u"Velmarn"_s, u"Dorvik"_s};
 
 } // namespace
 

@@ -6,6 +6,8 @@
 #include <QDataStream>
 #include <QIODevice>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
@@ -14,7 +16,7 @@ namespace
 constexpr qsizetype headLength = 14;
 constexpr qsizetype headerLength = 16;
 constexpr quint8 formatVersion = 1;
-const QByteArray magic = QByteArrayLiteral("NVRF");
+const QByteArray magic = "NVRF"_ba;
 
 quint16 checksum(const QByteArray& head, const QByteArray& records)
 {
@@ -24,6 +26,41 @@ quint16 checksum(const QByteArray& head, const QByteArray& records)
 ToolFailure wrongInformation(const QString& text)
 {
     return {FileInformationWrong, text};
+}
+
+/// What stands in front of the records.
+struct Header {
+    quint8 stamp = 0;
+    quint8 number = 0;
+    quint8 model = 0;
+    quint8 version = 0;
+    quint32 count = 0;
+    quint16 length = 0;
+    quint16 sum = 0;
+};
+
+Header readHeader(const QByteArray& bytes)
+{
+    if (bytes.size() < headerLength || !bytes.startsWith(magic))
+        throw wrongInformation(u"not a register file"_s);
+    Header header;
+    QDataStream stream(bytes.mid(magic.size()));
+    stream >> header.stamp >> header.number >> header.model >> header.version >> header.count >>
+        header.length >> header.sum;
+    if (header.version != formatVersion || header.model > static_cast<quint8>(Model::Dorvik))
+        throw wrongInformation(u"a register file of an unknown format or model"_s);
+    return header;
+}
+
+void checkRecords(const Header& header, const QByteArray& head, const QByteArray& records)
+{
+    const qint64 promised = static_cast<qint64>(header.count) * header.length;
+    if (records.size() != promised) {
+        throw ToolFailure(FileSizeMismatch,
+                          u"%1 bytes of records, %2 expected"_s.arg(records.size()).arg(promised));
+    }
+    if (checksum(head, records) != header.sum)
+        throw ToolFailure(BadCrc, u"the checksum does not fit the content"_s);
 }
 
 } // namespace
@@ -41,33 +78,14 @@ QByteArray toBytes(const RegisterFile& file)
 
 RegisterFile fromBytes(const QByteArray& bytes)
 {
-    if (bytes.size() < headerLength || !bytes.startsWith(magic))
-        throw wrongInformation(QStringLiteral("not a register file"));
-
-    QDataStream stream(bytes.mid(magic.size()));
+    const Header header = readHeader(bytes);
     RegisterFile file;
-    quint8 number = 0;
-    quint8 model = 0;
-    quint8 version = 0;
-    quint32 count = 0;
-    quint16 length = 0;
-    quint16 sum = 0;
-    stream >> file.stamp >> number >> model >> version >> count >> length >> sum;
-    if (version != formatVersion || model > static_cast<quint8>(Model::Dorvik))
-        throw wrongInformation(QStringLiteral("a register file of an unknown format or model"));
-
-    file.file = number;
-    file.model = static_cast<Model>(model);
-    file.recordLength = length;
+    file.stamp = header.stamp;
+    file.file = header.number;
+    file.model = static_cast<Model>(header.model);
+    file.recordLength = header.length;
     file.records = bytes.mid(headerLength);
-    const qint64 promised = static_cast<qint64>(count) * length;
-    if (file.records.size() != promised) {
-        throw ToolFailure(
-            FileSizeMismatch,
-            QStringLiteral("%1 bytes of records, %2 expected").arg(file.records.size()).arg(promised));
-    }
-    if (checksum(bytes.left(headLength), file.records) != sum)
-        throw ToolFailure(BadCrc, QStringLiteral("the checksum does not fit the content"));
+    checkRecords(header, bytes.left(headLength), file.records);
     return file;
 }
 
@@ -75,10 +93,10 @@ RegisterFile fromBytes(const QByteArray& bytes, int file, Model model)
 {
     auto result = fromBytes(bytes);
     if (result.file != file)
-        throw wrongInformation(QStringLiteral("holds file %1, not %2").arg(result.file).arg(file));
+        throw wrongInformation(u"holds file %1, not %2"_s.arg(result.file).arg(file));
     if (result.model != model) {
         throw wrongInformation(
-            QStringLiteral("made for a %1, not for a %2").arg(modelWord(result.model), modelWord(model)));
+            u"made for a %1, not for a %2"_s.arg(modelWord(result.model), modelWord(model)));
     }
     return result;
 }

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
@@ -21,6 +23,7 @@ namespace
 
 constexpr int reportClearError = 15;
 constexpr qsizetype descriptionWidth = 16;
+constexpr qsizetype numberLength = sizeof(qint64);
 
 // The stamp's high half is the number of price levels, its low half says what each record holds.
 constexpr quint8 byLevelBit = 1;
@@ -40,6 +43,25 @@ std::size_t numbersOfPlu(quint8 stamp)
 {
     const bool byLevel = (stamp & byLevelBit) != 0;
     return 2 + 2 * (byLevel ? std::max<std::size_t>(stamp >> 4, 1) : 1);
+}
+
+/// Of what stands in front of a PLU's numbers.
+qsizetype headLength(quint8 stamp)
+{
+    return pluDigits + ((stamp & descriptionBit) != 0 ? descriptionWidth : 0);
+}
+
+/// @param head bytes of PLU number and description in front of the numbers, 0 when there are none
+QByteArray reportLine(const QByteArray& record, qsizetype head)
+{
+    QByteArrayList values;
+    if (head > 0)
+        values += record.left(pluDigits);
+    if (head > pluDigits)
+        values += record.mid(pluDigits, descriptionWidth);
+    for (auto at = head; at < record.size(); at += numberLength)
+        values += numberText(qFromBigEndian<qint64>(record.constData() + at));
+    return values.join(',') + "\r\n";
 }
 
 int flagDigit(const QByteArray& options, int place)
@@ -75,6 +97,12 @@ std::size_t itemsOf(int report, const QList<QByteArray>& memory)
     }
 }
 
+std::vector<Numbers> linesOf(const Totals& totals, int report)
+{
+    const auto sold = totals.byPlace.find(report);
+    return sold == totals.byPlace.end() ? std::vector<Numbers>() : sold->second;
+}
+
 /// Adds what @p into has room for, and puts the price levels beyond it to its last one.
 void addLevels(Numbers& into, const Numbers& numbers)
 {
@@ -105,7 +133,7 @@ bool consolidateReports(const Register& target)
     if (folder.exists(consolidatedTotals(target)))
         return false;
     if (folder.exists(openTotals(target)) && !folder.rename(openTotals(target), consolidatedTotals(target)))
-        throw ToolFailure(FileWriteError, QStringLiteral("%1: totals cannot be moved").arg(target.folder));
+        throw ToolFailure(FileWriteError, u"%1: totals cannot be moved"_s.arg(target.folder));
     return true;
 }
 
@@ -113,8 +141,7 @@ void clearReports(const Register& target)
 {
     QDir folder(consolidatedTotals(target));
     if (folder.exists() && !folder.removeRecursively()) {
-        throw ToolFailure(reportClearError,
-                          QStringLiteral("%1: reports cannot be cleared").arg(folder.path()));
+        throw ToolFailure(reportClearError, u"%1: reports cannot be cleared"_s.arg(folder.path()));
     }
 }
 
@@ -134,8 +161,7 @@ void Collection::addByPlace(const Register& source, const Totals& totals)
 {
     const auto memory = source.memory();
     for (const auto& shape : shapes) {
-        const auto sold = totals.byPlace.find(shape.file);
-        const auto lines = sold == totals.byPlace.end() ? std::vector<Numbers>() : sold->second;
+        const auto lines = linesOf(totals, shape.file);
         auto& items = m_byPlace[shape.file];
         const auto count = std::max(itemsOf(shape.file, memory), lines.size());
         items.resize(std::max(items.size(), count), Numbers(shape.numbers));
@@ -162,47 +188,44 @@ void Collection::addPlus(const Register& source, const Totals& totals)
 std::vector<RegisterFile> Collection::files() const
 {
     std::vector<RegisterFile> result;
-    for (const auto& shape : shapes) {
-        RegisterFile file{shape.file, m_model, static_cast<int>(shape.numbers * sizeof(qint64))};
-        const auto items = m_byPlace.find(shape.file);
-        for (const auto& numbers : items == m_byPlace.end() ? std::vector<Numbers>() : items->second)
-            appendNumbers(file.records, numbers);
-        result.push_back(file);
-    }
+    for (const auto& shape : shapes)
+        result.push_back(fileByPlace(shape.file, shape.numbers));
+    result.push_back(fileOfPlus());
+    return result;
+}
 
+RegisterFile Collection::fileByPlace(int report, std::size_t numbers) const
+{
+    RegisterFile file{report, m_model, static_cast<int>(numbers * sizeof(qint64))};
+    const auto items = m_byPlace.find(report);
+    if (items == m_byPlace.end())
+        return file;
+    for (const auto& each : items->second)
+        appendNumbers(file.records, each);
+    return file;
+}
+
+RegisterFile Collection::fileOfPlus() const
+{
     const bool descriptions = (m_stamp & descriptionBit) != 0;
-    const auto head = pluDigits + (descriptions ? descriptionWidth : 0);
-    RegisterFile file{pluReport, m_model,
-                      static_cast<int>(head) + static_cast<int>(numbersOfPlu(m_stamp) * sizeof(qint64))};
+    const auto length = headLength(m_stamp) + static_cast<qsizetype>(numbersOfPlu(m_stamp) * sizeof(qint64));
+    RegisterFile file{pluReport, m_model, static_cast<int>(length)};
     file.stamp = m_stamp;
     for (const auto& [number, plu] : m_plus) {
         file.records += number + (descriptions ? plu.description : QByteArray());
         appendNumbers(file.records, plu.numbers);
     }
-    result.push_back(file);
-    return result;
+    return file;
 }
 
 QByteArray reportText(const RegisterFile& file)
 {
-    const bool byPlu = file.file == pluReport;
-    const bool descriptions = byPlu && (file.stamp & descriptionBit) != 0;
-    const qsizetype head = byPlu ? pluDigits + (descriptions ? descriptionWidth : 0) : 0;
-    if (file.recordLength < head || (file.recordLength - head) % static_cast<qsizetype>(sizeof(qint64)) != 0)
-        throw ToolFailure(FileSizeMismatch, QStringLiteral("a report record of a wrong length"));
-
+    const auto head = file.file == pluReport ? headLength(file.stamp) : 0;
+    if (file.recordLength < head || (file.recordLength - head) % numberLength != 0)
+        throw ToolFailure(FileSizeMismatch, u"a report record of a wrong length"_s);
     QByteArray text;
-    for (qsizetype i = 0; i < file.recordCount(); ++i) {
-        const auto record = file.record(i);
-        QByteArrayList values;
-        if (byPlu)
-            values += record.left(pluDigits);
-        if (descriptions)
-            values += record.mid(pluDigits, descriptionWidth);
-        for (auto at = head; at < record.size(); at += static_cast<qsizetype>(sizeof(qint64)))
-            values += numberText(qFromBigEndian<qint64>(record.constData() + at));
-        text += values.join(',') + "\r\n";
-    }
+    for (qsizetype i = 0; i < file.recordCount(); ++i)
+        text += reportLine(file.record(i), head);
     return text;
 }
 

@@ -35,6 +35,8 @@ public:
 private:
     void addByPlace(const Register& source, const Totals& totals);
     void addPlus(const Register& source, const Totals& totals);
+    [[nodiscard]] RegisterFile fileByPlace(int report, std::size_t numbers) const;
+    [[nodiscard]] RegisterFile fileOfPlus() const;
 
     struct Plu {
         QByteArray description;

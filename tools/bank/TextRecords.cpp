@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
@@ -15,7 +17,7 @@ struct ColumnFault {
 
 QString quoted(const QByteArray& value)
 {
-    return QStringLiteral("\"%1\"").arg(QString::fromLatin1(value));
+    return u"\"%1\""_s.arg(QString::fromLatin1(value));
 }
 
 bool onlyDigitsUpTo(char highest, const QByteArray& value)
@@ -27,43 +29,47 @@ bool onlyDigitsUpTo(char highest, const QByteArray& value)
 void checkWidth(const QByteArray& value, const Column& column)
 {
     if (value.size() != column.width) {
-        throw ColumnFault{QStringLiteral("%1 is %2 characters wide, %3 expected")
-                              .arg(quoted(value))
+        throw ColumnFault{u"%1 is %2 characters wide, %3 expected"_s.arg(quoted(value))
                               .arg(value.size())
                               .arg(column.width)};
     }
 }
 
-void checkContent(const QByteArray& value, const Column& column)
+bool hasControlCharacter(const QByteArray& value)
 {
-    const auto isControl = [](char each) {
-        return static_cast<unsigned char>(each) < 0x20;
-    };
+    return std::any_of(value.begin(), value.end(),
+                       [](char each) { return static_cast<unsigned char>(each) < 0x20; });
+}
+
+/// What is wrong with a column's content, or "".
+QString complaintAbout(const QByteArray& value, const Column& column)
+{
     switch (column.form) {
     case Form::Text:
-        if (std::any_of(value.begin(), value.end(), isControl))
-            throw ColumnFault{QStringLiteral("a control character stands in the text")};
-        break;
+        return hasControlCharacter(value) ? u"a control character stands in the text"_s : QString();
     case Form::Digits:
-        if (!onlyDigitsUpTo('9', value))
-            throw ColumnFault{QStringLiteral("%1 is not all digits").arg(quoted(value))};
-        break;
+        return onlyDigitsUpTo('9', value) ? QString() : quoted(value) + " is not all digits"_L1;
     case Form::Options:
-        if (!onlyDigitsUpTo('7', value))
-            throw ColumnFault{QStringLiteral("%1 is not two option digits 0 to 7").arg(quoted(value))};
-        break;
+        return onlyDigitsUpTo('7', value) ? QString() : quoted(value) + " is not two option digits 0 to 7"_L1;
     case Form::Zeros:
-        if (!onlyDigitsUpTo('0', value))
-            throw ColumnFault{QStringLiteral("the spare column holds more than zeros")};
-        break;
-    case Form::Code:
-    case Form::Bare:
-        if (!column.values.contains(value)) {
-            throw ColumnFault{QStringLiteral("%1 is none of %2")
-                                  .arg(quoted(value), QString::fromLatin1(column.values.join(' ')))};
-        }
-        break;
+        return onlyDigitsUpTo('0', value) ? QString() : u"the spare column holds more than zeros"_s;
+    default:
+        return column.values.contains(value)
+                   ? QString()
+                   : quoted(value) + " is none of "_L1 + QString::fromLatin1(column.values.join(' '));
     }
+}
+
+void checkContent(const QByteArray& value, const Column& column)
+{
+    const QString complaint = complaintAbout(value, column);
+    if (!complaint.isEmpty())
+        throw ColumnFault{complaint};
+}
+
+bool isCode(const Column& column)
+{
+    return column.form == Form::Code || column.form == Form::Bare;
 }
 
 QByteArray packDigits(QByteArray digits)
@@ -75,61 +81,60 @@ QByteArray packDigits(QByteArray digits)
 
 QByteArray packColumn(const QByteArray& value, const Column& column)
 {
-    if (column.form != Form::Bare && column.form != Form::Code)
+    if (!isCode(column))
         checkWidth(value, column);
     checkContent(value, column);
-    switch (column.form) {
-    case Form::Text:
+    if (isCode(column))
+        return {1, static_cast<char>(column.values.indexOf(value))};
+    if (column.form == Form::Text)
         return value;
-    case Form::Zeros:
-        return {};
-    case Form::Code:
-    case Form::Bare:
-        return QByteArray(1, static_cast<char>(column.values.indexOf(value)));
-    default:
-        return packDigits(value);
-    }
+    return column.form == Form::Zeros ? QByteArray() : packDigits(value);
 }
 
+QByteArray codeText(char code, const Column& column)
+{
+    if (static_cast<unsigned char>(code) >= column.values.size())
+        throw ColumnFault{u"an unknown code stands in the record"_s};
+    return column.values.at(code);
+}
+
+/// A comma that a cashier keyed into a description stays: the text form has no way to guard it.
 QByteArray unpackColumn(const QByteArray& packed, const Column& column)
 {
-    QByteArray value;
-    switch (column.form) {
-    case Form::Text:
-        // A cashier may have keyed a comma into a description; the text form has no way to guard it.
+    if (isCode(column))
+        return codeText(packed.at(0), column);
+    if (column.form == Form::Text)
         return packed;
-    case Form::Zeros:
+    if (column.form == Form::Zeros)
         return {column.width, '0'};
-    case Form::Code:
-    case Form::Bare:
-        if (static_cast<unsigned char>(packed.at(0)) >= column.values.size())
-            throw ColumnFault{QStringLiteral("an unknown code stands in the record")};
-        return column.values.at(packed.at(0));
-    default:
-        value = packed.toHex().right(column.width);
-        checkContent(value, column);
-        return value;
+    const QByteArray value = packed.toHex().right(column.width);
+    checkContent(value, column);
+    return value;
+}
+
+/// Runs @p work; a column's fault that it throws gets its place.
+template <typename Work>
+QByteArray atColumn(qsizetype line, qsizetype column, Work work)
+{
+    try {
+        return work();
+    } catch (const ColumnFault& fault) {
+        throw TextFault(line, column, fault.text);
     }
 }
 
 QByteArray packLine(const QByteArray& line, const Columns& columns, qsizetype number)
 {
     const auto values = line.split(',');
-    QByteArray record;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        const auto at = static_cast<qsizetype>(i);
-        if (at >= values.size())
-            break;
-        try {
-            record += packColumn(values.at(at), columns.at(i));
-        } catch (const ColumnFault& fault) {
-            throw TextFault(number, at + 1, fault.text);
-        }
-    }
     const auto expected = static_cast<qsizetype>(columns.size());
+    QByteArray record;
+    for (qsizetype i = 0; i < std::min(values.size(), expected); ++i) {
+        const auto& column = columns.at(static_cast<std::size_t>(i));
+        record += atColumn(number, i + 1, [&] { return packColumn(values.at(i), column); });
+    }
     if (values.size() != expected) {
         throw TextFault(number, std::min(values.size(), expected) + 1,
-                        QStringLiteral("%1 columns, %2 expected").arg(values.size()).arg(expected));
+                        u"%1 columns, %2 expected"_s.arg(values.size()).arg(expected));
     }
     return record;
 }
@@ -143,21 +148,17 @@ TextFault::TextFault(qsizetype line, qsizetype column, const QString& text)
 
 QByteArray packText(const QByteArray& text, const Columns& columns)
 {
-    const QByteArray lineEnd = QByteArrayLiteral("\r\n");
     if (text.isEmpty())
-        throw TextFault(1, 0, QStringLiteral("there is no record"));
+        throw TextFault(1, 0, u"there is no record"_s);
 
     QByteArray records;
     qsizetype number = 0;
     for (qsizetype start = 0; start < text.size();) {
-        ++number;
-        const auto end = text.indexOf(lineEnd, start);
-        if (end < 0) {
-            throw TextFault(number, 0,
-                            QStringLiteral("the line does not end in carriage return and line feed"));
-        }
-        records += packLine(text.mid(start, end - start), columns, number);
-        start = end + lineEnd.size();
+        const auto end = text.indexOf("\r\n", start);
+        if (end < 0)
+            throw TextFault(number + 1, 0, u"the line does not end in carriage return and line feed"_s);
+        records += packLine(text.mid(start, end - start), columns, ++number);
+        start = end + 2;
     }
     return records;
 }
@@ -167,11 +168,8 @@ QList<QByteArray> unpackRecord(const QByteArray& record, const Columns& columns,
     QList<QByteArray> values;
     qsizetype at = 0;
     for (const auto& column : columns) {
-        try {
-            values += unpackColumn(record.mid(at, column.packedLength()), column);
-        } catch (const ColumnFault& fault) {
-            throw TextFault(line, values.size() + 1, fault.text);
-        }
+        const auto packed = record.mid(at, column.packedLength());
+        values += atColumn(line, values.size() + 1, [&] { return unpackColumn(packed, column); });
         at += column.packedLength();
     }
     return values;

@@ -10,6 +10,9 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace bank
 {
@@ -20,26 +23,31 @@ constexpr std::array reportsByPlace{financialReport, timeReport, clerkReport, mi
 constexpr qint64 thousand = 1000;
 constexpr qint64 largestTotal = 1'000'000'000'000; ///< so that sums over all registers stay exact
 
-qint64 thousandthsOf(const QByteArray& text, const QString& path)
+std::optional<qint64> parseThousandths(const QByteArray& text)
 {
     const auto parts = text.trimmed().split('.');
-    const bool negative = parts.first().startsWith('-');
     const auto fraction = parts.value(1, "0").leftJustified(3, '0');
     bool wholeFits = false;
     bool fractionFits = false;
     const auto whole = parts.first().toLongLong(&wholeFits);
-    const auto rest = fraction.toUInt(&fractionFits);
-    if (!wholeFits || whole > largestTotal || whole < -largestTotal || !fractionFits ||
-        fraction.size() != 3 || parts.size() > 2) {
-        throw ToolFailure(FileInformationWrong,
-                          QStringLiteral("%1: no number: %2").arg(path, QString::fromLatin1(text)));
-    }
-    return whole * thousand + (negative ? -static_cast<qint64>(rest) : static_cast<qint64>(rest));
+    const auto rest = static_cast<qint64>(fraction.toUInt(&fractionFits));
+    wholeFits = wholeFits && whole <= largestTotal && whole >= -largestTotal;
+    if (!wholeFits || !fractionFits || fraction.size() != 3 || parts.size() > 2)
+        return std::nullopt;
+    return whole * thousand + (parts.first().startsWith('-') ? -rest : rest);
+}
+
+qint64 thousandthsOf(const QByteArray& text, const QString& path)
+{
+    const auto number = parseThousandths(text);
+    if (!number)
+        throw ToolFailure(FileInformationWrong, u"%1: no number: %2"_s.arg(path, QString::fromLatin1(text)));
+    return *number;
 }
 
 QString filePath(const QString& folder, int report)
 {
-    return QDir(folder).filePath(QStringLiteral("%1.txt").arg(report));
+    return QDir(folder).filePath(u"%1.txt"_s.arg(report));
 }
 
 QList<QByteArrayList> linesOf(const QString& path)
@@ -107,42 +115,39 @@ Totals Totals::read(const QString& folder)
     Totals totals;
     for (const int report : reportsByPlace) {
         const auto path = filePath(folder, report);
-        const auto lines = linesOf(path);
-        for (const auto& line : lines)
+        for (const QByteArrayList& line : linesOf(path))
             totals.byPlace[report].push_back(numbersOf(line, path));
     }
     const auto path = filePath(folder, pluReport);
-    const auto lines = linesOf(path);
-    for (const auto& line : lines) {
+    for (const QByteArrayList& line : linesOf(path))
         totals.addPlu(line.first().trimmed().rightJustified(pluDigits, '0'), numbersOf(line.mid(1), path));
-    }
     return totals;
 }
 
 void Totals::write(const QString& folder) const
 {
     if (!QDir().mkpath(folder))
-        throw ToolFailure(FileWriteError, QStringLiteral("%1 cannot be made").arg(folder));
+        throw ToolFailure(FileWriteError, u"%1 cannot be made"_s.arg(folder));
     for (const auto& [report, items] : byPlace) {
         QByteArray text;
         for (const auto& numbers : items)
             text += lineOf({}, numbers);
         writeFile(filePath(folder, report), text);
     }
-    QByteArray text;
+    QByteArray plusText;
     for (const auto& [number, numbers] : plus)
-        text += lineOf({number}, numbers);
-    writeFile(filePath(folder, pluReport), text);
+        plusText += lineOf({number}, numbers);
+    writeFile(filePath(folder, pluReport), plusText);
 }
 
 QString openTotals(const Register& of)
 {
-    return QDir(of.folder).filePath(QStringLiteral("totals"));
+    return QDir(of.folder).filePath(u"totals"_s);
 }
 
 QString consolidatedTotals(const Register& of)
 {
-    return QDir(of.folder).filePath(QStringLiteral("consolidated"));
+    return QDir(of.folder).filePath(u"consolidated"_s);
 }
 
 } // namespace bank

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
@@ -24,13 +26,21 @@ ToolFailure wrong(const QString& text)
 QString behindLetter(const QString& word, QChar letter)
 {
     if (word.size() < 2 || !word.startsWith(letter))
-        throw wrong(QStringLiteral("\"%1\" where %2... was expected").arg(word, QString(letter)));
+        throw wrong(u"\"%1\" where %2... was expected"_s.arg(word, QString(letter)));
     return word.mid(1);
+}
+
+Model knownModel(const QString& name)
+{
+    const auto model = modelOfWord(name);
+    if (!model)
+        throw wrong(u"unknown model \"%1\""_s.arg(name));
+    return *model;
 }
 
 QString twoDigits(int code)
 {
-    return QStringLiteral("%1").arg(code, 2, 10, QLatin1Char('0'));
+    return u"%1"_s.arg(code, 2, 10, QChar(u'0'));
 }
 
 /// Empty when the file is never written.
@@ -39,10 +49,10 @@ QString writingWord(int code, Model model)
     if (code == systemDescriptors || code == memoryFile || code == newerMemoryCode)
         return {};
     const bool ownCode = code == employeeFile && model == Model::Dorvik;
-    return (ownCode ? QStringLiteral("d1") : QStringLiteral("d")) + twoDigits(code);
+    return (ownCode ? u"d1"_s : u"d"_s) + twoDigits(code);
 }
 
-bool findOperation(Operation& operation)
+bool findRegisterFile(Operation& operation)
 {
     for (const int code : layoutCodes()) {
         const bool reads = operation.word == u'u' + twoDigits(code);
@@ -52,14 +62,19 @@ bool findOperation(Operation& operation)
             return true;
         }
     }
-    for (const int report : reportFiles()) {
-        if (operation.word == QStringLiteral("S%1").arg(report)) {
-            operation.code = report;
-            operation.direction = Operation::Direction::ReportToText;
-            return true;
-        }
-    }
     return false;
+}
+
+bool findReport(Operation& operation)
+{
+    const auto& reports = reportFiles();
+    const auto report = std::find_if(reports.begin(), reports.end(),
+                                     [&](int each) { return operation.word == u"S%1"_s.arg(each); });
+    if (report == reports.end())
+        return false;
+    operation.code = *report;
+    operation.direction = Operation::Direction::ReportToText;
+    return true;
 }
 
 } // namespace
@@ -67,18 +82,15 @@ bool findOperation(Operation& operation)
 Operation parseOperation(const QStringList& words)
 {
     if (words.size() != 4)
-        throw wrong(QStringLiteral("usage: convert w<model> f<source> t<target> <operation>"));
+        throw wrong(u"usage: convert w<model> f<source> t<target> <operation>"_s);
     Operation operation;
     const auto modelName = behindLetter(words.at(0), u'w');
-    const auto model = modelOfWord(modelName);
-    if (!model)
-        throw wrong(QStringLiteral("unknown model \"%1\"").arg(modelName));
-    operation.model = *model;
+    operation.model = knownModel(modelName);
     operation.source = behindLetter(words.at(1), u'f');
     operation.target = behindLetter(words.at(2), u't');
     operation.word = words.at(3);
-    if (!findOperation(operation))
-        throw wrong(QStringLiteral("unknown operation \"%1\" for a %2").arg(operation.word, modelName));
+    if (!findRegisterFile(operation) && !findReport(operation))
+        throw wrong(u"unknown operation \"%1\" for a %2"_s.arg(operation.word, modelName));
     return operation;
 }
 

@@ -15,6 +15,8 @@
 
 #include <cstdio>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 
@@ -26,8 +28,7 @@ QByteArray toText(const Operation& operation, const QByteArray& bytes)
     const auto file = fromBytes(bytes, memory ? memoryFile : operation.code, operation.model);
     const auto columns = columnsOf(operation.code, operation.model);
     if (file.recordLength != packedLength(columns)) {
-        throw ToolFailure(FileSizeMismatch, QStringLiteral("records of %1 bytes, %2 expected by %3")
-                                                .arg(file.recordLength)
+        throw ToolFailure(FileSizeMismatch, u"records of %1 bytes, %2 expected by %3"_s.arg(file.recordLength)
                                                 .arg(packedLength(columns))
                                                 .arg(operation.word));
     }
@@ -55,8 +56,8 @@ QByteArray converted(const Operation& operation, const QByteArray& source)
 
 QString place(const Operation& operation, const TextFault& fault)
 {
-    const auto line = QStringLiteral("%1, line %2").arg(operation.source).arg(fault.line());
-    return fault.column() == 0 ? line : line + QStringLiteral(", column %1").arg(fault.column());
+    const auto line = u"%1, line %2"_s.arg(operation.source).arg(fault.line());
+    return fault.column() == 0 ? line : line + u", column %1"_s.arg(fault.column());
 }
 
 void obeyFaults(const Operation& operation)
@@ -65,12 +66,12 @@ void obeyFaults(const Operation& operation)
     if (!found)
         return;
     const int file = operation.code == newerMemoryCode ? memoryFile : operation.code;
-    const auto fault = dueFault(found->folder(), {QStringLiteral("convert"), operation.word, file});
+    const auto fault = dueFault(found->folder(), {u"convert"_s, operation.word, file});
     if (!fault)
         return;
     suffer(*fault);
     if (fault->result != Done)
-        throw ToolFailure(fault->result, QStringLiteral("fault file: %1 fails").arg(operation.word));
+        throw ToolFailure(fault->result, u"fault file: %1 fails"_s.arg(operation.word));
 }
 
 void run(const Operation& operation)
@@ -81,9 +82,8 @@ void run(const Operation& operation)
     try {
         writeFile(pathOf(folder, operation.target), converted(operation, source));
     } catch (const TextFault& fault) {
-        throw ToolFailure(
-            FileInformationWrong,
-            QStringLiteral("%1: %2").arg(place(operation, fault), QString::fromUtf8(fault.what())));
+        throw ToolFailure(FileInformationWrong,
+                          u"%1: %2"_s.arg(place(operation, fault), QString::fromUtf8(fault.what())));
     }
 }
 

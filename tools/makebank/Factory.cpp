@@ -15,6 +15,8 @@
 #include <array>
 #include <random>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
@@ -30,7 +32,7 @@ constexpr std::array kinds{Kind{Model::Velmaro, 2, false}, Kind{Model::Velmaro, 
 
 QByteArray resource(const QString& name)
 {
-    QFile file(QStringLiteral(":/factory/%1.txt").arg(name));
+    QFile file(u":/factory/%1.txt"_s.arg(name));
     if (!file.open(QIODevice::ReadOnly))
         throw std::runtime_error("no factory contents " + name.toStdString());
     return file.readAll();
@@ -39,8 +41,8 @@ QByteArray resource(const QString& name)
 /// The contents for this model when there are such, else those for all.
 QString contentsName(int file, Model model)
 {
-    const auto own = QStringLiteral("%1-%2").arg(file).arg(modelWord(model).toLower());
-    return QFile::exists(QStringLiteral(":/factory/%1.txt").arg(own)) ? own : QString::number(file);
+    const auto own = u"%1-%2"_s.arg(file).arg(modelWord(model).toLower());
+    return QFile::exists(u":/factory/%1.txt"_s.arg(own)) ? own : QString::number(file);
 }
 
 class Works
@@ -80,8 +82,8 @@ private:
     void writeMemory()
     {
         const int code = m_target.generation == 2 ? memoryFile : newerMemoryCode;
-        const auto all = readFactoryText(resource(QString::number(memoryFile)), QStringLiteral("52"),
-                                         columns(newerMemoryCode), 0);
+        const auto all =
+            readFactoryText(resource(QString::number(memoryFile)), u"52"_s, columns(newerMemoryCode), 0);
         auto memory = all.at(m_kindIndex);
         auto& places = memory[2];
         places = std::max(places, padded(QByteArray::number(m_plus), columns(newerMemoryCode).at(2)));
@@ -127,47 +129,52 @@ private:
         const auto shop = contents(pluFile);
         for (const auto& record : shop)
             numbers += record.first();
-        return layOutKeyboards(resource(m_target.model == Model::Dorvik ? QStringLiteral("keys-dorvik")
-                                                                        : QStringLiteral("keys-velmar")),
-                               numbers);
+        return layOutKeyboards(
+            resource(m_target.model == Model::Dorvik ? u"keys-dorvik"_s : u"keys-velmar"_s), numbers);
     }
 
     /// The shop's range, cut to the wanted number or continued with numbered variants of its articles.
     Records plus() const
     {
-        constexpr int firstVariant = 100000;
         auto records = contents(pluFile);
         const auto shopSize = records.size();
         if (m_plus != 0 && m_plus < shopSize)
             records.resize(m_plus);
         const auto layout = columns(pluFile);
-        for (auto i = shopSize; i < m_plus; ++i) {
-            auto record = records.at(i % shopSize);
-            record[0] = padded(QByteArray::number(firstVariant + i), layout.at(0));
-            record[1] = padded(record.at(1).left(9).trimmed() + ' ' + QByteArray::number(i), layout.at(1));
-            records += record;
-        }
+        for (auto i = shopSize; i < m_plus; ++i)
+            records += variant(records.at(i % shopSize), i, layout);
         return records;
+    }
+
+    static QByteArrayList variant(QByteArrayList record, qsizetype number, const Columns& layout)
+    {
+        constexpr int firstVariant = 100000;
+        record[0] = padded(QByteArray::number(firstVariant + number), layout.at(0));
+        record[1] = padded(record.at(1).left(9).trimmed() + ' ' + QByteArray::number(number), layout.at(1));
+        return record;
     }
 
     /// A point for each whole unit of the price, on the levels that have one.
     Records points() const
     {
+        Records records;
+        const auto articles = plus();
+        for (const auto& article : articles)
+            records += pointsOf(article);
+        return records;
+    }
+
+    [[nodiscard]] QByteArrayList pointsOf(const QByteArrayList& article) const
+    {
         constexpr int firstPrice = 12;
         constexpr int levels = 5;
-        Records records;
         const auto layout = columns(pluPointFile);
-        const auto articles = plus();
-        for (const auto& article : articles) {
-            QByteArrayList record{article.first()};
-            for (int level = 0; level < levels; ++level) {
-                const auto price = article.at(firstPrice + 2 * level).toInt();
-                record +=
-                    padded(QByteArray::number(price / 100), layout.at(static_cast<std::size_t>(level) + 1));
-            }
-            records += record;
+        QByteArrayList record{article.first()};
+        for (int level = 0; level < levels; ++level) {
+            const auto price = article.at(firstPrice + 2 * level).toInt();
+            record += padded(QByteArray::number(price / 100), layout.at(static_cast<std::size_t>(level) + 1));
         }
-        return records;
+        return record;
     }
 
     /// Bytes that nobody reads, another set in every register so that a copy shows where it came from.

@@ -4,6 +4,8 @@
 #include <map>
 #include <stdexcept>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
@@ -107,17 +109,13 @@ private:
 
 QByteArray padded(const QByteArray& value, const Column& column)
 {
-    QByteArray result;
-    switch (column.form) {
-    case Form::Text:
-        result = registerText(value).leftJustified(column.width);
-        break;
-    case Form::Code:
-    case Form::Bare:
+    if (column.form == Form::Code || column.form == Form::Bare)
         return value.isEmpty() ? column.values.first() : value;
-    default:
-        result = value.endsWith('<') ? value.chopped(1).leftJustified(column.width, '0')
-                                     : value.rightJustified(column.width, '0');
+    QByteArray result = value.rightJustified(column.width, '0');
+    if (column.form == Form::Text) {
+        result = registerText(value).leftJustified(column.width);
+    } else if (value.endsWith('<')) {
+        result = value.chopped(1).leftJustified(column.width, '0');
     }
     if (result.size() != column.width)
         throw std::runtime_error("too wide: " + value.toStdString());
@@ -128,19 +126,15 @@ Records readFactoryText(const QByteArray& text, const QString& name, const Colum
 {
     Reader reader(columns, room);
     qsizetype number = 0;
-    const auto lines = text.split('\n');
-    for (const auto& line : lines) {
+    for (const QByteArray& line : text.split('\n')) {
         ++number;
         if (line.isEmpty() || line.startsWith(';'))
             continue;
         try {
             reader.takeLine(line);
         } catch (const std::runtime_error& failure) {
-            throw std::runtime_error(QStringLiteral("factory contents %1, line %2: %3")
-                                         .arg(name)
-                                         .arg(number)
-                                         .arg(QString::fromUtf8(failure.what()))
-                                         .toStdString());
+            const auto place = u"factory contents %1, line %2: "_s.arg(name).arg(number);
+            throw std::runtime_error(place.toStdString() + failure.what());
         }
     }
     return reader.records();

@@ -2,14 +2,16 @@
 // up.
 #include "tools/makebank/Keyboards.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
 {
 
 constexpr int levels = 5;
-const QByteArray pluLink = QByteArrayLiteral("0200");
-const QByteArray lookUpLink = QByteArrayLiteral("0300");
+const QByteArray pluLink = "0200"_ba;
+const QByteArray lookUpLink = "0300"_ba;
 
 QByteArray digits(qsizetype number, int width)
 {
@@ -40,6 +42,20 @@ QByteArrayList walkingOrder(const QList<QByteArrayList>& rows)
     return cells;
 }
 
+/// What the register keeps of a key: file 16 and file 17.
+struct KeyCode {
+    QByteArray link;
+    QByteArray number;
+};
+
+KeyCode codeOf(const QByteArray& cell, qsizetype key)
+{
+    const auto number = cell.mid(1).toInt();
+    if (cell.startsWith('w'))
+        return {lookUpLink, digits(number, 4) + digits(key, 14)};
+    return {digits(number, 4), digits(key, 18)};
+}
+
 } // namespace
 
 Keyboards layOutKeyboards(const QByteArray& plan, const QList<QByteArray>& plus)
@@ -51,17 +67,10 @@ Keyboards layOutKeyboards(const QByteArray& plan, const QList<QByteArray>& plus)
         qsizetype plu = level * plus.size() / levels;
         for (qsizetype key = 1; key <= cells.size(); ++key) {
             const auto& cell = cells.at(key - 1);
-            const auto number = cell.mid(1).toInt();
-            if (cell == "p") {
-                keyboards.links += pluLink;
-                keyboards.numbers += plus.at(plu++ % plus.size());
-            } else if (cell.startsWith('w')) {
-                keyboards.links += lookUpLink;
-                keyboards.numbers += digits(number, 4) + digits(key, 14);
-            } else {
-                keyboards.links += digits(number, 4);
-                keyboards.numbers += digits(key, 18);
-            }
+            const auto [link, number] =
+                cell == "p" ? KeyCode{pluLink, plus.at(plu++ % plus.size())} : codeOf(cell, key);
+            keyboards.links += link;
+            keyboards.numbers += number;
         }
     }
     return keyboards;

@@ -11,6 +11,8 @@
 
 #include <cstdio>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 
@@ -32,33 +34,33 @@ int numberOf(const QCommandLineParser& parser, const QString& name, int least, i
     bool isNumber = false;
     const int number = parser.value(name).toInt(&isNumber);
     if (!isNumber || number < least || number > most) {
-        throw std::runtime_error(
-            QStringLiteral("--%1 takes %2 to %3").arg(name).arg(least).arg(most).toStdString());
+        throw std::runtime_error(u"--%1 takes %2 to %3"_s.arg(name).arg(least).arg(most).toStdString());
     }
     return number;
+}
+
+void declareOptions(QCommandLineParser& parser)
+{
+    parser.addHelpOption();
+    parser.addPositionalArgument(u"folder"_s, u"Folder of the bank."_s);
+    parser.addOptions({
+        {u"registers"_s, u"Number of registers."_s, u"N"_s, u"1"_s},
+        {u"model"_s, u"Kind of register, 0 to 3."_s, u"index"_s, u"2"_s},
+        {u"plus"_s, u"Number of PLUs; 0: the shop's own range."_s, u"N"_s, u"0"_s},
+        {u"fresh"_s, u"Make the bank anew."_s},
+    });
 }
 
 Wish readWish(const QCoreApplication& application)
 {
     QCommandLineParser parser;
-    parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("Folder of the bank."));
-    parser.addOptions({
-        {QStringLiteral("registers"), QStringLiteral("Number of registers."), QStringLiteral("N"),
-         QStringLiteral("1")},
-        {QStringLiteral("model"), QStringLiteral("Kind of register, 0 to 3."), QStringLiteral("index"),
-         QStringLiteral("2")},
-        {QStringLiteral("plus"), QStringLiteral("Number of PLUs; 0: the shop's own range."),
-         QStringLiteral("N"), QStringLiteral("0")},
-        {QStringLiteral("fresh"), QStringLiteral("Make the bank anew.")},
-    });
+    declareOptions(parser);
     parser.process(application);
     if (parser.positionalArguments().size() != 1)
         throw std::runtime_error("one folder is needed, see --help");
-    return {parser.positionalArguments().first(),
-            numberOf(parser, QStringLiteral("registers"), 1, mostRegisters),
-            numberOf(parser, QStringLiteral("model"), 0, 3),
-            numberOf(parser, QStringLiteral("plus"), 0, mostPlus), parser.isSet(QStringLiteral("fresh"))};
+    return {parser.positionalArguments().first(), numberOf(parser, u"registers"_s, 1, mostRegisters),
+            numberOf(parser, u"model"_s, 0, 3), numberOf(parser, u"plus"_s, 0, mostPlus),
+            parser.isSet(u"fresh"_s)};
 }
 
 void makeRegister(const Wish& wish, int number)
@@ -82,10 +84,10 @@ void removeBank(const Wish& wish)
     const QDir bank(wish.folder);
     for (int number = 1; number <= mostRegisters; ++number) {
         QDir folder(bank.filePath(QString::number(number)));
-        if (folder.exists(QStringLiteral("register.ini")))
+        if (folder.exists(u"register.ini"_s))
             folder.removeRecursively();
     }
-    QFile::remove(bank.filePath(QStringLiteral("faults.log")));
+    QFile::remove(bank.filePath(u"faults.log"_s));
 }
 
 void run(const Wish& wish)

@@ -74,17 +74,20 @@ private:
         return percent < 80 ? Tender::Card : Tender::DebitCard;
     }
 
+    std::size_t wantedLevel(const Ticket& ticket)
+    {
+        const bool large = m_dice.chance(20);
+        if (ticket.takeOut)
+            return takeOutLevel;
+        if (ticket.clock >= 1700 && ticket.clock < 1900)
+            return happyHourLevel;
+        return large ? largeLevel : tableLevel;
+    }
+
     /// The first that has a price: what the customer asks for, else the level that the article is sold at.
     std::size_t level(const Ticket& ticket, const Article& article)
     {
-        const bool happyHour = ticket.clock >= 1700 && ticket.clock < 1900;
-        const bool large = m_dice.chance(20);
-        std::size_t wanted = large ? largeLevel : tableLevel;
-        if (happyHour)
-            wanted = happyHourLevel;
-        if (ticket.takeOut)
-            wanted = takeOutLevel;
-        for (const std::size_t each : {wanted, tableLevel}) {
+        for (const std::size_t each : {wantedLevel(ticket), tableLevel}) {
             if (article.cents.at(each) != 0)
                 return each;
         }

@@ -15,6 +15,28 @@ namespace
 constexpr std::array entryWords{"sale", "refund", "promo", "waste"};
 constexpr std::array tenderWords{"cash", "cheque", "card", "debit card"};
 
+QByteArrayList ticketColumns(int registerNumber, const Ticket& ticket)
+{
+    return {QByteArray::number(registerNumber),
+            QByteArray::number(ticket.number),
+            QByteArray::number(ticket.clock).rightJustified(4, '0'),
+            QByteArray::number(ticket.period),
+            QByteArray::number(ticket.clerk),
+            ticket.takeOut ? "take out" : "eat in",
+            tenderWords.at(static_cast<std::size_t>(ticket.tender))};
+}
+
+QByteArrayList itemColumns(const Item& item)
+{
+    return {item.article->number,
+            QByteArray::number(item.level + 1),
+            QByteArray::number(item.article->offer),
+            entryWords.at(static_cast<std::size_t>(item.entry)),
+            numberText(item.quantity),
+            numberText(item.amount),
+            numberText(item.discount)};
+}
+
 } // namespace
 
 QByteArray journalHead()
@@ -25,29 +47,9 @@ QByteArray journalHead()
 
 QByteArray journalLines(int registerNumber, const Ticket& ticket)
 {
-    const auto number = [](int value) {
-        return QByteArray::number(value);
-    };
     QByteArray lines;
-    for (const auto& item : ticket.items) {
-        const QByteArrayList columns{
-            number(registerNumber),
-            number(ticket.number),
-            number(ticket.clock).rightJustified(4, '0'),
-            number(ticket.period),
-            number(ticket.clerk),
-            ticket.takeOut ? "take out" : "eat in",
-            tenderWords.at(static_cast<std::size_t>(ticket.tender)),
-            item.article->number,
-            number(static_cast<int>(item.level) + 1),
-            number(item.article->offer),
-            entryWords.at(static_cast<std::size_t>(item.entry)),
-            numberText(item.quantity),
-            numberText(item.amount),
-            numberText(item.discount),
-        };
-        lines += columns.join(',') + "\r\n";
-    }
+    for (const auto& item : ticket.items)
+        lines += (ticketColumns(registerNumber, ticket) + itemColumns(item)).join(',') + "\r\n";
     return lines;
 }
 

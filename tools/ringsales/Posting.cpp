@@ -73,26 +73,26 @@ private:
 
     void postItem(const Item& item)
     {
-        switch (item.entry) {
-        case Entry::Sale:
-            postLine(grossSales, item.quantity, item.amount);
-            if (item.discount != 0)
-                postLine(tenPercentOff, once, -item.discount);
-            break;
-        case Entry::Refund:
-            postLine(negativeSales, -item.quantity, -item.amount);
-            postLine(refund, -item.quantity, -item.amount);
-            break;
-        case Entry::Promotion:
-            postLine(promotion, item.quantity, item.amount);
-            break;
-        case Entry::Waste:
-            postLine(waste, item.quantity, item.amount);
-            break;
-        }
+        postEntry(item);
         postLine(netSales, item.soldQuantity(), item.soldValue());
         postLine(itemsSold, item.soldQuantity(), 0);
         postPlu(item);
+    }
+
+    void postEntry(const Item& item)
+    {
+        if (item.entry == Entry::Sale)
+            postLine(grossSales, item.quantity, item.amount);
+        if (item.discount != 0)
+            postLine(tenPercentOff, once, -item.discount);
+        if (item.entry == Entry::Refund) {
+            postLine(negativeSales, -item.quantity, -item.amount);
+            postLine(refund, -item.quantity, -item.amount);
+        }
+        if (item.entry == Entry::Promotion)
+            postLine(promotion, item.quantity, item.amount);
+        if (item.entry == Entry::Waste)
+            postLine(waste, item.quantity, item.amount);
     }
 
     void postPlu(const Item& item)

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
@@ -122,9 +124,8 @@ Programme Programme::read(const Register& of)
 {
     Programme programme{articlesOf(of), clerksOf(of), periodsOf(of)};
     if (programme.articles.empty() || programme.clerks.empty()) {
-        throw std::runtime_error(QStringLiteral("register %1 has nothing to sell or nobody to sell it")
-                                     .arg(of.number)
-                                     .toStdString());
+        throw std::runtime_error(
+            u"register %1 has nothing to sell or nobody to sell it"_s.arg(of.number).toStdString());
     }
     return programme;
 }

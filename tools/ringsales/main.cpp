@@ -15,6 +15,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 
@@ -38,32 +40,34 @@ Number numberOf(const QCommandLineParser& parser, const QString& name, Number mo
     bool isNumber = false;
     const auto number = parser.value(name).toULongLong(&isNumber);
     if (!isNumber || number > static_cast<quint64>(most))
-        throw std::runtime_error(QStringLiteral("--%1 takes 0 to %2").arg(name).arg(most).toStdString());
+        throw std::runtime_error(u"--%1 takes 0 to %2"_s.arg(name).arg(most).toStdString());
     return static_cast<Number>(number);
+}
+
+void declareOptions(QCommandLineParser& parser)
+{
+    parser.addHelpOption();
+    parser.addPositionalArgument(u"folder"_s, u"Folder of the bank."_s);
+    parser.addOptions({
+        {u"registers"_s, u"Their numbers, such as 1,3; all when left out."_s, u"numbers"_s},
+        {u"tickets"_s, u"Customers at each register."_s, u"N"_s, u"100"_s},
+        {u"seed"_s, u"The same number rings the same day; today's date else."_s, u"N"_s,
+         QDate::currentDate().toString(u"yyyyMMdd"_s)},
+        {u"journal"_s, u"File for a line of each item rung."_s, u"file"_s},
+    });
 }
 
 Wish readWish(const QCoreApplication& application)
 {
     QCommandLineParser parser;
-    parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("Folder of the bank."));
-    parser.addOptions({
-        {QStringLiteral("registers"), QStringLiteral("Their numbers, such as 1,3; all when left out."),
-         QStringLiteral("numbers")},
-        {QStringLiteral("tickets"), QStringLiteral("Customers at each register."), QStringLiteral("N"),
-         QStringLiteral("100")},
-        {QStringLiteral("seed"), QStringLiteral("The same number rings the same day; today's date else."),
-         QStringLiteral("N"), QDate::currentDate().toString(QStringLiteral("yyyyMMdd"))},
-        {QStringLiteral("journal"), QStringLiteral("File for a line of each item rung."),
-         QStringLiteral("file")},
-    });
+    declareOptions(parser);
     parser.process(application);
     if (parser.positionalArguments().size() != 1)
         throw std::runtime_error("one folder is needed, see --help");
     return {parser.positionalArguments().first(),
-            parser.value(QStringLiteral("registers")).split(u',', Qt::SkipEmptyParts),
-            numberOf(parser, QStringLiteral("tickets"), mostTickets),
-            numberOf(parser, QStringLiteral("seed"), ~quint64{0}), parser.value(QStringLiteral("journal"))};
+            parser.value(u"registers"_s).split(u',', Qt::SkipEmptyParts),
+            numberOf(parser, u"tickets"_s, mostTickets), numberOf(parser, u"seed"_s, ~quint64{0}),
+            parser.value(u"journal"_s)};
 }
 
 QList<Register> chosenRegisters(const Wish& wish)

@@ -10,6 +10,8 @@
 #include <array>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
@@ -63,7 +65,7 @@ struct Suffix {
 
 QString fileName(int file)
 {
-    return file == memoryFileNumber ? QStringLiteral("mem.DAT") : QStringLiteral("%1.DAT").arg(file);
+    return file == memoryFileNumber ? u"mem.DAT"_s : u"%1.DAT"_s.arg(file);
 }
 
 void addFile(std::vector<Suffix>& table, const FileLetters& row)
@@ -71,7 +73,7 @@ void addFile(std::vector<Suffix>& table, const FileLetters& row)
     const QString name = fileName(row.file);
     const auto number = QString::number(row.file);
     const auto words = [&name](char letter, const QString& last) {
-        return QStringLiteral("N%1 -%2%3").arg(name, QString(QLatin1Char(letter)), last);
+        return u"N%1 -%2%3"_s.arg(name, QString(QLatin1Char(letter)), last);
     };
     const unsigned fetchUses = OneRegister | Program | (row.file == memoryFileNumber ? Sales : 0U);
     table.push_back({words(row.fetch, u' ' + number), Order::Kind::Fetch, row.file, name, fetchUses});
@@ -84,14 +86,14 @@ void addFile(std::vector<Suffix>& table, const FileLetters& row)
 std::vector<Suffix> makeSuffixes()
 {
     std::vector<Suffix> table{
-        {QStringLiteral("-U 250"), Order::Kind::Open, 250, {}, OneRegister | Program | Sales},
-        {QStringLiteral("P0001010100010000000000000000000000000000000000000000000100 -Z"),
+        {u"-U 250"_s, Order::Kind::Open, 250, {}, OneRegister | Program | Sales},
+        {u"P0001010100010000000000000000000000000000000000000000000100 -Z"_s,
          Order::Kind::Consolidate,
          0,
          {},
          AllRegisters | Sales},
-        {QStringLiteral("-P 190 191 192 194 218"), Order::Kind::Collect, 0, {}, AllRegisters | Sales},
-        {QStringLiteral("-C"), Order::Kind::Clear, 0, {}, AllRegisters | Sales},
+        {u"-P 190 191 192 194 218"_s, Order::Kind::Collect, 0, {}, AllRegisters | Sales},
+        {u"-C"_s, Order::Kind::Clear, 0, {}, AllRegisters | Sales},
     };
     for (const auto& row : fileLetters)
         addFile(table, row);
@@ -110,16 +112,17 @@ ToolFailure refusal(const QStringList& words)
     const auto command =
         std::find_if(words.begin(), words.end(), [](const QString& word) { return word.startsWith(u'-'); });
     if (command == words.end())
-        return badArgument(QStringLiteral("no command in \"%1\"").arg(all));
+        return badArgument(u"no command in \"%1\""_s.arg(all));
     bool isNumber = true;
     if (command + 1 != words.end())
         (command + 1)->toInt(&isNumber);
     if (!isNumber)
-        return {ArgumentConversionError, QStringLiteral("no number in \"%1\"").arg(all)};
-    return {UnknownCommand, QStringLiteral("unknown command \"%1\"").arg(all)};
+        return {ArgumentConversionError, u"no number in \"%1\""_s.arg(all)};
+    return {UnknownCommand, u"unknown command \"%1\""_s.arg(all)};
 }
 
-const Suffix& suffixOf(const QStringList& words)
+/// @param use what the line is, all of which the suffix must serve
+const Suffix& suffixOf(const QStringList& words, unsigned use)
 {
     static const auto table = makeSuffixes();
     const QString joined = words.join(u' ');
@@ -127,6 +130,8 @@ const Suffix& suffixOf(const QStringList& words)
                                     [&joined](const Suffix& each) { return each.words == joined; });
     if (found == table.end())
         throw refusal(words);
+    if ((found->uses & use) != use)
+        throw badArgument(u"\"%1\" does not stand on such a line"_s.arg(found->words));
     return *found;
 }
 
@@ -149,21 +154,30 @@ public:
     {
         return std::any_of(words.begin(), words.end(), [this](const QString& word) { return take(word); });
     }
+    /// A speed word begins a program exchange, a rate a line of the sales.
+    unsigned takeLineUse()
+    {
+        if (takeOneOf({u"s2"_s, u"s4"_s, u"s9"_s, u"s1"_s}))
+            return Program;
+        if (takeOneOf({u"1200"_s, u"2400"_s, u"9600"_s, u"19200"_s}))
+            return Sales;
+        throw badArgument(u"no speed word and no rate"_s);
+    }
     int takePort()
     {
         for (int port = 1; port <= 4; ++port) {
-            if (take(QStringLiteral("c%1").arg(port)))
+            if (take(u"c%1"_s.arg(port)))
                 return port;
         }
-        throw badArgument(QStringLiteral("no port word c1 to c4"));
+        throw badArgument(u"no port word c1 to c4"_s);
     }
     int takeLastRegister()
     {
         for (int last = 1; last <= 32; ++last) {
-            if (take(QStringLiteral("%1T").arg(last)))
+            if (take(u"%1T"_s.arg(last)))
                 return last;
         }
-        throw badArgument(QStringLiteral("no last register 1T to 32T behind F1"));
+        throw badArgument(u"no last register 1T to 32T behind F1"_s);
     }
 
 private:
@@ -174,44 +188,23 @@ private:
 
 QString Order::kindWord() const
 {
-    switch (kind) {
-    case Kind::Open:
-        return QStringLiteral("open");
-    case Kind::Fetch:
-        return QStringLiteral("fetch");
-    case Kind::Send:
-        return QStringLiteral("send");
-    case Kind::Consolidate:
-        return QStringLiteral("consolidate");
-    case Kind::Collect:
-        return QStringLiteral("collect");
-    case Kind::Clear:
-        break;
-    }
-    return QStringLiteral("clear");
+    static const QStringList words{u"open"_s,        u"fetch"_s,   u"send"_s,
+                                   u"consolidate"_s, u"collect"_s, u"clear"_s};
+    return words.at(static_cast<int>(kind));
 }
 
 Order parseOrder(const QStringList& words)
 {
-    static const QStringList speeds{QStringLiteral("s2"), QStringLiteral("s4"), QStringLiteral("s9"),
-                                    QStringLiteral("s1")};
-    static const QStringList rates{QStringLiteral("1200"), QStringLiteral("2400"), QStringLiteral("9600"),
-                                   QStringLiteral("19200")};
     Front front(words);
     Order order;
-    const bool program = front.takeOneOf(speeds);
-    if (!program && !front.takeOneOf(rates))
-        throw badArgument(QStringLiteral("no speed word and no rate"));
-    const bool range = front.take(QStringLiteral("F1"));
+    const unsigned line = front.takeLineUse();
+    const bool range = front.take(u"F1"_s);
     if (range)
         order.registers = front.takeLastRegister();
-    if (program)
+    if (line == Program)
         order.port = front.takePort();
 
-    const auto& suffix = suffixOf(front.rest());
-    const unsigned use = (program ? Program : Sales) | (range ? AllRegisters : OneRegister);
-    if ((suffix.uses & use) != use)
-        throw badArgument(QStringLiteral("\"%1\" does not stand on such a line").arg(suffix.words));
+    const auto& suffix = suffixOf(front.rest(), line | (range ? AllRegisters : OneRegister));
     order.kind = suffix.kind;
     order.file = suffix.file;
     order.name = suffix.name;

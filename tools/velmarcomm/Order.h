@@ -8,7 +8,7 @@ namespace bank
 {
 
 struct Order {
-    enum class Kind { Open, Fetch, Send, Consolidate, Collect, Clear };
+    enum class Kind { Open, Fetch, Send, Consolidate, Collect, Clear }; ///< kindWord() goes by the order
 
     Kind kind = Kind::Open;
     int port = 1;      ///< lines with a bare rate carry no port word and take port 1

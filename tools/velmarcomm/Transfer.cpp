@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bank
 {
 namespace
@@ -20,9 +22,9 @@ namespace
 void expectAnswer(const Register& target)
 {
     if (!target.on)
-        throw ToolFailure(TimeOut, QStringLiteral("register %1 does not answer").arg(target.number));
+        throw ToolFailure(TimeOut, u"register %1 does not answer"_s.arg(target.number));
     if (target.busy)
-        throw ToolFailure(MachineBusy, QStringLiteral("register %1 is busy").arg(target.number));
+        throw ToolFailure(MachineBusy, u"register %1 is busy"_s.arg(target.number));
 }
 
 /// The registers of an order, asked for one by one so that a missing or silent one stops the run at its place
@@ -42,21 +44,22 @@ public:
     template <typename Act>
     void each(Act act) const
     {
-        for (int place = 1; place <= m_last; ++place) {
-            if (place == m_failsAt) {
-                throw ToolFailure(
-                    m_failure,
-                    QStringLiteral("fault file: result %1 at register %2").arg(m_failure).arg(place));
-            }
-            if (place > m_registers.size())
-                throw ToolFailure(TimeOut, QStringLiteral("no register %1 on the line").arg(place));
-            const auto& target = m_registers.at(place - 1);
-            expectAnswer(target);
-            act(target);
-        }
+        for (int place = 1; place <= m_last; ++place)
+            act(answering(place));
     }
 
 private:
+    [[nodiscard]] const Register& answering(int place) const
+    {
+        if (place == m_failsAt)
+            throw ToolFailure(m_failure, u"fault file: result %1 at register %2"_s.arg(m_failure).arg(place));
+        if (place > m_registers.size())
+            throw ToolFailure(TimeOut, u"no register %1 on the line"_s.arg(place));
+        const auto& target = m_registers.at(place - 1);
+        expectAnswer(target);
+        return target;
+    }
+
     QList<Register> m_registers;
     int m_last;
     int m_failsAt = 0;
@@ -71,8 +74,7 @@ QString inWorkingFolder(const QString& name)
 void expectKnown(const Register& target, int file)
 {
     if (!target.knowsFile(file)) {
-        throw ToolFailure(FileInformationWrong,
-                          QStringLiteral("register %1 has no file %2").arg(target.number).arg(file));
+        throw ToolFailure(FileInformationWrong, u"register %1 has no file %2"_s.arg(target.number).arg(file));
     }
 }
 
@@ -99,11 +101,11 @@ void checkRoom(const RegisterFile& file, const Register& target)
         return;
     const int room = capacityOf(file.file, target.model, target.memory());
     if (file.recordLength != packedLength(columns) || (room != 0 && file.recordCount() > room)) {
-        throw ToolFailure(FileSizeMismatch, QStringLiteral("%1 records of %2 bytes for %3 places of %4 bytes")
-                                                .arg(file.recordCount())
-                                                .arg(file.recordLength)
-                                                .arg(room)
-                                                .arg(packedLength(columns)));
+        throw ToolFailure(FileSizeMismatch,
+                          u"%1 records of %2 bytes for %3 places of %4 bytes"_s.arg(file.recordCount())
+                              .arg(file.recordLength)
+                              .arg(room)
+                              .arg(packedLength(columns)));
     }
 }
 
@@ -134,7 +136,7 @@ void collect(const Line& line, const std::optional<Fault>& fault)
     for (const auto& file : collection.files()) {
         auto bytes = toBytes(file);
         cut(bytes, fault);
-        writeFile(inWorkingFolder(QStringLiteral("poll%1.dll").arg(file.file)), bytes);
+        writeFile(inWorkingFolder(u"poll%1.dll"_s.arg(file.file)), bytes);
     }
 }
 

@@ -9,6 +9,8 @@
 
 #include <cstdio>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 
@@ -24,11 +26,9 @@ void run(const QStringList& words, Outcome& outcome)
     const auto order = parseOrder(words);
     const auto found = Bank::find(QCoreApplication::applicationDirPath());
     if (!found) {
-        throw ToolFailure(TimeOut,
-                          QStringLiteral("no registers.ini here or beside the tool: no register answers"));
+        throw ToolFailure(TimeOut, u"no registers.ini here or beside the tool: no register answers"_s);
     }
-    const auto fault =
-        dueFault(found->folder(), {QStringLiteral("VELMARCOMM"), order.kindWord(), order.file});
+    const auto fault = dueFault(found->folder(), {u"VELMARCOMM"_s, order.kindWord(), order.file});
     if (fault) {
         suffer(*fault);
         outcome.status = fault->status;
@@ -38,12 +38,25 @@ void run(const QStringList& words, Outcome& outcome)
 
 void leaveStatus(const Outcome& outcome)
 {
-    if (outcome.status == QLatin1String("none"))
+    if (outcome.status == "none"_L1)
         return;
     auto text = QByteArray::number(outcome.result);
-    if (outcome.status == QLatin1String("garbage"))
+    if (outcome.status == "garbage"_L1)
         text = "\x01?!";
-    writeFile(pathOf(QDir::currentPath(), QStringLiteral("status.out")), text + "\r\n");
+    writeFile(pathOf(QDir::currentPath(), u"status.out"_s), text + "\r\n");
+}
+
+/// Tells a failure on the error channel. @return its code, Done when @p work went well
+template <typename Work>
+int told(Work work)
+{
+    try {
+        work();
+    } catch (const ToolFailure& failure) {
+        std::fprintf(stderr, "VELMARCOMM: %s\n", failure.what());
+        return failure.code();
+    }
+    return Done;
 }
 
 } // namespace
@@ -52,17 +65,9 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     Outcome outcome;
-    try {
-        run(QCoreApplication::arguments().mid(1), outcome);
-    } catch (const ToolFailure& failure) {
-        outcome.result = failure.code();
-        std::fprintf(stderr, "VELMARCOMM: %s\n", failure.what());
-    }
-    try {
-        leaveStatus(outcome);
-    } catch (const ToolFailure& failure) {
-        std::fprintf(stderr, "VELMARCOMM: %s\n", failure.what());
-        return 1;
-    }
-    return outcome.result == Done ? 0 : 1;
+    const int failure = told([&] { run(QCoreApplication::arguments().mid(1), outcome); });
+    if (failure != Done)
+        outcome.result = failure;
+    const int statusFailure = told([&] { leaveStatus(outcome); });
+    return outcome.result == Done && statusFailure == Done ? 0 : 1;
 }
