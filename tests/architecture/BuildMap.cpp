@@ -81,9 +81,10 @@ QStringList BuildMap::ownersOf(const QString& file) const
 QStringList BuildMap::bottomOf(const QString& folder) const
 {
     QStringList bottom;
-    for (const Target& target : m_targets)
+    for (const Target& target : m_targets) {
         if (target.library && target.folder == folder && standsAlone(target))
             bottom << target.name;
+    }
     return bottom;
 }
 

@@ -76,8 +76,7 @@ private:
         if (file.endsWith(".cpp"_L1) && built)
             m_report.wrong << u"%1 belongs to no target"_s.arg(file);
         if (!file.startsWith("tests/"_L1) && m_map.bottomOf(folder).size() > 1)
-            m_report.wrong << u"%1 could belong to several libraries: list it in the SOURCES of one"_s.arg(
-                file);
+            m_report.wrong << file + " could belong to several libraries: list it in the SOURCES of one"_L1;
     }
 
     void checkFor(const QString& owner, const QSet<QString>& reach, const QString& file)
@@ -95,11 +94,12 @@ private:
         const QStringList theirs = m_map.ownersOf(include.header);
         ++m_report.includes;
         if (theirs.isEmpty())
-            checkFor(owner, reach, include.header);
-        else if (!reach.intersects(QSet(theirs.cbegin(), theirs.cend())))
-            m_report.wrong << u"%1:%2 includes %3 of %4, which %5 does not link"_s.arg(file)
-                                  .arg(include.line)
-                                  .arg(include.header, theirs.join(u", "_s), owner);
+            return checkFor(owner, reach, include.header);
+        if (reach.intersects(QSet(theirs.cbegin(), theirs.cend())))
+            return;
+        const QString place = file + u':' + QString::number(include.line);
+        m_report.wrong << u"%1 includes %2 of %3, which %4 does not link"_s.arg(place, include.header,
+                                                                                theirs.join(u", "_s), owner);
     }
 
     const BuildMap& m_map;

@@ -37,14 +37,17 @@ QStringList misplacedWidgets(const BuildMap& map)
 QStringList folderCycles(const BuildMap& map)
 {
     QHash<QString, QSet<QString>> below;
-    for (const Target& target : map.targets())
+    for (const Target& target : map.targets()) {
         if (ofProduct(target))
             below[target.folder.section(u'/', 0, 0)] += reachedFolders(map, target);
+    }
     QStringList wrong;
-    for (auto one = below.cbegin(); one != below.cend(); ++one)
-        for (const QString& other : one.value())
+    for (auto one = below.cbegin(); one != below.cend(); ++one) {
+        for (const QString& other : one.value()) {
             if (one.key() < other && below.value(other).contains(one.key()))
                 wrong << u"%1 and %2 reach each other"_s.arg(one.key(), other);
+        }
+    }
     return wrong;
 }
 
