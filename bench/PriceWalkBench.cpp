@@ -1,5 +1,5 @@
-// The conversion of all prices to euro beside the least that could do it: a select walked in the order of the
-// PLU numbers and a prepared update, in one transaction. What lets the window answer is measured apart.
+// Converts all prices to euro, beside a bare walk: a select in the order of the PLU numbers and a prepared
+// update, in one transaction. What keeps the window alive is measured separately.
 #include "bench/BareDatabase.h"
 #include "shell/FrmMain.h"
 #include "shell/LongWork.h"
@@ -18,6 +18,8 @@
 #include <cmath>
 #include <cstdio>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 
@@ -28,6 +30,18 @@ using bench::require;
 constexpr int pluCount = 100000;
 constexpr int prices = 5;
 
+void addPlu(sqlite3_stmt* insert, int plu)
+{
+    sqlite3_bind_int(insert, 1, plu);
+    for (int price = 1; price <= prices; ++price) {
+        const int cents = (plu * 31 + price * 17) % 100000;
+        std::array<char, 16> text{};
+        std::snprintf(text.data(), text.size(), "%d.%02d", cents / 100, cents % 100);
+        bench::bindText(insert, price + 1, text.data());
+    }
+    bench::runOnce(insert);
+}
+
 void fillWithPlus(const QString& path)
 {
     store::Database::create(path, store::catalogue());
@@ -36,21 +50,13 @@ void fillWithPlus(const QString& path)
     sqlite3_stmt* insert = database.prepare(
         "insert into PLUDATA (PLUNUMBER, DESCRIPTION, PRICE1, PRICE2, PRICE3, "
         "PRICE4, PRICE5) values (printf('%018d', ?1), 'Article ' || ?1, ?2, ?3, ?4, ?5, ?6)");
-    for (int plu = 1; plu <= pluCount; ++plu) {
-        sqlite3_bind_int(insert, 1, plu);
-        for (int price = 1; price <= prices; ++price) {
-            const int cents = (plu * 31 + price * 17) % 100000;
-            std::array<char, 16> text{};
-            std::snprintf(text.data(), text.size(), "%d.%02d", cents / 100, cents % 100);
-            bench::bindText(insert, price + 1, text.data());
-        }
-        bench::runOnce(insert);
-    }
+    for (int plu = 1; plu <= pluCount; ++plu)
+        addPlu(insert, plu);
     sqlite3_finalize(insert);
     database.run("commit");
 }
 
-/// Two databases of the same PLUs, ours and the bare walk's.
+/// Two databases with the same PLUs: ours, and one for the bare walk.
 class Shop
 {
 public:
@@ -59,8 +65,8 @@ public:
         for (const QString& path : {ours(), bare()})
             fillWithPlus(path);
     }
-    [[nodiscard]] QString ours() const { return m_folder.filePath(QStringLiteral("velmar.mdb")); }
-    [[nodiscard]] QString bare() const { return m_folder.filePath(QStringLiteral("bare.mdb")); }
+    [[nodiscard]] QString ours() const { return m_folder.filePath(u"velmar.mdb"_s); }
+    [[nodiscard]] QString bare() const { return m_folder.filePath(u"bare.mdb"_s); }
 
     /// All euro prices of a database added up.
     [[nodiscard]] static double sum(const QString& path)
@@ -68,7 +74,7 @@ public:
         return BareDatabase(path).number(
             "select sum(EuroPrice1 + europrice2 + europrice3 + europrice4 + europrice5) from PLUDATA");
     }
-    /// As the rates go up the sums go down; the bare walk rounds in another way, by a cent at times.
+    /// The bare walk rounds differently, so a price may differ by a cent.
     void checkSums() const
     {
         const double total = sum(ours());
@@ -83,11 +89,11 @@ const utilities::PriceUtility& conversion()
 {
     const auto all = utilities::priceUtilities();
     return *std::find_if(all.begin(), all.end(), [](const utilities::PriceUtility& utility) {
-        return utility.handler == QLatin1String("TransferEuro_Click");
+        return utility.handler == "TransferEuro_Click"_L1;
     });
 }
 
-/// A rate that no walk before had: without one nothing would change.
+/// A new rate for each walk; the same rate again would change nothing.
 class Rates
 {
 public:
@@ -106,6 +112,18 @@ void convertAll(const QString& path, double rate, const utilities::WalkFrame& fr
     require(boxes.shown.size() == 3, "the question, the rate and the end");
 }
 
+/// Converts the PLU of the row that @p select is at.
+void bareConvert(sqlite3_stmt* select, sqlite3_stmt* update, double rate)
+{
+    for (int price = 1; price <= prices; ++price) {
+        std::array<char, 32> text{};
+        std::snprintf(text.data(), text.size(), " %.2f", sqlite3_column_double(select, price) / rate);
+        bench::bindText(update, price, text.data());
+    }
+    sqlite3_bind_int64(update, prices + 1, sqlite3_column_int64(select, 0));
+    bench::runOnce(update);
+}
+
 void bareConvertAll(const QString& path, double rate)
 {
     const BareDatabase database(path);
@@ -114,42 +132,33 @@ void bareConvertAll(const QString& path, double rate)
         "select _rowid_, PRICE1, PRICE2, PRICE3, PRICE4, PRICE5 from PLUDATA order by PLUNUMBER");
     sqlite3_stmt* update = database.prepare("update PLUDATA set EuroPrice1=?, europrice2=?, europrice3=?, "
                                             "europrice4=?, europrice5=? where _rowid_=?");
-    while (sqlite3_step(select) == SQLITE_ROW) {
-        for (int price = 1; price <= prices; ++price) {
-            std::array<char, 32> text{};
-            std::snprintf(text.data(), text.size(), " %.2f", sqlite3_column_double(select, price) / rate);
-            bench::bindText(update, price, text.data());
-        }
-        sqlite3_bind_int64(update, prices + 1, sqlite3_column_int64(select, 0));
-        bench::runOnce(update);
-    }
+    while (sqlite3_step(select) == SQLITE_ROW)
+        bareConvert(select, update, rate);
     sqlite3_finalize(update);
     sqlite3_finalize(select);
     database.run("commit");
 }
+
+void nothing() {}
 
 void euroConversion(benchmark::State& state)
 {
     const Shop shop;
     Rates rates;
     double rate = 0;
-    // The bare walk goes first and takes the new rate for both.
-    bench::compare(
-        state,
-        [&] {
-            convertAll(shop.ours(), rate,
-                       {[] {},
-                        [] {
-                        }});
-        },
-        [&] {
-            rate = rates.next();
-            bareConvertAll(shop.bare(), rate);
-        });
+    // The bare walk is first and takes a new rate for both.
+    const auto ours = [&] {
+        convertAll(shop.ours(), rate, {nothing, nothing});
+    };
+    const auto bare = [&] {
+        rate = rates.next();
+        bareConvertAll(shop.bare(), rate);
+    };
+    bench::compare(state, ours, bare);
     shop.checkSums();
 }
 
-/// How long a user's click would have waited: the longest time between two turns of the event loop.
+/// How long a user's click waits at most: the longest time between two turns of the event loop.
 class LongestWait
 {
 public:
@@ -162,7 +171,7 @@ public:
         m_timer.start(0);
         m_since.start();
     }
-    /// The time since the last turn counts too.
+    /// Includes the time since the last turn.
     [[nodiscard]] double milliseconds() const
     {
         constexpr double nanosecond = 1e-6;
@@ -175,35 +184,49 @@ private:
     qint64 m_longest = 0;
 };
 
-/// The same with the main window alive: what the yield of each row costs, and how long the window is deaf.
+/// Seconds of a walk and of its calls that let events run, and the longest wait of the window.
+struct WalkTimes {
+    double walk = 0;
+    double yields = 0;
+    double longestWait = 0; ///< milliseconds
+};
+
+WalkTimes walkWithWindow(shell::FrmMain& main, const QString& path, double rate)
+{
+    WalkTimes times;
+    const LongestWait wait;
+    times.walk = bench::secondsOf([&] {
+        shell::LongWork work(main);
+        const auto everyRow = [&] {
+            times.yields += bench::secondsOf([&work] { work.letEventsRun(); });
+        };
+        convertAll(path, rate, {nothing, everyRow});
+    });
+    times.longestWait = wait.milliseconds();
+    return times;
+}
+
+/// The same with a living main window: what letting events run costs for each row, and how long the window
+/// does not answer.
 void eventsOfEachRow(benchmark::State& state)
 {
     const Shop shop;
-    ApplicationValues values;
+    const ApplicationValues values;
     test::RecordingBoxes boxes;
     shell::FrmMain main(values, boxes, {});
     main.show();
     Rates rates;
-    double yields = 0;
-    double total = 0;
-    double longestWait = 0;
+    WalkTimes all;
     while (state.KeepRunning()) {
-        const LongestWait wait;
-        const double seconds = bench::secondsOf([&] {
-            shell::LongWork work(main);
-            const auto everyRow = [&] {
-                yields += bench::secondsOf([&work] { work.letEventsRun(); });
-            };
-            convertAll(shop.ours(), rates.next(), {[] {}, everyRow});
-        });
-        longestWait = std::max(longestWait, wait.milliseconds());
-        total += seconds;
-        state.SetIterationTime(seconds);
+        const WalkTimes times = walkWithWindow(main, shop.ours(), rates.next());
+        all = {all.walk + times.walk, all.yields + times.yields,
+               std::max(all.longestWait, times.longestWait)};
+        state.SetIterationTime(times.walk);
     }
     const auto rows = static_cast<double>(state.iterations()) * pluCount;
-    state.counters["row_us"] = (total - yields) / rows * 1e6;
-    state.counters["yield_us"] = yields / rows * 1e6;
-    state.counters["longest_wait_ms"] = longestWait;
+    state.counters["row_us"] = (all.walk - all.yields) / rows * 1e6;
+    state.counters["yield_us"] = all.yields / rows * 1e6;
+    state.counters["longest_wait_ms"] = all.longestWait;
 }
 
 } // namespace
