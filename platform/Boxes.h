@@ -18,6 +18,14 @@ inline const QString& applicationTitle()
     return title;
 }
 
+/// What a file dialog asks for.
+struct FileRequest {
+    QString title;
+    QString folder; ///< shown first
+    QString filter; ///< "Overlays (*.Dorvik)", several parted by ";;"
+    QString suffix; ///< added to a name typed without one, when a file is saved
+};
+
 class Boxes
 {
 public:
@@ -33,6 +41,11 @@ public:
                      BoxAnswer preset = BoxAnswer::Yes) = 0;
     /// Asks for a line of text. Cancel gives empty text, as an emptied box does.
     virtual QString input(const QString& prompt, const QString& title, const QString& initial = {}) = 0;
+    /// Asks for a file that exists. @return its path, empty for Cancel.
+    virtual QString fileToOpen(const FileRequest& request) = 0;
+    /// Asks for the file to save to. One that exists is returned only when the user agreed, in a question box
+    /// that presets No, to replace it. @return its path, empty for Cancel.
+    virtual QString fileToSave(const FileRequest& request) = 0;
     /// The platform's warning sound.
     virtual void beep() = 0;
 };

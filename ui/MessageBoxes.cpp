@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -65,6 +67,20 @@ QMessageBox::StandardButton show(const QString& text, const QString& title, BoxI
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
+/// The dialog asks no question of its own: its words and its preset answer would be the toolkit's.
+QString chosenFile(const FileRequest& request, QFileDialog::AcceptMode mode)
+{
+    const ArrowPointer arrow;
+    QFileDialog box(QApplication::activeWindow(), request.title, request.folder, request.filter);
+    box.setObjectName(u"FileBox"_s);
+    box.setAcceptMode(mode);
+    const bool opens = mode == QFileDialog::AcceptOpen;
+    box.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    box.setDefaultSuffix(request.suffix);
+    box.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
+    return box.exec() == QDialog::Accepted ? box.selectedFiles().value(0) : QString();
+}
+
 } // namespace
 
 void MessageBoxes::message(const QString& text, const QString& title, BoxIcon icon)
@@ -87,6 +103,23 @@ QString MessageBoxes::input(const QString& prompt, const QString& title, const Q
     box.setLabelText(shownText(prompt));
     box.setTextValue(initial);
     return box.exec() == QDialog::Accepted ? box.textValue() : QString();
+}
+
+QString MessageBoxes::fileToOpen(const FileRequest& request)
+{
+    return chosenFile(request, QFileDialog::AcceptOpen);
+}
+
+QString MessageBoxes::fileToSave(const FileRequest& request)
+{
+    for (;;) {
+        const QString path = chosenFile(request, QFileDialog::AcceptSave);
+        const QFileInfo file(path);
+        if (path.isEmpty() || !file.exists() ||
+            ask(u"%1 exists already. Replace it?"_s.arg(file.fileName()), request.title, BoxIcon::Question,
+                BoxAnswer::No))
+            return path;
+    }
 }
 
 void MessageBoxes::beep()

@@ -6,14 +6,16 @@
 namespace norvane::ui
 {
 
-/// Boxes over the window in use. Their objects are named "MessageBox" and "InputBox". Texts are shown as they
-/// stand, never as markup; a carriage return starts a new line.
+/// Boxes over the window in use. Their objects are named "MessageBox", "InputBox" and "FileBox". Texts are
+/// shown as they stand, never as markup; a carriage return starts a new line.
 class MessageBoxes : public Boxes
 {
 public:
     void message(const QString& text, const QString& title, BoxIcon icon) override;
     bool ask(const QString& text, const QString& title, BoxIcon icon, BoxAnswer preset) override;
     QString input(const QString& prompt, const QString& title, const QString& initial) override;
+    QString fileToOpen(const FileRequest& request) override;
+    QString fileToSave(const FileRequest& request) override;
     void beep() override;
 };
 

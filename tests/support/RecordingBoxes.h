@@ -19,7 +19,7 @@ struct ShownBox {
 };
 
 /// Answers Yes/No and typed texts in the order in which they were put in; a question without an answer counts
-/// as No, an input box without one as cancelled.
+/// as No, an input or file box without one as cancelled.
 class RecordingBoxes : public Boxes
 {
 public:
@@ -43,6 +43,12 @@ public:
         record({prompt, title, BoxIcon::None});
         return takeFront(typed);
     }
+    QString fileToOpen(const FileRequest& request) override
+    {
+        record({request.title, request.filter, BoxIcon::None});
+        return takeFront(typed);
+    }
+    QString fileToSave(const FileRequest& request) override { return fileToOpen(request); }
     void beep() override {}
 
 private:

@@ -1,0 +1,95 @@
+// The file dialogs as a user meets them.
+#include "ui/MessageBoxes.h"
+
+#include "tests/platform/TestFolder.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::ui
+{
+namespace
+{
+
+/// Answers the boxes that open one after the other: a name for a file box, "Yes", "No" or "Escape" for a
+/// question.
+class Answers
+{
+public:
+    explicit Answers(QStringList answers) : m_answers(std::move(answers))
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { answer(); });
+        m_timer.start(5);
+    }
+    QStringList asked;
+
+private:
+    void answer()
+    {
+        QWidget* const box = QApplication::activeModalWidget();
+        if (box == nullptr || m_answers.isEmpty())
+            return;
+        const QString next = m_answers.takeFirst();
+        if (auto* const question = qobject_cast<QMessageBox*>(box)) {
+            asked += question->text() + u" preset "_s + question->defaultButton()->text().remove(u'&');
+            const auto button = next == u"Yes" ? QMessageBox::Yes : QMessageBox::No;
+            question->button(button)->click();
+        } else if (next == u"Escape") {
+            QTest::keyClick(box, Qt::Key_Escape);
+        } else {
+            auto* const name = box->findChild<QLineEdit*>(u"fileNameEdit"_s);
+            name->setText(next);
+            QTest::keyClick(name, Qt::Key_Return);
+        }
+    }
+
+    QStringList m_answers;
+    QTimer m_timer;
+};
+
+class FileBoxTest : public testing::Test
+{
+protected:
+    [[nodiscard]] QString save(const QStringList& answers)
+    {
+        Answers user(answers);
+        const QString path =
+            MessageBoxes().fileToSave({u"Save"_s, m_folder.path(), u"Texts (*.txt)"_s, u"txt"_s});
+        m_asked = user.asked;
+        return path;
+    }
+
+    test::TestFolder m_folder;
+    QStringList m_asked;
+};
+
+TEST_F(FileBoxTest, AnExistingFileIsReplacedOnlyAfterAYes)
+{
+    m_folder.write("old.txt", "old");
+    const QStringList question{u"old.txt exists already. Replace it? preset No"_s};
+    EXPECT_EQ(save({u"new"_s}), m_folder.path("new.txt")) << "with the suffix, unasked";
+    EXPECT_EQ(m_asked, QStringList());
+    EXPECT_EQ(save({u"old"_s, u"Yes"_s}), m_folder.path("old.txt"));
+    EXPECT_EQ(m_asked, question);
+    EXPECT_EQ(save({u"old"_s, u"No"_s, u"other.txt"_s}), m_folder.path("other.txt")) << "asked for another";
+    EXPECT_EQ(m_asked, question);
+    EXPECT_EQ(save({u"old"_s, u"No"_s, u"Escape"_s}), QString());
+}
+
+TEST_F(FileBoxTest, OnlyAFileThatExistsCanBeOpened)
+{
+    m_folder.write("old.txt", "old");
+    const Answers user({u"old.txt"_s});
+    EXPECT_EQ(MessageBoxes().fileToOpen({u"Open"_s, m_folder.path(), u"Texts (*.txt)"_s, u"txt"_s}),
+              m_folder.path("old.txt"));
+}
+
+} // namespace
+} // namespace norvane::ui
