@@ -89,7 +89,7 @@ public:
         boxes().shown.clear();
         actionOf(entry).setEnabled(true); // some are grey
         QWidget& screen = openForm(entry.name.data());
-        const QImage image = picture(screen);
+        QImage image = picture(screen);
         press(screen, "ExitForm");
         return image;
     }
