@@ -35,6 +35,14 @@ const QString& designedCaption()
     return caption;
 }
 
+/// What the find dialog calls the keys of @p field. PLU numbers are texts of digits.
+QString kindOfKey(const store::FieldDefinition& field)
+{
+    if (field.name.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) == 0)
+        return u"PLU number"_s;
+    return field.type == store::FieldType::Text ? u"text"_s : u"number"_s;
+}
+
 /// Where the form is too narrow for buttons of the usual width, they become narrower, down to this.
 constexpr int narrowestButton = 64;
 
@@ -224,7 +232,7 @@ void OptionForm::tellNoMoreRecords()
 
 void OptionForm::findRecord(int element)
 {
-    const auto searchText = ui::FrmSearch::ask(window());
+    const auto searchText = ui::FrmSearch::ask(window(), kindOfKey(m_editor->searchedField(element)));
     if (!searchText)
         return;
     if (m_editor->find(element, *searchText))

@@ -4,6 +4,7 @@
 #include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -27,7 +28,7 @@ bool isPluNumber(const QString& name)
 
 /// Runs @p act and names the screen file in its failure: most of them are slips in that file.
 template <typename Act>
-auto namingFile(const QString& file, Act act)
+decltype(auto) namingFile(const QString& file, Act act)
 {
     const auto explain = [&](const QString& text) {
         return u"%1 (%2)"_s.arg(text, file);
@@ -124,12 +125,7 @@ RecordEditor::RecordEditor(std::shared_ptr<store::Database> database, ScreenTabl
     : m_database(std::move(database)), m_table(std::move(table)), m_screenFile(std::move(screenFile)),
       m_records(namingFile(m_screenFile, [&] { return m_database->openTable(m_table.table); }))
 {
-    chooseIndex(m_table.firstIndex);
-}
-
-void RecordEditor::chooseIndex(const QString& index)
-{
-    namingFile(m_screenFile, [&] { m_records.setIndex(index); });
+    namingFile(m_screenFile, [&] { m_records.setIndex(m_table.firstIndex); });
 }
 
 void RecordEditor::showFields(BoundFields& fields) const
@@ -179,27 +175,19 @@ void RecordEditor::deleteRecord()
         m_records.deleteRecord();
     }
     m_records.moveFirst();
-    m_beyondLast = false;
 }
 
 bool RecordEditor::next()
 {
-    if (!m_beyondLast)
-        m_records.moveNext();
-    if (!m_beyondLast && !m_records.atEnd())
+    m_records.moveNext();
+    if (!m_records.atEnd())
         return true;
     m_records.moveLast();
-    m_beyondLast = false;
     return false;
 }
 
 bool RecordEditor::previous()
 {
-    if (m_beyondLast) {
-        m_records.moveLast();
-        m_beyondLast = false;
-        return true;
-    }
     m_records.movePrevious();
     if (!m_records.atBeginning())
         return true;
@@ -207,13 +195,43 @@ bool RecordEditor::previous()
     return false;
 }
 
+const QString& RecordEditor::indexOf(int button) const
+{
+    return button == 2 ? m_table.secondIndex : m_table.firstIndex;
+}
+
+const store::FieldDefinition& RecordEditor::searchedField(int button) const
+{
+    const auto indexes = m_database->table(m_table.table).indexes;
+    const auto index = std::find_if(indexes.cbegin(), indexes.cend(), [&](const auto& known) {
+        return known.names.contains(indexOf(button), Qt::CaseInsensitive);
+    });
+    const QString field = index == indexes.cend() ? QString() : index->field;
+    return namingFile(m_screenFile, [&]() -> const store::FieldDefinition& {
+        return m_records.field(m_records.fieldOrdinal(field));
+    });
+}
+
+/// Looks on a recordset of its own: a search that finds nothing would take the place away.
+bool RecordEditor::hasRecord(const store::Value& key) const
+{
+    store::Recordset records = m_database->openTable(m_table.table);
+    records.setIndex(m_records.index());
+    try {
+        return records.seek(store::Seek::AtOrAfter, key);
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() != Failure::Conversion)
+            throw;
+        return false; // "two" is no key among numbers
+    }
+}
+
 bool RecordEditor::find(int button, const QString& text)
 {
-    const QString& index = button == 2 ? m_table.secondIndex : m_table.firstIndex;
-    chooseIndex(index);
-    const QString key = isPluNumber(index) ? pluNumber(text) : text;
-    m_beyondLast = !m_records.seek(store::Seek::AtOrAfter, store::Value::text(key));
-    return !m_beyondLast;
+    const QString& index = indexOf(button);
+    namingFile(m_screenFile, [&] { m_records.changeOrder(index); });
+    const auto key = store::Value::text(isPluNumber(index) ? pluNumber(text) : text);
+    return hasRecord(key) && m_records.seek(store::Seek::AtOrAfter, key);
 }
 
 } // namespace norvane::screens

@@ -56,18 +56,21 @@ public:
     [[nodiscard]] bool previous();
     /// Goes to the first record at or after @p text. The index stays chosen for the moves that follow.
     /// @param button 2 searches by the second index, any other by the first.
-    /// @return false when there is no such record; the controls keep what they show.
+    /// @return false when there is no such record, or @p text cannot be a key. The place stays then, and with
+    /// it a record being added or changed, so that a save goes where the user expects it.
     [[nodiscard]] bool find(int button, const QString& text);
+    /// The field that find() searches.
+    [[nodiscard]] const store::FieldDefinition& searchedField(int button) const;
 
 private:
     void storeField(BoundField& field);
-    void chooseIndex(const QString& index);
+    [[nodiscard]] const QString& indexOf(int button) const;
+    [[nodiscard]] bool hasRecord(const store::Value& key) const;
 
     std::shared_ptr<store::Database> m_database;
     ScreenTable m_table;
     QString m_screenFile;
     store::Recordset m_records;
-    bool m_beyondLast = false; ///< after a search that found nothing
 };
 
 } // namespace norvane::screens

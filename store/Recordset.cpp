@@ -123,6 +123,16 @@ TableCursor& Recordset::Private::indexed() const
     return *tableCursor;
 }
 
+const IndexDefinition& Recordset::Private::indexNamed(const QString& name) const
+{
+    const auto* index = tableCursor ? shape->index(name) : nullptr;
+    if (!index) {
+        throw RuntimeFailure(Failure::UnknownName,
+                             u"Item not found: %1 has no index %2."_s.arg(shape->name(), name));
+    }
+    return *index;
+}
+
 ResultCursor& Recordset::Private::result() const
 {
     if (!resultCursor) {
@@ -139,15 +149,17 @@ Recordset::~Recordset() = default;
 
 void Recordset::setIndex(const QString& name)
 {
-    const auto* index = d->tableCursor ? d->shape->index(name) : nullptr;
-    if (!index) {
-        throw RuntimeFailure(Failure::UnknownName,
-                             u"Item not found: %1 has no index %2."_s.arg(d->shape->name(), name));
-    }
+    const IndexDefinition& index = d->indexNamed(name);
     d->abandonEdit();
-    d->tableCursor->setIndex(index);
+    d->tableCursor->setIndex(&index);
     d->indexName = name;
     d->moved(d->cursor->first(), Private::Place::Empty);
+}
+
+void Recordset::changeOrder(const QString& name)
+{
+    d->tableCursor->changeOrder(d->indexNamed(name));
+    d->indexName = name;
 }
 
 void Recordset::readOnly(const std::vector<int>& fields)

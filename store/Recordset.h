@@ -28,6 +28,9 @@ public:
 
     /// Chooses the order and places the recordset on the first record. @throws 3265 for an unknown index.
     void setIndex(const QString& name);
+    /// Chooses the order of the moves that follow. The place and an edit or new record that is open stay.
+    /// @throws 3265 for an unknown index.
+    void changeOrder(const QString& name);
     [[nodiscard]] QString index() const;
     /// For walks over many records of a table: from now on only the fields of these ordinals are read, all
     /// others show null, and the records cannot be changed. Places the recordset on the first record.

@@ -30,6 +30,7 @@ public:
     void moved(bool found, Place otherwise);
     void abandonEdit();
     [[nodiscard]] TableCursor& indexed() const;
+    [[nodiscard]] const IndexDefinition& indexNamed(const QString& name) const;
     [[nodiscard]] ResultCursor& result() const;
     void needRecord() const;
     void needWriter() const;

@@ -70,6 +70,13 @@ void TableCursor::setIndex(const IndexDefinition* index)
     m_filled = 0;
 }
 
+void TableCursor::changeOrder(const IndexDefinition& index)
+{
+    setIndex(&index);
+    if (m_at < m_rows.size())
+        takePlace();
+}
+
 PreparedStatement& TableCursor::statement(Access access)
 {
     auto& statement = m_statements.at(access);

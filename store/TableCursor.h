@@ -28,6 +28,8 @@ public:
 
     /// Chooses the order; nullptr for the order in which records were added. The place is lost.
     void setIndex(const IndexDefinition* index);
+    /// Chooses the order of the moves that follow, from the place where it stands.
+    void changeOrder(const IndexDefinition& index);
     [[nodiscard]] const IndexDefinition* index() const { return m_index; }
     bool seek(Seek comparison, const Value& key);
     /// Reads these fields and the key alone from now on; all others are null. The place is lost.

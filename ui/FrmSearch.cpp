@@ -20,19 +20,20 @@ constexpr int boxWidth = 300;
 
 } // namespace
 
-std::optional<QString> FrmSearch::ask(QWidget* parent)
+std::optional<QString> FrmSearch::ask(QWidget* parent, const QString& sought)
 {
-    FrmSearch dialog(parent);
+    FrmSearch dialog(parent, sought);
     return dialog.exec() == Accepted ? std::optional(dialog.SearchData->text()) : std::nullopt;
 }
 
-FrmSearch::FrmSearch(QWidget* parent) : QDialog(parent), SearchData(new QLineEdit(this))
+FrmSearch::FrmSearch(QWidget* parent, const QString& sought)
+    : QDialog(parent), SearchData(new QLineEdit(this))
 {
     nameControl(*this, u"FrmSearch"_s);
     nameControl(*SearchData, u"SearchData"_s);
     setWindowTitle(u"Find Record....."_s);
     SearchData->setMinimumWidth(boxWidth);
-    auto* const label = new QLabel(u"Find the record with this number or name, or the next:"_s, this);
+    auto* const label = new QLabel(u"Find the record with this %1, or the next:"_s.arg(sought), this);
     label->setBuddy(SearchData);
     QPushButton* const find = makeButton(u"ExitControl_0"_s, u"&Find"_s, this);
     QPushButton* const cancel = makeButton(u"ExitControl_1"_s, u"&Cancel"_s, this);

@@ -16,11 +16,12 @@ class FrmSearch : public QDialog
     Q_OBJECT
 
 public:
+    /// @param sought what the text is: "number".
     /// @return the text, which may be empty; nothing when the user cancelled.
-    [[nodiscard]] static std::optional<QString> ask(QWidget* parent);
+    [[nodiscard]] static std::optional<QString> ask(QWidget* parent, const QString& sought);
 
 private:
-    explicit FrmSearch(QWidget* parent);
+    FrmSearch(QWidget* parent, const QString& sought);
 
     QLineEdit* SearchData;
 };

@@ -4,6 +4,7 @@
 #include "ui/ValueList.h"
 
 #include <QCheckBox>
+#include <QLabel>
 
 namespace norvane::screens
 {
@@ -168,19 +169,51 @@ TEST_F(OptionFormTest, FindsByEachButtonsIndex)
     EXPECT_EQ(name(form), "Wines") << "still by name";
     find(form, "FindControl_1", "2");
     EXPECT_EQ(name(form), "Beers");
-    for (const bool forward : {true, false}) {
-        find(form, "FindControl_1", "9");
+}
+
+TEST_F(OptionFormTest, AfterNoRecordTheShownRecordIsStillTheOneThatIsSaved)
+{
+    const Form form = open();
+    press(form, "NextRecord");
+    for (const char* missing : {"9", "two"}) {
+        type(form, "TextControl_1", missing);
+        find(form, "FindControl_1", missing);
         EXPECT_EQ(takeBox(), noRecord);
-        EXPECT_EQ(name(form), forward ? "Beers" : "Food") << "the controls keep what they show";
-        press(form, "SaveRecord"); // stores nothing: there is no current record
-        press(form, forward ? "NextRecord" : "PreviousRecord");
-        EXPECT_EQ(name(form), "Food") << "the last record";
-        EXPECT_EQ(std::exchange(m_boxes.shown, {}).size(), forward ? 1U : 0U);
+        EXPECT_EQ(name(form), missing) << "what was typed";
+        press(form, "SaveRecord");
+        EXPECT_EQ(group(2).find(missing), 0U) << group(2);
     }
     EXPECT_EQ(m_boxes.heard, 2);
-    EXPECT_EQ(groupNames(), "Wines Beers Food");
-    find(form, "FindControl_1", "two");
-    EXPECT_EQ(failureNumber(), 3421);
+    find(form, "FindControl_2", "zz");
+    EXPECT_EQ(takeBox(), noRecord);
+    press(form, "NextRecord");
+    EXPECT_EQ(name(form), "Wines") << "by name from here on";
+
+    press(form, "AddRecord");
+    type(form, "IntegerNumberControl_1", "7");
+    find(form, "FindControl_1", "7");
+    EXPECT_EQ(takeBox(), noRecord);
+    press(form, "SaveRecord");
+    EXPECT_EQ(rows("select GROUPNO from GROUPS order by GROUPNO"), "1 2 3 7") << "still a new record";
+}
+
+TEST_F(OptionFormTest, TheFindDialogSaysWhatItsIndexTakes)
+{
+    const auto label = [](const Form& form, const char* button) {
+        QString text;
+        QTimer::singleShot(0, [&] {
+            text = QApplication::activeModalWidget()->findChild<QLabel*>()->text();
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        });
+        press(form, button);
+        return text.toStdString();
+    };
+    const std::string rest = ", or the next:";
+    EXPECT_EQ(label(open(), "FindControl_1"), "Find the record with this number" + rest);
+    EXPECT_EQ(label(open(), "FindControl_2"), "Find the record with this text" + rest);
+    const QByteArray plus = "[Database]\ntable=PLUDATA\nIndex1=plunumber\n[Field1]\nControlType="
+                            "FindControl\nVisible=True\n";
+    EXPECT_EQ(label(open(plus), "FindControl_1"), "Find the record with this PLU number" + rest);
 }
 
 TEST_F(OptionFormTest, PluNumbersAreFilledToTheirWidth)
