@@ -46,6 +46,8 @@ public:
     [[nodiscard]] BoundFields contents() const;
     /// Shows @p fields, which come from contents().
     void showContents(const BoundFields& fields);
+    /// The one grid of the screen, nullptr without one.
+    [[nodiscard]] GridControl* grid() const { return m_grid; }
     /// Controls in tab order.
     [[nodiscard]] const QVector<QWidget*>& tabOrder() const { return m_tabOrder; }
     /// Puts the focus where a user begins: into the first control in tab order that takes an entry. The

@@ -28,6 +28,13 @@ public:
         box->setFrame(false);
         return box;
     }
+
+    /// A box emptied for the next try, and then left, must not empty the cell.
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override
+    {
+        if (static_cast<const ui::TextBox*>(editor)->isModified())
+            QStyledItemDelegate::setModelData(editor, model, index);
+    }
 };
 
 } // namespace
@@ -60,6 +67,31 @@ void GridControl::showQuery(const std::shared_ptr<store::Database>& database,
     }
 }
 
+bool GridControl::findRow(const QString& part, int from)
+{
+    auto* const rows = static_cast<GridModel*>(model());
+    const int row = rows->findRow(part, from);
+    if (row < 0)
+        return false;
+    setCurrentIndex(rows->index(row, qMax(0, currentIndex().column())));
+    scrollTo(currentIndex(), PositionAtCenter);
+    return true;
+}
+
+/// Only when headers and scroll bars have found their places it is known what is left for the rows.
+void GridControl::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    QMetaObject::invokeMethod(this, &GridControl::cutToWholeRows, Qt::QueuedConnection);
+}
+
+void GridControl::cutToWholeRows()
+{
+    const int cut = viewport()->height() % heightOfRow;
+    if (cut != 0 && viewport()->height() > heightOfRow)
+        resize(width(), height() - cut);
+}
+
 void GridControl::retryCell(const QModelIndex& index)
 {
     setFocus();
@@ -67,7 +99,7 @@ void GridControl::retryCell(const QModelIndex& index)
     edit(index);
     // The editor that was closed may be around still; the one opened now is the last.
     if (const auto editors = viewport()->findChildren<QLineEdit*>(); !editors.isEmpty())
-        editors.last()->clear();
+        editors.last()->setText({}); // unlike clear(), no change by the user
 }
 
 } // namespace norvane::screens

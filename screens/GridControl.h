@@ -24,10 +24,20 @@ public:
     void showQuery(const std::shared_ptr<store::Database>& database, const ControlDefinition& definition);
     /// Opens the current cell anew, emptied, with the focus in it.
     void retryCell(const QModelIndex& index);
+    /// Makes the next row with @p part in its first two columns the current one, looking from row @p from on
+    /// and then from the top. @return false without such a row.
+    bool findRow(const QString& part, int from);
 
 Q_SIGNALS:
     /// What was entered cannot be stored. Raised once the cell's editor is closed.
     void dataError(const QModelIndex& index);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    /// Takes away what is too low for a row.
+    void cutToWholeRows();
 };
 
 } // namespace norvane::screens

@@ -3,6 +3,11 @@
 
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
+#include "screens/RegisterTexts.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,16 +39,24 @@ QString queryOf(const store::Database& database, const QString& sql)
     return table.indexes.isEmpty() ? query : query + u" order by [%1]"_s.arg(table.indexes[0].field);
 }
 
-bool isNumber(const QString& text)
+/// Whether @p text is digits with at most @p decimals behind a point; so is nothing at all.
+bool isPlainNumber(const QString& text, int decimals)
 {
-    return Decimal::parse(text.toStdString()).has_value();
+    static const QRegularExpression plain(u"^[0-9]{0,15}(?:\\.([0-9]*))?$"_s);
+    const auto match = plain.match(text);
+    return match.hasMatch() && match.capturedLength(1) <= decimals;
 }
 
+/// A number with more decimals than the format has stays whole: what is seen is what is stored.
 QString formatted(const store::Value& value, const QString& format)
 {
     const QString text = value.toText();
     const QString zeros = zerosOf(format);
-    return zeros.isEmpty() || !isNumber(text) ? text : formatNumber(text, zeros);
+    const auto number = zeros.isEmpty() ? std::nullopt : Decimal::parse(text.toStdString());
+    if (!number)
+        return text;
+    const QString shown = formatNumber(text, zeros);
+    return Decimal::leading(shown.toStdString()) == *number ? shown : text;
 }
 
 } // namespace
@@ -139,18 +152,54 @@ Qt::ItemFlags GridModel::flags(const QModelIndex& index) const
     return isLocked ? flags : flags | Qt::ItemIsEditable;
 }
 
+/// A price must be one that the registers take: they know no sign, no exponent and no more digits than the
+/// boxes of the other screens. An emptied price is 0, as there.
+store::Value GridModel::priceOf(int column, QString text) const
+{
+    text.replace(u',', u'.');
+    const QString field = m_records->field(column).name;
+    const int decimals = static_cast<int>(zerosOf(this->column(column).numberFormat).section(u'.', 1).size());
+    if (!isPlainNumber(text, decimals))
+        throw RuntimeFailure(Failure::Conversion, u"\"%1\" is no number for \"%2\""_s.arg(text, field));
+    const Decimal number = Decimal::leading(text.toStdString());
+    if (isAboveLargest(number, field))
+        throw RuntimeFailure(Failure::Overflow, u"%1 is too large for \"%2\""_s.arg(text, field));
+    return store::Value::text(number.text());
+}
+
 store::Value GridModel::valueOf(int column, const QString& text) const
 {
+    if (!this->column(column).numberFormat.isEmpty())
+        return priceOf(column, text);
     if (text.isEmpty() && m_records->field(column).type != store::FieldType::Text)
         return {};
-    // Prices stand in text fields, which take any text; a column of numbers must not.
-    if (!this->column(column).numberFormat.isEmpty() && !text.isEmpty()) {
-        const auto number = Decimal::parse(text.toStdString());
-        if (!number)
-            throw RuntimeFailure(Failure::Conversion, u"\"%1\" is no number"_s.arg(text));
-        return store::Value::text(number->text());
-    }
     return store::Value::text(text);
+}
+
+void GridModel::readTexts()
+{
+    const int second = qMin(1, m_records->fieldCount() - 1);
+    for (int row = 0; row < m_total; ++row) {
+        if (m_records->moveTo(row)) {
+            m_texts.add(m_records->value(0).toText(), m_records->value(second).toText());
+        } else {
+            m_texts.add({}, {});
+        }
+    }
+}
+
+int GridModel::findRow(const QString& part, int from)
+{
+    if (m_texts.size() < m_total)
+        readTexts();
+    const auto found = m_texts.containing(part);
+    if (found.empty())
+        return -1;
+    const auto next = std::lower_bound(found.cbegin(), found.cend(), from);
+    const int row = next == found.cend() ? found.front() : *next;
+    while (rowCount() <= row)
+        fetchMore({});
+    return row;
 }
 
 void GridModel::storeCell(const QModelIndex& index, const QString& text)

@@ -1,6 +1,7 @@
 // Rows of a query as a grid shows and edits them.
 #pragma once
 
+#include "screens/RecordTexts.h"
 #include "screens/ScreenDefinition.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
@@ -36,6 +37,10 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
+    /// The next row with @p part in its first two columns, in any case of letters, from row @p from on and
+    /// then from the top; it is read. @return -1 without such a row.
+    [[nodiscard]] int findRow(const QString& part, int from);
+
 Q_SIGNALS:
     /// The store cannot hold what was entered; the cell keeps its value.
     void refused(const QModelIndex& index);
@@ -46,7 +51,9 @@ private:
     [[nodiscard]] GridColumn column(int number) const { return m_columns.value(number); }
     [[nodiscard]] const store::Value& cell(const QModelIndex& index) const;
     [[nodiscard]] Row readRow(int row);
+    void readTexts();
     void storeCell(const QModelIndex& index, const QString& text);
+    [[nodiscard]] store::Value priceOf(int column, QString text) const;
     [[nodiscard]] store::Value valueOf(int column, const QString& text) const;
 
     std::shared_ptr<store::Database> m_database;
@@ -54,6 +61,7 @@ private:
     std::optional<store::Recordset> m_records;
     int m_total = 0;
     std::vector<Row> m_rows; ///< those read so far
+    RecordTexts m_texts;     ///< of all rows, once a row was sought
 };
 
 } // namespace norvane::screens

@@ -6,7 +6,9 @@
 #include "platform/FilePaths.h"
 #include "screens/FieldPanel.h"
 #include "screens/GridControl.h"
+#include "screens/GridFindBar.h"
 #include "screens/RecordEditor.h"
+#include "screens/RecordList.h"
 #include "screens/RegisterTexts.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
@@ -17,6 +19,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -57,6 +60,7 @@ OptionForm::OptionForm(const QString& screenFilePath, const ApplicationValues& v
     openTable();
     buildWindow();
     buildControls();
+    buildList();
     buildButtons();
     ShowFields();
     CSPict1->focusFirst();
@@ -158,14 +162,74 @@ void OptionForm::layOut(QHBoxLayout* buttons)
     auto* const line = new QFrame(this);
     line->setFrameShape(QFrame::HLine);
     line->setForegroundRole(QPalette::Mid);
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    auto* const column = new QVBoxLayout;
     column->setSpacing(ui::spacing::controlGap);
     column->addWidget(CSPict1, 1);
     column->addWidget(line);
     column->addLayout(buttons);
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addLayout(column, 1);
+    if (m_list)
+        row->addWidget(m_list);
+    if (auto* const grid = CSPict1->grid())
+        addFindBar(*grid, *column);
     m_size = m_size.expandedTo(QSize(minimumSizeHint().width(), 0));
     resize(m_size);
+}
+
+/// The form grows with it: the grid keeps the rows that the screen file gives it room for.
+void OptionForm::addFindBar(GridControl& grid, QVBoxLayout& column)
+{
+    auto* const bar = new GridFindBar(grid, this);
+    column.insertWidget(0, bar);
+    m_size.rheight() += bar->sizeHint().height() + column.spacing();
+}
+
+void OptionForm::buildList()
+{
+    const ScreenButtons told = m_file.buttons();
+    if (!told.next && !told.previous)
+        return;
+    const ScreenTable table = m_file.table();
+    const RecordListSource source{table.table, table.firstIndex, m_editor->searchedField(1).name,
+                                  textField()};
+    m_list = new RecordList(m_database, source, this);
+    m_size.rwidth() += m_list->handleWidth();
+    connect(m_list, &RecordList::chosen, this, &OptionForm::goTo);
+    connect(m_list, &RecordList::widened, this, &OptionForm::widen);
+    auto* const shortcut =
+        new QShortcut(QKeySequence(u"Ctrl+L"_s), this, {}, {}, Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, m_list, &RecordList::toggle);
+}
+
+/// The text by which users know a record: the first on the screen that is not its number.
+QString OptionForm::textField() const
+{
+    const QString number = m_editor->searchedField(1).name;
+    for (const BoundField& field : CSPict1->contents()) {
+        const QString name = field.dataField.trimmed();
+        if (field.kind == ControlKind::Text && name.compare(number, Qt::CaseInsensitive) != 0)
+            return name;
+    }
+    return {};
+}
+
+/// Grows the form, or the frame around it in the main window, as far as there is room, and shrinks it by as
+/// much again.
+void OptionForm::widen(int pixels)
+{
+    QWidget* const frame = isWindow() ? this : parentWidget();
+    if (frame->isMaximized())
+        return;
+    const int room = isWindow() ? QWIDGETSIZE_MAX : frame->parentWidget()->width();
+    const int width = qMin(room, frame->width() + (pixels > 0 ? pixels : -m_widened));
+    m_widened = pixels > 0 ? width - frame->width() : 0;
+    if (!isWindow())
+        frame->move(qBound(0, frame->x(), room - width), frame->y());
+    layout()->activate(); // or the width that the list took would still count as needed
+    frame->resize(width, frame->height());
 }
 
 void OptionForm::fitButtons(const QVector<QPushButton*>& shown)
@@ -181,6 +245,21 @@ void OptionForm::ShowFields()
     BoundFields fields = CSPict1->contents();
     m_editor->showFields(fields);
     CSPict1->showContents(fields);
+    markRecord();
+}
+
+void OptionForm::reloadList()
+{
+    if (!m_list)
+        return;
+    m_list->reload();
+    markRecord();
+}
+
+void OptionForm::markRecord()
+{
+    if (m_list)
+        m_list->mark(m_editor->key());
 }
 
 void OptionForm::addRecord()
@@ -188,6 +267,7 @@ void OptionForm::addRecord()
     BoundFields fields = CSPict1->contents();
     m_editor->add(fields);
     CSPict1->showContents(fields);
+    markRecord();
     CSPict1->focusFirst();
 }
 
@@ -201,6 +281,7 @@ void OptionForm::saveRecord()
                         u"Data Error Code%1"_s.arg(static_cast<int>(Failure::DuplicateKey)),
                         BoxIcon::Critical);
     }
+    reloadList();
 }
 
 void OptionForm::deleteRecord()
@@ -208,6 +289,7 @@ void OptionForm::deleteRecord()
     if (!m_boxes.ask(u"Are You Sure?"_s, u"Delete Record"_s, BoxIcon::Critical))
         return;
     m_editor->deleteRecord();
+    reloadList();
     ShowFields();
 }
 
@@ -239,6 +321,13 @@ void OptionForm::findRecord(int element)
         return ShowFields();
     m_boxes.beep();
     m_boxes.message(u"No Record"_s, u"Search"_s, BoxIcon::Exclamation);
+}
+
+/// As a find by the first index; another screen may have deleted the record since the list was read.
+void OptionForm::goTo(const QString& key)
+{
+    if (m_editor->find(1, key))
+        ShowFields();
 }
 
 void OptionForm::exitForm()

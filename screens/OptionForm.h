@@ -13,6 +13,7 @@
 
 class QHBoxLayout;
 class QPushButton;
+class QVBoxLayout;
 
 namespace norvane::ui
 {
@@ -25,6 +26,7 @@ namespace norvane::screens
 class FieldPanel;
 class GridControl;
 class RecordEditor;
+class RecordList;
 
 /// Builds itself from a screen file over the database at databasePath.
 /// Each instance has a connection and a place in the table of its own, so that several may be open on one
@@ -43,7 +45,7 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override { return m_size; }
 
-    /// Puts the current record into the controls.
+    /// Puts the current record into the controls, and marks it in the list.
     void ShowFields();
 
 private:
@@ -61,7 +63,11 @@ private:
     void buildControls();
     void buildButtons();
     [[nodiscard]] QPushButton* addButton(const ButtonRow& entry, QHBoxLayout& row);
+    void buildList();
+    [[nodiscard]] QString textField() const;
     void layOut(QHBoxLayout* buttons);
+    void addFindBar(GridControl& grid, QVBoxLayout& column);
+    void widen(int pixels);
     void fitButtons(const QVector<QPushButton*>& shown);
 
     void addRecord();
@@ -70,6 +76,9 @@ private:
     void nextRecord();
     void previousRecord();
     void findRecord(int element);
+    void goTo(const QString& key);
+    void markRecord();
+    void reloadList();
     void printReport();
     void exitForm();
     void rejectNumber(ui::NumberBox& box);
@@ -84,7 +93,9 @@ private:
     std::shared_ptr<store::Database> m_database;
     std::unique_ptr<RecordEditor> m_editor;
     FieldPanel* CSPict1 = nullptr;
+    RecordList* m_list = nullptr; ///< beside screens that walk several records
     QSize m_size;
+    int m_widened = 0; ///< pixels that the open list has added to the width
 };
 
 } // namespace norvane::screens

@@ -212,6 +212,13 @@ const store::FieldDefinition& RecordEditor::searchedField(int button) const
     });
 }
 
+QString RecordEditor::key() const
+{
+    if (m_records.editMode() == store::EditMode::Adding || !m_records.hasCurrent())
+        return {};
+    return m_records.value(searchedField(1).name).toText();
+}
+
 /// Looks on a recordset of its own: a search that finds nothing would take the place away.
 bool RecordEditor::hasRecord(const store::Value& key) const
 {

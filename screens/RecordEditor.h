@@ -61,6 +61,8 @@ public:
     [[nodiscard]] bool find(int button, const QString& text);
     /// The field that find() searches.
     [[nodiscard]] const store::FieldDefinition& searchedField(int button) const;
+    /// What find() by the first index would find the current record by; empty for a new record.
+    [[nodiscard]] QString key() const;
 
 private:
     void storeField(BoundField& field);

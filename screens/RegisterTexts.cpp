@@ -35,6 +35,9 @@ constexpr RuledField ruledFields[] = {
     {"CHECKENDORSEMESSAGE"_L1, "LINE"_L1, TextRule::MessageLine},
 };
 
+/// Eight digits with two behind the point, as the price boxes of the PLU screens.
+constexpr double largestPrice = 999999.99;
+
 void narrowTo(ControlDefinition& control, int characters)
 {
     const Decimal width(characters, 0);
@@ -43,6 +46,13 @@ void narrowTo(ControlDefinition& control, int characters)
 }
 
 } // namespace
+
+bool isAboveLargest(const Decimal& number, const QString& field)
+{
+    const bool isPrice = field.startsWith("price"_L1, Qt::CaseInsensitive) ||
+                         field.startsWith("europrice"_L1, Qt::CaseInsensitive);
+    return isPrice && number.toDouble() > largestPrice;
+}
 
 void fitToRegister(ControlDefinition& control, const QString& table, const ApplicationValues& values)
 {

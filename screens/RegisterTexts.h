@@ -13,4 +13,7 @@ namespace norvane::screens
 /// @throws RuntimeFailure 13 when the width depends on a model that the settings do not give.
 void fitToRegister(ControlDefinition& control, const QString& table, const ApplicationValues& values);
 
+/// Whether @p number is above what registers take in @p field; fields that are no prices have no limit here.
+[[nodiscard]] bool isAboveLargest(const Decimal& number, const QString& field);
+
 } // namespace norvane::screens

@@ -1,5 +1,4 @@
 // A screen in use: keys and clicks in, rows in the database and messages out.
-#include "screens/GridControl.h"
 #include "tests/screens/ScreenFixture.h"
 #include "ui/ValueList.h"
 
@@ -278,60 +277,6 @@ TEST_F(OptionFormTest, TwoScreensOnOneTableHoldTheirOwnPlaces)
     press(second, "DeleteRecord");
     press(first, "NextRecord");
     EXPECT_EQ(name(first), "Food");
-}
-
-TEST_F(OptionFormTest, GridCellsAreStoredAtOnceOrRejected)
-{
-    for (int number = 200; number < 700; ++number) {
-        execute("insert into PLUDATA values ('000000000000000" + QByteArray::number(number) +
-                "', 'x', '1', 2)");
-    }
-    const Form form =
-        open("[Database]\ntable=PLUDATA\nIndex1=plunumber\n"
-             "[Field1]\nControlType=GridControl\nWidth=9000\nHeight=3000\nVisible=True\n"
-             "SQLCriteria=select PLUNUMBER, DESCRIPTION, PRICE1, GROUPNO from PLUDATA order by PLUNUMBER\n"
-             "Caption0=Number\nColwidth0=3000\nlocked0=True\nCaption1=Name\nVisible1=False\n"
-             "Caption2=Price\nnumberFormat2=#,##0.00\nCaption4=Lost\nCaption5=Lost\n");
-    auto* const grid = control<GridControl>(form, "gridcontrol_0");
-    EXPECT_EQ(grid->columnWidth(0), 200);
-    EXPECT_TRUE(grid->isColumnHidden(1));
-    EXPECT_EQ(grid->model()->headerData(2, Qt::Horizontal), u"Price"_s);
-    EXPECT_EQ(grid->model()->headerData(3, Qt::Horizontal), u"GROUPNO"_s);
-    EXPECT_EQ(grid->model()->index(0, 2).data(), u"2.50"_s);
-    EXPECT_FALSE(grid->model()->index(0, 0).flags().testFlag(Qt::ItemIsEditable));
-    EXPECT_LT(grid->model()->rowCount(), 502) << "a long table is read as the user scrolls";
-    while (grid->model()->rowCount() < 502) {
-        const int before = grid->model()->rowCount();
-        grid->scrollToBottom();
-        QCoreApplication::processEvents();
-        ASSERT_GT(grid->model()->rowCount(), before);
-    }
-    const auto enter = [grid](int row, int column, const char* keys) {
-        grid->setFocus();
-        grid->setCurrentIndex(grid->model()->index(row, column));
-        QTest::keyClick(grid, Qt::Key_F2);
-        auto* const editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-        ASSERT_NE(editor, nullptr);
-        editor->clear();
-        QTest::keyClicks(editor, QString::fromLatin1(keys));
-        QTest::keyClick(editor, Qt::Key_Return);
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    };
-    enter(1, 2, "3.9");
-    enter(1, 3, "");
-    enter(501, 2, "7");
-    EXPECT_TRUE(m_boxes.shown.empty());
-    EXPECT_EQ(rows("select PLUNUMBER, PRICE1, GROUPNO from PLUDATA where PRICE1 <> '1' order by PLUNUMBER"),
-              "000000000000000005|2.5|1 000000000000000123|3.9|null 000000000000000699|7|2");
-    enter(0, 2, "x1");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_boxes.shown.empty(); }));
-    EXPECT_EQ(takeBox(), (ShownBox{u"Invalid Data Entry"_s, u"Operation Error"_s, BoxIcon::Exclamation}));
-    auto* const editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    ASSERT_NE(editor, nullptr);
-    EXPECT_TRUE(grid->isAncestorOf(editor));
-    EXPECT_EQ(editor->text(), QString()) << "emptied for the next try";
-    EXPECT_EQ(rows("select PRICE1 from PLUDATA where DESCRIPTION = 'Lager'"), "2.5");
 }
 
 } // namespace

@@ -1,0 +1,219 @@
+// See RecordList.h.
+#include "screens/RecordList.h"
+
+#include "ui/Appearance.h"
+#include "ui/FormKit.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::screens
+{
+namespace
+{
+
+constexpr int handlePixels = 16;
+constexpr int panelPixels = 260;
+constexpr int rowHeight = 22;
+constexpr int cellPadding = 16;
+
+/// The record on the screen stands out also while another row is chosen.
+class MarkingDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->font.setBold(index.data(RecordListModel::MarkedRole).toBool());
+    }
+};
+
+} // namespace
+
+RecordList::RecordList(const std::shared_ptr<store::Database>& database, const RecordListSource& source,
+                       QWidget* parent)
+    : QWidget(parent), m_model(new RecordListModel(database, source, this)), m_handle(new QToolButton(this)),
+      m_panel(new QWidget(this)), m_filter(new QLineEdit(m_panel)), m_table(new QTableView(m_panel)),
+      m_count(new QLabel(m_panel))
+{
+    ui::nameControl(*this, u"RecordList"_s);
+    buildHandle();
+    buildTable();
+    buildPanel();
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(m_handle);
+    row->addWidget(m_panel);
+}
+
+void RecordList::buildHandle()
+{
+    ui::nameControl(*m_handle, u"ListHandle"_s);
+    m_handle->setToolTip(u"List of records (Ctrl+L)"_s);
+    m_handle->setArrowType(Qt::LeftArrow);
+    m_handle->setAutoRaise(true);
+    m_handle->setFocusPolicy(Qt::NoFocus);
+    m_handle->setFixedWidth(handlePixels);
+    m_handle->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    connect(m_handle, &QToolButton::clicked, this, &RecordList::toggle);
+}
+
+void RecordList::buildPanel()
+{
+    ui::nameControl(*m_filter, u"ListFilter"_s);
+    m_filter->setPlaceholderText(u"Part of number or text"_s);
+    m_filter->setClearButtonEnabled(true);
+    m_filter->installEventFilter(this);
+    connect(m_filter, &QLineEdit::textChanged, this, &RecordList::setFilter);
+    connect(m_filter, &QLineEdit::returnPressed, this, [this] { choose(m_table->currentIndex()); });
+    ui::nameControl(*m_count, u"ListCount"_s);
+    auto* const column = new QVBoxLayout(m_panel);
+    column->setContentsMargins(0, ui::spacing::controlGap, ui::spacing::controlGap, ui::spacing::controlGap);
+    column->setSpacing(ui::spacing::controlGap);
+    column->addWidget(m_filter);
+    column->addWidget(m_table, 1);
+    column->addWidget(m_count);
+    m_panel->setFixedWidth(panelPixels);
+    m_panel->hide();
+}
+
+void RecordList::buildTable()
+{
+    ui::nameControl(*m_table, u"ListTable"_s);
+    m_table->setModel(m_model);
+    m_table->setItemDelegate(new MarkingDelegate(m_table));
+    m_table->setShowGrid(false);
+    m_table->setTabKeyNavigation(false);
+    m_table->setSelectionBehavior(QTableView::SelectRows);
+    m_table->setSelectionMode(QTableView::SingleSelection);
+    m_table->horizontalHeader()->hide();
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setMinimumSectionSize(rowHeight);
+    m_table->verticalHeader()->setDefaultSectionSize(rowHeight);
+    connect(m_table, &QTableView::clicked, this, &RecordList::choose);
+    connect(m_table, &QTableView::activated, this, &RecordList::choose);
+}
+
+int RecordList::handleWidth() const
+{
+    return handlePixels;
+}
+
+void RecordList::toggle()
+{
+    if (m_panel->isHidden()) {
+        unfold();
+    } else {
+        fold();
+    }
+}
+
+/// Asks for room first: a form that is too narrow would grow by itself, by another width.
+void RecordList::unfold()
+{
+    Q_EMIT widened(panelPixels);
+    m_panel->show();
+    m_handle->setArrowType(Qt::RightArrow);
+    m_filter->setFocus(); // reads the records, unless the window is not active
+    if (m_model->recordCount() == 0)
+        reload();
+}
+
+void RecordList::fold()
+{
+    m_panel->hide();
+    m_handle->setArrowType(Qt::LeftArrow);
+    layout()->activate(); // so that the form knows its new least width already
+    Q_EMIT widened(-panelPixels);
+}
+
+void RecordList::reload()
+{
+    if (m_panel->isHidden())
+        return;
+    m_model->reload();
+    fitNumbers();
+    showMarked();
+    tellCount();
+}
+
+void RecordList::mark(const QString& number)
+{
+    m_model->mark(number);
+    showMarked();
+}
+
+void RecordList::setFilter(const QString& text)
+{
+    m_model->setFilter(text);
+    if (text.isEmpty()) {
+        showMarked();
+    } else {
+        m_table->selectRow(0);
+    }
+    tellCount();
+}
+
+void RecordList::showMarked()
+{
+    if (m_model->markedRow() >= 0) {
+        m_table->selectRow(m_model->markedRow());
+    } else {
+        m_table->clearSelection();
+    }
+}
+
+void RecordList::tellCount()
+{
+    m_count->setText(u"%1 of %2"_s.arg(m_model->rowCount()).arg(m_model->recordCount()));
+}
+
+/// The last number is the longest, or nearly so.
+void RecordList::fitNumbers()
+{
+    QFont bold = font();
+    bold.setBold(true);
+    const int width = QFontMetrics(bold).horizontalAdvance(m_model->lastNumber());
+    m_table->setColumnWidth(0, width + cellPadding);
+}
+
+void RecordList::choose(const QModelIndex& index)
+{
+    if (!index.isValid() || index.row() == m_model->markedRow())
+        return;
+    Q_EMIT chosen(index.siblingAtColumn(0).data().toString());
+}
+
+/// Other screens may have changed the table since the list was read. The arrows walk the rows while the
+/// keyboard stays in the box.
+bool RecordList::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn)
+        reload();
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_PageDown || key == Qt::Key_PageUp) {
+            QCoreApplication::sendEvent(m_table, event);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace norvane::screens

@@ -1,0 +1,63 @@
+// The side list of a screen, by which a record is found by any part of its number or text.
+#pragma once
+
+#include "screens/RecordListModel.h"
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QTableView;
+class QToolButton;
+
+namespace norvane::screens
+{
+
+/// A handle at the edge of a screen and, once opened by it or by toggle(), a list beside the screen with a
+/// box to filter it. Records are read when the list is opened and when the user enters the box.
+class RecordList : public QWidget
+{
+    Q_OBJECT
+
+public:
+    RecordList(const std::shared_ptr<store::Database>& database, const RecordListSource& source,
+               QWidget* parent);
+
+    /// Opens the list with the keyboard in its box, or closes it.
+    void toggle();
+    /// Tells which record the screen shows, by the key as it is stored; an empty text for none.
+    void mark(const QString& number);
+    /// Reads the records again, if the list is open.
+    void reload();
+    /// Pixels that the handle takes.
+    [[nodiscard]] int handleWidth() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// The user wants this record on the screen; never the one that it shows.
+    void chosen(const QString& number);
+    /// The list takes so many more pixels beside the screen, less when negative.
+    void widened(int pixels);
+
+private:
+    void unfold();
+    void fold();
+    void buildHandle();
+    void buildPanel();
+    void buildTable();
+    void setFilter(const QString& text);
+    void showMarked();
+    void tellCount();
+    void fitNumbers();
+    void choose(const QModelIndex& index);
+
+    RecordListModel* m_model;
+    QToolButton* m_handle;
+    QWidget* m_panel;
+    QLineEdit* m_filter;
+    QTableView* m_table;
+    QLabel* m_count;
+};
+
+} // namespace norvane::screens

@@ -1,0 +1,155 @@
+// The grid of a screen: cells entered by keys, rows found above it, prices in the database.
+#include "screens/GridControl.h"
+#include "tests/screens/ScreenFixture.h"
+
+#include <QLabel>
+
+namespace norvane::screens
+{
+namespace
+{
+
+using namespace Qt::Literals::StringLiterals;
+using test::ShownBox;
+
+const ShownBox invalidEntry{u"Invalid Data Entry"_s, u"Operation Error"_s, BoxIcon::Exclamation};
+
+class GridTest : public test::ScreenFixture
+{
+protected:
+    GridTest()
+    {
+        store::Database database(m_values.databasePath);
+        const store::Transaction transaction(database);
+        for (int number = 200; number < 700; ++number) {
+            database.execute(u"insert into PLUDATA values ('000000000000000%1', 'x', '1', 2)"_s.arg(number));
+        }
+    }
+
+    Form openGrid()
+    {
+        return open(
+            "[Database]\ntable=PLUDATA\nIndex1=plunumber\n"
+            "[Field1]\nControlType=GridControl\nWidth=9000\nHeight=3000\nVisible=True\n"
+            "SQLCriteria=select PLUNUMBER, DESCRIPTION, PRICE1, GROUPNO from PLUDATA order by PLUNUMBER\n"
+            "Caption0=Number\nColwidth0=3000\nlocked0=True\nCaption1=Name\nVisible1=False\n"
+            "Caption2=Price\nnumberFormat2=#,##0.00\nCaption4=Lost\nCaption5=Lost\n");
+    }
+    static QLineEdit* openCell(GridControl& grid, int row, int column)
+    {
+        grid.setFocus();
+        grid.setCurrentIndex(grid.model()->index(row, column));
+        QTest::keyClick(&grid, Qt::Key_F2);
+        return qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    }
+    static void enter(GridControl& grid, int row, int column, const char* keys)
+    {
+        QLineEdit* const editor = openCell(grid, row, column);
+        ASSERT_NE(editor, nullptr);
+        editor->clear();
+        QTest::keyClicks(editor, QString::fromLatin1(keys));
+        leave(editor);
+    }
+    static void leave(QLineEdit* editor)
+    {
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    [[nodiscard]] std::string lagerPrice() const
+    {
+        return rows("select PRICE1 from PLUDATA where DESCRIPTION = 'Lager'");
+    }
+};
+
+TEST_F(GridTest, ReadsALongTableAsTheUserScrolls)
+{
+    const Form form = openGrid();
+    auto* const grid = control<GridControl>(form, "gridcontrol_0");
+    EXPECT_EQ(grid->columnWidth(0), 200);
+    EXPECT_TRUE(grid->isColumnHidden(1));
+    EXPECT_EQ(grid->model()->headerData(2, Qt::Horizontal), u"Price"_s);
+    EXPECT_EQ(grid->model()->headerData(3, Qt::Horizontal), u"GROUPNO"_s);
+    EXPECT_EQ(grid->model()->index(0, 2).data(), u"2.50"_s);
+    EXPECT_FALSE(grid->model()->index(0, 0).flags().testFlag(Qt::ItemIsEditable));
+    EXPECT_EQ(grid->viewport()->height() % grid->rowHeight(0), 0) << "whole rows only";
+    EXPECT_LT(grid->model()->rowCount(), 502) << "a long table is read as the user scrolls";
+    while (grid->model()->rowCount() < 502) {
+        const int before = grid->model()->rowCount();
+        grid->scrollToBottom();
+        QCoreApplication::processEvents();
+        ASSERT_GT(grid->model()->rowCount(), before);
+    }
+    enter(*grid, 501, 2, "7");
+    EXPECT_EQ(rows("select PLUNUMBER from PLUDATA where PRICE1 = '7'"), "000000000000000699");
+}
+
+TEST_F(GridTest, CellsAreStoredAtOnce)
+{
+    const std::tuple<int, const char*, const char*, const char*> cases[] = {
+        {2, "3.9", "3.9", "3.90"},
+        {2, "4,05", "4.05", "4.05"},
+        {2, "0007", "7", "7.00"},
+        {2, ".5", "0.5", "0.50"},
+        {2, "999999.99", "999999.99", "999999.99"},
+        {2, "", "0", "0.00"},
+        {3, "12", "12", "12"},
+        {3, "", "null", ""}};
+    const Form form = openGrid();
+    auto* const grid = control<GridControl>(form, "gridcontrol_0");
+    for (const auto& [column, keys, stored, shown] : cases) {
+        enter(*grid, 0, column, keys);
+        EXPECT_EQ(rows(column == 2 ? "select PRICE1 from PLUDATA where DESCRIPTION = 'Lager'"
+                                   : "select GROUPNO from PLUDATA where DESCRIPTION = 'Lager'"),
+                  stored);
+        EXPECT_EQ(grid->model()->index(0, column).data().toString().toStdString(), shown);
+    }
+    EXPECT_TRUE(m_boxes.shown.empty());
+    execute("update PLUDATA set PRICE1 = '1.255'");
+    EXPECT_EQ(control<GridControl>(openGrid(), "gridcontrol_0")->model()->index(0, 2).data(), u"1.255"_s)
+        << "what is seen is what is stored";
+}
+
+TEST_F(GridTest, WhatNoRegisterHoldsIsRejectedAndTheCellKeepsItsPrice)
+{
+    const Form form = openGrid();
+    auto* const grid = control<GridControl>(form, "gridcontrol_0");
+    for (const char* keys : {"x1", "-5", "1e5", "123456789012345", "1000000", "1.005", "1.2.3", " "}) {
+        enter(*grid, 0, 2, keys);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !m_boxes.shown.empty(); })) << keys;
+        EXPECT_EQ(takeBox(), invalidEntry) << keys;
+        auto* const editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_NE(editor, nullptr);
+        EXPECT_TRUE(grid->isAncestorOf(editor));
+        EXPECT_EQ(editor->text(), QString()) << "emptied for the next try";
+        leave(editor);
+        EXPECT_EQ(lagerPrice(), "2.5") << "left without another try";
+    }
+}
+
+TEST_F(GridTest, FindsRowsByNumberOrText)
+{
+    const Form form = openGrid();
+    auto* const grid = control<GridControl>(form, "gridcontrol_0");
+    const auto found = [&] {
+        return grid->currentIndex().siblingAtColumn(0).data().toString().right(3).toStdString();
+    };
+    type(form, "GridFind", "CLAR");
+    EXPECT_EQ(found(), "123");
+    type(form, "GridFind", "69");
+    EXPECT_EQ(found(), "269");
+    EXPECT_TRUE(grid->viewport()->rect().contains(grid->visualRect(grid->currentIndex())));
+    for (const char* next : {"369", "469", "569", "669", "690", "691"}) {
+        QTest::keyClick(control(form, "GridFind"), Qt::Key_Return);
+        EXPECT_EQ(found(), next);
+    }
+    type(form, "GridFind", "699");
+    QTest::keyClick(control(form, "GridFind"), Qt::Key_Return);
+    EXPECT_EQ(found(), "699") << "the only one, again";
+    type(form, "GridFind", "clart");
+    EXPECT_EQ(found(), "123") << "stays where the last match was";
+    EXPECT_EQ(control<QLabel>(form, "GridFindOutcome")->text(), u"No such row"_s);
+}
+
+} // namespace
+} // namespace norvane::screens

@@ -1,0 +1,117 @@
+// The list beside a screen: keys and clicks in, rows of the list and the record on the screen out.
+#include "tests/screens/ScreenFixture.h"
+
+#include <QLabel>
+#include <QTableView>
+
+namespace norvane::screens
+{
+namespace
+{
+
+using namespace Qt::Literals::StringLiterals;
+
+class RecordListTest : public test::ScreenFixture
+{
+protected:
+    RecordListTest()
+    {
+        execute("insert into PLUDATA values ('000000000000001123', 'Cider', '2', 1)");
+        execute("insert into PLUDATA values ('000000000000005000', 'crème 12', '2', 1)");
+        screen("[Database]\ntable=PLUDATA\nIndex1=plunumber\n[FormName]\nWidth=9000\nHeight=4500\n"
+               "[visiblekeys]\nShownextrecord=YES\nShowAddrecord=YES\nShowdeleterecord=YES\n"
+               "[Field1]\nControlType=TextControl\nVisible=True\nDatafield=PLUNUMBER\n"
+               "[Field2]\nControlType=TextControl\nVisible=True\nDatafield=Description\nY=600\n");
+    }
+
+    static void toggleList(const Form& form)
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_L, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+        ASSERT_TRUE(control(form, "ListFilter")->isVisible());
+    }
+    /// What stands in the list: "number text", the record of the screen with a star.
+    static std::string listed(const Form& form)
+    {
+        QStringList rows;
+        const QAbstractItemModel& model = *control<QTableView>(form, "ListTable")->model();
+        for (int row = 0; row < model.rowCount(); ++row) {
+            rows += model.index(row, 0).data().toString() + u' ' + model.index(row, 1).data().toString() +
+                    (model.index(row, 0).data(Qt::UserRole).toBool() ? u"*"_s : QString());
+        }
+        return rows.join(u'|').toStdString();
+    }
+    static void choose(const Form& form, int row)
+    {
+        auto* const table = control<QTableView>(form, "ListTable");
+        const QPoint place = table->visualRect(table->model()->index(row, 1)).center();
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, place);
+    }
+};
+
+TEST_F(RecordListTest, FiltersByAnyPartOfNumberOrTextAndGoesToTheChosenRecord)
+{
+    const Form form = open();
+    toggleList(form);
+    EXPECT_EQ(QApplication::focusWidget(), control(form, "ListFilter"));
+    EXPECT_EQ(listed(form), "5 Lager*|123 Claret|1123 Cider|5000 crème 12");
+    const std::pair<const char*, const char*> cases[] = {
+        {"123", "123 Claret|1123 Cider"},
+        {"12", "123 Claret|1123 Cider|5000 crème 12"},
+        {"CRÈ", "5000 crème 12"},
+        {"r", "5 Lager*|123 Claret|1123 Cider|5000 crème 12"},
+        {"3C", ""}};
+    for (const auto& [part, rows] : cases) {
+        type(form, "ListFilter", part);
+        EXPECT_EQ(listed(form), rows) << part;
+    }
+    EXPECT_EQ(control<QLabel>(form, "ListCount")->text(), u"0 of 4"_s);
+    type(form, "ListFilter", "123");
+    choose(form, 1);
+    EXPECT_EQ(text(form, "TextControl_2"), "Cider");
+    EXPECT_EQ(listed(form), "123 Claret|1123 Cider*");
+    type(form, "ListFilter", "cl");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(text(form, "TextControl_2"), "Claret");
+    press(form, "NextRecord");
+    EXPECT_EQ(text(form, "TextControl_2"), "Cider") << "moves go on from there";
+}
+
+TEST_F(RecordListTest, FollowsTheScreenAndTheTable)
+{
+    const Form form = open();
+    toggleList(form);
+    press(form, "NextRecord");
+    EXPECT_EQ(listed(form), "5 Lager|123 Claret*|1123 Cider|5000 crème 12");
+    type(form, "TextControl_2", "Port");
+    choose(form, 1);
+    EXPECT_EQ(text(form, "TextControl_2"), "Port") << "the record is on the screen already";
+    press(form, "SaveRecord");
+    EXPECT_EQ(listed(form), "5 Lager|123 Port*|1123 Cider|5000 crème 12");
+    m_boxes.answers = {true};
+    press(form, "DeleteRecord");
+    EXPECT_EQ(listed(form), "5 Lager*|1123 Cider|5000 crème 12");
+    execute("delete * from PLUDATA where PLUNUMBER = '000000000000001123'");
+    control(form, "ListFilter")->setFocus();
+    EXPECT_EQ(listed(form), "5 Lager*|5000 crème 12");
+    press(form, "AddRecord");
+    EXPECT_EQ(listed(form), "5 Lager|5000 crème 12") << "none of them is on the screen";
+}
+
+TEST_F(RecordListTest, StandsBesideScreensThatWalkSeveralRecordsOnly)
+{
+    Form form = open();
+    EXPECT_FALSE(control(form, "ListFilter")->isVisible()) << "at first";
+    const int width = form->width();
+    press(form, "ListHandle");
+    EXPECT_GT(form->width(), width + 200);
+    EXPECT_TRUE(control(form, "ListFilter")->isVisible());
+    press(form, "ListHandle");
+    EXPECT_EQ(form->width(), width);
+    form =
+        open("[Database]\ntable=GROUPS\nIndex1=groupno\n[Field1]\nControlType=TextControl\nVisible=True\n");
+    EXPECT_EQ(form->findChild<QWidget*>(u"RecordList"_s), nullptr);
+}
+
+} // namespace
+} // namespace norvane::screens
