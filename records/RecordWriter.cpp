@@ -143,10 +143,11 @@ RecordWriter::Step RecordWriter::stepOf(const Column& column)
 {
     Step step{&column, 0, 0, {}};
     const auto look = [&]<typename Form>(const Form& form) {
-        if constexpr (std::is_same_v<Form, OptionsColumn>)
+        if constexpr (std::is_same_v<Form, OptionsColumn>) {
             addDigits(step, form);
-        else if constexpr (!std::is_same_v<Form, SpareColumn>)
+        } else if constexpr (!std::is_same_v<Form, SpareColumn>) {
             step.ordinal = ordinalOf(form.field);
+        }
         if constexpr (std::is_same_v<Form, LeftBoundColumn>)
             step.kindOrdinal = ordinalOf(form.kindField);
     };
@@ -198,10 +199,11 @@ void RecordWriter::append(std::string& out, const CodeColumn& column, const Step
     const ValueText text(value);
     const auto word = std::find_if(column.words.begin(), column.words.end(),
                                    [&](const CodeWord& known) { return known.stored == text.view(); });
-    if (word != column.words.end())
+    if (word != column.words.end()) {
         out += word->sent;
-    else
+    } else {
         appendNumber(out, value, column.width);
+    }
 }
 
 void RecordWriter::append(std::string& out, const LeftBoundColumn& column, const Step& step) const

@@ -110,10 +110,11 @@ Sent sentBy(const records::Column& column)
         Sent sent;
         if constexpr (requires { form.field; })
             sent.field = form.field;
-        if constexpr (std::is_same_v<Form, records::MessageColumn>)
+        if constexpr (std::is_same_v<Form, records::MessageColumn>) {
             sent.width = widestMessage;
-        else if constexpr (requires { form.width; } && !std::is_same_v<Form, records::HexByteColumn>)
+        } else if constexpr (requires { form.width; } && !std::is_same_v<Form, records::HexByteColumn>) {
             sent.width = form.width;
+        }
         if constexpr (requires { form.scale; })
             sent.scale = form.scale;
         return sent;

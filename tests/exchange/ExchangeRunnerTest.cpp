@@ -155,10 +155,11 @@ void expectCopies(const Exchange& shop)
     std::set<int> comesBack;
     std::set<int> onlyStays;
     for (const DownloadRow& row : downloadPlan()) {
-        if (readWholeFile(shop.made(row.file)) == "older")
+        if (readWholeFile(shop.made(row.file)) == "older") {
             comesBack.insert(row.file);
-        else if (readWholeFile(shop.kept(row.file)) == "older")
+        } else if (readWholeFile(shop.kept(row.file)) == "older") {
             onlyStays.insert(row.file);
+        }
     }
     EXPECT_EQ(comesBack, (std::set<int>{15, 16, 17, 29, 32, 33, 34, 64, 71, 85, 86}));
     EXPECT_EQ(onlyStays, std::set<int>{58});

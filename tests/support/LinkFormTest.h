@@ -57,9 +57,10 @@ protected:
     /// Puts the modem at the far end of the line and makes it the customer's connection.
     void useModem()
     {
-        for (const auto& [key, value] : {std::pair("Connectiontype", "1"), {"ModemDelay", "30"}})
+        for (const auto& [key, value] : {std::pair("Connectiontype", "1"), {"ModemDelay", "30"}}) {
             ProfileFile::write(settingsPath(values), u"SetupOption"_s, QLatin1String(key),
                                QLatin1String(value));
+        }
         form.setSerialLine(makeSerialLine({far.device()}));
         auto quick = std::make_unique<QuickClock>(far);
         clock = quick.get();
