@@ -46,7 +46,7 @@ void appendZeroFilled(std::basic_string<Char>& out, std::type_identity_t<std::ba
 {
     text = trimBlanks(text);
     const auto kept = std::min(text.size(), width);
-    out.append(width - kept, '0').append(text.substr(text.size() - kept));
+    out.append(width - kept, '0').append(text, text.size() - kept, kept);
 }
 
 /// Appends the trimmed @p text brought to @p width characters: blanks on the right, the leftmost kept.

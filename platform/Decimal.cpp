@@ -4,6 +4,7 @@
 #include "platform/NumberScan.h"
 #include "platform/RuntimeFailure.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -60,6 +61,17 @@ std::string_view significant(std::string_view digits, int& scale)
     return digits;
 }
 
+/// @return false at a character that is no digit.
+bool addDigits(std::int64_t& coefficient, std::string_view digits)
+{
+    for (const char digit : digits) {
+        if (digit < '0' || digit > '9')
+            return false;
+        coefficient = coefficient * 10 + (digit - '0');
+    }
+    return true;
+}
+
 Decimal fromScanned(const ScannedNumber& number)
 {
     int scale = number.scale;
@@ -67,23 +79,40 @@ Decimal fromScanned(const ScannedNumber& number)
     if (digits.size() > mostDigits)
         failOverflow();
     std::int64_t coefficient = 0;
-    for (const char digit : digits)
-        coefficient = coefficient * 10 + (digit - '0');
+    addDigits(coefficient, digits);
     if (number.negative)
         coefficient = -coefficient;
     return Decimal(coefficient, scale).shifted(0);
+}
+
+/// Nearly every price is spelled so: digits, with a point at most. @return nothing for any other spelling.
+std::optional<Decimal> plainDecimal(std::string_view text)
+{
+    const auto whole = text.substr(0, text.find('.'));
+    const auto fraction = text.substr(std::min(whole.size() + 1, text.size()));
+    const auto digits = whole.size() + fraction.size();
+    if (digits == 0 || digits > mostDigits)
+        return std::nullopt;
+    std::int64_t coefficient = 0;
+    if (!addDigits(coefficient, whole) || !addDigits(coefficient, fraction))
+        return std::nullopt;
+    return Decimal(coefficient, coefficient == 0 ? 0 : static_cast<int>(fraction.size()));
 }
 
 } // namespace
 
 std::optional<Decimal> Decimal::parse(std::string_view text)
 {
+    if (const auto plain = plainDecimal(text))
+        return plain;
     const auto number = scanWholeNumber(text);
     return number ? std::optional(fromScanned(*number)) : std::nullopt;
 }
 
 Decimal Decimal::leading(std::string_view text)
 {
+    if (const auto plain = plainDecimal(text))
+        return *plain;
     const auto number = scanLeadingNumber(text);
     return number ? fromScanned(*number) : Decimal();
 }

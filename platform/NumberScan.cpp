@@ -2,18 +2,24 @@
 #include "platform/NumberScan.h"
 
 #include <algorithm>
+#include <charconv>
+#include <iterator>
 
 namespace norvane
 {
 namespace
 {
 
-constexpr std::string_view passedOver = " \t\n";
 constexpr std::string_view whiteSpace = " \t\r\n";
 
 bool isDigit(char c)
 {
     return c >= '0' && c <= '9';
+}
+
+bool isPassedOver(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n';
 }
 
 class Scanner
@@ -49,8 +55,10 @@ private:
 
     void takeDigits(std::string& digits)
     {
-        for (; isDigit(peek()); ++m_at)
-            digits.push_back(peek());
+        const auto rest = m_text.substr(m_at);
+        const auto end = std::find_if_not(rest.begin(), rest.end(), isDigit);
+        digits.append(rest.begin(), end);
+        m_at += static_cast<std::size_t>(end - rest.begin());
     }
 
     int exponent()
@@ -91,12 +99,44 @@ std::optional<ScannedNumber> scanWholeNumber(std::string_view text)
 
 std::optional<ScannedNumber> scanLeadingNumber(std::string_view text)
 {
-    if (text.find_first_of(passedOver) == std::string_view::npos)
+    if (std::none_of(text.begin(), text.end(), isPassedOver))
         return scanNumber(text);
     std::string closed;
-    std::copy_if(text.begin(), text.end(), std::back_inserter(closed),
-                 [](char c) { return passedOver.find(c) == std::string_view::npos; });
+    std::remove_copy_if(text.begin(), text.end(), std::back_inserter(closed), isPassedOver);
     return scanNumber(closed);
+}
+
+std::optional<double> toDouble(const ScannedNumber& number)
+{
+    const std::string plain = number.digits + 'e' + std::to_string(-number.scale);
+    double value = 0;
+    const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
+    // Both ends of the range give the same error.
+    const bool hasWholePart = static_cast<int>(number.digits.size()) > number.scale;
+    if (result.ec == std::errc::result_out_of_range && hasWholePart)
+        return std::nullopt;
+    return number.negative ? -value : value;
+}
+
+std::optional<std::int64_t> plainWhole(std::string_view text)
+{
+    std::int64_t number = 0;
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
+}
+
+std::optional<double> plainNumber(std::string_view text)
+{
+    if (const auto whole = plainWhole(text))
+        return static_cast<double>(*whole);
+    // "nan" and "5." are no numbers here.
+    if (text.empty() || !(isDigit(text.front()) || text.front() == '-') || !isDigit(text.back()))
+        return std::nullopt;
+    double number = 0;
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
+    return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
 }
 
 } // namespace norvane

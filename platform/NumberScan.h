@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,5 +32,16 @@ inline constexpr int exponentLimit = 9999;
 /// The number that @p text begins with when its blanks, tabs and line feeds are passed over wherever they
 /// stand.
 [[nodiscard]] std::optional<ScannedNumber> scanLeadingNumber(std::string_view text);
+
+/// The double next to a scanned number; one too small to hold is 0. @return nothing when it is too large.
+[[nodiscard]] std::optional<double> toDouble(const ScannedNumber& number);
+
+/// The whole number that @p text spells with digits and at most a minus in front. Nearly all numbers are
+/// spelled so, and bulk work reads them without a scan.
+/// @return nothing for any other spelling and for a number of more than 64 bits.
+[[nodiscard]] std::optional<std::int64_t> plainWhole(std::string_view text);
+
+/// The same with a point between the digits allowed.
+[[nodiscard]] std::optional<double> plainNumber(std::string_view text);
 
 } // namespace norvane

@@ -37,14 +37,10 @@ std::string bytesOf(QStringView text)
 
 double toDouble(const ScannedNumber& number, QStringView text)
 {
-    const std::string plain = number.digits + 'e' + std::to_string(-number.scale);
-    double value = 0;
-    const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    // Too small to hold is 0; only too large is a failure.
-    const bool hasWholePart = static_cast<int>(number.digits.size()) > number.scale;
-    if (result.ec == std::errc::result_out_of_range && hasWholePart)
+    const auto value = toDouble(number);
+    if (!value)
         failOverflow(text.toString());
-    return number.negative ? -value : value;
+    return *value;
 }
 
 /// The number's digits before and behind the point, rounded half away from zero.

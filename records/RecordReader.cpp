@@ -5,11 +5,11 @@
 #include "base/FieldText.h"
 #include "base/SharedRoutines.h"
 #include "platform/Decimal.h"
+#include "platform/NumberScan.h"
 #include "platform/RuntimeFailure.h"
 #include "records/RecordText.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <type_traits>
 
@@ -23,17 +23,6 @@ using store::Value;
 
 /// Any number this short fits a Long.
 constexpr std::size_t shortNumber = 9;
-/// Any number this short fits a Decimal.
-constexpr std::size_t longestCoefficient = 18;
-
-/// The number that @p text consists of. @return nothing when it is not digits alone or too long for it.
-std::optional<std::int64_t> plainNumber(std::string_view text, std::size_t mostDigits)
-{
-    std::int64_t number = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool whole = result.ec == std::errc() && result.ptr == text.data() + text.size();
-    return whole && text.size() <= mostDigits && text.front() != '-' ? std::optional(number) : std::nullopt;
-}
 
 bool holdsNumbers(FieldType type)
 {
@@ -44,10 +33,9 @@ Value numberValue(FieldType type, std::string_view text)
 {
     if (type != FieldType::Text && trimBlanks(text).empty())
         return {};
-    if (holdsNumbers(type)) {
-        if (const auto number = plainNumber(text, shortNumber))
-            return Value::whole(*number);
-    }
+    const bool fits = holdsNumbers(type) && text.size() <= shortNumber;
+    if (const auto number = fits ? plainWhole(text) : std::nullopt)
+        return Value::whole(*number);
     return Value::text(plainFromRegister(text));
 }
 
@@ -69,11 +57,10 @@ Value scaledValue(FieldType type, std::string_view text, const ScaledColumn& col
         return exactValue(type, Decimal::leading(text).shifted(-column.scale));
     if (trimBlanks(text).empty())
         return {};
-    const auto whole = plainNumber(text, longestCoefficient);
-    const auto parsed = whole ? std::optional(Decimal(*whole, 0)) : Decimal::parse(text);
-    if (!parsed)
+    const auto number = Decimal::parse(text);
+    if (!number)
         failNoNumber(text);
-    return exactValue(type, parsed->shifted(-column.scale));
+    return exactValue(type, number->shifted(-column.scale));
 }
 
 /// @p utf8 cut to @p characters.
@@ -281,7 +268,7 @@ void RecordReader::storeDigit(const Digit& digit, int value, std::string_view co
     }
 }
 
-void RecordReader::set(const Target& target, Value value)
+void RecordReader::set(const Target& target, Value&& value)
 {
     m_records.setValue(target.ordinal, std::move(value));
 }

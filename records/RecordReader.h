@@ -66,7 +66,7 @@ private:
     void store(const PieceColumn& column, const Step& step, std::string_view text);
     void store(const SpareColumn& column, const Step& step, std::string_view text);
     void storeDigit(const Digit& digit, int value, std::string_view column);
-    void set(const Target& target, store::Value value);
+    void set(const Target& target, store::Value&& value);
 
     const RecordLayout& m_layout;
     store::Recordset& m_records;

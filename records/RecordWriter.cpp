@@ -10,6 +10,7 @@
 #include <array>
 #include <charconv>
 #include <cstdlib>
+#include <span>
 #include <type_traits>
 
 using namespace Qt::Literals::StringLiterals;
@@ -27,23 +28,18 @@ constexpr std::size_t pieceWidth = 2;
 /// Firmware that does not get some texts.
 constexpr int withholdingGeneration = 3;
 
-/// A field's value as text without a copy where the value has one already; lives as long as the value.
+/// A field's value as text, without a copy where the value is a text. Lives as long as the value.
 class ValueText
 {
 public:
     explicit ValueText(const Value& value)
     {
-        if (value.isText()) {
+        if (value.isText())
             m_view = value.textView();
-        } else if (value.isYesNo()) {
+        else if (value.isYesNo())
             m_view = value.isTrue() ? "1" : "0";
-        } else if (const auto* whole = std::get_if<std::int64_t>(&value.data())) {
-            const auto end = std::to_chars(m_digits.data(), m_digits.data() + m_digits.size(), *whole).ptr;
-            m_view = {m_digits.data(), static_cast<std::size_t>(end - m_digits.data())};
-        } else if (!value.isNull()) {
-            m_own = value.toUtf8();
-            m_view = m_own;
-        }
+        else
+            m_view = m_own = value.toUtf8();
     }
     ValueText(const ValueText&) = delete;
     ValueText& operator=(const ValueText&) = delete;
@@ -51,7 +47,6 @@ public:
     [[nodiscard]] std::string_view view() const { return m_view; }
 
 private:
-    std::array<char, 24> m_digits{};
     std::string m_own;
     std::string_view m_view;
 };
@@ -82,9 +77,21 @@ private:
     std::string_view m_view;
 };
 
+void appendWhole(std::string& out, std::int64_t number, std::size_t width)
+{
+    std::array<char, 20> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    appendZeroFilled(out, {digits.data(), end}, width);
+}
+
 void appendNumber(std::string& out, const Value& value, std::size_t width)
 {
-    appendZeroFilled(out, RegisterText(ValueText(value).view()).view(), width);
+    if (const auto* whole = std::get_if<std::int64_t>(&value.data())) {
+        appendWhole(out, *whole, width);
+        return;
+    }
+    const ValueText text(value);
+    appendZeroFilled(out, RegisterText(text.view()).view(), width);
 }
 
 void appendPlainText(std::string& out, std::string_view utf8, std::size_t width)
@@ -94,9 +101,10 @@ void appendPlainText(std::string& out, std::string_view utf8, std::size_t width)
 
 void appendText(std::string& out, std::string_view utf8, std::size_t width)
 {
-    std::string bytes;
-    appendWindows1252FromUtf8(bytes, utf8);
-    appendBlankFilled(out, UnescapeDelimiter(bytes), width);
+    const auto start = out.size();
+    appendPlainText(out, utf8, width);
+    std::span<char> field(out.data() + start, width);
+    UnescapeDelimiter(field);
 }
 
 bool isWritten(const Column& column)
@@ -190,7 +198,7 @@ void RecordWriter::append(std::string& out, const ScaledColumn& column, const St
 {
     const ValueText text(m_records.value(step.ordinal));
     const auto number = Decimal::leading(text.view()).shifted(column.scale).toWhole();
-    appendZeroFilled(out, std::to_string(number), column.width);
+    appendWhole(out, number, column.width);
 }
 
 void RecordWriter::append(std::string& out, const CodeColumn& column, const Step& step) const
@@ -263,7 +271,7 @@ void RecordWriter::append(std::string& out, const HexByteColumn& column, const S
     const auto pair = digits.view().substr(start, 2);
     unsigned byte = 0;
     std::from_chars(pair.data(), pair.data() + pair.size(), byte, 16);
-    appendZeroFilled(out, std::to_string(byte), column.width);
+    appendWhole(out, byte, column.width);
 }
 
 void RecordWriter::append(std::string& out, const PieceColumn& column, const Step& step) const

@@ -5,6 +5,7 @@
 #include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
 #include "platform/Numbers.h"
+#include "platform/NumberScan.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/TextValues.h"
 #include "records/RecordText.h"
@@ -15,7 +16,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <string>
 
 using namespace Qt::Literals::StringLiterals;
@@ -83,30 +83,10 @@ QString shown(std::string_view text)
     throw RuntimeFailure(Failure::TypeMismatch, u"Type mismatch: \"%1\" is no number"_s.arg(shown(text)));
 }
 
-/// Reads digits without a point. Most values of a report are counts, and a whole number is read much faster.
-bool readWhole(std::string_view text, double& number)
-{
-    std::int64_t whole = 0;
-    const char* const end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, whole);
-    number = static_cast<double>(whole);
-    return result.ec == std::errc() && result.ptr == end;
-}
-
-/// Reads digits with a point between them.
-bool readFraction(std::string_view text, double& number)
-{
-    const char* const end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
-    const char last = text.empty() ? ' ' : text.back();
-    return result.ec == std::errc() && result.ptr == end && last >= '0' && last <= '9';
-}
-
 double numberOf(std::string_view text)
 {
-    double number = 0;
-    if (readWhole(text, number) || readFraction(text, number))
-        return number;
+    if (const auto plain = plainNumber(text))
+        return *plain;
     const QString spelled = QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
     try {
         return toNumber(spelled);

@@ -7,7 +7,6 @@
 #include "platform/TextFields.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -52,31 +51,11 @@ bool isDigits(std::string_view text)
     return !text.empty() && text.find_first_not_of(digitSigns) == std::string_view::npos;
 }
 
-/// Reads the whole of a plain text such as "12" or "-3"; nothing for any other spelling.
-std::optional<std::int64_t> plainWhole(std::string_view text)
-{
-    std::int64_t number = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (text.empty() || result.ec != std::errc() || result.ptr != text.data() + text.size())
-        return std::nullopt;
-    return number;
-}
-
 /// The number that is the whole text, in any spelling; nothing when it is none or too large.
 std::optional<double> wholeTextNumber(std::string_view text)
 {
     const auto scanned = scanWholeNumber(text);
-    if (!scanned)
-        return std::nullopt;
-    const std::string plain =
-        (scanned->negative ? "-" : "") + scanned->digits + 'e' + std::to_string(-scanned->scale);
-    double number = 0;
-    const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), number);
-    if (result.ec == std::errc::result_out_of_range) {
-        const bool tiny = static_cast<int>(scanned->digits.size()) <= scanned->scale;
-        return tiny ? std::optional(0.0) : std::nullopt;
-    }
-    return number;
+    return scanned ? norvane::toDouble(*scanned) : std::nullopt;
 }
 
 /// The number that a value stands for; nothing for null, dates and texts that are no numbers.

@@ -2,9 +2,8 @@
 #include "store/Value.h"
 
 #include "platform/Numbers.h"
+#include "platform/NumberScan.h"
 #include "store/FieldConversion.h"
-
-#include <charconv>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,20 +19,10 @@ struct Overloaded : Ts... {
 template <class... Ts>
 Overloaded(Ts...) -> Overloaded<Ts...>;
 
-/// The plain spelling that nearly every stored number has; anything else takes the longer way.
-bool readPlainNumber(std::string_view text, double& number)
-{
-    if (text.empty() || !(text.front() == '-' || (text.front() >= '0' && text.front() <= '9')))
-        return false;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    return result.ec == std::errc() && result.ptr == text.data() + text.size() && text.back() >= '0' &&
-           text.back() <= '9';
-}
-
 double leadingNumberOf(const std::string& text)
 {
-    double number = 0;
-    return readPlainNumber(text, number) ? number : leadingNumber(QString::fromStdString(text));
+    const auto plain = plainNumber(text);
+    return plain ? *plain : leadingNumber(QString::fromStdString(text));
 }
 
 } // namespace

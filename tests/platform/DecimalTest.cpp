@@ -17,7 +17,7 @@ TEST(Decimal, TextsComeBackPlain)
     const std::pair<const char*, const char*> rows[] = {
         // clang-format off
         {"-12.340", "-12.34"}, {" 5 ", "5"}, {"-0", "0"}, {"00012", "12"}, {".5", "0.5"}, {"1e3", "1000"},
-        {"25E-4", "0.0025"}, {"100", "100"}, {"0.000", "0"}, {"999999999999999999", "999999999999999999"},
+        {"25E-4", "0.0025"}, {"100", "100"}, {"0.000", "0"}, {"5.", "5"}, {"999999999999999999", "999999999999999999"},
         {"0.000000000000000001", "0.000000000000000001"}, {"1.50000000000000000000000", "1.5"},
         // clang-format on
     };
@@ -26,7 +26,7 @@ TEST(Decimal, TextsComeBackPlain)
         ASSERT_TRUE(number) << text;
         EXPECT_EQ(number->text(), plain) << text;
     }
-    for (const char* text : {"", " ", "12abc", "1 2", ".", "1,5"}) {
+    for (const char* text : {"", " ", "12abc", "1 2", ".", "1,5", "1.2.3"}) {
         EXPECT_FALSE(Decimal::parse(text)) << text;
     }
 }
