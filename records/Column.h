@@ -145,7 +145,7 @@ struct PieceColumn {
     std::string field;
     std::string pattern; ///< to which the number is brought
     int place = 0;       ///< in the number, from its end when negative
-    std::string point{};   ///< stands before this piece when the pieces are joined
+    std::string point{}; ///< stands before this piece when the pieces are joined
 
     /// Joined with @p between in front.
     [[nodiscard]] PieceColumn joinedBy(const char* between) const;

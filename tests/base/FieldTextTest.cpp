@@ -17,12 +17,8 @@ TEST(FieldTextTest, TextsAreBroughtToTheFormOfRecords)
         int width;
         int mode;
         const char16_t* field;
-    } rows[] = {{u" 12 "_s, 4, 0, u"0012"},
-                {u"123456"_s, 4, 0, u"3456"},
-                {{}, 3, 0, u"000"},
-                {u"  ab "_s, 4, 1, u"ab  "},
-                {u"123456"_s, 4, 1, u"1234"},
-                {u"ab"_s, 5, 2, u"  ab "},
+    } rows[] = {{u" 12 "_s, 4, 0, u"0012"},  {u"123456"_s, 4, 0, u"3456"}, {{}, 3, 0, u"000"},
+                {u"  ab "_s, 4, 1, u"ab  "}, {u"123456"_s, 4, 1, u"1234"}, {u"ab"_s, 5, 2, u"  ab "},
                 {u"ab"_s, 7, 99, u"  ab   "}};
     for (auto [value, width, mode, field] : rows) {
         EXPECT_EQ(JustifyField(value, width, mode), field);
