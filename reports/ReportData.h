@@ -1,0 +1,106 @@
+// What a report holds once its query has run: a heading, columns, lines and pictures. Preview, paper and
+// files are all made from it, so that they show the same figures.
+#pragma once
+
+#include "paper/Length.h"
+#include "platform/Decimal.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QString>
+
+#include <variant>
+#include <vector>
+
+namespace norvane::reports
+{
+
+enum class Alignment { Left, Centre, Right };
+enum class ColumnKind { Text, Number, Date };
+
+/// A column of the report, and how its values are shown.
+struct ReportColumn {
+    QString heading;
+    paper::Length width;
+    Alignment alignment = Alignment::Left;
+    ColumnKind kind = ColumnKind::Text;
+    int leastDecimals = 0; ///< places that are always shown
+    int mostDecimals = 0;  ///< further places are rounded off, halves away from zero
+};
+
+/// A cell as it is stored, never rounded: nothing, a text, a number or a day.
+using Cell = std::variant<std::monostate, QString, Decimal, QDate>;
+
+enum class LineKind {
+    GroupHeading, ///< its text stands in the first cell and runs over the whole line
+    Detail,
+    Subtotal,  ///< of the group that ends here; its label stands in the first text column
+    GrandTotal ///< likewise, at the end of the report
+};
+
+/// What stands above the lines and around them on every page.
+struct ReportHeading {
+    QString title;       ///< on the pages
+    QString windowTitle; ///< of the preview
+    QString subtitle;    ///< the period in words and dates, or which other table the selection names
+    QString customer;
+    QDateTime printed;
+    QString notice; ///< stands in place of the lines when the period holds none
+};
+
+struct PageSetup {
+    bool isLandscape = false; ///< of a sheet of A4
+};
+
+enum class ChartKind {
+    Ranking, ///< lying bars, the longest first
+    Course,  ///< standing bars over days or hours, in their order
+    Shares   ///< parts of a whole
+};
+
+struct ChartPoint {
+    QString label;
+    Decimal value;
+};
+
+/// A picture beside the lines.
+struct Chart {
+    ChartKind kind = ChartKind::Ranking;
+    QString title;
+    int decimals = 2; ///< of the values as shown
+    std::vector<ChartPoint> points;
+};
+
+/// A report over its rows. Lines are added in their order; a cell is reached by line and column from 0.
+class ReportData
+{
+public:
+    ReportHeading heading;
+    PageSetup page;
+    std::vector<Chart> charts;
+
+    explicit ReportData(std::vector<ReportColumn> columns = {}) : m_columns(std::move(columns)) {}
+
+    [[nodiscard]] const std::vector<ReportColumn>& columns() const { return m_columns; }
+    [[nodiscard]] int columnCount() const { return static_cast<int>(m_columns.size()); }
+
+    /// Adds a line; @p cells beyond the columns are an error of the caller, missing ones stay empty.
+    void addLine(LineKind kind, std::vector<Cell> cells);
+    [[nodiscard]] qsizetype lineCount() const { return static_cast<qsizetype>(m_kinds.size()); }
+    [[nodiscard]] LineKind lineKind(qsizetype line) const;
+    [[nodiscard]] Cell cell(qsizetype line, int column) const;
+    /// The cell as preview, paper and clipboard show it: numbers rounded to the column's places, with the
+    /// decimal sign of the user's locale, dates in the locale's short form.
+    [[nodiscard]] QString text(qsizetype line, int column) const;
+
+private:
+    std::vector<ReportColumn> m_columns;
+    std::vector<LineKind> m_kinds;
+    std::vector<Cell> m_cells;
+};
+
+/// A number with between @p leastDecimals and @p mostDecimals places, rounded in decimal, halves away from
+/// zero, with the sign of the user's locale and without thousands separators.
+[[nodiscard]] QString shownNumber(const Decimal& number, int leastDecimals, int mostDecimals);
+
+} // namespace norvane::reports
