@@ -1,12 +1,12 @@
 // Holds every screen file that is installed against the table catalogue, against the columns of the register
 // files and against the form that it makes.
 #include "paper/Length.h"
-#include "records/RegisterFiles.h"
 #include "screens/FieldPanel.h"
 #include "screens/OptionForm.h"
 #include "screens/ScreenReader.h"
 #include "store/Catalogue.h"
 #include "store/Recordset.h"
+#include "tests/data/FieldRules.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/support/RecordingBoxes.h"
 #include "ui/Appearance.h"
@@ -32,118 +32,6 @@ using namespace Qt::Literals::StringLiterals;
 using store::FieldDefinition;
 using store::FieldType;
 using store::TableDefinition;
-
-/// Fields that a screen leaves out on purpose: its file ("*" for all over the table), its table, the fields.
-/// A name that ends in "*" stands for all that begin so.
-constexpr const char* leftOut[][3] = {
-    // The grid of euro prices.
-    {"plutble.scn", "PLUDATA",
-     "GROUPNO PLUSTATUS WLUNUMBER PIECECOUNT RECIPENO INactive PRESET OVERRIDE pricechange printNV MIXNMATCH "
-     "PRODUCTMIX STOCKLINK MODIFIER PRICE* POINT*"},
-    {"PLU.scn PLUVelmar*", "PLUDATA", "EuroPrice*"},
-    // The first model has no points and knows no cards; the first two store no images.
-    {"PLUVelmarv2.scn", "PLUDATA", "POINT* printNV"},
-    {"PLUVelmarv2card.scn", "PLUDATA", "printNV"},
-    {"PLUstatVelmarv2.scn PLUstatVelmarvcard.scn", "PLUSTATUS", "LINKEDNVIMAGE"},
-    {"GenFuncVelmarv2.scn", "GENERALFUNCTIONS",
-     "AUDIBLETONEONHOTLIST ALLOWCARDISSUE CHECKCARDBIRTHDAY USESMARTCARDGROUP GELDKARTE REDEEM*"},
-    {"GenPrtOpVelmarv2.scn", "GENERALPRINTOPTION",
-     "PRINTPOINTSACCRUED PRINTCARDHOLDERREF PRINTCATEGORY PRINTDEPARTMENT PRINTLOYALTYBALANCE PRINTDOB "
-     "PRINTCASHBALANCE PRINTMAXBALANCE PRINTNAME PRINTOLDLOYALTY PRINTOLDCASHBALANCE"},
-    {"GenPrtOpVelmarv2.scn GenPrtOpVelmarv2card.scn", "GENERALPRINTOPTION", "prelogoimage* postlogoimage*"},
-    {"EJPRTv2.scn", "EJDETAILPRINT",
-     "EJPOINTPAYMENT EJSUBTRACTPOINT EJADDPOINT EJSUBTRACTVALUE EJREDEEM EJPRINTCARD EJCARDSALE EJHOTLIST "
-     "EJREMOVECARD CONDENSEDPRINT PRINTNEGLINES DISABLEREGDETAIL"},
-    // Reserved by the register.
-    {"*", "TAXRATES", "dummy*"},
-};
-
-/// Fields that an upload may leave empty, which a box for whole numbers cannot show.
-constexpr const char* mayBeEmpty[][2] = {{"PLUDATA", "POINT*"},
-                                         {"PLUSTATUS", "AUTOGRILLNo LINKEDNVIMAGE"},
-                                         {"GENERALPRINTOPTION", "prelogoimage* postlogoimage*"}};
-
-bool isListed(const char* list, const QString& name)
-{
-    const QStringList words = QString::fromLatin1(list).split(u' ');
-    return std::ranges::any_of(words, [&](const QString& word) {
-        return word.endsWith(u'*') ? name.startsWith(word.chopped(1), Qt::CaseInsensitive)
-                                   : name.compare(word, Qt::CaseInsensitive) == 0;
-    });
-}
-
-/// Prices are numbers held as text.
-bool isPrice(const FieldDefinition& field)
-{
-    return isListed("PRICE1 PRICE2 PRICE3 PRICE4 PRICE5 EuroPrice*", field.name);
-}
-
-/// Whether @p control shows and stores what @p field holds.
-bool canHold(const ControlDefinition& control, const FieldDefinition& field)
-{
-    switch (control.kind) {
-    case ControlKind::Check:
-        return field.type == FieldType::YesNo;
-    case ControlKind::Integer:
-    case ControlKind::Combo:
-        return field.type == FieldType::Long;
-    case ControlKind::Decimal:
-        return field.type == FieldType::Long || field.type == FieldType::Double || isPrice(field) ||
-               control.readOnly.value_or(false);
-    default:
-        return (field.type == FieldType::Text && !isPrice(field)) ||
-               (field.type == FieldType::Digits && isListed("NUMERIC", control.characters));
-    }
-}
-
-/// What a column tells of the field that it sends.
-struct Sent {
-    std::string field;
-    std::size_t width = 0; ///< 0 where the width says nothing
-    int scale = 0;
-};
-
-Sent sentBy(const records::Column& column)
-{
-    constexpr std::size_t widestMessage = 40;
-    const auto look = []<typename Form>(const Form& form) {
-        Sent sent;
-        if constexpr (requires { form.field; })
-            sent.field = form.field;
-        if constexpr (std::is_same_v<Form, records::MessageColumn>) {
-            sent.width = widestMessage;
-        } else if constexpr (requires { form.width; } && !std::is_same_v<Form, records::HexByteColumn>) {
-            sent.width = form.width;
-        }
-        if constexpr (requires { form.scale; })
-            sent.scale = form.scale;
-        return sent;
-    };
-    return std::visit(look, column);
-}
-
-/// What Maxvalue of @p control must be for the column of a register file that sends its field: the largest
-/// number, or the most characters. 0 where no column's width says it.
-Decimal largestOf(const ControlDefinition& control, const QString& table)
-{
-    for (const auto& file : records::registerFiles()) {
-        if (!isListed(file.table, table))
-            continue;
-        for (const auto& set : file.layout().sets) {
-            for (const auto& column : set.columns) {
-                const Sent sent = sentBy(column);
-                if (control.dataField.compare(QString::fromStdString(sent.field), Qt::CaseInsensitive) != 0)
-                    continue;
-                if (sent.width == 0 || isListed("ENDTIME", control.dataField)) // a time of the day
-                    return {};
-                if (control.kind == ControlKind::Text)
-                    return {static_cast<std::int64_t>(sent.width), 0};
-                return Decimal::leading(std::string(sent.width, '9')).shifted(-sent.scale);
-            }
-        }
-    }
-    return {};
-}
 
 /// Pixels between a text and the edges of its box.
 constexpr int boxMargins = 8;
@@ -192,7 +80,6 @@ protected:
     void checkField(const ControlDefinition& control, const FieldDefinition& field) const;
     void checkLimit(const ControlDefinition& control, const FieldDefinition& field) const;
     [[nodiscard]] QStringList offeredFields() const;
-    [[nodiscard]] bool isLeftOut(const QString& field) const;
     static void checkPlaces(const QWidget& picture, const QList<QWidget*>& controls);
     static void checkOrder(const QVector<QWidget*>& order);
     static void checkWidth(const QWidget& control);
@@ -250,11 +137,8 @@ void ScreenFile::checkField(const ControlDefinition& control, const FieldDefinit
 {
     if (!canHold(control, field))
         complain(control, u"this kind of control cannot hold the field"_s);
-    for (const auto& [table, fields] : mayBeEmpty) {
-        if (control.kind == ControlKind::Integer && m_table->name == QLatin1String(table) &&
-            isListed(fields, field.name))
-            complain(control, u"may be empty, which a box for whole numbers cannot show"_s);
-    }
+    if (control.kind == ControlKind::Integer && mayBeEmpty(m_table->name, field.name))
+        complain(control, u"may be empty, which a box for whole numbers cannot show"_s);
     const bool isText = control.kind == ControlKind::Text;
     const bool isTyped =
         isText || control.kind == ControlKind::Integer || control.kind == ControlKind::Decimal;
@@ -294,13 +178,6 @@ QStringList ScreenFile::offeredFields() const
     return offered;
 }
 
-bool ScreenFile::isLeftOut(const QString& field) const
-{
-    return std::ranges::any_of(leftOut, [&](const auto& row) {
-        return isListed(row[0], m_name) && isListed(row[1], m_table->name) && isListed(row[2], field);
-    });
-}
-
 TEST_P(ScreenFile, OffersWhatAUserMaySetAndNothingElse)
 {
     const QStringList offered = offeredFields();
@@ -308,7 +185,7 @@ TEST_P(ScreenFile, OffersWhatAUserMaySetAndNothingElse)
         // The number of an option table's only record tells the user nothing.
         const bool isOnlyRecord = field.name == m_table->indexes.first().field && !m_screen.buttons().next;
         const bool isOffered = offered.contains(field.name, Qt::CaseInsensitive);
-        if (isOffered == isLeftOut(field.name) && !isOnlyRecord) {
+        if (isOffered == isLeftOut(m_name, m_table->name, field.name) && !isOnlyRecord) {
             complain(field.name,
                      isOffered ? u"is on the screen though listed as left out"_s : u"is not on the screen"_s);
         }
