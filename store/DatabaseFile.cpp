@@ -2,6 +2,7 @@
 #include "store/DatabaseFile.h"
 
 #include "platform/RuntimeFailure.h"
+#include "store/ExactSum.h"
 #include "store/FieldConversion.h"
 #include "store/Schema.h"
 #include "store/SqliteFailures.h"
@@ -106,6 +107,7 @@ void prepareConnection(SQLite::Database& database, const QString& path)
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_create_collation_v2(connection, digitsCollation, SQLITE_UTF8, nullptr, compareInEngine, nullptr);
+    addExactSum(connection);
     for (const char* sql : settings)
         run(connection, sql, path);
 }

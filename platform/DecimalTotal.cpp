@@ -1,0 +1,187 @@
+// Totals place by place for numbers of any length; see DecimalTotal.h.
+#include "platform/DecimalTotal.h"
+
+#include "platform/Decimal.h"
+#include "platform/NumberScan.h"
+#include "platform/RuntimeFailure.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+
+namespace norvane
+{
+namespace
+{
+
+constexpr int unitPlaces = 4;
+constexpr std::int64_t wholeUnits = 10000;
+
+[[noreturn]] void failTooLarge()
+{
+    throw RuntimeFailure(Failure::Overflow, QStringLiteral("Overflow: a number too large to be added up"));
+}
+
+/// Ten-thousandths of a text of digits, with a minus and a point at most: nearly every number is spelled so.
+/// @return nothing for any other spelling.
+std::optional<std::int64_t> plainUnits(std::string_view text)
+{
+    constexpr std::size_t mostDigits = 14;
+    const bool negative = text.starts_with('-');
+    text.remove_prefix(negative ? 1 : 0);
+    const auto point = std::min(text.find('.'), text.size());
+    const auto fraction = text.size() - std::min(point + 1, text.size());
+    if (point == 0 || point > mostDigits || fraction > unitPlaces)
+        return std::nullopt;
+    std::int64_t units = 0;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (at == point)
+            continue;
+        if (text[at] < '0' || text[at] > '9')
+            return std::nullopt;
+        units = units * 10 + (text[at] - '0');
+    }
+    for (auto missing = fraction; missing < unitPlaces; ++missing)
+        units *= 10;
+    return negative ? -units : units;
+}
+
+} // namespace
+
+/// Every place that a double reaches, nine to a limb. A limb takes far more than its nine digits before it
+/// must hand on the rest, so that is done only when the total is read.
+class DecimalTotal::Places
+{
+public:
+    /// Adds digits / 10^@p scale.
+    void add(bool negative, std::string_view digits, int scale)
+    {
+        int place = static_cast<int>(digits.size()) - 1 - scale;
+        for (const char digit : digits)
+            addDigit(negative ? '0' - digit : digit - '0', place--);
+    }
+
+    [[nodiscard]] std::string text() const
+    {
+        Places rest = *this;
+        rest.handOn();
+        const bool negative = rest.m_limbs.back() < 0;
+        if (negative) {
+            rest.negate();
+            rest.handOn();
+        }
+        return (negative ? "-" : "") + rest.digits();
+    }
+
+private:
+    static constexpr int limbDigits = 9;
+    static constexpr std::int64_t limbBase = 1'000'000'000;
+    static constexpr int limbsBehindPoint = 40;
+    static constexpr int limbCount = 80;
+
+    void addDigit(std::int64_t digit, int place)
+    {
+        if (digit == 0)
+            return;
+        const int at = place + limbsBehindPoint * limbDigits;
+        if (at < 0 || at >= (limbCount - 1) * limbDigits)
+            failTooLarge();
+        for (int i = at % limbDigits; i > 0; --i)
+            digit *= 10;
+        m_limbs.at(static_cast<std::size_t>(at / limbDigits)) += digit;
+    }
+
+    /// Leaves nine digits in each limb; the sign of the whole is that of the last.
+    void handOn()
+    {
+        for (std::size_t i = 0; i + 1 < m_limbs.size(); ++i) {
+            std::int64_t upper = m_limbs.at(i) / limbBase;
+            if (m_limbs.at(i) % limbBase < 0)
+                --upper;
+            m_limbs.at(i) -= upper * limbBase;
+            m_limbs.at(i + 1) += upper;
+        }
+    }
+
+    void negate()
+    {
+        for (auto& limb : m_limbs)
+            limb = -limb;
+    }
+
+    [[nodiscard]] std::string digits() const
+    {
+        std::string all;
+        for (auto limb = m_limbs.rbegin(); limb != m_limbs.rend(); ++limb) {
+            const std::string nine = std::to_string(*limb);
+            all.append(limbDigits - nine.size(), '0').append(nine);
+        }
+        const auto behindPoint = static_cast<std::size_t>(limbsBehindPoint * limbDigits);
+        const auto first = std::min(all.find_first_not_of('0'), all.size() - behindPoint - 1);
+        all.insert(all.size() - behindPoint, 1, '.');
+        all.erase(all.find_last_not_of('0') + 1);
+        if (all.back() == '.')
+            all.pop_back();
+        return all.substr(first);
+    }
+
+    std::array<std::int64_t, limbCount> m_limbs{};
+};
+
+DecimalTotal::DecimalTotal() noexcept = default;
+DecimalTotal::~DecimalTotal() = default;
+
+DecimalTotal::Places& DecimalTotal::places()
+{
+    if (!m_places)
+        m_places = std::make_unique<Places>();
+    return *m_places;
+}
+
+void DecimalTotal::add(std::int64_t number)
+{
+    constexpr auto mostWhole = static_cast<std::int64_t>(mostExactUnits) / wholeUnits;
+    if (number > -mostWhole && number < mostWhole)
+        addUnits(number * wholeUnits);
+    else
+        add(std::string_view(std::to_string(number)));
+}
+
+void DecimalTotal::add(std::string_view text)
+{
+    if (const auto units = plainUnits(text))
+        addUnits(*units);
+    else if (const auto number = scanWholeNumber(text))
+        places().add(number->negative, number->digits, number->scale);
+}
+
+void DecimalTotal::addAsSpelled(double number)
+{
+    if (!std::isfinite(number))
+        failTooLarge();
+    std::array<char, 32> buffer{};
+    const auto* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number).ptr;
+    add(std::string_view(buffer.data(), static_cast<std::size_t>(end - buffer.data())));
+}
+
+void DecimalTotal::settle()
+{
+    const std::string units = std::to_string(m_units);
+    const bool negative = m_units < 0;
+    places().add(negative, std::string_view(units).substr(negative ? 1 : 0), unitPlaces);
+    m_units = 0;
+}
+
+std::string DecimalTotal::text() const
+{
+    if (!m_places)
+        return Decimal(m_units, unitPlaces).text();
+    DecimalTotal whole;
+    whole.m_units = m_units;
+    whole.m_places = std::make_unique<Places>(*m_places);
+    whole.settle();
+    return whole.m_places->text();
+}
+
+} // namespace norvane
