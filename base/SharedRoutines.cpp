@@ -2,7 +2,6 @@
 #include "base/SharedRoutines.h"
 
 #include "base/CustomerSettings.h"
-#include "platform/ChildProcess.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/TextValues.h"
@@ -49,10 +48,10 @@ int GetFirmwareGeneration(const ApplicationValues& values, Boxes& boxes)
     return file.size() < newerFirmwareLength ? 2 : 3;
 }
 
-bool RunAndWait(const ApplicationValues& values, const QString& commandLine)
+ChildResult RunAndWait(const ApplicationValues& values, const QString& commandLine)
 {
     QCoreApplication::processEvents();
-    return runAndWait(commandLine, values.appPath) == ChildResult::Ended;
+    return runAndWait(commandLine, values.appPath);
 }
 
 QString ReadStatusOut()

@@ -3,6 +3,7 @@
 
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
+#include "platform/ChildProcess.h"
 
 #include <QString>
 
@@ -35,9 +36,8 @@ namespace norvane
     }
 }
 
-/// Lets pending events run once, then runs a tool and waits for it. @return false when it could not be
-/// started.
-bool RunAndWait(const ApplicationValues& values, const QString& commandLine);
+/// Lets pending events run once, then runs a tool and waits for it. @return how it came to its end.
+ChildResult RunAndWait(const ApplicationValues& values, const QString& commandLine);
 
 /// The last value of status.out in the working directory; empty text when it holds none.
 /// @throws RuntimeFailure 53 when the file cannot be opened.

@@ -38,13 +38,13 @@ public:
         bookOwn();
         m_step = name;
     }
-    bool tool(const ApplicationValues& values, const QString& commandLine)
+    ChildResult tool(const ApplicationValues& values, const QString& commandLine)
     {
         bookOwn();
-        bool started = false;
-        m_tools += bench::secondsOf([&] { started = RunAndWait(values, commandLine); });
+        auto result = ChildResult::NotFound;
+        m_tools += bench::secondsOf([&] { result = RunAndWait(values, commandLine); });
         m_since = std::chrono::steady_clock::now();
-        return started;
+        return result;
     }
     void bookOwn()
     {

@@ -39,7 +39,8 @@ ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::Link
                                TickBoxes& ticks, link::RunOutside outside)
     : m_values(values), m_link(link), m_ticks(ticks),
       m_outside(std::move(outside)), m_procedures{values, m_outside.boxes, [this](const QString& line) {
-                                                      return link::runTool(m_outside, line);
+                                                      return link::runTool(m_outside, line) ==
+                                                             ChildResult::Ended;
                                                   }}
 {
 }
@@ -52,7 +53,7 @@ void ExchangeRunner::UploadData()
     }
     keepForCustomer(u"MEM.dat"_s);
     FileMemory(m_values, m_outside.boxes,
-               [this](const QString& line) { return link::runTool(m_outside, line); });
+               [this](const QString& line) { return link::runTool(m_outside, line) == ChildResult::Ended; });
     moveBoxes(uploadPlan(), &ExchangeRunner::uploadRow);
 }
 

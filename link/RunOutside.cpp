@@ -1,19 +1,20 @@
 // See RunOutside.h.
 #include "link/RunOutside.h"
 
-#include "platform/ChildProcess.h"
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::link
 {
 
-bool runTool(const RunOutside& outside, const QString& commandLine)
+ChildResult runTool(const RunOutside& outside, const QString& commandLine)
 {
-    const bool started = outside.runAndWait(commandLine);
-    if (!started)
-        outside.showNotice(u"The program %1 was not found."_s.arg(commandWords(commandLine).value(0)));
-    return started;
+    const ChildResult result = outside.runAndWait(commandLine);
+    const QString tool = commandWords(commandLine).value(0);
+    if (result == ChildResult::Crashed)
+        outside.showNotice(u"The program %1 crashed."_s.arg(tool));
+    else if (result != ChildResult::Ended)
+        outside.showNotice(u"The program %1 was not found."_s.arg(tool));
+    return result;
 }
 
 } // namespace norvane::link

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Boxes.h"
+#include "platform/ChildProcess.h"
 
 #include <QString>
 
@@ -12,8 +13,8 @@ namespace norvane::link
 
 /// What a run of the transfer tool and the converter calls; LinkForm::outside() gives that of a form.
 struct RunOutside {
-    /// Runs a tool's command line and waits for its end. @return false when the tool could not be started.
-    std::function<bool(const QString& commandLine)> runAndWait;
+    /// Runs a tool's command line and waits for its end. A tool that the user ended counts as crashed.
+    std::function<ChildResult(const QString& commandLine)> runAndWait;
     /// The last value of status.out.
     std::function<QString()> readStatus;
     /// Names the step in work.
@@ -25,8 +26,8 @@ struct RunOutside {
     Boxes& boxes;
 };
 
-/// Runs a tool and tells the user when it could not be started. The run goes on all the same: status.out
-/// keeps the previous result. @return whether the tool was started.
-bool runTool(const RunOutside& outside, const QString& commandLine);
+/// Runs a tool and tells the user when it could not be started or crashed. The run goes on all the same:
+/// status.out keeps the previous result.
+ChildResult runTool(const RunOutside& outside, const QString& commandLine);
 
 } // namespace norvane::link

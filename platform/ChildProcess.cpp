@@ -70,7 +70,7 @@ ChildResult runAndWait(const QString& commandLine, const QString& programFolder)
     if (!child.waitForStarted(-1))
         return ChildResult::NotStarted;
     child.waitForFinished(-1);
-    return ChildResult::Ended;
+    return child.exitStatus() == QProcess::NormalExit ? ChildResult::Ended : ChildResult::Crashed;
 }
 
 } // namespace norvane

@@ -15,10 +15,11 @@ namespace norvane
 /// @return empty text when there is none.
 [[nodiscard]] QString findProgram(const QString& name, const QString& programFolder);
 
-enum class ChildResult { Ended, NotFound, NotStarted };
+/// How a child came to its end. Crashed: a signal or a fault of its own ended it, whatever it had written.
+enum class ChildResult { Ended, Crashed, NotFound, NotStarted };
 
 /// Starts @p commandLine in the working directory with this process's environment and waits for its end
-/// without a time limit. How it ended (exit code, crash) is not told: the tools report through their files.
+/// without a time limit. The exit code is not told: the tools report through their files.
 ChildResult runAndWait(const QString& commandLine, const QString& programFolder);
 
 } // namespace norvane

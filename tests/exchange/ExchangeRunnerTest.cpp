@@ -88,7 +88,7 @@ private:
                 .goOn = [] { return true; },
                 .boxes = boxes};
     }
-    bool runTool(const QString& line)
+    ChildResult runTool(const QString& line)
     {
         if (line.startsWith("VELMARCOMM"_L1))
             transfers << line;

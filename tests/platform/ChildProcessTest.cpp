@@ -28,7 +28,7 @@ TEST(ChildProcess, RunsAToolOfTheProgramFolderInTheWorkingDirectory)
     putProbe(program, "VELMARCOMM");
     EXPECT_EQ(run("velmarcomm log out s9  c1 \"N 67.DAT\""), ChildResult::Ended);
     EXPECT_EQ(working.read("out"), QDir::currentPath().toLocal8Bit() + "\ns9\nc1\nN 67.DAT\n");
-    EXPECT_EQ(run("VELMARCOMM crash"), ChildResult::Ended);
+    EXPECT_EQ(run("VELMARCOMM crash"), ChildResult::Crashed);
     EXPECT_EQ(run("no_such_tool -U 52"), ChildResult::NotFound);
     EXPECT_EQ(run(""), ChildResult::NotFound);
     program.write("broken", QByteArray("\x7F"
