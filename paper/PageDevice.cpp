@@ -1,0 +1,39 @@
+// See PageDevice.h.
+#include "paper/PageDevice.h"
+
+namespace norvane::paper
+{
+namespace
+{
+
+constexpr double millimetresPerInch = 25.4;
+
+} // namespace
+
+PageDevice::PageDevice(QPagedPaintDevice& device, const QPageSize& sheet,
+                       QPageLayout::Orientation orientation)
+    : m_device(device)
+{
+    // With margins of the device, all that is painted would move by them.
+    QPageLayout layout(sheet, orientation, QMarginsF());
+    layout.setMode(QPageLayout::FullPageMode);
+    device.setPageLayout(layout);
+}
+
+QPainter& PageDevice::nextPage()
+{
+    const bool began = m_isBegun ? m_device.newPage() : m_painter.begin(&m_device);
+    m_hasFailed = m_hasFailed || !began;
+    if (!m_isBegun && began)
+        m_painter.scale(m_device.logicalDpiX() / millimetresPerInch,
+                        m_device.logicalDpiY() / millimetresPerInch);
+    m_isBegun = true;
+    return m_painter;
+}
+
+bool PageDevice::finish()
+{
+    return m_painter.end() && !m_hasFailed;
+}
+
+} // namespace norvane::paper

@@ -1,0 +1,76 @@
+// The report control: what a form sets and runs. A report goes to a preview window or straight to the
+// printer.
+#pragma once
+
+#include "reports/ReportRun.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QPrinter;
+class QWidget;
+
+namespace norvane
+{
+class Boxes;
+}
+
+namespace norvane::reports
+{
+
+enum class Destination {
+    Window, ///< a preview of its own; each run opens another
+    Printer ///< the system's default printer, without a question
+};
+
+/// What makes a report's lines: runReport() of the engine.
+using Runner = std::function<ReportData(const ReportRequest&, const KeepGoing&)>;
+/// Finds the printer; null when the system has none to use.
+using PrinterFinder = std::function<std::unique_ptr<QPrinter>()>;
+
+/// Belongs to the form that it is run from and must not outlive it. Previews stay open when the form closes;
+/// they close with the window that the form belongs to.
+class Report
+{
+public:
+    /// @param window whose work this is: previews stand above it and can be used while it is modal.
+    Report(QWidget& window, Boxes& boxes, Runner runner = runReport);
+    ~Report();
+    Report(const Report&) = delete;
+    Report& operator=(const Report&) = delete;
+
+    /// Path of the layout; found without regard to case.
+    void setReportFile(const QString& path) { m_request.reportFile = path; }
+    /// Path of the database at @p index; layouts read from number 0 alone.
+    void setDataFile(int index, const QString& path);
+    /// Heading on the pages, and the preview's title while it has none of its own.
+    void setReportTitle(const QString& text) { m_request.reportTitle = text; }
+    /// Title of the preview alone.
+    void setWindowTitle(const QString& text) { m_request.windowTitle = text; }
+    /// Replaces the former formula; empty text selects all rows.
+    void setSelectionFormula(const QString& text) { m_request.selectionFormula = text; }
+    void setDestination(Destination destination) { m_destination = destination; }
+    /// The shop whose figures these are, as the pages name it.
+    void setCustomer(const QString& name) { m_request.customer = name; }
+    /// In place of the system's default printer.
+    void setPrinterFinder(PrinterFinder finder) { m_findPrinter = std::move(finder); }
+
+    /// Runs the report as set, as of now. What the engine cannot do comes up in a box "Report Error"; it and
+    /// a run that the user cancelled leave everything as it was.
+    void run();
+
+private:
+    [[nodiscard]] std::optional<ReportData> runnerResult();
+    void deliver(ReportData report);
+
+    QWidget& m_window;
+    Boxes& m_boxes;
+    Runner m_runner;
+    PrinterFinder m_findPrinter;
+    ReportRequest m_request;
+    Destination m_destination = Destination::Window;
+    bool m_isRunning = false;
+};
+
+} // namespace norvane::reports

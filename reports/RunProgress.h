@@ -1,0 +1,40 @@
+// Keeps the windows alive while a report is made, and lets the user give it up.
+#pragma once
+
+#include "ui/WaitPointer.h"
+
+#include <QProgressDialog>
+
+#include <chrono>
+#include <memory>
+
+namespace norvane::reports
+{
+
+/// Shows the wait pointer and, once the work takes noticeably long, a box with a cancel button that holds
+/// back all other windows. Until then a press or key waits for its turn, so that no form closes under its
+/// report.
+class RunProgress
+{
+public:
+    /// @param window that the box stands above.
+    explicit RunProgress(QWidget& window);
+
+    /// For the work to call now and then. @return false once the user cancelled.
+    [[nodiscard]] bool goOn();
+    [[nodiscard]] bool isCancelled() const { return m_isCancelled; }
+
+private:
+    using Clock = std::chrono::steady_clock;
+    void handleEvents(Clock::time_point now);
+    void showBox();
+
+    QWidget& m_window;
+    ui::WaitPointer m_pointer;
+    Clock::time_point m_boxTime;
+    Clock::time_point m_nextTurn;
+    std::unique_ptr<QProgressDialog> m_box;
+    bool m_isCancelled = false;
+};
+
+} // namespace norvane::reports
