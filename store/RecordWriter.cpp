@@ -3,6 +3,8 @@
 
 #include "platform/RuntimeFailure.h"
 
+#include <sqlite3.h>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -90,7 +92,7 @@ void RecordWriter::failGone() const
                          u"No current record: it was deleted from table %1."_s.arg(m_shape->name()));
 }
 
-void RecordWriter::insert(const std::vector<Value>& values)
+std::int64_t RecordWriter::insert(const std::vector<Value>& values)
 {
     checkRequired(values);
     if (!m_insert)
@@ -99,6 +101,7 @@ void RecordWriter::insert(const std::vector<Value>& values)
     for (const auto& value : values)
         m_insert->bind(++parameter, value);
     m_insert->run();
+    return sqlite3_last_insert_rowid(m_database.connection());
 }
 
 void RecordWriter::update(std::int64_t rowId, const std::vector<Value>& before,

@@ -19,8 +19,8 @@ class RecordWriter
 public:
     RecordWriter(Database::Private& database, std::shared_ptr<const TableShape> shape);
 
-    /// @throws RuntimeFailure 3022, 3314 and what the engine reports.
-    void insert(const std::vector<Value>& values);
+    /// @return the row id of the new row. @throws RuntimeFailure 3022, 3314 and what the engine reports.
+    std::int64_t insert(const std::vector<Value>& values);
     /// @throws RuntimeFailure 3022, 3314, 3021 when the row is gone, and what the engine reports.
     void update(std::int64_t rowId, const std::vector<Value>& before, const std::vector<Value>& after);
     /// @throws RuntimeFailure 3021 when the row is gone, and what the engine reports.

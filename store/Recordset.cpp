@@ -285,9 +285,9 @@ void Recordset::update()
     if (d->mode == EditMode::None)
         d->failNoRecord();
     if (d->mode == EditMode::Adding) {
-        d->writer->insert(d->edited);
-        if (d->place == Private::Place::Empty)
-            d->place = Private::Place::AtBeginning;
+        const auto rowId = d->writer->insert(d->edited);
+        d->tableCursor->rowAdded(d->edited, rowId);
+        d->place = Private::Place::OnRecord;
     } else {
         const auto& row = d->cursor->row();
         d->writer->update(row.rowId, row.values, d->edited);

@@ -69,9 +69,8 @@ public:
     /// Starts changing the current record as it now stands in the file; on an edit already open it goes on. A
     /// new record that was open is abandoned. @throws 3027 when the query's rows cannot be changed.
     void edit();
-    /// Stores the new or changed record. A new record does not become the current one, and an index can take
-    /// a changed one to another place, where it stays the current record. Only fields with another value than
-    /// before are written.
+    /// Stores the new or changed record, which is the current one then, at the place where the index has it.
+    /// Only fields with another value than before are written.
     /// @throws 3022 duplicate key, 3314 required field is null; the record stays open then.
     void update();
     void cancelUpdate();

@@ -58,6 +58,11 @@ const std::array<TableCursor::AccessSql, TableCursor::AccessCount> TableCursor::
 TableCursor::TableCursor(Database::Private& database, std::shared_ptr<const TableShape> shape)
     : m_database(database), m_shape(std::move(shape))
 {
+    const auto& fields = m_shape->definition().fields;
+    const auto counter = std::find_if(fields.cbegin(), fields.cend(), [](const FieldDefinition& field) {
+        return field.type == FieldType::Counter;
+    });
+    m_counterOrdinal = counter == fields.cend() ? -1 : static_cast<int>(counter - fields.cbegin());
     const auto& indexes = m_shape->definition().indexes;
     setIndex(indexes.isEmpty() ? nullptr : &indexes.first());
 }
@@ -217,6 +222,29 @@ void TableCursor::keepReadAhead()
 {
     if (m_stamp.changes + 1 == m_database.changes())
         ++m_stamp.changes;
+}
+
+/// Whether the file gave the row a number that @p values do not know.
+bool TableCursor::wasCounted(const std::vector<Value>& values) const
+{
+    return m_counterOrdinal >= 0 && values[static_cast<std::size_t>(m_counterOrdinal)].isNull();
+}
+
+void TableCursor::rowAdded(std::vector<Value>& values, std::int64_t rowId)
+{
+    m_steps = 0;
+    if (wasCounted(values)) {
+        read(ByRowId, {}, rowId);
+        return;
+    }
+    if (m_rows.empty())
+        m_rows.emplace_back();
+    m_rows[0].values.swap(values);
+    m_rows[0].rowId = rowId;
+    m_filled = 1;
+    m_at = 0;
+    takePlace();
+    stampNow();
 }
 
 void TableCursor::rowStored(const std::vector<Value>& values)

@@ -32,6 +32,9 @@ public:
     void changeOrder(const IndexDefinition& index);
     [[nodiscard]] const IndexDefinition* index() const { return m_index; }
     bool seek(Seek comparison, const Value& key);
+    /// Moves to a row that its own recordset has added. Takes over the values: the caller's are no longer
+    /// what they were. An import adds many rows and needs none of them again, so nothing is read here.
+    void rowAdded(std::vector<Value>& values, std::int64_t rowId);
     /// Reads these fields and the key alone from now on; all others are null. The place is lost.
     void limitTo(const std::vector<int>& fields);
 
@@ -78,6 +81,7 @@ private:
     bool read(Access access, const Value& key, std::int64_t rowId, std::size_t most = 1);
     [[nodiscard]] bool isFresh() const;
     [[nodiscard]] bool placeHasNoKey() const;
+    [[nodiscard]] bool wasCounted(const std::vector<Value>& values) const;
     void takePlace();
     void keepReadAhead();
     void stampNow();
@@ -86,6 +90,7 @@ private:
     std::shared_ptr<const TableShape> m_shape;
     const IndexDefinition* m_index = nullptr;
     int m_keyOrdinal = -1;
+    int m_counterOrdinal = -1;
     std::vector<int> m_onlyFields; ///< empty: all
     std::array<std::unique_ptr<PreparedStatement>, AccessCount> m_statements;
 

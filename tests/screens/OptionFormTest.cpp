@@ -127,6 +127,20 @@ TEST_F(OptionFormTest, ANewRecordWithATakenKeyCanBeCorrected)
     EXPECT_EQ(group(4), "Spirits|0|0|null|False|0|null");
 }
 
+TEST_F(OptionFormTest, ANewRecordStaysTheOneThatIsShown)
+{
+    const Form form = open();
+    press(form, "AddRecord");
+    type(form, "IntegerNumberControl_1", "5");
+    press(form, "SaveRecord");
+    type(form, "IntegerNumberControl_1", "6");
+    press(form, "SaveRecord");
+    EXPECT_EQ(rows("select GROUPNO from GROUPS order by GROUPNO"), "1 2 3 6");
+    m_boxes.answers = {true};
+    press(form, "DeleteRecord");
+    EXPECT_EQ(groupNames(), "Wines Beers Food");
+}
+
 TEST_F(OptionFormTest, AMoveADeletionAndAnExitDropANewRecord)
 {
     Form form = open();

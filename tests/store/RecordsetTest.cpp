@@ -45,7 +45,7 @@ TEST_F(RecordsetTest, WalksBothWaysInTheOrderOfTheIndex)
     EXPECT_EQ(failureOf([&] { m_records.deleteRecord(); }), 3021);
     fill();
     m_records.moveNext();
-    EXPECT_EQ(number(), "01");
+    EXPECT_EQ(number(), "05");
     add(m_records, {{"NUMBER", text("00")}});
     EXPECT_EQ(numbersOf(m_records), "00 01 02 03 04 05");
     EXPECT_EQ(failureOf([&] { m_records.moveNext(); }), 3021);
@@ -149,13 +149,41 @@ TEST_F(RecordsetTest, SeeksByTheCurrentIndex)
     EXPECT_EQ(failureOf([&] { add(m_records, {{"NUMBER", text("02A")}}); }), 3022);
 }
 
-TEST_F(RecordsetTest, ANewRecordIsNotTheCurrentOneAndAChangedOneStaysIt)
+TEST_F(RecordsetTest, ANewRecordIsTheCurrentOne)
+{
+    fill();
+    m_records.moveFirst();
+    add(m_records, {{"NUMBER", text("02a")}});
+    EXPECT_EQ(number(), "02a");
+    change(group, Value::whole(7));
+    EXPECT_EQ(m_database.execute(u"delete * from items where number = '02a' and groupno = 7"_s), 1);
+    m_records.moveNext();
+    EXPECT_EQ(number(), "03");
+    add(m_records, {{"NUMBER", text("00")}});
+    m_records.deleteRecord();
+    m_records.moveNext();
+    EXPECT_EQ(number(), "01");
+    m_records.setIndex(bygroup);
+    add(m_records, {{"NUMBER", text("06")}, {"GROUPNO", text("3")}});
+    m_records.movePrevious();
+    EXPECT_EQ(number(), "03");
+
+    m_database.addTable({u"Counts"_s, {{u"ID"_s, FieldType::Counter, 0, {}, false}}, {{{u"id"_s}, u"ID"_s}}});
+    auto counts = m_database.openTable(u"counts"_s);
+    for (int expected = 1; expected <= 2; ++expected) {
+        add(counts, {});
+        EXPECT_EQ(counts.value(0), Value::whole(expected));
+    }
+    counts.movePrevious();
+    EXPECT_EQ(counts.value(0), Value::whole(1));
+}
+
+TEST_F(RecordsetTest, AChangedRecordStaysTheCurrentOne)
 {
     const QString key = u"NUMBER"_s;
     fill();
-    m_records.moveFirst();
     add(m_records, {{"NUMBER", text("06")}});
-    EXPECT_EQ(number(), "01");
+    m_records.moveFirst();
     EXPECT_EQ(failureOf([&] { change(key, text("02")); }), 3022);
     m_records.edit(); // goes on
     EXPECT_EQ(number(), "02");
