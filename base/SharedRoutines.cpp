@@ -48,10 +48,10 @@ int GetFirmwareGeneration(const ApplicationValues& values, Boxes& boxes)
     return file.size() < newerFirmwareLength ? 2 : 3;
 }
 
-ChildResult RunAndWait(const ApplicationValues& values, const QString& commandLine)
+ChildResult RunAndWait(const ApplicationValues& values, const QString& commandLine, const ChildWatch& watch)
 {
     QCoreApplication::processEvents();
-    return runAndWait(commandLine, values.appPath);
+    return runAndWait(commandLine, values.appPath, watch);
 }
 
 QString ReadStatusOut()

@@ -36,8 +36,10 @@ namespace norvane
     }
 }
 
-/// Lets pending events run once, then runs a tool and waits for it. @return how it came to its end.
-ChildResult RunAndWait(const ApplicationValues& values, const QString& commandLine);
+/// Lets pending events run once, then runs a tool and waits for it, while @p watch looks on.
+/// @return how it came to its end.
+ChildResult RunAndWait(const ApplicationValues& values, const QString& commandLine,
+                       const ChildWatch& watch = {});
 
 /// The last value of status.out in the working directory; empty text when it holds none.
 /// @throws RuntimeFailure 53 when the file cannot be opened.

@@ -4,6 +4,7 @@
 #include "platform/FilePaths.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
 
@@ -35,6 +36,20 @@ QString programAt(const QString& path)
     return file.isFile() && file.isExecutable() ? file.absoluteFilePath() : QString();
 }
 
+/// Short enough for a window to seem alive. A child that ends is noticed at once.
+constexpr int millisecondsBetweenLooks = 40;
+
+void waitForEnd(QProcess& child, const ChildWatch& watch)
+{
+    QElapsedTimer running;
+    running.start();
+    // The watch may let events run, so that the child's end is noticed there.
+    while (child.state() != QProcess::NotRunning && !child.waitForFinished(millisecondsBetweenLooks)) {
+        if (!watch.goOn(std::chrono::milliseconds(running.elapsed())))
+            child.kill();
+    }
+}
+
 } // namespace
 
 QStringList commandWords(const QString& commandLine)
@@ -56,7 +71,7 @@ QString findProgram(const QString& name, const QString& programFolder)
     return {};
 }
 
-ChildResult runAndWait(const QString& commandLine, const QString& programFolder)
+ChildResult runAndWait(const QString& commandLine, const QString& programFolder, const ChildWatch& watch)
 {
     QStringList words = commandWords(commandLine);
     const QString program = words.isEmpty() ? QString() : findProgram(words.takeFirst(), programFolder);
@@ -69,7 +84,10 @@ ChildResult runAndWait(const QString& commandLine, const QString& programFolder)
     child.start(program, words);
     if (!child.waitForStarted(-1))
         return ChildResult::NotStarted;
-    child.waitForFinished(-1);
+    if (watch.goOn)
+        waitForEnd(child, watch);
+    else
+        child.waitForFinished(-1);
     return child.exitStatus() == QProcess::NormalExit ? ChildResult::Ended : ChildResult::Crashed;
 }
 

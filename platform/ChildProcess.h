@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
+#include <functional>
+
 namespace norvane
 {
 
@@ -15,11 +18,20 @@ namespace norvane
 /// @return empty text when there is none.
 [[nodiscard]] QString findProgram(const QString& name, const QString& programFolder);
 
-/// How a child came to its end. Crashed: a signal or a fault of its own ended it, whatever it had written.
+/// How a child came to its end. Crashed: a signal, a fault of its own or the user ended it, whatever it had
+/// written.
 enum class ChildResult { Ended, Crashed, NotFound, NotStarted };
+
+/// Looks on while a child runs.
+struct ChildWatch {
+    /// Called every few hundredths of a second with the time since the start. @return false to end the child,
+    /// which counts as a crash. Empty: nothing happens before the child ends by itself.
+    std::function<bool(std::chrono::milliseconds running)> goOn;
+};
 
 /// Starts @p commandLine in the working directory with this process's environment and waits for its end
 /// without a time limit. The exit code is not told: the tools report through their files.
-ChildResult runAndWait(const QString& commandLine, const QString& programFolder);
+ChildResult runAndWait(const QString& commandLine, const QString& programFolder,
+                       const ChildWatch& watch = {});
 
 } // namespace norvane

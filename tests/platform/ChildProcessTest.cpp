@@ -5,6 +5,10 @@
 
 #include <QScopeGuard>
 
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane
 {
 namespace
@@ -35,6 +39,25 @@ TEST(ChildProcess, RunsAToolOfTheProgramFolderInTheWorkingDirectory)
                                        "ELF damaged"));
     ASSERT_TRUE(QFile::setPermissions(program.path("broken"), QFile::ReadOwner | QFile::ExeOwner));
     EXPECT_EQ(run("broken"), ChildResult::NotStarted);
+}
+
+TEST(ChildProcess, AWatchSeesTheChildRunAndCanEndIt)
+{
+    const TestFolder folder;
+    const test::WorkingDirectory here(folder.path());
+    putProbe(folder, "tool");
+    std::vector<std::chrono::milliseconds> looks;
+    const auto result = runAndWait(u"tool hang started"_s, folder.path(), {[&](auto running) {
+                                       looks.push_back(running);
+                                       return looks.size() < 3 || !QFile::exists(folder.path("started"));
+                                   }});
+    EXPECT_EQ(result, ChildResult::Crashed);
+    EXPECT_GE(looks.size(), 3U);
+    EXPECT_TRUE(std::is_sorted(looks.begin(), looks.end()));
+    EXPECT_EQ(runAndWait(u"tool log out"_s, folder.path(), {[](auto) {
+                             return true;
+                         }}),
+              ChildResult::Ended);
 }
 
 TEST(ChildProcess, TheProgramFolderComesBeforeTheWorkingDirectoryAndThePath)
