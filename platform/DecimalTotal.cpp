@@ -71,7 +71,7 @@ public:
             rest.negate();
             rest.handOn();
         }
-        return (negative ? "-" : "") + rest.digits();
+        return negative ? '-' + rest.digits() : rest.digits();
     }
 
 private:
