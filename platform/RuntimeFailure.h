@@ -24,6 +24,7 @@ enum class Failure {
     ReadOnlyRecords = 3027,
     UnknownNameInQuery = 3061,
     TextTooLong = 3163,
+    RecordDeleted = 3167,
     UnknownName = 3265,
     RequiredFieldIsNull = 3314,
     NotOurDatabase = 3343,

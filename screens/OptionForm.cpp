@@ -274,9 +274,9 @@ void OptionForm::addRecord()
 void OptionForm::saveRecord()
 {
     BoundFields fields = CSPict1->contents();
-    const SaveOutcome outcome = m_editor->save(fields);
+    const SaveResult result = m_editor->save(fields);
     CSPict1->showContents(fields);
-    if (outcome == SaveOutcome::DuplicateKey) {
+    if (result.outcome == SaveOutcome::DuplicateKey) {
         m_boxes.message(u"This item code already exists!\rPlease try again"_s,
                         u"Data Error Code%1"_s.arg(static_cast<int>(Failure::DuplicateKey)),
                         BoxIcon::Critical);

@@ -101,6 +101,13 @@ store::Value valueToStore(const BoundField& field, const store::FieldDefinition&
     }
 }
 
+SaveOutcome outcomeOf(Failure failure)
+{
+    if (failure == Failure::DuplicateKey)
+        return SaveOutcome::DuplicateKey;
+    return failure == Failure::RecordDeleted ? SaveOutcome::Gone : SaveOutcome::Refused;
+}
+
 using KindOrder = std::array<ControlKind, 5>;
 constexpr KindOrder showOrder{ControlKind::Text, ControlKind::Combo, ControlKind::Integer,
                               ControlKind::Decimal, ControlKind::Check};
@@ -143,16 +150,16 @@ void RecordEditor::add(BoundFields& fields)
     m_records.addNew();
 }
 
-SaveOutcome RecordEditor::save(BoundFields& fields)
+SaveResult RecordEditor::save(BoundFields& fields)
 {
     try {
         if (m_records.editMode() != store::EditMode::Adding)
             m_records.edit();
         forEachBound(fields, saveOrder, [this](BoundField& field) { storeField(field); });
         m_records.update();
-        return SaveOutcome::Stored;
+        return {SaveOutcome::Stored};
     } catch (const RuntimeFailure& failure) {
-        return failure.failure() == Failure::DuplicateKey ? SaveOutcome::DuplicateKey : SaveOutcome::Refused;
+        return {outcomeOf(failure.failure()), failure.text()};
     }
 }
 
@@ -172,9 +179,20 @@ void RecordEditor::deleteRecord()
         // The user sees the new record, so it is the one that goes; the one behind it stays.
         m_records.cancelUpdate();
     } else {
-        m_records.deleteRecord();
+        deleteCurrent();
     }
     m_records.moveFirst();
+}
+
+void RecordEditor::deleteCurrent()
+{
+    try {
+        m_records.deleteRecord();
+    } catch (const RuntimeFailure& failure) {
+        // Another screen came first: the record is gone, which is what the user wants.
+        if (failure.failure() != Failure::RecordDeleted)
+            throw;
+    }
 }
 
 bool RecordEditor::next()

@@ -26,7 +26,15 @@ using BoundFields = QVector<BoundField>;
 enum class SaveOutcome {
     Stored,
     DuplicateKey, ///< the user can correct the key and save again
-    Refused,      ///< any other failure; passes without a word
+    Gone,         ///< the record was deleted meanwhile, on another screen or by an upload
+    Refused,      ///< any other failure
+};
+
+/// Of the failures only a duplicate key has a box. Of the others the user has to learn that nothing was
+/// stored.
+struct SaveResult {
+    SaveOutcome outcome = SaveOutcome::Stored;
+    QString reason{}; ///< the failure's text, for the user; empty when the record was stored
 };
 
 /// One place in one table. What the user typed is known to the controls alone until it is saved; a move drops
@@ -46,8 +54,9 @@ public:
     void add(BoundFields& fields);
     /// Stores @p fields into the current record, or into the new one. A record that was refused stays open
     /// for the next attempt. PLU numbers are filled with zeros to their full width, in @p fields as well.
-    [[nodiscard]] SaveOutcome save(BoundFields& fields);
-    /// Deletes the current record and goes to the first one; drops a new record that is not stored yet.
+    [[nodiscard]] SaveResult save(BoundFields& fields);
+    /// Deletes the current record and goes to the first one, also when somebody else has deleted it already;
+    /// drops a new record that is not stored yet.
     void deleteRecord();
 
     /// @return false past the last record: the place is the last record then.
@@ -66,6 +75,7 @@ public:
 
 private:
     void storeField(BoundField& field);
+    void deleteCurrent();
     [[nodiscard]] const QString& indexOf(int button) const;
     [[nodiscard]] bool hasRecord(const store::Value& key) const;
 

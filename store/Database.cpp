@@ -8,6 +8,8 @@
 #include "store/PreparedStatement.h"
 #include "store/Recordset.h"
 #include "store/RecordsetPrivate.h"
+#include "store/RowIds.h"
+#include "store/Savepoint.h"
 #include "store/SqlTranslation.h"
 
 #include <sqlite3.h>
@@ -100,7 +102,14 @@ qint64 Database::execute(const QString& sql)
     if (!translated.changesRecords)
         failQuery(sql);
     PreparedStatement statement(d->connection(), translated.sql.toStdString(), sql);
-    return statement.run();
+    const auto emptied = d->findShape(translated.deletesFrom);
+    if (!emptied)
+        return statement.run();
+    Savepoint savepoint(d->connection());
+    retireAllRowIds(*d, *emptied);
+    const qint64 touched = statement.run();
+    savepoint.keep();
+    return touched;
 }
 
 QStringList Database::tableNames() const

@@ -37,12 +37,17 @@ public:
     /// Tells one transaction from the next; 0 outside of any.
     [[nodiscard]] std::int64_t transactionNumber() const { return m_depth > 0 ? m_transactions : 0; }
 
+    /// Counts the times that rows were deleted; see RowIds.h.
+    [[nodiscard]] std::int64_t retirements() const { return m_retirements; }
+    void countRetirement() { ++m_retirements; }
+
 private:
     QString m_path;
     SQLite::Database m_connection;
     QHash<QString, std::shared_ptr<const TableShape>> m_shapes;
     int m_depth = 0;
     std::int64_t m_transactions = 0;
+    std::int64_t m_retirements = 0;
 };
 
 } // namespace norvane::store

@@ -2,6 +2,8 @@
 #include "store/RecordWriter.h"
 
 #include "platform/RuntimeFailure.h"
+#include "store/RowIds.h"
+#include "store/Savepoint.h"
 
 #include <sqlite3.h>
 
@@ -44,10 +46,15 @@ std::unique_ptr<PreparedStatement> RecordWriter::prepare(const std::string& sql)
                                                u"%1, table %2."_s.arg(m_database.path(), m_shape->name()));
 }
 
-std::string RecordWriter::insertSql() const
+RecordWriter::Stage RecordWriter::stage() const
 {
-    std::string names;
-    std::string values;
+    return {m_database.transactionNumber(), m_database.retirements()};
+}
+
+std::string RecordWriter::insertSql(const std::string& rowId) const
+{
+    std::string names = rowId.empty() ? "" : "_rowid_";
+    std::string values = rowId;
     for (const auto& field : m_shape->definition().fields) {
         names += (names.empty() ? "" : ", ") + quotedName(field.name);
         values += (values.empty() ? "" : ", ") + insertedValue(*m_shape, field);
@@ -63,6 +70,17 @@ std::string RecordWriter::updateSql(const std::vector<int>& fields) const
         changes += quotedName(m_shape->definition().fields.at(field).name) + " = ?";
     }
     return "UPDATE " + quotedName(m_shape->name()) + " SET " + changes + " WHERE _rowid_ = ?";
+}
+
+/// Rows that a transaction adds one after the other follow the first by themselves, which spares an import
+/// the look for an unused row id at each.
+PreparedStatement& RecordWriter::insertStatement()
+{
+    const bool follows = stage().transaction != 0 && stage() == m_added;
+    auto& statement = follows ? m_insertBehind : m_insert;
+    if (!statement)
+        statement = prepare(insertSql(follows ? std::string() : unusedRowId(m_database, *m_shape)));
+    return *statement;
 }
 
 PreparedStatement& RecordWriter::updateOf(const std::vector<int>& fields)
@@ -88,19 +106,18 @@ void RecordWriter::checkRequired(const std::vector<Value>& values) const
 
 void RecordWriter::failGone() const
 {
-    throw RuntimeFailure(Failure::NoCurrentRecord,
-                         u"No current record: it was deleted from table %1."_s.arg(m_shape->name()));
+    throw RuntimeFailure(Failure::RecordDeleted, u"Record is deleted. (%1)"_s.arg(m_shape->name()));
 }
 
 std::int64_t RecordWriter::insert(const std::vector<Value>& values)
 {
     checkRequired(values);
-    if (!m_insert)
-        m_insert = prepare(insertSql());
+    auto& statement = insertStatement();
     int parameter = 0;
     for (const auto& value : values)
-        m_insert->bind(++parameter, value);
-    m_insert->run();
+        statement.bind(++parameter, value);
+    statement.run();
+    m_added = stage();
     return sqlite3_last_insert_rowid(m_database.connection());
 }
 
@@ -128,9 +145,12 @@ void RecordWriter::remove(std::int64_t rowId)
 {
     if (!m_remove)
         m_remove = prepare("DELETE FROM " + quotedName(m_shape->name()) + " WHERE _rowid_ = ?");
+    Savepoint savepoint(m_database.connection());
+    retireRowIds(m_database, *m_shape, rowId);
     m_remove->bind(1, rowId);
     if (m_remove->run() == 0)
         failGone();
+    savepoint.keep();
 }
 
 } // namespace norvane::store

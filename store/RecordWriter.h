@@ -21,14 +21,24 @@ public:
 
     /// @return the row id of the new row. @throws RuntimeFailure 3022, 3314 and what the engine reports.
     std::int64_t insert(const std::vector<Value>& values);
-    /// @throws RuntimeFailure 3022, 3314, 3021 when the row is gone, and what the engine reports.
+    /// @throws RuntimeFailure 3022, 3314, 3167 when the row is gone, and what the engine reports.
     void update(std::int64_t rowId, const std::vector<Value>& before, const std::vector<Value>& after);
-    /// @throws RuntimeFailure 3021 when the row is gone, and what the engine reports.
+    /// @throws RuntimeFailure 3167 when the row is gone, and what the engine reports.
     void remove(std::int64_t rowId);
 
 private:
+    /// As long as it stays the same in a transaction, nobody deletes rows.
+    struct Stage {
+        std::int64_t transaction = 0;
+        std::int64_t retirements = 0;
+        bool operator==(const Stage&) const = default;
+    };
+
+    [[nodiscard]] Stage stage() const;
     [[nodiscard]] std::unique_ptr<PreparedStatement> prepare(const std::string& sql) const;
-    [[nodiscard]] std::string insertSql() const;
+    /// @p rowId is the SQL of the new row's id; empty for one that follows the highest in use.
+    [[nodiscard]] std::string insertSql(const std::string& rowId) const;
+    [[nodiscard]] PreparedStatement& insertStatement();
     [[nodiscard]] std::string updateSql(const std::vector<int>& fields) const;
     PreparedStatement& updateOf(const std::vector<int>& fields);
     void checkRequired(const std::vector<Value>& values) const;
@@ -38,6 +48,8 @@ private:
     std::shared_ptr<const TableShape> m_shape;
     std::vector<int> m_required;
     std::unique_ptr<PreparedStatement> m_insert;
+    std::unique_ptr<PreparedStatement> m_insertBehind;
+    Stage m_added; ///< when the last row was added
     std::unique_ptr<PreparedStatement> m_remove;
     std::map<std::vector<int>, std::unique_ptr<PreparedStatement>> m_updates;
 };

@@ -102,6 +102,8 @@ void Recordset::Private::failNoRecord() const
 
 void Recordset::Private::needRecord() const
 {
+    if (place == Place::Deleted)
+        throw RuntimeFailure(Failure::RecordDeleted, u"Record is deleted. (%1)"_s.arg(shape->name()));
     if (place != Place::OnRecord)
         failNoRecord();
 }
@@ -274,7 +276,7 @@ void Recordset::edit()
     d->abandonEdit();
     if (!d->cursor->reread()) {
         d->place = Private::Place::Deleted;
-        d->failNoRecord();
+        d->needRecord();
     }
     d->edited = d->cursor->row().values;
     d->mode = EditMode::Editing;
@@ -306,8 +308,8 @@ void Recordset::deleteRecord()
     d->needWriter();
     d->needRecord();
     d->abandonEdit();
-    d->place = Private::Place::Deleted;
     d->writer->remove(d->cursor->row().rowId);
+    d->place = Private::Place::Deleted;
     d->cursor->rowDeleted();
 }
 

@@ -18,7 +18,9 @@ enum class EditMode { None, Editing, Adding };
 enum class Seek { Equal, AtOrAfter };
 
 /// Holds its own place by key and row, so that other recordsets may add and delete records meanwhile. Reading
-/// or storing without a current record is failure 3021. A move abandons an edit or a new record.
+/// or storing without a current record is failure 3021, on a record that was deleted 3167. Such a record
+/// never becomes another one that came later, and a move leads to its neighbours. A move abandons an edit or
+/// a new record.
 class Recordset
 {
 public:
@@ -67,14 +69,17 @@ public:
     /// @throws 3027 on a query.
     void addNew();
     /// Starts changing the current record as it now stands in the file; on an edit already open it goes on. A
-    /// new record that was open is abandoned. @throws 3027 when the query's rows cannot be changed.
+    /// new record that was open is abandoned. @throws 3167 when the record was deleted, 3027 when the query's
+    /// rows cannot be changed.
     void edit();
     /// Stores the new or changed record, which is the current one then, at the place where the index has it.
     /// Only fields with another value than before are written.
-    /// @throws 3022 duplicate key, 3314 required field is null; the record stays open then.
+    /// @throws 3022 duplicate key, 3314 required field is null, 3167 record deleted; the record stays open
+    /// then.
     void update();
     void cancelUpdate();
-    /// Deletes the current record; there is no current record until the next move.
+    /// Deletes the current record; there is no current record until the next move. @throws 3167 when it was
+    /// deleted before.
     void deleteRecord();
     [[nodiscard]] EditMode editMode() const;
 
@@ -83,7 +88,8 @@ public:
     /// Ordinal from 0. @throws RuntimeFailure 3265 for an unknown field.
     [[nodiscard]] int fieldOrdinal(const QString& name) const;
 
-    /// The value in the record being edited or added, else in the current one. @throws 3265, 3021.
+    /// The value in the record being edited or added, else in the current one. @throws 3265, 3021,
+    /// 3167 after its own deletion.
     [[nodiscard]] const Value& value(int ordinal) const;
     [[nodiscard]] const Value& value(const QString& name) const { return value(fieldOrdinal(name)); }
     /// Converts to the field's type. @throws 3421 when the value does not convert, 3163 when a text is too

@@ -3,8 +3,7 @@
 
 #include "store/FieldConversion.h"
 #include "store/PreparedStatement.h"
-
-#include <sqlite3.h>
+#include "store/Savepoint.h"
 
 #include <algorithm>
 #include <iterator>
@@ -97,33 +96,6 @@ std::vector<Value> defaultsOf(const TableDefinition& table)
     }
     return values;
 }
-
-/// Undoes what was done since it was made unless it is kept; works inside a transaction and outside.
-class Savepoint
-{
-public:
-    explicit Savepoint(sqlite3* connection) : m_connection(connection) { run("SAVEPOINT definitions"); }
-    ~Savepoint()
-    {
-        if (m_kept)
-            return;
-        sqlite3_exec(m_connection, "ROLLBACK TO definitions", nullptr, nullptr, nullptr);
-        sqlite3_exec(m_connection, "RELEASE definitions", nullptr, nullptr, nullptr);
-    }
-    Savepoint(const Savepoint&) = delete;
-    Savepoint& operator=(const Savepoint&) = delete;
-    void keep()
-    {
-        run("RELEASE definitions");
-        m_kept = true;
-    }
-
-private:
-    void run(const char* sql) { PreparedStatement(m_connection, sql, u"Definitions."_s).run(); }
-
-    sqlite3* m_connection;
-    bool m_kept = false;
-};
 
 constexpr const char* definitionTables[] = {
     "CREATE TABLE norvane_field (table_name TEXT COLLATE NOCASE, ordinal INTEGER, name TEXT, type TEXT, "

@@ -193,6 +193,24 @@ void changeWildcards(Tokens& tokens)
     }
 }
 
+/// The name that a token stands for; empty when it is none.
+QString nameOf(const Token& token)
+{
+    if (token.kind == Kind::Name)
+        return token.text.mid(1, token.text.size() - 2);
+    return token.kind == Kind::Word ? token.text : QString();
+}
+
+QString tableDeletedFrom(const Tokens& tokens)
+{
+    if (tokens.isEmpty() || !tokens.first().isWord("delete"))
+        return {};
+    const auto from =
+        std::find_if(tokens.begin(), tokens.end(), [](const Token& t) { return t.isWord("from"); });
+    const auto table = nextAfter(tokens, from - tokens.begin());
+    return table < tokens.size() ? nameOf(tokens.at(table)) : QString();
+}
+
 QString joined(const Tokens& tokens)
 {
     QString sql;
@@ -258,7 +276,7 @@ TranslatedSql translateSql(const QString& statement)
     changeWords(tokens);
     changeWildcards(tokens);
     const bool changes = !tokens.isEmpty() && isOneOf(tokens.first(), {"delete", "update", "insert"});
-    return {joined(tokens), withRowIdOf(tokens), changes};
+    return {joined(tokens), withRowIdOf(tokens), changes, tableDeletedFrom(tokens)};
 }
 
 QString loneTableName(const QString& statement)
@@ -267,10 +285,7 @@ QString loneTableName(const QString& statement)
     dropEnd(tokens);
     if (tokens.size() != 1)
         return {};
-    const auto& token = tokens.first();
-    if (token.kind == Kind::Name)
-        return token.text.mid(1, token.text.size() - 2);
-    return token.kind == Kind::Word ? token.text : QString();
+    return nameOf(tokens.first());
 }
 
 } // namespace norvane::store

@@ -16,6 +16,7 @@ struct TranslatedSql {
     /// whose rows may be edited; empty when the statement joins, groups or counts.
     QString withRowId;
     bool changesRecords = false; ///< it deletes, updates or inserts
+    QString deletesFrom{};       ///< the table that it deletes from; empty for any other statement
 };
 
 [[nodiscard]] TranslatedSql translateSql(const QString& statement);

@@ -293,5 +293,29 @@ TEST_F(OptionFormTest, TwoScreensOnOneTableHoldTheirOwnPlaces)
     EXPECT_EQ(name(first), "Food");
 }
 
+TEST_F(OptionFormTest, ARecordThatAnotherScreenReplacedIsNotOverwritten)
+{
+    const Form first = open();
+    const Form second = open();
+    for (const Form* form : {&first, &second}) {
+        press(*form, "NextRecord");
+        press(*form, "NextRecord");
+    }
+    m_boxes.answers = {true, true};
+    press(second, "DeleteRecord");
+    press(second, "AddRecord");
+    type(second, "IntegerNumberControl_1", "4");
+    type(second, "TextControl_1", "Spirits");
+    press(second, "SaveRecord");
+    type(first, "TextControl_1", "Snacks");
+    press(first, "SaveRecord");
+    EXPECT_EQ(groupNames(), "Wines Beers Spirits");
+    EXPECT_EQ(name(first), "Snacks") << "for the user to save elsewhere";
+    press(first, "DeleteRecord");
+    EXPECT_EQ(groupNames(), "Wines Beers Spirits");
+    EXPECT_EQ(name(first), "Wines");
+    EXPECT_EQ(failureNumber(), 0);
+}
+
 } // namespace
 } // namespace norvane::screens

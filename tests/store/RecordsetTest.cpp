@@ -1,6 +1,8 @@
 // Walking, seeking and storing records of a table.
 #include "tests/store/StoreFolder.h"
 
+#include <functional>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::store::test
@@ -100,7 +102,7 @@ TEST_F(RecordsetTest, HoldsItsPlaceWhereTheRecordWasDeleted)
     other.seek(Seek::Equal, text("03"));
     m_records.deleteRecord();
     EXPECT_FALSE(m_records.hasCurrent());
-    EXPECT_EQ(failureOf([&] { m_records.edit(); }), 3021);
+    EXPECT_EQ(failureOf([&] { m_records.edit(); }), 3167);
     other.movePrevious();
     EXPECT_EQ(other.value(0), text("01"));
     m_records.moveNext();
@@ -108,9 +110,58 @@ TEST_F(RecordsetTest, HoldsItsPlaceWhereTheRecordWasDeleted)
     other.moveNext();
     EXPECT_EQ(other.value(0), text("03"));
     other.deleteRecord();
-    EXPECT_EQ(failureOf([&] { m_records.edit(); }), 3021);
+    EXPECT_EQ(failureOf([&] { m_records.deleteRecord(); }), 3167);
+    EXPECT_EQ(failureOf([&] { m_records.edit(); }), 3167);
     m_records.movePrevious();
     EXPECT_EQ(number(), "01");
+}
+
+TEST_F(RecordsetTest, ADeletedRecordNeverBecomesAnotherThatComesLater)
+{
+    const auto addLast = [](Recordset& records) {
+        add(records, {{"NUMBER", text("06")}});
+    };
+    Database elsewhere(m_folder.path());
+    auto other = elsewhere.openTable(items);
+    const std::function<void()> replacements[] = {
+        [&] {
+            other.moveLast();
+            other.deleteRecord();
+            addLast(other);
+        },
+        [&] {
+            elsewhere.execute(u"delete from [items] where number = '05'"_s);
+            Database later(m_folder.path());
+            auto records = later.openTable(items);
+            addLast(records);
+        },
+        [&] { // as an upload does
+            const Transaction transaction(elsewhere);
+            elsewhere.execute(u"Delete * From ITEMS"_s);
+            for (int i = 0; i < 10; ++i)
+                add(other, {{"NUMBER", Value::text("0" + std::to_string(i))}});
+            other.deleteRecord();
+            add(other, {{"NUMBER", text("0a")}});
+        },
+    };
+    for (const auto& replace : replacements) {
+        m_database.execute(u"delete * from items"_s);
+        fill();
+        m_records.moveLast();
+        auto editing = m_database.openTable(items);
+        editing.moveLast();
+        editing.edit();
+        editing.setValue(group, Value::whole(99));
+        auto rows = m_database.openQuery(u"select NUMBER, GROUPNO from items order by NUMBER"_s);
+        rows.moveLast();
+        replace();
+        EXPECT_EQ(failureOf([&] { editing.update(); }), 3167);
+        EXPECT_EQ(failureOf([&] { m_records.edit(); }), 3167);
+        EXPECT_EQ(failureOf([&] { rows.edit(); }), 3167);
+        m_records.movePrevious();
+        EXPECT_EQ(number(), "04");
+        EXPECT_EQ(m_database.execute(u"delete * from items where groupno = 99"_s), 0);
+    }
 }
 
 TEST_F(RecordsetTest, SeeksByTheCurrentIndex)

@@ -1,0 +1,29 @@
+// Several statements that are done wholly or not at all.
+#pragma once
+
+struct sqlite3;
+
+namespace norvane::store
+{
+
+/// Undoes what was done since it was made unless it is kept. Works inside a transaction and outside, where
+/// keeping it commits.
+class Savepoint
+{
+public:
+    /// @throws RuntimeFailure as the engine reports.
+    explicit Savepoint(sqlite3* connection);
+    ~Savepoint();
+    Savepoint(const Savepoint&) = delete;
+    Savepoint& operator=(const Savepoint&) = delete;
+    /// @throws RuntimeFailure as the engine reports; everything is undone then.
+    void keep();
+
+private:
+    void run(const char* sql) const;
+
+    sqlite3* m_connection;
+    bool m_kept = false;
+};
+
+} // namespace norvane::store
