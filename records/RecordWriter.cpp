@@ -249,7 +249,12 @@ void RecordWriter::append(std::string& out, const OptionsColumn& column, const S
 {
     const int left = digitOf(step.digits[0]);
     const int right = digitOf(step.digits[1]);
-    out += column.isBare ? std::to_string(10 * left + right) : std::to_string(left) + std::to_string(right);
+    if (column.isBare) {
+        out += std::to_string(10 * left + right);
+    } else {
+        out += std::to_string(left);
+        out += std::to_string(right);
+    }
 }
 
 /// A code that stands for no character of the register is sent as blanks.

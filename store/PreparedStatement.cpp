@@ -29,21 +29,54 @@ QString fromColumn(const char* text)
 void readText(sqlite3_stmt* statement, int column, Value& value)
 {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-    value.setText(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+    if (text == nullptr) {
+        value.setNull();
+    } else {
+        value.setText(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+    }
+}
+
+/// A null reads as 0, so only a 0 has to be asked.
+template <typename Number>
+bool isNull(sqlite3_stmt* statement, int column, Number read)
+{
+    return read == 0 && sqlite3_column_type(statement, column) == SQLITE_NULL;
+}
+
+void readYesNo(sqlite3_stmt* statement, int column, Value& value)
+{
+    const int yes = sqlite3_column_int(statement, column);
+    isNull(statement, column, yes) ? value.setNull() : value.setYesNo(yes != 0);
+}
+
+void readWhole(sqlite3_stmt* statement, int column, Value& value)
+{
+    const std::int64_t number = sqlite3_column_int64(statement, column);
+    isNull(statement, column, number) ? value.setNull() : value.setWhole(number);
+}
+
+void readNumber(sqlite3_stmt* statement, int column, Value& value)
+{
+    const double number = sqlite3_column_double(statement, column);
+    isNull(statement, column, number) ? value.setNull() : value.setNumber(number);
+}
+
+void readDay(sqlite3_stmt* statement, int column, Value& value)
+{
+    readText(statement, column, value);
+    if (!value.isNull())
+        value = Value::date(value.toDate());
 }
 
 void readAsStored(sqlite3_stmt* statement, int column, Value& value)
 {
     switch (sqlite3_column_type(statement, column)) {
     case SQLITE_INTEGER:
-        value = Value::whole(sqlite3_column_int64(statement, column));
-        break;
+        return readWhole(statement, column, value);
     case SQLITE_FLOAT:
-        value = Value::number(sqlite3_column_double(statement, column));
-        break;
+        return readNumber(statement, column, value);
     default:
-        readText(statement, column, value);
-        break;
+        return readText(statement, column, value);
     }
 }
 
@@ -51,23 +84,17 @@ void readAs(sqlite3_stmt* statement, int column, FieldType type, Value& value)
 {
     switch (type) {
     case FieldType::YesNo:
-        value = Value::yesNo(sqlite3_column_int(statement, column) != 0);
-        break;
+        return readYesNo(statement, column, value);
     case FieldType::Long:
     case FieldType::Counter:
-        value = Value::whole(sqlite3_column_int64(statement, column));
-        break;
+        return readWhole(statement, column, value);
     case FieldType::Double:
-        value = Value::number(sqlite3_column_double(statement, column));
-        break;
+        return readNumber(statement, column, value);
     case FieldType::Digits:
     case FieldType::Text:
-        readText(statement, column, value);
-        break;
+        return readText(statement, column, value);
     case FieldType::Date:
-        readText(statement, column, value);
-        value = Value::date(value.toDate());
-        break;
+        return readDay(statement, column, value);
     }
 }
 
@@ -166,13 +193,7 @@ qint64 PreparedStatement::run()
 void PreparedStatement::read(int column, std::optional<FieldType> type, Value& value)
 {
     auto* statement = m_statement.get();
-    if (sqlite3_column_type(statement, column) == SQLITE_NULL) {
-        value = Value();
-    } else if (type) {
-        readAs(statement, column, *type, value);
-    } else {
-        readAsStored(statement, column, value);
-    }
+    type ? readAs(statement, column, *type, value) : readAsStored(statement, column, value);
 }
 
 std::int64_t PreparedStatement::whole(int column)

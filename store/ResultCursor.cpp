@@ -67,9 +67,9 @@ const Row* ReadRows::load(qint64 position)
 
 RowsOfTable::RowsOfTable(Database::Private& database, PreparedStatement& select,
                          std::shared_ptr<const TableShape> shape)
-    : m_shape(std::move(shape)),
-      m_byRowId(database.connection(),
-                selectFields(*m_shape, [](int) { return true; }) + " WHERE _rowid_ = ?1", m_shape->name())
+    : m_shape(std::move(shape)), m_fields(allOrdinals(*m_shape)),
+      m_byRowId(database.connection(), selectFields(*m_shape, m_fields) + " WHERE _rowid_ = ?1",
+                m_shape->name())
 {
     const StatementRun run(select);
     const int rowIdColumn = select.columnCount() - 1;
@@ -83,7 +83,7 @@ const Row* RowsOfTable::load(qint64 position)
     m_byRowId.bind(1, m_rowIds.at(static_cast<std::size_t>(position)));
     if (!m_byRowId.step())
         return nullptr;
-    readFields(m_byRowId, *m_shape, m_current);
+    readFields(m_byRowId, *m_shape, m_fields, m_current);
     return &m_current;
 }
 

@@ -72,6 +72,7 @@ protected:
 
 private:
     std::shared_ptr<const TableShape> m_shape;
+    std::vector<int> m_fields; ///< all of them
     PreparedStatement m_byRowId;
     std::vector<std::int64_t> m_rowIds;
     Row m_current;

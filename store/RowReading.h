@@ -5,31 +5,41 @@
 #include "store/PreparedStatement.h"
 #include "store/Schema.h"
 
+#include <numeric>
 #include <string>
+#include <vector>
 
 namespace norvane::store
 {
 
-/// The beginning of a statement that reads the fields of a shape and the row id: "SELECT ... FROM ...". A
-/// field for which @p isRead (ordinal) is false is left unread and null, at its place all the same.
-template <typename IsRead>
-[[nodiscard]] std::string selectFields(const TableShape& shape, IsRead isRead)
+/// Ordinals of all fields of a shape.
+[[nodiscard]] inline std::vector<int> allOrdinals(const TableShape& shape)
+{
+    std::vector<int> ordinals(static_cast<std::size_t>(shape.definition().fields.size()));
+    std::iota(ordinals.begin(), ordinals.end(), 0);
+    return ordinals;
+}
+
+/// Begins a statement that reads the fields of these ordinals and the row id: "SELECT ... FROM ...".
+[[nodiscard]] inline std::string selectFields(const TableShape& shape, const std::vector<int>& ordinals)
 {
     std::string sql = "SELECT ";
-    for (int ordinal = 0; const auto& field : shape.definition().fields)
-        sql += (isRead(ordinal++) ? quotedName(field.name) : std::string("NULL")) + ", ";
+    for (const int ordinal : ordinals)
+        sql += quotedName(shape.definition().fields.at(ordinal).name) + ", ";
     return sql + "_rowid_ FROM " + quotedName(shape.name());
 }
 
-/// Takes over the row that such a statement stands on; @p row keeps the room that its texts have.
-inline void readFields(PreparedStatement& statement, const TableShape& shape, Row& row)
+/// Takes over the row that such a statement stands on. @p row keeps the room that its texts have, and its
+/// other fields as they are.
+inline void readFields(PreparedStatement& statement, const TableShape& shape,
+                       const std::vector<int>& ordinals, Row& row)
 {
     const auto& fields = shape.definition().fields;
-    const int count = static_cast<int>(fields.size());
-    row.values.resize(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i)
-        statement.read(i, fields.at(i).type, row.values[static_cast<std::size_t>(i)]);
-    row.rowId = statement.whole(count);
+    row.values.resize(static_cast<std::size_t>(fields.size()));
+    int column = 0;
+    for (const int ordinal : ordinals)
+        statement.read(column++, fields.at(ordinal).type, row.values[static_cast<std::size_t>(ordinal)]);
+    row.rowId = statement.whole(column);
 }
 
 } // namespace norvane::store

@@ -71,6 +71,7 @@ void TableCursor::setIndex(const IndexDefinition* index)
 {
     m_index = index;
     m_keyOrdinal = index ? m_shape->ordinal(index->field).value_or(-1) : -1;
+    chooseFields();
     m_statements = {};
     m_filled = 0;
 }
@@ -88,7 +89,7 @@ PreparedStatement& TableCursor::statement(Access access)
     if (!statement) {
         const auto& words = accesses.at(access);
         const std::string sql =
-            selectFields(*m_shape, [this](int ordinal) { return isRead(ordinal); }) +
+            selectFields(*m_shape, m_fields) +
             (m_index ? withKeyName(words.withKey, quotedName(m_index->field)) : words.withoutKey);
         statement = std::make_unique<PreparedStatement>(
             m_database.connection(), sql, u"%1, table %2."_s.arg(m_database.path(), m_shape->name()));
@@ -96,16 +97,22 @@ PreparedStatement& TableCursor::statement(Access access)
     return *statement;
 }
 
-bool TableCursor::isRead(int ordinal) const
-{
-    return m_onlyFields.empty() || ordinal == m_keyOrdinal ||
-           std::find(m_onlyFields.begin(), m_onlyFields.end(), ordinal) != m_onlyFields.end();
-}
-
 void TableCursor::limitTo(const std::vector<int>& fields)
 {
     m_onlyFields = fields;
+    m_rows.clear();
+    m_spare.clear();
     setIndex(m_index);
+}
+
+/// Those asked for and the key, each once.
+void TableCursor::chooseFields()
+{
+    m_fields = m_onlyFields.empty() ? allOrdinals(*m_shape) : m_onlyFields;
+    if (m_keyOrdinal >= 0)
+        m_fields.push_back(m_keyOrdinal);
+    std::ranges::sort(m_fields);
+    m_fields.erase(std::ranges::unique(m_fields).begin(), m_fields.end());
 }
 
 /// Reads up to @p most rows and stands on the first. Nothing changes when there is none.
@@ -119,7 +126,7 @@ bool TableCursor::read(Access access, const Value& key, std::int64_t rowId, std:
     for (; count < most && select.step(); ++count) {
         if (count == m_spare.size())
             m_spare.emplace_back();
-        readFields(select, *m_shape, m_spare[count]);
+        readFields(select, *m_shape, m_fields, m_spare[count]);
     }
     if (count == 0)
         return false;

@@ -77,7 +77,7 @@ private:
     static const std::array<AccessSql, AccessCount> accesses;
 
     PreparedStatement& statement(Access access);
-    [[nodiscard]] bool isRead(int ordinal) const;
+    void chooseFields();
     bool read(Access access, const Value& key, std::int64_t rowId, std::size_t most = 1);
     [[nodiscard]] bool isFresh() const;
     [[nodiscard]] bool placeHasNoKey() const;
@@ -91,7 +91,8 @@ private:
     const IndexDefinition* m_index = nullptr;
     int m_keyOrdinal = -1;
     int m_counterOrdinal = -1;
-    std::vector<int> m_onlyFields; ///< empty: all
+    std::vector<int> m_onlyFields; ///< asked for; empty: all
+    std::vector<int> m_fields;     ///< read
     std::array<std::unique_ptr<PreparedStatement>, AccessCount> m_statements;
 
     std::vector<Row> m_rows;  ///< the first m_filled of them are the rows read, m_at is the place

@@ -46,7 +46,11 @@ public:
     /// The text itself of a text value, empty otherwise. Lives as long as the value does.
     [[nodiscard]] std::string_view textView() const;
 
-    /// Makes this a text; a walk that reads row after row into one value allocates nothing anew.
+    /// The same value kinds for a walk that reads row after row into one value: a text keeps its room.
+    void setNull() { m_data = std::monostate(); }
+    void setYesNo(bool yes) { m_data = yes; }
+    void setWhole(std::int64_t number) { m_data = number; }
+    void setNumber(double number) { m_data = number; }
     void setText(const char* utf8, std::size_t length);
 
     using Data = std::variant<std::monostate, bool, std::int64_t, double, std::string, QDate>;
