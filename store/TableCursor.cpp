@@ -111,8 +111,8 @@ void TableCursor::chooseFields()
     m_fields = m_onlyFields.empty() ? allOrdinals(*m_shape) : m_onlyFields;
     if (m_keyOrdinal >= 0)
         m_fields.push_back(m_keyOrdinal);
-    std::ranges::sort(m_fields);
-    m_fields.erase(std::ranges::unique(m_fields).begin(), m_fields.end());
+    std::sort(m_fields.begin(), m_fields.end());
+    m_fields.erase(std::unique(m_fields.begin(), m_fields.end()), m_fields.end());
 }
 
 /// Reads up to @p most rows and stands on the first. Nothing changes when there is none.
