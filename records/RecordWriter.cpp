@@ -34,12 +34,13 @@ class ValueText
 public:
     explicit ValueText(const Value& value)
     {
-        if (value.isText())
+        if (value.isText()) {
             m_view = value.textView();
-        else if (value.isYesNo())
+        } else if (value.isYesNo()) {
             m_view = value.isTrue() ? "1" : "0";
-        else
+        } else {
             m_view = m_own = value.toUtf8();
+        }
     }
     ValueText(const ValueText&) = delete;
     ValueText& operator=(const ValueText&) = delete;
