@@ -15,8 +15,9 @@ namespace norvane::link
 
 LinkForm::LinkForm(const char* name, const char* runCaption, const ApplicationValues& values, Boxes& boxes,
                    QWidget* parent)
-    : QDialog(parent), m_values(values), m_boxes(boxes), m_line(makeSerialLine()),
-      m_clock(std::make_unique<SystemClock>())
+    : QDialog(parent), m_values(values), m_boxes(boxes),
+      m_tool(this, boxes, [this](const QString& text) { StatusBar1->setRunning(text); }),
+      m_line(makeSerialLine()), m_clock(std::make_unique<SystemClock>())
 {
     ui::nameControl(*this, QLatin1String(name));
     Communicate = addButton("Communicate", runCaption);
@@ -161,7 +162,7 @@ void LinkForm::leave()
 
 RunOutside LinkForm::outside()
 {
-    return {.runAndWait = [this](const QString& line) { return RunAndWait(m_values, line); },
+    return {.runAndWait = [this](const QString& line) { return m_tool.run(m_values, line); },
             .readStatus = ReadStatusOut,
             .showStep = [this](const QString& text) { StatusBar1->setStep(text); },
             .showNotice = [this](const QString& text) { StatusBar1->setNotice(text); },

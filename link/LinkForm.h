@@ -7,6 +7,7 @@
 #include "link/LinkSettings.h"
 #include "link/Modem.h"
 #include "link/RunOutside.h"
+#include "link/ToolWait.h"
 #include "platform/SerialLine.h"
 #include "ui/WaitPointer.h"
 
@@ -26,8 +27,9 @@ class StatusLine;
 namespace norvane::link
 {
 
-/// Base of the forms that speak with the registers. A run blocks the window. It handles events only while the
-/// modem waits and once before each tool, so that the user can leave.
+/// Base of the forms that speak with the registers. A run handles events while the modem waits and once
+/// before each tool, so that the user can leave. While a tool runs the window is painted, but keys and clicks
+/// wait.
 class LinkForm : public QDialog
 {
     Q_OBJECT
@@ -36,6 +38,7 @@ public:
     /// Replace the machine's serial line and clock; before the first run.
     void setSerialLine(std::unique_ptr<SerialLine> line);
     void setClock(std::unique_ptr<Clock> clock);
+    void setToolPatience(const ToolPatience& patience) { m_tool.setPatience(patience); }
 
 public Q_SLOTS:
     /// The "E&xit" button, Escape and the window's close button: hangs up a modem and leaves, even while it
@@ -85,6 +88,7 @@ private:
     [[nodiscard]] int dial();
     void leave();
 
+    ToolWait m_tool;
     std::unique_ptr<SerialLine> m_line;
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<Modem> m_modem;

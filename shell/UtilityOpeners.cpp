@@ -1,7 +1,9 @@
 // Runs price utilities and logo images for the main window; see UtilityOpeners.h.
 #include "shell/UtilityOpeners.h"
 
+#include "link/ToolWait.h"
 #include "shell/LongWork.h"
+#include "shell/MainStatusBar.h"
 #include "utilities/LogoImages.h"
 #include "utilities/PriceUtilities.h"
 
@@ -25,6 +27,18 @@ void runUtility(FrmMain& main, const utilities::PriceUtility& utility, const App
     utilities::runPriceUtility(utility, values.databasePath, boxes, {begin, everyRow});
 }
 
+/// The status bar's panel counts the seconds in which the converter is open.
+void runConversion(FrmMain& main, const utilities::LogoConversion& conversion,
+                   const ApplicationValues& values, Boxes& boxes)
+{
+    const QString before = main.statusBar1().panel();
+    link::ToolWait converter(nullptr, boxes, [&](const QString& running) {
+        main.statusBar1().setPanel(running.isEmpty() ? before : running);
+    });
+    utilities::convertLogoImages(conversion, values, boxes,
+                                 [&](const QString& line) { return converter.run(values, line); });
+}
+
 } // namespace
 
 FrmMain::FormOpeners makeUtilityOpeners(const ApplicationValues& values, Boxes& boxes)
@@ -35,8 +49,8 @@ FrmMain::FormOpeners makeUtilityOpeners(const ApplicationValues& values, Boxes& 
                        [&](FrmMain& main, const MenuEntry&) { runUtility(main, utility, values, boxes); });
     }
     for (const auto& conversion : utilities::logoConversions()) {
-        openers.insert(conversion.handler, [&](FrmMain&, const MenuEntry&) {
-            utilities::convertLogoImages(conversion, values, boxes);
+        openers.insert(conversion.handler, [&](FrmMain& main, const MenuEntry&) {
+            runConversion(main, conversion, values, boxes);
         });
     }
     return openers;

@@ -18,19 +18,26 @@ StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent)
 void StatusLine::setStep(const QString& text)
 {
     m_step = text.trimmed();
-    showBoth();
+    showAll();
+}
+
+void StatusLine::setRunning(const QString& text)
+{
+    m_running = text;
+    showAll();
 }
 
 void StatusLine::setNotice(const QString& text)
 {
     m_notice = text;
-    showBoth();
+    showAll();
 }
 
-void StatusLine::showBoth()
+void StatusLine::showAll()
 {
-    const bool both = !m_step.isEmpty() && !m_notice.isEmpty();
-    showMessage(m_step + (both ? u"    "_s : u""_s) + m_notice);
+    QStringList texts{m_step, m_running, m_notice};
+    texts.removeAll(QString());
+    showMessage(texts.join(u"    "_s));
 }
 
 } // namespace norvane::ui

@@ -6,7 +6,8 @@
 namespace norvane::ui
 {
 
-/// Names the step in work and, beside it, a notice that stands until it is replaced.
+/// Names the step in work and, beside it, how long it has been running and a notice that stands until it is
+/// replaced.
 class StatusLine : public QStatusBar
 {
     Q_OBJECT
@@ -15,12 +16,14 @@ public:
     explicit StatusLine(QWidget* parent = nullptr);
 
     void setStep(const QString& text);
+    void setRunning(const QString& text);
     void setNotice(const QString& text);
 
 private:
-    void showBoth();
+    void showAll();
 
     QString m_step;
+    QString m_running;
     QString m_notice;
 };
 

@@ -1,7 +1,6 @@
 // Notices and start of the converter; see LogoImages.h.
 #include "utilities/LogoImages.h"
 
-#include "base/SharedRoutines.h"
 #include "platform/FilePaths.h"
 
 #include <array>
@@ -35,12 +34,13 @@ std::span<const LogoConversion> logoConversions()
     return conversions;
 }
 
-void convertLogoImages(const LogoConversion& conversion, const ApplicationValues& values, Boxes& boxes)
+void convertLogoImages(const LogoConversion& conversion, const ApplicationValues& values, Boxes& boxes,
+                       const std::function<ChildResult(const QString& commandLine)>& runAndWait)
 {
     boxes.message(notice(conversion));
     // In quotes, since the folder's name may have blanks.
     if (conversion.startsConverter)
-        RunAndWait(values, u'"' + joinPath(values.appPath, u"conv_nv.exe"_s) + u'"');
+        runAndWait(u'"' + joinPath(values.appPath, u"conv_nv.exe"_s) + u'"');
 }
 
 } // namespace norvane::utilities

@@ -3,9 +3,11 @@
 
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
+#include "platform/ChildProcess.h"
 
 #include <QLatin1StringView>
 
+#include <functional>
 #include <span>
 
 namespace norvane::utilities
@@ -20,8 +22,9 @@ struct LogoConversion {
 
 [[nodiscard]] std::span<const LogoConversion> logoConversions();
 
-/// Tells what the images must be like, then runs the converter from the program's folder and waits until the
-/// user closes it. Nothing happens after the notice when the converter is missing.
-void convertLogoImages(const LogoConversion& conversion, const ApplicationValues& values, Boxes& boxes);
+/// Tells what the images must be like, then runs the converter from the program's folder with @p runAndWait,
+/// which waits until the user closes it. Nothing happens after the notice when the converter is missing.
+void convertLogoImages(const LogoConversion& conversion, const ApplicationValues& values, Boxes& boxes,
+                       const std::function<ChildResult(const QString& commandLine)>& runAndWait);
 
 } // namespace norvane::utilities

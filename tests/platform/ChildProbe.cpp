@@ -1,5 +1,5 @@
-// A child that writes its working directory and its words: "log <file> <words>...", hangs until it is ended:
-// "hang <file>" (written first), or ends by a signal.
+// A child that writes its working directory and its words: "log <file> <words>...", hangs as long as
+// the file is there: "hang <file>", or ends by a signal.
 #include <chrono>
 #include <csignal>
 #include <filesystem>
@@ -16,7 +16,7 @@ int main(int argc, char** argv)
     for (int i = 3; i < argc; ++i)
         log << argv[i] << '\n';
     log.close();
-    while (argv[1] == std::string_view("hang"))
-        std::this_thread::sleep_for(std::chrono::hours(1));
+    while (argv[1] == std::string_view("hang") && std::filesystem::exists(argv[2]))
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     return 8;
 }

@@ -1,0 +1,212 @@
+// The filter that keeps keys and clicks from the windows, and the offer to end a tool; see ToolWait.h.
+#include "link/ToolWait.h"
+
+#include "base/SharedRoutines.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScopeGuard>
+#include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::link
+{
+namespace
+{
+
+/// What reaches no window while a tool runs. A close is among them: it would ask, or end the run's form.
+constexpr std::array blocked{
+    QEvent::KeyPress,
+    QEvent::KeyRelease,
+    QEvent::ShortcutOverride,
+    QEvent::Shortcut,
+    QEvent::InputMethod,
+    QEvent::MouseButtonPress,
+    QEvent::MouseButtonRelease,
+    QEvent::MouseButtonDblClick,
+    QEvent::MouseMove,
+    QEvent::Wheel,
+    QEvent::ContextMenu,
+    QEvent::TouchBegin,
+    QEvent::TouchUpdate,
+    QEvent::TouchEnd,
+    QEvent::TouchCancel,
+    QEvent::TabletPress,
+    QEvent::TabletMove,
+    QEvent::TabletRelease,
+    QEvent::DragEnter,
+    QEvent::DragMove,
+    QEvent::Drop,
+    QEvent::Close,
+};
+
+/// Those of them that mean something later.
+constexpr std::array worthKeeping{
+    QEvent::KeyPress,           QEvent::KeyRelease,          QEvent::Shortcut, QEvent::MouseButtonPress,
+    QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick, QEvent::Close,
+};
+
+template <std::size_t count>
+bool holds(const std::array<QEvent::Type, count>& types, QEvent::Type type)
+{
+    return std::find(types.begin(), types.end(), type) != types.end();
+}
+
+bool isEscape(const QEvent& event)
+{
+    return (event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease) &&
+           static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+}
+
+/// A key that is held down is reported again and again.
+bool isRepeated(const QEvent& event)
+{
+    return static_cast<const QKeyEvent&>(event).isAutoRepeat();
+}
+
+bool isMouse(const QEvent& event)
+{
+    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonRelease ||
+           event.type() == QEvent::MouseButtonDblClick;
+}
+
+/// The widget of @p window that the event is for.
+const QWidget* target(const QWidget& window, const QEvent& event)
+{
+    if (!isMouse(event))
+        return QApplication::focusWidget();
+    const QPoint place = static_cast<const QMouseEvent&>(event).position().toPoint();
+    return window.childAt(place);
+}
+
+} // namespace
+
+ToolWait::ToolWait(QWidget* form, Boxes& boxes, std::function<void(const QString& text)> showRunning)
+    : m_form(form), m_boxes(boxes), m_showRunning(std::move(showRunning))
+{
+}
+
+ToolWait::~ToolWait() = default;
+
+ChildResult ToolWait::run(const ApplicationValues& values, const QString& commandLine)
+{
+    const QString tool = commandWords(commandLine).value(0).section(u'/', -1);
+    m_shown = std::chrono::seconds(0);
+    m_escape.invalidate();
+    ChildResult result{};
+    {
+        const auto ended = qScopeGuard([this] {
+            qApp->removeEventFilter(this);
+            m_showRunning({});
+        });
+        result = RunAndWait(values, commandLine, {[&](auto running) {
+                                return goOn(tool, running);
+                            }});
+    }
+    handOver();
+    return result;
+}
+
+bool ToolWait::goOn(const QString& tool, std::chrono::milliseconds running)
+{
+    // Not before the first look: pending events still reach the windows before the tool starts. Installing it
+    // again moves it to the front.
+    m_modal = QApplication::activeModalWidget();
+    qApp->installEventFilter(this);
+    showSeconds(running);
+    QCoreApplication::processEvents();
+    const bool asks = running >= m_patience.hangsAfter && m_escape.isValid() &&
+                      m_escape.hasExpired(m_patience.held.count());
+    return !asks || !mayBeEnded(tool, running);
+}
+
+void ToolWait::showSeconds(std::chrono::milliseconds running)
+{
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(running);
+    if (seconds == std::exchange(m_shown, seconds))
+        return;
+    const QString text = u"%1 s"_s.arg(seconds.count());
+    m_showRunning(running < m_patience.hangsAfter ? text : text + u" (to end it, hold Escape)"_s);
+}
+
+bool ToolWait::mayBeEnded(const QString& tool, std::chrono::milliseconds running)
+{
+    // This Escape, and those tried before it, are not meant for the form.
+    std::erase_if(m_kept, [](const KeptEvent& kept) { return isEscape(*kept.event); });
+    m_escape.invalidate();
+    return m_boxes.ask(u"%1 has been running for %2 seconds and may be hanging.\r\r"
+                       "Do you want to end it? What it was moving will not be complete."_s.arg(tool)
+                           .arg(std::chrono::floor<std::chrono::seconds>(running).count()),
+                       u"Please Check"_s, BoxIcon::Question, BoxAnswer::No);
+}
+
+bool ToolWait::eventFilter(QObject* watched, QEvent* event)
+{
+    // A box that has opened since waits for its answer. The Escape that brought it up is still down and must
+    // not be that answer.
+    if (m_modal != QApplication::activeModalWidget())
+        return isEscape(*event) && isRepeated(*event);
+    followEscape(*event);
+    if (!holds(blocked, event->type()))
+        return false;
+    if (holds(worthKeeping, event->type()) && belongsToForm(*watched, *event))
+        keep(*watched, *event);
+    if (event->type() == QEvent::Close)
+        event->ignore();
+    return true;
+}
+
+void ToolWait::followEscape(const QEvent& event)
+{
+    const bool leaves = event.type() == QEvent::FocusOut || event.type() == QEvent::ApplicationStateChange;
+    if (leaves || (isEscape(event) && event.type() == QEvent::KeyRelease && !isRepeated(event)))
+        m_escape.invalidate();
+    else if (isEscape(event) && event.type() == QEvent::KeyPress && !m_escape.isValid())
+        m_escape.start();
+}
+
+/// A window gets its keys and clicks first and hands them to the widget that they are for.
+bool ToolWait::belongsToForm(const QObject& receiver, const QEvent& event) const
+{
+    if (m_form == nullptr)
+        return false;
+    const auto inForm = [this](const QObject* widget) {
+        for (const QObject* each = widget; each != nullptr; each = each->parent()) {
+            if (each == m_form)
+                return true;
+        }
+        return false;
+    };
+    if (!receiver.isWindowType())
+        return inForm(&receiver);
+    const bool ownWindow = m_form->window()->windowHandle() == &receiver;
+    if (event.type() == QEvent::Close)
+        return ownWindow && m_form->isWindow();
+    return ownWindow && inForm(target(*m_form->window(), event));
+}
+
+void ToolWait::keep(QObject& receiver, const QEvent& event)
+{
+    // A held key counts once.
+    const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
+    if (isKey && isRepeated(event))
+        return;
+    m_kept.push_back({&receiver, std::unique_ptr<QEvent>(event.clone())});
+}
+
+void ToolWait::handOver()
+{
+    for (const auto& [receiver, event] : std::exchange(m_kept, {})) {
+        if (receiver)
+            QCoreApplication::sendEvent(receiver, event.get());
+    }
+}
+
+} // namespace norvane::link
