@@ -1,16 +1,14 @@
 // Totals of whole months beside a sales table, so that a year is not added up from every row of it.
 #pragma once
 
+#include "store/Database.h"
+
 #include <QDate>
-#include <QStringList>
-#include <QVector>
 
 #include <functional>
 
 namespace norvane::store
 {
-
-class Database;
 
 /// The days from @p first to @p last, both included and both valid.
 struct DayRange {
@@ -24,7 +22,8 @@ struct DayRange {
 class MonthTotals
 {
 public:
-    /// @throws RuntimeFailure 3265 when there is no such table.
+    /// @p table is one that the catalogue finds by a day (TableDefinition::searchedField). The database must
+    /// outlive this. @throws RuntimeFailure 3265 when the file has no such table.
     MonthTotals(Database& database, const QString& table);
 
     /// Whether the file has room and triggers for totals of this table; otherwise rows() reads the rows.
@@ -53,9 +52,8 @@ public:
     [[nodiscard]] QString rows(const DayRange& days, const QStringList& fields = {}) const;
 
 private:
-    Database& m_database;
-    QString m_table;
-    QStringList m_fields;
+    Database::Private& m_database;
+    TableDefinition m_table;
     bool m_available;
 };
 

@@ -47,11 +47,6 @@ FieldType typeOfWord(const QString& word)
     return row == std::end(types) ? FieldType::Text : row->type;
 }
 
-std::string columnDeclaration(const FieldDefinition& field)
-{
-    return quotedName(field.name) + ' ' + rowOf(field.type).declaration;
-}
-
 std::string tableDeclaration(const TableDefinition& table)
 {
     std::string columns;
@@ -65,22 +60,6 @@ std::string indexDeclaration(const QString& table, int number, const IndexDefini
     const QString name = u"%1 index %2"_s.arg(table).arg(number);
     return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " + quotedName(name) + " ON " +
            quotedName(table) + " (" + quotedName(index.field) + ')';
-}
-
-/// Something that the file keeps beside a table and the definitions do not list.
-struct Companion {
-    QString name;
-    std::string declaration;
-};
-
-/// Everything that the file keeps beside a table: the index by which queries find rows of a sales table.
-std::vector<Companion> companionsOf(const TableDefinition& table)
-{
-    if (table.searchedField.isEmpty())
-        return {};
-    const QString name = table.name + u" search"_s;
-    return {{name, "CREATE INDEX " + quotedName(name) + " ON " + quotedName(table.name) + " (" +
-                       quotedName(table.searchedField) + ')'}};
 }
 
 std::vector<Value> defaultsOf(const TableDefinition& table)
@@ -107,7 +86,25 @@ constexpr const char* definitionTables[] = {
     "ROWID",
 };
 
+const char* dropWord(Companion::Kind kind)
+{
+    switch (kind) {
+    case Companion::Kind::Table:
+        return "TABLE";
+    case Companion::Kind::Index:
+        return "INDEX";
+    case Companion::Kind::Trigger:
+        return "TRIGGER";
+    }
+    return "";
+}
+
 } // namespace
+
+std::string columnDeclaration(const FieldDefinition& field)
+{
+    return quotedName(field.name) + ' ' + rowOf(field.type).declaration;
+}
 
 TableShape::TableShape(TableDefinition definition)
     : m_definition(std::move(definition)), m_defaults(defaultsOf(m_definition))
@@ -244,21 +241,47 @@ void Schema::addTable(const TableDefinition& table)
     savepoint.keep();
 }
 
-bool Schema::exists(const QString& name) const
+std::optional<QString> Schema::declarationOf(const QString& name) const
 {
-    PreparedStatement select(m_connection, "SELECT 1 FROM sqlite_schema WHERE name = ? COLLATE NOCASE",
+    PreparedStatement select(m_connection, "SELECT sql FROM sqlite_schema WHERE name = ? COLLATE NOCASE",
                              u"Definitions."_s);
     const Value key = Value::text(name);
     select.bind(1, key);
-    return select.step();
+    return select.step() ? std::optional(select.text(0)) : std::nullopt;
+}
+
+bool Schema::hasAll(const std::vector<Companion>& companions) const
+{
+    return std::all_of(companions.begin(), companions.end(), [this](const Companion& each) {
+        const auto declaration = declarationOf(each.name);
+        return declaration &&
+               QString::fromStdString(each.declaration).compare(*declaration, Qt::CaseInsensitive) == 0;
+    });
 }
 
 void Schema::completeTable(const TableDefinition& table)
 {
-    for (const auto& [name, declaration] : companionsOf(table)) {
-        if (exists(table.name) && !exists(name))
-            run(declaration, u"Table %1."_s.arg(table.name));
-    }
+    auto standing = read(table.name);
+    if (!standing || table.searchedField.isEmpty())
+        return;
+    standing->name = table.name;
+    standing->searchedField = table.searchedField;
+    const Companion index = searchIndexOf(*standing);
+    if (!declarationOf(index.name))
+        run(index.declaration, u"Table %1."_s.arg(table.name));
+    const auto companions = monthCompanionsOf(*standing);
+    if (!hasAll(companions))
+        makeAnew(companions);
+}
+
+void Schema::makeAnew(const std::vector<Companion>& companions)
+{
+    Savepoint savepoint(m_connection);
+    for (const Companion& each : companions)
+        run(std::string("DROP ") + dropWord(each.kind) + " IF EXISTS " + quotedName(each.name), each.name);
+    for (const Companion& each : companions)
+        run(each.declaration, each.name);
+    savepoint.keep();
 }
 
 void Schema::addField(const TableDefinition& table, const FieldDefinition& field)

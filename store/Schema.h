@@ -1,6 +1,7 @@
 // The definitions of tables as a database file tells them, and the making of tables and fields.
 #pragma once
 
+#include "store/Companions.h"
 #include "store/Definitions.h"
 #include "store/Value.h"
 
@@ -54,9 +55,13 @@ public:
     /// Makes what the file keeps beside @p table and still lacks. Writes nothing when the table is missing
     /// or nothing is lacking.
     void completeTable(const TableDefinition& table);
+    /// The engine's statement that made something of that name, nothing when there is none.
+    [[nodiscard]] std::optional<QString> declarationOf(const QString& name) const;
+    /// Whether the file keeps all of them, just as they would be made.
+    [[nodiscard]] bool hasAll(const std::vector<Companion>& companions) const;
 
 private:
-    [[nodiscard]] bool exists(const QString& name) const;
+    void makeAnew(const std::vector<Companion>& companions);
     void run(const std::string& sql, const QString& what);
     void writeField(const QString& table, int ordinal, const FieldDefinition& field);
     void writeIndex(const QString& table, int number, const IndexDefinition& index);

@@ -201,14 +201,17 @@ QString nameOf(const Token& token)
     return token.kind == Kind::Word ? token.text : QString();
 }
 
-QString tableDeletedFrom(const Tokens& tokens)
+void tellDeletion(const Tokens& tokens, TranslatedSql& translated)
 {
     if (tokens.isEmpty() || !tokens.first().isWord("delete"))
-        return {};
+        return;
     const auto from =
         std::find_if(tokens.begin(), tokens.end(), [](const Token& t) { return t.isWord("from"); });
     const auto table = nextAfter(tokens, from - tokens.begin());
-    return table < tokens.size() ? nameOf(tokens.at(table)) : QString();
+    if (table >= tokens.size())
+        return;
+    translated.deletesFrom = nameOf(tokens.at(table));
+    translated.deletesAll = table == tokens.size() - 1;
 }
 
 QString joined(const Tokens& tokens)
@@ -276,7 +279,9 @@ TranslatedSql translateSql(const QString& statement)
     changeWords(tokens);
     changeWildcards(tokens);
     const bool changes = !tokens.isEmpty() && isOneOf(tokens.first(), {"delete", "update", "insert"});
-    return {joined(tokens), withRowIdOf(tokens), changes, tableDeletedFrom(tokens)};
+    TranslatedSql translated{joined(tokens), withRowIdOf(tokens), changes};
+    tellDeletion(tokens, translated);
+    return translated;
 }
 
 QString loneTableName(const QString& statement)

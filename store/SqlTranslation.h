@@ -17,6 +17,7 @@ struct TranslatedSql {
     QString withRowId;
     bool changesRecords = false; ///< it deletes, updates or inserts
     QString deletesFrom{};       ///< the table that it deletes from; empty for any other statement
+    bool deletesAll = false;     ///< and all of its records
 };
 
 [[nodiscard]] TranslatedSql translateSql(const QString& statement);

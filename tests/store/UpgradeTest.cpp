@@ -186,7 +186,9 @@ TEST(Completion, AddsNoTableAndNoFieldThatTheUpgradeLeftOut)
     completeDatabase(folder.path());
     EXPECT_EQ(layoutIn(folder), tables);
     // The upgrade makes the three tables with their indexes; the fourth stood already.
-    const QString indexed = u"select tbl_name from sqlite_schema where name like '* search' order by 1"_s;
+    const QString indexed =
+        u"select tbl_name from sqlite_schema where name like '*sales search' and name not like 'norvane*' "
+        "order by 1"_s;
     EXPECT_EQ(valuesOf(folder, indexed).join(u' ').toUpper(), u"CLERKSALES PLUSALES TIMESALES"_s);
 }
 

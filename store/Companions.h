@@ -1,0 +1,44 @@
+// What the file keeps beside a table that grows without end, for quick queries; the definitions do not list
+// it.
+#pragma once
+
+#include "store/Definitions.h"
+
+#include <string>
+#include <vector>
+
+namespace norvane::store
+{
+
+/// A table, index or trigger of the engine and the statement that makes it. The engine keeps the statement as
+/// it stands, so a file tells whether it has this very one.
+struct Companion {
+    enum class Kind { Table, Index, Trigger } kind;
+    QString name;
+    std::string declaration;
+};
+
+/// The index by which queries find rows by TableDefinition::searchedField.
+[[nodiscard]] Companion searchIndexOf(const TableDefinition& table);
+
+/// The two tables that hold totals of months, and what keeps them right. A month that stands in the first
+/// table was added up, and its totals stand in the second; a month leaves both together. The triggers of the
+/// sales table run for every row of it, so they do no more than look for the month.
+/// They are made in this order, and only all together: totals without their triggers could be wrong.
+[[nodiscard]] std::vector<Companion> monthCompanionsOf(const TableDefinition& table);
+
+/// Holds the months, as yyyy-mm, that were added up.
+[[nodiscard]] QString addedMonthsName(const QString& table);
+/// Holds their totals, under the names of the table's fields, numbers as decimal texts.
+[[nodiscard]] QString monthTotalsName(const QString& table);
+
+/// Whether rows are added up by this field, which then holds a total; otherwise totals are kept by it.
+[[nodiscard]] inline bool isAddedUp(const FieldDefinition& field)
+{
+    return field.type == FieldType::Double;
+}
+
+/// The column of a field as a table declares it.
+[[nodiscard]] std::string columnDeclaration(const FieldDefinition& field);
+
+} // namespace norvane::store
