@@ -64,12 +64,48 @@ bool copyTemplate(const ApplicationValues& values, const QString& name)
     return QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
 }
 
-/// Makes a customer of the new folder @p path.
-CustomerChoice fillFolder(ApplicationValues& values, const QString& path)
+/// A copy that is cut off leaves a file of this name, never a part of the database.
+const auto unfinishedCopy = u"qt_temp.*"_s;
+
+bool hasTemplateCopy(const QString& path, const QString& name)
 {
-    values.customerPath = existingPath(path);
-    const bool complete = copyTemplate(values, databaseName) && copyTemplate(values, settingsName);
-    return complete ? CustomerChoice::Created : CustomerChoice::Failed;
+    return QFileInfo(existingPath(joinPath(path, name))).isFile();
+}
+
+/// Whether the folder @p path holds nothing but files that a customer has: the database with its journals,
+/// the settings, kept register files and what a run notes there.
+bool holdsOnlyCustomerFiles(const QString& path)
+{
+    static const QStringList customerFiles{databaseName, databaseName + u"-*"_s, settingsName, unfinishedCopy,
+                                           u"*.dat"_s,   u"*.dat.*"_s,           u"norvane*"_s};
+    const auto entries =
+        QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    const auto files = QDir(path).entryList(customerFiles, QDir::Files | QDir::Hidden);
+    return entries.size() == files.size();
+}
+
+void removeUnfinishedCopies(const QString& path)
+{
+    QDir folder(path);
+    for (const QString& name : folder.entryList({unfinishedCopy}, QDir::Files))
+        folder.remove(name);
+}
+
+/// Copies what the customer's folder lacks.
+CustomerChoice fillFolder(const ApplicationValues& values)
+{
+    removeUnfinishedCopies(values.customerPath);
+    for (const QString& name : {databaseName, settingsName}) {
+        if (!hasTemplateCopy(values.customerPath, name) && !copyTemplate(values, name))
+            return CustomerChoice::Failed;
+    }
+    return CustomerChoice::Created;
+}
+
+bool wasCutOff(const QString& path)
+{
+    const bool complete = hasTemplateCopy(path, databaseName) && hasTemplateCopy(path, settingsName);
+    return !complete && holdsOnlyCustomerFiles(path);
 }
 
 CustomerChoice takeFolder(ApplicationValues& values, const QString& path)
@@ -77,10 +113,17 @@ CustomerChoice takeFolder(ApplicationValues& values, const QString& path)
     if (!QFileInfo(path).isDir())
         return CustomerChoice::Failed;
     values.customerPath = path;
+    const CustomerChoice choice = wasCutOff(path) ? fillFolder(values) : CustomerChoice::Taken;
     const QString database = customerDatabase(path);
     store::UpgradeDatabase(database);
     store::completeDatabase(database);
-    return CustomerChoice::Taken;
+    return choice;
+}
+
+CustomerChoice makeCustomer(ApplicationValues& values, const QString& path)
+{
+    values.customerPath = existingPath(path);
+    return fillFolder(values);
 }
 
 } // namespace
@@ -109,7 +152,7 @@ CustomerChoice chooseCustomer(ApplicationValues& values, const QString& typed)
     QString path = joinPath(values.appPath, typed);
     while (path.endsWith(QDir::separator()))
         path.chop(1);
-    return makeFolder(path) ? fillFolder(values, path) : takeFolder(values, existingPath(path));
+    return makeFolder(path) ? makeCustomer(values, path) : takeFolder(values, existingPath(path));
 }
 
 } // namespace norvane::shell

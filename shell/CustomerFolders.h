@@ -13,15 +13,17 @@ namespace norvane::shell
 
 enum class CustomerChoice {
     InvalidEntry, ///< blank name
-    Created,      ///< new folder with copies of the template database and settings
+    Created,      ///< folder with copies of the template database and settings, new or completed
     Taken,        ///< existing folder; its database was upgraded and completed
     Failed,       ///< refused name or failed step; a folder that was made stays
 };
 
-/// Takes the customer named @p typed, or makes it when there is no such folder. Always sets customerName to
-/// the text as typed; sets customerPath to the folder as it is spelled on disk, once there is one. A
-/// backslash or slash leads into a folder that exists. "..", a drive or an absolute path is Failed: no name
-/// leads out of the program's folder.
+/// Takes the customer named @p typed, or makes it when there is no such folder or its making was cut off: a
+/// folder without database or settings that holds nothing but what a customer has gets what it lacks from the
+/// templates. A folder that holds other things is none of ours and is taken as it is. Always sets
+/// customerName to the text as typed; sets customerPath to the folder as it is spelled on disk, once there is
+/// one. A backslash or slash leads into a folder that exists. "..", a drive or an absolute path is Failed: no
+/// name leads out of the program's folder.
 [[nodiscard]] CustomerChoice chooseCustomer(ApplicationValues& values, const QString& typed);
 
 /// The database of the customer whose folder is @p customerPath.

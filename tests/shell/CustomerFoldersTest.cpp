@@ -21,6 +21,13 @@ protected:
     }
 };
 
+/// The copies that a customer in @p folder needs.
+void expectTemplates(const QString& folder)
+{
+    for (const char* const name : {"velmar.mdb", "setup.ini"})
+        EXPECT_TRUE(QFileInfo(folder, QLatin1StringView(name)).isFile()) << name;
+}
+
 TEST_F(CustomerFoldersTest, FoldersAreListedInUpperCaseAndStillMeetWhenTheyArePicked)
 {
     m_folder.write("app/aroma/x", "");
@@ -29,7 +36,7 @@ TEST_F(CustomerFoldersTest, FoldersAreListedInUpperCaseAndStillMeetWhenTheyArePi
     const QStringList listed = customerFolders(m_values.appPath);
     EXPECT_EQ(listed, (QStringList{u".COM SHOP"_s, u"AROMA"_s, u"CAFE"_s, u"STRAßE ı"_s}));
     for (const QString& name : listed)
-        EXPECT_EQ(chooseCustomer(m_values, name), CustomerChoice::Taken) << name.toStdString();
+        EXPECT_NE(chooseCustomer(m_values, name), CustomerChoice::Failed) << name.toStdString();
     EXPECT_EQ(customerFolders(m_values.appPath), listed) << "nothing was made";
 }
 
@@ -55,12 +62,39 @@ TEST_F(CustomerFoldersTest, ANewNameMakesAFolderWithCopiesOfTheTemplates)
         << "the start sets it, not the choice";
 }
 
-TEST_F(CustomerFoldersTest, AHalfMadeCustomerStaysAndCanBeTaken)
+TEST_F(CustomerFoldersTest, ACustomerWhoseMakingWasCutOffIsCompletedAtTheNextChoice)
 {
+    const QByteArray settings = m_folder.read("app/setup.ini");
     QFile::remove(m_folder.path("app/setup.ini"));
     EXPECT_EQ(chooseCustomer(m_values, u"Half"_s), CustomerChoice::Failed);
     EXPECT_EQ(m_folder.read("app/Half/velmar.mdb"), "template");
-    EXPECT_EQ(chooseCustomer(m_values, u"Half"_s), CustomerChoice::Taken);
+    m_folder.write("app/setup.ini", settings);
+    QDir().mkpath(m_folder.path("app/Empty"));
+    m_folder.write("app/Killed/qt_temp.Xy12Zw", "tem");
+    m_folder.write("app/Lost/67.dat", "kept");
+    for (const char* const name : {"Half", "EMPTY", "Killed", "Lost", "Cafe"}) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(chooseCustomer(m_values, QLatin1StringView(name)), CustomerChoice::Created);
+        expectTemplates(m_values.customerPath);
+        EXPECT_EQ(chooseCustomer(m_values, QLatin1StringView(name)), CustomerChoice::Taken);
+    }
+    EXPECT_EQ(m_folder.read("app/Lost/67.dat"), "kept");
+    EXPECT_EQ(m_folder.read("app/Cafe/setup.ini"), "[SetupOption]\r\nECRModel= 0\r\n")
+        << "what was there stays";
+    EXPECT_FALSE(QFile::exists(m_folder.path("app/Killed/qt_temp.Xy12Zw")));
+}
+
+TEST_F(CustomerFoldersTest, AFolderThatHoldsOtherThingsIsLeftAlone)
+{
+    m_folder.write("app/docs/guide.html", "text");
+    m_folder.write("app/Chain/North/velmar.mdb", "template");
+    m_folder.write("app/other/setup.ini", "of an installer");
+    m_folder.write("app/other/setup.exe", "");
+    for (const char* const name : {"docs", "Chain", "other"}) {
+        const auto before = QDir(m_folder.path("app/") + QLatin1StringView(name)).entryList();
+        EXPECT_EQ(chooseCustomer(m_values, QLatin1StringView(name)), CustomerChoice::Taken) << name;
+        EXPECT_EQ(QDir(m_values.customerPath).entryList(), before) << name;
+    }
 }
 
 TEST_F(CustomerFoldersTest, ARefusedNameChangesNothingOnDisk)
