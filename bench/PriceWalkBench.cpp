@@ -11,6 +11,7 @@
 #include <benchmark/benchmark.h>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -108,7 +109,10 @@ void convertAll(const QString& path, double rate, const utilities::WalkFrame& fr
     test::RecordingBoxes boxes;
     boxes.answers.push_back(true);
     boxes.typed.push_back(QString::number(rate));
-    utilities::runPriceUtility(conversion(), path, boxes, frame);
+    ApplicationValues values;
+    values.appPath = QFileInfo(path).path();
+    values.databasePath = path;
+    utilities::runPriceUtility(conversion(), values, boxes, frame);
     require(boxes.shown.size() == 3, "the question, the rate and the end");
 }
 

@@ -2,6 +2,7 @@
 #include "link/LinkForm.h"
 
 #include "base/SharedRoutines.h"
+#include "platform/FolderLock.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 #include "ui/StatusLine.h"
@@ -86,6 +87,9 @@ void LinkForm::tabToButtonsLast(const QList<QPushButton*>& others)
 void LinkForm::communicate()
 {
     if (m_work != Work::None)
+        return;
+    const auto lock = FolderLock::take(m_values.appPath, m_boxes);
+    if (lock == nullptr)
         return;
     beginRun();
     bool leavesNow = false;

@@ -24,7 +24,7 @@ void runUtility(FrmMain& main, const utilities::PriceUtility& utility, const App
     const auto everyRow = [&] {
         work->letEventsRun();
     };
-    utilities::runPriceUtility(utility, values.databasePath, boxes, {begin, everyRow});
+    utilities::runPriceUtility(utility, values, boxes, {begin, everyRow});
 }
 
 /// The status bar's panel counts the seconds in which the converter is open.

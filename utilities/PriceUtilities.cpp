@@ -1,6 +1,7 @@
 // Table of the Utilities menu and how a row is run; see PriceUtilities.h.
 #include "utilities/PriceUtilities.h"
 
+#include "platform/FolderLock.h"
 #include "store/SalesTables.h"
 #include "utilities/PriceConversion.h"
 
@@ -93,18 +94,21 @@ std::span<const PriceUtility> priceUtilities()
     return utilities;
 }
 
-void runPriceUtility(const PriceUtility& utility, const QString& databasePath, Boxes& boxes,
+void runPriceUtility(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes,
                      const WalkFrame& frame)
 {
     if (!boxes.ask(utility.confirm.text, utility.confirm.title, BoxIcon::Question, BoxAnswer::No))
         return;
-    if (!utility.fields.empty() && !walk(utility, databasePath, boxes, frame))
+    const auto lock = FolderLock::take(values.appPath, boxes);
+    if (lock == nullptr)
+        return;
+    if (!utility.fields.empty() && !walk(utility, values.databasePath, boxes, frame))
         return;
     if (!utility.statement.isEmpty())
-        store::Database(databasePath).execute(utility.statement);
-    empty(utility.emptied, databasePath);
+        store::Database(values.databasePath).execute(utility.statement);
+    empty(utility.emptied, values.databasePath);
     boxes.message(utility.done.text, utility.done.title);
-    empty(utility.emptiedAfterwards, databasePath);
+    empty(utility.emptiedAfterwards, values.databasePath);
 }
 
 } // namespace norvane::utilities

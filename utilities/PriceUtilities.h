@@ -1,6 +1,7 @@
 // The entries of the Utilities menu: what each asks, does and tells.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 #include "utilities/PriceWalk.h"
 
@@ -40,10 +41,10 @@ struct WalkFrame {
     std::function<void()> everyRow; ///< called before each record, so it must be cheap
 };
 
-/// Asks (Enter means No), changes the database at @p databasePath and tells that it is done. Does nothing
-/// more after No or a rate of 0.
+/// Asks (Enter means No), changes the database in use and tells that it is done. Does nothing more after No,
+/// a rate of 0, or while another run holds the program's folder.
 /// @throws RuntimeFailure what the database reports; the changes before it stay.
-void runPriceUtility(const PriceUtility& utility, const QString& databasePath, Boxes& boxes,
+void runPriceUtility(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes,
                      const WalkFrame& frame);
 
 } // namespace norvane::utilities

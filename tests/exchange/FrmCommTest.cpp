@@ -3,6 +3,7 @@
 #include "exchange/FrmComm.h"
 
 #include "platform/FilePaths.h"
+#include "platform/FolderLock.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 #include "tests/support/LinkFormTest.h"
@@ -95,6 +96,21 @@ TEST_F(FrmCommTest, EndsTheFileInWorkWhenLeftInTheMidst)
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(store::Database(values.databasePath).openTable(u"memoryallocation"_s).recordCount(), 1);
     EXPECT_FALSE(pathExists(joinPath(values.customerPath, u"1.dat"_s)));
+}
+
+TEST_F(FrmCommTest, StartsNothingWhileAnotherRunHoldsTheFolder)
+{
+    box(2).setChecked(true);
+    {
+        const auto other = FolderLock::take(values.appPath, boxes);
+        upload();
+        ASSERT_EQ(boxes.shown.size(), 1U);
+        EXPECT_TRUE(boxes.shown.front().text.startsWith("Nothing was started"_L1));
+        EXPECT_FALSE(pathExists(folder.appFile(u"status.out"_s)));
+    }
+    upload();
+    EXPECT_FALSE(box(2).isChecked());
+    EXPECT_EQ(boxes.shown.size(), 1U);
 }
 
 TEST_F(FrmCommTest, DialsExchangesAndHangsUp)

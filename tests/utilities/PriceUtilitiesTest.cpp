@@ -1,4 +1,5 @@
 // The Utilities menu in the real main window: its boxes, and what is in the tables afterwards.
+#include "platform/FolderLock.h"
 #include "shell/FrmMain.h"
 #include "shell/Openers.h"
 #include "store/Recordset.h"
@@ -142,7 +143,7 @@ TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClos
     EXPECT_EQ(counts, (QStringList{u"1111111"_s, u"0000001"_s, u"0000000"_s}));
 }
 
-TEST_F(PriceUtilitiesTest, NoOpensNoDatabaseAndARateOfZeroChangesNothing)
+TEST_F(PriceUtilitiesTest, NoOpensNoDatabaseAndARateOfZeroOrAnotherRunChangesNothing)
 {
     // There is no database yet: opening it would fail.
     for (QAction* const entry : m_main.findChild<QWidget*>(u"Utils"_s)->actions())
@@ -155,6 +156,8 @@ TEST_F(PriceUtilitiesTest, NoOpensNoDatabaseAndARateOfZeroChangesNothing)
     addPlu(1, u"1, 2, 3, 4, 5, 6, 7, 8, 9, 10"_s);
     for (const char* const rate : {"", "0", "rate"})
         EXPECT_EQ(choose("TransferEuro", rate), (QStringList{toEuro, rateBox}));
+    const auto other = FolderLock::take(m_values.appPath, m_boxes);
+    EXPECT_EQ(choose("TransferEuro", "2").last().section(u':', 0, 1), u"Please Check: Nothing was started"_s);
     EXPECT_EQ(prices(), "1|2|3|4|5|6|7|8|9|10");
 }
 
