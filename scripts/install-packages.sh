@@ -7,7 +7,8 @@ set -euo pipefail
 packages=(
   g++ cmake ninja-build ccache git
   qt6-base-dev qt6-serialport-dev libgl-dev
-  libsqlitecpp-dev libsqlite3-dev
+  libsqlitecpp-dev libsqlite3-dev libxlsxwriter-dev libminizip-dev
+  poppler-utils unzip
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-dejavu-core
 )

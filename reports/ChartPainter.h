@@ -1,0 +1,18 @@
+// Paints the pictures beside a report's lines. Every value stands in words as well, and what must be told
+// apart differs in lightness, so that they read in black and white.
+#pragma once
+
+#include "reports/PageText.h"
+
+class QPainter;
+
+namespace norvane::reports
+{
+
+/// The height that @p chart looks best with, in mm.
+[[nodiscard]] double chartHeight(const Chart& chart);
+
+/// Paints @p chart into @p place. @param painter in millimetres.
+void paintChart(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text);
+
+} // namespace norvane::reports

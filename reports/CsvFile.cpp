@@ -1,0 +1,100 @@
+// The CSV; see ReportFiles.h.
+#include "reports/PageText.h"
+#include "reports/ReportFiles.h"
+#include "reports/TargetFile.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+/// Spreadsheets take the list separator of the system, which is a semicolon wherever the comma parts the
+/// decimals.
+char listSeparator()
+{
+    return QLocale().decimalPoint() == ","_L1 ? ';' : ',';
+}
+
+class CsvWriter
+{
+public:
+    void addValue(const QString& value)
+    {
+        if (!m_isFirst)
+            m_content += m_separator;
+        m_isFirst = false;
+        addQuoted(value.toUtf8());
+    }
+    void endLine()
+    {
+        m_content += "\r\n";
+        m_isFirst = true;
+    }
+    [[nodiscard]] const QByteArray& content() const { return m_content; }
+
+private:
+    void addQuoted(QByteArray value)
+    {
+        const auto isSpecial = [this](char letter) {
+            return letter == m_separator || letter == '"';
+        };
+        if (!value.startsWith(' ') && !value.endsWith(' ') &&
+            std::none_of(value.cbegin(), value.cend(), isSpecial)) {
+            m_content += value;
+            return;
+        }
+        m_content += '"';
+        m_content += value.replace('"', "\"\"");
+        m_content += '"';
+    }
+
+    QByteArray m_content = "\xEF\xBB\xBF"_ba; ///< the mark of UTF-8 first
+    char m_separator = listSeparator();
+    bool m_isFirst = true;
+};
+
+/// A spreadsheet must not reckon with a name that begins like a formula; a blank ahead keeps it from that.
+QString harmless(const QString& text)
+{
+    static constexpr QStringView formulaSigns = u"=+-@";
+    return !text.isEmpty() && formulaSigns.contains(text.front()) ? u' ' + text : text;
+}
+
+/// The cell as shown, but days as every spreadsheet knows them.
+QString csvValue(const ReportData& report, qsizetype line, int column)
+{
+    const Cell cell = report.cell(line, column);
+    if (const auto* const text = std::get_if<QString>(&cell))
+        return harmless(printable(*text));
+    if (const auto* const day = std::get_if<QDate>(&cell))
+        return day->toString(Qt::ISODate);
+    return report.text(line, column);
+}
+
+void addLine(CsvWriter& csv, const ReportData& report, qsizetype line)
+{
+    for (int column = 0; column < report.columnCount(); ++column)
+        csv.addValue(csvValue(report, line, column));
+    csv.endLine();
+}
+
+} // namespace
+
+void writeCsv(const ReportData& report, const QString& path)
+{
+    CsvWriter csv;
+    for (const ReportColumn& column : report.columns())
+        csv.addValue(harmless(printable(column.heading)));
+    csv.endLine();
+    for (qsizetype line = 0; line < report.lineCount(); ++line)
+        addLine(csv, report, line);
+    replaceFile(path, csv.content());
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,46 @@
+// How a line of a report stands in its columns.
+#pragma once
+
+#include "reports/ColumnPlaces.h"
+
+#include <vector>
+
+namespace norvane::reports
+{
+
+/// What is painted in a cell: its text in rows from the line's top.
+struct CellBox {
+    ColumnPlace place; ///< without the cell's margins
+    QStringList rows;
+    Alignment alignment = Alignment::Left;
+};
+
+/// Lays out one line at a time. A text too wide for its column goes on in further rows. The heading of a
+/// group runs over the whole line, and the label of a total as far to the right as the cells are empty.
+class LineLayout
+{
+public:
+    /// @p report and @p text must outlive this; lines may still be added.
+    LineLayout(const ReportData& report, const PageText& text, ColumnPlaces places);
+
+    [[nodiscard]] const ColumnPlaces& places() const { return m_places; }
+    [[nodiscard]] TextStyle style(qsizetype line) const;
+    /// Height of one row of text and of the whole line, in mm.
+    [[nodiscard]] double rowHeight() const;
+    [[nodiscard]] double height(qsizetype line) const;
+    /// Free space above the text of the line, a part of its height.
+    [[nodiscard]] double lead(qsizetype line) const;
+    [[nodiscard]] std::vector<CellBox> cells(qsizetype line) const;
+
+private:
+    [[nodiscard]] ColumnPlace textPlace(qsizetype line, int column) const;
+    [[nodiscard]] int lastColumn(qsizetype line, int column) const;
+    [[nodiscard]] int rowCount(qsizetype line) const;
+    [[nodiscard]] CellBox cellBox(qsizetype line, int column) const;
+
+    const ReportData& m_report;
+    const PageText& m_text;
+    ColumnPlaces m_places;
+};
+
+} // namespace norvane::reports

@@ -1,0 +1,59 @@
+// Text on pages, measured in millimetres. Screen, paper and PDF get one layout, whatever their resolution.
+#pragma once
+
+#include "reports/ReportData.h"
+
+#include <QColor>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QRectF>
+#include <QStringList>
+
+#include <array>
+
+class QPainter;
+
+namespace norvane::reports
+{
+
+struct TextStyle {
+    double size = 3.1; ///< of the letters' square, in mm
+    bool isBold = false;
+    QColor colour{0, 0, 0};
+};
+
+/// Measures and paints single rows of text. Control characters count and show as blanks, in every text.
+class PageText
+{
+public:
+    PageText();
+
+    /// In mm.
+    [[nodiscard]] double width(const QString& text, const TextStyle& style) const;
+    /// The rows that @p text takes in @p width mm: broken between words, and within one only where it is
+    /// wider than that.
+    [[nodiscard]] QStringList wrapped(const QString& text, const TextStyle& style, double width) const;
+    /// Paints one row in the middle of @p place's height; text wider than the place is narrowed, not cut.
+    /// @param painter in millimetres.
+    void draw(QPainter& painter, const QRectF& place, const QString& text, const TextStyle& style,
+              Alignment alignment) const;
+
+private:
+    /// A font of so many units to the letters' square that widths need no rounding.
+    struct Face {
+        explicit Face(bool isBold);
+
+        QFont font;
+        QFontMetricsF metrics;
+        std::array<double, 0x250> advances{}; ///< of the Latin letters, which most texts are made of
+    };
+    [[nodiscard]] const Face& face(const TextStyle& style) const { return style.isBold ? m_bold : m_regular; }
+
+    Face m_regular{false};
+    Face m_bold{true};
+};
+
+/// The text with a blank for each control character.
+[[nodiscard]] QString printable(QString text);
+
+} // namespace norvane::reports

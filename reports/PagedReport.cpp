@@ -1,0 +1,23 @@
+// See PagedReport.h.
+#include "reports/PagedReport.h"
+
+#include "paper/PageDevice.h"
+#include "reports/ReportPainter.h"
+
+namespace norvane::reports
+{
+
+bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device)
+{
+    const PageText text;
+    ReportPages pages(report, text, showsCharts);
+    pages.layOutAll();
+    const ReportPainter painter(report, pages, text);
+    paper::PageDevice paper(device, QPageSize(QPageSize::A4),
+                            report.page.isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    for (int page = 0; page < pages.pageCount(); ++page)
+        painter.paint(paper.nextPage(), page);
+    return paper.finish();
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,25 @@
+// The PDF; see ReportFiles.h.
+#include "reports/PagedReport.h"
+#include "reports/ReportFiles.h"
+#include "reports/TargetFile.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+
+void writePdf(const ReportData& report, bool showsCharts, const QString& path)
+{
+    QBuffer content;
+    content.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&content);
+    writer.setTitle(report.heading.title);
+    if (!paintReport(report, showsCharts, writer))
+        failWriting(path, u"the pages could not be painted."_s);
+    replaceFile(path, content.data());
+}
+
+} // namespace norvane::reports

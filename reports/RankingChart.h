@@ -1,0 +1,15 @@
+// See RankingChart.cpp; painted by paintChart().
+#pragma once
+
+#include "reports/PageText.h"
+
+class QPainter;
+
+namespace norvane::reports
+{
+
+/// The height that the picture looks best with, without its title, in mm.
+[[nodiscard]] double rankingHeight(const Chart& chart);
+void paintRanking(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text);
+
+} // namespace norvane::reports

@@ -1,0 +1,224 @@
+// See ReportPages.h.
+#include "reports/ReportPages.h"
+
+#include "reports/ChartPainter.h"
+#include "reports/PageStyles.h"
+
+#include <algorithm>
+#include <ranges>
+
+namespace norvane::reports
+{
+namespace
+{
+
+constexpr QSizeF uprightSheet{210, 297};
+constexpr QMarginsF margins{14, 12, 14, 12};
+constexpr double chartGap = 8;
+constexpr double columnHeadingPadding = 1.2;
+
+QSizeF sheetSize(const ReportData& report)
+{
+    return report.page.isLandscape ? uprightSheet.transposed() : uprightSheet;
+}
+
+QRectF printable(const ReportData& report)
+{
+    return QRectF(QPointF(), sheetSize(report)).marginsRemoved(margins);
+}
+
+double headingRowHeight(const TextStyle& style)
+{
+    return style.size * headingPitch;
+}
+
+qsizetype columnHeadingRows(const ReportData& report, const PageText& text, const ColumnPlaces& places)
+{
+    qsizetype rows = 1;
+    for (std::size_t column = 0; column < places.columns.size(); ++column) {
+        const double width = places.columns[column].width - 2 * cellMargin;
+        const TextStyle bold{places.textSize, true};
+        rows = std::max(rows, text.wrapped(report.columns()[column].heading, bold, width).size());
+    }
+    return rows;
+}
+
+PageFrame makeFrame(const ReportData& report, const PageText& text, const ColumnPlaces& places)
+{
+    PageFrame frame;
+    const QRectF area = printable(report);
+    frame.sheet = QRectF(QPointF(), sheetSize(report));
+    frame.subtitleWidth = area.width() * 0.68;
+    const auto rows = [&](const QString& words, const TextStyle& style) {
+        return static_cast<double>(text.wrapped(words, style, frame.subtitleWidth).size());
+    };
+    const double left = rows(report.heading.title, titleStyle) * headingRowHeight(titleStyle) +
+                        rows(report.heading.subtitle, subtitleStyle) * headingRowHeight(subtitleStyle);
+    const double right = 3 * headingRowHeight(subtitleStyle);
+    frame.heading = QRectF(area.topLeft(), QSizeF(area.width(), std::max(left, right) + 1.5));
+    const double columnRows = static_cast<double>(columnHeadingRows(report, text, places));
+    frame.columnHeadings =
+        QRectF(frame.heading.bottomLeft(),
+               QSizeF(area.width(), columnRows * places.textSize * headingPitch + 2 * columnHeadingPadding));
+    frame.body = area;
+    frame.body.setTop(frame.columnHeadings.bottom() + 0.6);
+    return frame;
+}
+
+bool isTotal(LineKind kind)
+{
+    return kind == LineKind::Subtotal || kind == LineKind::GrandTotal;
+}
+
+ColumnPlaces places(const ReportData& report, const PageText& text)
+{
+    const QRectF area = printable(report);
+    return fitColumns(report, text, area.left(), area.width());
+}
+
+} // namespace
+
+ReportPages::ReportPages(const ReportData& report, const PageText& text, bool showsCharts)
+    : m_report(report), m_lines(report, text, places(report, text)), m_charts(drawableCharts(showsCharts))
+{
+    m_frame = makeFrame(report, text, m_lines.places());
+}
+
+std::vector<std::size_t> ReportPages::drawableCharts(bool showsCharts) const
+{
+    std::vector<std::size_t> charts;
+    for (std::size_t chart = m_report.charts.size(); showsCharts && chart-- > 0;) {
+        if (!m_report.charts[chart].points.empty())
+            charts.push_back(chart);
+    }
+    return charts;
+}
+
+bool ReportPages::isComplete() const
+{
+    return !m_pages.empty() && m_nextLine == m_report.lineCount() && m_charts.empty();
+}
+
+bool ReportPages::layOut(int pages)
+{
+    for (; pages > 0 && !isComplete(); --pages)
+        layOutPage();
+    return !isComplete();
+}
+
+void ReportPages::layOutAll()
+{
+    while (!isComplete())
+        layOutPage();
+}
+
+void ReportPages::layOutPage()
+{
+    ReportPage page{m_nextLine, m_nextLine, {}, {}};
+    const bool hasLines = m_nextLine < m_report.lineCount();
+    m_y = hasLines ? m_frame.body.top() : m_frame.columnHeadings.top() + chartGap;
+    if (hasLines)
+        addLines(page);
+    if (m_nextLine == m_report.lineCount())
+        addCharts(page);
+    m_pages.push_back(std::move(page));
+}
+
+void ReportPages::addLines(ReportPage& page)
+{
+    if (m_group && m_report.lineKind(m_nextLine) != LineKind::GroupHeading) {
+        page.continuedGroup = m_group;
+        m_y += m_lines.height(*m_group);
+    }
+    while (m_nextLine < m_report.lineCount()) {
+        const qsizetype end = blockEnd(m_nextLine);
+        if (page.hasLines() && m_y + height(m_nextLine, end) > m_frame.body.bottom())
+            return;
+        addBlock(page, end);
+    }
+}
+
+/// A block that is higher than a page is parted between its lines.
+void ReportPages::addBlock(ReportPage& page, qsizetype end)
+{
+    while (m_nextLine < end) {
+        if (page.hasLines() && m_y + m_lines.height(m_nextLine) > m_frame.body.bottom())
+            return;
+        takeLine(page);
+    }
+}
+
+void ReportPages::takeLine(ReportPage& page)
+{
+    const LineKind kind = m_report.lineKind(m_nextLine);
+    if (kind == LineKind::GroupHeading)
+        m_group = m_nextLine;
+    else if (isTotal(kind))
+        m_group.reset();
+    m_y += m_lines.height(m_nextLine);
+    page.endLine = ++m_nextLine;
+}
+
+void ReportPages::addCharts(ReportPage& page)
+{
+    const QRectF& body = m_frame.body;
+    while (!m_charts.empty()) {
+        const bool isFirst = !page.hasLines() && page.charts.empty();
+        const double gap = isFirst ? 0 : chartGap;
+        const double space = body.bottom() - m_y - gap;
+        const double wanted = chartHeight(m_report.charts[m_charts.back()]);
+        if (wanted > space && !isFirst)
+            return;
+        const double height = std::min(wanted, space);
+        page.charts.push_back({m_charts.back(), QRectF(body.left(), m_y + gap, body.width(), height)});
+        m_y += gap + height;
+        m_charts.pop_back();
+    }
+}
+
+/// Headings with the first line below them, and that line with the totals below it.
+qsizetype ReportPages::blockEnd(qsizetype line) const
+{
+    const qsizetype end = m_report.lineCount();
+    while (line + 1 < end && m_report.lineKind(line) == LineKind::GroupHeading)
+        ++line;
+    do
+        ++line;
+    while (line < end && isTotal(m_report.lineKind(line)));
+    return line;
+}
+
+double ReportPages::height(qsizetype first, qsizetype end) const
+{
+    double sum = 0;
+    for (; first < end; ++first)
+        sum += m_lines.height(first);
+    return sum;
+}
+
+std::vector<PlacedLine> ReportPages::placedLines(int index) const
+{
+    std::vector<PlacedLine> placed;
+    QPointF corner = m_frame.body.topLeft();
+    const auto place = [&](qsizetype line, bool isContinued) {
+        placed.push_back(
+            {line, QRectF(corner, QSizeF(m_frame.body.width(), m_lines.height(line))), isContinued});
+        corner = placed.back().place.bottomLeft();
+    };
+    const ReportPage& shown = page(index);
+    if (shown.continuedGroup)
+        place(*shown.continuedGroup, true);
+    for (qsizetype line = shown.firstLine; line < shown.endLine; ++line)
+        place(line, false);
+    return placed;
+}
+
+std::optional<int> ReportPages::pageOfLine(qsizetype line) const
+{
+    const auto found = std::ranges::upper_bound(m_pages, line, {}, &ReportPage::endLine);
+    if (found == m_pages.end() || line < found->firstLine)
+        return std::nullopt;
+    return static_cast<int>(found - m_pages.begin());
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,88 @@
+// A report broken into pages. All lengths are in millimetres from the sheet's upper left corner.
+#pragma once
+
+#include "reports/LineLayout.h"
+
+#include <QRectF>
+
+#include <optional>
+#include <vector>
+
+namespace norvane::reports
+{
+
+struct PlacedLine {
+    qsizetype line = 0;
+    QRectF place;
+    bool isContinued = false; ///< a group's heading once more, above its lines on a further page
+};
+
+struct PlacedChart {
+    std::size_t chart = 0;
+    QRectF place;
+};
+
+/// What stands on a page between its heading and its foot.
+struct ReportPage {
+    qsizetype firstLine = 0;
+    qsizetype endLine = 0; ///< behind the last one
+    std::optional<qsizetype> continuedGroup;
+    std::vector<PlacedChart> charts;
+    [[nodiscard]] bool hasLines() const { return endLine > firstLine; }
+};
+
+/// The places that all pages share.
+struct PageFrame {
+    QRectF sheet;
+    QRectF heading;
+    QRectF columnHeadings;
+    QRectF body; ///< of lines, below the column headings
+    double subtitleWidth = 0;
+};
+
+/// Lays out a few pages at a time, so that the first can be shown while the rest is made. Lines never split;
+/// a group's heading stands with the first of its lines, and a total with the line above it. Charts stand
+/// beneath the last line where there is room, else on pages of their own.
+class ReportPages
+{
+public:
+    /// @p report and @p text must outlive this.
+    ReportPages(const ReportData& report, const PageText& text, bool showsCharts);
+
+    /// Lays out @p pages more, fewer at the end. @return false once all are there.
+    bool layOut(int pages);
+    void layOutAll();
+    [[nodiscard]] bool isComplete() const;
+
+    [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
+    [[nodiscard]] const ReportPage& page(int index) const
+    {
+        return m_pages.at(static_cast<std::size_t>(index));
+    }
+    [[nodiscard]] const PageFrame& frame() const { return m_frame; }
+    [[nodiscard]] const LineLayout& lines() const { return m_lines; }
+    [[nodiscard]] std::vector<PlacedLine> placedLines(int page) const;
+    /// The page that @p line stands on; nothing while it is not laid out.
+    [[nodiscard]] std::optional<int> pageOfLine(qsizetype line) const;
+
+private:
+    void layOutPage();
+    void addLines(ReportPage& page);
+    void addBlock(ReportPage& page, qsizetype end);
+    void takeLine(ReportPage& page);
+    void addCharts(ReportPage& page);
+    [[nodiscard]] qsizetype blockEnd(qsizetype line) const;
+    [[nodiscard]] double height(qsizetype first, qsizetype end) const;
+    [[nodiscard]] std::vector<std::size_t> drawableCharts(bool showsCharts) const;
+
+    const ReportData& m_report;
+    PageFrame m_frame;
+    LineLayout m_lines;
+    std::vector<std::size_t> m_charts; ///< still to be placed, the next one last
+    std::vector<ReportPage> m_pages;
+    qsizetype m_nextLine = 0;
+    double m_y = 0;                   ///< where the next line or chart would stand
+    std::optional<qsizetype> m_group; ///< heading of the group that goes on
+};
+
+} // namespace norvane::reports

@@ -1,0 +1,165 @@
+// A disc cut into parts, largest first from the top, and beside it each part's name, value and percentage.
+// Neighbouring parts differ in lightness.
+#include "reports/SharesChart.h"
+
+#include "platform/DecimalTotal.h"
+#include "reports/PageStyles.h"
+
+#include <QLocale>
+#include <QPainter>
+
+#include <algorithm>
+#include <span>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+constexpr double rowHeight = 5.4;
+constexpr double discSize = 56;
+constexpr std::size_t mostParts = 10;
+constexpr double fullTurn = 360 * 16; ///< in the painter's sixteenths of a degree
+
+struct Part {
+    QString label;
+    Decimal value;
+};
+
+/// The parts above nothing, largest first.
+std::vector<Part> sortedParts(const Chart& chart)
+{
+    std::vector<Part> parts;
+    for (const ChartPoint& point : chart.points) {
+        if (point.value.coefficient() > 0)
+            parts.push_back({point.label, point.value});
+    }
+    std::ranges::stable_sort(parts, std::greater(), [](const Part& part) { return part.value.toDouble(); });
+    return parts;
+}
+
+Decimal sum(std::span<const Part> parts)
+{
+    DecimalTotal total;
+    for (const Part& part : parts)
+        total.add(std::string_view(part.value.text()));
+    return Decimal::leading(total.text());
+}
+
+/// The smallest become one when there are too many for a legend.
+std::vector<Part> shownParts(const Chart& chart)
+{
+    std::vector<Part> parts = sortedParts(chart);
+    if (parts.size() <= mostParts)
+        return parts;
+    const auto others = std::span(parts).subspan(mostParts - 1);
+    const Part rest{u"%1 others"_s.arg(others.size()), sum(others)};
+    parts.resize(mostParts - 1);
+    parts.push_back(rest);
+    return parts;
+}
+
+/// Dark and light in turn, each a little paler than the last of its kind.
+QColor partColour(std::size_t part)
+{
+    const int dark = 0x35 + static_cast<int>(part / 2) * 0x16;
+    const int light = 0xb4 + static_cast<int>(part / 2) * 0x0d;
+    const int grey = part % 2 == 0 ? dark : light;
+    return {grey - 0x15, grey, std::min(0xff, grey + 0x18)};
+}
+
+QString percentage(double part, double whole)
+{
+    return QLocale().toString(part / whole * 100, 'f', 1) + u" %"_s;
+}
+
+void paintDisc(QPainter& painter, const QRectF& disc, const std::vector<Part>& parts, double whole)
+{
+    painter.setPen(QPen(Qt::white, 0.4));
+    double start = fullTurn / 4;
+    for (std::size_t part = 0; part < parts.size(); ++part) {
+        const double span = parts[part].value.toDouble() / whole * fullTurn;
+        painter.setBrush(partColour(part));
+        painter.drawPie(disc, static_cast<int>(start), -static_cast<int>(span + 1));
+        start -= span;
+    }
+    painter.setPen(QPen(ink::rule, hairline));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(disc);
+}
+
+struct LegendColumns {
+    int decimals = 0;
+    double label = 0;
+    double value = 0;
+    double percentage = 0;
+
+    [[nodiscard]] QString shownValue(const Part& part) const
+    {
+        return shownNumber(part.value, decimals, decimals);
+    }
+};
+
+void paintRow(QPainter& painter, QPointF corner, const Part& part, double whole, const LegendColumns& columns,
+              const PageText& text)
+{
+    const auto place = [&](double width) {
+        const QRectF cell(corner, QSizeF(width, rowHeight));
+        corner.rx() += width + 3;
+        return cell;
+    };
+    text.draw(painter, place(columns.label), part.label, chartStyle, Alignment::Left);
+    text.draw(painter, place(columns.value), columns.shownValue(part), chartStyle, Alignment::Right);
+    text.draw(painter, place(columns.percentage), percentage(part.value.toDouble(), whole), chartStyle,
+              Alignment::Right);
+}
+
+LegendColumns legendColumns(const std::vector<Part>& parts, int decimals, const PageText& text, double width)
+{
+    LegendColumns columns{decimals, 0, 0, text.width(percentage(1, 1), chartStyle)};
+    for (const Part& part : parts) {
+        columns.label = std::max(columns.label, text.width(part.label, chartStyle));
+        columns.value = std::max(columns.value, text.width(columns.shownValue(part), chartStyle));
+    }
+    columns.label = std::max(1.0, std::min(columns.label, width - columns.value - columns.percentage - 12));
+    return columns;
+}
+
+void paintLegend(QPainter& painter, const QRectF& place, const std::vector<Part>& parts, double whole,
+                 const LegendColumns& columns, const PageText& text)
+{
+    double top = place.center().y() - static_cast<double>(parts.size()) * rowHeight / 2;
+    for (std::size_t part = 0; part < parts.size(); ++part) {
+        const QRectF sample(place.left(), top + 0.9, rowHeight - 1.8, rowHeight - 1.8);
+        painter.setPen(QPen(ink::rule, hairline));
+        painter.setBrush(partColour(part));
+        painter.drawRect(sample);
+        paintRow(painter, QPointF(sample.right() + 2, top), parts[part], whole, columns, text);
+        top += rowHeight;
+    }
+}
+
+} // namespace
+
+double sharesHeight(const Chart& /*chart*/)
+{
+    return discSize + 2;
+}
+
+void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text)
+{
+    const std::vector<Part> parts = shownParts(chart);
+    if (parts.empty())
+        return;
+    const double whole = sum(parts).toDouble();
+    const double size = std::min({discSize, place.height(), place.width() * 0.4});
+    const QRectF disc(place.left(), place.top(), size, size);
+    const QRectF legend(disc.right() + 8, place.top(), place.right() - disc.right() - 8, size);
+    paintDisc(painter, disc, parts, whole);
+    paintLegend(painter, legend, parts, whole, legendColumns(parts, chart.decimals, text, legend.width()),
+                text);
+}
+
+} // namespace norvane::reports

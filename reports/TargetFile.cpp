@@ -1,0 +1,30 @@
+// See TargetFile.h.
+#include "reports/TargetFile.h"
+
+#include "reports/ReportRun.h"
+
+#include <QDir>
+#include <QSaveFile>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+
+void failWriting(const QString& path, const QString& reason)
+{
+    throw ReportError(u"%1 could not be written: %2"_s.arg(QDir::toNativeSeparators(path), reason));
+}
+
+void replaceFile(const QString& path, const QByteArray& content)
+{
+    QSaveFile file(path);
+    // A disk that fills up takes the first part of a write and reports no error for it.
+    const bool isWhole = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    if (!isWhole && file.error() == QFileDevice::NoError)
+        failWriting(path, u"the disk is full."_s);
+    if (!isWhole || !file.commit())
+        failWriting(path, file.errorString());
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,172 @@
+// What stands in the files that a report is saved to, read back by other programs.
+#include "reports/ReportFiles.h"
+
+#include "reports/ReportRun.h"
+#include "tests/platform/FullDisk.h"
+#include "tests/platform/TestFolder.h"
+#include "tests/reports/OtherPrograms.h"
+#include "tests/reports/SampleReport.h"
+
+#include <gtest/gtest.h>
+#include <QLocale>
+#include <QXmlStreamReader>
+
+namespace norvane::test
+{
+namespace
+{
+
+using namespace reports;
+
+/// A cell of a spreadsheet as its file spells it; texts in quotes.
+QString cellOf(QXmlStreamReader& xml)
+{
+    const bool isText = xml.attributes().value(u"t"_s) == "inlineStr"_L1;
+    const QString text = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+    return isText ? u'"' + text + u'"' : text;
+}
+
+/// The rows of the first sheet, the cells of each parted by bars.
+QStringList sheetRows(const QString& path)
+{
+    QXmlStreamReader xml(outputOf(u"unzip"_s, {u"-p"_s, path, u"xl/worksheets/sheet1.xml"_s}));
+    QStringList rows;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == "row"_L1)
+            rows << QString();
+        else if (xml.name() == "c"_L1)
+            rows.last() += cellOf(xml) + u'|';
+    }
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+    return rows;
+}
+
+QStringList shownCells(const ReportData& report, qsizetype line)
+{
+    QStringList cells;
+    for (int column = 0; column < report.columnCount(); ++column)
+        cells << report.text(line, column);
+    return cells;
+}
+
+ReportData trickyReport()
+{
+    ReportData report({textColumn(u"PLU"_s, 40),
+                       textColumn(u"Description"_s, 60),
+                       {u"Day"_s, paper::millimetres(25), Alignment::Left, ColumnKind::Date, 0, 0},
+                       numberColumn(u"Value"_s, 25, 2, 2)});
+    report.heading.title = u"Prices"_s;
+    report.addLine(LineKind::Detail,
+                   {u"123456789012345678"_s, u"=1+1"_s, QDate(2004, 2, 29), Decimal(5639549999999998, 12)});
+    report.addLine(LineKind::Detail, {u"2"_s, u"5\" pipe; long, \x01"_s, {}, Decimal(-5, 3)});
+    return report;
+}
+
+class ReportFiles : public testing::Test
+{
+protected:
+    ~ReportFiles() override { QLocale::setDefault(QLocale::c()); }
+    TestFolder m_folder;
+};
+
+TEST_F(ReportFiles, HoldTheFiguresOfThePreview)
+{
+    ReportData report = emptySales();
+    addGroup(report, u"Coffee"_s, 60);
+    report.addLine(LineKind::GrandTotal, {u"Grand total"_s, {}, Decimal(67500, 3), Decimal(1407, 1)});
+    writePdf(report, true, m_folder.path("a.pdf"));
+    writeCsv(report, m_folder.path("a.csv"));
+    writeXlsx(report, m_folder.path("a.xlsx"));
+    const QStringList pdf = pdfLines(m_folder.path("a.pdf"));
+    const QStringList csv = QString::fromUtf8(m_folder.read("a.csv")).split(u"\r\n"_s);
+    const QStringList xlsx = sheetRows(m_folder.path("a.xlsx"));
+    ASSERT_EQ(csv.size(), report.lineCount() + 2);
+    ASSERT_EQ(xlsx.size(), report.lineCount() + 4);
+    for (qsizetype line = 0; line < report.lineCount(); ++line) {
+        const QStringList cells = shownCells(report, line);
+        EXPECT_TRUE(pdf.contains(cells.join(u' ').simplified())) << cells.join(u' ').toStdString();
+        EXPECT_EQ(csv[line + 1], cells.join(u','));
+        const QStringList kept = xlsx[line + 4].split(u'|');
+        for (qsizetype cell = 0, place = 0; cell < cells.size(); ++cell) {
+            if (!cells[cell].isEmpty()) {
+                const QString value = kept.value(place++);
+                EXPECT_TRUE(value == u'"' + cells[cell] + u'"' || value.toDouble() == cells[cell].toDouble())
+                    << value.toStdString();
+            }
+        }
+    }
+    EXPECT_TRUE(pdf.contains(u"Friday, 7 May 2004 Page 1 of 2"_s) || pdf.contains(u"Page 2 of 2"_s));
+    EXPECT_TRUE(pdf.contains(u"Coffee (continued)"_s));
+}
+
+TEST_F(ReportFiles, SayWhenThereIsNothing)
+{
+    writePdf(emptySales(), true, m_folder.path("a.pdf"));
+    writeXlsx(emptySales(), m_folder.path("a.xlsx"));
+    EXPECT_TRUE(pdfLines(m_folder.path("a.pdf")).contains(u"No sales on 7 May 2004."_s));
+    EXPECT_EQ(sheetRows(m_folder.path("a.xlsx")).last(), u"\"No sales on 7 May 2004.\"|"_s);
+}
+
+TEST_F(ReportFiles, GiveTextsAsTextsAndDaysAsDays)
+{
+    writeXlsx(trickyReport(), m_folder.path("a.xlsx"));
+    const QStringList rows = sheetRows(m_folder.path("a.xlsx"));
+    EXPECT_EQ(rows[rows.size() - 2], u"\"123456789012345678\"|\"=1+1\"|38046|5639.55|"_s);
+    EXPECT_EQ(rows.last(), u"\"2\"|\"5\" pipe; long,  \"|-0.01|"_s);
+}
+
+TEST_F(ReportFiles, SpellCsvAsTheUsersSpreadsheetReadsIt)
+{
+    QLocale::setDefault(QLocale(QLocale::German));
+    writeCsv(trickyReport(), m_folder.path("a.csv"));
+    EXPECT_EQ(m_folder.read("a.csv").toStdString(), "\xEF\xBB\xBFPLU;Description;Day;Value\r\n"
+                                                    "123456789012345678;\" =1+1\";2004-02-29;5639,55\r\n"
+                                                    "2;\"5\"\" pipe; long,  \";;-0,01\r\n");
+}
+
+struct Writer {
+    const char* name;
+    void (*write)(const ReportData&, const QString&);
+};
+
+class EachFile : public testing::TestWithParam<Writer>
+{
+protected:
+    [[nodiscard]] QString errorOf(const QString& path) const
+    {
+        ReportData report = emptySales();
+        addGroup(report, u"Coffee"_s, 2000);
+        try {
+            GetParam().write(report, path);
+        } catch (const ReportError& error) {
+            return error.text();
+        }
+        return {};
+    }
+};
+
+TEST_P(EachFile, LeavesTheFormerOneWhenItCannotBeWritten)
+{
+    const TestFolder folder;
+    folder.write("a", "former");
+    {
+        const FullDisk disk(8000);
+        EXPECT_TRUE(errorOf(folder.path("a")).startsWith(folder.path("a") + u" could not be written: "_s));
+    }
+    EXPECT_EQ(folder.names(), QStringList(u"a"_s));
+    EXPECT_EQ(folder.read("a"), "former");
+    EXPECT_NE(errorOf(folder.path("missing/a")), QString());
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, EachFile,
+                         testing::Values(Writer{"Pdf",
+                                                [](const ReportData& report, const QString& path) {
+                                                    writePdf(report, true, path);
+                                                }},
+                                         Writer{"Csv", writeCsv}, Writer{"Xlsx", writeXlsx}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+} // namespace
+} // namespace norvane::test

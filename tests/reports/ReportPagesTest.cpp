@@ -1,0 +1,141 @@
+// How lines are broken into pages, and where they stand on paper.
+#include "reports/ReportPages.h"
+
+#include "reports/ReportFiles.h"
+#include "tests/platform/TestFolder.h"
+#include "tests/reports/OtherPrograms.h"
+#include "tests/reports/SampleReport.h"
+
+#include <gtest/gtest.h>
+
+namespace norvane::test
+{
+namespace
+{
+
+using namespace reports;
+
+class Paged
+{
+public:
+    explicit Paged(const ReportData& report, bool showsCharts = true) : pages(report, text, showsCharts)
+    {
+        pages.layOutAll();
+    }
+    [[nodiscard]] std::vector<std::size_t> chartCounts() const
+    {
+        std::vector<std::size_t> counts;
+        for (int page = 0; page < pages.pageCount(); ++page)
+            counts.push_back(pages.page(page).charts.size());
+        return counts;
+    }
+
+    PageText text;
+    ReportPages pages;
+};
+
+class PagesOfGroups : public testing::TestWithParam<int>
+{
+};
+
+// Groups of each size end differently at the foot of a page.
+TEST_P(PagesOfGroups, HoldEveryLineOnceAndPartNoHeadingFromItsLines)
+{
+    ReportData report = emptySales();
+    for (int group = 0; group < 7; ++group)
+        addGroup(report, u"Group %1"_s.arg(group), GetParam());
+    const Paged paged(report);
+    qsizetype next = 0;
+    for (int index = 0; index < paged.pages.pageCount(); ++index) {
+        const ReportPage& page = paged.pages.page(index);
+        EXPECT_EQ(page.firstLine, next);
+        next = page.endLine;
+        EXPECT_NE(report.lineKind(page.endLine - 1), LineKind::GroupHeading);
+        EXPECT_NE(report.lineKind(page.firstLine), LineKind::Subtotal);
+        EXPECT_EQ(page.continuedGroup.has_value(), report.lineKind(page.firstLine) == LineKind::Detail);
+        EXPECT_LE(paged.pages.placedLines(index).back().place.bottom(),
+                  paged.pages.frame().body.bottom() + 0.01);
+        EXPECT_EQ(paged.pages.pageOfLine(page.endLine - 1), index);
+    }
+    EXPECT_EQ(next, report.lineCount());
+}
+
+INSTANTIATE_TEST_SUITE_P(OfSize, PagesOfGroups,
+                         testing::Values(1, 2, 20, 40, 41, 42, 43, 44, 45, 46, 47, 48, 120));
+
+TEST(ReportPagesTest, PutsChartsBeneathTheLinesOrOnPagesOfTheirOwn)
+{
+    ReportData report = emptySales();
+    report.charts = {sampleChart(ChartKind::Ranking, 15), sampleChart(ChartKind::Shares, 5),
+                     sampleChart(ChartKind::Course, 0)};
+    addGroup(report, u"Drinks"_s, 10);
+    EXPECT_EQ(Paged(report).chartCounts(), (std::vector<std::size_t>{2}));
+    addGroup(report, u"Cakes"_s, 25);
+    EXPECT_EQ(Paged(report).chartCounts(), (std::vector<std::size_t>{0, 2}));
+    EXPECT_EQ(Paged(report, false).chartCounts(), (std::vector<std::size_t>{0}));
+}
+
+TEST(ReportPagesTest, FitsManyColumnsWithoutCuttingANumber)
+{
+    std::vector<ReportColumn> columns = {textColumn(u"Description"_s, 60)};
+    for (int column = 0; column < 9; ++column)
+        columns.push_back(numberColumn(u"Value"_s, 25, 2, 2));
+    ReportData report(columns);
+    std::vector<Cell> cells(columns.size(), Decimal(-123456789012, 2));
+    cells[0] = u"A description of some length"_s;
+    report.addLine(LineKind::Detail, cells);
+    const Paged paged(report);
+    const LineLayout& lines = paged.pages.lines();
+    EXPECT_NEAR(lines.places().columns.back().right(), 196, 0.01);
+    for (const CellBox& cell : lines.cells(0))
+        EXPECT_LE(paged.text.width(cell.rows[0], lines.style(0)), cell.place.width + 2 * cellMargin);
+    EXPECT_GT(lines.cells(0)[0].rows.size(), 1) << "the text gives way before the numbers";
+}
+
+TEST(PageTextTest, LosesNoLetterInFurtherRows)
+{
+    const PageText text;
+    for (const QString& words : {u"Toffee fudge brownie with cream"_s, u"Unbreakableword30characterslong"_s,
+                                 u"שלום עולם שלום עולם שלום עולם"_s, u"tab\tand\x01 bell\a in one line"_s}) {
+        const QStringList rows = text.wrapped(words, {}, 20);
+        EXPECT_GT(rows.size(), 1);
+        EXPECT_EQ(rows.join(QString()).remove(u' '), printable(words).remove(u' '));
+        for (const QString& row : rows)
+            EXPECT_LE(text.width(row, {}), 20.1) << row.toStdString();
+    }
+}
+
+/// First and last dark dot of a row, in mm.
+std::pair<double, double> darkPart(const QImage& page, double y)
+{
+    const auto row = static_cast<int>(y * 10);
+    int first = page.width();
+    int last = 0;
+    for (int x = 0; x < page.width(); ++x) {
+        if (qGray(page.pixel(x, row)) < 0x80) {
+            first = std::min(first, x);
+            last = x;
+        }
+    }
+    return {first / 10.0, (last + 1) / 10.0};
+}
+
+TEST(PdfTest, StandsOnPaperWhereThePagesSay)
+{
+    const TestFolder folder;
+    for (const bool isLandscape : {false, true}) {
+        ReportData report = emptySales();
+        report.page.isLandscape = isLandscape;
+        addGroup(report, u"Drinks"_s, 3);
+        writePdf(report, true, folder.path("a.pdf"));
+        const QImage page = pdfPage(folder.path("a.pdf"), 1);
+        const double rule = Paged(report).pages.frame().heading.bottom();
+        EXPECT_NEAR(page.width() / 10.0, isLandscape ? 297 : 210, 0.2);
+        const auto [left, right] = darkPart(page, rule);
+        EXPECT_NEAR(left, 14, 0.15);
+        EXPECT_NEAR(right, isLandscape ? 283 : 196, 0.15);
+    }
+}
+
+} // namespace
+} // namespace norvane::test
