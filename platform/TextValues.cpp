@@ -11,6 +11,7 @@ namespace
 /// Ends a text file for tools that know no file length.
 constexpr char endMark = '\x1A';
 constexpr std::string_view whiteSpace = " \t\r\n";
+constexpr std::string_view endOfText = " \t\r\n\x1A";
 
 bool isBlank(char c)
 {
@@ -57,7 +58,8 @@ std::string_view withoutQuotes(std::string_view value)
 
 std::string_view withoutEndMark(std::string_view text)
 {
-    return text.substr(0, text.find(endMark));
+    const auto behindLast = text.find_last_not_of(endOfText) + 1;
+    return text.substr(0, text.find(endMark, behindLast));
 }
 
 TextValues::TextValues(std::string_view text) : m_rest(withoutEndMark(text))

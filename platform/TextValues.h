@@ -8,13 +8,14 @@ namespace norvane
 {
 
 /// The part of a text file that counts: all before the end mark (byte 1A) that old tools write behind the
-/// last line.
+/// last line. Only line ends, blanks and further marks may follow it; elsewhere the byte is a character like
+/// any other, and the records behind it count.
 [[nodiscard]] std::string_view withoutEndMark(std::string_view text);
 
 /// Takes one value after another from a text, as views of it; the text must outlive them. Each value comes
 /// trimmed and without the quotes around it. A line end parts two values as a comma does. An opening quote
-/// without a closing one makes one value, quote and all, of the rest. Blank lines at the end and everything
-/// behind an end mark are no values.
+/// without a closing one makes one value, quote and all, of the rest. Blank lines at the end and the end mark
+/// are no values.
 class TextValues
 {
 public:

@@ -83,7 +83,7 @@ TEST_F(PollImport, TurnsRecordsIntoRows)
         {"values run over line ends", "FileTimeSales", "1\r\n2,3\n4\r5.5, 6",
          "1 24/11/2026 1 2\n2 24/11/2026 3 4\n3 24/11/2026 5.5 6\n"},
         {"blanks, quotes and other spellings", "FileTimeSales",
-         "  7 , \"8\"\r\n\" 1.25 \",+3\r\n\t1E2,.5\r\n\r\n  \r\n\x1A junk",
+         "  7 , \"8\"\r\n\" 1.25 \",+3\r\n\t1E2,.5\r\n\r\n  \r\n\x1A\r\n\x1A ",
          "1 24/11/2026 7 8\n2 24/11/2026 1.25 3\n3 24/11/2026 100 0.5\n"},
         {"an empty file", "FileFinSales", "", ""},
         {"a block for each clerk", "FileClerkSales", "5,6\r\n" + zeros + zeros + "7,8\r\n9,10\r\n",
