@@ -102,10 +102,11 @@ constexpr Row taxRates[] = {
     whole("first"),
     whole("notax"),
     whole("norepeatbreak"),
-    whole("repeatbreak"),
+    // The register's answer puts its 20 digits into all that follow, too.
+    digits("repeatbreak", 20),
     numbered(20, digits("dummy*", 20)),
-    whole("repeatbreaktotal"),
-    longNumber("highhold"),
+    digits("repeatbreaktotal", 20),
+    digits("highhold", 20),
 };
 
 // register file 15. Its record has no number, so the key counts by itself.

@@ -184,6 +184,7 @@ void Database::complete(const QVector<TableDefinition>& tables)
     Schema schema(d->connection());
     for (const auto& table : tables)
         schema.completeTable(table);
+    d->forgetShapes();
 }
 
 void Database::refresh()

@@ -1,6 +1,7 @@
 // Conversions on storing and seeking, one small function for each field type; see FieldConversion.h.
 #include "store/FieldConversion.h"
 
+#include "platform/Excerpt.h"
 #include "platform/Numbers.h"
 #include "platform/NumberScan.h"
 #include "platform/RuntimeFailure.h"
@@ -27,10 +28,16 @@ QString fieldName(const FieldDefinition& field, const QString& table)
     return u"Field %1 of table %2"_s.arg(field.name, table);
 }
 
+/// For a message. A text is not copied whole.
+QString shown(const Value& value)
+{
+    return value.isText() ? excerptOfUtf8(value.textView()) : value.toText();
+}
+
 [[noreturn]] void failConversion(const Value& value, const FieldDefinition& field, const QString& table)
 {
     throw RuntimeFailure(Failure::Conversion, u"Data type conversion error. %1 cannot hold \"%2\"."_s.arg(
-                                                  fieldName(field, table), value.toText()));
+                                                  fieldName(field, table), shown(value)));
 }
 
 [[noreturn]] void failTooLong(const Value& value, const FieldDefinition& field, const QString& table)
@@ -38,7 +45,7 @@ QString fieldName(const FieldDefinition& field, const QString& table)
     throw RuntimeFailure(Failure::TextTooLong, u"The text is too long. %1 holds %2 characters, not \"%3\"."_s
                                                    .arg(fieldName(field, table))
                                                    .arg(field.size)
-                                                   .arg(value.toText()));
+                                                   .arg(shown(value)));
 }
 
 bool isBlank(std::string_view text)

@@ -237,7 +237,7 @@ void Schema::addTable(const TableDefinition& table)
         run(indexDeclaration(table.name, i, table.indexes.at(i)), what);
         writeIndex(table.name, i, table.indexes.at(i));
     }
-    completeTable(table);
+    addCompanions(table);
     savepoint.keep();
 }
 
@@ -261,6 +261,12 @@ bool Schema::hasAll(const std::vector<Companion>& companions) const
 
 void Schema::completeTable(const TableDefinition& table)
 {
+    addCompanions(table);
+    widenFields(table);
+}
+
+void Schema::addCompanions(const TableDefinition& table)
+{
     auto standing = read(table.name);
     if (!standing || table.searchedField.isEmpty())
         return;
@@ -281,6 +287,48 @@ void Schema::makeAnew(const std::vector<Companion>& companions)
         run(std::string("DROP ") + dropWord(each.kind) + " IF EXISTS " + quotedName(each.name), each.name);
     for (const Companion& each : companions)
         run(each.declaration, each.name);
+    savepoint.keep();
+}
+
+void Schema::widenFields(const TableDefinition& table)
+{
+    const auto narrow = [](FieldType type) {
+        return type == FieldType::Long || type == FieldType::Double;
+    };
+    const auto stored = read(table.name);
+    for (const auto& field : stored ? stored->fields : QVector<FieldDefinition>()) {
+        const auto wanted =
+            std::find_if(table.fields.cbegin(), table.fields.cend(), [&field](const auto& it) {
+                return it.name.compare(field.name, Qt::CaseInsensitive) == 0;
+            });
+        if (wanted != table.fields.cend() && wanted->type == FieldType::Digits && narrow(field.type))
+            widenField(stored->name, {field.name, FieldType::Digits, wanted->size, {}, false});
+    }
+}
+
+/// SQLite cannot change the type of a column, so a new one takes its name.
+void Schema::widenField(const QString& table, const FieldDefinition& field)
+{
+    FieldDefinition column = field;
+    column.name += u" wide"_s;
+    const std::string alter = "ALTER TABLE " + quotedName(table);
+    const std::string former = quotedName(field.name);
+    const std::string wide = quotedName(column.name);
+    const QString what = u"Table %1."_s.arg(table);
+    Savepoint savepoint(m_connection);
+    run(alter + " ADD COLUMN " + columnDeclaration(column), what);
+    run("UPDATE " + quotedName(table) + " SET " + wide + " = printf('%.0f', " + former + ") WHERE " + former +
+            " IS NOT NULL",
+        what);
+    run(alter + " DROP COLUMN " + former, what);
+    run(alter + " RENAME COLUMN " + wide + " TO " + former, what);
+    PreparedStatement update(
+        m_connection, "UPDATE norvane_field SET type = ?, size = ? WHERE table_name = ? AND name = ?", what);
+    const Value values[] = {Value::text(std::string(rowOf(field.type).word)), Value::whole(field.size),
+                            Value::text(table), Value::text(field.name)};
+    for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
+        update.bind(i + 1, values[i]);
+    update.run();
     savepoint.keep();
 }
 

@@ -52,8 +52,8 @@ public:
     /// Both are done wholly or not at all.
     void addTable(const TableDefinition& table);
     void addField(const TableDefinition& table, const FieldDefinition& field);
-    /// Makes what the file keeps beside @p table and still lacks. Writes nothing when the table is missing
-    /// or nothing is lacking.
+    /// Makes what the file keeps beside @p table and still lacks, and gives fields the room that @p table
+    /// has. Writes nothing when the table is missing or nothing is lacking.
     void completeTable(const TableDefinition& table);
     /// The engine's statement that made something of that name, nothing when there is none.
     [[nodiscard]] std::optional<QString> declarationOf(const QString& name) const;
@@ -65,6 +65,9 @@ private:
     void run(const std::string& sql, const QString& what);
     void writeField(const QString& table, int ordinal, const FieldDefinition& field);
     void writeIndex(const QString& table, int number, const IndexDefinition& index);
+    void addCompanions(const TableDefinition& table);
+    void widenFields(const TableDefinition& table);
+    void widenField(const QString& table, const FieldDefinition& field);
     [[nodiscard]] QVector<FieldDefinition> readFields(const QString& table, QString& storedName) const;
     [[nodiscard]] QVector<IndexDefinition> readIndexes(const QString& table) const;
 

@@ -148,7 +148,11 @@ void TableCursor::takePlace()
 
 void TableCursor::stampNow()
 {
-    m_stamp = {m_database.changes(), m_database.transactionNumber(), std::chrono::steady_clock::now()};
+    m_stamp.changes = m_database.changes();
+    m_stamp.transaction = m_database.transactionNumber();
+    // Inside a transaction the time does not count, and an import would ask for it at every row.
+    if (m_stamp.transaction == 0)
+        m_stamp.time = std::chrono::steady_clock::now();
 }
 
 bool TableCursor::isFresh() const

@@ -11,8 +11,9 @@ namespace norvane::store
 void UpgradeDatabase(const QString& path);
 
 /// Makes what the store keeps beside the tables for quick queries and an earlier build of the program did not
-/// make yet. Adds no table and no field, so the upgrade's rule stands. Every failure is passed over: the
-/// customer is used without it, and the next call tries again.
+/// make yet, and gives fields that were too narrow for a register's answer the room of the current layout.
+/// Adds no table and no field, so the upgrade's rule stands. Every failure is passed over: the customer is
+/// used without it, and the next call tries again.
 void completeDatabase(const QString& path);
 
 /// Adds the field unitdescription to productmix; every failure is passed over.

@@ -8,6 +8,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::store
@@ -176,6 +178,39 @@ TEST(Completion, GivesADatabaseOfAnEarlierBuildWhatANewOneHas)
     const QByteArray before = folder.folder().read("velmar.mdb");
     completeDatabase(folder.path());
     EXPECT_TRUE(folder.folder().read("velmar.mdb") == before) << "a second run writes nothing";
+}
+
+TEST(Completion, GivesFieldsOfAnEarlierBuildRoomForLongNumbers)
+{
+    QVector<TableDefinition> tables = catalogue();
+    for (FieldDefinition& field : std::ranges::find(tables, u"TAXRATES"_s, &TableDefinition::name)->fields) {
+        if (field.name == u"repeatbreak"_s)
+            field = {field.name, FieldType::Long, 0, {}, false};
+        if (field.name == u"highhold"_s)
+            field = {field.name, FieldType::Double, 0, {}, false};
+    }
+    const StoreFolder folder(tables);
+    {
+        Database database(folder.path());
+        Recordset rates = database.openTable(u"taxrates"_s);
+        test::add(rates,
+                  {{"ID", Value::whole(1)}, {"repeatbreak", Value::whole(99)}, {"dummy1", test::text("5")}});
+        test::add(rates, {{"ID", Value::whole(2)}, {"highhold", Value::number(9876543210.0)}});
+    }
+    for (int start = 1; start <= 2; ++start) {
+        completeDatabase(folder.path());
+        EXPECT_EQ(layoutIn(folder), layoutOf(catalogue()));
+        EXPECT_EQ(
+            valuesOf(folder, u"select repeatbreak, dummy1, highhold from taxrates order by ID"_s).join(u' '),
+            u"99 5    9876543210"_s);
+    }
+    Database database(folder.path());
+    Recordset rates = database.openTable(u"taxrates"_s);
+    rates.edit();
+    rates.setValue(u"repeatbreak"_s, test::text("12345678901234567890"));
+    rates.update();
+    EXPECT_EQ(valuesOf(folder, u"select repeatbreak from taxrates where ID = 1"_s).join(u' '),
+              u"12345678901234567890"_s);
 }
 
 TEST(Completion, AddsNoTableAndNoFieldThatTheUpgradeLeftOut)
