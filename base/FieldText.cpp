@@ -1,6 +1,7 @@
 // The routines on a field's text; see FieldText.h.
 #include "base/FieldText.h"
 
+#include "platform/Excerpt.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
 
@@ -18,7 +19,7 @@ void appendCentred(std::u16string& out, std::u16string_view text, std::size_t wi
     if (text.size() > width) {
         throw RuntimeFailure(
             Failure::InvalidArgument,
-            u"Invalid argument: \"%1\" is longer than %2 characters"_s.arg(QStringView(text)).arg(width));
+            u"Invalid argument: \"%1\" is longer than %2 characters"_s.arg(excerpt(text)).arg(width));
     }
     const int pad = roundHalfEven(static_cast<double>(width - text.size()) / 2);
     out.append(static_cast<std::size_t>(pad), u' ').append(text).resize(width, u' ');

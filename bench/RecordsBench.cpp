@@ -1,6 +1,7 @@
 // What an import and an export of the PLU file cost beside the least that could do the work: a loop that
 // splits, converts and binds into one prepared insert, and one that selects and writes.
 #include "bench/BareDatabase.h"
+#include "platform/RuntimeFailure.h"
 #include "records/FileProcedures.h"
 #include "store/Catalogue.h"
 #include "store/Database.h"
@@ -15,6 +16,7 @@
 #include <charconv>
 #include <cstring>
 #include <fstream>
+#include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -313,9 +315,8 @@ std::int64_t statusBytes(const char* name)
 
 /// The most memory that an import takes above what the process had, as a multiple of the file's size. It is
 /// measured in a process of its own, whose mark of the highest use was set back before.
-void importMemory(benchmark::State& state)
+void measureMemory(benchmark::State& state, std::size_t fileSize, const std::function<void()>& work)
 {
-    Shop shop(static_cast<int>(state.range(0)));
     std::array<int, 2> pipeEnds{};
     require(pipe(pipeEnds.data()) == 0, "pipe");
     while (state.KeepRunning()) {
@@ -323,7 +324,7 @@ void importMemory(benchmark::State& state)
         if (child == 0) {
             std::ofstream("/proc/self/clear_refs") << "5";
             const auto before = statusBytes("VmRSS:");
-            records::importRegisterFile(pluFile, shop.context());
+            work();
             const auto taken = statusBytes("VmHWM:") - before;
             std::_Exit(write(pipeEnds[1], &taken, sizeof taken) == sizeof taken ? 0 : 1);
         }
@@ -331,12 +332,35 @@ void importMemory(benchmark::State& state)
         std::int64_t taken = 0;
         require(waitpid(child, &status, 0) == child && status == 0, "child");
         require(read(pipeEnds[0], &taken, sizeof taken) == sizeof taken, "read");
-        state.counters["memory_per_file_size"] =
-            static_cast<double>(taken) / static_cast<double>(shop.text.size());
+        state.counters["memory_per_file_size"] = static_cast<double>(taken) / static_cast<double>(fileSize);
     }
-    require(sumsOf(shop.values.databasePath) == shop.sums, "the import lost rows");
     close(pipeEnds[0]);
     close(pipeEnds[1]);
+}
+
+void importMemory(benchmark::State& state)
+{
+    Shop shop(static_cast<int>(state.range(0)));
+    measureMemory(state, shop.text.size(), [&shop] { records::importRegisterFile(pluFile, shop.context()); });
+    require(sumsOf(shop.values.databasePath) == shop.sums, "the import lost rows");
+}
+
+/// A damaged file: one column of so many bytes, in the place of a text, of a number and of option digits.
+void refuseGarbage(benchmark::State& state)
+{
+    Shop shop(1);
+    const std::string garbage(static_cast<std::size_t>(state.range(0)), '9');
+    const auto column = static_cast<std::size_t>(state.range(1));
+    std::ofstream(shop.path("67.txt"), std::ios::binary) << std::string(column - 1, ',') + garbage;
+    measureMemory(state, garbage.size(), [&shop] {
+        try {
+            records::importRegisterFile(pluFile, shop.context());
+        } catch (const RuntimeFailure& failure) {
+            require(failure.text().size() < 250, "the message shows it all");
+            return;
+        }
+        require(false, "garbage was stored");
+    });
 }
 
 } // namespace
@@ -344,5 +368,11 @@ void importMemory(benchmark::State& state)
 BENCHMARK(importPlus)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(exportPlus)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(importMemory)->Arg(100000)->Iterations(3)->Unit(benchmark::kMillisecond);
+BENCHMARK(refuseGarbage)
+    ->Args({10'000'000, 2})
+    ->Args({10'000'000, 3})
+    ->Args({10'000'000, 8})
+    ->Iterations(3)
+    ->Unit(benchmark::kMillisecond);
 
 BENCHMARK_MAIN();

@@ -2,6 +2,7 @@
 #include "exchange/MemoryFile.h"
 
 #include "base/SharedRoutines.h"
+#include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
 #include "platform/TextValues.h"
 #include "records/RecordText.h"
@@ -18,6 +19,8 @@ namespace norvane::exchange
 {
 namespace
 {
+
+const auto textName = u"52.txt"_s;
 
 enum class Form { PassedOver, Text, Count, Flags };
 
@@ -117,6 +120,7 @@ void storeColumn(store::Recordset& record, const Column& column, std::string_vie
 {
     if (column.form == Form::PassedOver)
         return;
+    records::checkLength(value);
     if (column.form == Form::Flags) {
         storeFlags(record, column, value);
         return;
@@ -125,7 +129,8 @@ void storeColumn(store::Recordset& record, const Column& column, std::string_vie
     record.setValue(QLatin1String(column.field), store::Value::text(records::plainFromRegister(kept)));
 }
 
-void storeLine(store::Recordset& record, std::string_view line, const std::function<int()>& generation)
+void storeLine(store::Recordset& record, std::string_view line, int number,
+               const std::function<int()>& generation)
 {
     int asked = 0;
     record.addNew();
@@ -133,8 +138,11 @@ void storeLine(store::Recordset& record, std::string_view line, const std::funct
         if (column == generationAskedAfter)
             asked = generation();
         const std::string_view value = records::takeField(line);
+        const auto placed = [&](const QString& text) {
+            return u"%1, line %2, column %3: "_s.arg(textName).arg(number).arg(column + 1) + text;
+        };
         if (!columns[column].newerGenerationOnly || asked == newerGeneration)
-            storeColumn(record, columns[column], value);
+            atPlace(placed, [&] { storeColumn(record, columns[column], value); });
     }
     record.update();
 }
@@ -146,9 +154,10 @@ void reloadTable(const QString& databasePath, const std::function<int()>& genera
     store::Transaction transaction(database);
     store::Recordset record = database.openTable(u"memoryallocation"_s);
     database.execute(u"delete * from memoryallocation"_s);
-    const std::string content = readWholeFile(u"52.txt"_s).toStdString();
-    for (std::string_view rest = withoutEndMark(content); !rest.empty();)
-        storeLine(record, records::takeLine(rest), generation);
+    const QByteArray content = readWholeFile(textName);
+    auto rest = withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())});
+    for (int number = 1; !rest.empty(); ++number)
+        storeLine(record, records::takeLine(rest), number, generation);
     transaction.commit();
 }
 

@@ -1,6 +1,7 @@
 // Conversions between texts and numbers; see Numbers.h.
 #include "platform/Numbers.h"
 
+#include "platform/Excerpt.h"
 #include "platform/NumberScan.h"
 #include "platform/RuntimeFailure.h"
 
@@ -21,12 +22,12 @@ constexpr std::size_t longestNumberText = 400;
 [[noreturn]] void failTypeMismatch(QStringView text)
 {
     throw RuntimeFailure(Failure::TypeMismatch,
-                         QStringLiteral("Type mismatch: \"%1\" is no number").arg(text));
+                         QStringLiteral("Type mismatch: \"%1\" is no number").arg(excerpt(text)));
 }
 
-[[noreturn]] void failOverflow(const QString& text)
+[[noreturn]] void failOverflow(QStringView text)
 {
-    throw RuntimeFailure(Failure::Overflow, QStringLiteral("Overflow: %1").arg(text));
+    throw RuntimeFailure(Failure::Overflow, QStringLiteral("Overflow: %1").arg(excerpt(text)));
 }
 
 /// Only ASCII counts in a number; whatever else stands in the text ends it.
@@ -39,7 +40,7 @@ double toDouble(const ScannedNumber& number, QStringView text)
 {
     const auto value = toDouble(number);
     if (!value)
-        failOverflow(text.toString());
+        failOverflow(text);
     return *value;
 }
 
@@ -125,7 +126,7 @@ int toWholeNumber(QStringView text, int bits)
     const int largest =
         bits == 16 ? std::numeric_limits<std::int16_t>::max() : std::numeric_limits<std::int32_t>::max();
     if (whole > largest || whole < -largest - 1)
-        failOverflow(text.toString());
+        failOverflow(text);
     return whole;
 }
 

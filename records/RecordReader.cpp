@@ -32,7 +32,7 @@ bool holdsNumbers(FieldType type)
 Value numberValue(FieldType type, std::string_view text)
 {
     if (type != FieldType::Text && trimBlanks(text).empty())
-        return {};
+        return Value::whole(0);
     const bool fits = holdsNumbers(type) && text.size() <= shortNumber;
     if (const auto number = fits ? plainWhole(text) : std::nullopt)
         return Value::whole(*number);
@@ -41,8 +41,19 @@ Value numberValue(FieldType type, std::string_view text)
 
 [[noreturn]] void failNoNumber(std::string_view text)
 {
-    throw RuntimeFailure(Failure::TypeMismatch, QStringLiteral("Type mismatch: \"%1\" is no number")
-                                                    .arg(QString::fromStdString(plainFromRegister(text))));
+    throw RuntimeFailure(Failure::TypeMismatch,
+                         QStringLiteral("Type mismatch: \"%1\" is no number").arg(shownFromRegister(text)));
+}
+
+/// A register fills columns that it does not use with blanks: they are 0 as an empty column is.
+Decimal numberOf(std::string_view text)
+{
+    if (trimBlanks(text).empty())
+        return {};
+    const auto number = Decimal::parse(text);
+    if (!number)
+        failNoNumber(text);
+    return *number;
 }
 
 /// The nearest number to @p number for number fields; text fields, prices, get its plain text.
@@ -55,12 +66,7 @@ Value scaledValue(FieldType type, std::string_view text, const ScaledColumn& col
 {
     if (column.leading)
         return exactValue(type, Decimal::leading(text).shifted(-column.scale));
-    if (trimBlanks(text).empty())
-        return {};
-    const auto number = Decimal::parse(text);
-    if (!number)
-        failNoNumber(text);
-    return exactValue(type, number->shifted(-column.scale));
+    return exactValue(type, numberOf(text).shifted(-column.scale));
 }
 
 /// @p utf8 cut to @p characters.
@@ -80,10 +86,7 @@ std::string hexByte(std::string_view text)
 {
     constexpr std::string_view digits = "0123456789ABCDEF";
     constexpr unsigned digitMask = 0xF;
-    const auto number = trimBlanks(text).empty() ? std::optional(Decimal()) : Decimal::parse(text);
-    if (!number)
-        failNoNumber(text);
-    const auto byte = static_cast<std::uint64_t>(number->toWhole());
+    const auto byte = static_cast<std::uint64_t>(numberOf(text).toWhole());
     return {digits[(byte >> 4U) & digitMask], digits[byte & digitMask]};
 }
 
@@ -162,6 +165,8 @@ void RecordReader::read(std::string_view line, std::int64_t lineNumber)
         if (!step.rereads) {
             ++m_column;
             text = takeField(line);
+            if (!std::holds_alternative<SpareColumn>(*step.column))
+                checkLength(text);
         }
         std::visit([&](const auto& column) { store(column, step, text); }, *step.column);
     }
@@ -238,13 +243,14 @@ void RecordReader::store(const HexByteColumn& column, const Step& step, std::str
     set(step.target, Value::text(m_joined));
 }
 
-/// A column that is not there adds nothing, not even the point.
+/// A column that is not there adds nothing, not even the point; one of blanks counts as zeros.
 void RecordReader::store(const PieceColumn& column, const Step& step, std::string_view text)
 {
     if (column.place == 0)
         m_joined.clear();
+    const bool isBlank = trimBlanks(text).empty();
     if (!text.empty())
-        m_joined.append(column.point).append(text);
+        m_joined.append(column.point).append(isBlank ? std::string(text.size(), '0') : text);
     set(step.target, numberValue(step.target.type, m_joined));
 }
 

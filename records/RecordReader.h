@@ -22,10 +22,10 @@ public:
 
     /// Stores all columns of @p line (bytes of the register, no line end) in the layout's order; of two
     /// columns for one field the later counts. A missing column of a number stores 0, of option digits clears
-    /// them, of a text stores an empty text; a number column of blanks alone stores null.
+    /// them, of a text stores an empty text; a number column of blanks alone stores 0.
     /// @param lineNumber counts from 1.
-    /// @throws RuntimeFailure 13 for option digits, a scaled number or a byte that are none, and what
-    /// Recordset::setValue throws.
+    /// @throws RuntimeFailure 13 for option digits, a scaled number or a byte that are none, 3163 for a
+    /// column that no register could send, and what Recordset::setValue throws.
     void read(std::string_view line, std::int64_t lineNumber);
 
     /// The column, from 1, in which the reading of a line failed; 0 when no line stands half read.

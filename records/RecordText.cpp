@@ -2,6 +2,7 @@
 #include "records/RecordText.h"
 
 #include "base/FieldText.h"
+#include "platform/Excerpt.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/Windows1252.h"
@@ -14,6 +15,9 @@ namespace norvane::records
 {
 namespace
 {
+
+/// Many times the widest column of any register.
+constexpr std::size_t longestColumn = 4096;
 
 constexpr bool isDigit(char c)
 {
@@ -49,6 +53,16 @@ std::string_view StripLeadingZero(std::string_view text)
     return text.empty() ? "0" : text;
 }
 
+void checkLength(std::string_view column)
+{
+    if (column.size() > longestColumn) {
+        throw RuntimeFailure(
+            Failure::TextTooLong,
+            u"The text is too long. A column of %1 characters begins \"%2\"."_s.arg(column.size())
+                .arg(shownFromRegister(column)));
+    }
+}
+
 std::array<int, 2> optionDigits(std::string_view column)
 {
     if (column.empty())
@@ -57,9 +71,10 @@ std::array<int, 2> optionDigits(std::string_view column)
         return {column[0] - '0', column[1] - '0'};
     const QString shown = QString::fromStdString(plainFromRegister(column));
     const std::string digits = formatNumber(shown, u"00").toStdString();
-    if (!isDigit(digits[0]))
+    if (!isDigit(digits[0])) {
         throw RuntimeFailure(Failure::TypeMismatch,
-                             u"Type mismatch: \"%1\" are no option digits"_s.arg(shown));
+                             u"Type mismatch: \"%1\" are no option digits"_s.arg(shownFromRegister(column)));
+    }
     return {digits[0] - '0', digits[1] - '0'};
 }
 
@@ -67,6 +82,12 @@ std::string textFromRegister(std::string_view bytes)
 {
     std::string shown(bytes);
     return plainFromRegister(EscapeDelimiter(shown));
+}
+
+QString shownFromRegister(std::string_view bytes)
+{
+    constexpr auto enough = static_cast<std::size_t>(excerptLength) + 1;
+    return excerpt(QString::fromStdString(plainFromRegister(bytes.substr(0, enough))));
 }
 
 std::string plainFromRegister(std::string_view bytes)

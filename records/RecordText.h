@@ -2,6 +2,8 @@
 // views of the file's own bytes (Windows-1252).
 #pragma once
 
+#include <QString>
+
 #include <array>
 #include <string>
 #include <string_view>
@@ -22,12 +24,19 @@ namespace norvane::records
 /// alone as it is.
 [[nodiscard]] std::string_view StripLeadingZero(std::string_view text);
 
+/// A register's columns are short. @throws RuntimeFailure 3163 for one that is longer than any could be: the
+/// file is damaged, and converting it would take many times its memory.
+void checkLength(std::string_view column);
+
 /// The two digits of an option column, 0 to 9 each, after the text was brought to two digits ("4" is 0 and
 /// 4). Empty text counts as "00". @throws RuntimeFailure 13 for anything that does not give two digits.
 [[nodiscard]] std::array<int, 2> optionDigits(std::string_view column);
 
 /// A text column as the database holds it: UTF-8, the register's own mark shown as "^".
 [[nodiscard]] std::string textFromRegister(std::string_view bytes);
+
+/// A column in a message, which shows no more than the beginning of a long one.
+[[nodiscard]] QString shownFromRegister(std::string_view bytes);
 
 /// A column whose text passes as it is, without regard to the register's mark.
 [[nodiscard]] std::string plainFromRegister(std::string_view bytes);

@@ -189,6 +189,33 @@ Fault faultOf(const RegisterFile& /*file*/, const SpareColumn& /*column*/)
     return {"xx"};
 }
 
+TEST(BadInputTest, QuotesNoMoreOfALongColumnThanABoxCanShow)
+{
+    const struct {
+        const char* before; ///< the columns in front of it
+        QByteArray column;
+        int failure;
+        QByteArray quoted;
+    } rows[] = {
+        {",", QByteArray(100, '\xE9'), tooLong, QByteArrayLiteral("\xC3\xA9").repeated(60)},
+        {",,", QByteArray(100, 'x'), conversion, QByteArray(60, 'x')},
+        {",,,,,,,", QByteArray(100, 'x'), mismatch, QByteArray(60, 'x')},
+        {",,,,,,,,,,,,", QByteArray(100, 'x'), mismatch, QByteArray(60, 'x')},
+        {",,", QByteArray(10'000'000, '7'), tooLong, QByteArray(60, '7')},
+    };
+    Shop shop;
+    for (const auto& [before, column, number, quoted] : rows) {
+        QByteArray told;
+        try {
+            shop.import(pluFile, before + column);
+        } catch (const RuntimeFailure& failure) {
+            EXPECT_EQ(failure.number(), number);
+            told = failure.text().toUtf8();
+        }
+        EXPECT_TRUE(told.contains('"' + quoted + "...\"")) << told.left(300).toStdString();
+    }
+}
+
 TEST(BadInputTest, NamesEachColumnThatItRefuses)
 {
     Shop shop;

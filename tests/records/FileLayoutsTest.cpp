@@ -66,7 +66,7 @@ const Travel travels[] = {
     {"start_time", 64, {{"STARTTIME", text("930")}, {"ENDTIME", whole(945)}, {"ACTIVE", yes()}}, 1, 3, "0930,0945,40", "STARTTIME", "0930"},
     {"tax_rate", 29, {{"taxrate", Value::number(17.5)}, {"TAXTYPE", whole(1)}}, 1, 3, "017500,20,00", "taxrate", "17.5"},
     {"tax_reserve_repeats_the_first", 29, {{"dummy1", text("5")}, {"dummy20", text("12345678901234567890")}}, 27, 1, "12345678901234567890", "dummy20", "5"},
-    {"tax_total_stands_twice", 29, {{"repeatbreaktotal", whole(9)}, {"highhold", Value::number(9876543210.0)}}, 28, 3, "000009,000009,9876543210", "highhold", "0"},
+    {"tax_total_stands_twice", 29, {{"repeatbreaktotal", whole(9)}, {"highhold", text("19876543210")}}, 28, 3, "000009,000009,9876543210", "highhold", "0"},
     {"three_places_come_back_as_two", 15, {{"DECIMALPlace", whole(3)}, {"SENDPLUDESCRIPTOR", yes()}, {"PRINTERRORPOLLING", yes()}}, 1, 1, "74", "DECIMALPlace", "2"},
     {"service_numbers", 15, {{"storenumber", whole(123456)}, {"timein/out", whole(5)}, {"check4", whole(4)}, {"z5pass", whole(55)}, {"rompass", whole(9999)}}, 2, 23, "123456,00,00,00,05,00,00,00,04,00,00,00,00,0000,0000,0000,0000,0055,0000,0000,00,00,9999", "rompass", "9999"},
     {"function_keys_count_by_line", 2, {{"id", whole(258)}, {"flag2", whole(1234)}}, 4, 1, "34", "flag2", "34"},
@@ -114,7 +114,10 @@ const struct {
     {67, ",007", "DESCRIPTION", "007"},
     {67, ",\"Fish\"", "DESCRIPTION", "\"Fish\""},
     {67, ",Fish, 12", "GROUPNO", "12"},
-    {67, ",,,,,,    ", "RECIPENO", "null"},
+    {67, ",,,,,,    ", "RECIPENO", "0"},
+    {67, ",,,,,,,,,,    ,", "STOCKLINK", "0"},
+    {67, ",,,,,,,,,,,,    ", "PRICE1", "0"},
+    {2, "a,  ,  ,  ,  ,  ", "flag2", "0"},
     {67, ",,,,,,,40", "INactive", "True"},
     {67, ",,,,,,,05", "printNV", "True"},
     {67, ",,,,,,,57", "PRESET", "False"},
@@ -127,6 +130,9 @@ const struct {
     {34, "0005\r\n\r\n", "rate", "0.05|0"},
     {64, "0000,0000,40\r\n", "STARTTIME", "0000"},
     {29, "017500,40\r\n", "highhold", "0"},
+    {29, "0,0,0,0,0,0,0,012345678901234567890", "repeatbreak", "12345678901234567890"},
+    {29, "0,0,0,0,0,0,0,99999999999999999999", "repeatbreaktotal", "99999999999999999999"},
+    {29, "0,0,0,0,0,0,0,99999999999999999999", "highhold", "99999999999999999999"},
     {29, "17500%,\r\n  ,\r\nfree,\r\n", "taxrate", "17.5|0|0"},
     {16, "0200\r\n300\r\n0000\r\n\r\n 012 \r\n0271\r\n", "KEYLINK", "0|271|||12|271"},
     {57, "a,,,,,,4,1234567\r\n", "codenumber1", "1234567"},
@@ -220,6 +226,12 @@ TEST(FileLayoutsTest, KeepsNumbersInTheFlagsOfSomeFunctionKeys)
     EXPECT_EQ(shop.exported(2), functionKeys({{258, "B           ,00000000,00,00,12,00"},
                                               {259, "C           ,00000000,00,00,00,00"},
                                               {264, "D           ,00000000,00,01,02,00"}}));
+    for (const char* blanks : {"D,0,0,01,  ,50", "D,0,0,  ,  ,  "}) {
+        shop.import(2, functionKeys({{264, blanks}}));
+        const QByteArray sent =
+            QByteArray(blanks).replace("  ", "00").replace("D,0,0", "D           ,00000000,00");
+        EXPECT_EQ(shop.exported(2), functionKeys({{264, sent}}));
+    }
 }
 
 TEST(FileLayoutsTest, KeepsTheTextsOfTheCardKeysFromNewerFirmware)
