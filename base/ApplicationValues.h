@@ -17,6 +17,9 @@ struct ApplicationValues {
     QString customerPath;
     /// The customer database in use. Set at the start and by the key editors only.
     QString databasePath;
+    /// Which day's report the user is asked a day for ("DAILYPLU"); empty for a report over a fixed period.
+    /// The price list leaves it as the report before set it.
+    QString reportMode;
 };
 
 } // namespace norvane

@@ -11,6 +11,7 @@
 #include "records/RecordText.h"
 #include "sales/PollStamp.h"
 #include "store/Database.h"
+#include "store/MonthTotals.h"
 #include "store/Recordset.h"
 #include "store/SalesTables.h"
 
@@ -235,6 +236,15 @@ void Import::addRow()
     m_records.update();
 }
 
+/// The first collection of a month adds up the one before, so that no report has to. Reports reach back to
+/// the beginning of the year at most; after a longer absence they add up the rest themselves, and where it
+/// cannot be done here they read the rows: a day's sales are never refused for it.
+void addUpEndedMonths(store::Database& database, const QString& table, QDate collected)
+{
+    const QDate month(collected.year(), collected.month(), 1);
+    store::MonthTotals(database, table).addUpMissing({month.addYears(-1), month.addDays(-1)}, collected);
+}
+
 } // namespace
 
 std::span<const PollFile> pollFiles()
@@ -250,6 +260,7 @@ void importPollFile(const PollFile& file, const ApplicationValues& values, QDate
     const QByteArray content = readWholeFile(joinPath(values.appPath, QLatin1StringView(file.name)));
     TextValues text({content.constData(), static_cast<std::size_t>(content.size())});
     Import(file, records, values, collected).storeAll(text);
+    addUpEndedMonths(database, QLatin1StringView(file.table), collected);
     transaction.commit();
 }
 

@@ -40,7 +40,8 @@ struct PollFile {
 
 /// Appends a row to the reader's table for each record of its file, dated @p collected: nothing in a file
 /// tells when its sales were made. All in one transaction, which stays when a failure ends it, so that the
-/// records ahead of a bad one are kept; a process that is killed leaves the table as it was.
+/// records ahead of a bad one are kept; a process that is killed leaves the table as it was. After a good end
+/// the months of the year before that still lack totals get them, see store/MonthTotals.h.
 /// @throws RuntimeFailure 53 when the file is missing; naming file and record 62 when the last record is
 /// short, 13 for a value that is empty or no number, 6 for one that is too large, 3163 for an item's code
 /// that is too long, 3314 at the first record when the PLU report's stamp fits no layout.

@@ -1,0 +1,115 @@
+// The report dialog's controls and its buttons; see Frmreports.h.
+#include "sales/Frmreports.h"
+
+#include "platform/FilePaths.h"
+#include "ui/Appearance.h"
+#include "ui/FormKit.h"
+
+#include <QCalendarWidget>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::sales
+{
+namespace
+{
+
+/// Room for the longest title in the caption, in device-independent pixels.
+constexpr int contentWidth = 340;
+
+QRadioButton* makeTarget(const QString& name, const QString& caption, QLayout& place)
+{
+    auto* const target = new QRadioButton(caption);
+    ui::nameControl(*target, name);
+    place.addWidget(target);
+    return target;
+}
+
+} // namespace
+
+Frmreports::Frmreports(const ApplicationValues& values, Boxes& boxes, reports::Runner runner, QWidget* parent)
+    : QDialog(parent), m_values(values), m_report(*this, boxes, std::move(runner)),
+      CSCal(new QCalendarWidget(this))
+{
+    setObjectName(u"Frmreports"_s);
+    m_report.setCustomer(values.customerName);
+    layOut();
+    loadForm();
+}
+
+void Frmreports::layOut()
+{
+    ui::nameControl(*CSCal, u"CSCal"_s);
+    CSCal->setGridVisible(false);
+    CSCal->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    auto* const Generate = ui::makeButton(u"CSCmdBtn1"_s, u"&Generate"_s, this);
+    auto* const CmdExit = ui::makeButton(u"CmdExit"_s, u"&Exit"_s, this);
+    Generate->setDefault(true);
+    CmdExit->setAutoDefault(false);
+    connect(Generate, &QPushButton::clicked, this, &Frmreports::generate);
+    // The calendar keeps the Enter key to itself.
+    connect(CSCal, &QCalendarWidget::activated, this, &Frmreports::generate);
+    connect(CmdExit, &QPushButton::clicked, this, &QDialog::reject);
+
+    QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
+    column->addWidget(CSCal);
+    column->addWidget(makeTargets());
+    column->addLayout(ui::makeButtonRow({Generate, CmdExit}));
+}
+
+QWidget* Frmreports::makeTargets()
+{
+    auto* const frame = new QGroupBox(u"Print to:-"_s, this);
+    ui::nameControl(*frame, u"Frame1"_s);
+    frame->setMinimumWidth(contentWidth);
+    auto* const row = new QHBoxLayout(frame);
+    row->setSpacing(ui::spacing::groupGap);
+    Option1 = makeTarget(u"Option1"_s, u"Screen"_s, *row);
+    makeTarget(u"Option2"_s, u"Printer"_s, *row);
+    row->addStretch();
+    Option1->setChecked(true);
+    return frame;
+}
+
+void Frmreports::loadForm()
+{
+    CSCal->setVisible(!m_values.reportMode.isEmpty());
+    CSCal->setSelectedDate(QDate::currentDate());
+}
+
+/// In any other mode the formula stays as the menu entry set it.
+void Frmreports::generate()
+{
+    if (const auto formula = formulaOfDay(m_values.reportMode, CSCal->selectedDate()))
+        m_report.setSelectionFormula(*formula);
+    m_report.setDestination(Option1->isChecked() ? reports::Destination::Window
+                                                 : reports::Destination::Printer);
+    m_report.run();
+}
+
+/// The mode comes first: the dialog looks at it when it is made. The price list sets none, so that after a
+/// report by date it opens with the calendar and takes over that report's selection of a day.
+void showReport(const ReportEntry& entry, ApplicationValues& values, Boxes& boxes, QWidget* parent,
+                const reports::Runner& runner)
+{
+    if (entry.mode)
+        values.reportMode = *entry.mode;
+    Frmreports form(values, boxes, runner, parent);
+    form.setWindowTitle(entry.title);
+    reports::Report& report = form.Report1();
+    if (entry.titleUse == TitleUse::Report)
+        report.setReportTitle(entry.title);
+    else
+        report.setWindowTitle(entry.title);
+    report.setDataFile(0, values.databasePath);
+    report.setReportFile(joinPath(values.appPath, entry.file));
+    if (!entry.formula.isEmpty())
+        report.setSelectionFormula(entry.formula);
+    form.exec();
+}
+
+} // namespace norvane::sales

@@ -1,0 +1,52 @@
+// The dialog behind every report of the menu.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "reports/Report.h"
+#include "sales/ReportEntries.h"
+
+#include <QDialog>
+
+class QCalendarWidget;
+class QRadioButton;
+
+namespace norvane
+{
+class Boxes;
+}
+
+namespace norvane::sales
+{
+
+/// Asks for a target and, where the application's report mode says so, for a day. It stays open, so that a
+/// report can be had for further days or once more on paper. Enter generates, Escape leaves.
+class Frmreports : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Shows the calendar by the report mode as it stands, at today. @p values must outlive the dialog.
+    Frmreports(const ApplicationValues& values, Boxes& boxes, reports::Runner runner,
+               QWidget* parent = nullptr);
+
+    /// What the dialog runs, to be set before it is shown.
+    [[nodiscard]] reports::Report& Report1() { return m_report; }
+
+private:
+    void layOut();
+    [[nodiscard]] QWidget* makeTargets();
+    void loadForm();
+    void generate();
+
+    const ApplicationValues& m_values;
+    reports::Report m_report;
+    QCalendarWidget* CSCal;
+    QRadioButton* Option1;
+};
+
+/// Sets the report mode of @p values, opens the dialog for @p entry over the database in use and returns when
+/// the user leaves it.
+void showReport(const ReportEntry& entry, ApplicationValues& values, Boxes& boxes, QWidget* parent,
+                const reports::Runner& runner);
+
+} // namespace norvane::sales

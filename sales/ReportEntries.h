@@ -1,0 +1,36 @@
+// The reports of the menu: what each entry sets before the report dialog opens.
+#pragma once
+
+#include <QDate>
+#include <QLatin1StringView>
+#include <QString>
+
+#include <optional>
+#include <span>
+
+namespace norvane::sales
+{
+
+/// What the title of an entry is for, besides the caption of the dialog.
+enum class TitleUse {
+    Report, ///< the heading of the pages
+    Window, ///< the preview window
+};
+
+struct ReportEntry {
+    QLatin1StringView handler; ///< "PLUSalesByDate_Click"
+    QLatin1StringView title;
+    QLatin1StringView file; ///< layout in the program's folder
+    /// What ApplicationValues::reportMode is set to; nothing leaves it as it stands.
+    std::optional<QLatin1StringView> mode;
+    QLatin1StringView formula; ///< of the selection; empty for none
+    TitleUse titleUse = TitleUse::Report;
+};
+
+[[nodiscard]] std::span<const ReportEntry> reportEntries();
+
+/// The selection formula for the sales of @p day: "{PLUSALES.SALESDATE} = date(2004,5,7)" for "DAILYPLU".
+/// @return nothing when @p mode is none of those that ask for a day.
+[[nodiscard]] std::optional<QString> formulaOfDay(const QString& mode, QDate day);
+
+} // namespace norvane::sales

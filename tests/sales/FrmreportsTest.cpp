@@ -1,0 +1,146 @@
+// The report dialog as a user works it: what it asks of the report control, entry by entry.
+#include "sales/Frmreports.h"
+
+#include "tests/support/FormTest.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::sales
+{
+namespace
+{
+
+class FrmreportsTest : public testing::Test
+{
+protected:
+    FrmreportsTest()
+    {
+        m_values.appPath = u"app"_s;
+        m_values.customerName = u"Cafe"_s;
+        m_values.databasePath = u"Cafe/velmar.mdb"_s;
+    }
+
+    /// Opens the dialog of a menu entry, lets @p use work it and leaves it with Escape.
+    void open(const char* handler, const std::function<void()>& use)
+    {
+        const auto entries = reportEntries();
+        const auto entry = std::find_if(entries.begin(), entries.end(), [handler](const ReportEntry& each) {
+            return each.handler == QLatin1StringView(handler);
+        });
+        ASSERT_NE(entry, entries.end()) << handler;
+        QTimer::singleShot(0, [&] {
+            m_form = QApplication::activeModalWidget();
+            ASSERT_TRUE(m_form && QTest::qWaitForWindowActive(m_form)) << handler;
+            use();
+            EXPECT_TRUE(m_form->isVisible()) << "a report leaves the dialog open";
+            QTest::keyClick(m_form, Qt::Key_Escape);
+        });
+        showReport(
+            *entry, m_values, m_boxes, nullptr,
+            [this](const reports::ReportRequest& request, const reports::KeepGoing&) -> reports::ReportData {
+                m_requests.push_back(request);
+                throw reports::ReportError(u"no layout"_s);
+            });
+    }
+    template <typename Control>
+    Control& control(const char* name)
+    {
+        return *m_form->findChild<Control*>(QLatin1StringView(name));
+    }
+    bool showsCalendar() { return control<QCalendarWidget>("CSCal").isVisible(); }
+    /// What the report control was asked for by the press of Enter.
+    QString generated()
+    {
+        m_requests.clear();
+        QTest::keyClick(m_form->focusWidget(), Qt::Key_Return);
+        EXPECT_EQ(m_requests.size(), 1U);
+        if (m_requests.empty())
+            return {};
+        const reports::ReportRequest& request = m_requests.back();
+        EXPECT_EQ(request.dataFile, m_values.databasePath);
+        EXPECT_EQ(request.customer, u"Cafe"_s);
+        return QStringList{QFileInfo(request.reportFile).fileName(), request.reportTitle, request.windowTitle,
+                           request.selectionFormula}
+            .join(u'|');
+    }
+
+    ApplicationValues m_values;
+    test::RecordingBoxes m_boxes;
+    std::vector<reports::ReportRequest> m_requests;
+    QWidget* m_form = nullptr;
+};
+
+TEST_F(FrmreportsTest, AFixedPeriodIsAskedForAtOnce)
+{
+    const std::pair<const char*, const char*> rows[] = {
+        {"Finweek_Click", "finsales.rpt|Financial Sales Report Week to Date||{financialSALES.SALESDATE} in "
+                          "WeekToDateFromSun"},
+        {"MixMonth_Click",
+         "mixsales.rpt|Mix N Match Sales Report Month to Date||{MIXSALES.SALESDATE} in monthtodate"},
+        {"Clerkyear_Click",
+         "clerksales.rpt|Clerk Sales Report Year to Date||{clerkSALES.SALESDATE} in YearToDate"},
+        {"Pluprice_Click", "pluprice.rpt||PLU Price List Report|"},
+    };
+    for (const auto& [handler, expected] : rows) {
+        open(handler, [&, text = QLatin1StringView(expected)] {
+            EXPECT_FALSE(showsCalendar());
+            EXPECT_EQ(m_form->windowTitle(), text.contains("PLU Price"_L1)
+                                                 ? u"PLU Price List Report"_s
+                                                 : QString(text).section(u'|', 1, 1));
+            EXPECT_EQ(generated(), text);
+        });
+    }
+}
+
+TEST_F(FrmreportsTest, ADayIsPickedAndThePriceListKeepsTheMode)
+{
+    open("TimeByDate_Click", [this] {
+        auto& calendar = control<QCalendarWidget>("CSCal");
+        EXPECT_TRUE(showsCalendar());
+        EXPECT_EQ(calendar.selectedDate(), QDate::currentDate());
+        for (const QDate day : {QDate(2004, 5, 7), QDate(2024, 2, 29)}) {
+            calendar.setSelectedDate(day);
+            EXPECT_EQ(generated(), u"timesales.rpt|Time Period Report by Date.||{TIMESALES.SALESDATE} = "
+                                   "date(%1)"_s.arg(day.toString(u"yyyy,M,d"_s)));
+        }
+    });
+    const QString today = QDate::currentDate().toString(u"yyyy,M,d"_s);
+    open("Pluprice_Click", [this, today] {
+        EXPECT_TRUE(showsCalendar());
+        EXPECT_EQ(generated(),
+                  u"pluprice.rpt||PLU Price List Report|{TIMESALES.SALESDATE} = date(%1)"_s.arg(today));
+    });
+    open("PLUSalesMonthTodate_Click", [this] { EXPECT_FALSE(showsCalendar()); });
+    open("Pluprice_Click", [this] {
+        EXPECT_FALSE(showsCalendar());
+        EXPECT_EQ(generated(), u"pluprice.rpt||PLU Price List Report|"_s);
+        EXPECT_EQ(m_boxes.shown.back(),
+                  (test::ShownBox{u"no layout"_s, u"Report Error"_s, BoxIcon::Critical}));
+    });
+}
+
+TEST_F(FrmreportsTest, CanBeWorkedFromTheKeyboard)
+{
+    open("MixDate_Click", [this] {
+        EXPECT_TRUE(control<QRadioButton>("Option1").isChecked());
+        control<QCalendarWidget>("CSCal").setFocus();
+        QTest::keyClick(m_form->focusWidget(), Qt::Key_Left);
+        const QString yesterday = QDate::currentDate().addDays(-1).toString(u"yyyy,M,d"_s);
+        EXPECT_TRUE(generated().endsWith(u"{MIXSALES.SALESDATE} = date(%1)"_s.arg(yesterday)));
+        QTest::keyClick(m_form->windowHandle(), Qt::Key_G, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return m_requests.size() == 2; }));
+    });
+}
+
+} // namespace
+} // namespace norvane::sales
