@@ -1,0 +1,25 @@
+// A customer to look at: a programme from a register, and sales of more than a year.
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+namespace demo
+{
+
+struct Wish {
+    QString program; ///< folder of the program, with tools, templates and a bank that answers
+    QString tools;   ///< folder with makebank and ringsales
+    QString scratch; ///< folder for what is needed meanwhile; a quick one
+    QDate first;     ///< first and last day of the sales
+    QDate last;
+};
+
+/// Name of the customer.
+[[nodiscard]] QString shopName();
+
+/// Makes the customer in the program's folder, whole or not at all. @throws std::runtime_error or
+/// RuntimeFailure
+void makeDemoShop(const Wish& wish);
+
+} // namespace demo
