@@ -76,7 +76,7 @@ public:
             const int count = (plu * 31 + m_days * 7) % 50;
             sales.addNew();
             sales.setValue(fields[0], Value::text(pluNumber(plu)));
-            sales.setValue(fields[1], day);
+            sales.setValue(fields[1], store::Value(day));
             sales.setValue(fields[2], Value::whole(0));
             sales.setValue(fields[3], Value::whole(0));
             sales.setValue(fields[4], Value::whole(count));

@@ -155,9 +155,9 @@ void reloadTable(const QString& databasePath, const std::function<int()>& genera
     store::Recordset record = database.openTable(u"memoryallocation"_s);
     database.execute(u"delete * from memoryallocation"_s);
     const QByteArray content = readWholeFile(textName);
-    auto rest = withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())});
-    for (int number = 1; !rest.empty(); ++number)
-        storeLine(record, records::takeLine(rest), number, generation);
+    records::Lines lines(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
+    for (int number = 1; !lines.atEnd(); ++number)
+        storeLine(record, lines.next(), number, generation);
     transaction.commit();
 }
 

@@ -85,34 +85,35 @@ Decimal fromScanned(const ScannedNumber& number)
     return Decimal(coefficient, scale).shifted(0);
 }
 
-/// Nearly every price is spelled so: digits, with a point at most. @return nothing for any other spelling.
-std::optional<Decimal> plainDecimal(std::string_view text)
+} // namespace
+
+std::optional<Decimal> Decimal::plain(std::string_view text)
 {
+    const bool negative = text.starts_with('-');
+    text.remove_prefix(negative ? 1 : 0);
     const auto whole = text.substr(0, text.find('.'));
     const auto fraction = text.substr(std::min(whole.size() + 1, text.size()));
     const auto digits = whole.size() + fraction.size();
-    if (digits == 0 || digits > mostDigits)
-        return std::nullopt;
     std::int64_t coefficient = 0;
-    if (!addDigits(coefficient, whole) || !addDigits(coefficient, fraction))
+    if (digits == 0 || digits > mostDigits || !addDigits(coefficient, whole) ||
+        !addDigits(coefficient, fraction))
         return std::nullopt;
-    return Decimal(coefficient, coefficient == 0 ? 0 : static_cast<int>(fraction.size()));
+    return Decimal(negative ? -coefficient : coefficient,
+                   coefficient == 0 ? 0 : static_cast<int>(fraction.size()));
 }
-
-} // namespace
 
 std::optional<Decimal> Decimal::parse(std::string_view text)
 {
-    if (const auto plain = plainDecimal(text))
-        return plain;
+    if (const auto spelledPlainly = plain(text))
+        return spelledPlainly;
     const auto number = scanWholeNumber(text);
     return number ? std::optional(fromScanned(*number)) : std::nullopt;
 }
 
 Decimal Decimal::leading(std::string_view text)
 {
-    if (const auto plain = plainDecimal(text))
-        return *plain;
+    if (const auto spelledPlainly = plain(text))
+        return *spelledPlainly;
     const auto number = scanLeadingNumber(text);
     return number ? fromScanned(*number) : Decimal();
 }

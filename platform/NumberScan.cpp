@@ -126,17 +126,4 @@ std::optional<std::int64_t> plainWhole(std::string_view text)
     return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
 }
 
-std::optional<double> plainNumber(std::string_view text)
-{
-    if (const auto whole = plainWhole(text))
-        return static_cast<double>(*whole);
-    // "nan" and "5." are no numbers here.
-    if (text.empty() || !(isDigit(text.front()) || text.front() == '-') || !isDigit(text.back()))
-        return std::nullopt;
-    double number = 0;
-    const char* const end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
-    return result.ec == std::errc() && result.ptr == end ? std::optional(number) : std::nullopt;
-}
-
 } // namespace norvane

@@ -41,7 +41,4 @@ inline constexpr int exponentLimit = 9999;
 /// @return nothing for any other spelling and for a number of more than 64 bits.
 [[nodiscard]] std::optional<std::int64_t> plainWhole(std::string_view text);
 
-/// The same with a point between the digits allowed.
-[[nodiscard]] std::optional<double> plainNumber(std::string_view text);
-
 } // namespace norvane

@@ -32,6 +32,27 @@ int byteOf(char32_t character)
     return 0x80 + static_cast<int>(found - upperControls.begin());
 }
 
+bool isAscii(char byte)
+{
+    return static_cast<unsigned char>(byte) < 0x80;
+}
+
+/// For the characters of the registers, none of which takes more than three bytes.
+void appendUtf8(std::string& out, char32_t character)
+{
+    if (character < 0x80) {
+        out.push_back(static_cast<char>(character));
+        return;
+    }
+    if (character < 0x800) {
+        out.push_back(static_cast<char>(0xC0u | (character >> 6)));
+    } else {
+        out.push_back(static_cast<char>(0xE0u | (character >> 12)));
+        out.push_back(static_cast<char>(0x80u | ((character >> 6) & 0x3Fu)));
+    }
+    out.push_back(static_cast<char>(0x80u | (character & 0x3Fu)));
+}
+
 /// Calls @p take once for each Unicode character.
 template <typename Take>
 void forEachCharacter(QStringView text, Take take)
@@ -88,26 +109,17 @@ QByteArray toWindows1252(QStringView text)
 
 void appendUtf8FromWindows1252(std::string& out, std::string_view bytes)
 {
-    for (const char byte : bytes) {
-        const char32_t character = characterOf(static_cast<unsigned char>(byte));
-        if (character < 0x80) {
-            out.push_back(byte);
-            continue;
-        }
-        if (character < 0x800) {
-            out.push_back(static_cast<char>(0xC0u | (character >> 6)));
-        } else {
-            out.push_back(static_cast<char>(0xE0u | (character >> 12)));
-            out.push_back(static_cast<char>(0x80u | ((character >> 6) & 0x3Fu)));
-        }
-        out.push_back(static_cast<char>(0x80u | (character & 0x3Fu)));
-    }
+    // Most texts are ASCII, which both sides spell alike.
+    const auto* const other = std::find_if_not(bytes.begin(), bytes.end(), isAscii);
+    out.append(bytes.begin(), other);
+    std::for_each(other, bytes.end(),
+                  [&out](char byte) { appendUtf8(out, characterOf(static_cast<unsigned char>(byte))); });
 }
 
 void appendWindows1252FromUtf8(std::string& out, std::string_view utf8)
 {
     for (std::size_t i = 0; i < utf8.size();) {
-        if (static_cast<unsigned char>(utf8[i]) < 0x80) {
+        if (isAscii(utf8[i])) {
             out.push_back(utf8[i++]);
             continue;
         }

@@ -64,8 +64,9 @@ public:
 
     void storeAll(std::string_view text)
     {
-        for (qint64 number = 1; !text.empty(); ++number)
-            storeLine(takeLine(text), number);
+        Lines lines(text);
+        for (qint64 number = 1; !lines.atEnd(); ++number)
+            storeLine(lines.next(), number);
     }
 
 private:

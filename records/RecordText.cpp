@@ -24,18 +24,17 @@ constexpr bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-constexpr bool endsLine(char c)
-{
-    return c == '\r' || c == '\n';
-}
-
 } // namespace
 
-std::string_view takeLine(std::string_view& text)
+std::string_view Lines::next()
 {
-    const std::string_view line(text.begin(), std::find_if(text.begin(), text.end(), endsLine));
-    text.remove_prefix(line.size());
-    text.remove_prefix(text.starts_with("\r\n") ? 2 : std::min<std::size_t>(text.size(), 1));
+    if (m_lineFeed <= m_at)
+        m_lineFeed = std::min(m_text.find('\n', m_at), m_text.size());
+    const auto upToLineFeed = m_text.substr(m_at, m_lineFeed - m_at);
+    const auto line = upToLineFeed.substr(0, upToLineFeed.find('\r'));
+    m_at += line.size();
+    const std::size_t lineEnd = m_text.substr(m_at).starts_with("\r\n") ? 2 : 1;
+    m_at += lineEnd;
     return line;
 }
 

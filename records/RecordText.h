@@ -5,15 +5,27 @@
 #include <QString>
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace norvane::records
 {
 
-/// Takes the next line off @p text, without its line end: CR LF, a lone LF or a lone CR. A line end at the
-/// very end of the text begins no further line.
-[[nodiscard]] std::string_view takeLine(std::string_view& text);
+/// Takes one line after another off a text, without its line end: CR LF, a lone LF or a lone CR. A line end
+/// at the very end of the text begins no further line.
+class Lines
+{
+public:
+    explicit Lines(std::string_view text) : m_text(text) {}
+    [[nodiscard]] bool atEnd() const { return m_at >= m_text.size(); }
+    [[nodiscard]] std::string_view next();
+
+private:
+    std::string_view m_text;
+    std::size_t m_at = 0;
+    std::size_t m_lineFeed = 0; ///< where the first line feed stands behind the lines taken so far
+};
 
 /// Takes the next column off @p line. There is no quoting: a comma always ends a column. Columns beyond the
 /// end of a line are empty.

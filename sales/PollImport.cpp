@@ -5,7 +5,6 @@
 #include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
 #include "platform/Numbers.h"
-#include "platform/NumberScan.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/TextValues.h"
 #include "records/RecordText.h"
@@ -86,8 +85,8 @@ QString shown(std::string_view text)
 
 double numberOf(std::string_view text)
 {
-    if (const auto plain = plainNumber(text))
-        return *plain;
+    if (const auto plain = Decimal::plain(text))
+        return plain->toDouble();
     const QString spelled = QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
     try {
         return toNumber(spelled);

@@ -263,7 +263,7 @@ void Recordset::addNew()
         throw RuntimeFailure(Failure::ReadOnlyRecords,
                              u"A query takes no new records. (%1)"_s.arg(d->shape->name()));
     }
-    d->edited = d->shape->defaults();
+    d->shape->fillNew(d->edited);
     d->mode = EditMode::Adding;
 }
 
@@ -346,7 +346,7 @@ const Value& Recordset::value(int ordinal) const
     return d->cursor->row().values.at(static_cast<std::size_t>(ordinal));
 }
 
-void Recordset::setValue(int ordinal, Value value)
+void Recordset::setValue(int ordinal, Value&& value)
 {
     if (d->mode == EditMode::None)
         d->failNoRecord();

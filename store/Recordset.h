@@ -94,7 +94,7 @@ public:
     [[nodiscard]] const Value& value(const QString& name) const { return value(fieldOrdinal(name)); }
     /// Converts to the field's type. @throws 3421 when the value does not convert, 3163 when a text is too
     /// long, 3265, and 3021 outside edit() and addNew().
-    void setValue(int ordinal, Value value);
+    void setValue(int ordinal, Value&& value);
     void setValue(const QString& name, Value value) { setValue(fieldOrdinal(name), std::move(value)); }
 
     class Private;

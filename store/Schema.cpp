@@ -111,6 +111,19 @@ TableShape::TableShape(TableDefinition definition)
 {
     for (int i = 0; i < m_definition.fields.size(); ++i)
         m_ordinals.insert(m_definition.fields.at(i).name.toCaseFolded(), i);
+    for (std::size_t i = 0; i < m_defaults.size(); ++i) {
+        if (!m_defaults[i].isNull())
+            m_withDefault.push_back(i);
+    }
+}
+
+void TableShape::fillNew(std::vector<Value>& values) const
+{
+    values.resize(m_defaults.size());
+    for (Value& value : values)
+        value.setNull();
+    for (const std::size_t ordinal : m_withDefault)
+        values[ordinal] = m_defaults[ordinal];
 }
 
 std::optional<int> TableShape::ordinal(const QString& field) const

@@ -25,8 +25,8 @@ public:
     [[nodiscard]] const TableDefinition& definition() const { return m_definition; }
     [[nodiscard]] const QString& name() const { return m_definition.name; }
     [[nodiscard]] std::optional<int> ordinal(const QString& field) const;
-    /// What a new record holds, by ordinal.
-    [[nodiscard]] const std::vector<Value>& defaults() const { return m_defaults; }
+    /// Makes @p values those of a new record, by ordinal.
+    void fillNew(std::vector<Value>& values) const;
     /// The index that @p name stands for, nullptr when there is none.
     [[nodiscard]] const IndexDefinition* index(const QString& name) const;
 
@@ -34,6 +34,7 @@ private:
     TableDefinition m_definition;
     QHash<QString, int> m_ordinals;
     std::vector<Value> m_defaults;
+    std::vector<std::size_t> m_withDefault; ///< ordinals; few fields have one
 };
 
 /// Reads and writes definitions. They lie in two tables of the store's own beside the tables that they

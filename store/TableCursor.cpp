@@ -79,8 +79,6 @@ void TableCursor::setIndex(const IndexDefinition* index)
 void TableCursor::changeOrder(const IndexDefinition& index)
 {
     setIndex(&index);
-    if (m_at < m_rows.size())
-        takePlace();
 }
 
 PreparedStatement& TableCursor::statement(Access access)
@@ -133,17 +131,14 @@ bool TableCursor::read(Access access, const Value& key, std::int64_t rowId, std:
     m_rows.swap(m_spare);
     m_filled = count;
     m_at = 0;
-    takePlace();
     stampNow();
     return true;
 }
 
-void TableCursor::takePlace()
+const Value& TableCursor::placeKey() const
 {
-    const Row& current = m_rows[m_at];
-    m_rowId = current.rowId;
-    if (m_keyOrdinal >= 0)
-        m_key = current.values[static_cast<std::size_t>(m_keyOrdinal)];
+    static const Value none;
+    return m_keyOrdinal < 0 ? none : row().values[static_cast<std::size_t>(m_keyOrdinal)];
 }
 
 void TableCursor::stampNow()
@@ -168,7 +163,7 @@ bool TableCursor::isFresh() const
 
 bool TableCursor::placeHasNoKey() const
 {
-    return m_keyOrdinal >= 0 && m_key.isNull();
+    return m_keyOrdinal >= 0 && placeKey().isNull();
 }
 
 bool TableCursor::first()
@@ -187,21 +182,20 @@ bool TableCursor::next()
     const bool fresh = isFresh();
     if (fresh && m_at + 1 < m_filled) {
         ++m_at;
-        takePlace();
         return true;
     }
     m_steps = fresh ? m_steps + 1 : 0;
     m_ahead = m_steps < stepsBeforeReadingAhead ? 1 : std::min(m_ahead * 2, mostAhead);
     if (!placeHasNoKey())
-        return read(Next, m_key, m_rowId, m_ahead);
-    return read(NextNull, {}, m_rowId, m_ahead) || read(FirstKey, {}, 0, m_ahead);
+        return read(Next, placeKey(), row().rowId, m_ahead);
+    return read(NextNull, {}, row().rowId, m_ahead) || read(FirstKey, {}, 0, m_ahead);
 }
 
 bool TableCursor::previous()
 {
     if (placeHasNoKey())
-        return read(PreviousNull, {}, m_rowId);
-    return read(Previous, m_key, m_rowId) || (m_keyOrdinal >= 0 && read(LastNull, {}, 0));
+        return read(PreviousNull, {}, row().rowId);
+    return read(Previous, placeKey(), row().rowId) || (m_keyOrdinal >= 0 && read(LastNull, {}, 0));
 }
 
 bool TableCursor::seek(Seek comparison, const Value& key)
@@ -225,7 +219,7 @@ qint64 TableCursor::count()
 bool TableCursor::reread()
 {
     const bool mineAlone = m_database.transactionNumber() != 0;
-    return (mineAlone && isFresh()) || read(ByRowId, {}, m_rowId);
+    return (mineAlone && isFresh()) || read(ByRowId, {}, row().rowId);
 }
 
 /// The rows read ahead stay valid when this recordset's own change to one row is the only one since.
@@ -254,7 +248,6 @@ void TableCursor::rowAdded(std::vector<Value>& values, std::int64_t rowId)
     m_rows[0].rowId = rowId;
     m_filled = 1;
     m_at = 0;
-    takePlace();
     stampNow();
 }
 
@@ -263,7 +256,6 @@ void TableCursor::rowStored(const std::vector<Value>& values)
     const auto key = static_cast<std::size_t>(std::max(m_keyOrdinal, 0));
     const bool staysInPlace = m_keyOrdinal < 0 || m_rows[m_at].values[key] == values[key];
     m_rows[m_at].values = values;
-    takePlace();
     if (staysInPlace)
         keepReadAhead();
 }

@@ -82,7 +82,7 @@ private:
     [[nodiscard]] bool isFresh() const;
     [[nodiscard]] bool placeHasNoKey() const;
     [[nodiscard]] bool wasCounted(const std::vector<Value>& values) const;
-    void takePlace();
+    [[nodiscard]] const Value& placeKey() const;
     void keepReadAhead();
     void stampNow();
 
@@ -99,8 +99,6 @@ private:
     std::vector<Row> m_spare; ///< read into first, so that a move without a record changes nothing
     std::size_t m_filled = 0;
     std::size_t m_at = 0;
-    Value m_key;
-    std::int64_t m_rowId = 0;
     Stamp m_stamp;
     int m_steps = 0;
     std::size_t m_ahead = 1;

@@ -1,8 +1,8 @@
 // What a value looks like as text, number and date, whichever kind it holds; see Value.h.
 #include "store/Value.h"
 
+#include "platform/Decimal.h"
 #include "platform/Numbers.h"
-#include "platform/NumberScan.h"
 #include "store/FieldConversion.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,8 +21,8 @@ Overloaded(Ts...) -> Overloaded<Ts...>;
 
 double leadingNumberOf(const std::string& text)
 {
-    const auto plain = plainNumber(text);
-    return plain ? *plain : leadingNumber(QString::fromStdString(text));
+    const auto plain = Decimal::plain(text);
+    return plain ? plain->toDouble() : leadingNumber(QString::fromStdString(text));
 }
 
 } // namespace
