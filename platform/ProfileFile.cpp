@@ -194,6 +194,24 @@ QString ProfileFile::value(QStringView section, QStringView key, const QString& 
     return withoutTrailingBlanks(defaultText).left(limit);
 }
 
+QStringList ProfileFile::sections() const
+{
+    QStringList names;
+    for (const auto& section : m_sections)
+        names.append(section.first);
+    return names;
+}
+
+QStringList ProfileFile::keys(QStringView section) const
+{
+    QStringList names;
+    if (const auto named = m_sections.find(section); named != m_sections.end()) {
+        for (const auto& key : named->second)
+            names.append(key.first);
+    }
+    return names;
+}
+
 bool ProfileFile::write(const QString& path, const QString& section, const QString& key, const QString& value)
 {
     try {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <unordered_map>
 
@@ -24,6 +25,10 @@ public:
     /// trailing blanks. A key that is present and empty gives empty text.
     [[nodiscard]] QString value(QStringView section, QStringView key, const QString& defaultText = {},
                                 int limit = profileValueLimit) const;
+
+    /// The names as they are first spelled, in no order: for readers that tell a misspelt one.
+    [[nodiscard]] QStringList sections() const;
+    [[nodiscard]] QStringList keys(QStringView section) const;
 
     /// Writes one key at once and keeps every other line, comment and the file's line ends; makes the section
     /// and the file where they are missing (CR LF).

@@ -60,6 +60,7 @@ public:
 
 private:
     friend class MonthTotals;
+    friend class BoundQuery;
     friend class Recordset;
     friend class Transaction;
     std::unique_ptr<Private> d;
