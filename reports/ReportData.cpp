@@ -3,12 +3,21 @@
 
 #include <QLocale>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::reports
 {
 namespace
 {
+
+enum Tag : std::uint8_t { emptyTag, textTag, dayTag, firstNumberTag };
+/// No cell shows more places.
+constexpr int mostScale = 200;
+/// A text's place in the pool stands above its length.
+constexpr int lengthBits = 16;
+constexpr std::int64_t longestText = (1 << lengthBits) - 1;
 
 struct ShownCell {
     const ReportColumn& column;
@@ -24,12 +33,58 @@ struct ShownCell {
 
 } // namespace
 
+ReportData::ReportData(std::vector<ReportColumn> columns)
+    : m_columns(std::move(columns)), m_cells(m_columns.size())
+{
+}
+
 void ReportData::addLine(LineKind kind, std::vector<Cell> cells)
 {
     Q_ASSERT(cells.size() <= m_columns.size());
     cells.resize(m_columns.size());
     m_kinds.push_back(kind);
-    std::move(cells.begin(), cells.end(), std::back_inserter(m_cells));
+    for (std::size_t column = 0; column < cells.size(); ++column)
+        addCell(m_cells[column], cells[column]);
+}
+
+void ReportData::addCell(Cells& cells, const Cell& cell)
+{
+    if (const auto* text = std::get_if<QString>(&cell)) {
+        addText(cells, *text);
+    } else if (const auto* number = std::get_if<Decimal>(&cell)) {
+        const Decimal kept = number->rounded(mostScale).shifted(0);
+        cells.tags.push_back(static_cast<std::uint8_t>(firstNumberTag + kept.scale()));
+        cells.contents.push_back(kept.coefficient());
+    } else if (const auto* day = std::get_if<QDate>(&cell)) {
+        cells.tags.push_back(dayTag);
+        cells.contents.push_back(day->toJulianDay());
+    } else {
+        cells.tags.push_back(emptyTag);
+        cells.contents.push_back(0);
+    }
+}
+
+void ReportData::addText(Cells& cells, const QString& text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    cells.tags.push_back(textTag);
+    cells.contents.push_back(static_cast<std::int64_t>(m_texts.size() << lengthBits) |
+                             std::min<std::int64_t>(utf8.size(), longestText));
+    m_texts.append(utf8.data(), static_cast<std::size_t>(std::min<std::int64_t>(utf8.size(), longestText)));
+}
+
+void ReportData::keepColumns(const std::vector<bool>& isKept)
+{
+    std::vector<ReportColumn> columns;
+    std::vector<Cells> cells;
+    for (std::size_t column = 0; column < m_columns.size(); ++column) {
+        if (isKept.at(column)) {
+            columns.push_back(std::move(m_columns[column]));
+            cells.push_back(std::move(m_cells[column]));
+        }
+    }
+    m_columns = std::move(columns);
+    m_cells = std::move(cells);
 }
 
 LineKind ReportData::lineKind(qsizetype line) const
@@ -39,7 +94,19 @@ LineKind ReportData::lineKind(qsizetype line) const
 
 Cell ReportData::cell(qsizetype line, int column) const
 {
-    return m_cells.at(static_cast<std::size_t>(line) * m_columns.size() + static_cast<std::size_t>(column));
+    const Cells& cells = m_cells.at(static_cast<std::size_t>(column));
+    const auto tag = cells.tags.at(static_cast<std::size_t>(line));
+    const auto content = cells.contents.at(static_cast<std::size_t>(line));
+    switch (tag) {
+    case emptyTag:
+        return {};
+    case textTag:
+        return QString::fromUtf8(m_texts.data() + (content >> lengthBits), content & longestText);
+    case dayTag:
+        return QDate::fromJulianDay(content);
+    default:
+        return Decimal(content, tag - firstNumberTag);
+    }
 }
 
 QString ReportData::text(qsizetype line, int column) const

@@ -9,6 +9,8 @@
 #include <QDateTime>
 #include <QString>
 
+#include <cstdint>
+#include <string>
 #include <variant>
 #include <vector>
 
@@ -31,7 +33,7 @@ struct ReportColumn {
 /// A cell as it is stored, never rounded: nothing, a text, a number or a day.
 using Cell = std::variant<std::monostate, QString, Decimal, QDate>;
 
-enum class LineKind {
+enum class LineKind : std::uint8_t {
     GroupHeading, ///< its text stands in the first cell and runs over the whole line
     Detail,
     Subtotal,  ///< of the group that ends here; its label stands in the first text column
@@ -71,7 +73,8 @@ struct Chart {
     std::vector<ChartPoint> points;
 };
 
-/// A report over its rows. Lines are added in their order; a cell is reached by line and column from 0.
+/// A report over its rows. Lines are added in their order; a cell is reached by line and column from 0. A
+/// list can have a hundred thousand lines, so a cell takes nine bytes beside its text.
 class ReportData
 {
 public:
@@ -79,13 +82,15 @@ public:
     PageSetup page;
     std::vector<Chart> charts;
 
-    explicit ReportData(std::vector<ReportColumn> columns = {}) : m_columns(std::move(columns)) {}
+    explicit ReportData(std::vector<ReportColumn> columns = {});
 
     [[nodiscard]] const std::vector<ReportColumn>& columns() const { return m_columns; }
     [[nodiscard]] int columnCount() const { return static_cast<int>(m_columns.size()); }
 
     /// Adds a line; @p cells beyond the columns are an error of the caller, missing ones stay empty.
     void addLine(LineKind kind, std::vector<Cell> cells);
+    /// Takes the columns away, with their cells, for which @p isKept is false.
+    void keepColumns(const std::vector<bool>& isKept);
     [[nodiscard]] qsizetype lineCount() const { return static_cast<qsizetype>(m_kinds.size()); }
     [[nodiscard]] LineKind lineKind(qsizetype line) const;
     [[nodiscard]] Cell cell(qsizetype line, int column) const;
@@ -94,9 +99,18 @@ public:
     [[nodiscard]] QString text(qsizetype line, int column) const;
 
 private:
+    /// Cells of one column, line by line.
+    struct Cells {
+        std::vector<std::uint8_t> tags;     ///< what a cell is, and the scale of a number
+        std::vector<std::int64_t> contents; ///< coefficient, day, or place of the text
+    };
+    void addCell(Cells& cells, const Cell& cell);
+    void addText(Cells& cells, const QString& text);
+
     std::vector<ReportColumn> m_columns;
     std::vector<LineKind> m_kinds;
-    std::vector<Cell> m_cells;
+    std::vector<Cells> m_cells;
+    std::string m_texts; ///< of all cells, one behind the other, in UTF-8
 };
 
 /// A number with between @p leastDecimals and @p mostDecimals places, rounded in decimal, halves away from

@@ -23,6 +23,13 @@ private:
     QString m_text;
 };
 
+/// The run was given up on the user's wish, of which no box need tell.
+class ReportCancelled : public ReportError
+{
+public:
+    ReportCancelled() : ReportError(QStringLiteral("The report was cancelled.")) {}
+};
+
 /// What a report is run over.
 struct ReportRequest {
     QString reportFile;       ///< path of the layout; found without regard to case
@@ -38,8 +45,8 @@ struct ReportRequest {
 using KeepGoing = std::function<bool()>;
 
 /// @return the report; one of no rows carries a notice that says so.
-/// @throws ReportError for a layout, formula, database or number that is not as it should be, and when
-/// @p keepGoing gives up.
+/// @throws ReportError for a layout, formula, database or number that is not as it should be, and
+/// ReportCancelled when @p keepGoing gives up.
 [[nodiscard]] ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing = {});
 
 } // namespace norvane::reports

@@ -1,0 +1,107 @@
+// See ChartBuilder.h.
+#include "reports/ChartBuilder.h"
+
+#include "platform/DecimalTotal.h"
+#include "reports/ExactNumbers.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+/// More bars than this cannot be told apart on a page.
+constexpr std::size_t mostDays = 62;
+
+Decimal sumOf(const std::vector<ChartPoint>& points, std::size_t from, std::size_t to)
+{
+    DecimalTotal total;
+    for (std::size_t i = from; i < to; ++i)
+        total.add(std::string_view(points[i].value.text()));
+    return decimalOf(total.text());
+}
+
+bool isSameMonth(QDate left, QDate right)
+{
+    return left.year() == right.year() && left.month() == right.month();
+}
+
+} // namespace
+
+void ChartPoints::add(const QString& label, const SlotNumbers& numbers, QDate day)
+{
+    const auto value = m_layout.value->value(numbers);
+    if (!value)
+        return;
+    m_points.push_back({label, *value});
+    if (day.isValid())
+        m_days.push_back(day);
+}
+
+Chart ChartPoints::finished(int moneyDecimals)
+{
+    if (m_layout.kind != ChartKind::Course)
+        keepLargest();
+    else if (m_points.size() > mostDays && m_days.size() == m_points.size())
+        putMonthsTogether();
+    Chart chart{m_layout.kind, m_layout.title, m_layout.isMoney ? moneyDecimals : 0, {}};
+    // A course of one point is none.
+    if (m_layout.kind != ChartKind::Course || m_points.size() > 1)
+        chart.points = std::move(m_points);
+    return chart;
+}
+
+void ChartPoints::putMonthsTogether()
+{
+    std::vector<ChartPoint> months;
+    for (std::size_t from = 0; from < m_points.size();) {
+        std::size_t to = from;
+        while (to < m_points.size() && isSameMonth(m_days[from], m_days[to]))
+            ++to;
+        months.push_back({m_days[from].toString(u"MM/yyyy"), sumOf(m_points, from, to)});
+        from = to;
+    }
+    m_points = std::move(months);
+}
+
+/// What a ranking leaves out is not missed; of shares the rest stands as one, or they would not make a whole.
+void ChartPoints::keepLargest()
+{
+    std::erase_if(m_points, [](const ChartPoint& point) { return point.value.coefficient() <= 0; });
+    std::ranges::stable_sort(m_points, std::ranges::greater(),
+                             [](const ChartPoint& point) { return point.value.toDouble(); });
+    const auto most = static_cast<std::size_t>(m_layout.most);
+    if (most == 0 || m_points.size() <= most)
+        return;
+    const Decimal rest = sumOf(m_points, most, m_points.size());
+    m_points.resize(most);
+    if (m_layout.kind == ChartKind::Shares)
+        m_points.push_back({u"Others"_s, rest});
+}
+
+ChartBuilder::ChartBuilder(const ReportLayout& layout)
+{
+    for (const auto& chart : layout.charts)
+        m_charts.emplace_back(chart);
+}
+
+void ChartBuilder::addLine(const LineFields& fields, const SlotNumbers& numbers)
+{
+    for (auto& chart : m_charts) {
+        if (chart.layout().from == PointSource::Lines)
+            chart.add(textOf(chart.layout().label, fields), numbers);
+    }
+}
+
+void ChartBuilder::addGroup(const QString& heading, const SlotNumbers& totals)
+{
+    for (auto& chart : m_charts) {
+        if (chart.layout().from == PointSource::Groups)
+            chart.add(heading, totals);
+    }
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,101 @@
+// See ExactNumbers.h.
+#include "reports/ExactNumbers.h"
+
+#include "platform/DecimalTotal.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <type_traits>
+
+namespace norvane::reports
+{
+namespace
+{
+
+constexpr std::size_t mostDigits = 18;
+
+/// How many of the characters of @p number stand for its first 18 digits; leading zeros are none.
+std::size_t lengthOfFirstDigits(std::string_view number)
+{
+    std::size_t digits = 0;
+    for (std::size_t at = 0; at < number.size(); ++at) {
+        const char c = number[at];
+        if (c < '0' || c > '9' || (c == '0' && digits == 0))
+            continue;
+        if (++digits > mostDigits)
+            return at;
+    }
+    return number.size();
+}
+
+bool hasDigitButZero(std::string_view text)
+{
+    return text.find_first_of("123456789") != std::string_view::npos;
+}
+
+/// A last digit of 0 or 5 might be taken for an exact half: one more tells that something followed.
+void markTail(std::string& kept)
+{
+    if (kept.back() == '0' || kept.back() == '5')
+        ++kept.back();
+}
+
+int digitsOf(std::int64_t number)
+{
+    int digits = 1;
+    while ((number /= 10) != 0)
+        ++digits;
+    return digits;
+}
+
+} // namespace
+
+std::string exactText(const store::Value& value)
+{
+    DecimalTotal total;
+    const auto add = [&total](const auto& number) {
+        using Kind = std::decay_t<decltype(number)>;
+        if constexpr (std::is_same_v<Kind, std::string>)
+            total.add(std::string_view(number));
+        else if constexpr (std::is_same_v<Kind, bool>)
+            total.add(std::int64_t{number ? -1 : 0});
+        else if constexpr (std::is_arithmetic_v<Kind>)
+            total.add(number);
+    };
+    std::visit(add, value.data());
+    return total.text();
+}
+
+Decimal decimalOf(std::string_view exact)
+{
+    const auto length = lengthOfFirstDigits(exact);
+    const auto point = std::min(exact.find('.'), exact.size());
+    if (length == exact.size() || length < point)
+        return Decimal::parse(exact).value_or(Decimal());
+    std::string kept(exact.substr(0, length));
+    if (hasDigitButZero(exact.substr(length)))
+        markTail(kept);
+    return Decimal::parse(kept).value_or(Decimal());
+}
+
+Decimal product(const Decimal& left, const Decimal& right)
+{
+    Decimal a = left;
+    Decimal b = right;
+    const auto wide = [&] {
+        return digitsOf(a.coefficient()) + digitsOf(b.coefficient()) > int{mostDigits};
+    };
+    while (wide() && a.scale() + b.scale() > 0) {
+        // The longer one can spare a place more easily.
+        Decimal& longer =
+            (b.scale() == 0 || (a.scale() > 0 && digitsOf(a.coefficient()) > digitsOf(b.coefficient()))) ? a
+                                                                                                         : b;
+        longer = longer.rounded(longer.scale() - 1);
+    }
+    if (wide())
+        return Decimal(a.coefficient(), 0).shifted(static_cast<int>(mostDigits)); // fails: too large
+    return {a.coefficient() * b.coefficient(), a.scale() + b.scale()};
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,27 @@
+// Numbers of any length, spelled as decimals, on their way into the cells of a report.
+#pragma once
+
+#include "platform/Decimal.h"
+#include "store/Value.h"
+
+#include <string>
+#include <string_view>
+
+namespace norvane::reports
+{
+
+/// The decimal that a stored value stands for, spelled out: a double is its shortest decimal; null, a text
+/// that is no number and a date count as "0".
+/// @throws RuntimeFailure 6 for an infinite number.
+[[nodiscard]] std::string exactText(const store::Value& value);
+
+/// The number that @p exact spells, to 18 digits. A longer one loses its tail in such a way that rounding it
+/// to fewer places gives what rounding the whole number would.
+/// @throws RuntimeFailure 6 when there are more than 18 digits before the point.
+[[nodiscard]] Decimal decimalOf(std::string_view exact);
+
+/// Exact as long as it has at most 18 digits, else rounded to them.
+/// @throws RuntimeFailure 6 when there are more than 18 digits before the point.
+[[nodiscard]] Decimal product(const Decimal& left, const Decimal& right);
+
+} // namespace norvane::reports

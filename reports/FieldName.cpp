@@ -1,0 +1,33 @@
+// Look-up in the catalogue; see FieldName.h.
+#include "reports/FieldName.h"
+
+#include "store/Catalogue.h"
+
+#include <algorithm>
+
+namespace norvane::reports
+{
+
+bool FieldName::isNumber() const
+{
+    const auto type = definition().type;
+    return type == store::FieldType::Long || type == store::FieldType::Double ||
+           type == store::FieldType::Counter;
+}
+
+std::optional<FieldName> findField(QStringView name, const store::TableDefinition* own)
+{
+    const qsizetype point = name.indexOf(u'.');
+    const auto* const table = point < 0 ? own : store::catalogueTable(name.left(point).trimmed().toString());
+    if (!table)
+        return std::nullopt;
+    const QStringView wanted = name.mid(point + 1).trimmed();
+    const auto found = std::find_if(table->fields.begin(), table->fields.end(), [wanted](const auto& field) {
+        return wanted.compare(field.name, Qt::CaseInsensitive) == 0;
+    });
+    if (found == table->fields.end())
+        return std::nullopt;
+    return FieldName{table, static_cast<int>(found - table->fields.begin())};
+}
+
+} // namespace norvane::reports

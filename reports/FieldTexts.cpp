@@ -1,0 +1,85 @@
+// See FieldTexts.h.
+#include "reports/FieldTexts.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+const store::Value& fieldAt(const LineFields& fields, Slot slot)
+{
+    return fields.at(static_cast<std::size_t>(slot));
+}
+
+using Parts = std::vector<TextTemplate::Part>;
+
+bool isAnySet(const Parts& parts, const CellFormat& format, const LineFields& fields)
+{
+    return std::ranges::any_of(parts, [&](const auto& part) {
+        return part.slot && !format.text(fieldAt(fields, *part.slot)).isEmpty();
+    });
+}
+
+/// @return nullptr when there are no words for the value.
+const Parts* wordsFor(const std::vector<Parts>& words, const store::Value& value)
+{
+    if (words.size() == 1)
+        return namesNothing(value) ? nullptr : &words.front();
+    const double number = value.toNumber();
+    return number >= 0 && number < static_cast<double>(words.size())
+               ? &words[static_cast<std::size_t>(number)]
+               : nullptr;
+}
+
+QString textOfParts(const Parts& parts, const CellFormat& format, const LineFields& fields)
+{
+    QString made;
+    for (const auto& [fixed, slot, words] : parts) {
+        if (!slot)
+            made += fixed;
+        else if (words.empty())
+            made += format.text(fieldAt(fields, *slot));
+        else if (const auto* const chosen = wordsFor(words, fieldAt(fields, *slot)))
+            made += textOfParts(*chosen, format, fields);
+    }
+    return made;
+}
+
+/// A comma that waits for a further word is taken away.
+QString withoutLastComma(const QString& text)
+{
+    const QString trimmed = text.trimmed();
+    return trimmed.endsWith(u',') ? trimmed.chopped(1) : trimmed;
+}
+
+} // namespace
+
+QString textOf(const TextTemplate& text, const CellFormat& format, const LineFields& fields)
+{
+    return withoutLastComma(textOfParts(text.parts, format, fields));
+}
+
+QString textOf(const FieldText& text, const LineFields& fields)
+{
+    if (!text.missing.isEmpty() && !isAnySet(text.text.parts, text.format, fields))
+        return textOf(text.missing, {FormatKind::Digits, 0, 0, {}}, fields);
+    QString made = textOf(text.text, text.format, fields);
+    for (const auto& further : text.further) {
+        const QString more = textOf(further, text.format, fields);
+        made += made.isEmpty() || more.isEmpty() ? more : u", "_s + more;
+    }
+    return made;
+}
+
+bool namesNothing(const store::Value& value)
+{
+    if (value.isText())
+        return value.toText().trimmed().isEmpty();
+    return value.isNull() || value.toNumber() == 0;
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,91 @@
+// The words of which selection formulas and the expressions of layouts are made.
+#pragma once
+
+#include "reports/FieldName.h"
+
+#include <QString>
+
+#include <stdexcept>
+
+namespace norvane::reports
+{
+
+/// A mistake in a formula. Columns count from 1.
+class FormulaError : public std::runtime_error
+{
+public:
+    FormulaError(qsizetype column, const QString& text);
+    /// Place and mistake: "column 12: ...".
+    [[nodiscard]] const QString& text() const { return m_text; }
+
+private:
+    QString m_text;
+};
+
+enum class TokenKind {
+    End,
+    Field,  ///< {TABLE.FIELD}; the text is without the braces
+    Number, ///< digits with a point at most
+    Text,   ///< the text is without the quotes, single or double
+    Word,   ///< letters and digits
+    Symbol  ///< brackets, comma and operators
+};
+
+struct Token {
+    TokenKind kind = TokenKind::End;
+    QStringView text;
+    qsizetype column = 1;
+};
+
+/// Reads a formula from left to right with one token in sight. The formula must outlive it.
+class FormulaTokens
+{
+public:
+    /// @param own the table of fields without one. @throws FormulaError for a character that begins nothing,
+    /// or a brace or quote that is not closed; so do the functions below.
+    explicit FormulaTokens(QStringView formula, const store::TableDefinition* own = nullptr);
+
+    [[nodiscard]] const Token& current() const { return m_current; }
+    [[nodiscard]] bool isSymbol(QStringView symbol) const;
+    [[nodiscard]] bool isWord(QStringView word) const; ///< without regard to case
+    Token take();
+    /// Takes the symbol or word if it stands here.
+    bool takeSymbol(QStringView symbol);
+    bool takeWord(QStringView word);
+    /// @throws FormulaError when it does not stand here.
+    void expectSymbol(QStringView symbol);
+    void expectEnd();
+    /// The field that stands here. @throws FormulaError also for one that the catalogue does not know.
+    FieldName takeField();
+    /// Tells what should stand at the current token, and what stands there.
+    [[noreturn]] void failExpecting(const QString& what) const;
+
+private:
+    friend class Nesting;
+    [[nodiscard]] qsizetype lengthWhile(bool (*belongs)(QChar)) const;
+    void read();
+    void readEnclosed(TokenKind kind, QChar end, const QString& what);
+    void readPlain(TokenKind kind, qsizetype length);
+
+    QStringView m_formula;
+    const store::TableDefinition* m_own;
+    qsizetype m_at = 0;
+    Token m_current;
+    int m_depth = 0;
+};
+
+/// Stands on the stack for each pair of brackets that a parser goes into.
+class Nesting
+{
+public:
+    /// @throws FormulaError when the brackets are nested deeper than anybody writes by hand.
+    explicit Nesting(FormulaTokens& tokens);
+    ~Nesting() { --m_tokens.m_depth; }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+
+private:
+    FormulaTokens& m_tokens;
+};
+
+} // namespace norvane::reports

@@ -1,0 +1,28 @@
+// Values of layout files that name fields, and which fields a report may name.
+#pragma once
+
+#include "reports/ReportLayout.h"
+
+namespace norvane::reports
+{
+
+/// Fields with commas between them. @throws FormulaError
+[[nodiscard]] std::vector<FieldName> parseFields(QStringView text, const store::TableDefinition* own);
+
+/// A field with the words "by value" or "descending" behind it, or nothing. @return nothing for other words.
+/// @throws FormulaError
+[[nodiscard]] std::optional<SortKey> parseSortKey(QStringView text, const store::TableDefinition* own);
+
+/// A text with fields in braces; "{FIELD?words}" stands for the words where the field is not 0,
+/// "{FIELD?zero;one;two}" for those of its number; words may hold fields themselves. @throws FormulaError
+[[nodiscard]] TextTemplate parseTemplate(QStringView text, const FieldSlots& fields);
+
+/// @throws FormulaError for a field that @p source cannot hand out: one of a table that is not read, or one
+/// that is neither the same in all rows of a line nor a number to be added up.
+void checkField(const ReportLayout& layout, const LineSource& source, const FieldName& field,
+                qsizetype column);
+
+/// Hands out the slots of the fields that are named, each checked.
+[[nodiscard]] FieldSlots fieldSlots(const ReportLayout& layout, LineSource& source);
+
+} // namespace norvane::reports

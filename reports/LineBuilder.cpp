@@ -1,0 +1,199 @@
+// See LineBuilder.h.
+#include "reports/LineBuilder.h"
+
+#include "reports/ExactNumbers.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+/// The first column of texts that are no numbers; else the first of any texts.
+std::size_t labelColumnOf(const ReportLayout& layout)
+{
+    const auto& columns = layout.columns;
+    const auto isWord = [](const ColumnLayout& column) {
+        return !column.number && column.format.kind != FormatKind::Digits && column.shownIf.empty();
+    };
+    const auto word = std::ranges::find_if(columns, isWord);
+    return word == columns.end() ? 0 : static_cast<std::size_t>(word - columns.begin());
+}
+
+bool isRecordNumber(const LineSource& source, const FieldName& field)
+{
+    const auto& indexes = field.table->indexes;
+    const bool isIndexed = !indexes.isEmpty() && indexes.first().field == field.name();
+    return field.table != source.table || source.isKey(field) || isIndexed;
+}
+
+} // namespace
+
+void SlotTotals::add(const std::vector<std::string>& numbers)
+{
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        if (numbers[i] != "0")
+            m_totals[i].add(std::string_view(numbers[i]));
+    }
+}
+
+std::vector<std::string> SlotTotals::texts() const
+{
+    std::vector<std::string> texts;
+    for (const auto& total : m_totals)
+        texts.push_back(total.text());
+    return texts;
+}
+
+LineNumbers::LineNumbers(const ReportLayout& layout)
+    : m_isReckoned(layout.source.fields.size()), m_isValue(layout.source.fields.size()),
+      m_numbers(layout.source.fields.size(), "0")
+{
+    for (const auto& column : layout.columns) {
+        if (column.number)
+            column.number->markSlots(m_isReckoned);
+        for (const auto& expression : column.shownIf)
+            expression.markSlots(m_isReckoned);
+    }
+    for (const auto& chart : layout.charts) {
+        if (chart.from != PointSource::Query)
+            chart.value->markSlots(m_isReckoned);
+    }
+    for (std::size_t i = 0; i < m_isValue.size(); ++i)
+        m_isValue[i] = m_isReckoned[i] && !isRecordNumber(layout.source, layout.source.fields[i]);
+}
+
+void LineNumbers::read(const LineFields& fields)
+{
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (m_isReckoned[i])
+            m_numbers[i] = exactText(fields[i]);
+    }
+}
+
+bool LineNumbers::areZero() const
+{
+    for (std::size_t i = 0; i < m_numbers.size(); ++i) {
+        if (m_isValue[i] && m_numbers[i] != "0")
+            return false;
+    }
+    return true;
+}
+
+LineBuilder::LineBuilder(const ReportLayout& layout, ReportData& data, ChartBuilder& charts,
+                         std::vector<std::string> whole)
+    : m_layout(layout), m_data(data), m_charts(charts), m_whole(std::move(whole)), m_numbers(layout),
+      m_groupTotals(layout.source.fields.size()), m_totals(layout.source.fields.size()),
+      m_labelColumn(labelColumnOf(layout)),
+      m_isTotalled(std::ranges::any_of(layout.columns, &ColumnLayout::isTotalled))
+{
+    for (const auto& column : layout.columns)
+        m_isShown.push_back(column.shownIf.empty());
+}
+
+void LineBuilder::add(const LineFields& fields)
+{
+    m_numbers.read(fields);
+    if (!m_layout.showsZeroLines && m_numbers.areZero())
+        return;
+    if (m_layout.group)
+        changeGroup(fields);
+    addDetail(fields);
+    m_groupTotals.add(m_numbers.numbers());
+    m_totals.add(m_numbers.numbers());
+    m_charts.addLine(fields, {m_numbers.numbers(), m_whole});
+    noteShown();
+}
+
+void LineBuilder::changeGroup(const LineFields& fields)
+{
+    const auto& by = fields.at(static_cast<std::size_t>(m_layout.group->by));
+    const auto& heading = m_layout.group->heading;
+    const bool isNone = namesNothing(by);
+    const store::Value group = isNone ? store::Value() : by;
+    if (m_group && *m_group == group)
+        return;
+    closeGroup();
+    m_group = group;
+    m_groupHeading =
+        isNone && !heading.missing.isEmpty() ? textOf(heading.missing, {}, fields) : textOf(heading, fields);
+    m_data.addLine(LineKind::GroupHeading, {m_groupHeading});
+}
+
+void LineBuilder::closeGroup()
+{
+    if (!m_group)
+        return;
+    m_charts.addGroup(m_groupHeading, {m_groupTotals.texts(), m_whole});
+    if (m_isTotalled)
+        addTotal(LineKind::Subtotal, m_groupTotals, u"Total %1"_s.arg(m_groupHeading));
+    m_groupTotals = SlotTotals(m_layout.source.fields.size());
+}
+
+void LineBuilder::addDetail(const LineFields& fields)
+{
+    std::vector<Cell> cells;
+    cells.reserve(m_layout.columns.size());
+    for (const auto& column : m_layout.columns)
+        cells.push_back(cell(column, fields));
+    m_data.addLine(LineKind::Detail, std::move(cells));
+}
+
+Cell LineBuilder::cell(const ColumnLayout& column, const LineFields& fields) const
+{
+    if (column.number) {
+        const auto slot = column.number->loneSlot();
+        if (slot && fields.at(static_cast<std::size_t>(*slot)).isNull())
+            return {};
+        return number(column, m_numbers.numbers());
+    }
+    if (column.column.kind == ColumnKind::Date) {
+        const QDate day = fields.at(static_cast<std::size_t>(*column.text.text.parts.front().slot)).toDate();
+        return day.isValid() ? Cell(day) : Cell();
+    }
+    const QString text = textOf(column.text, fields);
+    return text.isEmpty() ? Cell() : Cell(text);
+}
+
+Cell LineBuilder::number(const ColumnLayout& column, const std::vector<std::string>& numbers) const
+{
+    const auto value = column.number->value({numbers, m_whole});
+    return value ? Cell(*value) : Cell();
+}
+
+void LineBuilder::noteShown()
+{
+    for (std::size_t i = 0; i < m_isShown.size(); ++i) {
+        for (const auto& expression : m_layout.columns[i].shownIf) {
+            if (m_isShown[i])
+                break;
+            const auto value = expression.value({m_numbers.numbers(), m_whole});
+            m_isShown[i] = value && value->coefficient() != 0;
+        }
+    }
+}
+
+void LineBuilder::addTotal(LineKind kind, const SlotTotals& totals, const QString& label)
+{
+    const auto numbers = totals.texts();
+    std::vector<Cell> cells(m_layout.columns.size());
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (m_layout.columns[i].isTotalled)
+            cells[i] = number(m_layout.columns[i], numbers);
+    }
+    cells[m_labelColumn] = label;
+    m_data.addLine(kind, std::move(cells));
+}
+
+void LineBuilder::finish()
+{
+    closeGroup();
+    if (m_isTotalled && m_data.lineCount() > 0)
+        addTotal(LineKind::GrandTotal, m_totals, u"Total"_s);
+    m_data.keepColumns(m_isShown);
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,256 @@
+// See LineStatement.h. A statement for PLU sales, shortened:
+//
+//   WITH j0 AS MATERIALIZED (SELECT <number by value> AS k, "DESCRIPTION" AS c1, min(_rowid_) FROM "PLUDATA"
+//                            GROUP BY 1),
+//        l AS MATERIALIZED (SELECT <ID by value> AS c0, exact_sum(b."PROMO") AS c2 FROM "PLUSALES" b
+//                           WHERE b."SALESDATE" >= ? GROUP BY 1)
+//   SELECT l.c0, j0.c1, l.c2 FROM l LEFT JOIN j0 ON j0.k = l.c0 ORDER BY ...
+//
+// The rows are added up before names are looked up, so that each name is looked up once. A list has no "l":
+// its lines are the rows "b". Joined tables are materialized because the engine makes an index over the
+// result then; it has none over a number by value.
+#include "reports/LineStatement.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+using store::FieldType;
+
+std::string quoted(const QString& name)
+{
+    return '"' + QString(name).replace(u'"', u"\"\""_s).toStdString() + '"';
+}
+
+bool isText(const FieldName& field)
+{
+    const auto type = field.definition().type;
+    return type == FieldType::Text || type == FieldType::Digits;
+}
+
+/// Registers fill numbers with zeros and blanks; what is left without them is the same for "007" and 7.
+std::string byValue(const std::string& column)
+{
+    return "ltrim(trim(" + column + "),'0')";
+}
+
+class Writer
+{
+public:
+    Writer(const LineSource& source, const std::vector<Join>& joins, const Condition& condition,
+           const std::string& rows)
+        : m_source(source), m_joins(joins), m_condition(condition), m_rows(rows), m_fields(source.fields)
+    {
+        for (const auto& key : source.keys)
+            need(key);
+        if (source.groupBy)
+            need(*source.groupBy);
+        for (const auto& key : source.order)
+            need(key.field);
+        collectConditionFields(condition);
+        // A join may hang on another one that stands before it.
+        for (auto join = joins.rbegin(); join != joins.rend(); ++join) {
+            if (isJoined(*join->table))
+                need(join->of);
+        }
+    }
+
+    LineStatement write()
+    {
+        std::string with;
+        for (std::size_t i = 0; i < m_joins.size(); ++i) {
+            if (isJoined(*m_joins[i].table))
+                with += (with.empty() ? "WITH " : ", ") + joinTable(i);
+        }
+        if (m_source.addsUp())
+            with += (with.empty() ? "WITH " : ", ") + ("l AS MATERIALIZED (" + sums() + ')');
+        m_statement.sql = with + " SELECT " + list() + " FROM " + lines() + order();
+        return std::move(m_statement);
+    }
+
+private:
+    void need(const FieldName& field)
+    {
+        if (std::ranges::find(m_fields, field) == m_fields.end())
+            m_fields.push_back(field);
+    }
+
+    /// Fields of the report's own table are read where they lie; those of joined ones must be fetched.
+    void collectConditionFields(const Condition& condition)
+    {
+        const auto look = [this](const FieldName& field) {
+            if (field.table != m_source.table) {
+                m_joinsBelow = true;
+                need(field);
+            }
+            return false;
+        };
+        (void)mentions(condition, look);
+    }
+
+    [[nodiscard]] bool isJoined(const store::TableDefinition& table) const
+    {
+        return &table != m_source.table &&
+               std::ranges::any_of(m_fields, [&table](const auto& field) { return field.table == &table; });
+    }
+
+    /// "c3" for the fourth field that is needed.
+    [[nodiscard]] std::string alias(const FieldName& field) const
+    {
+        return 'c' + std::to_string(std::ranges::find(m_fields, field) - m_fields.begin());
+    }
+
+    [[nodiscard]] std::string joinName(const store::TableDefinition& table) const
+    {
+        return 'j' + std::to_string(std::ranges::find(m_joins, &table, &Join::table) - m_joins.begin());
+    }
+
+    [[nodiscard]] std::string joinTable(std::size_t number) const
+    {
+        const Join& join = m_joins[number];
+        std::string sql = 'j' + std::to_string(number) + " AS MATERIALIZED (SELECT " +
+                          meeting(join, quoted(join.key.name())) + " AS k";
+        for (const auto& field : m_fields) {
+            if (field.table == join.table)
+                sql += ", " + quoted(field.name()) + " AS " + alias(field);
+        }
+        // Beside min() the engine takes the other columns from the same row.
+        return sql + ", min(_rowid_) FROM " + quoted(join.table->name) + " GROUP BY 1)";
+    }
+
+    /// A column as it is compared in a join: numbers as they are, anything else by value.
+    [[nodiscard]] static std::string meeting(const Join& join, const std::string& column)
+    {
+        return isText(join.key) || isText(join.of) ? byValue(column) : column;
+    }
+
+    /// @param below whether the column is taken from a row, before rows are added up.
+    [[nodiscard]] std::string column(const FieldName& field, bool below) const
+    {
+        if (field.table != m_source.table)
+            return joinName(*field.table) + '.' + alias(field);
+        return below ? "b." + quoted(field.name()) : "l." + alias(field);
+    }
+
+    [[nodiscard]] std::string joined(bool below) const
+    {
+        std::string sql;
+        for (const auto& join : m_joins) {
+            if (!isJoined(*join.table))
+                continue;
+            const std::string name = joinName(*join.table);
+            sql += " LEFT JOIN " + name + " ON " + name + ".k = " + meeting(join, column(join.of, below));
+        }
+        return sql;
+    }
+
+    [[nodiscard]] std::string rows() const
+    {
+        return (m_rows.empty() ? quoted(m_source.table->name) : m_rows) + " b";
+    }
+
+    std::string where()
+    {
+        std::string sql;
+        const auto named = [this](const FieldName& field) {
+            return column(field, true);
+        };
+        if (m_rows.empty() && !m_condition.isAlwaysTrue())
+            sql += " WHERE " + conditionSql(m_condition, named, m_statement.values);
+        if (m_source.where)
+            sql += (sql.empty() ? " WHERE " : " AND ") +
+                   conditionSql(*m_source.where, named, m_statement.values);
+        return sql;
+    }
+
+    std::string sums()
+    {
+        std::string columns;
+        std::string groups;
+        int number = 0;
+        for (const auto& field : m_fields) {
+            if (field.table != m_source.table)
+                continue;
+            const std::string plain = "b." + quoted(field.name());
+            ++number;
+            std::string value = "exact_sum(" + plain + ')';
+            if (m_source.isKey(field)) {
+                value = isText(field) ? byValue(plain) : plain;
+                groups += (groups.empty() ? "" : ", ") + std::to_string(number);
+            }
+            columns += (columns.empty() ? "" : ", ") + value + " AS " + alias(field);
+        }
+        return "SELECT " + columns + " FROM " + rows() + (m_joinsBelow ? joined(true) : std::string()) +
+               where() + " GROUP BY " + groups;
+    }
+
+    [[nodiscard]] std::string list() const
+    {
+        std::string sql;
+        for (const auto& field : m_source.fields)
+            sql += (sql.empty() ? "" : ", ") + column(field, !m_source.addsUp());
+        return sql;
+    }
+
+    std::string lines()
+    {
+        if (m_source.addsUp())
+            return 'l' + joined(false);
+        const std::string tables = rows() + joined(true);
+        return tables + where();
+    }
+
+    [[nodiscard]] std::string order() const
+    {
+        std::string sql;
+        const auto add = [&sql](const std::string& term) {
+            sql += (sql.empty() ? " ORDER BY " : ", ") + term;
+        };
+        if (m_source.groupBy) {
+            const std::string group = column(*m_source.groupBy, !m_source.addsUp());
+            // Rows without a group stand last, whatever the register puts in place of its number.
+            add("nullif(nullif(" + group + ", 0), '') NULLS LAST");
+        }
+        for (const auto& key : m_source.order)
+            add(orderTerm(key));
+        return sql;
+    }
+
+    [[nodiscard]] std::string orderTerm(const SortKey& key) const
+    {
+        const std::string plain = column(key.field, !m_source.addsUp());
+        if (m_source.isSum(key.field))
+            return "CAST(" + plain + " AS REAL)" + (key.order == Order::Descending ? " DESC" : "");
+        switch (key.order) {
+        case Order::ByValue:
+            return "trim(" + plain + ") COLLATE norvane_digits NULLS LAST";
+        case Order::Descending:
+            return plain + (isText(key.field) ? " COLLATE NOCASE DESC" : " DESC");
+        default:
+            return plain + (isText(key.field) ? " COLLATE NOCASE" : "") + " NULLS LAST";
+        }
+    }
+
+    const LineSource& m_source;
+    const std::vector<Join>& m_joins;
+    const Condition& m_condition;
+    const std::string& m_rows;
+    std::vector<FieldName> m_fields; ///< the source's, and behind them what only the statement needs
+    bool m_joinsBelow = false;
+    LineStatement m_statement;
+};
+
+} // namespace
+
+LineStatement makeLineStatement(const LineSource& source, const std::vector<Join>& joins,
+                                const Condition& condition, const std::string& rows)
+{
+    return Writer(source, joins, condition, rows).write();
+}
+
+} // namespace norvane::reports

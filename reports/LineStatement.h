@@ -1,0 +1,24 @@
+// The SQL statement that reads the lines of a report.
+#pragma once
+
+#include "reports/ReportLayout.h"
+
+#include <string>
+#include <vector>
+
+namespace norvane::reports
+{
+
+/// A statement whose columns are the fields of a source in the order of their slots. Sums come as exact
+/// decimals spelled as text.
+struct LineStatement {
+    std::string sql;
+    std::vector<store::Value> values; ///< one for each question mark
+};
+
+/// @param condition names only tables that the report reads. @param rows stands for the report's table where
+/// it is not empty: a select in brackets with the same names of fields, which passes the condition already.
+[[nodiscard]] LineStatement makeLineStatement(const LineSource& source, const std::vector<Join>& joins,
+                                              const Condition& condition, const std::string& rows = {});
+
+} // namespace norvane::reports

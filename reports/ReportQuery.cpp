@@ -1,0 +1,116 @@
+// See ReportQuery.h.
+#include "reports/ReportQuery.h"
+
+#include "platform/RuntimeFailure.h"
+#include "reports/LineStatement.h"
+#include "store/BoundQuery.h"
+#include "store/Catalogue.h"
+#include "store/MonthTotals.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+constexpr int usualDecimals = 2;
+constexpr int mostMoneyDecimals = 3;
+
+} // namespace
+
+ReportQuery::ReportQuery(const QString& dataFile, const ReportLayout& layout, const KeepGoing& keepGoing)
+    : m_layout(layout), m_keepGoing(keepGoing), m_dataFile(dataFile), m_database(dataFile)
+{
+    checkTables();
+}
+
+void ReportQuery::checkTables() const
+{
+    QVector<const store::TableDefinition*> tables{m_layout.source.table};
+    for (const auto& join : m_layout.joins)
+        tables.append(join.table);
+    for (const auto* table : tables) {
+        if (!m_database.hasTable(table->name))
+            throw ReportError(u"%1: the database has no table %2."_s.arg(m_dataFile, table->name));
+    }
+    for (const auto& field : m_layout.source.fields) {
+        const auto fields = m_database.table(field.table->name).fields;
+        const auto isIt = [&field](const auto& stored) {
+            return stored.name.compare(field.name(), Qt::CaseInsensitive) == 0;
+        };
+        if (std::ranges::none_of(fields, isIt))
+            throw ReportError(u"%1: the database has no field %2."_s.arg(m_dataFile, field.text()));
+    }
+}
+
+void ReportQuery::select(const Condition& condition, QDate today)
+{
+    m_condition = condition;
+    m_today = today;
+}
+
+void ReportQuery::run(const LineSource& source, const std::function<void(const LineFields&)>& take)
+{
+    auto statement = makeLineStatement(source, m_layout.joins, m_condition, monthRows(source));
+    store::BoundQuery query(m_database, statement.sql, std::move(statement.values), m_layout.path,
+                            m_keepGoing);
+    LineFields fields(source.fields.size());
+    try {
+        while (query.next()) {
+            for (std::size_t i = 0; i < fields.size(); ++i)
+                fields[i] = query.value(static_cast<int>(i));
+            take(fields);
+        }
+    } catch (const RuntimeFailure&) {
+        if (query.wasGivenUp())
+            throw ReportCancelled();
+        throw;
+    }
+}
+
+/// A year is added up from totals of months where the selection asks for days alone and lines do not depend
+/// on the day. @return empty text for rows as they are.
+std::string ReportQuery::monthRows(const LineSource& source)
+{
+    const auto day = source.day();
+    if (!source.addsUp() || !day || source.isKey(*day) || !isOnlyPeriod(m_condition, *day))
+        return {};
+    const auto period = periodOf(m_condition, *day);
+    const auto needsRows = [&source](const FieldName& field) {
+        return !source.isKey(field);
+    };
+    if (!period || period->isOpen() || (source.where && mentions(*source.where, needsRows)))
+        return {};
+    store::MonthTotals totals(m_database, source.table->name);
+    if (!totals.available())
+        return {};
+    const store::DayRange days{period->from, period->to};
+    totals.addUpMissing(days, m_today, [this](QDate) { return !m_keepGoing || m_keepGoing(); });
+    QStringList fields;
+    for (const auto& field : source.fields) {
+        if (field.table == source.table)
+            fields.append(field.name());
+    }
+    for (const auto& key : source.keys) {
+        if (!fields.contains(key.name()))
+            fields.append(key.name());
+    }
+    return totals.rows(days, fields).toStdString();
+}
+
+int ReportQuery::moneyDecimals()
+{
+    const auto* const table = store::catalogueTable(u"smode"_s);
+    if (!table || !m_database.hasTable(table->name))
+        return usualDecimals;
+    store::BoundQuery query(m_database, "SELECT DECIMALPlace FROM smode ORDER BY ID LIMIT 1", {}, m_dataFile);
+    if (!query.next() || query.value(0).isNull())
+        return usualDecimals;
+    const double places = query.value(0).toNumber();
+    return places >= 0 && places <= mostMoneyDecimals ? static_cast<int>(places) : usualDecimals;
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,42 @@
+// Runs the statements of one report on the customer's database.
+#pragma once
+
+#include "reports/FieldTexts.h"
+#include "reports/ReportLayout.h"
+#include "reports/ReportRun.h"
+#include "store/Database.h"
+
+#include <functional>
+
+namespace norvane::reports
+{
+
+/// The opened database and the selection of a report. Statements that take long ask whether to go on.
+class ReportQuery
+{
+public:
+    /// @throws RuntimeFailure when the database cannot be opened, ReportError when it lacks a table or field
+    /// that the report reads.
+    ReportQuery(const QString& dataFile, const ReportLayout& layout, const KeepGoing& keepGoing);
+
+    /// @param condition names only tables that the report reads. @param today ends the running month.
+    void select(const Condition& condition, QDate today);
+    /// Hands the fields of one line after another to @p take.
+    /// @throws ReportCancelled, RuntimeFailure
+    void run(const LineSource& source, const std::function<void(const LineFields&)>& take);
+    /// The decimal places of money at this shop: two where it does not say.
+    [[nodiscard]] int moneyDecimals();
+
+private:
+    void checkTables() const;
+    [[nodiscard]] std::string monthRows(const LineSource& source);
+
+    const ReportLayout& m_layout;
+    const KeepGoing& m_keepGoing;
+    QString m_dataFile;
+    store::Database m_database;
+    Condition m_condition;
+    QDate m_today;
+};
+
+} // namespace norvane::reports

@@ -1,0 +1,205 @@
+// A report from its layout to its lines; see ReportRun.h.
+#include "reports/ReportRun.h"
+
+#include "platform/RuntimeFailure.h"
+#include "reports/ExactNumbers.h"
+#include "reports/LayoutReader.h"
+#include "reports/LineBuilder.h"
+#include "reports/ReportQuery.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+/// Columns wider than this do not fit an upright sheet.
+constexpr double uprightMillimetres = 190;
+
+class Run
+{
+public:
+    Run(const ReportRequest& request, const KeepGoing& keepGoing)
+        : m_request(request), m_layout(readLayout(request.reportFile)),
+          m_query(request.dataFile, m_layout, keepGoing)
+    {
+    }
+
+    ReportData make()
+    {
+        select();
+        const int decimals = m_query.moneyDecimals();
+        setMoney(decimals);
+        ReportData data(columns());
+        ChartBuilder charts(m_layout);
+        addLines(data, charts);
+        addCharts(data, charts, decimals);
+        setHeading(data.heading);
+        if (data.lineCount() == 0)
+            data.heading.notice = notice();
+        data.page.isLandscape = isLandscape(data);
+        return data;
+    }
+
+private:
+    void select();
+    void setMoney(int decimals);
+    [[nodiscard]] std::vector<ReportColumn> columns() const;
+    void addLines(ReportData& data, ChartBuilder& charts);
+    void addWholeLines(ReportData& data, ChartBuilder& charts);
+    void addCharts(ReportData& data, ChartBuilder& charts, int decimals);
+    void runChart(ChartPoints& points);
+    void setHeading(ReportHeading& heading) const;
+    [[nodiscard]] QString subtitle() const;
+    [[nodiscard]] QString notice() const;
+    [[nodiscard]] bool isLandscape(const ReportData& data) const;
+
+    const ReportRequest& m_request;
+    ReportLayout m_layout;
+    ReportQuery m_query;
+    std::optional<Period> m_period;
+    bool m_isOnlyPeriod = true; ///< or all rows: nothing else restricts them
+    QStringList m_otherTables;
+};
+
+void Run::select()
+{
+    const QDate today = m_request.now.date();
+    try {
+        const auto whole = parseSelection(m_request.selectionFormula, today);
+        const auto reads = [this](const store::TableDefinition& table) {
+            return m_layout.reads(table);
+        };
+        const auto condition = restrictedTo(whole, reads, m_otherTables);
+        if (const auto day = m_layout.source.day()) {
+            m_period = periodOf(condition, *day);
+            m_isOnlyPeriod = condition.isAlwaysTrue() || isOnlyPeriod(condition, *day);
+        } else {
+            m_isOnlyPeriod = condition.isAlwaysTrue();
+        }
+        m_query.select(condition, today);
+    } catch (const FormulaError& error) {
+        throw ReportError(u"%1: mistake in the selection formula, %2."_s.arg(m_layout.path, error.text()));
+    }
+}
+
+void Run::setMoney(int decimals)
+{
+    for (auto& layout : m_layout.columns) {
+        if (layout.format.kind == FormatKind::Money)
+            layout.column.leastDecimals = layout.column.mostDecimals = decimals;
+    }
+}
+
+std::vector<ReportColumn> Run::columns() const
+{
+    std::vector<ReportColumn> columns;
+    for (const auto& layout : m_layout.columns)
+        columns.push_back(layout.column);
+    return columns;
+}
+
+void Run::addLines(ReportData& data, ChartBuilder& charts)
+{
+    if (m_layout.needsWhole())
+        return addWholeLines(data, charts);
+    LineBuilder builder(m_layout, data, charts, {});
+    m_query.run(m_layout.source, [&builder](const LineFields& fields) { builder.add(fields); });
+    builder.finish();
+}
+
+/// A share of the whole is known once all lines were read.
+void Run::addWholeLines(ReportData& data, ChartBuilder& charts)
+{
+    std::vector<LineFields> lines;
+    LineNumbers numbers(m_layout);
+    SlotTotals totals(m_layout.source.fields.size());
+    m_query.run(m_layout.source, [&](const LineFields& fields) {
+        numbers.read(fields);
+        totals.add(numbers.numbers());
+        lines.push_back(fields);
+    });
+    LineBuilder builder(m_layout, data, charts, totals.texts());
+    for (const auto& fields : lines)
+        builder.add(fields);
+    builder.finish();
+}
+
+void Run::addCharts(ReportData& data, ChartBuilder& charts, int decimals)
+{
+    for (auto& points : charts.charts()) {
+        if (points.layout().from == PointSource::Query)
+            runChart(points);
+        auto chart = points.finished(decimals);
+        if (!chart.points.empty())
+            data.charts.push_back(std::move(chart));
+    }
+}
+
+void Run::runChart(ChartPoints& points)
+{
+    const auto& source = *points.layout().query;
+    const auto key = std::ranges::find(source.fields, source.keys.front()) - source.fields.begin();
+    std::vector<std::string> numbers(source.fields.size());
+    m_query.run(source, [&](const LineFields& fields) {
+        std::ranges::transform(fields, numbers.begin(), exactText);
+        const bool hasKey = key < std::ssize(fields);
+        points.add(textOf(points.layout().label, fields), {numbers, {}},
+                   hasKey ? fields[static_cast<std::size_t>(key)].toDate() : QDate());
+    });
+}
+
+/// The report's title heads the pages, and the window where that has none of its own; a window's title is
+/// the window's alone.
+void Run::setHeading(ReportHeading& heading) const
+{
+    heading.title = m_request.reportTitle.isEmpty() ? m_layout.title : m_request.reportTitle;
+    heading.windowTitle = m_request.windowTitle.isEmpty() ? heading.title : m_request.windowTitle;
+    heading.subtitle = subtitle();
+    heading.customer = m_request.customer;
+    heading.printed = m_request.now;
+}
+
+QString Run::subtitle() const
+{
+    QStringList parts;
+    if (m_period)
+        parts.append(m_period->text());
+    if (!m_isOnlyPeriod)
+        parts.append(u"selected by %1"_s.arg(m_request.selectionFormula));
+    if (!m_otherTables.isEmpty())
+        parts.append(u"the selection names another table (%1)"_s.arg(m_otherTables.join(u", "_s)));
+    return parts.join(u"; "_s);
+}
+
+QString Run::notice() const
+{
+    const QString nothing = u"There is nothing to show"_s;
+    return m_period ? u"%1: %2."_s.arg(nothing, m_period->text()) : nothing + u'.';
+}
+
+bool Run::isLandscape(const ReportData& data) const
+{
+    paper::Length width;
+    for (const auto& column : data.columns())
+        width = width + column.width;
+    const bool isWide = width > paper::millimetres(uprightMillimetres);
+    return m_layout.orientation == Orientation::Landscape ||
+           (m_layout.orientation == Orientation::Automatic && isWide);
+}
+
+} // namespace
+
+ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing)
+{
+    try {
+        return Run(request, keepGoing).make();
+    } catch (const RuntimeFailure& failure) {
+        throw ReportError(u"%1: %2"_s.arg(request.dataFile, failure.text()));
+    }
+}
+
+} // namespace norvane::reports

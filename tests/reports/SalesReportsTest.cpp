@@ -1,0 +1,139 @@
+// The reports of the sales menu over a small shop.
+#include "tests/reports/ReportShop.h"
+
+#include <gtest/gtest.h>
+
+namespace norvane::reports::test
+{
+namespace
+{
+
+constexpr const char* pluFields = "ID|SALESDATE|PROMO|WASTE|COUNT1|VALUE1|COUNT2|VALUE2";
+
+class SalesReports : public testing::Test
+{
+protected:
+    SalesReports()
+    {
+        shop.add("GROUPS", "GROUPNO|DESCRIPTION", {"1|DRINKS", "2|FOOD", "3|UNUSED"});
+        shop.add("PLUDATA", "PLUNUMBER|DESCRIPTION|GROUPNO",
+                 {"000000000000000020|CRISPS|2", "000000000000000003|COLA|1", "000000000000000100|TEA|1",
+                  "000000000000000007|LOOSE|0", "000000000000000008|LOST GROUP|9"});
+    }
+
+    [[nodiscard]] ReportData run(const char* layout, const QString& formula = {}) const
+    {
+        return runReport(shop.request(ReportShop::installed(layout), formula));
+    }
+
+    ReportShop shop;
+};
+
+TEST_F(SalesReports, PluSalesStandByGroupWithNamesAndExactTotals)
+{
+    shop.add("PLUSALES", pluFields,
+             {"000000000000000003|2026-11-25|1|0|2|5639.549999999998|0|0",
+              "3|2026-11-25|0|2|1|0.100000000002|0|0", // a second collection, spelled without zeros
+              "000000000000000100|2026-11-25|0|0|0.125|1.005|0|0",
+              "000000000000000020|2026-11-25|0|0|0|0|0|0", // sold nothing
+              "000000000000000007|2026-11-25|0|0|1|2|0|0", "000000000000000008|2026-11-25|0|0|1|3|0|0",
+              "000000000000000999|2026-11-25|0|0|1|4|0|0", // no longer in the programme
+              "000000000000000003|2026-11-24|0|0|50|60|0|0"});
+    const auto data = run("plusales.rpt", u"{PLUSALES.SALESDATE} = date(2026,11,25)"_s);
+    EXPECT_EQ(headingsOf(data), "PLU|Description|Quantity|Value|Promotion|Waste|Share %");
+    EXPECT_EQ(linesOf(data), "> 1 DRINKS\n"
+                             "3|COLA|3|5639.65|1|2|99.8\n"
+                             "100|TEA|0.125|1.01|0|0|0.0\n"
+                             "= |Total 1 DRINKS|3.125|5640.66|1|2|99.8\n"
+                             "> 9\n"
+                             "8|LOST GROUP|1|3.00|0|0|0.1\n"
+                             "= |Total 9|1|3.00|0|0|0.1\n"
+                             "> No group\n"
+                             "7|LOOSE|1|2.00|0|0|0.0\n"
+                             "999||1|4.00|0|0|0.1\n"
+                             "= |Total No group|2|6.00|0|0|0.1\n"
+                             "# |Total|6.125|5649.66|1|2|100.0");
+    EXPECT_EQ(data.heading.subtitle, u"25/11/2026"_s);
+    ASSERT_EQ(data.charts.size(), 2U);
+    EXPECT_EQ(data.charts[0].points.front().label, u"COLA"_s);
+    EXPECT_EQ(data.charts[0].points[1].label, u"999"_s);
+}
+
+TEST_F(SalesReports, LevelsStandAsColumnsWhereAnyBeyondTheFirstHasSales)
+{
+    shop.add("PLUSALES", pluFields,
+             {"3|2026-11-25|0|0|2|5|1|2.5", "20|2026-11-25|0|0|1|1|0|0", "100|2026-11-25|0|0|0|0|1|-1"});
+    const auto data = run("plusales.rpt");
+    EXPECT_EQ(headingsOf(data),
+              "PLU|Description|Quantity|Value|Promotion|Waste|Share %|Qty 1|Value 1|Qty 2|Value 2");
+    EXPECT_EQ(linesOf(data), "> 1 DRINKS\n"
+                             "3|COLA|3|7.50|0|0|100.0|2|5.00|1|2.50\n"
+                             "100|TEA|1|-1.00|0|0|-13.3|0|0.00|1|-1.00\n"
+                             "= |Total 1 DRINKS|4|6.50|0|0|86.7|2|5.00|2|1.50\n"
+                             "> 2 FOOD\n"
+                             "20|CRISPS|1|1.00|0|0|13.3|1|1.00|0|0.00\n"
+                             "= |Total 2 FOOD|1|1.00|0|0|13.3|1|1.00|0|0.00\n"
+                             "# |Total|5|7.50|0|0|100.0|3|6.00|2|1.50");
+    EXPECT_TRUE(data.page.isLandscape);
+}
+
+TEST_F(SalesReports, ItemsAndEmployeesHaveTheirNamesAndNoTotals)
+{
+    shop.add("FINANCIALREPORTDESCRIPTORS", "ID|financialreport", {"1|GROSS SALES", "2|NET SALES"});
+    shop.add("EMPLOYEEREPORTDESCRIPTORS", "ID|Employeereport", {"1|GROSS", "2|NET"});
+    shop.add("EMPLOYEE", "ID|DESCRIPTION|dallaskey", {"1|ANNE|0", "2|BERT|0"});
+    shop.add("FINANCIALSALES", "ID|SALESDATE|QUANTITY|VALUE",
+             {"2|2026-11-24|1|3", "1|2026-11-25|2|9.1", "2|2026-11-25|2|8.005", "57|2026-11-25|1|0"});
+    const auto financial = run("finsales.rpt");
+    EXPECT_EQ(linesOf(financial), "1|GROSS SALES|2|9.10\n2|NET SALES|3|11.01\n57|Item 57|1|0.00");
+    ASSERT_EQ(financial.charts.size(), 1U);
+    EXPECT_EQ(financial.charts[0].points[1].label, u"25/11"_s);
+    EXPECT_EQ(financial.charts[0].points[1].value, Decimal(8005, 3));
+
+    shop.add("CLERKSALES", "ID|CLERKID|SALESDATE|QUANTITY|VALUE",
+             {"2|3|2026-11-25|1|1.5", "1|2|2026-11-25|1|2", "2|1|2026-11-25|1|3", "1|1|2026-11-25|1|4",
+              "1|1|2026-11-25|2|5"});
+    const auto clerks = run("clerksales.rpt");
+    EXPECT_EQ(linesOf(clerks),
+              "> 1 ANNE\n1|GROSS|3|9.00\n2|NET|1|3.00\n> 2 BERT\n1|GROSS|1|2.00\n> 3\n2|NET|1|1.50");
+    ASSERT_EQ(clerks.charts.size(), 1U);
+    EXPECT_EQ(clerks.charts[0].points[1].label, u"Employee 3"_s);
+}
+
+TEST_F(SalesReports, PeriodsShowTheirTimesAndOffersWholeQuantities)
+{
+    shop.add("TIMEPERIOD", "id|STARTTIME|ENDTIME|ACTIVE", {"1|0900|1100|1", "2|0000|559|1"});
+    shop.add("TIMESALES", "ID|SALESDATE|QUANTITY|VALUE",
+             {"1|2026-11-25|3|7.5", "2|2026-11-25|1|2.5", "9|2026-11-24|1|10"});
+    const auto times = run("timesales.rpt");
+    EXPECT_EQ(linesOf(times), "2|00:00 to 05:59|1|2.50|12.5\n1|09:00 to 11:00|3|7.50|37.5\n"
+                              "9|Period 9|1|10.00|50.0\n# |Total|5|20.00|100.0");
+    EXPECT_EQ(times.charts.size(), 2U);
+
+    shop.add("MIXNMATCH", "MixNo|DESCRIPTION", {"1|3 FOR 2"});
+    shop.add("MIXSALES", "ID|SALESDATE|QUANTITY",
+             {"1|2026-11-25|300", "4|2026-11-25|12.5", "1|2026-11-24|200"});
+    const auto offers = run("mixsales.rpt");
+    EXPECT_EQ(headingsOf(offers), "Offer|Description|Quantity");
+    EXPECT_EQ(linesOf(offers), "1|3 FOR 2|5\n4|Offer 4|0.125\n# |Total|5.125");
+}
+
+TEST_F(SalesReports, ThePriceListShowsEuroPricesWhereAnyIsSet)
+{
+    shop.add("PLUDATA", "PLUNUMBER|DESCRIPTION|GROUPNO|PRICE1|PRICE2",
+             {"123456789012345678|LONG|2| 1.5|0.335"});
+    EXPECT_EQ(linesOf(run("pluprice.rpt")),
+              "3|COLA|DRINKS\n7|LOOSE\n8|LOST GROUP|9\n20|CRISPS|FOOD\n100|TEA|DRINKS\n"
+              "123456789012345678|LONG|FOOD|1.50|0.34");
+    shop.add("PLUDATA", "PLUNUMBER|EuroPrice2", {"000000000000000001|2"});
+    shop.add("smode", "DECIMALPlace", {"3"});
+    const auto data = run("pluprice.rpt");
+    EXPECT_EQ(
+        headingsOf(data),
+        "PLU|Description|Group|Price 1|Price 2|Price 3|Price 4|Price 5|Euro 1|Euro 2|Euro 3|Euro 4|Euro 5");
+    EXPECT_EQ(data.text(0, 9), u"2.000"_s);
+    EXPECT_EQ(data.text(6, 4), u"0.335"_s);
+}
+
+} // namespace
+} // namespace norvane::reports::test
