@@ -129,7 +129,8 @@ void importPluReport(benchmark::State& state)
     bench::compare(
         state,
         [&] {
-            sales::importPollFile(pluReport(), shop.values, {2026, 11, 24});
+            store::Database database(shop.values.databasePath);
+            sales::importPollFile(pluReport(), database, shop.values, {2026, 11, 24});
         },
         [&] { bareImport(shop); });
     const double rows = BareDatabase(shop.values.databasePath).number("select count(*) from PLUSALES");

@@ -97,7 +97,7 @@ public:
     }
     [[nodiscard]] records::ProcedureContext context()
     {
-        return {values, boxes, [](const QString&) {
+        return {values, boxes, [](const records::Conversion&) {
                     return true;
                 }};
     }

@@ -2,12 +2,16 @@
 #include "exchange/ExchangeRunner.h"
 
 #include "base/CustomerSettings.h"
+#include "base/LossQuestion.h"
 #include "exchange/MemoryFile.h"
 #include "exchange/MoveDataFile.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
+#include "link/RunNotes.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
+#include "store/Database.h"
+#include "store/Recordset.h"
 
 #include <QFileInfo>
 
@@ -17,6 +21,23 @@ namespace norvane::exchange
 {
 namespace
 {
+
+const QString memoryFile = u"MEM.dat"_s;
+constexpr int pluFile = 67;
+constexpr int pluPointsFile = 71;
+
+const QString oldResult = u"The exchange would go on as if a register had answered."_s;
+const QString oldFileFetched =
+    u"It would be taken as what the register sent, though it may be an old file or another customer's."_s;
+const QString oldResultOfSend =
+    u"An old result would count, and the file as sent, though the registers may not have it."_s;
+
+QString pointsQuestion()
+{
+    return u"The PLUs were uploaded, but the upload of their points did not follow. The points would go to "
+           u"the registers as they are here, and those that the registers hold would be lost.\r\r"
+           u"To keep them, answer No and upload Smartcard PLU Points first.\r\rSend all the same?"_s;
+}
 
 QString dataFile(int file)
 {
@@ -38,32 +59,61 @@ qint64 lengthOf(const QString& name)
 ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::LinkSettings& link,
                                TickBoxes& ticks, link::RunOutside outside)
     : m_values(values), m_link(link), m_ticks(ticks),
-      m_outside(std::move(outside)), m_procedures{values, m_outside.boxes, [this](const QString& line) {
-                                                      return link::runTool(m_outside, line) ==
-                                                             ChildResult::Ended;
+      m_outside(std::move(outside)), m_procedures{values, m_outside.boxes,
+                                                  [this](const records::Conversion& conversion) {
+                                                      return convert(conversion);
                                                   }}
 {
 }
 
 void ExchangeRunner::UploadData()
 {
-    if (!transfer(u"Opening exchange"_s, link::uploadLine(m_link, link::openingSuffix)) ||
-        !transfer(u"Memory allocation"_s, link::uploadLine(m_link, link::memorySuffix))) {
+    begin(Direction::Upload);
+    if (!open(u"Opening exchange"_s, link::uploadLine(m_link, link::openingSuffix)) ||
+        !open(u"Memory allocation"_s, link::uploadLine(m_link, link::memorySuffix), {memoryFile})) {
         return;
     }
-    keepForCustomer(u"MEM.dat"_s);
-    FileMemory(m_values, m_outside.boxes,
-               [this](const QString& line) { return link::runTool(m_outside, line) == ChildResult::Ended; });
-    moveBoxes(uploadPlan(), &ExchangeRunner::uploadRow);
+    keepForCustomer(memoryFile);
+    if (FileMemory(m_procedures))
+        moveBoxes(uploadPlan(), &ExchangeRunner::uploadRow);
 }
 
 void ExchangeRunner::downloaddata()
 {
-    if (!transfer(u"Memory allocation"_s, link::downloadOpeningLine(m_link, link::memorySuffix)) ||
-        !transfer(u"Opening exchange"_s, link::downloadOpeningLine(m_link, link::openingSuffix))) {
+    begin(Direction::Download);
+    if (!open(u"Memory allocation"_s, link::downloadOpeningLine(m_link, link::memorySuffix), {memoryFile}) ||
+        !open(u"Opening exchange"_s, link::downloadOpeningLine(m_link, link::openingSuffix))) {
         return;
     }
     moveBoxes(downloadPlan(), &ExchangeRunner::downloadRow);
+}
+
+/// Remembered from here on, so that a run that is cut off at any time is told later. A run without boxes
+/// moves nothing, and the boxes of the run before it are still to do.
+void ExchangeRunner::begin(Direction direction)
+{
+    m_exchange = {direction, QDateTime::currentDateTime(), tickedBoxes()};
+    if (!m_exchange.boxes.isEmpty())
+        noteExchange(m_values, m_exchange);
+}
+
+QList<int> ExchangeRunner::tickedBoxes() const
+{
+    QList<int> boxes;
+    for (int box = 0; box < boxCount; ++box) {
+        if (m_ticks.isTicked(box))
+            boxes << box;
+    }
+    return boxes;
+}
+
+void ExchangeRunner::noteBoxesLeft()
+{
+    const QList<int> left = tickedBoxes();
+    if (left == m_exchange.boxes)
+        return;
+    m_exchange.boxes = left;
+    noteExchange(m_values, m_exchange);
 }
 
 template <typename Row>
@@ -74,6 +124,7 @@ void ExchangeRunner::moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::
             untickWithoutSmartCards();
         if (m_ticks.isTicked(box) && !moveBox(box, rowsOfBox(plan, box), moveRow))
             return;
+        noteBoxesLeft();
     }
 }
 
@@ -95,31 +146,87 @@ bool ExchangeRunner::moveBox(int box, std::span<const Row> rows, bool (ExchangeR
 bool ExchangeRunner::uploadRow(const UploadRow& row)
 {
     showStep("Upload", row.box, row.file);
-    link::runTool(m_outside, link::uploadLine(m_link, QLatin1String(row.literal)));
-    if (!succeeded())
+    link::WatchedStep step(m_outside, {link::statusFile, dataFile(row.file)});
+    step.run(link::uploadLine(m_link, QLatin1String(row.literal)));
+    if (!succeeded() || !step.mayGoOn(oldFileFetched))
         return false;
-    if (records::hasImporter(row.file))
-        records::importRegisterFile(row.file, m_procedures);
+    if (records::hasImporter(row.file) && !importFile(row.file))
+        return false;
     keepForCustomer(dataFile(row.file));
     return true;
+}
+
+bool ExchangeRunner::importFile(int file)
+{
+    const bool waited = pluPointsWait(m_values);
+    // Noted ahead of the import: it empties the points, also when it is cut off behind that.
+    if (file == pluFile)
+        notePluPointsWait(m_values, true);
+    const bool imported = records::importRegisterFile(file, m_procedures);
+    if (!imported)
+        notePluPointsWait(m_values, waited);
+    else if (file == pluFile)
+        notePluCount();
+    else if (file == pluPointsFile)
+        notePluPointsWait(m_values, false);
+    return imported;
 }
 
 bool ExchangeRunner::downloadRow(const DownloadRow& row)
 {
     showStep("Download", row.box, row.file);
+    if (!mayTouchPoints(row.file))
+        return false;
     const bool fromTable = records::hasExporter(row.file);
-    if (fromTable ? !makeFile(row.file) : !takeKeptFile(row))
+    if (!fromTable)
+        return !takeKeptFile(row) || sendFile(row, fromTable);
+    switch (records::exportRegisterFile(row.file, m_procedures)) {
+    case records::Exported::Nothing:
         return true;
-    link::runTool(m_outside, link::downloadLine(m_link, QLatin1String(row.literal)));
-    if (fromTable)
-        copyAfterSend(row);
-    return succeeded();
+    case records::Exported::File:
+        return sendFile(row, fromTable);
+    case records::Exported::Refused:
+        break;
+    }
+    return false;
 }
 
-/// @return whether there is a file to send.
-bool ExchangeRunner::makeFile(int file)
+bool ExchangeRunner::sendFile(const DownloadRow& row, bool fromTable)
 {
-    return records::exportRegisterFile(file, m_procedures) != records::Exported::Nothing;
+    link::WatchedStep step(m_outside, {link::statusFile});
+    step.run(link::downloadLine(m_link, QLatin1String(row.literal)));
+    if (fromTable)
+        copyAfterSend(row);
+    if (!succeeded() || !step.mayGoOn(oldResultOfSend))
+        return false;
+    if (row.file == pluFile)
+        notePluCount();
+    return true;
+}
+
+/// Sending the PLUs clears their points at the registers, and the points that follow are those of the table:
+/// none, as long as they were not fetched after the PLUs.
+bool ExchangeRunner::mayTouchPoints(int file)
+{
+    if ((file != pluFile && file != pluPointsFile) || !hasSmartCards() || !pluPointsWait(m_values))
+        return true;
+    if (!askBeforeLoss(m_outside.boxes, pointsQuestion()))
+        return false;
+    notePluPointsWait(m_values, false);
+    return true;
+}
+
+void ExchangeRunner::notePluCount()
+{
+    store::Database database(m_values.databasePath);
+    link::notePluCountOfRegisters(m_values, database.openTable(u"PLUDATA"_s).recordCount());
+}
+
+bool ExchangeRunner::convert(const records::Conversion& conversion)
+{
+    link::WatchedStep step(m_outside, {conversion.target});
+    step.run(conversion.commandLine);
+    return step.mayGoOn(conversion.consequence);
 }
 
 /// Without a table the customer's kept copy is sent, never a file found in the program's folder, which may be
@@ -145,14 +252,22 @@ void ExchangeRunner::copyAfterSend(const DownloadRow& row)
 /// has left no file.
 void ExchangeRunner::keepForCustomer(const QString& name)
 {
-    if (pathExists(joinPath(m_values.appPath, name)))
-        MoveDataFile(m_values.appPath, m_values.customerPath, name);
+    if (!pathExists(joinPath(m_values.appPath, name)))
+        return;
+    if (keepFormerCopy(m_values.appPath, m_values.customerPath, name))
+        m_outside.showNotice(u"%1 came empty. The former copy is kept as %1.former."_s.arg(name));
+    MoveDataFile(m_values.appPath, m_values.customerPath, name);
+}
+
+bool ExchangeRunner::hasSmartCards() const
+{
+    return readSetting(m_values, u"ECRModel"_s, u"0"_s) != "0"_L1;
 }
 
 /// Model 0 has no smart card files.
 void ExchangeRunner::untickWithoutSmartCards()
 {
-    if (readSetting(m_values, u"ECRModel"_s, u"0"_s) != "0"_L1)
+    if (hasSmartCards())
         return;
     for (int box = firstSmartCardBox; box < boxCount; ++box)
         m_ticks.setTicked(box, false);
@@ -167,11 +282,13 @@ bool ExchangeRunner::succeeded()
     return false;
 }
 
-bool ExchangeRunner::transfer(const QString& step, const QString& commandLine)
+/// An exchange ahead of the boxes. @p expected are the files that it fetches.
+bool ExchangeRunner::open(const QString& name, const QString& commandLine, const QStringList& expected)
 {
-    m_outside.showStep(step);
-    link::runTool(m_outside, commandLine);
-    return succeeded();
+    m_outside.showStep(name);
+    link::WatchedStep step(m_outside, expected + QStringList{link::statusFile});
+    step.run(commandLine);
+    return succeeded() && step.mayGoOn(oldResult);
 }
 
 void ExchangeRunner::showStep(const char* verb, int box, int file)

@@ -1,12 +1,13 @@
 // Walks the exchange plans: opens the exchange, moves the files of each ticked box, stops at the first result
-// that is not 0.
+// that is not 0, and at the user's No to what a failed tool left.
 #pragma once
 
 #include "base/ApplicationValues.h"
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangePlan.h"
+#include "exchange/UnfinishedExchange.h"
 #include "link/LinkSettings.h"
-#include "link/RunOutside.h"
+#include "link/WatchedStep.h"
 #include "records/FileProcedures.h"
 
 #include <span>
@@ -15,8 +16,8 @@ namespace norvane::exchange
 {
 
 /// One run over the ticked boxes. The values, settings and ticks handed in must outlive it. A box is unticked
-/// when all its files have moved, so that after a failure the ticks show what is still to do. Nothing is
-/// undone.
+/// when all its files have moved, so that after a failure the ticks show what is still to do; the customer's
+/// folder remembers them too. Nothing is undone.
 class ExchangeRunner
 {
 public:
@@ -40,13 +41,21 @@ private:
     bool moveBox(int box, std::span<const Row> rows, bool (ExchangeRunner::*moveRow)(const Row&));
     bool uploadRow(const UploadRow& row);
     bool downloadRow(const DownloadRow& row);
-    [[nodiscard]] bool makeFile(int file);
+    [[nodiscard]] bool convert(const records::Conversion& conversion);
     [[nodiscard]] bool takeKeptFile(const DownloadRow& row);
     void copyAfterSend(const DownloadRow& row);
     void keepForCustomer(const QString& name);
     void untickWithoutSmartCards();
+    [[nodiscard]] bool importFile(int file);
+    [[nodiscard]] bool mayTouchPoints(int file);
+    [[nodiscard]] bool sendFile(const DownloadRow& row, bool fromTable);
+    void notePluCount();
+    void begin(Direction direction);
+    [[nodiscard]] QList<int> tickedBoxes() const;
+    void noteBoxesLeft();
+    [[nodiscard]] bool hasSmartCards() const;
     bool succeeded();
-    bool transfer(const QString& step, const QString& commandLine);
+    bool open(const QString& name, const QString& commandLine, const QStringList& expected = {});
     void showStep(const char* verb, int box, int file);
 
     const ApplicationValues& m_values;
@@ -54,6 +63,7 @@ private:
     TickBoxes& m_ticks;
     link::RunOutside m_outside;
     records::ProcedureContext m_procedures;
+    UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
 };
 
 } // namespace norvane::exchange

@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <QShowEvent>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -63,6 +64,13 @@ QLayout* FrmComm::columnOfBoxes(int first, int end) const
         column->addWidget(check1[static_cast<std::size_t>(box)]);
     column->addStretch();
     return column;
+}
+
+void FrmComm::showEvent(QShowEvent* event)
+{
+    if (!event->spontaneous())
+        tellUnfinishedExchange(m_values, m_boxes);
+    LinkForm::showEvent(event);
 }
 
 void FrmComm::run()

@@ -25,6 +25,8 @@ public:
 protected:
     void run() override;
     [[nodiscard]] QString leavingNotice() const override;
+    /// Tells first what the last exchange left undone.
+    void showEvent(QShowEvent* event) override;
 
 private:
     void buildBoxes();

@@ -5,6 +5,7 @@
 #include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
 #include "platform/TextValues.h"
+#include "records/ImportTransaction.h"
 #include "records/RecordText.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
@@ -129,7 +130,7 @@ void storeColumn(store::Recordset& record, const Column& column, std::string_vie
     record.setValue(QLatin1String(column.field), store::Value::text(records::plainFromRegister(kept)));
 }
 
-void storeLine(store::Recordset& record, std::string_view line, int number,
+void storeLine(store::Recordset& record, std::string_view line, qint64 number,
                const std::function<int()>& generation)
 {
     int asked = 0;
@@ -147,31 +148,49 @@ void storeLine(store::Recordset& record, std::string_view line, int number,
     record.update();
 }
 
-/// Replaces the table's rows by those of the text.
-void reloadTable(const QString& databasePath, const std::function<int()>& generation)
+/// Replaces a table's rows by those of the text.
+struct Reload {
+    qint64 former = 0;
+    qint64 read = 0;
+
+    void operator()(store::Database& database, const std::function<int()>& generation)
+    {
+        store::Recordset record = database.openTable(u"memoryallocation"_s);
+        former = database.execute(u"delete * from memoryallocation"_s);
+        const QByteArray content = readWholeFile(textName);
+        records::Lines lines(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
+        for (; !lines.atEnd(); ++read)
+            storeLine(record, lines.next(), read + 1, generation);
+    }
+};
+
+void reloadTable(const records::ProcedureContext& context, const std::function<int()>& generation)
 {
-    store::Database database(databasePath);
+    store::Database database(context.values.databasePath);
     store::Transaction transaction(database);
-    store::Recordset record = database.openTable(u"memoryallocation"_s);
-    database.execute(u"delete * from memoryallocation"_s);
-    const QByteArray content = readWholeFile(textName);
-    records::Lines lines(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
-    for (int number = 1; !lines.atEnd(); ++number)
-        storeLine(record, lines.next(), number, generation);
+    Reload reload;
+    records::importOrPutBack(
+        transaction, context.boxes,
+        [&] { return records::keepRecordsQuestion(textName, reload.read, reload.former); },
+        [&] { reload(database, generation); });
     transaction.commit();
 }
 
 } // namespace
 
-void FileMemory(const ApplicationValues& values, Boxes& boxes,
-                const std::function<bool(const QString&)>& runCommand)
+bool FileMemory(const records::ProcedureContext& context)
 {
     const auto generation = [&] {
-        return GetFirmwareGeneration(values, boxes);
+        return GetFirmwareGeneration(context.values, context.boxes);
     };
     const QString operation = generation() == olderGeneration ? u"u52"_s : u"u352"_s;
-    runCommand(u"convert w%1 fMEM.dat t52.txt %2"_s.arg(GetModelCode(values), operation));
-    reloadTable(values.databasePath, generation);
+    const QString line = u"convert w%1 fMEM.dat t52.txt %2"_s.arg(GetModelCode(context.values), operation);
+    if (!context.convert({line, textName,
+                          u"The memory allocation would be read from it, though it may be another "
+                          u"register's."_s}))
+        return false;
+    reloadTable(context, generation);
+    return true;
 }
 
 } // namespace norvane::exchange

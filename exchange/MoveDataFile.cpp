@@ -38,4 +38,14 @@ void MoveDataFile(const QString& source, const QString& target, const QString& n
     writeWholeFile(to, readWholeFile(from));
 }
 
+bool keepFormerCopy(const QString& source, const QString& target, const QString& name)
+{
+    const QString kept = joinPath(target, name);
+    const QByteArray former = pathExists(kept) ? readWholeFile(kept) : QByteArray();
+    const QByteArray coming = readWholeFile(joinPath(source, name));
+    if (!former.isEmpty() && former != coming)
+        writeWholeFile(kept + u".former"_s, former);
+    return coming.isEmpty() && !former.isEmpty();
+}
+
 } // namespace norvane::exchange

@@ -7,12 +7,14 @@
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/TextValues.h"
+#include "records/ImportTransaction.h"
 #include "records/RecordReader.h"
 #include "records/RecordWriter.h"
 #include "records/RegisterFiles.h"
 #include "store/Database.h"
 
 #include <QFile>
+#include <QScopeGuard>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -65,9 +67,11 @@ public:
     void storeAll(std::string_view text)
     {
         Lines lines(text);
-        for (qint64 number = 1; !lines.atEnd(); ++number)
-            storeLine(lines.next(), number);
+        for (; !lines.atEnd(); ++m_stored)
+            storeLine(lines.next(), m_stored + 1);
     }
+    /// Lines that are in the table.
+    [[nodiscard]] qint64 stored() const { return m_stored; }
 
 private:
     void storeLine(std::string_view line, qint64 number)
@@ -106,6 +110,7 @@ private:
     const RegisterFile& m_file;
     store::Recordset& m_records;
     RecordReader m_reader;
+    qint64 m_stored = 0;
 };
 
 /// The text file of a download, opened for output and thereby emptied.
@@ -156,6 +161,34 @@ bool isEmpty(const RegisterFile& file, const QString& databasePath)
     return database.openTable(QLatin1String(file.table)).recordCount() == 0;
 }
 
+/// Records of a table that is replaced.
+struct ImportCounts {
+    qint64 former = 0;
+    qint64 read = 0;
+};
+
+void importText(const RegisterFile& file, store::Database& database, ImportCounts& counts)
+{
+    store::Recordset records = database.openTable(QLatin1String(file.table));
+    records.setIndex(QLatin1String(file.index));
+    // The table goes before the text is looked for: without a text it stays empty.
+    if (file.upload == Upload::ReplacesTable)
+        counts.former = database.execute(u"delete * from %1"_s.arg(QLatin1String(file.table)));
+    const QByteArray content = readWholeFile(textName(file));
+    Import import(file, records);
+    const auto count = qScopeGuard([&] { counts.read = import.stored(); });
+    import.storeAll(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
+}
+
+QString keepQuestion(const RegisterFile& file, const ImportCounts& counts)
+{
+    if (file.upload == Upload::ReplacesTable)
+        return keepRecordsQuestion(textName(file), counts.read, counts.former);
+    return u"%1 was read only in part. Keep what was read, %2 lines?\rNo puts the table back as it was."_s
+        .arg(textName(file))
+        .arg(counts.read);
+}
+
 const RegisterFile& knownFile(int number)
 {
     const RegisterFile* file = registerFile(number);
@@ -175,22 +208,22 @@ bool hasExporter(int file)
     return hasImporter(file) && registerFile(file)->exporter != nullptr;
 }
 
-void importRegisterFile(int number, const ProcedureContext& context)
+bool importRegisterFile(int number, const ProcedureContext& context)
 {
     const RegisterFile& file = knownFile(number);
-    context.runCommand(importLine(file, context.values));
+    if (!context.convert({importLine(file, context.values), textName(file),
+                          u"The customer's records would be read from it, though it may be an old file or "
+                          u"another customer's."_s}))
+        return false;
 
     store::Database database(context.values.databasePath);
     store::Transaction transaction(database);
-    store::Recordset records = database.openTable(QLatin1String(file.table));
-    records.setIndex(QLatin1String(file.index));
-    // The table goes before the text is looked for: without a text it stays empty.
-    if (file.upload == Upload::ReplacesTable)
-        database.execute(u"delete * from %1"_s.arg(QLatin1String(file.table)));
-    const QByteArray content = readWholeFile(textName(file));
-    Import(file, records)
-        .storeAll(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
+    ImportCounts counts;
+    importOrPutBack(
+        transaction, context.boxes, [&] { return keepQuestion(file, counts); },
+        [&] { importText(file, database, counts); });
     transaction.commit();
+    return true;
 }
 
 Exported exportRegisterFile(int number, const ProcedureContext& context)
@@ -206,8 +239,11 @@ Exported exportRegisterFile(int number, const ProcedureContext& context)
         records.setIndex(QLatin1String(file.index));
         writeRecords(file, records, output, context);
     }
-    context.runCommand(exportLine(file, context.values));
-    return Exported::File;
+    const bool mayBeSent = context.convert(
+        {exportLine(file, context.values), u"%1.dat"_s.arg(file.number),
+         u"The registers would get it, though it may be an old file or another customer's. The changes "
+         u"made since would not reach them."_s});
+    return mayBeSent ? Exported::File : Exported::Refused;
 }
 
 } // namespace norvane::records

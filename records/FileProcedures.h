@@ -13,13 +13,20 @@
 namespace norvane::records
 {
 
+/// One run of the converter.
+struct Conversion {
+    QString commandLine;
+    QString target;      ///< file of the working directory that it has to write, "67.txt"
+    QString consequence; ///< for the user: what a target that it did not write would do
+};
+
 /// The world around a procedure.
 struct ProcedureContext {
     const ApplicationValues& values;
     Boxes& boxes;
-    /// Runs the converter's command line and waits for its end. Nobody looks at its outcome: a conversion
-    /// that failed shows only in the text that is there, or is not, afterwards.
-    std::function<bool(const QString& commandLine)> runCommand;
+    /// Runs the converter and waits for its end. @return whether the target may be used. A conversion that
+    /// failed leaves the target of an earlier one, so the user is asked then.
+    std::function<bool(const Conversion&)> convert;
 };
 
 /// Whether the register file with this number has a procedure for the direction.
@@ -28,16 +35,18 @@ struct ProcedureContext {
 
 /// The File... procedure of a register file: converts NN.dat to NN.txt in the working directory, empties the
 /// table and stores a record for each line, from the first to the end of the file. File 71 empties nothing
-/// and changes the PLUs that it names. All in one transaction, which stays when a failure ends it: what was
-/// read before is kept. A process that is killed leaves the table as it was.
-/// @throws RuntimeFailure 53 when NN.txt is missing, the table is empty then; for a bad line what
+/// and changes the PLUs that it names. All in one transaction: when a failure ends it the user is asked
+/// whether what was read stays, see importOrPutBack().
+/// @return false when the user does not want the text that a failed conversion left; the table is untouched.
+/// @throws RuntimeFailure 53 when NN.txt is missing, what was read is nothing then; for a bad line what
 /// RecordReader::read and Recordset::update throw, its text naming file, line and column.
-void importRegisterFile(int file, const ProcedureContext& context);
+bool importRegisterFile(int file, const ProcedureContext& context);
 
 /// What a Write... procedure has made.
 enum class Exported {
     Nothing,
     File,
+    Refused, ///< the user does not want the file that a failed conversion left
 };
 
 /// The Write... procedure: makes NN.txt in the program's folder from all records of the table in the order of

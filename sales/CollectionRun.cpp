@@ -4,7 +4,6 @@
 #include "base/SharedRoutines.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
-#include "sales/PollImport.h"
 #include "sales/PollStamp.h"
 
 #include <QDate>
@@ -25,6 +24,32 @@ constexpr int reports[] = {190, 191, 192, 194, 218};
 /// Results of the consolidation that mean: sales were consolidated before and wait to be collected.
 constexpr int waitingResults[] = {-13, -14};
 
+constexpr const char* asIfAnswered = "The collection would go on as if a register had answered.";
+constexpr const char* asIfConsolidated =
+    "The collection would go on as if the registers had made up their reports.";
+constexpr const char* olderSales = "Older sales would be stored as those of today, and the registers would "
+                                   "then be cleared: what they sold would be lost.";
+constexpr const char* asIfCleared = "The collection would end as successful, though the registers may hold "
+                                    "the sales still and hand them over again.";
+
+QString reportFile(int report)
+{
+    return u"poll%1.dll"_s.arg(report);
+}
+
+QString textFile(int report)
+{
+    return u"POLL%1.txt"_s.arg(report);
+}
+
+QStringList reportNames(QString (*nameOf)(int report))
+{
+    QStringList names;
+    for (const int report : reports)
+        names << nameOf(report);
+    return names;
+}
+
 bool waits(int result)
 {
     return std::find(std::begin(waitingResults), std::end(waitingResults), result) !=
@@ -38,19 +63,21 @@ struct CollectionRun::ToolStep {
     const char* statusText; ///< nullptr keeps the text of the step before
     QString (*line)(const link::LinkSettings& link, const QString& suffix);
     QLatin1StringView suffix;
-    bool passesWaiting; ///< whether sales waiting from an earlier run count as success
+    bool passesWaiting;      ///< whether sales waiting from an earlier run count as success
+    bool leavesReports;      ///< whether it has to leave the five reports
+    const char* consequence; ///< of going by what an earlier run left, for the user
 };
 
 // clang-format off
 const CollectionRun::ToolStep CollectionRun::stepsAheadOfImport[] = {
-    {"Get Memory",           link::salesOpeningLine, link::memorySuffix,            false},
-    {nullptr,                link::salesOpeningLine, link::openingSuffix,           false},
+    {"Get Memory",           link::salesOpeningLine, link::memorySuffix,            false, false, asIfAnswered},
+    {nullptr,                link::salesOpeningLine, link::openingSuffix,           false, false, asIfAnswered},
     {"Consolidate Reports",  link::salesLine,
-     " P0001010100010000000000000000000000000000000000000000000100 -Z"_L1,         true},
-    {"Collect Report Files", link::salesLine,        " -P 190 191 192 194 218"_L1,  false},
+     " P0001010100010000000000000000000000000000000000000000000100 -Z"_L1,         true,  false, asIfConsolidated},
+    {"Collect Report Files", link::salesLine,        " -P 190 191 192 194 218"_L1,  false, true,  olderSales},
 };
 const CollectionRun::ToolStep CollectionRun::clearing =
-    {"Clear Data at ECR",    link::salesLine,        " -C"_L1,                      false};
+    {"Clear Data at ECR",    link::salesLine,        " -C"_L1,                      false, false, asIfCleared};
 // clang-format on
 
 CollectionRun::CollectionRun(const ApplicationValues& values, CollectionOutside outside)
@@ -63,7 +90,8 @@ void CollectionRun::collect()
     // Called because it makes an empty poll194.dll when there is none.
     (void)ReadPoll194Stamp(m_values);
     m_link = link::readLinkSettings(m_values);
-    m_left = false;
+    m_ended = false;
+    m_origin = ReportOrigin::ThisRun;
     m_dialResult = m_outside.connectLink(m_link);
     // A user who left while the modem dialled has hung up already.
     if (!m_outside.run.goOn())
@@ -85,20 +113,20 @@ std::optional<int> CollectionRun::failedResult()
     // No step has a result yet.
     if (m_dialResult == link::modemFailed)
         return 0;
-    if (const auto failed = fetchReports(); failed || m_left)
+    if (const auto failed = fetchReports(); failed || m_ended)
         return failed;
     m_outside.run.showStep(u"Parse data...."_s);
     if (sendsDescriptions())
         return link::descriptionsPolled;
-    convertReports();
-    importReports();
+    if (!convertReports() || importReports() == Stored::Refused)
+        return std::nullopt;
     return clearRegisters();
 }
 
 std::optional<int> CollectionRun::fetchReports()
 {
     for (const ToolStep& step : stepsAheadOfImport) {
-        if (const auto failed = runStep(step); failed || m_left)
+        if (const auto failed = runStep(step); failed || m_ended)
             return failed;
     }
     return std::nullopt;
@@ -109,7 +137,7 @@ std::optional<int> CollectionRun::fetchReports()
 std::optional<int> CollectionRun::clearRegisters()
 {
     const auto failed = runStep(clearing);
-    if (!failed)
+    if (!failed && !m_ended)
         m_outside.run.showStep(u"Communications Successful...."_s);
     return failed;
 }
@@ -117,15 +145,27 @@ std::optional<int> CollectionRun::clearRegisters()
 std::optional<int> CollectionRun::runStep(const ToolStep& step)
 {
     if (&step != &clearing && !m_outside.run.goOn()) {
-        m_left = true;
+        m_ended = true;
         return std::nullopt;
     }
     if (step.statusText != nullptr)
         m_outside.run.showStep(QLatin1String(step.statusText));
-    link::runTool(m_outside.run, step.line(m_link, step.suffix));
+    link::WatchedStep watched(m_outside.run, (step.leavesReports ? reportNames(reportFile) : QStringList()) +
+                                                 QStringList{link::statusFile});
+    watched.run(step.line(m_link, step.suffix));
     const int result = link::resultNumber(m_outside.run.readStatus());
-    const bool succeeded = result == 0 || (step.passesWaiting && waits(result));
-    return succeeded ? std::nullopt : std::optional(result);
+    if (result != 0 && !(step.passesWaiting && waits(result)))
+        return result;
+    m_ended = !mayUse(watched, step.leavesReports, QLatin1StringView(step.consequence));
+    return std::nullopt;
+}
+
+/// @p hasReports tells a step that makes the reports or their texts.
+bool CollectionRun::mayUse(const link::WatchedStep& step, bool hasReports, const QString& consequence)
+{
+    if (hasReports && !step.isComplete())
+        m_origin = ReportOrigin::InDoubt;
+    return step.mayGoOn(consequence);
 }
 
 /// Told by the stamp of the PLU report. No layout has a column for the descriptions in such records.
@@ -135,20 +175,21 @@ bool CollectionRun::sendsDescriptions() const
     return stamp.endsWith(u'3') || stamp.endsWith(u'2');
 }
 
-/// Nothing checks how a conversion ended: when it fails, an older text is imported as it is.
-void CollectionRun::convertReports()
+/// All five are made before the one question about those that failed. @return false when the user does not
+/// want older ones.
+bool CollectionRun::convertReports()
 {
     const QString model = GetModelCode(m_values);
+    link::WatchedStep step(m_outside.run, reportNames(textFile));
     for (const int report : reports)
-        link::runTool(m_outside.run, u"convert w%1 fpoll%2.dll tPOLL%2.txt S%2"_s.arg(model).arg(report));
+        step.run(u"convert w%1 f%2 t%3 S%4"_s.arg(model, reportFile(report), textFile(report)).arg(report));
+    return mayUse(step, true, QLatin1StringView(olderSales));
 }
 
-void CollectionRun::importReports() const
+Stored CollectionRun::importReports() const
 {
     // One day for all reports, also when the imports run across midnight.
-    const QDate collected = QDate::currentDate();
-    for (const PollFile& file : pollFiles())
-        importPollFile(file, m_values, collected);
+    return storeReports(m_values, m_outside.run.boxes, QDate::currentDate(), m_origin);
 }
 
 } // namespace norvane::sales

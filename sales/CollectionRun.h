@@ -3,7 +3,8 @@
 
 #include "base/ApplicationValues.h"
 #include "link/LinkSettings.h"
-#include "link/RunOutside.h"
+#include "link/WatchedStep.h"
+#include "sales/ReportStore.h"
 
 #include <QString>
 
@@ -24,7 +25,8 @@ struct CollectionOutside {
 
 /// One run: consolidate at the registers, collect, import, clear at the registers. The registers are cleared
 /// only after all five imports, so a run that fails before loses nothing. A run that fails between import and
-/// clearing leaves the sales both in the tables and at the registers.
+/// clearing leaves the sales both in the tables and at the registers; a repeat is asked about. What a failed
+/// tool left is used only after a question; No ends the run.
 class CollectionRun
 {
 public:
@@ -35,7 +37,7 @@ public:
 
     /// Shows the result's text in a box when a step fails. A modem is always hung up first.
     /// @throws RuntimeFailure 53 when status.out is missing, 13 when it holds no number or the model is none,
-    /// 6 and 13 for link settings, and what importPollFile() throws.
+    /// 6 and 13 for link settings, and what storeReports() throws.
     void collect();
 
 private:
@@ -49,14 +51,16 @@ private:
     [[nodiscard]] std::optional<int> clearRegisters();
     [[nodiscard]] std::optional<int> runStep(const ToolStep& step);
     [[nodiscard]] bool sendsDescriptions() const;
-    void convertReports();
-    void importReports() const;
+    [[nodiscard]] bool mayUse(const link::WatchedStep& step, bool hasReports, const QString& consequence);
+    [[nodiscard]] bool convertReports();
+    [[nodiscard]] Stored importReports() const;
 
     const ApplicationValues& m_values;
     CollectionOutside m_outside;
     link::LinkSettings m_link;
     int m_dialResult = 0;
-    bool m_left = false;
+    bool m_ended = false; ///< the user left, or does not want what a tool left
+    ReportOrigin m_origin = ReportOrigin::ThisRun;
 };
 
 } // namespace norvane::sales

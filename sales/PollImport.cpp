@@ -34,11 +34,11 @@ constexpr const char* pluFields[] = {"ID",     "promo",  "waste",  "count1", "va
 
 // clang-format off
 constexpr PollFile readers[] = {
-    {"FileFinSales",   "poll190.txt", store::salestable::financials, itemFields, Numbering::Running, RecordForm::Fixed,   false, 0},
-    {"FilePLUSales",   "poll194.txt", store::salestable::plus,       pluFields,  Numbering::ByText,  RecordForm::Stamped, true,  0},
-    {"FileTimeSales",  "poll191.txt", store::salestable::times,      itemFields, Numbering::Running, RecordForm::Fixed,   false, 0},
-    {"FilemixSales",   "poll218.txt", store::salestable::mixes,      mixFields,  Numbering::Running, RecordForm::Fixed,   false, 2},
-    {"FileClerkSales", "poll192.txt", store::salestable::clerks,     itemFields, Numbering::ByBlock, RecordForm::Fixed,   false, 0},
+    {"FileFinSales",   "poll190.txt", store::salestable::financials, itemFields, Numbering::Running, RecordForm::Fixed,   false, 0, false},
+    {"FilePLUSales",   "poll194.txt", store::salestable::plus,       pluFields,  Numbering::ByText,  RecordForm::Stamped, true,  0, false},
+    {"FileTimeSales",  "poll191.txt", store::salestable::times,      itemFields, Numbering::Running, RecordForm::Fixed,   false, 0, false},
+    {"FilemixSales",   "poll218.txt", store::salestable::mixes,      mixFields,  Numbering::Running, RecordForm::Fixed,   false, 2, true},
+    {"FileClerkSales", "poll192.txt", store::salestable::clerks,     itemFields, Numbering::ByBlock, RecordForm::Fixed,   false, 0, false},
 };
 // clang-format on
 
@@ -112,7 +112,7 @@ class Import
 public:
     Import(const PollFile& file, store::Recordset& records, const ApplicationValues& values, QDate collected);
 
-    void storeAll(TextValues& text);
+    [[nodiscard]] ImportedReport storeAll(TextValues& text);
 
 private:
     [[nodiscard]] QString placed(const QString& what) const;
@@ -141,7 +141,8 @@ private:
     std::int64_t m_itemId = 0;
     std::int64_t m_clerkId = 1;
     std::array<Value, std::size(pluFields)> m_values;
-    bool m_allZero = true;
+    bool m_allZero = true; ///< of the record
+    bool m_hasSales = false;
 };
 
 Import::Import(const PollFile& file, store::Recordset& records, const ApplicationValues& values,
@@ -159,12 +160,13 @@ Import::Import(const PollFile& file, store::Recordset& records, const Applicatio
         m_ordinals.at(at) = ordinal(file.fields[at]);
 }
 
-void Import::storeAll(TextValues& text)
+ImportedReport Import::storeAll(TextValues& text)
 {
     while (!text.atEnd()) {
         count();
         atPlace([this](const QString& what) { return placed(what); }, [&] { storeRecord(text); });
     }
+    return {m_record, m_hasSales};
 }
 
 QString Import::placed(const QString& what) const
@@ -176,6 +178,7 @@ void Import::storeRecord(TextValues& text)
 {
     needLayout();
     readValues(text);
+    m_hasSales = m_hasSales || !m_allZero;
     if (m_file.keepsZeros || !m_allZero)
         addRow();
 }
@@ -251,16 +254,17 @@ std::span<const PollFile> pollFiles()
     return readers;
 }
 
-void importPollFile(const PollFile& file, const ApplicationValues& values, QDate collected)
+ImportedReport importPollFile(const PollFile& file, store::Database& database,
+                              const ApplicationValues& values, QDate collected)
 {
-    store::Database database(values.databasePath);
     store::Transaction transaction(database);
     store::Recordset records = database.openTable(QLatin1StringView(file.table));
     const QByteArray content = readWholeFile(joinPath(values.appPath, QLatin1StringView(file.name)));
     TextValues text({content.constData(), static_cast<std::size_t>(content.size())});
-    Import(file, records, values, collected).storeAll(text);
+    const ImportedReport report = Import(file, records, values, collected).storeAll(text);
     addUpEndedMonths(database, QLatin1StringView(file.table), collected);
     transaction.commit();
+    return report;
 }
 
 } // namespace norvane::sales

@@ -7,6 +7,11 @@
 
 #include <span>
 
+namespace norvane::store
+{
+class Database;
+}
+
 namespace norvane::sales
 {
 
@@ -33,18 +38,26 @@ struct PollFile {
     RecordForm form;
     bool keepsZeros; ///< whether a record of nothing but zeros becomes a row
     int shift;       ///< places by which the point of a value moves to the right
+    bool mayBeEmpty; ///< whether a register can be set up without any of its items
+};
+
+/// What a report held.
+struct ImportedReport {
+    qint64 records = 0;
+    bool hasSales = false; ///< a record with a value other than 0
 };
 
 /// The five readers in the order in which a collection runs them.
 [[nodiscard]] std::span<const PollFile> pollFiles();
 
 /// Appends a row to the reader's table for each record of its file, dated @p collected: nothing in a file
-/// tells when its sales were made. All in one transaction, which stays when a failure ends it, so that the
-/// records ahead of a bad one are kept; a process that is killed leaves the table as it was. After a good end
-/// the months of the year before that still lack totals get them, see store/MonthTotals.h.
+/// tells when its sales were made. The rows ahead of a failure are there when it is thrown; a transaction of
+/// the caller decides what becomes of them. After a good end the months of the year before that still lack
+/// totals get them, see store/MonthTotals.h.
 /// @throws RuntimeFailure 53 when the file is missing; naming file and record 62 when the last record is
 /// short, 13 for a value that is empty or no number, 6 for one that is too large, 3163 for an item's code
 /// that is too long, 3314 at the first record when the PLU report's stamp fits no layout.
-void importPollFile(const PollFile& file, const ApplicationValues& values, QDate collected);
+ImportedReport importPollFile(const PollFile& file, store::Database& database,
+                              const ApplicationValues& values, QDate collected);
 
 } // namespace norvane::sales

@@ -78,6 +78,11 @@ public:
     Transaction& operator=(const Transaction&) = delete;
     /// Commits now and reports what goes wrong. @throws RuntimeFailure 61, 75, 3260 ...
     void commit();
+    /// Puts everything back as it was when the transaction began; for the outermost one only. Recordsets that
+    /// were opened since must be gone.
+    void rollBack();
+    /// Whether there is work that commit() would keep. A full disk ends a transaction by itself.
+    [[nodiscard]] bool isOpen() const;
 
 private:
     Database& m_database;

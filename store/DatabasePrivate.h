@@ -30,6 +30,8 @@ public:
     /// @return true when this was the outermost one and is to be committed.
     [[nodiscard]] bool endTransaction();
     void commit();
+    /// Whether the engine holds a transaction open.
+    [[nodiscard]] bool inTransaction() const;
     void rollBackQuietly() noexcept;
 
     /// Counts every row that this connection has changed.

@@ -28,10 +28,15 @@ bool Database::Private::endTransaction()
     return --m_depth == 0;
 }
 
+bool Database::Private::inTransaction() const
+{
+    return sqlite3_get_autocommit(connection()) == 0;
+}
+
 void Database::Private::commit()
 {
     // A full disk or a device fault can have ended the transaction already.
-    if (sqlite3_get_autocommit(connection()) != 0) {
+    if (!inTransaction()) {
         throw RuntimeFailure(Failure::DeviceIo,
                              u"The database %1 could not keep what was stored."_s.arg(m_path));
     }
@@ -41,7 +46,7 @@ void Database::Private::commit()
 
 void Database::Private::rollBackQuietly() noexcept
 {
-    if (sqlite3_get_autocommit(connection()) == 0)
+    if (inTransaction())
         sqlite3_exec(connection(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
@@ -74,6 +79,21 @@ void Transaction::commit()
         m_database.d->rollBackQuietly();
         throw;
     }
+}
+
+void Transaction::rollBack()
+{
+    if (!m_open)
+        return;
+    m_open = false;
+    [[maybe_unused]] const bool outermost = m_database.d->endTransaction();
+    Q_ASSERT(outermost);
+    m_database.d->rollBackQuietly();
+}
+
+bool Transaction::isOpen() const
+{
+    return m_open && m_database.d->inTransaction();
 }
 
 } // namespace norvane::store

@@ -5,6 +5,7 @@
 #include "base/SharedRoutines.h"
 #include "platform/FilePaths.h"
 #include "store/Database.h"
+#include "store/Recordset.h"
 #include "tests/support/ProgramFolder.h"
 #include "tests/support/RecordingBoxes.h"
 
@@ -59,6 +60,12 @@ public:
     [[nodiscard]] bool showsOnly(const char* text) const
     {
         return boxes.shown == std::vector{test::ShownBox{QLatin1String(text), u"Communication result"_s}};
+    }
+
+    [[nodiscard]] qint64 renamedGroups() const
+    {
+        store::Database database(values.databasePath);
+        return database.openQuery(u"select * from GROUPS where DESCRIPTION='Renamed'"_s).recordCount();
     }
 
     test::ProgramFolder folder;
@@ -226,6 +233,82 @@ TEST(ExchangeRunner, GoesByAnOldResultWhenTheToolLeavesNone)
     EXPECT_EQ(test::failureOf([&] { shop.upload({2}); }), 13);
     QFile::remove(status);
     EXPECT_EQ(test::failureOf([&] { shop.upload({2}); }), 53);
+}
+
+/// A step whose tool failed in silence.
+struct Doubt {
+    void (Exchange::*move)(const std::set<int>& wanted);
+    const char* fault;
+    const char* told; ///< what the question has to name
+};
+
+constexpr Doubt doubts[] = {
+    {&Exchange::upload, "Tool=convert\nCommand=u01\nResult=1", "convert did not write"},
+    {&Exchange::upload, "Tool=convert\nCommand=u01\nCrash=1", "convert crashed. It left:\r\r1.txt of "},
+    {&Exchange::upload, "Tool=convert\nCommand=u352\nResult=1", "52.txt of "},
+    {&Exchange::upload, "Command=fetch\nFile=1\nCrash=1", "1.dat of "},
+    {&Exchange::upload, "Command=fetch\nFile=1\nStatus=none", "status.out of "},
+    {&Exchange::upload, "Command=open\nCrash=1", "VELMARCOMM crashed"},
+    {&Exchange::download, "Tool=convert\nCommand=d01\nResult=1", "1.dat of "},
+    {&Exchange::download, "Command=send\nFile=1\nCrash=1", "VELMARCOMM crashed"},
+    {&Exchange::download, "Command=send\nFile=1\nStatus=none", "the registers may not have it"},
+};
+
+TEST(ExchangeRunner, AsksBeforeItUsesWhatAFailedToolLeft)
+{
+    Exchange shop(2);
+    shop.upload({2});
+    shop.download({2});
+    EXPECT_TRUE(shop.boxes.shown.empty()) << "nothing is asked in a good run";
+    const QByteArray groups = readWholeFile(shop.made(1));
+    for (const auto& [move, fault, told] : doubts) {
+        SCOPED_TRACE(fault);
+        store::Database(shop.values.databasePath)
+            .execute(u"update GROUPS set DESCRIPTION='Renamed' where GROUPNO=1"_s);
+        shop.folder.setFaults(QByteArray("[Doubt]\n") + fault + '\n');
+        shop.boxes.answers.clear();
+        (shop.*move)({2});
+        ASSERT_EQ(shop.boxes.shown.size(), 1U);
+        const test::ShownBox& asked = shop.boxes.shown[0];
+        EXPECT_TRUE(asked.text.contains(QLatin1StringView(told)) && asked.text.contains(u" old\r"))
+            << asked.text.toStdString();
+        EXPECT_EQ(asked, (test::ShownBox{asked.text, u"Please Check"_s, BoxIcon::Question, BoxAnswer::No}));
+        EXPECT_EQ(shop.ticks.ticked, std::set<int>{2});
+        EXPECT_EQ(shop.renamedGroups(), 1) << "nothing was imported";
+
+        shop.folder.setFaults(QByteArray("[Doubt]\n") + fault + '\n');
+        shop.boxes.answers.assign(5, true);
+        (shop.*move)({2});
+        EXPECT_TRUE(shop.ticks.ticked.empty()) << "Yes goes on";
+        EXPECT_EQ(shop.renamedGroups(), move == &Exchange::upload ? 0 : 1);
+        shop.folder.setFaults("");
+        writeWholeFile(shop.folder.registerFile(1, 1), groups);
+    }
+}
+
+/// The points of PLUs that were fetched without them are lost at the registers when they are sent.
+TEST(ExchangeRunner, AsksBeforeItSendsPlusWhosePointsWait)
+{
+    Exchange shop(2);
+    const QByteArray points = readWholeFile(shop.folder.registerFile(1, 71));
+    shop.folder.setFaults("[Off]\nCommand=fetch\nFile=71\nResult=8\n");
+    shop.upload({0});
+    EXPECT_EQ(shop.ticks.ticked, std::set<int>{36});
+    shop.folder.setFaults("");
+    for (const int box : {pluBox, pluPointsBox}) {
+        shop.download({box});
+        EXPECT_EQ(shop.ticks.ticked, std::set<int>{box});
+        EXPECT_EQ(shop.boxes.shown.size(), 1U);
+        EXPECT_EQ(readWholeFile(shop.folder.registerFile(1, 71)), points);
+    }
+    shop.boxes.answers = {true};
+    shop.download({pluBox});
+    EXPECT_TRUE(shop.ticks.ticked.empty());
+    EXPECT_NE(readWholeFile(shop.folder.registerFile(1, 71)), points);
+
+    shop.upload({0});
+    shop.download({0});
+    EXPECT_TRUE(shop.boxes.shown.empty());
 }
 
 TEST(ExchangeRunner, SendsNoFileOfAnotherCustomer)

@@ -71,7 +71,7 @@ TEST_F(FrmCommTest, ShowsItsBoxesInThreeColumnsUnticked)
         EXPECT_EQ(button(name).text(), QLatin1String(text));
 }
 
-TEST_F(FrmCommTest, NamesAToolThatIsMissingAndGoesByTheFormerResult)
+TEST_F(FrmCommTest, NamesAToolThatIsMissingAndAsksBeforeTheFormerResultCounts)
 {
     box(11).click();
     upload();
@@ -82,10 +82,18 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndGoesByTheFormerResult)
     folder.removeTool("VELMARCOMM");
     box(11).click();
     upload();
+    EXPECT_EQ(status(), "Ended at your answer No.");
+    EXPECT_TRUE(box(11).isChecked());
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].title, u"Please Check");
+    EXPECT_EQ(boxes.shown[0].preset, BoxAnswer::No);
+    EXPECT_TRUE(boxes.shown[0].text.startsWith(u"The program VELMARCOMM was not found."));
+
+    boxes.answers.assign(20, true);
+    upload();
     EXPECT_EQ(status(), "The program VELMARCOMM was not found.");
     EXPECT_EQ(readWholeFile(kept), bytes) << "the only copy stays when nothing came";
     EXPECT_FALSE(box(11).isChecked());
-    EXPECT_TRUE(boxes.shown.empty());
 }
 
 TEST_F(FrmCommTest, EndsTheFileInWorkWhenLeftInTheMidst)
@@ -111,6 +119,52 @@ TEST_F(FrmCommTest, StartsNothingWhileAnotherRunHoldsTheFolder)
     upload();
     EXPECT_FALSE(box(2).isChecked());
     EXPECT_EQ(boxes.shown.size(), 1U);
+}
+
+/// After an error, a failure that ends the program, and a run that leaves nothing.
+TEST_F(FrmCommTest, TellsAtTheNextOpeningWhatAnExchangeLeft)
+{
+    const auto reopen = [this] {
+        boxes.shown.clear();
+        form.hide();
+        form.show();
+    };
+    const std::pair<const char*, int> faults[] = {{"[Off]\nFile=9\nResult=8\n", 0},
+                                                  {"[Bad]\nFile=9\nStatus=garbage\n", 13}};
+    for (const auto& [fault, failure] : faults) {
+        for (const int index : {2, 4, 6})
+            box(index).setChecked(true);
+        folder.setFaults(fault);
+        upload();
+        const auto thrown = test::takeFailure();
+        EXPECT_EQ(thrown ? thrown->number() : 0, failure);
+        reopen();
+        ASSERT_EQ(boxes.shown.size(), 1U) << fault;
+        EXPECT_EQ(boxes.shown[0].title, u"Please Check");
+        EXPECT_TRUE(boxes.shown[0].text.startsWith(
+            u"The upload of %1 "_s.arg(QDate::currentDate().toString(u"dd/MM/yyyy"_s))));
+        EXPECT_TRUE(boxes.shown[0].text.contains(u"Still to do: All System Options, All Messages.\r"_s))
+            << boxes.shown[0].text.toStdString();
+    }
+    folder.setFaults("");
+    upload();
+    reopen();
+    EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(FrmCommTest, KeepsTheFormerCopyOfAFileThatComesEmpty)
+{
+    const QString kept = joinPath(values.customerPath, u"43.dat"_s);
+    QByteArray former;
+    for (const char* fault : {"", "[Cut]\nFile=43\nBytesLeft=0\n", "[Cut]\nFile=43\nBytesLeft=0\n"}) {
+        former = former.isEmpty() && pathExists(kept) ? readWholeFile(kept) : former;
+        folder.setFaults(fault);
+        box(11).setChecked(true);
+        upload();
+    }
+    EXPECT_FALSE(former.isEmpty());
+    EXPECT_EQ(readWholeFile(kept), QByteArray());
+    EXPECT_EQ(readWholeFile(kept + u".former"_s), former);
 }
 
 TEST_F(FrmCommTest, DialsExchangesAndHangsUp)

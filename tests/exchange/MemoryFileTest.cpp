@@ -25,7 +25,7 @@ protected:
         m_shop.converter = [this, text] {
             m_shop.folder.write("52.txt", text);
         };
-        FileMemory(m_shop.values, m_shop.boxes, m_shop.context().runCommand);
+        FileMemory(m_shop.context());
     }
     /// Compares the row with fields as "name=value", separated by blanks.
     void expectFields(const QString& expected) const
@@ -75,14 +75,17 @@ TEST_F(MemoryFileTest, ReplacesTheRowWhateverTheLinesAre)
     fileMemory(78, fullLine);
     fileMemory(78, "1,2\r\n\r\n");
     expectFields(u"PLU=0|0 Z1PLU=False|False"_s); // an empty line is a record too
-    std::string refusal;
-    try {
-        fileMemory(78, QByteArray(fullLine).replace(",45,12,", ",4x,12,"));
-    } catch (const RuntimeFailure& failure) {
-        refusal = failure.text().toStdString();
+    for (const bool keeps : {false, true}) {
+        m_shop.boxes.answers = {keeps};
+        std::string refusal;
+        try {
+            fileMemory(78, QByteArray(fullLine).replace(",45,12,", ",4x,12,"));
+        } catch (const RuntimeFailure& failure) {
+            refusal = failure.text().toStdString();
+        }
+        EXPECT_EQ(refusal.find("52.txt, line 1, column 25: Type mismatch"), 0U) << refusal;
+        EXPECT_EQ(m_shop.rows("memoryallocation"), keeps ? 0 : 2);
     }
-    EXPECT_EQ(refusal.find("52.txt, line 1, column 25: Type mismatch"), 0U) << refusal;
-    EXPECT_EQ(m_shop.rows("memoryallocation"), 0);
 }
 
 } // namespace

@@ -64,7 +64,8 @@ TEST(FileProceduresTest, SetsThePointsOfThePlusThatAreThere)
     EXPECT_EQ(shop.column("PLUDATA", "POINT1"), "null");
 }
 
-TEST(FileProceduresTest, KeepsWhatCameBeforeALineThatItRefuses)
+/// Of a table of three records the first two would be left, or none.
+TEST(FileProceduresTest, AsksWhatBecomesOfATextThatIsBadInTheMiddle)
 {
     const struct {
         QByteArray line;
@@ -75,14 +76,25 @@ TEST(FileProceduresTest, KeepsWhatCameBeforeALineThatItRefuses)
                  {plu(17), 3022, "67.txt, line 2: "}};
     for (const auto& [line, number, place] : cases) {
         Shop shop;
-        try {
-            shop.import(67, plu(17) + "\r\n" + line + "\r\n" + plu(19));
-            ADD_FAILURE() << line.toStdString();
-        } catch (const RuntimeFailure& failure) {
-            EXPECT_EQ(failure.number(), number);
-            EXPECT_TRUE(failure.text().startsWith(QLatin1String(place))) << failure.what();
+        shop.import(67, plu(1) + "\r\n" + plu(2) + "\r\n" + plu(3));
+        for (const bool keeps : {false, true}) {
+            shop.boxes.answers = {keeps};
+            try {
+                shop.import(67, plu(17) + "\r\n" + line + "\r\n" + plu(19));
+                ADD_FAILURE() << line.toStdString();
+            } catch (const RuntimeFailure& failure) {
+                EXPECT_EQ(failure.number(), number);
+                EXPECT_TRUE(failure.text().startsWith(QLatin1String(place))) << failure.what();
+            }
+            const auto& asked = shop.boxes.shown.back();
+            EXPECT_TRUE(asked.text.startsWith(QLatin1String(place)) && asked.text.contains(u"1 records") &&
+                        asked.text.contains(u"with 3 records"))
+                << asked.text.toStdString();
+            EXPECT_EQ(asked.title, u"Please Check");
+            EXPECT_EQ(asked.preset, BoxAnswer::No);
+            const auto former = (plu(1) + '|' + plu(2) + '|' + plu(3)).toStdString();
+            EXPECT_EQ(shop.column("PLUDATA", "PLUNUMBER"), keeps ? plu(17).toStdString() : former);
         }
-        EXPECT_EQ(shop.column("PLUDATA", "PLUNUMBER"), plu(17).toStdString());
     }
 }
 

@@ -80,8 +80,8 @@ public:
 
     [[nodiscard]] ProcedureContext context()
     {
-        return {values, boxes, [this](const QString& line) {
-                    commands << line;
+        return {values, boxes, [this](const Conversion& conversion) {
+                    commands << conversion.commandLine;
                     converter();
                     return true;
                 }};

@@ -17,6 +17,9 @@ namespace
 using test::ShownBox;
 
 const QString errorTitle = u"Communications Error"_s;
+const QString checkTitle = u"Please Check"_s;
+/// Rows of what ring() rings at two registers with 20 PLUs.
+constexpr qint64 rowsOfDay = 2 + 20 + 1 + 1 + 1;
 const char* const done = "Communications Successful....";
 
 constexpr std::pair<const char*, const char*> reports[] = {
@@ -41,14 +44,20 @@ class FrmsalesCommTest : public test::LinkFormTest<FrmsalesComm>
 protected:
     FrmsalesCommTest() : LinkFormTest(2, 20)
     {
+        ring();
+        EXPECT_FALSE(form.isModal()) << "the menus stay usable";
+    }
+
+    /// @p times the same sales.
+    void ring(int times = 1) const
+    {
         for (const char* totals : {"1/totals/", "2/totals/"}) {
             QDir().mkpath(bankPath(totals));
             for (const auto& [name, text] : reports)
                 writeWholeFile(bankPath(totals) + QLatin1String(name), text);
             writeWholeFile(bankPath(totals) + "192.txt"_L1,
-                           QByteArray("0,0\r\n").repeated(118) + "4,8.4\r\n");
+                           QByteArray("0,0\r\n").repeated(118) + QByteArray::number(times) + ",8.4\r\n");
         }
-        EXPECT_FALSE(form.isModal()) << "the menus stay usable";
     }
 
     /// @p faults of the tools, as a section of a faults.ini.
@@ -121,10 +130,88 @@ TEST_F(FrmsalesCommTest, EndsAtAResultThatIsNotAccepted)
         EXPECT_TRUE(registersHoldSales());
         EXPECT_TRUE(form.isVisible());
     }
+}
+
+TEST_F(FrmsalesCommTest, CollectsSalesThatWait)
+{
+    collect("Command=collect\nResult=8");
     collect("Command=consolidate\nResult=-14");
-    EXPECT_EQ(status(), done) << "as with the register's own -13: sales that wait are collected";
+    EXPECT_EQ(status(), done) << "as with the register's own -13";
     EXPECT_TRUE(boxes.shown.empty());
     EXPECT_FALSE(registersHoldSales());
+}
+
+/// A failed clear leaves the sales here and at the registers.
+TEST_F(FrmsalesCommTest, AsksBeforeItStoresTheSameSalesAgain)
+{
+    for (const bool again : {false, true}) {
+        collect("Command=clear\nResult=15");
+        const qint64 stored = rows();
+        boxes.answers = {again};
+        collect();
+        ASSERT_EQ(boxes.shown.size(), 1U);
+        const ShownBox& asked = boxes.shown[0];
+        EXPECT_TRUE(asked.text.contains(QDate::currentDate().toString(u"dd/MM/yyyy 'at' "_s)))
+            << asked.text.toStdString();
+        EXPECT_EQ(asked, (ShownBox{asked.text, checkTitle, BoxIcon::Question, BoxAnswer::No}));
+        EXPECT_EQ(status(), done);
+        EXPECT_FALSE(registersHoldSales());
+        EXPECT_EQ(rows(), again ? stored + rowsOfDay : stored);
+        ring(2);
+    }
+}
+
+/// A step whose tool failed in silence, behind a collection of the day before.
+struct Doubt {
+    const char* fault;
+    const char* told;
+    /// After a Yes: another one may follow, for sales that are stored already, whose No clears nothing.
+    std::size_t questions = 1;
+    bool staysAtRegisters = false; ///< after these
+};
+
+constexpr Doubt doubts[] = {
+    {"Tool=VELMARCOMM\nCommand=open\nCrash=1", "status.out of "},
+    {"Tool=VELMARCOMM\nCommand=collect\nCrash=1", "poll218.dll of ", 2, true},
+    {"Tool=VELMARCOMM\nCommand=collect\nStatus=none", "status.out of "},
+    {"Tool=convert\nCommand=S194\nResult=1", "only:\r\rPOLL194.txt of "},
+    {"Tool=convert\nCrash=1", "convert crashed. It left:\r\rPOLL190.txt of ", 2, true},
+    {"Tool=VELMARCOMM\nCommand=clear\nCrash=1", "end as successful", 1, true},
+    {"Tool=VELMARCOMM\nCommand=consolidate\nCrash=1", "VELMARCOMM crashed. It left:\r\rstatus.out of ", 1,
+     true},
+};
+
+TEST_F(FrmsalesCommTest, AsksBeforeItUsesWhatAFailedToolLeft)
+{
+    collect();
+    EXPECT_TRUE(boxes.shown.empty()) << "nothing is asked in a good run";
+    int day = 2;
+    for (const auto& [fault, told, questions, staysAtRegisters] : doubts) {
+        SCOPED_TRACE(fault);
+        const bool clears = QLatin1StringView(fault).contains("clear"_L1);
+        ring(day++);
+        const qint64 before = rows();
+        boxes.answers.clear();
+        collect(fault);
+        ASSERT_EQ(boxes.shown.size(), 1U);
+        const ShownBox& asked = boxes.shown[0];
+        EXPECT_TRUE(asked.text.contains(QLatin1StringView(told)) && asked.text.contains(u" old\r"))
+            << asked.text.toStdString();
+        EXPECT_EQ(asked, (ShownBox{asked.text, checkTitle, BoxIcon::Question, BoxAnswer::No}));
+        EXPECT_EQ(rows(), clears ? before + rowsOfDay : before);
+        EXPECT_TRUE(registersHoldSales());
+        EXPECT_TRUE(status().find(done) == std::string::npos) << status();
+        collect();
+
+        ring(day++);
+        boxes.answers = {true, false};
+        collect(fault);
+        EXPECT_EQ(boxes.shown.size(), questions);
+        EXPECT_EQ(registersHoldSales(), staysAtRegisters);
+        if (staysAtRegisters)
+            collect();
+        EXPECT_FALSE(registersHoldSales());
+    }
 }
 
 TEST_F(FrmsalesCommTest, StopsAtRegistersThatSendDescriptions)
@@ -144,17 +231,23 @@ TEST_F(FrmsalesCommTest, StopsAtRegistersThatSendDescriptions)
     }
 }
 
-/// The third of five imports fails: what came before stays, and the registers keep everything.
+/// The third of five imports fails: the user says whether what came before stays; the registers keep
+/// everything.
 TEST_F(FrmsalesCommTest, ClearsNothingAfterAFailedImport)
 {
-    writeWholeFile(folder.appFile(u"POLL191.txt"_s), "1,2\r\n3");
-    collect("Tool=convert\nCommand=S191\nResult=1");
-    const auto failure = test::takeFailure();
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->number(), 62);
-    EXPECT_TRUE(failure->text().contains(u"poll191.txt, record 2"_s)) << failure->what();
-    EXPECT_TRUE(registersHoldSales());
-    EXPECT_EQ(rows(), 2 + 20 + 1) << "financial lines, PLUs, time periods";
+    for (const bool keeps : {false, true}) {
+        writeWholeFile(folder.appFile(u"POLL191.txt"_s), "1,2\r\n3");
+        boxes.answers = {true, keeps};
+        collect("Tool=convert\nCommand=S191\nResult=1");
+        const auto failure = test::takeFailure();
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(failure->number(), 62);
+        EXPECT_TRUE(failure->text().contains(u"poll191.txt, record 2"_s)) << failure->what();
+        ASSERT_EQ(boxes.shown.size(), 2U);
+        EXPECT_TRUE(boxes.shown[1].text.startsWith(failure->text()));
+        EXPECT_TRUE(registersHoldSales());
+        EXPECT_EQ(rows(), keeps ? 2 + 20 + 1 : 0) << "financial lines, PLUs, time periods";
+    }
 }
 
 TEST_F(FrmsalesCommTest, EndsWithoutClearingWhenLeftInTheMidst)
@@ -174,6 +267,14 @@ TEST_F(FrmsalesCommTest, NamesAToolThatIsMissing)
 {
     collect();
     folder.removeTool("VELMARCOMM");
+    collect();
+    EXPECT_EQ(status(), "Get Memory    Ended at your answer No.");
+    // Nothing comes: each step of the tool is asked about, and then the sales that are stored already.
+    boxes.answers = {true, true, true, true, false};
+    collect();
+    EXPECT_EQ(boxes.shown.size(), 5U);
+    EXPECT_TRUE(boxes.shown.back().text.contains(u"leaves the sales at the registers"_s));
+    boxes.answers.assign(6, true);
     collect();
     EXPECT_EQ(status(), "Communications Successful....    The program VELMARCOMM was not found.");
 }

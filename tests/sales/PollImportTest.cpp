@@ -60,7 +60,8 @@ protected:
         m_folder.write("poll194.dll", QByteArray("RPT\x01", 4) + c.stamp);
         int failure = 0;
         try {
-            importPollFile(*file, m_values, QDate(2026, 11, 24));
+            store::Database database(m_values.databasePath);
+            importPollFile(*file, database, m_values, QDate(2026, 11, 24));
         } catch (const RuntimeFailure& thrown) {
             failure = thrown.number();
             EXPECT_TRUE(thrown.text().contains(QLatin1StringView(c.told))) << thrown.what();
@@ -139,7 +140,8 @@ TEST_F(PollImport, NamesTheFileThatIsMissing)
 {
     m_values.databasePath = m_folder.path("velmar.mdb");
     store::Database::create(m_values.databasePath, store::catalogue());
-    EXPECT_EQ(test::failureOf([this] { importPollFile(pollFiles().front(), m_values, {}); }), 53);
+    store::Database database(m_values.databasePath);
+    EXPECT_EQ(test::failureOf([&] { importPollFile(pollFiles().front(), database, m_values, {}); }), 53);
 }
 
 } // namespace

@@ -1,0 +1,34 @@
+// What an exchange that was cut off left undone, remembered in the customer's folder.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "platform/Boxes.h"
+
+#include <QDateTime>
+#include <QList>
+
+#include <optional>
+
+namespace norvane::exchange
+{
+
+enum class Direction { Upload, Download };
+
+/// An exchange that did not come to its end: a crash, a power cut, an error, or the user leaving.
+struct UnfinishedExchange {
+    Direction direction = Direction::Upload;
+    QDateTime started;
+    QList<int> boxes; ///< still to do
+};
+
+[[nodiscard]] std::optional<UnfinishedExchange> unfinishedExchange(const ApplicationValues& values);
+/// Remembers @p exchange in place of any other; one without boxes is finished and forgotten.
+void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exchange);
+/// Tells which boxes of the last exchange are still to do, and since when; nothing when there are none.
+void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes);
+
+/// Whether the PLUs were fetched and their points, which go with the former PLUs, were not fetched since.
+[[nodiscard]] bool pluPointsWait(const ApplicationValues& values);
+void notePluPointsWait(const ApplicationValues& values, bool wait);
+
+} // namespace norvane::exchange

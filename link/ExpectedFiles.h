@@ -1,0 +1,45 @@
+// Which files a step of an exchange was to write, and whether it did.
+#pragma once
+
+#include <QMap>
+#include <QStringList>
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+
+namespace norvane::link
+{
+
+/// The files that a step is to write, as they stood before it. That a file is there says nothing about
+/// whether this step wrote it: an old one looks the same. A file that was written a moment ago gets a time
+/// some seconds older, so that the same bytes written again at once can be told from no writing at all,
+/// however coarse the times of the file system are.
+class ExpectedFiles
+{
+public:
+    /// Notes files of the working directory; @p names meet without regard to case.
+    explicit ExpectedFiles(const QStringList& names);
+
+    [[nodiscard]] QStringList names() const { return m_before.keys(); }
+    /// Whether the file is there and was written since.
+    [[nodiscard]] bool wasWritten(const QString& name) const;
+    [[nodiscard]] bool allWritten() const;
+
+private:
+    struct State {
+        std::filesystem::file_time_type time;
+        std::uintmax_t size;
+        bool operator==(const State&) const = default;
+    };
+    [[nodiscard]] static std::optional<State> stateOf(const QString& name);
+    static void setTimeBack(const QString& name);
+
+    QMap<QString, std::optional<State>> m_before;
+};
+
+/// A file of the working directory with its age, in words for the user: "67.txt of 24/11/2026 18:03, 15 hours
+/// old", or "67.txt, which is not there".
+[[nodiscard]] QString fileAndAge(const QString& name);
+
+} // namespace norvane::link

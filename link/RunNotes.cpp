@@ -1,0 +1,45 @@
+// See RunNotes.h.
+#include "link/RunNotes.h"
+
+#include "platform/FilePaths.h"
+#include "platform/ProfileFile.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::link
+{
+namespace
+{
+
+constexpr auto registersSection = "Registers"_L1;
+constexpr auto pluCountKey = "PLUs"_L1;
+
+QString notesPath(const ApplicationValues& values)
+{
+    return joinPath(values.customerPath, u"exchange.ini"_s);
+}
+
+} // namespace
+
+QString readNote(const ApplicationValues& values, QLatin1StringView section, QLatin1StringView key)
+{
+    return ProfileFile(notesPath(values)).value(QString(section), QString(key));
+}
+
+void writeNote(const ApplicationValues& values, QLatin1StringView section, QLatin1StringView key,
+               const QString& value)
+{
+    ProfileFile::write(notesPath(values), section, key, value);
+}
+
+qint64 pluCountOfRegisters(const ApplicationValues& values)
+{
+    return readNote(values, registersSection, pluCountKey).toLongLong();
+}
+
+void notePluCountOfRegisters(const ApplicationValues& values, qint64 count)
+{
+    writeNote(values, registersSection, pluCountKey, QString::number(count));
+}
+
+} // namespace norvane::link

@@ -1,0 +1,69 @@
+// See WatchedStep.h.
+#include "link/WatchedStep.h"
+
+#include "base/LossQuestion.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::link
+{
+
+WatchedStep::WatchedStep(const RunOutside& outside, const QStringList& expected)
+    : m_outside(outside), m_expected(expected)
+{
+}
+
+void WatchedStep::run(const QString& commandLine)
+{
+    const ChildResult result = runTool(m_outside, commandLine);
+    if (m_result == ChildResult::Ended) {
+        m_result = result;
+        m_tool = commandWords(commandLine).value(0);
+    }
+}
+
+bool WatchedStep::isComplete() const
+{
+    return m_result == ChildResult::Ended && m_expected.allWritten();
+}
+
+bool WatchedStep::mayGoOn(const QString& consequence) const
+{
+    if (isComplete())
+        return true;
+    const QString question = u"%1\r\r%2\r\r%3\r\rGo on all the same?"_s.arg(
+        whatWentWrong(), doubtfulFiles().join(u'\r'), consequence);
+    const bool goesOn = askBeforeLoss(m_outside.boxes, question);
+    if (!goesOn)
+        m_outside.showNotice(u"Ended at your answer No."_s);
+    return goesOn;
+}
+
+QString WatchedStep::whatWentWrong() const
+{
+    switch (m_result) {
+    case ChildResult::Ended:
+        return u"The program %1 did not write what this step needs. There is only:"_s.arg(m_tool);
+    case ChildResult::Crashed:
+        return u"The program %1 crashed. It left:"_s.arg(m_tool);
+    case ChildResult::NotFound:
+    case ChildResult::NotStarted:
+        break;
+    }
+    return u"The program %1 was not found. There is only:"_s.arg(m_tool);
+}
+
+/// A crashed tool may have stopped in the midst of any of its files.
+QStringList WatchedStep::doubtfulFiles() const
+{
+    QStringList files;
+    for (const QString& name : m_expected.names()) {
+        if (!m_expected.wasWritten(name))
+            files << fileAndAge(name);
+        else if (m_result != ChildResult::Ended)
+            files << u"%1, which may be incomplete"_s.arg(name);
+    }
+    return files;
+}
+
+} // namespace norvane::link

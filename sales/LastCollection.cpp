@@ -1,0 +1,83 @@
+// See LastCollection.h.
+#include "sales/LastCollection.h"
+
+#include "link/RunNotes.h"
+#include "platform/FilePaths.h"
+#include "store/Database.h"
+#include "store/Recordset.h"
+#include "store/SalesTables.h"
+
+#include <QCryptographicHash>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::sales
+{
+namespace
+{
+
+constexpr auto section = "Collection"_L1;
+/// "2026-11-24T18:03:11 612 <mark>": one line, so that no half of it is ever taken for the whole.
+constexpr auto storedKey = "Stored"_L1;
+/// "118 320 24 10 3776": as many as there are reports.
+constexpr auto recordsKey = "Records"_L1;
+
+void readRecords(const ApplicationValues& values, LastCollection& last)
+{
+    const QStringList counts = link::readNote(values, section, recordsKey).split(u' ');
+    for (std::size_t report = 0; report < reportCount; ++report) {
+        bool isNumber = false;
+        const qint64 count = counts.value(static_cast<qsizetype>(report)).toLongLong(&isNumber);
+        last.records.at(report) = isNumber ? count : -1;
+    }
+}
+
+} // namespace
+
+LastCollection readLastCollection(const ApplicationValues& values)
+{
+    const QStringList words = link::readNote(values, section, storedKey).split(u' ');
+    LastCollection last;
+    last.stored = QDateTime::fromString(words.value(0), Qt::ISODate);
+    last.rowsOfDay = words.value(1).toLongLong();
+    last.mark = words.value(2).toLatin1();
+    readRecords(values, last);
+    return last;
+}
+
+void noteLastCollection(const ApplicationValues& values, const LastCollection& collection)
+{
+    const QStringList words{collection.stored.toString(Qt::ISODate), QString::number(collection.rowsOfDay),
+                            QString::fromLatin1(collection.mark)};
+    link::writeNote(values, section, storedKey, words.join(u' '));
+    QStringList counts;
+    for (const qint64 count : collection.records)
+        counts << QString::number(count);
+    link::writeNote(values, section, recordsKey, counts.join(u' '));
+}
+
+QByteArray markOfReports(const ApplicationValues& values)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (const PollFile& file : pollFiles()) {
+        const QByteArray text = readWholeFile(joinPath(values.appPath, QLatin1StringView(file.name)));
+        // The length parts one text from the next.
+        hash.addData(QByteArray::number(text.size()) + ':');
+        hash.addData(text);
+    }
+    return hash.result().toHex();
+}
+
+qint64 rowsOfDay(store::Database& database, QDate day)
+{
+    qint64 rows = 0;
+    for (const PollFile& file : pollFiles()) {
+        const QString count = u"select count(*) from %1 where %2 = #%3#"_s.arg(
+            QLatin1StringView(file.table), QLatin1StringView(store::salestable::day),
+            day.toString(u"M/d/yyyy"_s));
+        rows += database.openQuery(count).value(0).toText().toLongLong();
+    }
+    return rows;
+}
+
+} // namespace norvane::sales

@@ -1,0 +1,41 @@
+// What a customer's last collection was, remembered in the customer's folder for the next one.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "sales/PollImport.h"
+
+#include <QByteArray>
+#include <QDateTime>
+
+#include <array>
+
+namespace norvane::store
+{
+class Database;
+}
+
+namespace norvane::sales
+{
+
+inline constexpr std::size_t reportCount = 5;
+
+/// What was stored last, and how to know it again.
+struct LastCollection {
+    QByteArray mark; ///< of the five texts, empty before the first collection
+    QDateTime stored;
+    qint64 rowsOfDay = 0; ///< that the sales tables hold for that day, when it was stored
+    /// Records of each report in the order of pollFiles(); -1 when none is known.
+    std::array<qint64, reportCount> records{-1, -1, -1, -1, -1};
+};
+
+[[nodiscard]] LastCollection readLastCollection(const ApplicationValues& values);
+void noteLastCollection(const ApplicationValues& values, const LastCollection& collection);
+
+/// A mark of the five texts in the program's folder: the same only for the same bytes.
+/// @throws RuntimeFailure 53 when one is missing.
+[[nodiscard]] QByteArray markOfReports(const ApplicationValues& values);
+
+/// Rows of a day in all tables that a collection fills.
+[[nodiscard]] qint64 rowsOfDay(store::Database& database, QDate day);
+
+} // namespace norvane::sales

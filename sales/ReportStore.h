@@ -1,0 +1,31 @@
+// Stores the five collected reports as one, and asks before a day is stored short or twice.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "platform/Boxes.h"
+
+#include <QDate>
+
+namespace norvane::sales
+{
+
+/// Where the texts of a collection come from.
+enum class ReportOrigin {
+    ThisRun,
+    InDoubt, ///< a tool failed and the user went on: they may be older
+};
+
+enum class Stored {
+    Yes,
+    AlreadyThere, ///< the same reports were stored before, and not a second time
+    Refused,      ///< nothing was stored, and the registers must keep their sales
+};
+
+/// Imports the five reports, dated @p collected, in one transaction. Asks when a report holds fewer records
+/// than this customer's last one or none at all, and when all are byte for byte those that were stored last.
+/// When a failure ends it the user is asked whether what was read stays, see importOrPutBack().
+/// @throws what importPollFile() throws.
+[[nodiscard]] Stored storeReports(const ApplicationValues& values, Boxes& boxes, QDate collected,
+                                  ReportOrigin origin);
+
+} // namespace norvane::sales

@@ -1,0 +1,54 @@
+// Files on a real disk: which were written since they were noted.
+#include "link/ExpectedFiles.h"
+
+#include "platform/FilePaths.h"
+#include "tests/platform/TestFolder.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::link
+{
+namespace
+{
+
+TEST(ExpectedFiles, TellTheSameBytesWrittenAgainFromAnOldFile)
+{
+    const test::TestFolder folder;
+    const test::WorkingDirectory here(folder.path());
+    folder.write("STATUS.OUT", "0");
+    // Many times without a pause: one of them would share a tick of the clock with the writing before.
+    for (int round = 0; round < 50; ++round) {
+        const ExpectedFiles expected({u"status.out"_s, u"67.txt"_s});
+        EXPECT_FALSE(expected.wasWritten(u"status.out"_s));
+        if (round % 2 == 0)
+            folder.write("STATUS.OUT", "0");
+        else
+            writeWholeFile(u"status.out"_s, "0"); // by another file that takes its place
+        ASSERT_TRUE(expected.wasWritten(u"status.out"_s)) << round;
+        ASSERT_FALSE(expected.allWritten());
+        ASSERT_FALSE(expected.wasWritten(u"67.txt"_s));
+    }
+}
+
+TEST(ExpectedFiles, AreToldWithTheirAge)
+{
+    const test::TestFolder folder;
+    const test::WorkingDirectory here(folder.path());
+    constexpr std::pair<qint64, const char*> ages[] = {
+        {0, "less than a minute"}, {60, "1 minute"},        {59 * 60, "59 minutes"},
+        {3600, "1 hour"},          {47 * 3600, "47 hours"}, {48 * 3600, "2 days"},
+    };
+    for (const auto& [seconds, told] : ages) {
+        folder.write("67.TXT", "");
+        QFile file(folder.path("67.TXT"));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        const QDateTime written = QDateTime::currentDateTime().addSecs(-seconds);
+        ASSERT_TRUE(file.setFileTime(written, QFile::FileModificationTime));
+        EXPECT_EQ(fileAndAge(u"67.txt"_s), u"67.txt of %1, %2 old"_s.arg(
+                                               written.toString(u"dd/MM/yyyy HH:mm"_s), QLatin1String(told)));
+    }
+    EXPECT_EQ(fileAndAge(u"1.txt"_s), u"1.txt, which is not there"_s);
+}
+
+} // namespace
+} // namespace norvane::link
