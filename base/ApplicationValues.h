@@ -1,4 +1,4 @@
-// The application-wide values: where the program works and for which customer.
+// Where the program works and for which customer.
 #pragma once
 
 #include <QString>

@@ -12,7 +12,7 @@ namespace norvane
 namespace
 {
 
-/// Half of an odd rest goes to the left by half-even rounding.
+/// An odd rest is split by half-even rounding.
 void appendCentred(std::u16string& out, std::u16string_view text, std::size_t width)
 {
     text = trimBlanks(text);

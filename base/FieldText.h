@@ -1,6 +1,5 @@
-// The forms that a field's text takes in register records. The functions on views and strings work on the
-// registers' bytes as well as on UTF-16; records use them in bulk. The named routines on QString stand on
-// them.
+// How texts are written into register records. The functions on views and strings work on bytes and on
+// UTF-16, for bulk work; the named routines use them.
 #pragma once
 
 #include "platform/TextFields.h"
@@ -39,7 +38,7 @@ Text& UnescapeDelimiter(Text& text)
     return text;
 }
 
-/// Appends the trimmed @p text brought to @p width characters: zeros on the left, the rightmost kept.
+/// Appends the trimmed @p text in @p width characters: zeros on the left, the right end kept.
 template <typename Char>
 void appendZeroFilled(std::basic_string<Char>& out, std::type_identity_t<std::basic_string_view<Char>> text,
                       std::size_t width)
@@ -49,7 +48,7 @@ void appendZeroFilled(std::basic_string<Char>& out, std::type_identity_t<std::ba
     out.append(width - kept, '0').append(text, text.size() - kept, kept);
 }
 
-/// Appends the trimmed @p text brought to @p width characters: blanks on the right, the leftmost kept.
+/// Appends the trimmed @p text in @p width characters: blanks on the right, the left end kept.
 template <typename Char>
 void appendBlankFilled(std::basic_string<Char>& out, std::type_identity_t<std::basic_string_view<Char>> text,
                        std::size_t width)
@@ -67,14 +66,13 @@ template <typename Char>
     return text;
 }
 
-/// Replaces @p value (nothing counts as empty) by its trimmed text brought to @p width characters: mode 0
-/// zeros on the left and the rightmost kept, mode 1 blanks on the right and the leftmost kept, any other
-/// centred.
+/// Brings @p value, trimmed, to @p width characters. Mode 0: zeros on the left, the right end kept. Mode 1:
+/// blanks on the right, the left end kept. Any other: centred. A missing value counts as empty.
 /// @return the new value. @throws RuntimeFailure 5 when a centred value is longer than the width.
 QString JustifyField(std::optional<QString>& value, int width, int mode);
 
-/// Trims blanks and removes all leading zeros; a text of zeros only gives empty text. Changes @p text and
-/// returns it. Key links are read so; other numbers follow records::StripLeadingZero().
+/// Trims blanks and removes all leading zeros in @p text; zeros alone become empty text. For key links; other
+/// numbers use records::StripLeadingZero(). @return the new text.
 QString StripLeadingZero(QString& text);
 
 } // namespace norvane

@@ -1,4 +1,4 @@
-// The small routines that menus, exchange and text records share.
+// Small routines that menus, exchange and text records share.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -18,8 +18,7 @@ namespace norvane
 /// @throws RuntimeFailure 53 when the file is missing, 6 when it has 32,768 bytes or more.
 [[nodiscard]] int GetFirmwareGeneration(const ApplicationValues& values, Boxes& boxes);
 
-/// Whether a flag stands in an option digit. Position 3 is the register's own table row (3, 5, 7), no bit
-/// test.
+/// Whether a flag is set in an option digit. Position 3 is no bit: the register counts 3, 5 and 7.
 [[nodiscard]] constexpr bool DigitFlagSet(int digit, int position)
 {
     switch (position) {

@@ -233,7 +233,7 @@ BENCHMARK(openScreen)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv)
 {
-    // Widgets alone are measured; a screen would only add its own time to both sides.
+    // A real screen would add its own time to both sides.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     ui::applyAppearance(application);

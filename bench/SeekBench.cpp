@@ -1,4 +1,4 @@
-// Finding and walking among 100,000 PLUs beside the least that could do it: a prepared select that is kept.
+// Finding and walking among 100,000 PLUs, beside a prepared select.
 #include "bench/Ratio.h"
 #include "store/Catalogue.h"
 #include "store/Database.h"

@@ -1,5 +1,5 @@
-// The download plan. Order and letters differ from the upload's. The copies decide which binary file a later
-// step finds in either folder.
+// The download plan. Order and letters differ from the upload's. The copies decide which file a later step
+// finds.
 #include "exchange/ExchangePlan.h"
 
 namespace norvane::exchange

@@ -1,5 +1,4 @@
-// The exchange dialog: the user ticks what is to move between the customer's database and the registers, and
-// presses OK.
+// The exchange dialog: the user ticks what is to move between database and registers and presses OK.
 #pragma once
 
 #include "exchange/ExchangeBoxes.h"

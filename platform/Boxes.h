@@ -1,5 +1,5 @@
-// Message, question and input boxes as the program's logic knows them. The real boxes are in ui/; tests hand
-// in a recording implementation that answers as told.
+// The boxes that the program's logic shows. The real ones are in ui/; tests hand in boxes that answer as
+// told.
 #pragma once
 
 #include <QString>
@@ -11,7 +11,7 @@ enum class BoxIcon { None, Information, Exclamation, Question, Critical };
 /// The answer of a question box that Enter gives.
 enum class BoxAnswer { Yes, No };
 
-/// The program's own title, which a box without a title of its own carries.
+/// The title of a box that is given none.
 inline const QString& applicationTitle()
 {
     static const QString title = QStringLiteral("Norvane Velmar and Dorvik Utility.");
@@ -39,12 +39,12 @@ public:
     /// Asks @p text with Yes and No; closing the box counts as No. @return true for Yes.
     virtual bool ask(const QString& text, const QString& title, BoxIcon icon = BoxIcon::Question,
                      BoxAnswer preset = BoxAnswer::Yes) = 0;
-    /// Asks for a line of text. Cancel gives empty text, as an emptied box does.
+    /// Asks for a line of text. @return empty text for Cancel, as for an emptied box.
     virtual QString input(const QString& prompt, const QString& title, const QString& initial = {}) = 0;
     /// Asks for a file that exists. @return its path, empty for Cancel.
     virtual QString fileToOpen(const FileRequest& request) = 0;
-    /// Asks for the file to save to. One that exists is returned only when the user agreed, in a question box
-    /// that presets No, to replace it. @return its path, empty for Cancel.
+    /// Asks for the file to save to. Before an existing file is returned, the user is asked whether to
+    /// replace it; No is preset. @return its path, empty for Cancel.
     virtual QString fileToSave(const FileRequest& request) = 0;
     /// The platform's warning sound.
     virtual void beep() = 0;

@@ -13,8 +13,8 @@ namespace norvane
 /// Splits a command line at blanks; doubled blanks do not make empty words, a quoted word may hold blanks.
 [[nodiscard]] QStringList commandWords(const QString& commandLine);
 
-/// The program that a bare name stands for: in @p programFolder first, then the working directory, then the
-/// search path; without regard to case and, on a platform that wants one, with the platform's suffix.
+/// Looks for the program @p name in @p programFolder, then in the working directory, then on the search path.
+/// Case does not matter, and the platform's suffix is added.
 /// @return empty text when there is none.
 [[nodiscard]] QString findProgram(const QString& name, const QString& programFolder);
 

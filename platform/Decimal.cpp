@@ -45,7 +45,7 @@ std::int64_t multiplied(std::int64_t coefficient, int exponent)
     return coefficient * powerOfTen(exponent);
 }
 
-/// Zeros behind the last significant digit of a fraction, and leading ones, take no room.
+/// Leading zeros, and zeros that end a fraction, do not count as digits.
 std::string_view significant(std::string_view digits, int& scale)
 {
     const auto first = digits.find_first_not_of('0');
@@ -150,7 +150,7 @@ Decimal Decimal::rounded(int places) const
 
 Decimal Decimal::dividedBy(const Decimal& divisor, int digits) const
 {
-    // A remainder below 10^18 times ten still fits 64 bits without sign.
+    // The remainder is below 10^18, so ten times it fits 64 bits without sign.
     const auto by = static_cast<std::uint64_t>(std::abs(divisor.m_coefficient));
     const auto limit = static_cast<std::uint64_t>(powerOfTen(digits));
     auto quotient = static_cast<std::uint64_t>(std::abs(m_coefficient));
@@ -194,7 +194,7 @@ std::string Decimal::text() const
 
 double Decimal::toDouble() const
 {
-    // Both sides exact: one division gives the nearest double.
+    // Both are exact as doubles, so the quotient is the nearest double.
     if (m_scale >= 0 && m_scale <= exactDoublePower && std::abs(m_coefficient) <= exactDoubleLimit) {
         static constexpr std::array<double, exactDoublePower + 1> powers{
             1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,

@@ -1,4 +1,4 @@
-// Exact decimal numbers for money and other scaled values: no binary fraction ever stands in between.
+// Exact decimal numbers for money and other scaled values. No binary fraction is used.
 #pragma once
 
 #include <QString>
@@ -24,8 +24,7 @@ public:
     [[nodiscard]] static std::optional<Decimal> plain(std::string_view text);
     /// Reads a whole text such as "-12.340" (blanks around it allowed). @return nothing when it is no number.
     [[nodiscard]] static std::optional<Decimal> parse(std::string_view text);
-    /// The number that @p text begins with, blanks passed over; no number counts as 0 ("12abc" is 12, "x" is
-    /// 0).
+    /// The number that @p text begins with, blanks passed over: "12abc" is 12, and "x", which has none, is 0.
     [[nodiscard]] static Decimal leading(std::string_view text);
     /// The shortest decimal that stands for the binary @p number.
     [[nodiscard]] static Decimal fromDouble(double number);
@@ -33,7 +32,7 @@ public:
     [[nodiscard]] constexpr std::int64_t coefficient() const { return m_coefficient; }
     [[nodiscard]] constexpr int scale() const { return m_scale; }
 
-    /// Multiplies by 10^@p places (divides when negative) by moving the point.
+    /// Moves the point: multiplies by 10^@p places, divides when negative.
     [[nodiscard]] Decimal shifted(int places) const;
     /// Rounds to @p places behind the point, halves away from zero.
     [[nodiscard]] Decimal rounded(int places) const;

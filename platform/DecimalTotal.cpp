@@ -49,8 +49,8 @@ std::optional<std::int64_t> plainUnits(std::string_view text)
 
 } // namespace
 
-/// Every place that a double reaches, nine to a limb. A limb takes far more than its nine digits before it
-/// must hand on the rest, so that is done only when the total is read.
+/// Every digit that a double can reach, nine to a limb. A limb has room for far more than nine, so the carry
+/// waits until the total is read.
 class DecimalTotal::Places
 {
 public:

@@ -1,5 +1,4 @@
-// Adds to a failure where it happened. Whoever knows the place (a file's line, a screen's section) wraps the
-// work in atPlace(); nobody rethrows by hand.
+// Adds the place to a failure: the line of a file, the section of a screen. Nobody rethrows by hand.
 #pragma once
 
 #include "platform/RuntimeFailure.h"
@@ -9,8 +8,8 @@
 namespace norvane
 {
 
-/// Runs @p work. A failure that it throws keeps its number; its text becomes what @p explain makes of it,
-/// such as "67.txt, line 3: " and the text. @p explain is called only then, and takes the failure's text.
+/// Runs @p work. When it fails, the number stays and @p explain makes the new text from the old one, such as
+/// "67.txt, line 3: " and the text. @p explain is called only then.
 /// @return what @p work returns.
 template <typename Explain, typename Work>
 decltype(auto) atPlace(Explain&& explain, Work&& work)

@@ -24,7 +24,7 @@ QString entryOf(const QString& folder, const QString& name)
 {
     if (QFileInfo::exists(folder + name))
         return name;
-    // Sorted by name, so that of two such files it is always the same one that counts.
+    // Sorted, so that of two such files the same one is found each time.
     const auto entries = QDir(folder.isEmpty() ? QStringLiteral(".") : folder)
                              .entryList(QDir::AllEntries | QDir::Hidden | QDir::System, QDir::Name);
     for (const auto& entry : entries) {
@@ -57,7 +57,7 @@ QString pathOnDisk(const QString& path)
     return found;
 }
 
-/// Where a file of this name is or would be made: an existing folder counts without regard to case, too.
+/// Where a file of this name is or would be made. Folders are found without regard to case, too.
 QString pathForWriting(const QString& path)
 {
     if (pathExists(path))
@@ -114,12 +114,12 @@ QByteArray readWholeFile(const QString& path)
 
 void writeWholeFile(const QString& path, const QByteArray& content)
 {
-    // The new content stands complete beside the old one before it takes its place: the customer's copies of
-    // register files have no other source.
+    // Written beside the old file and then put in its place: there is no other copy of the customer's
+    // register files.
     QSaveFile file(pathForWriting(path));
     if (!file.open(QIODevice::WriteOnly))
         failAccess(path, file.errorString());
-    // A disk that fills up takes a part of the bytes without an error; only what was really written counts.
+    // A full disk takes part of the bytes and reports no error.
     if (file.write(content) != content.size() || !file.flush())
         file.cancelWriting();
     if (!file.commit()) {

@@ -1,5 +1,4 @@
-// File names that meet without regard to case, as the registers' tools spell them (Nmem.DAT, MEM.dat,
-// mem.dat).
+// File names without regard to case: the registers' tools write Nmem.DAT, MEM.dat and mem.dat.
 #pragma once
 
 #include <QString>
@@ -7,11 +6,11 @@
 namespace norvane
 {
 
-/// Joins with the platform's separator; @p name may begin with one, with "\" or with neither.
+/// Joins with the platform's separator. @p name may begin with "/", with "\" or with neither.
 [[nodiscard]] QString joinPath(const QString& folder, const QString& name);
 
-/// The existing file or folder that @p path names without regard to case, each part looked up on disk; an
-/// exact match wins. @return @p path itself, in the platform's form, when nothing matches.
+/// The file or folder that @p path names, each part found without regard to case; an exact match wins.
+/// @return @p path in the platform's form when there is none.
 [[nodiscard]] QString existingPath(const QString& path);
 
 /// True when @p path names an existing file or folder without regard to case.

@@ -1,5 +1,5 @@
-// The one place that knows what a number looks like as text: sign, digits, point, exponent. Numbers and
-// Decimal both stand on it, so that a setting, a screen and a price are read alike.
+// What a number looks like as text: sign, digits, point, exponent. Numbers and Decimal use it, so that a
+// setting, a screen and a price are read alike.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 namespace norvane
 {
 
-/// A number as its text gives it: digits / 10^scale, not yet held in any binary type.
+/// A number as it is written: digits / 10^scale.
 struct ScannedNumber {
     bool negative = false;
     std::string digits;     ///< all digits of the mantissa, the point left out
@@ -19,21 +19,21 @@ struct ScannedNumber {
     std::size_t length = 0; ///< how many characters of the text the number takes
 };
 
-/// Exponents beyond this are cut to it: far outside of every number type, near enough to reckon with.
+/// Larger exponents are cut to this: beyond every number type, and no sum of two overflows.
 inline constexpr int exponentLimit = 9999;
 
-/// The number that @p text begins with, no blanks passed over. The exponent letter is E or D; one without
-/// digits behind it is not part of the number. @return nothing when there is no digit.
+/// The number that @p text begins with, without blanks in front. The exponent letter is E or D and needs
+/// digits behind it.
+/// @return nothing when there is no digit.
 [[nodiscard]] std::optional<ScannedNumber> scanNumber(std::string_view text);
 
-/// The number that is the whole of @p text but for white space around it.
+/// The number that is all of @p text, white space around it allowed.
 [[nodiscard]] std::optional<ScannedNumber> scanWholeNumber(std::string_view text);
 
-/// The number that @p text begins with when its blanks, tabs and line feeds are passed over wherever they
-/// stand.
+/// The number that @p text begins with. Blanks, tabs and line feeds are passed over wherever they are.
 [[nodiscard]] std::optional<ScannedNumber> scanLeadingNumber(std::string_view text);
 
-/// The double next to a scanned number; one too small to hold is 0. @return nothing when it is too large.
+/// The nearest double; 0 when the number is too small for one. @return nothing when it is too large.
 [[nodiscard]] std::optional<double> toDouble(const ScannedNumber& number);
 
 /// The whole number that @p text spells with digits and at most a minus in front. Nearly all numbers are

@@ -16,7 +16,7 @@ namespace norvane
 namespace
 {
 
-/// A plain number text of a double has at most 309 digits before the point or some 340 characters behind it.
+/// A double has up to 309 digits before the point or some 340 characters behind it.
 constexpr std::size_t longestNumberText = 400;
 
 [[noreturn]] void failTypeMismatch(QStringView text)
@@ -30,7 +30,7 @@ constexpr std::size_t longestNumberText = 400;
     throw RuntimeFailure(Failure::Overflow, QStringLiteral("Overflow: %1").arg(excerpt(text)));
 }
 
-/// Only ASCII counts in a number; whatever else stands in the text ends it.
+/// A number is ASCII; any other character ends it.
 std::string bytesOf(QStringView text)
 {
     return text.toLatin1().toStdString();
@@ -132,7 +132,7 @@ int toWholeNumber(QStringView text, int bits)
 
 int roundHalfEven(double number)
 {
-    // The default rounding mode, which the program never changes, takes halves to the even neighbour.
+    // The default rounding mode, which the program never changes.
     const double rounded = std::nearbyint(number);
     if (!(rounded >= std::numeric_limits<int>::min() && rounded <= std::numeric_limits<int>::max()))
         failOverflow(numberText(number));

@@ -1,5 +1,5 @@
-// Numbers and texts by the former platform's conversion rules, on which settings, screens and text records
-// rest.
+// Numbers and texts by the conversion rules of the former platform. Settings, screens and text records use
+// them.
 #pragma once
 
 #include <QString>
@@ -19,17 +19,17 @@ namespace norvane
 /// Converts the whole text to a number (blanks around it allowed).
 /// @throws RuntimeFailure 13 when the text is no number, empty text included.
 [[nodiscard]] double toNumber(QStringView text);
-/// The same rounded to a whole number, halves to the even neighbour. @throws 13, and 6 outside @p bits (16 or
-/// 32).
+/// The same, rounded to a whole number, halves to the even neighbour.
+/// @throws 13, and 6 outside @p bits (16 or 32).
 [[nodiscard]] int toWholeNumber(QStringView text, int bits = 32);
 /// Rounds halves to the even neighbour. @throws 6 when it does not fit 32 bits.
 [[nodiscard]] int roundHalfEven(double number);
-/// "True"/"False" in any case, or a number of which any but 0 is true. @throws 13 for any other text.
+/// "True" or "False" in any case, or a number: all but 0 are true. @throws 13 for any other text.
 [[nodiscard]] bool toBoolean(QStringView text);
 
-/// Formats a number by a pattern of zeros with an optional point ("00", "0000", "0000.00"): at least so many
-/// digits before the point and exactly so many behind it, halves away from zero in decimal.
-/// Empty text stays empty. @throws RuntimeFailure 13 when @p text is neither empty nor a number.
+/// Formats a number by zeros with an optional point ("00", "0000.00"): at least so many digits before the
+/// point, exactly so many behind it, halves away from zero in decimal. Empty text stays empty.
+/// @throws RuntimeFailure 13 when @p text is neither empty nor a number.
 [[nodiscard]] QString formatNumber(QStringView text, QStringView pattern);
 
 } // namespace norvane

@@ -16,8 +16,8 @@ namespace
 
 constexpr char utf8Mark[] = "\xEF\xBB\xBF";
 
-/// The lines of a profile file, each with the line end that it has on disk, and what single lines mean.
-/// An editor that saves UTF-8 marks the file as such; all other files are Windows-1252.
+/// The lines of a profile file with their line ends. A file with the mark of UTF-8 is read as such, any other
+/// as Windows-1252.
 class ProfileLines
 {
 public:
@@ -42,7 +42,7 @@ public:
         return (m_isUtf8 ? QString::fromUtf8(m_lines[i]) : fromWindows1252(m_lines[i])).trimmed();
     }
 
-    /// Puts a line at @p i; the line before it gets its end if it was the last without one.
+    /// Puts a line at @p i. A last line without a line end gets one first.
     void insert(qsizetype i, const QString& text)
     {
         const QByteArray end = lineEnd();

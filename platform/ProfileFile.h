@@ -9,7 +9,7 @@
 namespace norvane
 {
 
-/// Longest value that a reader gets, in characters: the former readers' buffers, less the end mark.
+/// Longest value that a reader gets, in characters: the size of the former readers' buffers.
 inline constexpr int profileValueLimit = 144;
 inline constexpr int profileListLimit = 255;
 
@@ -36,7 +36,7 @@ public:
     static bool write(const QString& path, const QString& section, const QString& key, const QString& value);
 
 private:
-    /// Finds names without regard to case and without a copy of them: a screen asks for a thousand keys.
+    /// Finds names without regard to case and without copying them: a screen asks for a thousand keys.
     struct CaseBlind {
         using is_transparent = void;
         std::size_t operator()(QStringView name) const;

@@ -100,7 +100,7 @@ private:
         return chosen.isEmpty() ? platformDevice(m_number) : chosen;
     }
 
-    /// A line that has no such setting (a pseudo terminal, some adapters) refuses it and works all the same.
+    /// A pseudo terminal and some adapters lack a setting; they refuse it and work without.
     void applySettings()
     {
         const auto words = m_settings.split(u',');
@@ -112,7 +112,7 @@ private:
         m_port.setStopBits(words[3] == u"2" ? QSerialPort::TwoStop : QSerialPort::OneStop);
     }
 
-    /// No event loop runs while the program waits for the modem, so the port has to be asked.
+    /// No events are handled while the program waits for the modem, so the port must be asked.
     void poll()
     {
         if (isOpen())

@@ -1,5 +1,5 @@
-// The one exception of the program: a failure with the number and text of the former platform's run-time
-// messages. Lower layers throw it; only the outermost handler shows it and ends the program.
+// The one exception of the program, with number and text of the former platform's run-time messages. The
+// outermost handler shows it and ends the program.
 #pragma once
 
 #include <QString>
@@ -35,8 +35,7 @@ enum class Failure {
     Conversion = 3421,
 };
 
-/// A failure that nothing below the outermost handler may pass over silently. Where the system catches
-/// failures, it catches this type and looks at the number.
+/// A failure that ends the program unless a caller is made to deal with it.
 class RuntimeFailure : public std::runtime_error
 {
 public:

@@ -1,4 +1,4 @@
-// The serial line to the modem, with just the operations that dialling and hanging up need.
+// The serial line to the modem: what dialling and hanging up need.
 #pragma once
 
 #include <QString>
@@ -19,13 +19,13 @@ public:
 
     /// @p settings is speed and frame, as "9600,N,8,1".
     virtual void setSettings(const QString& settings) = 0;
-    /// @p number counts from 1. Which device a number stands for is the platform's matter.
+    /// @p number counts from 1. The platform says which device it is.
     virtual void setPort(int number) = 0;
     [[nodiscard]] virtual bool isOpen() const = 0;
     /// @return false when the port cannot be opened.
     virtual bool open() = 0;
     virtual void close() = 0;
-    /// Number of bytes that have come in and were not yet taken.
+    /// Bytes that have come in and were not taken yet.
     [[nodiscard]] virtual int inputCount() = 0;
     virtual void clearInput() = 0;
     /// Sends @p text as single bytes. @return false when the port is closed or refuses.
@@ -34,8 +34,8 @@ public:
     virtual QString takeInput() = 0;
 };
 
-/// The real line on the machine's serial ports. @p deviceOfPort overrides the platform's device names for
-/// ports 1, 2, ... (a test's pseudo terminal, a dealer's USB adapter); empty entries keep the platform's.
+/// The machine's serial ports. @p deviceOfPort names the devices of ports 1, 2, ... (a test's pseudo
+/// terminal, a dealer's USB adapter); for empty entries the platform's names are used.
 [[nodiscard]] std::unique_ptr<SerialLine> makeSerialLine(const QStringList& deviceOfPort = {});
 
 } // namespace norvane

@@ -1,5 +1,4 @@
-// Trimming of text fields. A field's own blank is the space alone: a tab or a no-break space is a character
-// that a register prints, and is kept.
+// Trimming of text fields. Only spaces go: a register prints tabs and no-break spaces as characters.
 #pragma once
 
 #include <QString>
@@ -9,7 +8,7 @@
 namespace norvane
 {
 
-/// @p text without the spaces at both ends; no other white space goes.
+/// @p text without the spaces at both ends.
 template <typename Char>
 [[nodiscard]] constexpr std::basic_string_view<Char> trimBlanks(std::basic_string_view<Char> text)
 {
@@ -26,7 +25,7 @@ template <typename Char>
     return trimBlanks<char>(text);
 }
 
-/// The same for a text of the screens and the database.
+/// The same for texts of the screens and the database.
 [[nodiscard]] inline QStringView trimBlanks(QStringView text)
 {
     return trimBlanks(std::u16string_view(text.utf16(), static_cast<std::size_t>(text.size())));

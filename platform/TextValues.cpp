@@ -1,4 +1,4 @@
-// Cuts a text into its values; see TextValues.h. A report of all PLUs holds close to a million of them.
+// Cuts a text into its values; see TextValues.h. A report of all PLUs holds nearly a million.
 #include "platform/TextValues.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@ namespace norvane
 namespace
 {
 
-/// Ends a text file for tools that know no file length.
+/// Ends a text file for tools that do not know its length.
 constexpr char endMark = '\x1A';
 constexpr std::string_view whiteSpace = " \t\r\n";
 constexpr std::string_view endOfText = " \t\r\n\x1A";
@@ -32,8 +32,8 @@ bool isSeparator(char c)
     return c == ',' || c == '\r' || c == '\n';
 }
 
-/// Where the first value of @p text ends. A comma between quotes is part of the value; an opening quote
-/// without a closing one takes the rest of the text.
+/// Where the first value of @p text ends. Commas between quotes belong to the value; a quote that is never
+/// closed takes the rest.
 std::size_t endOfValue(std::string_view text)
 {
     std::size_t from = 0;

@@ -1,4 +1,4 @@
-// Texts that the external tools leave: values between commas and line ends, with no regard to lines.
+// Texts that the external tools leave: values between commas and line ends.
 #pragma once
 
 #include <optional>

@@ -9,7 +9,7 @@ namespace norvane
 namespace
 {
 
-/// Characters of the bytes 80 to 9F; all others stand for the Unicode character of their own number.
+/// The characters of bytes 80 to 9F. Every other byte is the Unicode character of its number.
 constexpr std::array<char16_t, 32> upperControls{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -37,7 +37,7 @@ bool isAscii(char byte)
     return static_cast<unsigned char>(byte) < 0x80;
 }
 
-/// For the characters of the registers, none of which takes more than three bytes.
+/// The registers' characters take three bytes at most.
 void appendUtf8(std::string& out, char32_t character)
 {
     if (character < 0x80) {
@@ -75,7 +75,7 @@ bool isContinuation(unsigned char byte)
     return (byte & 0xC0u) == 0x80;
 }
 
-/// Decodes one character of two or three bytes, all that a register's character takes.
+/// The character of two or three bytes; a register has no longer ones.
 /// @return 0 when the bytes are anything else.
 char32_t shortCharacter(std::string_view utf8)
 {

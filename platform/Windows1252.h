@@ -1,5 +1,4 @@
-// The registers' character set: one byte a character, Windows-1252. The database and the screens hold
-// Unicode.
+// The registers' character set is Windows-1252, one byte a character. Database and screens use Unicode.
 #pragma once
 
 #include <QByteArray>
@@ -11,14 +10,13 @@
 namespace norvane
 {
 
-/// The five bytes without a character (81 8D 8F 90 9D) stand for the control characters of the same number,
-/// so that every byte comes back as it was.
+/// Bytes without a character (81 8D 8F 90 9D) become the control character of their number, so that every
+/// byte comes back as it was.
 [[nodiscard]] QString fromWindows1252(QByteArrayView bytes);
-/// Characters outside Windows-1252 become "?", one for each Unicode character.
+/// A character that is not in Windows-1252 becomes one "?".
 [[nodiscard]] QByteArray toWindows1252(QStringView text);
 
-/// The same between register bytes and UTF-8, appended to @p out; for bulk work, without a QString in
-/// between.
+/// The same from register bytes to UTF-8 and back, appended to @p out: for bulk work.
 void appendUtf8FromWindows1252(std::string& out, std::string_view bytes);
 void appendWindows1252FromUtf8(std::string& out, std::string_view utf8);
 

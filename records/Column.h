@@ -1,6 +1,5 @@
-// One column of a register record: a type for each form that a column can have. Each type offers only the
-// words that make sense for it; what a register file does differently in one direction is said by such a
-// word.
+// One column of a register record: a type for each form, with the words that make sense for it. A word also
+// says what differs in one direction.
 #pragma once
 
 #include "records/OptionDigits.h"
@@ -14,7 +13,7 @@
 namespace norvane::records
 {
 
-/// A number that the register and the table name differently.
+/// A value that register and table name differently.
 struct CodeWord {
     std::string answered; ///< by the register, without leading zeros
     std::string stored;
@@ -28,7 +27,7 @@ struct ScaledColumn {
     int scale = 0;        ///< places behind the point
     bool leading = false; ///< only the number in front is read
 
-    /// Read, the number is the one that the text begins with; a text that begins with none is 0.
+    /// Read, only the number at the beginning counts; without one it is 0.
     [[nodiscard]] ScaledColumn byLeadingNumber() const;
 };
 
@@ -39,7 +38,7 @@ struct CodeColumn {
     std::vector<CodeWord> words;
 };
 
-/// A number that stands in the first places of its column, zeros behind, while another field holds a kind.
+/// A number at the left end of its column, zeros behind it, while another field holds a certain kind.
 struct LeftBoundColumn {
     std::size_t width = 0;
     std::string field;
@@ -95,14 +94,14 @@ struct TextColumn {
     int firstWithheld = 0;
     std::vector<std::string> withheldTexts{}; ///< of the record firstWithheld and those behind it
 
-    /// A record without a name gets @p text and the line number, cut to the field.
+    /// A record without a name is named @p text and the line number, cut to the field.
     [[nodiscard]] TextColumn namedByDefault(const char* text) const;
-    /// Its leading zeros go when it is read; one without anything left is "0".
+    /// Read without its leading zeros; "0" when nothing is left.
     [[nodiscard]] TextColumn strippedOfZeros() const;
     /// "^" goes to the register as it is.
     [[nodiscard]] TextColumn keepingMarks() const;
-    /// Newer firmware does not get the texts of the records from @p first on. It gets the default text, of
-    /// @p texts, of the last record without one in this download, blanks before the first such record.
+    /// Newer firmware gets no texts from record @p first on, but the default text, of @p texts, of the last
+    /// record without one. Before the first such record it gets blanks.
     [[nodiscard]] TextColumn withheldFrom(int first, std::vector<std::string> texts) const;
 };
 
@@ -118,8 +117,8 @@ struct OptionsColumn {
     bool isBare = false;
     std::string numberField{}; ///< read as a number into this field; empty when the digits are read
 
-    /// Read, only the first character after the leading zeros counts, and only the digits of exactly one
-    /// choice, 4 and 2. It is the left digit.
+    /// Read, only the first character behind the leading zeros counts, and only 4 and 2. It is the left
+    /// digit.
     [[nodiscard]] OptionsColumn firstCharacterOnly() const;
     /// Sent as the number that they make, without a leading zero.
     [[nodiscard]] OptionsColumn bare() const;
@@ -139,8 +138,7 @@ struct HexByteColumn {
     std::size_t place = 0; ///< of the byte, from 0
 };
 
-/// Two characters of a number that is sent in several columns. Read, the pieces are joined again; the one at
-/// place 0 begins.
+/// Two characters of a number that is sent in several columns. Read, the pieces are joined, from place 0 on.
 struct PieceColumn {
     std::string field;
     std::string pattern; ///< to which the number is brought
@@ -151,7 +149,7 @@ struct PieceColumn {
     [[nodiscard]] PieceColumn joinedBy(const char* between) const;
 };
 
-/// Room for later options of the register: the same zeros in every record, never read.
+/// Room for later options of the register: always zeros, never read.
 struct SpareColumn {
     std::size_t zeros = 0;
 };

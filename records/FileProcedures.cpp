@@ -23,7 +23,7 @@ namespace norvane::records
 namespace
 {
 
-/// The text goes to the file in blocks of this size.
+/// The file is written in blocks of this size.
 constexpr std::size_t writeBlock = std::size_t{64} * 1024;
 
 QString textName(const RegisterFile& file)
@@ -82,7 +82,7 @@ private:
                 [&] { (this->*store)(line, number); });
     }
 
-    /// Where a failure came up, in words for the user. A record that could not be stored has no column.
+    /// Where a failure happened, for the user. A record that could not be stored has no column.
     [[nodiscard]] QString placeOf(qint64 line) const
     {
         const QString place = u"%1, line %2"_s.arg(textName(m_file)).arg(line);
@@ -113,7 +113,7 @@ private:
     qint64 m_stored = 0;
 };
 
-/// The text file of a download, opened for output and thereby emptied.
+/// The text file of a download; opening empties it.
 class TextOutput
 {
 public:
@@ -171,7 +171,7 @@ void importText(const RegisterFile& file, store::Database& database, ImportCount
 {
     store::Recordset records = database.openTable(QLatin1String(file.table));
     records.setIndex(QLatin1String(file.index));
-    // The table goes before the text is looked for: without a text it stays empty.
+    // The table is emptied before the text is looked for: without a text it stays empty.
     if (file.upload == Upload::ReplacesTable)
         counts.former = database.execute(u"delete * from %1"_s.arg(QLatin1String(file.table)));
     const QByteArray content = readWholeFile(textName(file));

@@ -1,5 +1,4 @@
-// The records behind the keys of a register: function keys, key links, look-ups, recipes, card categories and
-// the hot list.
+// The records of function keys, key links, look-ups, recipes, card categories and the hot list.
 #include "records/RecordLayouts.h"
 
 namespace norvane::records
@@ -7,7 +6,7 @@ namespace norvane::records
 namespace
 {
 
-/// First of the function keys whose texts newer firmware keeps to itself.
+/// Newer firmware keeps the texts of the function keys from here on.
 constexpr int firstCardKey = 257;
 
 /// The columns of a function key up to its first flag, and those of its other flags.
@@ -29,7 +28,7 @@ std::vector<ColumnGroup> functionKeyColumns(const std::vector<ColumnGroup>& flag
 
 // clang-format off
 
-/// File 2. Some keys hold a number instead of flags, in the room of the second flag and those behind it.
+/// File 2. Some keys hold a number instead of the second and later flags.
 const RecordLayout& functionKeyLayout()
 {
     static const ColumnSet wholeNumbers{{258, 259}, functionKeyColumns({
@@ -44,7 +43,7 @@ const RecordLayout& functionKeyLayout()
     return layout;
 }
 
-/// File 16. No key and key 271 have numbers of their own in the register.
+/// File 16. No key and key 271 have their own numbers.
 const RecordLayout& keyLinkLayout()
 {
     static const RecordLayout layout{"ID", {
@@ -60,7 +59,7 @@ const RecordLayout& numberLookUpLayout()
     return layout;
 }
 
-/// File 57. An entry of type 2 is a function, whose short number stands at the left end of its column.
+/// File 57. An entry of type 2 is a function; its short number stands at the left.
 const RecordLayout& windowLookUpLayout()
 {
     static const RecordLayout layout{"WLUno", {
@@ -75,8 +74,8 @@ const RecordLayout& windowLookUpLayout()
     return layout;
 }
 
-/// File 60. An item's kind comes back as 1 when it was 2, and as 0 when it was 1; the register is told the
-/// item where it expects the quantity.
+/// File 60. A kind of 2 comes back as 1, and 1 as 0; the item is sent where the register expects the
+/// quantity.
 const RecordLayout& recipeLayout()
 {
     static const RecordLayout layout{"recipeno", {

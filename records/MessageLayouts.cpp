@@ -1,5 +1,4 @@
-// The records of messages and descriptors: what the register prints at the head and foot of its papers, and
-// the texts of its errors and reports.
+// The records of messages and descriptors: head and foot of the papers, texts of errors and reports.
 #include "records/RecordLayouts.h"
 
 namespace norvane::records
@@ -30,7 +29,7 @@ RecordLayout receiptMessageLayout()
 
 } // namespace
 
-/// File 19. The register's own words, which it never takes back.
+/// File 19. The register's own words; it never takes them back.
 const RecordLayout& systemDescriptorLayout()
 {
     static const RecordLayout layout{"ID", {text(descriptorWidth, "SYSTEMDESCRIPTORS")}};

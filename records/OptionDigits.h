@@ -1,4 +1,4 @@
-// The flags and small values that a register packs into its option digits.
+// The flags and small values in the register's option digits.
 #pragma once
 
 #include <string>
@@ -7,23 +7,22 @@
 namespace norvane::records
 {
 
-/// One value that a small field may hold inside an option digit. A weight of 0 writes nothing, a selector of
-/// 0 is never found.
+/// A value of a small field inside an option digit. Weight 0 writes nothing, selector 0 is never found.
 struct DigitChoice {
     int value = 0;
     int weight = 0;   ///< added to the digit when the field holds the value
     int selector = 0; ///< place that DigitFlagSet() is asked for when the digit is read
 };
 
-/// One flag or small value inside an option digit. A flag is written when its field is true. A number is
-/// written by the first choice that it equals; read, the first choice found gives its value, else it is 0.
+/// A flag or small value inside an option digit. A true flag adds its weight. A number is written by the
+/// first choice equal to it; read, the first choice found gives its value, else 0.
 class DigitPart
 {
 public:
     DigitPart(int weight, const char* field);
     DigitPart(const char* field, std::vector<DigitChoice> choices);
 
-    /// The register answers at another place than the one that it is told.
+    /// The register answers at another place.
     [[nodiscard]] DigitPart readBy(int selector) const;
     /// The answer goes into another field than the one that is sent.
     [[nodiscard]] DigitPart readInto(const char* field) const;
@@ -53,7 +52,7 @@ public:
     bool fromRightDigit = false;
 };
 
-/// A two-way or three-way value that is kept as a number: 2 as weight 4, 1 as weight 2, 0 as nothing.
+/// A two-way or three-way value kept as a number: 2 has weight 4, 1 has weight 2, 0 none.
 [[nodiscard]] DigitPart threeWay(const char* field);
 /// A yes/no option whose field is a number, 1 or 0.
 [[nodiscard]] DigitPart numberFlag(int weight, const char* field);

@@ -34,8 +34,8 @@ const RecordLayout& validationLayout()
     return layout;
 }
 
-/// File 11. A receipt after an interrupt is always asked for, and the way the date is printed is the
-/// register's own: it is only ever read.
+/// File 11. A receipt after an interrupt is always sent as wanted. The form of the date is the register's own
+/// and only read.
 const RecordLayout& generalPrintLayout()
 {
     static const RecordLayout layout{"ID", {
@@ -102,7 +102,7 @@ const RecordLayout& timeKeepingLayout()
     return layout;
 }
 
-/// File 36. Two options of the register overwrite, on their way in, options of the column before them.
+/// File 36. Two options overwrite, when read, options of the column before them.
 const RecordLayout& journalDetailLayout()
 {
     static const RecordLayout layout{"ID", {

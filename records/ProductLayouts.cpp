@@ -1,5 +1,4 @@
-// The records of what a shop sells: PLUs with their points, PLU status groups, department groups, product mix
-// and mix-and-match offers.
+// The records of what a shop sells: PLUs and points, PLU status groups, groups, product mix, mix and match.
 #include "records/RecordLayouts.h"
 
 namespace norvane::records
@@ -18,7 +17,7 @@ const RecordLayout& groupLayout()
     return layout;
 }
 
-/// File 58. Reports name a mix group by its text, so none goes without.
+/// File 58. Reports name a mix group by its text, so each must have one.
 const RecordLayout& productMixLayout()
 {
     static const RecordLayout layout{"PRODUCTNO", {
@@ -29,8 +28,7 @@ const RecordLayout& productMixLayout()
     return layout;
 }
 
-/// File 65. The register answers the grill number of the twelfth column into the grill flag of the ninth; the
-/// number itself is only ever sent.
+/// File 65. The grill number of column 12 is read into the grill flag of column 9; it is only sent.
 const RecordLayout& pluStatusLayout()
 {
     static const RecordLayout layout{"STATUSNO", {
@@ -55,7 +53,7 @@ const RecordLayout& pluStatusLayout()
     return layout;
 }
 
-/// File 67. A price without a level would never be charged, so level n is sent where the table holds none.
+/// File 67. A price without a level is never charged, so level n is sent where the table has none.
 const RecordLayout& pluLayout()
 {
     static const RecordLayout layout{"", {
@@ -96,7 +94,7 @@ const RecordLayout& mixAndMatchLayout()
     return layout;
 }
 
-/// File 71. The first column is the key by which the PLU is found.
+/// File 71. The first column is the PLU's number.
 const RecordLayout& pluPointsLayout()
 {
     static const RecordLayout layout{"", {

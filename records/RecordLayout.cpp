@@ -14,7 +14,7 @@ void numberName(std::string& name, int number)
         name.replace(star, 1, std::to_string(number));
 }
 
-/// Puts the number into all fields' names that the form has.
+/// Puts the number into the names of all fields of the form.
 template <typename Form>
 void numberFields(Form& column, int number)
 {

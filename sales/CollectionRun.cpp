@@ -18,10 +18,10 @@ namespace norvane::sales
 namespace
 {
 
-/// The reports in the order in which they are collected and made into text.
+/// The reports in the order of collection.
 constexpr int reports[] = {190, 191, 192, 194, 218};
 
-/// Results of the consolidation that mean: sales were consolidated before and wait to be collected.
+/// Results of the consolidation: sales of an earlier consolidation wait to be collected.
 constexpr int waitingResults[] = {-13, -14};
 
 constexpr const char* asIfAnswered = "The collection would go on as if a register had answered.";
@@ -132,8 +132,7 @@ std::optional<int> CollectionRun::fetchReports()
     return std::nullopt;
 }
 
-/// Follows the import at once: only a failure may come between, because a repeated import adds the same
-/// sales again.
+/// Directly after the import: until the registers are cleared, another import would add the same sales again.
 std::optional<int> CollectionRun::clearRegisters()
 {
     const auto failed = runStep(clearing);

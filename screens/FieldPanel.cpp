@@ -44,7 +44,7 @@ struct Template {
     double height;
 };
 
-/// In the order of ControlKind. The first label is the template itself; the other arrays keep theirs unused.
+/// In the order of ControlKind. The first label is the template itself; the other templates stay unused.
 constexpr std::array<Template, 8> templates{{
     {"FindControl", 1, findButtonWidth, controlHeight},
     {"CheckControl", 1, 2400, checkHeight},
@@ -61,7 +61,7 @@ const Template& templateOf(ControlKind kind)
     return templates[static_cast<std::size_t>(kind)];
 }
 
-/// A read-only box looks like the form, so that nobody tries to type into it.
+/// A read-only box looks like the form, so nobody tries to type into it.
 void makeReadOnly(QLineEdit& box)
 {
     box.setReadOnly(true);
@@ -101,7 +101,7 @@ QVector<int> listWidths(const QString& text)
     return widths;
 }
 
-/// Where a control without a tab index of its own comes: behind all others.
+/// The place of a control without a tab index: last.
 int tabPlace(const ControlDefinition& definition)
 {
     return definition.tabIndex.value_or(std::numeric_limits<int>::max());
@@ -112,7 +112,7 @@ bool isBound(const ControlDefinition& definition)
     return !definition.dataField.trimmed().isEmpty();
 }
 
-/// Whether a user comes to the screen for this control: it is in view and takes an entry.
+/// Whether the user can use this control: it is in view and takes an entry.
 bool isEditable(const ControlDefinition& definition, const QWidget& widget)
 {
     return definition.kind != ControlKind::Label && definition.kind != ControlKind::Find &&
@@ -243,7 +243,7 @@ void FieldPanel::place(const ControlDefinition& definition, QWidget& widget)
     widget.setGeometry(pixels(definition.x.value_or(0)), pixels(definition.y.value_or(0)),
                        pixels(definition.width.value_or(made.width)),
                        pixels(definition.height.value_or(made.height)));
-    // A control starts hidden; the first label is the template itself, which is in view.
+    // A control starts hidden, except the first label, the template itself.
     const bool isTemplate =
         definition.kind == ControlKind::Label && m_counters.value(ControlKind::Label) == 0;
     widget.setVisible(definition.visible.value_or(isTemplate));

@@ -15,7 +15,7 @@ namespace
 
 constexpr int heightOfRow = 24;
 
-/// Cells are edited in the box that the fields of a screen have, which takes what registers know.
+/// Cells are edited in the boxes that screens use, which take what registers can hold.
 class CellDelegate : public QStyledItemDelegate
 {
 public:
@@ -29,7 +29,7 @@ public:
         return box;
     }
 
-    /// A box emptied for the next try, and then left, must not empty the cell.
+    /// A box emptied for another try and then left must not empty the cell.
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override
     {
         if (static_cast<const ui::TextBox*>(editor)->isModified())
@@ -55,7 +55,7 @@ void GridControl::showQuery(const std::shared_ptr<store::Database>& database,
                             const ControlDefinition& definition)
 {
     auto* const grid = new GridModel(database, definition.sqlCriteria, definition.gridColumns, this);
-    // The message may open only after the view is done with the editor that it closes.
+    // The message may open only after the view has closed the editor.
     connect(grid, &GridModel::refused, this, &GridControl::dataError, Qt::QueuedConnection);
     delete model();
     setModel(grid);
@@ -78,7 +78,7 @@ bool GridControl::findRow(const QString& part, int from)
     return true;
 }
 
-/// Only when headers and scroll bars have found their places it is known what is left for the rows.
+/// The room for the rows is known only when headers and scroll bars have their places.
 void GridControl::resizeEvent(QResizeEvent* event)
 {
     QTableView::resizeEvent(event);
@@ -97,7 +97,7 @@ void GridControl::retryCell(const QModelIndex& index)
     setFocus();
     setCurrentIndex(index);
     edit(index);
-    // The editor that was closed may be around still; the one opened now is the last.
+    // The closed editor may still exist; the new one is the last.
     if (const auto editors = viewport()->findChildren<QLineEdit*>(); !editors.isEmpty())
         editors.last()->setText({}); // unlike clear(), no change by the user
 }

@@ -22,7 +22,7 @@ public:
     /// Shows the query of @p definition under its headings, in the place of what was shown before.
     /// @throws RuntimeFailure 3061, 5
     void showQuery(const std::shared_ptr<store::Database>& database, const ControlDefinition& definition);
-    /// Opens the current cell anew, emptied, with the focus in it.
+    /// Opens the current cell again, empty, with the focus in it.
     void retryCell(const QModelIndex& index);
     /// Makes the next row with @p part in its first two columns the current one, looking from row @p from on
     /// and then from the top. @return false without such a row.

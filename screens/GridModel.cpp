@@ -18,7 +18,7 @@ namespace
 
 constexpr int rowsAtATime = 200;
 
-/// The zeros and the point of a format such as "#,##0.00" are what counts.
+/// Only the zeros and the point of a format such as "#,##0.00" count.
 QString zerosOf(const QString& format)
 {
     QString zeros;
@@ -29,7 +29,7 @@ QString zerosOf(const QString& format)
     return zeros;
 }
 
-/// A table's name stands for all its records in the order of its first index.
+/// A table's name means all its records in the order of its first index.
 QString queryOf(const store::Database& database, const QString& sql)
 {
     if (!database.hasTable(sql))
@@ -47,7 +47,7 @@ bool isPlainNumber(const QString& text, int decimals)
     return match.hasMatch() && match.capturedLength(1) <= decimals;
 }
 
-/// A number with more decimals than the format has stays whole: what is seen is what is stored.
+/// A number with more decimals than the format is shown whole: what is seen is what is stored.
 QString formatted(const store::Value& value, const QString& format)
 {
     const QString text = value.toText();
@@ -106,7 +106,7 @@ void GridModel::fetchMore(const QModelIndex& /*parent*/)
     endInsertRows();
 }
 
-/// A row that another screen has deleted meanwhile stays as a line of blanks.
+/// A row that another screen has deleted stays as an empty line.
 GridModel::Row GridModel::readRow(int row)
 {
     Row values(static_cast<std::size_t>(m_records->fieldCount()));
@@ -152,8 +152,8 @@ Qt::ItemFlags GridModel::flags(const QModelIndex& index) const
     return isLocked ? flags : flags | Qt::ItemIsEditable;
 }
 
-/// A price must be one that the registers take: they know no sign, no exponent and no more digits than the
-/// boxes of the other screens. An emptied price is 0, as there.
+/// A price must be one that registers take: no sign, no exponent, no more digits than the price boxes of the
+/// screens. An emptied price is 0, as there.
 store::Value GridModel::priceOf(int column, QString text) const
 {
     text.replace(u',', u'.');

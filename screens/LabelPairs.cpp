@@ -20,7 +20,7 @@ bool inOneRow(const QWidget& left, const QWidget& right)
     return middle >= right.geometry().top() && middle <= right.geometry().bottom();
 }
 
-/// Pixels between a label and what it belongs to. What stands further off is another column of the screen.
+/// Pixels between a label and its control. Anything further off is another column.
 constexpr int neighbourGap = 14;
 
 /// The nearest of @p others that begins right behind @p widget in its row.
@@ -40,7 +40,7 @@ Widget* nextInRow(const QWidget& widget, const QVector<Widget*>& others)
     return nearest;
 }
 
-/// Without a control to lead to, an access letter is no more than an "&" in the text.
+/// Without a control, an access letter is just an "&" in the text.
 QString withoutAccessLetter(QString text)
 {
     const QString twice = u"&&"_s;

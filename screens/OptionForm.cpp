@@ -29,7 +29,7 @@ namespace norvane::screens
 namespace
 {
 
-/// Size and caption of the form before a screen file says otherwise.
+/// Size and caption before a screen file says otherwise.
 constexpr double designedWidth = 9000;
 constexpr double designedHeight = 6600;
 const QString& designedCaption()
@@ -46,7 +46,7 @@ QString kindOfKey(const store::FieldDefinition& field)
     return field.type == store::FieldType::Text ? u"text"_s : u"number"_s;
 }
 
-/// Where the form is too narrow for buttons of the usual width, they become narrower, down to this.
+/// In a narrow form the buttons shrink down to this width.
 constexpr int narrowestButton = 64;
 
 } // namespace
@@ -111,7 +111,7 @@ void OptionForm::buildControls()
             [this](GridControl* grid, const QModelIndex& index) { rejectCell(*grid, index); });
 }
 
-/// From left to right, those that move before those that change something. Only "E&xit" is always shown.
+/// From left to right: buttons that move, then those that change something. Only "E&xit" is always shown.
 const QVector<OptionForm::ButtonRow>& OptionForm::buttonRows()
 {
     static const QVector<ButtonRow> rows{
@@ -179,7 +179,7 @@ void OptionForm::layOut(QHBoxLayout* buttons)
     resize(m_size);
 }
 
-/// The form grows with it: the grid keeps the rows that the screen file gives it room for.
+/// The form grows with it: the grid keeps its rows.
 void OptionForm::addFindBar(GridControl& grid, QVBoxLayout& column)
 {
     auto* const bar = new GridFindBar(grid, this);
@@ -216,8 +216,7 @@ QString OptionForm::textField() const
     return {};
 }
 
-/// Grows the form, or the frame around it in the main window, as far as there is room, and shrinks it by as
-/// much again.
+/// Grows the form, or its frame in the main window, as far as there is room, and shrinks it again.
 void OptionForm::widen(int pixels)
 {
     QWidget* const frame = isWindow() ? this : parentWidget();

@@ -26,7 +26,7 @@ bool isPluNumber(const QString& name)
     return name.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) == 0;
 }
 
-/// Runs @p act and names the screen file in its failure: most of them are slips in that file.
+/// Runs @p act and names the screen file in its failure: most failures are slips in that file.
 template <typename Act>
 decltype(auto) namingFile(const QString& file, Act act)
 {
@@ -48,7 +48,7 @@ store::Value shownNumber(const store::Value& value)
     return store::Value::text(Decimal::leading(value.toUtf8()).text());
 }
 
-/// A whole-number box has no way to show null, unlike the others.
+/// A whole-number box cannot show null.
 store::Value shownInteger(const store::Value& value, const QString& field)
 {
     if (value.isNull()) {
@@ -237,7 +237,7 @@ QString RecordEditor::key() const
     return m_records.value(searchedField(1).name).toText();
 }
 
-/// Looks on a recordset of its own: a search that finds nothing would take the place away.
+/// On a recordset of its own: a search without result would lose the place.
 bool RecordEditor::hasRecord(const store::Value& key) const
 {
     store::Recordset records = m_database->openTable(m_table.table);

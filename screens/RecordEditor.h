@@ -1,5 +1,4 @@
-// Moving through a table, adding, saving, deleting and finding: what the buttons of a screen do, without the
-// screen.
+// What the buttons of a screen do to its table, without the screen: move, add, save, delete, find.
 #pragma once
 
 #include "screens/ScreenDefinition.h"

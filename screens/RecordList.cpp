@@ -27,7 +27,7 @@ constexpr int panelPixels = 260;
 constexpr int rowHeight = 22;
 constexpr int cellPadding = 16;
 
-/// The record on the screen stands out also while another row is chosen.
+/// The record on the screen stands out also when another row is chosen.
 class MarkingDelegate : public QStyledItemDelegate
 {
 public:
@@ -124,7 +124,7 @@ void RecordList::toggle()
     }
 }
 
-/// Asks for room first: a form that is too narrow would grow by itself, by another width.
+/// Asks for room first: a form that is too narrow grows by itself, but not by the right width.
 void RecordList::unfold()
 {
     Q_EMIT widened(panelPixels);
@@ -200,8 +200,8 @@ void RecordList::choose(const QModelIndex& index)
     Q_EMIT chosen(index.siblingAtColumn(0).data().toString());
 }
 
-/// Other screens may have changed the table since the list was read. The arrows walk the rows while the
-/// keyboard stays in the box.
+/// Other screens may have changed the table since it was read. The arrows walk the rows while the keyboard is
+/// in the box.
 bool RecordList::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn)

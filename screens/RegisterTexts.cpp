@@ -13,7 +13,7 @@ namespace
 {
 
 enum class TextRule {
-    /// The word "Characters" of a screen file knows digits only and must go on ignoring any other.
+    /// The word "Characters" of a screen file knows only digits and ignores everything else.
     Hexadecimal,
     /// One screen file serves all models, whose printers differ in width.
     MessageLine,

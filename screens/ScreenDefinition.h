@@ -1,5 +1,4 @@
-// What a screen file (.scn) says: the table that a screen edits, its window, its controls, its buttons, its
-// report.
+// What a screen file (.scn) says: table, window, controls, buttons and report.
 #pragma once
 
 #include "platform/Decimal.h"

@@ -7,10 +7,9 @@
 namespace norvane::screens
 {
 
-/// Reads a screen file once and hands it out section by section, so that a screen can report what is wrong in
-/// the order in which it builds itself. Missing keys, sections and files are no failure. A number that is
-/// none, or a word that is neither true nor false, is failure 13 with a text that names file, section and
-/// key.
+/// Reads a screen file once and gives it out section by section, so that a screen reports mistakes in the
+/// order in which it is built. Missing keys, sections and files are no failure. A wrong number, or a word
+/// that is neither true nor false, is failure 13, which names file, section and key.
 class ScreenReader
 {
 public:

@@ -37,7 +37,7 @@ bool isDirection(const QString& part)
     return !part.isEmpty() && std::ranges::all_of(part, [](QChar c) { return c == u'.' || c == u' '; });
 }
 
-/// Whether @p name can only lead to a folder inside the program's. A colon ends a drive or starts a hidden
+/// Whether @p name can only lead to a folder inside the program's. A colon ends a drive or begins a hidden
 /// stream.
 bool staysInside(const QString& name)
 {

@@ -12,8 +12,7 @@ namespace norvane::shell
 namespace
 {
 
-/// Leaves databasePath alone: screens and exchange use the previous customer's database until a key editor
-/// sets it.
+/// databasePath stays: screens and exchange use the previous customer's database until a key editor sets it.
 void changeCustomer(FrmMain& main, ApplicationValues& values, Boxes& boxes)
 {
     main.setCursor(Qt::WaitCursor);

@@ -28,7 +28,7 @@ namespace norvane::shell
 namespace
 {
 
-/// The window is so much smaller than the screen.
+/// How much smaller than the screen the window is.
 constexpr double spareWidthTwips = 4;
 constexpr double spareHeightTwips = 450;
 
@@ -154,7 +154,7 @@ QMdiSubWindow& FrmMain::showChild(QWidget* form, Qt::WindowFlags flags)
     form->setAttribute(Qt::WA_DeleteOnClose);
     QMdiSubWindow* const child = m_area->addSubWindow(form, flags);
     child->setObjectName(form->objectName() + u"Window"_s);
-    // Otherwise a form that closes itself leaves an empty frame behind.
+    // Otherwise a form that closes itself would leave an empty frame.
     connect(form, &QObject::destroyed, child, &QObject::deleteLater);
     form->show();
     child->show();
@@ -163,7 +163,7 @@ QMdiSubWindow& FrmMain::showChild(QWidget* form, Qt::WindowFlags flags)
     return *child;
 }
 
-/// In the middle of the window, but moved up when the status bar would cover its lower edge.
+/// In the middle of the window, higher when the status bar would cover its lower edge.
 void FrmMain::place(QMdiSubWindow& child)
 {
     ui::centreOn(child, *this);

@@ -20,7 +20,7 @@ namespace norvane::shell
 
 class MainStatusBar;
 
-/// The menu table says what an entry opens; the openers, which are handed in, open it.
+/// The menu table says what an entry opens; the openers handed in open it.
 class FrmMain : public QMainWindow
 {
     Q_OBJECT

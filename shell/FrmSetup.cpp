@@ -50,7 +50,7 @@ QWidget* makeControl(const Setting& setting)
     return control;
 }
 
-/// As wide as every other, so that the controls of both frames are in line.
+/// All labels are as wide, so that the controls of both frames line up.
 QLabel* makeLabel(const Setting& setting)
 {
     auto* const label = new QLabel(setting.label);

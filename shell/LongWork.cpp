@@ -10,7 +10,7 @@ namespace norvane::shell
 namespace
 {
 
-/// Too short for a user to notice, long enough for about a thousand records.
+/// Too short to notice, and long enough for about a thousand records.
 constexpr std::chrono::milliseconds betweenTurns{15};
 
 } // namespace

@@ -21,8 +21,7 @@ public:
     LongWork(const LongWork&) = delete;
     LongWork& operator=(const LongWork&) = delete;
 
-    /// Lets pending events run, but not more often than every few milliseconds, so that every record may call
-    /// it.
+    /// Lets events run, but only every few milliseconds, so that every record may call it.
     void letEventsRun();
 
 private:

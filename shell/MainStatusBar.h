@@ -1,4 +1,4 @@
-// The status bar of the main window, in which the forms tell that they are open.
+// The status bar of the main window.
 #pragma once
 
 #include <QStatusBar>

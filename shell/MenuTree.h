@@ -1,4 +1,4 @@
-// The menu of the main window as a table: everything that a user can start.
+// The menu of the main window: everything that a user can start.
 #pragma once
 
 #include <QLatin1StringView>
@@ -31,7 +31,7 @@ struct MenuEntry {
     Choosable choosable = Choosable::Yes;
 };
 
-/// All entries, each menu before its own; the entries of a menu in their order on the screen.
+/// All entries in their order on the screen, each menu before its own entries.
 [[nodiscard]] std::span<const MenuEntry> menuTree();
 
 /// Whether @p entry opens a record editor.

@@ -8,8 +8,8 @@
 namespace norvane::shell
 {
 
-/// Control names of the entries that can be chosen but open nothing yet. README lists them too. Who writes
-/// the missing part removes the row.
+/// Entries that can be chosen but open nothing yet, as README lists them. Remove the row when the part is
+/// written.
 [[nodiscard]] std::span<const QLatin1StringView> notYetBuilt();
 
 /// Whether @p entry is one of these control names.

@@ -37,7 +37,7 @@ FatalFailure describeFailure(const std::exception_ptr& failure)
 
 Program::Program(int& argc, char** argv, Boxes& boxes) : QApplication(argc, argv), m_boxes(boxes)
 {
-    // Only the main window ends the program. No window at all is open between splash and customer dialog.
+    // Only the main window ends the program. Between splash and customer dialog no window is open.
     setQuitOnLastWindowClosed(false);
 }
 
@@ -46,7 +46,7 @@ bool Program::notify(QObject* receiver, QEvent* event)
     try {
         return QApplication::notify(receiver, event);
     } catch (...) {
-        // A window that cannot be painted fails again while the box is open; one box is enough.
+        // A window that cannot be painted fails again while the box is open. One box is enough.
         if (m_ending)
             return true;
         end(std::current_exception());
@@ -70,7 +70,7 @@ void Program::end(const std::exception_ptr& failure)
         restoreOverrideCursor();
     m_boxes.message(u"Run-time error '%1':\r\r%2"_s.arg(shown.number).arg(shown.text), {}, BoxIcon::Critical);
     // No destructors: the windows are in the middle of something. The system closes all files, and a database
-    // stays whole whenever the process ends.
+    // stays whole.
     std::fflush(nullptr);
     std::_Exit(failedExit);
 }

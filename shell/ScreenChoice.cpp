@@ -37,7 +37,7 @@ constexpr auto byModel = std::to_array<ByModel>({
 });
 // clang-format on
 
-/// The table that a gated screen needs, and what is shown when it is empty.
+/// The table that a gated screen needs, and the message when it is empty.
 struct Gate {
     QLatin1StringView entry;
     QLatin1StringView table;

@@ -32,7 +32,7 @@ constexpr auto table = std::to_array<Setting>({
 });
 // clang-format on
 
-/// The rows in the order in which they are read. It decides which of several wrong values is reported.
+/// The order of reading decides which of several wrong values is reported.
 constexpr std::array readingOrder{0, 3, 7, 1, 2, 4, 5, 6};
 
 /// Indexes are numbers of 16 bits.

@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr double splashSeconds = 4;
-/// Between two looks at the clock, so that the processor is free meanwhile.
+/// Pause between two looks at the clock.
 constexpr unsigned long pauseMilliseconds = 10;
 constexpr double millisecondsPerSecond = 1000;
 

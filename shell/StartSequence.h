@@ -1,4 +1,4 @@
-// What happens between the start of the program and the ready main window.
+// From the start of the program to the ready main window.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -18,8 +18,8 @@ using SecondsSinceMidnight = std::function<double()>;
 /// The machine's clock.
 [[nodiscard]] double machineSecondsSinceMidnight();
 
-/// Runs once. The main window is made before it, since the splash needs its status bar and its place, but is
-/// shown last.
+/// Runs once. The main window is made before, since the splash needs its status bar and place, and shown
+/// last.
 class StartSequence
 {
 public:

@@ -1,4 +1,4 @@
-// Base of the small windows that tell in the status bar that they are open.
+// Base of the small windows that show in the status bar that they are open.
 #pragma once
 
 #include <QWidget>

@@ -1,5 +1,5 @@
-// The catalogue of the customer database: every table, its fields in the order of the register's record, and
-// the indexes that the system asks for.
+// The catalogue of the customer database: every table with its indexes and its fields in the register's
+// order.
 #pragma once
 
 #include "store/Definitions.h"
@@ -7,8 +7,7 @@
 namespace norvane::store
 {
 
-/// All tables of the current layout. The template database, the upgrade steps and the screen checks are made
-/// from it.
+/// All tables of the current layout. Template database, upgrade steps and screen checks are made from it.
 [[nodiscard]] const QVector<TableDefinition>& catalogue();
 
 /// The catalogue's definition of a table, matched without regard to case; nullptr when there is none.

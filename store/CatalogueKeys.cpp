@@ -1,5 +1,4 @@
-// The catalogue of the keys and look-ups: function keys, key links, look-ups, recipes, cards and the hot
-// list.
+// The catalogue of function keys, key links, look-ups, recipes, cards and the hot list.
 #include "store/CatalogueRows.h"
 
 namespace norvane::store::rows

@@ -1,5 +1,4 @@
-// The catalogue of the first series of system options: general, tax, drawer, training, levels, check
-// tracking.
+// The catalogue of system options, first part: general, tax, drawer, training, levels, check tracking.
 #include "store/CatalogueRows.h"
 
 namespace norvane::store::rows

@@ -1,5 +1,4 @@
-// The catalogue of the second series of system options: kitchen, validation, printing, reports, time,
-// journal.
+// The catalogue of system options, second part: kitchen, validation, printing, reports, time, journal.
 #include "store/CatalogueRows.h"
 
 namespace norvane::store::rows

@@ -30,7 +30,7 @@ struct Row {
     }
 };
 
-/// The fields in turn for 1, then for 2, up to @p times; the number takes the place of "*" in their names.
+/// The fields in turn for 1, then 2, up to @p times. The number replaces the "*" in their names.
 constexpr Row numbered(int times, FieldRow first, FieldRow second = {}, FieldRow third = {})
 {
     return {times, first, second, third};
@@ -45,8 +45,8 @@ constexpr FieldRow whole(const char* name)
 {
     return {name, FieldType::Long};
 }
-/// A whole number of 10 to 15 digits. A double holds each of them exactly and a decimal box of no places
-/// shows it; a box for whole numbers ends at 2,147,483,647.
+/// A whole number of 10 to 15 digits: a double holds each exactly, and a decimal box without places shows it.
+/// A box for whole numbers ends at 2,147,483,647.
 constexpr FieldRow longNumber(const char* name)
 {
     return {name, FieldType::Double};
@@ -65,8 +65,8 @@ constexpr FieldRow text(const char* name, int size)
 {
     return {name, FieldType::Text, size};
 }
-/// A price is a number held as text: the price utilities leave forms such as " 1.5", and what they left must
-/// read back unchanged. Wide enough for any quotient of a price and an exchange rate.
+/// A number held as text: what the price utilities leave, such as " 1.5", must read back unchanged. Wide
+/// enough for any quotient of a price and an exchange rate.
 constexpr FieldRow price(const char* name)
 {
     return text(name, 20);
@@ -89,7 +89,7 @@ constexpr FieldRow mustBeSet(FieldRow field)
     field.required = true;
     return field;
 }
-/// May not be null, and starts as "0" so that it never is unless somebody makes it so.
+/// May not be null; starts as "0", so it is null only when somebody makes it so.
 constexpr FieldRow zeroUnlessSet(FieldRow field)
 {
     field.defaultText = "0";

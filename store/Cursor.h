@@ -1,4 +1,4 @@
-// The places that a recordset can stand on, one after the other.
+// How a recordset walks from record to record.
 #pragma once
 
 #include "store/Value.h"
@@ -17,8 +17,7 @@ struct Row {
     std::int64_t rowId = 0;
 };
 
-/// Moves from record to record. Every move tells whether there was a record; where there was none, the cursor
-/// keeps the place it had.
+/// Every move says whether there was a record; without one the cursor stays where it was.
 class Cursor
 {
 public:
@@ -34,11 +33,11 @@ public:
     [[nodiscard]] virtual qint64 count() = 0;
     /// The record last moved to.
     [[nodiscard]] virtual const Row& row() const = 0;
-    /// Reads the record anew where it may have been changed. @return false when it is gone.
+    /// Reads the record again. @return false when it is gone.
     virtual bool reread() = 0;
-    /// The record last moved to was stored with these values by its own recordset.
+    /// This recordset stored the record with these values.
     virtual void rowStored(const std::vector<Value>& values) = 0;
-    /// It was deleted by its own recordset.
+    /// This recordset deleted the record.
     virtual void rowDeleted() {}
 };
 

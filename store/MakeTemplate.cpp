@@ -1,5 +1,4 @@
-// make_template <file>: writes the template of a customer's database, every table of the current layout,
-// empty.
+// make_template <file>: writes the template of a customer's database: all tables, empty.
 #include "platform/RuntimeFailure.h"
 #include "store/Catalogue.h"
 #include "store/Database.h"

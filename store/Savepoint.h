@@ -6,8 +6,7 @@ struct sqlite3;
 namespace norvane::store
 {
 
-/// Undoes what was done since it was made unless it is kept. Works inside a transaction and outside, where
-/// keeping it commits.
+/// Undoes what was done since it was made, unless it is kept. Outside a transaction, keeping commits.
 class Savepoint
 {
 public:

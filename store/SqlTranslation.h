@@ -1,5 +1,5 @@
-// Statements in the words of the former database engine, as screens and utilities write them, and what SQLite
-// wants instead.
+// Screens and utilities write statements in the words of the former database engine; this makes SQLite's of
+// them.
 #pragma once
 
 #include <QString>

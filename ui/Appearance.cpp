@@ -17,7 +17,7 @@ namespace norvane::ui
 namespace
 {
 
-/// Fusion as it is on every platform, without the icons that some desktops put on dialog buttons.
+/// Fusion on every platform, without the icons that some desktops put on dialog buttons.
 class FormStyle : public QProxyStyle
 {
 public:

@@ -1,5 +1,4 @@
-// The one place that says how the program looks: style, font, colours, spacing, icon. Forms take their
-// margins and colours from here and set none of their own.
+// How the program looks: style, font, colours, spacing, icon. Forms set none of their own.
 #pragma once
 
 #include <QColor>
@@ -19,11 +18,11 @@ inline constexpr int groupGap = 12;   ///< between groups of controls
 inline constexpr int controlGap = 8;  ///< between neighbouring controls
 } // namespace spacing
 
-/// Smallest width of a button in device-independent pixels, so that the buttons of a row are alike.
+/// Smallest width of a button in device-independent pixels. Buttons of a row look alike.
 inline constexpr int buttonWidth = 96;
 
-/// Height of the one font in device-independent pixels. Screen files place their controls in twips, 15 to
-/// the pixel, so that texts must be as wide on every platform, whatever its resolution.
+/// Height of the font in device-independent pixels. Screen files place controls in twips, 15 to the pixel, so
+/// texts must be as wide on every platform.
 inline constexpr int fontPixels = 12;
 
 namespace colours
@@ -43,8 +42,7 @@ void applyAppearance(QApplication& application);
 /// The program's icon, drawn for every size that platforms ask for.
 [[nodiscard]] QIcon applicationIcon();
 
-/// Places @p form in the middle of @p frame, by the sizes of both; never beyond the frame's upper left
-/// corner.
+/// Places @p form in the middle of @p frame, but never beyond the frame's upper left corner.
 void centreOn(QWidget& form, const QWidget& frame);
 
 } // namespace norvane::ui

@@ -6,8 +6,7 @@
 namespace norvane::ui
 {
 
-/// Shows at least decimals() digits behind the point. More of them are kept and shown as they are: what the
-/// box shows is what is stored.
+/// Shows at least decimals() digits behind the point. More digits stay: what the box shows is what is stored.
 class DecimalBox : public NumberBox
 {
     Q_OBJECT

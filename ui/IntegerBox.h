@@ -6,8 +6,8 @@
 namespace norvane::ui
 {
 
-/// Whole numbers; without a maximum of its own what 32 bits hold, since larger ones could not be saved. A
-/// fraction of a value set by program is rounded away from zero at the half.
+/// Whole numbers up to a maximum, at most what 32 bits hold. A fraction set by program is rounded, halves
+/// away from zero.
 class IntegerBox : public NumberBox
 {
     Q_OBJECT

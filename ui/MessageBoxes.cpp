@@ -15,7 +15,7 @@ namespace norvane::ui
 namespace
 {
 
-/// The arrow while a box waits for the user, even when the work behind it shows the wait pointer.
+/// The arrow while a box waits, even when the work behind it shows the wait pointer.
 class ArrowPointer
 {
 public:
@@ -67,7 +67,7 @@ QMessageBox::StandardButton show(const QString& text, const QString& title, BoxI
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
-/// The dialog asks no question of its own: its words and its preset answer would be the toolkit's.
+/// The question before a file is replaced is ours: the toolkit has other words and another preset.
 QString chosenFile(const FileRequest& request, QFileDialog::AcceptMode mode)
 {
     const ArrowPointer arrow;

@@ -10,7 +10,7 @@ namespace norvane::ui
 namespace
 {
 
-/// What exact numbers hold; a longer one cannot be typed.
+/// As many digits as exact numbers hold.
 constexpr int mostDigits = 18;
 
 QStringView withoutLeadingZeros(QStringView digits)
@@ -20,7 +20,7 @@ QStringView withoutLeadingZeros(QStringView digits)
     return digits;
 }
 
-/// Compares plain number texts digit by digit, so that no digit of a long number is lost.
+/// Compares plain number texts digit by digit: no digit of a long number is lost.
 bool isAbove(const QString& left, const QString& right)
 {
     const QStringView leftWhole = withoutLeadingZeros(QStringView(left).left(left.indexOf(u'.')));
@@ -35,8 +35,7 @@ bool isAbove(const QString& left, const QString& right)
 
 } // namespace
 
-/// Digits and, where there is a fraction, one point. A comma is taken as a point, since many keyboards have
-/// it there.
+/// Digits and, where there is a fraction, one point. A comma counts as a point: many keyboards have it there.
 class NumberBox::Validator : public QValidator
 {
 public:

@@ -1,4 +1,4 @@
-// What the whole-number box and the decimal box share: typing rules, maximum, the event above it.
+// What the whole-number box and the decimal box share.
 #pragma once
 
 #include "platform/Decimal.h"
@@ -24,14 +24,14 @@ public:
 Q_SIGNALS:
     /// The user changed the number.
     void valueEdited();
-    /// What the user typed or pasted is above the maximum. Raised once for each such entry, as soon as it is
-    /// made; the box still holds the number, and the form decides what becomes of it.
+    /// The user entered a number above the maximum. Raised once for each such entry; the box still holds the
+    /// number, and the form decides what becomes of it.
     void maximumExceeded();
 
 protected:
     enum class Point { None, Allowed };
     NumberBox(Point point, QWidget* parent);
-    /// The text that the box shows for @p value when nobody is typing.
+    /// The text shown for @p value when nobody is typing.
     [[nodiscard]] virtual QString shownText(const Decimal& value) const = 0;
 
 private:

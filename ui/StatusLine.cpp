@@ -14,7 +14,7 @@ StatusLine::StatusLine(QWidget* parent) : QStatusBar(parent)
     setSizeGripEnabled(false);
 }
 
-/// The command strings of a modem end in a carriage return, which a status bar would show as a blot.
+/// A modem's commands end in a carriage return, which would show as a blot.
 void StatusLine::setStep(const QString& text)
 {
     m_step = text.trimmed();

@@ -6,8 +6,7 @@
 namespace norvane::ui
 {
 
-/// Names the step in work and, beside it, how long it has been running and a notice that stands until it is
-/// replaced.
+/// Names the current step, how long it has been running, and a notice that stays until it is replaced.
 class StatusLine : public QStatusBar
 {
     Q_OBJECT

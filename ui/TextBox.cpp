@@ -15,7 +15,7 @@ namespace norvane::ui
 namespace
 {
 
-/// The toolkit's own limit, which stands for none.
+/// The toolkit's own limit, for none.
 constexpr int noLimit = 32767;
 
 bool typesCharacter(const QKeyEvent& event)
@@ -42,8 +42,7 @@ bool isOnRegister(QChar character)
 
 } // namespace
 
-/// Lets no character in that must not be typed. Those that a stored text brought may stay: a box that refused
-/// them could not even be mended.
+/// Refuses characters that must not be typed. Those of a stored text may stay, or it could not be mended.
 class TextBox::Validator : public QValidator
 {
 public:
@@ -117,7 +116,7 @@ void TextBox::keyPressEvent(QKeyEvent* event)
 void TextBox::makeRoom()
 {
     int cursor = cursorPosition();
-    // The end key, and a click into the empty part, lead behind the blanks; what is meant is behind the text.
+    // The end key, and a click into the empty part, go behind the text, not behind its blanks.
     if (cursor == text().size()) {
         while (cursor > 0 && text().at(cursor - 1) == u' ')
             --cursor;

@@ -25,12 +25,12 @@ public:
 
     /// Most characters that can be typed; 0 for no limit.
     void setLimit(int characters);
-    /// What can be typed; Characters::Register at first. Other characters of a stored text stay until they
+    /// What can be typed, at first Characters::Register. Other characters of a stored text stay until they
     /// are deleted.
     void setCharacters(Characters characters);
     /// Code of the side the text stands at: "0" left, "1" right, "2" centre; any other changes nothing.
     void setJustify(const QString& code);
-    /// Shows a stored text, whole even when it is longer than the limit: saving must not cut it.
+    /// Shows a stored text whole, even one above the limit: saving must not cut it.
     void showText(const QString& text);
 
 protected:

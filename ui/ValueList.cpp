@@ -25,7 +25,7 @@ constexpr int columnGap = 10;
 constexpr int rowPadding = 6;
 constexpr int columnsRole = Qt::UserRole;
 
-/// Whether a text means a value: "007" means 7, "3.0" means 3, other texts are compared as they stand.
+/// Whether a text means a value: "007" and "7.0" mean 7; other texts are compared as they are.
 class SameValue
 {
 public:
@@ -46,7 +46,7 @@ private:
 
 } // namespace
 
-/// Draws the columns of each row one below the other.
+/// Draws the columns of the rows below each other.
 class ValueList::ColumnsDelegate : public QStyledItemDelegate
 {
 public:

@@ -1,4 +1,4 @@
-// Drop-down list whose rows stand for the values of a field.
+// Drop-down list whose rows are the values of a field.
 #pragma once
 
 #include <QComboBox>
@@ -18,7 +18,7 @@ public:
     explicit ValueList(QWidget* parent = nullptr);
 
     void setRows(const QVector<QStringList>& rows);
-    /// Which column, from 0, is the value; the first at first.
+    /// Which column is the value; default 0.
     void setValueColumn(int column);
     /// Widths of the columns in the open list, in device-independent pixels; a column of width 0 is not
     /// shown, columns without a width are as wide as their longest text.
@@ -26,7 +26,7 @@ public:
 
     /// The value shown or picked; a null text when there is none.
     [[nodiscard]] QString value() const { return m_value; }
-    /// Shows the row with @p value, numbers met by their value ("03" is 3). A null text clears the list.
+    /// Shows the row of @p value; "03" finds 3. A null text clears the list.
     void setValue(const QString& value);
 
     void showPopup() override;
@@ -36,7 +36,7 @@ Q_SIGNALS:
     void valueEdited();
 
 protected:
-    /// A wheel turned over the list scrolls the screen and changes no value.
+    /// The wheel scrolls the screen and changes no value.
     void wheelEvent(QWheelEvent* event) override;
 
 private:

@@ -1,4 +1,4 @@
-// The wait pointer while something takes its time.
+// The wait pointer during long work.
 #pragma once
 
 #include <QCursor>
@@ -7,7 +7,7 @@
 namespace norvane::ui
 {
 
-/// Shows the wait pointer for as long as it lives, so that a failure gives the arrow back as well.
+/// Shows the wait pointer while it lives; a failure ends it, too.
 class WaitPointer
 {
 public:

@@ -43,7 +43,7 @@ constexpr auto resetSales = std::to_array<const char*>({
     salestable::clerks, salestable::groups, salestable::financials,
     salestable::mixes,  salestable::plus,   salestable::times,
 });
-// The card categories are lost too, until the next upload.
+// The card categories are lost, too, until the next upload.
 constexpr auto resetCards = std::to_array<const char*>({"CARDCATEGORY"});
 
 constexpr BoxWords toEuro{"Update Euro prices"_L1, "Continue?"_L1};

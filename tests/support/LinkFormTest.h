@@ -1,5 +1,5 @@
-// What the tests of the forms that speak with registers share: a customer, the real tools with a bank of
-// registers, and a modem at the far end of a pseudo terminal.
+// For the tests of forms that speak with registers: a customer, the real tools, a bank of registers, and a
+// modem behind a pseudo terminal.
 #pragma once
 
 #include "base/CustomerSettings.h"

@@ -29,8 +29,7 @@ public:
     /// Makes a customer by copying the templates, and hands out the values of a program that has chosen it.
     [[nodiscard]] ApplicationValues makeCustomer(const QString& name) const;
 
-    /// Lets steps of the tools fail as the sections of a faults.ini say, from its first step on; empty text
-    /// mends all.
+    /// Lets steps of the tools fail as a faults.ini says, from its first step on; empty text mends all.
     void setFaults(const QByteArray& sections) const;
     /// Takes "VELMARCOMM" or "convert" away.
     void removeTool(const char* name) const;

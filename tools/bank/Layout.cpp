@@ -20,8 +20,8 @@ const LayoutRow* rowOf(int layoutCode)
     return row == table.end() ? nullptr : &*row;
 }
 
-/// Walks one row's notation. The table is part of the program, so that a slip in it is a bug and not an input
-/// fault; the round-trip tests read every row.
+/// Reads one row of the table. The table is part of the program, so a slip in it is a bug; the round-trip
+/// tests read every row.
 class Notation
 {
 public:

@@ -1,8 +1,13 @@
 // A register's binary file: a header of 16 bytes and records of one length.
 //
-//   1..4   "NVRF"            5  stamp (report files only, else 0)   6  file number   7  model   8  format, 1
-//   9..12  record count      13..14  record length                  15..16  CRC-16 of bytes 1..14 and the
-//   records
+// clang-format off
+//   byte 1..4   "NVRF"
+//   5           stamp of a report file, else 0
+//   6, 7, 8     file number, model, format (1)
+//   9..12       number of records
+//   13..14      length of a record
+//   15..16      CRC-16 of bytes 1..14 and the records
+// clang-format on
 //
 // Numbers are big-endian. The stamp stands at byte 5 because that is where a collected report carries it.
 #pragma once

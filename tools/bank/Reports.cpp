@@ -103,7 +103,7 @@ std::vector<Numbers> linesOf(const Totals& totals, int report)
     return sold == totals.byPlace.end() ? std::vector<Numbers>() : sold->second;
 }
 
-/// Adds what @p into has room for, and puts the price levels beyond it to its last one.
+/// Adds what @p into has room for. Price levels beyond it count with its last one.
 void addLevels(Numbers& into, const Numbers& numbers)
 {
     for (std::size_t i = 0; i < numbers.size(); ++i)

@@ -98,7 +98,7 @@ QByteArray codeText(char code, const Column& column)
     return column.values.at(code);
 }
 
-/// A comma that a cashier keyed into a description stays: the text form has no way to guard it.
+/// A comma that a cashier keyed in stays: the text form cannot protect it.
 QByteArray unpackColumn(const QByteArray& packed, const Column& column)
 {
     if (isCode(column))

@@ -21,8 +21,7 @@ enum Result {
     TimeOut = 8,
     BadCrc = 11,
     MachineBusy = 12,
-    /// The consolidated reports of an earlier run still wait for collection or clearing; they stay as they
-    /// are.
+    /// Consolidated reports of an earlier run still wait for collection or clearing; they stay.
     ReportsWaiting = -13,
 };
 

@@ -1,7 +1,6 @@
-// What a register has sold: the totals behind its reports, kept as text files in its folder.
-//
-// totals/NNN.txt (open) and consolidated/NNN.txt (waiting for collection) hold one line of comma-separated
-// numbers for each item; those of report 194 begin with the PLU number. An absent file or line counts as
+// What a register has sold, kept as text files in its folder.
+// totals/NNN.txt (open) and consolidated/NNN.txt (waiting for collection) hold a line of comma-separated
+// numbers for each item; those of report 194 begin with the PLU number. A missing file or line counts as
 // zeros.
 #pragma once
 

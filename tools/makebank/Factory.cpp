@@ -38,7 +38,7 @@ QByteArray resource(const QString& name)
     return file.readAll();
 }
 
-/// The contents for this model when there are such, else those for all.
+/// The contents of this model, else those of all models.
 QString contentsName(int file, Model model)
 {
     const auto own = u"%1-%2"_s.arg(file).arg(modelWord(model).toLower());
@@ -133,7 +133,7 @@ private:
             resource(m_target.model == Model::Dorvik ? u"keys-dorvik"_s : u"keys-velmar"_s), numbers);
     }
 
-    /// The shop's range, cut to the wanted number or continued with numbered variants of its articles.
+    /// The shop's articles, cut to the wanted number or continued with numbered variants.
     Records plus() const
     {
         auto records = contents(pluFile);
@@ -177,7 +177,7 @@ private:
         return record;
     }
 
-    /// Bytes that nobody reads, another set in every register so that a copy shows where it came from.
+    /// Bytes that nobody reads. They differ by register, so that a copy shows where it came from.
     void writeOpaque(int file) const
     {
         if (file == imageFile && m_target.generation == 2) {

@@ -1,10 +1,13 @@
 // The compact form of factory contents: a register file's records as they leave the works, without padding.
 //
-//   ; a remark                       columns 1 2 13   the columns that the rows below fill, default all in
-//   order default 14=01                    what the columns hold that a row leaves out, default zeros or
-//   blanks *16 MISC %i                      sixteen rows, %i counts from 1 fill 99 GROUP %n more of this row
-//   up to 99 records, %n is the record's number fill room ...                    up to the number of records
-//   that the register has room for
+// clang-format off
+//   ; a remark
+//   columns 1 2 13     the columns that the rows below fill, default all in order
+//   default 14=01      what the columns hold that a row leaves out, default zeros or blanks
+//   *16 MISC %i        sixteen rows, %i counts from 1
+//   fill 99 GROUP %n   more of this row up to 99 records, %n is the record's number
+//   fill room ...      up to the number of records that the register has room for
+// clang-format on
 //
 // In texts "^" stands for the register's mark and \A3 for the character with that code. A digit column is
 // filled with zeros on the left, or on the right when its value ends in "<".

@@ -1,4 +1,4 @@
-// Walks the key plan as the register numbers its keys: column by column from the left, each from the bottom
+// Walks the key plan in the order of the register's key numbers: columns from the left, each from the bottom
 // up.
 #include "tools/makebank/Keyboards.h"
 

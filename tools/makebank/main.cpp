@@ -78,7 +78,7 @@ void makeRegister(const Wish& wish, int number)
     made.save();
 }
 
-/// Takes away what makebank made, and nothing else that may lie in the folder.
+/// Takes away what makebank made and leaves everything else in the folder.
 void removeBank(const Wish& wish)
 {
     const QDir bank(wish.folder);

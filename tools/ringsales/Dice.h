@@ -1,4 +1,4 @@
-// Chance with arithmetic of its own, so that a seed gives the same day on every platform.
+// Chance with its own arithmetic: a seed gives the same day on every platform.
 #pragma once
 
 #include <QtGlobal>

@@ -7,8 +7,8 @@
 namespace bank
 {
 
-/// Every report follows from the tickets alone: the values of the PLUs, of the time periods, the net sales of
-/// the clerks and those of the financial report come to one sum.
+/// All reports follow from the tickets: values of the PLUs, of the time periods, net sales of the clerks and
+/// of the financial report have the same sum.
 void post(const Ticket& ticket, Totals& totals);
 
 } // namespace bank

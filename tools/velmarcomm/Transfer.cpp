@@ -27,8 +27,8 @@ void expectAnswer(const Register& target)
         throw ToolFailure(MachineBusy, u"register %1 is busy"_s.arg(target.number));
 }
 
-/// The registers of an order, asked for one by one so that a missing or silent one stops the run at its place
-/// and what went before it stays done.
+/// The registers of an order, one by one: a missing or silent one stops the run there, and the registers
+/// before it are done.
 class Line
 {
 public:
