@@ -9,6 +9,7 @@
 #include "sales/PollImport.h"
 #include "scripts/demoshop/TillDays.h"
 #include "shell/CustomerFolders.h"
+#include "store/Database.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -127,8 +128,11 @@ private:
     void store(const ApplicationValues& values, QDate date)
     {
         const std::scoped_lock oneAtATime(m_storing);
+        store::Database database(values.databasePath);
+        store::Transaction transaction(database);
         for (const sales::PollFile& file : sales::pollFiles())
-            sales::importPollFile(file, values, date);
+            sales::importPollFile(file, database, values, date);
+        transaction.commit();
     }
 
     const Wish& m_wish;
