@@ -2,8 +2,11 @@
 #include "bench/Ratio.h"
 #include "store/Catalogue.h"
 #include "store/Database.h"
+#include "store/DatabaseCheck.h"
 #include "store/Recordset.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <sqlite3.h>
 
@@ -159,6 +162,30 @@ void openSeekRead(benchmark::State& state)
     }
 }
 
+/// The look for damage at the choice of a customer, with so many rows of sales beside the PLUs.
+void checkForDamage(benchmark::State& state)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"velmar.mdb"_s);
+    require(QFile::copy(shop().path(), path), "copy");
+    {
+        store::Database database(path);
+        const store::Transaction transaction(database);
+        store::Recordset sales = database.openTable(u"PLUSALES"_s);
+        for (std::int64_t row = 0; row < state.range(0); ++row) {
+            sales.addNew();
+            sales.setValue(u"ID"_s, store::Value::text(pluNumber(static_cast<int>(row % pluCount))));
+            sales.setValue(u"SALESDATE"_s, store::Value::date(QDate(2020, 1, 1).addDays(row / 1000)));
+            for (const char* field : {"PROMO", "WASTE"})
+                sales.setValue(QString::fromLatin1(field), store::Value::whole(0));
+            sales.update();
+        }
+    }
+    while (state.KeepRunning())
+        require(store::damageOf(path).isEmpty(), "damaged");
+    state.counters["megabytes"] = static_cast<double>(QFileInfo(path).size()) / 1e6;
+}
+
 /// Steps from a place in the table, given in percent of it.
 void walk(benchmark::State& state, bool forward)
 {
@@ -190,6 +217,7 @@ void previous(benchmark::State& state)
 
 BENCHMARK(seekAtOrAfter)->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(openSeekRead)->Unit(benchmark::kMicrosecond);
+BENCHMARK(checkForDamage)->Arg(0)->Arg(100'000)->Arg(2'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(next)->Arg(1)->Arg(50)->Arg(99)->Unit(benchmark::kMicrosecond);
 BENCHMARK(previous)->Arg(1)->Arg(50)->Arg(99)->Unit(benchmark::kMicrosecond);
 

@@ -3,6 +3,7 @@
 
 #include "platform/FilePaths.h"
 #include "platform/TextFields.h"
+#include "store/DatabaseCheck.h"
 #include "store/Upgrade.h"
 
 #include <QDir>
@@ -115,6 +116,9 @@ CustomerChoice takeFolder(ApplicationValues& values, const QString& path)
     values.customerPath = path;
     const CustomerChoice choice = wasCutOff(path) ? fillFolder(values) : CustomerChoice::Taken;
     const QString database = customerDatabase(path);
+    // Each write to a damaged file makes it worse, and a later copy of it replaces the last good one.
+    if (!store::damageOf(database).isEmpty())
+        return CustomerChoice::Damaged;
     store::UpgradeDatabase(database);
     store::completeDatabase(database);
     return choice;
@@ -135,6 +139,14 @@ QStringList customerFolders(const QString& appPath)
                                                 QDir::Name | QDir::IgnoreCase);
     std::ranges::for_each(names, toUpperCase);
     return names;
+}
+
+QString damageReport(const QString& customerPath)
+{
+    const QString database = customerDatabase(customerPath);
+    return u"The database of this customer is damaged:\r%1\r\r%2\r\rNothing was changed in it. Put a copy of "
+           u"the customer's "
+           "folder in its place, then choose the customer again."_s.arg(database, store::damageOf(database));
 }
 
 QString customerDatabase(const QString& customerPath)

@@ -15,6 +15,7 @@ enum class CustomerChoice {
     InvalidEntry, ///< blank name
     Created,      ///< folder with copies of the template database and settings, new or completed
     Taken,        ///< existing folder; its database was upgraded and completed
+    Damaged,      ///< existing folder; nothing was written to its database
     Failed,       ///< refused name or failed step; a folder that was made stays
 };
 
@@ -25,6 +26,9 @@ enum class CustomerChoice {
 /// one. A backslash or slash leads into a folder that exists. "..", a drive or an absolute path is Failed: no
 /// name leads out of the program's folder.
 [[nodiscard]] CustomerChoice chooseCustomer(ApplicationValues& values, const QString& typed);
+
+/// What to tell the user about a customer that is Damaged: which file, what is wrong and the way out.
+[[nodiscard]] QString damageReport(const QString& customerPath);
 
 /// The database of the customer whose folder is @p customerPath.
 [[nodiscard]] QString customerDatabase(const QString& customerPath);

@@ -91,6 +91,9 @@ void FrmCustomer::takeCustomer()
         m_boxes.message(u"Error Creating Directory \rRe run software"_s, u"System Error"_s,
                         BoxIcon::Critical);
         return;
+    case CustomerChoice::Damaged:
+        m_boxes.message(damageReport(m_values.customerPath), u"Damaged Database"_s, BoxIcon::Critical);
+        return;
     case CustomerChoice::Taken:
         return accept();
     case CustomerChoice::Created:

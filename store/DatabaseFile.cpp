@@ -159,7 +159,7 @@ void putInPlace(const QString& from, const QString& to)
 
 } // namespace
 
-SQLite::Database openDatabaseFile(const QString& path)
+SQLite::Database openUnreadDatabaseFile(const QString& path)
 {
     if (!QFileInfo::exists(path))
         throw RuntimeFailure(Failure::FileNotFound, u"File not found: %1"_s.arg(shown(path)));
@@ -168,6 +168,12 @@ SQLite::Database openDatabaseFile(const QString& path)
     auto database = openEngine(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
     checkHeader(database.getHandle(), path);
     prepareConnection(database, path);
+    return database;
+}
+
+SQLite::Database openDatabaseFile(const QString& path)
+{
+    auto database = openUnreadDatabaseFile(path);
     // The first look at the tables finds a file that was cut short or is damaged at its root.
     run(database.getHandle(), "SELECT 1 FROM norvane_field LIMIT 1", path);
     return database;

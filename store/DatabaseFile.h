@@ -11,6 +11,9 @@ namespace norvane::store
 /// Opens an existing file for reading and, where it may be written, for writing. @throws as Database does.
 [[nodiscard]] SQLite::Database openDatabaseFile(const QString& path);
 
+/// The same before anything but the header was read: whether the file is whole is not known yet.
+[[nodiscard]] SQLite::Database openUnreadDatabaseFile(const QString& path);
+
 /// Makes a file beside @p path and puts it in its place once it is whole.
 /// @throws RuntimeFailure 75, 61.
 void createDatabaseFile(const QString& path, const QVector<TableDefinition>& tables);

@@ -170,5 +170,28 @@ TEST_F(StartSequenceTest, AWrongNameIsToldAndOnlyYesEndsTheStart)
     EXPECT_EQ(m_values.databasePath, QString());
 }
 
+TEST_F(StartSequenceTest, ADamagedDatabaseIsToldAndLeftAsItIs)
+{
+    store::Database::create(m_folder.path("app/Cafe/velmar.mdb"), store::catalogue());
+    const QByteArray damaged = m_folder.read("app/Cafe/velmar.mdb").chopped(100);
+    m_folder.write("app/Cafe/velmar.mdb", damaged);
+    m_boxes.answers = {true};
+    EXPECT_FALSE(run({0, 4.1, 999}, [](QWidget& dialog) {
+        child<QLineEdit>(dialog, "text1").setText(u"Cafe"_s);
+        child<QPushButton>(dialog, "CSCmdBtn1").click();
+        EXPECT_TRUE(dialog.isVisible());
+        dialog.close();
+    }));
+    const QString told =
+        u"The database of this customer is damaged:\r%1\r\rThe file has %2 bytes and should have %3.\r\r"
+        "Nothing was changed in it. Put a copy of the customer's folder in its place, then choose the "
+        "customer "
+        "again."_s.arg(m_values.customerPath + u"/velmar.mdb"_s)
+            .arg(damaged.size())
+            .arg(damaged.size() + 100);
+    EXPECT_EQ(m_boxes.shown.front(), (test::ShownBox{told, u"Damaged Database"_s, BoxIcon::Critical}));
+    EXPECT_EQ(m_folder.read("app/Cafe/velmar.mdb"), damaged);
+}
+
 } // namespace
 } // namespace norvane::shell

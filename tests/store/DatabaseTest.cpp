@@ -1,4 +1,5 @@
 // Opening what is ours and nothing else, fields that come later, and a disk without room.
+#include "store/DatabaseCheck.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/store/StoreFolder.h"
 
@@ -33,6 +34,38 @@ TEST(Database, AForeignOrDamagedFileIsRefusedAndLeftAsItIs)
     EXPECT_EQ(failureOf([&] { Database database(folder.folder().path("none.mdb")); }), 53);
     EXPECT_EQ(failureOf([&] { Database database(folder.folder().path()); }), 75);
     EXPECT_EQ(folder.folder().names(), QStringList{u"velmar.mdb"_s});
+}
+
+TEST(DatabaseCheck, FindsDamageOnEveryPageAndAWrongLength)
+{
+    const StoreFolder folder;
+    {
+        Database database(folder.path());
+        const Transaction transaction(database);
+        auto records = database.openTable(items);
+        for (int i = 1000; i < 1500; ++i)
+            add(records, {{"NUMBER", Value::whole(i)}, {"GROUPNO", Value::whole(i)}});
+    }
+    EXPECT_EQ(damageOf(folder.path()), QString());
+    const QByteArray sound = folder.folder().read("velmar.mdb");
+    const auto expectDamage = [&](const QByteArray& content, const std::string& what) {
+        folder.folder().write("velmar.mdb", content);
+        EXPECT_FALSE(damageOf(folder.path()).isEmpty()) << what;
+        EXPECT_TRUE(folder.folder().read("velmar.mdb") == content) << what;
+    };
+    constexpr qsizetype page = 4096;
+    ASSERT_GT(sound.size(), 10 * page);
+    for (qsizetype at = page; at < sound.size(); at += page) {
+        for (const char filling : {'\0', '\xFF'})
+            expectDamage(QByteArray(sound).replace(at, page, QByteArray(page, filling)),
+                         std::to_string(at / page));
+    }
+    expectDamage(sound.chopped(100), "cut short");
+    expectDamage(sound + QByteArray(100, '\0'), "longer");
+
+    folder.folder().write("velmar.mdb", "of another program");
+    EXPECT_EQ(damageOf(folder.path()), QString()) << "is never written to";
+    EXPECT_EQ(damageOf(folder.folder().path("none.mdb")), QString());
 }
 
 TEST(Database, AnAddedFieldLeavesOldRowsNullUntilTheyAreStored)
