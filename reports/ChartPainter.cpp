@@ -16,7 +16,7 @@ namespace
 constexpr double titleHeight = 9;
 
 struct Drawing {
-    double (*height)(const Chart&);
+    double (*height)(const Chart&, double);
     void (*paint)(QPainter&, const QRectF&, const Chart&, const PageText&);
 };
 
@@ -30,9 +30,9 @@ const Drawing& drawing(ChartKind kind)
 
 } // namespace
 
-double chartHeight(const Chart& chart)
+double chartHeight(const Chart& chart, double width)
 {
-    return titleHeight + drawing(chart.kind).height(chart);
+    return titleHeight + drawing(chart.kind).height(chart, width);
 }
 
 void paintChart(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text)

@@ -9,8 +9,8 @@ class QPainter;
 namespace norvane::reports
 {
 
-/// The height that @p chart looks best with, in mm.
-[[nodiscard]] double chartHeight(const Chart& chart);
+/// The height that @p chart of @p width looks best with; all in mm.
+[[nodiscard]] double chartHeight(const Chart& chart, double width);
 
 /// Paints @p chart into @p place. @param painter in millimetres.
 void paintChart(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text);

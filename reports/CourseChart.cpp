@@ -127,7 +127,7 @@ private:
 
 } // namespace
 
-double courseHeight(const Chart& /*chart*/)
+double courseHeight(const Chart& /*chart*/, double /*width*/)
 {
     return 74;
 }

@@ -87,6 +87,12 @@ QStringList PageText::wrapped(const QString& text, const TextStyle& style, doubl
     return rowsOf(layout);
 }
 
+QString PageText::elided(const QString& text, const TextStyle& style, double width) const
+{
+    return face(style).metrics.elidedText(printable(text), Qt::ElideRight,
+                                          width * unitsPerSquare / style.size);
+}
+
 void PageText::draw(QPainter& painter, const QRectF& place, const QString& text, const TextStyle& style,
                     Alignment alignment) const
 {

@@ -33,6 +33,8 @@ public:
     /// The rows that @p text takes in @p width mm: broken between words, and within one only where it is
     /// wider than that.
     [[nodiscard]] QStringList wrapped(const QString& text, const TextStyle& style, double width) const;
+    /// The text, or as much of it as stands in @p width mm with three dots behind.
+    [[nodiscard]] QString elided(const QString& text, const TextStyle& style, double width) const;
     /// Paints one row in the middle of @p place's height; text wider than the place is narrowed, not cut.
     /// @param painter in millimetres.
     void draw(QPainter& painter, const QRectF& place, const QString& text, const TextStyle& style,

@@ -47,7 +47,7 @@ double barLength(const ChartPoint& point, const Scale& scale, double space)
 
 } // namespace
 
-double rankingHeight(const Chart& chart)
+double rankingHeight(const Chart& chart, double /*width*/)
 {
     return static_cast<double>(chart.points.size()) * bestPitch;
 }
@@ -64,7 +64,7 @@ void paintRanking(QPainter& painter, const QRectF& place, const Chart& chart, co
     for (const ChartPoint& point : chart.points) {
         const QRectF bar(origin, row.center().y() - pitch * barPart / 2, barLength(point, scale, space),
                          pitch * barPart);
-        text.draw(painter, row, point.label, style, Alignment::Right);
+        text.draw(painter, row, text.elided(point.label, style, row.width() + 0.1), style, Alignment::Right);
         painter.fillRect(bar, ink::bar);
         text.draw(painter, QRectF(bar.right() + gap, row.top(), scale.valueWidth, pitch),
                   shownValue(chart, point), style, Alignment::Left);

@@ -4,22 +4,44 @@
 #include "paper/DefaultPrinter.h"
 #include "platform/Boxes.h"
 #include "platform/RuntimeFailure.h"
+#include "reports/PreviewWindow.h"
 #include "reports/RunProgress.h"
 
-#include <QPrinter>
 #include <QScopedValueRollback>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::reports
 {
+namespace
+{
+
+void moveToWindow(QWidget& preview, QWidget* window)
+{
+    const QRect place = preview.geometry();
+    preview.setParent(window, preview.windowFlags());
+    preview.setGeometry(place);
+    preview.show();
+}
+
+} // namespace
 
 Report::Report(QWidget& window, Boxes& boxes, Runner runner)
     : m_window(window), m_boxes(boxes), m_runner(std::move(runner)), m_findPrinter(paper::defaultPrinter)
 {
 }
 
-Report::~Report() = default;
+/// A preview is a child of its window, which a modal form would hold back else; it outlives the form as a
+/// child of the next window.
+Report::~Report()
+{
+    const QWidget* const form = m_window.window();
+    QWidget* const next = form->parentWidget() ? form->parentWidget()->window() : nullptr;
+    for (const QPointer<PreviewWindow>& preview : m_previews) {
+        if (preview && next)
+            moveToWindow(*preview, next);
+    }
+}
 
 void Report::setDataFile(int index, const QString& path)
 {
@@ -61,7 +83,20 @@ std::optional<ReportData> Report::runnerResult()
     }
 }
 
-/// Preview and printing are not built yet.
-void Report::deliver(ReportData /*report*/) {}
+void Report::deliver(ReportData report)
+{
+    if (m_destination == Destination::Window) {
+        preview(std::move(report));
+        return;
+    }
+    const ui::WaitPointer pointer;
+    printReport(report, true, m_findPrinter);
+}
+
+void Report::preview(ReportData report)
+{
+    m_previews.emplace_back(new PreviewWindow(std::move(report), m_boxes, m_findPrinter, m_window.window()));
+    m_previews.back()->show();
+}
 
 } // namespace norvane::reports

@@ -2,13 +2,15 @@
 // printer.
 #pragma once
 
+#include "reports/Printing.h"
 #include "reports/ReportRun.h"
 
-#include <functional>
-#include <memory>
-#include <optional>
+#include <QPointer>
 
-class QPrinter;
+#include <functional>
+#include <optional>
+#include <vector>
+
 class QWidget;
 
 namespace norvane
@@ -19,6 +21,8 @@ class Boxes;
 namespace norvane::reports
 {
 
+class PreviewWindow;
+
 enum class Destination {
     Window, ///< a preview of its own; each run opens another
     Printer ///< the system's default printer, without a question
@@ -26,9 +30,6 @@ enum class Destination {
 
 /// What makes a report's lines: runReport() of the engine.
 using Runner = std::function<ReportData(const ReportRequest&, const KeepGoing&)>;
-/// Finds the printer; null when the system has none to use.
-using PrinterFinder = std::function<std::unique_ptr<QPrinter>()>;
-
 /// Belongs to the form that it is run from and must not outlive it. Previews stay open when the form closes;
 /// they close with the window that the form belongs to.
 class Report
@@ -63,6 +64,7 @@ public:
 private:
     [[nodiscard]] std::optional<ReportData> runnerResult();
     void deliver(ReportData report);
+    void preview(ReportData report);
 
     QWidget& m_window;
     Boxes& m_boxes;
@@ -71,6 +73,7 @@ private:
     ReportRequest m_request;
     Destination m_destination = Destination::Window;
     bool m_isRunning = false;
+    std::vector<QPointer<PreviewWindow>> m_previews;
 };
 
 } // namespace norvane::reports

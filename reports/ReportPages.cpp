@@ -166,7 +166,7 @@ void ReportPages::addCharts(ReportPage& page)
         const bool isFirst = !page.hasLines() && page.charts.empty();
         const double gap = isFirst ? 0 : chartGap;
         const double space = body.bottom() - m_y - gap;
-        const double wanted = chartHeight(m_report.charts[m_charts.back()]);
+        const double wanted = chartHeight(m_report.charts[m_charts.back()], body.width());
         if (wanted > space && !isFirst)
             return;
         const double height = std::min(wanted, space);

@@ -20,6 +20,7 @@ namespace
 
 constexpr double rowHeight = 5.4;
 constexpr double discSize = 56;
+constexpr double gap = 8; ///< between disc and legend
 constexpr std::size_t mostParts = 10;
 constexpr double fullTurn = 360 * 16; ///< in the painter's sixteenths of a degree
 
@@ -110,7 +111,8 @@ void paintRow(QPainter& painter, QPointF corner, const Part& part, double whole,
         corner.rx() += width + 3;
         return cell;
     };
-    text.draw(painter, place(columns.label), part.label, chartStyle, Alignment::Left);
+    text.draw(painter, place(columns.label), text.elided(part.label, chartStyle, columns.label + 0.1),
+              chartStyle, Alignment::Left);
     text.draw(painter, place(columns.value), columns.shownValue(part), chartStyle, Alignment::Right);
     text.draw(painter, place(columns.percentage), percentage(part.value.toDouble(), whole), chartStyle,
               Alignment::Right);
@@ -130,7 +132,7 @@ LegendColumns legendColumns(const std::vector<Part>& parts, int decimals, const 
 void paintLegend(QPainter& painter, const QRectF& place, const std::vector<Part>& parts, double whole,
                  const LegendColumns& columns, const PageText& text)
 {
-    double top = place.center().y() - static_cast<double>(parts.size()) * rowHeight / 2;
+    double top = place.top();
     for (std::size_t part = 0; part < parts.size(); ++part) {
         const QRectF sample(place.left(), top + 0.9, rowHeight - 1.8, rowHeight - 1.8);
         painter.setPen(QPen(ink::rule, hairline));
@@ -141,11 +143,28 @@ void paintLegend(QPainter& painter, const QRectF& place, const std::vector<Part>
     }
 }
 
+/// Beside the disc, or below it where that leaves no room for names.
+bool isLegendBelow(double width)
+{
+    return width < 2.2 * discSize;
+}
+
+double discSizeIn(double width)
+{
+    return std::min(discSize, width * 0.6);
+}
+
+double legendHeight(std::size_t parts)
+{
+    return static_cast<double>(parts) * rowHeight;
+}
+
 } // namespace
 
-double sharesHeight(const Chart& /*chart*/)
+double sharesHeight(const Chart& chart, double width)
 {
-    return discSize + 2;
+    const double legend = legendHeight(std::min(chart.points.size(), mostParts));
+    return isLegendBelow(width) ? discSizeIn(width) + gap + legend : std::max(discSize, legend) + 2;
 }
 
 void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text)
@@ -154,9 +173,12 @@ void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, con
     if (parts.empty())
         return;
     const double whole = sum(parts).toDouble();
-    const double size = std::min({discSize, place.height(), place.width() * 0.4});
+    const double size = std::min(discSizeIn(place.width()), place.height());
     const QRectF disc(place.left(), place.top(), size, size);
-    const QRectF legend(disc.right() + 8, place.top(), place.right() - disc.right() - 8, size);
+    const double legendTop = std::max(place.top(), disc.center().y() - legendHeight(parts.size()) / 2);
+    const QRectF legend = isLegendBelow(place.width())
+                              ? place.adjusted(0, size + gap, 0, 0)
+                              : QRectF(QPointF(disc.right() + gap, legendTop), place.bottomRight());
     paintDisc(painter, disc, parts, whole);
     paintLegend(painter, legend, parts, whole, legendColumns(parts, chart.decimals, text, legend.width()),
                 text);

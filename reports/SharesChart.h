@@ -8,8 +8,8 @@ class QPainter;
 namespace norvane::reports
 {
 
-/// The height that the picture looks best with, without its title, in mm.
-[[nodiscard]] double sharesHeight(const Chart& chart);
+/// The height that the picture of @p width looks best with, without its title; all in mm.
+[[nodiscard]] double sharesHeight(const Chart& chart, double width);
 void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text);
 
 } // namespace norvane::reports

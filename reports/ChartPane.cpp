@@ -1,0 +1,67 @@
+// See ChartPane.h.
+#include "reports/ChartPane.h"
+
+#include "reports/ChartPainter.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace norvane::reports
+{
+namespace
+{
+
+constexpr double pixelsPerMillimetre = paper::screenDotsPerInch / 25.4;
+constexpr double margin = 5; ///< around charts, in mm
+
+} // namespace
+
+class ChartPane::Sheet : public QWidget
+{
+public:
+    explicit Sheet(const ReportDocument& document) : m_document(document) {}
+
+protected:
+    void resizeEvent(QResizeEvent* /*event*/) override
+    {
+        double height = margin;
+        for (const Chart& chart : m_document.report().charts)
+            height += heightOf(chart);
+        setMinimumHeight(static_cast<int>(std::ceil(height * pixelsPerMillimetre)));
+    }
+
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), Qt::white);
+        painter.scale(pixelsPerMillimetre, pixelsPerMillimetre);
+        QPointF corner(margin, margin);
+        for (const Chart& chart : m_document.report().charts) {
+            const double height = heightOf(chart);
+            paintChart(painter, QRectF(corner, QSizeF(chartWidth(), height - margin)), chart,
+                       m_document.text());
+            corner.ry() += height;
+        }
+    }
+
+private:
+    [[nodiscard]] double chartWidth() const { return width() / pixelsPerMillimetre - 2 * margin; }
+    /// With the space below; nothing for a chart that shows nothing.
+    [[nodiscard]] double heightOf(const Chart& chart) const
+    {
+        return chart.points.empty() ? 0 : chartHeight(chart, chartWidth()) + margin;
+    }
+
+    const ReportDocument& m_document;
+};
+
+ChartPane::ChartPane(const ReportDocument& document, QWidget* parent) : QScrollArea(parent)
+{
+    setWidget(new Sheet(document));
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setMinimumWidth(200);
+}
+
+} // namespace norvane::reports

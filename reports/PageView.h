@@ -1,0 +1,73 @@
+// The pages of a report on the screen, one below the other.
+#pragma once
+
+#include "reports/ReportDocument.h"
+
+#include <QAbstractScrollArea>
+
+namespace norvane::reports
+{
+
+enum class Zoom { FitWidth, FitPage, TrueSize };
+
+/// Pages are turned with Page Up, Page Down, Home and End, and scrolled with wheel, arrows and the space bar.
+/// Lines are chosen with the mouse, or with Shift and the arrows from the line that was found or clicked.
+class PageView : public QAbstractScrollArea
+{
+    Q_OBJECT
+
+public:
+    /// @p document must outlive this.
+    PageView(const ReportDocument& document, QWidget* parent);
+
+    void setZoom(Zoom zoom);
+    /// Further pages are laid out, or all are new.
+    void updatePages();
+
+    /// The page in the upper part of the view, from 0.
+    [[nodiscard]] int currentPage() const;
+    /// Shows the top of @p page, or of the last one before it.
+    void goToPage(int page);
+
+    /// Chooses @p line alone and brings its page into view.
+    void showLine(qsizetype line);
+    void chooseAll();
+    [[nodiscard]] bool hasChosen() const { return m_anchor >= 0; }
+    [[nodiscard]] qsizetype firstChosen() const { return qMin(m_anchor, m_current); }
+    [[nodiscard]] qsizetype lastChosen() const { return qMax(m_anchor, m_current); }
+
+Q_SIGNALS:
+    void currentPageChanged();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    [[nodiscard]] const QRectF& sheet() const { return m_document.pages().frame().sheet; }
+    [[nodiscard]] double pagePitch() const;
+    [[nodiscard]] QRectF pageRect(int page) const;
+    [[nodiscard]] qsizetype lineAt(QPoint place) const;
+    [[nodiscard]] qsizetype lineOnPage(int page, double y) const;
+    void updateScale();
+    void updateBars();
+    void paintPage(QPainter& painter, int page) const;
+    void paintChosen(QPainter& painter, int page) const;
+    void choose(qsizetype line, bool extends);
+    void reveal(qsizetype line);
+    bool turnPage(int key);
+    void scrollBy(int pixels);
+    void keepPlace(const std::function<void()>& change);
+
+    const ReportDocument& m_document;
+    Zoom m_zoom = Zoom::FitWidth;
+    double m_scale = 1; ///< pixels to the millimetre
+    qsizetype m_anchor = -1;
+    qsizetype m_current = -1;
+};
+
+} // namespace norvane::reports

@@ -1,0 +1,78 @@
+// A report on the screen, to be read, searched, printed and saved.
+#pragma once
+
+#include "reports/Printing.h"
+#include "reports/ReportDocument.h"
+
+#include <QWidget>
+
+class QBoxLayout;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QSplitter;
+class QStatusBar;
+
+namespace norvane
+{
+class Boxes;
+}
+
+namespace norvane::reports
+{
+
+class ChartPane;
+class FindBar;
+class PageView;
+
+/// A window of its own that is deleted when it closes. It stands above @p parent and can be used while that
+/// is modal. What it prints and saves is what it shows.
+class PreviewWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    PreviewWindow(ReportData report, Boxes& boxes, PrinterFinder findPrinter, QWidget* parent);
+
+private:
+    using Handler = void (PreviewWindow::*)();
+    using FileWriter = void (*)(const ReportData& report, bool showsCharts, const QString& path);
+    struct FileKind;
+
+    void buildControls();
+    [[nodiscard]] QBoxLayout* makeButtons();
+    QPushButton* addButton(QBoxLayout& row, const QString& name, const QString& caption, Handler handler);
+    void addSaveButton(QBoxLayout& row);
+    void addZoom(QBoxLayout& row);
+    void addChartSwitch(QBoxLayout& row);
+    void addPageButtons(QBoxLayout& row);
+    void addKeys();
+    void openAtGoodSize();
+
+    void layOutMore();
+    void showPageNumber();
+    void print();
+    void save(const FileKind& kind);
+    void copy();
+    void openFind();
+    void findNext();
+    void findPrevious();
+    void find(int step);
+    void switchCharts(bool shows);
+    void leave();
+    void escape();
+    void guarded(const std::function<void()>& act);
+    void tell(const QString& text);
+
+    ReportDocument m_document;
+    Boxes& m_boxes;
+    PrinterFinder m_findPrinter;
+    PageView* m_view;
+    ChartPane* m_charts;
+    FindBar* m_find;
+    QLabel* m_pageNumber = nullptr;
+    QStatusBar* m_status;
+};
+
+} // namespace norvane::reports

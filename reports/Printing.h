@@ -1,0 +1,22 @@
+// Reports on the printer.
+#pragma once
+
+#include "reports/ReportData.h"
+
+#include <functional>
+#include <memory>
+
+class QPrinter;
+
+namespace norvane::reports
+{
+
+/// Finds the printer; null when the system has none to use.
+using PrinterFinder = std::function<std::unique_ptr<QPrinter>()>;
+
+/// Prints all pages on the printer that @p findPrinter gives, without a question.
+/// @return its name.
+/// @throws ReportError when there is none or it fails.
+QString printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter);
+
+} // namespace norvane::reports

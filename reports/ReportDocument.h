@@ -1,0 +1,48 @@
+// A report with its pages, as a preview shows it.
+#pragma once
+
+#include "reports/ReportPainter.h"
+
+#include <memory>
+
+namespace norvane::reports
+{
+
+class ReportDocument
+{
+public:
+    /// Its charts are among the pages at first.
+    explicit ReportDocument(ReportData report);
+    ReportDocument(const ReportDocument&) = delete;
+    ReportDocument& operator=(const ReportDocument&) = delete;
+
+    [[nodiscard]] const ReportData& report() const { return m_report; }
+    [[nodiscard]] const PageText& text() const { return m_text; }
+    [[nodiscard]] ReportPages& pages() { return *m_pages; }
+    [[nodiscard]] const ReportPages& pages() const { return *m_pages; }
+    void paint(QPainter& painter, int page) const
+    {
+        ReportPainter(m_report, *m_pages, m_text).paint(painter, page);
+    }
+
+    [[nodiscard]] bool hasCharts() const;
+    [[nodiscard]] bool showsCharts() const { return m_showsCharts; }
+    /// Begins the pages anew, with the charts or without.
+    void setShowsCharts(bool shows);
+
+    /// The first line from @p from on that holds @p sought in any of its cells, in either case of letters; on
+    /// from the other end where the report ends. @param step 1 forwards, -1 backwards. @return -1 for none.
+    [[nodiscard]] qsizetype findLine(const QString& sought, qsizetype from, int step) const;
+    /// The cells of lines @p first to @p last, parted by tabs, as spreadsheets and letters take them.
+    [[nodiscard]] QString linesAsText(qsizetype first, qsizetype last) const;
+
+private:
+    [[nodiscard]] bool holds(qsizetype line, const QString& sought) const;
+
+    ReportData m_report;
+    PageText m_text;
+    bool m_showsCharts = true;
+    std::unique_ptr<ReportPages> m_pages;
+};
+
+} // namespace norvane::reports
