@@ -184,7 +184,8 @@ void LineBuilder::addTotal(LineKind kind, const SlotTotals& totals, const QStrin
         if (m_layout.columns[i].isTotalled)
             cells[i] = number(m_layout.columns[i], numbers);
     }
-    cells[m_labelColumn] = label;
+    if (!m_layout.columns[m_labelColumn].isTotalled)
+        cells[m_labelColumn] = label;
     m_data.addLine(kind, std::move(cells));
 }
 

@@ -221,11 +221,13 @@ private:
         const Token token = m_tokens.current();
         if (token.kind != TokenKind::Number)
             m_tokens.failExpecting(u"a field, a number, a text or a day"_s);
-        const std::string text = (isNegative ? "-" : "") + token.text.toString().toStdString();
+        QString text = token.text.toString();
+        if (isNegative)
+            text.prepend(u'-');
         bool isWhole = false;
-        const qlonglong whole = QString::fromStdString(text).toLongLong(&isWhole);
+        const qlonglong whole = text.toLongLong(&isWhole);
         bool isNumber = false;
-        const double number = QString::fromStdString(text).toDouble(&isNumber);
+        const double number = text.toDouble(&isNumber);
         if (!isNumber)
             m_tokens.failExpecting(u"a number"_s);
         m_tokens.take();
