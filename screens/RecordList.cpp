@@ -45,19 +45,14 @@ protected:
 
 RecordList::RecordList(const std::shared_ptr<store::Database>& database, const RecordListSource& source,
                        QWidget* parent)
-    : QWidget(parent), m_model(new RecordListModel(database, source, this)), m_handle(new QToolButton(this)),
-      m_panel(new QWidget(this)), m_filter(new QLineEdit(m_panel)), m_table(new QTableView(m_panel)),
-      m_count(new QLabel(m_panel))
+    : QWidget(parent), m_model(new RecordListModel(database, source, this)), m_handle(new QToolButton(this))
 {
     ui::nameControl(*this, u"RecordList"_s);
     buildHandle();
-    buildTable();
-    buildPanel();
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addWidget(m_handle);
-    row->addWidget(m_panel);
 }
 
 void RecordList::buildHandle()
@@ -72,14 +67,16 @@ void RecordList::buildHandle()
     connect(m_handle, &QToolButton::clicked, this, &RecordList::toggle);
 }
 
+/// Not before the list is opened: most screens are used without it and open faster so.
 void RecordList::buildPanel()
 {
-    ui::nameControl(*m_filter, u"ListFilter"_s);
-    m_filter->setPlaceholderText(u"Part of number or text"_s);
-    m_filter->setClearButtonEnabled(true);
-    m_filter->installEventFilter(this);
-    connect(m_filter, &QLineEdit::textChanged, this, &RecordList::setFilter);
-    connect(m_filter, &QLineEdit::returnPressed, this, [this] { choose(m_table->currentIndex()); });
+    m_panel = new QWidget(this);
+    m_panel->setFixedWidth(panelPixels);
+    m_panel->hide();
+    layout()->addWidget(m_panel);
+    buildFilter();
+    buildTable();
+    m_count = new QLabel(m_panel);
     ui::nameControl(*m_count, u"ListCount"_s);
     auto* const column = new QVBoxLayout(m_panel);
     column->setContentsMargins(0, ui::spacing::controlGap, ui::spacing::controlGap, ui::spacing::controlGap);
@@ -87,12 +84,22 @@ void RecordList::buildPanel()
     column->addWidget(m_filter);
     column->addWidget(m_table, 1);
     column->addWidget(m_count);
-    m_panel->setFixedWidth(panelPixels);
-    m_panel->hide();
+}
+
+void RecordList::buildFilter()
+{
+    m_filter = new QLineEdit(m_panel);
+    ui::nameControl(*m_filter, u"ListFilter"_s);
+    m_filter->setPlaceholderText(u"Part of number or text"_s);
+    m_filter->setClearButtonEnabled(true);
+    m_filter->installEventFilter(this);
+    connect(m_filter, &QLineEdit::textChanged, this, &RecordList::setFilter);
+    connect(m_filter, &QLineEdit::returnPressed, this, [this] { choose(m_table->currentIndex()); });
 }
 
 void RecordList::buildTable()
 {
+    m_table = new QTableView(m_panel);
     ui::nameControl(*m_table, u"ListTable"_s);
     m_table->setModel(m_model);
     m_table->setItemDelegate(new MarkingDelegate(m_table));
@@ -115,12 +122,17 @@ int RecordList::handleWidth() const
     return handlePixels;
 }
 
+bool RecordList::isOpen() const
+{
+    return m_panel != nullptr && !m_panel->isHidden();
+}
+
 void RecordList::toggle()
 {
-    if (m_panel->isHidden()) {
-        unfold();
-    } else {
+    if (isOpen()) {
         fold();
+    } else {
+        unfold();
     }
 }
 
@@ -128,6 +140,8 @@ void RecordList::toggle()
 void RecordList::unfold()
 {
     Q_EMIT widened(panelPixels);
+    if (m_panel == nullptr)
+        buildPanel();
     m_panel->show();
     m_handle->setArrowType(Qt::RightArrow);
     m_filter->setFocus(); // reads the records, unless the window is not active
@@ -145,7 +159,7 @@ void RecordList::fold()
 
 void RecordList::reload()
 {
-    if (m_panel->isHidden())
+    if (!isOpen())
         return;
     m_model->reload();
     fitNumbers();
@@ -156,7 +170,8 @@ void RecordList::reload()
 void RecordList::mark(const QString& number)
 {
     m_model->mark(number);
-    showMarked();
+    if (m_panel != nullptr)
+        showMarked();
 }
 
 void RecordList::setFilter(const QString& text)

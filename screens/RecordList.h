@@ -41,10 +41,12 @@ Q_SIGNALS:
     void widened(int pixels);
 
 private:
+    [[nodiscard]] bool isOpen() const;
     void unfold();
     void fold();
     void buildHandle();
     void buildPanel();
+    void buildFilter();
     void buildTable();
     void setFilter(const QString& text);
     void showMarked();
@@ -54,10 +56,10 @@ private:
 
     RecordListModel* m_model;
     QToolButton* m_handle;
-    QWidget* m_panel;
-    QLineEdit* m_filter;
-    QTableView* m_table;
-    QLabel* m_count;
+    QWidget* m_panel = nullptr; ///< with all that follows, none before the list is opened
+    QLineEdit* m_filter = nullptr;
+    QTableView* m_table = nullptr;
+    QLabel* m_count = nullptr;
 };
 
 } // namespace norvane::screens

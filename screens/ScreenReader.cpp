@@ -149,8 +149,8 @@ void ScreenReader::read(QStringView section, QStringView key, int limit, Convert
     const QString value = m_file.value(section, key, {}, limit);
     if (value.isEmpty())
         return;
-    const auto explain = [&](const QString& text) {
-        return u"%1 (%2, section [%3], key %4)"_s.arg(text, m_path, section, key);
+    const auto explain = [&](const QString& what) {
+        return u"%1 (%2, section [%3], key %4)"_s.arg(what, m_path, section, key);
     };
     atPlace(explain, [&] { convert(value); });
 }

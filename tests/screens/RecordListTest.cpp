@@ -101,7 +101,7 @@ TEST_F(RecordListTest, FollowsTheScreenAndTheTable)
 TEST_F(RecordListTest, StandsBesideScreensThatWalkSeveralRecordsOnly)
 {
     Form form = open();
-    EXPECT_FALSE(control(form, "ListFilter")->isVisible()) << "at first";
+    EXPECT_FALSE(form->findChild<QWidget*>(u"ListFilter"_s)) << "at first";
     const int width = form->width();
     press(form, "ListHandle");
     EXPECT_GT(form->width(), width + 200);
