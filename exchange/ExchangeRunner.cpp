@@ -163,12 +163,13 @@ bool ExchangeRunner::importFile(int file)
     if (file == pluFile)
         notePluPointsWait(m_values, true);
     const bool imported = records::importRegisterFile(file, m_procedures);
-    if (!imported)
+    if (!imported) {
         notePluPointsWait(m_values, waited);
-    else if (file == pluFile)
+    } else if (file == pluFile) {
         notePluCount();
-    else if (file == pluPointsFile)
+    } else if (file == pluPointsFile) {
         notePluPointsWait(m_values, false);
+    }
     return imported;
 }
 
@@ -242,10 +243,11 @@ bool ExchangeRunner::takeKeptFile(const DownloadRow& row)
 
 void ExchangeRunner::copyAfterSend(const DownloadRow& row)
 {
-    if (row.copy == Copy::ToCustomerAfter)
+    if (row.copy == Copy::ToCustomerAfter) {
         keepForCustomer(dataFile(row.file));
-    else if (row.copy == Copy::FromCustomerAfter)
+    } else if (row.copy == Copy::FromCustomerAfter) {
         MoveDataFile(m_values.customerPath, m_values.appPath, dataFile(row.file));
+    }
 }
 
 /// The customer's copy is the only store of a file without a table. It stays when a tool reports success but

@@ -113,10 +113,11 @@ void FrmComm::runSequence(const link::LinkSettings& link)
 void FrmComm::moveTicked(const link::LinkSettings& link)
 {
     ExchangeRunner runner(m_values, link, *this, outside());
-    if (m_exchangeMode == "UPLOAD"_L1)
+    if (m_exchangeMode == "UPLOAD"_L1) {
         runner.UploadData();
-    else
+    } else {
         runner.downloaddata();
+    }
 }
 
 QString FrmComm::leavingNotice() const

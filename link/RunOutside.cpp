@@ -10,10 +10,11 @@ ChildResult runTool(const RunOutside& outside, const QString& commandLine)
 {
     const ChildResult result = outside.runAndWait(commandLine);
     const QString tool = commandWords(commandLine).value(0);
-    if (result == ChildResult::Crashed)
+    if (result == ChildResult::Crashed) {
         outside.showNotice(u"The program %1 crashed."_s.arg(tool));
-    else if (result != ChildResult::Ended)
+    } else if (result != ChildResult::Ended) {
         outside.showNotice(u"The program %1 was not found."_s.arg(tool));
+    }
     return result;
 }
 

@@ -166,10 +166,11 @@ bool ToolWait::eventFilter(QObject* watched, QEvent* event)
 void ToolWait::followEscape(const QEvent& event)
 {
     const bool leaves = event.type() == QEvent::FocusOut || event.type() == QEvent::ApplicationStateChange;
-    if (leaves || (isEscape(event) && event.type() == QEvent::KeyRelease && !isRepeated(event)))
+    if (leaves || (isEscape(event) && event.type() == QEvent::KeyRelease && !isRepeated(event))) {
         m_escape.invalidate();
-    else if (isEscape(event) && event.type() == QEvent::KeyPress && !m_escape.isValid())
+    } else if (isEscape(event) && event.type() == QEvent::KeyPress && !m_escape.isValid()) {
         m_escape.start();
+    }
 }
 
 /// A window gets its keys and clicks first and hands them to the widget that they are for.

@@ -58,10 +58,11 @@ QStringList WatchedStep::doubtfulFiles() const
 {
     QStringList files;
     for (const QString& name : m_expected.names()) {
-        if (!m_expected.wasWritten(name))
+        if (!m_expected.wasWritten(name)) {
             files << fileAndAge(name);
-        else if (m_result != ChildResult::Ended)
+        } else if (m_result != ChildResult::Ended) {
             files << u"%1, which may be incomplete"_s.arg(name);
+        }
     }
     return files;
 }

@@ -24,9 +24,10 @@ QPainter& PageDevice::nextPage()
 {
     const bool began = m_isBegun ? m_device.newPage() : m_painter.begin(&m_device);
     m_hasFailed = m_hasFailed || !began;
-    if (!m_isBegun && began)
+    if (!m_isBegun && began) {
         m_painter.scale(m_device.logicalDpiX() / millimetresPerInch,
                         m_device.logicalDpiY() / millimetresPerInch);
+    }
     m_isBegun = true;
     return m_painter;
 }

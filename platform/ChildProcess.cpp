@@ -84,10 +84,11 @@ ChildResult runAndWait(const QString& commandLine, const QString& programFolder,
     child.start(program, words);
     if (!child.waitForStarted(-1))
         return ChildResult::NotStarted;
-    if (watch.goOn)
+    if (watch.goOn) {
         waitForEnd(child, watch);
-    else
+    } else {
         child.waitForFinished(-1);
+    }
     return child.exitStatus() == QProcess::NormalExit ? ChildResult::Ended : ChildResult::Crashed;
 }
 

@@ -142,18 +142,20 @@ DecimalTotal::Places& DecimalTotal::places()
 void DecimalTotal::add(std::int64_t number)
 {
     constexpr auto mostWhole = static_cast<std::int64_t>(mostExactUnits) / wholeUnits;
-    if (number > -mostWhole && number < mostWhole)
+    if (number > -mostWhole && number < mostWhole) {
         addUnits(number * wholeUnits);
-    else
+    } else {
         add(std::string_view(std::to_string(number)));
+    }
 }
 
 void DecimalTotal::add(std::string_view text)
 {
-    if (const auto units = plainUnits(text))
+    if (const auto units = plainUnits(text)) {
         addUnits(*units);
-    else if (const auto number = scanWholeNumber(text))
+    } else if (const auto number = scanWholeNumber(text)) {
         places().add(number->negative, number->digits, number->scale);
+    }
 }
 
 void DecimalTotal::addAsSpelled(double number)

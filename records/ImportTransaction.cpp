@@ -14,10 +14,11 @@ namespace
 void keepOrPutBack(store::Transaction& transaction, Boxes& boxes, const QString& failure,
                    const QString& question)
 {
-    if (!question.isEmpty() && askBeforeLoss(boxes, failure + u"\r\r"_s + question))
+    if (!question.isEmpty() && askBeforeLoss(boxes, failure + u"\r\r"_s + question)) {
         transaction.commit();
-    else
+    } else {
         transaction.rollBack();
+    }
 }
 
 } // namespace

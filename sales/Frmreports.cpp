@@ -101,10 +101,11 @@ void showReport(const ReportEntry& entry, ApplicationValues& values, Boxes& boxe
     Frmreports form(values, boxes, runner, parent);
     form.setWindowTitle(entry.title);
     reports::Report& report = form.Report1();
-    if (entry.titleUse == TitleUse::Report)
+    if (entry.titleUse == TitleUse::Report) {
         report.setReportTitle(entry.title);
-    else
+    } else {
         report.setWindowTitle(entry.title);
+    }
     report.setDataFile(0, values.databasePath);
     report.setReportFile(joinPath(values.appPath, entry.file));
     if (!entry.formula.isEmpty())

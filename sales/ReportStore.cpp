@@ -66,10 +66,11 @@ Stored ReportStore::store()
 {
     records::importOrPutBack(m_transaction, m_boxes, keepSalesQuestion, [this] { importAll(); });
     auto outcome = Stored::Yes;
-    if (!mayBeShort())
+    if (!mayBeShort()) {
         outcome = Stored::Refused;
-    else if (isRepeat() && !mayStoreAgain())
+    } else if (isRepeat() && !mayStoreAgain()) {
         outcome = m_origin == ReportOrigin::ThisRun ? Stored::AlreadyThere : Stored::Refused;
+    }
     if (outcome != Stored::Yes) {
         m_transaction.rollBack();
         return outcome;

@@ -33,9 +33,10 @@ BoundQuery::BoundQuery(Database& database, const std::string& sql, std::vector<V
     : m_database(database), m_values(std::move(values)), m_keepGoing(std::move(keepGoing)),
       m_statement(std::make_unique<PreparedStatement>(database.d->connection(), sql, what)), m_askedAt(now())
 {
-    if (!m_statement->onlyReads())
+    if (!m_statement->onlyReads()) {
         throw RuntimeFailure(Failure::UnknownNameInQuery,
                              u"The statement would change records. %1"_s.arg(what));
+    }
     for (std::size_t i = 0; i < m_values.size(); ++i)
         m_statement->bind(static_cast<int>(i) + 1, m_values[i]);
     m_row.resize(static_cast<std::size_t>(m_statement->columnCount()));

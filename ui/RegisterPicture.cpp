@@ -40,9 +40,10 @@ void drawKeyboard(QPainter& painter)
     const QPointF panel[] = {{12, 30}, {88, 30}, {96, 68}, {4, 68}};
     painter.setBrush(QColor(0xe6, 0xec, 0xf1));
     painter.drawConvexPolygon(panel, 4);
-    for (int row = 0; row < keyRows; ++row)
+    for (int row = 0; row < keyRows; ++row) {
         for (int column = 0; column < keyColumns; ++column)
             drawPart(painter, {40 + column * 12.0 - row, 35 + row * 10.5, 9, 7}, colours::accent, 1.5);
+    }
     drawPart(painter, {15, 46, 18, 17.5}, QColor(0xf2, 0xa6, 0x3b), 2);
 }
 

@@ -36,10 +36,11 @@ public:
     {
         const QStringList names = m_folder.entryList({u"*.rpt"_s, u"*.scn"_s}, QDir::Files, QDir::Name);
         for (const QString& name : names) {
-            if (name.endsWith(u".rpt"_s, Qt::CaseInsensitive))
+            if (name.endsWith(u".rpt"_s, Qt::CaseInsensitive)) {
                 checkLayout(m_folder.filePath(name));
-            else
+            } else {
                 checkScreen(m_folder.filePath(name));
+            }
         }
         std::printf("%d files, %d mistakes\n", static_cast<int>(names.size()), m_mistakes);
         return m_mistakes == 0 && !names.isEmpty() ? 0 : 1;
@@ -92,9 +93,10 @@ private:
                 checkControl(path, control, opened, records);
         });
         const auto report = screen.report();
-        if (screen.buttons().print && !norvane::pathExists(m_folder.filePath(report.file)))
+        if (screen.buttons().print && !norvane::pathExists(m_folder.filePath(report.file))) {
             tell(u"%1, section [CrystalReport], key CrystalReportFile: there is no file %2"_s.arg(
                 path, report.file));
+        }
     }
 
     void checkControl(const QString& path, const norvane::screens::ControlDefinition& control,

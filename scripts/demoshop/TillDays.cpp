@@ -36,9 +36,10 @@ void runIn(const QString& folder, const QString& program, const QStringList& wor
     child.setProcessChannelMode(QProcess::MergedChannels);
     child.start(program, words);
     child.waitForFinished(-1);
-    if (child.error() != QProcess::UnknownError || child.exitCode() != 0)
+    if (child.error() != QProcess::UnknownError || child.exitCode() != 0) {
         throw std::runtime_error((program + u' ' + words.join(u' ')).toStdString() + ": " +
                                  child.readAll().toStdString());
+    }
 }
 
 TillDays::TillDays(QString folder, const QString& program, QString tools, const QString& database)

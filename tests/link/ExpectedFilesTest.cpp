@@ -20,10 +20,11 @@ TEST(ExpectedFiles, TellTheSameBytesWrittenAgainFromAnOldFile)
     for (int round = 0; round < 50; ++round) {
         const ExpectedFiles expected({u"status.out"_s, u"67.txt"_s});
         EXPECT_FALSE(expected.wasWritten(u"status.out"_s));
-        if (round % 2 == 0)
+        if (round % 2 == 0) {
             folder.write("STATUS.OUT", "0");
-        else
+        } else {
             writeWholeFile(u"status.out"_s, "0"); // by another file that takes its place
+        }
         ASSERT_TRUE(expected.wasWritten(u"status.out"_s)) << round;
         ASSERT_FALSE(expected.allWritten());
         ASSERT_FALSE(expected.wasWritten(u"67.txt"_s));

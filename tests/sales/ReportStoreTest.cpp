@@ -25,9 +25,10 @@ Texts day(int sold, int plus = 3, int offers = 1)
 {
     const QByteArray items = QByteArray::number(sold) + ",2.5\r\n0,0\r\n";
     QByteArray pluLines;
-    for (int plu = 1; plu <= plus; ++plu)
+    for (int plu = 1; plu <= plus; ++plu) {
         pluLines += QByteArray::number(plu) + ",0,0," +
                     (plu == 1 ? items.first(items.indexOf('\r')) : "0,0") + "\r\n";
+    }
     return {items, pluLines, items, QByteArray("1\r\n").repeated(offers), items};
 }
 

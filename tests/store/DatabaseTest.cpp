@@ -56,9 +56,10 @@ TEST(DatabaseCheck, FindsDamageOnEveryPageAndAWrongLength)
     constexpr qsizetype page = 4096;
     ASSERT_GT(sound.size(), 10 * page);
     for (qsizetype at = page; at < sound.size(); at += page) {
-        for (const char filling : {'\0', '\xFF'})
+        for (const char filling : {'\0', '\xFF'}) {
             expectDamage(QByteArray(sound).replace(at, page, QByteArray(page, filling)),
                          std::to_string(at / page));
+        }
     }
     expectDamage(sound.chopped(100), "cut short");
     expectDamage(sound + QByteArray(100, '\0'), "longer");
