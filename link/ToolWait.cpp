@@ -59,16 +59,13 @@ bool holds(const std::array<QEvent::Type, count>& types, QEvent::Type type)
     return std::find(types.begin(), types.end(), type) != types.end();
 }
 
-bool isEscape(const QEvent& event)
+/// A key that is down again so soon was held all the time.
+constexpr qint64 millisecondsUpBetweenRepeats = 20;
+
+bool isKey(const QEvent& event, Qt::Key key)
 {
     return (event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease) &&
-           static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
-}
-
-/// A key that is held down is reported again and again.
-bool isRepeated(const QEvent& event)
-{
-    return static_cast<const QKeyEvent&>(event).isAutoRepeat();
+           static_cast<const QKeyEvent&>(event).key() == key;
 }
 
 bool isMouse(const QEvent& event)
@@ -88,6 +85,31 @@ const QWidget* target(const QWidget& window, const QEvent& event)
 
 } // namespace
 
+bool HeldKey::follow(const QEvent& event)
+{
+    if (!isKey(event, m_key))
+        return false;
+    const bool saysSo = static_cast<const QKeyEvent&>(event).isAutoRepeat();
+    if (event.type() == QEvent::KeyRelease) {
+        if (!saysSo)
+            m_up.start();
+        return saysSo;
+    }
+    const bool wasDown =
+        m_down.isValid() && (!m_up.isValid() || !m_up.hasExpired(millisecondsUpBetweenRepeats));
+    if (!wasDown) {
+        m_down.start();
+        m_spent = false;
+    }
+    m_up.invalidate();
+    return saysSo || wasDown;
+}
+
+bool HeldKey::isHeld(std::chrono::milliseconds atLeast) const
+{
+    return m_down.isValid() && !m_up.isValid() && !m_spent && m_down.hasExpired(atLeast.count());
+}
+
 ToolWait::ToolWait(QWidget* form, Boxes& boxes, std::function<void(const QString& text)> showRunning)
     : m_form(form), m_boxes(boxes), m_showRunning(std::move(showRunning))
 {
@@ -99,7 +121,7 @@ ChildResult ToolWait::run(const ApplicationValues& values, const QString& comman
 {
     const QString tool = commandWords(commandLine).value(0).section(u'/', -1);
     m_shown = std::chrono::seconds(0);
-    m_escape.invalidate();
+    m_escape.letGo();
     ChildResult result{};
     {
         const auto ended = qScopeGuard([this] {
@@ -122,8 +144,7 @@ bool ToolWait::goOn(const QString& tool, std::chrono::milliseconds running)
     qApp->installEventFilter(this);
     showSeconds(running);
     QCoreApplication::processEvents();
-    const bool asks = running >= m_patience.hangsAfter && m_escape.isValid() &&
-                      m_escape.hasExpired(m_patience.held.count());
+    const bool asks = running >= m_patience.hangsAfter && m_escape.isHeld(m_patience.held);
     return !asks || !mayBeEnded(tool, running);
 }
 
@@ -139,8 +160,8 @@ void ToolWait::showSeconds(std::chrono::milliseconds running)
 bool ToolWait::mayBeEnded(const QString& tool, std::chrono::milliseconds running)
 {
     // This Escape, and those tried before it, are not meant for the form.
-    std::erase_if(m_kept, [](const KeptEvent& kept) { return isEscape(*kept.event); });
-    m_escape.invalidate();
+    std::erase_if(m_kept, [](const KeptEvent& kept) { return isKey(*kept.event, Qt::Key_Escape); });
+    m_escape.spend();
     return m_boxes.ask(u"%1 has been running for %2 seconds and may be hanging.\r\r"
                        "Do you want to end it? What it was moving will not be complete."_s.arg(tool)
                            .arg(std::chrono::floor<std::chrono::seconds>(running).count()),
@@ -149,28 +170,21 @@ bool ToolWait::mayBeEnded(const QString& tool, std::chrono::milliseconds running
 
 bool ToolWait::eventFilter(QObject* watched, QEvent* event)
 {
+    // A window gets a key first and may hand it on: it counts once.
+    const bool repeated = watched->isWindowType() && m_escape.follow(*event);
     // A box that has opened since waits for its answer. The Escape that brought it up is still down and must
     // not be that answer.
     if (m_modal != QApplication::activeModalWidget())
-        return isEscape(*event) && isRepeated(*event);
-    followEscape(*event);
+        return repeated;
+    if (event->type() == QEvent::FocusOut)
+        m_escape.letGo();
     if (!holds(blocked, event->type()))
         return false;
-    if (holds(worthKeeping, event->type()) && belongsToForm(*watched, *event))
+    if (!repeated && holds(worthKeeping, event->type()) && belongsToForm(*watched, *event))
         keep(*watched, *event);
     if (event->type() == QEvent::Close)
         event->ignore();
     return true;
-}
-
-void ToolWait::followEscape(const QEvent& event)
-{
-    const bool leaves = event.type() == QEvent::FocusOut || event.type() == QEvent::ApplicationStateChange;
-    if (leaves || (isEscape(event) && event.type() == QEvent::KeyRelease && !isRepeated(event))) {
-        m_escape.invalidate();
-    } else if (isEscape(event) && event.type() == QEvent::KeyPress && !m_escape.isValid()) {
-        m_escape.start();
-    }
 }
 
 /// A window gets its keys and clicks first and hands them to the widget that they are for.
@@ -195,10 +209,6 @@ bool ToolWait::belongsToForm(const QObject& receiver, const QEvent& event) const
 
 void ToolWait::keep(QObject& receiver, const QEvent& event)
 {
-    // A held key counts once.
-    const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
-    if (isKey && isRepeated(event))
-        return;
     m_kept.push_back({&receiver, std::unique_ptr<QEvent>(event.clone())});
 }
 

@@ -25,6 +25,27 @@ struct ToolPatience {
     std::chrono::milliseconds held = std::chrono::seconds(2);
 };
 
+/// How long a key has been held. Some systems report a held key as going up and down again and again, and do
+/// not always say that it is held.
+class HeldKey
+{
+public:
+    explicit HeldKey(Qt::Key key) : m_key(key) {}
+
+    /// @return whether @p event only repeats that the key is down
+    bool follow(const QEvent& event);
+    [[nodiscard]] bool isHeld(std::chrono::milliseconds atLeast) const;
+    /// It counts as held only after it went down afresh.
+    void spend() { m_spent = true; }
+    void letGo() { m_down.invalidate(); }
+
+private:
+    Qt::Key m_key;
+    QElapsedTimer m_down;
+    QElapsedTimer m_up; ///< since the last report that it went up, invalid after one that it went down
+    bool m_spent = false;
+};
+
 /// Runs tools one after another. Meanwhile the windows are painted but get neither keys nor clicks. Only what
 /// the user does in the form of the run is kept, and reaches it as soon as the tool has ended, so that Exit
 /// works. A tool that may be hanging can be ended.
@@ -54,7 +75,6 @@ private:
     [[nodiscard]] bool goOn(const QString& tool, std::chrono::milliseconds running);
     void showSeconds(std::chrono::milliseconds running);
     [[nodiscard]] bool mayBeEnded(const QString& tool, std::chrono::milliseconds running);
-    void followEscape(const QEvent& event);
     [[nodiscard]] bool belongsToForm(const QObject& receiver, const QEvent& event) const;
     void keep(QObject& receiver, const QEvent& event);
     void handOver();
@@ -64,7 +84,7 @@ private:
     std::function<void(const QString& text)> m_showRunning;
     ToolPatience m_patience;
     std::chrono::seconds m_shown{0};
-    QElapsedTimer m_escape;    ///< since it went down; invalid while it is up
+    HeldKey m_escape{Qt::Key_Escape};
     QPointer<QWidget> m_modal; ///< the window that takes all input, if any
     std::vector<KeptEvent> m_kept;
 };

@@ -144,9 +144,13 @@ TEST_F(ToolWaitTest, AsksOnlyAboutAnEscapeThatIsHeldLongEnough)
         EXPECT_TRUE(box.text.startsWith(u"tool has been running for "_s)) << qPrintable(box.text);
         up();
     };
+    bool isDown = false;
     const auto again = [&] {
-        if (boxes.shown.size() == 1)
-            down();
+        if (boxes.shown.size() != 1)
+            return;
+        if (std::exchange(isDown, true))
+            up(); // as some systems report a key that is held
+        down();
     };
     acts.resize(acts.size() + 40, again);
     EXPECT_EQ(acts.size(), before + 41);
