@@ -60,7 +60,7 @@ QString CellFormat::text(const store::Value& value) const
 {
     if (value.isNull())
         return {};
-    const QString plain = value.toText().trimmed();
+    QString plain = value.toText().trimmed();
     switch (kind) {
     case FormatKind::Digits:
         return withoutLeadingZeros(plain);

@@ -43,10 +43,11 @@ void ChartPoints::add(const QString& label, const SlotNumbers& numbers, QDate da
 
 Chart ChartPoints::finished(int moneyDecimals)
 {
-    if (m_layout.kind != ChartKind::Course)
+    if (m_layout.kind != ChartKind::Course) {
         keepLargest();
-    else if (m_points.size() > mostDays && m_days.size() == m_points.size())
+    } else if (m_points.size() > mostDays && m_days.size() == m_points.size()) {
         putMonthsTogether();
+    }
     Chart chart{m_layout.kind, m_layout.title, m_layout.isMoney ? moneyDecimals : 0, {}};
     // A course of one point is none.
     if (m_layout.kind != ChartKind::Course || m_points.size() > 1)

@@ -56,12 +56,13 @@ std::string exactText(const store::Value& value)
     DecimalTotal total;
     const auto add = [&total](const auto& number) {
         using Kind = std::decay_t<decltype(number)>;
-        if constexpr (std::is_same_v<Kind, std::string>)
+        if constexpr (std::is_same_v<Kind, std::string>) {
             total.add(std::string_view(number));
-        else if constexpr (std::is_same_v<Kind, bool>)
+        } else if constexpr (std::is_same_v<Kind, bool>) {
             total.add(std::int64_t{number ? -1 : 0});
-        else if constexpr (std::is_arithmetic_v<Kind>)
+        } else if constexpr (std::is_arithmetic_v<Kind>) {
             total.add(number);
+        }
     };
     std::visit(add, value.data());
     return total.text();

@@ -17,12 +17,13 @@ class ExactTotal
 public:
     void add(std::string_view number, bool negative)
     {
-        if (!negative)
+        if (!negative) {
             m_total.add(number);
-        else if (number.starts_with('-'))
+        } else if (number.starts_with('-')) {
             m_total.add(number.substr(1));
-        else
+        } else {
             m_total.add(std::string_view('-' + std::string(number)));
+        }
     }
     [[nodiscard]] std::string text() const { return m_total.text(); }
 
@@ -89,12 +90,13 @@ private:
     {
         auto left = product();
         for (;;) {
-            if (m_tokens.takeSymbol(u"+"))
+            if (m_tokens.takeSymbol(u"+")) {
                 left = pair(Kind::Sum, std::move(left), product());
-            else if (m_tokens.takeSymbol(u"-"))
+            } else if (m_tokens.takeSymbol(u"-")) {
                 left = pair(Kind::Difference, std::move(left), product());
-            else
+            } else {
                 return left;
+            }
         }
     }
 
@@ -102,12 +104,13 @@ private:
     {
         auto left = part();
         for (;;) {
-            if (m_tokens.takeSymbol(u"*"))
+            if (m_tokens.takeSymbol(u"*")) {
                 left = pair(Kind::Product, std::move(left), part());
-            else if (m_tokens.takeSymbol(u"/"))
+            } else if (m_tokens.takeSymbol(u"/")) {
                 left = pair(Kind::Quotient, std::move(left), part());
-            else
+            } else {
                 return left;
+            }
         }
     }
 

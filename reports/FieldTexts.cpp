@@ -39,12 +39,13 @@ QString textOfParts(const Parts& parts, const CellFormat& format, const LineFiel
 {
     QString made;
     for (const auto& [fixed, slot, words] : parts) {
-        if (!slot)
+        if (!slot) {
             made += fixed;
-        else if (words.empty())
+        } else if (words.empty()) {
             made += format.text(fieldAt(fields, *slot));
-        else if (const auto* const chosen = wordsFor(words, fieldAt(fields, *slot)))
+        } else if (const auto* const chosen = wordsFor(words, fieldAt(fields, *slot))) {
             made += textOfParts(*chosen, format, fields);
+        }
     }
     return made;
 }

@@ -79,20 +79,21 @@ void FormulaTokens::read()
     }
     const QChar first = m_formula.at(m_at);
     const QStringView two = m_formula.mid(m_at, 2);
-    if (first == u'{')
+    if (first == u'{') {
         readEnclosed(TokenKind::Field, u'}', u"a field's name"_s);
-    else if (first == u'"' || first == u'\'')
+    } else if (first == u'"' || first == u'\'') {
         readEnclosed(TokenKind::Text, first, u"a text"_s);
-    else if (isOfNumber(first))
+    } else if (isOfNumber(first)) {
         readPlain(TokenKind::Number, lengthWhile(isOfNumber));
-    else if (isOfWord(first))
+    } else if (isOfWord(first)) {
         readPlain(TokenKind::Word, lengthWhile(isOfWord));
-    else if (two == u"<>" || two == u"<=" || two == u">=")
+    } else if (two == u"<>" || two == u"<=" || two == u">=") {
         readPlain(TokenKind::Symbol, 2);
-    else if (QStringView(u"(),+-*/=<>").contains(first))
+    } else if (QStringView(u"(),+-*/=<>").contains(first)) {
         readPlain(TokenKind::Symbol, 1);
-    else
+    } else {
         throw FormulaError(m_at + 1, u"\"%1\" belongs in no formula"_s.arg(first));
+    }
 }
 
 bool FormulaTokens::isSymbol(QStringView symbol) const
@@ -160,9 +161,10 @@ void FormulaTokens::failExpecting(const QString& what) const
 
 Nesting::Nesting(FormulaTokens& tokens) : m_tokens(tokens)
 {
-    if (tokens.m_depth == mostNesting)
+    if (tokens.m_depth == mostNesting) {
         throw FormulaError(tokens.current().column,
                            u"brackets are nested more than %1 deep"_s.arg(mostNesting));
+    }
     ++tokens.m_depth;
 }
 

@@ -1,17 +1,15 @@
-// Keys of layout files as tables: which section has which, and how each is taken; see LayoutReader.h.
+// The engine that reads a layout by the tables of its keys; see LayoutReader.h.
 #include "reports/LayoutReader.h"
 
 #include "platform/FilePaths.h"
 #include "platform/ProfileFile.h"
-#include "reports/LayoutTexts.h"
+#include "reports/LayoutKeys.h"
 #include "reports/ReportRun.h"
-#include "store/Catalogue.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,260 +18,8 @@ namespace norvane::reports
 namespace
 {
 
-/// What the keys are taken into: the layout, and what a value needs to know of its section.
-struct Target {
-    ReportLayout& layout;
-    LineSource* source = nullptr; ///< whose fields the section names
-    Join* join = nullptr;
-    ColumnLayout* column = nullptr;
-    ChartLayout* chart = nullptr;
-
-    [[nodiscard]] const store::TableDefinition* table() const { return layout.source.table; }
-    [[nodiscard]] FieldSlots fields() const { return fieldSlots(layout, *source); }
-};
-
-/// @return false when the value is not as the rule expects it. @throws FormulaError likewise, with a place.
-using Take = bool (*)(const QString& value, Target& target);
-
-struct KeyRule {
-    QStringView key;
-    bool isRequired;
-    QLatin1String expected;
-    Take take;
-};
-
-bool takeYesNo(const QString& value, bool& flag)
-{
-    flag = value.compare("YES"_L1, Qt::CaseInsensitive) == 0;
-    return flag || value.compare("NO"_L1, Qt::CaseInsensitive) == 0;
-}
-
-template <typename Choice, std::size_t count>
-bool takeChoice(const QString& value, const std::array<std::pair<QLatin1String, Choice>, count>& choices,
-                Choice& choice)
-{
-    for (const auto& [name, meaning] : choices) {
-        if (value.compare(name, Qt::CaseInsensitive) == 0) {
-            choice = meaning;
-            return true;
-        }
-    }
-    return false;
-}
-
-constexpr std::array<std::pair<QLatin1String, Orientation>, 3> orientations{
-    {{"Automatic"_L1, Orientation::Automatic},
-     {"Portrait"_L1, Orientation::Portrait},
-     {"Landscape"_L1, Orientation::Landscape}}};
-constexpr std::array<std::pair<QLatin1String, Alignment>, 3> alignments{
-    {{"Left"_L1, Alignment::Left}, {"Centre"_L1, Alignment::Centre}, {"Right"_L1, Alignment::Right}}};
-constexpr std::array<std::pair<QLatin1String, ChartKind>, 3> chartKinds{
-    {{"Ranking"_L1, ChartKind::Ranking}, {"Course"_L1, ChartKind::Course}, {"Shares"_L1, ChartKind::Shares}}};
-constexpr std::array<std::pair<QLatin1String, PointSource>, 2> pointSources{
-    {{"Lines"_L1, PointSource::Lines}, {"Groups"_L1, PointSource::Groups}}};
-
-bool takeTable(const QString& value, Target& target)
-{
-    target.layout.source.table = store::catalogueTable(value);
-    return target.layout.source.table != nullptr;
-}
-
-bool takeLines(const QString& value, Target& target)
-{
-    auto& source = target.layout.source;
-    source.keys = parseFields(value, target.table());
-    return std::ranges::all_of(source.keys, [&](const auto& key) { return key.table == source.table; });
-}
-
-bool takeWhere(const QString& value, Target& target)
-{
-    // A layout names no period: those are the user's.
-    const auto condition = parseSelection(value, QDate(), target.table());
-    target.source->where = condition;
-    const auto* const table = target.source->table;
-    return !mentions(condition, [table](const auto& field) { return field.table != table; });
-}
-
-bool takeFormat(const QString& value, CellFormat& format)
-{
-    const auto parsed = parseFormat(value);
-    if (parsed)
-        format = *parsed;
-    return parsed.has_value();
-}
-
-bool takeColumnFormat(const QString& value, Target& target)
-{
-    auto& [column, format, number, text, isTotalled, shownIf] = *target.column;
-    if (!takeFormat(value, format))
-        return false;
-    column.alignment = format.alignment();
-    return true;
-}
-
-bool takeWords(const QString& value, Target& target)
-{
-    auto& format = target.column->format;
-    const auto words = parseWords(value);
-    if (!words)
-        return false;
-    format.kind = FormatKind::Words;
-    format.words = *words;
-    return true;
-}
-
-/// A number is reckoned; anything else is a text with fields in it. A day that stands alone stays a day.
-bool takeColumnValue(const QString& value, Target& target)
-{
-    auto& layout = *target.column;
-    layout.column.leastDecimals = layout.format.leastDecimals;
-    layout.column.mostDecimals = layout.format.mostDecimals;
-    layout.text.format = layout.format;
-    if (layout.format.isNumber()) {
-        layout.column.kind = ColumnKind::Number;
-        layout.number = parseExpression(value, target.fields());
-        return true;
-    }
-    layout.text.text = parseTemplate(value, target.fields());
-    if (layout.format.kind == FormatKind::Date && layout.text.text.parts.size() == 1)
-        layout.column.kind = ColumnKind::Date;
-    return true;
-}
-
-bool takeWidth(const QString& value, Target& target)
-{
-    constexpr double widest = 280;
-    bool isNumber = false;
-    const double width = value.toDouble(&isNumber);
-    target.column->column.width = paper::millimetres(width);
-    return isNumber && width > 0 && width <= widest;
-}
-
-bool takeSort(const QString& value, Target& target)
-{
-    const auto key = parseSortKey(value, target.table());
-    if (!key)
-        return false;
-    checkField(target.layout, *target.source, key->field, 1);
-    target.source->order.push_back(*key);
-    return true;
-}
-
-bool takeGroupBy(const QString& value, Target& target)
-{
-    const auto fields = parseFields(value, target.table());
-    if (fields.size() != 1)
-        return false;
-    target.layout.group.emplace().by = target.fields().slotOf(fields.front(), 1);
-    target.source->groupBy = fields.front();
-    return true;
-}
-
-bool takeChartBy(const QString& value, Target& target)
-{
-    const auto fields = parseFields(value, target.table());
-    auto& source = target.chart->query.emplace();
-    source.table = target.layout.source.table;
-    source.keys = fields;
-    source.order.push_back({fields.empty() ? FieldName() : fields.front(), Order::Plain});
-    target.chart->from = PointSource::Query;
-    target.source = &source;
-    return fields.size() == 1 && fields.front().table == source.table;
-}
-
-bool takeChartWhere(const QString& value, Target& target)
-{
-    return target.chart->query && takeWhere(value, target);
-}
-
-bool takeFind(const QString& value, Target& target)
-{
-    const auto fields = parseFields(value, target.table());
-    if (fields.size() != 1 || target.layout.reads(*fields.front().table))
-        return false;
-    target.join->key = fields.front();
-    target.join->table = fields.front().table;
-    return true;
-}
-
-bool takeBy(const QString& value, Target& target)
-{
-    const auto fields = parseFields(value, target.table());
-    if (fields.size() != 1)
-        return false;
-    checkField(target.layout, *target.source, fields.front(), 1);
-    target.join->of = fields.front();
-    return true;
-}
-
-bool takeMost(const QString& value, Target& target)
-{
-    constexpr int limit = 100;
-    bool isNumber = false;
-    target.chart->most = value.toInt(&isNumber);
-    return isNumber && target.chart->most > 0 && target.chart->most <= limit;
-}
-
-bool takeValueFormat(const QString& value, Target& target)
-{
-    CellFormat format;
-    target.chart->isMoney = takeFormat(value, format) && format.kind == FormatKind::Money;
-    return format.isNumber();
-}
-
-// Keys stand in the order in which they are taken: a table before its fields, a format before its value.
-// clang-format off
-constexpr std::array<KeyRule, 6> reportKeys{{
-    {u"Title", true, "the heading of the report"_L1, [](const QString& value, Target& target) { target.layout.title = value; return true; }},
-    {u"Table", true, "a table of the customer's database"_L1, takeTable},
-    {u"Lines", false, "the fields of the table that make a line, such as {PLUSALES.ID}"_L1, takeLines},
-    {u"ZeroLines", false, "YES or NO"_L1, [](const QString& value, Target& target) { return takeYesNo(value, target.layout.showsZeroLines); }},
-    {u"Orientation", false, "Automatic, Portrait or Landscape"_L1, [](const QString& value, Target& target) { return takeChoice(value, orientations, target.layout.orientation); }},
-    {u"Where", false, "a condition on fields of the report's table"_L1, takeWhere},
-}};
-constexpr std::array<KeyRule, 2> joinKeys{{
-    {u"Find", true, "a field of a table that is not read yet, such as {PLUDATA.PLUNUMBER}"_L1, takeFind},
-    {u"By", true, "a field by whose value the record is found, such as {PLUSALES.ID}"_L1, takeBy},
-}};
-constexpr std::array<KeyRule, 9> columnKeys{{
-    {u"Heading", false, "the heading of the column"_L1, [](const QString& value, Target& target) { target.column->column.heading = value; return true; }},
-    {u"Format", false, "Text, Digits, Money, Quantity, Date, Time, YesNo or a pattern such as 0.00"_L1, takeColumnFormat},
-    {u"Words", false, "words for numbers, such as 0;None,1;Added"_L1, takeWords},
-    {u"Value", true, "fields such as {PLUSALES.ID}"_L1, takeColumnValue},
-    {u"Missing", false, "a text"_L1, [](const QString& value, Target& target) { target.column->text.missing = parseTemplate(value, target.fields()); return true; }},
-    {u"Width", true, "millimetres from 1 to 280"_L1, takeWidth},
-    {u"Align", false, "Left, Centre or Right"_L1, [](const QString& value, Target& target) { return takeChoice(value, alignments, target.column->column.alignment); }},
-    {u"Total", false, "YES or NO, and YES only for a number"_L1, [](const QString& value, Target& target) { return takeYesNo(value, target.column->isTotalled) && (target.column->number || !target.column->isTotalled); }},
-    {u"Show", false, "numbers that are not all zero where the column is shown"_L1, [](const QString& value, Target& target) { target.column->shownIf = parseExpressions(value, target.fields()); return true; }},
-}};
-/// A long text goes on in further keys, Value2 and so on.
+/// A long text of a column goes on in further keys, Value2 and so on.
 constexpr int mostValues = 40;
-constexpr KeyRule furtherValue{u"Value2", false, "a text with fields"_L1, [](const QString& value, Target& target) { target.column->text.further.push_back(parseTemplate(value, target.fields())); return !target.column->number; }};
-constexpr std::array<KeyRule, 3> groupKeys{{
-    {u"By", true, "a field such as {PLUDATA.GROUPNO}"_L1, takeGroupBy},
-    {u"Heading", true, "a text with fields"_L1, [](const QString& value, Target& target) { target.layout.group->heading.text = parseTemplate(value, target.fields()); return true; }},
-    {u"Missing", false, "a text"_L1, [](const QString& value, Target& target) { target.layout.group->heading.missing = parseTemplate(value, target.fields()); return true; }},
-}};
-constexpr auto sortExpected = "a field, with \"by value\" or \"descending\" behind it or nothing"_L1;
-constexpr std::array<KeyRule, 3> sortKeys{{
-    {u"Key1", true, sortExpected, takeSort},
-    {u"Key2", false, sortExpected, takeSort},
-    {u"Key3", false, sortExpected, takeSort},
-}};
-constexpr std::array<KeyRule, 11> chartKeys{{
-    {u"Kind", true, "Ranking, Course or Shares"_L1, [](const QString& value, Target& target) { return takeChoice(value, chartKinds, target.chart->kind); }},
-    {u"Title", true, "the heading of the picture"_L1, [](const QString& value, Target& target) { target.chart->title = value; return true; }},
-    {u"From", false, "Lines or Groups"_L1, [](const QString& value, Target& target) { return takeChoice(value, pointSources, target.chart->from); }},
-    {u"By", false, "a field of the report's table by which it is added up"_L1, takeChartBy},
-    {u"Where", false, "a condition on fields of the report's table, beside By"_L1, takeChartWhere},
-    {u"Format", false, "Text, Digits, Day, Date or Time"_L1, [](const QString& value, Target& target) { return takeFormat(value, target.chart->label.format); }},
-    {u"Label", false, "a text with fields"_L1, [](const QString& value, Target& target) { target.chart->label.text = parseTemplate(value, target.fields()); return true; }},
-    {u"Missing", false, "a text"_L1, [](const QString& value, Target& target) { target.chart->label.missing = parseTemplate(value, target.fields()); return true; }},
-    {u"Value", true, "a number reckoned from fields"_L1, [](const QString& value, Target& target) { target.chart->value = parseExpression(value, target.fields()); return true; }},
-    {u"ValueFormat", false, "Money or Quantity"_L1, takeValueFormat},
-    {u"Most", false, "a whole number from 1 to 100"_L1, takeMost},
-}};
-// clang-format on
 
 class LayoutReader
 {
@@ -283,14 +29,14 @@ public:
     ReportLayout read()
     {
         checkSections();
-        Target target{m_layout, &m_layout.source};
-        readKeys(u"Report"_s, reportKeys, target);
-        readJoins(target);
-        readColumns(target);
+        LayoutTarget target{m_layout, &m_layout.source};
+        readKeys(u"Report"_s, layoutKeys().report, target);
+        readJoins();
+        readColumns();
         if (m_file.sections().contains(u"Group"_s, Qt::CaseInsensitive))
-            readKeys(u"Group"_s, groupKeys, target);
+            readKeys(u"Group"_s, layoutKeys().group, target);
         if (m_file.sections().contains(u"Sort"_s, Qt::CaseInsensitive))
-            readKeys(u"Sort"_s, sortKeys, target);
+            readKeys(u"Sort"_s, layoutKeys().sort, target);
         readCharts();
         return std::move(m_layout);
     }
@@ -313,17 +59,17 @@ private:
         const QStringList sections = m_file.sections();
         for (const QString& section : sections) {
             const auto match = known.match(section);
-            if (!match.hasMatch())
+            if (!match.hasMatch()) {
                 fail(u"section [%1]"_s.arg(section),
                      u"Report, Join1, Column1, Group, Sort or Chart1 is expected"_s);
+            }
             const QString before = match.captured(2) + QString::number(match.captured(3).toInt() - 1);
             if (match.captured(3).toInt() > 1 && !sections.contains(before, Qt::CaseInsensitive))
                 fail(u"section [%1]"_s.arg(section), u"there is no section [%1] before it"_s.arg(before));
         }
     }
 
-    template <std::size_t count>
-    void readKeys(const QString& section, const std::array<KeyRule, count>& rules, Target& target,
+    void readKeys(const QString& section, std::span<const KeyRule> rules, LayoutTarget& target,
                   const QStringList& others = {}) const
     {
         for (const QString& key : m_file.keys(section)) {
@@ -339,8 +85,7 @@ private:
             readKey(section, rule, target);
     }
 
-    template <std::size_t count>
-    [[nodiscard]] static QString keyNames(const std::array<KeyRule, count>& rules)
+    [[nodiscard]] static QString keyNames(std::span<const KeyRule> rules)
     {
         QStringList names;
         for (const auto& rule : rules)
@@ -348,7 +93,7 @@ private:
         return names.join(u", "_s);
     }
 
-    void readKey(const QString& section, const KeyRule& rule, Target& target) const
+    void readKey(const QString& section, const KeyRule& rule, LayoutTarget& target) const
     {
         const QString value = m_file.value(section, rule.key, {}, profileValueLimit + 1);
         if (value.size() > profileValueLimit)
@@ -358,9 +103,10 @@ private:
         if (value.isEmpty())
             return;
         try {
-            if (!rule.take(value, target))
+            if (!rule.take(value, target)) {
                 fail(section, rule.key,
                      u"expected is %1, but \"%2\" stands there"_s.arg(rule.expected, value));
+            }
         } catch (const FormulaError& error) {
             fail(section, rule.key, error.text());
         }
@@ -371,35 +117,37 @@ private:
         return m_file.sections().contains(name, Qt::CaseInsensitive);
     }
 
-    void readJoins(Target& target)
+    void readJoins()
     {
         for (int number = 1; hasSection(u"Join%1"_s.arg(number)); ++number) {
             Join join;
+            LayoutTarget target{m_layout, &m_layout.source};
             target.join = &join;
-            readKeys(u"Join%1"_s.arg(number), joinKeys, target);
+            readKeys(u"Join%1"_s.arg(number), layoutKeys().join, target);
             m_layout.joins.push_back(join);
         }
     }
 
-    void readColumn(const QString& section, Target& target)
+    void readColumn(const QString& section, LayoutTarget& target)
     {
         QStringList further;
         for (int number = 2; number <= mostValues; ++number)
             further.append(u"Value%1"_s.arg(number));
-        readKeys(section, columnKeys, target, further);
+        readKeys(section, layoutKeys().column, target, further);
         for (const QString& key : further) {
-            KeyRule rule = furtherValue;
+            KeyRule rule = layoutKeys().furtherValue;
             rule.key = key;
             readKey(section, rule, target);
         }
     }
 
-    void readColumns(Target& target)
+    void readColumns()
     {
         if (!hasSection(u"Column1"_s))
             fail(u"section [Column1]"_s, u"it is missing; a report has one column at least"_s);
         for (int number = 1; hasSection(u"Column%1"_s.arg(number)); ++number) {
             ColumnLayout column;
+            LayoutTarget target{m_layout, &m_layout.source};
             target.column = &column;
             readColumn(u"Column%1"_s.arg(number), target);
             // Headings of groups stand in the first column.
@@ -414,9 +162,9 @@ private:
         for (int number = 1; hasSection(u"Chart%1"_s.arg(number)); ++number) {
             const QString section = u"Chart%1"_s.arg(number);
             ChartLayout chart;
-            Target target{m_layout, &m_layout.source};
+            LayoutTarget target{m_layout, &m_layout.source};
             target.chart = &chart;
-            readKeys(section, chartKeys, target);
+            readKeys(section, layoutKeys().chart, target);
             if (chart.from == PointSource::Groups && !m_layout.group)
                 fail(section, u"From", u"the report has no groups"_s);
             if (chart.from != PointSource::Groups && chart.label.text.isEmpty())

@@ -106,10 +106,11 @@ std::optional<SortKey> parseSortKey(QStringView text, const store::TableDefiniti
 {
     FormulaTokens tokens(text, own);
     SortKey key{tokens.takeField()};
-    if (tokens.takeWord(u"descending"))
+    if (tokens.takeWord(u"descending")) {
         key.order = Order::Descending;
-    else if (tokens.takeWord(u"by") && tokens.takeWord(u"value"))
+    } else if (tokens.takeWord(u"by") && tokens.takeWord(u"value")) {
         key.order = Order::ByValue;
+    }
     if (tokens.current().kind != TokenKind::End)
         return std::nullopt;
     return key;

@@ -12,6 +12,7 @@
 #include "reports/LineStatement.h"
 
 #include <algorithm>
+#include <ranges>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -54,9 +55,9 @@ public:
             need(key.field);
         collectConditionFields(condition);
         // A join may hang on another one that stands before it.
-        for (auto join = joins.rbegin(); join != joins.rend(); ++join) {
-            if (isJoined(*join->table))
-                need(join->of);
+        for (const auto& join : std::views::reverse(joins)) {
+            if (isJoined(*join.table))
+                need(join.of);
         }
     }
 
@@ -144,7 +145,8 @@ private:
             if (!isJoined(*join.table))
                 continue;
             const std::string name = joinName(*join.table);
-            sql += " LEFT JOIN " + name + " ON " + name + ".k = " + meeting(join, column(join.of, below));
+            sql.append(" LEFT JOIN ").append(name).append(" ON ").append(name).append(".k = ");
+            sql += meeting(join, column(join.of, below));
         }
         return sql;
     }
@@ -162,9 +164,10 @@ private:
         };
         if (m_rows.empty() && !m_condition.isAlwaysTrue())
             sql += " WHERE " + conditionSql(m_condition, named, m_statement.values);
-        if (m_source.where)
-            sql += (sql.empty() ? " WHERE " : " AND ") +
-                   conditionSql(*m_source.where, named, m_statement.values);
+        if (m_source.where) {
+            sql += sql.empty() ? " WHERE " : " AND ";
+            sql += conditionSql(*m_source.where, named, m_statement.values);
+        }
         return sql;
     }
 

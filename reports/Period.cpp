@@ -44,14 +44,15 @@ QString dayText(QDate day)
 QString Period::text() const
 {
     QString days;
-    if (from == to)
+    if (from == to) {
         days = dayText(from);
-    else if (!from.isValid())
+    } else if (!from.isValid()) {
         days = u"up to %1"_s.arg(dayText(to));
-    else if (!to.isValid())
+    } else if (!to.isValid()) {
         days = u"from %1"_s.arg(dayText(from));
-    else
+    } else {
         days = u"%1 to %2"_s.arg(dayText(from), dayText(to));
+    }
     return name.isEmpty() || days.isEmpty() ? name + days : name + u", "_s + days;
 }
 

@@ -1,0 +1,116 @@
+// The lists that screens print, and what a dealer's own layout can say.
+#include "tests/reports/ReportShop.h"
+
+#include <gtest/gtest.h>
+
+namespace norvane::reports::test
+{
+namespace
+{
+
+std::string printed(const ReportShop& shop, const char* layout)
+{
+    return linesOf(runReport(shop.request(ReportShop::installed(layout))));
+}
+
+TEST(ListReports, TellOptionsInWords)
+{
+    const ReportShop shop;
+    shop.add("PLUSTATUS", "STATUSNO|DESCRIPTION|tax1|tax3|SINGLEITEM|KPGROUP2|LINKEDPLU|GROUPLINK2",
+             {"2|PLAIN|0|0|0|0||0", "1|FOOD|1|1|1|1|123456789012345678|4"});
+    EXPECT_EQ(printed(shop, "plustat.rpt"),
+              "1|FOOD|1, 3|Single item sale, Kitchen group 2, Linked PLU 123456789012345678, Second group 4\n"
+              "2|PLAIN");
+    shop.add("RECIPE", "recipeno|DESCRIPTION|item1|recipe1|qty1|item2|recipe2|qty2|item3|qty3",
+             {"1|BURGER|1|15|2|0|7|100|0|0"});
+    EXPECT_EQ(printed(shop, "recipe.rpt"), "1|BURGER|2 x PLU 15, 100 x ingredient 7");
+    shop.add("TAXRATES", "ID|taxrate|TAXTYPE|first", {"1|19|0|0", "2|7.125|2|12"});
+    EXPECT_EQ(printed(shop, "taxes.rpt"), "1|19.000|VAT|0\n2|7.125|Tax table|12");
+    shop.add("AUTHORITYLEVEL", "ID|DESCRIPTION|PAYANYCHECK|ALLOWNOSALE", {"3|MANAGER|1|1"});
+    EXPECT_EQ(printed(shop, "authlvl.rpt"), "3|MANAGER|Pay any check, No sale");
+    shop.add("EMPLOYEE", "ID|DESCRIPTION|AUTHORITYLEVEL|SIGNONCODE|JOB1CODE|JOB3CODE|Trainmode|dallaskey",
+             {"1|ANNE|3|4711|2|5|0|0", "2|BERT|8|0|0|0|1|0"});
+    EXPECT_EQ(printed(shop, "employee.rpt"), "1|ANNE|MANAGER|2, 5|||||No\n2|BERT|Level 8||||||Yes");
+    shop.add("TIMEPERIOD", "id|STARTTIME|ENDTIME|ACTIVE", {"1|0000|559|1"});
+    EXPECT_EQ(printed(shop, "timeperd.rpt"), "1|00:00 to 05:59|Yes");
+    EXPECT_EQ(printed(shop, "hotlist.rpt"), "");
+    EXPECT_EQ(runReport(shop.request(ReportShop::installed("hotlist.rpt"))).heading.notice,
+              u"There is nothing to show."_s);
+}
+
+class OwnLayout : public testing::Test
+{
+protected:
+    /// The value of a column of numbers, a line each for the records that the shop has.
+    [[nodiscard]] std::string reckoned(const QByteArray& value, const char* format = "0.###") const
+    {
+        shop.folder().write("own.rpt", QByteArray("[Report]\r\nTitle=Own\r\nTable=GROUPSALES\r\n"
+                                                  "[Column1]\r\nFormat=") +
+                                           format + "\r\nWidth=20\r\nTotal=YES\r\nValue=" + value +
+                                           "\r\n[Sort]\r\nKey1={ID}\r\n");
+        return linesOf(runReport(shop.request(shop.folder().path("own.rpt"))));
+    }
+
+    ReportShop shop;
+};
+
+TEST_F(OwnLayout, ReckonsInDecimal)
+{
+    shop.add("GROUPSALES", "ID|SALESDATE|QUANTITY|VALUE",
+             {"1|2026-11-25|3|0.1", "2|2026-11-25|0|0.2", "3|2026-11-25|-7|123456789012345"});
+    const std::pair<const char*, const char*> values[] = {
+        {"{QUANTITY} + {VALUE} - 1", "2.1\n-0.8\n123456789012337"},
+        {"{ID} - ({QUANTITY} - 2) * 2", "-1\n6\n21"},
+        {"-{QUANTITY} * 0.5", "-1.5\n0\n3.5"},
+        {"1 / {QUANTITY}", "0.333\n\n-0.143"},
+        {"sum({QUANTITY}, {ID}, 0.5)", "4.5\n2.5\n-3.5"},
+        {"{QUANTITY} / total({QUANTITY}) * 100", "-75\n0\n175"},
+    };
+    for (const auto& [value, lines] : values) {
+        const std::string all = reckoned(value);
+        EXPECT_EQ(all.substr(0, all.rfind("\n# ")), lines) << value;
+    }
+    EXPECT_EQ(reckoned("{VALUE}", "0.00"), "0.10\n0.20\n123456789012345.00\n# 123456789012345.30");
+}
+
+TEST_F(OwnLayout, GroupsAndSortsByWhatItNames)
+{
+    shop.add("GROUPS", "GROUPNO|DESCRIPTION", {"2|SECOND", "10|TENTH"});
+    shop.add("PLUDATA", "PLUNUMBER|DESCRIPTION|GROUPNO|PRICE1",
+             {"9|nine|10|1", "10|Ten|2|2", "8|Eight|10|3", "7|seven||4"});
+    shop.folder().write(
+        "own.rpt",
+        "[Report]\r\nTitle=Own\r\nTable=PLUDATA\r\nWhere={PRICE1} < 4 or {PLUNUMBER} = 7\r\n"
+        "[Join1]\r\nFind={GROUPS.GROUPNO}\r\nBy={GROUPNO}\r\n"
+        "[Column1]\r\nValue={DESCRIPTION} ({PLUNUMBER})\r\nWidth=60\r\n"
+        "[Column2]\r\nFormat=Money\r\nValue={PRICE1}\r\nWidth=20\r\nTotal=YES\r\n"
+        "[Group]\r\nBy={GROUPNO}\r\nHeading={GROUPS.DESCRIPTION}\r\nMissing=Rest\r\n"
+        "[Sort]\r\nKey1={DESCRIPTION} descending\r\n"
+        "[Chart1]\r\nKind=Shares\r\nTitle=By group\r\nFrom=Groups\r\nValue={PRICE1}\r\nMost=1\r\n");
+    const auto data = runReport(shop.request(shop.folder().path("own.rpt")));
+    EXPECT_EQ(linesOf(data), "> SECOND\nTen (10)|2.00\n= Total SECOND|2.00\n"
+                             "> TENTH\nnine (9)|1.00\nEight (8)|3.00\n= Total TENTH|4.00\n"
+                             "> Rest\nseven (7)|4.00\n= Total Rest|4.00\n# Total|10.00");
+    ASSERT_EQ(data.charts.size(), 1U);
+    EXPECT_EQ(data.charts[0].points[1].label, u"Others"_s);
+    EXPECT_EQ(data.charts[0].points[1].value, Decimal(6, 0));
+}
+
+TEST_F(OwnLayout, APictureOfManyDaysShowsMonths)
+{
+    for (QDate day(2026, 9, 15); day <= QDate(2026, 11, 25); day = day.addDays(1))
+        shop.add("TIMESALES", "ID|SALESDATE|QUANTITY|VALUE",
+                 {qPrintable(u"1|%1|1|0.1"_s.arg(day.toString(Qt::ISODate)))});
+    const auto points = [this](const QString& formula) {
+        const auto data = runReport(shop.request(ReportShop::installed("timesales.rpt"), formula));
+        QStringList labels;
+        for (const auto& point : data.charts.back().points)
+            labels.append(point.label + u' ' + QString::fromStdString(point.value.text()));
+        return labels;
+    };
+    EXPECT_EQ(points({}), QStringList({u"09/2026 1.6"_s, u"10/2026 3.1"_s, u"11/2026 2.5"_s}));
+    EXPECT_EQ(points(u"{TIMESALES.SALESDATE} in monthtodate"_s).front(), u"01/11 0.1"_s);
+}
+
+} // namespace
+} // namespace norvane::reports::test
