@@ -39,6 +39,11 @@ public:
     /// Asks @p text with Yes and No; closing the box counts as No. @return true for Yes.
     virtual bool ask(const QString& text, const QString& title, BoxIcon icon = BoxIcon::Question,
                      BoxAnswer preset = BoxAnswer::Yes) = 0;
+    /// Asks @p text with two answers in words of their own, access letters included ("&Save", "S&how").
+    /// Enter and closing the box give the second, which is the one that does less harm.
+    /// @return true for the first.
+    virtual bool choose(const QString& text, const QString& title, const QString& first,
+                        const QString& second) = 0;
     /// Asks for a line of text. @return empty text for Cancel, as for an emptied box.
     virtual QString input(const QString& prompt, const QString& title, const QString& initial = {}) = 0;
     /// Asks for a file that exists. @return its path, empty for Cancel.

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -52,15 +53,28 @@ QString shownText(QString text)
     return text;
 }
 
+/// A box over the window in use that still lacks its buttons.
+class PlainBox : public QMessageBox
+{
+public:
+    PlainBox(const QString& text, const QString& title, BoxIcon icon)
+        : QMessageBox(boxIcon(icon), title.isEmpty() ? applicationTitle() : title, shownText(text), NoButton,
+                      QApplication::activeWindow())
+    {
+        setObjectName(u"MessageBox"_s);
+        setTextFormat(Qt::PlainText);
+    }
+
+private:
+    ArrowPointer m_arrow;
+};
+
 QMessageBox::StandardButton show(const QString& text, const QString& title, BoxIcon icon,
                                  QMessageBox::StandardButtons buttons,
                                  QMessageBox::StandardButton preset = QMessageBox::Ok)
 {
-    const ArrowPointer arrow;
-    QMessageBox box(boxIcon(icon), title.isEmpty() ? applicationTitle() : title, shownText(text), buttons,
-                    QApplication::activeWindow());
-    box.setObjectName(u"MessageBox"_s);
-    box.setTextFormat(Qt::PlainText);
+    PlainBox box(text, title, icon);
+    box.setStandardButtons(buttons);
     box.setDefaultButton(preset);
     if (buttons.testFlag(QMessageBox::No))
         box.setEscapeButton(QMessageBox::No);
@@ -92,6 +106,18 @@ bool MessageBoxes::ask(const QString& text, const QString& title, BoxIcon icon, 
 {
     const auto presetButton = preset == BoxAnswer::Yes ? QMessageBox::Yes : QMessageBox::No;
     return show(text, title, icon, QMessageBox::Yes | QMessageBox::No, presetButton) == QMessageBox::Yes;
+}
+
+bool MessageBoxes::choose(const QString& text, const QString& title, const QString& first,
+                          const QString& second)
+{
+    PlainBox box(text, title, BoxIcon::Exclamation);
+    const auto* const chosen = box.addButton(first, QMessageBox::AcceptRole);
+    QPushButton* const harmless = box.addButton(second, QMessageBox::RejectRole);
+    box.setDefaultButton(harmless);
+    box.setEscapeButton(harmless);
+    box.exec();
+    return box.clickedButton() == chosen;
 }
 
 QString MessageBoxes::input(const QString& prompt, const QString& title, const QString& initial)

@@ -38,6 +38,13 @@ public:
         record({text, title, icon, preset});
         return takeFront(answers);
     }
+    bool choose(const QString& text, const QString& title, const QString& first,
+                const QString& second) override
+    {
+        record({text + QLatin1String(" [") + first + QLatin1Char('|') + second + QLatin1Char(']'), title,
+                BoxIcon::Exclamation});
+        return takeFront(answers);
+    }
     QString input(const QString& prompt, const QString& title, const QString& /*initial*/) override
     {
         record({prompt, title, BoxIcon::None});

@@ -1,4 +1,4 @@
-// The file dialogs as a user meets them.
+// The boxes as a user meets them.
 #include "ui/MessageBoxes.h"
 
 #include "tests/platform/TestFolder.h"
@@ -89,6 +89,24 @@ TEST_F(FileBoxTest, OnlyAFileThatExistsCanBeOpened)
     const Answers user({u"old.txt"_s});
     EXPECT_EQ(MessageBoxes().fileToOpen({u"Open"_s, m_folder.path(), u"Texts (*.txt)"_s, u"txt"_s}),
               m_folder.path("old.txt"));
+}
+
+TEST(MessageBoxes, OfTwoNamedAnswersEnterAndEscapeGiveTheSecond)
+{
+    const std::pair<std::pair<Qt::Key, Qt::KeyboardModifier>, bool> cases[] = {
+        {{Qt::Key_Return, Qt::NoModifier}, false},
+        {{Qt::Key_Escape, Qt::NoModifier}, false},
+        {{Qt::Key_H, Qt::AltModifier}, false},
+        {{Qt::Key_S, Qt::AltModifier}, true}};
+    for (const auto& [key, first] : cases) {
+        QTimer::singleShot(0, [pressed = key] {
+            QWidget* const box = QApplication::activeModalWidget();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(box));
+            QTest::keyClick(box, pressed.first, pressed.second);
+        });
+        EXPECT_EQ(MessageBoxes().choose(u"Changed"_s, u"Record"_s, u"&Save"_s, u"S&how"_s), first)
+            << key.first;
+    }
 }
 
 } // namespace
