@@ -40,10 +40,13 @@ public:
     virtual bool ask(const QString& text, const QString& title, BoxIcon icon = BoxIcon::Question,
                      BoxAnswer preset = BoxAnswer::Yes) = 0;
     /// Asks @p text with two answers in words of their own, access letters included ("&Save", "S&how").
-    /// Enter and closing the box give the second, which is the one that does less harm.
+    /// Enter, closing the box, and boxes that nobody sees give the second, which does less harm.
     /// @return true for the first.
-    virtual bool choose(const QString& text, const QString& title, const QString& first,
-                        const QString& second) = 0;
+    virtual bool choose(const QString& /*text*/, const QString& /*title*/, const QString& /*first*/,
+                        const QString& /*second*/)
+    {
+        return false;
+    }
     /// Asks for a line of text. @return empty text for Cancel, as for an emptied box.
     virtual QString input(const QString& prompt, const QString& title, const QString& initial = {}) = 0;
     /// Asks for a file that exists. @return its path, empty for Cancel.

@@ -65,6 +65,7 @@ const Template& templateOf(ControlKind kind)
 void makeReadOnly(QLineEdit& box)
 {
     box.setReadOnly(true);
+    box.setToolTip({}); // the range of what can be typed
     QPalette palette = box.palette();
     palette.setColor(QPalette::Base, palette.color(QPalette::Window));
     box.setPalette(palette);
@@ -203,6 +204,9 @@ QWidget* FieldPanel::makeText(const ControlDefinition& definition)
     box->setJustify(definition.justify);
     if (const auto characters = charactersOf(definition))
         box->setCharacters(*characters);
+    if (definition.largest)
+        box->setLargest(*definition.largest);
+    connect(box, &ui::TextBox::maximumExceeded, this, [this, box] { Q_EMIT maximumExceeded(box); });
     return box;
 }
 
@@ -230,8 +234,9 @@ QWidget* FieldPanel::makeGrid(const ControlDefinition& definition)
 {
     if (!m_grid) {
         m_grid = new GridControl(m_picture);
-        connect(m_grid, &GridControl::dataError, this,
-                [this](const QModelIndex& index) { Q_EMIT gridDataError(m_grid, index); });
+        connect(m_grid, &GridControl::dataError, this, [this](const QModelIndex& index, const QString& why) {
+            Q_EMIT gridDataError(m_grid, index, why);
+        });
     }
     m_grid->showQuery(m_database, definition);
     return m_grid;
@@ -328,6 +333,14 @@ void FieldPanel::focusFirst()
     } else if (!m_tabOrder.isEmpty()) {
         m_tabOrder.constFirst()->setFocus();
     }
+}
+
+QString FieldPanel::labelOf(const QString& dataField) const
+{
+    const auto control = std::ranges::find_if(m_controls, [&](const Control& known) {
+        return known.definition.dataField.trimmed().compare(dataField, Qt::CaseInsensitive) == 0;
+    });
+    return control == m_controls.end() ? QString() : control->widget->accessibleDescription();
 }
 
 BoundFields FieldPanel::contents() const

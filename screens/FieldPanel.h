@@ -10,11 +10,7 @@
 #include <memory>
 
 class QLabel;
-
-namespace norvane::ui
-{
-class NumberBox;
-}
+class QLineEdit;
 
 namespace norvane::screens
 {
@@ -48,6 +44,8 @@ public:
     void showContents(const BoundFields& fields);
     /// The one grid of the screen, nullptr without one.
     [[nodiscard]] GridControl* grid() const { return m_grid; }
+    /// What the label beside the control of @p dataField says.
+    [[nodiscard]] QString labelOf(const QString& dataField) const;
     /// Controls in tab order.
     [[nodiscard]] const QVector<QWidget*>& tabOrder() const { return m_tabOrder; }
     /// Puts the focus where a user begins: into the first control in tab order that takes an entry. The
@@ -56,8 +54,8 @@ public:
 
 Q_SIGNALS:
     void findPressed(int element);
-    void maximumExceeded(norvane::ui::NumberBox* box);
-    void gridDataError(norvane::screens::GridControl* grid, const QModelIndex& index);
+    void maximumExceeded(QLineEdit* box);
+    void gridDataError(norvane::screens::GridControl* grid, const QModelIndex& index, const QString& why);
 
 private:
     struct Control {

@@ -29,8 +29,8 @@ public:
     bool findRow(const QString& part, int from);
 
 Q_SIGNALS:
-    /// What was entered cannot be stored. Raised once the cell's editor is closed.
-    void dataError(const QModelIndex& index);
+    /// What was entered cannot be stored, and @p why. Raised once the cell's editor is closed.
+    void dataError(const QModelIndex& index, const QString& why);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -4,6 +4,7 @@
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
 #include "screens/RegisterTexts.h"
+#include "screens/SaveNotices.h"
 
 #include <QRegularExpression>
 
@@ -204,6 +205,7 @@ int GridModel::findRow(const QString& part, int from)
 
 void GridModel::storeCell(const QModelIndex& index, const QString& text)
 {
+    const store::ShortWait wait(*m_database);
     m_records->moveTo(index.row());
     try {
         m_records->edit();
@@ -222,8 +224,8 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
         return false;
     try {
         storeCell(index, value.toString());
-    } catch (const RuntimeFailure&) {
-        Q_EMIT refused(index);
+    } catch (const RuntimeFailure& failure) {
+        Q_EMIT refused(index, nothingStored(failure));
         return false;
     }
     Q_EMIT dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));

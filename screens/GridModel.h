@@ -42,8 +42,8 @@ public:
     [[nodiscard]] int findRow(const QString& part, int from);
 
 Q_SIGNALS:
-    /// The store cannot hold what was entered; the cell keeps its value.
-    void refused(const QModelIndex& index);
+    /// What was entered cannot be stored, and @p why in words for the status bar; the cell keeps its value.
+    void refused(const QModelIndex& index, const QString& why);
 
 private:
     using Row = std::vector<store::Value>;

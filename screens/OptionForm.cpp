@@ -10,17 +10,21 @@
 #include "screens/RecordEditor.h"
 #include "screens/RecordList.h"
 #include "screens/RegisterTexts.h"
+#include "screens/SaveNotices.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 #include "ui/FrmSearch.h"
-#include "ui/NumberBox.h"
 #include "ui/WaitPointer.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QToolTip>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -54,7 +58,7 @@ constexpr int narrowestButton = 64;
 OptionForm::OptionForm(const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes,
                        ReportRunner* reports, QWidget* parent)
     : QWidget(parent), m_values(values), m_boxes(boxes), m_reports(reports), m_file(screenFilePath),
-      m_databasePath(values.databasePath)
+      m_databasePath(values.databasePath), m_sideRoom(*this)
 {
     ui::nameControl(*this, u"OptionForm"_s);
     openTable();
@@ -106,9 +110,11 @@ void OptionForm::buildControls()
     }
     CSPict1->finish();
     connect(CSPict1, &FieldPanel::findPressed, this, &OptionForm::findRecord);
-    connect(CSPict1, &FieldPanel::maximumExceeded, this, [this](ui::NumberBox* box) { rejectNumber(*box); });
+    connect(CSPict1, &FieldPanel::maximumExceeded, this, [this](QLineEdit* box) { rejectNumber(*box); });
     connect(CSPict1, &FieldPanel::gridDataError, this,
-            [this](GridControl* grid, const QModelIndex& index) { rejectCell(*grid, index); });
+            [this](GridControl* grid, const QModelIndex& index, const QString& why) {
+                rejectCell(*grid, index, why);
+            });
 }
 
 /// From left to right: buttons that move, then those that change something. Only "E&xit" is always shown.
@@ -198,7 +204,7 @@ void OptionForm::buildList()
     m_list = new RecordList(m_database, source, this);
     m_size.rwidth() += m_list->handleWidth();
     connect(m_list, &RecordList::chosen, this, &OptionForm::goTo);
-    connect(m_list, &RecordList::widened, this, &OptionForm::widen);
+    connect(m_list, &RecordList::widened, this, [this](int pixels) { m_sideRoom.widen(pixels); });
     auto* const shortcut =
         new QShortcut(QKeySequence(u"Ctrl+L"_s), this, {}, {}, Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, m_list, &RecordList::toggle);
@@ -216,21 +222,6 @@ QString OptionForm::textField() const
     return {};
 }
 
-/// Grows the form, or its frame in the main window, as far as there is room, and shrinks it again.
-void OptionForm::widen(int pixels)
-{
-    QWidget* const frame = isWindow() ? this : parentWidget();
-    if (frame->isMaximized())
-        return;
-    const int room = isWindow() ? QWIDGETSIZE_MAX : frame->parentWidget()->width();
-    const int width = qMin(room, frame->width() + (pixels > 0 ? pixels : -m_widened));
-    m_widened = pixels > 0 ? width - frame->width() : 0;
-    if (!isWindow())
-        frame->move(qBound(0, frame->x(), room - width), frame->y());
-    layout()->activate(); // or the width that the list took would still count as needed
-    frame->resize(width, frame->height());
-}
-
 void OptionForm::fitButtons(const QVector<QPushButton*>& shown)
 {
     const int count = static_cast<int>(shown.size());
@@ -241,10 +232,36 @@ void OptionForm::fitButtons(const QVector<QPushButton*>& shown)
 
 void OptionForm::ShowFields()
 {
+    showRecord();
+    Q_EMIT told({});
+}
+
+void OptionForm::showRecord()
+{
     BoundFields fields = CSPict1->contents();
     m_editor->showFields(fields);
     CSPict1->showContents(fields);
+    m_shown = CSPict1->contents();
     markRecord();
+}
+
+bool OptionForm::isTouched() const
+{
+    return !std::ranges::equal(CSPict1->contents(), m_shown, {}, &BoundField::content, &BoundField::content);
+}
+
+void OptionForm::refresh()
+{
+    if (!m_editor->isAdding() && !isTouched() && m_editor->reread())
+        showRecord();
+}
+
+/// A screen comes to the front with its window, too, such as after a box or a dialog.
+bool OptionForm::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        refresh();
+    return QWidget::event(event);
 }
 
 void OptionForm::reloadList()
@@ -267,20 +284,40 @@ void OptionForm::addRecord()
     m_editor->add(fields);
     CSPict1->showContents(fields);
     markRecord();
+    Q_EMIT told({});
     CSPict1->focusFirst();
 }
 
 void OptionForm::saveRecord()
 {
     BoundFields fields = CSPict1->contents();
-    const SaveResult result = m_editor->save(fields);
+    if (m_editor->wouldOverwrite(fields) && !mayOverwrite(m_boxes))
+        return ShowFields();
+    const auto refusal = m_editor->save(fields);
     CSPict1->showContents(fields);
-    if (result.outcome == SaveOutcome::DuplicateKey) {
-        m_boxes.message(u"This item code already exists!\rPlease try again"_s,
-                        u"Data Error Code%1"_s.arg(static_cast<int>(Failure::DuplicateKey)),
-                        BoxIcon::Critical);
+    if (refusal) {
+        tellRefusal(*refusal);
+    } else {
+        m_shown = CSPict1->contents();
+        tellSaved();
+        reloadList();
     }
-    reloadList();
+}
+
+void OptionForm::tellSaved()
+{
+    const QString field = m_editor->searchedField(1).name;
+    const QString key = m_list ? shownKey(field, m_editor->key()) : QString();
+    Q_EMIT told(recordSaved(windowTitle(), CSPict1->labelOf(field), key));
+}
+
+void OptionForm::tellRefusal(const RuntimeFailure& failure)
+{
+    Q_EMIT told(nothingStored(failure));
+    if (failure.failure() == Failure::DuplicateKey) {
+        m_boxes.message(u"This item code already exists!\rPlease try again"_s,
+                        u"Data Error Code%1"_s.arg(failure.number()), BoxIcon::Critical);
+    }
 }
 
 void OptionForm::deleteRecord()
@@ -342,16 +379,17 @@ void OptionForm::printReport()
         {joinPath(m_values.appPath, report.file.toUpper()), report.title.toUpper(), m_databasePath});
 }
 
-void OptionForm::rejectNumber(ui::NumberBox& box)
+void OptionForm::rejectNumber(QLineEdit& box)
 {
-    box.setValue({});
     m_boxes.message(u"Maximum Value Exceeded"_s, u"Input Error"_s, BoxIcon::Exclamation);
     box.setFocus();
     box.selectAll();
+    QToolTip::showText(box.mapToGlobal(box.rect().bottomLeft()), box.toolTip(), &box);
 }
 
-void OptionForm::rejectCell(GridControl& grid, const QModelIndex& index)
+void OptionForm::rejectCell(GridControl& grid, const QModelIndex& index, const QString& why)
 {
+    Q_EMIT told(why);
     m_boxes.message(u"Invalid Data Entry"_s, u"Operation Error"_s, BoxIcon::Exclamation);
     grid.retryCell(index);
 }

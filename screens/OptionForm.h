@@ -3,8 +3,11 @@
 
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
+#include "platform/RuntimeFailure.h"
+#include "screens/RecordEditor.h"
 #include "screens/ReportRunner.h"
 #include "screens/ScreenReader.h"
+#include "screens/SideRoom.h"
 #include "store/Database.h"
 
 #include <QWidget>
@@ -12,20 +15,15 @@
 #include <memory>
 
 class QHBoxLayout;
+class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
-
-namespace norvane::ui
-{
-class NumberBox;
-}
 
 namespace norvane::screens
 {
 
 class FieldPanel;
 class GridControl;
-class RecordEditor;
 class RecordList;
 
 /// Builds itself from a screen file over the database at databasePath.
@@ -47,6 +45,16 @@ public:
 
     /// Puts the current record into the controls, and marks it in the list.
     void ShowFields();
+    /// Shows the record as it stands in the file now, which another screen, a price change or an upload may
+    /// have changed; a screen in which the user has typed stays as it is.
+    void refresh();
+
+Q_SIGNALS:
+    /// What the last action came to, in words for the status bar; empty once the screen shows another record.
+    void told(const QString& text);
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     struct ButtonRow {
@@ -67,11 +75,12 @@ private:
     [[nodiscard]] QString textField() const;
     void layOut(QHBoxLayout* buttons);
     void addFindBar(GridControl& grid, QVBoxLayout& column);
-    void widen(int pixels);
     void fitButtons(const QVector<QPushButton*>& shown);
 
     void addRecord();
     void saveRecord();
+    void tellSaved();
+    void tellRefusal(const RuntimeFailure& failure);
     void deleteRecord();
     void nextRecord();
     void previousRecord();
@@ -81,8 +90,10 @@ private:
     void reloadList();
     void printReport();
     void exitForm();
-    void rejectNumber(ui::NumberBox& box);
-    void rejectCell(GridControl& grid, const QModelIndex& index);
+    void showRecord();
+    [[nodiscard]] bool isTouched() const;
+    void rejectNumber(QLineEdit& box);
+    void rejectCell(GridControl& grid, const QModelIndex& index, const QString& why);
     void tellNoMoreRecords();
 
     const ApplicationValues& m_values;
@@ -94,8 +105,9 @@ private:
     std::unique_ptr<RecordEditor> m_editor;
     FieldPanel* CSPict1 = nullptr;
     RecordList* m_list = nullptr; ///< beside screens that walk several records
+    BoundFields m_shown;          ///< the controls as the record or the last save left them
     QSize m_size;
-    int m_widened = 0; ///< pixels that the open list has added to the width
+    SideRoom m_sideRoom; ///< for the open list
 };
 
 } // namespace norvane::screens

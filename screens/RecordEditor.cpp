@@ -101,13 +101,6 @@ store::Value valueToStore(const BoundField& field, const store::FieldDefinition&
     }
 }
 
-SaveOutcome outcomeOf(Failure failure)
-{
-    if (failure == Failure::DuplicateKey)
-        return SaveOutcome::DuplicateKey;
-    return failure == Failure::RecordDeleted ? SaveOutcome::Gone : SaveOutcome::Refused;
-}
-
 using KindOrder = std::array<ControlKind, 5>;
 constexpr KindOrder showOrder{ControlKind::Text, ControlKind::Combo, ControlKind::Integer,
                               ControlKind::Decimal, ControlKind::Check};
@@ -135,13 +128,21 @@ RecordEditor::RecordEditor(std::shared_ptr<store::Database> database, ScreenTabl
     namingFile(m_screenFile, [&] { m_records.setIndex(m_table.firstIndex); });
 }
 
-void RecordEditor::showFields(BoundFields& fields) const
+void RecordEditor::showFields(BoundFields& fields)
 {
     namingFile(m_screenFile, [&] {
         forEachBound(fields, showOrder, [this](BoundField& field) {
             field.content = shownValue(field, m_records.value(field.dataField));
         });
     });
+    remember();
+}
+
+void RecordEditor::remember()
+{
+    m_seen.clear();
+    for (int field = 0; m_records.hasCurrent() && field < m_records.fieldCount(); ++field)
+        m_seen.push_back(m_records.value(field));
 }
 
 void RecordEditor::add(BoundFields& fields)
@@ -150,17 +151,49 @@ void RecordEditor::add(BoundFields& fields)
     m_records.addNew();
 }
 
-SaveResult RecordEditor::save(BoundFields& fields)
+/// Reads the record anew, also when an earlier save was refused and has left its edit open.
+void RecordEditor::beginEdit()
 {
+    if (isAdding())
+        return;
+    m_records.cancelUpdate();
+    m_records.edit();
+}
+
+bool RecordEditor::isOverwritten(const BoundField& field) const
+{
+    const int ordinal = m_records.fieldOrdinal(field.dataField);
+    const store::Value& now = m_records.value(ordinal);
+    return !field.readOnly && now != m_seen.at(static_cast<std::size_t>(ordinal)) &&
+           shownValue(field, now).toText() != field.content.toText();
+}
+
+bool RecordEditor::wouldOverwrite(const BoundFields& fields)
+{
+    if (isAdding() || !reread() || m_seen.empty())
+        return false;
+    return std::any_of(fields.cbegin(), fields.cend(), [this](const BoundField& field) {
+        return !field.dataField.trimmed().isEmpty() && isOverwritten(field);
+    });
+}
+
+std::optional<RuntimeFailure> RecordEditor::save(BoundFields& fields)
+{
+    const store::ShortWait wait(*m_database);
     try {
-        if (m_records.editMode() != store::EditMode::Adding)
-            m_records.edit();
-        forEachBound(fields, saveOrder, [this](BoundField& field) { storeField(field); });
-        m_records.update();
-        return {SaveOutcome::Stored};
+        storeFields(fields);
+        return std::nullopt;
     } catch (const RuntimeFailure& failure) {
-        return {outcomeOf(failure.failure()), failure.text()};
+        return failure;
     }
+}
+
+void RecordEditor::storeFields(BoundFields& fields)
+{
+    beginEdit();
+    forEachBound(fields, saveOrder, [this](BoundField& field) { storeField(field); });
+    m_records.update();
+    remember();
 }
 
 void RecordEditor::storeField(BoundField& field)
@@ -175,7 +208,7 @@ void RecordEditor::storeField(BoundField& field)
 
 void RecordEditor::deleteRecord()
 {
-    if (m_records.editMode() == store::EditMode::Adding) {
+    if (isAdding()) {
         // The user sees the new record, so it is the one that goes; the one behind it stays.
         m_records.cancelUpdate();
     } else {
@@ -193,6 +226,40 @@ void RecordEditor::deleteCurrent()
         if (failure.failure() != Failure::RecordDeleted)
             throw;
     }
+}
+
+bool RecordEditor::isStillThere()
+{
+    try {
+        beginEdit();
+        m_records.cancelUpdate();
+        return true;
+    } catch (const RuntimeFailure&) {
+        if (m_records.hasCurrent())
+            throw;
+        return false;
+    }
+}
+
+bool RecordEditor::reread()
+{
+    const store::ShortWait wait(*m_database);
+    try {
+        return isStillThere() || goToSameKey();
+    } catch (const RuntimeFailure&) {
+        return false; // what needs the record next reports it
+    }
+}
+
+bool RecordEditor::goToSameKey()
+{
+    const QString order = m_records.index();
+    m_records.changeOrder(m_table.firstIndex);
+    const int ordinal = m_records.fieldOrdinal(searchedField(1).name);
+    const auto key = m_seen.empty() ? store::Value() : m_seen.at(static_cast<std::size_t>(ordinal));
+    const bool found = hasRecord(store::Seek::Equal, key) && m_records.seek(store::Seek::Equal, key);
+    m_records.changeOrder(order);
+    return found;
 }
 
 bool RecordEditor::next()
@@ -232,18 +299,18 @@ const store::FieldDefinition& RecordEditor::searchedField(int button) const
 
 QString RecordEditor::key() const
 {
-    if (m_records.editMode() == store::EditMode::Adding || !m_records.hasCurrent())
+    if (isAdding() || !m_records.hasCurrent())
         return {};
     return m_records.value(searchedField(1).name).toText();
 }
 
 /// On a recordset of its own: a search without result would lose the place.
-bool RecordEditor::hasRecord(const store::Value& key) const
+bool RecordEditor::hasRecord(store::Seek comparison, const store::Value& key) const
 {
     store::Recordset records = m_database->openTable(m_table.table);
     records.setIndex(m_records.index());
     try {
-        return records.seek(store::Seek::AtOrAfter, key);
+        return records.seek(comparison, key);
     } catch (const RuntimeFailure& failure) {
         if (failure.failure() != Failure::Conversion)
             throw;
@@ -256,7 +323,7 @@ bool RecordEditor::find(int button, const QString& text)
     const QString& index = indexOf(button);
     namingFile(m_screenFile, [&] { m_records.changeOrder(index); });
     const auto key = store::Value::text(isPluNumber(index) ? pluNumber(text) : text);
-    return hasRecord(key) && m_records.seek(store::Seek::AtOrAfter, key);
+    return hasRecord(store::Seek::AtOrAfter, key) && m_records.seek(store::Seek::AtOrAfter, key);
 }
 
 } // namespace norvane::screens

@@ -1,11 +1,14 @@
 // What the buttons of a screen do to its table, without the screen: move, add, save, delete, find.
 #pragma once
 
+#include "platform/RuntimeFailure.h"
 #include "screens/ScreenDefinition.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 namespace norvane::screens
 {
@@ -22,20 +25,6 @@ struct BoundField {
 
 using BoundFields = QVector<BoundField>;
 
-enum class SaveOutcome {
-    Stored,
-    DuplicateKey, ///< the user can correct the key and save again
-    Gone,         ///< the record was deleted meanwhile, on another screen or by an upload
-    Refused,      ///< any other failure
-};
-
-/// Of the failures only a duplicate key has a box. Of the others the user has to learn that nothing was
-/// stored.
-struct SaveResult {
-    SaveOutcome outcome = SaveOutcome::Stored;
-    QString reason{}; ///< the failure's text, for the user; empty when the record was stored
-};
-
 /// One place in one table. What the user typed is known to the controls alone until it is saved; a move drops
 /// it, and a record being added or changed with it. Failures other than those of save() end the program.
 class RecordEditor
@@ -47,16 +36,25 @@ public:
 
     /// Puts the current record into @p fields. @throws RuntimeFailure 3021 without a current record, 3265 for
     /// a field that the table does not have, 13 for a whole-number box whose field is null.
-    void showFields(BoundFields& fields) const;
+    void showFields(BoundFields& fields);
 
     /// Blanks @p fields and starts a new record, which is stored by save() only.
     void add(BoundFields& fields);
+    /// Whether a save of @p fields would write over values that another screen or program has stored since
+    /// showFields().
+    [[nodiscard]] bool wouldOverwrite(const BoundFields& fields);
     /// Stores @p fields into the current record, or into the new one. A record that was refused stays open
     /// for the next attempt. PLU numbers are filled with zeros to their full width, in @p fields as well.
-    [[nodiscard]] SaveResult save(BoundFields& fields);
+    /// Waits less than a second for a file that another program holds.
+    /// @return why nothing was stored; nothing when it was.
+    [[nodiscard]] std::optional<RuntimeFailure> save(BoundFields& fields);
     /// Deletes the current record and goes to the first one, also when somebody else has deleted it already;
     /// drops a new record that is not stored yet.
     void deleteRecord();
+    /// Reads the current record as it stands in the file now. One that is gone gives way to the record with
+    /// the same key, which an upload has put in its place. Drops a change that is not stored yet.
+    /// @return false when there is no such record either, or the file cannot be read.
+    [[nodiscard]] bool reread();
 
     /// @return false past the last record: the place is the last record then.
     [[nodiscard]] bool next();
@@ -71,17 +69,25 @@ public:
     [[nodiscard]] const store::FieldDefinition& searchedField(int button) const;
     /// What find() by the first index would find the current record by; empty for a new record.
     [[nodiscard]] QString key() const;
+    [[nodiscard]] bool isAdding() const { return m_records.editMode() == store::EditMode::Adding; }
 
 private:
+    void storeFields(BoundFields& fields);
     void storeField(BoundField& field);
     void deleteCurrent();
+    void beginEdit();
+    void remember();
+    [[nodiscard]] bool isOverwritten(const BoundField& field) const;
+    [[nodiscard]] bool isStillThere();
+    [[nodiscard]] bool goToSameKey();
     [[nodiscard]] const QString& indexOf(int button) const;
-    [[nodiscard]] bool hasRecord(const store::Value& key) const;
+    [[nodiscard]] bool hasRecord(store::Seek comparison, const store::Value& key) const;
 
     std::shared_ptr<store::Database> m_database;
     ScreenTable m_table;
     QString m_screenFile;
     store::Recordset m_records;
+    std::vector<store::Value> m_seen; ///< all fields of the record as it was shown or stored last
 };
 
 } // namespace norvane::screens

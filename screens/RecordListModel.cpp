@@ -1,6 +1,7 @@
 // See RecordListModel.h.
 #include "screens/RecordListModel.h"
 
+#include "screens/RegisterTexts.h"
 #include "store/Recordset.h"
 
 #include <algorithm>
@@ -18,12 +19,7 @@ RecordListModel::RecordListModel(std::shared_ptr<store::Database> database, Reco
 
 QString RecordListModel::shownNumber(const QString& number) const
 {
-    if (m_source.numberField.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) != 0)
-        return number;
-    qsizetype zeros = 0;
-    while (zeros + 1 < number.size() && number[zeros] == u'0')
-        ++zeros;
-    return number.sliced(zeros);
+    return shownKey(m_source.numberField, number);
 }
 
 void RecordListModel::readRecords()

@@ -12,28 +12,44 @@ namespace norvane::screens
 namespace
 {
 
-enum class TextRule {
+enum class FieldRule {
     /// The word "Characters" of a screen file knows only digits and ignores everything else.
     Hexadecimal,
     /// One screen file serves all models, whose printers differ in width.
     MessageLine,
+    /// Up to midnight, which is 2400.
+    TimeOfDay,
+    /// One screen file serves the two models of the older generation, of which the first knows no cards.
+    CardOption,
 };
 
 struct RuledField {
     QLatin1String table;
     QLatin1String field; ///< how its name begins
-    TextRule rule;
+    FieldRule rule;
 };
 
 constexpr RuledField ruledFields[] = {
-    {"EMPLOYEE"_L1, "dallaskey"_L1, TextRule::Hexadecimal},
-    {"LOGOMESSAGE"_L1, "PREAMBLE"_L1, TextRule::MessageLine},
-    {"LOGOMESSAGE"_L1, "POSTAMBLE"_L1, TextRule::MessageLine},
-    {"GUESTCHECKMESSAGE"_L1, "PREAMBLE"_L1, TextRule::MessageLine},
-    {"GUESTCHECKMESSAGE"_L1, "POSTAMBLE"_L1, TextRule::MessageLine},
-    {"VALIDATIONMESSAGE"_L1, "LINE"_L1, TextRule::MessageLine},
-    {"CHECKENDORSEMESSAGE"_L1, "LINE"_L1, TextRule::MessageLine},
+    {"EMPLOYEE"_L1, "dallaskey"_L1, FieldRule::Hexadecimal},
+    {"LOGOMESSAGE"_L1, "PREAMBLE"_L1, FieldRule::MessageLine},
+    {"LOGOMESSAGE"_L1, "POSTAMBLE"_L1, FieldRule::MessageLine},
+    {"GUESTCHECKMESSAGE"_L1, "PREAMBLE"_L1, FieldRule::MessageLine},
+    {"GUESTCHECKMESSAGE"_L1, "POSTAMBLE"_L1, FieldRule::MessageLine},
+    {"VALIDATIONMESSAGE"_L1, "LINE"_L1, FieldRule::MessageLine},
+    {"CHECKENDORSEMESSAGE"_L1, "LINE"_L1, FieldRule::MessageLine},
+    {"TIMEPERIOD"_L1, "STARTTIME"_L1, FieldRule::TimeOfDay},
+    {"EJDETAILPRINT"_L1, "EJPOINTPAYMENT"_L1, FieldRule::CardOption},
+    {"EJDETAILPRINT"_L1, "EJSUBTRACT"_L1, FieldRule::CardOption},
+    {"EJDETAILPRINT"_L1, "EJADDPOINT"_L1, FieldRule::CardOption},
+    {"EJDETAILPRINT"_L1, "EJREDEEM"_L1, FieldRule::CardOption},
+    {"EJDETAILPRINT"_L1, "EJPRINTCARD"_L1, FieldRule::CardOption},
+    {"EJDETAILPRINT"_L1, "EJCARDSALE"_L1, FieldRule::CardOption},
+    {"EJDETAILPRINT"_L1, "EJHOTLIST"_L1, FieldRule::CardOption},
+    {"EJDETAILPRINT"_L1, "EJREMOVECARD"_L1, FieldRule::CardOption},
 };
+
+constexpr int midnight = 2400;
+constexpr double modelWithoutCards = 0;
 
 /// Eight digits with two behind the point, as the price boxes of the PLU screens.
 constexpr double largestPrice = 999999.99;
@@ -45,6 +61,24 @@ void narrowTo(ControlDefinition& control, int characters)
         control.maximum = width;
 }
 
+void apply(FieldRule rule, ControlDefinition& control, const ApplicationValues& values)
+{
+    switch (rule) {
+    case FieldRule::Hexadecimal:
+        control.isHexadecimal = true;
+        break;
+    case FieldRule::MessageLine:
+        narrowTo(control, messageWidth(values));
+        break;
+    case FieldRule::TimeOfDay:
+        control.largest = midnight;
+        break;
+    case FieldRule::CardOption:
+        control.enabled = ecrModel(values) != modelWithoutCards;
+        break;
+    }
+}
+
 } // namespace
 
 bool isAboveLargest(const Decimal& number, const QString& field)
@@ -54,22 +88,25 @@ bool isAboveLargest(const Decimal& number, const QString& field)
     return isPrice && number.toDouble() > largestPrice;
 }
 
+QString shownKey(const QString& keyField, const QString& key)
+{
+    if (keyField.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) != 0)
+        return key;
+    qsizetype zeros = 0;
+    while (zeros + 1 < key.size() && key[zeros] == u'0')
+        ++zeros;
+    return key.sliced(zeros);
+}
+
 void fitToRegister(ControlDefinition& control, const QString& table, const ApplicationValues& values)
 {
-    if (control.kind != ControlKind::Text)
-        return;
     const auto isAbout = [&](const RuledField& row) {
         return table.compare(row.table, Qt::CaseInsensitive) == 0 &&
                control.dataField.trimmed().startsWith(row.field, Qt::CaseInsensitive);
     };
     const auto* const row = std::find_if(std::begin(ruledFields), std::end(ruledFields), isAbout);
-    if (row == std::end(ruledFields))
-        return;
-    if (row->rule == TextRule::Hexadecimal) {
-        control.isHexadecimal = true;
-    } else {
-        narrowTo(control, messageWidth(values));
-    }
+    if (row != std::end(ruledFields))
+        apply(row->rule, control, values);
 }
 
 } // namespace norvane::screens

@@ -56,6 +56,7 @@ struct ControlDefinition {
     QString justify;            ///< "0" left, "1" right, "2" centre
     QString characters;         ///< "NUMERIC" in any case for digits only
     bool isHexadecimal = false; ///< no word of the file, see RegisterTexts.h
+    std::optional<int> largest; ///< number that a text of digits may make; no word of the file either
     QString sqlCriteria;        ///< query behind a combo or grid
     QString list;               ///< rows of a combo without query: "0;Off,1;On"
     QString columnWidths;       ///< of a combo's list, in twips, separated by ";"; 0 hides a column

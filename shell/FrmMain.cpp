@@ -3,6 +3,7 @@
 
 #include "paper/Length.h"
 #include "platform/FilePaths.h"
+#include "shell/AccessLetters.h"
 #include "shell/MainStatusBar.h"
 #include "shell/NotYetBuilt.h"
 #include "shell/ScreenChoice.h"
@@ -11,12 +12,15 @@
 #include "ui/WaitPointer.h"
 
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QShortcut>
 
 #include <algorithm>
 #include <utility>
@@ -70,6 +74,7 @@ FrmMain::FrmMain(const ApplicationValues& values, Boxes& boxes, Openers openers)
     setStatusBar(StatusBar1);
     StatusBar1->setPanel(readyText());
     buildMenu();
+    takeMenuKey();
     placeOnScreen();
 }
 
@@ -80,7 +85,19 @@ QMdiArea* FrmMain::makeArea()
     area->setBackground(ui::colours::desktop);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    new AccessLetters(*area);
     return area;
+}
+
+/// F10 leads into the menu as the Alt key alone does.
+void FrmMain::takeMenuKey()
+{
+    connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this, [this] {
+        QKeyEvent pressed(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
+        QKeyEvent released(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
+        QCoreApplication::sendEvent(this, &pressed);
+        QCoreApplication::sendEvent(this, &released);
+    });
 }
 
 void FrmMain::placeOnScreen()
@@ -110,7 +127,7 @@ QAction* FrmMain::buildEntry(const MenuEntry& entry)
     auto* const action = new QAction(menuText(entry.caption), this);
     nameAction(*action, entry);
     action->setSeparator(entry.opens == Opens::Separator);
-    connect(action, &QAction::triggered, this, [this, &entry] { open(entry); });
+    connect(action, &QAction::triggered, this, [this, &entry] { choose(entry); });
     return action;
 }
 
@@ -122,10 +139,19 @@ QAction* FrmMain::buildMenuOf(const MenuEntry& entry)
     return menu->menuAction();
 }
 
-void FrmMain::open(const MenuEntry& entry)
+/// A key editor leads over to the chosen customer's data, others change what the screens show.
+void FrmMain::choose(const MenuEntry& entry)
 {
     if (m_working)
         return;
+    StatusBar1->setNotice({});
+    open(entry);
+    showDataInUse();
+    Q_EMIT entryDone();
+}
+
+void FrmMain::open(const MenuEntry& entry)
+{
     const bool isForm = entry.opens == Opens::Form || entry.opens == Opens::ModelForm;
     if (opensScreen(entry)) {
         openScreen(entry);
@@ -159,6 +185,7 @@ QMdiSubWindow& FrmMain::showChild(QWidget* form, Qt::WindowFlags flags)
     form->show();
     child->show();
     child->adjustSize();
+    child->resize(child->size().boundedTo(m_area->viewport()->size()));
     place(*child);
     return *child;
 }
@@ -188,6 +215,13 @@ void FrmMain::showShared(const QString& name, const std::function<QWidget*()>& m
 void FrmMain::showCustomer()
 {
     StatusBar1->setStatusText(u"Customer Database "_s + m_values.customerName);
+    showDataInUse();
+}
+
+void FrmMain::showDataInUse()
+{
+    const QDir folder = QFileInfo(m_values.databasePath).dir();
+    StatusBar1->setDataInUse(folder == QDir(m_values.customerPath) ? QString() : folder.dirName());
 }
 
 void FrmMain::unload()

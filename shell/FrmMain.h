@@ -41,7 +41,8 @@ public:
     FrmMain(const ApplicationValues& values, Boxes& boxes, Openers openers);
 
     [[nodiscard]] MainStatusBar& statusBar1() { return *StatusBar1; }
-    /// Shows "Customer Database " and the customer's name in the status bar.
+    /// Shows "Customer Database " and the customer's name in the status bar, and whose data is open as long
+    /// as it is another's: a change of customer alone leaves the database as it is.
     void showCustomer();
 
     /// Shows @p form in the middle of this window. The returned child window has @p flags and owns the form;
@@ -59,6 +60,8 @@ public:
 Q_SIGNALS:
     /// The window was closed; the program ends.
     void unloaded();
+    /// A menu entry has done its work, which may have changed any table.
+    void entryDone();
 
 protected:
     /// Asks first, however the user closes the window.
@@ -70,10 +73,13 @@ private:
     [[nodiscard]] QAction* buildMenuOf(const MenuEntry& entry);
     [[nodiscard]] QAction* buildEntry(const MenuEntry& entry);
     void placeOnScreen();
+    void takeMenuKey();
+    void choose(const MenuEntry& entry);
     void open(const MenuEntry& entry);
     void openScreen(const MenuEntry& entry);
     void openForm(const MenuEntry& entry);
     void place(QMdiSubWindow& child);
+    void showDataInUse();
 
     const ApplicationValues& m_values;
     Boxes& m_boxes;

@@ -1,11 +1,14 @@
 // Controls of the setup dialog, made from the table of settings; see FrmSetup.h.
 #include "shell/FrmSetup.h"
 
+#include "base/CustomerSettings.h"
 #include "platform/ProfileFile.h"
+#include "shell/MainStatusBar.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -62,7 +65,7 @@ QLabel* makeLabel(const Setting& setting)
 
 FrmSetup::FrmSetup(const ApplicationValues& values, MainStatusBar& status, QWidget* parent)
     : StatusForm(u"FrmSetup"_s, u"Setup"_s, u"Setup....."_s, status, parent), m_values(values),
-      m_controls(static_cast<qsizetype>(settings().size()))
+      m_statusBar(status), m_controls(static_cast<qsizetype>(settings().size()))
 {
     layOut();
     load();
@@ -123,8 +126,19 @@ void FrmSetup::save()
             shown.append(SettingValue{-1, text->text()});
         }
     }
-    writeSettings(m_values, shown);
+    m_statusBar.setNotice(outcome(writeSettings(m_values, shown)));
     close();
+}
+
+/// The platform's profile routines report no failure, so the user would go on with settings that are not
+/// stored.
+QString FrmSetup::outcome(int written) const
+{
+    if (written == m_controls.size())
+        return u"Saved Setup"_s;
+    const QString what = written == 0 ? u"Nothing was stored"_s : u"Not all settings were stored"_s;
+    return u"%1: %2 cannot be written, or the disk is full"_s.arg(
+        what, QDir::toNativeSeparators(settingsPath(m_values)));
 }
 
 } // namespace norvane::shell

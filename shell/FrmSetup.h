@@ -28,7 +28,10 @@ private:
     void load();
     void save();
 
+    [[nodiscard]] QString outcome(int written) const;
+
     const ApplicationValues& m_values;
+    MainStatusBar& m_statusBar;
     QList<QWidget*> m_controls; ///< a list or a text box each, in the order of settings()
 };
 

@@ -31,7 +31,8 @@ QString readyText()
 }
 
 MainStatusBar::MainStatusBar(QWidget* parent)
-    : QStatusBar(parent), m_panel(statusLabel(u"Panel1"_s)), m_text(statusLabel(u"StatusText"_s))
+    : QStatusBar(parent), m_panel(statusLabel(u"Panel1"_s)), m_text(statusLabel(u"StatusText"_s)),
+      m_notice(statusLabel(u"Notice"_s)), m_dataInUse(statusLabel(u"DataInUse"_s))
 {
     ui::nameControl(*this, u"StatusBar1"_s);
     m_panel->setMinimumWidth(panelWidth);
@@ -39,6 +40,13 @@ MainStatusBar::MainStatusBar(QWidget* parent)
     m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     addWidget(m_panel);
     addWidget(m_text, 1);
+    addWidget(m_notice);
+    addPermanentWidget(m_dataInUse);
+    QFont bold = m_dataInUse->font();
+    bold.setBold(true);
+    m_dataInUse->setFont(bold);
+    m_dataInUse->setToolTip(u"End the program and start it again to work on the data of another customer."_s);
+    m_dataInUse->hide();
 }
 
 void MainStatusBar::setPanel(const QString& text)
@@ -59,6 +67,22 @@ void MainStatusBar::setStatusText(const QString& text)
 QString MainStatusBar::statusText() const
 {
     return m_text->text();
+}
+
+void MainStatusBar::setNotice(const QString& text)
+{
+    m_notice->setText(text);
+}
+
+QString MainStatusBar::notice() const
+{
+    return m_notice->text();
+}
+
+void MainStatusBar::setDataInUse(const QString& customer)
+{
+    m_dataInUse->setText(u"Screens and exchange: data of "_s + customer);
+    m_dataInUse->setVisible(!customer.isEmpty());
 }
 
 } // namespace norvane::shell

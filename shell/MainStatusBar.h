@@ -8,7 +8,8 @@ class QLabel;
 namespace norvane::shell
 {
 
-/// A panel ("Ready.....") and beside it the status text, which names the customer.
+/// A panel ("Ready.....") and beside it the status text, which names the customer. At the right what the last
+/// action came to ("Saved PLU 1001"), and whose data is open while it is not the customer's.
 class MainStatusBar : public QStatusBar
 {
     Q_OBJECT
@@ -20,10 +21,17 @@ public:
     [[nodiscard]] QString panel() const;
     void setStatusText(const QString& text);
     [[nodiscard]] QString statusText() const;
+    /// Stands until the next one; an empty text takes it away.
+    void setNotice(const QString& text);
+    [[nodiscard]] QString notice() const;
+    /// Tells whose data screens and exchange work on; an empty name for those of the chosen customer.
+    void setDataInUse(const QString& customer);
 
 private:
     QLabel* m_panel;
     QLabel* m_text;
+    QLabel* m_notice;
+    QLabel* m_dataInUse;
 };
 
 /// The panel's text while no form has set another one.

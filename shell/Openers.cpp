@@ -5,7 +5,10 @@
 #include "sales/FrmsalesComm.h"
 #include "screens/OptionForm.h"
 #include "shell/FrameOpeners.h"
+#include "shell/MainStatusBar.h"
 #include "shell/UtilityOpeners.h"
+
+#include <QMdiSubWindow>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,6 +44,23 @@ void openCollection(FrmMain& main, const ApplicationValues& values, Boxes& boxes
     });
 }
 
+/// What a screen has to say stands in the status bar, until the screen closes. A screen that comes to the
+/// front again, and every screen after a menu entry, looks what has become of its record.
+void openScreen(FrmMain& main, const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes)
+{
+    auto* const form = new screens::OptionForm(screenFilePath, values, boxes);
+    auto* const status = &main.statusBar1();
+    QObject::connect(form, &screens::OptionForm::told, status, &MainStatusBar::setNotice);
+    QObject::connect(form, &QObject::destroyed, status, [status] { status->setNotice({}); });
+    QObject::connect(&main, &FrmMain::entryDone, form, &screens::OptionForm::refresh);
+    const QMdiSubWindow& child = main.showChild(form);
+    QObject::connect(&child, &QMdiSubWindow::windowStateChanged, form,
+                     [form](Qt::WindowStates before, Qt::WindowStates now) {
+                         if ((now & ~before).testFlag(Qt::WindowActive))
+                             form->refresh();
+                     });
+}
+
 } // namespace
 
 FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
@@ -54,7 +74,7 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
     });
     openers.insert(makeUtilityOpeners(values, boxes));
     return {openers, [&values, &boxes](FrmMain& main, const QString& screenFilePath) {
-                main.showChild(new screens::OptionForm(screenFilePath, values, boxes));
+                openScreen(main, screenFilePath, values, boxes);
             }};
 }
 

@@ -94,11 +94,15 @@ QList<SettingValue> readSettings(const ApplicationValues& values)
     return read;
 }
 
-void writeSettings(const ApplicationValues& values, const QList<SettingValue>& settingValues)
+int writeSettings(const ApplicationValues& values, const QList<SettingValue>& settingValues)
 {
     const QString path = settingsPath(values);
-    for (qsizetype row = 0; const auto& setting : settings())
-        ProfileFile::write(path, u"SetupOption"_s, setting.key, storedText(setting, settingValues[row++]));
+    int written = 0;
+    for (qsizetype row = 0; const auto& setting : settings()) {
+        const QString text = storedText(setting, settingValues[row++]);
+        written += ProfileFile::write(path, u"SetupOption"_s, setting.key, text) ? 1 : 0;
+    }
+    return written;
 }
 
 } // namespace norvane::shell

@@ -44,8 +44,8 @@ struct SettingValue {
 /// names file and key.
 [[nodiscard]] QList<SettingValue> readSettings(const ApplicationValues& values);
 
-/// Writes all settings, key by key; makes the file when it is missing. A failed write is not reported, since
-/// the platform's profile routines do not report one.
-void writeSettings(const ApplicationValues& values, const QList<SettingValue>& settingValues);
+/// Writes all settings, key by key; makes the file when it is missing.
+/// @return how many of them were written.
+[[nodiscard]] int writeSettings(const ApplicationValues& values, const QList<SettingValue>& settingValues);
 
 } // namespace norvane::shell

@@ -62,8 +62,23 @@ private:
     friend class MonthTotals;
     friend class BoundQuery;
     friend class Recordset;
+    friend class ShortWait;
     friend class Transaction;
     std::unique_ptr<Private> d;
+};
+
+/// While it lives, work on @p database waits less than half a second for a file that another program holds,
+/// and then fails with 3260: a user who pressed a button must not look at a window that stands still.
+class ShortWait
+{
+public:
+    explicit ShortWait(Database& database);
+    ~ShortWait();
+    ShortWait(const ShortWait&) = delete;
+    ShortWait& operator=(const ShortWait&) = delete;
+
+private:
+    Database& m_database;
 };
 
 /// Bulk work in one go: commits when it goes out of scope, also when a failure is thrown through it, since

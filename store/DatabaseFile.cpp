@@ -24,9 +24,6 @@ namespace norvane::store
 namespace
 {
 
-/// No work of ours holds the file this long, and a user can wait for it.
-constexpr int busyMilliseconds = 5000;
-
 /// Every file of the engine begins with its mark; our format version and our mark follow.
 constexpr std::size_t headerSize = 100;
 constexpr char engineMark[] = "SQLite format 3";

@@ -8,6 +8,10 @@
 namespace norvane::store
 {
 
+/// How long every connection waits for a file that another program holds: no work of ours holds one this
+/// long, and a user can wait for it.
+inline constexpr int busyMilliseconds = 5000;
+
 /// Opens an existing file for reading and, where it may be written, for writing. @throws as Database does.
 [[nodiscard]] SQLite::Database openDatabaseFile(const QString& path);
 

@@ -13,12 +13,14 @@ constexpr int mostDecimals = 9;
 DecimalBox::DecimalBox(QWidget* parent) : NumberBox(Point::Allowed, parent)
 {
     NumberBox::setValue({});
+    tellRange();
 }
 
 void DecimalBox::setDecimals(int decimals)
 {
     m_decimals = qBound(0, decimals, mostDecimals);
     setText(shownText(value()));
+    tellRange();
 }
 
 QString DecimalBox::shownText(const Decimal& value) const

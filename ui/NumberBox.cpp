@@ -1,9 +1,12 @@
 // Typing rules of the number boxes; see NumberBox.h.
 #include "ui/NumberBox.h"
 
+#include <QToolTip>
 #include <QValidator>
 
 #include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::ui
 {
@@ -18,6 +21,12 @@ QStringView withoutLeadingZeros(QStringView digits)
     while (digits.startsWith(u'0'))
         digits = digits.sliced(1);
     return digits;
+}
+
+qsizetype digitsIn(QStringView text)
+{
+    return std::count_if(text.begin(), text.end(),
+                         [](QChar character) { return character >= u'0' && character <= u'9'; });
 }
 
 /// Compares plain number texts digit by digit: no digit of a long number is lost.
@@ -50,12 +59,8 @@ public:
         QStringView rest(input);
         if (m_minus && rest.startsWith(u'-'))
             rest = rest.sliced(1);
-        const auto isDigit = [](QChar character) {
-            return character >= u'0' && character <= u'9';
-        };
-        const auto digits = std::count_if(rest.begin(), rest.end(), isDigit);
         const auto points = m_point == Point::Allowed ? rest.count(u'.') : 0;
-        const bool isNumber = digits + points == rest.size() && points <= 1 && digits <= mostDigits;
+        const bool isNumber = digitsIn(rest) + points == rest.size() && points <= 1;
         return isNumber ? Acceptable : Invalid;
     }
 
@@ -71,11 +76,21 @@ NumberBox::NumberBox(Point point, QWidget* parent)
     setAlignment(Qt::AlignRight);
     connect(this, &QLineEdit::textEdited, this, &NumberBox::takeTyping);
     connect(this, &QLineEdit::editingFinished, this, [this] { setText(shownText(value())); });
+    connect(this, &QLineEdit::inputRejected, this,
+            [this] { QToolTip::showText(mapToGlobal(rect().bottomLeft()), toolTip(), this); });
 }
 
 void NumberBox::setMaximum(const Decimal& maximum)
 {
     m_maximum = QString::fromStdString(maximum.text());
+    tellRange();
+}
+
+void NumberBox::tellRange()
+{
+    const QString largest = m_maximum.isEmpty() ? QString(mostDigits, u'9')
+                                                : shownText(Decimal::leading(m_maximum.toStdString()));
+    setToolTip(u"From 0 to "_s + largest);
 }
 
 Decimal NumberBox::value() const
@@ -86,16 +101,25 @@ Decimal NumberBox::value() const
 void NumberBox::setValue(const Decimal& value)
 {
     m_validator->allowMinus(value.coefficient() < 0);
-    setText(shownText(value));
+    if (const QString shown = shownText(value); shown != text())
+        setText(shown);
+}
+
+bool NumberBox::isTooLarge(const QString& text) const
+{
+    const QStringView digits = withoutLeadingZeros(text);
+    return digitsIn(digits) > mostDigits ||
+           (!m_maximum.isEmpty() && !text.startsWith(u'-') && isAbove(text, m_maximum));
 }
 
 void NumberBox::takeTyping(const QString& text)
 {
-    if (!m_maximum.isEmpty() && !text.startsWith(u'-') && isAbove(text, m_maximum)) {
+    if (isTooLarge(text)) {
+        setValue({});
         Q_EMIT maximumExceeded();
-        return;
+    } else {
+        Q_EMIT valueEdited();
     }
-    Q_EMIT valueEdited();
 }
 
 } // namespace norvane::ui

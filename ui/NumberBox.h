@@ -10,13 +10,14 @@ namespace norvane::ui
 
 /// A box for one number without a sign: registers know no negative amounts, so that no minus can be typed. A
 /// stored negative number is shown all the same and stays what it is until it is typed over. Holds up to 18
-/// digits. An empty box counts as 0. Setting a value by program raises no signal.
+/// digits. An empty box counts as 0. Setting a value by program raises no signal. The tool tip tells from
+/// where to where the number may go; it opens by itself at a key that the box does not take.
 class NumberBox : public QLineEdit
 {
     Q_OBJECT
 
 public:
-    /// The largest number that may be typed; a larger one raises maximumExceeded.
+    /// The largest number that may be typed.
     void setMaximum(const Decimal& maximum);
     [[nodiscard]] Decimal value() const;
     virtual void setValue(const Decimal& value);
@@ -24,8 +25,8 @@ public:
 Q_SIGNALS:
     /// The user changed the number.
     void valueEdited();
-    /// The user entered a number above the maximum. Raised once for each such entry; the box still holds the
-    /// number, and the form decides what becomes of it.
+    /// The user entered a number above the maximum, or one of more digits than the box holds. Raised once for
+    /// each such entry; the box is back at 0 by then.
     void maximumExceeded();
 
 protected:
@@ -33,9 +34,12 @@ protected:
     NumberBox(Point point, QWidget* parent);
     /// The text shown for @p value when nobody is typing.
     [[nodiscard]] virtual QString shownText(const Decimal& value) const = 0;
+    /// Puts the range into the tool tip; after a change of what decides on it.
+    void tellRange();
 
 private:
     void takeTyping(const QString& text);
+    [[nodiscard]] bool isTooLarge(const QString& text) const;
 
     class Validator;
     Validator* m_validator;

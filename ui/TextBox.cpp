@@ -84,6 +84,20 @@ void TextBox::setCharacters(Characters characters)
     m_refusedHeld = refusedIn(text());
 }
 
+void TextBox::setLargest(int number)
+{
+    const auto zeros = [this] {
+        return QString(maxLength(), u'0');
+    };
+    setToolTip(u"From %1 to %2"_s.arg(zeros()).arg(number));
+    connect(this, &QLineEdit::textEdited, this, [this, number, zeros](const QString& typed) {
+        if (typed.toInt() <= number)
+            return;
+        setText(zeros());
+        Q_EMIT maximumExceeded();
+    });
+}
+
 void TextBox::setJustify(const QString& code)
 {
     if (code == "0"_L1) {

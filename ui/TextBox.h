@@ -30,8 +30,14 @@ public:
     void setCharacters(Characters characters);
     /// Code of the side the text stands at: "0" left, "1" right, "2" centre; any other changes nothing.
     void setJustify(const QString& code);
+    /// The largest number that digits may make, such as a time of the day.
+    void setLargest(int number);
     /// Shows a stored text whole, even one above the limit: saving must not cut it.
     void showText(const QString& text);
+
+Q_SIGNALS:
+    /// What the user typed or pasted is above the largest number. The box holds zeros by then.
+    void maximumExceeded();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

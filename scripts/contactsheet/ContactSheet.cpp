@@ -34,6 +34,7 @@ constexpr const char* modelNames[] = {"Velmar -V2", "Velmar V2 Card", "Velmar +V
 constexpr int modelOrder[] = {2, 0, 1, 3};
 
 constexpr int exchangeBoxes = 37;
+constexpr QSize desktop{1600, 1200};
 
 constexpr double scale = 2.0 / 3; ///< texts can still be read
 constexpr int sheetWidth = 1500;
@@ -79,6 +80,9 @@ public:
         test::BoxNumbers everyBox(exchangeBoxes);
         std::iota(everyBox.begin(), everyBox.end(), 0);
         upload(everyBox);
+        // On a small desktop the largest screens would scroll.
+        for (QWidget* const window : QApplication::topLevelWidgets())
+            window->resize(desktop);
         // Nothing uploads the descriptors; a picture needs a record.
         execute("insert into SYSTEMDESCRIPTORS (ID, SYSTEMDESCRIPTORS) values (1, 'TOTAL')");
     }

@@ -4,6 +4,7 @@
 #include "screens/FieldPanel.h"
 #include "screens/OptionForm.h"
 #include "screens/ScreenReader.h"
+#include "shell/FrmMain.h"
 #include "store/Catalogue.h"
 #include "store/Recordset.h"
 #include "tests/data/FieldRules.h"
@@ -16,6 +17,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
+#include <QMdiSubWindow>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSet>
@@ -273,6 +276,28 @@ void ScreenFile::checkOrder(const QVector<QWidget*>& order)
             }
         }
     }
+}
+
+TEST_P(ScreenFile, FitsOrScrollsOnTheSmallestDesktop)
+{
+    ApplicationValues values;
+    values.databasePath = filledDatabase();
+    test::RecordingBoxes boxes;
+    shell::FrmMain main(values, boxes, {});
+    main.resize(1024, 738);
+    main.show();
+    auto* const form = new OptionForm(m_path, values, boxes);
+    const auto& child = main.showChild(form);
+    QApplication::processEvents();
+    EXPECT_TRUE(child.parentWidget()->rect().contains(child.geometry()));
+    for (const auto* const button : form->findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (button->isVisible() && !form->rect().contains(button->geometry()))
+            complain(button->objectName(), u"is out of sight"_s);
+    }
+    const auto& panel = *form->findChild<FieldPanel*>();
+    EXPECT_EQ(panel.horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(panel.verticalScrollBar()->maximum(),
+              qMax(0, panel.widget()->height() - panel.viewport()->height()));
 }
 
 const QString long50(50, u'x');

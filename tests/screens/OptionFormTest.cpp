@@ -1,8 +1,10 @@
 // A screen in use: keys and clicks in, rows in the database and messages out.
+#include "tests/platform/FullDisk.h"
 #include "tests/screens/ScreenFixture.h"
 #include "ui/ValueList.h"
 
 #include <QCheckBox>
+#include <QElapsedTimer>
 #include <QLabel>
 
 namespace norvane::screens
@@ -43,6 +45,16 @@ protected:
                "True\n");
     }
     static std::string name(const Form& form) { return text(form, "TextControl_1"); }
+    /// What the status bar says after @p act.
+    static std::string toldBy(const Form& form, const std::function<void()>& act)
+    {
+        QString last;
+        const auto listening = QObject::connect(form.get(), &OptionForm::told, form.get(),
+                                                [&](const QString& text) { last = text; });
+        act();
+        QObject::disconnect(listening);
+        return last.toStdString();
+    }
     [[nodiscard]] std::string groupNames() const
     {
         return rows("select DESCRIPTION from GROUPS order by GROUPNO");
@@ -79,7 +91,7 @@ TEST_F(OptionFormTest, WhatTheUserTypesIsStoredOnSave)
     EXPECT_TRUE(m_boxes.shown.empty());
 }
 
-TEST_F(OptionFormTest, NullIsShownEmptyAndAFailingSavePassesSilently)
+TEST_F(OptionFormTest, NullIsShownEmptyAndAFailingSaveShowsNoBox)
 {
     execute("update GROUPS set DESCRIPTION = null, PRICE = null, LINK = null, TAX1 = null where GROUPNO = 1");
     const Form form = open();
@@ -89,9 +101,36 @@ TEST_F(OptionFormTest, NullIsShownEmptyAndAFailingSavePassesSilently)
     EXPECT_FALSE(control<QCheckBox>(form, "CheckControl_1")->isChecked());
     type(form, "TextControl_1", "Ports");
     control<ui::ValueList>(form, "ComboControl_1")->setValue(u"3000000000"_s);
-    press(form, "SaveRecord");
+    const std::string said = toldBy(form, [&] { press(form, "SaveRecord"); });
     EXPECT_TRUE(m_boxes.shown.empty());
     EXPECT_EQ(group(1), "null|null|null|null|null|1|1.5");
+    EXPECT_EQ(said.find("Nothing was stored: "), 0U) << said;
+    EXPECT_NE(said.find("LINK"), std::string::npos) << said;
+}
+
+TEST_F(OptionFormTest, ASaveOnALockedFileOrAFullDiskSaysSoAndCanBeRepeated)
+{
+    const Form form = open();
+    type(form, "TextControl_1", "Ports");
+    QElapsedTimer clock;
+    {
+        store::Database other(m_values.databasePath);
+        const store::Transaction work(other);
+        clock.start();
+        EXPECT_EQ(toldBy(form, [&] { press(form, "SaveRecord"); }),
+                  "Nothing was stored: another program holds the database");
+        EXPECT_LT(clock.elapsed(), 2000) << "the usual wait is five seconds";
+    }
+#ifdef Q_OS_UNIX
+    {
+        const test::FullDisk disk(100);
+        EXPECT_EQ(toldBy(form, [&] { press(form, "SaveRecord"); }).find("Nothing was stored: the disk"), 0U);
+    }
+#endif
+    EXPECT_EQ(toldBy(form, [&] { press(form, "SaveRecord"); }), "Saved Options 1");
+    EXPECT_EQ(groupNames(), "Ports Beers Food");
+    EXPECT_EQ(toldBy(form, [&] { press(form, "NextRecord"); }), "") << "another record";
+    EXPECT_TRUE(m_boxes.shown.empty());
 }
 
 TEST_F(OptionFormTest, MovesLoseWhatWasTypedAndTellTheEnds)
@@ -308,7 +347,8 @@ TEST_F(OptionFormTest, ARecordThatAnotherScreenReplacedIsNotOverwritten)
     type(second, "TextControl_1", "Spirits");
     press(second, "SaveRecord");
     type(first, "TextControl_1", "Snacks");
-    press(first, "SaveRecord");
+    EXPECT_EQ(toldBy(first, [&] { press(first, "SaveRecord"); }),
+              "Nothing was stored: another screen or an upload has deleted the record");
     EXPECT_EQ(groupNames(), "Wines Beers Spirits");
     EXPECT_EQ(name(first), "Snacks") << "for the user to save elsewhere";
     press(first, "DeleteRecord");

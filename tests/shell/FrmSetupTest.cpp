@@ -2,6 +2,7 @@
 #include "shell/FrmSetup.h"
 
 #include "shell/MainStatusBar.h"
+#include "tests/platform/FullDisk.h"
 #include "tests/shell/ShellFixture.h"
 
 #include <QComboBox>
@@ -95,6 +96,23 @@ TEST_F(FrmSetupTest, EnterSavesAndEscapeAndExitLeave)
     }
     EXPECT_EQ(m_status.panel(), u"Ready.....");
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(FrmSetupTest, ASaveThatFailsIsToldInTheStatusBar)
+{
+    open();
+    combo("CboModel").setCurrentIndex(1);
+    {
+        const test::FullDisk disk(10);
+        press("CmdSave");
+    }
+    EXPECT_EQ(m_status.notice(), u"Nothing was stored: %1 cannot be written, or the disk is full"_s.arg(
+                                     m_folder.path("app/Cafe/setup.ini")));
+    EXPECT_EQ(settings(), "[SetupOption]\r\nECRModel= 0\r\n");
+    EXPECT_FALSE(m_form->isVisible());
+    EXPECT_EQ(m_status.panel(), u"Ready.....");
+}
+#endif
 
 TEST_F(FrmSetupTest, AnIndexOutsideItsListIsAFailure)
 {

@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 #include <QWheelEvent>
 
 using namespace Qt::Literals::StringLiterals;
@@ -64,16 +65,39 @@ TEST(NumberBox, TheMaximumIsReportedOnceForEachEntryAboveIt)
 {
     DecimalBox box;
     QSignalSpy exceeded(&box, &NumberBox::maximumExceeded);
-    QObject::connect(&box, &NumberBox::maximumExceeded, &box, [&] {
-        box.setValue({});
-        box.selectAll();
-    });
+    QObject::connect(&box, &NumberBox::maximumExceeded, &box, &QLineEdit::selectAll);
     box.setMaximum(Decimal(9999, 2));
     EXPECT_EQ(typed(box, "0099.990"), u"99.99"_s);
     EXPECT_EQ(exceeded.count(), 0);
     EXPECT_EQ(typed(box, "99.991"), u"0.00"_s);
     EXPECT_EQ(exceeded.count(), 1);
     EXPECT_EQ(typed(box, "1005"), u"5.00"_s) << "the next digit begins a new entry";
+}
+
+TEST(NumberBox, TellsItsRangeAndOpensItAtAKeyThatItDoesNotTake)
+{
+    DecimalBox money;
+    EXPECT_EQ(money.toolTip(), u"From 0 to 999999999999999999"_s);
+    money.setMaximum(Decimal(9999, 2));
+    money.setDecimals(3);
+    EXPECT_EQ(money.toolTip(), u"From 0 to 99.990"_s);
+    money.show();
+    for (const char* refused : {"-", "x"}) {
+        QToolTip::hideText();
+        QTest::keyClicks(&money, QString::fromLatin1(refused));
+        EXPECT_EQ(QToolTip::text(), money.toolTip()) << refused;
+    }
+}
+
+TEST(NumberBox, MoreDigitsThanItHoldsAreAboveTheMaximum)
+{
+    DecimalBox box;
+    const QSignalSpy exceeded(&box, &NumberBox::maximumExceeded);
+    EXPECT_EQ(typed(box, "000999999999999999999"), u"999999999999999999.00"_s);
+    EXPECT_EQ(exceeded.count(), 0);
+    EXPECT_EQ(typed(box, "1234567890123456789"), u"0.00"_s);
+    EXPECT_EQ(typed(box, "1.123456789012345678"), u"0.00"_s);
+    EXPECT_EQ(exceeded.count(), 2);
 }
 
 TEST(NumberBox, WithoutAMaximumAWholeNumberIsWhatCanBeSaved)
@@ -97,6 +121,22 @@ TEST(TextBox, TypingStopsAtTheLimitButAStoredTextStaysWhole)
         box.showText({});
         QTest::keyClicks(&box, u"Drinks"_s);
         EXPECT_EQ(box.text(), kept);
+    }
+}
+
+TEST(TextBox, ATimeOfTheDayEndsAtItsLargest)
+{
+    TextBox box;
+    box.setLimit(4);
+    box.setLargest(2400);
+    const QSignalSpy exceeded(&box, &TextBox::maximumExceeded);
+    EXPECT_EQ(box.toolTip(), u"From 0000 to 2400"_s);
+    for (const auto& [keys, kept, times] :
+         {std::tuple{"2400", "2400", 0}, {"0930", "0930", 0}, {"2401", "0000", 1}}) {
+        box.selectAll();
+        QTest::keyClicks(&box, QString::fromLatin1(keys));
+        EXPECT_EQ(box.text(), QLatin1String(kept));
+        EXPECT_EQ(exceeded.count(), times) << keys;
     }
 }
 

@@ -1,0 +1,53 @@
+// See SaveNotices.h.
+#include "screens/SaveNotices.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::screens
+{
+namespace
+{
+
+struct Reason {
+    Failure failure;
+    QLatin1StringView text;
+};
+
+/// The failures that do not lie in what was entered. All others tell it themselves, table and field included.
+constexpr Reason reasons[] = {
+    {Failure::DatabaseLocked, "another program holds the database"_L1},
+    {Failure::DiskFull, "the disk is full"_L1},
+    {Failure::PathOrFileAccess, "the database is read only"_L1},
+    {Failure::DeviceIo, "the disk cannot be read or written"_L1},
+    {Failure::RecordDeleted, "another screen or an upload has deleted the record"_L1},
+};
+
+} // namespace
+
+bool mayOverwrite(Boxes& boxes)
+{
+    return boxes.choose(u"Since this record was shown here, it was changed by another screen, a price change "
+                        "or an upload.\r\rSave replaces those changes by what stands here.\r"
+                        "Show shows them here, and drops what you have typed."_s,
+                        u"Record Changed"_s, u"&Save"_s, u"S&how"_s);
+}
+
+QString nothingStored(const RuntimeFailure& failure)
+{
+    const auto* const known = std::ranges::find(reasons, failure.failure(), &Reason::failure);
+    const QString why = known == std::end(reasons) ? failure.text() : QString(known->text);
+    return u"Nothing was stored: "_s + why;
+}
+
+QString recordSaved(const QString& caption, QString label, const QString& key)
+{
+    if (key.isEmpty())
+        return u"Saved "_s + caption;
+    // "PLU number" is the number of a PLU.
+    label.remove(u" number"_s);
+    return u"Saved %1 %2"_s.arg(label.isEmpty() ? caption : label, key);
+}
+
+} // namespace norvane::screens

@@ -1,0 +1,23 @@
+// What the user is asked before a save and told after it.
+#pragma once
+
+#include "platform/Boxes.h"
+#include "platform/RuntimeFailure.h"
+
+#include <QString>
+
+namespace norvane::screens
+{
+
+/// Asks whether to write over what somebody else has stored since the record was shown: a save writes all
+/// fields of a screen, also those that the user left alone.
+[[nodiscard]] bool mayOverwrite(Boxes& boxes);
+
+/// That nothing was stored, and why: a save that fails otherwise passes without a word.
+[[nodiscard]] QString nothingStored(const RuntimeFailure& failure);
+
+/// "Saved PLU 1001" for the record @p key of many, which the screen calls by the words @p label; "Saved Tax
+/// Options" with an empty key for the only record of the screen @p caption.
+[[nodiscard]] QString recordSaved(const QString& caption, QString label, const QString& key);
+
+} // namespace norvane::screens

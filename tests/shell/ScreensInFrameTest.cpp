@@ -1,0 +1,249 @@
+// Screens and small windows in the real main window: access letters beside those of the menu, what the status
+// bar tells, and what a screen shows after others have changed its record.
+#include "shell/FrmMain.h"
+#include "shell/MainStatusBar.h"
+#include "shell/Openers.h"
+#include "store/Recordset.h"
+#include "tests/shell/ShellFixture.h"
+#include "ui/NumberBox.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::shell
+{
+namespace
+{
+
+const test::ShownBox changed{
+    u"Since this record was shown here, it was changed by another screen, a price change or an upload.\r\r"
+    "Save replaces those changes by what stands here.\rShow shows them here, and drops what you have typed. "
+    "[&Save|S&how]"_s,
+    u"Record Changed"_s, BoxIcon::Exclamation};
+
+class ScreensInFrameTest : public ShellFixture
+{
+protected:
+    ScreensInFrameTest()
+    {
+        makeCustomerDatabase();
+        setModel("2");
+        QFile::copy(QStringLiteral(DATA_DIR "/PLUVelmarv3.scn"), m_folder.path("app/PLUVelmarv3.scn"));
+        addPlu("1001', 'Lager', '2.5");
+        addPlu("1002', 'Cider', '3");
+        m_main.emplace(m_values, m_boxes, makeOpeners(m_values, m_boxes));
+        m_main->show();
+        QApplication::setActiveWindow(&*m_main);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&*m_main));
+    }
+
+    void execute(const QByteArray& sql) const
+    {
+        store::Database(m_values.databasePath).execute(QString::fromUtf8(sql));
+    }
+    /// Adds a PLU; all numbers that its screen shows are 0.
+    void addPlu(const QByteArray& numberNamePrice) const
+    {
+        execute("insert into PLUDATA (PLUNUMBER, DESCRIPTION, PRICE1) values ('00000000000000" +
+                numberNamePrice + "')");
+        for (const auto& field : store::catalogueTable(u"PLUDATA"_s)->fields) {
+            if (field.type == store::FieldType::Long)
+                execute("update PLUDATA set [" + field.name.toLatin1() + "] = 0");
+        }
+    }
+    /// Names and first prices of the PLUs.
+    [[nodiscard]] std::string plus() const
+    {
+        store::Database database(m_values.databasePath);
+        QStringList all;
+        auto rows = database.openQuery(u"select DESCRIPTION, PRICE1 from PLUDATA order by PLUNUMBER"_s);
+        for (; !rows.atEnd(); rows.moveNext())
+            all += rows.value(0).toText() + u' ' + rows.value(1).toText();
+        return all.join(u'|').toStdString();
+    }
+    /// Chooses an entry. @return the form of the child window that is in front then.
+    QWidget& open(const char* entry)
+    {
+        child<QAction>(*m_main, entry).trigger();
+        return *m_main->findChild<QMdiArea*>()->activeSubWindow()->widget();
+    }
+    static void letter(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key, Qt::AltModifier); }
+    static void type(QWidget& screen, const char* box, const char* text)
+    {
+        auto& edit = child<QLineEdit>(screen, box);
+        edit.setFocus();
+        edit.selectAll();
+        QTest::keyClicks(&edit, QString::fromUtf8(text));
+    }
+    static std::string shown(const QWidget& screen, const char* box)
+    {
+        return child<QLineEdit>(screen, box).text().toStdString();
+    }
+    [[nodiscard]] std::string notice() { return m_main->statusBar1().notice().toStdString(); }
+    template <typename Condition>
+    static bool soon(Condition condition)
+    {
+        return QTest::qWaitFor(condition, 2000);
+    }
+    [[nodiscard]] bool allClosed()
+    {
+        return soon([this] { return m_main->findChild<QMdiArea*>()->subWindowList().isEmpty(); });
+    }
+    /// Opens the menu that @p act leads to. @return its name.
+    QString menuBy(const std::function<void()>& act)
+    {
+        act();
+        QWidget* const menu = QApplication::activePopupWidget();
+        const QString name = menu ? menu->objectName() : QString();
+        if (menu)
+            menu->close();
+        return name;
+    }
+
+    std::optional<FrmMain> m_main;
+};
+
+constexpr auto pluNumber = "TextControl_1";
+constexpr auto pluName = "TextControl_2";
+constexpr auto firstPrice = "DecimalNumberControl_1";
+
+TEST_F(ScreensInFrameTest, TheLettersOfAScreenWinOverTheMenu)
+{
+    QWidget& screen = open("PLUMENU");
+    type(screen, pluName, "Stout");
+    letter(Qt::Key_S);
+    EXPECT_TRUE(soon([this] { return plus() == "Stout 2.5|Cider 3"; })) << plus();
+    EXPECT_EQ(notice(), "Saved PLU 1001");
+    letter(Qt::Key_A);
+    EXPECT_TRUE(soon([&] { return shown(screen, pluName).empty(); })) << "a new record";
+    type(screen, pluNumber, "555");
+    letter(Qt::Key_S);
+    EXPECT_TRUE(soon([this] { return notice() == "Saved PLU 555"; })) << notice();
+    m_boxes.answers = {true};
+    letter(Qt::Key_D);
+    EXPECT_TRUE(soon([this] { return plus() == "Stout 2.5|Cider 3"; })) << plus();
+    letter(Qt::Key_X);
+    EXPECT_TRUE(allClosed());
+    EXPECT_EQ(m_boxes.shown.size(), 1U) << "only the question before the deletion";
+    EXPECT_EQ(notice(), "");
+}
+
+TEST_F(ScreensInFrameTest, TheLettersOfTheSmallWindowsWinOverTheMenu)
+{
+    open("DataSetup");
+    child<QLineEdit>(*m_main, "TxtTelephone").setText(u"0123"_s);
+    letter(Qt::Key_S);
+    EXPECT_TRUE(allClosed());
+    EXPECT_TRUE(m_folder.read("app/Cafe/setup.ini").contains("Telephone=0123"));
+    EXPECT_EQ(notice(), "Saved Setup");
+    open("About");
+    letter(Qt::Key_S);
+    EXPECT_TRUE(soon([this] { return !m_boxes.shown.empty(); })) << "system information";
+    child<QPushButton>(*m_main, "cmdOK").click();
+    EXPECT_TRUE(allClosed());
+    for (const char* entry : {"DataSetup", "CollectSales"}) {
+        open(entry);
+        letter(Qt::Key_X);
+        EXPECT_TRUE(allClosed()) << entry;
+    }
+    EXPECT_EQ(m_boxes.shown.size(), 1U);
+    EXPECT_TRUE(m_main->isVisible());
+}
+
+TEST_F(ScreensInFrameTest, TheMenuKeepsItsLettersOtherwiseAndBehindAltAndF10)
+{
+    const auto altAlone = [this] {
+        QTest::keyPress(QApplication::focusWidget(), Qt::Key_Alt, Qt::AltModifier);
+        QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt);
+        QTest::keyClick(m_main->menuBar(), Qt::Key_S);
+    };
+    const auto functionKey = [this] {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10);
+        QTest::keyClick(m_main->menuBar(), Qt::Key_S);
+    };
+    EXPECT_EQ(menuBy([this] { QTest::keyClick(&*m_main, Qt::Key_S, Qt::AltModifier); }), u"Setup"_s);
+    open("PLUMENU");
+    EXPECT_EQ(menuBy([] { letter(Qt::Key_F); }), u"Files"_s) << "no button of the screen has it";
+    EXPECT_EQ(menuBy(altAlone), u"Setup"_s);
+    EXPECT_EQ(menuBy(functionKey), u"Setup"_s);
+}
+
+TEST_F(ScreensInFrameTest, AnUntouchedScreenFollowsAPriceChangeAndATouchedOneAsks)
+{
+    QWidget& touched = open("PLUMENU");
+    type(touched, pluName, "Stout");
+    QWidget& untouched = open("PLUMENU");
+    m_boxes.answers = {true};
+    child<QAction>(*m_main, "Transfer1to2").trigger(); // without a rate nothing changes
+    EXPECT_EQ(shown(untouched, firstPrice), "2.50");
+    m_boxes.answers = {true};
+    child<QAction>(*m_main, "ResetPrice").trigger();
+    EXPECT_EQ(shown(untouched, firstPrice), "0.00");
+    EXPECT_EQ(shown(touched, firstPrice), "2.50");
+    EXPECT_EQ(shown(touched, pluName), "Stout");
+
+    m_boxes.shown.clear();
+    child<QPushButton>(touched, "SaveRecord").click();
+    EXPECT_EQ(m_boxes.shown, std::vector{changed});
+    EXPECT_EQ(plus(), "Lager 0.00|Cider 0.00");
+    EXPECT_EQ(shown(touched, pluName), "Lager") << "read afresh";
+    child<QPushButton>(touched, "SaveRecord").click();
+    EXPECT_EQ(m_boxes.shown.size(), 1U) << "nothing to ask any more";
+}
+
+TEST_F(ScreensInFrameTest, MineIsKeptOnlyOnDemand)
+{
+    QWidget& first = open("PLUMENU");
+    execute("update PLUDATA set STOCKLINK = '77', PRICE1 = '9'");
+    type(first, firstPrice, "9");
+    child<QPushButton>(first, "SaveRecord").click();
+    EXPECT_EQ(m_boxes.shown.size(), 1U) << "the stock link would be lost";
+    m_boxes.answers = {true};
+    type(first, firstPrice, "4");
+    execute("update PLUDATA set PRICE1 = '8'");
+    child<QPushButton>(first, "SaveRecord").click();
+    EXPECT_EQ(plus(), "Lager 4|Cider 8");
+    EXPECT_EQ(m_boxes.shown, (std::vector{changed, changed}));
+}
+
+TEST_F(ScreensInFrameTest, AScreenReadsItsRecordAgainWhenItComesToTheFront)
+{
+    QWidget& first = open("PLUMENU");
+    QWidget& second = open("PLUMENU");
+    type(second, pluName, "Stout");
+    child<QPushButton>(second, "SaveRecord").click();
+    EXPECT_EQ(shown(first, pluName), "Lager");
+    m_main->findChild<QMdiArea*>()->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(first.parentWidget()));
+    EXPECT_EQ(shown(first, pluName), "Stout");
+    // An upload makes all records anew.
+    execute("delete * from PLUDATA");
+    addPlu("1001', 'Porter', '3");
+    m_main->findChild<QMdiArea*>()->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(second.parentWidget()));
+    EXPECT_EQ(shown(second, pluName), "Porter") << "the record with this number";
+}
+
+TEST_F(ScreensInFrameTest, TheStatusBarSaysWhoseDataIsOpen)
+{
+    const auto& dataInUse = child<QWidget>(*m_main, "DataInUse");
+    m_main->showCustomer();
+    EXPECT_FALSE(dataInUse.isVisible());
+    m_values.customerPath = m_folder.path("app/Bar");
+    m_main->showCustomer();
+    EXPECT_TRUE(dataInUse.isVisible());
+    EXPECT_EQ(dataInUse.property("text"), u"Screens and exchange: data of Cafe"_s);
+    m_values.databasePath = m_folder.path("app/Bar/velmar.mdb"); // as a key editor does
+    open("DataSetup");
+    EXPECT_FALSE(dataInUse.isVisible());
+}
+
+} // namespace
+} // namespace norvane::shell
