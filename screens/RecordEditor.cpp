@@ -165,7 +165,7 @@ bool RecordEditor::isOverwritten(const BoundField& field) const
     const int ordinal = m_records.fieldOrdinal(field.dataField);
     const store::Value& now = m_records.value(ordinal);
     return !field.readOnly && now != m_seen.at(static_cast<std::size_t>(ordinal)) &&
-           shownValue(field, now).toText() != field.content.toText();
+           (now.isNull() || shownValue(field, now).toText() != field.content.toText());
 }
 
 bool RecordEditor::wouldOverwrite(const BoundFields& fields)
