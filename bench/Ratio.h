@@ -28,17 +28,24 @@ double secondsOf(Work work)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+/// Seconds of the processor that the work takes in this process, however busy the machine is.
+template <typename Work>
+double processorSecondsOf(Work work)
+{
+    const std::clock_t start = std::clock();
+    work();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
 /// What a piece of work took, in seconds.
 struct Cost {
     double elapsed = 0;
-    double processor = 0; ///< of this process alone, however busy the machine is
+    double processor = 0;
 
     template <typename Work>
     void add(Work work)
     {
-        const std::clock_t start = std::clock();
-        elapsed += secondsOf(work);
-        processor += static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+        processor += processorSecondsOf([&] { elapsed += secondsOf(work); });
     }
 };
 

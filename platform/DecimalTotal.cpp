@@ -113,11 +113,11 @@ private:
     [[nodiscard]] std::string digits() const
     {
         std::string all;
-        for (auto limb = m_limbs.rbegin(); limb != m_limbs.rend(); ++limb) {
-            const std::string nine = std::to_string(*limb);
+        for (std::size_t place = m_limbs.size(); place-- > 0;) {
+            const std::string nine = std::to_string(m_limbs[place]);
             all.append(limbDigits - nine.size(), '0').append(nine);
         }
-        const auto behindPoint = static_cast<std::size_t>(limbsBehindPoint * limbDigits);
+        const auto behindPoint = std::size_t{limbsBehindPoint} * limbDigits;
         const auto first = std::min(all.find_first_not_of('0'), all.size() - behindPoint - 1);
         all.insert(all.size() - behindPoint, 1, '.');
         all.erase(all.find_last_not_of('0') + 1);
