@@ -154,14 +154,15 @@ void PageView::keyPressEvent(QKeyEvent* event)
 {
     const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
     const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
-    if (step != 0 && extends && hasChosen())
+    if (step != 0 && extends && hasChosen()) {
         choose(qBound<qsizetype>(0, m_current + step, m_document.report().lineCount() - 1), true);
-    else if (step != 0)
+    } else if (step != 0) {
         scrollBy(step * arrowStep);
-    else if (event->key() == Qt::Key_Space)
+    } else if (event->key() == Qt::Key_Space) {
         scrollBy((viewport()->height() - arrowStep) * (extends ? -1 : 1));
-    else if (!turnPage(event->key()))
+    } else if (!turnPage(event->key())) {
         QAbstractScrollArea::keyPressEvent(event);
+    }
 }
 
 bool PageView::turnPage(int key)
@@ -257,10 +258,11 @@ void PageView::reveal(qsizetype line)
             continue;
         const double top = pageRect(*page).top() + placed.place.top() * m_scale;
         const double bottom = top + placed.place.height() * m_scale;
-        if (top < 0)
+        if (top < 0) {
             scrollBy(static_cast<int>(top) - arrowStep);
-        else if (bottom > viewport()->height())
+        } else if (bottom > viewport()->height()) {
             scrollBy(static_cast<int>(bottom) - viewport()->height() + arrowStep);
+        }
     }
 }
 

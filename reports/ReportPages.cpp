@@ -151,10 +151,11 @@ void ReportPages::addBlock(ReportPage& page, qsizetype end)
 void ReportPages::takeLine(ReportPage& page)
 {
     const LineKind kind = m_report.lineKind(m_nextLine);
-    if (kind == LineKind::GroupHeading)
+    if (kind == LineKind::GroupHeading) {
         m_group = m_nextLine;
-    else if (isTotal(kind))
+    } else if (isTotal(kind)) {
         m_group.reset();
+    }
     m_y += m_lines.height(m_nextLine);
     page.endLine = ++m_nextLine;
 }

@@ -150,12 +150,13 @@ private:
     {
         const Cell cell = m_report.cell(line, column);
         lxw_format* const shown = format(line, column);
-        if (const auto* const text = std::get_if<QString>(&cell))
+        if (const auto* const text = std::get_if<QString>(&cell)) {
             writeText(row, column, *text, shown);
-        else if (const auto* const number = std::get_if<Decimal>(&cell))
+        } else if (const auto* const number = std::get_if<Decimal>(&cell)) {
             writeNumber(row, column, *number, shown);
-        else if (const auto* const day = std::get_if<QDate>(&cell))
+        } else if (const auto* const day = std::get_if<QDate>(&cell)) {
             writeDay(row, column, *day, shown);
+        }
     }
 
     void writeText(lxw_row_t row, int column, const QString& text, lxw_format* shown)
@@ -169,10 +170,11 @@ private:
     {
         const ReportColumn& kept = m_report.columns()[static_cast<std::size_t>(column)];
         const Decimal rounded = number.rounded(kept.mostDecimals);
-        if (rounded.text().size() > longestNumber)
+        if (rounded.text().size() > longestNumber) {
             writeText(row, column, shownNumber(number, kept.leastDecimals, kept.mostDecimals), shown);
-        else
+        } else {
             worksheet_write_number(m_sheet, row, static_cast<lxw_col_t>(column), rounded.toDouble(), shown);
+        }
     }
 
     void writeDay(lxw_row_t row, int column, const QDate& day, lxw_format* shown)

@@ -98,9 +98,10 @@ TEST_F(OwnLayout, GroupsAndSortsByWhatItNames)
 
 TEST_F(OwnLayout, APictureOfManyDaysShowsMonths)
 {
-    for (QDate day(2026, 9, 15); day <= QDate(2026, 11, 25); day = day.addDays(1))
+    for (QDate day(2026, 9, 15); day <= QDate(2026, 11, 25); day = day.addDays(1)) {
         shop.add("TIMESALES", "ID|SALESDATE|QUANTITY|VALUE",
                  {qPrintable(u"1|%1|1|0.1"_s.arg(day.toString(Qt::ISODate)))});
+    }
     const auto points = [this](const QString& formula) {
         const auto data = runReport(shop.request(ReportShop::installed("timesales.rpt"), formula));
         QStringList labels;

@@ -34,10 +34,11 @@ QStringList sheetRows(const QString& path)
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
-        if (xml.name() == "row"_L1)
+        if (xml.name() == "row"_L1) {
             rows << QString();
-        else if (xml.name() == "c"_L1)
+        } else if (xml.name() == "c"_L1) {
             rows.last() += cellOf(xml) + u'|';
+        }
     }
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
     return rows;

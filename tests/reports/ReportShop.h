@@ -40,9 +40,10 @@ public:
         for (const char* const row : rows) {
             const QStringList values = QString::fromUtf8(row).split(u'|');
             records.addNew();
-            for (qsizetype i = 0; i < names.size(); ++i)
+            for (qsizetype i = 0; i < names.size(); ++i) {
                 records.setValue(names[i],
                                  values[i].isEmpty() ? store::Value() : store::Value::text(values[i]));
+            }
             records.update();
         }
     }
