@@ -215,7 +215,7 @@ QString OptionForm::textField() const
 {
     const QString number = m_editor->searchedField(1).name;
     for (const BoundField& field : CSPict1->contents()) {
-        const QString name = field.dataField.trimmed();
+        QString name = field.dataField.trimmed();
         if (field.kind == ControlKind::Text && name.compare(number, Qt::CaseInsensitive) != 0)
             return name;
     }

@@ -139,7 +139,7 @@ QString MessageBoxes::fileToOpen(const FileRequest& request)
 QString MessageBoxes::fileToSave(const FileRequest& request)
 {
     for (;;) {
-        const QString path = chosenFile(request, QFileDialog::AcceptSave);
+        QString path = chosenFile(request, QFileDialog::AcceptSave);
         const QFileInfo file(path);
         if (path.isEmpty() || !file.exists() ||
             ask(u"%1 exists already. Replace it?"_s.arg(file.fileName()), request.title, BoxIcon::Question,

@@ -103,7 +103,7 @@ protected:
     {
         act();
         QWidget* const menu = QApplication::activePopupWidget();
-        const QString name = menu ? menu->objectName() : QString();
+        QString name = menu ? menu->objectName() : QString();
         if (menu)
             menu->close();
         return name;
