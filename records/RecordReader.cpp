@@ -189,10 +189,10 @@ void RecordReader::store(const ScaledColumn& column, const Step& step, std::stri
 
 void RecordReader::store(const CodeColumn& column, const Step& step, std::string_view text)
 {
-    std::string name = plainFromRegister(withoutLeadingZeros(text));
+    const std::string name = plainFromRegister(withoutLeadingZeros(text));
     const auto found = std::find_if(column.words.begin(), column.words.end(),
                                     [&](const CodeWord& word) { return word.answered == name; });
-    set(step.target, Value::text(found == column.words.end() ? std::move(name) : found->stored));
+    set(step.target, Value::text(found == column.words.end() ? name : found->stored));
 }
 
 void RecordReader::store(const LeftBoundColumn& column, const Step& step, std::string_view text)

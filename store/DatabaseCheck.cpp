@@ -34,19 +34,17 @@ std::optional<SQLite::Database> openIfOurs(const QString& path)
 class Check
 {
 public:
-    Check(sqlite3* connection, QString path)
-        : m_connection(connection), m_path(std::move(path)), m_length(QFileInfo(m_path).size())
-    {
-    }
+    Check(sqlite3* connection, QString path) : m_connection(connection), m_path(std::move(path)) {}
 
-    QString damage()
+    [[nodiscard]] QString damage() const
     {
         // While this reads, no other program can change the file between two looks.
         run("BEGIN");
-        const QString length = wrongLength();
-        if (!length.isEmpty())
-            return length;
-        return m_length <= smallFile ? faultOf({}) : faultOfProgramme();
+        const qint64 wanted = number("PRAGMA page_count") * number("PRAGMA page_size");
+        const qint64 length = QFileInfo(m_path).size();
+        if (length != wanted)
+            return u"The file has %1 bytes and should have %2."_s.arg(length).arg(wanted);
+        return length <= smallFile ? faultOf({}) : faultOfProgramme();
     }
 
 private:
@@ -61,15 +59,6 @@ private:
     {
         auto select = prepare(sql);
         return select.step() ? select.whole(0) : 0;
-    }
-
-    [[nodiscard]] QString wrongLength()
-    {
-        const qint64 wanted = number("PRAGMA page_count") * number("PRAGMA page_size");
-        m_length = QFileInfo(m_path).size();
-        if (m_length == wanted)
-            return {};
-        return u"The file has %1 bytes and should have %2."_s.arg(m_length).arg(wanted);
     }
 
     /// The first fault that the engine finds in a table and its indexes, or in the whole file.
@@ -88,7 +77,7 @@ private:
             const QString name = tables.text(0);
             const auto* known = catalogueTable(name);
             const bool growsForEver = known != nullptr && !known->searchedField.isEmpty();
-            const QString fault = growsForEver ? QString() : faultOf(name);
+            QString fault = growsForEver ? QString() : faultOf(name);
             if (!fault.isEmpty())
                 return fault;
         }
@@ -97,7 +86,6 @@ private:
 
     sqlite3* m_connection;
     QString m_path;
-    qint64 m_length;
 };
 
 } // namespace
