@@ -42,12 +42,11 @@ void runIn(const QString& folder, const QString& program, const QStringList& wor
     }
 }
 
-TillDays::TillDays(QString folder, const QString& program, QString tools, const QString& database)
-    : m_folder(std::move(folder)), m_tools(std::move(tools))
+TillDays::TillDays(QString folder, QString program, QString tools, const QString& database)
+    : m_folder(std::move(folder)), m_program(std::move(program)), m_tools(std::move(tools))
 {
     QDir().mkpath(m_folder);
-    for (const auto& file : {u"VELMARCOMM"_s, u"convert"_s, u"setup.ini"_s})
-        copyInto(m_folder, joinPath(program, file));
+    copyInto(m_folder, joinPath(m_program, u"setup.ini"_s));
     ProfileFile::write(joinPath(m_folder, u"setup.ini"_s), u"SetupOption"_s, u"NoOfECRs"_s, u"0"_s);
     ProfileFile::write(joinPath(m_folder, u"registers.ini"_s), u"Bank"_s, u"Folder"_s, u"registers"_s);
     runIn(m_folder, joinPath(m_tools, u"makebank"_s), {u"registers"_s});
@@ -60,7 +59,7 @@ void TillDays::run(const QString& commandLine) const
 {
     QStringList words = commandWords(commandLine);
     const QString tool = words.takeFirst();
-    runIn(m_folder, joinPath(m_folder, tool), words);
+    runIn(m_folder, joinPath(m_program, tool), words);
 }
 
 void TillDays::bringHome(const TradeDay& day) const

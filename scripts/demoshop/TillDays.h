@@ -13,13 +13,14 @@ namespace demo
 /// Runs a program in @p folder to its end. @throws std::runtime_error when it failed
 void runIn(const QString& folder, const QString& program, const QStringList& words);
 
-/// A register of its own and a folder in which the tools work, as the program's folder is one.
+/// A register of its own and a folder in which the tools work, as the program's folder is one. No program
+/// lies in it: nothing may run from a quick folder on some machines.
 class TillDays
 {
 public:
     /// @param folder to make; @param program folder with the program's tools and settings;
     /// @param tools folder with makebank and ringsales; @param database that the days are stored in
-    TillDays(QString folder, const QString& program, QString tools, const QString& database);
+    TillDays(QString folder, QString program, QString tools, const QString& database);
 
     /// Rings the day and collects it: poll190.txt and its like are in the folder of values() afterwards.
     void bringHome(const TradeDay& day) const;
@@ -30,6 +31,7 @@ private:
     void run(const QString& commandLine) const;
 
     QString m_folder;
+    QString m_program;
     QString m_tools;
     norvane::ApplicationValues m_values;
 };
