@@ -79,7 +79,7 @@ QString textOf(const FieldText& text, const LineFields& fields)
 bool namesNothing(const store::Value& value)
 {
     if (value.isText())
-        return value.toText().trimmed().isEmpty();
+        return std::ranges::all_of(value.textView(), [](char c) { return c == '0' || c == ' '; });
     return value.isNull() || value.toNumber() == 0;
 }
 

@@ -172,7 +172,10 @@ QString Run::subtitle() const
         parts.append(u"selected by %1"_s.arg(m_request.selectionFormula));
     if (!m_otherTables.isEmpty())
         parts.append(u"the selection names another table (%1)"_s.arg(m_otherTables.join(u", "_s)));
-    return parts.join(u"; "_s);
+    QString text = parts.join(u"; "_s);
+    if (!text.isEmpty())
+        text.front() = text.front().toUpper();
+    return text;
 }
 
 QString Run::notice() const

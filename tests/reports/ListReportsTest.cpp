@@ -17,7 +17,7 @@ TEST(ListReports, TellOptionsInWords)
 {
     const ReportShop shop;
     shop.add("PLUSTATUS", "STATUSNO|DESCRIPTION|tax1|tax3|SINGLEITEM|KPGROUP2|LINKEDPLU|GROUPLINK2",
-             {"2|PLAIN|0|0|0|0||0", "1|FOOD|1|1|1|1|123456789012345678|4"});
+             {"2|PLAIN|0|0|0|0|0|0", "1|FOOD|1|1|1|1|123456789012345678|4"});
     EXPECT_EQ(printed(shop, "plustat.rpt"),
               "1|FOOD|1, 3|Single item sale, Kitchen group 2, Linked PLU 123456789012345678, Second group 4\n"
               "2|PLAIN");

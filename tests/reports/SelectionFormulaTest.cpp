@@ -91,7 +91,7 @@ TEST_F(Selection, TellsItsPeriodAndEndsItToday)
         EXPECT_TRUE(data.heading.notice.contains(QString::fromUtf16(subtitle)));
     }
     EXPECT_EQ(runReport(request(u"{PLUSALES.SALESDATE} in YearToDate"_s)).heading.subtitle,
-              u"the selection names another table (PLUSALES)"_s);
+              u"The selection names another table (PLUSALES)"_s);
 }
 
 TEST_F(Selection, TellsWhereItsMistakeIs)
