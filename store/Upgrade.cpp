@@ -4,6 +4,7 @@
 #include "platform/RuntimeFailure.h"
 #include "store/Catalogue.h"
 #include "store/Database.h"
+#include "store/SalesTables.h"
 
 #include <algorithm>
 #include <array>
@@ -49,12 +50,12 @@ constexpr Step steps[] = {
     {Action::AddFields, "GeneralPrintOption",
      {"turnoffautocutter", "prelogoimagercpt", "postlogoimagercpt", "prelogoimagegc", "postlogoimagegc"}},
     {Action::AddFields, "GeneralPrintOption", {"STOPINTERNALPRINT"}},
-    {Action::CreateTable, "TIMESALES"},
-    {Action::CreateTable, "ClerkSales"},
-    {Action::CreateTable, "PLUSALES"},
-    {Action::CreateTable, "MIXSALES"},
-    {Action::CreateTable, "GROUPSALES"},
-    {Action::CreateTable, "FINANCIALSALES"},
+    {Action::CreateTable, salestable::times},
+    {Action::CreateTable, "ClerkSales"}, // spelled so in upgraded databases
+    {Action::CreateTable, salestable::plus},
+    {Action::CreateTable, salestable::mixes},
+    {Action::CreateTable, salestable::groups},
+    {Action::CreateTable, salestable::financials},
     {Action::AddFields, "EJDETAILPRINT",
      {"EJPOINTPAYMENT", "EJSUBTRACTPOINT", "EJADDPOINT", "EJSUBTRACTVALUE", "EJREDEEM", "EJPRINTCARD",
       "EJCARDSALE", "EJHOTLIST", "EJREMOVECARD", "CONDENSEDPRINT", "PRINTNEGLINES", "DISABLEREGDETAIL"}},
