@@ -211,8 +211,10 @@ bool ExchangeRunner::mayTouchPoints(int file)
 {
     if ((file != pluFile && file != pluPointsFile) || !hasSmartCards() || !pluPointsWait(m_values))
         return true;
-    if (!askBeforeLoss(m_outside.boxes, pointsQuestion()))
+    if (!askBeforeLoss(m_outside.boxes, pointsQuestion())) {
+        link::tellEndedByAnswer(m_outside);
         return false;
+    }
     notePluPointsWait(m_values, false);
     return true;
 }

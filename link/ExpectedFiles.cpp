@@ -92,7 +92,7 @@ QString fileAndAge(const QString& name)
 {
     const QFileInfo file(existingPath(name));
     if (!file.exists())
-        return u"%1, which is not there"_s.arg(name);
+        return u"no %1"_s.arg(name);
     const QDateTime written = file.lastModified();
     return u"%1 of %2, %3 old"_s.arg(name, written.toString(u"dd/MM/yyyy HH:mm"_s), ageSince(written));
 }

@@ -39,7 +39,7 @@ private:
 };
 
 /// A file of the working directory with its age, in words for the user: "67.txt of 24/11/2026 18:03, 15 hours
-/// old", or "67.txt, which is not there".
+/// old", or "no 67.txt".
 [[nodiscard]] QString fileAndAge(const QString& name);
 
 } // namespace norvane::link

@@ -18,4 +18,9 @@ ChildResult runTool(const RunOutside& outside, const QString& commandLine)
     return result;
 }
 
+void tellEndedByAnswer(const RunOutside& outside)
+{
+    outside.showNotice(u"Ended at your answer No."_s);
+}
+
 } // namespace norvane::link

@@ -30,4 +30,7 @@ struct RunOutside {
 /// status.out keeps the previous result.
 ChildResult runTool(const RunOutside& outside, const QString& commandLine);
 
+/// Tells that the user's No to a question has ended the run.
+void tellEndedByAnswer(const RunOutside& outside);
+
 } // namespace norvane::link

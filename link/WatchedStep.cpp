@@ -35,7 +35,7 @@ bool WatchedStep::mayGoOn(const QString& consequence) const
         whatWentWrong(), doubtfulFiles().join(u'\r'), consequence);
     const bool goesOn = askBeforeLoss(m_outside.boxes, question);
     if (!goesOn)
-        m_outside.showNotice(u"Ended at your answer No."_s);
+        tellEndedByAnswer(m_outside);
     return goesOn;
 }
 
@@ -43,14 +43,14 @@ QString WatchedStep::whatWentWrong() const
 {
     switch (m_result) {
     case ChildResult::Ended:
-        return u"The program %1 did not write what this step needs. There is only:"_s.arg(m_tool);
+        return u"The program %1 did not write what this step needs. Found:"_s.arg(m_tool);
     case ChildResult::Crashed:
-        return u"The program %1 crashed. It left:"_s.arg(m_tool);
+        return u"The program %1 crashed. Found:"_s.arg(m_tool);
     case ChildResult::NotFound:
     case ChildResult::NotStarted:
         break;
     }
-    return u"The program %1 was not found. There is only:"_s.arg(m_tool);
+    return u"The program %1 was not found. Found of earlier runs:"_s.arg(m_tool);
 }
 
 /// A crashed tool may have stopped in the midst of any of its files.

@@ -118,9 +118,12 @@ std::optional<int> CollectionRun::failedResult()
     m_outside.run.showStep(u"Parse data...."_s);
     if (sendsDescriptions())
         return link::descriptionsPolled;
-    if (!convertReports() || importReports() == Stored::Refused)
+    if (!convertReports())
         return std::nullopt;
-    return clearRegisters();
+    if (importReports() != Stored::Refused)
+        return clearRegisters();
+    link::tellEndedByAnswer(m_outside.run);
+    return std::nullopt;
 }
 
 std::optional<int> CollectionRun::fetchReports()

@@ -244,7 +244,7 @@ struct Doubt {
 
 constexpr Doubt doubts[] = {
     {&Exchange::upload, "Tool=convert\nCommand=u01\nResult=1", "convert did not write"},
-    {&Exchange::upload, "Tool=convert\nCommand=u01\nCrash=1", "convert crashed. It left:\r\r1.txt of "},
+    {&Exchange::upload, "Tool=convert\nCommand=u01\nCrash=1", "convert crashed. Found:\r\r1.txt of "},
     {&Exchange::upload, "Tool=convert\nCommand=u352\nResult=1", "52.txt of "},
     {&Exchange::upload, "Command=fetch\nFile=1\nCrash=1", "1.dat of "},
     {&Exchange::upload, "Command=fetch\nFile=1\nStatus=none", "status.out of "},

@@ -48,7 +48,7 @@ TEST(ExpectedFiles, AreToldWithTheirAge)
         EXPECT_EQ(fileAndAge(u"67.txt"_s), u"67.txt of %1, %2 old"_s.arg(
                                                written.toString(u"dd/MM/yyyy HH:mm"_s), QLatin1String(told)));
     }
-    EXPECT_EQ(fileAndAge(u"1.txt"_s), u"1.txt, which is not there"_s);
+    EXPECT_EQ(fileAndAge(u"1.txt"_s), u"no 1.txt"_s);
 }
 
 } // namespace

@@ -174,10 +174,10 @@ constexpr Doubt doubts[] = {
     {"Tool=VELMARCOMM\nCommand=open\nCrash=1", "status.out of "},
     {"Tool=VELMARCOMM\nCommand=collect\nCrash=1", "poll218.dll of ", 2, true},
     {"Tool=VELMARCOMM\nCommand=collect\nStatus=none", "status.out of "},
-    {"Tool=convert\nCommand=S194\nResult=1", "only:\r\rPOLL194.txt of "},
-    {"Tool=convert\nCrash=1", "convert crashed. It left:\r\rPOLL190.txt of ", 2, true},
+    {"Tool=convert\nCommand=S194\nResult=1", "Found:\r\rPOLL194.txt of "},
+    {"Tool=convert\nCrash=1", "convert crashed. Found:\r\rPOLL190.txt of ", 2, true},
     {"Tool=VELMARCOMM\nCommand=clear\nCrash=1", "end as successful", 1, true},
-    {"Tool=VELMARCOMM\nCommand=consolidate\nCrash=1", "VELMARCOMM crashed. It left:\r\rstatus.out of ", 1,
+    {"Tool=VELMARCOMM\nCommand=consolidate\nCrash=1", "VELMARCOMM crashed. Found:\r\rstatus.out of ", 1,
      true},
 };
 
