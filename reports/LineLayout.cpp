@@ -39,7 +39,16 @@ double LineLayout::height(qsizetype line) const
     return lead(line) + rowCount(line) * rowHeight() + linePadding;
 }
 
-/// The column that the text of @p column may run to.
+/// The column that the text of @p column may begin in.
+int LineLayout::firstColumn(qsizetype line, int column) const
+{
+    const bool isDetail = m_report.lineKind(line) == LineKind::Detail;
+    while (!isDetail && column > 0 && m_report.cell(line, column - 1) == Cell())
+        --column;
+    return column;
+}
+
+/// The column that it may run to.
 int LineLayout::lastColumn(qsizetype line, int column) const
 {
     const LineKind kind = m_report.lineKind(line);
@@ -53,7 +62,7 @@ int LineLayout::lastColumn(qsizetype line, int column) const
 
 ColumnPlace LineLayout::textPlace(qsizetype line, int column) const
 {
-    const ColumnPlace& first = m_places.columns[static_cast<std::size_t>(column)];
+    const ColumnPlace& first = m_places.columns[static_cast<std::size_t>(firstColumn(line, column))];
     const ColumnPlace& last = m_places.columns[static_cast<std::size_t>(lastColumn(line, column))];
     return {first.left + cellMargin, last.right() - first.left - 2 * cellMargin};
 }
@@ -78,7 +87,7 @@ CellBox LineLayout::cellBox(qsizetype line, int column) const
     const ColumnPlace place = textPlace(line, column);
     if (!std::holds_alternative<QString>(m_report.cell(line, column)))
         return {place, {text}, shown.alignment};
-    const bool isLabel = lastColumn(line, column) > column;
+    const bool isLabel = lastColumn(line, column) > firstColumn(line, column);
     return {place, m_text.wrapped(text, style(line), place.width),
             isLabel ? Alignment::Left : shown.alignment};
 }

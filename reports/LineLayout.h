@@ -16,7 +16,7 @@ struct CellBox {
 };
 
 /// Lays out one line at a time. A text too wide for its column goes on in further rows. The heading of a
-/// group runs over the whole line, and the label of a total as far to the right as the cells are empty.
+/// group runs over the whole line, and the label of a total over the empty cells at both sides.
 class LineLayout
 {
 public:
@@ -34,6 +34,7 @@ public:
 
 private:
     [[nodiscard]] ColumnPlace textPlace(qsizetype line, int column) const;
+    [[nodiscard]] int firstColumn(qsizetype line, int column) const;
     [[nodiscard]] int lastColumn(qsizetype line, int column) const;
     [[nodiscard]] int rowCount(qsizetype line) const;
     [[nodiscard]] CellBox cellBox(qsizetype line, int column) const;

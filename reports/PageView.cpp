@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
 
 namespace norvane::reports
@@ -155,7 +156,7 @@ void PageView::keyPressEvent(QKeyEvent* event)
     const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
     const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
     if (step != 0 && extends && hasChosen()) {
-        choose(qBound<qsizetype>(0, m_current + step, m_document.report().lineCount() - 1), true);
+        extendBy(step);
     } else if (step != 0) {
         scrollBy(step * arrowStep);
     } else if (event->key() == Qt::Key_Space) {
@@ -211,9 +212,13 @@ void PageView::choose(qsizetype line, bool extends)
     m_current = line;
     if (!extends || m_anchor < 0)
         m_anchor = line;
-    if (line >= 0)
-        reveal(line);
     viewport()->update();
+}
+
+void PageView::extendBy(int lines)
+{
+    choose(qBound<qsizetype>(0, m_current + lines, m_document.report().lineCount() - 1), true);
+    reveal(m_current);
 }
 
 void PageView::chooseAll()
@@ -245,25 +250,22 @@ qsizetype PageView::lineOnPage(int page, double y) const
 void PageView::showLine(qsizetype line)
 {
     choose(line, false);
+    reveal(line);
 }
 
-/// Scrolls no more than is needed to see the line.
+/// Brings a line that is out of sight to the middle of the view.
 void PageView::reveal(qsizetype line)
 {
     const auto page = m_document.pages().pageOfLine(line);
     if (!page)
         return;
-    for (const PlacedLine& placed : m_document.pages().placedLines(*page)) {
-        if (placed.line != line || placed.isContinued)
-            continue;
-        const double top = pageRect(*page).top() + placed.place.top() * m_scale;
-        const double bottom = top + placed.place.height() * m_scale;
-        if (top < 0) {
-            scrollBy(static_cast<int>(top) - arrowStep);
-        } else if (bottom > viewport()->height()) {
-            scrollBy(static_cast<int>(bottom) - viewport()->height() + arrowStep);
-        }
-    }
+    const auto placed = m_document.pages().placedLines(*page);
+    const auto found = std::ranges::find_if(
+        placed, [&](const PlacedLine& one) { return one.line == line && !one.isContinued; });
+    const double top = pageRect(*page).top() + found->place.top() * m_scale;
+    const double bottom = top + found->place.height() * m_scale;
+    if (top < 0 || bottom > viewport()->height())
+        scrollBy(static_cast<int>(top) - viewport()->height() / 2);
 }
 
 } // namespace norvane::reports

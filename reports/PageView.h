@@ -5,6 +5,8 @@
 
 #include <QAbstractScrollArea>
 
+#include <functional>
+
 namespace norvane::reports
 {
 
@@ -58,6 +60,7 @@ private:
     void paintPage(QPainter& painter, int page) const;
     void paintChosen(QPainter& painter, int page) const;
     void choose(qsizetype line, bool extends);
+    void extendBy(int lines);
     void reveal(qsizetype line);
     bool turnPage(int key);
     void scrollBy(int pixels);

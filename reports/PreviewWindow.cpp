@@ -82,8 +82,9 @@ const std::array<PreviewWindow::FileKind, 3>& PreviewWindow::FileKind::all()
 
 PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterFinder findPrinter, QWidget* parent)
     : QWidget(parent, Qt::Window), m_document(std::move(report)), m_boxes(boxes),
-      m_findPrinter(std::move(findPrinter)), m_view(new PageView(m_document, this)),
-      m_charts(new ChartPane(m_document, this)), m_find(new FindBar(this)), m_status(new QStatusBar(this))
+      m_findPrinter(std::move(findPrinter)), m_find(new FindBar(this)),
+      m_view(new PageView(m_document, this)), m_charts(new ChartPane(m_document, this)),
+      m_status(new QStatusBar(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"ReportPreview"_s);
@@ -103,13 +104,6 @@ void PreviewWindow::buildControls()
     ui::nameControl(*m_charts, u"Charts"_s);
     ui::nameControl(*m_find, u"FindBar"_s);
     ui::nameControl(*m_status, u"StatusBar1"_s);
-    auto* const content = new QSplitter(this);
-    content->addWidget(m_view);
-    content->addWidget(m_charts);
-    content->setStretchFactor(0, 1);
-    content->setSizes({goodSize.width() * 2 / 3, goodSize.width() / 3});
-    content->setChildrenCollapsible(false);
-    m_charts->setVisible(m_document.hasCharts());
     m_find->hide();
     auto* const column = new QVBoxLayout(this);
     const int margin = ui::spacing::controlGap;
@@ -117,11 +111,23 @@ void PreviewWindow::buildControls()
     column->setSpacing(margin);
     column->addLayout(makeButtons());
     column->addWidget(m_find);
-    column->addWidget(content, 1);
+    column->addWidget(makeContent(), 1);
     column->addWidget(m_status);
     connect(m_find, &FindBar::findWanted, this, &PreviewWindow::find);
     connect(m_view, &PageView::currentPageChanged, this, &PreviewWindow::showPageNumber);
     m_view->setFocus();
+}
+
+QWidget* PreviewWindow::makeContent()
+{
+    auto* const content = new QSplitter(this);
+    content->addWidget(m_view);
+    content->addWidget(m_charts);
+    content->setStretchFactor(0, 1);
+    content->setSizes({goodSize.width() * 2 / 3, goodSize.width() / 3});
+    content->setChildrenCollapsible(false);
+    m_charts->setVisible(m_document.hasCharts());
+    return content;
 }
 
 QBoxLayout* PreviewWindow::makeButtons()

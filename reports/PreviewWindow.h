@@ -41,6 +41,7 @@ private:
     struct FileKind;
 
     void buildControls();
+    [[nodiscard]] QWidget* makeContent();
     [[nodiscard]] QBoxLayout* makeButtons();
     QPushButton* addButton(QBoxLayout& row, const QString& name, const QString& caption, Handler handler);
     void addSaveButton(QBoxLayout& row);
@@ -68,9 +69,9 @@ private:
     ReportDocument m_document;
     Boxes& m_boxes;
     PrinterFinder m_findPrinter;
+    FindBar* m_find;
     PageView* m_view;
     ChartPane* m_charts;
-    FindBar* m_find;
     QLabel* m_pageNumber = nullptr;
     QStatusBar* m_status;
 };

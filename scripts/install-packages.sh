@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what building and running the program needs on Debian 12, if anything is missing.
-#   --checks   also what .ci/run checks the sources with
+#   --checks   also what .ci/run checks the sources with, and a print server for a test's own queue
 #   --clang    also the compiler of the preset clang
 set -euo pipefail
 
@@ -14,7 +14,7 @@ packages=(
 )
 for option in "$@"; do
   case "$option" in
-    --checks) packages+=(clang-format clang-tidy) ;;
+    --checks) packages+=(clang-format clang-tidy cups-daemon cups-client) ;;
     --clang) packages+=(clang-16) ;;
     *) echo "usage: scripts/install-packages.sh [--checks] [--clang]" >&2; exit 2 ;;
   esac

@@ -1,0 +1,224 @@
+// What a user does in a preview.
+#include "reports/PreviewWindow.h"
+
+#include "tests/platform/TestFolder.h"
+#include "tests/reports/OtherPrograms.h"
+#include "tests/reports/SampleReport.h"
+#include "tests/support/FormTest.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <gtest/gtest.h>
+#include <QAbstractScrollArea>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QPrinter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QtTest>
+
+namespace norvane::test
+{
+namespace
+{
+
+using namespace reports;
+
+ReportData longReport()
+{
+    ReportData report = emptySales();
+    for (int group = 0; group < 4; ++group)
+        addGroup(report, u"Group %1"_s.arg(group), 100);
+    report.charts = {sampleChart(ChartKind::Ranking, 15), sampleChart(ChartKind::Shares, 6),
+                     sampleChart(ChartKind::Course, 31)};
+    return report;
+}
+
+class PreviewTest : public testing::Test
+{
+protected:
+    PreviewTest()
+    {
+        m_preview->resize(900, 700);
+        m_preview->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_preview));
+        expectPageText(u"Page 1 of 10"_s);
+    }
+    ~PreviewTest() override
+    {
+        delete m_preview;
+        EXPECT_FALSE(takeFailure());
+    }
+
+    template <typename Control = QWidget>
+    [[nodiscard]] Control* control(const QString& name) const
+    {
+        return m_preview->findChild<Control*>(name);
+    }
+    [[nodiscard]] QString pageText() const { return control<QLabel>(u"PageNumber"_s)->text(); }
+    [[nodiscard]] std::string status() const
+    {
+        return control<QStatusBar>(u"StatusBar1"_s)->currentMessage().toStdString();
+    }
+    void expectPageText(const QString& text) const
+    {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return pageText() == text; })) << pageText().toStdString();
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+    [[nodiscard]] QString copied()
+    {
+        press(Qt::Key_C, Qt::ControlModifier);
+        return QGuiApplication::clipboard()->text();
+    }
+    void save(const char* kind, const QString& path)
+    {
+        m_boxes.typed.push_back(path);
+        m_preview->findChild<QAction*>(QLatin1String(kind))->trigger();
+    }
+
+    TestFolder m_folder;
+    RecordingBoxes m_boxes;
+    PrinterFinder m_finder = [this] {
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setOutputFileName(m_folder.path("paper.pdf"));
+        return printer;
+    };
+    QPointer<PreviewWindow> m_preview = new PreviewWindow(longReport(), m_boxes, m_finder, nullptr);
+};
+
+TEST_F(PreviewTest, TurnsPagesByKeysAndWheel)
+{
+    for (const auto& [key, page] : {std::pair(Qt::Key_PageDown, 2),
+                                    {Qt::Key_PageDown, 3},
+                                    {Qt::Key_PageUp, 2},
+                                    {Qt::Key_End, 10},
+                                    {Qt::Key_PageDown, 10},
+                                    {Qt::Key_Home, 1},
+                                    {Qt::Key_PageUp, 1}}) {
+        press(key);
+        EXPECT_EQ(pageText(), u"Page %1 of 10"_s.arg(page));
+    }
+    const auto* const bar = control<QAbstractScrollArea>(u"Pages"_s)->verticalScrollBar();
+    QWheelEvent wheel(QPointF(50, 50), QPointF(50, 50), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(control<QAbstractScrollArea>(u"Pages"_s)->viewport(), &wheel);
+    EXPECT_GT(bar->value(), 0);
+    QTest::mouseClick(control(u"NextPageButton"_s), Qt::LeftButton);
+    EXPECT_EQ(pageText(), u"Page 2 of 10"_s);
+}
+
+TEST_F(PreviewTest, StaysOnItsPageInEveryZoom)
+{
+    auto* const zoom = control<QComboBox>(u"Zoom"_s);
+    const auto* const view = control<QAbstractScrollArea>(u"Pages"_s);
+    press(Qt::Key_PageDown);
+    zoom->setCurrentIndex(1);
+    EXPECT_EQ(pageText(), u"Page 2 of 10"_s);
+    const int fitted = view->verticalScrollBar()->value();
+    EXPECT_NEAR(fitted, view->viewport()->height(), 20) << "one page fills the view";
+    zoom->setCurrentIndex(2);
+    EXPECT_EQ(pageText(), u"Page 2 of 10"_s);
+    EXPECT_NEAR(view->verticalScrollBar()->value(), 297 * 96 / 25.4, 15);
+}
+
+TEST_F(PreviewTest, FindsATextAndCopiesItsLine)
+{
+    press(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), u"ARTICLE 77"_s);
+    EXPECT_EQ(pageText(), u"Page 2 of 10"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(pageText(), u"Page 4 of 10"_s);
+    press(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(pageText(), u"Page 2 of 10"_s);
+    EXPECT_EQ(control<QLabel>(u"FindNote"_s)->text(), QString());
+    QTest::keyClicks(QApplication::focusWidget(), u"x"_s);
+    EXPECT_EQ(control<QLabel>(u"FindNote"_s)->text(), u"Not found."_s);
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(m_preview && m_preview->isVisible()) << "Escape leaves the search first";
+    EXPECT_EQ(copied(), u"77\tArticle 77\t1.125\t2.35\n"_s);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(copied(), u"77\tArticle 77\t1.125\t2.35\n78\tArticle 78\t1.125\t2.35\n"_s);
+}
+
+TEST_F(PreviewTest, CopiesAllLinesWhereNoneIsChosen)
+{
+    EXPECT_EQ(copied().count(u'\n'), longReport().lineCount());
+    EXPECT_EQ(status(), "408 lines copied.");
+    // On the group's heading, the first line of the page.
+    auto* const view = control<QAbstractScrollArea>(u"Pages"_s)->viewport();
+    const double scale = (view->width() - 24) / 210.0;
+    QTest::mouseClick(view, Qt::LeftButton, {}, QPoint(100, 12 + static_cast<int>(39 * scale)));
+    EXPECT_EQ(copied(), u"Group 0\t\t\t\n"_s);
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(copied().count(u'\n'), longReport().lineCount());
+}
+
+TEST_F(PreviewTest, PrintsAndSavesWhatItShows)
+{
+    press(Qt::Key_P, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !status().empty(); })) << "the press of a key takes a moment";
+    save("SavePdf", m_folder.path("whole.pdf"));
+    press(Qt::Key_H, Qt::AltModifier);
+    expectPageText(u"Page 1 of 9"_s);
+    EXPECT_FALSE(control(u"Charts"_s)->isVisible());
+    save("SavePdf", m_folder.path("lines.pdf"));
+    for (const auto& [file, pages] : {std::pair("paper.pdf", 10), {"whole.pdf", 10}, {"lines.pdf", 9}}) {
+        const QStringList lines = pdfLines(m_folder.path(file));
+        EXPECT_EQ(lines.filter(u" of %1"_s.arg(pages)).size(), pages) << file;
+        EXPECT_EQ(lines.contains(u"Best-selling PLUs"_s), pages == 10) << file;
+    }
+    EXPECT_EQ(pdfPage(m_folder.path("paper.pdf"), 10), pdfPage(m_folder.path("whole.pdf"), 10));
+}
+
+TEST_F(PreviewTest, TellsWhatCannotBeSavedOrPrinted)
+{
+    save("SaveCsv", m_folder.path("missing/a.csv"));
+    save("SaveXlsx", m_folder.path("a.xlsx"));
+    EXPECT_EQ(m_folder.names(), QStringList(u"a.xlsx"_s));
+    m_finder = [] {
+        return nullptr;
+    };
+    PreviewWindow other(
+        longReport(), m_boxes, [] { return nullptr; }, nullptr);
+    other.findChild<QPushButton*>(u"PrintButton"_s)->click();
+    ASSERT_EQ(m_boxes.shown.size(), 4);
+    for (const std::size_t box : {1U, 3U})
+        EXPECT_EQ(m_boxes.shown[box].title, u"Report Error"_s);
+    EXPECT_TRUE(m_boxes.shown[1].text.startsWith(m_folder.path("missing/a.csv")));
+    EXPECT_TRUE(m_boxes.shown[3].text.startsWith(u"There is no printer"_s));
+}
+
+// Names the first control that is cut off or lies outside, at the size of a small screen.
+TEST_F(PreviewTest, FitsOnASmallScreen)
+{
+    m_preview->resize(1024, 700);
+    press(Qt::Key_F, Qt::ControlModifier);
+    for (const QPushButton* const button : m_preview->findChildren<QPushButton*>()) {
+        EXPECT_TRUE(
+            m_preview->rect().contains(QRect(button->mapTo(m_preview.data(), QPoint()), button->size())) &&
+            button->width() >= button->fontMetrics().horizontalAdvance(button->text()))
+            << button->objectName().toStdString();
+    }
+    EXPECT_GT(control(u"Pages"_s)->height(), 500);
+}
+
+TEST_F(PreviewTest, GoesRoundByTabAndClosesByEscape)
+{
+    for (const char* name : {"Charts", "PrintButton", "SaveButton", "CopyButton", "FindButton", "Zoom",
+                             "ChartSwitch", "PreviousPageButton", "NextPageButton", "CloseButton", "Pages"}) {
+        press(Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), name);
+        EXPECT_EQ(QApplication::focusWidget()->accessibleName().toStdString(), name);
+    }
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_preview; }));
+}
+
+} // namespace
+} // namespace norvane::test

@@ -1,0 +1,166 @@
+// A report run from a form: where it goes, and what happens when it cannot.
+#include "reports/Report.h"
+
+#include "platform/RuntimeFailure.h"
+#include "reports/PreviewWindow.h"
+#include "tests/platform/TestFolder.h"
+#include "tests/reports/OtherPrograms.h"
+#include "tests/reports/SampleReport.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QPrinter>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QtTest>
+
+namespace norvane::test
+{
+namespace
+{
+
+using namespace reports;
+
+ReportData drinks(const ReportRequest& request)
+{
+    ReportData report = emptySales();
+    report.heading.windowTitle = request.windowTitle.isEmpty() ? request.reportTitle : request.windowTitle;
+    addGroup(report, u"Drinks"_s, 3);
+    return report;
+}
+
+QList<PreviewWindow*> previews()
+{
+    QList<PreviewWindow*> found;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (auto* const preview = qobject_cast<PreviewWindow*>(window); preview && preview->isVisible())
+            found << preview;
+    }
+    return found;
+}
+
+/// As the mouse does: through the window, which a modal form may hold back.
+void click(PreviewWindow& preview, const QString& button)
+{
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&preview));
+    const auto* const control = preview.findChild<QPushButton*>(button);
+    QTest::mouseClick(preview.windowHandle(), Qt::LeftButton, {},
+                      control->mapTo(&preview, control->rect().center()));
+}
+
+class ReportTest : public testing::Test
+{
+protected:
+    QWidget m_main;
+    RecordingBoxes m_boxes;
+    std::vector<ReportRequest> m_requests;
+    Runner m_runner = [this](const ReportRequest& request, const KeepGoing&) {
+        m_requests.push_back(request);
+        return drinks(request);
+    };
+};
+
+TEST_F(ReportTest, HandsOnWhatWasSetAtTheMomentOfTheRun)
+{
+    Report report(m_main, m_boxes, m_runner);
+    report.setReportFile(u"plusales.rpt"_s);
+    report.setDataFile(0, u"velmar.mdb"_s);
+    report.setDataFile(1, u"other.mdb"_s);
+    report.setReportTitle(u"PLU Sales"_s);
+    report.setCustomer(u"Corner Shop"_s);
+    report.setSelectionFormula(u"former"_s);
+    report.setSelectionFormula(u"latter"_s);
+    report.run();
+    const ReportRequest& request = m_requests.at(0);
+    EXPECT_EQ(
+        (QStringList{request.reportFile, request.dataFile, request.reportTitle, request.windowTitle,
+                     request.selectionFormula, request.customer}),
+        (QStringList{u"plusales.rpt"_s, u"velmar.mdb"_s, u"PLU Sales"_s, {}, u"latter"_s, u"Corner Shop"_s}));
+    EXPECT_LT(qAbs(request.now.secsTo(QDateTime::currentDateTime())), 60);
+    EXPECT_EQ(previews().at(0)->windowTitle(), u"PLU Sales"_s);
+}
+
+// The form is modal, as the report dialog is.
+TEST_F(ReportTest, OpensPreviewsThatCanBeUsedOverAModalFormAndOutliveIt)
+{
+    m_main.show();
+    {
+        QDialog form(&m_main);
+        Report report(form, m_boxes, m_runner);
+        QTimer::singleShot(0, &form, [&] {
+            report.run();
+            report.run();
+            ASSERT_EQ(previews().size(), 2);
+            click(*previews()[0], u"FindButton"_s);
+            EXPECT_TRUE(previews()[0]->findChild<QWidget*>(u"FindBar"_s)->isVisible());
+            click(*previews()[1], u"CloseButton"_s);
+            EXPECT_EQ(previews().size(), 1);
+            form.reject();
+        });
+        form.exec();
+    }
+    ASSERT_EQ(previews().size(), 1);
+    EXPECT_EQ(previews()[0]->parentWidget(), &m_main);
+}
+
+TEST_F(ReportTest, PrintsStraightOrSaysThatThereIsNoPrinter)
+{
+    const TestFolder folder;
+    Report report(m_main, m_boxes, m_runner);
+    report.setDestination(Destination::Printer);
+    report.setPrinterFinder([] { return nullptr; });
+    report.run();
+    ASSERT_EQ(m_boxes.shown.size(), 1);
+    EXPECT_EQ(m_boxes.shown[0].title, u"Report Error"_s);
+    report.setPrinterFinder([&] {
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setOutputFileName(folder.path("a.pdf"));
+        return printer;
+    });
+    report.run();
+    EXPECT_EQ(m_boxes.shown.size(), 1);
+    EXPECT_TRUE(pdfLines(folder.path("a.pdf")).contains(u"Total Drinks 3.375 7.04"_s));
+    EXPECT_EQ(previews().size(), 0);
+}
+
+TEST_F(ReportTest, TellsAnErrorOfTheEngineInItsBox)
+{
+    for (const bool isOfStore : {false, true}) {
+        Report report(m_main, m_boxes, [&](const ReportRequest&, const KeepGoing&) -> ReportData {
+            if (isOfStore)
+                throw RuntimeFailure(Failure::EngineFailure, u"The database is damaged."_s);
+            throw ReportError(u"plusales.rpt is missing."_s);
+        });
+        report.run();
+    }
+    EXPECT_EQ(m_boxes.shown,
+              (std::vector<ShownBox>{{u"plusales.rpt is missing."_s, u"Report Error"_s, BoxIcon::Critical},
+                                     {u"The database is damaged."_s, u"Report Error"_s, BoxIcon::Critical}}));
+}
+
+TEST_F(ReportTest, AnswersDuringALongRunAndGivesItUpOnCancel)
+{
+    Report report(m_main, m_boxes, [&](const ReportRequest& request, const KeepGoing& goesOn) -> ReportData {
+        while (goesOn()) {
+            const auto* const box = m_main.findChild<QProgressDialog*>(u"RunProgress"_s);
+            if (box && box->isVisible()) {
+                report.run();
+                QTest::mouseClick(box->findChild<QPushButton*>(), Qt::LeftButton);
+            }
+        }
+        m_requests.push_back(request);
+        throw ReportError(u"The report was given up."_s);
+    });
+    m_main.show();
+    report.run();
+    EXPECT_EQ(m_requests.size(), 1) << "a second run does not begin within the first";
+    EXPECT_EQ(m_boxes.shown.size(), 0);
+    EXPECT_EQ(previews().size(), 0);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+} // namespace
+} // namespace norvane::test
