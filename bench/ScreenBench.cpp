@@ -211,7 +211,11 @@ void filterList(benchmark::State& state)
                              nullptr);
     list.resize(280, 500);
     list.show();
-    state.counters["open_ms"] = 1e3 * bench::secondsOf([&] { list.toggle(); });
+    state.counters["open_ms"] =
+        1e3 * bench::secondsOf([&] {
+            list.toggle();
+            QApplication::processEvents(); // or the first keystroke would paint the list
+        });
     auto* const box = list.findChild<QLineEdit*>();
     const auto* const rows = list.findChild<QTableView*>()->model();
     require(rows->rowCount() == pluCount, "all PLUs");

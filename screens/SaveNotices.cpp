@@ -21,7 +21,7 @@ constexpr Reason reasons[] = {
     {Failure::DiskFull, "the disk is full"_L1},
     {Failure::PathOrFileAccess, "the database is read only"_L1},
     {Failure::DeviceIo, "the disk cannot be read or written"_L1},
-    {Failure::RecordDeleted, "another screen or an upload has deleted the record"_L1},
+    {Failure::RecordDeleted, "the record was deleted meanwhile"_L1},
 };
 
 } // namespace

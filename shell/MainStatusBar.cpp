@@ -36,11 +36,12 @@ MainStatusBar::MainStatusBar(QWidget* parent)
 {
     ui::nameControl(*this, u"StatusBar1"_s);
     m_panel->setMinimumWidth(panelWidth);
-    // A long customer name must not widen the window.
-    m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // A long text must not widen the window.
+    for (QLabel* const label : {m_text, m_notice})
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     addWidget(m_panel);
     addWidget(m_text, 1);
-    addWidget(m_notice);
+    addWidget(m_notice, 3);
     addPermanentWidget(m_dataInUse);
     QFont bold = m_dataInUse->font();
     bold.setBold(true);
@@ -72,6 +73,7 @@ QString MainStatusBar::statusText() const
 void MainStatusBar::setNotice(const QString& text)
 {
     m_notice->setText(text);
+    m_notice->setToolTip(text);
 }
 
 QString MainStatusBar::notice() const

@@ -348,7 +348,7 @@ TEST_F(OptionFormTest, ARecordThatAnotherScreenReplacedIsNotOverwritten)
     press(second, "SaveRecord");
     type(first, "TextControl_1", "Snacks");
     EXPECT_EQ(toldBy(first, [&] { press(first, "SaveRecord"); }),
-              "Nothing was stored: another screen or an upload has deleted the record");
+              "Nothing was stored: the record was deleted meanwhile");
     EXPECT_EQ(groupNames(), "Wines Beers Spirits");
     EXPECT_EQ(name(first), "Snacks") << "for the user to save elsewhere";
     press(first, "DeleteRecord");
