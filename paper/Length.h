@@ -24,7 +24,8 @@ public:
     [[nodiscard]] constexpr double inTwips() const { return in(unitsPerInch / twipsPerInch); }
     [[nodiscard]] constexpr double inDots(double dotsPerInch) const { return in(unitsPerInch / dotsPerInch); }
 
-    constexpr auto operator<=>(const Length&) const = default;
+    // The check takes a 0 in the compiler's own code for a null pointer.
+    constexpr auto operator<=>(const Length&) const = default; // NOLINT(modernize-use-nullptr)
     friend constexpr Length operator+(Length a, Length b) { return Length(a.m_units + b.m_units); }
     friend constexpr Length operator-(Length a, Length b) { return Length(a.m_units - b.m_units); }
 
