@@ -1,10 +1,12 @@
-// Ten years of a shop's days in the sales tables: appending a day and reading by date, with the engine's
-// index on the day and without it. A run makes one year; NORVANE_SALES_YEARS=10 makes them all, in some
-// minutes and four gigabytes of the temporary folder.
-#include "bench/Ratio.h"
+// Ten years of a shop's days in the sales tables: appending a day, reading by date, and reports over a day, a
+// week, a month and a year, beside what a bare statement takes. A run makes one year; NORVANE_SALES_YEARS=10
+// makes them all, in some minutes and five gigabytes of the temporary folder. Times are processor times.
+#include "bench/BareDatabase.h"
 #include "store/Catalogue.h"
 #include "store/Database.h"
+#include "store/MonthTotals.h"
 #include "store/Recordset.h"
+#include "store/RowAppend.h"
 
 #include <benchmark/benchmark.h>
 #include <QFileInfo>
@@ -12,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ctime>
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
@@ -35,22 +38,40 @@ std::string pluNumber(int number)
     return std::string(18 - digits.size(), '0') + digits;
 }
 
+/// What the file keeps beside the rows of sales.
+enum class Keeps { Totals, Index, Nothing };
+
+/// Processor seconds of this process: other work on the machine does not count.
+double processorSeconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    constexpr double nanosecond = 1e-9;
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * nanosecond;
+}
+
 /// A database that only grows, day by day.
 class GrowingShop
 {
 public:
-    explicit GrowingShop(bool indexed)
+    explicit GrowingShop(Keeps keeps)
     {
         auto tables = store::catalogue();
-        if (!indexed) {
+        if (keeps == Keeps::Nothing) {
             for (auto& table : tables)
                 table.searchedField.clear();
         }
         store::Database::create(path(), tables);
+        if (keeps == Keeps::Index) {
+            for (const char* event : {"insert", "update", "delete"})
+                bench::BareDatabase(path()).run(
+                    (std::string("drop trigger [PLUSALES ") + event + ']').c_str());
+        }
         m_database = std::make_unique<store::Database>(path());
     }
 
     [[nodiscard]] store::Database& database() { return *m_database; }
+    [[nodiscard]] QString path() const { return m_folder.filePath(u"velmar.mdb"_s); }
     [[nodiscard]] qint64 fileSize() const { return QFileInfo(path()).size(); }
     /// The day that is so many days before the last one.
     [[nodiscard]] QDate dayBefore(int days) const { return first().addDays(m_days - 1 - days); }
@@ -65,7 +86,16 @@ public:
     void appendDay()
     {
         store::Transaction transaction(*m_database);
+        addRows(transaction);
+        transaction.commit();
+        ++m_days;
+    }
+
+private:
+    void addRows(const store::Transaction& open)
+    {
         store::Recordset sales = m_database->openTable(u"PLUSALES"_s);
+        const store::RowAppend append(*m_database, open, u"PLUSALES"_s);
         const auto ordinal = [&sales](const char* field) {
             return sales.fieldOrdinal(QLatin1StringView(field));
         };
@@ -83,37 +113,34 @@ public:
             sales.setValue(fields[5], Value::number(count * 1.25));
             sales.update();
         }
-        transaction.commit();
-        ++m_days;
     }
 
-private:
     [[nodiscard]] static QDate first() { return {2017, 1, 1}; }
-    [[nodiscard]] QString path() const { return m_folder.filePath(u"velmar.mdb"_s); }
 
     QTemporaryDir m_folder;
     std::unique_ptr<store::Database> m_database;
     int m_days = 0;
 };
 
-/// Both shops live through the whole run, so that each year is made once.
-GrowingShop& shop(bool indexed)
+/// The shops live through the whole run, so that each year is made once.
+GrowingShop& shop(Keeps keeps)
 {
-    static GrowingShop withIndex(true);
-    static GrowingShop without(false);
-    return indexed ? withIndex : without;
+    static GrowingShop withTotals(Keeps::Totals);
+    static GrowingShop withIndex(Keeps::Index);
+    static GrowingShop without(Keeps::Nothing);
+    return keeps == Keeps::Totals ? withTotals : keeps == Keeps::Index ? withIndex : without;
 }
 
-GrowingShop& shopOf(const benchmark::State& state, bool indexed)
+GrowingShop& shopOf(const benchmark::State& state, Keeps keeps)
 {
-    GrowingShop& grown = shop(indexed);
+    GrowingShop& grown = shop(keeps);
     grown.growTo(static_cast<int>(state.range(0)));
     return grown;
 }
 
-void appendDay(benchmark::State& state, bool indexed)
+void appendDay(benchmark::State& state, Keeps keeps)
 {
-    GrowingShop& grown = shopOf(state, indexed);
+    GrowingShop& grown = shopOf(state, keeps);
     while (state.KeepRunning())
         grown.appendDay();
     constexpr double megabyte = 1024.0 * 1024.0;
@@ -126,9 +153,9 @@ QString dateWord(QDate day)
 }
 
 /// All records of one day some way back, one by one.
-void readDay(benchmark::State& state, bool indexed)
+void readDay(benchmark::State& state, Keeps keeps)
 {
-    GrowingShop& grown = shopOf(state, indexed);
+    GrowingShop& grown = shopOf(state, keeps);
     const QString query =
         u"select * from PLUSALES where SALESDATE = %1"_s.arg(dateWord(grown.dayBefore(daysPerMonth / 2)));
     while (state.KeepRunning()) {
@@ -143,9 +170,9 @@ void readDay(benchmark::State& state, bool indexed)
 }
 
 /// The totals of each PLU from some day to the last, as a report adds them up.
-void addUp(benchmark::State& state, bool indexed, int days)
+void addUp(benchmark::State& state, Keeps keeps, int days)
 {
-    GrowingShop& grown = shopOf(state, indexed);
+    GrowingShop& grown = shopOf(state, keeps);
     const QString query = u"select ID, count(*) as DAYS, sum(COUNT1) as SOLD from PLUSALES "
                           "where SALESDATE >= %1 and SALESDATE <= %2 group by ID"_s.arg(
                               dateWord(grown.dayBefore(days - 1)), dateWord(grown.dayBefore(0)));
@@ -159,17 +186,146 @@ void addUp(benchmark::State& state, bool indexed, int days)
     }
 }
 
-void addUpMonth(benchmark::State& state, bool indexed)
+void addUpMonth(benchmark::State& state, Keeps keeps)
 {
-    addUp(state, indexed, daysPerMonth);
+    addUp(state, keeps, daysPerMonth);
 }
 
-void addUpYear(benchmark::State& state, bool indexed)
+void addUpYear(benchmark::State& state, Keeps keeps)
 {
-    addUp(state, indexed, daysPerYear);
+    addUp(state, keeps, daysPerYear);
 }
 
-/// In the order of the years, since the shops only grow.
+/// A period that ends on the last day.
+struct Period {
+    const char* name;
+    QDate (*first)(QDate last);
+};
+constexpr Period periods[] = {
+    {"day",
+     [](QDate last) {
+         return last;
+     }},
+    {"weekToDate",
+     [](QDate last) {
+         return last.addDays(-(last.dayOfWeek() % Qt::Sunday));
+     }},
+    {"monthToDate",
+     [](QDate last) {
+         return QDate(last.year(), last.month(), 1);
+     }},
+    {"yearToDate",
+     [](QDate last) {
+         return QDate(last.year(), 1, 1);
+     }},
+};
+
+constexpr const char* numbers[] = {"PROMO",  "WASTE",  "COUNT1", "VALUE1", "COUNT2", "VALUE2",
+                                   "COUNT3", "VALUE3", "COUNT4", "VALUE4", "COUNT5", "VALUE5"};
+
+QString sums(const char* aggregate)
+{
+    QStringList all;
+    for (const char* number : numbers)
+        all << u"%1(%2)"_s.arg(QLatin1StringView(aggregate), QLatin1StringView(number));
+    return all.join(u", "_s);
+}
+
+/// The totals of every PLU, line by line, exact.
+void readReport(store::Database& database, const store::DayRange& days)
+{
+    const store::MonthTotals totals(database, u"PLUSALES"_s);
+    store::Recordset lines =
+        database.openQuery(u"select ID, %1 from %2 group by ID"_s.arg(sums("exact_sum"), totals.rows(days)));
+    int plus = 0;
+    for (; !lines.atEnd(); lines.moveNext()) {
+        for (int field = 0; field < lines.fieldCount(); ++field)
+            benchmark::DoNotOptimize(lines.value(field));
+        ++plus;
+    }
+    require(plus == plusPerDay, "all PLUs");
+}
+
+/// The same rows and months in one statement of the engine's own, which adds up doubles.
+std::string bareStatement(const store::DayRange& days)
+{
+    const QString columns = sums("").remove(u'(').remove(u')');
+    const auto part = [&columns](const char* table, QDate first, QDate last) {
+        return u"select ID, %1 from %2 where SALESDATE between '%3' and '%4'"_s.arg(
+            columns, QLatin1StringView(table), first.toString(Qt::ISODate), last.toString(Qt::ISODate));
+    };
+    const QDate month(days.last.year(), days.last.month(), 1);
+    QString source = part("PLUSALES", std::max(days.first, month), days.last);
+    if (days.first < month) {
+        source +=
+            u" union all "_s + (days.first.day() == 1
+                                    ? part("norvane_month_totals_PLUSALES", days.first, month.addDays(-1))
+                                    : part("PLUSALES", days.first, month.addDays(-1)));
+    }
+    return u"select ID, %1 from (%2) group by ID"_s.arg(sums("sum"), source).toStdString();
+}
+
+void readBare(const bench::BareDatabase& database, const std::string& sql)
+{
+    sqlite3_stmt* const lines = database.prepare(sql.c_str());
+    int plus = 0;
+    for (; sqlite3_step(lines) == SQLITE_ROW; ++plus) {
+        for (int column = 0; column < sqlite3_column_count(lines); ++column)
+            benchmark::DoNotOptimize(sqlite3_column_double(lines, column));
+    }
+    sqlite3_finalize(lines);
+    require(plus == plusPerDay, "all PLUs of the bare statement");
+}
+
+void readPeriod(benchmark::State& state, const Period& period)
+{
+    GrowingShop& grown = shopOf(state, Keeps::Totals);
+    const store::DayRange days{period.first(grown.dayBefore(0)), grown.dayBefore(0)};
+    require(store::MonthTotals(grown.database(), u"PLUSALES"_s).addUpMissing(days, days.last), "totals");
+    const bench::BareDatabase bare(grown.path());
+    double bareSeconds = 0;
+    double ourSeconds = 0;
+    while (state.KeepRunning()) {
+        const double start = processorSeconds();
+        readBare(bare, bareStatement(days));
+        const double between = processorSeconds();
+        readReport(grown.database(), days);
+        const double end = processorSeconds();
+        bareSeconds += between - start;
+        ourSeconds += end - between;
+        state.SetIterationTime(end - between);
+    }
+    state.counters["ratio"] = ourSeconds / bareSeconds;
+}
+
+/// What the first collection of a month adds to its time.
+void totalMonth(benchmark::State& state)
+{
+    GrowingShop& grown = shopOf(state, Keeps::Totals);
+    const QDate last = grown.dayBefore(0);
+    store::MonthTotals totals(grown.database(), u"PLUSALES"_s);
+    while (state.KeepRunning())
+        totals.addUp(QDate(last.year(), last.month(), 1).addMonths(-1));
+}
+
+constexpr int reads = 3;
+
+void registerPeriods(int days)
+{
+    for (const Period& period : periods) {
+        benchmark::RegisterBenchmark((std::string("report/") + period.name).c_str(), readPeriod, period)
+            ->Arg(days)
+            ->Iterations(reads)
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond);
+    }
+    benchmark::RegisterBenchmark("totalMonth", totalMonth)
+        ->Arg(days)
+        ->Iterations(reads)
+        ->Unit(benchmark::kMillisecond);
+}
+
+/// Appending is measured last: a shop that has grown a little is no longer of that many days.
 void registerAll(int years)
 {
     std::vector<int> sizes{daysPerMonth, daysPerYear};
@@ -177,22 +333,25 @@ void registerAll(int years)
         if (later <= years)
             sizes.push_back(later * daysPerYear);
     }
-    const auto add = [](const char* what, auto measure, int days, int runs) {
-        for (const bool indexed : {true, false}) {
-            const std::string name = std::string(what) + (indexed ? "/indexed" : "/unindexed");
-            benchmark::RegisterBenchmark(name.c_str(), measure, indexed)
+    const auto add = [](const char* what, auto measure, int days, int runs,
+                        const std::vector<std::pair<Keeps, const char*>>& shops) {
+        for (const auto& [keeps, name] : shops) {
+            benchmark::RegisterBenchmark((std::string(what) + name).c_str(), measure, keeps)
                 ->Arg(days)
                 ->Iterations(runs)
                 ->Unit(benchmark::kMillisecond);
         }
     };
+    const std::vector<std::pair<Keeps, const char*>> indexOrNot{{Keeps::Index, "/indexed"},
+                                                                {Keeps::Nothing, "/unindexed"}};
     for (const int days : sizes) {
-        constexpr int reads = 3;
-        add("appendDay", appendDay, days, appendedDays);
-        add("readDay", readDay, days, reads);
-        add("addUpMonth", addUpMonth, days, reads);
+        add("readDay", readDay, days, reads, indexOrNot);
+        add("addUpMonth", addUpMonth, days, reads, indexOrNot);
         if (days >= daysPerYear)
-            add("addUpYear", addUpYear, days, reads);
+            add("addUpYear", addUpYear, days, reads, indexOrNot);
+        registerPeriods(days);
+        add("appendDay", appendDay, days, appendedDays,
+            {{Keeps::Totals, "/totals"}, {Keeps::Index, "/indexed"}, {Keeps::Nothing, "/unindexed"}});
     }
 }
 

@@ -1,13 +1,13 @@
 // Totals place by place for numbers of any length; see DecimalTotal.h.
 #include "platform/DecimalTotal.h"
 
-#include "platform/Decimal.h"
 #include "platform/NumberScan.h"
 #include "platform/RuntimeFailure.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdlib>
 #include <optional>
 
 namespace norvane
@@ -45,6 +45,24 @@ std::optional<std::int64_t> plainUnits(std::string_view text)
     for (auto missing = fraction; missing < unitPlaces; ++missing)
         units *= 10;
     return negative ? -units : units;
+}
+
+/// A report asks for tens of thousands of these.
+std::string textOfUnits(std::int64_t units)
+{
+    std::array<char, 32> buffer{};
+    char* at = buffer.data();
+    if (units < 0)
+        *at++ = '-';
+    at = std::to_chars(at, buffer.data() + buffer.size(), std::abs(units / wholeUnits)).ptr;
+    std::int64_t fraction = std::abs(units % wholeUnits);
+    if (fraction > 0)
+        *at++ = '.';
+    for (std::int64_t place = wholeUnits / 10; fraction > 0; place /= 10) {
+        *at++ = static_cast<char>('0' + fraction / place);
+        fraction %= place;
+    }
+    return {buffer.data(), at};
 }
 
 } // namespace
@@ -178,12 +196,17 @@ void DecimalTotal::settle()
 std::string DecimalTotal::text() const
 {
     if (!m_places)
-        return Decimal(m_units, unitPlaces).text();
+        return textOfUnits(m_units);
     DecimalTotal whole;
     whole.m_units = m_units;
     whole.m_places = std::make_unique<Places>(*m_places);
     whole.settle();
     return whole.m_places->text();
+}
+
+std::optional<std::int64_t> DecimalTotal::whole() const
+{
+    return m_places || m_units % wholeUnits != 0 ? std::nullopt : std::optional(m_units / wholeUnits);
 }
 
 } // namespace norvane

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -41,6 +42,9 @@ public:
 
     /// The total as a plain decimal without trailing zeros: "5639.55", "-3", "0".
     [[nodiscard]] std::string text() const;
+    /// The total when it has no places behind the point. @return nothing for any other and for one of more
+    /// than some fifteen digits.
+    [[nodiscard]] std::optional<std::int64_t> whole() const;
 
 private:
     class Places;

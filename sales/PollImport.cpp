@@ -12,6 +12,7 @@
 #include "store/Database.h"
 #include "store/MonthTotals.h"
 #include "store/Recordset.h"
+#include "store/RowAppend.h"
 #include "store/SalesTables.h"
 
 #include <algorithm>
@@ -261,7 +262,10 @@ ImportedReport importPollFile(const PollFile& file, store::Database& database,
     store::Recordset records = database.openTable(QLatin1StringView(file.table));
     const QByteArray content = readWholeFile(joinPath(values.appPath, QLatin1StringView(file.name)));
     TextValues text({content.constData(), static_cast<std::size_t>(content.size())});
-    const ImportedReport report = Import(file, records, values, collected).storeAll(text);
+    const ImportedReport report = [&] {
+        const store::RowAppend append(database, transaction, QLatin1StringView(file.table));
+        return Import(file, records, values, collected).storeAll(text);
+    }();
     addUpEndedMonths(database, QLatin1StringView(file.table), collected);
     transaction.commit();
     return report;

@@ -15,7 +15,7 @@ std::string totalsDeclaration(const TableDefinition& table)
     std::string columns;
     for (const auto& field : table.fields) {
         columns += columns.empty() ? "" : ", ";
-        columns += isAddedUp(field) ? quotedName(field.name) + " TEXT" : columnDeclaration(field);
+        columns += isAddedUp(field) ? quotedName(field.name) + " ANY" : columnDeclaration(field);
     }
     return "CREATE TABLE " + quotedName(monthTotalsName(table.name)) + " (" + columns + ") STRICT";
 }

@@ -11,6 +11,7 @@
 #include "store/RowIds.h"
 #include "store/Savepoint.h"
 #include "store/SqlTranslation.h"
+#include "store/TriggersAtRest.h"
 
 #include <sqlite3.h>
 
@@ -40,22 +41,6 @@ bool hasField(const TableDefinition& table, const QString& name)
         return field.name.compare(name, Qt::CaseInsensitive) == 0;
     });
 }
-
-/// Without the triggers of a table the engine frees its pages as a whole. With them it would visit every row:
-/// ten years of sales would take minutes instead of seconds.
-class TriggersAtRest
-{
-public:
-    explicit TriggersAtRest(sqlite3* connection) : m_connection(connection) { set(0); }
-    ~TriggersAtRest() { set(1); }
-    TriggersAtRest(const TriggersAtRest&) = delete;
-    TriggersAtRest& operator=(const TriggersAtRest&) = delete;
-
-private:
-    void set(int work) { sqlite3_db_config(m_connection, SQLITE_DBCONFIG_ENABLE_TRIGGER, work, nullptr); }
-
-    sqlite3* m_connection;
-};
 
 bool keepsTotals(sqlite3* connection, const QString& table)
 {
@@ -136,6 +121,8 @@ qint64 Database::execute(const QString& sql)
         return statement.run();
     Savepoint savepoint(d->connection());
     retireAllRowIds(*d, *emptied);
+    // Without the triggers of a table the engine frees its pages as a whole. With them it would visit every
+    // row: ten years of sales would take minutes instead of seconds.
     std::optional<TriggersAtRest> rest;
     if (translated.deletesAll && keepsTotals(d->connection(), emptied->name())) {
         rest.emplace(d->connection());

@@ -62,6 +62,7 @@ private:
     friend class MonthTotals;
     friend class BoundQuery;
     friend class Recordset;
+    friend class RowAppend;
     friend class ShortWait;
     friend class Transaction;
     std::unique_ptr<Private> d;

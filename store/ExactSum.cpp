@@ -73,7 +73,7 @@ void addRow(sqlite3_context* context, int, sqlite3_value** values) noexcept
 }
 
 /// Called once for each slot, also when the query is given up half way.
-void finish(sqlite3_context* context) noexcept
+void giveText(sqlite3_context* context) noexcept
 {
     auto* slot = static_cast<Slot*>(sqlite3_aggregate_context(context, 0));
     if (slot == nullptr || !slot->used) {
@@ -85,12 +85,24 @@ void finish(sqlite3_context* context) noexcept
     std::destroy_at(slot->total());
 }
 
+void giveTotal(sqlite3_context* context) noexcept
+{
+    auto* slot = static_cast<Slot*>(sqlite3_aggregate_context(context, 0));
+    const auto whole =
+        slot != nullptr && slot->used ? slot->total()->whole() : std::optional<std::int64_t>(0);
+    giveText(context);
+    if (whole)
+        sqlite3_result_int64(context, *whole);
+}
+
 } // namespace
 
 void addExactSum(sqlite3* connection)
 {
     constexpr int options = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
-    sqlite3_create_function_v2(connection, "exact_sum", 1, options, nullptr, nullptr, addRow, finish,
+    sqlite3_create_function_v2(connection, "exact_sum", 1, options, nullptr, nullptr, addRow, giveText,
+                               nullptr);
+    sqlite3_create_function_v2(connection, "exact_total", 1, options, nullptr, nullptr, addRow, giveTotal,
                                nullptr);
 }
 

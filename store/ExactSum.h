@@ -16,6 +16,9 @@ namespace norvane::store
 /// nothing to add, never null. Compare it as a text (exact_sum(x) <> '0') or read it with Decimal::parse,
 /// which takes up to 18 digits. A query that adds up an infinite number fails with RuntimeFailure 3061.
 /// It takes about as long as sum() for numbers of up to four places behind the point and fifteen digits.
+///
+/// Beside it stands exact_total(x) for totals that are stored to be added up again: the same, but a number
+/// without places that 64 bits hold comes as a whole number, which takes less room and time.
 void addExactSum(sqlite3* connection);
 
 } // namespace norvane::store

@@ -58,7 +58,7 @@ std::string joined(const QVector<FieldDefinition>& fields, std::string (*wordsOf
 std::string totalOf(const FieldDefinition& field)
 {
     if (isAddedUp(field))
-        return "exact_sum(" + quotedName(field.name) + ')';
+        return "exact_total(" + quotedName(field.name) + ')';
     return field.type == FieldType::Date ? "?1" : quotedName(field.name);
 }
 

@@ -4,12 +4,15 @@
 #include "platform/RuntimeFailure.h"
 #include "store/Catalogue.h"
 #include "store/Database.h"
+#include "store/MonthTotals.h"
 #include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::sales
 {
@@ -134,6 +137,31 @@ TEST_F(PollImport, EndsAtABadRecordAndKeepsThoseAhead)
     };
     for (const ImportCase& c : others)
         import(c);
+}
+
+TEST_F(PollImport, AddsUpTheMonthsThatHaveEnded)
+{
+    m_values.databasePath = m_folder.path("velmar.mdb");
+    store::Database::create(m_values.databasePath, store::catalogue());
+    m_folder.write("POLL190.txt", "1,0.1\r\n1,0.2\r\n");
+    // A clock that was set back adds to a month that had its totals already.
+    const std::pair<QDate, const char*> days[] = {{{2025, 10, 31}, ""},
+                                                  {{2026, 1, 1}, "2025-10"},
+                                                  {{2026, 2, 1}, "2025-10 2026-01"},
+                                                  {{2026, 1, 31}, "2025-10"},
+                                                  {{2026, 2, 2}, "2025-10 2026-01"}};
+    for (const auto& [day, added] : days) {
+        store::Database database(m_values.databasePath);
+        importPollFile(pollFiles().front(), database, m_values, day);
+        auto months =
+            database.openQuery(u"select group_concat(month, ' ') from norvane_added_months_FINANCIALSALES"_s);
+        EXPECT_EQ(months.value(0).toText(), QLatin1StringView(added)) << day.toString().toStdString();
+        const store::MonthTotals totals(database, u"FINANCIALSALES"_s);
+        auto sum = database.openQuery(u"select exact_sum(VALUE) from "_s +
+                                      totals.rows({{2025, 1, 1}, {2026, 12, 31}}));
+        auto rows = database.openQuery(u"select exact_sum(VALUE) from FINANCIALSALES"_s);
+        EXPECT_EQ(sum.value(0).toText(), rows.value(0).toText());
+    }
 }
 
 TEST_F(PollImport, NamesTheFileThatIsMissing)

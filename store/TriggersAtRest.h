@@ -1,0 +1,25 @@
+// Work that sees itself to what the triggers of the file are for.
+#pragma once
+
+#include <sqlite3.h>
+
+namespace norvane::store
+{
+
+/// While it lives, changes by this connection run no trigger. No other connection can change anything
+/// meanwhile as long as a transaction is open around it.
+class TriggersAtRest
+{
+public:
+    explicit TriggersAtRest(sqlite3* connection) : m_connection(connection) { set(0); }
+    ~TriggersAtRest() { set(1); }
+    TriggersAtRest(const TriggersAtRest&) = delete;
+    TriggersAtRest& operator=(const TriggersAtRest&) = delete;
+
+private:
+    void set(int work) { sqlite3_db_config(m_connection, SQLITE_DBCONFIG_ENABLE_TRIGGER, work, nullptr); }
+
+    sqlite3* m_connection;
+};
+
+} // namespace norvane::store
