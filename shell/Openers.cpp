@@ -6,9 +6,12 @@
 #include "screens/OptionForm.h"
 #include "shell/FrameOpeners.h"
 #include "shell/MainStatusBar.h"
+#include "shell/ReportOpeners.h"
 #include "shell/UtilityOpeners.h"
 
 #include <QMdiSubWindow>
+
+#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -48,7 +51,9 @@ void openCollection(FrmMain& main, const ApplicationValues& values, Boxes& boxes
 /// front again, and every screen after a menu entry, looks what has become of its record.
 void openScreen(FrmMain& main, const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes)
 {
-    auto* const form = new screens::OptionForm(screenFilePath, values, boxes);
+    auto reports = std::make_unique<ScreenReports>(main, values, boxes);
+    auto* const form = new screens::OptionForm(screenFilePath, values, boxes, reports.get());
+    reports.release()->setParent(form);
     auto* const status = &main.statusBar1();
     QObject::connect(form, &screens::OptionForm::told, status, &MainStatusBar::setNotice);
     QObject::connect(form, &QObject::destroyed, status, [status] { status->setNotice({}); });
@@ -73,6 +78,7 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
         openCollection(main, values, boxes);
     });
     openers.insert(makeUtilityOpeners(values, boxes));
+    openers.insert(makeReportOpeners(values, boxes));
     return {openers, [&values, &boxes](FrmMain& main, const QString& screenFilePath) {
                 openScreen(main, screenFilePath, values, boxes);
             }};

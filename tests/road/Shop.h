@@ -48,10 +48,11 @@ public:
     /// Runs a statement on the customer's database, as another program at the same file would.
     void execute(const char* sql) const;
 
-private:
-    BoxNumbers exchange(const char* entry, const BoxNumbers& boxes);
     /// Chooses a menu entry; @p act runs as soon as a modal dialog stands open.
     void choose(const char* entry, const std::function<void(QDialog&)>& act = {});
+
+private:
+    BoxNumbers exchange(const char* entry, const BoxNumbers& boxes);
 
     ProgramFolder m_folder;
     ApplicationValues m_values;

@@ -28,8 +28,8 @@ ProgramFolder::ProgramFolder(int model, int registers, int plus)
     m_folder.write("app/registers.ini", "[Bank]\r\nFolder=../registers\r\n");
     for (const char* file : {TEMPLATE_DATABASE, DATA_DIR "/setup.ini", VELMARCOMM_TOOL, CONVERT_TOOL})
         copyInto(QString::fromUtf8(file), appPath());
-    for (const QFileInfo& screen : QDir(QString::fromUtf8(DATA_DIR)).entryInfoList({u"*.scn"_s}))
-        copyInto(screen.filePath(), appPath());
+    for (const QFileInfo& text : QDir(QString::fromUtf8(DATA_DIR)).entryInfoList({u"*.scn"_s, u"*.rpt"_s}))
+        copyInto(text.filePath(), appPath());
     for (const auto& [key, value] : {std::pair("ECRModel", model), {"NoOfECRs", registers - 1}}) {
         ProfileFile::write(appFile(u"setup.ini"_s), u"SetupOption"_s, QLatin1String(key),
                            QString::number(value));

@@ -1,0 +1,53 @@
+// See ReportOpeners.h.
+#include "shell/ReportOpeners.h"
+
+#include "reports/Report.h"
+#include "sales/Frmreports.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::shell
+{
+namespace
+{
+
+/// Entries and handlers are named alike: "PLUSalesByDate" and "PLUSalesByDate_Click".
+const sales::ReportEntry& reportOf(const MenuEntry& entry)
+{
+    const QString handler = entry.name + u"_Click"_s;
+    const auto entries = sales::reportEntries();
+    const auto found =
+        std::ranges::find_if(entries, [&handler](const auto& each) { return each.handler == handler; });
+    Q_ASSERT(found != entries.end());
+    return *found;
+}
+
+} // namespace
+
+FrmMain::FormOpeners makeReportOpeners(ApplicationValues& values, Boxes& boxes)
+{
+    FrmMain::FormOpeners openers;
+    openers.insert(u"Frmreports"_s, [&values, &boxes](FrmMain& main, const MenuEntry& entry) {
+        sales::showReport(reportOf(entry), values, boxes, &main, reports::runReport);
+    });
+    return openers;
+}
+
+ScreenReports::ScreenReports(FrmMain& main, const ApplicationValues& values, Boxes& boxes)
+    : m_main(main), m_values(values), m_boxes(boxes)
+{
+}
+
+void ScreenReports::run(const screens::ReportRequest& request)
+{
+    reports::Report report(m_main, m_boxes);
+    report.setReportFile(request.reportFile);
+    report.setWindowTitle(request.title);
+    report.setDataFile(0, request.database);
+    report.setCustomer(m_values.customerName);
+    report.run();
+}
+
+} // namespace norvane::shell
