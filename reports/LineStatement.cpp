@@ -12,7 +12,6 @@
 #include "reports/LineStatement.h"
 
 #include <algorithm>
-#include <ranges>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,9 +54,9 @@ public:
             need(key.field);
         collectConditionFields(condition);
         // A join may hang on another one that stands before it.
-        for (const auto& join : std::views::reverse(joins)) {
-            if (isJoined(*join.table))
-                need(join.of);
+        for (std::size_t number = joins.size(); number-- > 0;) {
+            if (isJoined(*joins[number].table))
+                need(joins[number].of);
         }
     }
 
