@@ -17,6 +17,8 @@ class ExactTotal
 public:
     void add(std::string_view number, bool negative)
     {
+        if (number == "0")
+            return; // nearly all levels of nearly all lines
         if (!negative) {
             m_total.add(number);
         } else if (number.starts_with('-')) {
@@ -227,8 +229,10 @@ bool Expression::needsWhole() const
 std::optional<Decimal> Expression::value(const SlotNumbers& numbers) const
 {
     switch (m_kind) {
-    case Kind::Field:
-        return decimalOf(numbers.here[static_cast<std::size_t>(m_slot)]);
+    case Kind::Field: {
+        const auto& number = numbers.here[static_cast<std::size_t>(m_slot)];
+        return number == "0" ? Decimal() : decimalOf(number);
+    }
     case Kind::Number:
         return m_number;
     case Kind::Sum:

@@ -62,15 +62,20 @@ LineNumbers::LineNumbers(const ReportLayout& layout)
         if (chart.from != PointSource::Query)
             chart.value->markSlots(m_isReckoned);
     }
-    for (std::size_t i = 0; i < m_isValue.size(); ++i)
+    for (std::size_t i = 0; i < m_isValue.size(); ++i) {
         m_isValue[i] = m_isReckoned[i] && !isRecordNumber(layout.source, layout.source.fields[i]);
+        m_isSum.push_back(layout.source.isSum(layout.source.fields[i]));
+    }
 }
 
 void LineNumbers::read(const LineFields& fields)
 {
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        if (m_isReckoned[i])
+        if (m_isReckoned[i] && m_isSum[i]) {
+            m_numbers[i].assign(fields[i].textView());
+        } else if (m_isReckoned[i]) {
             m_numbers[i] = exactText(fields[i]);
+        }
     }
 }
 

@@ -38,6 +38,7 @@ public:
 
 private:
     std::vector<bool> m_isReckoned;
+    std::vector<bool> m_isSum;   ///< spelled as an exact decimal already
     std::vector<bool> m_isValue; ///< no number of a record
     std::vector<std::string> m_numbers;
 };

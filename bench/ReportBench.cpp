@@ -1,0 +1,166 @@
+// Reports from the formula to their lines: a list of 100,000 PLUs, and periods of a shop with 5,000 PLUs that
+// collects every day. A run makes two years of sales; NORVANE_SALES_YEARS=10 makes ten, in some minutes and
+// three gigabytes of the temporary folder.
+#include "bench/BareDatabase.h"
+#include "reports/ReportRun.h"
+#include "store/Catalogue.h"
+#include "store/Database.h"
+#include "store/MonthTotals.h"
+
+#include <benchmark/benchmark.h>
+#include <QTemporaryDir>
+
+#include <malloc.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+using namespace norvane;
+using bench::BareDatabase;
+using bench::require;
+
+/// A database whose rows are made by statements of the engine.
+class Shop
+{
+public:
+    explicit Shop(const std::string& rows)
+    {
+        store::Database::create(path(), store::catalogue());
+        const BareDatabase bare(path());
+        bare.run(("begin;" + rows + ";commit").c_str());
+    }
+
+    [[nodiscard]] QString path() const { return m_folder.filePath(u"velmar.mdb"_s); }
+
+    [[nodiscard]] reports::ReportData run(const char* layout, const QString& formula = {},
+                                          QDate today = QDate(2026, 12, 19)) const
+    {
+        reports::ReportRequest request;
+        request.reportFile = QStringLiteral(REPORT_FILES "/") + QLatin1StringView(layout);
+        request.dataFile = path();
+        request.selectionFormula = formula;
+        request.now = QDateTime(today, QTime(20, 0));
+        return reports::runReport(request, [] { return true; });
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+std::string numbersTo(const std::string& most)
+{
+    return "with recursive n(i) as (select 1 union all select i + 1 from n where i < " + most + ")";
+}
+
+std::string programme(int plus)
+{
+    const std::string number = "substr('000000000000000000' || i, -18)";
+    return "insert into PLUDATA (PLUNUMBER, DESCRIPTION, GROUPNO, PRICE1, PRICE2, PRICE3, PRICE4, PRICE5) " +
+           numbersTo(std::to_string(plus)) + " select " + number +
+           ", 'ARTICLE ' || i, i % 50, '1.25', '2.50', '3.75', '4.99', '0.10' from n; "
+           "insert into GROUPS (GROUPNO, DESCRIPTION) " +
+           numbersTo("49") + " select i, 'GROUP ' || i from n";
+}
+
+/// Every PLU has a row every day up to the end of 2026, most of them with sales.
+std::string sales(int plus, int years)
+{
+    const std::string days = std::to_string(years * 365);
+    return programme(plus) + "; insert into PLUSALES " + numbersTo(days) +
+           ", p(k) as (select 1 union all select k + 1 from p where k < " + std::to_string(plus) +
+           ") select substr('000000000000000000' || k, -18), date('2026-12-31', '-' || (" + days +
+           " - i) || ' days'), 0, 0, (k * 31 + i * 7) % 50, ((k * 31 + i * 7) % 50) * 1.25, 0, 0, 0, 0, 0, "
+           "0, 0, 0 "
+           "from n, p";
+}
+
+int years()
+{
+    const char* const wish = std::getenv("NORVANE_SALES_YEARS");
+    return wish ? std::max(1, std::atoi(wish)) : 2;
+}
+
+void ListOfPlus(benchmark::State& state)
+{
+    constexpr int plus = 100'000;
+    const Shop shop(programme(plus));
+    double text = 0;
+    double held = 0;
+    for (auto _ : state) {
+        const auto before = mallinfo2().uordblks + mallinfo2().hblkhd;
+        const auto data = shop.run("pluprice.rpt");
+        held = static_cast<double>(mallinfo2().uordblks + mallinfo2().hblkhd - before);
+        require(data.lineCount() == plus && data.columnCount() == 8, "all PLUs are listed");
+        state.PauseTiming();
+        text = 0;
+        for (qsizetype line = 0; line < data.lineCount(); ++line) {
+            for (int column = 0; column < data.columnCount(); ++column)
+                text += static_cast<double>(data.text(line, column).size());
+        }
+        state.ResumeTiming();
+    }
+    state.counters["bytes_a_line"] = held / plus;
+    state.counters["characters_a_line"] = text / plus;
+}
+BENCHMARK(ListOfPlus)->Unit(benchmark::kMillisecond);
+
+struct PeriodOfSales {
+    const char* name;
+    QString formula;
+    store::DayRange days;
+};
+
+/// The least that could tell the sales: names and exact sums left out.
+void addUpBare(const BareDatabase& bare, const std::string& rows)
+{
+    const std::string sql =
+        "select ID, sum(PROMO), sum(WASTE), sum(COUNT1), sum(VALUE1), sum(COUNT2), sum(VALUE2), "
+        "sum(COUNT3), sum(VALUE3), sum(COUNT4), sum(VALUE4), sum(COUNT5), sum(VALUE5) from " +
+        rows + " group by ID";
+    sqlite3_stmt* const select = bare.prepare(sql.c_str());
+    double total = 0;
+    while (sqlite3_step(select) == SQLITE_ROW)
+        total += sqlite3_column_double(select, 4);
+    sqlite3_finalize(select);
+    require(total > 0, "something was sold");
+}
+
+void PeriodReport(benchmark::State& state)
+{
+    static const Shop shop(sales(5000, years()));
+    const QString day = u"{PLUSALES.SALESDATE} "_s;
+    const PeriodOfSales periods[] = {
+        {"day", day + u"= date(2026,12,19)"_s, {{2026, 12, 19}, {2026, 12, 19}}},
+        {"week", day + u"in WeekToDateFromSun"_s, {{2026, 12, 13}, {2026, 12, 19}}},
+        {"month", day + u"in monthtodate"_s, {{2026, 12, 1}, {2026, 12, 19}}},
+        {"year", day + u"in YearToDate"_s, {{2026, 1, 1}, {2026, 12, 19}}},
+    };
+    const auto& period = periods[state.range(0)];
+    state.SetLabel(period.name);
+    (void)shop.run("plusales.rpt", period.formula); // adds up ended months, as the import does
+    std::string rows;
+    {
+        store::Database database(shop.path());
+        rows = store::MonthTotals(database, u"PLUSALES"_s).rows(period.days).toStdString();
+    }
+    const BareDatabase bare(shop.path());
+    bench::Cost ours;
+    bench::Cost least;
+    for (auto _ : state) {
+        least.add([&] { addUpBare(bare, rows); });
+        const double before = ours.elapsed;
+        ours.add([&] {
+            require(shop.run("plusales.rpt", period.formula).lineCount() > 4000, "all PLUs have a line");
+        });
+        state.SetIterationTime(ours.elapsed - before);
+    }
+    state.counters["processor_seconds"] = ours.processor / static_cast<double>(state.iterations());
+    state.counters["ratio"] = ours.processor / least.processor;
+}
+BENCHMARK(PeriodReport)->DenseRange(0, 3)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+BENCHMARK_MAIN();
