@@ -48,7 +48,7 @@ public:
         }
     }
 
-    /// Runs statements that no part of the program would: what a damaged or meddled file holds.
+    /// A report over this shop on the evening of 25/11/2026.
     [[nodiscard]] ReportRequest request(const QString& layout, const QString& formula = {}) const
     {
         ReportRequest request;
