@@ -109,9 +109,9 @@ std::vector<double> fittedWidths(const ReportData& report, const std::vector<dou
 
 ColumnPlaces fitColumns(const ReportData& report, const PageText& text, double left, double width)
 {
-    std::vector<double> needed;
+    std::vector<double> needed(report.columns().size());
     for (int column = 0; column < report.columnCount(); ++column)
-        needed.push_back(neededWidth(report, column, text));
+        needed[static_cast<std::size_t>(column)] = neededWidth(report, column, text);
     const std::vector<double> widths = fittedWidths(report, needed, width);
     const double scale = width / std::max(sum(widths), 1.0);
     ColumnPlaces places{{}, std::max(smallestSize, usualSize * std::min(1.0, scale))};

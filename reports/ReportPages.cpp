@@ -183,9 +183,9 @@ qsizetype ReportPages::blockEnd(qsizetype line) const
     const qsizetype end = m_report.lineCount();
     while (line + 1 < end && m_report.lineKind(line) == LineKind::GroupHeading)
         ++line;
-    do
+    do {
         ++line;
-    while (line < end && isTotal(m_report.lineKind(line)));
+    } while (line < end && isTotal(m_report.lineKind(line)));
     return line;
 }
 

@@ -106,7 +106,8 @@ private:
     [[nodiscard]] lxw_format* format(qsizetype line, int column) const
     {
         const bool isBold = m_report.lineKind(line) != LineKind::Detail;
-        return m_formats[static_cast<std::size_t>(isBold * m_report.columnCount() + column)];
+        const int place = isBold ? m_report.columnCount() + column : column;
+        return m_formats[static_cast<std::size_t>(place)];
     }
 
     void setUpColumns()

@@ -24,9 +24,9 @@ public:
     }
     [[nodiscard]] std::vector<std::size_t> chartCounts() const
     {
-        std::vector<std::size_t> counts;
+        std::vector<std::size_t> counts(static_cast<std::size_t>(pages.pageCount()));
         for (int page = 0; page < pages.pageCount(); ++page)
-            counts.push_back(pages.page(page).charts.size());
+            counts[static_cast<std::size_t>(page)] = pages.page(page).charts.size();
         return counts;
     }
 

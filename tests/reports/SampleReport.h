@@ -36,10 +36,10 @@ inline reports::ReportData emptySales()
 }
 
 /// Adds a group of @p plus lines, each sold 1.125 times for 2.345, and its subtotal.
-inline void addGroup(reports::ReportData& report, const QString& name, int plus)
+inline void addGroup(reports::ReportData& report, const QString& name, std::int64_t plus)
 {
     report.addLine(reports::LineKind::GroupHeading, {name});
-    for (int plu = 1; plu <= plus; ++plu) {
+    for (std::int64_t plu = 1; plu <= plus; ++plu) {
         report.addLine(reports::LineKind::Detail,
                        {QString::number(plu), u"Article %1"_s.arg(plu), Decimal(1125, 3), Decimal(2345, 3)});
     }
