@@ -74,6 +74,9 @@ std::optional<ReportData> Report::runnerResult()
     RunProgress progress(m_window);
     ReportRequest request = m_request;
     request.now = QDateTime::currentDateTime();
+    request.showStep = [&progress](const QString& step) {
+        progress.showStep(step);
+    };
     try {
         return m_runner(request, [&progress] { return progress.goOn(); });
     } catch (const ReportError&) {

@@ -7,6 +7,8 @@
 #include "store/Catalogue.h"
 #include "store/MonthTotals.h"
 
+#include <QLocale>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,8 +23,9 @@ constexpr int mostMoneyDecimals = 3;
 
 } // namespace
 
-ReportQuery::ReportQuery(const QString& dataFile, const ReportLayout& layout, const KeepGoing& keepGoing)
-    : m_layout(layout), m_keepGoing(keepGoing), m_dataFile(dataFile), m_database(dataFile)
+ReportQuery::ReportQuery(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing)
+    : m_layout(layout), m_keepGoing(keepGoing), m_showStep(request.showStep), m_dataFile(request.dataFile),
+      m_database(request.dataFile)
 {
     checkTables();
 }
@@ -88,7 +91,7 @@ std::string ReportQuery::monthRows(const LineSource& source)
     if (!totals.available())
         return {};
     const store::DayRange days{period->from, period->to};
-    totals.addUpMissing(days, m_today, [this](QDate) { return !m_keepGoing || m_keepGoing(); });
+    totals.addUpMissing(days, m_today, [this](QDate month) { return beginMonth(month); });
     QStringList fields;
     for (const auto& field : source.fields) {
         if (field.table == source.table)
@@ -99,6 +102,14 @@ std::string ReportQuery::monthRows(const LineSource& source)
             fields.append(key.name());
     }
     return totals.rows(days, fields).toStdString();
+}
+
+/// Years of a database of an earlier build take some seconds, once.
+bool ReportQuery::beginMonth(QDate month) const
+{
+    if (m_showStep)
+        m_showStep(u"Adding up the sales of %1"_s.arg(QLocale().toString(month, u"MMMM yyyy"_s)));
+    return !m_keepGoing || m_keepGoing();
 }
 
 int ReportQuery::moneyDecimals()

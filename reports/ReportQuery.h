@@ -17,7 +17,7 @@ class ReportQuery
 public:
     /// @throws RuntimeFailure when the database cannot be opened, ReportError when it lacks a table or field
     /// that the report reads.
-    ReportQuery(const QString& dataFile, const ReportLayout& layout, const KeepGoing& keepGoing);
+    ReportQuery(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing);
 
     /// @param condition names only tables that the report reads. @param today ends the running month.
     void select(const Condition& condition, QDate today);
@@ -30,9 +30,11 @@ public:
 private:
     void checkTables() const;
     [[nodiscard]] std::string monthRows(const LineSource& source);
+    [[nodiscard]] bool beginMonth(QDate month) const;
 
     const ReportLayout& m_layout;
     const KeepGoing& m_keepGoing;
+    const std::function<void(const QString&)>& m_showStep;
     QString m_dataFile;
     store::Database m_database;
     Condition m_condition;

@@ -23,8 +23,7 @@ class Run
 {
 public:
     Run(const ReportRequest& request, const KeepGoing& keepGoing)
-        : m_request(request), m_layout(readLayout(request.reportFile)),
-          m_query(request.dataFile, m_layout, keepGoing)
+        : m_request(request), m_layout(readLayout(request.reportFile)), m_query(request, m_layout, keepGoing)
     {
     }
 

@@ -38,7 +38,8 @@ struct ReportRequest {
     QString windowTitle;      ///< of the preview; empty for the report's title
     QString selectionFormula; ///< empty for all rows
     QString customer;
-    QDateTime now; ///< the moment of the run: periods end on its day
+    QDateTime now;                                          ///< the moment of the run: periods end on its day
+    std::function<void(const QString& step)> showStep = {}; ///< told of work that the report waits for
 };
 
 /// Asked now and then while a long run works; it may handle events. @return false to give up.

@@ -4,6 +4,8 @@
 #include "ui/FormKit.h"
 
 #include <QCoreApplication>
+#include <QMainWindow>
+#include <QStatusBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,6 +24,31 @@ constexpr std::chrono::milliseconds betweenTurns{15};
 RunProgress::RunProgress(QWidget& window)
     : m_window(window), m_boxTime(Clock::now() + beforeBox), m_nextTurn(Clock::now() + betweenTurns)
 {
+}
+
+RunProgress::~RunProgress()
+{
+    if (QStatusBar* const bar = statusBar(); bar && !m_step.isEmpty())
+        bar->clearMessage();
+}
+
+void RunProgress::showStep(const QString& step)
+{
+    m_step = step;
+    if (QStatusBar* const bar = statusBar())
+        bar->showMessage(step);
+    if (m_box)
+        m_box->setLabelText(step);
+}
+
+/// Nothing where no main window stands above the form.
+QStatusBar* RunProgress::statusBar() const
+{
+    for (QWidget* widget = &m_window; widget != nullptr; widget = widget->parentWidget()) {
+        if (auto* const main = qobject_cast<QMainWindow*>(widget))
+            return main->statusBar();
+    }
+    return nullptr;
 }
 
 bool RunProgress::goOn()
@@ -43,7 +70,8 @@ void RunProgress::handleEvents(Clock::time_point now)
 void RunProgress::showBox()
 {
     // A range of nothing shows that work goes on and not how much is left, which no query tells.
-    m_box = std::make_unique<QProgressDialog>(u"The report is being made."_s, u"&Cancel"_s, 0, 0, &m_window);
+    const QString text = m_step.isEmpty() ? u"The report is being made."_s : m_step;
+    m_box = std::make_unique<QProgressDialog>(text, u"&Cancel"_s, 0, 0, &m_window);
     ui::nameControl(*m_box, u"RunProgress"_s);
     m_box->setWindowTitle(u"Report"_s);
     m_box->setWindowModality(Qt::ApplicationModal);

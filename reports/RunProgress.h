@@ -8,6 +8,8 @@
 #include <chrono>
 #include <memory>
 
+class QStatusBar;
+
 namespace norvane::reports
 {
 
@@ -19,9 +21,14 @@ class RunProgress
 public:
     /// @param window that the box stands above.
     explicit RunProgress(QWidget& window);
+    ~RunProgress();
+    RunProgress(const RunProgress&) = delete;
+    RunProgress& operator=(const RunProgress&) = delete;
 
     /// For the work to call now and then. @return false once the user cancelled.
     [[nodiscard]] bool goOn();
+    /// Names a step in the main window's status bar and in the box.
+    void showStep(const QString& step);
     [[nodiscard]] bool isCancelled() const { return m_isCancelled; }
 
 private:
@@ -29,7 +36,10 @@ private:
     void handleEvents(Clock::time_point now);
     void showBox();
 
+    [[nodiscard]] QStatusBar* statusBar() const;
+
     QWidget& m_window;
+    QString m_step;
     ui::WaitPointer m_pointer;
     Clock::time_point m_boxTime;
     Clock::time_point m_nextTurn;

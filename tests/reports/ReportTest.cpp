@@ -12,9 +12,11 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QMainWindow>
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QtTest>
 
 namespace norvane::test
@@ -54,7 +56,7 @@ void click(PreviewWindow& preview, const QString& button)
 class ReportTest : public testing::Test
 {
 protected:
-    QWidget m_main;
+    QMainWindow m_main;
     RecordingBoxes m_boxes;
     std::vector<ReportRequest> m_requests;
     Runner m_runner = [this](const ReportRequest& request, const KeepGoing&) {
@@ -143,10 +145,14 @@ TEST_F(ReportTest, TellsAnErrorOfTheEngineInItsBox)
 
 TEST_F(ReportTest, AnswersDuringALongRunAndGivesItUpOnCancel)
 {
-    Report report(m_main, m_boxes, [&](const ReportRequest& request, const KeepGoing& goesOn) -> ReportData {
+    QDialog form(&m_main);
+    Report report(form, m_boxes, [&](const ReportRequest& request, const KeepGoing& goesOn) -> ReportData {
+        request.showStep(u"Adding up"_s);
+        EXPECT_EQ(m_main.statusBar()->currentMessage(), u"Adding up"_s);
         while (goesOn()) {
             const auto* const box = m_main.findChild<QProgressDialog*>(u"RunProgress"_s);
             if (box && box->isVisible()) {
+                EXPECT_EQ(box->labelText(), u"Adding up"_s);
                 report.run();
                 QTest::mouseClick(box->findChild<QPushButton*>(), Qt::LeftButton);
             }
@@ -159,6 +165,7 @@ TEST_F(ReportTest, AnswersDuringALongRunAndGivesItUpOnCancel)
     EXPECT_EQ(m_requests.size(), 1) << "a second run does not begin within the first";
     EXPECT_EQ(m_boxes.shown.size(), 0);
     EXPECT_EQ(previews().size(), 0);
+    EXPECT_EQ(m_main.statusBar()->currentMessage(), QString());
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 

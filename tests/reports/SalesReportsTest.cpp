@@ -178,13 +178,21 @@ TEST_F(SalesReports, APeriodOfMonthsShowsWhatItsDaysAddUpTo)
          {2028, 3, 1},
          "1|Period 1|33|3.30|8.2\n2|Period 2|33|36.89|91.8\n# |Total|66|40.19|100.0"},
     };
+    QStringList steps;
     for (const auto& [formula, today, lines] : rows) {
         auto request = shop.request(ReportShop::installed("timesales.rpt"),
                                     u"{TIMESALES.SALESDATE} "_s + QString::fromUtf16(formula));
         request.now = QDateTime(today, QTime(20, 0));
+        request.showStep = [&steps](const QString& step) {
+            steps.append(step);
+        };
         const auto data = runReport(request);
         EXPECT_EQ(linesOf(data), lines) << today.toString().toStdString();
     }
+    EXPECT_EQ(steps, (QStringList{u"Adding up the sales of January 2028"_s,
+                                  u"Adding up the sales of February 2028"_s,
+                                  u"Adding up the sales of December 2027"_s}))
+        << "each month once";
 }
 
 } // namespace
