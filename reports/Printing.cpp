@@ -5,11 +5,23 @@
 #include "reports/ReportRun.h"
 
 #include <QPrinter>
+#include <QPrinterInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::reports
 {
+namespace
+{
+
+/// The system takes a job for a printer that has gone and says nothing of it.
+bool isThere(const QPrinter& printer)
+{
+    return printer.outputFormat() != QPrinter::NativeFormat ||
+           !QPrinterInfo::printerInfo(printer.printerName()).isNull();
+}
+
+} // namespace
 
 QString printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter)
 {
@@ -20,7 +32,7 @@ QString printReport(const ReportData& report, bool showsCharts, const PrinterFin
             "or save the report as a file."_s);
     }
     printer->setDocName(report.heading.title);
-    if (!paintReport(report, showsCharts, *printer))
+    if (!paintReport(report, showsCharts, *printer) || !isThere(*printer))
         throw ReportError(u"The printer %1 does not print. Is it still there?"_s.arg(printer->printerName()));
     return printer->printerName();
 }

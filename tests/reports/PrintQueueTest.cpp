@@ -53,6 +53,7 @@ public:
         outputOf(u"lpadmin"_s, {u"-p"_s, name, u"-v"_s, u"file:/dev/null"_s, u"-E"_s, u"-m"_s, u"raw"_s});
         outputOf(u"lpadmin"_s, {u"-d"_s, name});
     }
+    void removeQueue(const QString& name) const { outputOf(u"lpadmin"_s, {u"-x"_s, name}); }
     /// What the first job brought.
     [[nodiscard]] QString firstJob() const { return m_folder.path("spool/d00001-001"); }
 
@@ -76,6 +77,12 @@ TEST(PrintQueueTest, GetsTheReportOnTheDefaultPrinterOrTellsThatThereIsNone)
     EXPECT_EQ(reports::printReport(report, true, paper::defaultPrinter), u"Office"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(server.firstJob()); }));
     EXPECT_TRUE(pdfLines(server.firstJob()).contains(u"Total Drinks 3.375 7.04"_s));
+    const auto findAndLose = [&server] {
+        auto printer = paper::defaultPrinter();
+        server.removeQueue(u"Office"_s);
+        return printer;
+    };
+    EXPECT_THROW((void)reports::printReport(report, true, findAndLose), reports::ReportError);
 }
 
 } // namespace
