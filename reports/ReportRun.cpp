@@ -18,6 +18,13 @@ namespace
 
 /// Columns wider than this do not fit an upright sheet.
 constexpr double uprightMillimetres = 190;
+/// Of a formula in the heading, which leaves room for the lines.
+constexpr qsizetype longestShownFormula = 200;
+
+QString shortened(const QString& formula)
+{
+    return formula.size() <= longestShownFormula ? formula : formula.left(longestShownFormula) + u"..."_s;
+}
 
 class Run
 {
@@ -168,7 +175,7 @@ QString Run::subtitle() const
     if (m_period)
         parts.append(m_period->text());
     if (!m_isOnlyPeriod)
-        parts.append(u"selected by %1"_s.arg(m_request.selectionFormula));
+        parts.append(u"selected by %1"_s.arg(shortened(m_request.selectionFormula)));
     if (!m_otherTables.isEmpty())
         parts.append(u"the selection names another table (%1)"_s.arg(m_otherTables.join(u", "_s)));
     QString text = parts.join(u"; "_s);

@@ -125,6 +125,7 @@ TEST_F(Selection, OfAnySizeGivesAResultOrAMistake)
     for (int i = 0; i < 4000; ++i)
         many.append(u"{FINANCIALSALES.ID} = 2"_s);
     EXPECT_EQ(found(many.join(u" or "_s)), "2"); // some 100 KB
+    EXPECT_LT(runReport(request(many.join(u" or "_s))).heading.subtitle.size(), 250) << "no page has room";
     const QString deep = QString(10000, u'(') + u"{FINANCIALSALES.ID} = 2"_s + QString(10000, u')');
     EXPECT_NE(errorOf(request(deep)).find("nested"), std::string::npos);
     EXPECT_NE(errorOf(request(u"not "_s.repeated(10000) + u"{FINANCIALSALES.ID} = 2"_s)).find("nested"),
