@@ -5,6 +5,9 @@
 #include "platform/Numbers.h"
 #include "platform/ProfileFile.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 namespace norvane
 {
 
@@ -29,6 +32,12 @@ int messageWidth(const ApplicationValues& values)
     constexpr int narrow = 32;
     const double model = ecrModel(values);
     return model == 0 || model == 1 || model == 2 ? wide : narrow;
+}
+
+QString customerOf(const ApplicationValues& values, const QString& database)
+{
+    const QDir folder = QFileInfo(database).dir();
+    return folder == QDir(values.customerPath) ? values.customerName : folder.dirName();
 }
 
 } // namespace norvane

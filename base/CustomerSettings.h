@@ -1,4 +1,5 @@
-// The customer's setup.ini: which register model, how it is reached, how many registers there are.
+// The customer's setup.ini: which register model, how it is reached, how many registers there are. And whose
+// data a database holds.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -22,5 +23,9 @@ namespace norvane
 /// Characters of a message line: the printers of the models 0, 1 and 2 are wider than those of all others.
 /// @throws 13 as ecrModel() does.
 [[nodiscard]] int messageWidth(const ApplicationValues& values);
+
+/// The customer whose data stands in @p database: after a change of customer the database in use is still the
+/// former customer's. @return customerName, or the name of the database's folder where that is another one.
+[[nodiscard]] QString customerOf(const ApplicationValues& values, const QString& database);
 
 } // namespace norvane

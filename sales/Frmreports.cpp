@@ -1,6 +1,7 @@
 // The report dialog's controls and its buttons; see Frmreports.h.
 #include "sales/Frmreports.h"
 
+#include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
@@ -36,7 +37,7 @@ Frmreports::Frmreports(const ApplicationValues& values, Boxes& boxes, reports::R
       CSCal(new QCalendarWidget(this))
 {
     setObjectName(u"Frmreports"_s);
-    m_report.setCustomer(values.customerName);
+    m_report.setCustomer(customerOf(values, values.databasePath));
     layOut();
     loadForm();
 }

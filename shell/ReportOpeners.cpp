@@ -1,6 +1,7 @@
 // See ReportOpeners.h.
 #include "shell/ReportOpeners.h"
 
+#include "base/CustomerSettings.h"
 #include "reports/Report.h"
 #include "sales/Frmreports.h"
 
@@ -46,7 +47,7 @@ void ScreenReports::run(const screens::ReportRequest& request)
     report.setReportFile(request.reportFile);
     report.setWindowTitle(request.title);
     report.setDataFile(0, request.database);
-    report.setCustomer(m_values.customerName);
+    report.setCustomer(customerOf(m_values, request.database));
     report.run();
 }
 

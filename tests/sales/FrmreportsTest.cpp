@@ -27,6 +27,7 @@ protected:
     {
         m_values.appPath = u"app"_s;
         m_values.customerName = u"Cafe"_s;
+        m_values.customerPath = u"Cafe"_s;
         m_values.databasePath = u"Cafe/velmar.mdb"_s;
     }
 
@@ -114,6 +115,9 @@ TEST_F(FrmreportsTest, ADayIsPickedAndThePriceListKeepsTheMode)
                                    "date(%1)"_s.arg(day.toString(u"yyyy,M,d"_s)));
         }
     });
+    // A change of customer leaves the database; what is printed is still the former customer's.
+    m_values.customerName = u"New"_s;
+    m_values.customerPath = u"New"_s;
     const QString today = QDate::currentDate().toString(u"yyyy,M,d"_s);
     open("Pluprice_Click", [this, today] {
         EXPECT_TRUE(showsCalendar());
