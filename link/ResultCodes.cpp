@@ -1,6 +1,7 @@
 // The table of result codes.
 #include "link/ResultCodes.h"
 
+#include "platform/Excerpt.h"
 #include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
 
@@ -56,7 +57,7 @@ int resultNumber(const QString& statusText)
     if (statusText.trimmed().isEmpty())
         return 0;
     const auto explain = [&](const QString&) {
-        return u"status.out holds \"%1\", which is no result code."_s.arg(statusText.left(80));
+        return u"status.out holds \"%1\", which is no result code."_s.arg(excerpt(statusText));
     };
     return atPlace(explain, [&] { return toWholeNumber(statusText); });
 }

@@ -1,6 +1,7 @@
 // Rows of a grid; see GridModel.h.
 #include "screens/GridModel.h"
 
+#include "platform/Excerpt.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
 #include "screens/RegisterTexts.h"
@@ -161,10 +162,11 @@ store::Value GridModel::priceOf(int column, QString text) const
     const QString field = m_records->field(column).name;
     const int decimals = static_cast<int>(zerosOf(this->column(column).numberFormat).section(u'.', 1).size());
     if (!isPlainNumber(text, decimals))
-        throw RuntimeFailure(Failure::Conversion, u"\"%1\" is no number for \"%2\""_s.arg(text, field));
+        throw RuntimeFailure(Failure::Conversion,
+                             u"\"%1\" is no number for \"%2\""_s.arg(excerpt(text), field));
     const Decimal number = Decimal::leading(text.toStdString());
     if (isAboveLargest(number, field))
-        throw RuntimeFailure(Failure::Overflow, u"%1 is too large for \"%2\""_s.arg(text, field));
+        throw RuntimeFailure(Failure::Overflow, u"%1 is too large for \"%2\""_s.arg(excerpt(text), field));
     return store::Value::text(number.text());
 }
 
