@@ -86,14 +86,16 @@ void addLine(CsvWriter& csv, const ReportData& report, qsizetype line)
 
 } // namespace
 
-void writeCsv(const ReportData& report, const QString& path)
+void writeCsv(const ReportData& report, const QString& path, const KeepGoing& keepGoing)
 {
     CsvWriter csv;
     for (const ReportColumn& column : report.columns())
         csv.addValue(harmless(printable(column.heading)));
     csv.endLine();
-    for (qsizetype line = 0; line < report.lineCount(); ++line)
+    for (qsizetype line = 0; line < report.lineCount(); ++line) {
         addLine(csv, report, line);
+        needGoOn(keepGoing);
+    }
     replaceFile(path, csv.content());
 }
 

@@ -7,7 +7,8 @@
 namespace norvane::reports
 {
 
-bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device)
+bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device,
+                 const KeepGoing& keepGoing)
 {
     const PageText text;
     ReportPages pages(report, text, showsCharts);
@@ -15,8 +16,10 @@ bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& 
     const ReportPainter painter(report, pages, text);
     paper::PageDevice paper(device, QPageSize(QPageSize::A4),
                             report.page.isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-    for (int page = 0; page < pages.pageCount(); ++page)
+    for (int page = 0; page < pages.pageCount(); ++page) {
         painter.paint(paper.nextPage(), page);
+        needGoOn(keepGoing);
+    }
     return paper.finish();
 }
 

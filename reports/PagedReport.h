@@ -1,7 +1,7 @@
 // A whole report on paper.
 #pragma once
 
-#include "reports/ReportData.h"
+#include "reports/ReportRun.h"
 
 class QPagedPaintDevice;
 
@@ -9,6 +9,8 @@ namespace norvane::reports
 {
 
 /// Paints all pages on @p device, a printer or a PDF. @return false when the device failed.
-[[nodiscard]] bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device);
+/// @throws ReportCancelled between two pages; a printer prints those that were painted.
+[[nodiscard]] bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device,
+                               const KeepGoing& keepGoing);
 
 } // namespace norvane::reports

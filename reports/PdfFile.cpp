@@ -11,13 +11,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::reports
 {
 
-void writePdf(const ReportData& report, bool showsCharts, const QString& path)
+void writePdf(const ReportData& report, bool showsCharts, const QString& path, const KeepGoing& keepGoing)
 {
     QBuffer content;
     content.open(QIODevice::WriteOnly);
     QPdfWriter writer(&content);
     writer.setTitle(report.heading.title);
-    if (!paintReport(report, showsCharts, writer))
+    if (!paintReport(report, showsCharts, writer, keepGoing))
         failWriting(path, u"the pages could not be painted."_s);
     replaceFile(path, content.data());
 }

@@ -6,10 +6,9 @@
 #include "reports/FindBar.h"
 #include "reports/PageView.h"
 #include "reports/ReportFiles.h"
-#include "reports/ReportRun.h"
+#include "reports/RunProgress.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
-#include "ui/WaitPointer.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -69,12 +68,12 @@ const std::array<PreviewWindow::FileKind, 3>& PreviewWindow::FileKind::all()
     static constexpr std::array<FileKind, 3> kinds = {{
         {"SavePdf", "&PDF, as printed...", "PDF (*.pdf)", "pdf", writePdf},
         {"SaveXlsx", "&Spreadsheet (XLSX)...", "Spreadsheet (*.xlsx)", "xlsx",
-         [](const ReportData& report, bool, const QString& path) {
-             writeXlsx(report, path);
+         [](const ReportData& report, bool, const QString& path, const KeepGoing& keepGoing) {
+             writeXlsx(report, path, keepGoing);
          }},
         {"SaveCsv", "&Values (CSV)...", "Values (*.csv)", "csv",
-         [](const ReportData& report, bool, const QString& path) {
-             writeCsv(report, path);
+         [](const ReportData& report, bool, const QString& path, const KeepGoing& keepGoing) {
+             writeCsv(report, path, keepGoing);
          }},
     }};
     return kinds;
@@ -247,11 +246,13 @@ void PreviewWindow::showPageNumber()
 }
 
 /// The engine's own box for what could not be done; the window stays.
-void PreviewWindow::guarded(const std::function<void()>& act)
+void PreviewWindow::guarded(const std::function<void(const KeepGoing&)>& act, const QString& whenCancelled)
 {
     try {
-        const ui::WaitPointer pointer;
-        act();
+        RunProgress progress(*this, u"The report is being written."_s);
+        act([&progress] { return progress.goOn(); });
+    } catch (const ReportCancelled&) {
+        tell(whenCancelled);
     } catch (const ReportError& error) {
         m_boxes.message(error.text(), u"Report Error"_s, BoxIcon::Critical);
     }
@@ -264,10 +265,12 @@ void PreviewWindow::tell(const QString& text)
 
 void PreviewWindow::print()
 {
-    guarded([this] {
-        const QString printer = printReport(m_document.report(), m_document.showsCharts(), m_findPrinter);
+    const auto printAll = [this](const KeepGoing& keepGoing) {
+        const QString printer =
+            printReport(m_document.report(), m_document.showsCharts(), m_findPrinter, keepGoing);
         tell(u"Sent to the printer %1."_s.arg(printer));
-    });
+    };
+    guarded(printAll, u"Cancelled. The pages that were ready are printed."_s);
 }
 
 void PreviewWindow::save(const FileKind& kind)
@@ -278,10 +281,11 @@ void PreviewWindow::save(const FileKind& kind)
         {u"Save Report"_s, QDir(documents()).filePath(suggested), QLatin1String(kind.filter), suffix});
     if (path.isEmpty())
         return;
-    guarded([&] {
-        kind.write(m_document.report(), m_document.showsCharts(), path);
+    const auto write = [&](const KeepGoing& keepGoing) {
+        kind.write(m_document.report(), m_document.showsCharts(), path, keepGoing);
         tell(u"Saved as %1."_s.arg(QDir::toNativeSeparators(path)));
-    });
+    };
+    guarded(write, u"Cancelled. Nothing was saved."_s);
 }
 
 /// All lines where none are chosen.

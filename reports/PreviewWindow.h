@@ -37,7 +37,8 @@ public:
 
 private:
     using Handler = void (PreviewWindow::*)();
-    using FileWriter = void (*)(const ReportData& report, bool showsCharts, const QString& path);
+    using FileWriter = void (*)(const ReportData& report, bool showsCharts, const QString& path,
+                                const KeepGoing& keepGoing);
     struct FileKind;
 
     void buildControls();
@@ -63,7 +64,7 @@ private:
     void switchCharts(bool shows);
     void leave();
     void escape();
-    void guarded(const std::function<void()>& act);
+    void guarded(const std::function<void(const KeepGoing&)>& act, const QString& whenCancelled);
     void tell(const QString& text);
 
     ReportDocument m_document;

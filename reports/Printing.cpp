@@ -23,7 +23,8 @@ bool isThere(const QPrinter& printer)
 
 } // namespace
 
-QString printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter)
+QString printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter,
+                    const KeepGoing& keepGoing)
 {
     const std::unique_ptr<QPrinter> printer = findPrinter();
     if (!printer) {
@@ -32,7 +33,7 @@ QString printReport(const ReportData& report, bool showsCharts, const PrinterFin
             "or save the report as a file."_s);
     }
     printer->setDocName(report.heading.title);
-    if (!paintReport(report, showsCharts, *printer) || !isThere(*printer))
+    if (!paintReport(report, showsCharts, *printer, keepGoing) || !isThere(*printer))
         throw ReportError(u"The printer %1 does not print. Is it still there?"_s.arg(printer->printerName()));
     return printer->printerName();
 }

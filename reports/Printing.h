@@ -1,7 +1,7 @@
 // Reports on the printer.
 #pragma once
 
-#include "reports/ReportData.h"
+#include "reports/ReportRun.h"
 
 #include <functional>
 #include <memory>
@@ -16,7 +16,9 @@ using PrinterFinder = std::function<std::unique_ptr<QPrinter>()>;
 
 /// Prints all pages on the printer that @p findPrinter gives, without a question.
 /// @return its name.
-/// @throws ReportError when there is none or it fails.
-QString printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter);
+/// @throws ReportError when there is none or it fails, and ReportCancelled; pages painted by then are
+/// printed.
+QString printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter,
+                    const KeepGoing& keepGoing = {});
 
 } // namespace norvane::reports

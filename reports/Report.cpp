@@ -61,6 +61,8 @@ void Report::run()
     try {
         if (auto report = runnerResult())
             deliver(std::move(*report));
+    } catch (const ReportCancelled&) {
+        return;
     } catch (const ReportError& error) {
         tell(error.text());
     } catch (const RuntimeFailure& failure) {
@@ -71,7 +73,7 @@ void Report::run()
 /// Nothing when the user cancelled.
 std::optional<ReportData> Report::runnerResult()
 {
-    RunProgress progress(m_window);
+    RunProgress progress(m_window, u"The report is being made."_s);
     ReportRequest request = m_request;
     request.now = QDateTime::currentDateTime();
     request.showStep = [&progress](const QString& step) {
@@ -92,8 +94,8 @@ void Report::deliver(ReportData report)
         preview(std::move(report));
         return;
     }
-    const ui::WaitPointer pointer;
-    printReport(report, true, m_findPrinter);
+    RunProgress progress(m_window, u"The report is being printed."_s);
+    printReport(report, true, m_findPrinter, [&progress] { return progress.goOn(); });
 }
 
 void Report::preview(ReportData report)

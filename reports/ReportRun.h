@@ -45,6 +45,13 @@ struct ReportRequest {
 /// Asked now and then while a long run works; it may handle events. @return false to give up.
 using KeepGoing = std::function<bool()>;
 
+/// @throws ReportCancelled when @p keepGoing gives up.
+inline void needGoOn(const KeepGoing& keepGoing)
+{
+    if (keepGoing && !keepGoing())
+        throw ReportCancelled();
+}
+
 /// @return the report; one of no rows carries a notice that says so.
 /// @throws ReportError for a layout, formula, database or number that is not as it should be, and
 /// ReportCancelled when @p keepGoing gives up.

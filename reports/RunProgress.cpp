@@ -21,8 +21,9 @@ constexpr std::chrono::milliseconds betweenTurns{15};
 
 } // namespace
 
-RunProgress::RunProgress(QWidget& window)
-    : m_window(window), m_boxTime(Clock::now() + beforeBox), m_nextTurn(Clock::now() + betweenTurns)
+RunProgress::RunProgress(QWidget& window, QString work)
+    : m_window(window), m_work(std::move(work)), m_boxTime(Clock::now() + beforeBox),
+      m_nextTurn(Clock::now() + betweenTurns)
 {
 }
 
@@ -70,7 +71,7 @@ void RunProgress::handleEvents(Clock::time_point now)
 void RunProgress::showBox()
 {
     // A range of nothing shows that work goes on and not how much is left, which no query tells.
-    const QString text = m_step.isEmpty() ? u"The report is being made."_s : m_step;
+    const QString text = m_step.isEmpty() ? m_work : m_step;
     m_box = std::make_unique<QProgressDialog>(text, u"&Cancel"_s, 0, 0, &m_window);
     ui::nameControl(*m_box, u"RunProgress"_s);
     m_box->setWindowTitle(u"Report"_s);

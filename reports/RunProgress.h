@@ -19,8 +19,8 @@ namespace norvane::reports
 class RunProgress
 {
 public:
-    /// @param window that the box stands above.
-    explicit RunProgress(QWidget& window);
+    /// @param window that the box stands above. @param work what the box says is going on.
+    RunProgress(QWidget& window, QString work);
     ~RunProgress();
     RunProgress(const RunProgress&) = delete;
     RunProgress& operator=(const RunProgress&) = delete;
@@ -39,6 +39,7 @@ private:
     [[nodiscard]] QStatusBar* statusBar() const;
 
     QWidget& m_window;
+    QString m_work;
     QString m_step;
     ui::WaitPointer m_pointer;
     Clock::time_point m_boxTime;

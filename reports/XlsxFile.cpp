@@ -63,12 +63,15 @@ public:
             lxw_workbook_free(m_book);
     }
 
-    void fill()
+    /// @throws ReportCancelled
+    void fill(const KeepGoing& keepGoing)
     {
         setUpColumns();
         writeHeading();
-        for (qsizetype line = 0; line < m_report.lineCount(); ++line)
+        for (qsizetype line = 0; line < m_report.lineCount(); ++line) {
             writeLine(line);
+            needGoOn(keepGoing);
+        }
         if (m_report.lineCount() == 0)
             writeText(headingRow + 1, 0, m_report.heading.notice, boldText());
     }
@@ -192,14 +195,14 @@ private:
 };
 
 /// @return the file's content.
-QByteArray spreadsheet(const ReportData& report, const QString& path)
+QByteArray spreadsheet(const ReportData& report, const QString& path, const KeepGoing& keepGoing)
 {
     QTemporaryFile beside(path + u".XXXXXX"_s);
     if (!beside.open())
         failWriting(path, beside.errorString());
     const QByteArray name = QFile::encodeName(beside.fileName());
     Sheet sheet(report, name);
-    sheet.fill();
+    sheet.fill(keepGoing);
     const QString error = sheet.close();
     if (!error.isEmpty())
         failWriting(path, error);
@@ -213,9 +216,9 @@ QByteArray spreadsheet(const ReportData& report, const QString& path)
 
 } // namespace
 
-void writeXlsx(const ReportData& report, const QString& path)
+void writeXlsx(const ReportData& report, const QString& path, const KeepGoing& keepGoing)
 {
-    replaceFile(path, spreadsheet(report, path));
+    replaceFile(path, spreadsheet(report, path, keepGoing));
 }
 
 } // namespace norvane::reports

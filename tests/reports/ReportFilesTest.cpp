@@ -129,7 +129,7 @@ TEST_F(ReportFiles, SpellCsvAsTheUsersSpreadsheetReadsIt)
 
 struct Writer {
     const char* name;
-    void (*write)(const ReportData&, const QString&);
+    void (*write)(const ReportData&, const QString&, const KeepGoing&);
 };
 
 class EachFile : public testing::TestWithParam<Writer>
@@ -140,7 +140,7 @@ protected:
         ReportData report = emptySales();
         addGroup(report, u"Coffee"_s, 2000);
         try {
-            GetParam().write(report, path);
+            GetParam().write(report, path, {});
         } catch (const ReportError& error) {
             return error.text();
         }
@@ -161,10 +161,24 @@ TEST_P(EachFile, LeavesTheFormerOneWhenItCannotBeWritten)
     EXPECT_NE(errorOf(folder.path("missing/a")), QString());
 }
 
+TEST_P(EachFile, LeavesTheFormerOneWhenTheUserGivesUp)
+{
+    const TestFolder folder;
+    folder.write("a", "former");
+    ReportData report = emptySales();
+    addGroup(report, u"Coffee"_s, 200);
+    int asked = 0;
+    EXPECT_THROW(GetParam().write(report, folder.path("a"), [&asked] { return ++asked < 3; }),
+                 ReportCancelled);
+    EXPECT_EQ(folder.names(), QStringList(u"a"_s));
+    EXPECT_EQ(folder.read("a"), "former");
+}
+
 INSTANTIATE_TEST_SUITE_P(Each, EachFile,
                          testing::Values(Writer{"Pdf",
-                                                [](const ReportData& report, const QString& path) {
-                                                    writePdf(report, true, path);
+                                                [](const ReportData& report, const QString& path,
+                                                   const KeepGoing& keepGoing) {
+                                                    writePdf(report, true, path, keepGoing);
                                                 }},
                                          Writer{"Csv", writeCsv}, Writer{"Xlsx", writeXlsx}),
                          [](const auto& row) { return std::string(row.param.name); });
