@@ -52,7 +52,7 @@ bool isPlainNumber(const QString& text, int decimals)
 /// A number with more decimals than the format is shown whole: what is seen is what is stored.
 QString formatted(const store::Value& value, const QString& format)
 {
-    const QString text = value.toText();
+    QString text = value.toText();
     const QString zeros = zerosOf(format);
     const auto number = zeros.isEmpty() ? std::nullopt : Decimal::parse(text.toStdString());
     if (!number)
@@ -161,9 +161,10 @@ store::Value GridModel::priceOf(int column, QString text) const
     text.replace(u',', u'.');
     const QString field = m_records->field(column).name;
     const int decimals = static_cast<int>(zerosOf(this->column(column).numberFormat).section(u'.', 1).size());
-    if (!isPlainNumber(text, decimals))
+    if (!isPlainNumber(text, decimals)) {
         throw RuntimeFailure(Failure::Conversion,
                              u"\"%1\" is no number for \"%2\""_s.arg(excerpt(text), field));
+    }
     const Decimal number = Decimal::leading(text.toStdString());
     if (isAboveLargest(number, field))
         throw RuntimeFailure(Failure::Overflow, u"%1 is too large for \"%2\""_s.arg(excerpt(text), field));

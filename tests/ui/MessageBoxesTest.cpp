@@ -60,8 +60,7 @@ protected:
     [[nodiscard]] QString save(const QStringList& answers)
     {
         Answers user(answers);
-        const QString path =
-            MessageBoxes().fileToSave({u"Save"_s, m_folder.path(), u"Texts (*.txt)"_s, u"txt"_s});
+        QString path = MessageBoxes().fileToSave({u"Save"_s, m_folder.path(), u"Texts (*.txt)"_s, u"txt"_s});
         m_asked = user.asked;
         return path;
     }
