@@ -188,6 +188,7 @@ void Collection::addPlus(const Register& source, const Totals& totals)
 std::vector<RegisterFile> Collection::files() const
 {
     std::vector<RegisterFile> result;
+    result.reserve(std::size(shapes) + 1);
     for (const auto& shape : shapes)
         result.push_back(fileByPlace(shape.file, shape.numbers));
     result.push_back(fileOfPlus());

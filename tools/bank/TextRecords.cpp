@@ -107,7 +107,7 @@ QByteArray unpackColumn(const QByteArray& packed, const Column& column)
         return packed;
     if (column.form == Form::Zeros)
         return {column.width, '0'};
-    const QByteArray value = packed.toHex().right(column.width);
+    QByteArray value = packed.toHex().right(column.width);
     checkContent(value, column);
     return value;
 }
