@@ -33,6 +33,15 @@ TEST(BoundQuery, ValuesNeverBecomePartOfTheStatement)
     EXPECT_FALSE(query.next());
 }
 
+TEST(BoundQuery, OnlyReads)
+{
+    const StoreFolder folder;
+    Database database(folder.path());
+    for (const char* const sql : {"DELETE FROM Items", "SELECT nothing FROM Items", "DROP TABLE Items"})
+        EXPECT_EQ(failureOf([&] { BoundQuery(database, sql, {}, what); }), 3061) << sql;
+    EXPECT_TRUE(database.hasTable(u"Items"_s));
+}
+
 TEST(BoundQuery, ALongStatementIsGivenUpWhenItsCallerSaysSo)
 {
     const StoreFolder folder;

@@ -264,5 +264,20 @@ TEST_F(RecordsetTest, AChangedRecordStaysTheCurrentOne)
     EXPECT_EQ(m_records.recordCount(), 6);
 }
 
+TEST_F(RecordsetTest, ANewRecordHasItsDefaultsAndNeedsItsRequiredFields)
+{
+    const QString count = u"count1"_s;
+    m_records.addNew();
+    EXPECT_EQ(m_records.value(count), Value::number(0));
+    EXPECT_TRUE(m_records.value(group).isNull());
+    m_records.setValue(count, Value());
+    EXPECT_EQ(failureOf([&] { m_records.update(); }), 3314);
+    EXPECT_EQ(failureOf([&] { (void)m_records.value(u"nothing"_s); }), 3265);
+    m_records.setValue(count, text("1.5"));
+    m_records.update();
+    m_records.moveFirst();
+    EXPECT_EQ(m_records.value(count), Value::number(1.5));
+}
+
 } // namespace
 } // namespace norvane::store::test
