@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace norvane
 {
 
@@ -39,6 +41,12 @@ public:
     /// Asks @p text with Yes and No; closing the box counts as No. @return true for Yes.
     virtual bool ask(const QString& text, const QString& title, BoxIcon icon = BoxIcon::Question,
                      BoxAnswer preset = BoxAnswer::Yes) = 0;
+    /// Asks @p text with Yes, which is preset, and No, before something goes on that either answer allows. A
+    /// closed box gives neither, as do boxes that nobody sees: nothing goes on then.
+    virtual std::optional<bool> askBeforeGoingOn(const QString& /*text*/, const QString& /*title*/)
+    {
+        return std::nullopt;
+    }
     /// Asks @p text with two answers in words of their own, access letters included ("&Save", "S&how").
     /// Enter, closing the box, and boxes that nobody sees give the second, which does less harm.
     /// @return true for the first.

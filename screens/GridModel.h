@@ -1,10 +1,10 @@
 // Rows of a query as a grid shows and edits them.
 #pragma once
 
-#include "screens/RecordTexts.h"
 #include "screens/ScreenDefinition.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
+#include "store/RecordTexts.h"
 
 #include <QAbstractTableModel>
 
@@ -60,8 +60,8 @@ private:
     QVector<GridColumn> m_columns;
     std::optional<store::Recordset> m_records;
     int m_total = 0;
-    std::vector<Row> m_rows; ///< those read so far
-    RecordTexts m_texts;     ///< of all rows, once a row was sought
+    std::vector<Row> m_rows;    ///< those read so far
+    store::RecordTexts m_texts; ///< of all rows, once a row was sought
 };
 
 } // namespace norvane::screens

@@ -199,8 +199,8 @@ void OptionForm::buildList()
     if (!told.next && !told.previous)
         return;
     const ScreenTable table = m_file.table();
-    const RecordListSource source{table.table, table.firstIndex, m_editor->searchedField(1).name,
-                                  textField()};
+    const store::RecordListSource source{table.table, table.firstIndex, m_editor->searchedField(1).name,
+                                         textField()};
     m_list = new RecordList(m_database, source, this);
     m_size.rwidth() += m_list->handleWidth();
     connect(m_list, &RecordList::chosen, this, &OptionForm::goTo);
@@ -307,7 +307,7 @@ void OptionForm::saveRecord()
 void OptionForm::tellSaved()
 {
     const QString field = m_editor->searchedField(1).name;
-    const QString key = m_list ? shownKey(field, m_editor->key()) : QString();
+    const QString key = m_list ? store::shownKey(field, m_editor->key()) : QString();
     Q_EMIT told(recordSaved(windowTitle(), CSPict1->labelOf(field), key));
 }
 

@@ -2,14 +2,11 @@
 #include "screens/RecordList.h"
 
 #include "ui/Appearance.h"
+#include "ui/FilteredList.h"
 #include "ui/FormKit.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QToolButton>
@@ -24,8 +21,6 @@ namespace
 
 constexpr int handlePixels = 16;
 constexpr int panelPixels = 260;
-constexpr int rowHeight = 22;
-constexpr int cellPadding = 16;
 
 /// The record on the screen stands out also when another row is chosen.
 class MarkingDelegate : public QStyledItemDelegate
@@ -37,15 +32,16 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        option->font.setBold(index.data(RecordListModel::MarkedRole).toBool());
+        option->font.setBold(index.data(store::RecordListModel::MarkedRole).toBool());
     }
 };
 
 } // namespace
 
-RecordList::RecordList(const std::shared_ptr<store::Database>& database, const RecordListSource& source,
-                       QWidget* parent)
-    : QWidget(parent), m_model(new RecordListModel(database, source, this)), m_handle(new QToolButton(this))
+RecordList::RecordList(const std::shared_ptr<store::Database>& database,
+                       const store::RecordListSource& source, QWidget* parent)
+    : QWidget(parent), m_model(new store::RecordListModel(database, source, this)),
+      m_handle(new QToolButton(this))
 {
     ui::nameControl(*this, u"RecordList"_s);
     buildHandle();
@@ -88,31 +84,18 @@ void RecordList::buildPanel()
 
 void RecordList::buildFilter()
 {
-    m_filter = new QLineEdit(m_panel);
-    ui::nameControl(*m_filter, u"ListFilter"_s);
-    m_filter->setPlaceholderText(u"Part of number or text"_s);
-    m_filter->setClearButtonEnabled(true);
-    m_filter->installEventFilter(this);
+    m_filter = new ui::FilterBox(u"ListFilter"_s, m_panel);
+    // Other screens may have changed the table since it was read.
+    connect(m_filter, &ui::FilterBox::entered, this, &RecordList::reload);
     connect(m_filter, &QLineEdit::textChanged, this, &RecordList::setFilter);
     connect(m_filter, &QLineEdit::returnPressed, this, [this] { choose(m_table->currentIndex()); });
 }
 
 void RecordList::buildTable()
 {
-    m_table = new QTableView(m_panel);
-    ui::nameControl(*m_table, u"ListTable"_s);
-    m_table->setModel(m_model);
+    m_table = ui::makeListTable(u"ListTable"_s, m_model, m_panel);
     m_table->setItemDelegate(new MarkingDelegate(m_table));
-    m_table->setShowGrid(false);
-    m_table->setTabKeyNavigation(false);
-    m_table->setSelectionBehavior(QTableView::SelectRows);
-    m_table->setSelectionMode(QTableView::SingleSelection);
-    m_table->horizontalHeader()->hide();
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setMinimumSectionSize(rowHeight);
-    m_table->verticalHeader()->setDefaultSectionSize(rowHeight);
+    m_filter->setList(m_table);
     connect(m_table, &QTableView::clicked, this, &RecordList::choose);
     connect(m_table, &QTableView::activated, this, &RecordList::choose);
 }
@@ -202,10 +185,7 @@ void RecordList::tellCount()
 /// The last number is the longest, or nearly so.
 void RecordList::fitNumbers()
 {
-    QFont bold = font();
-    bold.setBold(true);
-    const int width = QFontMetrics(bold).horizontalAdvance(m_model->lastNumber());
-    m_table->setColumnWidth(0, width + cellPadding);
+    ui::fitFirstColumn(*m_table, m_model->lastNumber());
 }
 
 void RecordList::choose(const QModelIndex& index)
@@ -213,22 +193,6 @@ void RecordList::choose(const QModelIndex& index)
     if (!index.isValid() || index.row() == m_model->markedRow())
         return;
     Q_EMIT chosen(index.siblingAtColumn(0).data().toString());
-}
-
-/// Other screens may have changed the table since it was read. The arrows walk the rows while the keyboard is
-/// in the box.
-bool RecordList::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::FocusIn)
-        reload();
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_PageDown || key == Qt::Key_PageUp) {
-            QCoreApplication::sendEvent(m_table, event);
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace norvane::screens

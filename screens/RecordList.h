@@ -1,14 +1,18 @@
 // The side list of a screen, by which a record is found by any part of its number or text.
 #pragma once
 
-#include "screens/RecordListModel.h"
+#include "store/RecordListModel.h"
 
 #include <QWidget>
 
 class QLabel;
-class QLineEdit;
 class QTableView;
 class QToolButton;
+
+namespace norvane::ui
+{
+class FilterBox;
+}
 
 namespace norvane::screens
 {
@@ -20,7 +24,7 @@ class RecordList : public QWidget
     Q_OBJECT
 
 public:
-    RecordList(const std::shared_ptr<store::Database>& database, const RecordListSource& source,
+    RecordList(const std::shared_ptr<store::Database>& database, const store::RecordListSource& source,
                QWidget* parent);
 
     /// Opens the list with the keyboard in its box, or closes it.
@@ -31,8 +35,6 @@ public:
     void reload();
     /// Pixels that the handle takes.
     [[nodiscard]] int handleWidth() const;
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
     /// The user wants this record on the screen; never the one that it shows.
@@ -54,10 +56,10 @@ private:
     void fitNumbers();
     void choose(const QModelIndex& index);
 
-    RecordListModel* m_model;
+    store::RecordListModel* m_model;
     QToolButton* m_handle;
     QWidget* m_panel = nullptr; ///< with all that follows, none before the list is opened
-    QLineEdit* m_filter = nullptr;
+    ui::FilterBox* m_filter = nullptr;
     QTableView* m_table = nullptr;
     QLabel* m_count = nullptr;
 };

@@ -88,16 +88,6 @@ bool isAboveLargest(const Decimal& number, const QString& field)
     return isPrice && number.toDouble() > largestPrice;
 }
 
-QString shownKey(const QString& keyField, const QString& key)
-{
-    if (keyField.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) != 0)
-        return key;
-    qsizetype zeros = 0;
-    while (zeros + 1 < key.size() && key[zeros] == u'0')
-        ++zeros;
-    return key.sliced(zeros);
-}
-
 void fitToRegister(ControlDefinition& control, const QString& table, const ApplicationValues& values)
 {
     const auto isAbout = [&](const RuledField& row) {

@@ -13,9 +13,6 @@ namespace norvane::screens
 /// @throws RuntimeFailure 13 when this depends on a model that the settings do not give.
 void fitToRegister(ControlDefinition& control, const QString& table, const ApplicationValues& values);
 
-/// How users know the record whose key is @p key: a PLU number without the zeros that fill it.
-[[nodiscard]] QString shownKey(const QString& keyField, const QString& key);
-
 /// Whether @p number is above what registers take in @p field; fields that are no prices have no limit here.
 [[nodiscard]] bool isAboveLargest(const Decimal& number, const QString& field);
 

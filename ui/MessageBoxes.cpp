@@ -108,6 +108,18 @@ bool MessageBoxes::ask(const QString& text, const QString& title, BoxIcon icon, 
     return show(text, title, icon, QMessageBox::Yes | QMessageBox::No, presetButton) == QMessageBox::Yes;
 }
 
+/// The toolkit closes a box by Escape and by its close button only when one of its buttons stands for that. A
+/// third button that is never shown does.
+std::optional<bool> MessageBoxes::askBeforeGoingOn(const QString& text, const QString& title)
+{
+    PlainBox box(text, title, BoxIcon::Question);
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    box.setDefaultButton(QMessageBox::Yes);
+    box.button(QMessageBox::Cancel)->hide();
+    const int answer = box.exec();
+    return answer == QMessageBox::Cancel ? std::nullopt : std::optional(answer == QMessageBox::Yes);
+}
+
 bool MessageBoxes::choose(const QString& text, const QString& title, const QString& first,
                           const QString& second)
 {

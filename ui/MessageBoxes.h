@@ -13,6 +13,7 @@ class MessageBoxes : public Boxes
 public:
     void message(const QString& text, const QString& title, BoxIcon icon) override;
     bool ask(const QString& text, const QString& title, BoxIcon icon, BoxAnswer preset) override;
+    std::optional<bool> askBeforeGoingOn(const QString& text, const QString& title) override;
     bool choose(const QString& text, const QString& title, const QString& first,
                 const QString& second) override;
     QString input(const QString& prompt, const QString& title, const QString& initial) override;

@@ -38,6 +38,12 @@ public:
         record({text, title, icon, preset});
         return takeFront(answers);
     }
+    /// Closes the box when there is no answer.
+    std::optional<bool> askBeforeGoingOn(const QString& text, const QString& title) override
+    {
+        record({text, title, BoxIcon::Question, BoxAnswer::Yes});
+        return answers.empty() ? std::nullopt : std::optional(takeFront(answers));
+    }
     bool choose(const QString& text, const QString& title, const QString& first,
                 const QString& second) override
     {

@@ -108,5 +108,22 @@ TEST(MessageBoxes, OfTwoNamedAnswersEnterAndEscapeGiveTheSecond)
     }
 }
 
+TEST(MessageBoxes, AQuestionBeforeGoingOnCanBeClosedWithoutAnAnswer)
+{
+    const std::pair<std::pair<Qt::Key, Qt::KeyboardModifier>, std::optional<bool>> cases[] = {
+        {{Qt::Key_Return, Qt::NoModifier}, true},
+        {{Qt::Key_N, Qt::AltModifier}, false},
+        {{Qt::Key_Escape, Qt::NoModifier}, std::nullopt}};
+    for (const auto& [key, answer] : cases) {
+        QTimer::singleShot(0, [pressed = key] {
+            QWidget* const box = QApplication::activeModalWidget();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(box));
+            QTest::keyClick(box, pressed.first, pressed.second);
+        });
+        EXPECT_EQ(MessageBoxes().askBeforeGoingOn(u"Save Changes?"_s, u"Save Details."_s), answer)
+            << key.first;
+    }
+}
+
 } // namespace
 } // namespace norvane::ui

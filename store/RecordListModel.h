@@ -1,15 +1,15 @@
-// The records of a table as the side list of a screen shows them.
+// The records of a table as lists show them, to be found by any part of number or text.
 #pragma once
 
-#include "screens/RecordTexts.h"
 #include "store/Database.h"
+#include "store/RecordTexts.h"
 
 #include <QAbstractTableModel>
 
 #include <memory>
 #include <vector>
 
-namespace norvane::screens
+namespace norvane::store
 {
 
 /// Which records a list shows.
@@ -26,16 +26,15 @@ class RecordListModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    static constexpr int MarkedRole = Qt::UserRole; ///< whether the screen shows this record
+    static constexpr int MarkedRole = Qt::UserRole; ///< whether the form shows this record
 
-    RecordListModel(std::shared_ptr<store::Database> database, RecordListSource source,
-                    QObject* parent = nullptr);
+    RecordListModel(std::shared_ptr<Database> database, RecordListSource source, QObject* parent = nullptr);
 
     /// Reads the records as they stand in the file now; the filter stays.
     void reload();
     /// Shows only records with @p part in number or text.
     void setFilter(const QString& part);
-    /// Tells which record the screen shows; an empty text for none.
+    /// Tells which record the form shows; an empty text for none.
     void mark(const QString& number);
 
     [[nodiscard]] int recordCount() const { return m_texts.size(); }
@@ -52,7 +51,7 @@ private:
     [[nodiscard]] QString shownNumber(const QString& number) const;
     void readRecords();
 
-    std::shared_ptr<store::Database> m_database;
+    std::shared_ptr<Database> m_database;
     RecordListSource m_source;
     RecordTexts m_texts;
     QString m_filter;
@@ -61,4 +60,4 @@ private:
     int m_marked = -1; ///< record
 };
 
-} // namespace norvane::screens
+} // namespace norvane::store

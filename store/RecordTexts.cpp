@@ -1,10 +1,12 @@
 // See RecordTexts.h.
-#include "screens/RecordTexts.h"
+#include "store/RecordTexts.h"
 
 #include <algorithm>
 #include <numeric>
 
-namespace norvane::screens
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::store
 {
 namespace
 {
@@ -16,6 +18,16 @@ std::string lineOf(QString text)
 }
 
 } // namespace
+
+QString shownKey(const QString& keyField, const QString& key)
+{
+    if (keyField.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) != 0)
+        return key;
+    qsizetype zeros = 0;
+    while (zeros + 1 < key.size() && key[zeros] == u'0')
+        ++zeros;
+    return key.sliced(zeros);
+}
 
 void RecordTexts::clear()
 {
@@ -71,4 +83,4 @@ int RecordTexts::find(const QString& number) const
     return found == m_begins.cend() ? -1 : static_cast<int>(found - m_begins.cbegin());
 }
 
-} // namespace norvane::screens
+} // namespace norvane::store

@@ -1,18 +1,14 @@
 // See RecordListModel.h.
-#include "screens/RecordListModel.h"
+#include "store/RecordListModel.h"
 
-#include "screens/RegisterTexts.h"
 #include "store/Recordset.h"
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
-
-namespace norvane::screens
+namespace norvane::store
 {
 
-RecordListModel::RecordListModel(std::shared_ptr<store::Database> database, RecordListSource source,
-                                 QObject* parent)
+RecordListModel::RecordListModel(std::shared_ptr<Database> database, RecordListSource source, QObject* parent)
     : QAbstractTableModel(parent), m_database(std::move(database)), m_source(std::move(source))
 {
 }
@@ -25,7 +21,7 @@ QString RecordListModel::shownNumber(const QString& number) const
 void RecordListModel::readRecords()
 {
     m_texts.clear();
-    store::Recordset records = m_database->openTable(m_source.table);
+    Recordset records = m_database->openTable(m_source.table);
     records.setIndex(m_source.index);
     const int number = records.fieldOrdinal(m_source.numberField);
     const int text = m_source.textField.isEmpty() ? number : records.fieldOrdinal(m_source.textField);
@@ -100,4 +96,4 @@ QVariant RecordListModel::data(const QModelIndex& index, int role) const
     }
 }
 
-} // namespace norvane::screens
+} // namespace norvane::store

@@ -7,8 +7,11 @@
 #include <string>
 #include <vector>
 
-namespace norvane::screens
+namespace norvane::store
 {
+
+/// How users know the record whose key is @p key: a PLU number without the zeros that fill it.
+[[nodiscard]] QString shownKey(const QString& keyField, const QString& key);
 
 /// Keeps all texts in two long strings, one to show and one in small letters to search, so that 100,000
 /// records are searched in a few milliseconds and take a few megabytes. Records count from 0.
@@ -39,4 +42,4 @@ private:
     std::vector<Begin> m_begins;
 };
 
-} // namespace norvane::screens
+} // namespace norvane::store
