@@ -13,6 +13,7 @@ namespace norvane
 enum class Failure {
     InvalidArgument = 5,
     Overflow = 6,
+    SubscriptOutOfRange = 9,
     TypeMismatch = 13,
     FileNotFound = 53,
     InputPastEnd = 62,

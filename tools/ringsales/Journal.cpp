@@ -30,6 +30,7 @@ QByteArrayList itemColumns(const Item& item)
 {
     return {item.article->number,
             QByteArray::number(item.level + 1),
+            item.article->key ? item.article->key->text() : QByteArray(),
             QByteArray::number(item.article->offer),
             entryWords.at(static_cast<std::size_t>(item.entry)),
             numberText(item.quantity),
@@ -41,7 +42,7 @@ QByteArrayList itemColumns(const Item& item)
 
 QByteArray journalHead()
 {
-    return "register,ticket,clock,period,clerk,destination,tender,plu,level,offer,entry,quantity,amount,"
+    return "register,ticket,clock,period,clerk,destination,tender,plu,level,key,offer,entry,quantity,amount,"
            "discount\r\n";
 }
 

@@ -84,6 +84,14 @@ std::vector<Article> articlesOf(const Register& source)
     return articles;
 }
 
+void keepOnly(std::vector<Article>& articles, const Keyboard& keyboard, const KeyPlace& key)
+{
+    const auto wanted = keyboard.articlesOn(key);
+    std::erase_if(articles, [&](const Article& each) { return !wanted.contains(each.number); });
+    if (articles.empty())
+        throw std::runtime_error("key " + key.text().toStdString() + " rings no article that is sold");
+}
+
 std::vector<int> clerksOf(const Register& source)
 {
     std::vector<int> clerks;
@@ -120,9 +128,14 @@ int Programme::periodAt(int clock) const
     return found == periods.end() ? 0 : found->number;
 }
 
-Programme Programme::read(const Register& of)
+Programme Programme::read(const Register& of, const std::optional<KeyPlace>& only)
 {
     Programme programme{articlesOf(of), clerksOf(of), periodsOf(of)};
+    const Keyboard keyboard(of);
+    if (only)
+        keepOnly(programme.articles, keyboard, *only);
+    for (Article& article : programme.articles)
+        article.key = only ? only : keyboard.keyOf(article.number);
     if (programme.articles.empty() || programme.clerks.empty()) {
         throw std::runtime_error(
             u"register %1 has nothing to sell or nobody to sell it"_s.arg(of.number).toStdString());

@@ -1,7 +1,7 @@
 // What a register can sell, by whom and when: read from its own programme.
 #pragma once
 
-#include "tools/bank/Bank.h"
+#include "tools/ringsales/Keyboard.h"
 
 #include <QByteArray>
 
@@ -21,6 +21,7 @@ struct Article {
     bool promotion = false; ///< may be given away
     bool waste = false;     ///< may be written off
     bool discount = false;
+    std::optional<KeyPlace> key; ///< that rings it; nothing when it is rung by its number
 };
 
 /// Both ends as the register keeps them: the clock read as a number, 0859 is 859.
@@ -38,8 +39,9 @@ struct Programme {
     /// @return the number of the active period at @p clock, 0 when there is none
     [[nodiscard]] int periodAt(int clock) const;
 
+    /// @param only when given, customers want nothing but what lies on this key
     /// @throws ToolFailure, TextFault; std::runtime_error when there is nothing to sell or nobody to sell it
-    [[nodiscard]] static Programme read(const Register& of);
+    [[nodiscard]] static Programme read(const Register& of, const std::optional<KeyPlace>& only = {});
 };
 
 } // namespace bank

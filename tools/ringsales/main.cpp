@@ -1,5 +1,5 @@
 // ringsales: rings up a day's sales on registers of a bank.
-//   ringsales <folder> [--registers 1,3] [--tickets N] [--seed N] [--journal file]
+//   ringsales <folder> [--registers 1,3] [--tickets N] [--seed N] [--key L/K] [--journal file]
 // What is rung adds to what the registers have sold already.
 #include "tools/bank/Bank.h"
 #include "tools/bank/Files.h"
@@ -31,6 +31,7 @@ struct Wish {
     QStringList registers; ///< empty for all
     int tickets = 0;
     quint64 seed = 0;
+    std::optional<KeyPlace> key;
     QString journal;
 };
 
@@ -53,8 +54,19 @@ void declareOptions(QCommandLineParser& parser)
         {u"tickets"_s, u"Customers at each register."_s, u"N"_s, u"100"_s},
         {u"seed"_s, u"The same number rings the same day; today's date else."_s, u"N"_s,
          QDate::currentDate().toString(u"yyyyMMdd"_s)},
+        {u"key"_s, u"Sells only what lies on this key: level and key, such as 2/17."_s, u"L/K"_s},
         {u"journal"_s, u"File for a line of each item rung."_s, u"file"_s},
     });
+}
+
+std::optional<KeyPlace> keyOf(const QCommandLineParser& parser)
+{
+    if (!parser.isSet(u"key"_s))
+        return {};
+    const auto key = KeyPlace::of(parser.value(u"key"_s));
+    if (!key)
+        throw std::runtime_error("--key takes a level and a key, such as 2/17");
+    return key;
 }
 
 Wish readWish(const QCoreApplication& application)
@@ -66,7 +78,9 @@ Wish readWish(const QCoreApplication& application)
         throw std::runtime_error("one folder is needed, see --help");
     return {parser.positionalArguments().first(),
             parser.value(u"registers"_s).split(u',', Qt::SkipEmptyParts),
-            numberOf(parser, u"tickets"_s, mostTickets), numberOf(parser, u"seed"_s, ~quint64{0}),
+            numberOf(parser, u"tickets"_s, mostTickets),
+            numberOf(parser, u"seed"_s, ~quint64{0}),
+            keyOf(parser),
             parser.value(u"journal"_s)};
 }
 
@@ -90,7 +104,7 @@ QList<Register> chosenRegisters(const Wish& wish)
 /// @return the lines of the journal
 QByteArray ring(const Register& on, const Wish& wish)
 {
-    const auto programme = Programme::read(on);
+    const auto programme = Programme::read(on, wish.key);
     // A seed apart for each register, so that its day is the same whichever others are rung.
     const Dice dice(wish.seed * 100 + static_cast<quint64>(on.number));
     auto totals = Totals::read(openTotals(on));
