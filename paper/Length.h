@@ -29,9 +29,11 @@ public:
     friend constexpr Length operator+(Length a, Length b) { return Length(a.m_units + b.m_units); }
     friend constexpr Length operator-(Length a, Length b) { return Length(a.m_units - b.m_units); }
 
-    friend Length millimetres(double count);
-    friend Length twips(double count);
-    friend Length dots(double count, double dotsPerInch);
+    friend constexpr Length operator*(int times, Length length) { return Length(times * length.m_units); }
+
+    friend constexpr Length millimetres(double count);
+    friend constexpr Length twips(double count);
+    friend constexpr Length dots(double count, double dotsPerInch);
 
 private:
     static constexpr double unitsPerInch = 914'400;
@@ -39,9 +41,10 @@ private:
     static constexpr double twipsPerInch = 1'440;
 
     explicit constexpr Length(std::int64_t units) : m_units(units) {}
-    static Length made(double count, double countsPerInch)
+    static constexpr Length made(double count, double countsPerInch)
     {
-        return Length(std::llround(count * unitsPerInch / countsPerInch));
+        const double units = count * unitsPerInch / countsPerInch;
+        return Length(static_cast<std::int64_t>(units < 0 ? units - 0.5 : units + 0.5));
     }
     [[nodiscard]] constexpr double in(double unitsPerCount) const
     {
@@ -51,16 +54,16 @@ private:
     std::int64_t m_units = 0;
 };
 
-[[nodiscard]] inline Length millimetres(double count)
+[[nodiscard]] constexpr Length millimetres(double count)
 {
     return Length::made(count, Length::millimetresPerInch);
 }
-[[nodiscard]] inline Length twips(double count)
+[[nodiscard]] constexpr Length twips(double count)
 {
     return Length::made(count, Length::twipsPerInch);
 }
 /// Dots of a device that has @p dotsPerInch of them to the inch.
-[[nodiscard]] inline Length dots(double count, double dotsPerInch)
+[[nodiscard]] constexpr Length dots(double count, double dotsPerInch)
 {
     return Length::made(count, dotsPerInch);
 }

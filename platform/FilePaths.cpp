@@ -99,16 +99,22 @@ bool pathExists(const QString& path)
     return QFileInfo::exists(existingPath(path));
 }
 
+std::unique_ptr<QFile> openToRead(const QString& path)
+{
+    auto file = std::make_unique<QFile>(existingPath(path));
+    if (!file->exists())
+        throw RuntimeFailure(Failure::FileNotFound, QStringLiteral("File not found: %1").arg(path));
+    if (!file->open(QIODevice::ReadOnly))
+        failAccess(path, file->errorString());
+    return file;
+}
+
 QByteArray readWholeFile(const QString& path)
 {
-    QFile file(existingPath(path));
-    if (!file.exists())
-        throw RuntimeFailure(Failure::FileNotFound, QStringLiteral("File not found: %1").arg(path));
-    if (!file.open(QIODevice::ReadOnly))
-        failAccess(path, file.errorString());
-    QByteArray content = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        failAccess(path, file.errorString());
+    const auto file = openToRead(path);
+    QByteArray content = file->readAll();
+    if (file->error() != QFileDevice::NoError)
+        failAccess(path, file->errorString());
     return content;
 }
 

@@ -3,6 +3,10 @@
 
 #include <QString>
 
+#include <memory>
+
+class QFile;
+
 namespace norvane
 {
 
@@ -15,6 +19,10 @@ namespace norvane
 
 /// True when @p path names an existing file or folder without regard to case.
 [[nodiscard]] bool pathExists(const QString& path);
+
+/// A file, found without regard to case, to be read piece by piece.
+/// @throws RuntimeFailure 53 when there is none, 75 when it cannot be read.
+[[nodiscard]] std::unique_ptr<QFile> openToRead(const QString& path);
 
 /// The bytes of a file, found without regard to case.
 /// @throws RuntimeFailure 53 when there is none, 75 when it cannot be read.

@@ -1,0 +1,50 @@
+// Which cells make up a key, and where it stands.
+#pragma once
+
+#include "overlay/KeyboardGeometry.h"
+
+#include <vector>
+
+namespace norvane::overlay
+{
+
+/// A key on the sheet. Its cells follow each other, from its upper line down.
+struct KeyPlace {
+    KeyForm form = KeyForm::Plain;
+    int column = 0; ///< from the left, from 0
+    int row = 0;    ///< in its column, from 0
+    int firstCell = 0;
+    int cells = 0;
+    paper::Length x; ///< its upper left corner, from the corner of the printable area
+    paper::Length y;
+    paper::Length width;
+    paper::Length height;
+
+    [[nodiscard]] int lastCell() const { return firstCell + cells - 1; }
+};
+
+/// The keys of a keyboard in the order of their cells: down each column, columns from the left.
+class KeyLayout
+{
+public:
+    explicit KeyLayout(const KeyboardGeometry& geometry);
+
+    [[nodiscard]] const std::vector<KeyPlace>& keys() const { return m_keys; }
+    [[nodiscard]] int cellCount() const { return static_cast<int>(m_keyOfCell.size()); }
+    /// @param cell from 0 to cellCount() - 1.
+    [[nodiscard]] const KeyPlace& keyOf(int cell) const;
+    /// The upper line of a key, the cell of a single key included.
+    [[nodiscard]] bool isFirstCell(int cell) const { return keyOf(cell).firstCell == cell; }
+
+private:
+    void addColumn(const KeyboardGeometry& geometry, const ColumnGroup& group, KeyPlace next);
+    void addKey(const KeyboardGeometry& geometry, KeyPlace place);
+
+    std::vector<KeyPlace> m_keys;
+    std::vector<std::size_t> m_keyOfCell;
+};
+
+/// Made once for each keyboard.
+[[nodiscard]] const KeyLayout& layoutOf(Keyboard keyboard);
+
+} // namespace norvane::overlay
