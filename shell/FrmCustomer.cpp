@@ -1,7 +1,7 @@
 // Controls and messages of the customer dialog; see FrmCustomer.h. CustomerFolders has the rules.
 #include "shell/FrmCustomer.h"
 
-#include "shell/CustomerFolders.h"
+#include "customers/CustomerFolders.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
@@ -33,7 +33,7 @@ FrmCustomer::FrmCustomer(ApplicationValues& values, Boxes& boxes, QWidget* paren
     setWindowTitle(u"Select Customer"_s);
     layOut();
     connectList();
-    List1->addItems(customerFolders(m_values.appPath));
+    List1->addItems(customers::customerFolders(m_values.appPath));
     text1->setFocus();
 }
 
@@ -83,20 +83,21 @@ void FrmCustomer::copyChosenRow()
 
 void FrmCustomer::takeCustomer()
 {
-    switch (chooseCustomer(m_values, text1->text())) {
-    case CustomerChoice::InvalidEntry:
+    switch (customers::chooseCustomer(m_values, text1->text())) {
+    case customers::CustomerChoice::InvalidEntry:
         m_boxes.message(u"Invalid Entry"_s, {}, BoxIcon::Critical);
         return;
-    case CustomerChoice::Failed:
+    case customers::CustomerChoice::Failed:
         m_boxes.message(u"Error Creating Directory \rRe run software"_s, u"System Error"_s,
                         BoxIcon::Critical);
         return;
-    case CustomerChoice::Damaged:
-        m_boxes.message(damageReport(m_values.customerPath), u"Damaged Database"_s, BoxIcon::Critical);
+    case customers::CustomerChoice::Damaged:
+        m_boxes.message(customers::damageReport(m_values.customerPath), u"Damaged Database"_s,
+                        BoxIcon::Critical);
         return;
-    case CustomerChoice::Taken:
+    case customers::CustomerChoice::Taken:
         return accept();
-    case CustomerChoice::Created:
+    case customers::CustomerChoice::Created:
         return welcomeNewCustomer();
     }
 }

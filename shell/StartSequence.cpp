@@ -1,7 +1,7 @@
 // The steps of the start; see StartSequence.h.
 #include "shell/StartSequence.h"
 
-#include "shell/CustomerFolders.h"
+#include "customers/CustomerFolders.h"
 #include "shell/FrmCustomer.h"
 #include "shell/FrmMain.h"
 #include "shell/frmSplash.h"
@@ -71,7 +71,7 @@ bool StartSequence::chooseCustomer()
 
 void StartSequence::prepareDatabase()
 {
-    m_values.databasePath = customerDatabase(m_values.customerPath);
+    m_values.databasePath = customers::customerDatabase(m_values.customerPath);
     store::UpgradeUnitDescription(m_values.databasePath);
 }
 

@@ -2,13 +2,13 @@
 #include "scripts/demoshop/DemoShop.h"
 
 #include "base/SharedRoutines.h"
+#include "customers/CustomerFolders.h"
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangeRunner.h"
 #include "platform/FilePaths.h"
 #include "platform/FolderLock.h"
 #include "sales/PollImport.h"
 #include "scripts/demoshop/TillDays.h"
-#include "shell/CustomerFolders.h"
 #include "store/Database.h"
 
 #include <QDir>
@@ -150,9 +150,9 @@ ApplicationValues makeCustomer(const Wish& wish, const QString& folder)
     values.appPath = folder;
     for (const auto& file : {u"velmar.mdb"_s, u"setup.ini"_s})
         require(QFile::copy(joinPath(wish.program, file), joinPath(folder, file)), u"cannot copy "_s + file);
-    require(shell::chooseCustomer(values, shopName()) == shell::CustomerChoice::Created,
+    require(customers::chooseCustomer(values, shopName()) == customers::CustomerChoice::Created,
             u"cannot make the customer"_s);
-    values.databasePath = shell::customerDatabase(values.customerPath);
+    values.databasePath = customers::customerDatabase(values.customerPath);
     values.appPath = wish.program;
     return values;
 }

@@ -1,16 +1,16 @@
 // Customers as folders: what a typed name leads to, and where it never leads.
-#include "shell/CustomerFolders.h"
+#include "customers/CustomerFolders.h"
 
 #include "tests/shell/ShellFixture.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace norvane::shell
+namespace norvane::customers
 {
 namespace
 {
 
-class CustomerFoldersTest : public ShellFixture
+class CustomerFoldersTest : public shell::ShellFixture
 {
 protected:
     void expectCustomerIn(const QByteArray& folder) const
@@ -113,4 +113,4 @@ TEST_F(CustomerFoldersTest, ARefusedNameChangesNothingOnDisk)
 }
 
 } // namespace
-} // namespace norvane::shell
+} // namespace norvane::customers

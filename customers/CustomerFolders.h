@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-namespace norvane::shell
+namespace norvane::customers
 {
 
 /// All folders in @p appPath, in upper case and sorted by name, with or without a database in them.
@@ -33,4 +33,4 @@ enum class CustomerChoice {
 /// The database of the customer whose folder is @p customerPath.
 [[nodiscard]] QString customerDatabase(const QString& customerPath);
 
-} // namespace norvane::shell
+} // namespace norvane::customers

@@ -1,5 +1,5 @@
 // Listing, taking and making of customers; see CustomerFolders.h.
-#include "shell/CustomerFolders.h"
+#include "customers/CustomerFolders.h"
 
 #include "platform/FilePaths.h"
 #include "platform/TextFields.h"
@@ -14,7 +14,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace norvane::shell
+namespace norvane::customers
 {
 namespace
 {
@@ -167,4 +167,4 @@ CustomerChoice chooseCustomer(ApplicationValues& values, const QString& typed)
     return makeFolder(path) ? makeCustomer(values, path) : takeFolder(values, existingPath(path));
 }
 
-} // namespace norvane::shell
+} // namespace norvane::customers
