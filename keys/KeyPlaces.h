@@ -1,0 +1,30 @@
+// Where an item lies on the keyboards of a customer.
+#pragma once
+
+#include "keys/KeyGeometry.h"
+#include "store/Database.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace norvane::keys
+{
+
+/// A key by its level and its number in the level, both from 1.
+struct KeyPlace {
+    int level = 0;
+    int key = 0;
+    bool operator==(const KeyPlace&) const = default;
+};
+
+/// The keys that do what is sought, as the tables stand, in the order of the levels.
+/// @param link what field keylink holds: "0" a PLU key, "271" a look-up key, else a function key's id
+/// @param number what field nlu begins with; empty for all keys of this link
+[[nodiscard]] std::vector<KeyPlace> findKeys(store::Database& database, const KeyGeometry& keyboard,
+                                             const QString& link, const QString& number);
+
+/// "Level 1 key 117, Level 3 keys 117, 118"; empty for no keys.
+[[nodiscard]] QString placesText(const std::vector<KeyPlace>& places);
+
+} // namespace norvane::keys

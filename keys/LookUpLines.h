@@ -1,0 +1,39 @@
+// The lines of a window look-up: what a cashier chooses from after the key was pressed.
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace norvane::keys
+{
+
+/// Most lines that a register's look-up has room for.
+inline constexpr int mostLookUpLines = 50;
+
+/// What a line opens, as table wlu stores it.
+enum class LineType { Plu = 0, Condiment = 1, Function = 2 };
+
+/// A line as it is stored and as it is shown.
+struct LookUpLine {
+    LineType type = LineType::Plu;
+    QString code = QStringLiteral("0"); ///< PLU number or id of a function key; 0 on an empty line
+    QString word = QStringLiteral("PLU");
+    QString item = QStringLiteral("0"); ///< a carriage return parts a number from its description
+
+    [[nodiscard]] bool isEmpty() const;
+};
+
+using LookUpLines = std::vector<LookUpLine>;
+
+/// Closes the gaps, the others keep their order. A used line behind more than 20 empty ones moves up by 20
+/// places and stays behind the rest of the gap until it is packed again.
+void packLines(LookUpLines& lines);
+
+/// Takes the line at @p from out and puts it in at @p to, both from 0. @return false when either is no line.
+bool moveLine(LookUpLines& lines, int from, int to);
+
+/// Lines that are not empty.
+[[nodiscard]] int usedLines(const LookUpLines& lines);
+
+} // namespace norvane::keys

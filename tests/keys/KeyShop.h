@@ -1,0 +1,95 @@
+// A customer with an empty database, and short ways to fill and read its tables, for the tests of the key
+// editors.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "store/Catalogue.h"
+#include "store/Database.h"
+#include "store/Recordset.h"
+#include "tests/platform/TestFolder.h"
+
+#include <utility>
+#include <vector>
+
+namespace norvane::keys::test
+{
+
+using namespace Qt::Literals::StringLiterals;
+using norvane::test::failureOf;
+
+using FieldValue = std::pair<const char*, store::Value>;
+
+inline store::Value text(const char* value)
+{
+    return store::Value::text(std::string(value));
+}
+
+inline store::Value whole(int value)
+{
+    return store::Value::whole(value);
+}
+
+class KeyShop
+{
+public:
+    explicit KeyShop(const QByteArray& model = "0")
+    {
+        values.appPath = values.customerPath = folder.path();
+        values.databasePath = folder.path("velmar.mdb");
+        store::Database::create(values.databasePath, store::catalogue());
+        folder.write("setup.ini", "[SetupOption]\r\nECRModel=" + model + "\r\n");
+    }
+
+    [[nodiscard]] std::shared_ptr<store::Database> open() const
+    {
+        return std::make_shared<store::Database>(values.databasePath);
+    }
+
+    void add(const char* table, const std::vector<FieldValue>& fields) const
+    {
+        store::Database database(values.databasePath);
+        add(database, table, fields);
+    }
+
+    static void add(store::Database& database, const char* table, const std::vector<FieldValue>& fields)
+    {
+        auto records = database.openTable(QLatin1String(table));
+        records.addNew();
+        for (const auto& [name, value] : fields)
+            records.setValue(QLatin1String(name), value);
+        records.update();
+    }
+
+    /// Five levels of @p keys keys: key 3 of level 2 does "2003" by its @c keylink and has that number.
+    void addKeyboard(int keys, int levels = 5) const
+    {
+        const auto database = open();
+        const store::Transaction all(*database);
+        for (int row = 0; row < keys * levels; ++row) {
+            const QByteArray key = QByteArray::number((row / keys + 1) * 1000 + row % keys + 1);
+            add(*database, "KEYLINK", {{"ID", whole(row + 1)}, {"KEYLINK", text(key)}});
+            add(*database, "NLU", {{"ID", whole(row + 1)}, {"NLU", text(key.rightJustified(18, '0'))}});
+        }
+    }
+
+    /// The field in the records of a table, in the order of its first index, parted by "|"; null as "null".
+    [[nodiscard]] std::string column(const char* table, const char* field) const
+    {
+        const auto database = open();
+        auto records = database->openTable(QLatin1String(table));
+        std::string shown;
+        for (qint64 left = records.recordCount(); left > 0; --left, records.moveNext()) {
+            const auto& value = records.value(QLatin1String(field));
+            shown += (shown.empty() ? "" : "|") + (value.isNull() ? "null" : value.toUtf8());
+        }
+        return shown;
+    }
+
+    /// Runs an update or delete, as another program at the same file would.
+    void execute(const char* sql) const { open()->execute(QLatin1String(sql)); }
+
+    norvane::test::TestFolder folder;
+    ApplicationValues values;
+};
+
+} // namespace norvane::keys::test
