@@ -1,0 +1,226 @@
+// See CellEdit.h.
+#include "overlay/CellEdit.h"
+
+#include "ui/Appearance.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <array>
+#include <memory>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::overlay
+{
+namespace
+{
+
+constexpr double millimetresPerPoint = 25.4 / 72;
+constexpr QColor cutMark{0xd0, 0x20, 0x20};
+constexpr int markSize = 6;
+
+bool isUndoOrRedo(const QKeyEvent& event)
+{
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
+void paintCutMark(QPainter& painter, const QRect& cell)
+{
+    const QPoint corner = cell.topRight() + QPoint(1, 0);
+    const std::array mark{corner, corner - QPoint(markSize, 0), corner + QPoint(0, markSize)};
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(cutMark);
+    painter.drawPolygon(mark.data(), static_cast<int>(mark.size()));
+}
+
+} // namespace
+
+CellEdit::CellEdit(QWidget* parent) : TextBox(parent)
+{
+    setFrame(false);
+    setTextMargins(0, 0, 0, 0);
+    setAlignment(Qt::AlignHCenter);
+    setToolTip(u"Double Click changes text & background colours"_s);
+    setMaxLength(cellTextLimit);
+}
+
+void CellEdit::showContents(const Cell& contents, const PrintedText& printed)
+{
+    m_contents = contents;
+    m_printed = printed;
+    if (text() != contents.text)
+        setText(contents.text);
+    takeLook();
+}
+
+void CellEdit::setPixelsPerMillimetre(double pixels)
+{
+    m_pixelsPerMillimetre = pixels;
+    takeLook();
+}
+
+/// Fonts and palettes of hundreds of boxes cost time, and only the box in use needs its own.
+void CellEdit::takeLook()
+{
+    update();
+    if (!hasFocus())
+        return;
+    setFont(shownFont());
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, drawnBackground(m_contents.background));
+    colours.setColor(QPalette::Text, drawnText(m_contents.textColour));
+    setPalette(colours);
+}
+
+/// A size that prints nothing is shown like the default, or the text could not be mended.
+QFont CellEdit::shownFont() const
+{
+    const float points = m_contents.font.size > 0 ? m_contents.font.size : CellFont().size;
+    QFont shown(m_contents.font.name);
+    shown.setBold(m_contents.font.isBold);
+    shown.setItalic(m_contents.font.isItalic);
+    shown.setPixelSize(qMax(1, qRound(points * millimetresPerPoint * m_pixelsPerMillimetre)));
+    return shown;
+}
+
+void CellEdit::paintEvent(QPaintEvent* event)
+{
+    if (hasFocus())
+        TextBox::paintEvent(event);
+    QPainter painter(this);
+    if (!hasFocus())
+        paintPrinted(painter);
+    if (m_printed.isCut)
+        paintCutMark(painter, rect());
+    if (hasFocus()) {
+        painter.setPen(QPen(ui::colours::accent, 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+}
+
+void CellEdit::paintPrinted(QPainter& painter) const
+{
+    painter.fillRect(rect(), drawnBackground(m_contents.background));
+    if (m_printed.text.isEmpty())
+        return;
+    painter.setFont(shownFont());
+    painter.setPen(drawnText(m_contents.textColour));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, m_printed.text);
+}
+
+/// The box has a history of its own, which would know nothing of colours and fonts.
+bool CellEdit::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && isUndoOrRedo(*static_cast<QKeyEvent*>(event))) {
+        event->ignore();
+        return false;
+    }
+    return TextBox::event(event);
+}
+
+void CellEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (isUndoOrRedo(*event)) {
+        event->ignore();
+    } else if (!walk(*event)) {
+        TextBox::keyPressEvent(event);
+    }
+}
+
+/// A text that is selected whole has just been entered; arrows lead on from it.
+bool CellEdit::leadsOut(int key) const
+{
+    if (!text().isEmpty() && selectedText() == text())
+        return true;
+    return !hasSelectedText() && cursorPosition() == (key == Qt::Key_Left ? 0 : text().size());
+}
+
+bool CellEdit::walk(const QKeyEvent& event)
+{
+    static constexpr std::array<std::pair<Qt::Key, Direction>, 4> ways = {{
+        {Qt::Key_Left, Direction::Left},
+        {Qt::Key_Right, Direction::Right},
+        {Qt::Key_Up, Direction::Up},
+        {Qt::Key_Down, Direction::Down},
+    }};
+    const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
+        if (modifiers == Qt::ShiftModifier) {
+            Q_EMIT previousWanted();
+        } else {
+            Q_EMIT nextWanted();
+        }
+        return true;
+    }
+    for (const auto& [key, direction] : ways) {
+        const bool isSideways = key == Qt::Key_Left || key == Qt::Key_Right;
+        if (event.key() != key || modifiers != Qt::NoModifier || (isSideways && !leadsOut(key)))
+            continue;
+        Q_EMIT wayChosen(direction);
+        return true;
+    }
+    return false;
+}
+
+void CellEdit::focusInEvent(QFocusEvent* event)
+{
+    TextBox::focusInEvent(event);
+    takeLook();
+    Q_EMIT entered();
+}
+
+void CellEdit::focusOutEvent(QFocusEvent* event)
+{
+    TextBox::focusOutEvent(event);
+    update();
+    Q_EMIT left();
+}
+
+void CellEdit::mousePressEvent(QMouseEvent* event)
+{
+    m_pressedAt = event->pos();
+    TextBox::mousePressEvent(event);
+}
+
+/// A drag selects text and is no click.
+void CellEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    TextBox::mouseReleaseEvent(event);
+    const bool isSecond = std::exchange(m_isDoubleClick, false);
+    const bool isDrag = (event->pos() - m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
+    if (event->button() == Qt::LeftButton && !isSecond && !isDrag)
+        Q_EMIT clicked();
+}
+
+/// The box itself would select a word, and the new colours could not be seen.
+void CellEdit::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_isDoubleClick = true;
+    deselect();
+    Q_EMIT doubleClicked();
+}
+
+/// The box's own menu without its history; the actions of the form for whole keys follow.
+void CellEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    for (QAction* const action : menu->actions()) {
+        if (action->objectName() == "edit-undo"_L1 || action->objectName() == "edit-redo"_L1)
+            menu->removeAction(action);
+    }
+    menu->addSeparator();
+    menu->addActions(actions());
+    menu->exec(event->globalPos());
+}
+
+} // namespace norvane::overlay

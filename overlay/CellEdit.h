@@ -1,0 +1,64 @@
+// One cell of an overlay on the screen.
+#pragma once
+
+#include "overlay/CellOrder.h"
+#include "overlay/Document.h"
+#include "ui/TextBox.h"
+
+namespace norvane::overlay
+{
+
+/// What of a cell's text will be on paper.
+struct PrintedText {
+    QString text;
+    bool isCut = false;
+};
+
+/// Shows the part of its text that will print, in the cell's colours and font, and the whole text while it is
+/// typed in. A corner is marked when the text will be cut. Undo and redo are the form's.
+class CellEdit : public ui::TextBox
+{
+    Q_OBJECT
+
+public:
+    explicit CellEdit(QWidget* parent);
+
+    void showContents(const Cell& contents, const PrintedText& printed);
+    /// Size of the keyboard on the screen.
+    void setPixelsPerMillimetre(double pixels);
+
+Q_SIGNALS:
+    void clicked();
+    void doubleClicked();
+    void entered(); ///< got the focus
+    void left();
+    void wayChosen(Direction direction);
+    void nextWanted();
+    void previousWanted();
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    [[nodiscard]] QFont shownFont() const;
+    [[nodiscard]] bool leadsOut(int key) const;
+    bool walk(const QKeyEvent& event);
+    void takeLook();
+    void paintPrinted(QPainter& painter) const;
+
+    Cell m_contents;
+    PrintedText m_printed;
+    double m_pixelsPerMillimetre = 1;
+    QPoint m_pressedAt;
+    bool m_isDoubleClick = false;
+};
+
+} // namespace norvane::overlay

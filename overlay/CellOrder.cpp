@@ -1,0 +1,89 @@
+// See CellOrder.h.
+#include "overlay/CellOrder.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <tuple>
+
+namespace norvane::overlay
+{
+namespace
+{
+
+/// The middle of a cell, in millimetres.
+struct Middle {
+    double x = 0;
+    double y = 0;
+};
+
+Middle middleOf(const KeyLayout& layout, int cell)
+{
+    const KeyPlace& key = layout.keyOf(cell);
+    const double lineHeight = key.height.inMillimetres() / key.cells;
+    return {key.x.inMillimetres() + key.width.inMillimetres() / 2,
+            key.y.inMillimetres() + (cell - key.firstCell + 0.5) * lineHeight};
+}
+
+/// How far @p to lies from @p from along a direction, and how far beside its line.
+struct Way {
+    double ahead = 0;
+    double aside = 0;
+};
+
+Way wayTo(Middle from, Middle to, Direction direction)
+{
+    const double right = to.x - from.x;
+    const double down = to.y - from.y;
+    switch (direction) {
+    case Direction::Left:
+        return {-right, std::abs(down)};
+    case Direction::Right:
+        return {right, std::abs(down)};
+    case Direction::Up:
+        return {-down, std::abs(right)};
+    case Direction::Down:
+        break;
+    }
+    return {down, std::abs(right)};
+}
+
+/// Cells in line with the first one come before those beside it, however near.
+double detour(const Way& way)
+{
+    constexpr double asideCosts = 3;
+    return way.ahead + asideCosts * way.aside;
+}
+
+/// Cells less than this ahead, in millimetres, stand side by side.
+constexpr double sideBySide = 1;
+
+} // namespace
+
+std::vector<int> readingOrder(const KeyLayout& layout)
+{
+    std::vector<int> cells(static_cast<std::size_t>(layout.cellCount()));
+    std::iota(cells.begin(), cells.end(), 0);
+    std::ranges::sort(cells, {}, [&layout](int cell) {
+        const KeyPlace& key = layout.keyOf(cell);
+        return std::tuple(key.row, key.column, cell);
+    });
+    return cells;
+}
+
+int neighbour(const KeyLayout& layout, int cell, Direction direction)
+{
+    const Middle from = middleOf(layout, cell);
+    int nearest = cell;
+    double least = 0;
+    for (int other = 0; other < layout.cellCount(); ++other) {
+        const Way way = wayTo(from, middleOf(layout, other), direction);
+        if (way.ahead < sideBySide || (nearest != cell && detour(way) >= least))
+            continue;
+        nearest = other;
+        least = detour(way);
+    }
+    return nearest;
+}
+
+} // namespace norvane::overlay

@@ -1,0 +1,84 @@
+// An open overlay document and what its user can do to it and take back.
+#pragma once
+
+#include "overlay/Document.h"
+
+#include <QObject>
+#include <QUndoStack>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace norvane::overlay
+{
+
+/// What the user gives to cells.
+struct CurrentStyle {
+    /// By a double click.
+    Colour background = white;
+    Colour textColour = black;
+    /// By a click: the last choice in the font dialog; nothing until there was one.
+    std::optional<CellFont> font;
+};
+
+/// Every change is a step of the history, whose clean state says whether the document is as it was last read,
+/// written or made. Typing in one cell is one step until endTyping().
+class DocumentEditor : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DocumentEditor(Keyboard keyboard, QObject* parent = nullptr);
+
+    [[nodiscard]] const Document& document() const { return m_document; }
+    [[nodiscard]] QUndoStack& history() { return m_history; }
+
+    [[nodiscard]] CurrentStyle& style() { return m_style; }
+
+    /// The file that the document is called by, empty for none. New and failed reads set it too.
+    [[nodiscard]] const QString& fileName() const { return m_fileName; }
+    /// Whether saving as @p path would replace a file other than the one read or written last.
+    [[nodiscard]] bool replacesOther(const QString& path) const;
+    /// Begins a new document that is called @p path. No file is touched.
+    void newFile(const QString& path);
+    /// @throws RuntimeFailure as readDocument() does. What was read by then is a step of the history.
+    void openFile(const QString& path);
+    /// @throws RuntimeFailure as writeDocument() does.
+    void saveFile(const QString& path);
+
+    void setText(int cell, const QString& text);
+    void endTyping() { ++m_typing; }
+    void click(int cell);
+    /// On the first cell of a key of three white cells, all three take the current colours; otherwise the
+    /// cell alone does. A click that came just before is taken back: it was the first half of this one.
+    void doubleClick(int cell);
+    /// @throws RuntimeFailure as importdata() does. What was imported, by then too, is one step.
+    void importLevel(int level, const QString& databasePath);
+    [[nodiscard]] std::vector<Cell> copyKey(int cell) const;
+    /// Gives the key of @p cell as many of @p cells as it has.
+    void pasteKey(int cell, const std::vector<Cell>& cells);
+
+Q_SIGNALS:
+    void cellChanged(int cell);
+    void fileNameChanged();
+
+private:
+    class Step;
+    void put(int cell, const Cell& contents);
+    void edit(const QString& name, const std::function<void(Document&)>& work, int typing = 0);
+    void pushChanges(const QString& name, const Document& before, int typing);
+    void restart(const QString& fileName, const QString& fileInHand);
+    void giveColours(Document& document, int cell) const;
+    [[nodiscard]] bool isWhiteKey(int cell) const;
+
+    Document m_document;
+    QUndoStack m_history;
+    CurrentStyle m_style;
+    QString m_fileName;
+    QString m_fileInHand; ///< read or written last
+    int m_typing = 1;
+    int m_clicked = -1; ///< the cell of the click that made the last step, -1 when it was none
+};
+
+} // namespace norvane::overlay

@@ -1,0 +1,170 @@
+// What clicks, typing and files do to a document, what of it can be taken back, and where the arrows lead.
+#include "overlay/DocumentEditor.h"
+
+#include "overlay/CellOrder.h"
+#include "tests/platform/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace norvane::overlay
+{
+namespace
+{
+
+using namespace Qt::Literals::StringLiterals;
+
+constexpr Colour blue{16711680};
+constexpr Colour yellow{65535};
+
+class DocumentEditorTest : public testing::Test
+{
+protected:
+    DocumentEditorTest()
+    {
+        m_editor.style().background = blue;
+        m_editor.style().textColour = yellow;
+    }
+    /// The cells that are blue.
+    [[nodiscard]] std::vector<int> blueCells() const
+    {
+        std::vector<int> cells;
+        for (int cell = 0; cell < m_editor.document().cellCount(); ++cell) {
+            const Cell& each = m_editor.document().cell(cell);
+            EXPECT_EQ(each.background == blue, each.textColour == yellow) << cell;
+            if (each.background == blue)
+                cells.push_back(cell);
+        }
+        return cells;
+    }
+    [[nodiscard]] std::string textOf(int cell) const
+    {
+        return m_editor.document().cell(cell).text.toStdString();
+    }
+
+    DocumentEditor m_editor{Keyboard::Dorvik};
+};
+
+TEST_F(DocumentEditorTest, ADoubleClickColoursAWhiteKeyOrOneCell)
+{
+    const std::pair<int, std::vector<int>> rows[] = {
+        {3, {3, 4, 5}},         {4, {4}},     {381, {381}},           {382, {382, 383, 384}},
+        {404, {404, 405, 406}}, {400, {400}}, {453, {453, 454, 455}},
+    };
+    for (const auto& [clicked, coloured] : rows) {
+        m_editor.doubleClick(clicked);
+        EXPECT_EQ(blueCells(), coloured) << clicked;
+        EXPECT_EQ(m_editor.history().count(), 1);
+        m_editor.history().undo();
+        EXPECT_EQ(blueCells(), std::vector<int>());
+    }
+    m_editor.doubleClick(4);
+    m_editor.doubleClick(3);
+    EXPECT_EQ(blueCells(), (std::vector{3, 4})) << "the key is no longer all white";
+}
+
+TEST_F(DocumentEditorTest, AClickGivesTheChosenFontAndADoubleClickTakesThatBack)
+{
+    m_editor.click(3);
+    EXPECT_TRUE(m_editor.history().isClean()) << "no font was chosen yet";
+    m_editor.style().font = CellFont{u"Courier"_s, 10, false, true};
+    m_editor.click(3);
+    EXPECT_EQ(m_editor.document().cell(3).font, m_editor.style().font);
+    m_editor.doubleClick(3);
+    EXPECT_EQ(m_editor.document().cell(3).font, CellFont());
+    EXPECT_EQ(blueCells(), (std::vector{3, 4, 5}));
+    EXPECT_EQ(m_editor.history().count(), 1);
+    m_editor.click(6);
+    m_editor.doubleClick(7);
+    EXPECT_EQ(m_editor.document().cell(6).font, m_editor.style().font) << "a click on another cell stays";
+}
+
+TEST_F(DocumentEditorTest, TypingInACellIsOneStepAndKeysAreCopiedWhole)
+{
+    for (const char* typed : {"T", "TE", "TEA"})
+        m_editor.setText(3, QString::fromLatin1(typed));
+    m_editor.endTyping();
+    m_editor.setText(3, u"TEAS"_s);
+    EXPECT_EQ(m_editor.history().count(), 2);
+    m_editor.history().undo();
+    EXPECT_EQ(textOf(3), "TEA");
+    m_editor.setText(3, u"TEAX"_s);
+    m_editor.setText(3, u"TEA"_s);
+    EXPECT_EQ(m_editor.history().count(), 1) << "what was typed and deleted again leaves no step";
+    m_editor.doubleClick(5);
+    m_editor.pasteKey(32, m_editor.copyKey(4));
+    EXPECT_EQ(textOf(30), "TEA");
+    m_editor.pasteKey(379, m_editor.copyKey(3));
+    EXPECT_EQ(textOf(379), "TEA");
+    EXPECT_EQ(textOf(380), " 1") << "a key of one cell takes one";
+    EXPECT_EQ(blueCells(), (std::vector{5, 32}));
+    m_editor.history().undo();
+    m_editor.history().undo();
+    EXPECT_EQ(textOf(30) + textOf(379), " JOURNAL 4");
+}
+
+TEST_F(DocumentEditorTest, KnowsWhichFileItMayReplace)
+{
+    const test::TestFolder folder;
+    const QString ours = folder.path("a.Dorvik");
+    const QString other = folder.path("b.Dorvik");
+    folder.write("b.Dorvik", "BROKEN\r\n255\r\n");
+    EXPECT_TRUE(m_editor.replacesOther(other));
+    m_editor.setText(3, u"TEA"_s);
+    EXPECT_FALSE(m_editor.replacesOther(ours)) << "no such file";
+    m_editor.saveFile(ours);
+    EXPECT_TRUE(m_editor.history().isClean());
+    EXPECT_FALSE(m_editor.replacesOther(folder.path("A.dorvik"))) << "just written";
+
+    EXPECT_EQ(test::failureOf([&] { m_editor.openFile(other); }), 62);
+    EXPECT_EQ(m_editor.fileName(), other);
+    EXPECT_EQ(textOf(0), "BROKEN");
+    EXPECT_TRUE(m_editor.replacesOther(other) && m_editor.replacesOther(ours));
+    EXPECT_FALSE(m_editor.history().isClean());
+    m_editor.history().undo();
+    EXPECT_EQ(textOf(0) + textOf(3), " RECEIPTTEA");
+
+    m_editor.openFile(ours);
+    EXPECT_FALSE(m_editor.replacesOther(ours));
+    m_editor.newFile(other);
+    EXPECT_EQ(m_editor.document(), Document(Keyboard::Dorvik));
+    EXPECT_EQ(m_editor.fileName(), other);
+    EXPECT_TRUE(m_editor.replacesOther(other)) << "new, but a file of this name is there";
+    EXPECT_EQ(folder.read("b.Dorvik"), "BROKEN\r\n255\r\n");
+    EXPECT_TRUE(m_editor.history().isClean() && m_editor.history().count() == 0);
+}
+
+struct Step {
+    Keyboard keyboard;
+    int from;
+    int left, right, up, down;
+};
+
+TEST(CellOrderTest, ArrowsLeadToTheNearestCellAndReadingGoesKeyByKey)
+{
+    // clang-format off
+    const Step steps[] = {
+        {Keyboard::Dorvik,   4,    4,  34,   3,   5},  // line 2 of the first key
+        {Keyboard::Dorvik,   3,    3,  33,   2,   4},  // line 1 of the second
+        {Keyboard::Dorvik,  379, 352, 401, 378, 380},  // the 4 of the numeric keys
+        {Keyboard::Dorvik,  348, 318, 378, 347, 349},  // beside the 7
+        {Keyboard::Velmar,  482, 443, 482, 481, 482},  // the last cell
+        {Keyboard::Quelmont, 0,    0,  18,   0,   1},
+        {Keyboard::Quelmont, 72,  54,  90,  72,  73},  // above the first wide keys
+    };
+    // clang-format on
+    for (const Step& step : steps) {
+        const auto to = [&](Direction direction) {
+            return neighbour(layoutOf(step.keyboard), step.from, direction);
+        };
+        EXPECT_EQ(to(Direction::Left), step.left) << step.from;
+        EXPECT_EQ(to(Direction::Right), step.right) << step.from;
+        EXPECT_EQ(to(Direction::Up), step.up) << step.from;
+        EXPECT_EQ(to(Direction::Down), step.down) << step.from;
+    }
+    const auto order = readingOrder(layoutOf(Keyboard::Dorvik));
+    EXPECT_EQ(std::vector(order.begin(), order.begin() + 7), (std::vector{0, 1, 2, 30, 31, 32, 60}));
+    EXPECT_EQ(std::vector(order.end() - 6, order.end()), (std::vector{381, 403, 425, 453, 454, 455}));
+}
+
+} // namespace
+} // namespace norvane::overlay

@@ -1,0 +1,137 @@
+// What the keys of an overlay say after the import of a level, from the rows of a real database.
+#include "overlay/LevelImport.h"
+
+#include "overlay/DocumentEditor.h"
+#include "store/Catalogue.h"
+#include "tests/store/StoreFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace norvane::overlay
+{
+namespace
+{
+
+using namespace Qt::Literals::StringLiterals;
+using store::Value;
+using store::test::add;
+using store::test::text;
+
+/// Row n of KEYLINK leads to the function "F" and n, whatever the keyboard.
+class LevelImportTest : public testing::Test
+{
+protected:
+    LevelImportTest()
+    {
+        store::Database database(m_folder.path());
+        const store::Transaction transaction(database);
+        auto links = database.openTable(u"KEYLINK"_s);
+        auto lookUps = database.openTable(u"NLU"_s);
+        auto functions = database.openTable(u"FUNCTIONKEY"_s);
+        for (int row = 1; row <= 845; ++row) {
+            const QString function = QString::number(row + 1000);
+            add(links, {{"ID", Value::whole(row)}, {"KEYLINK", Value::text(function)}});
+            add(lookUps, {{"ID", Value::whole(row)}, {"NLU", text("000000000000000000")}});
+            add(functions,
+                {{"id", Value::whole(row + 1000)}, {"DESCRIPTION", Value::text(u"F%1"_s.arg(row))}});
+        }
+    }
+
+    void execute(const char* sql) const { store::Database(m_folder.path()).execute(QString::fromUtf8(sql)); }
+    /// The lines of the key with the first cell @p cell.
+    static std::string key(const Document& document, int cell)
+    {
+        return (document.cell(cell).text + u'|' + document.cell(cell + 1).text + u'|' +
+                document.cell(cell + 2).text)
+            .toStdString();
+    }
+
+    store::test::StoreFolder m_folder{store::catalogue()};
+};
+
+struct Place {
+    Keyboard keyboard;
+    int firstCell;
+    int row; ///< of the tables, on level 1
+};
+
+TEST_F(LevelImportTest, WalksColumnsFromTheLeftAndUpwardOnEveryLevel)
+{
+    // clang-format off
+    const Place places[] = {
+        {Keyboard::Dorvik, 27, 1},    {Keyboard::Dorvik, 3, 9},     {Keyboard::Dorvik, 57, 10},
+        {Keyboard::Dorvik, 33, 18},   {Keyboard::Dorvik, 87, 19},   {Keyboard::Dorvik, 60, 28},
+        {Keyboard::Dorvik, 375, 123}, {Keyboard::Dorvik, 360, 128}, {Keyboard::Dorvik, 397, 133},
+        {Keyboard::Dorvik, 453, 149}, {Keyboard::Dorvik, 426, 158}, {Keyboard::Velmar, 36, 1},
+        {Keyboard::Velmar, 0, 13},    {Keyboard::Velmar, 75, 14},   {Keyboard::Velmar, 375, 122},
+        {Keyboard::Velmar, 437, 148}, {Keyboard::Velmar, 480, 157}, {Keyboard::Velmar, 444, 169},
+    };
+    // clang-format on
+    for (const Keyboard keyboard : {Keyboard::Dorvik, Keyboard::Velmar}) {
+        const Document fresh(keyboard);
+        for (int level = 1; level <= 5; ++level) {
+            Document document(keyboard);
+            importdata(document, level, m_folder.path());
+            const int below = (level - 1) * (keyboard == Keyboard::Dorvik ? 158 : 169);
+            for (const Place& place : places) {
+                if (place.keyboard == keyboard) {
+                    EXPECT_EQ(key(document, place.firstCell), "|F" + std::to_string(place.row + below) + "|")
+                        << level << ' ' << place.firstCell;
+                }
+            }
+            for (const PresetText& preset : document.geometry().presets)
+                EXPECT_EQ(document.cell(preset.cell), fresh.cell(preset.cell)) << preset.cell;
+        }
+    }
+}
+
+TEST_F(LevelImportTest, LooksUpWhatAKeyDoes)
+{
+    const std::pair<const char*, const char*> rows[] = {
+        {"update KEYLINK set KEYLINK='0' where ID<3", "|plu|"},
+        {"update NLU set NLU='000000000000001001' where ID=1", "HAMBURG|ER |CHEESE"},
+        {"update KEYLINK set KEYLINK='271' where ID in (3,4)", "|wlu|"},
+        {"update NLU set NLU='000300000000000004' where ID=4", "|SIDES|"},
+        {"update KEYLINK set KEYLINK='' where ID=5", "functio|n|"},
+        {"update KEYLINK set KEYLINK='00' where ID=6", "functio|n|"},
+    };
+    execute("insert into PLUDATA (PLUNUMBER, DESCRIPTION) values ('000000000000001001', 'HAMBURGER' || "
+            "char(13) || 'CHEESE')");
+    execute("insert into WLU (WLUno, DESCRIPTION) values (3, 'SIDES')");
+    for (const auto& [sql, expected] : rows)
+        execute(sql);
+    Document document(Keyboard::Velmar);
+    document.cell(36).background = Colour{255};
+    document.cell(37).font.name = u"Courier"_s;
+    importdata(document, 1, m_folder.path());
+    const int fromBottom[] = {33, 36, 30, 27, 24, 21};
+    for (std::size_t row = 0; row < std::size(rows); ++row)
+        EXPECT_EQ(key(document, fromBottom[row]), rows[row].second) << row;
+    EXPECT_EQ(document.cell(36).background, Colour{255}) << "only texts change";
+    EXPECT_EQ(document.cell(37).font.name, u"Courier"_s);
+}
+
+TEST_F(LevelImportTest, FailsWhenRowsRunOutAndCanBeTakenBack)
+{
+    execute("delete * from KEYLINK where ID > 320");
+    for (const int level : {3, 4}) {
+        DocumentEditor editor(Keyboard::Dorvik);
+        try {
+            editor.importLevel(level, m_folder.path());
+            ADD_FAILURE() << "level " << level;
+        } catch (const RuntimeFailure& failure) {
+            EXPECT_EQ(failure.failure(), Failure::NoCurrentRecord);
+            EXPECT_TRUE(failure.text().contains(u"has only 320. Upload \"Key Link\""_s)) << level;
+        }
+        EXPECT_EQ(key(editor.document(), 27), level == 3 ? "|F317|" : "||") << "what was read stays";
+        EXPECT_EQ(editor.history().count(), level == 3 ? 1 : 0);
+        editor.history().undo();
+        EXPECT_EQ(editor.document(), Document(Keyboard::Dorvik));
+    }
+    execute("update KEYLINK set KEYLINK='ABCD' where ID=1");
+    DocumentEditor editor(Keyboard::Velmar);
+    EXPECT_EQ(test::failureOf([&] { editor.importLevel(1, m_folder.path()); }), 3421);
+}
+
+} // namespace
+} // namespace norvane::overlay
