@@ -55,6 +55,9 @@ public:
     {
         return false;
     }
+    /// Asks @p text with OK, which Enter gives, and Cancel, which closing the box and boxes that nobody sees
+    /// give. @return true for OK.
+    virtual bool confirm(const QString& /*text*/, const QString& /*title*/) { return false; }
     /// Asks for a line of text. @return empty text for Cancel, as for an emptied box.
     virtual QString input(const QString& prompt, const QString& title, const QString& initial = {}) = 0;
     /// Asks for a file that exists. @return its path, empty for Cancel.

@@ -6,25 +6,55 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QShortcutEvent>
+
+#include <algorithm>
 
 namespace norvane::shell
 {
 namespace
 {
 
-/// The control that @p letter of @p widget is for: a button itself, or the box beside its label.
+QAction* entryOf(const QMenuBar& menu, const QKeySequence& letter)
+{
+    const auto entries = menu.actions();
+    const auto found = std::ranges::find_if(entries, [&letter](const QAction* entry) {
+        return entry->isEnabled() && QKeySequence::mnemonic(entry->text()) == letter;
+    });
+    return found == entries.end() ? nullptr : *found;
+}
+
+/// The control that @p letter of @p widget is for: a button itself, the box beside its label, or a menu bar.
 QWidget* targetOf(QWidget& widget, const QKeySequence& letter)
 {
+    if (const auto* const menu = qobject_cast<QMenuBar*>(&widget))
+        return entryOf(*menu, letter) ? &widget : nullptr;
     if (const auto* const button = qobject_cast<QAbstractButton*>(&widget))
         return button->shortcut() == letter ? &widget : nullptr;
     const auto* const label = qobject_cast<QLabel*>(&widget);
     return label && QKeySequence::mnemonic(label->text()) == letter ? label->buddy() : nullptr;
 }
 
-/// One control is pressed; of several, each press of the letter leads to the next.
-void press(const QList<QWidget*>& targets)
+/// Opens the menu of the entry, or does what the entry is for.
+void choose(QMenuBar& menu, QAction& entry)
 {
+    if (entry.menu()) {
+        menu.setActiveAction(&entry);
+    } else {
+        entry.trigger();
+    }
+}
+
+/// One control is pressed; of several, each press of the letter leads to the next. A menu comes first.
+void press(const QList<QWidget*>& targets, const QKeySequence& letter)
+{
+    for (QWidget* const target : targets) {
+        if (auto* const menu = qobject_cast<QMenuBar*>(target)) {
+            choose(*menu, *entryOf(*menu, letter));
+            return;
+        }
+    }
     auto* const button = qobject_cast<QAbstractButton*>(targets.first());
     if (targets.size() == 1 && button) {
         button->animateClick();
@@ -49,7 +79,7 @@ bool AccessLetters::eventFilter(QObject* /*watched*/, QEvent* event)
     const auto targets = shortcut.isAmbiguous() ? targetsOf(shortcut.key()) : QList<QWidget*>();
     if (targets.isEmpty())
         return false;
-    press(targets);
+    press(targets, shortcut.key());
     return true;
 }
 

@@ -198,7 +198,7 @@ void FrmMain::place(QMdiSubWindow& child)
     child.move(child.x(), qMin(child.y(), lowest));
 }
 
-void FrmMain::showShared(const QString& name, const std::function<QWidget*()>& make)
+void FrmMain::showShared(const QString& name, const std::function<QWidget*()>& make, FormSize size)
 {
     const auto open = m_area->subWindowList();
     const auto found = std::ranges::find_if(open, [&name](const QMdiSubWindow* child) {
@@ -208,8 +208,9 @@ void FrmMain::showShared(const QString& name, const std::function<QWidget*()>& m
         m_area->setActiveSubWindow(*found);
         return;
     }
-    QMdiSubWindow& child = showChild(make(), sharedFormFlags);
-    child.setFixedSize(child.size());
+    QMdiSubWindow& child = showChild(make(), size == FormSize::Fixed ? sharedFormFlags : Qt::WindowFlags());
+    if (size == FormSize::Fixed)
+        child.setFixedSize(child.size());
 }
 
 void FrmMain::showCustomer()

@@ -48,8 +48,10 @@ public:
     /// Shows @p form in the middle of this window. The returned child window has @p flags and owns the form;
     /// when the form closes, both are gone.
     QMdiSubWindow& showChild(QWidget* form, Qt::WindowFlags flags = {});
-    /// Shows the form @p name, of which only one is open at a time; makes it when none is. Its size is fixed.
-    void showShared(const QString& name, const std::function<QWidget*()>& make);
+    enum class FormSize { Fixed, Free };
+    /// Shows the form @p name, of which only one is open at a time; makes it when none is.
+    void showShared(const QString& name, const std::function<QWidget*()>& make,
+                    FormSize size = FormSize::Fixed);
     /// Closes the window and its child windows without asking.
     void unload();
 

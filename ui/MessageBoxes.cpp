@@ -132,6 +132,11 @@ bool MessageBoxes::choose(const QString& text, const QString& title, const QStri
     return box.clickedButton() == chosen;
 }
 
+bool MessageBoxes::confirm(const QString& text, const QString& title)
+{
+    return show(text, title, BoxIcon::Question, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
 QString MessageBoxes::input(const QString& prompt, const QString& title, const QString& initial)
 {
     const ArrowPointer arrow;

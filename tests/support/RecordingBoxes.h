@@ -51,6 +51,11 @@ public:
                 BoxIcon::Exclamation});
         return takeFront(answers);
     }
+    bool confirm(const QString& text, const QString& title) override
+    {
+        record({text + QLatin1String(" [OK|Cancel]"), title, BoxIcon::Question});
+        return takeFront(answers);
+    }
     QString input(const QString& prompt, const QString& title, const QString& /*initial*/) override
     {
         record({prompt, title, BoxIcon::None});
