@@ -1,0 +1,60 @@
+// One level of a keyboard, from its tables to its tables.
+#pragma once
+
+#include "keys/KeyGeometry.h"
+#include "keys/KeyItems.h"
+
+#include <memory>
+#include <vector>
+
+namespace norvane::store
+{
+class Database;
+}
+
+namespace norvane::keys
+{
+
+/// Holds what every cell of the shown level does and says. Nothing is stored before save().
+class KeyLevel
+{
+public:
+    KeyLevel(const KeyGeometry& geometry, std::shared_ptr<store::Database> database);
+
+    [[nodiscard]] const KeyGeometry& geometry() const { return m_geometry; }
+    /// From 1; 0 before the first read().
+    [[nodiscard]] int level() const { return m_level; }
+    [[nodiscard]] KeyItems& items() { return m_items; }
+
+    /// Reads @p level afresh; what was not saved is lost.
+    /// @throws RuntimeFailure 3021 when a table has fewer rows than the level needs, 3421 for a code that is
+    /// no number; the level shown before stays then.
+    void read(int level);
+    /// Stores every key of the level in one transaction, unchanged ones too: a function key's row of NLU gets
+    /// its key number whatever it held before, and so does the row of a look-up behind its four digits.
+    /// @throws RuntimeFailure 3021, 13, 3260 ... Both tables are as before then.
+    void save();
+    /// Whether a save would store another PLU, function or look-up for any key.
+    [[nodiscard]] bool differs() const;
+
+    [[nodiscard]] const Key& key(KeyCell cell) const { return m_keys[indexOf(cell)]; }
+    void setKey(KeyCell cell, const Key& key) { m_keys[indexOf(cell)] = key; }
+
+private:
+    [[nodiscard]] std::size_t indexOf(KeyCell cell) const
+    {
+        return static_cast<std::size_t>(cell.row * m_geometry.columns + cell.column);
+    }
+    [[nodiscard]] std::vector<Key> readKeys(int level);
+    void saveFunctions();
+    void saveLookUps();
+
+    const KeyGeometry& m_geometry;
+    std::shared_ptr<store::Database> m_database;
+    KeyItems m_items;
+    int m_level = 0;
+    std::vector<Key> m_keys;   ///< row by row
+    std::vector<Key> m_stored; ///< as the tables have them
+};
+
+} // namespace norvane::keys

@@ -1,0 +1,77 @@
+// See KeyRows.h.
+#include "keys/KeyRows.h"
+
+#include "platform/FailurePlace.h"
+#include "store/Database.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::keys
+{
+namespace
+{
+
+constexpr KeyTable keyLink{"KEYLINK"_L1, "KEYLINK"_L1, "Key Link"_L1};
+constexpr KeyTable nlu{"NLU"_L1, "NLU"_L1, "PLU & WLU Relocation"_L1};
+
+} // namespace
+
+const KeyTable& keyLinkTable()
+{
+    return keyLink;
+}
+
+const KeyTable& nluTable()
+{
+    return nlu;
+}
+
+KeyRows::KeyRows(store::Database& database, const KeyTable& table, int rowsAhead)
+    : m_table(table), m_rows(database.openTable(table.table)), m_field(m_rows.fieldOrdinal(table.field))
+{
+    m_rows.setIndex(u"primarykey"_s);
+    for (int row = 0; row < rowsAhead; ++row)
+        next();
+}
+
+void KeyRows::next()
+{
+    const auto explain = [this](const QString& failure) {
+        return explained(failure);
+    };
+    atPlace(explain, [this] { m_rows.moveNext(); });
+    ++m_row;
+}
+
+QString KeyRows::text() const
+{
+    const auto explain = [this](const QString& failure) {
+        return explained(failure);
+    };
+    return atPlace(explain, [this] { return m_rows.value(m_field).toText(); });
+}
+
+/// An upload would not help when the file is locked or full.
+void KeyRows::store(const QString& text)
+{
+    if (this->text() == text)
+        return;
+    atPlace([this](const QString& failure) { return placed(failure); },
+            [&] {
+                m_rows.edit();
+                m_rows.setValue(m_field, store::Value::text(text));
+                m_rows.update();
+            });
+}
+
+QString KeyRows::placed(const QString& failure) const
+{
+    return u"Table %1, row %2: %3"_s.arg(m_table.table).arg(m_row).arg(failure);
+}
+
+QString KeyRows::explained(const QString& failure) const
+{
+    return placed(failure) + u" Upload %1 from the ECR first."_s.arg(m_table.upload);
+}
+
+} // namespace norvane::keys
