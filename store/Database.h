@@ -59,6 +59,7 @@ public:
     class Private;
 
 private:
+    friend void restoreTables(Database& database, const QString& copy);
     friend class MonthTotals;
     friend class BoundQuery;
     friend class Recordset;

@@ -1,0 +1,105 @@
+// The log file; see CustomerLog.h.
+#include "customers/CustomerLog.h"
+
+#include "platform/FilePaths.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::customers
+{
+namespace
+{
+
+constexpr qint64 mostBytes = 1024 * 1024;
+const auto timeFormat = u"yyyy-MM-dd HH:mm:ss"_s;
+constexpr double millisecondsPerSecond = 1000;
+enum Column { begunColumn, workColumn, registersColumn, resultColumn, secondsColumn };
+
+QString logPath(const QString& customerPath)
+{
+    return joinPath(customerPath, u"norvane.log"_s);
+}
+
+/// A result may carry the text of a box; a line stays a line.
+QString oneLine(const QString& text)
+{
+    return text.simplified();
+}
+
+QByteArray lineText(const LogLine& line)
+{
+    const double seconds = static_cast<double>(line.milliseconds) / millisecondsPerSecond;
+    const QStringList parts{line.begun.toString(timeFormat), oneLine(line.work), oneLine(line.registers),
+                            oneLine(line.result), u"%1 s"_s.arg(seconds, 0, 'f', 1)};
+    return parts.join(u'\t').toUtf8() + '\n';
+}
+
+LogLine lineOf(const QByteArray& text)
+{
+    const QStringList parts = QString::fromUtf8(text).split(u'\t');
+    const double seconds = parts.value(secondsColumn).section(u' ', 0, 0).toDouble();
+    return {QDateTime::fromString(parts.value(begunColumn), timeFormat), parts.value(workColumn),
+            parts.value(registersColumn), parts.value(resultColumn),
+            qRound64(seconds * millisecondsPerSecond)};
+}
+
+void dropOlderHalf(const QString& path)
+{
+    QFile log(path);
+    if (!log.open(QIODevice::ReadOnly) || !log.seek(log.size() / 2))
+        return;
+    (void)log.readLine();
+    QSaveFile shorter(path);
+    if (shorter.open(QIODevice::WriteOnly)) {
+        shorter.write(log.readAll());
+        shorter.commit();
+    }
+}
+
+} // namespace
+
+void writeLog(const QString& customerPath, const LogLine& line)
+{
+    QFile log(logPath(customerPath));
+    if (!log.open(QIODevice::WriteOnly | QIODevice::Append))
+        return;
+    log.write(lineText(line));
+    const bool isLong = log.size() > mostBytes;
+    log.close();
+    if (isLong)
+        dropOlderHalf(log.fileName());
+}
+
+std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList& works)
+{
+    QFile log(logPath(customerPath));
+    if (!log.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const auto lines = log.readAll().trimmed().split('\n');
+    for (auto text = lines.crbegin(); text != lines.crend(); ++text) {
+        LogLine line = lineOf(*text);
+        if (works.contains(line.work))
+            return line;
+    }
+    return std::nullopt;
+}
+
+LoggedWork::LoggedWork(QString customerPath, const QString& work, const QString& registers)
+    : m_customerPath(std::move(customerPath)), m_line{QDateTime::currentDateTime(), work, registers,
+                                                      u"ended by a failure"_s}
+{
+    m_time.start();
+}
+
+LoggedWork::~LoggedWork()
+{
+    m_line.milliseconds = m_time.elapsed();
+    writeLog(m_customerPath, m_line);
+}
+
+} // namespace norvane::customers

@@ -1,0 +1,45 @@
+// Copies of a customer from before each work that could spoil its data, and the way back to one.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "platform/Boxes.h"
+#include "store/DatabaseCopy.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+namespace norvane::customers
+{
+
+/// A folder in "copies" of the customer's folder: its database, its settings and the register files kept
+/// there.
+struct SafetyCopy {
+    QString name; ///< of the folder: "2026-11-25 18.30.12 before upload"
+    QString path;
+    QDateTime made;
+    QString reason; ///< "before upload"
+};
+
+/// Copies the customer of the folder @p customerPath. The last ten copies and those of the last seven days
+/// stay; older ones are removed.
+/// @throws RuntimeFailure 61 on a full disk, 75, and what the database reports; no part of a copy is left.
+SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, store::CopyOf what,
+                          const QDateTime& now = QDateTime::currentDateTime());
+
+/// The latest first.
+[[nodiscard]] QList<SafetyCopy> safetyCopies(const QString& customerPath);
+
+/// Puts tables, settings and register files back as the copy holds them, after a copy of how they stand now.
+/// Sales come back only from a copy that holds them. Files that the copy does not hold stay. The database
+/// comes back wholly or not at all; the files follow it.
+/// @throws RuntimeFailure as makeSafetyCopy(), and 3343 for a damaged copy, before anything was changed.
+void restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy);
+
+/// A copy of the customers that a job is about to change: the one whose database is in use and, where that is
+/// another, the one whose folder takes the register files.
+/// @return false after telling the user that there was no room for it; the job must not start then.
+[[nodiscard]] bool copyBeforeJob(const ApplicationValues& values, Boxes& boxes, const QString& reason,
+                                 store::CopyOf what = store::CopyOf::Programme);
+
+} // namespace norvane::customers

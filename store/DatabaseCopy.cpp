@@ -1,0 +1,176 @@
+// Rows go from file to file inside the engine; see DatabaseCopy.h.
+#include "store/DatabaseCopy.h"
+
+#include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
+#include "store/Catalogue.h"
+#include "store/DatabaseFile.h"
+#include "store/DatabasePrivate.h"
+#include "store/PreparedStatement.h"
+#include "store/SqliteFailures.h"
+#include "store/TriggersAtRest.h"
+
+#include <QFile>
+#include <sqlite3.h>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::store
+{
+namespace
+{
+
+/// The other file as the statements name it.
+constexpr const char* otherFile = "safety";
+
+void run(sqlite3* connection, const std::string& sql, const QString& path)
+{
+    PreparedStatement(connection, sql, path).run();
+}
+
+/// Another file on the same connection.
+class AttachedFile
+{
+public:
+    AttachedFile(sqlite3* connection, const QString& path) : m_connection(connection)
+    {
+        PreparedStatement attach(connection, std::string("ATTACH ? AS ") + otherFile, path);
+        const Value file = Value::text(path);
+        attach.bind(1, file);
+        attach.run();
+    }
+    ~AttachedFile()
+    {
+        sqlite3_exec(m_connection, (std::string("DETACH ") + otherFile).c_str(), nullptr, nullptr, nullptr);
+    }
+    AttachedFile(const AttachedFile&) = delete;
+    AttachedFile& operator=(const AttachedFile&) = delete;
+
+private:
+    sqlite3* m_connection;
+};
+
+bool growsForEver(const QString& table)
+{
+    const auto* const known = catalogueTable(table);
+    return known != nullptr && !known->searchedField.isEmpty();
+}
+
+QVector<TableDefinition> programmeTables(sqlite3* connection)
+{
+    const Schema schema(connection);
+    QVector<TableDefinition> tables;
+    for (const QString& name : schema.tableNames()) {
+        if (!growsForEver(name))
+            tables.append(*schema.read(name));
+    }
+    return tables;
+}
+
+/// Rows keep their ids: a screen that shows a record must not find another one in its place.
+std::string moveRows(const QString& table, const QStringList& fields, const std::string& from,
+                     const std::string& to)
+{
+    std::string columns = "_rowid_";
+    for (const QString& field : fields)
+        columns += ", " + quotedName(field);
+    const std::string name = '.' + quotedName(table);
+    return "INSERT INTO " + to + name + " (" + columns + ") SELECT " + columns + " FROM " + from + name;
+}
+
+QStringList fieldNames(const TableDefinition& table)
+{
+    QStringList names;
+    for (const auto& field : table.fields)
+        names.append(field.name);
+    return names;
+}
+
+void copyProgramme(SQLite::Database& source, const QString& from, const QString& to)
+{
+    sqlite3* const connection = source.getHandle();
+    const auto tables = programmeTables(connection);
+    createDatabaseFile(to, tables);
+    const AttachedFile target(connection, to);
+    // A copy that is cut off is removed, so there is nothing to roll back in it.
+    run(connection, std::string("PRAGMA ") + otherFile + ".journal_mode = OFF", to);
+    // One transaction, so that all tables are of one moment.
+    run(connection, "BEGIN", from);
+    for (const auto& table : tables)
+        run(connection, moveRows(table.name, fieldNames(table), "main", otherFile), to);
+    run(connection, "COMMIT", to);
+}
+
+void copyPages(SQLite::Database& source, const QString& to)
+{
+    createDatabaseFile(to, {});
+    auto target = openUnreadDatabaseFile(to);
+    sqlite3_backup* const backup =
+        sqlite3_backup_init(target.getHandle(), "main", source.getHandle(), "main");
+    if (backup != nullptr) {
+        sqlite3_backup_step(backup, -1);
+        sqlite3_backup_finish(backup);
+    }
+    if (sqlite3_errcode(target.getHandle()) != SQLITE_OK)
+        failWithSqlite(target.getHandle(), to);
+}
+
+/// The fields that both have, as the database spells them.
+QStringList commonFields(const TableDefinition& table, const TableDefinition& copied)
+{
+    QStringList names;
+    for (const auto& field : table.fields) {
+        const auto isIt = [&field](const auto& other) {
+            return other.name.compare(field.name, Qt::CaseInsensitive) == 0;
+        };
+        if (std::ranges::any_of(copied.fields, isIt))
+            names.append(field.name);
+    }
+    return names;
+}
+
+} // namespace
+
+void copyDatabase(const QString& from, const QString& to, CopyOf what)
+{
+    QFile::remove(to);
+    auto source = openDatabaseFile(existingPath(from));
+    try {
+        if (what == CopyOf::Everything) {
+            copyPages(source, to);
+        } else {
+            copyProgramme(source, from, to);
+        }
+    } catch (const RuntimeFailure&) {
+        QFile::remove(to);
+        throw;
+    }
+}
+
+void restoreTables(Database& database, const QString& copy)
+{
+    Database copied(copy);
+    sqlite3* const connection = database.d->connection();
+    const AttachedFile source(connection, existingPath(copy));
+    Transaction transaction(database);
+    try {
+        for (const QString& name : copied.tableNames()) {
+            if (!database.hasTable(name))
+                continue;
+            const TableDefinition table = database.table(name);
+            database.execute(u"delete * from [%1]"_s.arg(table.name));
+            // Emptying dropped the totals of months too: nothing is left for the triggers to do.
+            const TriggersAtRest rest(connection);
+            run(connection, moveRows(table.name, commonFields(table, copied.table(name)), otherFile, "main"),
+                copy);
+        }
+    } catch (const RuntimeFailure&) {
+        transaction.rollBack();
+        throw;
+    }
+    transaction.commit();
+}
+
+} // namespace norvane::store

@@ -1,0 +1,51 @@
+// The log of a customer as its dealer reads it.
+#include "customers/CustomerLog.h"
+
+#include "tests/platform/TestFolder.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::customers
+{
+namespace
+{
+
+TEST(CustomerLog, HasALineForEachWorkAndTellsOneThatAFailureEnded)
+{
+    const test::TestFolder folder;
+    {
+        LoggedWork upload(folder.path(), u"upload"_s, u"register 1"_s);
+        upload.setResult(u"stopped.\rStill to do:\tPLU"_s);
+    }
+    try {
+        const LoggedWork run(folder.path(), u"price run"_s);
+        throw std::runtime_error("the disk is full");
+    } catch (const std::runtime_error&) {
+    }
+    const QString text = QString::fromUtf8(folder.read("norvane.log"));
+    const QRegularExpression lines(u"^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\tupload\tregister "
+                                   u"1\tstopped. Still to do: PLU\t0.\\d s\n"
+                                   "[-0-9]+ [0-9:]+\tprice run\t\tended by a failure\t0.\\d s\n$"_s);
+    EXPECT_TRUE(lines.match(text).hasMatch()) << text.toStdString();
+    const auto last = lastLogged(folder.path(), {u"upload"_s, u"download"_s});
+    ASSERT_TRUE(last);
+    EXPECT_EQ(last->result, u"stopped. Still to do: PLU"_s);
+    EXPECT_LE(last->begun.secsTo(QDateTime::currentDateTime()), 60);
+}
+
+TEST(CustomerLog, LosesItsOlderHalfBeyondAMegabyte)
+{
+    const test::TestFolder folder;
+    folder.write("norvane.log", "the oldest\n" + QByteArray("an old line\n").repeated(90'000));
+    writeLog(folder.path(), {QDateTime::currentDateTime(), u"collection"_s, {}, u"stored"_s, 900});
+    const QByteArray log = folder.read("norvane.log");
+    EXPECT_LT(log.size(), 600'000);
+    EXPECT_GT(log.size(), 500'000);
+    EXPECT_TRUE(log.startsWith("an old line\n"));
+    EXPECT_TRUE(log.endsWith("\tcollection\t\tstored\t0.9 s\n"));
+}
+
+} // namespace
+} // namespace norvane::customers
