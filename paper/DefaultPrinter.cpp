@@ -12,4 +12,16 @@ std::unique_ptr<QPrinter> defaultPrinter()
     return printer.isNull() ? nullptr : std::make_unique<QPrinter>(printer, QPrinter::HighResolution);
 }
 
+Sheet sheetOf(const QPrinter& printer)
+{
+    QPageLayout layout = printer.pageLayout();
+    layout.setUnits(QPageLayout::Millimeter);
+    const QMarginsF margins = layout.minimumMargins();
+    if (margins.isNull())
+        return {layout.orientation(), usualMargins};
+    return {layout.orientation(),
+            {millimetres(margins.left()), millimetres(margins.top()), millimetres(margins.right()),
+             millimetres(margins.bottom())}};
+}
+
 } // namespace norvane::paper

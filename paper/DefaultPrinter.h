@@ -1,6 +1,8 @@
 // The printer that the system prints on when nobody is asked.
 #pragma once
 
+#include "paper/Sheet.h"
+
 #include <QPrinter>
 
 #include <memory>
@@ -10,5 +12,9 @@ namespace norvane::paper
 
 /// @return the system's default printer at its full resolution; null when the system has none.
 [[nodiscard]] std::unique_ptr<QPrinter> defaultPrinter();
+
+/// The sheet of A4 that @p printer prints on as it is set up: its orientation, and the margins that it cannot
+/// print in. A printer that tells no margins is taken for a usual one.
+[[nodiscard]] Sheet sheetOf(const QPrinter& printer);
 
 } // namespace norvane::paper

@@ -1,6 +1,8 @@
 // See PageText.h.
 #include "reports/PageText.h"
 
+#include "paper/UnroundedFont.h"
+
 #include <QPainter>
 #include <QTextLayout>
 
@@ -11,19 +13,13 @@ namespace norvane::reports
 namespace
 {
 
-constexpr int unitsPerSquare = 100;
+using paper::unitsPerSquare;
 
 QFont pageFont(bool isBold)
 {
     QFont font;
-    font.setPixelSize(unitsPerSquare);
     font.setBold(isBold);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    // Without kerning a text is as wide as its letters; without ligatures, which any spacing turns off, the
-    // letters of a PDF can be searched.
-    font.setKerning(false);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, 0.05);
-    return font;
+    return paper::unrounded(font);
 }
 
 bool isControl(QChar letter)

@@ -10,7 +10,7 @@ packages=(
   libsqlitecpp-dev libsqlite3-dev libxlsxwriter-dev libminizip-dev
   poppler-utils unzip
   libgtest-dev libgmock-dev libbenchmark-dev
-  fonts-dejavu-core
+  fonts-dejavu-core fonts-liberation
 )
 for option in "$@"; do
   case "$option" in

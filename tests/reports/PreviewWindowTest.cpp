@@ -2,7 +2,7 @@
 #include "reports/PreviewWindow.h"
 
 #include "tests/platform/TestFolder.h"
-#include "tests/reports/OtherPrograms.h"
+#include "tests/support/OtherPrograms.h"
 #include "tests/reports/SampleReport.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/RecordingBoxes.h"

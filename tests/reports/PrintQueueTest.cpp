@@ -4,7 +4,7 @@
 #include "reports/Printing.h"
 #include "reports/ReportRun.h"
 #include "tests/platform/TestFolder.h"
-#include "tests/reports/OtherPrograms.h"
+#include "tests/support/OtherPrograms.h"
 #include "tests/reports/SampleReport.h"
 
 #include <gtest/gtest.h>

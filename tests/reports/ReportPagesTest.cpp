@@ -3,7 +3,7 @@
 
 #include "reports/ReportFiles.h"
 #include "tests/platform/TestFolder.h"
-#include "tests/reports/OtherPrograms.h"
+#include "tests/support/OtherPrograms.h"
 #include "tests/reports/SampleReport.h"
 
 #include <gtest/gtest.h>

@@ -4,7 +4,7 @@
 #include "platform/RuntimeFailure.h"
 #include "reports/PreviewWindow.h"
 #include "tests/platform/TestFolder.h"
-#include "tests/reports/OtherPrograms.h"
+#include "tests/support/OtherPrograms.h"
 #include "tests/reports/SampleReport.h"
 #include "tests/support/RecordingBoxes.h"
 

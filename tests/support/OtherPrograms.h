@@ -30,14 +30,13 @@ inline QStringList pdfLines(const QString& path)
     return lines;
 }
 
-/// A page of a PDF, counted from 1, in grey with ten dots to the millimetre.
+/// A page of a PDF, counted from 1, with ten dots to the millimetre.
 inline QImage pdfPage(const QString& path, int page)
 {
     const QString number = QString::number(page);
-    const QByteArray picture = outputOf(QStringLiteral("pdftoppm"),
-                                        {QStringLiteral("-r"), QStringLiteral("254"), QStringLiteral("-gray"),
-                                         QStringLiteral("-f"), number, QStringLiteral("-l"), number, path});
-    return QImage::fromData(picture, "PGM");
+    return QImage::fromData(outputOf(QStringLiteral("pdftoppm"),
+                                     {QStringLiteral("-r"), QStringLiteral("254"), QStringLiteral("-f"),
+                                      number, QStringLiteral("-l"), number, path}));
 }
 
 } // namespace norvane::test

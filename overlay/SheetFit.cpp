@@ -1,0 +1,76 @@
+// Which keys a printer can print; see SheetPrint.h.
+#include "overlay/SheetPrint.h"
+
+#include <algorithm>
+
+namespace norvane::overlay
+{
+namespace
+{
+
+using paper::millimetres;
+
+QRectF rectOf(const KeyPlace& key)
+{
+    return {key.x.inMillimetres(), key.y.inMillimetres(), key.width.inMillimetres(),
+            key.height.inMillimetres()};
+}
+
+/// What a printer tells of its margins is a dot more or less.
+QRectF printable(const TargetPrinter& target)
+{
+    constexpr double tolerance = 0.05;
+    return target.sheet.printableRect().adjusted(-tolerance, -tolerance, tolerance, tolerance);
+}
+
+QRectF allKeys(const KeyLayout& layout, const TargetPrinter& target)
+{
+    QRectF all;
+    for (const KeyPlace& key : layout.keys())
+        all = all.united(rectOf(key));
+    return placeOnPaper(target).mapRect(all);
+}
+
+/// How far what reaches from @p first to @p last must be moved to lie between @p least and @p most.
+double moveInto(double first, double last, double least, double most)
+{
+    return first < least ? least - first : std::min(0.0, most - last);
+}
+
+paper::AxisCorrection moved(paper::AxisCorrection axis, double move)
+{
+    axis.offset = axis.offset + millimetres(move / axis.stretch);
+    return axis;
+}
+
+} // namespace
+
+std::vector<std::size_t> keysOutside(const KeyLayout& layout, const TargetPrinter& target)
+{
+    const QTransform place = placeOnPaper(target);
+    const QRectF area = printable(target);
+    std::vector<std::size_t> outside;
+    for (std::size_t key = 0; key < layout.keys().size(); ++key) {
+        if (!area.contains(place.mapRect(rectOf(layout.keys()[key]))))
+            outside.push_back(key);
+    }
+    return outside;
+}
+
+bool isWiderThanPage(const KeyLayout& layout, const TargetPrinter& target)
+{
+    return allKeys(layout, target).width() > printable(target).width();
+}
+
+std::optional<paper::PrinterCorrection> correctionToFit(const KeyLayout& layout, const TargetPrinter& target)
+{
+    const QRectF keys = allKeys(layout, target);
+    const QRectF area = printable(target);
+    if (keys.width() > area.width() || keys.height() > area.height())
+        return std::nullopt;
+    return paper::PrinterCorrection{
+        moved(target.correction.across, moveInto(keys.left(), keys.right(), area.left(), area.right())),
+        moved(target.correction.down, moveInto(keys.top(), keys.bottom(), area.top(), area.bottom()))};
+}
+
+} // namespace norvane::overlay

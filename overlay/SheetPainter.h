@@ -1,0 +1,44 @@
+// The sheet that lies under the keyboard's cover, key by key.
+#pragma once
+
+#include "overlay/OverlayPen.h"
+
+namespace norvane::overlay
+{
+
+/// Paints a document, the same on screen, paper and in files.
+class SheetPainter
+{
+public:
+    /// @param painter in millimetres from the corner of the printable area. Both must outlive this.
+    SheetPainter(QPainter& painter, const Document& document);
+
+    /// All keys: down each column, columns from the left.
+    void paint();
+
+private:
+    /// Prints the next @p count keys of three lines.
+    void SmallKeys(int count);
+    /// Prints the next @p count single or wide keys, which end a column.
+    void DoubleKeys(int count);
+    void printRun(const KeyRun& run);
+    const KeyPlace& takeKey();
+    void printThreeLines(const KeyPlace& key);
+    void printSingle(const KeyPlace& key);
+    void printBands(const KeyPlace& key);
+    void trimBands(const KeyPlace& key);
+    void printText(const KeyPlace& key, int cell, paper::Length x, paper::Length y);
+    [[nodiscard]] paper::Length lineTop(const KeyPlace& key, int line) const;
+
+    const Document& m_document;
+    const KeyboardGeometry& m_geometry;
+    OverlayPen m_pen;
+    std::size_t m_nextKey = 0;
+};
+
+/// The part of a cell's text that prints: as much as reaches the width of its key.
+[[nodiscard]] QString printedText(const Document& document, int cell);
+/// The cells whose text does not print whole, in their order.
+[[nodiscard]] std::vector<int> cutCells(const Document& document);
+
+} // namespace norvane::overlay

@@ -1,0 +1,48 @@
+// A sheet of A4 as a printer takes it.
+#pragma once
+
+#include "paper/Length.h"
+
+#include <QPageLayout>
+#include <QRectF>
+
+namespace norvane::paper
+{
+
+/// What a printer leaves white at the edges of a sheet.
+struct Margins {
+    Length left;
+    Length top;
+    Length right;
+    Length bottom;
+
+    bool operator==(const Margins&) const = default;
+};
+
+/// Of a PDF, and of printers that do not tell theirs.
+inline constexpr Margins usualMargins{millimetres(5), millimetres(5), millimetres(5), millimetres(5)};
+
+struct Sheet {
+    QPageLayout::Orientation orientation = QPageLayout::Landscape;
+    Margins margins = usualMargins;
+
+    [[nodiscard]] constexpr Length width() const { return isLandscape() ? longEdge : shortEdge; }
+    [[nodiscard]] constexpr Length height() const { return isLandscape() ? shortEdge : longEdge; }
+    /// In mm from the sheet's upper left corner.
+    [[nodiscard]] QRectF rect() const { return {0, 0, width().inMillimetres(), height().inMillimetres()}; }
+    [[nodiscard]] QRectF printableRect() const
+    {
+        return rect().adjusted(margins.left.inMillimetres(), margins.top.inMillimetres(),
+                               -margins.right.inMillimetres(), -margins.bottom.inMillimetres());
+    }
+
+    bool operator==(const Sheet&) const = default;
+
+private:
+    static constexpr Length longEdge = millimetres(297);
+    static constexpr Length shortEdge = millimetres(210);
+
+    [[nodiscard]] constexpr bool isLandscape() const { return orientation == QPageLayout::Landscape; }
+};
+
+} // namespace norvane::paper

@@ -1,0 +1,15 @@
+// Letters that are as wide on every device: measured once in units, and drawn under a scale.
+#pragma once
+
+#include <QFont>
+
+namespace norvane::paper
+{
+
+/// Units to the square of an unrounded font's letters.
+inline constexpr int unitsPerSquare = 100;
+
+/// @p font in a size at which no width is rounded to pixels. A text is as wide as its letters are one by one.
+[[nodiscard]] QFont unrounded(QFont font);
+
+} // namespace norvane::paper

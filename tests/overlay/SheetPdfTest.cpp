@@ -1,0 +1,300 @@
+// The sheets on paper, measured: a PDF of each keyboard, ten dots to the millimetre, beside where the keys of
+// the real keyboard are.
+#include "overlay/SheetPainter.h"
+#include "overlay/SheetPrint.h"
+#include "tests/platform/TestFolder.h"
+#include "tests/support/OtherPrograms.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::test
+{
+namespace
+{
+
+using namespace overlay;
+
+struct KeyMeasure {
+    double width;              ///< of the visible bands, which begin 0.34 right of the key's corner
+    std::vector<double> edges; ///< between the visible bands, down from the key's corner
+    double middle;             ///< of a text, right of the key's corner
+    std::vector<double> lines; ///< tops of the texts
+};
+
+struct ColumnMeasure {
+    double x; ///< of the keys' corners on the page
+    int plain;
+    int other; ///< wide or single keys below
+};
+
+struct KeyboardMeasure {
+    Keyboard keyboard;
+    double top; ///< of the first key's corner on the page
+    double step;
+    double widths; ///< from key to key across
+    KeyMeasure plain;
+    KeyMeasure other;
+    std::vector<ColumnMeasure> columns;
+};
+
+constexpr double edge = 0.34; ///< half of 8 dots, 300 to the inch
+
+const KeyboardMeasure measures[] = {
+    {Keyboard::Dorvik,
+     5,
+     15,
+     18,
+     {16.32, {edge, 4.66, 9.42, 13.66}, 7.35, {0, 4.66, 9.32}},
+     {16.32, {edge, 13.66}, 7, {0.5}},
+     {{5, 10, 0},
+      {23, 10, 0},
+      {41, 10, 0},
+      {59, 10, 0},
+      {77, 10, 0},
+      {95, 10, 0},
+      {113, 10, 0},
+      {131, 10, 0},
+      {149, 10, 0},
+      {167, 10, 0},
+      {185, 10, 0},
+      {203, 10, 0},
+      {221, 6, 4},
+      {239, 6, 4},
+      {257, 6, 4},
+      {275, 10, 0}}},
+    {Keyboard::Velmar,
+     3,
+     15,
+     18,
+     {16.32, {edge, 4.66, 9.42, 11.66}, 7.35, {0, 4.66, 9.32}},
+     {16.32, {edge, 13.66}, 7, {0.5}},
+     {{8, 13, 0},
+      {26, 13, 0},
+      {44, 13, 0},
+      {62, 13, 0},
+      {80, 13, 0},
+      {98, 13, 0},
+      {116, 13, 0},
+      {134, 13, 0},
+      {152, 13, 0},
+      {170, 9, 4},
+      {188, 9, 4},
+      {206, 9, 4},
+      {224, 13, 0}}},
+    {Keyboard::Quelmont,
+     10,
+     17,
+     17,
+     {12.32, {edge, 4.33, 8.76, 12.66}, 5.35, {0, 4.33, 8.66}},
+     {31.32, {edge, 4.33, 8.76, 12.66}, 14.85, {0, 4.33, 8.66}},
+     {{7, 6, 0},
+      {24, 6, 0},
+      {41, 2, 0},
+      {58, 2, 0},
+      {75, 2, 0},
+      {92, 6, 0},
+      {109, 1, 5},
+      {128, 1, 0},
+      {145, 1, 5},
+      {164, 1, 0},
+      {181, 1, 5},
+      {200, 1, 0},
+      {217, 6, 0},
+      {234, 4, 2},
+      {253, 4, 0}}},
+};
+
+/// A key where it should be, with its first cell.
+struct ExpectedKey {
+    const KeyMeasure& measure;
+    double x;
+    double y;
+    int firstCell;
+    bool isSingle;
+};
+
+std::vector<ExpectedKey> expectedKeys(const KeyboardMeasure& keyboard)
+{
+    std::vector<ExpectedKey> keys;
+    int cell = 0;
+    for (const ColumnMeasure& column : keyboard.columns) {
+        for (int row = 0; row < column.plain + column.other; ++row) {
+            const KeyMeasure& measure = row < column.plain ? keyboard.plain : keyboard.other;
+            keys.push_back(
+                {measure, column.x, keyboard.top + row * keyboard.step, cell, measure.lines.size() == 1});
+            cell += static_cast<int>(measure.lines.size());
+        }
+    }
+    return keys;
+}
+
+/// Neighbours differ, and each is full or empty in every part, so that a dot half covered is told apart.
+constexpr std::array<QRgb, 6> colours = {0xffff0000, 0xff00ff00, 0xff0000ff,
+                                         0xffffff00, 0xffff00ff, 0xff00ffff};
+
+QRgb colourOfCell(int cell)
+{
+    return colours[static_cast<std::size_t>(cell) % colours.size()];
+}
+
+/// A rendered page, read in millimetres.
+class Page
+{
+public:
+    explicit Page(const Document& document)
+    {
+        const TestFolder folder;
+        writeSheetPdf(document, QPageLayout::Landscape, folder.path("a.pdf"));
+        EXPECT_LT(QFileInfo(folder.path("a.pdf")).size(), 500 * 1000);
+        m_image = pdfPage(folder.path("a.pdf"), 1);
+        EXPECT_NEAR(m_image.width(), 2970, 1);
+    }
+    /// The colour at a dot, each part full or empty.
+    [[nodiscard]] QRgb at(double x, double y) const
+    {
+        const QRgb dot = m_image.pixel(static_cast<int>(x * 10), static_cast<int>(y * 10));
+        const auto full = [](int part) {
+            return part < 0x80 ? 0 : 0xff;
+        };
+        return qRgb(full(qRed(dot)), full(qGreen(dot)), full(qBlue(dot)));
+    }
+    /// How far the colour at a place goes on in a direction; -1 when it is another one.
+    [[nodiscard]] double reach(double x, double y, double stepX, double stepY, QRgb colour) const
+    {
+        int steps = 0;
+        while (at(x + steps * stepX, y + steps * stepY) == colour)
+            ++steps;
+        return steps / 10.0 - 0.05;
+    }
+    [[nodiscard]] bool isWhite(const QRectF& area) const
+    {
+        for (double y = area.top(); y < area.bottom(); y += 0.1) {
+            for (double x = area.left(); x < area.right(); x += 0.1) {
+                if (at(x, y) != 0xffffffff)
+                    return false;
+            }
+        }
+        return true;
+    }
+    /// The light grey line that crosses a place, down or across it.
+    [[nodiscard]] double greyWidth(double x, double y, double stepX, double stepY) const
+    {
+        double width = 0;
+        for (int step = -6; step < 6; ++step) {
+            const auto [least, most] = partsAt(x + step * stepX, y + step * stepY);
+            width += least > 0x60 && most < 0xe0 ? 0.1 : 0;
+        }
+        return width;
+    }
+    /// The dark dots in an area.
+    [[nodiscard]] QRectF darkPart(const QRectF& area) const
+    {
+        QRectF dark;
+        for (int y = static_cast<int>(area.top() * 10); y < area.bottom() * 10; ++y) {
+            for (int x = static_cast<int>(area.left() * 10); x < area.right() * 10; ++x) {
+                if (qGray(m_image.pixel(x, y)) < 0x80)
+                    dark |= QRectF(x / 10.0, y / 10.0, 0.1, 0.1);
+            }
+        }
+        return dark;
+    }
+
+private:
+    [[nodiscard]] std::pair<int, int> partsAt(double x, double y) const
+    {
+        const QRgb dot = m_image.pixel(static_cast<int>(x * 10), static_cast<int>(y * 10));
+        return std::minmax({qRed(dot), qGreen(dot), qBlue(dot)});
+    }
+
+    QImage m_image;
+};
+
+class SheetPdf : public testing::TestWithParam<KeyboardMeasure>
+{
+protected:
+    static void expectBand(const Page& page, const ExpectedKey& key, std::size_t band)
+    {
+        const double top = key.y + key.measure.edges[band];
+        const double bottom = key.y + key.measure.edges[band + 1];
+        const double x = key.x + edge + key.measure.width / 2;
+        const double y = (top + bottom) / 2;
+        const QRgb colour = colourOfCell(key.firstCell + static_cast<int>(band));
+        EXPECT_NEAR(y - page.reach(x, y, 0, -0.1, colour), top, 0.1);
+        EXPECT_NEAR(y + page.reach(x, y, 0, 0.1, colour), bottom, 0.1);
+        EXPECT_NEAR(page.reach(x, y, -0.1, 0, colour), key.measure.width / 2, 0.1);
+        EXPECT_NEAR(page.reach(x, y, 0.1, 0, colour), key.measure.width / 2, 0.1);
+    }
+    static void expectGaps(const Page& page, const ExpectedKey& key)
+    {
+        const double step = GetParam().step;
+        const double bottom = key.measure.edges.back() + 0.1;
+        const double width = edge + key.measure.width + 0.1;
+        EXPECT_TRUE(page.isWhite({key.x, key.y + bottom, width, step + edge - bottom - 0.1})) << "below";
+        EXPECT_TRUE(
+            page.isWhite({key.x + width, key.y, GetParam().widths - GetParam().plain.width - 0.2, step}))
+            << "to the right";
+    }
+    static void expectGreyOutline(const Page& page, const ExpectedKey& key)
+    {
+        for (const double x : {key.x, key.x + 17})
+            EXPECT_NEAR(page.greyWidth(x, key.y + 7, 0.1, 0), 0.68, 0.1);
+        for (const double y : {key.y, key.y + 14})
+            EXPECT_NEAR(page.greyWidth(key.x + 8, y, 0, 0.1), 0.68, 0.1);
+    }
+};
+
+TEST_P(SheetPdf, ShowsEveryBandAndGapWhereTheKeyIs)
+{
+    Document document(GetParam().keyboard);
+    for (int cell = 0; cell < document.cellCount(); ++cell) {
+        document.cell(cell).text.clear();
+        document.cell(cell).background = colourOf(QColor(colourOfCell(cell)));
+    }
+    const Page page(document);
+    for (const ExpectedKey& key : expectedKeys(GetParam())) {
+        SCOPED_TRACE(u"the key of cell %1"_s.arg(key.firstCell).toStdString());
+        for (std::size_t band = 0; band < key.measure.lines.size(); ++band)
+            expectBand(page, key, band);
+        expectGaps(page, key);
+        if (key.isSingle)
+            expectGreyOutline(page, key);
+    }
+}
+
+/// Where capitals of 8 points begin and stand, down from the top of the text, in the letters that stand in
+/// for Arial.
+constexpr double capitalTop = (0.905 - 0.688) * 8 * 25.4 / 72;
+constexpr double baseline = 0.905 * 8 * 25.4 / 72;
+
+TEST_P(SheetPdf, PrintsTextsInTheMiddleOfTheirWidthAndInsideTheirKeys)
+{
+    Document document(GetParam().keyboard);
+    for (int cell = 0; cell < document.cellCount(); ++cell)
+        document.cell(cell).text = cell % 2 == 0 ? u"H"_s : u"HHHHHHHHHHHHHHHHHHHH"_s;
+    const Page page(document);
+    for (const ExpectedKey& key : expectedKeys(GetParam())) {
+        for (std::size_t line = 0; line < key.measure.lines.size(); ++line) {
+            const int cell = key.firstCell + static_cast<int>(line);
+            SCOPED_TRACE(cell);
+            const double top = key.y + key.measure.lines[line];
+            const QRectF dark = page.darkPart({key.x - 0.5, top + 0.1, key.measure.width + 1.5, 3});
+            EXPECT_NEAR(dark.top(), top + capitalTop, 0.1);
+            EXPECT_NEAR(dark.bottom(), top + baseline, 0.1);
+            if (cell % 2 == 0) {
+                EXPECT_NEAR(dark.center().x(), key.x + key.measure.middle, 0.1);
+            } else {
+                EXPECT_GT(dark.left(), key.x + (key.isSingle ? 0.5 : 0)) << "never left of its start";
+                EXPECT_LT(dark.right(), key.x + edge + key.measure.width) << "cut at the key's edge";
+                EXPECT_GT(dark.right(), key.x + 2 * key.measure.middle - 0.3)
+                    << "as much as there is room for";
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, SheetPdf, testing::ValuesIn(measures), [](const auto& row) {
+    return geometryOf(row.param.keyboard).name.toString().toStdString();
+});
+
+} // namespace
+} // namespace norvane::test
