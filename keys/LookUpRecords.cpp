@@ -13,9 +13,9 @@ namespace
 {
 
 constexpr int pluDigits = 18;
-const QString pluPattern(pluDigits, u'0');
-const QString shownPattern(pluDigits - 1, u'0');
+const QString zeros(pluDigits, u'0');
 const QString wordOfPlu = u"PLU"_s;
+const QString wordOfFunction = u"Function"_s;
 
 /// Texts of a look-up and their fields, in the order in which they are stored.
 struct TextField {
@@ -108,8 +108,7 @@ store::Recordset openLookUps(store::Database& database)
 
 LookUpRecords::LookUpRecords(std::shared_ptr<store::Database> database)
     : m_database(std::move(database)), m_lineCount(readLineCount(*m_database)),
-      m_lookUps(openLookUps(*m_database)), m_plus(openByKey(*m_database, u"pludata"_s)),
-      m_functions(openByKey(*m_database, u"functionkey"_s))
+      m_lookUps(openLookUps(*m_database)), m_plus(openByKey(*m_database, u"pludata"_s)), m_items(*m_database)
 {
 }
 
@@ -141,7 +140,7 @@ LookUpLine LookUpRecords::readLine(int line)
 LookUpLine LookUpRecords::readPlu(LineType type, const QString& word, const QString& code)
 {
     LookUpLine line{.type = type, .word = word};
-    if (!m_plus.seek(store::Seek::Equal, store::Value::text((pluPattern + code).right(pluDigits))))
+    if (!m_plus.seek(store::Seek::Equal, store::Value::text((zeros + code).right(pluDigits))))
         return line;
     line.code = m_plus.value(u"plunumber"_s).toText();
     line.item = line.code + u'\r' + m_plus.value(u"description"_s).toText();
@@ -150,33 +149,20 @@ LookUpLine LookUpRecords::readPlu(LineType type, const QString& word, const QStr
 
 LookUpLine LookUpRecords::readFunction(const QString& code)
 {
-    LookUpLine line{.word = u"Function"_s};
-    if (!m_functions.seek(store::Seek::Equal, store::Value::text(code)))
-        return line;
-    line.type = LineType::Function;
-    line.code = m_functions.value(u"id"_s).toText();
-    line.item = m_functions.value(u"description"_s).toText();
-    return line;
+    const auto key = m_items.keyFor(ItemKind::Function, code);
+    return key ? LookUpLine{LineType::Function, key->function, wordOfFunction, key->text}
+               : LookUpLine{.word = wordOfFunction};
 }
 
-void LookUpRecords::fillWithPlu(LookUpLine& line, const QString& number)
+void LookUpRecords::fill(LookUpLine& line, ItemKind kind, const QString& number)
 {
-    line = {.word = line.word, .item = u"PLU ITEM"_s};
-    if (!m_plus.seek(store::Seek::Equal, store::Value::text(formatNumber(number, pluPattern))))
-        return;
-    line.code = m_plus.value(u"plunumber"_s).toText();
-    line.word = wordOfPlu;
-    line.item =
-        u"P%1 %2"_s.arg(formatNumber(line.code, shownPattern), m_plus.value(u"description"_s).toText());
-}
-
-void LookUpRecords::fillWithFunction(LookUpLine& line, const QString& id)
-{
-    const LookUpLine found = readFunction(id);
-    if (found.type == LineType::Function) {
-        line = found;
+    const auto key = m_items.keyFor(kind, number);
+    if (!key) {
+        line = {.word = line.word, .item = itemTable(kind).missingEntry};
+    } else if (kind == ItemKind::Plu) {
+        line = {LineType::Plu, key->lookUp, wordOfPlu, key->text};
     } else {
-        line = {.word = line.word, .item = u"Function ITEM"_s};
+        line = {LineType::Function, key->function, wordOfFunction, key->text};
     }
 }
 

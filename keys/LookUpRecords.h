@@ -1,12 +1,12 @@
 // The window look-ups of a customer, one after another as their editor shows and saves them.
 #pragma once
 
+#include "keys/KeyItems.h"
 #include "keys/LookUpLines.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 
 #include <memory>
-#include <optional>
 
 namespace norvane::keys
 {
@@ -46,11 +46,9 @@ public:
     /// @return false at the first record, where it stays.
     [[nodiscard]] bool previous();
 
-    /// What a click on PLU @p number of the list makes of @p line, always one of type PLU; an item that is
-    /// gone leaves it empty and keeps its word.
-    void fillWithPlu(LookUpLine& line, const QString& number);
-    /// The same for function key @p id of the list.
-    void fillWithFunction(LookUpLine& line, const QString& id);
+    /// What a choice of PLU or function @p number makes of @p line. A PLU is never a condiment; an item that
+    /// is gone leaves the line empty and keeps its word.
+    void fill(LookUpLine& line, ItemKind kind, const QString& number);
 
 private:
     [[nodiscard]] LookUpLine readLine(int line);
@@ -63,7 +61,7 @@ private:
     int m_lineCount;
     store::Recordset m_lookUps;
     store::Recordset m_plus;
-    store::Recordset m_functions;
+    KeyItems m_items;
 };
 
 } // namespace norvane::keys

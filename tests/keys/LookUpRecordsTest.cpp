@@ -130,7 +130,7 @@ TEST_F(LookUpRecordsTest, StoresWholeOrNotAtAll)
     lookUp.allowsExit = lookUp.allowsPlus = true;
     lookUp.choices = u"3"_s;
     lookUp.link = u"1"_s;
-    records.fillWithPlu(lookUp.lines[0], u"1001"_s);
+    records.fill(lookUp.lines[0], ItemKind::Plu, u"1001"_s);
     EXPECT_EQ(lookUp.lines[0].item, u"P00000000000001001 Cola"_s);
     records.save(lookUp);
     lookUp.description = u"A text of sixteen"_s;

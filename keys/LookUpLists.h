@@ -1,0 +1,72 @@
+// The lists beside the lines of a look-up, from which the lines are filled.
+#pragma once
+
+#include "keys/KeyItems.h"
+#include "store/RecordListModel.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class QButtonGroup;
+class QLabel;
+class QModelIndex;
+class QRadioButton;
+class QTableView;
+
+namespace norvane::ui
+{
+class FilterBox;
+}
+
+namespace norvane::keys
+{
+
+/// PLUs and function keys, each with an option button that hides the other list, and a box above that filters
+/// what is shown. Which of them can be reached is told by the form.
+class LookUpLists : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LookUpLists(const std::shared_ptr<store::Database>& database, QWidget* parent);
+
+    /// Shows a list and its option button, or hides both.
+    void reach(ItemKind kind, bool reachable);
+    /// Takes the keyboard into the filter box. Nothing happens while there is no list.
+    void enter();
+
+Q_SIGNALS:
+    /// The user clicked the entry of this number.
+    void clicked(ItemKind kind, const QString& number);
+    /// The user pressed Enter on it.
+    void entered(ItemKind kind, const QString& number);
+
+private:
+    struct Row;
+    struct List {
+        ItemKind kind;
+        QRadioButton* option;
+        store::RecordListModel* model;
+        QTableView* view;
+    };
+
+    [[nodiscard]] List make(const Row& row, const std::shared_ptr<store::Database>& database);
+    void connectList(const List& list);
+    void layOut();
+    void showOnly(ItemKind kind);
+    void follow();
+    void readIfNew(const List& list);
+    void setFilter(const QString& text);
+    void takeRowInHand();
+    [[nodiscard]] bool isShown(const List& list) const;
+    [[nodiscard]] static QString numberAt(const QModelIndex& index);
+
+    std::vector<List> m_lists;
+    QButtonGroup* m_options;
+    ui::FilterBox* m_filter;
+    QLabel* m_hint;
+};
+
+} // namespace norvane::keys

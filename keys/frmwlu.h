@@ -1,0 +1,66 @@
+// The editor of the window look-ups.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "keys/KeyGeometry.h"
+#include "keys/LookUpLists.h"
+#include "keys/LookUpRecords.h"
+
+#include <QDialog>
+
+class QHBoxLayout;
+class QTableView;
+
+namespace norvane
+{
+class Boxes;
+}
+
+namespace norvane::keys
+{
+
+class LookUpFields;
+class LookUpGridModel;
+
+/// Shows one look-up after another. A click on an entry of a list, or Enter, fills the line in hand; lines
+/// move by Alt and the arrows or by dragging. Nothing is stored but by Save and Delete Line, which store all
+/// of the form.
+class frmwlu : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Makes the chosen customer's database the one in use and shows its first look-up.
+    /// @throws RuntimeFailure when that cannot be opened or has no look-ups; see LookUpRecords.
+    frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
+
+private:
+    void layOut();
+    void connectControls();
+    [[nodiscard]] QHBoxLayout* makeButtons();
+    void moveLineBy(int step);
+
+    void updategrid();
+    void showLists();
+    void saveChanges();
+    void deleteLine();
+    void SaveGrid();
+    [[nodiscard]] bool mayStore(const LookUp& lookUp);
+    void nextRecord();
+    void previousRecord();
+    void tellNoMoreRecords();
+    void fillLine(ItemKind kind, const QString& number);
+    [[nodiscard]] int lineInHand() const;
+    void takeInHand(int line);
+
+    Boxes& m_boxes;
+    std::shared_ptr<store::Database> m_database;
+    const KeyGeometry& m_keyboard;
+    LookUpRecords m_records;
+    LookUpGridModel* m_lines;
+    LookUpFields* m_fields;
+    QTableView* Grid1;
+    LookUpLists* m_lists;
+};
+
+} // namespace norvane::keys

@@ -1,0 +1,207 @@
+// The look-up editor as a user works it.
+#include "keys/frmwlu.h"
+
+#include "tests/keys/KeyShop.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QTest>
+#include <QWindow>
+
+namespace norvane::keys
+{
+namespace
+{
+
+using namespace Qt::Literals::StringLiterals;
+using test::text;
+using test::whole;
+
+class FrmwluTest : public testing::Test
+{
+protected:
+    FrmwluTest()
+    {
+        for (const auto& [number, name] :
+             {std::pair("1001", "Cola"), {"1002", "Lemonade"}, {"2001", "Cake"}}) {
+            m_shop.add("PLUDATA", {{"PLUNUMBER", text(QByteArray(number).rightJustified(18, '0'))},
+                                   {"DESCRIPTION", text(name)}});
+        }
+        m_shop.add("FUNCTIONKEY", {{"id", whole(1)}, {"DESCRIPTION", text("CASH")}});
+        m_shop.add("FUNCTIONKEY", {{"id", whole(2)}, {"DESCRIPTION", text("CARD")}});
+        m_shop.add("MEMORYALLOCATION", {{"LINES/PLU", text("4")}});
+        m_shop.add("WLU", {{"WLUno", whole(1)},
+                           {"DESCRIPTION", text("Drinks")},
+                           {"Allowplu", whole(-1)},
+                           {"wlutype1", whole(0)},
+                           {"codenumber1", text("1001")},
+                           {"wlutype2", whole(1)},
+                           {"codenumber2", text("1002")}});
+        m_shop.add("WLU", {{"WLUno", whole(2)},
+                           {"DESCRIPTION", text("Payment")},
+                           {"Allowfunction", whole(-1)},
+                           {"#OfCondiments", whole(1)},
+                           {"LINK", whole(1)},
+                           {"allowexit", whole(-1)}});
+        m_shop.addKeyboard(169);
+        m_shop.execute("update keylink set keylink = '271' where id in (5, 170)");
+        m_shop.execute("update nlu set nlu = '000100000000000005' where id in (5, 170)");
+        m_shop.values.databasePath = u"elsewhere/velmar.mdb"_s;
+        m_form = std::make_unique<frmwlu>(m_shop.values, m_boxes);
+        m_form->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_form.get()));
+    }
+
+    template <typename Control>
+    Control& control(const char* name)
+    {
+        return *m_form->findChild<Control*>(QLatin1StringView(name));
+    }
+    void press(const char* button) { QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton); }
+    /// Clicks entry @p row of a list, or of the grid.
+    void click(const char* list, int row)
+    {
+        auto& view = control<QTableView>(list);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                          view.visualRect(view.model()->index(row, 0)).center());
+    }
+    /// Lines of the grid: "PLU P00000000000001001 Cola".
+    std::string lines()
+    {
+        const auto& model = *control<QTableView>("Grid1").model();
+        QStringList shown;
+        for (int row = 0; row < model.rowCount(); ++row)
+            shown += model.index(row, 1).data().toString() + u' ' + model.index(row, 2).data().toString();
+        return shown.join(u" | "_s).toStdString();
+    }
+    /// Types and codes of the lines of look-up @p number as they are stored.
+    std::string stored(int number)
+    {
+        const auto database = m_shop.open();
+        const auto record = database->openQuery(u"select * from wlu where wluno = %1"_s.arg(number));
+        QStringList shown;
+        for (int line = 1; line <= 4; ++line)
+            shown += record.value(u"wlutype%1"_s.arg(line)).toText() + u':' +
+                     QString::number(record.value(u"codenumber%1"_s.arg(line)).toText().toLongLong());
+        return shown.join(u' ').toStdString();
+    }
+
+    test::KeyShop m_shop;
+    norvane::test::RecordingBoxes m_boxes;
+    std::unique_ptr<frmwlu> m_form;
+};
+
+const norvane::test::ShownBox noMore{u"No more records.."_s, u"Information"_s, BoxIcon::Information};
+
+TEST_F(FrmwluTest, WalksTheLookUpsOfTheChosenCustomer)
+{
+    m_shop.values.databasePath = m_shop.folder.path("velmar.mdb");
+    EXPECT_EQ(lines(), "PLU 000000000000001001\nCola | Condiment 000000000000001002\nLemonade | Not Used 0 | "
+                       "Not Used 0");
+    EXPECT_EQ(control<QLabel>("KeysOfWLU").text(), u"Opened by Level 1 key 5, Level 2 key 1."_s);
+    press("NextRecord");
+    EXPECT_EQ(control<QLabel>("KeysOfWLU").text(), u"No key opens this look-up."_s);
+    for (const auto& [name, shown] : {std::pair("WLUNumber", u"2"_s),
+                                      {"description", u"Payment"_s},
+                                      {"noofchoices", u"1"_s},
+                                      {"linkwlu", u"1"_s}})
+        EXPECT_EQ(control<QLineEdit>(name).text(), shown) << name;
+    for (const auto& [name, ticked] : {std::pair("allowcondiment", false),
+                                       {"allowplu", false},
+                                       {"allowfunction", true},
+                                       {"itemmultiply", false},
+                                       {"Allowexit", true}})
+        EXPECT_EQ(control<QCheckBox>(name).isChecked(), ticked) << name;
+    QTest::keyClicks(&control<QLineEdit>("description"), u" by a text that is too long"_s);
+    press("NextRecord");
+    EXPECT_EQ(control<QLineEdit>("description").text().size(), 12) << "what was typed stays, cut to twelve";
+    press("PreviousRecord");
+    control<QLineEdit>("linkwlu").setText(u"7"_s);
+    press("PreviousRecord");
+    EXPECT_EQ(m_boxes.shown, (std::vector{noMore, noMore}));
+    EXPECT_EQ(control<QLineEdit>("linkwlu").text(), u""_s) << "the first record is shown afresh";
+}
+
+TEST_F(FrmwluTest, OffersTheListsOfWhatIsAllowed)
+{
+    const auto offered = [this] {
+        std::string shown;
+        for (const char* name : {"plucode", "plulist", "function1", "functionlist", "ListFilter", "ListHint"})
+            shown += control<QWidget>(name).isVisible() ? '1' : '0';
+        return shown;
+    };
+    EXPECT_EQ(offered(), "110010");
+    for (const auto& [name, shown] : {std::pair("allowfunction", "111110"),
+                                      {"plucode", "111010"},
+                                      {"function1", "101110"},
+                                      {"allowplu", "001110"},
+                                      {"allowcondiment", "111110"},
+                                      {"allowfunction", "110010"},
+                                      {"allowcondiment", "000001"}}) {
+        QTest::mouseClick(&control<QWidget>(name), Qt::LeftButton, {}, QPoint(8, 8));
+        EXPECT_EQ(offered(), shown) << name;
+    }
+    press("NextRecord");
+    EXPECT_EQ(offered(), "001110");
+}
+
+TEST_F(FrmwluTest, FillsMovesAndSavesLines)
+{
+    click("Grid1", 3);
+    click("plulist", 2);
+    EXPECT_TRUE(QByteArray::fromStdString(lines()).endsWith("Not Used 0 | PLU P00000000000002001 Cake"));
+    auto& grid = control<QTableView>("Grid1");
+    for (const int step : {1, 2})
+        QTest::keyClick(m_form->windowHandle(), Qt::Key_Up, Qt::AltModifier, step);
+    EXPECT_EQ(grid.currentIndex(), grid.model()->index(1, 2));
+    QTest::keyClick(&grid, Qt::Key_Down);
+    QTest::keyClick(&grid, Qt::Key_Return);
+    QTest::keyClicks(m_form->focusWidget(), u"cola"_s);
+    m_shop.execute("delete * from pludata where description = 'Cola'");
+    QTest::keyClick(m_form->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(m_form->focusWidget(), &grid);
+    EXPECT_EQ(lines(), "PLU 000000000000001001\nCola | PLU P00000000000002001 Cake | Condiment PLU ITEM | "
+                       "Not Used 0");
+    const auto drop = [&](int from, int before, int on) {
+        const std::unique_ptr<QMimeData> dragged(grid.model()->mimeData({grid.model()->index(from, 2)}));
+        grid.model()->dropMimeData(dragged.get(), Qt::MoveAction, before, 0, grid.model()->index(on, 0));
+        return grid.currentIndex().row();
+    };
+    EXPECT_EQ(drop(0, 2, -1), 1) << "between lines 2 and 3";
+    EXPECT_EQ(drop(1, -1, 2), 2) << "on line 3";
+    EXPECT_EQ(drop(0, -1, -1), 3) << "below all";
+    press("CSCmdBtn1");
+    EXPECT_EQ(stored(1), "0:1001 1:1002 :0 :0");
+    m_boxes.answers = {true};
+    press("CSCmdBtn1");
+    EXPECT_EQ(m_boxes.shown, (std::vector(2, norvane::test::ShownBox{u"Save Changes?"_s, u"Save Details."_s,
+                                                                     BoxIcon::Question})));
+    EXPECT_EQ(stored(1), "0:1001 0:2001 0:0 0:0");
+    EXPECT_EQ(lines(), "PLU 0 | PLU 000000000000002001\nCake | PLU 0 | PLU 0")
+        << "shown afresh: the cola is gone";
+}
+
+TEST_F(FrmwluTest, DeletesALineAtOnceAndAsksBeforeANewNumber)
+{
+    control<QLineEdit>("description").setText(u"Cold Drinks"_s);
+    press("CSCmdBtn3");
+    EXPECT_EQ(stored(1), "1:1002 0:0 0:0 0:0");
+    EXPECT_EQ(m_shop.column("WLU", "DESCRIPTION"), "Cold Drinks|Payment");
+    EXPECT_TRUE(m_boxes.shown.empty());
+    for (const bool answer : {false, true}) {
+        control<QLineEdit>("WLUNumber").setText(u"9"_s);
+        m_boxes.answers = {true, answer};
+        press("CSCmdBtn1");
+        EXPECT_EQ(m_boxes.shown.back().preset, BoxAnswer::No);
+        EXPECT_EQ(m_shop.column("WLU", "WLUno"), answer ? "2|9" : "1|2");
+    }
+}
+
+} // namespace
+} // namespace norvane::keys
