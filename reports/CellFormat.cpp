@@ -17,7 +17,7 @@ struct NamedFormat {
     int mostDecimals;
 };
 
-/// Registers weigh and count to a thousandth; money has two places where the shop says nothing else.
+/// Registers weigh and count to a thousandth. Money has two places unless the shop's settings say otherwise.
 constexpr std::array<NamedFormat, 8> namedFormats{{
     {"Text"_L1, FormatKind::Text, 0, 0},
     {"Digits"_L1, FormatKind::Digits, 0, 0},

@@ -1,4 +1,4 @@
-// The formats that a layout can give a column, and how they turn a field into what is read.
+// The formats that a layout can give a column, and how each turns a stored field into text.
 #pragma once
 
 #include "reports/ReportData.h"
@@ -28,7 +28,7 @@ struct CellFormat {
     FormatKind kind = FormatKind::Text;
     int leastDecimals = 0;
     int mostDecimals = 0;
-    QHash<QString, QString> words; ///< by number
+    QHash<QString, QString> words; ///< of FormatKind::Words: from the stored number to its word
 
     [[nodiscard]] bool isNumber() const { return kind == FormatKind::Number || kind == FormatKind::Money; }
     [[nodiscard]] Alignment alignment() const;
@@ -36,12 +36,12 @@ struct CellFormat {
     [[nodiscard]] QString text(const store::Value& value) const;
 };
 
-/// "Text", "Digits", "Money", "Quantity", "Date", "Day", "Time", "YesNo", or a pattern such as "0.00" and
-/// "0.###". @return nothing for any other text.
+/// Reads "Text", "Digits", "Money", "Quantity", "Date", "Day", "Time", "YesNo", or a pattern such as "0.00"
+/// and "0.###". @return nothing for any other text.
 [[nodiscard]] std::optional<CellFormat> parseFormat(QStringView text);
 
-/// "0;None,1;Added": the words for numbers, as the lists of screens have them. @return nothing for any other
-/// text.
+/// Reads "0;None,1;Added": a word for each number, written as in the lists of screens.
+/// @return nothing when a number has no word.
 [[nodiscard]] std::optional<QHash<QString, QString>> parseWords(const QString& text);
 
 } // namespace norvane::reports

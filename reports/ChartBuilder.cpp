@@ -1,10 +1,8 @@
 // See ChartBuilder.h.
 #include "reports/ChartBuilder.h"
 
-#include "platform/DecimalTotal.h"
-#include "reports/ExactNumbers.h"
-
 #include <algorithm>
+#include <span>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,14 +13,6 @@ namespace
 
 /// More bars than this cannot be told apart on a page.
 constexpr std::size_t mostDays = 62;
-
-Decimal sumOf(const std::vector<ChartPoint>& points, std::size_t from, std::size_t to)
-{
-    DecimalTotal total;
-    for (std::size_t i = from; i < to; ++i)
-        total.add(std::string_view(points[i].value.text()));
-    return decimalOf(total.text());
-}
 
 bool isSameMonth(QDate left, QDate right)
 {
@@ -48,8 +38,14 @@ Chart ChartPoints::finished(int moneyDecimals)
     } else if (m_points.size() > mostDays && m_days.size() == m_points.size()) {
         putMonthsTogether();
     }
-    Chart chart{m_layout.kind, m_layout.title, m_layout.isMoney ? moneyDecimals : 0, {}};
-    // A course of one point is none.
+    const CellFormat& format = m_layout.valueFormat;
+    const bool isMoney = format.kind == FormatKind::Money;
+    Chart chart{m_layout.kind,
+                m_layout.title,
+                isMoney ? moneyDecimals : format.leastDecimals,
+                isMoney ? moneyDecimals : format.mostDecimals,
+                {}};
+    // One bar alone shows no course of things.
     if (m_layout.kind != ChartKind::Course || m_points.size() > 1)
         chart.points = std::move(m_points);
     return chart;
@@ -62,13 +58,15 @@ void ChartPoints::putMonthsTogether()
         std::size_t to = from;
         while (to < m_points.size() && isSameMonth(m_days[from], m_days[to]))
             ++to;
-        months.push_back({m_days[from].toString(u"MM/yyyy"), sumOf(m_points, from, to)});
+        months.push_back(
+            {m_days[from].toString(u"MM/yyyy"), sumOf(std::span(m_points).subspan(from, to - from))});
         from = to;
     }
     m_points = std::move(months);
 }
 
-/// What a ranking leaves out is not missed; of shares the rest stands as one, or they would not make a whole.
+/// A ranking drops all other points. Shares keep the sum of the others as one more, or they would not make
+/// up the whole.
 void ChartPoints::keepLargest()
 {
     std::erase_if(m_points, [](const ChartPoint& point) { return point.value.coefficient() <= 0; });
@@ -77,7 +75,7 @@ void ChartPoints::keepLargest()
     const auto most = static_cast<std::size_t>(m_layout.most);
     if (most == 0 || m_points.size() <= most)
         return;
-    const Decimal rest = sumOf(m_points, most, m_points.size());
+    const Decimal rest = sumOf(std::span(m_points).subspan(most));
     m_points.resize(most);
     if (m_layout.kind == ChartKind::Shares)
         m_points.push_back({u"Others"_s, rest});

@@ -1,4 +1,4 @@
-// Collects the points of a report's pictures.
+// Collects the points of a report's charts.
 #pragma once
 
 #include "reports/FieldTexts.h"
@@ -11,16 +11,18 @@
 namespace norvane::reports
 {
 
-/// One picture on its way: points as they come, then the best, or days put together to months.
+/// One chart in the making. It takes all points first; finished() then keeps the largest, or adds up days to
+/// months when there are too many.
 class ChartPoints
 {
 public:
     explicit ChartPoints(const ChartLayout& layout) : m_layout(layout) {}
 
     [[nodiscard]] const ChartLayout& layout() const { return m_layout; }
-    /// @param day of a picture over days.
+    /// @param day of the point, in a chart over days.
     void add(const QString& label, const SlotNumbers& numbers, QDate day = {});
-    /// @param moneyDecimals of the shop. @return a picture without points when there is nothing to see.
+    /// @param moneyDecimals the decimal places of money at this shop.
+    /// @return a chart without points when there is nothing to see.
     [[nodiscard]] Chart finished(int moneyDecimals);
 
 private:
@@ -29,10 +31,10 @@ private:
 
     const ChartLayout& m_layout;
     std::vector<ChartPoint> m_points;
-    std::vector<QDate> m_days; ///< of the points of a picture over days
+    std::vector<QDate> m_days; ///< one for each point of a chart over days; else empty
 };
 
-/// The pictures that are made from the lines and groups of the report itself.
+/// All charts of a report. Those over its lines or groups get their points here, as the lines are made.
 class ChartBuilder
 {
 public:
@@ -40,7 +42,7 @@ public:
 
     void addLine(const LineFields& fields, const SlotNumbers& numbers);
     void addGroup(const QString& heading, const SlotNumbers& totals);
-    /// In the order of the layout; those with a query of their own get their points by it.
+    /// In the order of the layout. A chart with a query of its own gets its points from that query later.
     [[nodiscard]] std::vector<ChartPoints>& charts() { return m_charts; }
 
 private:

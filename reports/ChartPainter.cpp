@@ -1,4 +1,4 @@
-// Title and choice of the picture; see ChartPainter.h.
+// Paints the title and calls the painter of the chart's kind; see ChartPainter.h.
 #include "reports/ChartPainter.h"
 
 #include "reports/CourseChart.h"

@@ -1,5 +1,5 @@
-// Paints the pictures beside a report's lines. Every value stands in words as well, and what must be told
-// apart differs in lightness, so that they read in black and white.
+// Paints the charts beside a report's lines. Charts must read in black and white as well: parts that must be
+// told apart differ in lightness, and rankings and shares show each value as a number too.
 #pragma once
 
 #include "reports/PageText.h"

@@ -12,7 +12,7 @@ namespace norvane::reports
 namespace
 {
 
-constexpr double pixelsPerMillimetre = paper::screenDotsPerInch / 25.4;
+const double pixelsPerMillimetre = paper::millimetres(1).inDots(paper::screenDotsPerInch);
 constexpr double margin = 5; ///< around charts, in mm
 
 } // namespace
@@ -47,7 +47,7 @@ protected:
 
 private:
     [[nodiscard]] double chartWidth() const { return width() / pixelsPerMillimetre - 2 * margin; }
-    /// With the space below; nothing for a chart that shows nothing.
+    /// In mm, with the space below the chart; 0 for a chart without points.
     [[nodiscard]] double heightOf(const Chart& chart) const
     {
         return chart.points.empty() ? 0 : chartHeight(chart, chartWidth()) + margin;

@@ -1,6 +1,8 @@
 // See ColumnPlaces.h.
 #include "reports/ColumnPlaces.h"
 
+#include "reports/ExactNumbers.h"
+
 #include <QLocale>
 
 #include <algorithm>
@@ -13,18 +15,11 @@ namespace
 
 constexpr double usualSize = 3.1;
 constexpr double smallestSize = 1.9;
-/// A text column narrower than this would be a ladder of single letters.
+/// A text in a column narrower than this, in mm, would be broken after every few letters.
 constexpr double leastTextWidth = 14;
 
-int digitsOf(std::int64_t number)
-{
-    int digits = 1;
-    for (number /= 10; number != 0; number /= 10)
-        ++digits;
-    return digits;
-}
-
-/// What a number takes at most, counted without spelling it: lists may have 100,000 lines.
+/// The width of a cell that must not be cut, in mm. Numbers are measured by their count of digits and never
+/// spelled out, since lists may have 100,000 lines. Texts count as nothing: they can be broken.
 class WidestCell
 {
 public:
@@ -41,10 +36,12 @@ public:
     double operator()(const QDate&) const { return m_day; }
     double operator()(const Decimal& number) const
     {
-        const int whole = std::max(1, digitsOf(number.coefficient()) - number.scale());
+        int whole = std::max(1, digitsOf(number.coefficient()) - number.scale());
         const int places = std::clamp(number.scale(), m_column.leastDecimals,
                                       std::max(m_column.leastDecimals, m_column.mostDecimals));
-        // A rounding up may add a digit; sign and point take a sign's room each.
+        if (number.scale() > places)
+            ++whole; // 9.99 may be shown as 10.0
+        // The point takes no more room than the sign.
         return (whole + places) * m_digit + (places > 0 ? m_sign : 0) +
                (number.coefficient() < 0 ? m_sign : 0);
     }
@@ -92,7 +89,7 @@ double sum(const std::vector<double>& widths)
     return std::accumulate(widths.begin(), widths.end(), 0.0);
 }
 
-/// Own widths where there is room; else each gives up what it can spare, in proportion.
+/// The layout's widths where there is room. Else each column gives up the same part of what it can spare.
 std::vector<double> fittedWidths(const ReportData& report, const std::vector<double>& needed, double width)
 {
     std::vector<double> widths = needed;

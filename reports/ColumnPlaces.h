@@ -8,7 +8,7 @@
 namespace norvane::reports
 {
 
-/// From a page's left edge, in mm.
+/// The place of one column across the page, in mm from the page's left edge.
 struct ColumnPlace {
     double left = 0;
     double width = 0;
@@ -18,15 +18,15 @@ struct ColumnPlace {
 /// Where the columns stand and how large their letters are.
 struct ColumnPlaces {
     std::vector<ColumnPlace> columns;
-    double textSize = 0; ///< of letters in lines and headings, in mm
+    double textSize = 0; ///< height of the letters in lines and column headings, in mm
 };
 
 /// Free space at both sides of a cell, in mm.
 inline constexpr double cellMargin = 1.3;
 
-/// Fills @p width mm from @p left with the columns of @p report in proportion to their own widths. No number
-/// is cut: where space is short, texts give way first, to be broken into rows, and then all letters become
-/// smaller.
+/// Fills @p width mm from @p left with the columns of @p report, in proportion to the widths of the layout.
+/// No number is cut: where space is short, text columns become narrower first, so that texts break into rows;
+/// if that is not enough, all letters become smaller.
 [[nodiscard]] ColumnPlaces fitColumns(const ReportData& report, const PageText& text, double left,
                                       double width);
 

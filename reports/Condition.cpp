@@ -1,4 +1,4 @@
-// What becomes of a parsed selection: its tables, its period, its SQL; see SelectionFormula.h.
+// What a parsed selection formula asks for: tables, period and SQL; see SelectionFormula.h.
 #include "reports/SelectionFormula.h"
 
 #include <algorithm>
@@ -19,12 +19,13 @@ bool isTest(const Condition& condition)
     return condition.kind == Condition::Kind::Test || condition.kind == Condition::Kind::Twins;
 }
 
-/// Nothing when the condition restricts nothing.
-std::optional<Condition> restricted(const Condition& condition, const Reads& reads, QStringList& others)
+/// @param isNegated whether the condition stands behind a "not". @return nothing when it restricts nothing.
+std::optional<Condition> restricted(const Condition& condition, const Reads& reads, QStringList& others,
+                                    bool isNegated = false)
 {
+    using Kind = Condition::Kind;
     if (isTest(condition)) {
-        const auto* const second = condition.other.table;
-        for (const auto* const table : {condition.field.table, second}) {
+        for (const auto* const table : {condition.field.table, condition.other.table}) {
             if (!table || reads(*table))
                 continue;
             if (!others.contains(table->name))
@@ -35,14 +36,16 @@ std::optional<Condition> restricted(const Condition& condition, const Reads& rea
     }
     Condition left;
     left.kind = condition.kind;
+    const bool negatesParts = isNegated != (condition.kind == Kind::Not);
     for (const auto& part : condition.parts) {
-        auto rest = restricted(part, reads, others);
+        auto rest = restricted(part, reads, others, negatesParts);
         if (rest)
             left.parts.push_back(std::move(*rest));
     }
-    // Of "one or the other" every row may be the other.
+    // Any row may pass an "or" by the part that is not tested. Behind a "not" this goes for an "and" instead.
+    const bool needsAllParts = condition.kind == (isNegated ? Kind::All : Kind::Any);
     const bool isWhole = left.parts.size() == condition.parts.size();
-    if (left.parts.empty() || (condition.kind != Condition::Kind::All && !isWhole))
+    if (left.parts.empty() || (needsAllParts && !isWhole))
         return std::nullopt;
     return left;
 }
@@ -106,7 +109,8 @@ public:
     }
 
 private:
-    /// The engine takes a tree of some hundred levels only; a chain of thousands is laid out as a flat one.
+    /// The engine takes only some hundred levels of brackets. Halving keeps a chain of thousands of tests
+    /// flat.
     std::string halves(std::span<const Condition> parts, const char* word)
     {
         if (parts.size() == 1)
@@ -121,8 +125,8 @@ private:
         const auto type = condition.field.definition().type;
         std::string column = m_column(condition.field);
         m_values.push_back(condition.value);
-        // A text of digits compared with a number: by value, leading zeros or not.
-        if (!condition.value.isText() && (type == FieldType::Text || type == FieldType::Digits))
+        // A text of digits is compared with a number by value, so leading zeros do not matter.
+        if (!condition.value.isText() && (condition.field.isText()))
             column = "CAST(" + column + " AS NUMERIC)";
         // Any number but 0 means yes.
         if (type == FieldType::YesNo)

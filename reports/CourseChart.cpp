@@ -43,8 +43,10 @@ ValueScale makeScale(const Chart& chart)
         scale.low = std::min(scale.low, point.value.toDouble());
         scale.high = std::max(scale.high, point.value.toDouble());
     }
+    // No step is finer than the numbers beside it can tell.
+    const double finest = std::pow(10, -chart.mostDecimals);
     if (scale.high > scale.low)
-        scale.step = roundStep((scale.high - scale.low) / wantedSteps);
+        scale.step = std::max(finest, roundStep((scale.high - scale.low) / wantedSteps));
     scale.low = std::floor(scale.low / scale.step) * scale.step;
     scale.high = std::max(scale.step, std::ceil(scale.high / scale.step) * scale.step);
     return scale;
@@ -78,7 +80,7 @@ private:
     }
     [[nodiscard]] QString tick(double value) const
     {
-        return shownNumber(Decimal::fromDouble(value), 0, m_chart.decimals);
+        return shownNumber(Decimal::fromDouble(value), 0, m_chart.mostDecimals);
     }
 
     void paintScale()
@@ -103,7 +105,7 @@ private:
             ink::bar);
     }
 
-    /// As many labels as stand side by side, always from the first on.
+    /// Only every second, third and so on where all labels would not fit side by side; always the first.
     void paintLabels()
     {
         double widest = 0;
@@ -121,8 +123,8 @@ private:
     const Chart& m_chart;
     const PageText& m_text;
     ValueScale m_scale;
-    QRectF m_field; ///< of the bars
-    double m_pitch = 1;
+    QRectF m_field;     ///< where the bars stand
+    double m_pitch = 1; ///< from one bar to the next, in mm
 };
 
 } // namespace

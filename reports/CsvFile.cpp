@@ -1,4 +1,4 @@
-// The CSV; see ReportFiles.h.
+// Writes the CSV file; see ReportFiles.h.
 #include "reports/PageText.h"
 #include "reports/ReportFiles.h"
 #include "reports/TargetFile.h"
@@ -14,8 +14,8 @@ namespace norvane::reports
 namespace
 {
 
-/// Spreadsheets take the list separator of the system, which is a semicolon wherever the comma parts the
-/// decimals.
+/// Spreadsheets expect the list separator of the user's system. That is a semicolon wherever a comma is the
+/// decimal sign.
 char listSeparator()
 {
     return QLocale().decimalPoint() == ","_L1 ? ';' : ',';
@@ -54,19 +54,19 @@ private:
         m_content += '"';
     }
 
-    QByteArray m_content = "\xEF\xBB\xBF"_ba; ///< the mark of UTF-8 first
+    QByteArray m_content = "\xEF\xBB\xBF"_ba; ///< begins with the byte order mark of UTF-8
     char m_separator = listSeparator();
     bool m_isFirst = true;
 };
 
-/// A spreadsheet must not reckon with a name that begins like a formula; a blank ahead keeps it from that.
+/// A spreadsheet would calculate a text that begins like a formula; a blank before it makes it a text.
 QString harmless(const QString& text)
 {
     static constexpr QStringView formulaSigns = u"=+-@";
     return !text.isEmpty() && formulaSigns.contains(text.front()) ? u' ' + text : text;
 }
 
-/// The cell as shown, but days as every spreadsheet knows them.
+/// The cell as the preview shows it, but a day as yyyy-mm-dd, which every spreadsheet knows.
 QString csvValue(const ReportData& report, qsizetype line, int column)
 {
     const Cell cell = report.cell(line, column);

@@ -15,7 +15,7 @@ namespace
 
 constexpr std::size_t mostDigits = 18;
 
-/// How many of the characters of @p number stand for its first 18 digits; leading zeros are none.
+/// How many characters @p number has up to its 18th digit. Leading zeros do not count as digits.
 std::size_t lengthOfFirstDigits(std::string_view number)
 {
     std::size_t digits = 0;
@@ -34,12 +34,15 @@ bool hasDigitButZero(std::string_view text)
     return text.find_first_of("123456789") != std::string_view::npos;
 }
 
-/// A last digit of 0 or 5 might be taken for an exact half: one more tells that something followed.
+/// The digits behind the kept ones are not all zero. A last digit of 0 or 5 is raised by one, so that a later
+/// rounding does not take it for an exact half or a whole.
 void markTail(std::string& kept)
 {
     if (kept.back() == '0' || kept.back() == '5')
         ++kept.back();
 }
+
+} // namespace
 
 int digitsOf(std::int64_t number)
 {
@@ -48,8 +51,6 @@ int digitsOf(std::int64_t number)
         ++digits;
     return digits;
 }
-
-} // namespace
 
 std::string exactText(const store::Value& value)
 {
@@ -88,14 +89,14 @@ Decimal product(const Decimal& left, const Decimal& right)
         return digitsOf(a.coefficient()) + digitsOf(b.coefficient()) > int{mostDigits};
     };
     while (wide() && a.scale() + b.scale() > 0) {
-        // The longer one can spare a place more easily.
+        // Dropping the last place of the longer number changes the product least.
         Decimal& longer =
             (b.scale() == 0 || (a.scale() > 0 && digitsOf(a.coefficient()) > digitsOf(b.coefficient()))) ? a
                                                                                                          : b;
         longer = longer.rounded(longer.scale() - 1);
     }
     if (wide())
-        return Decimal(a.coefficient(), 0).shifted(static_cast<int>(mostDigits)); // fails: too large
+        return Decimal(a.coefficient(), 0).shifted(static_cast<int>(mostDigits)); // throws: too large
     return {a.coefficient() * b.coefficient(), a.scale() + b.scale()};
 }
 

@@ -1,14 +1,18 @@
-// Numbers of any length, spelled as decimals, on their way into the cells of a report.
+// Turns stored values and totals, which may have any number of digits, into the numbers of a report's cells.
 #pragma once
 
 #include "platform/Decimal.h"
 #include "store/Value.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace norvane::reports
 {
+
+/// The count of decimal digits of @p number without its sign; 1 for 0.
+[[nodiscard]] int digitsOf(std::int64_t number);
 
 /// The decimal that a stored value stands for, spelled out: a double is its shortest decimal; null, a text
 /// that is no number and a date count as "0".
@@ -20,7 +24,7 @@ namespace norvane::reports
 /// @throws RuntimeFailure 6 when there are more than 18 digits before the point.
 [[nodiscard]] Decimal decimalOf(std::string_view exact);
 
-/// Exact as long as it has at most 18 digits, else rounded to them.
+/// The product of both: exact when it has at most 18 digits, else rounded to 18.
 /// @throws RuntimeFailure 6 when there are more than 18 digits before the point.
 [[nodiscard]] Decimal product(const Decimal& left, const Decimal& right);
 

@@ -11,14 +11,14 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::reports
 {
 
-/// Adds spelled numbers; the sign is turned by the caller.
+/// Adds up decimals that are given as texts; those that are taken away are added with the other sign.
 class ExactTotal
 {
 public:
     void add(std::string_view number, bool negative)
     {
         if (number == "0")
-            return; // nearly all levels of nearly all lines
+            return; // most fields of most lines are zero
         if (!negative) {
             m_total.add(number);
         } else if (number.starts_with('-')) {
@@ -40,7 +40,7 @@ constexpr int quotientDigits = 17;
 
 } // namespace
 
-/// Recursive descent: a sum of products of parts.
+/// Parses by recursive descent: a sum is made of products, a product of parts.
 class ExpressionParser
 {
 public:
@@ -185,7 +185,7 @@ private:
         addNumbered(expressions, *from, last, column);
     }
 
-    /// The fields behind @p from whose numbers lead to that of @p last: COUNT2, COUNT3 ...
+    /// Adds the fields numbered behind @p from up to @p last: after COUNT1, these are COUNT2, COUNT3 ...
     void addNumbered(std::vector<Expression>& expressions, const FieldName& from, const FieldName& last,
                      qsizetype column)
     {

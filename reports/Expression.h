@@ -1,4 +1,4 @@
-// Numbers that a layout reckons from fields: "{PLUSALES.VALUE1} / {PLUSALES.COUNT1}".
+// Numbers that a layout calculates from fields: "{PLUSALES.VALUE1} / {PLUSALES.COUNT1}".
 #pragma once
 
 #include "platform/Decimal.h"
@@ -24,21 +24,20 @@ struct FieldSlots {
     std::function<Slot(const FieldName&, qsizetype column)> slotOf;
 };
 
-/// The numbers in the slots as exact decimals, of a line (or of a group's or the report's totals) and of the
-/// whole report.
+/// The numbers that an expression is calculated from: one exact decimal for each slot.
 struct SlotNumbers {
-    std::span<const std::string> here;
-    std::span<const std::string> whole; ///< empty unless something asks for it
+    std::span<const std::string> here;  ///< of one line, or totals of a group or of the report
+    std::span<const std::string> whole; ///< totals of the whole report; empty unless an expression uses them
 };
 
 /// A parsed expression. Additions are exact; products and quotients have 17 digits at least.
 class Expression
 {
 public:
-    /// Nothing when it divides by zero. @throws RuntimeFailure 6 when the number has more than 18 digits
-    /// before the point.
+    /// @return nothing when it divides by zero. @throws RuntimeFailure 6 when the number has more than 18
+    /// digits before the point.
     [[nodiscard]] std::optional<Decimal> value(const SlotNumbers& numbers) const;
-    /// Whether it asks for totals of the whole report.
+    /// Whether it uses totals of the whole report.
     [[nodiscard]] bool needsWhole() const;
     /// Marks the slots that it reads.
     void markSlots(std::vector<bool>& slots) const;
@@ -59,13 +58,13 @@ private:
     std::vector<Expression> m_parts;
 };
 
-/// Fields in braces, numbers, + - * /, brackets, sum(a, b, {T.F1} to {T.F5}) over what it lists, and
-/// total(x): x of the whole report.
+/// Reads fields in braces, numbers, + - * /, brackets, sum(a, b, {T.F1} to {T.F5}) over all that it lists,
+/// and total(x): the value of x over the whole report.
 /// @throws FormulaError
 [[nodiscard]] Expression parseExpression(QStringView text, const FieldSlots& fields);
 
-/// Expressions with commas between them, where "{T.F2} to {T.F5}" stands for the numbered fields from one to
-/// the other.
+/// Reads expressions with commas between them. "{T.F2} to {T.F5}" stands for the numbered fields from the
+/// first to the last.
 /// @throws FormulaError
 [[nodiscard]] std::vector<Expression> parseExpressions(QStringView text, const FieldSlots& fields);
 

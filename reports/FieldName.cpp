@@ -15,6 +15,12 @@ bool FieldName::isNumber() const
            type == store::FieldType::Counter;
 }
 
+bool FieldName::isText() const
+{
+    const auto type = definition().type;
+    return type == store::FieldType::Text || type == store::FieldType::Digits;
+}
+
 std::optional<FieldName> findField(QStringView name, const store::TableDefinition* own)
 {
     const qsizetype point = name.indexOf(u'.');

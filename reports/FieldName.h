@@ -20,11 +20,13 @@ struct FieldName {
     /// As a formula names it.
     [[nodiscard]] QString text() const { return u'{' + table->name + u'.' + name() + u'}'; }
     [[nodiscard]] bool isNumber() const;
+    /// Also for a number of many digits, which is stored as text.
+    [[nodiscard]] bool isText() const;
     bool operator==(const FieldName&) const = default;
 };
 
-/// The field that @p name ("PLUSALES.ID", the braces left out) stands for. A name without a table is one of
-/// @p own, where there is such a table.
+/// Finds the field that @p name ("PLUSALES.ID", without braces) stands for. A name without a table is a field
+/// of the table @p own, if that is given.
 /// @return nothing when the catalogue has none of that name.
 [[nodiscard]] std::optional<FieldName> findField(QStringView name,
                                                  const store::TableDefinition* own = nullptr);

@@ -50,7 +50,7 @@ QString textOfParts(const Parts& parts, const CellFormat& format, const LineFiel
     return made;
 }
 
-/// A comma that waits for a further word is taken away.
+/// Takes away a comma behind which no further word came.
 QString withoutLastComma(const QString& text)
 {
     const QString trimmed = text.trimmed();

@@ -9,7 +9,7 @@ namespace norvane::reports
 /// The fields of a line, by slot.
 using LineFields = std::vector<store::Value>;
 
-/// The text with the fields in it; where all of them are empty, what the layout has for that case.
+/// Puts the fields into the text. When all of them are empty, the layout's text for a missing record is used.
 [[nodiscard]] QString textOf(const FieldText& text, const LineFields& fields);
 [[nodiscard]] QString textOf(const TextTemplate& text, const CellFormat& format, const LineFields& fields);
 

@@ -9,7 +9,7 @@ class QLineEdit;
 namespace norvane::reports
 {
 
-/// Seeks while the user types, from the line that is chosen on; Enter seeks the next one.
+/// Searches while the user types, beginning at the chosen line; Enter goes on to the next one.
 class FindBar : public QWidget
 {
     Q_OBJECT

@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr int mostNesting = 100;
-/// Of a token that a message repeats.
+/// The part of a token that a message repeats, in characters.
 constexpr qsizetype longestShown = 40;
 
 bool isDigit(QChar c)

@@ -1,4 +1,4 @@
-// The words of which selection formulas and the expressions of layouts are made.
+// Cuts selection formulas and the expressions of layouts into tokens.
 #pragma once
 
 #include "reports/FieldName.h"
@@ -37,12 +37,13 @@ struct Token {
     qsizetype column = 1;
 };
 
-/// Reads a formula from left to right with one token in sight. The formula must outlive it.
+/// Reads a formula from left to right, one token at a time. The formula must outlive it.
 class FormulaTokens
 {
 public:
-    /// @param own the table of fields without one. @throws FormulaError for a character that begins nothing,
-    /// or a brace or quote that is not closed; so do the functions below.
+    /// @param own the table of fields that are named without one. @throws FormulaError for a character that
+    /// no token begins with, and for a brace or quote that is not closed; so do all functions that take a
+    /// token.
     explicit FormulaTokens(QStringView formula, const store::TableDefinition* own = nullptr);
 
     [[nodiscard]] const Token& current() const { return m_current; }
@@ -57,7 +58,7 @@ public:
     void expectEnd();
     /// The field that stands here. @throws FormulaError also for one that the catalogue does not know.
     FieldName takeField();
-    /// Tells what should stand at the current token, and what stands there.
+    /// @throws FormulaError that says what should stand at the current token, and what stands there.
     [[noreturn]] void failExpecting(const QString& what) const;
 
 private:
@@ -74,7 +75,7 @@ private:
     int m_depth = 0;
 };
 
-/// Stands on the stack for each pair of brackets that a parser goes into.
+/// Counts how deep a parser is inside brackets: it makes one for each pair that it enters.
 class Nesting
 {
 public:

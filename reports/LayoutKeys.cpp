@@ -58,7 +58,7 @@ bool takeLines(const QString& value, LayoutTarget& target)
 
 bool takeWhere(const QString& value, LayoutTarget& target)
 {
-    // A layout names no period: those are the user's.
+    // No day is handed in: periods that end today are for the user's selection, not for a layout.
     const auto condition = parseSelection(value, QDate(), target.table());
     target.source->where = condition;
     const auto* const table = target.source->table;
@@ -75,10 +75,10 @@ bool takeFormat(const QString& value, CellFormat& format)
 
 bool takeColumnFormat(const QString& value, LayoutTarget& target)
 {
-    auto& [column, format, number, text, isTotalled, shownIf] = *target.column;
-    if (!takeFormat(value, format))
+    ColumnLayout& layout = *target.column;
+    if (!takeFormat(value, layout.format))
         return false;
-    column.alignment = format.alignment();
+    layout.column.alignment = layout.format.alignment();
     return true;
 }
 
@@ -93,7 +93,8 @@ bool takeWords(const QString& value, LayoutTarget& target)
     return true;
 }
 
-/// A number is reckoned; anything else is a text with fields in it. A day that stands alone stays a day.
+/// A number is calculated; any other value is a text with fields in it. A day alone in its column stays a
+/// day, so that spreadsheets can sort by it.
 bool takeColumnValue(const QString& value, LayoutTarget& target)
 {
     auto& layout = *target.column;
@@ -113,11 +114,12 @@ bool takeColumnValue(const QString& value, LayoutTarget& target)
 
 bool takeWidth(const QString& value, LayoutTarget& target)
 {
+    constexpr double narrowest = 1;
     constexpr double widest = 280;
     bool isNumber = false;
     const double width = value.toDouble(&isNumber);
     target.column->column.width = paper::millimetres(width);
-    return isNumber && width > 0 && width <= widest;
+    return isNumber && width >= narrowest && width <= widest;
 }
 
 bool takeSort(const QString& value, LayoutTarget& target)
@@ -146,7 +148,7 @@ bool takeChartBy(const QString& value, LayoutTarget& target)
     auto& source = target.chart->query.emplace();
     source.table = target.layout.source.table;
     source.keys = fields;
-    source.order.push_back({fields.empty() ? FieldName() : fields.front(), Order::Plain});
+    source.order.push_back({fields.front(), Order::Plain});
     target.chart->from = PointSource::Query;
     target.source = &source;
     return fields.size() == 1 && fields.front().table == source.table;
@@ -187,12 +189,10 @@ bool takeMost(const QString& value, LayoutTarget& target)
 
 bool takeValueFormat(const QString& value, LayoutTarget& target)
 {
-    CellFormat format;
-    target.chart->isMoney = takeFormat(value, format) && format.kind == FormatKind::Money;
-    return format.isNumber();
+    return takeFormat(value, target.chart->valueFormat) && target.chart->valueFormat.isNumber();
 }
 
-// Keys stand in the order in which they are taken: a table before its fields, a format before its value.
+// Keys are read in the order of these rows: a table before its fields, a format before its value.
 // clang-format off
 constexpr std::array<KeyRule, 6> reportKeys{{
     {u"Title", true, "the heading of the report"_L1, [](const QString& value, LayoutTarget& target) { target.layout.title = value; return true; }},

@@ -1,4 +1,4 @@
-// The keys of layout files, section by section: how each is taken and what is expected in it.
+// The keys of layout files, section by section: how each is read and which value is expected.
 #pragma once
 
 #include "reports/LayoutTexts.h"
@@ -8,10 +8,10 @@
 namespace norvane::reports
 {
 
-/// What the keys are taken into: the layout, and what a value needs to know of its section.
+/// Where the values of the keys go: the layout, and the part of it that the section describes.
 struct LayoutTarget {
     ReportLayout& layout;
-    LineSource* source = nullptr; ///< whose fields the section names
+    LineSource* source = nullptr; ///< reads the fields that the section names
     Join* join = nullptr;
     ColumnLayout* column = nullptr;
     ChartLayout* chart = nullptr;
@@ -20,7 +20,8 @@ struct LayoutTarget {
     [[nodiscard]] FieldSlots fields() const { return fieldSlots(layout, *source); }
 };
 
-/// @return false when the value is not as the rule expects it. @throws FormulaError likewise, with a place.
+/// Puts the value of a key into the layout. @return false when it is not what the rule expects.
+/// @throws FormulaError when it is not, and the column of the mistake is known.
 using Take = bool (*)(const QString& value, LayoutTarget& target);
 
 struct KeyRule {

@@ -33,9 +33,9 @@ public:
         readKeys(u"Report"_s, layoutKeys().report, target);
         readJoins();
         readColumns();
-        if (m_file.sections().contains(u"Group"_s, Qt::CaseInsensitive))
+        if (hasSection(u"Group"_s))
             readKeys(u"Group"_s, layoutKeys().group, target);
-        if (m_file.sections().contains(u"Sort"_s, Qt::CaseInsensitive))
+        if (hasSection(u"Sort"_s))
             readKeys(u"Sort"_s, layoutKeys().sort, target);
         readCharts();
         return std::move(m_layout);
@@ -51,7 +51,8 @@ private:
         fail(u"section [%1], key %2"_s.arg(section, key), text);
     }
 
-    /// A misspelt section would be passed over, and so would all behind a gap in the numbers.
+    /// Without this check a misspelt section would be left out in silence, and so would every section behind
+    /// a gap in the numbers.
     void checkSections() const
     {
         static const QRegularExpression known(u"^(Report|Group|Sort|(Join|Column|Chart)([1-9][0-9]*))$"_s,

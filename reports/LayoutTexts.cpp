@@ -16,7 +16,7 @@ const Join* joinOf(const ReportLayout& layout, const store::TableDefinition* tab
     return found == layout.joins.end() ? nullptr : &*found;
 }
 
-/// The field of the report's own table by which @p field is found in the end.
+/// Follows the joins back to the field of the report's own table by which the record of @p field is found.
 FieldName rootOf(const ReportLayout& layout, FieldName field)
 {
     while (const auto* join = joinOf(layout, field.table))

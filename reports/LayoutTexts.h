@@ -1,4 +1,4 @@
-// Values of layout files that name fields, and which fields a report may name.
+// Reads the values of layout files that name fields, and checks which fields a report may name.
 #pragma once
 
 #include "reports/ReportLayout.h"
@@ -9,7 +9,7 @@ namespace norvane::reports
 /// Fields with commas between them. @throws FormulaError
 [[nodiscard]] std::vector<FieldName> parseFields(QStringView text, const store::TableDefinition* own);
 
-/// A field with the words "by value" or "descending" behind it, or nothing. @return nothing for other words.
+/// A field, alone or with the words "by value" or "descending" behind it. @return nothing for other words.
 /// @throws FormulaError
 [[nodiscard]] std::optional<SortKey> parseSortKey(QStringView text, const store::TableDefinition* own);
 
@@ -22,7 +22,7 @@ namespace norvane::reports
 void checkField(const ReportLayout& layout, const LineSource& source, const FieldName& field,
                 qsizetype column);
 
-/// Hands out the slots of the fields that are named, each checked.
+/// Gives each field that is named a slot in @p source, after checkField().
 [[nodiscard]] FieldSlots fieldSlots(const ReportLayout& layout, LineSource& source);
 
 } // namespace norvane::reports

@@ -12,7 +12,8 @@ namespace norvane::reports
 namespace
 {
 
-/// The first column of texts that are no numbers; else the first of any texts.
+/// The column in which the label of a total stands: the first that shows words and is always shown, else the
+/// first of all.
 std::size_t labelColumnOf(const ReportLayout& layout)
 {
     const auto& columns = layout.columns;

@@ -26,25 +26,25 @@ private:
     std::vector<DecimalTotal> m_totals;
 };
 
-/// The numbers of a line as exact decimals; slots that nothing reckons with stay "0".
+/// The numbers of a line as exact decimals. Slots that no column and no chart calculates with stay "0".
 class LineNumbers
 {
 public:
     explicit LineNumbers(const ReportLayout& layout);
     void read(const LineFields& fields);
     [[nodiscard]] const std::vector<std::string>& numbers() const { return m_numbers; }
-    /// Whether all that the line tells beside its number is zero.
+    /// Whether all amounts of the line are zero; the number of its record does not count.
     [[nodiscard]] bool areZero() const;
 
 private:
-    std::vector<bool> m_isReckoned;
-    std::vector<bool> m_isSum;   ///< spelled as an exact decimal already
-    std::vector<bool> m_isValue; ///< no number of a record
+    std::vector<bool> m_isReckoned; ///< some column or chart calculates with the slot
+    std::vector<bool> m_isSum;      ///< the query gives it as the text of an exact decimal
+    std::vector<bool> m_isValue;    ///< an amount, and not the number of a record
     std::vector<std::string> m_numbers;
 };
 
-/// Takes the rows in their order. Where the layout needs the totals of the whole report, they are handed in
-/// before the first row.
+/// Makes lines from rows that come in their order. Totals of the whole report, if the layout needs them, are
+/// handed in before the first row.
 class LineBuilder
 {
 public:

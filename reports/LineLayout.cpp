@@ -8,9 +8,9 @@ namespace norvane::reports
 namespace
 {
 
-constexpr double rowPitch = 1.35;    ///< of a row to the letters' size
-constexpr double linePadding = 0.35; ///< above and below the text of a line
-constexpr double headingLead = 1.6;  ///< parts a group from the one before it
+constexpr double rowPitch = 1.35;    ///< height of a row as a multiple of the letters' size
+constexpr double linePadding = 0.35; ///< above and below the text of a line, in mm
+constexpr double headingLead = 1.6;  ///< more space above the heading of a group, in mm
 
 } // namespace
 
@@ -48,7 +48,7 @@ int LineLayout::firstColumn(qsizetype line, int column) const
     return column;
 }
 
-/// The column that it may run to.
+/// The column that the text of @p column may run to.
 int LineLayout::lastColumn(qsizetype line, int column) const
 {
     const LineKind kind = m_report.lineKind(line);
@@ -67,7 +67,7 @@ ColumnPlace LineLayout::textPlace(qsizetype line, int column) const
     return {first.left + cellMargin, last.right() - first.left - 2 * cellMargin};
 }
 
-/// Only texts take several rows; numbers are not even looked at.
+/// Only texts take several rows, so numbers need not be measured.
 int LineLayout::rowCount(qsizetype line) const
 {
     qsizetype rows = 1;

@@ -1,4 +1,4 @@
-// How a line of a report stands in its columns.
+// Places the cells of one line of a report in its columns.
 #pragma once
 
 #include "reports/ColumnPlaces.h"
@@ -8,9 +8,9 @@
 namespace norvane::reports
 {
 
-/// What is painted in a cell: its text in rows from the line's top.
+/// What is painted for one cell: its text, broken into rows from the top of the line.
 struct CellBox {
-    ColumnPlace place; ///< without the cell's margins
+    ColumnPlace place; ///< in mm, without the cell's margins
     QStringList rows;
     Alignment alignment = Alignment::Left;
 };

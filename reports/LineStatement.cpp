@@ -20,20 +20,12 @@ namespace norvane::reports
 namespace
 {
 
-using store::FieldType;
-
 std::string quoted(const QString& name)
 {
     return '"' + QString(name).replace(u'"', u"\"\""_s).toStdString() + '"';
 }
 
-bool isText(const FieldName& field)
-{
-    const auto type = field.definition().type;
-    return type == FieldType::Text || type == FieldType::Digits;
-}
-
-/// Registers fill numbers with zeros and blanks; what is left without them is the same for "007" and 7.
+/// Registers fill numbers up with zeros and blanks. Without these, "007" and 7 are the same text.
 std::string byValue(const std::string& column)
 {
     return "ltrim(trim(" + column + "),'0')";
@@ -53,7 +45,7 @@ public:
         for (const auto& key : source.order)
             need(key.field);
         collectConditionFields(condition);
-        // A join may hang on another one that stands before it.
+        // A join may be found by a field of an earlier join, so the last join is looked at first.
         for (std::size_t number = joins.size(); number-- > 0;) {
             if (isJoined(*joins[number].table))
                 need(joins[number].of);
@@ -80,7 +72,8 @@ private:
             m_fields.push_back(field);
     }
 
-    /// Fields of the report's own table are read where they lie; those of joined ones must be fetched.
+    /// A condition can read the fields of the report's own table directly. Those of joined tables must be
+    /// among the fields of the join.
     void collectConditionFields(const Condition& condition)
     {
         const auto look = [this](const FieldName& field) {
@@ -123,13 +116,14 @@ private:
         return sql + ", min(_rowid_) FROM " + quoted(join.table->name) + " GROUP BY 1)";
     }
 
-    /// A column as it is compared in a join: numbers as they are, anything else by value.
+    /// A column as a join compares it: by value when one of the two is a text.
     [[nodiscard]] static std::string meeting(const Join& join, const std::string& column)
     {
-        return isText(join.key) || isText(join.of) ? byValue(column) : column;
+        return join.key.isText() || join.of.isText() ? byValue(column) : column;
     }
 
-    /// @param below whether the column is taken from a row, before rows are added up.
+    /// @param below true inside "l", where the column comes from a row; false where rows are added up
+    /// already.
     [[nodiscard]] std::string column(const FieldName& field, bool below) const
     {
         if (field.table != m_source.table)
@@ -182,7 +176,7 @@ private:
             ++number;
             std::string value = "exact_sum(" + plain + ')';
             if (m_source.isKey(field)) {
-                value = isText(field) ? byValue(plain) : plain;
+                value = field.isText() ? byValue(plain) : plain;
                 groups += (groups.empty() ? "" : ", ") + std::to_string(number);
             }
             columns += (columns.empty() ? "" : ", ") + value + " AS " + alias(field);
@@ -215,7 +209,7 @@ private:
         };
         if (m_source.groupBy) {
             const std::string group = column(*m_source.groupBy, !m_source.addsUp());
-            // Rows without a group stand last, whatever the register puts in place of its number.
+            // Rows without a group come last, whether the register left the number empty or put a 0 there.
             add("nullif(nullif(" + group + ", 0), '') NULLS LAST");
         }
         for (const auto& key : m_source.order)
@@ -232,9 +226,9 @@ private:
         case Order::ByValue:
             return "trim(" + plain + ") COLLATE norvane_digits NULLS LAST";
         case Order::Descending:
-            return plain + (isText(key.field) ? " COLLATE NOCASE DESC" : " DESC");
+            return plain + (key.field.isText() ? " COLLATE NOCASE DESC" : " DESC");
         default:
-            return plain + (isText(key.field) ? " COLLATE NOCASE" : "") + " NULLS LAST";
+            return plain + (key.field.isText() ? " COLLATE NOCASE" : "") + " NULLS LAST";
         }
     }
 
@@ -242,7 +236,7 @@ private:
     const std::vector<Join>& m_joins;
     const Condition& m_condition;
     const std::string& m_rows;
-    std::vector<FieldName> m_fields; ///< the source's, and behind them what only the statement needs
+    std::vector<FieldName> m_fields; ///< those of the source first, then those that only the statement needs
     bool m_joinsBelow = false;
     LineStatement m_statement;
 };

@@ -1,4 +1,4 @@
-// The letters and lines that all pages share. Readable in black and white; thin lines in mm.
+// Sizes of letters and widths of lines, in mm, and colours of all pages. They read in black and white too.
 #pragma once
 
 #include "reports/PageText.h"
@@ -13,7 +13,7 @@ inline const TextStyle noticeStyle{4.2, true};
 inline const TextStyle chartTitleStyle{4.0, true};
 inline const TextStyle chartStyle{3.0, false};
 
-/// Height of a row in headings, to the letters' size.
+/// Height of a row in headings, as a multiple of the letters' size.
 inline constexpr double headingPitch = 1.35;
 
 inline constexpr double hairline = 0.1;

@@ -17,7 +17,7 @@ namespace norvane::reports
 {
 
 struct TextStyle {
-    double size = 3.1; ///< of the letters' square, in mm
+    double size = 3.1; ///< height of the letters with the space that belongs to them, in mm
     bool isBold = false;
     QColor colour{0, 0, 0};
 };
@@ -33,7 +33,7 @@ public:
     /// The rows that @p text takes in @p width mm: broken between words, and within one only where it is
     /// wider than that.
     [[nodiscard]] QStringList wrapped(const QString& text, const TextStyle& style, double width) const;
-    /// The text, or as much of it as stands in @p width mm with three dots behind.
+    /// The text, or as much of its beginning as fits into @p width mm together with three dots.
     [[nodiscard]] QString elided(const QString& text, const TextStyle& style, double width) const;
     /// Paints one row in the middle of @p place's height; text wider than the place is narrowed, not cut.
     /// @param painter in millimetres.
@@ -41,7 +41,7 @@ public:
               Alignment alignment) const;
 
 private:
-    /// A font of so many units to the letters' square that widths need no rounding.
+    /// A font so large that the widths of its letters need no rounding.
     struct Face {
         explicit Face(bool isBold);
 

@@ -16,7 +16,6 @@ namespace
 {
 
 constexpr int gap = 12; ///< around pages, in pixels
-constexpr double millimetresPerInch = 25.4;
 constexpr int arrowStep = 40;
 
 } // namespace
@@ -27,7 +26,7 @@ PageView::PageView(const ReportDocument& document, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     verticalScrollBar()->setSingleStep(arrowStep);
     horizontalScrollBar()->setSingleStep(arrowStep);
-    // A bar that comes with the second page would narrow the first one while it is looked at.
+    // If the bar appeared only with the second page, the first one would become narrower while it is read.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
@@ -39,8 +38,6 @@ void PageView::setZoom(Zoom zoom)
 
 void PageView::updatePages()
 {
-    const qsizetype lines = m_document.report().lineCount();
-    m_current = qMin(m_current, lines - 1);
     updateBars();
     viewport()->update();
     Q_EMIT currentPageChanged();
@@ -51,7 +48,7 @@ double PageView::pagePitch() const
     return sheet().height() * m_scale + gap;
 }
 
-/// In the viewport's pixels.
+/// The place of a page in the viewport, in pixels.
 QRectF PageView::pageRect(int page) const
 {
     const QSizeF size = sheet().size() * m_scale;
@@ -77,7 +74,7 @@ void PageView::updateScale()
 {
     const double wide = (viewport()->width() - 2 * gap) / sheet().width();
     const double high = (viewport()->height() - 2 * gap) / sheet().height();
-    const double trueSize = paper::screenDotsPerInch / millimetresPerInch;
+    const double trueSize = paper::millimetres(1).inDots(paper::screenDotsPerInch);
     const double wanted = m_zoom == Zoom::FitWidth  ? wide
                           : m_zoom == Zoom::FitPage ? qMin(wide, high)
                                                     : trueSize;
@@ -96,7 +93,7 @@ void PageView::updateBars()
     horizontalScrollBar()->setRange(0, qMax(0, static_cast<int>(width) - viewport()->width()));
 }
 
-/// Shows the same part of the pages after a change of their size.
+/// Makes a change of the pages' size and then shows the same part of them as before.
 void PageView::keepPlace(const std::function<void()>& change)
 {
     const double place = verticalScrollBar()->value() / pagePitch();
@@ -173,7 +170,7 @@ bool PageView::turnPage(int key)
         goToPage(currentPage() + 1);
         return true;
     case Qt::Key_PageUp:
-        // From within a page to its top first.
+        // First to the top of this page, then to the one before.
         goToPage(pageRect(currentPage()).top() < 0 ? currentPage() : currentPage() - 1);
         return true;
     case Qt::Key_Home:

@@ -23,7 +23,7 @@ public:
     PageView(const ReportDocument& document, QWidget* parent);
 
     void setZoom(Zoom zoom);
-    /// Further pages are laid out, or all are new.
+    /// To be called when further pages are laid out, or all pages are new.
     void updatePages();
 
     /// The page in the upper part of the view, from 0.
@@ -68,9 +68,9 @@ private:
 
     const ReportDocument& m_document;
     Zoom m_zoom = Zoom::FitWidth;
-    double m_scale = 1; ///< pixels to the millimetre
-    qsizetype m_anchor = -1;
-    qsizetype m_current = -1;
+    double m_scale = 1;       ///< pixels to the millimetre
+    qsizetype m_anchor = -1;  ///< the line where the choice began; -1 while none is chosen
+    qsizetype m_current = -1; ///< the line where it ends
 };
 
 } // namespace norvane::reports

@@ -1,4 +1,4 @@
-// A whole report on paper.
+// Paints all pages of a report on a printer or into a PDF.
 #pragma once
 
 #include "reports/ReportRun.h"
@@ -9,7 +9,7 @@ namespace norvane::reports
 {
 
 /// Paints all pages on @p device, a printer or a PDF. @return false when the device failed.
-/// @throws ReportCancelled between two pages; a printer prints those that were painted.
+/// @throws ReportCancelled between two pages. A printer still prints the pages painted before.
 [[nodiscard]] bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device,
                                const KeepGoing& keepGoing);
 

@@ -1,4 +1,4 @@
-// The PDF; see ReportFiles.h.
+// Writes the PDF; see ReportFiles.h.
 #include "reports/PagedReport.h"
 #include "reports/ReportFiles.h"
 #include "reports/TargetFile.h"

@@ -9,7 +9,7 @@
 namespace norvane::reports
 {
 
-/// Days from one to another, both included; an end that is not valid is open.
+/// Days from one to another, both included. An invalid day at one end means that there is no limit there.
 struct Period {
     QDate from;
     QDate to;

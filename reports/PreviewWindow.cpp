@@ -39,7 +39,7 @@ namespace
 constexpr QSize goodSize{1060, 800};
 constexpr int pagesAtOnce = 40;
 
-/// A file's name from a title such as "PLU Sales Report by Date.".
+/// Makes the name of a file from a title such as "PLU Sales Report by Date.".
 QString fileName(const QString& title)
 {
     static const QRegularExpression unfit(u"[^\\w -]+"_s, QRegularExpression::UseUnicodePropertiesOption);
@@ -245,7 +245,7 @@ void PreviewWindow::showPageNumber()
     m_pageNumber->setText(u"Page %1 of %2"_s.arg(m_view->currentPage() + 1).arg(count));
 }
 
-/// The engine's own box for what could not be done; the window stays.
+/// Shows a box for what could not be done; the window stays open.
 void PreviewWindow::guarded(const std::function<void(const KeepGoing&)>& act, const QString& whenCancelled)
 {
     try {
@@ -288,7 +288,7 @@ void PreviewWindow::save(const FileKind& kind)
     guarded(write, u"Cancelled. Nothing was saved."_s);
 }
 
-/// All lines where none are chosen.
+/// Copies all lines when none are chosen.
 void PreviewWindow::copy()
 {
     const qsizetype first = m_view->hasChosen() ? m_view->firstChosen() : 0;
@@ -337,7 +337,7 @@ void PreviewWindow::leave()
     close();
 }
 
-/// Leaves the search row first, then the window.
+/// Closes the search row if it is open, else the window.
 void PreviewWindow::escape()
 {
     if (!m_find->isVisible()) {

@@ -7,11 +7,8 @@
 #include <QWidget>
 
 class QBoxLayout;
-class QCheckBox;
-class QComboBox;
 class QLabel;
 class QPushButton;
-class QSplitter;
 class QStatusBar;
 
 namespace norvane

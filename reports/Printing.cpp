@@ -14,7 +14,7 @@ namespace norvane::reports
 namespace
 {
 
-/// The system takes a job for a printer that has gone and says nothing of it.
+/// The print system accepts a job for a printer that is no longer there and reports no error.
 bool isThere(const QPrinter& printer)
 {
     return printer.outputFormat() != QPrinter::NativeFormat ||

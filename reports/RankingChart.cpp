@@ -24,7 +24,7 @@ struct Scale {
 
 QString shownValue(const Chart& chart, const ChartPoint& point)
 {
-    return shownNumber(point.value, chart.decimals, chart.decimals);
+    return shownNumber(point.value, chart.leastDecimals, chart.mostDecimals);
 }
 
 Scale makeScale(const Chart& chart, const PageText& text, double width)
@@ -39,7 +39,7 @@ Scale makeScale(const Chart& chart, const PageText& text, double width)
     return scale;
 }
 
-/// A value below nothing, as after returns, has no bar but still its number.
+/// A value below zero, as after returns, has no bar but still shows its number.
 double barLength(const ChartPoint& point, const Scale& scale, double space)
 {
     return scale.largest > 0 ? std::max(0.0, point.value.toDouble() / scale.largest * space) : 0;

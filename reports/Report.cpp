@@ -1,4 +1,4 @@
-// From a form's settings to a preview or to paper; see Report.h.
+// Runs a report and brings it to a preview or to the printer; see Report.h.
 #include "reports/Report.h"
 
 #include "paper/DefaultPrinter.h"
@@ -31,8 +31,8 @@ Report::Report(QWidget& window, Boxes& boxes, Runner runner)
 {
 }
 
-/// A preview is a child of its window, which a modal form would hold back else; it outlives the form as a
-/// child of the next window.
+/// A preview is a child of the form's window: a modal form would block any other window. When the form goes,
+/// its open previews become children of the window above it, so that they stay open.
 Report::~Report()
 {
     const QWidget* const form = m_window.window();

@@ -30,12 +30,13 @@ enum class Destination {
 
 /// What makes a report's lines: runReport() of the engine.
 using Runner = std::function<ReportData(const ReportRequest&, const KeepGoing&)>;
-/// Belongs to the form that it is run from and must not outlive it. Previews stay open when the form closes;
-/// they close with the window that the form belongs to.
+
+/// One report of a form. Belongs to the form that it is run from and must not outlive it. Previews stay open
+/// when the form closes; they close with the window that the form belongs to.
 class Report
 {
 public:
-    /// @param window whose work this is: previews stand above it and can be used while it is modal.
+    /// @param window the form. Previews stand above it and can be used while it is modal.
     Report(QWidget& window, Boxes& boxes, Runner runner = runReport);
     ~Report();
     Report(const Report&) = delete;
@@ -54,11 +55,11 @@ public:
     void setDestination(Destination destination) { m_destination = destination; }
     /// The shop whose figures these are, as the pages name it.
     void setCustomer(const QString& name) { m_request.customer = name; }
-    /// In place of the system's default printer.
+    /// Prints on what @p finder gives in place of the system's default printer.
     void setPrinterFinder(PrinterFinder finder) { m_findPrinter = std::move(finder); }
 
-    /// Runs the report as set, as of now. What the engine cannot do comes up in a box "Report Error"; it and
-    /// a run that the user cancelled leave everything as it was.
+    /// Runs the report as it is set; periods end today. An error is told in a box "Report Error". After an
+    /// error, or when the user cancelled, everything is as before the run.
     void run();
 
 private:

@@ -1,6 +1,9 @@
 // See ReportData.h.
 #include "reports/ReportData.h"
 
+#include "platform/DecimalTotal.h"
+#include "reports/ExactNumbers.h"
+
 #include <QLocale>
 
 #include <algorithm>
@@ -13,9 +16,9 @@ namespace
 {
 
 enum Tag : std::uint8_t { emptyTag, textTag, dayTag, firstNumberTag };
-/// No cell shows more places.
+/// Places of decimals that a cell keeps; no column shows more.
 constexpr int mostScale = 200;
-/// A text's place in the pool stands above its length.
+/// The content of a text cell: its length in the lower bits, above them its place in m_texts.
 constexpr int lengthBits = 16;
 constexpr std::int64_t longestText = (1 << lengthBits) - 1;
 
@@ -112,6 +115,14 @@ Cell ReportData::cell(qsizetype line, int column) const
 QString ReportData::text(qsizetype line, int column) const
 {
     return std::visit(ShownCell{m_columns.at(static_cast<std::size_t>(column))}, cell(line, column));
+}
+
+Decimal sumOf(std::span<const ChartPoint> points)
+{
+    DecimalTotal total;
+    for (const ChartPoint& point : points)
+        total.add(std::string_view(point.value.text()));
+    return decimalOf(total.text());
 }
 
 QString shownNumber(const Decimal& number, int leastDecimals, int mostDecimals)

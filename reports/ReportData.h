@@ -1,4 +1,4 @@
-// What a report holds once its query has run: a heading, columns, lines and pictures. Preview, paper and
+// What a report holds once its query has run: a heading, columns, lines and charts. Preview, paper and
 // files are all made from it, so that they show the same figures.
 #pragma once
 
@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <variant>
 #include <vector>
@@ -55,8 +56,8 @@ struct PageSetup {
 };
 
 enum class ChartKind {
-    Ranking, ///< lying bars, the longest first
-    Course,  ///< standing bars over days or hours, in their order
+    Ranking, ///< horizontal bars, the longest first
+    Course,  ///< upright bars over days or hours, in their order
     Shares   ///< parts of a whole
 };
 
@@ -65,16 +66,21 @@ struct ChartPoint {
     Decimal value;
 };
 
-/// A picture beside the lines.
+/// A chart beside the lines.
 struct Chart {
     ChartKind kind = ChartKind::Ranking;
     QString title;
-    int decimals = 2; ///< of the values as shown
+    int leastDecimals = 2; ///< of the values as shown
+    int mostDecimals = 2;
     std::vector<ChartPoint> points;
 };
 
-/// A report over its rows. Lines are added in their order; a cell is reached by line and column from 0. A
-/// list can have a hundred thousand lines, so a cell takes nine bytes beside its text.
+/// The exact sum of the points' values.
+/// @throws RuntimeFailure 6 when it has more than 18 digits before the point.
+[[nodiscard]] Decimal sumOf(std::span<const ChartPoint> points);
+
+/// The lines of a report. They are added in their order; lines and columns count from 0. A list can have a
+/// hundred thousand lines, so a cell takes no more than nine bytes and its text.
 class ReportData
 {
 public:
@@ -89,7 +95,7 @@ public:
 
     /// Adds a line; @p cells beyond the columns are an error of the caller, missing ones stay empty.
     void addLine(LineKind kind, std::vector<Cell> cells);
-    /// Takes the columns away, with their cells, for which @p isKept is false.
+    /// Removes the columns for which @p isKept is false, with their cells.
     void keepColumns(const std::vector<bool>& isKept);
     [[nodiscard]] qsizetype lineCount() const { return static_cast<qsizetype>(m_kinds.size()); }
     [[nodiscard]] LineKind lineKind(qsizetype line) const;

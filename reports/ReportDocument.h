@@ -8,10 +8,11 @@
 namespace norvane::reports
 {
 
+/// The lines of a report together with their pages, which follow the switch for the charts.
 class ReportDocument
 {
 public:
-    /// Its charts are among the pages at first.
+    /// The pages show the charts at first.
     explicit ReportDocument(ReportData report);
     ReportDocument(const ReportDocument&) = delete;
     ReportDocument& operator=(const ReportDocument&) = delete;
@@ -30,10 +31,11 @@ public:
     /// Begins the pages anew, with the charts or without.
     void setShowsCharts(bool shows);
 
-    /// The first line from @p from on that holds @p sought in any of its cells, in either case of letters; on
-    /// from the other end where the report ends. @param step 1 forwards, -1 backwards. @return -1 for none.
+    /// The first line from @p from on that holds @p sought in any of its cells, in capitals or small letters.
+    /// At the end of the report the search goes on from the other end. @param step 1 forwards, -1 backwards.
+    /// @return -1 when no line holds it.
     [[nodiscard]] qsizetype findLine(const QString& sought, qsizetype from, int step) const;
-    /// The cells of lines @p first to @p last, parted by tabs, as spreadsheets and letters take them.
+    /// The cells of lines @p first to @p last with tabs between them, as other programs paste them.
     [[nodiscard]] QString linesAsText(qsizetype first, qsizetype last) const;
 
 private:

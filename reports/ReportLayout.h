@@ -1,4 +1,4 @@
-// What a layout file (.rpt) tells: the tables that a report reads, its columns, order, groups and pictures.
+// The content of a layout file (.rpt): the tables that a report reads, its columns, order, groups and charts.
 #pragma once
 
 #include "reports/CellFormat.h"
@@ -19,8 +19,9 @@ namespace norvane::reports
 struct TextTemplate {
     struct Part {
         QString text;
-        std::optional<Slot> slot; ///< a field stands here instead of the text
-        /// Or words for it: one stands where the field is not 0, several for 0, 1 and so on.
+        std::optional<Slot> slot; ///< the field that stands here instead of the text
+        /// Words that stand here instead of the field's value. One: where the field is not 0. Several: for 0,
+        /// 1 and so on.
         std::vector<std::vector<Part>> words;
     };
     std::vector<Part> parts;
@@ -28,11 +29,11 @@ struct TextTemplate {
     [[nodiscard]] bool isEmpty() const { return parts.empty(); }
 };
 
-/// A text, and what stands in its place where all its fields are empty.
+/// A text, and the text that takes its place when all its fields are empty.
 struct FieldText {
     TextTemplate text;
-    std::vector<TextTemplate> further; ///< behind it with commas, where they are not empty
-    TextTemplate missing;              ///< its fields are numbers of records, whatever the format
+    std::vector<TextTemplate> further; ///< added behind it with commas, unless they come out empty
+    TextTemplate missing;              ///< its fields are shown as numbers of records, in any format
     CellFormat format;
 };
 
@@ -58,27 +59,29 @@ struct LineSource {
     /// The fields in the order of their slots. Of a report that adds up, those of its table that are no keys
     /// are sums.
     std::vector<FieldName> fields;
-    std::optional<FieldName> groupBy; ///< ordered by it first, rows without a group last
+    std::optional<FieldName> groupBy; ///< lines are sorted by it first; those without a group come last
     std::vector<SortKey> order;
-    std::optional<Condition> where; ///< beside the user's selection
+    std::optional<Condition> where; ///< of the layout; rows must pass the user's selection as well
 
     [[nodiscard]] bool addsUp() const { return !keys.empty(); }
     [[nodiscard]] bool isKey(const FieldName& field) const;
     /// Whether the field's values are added up.
     [[nodiscard]] bool isSum(const FieldName& field) const;
-    /// The day by which rows of a sales table are chosen; nothing for other tables.
+    /// The field that holds the day of a sale; nothing for tables without sales.
     [[nodiscard]] std::optional<FieldName> day() const;
-    /// The slot of a field, which is added if it has none.
+    /// The slot of a field. A field without one gets the next.
     Slot slotOf(const FieldName& field);
 };
 
 struct ColumnLayout {
-    ReportColumn column; ///< its places of money are the shop's, set when the report runs
+    ReportColumn
+        column; ///< the decimal places of money are set when the report runs: the shop's settings tell them
     CellFormat format;
     std::optional<Expression> number; ///< of a column of numbers
-    FieldText text;                   ///< of any other
+    FieldText text;                   ///< of a column of texts or days
     bool isTotalled = false;
-    std::vector<Expression> shownIf; ///< shown only where one of these is not zero in some line
+    std::vector<Expression>
+        shownIf; ///< the column is shown if one of these is not zero in any line, or if empty
 };
 
 struct GroupLayout {
@@ -86,18 +89,18 @@ struct GroupLayout {
     FieldText heading;
 };
 
-/// Where the points of a picture come from.
+/// Where the points of a chart come from.
 enum class PointSource { Lines, Groups, Query };
 
 struct ChartLayout {
     ChartKind kind = ChartKind::Ranking;
     QString title;
     PointSource from = PointSource::Lines;
-    std::optional<LineSource> query; ///< of a picture that adds up rows of its own
+    std::optional<LineSource> query; ///< of a chart that adds up the rows once more, by a field of its own
     FieldText label;
     std::optional<Expression> value;
-    bool isMoney = true;
-    int most = 0; ///< points of a ranking; 0 for all
+    CellFormat valueFormat{FormatKind::Money, 2, 2, {}};
+    int most = 0; ///< how many of the largest points are shown; 0 for all
 };
 
 enum class Orientation { Automatic, Portrait, Landscape };
@@ -113,9 +116,9 @@ struct ReportLayout {
     bool showsZeroLines = true;
     std::vector<ChartLayout> charts;
 
-    /// The report's table and those joined.
+    /// Whether it reads @p table: its own or a joined one.
     [[nodiscard]] bool reads(const store::TableDefinition& table) const;
-    /// Whether a cell is a share of the whole report's total.
+    /// Whether a column uses totals of the whole report, as shares do.
     [[nodiscard]] bool needsWhole() const;
 };
 

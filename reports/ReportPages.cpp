@@ -22,7 +22,7 @@ QSizeF sheetSize(const ReportData& report)
     return report.page.isLandscape ? uprightSheet.transposed() : uprightSheet;
 }
 
-QRectF printable(const ReportData& report)
+QRectF areaWithinMargins(const ReportData& report)
 {
     return QRectF(QPointF(), sheetSize(report)).marginsRemoved(margins);
 }
@@ -46,7 +46,7 @@ qsizetype columnHeadingRows(const ReportData& report, const PageText& text, cons
 PageFrame makeFrame(const ReportData& report, const PageText& text, const ColumnPlaces& places)
 {
     PageFrame frame;
-    const QRectF area = printable(report);
+    const QRectF area = areaWithinMargins(report);
     frame.sheet = QRectF(QPointF(), sheetSize(report));
     frame.subtitleWidth = area.width() * 0.68;
     const auto rows = [&](const QString& words, const TextStyle& style) {
@@ -72,7 +72,7 @@ bool isTotal(LineKind kind)
 
 ColumnPlaces places(const ReportData& report, const PageText& text)
 {
-    const QRectF area = printable(report);
+    const QRectF area = areaWithinMargins(report);
     return fitColumns(report, text, area.left(), area.width());
 }
 
@@ -138,7 +138,7 @@ void ReportPages::addLines(ReportPage& page)
     }
 }
 
-/// A block that is higher than a page is parted between its lines.
+/// A block that is higher than a page is broken between its lines.
 void ReportPages::addBlock(ReportPage& page, qsizetype end)
 {
     while (m_nextLine < end) {
@@ -177,7 +177,8 @@ void ReportPages::addCharts(ReportPage& page)
     }
 }
 
-/// Headings with the first line below them, and that line with the totals below it.
+/// The end of the block that begins at @p line and should stay on one page: a heading with the first line
+/// below it, and any line with the totals that follow it.
 qsizetype ReportPages::blockEnd(qsizetype line) const
 {
     const qsizetype end = m_report.lineCount();

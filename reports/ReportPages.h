@@ -18,15 +18,15 @@ struct PlacedLine {
 };
 
 struct PlacedChart {
-    std::size_t chart = 0;
+    std::size_t chart = 0; ///< counts the report's charts from 0
     QRectF place;
 };
 
 /// What stands on a page between its heading and its foot.
 struct ReportPage {
     qsizetype firstLine = 0;
-    qsizetype endLine = 0; ///< behind the last one
-    std::optional<qsizetype> continuedGroup;
+    qsizetype endLine = 0;                   ///< the line behind the last one
+    std::optional<qsizetype> continuedGroup; ///< heading line of a group that began on an earlier page
     std::vector<PlacedChart> charts;
     [[nodiscard]] bool hasLines() const { return endLine > firstLine; }
 };
@@ -36,8 +36,8 @@ struct PageFrame {
     QRectF sheet;
     QRectF heading;
     QRectF columnHeadings;
-    QRectF body; ///< of lines, below the column headings
-    double subtitleWidth = 0;
+    QRectF body;              ///< room for lines, below the column headings
+    double subtitleWidth = 0; ///< of title and subtitle, which break into rows
 };
 
 /// Lays out a few pages at a time, so that the first can be shown while the rest is made. Lines never split;
@@ -82,7 +82,7 @@ private:
     std::vector<ReportPage> m_pages;
     qsizetype m_nextLine = 0;
     double m_y = 0;                   ///< where the next line or chart would stand
-    std::optional<qsizetype> m_group; ///< heading of the group that goes on
+    std::optional<qsizetype> m_group; ///< heading line of the group that the next line belongs to
 };
 
 } // namespace norvane::reports

@@ -19,7 +19,7 @@ void drawRule(QPainter& painter, const QRectF& area, double y, double width, con
     painter.fillRect(QRectF(area.left(), y - width / 2, area.width(), width), colour);
 }
 
-/// What parts a line from its neighbours.
+/// Paints what sets a line off from its neighbours: a band or rules.
 void paintGround(QPainter& painter, const QRectF& place, LineKind kind)
 {
     switch (kind) {
@@ -74,7 +74,7 @@ void ReportPainter::paintHeading(QPainter& painter, int index) const
     drawRule(painter, frame.heading, frame.heading.bottom(), thickLine, ink::rule);
 }
 
-/// @param row moves down to behind the rows.
+/// @param row moves down below the painted rows.
 void ReportPainter::paintHeadingRows(QPainter& painter, const QStringList& rows, const TextStyle& style,
                                      QRectF& row) const
 {
@@ -85,7 +85,7 @@ void ReportPainter::paintHeadingRows(QPainter& painter, const QStringList& rows,
     }
 }
 
-/// Whose figures these are, when they were printed, and where the page belongs.
+/// Paints the customer's name, the time of printing and the number of the page.
 void ReportPainter::paintOrigin(QPainter& painter, int index) const
 {
     QString number = u"Page %1"_s.arg(index + 1);
@@ -111,7 +111,7 @@ void ReportPainter::paintColumnHeadings(QPainter& painter) const
     drawRule(painter, area, area.bottom(), thinLine, ink::rule);
 }
 
-/// Headings of several rows stand on the rule, so that short ones are near their figures.
+/// Headings are aligned to the rule below them, so that short ones are near their figures too.
 void ReportPainter::paintColumnHeading(QPainter& painter, std::size_t column) const
 {
     const ColumnPlaces& places = m_pages.lines().places();

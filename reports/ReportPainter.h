@@ -8,6 +8,7 @@ class QPainter;
 namespace norvane::reports
 {
 
+/// Paints single pages of a report that ReportPages has laid out.
 class ReportPainter
 {
 public:

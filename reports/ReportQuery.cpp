@@ -74,8 +74,8 @@ void ReportQuery::run(const LineSource& source, const std::function<void(const L
     }
 }
 
-/// A year is added up from totals of months where the selection asks for days alone and lines do not depend
-/// on the day. @return empty text for rows as they are.
+/// The source of a statement that adds up totals of months in place of rows. It can when the selection asks
+/// for days alone and the lines do not depend on the day. @return empty text when the rows must be read.
 std::string ReportQuery::monthRows(const LineSource& source)
 {
     const auto day = source.day();
@@ -104,7 +104,7 @@ std::string ReportQuery::monthRows(const LineSource& source)
     return totals.rows(days, fields).toStdString();
 }
 
-/// Years of a database of an earlier build take some seconds, once.
+/// A database without totals of months, as earlier versions made it, takes some seconds for each year, once.
 bool ReportQuery::beginMonth(QDate month) const
 {
     if (m_showStep)

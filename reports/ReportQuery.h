@@ -11,7 +11,7 @@
 namespace norvane::reports
 {
 
-/// The opened database and the selection of a report. Statements that take long ask whether to go on.
+/// The opened database and the selection of a report. A long statement asks @p keepGoing now and then.
 class ReportQuery
 {
 public:
@@ -19,12 +19,13 @@ public:
     /// that the report reads.
     ReportQuery(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing);
 
-    /// @param condition names only tables that the report reads. @param today ends the running month.
+    /// @param condition names only tables that the report reads. @param today: months that ended before it
+    /// are read from their totals.
     void select(const Condition& condition, QDate today);
     /// Hands the fields of one line after another to @p take.
     /// @throws ReportCancelled, RuntimeFailure
     void run(const LineSource& source, const std::function<void(const LineFields&)>& take);
-    /// The decimal places of money at this shop: two where it does not say.
+    /// The decimal places of money at this shop: two where its settings do not tell.
     [[nodiscard]] int moneyDecimals();
 
 private:

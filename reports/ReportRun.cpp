@@ -1,4 +1,4 @@
-// A report from its layout to its lines; see ReportRun.h.
+// Makes a report's lines from its layout; see ReportRun.h.
 #include "reports/ReportRun.h"
 
 #include "platform/RuntimeFailure.h"
@@ -16,9 +16,9 @@ namespace norvane::reports
 namespace
 {
 
-/// Columns wider than this do not fit an upright sheet.
+/// Columns that are wider than this together do not fit an upright sheet.
 constexpr double uprightMillimetres = 190;
-/// Of a formula in the heading, which leaves room for the lines.
+/// Characters of a formula in the heading, so that room is left for the lines.
 constexpr qsizetype longestShownFormula = 200;
 
 QString shortened(const QString& formula)
@@ -67,7 +67,7 @@ private:
     ReportLayout m_layout;
     ReportQuery m_query;
     std::optional<Period> m_period;
-    bool m_isOnlyPeriod = true; ///< or all rows: nothing else restricts them
+    bool m_isOnlyPeriod = true; ///< the selection asks for days alone, or for nothing
     QStringList m_otherTables;
 };
 
@@ -117,7 +117,7 @@ void Run::addLines(ReportData& data, ChartBuilder& charts)
     builder.finish();
 }
 
-/// A share of the whole is known once all lines were read.
+/// Shares of the whole are known only when all lines are read, so the lines are kept until then.
 void Run::addWholeLines(ReportData& data, ChartBuilder& charts)
 {
     std::vector<LineFields> lines;
@@ -158,8 +158,8 @@ void Run::runChart(ChartPoints& points)
     });
 }
 
-/// The report's title heads the pages, and the window where that has none of its own; a window's title is
-/// the window's alone.
+/// The report's title is the heading of the pages, and the title of the window when none is set for it. A
+/// window's title is never the heading of the pages.
 void Run::setHeading(ReportHeading& heading) const
 {
     heading.title = m_request.reportTitle.isEmpty() ? m_layout.title : m_request.reportTitle;

@@ -1,4 +1,4 @@
-// Runs a report: its layout file, the customer's database and a selection become lines.
+// Runs a report: makes its lines from a layout file, the customer's database and a selection.
 #pragma once
 
 #include "reports/ReportData.h"
@@ -11,7 +11,8 @@
 namespace norvane::reports
 {
 
-/// What the engine could not do: it shows the text in its own box ("Report Error"), and the program goes on.
+/// Thrown when a report cannot be made, printed or saved. The text is shown in a box "Report Error", and the
+/// program goes on.
 class ReportError : public std::runtime_error
 {
 public:
@@ -23,7 +24,7 @@ private:
     QString m_text;
 };
 
-/// The run was given up on the user's wish, of which no box need tell.
+/// The user cancelled the run. That needs no box.
 class ReportCancelled : public ReportError
 {
 public:
@@ -38,23 +39,24 @@ struct ReportRequest {
     QString windowTitle;      ///< of the preview; empty for the report's title
     QString selectionFormula; ///< empty for all rows
     QString customer;
-    QDateTime now;                                          ///< the moment of the run: periods end on its day
-    std::function<void(const QString& step)> showStep = {}; ///< told of work that the report waits for
+    QDateTime now; ///< the moment of the run: periods end on this day
+    std::function<void(const QString& step)> showStep =
+        {}; ///< called with the name of each step that takes long
 };
 
-/// Asked now and then while a long run works; it may handle events. @return false to give up.
+/// Asked now and then during a long run; it may handle events. @return false to cancel the run.
 using KeepGoing = std::function<bool()>;
 
-/// @throws ReportCancelled when @p keepGoing gives up.
+/// @throws ReportCancelled when @p keepGoing returns false.
 inline void needGoOn(const KeepGoing& keepGoing)
 {
     if (keepGoing && !keepGoing())
         throw ReportCancelled();
 }
 
-/// @return the report; one of no rows carries a notice that says so.
+/// @return the report. When no row is selected, its heading has a notice that says so.
 /// @throws ReportError for a layout, formula, database or number that is not as it should be, and
-/// ReportCancelled when @p keepGoing gives up.
+/// ReportCancelled when @p keepGoing returns false.
 [[nodiscard]] ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing = {});
 
 } // namespace norvane::reports

@@ -1,4 +1,4 @@
-// When the box comes up and events run; see RunProgress.h.
+// Times when the box comes up and events run; see RunProgress.h.
 #include "reports/RunProgress.h"
 
 #include "ui/FormKit.h"
@@ -14,7 +14,7 @@ namespace norvane::reports
 namespace
 {
 
-/// Most reports are ready before a box could be read.
+/// Most reports are ready within this time, and a box would only flash.
 constexpr std::chrono::milliseconds beforeBox{400};
 /// Too short for a user to notice.
 constexpr std::chrono::milliseconds betweenTurns{15};
@@ -70,7 +70,7 @@ void RunProgress::handleEvents(Clock::time_point now)
 
 void RunProgress::showBox()
 {
-    // A range of nothing shows that work goes on and not how much is left, which no query tells.
+    // An empty range shows a moving bar: no query tells how much is left.
     const QString text = m_step.isEmpty() ? m_work : m_step;
     m_box = std::make_unique<QProgressDialog>(text, u"&Cancel"_s, 0, 0, &m_window);
     ui::nameControl(*m_box, u"RunProgress"_s);

@@ -1,4 +1,4 @@
-// Keeps the windows alive while a report is made, and lets the user give it up.
+// Keeps the windows painted while a report is made, and lets the user cancel it.
 #pragma once
 
 #include "ui/WaitPointer.h"
@@ -13,13 +13,13 @@ class QStatusBar;
 namespace norvane::reports
 {
 
-/// Shows the wait pointer and, once the work takes noticeably long, a box with a cancel button that holds
-/// back all other windows. Until then a press or key waits for its turn, so that no form closes under its
-/// report.
+/// Shows the wait pointer and, once the work takes noticeably long, a box with a cancel button that blocks
+/// all other windows. Until the box is there clicks and keys wait, so that a form cannot close while its
+/// report runs.
 class RunProgress
 {
 public:
-    /// @param window that the box stands above. @param work what the box says is going on.
+    /// @param window above which the box stands. @param work the text of the box.
     RunProgress(QWidget& window, QString work);
     ~RunProgress();
     RunProgress(const RunProgress&) = delete;

@@ -1,4 +1,4 @@
-// The parser of selection formulas; see SelectionFormula.h. What becomes of them stands in Condition.cpp.
+// The parser of selection formulas; see SelectionFormula.h. Condition.cpp works with what it makes.
 #include "reports/SelectionFormula.h"
 
 #include "platform/Decimal.h"
@@ -15,7 +15,7 @@ namespace
 using store::FieldType;
 using store::Value;
 
-/// Seen from the other side: 3 < x is x > 3.
+/// A comparison and its mirror image: 3 < x means x > 3.
 struct Turned {
     QStringView symbol;
     const char* same;
@@ -55,7 +55,7 @@ bool fits(const FieldName& field, const Value& value)
     const auto type = field.definition().type;
     if (type == FieldType::Date || value.isDate())
         return type == FieldType::Date && value.isDate();
-    return !value.isText() || type == FieldType::Text || type == FieldType::Digits;
+    return !value.isText() || field.isText();
 }
 
 class Parser
@@ -187,6 +187,8 @@ private:
     Condition period(const FieldName& field)
     {
         const Token word = m_tokens.current();
+        if (!m_today.isValid())
+            m_tokens.failExpecting(u"a range such as date(2026,1,1) to date(2026,1,31)"_s);
         const auto period = namedPeriod(word.text, m_today);
         if (!period)
             m_tokens.failExpecting(u"monthtodate, WeekToDateFromSun, YearToDate or a range"_s);

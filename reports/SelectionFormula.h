@@ -30,39 +30,42 @@ struct Condition {
     std::vector<Condition> parts;
     FieldName field;
     std::string comparison; ///< =, <>, <, >, <= or >=
-    store::Value value;     ///< of the kind that the field is compared with
-    FieldName other;        ///< of twins
-    QString periodName;     ///< of days that a word names, such as "Month to date"
+    store::Value value;     ///< what a Test compares the field with
+    FieldName other;        ///< of Twins: the second field
+    QString periodName;     ///< "Month to date" for a test that comes from a named period
 
     [[nodiscard]] bool isAlwaysTrue() const { return kind == Kind::All && parts.empty(); }
 };
 
-/// Names without regard to case, =, <>, <, >, <=, >=, "in" with a period or with "x to y", and, or, not,
-/// brackets, numbers, texts in quotes and date(y,m,d). Empty text gives a condition that is always true.
-/// @param today on which the periods end. @param own the table of fields that are named without one.
+/// Reads names without regard to case, =, <>, <, >, <=, >=, "in" with a period or with "x to y", and, or,
+/// not, brackets, numbers, texts in quotes and date(y,m,d). An empty formula gives a condition that is always
+/// true.
+/// @param today on which the periods end; an invalid date where no period may be named. @param own the table
+/// of fields that are named without one.
 /// @throws FormulaError
 [[nodiscard]] Condition parseSelection(QStringView formula, QDate today,
                                        const store::TableDefinition* own = nullptr);
 
-/// What is left of @p condition for a report that @p reads only some tables. A test of another table
-/// restricts nothing; its table's name goes to @p others.
+/// The part of @p condition that a report can test which @p reads only some tables. A test of any other table
+/// restricts nothing: rows stay that might pass it. The names of such tables are added to @p others.
 [[nodiscard]] Condition restrictedTo(const Condition& condition,
                                      const std::function<bool(const store::TableDefinition&)>& reads,
                                      QStringList& others);
 
-/// The days that the condition asks of @p day, where every row must pass it.
-/// @return nothing when it does not ask for days.
+/// The days to which @p condition restricts the field @p day.
+/// @return nothing when it does not restrict the days of every row.
 [[nodiscard]] std::optional<Period> periodOf(const Condition& condition, const FieldName& day);
 
-/// Whether it asks for nothing but days of @p day, from one to another.
+/// Whether @p condition restricts nothing but the days of the field @p day, to one range.
 [[nodiscard]] bool isOnlyPeriod(const Condition& condition, const FieldName& day);
 
-/// Whether a test is of a field for which @p isWanted.
+/// Whether any test names a field for which @p isWanted is true.
 [[nodiscard]] bool mentions(const Condition& condition,
                             const std::function<bool(const FieldName&)>& isWanted);
 
-/// The condition as SQL with a question mark for each value; those go to the end of @p values. @p column
-/// names a field in the statement.
+/// The condition as SQL with a question mark for each value. The values are added to @p values, in that
+/// order.
+/// @p column gives the name of a field in the statement.
 [[nodiscard]] std::string conditionSql(const Condition& condition,
                                        const std::function<std::string(const FieldName&)>& column,
                                        std::vector<store::Value>& values);

@@ -2,7 +2,6 @@
 // Neighbouring parts differ in lightness.
 #include "reports/SharesChart.h"
 
-#include "platform/DecimalTotal.h"
 #include "reports/PageStyles.h"
 
 #include <QLocale>
@@ -24,39 +23,25 @@ constexpr double gap = 8; ///< between disc and legend
 constexpr std::size_t mostParts = 10;
 constexpr double fullTurn = 360 * 16; ///< in the painter's sixteenths of a degree
 
-struct Part {
-    QString label;
-    Decimal value;
-};
+using Part = ChartPoint;
 
-/// The parts above nothing, largest first.
+/// The parts above zero, largest first.
 std::vector<Part> sortedParts(const Chart& chart)
 {
-    std::vector<Part> parts;
-    for (const ChartPoint& point : chart.points) {
-        if (point.value.coefficient() > 0)
-            parts.push_back({point.label, point.value});
-    }
+    std::vector<Part> parts = chart.points;
+    std::erase_if(parts, [](const Part& part) { return part.value.coefficient() <= 0; });
     std::ranges::stable_sort(parts, std::greater(), [](const Part& part) { return part.value.toDouble(); });
     return parts;
 }
 
-Decimal sum(std::span<const Part> parts)
-{
-    DecimalTotal total;
-    for (const Part& part : parts)
-        total.add(std::string_view(part.value.text()));
-    return Decimal::leading(total.text());
-}
-
-/// The smallest become one when there are too many for a legend.
+/// The smallest parts become one when there are too many for a legend.
 std::vector<Part> shownParts(const Chart& chart)
 {
     std::vector<Part> parts = sortedParts(chart);
     if (parts.size() <= mostParts)
         return parts;
     const auto others = std::span(parts).subspan(mostParts - 1);
-    const Part rest{u"%1 others"_s.arg(others.size()), sum(others)};
+    const Part rest{u"%1 others"_s.arg(others.size()), sumOf(others)};
     parts.resize(mostParts - 1);
     parts.push_back(rest);
     return parts;
@@ -91,15 +76,16 @@ void paintDisc(QPainter& painter, const QRectF& disc, const std::vector<Part>& p
     painter.drawEllipse(disc);
 }
 
+/// Widths in mm.
 struct LegendColumns {
-    int decimals = 0;
+    const Chart& chart;
     double label = 0;
     double value = 0;
     double percentage = 0;
 
     [[nodiscard]] QString shownValue(const Part& part) const
     {
-        return shownNumber(part.value, decimals, decimals);
+        return shownNumber(part.value, chart.leastDecimals, chart.mostDecimals);
     }
 };
 
@@ -118,9 +104,10 @@ void paintRow(QPainter& painter, QPointF corner, const Part& part, double whole,
               Alignment::Right);
 }
 
-LegendColumns legendColumns(const std::vector<Part>& parts, int decimals, const PageText& text, double width)
+LegendColumns legendColumns(const std::vector<Part>& parts, const Chart& chart, const PageText& text,
+                            double width)
 {
-    LegendColumns columns{decimals, 0, 0, text.width(percentage(1, 1), chartStyle)};
+    LegendColumns columns{chart, 0, 0, text.width(percentage(1, 1), chartStyle)};
     for (const Part& part : parts) {
         columns.label = std::max(columns.label, text.width(part.label, chartStyle));
         columns.value = std::max(columns.value, text.width(columns.shownValue(part), chartStyle));
@@ -143,7 +130,7 @@ void paintLegend(QPainter& painter, const QRectF& place, const std::vector<Part>
     }
 }
 
-/// Beside the disc, or below it where that leaves no room for names.
+/// The legend stands beside the disc, or below it where that would leave no room for names.
 bool isLegendBelow(double width)
 {
     return width < 2.2 * discSize;
@@ -172,7 +159,7 @@ void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, con
     const std::vector<Part> parts = shownParts(chart);
     if (parts.empty())
         return;
-    const double whole = sum(parts).toDouble();
+    const double whole = sumOf(parts).toDouble();
     const double size = std::min(discSizeIn(place.width()), place.height());
     const QRectF disc(place.left(), place.top(), size, size);
     const double legendTop = std::max(place.top(), disc.center().y() - legendHeight(parts.size()) / 2);
@@ -180,8 +167,7 @@ void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, con
                               ? place.adjusted(0, size + gap, 0, 0)
                               : QRectF(QPointF(disc.right() + gap, legendTop), place.bottomRight());
     paintDisc(painter, disc, parts, whole);
-    paintLegend(painter, legend, parts, whole, legendColumns(parts, chart.decimals, text, legend.width()),
-                text);
+    paintLegend(painter, legend, parts, whole, legendColumns(parts, chart, text, legend.width()), text);
 }
 
 } // namespace norvane::reports

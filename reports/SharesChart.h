@@ -8,7 +8,7 @@ class QPainter;
 namespace norvane::reports
 {
 
-/// The height that the picture of @p width looks best with, without its title; all in mm.
+/// The height that the chart of @p width looks best with, without its title; all in mm.
 [[nodiscard]] double sharesHeight(const Chart& chart, double width);
 void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text);
 

@@ -1,5 +1,5 @@
-// Whether a spreadsheet was written to its end. The library that writes it goes by a temporary file and does
-// not notice when that one does not fit on the disk.
+// Checks that a spreadsheet was written to its end. The library that writes it makes the sheet in a temporary
+// file and does not notice when that file does not fit on the disk.
 #pragma once
 
 #include <QByteArray>
@@ -7,7 +7,7 @@
 namespace norvane::reports
 {
 
-/// @return whether all sheets of the file at @p path, in the file system's own spelling, are whole.
+/// @param path as QFile::encodeName() gives it. @return whether the file holds its one sheet to the end.
 [[nodiscard]] bool isWholeSpreadsheet(const QByteArray& path);
 
 } // namespace norvane::reports

@@ -19,7 +19,7 @@ void failWriting(const QString& path, const QString& reason)
 void replaceFile(const QString& path, const QByteArray& content)
 {
     QSaveFile file(path);
-    // A disk that fills up takes the first part of a write and reports no error for it.
+    // When the disk becomes full, a write stores a part of the content and reports no error.
     const bool isWhole = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
     if (!isWhole && file.error() == QFileDevice::NoError)
         failWriting(path, u"the disk is full."_s);

@@ -1,4 +1,4 @@
-// Puts a file in place only when it is whole.
+// Replaces a file only when the new one is written to its end.
 #pragma once
 
 #include <QByteArray>
@@ -7,8 +7,8 @@
 namespace norvane::reports
 {
 
-/// Writes @p content beside @p path and puts it in place.
-/// @throws ReportError when it cannot be made there or not all of it could be written; a former file stays.
+/// Writes @p content to a file beside @p path and then renames it to @p path.
+/// @throws ReportError when not all of it can be written; a former file stays then.
 void replaceFile(const QString& path, const QByteArray& content);
 
 /// @throws ReportError that names @p path and the reason.

@@ -1,4 +1,4 @@
-// The spreadsheet; see ReportFiles.h.
+// Writes the spreadsheet; see ReportFiles.h.
 #include "reports/ColumnPlaces.h"
 #include "reports/ReportFiles.h"
 #include "reports/SpreadsheetCheck.h"
@@ -10,7 +10,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
+#include <memory>
 #include <xlsxwriter.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,7 +21,7 @@ namespace
 {
 
 constexpr lxw_row_t headingRow = 4;
-constexpr double millimetresPerLetter = 1.9; ///< of a column's width
+constexpr double millimetresPerLetter = 1.9; ///< a spreadsheet counts the width of columns in letters
 constexpr std::size_t longestNumber = 15;    ///< digits that a spreadsheet keeps
 
 /// "0", "0.00"; a number of varying places shows those that it has.
@@ -38,16 +38,20 @@ std::uint8_t sideOf(Alignment alignment)
     return sides.at(static_cast<std::size_t>(alignment));
 }
 
+struct BookFreer {
+    void operator()(lxw_workbook* book) const { lxw_workbook_free(book); }
+};
+
 class Sheet
 {
 public:
     Sheet(const ReportData& report, const QByteArray& path) : m_report(report)
     {
-        // Rows go to disk as they come; a list of 100,000 lines would fill the memory else.
+        // Each row goes to disk at once: a list of 100,000 lines would take too much memory.
         lxw_workbook_options options{};
         options.constant_memory = LXW_TRUE;
-        m_book = workbook_new_opt(path.constData(), &options);
-        m_sheet = workbook_add_worksheet(m_book, nullptr);
+        m_book.reset(workbook_new_opt(path.constData(), &options));
+        m_sheet = workbook_add_worksheet(m_book.get(), nullptr);
         if (!m_sheet)
             failWriting(QFile::decodeName(path), u"there is no room for temporary files."_s);
         for (const bool isBold : {false, true}) {
@@ -55,14 +59,6 @@ public:
                 m_formats.push_back(cellFormat(column, isBold));
         }
     }
-    Sheet(const Sheet&) = delete;
-    Sheet& operator=(const Sheet&) = delete;
-    ~Sheet()
-    {
-        if (m_book)
-            lxw_workbook_free(m_book);
-    }
-
     /// @throws ReportCancelled
     void fill(const KeepGoing& keepGoing)
     {
@@ -78,7 +74,7 @@ public:
     /// @return what went wrong, or nothing.
     [[nodiscard]] QString close()
     {
-        const lxw_error error = workbook_close(std::exchange(m_book, nullptr));
+        const lxw_error error = workbook_close(m_book.release());
         return error == LXW_NO_ERROR ? QString() : QString::fromUtf8(lxw_strerror(error));
     }
 
@@ -95,7 +91,7 @@ private:
     }
     lxw_format* boldIf(bool isBold)
     {
-        lxw_format* const format = workbook_add_format(m_book);
+        lxw_format* const format = workbook_add_format(m_book.get());
         if (isBold)
             format_set_bold(format);
         return format;
@@ -123,7 +119,7 @@ private:
             worksheet_set_column(m_sheet, place, place, letters, nullptr);
         }
         worksheet_freeze_panes(m_sheet, headingRow + 1, 0);
-        // Numbers of PLUs are texts on purpose; no cell shall carry a warning for it.
+        // PLU numbers are texts on purpose; the spreadsheet must not mark them with a warning.
         worksheet_ignore_errors(m_sheet, LXW_IGNORE_NUMBER_STORED_AS_TEXT, "A1:XFD1048576");
     }
 
@@ -169,7 +165,7 @@ private:
                                printable(text).toUtf8().constData(), shown);
     }
 
-    /// As rounded as in the preview.
+    /// Rounded as in the preview.
     void writeNumber(lxw_row_t row, int column, const Decimal& number, lxw_format* shown)
     {
         const ReportColumn& kept = m_report.columns()[static_cast<std::size_t>(column)];
@@ -188,7 +184,7 @@ private:
     }
 
     const ReportData& m_report;
-    lxw_workbook* m_book = nullptr;
+    std::unique_ptr<lxw_workbook, BookFreer> m_book;
     lxw_worksheet* m_sheet = nullptr;
     lxw_format* m_bold = nullptr;
     std::vector<lxw_format*> m_formats; ///< of the columns, those of detail lines first

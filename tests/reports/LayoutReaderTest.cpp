@@ -27,6 +27,8 @@ const Mistake mistakes[] = {
     {"Table=PLUSALES\r\n", "", "section [Report], key Table: it is missing"},
     {"Table=PLUSALES", "Tabel=PLUSALES", "section [Report], key Tabel: there is no such key"},
     {"Lines={ID}", "Lines={PLUDATA.PLUNUMBER}", "section [Report], key Lines: expected is"},
+    {"Lines={ID}", "Lines={ID}\r\nWhere={SALESDATE} in monthtodate",
+     "section [Report], key Where: column 16: a range"},
     {"[Join1]", "[Joint1]", "section [Joint1]: Report, Join1"},
     {"By={ID}", "By={PROMOS}", "section [Join1], key By: column 1: there is no field {PROMOS}"},
     {"[Column2]", "[Column3]", "section [Column3]: there is no section [Column2] before it"},

@@ -116,6 +116,7 @@ TEST_F(SalesReports, PeriodsShowTheirTimesAndOffersWholeQuantities)
     const auto offers = run("mixsales.rpt");
     EXPECT_EQ(headingsOf(offers), "Offer|Description|Quantity");
     EXPECT_EQ(linesOf(offers), "1|3 FOR 2|5\n4|Offer 4|0.125\n# |Total|5.125");
+    EXPECT_EQ(offers.charts.at(0).mostDecimals, 3);
 }
 
 TEST_F(SalesReports, ThePriceListShowsEuroPricesWhereAnyIsSet)

@@ -49,7 +49,7 @@ inline void addGroup(reports::ReportData& report, const QString& name, std::int6
 
 inline reports::Chart sampleChart(reports::ChartKind kind, int points)
 {
-    reports::Chart chart{kind, u"Best-selling PLUs"_s, 2, {}};
+    reports::Chart chart{kind, u"Best-selling PLUs"_s, 2, 2, {}};
     for (int point = 0; point < points; ++point)
         chart.points.push_back({u"Label %1"_s.arg(point), Decimal(10000 - 550 * point, 2)});
     return chart;

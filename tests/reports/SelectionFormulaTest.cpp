@@ -61,6 +61,8 @@ TEST_F(Selection, FindsTheRowsThatItNames)
         {u"{PLUSALES.SALESDATE} = date(2026,11,25)", "1 2 3 4 5 6 7 8"},
         {u"{PLUSALES.COUNT1} > 3 and {FINANCIALSALES.ID} > 6", "7 8"},
         {u"{FINANCIALSALES.ID} = 1 or {PLUSALES.COUNT1} > 3", "1 2 3 4 5 6 7 8"},
+        {u"not ({FINANCIALSALES.ID} = 1 or {PLUSALES.COUNT1} > 3)", "2 3 4 5 6 7 8"},
+        {u"not ({FINANCIALSALES.ID} = 1 and {PLUSALES.COUNT1} > 3)", "1 2 3 4 5 6 7 8"},
     };
     for (const auto& [formula, rows] : formulas)
         EXPECT_EQ(found(QString::fromUtf16(formula)), rows) << QString::fromUtf16(formula).toStdString();
