@@ -29,8 +29,7 @@ struct Companion {
 
 /// Holds the months, as yyyy-mm, that were added up.
 [[nodiscard]] QString addedMonthsName(const QString& table);
-/// Holds their totals, under the names of the table's fields, numbers as whole numbers or
-/// decimal texts.
+/// Holds their totals, under the names of the table's fields, numbers as whole numbers or decimal texts.
 [[nodiscard]] QString monthTotalsName(const QString& table);
 
 /// Whether rows are added up by this field, which then holds a total; otherwise totals are kept by it.

@@ -15,7 +15,7 @@ inline constexpr int busyMilliseconds = 5000;
 /// Opens an existing file for reading and, where it may be written, for writing. @throws as Database does.
 [[nodiscard]] SQLite::Database openDatabaseFile(const QString& path);
 
-/// The same before anything but the header was read: whether the file is whole is not known yet.
+/// The same, but reads no more than the header: the rest of the file may be damaged.
 [[nodiscard]] SQLite::Database openUnreadDatabaseFile(const QString& path);
 
 /// Makes a file beside @p path and puts it in its place once it is whole.

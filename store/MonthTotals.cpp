@@ -18,6 +18,9 @@ namespace norvane::store
 namespace
 {
 
+/// The engine joins some hundred selects at most. Nobody has sales of more months than these.
+constexpr qsizetype mostMonths = 400;
+
 QDate lastOfMonth(QDate first)
 {
     return first.addMonths(1).addDays(-1);
@@ -184,7 +187,7 @@ QString MonthTotals::rows(const DayRange& days, const QStringList& fields) const
     }
     const SourcePart part(columns.join(u", "_s), bracketed(m_table.searchedField));
     const auto months = m_available ? wholeMonths(days) : QVector<QDate>();
-    if (months.isEmpty())
+    if (months.isEmpty() || months.size() > mostMonths)
         return u'(' + part.of(m_table.name, days) + u')';
     QStringList parts{part.of(monthTotalsName(m_table.name), {months.first(), months.last()})};
     // The query itself looks which months have totals, so it never reads a month twice or not at all.

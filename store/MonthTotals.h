@@ -44,11 +44,11 @@ public:
 
     /// A source of rows for a query, in brackets, ready to stand behind "from": the totals of the months
     /// inside
-    /// @p days that have them and the rows of all other days, with the names of the fields. A row of totals
-    /// carries the first day of its month. @p fields names those wanted, all when it is empty; fewer are
-    /// quicker. Numbers are doubles in rows and decimals as texts in totals, so they go into exact_sum() and
-    /// nowhere else; a condition may name the other fields only, as far as the days are concerned none.
-    /// What the query finds stays right when months gain or lose totals after the text was made.
+    /// @p days that have them, and the rows of all other days. A row of totals has the names of the fields
+    /// too, and carries the first day of its month. @p fields names the fields wanted, all when it is empty;
+    /// fewer are quicker. Numbers are doubles in rows and texts of decimals in totals, so they may go into
+    /// exact_sum() only. A condition of the query may name neither numbers nor the day. What the query finds
+    /// stays right when months gain or lose totals after the text was made.
     [[nodiscard]] QString rows(const DayRange& days, const QStringList& fields = {}) const;
 
 private:

@@ -36,7 +36,7 @@ void readText(sqlite3_stmt* statement, int column, Value& value)
     }
 }
 
-/// A null reads as 0, so only a 0 has to be asked.
+/// The engine reads a null as 0, so only for a 0 the type has to be asked.
 template <typename Number>
 bool isNull(sqlite3_stmt* statement, int column, Number read)
 {

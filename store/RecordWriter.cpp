@@ -72,8 +72,8 @@ std::string RecordWriter::updateSql(const std::vector<int>& fields) const
     return "UPDATE " + quotedName(m_shape->name()) + " SET " + changes + " WHERE _rowid_ = ?";
 }
 
-/// Rows that a transaction adds one after the other follow the first by themselves, which spares an import
-/// the look for an unused row id at each.
+/// Rows that a transaction adds one after the other get rising row ids from the engine. Only the first needs
+/// the search for an unused one, which saves an import much time.
 PreparedStatement& RecordWriter::insertStatement()
 {
     const bool follows = stage().transaction != 0 && stage() == m_added;

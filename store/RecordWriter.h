@@ -27,7 +27,7 @@ public:
     void remove(std::int64_t rowId);
 
 private:
-    /// As long as it stays the same in a transaction, nobody deletes rows.
+    /// Two equal stages in one transaction mean that no row was deleted between them.
     struct Stage {
         std::int64_t transaction = 0;
         std::int64_t retirements = 0;

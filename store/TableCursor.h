@@ -32,8 +32,9 @@ public:
     void changeOrder(const IndexDefinition& index);
     [[nodiscard]] const IndexDefinition* index() const { return m_index; }
     bool seek(Seek comparison, const Value& key);
-    /// Moves to a row that its own recordset has added. Takes over the values: the caller's are no longer
-    /// what they were. An import adds many rows and needs none of them again, so nothing is read here.
+    /// Moves to a row that its own recordset has added. Takes the values over; what @p values holds
+    /// afterwards is not defined. Nothing is read here: an import adds many rows and needs none of them
+    /// again.
     void rowAdded(std::vector<Value>& values, std::int64_t rowId);
     /// Reads these fields and the key alone from now on; all others are null. The place is lost.
     void limitTo(const std::vector<int>& fields);

@@ -1,4 +1,4 @@
-// Work that sees itself to what the triggers of the file are for.
+// Switches the triggers of the file off for work that does their job itself.
 #pragma once
 
 #include <sqlite3.h>

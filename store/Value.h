@@ -46,7 +46,7 @@ public:
     /// The text itself of a text value, empty otherwise. Lives as long as the value does.
     [[nodiscard]] std::string_view textView() const;
 
-    /// The same value kinds for a walk that reads row after row into one value: a text keeps its room.
+    /// Change the value in place. A walk reads row after row into one value so, and a text keeps its memory.
     void setNull() { m_data = std::monostate(); }
     void setYesNo(bool yes) { m_data = yes; }
     void setWhole(std::int64_t number) { m_data = number; }
