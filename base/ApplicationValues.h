@@ -17,8 +17,8 @@ struct ApplicationValues {
     QString customerPath;
     /// The customer database in use. Set at the start and by the key editors only.
     QString databasePath;
-    /// Which day's report the user is asked a day for ("DAILYPLU"); empty for a report over a fixed period.
-    /// The price list leaves it as the report before set it.
+    /// The kind of report for which the user picks a day ("DAILYPLU"); empty for a report over a fixed
+    /// period. The price list does not set it, so the value of the report before stays.
     QString reportMode;
 };
 

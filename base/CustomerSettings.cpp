@@ -34,6 +34,11 @@ int messageWidth(const ApplicationValues& values)
     return model == 0 || model == 1 || model == 2 ? wide : narrow;
 }
 
+QString runNotesName()
+{
+    return QStringLiteral("exchange.ini");
+}
+
 QString customerOf(const ApplicationValues& values, const QString& database)
 {
     const QDir folder = QFileInfo(database).dir();

@@ -1,5 +1,5 @@
-// The customer's setup.ini: which register model, how it is reached, how many registers there are. And whose
-// data a database holds.
+// The customer's setup.ini: which register model, how it is reached, how many registers there are. Also the
+// name of the customer whose data a database holds, and of the file for notes of the runs.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -24,8 +24,11 @@ namespace norvane
 /// @throws 13 as ecrModel() does.
 [[nodiscard]] int messageWidth(const ApplicationValues& values);
 
-/// The customer whose data stands in @p database: after a change of customer the database in use is still the
-/// former customer's. @return customerName, or the name of the database's folder where that is another one.
+/// The name of the customer whose data @p database holds. After a change of customer the database in use is
+/// still the former customer's. @return customerName, or else the name of the folder that @p database is in.
 [[nodiscard]] QString customerOf(const ApplicationValues& values, const QString& database);
+
+/// The file in the customer's folder in which exchange and collection leave notes for their next run.
+[[nodiscard]] QString runNotesName();
 
 } // namespace norvane

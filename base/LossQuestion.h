@@ -1,4 +1,4 @@
-// The question before a step that cannot be taken back, when something ahead of it went wrong in silence.
+// Asks the user before a step that cannot be undone, when an earlier step failed without a message.
 #pragma once
 
 #include "platform/Boxes.h"

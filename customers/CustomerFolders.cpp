@@ -1,6 +1,7 @@
 // Listing, taking and making of customers; see CustomerFolders.h.
 #include "customers/CustomerFolders.h"
 
+#include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
 #include "platform/TextFields.h"
 #include "store/DatabaseCheck.h"
@@ -77,8 +78,9 @@ bool hasTemplateCopy(const QString& path, const QString& name)
 /// the settings, kept register files and what a run notes there.
 bool holdsOnlyCustomerFiles(const QString& path)
 {
-    static const QStringList customerFiles{databaseName, databaseName + u"-*"_s, settingsName, unfinishedCopy,
-                                           u"*.dat"_s,   u"*.dat.*"_s,           u"norvane*"_s};
+    static const QStringList customerFiles{
+        databaseName, databaseName + u"-*"_s, settingsName,  unfinishedCopy,
+        u"*.dat"_s,   u"*.dat.*"_s,           u"norvane*"_s, runNotesName()};
     const auto entries =
         QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     const auto files = QDir(path).entryList(customerFiles, QDir::Files | QDir::Hidden);

@@ -1,6 +1,7 @@
 // See RunNotes.h.
 #include "link/RunNotes.h"
 
+#include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
 #include "platform/ProfileFile.h"
 
@@ -16,7 +17,7 @@ constexpr auto pluCountKey = "PLUs"_L1;
 
 QString notesPath(const ApplicationValues& values)
 {
-    return joinPath(values.customerPath, u"exchange.ini"_s);
+    return joinPath(values.customerPath, runNotesName());
 }
 
 } // namespace

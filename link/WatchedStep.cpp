@@ -53,7 +53,7 @@ QString WatchedStep::whatWentWrong() const
     return u"The program %1 was not found. Found of earlier runs:"_s.arg(m_tool);
 }
 
-/// A crashed tool may have stopped in the midst of any of its files.
+/// A crashed tool may have stopped in the middle of any of its files.
 QStringList WatchedStep::doubtfulFiles() const
 {
     QStringList files;

@@ -1,5 +1,5 @@
-// A step of an exchange that looks at what its tool left, and asks before that is used when it is not what
-// the step waited for.
+// A step of an exchange: runs a tool, looks whether it wrote the files that the step needs, and asks before
+// older files are used.
 #pragma once
 
 #include "link/ExpectedFiles.h"
@@ -10,22 +10,21 @@ namespace norvane::link
 
 inline constexpr QLatin1StringView statusFile{"status.out"};
 
-/// One step: note what it waits for, run its tool, one or more times, and ask. In a good run nothing is
-/// asked.
+/// Make it before the tool runs, run the tool once or more often, then ask. In a good run nothing is asked.
 class WatchedStep
 {
 public:
     /// @p expected are the files of the working directory that the step has to write. @p outside must outlive
-    /// it.
+    /// this.
     WatchedStep(const RunOutside& outside, const QStringList& expected);
 
     /// Runs a tool as runTool() does.
     void run(const QString& commandLine);
     /// Whether every tool came to its own end and every file was written.
     [[nodiscard]] bool isComplete() const;
-    /// True for a step that is complete. For any other asks, naming tool, files and their age;
-    /// @p consequence is the sentence that tells what would happen. @return whether the run may use what is
-    /// there.
+    /// Asks when the step is not complete; the question names the tool, the files and their age.
+    /// @p consequence is the sentence that tells what would happen. @return whether the run may use the files
+    /// that are there: always for a complete step, else the user's answer.
     [[nodiscard]] bool mayGoOn(const QString& consequence) const;
 
 private:

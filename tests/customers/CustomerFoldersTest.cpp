@@ -72,6 +72,7 @@ TEST_F(CustomerFoldersTest, ACustomerWhoseMakingWasCutOffIsCompletedAtTheNextCho
     QDir().mkpath(m_folder.path("app/Empty"));
     m_folder.write("app/Killed/qt_temp.Xy12Zw", "tem");
     m_folder.write("app/Lost/67.dat", "kept");
+    m_folder.write("app/Lost/exchange.ini", "[Registers]\r\nPLUs=2\r\n");
     for (const char* const name : {"Half", "EMPTY", "Killed", "Lost", "Cafe"}) {
         SCOPED_TRACE(name);
         EXPECT_EQ(chooseCustomer(m_values, QLatin1StringView(name)), CustomerChoice::Created);
