@@ -34,32 +34,37 @@ KeyRows::KeyRows(store::Database& database, const KeyTable& table, int rowsAhead
         next();
 }
 
+/// Runs work that needs a row with a good text.
+template <typename Work>
+decltype(auto) KeyRows::explaining(Work work) const
+{
+    return atPlace([this](const QString& failure) { return explained(failure); }, work);
+}
+
 void KeyRows::next()
 {
-    const auto explain = [this](const QString& failure) {
-        return explained(failure);
-    };
-    atPlace(explain, [this] { m_rows.moveNext(); });
+    explaining([this] { m_rows.moveNext(); });
     ++m_row;
 }
 
-QString KeyRows::text() const
+store::Value KeyRows::value() const
 {
-    const auto explain = [this](const QString& failure) {
-        return explained(failure);
-    };
-    return atPlace(explain, [this] { return m_rows.value(m_field).toText(); });
+    return explaining([this] { return m_rows.value(m_field); });
 }
 
-/// An upload would not help when the file is locked or full.
 void KeyRows::store(const QString& text)
 {
-    if (this->text() == text)
-        return;
+    if (this->text() != text)
+        store(store::Value::text(text));
+}
+
+/// An upload would not help when the file is full or damaged.
+void KeyRows::store(const store::Value& value)
+{
+    explaining([this] { m_rows.edit(); });
     atPlace([this](const QString& failure) { return placed(failure); },
             [&] {
-                m_rows.edit();
-                m_rows.setValue(m_field, store::Value::text(text));
+                m_rows.setValue(m_field, store::Value(value));
                 m_rows.update();
             });
 }

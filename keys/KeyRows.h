@@ -32,14 +32,18 @@ public:
 
     void next();
     [[nodiscard]] bool atEnd() const { return !m_rows.hasCurrent(); }
+    [[nodiscard]] store::Value value() const;
     /// What the row holds; null as empty text.
-    [[nodiscard]] QString text() const;
+    [[nodiscard]] QString text() const { return value().toText(); }
+    void store(const store::Value& value);
     /// Stores another text. A row that holds it already stays as it is, null included.
     void store(const QString& text);
     /// Adds table, row and the way out to what went wrong with the row's text.
     [[nodiscard]] QString explained(const QString& failure) const;
 
 private:
+    template <typename Work>
+    decltype(auto) explaining(Work work) const;
     [[nodiscard]] QString placed(const QString& failure) const;
 
     const KeyTable& m_table;

@@ -2,7 +2,7 @@
 #include "keys/LevelCopy.h"
 
 #include "keys/KeyRows.h"
-#include "platform/RuntimeFailure.h"
+#include "store/AllOrNothing.h"
 
 #include <QStringList>
 
@@ -36,20 +36,6 @@ QString keysOf(int level, const KeyGeometry& keyboard)
     return parts.join(u" and "_s);
 }
 
-void copyKeys(store::Database& database, const LevelCopy& copy)
-{
-    KeyRows fromLinks(database, keyLinkTable(), rowsAhead(copy.from));
-    KeyRows toLinks(database, keyLinkTable(), rowsAhead(copy.to));
-    KeyRows fromNumbers(database, nluTable(), rowsAhead(copy.from));
-    KeyRows toNumbers(database, nluTable(), rowsAhead(copy.to));
-    for (int key = 0; key < copiedKeys; ++key) {
-        toLinks.store(fromLinks.text());
-        toNumbers.store(fromNumbers.text());
-        for (KeyRows* const rows : {&fromLinks, &toLinks, &fromNumbers, &toNumbers})
-            rows->next();
-    }
-}
-
 } // namespace
 
 QString LevelCopy::misplacedKeys(const KeyGeometry& keyboard) const
@@ -65,14 +51,21 @@ QString LevelCopy::misplacedKeys(const KeyGeometry& keyboard) const
 
 void LevelCopy::run(store::Database& database) const
 {
-    store::Transaction all(database);
-    try {
-        copyKeys(database, *this);
-    } catch (const RuntimeFailure&) {
-        all.rollBack();
-        throw;
+    store::allOrNothing(database, [&] {
+        for (const KeyTable* const table : {&keyLinkTable(), &nluTable()})
+            copyRows(database, *table);
+    });
+}
+
+void LevelCopy::copyRows(store::Database& database, const KeyTable& table) const
+{
+    KeyRows source(database, table, rowsAhead(from));
+    KeyRows target(database, table, rowsAhead(to));
+    for (int key = 0; key < copiedKeys; ++key) {
+        target.store(source.value());
+        source.next();
+        target.next();
     }
-    all.commit();
 }
 
 } // namespace norvane::keys

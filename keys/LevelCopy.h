@@ -9,6 +9,8 @@
 namespace norvane::keys
 {
 
+struct KeyTable;
+
 /// A copy counts this many keys a level whatever the keyboard is. On a keyboard with more keys, levels begin
 /// elsewhere, so that it reads and writes across their borders and leaves keys out.
 inline constexpr int copiedKeys = 158;
@@ -24,6 +26,9 @@ struct LevelCopy {
     /// Copies both tables row by row, whole or not at all. @throws RuntimeFailure 3021 when a table ends
     /// before, else as storing does.
     void run(store::Database& database) const;
+
+private:
+    void copyRows(store::Database& database, const KeyTable& table) const;
 };
 
 } // namespace norvane::keys
