@@ -5,6 +5,7 @@
 #include "sales/FrmsalesComm.h"
 #include "screens/OptionForm.h"
 #include "shell/FrameOpeners.h"
+#include "shell/KeyOpeners.h"
 #include "shell/MainStatusBar.h"
 #include "shell/ReportOpeners.h"
 #include "shell/UtilityOpeners.h"
@@ -79,6 +80,7 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
     });
     openers.insert(makeUtilityOpeners(values, boxes));
     openers.insert(makeReportOpeners(values, boxes));
+    openers.insert(makeKeyOpeners(values, boxes));
     return {openers, [&values, &boxes](FrmMain& main, const QString& screenFilePath) {
                 openScreen(main, screenFilePath, values, boxes);
             }};

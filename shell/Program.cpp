@@ -35,6 +35,12 @@ FatalFailure describeFailure(const std::exception_ptr& failure)
     }
 }
 
+void showFailure(const FatalFailure& failure, Boxes& boxes)
+{
+    boxes.message(u"Run-time error '%1':\r\r%2"_s.arg(failure.number).arg(failure.text), {},
+                  BoxIcon::Critical);
+}
+
 Program::Program(int& argc, char** argv, Boxes& boxes) : QApplication(argc, argv), m_boxes(boxes)
 {
     // Only the main window ends the program. Between splash and customer dialog no window is open.
@@ -68,7 +74,7 @@ void Program::end(const std::exception_ptr& failure)
     const FatalFailure shown = describeFailure(failure);
     while (overrideCursor())
         restoreOverrideCursor();
-    m_boxes.message(u"Run-time error '%1':\r\r%2"_s.arg(shown.number).arg(shown.text), {}, BoxIcon::Critical);
+    showFailure(shown, m_boxes);
     // No destructors: the windows are in the middle of something. The system closes all files, and a database
     // stays whole.
     std::fflush(nullptr);

@@ -34,6 +34,17 @@ inline constexpr QColor desktop{0xc3, 0xcd, 0xd6}; ///< behind the screens in th
 inline constexpr QColor text{0x1c, 0x23, 0x2a};
 inline constexpr QColor greyedText{0x8b, 0x95, 0x9e};
 inline constexpr QColor linePale{0xd8, 0xde, 0xe4};
+/// Cells of a keyboard. Pale, for dark text; each also has a mark of its own shape.
+inline constexpr QColor functionKey{0xe3, 0xee, 0xfa};
+inline constexpr QColor pluKey{0xe6, 0xf4, 0xe1};
+inline constexpr QColor lookUpKey{0xfb, 0xf1, 0xd3};
+inline constexpr QColor missingKey{0xfa, 0xdf, 0xdc};
+inline constexpr QColor fixedKey{0xd3, 0xd8, 0xdd};
+inline constexpr QColor functionMark{0x2b, 0x6c, 0xb0};
+inline constexpr QColor pluMark{0x3a, 0x86, 0x2e};
+inline constexpr QColor lookUpMark{0xb0, 0x7d, 0x0a};
+inline constexpr QColor missingMark{0xc0, 0x35, 0x2b};
+inline constexpr QColor found{0xd9, 0x5f, 0x02}; ///< around what a search has found
 } // namespace colours
 
 /// Gives @p application its style, font, palette and window icon. Once, before the first window.

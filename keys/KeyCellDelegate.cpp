@@ -1,0 +1,212 @@
+// See KeyCellDelegate.h.
+#include "keys/KeyCellDelegate.h"
+
+#include "keys/KeyGridModel.h"
+#include "ui/Appearance.h"
+#include "ui/FormKit.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::keys
+{
+namespace
+{
+
+namespace colours = ui::colours;
+
+enum class Shape { None, Circle, Triangle, Square, Cross, Lock };
+
+struct Look {
+    QLatin1StringView words;
+    QColor ground;
+    QColor mark;
+    Shape shape;
+};
+
+/// In the order of KeyState.
+constexpr std::array<Look, 6> looks{{
+    {"Unprogrammed"_L1, QColor(0xff, 0xff, 0xff), colours::greyedText, Shape::None},
+    {"Function"_L1, colours::functionKey, colours::functionMark, Shape::Circle},
+    {"PLU"_L1, colours::pluKey, colours::pluMark, Shape::Triangle},
+    {"Look-up"_L1, colours::lookUpKey, colours::lookUpMark, Shape::Square},
+    {"Missing item"_L1, colours::missingKey, colours::missingMark, Shape::Cross},
+    {"Fixed"_L1, colours::fixedKey, colours::text, Shape::Lock},
+}};
+
+constexpr int padding = 3;
+constexpr int markSize = 8;
+/// Smaller than the forms' font: a letter and 17 digits must fit into a key's width.
+constexpr int keyFontPixels = 10;
+constexpr int leastFontPixels = 7;
+constexpr int strongLine = 2;
+constexpr int legendGap = 14;
+
+const Look& lookOf(const QModelIndex& index)
+{
+    return looks.at(static_cast<std::size_t>(index.data(KeyGridModel::StateRole).toInt()));
+}
+
+QPainterPath lockPath(const QRectF& place)
+{
+    QPainterPath path;
+    const double shackle = place.height() / 2;
+    path.addRect(place.adjusted(0, shackle - 1, 0, 0));
+    QPainterPath bow;
+    bow.addEllipse(place.adjusted(1, 0, -1, -1));
+    QPainterPath hole;
+    hole.addEllipse(place.adjusted(2.5, 1.5, -2.5, -2.5));
+    return path.united(bow.subtracted(hole));
+}
+
+QPainterPath crossPath(const QRectF& place)
+{
+    QPainterPath path(place.topLeft());
+    path.lineTo(place.bottomRight());
+    path.moveTo(place.topRight());
+    path.lineTo(place.bottomLeft());
+    QPainterPathStroker pen;
+    pen.setWidth(2.2);
+    return pen.createStroke(path);
+}
+
+QPainterPath markPath(Shape shape, const QRectF& place)
+{
+    QPainterPath path;
+    switch (shape) {
+    case Shape::Circle:
+        path.addEllipse(place);
+        break;
+    case Shape::Triangle:
+        path.addPolygon(QPolygonF{{place.bottomLeft(), QPointF(place.center().x(), place.top()),
+                                   place.bottomRight(), place.bottomLeft()}});
+        break;
+    case Shape::Square:
+        path.addRect(place);
+        break;
+    case Shape::Cross:
+        path = crossPath(place);
+        break;
+    case Shape::Lock:
+        path = lockPath(place);
+        break;
+    case Shape::None:
+        break;
+    }
+    return path;
+}
+
+void paintMark(QPainter& painter, const Look& look, const QRectF& place)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(markPath(look.shape, place), look.mark);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+/// A number and its description stand below each other; words of a function break where they may.
+QString shownText(const QModelIndex& index)
+{
+    QString text = index.data().toString();
+    const auto state = static_cast<KeyState>(index.data(KeyGridModel::StateRole).toInt());
+    if (state == KeyState::Plu || state == KeyState::LookUp)
+        text.replace(text.indexOf(u' '), 1, u'\n');
+    return text.replace(u'\r', u'\n');
+}
+
+/// Fonts differ in width, and no digit may be cut.
+QFont fontFor(const QFont& usual, const QString& text, int width)
+{
+    QFont font = usual;
+    const QString firstLine = text.section(u'\n', 0, 0);
+    const bool isNumber = text.contains(u'\n');
+    int pixels = keyFontPixels;
+    font.setPixelSize(pixels);
+    while (isNumber && pixels > leastFontPixels && QFontMetrics(font).horizontalAdvance(firstLine) > width)
+        font.setPixelSize(--pixels);
+    return font;
+}
+
+void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const QString text = shownText(index);
+    const QRect place = option.rect.adjusted(padding, 1, -padding, -1);
+    painter.setFont(fontFor(option.font, text, place.width()));
+    painter.setPen(index.data(KeyGridModel::StateRole).toInt() == static_cast<int>(KeyState::Unprogrammed)
+                       ? colours::greyedText
+                       : colours::text);
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
+}
+
+void paintFrame(QPainter& painter, const QRect& cell, const QPen& pen, int inset)
+{
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    const int half = pen.width() / 2 + inset;
+    painter.drawRect(cell.adjusted(half, half, -half - 1, -half - 1));
+}
+
+void paintFrames(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    if (index.data(KeyGridModel::FoundRole).toBool())
+        paintFrame(painter, option.rect, QPen(colours::found, strongLine), 0);
+    if (index.data(KeyGridModel::MarkedRole).toBool())
+        paintFrame(painter, option.rect, QPen(colours::text, 1, Qt::DashLine), 1);
+    if (option.state.testFlag(QStyle::State_HasFocus))
+        paintFrame(painter, option.rect, QPen(colours::accentDark, strongLine), strongLine);
+}
+
+} // namespace
+
+void KeyCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const
+{
+    const Look& look = lookOf(index);
+    painter->save();
+    painter->fillRect(option.rect, look.ground);
+    if (option.state.testFlag(QStyle::State_Selected)) {
+        QColor chosen = colours::accent;
+        chosen.setAlpha(90);
+        painter->fillRect(option.rect, chosen);
+    }
+    paintText(*painter, option, index);
+    const QPoint corner = option.rect.bottomRight() - QPoint(markSize + padding, markSize + padding);
+    paintMark(*painter, look, QRectF(corner, QSizeF(markSize, markSize)));
+    paintFrames(*painter, option, index);
+    painter->restore();
+}
+
+KeyLegend::KeyLegend(QWidget* parent) : QWidget(parent)
+{
+    ui::nameControl(*this, u"KeyLegend"_s);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QSize KeyLegend::sizeHint() const
+{
+    const QFontMetrics metrics(font());
+    int width = 0;
+    for (const Look& look : looks)
+        width += metrics.horizontalAdvance(look.words) + markSize + 2 * padding + legendGap;
+    return {width, metrics.height() + 2 * padding};
+}
+
+void KeyLegend::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    int x = 0;
+    for (const Look& look : looks) {
+        const int words = painter.fontMetrics().horizontalAdvance(look.words);
+        const QRect place(x, 0, markSize + 3 * padding + words, height());
+        painter.fillRect(place, look.ground);
+        painter.setPen(colours::text);
+        painter.drawText(place.adjusted(markSize + 2 * padding, 0, 0, 0), Qt::AlignVCenter, look.words);
+        paintMark(painter, look, QRectF(x + padding, (height() - markSize) / 2.0, markSize, markSize));
+        x += place.width() + legendGap - padding;
+    }
+}
+
+} // namespace norvane::keys

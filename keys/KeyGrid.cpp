@@ -1,0 +1,99 @@
+// See KeyGrid.h.
+#include "keys/KeyGrid.h"
+
+#include "keys/KeyCellDelegate.h"
+#include "paper/Length.h"
+#include "ui/FormKit.h"
+
+#include <QDrag>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScrollBar>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::keys
+{
+namespace
+{
+
+int pixels(double twips)
+{
+    return static_cast<int>(paper::twips(twips).inDots(paper::screenDotsPerInch));
+}
+
+void fixSections(QHeaderView& header, double twips)
+{
+    header.hide();
+    header.setSectionResizeMode(QHeaderView::Fixed);
+    header.setMinimumSectionSize(1);
+    header.setDefaultSectionSize(pixels(twips));
+}
+
+} // namespace
+
+KeyGrid::KeyGrid(KeyGridModel* model, QWidget* parent) : QTableView(parent)
+{
+    ui::nameControl(*this, u"Grid1"_s);
+    setModel(model);
+    setItemDelegate(new KeyCellDelegate(this));
+    fixSections(*verticalHeader(), cellHeightTwips);
+    fixSections(*horizontalHeader(), cellWidthTwips);
+    setTabKeyNavigation(false);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(ExtendedSelection);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollMode(ScrollPerPixel);
+    setDragDropMode(DragDrop);
+    setDefaultDropAction(Qt::MoveAction);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void KeyGrid::setCurrentCell(KeyCell cell)
+{
+    setCurrentIndex(model()->index(cell.row, cell.column));
+}
+
+KeyCells KeyGrid::chosenCells() const
+{
+    KeyCells cells;
+    for (const QModelIndex& index : selectionModel()->selectedIndexes())
+        cells.push_back(KeyGridModel::cellOf(index));
+    if (cells.empty() && currentIndex().isValid())
+        cells.push_back(currentCell());
+    return cells;
+}
+
+QSize KeyGrid::sizeHint() const
+{
+    const int frame = 2 * frameWidth();
+    return {horizontalHeader()->length() + frame, verticalHeader()->length() + frame};
+}
+
+void KeyGrid::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        Q_EMIT entered();
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+/// The view's own way would clear the cells that were dragged away.
+void KeyGrid::startDrag(Qt::DropActions actions)
+{
+    if (!model()->flags(currentIndex()).testFlag(Qt::ItemIsDragEnabled))
+        return;
+    auto* const drag = new QDrag(this);
+    drag->setMimeData(model()->mimeData(selectedIndexes()));
+    drag->exec(actions, Qt::MoveAction);
+}
+
+void KeyGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    Q_EMIT currentCellChanged();
+}
+
+} // namespace norvane::keys

@@ -1,0 +1,40 @@
+// The key grid: a view with a block of keys in hand.
+#pragma once
+
+#include "keys/KeyGridModel.h"
+
+#include <QTableView>
+
+namespace norvane::keys
+{
+
+/// Arrow keys walk the keys; with Shift they choose several, as Shift and Ctrl with a click do. What is
+/// chosen is dragged as a block.
+class KeyGrid : public QTableView
+{
+    Q_OBJECT
+
+public:
+    KeyGrid(KeyGridModel* model, QWidget* parent);
+
+    [[nodiscard]] KeyCell currentCell() const { return KeyGridModel::cellOf(currentIndex()); }
+    /// Chooses this cell alone.
+    void setCurrentCell(KeyCell cell);
+    /// The current cell among them.
+    [[nodiscard]] KeyCells chosenCells() const;
+
+    /// As large as all keys need.
+    [[nodiscard]] QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// The user wants to choose for the current cell.
+    void entered();
+    void currentCellChanged();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void startDrag(Qt::DropActions actions) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+};
+
+} // namespace norvane::keys

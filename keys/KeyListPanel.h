@@ -1,0 +1,71 @@
+// The three lists from which keys are programmed.
+#pragma once
+
+#include "keys/KeyItems.h"
+
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+class QLabel;
+class QRadioButton;
+class QTableView;
+
+namespace norvane::store
+{
+class Database;
+class RecordListModel;
+} // namespace norvane::store
+
+namespace norvane::ui
+{
+class FilterBox;
+}
+
+namespace norvane::keys
+{
+
+/// Function keys, PLUs and window look-ups, one list of them shown, with a box that filters it. A table is
+/// read when its list is shown for the first time.
+class KeyListPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    KeyListPanel(const std::shared_ptr<store::Database>& database, QWidget* parent);
+
+    /// Brings the keyboard into the list shown.
+    void enterList();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// The user wants this item on the key; by Enter or by a click.
+    void chosen(ItemKind kind, const QString& number, bool byEnter);
+    /// The user looks at this item.
+    void looked(ItemKind kind, const QString& number);
+
+private:
+    struct List {
+        QRadioButton* option = nullptr;
+        QTableView* table = nullptr;
+        store::RecordListModel* model = nullptr;
+    };
+
+    void build(ItemKind kind, const std::shared_ptr<store::Database>& database);
+    void layOut();
+    void show(ItemKind kind);
+    void setFilter(const QString& part);
+    void tellCount();
+    void choose(const QModelIndex& index, bool byEnter);
+    [[nodiscard]] List& list(ItemKind kind) { return m_lists.at(static_cast<std::size_t>(kind)); }
+    [[nodiscard]] List& shownList() { return list(m_kind); }
+
+    std::array<List, 3> m_lists; ///< by kind
+    ItemKind m_kind = ItemKind::Function;
+    ui::FilterBox* m_filter;
+    QLabel* m_count;
+};
+
+} // namespace norvane::keys
