@@ -1,0 +1,141 @@
+// A level from its two tables to its cells and back, good rows and bad ones.
+#include "keys/KeyLevel.h"
+
+#include "tests/keys/KeyShop.h"
+
+namespace norvane::keys
+{
+namespace
+{
+
+using namespace Qt::Literals::StringLiterals;
+using test::KeyShop;
+using test::text;
+using test::whole;
+
+constexpr int shownLevel = 2;
+
+/// A Dorvik with a few items.
+class LevelShop : public KeyShop
+{
+public:
+    LevelShop() : KeyShop("3")
+    {
+        addKeyboard(keyboard.keysPerLevel);
+        add("FUNCTIONKEY", {{"id", whole(5)}, {"DESCRIPTION", text("CASH")}});
+        add("PLUDATA", {{"PLUNUMBER", text("000000000000001001")}, {"DESCRIPTION", text("Lager")}});
+        add("PLUDATA", {{"PLUNUMBER", text("123456789012345678")}, {"DESCRIPTION", text("Malt")}});
+        add("WLU", {{"WLUno", whole(12)}, {"DESCRIPTION", text("Breakfast")}});
+    }
+
+    /// Puts both values, SQL texts, into the row of a key of the shown level.
+    void put(int key, const std::string& link, const std::string& number) const
+    {
+        const std::string id = std::to_string(keyboard.rowsAhead(shownLevel) + key);
+        execute(("update keylink set keylink = " + link + " where id = " + id).c_str());
+        execute(("update nlu set nlu = " + number + " where id = " + id).c_str());
+    }
+    [[nodiscard]] std::string stored(const char* table, int key) const
+    {
+        const auto all = QString::fromStdString(column(table, table)).split(u'|');
+        return all.at(keyboard.rowsAhead(shownLevel) + key - 1).toStdString();
+    }
+    [[nodiscard]] KeyCell cellOf(int key) const
+    {
+        return keyboard.walk().at(static_cast<std::size_t>(key) - 1);
+    }
+
+    const KeyGeometry& keyboard = dorvikKeyboard();
+};
+
+TEST(KeyLevel, ShowsWhatARowSaysAndWritesTheKeyNumberWhereItBelongs)
+{
+    struct Row {
+        const char* link;
+        const char* number;
+        const char* shown;
+        KeyState state;
+        const char* savedLink;
+        const char* savedNumber; ///< a "#" stands for the key's number in 14 digits
+    };
+    const Row rows[] = {
+        {"'0'", "'000000000000001001'", "P00000000000001001 Lager", KeyState::Plu, "0", "000000000000001001"},
+        {"'0'", "'123456789012345678'", "P123456789012345678 Malt", KeyState::Plu, "0", "123456789012345678"},
+        {"'0'", "'000000000000009999'", "PLU ITEM", KeyState::Missing, "0", "000000000000009999"},
+        {"'0'", "null", "PLU ITEM", KeyState::Missing, "0", "null"},
+        {"'271'", "'001200000000000777'", "W00000000000000012 Breakfast", KeyState::LookUp, "271", "0012#"},
+        {"'271'", "'0099'", "WLU ITEM", KeyState::Missing, "271", "0099#"},
+        {"'5'", "'999'", "CASH", KeyState::Function, "5", "0000#"},
+        {"'6'", "'000000000000001001'", "Function Key", KeyState::Missing, "6", "0000#"},
+        {"''", "'000000000000001001'", "Function Key", KeyState::Unprogrammed, "", "0000#"},
+        {"null", "null", "Function Key", KeyState::Unprogrammed, "null", "0000#"},
+    };
+    const LevelShop shop;
+    int key = 0;
+    for (const Row& row : rows)
+        shop.put(++key, row.link, row.number);
+    KeyLevel level(shop.keyboard, shop.open());
+    level.read(shownLevel);
+    EXPECT_EQ(level.key({0, 1}).text, u"Journal Feed\rFIXED"_s);
+    level.save();
+    EXPECT_FALSE(level.differs());
+    key = 0;
+    for (const Row& row : rows) {
+        const Key& shown = level.key(shop.cellOf(++key));
+        EXPECT_EQ(shown.text.toStdString(), row.shown) << key;
+        EXPECT_EQ(shown.state, row.state) << key;
+        EXPECT_EQ(shop.stored("KEYLINK", key), row.savedLink) << key;
+        const auto number = QString::number(key).rightJustified(14, u'0');
+        EXPECT_EQ(shop.stored("NLU", key),
+                  QString::fromLatin1(row.savedNumber).replace(u'#', number).toStdString());
+    }
+    EXPECT_EQ(shop.stored("NLU", 158), "000000000000000158");
+    EXPECT_EQ(shop.stored("NLU", 159), "000000000000003001") << "level 3 stays";
+    EXPECT_EQ(shop.stored("NLU", 0), "000000000000001158") << "level 1 stays";
+}
+
+TEST(KeyLevel, NamesTableRowAndTheWayOutOfBadRows)
+{
+    const std::tuple<const char*, int, const char*> cases[] = {
+        {"delete * from keylink where id > 300", 3021,
+         "Table KEYLINK, row 301: No current record. (KEYLINK) Upload Key Link from the ECR first."},
+        {"delete * from nlu", 3021,
+         "Table NLU, row 1: No current record. (NLU) Upload PLU & WLU Relocation from the ECR first."},
+        {"update keylink set keylink = 'ab' where id = 200", 3421, "Table KEYLINK, row 200: "},
+        {"update nlu set nlu = 'ab' where id = 159", 3421, "Table NLU, row 159: "},
+    };
+    for (const auto& [spoil, number, words] : cases) {
+        const LevelShop shop;
+        shop.put(1, "'271'", "'0012'");
+        KeyLevel level(shop.keyboard, shop.open());
+        level.read(1);
+        shop.execute(spoil);
+        try {
+            level.read(shownLevel);
+            ADD_FAILURE() << spoil;
+        } catch (const RuntimeFailure& failure) {
+            EXPECT_EQ(failure.number(), number);
+            EXPECT_TRUE(failure.text().startsWith(QLatin1String(words))) << failure.what();
+        }
+        EXPECT_EQ(level.level(), 1);
+    }
+}
+
+TEST(KeyLevel, ASaveThatFailsLeavesBothTablesAsTheyWere)
+{
+    const LevelShop shop;
+    KeyLevel level(shop.keyboard, shop.open());
+    level.read(shownLevel);
+    level.setKey(shop.cellOf(1), *level.items().keyFor(ItemKind::Plu, u"1001"_s));
+    EXPECT_TRUE(level.differs());
+    shop.execute("delete * from nlu where id > 300");
+    const auto links = shop.column("KEYLINK", "KEYLINK");
+    const auto numbers = shop.column("NLU", "NLU");
+    EXPECT_THROW(level.save(), RuntimeFailure);
+    EXPECT_EQ(shop.column("KEYLINK", "KEYLINK"), links);
+    EXPECT_EQ(shop.column("NLU", "NLU"), numbers);
+    EXPECT_TRUE(level.differs()) << "the change can still be saved";
+}
+
+} // namespace
+} // namespace norvane::keys
