@@ -2,6 +2,7 @@
 #include "keys/KeyLayout.h"
 
 #include "base/LossQuestion.h"
+#include "keys/copylevel.h"
 #include "keys/KeyCellDelegate.h"
 #include "keys/KeyDatabase.h"
 #include "keys/KeyGrid.h"
@@ -120,7 +121,7 @@ QLayout* KeyLayout::makeLevelRow()
     for (int level = 1; level <= levelCount; ++level)
         row->addWidget(makeLevelButton(level));
     QPushButton* const copy = makeFormButton(u"CSCmdBtn8"_s, u"Copy Levels"_s, this);
-    copy->setEnabled(false);
+    connect(copy, &QPushButton::clicked, this, &KeyLayout::copyLevels);
     row->addSpacing(ui::spacing::groupGap);
     row->addWidget(copy);
     row->addStretch();
@@ -287,6 +288,16 @@ void KeyLayout::changeLevel(int level)
     } else {
         showLevel();
     }
+}
+
+/// The level is read afresh afterwards, so that changes are asked about first.
+void KeyLayout::copyLevels()
+{
+    if (m_level.differs() && !leaveLevel())
+        return;
+    copylevel form(*m_database, m_level.geometry(), m_boxes, this);
+    const bool isCopied = form.exec() == Accepted;
+    updategrid(isCopied ? form.copiedTo() : m_level.level());
 }
 
 void KeyLayout::assign(ItemKind kind, const QString& number, bool byEnter)

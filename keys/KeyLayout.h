@@ -69,6 +69,7 @@ private:
     void askAndSave();
     [[nodiscard]] bool leaveLevel();
     void changeLevel(int level);
+    void copyLevels();
 
     void assign(ItemKind kind, const QString& number, bool byEnter);
     [[nodiscard]] bool mayAssign(ItemKind kind, const QString& number);
