@@ -11,9 +11,9 @@ namespace norvane::exchange
 /// @throws RuntimeFailure 75 when a file cannot be deleted or written, 61 when the disk is full.
 void MoveDataFile(const QString& source, const QString& target, const QString& name);
 
-/// Ahead of a MoveDataFile() into the customer's folder @p target: keeps the copy that is about to be
-/// replaced as name.former beside it. A copy that is empty, or the same as what comes, leaves the former one
-/// alone. @return true when what comes is empty and the copy is not.
+/// To be called before MoveDataFile() replaces the copy in the customer's folder @p target: keeps that copy
+/// beside it as name.former. A copy that is empty, or the same as the new file, is not kept, and name.former
+/// stays. @return true when the new file is empty and the copy is not.
 /// @throws as MoveDataFile
 bool keepFormerCopy(const QString& source, const QString& target, const QString& name);
 

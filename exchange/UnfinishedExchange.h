@@ -27,7 +27,7 @@ void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exc
 /// Tells which boxes of the last exchange are still to do, and since when; nothing when there are none.
 void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes);
 
-/// Whether the PLUs were fetched and their points, which go with the former PLUs, were not fetched since.
+/// Whether the PLUs were fetched and their points not yet: the points in the table belong to the former PLUs.
 [[nodiscard]] bool pluPointsWait(const ApplicationValues& values);
 void notePluPointsWait(const ApplicationValues& values, bool wait);
 

@@ -38,7 +38,7 @@ struct ProcedureContext {
 /// and changes the PLUs that it names. All in one transaction: when a failure ends it the user is asked
 /// whether what was read stays, see importOrPutBack().
 /// @return false when the user does not want the text that a failed conversion left; the table is untouched.
-/// @throws RuntimeFailure 53 when NN.txt is missing, what was read is nothing then; for a bad line what
+/// @throws RuntimeFailure 53 when NN.txt is missing: nothing was read then; for a bad line what
 /// RecordReader::read and Recordset::update throw, its text naming file, line and column.
 bool importRegisterFile(int file, const ProcedureContext& context);
 

@@ -1,4 +1,4 @@
-// An import whose failure leaves it to the user what becomes of the tables.
+// Asks the user what becomes of the tables when an import fails.
 #pragma once
 
 #include "platform/Boxes.h"
@@ -18,7 +18,7 @@ void importOrPutBack(store::Transaction& transaction, Boxes& boxes, const std::f
                      const std::function<void()>& import);
 
 /// The question about a register file's text that replaces a table of @p former records, after @p read of
-/// them; empty when there were none and none came.
+/// them; empty text when the table was empty and nothing was read.
 [[nodiscard]] QString keepRecordsQuestion(const QString& textName, qint64 read, qint64 former);
 
 } // namespace norvane::records

@@ -162,7 +162,7 @@ std::optional<int> CollectionRun::runStep(const ToolStep& step)
     return std::nullopt;
 }
 
-/// @p hasReports tells a step that makes the reports or their texts.
+/// @p hasReports is true for a step that writes the reports or their texts.
 bool CollectionRun::mayUse(const link::WatchedStep& step, bool hasReports, const QString& consequence)
 {
     if (hasReports && !step.isComplete())
@@ -170,14 +170,15 @@ bool CollectionRun::mayUse(const link::WatchedStep& step, bool hasReports, const
     return step.mayGoOn(consequence);
 }
 
-/// Told by the stamp of the PLU report. No layout has a column for the descriptions in such records.
+/// Whether the records of the PLU report hold descriptions, as its stamp tells. No layout has a column for
+/// them.
 bool CollectionRun::sendsDescriptions() const
 {
     const QString stamp = ReadPoll194Stamp(m_values).trimmed();
     return stamp.endsWith(u'3') || stamp.endsWith(u'2');
 }
 
-/// All five are made before the one question about those that failed. @return false when the user does not
+/// Makes all five texts first, then asks once about those that failed. @return false when the user does not
 /// want older ones.
 bool CollectionRun::convertReports()
 {

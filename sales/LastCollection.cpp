@@ -61,7 +61,7 @@ QByteArray markOfReports(const ApplicationValues& values)
     QCryptographicHash hash(QCryptographicHash::Sha256);
     for (const PollFile& file : pollFiles()) {
         const QByteArray text = readWholeFile(joinPath(values.appPath, QLatin1StringView(file.name)));
-        // The length parts one text from the next.
+        // With the length, bytes that move from one text to the next change the hash.
         hash.addData(QByteArray::number(text.size()) + ':');
         hash.addData(text);
     }

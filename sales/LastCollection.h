@@ -19,11 +19,11 @@ namespace norvane::sales
 
 inline constexpr std::size_t reportCount = 5;
 
-/// What was stored last, and how to know it again.
+/// What was stored last, and how to recognise it.
 struct LastCollection {
-    QByteArray mark; ///< of the five texts, empty before the first collection
+    QByteArray mark; ///< hash of the five texts, empty before the first collection
     QDateTime stored;
-    qint64 rowsOfDay = 0; ///< that the sales tables hold for that day, when it was stored
+    qint64 rowsOfDay = 0; ///< of that day in the sales tables, right after it was stored
     /// Records of each report in the order of pollFiles(); -1 when none is known.
     std::array<qint64, reportCount> records{-1, -1, -1, -1, -1};
 };
@@ -31,7 +31,7 @@ struct LastCollection {
 [[nodiscard]] LastCollection readLastCollection(const ApplicationValues& values);
 void noteLastCollection(const ApplicationValues& values, const LastCollection& collection);
 
-/// A mark of the five texts in the program's folder: the same only for the same bytes.
+/// A hash of the five texts in the program's folder: the same only for the same bytes.
 /// @throws RuntimeFailure 53 when one is missing.
 [[nodiscard]] QByteArray markOfReports(const ApplicationValues& values);
 

@@ -35,7 +35,7 @@ public:
 
 private:
     void importAll();
-    [[nodiscard]] bool mayBeShort() const;
+    [[nodiscard]] bool mayStoreShort() const;
     [[nodiscard]] QString shortReport(std::size_t report) const;
     [[nodiscard]] qint64 fewestExpected(std::size_t report) const;
     [[nodiscard]] bool isRepeat() const;
@@ -66,7 +66,7 @@ Stored ReportStore::store()
 {
     records::importOrPutBack(m_transaction, m_boxes, keepSalesQuestion, [this] { importAll(); });
     auto outcome = Stored::Yes;
-    if (!mayBeShort()) {
+    if (!mayStoreShort()) {
         outcome = Stored::Refused;
     } else if (isRepeat() && !mayStoreAgain()) {
         outcome = m_origin == ReportOrigin::ThisRun ? Stored::AlreadyThere : Stored::Refused;
@@ -92,7 +92,7 @@ void ReportStore::importAll()
     m_this.mark = markOfReports(m_values);
 }
 
-bool ReportStore::mayBeShort() const
+bool ReportStore::mayStoreShort() const
 {
     QStringList shortReports;
     for (std::size_t report = 0; report < reportCount; ++report) {
@@ -107,7 +107,7 @@ bool ReportStore::mayBeShort() const
                          u"this is as it should be.\r\rGo on all the same?"_s.arg(shortReports.join(u'\r')));
 }
 
-/// @return empty text for a report that is as long as it has to be.
+/// @return the report with its number of records when that is too small; else empty text.
 QString ReportStore::shortReport(std::size_t report) const
 {
     const PollFile& file = pollFiles()[report];
@@ -147,7 +147,8 @@ bool ReportStore::mayStoreAgain() const
                  u"Store them again?"_s.arg(m_last.stored.toString(u"dd/MM/yyyy 'at' HH:mm"_s), then));
 }
 
-/// Ahead of the commit: a run that is cut off between the two is known by the rows that are not there.
+/// Written before the commit. When the run is cut off between the two, the rows are missing, and the next
+/// collection does not take this one as stored.
 void ReportStore::note()
 {
     m_this.stored = QDateTime(m_collected, QTime::currentTime());

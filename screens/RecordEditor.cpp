@@ -36,16 +36,14 @@ decltype(auto) namingFile(const QString& file, Act act)
     return atPlace(explain, act);
 }
 
-store::Value leadingNumberOf(const store::Value& value)
-{
-    if (value.isYesNo())
-        return store::Value::whole(value.isTrue() ? -1 : 0);
-    return store::Value::text(Decimal::leading(value.toUtf8()).text());
-}
-
 store::Value shownNumber(const store::Value& value)
 {
     return store::Value::text(Decimal::leading(value.toUtf8()).text());
+}
+
+store::Value leadingNumberOf(const store::Value& value)
+{
+    return value.isYesNo() ? store::Value::whole(value.isTrue() ? -1 : 0) : shownNumber(value);
 }
 
 /// A whole-number box cannot show null.

@@ -15,7 +15,7 @@ struct Reason {
     QLatin1StringView text;
 };
 
-/// The failures that do not lie in what was entered. All others tell it themselves, table and field included.
+/// Failures that have nothing to do with the entry. The texts of all others name table and field.
 constexpr Reason reasons[] = {
     {Failure::DatabaseLocked, "another program holds the database"_L1},
     {Failure::DiskFull, "the disk is full"_L1},

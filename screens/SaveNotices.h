@@ -13,7 +13,7 @@ namespace norvane::screens
 /// fields of a screen, also those that the user left alone.
 [[nodiscard]] bool mayOverwrite(Boxes& boxes);
 
-/// That nothing was stored, and why: a save that fails otherwise passes without a word.
+/// Says that nothing was stored, and why.
 [[nodiscard]] QString nothingStored(const RuntimeFailure& failure);
 
 /// "Saved PLU 1001" for the record @p key of many, which the screen calls by the words @p label; "Saved Tax

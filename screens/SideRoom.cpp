@@ -17,7 +17,7 @@ void SideRoom::widen(int pixels)
     m_widened = pixels > 0 ? width - frame->width() : 0;
     if (!m_form.isWindow())
         frame->move(qBound(0, frame->x(), room - width), frame->y());
-    m_form.layout()->activate(); // or the width that was taken would still count as needed
+    m_form.layout()->activate(); // until then the former width counts as the smallest
     frame->resize(width, frame->height());
 }
 

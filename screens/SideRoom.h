@@ -1,4 +1,4 @@
-// Room beside a screen for what is unfolded there.
+// Makes room beside a screen for a list that opens there.
 #pragma once
 
 class QWidget;
@@ -12,8 +12,8 @@ class SideRoom
 public:
     explicit SideRoom(QWidget& form) : m_form(form) {}
 
-    /// Makes the form so many pixels wider, as far as there is room; with a negative number, as narrow as it
-    /// was. A maximized form has its width already.
+    /// Makes the form @p pixels wider, as far as there is room. A negative number makes it as narrow as it
+    /// was before. A maximized form stays as it is.
     void widen(int pixels);
 
 private:

@@ -139,7 +139,7 @@ QAction* FrmMain::buildMenuOf(const MenuEntry& entry)
     return menu->menuAction();
 }
 
-/// A key editor leads over to the chosen customer's data, others change what the screens show.
+/// An entry can change which database is in use, as the key editors do, or records that screens show.
 void FrmMain::choose(const MenuEntry& entry)
 {
     if (m_working)

@@ -8,8 +8,8 @@ class QLabel;
 namespace norvane::shell
 {
 
-/// A panel ("Ready.....") and beside it the status text, which names the customer. At the right what the last
-/// action came to ("Saved PLU 1001"), and whose data is open while it is not the customer's.
+/// A panel ("Ready.....") and beside it the status text, which names the customer. At the right the result of
+/// the last action ("Saved PLU 1001"), and whose data is open while that is another customer's.
 class MainStatusBar : public QStatusBar
 {
     Q_OBJECT

@@ -48,8 +48,8 @@ void openCollection(FrmMain& main, const ApplicationValues& values, Boxes& boxes
     });
 }
 
-/// What a screen has to say stands in the status bar, until the screen closes. A screen that comes to the
-/// front again, and every screen after a menu entry, looks what has become of its record.
+/// Notices of a screen are shown in the status bar until the screen closes. A screen that comes to the front
+/// reads its record again, and all screens do after a menu entry: others may have changed it.
 void openScreen(FrmMain& main, const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes)
 {
     auto reports = std::make_unique<ScreenReports>(main, values, boxes);

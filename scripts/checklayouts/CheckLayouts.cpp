@@ -3,7 +3,7 @@
 //
 //   check_layouts <folder>
 //
-// Tells each mistake on a line; the exit code is 1 when there is one.
+// Prints a line for each mistake. The exit code is 1 when there is one, and when there are no files.
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "reports/ReportRun.h"
@@ -39,7 +39,7 @@ public:
             if (name.endsWith(u".rpt"_s, Qt::CaseInsensitive)) {
                 checkLayout(m_folder.filePath(name));
             } else {
-                checkScreen(m_folder.filePath(name));
+                attempt(m_folder.filePath(name), [&] { checkScreen(m_folder.filePath(name)); });
             }
         }
         std::printf("%d files, %d mistakes\n", static_cast<int>(names.size()), m_mistakes);
@@ -68,7 +68,7 @@ private:
         }
     }
 
-    /// Does @p act, telling what goes wrong.
+    /// Runs @p act and prints the failure that it throws, if any.
     template <typename Act>
     void attempt(const QString& path, Act act)
     {

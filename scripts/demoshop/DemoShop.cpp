@@ -1,4 +1,4 @@
-// Upload and import are the program's own, and the reports come from the real tools; see DemoShop.h.
+// Makes the shop by the program's own upload and import, with reports from the real tools; see DemoShop.h.
 #include "scripts/demoshop/DemoShop.h"
 
 #include "base/SharedRoutines.h"
@@ -35,7 +35,7 @@ void require(bool holds, const QString& complaint)
         throw std::runtime_error(complaint.toStdString());
 }
 
-/// Nobody is there to read or to answer: a word from the program is a failure.
+/// Nobody is there to read or to answer, so any box is a failure.
 class NoBoxes : public Boxes
 {
 public:

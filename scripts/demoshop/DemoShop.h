@@ -1,4 +1,4 @@
-// A customer to look at: a programme from a register, and sales of more than a year.
+// Makes a customer to look at, with the programme of a register and sales of more than a year.
 #pragma once
 
 #include <QDate>
@@ -10,7 +10,7 @@ namespace demo
 struct Wish {
     QString program; ///< folder of the program, with tools, templates and a bank that answers
     QString tools;   ///< folder with makebank and ringsales
-    QString scratch; ///< folder for what is needed meanwhile; a quick one
+    QString scratch; ///< folder for temporary files, on a quick disk
     QDate first;     ///< first and last day of the sales
     QDate last;
 };

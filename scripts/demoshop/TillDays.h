@@ -13,8 +13,8 @@ namespace demo
 /// Runs a program in @p folder to its end. @throws std::runtime_error when it failed
 void runIn(const QString& folder, const QString& program, const QStringList& words);
 
-/// A register of its own and a folder in which the tools work, as the program's folder is one. No program
-/// lies in it: nothing may run from a quick folder on some machines.
+/// A register of its own, and a folder in which the tools work as they do in the program's folder. The
+/// programs are not copied there: on some machines no program may run from a folder for temporary files.
 class TillDays
 {
 public:
@@ -24,7 +24,7 @@ public:
 
     /// Rings the day and collects it: poll190.txt and its like are in the folder of values() afterwards.
     void bringHome(const TradeDay& day) const;
-    /// Those of a program that works in the folder.
+    /// The values of a program that works in the folder.
     [[nodiscard]] const norvane::ApplicationValues& values() const { return m_values; }
 
 private:
