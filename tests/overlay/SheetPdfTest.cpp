@@ -5,6 +5,8 @@
 #include "tests/platform/TestFolder.h"
 #include "tests/support/OtherPrograms.h"
 
+#include <QPdfWriter>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::test
@@ -141,13 +143,13 @@ QRgb colourOfCell(int cell)
 class Page
 {
 public:
-    explicit Page(const Document& document)
+    explicit Page(const QString& pdf) : m_image(pdfPage(pdf, 1)) { EXPECT_NEAR(m_image.width(), 2970, 1); }
+    static Page of(const Document& document)
     {
         const TestFolder folder;
         writeSheetPdf(document, QPageLayout::Landscape, folder.path("a.pdf"));
         EXPECT_LT(QFileInfo(folder.path("a.pdf")).size(), 500 * 1000);
-        m_image = pdfPage(folder.path("a.pdf"), 1);
-        EXPECT_NEAR(m_image.width(), 2970, 1);
+        return Page(folder.path("a.pdf"));
     }
     /// The colour at a dot, each part full or empty.
     [[nodiscard]] QRgb at(double x, double y) const
@@ -250,7 +252,7 @@ TEST_P(SheetPdf, ShowsEveryBandAndGapWhereTheKeyIs)
         document.cell(cell).text.clear();
         document.cell(cell).background = colourOf(QColor(colourOfCell(cell)));
     }
-    const Page page(document);
+    const Page page = Page::of(document);
     for (const ExpectedKey& key : expectedKeys(GetParam())) {
         SCOPED_TRACE(u"the key of cell %1"_s.arg(key.firstCell).toStdString());
         for (std::size_t band = 0; band < key.measure.lines.size(); ++band)
@@ -271,7 +273,7 @@ TEST_P(SheetPdf, PrintsTextsInTheMiddleOfTheirWidthAndInsideTheirKeys)
     Document document(GetParam().keyboard);
     for (int cell = 0; cell < document.cellCount(); ++cell)
         document.cell(cell).text = cell % 2 == 0 ? u"H"_s : u"HHHHHHHHHHHHHHHHHHHH"_s;
-    const Page page(document);
+    const Page page = Page::of(document);
     for (const ExpectedKey& key : expectedKeys(GetParam())) {
         for (std::size_t line = 0; line < key.measure.lines.size(); ++line) {
             const int cell = key.firstCell + static_cast<int>(line);
@@ -290,6 +292,21 @@ TEST_P(SheetPdf, PrintsTextsInTheMiddleOfTheirWidthAndInsideTheirKeys)
             }
         }
     }
+}
+
+TEST(TestPageTest, HasItsLinesWhereItSaysUnderTheCorrectionInHand)
+{
+    const TestFolder folder;
+    QPdfWriter writer(folder.path("a.pdf"));
+    const paper::PrinterCorrection correction{{paper::millimetres(2), 1.01}, {paper::millimetres(-3), 1}};
+    ASSERT_TRUE(printTestPage(writer, {u"Office"_s, {}, correction}));
+    const Page page(folder.path("a.pdf"));
+    const QRectF across = page.darkPart({20, 86.9, 200, 0.2});
+    const QRectF down = page.darkPart({102.9, 20, 0.2, 120});
+    EXPECT_NEAR(across.left(), 52 * 1.01, 0.1);
+    EXPECT_NEAR(across.width(), 101, 0.2);
+    EXPECT_NEAR(down.top(), 37, 0.1);
+    EXPECT_NEAR(down.height(), 100, 0.2);
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, SheetPdf, testing::ValuesIn(measures), [](const auto& row) {

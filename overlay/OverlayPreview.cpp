@@ -1,0 +1,187 @@
+// See OverlayPreview.h.
+#include "overlay/OverlayPreview.h"
+
+#include "overlay/CorrectionForm.h"
+#include "overlay/SheetPainter.h"
+#include "overlay/SheetView.h"
+#include "platform/Boxes.h"
+#include "ui/Appearance.h"
+#include "ui/FormKit.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::overlay
+{
+namespace
+{
+
+constexpr QSize goodSize{1120, 860};
+
+/// Several keys, or one.
+QString counted(std::size_t count, const QString& one, const QString& several)
+{
+    return count == 1 ? one : several.arg(count);
+}
+
+} // namespace
+
+OverlayPreview::OverlayPreview(const Document& document, TargetPrinter target, PreviewActions actions,
+                               const paper::PrinterCorrections& corrections, Boxes& boxes, QWidget* parent)
+    : QDialog(parent), m_document(document), m_target(std::move(target)), m_actions(std::move(actions)),
+      m_corrections(corrections), m_boxes(boxes), m_view(new SheetView(document, this))
+{
+    setObjectName(u"OverlayPreview"_s);
+    setWindowTitle(u"Preview - %1"_s.arg(printerName()));
+    buildControls();
+    showTarget();
+    resize(goodSize.boundedTo(screen()->availableSize() * 0.94));
+    m_view->setFocus();
+}
+
+QString OverlayPreview::printerName() const
+{
+    return m_target.name.isEmpty() ? u"PDF file"_s : m_target.name;
+}
+
+void OverlayPreview::buildControls()
+{
+    ui::nameControl(*m_view, u"SheetView"_s);
+    auto* const column = new QVBoxLayout(this);
+    constexpr int margin = ui::spacing::controlGap;
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(margin);
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(margin);
+    addButton(*row, u"PrintButton"_s, u"&Print"_s, &OverlayPreview::print);
+    addButton(*row, u"SaveButton"_s, u"&Save as PDF"_s, &OverlayPreview::savePdf);
+    addButton(*row, u"CorrectionButton"_s, u"Printer &correction"_s, &OverlayPreview::correct);
+    addZoom(*row);
+    row->addStretch();
+    addButton(*row, u"CloseButton"_s, u"C&lose"_s, &OverlayPreview::reject);
+    column->addLayout(row);
+    column->addWidget(makeNotice());
+    column->addWidget(m_view, 1);
+}
+
+void OverlayPreview::addButton(QBoxLayout& row, const QString& name, const QString& caption, Handler handler)
+{
+    QPushButton* const button = ui::makeButton(name, caption, this);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, handler);
+    row.addWidget(button);
+}
+
+void OverlayPreview::addZoom(QBoxLayout& row)
+{
+    auto* const label = new QLabel(u"&Zoom:"_s, this);
+    m_zoom = new QComboBox(this);
+    m_zoom->addItems({u"Fit page"_s, u"Fit width"_s, u"100 %"_s});
+    m_zoom->setPlaceholderText(u"Own size"_s);
+    m_zoom->setToolTip(u"Ctrl and the mouse wheel, + and - show any size"_s);
+    ui::nameControl(*m_zoom, u"Zoom"_s);
+    label->setBuddy(m_zoom);
+    connect(m_zoom, &QComboBox::activated, m_view,
+            [this](int index) { m_view->setZoom(static_cast<SheetView::Zoom>(index)); });
+    connect(m_view, &SheetView::zoomedFreely, this, [this] { m_zoom->setCurrentIndex(-1); });
+    row.addWidget(label);
+    row.addWidget(m_zoom);
+}
+
+QWidget* OverlayPreview::makeNotice()
+{
+    auto* const frame = new QFrame(this);
+    frame->setAutoFillBackground(true);
+    QPalette palette = frame->palette();
+    palette.setColor(QPalette::Window, ui::colours::warningPale);
+    frame->setPalette(palette);
+    m_notice = new QLabel(frame);
+    m_notice->setWordWrap(true);
+    ui::nameControl(*m_notice, u"Notice"_s);
+    m_move = ui::makeButton(u"MoveButton"_s, u"&Move the sheet"_s, this);
+    m_move->setAutoDefault(false);
+    m_move->setToolTip(u"Keeps a move in the printer's correction"_s);
+    connect(m_move, &QPushButton::clicked, this, &OverlayPreview::moveSheet);
+    auto* const row = new QHBoxLayout(frame);
+    row->addWidget(m_notice, 1);
+    row->addWidget(m_move);
+    return frame;
+}
+
+void OverlayPreview::print()
+{
+    m_actions.print();
+}
+
+void OverlayPreview::savePdf()
+{
+    m_actions.savePdf();
+}
+
+void OverlayPreview::correct()
+{
+    CorrectionForm form(m_target.name, m_target.correction, m_actions.printTestPage, m_boxes, this);
+    if (form.exec() == QDialog::Accepted)
+        take(form.correction());
+}
+
+void OverlayPreview::moveSheet()
+{
+    if (const auto moved = correctionToFit(m_document.layout(), m_target))
+        take(*moved);
+}
+
+void OverlayPreview::take(const paper::PrinterCorrection& correction)
+{
+    if (!m_corrections.keep(m_target.name, correction))
+        m_boxes.message(u"The correction could not be stored. It holds until this window is closed."_s,
+                        u"Printer Correction"_s, BoxIcon::Exclamation);
+    m_target.correction = correction;
+    showTarget();
+}
+
+void OverlayPreview::showTarget()
+{
+    m_view->setTarget(m_target);
+    QStringList notices = {outsideNotice(), cutNotice()};
+    notices.removeAll(QString());
+    m_notice->setText(notices.join(u'\n'));
+    m_notice->parentWidget()->setVisible(!notices.isEmpty());
+    const bool hasPrinter = !m_target.name.isEmpty();
+    findChild<QPushButton*>(u"CorrectionButton"_s)->setEnabled(hasPrinter);
+    m_move->setVisible(hasPrinter && !keysOutside(m_document.layout(), m_target).empty() &&
+                       correctionToFit(m_document.layout(), m_target));
+}
+
+QString OverlayPreview::outsideNotice() const
+{
+    const std::size_t outside = keysOutside(m_document.layout(), m_target).size();
+    if (outside == 0)
+        return {};
+    const QString notice =
+        counted(outside, u"1 key leaves"_s, u"%1 keys leave"_s) +
+        u" the printable area of the printer %1 (dashed line) and will not print whole."_s.arg(printerName());
+    if (!isWiderThanPage(m_document.layout(), m_target))
+        return notice;
+    const bool isUpright = m_target.sheet.orientation == QPageLayout::Portrait;
+    return u"The sheet is wider than the page. "_s +
+           (isUpright ? u"Choose Landscape in Printer Setup. "_s : QString()) + notice;
+}
+
+QString OverlayPreview::cutNotice() const
+{
+    const std::vector<int> cut = cutCells(m_document);
+    if (cut.empty())
+        return {};
+    return counted(cut.size(), u"1 text is"_s, u"%1 texts are"_s) +
+           u" wider than the key and will be cut, as shown. The first is \"%1\"."_s.arg(
+               m_document.cell(cut.front()).text.left(60));
+}
+
+} // namespace norvane::overlay

@@ -1,0 +1,73 @@
+// The sheet before it is printed.
+#pragma once
+
+#include "overlay/SheetPrint.h"
+
+#include <QDialog>
+
+#include <functional>
+
+class QBoxLayout;
+class QComboBox;
+class QLabel;
+class QPushButton;
+
+namespace norvane
+{
+class Boxes;
+}
+
+namespace norvane::overlay
+{
+
+class SheetView;
+
+/// What the preview's buttons do beside the preview itself.
+struct PreviewActions {
+    std::function<void()> print;
+    std::function<void()> savePdf;
+    /// Prints the test page under a correction. @return false when the printer failed.
+    std::function<bool(const paper::PrinterCorrection&)> printTestPage;
+};
+
+/// Shows a document as a printer will print it, tells which keys it cannot print whole and which texts it
+/// cuts, and leads to its correction.
+class OverlayPreview : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// @p document, @p corrections and @p boxes must outlive the dialog. The correction of @p target is the
+    /// one that @p corrections has for its name.
+    OverlayPreview(const Document& document, TargetPrinter target, PreviewActions actions,
+                   const paper::PrinterCorrections& corrections, Boxes& boxes, QWidget* parent = nullptr);
+
+private:
+    using Handler = void (OverlayPreview::*)();
+
+    void buildControls();
+    void addButton(QBoxLayout& row, const QString& name, const QString& caption, Handler handler);
+    void addZoom(QBoxLayout& row);
+    [[nodiscard]] QWidget* makeNotice();
+    void print();
+    void savePdf();
+    void correct();
+    void moveSheet();
+    void take(const paper::PrinterCorrection& correction);
+    void showTarget();
+    [[nodiscard]] QString outsideNotice() const;
+    [[nodiscard]] QString cutNotice() const;
+    [[nodiscard]] QString printerName() const;
+
+    const Document& m_document;
+    TargetPrinter m_target;
+    PreviewActions m_actions;
+    const paper::PrinterCorrections& m_corrections;
+    Boxes& m_boxes;
+    SheetView* m_view;
+    QComboBox* m_zoom = nullptr;
+    QLabel* m_notice = nullptr;
+    QPushButton* m_move = nullptr;
+};
+
+} // namespace norvane::overlay

@@ -1,0 +1,205 @@
+// See SheetView.h.
+#include "overlay/SheetView.h"
+
+#include "overlay/Ruler.h"
+#include "overlay/SheetPainter.h"
+#include "ui/Appearance.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <cmath>
+
+namespace norvane::overlay
+{
+namespace
+{
+
+constexpr int gap = 10; ///< around the sheet, in pixels
+constexpr double millimetresPerInch = 25.4;
+constexpr double largestScale = 40;
+constexpr double smallestScale = 0.5;
+constexpr double zoomStep = 1.25;
+constexpr int arrowStep = 40;
+
+} // namespace
+
+SheetView::SheetView(const Document& document, QWidget* parent)
+    : QAbstractScrollArea(parent), m_document(document)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    for (QScrollBar* const bar : {horizontalScrollBar(), verticalScrollBar()})
+        bar->setSingleStep(arrowStep);
+    viewport()->setCursor(Qt::OpenHandCursor);
+    setZoom(Zoom::FitPage);
+}
+
+void SheetView::setTarget(const TargetPrinter& target)
+{
+    m_target = target;
+    m_outside = keysOutside(m_document.layout(), target);
+    takeScale();
+}
+
+void SheetView::setZoom(Zoom zoom)
+{
+    m_zoom = zoom;
+    // Bars that come and go would change the room that the sheet is fitted in.
+    setHorizontalScrollBarPolicy(zoom == Zoom::FitPage || zoom == Zoom::FitWidth ? Qt::ScrollBarAlwaysOff
+                                                                                 : Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(zoom == Zoom::FitPage ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
+    takeScale();
+}
+
+void SheetView::takeScale()
+{
+    const QRectF sheet = m_target.sheet.rect();
+    const double wide = (viewport()->width() - rulerWidth - 2 * gap) / sheet.width();
+    const double high = (viewport()->height() - rulerWidth - 2 * gap) / sheet.height();
+    switch (m_zoom) {
+    case Zoom::FitPage:
+        m_scale = qMin(wide, high);
+        break;
+    case Zoom::FitWidth:
+        m_scale = wide;
+        break;
+    case Zoom::TrueSize:
+        m_scale = paper::screenDotsPerInch / millimetresPerInch;
+        break;
+    case Zoom::Free:
+        break;
+    }
+    m_scale = qBound(smallestScale, m_scale, largestScale);
+    updateBars();
+    viewport()->update();
+}
+
+void SheetView::updateBars()
+{
+    const QSizeF sheet = m_target.sheet.rect().size() * m_scale;
+    const QSizeF all = sheet + QSizeF(rulerWidth + 2 * gap, rulerWidth + 2 * gap);
+    horizontalScrollBar()->setPageStep(viewport()->width());
+    horizontalScrollBar()->setRange(0, qMax(0, static_cast<int>(all.width()) - viewport()->width()));
+    verticalScrollBar()->setPageStep(viewport()->height());
+    verticalScrollBar()->setRange(0, qMax(0, static_cast<int>(all.height()) - viewport()->height()));
+}
+
+/// In whole pixels of the viewport, so that scrolling moves the picture as it is.
+QPointF SheetView::sheetCorner() const
+{
+    const double free = (viewport()->width() - rulerWidth - m_target.sheet.rect().width() * m_scale) / 2;
+    return {rulerWidth + std::floor(qMax<double>(gap, free)) - horizontalScrollBar()->value(),
+            static_cast<double>(rulerWidth + gap - verticalScrollBar()->value())};
+}
+
+QPointF SheetView::toViewport(QPointF place) const
+{
+    return sheetCorner() + place * m_scale;
+}
+
+void SheetView::zoomBy(double factor, QPointF fixed)
+{
+    const QPointF place = (fixed - sheetCorner()) / m_scale;
+    m_scale *= factor;
+    setZoom(Zoom::Free);
+    const QPointF moved = toViewport(place) - fixed;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x()));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y()));
+    Q_EMIT zoomedFreely();
+}
+
+void SheetView::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), ui::colours::desktop);
+    painter.save();
+    painter.translate(sheetCorner());
+    painter.scale(m_scale, m_scale);
+    paintSheet(painter);
+    paintOutside(painter);
+    painter.restore();
+    paintRulers(painter, viewport()->size(), sheetCorner(), m_scale);
+}
+
+/// The correction's stretch takes back what the printer does wrong: on the paper it is not seen.
+void SheetView::paintSheet(QPainter& painter) const
+{
+    const QRectF sheet = m_target.sheet.rect();
+    painter.fillRect(sheet, Qt::white);
+    painter.save();
+    painter.setClipRect(sheet);
+    painter.translate((m_target.sheet.margins.left + m_target.correction.across.offset).inMillimetres(),
+                      (m_target.sheet.margins.top + m_target.correction.down.offset).inMillimetres());
+    painter.setRenderHint(QPainter::Antialiasing);
+    SheetPainter(painter, m_document).paint();
+    painter.restore();
+    QPen pen(ui::colours::greyedText, 0, Qt::DashLine);
+    painter.setPen(pen);
+    painter.drawRect(m_target.sheet.printableRect());
+}
+
+void SheetView::paintOutside(QPainter& painter) const
+{
+    painter.translate((m_target.sheet.margins.left + m_target.correction.across.offset).inMillimetres(),
+                      (m_target.sheet.margins.top + m_target.correction.down.offset).inMillimetres());
+    QColor colour = ui::colours::warning;
+    painter.setPen(QPen(colour, 0.5));
+    colour.setAlphaF(0.15F);
+    painter.setBrush(colour);
+    for (const std::size_t index : m_outside) {
+        const KeyPlace& key = m_document.layout().keys()[index];
+        painter.drawRect(QRectF(key.x.inMillimetres(), key.y.inMillimetres(), key.width.inMillimetres(),
+                                key.height.inMillimetres()));
+    }
+}
+
+void SheetView::resizeEvent(QResizeEvent* /*event*/)
+{
+    takeScale();
+}
+
+void SheetView::scrollContentsBy(int /*dx*/, int /*dy*/)
+{
+    viewport()->update();
+}
+
+void SheetView::wheelEvent(QWheelEvent* event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QAbstractScrollArea::wheelEvent(event);
+        return;
+    }
+    constexpr double notch = 120;
+    zoomBy(std::pow(zoomStep, event->angleDelta().y() / notch), event->position());
+    event->accept();
+}
+
+void SheetView::keyPressEvent(QKeyEvent* event)
+{
+    const QPointF middle = QRectF(viewport()->rect()).center();
+    if (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal) {
+        zoomBy(zoomStep, middle);
+    } else if (event->key() == Qt::Key_Minus) {
+        zoomBy(1 / zoomStep, middle);
+    } else {
+        QAbstractScrollArea::keyPressEvent(event);
+    }
+}
+
+void SheetView::mousePressEvent(QMouseEvent* event)
+{
+    m_dragged = event->pos();
+}
+
+void SheetView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!event->buttons().testFlag(Qt::LeftButton))
+        return;
+    const QPoint way = event->pos() - m_dragged;
+    m_dragged = event->pos();
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - way.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - way.y());
+}
+
+} // namespace norvane::overlay
