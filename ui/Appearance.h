@@ -44,7 +44,7 @@ inline constexpr QColor functionMark{0x2b, 0x6c, 0xb0};
 inline constexpr QColor pluMark{0x3a, 0x86, 0x2e};
 inline constexpr QColor lookUpMark{0xb0, 0x7d, 0x0a};
 inline constexpr QColor missingMark{0xc0, 0x35, 0x2b};
-inline constexpr QColor found{0xd9, 0x5f, 0x02}; ///< around what a search has found
+inline constexpr QColor found{0xd9, 0x5f, 0x02};       ///< around what a search has found
 inline constexpr QColor warning{0xc4, 0x4f, 0x0c};     ///< marks what will not be as it should
 inline constexpr QColor warningPale{0xfd, 0xf0, 0xd8}; ///< behind a notice of it
 } // namespace colours
