@@ -56,6 +56,14 @@ QString boxName(int box)
     return name.replace("&&"_L1, "&"_L1).trimmed();
 }
 
+QString boxNames(const QList<int>& boxes)
+{
+    QStringList names;
+    for (const int box : boxes)
+        names << boxName(box);
+    return names.join(u", "_s);
+}
+
 bool serialPortNoteDue(int boxValue, const QString& exchangeMode)
 {
     constexpr int trueAsNumber = -1;

@@ -1,6 +1,7 @@
 // The boxes of the exchange dialog: what a user can choose to move.
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include <array>
@@ -23,6 +24,8 @@ inline constexpr int boxTicked = 1;
 [[nodiscard]] const std::array<const char*, boxCount>& boxCaptions();
 /// A caption as the user reads it.
 [[nodiscard]] QString boxName(int box);
+/// The names of several, parted by commas.
+[[nodiscard]] QString boxNames(const QList<int>& boxes);
 
 /// Whether the note about powering off the registers is shown before a download of the serial port devices.
 /// Only a box value of -1 (true as a number) shows it. A ticked box has the value 1, so it never appears.

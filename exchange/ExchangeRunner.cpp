@@ -3,6 +3,7 @@
 
 #include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
+#include "customers/SafetyCopies.h"
 #include "exchange/MemoryFile.h"
 #include "exchange/MoveDataFile.h"
 #include "link/CommandLines.h"
@@ -66,7 +67,32 @@ ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::Link
 {
 }
 
-void ExchangeRunner::UploadData()
+bool ExchangeRunner::UploadData()
+{
+    customers::LoggedWork work(m_values.customerPath, u"upload"_s, u"register 1"_s);
+    if (!customers::copyBeforeJob(m_values, m_outside.boxes, u"before upload"_s)) {
+        work.setResult(u"not started: no safety copy"_s);
+        return false;
+    }
+    upload();
+    return tellResult(work);
+}
+
+bool ExchangeRunner::downloaddata()
+{
+    customers::LoggedWork work(m_values.customerPath, u"download"_s, link::registersInWords(m_link));
+    download();
+    return tellResult(work);
+}
+
+bool ExchangeRunner::tellResult(customers::LoggedWork& work) const
+{
+    const QList<int> left = tickedBoxes();
+    work.setResult(left.isEmpty() ? u"complete"_s : u"stopped; still to do: %1"_s.arg(boxNames(left)));
+    return left.isEmpty();
+}
+
+void ExchangeRunner::upload()
 {
     begin(Direction::Upload);
     if (!open(u"Opening exchange"_s, link::uploadLine(m_link, link::openingSuffix)) ||
@@ -78,7 +104,7 @@ void ExchangeRunner::UploadData()
         moveBoxes(uploadPlan(), &ExchangeRunner::uploadRow);
 }
 
-void ExchangeRunner::downloaddata()
+void ExchangeRunner::download()
 {
     begin(Direction::Download);
     if (!open(u"Memory allocation"_s, link::downloadOpeningLine(m_link, link::memorySuffix), {memoryFile}) ||

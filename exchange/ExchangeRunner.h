@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
+#include "customers/CustomerLog.h"
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangePlan.h"
 #include "exchange/UnfinishedExchange.h"
@@ -26,15 +27,21 @@ public:
     ExchangeRunner(const ExchangeRunner&) = delete;
     ExchangeRunner& operator=(const ExchangeRunner&) = delete;
 
-    /// Fetches from one register, reloads the tables, keeps the binary files in the customer's folder.
+    /// Fetches from one register, reloads the tables, keeps the binary files in the customer's folder. A
+    /// safety copy comes first; without room for it nothing starts.
+    /// @return whether all ticked boxes moved, as downloaddata() does. Both write a line to the customer's
+    /// log.
     /// @throws RuntimeFailure 53 when status.out or a text file is missing, 13 when status.out holds no
     /// number or the model is none, and what the importers throw.
-    void UploadData();
+    bool UploadData();
     /// Makes the files from the tables, or takes the kept ones, and sends them to registers 1 to n.
     /// @throws as UploadData, and 53 when the kept bitmap file is missing.
-    void downloaddata();
+    bool downloaddata();
 
 private:
+    void upload();
+    void download();
+    bool tellResult(customers::LoggedWork& work) const;
     template <typename Row>
     void moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::*moveRow)(const Row&));
     template <typename Row>

@@ -45,14 +45,6 @@ QList<int> boxesOf(const QString& numbers)
     return boxes;
 }
 
-QString names(const QList<int>& boxes)
-{
-    QStringList names;
-    for (const int box : boxes)
-        names << boxName(box);
-    return names.join(u", "_s);
-}
-
 } // namespace
 
 std::optional<UnfinishedExchange> unfinishedExchange(const ApplicationValues& values)
@@ -78,10 +70,11 @@ void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes)
     if (!exchange)
         return;
     const QString direction = exchange->direction == Direction::Upload ? u"upload"_s : u"download"_s;
-    boxes.message(u"The %1 of %2 did not come to its end.\r\rStill to do: %3.\r\r"
-                  u"To finish it, tick these boxes for the %1."_s.arg(
-                      direction, exchange->started.toString(u"dd/MM/yyyy HH:mm"_s), names(exchange->boxes)),
-                  pleaseCheck, BoxIcon::Exclamation);
+    boxes.message(
+        u"The %1 of %2 did not come to its end.\r\rStill to do: %3.\r\r"
+        u"To finish it, tick these boxes for the %1."_s.arg(
+            direction, exchange->started.toString(u"dd/MM/yyyy HH:mm"_s), boxNames(exchange->boxes)),
+        pleaseCheck, BoxIcon::Exclamation);
 }
 
 bool pluPointsWait(const ApplicationValues& values)

@@ -64,4 +64,10 @@ LinkSettings readLinkSettings(const ApplicationValues& values)
     return link;
 }
 
+QString registersInWords(const LinkSettings& link)
+{
+    const QString last = link.rangeWord.chopped(std::min<qsizetype>(1, link.rangeWord.size()));
+    return last == "1"_L1 ? u"register 1"_s : u"registers 1 to %1"_s.arg(last);
+}
+
 } // namespace norvane::link

@@ -22,6 +22,9 @@ struct LinkSettings {
     [[nodiscard]] bool isModem() const { return connectionType == u"MODEM"; }
 };
 
+/// The registers that a download or a collection speaks with, in words: "register 1", "registers 1 to 3".
+[[nodiscard]] QString registersInWords(const LinkSettings& link);
+
 /// Reads the link values. A number is the leading number of its text; blanks and a missing key count as 0.
 /// @throws RuntimeFailure 6 when a number does not fit (the dial time-out holds at most 32,767 seconds).
 [[nodiscard]] LinkSettings readLinkSettings(const ApplicationValues& values);

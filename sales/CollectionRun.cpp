@@ -2,6 +2,7 @@
 #include "sales/CollectionRun.h"
 
 #include "base/SharedRoutines.h"
+#include "customers/CustomerLog.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
 #include "sales/PollStamp.h"
@@ -85,13 +86,28 @@ CollectionRun::CollectionRun(const ApplicationValues& values, CollectionOutside 
 {
 }
 
-void CollectionRun::collect()
+bool CollectionRun::collect()
 {
     // Called because it makes an empty poll194.dll when there is none.
     (void)ReadPoll194Stamp(m_values);
     m_link = link::readLinkSettings(m_values);
-    m_ended = false;
+    m_ended = m_isStored = m_isCleared = false;
     m_origin = ReportOrigin::ThisRun;
+    customers::LoggedWork work(m_values.customerPath, u"collection"_s, link::registersInWords(m_link));
+    call();
+    work.setResult(outcome());
+    return m_isCleared;
+}
+
+QString CollectionRun::outcome() const
+{
+    if (m_isCleared)
+        return u"complete"_s;
+    return m_isStored ? u"stored; the registers were not cleared"_s : u"stopped; nothing stored"_s;
+}
+
+void CollectionRun::call()
+{
     m_dialResult = m_outside.connectLink(m_link);
     // A user who left while the modem dialled has hung up already.
     if (!m_outside.run.goOn())
@@ -120,7 +136,9 @@ std::optional<int> CollectionRun::failedResult()
         return link::descriptionsPolled;
     if (!convertReports())
         return std::nullopt;
-    if (importReports() != Stored::Refused)
+    const Stored stored = importReports();
+    m_isStored = stored != Stored::Refused;
+    if (m_isStored)
         return clearRegisters();
     link::tellEndedByAnswer(m_outside.run);
     return std::nullopt;
@@ -139,7 +157,8 @@ std::optional<int> CollectionRun::fetchReports()
 std::optional<int> CollectionRun::clearRegisters()
 {
     const auto failed = runStep(clearing);
-    if (!failed && !m_ended)
+    m_isCleared = !failed && !m_ended;
+    if (m_isCleared)
         m_outside.run.showStep(u"Communications Successful...."_s);
     return failed;
 }

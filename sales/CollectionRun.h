@@ -35,10 +35,12 @@ public:
     CollectionRun(const CollectionRun&) = delete;
     CollectionRun& operator=(const CollectionRun&) = delete;
 
-    /// Shows the result's text in a box when a step fails. A modem is always hung up first.
+    /// Shows the result's text in a box when a step fails. A modem is always hung up first. The customer's
+    /// log gets a line.
+    /// @return whether the sales were stored and the registers cleared.
     /// @throws RuntimeFailure 53 when status.out is missing, 13 when it holds no number or the model is none,
     /// 6 and 13 for link settings, and what storeReports() throws.
-    void collect();
+    bool collect();
 
 private:
     struct ToolStep;
@@ -54,11 +56,15 @@ private:
     [[nodiscard]] bool mayUse(const link::WatchedStep& step, bool hasReports, const QString& consequence);
     [[nodiscard]] bool convertReports();
     [[nodiscard]] Stored importReports() const;
+    void call();
+    [[nodiscard]] QString outcome() const;
 
     const ApplicationValues& m_values;
     CollectionOutside m_outside;
     link::LinkSettings m_link;
     int m_dialResult = 0;
+    bool m_isStored = false;
+    bool m_isCleared = false;
     bool m_ended = false; ///< the user left, or does not want what a tool left
     ReportOrigin m_origin = ReportOrigin::ThisRun;
 };

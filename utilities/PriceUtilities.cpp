@@ -1,9 +1,13 @@
 // Table of the Utilities menu and how a row is run; see PriceUtilities.h.
 #include "utilities/PriceUtilities.h"
 
+#include "customers/CustomerLog.h"
+#include "customers/SafetyCopies.h"
 #include "platform/FolderLock.h"
 #include "store/SalesTables.h"
 #include "utilities/PriceConversion.h"
+
+#include <QFileInfo>
 
 #include <array>
 
@@ -71,10 +75,19 @@ void empty(Tables tables, const QString& databasePath)
         database.execute(u"delete * from %1"_s.arg(QLatin1StringView(table)));
 }
 
-/// @return false when the user gave no rate.
-bool walk(const PriceUtility& utility, const QString& databasePath, Boxes& boxes, const WalkFrame& frame)
+/// Years of sales are copied only where they are at stake.
+bool copyFirst(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes)
 {
-    store::Database database(databasePath);
+    const bool resetsSales = !utility.emptied.empty();
+    return customers::copyBeforeJob(values, boxes,
+                                    resetsSales ? u"before sales reset"_s : u"before price run"_s,
+                                    resetsSales ? store::CopyOf::Everything : store::CopyOf::Programme);
+}
+
+/// @return false when the user gave no rate or there is no room for a safety copy.
+bool walk(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes, const WalkFrame& frame)
+{
+    store::Database database(values.databasePath);
     auto plus = database.openTable(u"pludata"_s);
     std::optional<Decimal> rate;
     if (utility.asksRate) {
@@ -82,8 +95,21 @@ bool walk(const PriceUtility& utility, const QString& databasePath, Boxes& boxes
         if (!rate)
             return false;
     }
+    if (!copyFirst(utility, values, boxes))
+        return false;
     frame.begins();
     transferPrices(database, plus, utility.fields, rate, frame.everyRow);
+    return true;
+}
+
+/// What needs no walk. @return false when there is no room for a safety copy.
+bool change(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes)
+{
+    if (!copyFirst(utility, values, boxes))
+        return false;
+    if (!utility.statement.isEmpty())
+        store::Database(values.databasePath).execute(utility.statement);
+    empty(utility.emptied, values.databasePath);
     return true;
 }
 
@@ -102,11 +128,12 @@ void runPriceUtility(const PriceUtility& utility, const ApplicationValues& value
     const auto lock = FolderLock::take(values.appPath, boxes);
     if (lock == nullptr)
         return;
-    if (!utility.fields.empty() && !walk(utility, values.databasePath, boxes, frame))
+    customers::LoggedWork work(QFileInfo(values.databasePath).path(), utility.confirm.title);
+    const bool isDone =
+        utility.fields.empty() ? change(utility, values, boxes) : walk(utility, values, boxes, frame);
+    work.setResult(isDone ? u"complete"_s : u"not started"_s);
+    if (!isDone)
         return;
-    if (!utility.statement.isEmpty())
-        store::Database(values.databasePath).execute(utility.statement);
-    empty(utility.emptied, values.databasePath);
     boxes.message(utility.done.text, utility.done.title);
     empty(utility.emptiedAfterwards, values.databasePath);
 }

@@ -76,7 +76,7 @@ public:
     QStringList notices;
 
 private:
-    void run(const std::set<int>& wanted, void (ExchangeRunner::*sequence)())
+    void run(const std::set<int>& wanted, bool (ExchangeRunner::*sequence)())
     {
         transfers.clear();
         notices.clear();

@@ -1,4 +1,5 @@
 // A day's sales come home: rung at three registers, collected over the real form, added up in the tables.
+#include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
@@ -71,6 +72,12 @@ protected:
         return m_form.findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage();
     }
 
+    [[nodiscard]] QString logged() const
+    {
+        const auto line = customers::lastLogged(m_shop.values().customerPath, {u"collection"_s});
+        return line ? line->result : QString();
+    }
+
     [[nodiscard]] ReportSums stored(const SalesTable& table) const
     {
         store::Database database(m_shop.values().databasePath);
@@ -116,9 +123,11 @@ TEST_P(SalesDay, ComesHomeOnceAndTheNextDayBesideIt)
     EXPECT_EQ(collect(), u"Consolidate Reports"_s);
     EXPECT_EQ(m_shop.boxes().shown,
               (std::vector{test::ShownBox{u"8. Time Out"_s, u"Communications Error"_s}}));
+    EXPECT_EQ(logged(), u"stopped; nothing stored"_s);
     m_shop.folder().setFaults({});
     EXPECT_EQ(collect(), done);
     expectTablesHoldWhatWasRung();
+    EXPECT_EQ(logged(), u"complete"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(Models, SalesDay, testing::Values(0, 2, 3));

@@ -1,4 +1,5 @@
 // The Utilities menu in the real main window: its boxes, and what is in the tables afterwards.
+#include "customers/SafetyCopies.h"
 #include "platform/FolderLock.h"
 #include "shell/FrmMain.h"
 #include "shell/Openers.h"
@@ -77,6 +78,12 @@ protected:
             counts += QString::number(database.openTable(table).recordCount());
         return counts;
     }
+    void restoreLatestCopy() const
+    {
+        const auto copies = customers::safetyCopies(m_values.customerPath);
+        ASSERT_FALSE(copies.isEmpty());
+        customers::restoreSafetyCopy(m_values.customerPath, copies.front());
+    }
     /// What a user may try while the work runs.
     void tryToInterrupt()
     {
@@ -124,6 +131,8 @@ TEST_F(PriceUtilitiesTest, EachEntryFillsItsOwnFieldsOfEveryPlu)
         EXPECT_EQ(choose(entry, rate), boxes);
         EXPECT_EQ(prices(), stored) << entry;
     }
+    restoreLatestCopy();
+    EXPECT_EQ(prices(), steps[3].prices) << "as before the reset";
 }
 
 TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClosed)
@@ -141,6 +150,8 @@ TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClos
                                                  u"Sales Reset: Sales Reset Complete!"_s}));
     counts.append(recordCounts(tables));
     EXPECT_EQ(counts, (QStringList{u"1111111"_s, u"0000001"_s, u"0000000"_s}));
+    restoreLatestCopy();
+    EXPECT_EQ(recordCounts(tables), u"1111111"_s);
 }
 
 TEST_F(PriceUtilitiesTest, NoOpensNoDatabaseAndARateOfZeroOrAnotherRunChangesNothing)
