@@ -12,6 +12,7 @@
 #include "platform/Numbers.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
+#include "ui/StatusLine.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
@@ -28,9 +29,9 @@ namespace
 {
 
 constexpr double rowHeightTwips = 500;
+/// The last column is wider: it takes what is left of the form.
 constexpr double columnWidthsTwips[] = {300, 1100, 1900};
-/// 18 digits with a description behind them.
-constexpr int itemPixels = 260;
+constexpr int cellPadding = 9;
 constexpr int rowsInView = 11;
 /// What field keylink holds for a key that opens a look-up.
 const QString lookUpLink = u"271"_s;
@@ -57,6 +58,11 @@ QTableView* makeGrid(LookUpGridModel* model, QWidget* form)
     return grid;
 }
 
+int columnPixels(int column)
+{
+    return paper::screenPixels(paper::twips(columnWidthsTwips[column]));
+}
+
 void sizeGrid(QTableView& grid)
 {
     const int rowHeight = paper::screenPixels(paper::twips(rowHeightTwips));
@@ -66,13 +72,12 @@ void sizeGrid(QTableView& grid)
     grid.verticalHeader()->hide();
     grid.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     grid.verticalHeader()->setDefaultSectionSize(rowHeight);
-    int width = itemPixels;
-    for (const int column : {LookUpGridModel::NumberColumn, LookUpGridModel::WordColumn}) {
-        const int pixels = paper::screenPixels(paper::twips(columnWidthsTwips[column]));
-        grid.setColumnWidth(column, pixels);
-        width += pixels;
-    }
-    grid.setMinimumSize(width, rowsInView * rowHeight);
+    // Two digits do not fit into the width that was meant for a smaller font.
+    const int digits = grid.fontMetrics().horizontalAdvance(u"50"_s) + cellPadding;
+    grid.setColumnWidth(LookUpGridModel::NumberColumn,
+                        qMax(digits, columnPixels(LookUpGridModel::NumberColumn)));
+    grid.setColumnWidth(LookUpGridModel::WordColumn, columnPixels(LookUpGridModel::WordColumn));
+    grid.setMinimumHeight(rowsInView * rowHeight);
 }
 
 } // namespace
@@ -81,7 +86,7 @@ frmwlu::frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent)
     : QDialog(parent), m_boxes(boxes), m_database(openCustomerDatabase(values)),
       m_keyboard(keyboardOf(ecrModel(values))), m_records(m_database), m_lines(new LookUpGridModel(this)),
       m_fields(new LookUpFields(this)), Grid1(makeGrid(m_lines, this)),
-      m_lists(new LookUpLists(m_database, this))
+      m_lists(new LookUpLists(m_database, this)), m_status(new ui::StatusLine(this))
 {
     setObjectName(u"frmwlu"_s);
     setWindowTitle(u"WLU Programming"_s);
@@ -105,10 +110,11 @@ void frmwlu::layOut()
     upper->addWidget(m_lists, 1);
     auto* const column = new QVBoxLayout(this);
     constexpr int margin = ui::spacing::formMargin;
-    column->setContentsMargins(margin, margin, margin, margin);
+    column->setContentsMargins(margin, margin, margin, 0);
     column->setSpacing(ui::spacing::groupGap);
     column->addLayout(upper, 1);
     column->addLayout(makeButtons());
+    column->addWidget(m_status);
 }
 
 QHBoxLayout* frmwlu::makeButtons()
@@ -171,6 +177,7 @@ void frmwlu::updategrid()
     m_fields->setLookUp(lookUp);
     m_fields->showKeys(placesText(findKeys(*m_database, m_keyboard, lookUpLink, fourDigits(lookUp.number))));
     m_lines->setLines(lookUp.lines);
+    m_status->setNotice({});
     showLists();
 }
 
@@ -214,6 +221,7 @@ void frmwlu::SaveGrid()
         return;
     m_records.save(lookUp);
     updategrid();
+    m_status->setNotice(u"Saved WLU No "_s + m_records.storedNumber());
 }
 
 /// Registers count their look-ups by the order of the numbers: another number moves all in between.

@@ -16,6 +16,11 @@ namespace norvane
 class Boxes;
 }
 
+namespace norvane::ui
+{
+class StatusLine;
+}
+
 namespace norvane::keys
 {
 
@@ -61,6 +66,7 @@ private:
     LookUpFields* m_fields;
     QTableView* Grid1;
     LookUpLists* m_lists;
+    ui::StatusLine* m_status;
 };
 
 } // namespace norvane::keys

@@ -1,6 +1,7 @@
 // The key editors as a table, and how each of them opens; see KeyOpeners.h.
 #include "shell/KeyOpeners.h"
 
+#include "keys/frmwlu.h"
 #include "keys/KeyLayout.h"
 #include "platform/RuntimeFailure.h"
 #include "shell/Program.h"
@@ -27,9 +28,15 @@ std::unique_ptr<QDialog> makeLayout(ApplicationValues& values, Boxes& boxes, QWi
     return std::make_unique<keys::KeyLayout>(keyboard(), values, boxes, parent);
 }
 
+std::unique_ptr<QDialog> makeLookUps(ApplicationValues& values, Boxes& boxes, QWidget* parent)
+{
+    return std::make_unique<keys::frmwlu>(values, boxes, parent);
+}
+
 constexpr KeyForm keyForms[] = {
     {"KeyLayoutVelmar"_L1, &makeLayout<keys::velmarKeyboard>},
     {"KeyLayoutDorvik"_L1, &makeLayout<keys::dorvikKeyboard>},
+    {"frmwlu"_L1, &makeLookUps},
 };
 
 /// A key editor that cannot open has stored nothing yet: it alone closes, and what was typed into other

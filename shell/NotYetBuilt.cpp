@@ -14,7 +14,7 @@ namespace
 // clang-format off
 constexpr auto entries = std::to_array<QLatin1StringView>({
     // Key editors.
-    "FunctionMenu"_L1, "WLUMenu"_L1,
+    "FunctionMenu"_L1,
     // Keyboard overlays.
     "Velmarkeyboard"_L1, "DorvikKeyboard"_L1, "Quelmontkeyboard"_L1,
 });

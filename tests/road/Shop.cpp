@@ -55,6 +55,12 @@ Shop::Shop(int model, int registers)
     m_main->show();
 }
 
+void Shop::startWith(const QString& customer)
+{
+    m_values = m_folder.makeCustomer(customer);
+    m_main->showCustomer();
+}
+
 void Shop::choose(const char* entry, const std::function<void(QDialog&)>& act)
 {
     if (act)
@@ -128,6 +134,19 @@ QString Shop::stored(const QByteArray& query) const
 {
     store::Database database(m_values.databasePath);
     return database.openQuery(QString::fromLatin1(query)).value(0).toText();
+}
+
+QStringList Shop::storedRows(const QString& query) const
+{
+    store::Database database(m_values.databasePath);
+    QStringList rows;
+    for (store::Recordset record = database.openQuery(query); !record.atEnd(); record.moveNext()) {
+        QStringList fields;
+        for (int field = 0; field < record.fieldCount(); ++field)
+            fields += record.value(field).toText();
+        rows += fields.join(u' ');
+    }
+    return rows;
 }
 
 qint64 Shop::rowsOf(const char* table) const

@@ -25,6 +25,9 @@ public:
     /// Starts with a new customer. @p model is the index ECRModel.
     Shop(int model, int registers);
 
+    /// Makes a second customer and goes on with it, as after a new start of the program.
+    void startWith(const QString& customer);
+
     [[nodiscard]] ProgramFolder& folder() { return m_folder; }
     [[nodiscard]] const ApplicationValues& values() const { return m_values; }
     [[nodiscard]] RecordingBoxes& boxes() { return m_boxes; }
@@ -44,6 +47,8 @@ public:
     [[nodiscard]] QList<QByteArrayList> recordsOf(int registerNumber, int file) const;
     /// The first field of the first record of a query.
     [[nodiscard]] QString stored(const QByteArray& query) const;
+    /// The fields of all records of a query, those of a record parted by blanks.
+    [[nodiscard]] QStringList storedRows(const QString& query) const;
     [[nodiscard]] qint64 rowsOf(const char* table) const;
     /// Runs a statement on the customer's database, as another program at the same file would.
     void execute(const char* sql) const;

@@ -1,0 +1,170 @@
+// What a user sets in the key editors, on its way to a register and from there to a second customer: the
+// second one reads the same.
+#include "keys/KeyGeometry.h"
+#include "platform/FilePaths.h"
+#include "tests/road/Shop.h"
+#include "tests/support/FormTest.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QProcess>
+#include <QTableView>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane
+{
+namespace
+{
+
+using test::Shop;
+
+/// PLUs, function keys, look-ups, PLU and WLU relocation, key links.
+const test::BoxNumbers keyBoxes{0, 3, 7, 21, 24};
+constexpr int linkFile = 16;
+constexpr int numberFile = 17;
+constexpr int lookUpFile = 57;
+/// The register's room for a look-up that is not used yet.
+constexpr int emptyLookUp = 15;
+
+template <typename Control>
+Control& control(const QDialog& form, const QString& name)
+{
+    return *form.findChild<Control*>(name);
+}
+
+class KeysRoad : public testing::TestWithParam<int>
+{
+protected:
+    KeysRoad() { EXPECT_TRUE(m_shop.upload(keyBoxes).isEmpty()); }
+
+    [[nodiscard]] const keys::KeyGeometry& keyboard() const { return keys::keyboardOf(GetParam()); }
+    static void typeInto(QLineEdit& box, const QString& text)
+    {
+        box.selectAll();
+        QTest::keyClicks(&box, text);
+    }
+
+    void moveKey(keys::KeyCell from, keys::KeyCell to)
+    {
+        m_shop.choose("KeyboardLocation", [&](const QDialog& form) {
+            auto& grid = control<QTableView>(form, u"Grid1"_s);
+            grid.setCurrentIndex(grid.model()->index(from.row, from.column));
+            control<QAction>(form, u"Cut"_s).trigger();
+            grid.setCurrentIndex(grid.model()->index(to.row, to.column));
+            control<QAction>(form, u"Paste"_s).trigger();
+            leave(form, "CSCmdBtn1", "CSCmdBtn2");
+        });
+    }
+    /// Saves with Yes and closes the form.
+    void leave(const QDialog& form, const char* save, const char* exit)
+    {
+        m_shop.boxes().answers = {true};
+        for (const char* button : {save, exit})
+            Shop::press(const_cast<QDialog&>(form), button);
+        m_shop.boxes().answers.clear();
+    }
+
+    /// Fills the first three lines of a look-up that was empty: PLUs 4 and 2 of the list, function key 5.
+    void fillLookUp()
+    {
+        openLookUp([&](const QDialog& form) {
+            auto& grid = control<QTableView>(form, u"Grid1"_s);
+            control<QCheckBox>(form, u"allowfunction"_s).click();
+            control<QCheckBox>(form, u"Allowexit"_s).setChecked(true);
+            typeInto(control<QLineEdit>(form, u"description"_s), u"Favourites"_s);
+            typeInto(control<QLineEdit>(form, u"noofchoices"_s), u"2"_s);
+            int line = 0;
+            for (const auto& [list, entry] : {std::pair("plulist", 3), {"plulist", 1}, {"functionlist", 4}}) {
+                grid.setCurrentIndex(grid.model()->index(line++, 2));
+                auto& entries = control<QTableView>(form, QLatin1String(list));
+                QTest::mouseClick(entries.viewport(), Qt::LeftButton, {},
+                                  entries.visualRect(entries.model()->index(entry, 0)).center());
+            }
+            leave(form, "CSCmdBtn1", "CSCmdBtn2");
+        });
+    }
+    /// The look-up's controls and used lines as the editor shows them.
+    [[nodiscard]] QString shownLookUp()
+    {
+        QStringList shown;
+        openLookUp([&](const QDialog& form) {
+            for (const char* box : {"WLUNumber", "description", "noofchoices"})
+                shown += control<QLineEdit>(form, QLatin1String(box)).text().trimmed();
+            for (const char* box : {"allowcondiment", "allowplu", "allowfunction", "Allowexit"})
+                shown += control<QCheckBox>(form, QLatin1String(box)).isChecked() ? u"1"_s : u"0"_s;
+            const auto& lines = *control<QTableView>(form, u"Grid1"_s).model();
+            for (int line = 0; line < 4; ++line)
+                shown +=
+                    lines.index(line, 1).data().toString() + u' ' + lines.index(line, 2).data().toString();
+            leave(form, "CSCmdBtn2", "CSCmdBtn2");
+        });
+        return shown.join(u'|');
+    }
+    void openLookUp(const std::function<void(const QDialog&)>& act)
+    {
+        m_shop.choose("WLUMenu", [&](QDialog& form) {
+            for (int record = 1; record < emptyLookUp; ++record)
+                Shop::press(form, "NextRecord");
+            act(form);
+        });
+    }
+    /// What is rung on a key of the first level at the register, empty when it sells nothing.
+    [[nodiscard]] QByteArray rungOn(keys::KeyCell cell)
+    {
+        const QString journal = m_shop.folder().appFile(u"day.csv"_s);
+        const QString key = u"1/%1"_s.arg(*keyboard().keyNumber(cell));
+        const QStringList words{
+            m_shop.folder().bankPath(), u"--key"_s, key, u"--tickets"_s, u"2"_s, u"--journal"_s, journal};
+        if (QProcess::execute(QString::fromUtf8(RINGSALES_TOOL), words) != 0)
+            return {};
+        const QList<QByteArray> lines = readWholeFile(journal).trimmed().split('\n');
+        return lines.last().split(',').at(lines.first().split(',').indexOf("plu"));
+    }
+    void sendAndStartAnew()
+    {
+        EXPECT_TRUE(m_shop.download(keyBoxes).isEmpty());
+        m_shop.startWith(u"Second Shop"_s);
+        EXPECT_TRUE(m_shop.upload(keyBoxes).isEmpty());
+        if (const auto failure = test::takeFailure())
+            ADD_FAILURE() << failure->text().toStdString();
+    }
+
+    test::Shop m_shop{GetParam(), 1};
+};
+
+TEST_P(KeysRoad, KeysAndLookUpsArriveAtARegisterAndAtASecondCustomer)
+{
+    const keys::KeyCell from{keyboard().rows - 1, 0};
+    const keys::KeyCell to{3, 3};
+    const QByteArray article = rungOn(from);
+    ASSERT_FALSE(article.isEmpty());
+    moveKey(from, to);
+    fillLookUp();
+    const QString lookUp = shownLookUp();
+    EXPECT_TRUE(lookUp.startsWith(u"15|Favourites|2|0|1|1|1|PLU "_s)) << lookUp.toStdString();
+    const auto keyTables = [this] {
+        return m_shop.storedRows(u"select keylink from keylink order by id"_s) +
+               m_shop.storedRows(u"select nlu from nlu order by id"_s);
+    };
+    const QStringList keys = keyTables();
+    sendAndStartAnew();
+    EXPECT_EQ(rungOn(to), article);
+    EXPECT_EQ(rungOn(from), "");
+    const int row = *keyboard().keyNumber(to) - 1;
+    EXPECT_EQ(m_shop.recordsOf(1, linkFile).at(row).first(), "0200");
+    EXPECT_EQ(m_shop.recordsOf(1, numberFile).at(row).first(), article);
+    const QByteArrayList record = m_shop.recordsOf(1, lookUpFile).at(emptyLookUp - 1);
+    EXPECT_EQ(record.at(3), "0003") << "lines in use";
+    EXPECT_EQ(record.at(10) + ' ' + record.at(11), "40 000500000000000000");
+    EXPECT_EQ(keyTables(), keys);
+    EXPECT_EQ(shownLookUp(), lookUp);
+}
+
+INSTANTIATE_TEST_SUITE_P(Models, KeysRoad, testing::Range(0, 4));
+
+} // namespace
+} // namespace norvane
