@@ -57,6 +57,7 @@ void GridControl::showQuery(const std::shared_ptr<store::Database>& database,
     auto* const grid = new GridModel(database, definition.sqlCriteria, definition.gridColumns, this);
     // The message may open only after the view has closed the editor.
     connect(grid, &GridModel::refused, this, &GridControl::dataError, Qt::QueuedConnection);
+    connect(grid, &GridModel::stored, this, &GridControl::stored);
     delete model();
     setModel(grid);
     for (int column = 0; column < definition.gridColumns.size(); ++column) {
@@ -76,6 +77,16 @@ bool GridControl::findRow(const QString& part, int from)
     setCurrentIndex(rows->index(row, qMax(0, currentIndex().column())));
     scrollTo(currentIndex(), PositionAtCenter);
     return true;
+}
+
+void GridControl::enterRow()
+{
+    setFocus();
+    for (int column = 0; column < model()->columnCount(); ++column) {
+        const QModelIndex cell = currentIndex().siblingAtColumn(column);
+        if (!isColumnHidden(column) && cell.flags().testFlag(Qt::ItemIsEditable))
+            return setCurrentIndex(cell);
+    }
 }
 
 /// The room for the rows is known only when headers and scroll bars have their places.

@@ -27,10 +27,14 @@ public:
     /// Makes the next row with @p part in its first two columns the current one, looking from row @p from on
     /// and then from the top. @return false without such a row.
     bool findRow(const QString& part, int from);
+    /// Takes the focus, in the first cell of the current row that can be entered.
+    void enterRow();
 
 Q_SIGNALS:
     /// What was entered cannot be stored, and @p why. Raised once the cell's editor is closed.
     void dataError(const QModelIndex& index, const QString& why);
+    /// A cell was stored, in words for the status bar.
+    void stored(const QString& words);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

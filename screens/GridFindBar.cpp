@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -27,11 +28,13 @@ GridFindBar::GridFindBar(GridControl& grid, QWidget* parent)
     ui::nameControl(*m_outcome, u"GridFindOutcome"_s);
     m_part->setFixedWidth(boxWidth);
     m_part->setClearButtonEnabled(true);
-    m_part->setToolTip(u"Part of number or text; Enter goes to the next"_s);
+    m_part->setToolTip(u"Part of number or text; Enter goes to the next, the arrow down into the row"_s);
     auto* const label = new QLabel(u"&Find number or text:"_s, this);
     label->setBuddy(m_part);
     connect(m_part, &QLineEdit::textEdited, this, [this] { goOn(0); });
     connect(m_part, &QLineEdit::returnPressed, this, [this] { goOn(m_grid.currentIndex().row() + 1); });
+    connect(new QShortcut(Qt::Key_Down, m_part, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
+            &m_grid, &GridControl::enterRow);
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(ui::spacing::controlGap, ui::spacing::controlGap, ui::spacing::controlGap, 0);
     row->setSpacing(ui::spacing::controlGap);

@@ -12,6 +12,7 @@ namespace norvane::screens
 class GridControl;
 
 /// Goes to the first row with what is typed in its number or text, and to the next such row at each Enter.
+/// The arrow down leads into that row.
 class GridFindBar : public QWidget
 {
     Q_OBJECT

@@ -44,7 +44,7 @@ QString queryOf(const store::Database& database, const QString& sql)
 /// Whether @p text is digits with at most @p decimals behind a point; so is nothing at all.
 bool isPlainNumber(const QString& text, int decimals)
 {
-    static const QRegularExpression plain(u"^[0-9]{0,15}(?:\\.([0-9]*))?$"_s);
+    static const QRegularExpression plain(u"^[0-9]*(?:\\.([0-9]*))?$"_s);
     const auto match = plain.match(text);
     return match.hasMatch() && match.capturedLength(1) <= decimals;
 }
@@ -162,12 +162,13 @@ store::Value GridModel::priceOf(int column, QString text) const
     const QString field = m_records->field(column).name;
     const int decimals = static_cast<int>(zerosOf(this->column(column).numberFormat).section(u'.', 1).size());
     if (!isPlainNumber(text, decimals)) {
-        throw RuntimeFailure(Failure::Conversion,
-                             u"\"%1\" is no number for \"%2\""_s.arg(excerpt(text), field));
+        throw RuntimeFailure(
+            Failure::Conversion,
+            u"\"%1\" is not a number from 0 up with at most %2 decimals"_s.arg(excerpt(text)).arg(decimals));
     }
     const Decimal number = Decimal::leading(text.toStdString());
     if (isAboveLargest(number, field))
-        throw RuntimeFailure(Failure::Overflow, u"%1 is too large for \"%2\""_s.arg(excerpt(text), field));
+        throw RuntimeFailure(Failure::Overflow, u"%1 is more than a register holds"_s.arg(excerpt(text)));
     return store::Value::text(number.text());
 }
 
@@ -232,6 +233,8 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
         return false;
     }
     Q_EMIT dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
+    const QString key = store::shownKey(m_records->field(0).name, cell(index.siblingAtColumn(0)).toText());
+    Q_EMIT stored(recordSaved({}, headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), key));
     return true;
 }
 

@@ -44,6 +44,8 @@ public:
 Q_SIGNALS:
     /// What was entered cannot be stored, and @p why in words for the status bar; the cell keeps its value.
     void refused(const QModelIndex& index, const QString& why);
+    /// A cell was stored, in words for the status bar.
+    void stored(const QString& words);
 
 private:
     using Row = std::vector<store::Value>;

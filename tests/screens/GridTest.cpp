@@ -96,6 +96,8 @@ TEST_F(GridTest, CellsAreStoredAtOnce)
         {3, "12", "12", "12"},
         {3, "", "null", ""}};
     const Form form = openGrid();
+    QString told;
+    QObject::connect(&*form, &OptionForm::told, &*form, [&told](const QString& text) { told = text; });
     auto* const grid = control<GridControl>(form, "gridcontrol_0");
     for (const auto& [column, keys, stored, shown] : cases) {
         enter(*grid, 0, column, keys);
@@ -105,6 +107,11 @@ TEST_F(GridTest, CellsAreStoredAtOnce)
         EXPECT_EQ(grid->model()->index(0, column).data().toString().toStdString(), shown);
     }
     EXPECT_TRUE(m_boxes.shown.empty());
+    enter(*grid, 0, 2, "-5");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_boxes.shown.empty(); }));
+    EXPECT_EQ(told, u"Nothing was stored: \"-5\" is not a number from 0 up with at most 2 decimals"_s);
+    enter(*grid, 0, 2, "6");
+    EXPECT_EQ(told, u"Saved Number 5"_s) << "and no longer that nothing was stored";
     execute("update PLUDATA set PRICE1 = '1.255'");
     EXPECT_EQ(control<GridControl>(openGrid(), "gridcontrol_0")->model()->index(0, 2).data(), u"1.255"_s)
         << "what is seen is what is stored";
@@ -136,6 +143,9 @@ TEST_F(GridTest, FindsRowsByNumberOrText)
     };
     type(form, "GridFind", "CLAR");
     EXPECT_EQ(found(), "123");
+    QTest::keyClick(control(form, "GridFind"), Qt::Key_Down);
+    EXPECT_TRUE(grid->hasFocus());
+    EXPECT_EQ(grid->currentIndex().column(), 2) << "the first cell that can be entered and is shown";
     type(form, "GridFind", "69");
     EXPECT_EQ(found(), "269");
     EXPECT_TRUE(grid->viewport()->rect().contains(grid->visualRect(grid->currentIndex())));
