@@ -15,6 +15,8 @@ namespace
 {
 
 constexpr int panelWidth = 120;
+/// Room for the customer's name beside a notice; a longer name is cut and stands in the tool tip.
+constexpr int widestText = 300;
 
 QLabel* statusLabel(const QString& name)
 {
@@ -63,6 +65,8 @@ QString MainStatusBar::panel() const
 void MainStatusBar::setStatusText(const QString& text)
 {
     m_text->setText(text);
+    m_text->setToolTip(text);
+    m_text->setMinimumWidth(qMin(m_text->sizeHint().width(), widestText));
 }
 
 QString MainStatusBar::statusText() const

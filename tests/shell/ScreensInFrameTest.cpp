@@ -240,6 +240,8 @@ TEST_F(ScreensInFrameTest, TheStatusBarSaysWhoseDataIsOpen)
     m_main->showCustomer();
     EXPECT_TRUE(dataInUse.isVisible());
     EXPECT_EQ(dataInUse.property("text"), u"Screens and exchange: data of Cafe"_s);
+    const auto& chosen = child<QWidget>(*m_main, "StatusText");
+    EXPECT_TRUE(soon([&] { return chosen.width() >= chosen.sizeHint().width(); })) << "whole beside it";
     m_values.databasePath = m_folder.path("app/Bar/velmar.mdb"); // as a key editor does
     open("DataSetup");
     EXPECT_FALSE(dataInUse.isVisible());
