@@ -5,6 +5,7 @@
 #include <QCursor>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -53,6 +54,17 @@ QString shownText(QString text)
     return text;
 }
 
+/// The frame's icon and its three buttons.
+constexpr int besideTitle = 120;
+
+/// A short text in a box must not cut its title, which often says what the text is about.
+int widthForTitle(const QString& title)
+{
+    QFont bold = QApplication::font();
+    bold.setBold(true);
+    return QFontMetrics(bold).horizontalAdvance(title) + besideTitle;
+}
+
 /// A box over the window in use that still lacks its buttons.
 class PlainBox : public QMessageBox
 {
@@ -63,9 +75,18 @@ public:
     {
         setObjectName(u"MessageBox"_s);
         setTextFormat(Qt::PlainText);
+        widen(widthForTitle(windowTitle()));
     }
 
 private:
+    /// The toolkit makes the box as wide as its layout and listens to no other width.
+    void widen(int width)
+    {
+        auto* const grid = static_cast<QGridLayout*>(layout());
+        auto* const room = new QSpacerItem(width, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
+        grid->addItem(room, grid->rowCount(), 0, 1, grid->columnCount());
+    }
+
     ArrowPointer m_arrow;
 };
 
@@ -145,6 +166,7 @@ QString MessageBoxes::input(const QString& prompt, const QString& title, const Q
     box.setWindowTitle(title.isEmpty() ? applicationTitle() : title);
     box.setLabelText(shownText(prompt));
     box.setTextValue(initial);
+    box.setMinimumWidth(widthForTitle(box.windowTitle()));
     return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 

@@ -108,6 +108,22 @@ TEST(MessageBoxes, OfTwoNamedAnswersEnterAndEscapeGiveTheSecond)
     }
 }
 
+TEST(MessageBoxes, AShortTextLeavesRoomForTheTitle)
+{
+    const auto widthOf = [](const QString& title) {
+        int width = 0;
+        QTimer::singleShot(0, [&width] {
+            width = QApplication::activeModalWidget()->width();
+            QApplication::activeModalWidget()->close();
+        });
+        MessageBoxes().message(u"Continue?"_s, title, BoxIcon::Question);
+        return width;
+    };
+    const QString title = u"Transfer of all prices to euro prices"_s;
+    EXPECT_GT(widthOf(title), QFontMetrics(QApplication::font()).horizontalAdvance(title));
+    EXPECT_LT(widthOf(u"A"_s), widthOf(title));
+}
+
 TEST(MessageBoxes, AQuestionBeforeGoingOnCanBeClosedWithoutAnAnswer)
 {
     const std::pair<std::pair<Qt::Key, Qt::KeyboardModifier>, std::optional<bool>> cases[] = {
