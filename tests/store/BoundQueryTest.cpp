@@ -14,17 +14,19 @@ const QString what = u"The test's query."_s;
 constexpr const char* endless = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
                                 "SELECT max(i) FROM n";
 
-TEST(BoundQuery, ValuesNeverBecomePartOfTheStatement)
+class BoundQueryTest : public testing::Test
 {
-    const StoreFolder folder;
-    Database database(folder.path());
-    auto records = database.openTable(u"Items"_s);
+protected:
+    StoreFolder m_folder;
+    Database m_database{m_folder.path()};
+};
+
+TEST_F(BoundQueryTest, ValuesNeverBecomePartOfTheStatement)
+{
+    auto records = m_database.openTable(u"Items"_s);
     const std::string odd = "x' OR 1=1 --";
-    records.addNew();
-    records.setValue(u"NUMBER"_s, Value::text(odd));
-    records.setValue(u"COUNT1"_s, Value::number(0.1));
-    records.update();
-    BoundQuery query(database, "SELECT NUMBER, COUNT1, GROUPNO FROM Items WHERE NUMBER = ?",
+    add(records, {{"NUMBER", Value::text(odd)}, {"COUNT1", Value::number(0.1)}});
+    BoundQuery query(m_database, "SELECT NUMBER, COUNT1, GROUPNO FROM Items WHERE NUMBER = ?",
                      {Value::text(odd)}, what);
     ASSERT_TRUE(query.next());
     EXPECT_EQ(query.value(0), Value::text(odd));
@@ -33,27 +35,23 @@ TEST(BoundQuery, ValuesNeverBecomePartOfTheStatement)
     EXPECT_FALSE(query.next());
 }
 
-TEST(BoundQuery, OnlyReads)
+TEST_F(BoundQueryTest, OnlyReads)
 {
-    const StoreFolder folder;
-    Database database(folder.path());
     for (const char* const sql : {"DELETE FROM Items", "SELECT nothing FROM Items", "DROP TABLE Items"})
-        EXPECT_EQ(failureOf([&] { BoundQuery(database, sql, {}, what); }), 3061) << sql;
-    EXPECT_TRUE(database.hasTable(u"Items"_s));
+        EXPECT_EQ(failureOf([&] { BoundQuery(m_database, sql, {}, what); }), 3061) << sql;
+    EXPECT_TRUE(m_database.hasTable(u"Items"_s));
 }
 
-TEST(BoundQuery, ALongStatementIsGivenUpWhenItsCallerSaysSo)
+TEST_F(BoundQueryTest, ALongStatementIsGivenUpWhenItsCallerSaysSo)
 {
-    const StoreFolder folder;
-    Database database(folder.path());
     int asked = 0;
     {
-        BoundQuery query(database, endless, {}, what, [&asked] { return ++asked < 3; });
+        BoundQuery query(m_database, endless, {}, what, [&asked] { return ++asked < 3; });
         EXPECT_EQ(failureOf([&query] { query.next(); }), 3000);
         EXPECT_TRUE(query.wasGivenUp());
         EXPECT_EQ(asked, 3);
     }
-    BoundQuery thrower(database, endless, {}, what, []() -> bool { throw std::logic_error("asked"); });
+    BoundQuery thrower(m_database, endless, {}, what, []() -> bool { throw std::logic_error("asked"); });
     EXPECT_THROW(thrower.next(), std::logic_error);
 }
 

@@ -3,8 +3,6 @@
 #include "tests/platform/FullDisk.h"
 #include "tests/store/StoreFolder.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::store::test
 {
 namespace

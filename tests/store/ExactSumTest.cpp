@@ -1,8 +1,6 @@
 // Sums in decimal, as a query gives them.
 #include "tests/store/StoreFolder.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::store::test
 {
 namespace
@@ -11,14 +9,13 @@ namespace
 class ExactSumTest : public testing::Test
 {
 protected:
-    std::string answer(const QString& sql) { return m_database.openQuery(sql).value(0).toUtf8(); }
+    std::string answer(const QString& sql) { return rowsOf(m_folder.path(), sql); }
     std::string sumOf(const std::string& values)
     {
         return answer(u"select exact_sum(column1) from (values %1)"_s.arg(QString::fromStdString(values)));
     }
 
     StoreFolder m_folder;
-    Database m_database{m_folder.path()};
 };
 
 TEST_F(ExactSumTest, AddsEveryDoubleAsItsShortestDecimal)
@@ -37,9 +34,8 @@ TEST_F(ExactSumTest, AddsEveryDoubleAsItsShortestDecimal)
         {"(9223372036854775807), (9223372036854775807), (-9223372036854775807)", "9223372036854775807"},
         {"(null), ('x'), (x'31'), ('-'), ('1,5'), ('')", "0"},
     };
-    for (const auto& [values, sum] : rows) {
+    for (const auto& [values, sum] : rows)
         EXPECT_EQ(sumOf(values), sum) << values;
-    }
     EXPECT_EQ(answer(u"select exact_sum(COUNT1) from Items"_s), "0") << "no rows at all";
     EXPECT_EQ(failureOf([&] { sumOf("(1), (9e999)"); }), 3061) << "an infinite number has no total";
 }

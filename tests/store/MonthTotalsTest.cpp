@@ -4,26 +4,18 @@
 
 #include "store/Catalogue.h"
 #include "store/Upgrade.h"
+#include "tests/store/Elsewhere.h"
 #include "tests/store/StoreFolder.h"
-
-#include <sqlite3.h>
 
 namespace norvane::store::test
 {
 namespace
 {
 
+using norvane::test::runElsewhere;
+
 const QDate today(2028, 3, 2);
 const DayRange twoYears{{2026, 1, 1}, {2028, 12, 31}};
-
-/// Another program at the same file: it knows nothing of the store.
-void runElsewhere(const QString& path, const char* sql)
-{
-    sqlite3* connection = nullptr;
-    ASSERT_EQ(sqlite3_open(path.toUtf8().constData(), &connection), SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(connection, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sql;
-    sqlite3_close(connection);
-}
 
 class MonthTotalsTest : public testing::Test
 {
@@ -45,27 +37,20 @@ protected:
         }
     }
 
-    QString answer(const QString& sql)
-    {
-        QStringList values;
-        auto rows = m_database.openQuery(sql);
-        for (; !rows.atEnd(); rows.moveNext())
-            values << rows.value(0).toText();
-        return values.join(u' ');
-    }
+    std::string answer(const QString& sql) { return rowsOf(m_folder.path(), sql); }
     /// What a report shows of the source: each item of each clerk.
-    QString reportOf(const QString& source)
+    std::string reportOf(const QString& source)
     {
         return answer(
             u"select ID || '/' || CLERKID || ': ' || exact_sum(QUANTITY) || ' ' || exact_sum(VALUE) "
             "from %1 group by ID, CLERKID order by ID, CLERKID"_s.arg(source));
     }
-    QString reportOfRows(const DayRange& days)
+    std::string reportOfRows(const DayRange& days)
     {
         return reportOf(u"(select * from CLERKSALES where SALESDATE between '%1' and '%2')"_s.arg(
             days.first.toString(Qt::ISODate), days.last.toString(Qt::ISODate)));
     }
-    QString added() { return answer(u"select month from norvane_added_months_CLERKSALES order by 1"_s); }
+    std::string added() { return answer(u"select month from norvane_added_months_CLERKSALES order by 1"_s); }
     void addUpAll() { EXPECT_TRUE(m_totals.addUpMissing(twoYears, today)); }
 
     StoreFolder m_folder{catalogue()};
@@ -76,7 +61,7 @@ protected:
 TEST_F(MonthTotalsTest, GiveWhatTheRowsAddUpTo)
 {
     addUpAll();
-    EXPECT_EQ(added(), u"2027-12 2028-01 2028-02"_s) << "neither empty months nor the running one";
+    EXPECT_EQ(added(), "2027-12 2028-01 2028-02") << "neither empty months nor the running one";
     const DayRange ranges[] = {
         twoYears,
         {{2028, 1, 1}, {2028, 3, 2}},
@@ -95,17 +80,17 @@ TEST_F(MonthTotalsTest, GiveWhatTheRowsAddUpTo)
             << days.first.toString(Qt::ISODate).toStdString() << ' '
             << days.last.toString(Qt::ISODate).toStdString();
     }
-    EXPECT_EQ(answer(u"select exact_sum(VALUE) from "_s + m_totals.rows(twoYears, {u"value"_s})), u"2.1"_s);
+    EXPECT_EQ(answer(u"select exact_sum(VALUE) from "_s + m_totals.rows(twoYears, {u"value"_s})), "2.1");
 }
 
 TEST_F(MonthTotalsTest, LoseEveryMonthOfWhichARowChanges)
 {
-    const std::pair<const char*, QString> changes[] = {
-        {"insert into CLERKSALES values (1, 1, '2028-01-15', 1, 1000000000000000.25)", u"2027-12 2028-02"_s},
-        {"update CLERKSALES set VALUE = VALUE + 1 where SALESDATE = '2028-02-29'", u"2027-12 2028-01"_s},
-        {"update CLERKSALES set SALESDATE = '2027-12-01' where SALESDATE = '2028-02-01'", u"2028-01"_s},
-        {"delete from CLERKSALES where SALESDATE = '2027-12-31' and ID = 2", u"2028-01 2028-02"_s},
-        {"insert into CLERKSALES values (1, 1, '2028-03-02', 1, 0.1)", u"2027-12 2028-01 2028-02"_s},
+    const std::pair<const char*, const char*> changes[] = {
+        {"insert into CLERKSALES values (1, 1, '2028-01-15', 1, 1000000000000000.25)", "2027-12 2028-02"},
+        {"update CLERKSALES set VALUE = VALUE + 1 where SALESDATE = '2028-02-29'", "2027-12 2028-01"},
+        {"update CLERKSALES set SALESDATE = '2027-12-01' where SALESDATE = '2028-02-01'", "2028-01"},
+        {"delete from CLERKSALES where SALESDATE = '2027-12-31' and ID = 2", "2028-01 2028-02"},
+        {"insert into CLERKSALES values (1, 1, '2028-03-02', 1, 0.1)", "2027-12 2028-01 2028-02"},
     };
     for (const auto& [sql, left] : changes) {
         addUpAll();
@@ -115,14 +100,14 @@ TEST_F(MonthTotalsTest, LoseEveryMonthOfWhichARowChanges)
     }
     EXPECT_EQ(
         answer(u"select count(*) from norvane_month_totals_CLERKSALES where SALESDATE = '2028-01-01'"_s),
-        u"2"_s);
+        "2");
     auto sales = m_database.openQuery(u"select * from CLERKSALES where SALESDATE = #1/1/2028#"_s);
     sales.deleteRecord();
-    EXPECT_EQ(added(), u"2027-12 2028-02"_s);
+    EXPECT_EQ(added(), "2027-12 2028-02");
     addUpAll();
     EXPECT_EQ(m_database.execute(u"delete * from clerksales"_s), 14);
-    EXPECT_EQ(added() + reportOf(m_totals.rows(twoYears)), QString());
-    EXPECT_EQ(answer(u"select count(*) from norvane_month_totals_CLERKSALES"_s), u"0"_s);
+    EXPECT_EQ(added() + reportOf(m_totals.rows(twoYears)), "");
+    EXPECT_EQ(answer(u"select count(*) from norvane_month_totals_CLERKSALES"_s), "0");
 }
 
 TEST_F(MonthTotalsTest, AreMadeForADatabaseOfAnEarlierBuild)
@@ -138,14 +123,14 @@ TEST_F(MonthTotalsTest, AreMadeForADatabaseOfAnEarlierBuild)
 
     completeDatabase(m_folder.path());
     MonthTotals made(m_database, u"CLERKSALES"_s);
-    EXPECT_EQ(added(), QString());
+    EXPECT_EQ(added(), "");
     QVector<QDate> steps;
     EXPECT_FALSE(made.addUpMissing(twoYears, today, [&steps](QDate month) {
         steps << month;
         return steps.size() < 3;
     }));
     EXPECT_EQ(steps, (QVector<QDate>{{2027, 12, 1}, {2028, 1, 1}, {2028, 2, 1}}));
-    EXPECT_EQ(added(), u"2027-12 2028-01"_s);
+    EXPECT_EQ(added(), "2027-12 2028-01");
     EXPECT_EQ(reportOf(made.rows(twoYears)), reportOfRows(twoYears));
 }
 
@@ -154,7 +139,7 @@ TEST_F(MonthTotalsTest, AMonthThatCannotBeAddedUpIsReadFromItsRows)
     runElsewhere(m_folder.path(), "insert into CLERKSALES values (9, 1, '2028-01-09', 1, 9e999)");
     EXPECT_FALSE(m_totals.addUpMissing(twoYears, today));
     EXPECT_EQ(failureOf([this] { m_totals.addUp({2028, 1, 1}); }), 3061);
-    EXPECT_EQ(added(), u"2027-12"_s);
+    EXPECT_EQ(added(), "2027-12");
     const DayRange february{{2028, 2, 1}, {2028, 2, 29}};
     EXPECT_EQ(reportOf(m_totals.rows(february)), reportOfRows(february));
     EXPECT_EQ(failureOf([this] { MonthTotals(m_database, u"PLUDATA"_s); }), 3265);

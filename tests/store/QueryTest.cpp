@@ -1,8 +1,6 @@
 // Queries and statements in the words that screens and utilities use.
 #include "tests/store/StoreFolder.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::store::test
 {
 namespace
@@ -24,17 +22,7 @@ protected:
         }
     }
 
-    /// The rows' fields, one after the other.
-    std::string rowsOf(const QString& sql)
-    {
-        auto rows = m_database.openQuery(sql);
-        std::string found;
-        for (; !rows.atEnd(); rows.moveNext()) {
-            for (int i = 0; i < rows.fieldCount(); ++i)
-                found += rows.value(i).toUtf8() + ' ';
-        }
-        return found;
-    }
+    std::string found(const QString& sql) { return rowsOf(m_folder.path(), sql); }
 
     StoreFolder m_folder;
     Database m_database{m_folder.path()};
@@ -43,23 +31,23 @@ protected:
 TEST_F(QueryTest, TakesTheWordsOfTheScreens)
 {
     const std::pair<const char*, const char*> cases[] = {
-        {"select number, groupno from items", "1 1 2 2 3 3 "},
-        {"SELECT [Number] FROM [ITEMS] WHERE [tax/X] = True ORDER BY [number] DESC;", "3 1 "},
-        {"select number from items where [TAX/x]=False", "2 "},
-        {"select number from items where description = \"It's \"\"2\"\"\"", "2 "},
-        {"select number from items where description = 'it''s \"3\"'", "3 "},
-        {"select number from items where description like '*2*'", "2 "},
-        {"select number from items where number like \"?\" and groupno > 2", "3 "},
-        {"select top 2 number from items order by number desc", "3 2 "},
-        {"select number from items where [OPENEURO&LOCALDRAWER] >= #12/02/2003#", "2 3 "},
-        {"select number & '-' & groupno as both from items where items!groupno = 1", "1-1 "},
-        {"select [#OfCondiments] from items order by [#OfCondiments]", "2 3 100 "},
-        {"select count(*), sum(groupno) from items", "3 6 "},
-        {"select distinct [TAX/x] from items order by 1 desc", "False True "},
+        {"select number, groupno from items", "1|1 2|2 3|3"},
+        {"SELECT [Number] FROM [ITEMS] WHERE [tax/X] = True ORDER BY [number] DESC;", "3 1"},
+        {"select number from items where [TAX/x]=False", "2"},
+        {"select number from items where description = \"It's \"\"2\"\"\"", "2"},
+        {"select number from items where description = 'it''s \"3\"'", "3"},
+        {"select number from items where description like '*2*'", "2"},
+        {"select number from items where number like \"?\" and groupno > 2", "3"},
+        {"select top 2 number from items order by number desc", "3 2"},
+        {"select number from items where [OPENEURO&LOCALDRAWER] >= #12/02/2003#", "2 3"},
+        {"select number & '-' & groupno as both from items where items!groupno = 1", "1-1"},
+        {"select [#OfCondiments] from items order by [#OfCondiments]", "2 3 100"},
+        {"select count(*), sum(groupno) from items", "3|6"},
+        {"select distinct [TAX/x] from items order by 1 desc", "False True"},
         {"select number from items where number = 'True'", ""},
     };
     for (const auto& [sql, rows] : cases)
-        EXPECT_EQ(rowsOf(QString::fromUtf8(sql)), rows) << sql;
+        EXPECT_EQ(found(QString::fromUtf8(sql)), rows) << sql;
 }
 
 TEST_F(QueryTest, UnknownNamesAndFaultyStatementsFail)
@@ -78,7 +66,7 @@ TEST_F(QueryTest, UnknownNamesAndFaultyStatementsFail)
 TEST_F(QueryTest, ChangesAndDeletesByStatement)
 {
     EXPECT_EQ(m_database.execute(u"update ITEMS set description='0.00', [ROUNDON%] = 1.5"_s), 3);
-    EXPECT_EQ(rowsOf(u"select description, [roundon%] from items where number='2'"_s), "0.00 1.5 ");
+    EXPECT_EQ(found(u"select description, [roundon%] from items where number='2'"_s), "0.00|1.5");
     EXPECT_EQ(failureOf([&] { m_database.execute(u"update items set groupno = 'x'"_s); }), 3421);
     EXPECT_EQ(failureOf([&] { m_database.execute(u"update items set number = 'x'"_s); }), 3022);
     EXPECT_EQ(m_database.execute(u"delete items.* from items where groupno=2"_s), 1);
@@ -98,7 +86,7 @@ TEST_F(QueryTest, RowsOfOneTableCanBeChangedAndComputedOnesCannot)
     EXPECT_EQ(failureOf([&] { rows.setValue(2, text("x")); }), 3421);
     rows.update();
     EXPECT_EQ(rows.value(1), text("Cola"));
-    EXPECT_EQ(rowsOf(u"select description from items where number = '2'"_s), "Cola ");
+    EXPECT_EQ(found(u"select description from items where number = '2'"_s), "Cola");
 
     m_database.execute(u"delete * from items where number = '3'"_s);
     EXPECT_FALSE(rows.moveTo(0));
@@ -106,7 +94,7 @@ TEST_F(QueryTest, RowsOfOneTableCanBeChangedAndComputedOnesCannot)
     rows.moveFirst();
     EXPECT_EQ(rows.value(0), text("2")); // the deleted row is passed over
     rows.deleteRecord();
-    EXPECT_EQ(rowsOf(u"items"_s).substr(0, 2), "1 ");
+    EXPECT_EQ(found(u"items"_s).substr(0, 2), "1|");
     EXPECT_EQ(failureOf([&] { rows.addNew(); }), 3027);
 
     for (const char* sql : {"select groupno + 1 from items", "select distinct groupno from items",

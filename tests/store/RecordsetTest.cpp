@@ -3,8 +3,6 @@
 
 #include <functional>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::store::test
 {
 namespace

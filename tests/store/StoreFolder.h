@@ -1,9 +1,8 @@
 // A folder of a test's own with a database in it, and short ways to fill and read a table.
 #pragma once
 
-#include "store/Database.h"
-#include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"
+#include "tests/store/Rows.h"
 
 #include <initializer_list>
 #include <string>
@@ -15,6 +14,7 @@ namespace norvane::store::test
 using namespace Qt::Literals::StringLiterals;
 
 using norvane::test::failureOf;
+using norvane::test::rowsOf;
 using norvane::test::TestFolder;
 
 inline Value text(const char* utf8)

@@ -17,6 +17,7 @@ namespace norvane::store
 namespace
 {
 
+using test::rowsOf;
 using test::StoreFolder;
 
 /// Whether a table or "TABLE.FIELD" came after the first databases were made.
@@ -137,24 +138,12 @@ QVector<TableDefinition> withoutCompanions()
     return tables;
 }
 
-/// All values of a query's rows.
-QStringList valuesOf(const StoreFolder& folder, const QString& sql)
-{
-    Database database(folder.path());
-    Recordset rows = database.openQuery(sql);
-    QStringList values;
-    for (; !rows.atEnd(); rows.moveNext()) {
-        for (int field = 0; field < rows.fieldCount(); ++field)
-            values << rows.value(field).toText();
-    }
-    return values;
-}
-
 /// Everything that stands in a file, the engine's own view of it, but for what comes with the first row.
-QStringList engineLayoutOf(const StoreFolder& folder)
+std::string engineLayoutOf(const StoreFolder& folder)
 {
-    return valuesOf(folder, u"select type, name, sql from sqlite_schema where tbl_name <> 'norvane_retired' "
-                            "order by name"_s);
+    return rowsOf(folder.path(),
+                  u"select type, name, sql from sqlite_schema where tbl_name <> 'norvane_retired' "
+                  "order by name"_s);
 }
 
 TEST(Completion, GivesADatabaseOfAnEarlierBuildWhatANewOneHas)
@@ -167,13 +156,13 @@ TEST(Completion, GivesADatabaseOfAnEarlierBuildWhatANewOneHas)
     }
     const QString aDay = u"from mixsales where SALESDATE = #11/24/2026#"_s;
     const QString plan = u"explain query plan select * "_s + aDay;
-    EXPECT_FALSE(valuesOf(folder, plan).join(u' ').contains(u"USING INDEX"_s));
+    EXPECT_EQ(rowsOf(folder.path(), plan).find("USING INDEX"), std::string::npos);
     const std::string tables = layoutIn(folder);
     completeDatabase(folder.path());
     EXPECT_EQ(engineLayoutOf(folder), engineLayoutOf(StoreFolder(catalogue())));
-    EXPECT_TRUE(valuesOf(folder, plan).join(u' ').contains(u"USING INDEX"_s));
+    EXPECT_NE(rowsOf(folder.path(), plan).find("USING INDEX"), std::string::npos);
     EXPECT_EQ(layoutIn(folder), tables);
-    EXPECT_EQ(valuesOf(folder, u"select ID "_s + aDay), QStringList{u"7"_s});
+    EXPECT_EQ(rowsOf(folder.path(), u"select ID "_s + aDay), "7");
 
     const QByteArray before = folder.folder().read("velmar.mdb");
     completeDatabase(folder.path());
@@ -200,17 +189,16 @@ TEST(Completion, GivesFieldsOfAnEarlierBuildRoomForLongNumbers)
     for (int start = 1; start <= 2; ++start) {
         completeDatabase(folder.path());
         EXPECT_EQ(layoutIn(folder), layoutOf(catalogue()));
-        EXPECT_EQ(
-            valuesOf(folder, u"select repeatbreak, dummy1, highhold from taxrates order by ID"_s).join(u' '),
-            u"99 5    9876543210"_s);
+        EXPECT_EQ(rowsOf(folder.path(), u"select repeatbreak, dummy1, highhold from taxrates order by ID"_s),
+                  "99|5|null null|null|9876543210");
     }
     Database database(folder.path());
     Recordset rates = database.openTable(u"taxrates"_s);
     rates.edit();
     rates.setValue(u"repeatbreak"_s, test::text("12345678901234567890"));
     rates.update();
-    EXPECT_EQ(valuesOf(folder, u"select repeatbreak from taxrates where ID = 1"_s).join(u' '),
-              u"12345678901234567890"_s);
+    EXPECT_EQ(rowsOf(folder.path(), u"select repeatbreak from taxrates where ID = 1"_s),
+              "12345678901234567890");
 }
 
 TEST(Completion, AddsNoTableAndNoFieldThatTheUpgradeLeftOut)
@@ -221,10 +209,10 @@ TEST(Completion, AddsNoTableAndNoFieldThatTheUpgradeLeftOut)
     completeDatabase(folder.path());
     EXPECT_EQ(layoutIn(folder), tables);
     // The upgrade makes the three tables with their indexes; the fourth stood already.
-    const QString indexed =
-        u"select tbl_name from sqlite_schema where name like '*sales search' and name not like 'norvane*' "
-        "order by 1"_s;
-    EXPECT_EQ(valuesOf(folder, indexed).join(u' ').toUpper(), u"CLERKSALES PLUSALES TIMESALES"_s);
+    EXPECT_EQ(rowsOf(folder.path(),
+                     u"select upper(tbl_name) from sqlite_schema where name like '*sales search' "
+                     "and name not like 'norvane*' order by 1"_s),
+              "CLERKSALES PLUSALES TIMESALES");
 }
 
 TEST(Completion, PassesOverEveryFailureAndLeavesTheFileWhole)

@@ -3,8 +3,6 @@
 
 #include <limits>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::store::test
 {
 namespace
