@@ -21,7 +21,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
-#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -110,7 +109,8 @@ void OptionForm::buildControls()
     }
     CSPict1->finish();
     connect(CSPict1, &FieldPanel::findPressed, this, &OptionForm::findRecord);
-    connect(CSPict1, &FieldPanel::maximumExceeded, this, [this](QLineEdit* box) { rejectNumber(*box); });
+    connect(CSPict1, &FieldPanel::maximumExceeded, this,
+            [this](QLineEdit* box) { ui::rejectNumber(*box, m_boxes); });
     connect(CSPict1, &FieldPanel::gridDataError, this,
             [this](GridControl* grid, const QModelIndex& index, const QString& why) {
                 rejectCell(*grid, index, why);
@@ -378,14 +378,6 @@ void OptionForm::printReport()
     const ScreenReport report = m_file.report();
     m_reports->run(
         {joinPath(m_values.appPath, report.file.toUpper()), report.title.toUpper(), m_databasePath});
-}
-
-void OptionForm::rejectNumber(QLineEdit& box)
-{
-    m_boxes.message(u"Maximum Value Exceeded"_s, u"Input Error"_s, BoxIcon::Exclamation);
-    box.setFocus();
-    box.selectAll();
-    QToolTip::showText(box.mapToGlobal(box.rect().bottomLeft()), box.toolTip(), &box);
 }
 
 void OptionForm::rejectCell(GridControl& grid, const QModelIndex& index, const QString& why)

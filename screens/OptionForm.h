@@ -92,7 +92,6 @@ private:
     void exitForm();
     void showRecord();
     [[nodiscard]] bool isTouched() const;
-    void rejectNumber(QLineEdit& box);
     void rejectCell(GridControl& grid, const QModelIndex& index, const QString& why);
     void tellNoMoreRecords();
 

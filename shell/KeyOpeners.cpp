@@ -1,9 +1,11 @@
 // The key editors as a table, and how each of them opens; see KeyOpeners.h.
 #include "shell/KeyOpeners.h"
 
+#include "keys/FrmFunctKey.h"
 #include "keys/frmwlu.h"
 #include "keys/KeyLayout.h"
 #include "platform/RuntimeFailure.h"
+#include "shell/MainStatusBar.h"
 #include "shell/Program.h"
 
 #include <memory>
@@ -15,28 +17,38 @@ namespace norvane::shell
 namespace
 {
 
-using MakeForm = std::unique_ptr<QDialog> (*)(ApplicationValues& values, Boxes& boxes, QWidget* parent);
+using MakeForm = std::unique_ptr<QDialog> (*)(ApplicationValues& values, Boxes& boxes, FrmMain& main);
 
 struct KeyForm {
     QLatin1StringView name;
     MakeForm make;
+    QLatin1StringView notice = {}; ///< what the user is told first, empty for nothing
 };
 
 template <const keys::KeyGeometry& (*keyboard)()>
-std::unique_ptr<QDialog> makeLayout(ApplicationValues& values, Boxes& boxes, QWidget* parent)
+std::unique_ptr<QDialog> makeLayout(ApplicationValues& values, Boxes& boxes, FrmMain& main)
 {
-    return std::make_unique<keys::KeyLayout>(keyboard(), values, boxes, parent);
+    return std::make_unique<keys::KeyLayout>(keyboard(), values, boxes, &main);
 }
 
-std::unique_ptr<QDialog> makeLookUps(ApplicationValues& values, Boxes& boxes, QWidget* parent)
+std::unique_ptr<QDialog> makeFunctionKeys(ApplicationValues& values, Boxes& boxes, FrmMain& main)
 {
-    return std::make_unique<keys::frmwlu>(values, boxes, parent);
+    auto form = std::make_unique<keys::FrmFunctKey>(values, boxes, &main);
+    QObject::connect(form.get(), &keys::FrmFunctKey::told, &main.statusBar1(), &MainStatusBar::setNotice);
+    return form;
+}
+
+std::unique_ptr<QDialog> makeLookUps(ApplicationValues& values, Boxes& boxes, FrmMain& main)
+{
+    return std::make_unique<keys::frmwlu>(values, boxes, &main);
 }
 
 constexpr KeyForm keyForms[] = {
     {"KeyLayoutVelmar"_L1, &makeLayout<keys::velmarKeyboard>},
     {"KeyLayoutDorvik"_L1, &makeLayout<keys::dorvikKeyboard>},
     {"frmwlu"_L1, &makeLookUps},
+    {"FrmFunctKey"_L1, &makeFunctionKeys,
+     "Redeem Points for Tender Keys are programmed in the General Function Options"_L1},
 };
 
 /// A key editor that cannot open has stored nothing yet: it alone closes, and what was typed into other
@@ -44,7 +56,7 @@ constexpr KeyForm keyForms[] = {
 std::unique_ptr<QDialog> makeOrTell(MakeForm make, ApplicationValues& values, Boxes& boxes, FrmMain& main)
 {
     try {
-        return make(values, boxes, &main);
+        return make(values, boxes, main);
     } catch (const RuntimeFailure&) {
         showFailure(describeFailure(std::current_exception()), boxes);
         return nullptr;
@@ -52,9 +64,11 @@ std::unique_ptr<QDialog> makeOrTell(MakeForm make, ApplicationValues& values, Bo
 }
 
 /// The editor works on the chosen customer's data, and so does everything else from then on.
-void openKeyForm(MakeForm make, ApplicationValues& values, Boxes& boxes, FrmMain& main)
+void openKeyForm(const KeyForm& entry, ApplicationValues& values, Boxes& boxes, FrmMain& main)
 {
-    const std::unique_ptr<QDialog> form = makeOrTell(make, values, boxes, main);
+    if (!entry.notice.isEmpty())
+        boxes.message(entry.notice);
+    const std::unique_ptr<QDialog> form = makeOrTell(entry.make, values, boxes, main);
     main.showCustomer();
     if (form)
         form->exec();
@@ -66,8 +80,8 @@ FrmMain::FormOpeners makeKeyOpeners(ApplicationValues& values, Boxes& boxes)
 {
     FrmMain::FormOpeners openers;
     for (const KeyForm& form : keyForms) {
-        openers.insert(form.name, [&values, &boxes, make = form.make](FrmMain& main, const MenuEntry&) {
-            openKeyForm(make, values, boxes, main);
+        openers.insert(form.name, [&values, &boxes, &form](FrmMain& main, const MenuEntry&) {
+            openKeyForm(form, values, boxes, main);
         });
     }
     return openers;

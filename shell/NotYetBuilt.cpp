@@ -13,8 +13,6 @@ namespace
 
 // clang-format off
 constexpr auto entries = std::to_array<QLatin1StringView>({
-    // Key editors.
-    "FunctionMenu"_L1,
     // Keyboard overlays.
     "Velmarkeyboard"_L1, "DorvikKeyboard"_L1, "Quelmontkeyboard"_L1,
 });

@@ -4,8 +4,12 @@
 #include "ui/Appearance.h"
 
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QToolTip>
 #include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::ui
 {
@@ -35,6 +39,14 @@ QHBoxLayout* makeButtonRow(std::initializer_list<QPushButton*> buttons,
     for (QPushButton* const button : buttons)
         row->addWidget(button);
     return row;
+}
+
+void rejectNumber(QLineEdit& box, Boxes& boxes)
+{
+    boxes.message(u"Maximum Value Exceeded"_s, u"Input Error"_s, BoxIcon::Exclamation);
+    box.setFocus();
+    box.selectAll();
+    QToolTip::showText(box.mapToGlobal(box.rect().bottomLeft()), box.toolTip(), &box);
 }
 
 QVBoxLayout* makeFormColumn(QWidget& form, int gap)

@@ -2,11 +2,14 @@
 // screen readers and scripts can reach every control.
 #pragma once
 
+#include "platform/Boxes.h"
+
 #include <QString>
 
 #include <initializer_list>
 
 class QHBoxLayout;
+class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
 class QWidget;
@@ -23,6 +26,10 @@ void nameControl(QWidget& control, const QString& name);
 /// @p buttons at the right edge, those of @p left at the left one. The caller places the row.
 [[nodiscard]] QHBoxLayout* makeButtonRow(std::initializer_list<QPushButton*> buttons,
                                          std::initializer_list<QPushButton*> left = {});
+
+/// Tells that the number in @p box was too large, which is back at 0, and lets the user type it anew. The
+/// tool tip shows how far it may go.
+void rejectNumber(QLineEdit& box, Boxes& boxes);
 
 /// The column for the contents of @p form, @p gap pixels apart. The form is as large as they need.
 QVBoxLayout* makeFormColumn(QWidget& form, int gap);

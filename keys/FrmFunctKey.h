@@ -1,0 +1,72 @@
+// The editor of the function keys.
+#pragma once
+
+#include "keys/FunctionKeys.h"
+#include "platform/Boxes.h"
+
+#include <QDialog>
+
+class QLabel;
+class QPushButton;
+
+namespace norvane::ui
+{
+class DecimalBox;
+class IntegerBox;
+class NumberBox;
+class TextBox;
+} // namespace norvane::ui
+
+namespace norvane::keys
+{
+
+class KeyPicker;
+class OptionColumns;
+
+/// Shows the options of the key that the user selects. Selecting another key and leaving drop what was not
+/// saved, without a question. Before the first key is selected there is nothing to save.
+class FrmFunctKey : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Leads @p values to the chosen customer's database. @throws as openCustomerDatabase() and FunctionKeys
+    /// do.
+    FrmFunctKey(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    /// What the last action came to, in words for the status bar.
+    void told(const QString& text);
+
+private:
+    /// A number, its label and what the logic calls it.
+    struct NumberRow {
+        NumberControl control;
+        QLabel* label;
+        ui::NumberBox* box;
+    };
+
+    void makeControls();
+    void layOut();
+    [[nodiscard]] NumberRow makeNumber(NumberControl control, const QString& label, ui::NumberBox* box,
+                                       const QString& name);
+    void Form_Load();
+    void selectkey_Click(int row);
+    void saveRecord();
+    void showControls();
+    void showNumber(const NumberRow& row);
+    void readControls();
+
+    Boxes& m_boxes;
+    FunctionKeys m_keys;
+    KeyControls m_controls;
+    KeyPicker* selectkey;
+    QLabel* labels;
+    ui::TextBox* description;
+    ui::DecimalBox* Halo;
+    QVector<NumberRow> m_numbers;
+    OptionColumns* m_options;
+    QPushButton* SaveRecord;
+};
+
+} // namespace norvane::keys

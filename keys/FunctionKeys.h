@@ -1,0 +1,91 @@
+// The records of the function keys, shown in and saved from the controls of their editor.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "keys/KeyOptions.h"
+#include "store/Database.h"
+#include "store/Recordset.h"
+
+#include <QVector>
+
+#include <memory>
+
+namespace norvane::keys
+{
+
+/// What the editor's controls hold, visible or not. A hidden control keeps its number, and Halo's is saved
+/// with every key.
+struct KeyControls {
+    struct Check {
+        bool visible = false;
+        QString caption;
+        bool ticked = false;
+    };
+    struct Number {
+        bool visible = false;
+        QString caption;
+        Decimal value;
+        Decimal largest; ///< that can be typed
+    };
+
+    [[nodiscard]] Number& number(NumberControl control);
+    [[nodiscard]] const Number& number(NumberControl control) const;
+
+    QString description;
+    QVector<Check> Check1{checkCount}; ///< by index
+    Number Halo;
+    Number otherno;
+    Number otherno2;
+    /// Digits behind the point that Halo shows at least for this key.
+    int haloDigits = 2;
+    /// The same for keys that do not say.
+    int standingHaloDigits = 2;
+};
+
+/// The table of the function keys with a place in it.
+class FunctionKeys
+{
+public:
+    /// A row of the list: number and text of a key as the table has them.
+    struct Item {
+        QString number;
+        QString description;
+    };
+
+    /// Keeps the connection. @p values tell the register model whenever a key is shown.
+    /// @throws RuntimeFailure 3021 for an empty table, and those of the database.
+    FunctionKeys(std::shared_ptr<store::Database> database, const ApplicationValues& values);
+
+    /// All keys in their order. The place is the first key afterwards.
+    [[nodiscard]] QVector<Item> readItems();
+    /// Characters that a description can have.
+    [[nodiscard]] int descriptionLength() const;
+
+    /// Goes to the row at @p position, which counts from 1: keys are found by their place in the table.
+    /// @throws RuntimeFailure 3021 when the table has no such row.
+    void moveTo(qint64 position);
+    /// Shows the current key. What it does not show is hidden, and no longer ticked.
+    /// @throws RuntimeFailure 13 when a field holds no number.
+    void GetData(KeyControls& controls) const;
+    /// Saves the current key as one step. Every option that is not ticked, and so every hidden one, is
+    /// cleared.
+    /// @throws RuntimeFailure of the database; the record is as it was then.
+    void SaveData(const KeyControls& controls);
+
+private:
+    void getdata2(const QString& ecrModel, KeyControls& controls) const;
+    void show(const KeyOptions* options, const QString& ecrModel, KeyControls& controls) const;
+    void showNumber(const NumberField& field, KeyControls& controls) const;
+    [[nodiscard]] bool isSet(int index) const;
+    void storeAll(const KeyControls& controls);
+    void storeNumber(const NumberField& field, const Decimal& value);
+    void store(KeyField field, const QString& value);
+    [[nodiscard]] qint64 id() const;
+    [[nodiscard]] QString textOf(KeyField field) const;
+
+    const ApplicationValues& m_values;
+    std::shared_ptr<store::Database> m_database;
+    store::Recordset m_table;
+};
+
+} // namespace norvane::keys
