@@ -20,31 +20,26 @@ protected:
     GridTest()
     {
         store::Database database(m_values.databasePath);
-        const store::Transaction transaction(database);
+        store::Transaction transaction(database);
         for (int number = 200; number < 700; ++number) {
             database.execute(u"insert into PLUDATA values ('000000000000000%1', 'x', '1', 2)"_s.arg(number));
         }
+        transaction.commit();
+        screen("[Database]\ntable=PLUDATA\nIndex1=plunumber\n"
+               "[Field1]\nControlType=GridControl\nWidth=9000\nHeight=3000\nVisible=True\n"
+               "SQLCriteria=select PLUNUMBER, DESCRIPTION, PRICE1, GROUPNO from PLUDATA order by PLUNUMBER\n"
+               "Caption0=Number\nColwidth0=3000\nlocked0=True\nCaption1=Name\nVisible1=False\n"
+               "Caption2=Price\nnumberFormat2=#,##0.00\nCaption4=Lost\nCaption5=Lost\n");
+        form = open();
+        grid = control<GridControl>(form, "gridcontrol_0");
     }
-
-    Form openGrid()
+    [[nodiscard]] QModelIndex cell(int row, int column) const { return grid->model()->index(row, column); }
+    void enter(int row, int column, const char* keys)
     {
-        return open(
-            "[Database]\ntable=PLUDATA\nIndex1=plunumber\n"
-            "[Field1]\nControlType=GridControl\nWidth=9000\nHeight=3000\nVisible=True\n"
-            "SQLCriteria=select PLUNUMBER, DESCRIPTION, PRICE1, GROUPNO from PLUDATA order by PLUNUMBER\n"
-            "Caption0=Number\nColwidth0=3000\nlocked0=True\nCaption1=Name\nVisible1=False\n"
-            "Caption2=Price\nnumberFormat2=#,##0.00\nCaption4=Lost\nCaption5=Lost\n");
-    }
-    static QLineEdit* openCell(GridControl& grid, int row, int column)
-    {
-        grid.setFocus();
-        grid.setCurrentIndex(grid.model()->index(row, column));
-        QTest::keyClick(&grid, Qt::Key_F2);
-        return qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    }
-    static void enter(GridControl& grid, int row, int column, const char* keys)
-    {
-        QLineEdit* const editor = openCell(grid, row, column);
+        grid->setFocus();
+        grid->setCurrentIndex(cell(row, column));
+        QTest::keyClick(grid, Qt::Key_F2);
+        auto* const editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         ASSERT_NE(editor, nullptr);
         editor->clear();
         QTest::keyClicks(editor, QString::fromLatin1(keys));
@@ -56,22 +51,23 @@ protected:
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    [[nodiscard]] std::string lagerPrice() const
+    [[nodiscard]] std::string stored(const char* field) const
     {
-        return rows("select PRICE1 from PLUDATA where DESCRIPTION = 'Lager'");
+        return rows(QByteArray("select ") + field + " from PLUDATA where DESCRIPTION = 'Lager'");
     }
+
+    Form form;
+    GridControl* grid = nullptr;
 };
 
 TEST_F(GridTest, ReadsALongTableAsTheUserScrolls)
 {
-    const Form form = openGrid();
-    auto* const grid = control<GridControl>(form, "gridcontrol_0");
     EXPECT_EQ(grid->columnWidth(0), 200);
     EXPECT_TRUE(grid->isColumnHidden(1));
     EXPECT_EQ(grid->model()->headerData(2, Qt::Horizontal), u"Price"_s);
     EXPECT_EQ(grid->model()->headerData(3, Qt::Horizontal), u"GROUPNO"_s);
-    EXPECT_EQ(grid->model()->index(0, 2).data(), u"2.50"_s);
-    EXPECT_FALSE(grid->model()->index(0, 0).flags().testFlag(Qt::ItemIsEditable));
+    EXPECT_EQ(cell(0, 2).data(), u"2.50"_s);
+    EXPECT_FALSE(cell(0, 0).flags().testFlag(Qt::ItemIsEditable));
     EXPECT_EQ(grid->viewport()->height() % grid->rowHeight(0), 0) << "whole rows only";
     EXPECT_LT(grid->model()->rowCount(), 502) << "a long table is read as the user scrolls";
     while (grid->model()->rowCount() < 502) {
@@ -80,7 +76,7 @@ TEST_F(GridTest, ReadsALongTableAsTheUserScrolls)
         QCoreApplication::processEvents();
         ASSERT_GT(grid->model()->rowCount(), before);
     }
-    enter(*grid, 501, 2, "7");
+    enter(501, 2, "7");
     EXPECT_EQ(rows("select PLUNUMBER from PLUDATA where PRICE1 = '7'"), "000000000000000699");
 }
 
@@ -95,34 +91,28 @@ TEST_F(GridTest, CellsAreStoredAtOnce)
         {2, "", "0", "0.00"},
         {3, "12", "12", "12"},
         {3, "", "null", ""}};
-    const Form form = openGrid();
     QString told;
     QObject::connect(&*form, &OptionForm::told, &*form, [&told](const QString& text) { told = text; });
-    auto* const grid = control<GridControl>(form, "gridcontrol_0");
-    for (const auto& [column, keys, stored, shown] : cases) {
-        enter(*grid, 0, column, keys);
-        EXPECT_EQ(rows(column == 2 ? "select PRICE1 from PLUDATA where DESCRIPTION = 'Lager'"
-                                   : "select GROUPNO from PLUDATA where DESCRIPTION = 'Lager'"),
-                  stored);
-        EXPECT_EQ(grid->model()->index(0, column).data().toString().toStdString(), shown);
+    for (const auto& [column, keys, kept, shown] : cases) {
+        enter(0, column, keys);
+        EXPECT_EQ(stored(column == 2 ? "PRICE1" : "GROUPNO"), kept);
+        EXPECT_EQ(cell(0, column).data().toString().toStdString(), shown);
     }
     EXPECT_TRUE(m_boxes.shown.empty());
-    enter(*grid, 0, 2, "-5");
+    enter(0, 2, "-5");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !m_boxes.shown.empty(); }));
     EXPECT_EQ(told, u"Nothing was stored: \"-5\" is not a number from 0 up with at most 2 decimals"_s);
-    enter(*grid, 0, 2, "6");
+    enter(0, 2, "6");
     EXPECT_EQ(told, u"Saved Number 5"_s) << "and no longer that nothing was stored";
     execute("update PLUDATA set PRICE1 = '1.255'");
-    EXPECT_EQ(control<GridControl>(openGrid(), "gridcontrol_0")->model()->index(0, 2).data(), u"1.255"_s)
-        << "what is seen is what is stored";
+    grid = control<GridControl>(form = open(), "gridcontrol_0");
+    EXPECT_EQ(cell(0, 2).data(), u"1.255"_s) << "what is seen is what is stored";
 }
 
 TEST_F(GridTest, WhatNoRegisterHoldsIsRejectedAndTheCellKeepsItsPrice)
 {
-    const Form form = openGrid();
-    auto* const grid = control<GridControl>(form, "gridcontrol_0");
     for (const char* keys : {"x1", "-5", "1e5", "123456789012345", "1000000", "1.005", "1.2.3", " "}) {
-        enter(*grid, 0, 2, keys);
+        enter(0, 2, keys);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !m_boxes.shown.empty(); })) << keys;
         EXPECT_EQ(takeBox(), invalidEntry) << keys;
         auto* const editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
@@ -130,14 +120,12 @@ TEST_F(GridTest, WhatNoRegisterHoldsIsRejectedAndTheCellKeepsItsPrice)
         EXPECT_TRUE(grid->isAncestorOf(editor));
         EXPECT_EQ(editor->text(), QString()) << "emptied for the next try";
         leave(editor);
-        EXPECT_EQ(lagerPrice(), "2.5") << "left without another try";
+        EXPECT_EQ(stored("PRICE1"), "2.5") << "left without another try";
     }
 }
 
 TEST_F(GridTest, FindsRowsByNumberOrText)
 {
-    const Form form = openGrid();
-    auto* const grid = control<GridControl>(form, "gridcontrol_0");
     const auto found = [&] {
         return grid->currentIndex().siblingAtColumn(0).data().toString().right(3).toStdString();
     };

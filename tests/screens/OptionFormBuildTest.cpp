@@ -17,9 +17,7 @@ using test::failureOf;
 
 const QByteArray groups = "[DATABASE]\nTable=GROUPS\nindex1=groupno\n";
 
-class OptionFormBuildTest : public test::ScreenFixture
-{
-};
+using OptionFormBuildTest = test::ScreenFixture;
 
 TEST_F(OptionFormBuildTest, PlacesControlsInPixelsAndNamesThemByElement)
 {
@@ -154,10 +152,6 @@ TEST_F(OptionFormBuildTest, FaultsFailWithTheNameOfTheFileAndOfTheKey)
         }
     }
     EXPECT_TRUE(m_boxes.shown.empty());
-}
-
-TEST_F(OptionFormBuildTest, AnEmptyTableHasNothingToShow)
-{
     execute("delete * from GROUPS");
     EXPECT_EQ(failureOf([&] { open(groups + "[Field1]\nControlType=TextControl\nDatafield=DESCRIPTION\n"); }),
               3021);

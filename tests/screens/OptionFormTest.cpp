@@ -43,15 +43,16 @@ protected:
                "[Field9]\nControlType=CheckControl\nY=4100\nVisible=True\nDatafield=FLAG\n"
                "[Field10]\nControlType=DecimalNumberControl\nY=4600\nVisible=True\nDatafield=RATE\nReadOnly="
                "True\n");
+        form = open();
     }
-    static std::string name(const Form& form) { return text(form, "TextControl_1"); }
-    /// What the status bar says after @p act.
-    static std::string toldBy(const Form& form, const std::function<void()>& act)
+    [[nodiscard]] std::string name() const { return text(form, "TextControl_1"); }
+    /// Presses a button. @return what the status bar says then.
+    std::string toldBy(const char* button)
     {
         QString last;
         const auto listening = QObject::connect(form.get(), &OptionForm::told, form.get(),
                                                 [&](const QString& text) { last = text; });
-        act();
+        press(form, button);
         QObject::disconnect(listening);
         return last.toStdString();
     }
@@ -65,11 +66,12 @@ protected:
             "select DESCRIPTION, PRICE, LINK, LONGLINK, TAX1, FLAG, RATE from GROUPS where GROUPNO = ";
         return rows(sql + QByteArray::number(number));
     }
+
+    Form form;
 };
 
 TEST_F(OptionFormTest, WhatTheUserTypesIsStoredOnSave)
 {
-    const Form form = open();
     EXPECT_FALSE(control<QCheckBox>(form, "CheckControl_2")->isChecked())
         << "a flag that holds 1 is not true";
     type(form, "TextControl_1", "Ports");
@@ -94,14 +96,14 @@ TEST_F(OptionFormTest, WhatTheUserTypesIsStoredOnSave)
 TEST_F(OptionFormTest, NullIsShownEmptyAndAFailingSaveShowsNoBox)
 {
     execute("update GROUPS set DESCRIPTION = null, PRICE = null, LINK = null, TAX1 = null where GROUPNO = 1");
-    const Form form = open();
-    EXPECT_EQ(name(form), "");
+    form = open();
+    EXPECT_EQ(name(), "");
     EXPECT_EQ(text(form, "DecimalNumberControl_1"), "0.00");
     EXPECT_TRUE(control<ui::ValueList>(form, "ComboControl_1")->value().isNull());
     EXPECT_FALSE(control<QCheckBox>(form, "CheckControl_1")->isChecked());
     type(form, "TextControl_1", "Ports");
     control<ui::ValueList>(form, "ComboControl_1")->setValue(u"3000000000"_s);
-    const std::string said = toldBy(form, [&] { press(form, "SaveRecord"); });
+    const std::string said = toldBy("SaveRecord");
     EXPECT_TRUE(m_boxes.shown.empty());
     EXPECT_EQ(group(1), "null|null|null|null|null|1|1.5");
     EXPECT_EQ(said.find("Nothing was stored: "), 0U) << said;
@@ -110,51 +112,47 @@ TEST_F(OptionFormTest, NullIsShownEmptyAndAFailingSaveShowsNoBox)
 
 TEST_F(OptionFormTest, ASaveOnALockedFileOrAFullDiskSaysSoAndCanBeRepeated)
 {
-    const Form form = open();
     type(form, "TextControl_1", "Ports");
     QElapsedTimer clock;
     {
         store::Database other(m_values.databasePath);
         const store::Transaction work(other);
         clock.start();
-        EXPECT_EQ(toldBy(form, [&] { press(form, "SaveRecord"); }),
-                  "Nothing was stored: another program holds the database");
+        EXPECT_EQ(toldBy("SaveRecord"), "Nothing was stored: another program holds the database");
         EXPECT_LT(clock.elapsed(), 2000) << "the usual wait is five seconds";
     }
 #ifdef Q_OS_UNIX
     {
         const test::FullDisk disk(100);
-        EXPECT_EQ(toldBy(form, [&] { press(form, "SaveRecord"); }).find("Nothing was stored: the disk"), 0U);
+        EXPECT_EQ(toldBy("SaveRecord").find("Nothing was stored: the disk"), 0U);
     }
 #endif
-    EXPECT_EQ(toldBy(form, [&] { press(form, "SaveRecord"); }), "Saved Options 1");
+    EXPECT_EQ(toldBy("SaveRecord"), "Saved Options 1");
     EXPECT_EQ(groupNames(), "Ports Beers Food");
-    EXPECT_EQ(toldBy(form, [&] { press(form, "NextRecord"); }), "") << "another record";
+    EXPECT_EQ(toldBy("NextRecord"), "") << "another record";
     EXPECT_TRUE(m_boxes.shown.empty());
 }
 
 TEST_F(OptionFormTest, MovesLoseWhatWasTypedAndTellTheEnds)
 {
-    const Form form = open();
     type(form, "TextControl_1", "Ports");
     press(form, "NextRecord");
-    EXPECT_EQ(name(form), "Beers");
+    EXPECT_EQ(name(), "Beers");
     press(form, "PreviousRecord");
-    EXPECT_EQ(name(form), "Wines");
+    EXPECT_EQ(name(), "Wines");
     press(form, "PreviousRecord");
     EXPECT_EQ(takeBox(), noMoreRecords);
-    EXPECT_EQ(name(form), "Wines");
+    EXPECT_EQ(name(), "Wines");
     for (int time = 0; time < 3; ++time)
         press(form, "NextRecord");
     EXPECT_EQ(takeBox(), noMoreRecords);
-    EXPECT_EQ(name(form), "Food");
+    EXPECT_EQ(name(), "Food");
 }
 
-TEST_F(OptionFormTest, ANewRecordWithATakenKeyCanBeCorrected)
+TEST_F(OptionFormTest, ANewRecordWithATakenKeyCanBeCorrectedAndStaysTheOneThatIsShown)
 {
-    const Form form = open();
     press(form, "AddRecord");
-    EXPECT_EQ(name(form), "");
+    EXPECT_EQ(name(), "");
     EXPECT_EQ(text(form, "DecimalNumberControl_1"), "0.00");
     EXPECT_FALSE(control<QCheckBox>(form, "CheckControl_1")->isChecked());
     type(form, "IntegerNumberControl_1", "2");
@@ -164,14 +162,6 @@ TEST_F(OptionFormTest, ANewRecordWithATakenKeyCanBeCorrected)
     type(form, "IntegerNumberControl_1", "4");
     press(form, "SaveRecord");
     EXPECT_EQ(group(4), "Spirits|0|0|null|False|0|null");
-}
-
-TEST_F(OptionFormTest, ANewRecordStaysTheOneThatIsShown)
-{
-    const Form form = open();
-    press(form, "AddRecord");
-    type(form, "IntegerNumberControl_1", "5");
-    press(form, "SaveRecord");
     type(form, "IntegerNumberControl_1", "6");
     press(form, "SaveRecord");
     EXPECT_EQ(rows("select GROUPNO from GROUPS order by GROUPNO"), "1 2 3 6");
@@ -182,7 +172,6 @@ TEST_F(OptionFormTest, ANewRecordStaysTheOneThatIsShown)
 
 TEST_F(OptionFormTest, AMoveADeletionAndAnExitDropANewRecord)
 {
-    Form form = open();
     m_boxes.answers = {true};
     for (const char* leaving : {"NextRecord", "DeleteRecord", "ExitForm"}) {
         press(form, "AddRecord");
@@ -194,14 +183,13 @@ TEST_F(OptionFormTest, AMoveADeletionAndAnExitDropANewRecord)
 
 TEST_F(OptionFormTest, DeleteAsksFirstAndFailsOnTheLastRecord)
 {
-    const Form form = open();
     press(form, "NextRecord");
     press(form, "DeleteRecord");
     EXPECT_EQ(takeBox(), (ShownBox{u"Are You Sure?"_s, u"Delete Record"_s, BoxIcon::Critical}));
-    EXPECT_EQ(name(form), "Beers");
+    EXPECT_EQ(name(), "Beers");
     m_boxes.answers = {true, true, true};
     press(form, "DeleteRecord");
-    EXPECT_EQ(name(form), "Wines");
+    EXPECT_EQ(name(), "Wines");
     EXPECT_EQ(groupNames(), "Wines Food");
     press(form, "DeleteRecord");
     EXPECT_EQ(failureNumber(), 0);
@@ -211,27 +199,25 @@ TEST_F(OptionFormTest, DeleteAsksFirstAndFailsOnTheLastRecord)
 
 TEST_F(OptionFormTest, FindsByEachButtonsIndex)
 {
-    const Form form = open();
     find(form, "FindControl_2", "C", {}, "ExitControl_0");
-    EXPECT_EQ(name(form), "Food");
+    EXPECT_EQ(name(), "Food");
     find(form, "FindControl_1", "1", Qt::Key_Escape);
     find(form, "FindControl_1", "1", {}, "ExitControl_1");
-    EXPECT_EQ(name(form), "Food") << "cancelled";
+    EXPECT_EQ(name(), "Food") << "cancelled";
     press(form, "NextRecord");
-    EXPECT_EQ(name(form), "Wines") << "still by name";
+    EXPECT_EQ(name(), "Wines") << "still by name";
     find(form, "FindControl_1", "2");
-    EXPECT_EQ(name(form), "Beers");
+    EXPECT_EQ(name(), "Beers");
 }
 
 TEST_F(OptionFormTest, AfterNoRecordTheShownRecordIsStillTheOneThatIsSaved)
 {
-    const Form form = open();
     press(form, "NextRecord");
     for (const char* missing : {"9", "two"}) {
         type(form, "TextControl_1", missing);
         find(form, "FindControl_1", missing);
         EXPECT_EQ(takeBox(), noRecord);
-        EXPECT_EQ(name(form), missing) << "what was typed";
+        EXPECT_EQ(name(), missing) << "what was typed";
         press(form, "SaveRecord");
         EXPECT_EQ(group(2).find(missing), 0U) << group(2);
     }
@@ -239,7 +225,7 @@ TEST_F(OptionFormTest, AfterNoRecordTheShownRecordIsStillTheOneThatIsSaved)
     find(form, "FindControl_2", "zz");
     EXPECT_EQ(takeBox(), noRecord);
     press(form, "NextRecord");
-    EXPECT_EQ(name(form), "Wines") << "by name from here on";
+    EXPECT_EQ(name(), "Wines") << "by name from here on";
 
     press(form, "AddRecord");
     type(form, "IntegerNumberControl_1", "7");
@@ -251,7 +237,7 @@ TEST_F(OptionFormTest, AfterNoRecordTheShownRecordIsStillTheOneThatIsSaved)
 
 TEST_F(OptionFormTest, TheFindDialogSaysWhatItsIndexTakes)
 {
-    const auto label = [](const Form& form, const char* button) {
+    const auto label = [this](const char* button) {
         QString text;
         QTimer::singleShot(0, [&] {
             text = QApplication::activeModalWidget()->findChild<QLabel*>()->text();
@@ -261,11 +247,12 @@ TEST_F(OptionFormTest, TheFindDialogSaysWhatItsIndexTakes)
         return text.toStdString();
     };
     const std::string rest = ", or the next:";
-    EXPECT_EQ(label(open(), "FindControl_1"), "Find the record with this number" + rest);
-    EXPECT_EQ(label(open(), "FindControl_2"), "Find the record with this text" + rest);
+    EXPECT_EQ(label("FindControl_1"), "Find the record with this number" + rest);
+    EXPECT_EQ(label("FindControl_2"), "Find the record with this text" + rest);
     const QByteArray plus = "[Database]\ntable=PLUDATA\nIndex1=plunumber\n[Field1]\nControlType="
                             "FindControl\nVisible=True\n";
-    EXPECT_EQ(label(open(plus), "FindControl_1"), "Find the record with this PLU number" + rest);
+    form = open(plus);
+    EXPECT_EQ(label("FindControl_1"), "Find the record with this PLU number" + rest);
 }
 
 TEST_F(OptionFormTest, PluNumbersAreFilledToTheirWidth)
@@ -275,7 +262,7 @@ TEST_F(OptionFormTest, PluNumbersAreFilledToTheirWidth)
                             "[Field2]\nControlType=TextControl\nVisible=True\nDatafield=DESCRIPTION\n"
                             "[Field3]\nControlType=FindControl\nVisible=True\n"
                             "[Field4]\nControlType=FindControl\nVisible=True\nX=900\nY=900\n";
-    Form form = open(plus);
+    form = open(plus);
     type(form, "TextControl_1", "123"); // of a stored record, taken by another
     press(form, "SaveRecord");
     EXPECT_EQ(takeBox(), codeExists);
@@ -295,7 +282,6 @@ TEST_F(OptionFormTest, PluNumbersAreFilledToTheirWidth)
 
 TEST_F(OptionFormTest, ANumberAboveItsMaximumIsRejected)
 {
-    const Form form = open();
     for (const char* box : {"IntegerNumberControl_1", "DecimalNumberControl_1"}) {
         type(form, box, "100");
         EXPECT_EQ(takeBox(), (ShownBox{u"Maximum Value Exceeded"_s, u"Input Error"_s, BoxIcon::Exclamation}));
@@ -304,41 +290,12 @@ TEST_F(OptionFormTest, ANumberAboveItsMaximumIsRejected)
     }
 }
 
-TEST_F(OptionFormTest, PrintRunsTheReportOnWhatIsStored)
-{
-    struct Reports : ReportRunner {
-        ReportRequest last;
-        void run(const ReportRequest& request) override { last = request; }
-    } reports;
-    press(open(&reports), "PrintReport");
-    EXPECT_EQ(reports.last.reportFile, m_folder.path("GROUPS.RPT"));
-    EXPECT_EQ(reports.last.title, u"GROUPS"_s);
-    EXPECT_EQ(reports.last.database, m_values.databasePath);
-}
-
-TEST_F(OptionFormTest, TwoScreensOnOneTableHoldTheirOwnPlaces)
-{
-    const Form first = open();
-    const Form second = open();
-    press(second, "NextRecord");
-    EXPECT_EQ(name(first), "Wines");
-    type(second, "TextControl_1", "Ales");
-    press(second, "SaveRecord");
-    press(first, "NextRecord");
-    EXPECT_EQ(name(first), "Ales");
-    m_boxes.answers = {true};
-    press(second, "DeleteRecord");
-    press(first, "NextRecord");
-    EXPECT_EQ(name(first), "Food");
-}
-
 TEST_F(OptionFormTest, ARecordThatAnotherScreenReplacedIsNotOverwritten)
 {
-    const Form first = open();
     const Form second = open();
-    for (const Form* form : {&first, &second}) {
-        press(*form, "NextRecord");
-        press(*form, "NextRecord");
+    for (int time = 0; time < 2; ++time) {
+        press(form, "NextRecord");
+        press(second, "NextRecord");
     }
     m_boxes.answers = {true, true};
     press(second, "DeleteRecord");
@@ -346,14 +303,13 @@ TEST_F(OptionFormTest, ARecordThatAnotherScreenReplacedIsNotOverwritten)
     type(second, "IntegerNumberControl_1", "4");
     type(second, "TextControl_1", "Spirits");
     press(second, "SaveRecord");
-    type(first, "TextControl_1", "Snacks");
-    EXPECT_EQ(toldBy(first, [&] { press(first, "SaveRecord"); }),
-              "Nothing was stored: the record was deleted meanwhile");
+    type(form, "TextControl_1", "Snacks");
+    EXPECT_EQ(toldBy("SaveRecord"), "Nothing was stored: the record was deleted meanwhile");
     EXPECT_EQ(groupNames(), "Wines Beers Spirits");
-    EXPECT_EQ(name(first), "Snacks") << "for the user to save elsewhere";
-    press(first, "DeleteRecord");
+    EXPECT_EQ(name(), "Snacks") << "for the user to save elsewhere";
+    press(form, "DeleteRecord");
     EXPECT_EQ(groupNames(), "Wines Beers Spirits");
-    EXPECT_EQ(name(first), "Wines");
+    EXPECT_EQ(name(), "Wines");
     EXPECT_EQ(failureNumber(), 0);
 }
 

@@ -22,16 +22,17 @@ protected:
                "[visiblekeys]\nShownextrecord=YES\nShowAddrecord=YES\nShowdeleterecord=YES\n"
                "[Field1]\nControlType=TextControl\nVisible=True\nDatafield=PLUNUMBER\n"
                "[Field2]\nControlType=TextControl\nVisible=True\nDatafield=Description\nY=600\n");
+        form = open();
     }
 
-    static void toggleList(const Form& form)
+    void toggleList()
     {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_L, Qt::ControlModifier);
         QCoreApplication::processEvents();
         ASSERT_TRUE(control(form, "ListFilter")->isVisible());
     }
     /// What stands in the list: "number text", the record of the screen with a star.
-    static std::string listed(const Form& form)
+    [[nodiscard]] std::string listed() const
     {
         QStringList rows;
         const QAbstractItemModel& model = *control<QTableView>(form, "ListTable")->model();
@@ -41,20 +42,21 @@ protected:
         }
         return rows.join(u'|').toStdString();
     }
-    static void choose(const Form& form, int row)
+    void choose(int row)
     {
         auto* const table = control<QTableView>(form, "ListTable");
         const QPoint place = table->visualRect(table->model()->index(row, 1)).center();
         QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, place);
     }
+
+    Form form;
 };
 
 TEST_F(RecordListTest, FiltersByAnyPartOfNumberOrTextAndGoesToTheChosenRecord)
 {
-    const Form form = open();
-    toggleList(form);
+    toggleList();
     EXPECT_EQ(QApplication::focusWidget(), control(form, "ListFilter"));
-    EXPECT_EQ(listed(form), "5 Lager*|123 Claret|1123 Cider|5000 crème 12");
+    EXPECT_EQ(listed(), "5 Lager*|123 Claret|1123 Cider|5000 crème 12");
     const std::pair<const char*, const char*> cases[] = {
         {"123", "123 Claret|1123 Cider"},
         {"12", "123 Claret|1123 Cider|5000 crème 12"},
@@ -63,13 +65,13 @@ TEST_F(RecordListTest, FiltersByAnyPartOfNumberOrTextAndGoesToTheChosenRecord)
         {"3C", ""}};
     for (const auto& [part, rows] : cases) {
         type(form, "ListFilter", part);
-        EXPECT_EQ(listed(form), rows) << part;
+        EXPECT_EQ(listed(), rows) << part;
     }
     EXPECT_EQ(control<QLabel>(form, "ListCount")->text(), u"0 of 4"_s);
     type(form, "ListFilter", "123");
-    choose(form, 1);
+    choose(1);
     EXPECT_EQ(text(form, "TextControl_2"), "Cider");
-    EXPECT_EQ(listed(form), "123 Claret|1123 Cider*");
+    EXPECT_EQ(listed(), "123 Claret|1123 Cider*");
     type(form, "ListFilter", "cl");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(text(form, "TextControl_2"), "Claret");
@@ -79,28 +81,26 @@ TEST_F(RecordListTest, FiltersByAnyPartOfNumberOrTextAndGoesToTheChosenRecord)
 
 TEST_F(RecordListTest, FollowsTheScreenAndTheTable)
 {
-    const Form form = open();
-    toggleList(form);
+    toggleList();
     press(form, "NextRecord");
-    EXPECT_EQ(listed(form), "5 Lager|123 Claret*|1123 Cider|5000 crème 12");
+    EXPECT_EQ(listed(), "5 Lager|123 Claret*|1123 Cider|5000 crème 12");
     type(form, "TextControl_2", "Port");
-    choose(form, 1);
+    choose(1);
     EXPECT_EQ(text(form, "TextControl_2"), "Port") << "the record is on the screen already";
     press(form, "SaveRecord");
-    EXPECT_EQ(listed(form), "5 Lager|123 Port*|1123 Cider|5000 crème 12");
+    EXPECT_EQ(listed(), "5 Lager|123 Port*|1123 Cider|5000 crème 12");
     m_boxes.answers = {true};
     press(form, "DeleteRecord");
-    EXPECT_EQ(listed(form), "5 Lager*|1123 Cider|5000 crème 12");
+    EXPECT_EQ(listed(), "5 Lager*|1123 Cider|5000 crème 12");
     execute("delete * from PLUDATA where PLUNUMBER = '000000000000001123'");
     control(form, "ListFilter")->setFocus();
-    EXPECT_EQ(listed(form), "5 Lager*|5000 crème 12");
+    EXPECT_EQ(listed(), "5 Lager*|5000 crème 12");
     press(form, "AddRecord");
-    EXPECT_EQ(listed(form), "5 Lager|5000 crème 12") << "none of them is on the screen";
+    EXPECT_EQ(listed(), "5 Lager|5000 crème 12") << "none of them is on the screen";
 }
 
 TEST_F(RecordListTest, StandsBesideScreensThatWalkSeveralRecordsOnly)
 {
-    Form form = open();
     EXPECT_FALSE(form->findChild<QWidget*>(u"ListFilter"_s)) << "at first";
     const int width = form->width();
     press(form, "ListHandle");

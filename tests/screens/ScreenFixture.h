@@ -3,9 +3,8 @@
 
 #include "base/ApplicationValues.h"
 #include "screens/OptionForm.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"
+#include "tests/store/Rows.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/RecordingBoxes.h"
 
@@ -65,30 +64,18 @@ protected:
 
     void execute(const QByteArray& sql) const
     {
-        store::Database(m_values.databasePath).execute(QString::fromUtf8(sql));
+        test::execute(m_values.databasePath, QString::fromUtf8(sql));
     }
-    /// All rows of a query as another program would read them: columns joined by "|", null as "null", a blank
-    /// between rows.
-    [[nodiscard]] std::string rows(const char* sql) const
+    [[nodiscard]] std::string rows(const QByteArray& sql) const
     {
-        store::Database database(m_values.databasePath);
-        QStringList rows;
-        for (auto records = database.openQuery(QString::fromUtf8(sql)); !records.atEnd();
-             records.moveNext()) {
-            QStringList columns;
-            for (int field = 0; field < records.fieldCount(); ++field)
-                columns += records.value(field).isNull() ? u"null"_s : records.value(field).toText();
-            rows += columns.join(u'|');
-        }
-        return rows.join(u' ').toStdString();
+        return rowsOf(m_values.databasePath, QString::fromUtf8(sql));
     }
-
     /// Writes the screen file; lines are given with "\n".
     void screen(QByteArray text) const { m_folder.write("test.scn", text.replace("\n", "\r\n")); }
     /// Opens the screen file that is written now.
-    Form open(screens::ReportRunner* reports = nullptr)
+    Form open()
     {
-        auto form = std::make_unique<screens::OptionForm>(m_screenFilePath, m_values, m_boxes, reports);
+        auto form = std::make_unique<screens::OptionForm>(m_screenFilePath, m_values, m_boxes);
         form->show();
         QApplication::setActiveWindow(form.get());
         EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
