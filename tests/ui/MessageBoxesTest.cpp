@@ -90,21 +90,25 @@ TEST_F(FileBoxTest, OnlyAFileThatExistsCanBeOpened)
               m_folder.path("old.txt"));
 }
 
+/// Presses a key in the box that opens next.
+void pressSoon(Qt::Key key, Qt::KeyboardModifier modifier)
+{
+    QTimer::singleShot(0, [key, modifier] {
+        QWidget* const box = QApplication::activeModalWidget();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(box));
+        QTest::keyClick(box, key, modifier);
+    });
+}
+
 TEST(MessageBoxes, OfTwoNamedAnswersEnterAndEscapeGiveTheSecond)
 {
-    const std::pair<std::pair<Qt::Key, Qt::KeyboardModifier>, bool> cases[] = {
-        {{Qt::Key_Return, Qt::NoModifier}, false},
-        {{Qt::Key_Escape, Qt::NoModifier}, false},
-        {{Qt::Key_H, Qt::AltModifier}, false},
-        {{Qt::Key_S, Qt::AltModifier}, true}};
-    for (const auto& [key, first] : cases) {
-        QTimer::singleShot(0, [pressed = key] {
-            QWidget* const box = QApplication::activeModalWidget();
-            ASSERT_TRUE(QTest::qWaitForWindowActive(box));
-            QTest::keyClick(box, pressed.first, pressed.second);
-        });
-        EXPECT_EQ(MessageBoxes().choose(u"Changed"_s, u"Record"_s, u"&Save"_s, u"S&how"_s), first)
-            << key.first;
+    const std::tuple<Qt::Key, Qt::KeyboardModifier, bool> cases[] = {{Qt::Key_Return, Qt::NoModifier, false},
+                                                                     {Qt::Key_Escape, Qt::NoModifier, false},
+                                                                     {Qt::Key_H, Qt::AltModifier, false},
+                                                                     {Qt::Key_S, Qt::AltModifier, true}};
+    for (const auto& [key, modifier, first] : cases) {
+        pressSoon(key, modifier);
+        EXPECT_EQ(MessageBoxes().choose(u"Changed"_s, u"Record"_s, u"&Save"_s, u"S&how"_s), first) << key;
     }
 }
 
@@ -126,18 +130,13 @@ TEST(MessageBoxes, AShortTextLeavesRoomForTheTitle)
 
 TEST(MessageBoxes, AQuestionBeforeGoingOnCanBeClosedWithoutAnAnswer)
 {
-    const std::pair<std::pair<Qt::Key, Qt::KeyboardModifier>, std::optional<bool>> cases[] = {
-        {{Qt::Key_Return, Qt::NoModifier}, true},
-        {{Qt::Key_N, Qt::AltModifier}, false},
-        {{Qt::Key_Escape, Qt::NoModifier}, std::nullopt}};
-    for (const auto& [key, answer] : cases) {
-        QTimer::singleShot(0, [pressed = key] {
-            QWidget* const box = QApplication::activeModalWidget();
-            ASSERT_TRUE(QTest::qWaitForWindowActive(box));
-            QTest::keyClick(box, pressed.first, pressed.second);
-        });
-        EXPECT_EQ(MessageBoxes().askBeforeGoingOn(u"Save Changes?"_s, u"Save Details."_s), answer)
-            << key.first;
+    const std::tuple<Qt::Key, Qt::KeyboardModifier, std::optional<bool>> cases[] = {
+        {Qt::Key_Return, Qt::NoModifier, true},
+        {Qt::Key_N, Qt::AltModifier, false},
+        {Qt::Key_Escape, Qt::NoModifier, std::nullopt}};
+    for (const auto& [key, modifier, answer] : cases) {
+        pressSoon(key, modifier);
+        EXPECT_EQ(MessageBoxes().askBeforeGoingOn(u"Save Changes?"_s, u"Save Details."_s), answer) << key;
     }
 }
 
