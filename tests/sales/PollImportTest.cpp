@@ -2,13 +2,11 @@
 #include "sales/PollImport.h"
 
 #include "platform/RuntimeFailure.h"
+#include "sales/PollStamp.h"
 #include "store/Catalogue.h"
-#include "store/Database.h"
 #include "store/MonthTotals.h"
-#include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"
-
-#include <gtest/gtest.h>
+#include "tests/store/Rows.h"
 
 #include <algorithm>
 
@@ -18,20 +16,6 @@ namespace norvane::sales
 {
 namespace
 {
-
-/// All rows of a table, a line for each.
-std::string rowsOf(const QString& databasePath, const char* table)
-{
-    store::Database database(databasePath);
-    store::Recordset records = database.openTable(QLatin1StringView(table));
-    std::string text;
-    for (; !records.atEnd(); records.moveNext()) {
-        for (int field = 0; field < records.fieldCount(); ++field)
-            text += (field == 0 ? "" : " ") + records.value(field).toUtf8();
-        text += '\n';
-    }
-    return text;
-}
 
 struct ImportCase {
     const char* name;
@@ -70,8 +54,15 @@ protected:
             EXPECT_TRUE(thrown.text().contains(QLatin1StringView(c.told))) << thrown.what();
         }
         EXPECT_EQ(failure, c.failure);
-        EXPECT_EQ(rowsOf(m_values.databasePath, file->table), c.rows);
+        EXPECT_EQ(test::rowsOf(m_values.databasePath, QLatin1StringView(file->table), u"\n"), c.rows);
     }
+
+    void importDay(QDate day)
+    {
+        store::Database database(m_values.databasePath);
+        importPollFile(pollFiles().front(), database, m_values, day);
+    }
+    std::string rows(const QString& sql) { return test::rowsOf(m_values.databasePath, sql); }
 
     test::TestFolder m_folder;
     ApplicationValues m_values;
@@ -83,27 +74,27 @@ TEST_F(PollImport, TurnsRecordsIntoRows)
     const QByteArray zeros = QByteArray("0,0\r\n").repeated(117);
     const ImportCase cases[] = {
         {"zeros are passed over but count", "FileFinSales", "3,0\r\n0,0\r\n0,0.00\r\n-1,-2.5\r\n",
-         "1 24/11/2026 3 0\n4 24/11/2026 -1 -2.5\n"},
+         "1|24/11/2026|3|0\n4|24/11/2026|-1|-2.5"},
         {"values run over line ends", "FileTimeSales", "1\r\n2,3\n4\r5.5, 6",
-         "1 24/11/2026 1 2\n2 24/11/2026 3 4\n3 24/11/2026 5.5 6\n"},
+         "1|24/11/2026|1|2\n2|24/11/2026|3|4\n3|24/11/2026|5.5|6"},
         {"blanks, quotes and other spellings", "FileTimeSales",
          "  7 , \"8\"\r\n\" 1.25 \",+3\r\n\t1E2,.5\r\n\r\n  \r\n\x1A\r\n\x1A ",
-         "1 24/11/2026 7 8\n2 24/11/2026 1.25 3\n3 24/11/2026 100 0.5\n"},
+         "1|24/11/2026|7|8\n2|24/11/2026|1.25|3\n3|24/11/2026|100|0.5"},
         {"an empty file", "FileFinSales", "", ""},
         {"a block for each clerk", "FileClerkSales", "5,6\r\n" + zeros + zeros + "7,8\r\n9,10\r\n",
-         "1 1 24/11/2026 5 6\n118 2 24/11/2026 7 8\n1 3 24/11/2026 9 10\n"},
+         "1|1|24/11/2026|5|6\n118|2|24/11/2026|7|8\n1|3|24/11/2026|9|10"},
         {"a hundredfold, in decimal", "FilemixSales", "3\r\n0\r\n0.07\r\n1.115\r\n",
-         "1 24/11/2026 300 0\n3 24/11/2026 7 0\n4 24/11/2026 111.5 0\n"},
+         "1|24/11/2026|300|0\n3|24/11/2026|7|0\n4|24/11/2026|111.5|0"},
         {"zeros of PLUs are rows", "FilePLUSales", "000000000000000012,0,0,0,0\r\n\"A,1\",1,2,3,4\r\n",
-         "000000000000000012 24/11/2026 0 0 0 0 0 0 0 0 0 0 0 0\n"
-         "A,1 24/11/2026 1 2 3 4 0 0 0 0 0 0 0 0\n"},
+         "000000000000000012|24/11/2026|0|0|0|0|0|0|0|0|0|0|0|0\n"
+         "A,1|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0"},
         {"a last digit of 0 means one level, whatever the first", "FilePLUSales", "7,1,2,3,4\r\n",
-         "7 24/11/2026 1 2 3 4 0 0 0 0 0 0 0 0\n", '\x90'},
-        {"two levels", "FilePLUSales", "7,1,2,3,4,5,6\r\n", "7 24/11/2026 1 2 3 4 5 6 0 0 0 0 0 0\n", '\x21'},
-        {"three levels", "FilePLUSales", "7,1,2,3,4,5,6,7,8\r\n", "7 24/11/2026 1 2 3 4 5 6 7 8 0 0 0 0\n",
+         "7|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0", '\x90'},
+        {"two levels", "FilePLUSales", "7,1,2,3,4,5,6\r\n", "7|24/11/2026|1|2|3|4|5|6|0|0|0|0|0|0", '\x21'},
+        {"three levels", "FilePLUSales", "7,1,2,3,4,5,6,7,8\r\n", "7|24/11/2026|1|2|3|4|5|6|7|8|0|0|0|0",
          '\x31'},
-        {"four levels", "FilePLUSales", "7,1,2,3,4,5,6,7,8,9,10\r\n",
-         "7 24/11/2026 1 2 3 4 5 6 7 8 9 10 0 0\n", '\x41'},
+        {"four levels", "FilePLUSales", "7,1,2,3,4,5,6,7,8,9,10\r\n", "7|24/11/2026|1|2|3|4|5|6|7|8|9|10|0|0",
+         '\x41'},
         {"no PLUs under a stamp without a layout", "FilePLUSales", "", "", '\x51'},
     };
     for (const ImportCase& c : cases)
@@ -122,12 +113,12 @@ TEST_F(PollImport, EndsAtABadRecordAndKeepsThoseAhead)
         {"\r\n3,4\r\n", 13, "record 2"},        {"3,\"4", 13, "record 2"},    {"3,1e999\r\n", 6, "record 2"},
     };
     for (const auto& [text, failure, told] : amounts) {
-        import({text, "FileFinSales", QByteArray("1,2\r\n") + text, "1 24/11/2026 1 2\n", '\x11', failure,
-                told});
+        import(
+            {text, "FileFinSales", QByteArray("1,2\r\n") + text, "1|24/11/2026|1|2", '\x11', failure, told});
     }
-    const std::string firstPlu = "7 24/11/2026 1 2 3 4 0 0 0 0 0 0 0 0\n";
+    const std::string firstPlu = "7|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0";
     const ImportCase others[] = {
-        {"comma too many", "FileFinSales", "1,2,\r\n3,4\r\n", "1 24/11/2026 1 2\n", '\x11', 13, "record 2"},
+        {"comma too many", "FileFinSales", "1,2,\r\n3,4\r\n", "1|24/11/2026|1|2", '\x11', 13, "record 2"},
         {"mix", "FilemixSales", "x", "", '\x11', 13, "poll218.txt, record 1"},
         {"short", "FilePLUSales", "7,1,2,3,4\r\n8,1", firstPlu, '\x11', 62, "poll194.txt, record 2"},
         {"without a code", "FilePLUSales", "7,1,2,3,4\r\n,1,2,3,4", firstPlu, '\x11', 13, "record 2"},
@@ -143,6 +134,7 @@ TEST_F(PollImport, AddsUpTheMonthsThatHaveEnded)
 {
     m_values.databasePath = m_folder.path("velmar.mdb");
     store::Database::create(m_values.databasePath, store::catalogue());
+    EXPECT_EQ(test::failureOf([this] { importDay({}); }), 53) << "no text yet";
     m_folder.write("POLL190.txt", "1,0.1\r\n1,0.2\r\n");
     // A clock that was set back adds to a month that had its totals already.
     const std::pair<QDate, const char*> days[] = {{{2025, 10, 31}, ""},
@@ -151,25 +143,23 @@ TEST_F(PollImport, AddsUpTheMonthsThatHaveEnded)
                                                   {{2026, 1, 31}, "2025-10"},
                                                   {{2026, 2, 2}, "2025-10 2026-01"}};
     for (const auto& [day, added] : days) {
+        importDay(day);
+        EXPECT_EQ(rows(u"select month from norvane_added_months_FINANCIALSALES"_s), added)
+            << day.toString().toStdString();
         store::Database database(m_values.databasePath);
-        importPollFile(pollFiles().front(), database, m_values, day);
-        auto months =
-            database.openQuery(u"select group_concat(month, ' ') from norvane_added_months_FINANCIALSALES"_s);
-        EXPECT_EQ(months.value(0).toText(), QLatin1StringView(added)) << day.toString().toStdString();
         const store::MonthTotals totals(database, u"FINANCIALSALES"_s);
-        auto sum = database.openQuery(u"select exact_sum(VALUE) from "_s +
-                                      totals.rows({{2025, 1, 1}, {2026, 12, 31}}));
-        auto rows = database.openQuery(u"select exact_sum(VALUE) from FINANCIALSALES"_s);
-        EXPECT_EQ(sum.value(0).toText(), rows.value(0).toText());
+        const QString sum = u"select exact_sum(VALUE) from "_s;
+        EXPECT_EQ(rows(sum + totals.rows({{2025, 1, 1}, {2026, 12, 31}})), rows(sum + u"FINANCIALSALES"_s));
     }
 }
 
-TEST_F(PollImport, NamesTheFileThatIsMissing)
+TEST_F(PollImport, TheStampIsTheFifthByteOfThePollFile)
 {
-    m_values.databasePath = m_folder.path("velmar.mdb");
-    store::Database::create(m_values.databasePath, store::catalogue());
-    store::Database database(m_values.databasePath);
-    EXPECT_EQ(test::failureOf([&] { importPollFile(pollFiles().front(), database, m_values, {}); }), 53);
+    EXPECT_EQ(ReadPoll194Stamp(m_values), u"20");
+    EXPECT_EQ(m_folder.read("poll194.dll"), "") << "made by the query, and empty";
+    m_folder.write("poll194.dll", "1234\x1Fz");
+    EXPECT_EQ(ReadPoll194Stamp(m_values), u"115");
+    EXPECT_EQ(m_folder.read("poll194.dll"), "1234\x1Fz");
 }
 
 } // namespace
