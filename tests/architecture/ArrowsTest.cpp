@@ -1,12 +1,7 @@
 // The arrows of docs/architecture.md, held against the tree as it is; and the checks themselves, over a small
 // tree in which each rule is broken.
-#include "tests/architecture/IncludeCheck.h"
-#include "tests/architecture/LinkCheck.h"
-
-#include <gtest/gtest.h>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/architecture/Rules.h"
+#include "tests/platform/TestFolder.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,15 +48,7 @@ TEST_F(TheTree, KeepsWidgetsToFormsAndArrowsDown)
 class PlantedTree : public testing::Test
 {
 protected:
-    void plant(const QString& file, const QByteArray& text)
-    {
-        const QString path = m_folder.filePath(file);
-        QDir().mkpath(folderOf(path));
-        QFile planted(path);
-        ASSERT_TRUE(planted.open(QIODevice::WriteOnly) && planted.write(text) == text.size());
-    }
-
-    [[nodiscard]] BuildMap map(const QString& more = {}) const
+    [[nodiscard]] static BuildMap map(const QString& root, const QString& more = {})
     {
         QString text =
             u"target STATIC_LIBRARY base ROOT/base\nSOURCES ROOT/base/Value.cpp\n"
@@ -70,75 +57,60 @@ protected:
             "target STATIC_LIBRARY top_forms ROOT/top\nSOURCES ROOT/top/Form.cpp\nLINK_LIBRARIES top\n"
             "LINK_LIBRARIES Qt6::Widgets\n"_s +
             more;
-        return {text.replace("ROOT"_L1, m_folder.path()), m_folder.path()};
+        return {text.replace("ROOT"_L1, root), root};
     }
-
-    std::string wrongIncludes(const QString& more = {}) const
+    /// What is told of a tree with these files.
+    static std::string wrongIncludes(std::initializer_list<std::pair<const char*, const char*>> files,
+                                     const QString& more = {})
     {
-        return sentences(checkIncludes(map(more), m_folder.path()).wrong);
+        const TestFolder folder;
+        for (const auto& [file, text] : files)
+            folder.write(file, text);
+        return sentences(checkIncludes(map(folder.path(), more), folder.path()).wrong);
     }
-
-    QTemporaryDir m_folder;
 };
 
 TEST_F(PlantedTree, LetsIncludesRunDown)
 {
-    plant(u"base/Value.cpp"_s, "#include \"base/Value.h\"\n#include <vector>\n");
-    plant(u"top/Plan.cpp"_s, "#include \"base/Value.h\"\n");
-    plant(u"top/Form.cpp"_s, "#include \"top/Plan.h\"\n#include \"base/Words.h\"\n");
-    EXPECT_EQ(wrongIncludes(), "");
+    EXPECT_EQ(wrongIncludes({{"base/Value.cpp", "#include \"base/Value.h\"\n#include <vector>\n"},
+                             {"top/Plan.cpp", "#include \"base/Value.h\"\n"},
+                             {"top/Form.cpp", "#include \"top/Plan.h\"\n#include \"base/Words.h\"\n"}}),
+              "");
 }
 
-struct Wrong {
-    const char* name;
-    const char* file;
-    const char* text;
-    const char* sentence;
-};
-
-class WrongIncludes : public PlantedTree, public testing::WithParamInterface<Wrong>
+TEST_F(PlantedTree, TellsWrongIncludesWithFileAndLine)
 {
-};
-
-TEST_P(WrongIncludes, AreToldWithFileAndLine)
-{
-    plant(QString::fromLatin1(GetParam().file), GetParam().text);
+    constexpr const char* rows[][3] = {
+        {"base/Value.cpp", "\n#include \"top/Plan.h\"\n",
+         "base/Value.cpp:2 includes top/Plan.h of top, which base does not link"},
+        // A header without a source is of the lowest library.
+        {"base/Words.h", "  #  include \"top/Words.h\"\n",
+         "base/Words.h:1 includes top/Words.h of top, which base does not link"},
+        {"top/Plan.cpp", "#include \"Form.h\"\n",
+         "top/Plan.cpp:1 includes top/Form.h of top_forms, which top does not link"},
+        {"tests/top/PlanTest.cpp", "#include \"tests/top/Shared.h\"\n",
+         "tests/top/Shared.h:2 includes top/Plan.h of top, which top_test does not link"},
+        {"top/Forgotten.cpp", "", "top/Forgotten.cpp belongs to no target"}};
     const QString test = u"target EXECUTABLE top_test ROOT/tests/top\nSOURCES ROOT/tests/top/PlanTest.cpp\n"
                          "LINK_LIBRARIES base\n"_s;
-    plant(u"tests/top/Shared.h"_s, "\n#include \"top/Plan.h\"\n");
-    EXPECT_EQ(wrongIncludes(test), GetParam().sentence);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Each, WrongIncludes,
-    testing::Values(Wrong{"Upwards", "base/Value.cpp", "\n#include \"top/Plan.h\"\n",
-                          "base/Value.cpp:2 includes top/Plan.h of top, which base does not link"},
-                    Wrong{"HeaderWithoutSourceIsOfTheLowestLibrary", "base/Words.h",
-                          "  #  include \"top/Words.h\"\n",
-                          "base/Words.h:1 includes top/Words.h of top, which base does not link"},
-                    Wrong{"LogicKnowsNoForm", "top/Plan.cpp", "#include \"Form.h\"\n",
-                          "top/Plan.cpp:1 includes top/Form.h of top_forms, which top does not link"},
-                    Wrong{"SharedHeaderOfTests", "tests/top/PlanTest.cpp",
-                          "#include \"tests/top/Shared.h\"\n",
-                          "tests/top/Shared.h:2 includes top/Plan.h of top, which top_test does not link"},
-                    Wrong{"OfNoTarget", "top/Forgotten.cpp", "", "top/Forgotten.cpp belongs to no target"}),
-    [](const auto& row) { return std::string(row.param.name); });
-
-TEST_F(PlantedTree, AsksForTheLibraryOfAHeaderThatSeveralCouldOwn)
-{
-    plant(u"base/Words.h"_s, "");
-    EXPECT_EQ(wrongIncludes(u"target STATIC_LIBRARY second ROOT/base\nSOURCES ROOT/base/Second.cpp\n"_s),
+    for (const auto& [file, text, told] : rows)
+        EXPECT_EQ(wrongIncludes({{file, text}, {"tests/top/Shared.h", "\n#include \"top/Plan.h\"\n"}}, test),
+                  told);
+    const QString second = u"target STATIC_LIBRARY second ROOT/base\nSOURCES ROOT/base/Second.cpp\n"_s;
+    EXPECT_EQ(wrongIncludes({{"base/Words.h", ""}}, second),
               "base/Words.h could belong to several libraries: list it in the SOURCES of one");
 }
 
 TEST_F(PlantedTree, NamesLinksThatBreakARule)
 {
-    EXPECT_EQ(misplacedWidgets(map()) + folderCycles(map()) + partialTools(map()), QStringList());
+    const QString root = u"/tree"_s;
+    const BuildMap sound = map(root);
+    EXPECT_EQ(misplacedWidgets(sound) + folderCycles(sound) + partialTools(sound), QStringList());
     const BuildMap broken =
-        map(u"target STATIC_LIBRARY low ROOT/base\nLINK_LIBRARIES top_forms\n"
-            "target EXECUTABLE tool ROOT/tools\nLINK_LIBRARIES base\n"
-            "target INTERFACE_LIBRARY paper ROOT/paper\nINTERFACE_LINK_LIBRARIES Qt6::Widgets\n"
-            "target STATIC_LIBRARY sheet ROOT/sheet\nLINK_LIBRARIES paper\n"_s);
+        map(root, u"target STATIC_LIBRARY low ROOT/base\nLINK_LIBRARIES top_forms\n"
+                  "target EXECUTABLE tool ROOT/tools\nLINK_LIBRARIES base\n"
+                  "target INTERFACE_LIBRARY paper ROOT/paper\nINTERFACE_LINK_LIBRARIES Qt6::Widgets\n"
+                  "target STATIC_LIBRARY sheet ROOT/sheet\nLINK_LIBRARIES paper\n"_s);
     EXPECT_EQ(folderCycles(broken), QStringList{u"base and top reach each other"_s});
     EXPECT_EQ(partialTools(broken), QStringList{u"tool"_s});
     EXPECT_EQ(misplacedWidgets(broken), QStringList{u"sheet"_s});
