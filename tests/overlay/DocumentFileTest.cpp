@@ -81,50 +81,35 @@ std::string described(const Cell& cell)
         .toStdString();
 }
 
-struct BadFile {
-    const char* name;
-    QByteArray content;
-    int failure;
-    const char* second; ///< what the second cell is afterwards
-};
-
-class BadFiles : public testing::TestWithParam<BadFile>
+TEST(DocumentFileTest, ABadFileFailsAndLeavesWhatWasReadBefore)
 {
-};
-
-TEST_P(BadFiles, FailAndLeaveWhatWasReadBefore)
-{
+    const QByteArray one = cellLines("1");
+    const struct {
+        const char* what;
+        QByteArray content;
+        int failure;
+        const char* second; ///< what the second cell is afterwards
+    } files[] = {
+        {"empty", "", 62, "|16777215,0|Arial 8 bold"},
+        {"cut off between lines", one + "2\r\n  255 \r\n", 62, "2|255,0|Arial 8 bold"},
+        {"cut off in a word", one + cellLines("2", "1,2,X,9,False,Tru").chopped(2), 13, "2|1,2|X 9"},
+        {"colour is none", one + cellLines("2", "red,0,X,9,False,True"), 13, "2|16777215,0|Arial 8 bold"},
+        {"colour is empty", one + cellLines("2", "1,,X,9,False,True"), 13, "2|1,0|Arial 8 bold"},
+        {"colour is too large", one + cellLines("2", "1,4294967296,X,9,False,True"), 6, "2|1,0|Arial 8 bold"},
+        {"highest bit", one + cellLines("2", "2147483653,0,X,-9,False,True"), 62,
+         "2|-2147483643,0|X -9 italic"},
+        {"size is none", one + cellLines("2", "1,2,X,large,False,True"), 13, "2|1,2|X 8 bold"},
+        {"size is too large", one + cellLines("2", "1,2,X,1e39,False,True"), 6, "2|1,2|X 8 bold"},
+        {"line is too long", one + QByteArray(200000, '\xFF'), 3163, "|16777215,0|Arial 8 bold"},
+        {"longest text", one + QByteArray(cellTextLimit, 'x') + "\r\n", 62, "32767|16777215,0|Arial 8 bold"}};
     const TestFolder folder;
-    folder.write("a.ky4", GetParam().content);
-    Document document(Keyboard::Quelmont);
-    EXPECT_EQ(failureOf([&] { readDocument(folder.path("a.ky4"), document); }), GetParam().failure);
-    EXPECT_EQ(described(document.cell(1)), GetParam().second);
+    for (const auto& [what, content, failure, second] : files) {
+        folder.write("a.ky4", content);
+        Document document(Keyboard::Quelmont);
+        EXPECT_EQ(failureOf([&] { readDocument(folder.path("a.ky4"), document); }), failure) << what;
+        EXPECT_EQ(described(document.cell(1)), second) << what;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Each, BadFiles,
-    testing::Values(
-        BadFile{"Empty", "", 62, "|16777215,0|Arial 8 bold"},
-        BadFile{"CutOffBetweenLines", cellLines("1") + "2\r\n  255 \r\n", 62, "2|255,0|Arial 8 bold"},
-        BadFile{"CutOffInAWord", cellLines("1") + cellLines("2", "1,2,X,9,False,Tru").chopped(2), 13,
-                "2|1,2|X 9"},
-        BadFile{"ColourIsNone", cellLines("1") + cellLines("2", "red,0,X,9,False,True"), 13,
-                "2|16777215,0|Arial 8 bold"},
-        BadFile{"ColourIsEmpty", cellLines("1") + cellLines("2", "1,,X,9,False,True"), 13,
-                "2|1,0|Arial 8 bold"},
-        BadFile{"ColourIsTooLarge", cellLines("1") + cellLines("2", "1,4294967296,X,9,False,True"), 6,
-                "2|1,0|Arial 8 bold"},
-        BadFile{"HighestBitIsSet", cellLines("1") + cellLines("2", "2147483653,0,X,-9,False,True"), 62,
-                "2|-2147483643,0|X -9 italic"},
-        BadFile{"SizeIsNone", cellLines("1") + cellLines("2", "1,2,X,large,False,True"), 13,
-                "2|1,2|X 8 bold"},
-        BadFile{"SizeIsTooLarge", cellLines("1") + cellLines("2", "1,2,X,1e39,False,True"), 6,
-                "2|1,2|X 8 bold"},
-        BadFile{"LineIsTooLong", cellLines("1") + QByteArray(200000, '\xFF'), 3163,
-                "|16777215,0|Arial 8 bold"},
-        BadFile{"LongestText", cellLines("1") + QByteArray(cellTextLimit, 'x') + "\r\n", 62,
-                "32767|16777215,0|Arial 8 bold"}),
-    [](const auto& row) { return row.param.name; });
 
 TEST(DocumentFileTest, SavesWholeOrLeavesTheOldFile)
 {
