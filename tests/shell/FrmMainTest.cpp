@@ -15,8 +15,6 @@
 #include <QTest>
 #include <QTimer>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::shell
 {
 namespace

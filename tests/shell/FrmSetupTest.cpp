@@ -10,8 +10,6 @@
 #include <QPushButton>
 #include <QTest>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::shell
 {
 namespace

@@ -3,7 +3,6 @@
 #include "shell/FrmMain.h"
 #include "shell/MainStatusBar.h"
 #include "shell/Openers.h"
-#include "store/Recordset.h"
 #include "tests/shell/ShellFixture.h"
 #include "ui/NumberBox.h"
 
@@ -16,8 +15,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTest>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::shell
 {
@@ -38,37 +35,29 @@ protected:
         makeCustomerDatabase();
         setModel("2");
         QFile::copy(QStringLiteral(DATA_DIR "/PLUVelmarv3.scn"), m_folder.path("app/PLUVelmarv3.scn"));
-        addPlu("1001', 'Lager', '2.5");
-        addPlu("1002', 'Cider', '3");
+        addPlu(u"1001', 'Lager', '2.5"_s);
+        addPlu(u"1002', 'Cider', '3"_s);
         m_main.emplace(m_values, m_boxes, makeOpeners(m_values, m_boxes));
         m_main->show();
         QApplication::setActiveWindow(&*m_main);
         EXPECT_TRUE(QTest::qWaitForWindowActive(&*m_main));
     }
 
-    void execute(const QByteArray& sql) const
-    {
-        store::Database(m_values.databasePath).execute(QString::fromUtf8(sql));
-    }
     /// Adds a PLU; all numbers that its screen shows are 0.
-    void addPlu(const QByteArray& numberNamePrice) const
+    void addPlu(const QString& numberNamePrice) const
     {
-        execute("insert into PLUDATA (PLUNUMBER, DESCRIPTION, PRICE1) values ('00000000000000" +
-                numberNamePrice + "')");
+        execute(u"insert into PLUDATA (PLUNUMBER, DESCRIPTION, PRICE1) values ('00000000000000%1')"_s.arg(
+            numberNamePrice));
         for (const auto& field : store::catalogueTable(u"PLUDATA"_s)->fields) {
             if (field.type == store::FieldType::Long)
-                execute("update PLUDATA set [" + field.name.toLatin1() + "] = 0");
+                execute(u"update PLUDATA set [%1] = 0"_s.arg(field.name));
         }
     }
     /// Names and first prices of the PLUs.
     [[nodiscard]] std::string plus() const
     {
-        store::Database database(m_values.databasePath);
-        QStringList all;
-        auto rows = database.openQuery(u"select DESCRIPTION, PRICE1 from PLUDATA order by PLUNUMBER"_s);
-        for (; !rows.atEnd(); rows.moveNext())
-            all += rows.value(0).toText() + u' ' + rows.value(1).toText();
-        return all.join(u'|').toStdString();
+        return test::rowsOf(m_values.databasePath,
+                            u"select DESCRIPTION & ' ' & PRICE1 from PLUDATA order by PLUNUMBER"_s, u"|");
     }
     /// Chooses an entry. @return the form of the child window that is in front then.
     QWidget& open(const char* entry)
@@ -107,6 +96,13 @@ protected:
         if (menu)
             menu->close();
         return name;
+    }
+
+    static void save(const QWidget& screen) { child<QPushButton>(screen, "SaveRecord").click(); }
+    void bringToFront(const QWidget& screen)
+    {
+        m_main->findChild<QMdiArea*>()->setActiveSubWindow(
+            qobject_cast<QMdiSubWindow*>(screen.parentWidget()));
     }
 
     std::optional<FrmMain> m_main;
@@ -192,25 +188,25 @@ TEST_F(ScreensInFrameTest, AnUntouchedScreenFollowsAPriceChangeAndATouchedOneAsk
     EXPECT_EQ(shown(touched, pluName), "Stout");
 
     m_boxes.shown.clear();
-    child<QPushButton>(touched, "SaveRecord").click();
+    save(touched);
     EXPECT_EQ(m_boxes.shown, std::vector{changed});
     EXPECT_EQ(plus(), "Lager 0.00|Cider 0.00");
     EXPECT_EQ(shown(touched, pluName), "Lager") << "read afresh";
-    child<QPushButton>(touched, "SaveRecord").click();
+    save(touched);
     EXPECT_EQ(m_boxes.shown.size(), 1U) << "nothing to ask any more";
 }
 
 TEST_F(ScreensInFrameTest, MineIsKeptOnlyOnDemand)
 {
     QWidget& first = open("PLUMENU");
-    execute("update PLUDATA set STOCKLINK = '77', PRICE1 = '9'");
+    execute(u"update PLUDATA set STOCKLINK = '77', PRICE1 = '9'"_s);
     type(first, firstPrice, "9");
-    child<QPushButton>(first, "SaveRecord").click();
+    save(first);
     EXPECT_EQ(m_boxes.shown.size(), 1U) << "the stock link would be lost";
     m_boxes.answers = {true};
     type(first, firstPrice, "4");
-    execute("update PLUDATA set PRICE1 = '8'");
-    child<QPushButton>(first, "SaveRecord").click();
+    execute(u"update PLUDATA set PRICE1 = '8'"_s);
+    save(first);
     EXPECT_EQ(plus(), "Lager 4|Cider 8");
     EXPECT_EQ(m_boxes.shown, (std::vector{changed, changed}));
 }
@@ -220,14 +216,14 @@ TEST_F(ScreensInFrameTest, AScreenReadsItsRecordAgainWhenItComesToTheFront)
     QWidget& first = open("PLUMENU");
     QWidget& second = open("PLUMENU");
     type(second, pluName, "Stout");
-    child<QPushButton>(second, "SaveRecord").click();
+    save(second);
     EXPECT_EQ(shown(first, pluName), "Lager");
-    m_main->findChild<QMdiArea*>()->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(first.parentWidget()));
+    bringToFront(first);
     EXPECT_EQ(shown(first, pluName), "Stout");
     // An upload makes all records anew.
-    execute("delete * from PLUDATA");
-    addPlu("1001', 'Porter', '3");
-    m_main->findChild<QMdiArea*>()->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(second.parentWidget()));
+    execute(u"delete * from PLUDATA"_s);
+    addPlu(u"1001', 'Porter', '3"_s);
+    bringToFront(second);
     EXPECT_EQ(shown(second, pluName), "Porter") << "the record with this number";
 }
 

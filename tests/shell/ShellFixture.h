@@ -4,12 +4,14 @@
 #include "base/ApplicationValues.h"
 #include "base/SharedRoutines.h"
 #include "store/Catalogue.h"
-#include "store/Database.h"
 #include "tests/platform/TestFolder.h"
+#include "tests/store/Rows.h"
 #include "tests/support/RecordingBoxes.h"
 
 namespace norvane::shell
 {
+
+using namespace Qt::Literals::StringLiterals;
 
 /// The program's folder is "app"; a test must find nothing new beside it.
 class ShellFixture : public testing::Test
@@ -21,7 +23,7 @@ protected:
         m_folder.write("app/velmar.mdb", "template");
         m_folder.write("app/Cafe/setup.ini", "[SetupOption]\r\nECRModel= 0\r\n");
         m_values.appPath = m_folder.path("app");
-        m_values.customerName = QLatin1StringView("Cafe");
+        m_values.customerName = u"Cafe"_s;
         m_values.customerPath = m_folder.path("app/Cafe");
         m_values.databasePath = m_folder.path("app/Cafe/velmar.mdb");
     }
@@ -32,6 +34,7 @@ protected:
         return *parent.findChild<Object*>(QLatin1String(name));
     }
     void makeCustomerDatabase() const { store::Database::create(m_values.databasePath, store::catalogue()); }
+    void execute(const QString& sql) const { test::execute(m_values.databasePath, sql); }
     void setModel(const QByteArray& model) const
     {
         m_folder.write("app/Cafe/setup.ini", "[SetupOption]\r\nECRModel=" + model + "\r\n");

@@ -16,8 +16,6 @@
 
 #include <deque>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::shell
 {
 namespace

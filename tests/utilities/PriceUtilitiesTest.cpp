@@ -3,15 +3,12 @@
 #include "platform/FolderLock.h"
 #include "shell/FrmMain.h"
 #include "shell/Openers.h"
-#include "store/Recordset.h"
 #include "tests/shell/ShellFixture.h"
 
 #include <QAction>
 #include <QMenuBar>
 #include <QTest>
 #include <QTimer>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::shell
 {
@@ -46,7 +43,6 @@ protected:
             boxes.append(box.title + u": "_s + box.text);
         return boxes;
     }
-    void execute(const QString& sql) const { store::Database(m_values.databasePath).execute(sql); }
     /// Adds a PLU; @p prices are its prices 1 to 5 and euro prices 1 to 5 as SQL values.
     void addPlu(int number, const QString& prices) const
     {
@@ -57,16 +53,8 @@ protected:
     /// The prices of each PLU with "|" between, two blanks between the PLUs.
     [[nodiscard]] std::string prices() const
     {
-        store::Database database(m_values.databasePath);
-        QStringList all;
-        auto plus = database.openQuery(u"select %1 from PLUDATA order by PLUNUMBER"_s.arg(priceFields));
-        for (; !plus.atEnd(); plus.moveNext()) {
-            QStringList one;
-            for (int i = 0; i < plus.fieldCount(); ++i)
-                one.append(plus.value(i).toText());
-            all.append(one.join(u'|'));
-        }
-        return all.join(u"  "_s).toStdString();
+        return test::rowsOf(m_values.databasePath,
+                            u"select %1 from PLUDATA order by PLUNUMBER"_s.arg(priceFields), u"  ");
     }
 
     /// The numbers of records, one digit for each table.
@@ -108,7 +96,7 @@ const struct {
     const char* prices;
 } steps[] = {
     {"Transfer1to2", "0.68", toEuroBoxes,
-     "1.00| 1.47|0.00|abc|-1.00|9.1|9.2|9.3|9.4|  3| 4.41|3|4|5|6|7|8|9|0"},
+     "1.00| 1.47|0.00|abc|-1.00|9.1|9.2|9.3|9.4|null  3| 4.41|3|4|5|6|7|8|9|0"},
     {"TransferEuro", "1,5", toEuroBoxes,
      "1.00| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1  3| 4.41|3|4|5| 3| 4.41| 3| 4| 5"},
     {"Transfer2to1", "", fromEuroBoxes,
