@@ -1,75 +1,77 @@
 // Databases that hold what no program of ours would leave there, and runs that are given up.
 #include "tests/reports/ReportShop.h"
-
-#include <gtest/gtest.h>
-#include <sqlite3.h>
+#include "tests/store/Elsewhere.h"
 
 namespace norvane::reports::test
 {
 namespace
 {
 
-/// Does to a database what another program could.
-void meddle(const ReportShop& shop, const char* sql)
+using norvane::test::runElsewhere;
+
+class BadInput : public testing::Test
 {
-    sqlite3* database = nullptr;
-    ASSERT_EQ(sqlite3_open(shop.path().toUtf8().constData(), &database), SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
-    sqlite3_close(database);
+protected:
+    [[nodiscard]] ReportRequest request(const char* layout) const
+    {
+        return shop.request(ReportShop::installed(layout));
+    }
+    /// Whether the report's error names @p part.
+    [[nodiscard]] static testing::AssertionResult tells(const ReportRequest& request, const char* part)
+    {
+        const std::string error = errorOf(request);
+        return error.find(part) == std::string::npos ? testing::AssertionFailure() << error
+                                                     : testing::AssertionSuccess();
+    }
+
+    ReportShop shop;
+};
+
+TEST_F(BadInput, ADatabaseThatLacksATableIsTold)
+{
+    runElsewhere(shop.path(), "delete from norvane_field where table_name = 'GROUPS'");
+    EXPECT_TRUE(tells(request("plusales.rpt"), "the database has no table GROUPS"));
+    EXPECT_EQ(errorOf(request("mixsales.rpt")), "");
 }
 
-TEST(BadInput, ADatabaseThatLacksATableIsTold)
+TEST_F(BadInput, ADamagedOrMissingDatabaseIsTold)
 {
-    const ReportShop shop;
-    meddle(shop, "delete from norvane_field where table_name = 'GROUPS'");
-    const auto request = shop.request(ReportShop::installed("plusales.rpt"));
-    EXPECT_NE(errorOf(request).find("the database has no table GROUPS"), std::string::npos)
-        << errorOf(request);
-    EXPECT_EQ(errorOf(shop.request(ReportShop::installed("mixsales.rpt"))), "");
-}
-
-TEST(BadInput, ADamagedOrMissingDatabaseIsTold)
-{
-    const ReportShop shop;
     QByteArray content = shop.folder().read("velmar.mdb");
     content.replace(8192, content.size() - 8192, QByteArray(content.size() - 8192, '\x5A'));
     shop.folder().write("velmar.mdb", content);
-    auto request = shop.request(ReportShop::installed("plusales.rpt"));
-    EXPECT_NE(errorOf(request).find("velmar.mdb"), std::string::npos);
-    request.dataFile += u".none"_s;
-    EXPECT_NE(errorOf(request).find("File not found"), std::string::npos);
+    auto sales = request("plusales.rpt");
+    EXPECT_TRUE(tells(sales, "velmar.mdb"));
+    sales.dataFile += u".none"_s;
+    EXPECT_TRUE(tells(sales, "File not found"));
 }
 
-TEST(BadInput, NullAndTextInNumbersCountAsZero)
+TEST_F(BadInput, NullAndTextInNumbersCountAsZero)
 {
-    const ReportShop shop;
-    meddle(shop, "drop table MIXSALES; create table MIXSALES (ID, SALESDATE, QUANTITY, VALUE);"
+    runElsewhere(shop.path(),
+                 "drop table MIXSALES; create table MIXSALES (ID, SALESDATE, QUANTITY, VALUE);"
                  "insert into MIXSALES values (1, '2026-11-25', null, 0), (1, '2026-11-25', 'three', 0),"
                  "(1, '2026-11-25', 150, 0), (null, '2026-11-25', 100, 0), (2, 'no day', 100, 0)");
-    const auto data = runReport(shop.request(ReportShop::installed("mixsales.rpt")));
+    const auto data = runReport(request("mixsales.rpt"));
     EXPECT_EQ(linesOf(data), "1|Offer 1|1.5\n2|Offer 2|1\n|Offer|1\n# |Total|3.5");
 }
 
-TEST(BadInput, ANumberTooLargeToShowIsTold)
+TEST_F(BadInput, ANumberTooLargeToShowIsTold)
 {
-    const ReportShop shop;
     shop.add("MIXSALES", "ID|SALESDATE|QUANTITY", {"1|2026-11-25|1e300"});
-    EXPECT_NE(errorOf(shop.request(ReportShop::installed("mixsales.rpt"))).find("18 digits"),
-              std::string::npos);
+    EXPECT_TRUE(tells(request("mixsales.rpt"), "18 digits"));
 }
 
-TEST(BadInput, ALongRunIsGivenUpWithoutAReport)
+TEST_F(BadInput, ALongRunIsGivenUpWithoutAReport)
 {
-    const ReportShop shop;
-    meddle(shop, "insert into MIXSALES (ID, SALESDATE, QUANTITY, VALUE) "
+    runElsewhere(shop.path(),
+                 "insert into MIXSALES (ID, SALESDATE, QUANTITY, VALUE) "
                  "with recursive n(i) as (select 1 union all select i + 1 from n where i < 1000000) "
                  "select i, '2026-11-25', 1, 0 from n");
     int asked = 0;
     const auto giveUp = [&asked] {
         return ++asked < 2;
     };
-    EXPECT_THROW((void)runReport(shop.request(ReportShop::installed("mixsales.rpt")), giveUp),
-                 ReportCancelled);
+    EXPECT_THROW((void)runReport(request("mixsales.rpt"), giveUp), ReportCancelled);
     EXPECT_EQ(asked, 2);
 }
 

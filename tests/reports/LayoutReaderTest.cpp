@@ -1,8 +1,6 @@
 // Layout files with mistakes, and what is told of them.
 #include "tests/reports/ReportShop.h"
 
-#include <gtest/gtest.h>
-
 namespace norvane::reports::test
 {
 namespace

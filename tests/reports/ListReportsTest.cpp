@@ -1,8 +1,6 @@
 // The lists that screens print, and what a dealer's own layout can say.
 #include "tests/reports/ReportShop.h"
 
-#include <gtest/gtest.h>
-
 namespace norvane::reports::test
 {
 namespace

@@ -7,7 +7,6 @@
 #include "tests/support/OtherPrograms.h"
 #include "tests/reports/SampleReport.h"
 
-#include <gtest/gtest.h>
 #include <QLocale>
 #include <QXmlStreamReader>
 
@@ -127,61 +126,38 @@ TEST_F(ReportFiles, SpellCsvAsTheUsersSpreadsheetReadsIt)
                                                     "2;\"5\"\" pipe; long,  \";;-0,01\r\n");
 }
 
-struct Writer {
-    const char* name;
-    void (*write)(const ReportData&, const QString&, const KeepGoing&);
-};
+const std::function<void(const ReportData&, const QString&, const KeepGoing&)> writers[] = {
+    [](const ReportData& report, const QString& path, const KeepGoing& keepGoing) {
+        writePdf(report, true, path, keepGoing);
+    },
+    writeCsv, writeXlsx};
 
-class EachFile : public testing::TestWithParam<Writer>
+TEST_F(ReportFiles, LeaveTheFormerOneWhenTheyCannotBeWrittenOrTheUserGivesUp)
 {
-protected:
-    [[nodiscard]] QString errorOf(const QString& path) const
-    {
-        ReportData report = emptySales();
-        addGroup(report, u"Coffee"_s, 2000);
-        try {
-            GetParam().write(report, path, {});
-        } catch (const ReportError& error) {
-            return error.text();
-        }
-        return {};
-    }
-};
-
-TEST_P(EachFile, LeavesTheFormerOneWhenItCannotBeWritten)
-{
-    const TestFolder folder;
-    folder.write("a", "former");
-    {
-        const FullDisk disk(8000);
-        EXPECT_TRUE(errorOf(folder.path("a")).startsWith(folder.path("a") + u" could not be written: "_s));
-    }
-    EXPECT_EQ(folder.names(), QStringList(u"a"_s));
-    EXPECT_EQ(folder.read("a"), "former");
-    EXPECT_NE(errorOf(folder.path("missing/a")), QString());
-}
-
-TEST_P(EachFile, LeavesTheFormerOneWhenTheUserGivesUp)
-{
-    const TestFolder folder;
-    folder.write("a", "former");
     ReportData report = emptySales();
-    addGroup(report, u"Coffee"_s, 200);
-    int asked = 0;
-    EXPECT_THROW(GetParam().write(report, folder.path("a"), [&asked] { return ++asked < 3; }),
-                 ReportCancelled);
-    EXPECT_EQ(folder.names(), QStringList(u"a"_s));
-    EXPECT_EQ(folder.read("a"), "former");
+    addGroup(report, u"Coffee"_s, 2000);
+    const QString path = m_folder.path("a");
+    m_folder.write("a", "former");
+    for (const auto& write : writers) {
+        const auto errorOf = [&](const QString& target) {
+            try {
+                write(report, target, {});
+            } catch (const ReportError& error) {
+                return error.text();
+            }
+            return QString();
+        };
+        {
+            const FullDisk disk(8000);
+            EXPECT_TRUE(errorOf(path).startsWith(path + u" could not be written: "_s));
+        }
+        EXPECT_NE(errorOf(m_folder.path("missing/a")), QString());
+        int asked = 0;
+        EXPECT_THROW(write(report, path, [&asked] { return ++asked < 3; }), ReportCancelled);
+        EXPECT_EQ(m_folder.names(), QStringList(u"a"_s));
+        EXPECT_EQ(m_folder.read("a"), "former");
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Each, EachFile,
-                         testing::Values(Writer{"Pdf",
-                                                [](const ReportData& report, const QString& path,
-                                                   const KeepGoing& keepGoing) {
-                                                    writePdf(report, true, path, keepGoing);
-                                                }},
-                                         Writer{"Csv", writeCsv}, Writer{"Xlsx", writeXlsx}),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 } // namespace
 } // namespace norvane::test

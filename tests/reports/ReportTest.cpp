@@ -65,26 +65,6 @@ protected:
     };
 };
 
-TEST_F(ReportTest, HandsOnWhatWasSetAtTheMomentOfTheRun)
-{
-    Report report(m_main, m_boxes, m_runner);
-    report.setReportFile(u"plusales.rpt"_s);
-    report.setDataFile(0, u"velmar.mdb"_s);
-    report.setDataFile(1, u"other.mdb"_s);
-    report.setReportTitle(u"PLU Sales"_s);
-    report.setCustomer(u"Corner Shop"_s);
-    report.setSelectionFormula(u"former"_s);
-    report.setSelectionFormula(u"latter"_s);
-    report.run();
-    const ReportRequest& request = m_requests.at(0);
-    EXPECT_EQ(
-        (QStringList{request.reportFile, request.dataFile, request.reportTitle, request.windowTitle,
-                     request.selectionFormula, request.customer}),
-        (QStringList{u"plusales.rpt"_s, u"velmar.mdb"_s, u"PLU Sales"_s, {}, u"latter"_s, u"Corner Shop"_s}));
-    EXPECT_LT(qAbs(request.now.secsTo(QDateTime::currentDateTime())), 60);
-    EXPECT_EQ(previews().at(0)->windowTitle(), u"PLU Sales"_s);
-}
-
 // The form is modal, as the report dialog is.
 TEST_F(ReportTest, OpensPreviewsThatCanBeUsedOverAModalFormAndOutliveIt)
 {

@@ -1,8 +1,6 @@
 // Formulas over rows of a real database: which rows they find, and where a mistake is told.
 #include "tests/reports/ReportShop.h"
 
-#include <gtest/gtest.h>
-
 namespace norvane::reports::test
 {
 namespace
