@@ -4,12 +4,9 @@
 
 #include "base/SharedRoutines.h"
 #include "platform/FilePaths.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "tests/store/Rows.h"
 #include "tests/support/ProgramFolder.h"
 #include "tests/support/RecordingBoxes.h"
-
-#include <gtest/gtest.h>
 
 #include <set>
 
@@ -62,10 +59,9 @@ public:
         return boxes.shown == std::vector{test::ShownBox{QLatin1String(text), u"Communication result"_s}};
     }
 
-    [[nodiscard]] qint64 renamedGroups() const
+    [[nodiscard]] std::string firstGroup() const
     {
-        store::Database database(values.databasePath);
-        return database.openQuery(u"select * from GROUPS where DESCRIPTION='Renamed'"_s).recordCount();
+        return test::rowsOf(values.databasePath, u"select DESCRIPTION from GROUPS where GROUPNO=1"_s);
     }
 
     test::ProgramFolder folder;
@@ -263,8 +259,7 @@ TEST(ExchangeRunner, AsksBeforeItUsesWhatAFailedToolLeft)
     const QByteArray groups = readWholeFile(shop.made(1));
     for (const auto& [move, fault, told] : doubts) {
         SCOPED_TRACE(fault);
-        store::Database(shop.values.databasePath)
-            .execute(u"update GROUPS set DESCRIPTION='Renamed' where GROUPNO=1"_s);
+        test::execute(shop.values.databasePath, u"update GROUPS set DESCRIPTION='Mine' where GROUPNO=1"_s);
         shop.folder.setFaults(QByteArray("[Doubt]\n") + fault + '\n');
         shop.boxes.answers.clear();
         (shop.*move)({2});
@@ -274,13 +269,13 @@ TEST(ExchangeRunner, AsksBeforeItUsesWhatAFailedToolLeft)
             << asked.text.toStdString();
         EXPECT_EQ(asked, (test::ShownBox{asked.text, u"Please Check"_s, BoxIcon::Question, BoxAnswer::No}));
         EXPECT_EQ(shop.ticks.ticked, std::set<int>{2});
-        EXPECT_EQ(shop.renamedGroups(), 1) << "nothing was imported";
+        EXPECT_EQ(shop.firstGroup(), "Mine") << "nothing was imported";
 
         shop.folder.setFaults(QByteArray("[Doubt]\n") + fault + '\n');
         shop.boxes.answers.assign(5, true);
         (shop.*move)({2});
         EXPECT_TRUE(shop.ticks.ticked.empty()) << "Yes goes on";
-        EXPECT_EQ(shop.renamedGroups(), move == &Exchange::upload ? 0 : 1);
+        EXPECT_EQ(shop.firstGroup() == "Mine", move == &Exchange::download);
         shop.folder.setFaults("");
         writeWholeFile(shop.folder.registerFile(1, 1), groups);
     }
@@ -335,6 +330,7 @@ TEST(ExchangeRunner, KeepsWhatItSendsAlsoWhenARegisterRefusesIt)
     shop.download({2});
     EXPECT_TRUE(shop.showsOnly("Communications Error 8"));
     EXPECT_EQ(readWholeFile(shop.kept(1)), sent);
+    EXPECT_EQ(shop.ticks.ticked, std::set<int>{2});
 }
 
 } // namespace

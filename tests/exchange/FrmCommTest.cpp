@@ -35,6 +35,10 @@ protected:
     {
         return *form.findChild<QCheckBox*>(u"check1_%1"_s.arg(index));
     }
+    [[nodiscard]] QString kept(int file) const
+    {
+        return joinPath(values.customerPath, u"%1.dat"_s.arg(file));
+    }
     void upload() { press("Communicate"); }
     void expectCall(const Call& call)
     {
@@ -76,8 +80,7 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndAsksBeforeTheFormerResultCounts)
     box(11).click();
     upload();
     EXPECT_EQ(status(), "");
-    const QString kept = joinPath(values.customerPath, u"43.dat"_s);
-    const QByteArray bytes = readWholeFile(kept);
+    const QByteArray bytes = readWholeFile(kept(43));
     EXPECT_TRUE(QFile::remove(existingPath(folder.appFile(u"43.dat"_s))));
     folder.removeTool("VELMARCOMM");
     box(11).click();
@@ -92,7 +95,7 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndAsksBeforeTheFormerResultCounts)
     boxes.answers.assign(20, true);
     upload();
     EXPECT_EQ(status(), "The program VELMARCOMM was not found.");
-    EXPECT_EQ(readWholeFile(kept), bytes) << "the only copy stays when nothing came";
+    EXPECT_EQ(readWholeFile(kept(43)), bytes) << "the only copy stays when nothing came";
     EXPECT_FALSE(box(11).isChecked());
 }
 
@@ -103,7 +106,7 @@ TEST_F(FrmCommTest, EndsTheFileInWorkWhenLeftInTheMidst)
     upload();
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(store::Database(values.databasePath).openTable(u"memoryallocation"_s).recordCount(), 1);
-    EXPECT_FALSE(pathExists(joinPath(values.customerPath, u"1.dat"_s)));
+    EXPECT_FALSE(pathExists(kept(1)));
 }
 
 TEST_F(FrmCommTest, StartsNothingWhileAnotherRunHoldsTheFolder)
@@ -138,6 +141,7 @@ TEST_F(FrmCommTest, TellsAtTheNextOpeningWhatAnExchangeLeft)
         upload();
         const auto thrown = test::takeFailure();
         EXPECT_EQ(thrown ? thrown->number() : 0, failure);
+        EXPECT_TRUE(pathExists(kept(8)) && !pathExists(kept(10))) << "of the box in work, what came stays";
         reopen();
         ASSERT_EQ(boxes.shown.size(), 1U) << fault;
         EXPECT_EQ(boxes.shown[0].title, u"Please Check");
@@ -154,17 +158,16 @@ TEST_F(FrmCommTest, TellsAtTheNextOpeningWhatAnExchangeLeft)
 
 TEST_F(FrmCommTest, KeepsTheFormerCopyOfAFileThatComesEmpty)
 {
-    const QString kept = joinPath(values.customerPath, u"43.dat"_s);
     QByteArray former;
     for (const char* fault : {"", "[Cut]\nFile=43\nBytesLeft=0\n", "[Cut]\nFile=43\nBytesLeft=0\n"}) {
-        former = former.isEmpty() && pathExists(kept) ? readWholeFile(kept) : former;
         folder.setFaults(fault);
         box(11).setChecked(true);
         upload();
+        former = former.isEmpty() ? readWholeFile(kept(43)) : former;
     }
     EXPECT_FALSE(former.isEmpty());
-    EXPECT_EQ(readWholeFile(kept), QByteArray());
-    EXPECT_EQ(readWholeFile(kept + u".former"_s), former);
+    EXPECT_EQ(readWholeFile(kept(43)), QByteArray());
+    EXPECT_EQ(readWholeFile(kept(43) + u".former"_s), former);
 }
 
 TEST_F(FrmCommTest, DialsExchangesAndHangsUp)
