@@ -50,17 +50,6 @@ TEST(Numbers, WholeNumbersTakeHalvesToTheEvenNeighbourAndKeepToTheirRange)
     EXPECT_EQ(failureOf([] { (void)toWholeNumber(u"-2147483649"); }), 6);
 }
 
-TEST(Numbers, BooleansAreWordsOrNumbers)
-{
-    const std::pair<const char16_t*, bool> rows[] = {{u"True", true}, {u" tRUE ", true}, {u"-1", true},
-                                                     {u"0.2", true},  {u"False", false}, {u"fALSE", false},
-                                                     {u"0.0", false}};
-    for (const auto& [text, isTrue] : rows)
-        EXPECT_EQ(toBoolean(text), isTrue) << QString::fromUtf16(text).toStdString();
-    for (const auto* text : {u"", u"yes", u"True1"})
-        EXPECT_EQ(failureOf([text] { (void)toBoolean(text); }), 13) << QString::fromUtf16(text).toStdString();
-}
-
 TEST(Numbers, PatternsFormatInExactDecimal)
 {
     constexpr const char16_t* rows[][3] = {

@@ -4,8 +4,6 @@
 #include "store/Catalogue.h"
 #include "tests/records/Shop.h"
 
-#include <gtest/gtest.h>
-
 #include <map>
 #include <set>
 
@@ -151,42 +149,25 @@ Fault fieldFault(const RegisterFile& file, const std::string& name)
     return {QByteArray(field.size + 1, 'y'), isOnlySought ? 0 : tooLong};
 }
 
-template <typename Form>
-Fault faultOf(const RegisterFile& file, const Form& column)
+Fault faultOf(const RegisterFile& file, const Column& column)
 {
-    return fieldFault(file, column.field);
-}
-
-Fault faultOf(const RegisterFile& file, const NumberColumn& column)
-{
-    return column.firstCharacter ? Fault{"1x"} : fieldFault(file, column.readField);
-}
-
-Fault faultOf(const RegisterFile& /*file*/, const ScaledColumn& column)
-{
-    return {"1x", column.leading ? 0 : mismatch};
-}
-
-Fault faultOf(const RegisterFile& file, const OptionsColumn& column)
-{
-    if (!column.numberField.empty())
-        return fieldFault(file, column.numberField);
-    return {"4x", column.firstCharacter ? 0 : mismatch};
-}
-
-Fault faultOf(const RegisterFile& /*file*/, const HexByteColumn& /*column*/)
-{
-    return {"1x", mismatch};
-}
-
-Fault faultOf(const RegisterFile& /*file*/, const SymbolColumn& /*column*/)
-{
-    return {"xx"};
-}
-
-Fault faultOf(const RegisterFile& /*file*/, const SpareColumn& /*column*/)
-{
-    return {"xx"};
+    const auto look = [&file]<typename Form>(const Form& form) -> Fault {
+        if constexpr (std::is_same_v<Form, NumberColumn>) {
+            return form.firstCharacter ? Fault{"1x"} : fieldFault(file, form.readField);
+        } else if constexpr (std::is_same_v<Form, ScaledColumn>) {
+            return {"1x", form.leading ? 0 : mismatch};
+        } else if constexpr (std::is_same_v<Form, OptionsColumn>) {
+            return form.numberField.empty() ? Fault{"4x", form.firstCharacter ? 0 : mismatch}
+                                            : fieldFault(file, form.numberField);
+        } else if constexpr (std::is_same_v<Form, HexByteColumn>) {
+            return {"1x", mismatch};
+        } else if constexpr (std::is_same_v<Form, SymbolColumn> || std::is_same_v<Form, SpareColumn>) {
+            return {"xx"};
+        } else {
+            return fieldFault(file, form.field);
+        }
+    };
+    return std::visit(look, column);
 }
 
 TEST(BadInputTest, QuotesNoMoreOfALongColumnThanABoxCanShow)
@@ -225,8 +206,7 @@ TEST(BadInputTest, NamesEachColumnThatItRefuses)
             const int line = set.records.empty() ? 1 : set.records.front();
             const auto columns = columnsRead(set);
             for (std::size_t column = 0; column < columns.size(); ++column) {
-                const Fault fault =
-                    std::visit([&file](const auto& form) { return faultOf(file, form); }, columns[column]);
+                const Fault fault = faultOf(file, columns[column]);
                 QByteArrayList bad = usualLine(set, "40");
                 bad[static_cast<qsizetype>(column)] = fault.text;
                 std::string place;

@@ -3,8 +3,6 @@
 #include "records/RegisterFiles.h"
 #include "tests/records/Shop.h"
 
-#include <gtest/gtest.h>
-
 #include <map>
 
 namespace norvane::records
