@@ -3,8 +3,6 @@
 #include "tests/architecture/Rules.h"
 #include "tests/platform/TestFolder.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::test
 {
 
@@ -78,22 +76,23 @@ TEST_F(PlantedTree, LetsIncludesRunDown)
               "");
 }
 
+constexpr const char* wrongIncludesTold[][3] = {
+    {"base/Value.cpp", "\n#include \"top/Plan.h\"\n",
+     "base/Value.cpp:2 includes top/Plan.h of top, which base does not link"},
+    // A header without a source is of the lowest library.
+    {"base/Words.h", "  #  include \"top/Words.h\"\n",
+     "base/Words.h:1 includes top/Words.h of top, which base does not link"},
+    {"top/Plan.cpp", "#include \"Form.h\"\n",
+     "top/Plan.cpp:1 includes top/Form.h of top_forms, which top does not link"},
+    {"tests/top/PlanTest.cpp", "#include \"tests/top/Shared.h\"\n",
+     "tests/top/Shared.h:2 includes top/Plan.h of top, which top_test does not link"},
+    {"top/Forgotten.cpp", "", "top/Forgotten.cpp belongs to no target"}};
+
 TEST_F(PlantedTree, TellsWrongIncludesWithFileAndLine)
 {
-    constexpr const char* rows[][3] = {
-        {"base/Value.cpp", "\n#include \"top/Plan.h\"\n",
-         "base/Value.cpp:2 includes top/Plan.h of top, which base does not link"},
-        // A header without a source is of the lowest library.
-        {"base/Words.h", "  #  include \"top/Words.h\"\n",
-         "base/Words.h:1 includes top/Words.h of top, which base does not link"},
-        {"top/Plan.cpp", "#include \"Form.h\"\n",
-         "top/Plan.cpp:1 includes top/Form.h of top_forms, which top does not link"},
-        {"tests/top/PlanTest.cpp", "#include \"tests/top/Shared.h\"\n",
-         "tests/top/Shared.h:2 includes top/Plan.h of top, which top_test does not link"},
-        {"top/Forgotten.cpp", "", "top/Forgotten.cpp belongs to no target"}};
     const QString test = u"target EXECUTABLE top_test ROOT/tests/top\nSOURCES ROOT/tests/top/PlanTest.cpp\n"
                          "LINK_LIBRARIES base\n"_s;
-    for (const auto& [file, text, told] : rows)
+    for (const auto& [file, text, told] : wrongIncludesTold)
         EXPECT_EQ(wrongIncludes({{file, text}, {"tests/top/Shared.h", "\n#include \"top/Plan.h\"\n"}}, test),
                   told);
     const QString second = u"target STATIC_LIBRARY second ROOT/base\nSOURCES ROOT/base/Second.cpp\n"_s;

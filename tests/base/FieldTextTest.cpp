@@ -3,8 +3,6 @@
 
 #include "tests/platform/TestFolder.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane
 {
 namespace

@@ -3,8 +3,6 @@
 
 #include "tests/shell/ShellFixture.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::customers
 {
 namespace

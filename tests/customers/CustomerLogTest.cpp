@@ -5,8 +5,6 @@
 
 #include <QRegularExpression>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::customers
 {
 namespace

@@ -6,8 +6,6 @@
 #include "tests/platform/FullDisk.h"
 #include "tests/shell/ShellFixture.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::customers
 {
 namespace

@@ -31,7 +31,6 @@ namespace norvane::screens
 namespace
 {
 
-using namespace Qt::Literals::StringLiterals;
 using store::FieldDefinition;
 using store::FieldType;
 using store::TableDefinition;
@@ -70,7 +69,11 @@ const QString& filledDatabase()
 class ScreenFile : public testing::TestWithParam<std::string>
 {
 protected:
-    ScreenFile() { ui::applyAppearance(static_cast<QApplication&>(*QCoreApplication::instance())); }
+    ScreenFile()
+    {
+        ui::applyAppearance(static_cast<QApplication&>(*QCoreApplication::instance()));
+        m_values.databasePath = filledDatabase();
+    }
 
     static void complain(const QString& about, const QString& text)
     {
@@ -92,6 +95,8 @@ protected:
     const ScreenReader m_screen{m_path};
     const QVector<ControlDefinition> m_fields = m_screen.controls();
     const TableDefinition* m_table = store::catalogueTable(m_screen.table().table);
+    ApplicationValues m_values;
+    test::RecordingBoxes m_boxes;
 };
 
 TEST_P(ScreenFile, IsReadWhole)
@@ -230,10 +235,7 @@ void ScreenFile::checkWidth(const QWidget& control)
 
 TEST_P(ScreenFile, MakesAFormThatCanBeRead)
 {
-    ApplicationValues values;
-    values.databasePath = filledDatabase();
-    test::RecordingBoxes boxes;
-    OptionForm form(m_path, values, boxes);
+    OptionForm form(m_path, m_values, m_boxes);
     form.show();
     QApplication::processEvents();
     auto& panel = *form.findChild<FieldPanel*>();
@@ -280,13 +282,10 @@ void ScreenFile::checkOrder(const QVector<QWidget*>& order)
 
 TEST_P(ScreenFile, FitsOrScrollsOnTheSmallestDesktop)
 {
-    ApplicationValues values;
-    values.databasePath = filledDatabase();
-    test::RecordingBoxes boxes;
-    shell::FrmMain main(values, boxes, {});
+    shell::FrmMain main(m_values, m_boxes, {});
     main.resize(1024, 738);
     main.show();
-    auto* const form = new OptionForm(m_path, values, boxes);
+    auto* const form = new OptionForm(m_path, m_values, m_boxes);
     const auto& child = main.showChild(form);
     QApplication::processEvents();
     EXPECT_TRUE(child.parentWidget()->rect().contains(child.geometry()));

@@ -10,8 +10,6 @@
 
 #include <set>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::exchange
 {
 namespace

@@ -10,8 +10,6 @@
 
 #include <QCheckBox>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::exchange
 {
 namespace

@@ -3,8 +3,6 @@
 
 #include "tests/records/Shop.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::exchange
 {
 namespace

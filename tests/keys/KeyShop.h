@@ -14,7 +14,6 @@
 namespace norvane::keys::test
 {
 
-using namespace Qt::Literals::StringLiterals;
 using norvane::test::failureOf;
 
 using FieldValue = std::pair<const char*, store::Value>;

@@ -4,8 +4,6 @@
 #include "platform/FilePaths.h"
 #include "tests/platform/TestFolder.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::link
 {
 namespace

@@ -4,7 +4,6 @@
 #include "tests/platform/TestFolder.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <gtest/gtest.h>
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -12,7 +11,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace norvane::link

@@ -4,14 +4,10 @@
 #include "overlay/CellOrder.h"
 #include "tests/platform/TestFolder.h"
 
-#include <gtest/gtest.h>
-
 namespace norvane::overlay
 {
 namespace
 {
-
-using namespace Qt::Literals::StringLiterals;
 
 constexpr Colour blue{16711680};
 constexpr Colour yellow{65535};

@@ -5,8 +5,6 @@
 #include "tests/platform/FullDisk.h"
 #include "tests/platform/TestFolder.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::test
 {
 namespace

@@ -5,14 +5,11 @@
 #include "store/Catalogue.h"
 #include "tests/store/StoreFolder.h"
 
-#include <gtest/gtest.h>
-
 namespace norvane::overlay
 {
 namespace
 {
 
-using namespace Qt::Literals::StringLiterals;
 using store::Value;
 using store::test::add;
 using store::test::text;

@@ -7,8 +7,6 @@
 
 #include <QPdfWriter>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::test
 {
 namespace

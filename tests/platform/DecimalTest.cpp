@@ -26,9 +26,8 @@ TEST(Decimal, TextsComeBackPlain)
         ASSERT_TRUE(number) << text;
         EXPECT_EQ(number->text(), plain) << text;
     }
-    for (const char* text : {"", " ", "12abc", "1 2", ".", "1,5", "1.2.3"}) {
+    for (const char* text : {"", " ", "12abc", "1 2", ".", "1,5", "1.2.3"})
         EXPECT_FALSE(Decimal::parse(text)) << text;
-    }
 }
 
 TEST(Decimal, MovesThePointAndRoundsHalvesAwayFromZero)
@@ -40,9 +39,8 @@ TEST(Decimal, MovesThePointAndRoundsHalvesAwayFromZero)
     } rows[] = {{"12.34", 2, 1234}, {"1.005", 2, 101}, {"-1.005", 2, -101}, {"0.285", 2, 29},
                 {"1234", -2, 12},   {"1250", -2, 13},  {"-1250", -2, -13},  {"12", 3, 12000},
                 {"0.4999", 0, 0},   {"5e-19", 0, 0},   {"0.5", 0, 1}};
-    for (const auto& row : rows) {
+    for (const auto& row : rows)
         EXPECT_EQ(Decimal::parse(row.number)->shifted(row.shift).toWhole(), row.whole) << row.number;
-    }
 }
 
 TEST(Decimal, PricesSurviveTheWayThroughTheNearestBinaryNumber)

@@ -7,8 +7,6 @@
 #include <QProcess>
 #include <QSysInfo>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane
 {
 namespace

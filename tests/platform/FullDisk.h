@@ -1,9 +1,6 @@
 // A disk that has just filled up, for the files that a test writes.
 #pragma once
 
-#include <QtGlobal>
-
-#ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
 
@@ -34,4 +31,3 @@ private:
 };
 
 } // namespace norvane::test
-#endif

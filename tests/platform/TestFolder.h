@@ -9,6 +9,12 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+/// The texts of all tests.
+namespace norvane
+{
+using namespace Qt::Literals::StringLiterals;
+}
+
 namespace norvane::test
 {
 

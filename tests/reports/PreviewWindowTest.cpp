@@ -2,12 +2,11 @@
 #include "reports/PreviewWindow.h"
 
 #include "tests/platform/TestFolder.h"
-#include "tests/support/OtherPrograms.h"
 #include "tests/reports/SampleReport.h"
 #include "tests/support/FormTest.h"
+#include "tests/support/OtherPrograms.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <gtest/gtest.h>
 #include <QAbstractScrollArea>
 #include <QAction>
 #include <QApplication>

@@ -4,10 +4,9 @@
 #include "reports/Printing.h"
 #include "reports/ReportRun.h"
 #include "tests/platform/TestFolder.h"
-#include "tests/support/OtherPrograms.h"
 #include "tests/reports/SampleReport.h"
+#include "tests/support/OtherPrograms.h"
 
-#include <gtest/gtest.h>
 #include <QPrinter>
 #include <QStandardPaths>
 #include <QtTest>

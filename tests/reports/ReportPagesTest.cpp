@@ -3,10 +3,8 @@
 
 #include "reports/ReportFiles.h"
 #include "tests/platform/TestFolder.h"
-#include "tests/support/OtherPrograms.h"
 #include "tests/reports/SampleReport.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/OtherPrograms.h"
 
 namespace norvane::test
 {

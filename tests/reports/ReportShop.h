@@ -16,8 +16,6 @@
 namespace norvane::reports::test
 {
 
-using namespace Qt::Literals::StringLiterals;
-
 class ReportShop
 {
 public:

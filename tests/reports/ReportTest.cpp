@@ -4,11 +4,10 @@
 #include "platform/RuntimeFailure.h"
 #include "reports/PreviewWindow.h"
 #include "tests/platform/TestFolder.h"
-#include "tests/support/OtherPrograms.h"
 #include "tests/reports/SampleReport.h"
+#include "tests/support/OtherPrograms.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <gtest/gtest.h>
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
@@ -26,7 +25,7 @@ namespace
 
 using namespace reports;
 
-ReportData drinks(const ReportRequest& request)
+ReportData drinks(const ReportRequest& request, const KeepGoing& /*goesOn*/)
 {
     ReportData report = emptySales();
     report.heading.windowTitle = request.windowTitle.isEmpty() ? request.reportTitle : request.windowTitle;
@@ -58,11 +57,6 @@ class ReportTest : public testing::Test
 protected:
     QMainWindow m_main;
     RecordingBoxes m_boxes;
-    std::vector<ReportRequest> m_requests;
-    Runner m_runner = [this](const ReportRequest& request, const KeepGoing&) {
-        m_requests.push_back(request);
-        return drinks(request);
-    };
 };
 
 // The form is modal, as the report dialog is.
@@ -71,7 +65,7 @@ TEST_F(ReportTest, OpensPreviewsThatCanBeUsedOverAModalFormAndOutliveIt)
     m_main.show();
     {
         QDialog form(&m_main);
-        Report report(form, m_boxes, m_runner);
+        Report report(form, m_boxes, drinks);
         QTimer::singleShot(0, &form, [&] {
             report.run();
             report.run();
@@ -91,7 +85,7 @@ TEST_F(ReportTest, OpensPreviewsThatCanBeUsedOverAModalFormAndOutliveIt)
 TEST_F(ReportTest, PrintsStraightOrSaysThatThereIsNoPrinter)
 {
     const TestFolder folder;
-    Report report(m_main, m_boxes, m_runner);
+    Report report(m_main, m_boxes, drinks);
     report.setDestination(Destination::Printer);
     report.setPrinterFinder([] { return nullptr; });
     report.run();
@@ -108,24 +102,20 @@ TEST_F(ReportTest, PrintsStraightOrSaysThatThereIsNoPrinter)
     EXPECT_EQ(previews().size(), 0);
 }
 
-TEST_F(ReportTest, TellsAnErrorOfTheEngineInItsBox)
+TEST_F(ReportTest, TellsAFailureOfTheStoreInItsBox)
 {
-    for (const bool isOfStore : {false, true}) {
-        Report report(m_main, m_boxes, [&](const ReportRequest&, const KeepGoing&) -> ReportData {
-            if (isOfStore)
-                throw RuntimeFailure(Failure::EngineFailure, u"The database is damaged."_s);
-            throw ReportError(u"plusales.rpt is missing."_s);
-        });
-        report.run();
-    }
+    Report report(m_main, m_boxes, [](const ReportRequest&, const KeepGoing&) -> ReportData {
+        throw RuntimeFailure(Failure::EngineFailure, u"The database is damaged."_s);
+    });
+    report.run();
     EXPECT_EQ(m_boxes.shown,
-              (std::vector<ShownBox>{{u"plusales.rpt is missing."_s, u"Report Error"_s, BoxIcon::Critical},
-                                     {u"The database is damaged."_s, u"Report Error"_s, BoxIcon::Critical}}));
+              (std::vector<ShownBox>{{u"The database is damaged."_s, u"Report Error"_s, BoxIcon::Critical}}));
 }
 
 TEST_F(ReportTest, AnswersDuringALongRunAndGivesItUpOnCancel)
 {
     QDialog form(&m_main);
+    int runs = 0;
     Report report(form, m_boxes, [&](const ReportRequest& request, const KeepGoing& goesOn) -> ReportData {
         request.showStep(u"Adding up"_s);
         EXPECT_EQ(m_main.statusBar()->currentMessage(), u"Adding up"_s);
@@ -137,12 +127,12 @@ TEST_F(ReportTest, AnswersDuringALongRunAndGivesItUpOnCancel)
                 QTest::mouseClick(box->findChild<QPushButton*>(), Qt::LeftButton);
             }
         }
-        m_requests.push_back(request);
+        ++runs;
         throw ReportError(u"The report was given up."_s);
     });
     m_main.show();
     report.run();
-    EXPECT_EQ(m_requests.size(), 1) << "a second run does not begin within the first";
+    EXPECT_EQ(runs, 1) << "a second run does not begin within the first";
     EXPECT_EQ(m_boxes.shown.size(), 0);
     EXPECT_EQ(previews().size(), 0);
     EXPECT_EQ(m_main.statusBar()->currentMessage(), QString());

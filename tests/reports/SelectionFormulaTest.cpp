@@ -37,54 +37,51 @@ protected:
     ReportShop shop;
 };
 
+const std::pair<const char16_t*, const char*> selections[] = {
+    {u"", "1 2 3 4 5 6 7 8"},
+    {u"{FINANCIALSALES.SALESDATE} in monthtodate", "4 5 6 7"},
+    {u"{financialSALES.salesdate} IN WeekToDateFromSun", "6 7"},
+    {u"{FinancialSales.SalesDate}in YEARTODATE", "2 3 4 5 6 7"},
+    {u"{FINANCIALSALES.SALESDATE} = date(2026,11,1)", "4"},
+    {u"{FINANCIALSALES.SALESDATE} in date(2026,10,31) to date(2026,11,21)", "3 4 5"},
+    {u"not ({FINANCIALSALES.SALESDATE} in monthtodate)", "1 2 3 8"},
+    {u"{FINANCIALSALES.ID} > 2 and {FINANCIALSALES.ID} <= 4 or 7 <= {FINANCIALSALES.ID}", "3 4 7 8"},
+    {u"{FINANCIALSALES.ID}>2 and ({FINANCIALSALES.ID}<=4 or {FINANCIALSALES.ID}=7)", "3 4 7"},
+    {u"not not {FINANCIALSALES.VALUE} = -20.5", "2"},
+    {u"{FINANCIALSALES.ID} = {FINANCIALSALES.QUANTITY} and {FINANCIALSALES.ID} <> 5", "1 2 3 4 6 7 8"},
+    {u"{FINANCIALREPORTDESCRIPTORS.financialreport} = 'refunds'", "3"},
+    // Another report's table restricts nothing, alone, in company, or as one half of an "or".
+    {u"{PLUSALES.SALESDATE} = date(2026,11,25)", "1 2 3 4 5 6 7 8"},
+    {u"{PLUSALES.COUNT1} > 3 and {FINANCIALSALES.ID} > 6", "7 8"},
+    {u"{FINANCIALSALES.ID} = 1 or {PLUSALES.COUNT1} > 3", "1 2 3 4 5 6 7 8"},
+    {u"not ({FINANCIALSALES.ID} = 1 or {PLUSALES.COUNT1} > 3)", "2 3 4 5 6 7 8"},
+    {u"not ({FINANCIALSALES.ID} = 1 and {PLUSALES.COUNT1} > 3)", "1 2 3 4 5 6 7 8"},
+};
+
 TEST_F(Selection, FindsTheRowsThatItNames)
 {
     shop.add("FINANCIALSALES", "ID|SALESDATE|QUANTITY|VALUE",
              {"1|2025-12-31|1|10", "2|2026-01-01|2|-20.5", "3|2026-10-31|3|0", "4|2026-11-01|4|0",
               "5|2026-11-21|5|0", "6|2026-11-22|6|0", "7|2026-11-25|7|0", "8|2026-11-26|8|0"});
-    const std::pair<const char16_t*, const char*> formulas[] = {
-        {u"", "1 2 3 4 5 6 7 8"},
-        {u"{FINANCIALSALES.SALESDATE} in monthtodate", "4 5 6 7"},
-        {u"{financialSALES.salesdate} IN WeekToDateFromSun", "6 7"},
-        {u"{FinancialSales.SalesDate}in YEARTODATE", "2 3 4 5 6 7"},
-        {u"{FINANCIALSALES.SALESDATE} = date(2026,11,1)", "4"},
-        {u"{FINANCIALSALES.SALESDATE} in date(2026,10,31) to date(2026,11,21)", "3 4 5"},
-        {u"not ({FINANCIALSALES.SALESDATE} in monthtodate)", "1 2 3 8"},
-        {u"{FINANCIALSALES.ID} > 2 and {FINANCIALSALES.ID} <= 4 or 7 <= {FINANCIALSALES.ID}", "3 4 7 8"},
-        {u"{FINANCIALSALES.ID}>2 and ({FINANCIALSALES.ID}<=4 or {FINANCIALSALES.ID}=7)", "3 4 7"},
-        {u"not not {FINANCIALSALES.VALUE} = -20.5", "2"},
-        {u"{FINANCIALSALES.ID} = {FINANCIALSALES.QUANTITY} and {FINANCIALSALES.ID} <> 5", "1 2 3 4 6 7 8"},
-        {u"{FINANCIALREPORTDESCRIPTORS.financialreport} = 'refunds'", "3"},
-        // Another report's table restricts nothing, alone, in company, or as one half of an "or".
-        {u"{PLUSALES.SALESDATE} = date(2026,11,25)", "1 2 3 4 5 6 7 8"},
-        {u"{PLUSALES.COUNT1} > 3 and {FINANCIALSALES.ID} > 6", "7 8"},
-        {u"{FINANCIALSALES.ID} = 1 or {PLUSALES.COUNT1} > 3", "1 2 3 4 5 6 7 8"},
-        {u"not ({FINANCIALSALES.ID} = 1 or {PLUSALES.COUNT1} > 3)", "2 3 4 5 6 7 8"},
-        {u"not ({FINANCIALSALES.ID} = 1 and {PLUSALES.COUNT1} > 3)", "1 2 3 4 5 6 7 8"},
-    };
-    for (const auto& [formula, rows] : formulas)
+    for (const auto& [formula, rows] : selections)
         EXPECT_EQ(found(QString::fromUtf16(formula)), rows) << QString::fromUtf16(formula).toStdString();
 }
 
+const std::tuple<const char16_t*, QDate, const char16_t*> periods[] = {
+    {u"in monthtodate", {2026, 11, 25}, u"Month to date, 01/11/2026 to 25/11/2026"},
+    {u"in monthtodate", {2026, 11, 1}, u"Month to date, 01/11/2026"},
+    {u"in WeekToDateFromSun", {2026, 11, 22}, u"Week to date, 22/11/2026"}, // a Sunday
+    {u"in WeekToDateFromSun", {2026, 11, 21}, u"Week to date, 15/11/2026 to 21/11/2026"},
+    {u"in WeekToDateFromSun", {2027, 1, 1}, u"Week to date, 27/12/2026 to 01/01/2027"},
+    {u"in YearToDate", {2028, 2, 29}, u"Year to date, 01/01/2028 to 29/02/2028"},
+    {u"in monthtodate", {2028, 2, 29}, u"Month to date, 01/02/2028 to 29/02/2028"},
+    {u"= date(2028,2,29)", {2028, 3, 1}, u"29/02/2028"},
+    {u"> date(2026,1,31)", {2026, 11, 25}, u"From 01/02/2026"},
+};
+
 TEST_F(Selection, TellsItsPeriodAndEndsItToday)
 {
-    struct Row {
-        const char16_t* formula;
-        QDate today;
-        const char16_t* subtitle;
-    };
-    const Row rows[] = {
-        {u"in monthtodate", {2026, 11, 25}, u"Month to date, 01/11/2026 to 25/11/2026"},
-        {u"in monthtodate", {2026, 11, 1}, u"Month to date, 01/11/2026"},
-        {u"in WeekToDateFromSun", {2026, 11, 22}, u"Week to date, 22/11/2026"}, // a Sunday
-        {u"in WeekToDateFromSun", {2026, 11, 21}, u"Week to date, 15/11/2026 to 21/11/2026"},
-        {u"in WeekToDateFromSun", {2027, 1, 1}, u"Week to date, 27/12/2026 to 01/01/2027"},
-        {u"in YearToDate", {2028, 2, 29}, u"Year to date, 01/01/2028 to 29/02/2028"},
-        {u"in monthtodate", {2028, 2, 29}, u"Month to date, 01/02/2028 to 29/02/2028"},
-        {u"= date(2028,2,29)", {2028, 3, 1}, u"29/02/2028"},
-        {u"> date(2026,1,31)", {2026, 11, 25}, u"From 01/02/2026"},
-    };
-    for (const auto& [formula, today, subtitle] : rows) {
+    for (const auto& [formula, today, subtitle] : periods) {
         const QString whole = u"{FINANCIALSALES.SALESDATE} "_s + QString::fromUtf16(formula);
         const auto data = runReport(request(whole, today));
         EXPECT_EQ(data.heading.subtitle, QString::fromUtf16(subtitle));
@@ -94,25 +91,26 @@ TEST_F(Selection, TellsItsPeriodAndEndsItToday)
               u"The selection names another table (PLUSALES)"_s);
 }
 
+const std::pair<const char16_t*, const char*> mistakes[] = {
+    {u"({FINANCIALSALES.ID} = 1", "column 25: \")\" is expected, but the formula ends"},
+    {u"{FINANCIALSALES.ID} = 1)", "column 24: the end is expected, but \")\""},
+    {u"{FINANCIALSALES.IDS} = 1", "column 1: there is no field {FINANCIALSALES.IDS}"},
+    {u"1 = {NOTABLE.ID}", "column 5: there is no field {NOTABLE.ID}"},
+    {u"{FINANCIALSALES.ID = 1", "column 1: a field's name is not closed by }"},
+    {u"{FINANCIALSALES.SALESDATE} in lastcentury", "column 31: monthtodate"},
+    {u"{FINANCIALSALES.SALESDATE} = date(2026,2,29)", "column 30: there is no such day"},
+    {u"{FINANCIALSALES.SALESDATE} = 5", "column 30: a day such as date(2026,1,31) is expected"},
+    {u"{FINANCIALSALES.ID} = 'x'", "column 23: a number is expected"},
+    {u"{FINANCIALSALES.ID} in monthtodate", "column 24: a number is expected"},
+    {u"{FINANCIALSALES.ID} ~ 1", "column 21: \"~\" belongs in no formula"},
+    {u"{FINANCIALSALES.ID} = 1.2.3", "column 23: a number is expected"},
+    {u"1 = 1", "column 1: a field is expected on one side"},
+    {u"{FINANCIALSALES.ID} = 1; drop table FINANCIALSALES", "column 24"},
+};
+
 TEST_F(Selection, TellsWhereItsMistakeIs)
 {
-    const std::pair<const char16_t*, const char*> formulas[] = {
-        {u"({FINANCIALSALES.ID} = 1", "column 25: \")\" is expected, but the formula ends"},
-        {u"{FINANCIALSALES.ID} = 1)", "column 24: the end is expected, but \")\""},
-        {u"{FINANCIALSALES.IDS} = 1", "column 1: there is no field {FINANCIALSALES.IDS}"},
-        {u"1 = {NOTABLE.ID}", "column 5: there is no field {NOTABLE.ID}"},
-        {u"{FINANCIALSALES.ID = 1", "column 1: a field's name is not closed by }"},
-        {u"{FINANCIALSALES.SALESDATE} in lastcentury", "column 31: monthtodate"},
-        {u"{FINANCIALSALES.SALESDATE} = date(2026,2,29)", "column 30: there is no such day"},
-        {u"{FINANCIALSALES.SALESDATE} = 5", "column 30: a day such as date(2026,1,31) is expected"},
-        {u"{FINANCIALSALES.ID} = 'x'", "column 23: a number is expected"},
-        {u"{FINANCIALSALES.ID} in monthtodate", "column 24: a number is expected"},
-        {u"{FINANCIALSALES.ID} ~ 1", "column 21: \"~\" belongs in no formula"},
-        {u"{FINANCIALSALES.ID} = 1.2.3", "column 23: a number is expected"},
-        {u"1 = 1", "column 1: a field is expected on one side"},
-        {u"{FINANCIALSALES.ID} = 1; drop table FINANCIALSALES", "column 24"},
-    };
-    for (const auto& [formula, message] : formulas) {
+    for (const auto& [formula, message] : mistakes) {
         const std::string error = errorOf(request(QString::fromUtf16(formula)));
         EXPECT_NE(error.find(message), std::string::npos) << error;
     }

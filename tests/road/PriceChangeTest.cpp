@@ -7,8 +7,6 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane
 {
 namespace

@@ -7,8 +7,6 @@
 #include <QDate>
 #include <QDialog>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane
 {
 namespace

@@ -12,8 +12,6 @@
 #include <map>
 #include <set>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane
 {
 namespace
@@ -190,9 +188,8 @@ protected:
             } else {
                 m_bytes[file] = readWholeFile(path(first, file));
             }
-            if (file != memoryFile) {
+            if (file != memoryFile)
                 EXPECT_TRUE(QFile::remove(path(second, file)));
-            }
         }
         EXPECT_EQ(m_texts.erase(descriptorFile), 1U);
     }

@@ -11,8 +11,6 @@
 #include <QSettings>
 #include <QStatusBar>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane
 {
 namespace

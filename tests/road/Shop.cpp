@@ -18,8 +18,6 @@
 #include <QTest>
 #include <QTimer>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::test
 {
 namespace

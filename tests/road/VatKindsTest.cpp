@@ -1,11 +1,8 @@
 // The kinds of tax as a register holds them, in the words of the screen.
 #include "tests/road/Shop.h"
 
-#include <gtest/gtest.h>
 #include <QComboBox>
 #include <QLineEdit>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace norvane
 {

@@ -7,8 +7,6 @@
 #include "store/Recordset.h"
 #include "tests/support/LinkFormTest.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::sales
 {
 namespace

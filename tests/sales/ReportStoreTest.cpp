@@ -8,8 +8,6 @@
 #include "tests/platform/TestFolder.h"
 #include "tests/support/RecordingBoxes.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::sales
 {
 namespace

@@ -9,7 +9,6 @@ namespace norvane::screens
 namespace
 {
 
-using namespace Qt::Literals::StringLiterals;
 using test::ShownBox;
 
 const ShownBox invalidEntry{u"Invalid Data Entry"_s, u"Operation Error"_s, BoxIcon::Exclamation};
@@ -21,9 +20,8 @@ protected:
     {
         store::Database database(m_values.databasePath);
         store::Transaction transaction(database);
-        for (int number = 200; number < 700; ++number) {
+        for (int number = 200; number < 700; ++number)
             database.execute(u"insert into PLUDATA values ('000000000000000%1', 'x', '1', 2)"_s.arg(number));
-        }
         transaction.commit();
         screen("[Database]\ntable=PLUDATA\nIndex1=plunumber\n"
                "[Field1]\nControlType=GridControl\nWidth=9000\nHeight=3000\nVisible=True\n"

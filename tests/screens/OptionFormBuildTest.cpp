@@ -12,7 +12,6 @@ namespace norvane::screens
 namespace
 {
 
-using namespace Qt::Literals::StringLiterals;
 using test::failureOf;
 
 const QByteArray groups = "[DATABASE]\nTable=GROUPS\nindex1=groupno\n";

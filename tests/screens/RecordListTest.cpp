@@ -9,8 +9,6 @@ namespace norvane::screens
 namespace
 {
 
-using namespace Qt::Literals::StringLiterals;
-
 class RecordListTest : public test::ScreenFixture
 {
 protected:

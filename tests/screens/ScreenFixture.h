@@ -19,8 +19,6 @@
 namespace norvane::test
 {
 
-using namespace Qt::Literals::StringLiterals;
-
 /// Two tables: GROUPS with its number as key and an index over the names, PLUDATA with 18-digit keys.
 inline QVector<store::TableDefinition> shopTables()
 {

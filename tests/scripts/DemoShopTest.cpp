@@ -1,12 +1,9 @@
 // The customer to look at, made for a few days with the real tools.
 #include "platform/FilePaths.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "tests/store/Rows.h"
 #include "tests/support/ProgramFolder.h"
 
 #include <QProcess>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace norvane
 {
@@ -26,15 +23,12 @@ protected:
     }
     [[nodiscard]] QStringList column(const QString& sql) const
     {
-        store::Database database(folder.appFile(u"DEMO CAFE/velmar.mdb"_s));
-        QStringList values;
-        for (auto rows = database.openQuery(sql); !rows.atEnd(); rows.moveNext())
-            values << rows.value(0).toText();
-        return values;
+        return QString::fromStdString(test::rowsOf(database, sql)).split(u' ');
     }
 
     test::ProgramFolder folder{2, 3};
     test::TestFolder scratch;
+    const QString database = folder.appFile(u"DEMO CAFE/velmar.mdb"_s);
 };
 
 TEST_F(DemoShopTest, HasTheProgrammeOfTheBankAndStoredDaysThatAddUp)
@@ -49,9 +43,9 @@ TEST_F(DemoShopTest, HasTheProgrammeOfTheBankAndStoredDaysThatAddUp)
     EXPECT_EQ(takings, column(value.arg(u"VALUE"_s, u"TIMESALES"_s)));
     EXPECT_GT(takings.at(2).toDouble(), takings.at(0).toDouble()) << "Saturday and Wednesday";
     EXPECT_EQ(scratch.names(), QStringList()) << "nothing is left behind";
-    const auto made = QFileInfo(folder.appFile(u"DEMO CAFE/velmar.mdb"_s)).lastModified();
+    const auto made = QFileInfo(database).lastModified();
     EXPECT_EQ(make(), 0);
-    EXPECT_EQ(QFileInfo(folder.appFile(u"DEMO CAFE/velmar.mdb"_s)).lastModified(), made) << "made once";
+    EXPECT_EQ(QFileInfo(database).lastModified(), made) << "made once";
 }
 
 TEST_F(DemoShopTest, IsNotThereWhenItsMakingFailed)

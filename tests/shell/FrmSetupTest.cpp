@@ -95,7 +95,6 @@ TEST_F(FrmSetupTest, EnterSavesAndEscapeAndExitLeave)
     EXPECT_EQ(m_status.panel(), u"Ready.....");
 }
 
-#ifdef Q_OS_UNIX
 TEST_F(FrmSetupTest, ASaveThatFailsIsToldInTheStatusBar)
 {
     open();
@@ -110,7 +109,6 @@ TEST_F(FrmSetupTest, ASaveThatFailsIsToldInTheStatusBar)
     EXPECT_FALSE(m_form->isVisible());
     EXPECT_EQ(m_status.panel(), u"Ready.....");
 }
-#endif
 
 TEST_F(FrmSetupTest, AnIndexOutsideItsListIsAFailure)
 {

@@ -11,8 +11,6 @@
 namespace norvane::shell
 {
 
-using namespace Qt::Literals::StringLiterals;
-
 /// The program's folder is "app"; a test must find nothing new beside it.
 class ShellFixture : public testing::Test
 {

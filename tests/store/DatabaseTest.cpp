@@ -89,7 +89,6 @@ TEST(Database, AnAddedFieldLeavesOldRowsNullUntilTheyAreStored)
     EXPECT_EQ(elsewhere.table(items).fields.last().name, key.name);
 }
 
-#ifdef Q_OS_UNIX
 TEST(Transaction, ThatFindsNoRoomFailsAndLeavesTheTableAsItWas)
 {
     const QString notes = u"notes"_s;
@@ -111,7 +110,6 @@ TEST(Transaction, ThatFindsNoRoomFailsAndLeavesTheTableAsItWas)
     addNotes(3);
     EXPECT_EQ(Database(folder.path()).openTable(notes).recordCount(), 3);
 }
-#endif
 
 } // namespace
 } // namespace norvane::store::test

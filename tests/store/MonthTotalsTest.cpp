@@ -58,23 +58,24 @@ protected:
     MonthTotals m_totals{m_database, u"clerksales"_s};
 };
 
+const DayRange ranges[] = {
+    twoYears,
+    {{2028, 1, 1}, {2028, 3, 2}},
+    {{2028, 1, 1}, {2028, 1, 1}},
+    {{2028, 1, 1}, {2028, 1, 31}},
+    {{2028, 1, 2}, {2028, 2, 29}},
+    {{2028, 1, 31}, {2028, 2, 28}},
+    {{2027, 12, 31}, {2028, 2, 1}},
+    {{2028, 2, 1}, {2028, 2, 29}},
+    {{2026, 1, 1}, {2026, 12, 31}},
+    {{2028, 3, 2}, {2028, 3, 1}},
+    {{1900, 1, 1}, {2028, 12, 31}}, // more months than one query of the engine can join
+};
+
 TEST_F(MonthTotalsTest, GiveWhatTheRowsAddUpTo)
 {
     addUpAll();
     EXPECT_EQ(added(), "2027-12 2028-01 2028-02") << "neither empty months nor the running one";
-    const DayRange ranges[] = {
-        twoYears,
-        {{2028, 1, 1}, {2028, 3, 2}},
-        {{2028, 1, 1}, {2028, 1, 1}},
-        {{2028, 1, 1}, {2028, 1, 31}},
-        {{2028, 1, 2}, {2028, 2, 29}},
-        {{2028, 1, 31}, {2028, 2, 28}},
-        {{2027, 12, 31}, {2028, 2, 1}},
-        {{2028, 2, 1}, {2028, 2, 29}},
-        {{2026, 1, 1}, {2026, 12, 31}},
-        {{2028, 3, 2}, {2028, 3, 1}},
-        {{1900, 1, 1}, {2028, 12, 31}}, // more months than one query of the engine can join
-    };
     for (const DayRange& days : ranges) {
         EXPECT_EQ(reportOf(m_totals.rows(days)), reportOfRows(days))
             << days.first.toString(Qt::ISODate).toStdString() << ' '

@@ -11,8 +11,6 @@
 namespace norvane::store::test
 {
 
-using namespace Qt::Literals::StringLiterals;
-
 using norvane::test::failureOf;
 using norvane::test::rowsOf;
 using norvane::test::TestFolder;

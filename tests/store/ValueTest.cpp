@@ -8,14 +8,12 @@ namespace norvane::store::test
 namespace
 {
 
-TEST(Value, GivesTextNumberAndTruth)
-{
-    const struct {
-        Value value;
-        const char* text;
-        double number;
-        bool isTrue;
-    } rows[] = {{Value(), "", 0, false},
+const struct {
+    Value value;
+    const char* text;
+    double number;
+    bool isTrue;
+} readings[] = {{Value(), "", 0, false},
                 {Value::yesNo(true), "True", -1, true},
                 {Value::yesNo(false), "False", 0, false},
                 {Value::whole(1), "1", 1, false}, // one is not yes
@@ -27,7 +25,10 @@ TEST(Value, GivesTextNumberAndTruth)
                 {text(" 1.5x"), " 1.5x", 1.5, false},
                 {text("inf"), "inf", 0, false},
                 {Value::date(QDate(2003, 2, 1)), "01/02/2003", 0, false}};
-    for (const auto& row : rows) {
+
+TEST(Value, GivesTextNumberAndTruth)
+{
+    for (const auto& row : readings) {
         EXPECT_EQ(row.value.toUtf8(), row.text);
         EXPECT_EQ(row.value.toText(), QString::fromUtf8(row.text));
         EXPECT_EQ(row.value.toNumber(), row.number) << row.text;

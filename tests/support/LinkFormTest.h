@@ -9,7 +9,6 @@
 #include "tests/support/PseudoModem.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <gtest/gtest.h>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QStatusBar>
@@ -17,8 +16,6 @@
 
 namespace norvane::test
 {
-
-using namespace Qt::Literals::StringLiterals;
 
 /// Makes and shows a @p Form. No test may leave a failure that it has not taken, nor the wait pointer.
 template <typename Form>

@@ -6,8 +6,6 @@
 
 #include <QProcess>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::test
 {
 namespace

@@ -59,9 +59,8 @@ void QuickClock::pause()
 void QuickClock::yieldEvents()
 {
     QCoreApplication::processEvents();
-    if (onEvents) {
+    if (onEvents)
         onEvents();
-    }
 }
 
 } // namespace norvane::test

@@ -72,46 +72,6 @@ TEST(Transfer, bringsTheMemoryUnderTheSpellingThatIsThere)
     EXPECT_EQ(bench.read("work/MEM.dat"), bench.read("bank/1/52.dat"));
 }
 
-QByteArray offersAsText(const ToolBench& bench)
-{
-    bench.convert("wVelmarn f../bank/1/70.dat t70.txt u70");
-    return bench.read("work/70.txt");
-}
-
-/// The register's own offers and one more than it has room for.
-QByteArray oneOfferTooMany(const ToolBench& bench, const QByteArray& text)
-{
-    bench.write("work/70.txt", text + text.left(text.indexOf('\n') + 1));
-    EXPECT_EQ(bench.convert("wVelmarn f70.txt t70.dat d70").exitCode, 0);
-    return bench.read("work/70.dat");
-}
-
-TEST(Transfer, refusesWhatDoesNotFitTheRegister)
-{
-    const ToolBench bench;
-    const auto good = bench.read("bank/1/70.dat");
-    const auto text = offersAsText(bench);
-    const struct {
-        const char* name;
-        QByteArray bytes;
-        const char* result;
-    } cases[] = {
-        {"empty", "", "3"},
-        {"text", text, "3"},
-        {"another file", bench.read("bank/1/58.dat"), "3"},
-        {"opaque file", bench.read("bank/1/18.dat"), "3"},
-        {"cut", good.chopped(1), "4"},
-        {"longer", good + 'x', "4"},
-        {"a record too many", oneOfferTooMany(bench, text), "4"},
-        {"damaged", QByteArray(good).replace(40, 1, "x"), "11"},
-    };
-    for (const auto& each : cases) {
-        bench.write("work/70.DAT", each.bytes);
-        EXPECT_EQ(bench.comm("s9 F1 1T c1 N70.DAT -D 70"), each.result) << each.name;
-        EXPECT_EQ(bench.read("bank/1/70.dat"), good) << each.name;
-    }
-}
-
 /// Registers that are off or busy are met by the exchanges and collections.
 TEST(Transfer, answersForWhatTheRegisterIsAndHolds)
 {

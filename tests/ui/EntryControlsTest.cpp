@@ -152,18 +152,18 @@ TEST(TextBox, TypingIntoAPaddedTextPushesTheBlanksOut)
     EXPECT_EQ(box.text(), u"Ales 1  "_s) << "the end is behind the text, not behind its blanks";
 }
 
+const struct {
+    TextBox::Characters characters;
+    QString typed;
+    QString kept;
+} refusals[] = {{TextBox::Characters::Register, u"Caf\u00e9 5\u20ac \u2605\u0142\u201cok\u201d"_s,
+                 u"Caf\u00e9 5\u20ac \u201cok\u201d"_s},
+                {TextBox::Characters::Digits, u"1a-2 3\u0663"_s, u"123"_s},
+                {TextBox::Characters::Hexadecimal, u"0Ag f9.-x"_s, u"0Af9"_s}};
+
 TEST(TextBox, RefusesWhatTheFieldCannotHold)
 {
-    using enum TextBox::Characters;
-    const struct {
-        TextBox::Characters characters;
-        QString typed;
-        QString kept;
-    } cases[] = {
-        {Register, u"Caf\u00e9 5\u20ac \u2605\u0142\u201cok\u201d"_s, u"Caf\u00e9 5\u20ac \u201cok\u201d"_s},
-        {Digits, u"1a-2 3\u0663"_s, u"123"_s},
-        {Hexadecimal, u"0Ag f9.-x"_s, u"0Af9"_s}};
-    for (const auto& [characters, typed, kept] : cases) {
+    for (const auto& [characters, typed, kept] : refusals) {
         TextBox box;
         box.setCharacters(characters);
         for (const QChar character : typed) // QTest's own key clicks know no keys beyond Latin-1

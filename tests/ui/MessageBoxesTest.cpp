@@ -11,8 +11,6 @@
 #include <QTest>
 #include <QTimer>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::ui
 {
 namespace
