@@ -68,6 +68,8 @@ protected:
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
+        // A box that has just closed gives the focus back in its own time.
+        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
     [[nodiscard]] QString copied()
