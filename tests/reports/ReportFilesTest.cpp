@@ -4,8 +4,8 @@
 #include "reports/ReportRun.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/platform/TestFolder.h"
-#include "tests/support/OtherPrograms.h"
 #include "tests/reports/SampleReport.h"
+#include "tests/support/OtherPrograms.h"
 
 #include <QLocale>
 #include <QXmlStreamReader>
