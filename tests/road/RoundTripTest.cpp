@@ -188,8 +188,9 @@ protected:
             } else {
                 m_bytes[file] = readWholeFile(path(first, file));
             }
-            if (file != memoryFile)
+            if (file != memoryFile) {
                 EXPECT_TRUE(QFile::remove(path(second, file)));
+            }
         }
         EXPECT_EQ(m_texts.erase(descriptorFile), 1U);
     }
