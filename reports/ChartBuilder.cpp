@@ -75,10 +75,10 @@ void ChartPoints::keepLargest()
     const auto most = static_cast<std::size_t>(m_layout.most);
     if (most == 0 || m_points.size() <= most)
         return;
-    const Decimal rest = sumOf(std::span(m_points).subspan(most));
+    const std::vector<ChartPoint> others(m_points.begin() + m_layout.most, m_points.end());
     m_points.resize(most);
     if (m_layout.kind == ChartKind::Shares)
-        m_points.push_back({u"Others"_s, rest});
+        m_points.push_back({u"Others"_s, sumOf(others)});
 }
 
 ChartBuilder::ChartBuilder(const ReportLayout& layout)

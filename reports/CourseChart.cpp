@@ -1,4 +1,4 @@
-// Standing bars in their order, over a scale of round numbers.
+// Upright bars in their order, over a scale of round numbers.
 #include "reports/CourseChart.h"
 
 #include "reports/PageStyles.h"

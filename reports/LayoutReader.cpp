@@ -55,7 +55,7 @@ private:
     /// a gap in the numbers.
     void checkSections() const
     {
-        static const QRegularExpression known(u"^(Report|Group|Sort|(Join|Column|Chart)([1-9][0-9]*))$"_s,
+        static const QRegularExpression known(u"^(Report|Group|Sort|(Join|Column|Chart)([1-9][0-9]{0,3}))$"_s,
                                               QRegularExpression::CaseInsensitiveOption);
         const QStringList sections = m_file.sections();
         for (const QString& section : sections) {

@@ -1,4 +1,4 @@
-// Lying bars, one below the other, each with its name on the left and its value at its end.
+// Horizontal bars, one below the other, each with its name on the left and its value at its end.
 #include "reports/RankingChart.h"
 
 #include "reports/PageStyles.h"

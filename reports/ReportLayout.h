@@ -74,14 +74,13 @@ struct LineSource {
 };
 
 struct ColumnLayout {
-    ReportColumn
-        column; ///< the decimal places of money are set when the report runs: the shop's settings tell them
+    ReportColumn column; ///< the decimal places of money are set when the report runs
     CellFormat format;
     std::optional<Expression> number; ///< of a column of numbers
     FieldText text;                   ///< of a column of texts or days
     bool isTotalled = false;
-    std::vector<Expression>
-        shownIf; ///< the column is shown if one of these is not zero in any line, or if empty
+    /// The column is shown if one of these is not zero in any line; always if there are none.
+    std::vector<Expression> shownIf;
 };
 
 struct GroupLayout {

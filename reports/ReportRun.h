@@ -40,8 +40,8 @@ struct ReportRequest {
     QString selectionFormula; ///< empty for all rows
     QString customer;
     QDateTime now; ///< the moment of the run: periods end on this day
-    std::function<void(const QString& step)> showStep =
-        {}; ///< called with the name of each step that takes long
+    /// Called with the name of each step that takes long.
+    std::function<void(const QString& step)> showStep = {};
 };
 
 /// Asked now and then during a long run; it may handle events. @return false to cancel the run.
