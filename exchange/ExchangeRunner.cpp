@@ -185,7 +185,7 @@ bool ExchangeRunner::uploadRow(const UploadRow& row)
 bool ExchangeRunner::importFile(int file)
 {
     const bool waited = pluPointsWait(m_values);
-    // Noted ahead of the import: it empties the points, also when it is cut off behind that.
+    // Noted before the import, which empties the points even when it is cut off later.
     if (file == pluFile)
         notePluPointsWait(m_values, true);
     const bool imported = records::importRegisterFile(file, m_procedures);
@@ -312,7 +312,7 @@ bool ExchangeRunner::succeeded()
     return false;
 }
 
-/// An exchange ahead of the boxes. @p expected are the files that it fetches.
+/// One of the two calls that open an exchange, before any box. @p expected are the files that it fetches.
 bool ExchangeRunner::open(const QString& name, const QString& commandLine, const QStringList& expected)
 {
     m_outside.showStep(name);

@@ -47,7 +47,7 @@ constexpr std::array blocked{
     QEvent::Close,
 };
 
-/// Those of them that mean something later.
+/// Those of them that are kept for the form of the run until the tool has ended.
 constexpr std::array worthKeeping{
     QEvent::KeyPress,           QEvent::KeyRelease,          QEvent::Shortcut, QEvent::MouseButtonPress,
     QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick, QEvent::Close,

@@ -15,7 +15,7 @@ namespace norvane::paper
 namespace
 {
 
-/// A printer's name may hold what parts groups from keys.
+/// A printer's name may hold a slash, which would begin another group.
 QString groupOf(const QString& printer)
 {
     return QString::fromLatin1(QUrl::toPercentEncoding(printer));

@@ -66,7 +66,7 @@ struct CollectionRun::ToolStep {
     QLatin1StringView suffix;
     bool passesWaiting;      ///< whether sales waiting from an earlier run count as success
     bool leavesReports;      ///< whether it has to leave the five reports
-    const char* consequence; ///< of going by what an earlier run left, for the user
+    const char* consequence; ///< for the user: what comes of using what an earlier run left
 };
 
 // clang-format off

@@ -52,7 +52,7 @@ void Frmreports::layOut()
     Generate->setDefault(true);
     CmdExit->setAutoDefault(false);
     connect(Generate, &QPushButton::clicked, this, &Frmreports::generate);
-    // The calendar keeps the Enter key to itself.
+    // The calendar takes the Enter key, so the default button would not get it.
     connect(CSCal, &QCalendarWidget::activated, this, &Frmreports::generate);
     connect(CmdExit, &QPushButton::clicked, this, &QDialog::reject);
 

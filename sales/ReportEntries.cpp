@@ -40,7 +40,7 @@ constexpr auto entries = std::to_array<ReportEntry>({
     {"Pluprice_Click"_L1, "PLU Price List Report"_L1, "\\pluprice.rpt"_L1, std::nullopt, {}, TitleUse::Window},
 });
 
-/// What stands ahead of the day in a formula.
+/// The part of a formula before the day.
 struct DayPrefix {
     QLatin1StringView mode;
     QLatin1StringView text;

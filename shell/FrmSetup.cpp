@@ -53,7 +53,7 @@ QWidget* makeControl(const Setting& setting)
     return control;
 }
 
-/// All labels are as wide, so that the controls of both frames line up.
+/// All labels are equally wide, so that the controls of both frames line up.
 QLabel* makeLabel(const Setting& setting)
 {
     auto* const label = new QLabel(setting.label);

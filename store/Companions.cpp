@@ -1,4 +1,4 @@
-// The statements that make them; see Companions.h.
+// The statements that make the companions; see Companions.h.
 #include "store/Companions.h"
 
 #include "store/PreparedStatement.h"

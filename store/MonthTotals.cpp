@@ -65,7 +65,7 @@ std::string totalOf(const FieldDefinition& field)
     return field.type == FieldType::Date ? "?1" : quotedName(field.name);
 }
 
-/// Texts that differ in capitals only stay apart here: whether they are one item is the reader's question.
+/// Texts that differ in nothing but capitals stay apart here; the report decides whether they are one item.
 std::string groupWords(const FieldDefinition& field)
 {
     if (isAddedUp(field) || field.type == FieldType::Date)
