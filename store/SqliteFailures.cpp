@@ -38,10 +38,20 @@ constexpr Meaning meanings[] = {
     {SQLITE_ERROR, Failure::UnknownNameInQuery, "Unknown name or faulty statement."},
 };
 
+/// A screen file or a query names a table that was never there, or another program has taken it away.
+[[noreturn]] void failMissing(const QString& table, const QString& what)
+{
+    throw RuntimeFailure(Failure::UnknownNameInQuery, u"The database has no table %1. %2"_s.arg(table, what));
+}
+
 } // namespace
 
 void failWithSqlite(sqlite3* connection, const QString& what)
 {
+    constexpr auto missing = "no such table: "_L1;
+    const QString words = QString::fromUtf8(sqlite3_errmsg(connection));
+    if (words.startsWith(missing))
+        failMissing(words.mid(missing.size()), what);
     const int code = sqlite3_extended_errcode(connection);
     const auto* meaning = std::find_if(std::begin(meanings), std::end(meanings), [code](const Meaning& row) {
         return row.code == code || row.code == (code & 0xFF);
@@ -50,7 +60,7 @@ void failWithSqlite(sqlite3* connection, const QString& what)
     throw RuntimeFailure(
         known ? meaning->failure : Failure::EngineFailure,
         u"%1 %2 (%3)"_s.arg(QString::fromLatin1(known ? meaning->text : "The database failed."), what,
-                            QString::fromUtf8(sqlite3_errmsg(connection))));
+                            words));
 }
 
 } // namespace norvane::store
