@@ -131,9 +131,4 @@ void LookUpFields::read(LookUp& lookUp) const
         lookUp.*flagRows().at(i).flag = m_flags.at(i)->isChecked();
 }
 
-void LookUpFields::focusFirst()
-{
-    m_texts.first()->setFocus();
-}
-
 } // namespace norvane::keys

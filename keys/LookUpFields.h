@@ -30,7 +30,6 @@ public:
     void showKeys(const QString& places);
     /// Puts what the controls hold into @p lookUp, all but its lines.
     void read(LookUp& lookUp) const;
-    void focusFirst();
 
 Q_SIGNALS:
     /// The user ticked or unticked what may stand on the lines.

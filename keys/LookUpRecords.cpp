@@ -42,11 +42,14 @@ void readFields(const store::Recordset& from, const FlagField (&fields)[count], 
         to.*flag = from.value(field).toNumber() != 0;
 }
 
+/// A field that is empty and stays so is left as it is.
 template <std::size_t count>
 void storeFields(const LookUp& from, const TextField (&fields)[count], store::Recordset& to)
 {
-    for (const auto& [field, text] : fields)
-        to.setValue(field, store::Value::text(from.*text));
+    for (const auto& [field, text] : fields) {
+        if (to.value(field).toText() != from.*text)
+            to.setValue(field, store::Value::text(from.*text));
+    }
 }
 
 template <std::size_t count>

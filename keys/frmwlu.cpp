@@ -95,7 +95,7 @@ frmwlu::frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent)
     connectControls();
     updategrid();
     takeInHand(0);
-    m_fields->focusFirst();
+    Grid1->setFocus();
 }
 
 void frmwlu::layOut()
