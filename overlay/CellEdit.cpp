@@ -210,7 +210,7 @@ void CellEdit::mouseDoubleClickEvent(QMouseEvent* event)
     Q_EMIT doubleClicked();
 }
 
-/// The box's own menu without its history; the actions of the form for whole keys follow.
+/// The box's own menu without its history; what is for the whole key follows.
 void CellEdit::contextMenuEvent(QContextMenuEvent* event)
 {
     const std::unique_ptr<QMenu> menu(createStandardContextMenu());
@@ -219,7 +219,7 @@ void CellEdit::contextMenuEvent(QContextMenuEvent* event)
             menu->removeAction(action);
     }
     menu->addSeparator();
-    menu->addActions(actions());
+    Q_EMIT menuOpens(menu.get());
     menu->exec(event->globalPos());
 }
 

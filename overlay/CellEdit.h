@@ -5,6 +5,8 @@
 #include "overlay/Document.h"
 #include "ui/TextBox.h"
 
+class QMenu;
+
 namespace norvane::overlay
 {
 
@@ -24,6 +26,7 @@ public:
     explicit CellEdit(QWidget* parent);
 
     void showContents(const Cell& contents, const PrintedText& printed);
+    [[nodiscard]] bool isCut() const { return m_printed.isCut; }
     /// Size of the keyboard on the screen.
     void setPixelsPerMillimetre(double pixels);
 
@@ -33,6 +36,7 @@ Q_SIGNALS:
     void entered(); ///< got the focus
     void left();
     void wayChosen(Direction direction);
+    void menuOpens(QMenu* menu); ///< further entries may be added
     void nextWanted();
     void previousWanted();
 

@@ -35,6 +35,7 @@ public:
     [[nodiscard]] QUndoStack& history() { return m_history; }
 
     [[nodiscard]] CurrentStyle& style() { return m_style; }
+    [[nodiscard]] const CurrentStyle& style() const { return m_style; }
 
     /// The file that the document is called by, empty for none. New and failed reads set it too.
     [[nodiscard]] const QString& fileName() const { return m_fileName; }

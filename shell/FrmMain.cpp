@@ -5,7 +5,6 @@
 #include "platform/FilePaths.h"
 #include "shell/AccessLetters.h"
 #include "shell/MainStatusBar.h"
-#include "shell/NotYetBuilt.h"
 #include "shell/ScreenChoice.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
@@ -155,7 +154,7 @@ void FrmMain::open(const MenuEntry& entry)
     const bool isForm = entry.opens == Opens::Form || entry.opens == Opens::ModelForm;
     if (opensScreen(entry)) {
         openScreen(entry);
-    } else if (isForm && !isNotYetBuilt(entry.name)) {
+    } else if (isForm) {
         openForm(entry);
     }
 }

@@ -7,6 +7,7 @@
 #include "shell/FrameOpeners.h"
 #include "shell/KeyOpeners.h"
 #include "shell/MainStatusBar.h"
+#include "shell/OverlayOpeners.h"
 #include "shell/ReportOpeners.h"
 #include "shell/UtilityOpeners.h"
 
@@ -81,6 +82,7 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
     openers.insert(makeUtilityOpeners(values, boxes));
     openers.insert(makeReportOpeners(values, boxes));
     openers.insert(makeKeyOpeners(values, boxes));
+    openers.insert(makeOverlayOpeners(values, boxes));
     return {openers, [&values, &boxes](FrmMain& main, const QString& screenFilePath) {
                 openScreen(main, screenFilePath, values, boxes);
             }};

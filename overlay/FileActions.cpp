@@ -1,0 +1,120 @@
+// See FileActions.h.
+#include "overlay/FileActions.h"
+
+#include "overlay/DocumentEditor.h"
+#include "platform/Boxes.h"
+#include "platform/RuntimeFailure.h"
+
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::overlay
+{
+namespace
+{
+
+/// "Keyboard Files (*.ky4)" of "Keyboard Files (*.ky4)|*.ky4".
+QString shownFilter(QStringView filter)
+{
+    return filter.left(filter.indexOf(u'|')).toString();
+}
+
+/// "ky4" of "*.ky4".
+QString suffixOf(QStringView extension)
+{
+    return extension.sliced(extension.lastIndexOf(u'.') + 1).toString();
+}
+
+} // namespace
+
+FileActions::FileActions(DocumentEditor& editor, const ApplicationValues& values, Boxes& boxes,
+                         OverlayDialogs& dialogs)
+    : m_editor(editor), m_values(values), m_boxes(boxes), m_dialogs(dialogs)
+{
+}
+
+FileChoice FileActions::choice(const QString& title, FileChoice::Name name) const
+{
+    const DocumentFiles& files = m_editor.document().geometry().files;
+    const bool opens = name == FileChoice::Name::Existing;
+    return {title, m_values.customerPath, shownFilter(files.filter),
+            opens ? QString() : suffixOf(files.defaultExtension), name};
+}
+
+void FileActions::newFile()
+{
+    FileChoice asked = choice(u"New"_s, FileChoice::Name::Any);
+    if (m_editor.document().geometry().files.isNewInProgramFolder)
+        asked.path = m_values.appPath;
+    const QString path = m_dialogs.file(asked);
+    if (!path.isEmpty() && mayDropChanges())
+        m_editor.newFile(path);
+}
+
+void FileActions::open()
+{
+    const QString path = m_dialogs.file(choice(u"Open"_s, FileChoice::Name::Existing));
+    if (path.isEmpty() || !mayDropChanges())
+        return;
+    try {
+        m_editor.openFile(path);
+    } catch (const RuntimeFailure& failure) {
+        tellFailure(failure);
+    }
+}
+
+void FileActions::tellFailure(const RuntimeFailure& failure)
+{
+    if (failure.failure() == Failure::InputPastEnd) {
+        m_boxes.message(u"Incorrect file format"_s, u"File Error"_s, BoxIcon::Critical);
+    } else {
+        m_boxes.message(u"System error %1: %2"_s.arg(failure.number()).arg(failure.text()), u"Error"_s,
+                        BoxIcon::Critical);
+    }
+}
+
+/// Only the file that is being worked on is replaced without a question.
+QString FileActions::fileToSave() const
+{
+    FileChoice asked = choice(u"Save"_s, FileChoice::Name::ToWrite);
+    if (!m_editor.fileName().isEmpty())
+        asked.path = m_editor.fileName();
+    for (;;) {
+        const QString path = m_dialogs.file(asked);
+        if (path.isEmpty() || !m_editor.replacesOther(path) ||
+            m_boxes.ask(u"%1 exists already. Replace it?"_s.arg(QFileInfo(path).fileName()), u"Save"_s,
+                        BoxIcon::Question, BoxAnswer::No))
+            return path;
+        asked.path = path;
+    }
+}
+
+/// A document that cannot be written stays open, so that it can be saved elsewhere.
+bool FileActions::save()
+{
+    const QString path = fileToSave();
+    if (path.isEmpty())
+        return false;
+    try {
+        m_editor.saveFile(path);
+    } catch (const RuntimeFailure& failure) {
+        tellFailure(failure);
+        return false;
+    }
+    return true;
+}
+
+bool FileActions::mayDropChanges()
+{
+    return m_editor.history().isClean() ||
+           m_boxes.choose(u"%1 has changes that were not saved."_s.arg(documentName()), u"Unsaved Changes"_s,
+                          u"&Drop the changes"_s, u"&Keep them"_s);
+}
+
+QString FileActions::documentName() const
+{
+    return m_editor.fileName().isEmpty() ? u"Untitled"_s : QFileInfo(m_editor.fileName()).fileName();
+}
+
+} // namespace norvane::overlay

@@ -1,0 +1,46 @@
+// New, Open and Save of an overlay form.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "overlay/OverlayDialogs.h"
+
+namespace norvane
+{
+class Boxes;
+class RuntimeFailure;
+} // namespace norvane
+
+namespace norvane::overlay
+{
+
+class DocumentEditor;
+
+/// Asks for the files and before something would be lost, and tells what went wrong. All that is handed in
+/// must outlive this.
+class FileActions
+{
+public:
+    FileActions(DocumentEditor& editor, const ApplicationValues& values, Boxes& boxes,
+                OverlayDialogs& dialogs);
+
+    void newFile();
+    void open();
+    /// @return whether the document was written.
+    bool save();
+    /// Asks whether changes that were not saved may be dropped, if there are any.
+    [[nodiscard]] bool mayDropChanges();
+    /// What the document is called in titles: the name of its file, "Untitled" before it has one.
+    [[nodiscard]] QString documentName() const;
+
+private:
+    [[nodiscard]] FileChoice choice(const QString& title, FileChoice::Name name) const;
+    [[nodiscard]] QString fileToSave() const;
+    void tellFailure(const RuntimeFailure& failure);
+
+    DocumentEditor& m_editor;
+    const ApplicationValues& m_values;
+    Boxes& m_boxes;
+    OverlayDialogs& m_dialogs;
+};
+
+} // namespace norvane::overlay

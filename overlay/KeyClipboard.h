@@ -1,0 +1,18 @@
+// Whole keys on the clipboard, so that they can be pasted into other overlays too.
+#pragma once
+
+#include "overlay/Document.h"
+
+#include <vector>
+
+class QMimeData;
+
+namespace norvane::overlay
+{
+
+/// The cells of a key for the clipboard; other programs see their texts. The caller owns it.
+[[nodiscard]] QMimeData* keyToMime(const std::vector<Cell>& cells);
+/// @return nothing when there is no key, or a damaged one.
+[[nodiscard]] std::vector<Cell> keyFromMime(const QMimeData& mime);
+
+} // namespace norvane::overlay

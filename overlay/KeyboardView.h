@@ -1,0 +1,62 @@
+// The cells of an overlay where the keys of the keyboard stand.
+#pragma once
+
+#include "overlay/CellOrder.h"
+
+#include <QScrollArea>
+
+#include <vector>
+
+namespace norvane::overlay
+{
+
+class CellEdit;
+class DocumentEditor;
+
+/// Shows a document in the shape of its keyboard, as large as fits or in a size of its own, and hands what is
+/// typed and clicked to the editor. Tab, Enter and the arrow keys walk the cells, whose menus offer the
+/// actions of this widget.
+class KeyboardView : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    /// @p editor must outlive this.
+    KeyboardView(DocumentEditor& editor, QWidget* parent);
+
+    /// @param percent of true size; 0 for what fits into the window.
+    void setZoom(int percent);
+    /// The cell that has or had the focus last.
+    [[nodiscard]] int currentCell() const { return m_current; }
+    /// Brings @p cell into view and gives it the focus.
+    void goTo(int cell);
+    [[nodiscard]] QSize sizeHint() const override;
+    /// Whether a part of the cell's text will not print.
+    [[nodiscard]] bool isCut(int cell) const;
+
+Q_SIGNALS:
+    void currentCellChanged(int cell);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    class Ground;
+    void makeCell(int cell);
+    void connectCell(int cell);
+    void showCell(int cell);
+    void placeCells();
+    void enter(int cell);
+    void step(int cell, int by);
+    [[nodiscard]] double fittingScale() const;
+
+    DocumentEditor& m_editor;
+    const KeyLayout& m_layout;
+    Ground* m_ground;
+    std::vector<CellEdit*> m_cells; ///< by index
+    std::vector<int> m_order;       ///< of reading
+    int m_zoom = 0;
+    int m_current = 0;
+};
+
+} // namespace norvane::overlay

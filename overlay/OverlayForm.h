@@ -1,0 +1,91 @@
+// The designer of keyboard overlays: the forms Dorvik, Velmar and Quelmont.
+#pragma once
+
+#include "overlay/DocumentEditor.h"
+#include "overlay/FileActions.h"
+#include "overlay/OverlayPrinting.h"
+
+#include <QDialog>
+
+class QLabel;
+class QMenu;
+class QMenuBar;
+class QStatusBar;
+class QToolBar;
+
+namespace norvane::overlay
+{
+
+class ColourStrip;
+class KeyboardView;
+
+/// One form for three keyboards, named after its keyboard. Leaving it asks once about changes that were not
+/// saved, however it is left.
+class OverlayForm : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// @p values, @p boxes and @p dialogs must outlive the form.
+    OverlayForm(Keyboard keyboard, const ApplicationValues& values, Boxes& boxes, OverlayDialogs& dialogs,
+                PrinterFinder finder = findPrinter, QWidget* parent = nullptr);
+
+    /// Asks whether unsaved changes may be dropped, for a window that is closed with this form in it.
+    [[nodiscard]] bool mayLeave() { return m_files.mayDropChanges(); }
+    /// The user leaves with the entry "E&xit", the Escape key or the window's close button.
+    void reject() override;
+
+private:
+    using Handler = void (OverlayForm::*)();
+    struct Entry;
+
+    void buildMenus(QMenuBar& bar);
+    void addEntry(QWidget& menu, const Entry& entry);
+    void addImportMenu(QMenuBar& bar);
+    [[nodiscard]] QToolBar* makeTools();
+    void addZoom(QToolBar& bar);
+    void addSample(QToolBar& bar);
+    void followHistory();
+    void openAtGoodSize();
+
+    void newFile();
+    void open();
+    void save();
+    void setUpPrinter();
+    void print();
+    void chooseFont();
+    void chooseBackground();
+    void chooseTextColour();
+    void importLevel(int level);
+    void undo();
+    void redo();
+    void copyKey();
+    void pasteKey();
+    void savePdf();
+
+    void takeBackground(const QColor& colour);
+    void takeTextColour(const QColor& colour);
+    [[nodiscard]] QFont initialFont() const;
+    void keepWorkBefore(const RuntimeFailure& failure);
+    void rememberColours();
+    void showSample();
+    void showTitle();
+    void showCurrentCell(int cell);
+    void tell(const QString& text);
+
+    const ApplicationValues& m_values;
+    Boxes& m_boxes;
+    OverlayDialogs& m_dialogs;
+    PrinterFinder m_finder;
+    PrinterChoice m_printer;
+    DocumentEditor m_editor;
+    FileActions m_files;
+    KeyboardView* m_keyboard;
+    ColourStrip* m_colours;
+    QLabel* Label1;
+    QStatusBar* StatusBar1;
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
+};
+
+} // namespace norvane::overlay

@@ -1,0 +1,75 @@
+// Opens the designers of keyboard overlays; see OverlayOpeners.h.
+#include "shell/OverlayOpeners.h"
+
+#include "overlay/OverlayForm.h"
+#include "overlay/SystemDialogs.h"
+
+#include <QEvent>
+
+#include <memory>
+
+namespace norvane::shell
+{
+namespace
+{
+
+using overlay::Keyboard;
+using overlay::OverlayForm;
+
+/// The main window closes without asking the forms that lie in it. An overlay with changes is asked about
+/// first.
+class CloseQuestion : public QObject
+{
+public:
+    CloseQuestion(FrmMain& main, OverlayForm& form) : QObject(&form), m_form(form)
+    {
+        main.installEventFilter(this);
+    }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() != QEvent::Close || m_form.mayLeave())
+            return false;
+        event->ignore();
+        return true;
+    }
+
+private:
+    OverlayForm& m_form;
+};
+
+void openBeside(FrmMain& main, Keyboard keyboard, const ApplicationValues& values, Boxes& boxes,
+                overlay::OverlayDialogs& dialogs)
+{
+    const auto make = [&] {
+        auto* const form = new OverlayForm(keyboard, values, boxes, dialogs);
+        new CloseQuestion(main, *form);
+        return form;
+    };
+    main.showShared(overlay::geometryOf(keyboard).name.toString(), make, FrmMain::FormSize::Free);
+}
+
+void openModal(FrmMain& main, Keyboard keyboard, const ApplicationValues& values, Boxes& boxes,
+               overlay::OverlayDialogs& dialogs)
+{
+    OverlayForm form(keyboard, values, boxes, dialogs, overlay::findPrinter, &main);
+    form.exec();
+}
+
+} // namespace
+
+FrmMain::FormOpeners makeOverlayOpeners(const ApplicationValues& values, Boxes& boxes)
+{
+    const auto dialogs = std::make_shared<overlay::SystemDialogs>();
+    FrmMain::FormOpeners openers;
+    for (const auto& [keyboard, open] :
+         {std::pair(Keyboard::Dorvik, &openModal), std::pair(Keyboard::Velmar, &openModal),
+          std::pair(Keyboard::Quelmont, &openBeside)}) {
+        openers.insert(overlay::geometryOf(keyboard).name.toString(),
+                       [keyboard, open, dialogs, &values, &boxes](FrmMain& main, const MenuEntry&) {
+                           open(main, keyboard, values, boxes, *dialogs);
+                       });
+    }
+    return openers;
+}
+
+} // namespace norvane::shell

@@ -1,0 +1,332 @@
+// The designer as a dealer works it: cells, colours and fonts by mouse and keys, files, printing, leaving.
+#include "overlay/OverlayForm.h"
+
+#include "platform/RuntimeFailure.h"
+#include "store/Catalogue.h"
+#include "tests/overlay/RecordingDialogs.h"
+#include "tests/store/StoreFolder.h"
+#include "tests/support/FormTest.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <gtest/gtest.h>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QRegularExpression>
+#include <QStatusBar>
+#include <QTest>
+#include <QToolButton>
+
+namespace norvane::overlay
+{
+namespace
+{
+
+using namespace Qt::Literals::StringLiterals;
+using test::ShownBox;
+
+const ShownBox startPrinting{u"Start Printing? [OK|Cancel]"_s, u"Print Option"_s, BoxIcon::Question};
+const ShownBox printerFailure{u"Printer Failure"_s, u"Error"_s, BoxIcon::Critical};
+
+class OverlayFormTest : public testing::Test
+{
+protected:
+    OverlayFormTest()
+    {
+        m_values.appPath = u"/app"_s;
+        m_values.customerPath = m_folder.folder().path();
+        m_values.databasePath = m_folder.path();
+    }
+
+    void open(Keyboard keyboard)
+    {
+        m_form.emplace(keyboard, m_values, m_boxes, m_dialogs, [this](const PrinterChoice& choice) {
+            m_chosen = choice;
+            return makePrinter();
+        });
+        m_form->show();
+        QApplication::setActiveWindow(&*m_form);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&*m_form));
+    }
+    /// A printer that prints into a file.
+    [[nodiscard]] std::unique_ptr<QPrinter> makePrinter() const
+    {
+        if (m_printFile.isEmpty())
+            return nullptr;
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setOutputFormat(QPrinter::PdfFormat);
+        printer->setOutputFileName(m_printFile);
+        return printer;
+    }
+    [[nodiscard]] QString path(const char* name) const { return m_folder.folder().path(name); }
+    /// By way of the event loop, whose handler keeps a failure.
+    void choose(const char* entry)
+    {
+        auto* const action = m_form->findChild<QAction*>(QLatin1StringView(entry));
+        QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
+        QCoreApplication::processEvents();
+    }
+    [[nodiscard]] QLineEdit& cell(int index)
+    {
+        return *m_form->findChild<QLineEdit*>(u"RichTextBox1_%1"_s.arg(index));
+    }
+    void type(int index, const char* text)
+    {
+        cell(index).setFocus();
+        cell(index).selectAll();
+        for (const QChar letter : QString::fromUtf8(text))
+            QTest::sendKeyEvent(QTest::Click, &cell(index), Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    }
+    void click(int index) { QTest::mouseClick(&cell(index), Qt::LeftButton); }
+    void doubleClick(int index) { QTest::mouseDClick(&cell(index), Qt::LeftButton); }
+    /// The colour of a cell as it is seen, beside its text.
+    [[nodiscard]] std::string colourOf(int index)
+    {
+        return cell(index).grab().toImage().pixelColor(4, 4).name().toStdString();
+    }
+    /// The lines of a cell in the file that Save writes.
+    [[nodiscard]] std::string saved(int index)
+    {
+        m_dialogs.files = {path("look.sav")};
+        m_boxes.answers = {true};
+        choose("Save");
+        const QByteArrayList lines = m_folder.folder().read("look.sav").split('\n');
+        QByteArray all = lines.mid(7 * index, 7).join('|');
+        return all.replace("\r", "").toStdString();
+    }
+    [[nodiscard]] int focused() const
+    {
+        return QApplication::focusWidget()->objectName().section(u'_', 1).toInt();
+    }
+    [[nodiscard]] std::string title() const { return m_form->windowTitle().toStdString(); }
+
+    store::test::StoreFolder m_folder{store::catalogue()};
+    ApplicationValues m_values;
+    test::RecordingBoxes m_boxes;
+    test::RecordingDialogs m_dialogs;
+    QString m_printFile;
+    std::optional<PrinterChoice> m_chosen;
+    std::optional<OverlayForm> m_form;
+};
+
+TEST_F(OverlayFormTest, AsksForFilesAsEachKeyboardHasThem)
+{
+    const std::pair<Keyboard, const char*> rows[] = {
+        {Keyboard::Dorvik, "New|C|Keyboard Files (*.Dorvik)|Velmar;Open|C|Keyboard Files (*.Dorvik)|;"
+                           "Save|C|Keyboard Files (*.Dorvik)|Velmar"},
+        {Keyboard::Velmar, "New|C|Keyboard Files (*.Velmar)|Velmar;Open|C|Keyboard Files (*.Velmar)|;"
+                           "Save|C|Keyboard Files (*.Velmar)|Velmar"},
+        {Keyboard::Quelmont, "New|/app|Keyboard Files (*.ky4)|ky4;Open|C|Keyboard Files (*.ky4)|;"
+                             "Save|C|Keyboard Files (*.ky4)|ky4"},
+    };
+    for (const auto& [keyboard, expected] : rows) {
+        open(keyboard);
+        m_dialogs.asked.clear();
+        for (const char* entry : {"New", "Open", "Save"})
+            choose(entry);
+        QStringList asked;
+        for (const FileChoice& each : m_dialogs.asked) {
+            asked << u"%1|%2|%3|%4"_s.arg(each.title, each.path, each.filter, each.suffix)
+                         .replace(m_values.customerPath, u"C"_s);
+        }
+        EXPECT_EQ(asked.join(u';').toStdString(), expected);
+        EXPECT_EQ(m_form->findChild<QAction*>(u"ImportLevel5"_s) != nullptr, keyboard != Keyboard::Quelmont);
+    }
+    EXPECT_TRUE(m_boxes.shown.empty());
+}
+
+TEST_F(OverlayFormTest, SavesAndOpensAndTellsWhatIsWrong)
+{
+    m_folder.folder().write("short.Dorvik", "HALF\r\n255\r\n");
+    m_folder.folder().write("junk.Dorvik", "JUNK\r\nred\r\n");
+    open(Keyboard::Dorvik);
+    EXPECT_EQ(title(), "Dorvik Keyboard - Untitled[*]");
+    type(3, "TEA");
+    EXPECT_TRUE(m_form->isWindowModified());
+    m_dialogs.files = {path("short.Dorvik"), path("tea.Dorvik")};
+    m_boxes.answers = {false};
+    choose("Save");
+    EXPECT_EQ(m_boxes.shown.back(), (ShownBox{u"short.Dorvik exists already. Replace it?"_s, u"Save"_s,
+                                              BoxIcon::Question, BoxAnswer::No}));
+    EXPECT_EQ(title(), "Dorvik Keyboard - tea.Dorvik[*]");
+    EXPECT_FALSE(m_form->isWindowModified());
+    m_boxes.shown.clear();
+    m_dialogs.files = {path("tea.Dorvik"), path("short.Dorvik"), path("junk.Dorvik")};
+    choose("Save");
+    choose("Open");
+    EXPECT_EQ(cell(0).text(), u"HALF"_s);
+    m_boxes.answers = {true};
+    choose("Open");
+    ASSERT_EQ(m_boxes.shown.size(), 3U) << "saving again asks nothing";
+    EXPECT_EQ(m_boxes.shown[0], (ShownBox{u"Incorrect file format"_s, u"File Error"_s, BoxIcon::Critical}));
+    EXPECT_EQ(m_boxes.shown[1].title, u"Unsaved Changes"_s);
+    EXPECT_EQ(m_boxes.shown[2].title, u"Error"_s);
+    EXPECT_TRUE(m_boxes.shown[2].text.startsWith(u"System error 13: "_s));
+    choose("Undo");
+    choose("Undo");
+    EXPECT_EQ(cell(0).text() + cell(3).text(), u" RECEIPTTEA"_s);
+    m_dialogs.files = {path("no/such/folder.Dorvik")};
+    choose("Save");
+    EXPECT_TRUE(m_boxes.shown.back().text.startsWith(u"System error 75: "_s));
+    EXPECT_FALSE(test::takeFailure());
+}
+
+TEST_F(OverlayFormTest, ClicksGiveTheFontAndDoubleClicksTheColours)
+{
+    open(Keyboard::Velmar);
+    auto& sample = *m_form->findChild<QLabel*>(u"Label1"_s);
+    click(9);
+    m_dialogs.colours = {QColor(0, 0, 255), QColor(255, 255, 0)};
+    choose("BackGround");
+    choose("TextColour");
+    QFont chosen(u"Liberation Mono"_s, 7);
+    chosen.setItalic(true);
+    m_dialogs.fonts = {chosen};
+    choose("Font");
+    choose("Font"); // cancelled
+    EXPECT_EQ(sample.text(), u"Liberation Mono"_s);
+    EXPECT_EQ(sample.palette().color(QPalette::Window), QColor(0, 0, 255));
+    EXPECT_EQ(sample.palette().color(QPalette::WindowText), QColor(255, 255, 0));
+    click(3);
+    doubleClick(6);
+    doubleClick(378);
+    EXPECT_EQ(colourOf(6) + colourOf(8) + colourOf(378) + colourOf(379), "#0000ff#0000ff#0000ff#ffffff");
+    EXPECT_EQ(cell(3).toolTip(), u"Double Click changes text & background colours"_s);
+    QTest::keyClick(&cell(378), Qt::Key_Tab);
+    EXPECT_EQ(saved(3), "|16777215|0|Liberation Mono|7|False|True");
+    EXPECT_EQ(saved(6), "|16711680|65535|Arial|8|True|False");
+    EXPECT_EQ(saved(9) + saved(focused()), "|16777215|0|Arial|8|True|False 8|16777215|0|Arial|8|True|False");
+    for (int step = 0; step < 3; ++step)
+        QTest::keyClick(&cell(3), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(saved(3) + colourOf(6), "|16777215|0|Arial|8|True|False#ffffff");
+}
+
+TEST_F(OverlayFormTest, OffersTheColoursUsedLast)
+{
+    open(Keyboard::Dorvik);
+    for (int shade = 1; shade <= 9; ++shade) {
+        m_dialogs.colours.push_back(QColor(shade * 20, 0, 0));
+        choose("BackGround");
+    }
+    auto& sample = *m_form->findChild<QLabel*>(u"Label1"_s);
+    const auto field = [this](int place) {
+        return m_form->findChild<QToolButton*>(u"RecentColour_%1"_s.arg(place));
+    };
+    QTest::mouseClick(field(8), Qt::LeftButton);
+    QTest::mouseClick(field(2), Qt::RightButton);
+    EXPECT_EQ(sample.palette().color(QPalette::Window), QColor(40, 0, 0));
+    EXPECT_EQ(sample.palette().color(QPalette::WindowText), QColor(160, 0, 0));
+}
+
+TEST_F(OverlayFormTest, WalksByKeysAndTakesOnlyWhatARegisterHas)
+{
+    open(Keyboard::Dorvik);
+    EXPECT_EQ(focused(), 0);
+    const std::pair<Qt::Key, int> steps[] = {
+        {Qt::Key_Down, 1},   {Qt::Key_Return, 2}, {Qt::Key_Tab, 30},   {Qt::Key_Right, 60},
+        {Qt::Key_Down, 61},  {Qt::Key_Left, 31},  {Qt::Key_Enter, 32}, {Qt::Key_Backtab, 31},
+        {Qt::Key_Right, 61}, {Qt::Key_Right, 91}, {Qt::Key_Up, 90},    {Qt::Key_Up, 90},
+    };
+    for (const auto& [key, expected] : steps) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        EXPECT_EQ(focused(), expected) << key;
+    }
+    EXPECT_FALSE(m_form->isWindowModified());
+    type(90, "Caf\u00e9 \u0416\u4e2d\u20ac");
+    EXPECT_EQ(cell(90).text(), u"Café €"_s);
+    QTest::keyClick(&cell(90), Qt::Key_Left);
+    EXPECT_EQ(focused(), 90) << "within a text an arrow moves the cursor";
+    type(91, "A TEXT FAR WIDER THAN ITS KEY");
+    const auto* const bar = m_form->findChild<QStatusBar*>();
+    EXPECT_TRUE(bar->currentMessage().startsWith(u"Wider than its key: only \"A TEXT "_s));
+    type(92, "KEY");
+    choose("CopyKey");
+    cell(120).setFocus();
+    choose("PasteKey");
+    EXPECT_EQ(cell(120).text() + cell(122).text(), u"Café €KEY"_s);
+    choose("Undo");
+    choose("Undo");
+    EXPECT_EQ(cell(120).text() + cell(92).text(), QString());
+    EXPECT_TRUE(cell(91).text().startsWith(u"A TEXT"_s));
+}
+
+TEST_F(OverlayFormTest, PrintsOnceAndTellsWhatFails)
+{
+    open(Keyboard::Velmar);
+    m_boxes.answers = {false};
+    choose("Print");
+    EXPECT_EQ(m_boxes.shown, std::vector{startPrinting});
+    EXPECT_FALSE(m_chosen) << "Cancel leaves the printer alone";
+    for (const char* file : {"", "no/such/folder.pdf"}) {
+        m_printFile = *file != '\0' ? path(file) : QString();
+        m_boxes.answers = {true};
+        choose("Print");
+        EXPECT_EQ(m_boxes.shown.back(), printerFailure) << file;
+    }
+    m_dialogs.printerChoice = PrinterChoice{u"Back office"_s, QPageLayout::Portrait};
+    choose("PrinterSetup");
+    type(3, "A TEXT FAR WIDER THAN ITS KEY");
+    m_printFile = path("sheet.pdf");
+    m_boxes.shown.clear();
+    m_boxes.answers = {true, false, true, true};
+    choose("Print");
+    EXPECT_FALSE(QFile::exists(m_printFile));
+    choose("Print");
+    ASSERT_EQ(m_boxes.shown.size(), 4U);
+    EXPECT_EQ(m_boxes.shown[1],
+              (ShownBox{u"The text \"A TEXT FAR WIDER THAN ITS KEY\" is wider than its key and will be "
+                        "cut.\r\rPrint all the same?"_s,
+                        u"Print Option"_s, BoxIcon::Question}));
+    EXPECT_EQ(m_chosen->name, u"Back office"_s);
+    const QString sheet = QString::fromLatin1(m_folder.folder().read("sheet.pdf"));
+    EXPECT_EQ(sheet.count(QRegularExpression(u"/Type /Page\\b"_s)), 1) << "one page and no empty one";
+    EXPECT_TRUE(sheet.contains(QRegularExpression(u"MediaBox \\[0 0 595\\S* 84[12]"_s))) << "A4 portrait";
+}
+
+TEST_F(OverlayFormTest, ImportsAndOffersToSaveBeforeAFailureEndsAll)
+{
+    open(Keyboard::Dorvik);
+    choose("ImportLevel1");
+    EXPECT_EQ(test::takeFailure()->number(), 3021);
+    EXPECT_TRUE(m_boxes.shown.empty()) << "nothing would be lost";
+    type(3, "TEA");
+    m_boxes.answers = {true};
+    m_dialogs.files = {path("tea.Dorvik")};
+    choose("ImportLevel1");
+    EXPECT_EQ(test::takeFailure()->number(), 3021);
+    EXPECT_EQ(m_boxes.shown.size(), 1U);
+    EXPECT_TRUE(m_folder.folder().read("tea.Dorvik").contains("TEA"));
+}
+
+TEST_F(OverlayFormTest, LeavingAsksOnceAboutUnsavedChanges)
+{
+    const std::function<void()> ways[] = {
+        [this] { choose("Exit"); },
+        [this] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); },
+        [this] { m_form->close(); },
+    };
+    for (const auto& leave : ways) {
+        open(Keyboard::Quelmont);
+        m_boxes.shown.clear();
+        type(3, "TEA");
+        m_boxes.answers = {false};
+        leave();
+        EXPECT_TRUE(m_form->isVisible());
+        m_boxes.answers = {true};
+        leave();
+        EXPECT_FALSE(m_form->isVisible());
+        EXPECT_EQ(
+            m_boxes.shown,
+            std::vector(
+                2, ShownBox{u"Untitled has changes that were not saved. [&Drop the changes|&Keep them]"_s,
+                            u"Unsaved Changes"_s, BoxIcon::Exclamation}));
+    }
+    open(Keyboard::Quelmont);
+    m_form->close();
+    EXPECT_FALSE(m_form->isVisible());
+}
+
+} // namespace
+} // namespace norvane::overlay
