@@ -5,7 +5,6 @@
 #include "overlay/KeyboardView.h"
 #include "overlay/KeyClipboard.h"
 #include "overlay/SheetPainter.h"
-#include "overlay/SheetPrint.h"
 #include "platform/Boxes.h"
 #include "platform/RuntimeFailure.h"
 #include "ui/Appearance.h"
@@ -70,8 +69,9 @@ struct OverlayForm::Entry {
 
 OverlayForm::OverlayForm(Keyboard keyboard, const ApplicationValues& values, Boxes& boxes,
                          OverlayDialogs& dialogs, PrinterFinder finder, QWidget* parent)
-    : QDialog(parent, Qt::Window), m_values(values), m_boxes(boxes), m_dialogs(dialogs),
-      m_finder(std::move(finder)), m_editor(keyboard), m_files(m_editor, values, boxes, dialogs),
+    : QDialog(parent, Qt::Window), m_values(values), m_boxes(boxes), m_dialogs(dialogs), m_editor(keyboard),
+      m_files(m_editor, values, boxes, dialogs),
+      m_sheet(m_editor.document(), boxes, dialogs, std::move(finder)),
       m_keyboard(new KeyboardView(m_editor, this)), m_colours(new ColourStrip(this)),
       Label1(new QLabel(u"Sample"_s, this)), StatusBar1(new QStatusBar(this))
 {
@@ -155,8 +155,12 @@ QToolBar* OverlayForm::makeTools()
         {"PasteKey", "Paste key", &OverlayForm::pasteKey, "Ctrl+Shift+V",
          "Gives the key the lines, colours and fonts that were copied (Ctrl+Shift+V)"},
     }};
-    static constexpr Entry pdf{"SavePdf", "Save as PDF", &OverlayForm::savePdf, "",
-                               "Writes the sheet as it prints into a PDF file"};
+    static constexpr std::array<Entry, 3> sheet = {{
+        {"Preview", "Preview", &OverlayForm::preview, "", "The sheet as it will print"},
+        {"SavePdf", "Save as PDF", &OverlayForm::savePdf, "", "Writes the sheet into a PDF file"},
+        {"PrinterCorrection", "Printer correction", &OverlayForm::correctPrinter, "",
+         "Puts right a printer that prints beside the keys"},
+    }};
     auto* const bar = new QToolBar(this);
     ui::nameControl(*bar, u"Tools"_s);
     for (const Entry& entry : edits)
@@ -165,7 +169,8 @@ QToolBar* OverlayForm::makeTools()
     m_redo = bar->actions().at(1);
     m_keyboard->addActions(bar->actions().mid(2));
     bar->addSeparator();
-    addEntry(*bar, pdf);
+    for (const Entry& entry : sheet)
+        addEntry(*bar, entry);
     bar->addSeparator();
     addZoom(*bar);
     bar->addSeparator();
@@ -244,30 +249,17 @@ void OverlayForm::save()
         tell(u"Saved as %1."_s.arg(QDir::toNativeSeparators(m_editor.fileName())));
 }
 
-void OverlayForm::setUpPrinter()
+void OverlayForm::preview()
 {
-    if (const auto chosen = m_dialogs.printer(m_printer))
-        m_printer = *chosen;
-}
-
-void OverlayForm::print()
-{
-    printOverlay(m_editor.document(), m_files.documentName(), m_printer, m_finder, m_boxes);
+    m_sheet.preview([this] { print(); }, [this] { savePdf(); }, this);
 }
 
 void OverlayForm::savePdf()
 {
     const QString name = QFileInfo(m_files.documentName()).completeBaseName() + u".pdf"_s;
-    const QString path = m_boxes.fileToSave(
-        {u"Save as PDF"_s, QDir(m_values.customerPath).filePath(name), u"PDF (*.pdf)"_s, u"pdf"_s});
-    if (path.isEmpty())
-        return;
-    try {
-        writeSheetPdf(m_editor.document(), m_printer.orientation, path);
+    const QString path = m_sheet.savePdf(QDir(m_values.customerPath).filePath(name));
+    if (!path.isEmpty())
         tell(u"Saved as %1."_s.arg(QDir::toNativeSeparators(path)));
-    } catch (const RuntimeFailure& failure) {
-        m_boxes.message(failure.text(), u"Save as PDF"_s, BoxIcon::Critical);
-    }
 }
 
 /// Before the first choice the dialog begins with the font of the cell in use.

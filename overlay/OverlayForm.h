@@ -3,7 +3,7 @@
 
 #include "overlay/DocumentEditor.h"
 #include "overlay/FileActions.h"
-#include "overlay/OverlayPrinting.h"
+#include "overlay/SheetActions.h"
 
 #include <QDialog>
 
@@ -51,8 +51,8 @@ private:
     void newFile();
     void open();
     void save();
-    void setUpPrinter();
-    void print();
+    void setUpPrinter() { m_sheet.setUpPrinter(); }
+    void print() { m_sheet.print(m_files.documentName()); }
     void chooseFont();
     void chooseBackground();
     void chooseTextColour();
@@ -61,7 +61,9 @@ private:
     void redo();
     void copyKey();
     void pasteKey();
+    void preview();
     void savePdf();
+    void correctPrinter() { m_sheet.correctPrinter(this); }
 
     void takeBackground(const QColor& colour);
     void takeTextColour(const QColor& colour);
@@ -76,10 +78,9 @@ private:
     const ApplicationValues& m_values;
     Boxes& m_boxes;
     OverlayDialogs& m_dialogs;
-    PrinterFinder m_finder;
-    PrinterChoice m_printer;
     DocumentEditor m_editor;
     FileActions m_files;
+    SheetActions m_sheet;
     KeyboardView* m_keyboard;
     ColourStrip* m_colours;
     QLabel* Label1;

@@ -24,4 +24,10 @@ Sheet sheetOf(const QPrinter& printer)
              millimetres(margins.bottom())}};
 }
 
+bool isThere(const QPrinter& printer)
+{
+    return printer.outputFormat() != QPrinter::NativeFormat ||
+           !QPrinterInfo::printerInfo(printer.printerName()).isNull();
+}
+
 } // namespace norvane::paper

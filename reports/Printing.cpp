@@ -1,27 +1,16 @@
 // See Printing.h.
 #include "reports/Printing.h"
 
+#include "paper/DefaultPrinter.h"
 #include "reports/PagedReport.h"
 #include "reports/ReportRun.h"
 
 #include <QPrinter>
-#include <QPrinterInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::reports
 {
-namespace
-{
-
-/// The print system accepts a job for a printer that is no longer there and reports no error.
-bool isThere(const QPrinter& printer)
-{
-    return printer.outputFormat() != QPrinter::NativeFormat ||
-           !QPrinterInfo::printerInfo(printer.printerName()).isNull();
-}
-
-} // namespace
 
 QString printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter,
                     const KeepGoing& keepGoing)
@@ -33,7 +22,7 @@ QString printReport(const ReportData& report, bool showsCharts, const PrinterFin
             "or save the report as a file."_s);
     }
     printer->setDocName(report.heading.title);
-    if (!paintReport(report, showsCharts, *printer, keepGoing) || !isThere(*printer))
+    if (!paintReport(report, showsCharts, *printer, keepGoing) || !paper::isThere(*printer))
         throw ReportError(u"The printer %1 does not print. Is it still there?"_s.arg(printer->printerName()));
     return printer->printerName();
 }

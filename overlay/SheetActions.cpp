@@ -1,0 +1,148 @@
+// See SheetActions.h.
+#include "overlay/SheetActions.h"
+
+#include "overlay/CorrectionForm.h"
+#include "overlay/OverlayPreview.h"
+#include "overlay/SheetPainter.h"
+#include "paper/DefaultPrinter.h"
+#include "platform/Boxes.h"
+#include "platform/Excerpt.h"
+#include "platform/RuntimeFailure.h"
+
+#include <QPrinterInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::overlay
+{
+
+std::unique_ptr<QPrinter> findPrinter(const PrinterChoice& choice)
+{
+    if (choice.name.isEmpty())
+        return paper::defaultPrinter();
+    const QPrinterInfo printer = QPrinterInfo::printerInfo(choice.name);
+    return printer.isNull() ? nullptr : std::make_unique<QPrinter>(printer, QPrinter::HighResolution);
+}
+
+SheetActions::SheetActions(const Document& document, Boxes& boxes, OverlayDialogs& dialogs,
+                           PrinterFinder finder)
+    : m_document(document), m_boxes(boxes), m_dialogs(dialogs), m_finder(std::move(finder))
+{
+}
+
+void SheetActions::setUpPrinter()
+{
+    if (const auto chosen = m_dialogs.printer(m_choice))
+        m_choice = *chosen;
+}
+
+std::unique_ptr<QPrinter> SheetActions::printerForSheet() const
+{
+    auto printer = m_finder(m_choice);
+    if (printer) {
+        printer->setPageSize(QPageSize(QPageSize::A4));
+        printer->setPageOrientation(m_choice.orientation);
+    }
+    return printer;
+}
+
+TargetPrinter SheetActions::targetOf(const QPrinter& printer) const
+{
+    return {printer.printerName(), paper::sheetOf(printer), m_corrections.of(printer.printerName())};
+}
+
+/// Without a printer the sheet is seen as a PDF will have it.
+TargetPrinter SheetActions::target() const
+{
+    const auto printer = printerForSheet();
+    return printer ? targetOf(*printer) : TargetPrinter{QString(), {m_choice.orientation}, {}};
+}
+
+bool SheetActions::printOn(const QString& name, const Painter& paint) const
+{
+    const auto printer = printerForSheet();
+    if (!printer)
+        return false;
+    printer->setDocName(name);
+    const bool isPrinted = paint(*printer, targetOf(*printer)) && paper::isThere(*printer);
+    // Letter is what the printer is left with. The job has ended, so no further page comes of it.
+    printer->setPageSize(QPageSize(QPageSize::Letter));
+    return isPrinted;
+}
+
+bool SheetActions::mayCut() const
+{
+    const std::vector<int> cut = cutCells(m_document);
+    if (cut.empty())
+        return true;
+    const QString first = excerpt(m_document.cell(cut.front()).text);
+    const QString told =
+        cut.size() == 1
+            ? u"The text \"%1\" is wider than its key and will be cut."_s.arg(first)
+            : u"%1 texts are wider than their keys and will be cut, the first of them is \"%2\"."_s
+                  .arg(cut.size())
+                  .arg(first);
+    return m_boxes.ask(told + u"\r\rPrint all the same?"_s, u"Print Option"_s);
+}
+
+void SheetActions::print(const QString& name)
+{
+    if (!m_boxes.confirm(u"Start Printing?"_s, u"Print Option"_s) || !mayCut())
+        return;
+    const auto paint = [this](QPrinter& printer, const TargetPrinter& target) {
+        return printSheet(m_document, printer, target);
+    };
+    if (!printOn(name, paint))
+        m_boxes.message(u"Printer Failure"_s, u"Error"_s, BoxIcon::Critical);
+}
+
+QString SheetActions::savePdf(const QString& suggested)
+{
+    const QString path = m_boxes.fileToSave({u"Save as PDF"_s, suggested, u"PDF (*.pdf)"_s, u"pdf"_s});
+    if (path.isEmpty())
+        return {};
+    try {
+        writeSheetPdf(m_document, m_choice.orientation, path);
+        return path;
+    } catch (const RuntimeFailure& failure) {
+        m_boxes.message(failure.text(), u"Save as PDF"_s, BoxIcon::Critical);
+        return {};
+    }
+}
+
+void SheetActions::preview(std::function<void()> print, std::function<void()> savePdf, QWidget* parent)
+{
+    OverlayPreview window(m_document, target(),
+                          {std::move(print), std::move(savePdf),
+                           [this](const paper::PrinterCorrection& tried) {
+                               return printTest(tried);
+                           }},
+                          m_corrections, m_boxes, parent);
+    window.exec();
+}
+
+bool SheetActions::printTest(const paper::PrinterCorrection& correction) const
+{
+    return printOn(u"Test page"_s, [&correction](QPrinter& printer, TargetPrinter target) {
+        target.correction = correction;
+        return printTestPage(printer, target);
+    });
+}
+
+void SheetActions::correctPrinter(QWidget* parent)
+{
+    const TargetPrinter corrected = target();
+    if (corrected.name.isEmpty()) {
+        m_boxes.message(u"There is no printer to correct. Choose one with Printer Setup."_s,
+                        u"Printer Correction"_s, BoxIcon::Information);
+        return;
+    }
+    CorrectionForm form(
+        corrected.name, corrected.correction,
+        [this](const paper::PrinterCorrection& tried) { return printTest(tried); }, m_boxes, parent);
+    if (form.exec() == QDialog::Accepted && !m_corrections.keep(corrected.name, form.correction()))
+        m_boxes.message(u"The correction could not be stored."_s, u"Printer Correction"_s,
+                        BoxIcon::Exclamation);
+}
+
+} // namespace norvane::overlay

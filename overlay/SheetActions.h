@@ -1,0 +1,61 @@
+// What an overlay form does with the sheet: preview, printing, PDF, the printer's set-up and correction.
+#pragma once
+
+#include "overlay/OverlayDialogs.h"
+#include "overlay/SheetPrint.h"
+
+#include <QPrinter>
+
+#include <functional>
+#include <memory>
+
+class QWidget;
+
+namespace norvane
+{
+class Boxes;
+}
+
+namespace norvane::overlay
+{
+
+/// Finds the printer that was chosen; null when the system does not have it (any more).
+using PrinterFinder = std::function<std::unique_ptr<QPrinter>(const PrinterChoice&)>;
+[[nodiscard]] std::unique_ptr<QPrinter> findPrinter(const PrinterChoice& choice);
+
+/// Works on a document and one choice of a printer. All that is handed in must outlive this.
+class SheetActions
+{
+public:
+    SheetActions(const Document& document, Boxes& boxes, OverlayDialogs& dialogs, PrinterFinder finder);
+
+    void setUpPrinter();
+    /// Asks whether to start, and once more when texts will be cut; tells when the printer fails.
+    /// @param name of the document, for the print queue.
+    void print(const QString& name);
+    /// @param suggested path. @return where the file was written; empty when it was not.
+    QString savePdf(const QString& suggested);
+    /// @param print, savePdf what the preview's buttons do.
+    void preview(std::function<void()> print, std::function<void()> savePdf, QWidget* parent);
+    /// Lets the user measure and correct the chosen printer.
+    void correctPrinter(QWidget* parent);
+
+private:
+    using Painter = std::function<bool(QPrinter&, const TargetPrinter&)>;
+
+    [[nodiscard]] TargetPrinter target() const;
+    [[nodiscard]] TargetPrinter targetOf(const QPrinter& printer) const;
+    [[nodiscard]] std::unique_ptr<QPrinter> printerForSheet() const;
+    [[nodiscard]] bool mayCut() const;
+    [[nodiscard]] bool printOn(const QString& name, const Painter& paint) const;
+    [[nodiscard]] bool printTest(const paper::PrinterCorrection& correction) const;
+
+    const Document& m_document;
+    Boxes& m_boxes;
+    OverlayDialogs& m_dialogs;
+    PrinterFinder m_finder;
+    PrinterChoice m_choice;
+    paper::PrinterCorrections m_corrections = paper::PrinterCorrections::ofThisComputer();
+};
+
+} // namespace norvane::overlay
