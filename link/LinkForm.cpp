@@ -2,7 +2,7 @@
 #include "link/LinkForm.h"
 
 #include "base/SharedRoutines.h"
-#include "platform/FolderLock.h"
+#include "customers/RunLock.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 #include "ui/StatusLine.h"
@@ -88,7 +88,7 @@ void LinkForm::communicate()
 {
     if (m_work != Work::None)
         return;
-    const auto lock = FolderLock::take(m_values.appPath, m_boxes);
+    const auto lock = customers::RunLock::take(m_values, m_boxes);
     if (lock == nullptr)
         return;
     beginRun();

@@ -31,6 +31,13 @@ public:
     ReportCancelled() : ReportError(QStringLiteral("The report was cancelled.")) {}
 };
 
+/// A file that a report should go to cannot be written.
+class TargetError : public ReportError
+{
+public:
+    using ReportError::ReportError;
+};
+
 /// What a report is run over.
 struct ReportRequest {
     QString reportFile;       ///< path of the layout; found without regard to case

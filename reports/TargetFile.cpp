@@ -13,7 +13,7 @@ namespace norvane::reports
 
 void failWriting(const QString& path, const QString& reason)
 {
-    throw ReportError(u"%1 could not be written: %2"_s.arg(QDir::toNativeSeparators(path), reason));
+    throw TargetError(u"%1 could not be written: %2"_s.arg(QDir::toNativeSeparators(path), reason));
 }
 
 void replaceFile(const QString& path, const QByteArray& content)

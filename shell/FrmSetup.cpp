@@ -20,6 +20,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::shell
 {
+
+using namespace customers;
+
 namespace
 {
 

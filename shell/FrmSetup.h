@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
-#include "shell/SetupModel.h"
+#include "customers/SetupModel.h"
 #include "shell/StatusForm.h"
 
 class QGroupBox;

@@ -3,7 +3,7 @@
 
 #include "customers/CustomerLog.h"
 #include "customers/SafetyCopies.h"
-#include "platform/FolderLock.h"
+#include "customers/RunLock.h"
 #include "store/SalesTables.h"
 #include "utilities/PriceConversion.h"
 
@@ -125,7 +125,7 @@ void runPriceUtility(const PriceUtility& utility, const ApplicationValues& value
 {
     if (!boxes.ask(utility.confirm.text, utility.confirm.title, BoxIcon::Question, BoxAnswer::No))
         return;
-    const auto lock = FolderLock::take(values.appPath, boxes);
+    const auto lock = customers::RunLock::take(values, boxes);
     if (lock == nullptr)
         return;
     customers::LoggedWork work(QFileInfo(values.databasePath).path(), utility.confirm.title);

@@ -1,5 +1,5 @@
 // Table of the settings and how setup.ini spells them; see SetupModel.h.
-#include "shell/SetupModel.h"
+#include "customers/SetupModel.h"
 
 #include "base/CustomerSettings.h"
 #include "platform/FailurePlace.h"
@@ -10,7 +10,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace norvane::shell
+namespace norvane::customers
 {
 namespace
 {
@@ -105,4 +105,4 @@ int writeSettings(const ApplicationValues& values, const QList<SettingValue>& se
     return written;
 }
 
-} // namespace norvane::shell
+} // namespace norvane::customers

@@ -9,7 +9,7 @@
 
 #include <span>
 
-namespace norvane::shell
+namespace norvane::customers
 {
 
 enum class SettingForm {
@@ -48,4 +48,4 @@ struct SettingValue {
 /// @return how many of them were written.
 [[nodiscard]] int writeSettings(const ApplicationValues& values, const QList<SettingValue>& settingValues);
 
-} // namespace norvane::shell
+} // namespace norvane::customers

@@ -1,0 +1,49 @@
+// Safety copies: which there are, and the way back to one.
+#include "command/Verbs.h"
+#include "customers/RunLock.h"
+#include "customers/SafetyCopies.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::command
+{
+namespace
+{
+
+/// @throws CommandError NoSuchName when none or several begin so.
+customers::SafetyCopy copyOf(const QString& customerPath, const QString& name)
+{
+    QList<customers::SafetyCopy> found;
+    for (const auto& copy : customers::safetyCopies(customerPath)) {
+        if (copy.name == name)
+            return copy;
+        if (!name.isEmpty() && copy.name.startsWith(name))
+            found << copy;
+    }
+    if (found.size() == 1)
+        return found.front();
+    const QString why =
+        found.isEmpty() ? u"There is no copy \"%1\"."_s : u"Several copies begin with \"%1\"."_s;
+    throw CommandError(ExitCode::NoSuchName, why.arg(name));
+}
+
+} // namespace
+
+void listCopies(const Session& session, const Invocation& words)
+{
+    const ApplicationValues values = takeCustomer(session, words.operands.front());
+    Listing listing({u"Name"_s, u"Made"_s, u"Reason"_s});
+    for (const auto& copy : customers::safetyCopies(values.customerPath))
+        listing.add({copy.name, copy.made, copy.reason});
+    session.show(listing);
+}
+
+void restore(const Session& session, const Invocation& words)
+{
+    const ApplicationValues values = takeCustomer(session, words.operands[0]);
+    const auto copy = copyOf(values.customerPath, words.operands[1]);
+    const auto lock = lockFor(session, values);
+    customers::restoreSafetyCopy(values.customerPath, copy);
+}
+
+} // namespace norvane::command

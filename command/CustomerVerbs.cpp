@@ -1,0 +1,135 @@
+// Customers: which there are, and whether one is sound.
+#include "base/CustomerSettings.h"
+#include "command/InstallationCheck.h"
+#include "command/TerminalBoxes.h"
+#include "command/Verbs.h"
+#include "customers/CustomerFolders.h"
+#include "customers/CustomerLog.h"
+#include "customers/SetupModel.h"
+#include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
+#include "store/BoundQuery.h"
+#include "store/Catalogue.h"
+#include "store/SalesTables.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::command
+{
+namespace
+{
+
+/// What the customer's setup.ini says of a key, as the setup dialog words it; the text itself where it is no
+/// entry of the list.
+QString settingInWords(const ApplicationValues& values, QLatin1StringView key)
+{
+    const auto all = customers::settings();
+    const auto setting = std::ranges::find(all, key, &customers::Setting::key);
+    const QString stored = readSetting(values, key, setting->defaultText).trimmed();
+    bool isNumber = false;
+    const int index = stored.toInt(&isNumber);
+    const QStringList items = customers::itemsOf(*setting);
+    return isNumber && index >= 0 && index < items.size() ? items[index] : stored;
+}
+
+/// The last day that any sales table holds. @throws RuntimeFailure for a database that cannot be read.
+QVariant lastSales(const QString& database)
+{
+    using namespace store::salestable;
+    store::Database opened(database);
+    QString last;
+    for (const char* const table : {times, clerks, plus, mixes, financials}) {
+        store::BoundQuery query(opened, "SELECT MAX(\"" + std::string(day) + "\") FROM \"" + table + '"', {},
+                                database);
+        if (query.next())
+            last = std::max(last, query.value(0).toText());
+    }
+    const QDate day = QDate::fromString(last, Qt::ISODate);
+    return day.isValid() ? QVariant(day) : QVariant();
+}
+
+QVariantList customerRow(const Session& session, const QString& name)
+{
+    ApplicationValues values;
+    values.appPath = session.appPath;
+    values.customerPath = existingPath(joinPath(session.appPath, name));
+    const auto exchange = customers::lastLogged(values.customerPath, {u"upload"_s, u"download"_s});
+    QVariant sales;
+    try {
+        sales = lastSales(customers::customerDatabase(values.customerPath));
+    } catch (const RuntimeFailure&) {
+        sales = u"unreadable"_s;
+    }
+    return {name, settingInWords(values, "ECRModel"_L1), settingInWords(values, "NoOfECRs"_L1),
+            exchange ? QVariant(exchange->begun) : QVariant(), sales};
+}
+
+/// What the catalogue has and the customer's database lacks.
+QStringList missingIn(const QString& database)
+{
+    const store::Database opened(database);
+    QStringList missing;
+    for (const auto& table : store::catalogue()) {
+        if (!opened.hasTable(table.name)) {
+            missing << u"There is no table %1."_s.arg(table.name);
+            continue;
+        }
+        const auto stored = opened.table(table.name).fields;
+        for (const auto& field : table.fields) {
+            const auto isIt = [&field](const auto& other) {
+                return other.name.compare(field.name, Qt::CaseInsensitive) == 0;
+            };
+            if (std::ranges::none_of(stored, isIt))
+                missing << u"The table %1 has no field %2."_s.arg(table.name, field.name);
+        }
+    }
+    return missing;
+}
+
+QStringList faultySettings(const ApplicationValues& values)
+{
+    if (!QFileInfo(existingPath(settingsPath(values))).isFile())
+        return {u"There is no file %1."_s.arg(settingsPath(values))};
+    try {
+        (void)customers::readSettings(values);
+        return {};
+    } catch (const RuntimeFailure& failure) {
+        return {failure.text().simplified()};
+    }
+}
+
+} // namespace
+
+void listCustomers(const Session& session, const Invocation& /*words*/)
+{
+    Listing listing({u"Name"_s, u"Model"_s, u"Registers"_s, u"Last exchange"_s, u"Last sales"_s});
+    for (const QString& name : customers::customerFolders(session.appPath)) {
+        if (pathExists(customers::customerDatabase(joinPath(session.appPath, name))))
+            listing.add(customerRow(session, name));
+    }
+    session.show(listing);
+}
+
+void checkCustomer(const Session& session, const Invocation& words)
+{
+    const ApplicationValues values = takeCustomer(session, words.operands.front());
+    Listing listing({u"Part"_s, u"Finding"_s});
+    const auto add = [&listing](const QString& part, const QStringList& findings) {
+        for (const QString& finding : findings)
+            listing.add({part, finding});
+    };
+    add(u"database"_s, missingIn(values.databasePath));
+    add(u"settings"_s, faultySettings(values));
+    add(u"installation"_s, checkInstallation(session.appPath).mistakes);
+    if (session.asJson || !listing.isEmpty())
+        session.show(listing);
+    if (!listing.isEmpty())
+        throw CommandError(ExitCode::Unsound, {});
+    tellStep(u"Nothing is wrong."_s);
+}
+
+} // namespace norvane::command

@@ -1,0 +1,150 @@
+// Work with the registers: the runs of the window, without it.
+#include "base/SharedRoutines.h"
+#include "command/TerminalBoxes.h"
+#include "command/Verbs.h"
+#include "customers/RunLock.h"
+#include "exchange/ExchangeBoxes.h"
+#include "exchange/ExchangeRunner.h"
+#include "link/Modem.h"
+#include "link/ResultCodes.h"
+#include "sales/CollectionRun.h"
+
+#include <QScopeGuard>
+
+#include <set>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::command
+{
+namespace
+{
+
+/// The way to the registers for as long as a run lasts.
+class Line
+{
+public:
+    /// @return what dialling gave, 0 on a direct line.
+    int connect(const link::LinkSettings& link)
+    {
+        m_link = link;
+        m_modem.setUpLine(link);
+        return link.isModem() ? m_modem.DialModem(link) : 0;
+    }
+    void disconnect()
+    {
+        if (m_link.isModem())
+            m_modem.Dropphoneline();
+    }
+
+private:
+    std::unique_ptr<SerialLine> m_line = makeSerialLine();
+    link::SystemClock m_clock;
+    link::Modem m_modem{*m_line, m_clock, tellStep};
+    link::LinkSettings m_link;
+};
+
+link::RunOutside outsideOf(const Session& session, const ApplicationValues& values)
+{
+    return {.runAndWait = [&values](const QString& line) { return RunAndWait(values, line); },
+            .readStatus = ReadStatusOut,
+            .showStep = tellStep,
+            .showNotice = tell,
+            .goOn = [] { return true; },
+            .boxes = session.boxes};
+}
+
+class Ticks : public exchange::TickBoxes
+{
+public:
+    explicit Ticks(std::set<int> boxes) : m_boxes(std::move(boxes)) {}
+    [[nodiscard]] bool isTicked(int box) const override { return m_boxes.contains(box); }
+    void setTicked(int box, bool ticked) override
+    {
+        if (ticked) {
+            m_boxes.insert(box);
+        } else {
+            m_boxes.erase(box);
+        }
+    }
+
+private:
+    std::set<int> m_boxes;
+};
+
+/// A box by its number in the dialog, counted from 1, or by its caption or the beginning of one, in any case.
+/// @throws CommandError NoSuchName for none or several.
+int boxOf(const QString& name)
+{
+    bool isNumber = false;
+    const int number = name.toInt(&isNumber);
+    if (isNumber && number >= 1 && number <= exchange::boxCount)
+        return number - 1;
+    QList<int> found;
+    for (int box = 0; box < exchange::boxCount; ++box) {
+        const QString caption = exchange::boxName(box);
+        if (caption.compare(name, Qt::CaseInsensitive) == 0)
+            return box;
+        if (!name.isEmpty() && caption.startsWith(name, Qt::CaseInsensitive))
+            found << box;
+    }
+    if (found.size() == 1)
+        return found.front();
+    const QString text = found.isEmpty() ? u"There is no box \"%1\"."_s.arg(name)
+                                         : u"\"%1\" may be: %2."_s.arg(name, exchange::boxNames(found));
+    throw CommandError(ExitCode::NoSuchName, text);
+}
+
+/// The boxes named behind the customer; all without any.
+std::set<int> boxesOf(const QStringList& names)
+{
+    std::set<int> boxes;
+    for (const QString& name : names)
+        boxes.insert(boxOf(name));
+    for (int box = 0; names.isEmpty() && box < exchange::boxCount; ++box)
+        boxes.insert(box);
+    return boxes;
+}
+
+void exchangeWith(const Session& session, const Invocation& words,
+                  bool (exchange::ExchangeRunner::*sequence)())
+{
+    const ApplicationValues values = takeCustomer(session, words.operands.front());
+    Ticks ticks(boxesOf(words.operands.mid(1)));
+    const auto lock = lockFor(session, values);
+    const link::LinkSettings link = link::readLinkSettings(values);
+    Line line;
+    // Also when a failure ends the run: an open call costs the shop money.
+    const auto hangUp = qScopeGuard([&line] { line.disconnect(); });
+    if (line.connect(link) == link::modemFailed)
+        throw CommandError(ExitCode::Stopped, u"Communications Error: Modem Failure"_s);
+    exchange::ExchangeRunner runner(values, link, ticks, outsideOf(session, values));
+    if (!(runner.*sequence)())
+        throw CommandError(ExitCode::Stopped, {});
+}
+
+} // namespace
+
+void fetch(const Session& session, const Invocation& words)
+{
+    exchangeWith(session, words, &exchange::ExchangeRunner::UploadData);
+}
+
+void send(const Session& session, const Invocation& words)
+{
+    exchangeWith(session, words, &exchange::ExchangeRunner::downloaddata);
+}
+
+void collect(const Session& session, const Invocation& words)
+{
+    const ApplicationValues values = takeCustomer(session, words.operands.front());
+    const auto lock = lockFor(session, values);
+    Line line;
+    sales::CollectionRun run(values, {.connectLink = [&line](const auto& link) { return line.connect(link); },
+                                      .disconnectLink = [&line] { line.disconnect(); },
+                                      .run = outsideOf(session, values)});
+    if (!run.collect())
+        throw CommandError(ExitCode::Stopped, {});
+}
+
+} // namespace norvane::command

@@ -1,0 +1,48 @@
+// How a command ended, for scripts.
+#pragma once
+
+#include <QLatin1StringView>
+#include <QString>
+
+#include <span>
+#include <stdexcept>
+
+namespace norvane::command
+{
+
+enum class ExitCode {
+    Done = 0,
+    Failed = 1,
+    Usage = 2,
+    NoCustomer = 3,
+    NoSuchName = 4,
+    Busy = 5,
+    Stopped = 6,
+    Unwritable = 7,
+    Unsound = 8,
+};
+
+struct ExitMeaning {
+    ExitCode code;
+    QLatin1StringView text;
+};
+/// All codes with their meaning, as help and manual tell them.
+[[nodiscard]] std::span<const ExitMeaning> exitMeanings();
+
+/// Ends a command. The text, which may be empty when the user was told already, goes to standard error.
+class CommandError : public std::runtime_error
+{
+public:
+    CommandError(ExitCode code, const QString& text)
+        : std::runtime_error(text.toStdString()), m_code(code), m_text(text)
+    {
+    }
+    [[nodiscard]] ExitCode code() const { return m_code; }
+    [[nodiscard]] const QString& text() const { return m_text; }
+
+private:
+    ExitCode m_code;
+    QString m_text;
+};
+
+} // namespace norvane::command

@@ -1,0 +1,56 @@
+// The words of a command line, and the table of what it can say.
+#pragma once
+
+#include "command/ExitCode.h"
+
+#include <QHash>
+#include <QLatin1StringView>
+#include <QStringList>
+
+#include <optional>
+#include <span>
+
+namespace norvane::command
+{
+
+struct OptionDefinition {
+    QLatin1StringView name;  ///< "pdf"
+    QLatin1StringView value; ///< "FILE"; empty for a switch
+    QLatin1StringView text;
+};
+
+/// A command line as it was typed, checked against its verb.
+struct Invocation {
+    QStringList operands; ///< behind the verb
+    QHash<QString, QString> options;
+
+    [[nodiscard]] bool has(QLatin1StringView option) const { return options.contains(option); }
+    [[nodiscard]] QString value(QLatin1StringView option) const { return options.value(option); }
+};
+
+struct Session;
+
+struct Verb {
+    QLatin1StringView name;
+    QLatin1StringView operands; ///< as help shows them: "CUSTOMER [BOX...]"
+    int least;                  ///< of them
+    int most;                   ///< -1 for any number
+    std::span<const OptionDefinition> options;
+    QLatin1StringView text;
+    /// @throws CommandError, and what the product throws.
+    void (*run)(const Session& session, const Invocation& words);
+};
+
+/// Every verb, in the order of the help.
+[[nodiscard]] std::span<const Verb> verbs();
+/// Options that stand with any verb.
+[[nodiscard]] std::span<const OptionDefinition> commonOptions();
+
+/// The verb and the words behind it. @param words without the program's own name.
+/// @throws CommandError Usage for an unknown verb or option, a missing value, too few or too many operands.
+[[nodiscard]] std::pair<const Verb*, Invocation> parse(const QStringList& words);
+
+/// All verbs, options and exit codes.
+[[nodiscard]] QString helpText();
+
+} // namespace norvane::command

@@ -1,0 +1,91 @@
+// Entry of the command line.
+#include "command/Invocation.h"
+#include "command/Session.h"
+#include "command/TerminalBoxes.h"
+#include "platform/RuntimeFailure.h"
+#include "reports/ReportRun.h"
+
+#include <QDir>
+#include <QGuiApplication>
+
+#include <cstdio>
+
+using namespace norvane;
+using namespace norvane::command;
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+ExitCode codeOf(const RuntimeFailure& failure)
+{
+    switch (failure.failure()) {
+    case Failure::PathOrFileAccess:
+    case Failure::DiskFull:
+        return ExitCode::Unwritable;
+    case Failure::DatabaseLocked:
+        return ExitCode::Busy;
+    default:
+        return ExitCode::Failed;
+    }
+}
+
+void run(const QStringList& words)
+{
+    const auto [verb, invocation] = parse(words);
+    const QString started = QDir::currentPath();
+    const QString folder = invocation.has("folder"_L1)
+                               ? QDir(started).absoluteFilePath(invocation.value("folder"_L1))
+                               : QCoreApplication::applicationDirPath();
+    // The tools are found there, and leave their files there.
+    if (!QDir::setCurrent(folder))
+        throw CommandError(ExitCode::Usage, u"There is no folder %1."_s.arg(folder));
+    TerminalBoxes boxes;
+    verb->run({QDir::cleanPath(folder), started, invocation.has("json"_L1), boxes}, invocation);
+}
+
+ExitCode guarded(const QStringList& words)
+{
+    try {
+        run(words);
+        return ExitCode::Done;
+    } catch (const CommandError& error) {
+        if (!error.text().isEmpty())
+            tell(error.text());
+        return error.code();
+    } catch (const reports::TargetError& error) {
+        tell(error.text());
+        return ExitCode::Unwritable;
+    } catch (const reports::ReportError& error) {
+        tell(u"Report Error: %1"_s.arg(error.text()));
+    } catch (const RuntimeFailure& failure) {
+        tell(u"Run-time error '%1': %2"_s.arg(failure.number()).arg(failure.text()));
+        return codeOf(failure);
+    } catch (const std::exception& failure) {
+        tell(u"Internal error: %1"_s.arg(QString::fromLocal8Bit(failure.what())));
+    }
+    return ExitCode::Failed;
+}
+
+/// The toolkit's remarks about the machine are not for a script's mail.
+void keepToolkitQuiet(QtMsgType type, const QMessageLogContext& /*place*/, const QString& text)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        tell(text);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qInstallMessageHandler(keepToolkitQuiet);
+    // Pages are painted with the fonts of the system, but no window opens.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    const QStringList words = QCoreApplication::arguments().mid(1);
+    if (words.contains("--help"_L1)) {
+        std::fputs(qPrintable(helpText()), stdout);
+        return 0;
+    }
+    return static_cast<int>(guarded(words));
+}

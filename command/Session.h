@@ -1,0 +1,39 @@
+// Where a command works and for whom.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "command/Listing.h"
+#include "platform/Boxes.h"
+
+#include <QString>
+
+namespace norvane::customers
+{
+class RunLock;
+}
+
+namespace norvane::command
+{
+
+struct Session {
+    QString appPath;   ///< the program's folder, which is the working directory
+    QString startedIn; ///< where the user was: files named on the command line are looked for there
+    bool asJson = false;
+    Boxes& boxes;
+
+    /// The path of a file that the user named.
+    [[nodiscard]] QString userFile(const QString& name) const;
+    /// Writes a listing to standard output.
+    void show(const Listing& listing) const;
+};
+
+/// The values of an existing customer, found without regard to case. Its database is brought to the current
+/// layout, as at a choice in the window.
+/// @throws CommandError NoCustomer; Unsound when its database is damaged.
+[[nodiscard]] ApplicationValues takeCustomer(const Session& session, const QString& name);
+
+/// @throws CommandError Busy when another run works with the customer.
+[[nodiscard]] std::unique_ptr<customers::RunLock> lockFor(const Session& session,
+                                                          const ApplicationValues& values);
+
+} // namespace norvane::command

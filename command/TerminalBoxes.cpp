@@ -1,0 +1,74 @@
+// See TerminalBoxes.h.
+#include "command/TerminalBoxes.h"
+
+#include <cstdio>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#else
+#include <io.h>
+#endif
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::command
+{
+namespace
+{
+
+/// Texts of boxes end a line with a carriage return.
+QString lines(QString text)
+{
+    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').trimmed();
+}
+
+bool isTerminal()
+{
+#ifdef Q_OS_UNIX
+    return isatty(fileno(stderr)) != 0;
+#else
+    return _isatty(_fileno(stderr)) != 0;
+#endif
+}
+
+} // namespace
+
+void tell(const QString& text)
+{
+    std::fprintf(stderr, "%s\n", lines(text).toLocal8Bit().constData());
+}
+
+void tellStep(const QString& text)
+{
+    if (isTerminal() && !text.isEmpty())
+        tell(text);
+}
+
+void TerminalBoxes::message(const QString& text, const QString& title, BoxIcon /*icon*/)
+{
+    tell(title.isEmpty() ? text : u"%1: %2"_s.arg(title, text));
+}
+
+bool TerminalBoxes::ask(const QString& text, const QString& title, BoxIcon /*icon*/, BoxAnswer /*preset*/)
+{
+    tell(u"%1: %2\nAnswered No."_s.arg(title, lines(text)));
+    return false;
+}
+
+QString TerminalBoxes::input(const QString& prompt, const QString& title, const QString& /*initial*/)
+{
+    tell(u"%1: %2\nLeft empty."_s.arg(title, prompt));
+    return {};
+}
+
+QString TerminalBoxes::fileToOpen(const FileRequest& request)
+{
+    return input(request.title, {}, {});
+}
+
+QString TerminalBoxes::fileToSave(const FileRequest& request)
+{
+    return input(request.title, {}, {});
+}
+
+} // namespace norvane::command

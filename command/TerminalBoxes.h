@@ -1,0 +1,26 @@
+// The program's boxes where nobody sits at a window: texts on standard error, questions answered No.
+#pragma once
+
+#include "platform/Boxes.h"
+
+namespace norvane::command
+{
+
+/// Every question of the program is put so that No, or the second answer, loses nothing.
+class TerminalBoxes : public Boxes
+{
+public:
+    void message(const QString& text, const QString& title, BoxIcon icon) override;
+    bool ask(const QString& text, const QString& title, BoxIcon icon, BoxAnswer preset) override;
+    QString input(const QString& prompt, const QString& title, const QString& initial) override;
+    QString fileToOpen(const FileRequest& request) override;
+    QString fileToSave(const FileRequest& request) override;
+    void beep() override {}
+};
+
+/// Writes a line to standard error.
+void tell(const QString& text);
+/// The same for the steps of a run, which a script does not need: only where standard error is a terminal.
+void tellStep(const QString& text);
+
+} // namespace norvane::command

@@ -1,0 +1,56 @@
+// The table of commands.
+#include "command/Verbs.h"
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::command
+{
+namespace
+{
+
+constexpr auto common = std::to_array<OptionDefinition>({
+    {"folder"_L1, "DIR"_L1,
+     "work in this folder of the program instead of the one that holds norvane-shop"_L1},
+    {"json"_L1, {}, "listings as JSON"_L1},
+});
+constexpr auto reportOptions = std::to_array<OptionDefinition>({
+    {"period"_L1, "PERIOD"_L1, "day, week, month or year: the period that ends today"_L1},
+    {"day"_L1, "DAY"_L1, "the sales of one day: 2026-11-25"_L1},
+    {"pdf"_L1, "FILE"_L1, "write the pages"_L1},
+    {"csv"_L1, "FILE"_L1, "write the lines as CSV"_L1},
+    {"xlsx"_L1, "FILE"_L1, "write the lines as a spreadsheet"_L1},
+});
+
+// clang-format off
+constexpr auto all = std::to_array<Verb>({
+    {"customers"_L1, {}, 0, 0, {}, "Lists the customers: model, registers, last exchange, last day of sales."_L1, listCustomers},
+    {"check"_L1, "CUSTOMER"_L1, 1, 1, {},
+     "Looks for damage in the database, for missing tables and fields, for settings that cannot be, and for mistakes in the screens and reports of this installation."_L1, checkCustomer},
+    {"fetch"_L1, "CUSTOMER [BOX...]"_L1, 1, -1, {},
+     "Uploads from register 1 what the boxes name, as the exchange dialog does; without a box, all of it."_L1, fetch},
+    {"send"_L1, "CUSTOMER [BOX...]"_L1, 1, -1, {},
+     "Downloads to all registers what the boxes name; without a box, all of it."_L1, send},
+    {"collect"_L1, "CUSTOMER"_L1, 1, 1, {}, "Collects the sales of all registers, stores them and clears them there."_L1, collect},
+    {"report"_L1, "CUSTOMER NAME"_L1, 2, 2, reportOptions,
+     "Writes a report: plusales, finsales, clerksales, timesales, mixsales, pluprice or any layout of the program's folder."_L1, report},
+    {"copies"_L1, "CUSTOMER"_L1, 1, 1, {}, "Lists the safety copies, the latest first."_L1, listCopies},
+    {"restore"_L1, "CUSTOMER COPY"_L1, 2, 2, {},
+     "Puts the customer back as a safety copy holds it, after a copy of how it stands now. COPY is a name or its beginning."_L1, restore},
+});
+// clang-format on
+
+} // namespace
+
+std::span<const Verb> verbs()
+{
+    return all;
+}
+
+std::span<const OptionDefinition> commonOptions()
+{
+    return common;
+}
+
+} // namespace norvane::command
