@@ -1,0 +1,193 @@
+// The command line does what the window does: the same files, the same rows, the same bytes at the registers.
+#include "platform/FilePaths.h"
+#include "platform/FolderLock.h"
+#include "tests/road/Shop.h"
+#include "tests/store/Rows.h"
+#include "tests/support/FormTest.h"
+
+#include <QDirIterator>
+#include <QProcess>
+
+namespace norvane
+{
+namespace
+{
+
+using test::Shop;
+
+struct Ended {
+    int code;
+    QString out;
+    QString err;
+};
+
+class CommandLine : public testing::TestWithParam<int>
+{
+protected:
+    [[nodiscard]] Ended run(const QStringList& words) const
+    {
+        QProcess command;
+        command.start(QString::fromUtf8(COMMAND),
+                      words + QStringList{u"--folder"_s, m_shop.folder().appPath()});
+        EXPECT_TRUE(command.waitForFinished(-1));
+        return {command.exitCode(), QString::fromLocal8Bit(command.readAllStandardOutput()),
+                QString::fromLocal8Bit(command.readAllStandardError())};
+    }
+    void expectDone(const QStringList& words) const
+    {
+        const Ended ended = run(words);
+        EXPECT_EQ(ended.code, 0) << words.join(u' ').toStdString() << ": " << ended.err.toStdString();
+    }
+
+    /// Every file of a customer's folder with its bytes, and every table with its rows; without what tells
+    /// when.
+    [[nodiscard]] static QMap<QString, std::string> contentOf(const ApplicationValues& customer)
+    {
+        QMap<QString, std::string> content;
+        QDirIterator files(customer.customerPath, QDir::Files | QDir::Hidden);
+        while (files.hasNext()) {
+            const QFileInfo file = files.nextFileInfo();
+            if (file.suffix() == "dat"_L1 || file.fileName() == "setup.ini"_L1)
+                content[file.fileName()] = readWholeFile(file.filePath()).toStdString();
+        }
+        store::Database database(customer.databasePath);
+        for (const QString& table : database.tableNames())
+            content[table] = test::rowsOf(customer.databasePath, table, u"\n");
+        return content;
+    }
+    void expectSame() const
+    {
+        const auto window = contentOf(m_shop.values());
+        const auto command = contentOf(m_other);
+        EXPECT_EQ(window.keys(), command.keys());
+        for (const auto& [name, bytes] : window.asKeyValueRange())
+            EXPECT_TRUE(command.value(name) == bytes) << name.toStdString();
+    }
+    /// Every file of every register.
+    [[nodiscard]] QMap<QString, QByteArray> bank() const
+    {
+        QMap<QString, QByteArray> content;
+        QDirIterator files(m_shop.folder().bankPath(), {u"*.dat"_s}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString path = files.next();
+            content[path] = readWholeFile(path);
+        }
+        return content;
+    }
+    void ring() const
+    {
+        ASSERT_EQ(
+            QProcess::execute(QString::fromUtf8(RINGSALES_TOOL),
+                              {m_shop.folder().bankPath(), u"--tickets"_s, u"30"_s, u"--seed"_s, u"7"_s}),
+            0);
+    }
+
+    mutable Shop m_shop{GetParam(), 2};
+    ApplicationValues m_other = m_shop.folder().makeCustomer(u"Other Shop"_s);
+};
+
+TEST_P(CommandLine, LeavesWhatTheWindowLeaves)
+{
+    const QString other = u"other shop"_s;
+    EXPECT_EQ(m_shop.upload(), test::BoxNumbers());
+    expectDone({u"fetch"_s, other});
+    expectSame();
+
+    const QString rise = u"update pludata set price1='7.77' where groupno = 1"_s;
+    test::execute(m_other.databasePath, rise);
+    const auto before = bank();
+    expectDone({u"send"_s, other});
+    const auto sent = bank();
+    EXPECT_NE(sent, before);
+    test::execute(m_shop.values().databasePath, rise);
+    EXPECT_EQ(m_shop.download(), test::BoxNumbers());
+    EXPECT_TRUE(bank() == sent);
+    expectSame();
+
+    QWidget& form = m_shop.openForm("CollectSales");
+    ring();
+    Shop::press(form, "Communicate");
+    ring();
+    expectDone({u"collect"_s, other});
+    EXPECT_GT(m_shop.rowsOf("PLUSALES"), 0);
+    expectSame();
+    EXPECT_TRUE(m_shop.boxes().shown.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Models, CommandLine, testing::Values(0, 1, 2, 3));
+
+class CommandLineOfOneShop : public CommandLine
+{
+};
+
+TEST_P(CommandLineOfOneShop, TellsByItsExitCodeWhatWentWrong)
+{
+    const QString shop = u"Corner Shop"_s;
+    const struct {
+        QStringList words;
+        int code;
+        QString err;
+    } rows[] = {
+        {{u"fetch"_s}, 2, u"Usage: norvane-shop fetch CUSTOMER [BOX...]"_s},
+        {{u"fly"_s}, 2, u"There is no command \"fly\""_s},
+        {{u"report"_s, shop, u"plusales"_s}, 2, u"--pdf, --csv or --xlsx"_s},
+        {{u"report"_s, shop, u"pluprice"_s, u"--period"_s, u"week"_s, u"--csv"_s, u"x"_s},
+         2,
+         u"no period \"week\""_s},
+        {{u"fetch"_s, u"nowhere"_s}, 3, u"There is no customer \"nowhere\""_s},
+        {{u"fetch"_s, u".."_s}, 3, u"There is no customer \"..\""_s},
+        {{u"send"_s, shop, u"plu s"_s}, 4, u"\"plu s\" may be: PLU Status Group, PLU Stock."_s},
+        {{u"report"_s, shop, u"none"_s, u"--csv"_s, u"x"_s}, 4, u"There is no report \"none\""_s},
+        {{u"restore"_s, shop, u"2026"_s}, 4, u"There is no copy \"2026\"."_s},
+        {{u"report"_s, shop, u"pluprice"_s, u"--csv"_s, u"none/x.csv"_s}, 7, u"x.csv could not be written"_s},
+    };
+    for (const auto& [words, code, err] : rows) {
+        const Ended ended = run(words);
+        EXPECT_EQ(ended.code, code) << words.join(u' ').toStdString();
+        EXPECT_TRUE(ended.err.contains(err)) << ended.err.toStdString();
+    }
+    EXPECT_FALSE(pathExists(joinPath(m_shop.folder().appPath(), u"nowhere"_s)));
+
+    m_shop.folder().setFaults("[Off]\nCommand=open\nResult=8\n");
+    const Ended stopped = run({u"fetch"_s, shop, u"1"_s});
+    EXPECT_EQ(stopped.code, 6);
+    EXPECT_TRUE(stopped.err.contains(u"Communications Error"_s)) << stopped.err.toStdString();
+    m_shop.folder().setFaults({});
+    {
+        const auto lock = FolderLock::take(m_shop.values().customerPath, m_shop.boxes());
+        EXPECT_EQ(run({u"collect"_s, shop}).code, 5);
+    }
+    EXPECT_EQ(run({u"collect"_s, shop}).code, 0) << "the lock went with its owner";
+    EXPECT_EQ(run({u"check"_s, shop}).code, 0);
+    writeWholeFile(joinPath(m_shop.values().customerPath, u"setup.ini"_s),
+                   "[SetupOption]\r\nECRModel= 9\r\n");
+    const Ended check = run({u"check"_s, shop});
+    EXPECT_EQ(check.code, 8);
+    EXPECT_TRUE(check.out.contains(u"there is no entry 9 in the list"_s)) << check.out.toStdString();
+}
+
+TEST_P(CommandLineOfOneShop, ListsReportsAndPutsBack)
+{
+    const QString shop = u"corner shop"_s;
+    expectDone({u"fetch"_s, shop, u"plu"_s});
+    ring();
+    expectDone({u"collect"_s, shop});
+    const QString list = run({u"customers"_s, u"--json"_s}).out;
+    const QString today = QDate::currentDate().toString(Qt::ISODate);
+    EXPECT_TRUE(list.contains(u"\"lastSales\": \"%1\""_s.arg(today))) << list.toStdString();
+    EXPECT_TRUE(list.contains(u"\"lastExchange\": \"%1T"_s.arg(today))) << list.toStdString();
+
+    expectDone({u"fetch"_s, shop, u"plu"_s});
+    const QString copy = run({u"copies"_s, shop}).out.section(u'\n', 1, 1).section(u"  "_s, 0, 0);
+    const std::string fetched = test::rowsOf(m_shop.values().databasePath, u"pludata"_s);
+    m_shop.execute("update pludata set price1='0.01'");
+    expectDone({u"restore"_s, shop, copy});
+    EXPECT_TRUE(test::rowsOf(m_shop.values().databasePath, u"pludata"_s) == fetched);
+    EXPECT_GT(m_shop.rowsOf("PLUSALES"), 0) << "sales stay";
+}
+
+INSTANTIATE_TEST_SUITE_P(OneModel, CommandLineOfOneShop, testing::Values(2));
+
+} // namespace
+} // namespace norvane
