@@ -98,11 +98,16 @@ QPointF SheetView::toViewport(QPointF place) const
     return sheetCorner() + place * m_scale;
 }
 
+void SheetView::setPixelsPerMillimetre(double pixels)
+{
+    m_scale = pixels;
+    setZoom(Zoom::Free);
+}
+
 void SheetView::zoomBy(double factor, QPointF fixed)
 {
     const QPointF place = (fixed - sheetCorner()) / m_scale;
-    m_scale *= factor;
-    setZoom(Zoom::Free);
+    setPixelsPerMillimetre(m_scale * factor);
     const QPointF moved = toViewport(place) - fixed;
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x()));
     verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y()));

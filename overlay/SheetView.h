@@ -25,6 +25,8 @@ public:
     void setTarget(const TargetPrinter& target);
     void setZoom(Zoom zoom);
     [[nodiscard]] double pixelsPerMillimetre() const { return m_scale; }
+    /// A size of the user's own, within limits.
+    void setPixelsPerMillimetre(double pixels);
     /// Where a place of the paper, in mm from its corner, is in the viewport.
     [[nodiscard]] QPointF toViewport(QPointF place) const;
 

@@ -1,0 +1,102 @@
+// Overlay documents of the largest keyboard: opened, saved, written as a PDF, looked at before printing.
+#include "bench/Ratio.h"
+#include "overlay/DocumentFile.h"
+#include "overlay/OverlayPreview.h"
+#include "overlay/SheetView.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <benchmark/benchmark.h>
+#include <QApplication>
+#include <QFileInfo>
+#include <QImage>
+#include <QTemporaryDir>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+using namespace norvane;
+using namespace norvane::overlay;
+using bench::require;
+
+/// Every cell has a text, and neighbours differ in colour and font.
+Document fullDocument()
+{
+    Document document(Keyboard::Velmar);
+    for (int cell = 0; cell < document.cellCount(); ++cell) {
+        document.cell(cell).text = u"Text %1"_s.arg(cell);
+        document.cell(cell).background = {cell * 30000};
+        document.cell(cell).font.isItalic = cell % 3 == 0;
+        document.cell(cell).font.size = 7 + static_cast<float>(cell % 4) / 2;
+    }
+    return document;
+}
+
+void saveAndOpen(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.Velmar"_s);
+    const Document document = fullDocument();
+    Document read(Keyboard::Velmar);
+    double opening = 0;
+    for (auto _ : state) {
+        state.SetIterationTime(bench::secondsOf([&] { writeDocument(path, document); }));
+        opening += bench::secondsOf([&] { readDocument(path, read); });
+    }
+    require(read == document, "what was written is read");
+    state.counters["open_ms"] = opening / static_cast<double>(state.iterations()) * 1e3;
+}
+
+void writePdf(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.pdf"_s);
+    const Document document = fullDocument();
+    for (auto _ : state)
+        writeSheetPdf(document, QPageLayout::Landscape, path);
+    require(QFileInfo(path).size() > 5000, "the sheet was written");
+    state.counters["kilobytes"] = static_cast<double>(QFileInfo(path).size()) / 1000;
+}
+
+/// From the dialog's making to its first picture.
+void openPreview(benchmark::State& state)
+{
+    const Document document = fullDocument();
+    test::RecordingBoxes boxes;
+    const paper::PrinterCorrections corrections((QString()));
+    for (auto _ : state) {
+        OverlayPreview preview(document, {u"Office"_s, {}, {}}, {}, corrections, boxes);
+        benchmark::DoNotOptimize(preview.grab());
+    }
+}
+
+/// A picture at so many pixels to the millimetre, when the view is moved.
+void movePreview(benchmark::State& state)
+{
+    const Document document = fullDocument();
+    SheetView view(document, nullptr);
+    view.setTarget({u"Office"_s, {}, {}});
+    view.resize(1200, 900);
+    view.setPixelsPerMillimetre(static_cast<double>(state.range(0)));
+    QImage picture(view.size(), QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state)
+        view.viewport()->render(&picture);
+}
+
+} // namespace
+
+BENCHMARK(saveAndOpen)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(writePdf)->Unit(benchmark::kMillisecond);
+BENCHMARK(openPreview)->Unit(benchmark::kMillisecond);
+BENCHMARK(movePreview)->Arg(1)->Arg(4)->Arg(10)->Arg(40)->Unit(benchmark::kMillisecond);
+
+int main(int argc, char** argv)
+{
+    // Widgets alone are measured; a screen would only add its own time.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
