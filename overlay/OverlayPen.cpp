@@ -81,7 +81,11 @@ void OverlayPen::DrawCmd(const DrawnControl& control)
 
 void OverlayPen::DrawBlock(Length x, Length y, const QColor& colour, Length width, Length height)
 {
+    // On a screen, two smooth edges that meet would let the ground shine through.
+    const bool wasSmooth = m_painter.testRenderHint(QPainter::Antialiasing);
+    m_painter.setRenderHint(QPainter::Antialiasing, false);
     m_painter.fillRect(toPainter(x, y, width, height), colour);
+    m_painter.setRenderHint(QPainter::Antialiasing, wasSmooth);
 }
 
 void OverlayPen::PRINTTEXT(Length x, Length y, Length maximumWidth, const QString& text)

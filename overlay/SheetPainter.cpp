@@ -17,7 +17,7 @@ constexpr Length bandOffset = millimetres(0.1); ///< of a band from its line, ac
 constexpr Length singleTextOffset = millimetres(0.5);
 /// Bands of one colour would show a light seam where one ends exactly where the next begins. What a band has
 /// more lies under the next one.
-constexpr Length underNextBand = millimetres(1);
+constexpr Length underNextBand = millimetres(0.15);
 
 Length halfOutline()
 {

@@ -5,6 +5,27 @@
 
 namespace norvane::paper
 {
+namespace
+{
+
+Margins inMillimetres(const QMarginsF& margins)
+{
+    return {millimetres(margins.left()), millimetres(margins.top()), millimetres(margins.right()),
+            millimetres(margins.bottom())};
+}
+
+/// Outside Windows the margins of upright paper are told for both orientations. A sheet in landscape leaves
+/// the printer turned to the left: its upper edge is the paper's left one.
+Margins turned([[maybe_unused]] const Margins& upright)
+{
+#ifdef Q_OS_WIN
+    return upright;
+#else
+    return {upright.bottom, upright.left, upright.top, upright.right};
+#endif
+}
+
+} // namespace
 
 std::unique_ptr<QPrinter> defaultPrinter()
 {
@@ -16,12 +37,11 @@ Sheet sheetOf(const QPrinter& printer)
 {
     QPageLayout layout = printer.pageLayout();
     layout.setUnits(QPageLayout::Millimeter);
-    const QMarginsF margins = layout.minimumMargins();
-    if (margins.isNull())
+    const Margins margins = inMillimetres(layout.minimumMargins());
+    if (margins == Margins())
         return {layout.orientation(), usualMargins};
-    return {layout.orientation(),
-            {millimetres(margins.left()), millimetres(margins.top()), millimetres(margins.right()),
-             millimetres(margins.bottom())}};
+    const bool isTurned = layout.orientation() == QPageLayout::Landscape;
+    return {layout.orientation(), isTurned ? turned(margins) : margins};
 }
 
 bool isThere(const QPrinter& printer)

@@ -24,12 +24,21 @@ QPainter& PageDevice::nextPage()
 {
     const bool began = m_isBegun ? m_device.newPage() : m_painter.begin(&m_device);
     m_hasFailed = m_hasFailed || !began;
-    if (!m_isBegun && began) {
-        m_painter.scale(m_device.logicalDpiX() / millimetresPerInch,
-                        m_device.logicalDpiY() / millimetresPerInch);
-    }
+    if (!m_isBegun && began)
+        startAtCorner();
     m_isBegun = true;
     return m_painter;
+}
+
+/// Printers with margins of their own do not take the full page, and begin inside them.
+void PageDevice::startAtCorner()
+{
+    m_painter.scale(m_device.logicalDpiX() / millimetresPerInch, m_device.logicalDpiY() / millimetresPerInch);
+    const QPageLayout layout = m_device.pageLayout();
+    if (layout.mode() == QPageLayout::FullPageMode)
+        return;
+    const QMarginsF margins = layout.margins(QPageLayout::Millimeter);
+    m_painter.translate(-margins.left(), -margins.top());
 }
 
 bool PageDevice::finish()

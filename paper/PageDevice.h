@@ -22,6 +22,8 @@ public:
     [[nodiscard]] bool finish();
 
 private:
+    void startAtCorner();
+
     QPagedPaintDevice& m_device;
     QPainter m_painter;
     bool m_isBegun = false;

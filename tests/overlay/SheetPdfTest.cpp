@@ -2,6 +2,7 @@
 // the real keyboard are.
 #include "overlay/SheetPainter.h"
 #include "overlay/SheetPrint.h"
+#include "paper/PageDevice.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/support/OtherPrograms.h"
 
@@ -305,6 +306,29 @@ TEST(TestPageTest, HasItsLinesWhereItSaysUnderTheCorrectionInHand)
     EXPECT_NEAR(across.width(), 101, 0.2);
     EXPECT_NEAR(down.top(), 37, 0.1);
     EXPECT_NEAR(down.height(), 100, 0.2);
+}
+
+TEST(OverlayPenTest, WrapsWordsToTheWidthAndCutsToTheArea)
+{
+    const TestFolder folder;
+    {
+        QPdfWriter writer(folder.path("a.pdf"));
+        paper::PageDevice page(writer, QPageSize(QPageSize::A4), QPageLayout::Portrait);
+        OverlayPen pen(page.nextPage(), geometryOf(Keyboard::Dorvik));
+        const auto wrap = [&pen](double y, double height, const QString& text) {
+            pen.WordWrap(paper::millimetres(20), paper::millimetres(y), paper::millimetres(20),
+                         paper::millimetres(height), text);
+        };
+        wrap(20, 50, u"Coffee with  milk and sugar"_s);
+        wrap(80, 7, u"Coffee with milk, sugar, cream and a biscuit"_s);
+        wrap(110, 50, u"Unbreakablewordofletters and more"_s);
+        wrap(170, 0, u"No room"_s);
+        EXPECT_TRUE(page.finish());
+    }
+    QStringList lines = pdfLines(folder.path("a.pdf"));
+    lines.removeAll(QString());
+    EXPECT_EQ(lines.join(u'|').toStdString(),
+              "Coffee with|milk and sugar|Coffee with|milk, sugar,|crea|Unbreakablew|ordofletters|and more");
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, SheetPdf, testing::ValuesIn(measures), [](const auto& row) {
