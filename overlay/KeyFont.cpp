@@ -5,8 +5,6 @@
 
 #include <QPainter>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::overlay
 {
 namespace
@@ -17,8 +15,8 @@ using paper::millimetres;
 
 QFont fontOf(const CellFont& cell)
 {
-    QFont font;
-    font.setFamilies({cell.name, u"Liberation Sans"_s});
+    // The system finds what stands in for a font that it does not have, but takes any for no name at all.
+    QFont font(cell.name.isEmpty() ? CellFont().name : cell.name);
     font.setBold(cell.isBold);
     font.setItalic(cell.isItalic);
     return paper::unrounded(font);
