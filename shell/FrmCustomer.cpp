@@ -2,6 +2,7 @@
 #include "shell/FrmCustomer.h"
 
 #include "customers/CustomerFolders.h"
+#include "shell/CopyMenu.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
@@ -73,12 +74,23 @@ void FrmCustomer::connectList()
     });
     connect(List1, &QListWidget::itemClicked, this, &FrmCustomer::copyChosenRow);
     connect(List1, &QListWidget::itemDoubleClicked, CSCmdBtn1, &QPushButton::click);
+    List1->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(List1, &QListWidget::customContextMenuRequested, this, &FrmCustomer::showCopies);
 }
 
 void FrmCustomer::copyChosenRow()
 {
     if (const auto chosen = List1->selectedItems(); !chosen.isEmpty())
         text1->setText(chosen.first()->text());
+}
+
+void FrmCustomer::showCopies(QPoint place)
+{
+    const QListWidgetItem* const line = List1->itemAt(place);
+    if (line == nullptr)
+        return;
+    auto* const menu = new CopyMenu(m_values.appPath, line->text(), m_boxes, this);
+    menu->popup(List1->viewport()->mapToGlobal(place));
 }
 
 void FrmCustomer::takeCustomer()

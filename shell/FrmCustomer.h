@@ -32,6 +32,7 @@ private:
     [[nodiscard]] QGroupBox* makeFrame();
     void connectList();
     void copyChosenRow();
+    void showCopies(QPoint place);
     void takeCustomer();
     void welcomeNewCustomer();
 

@@ -1,0 +1,73 @@
+// See CopyMenu.h.
+#include "shell/CopyMenu.h"
+
+#include "base/LossQuestion.h"
+#include "customers/RunLock.h"
+#include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
+#include "ui/WaitPointer.h"
+
+#include <QLocale>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::shell
+{
+namespace
+{
+
+const auto boxTitle = u"Safety Copies"_s;
+
+QString wordsOf(const customers::SafetyCopy& copy)
+{
+    return u"%1, %2"_s.arg(QLocale().toString(copy.made, QLocale::ShortFormat), copy.reason);
+}
+
+} // namespace
+
+CopyMenu::CopyMenu(const QString& appPath, const QString& customer, Boxes& boxes, QWidget* parent)
+    : QMenu(parent), m_boxes(boxes)
+{
+    setObjectName(u"CopyMenu"_s);
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_values.appPath = appPath;
+    m_values.customerName = customer;
+    m_values.customerPath = existingPath(joinPath(appPath, customer));
+    const auto copies = customers::safetyCopies(m_values.customerPath);
+    addSection(copies.isEmpty() ? u"%1 has no safety copies"_s.arg(customer)
+                                : u"Put %1 back as it was on"_s.arg(customer));
+    for (const auto& copy : copies)
+        addCopy(copy);
+}
+
+void CopyMenu::addCopy(const customers::SafetyCopy& copy)
+{
+    QAction* const action = addAction(wordsOf(copy));
+    action->setObjectName(copy.name);
+    // The menu is gone by the time that the question is answered.
+    connect(action, &QAction::triggered, parent(),
+            [values = m_values, &boxes = m_boxes, copy] { restore(values, boxes, copy); });
+}
+
+void CopyMenu::restore(const ApplicationValues& values, Boxes& boxes, const customers::SafetyCopy& copy)
+{
+    const QString question =
+        u"Put %1 back as it was on %2?\r\rAll that was changed since is undone; sales stay. A "
+        "copy of how it stands now is made first."_s;
+    if (!askBeforeLoss(boxes, question.arg(values.customerName, wordsOf(copy))))
+        return;
+    const auto lock = customers::RunLock::take(values, boxes);
+    if (lock == nullptr)
+        return;
+    try {
+        const ui::WaitPointer pointer;
+        customers::restoreSafetyCopy(values.customerPath, copy);
+    } catch (const RuntimeFailure& failure) {
+        boxes.message(failure.text(), boxTitle, BoxIcon::Critical);
+        return;
+    }
+    boxes.message(u"%1 is as it was on %2."_s.arg(values.customerName, wordsOf(copy)), boxTitle,
+                  BoxIcon::Information);
+}
+
+} // namespace norvane::shell
