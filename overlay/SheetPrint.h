@@ -41,7 +41,7 @@ inline constexpr paper::Length testLineLength = paper::millimetres(100);
 
 /// Writes the sheet as a PDF file, its printable area 5 mm inside the page. A former file stays when it
 /// cannot be written.
-/// @throws RuntimeFailure 75 or 61.
+/// @throws RuntimeFailure 75, 61, or 57 when the page could not be painted.
 void writeSheetPdf(const Document& document, QPageLayout::Orientation orientation, const QString& path);
 
 /// The keys that the printer cannot print whole, as indexes into the layout's keys.

@@ -331,6 +331,23 @@ TEST(OverlayPenTest, WrapsWordsToTheWidthAndCutsToTheArea)
               "Coffee with|milk and sugar|Coffee with|milk, sugar,|crea|Unbreakablew|ordofletters|and more");
 }
 
+TEST(OverlayPenTest, CopiesAPictureInPointsOfTheScreen)
+{
+    QImage picture(2, 1, QImage::Format_RGB32);
+    picture.setPixelColor(0, 0, Qt::red);
+    picture.setPixelColor(1, 0, Qt::blue);
+    QImage paper(100, 100, QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter painter(&paper);
+    constexpr int dots = 100; // to the millimetre, of which a point has 0.2646
+    painter.scale(dots, dots);
+    OverlayPen(painter, geometryOf(Keyboard::Dorvik)).PicturePrint(picture);
+    const std::array seen = {paper.pixelColor(25, 25), paper.pixelColor(28, 25), paper.pixelColor(51, 25),
+                             paper.pixelColor(54, 25), paper.pixelColor(25, 28)};
+    const std::array<QColor, 5> expected = {Qt::red, Qt::blue, Qt::blue, Qt::white, Qt::white};
+    EXPECT_EQ(seen, expected);
+}
+
 INSTANTIATE_TEST_SUITE_P(Of, SheetPdf, testing::ValuesIn(measures), [](const auto& row) {
     return geometryOf(row.param.keyboard).name.toString().toStdString();
 });
