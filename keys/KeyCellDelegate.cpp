@@ -5,6 +5,7 @@
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -38,10 +39,10 @@ constexpr std::array<Look, 6> looks{{
     {"Fixed"_L1, colours::fixedKey, colours::text, Shape::Lock},
 }};
 
-constexpr int padding = 3;
+constexpr int padding = 4;
 constexpr int markSize = 8;
 /// Smaller than the forms' font: a letter and 17 digits must fit into a key's width.
-constexpr int keyFontPixels = 10;
+constexpr int numberFontPixels = 10;
 constexpr int leastFontPixels = 7;
 constexpr int strongLine = 2;
 constexpr int legendGap = 14;
@@ -107,38 +108,43 @@ void paintMark(QPainter& painter, const Look& look, const QRectF& place)
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-/// A number and its description stand below each other; words of a function break where they may.
-QString shownText(const QModelIndex& index)
-{
-    QString text = index.data().toString();
-    const auto state = static_cast<KeyState>(index.data(KeyGridModel::StateRole).toInt());
-    if (state == KeyState::Plu || state == KeyState::LookUp)
-        text.replace(text.indexOf(u' '), 1, u'\n');
-    return text.replace(u'\r', u'\n');
-}
-
 /// Fonts differ in width, and no digit may be cut.
-QFont fontFor(const QFont& usual, const QString& text, int width)
+QFont numberFont(const QFont& usual, const QString& number, int width)
 {
     QFont font = usual;
-    const QString firstLine = text.section(u'\n', 0, 0);
-    const bool isNumber = text.contains(u'\n');
-    int pixels = keyFontPixels;
+    int pixels = numberFontPixels;
     font.setPixelSize(pixels);
-    while (isNumber && pixels > leastFontPixels && QFontMetrics(font).horizontalAdvance(firstLine) > width)
+    while (pixels > leastFontPixels && QFontMetrics(font).horizontalAdvance(number) > width)
         font.setPixelSize(--pixels);
     return font;
 }
 
+/// The number above, in small digits, and the description below it.
+void paintNumbered(QPainter& painter, const QRect& place, const QString& text)
+{
+    const QFont usual = painter.font();
+    const QString number = text.section(u' ', 0, 0);
+    painter.setFont(numberFont(usual, number, place.width()));
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, number);
+    painter.setFont(usual);
+    const QString description = text.section(u' ', 1);
+    const int width = place.width() - markSize;
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignBottom,
+                     painter.fontMetrics().elidedText(description, Qt::ElideRight, width));
+}
+
 void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index)
 {
-    const QString text = shownText(index);
-    const QRect place = option.rect.adjusted(padding, 1, -padding, -1);
-    painter.setFont(fontFor(option.font, text, place.width()));
-    painter.setPen(index.data(KeyGridModel::StateRole).toInt() == static_cast<int>(KeyState::Unprogrammed)
-                       ? colours::greyedText
-                       : colours::text);
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
+    QString text = index.data().toString();
+    const auto state = static_cast<KeyState>(index.data(KeyGridModel::StateRole).toInt());
+    const QRect place = option.rect.adjusted(padding, padding, -padding, -padding);
+    painter.setFont(option.font);
+    painter.setPen(state == KeyState::Unprogrammed ? colours::greyedText : colours::text);
+    if (state == KeyState::Plu || state == KeyState::LookUp) {
+        paintNumbered(painter, place, text);
+    } else {
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text.replace(u'\r', u'\n'));
+    }
 }
 
 void paintFrame(QPainter& painter, const QRect& cell, const QPen& pen, int inset)
@@ -152,11 +158,13 @@ void paintFrame(QPainter& painter, const QRect& cell, const QPen& pen, int inset
 void paintFrames(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index)
 {
     if (index.data(KeyGridModel::FoundRole).toBool())
-        paintFrame(painter, option.rect, QPen(colours::found, strongLine), 0);
+        paintFrame(painter, option.rect, QPen(colours::found, strongLine), strongLine);
     if (index.data(KeyGridModel::MarkedRole).toBool())
-        paintFrame(painter, option.rect, QPen(colours::text, 1, Qt::DashLine), 1);
-    if (option.state.testFlag(QStyle::State_HasFocus))
-        paintFrame(painter, option.rect, QPen(colours::accentDark, strongLine), strongLine);
+        paintFrame(painter, option.rect, QPen(colours::text, 1, Qt::DashLine), strongLine);
+    // Also while the keyboard is in a list: a choice there is for this key.
+    const auto* const grid = qobject_cast<const QAbstractItemView*>(option.widget);
+    if (grid != nullptr && grid->currentIndex() == index)
+        paintFrame(painter, option.rect, QPen(colours::accentDark, strongLine), 0);
 }
 
 } // namespace

@@ -20,6 +20,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -231,7 +232,10 @@ QAction* KeyLayout::addAction(const QString& name, const QString& caption, const
 void KeyLayout::fitScreen()
 {
     const QSize free = screen()->availableSize() - frameRoom;
-    resize(sizeHint().boundedTo(free));
+    QSize wanted = sizeHint();
+    if (wanted.width() > free.width())
+        wanted.rheight() += Grid1->horizontalScrollBar()->sizeHint().height();
+    resize(wanted.boundedTo(free));
 }
 
 void KeyLayout::updategrid(int level)
@@ -391,6 +395,7 @@ void KeyLayout::reject()
         m_editor.mark({});
         m_model.refresh();
     } else if (!Grid1->hasFocus()) {
+        m_lists->clearFilter();
         Grid1->setFocus();
     } else {
         close();

@@ -149,7 +149,12 @@ void KeyListPanel::choose(const QModelIndex& index, bool byEnter)
         Q_EMIT chosen(m_kind, index.siblingAtColumn(0).data().toString(), byEnter);
 }
 
-/// Enter chooses; what is typed in a list goes into the box that filters it.
+void KeyListPanel::clearFilter()
+{
+    m_filter->clear();
+}
+
+/// Enter chooses; what is typed in a list filters it anew.
 bool KeyListPanel::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress)
@@ -163,6 +168,7 @@ bool KeyListPanel::eventFilter(QObject* watched, QEvent* event)
     if (isCommand || key->text().isEmpty() || !key->text().front().isPrint())
         return QWidget::eventFilter(watched, event);
     m_filter->setFocus();
+    m_filter->selectAll();
     QCoreApplication::sendEvent(m_filter, event);
     return true;
 }

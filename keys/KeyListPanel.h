@@ -37,6 +37,8 @@ public:
 
     /// Brings the keyboard into the list shown.
     void enterList();
+    /// Shows all entries again.
+    void clearFilter();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

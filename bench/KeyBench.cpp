@@ -1,0 +1,261 @@
+// The keyboard layout editor over 100,000 PLUs and full keyboards: its own time for what users wait for, and
+// a save beside a bare loop that updates the same rows.
+#include "bench/BareDatabase.h"
+#include "keys/KeyLayout.h"
+#include "keys/KeyLevel.h"
+#include "store/Catalogue.h"
+#include "store/Recordset.h"
+#include "ui/Appearance.h"
+#include "ui/MessageBoxes.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <memory>
+
+namespace
+{
+
+using namespace norvane;
+using bench::processorSecondsOf;
+using bench::require;
+
+constexpr int pluCount = 100000;
+constexpr int functionCount = 266;
+
+QString digits(qint64 number)
+{
+    return QStringLiteral("%1").arg(number, 18, 10, QLatin1Char('0'));
+}
+
+void addRow(store::Recordset& rows, const char* numberField, const store::Value& number,
+            const char* textField, const QString& text)
+{
+    rows.addNew();
+    rows.setValue(QLatin1String(numberField), number);
+    rows.setValue(QLatin1String(textField), store::Value::text(text));
+    rows.update();
+}
+
+/// A PLU or a function on every key of all levels.
+class Shop
+{
+public:
+    Shop()
+    {
+        values.customerPath = m_folder.path();
+        values.databasePath = m_folder.filePath(QStringLiteral("velmar.mdb"));
+        store::Database::create(values.databasePath, store::catalogue());
+        store::Database database(values.databasePath);
+        const store::Transaction all(database);
+        fillItems(database);
+        fillKeys(database);
+    }
+
+    const keys::KeyGeometry& keyboard = keys::velmarKeyboard();
+    ApplicationValues values;
+
+private:
+    static void fillItems(store::Database& database)
+    {
+        store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
+        for (int plu = 1; plu <= pluCount; ++plu) {
+            addRow(plus, "PLUNUMBER", store::Value::text(digits(plu)), "DESCRIPTION",
+                   QStringLiteral("Article %1").arg(plu % 977));
+        }
+        store::Recordset functions = database.openTable(QStringLiteral("FUNCTIONKEY"));
+        for (int id = 1; id <= functionCount; ++id) {
+            addRow(functions, "id", store::Value::whole(id), "DESCRIPTION",
+                   QStringLiteral("FUNCTION %1").arg(id));
+        }
+    }
+    void fillKeys(store::Database& database) const
+    {
+        store::Recordset links = database.openTable(QStringLiteral("KEYLINK"));
+        store::Recordset numbers = database.openTable(QStringLiteral("NLU"));
+        for (int row = 1; row <= keys::levelCount * keyboard.keysPerLevel; ++row) {
+            const int function = row % 4 == 0 ? row % functionCount + 1 : 0;
+            addRow(links, "ID", store::Value::whole(row), "KEYLINK", QString::number(function));
+            addRow(numbers, "ID", store::Value::whole(row), "NLU", digits(row * 100));
+        }
+    }
+
+    QTemporaryDir m_folder;
+};
+
+class NoBoxes : public ui::MessageBoxes
+{
+public:
+    std::optional<bool> askBeforeGoingOn(const QString& /*text*/, const QString& /*title*/) override
+    {
+        return false;
+    }
+};
+
+/// Counts the milliseconds of each piece of work, on average and at worst.
+class Times
+{
+public:
+    template <typename Work>
+    void add(Work work)
+    {
+        const double ms = processorSecondsOf(work) * 1e3;
+        m_sum += ms;
+        m_worst = std::max(m_worst, ms);
+        ++m_count;
+    }
+    void tell(benchmark::State& state) const
+    {
+        state.counters["processor_ms"] = m_sum / m_count;
+        state.counters["worst_ms"] = m_worst;
+    }
+
+private:
+    double m_sum = 0;
+    double m_worst = 0;
+    int m_count = 0;
+};
+
+std::unique_ptr<keys::KeyLayout> open(Shop& shop, Boxes& boxes)
+{
+    auto form = std::make_unique<keys::KeyLayout>(shop.keyboard, shop.values, boxes);
+    form->show();
+    QApplication::processEvents();
+    return form;
+}
+
+void openEditor(benchmark::State& state)
+{
+    Shop shop;
+    NoBoxes boxes;
+    Times times;
+    for (auto _ : state) {
+        std::unique_ptr<keys::KeyLayout> form;
+        times.add([&] { form = open(shop, boxes); });
+        require(
+            form->findChild<QTableView*>(QStringLiteral("Grid1"))->model()->index(12, 0).data().toString() ==
+                QStringLiteral("P00000000000000100 Article 100"),
+            "the first key");
+    }
+    times.tell(state);
+}
+
+void changeLevel(benchmark::State& state)
+{
+    Shop shop;
+    NoBoxes boxes;
+    Times times;
+    const auto form = open(shop, boxes);
+    int level = 1;
+    for (auto _ : state) {
+        level = level % keys::levelCount + 1;
+        auto* const button = form->findChild<QPushButton*>(QStringLiteral("CSCmdBtn%1").arg(level + 2));
+        times.add([&] {
+            button->click();
+            QApplication::processEvents();
+        });
+        require(form->windowTitle().endsWith(QString::number(level)), "the level is shown");
+    }
+    times.tell(state);
+}
+
+/// Replaces the filter, or adds to it, as a typist does, and lets the list paint.
+void filterPlus(benchmark::State& state)
+{
+    Shop shop;
+    NoBoxes boxes;
+    Times times;
+    const auto form = open(shop, boxes);
+    form->findChild<QRadioButton*>(QStringLiteral("plucode"))->click();
+    QApplication::processEvents();
+    auto* const box = form->findChild<QLineEdit*>(QStringLiteral("ListFilter"));
+    const auto* const list = form->findChild<QTableView*>(QStringLiteral("plulist"))->model();
+    require(list->rowCount() == pluCount, "all PLUs");
+    const QString typed = QStringLiteral("art123");
+    int stroke = 0;
+    for (auto _ : state) {
+        const QChar key = typed[stroke % typed.size()];
+        if (stroke++ % 3 == 0)
+            box->selectAll();
+        times.add([&] {
+            QKeyEvent press(QEvent::KeyPress, key.unicode(), Qt::NoModifier, QString(key));
+            QApplication::sendEvent(box, &press);
+            QApplication::processEvents();
+        });
+    }
+    require(list->rowCount() > 0 && list->rowCount() < pluCount, "the list is filtered");
+    times.tell(state);
+}
+
+/// Every function key gets another function each time, so that both sides have rows to write.
+void saveLevel(benchmark::State& state)
+{
+    const Shop shop;
+    const auto database = std::make_shared<store::Database>(shop.values.databasePath);
+    keys::KeyLevel level(shop.keyboard, database);
+    level.read(1);
+    const bench::BareDatabase bare(shop.values.databasePath);
+    sqlite3_stmt* const setLink = bare.prepare("update KEYLINK set KEYLINK = ? where ID = ?");
+    sqlite3_stmt* const setNumber = bare.prepare("update NLU set NLU = ? where ID = ?");
+    int turn = 0;
+    const auto codeOf = [&turn](int key) {
+        return std::to_string((key + turn) % functionCount + 1);
+    };
+    const auto program = [&] {
+        ++turn;
+        int number = 0;
+        for (const keys::KeyCell cell : shop.keyboard.walk())
+            level.setKey(cell, {QString::fromStdString(codeOf(++number)), {}, {}, keys::KeyState::Function});
+    };
+    const auto updateBare = [&] {
+        ++turn;
+        bare.run("begin immediate");
+        for (int key = 1; key <= shop.keyboard.keysPerLevel; ++key) {
+            const std::string code = codeOf(key);
+            const std::string text = digits(key + turn).toStdString();
+            bench::bindText(setLink, 1, code);
+            sqlite3_bind_int(setLink, 2, key);
+            bench::runOnce(setLink);
+            bench::bindText(setNumber, 1, text);
+            sqlite3_bind_int(setNumber, 2, key);
+            bench::runOnce(setNumber);
+        }
+        bare.run("commit");
+    };
+    // The bare loop has changed every row, so that ours writes every row as well.
+    bench::compare(
+        state,
+        [&] {
+            program();
+            level.save();
+        },
+        updateBare);
+    level.read(1);
+    require(level.key({12, 0}).function.toStdString() == codeOf(1), "the first key is stored");
+    sqlite3_finalize(setLink);
+    sqlite3_finalize(setNumber);
+}
+
+} // namespace
+
+BENCHMARK(openEditor)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(changeLevel)->Unit(benchmark::kMillisecond)->Iterations(50);
+BENCHMARK(filterPlus)->Unit(benchmark::kMillisecond)->Iterations(60);
+BENCHMARK(saveLevel)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(50);
+
+int main(int argc, char** argv)
+{
+    // A real screen would add its own time.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    ui::applyAppearance(application);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,299 @@
+// The keyboard layout editor as a user works it, by keys and by mouse.
+#include "keys/KeyLayout.h"
+
+#include "keys/KeyGrid.h"
+#include "tests/keys/KeyShop.h"
+#include "tests/support/FormTest.h"
+#include "tests/support/RecordingBoxes.h"
+#include "ui/ValueList.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+
+namespace norvane::keys
+{
+namespace
+{
+
+using namespace Qt::Literals::StringLiterals;
+using test::text;
+using test::whole;
+
+const norvane::test::ShownBox saveChanges{u"Save Changes?"_s, u"Save Details."_s, BoxIcon::Question,
+                                          BoxAnswer::Yes};
+
+class KeyLayoutTest : public testing::Test
+{
+protected:
+    KeyLayoutTest()
+    {
+        shop.addKeyboard(keyboard.keysPerLevel);
+        for (const auto& [id, name] : {std::pair(5, "CASH"), {6, "CHECK"}, {200, "PLU"}})
+            shop.add("FUNCTIONKEY", {{"id", whole(id)}, {"DESCRIPTION", text(name)}});
+        shop.add("PLUDATA", {{"PLUNUMBER", text("000000000000001001")}, {"DESCRIPTION", text("Lager")}});
+        shop.add("PLUDATA", {{"PLUNUMBER", text("000000000000001002")}, {"DESCRIPTION", text("Cider")}});
+        shop.add("WLU", {{"WLUno", whole(12)}, {"DESCRIPTION", text("Breakfast")}});
+        shop.values.databasePath = u"elsewhere"_s;
+        form = std::make_unique<KeyLayout>(keyboard, shop.values, boxes);
+        form->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    }
+    ~KeyLayoutTest() override { EXPECT_FALSE(norvane::test::takeFailure()); }
+
+    template <typename Control>
+    Control& control(const char* name) const
+    {
+        return *form->findChild<Control*>(QLatin1String(name));
+    }
+    [[nodiscard]] KeyGrid& grid() const { return control<KeyGrid>("Grid1"); }
+    void press(const char* button) const { QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton); }
+    static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+    void click(QTableView& list, int row, int column = 1, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        const QModelIndex index = list.model()->index(row, column);
+        list.scrollTo(index);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, list.visualRect(index).center());
+    }
+    [[nodiscard]] std::string cell(int row, int column) const
+    {
+        return grid().model()->index(row, column).data().toString().toStdString();
+    }
+    [[nodiscard]] std::string label(const char* name) const
+    {
+        return control<QLabel>(name).text().toStdString();
+    }
+    [[nodiscard]] std::string status() const
+    {
+        return control<QStatusBar>("StatusBar1").currentMessage().toStdString();
+    }
+    /// Key link and look-up code that are stored for a key of level 1.
+    [[nodiscard]] std::string stored(int number) const
+    {
+        const auto links = QString::fromStdString(shop.column("KEYLINK", "KEYLINK")).split(u'|');
+        const auto lookUps = QString::fromStdString(shop.column("NLU", "NLU")).split(u'|');
+        return (links.at(number - 1) + u' ' + lookUps.at(number - 1)).toStdString();
+    }
+    /// Lets what is chosen go over a cell; with Ctrl when @p copies.
+    void dropAt(int row, int column, bool copies) const
+    {
+        const QModelIndex target = grid().model()->index(row, column);
+        grid().scrollTo(target);
+        const std::unique_ptr<QMimeData> keys(grid().model()->mimeData({}));
+        QDropEvent drop(QPointF(grid().visualRect(target).center()), Qt::MoveAction | Qt::CopyAction,
+                        keys.get(), Qt::LeftButton, copies ? Qt::ControlModifier : Qt::NoModifier);
+        drop.setDropAction(copies ? Qt::CopyAction : Qt::MoveAction);
+        QCoreApplication::sendEvent(grid().viewport(), &drop);
+    }
+
+    const KeyGeometry& keyboard = dorvikKeyboard();
+    test::KeyShop shop{"3"};
+    norvane::test::RecordingBoxes boxes;
+    std::unique_ptr<KeyLayout> form;
+};
+
+TEST_F(KeyLayoutTest, IsWorkedByKeysAloneAndStoresOnlyWhenTold)
+{
+    EXPECT_EQ(shop.values.databasePath, shop.folder.path("velmar.mdb"));
+    EXPECT_EQ(form->objectName(), u"KeyLayoutDorvik"_s);
+    EXPECT_EQ(form->windowTitle(), u"Keyboard Level. 1"_s);
+    EXPECT_EQ(label("Label1"), "Keyboard Level. 1");
+    EXPECT_EQ(grid().currentCell(), (KeyCell{0, 0}));
+    for (int down = 0; down < 9; ++down)
+        key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), u"functionlist"_s);
+    QTest::keyClicks(QApplication::focusWidget(), u"ch"_s);
+    QTest::keyClicks(QApplication::focusWidget(), u"e"_s);
+    EXPECT_EQ(label("ListCount"), "1 of 3");
+    key(Qt::Key_Return);
+    EXPECT_TRUE(grid().hasFocus());
+    EXPECT_EQ(cell(9, 0), "CHECK");
+    EXPECT_EQ(label("LevelChanged"), "*");
+    EXPECT_EQ(status(), "Key 1: CHECK    Level 1 key 1");
+    key(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(stored(1), "1001 000000000000001001") << "the question was closed";
+    boxes.answers = {true};
+    key(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(boxes.shown, (std::vector{saveChanges, saveChanges}));
+    EXPECT_EQ(stored(1), "6 000000000000000001");
+    EXPECT_EQ(stored(158), "1158 000000000000000158");
+    EXPECT_EQ(label("LevelChanged"), "");
+    key(Qt::Key_X, Qt::AltModifier);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(boxes.shown.size(), 2U) << "Exit asks nothing";
+}
+
+TEST_F(KeyLayoutTest, ClicksInTheListsFillTheCurrentCell)
+{
+    grid().setCurrentCell({9, 0});
+    control<QRadioButton>("plucode").click();
+    click(control<QTableView>("plulist"), 1);
+    EXPECT_EQ(cell(9, 0), "P00000000000001002 Cider");
+    control<QRadioButton>("WLUfunction").click();
+    EXPECT_FALSE(control<QTableView>("plulist").isVisible());
+    grid().setCurrentCell({8, 0});
+    click(control<QTableView>("wlulist"), 0);
+    EXPECT_EQ(cell(8, 0), "W00000000000000012 Breakfast");
+    EXPECT_EQ(grid().currentIndex().data(Qt::ToolTipRole).toString(),
+              u"Key 2 of level 1: Window look-up\nW00000000000000012 Breakfast\n"
+              "Key link 271, look-up code 001200000000000000"_s);
+    shop.execute("delete * from wlu");
+    grid().setCurrentCell({7, 0});
+    click(control<QTableView>("wlulist"), 0);
+    EXPECT_EQ(cell(7, 0), "WLU ITEM");
+    grid().setCurrentCell({0, 1});
+    control<QRadioButton>("function1").click();
+    click(control<QTableView>("functionlist"), 0);
+    EXPECT_EQ(cell(0, 1), "CASH");
+    boxes.answers = {true, true};
+    press("CSCmdBtn1");
+    EXPECT_EQ(stored(1), "0 000000000000001002");
+    EXPECT_EQ(stored(2), "271 001200000000000002");
+    EXPECT_EQ(stored(3), "1003 000000000000000003") << "an item that is gone changes nothing";
+    press("CSCmdBtn3");
+    EXPECT_EQ(cell(0, 1), "Journal Feed\rFIXED");
+}
+
+TEST_F(KeyLayoutTest, AsksOnLeavingALevelAndStaysWhenTheQuestionIsClosed)
+{
+    grid().setCurrentCell({9, 0});
+    const auto change = [this] {
+        click(control<QTableView>("functionlist"), 0);
+    };
+    change();
+    press("CSCmdBtn4");
+    EXPECT_EQ(label("Label1"), "Keyboard Level. 1");
+    EXPECT_EQ(cell(9, 0), "CASH");
+    EXPECT_TRUE(control<QPushButton>("CSCmdBtn3").isChecked());
+    boxes.answers = {false, true};
+    press("CSCmdBtn4");
+    EXPECT_EQ(form->windowTitle(), u"Keyboard Level. 2"_s);
+    press("CSCmdBtn3");
+    EXPECT_EQ(cell(9, 0), "Function Key") << "No has thrown the change away";
+    EXPECT_FALSE(control<QAction>("Undo").isEnabled());
+    EXPECT_EQ(boxes.shown, (std::vector{saveChanges, saveChanges, saveChanges})) << "changed or not";
+
+    change();
+    form->close();
+    EXPECT_TRUE(form->isVisible());
+    boxes.answers = {true};
+    form->close();
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(stored(1), "5 000000000000000001");
+}
+
+TEST_F(KeyLayoutTest, FunctionThatWouldComeBackAsAPluAsksFirst)
+{
+    grid().setCurrentCell({9, 0});
+    auto& list = control<QTableView>("functionlist");
+    click(list, 2);
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].preset, BoxAnswer::No);
+    EXPECT_EQ(cell(9, 0), "Function Key");
+    boxes.answers = {true};
+    click(list, 2);
+    EXPECT_EQ(cell(9, 0), "PLU");
+}
+
+TEST_F(KeyLayoutTest, KeysAreDraggedCopiedAndSwappedAndComeBack)
+{
+    grid().setCurrentCell({9, 0});
+    click(control<QTableView>("functionlist"), 0);
+    grid().setFocus();
+    dropAt(9, 1, false);
+    EXPECT_EQ(cell(9, 0) + cell(9, 1), "Function KeyCASH");
+    grid().setCurrentCell({9, 1});
+    dropAt(9, 2, true);
+    EXPECT_EQ(cell(9, 1) + cell(9, 2), "CASHCASH");
+    dropAt(0, 0, false);
+    EXPECT_NE(status().find("A fixed key"), std::string::npos);
+    key(Qt::Key_Z, Qt::ControlModifier);
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(cell(9, 0) + cell(9, 1), "CASHFunction Key");
+    grid().setCurrentCell({9, 0});
+    key(Qt::Key_M, Qt::ControlModifier);
+    key(Qt::Key_Right);
+    key(Qt::Key_Right);
+    key(Qt::Key_E, Qt::ControlModifier);
+    EXPECT_EQ(cell(9, 0) + cell(9, 2), "Function KeyCASH");
+    key(Qt::Key_X, Qt::ControlModifier);
+    key(Qt::Key_Left);
+    key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(cell(9, 1) + cell(9, 2), "CASHFunction Key");
+    key(Qt::Key_Z, Qt::ControlModifier);
+    key(Qt::Key_Z, Qt::ControlModifier);
+    key(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(cell(9, 1) + cell(9, 2), "Function KeyFunction Key");
+
+    control<QAction>("Undo").trigger();
+    grid().setCurrentCell({9, 2});
+    key(Qt::Key_Left, Qt::ShiftModifier);
+    key(Qt::Key_C, Qt::ControlModifier);
+    grid().setCurrentCell({5, 5});
+    key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(cell(5, 5) + cell(5, 6), "Function KeyCASH");
+}
+
+TEST_F(KeyLayoutTest, FindsKeysOfTheLevelAndTheItemOnAllLevels)
+{
+    shop.execute("update keylink set keylink = '5' where id in (20, 30, 317)");
+    shop.execute("update keylink set keylink = '6' where id = 21");
+    boxes.answers = {false};
+    press("CSCmdBtn3");
+    key(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), u"c"_s);
+    QTest::keyClicks(QApplication::focusWidget(), u"as"_s);
+    EXPECT_EQ(label("KeyFindOutcome"), "2 found");
+    const KeyCells cells{keyboard.walk()[19], keyboard.walk()[29]};
+    for (const KeyCell found : cells)
+        EXPECT_TRUE(grid().model()->index(found.row, found.column).data(KeyGridModel::FoundRole).toBool());
+    key(Qt::Key_Return);
+    EXPECT_TRUE(std::ranges::count(cells, grid().currentCell()) == 1);
+    EXPECT_TRUE(status().ends_with("Level 1 keys 20, 30, Level 3 key 1")) << status();
+    key(Qt::Key_Escape);
+    EXPECT_EQ(label("KeyFindOutcome"), "");
+    EXPECT_TRUE(grid().hasFocus());
+    key(Qt::Key_Return);
+    key(Qt::Key_Down);
+    EXPECT_EQ(status(), "CHECK    Level 1 key 21");
+    key(Qt::Key_Down);
+    EXPECT_EQ(status(), "PLU    on no key");
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(grid().hasFocus());
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(form->isVisible()) << "nothing has changed";
+}
+
+TEST_F(KeyLayoutTest, CopyLevelsAsksAboutChangesFirstAndShowsTheCopy)
+{
+    grid().setCurrentCell({9, 0});
+    click(control<QTableView>("functionlist"), 0);
+    press("CSCmdBtn8");
+    EXPECT_EQ(cell(9, 0), "CASH") << "the question was closed, nothing opened";
+    QTimer::singleShot(0, form.get(), [] {
+        QWidget& copying = *QApplication::activeModalWidget();
+        QTest::keyClick(copying.findChild<ui::ValueList*>(u"CopyFrom"_s), Qt::Key_Home);
+        QTest::keyClick(copying.findChild<ui::ValueList*>(u"CopyTo"_s), Qt::Key_End);
+        QTest::mouseClick(copying.findChild<QPushButton*>(u"CSCmdBtn1"_s), Qt::LeftButton);
+        copying.close();
+    });
+    boxes.answers = {true};
+    press("CSCmdBtn8");
+    EXPECT_EQ(label("Label1"), "Keyboard Level. 5");
+    EXPECT_EQ(cell(9, 0), "CASH");
+}
+
+} // namespace
+} // namespace norvane::keys
