@@ -4,6 +4,7 @@
 #include "keys/KeyLayout.h"
 #include "keys/KeyLevel.h"
 #include "store/Catalogue.h"
+#include "store/Database.h"
 #include "store/Recordset.h"
 #include "ui/Appearance.h"
 #include "ui/MessageBoxes.h"

@@ -9,23 +9,6 @@ namespace norvane::keys
 namespace
 {
 
-KeyCell operator+(KeyCell cell, KeyCell offset)
-{
-    return {cell.row + offset.row, cell.column + offset.column};
-}
-
-KeyCell operator-(KeyCell cell, KeyCell other)
-{
-    return {cell.row - other.row, cell.column - other.column};
-}
-
-KeyCells movedBy(KeyCells cells, KeyCell offset)
-{
-    for (KeyCell& cell : cells)
-        cell = cell + offset;
-    return cells;
-}
-
 /// Row by row, so that a block and its new place are in the same order whatever was clicked first.
 KeyCells sorted(KeyCells cells)
 {
@@ -45,6 +28,13 @@ KeyCells without(const KeyCells& cells, const KeyCells& others)
 }
 
 } // namespace
+
+KeyCells movedBy(KeyCells cells, KeyCell offset)
+{
+    for (KeyCell& cell : cells)
+        cell = cell + offset;
+    return cells;
+}
 
 KeyCell upperLeft(const KeyCells& cells)
 {

@@ -84,6 +84,7 @@ private:
     KeyCells m_marked;
 };
 
+[[nodiscard]] KeyCells movedBy(KeyCells cells, KeyCell offset);
 /// The first row and the first column of @p cells, which may not be empty.
 [[nodiscard]] KeyCell upperLeft(const KeyCells& cells);
 

@@ -17,6 +17,14 @@ struct KeyCell {
     int row = 0;
     int column = 0;
     bool operator==(const KeyCell&) const = default;
+    friend KeyCell operator+(KeyCell cell, KeyCell offset)
+    {
+        return {cell.row + offset.row, cell.column + offset.column};
+    }
+    friend KeyCell operator-(KeyCell cell, KeyCell other)
+    {
+        return {cell.row - other.row, cell.column - other.column};
+    }
 };
 
 /// A cell whose key does the same on every register. It has no row in the tables.

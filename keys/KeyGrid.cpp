@@ -55,6 +55,13 @@ void KeyGrid::setCurrentCell(KeyCell cell)
     setCurrentIndex(model()->index(cell.row, cell.column));
 }
 
+void KeyGrid::choose(const KeyCells& cells, KeyCell current)
+{
+    setCurrentCell(current);
+    for (const KeyCell cell : cells)
+        selectionModel()->select(model()->index(cell.row, cell.column), QItemSelectionModel::Select);
+}
+
 KeyCells KeyGrid::chosenCells() const
 {
     KeyCells cells;
@@ -87,6 +94,9 @@ void KeyGrid::startDrag(Qt::DropActions actions)
         return;
     auto* const drag = new QDrag(this);
     drag->setMimeData(model()->mimeData(selectedIndexes()));
+    const QRect place = visualRegionForSelection(selectionModel()->selection()).boundingRect();
+    drag->setPixmap(viewport()->grab(place));
+    drag->setHotSpot(visualRect(currentIndex()).center() - place.topLeft());
     drag->exec(actions, Qt::MoveAction);
 }
 

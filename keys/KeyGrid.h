@@ -20,6 +20,8 @@ public:
     [[nodiscard]] KeyCell currentCell() const { return KeyGridModel::cellOf(currentIndex()); }
     /// Chooses this cell alone.
     void setCurrentCell(KeyCell cell);
+    /// Chooses @p cells, of which @p current is the current one.
+    void choose(const KeyCells& cells, KeyCell current);
     /// The current cell among them.
     [[nodiscard]] KeyCells chosenCells() const;
 

@@ -58,6 +58,7 @@ private:
     [[nodiscard]] QLayout* makeFindRow();
     void connectParts();
     void addActions();
+    void addSeparator();
     QAction* addAction(const QString& name, const QString& caption, const QList<QKeySequence>& keys,
                        Qt::ShortcutContext context, const std::function<void()>& run);
     void fitScreen();
@@ -73,6 +74,7 @@ private:
 
     void assign(ItemKind kind, const QString& number, bool byEnter);
     [[nodiscard]] bool mayAssign(ItemKind kind, const QString& number);
+    void drop(KeyCell target, bool copies);
     void finish(Refusal refusal);
     void showChanges();
     void find();

@@ -105,6 +105,9 @@ void KeyListPanel::layOut()
     }
     options->addStretch();
     column->addWidget(m_count);
+    setTabOrder(m_lists.back().option, m_filter);
+    for (const List& each : m_lists)
+        setTabOrder(m_filter, each.table);
 }
 
 void KeyListPanel::show(ItemKind kind)

@@ -9,7 +9,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -88,13 +87,16 @@ protected:
     /// Lets what is chosen go over a cell; with Ctrl when @p copies.
     void dropAt(int row, int column, bool copies) const
     {
-        const QModelIndex target = grid().model()->index(row, column);
-        grid().scrollTo(target);
-        const std::unique_ptr<QMimeData> keys(grid().model()->mimeData({}));
-        QDropEvent drop(QPointF(grid().visualRect(target).center()), Qt::MoveAction | Qt::CopyAction,
-                        keys.get(), Qt::LeftButton, copies ? Qt::ControlModifier : Qt::NoModifier);
-        drop.setDropAction(copies ? Qt::CopyAction : Qt::MoveAction);
-        QCoreApplication::sendEvent(grid().viewport(), &drop);
+        QAbstractItemModel& model = *grid().model();
+        const std::unique_ptr<QMimeData> keys(model.mimeData(grid().selectionModel()->selectedIndexes()));
+        model.dropMimeData(keys.get(), copies ? Qt::CopyAction : Qt::MoveAction, -1, -1,
+                           model.index(row, column));
+    }
+    /// Alt and a letter; a button pressed so stays down for a moment.
+    bool letter(Qt::Key letter, const std::function<bool()>& happened) const
+    {
+        key(letter, Qt::AltModifier);
+        return QTest::qWaitFor(happened);
     }
 
     const KeyGeometry& keyboard = dorvikKeyboard();
@@ -122,16 +124,15 @@ TEST_F(KeyLayoutTest, IsWorkedByKeysAloneAndStoresOnlyWhenTold)
     EXPECT_EQ(cell(9, 0), "CHECK");
     EXPECT_EQ(label("LevelChanged"), "*");
     EXPECT_EQ(status(), "Key 1: CHECK    Level 1 key 1");
-    key(Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(letter(Qt::Key_S, [this] { return boxes.shown.size() == 1; }));
     EXPECT_EQ(stored(1), "1001 000000000000001001") << "the question was closed";
     boxes.answers = {true};
-    key(Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(letter(Qt::Key_S, [this] { return boxes.shown.size() == 2; }));
     EXPECT_EQ(boxes.shown, (std::vector{saveChanges, saveChanges}));
     EXPECT_EQ(stored(1), "6 000000000000000001");
     EXPECT_EQ(stored(158), "1158 000000000000000158");
     EXPECT_EQ(label("LevelChanged"), "");
-    key(Qt::Key_X, Qt::AltModifier);
-    EXPECT_FALSE(form->isVisible());
+    EXPECT_TRUE(letter(Qt::Key_X, [this] { return !form->isVisible(); }));
     EXPECT_EQ(boxes.shown.size(), 2U) << "Exit asks nothing";
 }
 
