@@ -10,6 +10,7 @@
 #include <QPainterPath>
 
 #include <array>
+#include <span>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -38,6 +39,9 @@ constexpr std::array<Look, 6> looks{{
     {"Missing item"_L1, colours::missingKey, colours::missingMark, Shape::Cross},
     {"Fixed"_L1, colours::fixedKey, colours::text, Shape::Lock},
 }};
+
+/// A key that is not programmed needs no explanation.
+constexpr auto explainedLooks = std::span(looks).subspan(1);
 
 constexpr int padding = 4;
 constexpr int markSize = 8;
@@ -109,12 +113,10 @@ void paintMark(QPainter& painter, const Look& look, const QRectF& place)
 }
 
 /// Fonts differ in width, and no digit may be cut.
-QFont numberFont(const QFont& usual, const QString& number, int width)
+QFont fittingFont(QFont font, int pixels, const QString& text, int width)
 {
-    QFont font = usual;
-    int pixels = numberFontPixels;
     font.setPixelSize(pixels);
-    while (pixels > leastFontPixels && QFontMetrics(font).horizontalAdvance(number) > width)
+    while (pixels > leastFontPixels && QFontMetrics(font).horizontalAdvance(text) > width)
         font.setPixelSize(--pixels);
     return font;
 }
@@ -122,15 +124,14 @@ QFont numberFont(const QFont& usual, const QString& number, int width)
 /// The number above, in small digits, and the description below it.
 void paintNumbered(QPainter& painter, const QRect& place, const QString& text)
 {
-    const QFont usual = painter.font();
     const QString number = text.section(u' ', 0, 0);
-    painter.setFont(numberFont(usual, number, place.width()));
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, number);
-    painter.setFont(usual);
     const QString description = text.section(u' ', 1);
-    const int width = place.width() - markSize;
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignBottom,
-                     painter.fontMetrics().elidedText(description, Qt::ElideRight, width));
+    const QFont usual = painter.font();
+    painter.setFont(fittingFont(usual, numberFontPixels, number, place.width()));
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, number);
+    const QRect besideMark = place.adjusted(0, 0, -markSize - 1, 0);
+    painter.setFont(fittingFont(usual, ui::fontPixels, description, besideMark.width()));
+    painter.drawText(besideMark, Qt::AlignLeft | Qt::AlignBottom, description);
 }
 
 void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index)
@@ -197,7 +198,7 @@ QSize KeyLegend::sizeHint() const
 {
     const QFontMetrics metrics(font());
     int width = 0;
-    for (const Look& look : looks)
+    for (const Look& look : explainedLooks)
         width += metrics.horizontalAdvance(look.words) + markSize + 2 * padding + legendGap;
     return {width, metrics.height() + 2 * padding};
 }
@@ -206,7 +207,7 @@ void KeyLegend::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     int x = 0;
-    for (const Look& look : looks) {
+    for (const Look& look : explainedLooks) {
         const int words = painter.fontMetrics().horizontalAdvance(look.words);
         const QRect place(x, 0, markSize + 3 * padding + words, height());
         painter.fillRect(place, look.ground);

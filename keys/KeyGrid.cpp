@@ -6,10 +6,12 @@
 #include "ui/FormKit.h"
 
 #include <QDrag>
+#include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QScrollBar>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -78,13 +80,44 @@ QSize KeyGrid::sizeHint() const
     return {horizontalHeader()->length() + frame, verticalHeader()->length() + frame};
 }
 
+/// The view's own way begins at the cell that was clicked or walked to last, not at one that a search, a drop
+/// or the opening has led to.
+void KeyGrid::extendTo(const QModelIndex& end)
+{
+    m_extends = true;
+    selectionModel()->setCurrentIndex(end, QItemSelectionModel::NoUpdate);
+    m_extends = false;
+    const auto [top, bottom] = std::minmax({m_anchor.row(), end.row()});
+    const auto [left, right] = std::minmax({m_anchor.column(), end.column()});
+    selectionModel()->select({model()->index(top, left), model()->index(bottom, right)},
+                             QItemSelectionModel::ClearAndSelect);
+}
+
 void KeyGrid::keyPressEvent(QKeyEvent* event)
 {
+    static const QHash<int, CursorAction> arrows{
+        {Qt::Key_Left, MoveLeft}, {Qt::Key_Right, MoveRight}, {Qt::Key_Up, MoveUp}, {Qt::Key_Down, MoveDown}};
+    if (event->modifiers().testFlag(Qt::ShiftModifier) && arrows.contains(event->key())) {
+        extendTo(moveCursor(arrows.value(event->key()), Qt::NoModifier));
+        return;
+    }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         Q_EMIT entered();
         return;
     }
     QTableView::keyPressEvent(event);
+}
+
+/// What is chosen follows the current cell by every key that moves it. With Ctrl it would stay behind,
+/// perhaps out of sight, and be cut instead of the key in hand.
+QItemSelectionModel::SelectionFlags KeyGrid::selectionCommand(const QModelIndex& index,
+                                                              const QEvent* event) const
+{
+    if (event == nullptr || event->type() != QEvent::KeyPress)
+        return QTableView::selectionCommand(index, event);
+    const auto* const key = static_cast<const QKeyEvent*>(event);
+    const bool moves = key->modifiers() == Qt::ControlModifier && key->key() != Qt::Key_Space;
+    return moves ? QItemSelectionModel::ClearAndSelect : QTableView::selectionCommand(index, event);
 }
 
 /// The view's own way would clear the cells that were dragged away.
@@ -103,6 +136,8 @@ void KeyGrid::startDrag(Qt::DropActions actions)
 void KeyGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     QTableView::currentChanged(current, previous);
+    if (!m_extends)
+        m_anchor = current;
     Q_EMIT currentCellChanged();
 }
 

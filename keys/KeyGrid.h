@@ -3,6 +3,7 @@
 
 #include "keys/KeyGridModel.h"
 
+#include <QPersistentModelIndex>
 #include <QTableView>
 
 namespace norvane::keys
@@ -35,8 +36,16 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    [[nodiscard]] QItemSelectionModel::SelectionFlags
+    selectionCommand(const QModelIndex& index, const QEvent* event = nullptr) const override;
     void startDrag(Qt::DropActions actions) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    void extendTo(const QModelIndex& end);
+
+    QPersistentModelIndex m_anchor; ///< where a choice of several keys began
+    bool m_extends = false;
 };
 
 } // namespace norvane::keys

@@ -5,7 +5,6 @@
 #include "ui/Appearance.h"
 #include "ui/FilteredList.h"
 #include "ui/FormKit.h"
-#include "ui/WaitPointer.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -22,32 +21,14 @@ namespace norvane::keys
 namespace
 {
 
-enum class NumberColumn { Hidden, Shown };
-
-/// One of the lists and the button that shows it.
-struct ListRow {
-    ItemKind kind;
-    QLatin1StringView option;
-    QLatin1StringView caption;
-    QLatin1StringView list;
-    QLatin1StringView index; ///< its order
-    NumberColumn number;
+/// In the order of ItemKind.
+constexpr ItemList::Names rows[] = {
+    {ItemKind::Function, "function1"_L1, "Function "_L1, "functionlist"_L1},
+    {ItemKind::Plu, "plucode"_L1, "PLU "_L1, "plulist"_L1},
+    {ItemKind::LookUp, "WLUfunction"_L1, "WLU"_L1, "wlulist"_L1},
 };
-
-// clang-format off
-constexpr ListRow rows[] = {
-    {ItemKind::Function, "function1"_L1,   "Function "_L1, "functionlist"_L1, "primarykey"_L1, NumberColumn::Hidden},
-    {ItemKind::Plu,      "plucode"_L1,     "PLU "_L1,      "plulist"_L1,      "plunumber"_L1,  NumberColumn::Shown},
-    {ItemKind::LookUp,   "WLUfunction"_L1, "WLU"_L1,       "wlulist"_L1,      "primarykey"_L1, NumberColumn::Shown},
-};
-// clang-format on
 
 constexpr int panelPixels = 260;
-
-const ListRow& rowOf(ItemKind kind)
-{
-    return rows[static_cast<std::size_t>(kind)];
-}
 
 } // namespace
 
@@ -56,38 +37,34 @@ KeyListPanel::KeyListPanel(const std::shared_ptr<store::Database>& database, QWi
 {
     ui::nameControl(*m_count, u"ListCount"_s);
     setFixedWidth(panelPixels);
-    for (const ListRow& row : rows)
-        build(row.kind, database);
+    for (const ItemList::Names& names : rows) {
+        list(names.kind) = makeItemList(names, database, this);
+        connectList(names.kind);
+    }
+    // A function's number means nothing to those who put it on a key.
+    list(ItemKind::Function).view->setColumnHidden(0, true);
     connect(m_filter, &QLineEdit::textChanged, this, &KeyListPanel::setFilter);
     connect(m_filter, &QLineEdit::returnPressed, this,
-            [this] { choose(shownList().table->currentIndex(), true); });
+            [this] { choose(shownList().view->currentIndex(), true); });
     layOut();
     list(ItemKind::Function).option->setChecked(true);
 }
 
-void KeyListPanel::build(ItemKind kind, const std::shared_ptr<store::Database>& database)
+void KeyListPanel::connectList(ItemKind kind)
 {
-    const ListRow& row = rowOf(kind);
-    const ItemTable& table = itemTable(kind);
-    List& built = list(kind);
-    built.option = new QRadioButton(row.caption, this);
-    ui::nameControl(*built.option, row.option);
-    connect(built.option, &QRadioButton::toggled, this, [this, kind](bool on) {
+    const ItemList& connected = list(kind);
+    connected.option->show();
+    connected.view->installEventFilter(this);
+    connect(connected.option, &QRadioButton::toggled, this, [this, kind](bool on) {
         if (on)
             show(kind);
     });
-    built.model =
-        new store::RecordListModel(database, {table.table, row.index, table.number, u"DESCRIPTION"_s}, this);
-    built.table = ui::makeListTable(row.list, built.model, this);
-    built.table->setColumnHidden(0, row.number == NumberColumn::Hidden);
-    built.table->installEventFilter(this);
-    built.table->hide();
-    connect(built.table, &QTableView::clicked, this,
+    connect(connected.view, &QTableView::clicked, this,
             [this](const QModelIndex& index) { choose(index, false); });
-    connect(built.table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+    connect(connected.view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this, kind](const QModelIndex& current) {
                 if (current.isValid())
-                    Q_EMIT looked(kind, current.siblingAtColumn(0).data().toString());
+                    Q_EMIT looked(kind, ItemList::numberAt(current));
             });
 }
 
@@ -99,28 +76,24 @@ void KeyListPanel::layOut()
     column->setSpacing(ui::spacing::controlGap);
     column->addLayout(options);
     column->addWidget(m_filter);
-    for (const List& each : m_lists) {
+    for (const ItemList& each : m_lists) {
         options->addWidget(each.option);
-        column->addWidget(each.table, 1);
+        column->addWidget(each.view, 1);
     }
     options->addStretch();
     column->addWidget(m_count);
     setTabOrder(m_lists.back().option, m_filter);
-    for (const List& each : m_lists)
-        setTabOrder(m_filter, each.table);
+    for (const ItemList& each : m_lists)
+        setTabOrder(m_filter, each.view);
 }
 
 void KeyListPanel::show(ItemKind kind)
 {
     m_kind = kind;
-    for (const List& each : m_lists)
-        each.table->setVisible(each.table == shownList().table);
-    m_filter->setList(shownList().table);
-    if (shownList().model->recordCount() == 0) {
-        const ui::WaitPointer wait;
-        shownList().model->reload();
-        ui::fitFirstColumn(*shownList().table, shownList().model->lastNumber());
-    }
+    for (const ItemList& each : m_lists)
+        each.view->setVisible(each.view == shownList().view);
+    m_filter->setList(shownList().view);
+    shownList().readIfNew();
     setFilter(m_filter->text());
 }
 
@@ -128,7 +101,7 @@ void KeyListPanel::setFilter(const QString& part)
 {
     shownList().model->setFilter(part);
     if (!part.isEmpty())
-        shownList().table->selectRow(0);
+        shownList().view->selectRow(0);
     tellCount();
 }
 
@@ -140,16 +113,16 @@ void KeyListPanel::tellCount()
 
 void KeyListPanel::enterList()
 {
-    QTableView& table = *shownList().table;
-    if (!table.currentIndex().isValid())
-        table.selectRow(0);
-    table.setFocus();
+    QTableView& view = *shownList().view;
+    if (!view.currentIndex().isValid())
+        view.selectRow(0);
+    view.setFocus();
 }
 
 void KeyListPanel::choose(const QModelIndex& index, bool byEnter)
 {
     if (index.isValid())
-        Q_EMIT chosen(m_kind, index.siblingAtColumn(0).data().toString(), byEnter);
+        Q_EMIT chosen(m_kind, ItemList::numberAt(index), byEnter);
 }
 
 void KeyListPanel::clearFilter()
@@ -164,7 +137,7 @@ bool KeyListPanel::eventFilter(QObject* watched, QEvent* event)
         return QWidget::eventFilter(watched, event);
     const auto* const key = static_cast<QKeyEvent*>(event);
     if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-        choose(shownList().table->currentIndex(), true);
+        choose(shownList().view->currentIndex(), true);
         return true;
     }
     const bool isCommand = key->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier);

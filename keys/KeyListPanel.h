@@ -1,22 +1,13 @@
 // The three lists from which keys are programmed.
 #pragma once
 
-#include "keys/KeyItems.h"
+#include "keys/ItemList.h"
 
 #include <QWidget>
 
 #include <array>
-#include <memory>
 
 class QLabel;
-class QRadioButton;
-class QTableView;
-
-namespace norvane::store
-{
-class Database;
-class RecordListModel;
-} // namespace norvane::store
 
 namespace norvane::ui
 {
@@ -49,22 +40,16 @@ Q_SIGNALS:
     void looked(ItemKind kind, const QString& number);
 
 private:
-    struct List {
-        QRadioButton* option = nullptr;
-        QTableView* table = nullptr;
-        store::RecordListModel* model = nullptr;
-    };
-
-    void build(ItemKind kind, const std::shared_ptr<store::Database>& database);
+    void connectList(ItemKind kind);
     void layOut();
     void show(ItemKind kind);
     void setFilter(const QString& part);
     void tellCount();
     void choose(const QModelIndex& index, bool byEnter);
-    [[nodiscard]] List& list(ItemKind kind) { return m_lists.at(static_cast<std::size_t>(kind)); }
-    [[nodiscard]] List& shownList() { return list(m_kind); }
+    [[nodiscard]] ItemList& list(ItemKind kind) { return m_lists.at(static_cast<std::size_t>(kind)); }
+    [[nodiscard]] ItemList& shownList() { return list(m_kind); }
 
-    std::array<List, 3> m_lists; ///< by kind
+    std::array<ItemList, 3> m_lists; ///< by kind
     ItemKind m_kind = ItemKind::Function;
     ui::FilterBox* m_filter;
     QLabel* m_count;

@@ -24,13 +24,6 @@ constexpr int listWidth = 300;
 
 } // namespace
 
-struct LookUpLists::Row {
-    ItemKind kind;
-    QLatin1StringView option;
-    QLatin1StringView caption;
-    QLatin1StringView list;
-};
-
 LookUpLists::LookUpLists(const std::shared_ptr<store::Database>& database, QWidget* parent)
     : QWidget(parent), m_options(new QButtonGroup(this)), m_filter(new ui::FilterBox(u"ListFilter"_s, this)),
       m_hint(new QLabel(u"What is ticked under Allow is listed here."_s, this))
@@ -39,9 +32,11 @@ LookUpLists::LookUpLists(const std::shared_ptr<store::Database>& database, QWidg
     ui::nameControl(*m_hint, u"ListHint"_s);
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setEnabled(false);
-    for (const Row& row : {Row{ItemKind::Plu, "plucode"_L1, "PLU Code"_L1, "plulist"_L1},
-                           Row{ItemKind::Function, "function1"_L1, "Function Keys"_L1, "functionlist"_L1}}) {
-        m_lists.push_back(make(row, database));
+    for (const ItemList::Names& names :
+         {ItemList::Names{ItemKind::Plu, "plucode"_L1, "PLU Code"_L1, "plulist"_L1},
+          ItemList::Names{ItemKind::Function, "function1"_L1, "Function Keys"_L1, "functionlist"_L1}}) {
+        m_lists.push_back(makeItemList(names, database, this));
+        m_options->addButton(m_lists.back().option);
         connectList(m_lists.back());
     }
     connect(m_filter, &QLineEdit::textChanged, this, &LookUpLists::setFilter);
@@ -50,35 +45,21 @@ LookUpLists::LookUpLists(const std::shared_ptr<store::Database>& database, QWidg
     follow();
 }
 
-LookUpLists::List LookUpLists::make(const Row& row, const std::shared_ptr<store::Database>& database)
-{
-    const ItemTable& items = itemTable(row.kind);
-    auto* const option = new QRadioButton(row.caption, this);
-    ui::nameControl(*option, row.option);
-    m_options->addButton(option);
-    auto* const model = new store::RecordListModel(
-        database, {items.table, u"primarykey"_s, items.number, u"description"_s}, this);
-    QTableView* const view = ui::makeListTable(row.list, model, this);
-    option->hide();
-    view->hide();
-    return {row.kind, option, model, view};
-}
-
-void LookUpLists::connectList(const List& list)
+void LookUpLists::connectList(const ItemList& list)
 {
     const ItemKind kind = list.kind;
     connect(list.option, &QRadioButton::clicked, this, [this, kind] { showOnly(kind); });
     connect(list.view, &QTableView::clicked, this,
-            [this, kind](const QModelIndex& index) { Q_EMIT clicked(kind, numberAt(index)); });
+            [this, kind](const QModelIndex& index) { Q_EMIT clicked(kind, ItemList::numberAt(index)); });
     connect(list.view, &QTableView::activated, this,
-            [this, kind](const QModelIndex& index) { Q_EMIT entered(kind, numberAt(index)); });
+            [this, kind](const QModelIndex& index) { Q_EMIT entered(kind, ItemList::numberAt(index)); });
 }
 
 void LookUpLists::layOut()
 {
     auto* const options = new QHBoxLayout;
     options->setSpacing(ui::spacing::groupGap);
-    for (const List& list : m_lists)
+    for (const ItemList& list : m_lists)
         options->addWidget(list.option);
     options->addStretch();
     auto* const column = new QVBoxLayout(this);
@@ -86,19 +67,19 @@ void LookUpLists::layOut()
     column->setSpacing(ui::spacing::controlGap);
     column->addLayout(options);
     column->addWidget(m_filter);
-    for (const List& list : m_lists)
+    for (const ItemList& list : m_lists)
         column->addWidget(list.view, 1);
     column->addWidget(m_hint, 1);
 }
 
-bool LookUpLists::isShown(const List& list) const
+bool LookUpLists::isShown(const ItemList& list) const
 {
     return list.view->isVisibleTo(this);
 }
 
 void LookUpLists::reach(ItemKind kind, bool reachable)
 {
-    const auto list = std::ranges::find(m_lists, kind, &List::kind);
+    const auto list = std::ranges::find(m_lists, kind, &ItemList::kind);
     list->option->setVisible(reachable);
     list->view->setVisible(reachable);
     follow();
@@ -106,7 +87,7 @@ void LookUpLists::reach(ItemKind kind, bool reachable)
 
 void LookUpLists::showOnly(ItemKind kind)
 {
-    for (const List& list : m_lists)
+    for (const ItemList& list : m_lists)
         list.view->setVisible(list.kind == kind);
     follow();
 }
@@ -114,15 +95,16 @@ void LookUpLists::showOnly(ItemKind kind)
 /// An option is chosen while its list is the only one.
 void LookUpLists::follow()
 {
-    const auto isShownHere = [this](const List& list) {
+    const auto isShownHere = [this](const ItemList& list) {
         return isShown(list);
     };
     const auto first = std::ranges::find_if(m_lists, isShownHere);
     const auto shown = std::ranges::count_if(m_lists, isShownHere);
     m_options->setExclusive(false);
-    for (const List& list : m_lists) {
+    for (const ItemList& list : m_lists) {
         list.option->setChecked(shown == 1 && isShown(list));
-        readIfNew(list);
+        if (isShown(list))
+            list.readIfNew();
     }
     m_options->setExclusive(true);
     m_filter->setVisible(shown > 0);
@@ -130,20 +112,11 @@ void LookUpLists::follow()
     m_filter->setList(shown > 0 ? first->view : nullptr);
 }
 
-/// A list is read when it is first shown: a long one takes its time.
-void LookUpLists::readIfNew(const List& list)
-{
-    if (!isShown(list) || list.model->recordCount() > 0)
-        return;
-    list.model->reload();
-    ui::fitFirstColumn(*list.view, list.model->lastNumber());
-}
-
 /// One row is in hand, whichever list it is in.
 void LookUpLists::setFilter(const QString& text)
 {
     bool inHand = text.isEmpty();
-    for (const List& list : m_lists) {
+    for (const ItemList& list : m_lists) {
         list.model->setFilter(text);
         if (inHand || !isShown(list) || list.model->rowCount() == 0)
             continue;
@@ -155,10 +128,11 @@ void LookUpLists::setFilter(const QString& text)
 /// Of the lists shown, the first that has one.
 void LookUpLists::takeRowInHand()
 {
-    const auto list = std::ranges::find_if(
-        m_lists, [this](const List& each) { return isShown(each) && each.view->currentIndex().isValid(); });
+    const auto list = std::ranges::find_if(m_lists, [this](const ItemList& each) {
+        return isShown(each) && each.view->currentIndex().isValid();
+    });
     if (list != m_lists.end())
-        Q_EMIT entered(list->kind, numberAt(list->view->currentIndex()));
+        Q_EMIT entered(list->kind, ItemList::numberAt(list->view->currentIndex()));
 }
 
 void LookUpLists::enter()
@@ -167,11 +141,6 @@ void LookUpLists::enter()
         m_filter->setFocus();
         m_filter->selectAll();
     }
-}
-
-QString LookUpLists::numberAt(const QModelIndex& index)
-{
-    return index.siblingAtColumn(0).data().toString();
 }
 
 } // namespace norvane::keys

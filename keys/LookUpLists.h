@@ -1,8 +1,7 @@
 // The lists beside the lines of a look-up, from which the lines are filled.
 #pragma once
 
-#include "keys/KeyItems.h"
-#include "store/RecordListModel.h"
+#include "keys/ItemList.h"
 
 #include <QWidget>
 
@@ -11,9 +10,6 @@
 
 class QButtonGroup;
 class QLabel;
-class QModelIndex;
-class QRadioButton;
-class QTableView;
 
 namespace norvane::ui
 {
@@ -44,26 +40,15 @@ Q_SIGNALS:
     void entered(ItemKind kind, const QString& number);
 
 private:
-    struct Row;
-    struct List {
-        ItemKind kind;
-        QRadioButton* option;
-        store::RecordListModel* model;
-        QTableView* view;
-    };
-
-    [[nodiscard]] List make(const Row& row, const std::shared_ptr<store::Database>& database);
-    void connectList(const List& list);
+    void connectList(const ItemList& list);
     void layOut();
     void showOnly(ItemKind kind);
     void follow();
-    void readIfNew(const List& list);
     void setFilter(const QString& text);
     void takeRowInHand();
-    [[nodiscard]] bool isShown(const List& list) const;
-    [[nodiscard]] static QString numberAt(const QModelIndex& index);
+    [[nodiscard]] bool isShown(const ItemList& list) const;
 
-    std::vector<List> m_lists;
+    std::vector<ItemList> m_lists;
     QButtonGroup* m_options;
     ui::FilterBox* m_filter;
     QLabel* m_hint;

@@ -73,7 +73,7 @@ TEST_F(KeyOpenersTest, AnEditorThatCannotOpenClosesAlone)
     EXPECT_EQ(m_boxes.shown[0].text,
               u"Run-time error '3021':\r\rTable KEYLINK, row 1: No current record. (KEYLINK) "
               "Upload Key Link from the ECR first."_s);
-    EXPECT_EQ(child<QLabel>(m_main, "DataInUse").text(), QString());
+    EXPECT_FALSE(child<QLabel>(m_main, "DataInUse").isVisibleTo(&m_main));
 }
 
 } // namespace
