@@ -54,7 +54,9 @@ KeyGrid::KeyGrid(KeyGridModel* model, QWidget* parent) : QTableView(parent)
 
 void KeyGrid::setCurrentCell(KeyCell cell)
 {
-    setCurrentIndex(model()->index(cell.row, cell.column));
+    // The view's own way looks at the keys that are held down.
+    selectionModel()->setCurrentIndex(model()->index(cell.row, cell.column),
+                                      QItemSelectionModel::ClearAndSelect);
 }
 
 void KeyGrid::choose(const KeyCells& cells, KeyCell current)

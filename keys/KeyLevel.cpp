@@ -61,7 +61,7 @@ std::vector<Key> KeyLevel::readKeys(int level)
 {
     KeyRows functions(*m_database, keyLinkTable(), m_geometry.rowsAhead(level));
     KeyRows lookUps(*m_database, nluTable(), m_geometry.rowsAhead(level));
-    std::vector<Key> keys(static_cast<std::size_t>(m_geometry.rows * m_geometry.columns));
+    std::vector<Key> keys(indexOf({m_geometry.rows, 0}));
     for (const FixedCell& fixed : m_geometry.fixedCells)
         keys[indexOf(fixed.cell)] = {{}, {}, fixed.text, KeyState::Fixed};
     for (const KeyCell cell : m_geometry.walk()) {

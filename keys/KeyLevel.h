@@ -43,7 +43,8 @@ public:
 private:
     [[nodiscard]] std::size_t indexOf(KeyCell cell) const
     {
-        return static_cast<std::size_t>(cell.row * m_geometry.columns + cell.column);
+        const int index = cell.row * m_geometry.columns + cell.column;
+        return static_cast<std::size_t>(index);
     }
     [[nodiscard]] std::vector<Key> readKeys(int level);
     void saveFunctions();

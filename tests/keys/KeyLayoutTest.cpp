@@ -239,6 +239,7 @@ TEST_F(KeyLayoutTest, KeysAreDraggedCopiedAndSwappedAndComeBack)
     EXPECT_EQ(cell(9, 1) + cell(9, 2), "Function KeyFunction Key");
 
     control<QAction>("Undo").trigger();
+    EXPECT_EQ(cell(9, 1) + cell(9, 2), "Function KeyCASH");
     grid().setCurrentCell({9, 2});
     key(Qt::Key_Left, Qt::ShiftModifier);
     key(Qt::Key_C, Qt::ControlModifier);
