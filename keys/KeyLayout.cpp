@@ -49,7 +49,7 @@ QString pluFunctionQuestion()
 } // namespace
 
 KeyLayout::KeyLayout(const KeyGeometry& keyboard, ApplicationValues& values, Boxes& boxes, QWidget* parent)
-    : QDialog(parent), m_boxes(boxes), m_database(openCustomerDatabase(values)),
+    : QDialog(parent), m_values(values), m_boxes(boxes), m_database(openCustomerDatabase(values)),
       m_level(keyboard, m_database), Grid1(nullptr)
 {
     setObjectName(keyboard.form);
@@ -127,7 +127,7 @@ void KeyLayout::copyLevels()
 {
     if (m_level.differs() && !leaveLevel())
         return;
-    copylevel form(*m_database, m_level.geometry(), m_boxes, this);
+    copylevel form(*m_database, m_level.geometry(), m_values, m_boxes, this);
     const bool isCopied = form.exec() == Accepted;
     updategrid(isCopied ? form.copiedTo() : m_level.level());
 }

@@ -83,6 +83,7 @@ private:
     void tellItem(ItemKind kind, const QString& number);
     void tellPlaces(const Key& key);
 
+    const ApplicationValues& m_values;
     Boxes& m_boxes;
     std::shared_ptr<store::Database> m_database;
     KeyLevel m_level;

@@ -2,6 +2,7 @@
 #include "keys/copylevel.h"
 
 #include "base/LossQuestion.h"
+#include "customers/SafetyCopies.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 #include "ui/ValueList.h"
@@ -32,8 +33,9 @@ QVector<QStringList> levelRows()
 
 } // namespace
 
-copylevel::copylevel(store::Database& database, const KeyGeometry& keyboard, Boxes& boxes, QWidget* parent)
-    : QDialog(parent), m_database(database), m_keyboard(keyboard), m_boxes(boxes),
+copylevel::copylevel(store::Database& database, const KeyGeometry& keyboard, const ApplicationValues& values,
+                     Boxes& boxes, QWidget* parent)
+    : QDialog(parent), m_database(database), m_keyboard(keyboard), m_values(values), m_boxes(boxes),
       m_copy(ui::makeButton(u"CSCmdBtn1"_s, u"&Copy"_s, this))
 {
     setObjectName(u"copylevel"_s);
@@ -84,6 +86,8 @@ void copylevel::copy()
     if (!misplaced.isEmpty() && !askBeforeLoss(m_boxes, misplaced))
         return;
     const ui::WaitPointer wait;
+    if (!customers::copyBeforeJob(m_values, m_boxes, u"before level copy"_s))
+        return;
     chosen().run(m_database);
     accept();
 }

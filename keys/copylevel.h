@@ -1,6 +1,7 @@
 // The dialog that copies one keyboard level over another.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "keys/LevelCopy.h"
 
 #include <QDialog>
@@ -30,9 +31,10 @@ class copylevel : public QDialog
     Q_OBJECT
 
 public:
-    /// @p database and @p keyboard must outlive the dialog.
-    copylevel(store::Database& database, const KeyGeometry& keyboard, Boxes& boxes,
-              QWidget* parent = nullptr);
+    /// @p database, @p keyboard and @p values must outlive the dialog. @p values tell whose data is copied
+    /// first, so that the level can come back.
+    copylevel(store::Database& database, const KeyGeometry& keyboard, const ApplicationValues& values,
+              Boxes& boxes, QWidget* parent = nullptr);
 
     /// The level copied to, once the dialog is accepted: the one that the editor shows next.
     [[nodiscard]] int copiedTo() const { return chosen().to; }
@@ -45,6 +47,7 @@ private:
 
     store::Database& m_database;
     const KeyGeometry& m_keyboard;
+    const ApplicationValues& m_values;
     Boxes& m_boxes;
     ui::ValueList* CopyFrom;
     ui::ValueList* CopyTo;

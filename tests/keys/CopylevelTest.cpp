@@ -1,6 +1,7 @@
 // The dialog that copies levels as a user works it.
 #include "keys/copylevel.h"
 
+#include "customers/SafetyCopies.h"
 #include "tests/keys/KeyShop.h"
 #include "tests/support/RecordingBoxes.h"
 
@@ -34,9 +35,10 @@ TEST(Copylevel, CopiesOnceBothLevelsAreChosenAndAsksWhereLevelsLieElsewhere)
     for (const KeyGeometry* const keyboard : {&velmarKeyboard(), &dorvikKeyboard()}) {
         const test::KeyShop shop;
         shop.addKeyboard(keyboard->keysPerLevel);
+        const std::string before = shop.column("KEYLINK", "KEYLINK");
         const auto database = shop.open();
         norvane::test::RecordingBoxes boxes;
-        copylevel form(*database, *keyboard, boxes);
+        copylevel form(*database, *keyboard, shop.values, boxes);
         form.show();
         press(form, "CSCmdBtn1");
         choose(form, "CopyFrom", 5);
@@ -57,6 +59,10 @@ TEST(Copylevel, CopiesOnceBothLevelsAreChosenAndAsksWhereLevelsLieElsewhere)
         EXPECT_EQ(form.copiedTo(), 2);
         const auto keys = QString::fromStdString(shop.column("KEYLINK", "KEYLINK")).split(u'|');
         EXPECT_EQ(keys.at(copiedKeys), asks ? u"4126"_s : u"5001"_s);
+        const auto copies = customers::safetyCopies(shop.values.customerPath);
+        ASSERT_EQ(copies.size(), 1);
+        customers::restoreSafetyCopy(shop.values.customerPath, copies.front());
+        EXPECT_TRUE(shop.column("KEYLINK", "KEYLINK") == before);
     }
 }
 
