@@ -79,7 +79,8 @@ void KeyPicker::takeTyped()
 /// What was typed and not taken gives way to the key that is shown.
 void KeyPicker::dropTyped()
 {
-    setEditText(itemText(currentIndex()));
+    if (const QString shown = itemText(currentIndex()); shown != lineEdit()->text())
+        setEditText(shown);
 }
 
 /// A click into the list marks its text, so that typing replaces it.

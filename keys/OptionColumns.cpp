@@ -5,8 +5,9 @@
 #include "ui/FormKit.h"
 
 #include <QCheckBox>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -30,22 +31,35 @@ void setCaption(QCheckBox& box, const QString& caption)
     box.setAccessibleDescription(caption);
 }
 
-/// Width of the widest caption of any key in the column of @p flag; @p box is used to measure.
-int columnWidth(int flag, QCheckBox& box)
+constexpr int columnCount = 3;
+
+int columnOf(int index)
 {
-    int widest = 0;
+    return std::min(index / checksOfFlag, columnCount - 1);
+}
+
+/// What the boxes of all keys need.
+struct Room {
+    QVector<int> widths = QVector<int>(columnCount);
+    qsizetype lines = 0; ///< of the longest column
+};
+
+/// @p box is used to measure its captions.
+Room roomForAll(QCheckBox& box)
+{
+    Room room;
     for (const auto* const table : {&keyOptionsTo156(), &keyOptionsFrom157()}) {
         for (const KeyOptions& options : *table) {
+            QVector<qsizetype> lines(columnCount);
             for (const OptionBox& option : options.boxes) {
-                if (option.index / checksOfFlag != flag)
-                    continue;
+                const int column = columnOf(option.index);
                 box.setText(buttonText(option.caption));
-                widest = std::max(widest, box.sizeHint().width());
+                room.widths[column] = std::max(room.widths[column], box.sizeHint().width());
+                room.lines = std::max(room.lines, ++lines[column]);
             }
         }
     }
-    box.setText({});
-    return widest;
+    return room;
 }
 
 } // namespace
@@ -53,40 +67,55 @@ int columnWidth(int flag, QCheckBox& box)
 OptionColumns::OptionColumns(QWidget* parent)
     : QWidget(parent), m_noOptions(new QLabel(u"This key has no options to tick."_s, this))
 {
-    auto* const columns = new QHBoxLayout(this);
-    columns->setContentsMargins(0, 0, 0, 0);
-    columns->setSpacing(ui::spacing::groupGap);
-    for (int flag = 0; flag < flagCount; ++flag)
-        columns->addLayout(makeColumn(flag));
-    setFixedSize(sizeHint());
-    for (QCheckBox* const box : std::as_const(Check1))
-        box->hide();
+    makeChecks();
+    auto* const grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(0);
+    for (int column = 0; column < columnCount; ++column) {
+        auto* const boxes = new QVBoxLayout;
+        boxes->setSpacing(ui::spacing::controlGap);
+        for (int index = 0; index < checkCount; ++index) {
+            if (columnOf(index) == column)
+                boxes->addWidget(Check1[index]);
+        }
+        boxes->addStretch();
+        grid->addLayout(boxes, 0, column);
+    }
+    fixSize(*grid);
     m_noOptions->setEnabled(false);
     m_noOptions->hide();
 }
 
-QVBoxLayout* OptionColumns::makeColumn(int flag)
+void OptionColumns::makeChecks()
 {
-    auto* const column = new QVBoxLayout;
-    column->setSpacing(ui::spacing::controlGap);
-    for (int index = flag * checksOfFlag; index < (flag + 1) * checksOfFlag; ++index) {
-        auto* const box = new QCheckBox(this);
-        ui::nameControl(*box, u"Check1_%1"_s.arg(index));
-        column->addWidget(box);
-        Check1 += box;
+    for (int index = 0; index < checkCount; ++index) {
+        Check1 += new QCheckBox(this);
+        ui::nameControl(*Check1.last(), u"Check1_%1"_s.arg(index));
+        Check1.last()->hide();
     }
-    column->addStretch();
-    column->addStrut(columnWidth(flag, *Check1.at(flag * checksOfFlag)));
-    return column;
+}
+
+/// A column keeps its width when it shows nothing.
+void OptionColumns::fixSize(QGridLayout& grid)
+{
+    const Room room = roomForAll(*Check1.first());
+    int width = 0;
+    for (int column = 0; column < columnCount; ++column) {
+        grid.setColumnMinimumWidth(column, room.widths[column] + ui::spacing::groupGap);
+        width += room.widths[column] + ui::spacing::groupGap;
+    }
+    setFixedWidth(width);
+    const int line = Check1.first()->sizeHint().height() + ui::spacing::controlGap;
+    setFixedHeight(static_cast<int>(room.lines) * line);
 }
 
 void OptionColumns::showChecks(const QVector<KeyControls::Check>& checks)
 {
     for (int index = 0; index < checkCount; ++index) {
-        const KeyControls::Check& check = checks.at(index);
-        setCaption(*Check1.at(index), check.caption);
-        Check1.at(index)->setChecked(check.ticked);
-        Check1.at(index)->setVisible(check.visible);
+        const KeyControls::Check& check = checks[index];
+        setCaption(*Check1[index], check.caption);
+        Check1[index]->setChecked(check.ticked);
+        Check1[index]->setVisible(check.visible);
     }
     m_noOptions->setVisible(std::ranges::none_of(checks, &KeyControls::Check::visible));
     m_noOptions->adjustSize();
@@ -95,7 +124,7 @@ void OptionColumns::showChecks(const QVector<KeyControls::Check>& checks)
 void OptionColumns::readTicks(QVector<KeyControls::Check>& checks) const
 {
     for (int index = 0; index < checkCount; ++index)
-        checks[index].ticked = Check1.at(index)->isChecked();
+        checks[index].ticked = Check1[index]->isChecked();
 }
 
 } // namespace norvane::keys

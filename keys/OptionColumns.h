@@ -7,13 +7,14 @@
 
 class QCheckBox;
 class QLabel;
-class QVBoxLayout;
+class QGridLayout;
 
 namespace norvane::keys
 {
 
-/// Boxes "Check1_0" to "Check1_23" in four columns, one for each flag field. Those that are shown move up,
-/// and none ever changes its column. The size is that of the widest captions of all keys and never changes.
+/// Boxes "Check1_0" to "Check1_23" in three columns: those of flag1, of flag2, and of both others, of which
+/// no key shows many. Boxes that are shown move up, and none ever changes its column. The size is that which
+/// the key with the most options needs, and never changes.
 class OptionColumns : public QWidget
 {
     Q_OBJECT
@@ -26,7 +27,8 @@ public:
     void readTicks(QVector<KeyControls::Check>& checks) const;
 
 private:
-    [[nodiscard]] QVBoxLayout* makeColumn(int flag);
+    void makeChecks();
+    void fixSize(QGridLayout& grid);
 
     QVector<QCheckBox*> Check1;
     QLabel* m_noOptions;

@@ -1,0 +1,224 @@
+// The function key editor as a user works it, and what stands in the table afterwards.
+#include "keys/FrmFunctKey.h"
+
+#include "tests/keys/KeyShop.h"
+#include "tests/support/FormTest.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace norvane::keys::test
+{
+namespace
+{
+
+class FrmFunctKeyTest : public testing::Test
+{
+protected:
+    FrmFunctKeyTest()
+    {
+        const auto database = m_shop.open();
+        const store::Transaction all(*database);
+        for (int id = 1; id <= 266; ++id) {
+            const QString description = id == 21 ? u"Cheque"_s : u"KEY %1"_s.arg(267 - id);
+            KeyShop::add(*database, "FUNCTIONKEY",
+                         {{"id", whole(id)}, {"description", store::Value::text(description)}});
+        }
+    }
+    void open()
+    {
+        m_shop.values.databasePath = u"elsewhere"_s;
+        m_form.emplace(m_shop.values, m_boxes);
+        m_form->show();
+        QApplication::setActiveWindow(&*m_form);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&*m_form));
+    }
+    template <typename Control>
+    Control& control(const QString& name)
+    {
+        return *m_form->findChild<Control*>(name);
+    }
+    QCheckBox& check(int index) { return control<QCheckBox>(u"Check1_%1"_s.arg(index)); }
+    QComboBox& list() { return control<QComboBox>(u"selectkey"_s); }
+    static void type(QLineEdit& box, const char* text, Qt::Key last)
+    {
+        box.setFocus();
+        box.selectAll();
+        QTest::keyClicks(&box, QLatin1String(text));
+        QTest::keyClick(&box, last);
+    }
+    void enter(const char* box, const char* text)
+    {
+        type(control<QLineEdit>(QLatin1String(box)), text, Qt::Key_Tab);
+    }
+    void select(const char* typed) { type(*list().lineEdit(), typed, Qt::Key_Return); }
+    /// By the letter of the button. @return what the status bar is told.
+    QString save()
+    {
+        QSignalSpy told(&*m_form, &FrmFunctKey::told);
+        QTest::keyClick(&*m_form, Qt::Key_S, Qt::AltModifier);
+        EXPECT_TRUE(told.wait());
+        return told.value(0).value(0).toString();
+    }
+    std::string row(int id) const
+    {
+        const auto database = m_shop.open();
+        const auto rows = database->openQuery(
+            u"select description, halo, flag1, flag2, flag3, flag4 from FUNCTIONKEY where id = %1"_s.arg(id));
+        QStringList fields;
+        for (int field = 0; field < rows.fieldCount(); ++field)
+            fields += rows.value(field).toText();
+        return fields.join(u' ').toStdString();
+    }
+    /// Numbers and boxes that the user sees, ticked ones with an asterisk.
+    std::string shown()
+    {
+        QStringList seen;
+        for (const auto& [label, box] :
+             {std::pair(u"label1"_s, u"Halo"_s), {u"Label2"_s, u"otherno"_s}, {u"Label4"_s, u"otherno2"_s}}) {
+            EXPECT_EQ(control<QLabel>(label).isVisible(), control<QLineEdit>(box).isVisible());
+            if (control<QLabel>(label).isVisible())
+                seen += control<QLabel>(label).text() + u'=' + control<QLineEdit>(box).text();
+        }
+        for (int index = 0; index < checkCount; ++index) {
+            if (check(index).isVisible())
+                seen += check(index).text() + (check(index).isChecked() ? u"*"_s : QString());
+        }
+        return seen.join(u'|').toStdString();
+    }
+
+    KeyShop m_shop{"3"};
+    norvane::test::RecordingBoxes m_boxes;
+    std::optional<FrmFunctKey> m_form;
+};
+
+TEST_F(FrmFunctKeyTest, AKeyIsFoundByItsNumberOrAnyPartOfItsText)
+{
+    open();
+    EXPECT_EQ(m_shop.values.databasePath, m_shop.folder.path("velmar.mdb"));
+    EXPECT_EQ(list().currentIndex(), -1);
+    EXPECT_EQ(list().lineEdit()->placeholderText(), u"Select Function Key");
+    EXPECT_FALSE(control<QLineEdit>(u"description"_s).isVisible());
+    const std::pair<const char*, int> rows[] = {{"5", 5},      {"66", 66},  {"hequ", 21},
+                                                {"key 1", 68}, {"xyz", 68}, {"266", 266}};
+    for (const auto& [typed, id] : rows) {
+        select(typed);
+        EXPECT_EQ(list().currentData().toInt(), id) << typed;
+        EXPECT_EQ(list().lineEdit()->text(), list().currentText()) << typed;
+        EXPECT_EQ(control<QLineEdit>(u"description"_s).text(),
+                  id == 21 ? u"Cheque"_s : u"KEY %1"_s.arg(267 - id));
+    }
+    QTest::keyClick(list().lineEdit(), Qt::Key_Up);
+    EXPECT_EQ(shown(), "Allow In X Mode Only|Print Card Details") << "key 265";
+    EXPECT_EQ(row(5), "KEY 262     ") << "showing stores nothing";
+}
+
+TEST_F(FrmFunctKeyTest, KeysOfAllKindsAreShownTypedAndSaved)
+{
+    const struct {
+        const char* key;
+        const char* shown;
+        std::vector<std::pair<const char*, const char*>> typed;
+        std::vector<int> ticks;
+        const char* saved;
+    } rows[] = {
+        {"1", "", {{"description", "GO"}}, {}, "GO 0 0 0 0 0"},
+        {"16",
+         "Halo=0.00|Allow In X Only|Compulsory Validation|Print Receipt",
+         {{"Halo", "12,5"}},
+         {0, 2},
+         "KEY 251 1250 50 0 0 0"},
+        {"20",
+         "Print Check On Printer# (0-40)=0|Print Check Automatically on Service|Print Consecutive# on Guest "
+         "Check",
+         {{"otherno", "7"}},
+         {1},
+         "KEY 247 1250 20 7 0 0"},
+        {"118",
+         "Halo=0.00|Allow In X Only|Compulsory Validation|Add To Net Grand Total|Skip Adjust Of PLU Total",
+         {},
+         {1, 3},
+         "KEY 149 0 24 0 0 0"},
+        {"136",
+         "Val of Dgt Add (0-9) To PLU=0|Key Affect Digit 1-18 Of PLU#=0|Allow In X Only|Key Modifies "
+         "Descriptor Only|Print Descriptor On Guest Check|Print Descriptor On Receipt|Print Descriptor On KP",
+         {{"otherno", "3"}, {"Halo", "8"}},
+         {4},
+         "KEY 131 800 2 3 8 0"},
+        {"157", nullptr, {{"Halo", "1.234"}}, {6, 19}, "KEY 110 1234 0 40 0 20"},
+        {"232", nullptr, {{"Halo", "15"}}, {8}, "KEY 35 1500 0 10 0 0"},
+        {"264",
+         "Money Gain For Each Point=0|Allow In X Mode Only|Print Card Details",
+         {{"Halo", "12.34"}},
+         {0},
+         "KEY 3 1234 40 12.34 0 0"},
+    };
+    open();
+    const QSize size = m_form->size();
+    for (const auto& [key, seen, typed, ticks, saved] : rows) {
+        select(key);
+        EXPECT_TRUE(seen == nullptr || shown() == seen) << key << ' ' << shown();
+        for (const auto& [box, text] : typed)
+            enter(box, text);
+        for (const int index : ticks)
+            check(index).click();
+        EXPECT_EQ(save(), u"Saved function key "_s + QLatin1String(key));
+        EXPECT_EQ(row(QByteArray(key).toInt()), saved) << key;
+        select(key);
+        for (int index = 0; index < checkCount; ++index)
+            EXPECT_EQ(check(index).isChecked(), std::ranges::count(ticks, index) == 1) << key << ' ' << index;
+        EXPECT_EQ(m_form->size(), size);
+        EXPECT_EQ(QRect(QPoint(0, 0), QSize(1024, 700)) | m_form->rect(), QRect(0, 0, 1024, 700));
+    }
+    select("232");
+    EXPECT_EQ(check(8).text(), u"Tip Amt Adds To Grs && Net TTLs") << "shows one ampersand";
+}
+
+TEST_F(FrmFunctKeyTest, HaloKeepsItsValueAndItsDigitsFromKeyToKey)
+{
+    m_shop.execute("update FUNCTIONKEY set halo = 1250, flag2 = 2 where id in (16, 26, 157)");
+    open();
+    for (const auto& [key, halo] :
+         {std::pair("16", "12.50"), {"26", "1250"}, {"16", "12.5"}, {"157", "1.250"}}) {
+        select(key);
+        EXPECT_EQ(control<QLineEdit>(u"Halo"_s).text(), QLatin1String(halo)) << key;
+    }
+    select("1");
+    save();
+    EXPECT_EQ(row(1), "KEY 266 125 0 0 0 0");
+}
+
+TEST_F(FrmFunctKeyTest, OnlySaveStoresAndTheListKeepsItsTexts)
+{
+    open();
+    EXPECT_FALSE(control<QPushButton>(u"SaveRecord"_s).isEnabled()) << "no key is shown";
+    select("13");
+    check(0).click();
+    enter("description", "NEW");
+    select("14");
+    EXPECT_EQ(row(13), "KEY 254     ");
+    select("13");
+    enter("description", "NEW");
+    save();
+    EXPECT_EQ(row(13), "NEW 0 0 0 0 0");
+    EXPECT_TRUE(list().currentText().endsWith(u"KEY 254"));
+    select("16");
+    enter("Halo", "1000000");
+    EXPECT_EQ(m_boxes.shown, (std::vector{norvane::test::ShownBox{u"Maximum Value Exceeded"_s,
+                                                                  u"Input Error"_s, BoxIcon::Exclamation}}));
+    QTest::keyClick(&*m_form, Qt::Key_Escape);
+    EXPECT_FALSE(m_form->isVisible());
+    EXPECT_EQ(row(16), "KEY 251     ");
+    open();
+    EXPECT_TRUE(list().itemText(12).endsWith(u"NEW"));
+}
+
+} // namespace
+} // namespace norvane::keys::test
