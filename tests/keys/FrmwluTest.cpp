@@ -86,9 +86,10 @@ protected:
         const auto database = m_shop.open();
         const auto record = database->openQuery(u"select * from wlu where wluno = %1"_s.arg(number));
         QStringList shown;
-        for (int line = 1; line <= 4; ++line)
+        for (int line = 1; line <= 4; ++line) {
             shown += record.value(u"wlutype%1"_s.arg(line)).toText() + u':' +
                      QString::number(record.value(u"codenumber%1"_s.arg(line)).toText().toLongLong());
+        }
         return shown.join(u' ').toStdString();
     }
 

@@ -122,9 +122,10 @@ protected:
             for (const char* box : {"allowcondiment", "allowplu", "allowfunction", "Allowexit"})
                 shown += control<QCheckBox>(form, QLatin1String(box)).isChecked() ? u"1"_s : u"0"_s;
             const auto& lines = *control<QTableView>(form, u"Grid1"_s).model();
-            for (int line = 0; line < 4; ++line)
+            for (int line = 0; line < 4; ++line) {
                 shown +=
                     lines.index(line, 1).data().toString() + u' ' + lines.index(line, 2).data().toString();
+            }
             leave(form, "CSCmdBtn2", "CSCmdBtn2");
         });
         return shown.join(u'|');
