@@ -139,9 +139,10 @@ void OverlayPreview::moveSheet()
 
 void OverlayPreview::take(const paper::PrinterCorrection& correction)
 {
-    if (!m_corrections.keep(m_target.name, correction))
+    if (!m_corrections.keep(m_target.name, correction)) {
         m_boxes.message(u"The correction could not be stored. It holds until this window is closed."_s,
                         u"Printer Correction"_s, BoxIcon::Exclamation);
+    }
     m_target.correction = correction;
     showTarget();
 }
@@ -164,14 +165,18 @@ QString OverlayPreview::outsideNotice() const
     const std::size_t outside = keysOutside(m_document.layout(), m_target).size();
     if (outside == 0)
         return {};
-    const QString notice =
-        counted(outside, u"1 key leaves"_s, u"%1 keys leave"_s) +
-        u" the printable area of the printer %1 (dashed line) and will not print whole."_s.arg(printerName());
-    if (!isWiderThanPage(m_document.layout(), m_target))
-        return notice;
-    const bool isUpright = m_target.sheet.orientation == QPageLayout::Portrait;
-    return u"The sheet is wider than the page. "_s +
-           (isUpright ? u"Choose Landscape in Printer Setup. "_s : QString()) + notice;
+    QString notice;
+    if (isWiderThanPage(m_document.layout(), m_target)) {
+        notice += u"The sheet is wider than the page. "_s;
+        if (m_target.sheet.orientation == QPageLayout::Portrait)
+            notice += u"Choose Landscape in Printer Setup. "_s;
+    }
+    const QString area =
+        m_target.name.isEmpty()
+            ? u" the usual printable area (dashed line) and may not print whole."_s
+            : u" the printable area of the printer %1 (dashed line) and will not print whole."_s.arg(
+                  m_target.name);
+    return notice + counted(outside, u"1 key leaves"_s, u"%1 keys leave"_s) + area;
 }
 
 QString OverlayPreview::cutNotice() const
