@@ -243,5 +243,30 @@ TEST_F(ScreensInFrameTest, TheStatusBarSaysWhoseDataIsOpen)
     EXPECT_FALSE(dataInUse.isVisible());
 }
 
+/// Another customer is chosen; the key editors lead over to its data, which is still empty.
+TEST_F(ScreensInFrameTest, AKeyEditorThatCannotOpenClosesAlone)
+{
+    QWidget& screen = open("PLUMENU");
+    type(screen, pluName, "Stout");
+    m_folder.write("app/New/setup.ini", "[SetupOption]\r\nECRModel=2\r\n");
+    store::Database::create(m_folder.path("app/New/velmar.mdb"), store::catalogue());
+    m_values.customerName = u"New"_s;
+    m_values.customerPath = m_folder.path("app/New");
+    const auto& dataInUse = child<QWidget>(*m_main, "DataInUse");
+    for (const char* entry : {"FunctionMenu", "KeyboardLocation", "WLUMenu"}) {
+        m_values.databasePath = m_folder.path("app/Cafe/velmar.mdb");
+        m_main->showCustomer();
+        EXPECT_TRUE(dataInUse.isVisible());
+        child<QAction>(*m_main, entry).trigger();
+        EXPECT_TRUE(m_boxes.shown.back().text.startsWith(u"Run-time error '3021':\r\r"_s)) << entry;
+        EXPECT_EQ(m_values.databasePath, m_folder.path("app/New/velmar.mdb")) << entry;
+        EXPECT_FALSE(dataInUse.isVisible()) << entry;
+        EXPECT_EQ(shown(screen, pluName), "Stout") << entry;
+    }
+    EXPECT_EQ(m_boxes.shown.front().text,
+              u"Redeem Points for Tender Keys are programmed in the General Function Options"_s);
+    EXPECT_EQ(m_boxes.shown.size(), 4U) << "a note for the function keys, a failure for each";
+}
+
 } // namespace
 } // namespace norvane::shell
