@@ -29,7 +29,7 @@ void setUp(QDoubleSpinBox& box, double least, double most, int decimals, const Q
 {
     box.setRange(least, most);
     box.setDecimals(decimals);
-    box.setSingleStep(decimals == 1 ? 0.1 : 0.05);
+    box.setSingleStep(0.1);
     box.setSuffix(u' ' + unit);
 }
 
@@ -81,12 +81,17 @@ QWidget* CorrectionForm::makeMeasured()
               testLineLength.inMillimetres() * paper::largestStretch, 1, u"mm"_s);
         setUp(*axis.start, 0, 100, 1, u"mm"_s);
     }
+    addTakeOver(*grid);
+    return frame;
+}
+
+void CorrectionForm::addTakeOver(QGridLayout& grid)
+{
     QPushButton* const take = ui::makeButton(u"TakeOverButton"_s, u"Ta&ke over"_s, this);
     take->setAutoDefault(false);
     take->setToolTip(u"Works out the correction below from what was measured"_s);
     connect(take, &QPushButton::clicked, this, &CorrectionForm::takeOver);
-    grid->addWidget(take, grid->rowCount(), 1);
-    return frame;
+    grid.addWidget(take, grid.rowCount(), 1);
 }
 
 QWidget* CorrectionForm::makeCorrection()
@@ -99,7 +104,7 @@ QWidget* CorrectionForm::makeCorrection()
     m_down.stretch = addBox(*grid, u"StretchDown"_s, u"&Height of the printed sheet:"_s);
     const double largest = paper::largestOffset.inMillimetres();
     for (const Axis& axis : {m_across, m_down}) {
-        setUp(*axis.offset, -largest, largest, 1, u"mm"_s);
+        setUp(*axis.offset, -largest, largest, 2, u"mm"_s);
         setUp(*axis.stretch, paper::smallestStretch * percent, paper::largestStretch * percent, 2, u"%"_s);
     }
     return frame;

@@ -42,6 +42,7 @@ private:
     };
 
     [[nodiscard]] QWidget* makeMeasured();
+    void addTakeOver(QGridLayout& grid);
     [[nodiscard]] QWidget* makeCorrection();
     [[nodiscard]] QDoubleSpinBox* addBox(QGridLayout& grid, const QString& name, const QString& caption);
     void showCorrection(const paper::PrinterCorrection& correction);

@@ -17,9 +17,10 @@ QRectF rectOf(const KeyPlace& key)
 }
 
 /// What a printer tells of its margins is a dot more or less.
+constexpr double tolerance = 0.05;
+
 QRectF printable(const TargetPrinter& target)
 {
-    constexpr double tolerance = 0.05;
     return target.sheet.printableRect().adjusted(-tolerance, -tolerance, tolerance, tolerance);
 }
 
@@ -65,8 +66,8 @@ bool isWiderThanPage(const KeyLayout& layout, const TargetPrinter& target)
 std::optional<paper::PrinterCorrection> correctionToFit(const KeyLayout& layout, const TargetPrinter& target)
 {
     const QRectF keys = allKeys(layout, target);
-    const QRectF area = printable(target);
-    if (keys.width() > area.width() || keys.height() > area.height())
+    const QRectF area = target.sheet.printableRect();
+    if (keys.width() > area.width() + tolerance || keys.height() > area.height() + tolerance)
         return std::nullopt;
     return paper::PrinterCorrection{
         moved(target.correction.across, moveInto(keys.left(), keys.right(), area.left(), area.right())),
