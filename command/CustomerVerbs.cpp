@@ -12,6 +12,7 @@
 #include "store/Catalogue.h"
 #include "store/SalesTables.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -40,16 +41,16 @@ QString settingInWords(const ApplicationValues& values, QLatin1StringView key)
 QVariant lastSales(const QString& database)
 {
     using namespace store::salestable;
-    store::Database opened(database);
-    QString last;
+    std::string each;
     for (const char* const table : {times, clerks, plus, mixes, financials}) {
-        store::BoundQuery query(opened, "SELECT MAX(\"" + std::string(day) + "\") FROM \"" + table + '"', {},
-                                database);
-        if (query.next())
-            last = std::max(last, query.value(0).toText());
+        each += each.empty() ? "" : " UNION ALL ";
+        each += "SELECT MAX(\"" + std::string(day) + "\") AS day FROM \"" + table + '"';
     }
-    const QDate day = QDate::fromString(last, Qt::ISODate);
-    return day.isValid() ? QVariant(day) : QVariant();
+    store::Database opened(database);
+    store::BoundQuery query(opened, "SELECT MAX(day) FROM (" + each + ")", {}, database);
+    const QString last = query.next() ? query.value(0).toText() : QString();
+    const QDate found = QDate::fromString(last, Qt::ISODate);
+    return found.isValid() ? QVariant(found) : QVariant();
 }
 
 QVariantList customerRow(const Session& session, const QString& name)
@@ -107,8 +108,11 @@ QStringList faultySettings(const ApplicationValues& values)
 void listCustomers(const Session& session, const Invocation& /*words*/)
 {
     Listing listing({u"Name"_s, u"Model"_s, u"Registers"_s, u"Last exchange"_s, u"Last sales"_s});
-    for (const QString& name : customers::customerFolders(session.appPath)) {
-        if (pathExists(customers::customerDatabase(joinPath(session.appPath, name))))
+    // Names as they are on disk: those of the window, in upper case, would have to be looked for.
+    const QDir folder(session.appPath);
+    for (const QString& name :
+         folder.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
+        if (pathExists(customers::customerDatabase(folder.filePath(name))))
             listing.add(customerRow(session, name));
     }
     session.show(listing);

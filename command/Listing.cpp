@@ -47,15 +47,16 @@ QByteArray Listing::text() const
         QStringList& line = lines.emplaceBack();
         std::ranges::transform(row, std::back_inserter(line), textOf);
     }
+    QList<qsizetype> widths(m_headings.size());
+    for (const QStringList& line : lines) {
+        for (qsizetype column = 0; column < line.size(); ++column)
+            widths[column] = std::max(widths[column], line[column].size());
+    }
     QString text;
     for (const QStringList& line : lines) {
         QString shown;
-        for (qsizetype column = 0; column < line.size(); ++column) {
-            const auto width = [column](const QStringList& other) {
-                return other.value(column).size();
-            };
-            shown += line[column].leftJustified(width(std::ranges::max(lines, {}, width)) + columnGap);
-        }
+        for (qsizetype column = 0; column < line.size(); ++column)
+            shown += line[column].leftJustified(widths[column] + columnGap);
         text += shown.trimmed() + u'\n';
     }
     return text.toLocal8Bit();

@@ -107,6 +107,9 @@ void copyPages(SQLite::Database& source, const QString& to)
 {
     createDatabaseFile(to, {});
     auto target = openUnreadDatabaseFile(to);
+    // A copy that is cut off is removed, and one that a power cut damaged is told by its check.
+    run(target.getHandle(), "PRAGMA journal_mode = OFF", to);
+    run(target.getHandle(), "PRAGMA synchronous = OFF", to);
     sqlite3_backup* const backup =
         sqlite3_backup_init(target.getHandle(), "main", source.getHandle(), "main");
     if (backup != nullptr) {
