@@ -35,9 +35,10 @@ void writeSheetPdf(const Document& document, QPageLayout::Orientation orientatio
     content.open(QIODevice::WriteOnly);
     QPdfWriter writer(&content);
     writer.setTitle(QFileInfo(path).completeBaseName());
-    if (!printSheet(document, writer, {QString(), {orientation}, {}}))
+    if (!printSheet(document, writer, {QString(), {orientation}, {}})) {
         throw RuntimeFailure(Failure::DeviceIo,
                              QStringLiteral("The page could not be painted: %1").arg(path));
+    }
     writeWholeFile(path, content.data());
 }
 
