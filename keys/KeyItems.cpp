@@ -108,7 +108,7 @@ KeyItems::KeyItems(store::Database& database)
 QString KeyItems::textOf(ItemKind kind)
 {
     const store::Recordset& item = records(kind);
-    const QString description = item.value(u"DESCRIPTION"_s).toText();
+    QString description = item.value(u"DESCRIPTION"_s).toText();
     if (kind == ItemKind::Function)
         return description;
     const ItemTable& table = itemTable(kind);
