@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 #include <QAction>
 #include <QApplication>
-#include <QLabel>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
@@ -63,17 +62,6 @@ TEST_F(KeyOpenersTest, TheModelDecidesOnTheKeyboardAndItsDataAreInUse)
         EXPECT_EQ(m_values.databasePath, m_folder.path("app/Cafe/velmar.mdb"));
     }
     EXPECT_EQ(m_boxes.shown, std::vector<test::ShownBox>());
-}
-
-TEST_F(KeyOpenersTest, AnEditorThatCannotOpenClosesAlone)
-{
-    m_values.databasePath = m_folder.path("app/Other/velmar.mdb");
-    EXPECT_EQ(opened("KeyboardLocation"), QString());
-    ASSERT_EQ(m_boxes.shown.size(), 1U);
-    EXPECT_EQ(m_boxes.shown[0].text,
-              u"Run-time error '3021':\r\rTable KEYLINK, row 1: No current record. (KEYLINK) "
-              "Upload Key Link from the ECR first."_s);
-    EXPECT_FALSE(child<QLabel>(m_main, "DataInUse").isVisibleTo(&m_main));
 }
 
 } // namespace
