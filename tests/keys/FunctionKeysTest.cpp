@@ -12,12 +12,12 @@ namespace
 
 constexpr int keysOfARegister = 266;
 constexpr int amounts[] = {40, 20, 10, 4, 2, 1};
-const NumberControl numberControls[] = {NumberControl::Halo, NumberControl::otherno, NumberControl::otherno2};
 const QStringList controlNames{u"Halo"_s, u"otherno"_s, u"otherno2"_s};
+const QStringList fieldNames{u"halo"_s, u"flag1"_s, u"flag2"_s, u"flag3"_s, u"flag4"_s};
 
-QString nameOf(NumberControl control)
+auto& numberOf(auto& controls, const QString& name)
 {
-    return controlNames[static_cast<int>(control)];
+    return controls.number(static_cast<NumberControl>(controlNames.indexOf(name)));
 }
 
 Decimal decimal(const QString& text)
@@ -35,11 +35,13 @@ QStringList parted(const QString& text, QChar separator)
     QStringList parts = text.split(separator);
     for (QString& part : parts)
         part = part.trimmed();
-    return parts.size() == 1 && parts[0].isEmpty() ? QStringList() : parts;
+    parts.removeAll(QString());
+    return parts;
 }
 
+/// A row of the list's section of numbers.
 struct ListedNumber {
-    NumberControl control;
+    QString control;
     int scale;
     QString shownFrom; ///< "last flag3"
     QString savedTo;   ///< "add flag3"
@@ -49,70 +51,58 @@ struct ListedNumber {
 struct ListedKey {
     KeyControls page; ///< what is visible, with its caption
     std::vector<ListedNumber> numbers;
-    QMap<int, int> places;
+    QMap<int, int> places; ///< by box
     QStringList differences;
 };
 
-/// What the list says of one model.
-class ListedKeys
+void addCaptions(const QString& line, KeyControls& page)
 {
-public:
-    explicit ListedKeys(int model) : m_model(QString::number(model))
-    {
-        QFile file(QStringLiteral(FUNCTION_KEYS));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
-            if (line.startsWith(u'[')) {
-                m_section = line;
-            } else if (!line.isEmpty() && !line.startsWith(u';')) {
-                read(parted(line, u'|'));
-            }
-        }
+    for (const QString& number : parted(line.section(u'|', 1, 1), u';'))
+        numberOf(page, number.section(u' ', 0, 0)) = {true, number.section(u' ', 1), {}, {}};
+    for (const QString& box : parted(line.section(u'|', 2), u';')) {
+        for (int tax = 0; box == "tax"_L1 && tax < 6; ++tax)
+            page.Check1[tax] = {true, u"Exempt Tax%1"_s.arg(tax + 1), false};
+        if (box != "tax"_L1)
+            page.Check1[box.section(u' ', 0, 0).toInt()] = {true, box.section(u' ', 1), false};
     }
-    [[nodiscard]] ListedKey& operator[](int id) { return m_keys[id]; }
+}
 
-private:
-    void read(const QStringList& cells)
-    {
-        for (const QString& range : parted(cells[0], u',')) {
+void add(const QString& section, const QString& line, const QString& model, ListedKey& key)
+{
+    const QStringList cells = parted(line, u'|');
+    if (section == "[keys]"_L1) {
+        addCaptions(line, key.page);
+    } else if (section == "[models]"_L1 && !cells[2].contains(model)) {
+        for (const QString& box : cells[1].split(u' '))
+            key.page.Check1[box.toInt()] = {};
+    } else if (section == "[numbers]"_L1) {
+        key.numbers.push_back({cells[1], cells[2].toInt(), cells[3], cells[4], decimal(cells[5])});
+    } else if (section == "[places]"_L1) {
+        key.places.insert(cells[1].toInt(), cells[2].toInt());
+    } else if (section == "[differences]"_L1 && cells[1].contains(model)) {
+        key.differences += cells[2] + u" shows "_s + cells[3];
+    }
+}
+
+/// What the list says of @p model, by key.
+QMap<int, ListedKey> listedKeys(int model)
+{
+    QFile file(QStringLiteral(FUNCTION_KEYS));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QMap<int, ListedKey> keys;
+    QString section;
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)) {
+        if (line.startsWith(u'['))
+            section = line;
+        if (line.startsWith(u'[') || line.startsWith(u';'))
+            continue;
+        for (const QString& range : parted(line.section(u'|', 0, 0), u',')) {
             for (int id = range.section(u'-', 0, 0).toInt(); id <= range.section(u'-', -1).toInt(); ++id)
-                add(cells, m_keys[id]);
+                add(section, line, QString::number(model), keys[id]);
         }
     }
-    void add(const QStringList& cells, ListedKey& key) const
-    {
-        if (m_section == "[keys]"_L1) {
-            addCaptions(cells, key.page);
-        } else if (m_section == "[models]"_L1 && !cells[2].contains(m_model)) {
-            for (const QString& box : parted(cells[1], u' '))
-                key.page.Check1[box.toInt()] = {};
-        } else if (m_section == "[numbers]"_L1) {
-            key.numbers.push_back({numberControls[controlNames.indexOf(cells[1])], cells[2].toInt(), cells[3],
-                                   cells[4], decimal(cells[5])});
-        } else if (m_section == "[places]"_L1) {
-            key.places.insert(cells[1].toInt(), cells[2].toInt());
-        } else if (m_section == "[differences]"_L1 && cells[1].contains(m_model)) {
-            key.differences += cells[2] + u" shows "_s + cells[3];
-        }
-    }
-    static void addCaptions(const QStringList& cells, KeyControls& page)
-    {
-        for (const QString& number : parted(cells[1], u';')) {
-            const auto control = controlNames.indexOf(number.section(u' ', 0, 0));
-            page.number(numberControls[control]) = {true, number.section(u' ', 1), {}, {}};
-        }
-        for (const QString& box : parted(cells[2], u';')) {
-            for (int tax = 0; box == "tax"_L1 && tax < 6; ++tax)
-                page.Check1[tax] = {true, u"Exempt Tax%1"_s.arg(tax + 1), false};
-            if (box != "tax"_L1)
-                page.Check1[box.section(u' ', 0, 0).toInt()] = {true, box.section(u' ', 1), false};
-        }
-    }
-
-    QString m_model;
-    QString m_section;
-    QMap<int, ListedKey> m_keys;
-};
+    return keys;
+}
 
 QList<int> boxesOf(const KeyControls& controls, bool KeyControls::Check::*which)
 {
@@ -129,9 +119,9 @@ std::string captions(const KeyControls& controls)
     QStringList lines;
     for (const int index : boxesOf(controls, &KeyControls::Check::visible))
         lines += u"%1 %2"_s.arg(index).arg(controls.Check1[index].caption);
-    for (const NumberControl control : numberControls) {
-        if (controls.number(control).visible)
-            lines += nameOf(control) + u' ' + controls.number(control).caption;
+    for (const QString& name : controlNames) {
+        if (numberOf(controls, name).visible)
+            lines += name + u' ' + numberOf(controls, name).caption;
     }
     return lines.join(u'\n').toStdString();
 }
@@ -150,36 +140,33 @@ protected:
         for (int index = 0; index < checkCount; ++index)
             m_controls.Check1[index].ticked = boxes.contains(index);
         for (const ListedNumber& each : key.numbers)
-            m_controls.number(each.control).value = number;
+            numberOf(m_controls, each.control).value = number;
     }
     [[nodiscard]] std::string row(int id)
     {
         const auto rows = m_database->openQuery(
-            u"select halo, flag1, flag2, flag3, flag4 from FUNCTIONKEY where id = %1"_s.arg(id));
-        std::string fields = rows.value(0).toUtf8();
-        for (int field = 1; field <= flagCount; ++field)
-            fields += ' ' + rows.value(field).toUtf8();
-        return fields;
+            u"select %1 from FUNCTIONKEY where id = %2"_s.arg(fieldNames.join(u", "_s)).arg(id));
+        QStringList fields;
+        for (int field = 0; field < rows.fieldCount(); ++field)
+            fields += rows.value(field).toText();
+        return fields.join(u' ').toStdString();
     }
     /// What row() must give when the controls were saved.
     [[nodiscard]] std::string savedRow(const ListedKey& key) const
     {
-        QMap<QString, QString> row{{u"halo"_s, textOf(m_controls.Halo.value.shifted(2).rounded(0))}};
-        for (int index = 0; index < checkCount; ++index) {
-            QString& flag = row[u"flag%1"_s.arg(index / 6 + 1)];
-            flag = QString::number(flag.toInt() + (m_controls.Check1[index].ticked ? amounts[index % 6] : 0));
+        QStringList row{textOf(m_controls.Halo.value.shifted(2).rounded(0)), u"0"_s, u"0"_s, u"0"_s, u"0"_s};
+        for (const int box : boxesOf(m_controls, &KeyControls::Check::ticked)) {
+            QString& flag = row[box / 6 + 1];
+            flag = QString::number(flag.toInt() + amounts[box % 6]);
         }
         for (const ListedNumber& number : key.numbers) {
-            QString& field = row[number.savedTo.section(u' ', -1)];
-            const QString value = textOf(m_controls.number(number.control).value.shifted(number.scale));
+            QString& field = row[fieldNames.indexOf(number.savedTo.section(u' ', -1))];
+            const QString value = textOf(numberOf(m_controls, number.control).value.shifted(number.scale));
             field = number.savedTo.startsWith("add "_L1)      ? QString::number(field.toInt() + value.toInt())
                     : number.savedTo.startsWith("append "_L1) ? QString::number((field + value).toInt())
                                                               : value;
         }
-        QStringList fields{row[u"halo"_s]};
-        for (int flag = 1; flag <= flagCount; ++flag)
-            fields += row[u"flag%1"_s.arg(flag)];
-        return fields.join(u' ').toStdString();
+        return row.join(u' ').toStdString();
     }
     /// Saves the controls, looks at the row, shows the key again and notes what has become another.
     void saveAndNote(int id, const ListedKey& key, const QString& what, QStringList& differences)
@@ -189,10 +176,10 @@ protected:
         EXPECT_EQ(row(id), savedRow(key)) << id << ' ' << qPrintable(what);
         show(id);
         QStringList others;
-        for (const auto& number : key.numbers) {
-            const Decimal shown = m_controls.number(number.control).value;
-            if (!(shown == before.number(number.control).value))
-                others += nameOf(number.control) + u'=' + textOf(shown);
+        for (const ListedNumber& number : key.numbers) {
+            const Decimal shown = numberOf(m_controls, number.control).value;
+            if (!(shown == numberOf(before, number.control).value))
+                others += number.control + u'=' + textOf(shown);
         }
         for (int index = 0; index < checkCount; ++index) {
             if (m_controls.Check1[index].ticked != before.Check1[index].ticked)
@@ -202,6 +189,7 @@ protected:
             differences += what + u" shows "_s + others.join(u", "_s);
     }
 
+    QMap<int, ListedKey> m_listed = listedKeys(GetParam());
     KeyShop m_shop{QByteArray::number(GetParam())};
     std::shared_ptr<store::Database> m_database = m_shop.open();
     store::Transaction m_quick{*m_database};
@@ -215,9 +203,8 @@ protected:
 
 TEST_P(FunctionKeysTest, EveryKeyIsShownAndSavedAsListed)
 {
-    ListedKeys listed(GetParam());
     for (int id = 1; id <= keysOfARegister + 1; ++id) {
-        ListedKey& key = listed[id];
+        const ListedKey& key = m_listed[id];
         show(id);
         EXPECT_EQ(captions(m_controls), captions(key.page)) << id;
         QStringList differences;
@@ -226,12 +213,12 @@ TEST_P(FunctionKeysTest, EveryKeyIsShownAndSavedAsListed)
             set(key, {box});
             saveAndNote(id, key, QString::number(box), differences);
         }
-        for (const auto& number : key.numbers) {
-            EXPECT_EQ(m_controls.number(number.control).largest, number.largest) << id;
+        for (const ListedNumber& number : key.numbers) {
+            EXPECT_EQ(numberOf(m_controls, number.control).largest, number.largest) << id;
             for (const Decimal& value : {Decimal(1, 0), number.largest}) {
                 set(key, {});
-                m_controls.number(number.control).value = value;
-                saveAndNote(id, key, nameOf(number.control) + u'=' + textOf(value), differences);
+                numberOf(m_controls, number.control).value = value;
+                saveAndNote(id, key, number.control + u'=' + textOf(value), differences);
             }
         }
         set(key, all);
@@ -245,28 +232,25 @@ TEST_P(FunctionKeysTest, EveryKeyIsShownAndSavedAsListed)
 /// Each field holds other digits, so that a value read from another one shows.
 TEST_P(FunctionKeysTest, EveryKeyIsReadFromTheFieldsListed)
 {
-    ListedKeys listed(GetParam());
     for (const char* fields : {"123456 12 34 56 71", "7 65 43 217 6"}) {
         const QStringList row = QString::fromLatin1(fields).split(u' ');
         m_database->execute(u"update FUNCTIONKEY set halo=%1, flag1=%2, flag2=%3, flag3=%4, flag4=%5"_s.arg(
             row[0], row[1], row[2], row[3], row[4]));
         for (int id = 1; id <= keysOfARegister; ++id) {
-            const ListedKey key = listed[id];
+            const ListedKey& key = m_listed[id];
             show(id);
             for (const ListedNumber& number : key.numbers) {
-                const QString field = number.shownFrom.section(u' ', -1);
-                const QString text = row[field == "halo"_L1 ? 0 : field.last(1).toInt()];
-                const QString part = number.shownFrom.startsWith("first"_L1)  ? text.left(1)
-                                     : number.shownFrom.startsWith("last"_L1) ? text.right(1)
-                                                                              : text;
-                EXPECT_EQ(m_controls.number(number.control).value, decimal(part).shifted(-number.scale))
-                    << id << ' ' << fields;
+                const QString text = row[fieldNames.indexOf(number.shownFrom.section(u' ', -1))];
+                const bool isFirst = number.shownFrom.startsWith("first "_L1);
+                const bool isLast = number.shownFrom.startsWith("last "_L1);
+                const Decimal stored = decimal(isFirst ? text.left(1) : isLast ? text.right(1) : text);
+                EXPECT_EQ(numberOf(m_controls, number.control).value, stored.shifted(-number.scale)) << id;
             }
             for (const int box : boxesOf(key.page, &KeyControls::Check::visible)) {
                 const int place = key.places.value(box, box);
                 const QChar digit = row[place / 6 + 1].rightJustified(2, u'0').at(place % 6 / 3);
-                EXPECT_EQ(m_controls.Check1[box].ticked, (digit.digitValue() & (4 >> place % 3)) != 0)
-                    << id << ' ' << box << ' ' << fields;
+                const bool isSet = (digit.digitValue() & (4 >> place % 3)) != 0;
+                EXPECT_EQ(m_controls.Check1[box].ticked, isSet) << id << ' ' << box << ' ' << fields;
             }
         }
     }
@@ -295,10 +279,10 @@ TEST(FunctionKeyFieldsTest, OddValuesAreReadAsFarAsTheyGo)
         database->execute(u"update FUNCTIONKEY set "_s + QLatin1String(fields));
         KeyControls controls;
         FunctionKeys(database, shop.values).GetData(controls);
-        QStringList text(textOf(controls.otherno.value));
+        std::string text = controls.otherno.value.text();
         for (const int box : boxesOf(controls, &KeyControls::Check::ticked))
-            text += QString::number(box);
-        EXPECT_EQ(text.join(u' ').toStdString(), shown) << id << ' ' << fields;
+            text += ' ' + std::to_string(box);
+        EXPECT_EQ(text, shown) << id << ' ' << fields;
     }
 }
 
@@ -308,14 +292,13 @@ TEST(FunctionKeyFieldsTest, WhatCannotBeShownOrSavedTellsTableRowAndWayOut)
     shop.add("FUNCTIONKEY", {{"id", whole(1)}});
     shop.add("FUNCTIONKEY", {{"id", whole(5)}});
     FunctionKeys keys(shop.open(), shop.values);
-    const auto failure = [](const auto& act) {
-        QString text;
+    const auto failure = [](const auto& act) -> std::string {
         try {
             act();
         } catch (const RuntimeFailure& thrown) {
-            text = u"%1 %2"_s.arg(thrown.number()).arg(thrown.text());
+            return std::to_string(thrown.number()) + ' ' + thrown.text().toStdString();
         }
-        return text.toStdString();
+        return "none";
     };
     EXPECT_EQ(failure([&] { keys.moveTo(5); }),
               "3021 No current record. Table FunctionKey has 2 rows, but no row 5. Their numbers must run "
