@@ -2,8 +2,8 @@
 #include "utilities/PriceUtilities.h"
 
 #include "customers/CustomerLog.h"
-#include "customers/SafetyCopies.h"
 #include "customers/RunLock.h"
+#include "customers/SafetyCopies.h"
 #include "store/SalesTables.h"
 #include "utilities/PriceConversion.h"
 

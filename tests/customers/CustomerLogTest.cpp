@@ -27,10 +27,8 @@ TEST(CustomerLog, HasALineForEachWorkAndTellsOneThatAFailureEnded)
                                    u"1\tstopped. Still to do: PLU\t0.\\d s\n"
                                    "[-0-9]+ [0-9:]+\tprice run\t\tended by a failure\t0.\\d s\n$"_s);
     EXPECT_TRUE(lines.match(text).hasMatch()) << text.toStdString();
-    const auto last = lastLogged(folder.path(), {u"upload"_s, u"download"_s});
-    ASSERT_TRUE(last);
-    EXPECT_EQ(last->result, u"stopped. Still to do: PLU"_s);
-    EXPECT_LE(last->begun.secsTo(QDateTime::currentDateTime()), 60);
+    EXPECT_EQ(lastLogged(folder.path(), {u"upload"_s, u"download"_s})->result,
+              u"stopped. Still to do: PLU"_s);
 }
 
 TEST(CustomerLog, LosesItsOlderHalfBeyondAMegabyte)

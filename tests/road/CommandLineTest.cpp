@@ -83,33 +83,39 @@ protected:
             0);
     }
 
+    static void raisePrices(const ApplicationValues& customer)
+    {
+        test::execute(customer.databasePath, u"update pludata set price1='7.77' where groupno = 1"_s);
+    }
+    /// The same sales, once by the window and once by the command line.
+    void collectTwice()
+    {
+        QWidget& form = m_shop.openForm("CollectSales");
+        ring();
+        Shop::press(form, "Communicate");
+        ring();
+        expectDone({u"collect"_s, otherShop});
+    }
+
+    const QString otherShop = u"other shop"_s;
     mutable Shop m_shop{GetParam(), 2};
     ApplicationValues m_other = m_shop.folder().makeCustomer(u"Other Shop"_s);
 };
 
 TEST_P(CommandLine, LeavesWhatTheWindowLeaves)
 {
-    const QString other = u"other shop"_s;
     EXPECT_EQ(m_shop.upload(), test::BoxNumbers());
-    expectDone({u"fetch"_s, other});
+    expectDone({u"fetch"_s, otherShop});
     expectSame();
-
-    const QString rise = u"update pludata set price1='7.77' where groupno = 1"_s;
-    test::execute(m_other.databasePath, rise);
+    raisePrices(m_other);
     const auto before = bank();
-    expectDone({u"send"_s, other});
+    expectDone({u"send"_s, otherShop});
     const auto sent = bank();
     EXPECT_NE(sent, before);
-    test::execute(m_shop.values().databasePath, rise);
+    raisePrices(m_shop.values());
     EXPECT_EQ(m_shop.download(), test::BoxNumbers());
     EXPECT_TRUE(bank() == sent);
-    expectSame();
-
-    QWidget& form = m_shop.openForm("CollectSales");
-    ring();
-    Shop::press(form, "Communicate");
-    ring();
-    expectDone({u"collect"_s, other});
+    collectTwice();
     EXPECT_GT(m_shop.rowsOf("PLUSALES"), 0);
     expectSame();
     EXPECT_TRUE(m_shop.boxes().shown.empty());
@@ -121,48 +127,55 @@ class CommandLineOfOneShop : public CommandLine
 {
 };
 
-TEST_P(CommandLineOfOneShop, TellsByItsExitCodeWhatWentWrong)
+const QString shopName = u"Corner Shop"_s;
+const struct {
+    QStringList words;
+    int code;
+    QString err;
+} refusals[] = {
+    {{u"fetch"_s}, 2, u"Usage: norvane-shop fetch CUSTOMER [BOX...]"_s},
+    {{u"fly"_s}, 2, u"There is no command \"fly\""_s},
+    {{u"report"_s, shopName, u"plusales"_s}, 2, u"--pdf, --csv or --xlsx"_s},
+    {{u"report"_s, shopName, u"pluprice"_s, u"--period"_s, u"week"_s, u"--csv"_s, u"x"_s},
+     2,
+     u"no period \"week\""_s},
+    {{u"fetch"_s, u"nowhere"_s}, 3, u"There is no customer \"nowhere\""_s},
+    {{u"fetch"_s, u".."_s}, 3, u"There is no customer \"..\""_s},
+    {{u"send"_s, shopName, u"plu s"_s}, 4, u"\"plu s\" may be: PLU Status Group, PLU Stock."_s},
+    {{u"report"_s, shopName, u"none"_s, u"--csv"_s, u"x"_s}, 4, u"There is no report \"none\""_s},
+    {{u"restore"_s, shopName, u"2026"_s}, 4, u"There is no copy \"2026\"."_s},
+    {{u"report"_s, shopName, u"pluprice"_s, u"--csv"_s, u"none/x.csv"_s}, 7, u"x.csv could not be written"_s},
+};
+
+TEST_P(CommandLineOfOneShop, TellsByItsExitCodeWhatWasRefused)
 {
-    const QString shop = u"Corner Shop"_s;
-    const struct {
-        QStringList words;
-        int code;
-        QString err;
-    } rows[] = {
-        {{u"fetch"_s}, 2, u"Usage: norvane-shop fetch CUSTOMER [BOX...]"_s},
-        {{u"fly"_s}, 2, u"There is no command \"fly\""_s},
-        {{u"report"_s, shop, u"plusales"_s}, 2, u"--pdf, --csv or --xlsx"_s},
-        {{u"report"_s, shop, u"pluprice"_s, u"--period"_s, u"week"_s, u"--csv"_s, u"x"_s},
-         2,
-         u"no period \"week\""_s},
-        {{u"fetch"_s, u"nowhere"_s}, 3, u"There is no customer \"nowhere\""_s},
-        {{u"fetch"_s, u".."_s}, 3, u"There is no customer \"..\""_s},
-        {{u"send"_s, shop, u"plu s"_s}, 4, u"\"plu s\" may be: PLU Status Group, PLU Stock."_s},
-        {{u"report"_s, shop, u"none"_s, u"--csv"_s, u"x"_s}, 4, u"There is no report \"none\""_s},
-        {{u"restore"_s, shop, u"2026"_s}, 4, u"There is no copy \"2026\"."_s},
-        {{u"report"_s, shop, u"pluprice"_s, u"--csv"_s, u"none/x.csv"_s}, 7, u"x.csv could not be written"_s},
-    };
-    for (const auto& [words, code, err] : rows) {
+    for (const auto& [words, code, err] : refusals) {
         const Ended ended = run(words);
         EXPECT_EQ(ended.code, code) << words.join(u' ').toStdString();
         EXPECT_TRUE(ended.err.contains(err)) << ended.err.toStdString();
     }
     EXPECT_FALSE(pathExists(joinPath(m_shop.folder().appPath(), u"nowhere"_s)));
+}
 
+TEST_P(CommandLineOfOneShop, TellsByItsExitCodeWhatStoppedARun)
+{
     m_shop.folder().setFaults("[Off]\nCommand=open\nResult=8\n");
-    const Ended stopped = run({u"fetch"_s, shop, u"1"_s});
+    const Ended stopped = run({u"fetch"_s, shopName, u"1"_s});
     EXPECT_EQ(stopped.code, 6);
     EXPECT_TRUE(stopped.err.contains(u"Communications Error"_s)) << stopped.err.toStdString();
     m_shop.folder().setFaults({});
-    {
-        const auto lock = FolderLock::take(m_shop.values().customerPath, m_shop.boxes());
-        EXPECT_EQ(run({u"collect"_s, shop}).code, 5);
-    }
-    EXPECT_EQ(run({u"collect"_s, shop}).code, 0) << "the lock went with its owner";
-    EXPECT_EQ(run({u"check"_s, shop}).code, 0);
+    auto lock = FolderLock::take(m_shop.values().customerPath, m_shop.boxes());
+    EXPECT_EQ(run({u"collect"_s, shopName}).code, 5);
+    lock.reset();
+    EXPECT_EQ(run({u"collect"_s, shopName}).code, 0) << "the lock went with its owner";
+}
+
+TEST_P(CommandLineOfOneShop, ChecksWhatStandsInTheFolders)
+{
+    EXPECT_EQ(run({u"check"_s, shopName}).code, 0);
     writeWholeFile(joinPath(m_shop.values().customerPath, u"setup.ini"_s),
                    "[SetupOption]\r\nECRModel= 9\r\n");
-    const Ended check = run({u"check"_s, shop});
+    const Ended check = run({u"check"_s, shopName});
     EXPECT_EQ(check.code, 8);
     EXPECT_TRUE(check.out.contains(u"there is no entry 9 in the list"_s)) << check.out.toStdString();
 }
