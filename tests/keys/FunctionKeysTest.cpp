@@ -232,7 +232,7 @@ TEST_P(FunctionKeysTest, EveryKeyIsShownAndSavedAsListed)
 /// Each field holds other digits, so that a value read from another one shows.
 TEST_P(FunctionKeysTest, EveryKeyIsReadFromTheFieldsListed)
 {
-    for (const char* fields : {"123456 12 34 56 71", "7 65 43 217 6"}) {
+    for (const char* fields : {"123456 12 34 56 71", "7 65 43 427 6"}) {
         const QStringList row = QString::fromLatin1(fields).split(u' ');
         m_database->execute(u"update FUNCTIONKEY set halo=%1, flag1=%2, flag2=%3, flag3=%4, flag4=%5"_s.arg(
             row[0], row[1], row[2], row[3], row[4]));
