@@ -22,6 +22,8 @@ struct LookUpLine {
     QString item = QStringLiteral("0"); ///< a carriage return parts a number from its description
 
     [[nodiscard]] bool isEmpty() const;
+    /// Whether a save would store the same of both; they may show it in other words.
+    bool operator==(const LookUpLine& other) const { return type == other.type && code == other.code; }
 };
 
 using LookUpLines = std::vector<LookUpLine>;

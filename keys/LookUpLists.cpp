@@ -143,4 +143,12 @@ void LookUpLists::enter()
     }
 }
 
+bool LookUpLists::leave()
+{
+    if (!isAncestorOf(window()->focusWidget()))
+        return false;
+    m_filter->clear();
+    return true;
+}
+
 } // namespace norvane::keys

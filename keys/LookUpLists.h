@@ -32,6 +32,8 @@ public:
     void reach(ItemKind kind, bool reachable);
     /// Takes the keyboard into the filter box. Nothing happens while there is no list.
     void enter();
+    /// Takes the filter away when the keyboard is here. @return whether it is.
+    [[nodiscard]] bool leave();
 
 Q_SIGNALS:
     /// The user clicked the entry of this number.

@@ -24,6 +24,7 @@ struct LookUp {
     bool allowsExit = false;
     QString link; ///< number of the look-up that opens behind this one, 0 for none
     LookUpLines lines;
+    bool operator==(const LookUp&) const = default;
 };
 
 /// Stands on one record of table wlu. The set of records is the register's: none is added or deleted here.

@@ -14,6 +14,7 @@
 #include "ui/FormKit.h"
 #include "ui/StatusLine.h"
 
+#include <QCloseEvent>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QPushButton>
@@ -130,7 +131,7 @@ QHBoxLayout* frmwlu::makeButtons()
     auto* const next = button(u"NextRecord"_s, u"&Next"_s, &frmwlu::nextRecord);
     auto* const remove = button(u"CSCmdBtn3"_s, u"Delete Line"_s, &frmwlu::deleteLine);
     auto* const save = button(u"CSCmdBtn1"_s, u"&Save"_s, &frmwlu::saveChanges);
-    auto* const exit = button(u"CSCmdBtn2"_s, u"E&xit"_s, &frmwlu::reject);
+    auto* const exit = button(u"CSCmdBtn2"_s, u"E&xit"_s, &frmwlu::leave);
     return ui::makeButtonRow({remove, save, exit}, {previous, next});
 }
 
@@ -177,6 +178,7 @@ void frmwlu::updategrid()
     m_fields->setLookUp(lookUp);
     m_fields->showKeys(placesText(findKeys(*m_database, m_keyboard, lookUpLink, fourDigits(lookUp.number))));
     m_lines->setLines(lookUp.lines);
+    m_shown = entered();
     m_status->setNotice({});
     showLists();
 }
@@ -212,16 +214,24 @@ void frmwlu::deleteLine()
     SaveGrid();
 }
 
-void frmwlu::SaveGrid()
+LookUp frmwlu::entered() const
 {
     LookUp lookUp;
     lookUp.lines = m_lines->lines();
     m_fields->read(lookUp);
+    return lookUp;
+}
+
+/// @return false when the user would rather not.
+bool frmwlu::SaveGrid()
+{
+    LookUp lookUp = entered();
     if (!mayStore(lookUp))
-        return;
+        return false;
     m_records.save(lookUp);
     updategrid();
     m_status->setNotice(u"Saved WLU No "_s + m_records.storedNumber());
+    return true;
 }
 
 /// Registers count their look-ups by the order of the numbers: another number moves all in between.
@@ -233,6 +243,36 @@ bool frmwlu::mayStore(const LookUp& lookUp)
                          u"This look-up is WLU No %1 at the register and would become \"%2\" here. With the "
                          "next download, keys that open a look-up may open another one.\n\nSave it "
                          "all the same?"_s.arg(stored, lookUp.number));
+}
+
+/// Without any question: what is not saved is lost.
+void frmwlu::leave()
+{
+    done(Rejected);
+}
+
+bool frmwlu::mayLeave()
+{
+    if (entered() == m_shown)
+        return true;
+    const auto answer = m_boxes.askBeforeGoingOn(u"Save Changes?"_s, u"Save Details."_s);
+    return answer == true ? SaveGrid() : answer.has_value();
+}
+
+void frmwlu::reject()
+{
+    if (m_lists->leave()) {
+        Grid1->setFocus();
+    } else {
+        close();
+    }
+}
+
+void frmwlu::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(mayLeave());
+    if (event->isAccepted())
+        done(Rejected);
 }
 
 void frmwlu::nextRecord()

@@ -39,6 +39,13 @@ public:
     /// @throws RuntimeFailure when that cannot be opened or has no look-ups; see LookUpRecords.
     frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
+    /// Escape leads from the lists back to the lines first. Like the window's close button it asks about
+    /// changes, which "E&xit" throws away unasked.
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     void layOut();
     void connectControls();
@@ -49,8 +56,11 @@ private:
     void showLists();
     void saveChanges();
     void deleteLine();
-    void SaveGrid();
+    void leave();
+    bool SaveGrid();
     [[nodiscard]] bool mayStore(const LookUp& lookUp);
+    [[nodiscard]] bool mayLeave();
+    [[nodiscard]] LookUp entered() const;
     void nextRecord();
     void previousRecord();
     void tellNoMoreRecords();
@@ -62,6 +72,7 @@ private:
     std::shared_ptr<store::Database> m_database;
     const KeyGeometry& m_keyboard;
     LookUpRecords m_records;
+    LookUp m_shown; ///< as the controls held it when the record was shown
     LookUpGridModel* m_lines;
     LookUpFields* m_fields;
     QTableView* Grid1;

@@ -204,5 +204,33 @@ TEST_F(FrmwluTest, DeletesALineAtOnceAndAsksBeforeANewNumber)
     }
 }
 
+TEST_F(FrmwluTest, EscapeLeavesTheListsThenAsksAboutChangesWhichExitDrops)
+{
+    const auto escape = [this] {
+        QTest::keyClick(m_form->focusWidget(), Qt::Key_Escape);
+        return m_form->isVisible();
+    };
+    auto& grid = control<QTableView>("Grid1");
+    QTest::keyClick(&grid, Qt::Key_Return);
+    QTest::keyClicks(m_form->focusWidget(), u"lem"_s);
+    QTest::keyClick(m_form->focusWidget(), Qt::Key_Return);
+    QTest::keyClick(&grid, Qt::Key_Return);
+    EXPECT_TRUE(escape());
+    EXPECT_EQ(m_form->focusWidget(), &grid);
+    EXPECT_EQ(control<QLineEdit>("ListFilter").text(), QString());
+    EXPECT_TRUE(escape()) << "the question was closed";
+    press("CSCmdBtn2");
+    EXPECT_FALSE(m_form->isVisible());
+    EXPECT_EQ(m_boxes.shown.size(), 1U);
+    EXPECT_EQ(stored(1), "0:1001 1:1002 :0 :0");
+    m_form->show();
+    m_boxes.answers = {true};
+    EXPECT_FALSE(escape());
+    EXPECT_EQ(stored(1), "0:1002 1:1002 0:0 0:0");
+    m_form->show();
+    EXPECT_FALSE(escape()) << "nothing has changed since";
+    EXPECT_EQ(m_boxes.shown.size(), 2U);
+}
+
 } // namespace
 } // namespace norvane::keys
