@@ -12,6 +12,7 @@
 #include <vector>
 
 class QAction;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -55,9 +56,13 @@ private:
     void layOut();
     [[nodiscard]] QLayout* makeLevelRow();
     [[nodiscard]] QPushButton* makeLevelButton(int level);
+    void makeFind(QHBoxLayout& row);
     [[nodiscard]] QLayout* makeFindRow();
     void connectParts();
     void addActions();
+    void addClipboardActions();
+    void addMarkActions();
+    void addFormActions();
     void addSeparator();
     QAction* addAction(const QString& name, const QString& caption, const QList<QKeySequence>& keys,
                        Qt::ShortcutContext context, const std::function<void()>& run);

@@ -23,6 +23,10 @@ namespace norvane::keys
 namespace
 {
 
+/// In the lists and boxes, the same keys work on texts.
+constexpr auto inGrid = Qt::WidgetShortcut;
+constexpr auto inForm = Qt::WindowShortcut;
+
 constexpr int levelButtonWidth = 64;
 constexpr int findWidth = 180;
 /// What a window's frame and a desktop's bars take of the screen.
@@ -34,6 +38,16 @@ QPushButton* makeFormButton(const QString& name, const QString& caption, QWidget
     // Enter belongs to the grid and the lists.
     button->setAutoDefault(false);
     return button;
+}
+
+QLabel* makeHeading(const QString& name, const QString& text, QWidget* form)
+{
+    auto* const heading = new QLabel(text, form);
+    ui::nameControl(*heading, name);
+    QFont bold = form->font();
+    bold.setBold(true);
+    heading->setFont(bold);
+    return heading;
 }
 
 } // namespace
@@ -56,15 +70,9 @@ void KeyLayout::layOut()
 
 QLayout* KeyLayout::makeLevelRow()
 {
-    Label1 = new QLabel(this);
-    ui::nameControl(*Label1, u"Label1"_s);
-    QFont heading = font();
-    heading.setBold(true);
-    Label1->setFont(heading);
-    m_star = new QLabel(u"*"_s, this);
-    ui::nameControl(*m_star, u"LevelChanged"_s);
+    Label1 = makeHeading(u"Label1"_s, {}, this);
+    m_star = makeHeading(u"LevelChanged"_s, u"*"_s, this);
     m_star->setToolTip(u"This level differs from what is stored."_s);
-    m_star->setFont(heading);
     m_star->setMinimumWidth(m_star->sizeHint().width());
     auto* const row = new QHBoxLayout;
     row->setSpacing(ui::spacing::controlGap);
@@ -93,7 +101,7 @@ QPushButton* KeyLayout::makeLevelButton(int level)
     return button;
 }
 
-QLayout* KeyLayout::makeFindRow()
+void KeyLayout::makeFind(QHBoxLayout& row)
 {
     m_find = new QLineEdit(this);
     ui::nameControl(*m_find, u"KeyFind"_s);
@@ -104,16 +112,21 @@ QLayout* KeyLayout::makeFindRow()
     label->setBuddy(m_find);
     m_findOutcome = new QLabel(this);
     ui::nameControl(*m_findOutcome, u"KeyFindOutcome"_s);
+    row.addWidget(label);
+    row.addWidget(m_find);
+    row.addWidget(m_findOutcome, 1);
+}
+
+QLayout* KeyLayout::makeFindRow()
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(ui::spacing::controlGap);
+    makeFind(*row);
     QPushButton* const store = makeFormButton(u"CSCmdBtn1"_s, u"&Save"_s, this);
     QPushButton* const leave = makeFormButton(u"CSCmdBtn2"_s, u"E&xit"_s, this);
     connect(store, &QPushButton::clicked, this, &KeyLayout::askAndSave);
     // Without any question: what is not saved is lost.
     connect(leave, &QPushButton::clicked, this, [this] { done(Rejected); });
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(ui::spacing::controlGap);
-    row->addWidget(label);
-    row->addWidget(m_find);
-    row->addWidget(m_findOutcome, 1);
     row->addWidget(new KeyLegend(this));
     row->addSpacing(ui::spacing::groupGap);
     row->addWidget(store);
@@ -132,11 +145,18 @@ void KeyLayout::connectParts()
     connect(&m_model, &KeyGridModel::dropped, this, &KeyLayout::drop);
 }
 
-/// The actions of the grid's context menu, each with its keys.
+/// The grid's context menu.
 void KeyLayout::addActions()
 {
-    const auto inGrid = Qt::WidgetShortcut;
-    const auto inForm = Qt::WindowShortcut;
+    addClipboardActions();
+    addSeparator();
+    addMarkActions();
+    addSeparator();
+    addFormActions();
+}
+
+void KeyLayout::addClipboardActions()
+{
     addAction(u"Cut"_s, u"Cu&t"_s, {QKeySequence::Cut}, inGrid,
               [this] { finish(m_editor.cut(Grid1->chosenCells())); });
     addAction(u"Copy"_s, u"&Copy"_s, {QKeySequence::Copy}, inGrid, [this] {
@@ -147,14 +167,21 @@ void KeyLayout::addActions()
               [this] { finish(m_editor.paste(Grid1->chosenCells())); });
     addAction(u"Clear"_s, u"C&lear"_s, {QKeySequence::Delete}, inGrid,
               [this] { finish(m_editor.clear(Grid1->chosenCells())); });
-    addSeparator();
+}
+
+void KeyLayout::addMarkActions()
+{
     addAction(u"Mark"_s, u"&Mark"_s, {u"Ctrl+M"_s}, inGrid, [this] {
         m_editor.mark(Grid1->chosenCells());
         m_model.refresh();
     });
     addAction(u"SwapWithMarked"_s, u"&Swap with marked key"_s, {u"Ctrl+E"_s}, inGrid,
               [this] { finish(m_editor.swapWithMarked(Grid1->chosenCells())); });
-    addSeparator();
+}
+
+/// Also while the keyboard is in a list.
+void KeyLayout::addFormActions()
+{
     m_undo = addAction(u"Undo"_s, u"&Undo"_s, {QKeySequence(u"Ctrl+Z"_s)}, inForm, [this] {
         m_editor.undo();
         finish(Refusal::None);
