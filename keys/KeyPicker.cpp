@@ -44,6 +44,8 @@ KeyPicker::KeyPicker(QWidget* parent) : QComboBox(parent)
     finder->setCaseSensitivity(Qt::CaseInsensitive);
     finder->setMaxVisibleItems(mostRowsShown);
     setCompleter(finder);
+    // The next key can be typed at once. The finder writes its text after the choice.
+    connect(this, &QComboBox::activated, lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
     connect(lineEdit(), &QLineEdit::returnPressed, this, &KeyPicker::takeTyped);
     connect(lineEdit(), &QLineEdit::editingFinished, this, &KeyPicker::dropTyped);
 }
@@ -72,7 +74,6 @@ void KeyPicker::takeTyped()
         return;
     completer()->popup()->hide();
     setCurrentIndex(row);
-    lineEdit()->selectAll();
     Q_EMIT activated(row);
 }
 
