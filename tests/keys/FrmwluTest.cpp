@@ -190,11 +190,14 @@ TEST_F(FrmwluTest, FillsMovesAndSavesLines)
 
 TEST_F(FrmwluTest, DeletesALineAtOnceAndAsksBeforeANewNumber)
 {
-    control<QLineEdit>("description").setText(u"Cold Drinks"_s);
+    m_shop.execute("update wlu set description = 'Cold Drinks and whatever else there is' where wluno = 1");
+    press("PreviousRecord");
+    control<QLineEdit>("linkwlu").setText(u"2"_s);
     press("CSCmdBtn3");
     EXPECT_EQ(stored(1), "1:1002 0:0 0:0 0:0");
-    EXPECT_EQ(m_shop.column("WLU", "DESCRIPTION"), "Cold Drinks|Payment");
-    EXPECT_TRUE(m_boxes.shown.empty());
+    EXPECT_EQ(m_shop.column("WLU", "LINK"), "2|1");
+    EXPECT_EQ(m_shop.column("WLU", "DESCRIPTION"), "Cold Drinks |Payment") << "cut by the box";
+    EXPECT_EQ(m_boxes.shown, std::vector{noMore});
     for (const bool answer : {false, true}) {
         control<QLineEdit>("WLUNumber").setText(u"9"_s);
         m_boxes.answers = {true, answer};
