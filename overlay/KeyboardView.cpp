@@ -102,7 +102,9 @@ KeyboardView::KeyboardView(DocumentEditor& editor, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     setAlignment(Qt::AlignCenter);
     setFrameShape(QFrame::NoFrame);
-    setBackgroundRole(QPalette::Mid);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, ui::colours::desktop);
+    setPalette(colours);
     for (const int cell : m_order)
         makeCell(cell);
     setWidget(m_ground);

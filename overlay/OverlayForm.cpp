@@ -200,6 +200,9 @@ void OverlayForm::addSample(QToolBar& bar)
     Label1->setFixedSize(sampleSize);
     Label1->setFrameStyle(QFrame::Box);
     Label1->setAutoFillBackground(true);
+    // A tool bar gives its own roles to what lies in it.
+    Label1->setBackgroundRole(QPalette::Window);
+    Label1->setForegroundRole(QPalette::WindowText);
     connect(m_colours, &ColourStrip::backgroundChosen, this, &OverlayForm::takeBackground);
     connect(m_colours, &ColourStrip::textColourChosen, this, &OverlayForm::takeTextColour);
     bar.addWidget(Label1);
@@ -222,8 +225,7 @@ void OverlayForm::followHistory()
 void OverlayForm::openAtGoodSize()
 {
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
-    const QSize room = screen()->availableSize() * 0.94;
-    resize(sizeHint().expandedTo(room * 0.8).boundedTo(room));
+    resize(screen()->availableSize() * 0.94);
 }
 
 void OverlayForm::reject()

@@ -187,8 +187,8 @@ TEST_F(OverlayFormTest, ClicksGiveTheFontAndDoubleClicksTheColours)
     choose("Font");
     choose("Font"); // cancelled
     EXPECT_EQ(sample.text(), u"Liberation Mono"_s);
-    EXPECT_EQ(sample.palette().color(QPalette::Window), QColor(0, 0, 255));
-    EXPECT_EQ(sample.palette().color(QPalette::WindowText), QColor(255, 255, 0));
+    EXPECT_EQ(sample.grab().toImage().pixelColor(4, 4), QColor(0, 0, 255));
+    EXPECT_EQ(sample.palette().color(sample.foregroundRole()), QColor(255, 255, 0));
     click(3);
     doubleClick(6);
     doubleClick(378);

@@ -15,6 +15,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 namespace norvane::shell
 {
@@ -266,6 +267,37 @@ TEST_F(ScreensInFrameTest, AKeyEditorThatCannotOpenClosesAlone)
     EXPECT_EQ(m_boxes.shown.front().text,
               u"Redeem Points for Tender Keys are programmed in the General Function Options"_s);
     EXPECT_EQ(m_boxes.shown.size(), 4U) << "a note for the function keys, a failure for each";
+}
+
+TEST_F(ScreensInFrameTest, TheDesignersOfTwoKeyboardsAreModal)
+{
+    for (const char* entry : {"DorvikKeyboard", "Velmarkeyboard"}) {
+        QString modal;
+        QTimer::singleShot(0, &*m_main, [&modal] {
+            QWidget* const form = QApplication::activeModalWidget();
+            modal = form->objectName();
+            QTest::keyClick(form, Qt::Key_Escape);
+        });
+        child<QAction>(*m_main, entry).trigger();
+        EXPECT_TRUE(QString::fromLatin1(entry).startsWith(modal) && !modal.isEmpty()) << entry;
+    }
+}
+
+TEST_F(ScreensInFrameTest, ADesignerBesideTheMenuIsAskedBeforeTheEnd)
+{
+    QWidget& beside = open("Quelmontkeyboard");
+    EXPECT_EQ(menuBy([] { letter(Qt::Key_C); }), u"Colours"_s) << "its own menu comes first";
+    EXPECT_EQ(&open("Quelmontkeyboard"), &beside) << "one at a time";
+    type(beside, "RichTextBox1_0", "TEA");
+    m_main->close();
+    EXPECT_TRUE(m_main->isVisible());
+    m_boxes.answers = {true, true};
+    m_main->close();
+    EXPECT_FALSE(m_main->isVisible());
+    QStringList titles;
+    for (const auto& box : m_boxes.shown)
+        titles += box.title;
+    EXPECT_EQ(titles, (QStringList{u"Unsaved Changes"_s, u"Unsaved Changes"_s, u"Exit Program"_s}));
 }
 
 } // namespace
