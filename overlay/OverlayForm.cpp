@@ -328,26 +328,16 @@ void OverlayForm::rememberColours()
         m_colours->remember(colour);
 }
 
+/// An import that fails has stored nothing. What it gave to the document can be taken back like any import.
 void OverlayForm::importLevel(int level)
 {
     try {
         m_editor.importLevel(level, m_values.databasePath);
         tell(u"Level %1 was imported."_s.arg(level));
     } catch (const RuntimeFailure& failure) {
-        keepWorkBefore(failure);
-        throw;
+        m_boxes.message(u"Run-time error '%1':\r\r%2"_s.arg(failure.number()).arg(failure.text()), {},
+                        BoxIcon::Critical);
     }
-}
-
-/// A failed import ends the program, and with it what was not saved.
-void OverlayForm::keepWorkBefore(const RuntimeFailure& failure)
-{
-    if (!m_editor.history().isClean() &&
-        m_boxes.choose(
-            u"The level could not be imported: %1\r\rThe program will end. Save the overlay first?"_s.arg(
-                failure.text()),
-            u"Import Keyboard"_s, u"&Save it"_s, u"&Lose the changes"_s))
-        m_files.save();
 }
 
 void OverlayForm::undo()

@@ -68,7 +68,6 @@ private:
     void takeBackground(const QColor& colour);
     void takeTextColour(const QColor& colour);
     [[nodiscard]] QFont initialFont() const;
-    void keepWorkBefore(const RuntimeFailure& failure);
     void rememberColours();
     void showSample();
     void showTitle();

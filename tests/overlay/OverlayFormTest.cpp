@@ -1,7 +1,6 @@
 // The designer as a dealer works it: cells, colours and fonts by mouse and keys, files, printing, leaving.
 #include "overlay/OverlayForm.h"
 
-#include "platform/RuntimeFailure.h"
 #include "store/Catalogue.h"
 #include "tests/overlay/RecordingDialogs.h"
 #include "tests/store/StoreFolder.h"
@@ -285,19 +284,29 @@ TEST_F(OverlayFormTest, PrintsOnceAndTellsWhatFails)
     EXPECT_TRUE(sheet.contains(QRegularExpression(u"MediaBox \\[0 0 595\\S* 84[12]"_s))) << "A4 portrait";
 }
 
-TEST_F(OverlayFormTest, ImportsAndOffersToSaveBeforeAFailureEndsAll)
+TEST_F(OverlayFormTest, ImportsALevelAndStaysWhenRowsAreMissing)
 {
-    open(Keyboard::Dorvik);
+    {
+        store::Database database(m_folder.path());
+        auto links = database.openTable(u"KEYLINK"_s);
+        for (int row = 1; row <= 170; ++row)
+            store::test::add(links,
+                             {{"ID", store::Value::whole(row)}, {"KEYLINK", store::Value::whole(row)}});
+    }
+    open(Keyboard::Velmar);
     choose("ImportLevel1");
-    EXPECT_EQ(test::takeFailure()->number(), 3021);
-    EXPECT_TRUE(m_boxes.shown.empty()) << "nothing would be lost";
-    type(3, "TEA");
-    m_boxes.answers = {true};
-    m_dialogs.files = {path("tea.Dorvik")};
-    choose("ImportLevel1");
-    EXPECT_EQ(test::takeFailure()->number(), 3021);
-    EXPECT_EQ(m_boxes.shown.size(), 1U);
-    EXPECT_TRUE(m_folder.folder().read("tea.Dorvik").contains("TEA"));
+    EXPECT_EQ(cell(0).text() + u'|' + cell(1).text() + cell(378).text(), u"functio|n 7"_s);
+    choose("Undo");
+    EXPECT_TRUE(m_boxes.shown.empty() && !m_form->isWindowModified());
+    type(0, "TEA");
+    choose("ImportLevel2");
+    EXPECT_EQ(
+        m_boxes.shown,
+        std::vector{(ShownBox{u"Run-time error '3021':\r\rNo current record: level 2 ends at row 338 of "
+                              "KEYLINK, which has only 170. Upload \"Key Link\" and \"PLU & WLU "
+                              "Relocation\" from the register, then import the level again."_s,
+                              applicationTitle(), BoxIcon::Critical})});
+    EXPECT_EQ(cell(0).text() + cell(36).text(), u"TEAfunctio"_s) << "what was read and typed stays";
 }
 
 TEST_F(OverlayFormTest, LeavingAsksOnceAboutUnsavedChanges)
