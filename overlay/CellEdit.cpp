@@ -97,13 +97,12 @@ void CellEdit::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     if (!hasFocus())
         paintPrinted(painter);
-    if (m_printed.isCut)
-        paintCutMark(painter, rect());
     if (hasFocus()) {
         painter.setPen(QPen(ui::colours::accent, 2));
-        painter.setBrush(Qt::NoBrush);
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
+    if (m_printed.isCut)
+        paintCutMark(painter, rect());
 }
 
 void CellEdit::paintPrinted(QPainter& painter) const

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -192,9 +193,11 @@ QSize KeyboardView::sizeHint() const
     return (m_ground->sizeInMillimetres() * pixelsPerMillimetre).toSize();
 }
 
+/// A cell that gets the focus back from a dialog is no other one.
 void KeyboardView::enter(int cell)
 {
-    m_current = cell;
+    if (std::exchange(m_current, cell) == cell)
+        return;
     ensureWidgetVisible(m_cells[static_cast<std::size_t>(cell)], reachPixels, reachPixels);
     Q_EMIT currentCellChanged(cell);
 }

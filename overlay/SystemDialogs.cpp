@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QFontInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,9 +54,12 @@ std::optional<QColor> SystemDialogs::colour(const QColor& initial, const QString
     return box.exec() == QDialog::Accepted ? std::optional(box.selectedColor()) : std::nullopt;
 }
 
+/// The list has only what this computer has: a font that is missing is shown by what stands in for it.
 std::optional<QFont> SystemDialogs::font(const QFont& initial)
 {
-    QFontDialog box(initial, QApplication::activeWindow());
+    QFont shown = initial;
+    shown.setFamily(QFontInfo(initial).family());
+    QFontDialog box(shown, QApplication::activeWindow());
     box.setObjectName(u"FontBox"_s);
     box.setWindowTitle(u"Font"_s);
     box.setOption(QFontDialog::DontUseNativeDialog);
