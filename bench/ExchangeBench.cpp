@@ -91,7 +91,7 @@ class Shop
 public:
     Shop() : m_folder(dorvik, 1, pluCount), m_values(m_folder.makeCustomer(u"Shop"_s)) {}
 
-    Meter run(void (exchange::ExchangeRunner::*sequence)())
+    Meter run(bool (exchange::ExchangeRunner::*sequence)())
     {
         const link::LinkSettings link = link::readLinkSettings(m_values);
         AllBoxes boxes;
@@ -145,7 +145,7 @@ void printSplit(const Meter& meter)
 
 /// The time of an iteration is the program's own; the counter holds that of the tools with their starts.
 template <typename Before, typename After>
-void selectAll(benchmark::State& state, Shop& shop, void (exchange::ExchangeRunner::*sequence)(),
+void selectAll(benchmark::State& state, Shop& shop, bool (exchange::ExchangeRunner::*sequence)(),
                Before before, After after)
 {
     double tools = 0;

@@ -1,6 +1,7 @@
-// The keyboard layout editor over 100,000 PLUs and full keyboards: its own time for what users wait for, and
-// a save beside a bare loop that updates the same rows.
+// The editors of keyboards and look-ups over 100,000 PLUs and full keyboards: their own time for what users
+// wait for, and a save of a level beside a bare loop that updates the same rows.
 #include "bench/BareDatabase.h"
+#include "keys/frmwlu.h"
 #include "keys/KeyLayout.h"
 #include "keys/KeyLevel.h"
 #include "store/Catalogue.h"
@@ -29,6 +30,7 @@ using bench::require;
 
 constexpr int pluCount = 100000;
 constexpr int functionCount = 266;
+constexpr int lookUpCount = 99;
 
 QString digits(qint64 number)
 {
@@ -57,6 +59,7 @@ public:
         const store::Transaction all(database);
         fillItems(database);
         fillKeys(database);
+        fillLookUps(database);
     }
 
     const keys::KeyGeometry& keyboard = keys::velmarKeyboard();
@@ -84,6 +87,25 @@ private:
             const int function = row % 4 == 0 ? row % functionCount + 1 : 0;
             addRow(links, "ID", store::Value::whole(row), "KEYLINK", QString::number(function));
             addRow(numbers, "ID", store::Value::whole(row), "NLU", digits(row * 100));
+        }
+    }
+
+    static void fillLookUps(store::Database& database)
+    {
+        store::Recordset memory = database.openTable(QStringLiteral("MEMORYALLOCATION"));
+        addRow(memory, "WLU", store::Value::text(QString::number(lookUpCount)), "LINES/PLU",
+               QString::number(keys::mostLookUpLines));
+        store::Recordset lookUps = database.openTable(QStringLiteral("WLU"));
+        for (int number = 1; number <= lookUpCount; ++number) {
+            lookUps.addNew();
+            lookUps.setValue(QStringLiteral("WLUno"), store::Value::whole(number));
+            lookUps.setValue(QStringLiteral("Allowplu"), store::Value::yesNo(true));
+            for (int line = 1; line <= keys::mostLookUpLines; ++line) {
+                lookUps.setValue(QStringLiteral("wlutype%1").arg(line), store::Value::whole(0));
+                lookUps.setValue(QStringLiteral("codenumber%1").arg(line),
+                                 store::Value::text(QString::number(number * 1000 + line)));
+            }
+            lookUps.update();
         }
     }
 
@@ -194,6 +216,46 @@ void filterPlus(benchmark::State& state)
     times.tell(state);
 }
 
+/// With the list of all PLUs beside its 50 lines.
+void openLookUps(benchmark::State& state)
+{
+    Shop shop;
+    NoBoxes boxes;
+    Times times;
+    for (auto _ : state) {
+        std::unique_ptr<keys::frmwlu> form;
+        times.add([&] {
+            form = std::make_unique<keys::frmwlu>(shop.values, boxes);
+            form->show();
+            QApplication::processEvents();
+        });
+        require(form->findChild<QTableView*>(QStringLiteral("plulist"))->model()->rowCount() == pluCount,
+                "all PLUs");
+    }
+    times.tell(state);
+}
+
+void nextLookUp(benchmark::State& state)
+{
+    Shop shop;
+    NoBoxes boxes;
+    Times times;
+    keys::frmwlu form(shop.values, boxes);
+    form.show();
+    auto* const button = form.findChild<QPushButton*>(QStringLiteral("NextRecord"));
+    int number = 1;
+    for (auto _ : state) {
+        times.add([&] {
+            button->click();
+            QApplication::processEvents();
+        });
+        ++number;
+    }
+    require(form.findChild<QLineEdit*>(QStringLiteral("WLUNumber"))->text() == QString::number(number),
+            "one after another");
+    times.tell(state);
+}
+
 /// Every function key gets another function each time, so that both sides have rows to write.
 void saveLevel(benchmark::State& state)
 {
@@ -248,6 +310,8 @@ void saveLevel(benchmark::State& state)
 BENCHMARK(openEditor)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(changeLevel)->Unit(benchmark::kMillisecond)->Iterations(50);
 BENCHMARK(filterPlus)->Unit(benchmark::kMillisecond)->Iterations(60);
+BENCHMARK(openLookUps)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(nextLookUp)->Unit(benchmark::kMillisecond)->Iterations(90);
 BENCHMARK(saveLevel)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(50);
 
 int main(int argc, char** argv)
