@@ -42,7 +42,7 @@ FileChoice FileActions::choice(const QString& title, FileChoice::Name name) cons
             opens ? QString() : suffixOf(files.defaultExtension), name};
 }
 
-void FileActions::newFile()
+void FileActions::Newfile()
 {
     FileChoice asked = choice(u"New"_s, FileChoice::Name::Any);
     if (m_editor.document().geometry().files.isNewInProgramFolder)
@@ -52,7 +52,7 @@ void FileActions::newFile()
         m_editor.newFile(path);
 }
 
-void FileActions::open()
+void FileActions::OpenFile()
 {
     const QString path = m_dialogs.file(choice(u"Open"_s, FileChoice::Name::Existing));
     if (path.isEmpty() || !mayDropChanges())
@@ -81,7 +81,7 @@ QString FileActions::fileToSave() const
     if (!m_editor.fileName().isEmpty())
         asked.path = m_editor.fileName();
     for (;;) {
-        const QString path = m_dialogs.file(asked);
+        QString path = m_dialogs.file(asked);
         if (path.isEmpty() || !m_editor.replacesOther(path) ||
             m_boxes.ask(u"%1 exists already. Replace it?"_s.arg(QFileInfo(path).fileName()), u"Save"_s,
                         BoxIcon::Question, BoxAnswer::No))
@@ -91,7 +91,7 @@ QString FileActions::fileToSave() const
 }
 
 /// A document that cannot be written stays open, so that it can be saved elsewhere.
-bool FileActions::save()
+bool FileActions::SaveFile()
 {
     const QString path = fileToSave();
     if (path.isEmpty())

@@ -23,10 +23,10 @@ public:
     FileActions(DocumentEditor& editor, const ApplicationValues& values, Boxes& boxes,
                 OverlayDialogs& dialogs);
 
-    void newFile();
-    void open();
+    void Newfile();
+    void OpenFile();
     /// @return whether the document was written.
-    bool save();
+    bool SaveFile();
     /// Asks whether changes that were not saved may be dropped, if there are any.
     [[nodiscard]] bool mayDropChanges();
     /// What the document is called in titles: the name of its file, "Untitled" before it has one.

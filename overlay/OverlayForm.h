@@ -49,8 +49,8 @@ private:
     void openAtGoodSize();
 
     void newFile();
-    void open();
-    void save();
+    void openFile();
+    void saveFile();
     void setUpPrinter() { m_sheet.setUpPrinter(); }
     void print() { m_sheet.print(m_files.documentName()); }
     void chooseFont();

@@ -98,7 +98,7 @@ void SheetActions::print(const QString& name)
 
 QString SheetActions::savePdf(const QString& suggested)
 {
-    const QString path = m_boxes.fileToSave({u"Save as PDF"_s, suggested, u"PDF (*.pdf)"_s, u"pdf"_s});
+    QString path = m_boxes.fileToSave({u"Save as PDF"_s, suggested, u"PDF (*.pdf)"_s, u"pdf"_s});
     if (path.isEmpty())
         return {};
     try {
@@ -140,9 +140,10 @@ void SheetActions::correctPrinter(QWidget* parent)
     CorrectionForm form(
         corrected.name, corrected.correction,
         [this](const paper::PrinterCorrection& tried) { return printTest(tried); }, m_boxes, parent);
-    if (form.exec() == QDialog::Accepted && !m_corrections.keep(corrected.name, form.correction()))
+    if (form.exec() == QDialog::Accepted && !m_corrections.keep(corrected.name, form.correction())) {
         m_boxes.message(u"The correction could not be stored."_s, u"Printer Correction"_s,
                         BoxIcon::Exclamation);
+    }
 }
 
 } // namespace norvane::overlay

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::shell
 {
 namespace
@@ -60,16 +62,14 @@ void openModal(FrmMain& main, Keyboard keyboard, const ApplicationValues& values
 FrmMain::FormOpeners makeOverlayOpeners(const ApplicationValues& values, Boxes& boxes)
 {
     const auto dialogs = std::make_shared<overlay::SystemDialogs>();
-    FrmMain::FormOpeners openers;
-    for (const auto& [keyboard, open] :
-         {std::pair(Keyboard::Dorvik, &openModal), std::pair(Keyboard::Velmar, &openModal),
-          std::pair(Keyboard::Quelmont, &openBeside)}) {
-        openers.insert(overlay::geometryOf(keyboard).name.toString(),
-                       [keyboard, open, dialogs, &values, &boxes](FrmMain& main, const MenuEntry&) {
-                           open(main, keyboard, values, boxes, *dialogs);
-                       });
-    }
-    return openers;
+    const auto opener = [dialogs, &values, &boxes](Keyboard keyboard, auto open) {
+        return [=, &values, &boxes](FrmMain& main, const MenuEntry&) {
+            open(main, keyboard, values, boxes, *dialogs);
+        };
+    };
+    return {{u"Dorvik"_s, opener(Keyboard::Dorvik, openModal)},
+            {u"Velmar"_s, opener(Keyboard::Velmar, openModal)},
+            {u"Quelmont"_s, opener(Keyboard::Quelmont, openBeside)}};
 }
 
 } // namespace norvane::shell

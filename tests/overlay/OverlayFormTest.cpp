@@ -92,7 +92,7 @@ protected:
         m_boxes.answers = {true};
         choose("Save");
         const QByteArrayList lines = m_folder.folder().read("look.sav").split('\n');
-        QByteArray all = lines.mid(7 * index, 7).join('|');
+        QByteArray all = lines.mid(qsizetype{7} * index, 7).join('|');
         return all.replace("\r", "").toStdString();
     }
     [[nodiscard]] int focused() const
@@ -289,9 +289,10 @@ TEST_F(OverlayFormTest, ImportsALevelAndStaysWhenRowsAreMissing)
     {
         store::Database database(m_folder.path());
         auto links = database.openTable(u"KEYLINK"_s);
-        for (int row = 1; row <= 170; ++row)
-            store::test::add(links,
-                             {{"ID", store::Value::whole(row)}, {"KEYLINK", store::Value::whole(row)}});
+        for (int row = 1; row <= 170; ++row) {
+            const auto number = store::Value::whole(row);
+            store::test::add(links, {{"ID", number}, {"KEYLINK", number}});
+        }
     }
     open(Keyboard::Velmar);
     choose("ImportLevel1");
