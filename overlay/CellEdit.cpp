@@ -26,9 +26,12 @@ constexpr double millimetresPerPoint = 25.4 / 72;
 constexpr QColor cutMark{0xd0, 0x20, 0x20};
 constexpr int markSize = 6;
 
-bool isUndoOrRedo(const QKeyEvent& event)
+/// Undo, redo, and copy and paste of whole keys, which some desktops take for those of a text.
+bool isForTheForm(const QKeyEvent& event)
 {
-    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+    const bool isKeyCopy = event.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) &&
+                           (event.key() == Qt::Key_C || event.key() == Qt::Key_V);
+    return isKeyCopy || event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
 }
 
 void paintCutMark(QPainter& painter, const QRect& cell)
@@ -118,7 +121,7 @@ void CellEdit::paintPrinted(QPainter& painter) const
 /// The box has a history of its own, which would know nothing of colours and fonts.
 bool CellEdit::event(QEvent* event)
 {
-    if (event->type() == QEvent::ShortcutOverride && isUndoOrRedo(*static_cast<QKeyEvent*>(event))) {
+    if (event->type() == QEvent::ShortcutOverride && isForTheForm(*static_cast<QKeyEvent*>(event))) {
         event->ignore();
         return false;
     }
@@ -127,7 +130,7 @@ bool CellEdit::event(QEvent* event)
 
 void CellEdit::keyPressEvent(QKeyEvent* event)
 {
-    if (isUndoOrRedo(*event)) {
+    if (isForTheForm(*event)) {
         event->ignore();
     } else if (!walk(*event)) {
         TextBox::keyPressEvent(event);

@@ -67,7 +67,7 @@ void OverlayForm::addEntry(QWidget& menu, const Entry& entry)
     auto* const action = new QAction(QLatin1StringView(entry.caption), this);
     action->setObjectName(QLatin1StringView(entry.name));
     action->setMenuRole(QAction::NoRole);
-    action->setShortcut(QKeySequence(QLatin1StringView(entry.keys)));
+    action->setShortcuts(QKeySequence::listFromString(QLatin1StringView(entry.keys)));
     if (*entry.toolTip != '\0')
         action->setToolTip(QLatin1StringView(entry.toolTip));
     connect(action, &QAction::triggered, this, entry.handler);
@@ -88,8 +88,9 @@ void OverlayForm::addImportMenu(QMenuBar& bar)
 QToolBar* OverlayForm::makeTools()
 {
     static constexpr std::array<Entry, 4> edits = {{
-        {"Undo", "Undo", &OverlayForm::undo, "Ctrl+Z"},
-        {"Redo", "Redo", &OverlayForm::redo, "Ctrl+Y"},
+        {"Undo", "Undo", &OverlayForm::undo, "Ctrl+Z", "Takes the last step back (Ctrl+Z)"},
+        {"Redo", "Redo", &OverlayForm::redo, "Ctrl+Y; Ctrl+Shift+Z",
+         "Does again what was taken back (Ctrl+Y)"},
         {"CopyKey", "Copy key", &OverlayForm::copyKey, "Ctrl+Shift+C",
          "Copies all lines of the key, with colours and fonts (Ctrl+Shift+C)"},
         {"PasteKey", "Paste key", &OverlayForm::pasteKey, "Ctrl+Shift+V",

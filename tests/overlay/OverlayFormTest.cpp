@@ -241,9 +241,10 @@ TEST_F(OverlayFormTest, WalksByKeysAndTakesOnlyWhatARegisterHas)
     const auto* const bar = m_form->findChild<QStatusBar*>();
     EXPECT_TRUE(bar->currentMessage().startsWith(u"Wider than its key: only \"A TEXT "_s));
     type(92, "KEY");
-    choose("CopyKey");
+    constexpr auto wholeKey = Qt::ControlModifier | Qt::ShiftModifier;
+    QTest::keyClick(&cell(92), Qt::Key_C, wholeKey);
     cell(120).setFocus();
-    choose("PasteKey");
+    QTest::keyClick(&cell(120), Qt::Key_V, wholeKey);
     EXPECT_EQ(cell(120).text() + cell(122).text(), u"Café €KEY"_s);
     choose("Undo");
     choose("Undo");
