@@ -19,7 +19,7 @@ namespace norvane::overlay
 namespace
 {
 
-constexpr int fieldSize = 18;
+constexpr int fieldSize = 14;
 
 QIcon iconOf(const QColor& colour)
 {
@@ -38,7 +38,7 @@ ColourStrip::ColourStrip(QWidget* parent) : QWidget(parent)
     ui::nameControl(*this, u"ColourStrip"_s);
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(1);
+    row->setSpacing(0);
     for (std::size_t place = 0; place < m_fields.size(); ++place) {
         auto* const field = new QToolButton(this);
         ui::nameControl(*field, u"RecentColour_%1"_s.arg(place + 1));

@@ -20,7 +20,7 @@ namespace
 {
 
 constexpr int levels = 5;
-constexpr QSize sampleSize{130, 30};
+constexpr QSize sampleSize{100, 28};
 constexpr std::array<std::pair<const char*, int>, 6> zooms = {
     {{"Fit window", 0}, {"75 %", 75}, {"100 %", 100}, {"125 %", 125}, {"150 %", 150}, {"200 %", 200}}};
 
@@ -121,15 +121,13 @@ QToolBar* OverlayForm::makeTools()
 
 void OverlayForm::addZoom(QToolBar& bar)
 {
-    auto* const label = new QLabel(u" &Zoom: "_s, &bar);
     auto* const zoom = new QComboBox(&bar);
     ui::nameControl(*zoom, u"Zoom"_s);
     for (const auto& [caption, percent] : zooms)
         zoom->addItem(QLatin1StringView(caption), percent);
-    label->setBuddy(zoom);
+    zoom->setToolTip(u"Size of the keyboard on the screen"_s);
     connect(zoom, &QComboBox::currentIndexChanged, this,
             [this, zoom] { m_keyboard->setZoom(zoom->currentData().toInt()); });
-    bar.addWidget(label);
     bar.addWidget(zoom);
 }
 
