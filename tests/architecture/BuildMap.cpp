@@ -5,49 +5,22 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::test
 {
 
-namespace
-{
-// "target STATIC_LIBRARY norvane_store /root/store"
-Target parseTarget(const QStringList& words, const QString& root)
-{
-    const QString folder = words.value(3);
-    return {words.value(1).endsWith("_LIBRARY"_L1),
-            words.value(2),
-            folder.startsWith(root + u'/') ? folder.mid(root.size() + 1) : QString(),
-            {},
-            {},
-            {}};
-}
-
-void addSource(Target& target, const QString& path)
-{
-    if (target.sources.isEmpty())
-        target.folder = folderOf(path);
-    target.sources << path;
-}
-} // namespace
-
 BuildMap::BuildMap(const QString& text, const QString& root)
 {
     QString current;
-    for (const QString& line : text.split(u'\n', Qt::SkipEmptyParts))
-        readLine(line, root, current);
-}
-
-void BuildMap::readLine(const QString& line, const QString& root, QString& current)
-{
-    const QStringList words = line.split(u' ');
-    const QString rest = words.mid(1).join(u' ');
-    if (words.first() == "target"_L1) {
-        current = words.value(2);
-        m_targets.insert(current, parseTarget(words, root));
-    } else if (words.first() == "LINK_LIBRARIES"_L1) {
-        m_targets[current].links << rest;
-    } else if (words.first() == "INTERFACE_LINK_LIBRARIES"_L1) {
-        m_targets[current].hands << rest;
-    } else if (rest.startsWith(root + u'/') && !rest.startsWith(root + "/build/"_L1)) {
-        addSource(m_targets[current], rest.mid(root.size() + 1));
-        m_owners[rest.mid(root.size() + 1)] << current;
+    for (const QString& line : text.split(u'\n', Qt::SkipEmptyParts)) {
+        const QStringList words = line.split(u' ');
+        if (words[0] == "target"_L1) { // "target STATIC_LIBRARY norvane_store /root/store"
+            current = words[2];
+            const QString folder =
+                words[3].startsWith(root + u'/') ? words[3].mid(root.size() + 1) : QString();
+            m_targets[current] = {
+                words[1].endsWith("_LIBRARY"_L1), current, folder.section(u'/', 0, 0), {}, {}};
+        } else if (words[0] == "LINK_LIBRARIES"_L1) {
+            m_targets[current].links << words[1];
+        } else if (words[0] == "INTERFACE_LINK_LIBRARIES"_L1) {
+            m_targets[current].hands << words[1];
+        }
     }
 }
 
@@ -65,35 +38,12 @@ QSet<QString> BuildMap::reach(const QString& target) const
     return reached;
 }
 
-QStringList BuildMap::ownersOf(const QString& file) const
+QSet<QString> BuildMap::reachedFolders(const QString& target) const
 {
-    if (m_owners.contains(file))
-        return m_owners.value(file);
-    if (!file.endsWith(".h"_L1))
-        return {};
-    const QString source = file.chopped(2) + ".cpp"_L1;
-    if (m_owners.contains(source))
-        return m_owners.value(source);
-    const QStringList bottom = bottomOf(folderOf(file));
-    return bottom.size() == 1 ? bottom : QStringList();
-}
-
-QStringList BuildMap::bottomOf(const QString& folder) const
-{
-    QStringList bottom;
-    for (const Target& target : m_targets) {
-        if (target.library && target.folder == folder && standsAlone(target))
-            bottom << target.name;
-    }
-    return bottom;
-}
-
-bool BuildMap::standsAlone(const Target& target) const
-{
-    const QSet<QString> reached = reach(target.name);
-    return std::none_of(reached.cbegin(), reached.cend(), [&](const QString& other) {
-        return other != target.name && m_targets.value(other).folder == target.folder;
-    });
+    QSet<QString> folders;
+    for (const QString& name : reach(target))
+        folders << m_targets.value(name).folder;
+    return folders;
 }
 
 } // namespace norvane::test

@@ -1,4 +1,4 @@
-// The targets of the build with their sources and links, as CMake wrote them down.
+// The targets of the build with their links, as CMake wrote them down.
 #pragma once
 
 #include <QHash>
@@ -9,17 +9,16 @@
 namespace norvane::test
 {
 
-/** @brief One library or program. Paths are below the source root ("store/Value.cpp"). */
+/** @brief One library or program. */
 struct Target {
     bool library = false;
     QString name;
-    QString folder;      ///< where its sources lie; without sources, where it is declared
-    QStringList sources; ///< of the source root only, what the build makes is left out
-    QStringList links;   ///< what its own files may use
-    QStringList hands;   ///< what it hands on to those who link it
+    QString folder;    ///< of the source root, the first part of its path alone; empty outside of it
+    QStringList links; ///< what its own files may use
+    QStringList hands; ///< what it hands on to those who link it
 };
 
-/** @brief All targets by name, and who owns a file. */
+/** @brief All targets by name. */
 class BuildMap
 {
 public:
@@ -32,26 +31,11 @@ public:
     /** @brief Names of all targets that the files of a target may use, itself among them. */
     [[nodiscard]] QSet<QString> reach(const QString& target) const;
 
-    /** @brief The targets that a file belongs to: those that list it or, for a header, the .cpp of its name,
-     * else the library of its folder on which the folder's others stand. Empty when there is none or no
-     * single one. */
-    [[nodiscard]] QStringList ownersOf(const QString& file) const;
-
-    /** @brief Libraries of a folder that stand on no other library of it. */
-    [[nodiscard]] QStringList bottomOf(const QString& folder) const;
+    /** @brief Folders that hold what a target may use. */
+    [[nodiscard]] QSet<QString> reachedFolders(const QString& target) const;
 
 private:
-    void readLine(const QString& line, const QString& root, QString& current);
-    [[nodiscard]] bool standsAlone(const Target& target) const;
-
     QHash<QString, Target> m_targets;
-    QHash<QString, QStringList> m_owners; ///< by source file
 };
-
-/** @brief The part of a path before its last slash. */
-[[nodiscard]] inline QString folderOf(const QString& path)
-{
-    return path.left(qMax(0, path.lastIndexOf(u'/')));
-}
 
 } // namespace norvane::test
