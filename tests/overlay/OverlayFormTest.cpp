@@ -252,6 +252,29 @@ TEST_F(OverlayFormTest, WalksByKeysAndTakesOnlyWhatARegisterHas)
     EXPECT_TRUE(cell(91).text().startsWith(u"A TEXT"_s));
 }
 
+TEST_F(OverlayFormTest, ShowsWhateverADocumentSays)
+{
+    open(Keyboard::Quelmont);
+    QByteArray file =
+        QByteArray(10000, 'W') + "\r\n-2147483643\r\n-2147483640\r\nNo Such Font\r\n8\r\nTrue\r\nFalse";
+    for (const char* size : {"0", "-3", "1000"})
+        file += QByteArray("\r\nA\r\n255\r\n0\r\nArial\r\n") + size + "\r\nTrue\r\nFalse";
+    m_folder.folder().write("odd.ky4",
+                            file + QByteArray("\r\n \r\n255\r\n0\r\n\r\n8\r\n1\r\n0").repeated(179));
+    m_dialogs.files = {path("odd.ky4")};
+    choose("Open");
+    EXPECT_TRUE(m_boxes.shown.empty());
+    EXPECT_EQ(cell(0).text().size(), 10000);
+    EXPECT_EQ(cell(0).palette().color(QPalette::Base), QColor(Qt::white)) << "a system colour";
+    EXPECT_EQ(cell(0).palette().color(QPalette::Text), QColor(Qt::black));
+    EXPECT_EQ(colourOf(182), "#ff0000");
+    for (int odd = 0; odd < 4; ++odd) {
+        cell(odd).setFocus();
+        EXPECT_FALSE(m_form->grab().isNull());
+    }
+    EXPECT_FALSE(m_form->isWindowModified());
+}
+
 TEST_F(OverlayFormTest, PrintsOnceAndTellsWhatFails)
 {
     open(Keyboard::Velmar);
