@@ -21,6 +21,7 @@ std::span<const ExitMeaning> exitMeanings()
          "the run stopped before its end: a register's answer, or a question answered No"_L1},
         {ExitCode::Unwritable, "a file or folder cannot be written"_L1},
         {ExitCode::Unsound, "the check found something"_L1},
+        {ExitCode::BadFile, "the file to import has mistakes"_L1},
     });
     return meanings;
 }

@@ -20,6 +20,7 @@ enum class ExitCode {
     Stopped = 6,
     Unwritable = 7,
     Unsound = 8,
+    BadFile = 9,
 };
 
 struct ExitMeaning {

@@ -22,6 +22,9 @@ constexpr auto reportOptions = std::to_array<OptionDefinition>({
     {"csv"_L1, "FILE"_L1, "write the lines as CSV"_L1},
     {"xlsx"_L1, "FILE"_L1, "write the lines as a spreadsheet"_L1},
 });
+constexpr auto plusOptions = std::to_array<OptionDefinition>({
+    {"dry-run"_L1, {}, "of an import: list what would change, and change nothing"_L1},
+});
 
 // clang-format off
 constexpr auto all = std::to_array<Verb>({
@@ -35,6 +38,8 @@ constexpr auto all = std::to_array<Verb>({
     {"collect"_L1, "CUSTOMER"_L1, 1, 1, {}, "Collects the sales of all registers, stores them and clears them there."_L1, collect},
     {"report"_L1, "CUSTOMER NAME"_L1, 2, 2, reportOptions,
      "Writes a report: plusales, finsales, clerksales, timesales, mixsales, pluprice or any layout of the program's folder."_L1, report},
+    {"plus"_L1, "CUSTOMER export|import FILE"_L1, 3, 3, plusOptions,
+     "Exports number, description, group, status and prices of all PLUs as FILE.csv or FILE.xlsx; imports such a CSV file: known PLUs are changed, new ones added, wholly or not at all."_L1, movePlus},
     {"copies"_L1, "CUSTOMER"_L1, 1, 1, {}, "Lists the safety copies, the latest first."_L1, listCopies},
     {"restore"_L1, "CUSTOMER COPY"_L1, 2, 2, {},
      "Puts the customer back as a safety copy holds it, after a copy of how it stands now. COPY is a name or its beginning."_L1, restore},

@@ -14,6 +14,7 @@ void fetch(const Session& session, const Invocation& words);
 void send(const Session& session, const Invocation& words);
 void collect(const Session& session, const Invocation& words);
 void report(const Session& session, const Invocation& words);
+void movePlus(const Session& session, const Invocation& words);
 void listCopies(const Session& session, const Invocation& words);
 void restore(const Session& session, const Invocation& words);
 

@@ -1,4 +1,5 @@
 // Writes the CSV file; see ReportFiles.h.
+#include "reports/FormulaGuard.h"
 #include "reports/PageText.h"
 #include "reports/ReportFiles.h"
 #include "reports/TargetFile.h"
@@ -59,19 +60,12 @@ private:
     bool m_isFirst = true;
 };
 
-/// A spreadsheet would calculate a text that begins like a formula; a blank before it makes it a text.
-QString harmless(const QString& text)
-{
-    static constexpr QStringView formulaSigns = u"=+-@";
-    return !text.isEmpty() && formulaSigns.contains(text.front()) ? u' ' + text : text;
-}
-
 /// The cell as the preview shows it, but a day as yyyy-mm-dd, which every spreadsheet knows.
 QString csvValue(const ReportData& report, qsizetype line, int column)
 {
     const Cell cell = report.cell(line, column);
     if (const auto* const text = std::get_if<QString>(&cell))
-        return harmless(printable(*text));
+        return guarded(printable(*text));
     if (const auto* const day = std::get_if<QDate>(&cell))
         return day->toString(Qt::ISODate);
     return report.text(line, column);
@@ -90,7 +84,7 @@ void writeCsv(const ReportData& report, const QString& path, const KeepGoing& ke
 {
     CsvWriter csv;
     for (const ReportColumn& column : report.columns())
-        csv.addValue(harmless(printable(column.heading)));
+        csv.addValue(guarded(printable(column.heading)));
     csv.endLine();
     for (qsizetype line = 0; line < report.lineCount(); ++line) {
         addLine(csv, report, line);

@@ -1,6 +1,7 @@
 // The command line does what the window does: the same files, the same rows, the same bytes at the registers.
 #include "platform/FilePaths.h"
 #include "platform/FolderLock.h"
+#include "tests/road/RunCommand.h"
 #include "tests/road/Shop.h"
 #include "tests/store/Rows.h"
 #include "tests/support/FormTest.h"
@@ -13,25 +14,15 @@ namespace norvane
 namespace
 {
 
+using test::Ended;
 using test::Shop;
-
-struct Ended {
-    int code;
-    QString out;
-    QString err;
-};
 
 class CommandLine : public testing::TestWithParam<int>
 {
 protected:
     [[nodiscard]] Ended run(const QStringList& words) const
     {
-        QProcess command;
-        command.start(QString::fromUtf8(COMMAND),
-                      words + QStringList{u"--folder"_s, m_shop.folder().appPath()});
-        EXPECT_TRUE(command.waitForFinished(-1));
-        return {command.exitCode(), QString::fromLocal8Bit(command.readAllStandardOutput()),
-                QString::fromLocal8Bit(command.readAllStandardError())};
+        return test::runCommand(m_shop.folder().appPath(), words);
     }
     void expectDone(const QStringList& words) const
     {

@@ -1,0 +1,48 @@
+// Takes a CSV text apart.
+#pragma once
+
+#include <QtGlobal>
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvane::command
+{
+
+/// Record after record of a text, which must outlive it. A record ends with LF, CR LF or CR. A cell that
+/// begins with a quote runs to the quote that closes it, over separators and line ends; two quotes within it
+/// are one.
+class CsvReader
+{
+public:
+    CsvReader(std::string_view text, char separator) : m_text(text), m_separator(separator) {}
+
+    /// Goes to the next record, the first one at the first call. @return false behind the last.
+    [[nodiscard]] bool next();
+    /// Of the record; good until the next one.
+    [[nodiscard]] std::span<const std::string> cells() const { return {m_cells.data(), m_count}; }
+    /// The line of the text that the record begins in, counted from 1.
+    [[nodiscard]] qint64 line() const { return m_line; }
+    /// Whether its last cell lacks the closing quote, and so runs to the end of the text.
+    [[nodiscard]] bool isUnclosed() const { return m_isUnclosed; }
+
+private:
+    [[nodiscard]] std::string& addCell();
+    [[nodiscard]] bool atCellEnd() const;
+    void readCell();
+    void readQuoted(std::string& cell);
+    void passLineEnd();
+
+    std::string_view m_text;
+    char m_separator;
+    std::size_t m_at = 0;
+    std::vector<std::string> m_cells; ///< kept with their room; the record has the first of them
+    std::size_t m_count = 0;
+    qint64 m_line = 0;
+    qint64 m_nextLine = 1;
+    bool m_isUnclosed = false;
+};
+
+} // namespace norvane::command

@@ -1,0 +1,51 @@
+// What of a PLU goes into a spreadsheet and comes back.
+#pragma once
+
+#include "platform/Decimal.h"
+#include "store/Value.h"
+
+#include <QLatin1StringView>
+#include <QString>
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace norvane::command
+{
+
+enum class PluContent {
+    Number, ///< of the PLU itself
+    Text,
+    Key, ///< the number of a record in another table
+    Price
+};
+
+struct PluColumn {
+    QLatin1StringView heading; ///< in the file
+    QLatin1StringView field;   ///< of PLUDATA
+    PluContent content;
+    bool isOnScreen = true;    ///< whether a new record of the PLU screen sets it
+    QLatin1StringView table{}; ///< of a key: where it must stand
+    QLatin1StringView tableKey{};
+};
+
+/// In the order of an export. The first is the number.
+[[nodiscard]] std::span<const PluColumn> pluColumns();
+
+inline constexpr std::size_t pluNumberDigits = 18;
+inline constexpr qsizetype longestDescription = 16; ///< characters of a register
+inline constexpr Decimal highestPrice{99999999, 2}; ///< a register has eight digits for a price
+inline constexpr int priceDecimals = 2;
+
+/// The number as the table keeps it, zeros in front.
+[[nodiscard]] std::string filledPluNumber(std::string_view digits);
+/// What a new record of the PLU screen holds in a column; nothing in one that is not on it.
+[[nodiscard]] store::Value newPluValue(const PluColumn& column);
+/// What an export shows of a stored text; a register fills it with blanks.
+[[nodiscard]] QString exportedText(const store::Value& stored);
+/// Nothing for a price or key that was never set.
+[[nodiscard]] std::optional<Decimal> exportedNumber(const store::Value& stored);
+
+} // namespace norvane::command

@@ -1,0 +1,94 @@
+// See PluExport.h.
+#include "command/PluExport.h"
+
+#include "command/PluColumns.h"
+#include "store/Recordset.h"
+#include "store/RecordTexts.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::command
+{
+namespace
+{
+
+using reports::Cell;
+
+reports::ReportColumn layoutOf(const PluColumn& column, int mostDecimals)
+{
+    const bool isNumber = column.content == PluContent::Key || column.content == PluContent::Price;
+    const bool isPrice = column.content == PluContent::Price;
+    return {.heading = column.heading,
+            .width = paper::millimetres(isNumber ? 18 : 36),
+            .alignment = isNumber ? reports::Alignment::Right : reports::Alignment::Left,
+            .kind = isNumber ? reports::ColumnKind::Number : reports::ColumnKind::Text,
+            .leastDecimals = isPrice ? priceDecimals : 0,
+            .mostDecimals = isPrice ? mostDecimals : 0};
+}
+
+Cell cellOf(const PluColumn& column, const store::Value& value)
+{
+    switch (column.content) {
+    case PluContent::Number:
+        return store::shownKey(column.field, value.toText());
+    case PluContent::Text:
+        return exportedText(value);
+    default:
+        const auto number = exportedNumber(value);
+        return number ? Cell(*number) : Cell();
+    }
+}
+
+std::vector<Cell> lineOf(const store::Recordset& plus, const std::vector<int>& places)
+{
+    std::vector<Cell> cells;
+    cells.reserve(places.size());
+    for (std::size_t column = 0; column < places.size(); ++column)
+        cells.push_back(cellOf(pluColumns()[column], plus.value(places[column])));
+    return cells;
+}
+
+std::vector<std::vector<Cell>> allLines(store::Database& database)
+{
+    auto plus = database.openTable(u"PLUDATA"_s);
+    plus.setIndex(u"plunumber"_s);
+    std::vector<int> places;
+    for (const PluColumn& column : pluColumns())
+        places.push_back(plus.fieldOrdinal(column.field));
+    std::vector<std::vector<Cell>> lines;
+    for (plus.readOnly(places); !plus.atEnd(); plus.moveNext())
+        lines.push_back(lineOf(plus, places));
+    return lines;
+}
+
+/// Prices are never rounded: what is imported again must be what stands there.
+int mostDecimals(const std::vector<std::vector<Cell>>& lines)
+{
+    int most = priceDecimals;
+    for (const auto& line : lines) {
+        for (const Cell& cell : line) {
+            if (const auto* const number = std::get_if<Decimal>(&cell))
+                most = std::max(most, number->scale());
+        }
+    }
+    return most;
+}
+
+} // namespace
+
+reports::ReportData exportedPlus(store::Database& database)
+{
+    auto lines = allLines(database);
+    const int decimals = mostDecimals(lines);
+    std::vector<reports::ReportColumn> columns;
+    for (const PluColumn& column : pluColumns())
+        columns.push_back(layoutOf(column, decimals));
+    reports::ReportData data(std::move(columns));
+    for (auto& line : lines)
+        data.addLine(reports::LineKind::Detail, std::move(line));
+    return data;
+}
+
+} // namespace norvane::command

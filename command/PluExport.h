@@ -1,0 +1,13 @@
+// All PLUs of a customer as lines for a spreadsheet.
+#pragma once
+
+#include "reports/ReportData.h"
+#include "store/Database.h"
+
+namespace norvane::command
+{
+
+/// In the order of their numbers, without title and date. @throws RuntimeFailure as the database reports.
+[[nodiscard]] reports::ReportData exportedPlus(store::Database& database);
+
+} // namespace norvane::command
