@@ -98,6 +98,14 @@ void pressSoon(Qt::Key key, Qt::KeyboardModifier modifier)
     });
 }
 
+TEST(MessageBoxes, EnterConfirmsAndEscapeCancels)
+{
+    for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
+        pressSoon(key, Qt::NoModifier);
+        EXPECT_EQ(MessageBoxes().confirm(u"Start?"_s, u"Print"_s), key == Qt::Key_Return);
+    }
+}
+
 TEST(MessageBoxes, OfTwoNamedAnswersEnterAndEscapeGiveTheSecond)
 {
     const std::tuple<Qt::Key, Qt::KeyboardModifier, bool> cases[] = {{Qt::Key_Return, Qt::NoModifier, false},

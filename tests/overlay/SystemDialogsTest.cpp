@@ -1,0 +1,80 @@
+// The real dialogs of the overlay forms, answered as a user would.
+#include "overlay/SystemDialogs.h"
+
+#include "tests/platform/TestFolder.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFontDialog>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+
+namespace norvane::overlay
+{
+namespace
+{
+
+/// Works the dialog that opens next.
+template <typename Use>
+void soon(Use use)
+{
+    QTimer::singleShot(0, [use] {
+        QWidget* const box = QApplication::activeModalWidget();
+        ASSERT_TRUE(box && QTest::qWaitForWindowActive(box));
+        use(*box);
+    });
+}
+
+TEST(SystemDialogsTest, TakeNamesOfFilesThatAreNotThereWhereTheyMay)
+{
+    const test::TestFolder folder;
+    folder.write("old.ky4", "");
+    const std::pair<FileChoice::Name, const char*> rows[] = {
+        {FileChoice::Name::Any, "new.ky4"},
+        {FileChoice::Name::ToWrite, "new.ky4"},
+        {FileChoice::Name::ToWrite, "old.ky4"},
+        {FileChoice::Name::Existing, "old.ky4"},
+    };
+    for (const auto& [name, expected] : rows) {
+        soon([typed = QString::fromLatin1(expected).section(u'.', 0, 0)](QWidget& box) {
+            auto* const edit = box.findChild<QLineEdit*>(u"fileNameEdit"_s);
+            edit->setText(typed);
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+        EXPECT_EQ(SystemDialogs().file({u"New"_s, folder.path(), u"Files (*.ky4)"_s, u"ky4"_s, name}),
+                  folder.path(expected));
+    }
+}
+
+TEST(SystemDialogsTest, BeginTheFontDialogAtWhatStandsInForAMissingFont)
+{
+    QFont missing(u"Arial"_s, 11);
+    missing.setBold(true);
+    soon([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    const auto chosen = SystemDialogs().font(missing);
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(chosen->family(), QFontInfo(missing).family());
+    EXPECT_EQ(chosen->pointSize(), 11);
+    EXPECT_TRUE(chosen->bold());
+}
+
+TEST(SystemDialogsTest, KeepAPrinterThatHasGoneAndTurnTheSheet)
+{
+    soon([](QWidget& box) {
+        EXPECT_EQ(box.findChild<QComboBox*>(u"PrinterList"_s)->currentText(), u"Back office"_s);
+        EXPECT_TRUE(box.findChild<QRadioButton*>(u"Landscape"_s)->isChecked());
+        box.findChild<QRadioButton*>(u"Portrait"_s)->click();
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    const auto chosen = SystemDialogs().printer({u"Back office"_s, QPageLayout::Landscape});
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(chosen->name, u"Back office"_s);
+    EXPECT_EQ(chosen->orientation, QPageLayout::Portrait);
+    soon([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_FALSE(SystemDialogs().printer({}));
+}
+
+} // namespace
+} // namespace norvane::overlay
