@@ -68,9 +68,10 @@ QByteArray fileOf(int round)
     for (int plu = 1; plu <= pluCount; ++plu) {
         const QByteArray number = QByteArray::number(plu);
         file += number + ",ARTICLE " + number;
-        for (int price = 1; price <= prices; ++price)
+        for (int price = 1; price <= prices; ++price) {
             file += ',' + QByteArray::number(plu % 900 + price) + '.' +
                     QByteArray::number(11 + (round + plu) % 8 * 11);
+        }
         file += "\r\n";
     }
     return file;

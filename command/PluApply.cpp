@@ -15,38 +15,30 @@ namespace
 
 using store::Value;
 
-class Writer
+std::size_t placeOf(const PluColumn& column)
+{
+    return static_cast<std::size_t>(&column - pluColumns().data());
+}
+
+/// The columns of all PLUs in the order of their numbers. A record of the whole table has fifty fields;
+/// reading all of them for each PLU would take as long as storing it.
+QString columnsOfAll()
+{
+    QStringList fields;
+    for (const PluColumn& column : pluColumns())
+        fields << column.field;
+    return u"select %1 from PLUDATA order by PLUNUMBER"_s.arg(fields.join(u", "));
+}
+
+/// New PLUs.
+class Additions
 {
 public:
-    explicit Writer(store::Database& database) : m_plus(database.openTable(u"PLUDATA"_s))
+    explicit Additions(store::Database& database) : m_plus(database.openTable(u"PLUDATA"_s))
     {
-        m_plus.setIndex(u"plunumber"_s);
         for (const PluColumn& column : pluColumns())
             m_places.push_back(m_plus.fieldOrdinal(column.field));
-        findZeros();
-    }
-
-    void store(const PluChange& change)
-    {
-        if (change.isNew) {
-            begin(change.number);
-        } else {
-            edit(change.number);
-        }
-        for (const PluFieldChange& field : change.fields)
-            m_plus.setValue(placeOf(*field.column), Value::text(field.after));
-        m_plus.update();
-    }
-
-private:
-    [[nodiscard]] int placeOf(const PluColumn& column) const
-    {
-        return m_places[static_cast<std::size_t>(&column - pluColumns().data())];
-    }
-
-    /// The screen cannot show a PLU whose number boxes hold nothing.
-    void findZeros()
-    {
+        // The screen cannot show a PLU whose number boxes hold nothing.
         for (int place = 0; place < m_plus.fieldCount(); ++place) {
             const auto type = m_plus.field(place).type;
             if (type == store::FieldType::Long || type == store::FieldType::YesNo)
@@ -54,23 +46,23 @@ private:
         }
     }
 
-    void begin(const std::string& number)
+    void store(const PluChange& change)
     {
         m_plus.addNew();
         for (const int place : m_zeros)
             m_plus.setValue(place, Value::whole(0));
         for (const PluColumn& column : pluColumns())
-            m_plus.setValue(placeOf(column), newPluValue(column));
-        m_plus.setValue(m_places.front(), Value::text(number));
+            set(column, newPluValue(column));
+        set(pluColumns().front(), Value::text(change.number));
+        for (const auto& [column, before, after] : change.fields)
+            set(*column, Value::text(after));
+        m_plus.update();
     }
 
-    void edit(const std::string& number)
+private:
+    void set(const PluColumn& column, Value&& value)
     {
-        if (!m_plus.seek(store::Seek::Equal, Value::text(number))) {
-            throw RuntimeFailure(Failure::RecordDeleted,
-                                 u"PLU %1 was deleted meanwhile."_s.arg(QString::fromStdString(number)));
-        }
-        m_plus.edit();
+        m_plus.setValue(m_places[placeOf(column)], std::move(value));
     }
 
     store::Recordset m_plus;
@@ -78,14 +70,35 @@ private:
     std::vector<int> m_zeros;
 };
 
+/// Finds a known PLU where the comparison saw it.
+void storeKnown(store::Recordset& plus, const PluChange& change)
+{
+    if (!plus.moveTo(change.position) || plus.value(0).textView() != change.number) {
+        throw RuntimeFailure(
+            Failure::RecordDeleted,
+            u"PLUs were added or deleted meanwhile, near %1. Nothing was imported; please start again."_s.arg(
+                QString::fromStdString(change.number)));
+    }
+    plus.edit();
+    for (const auto& [column, before, after] : change.fields)
+        plus.setValue(static_cast<int>(placeOf(*column)), Value::text(after));
+    plus.update();
+}
+
 } // namespace
 
 void applyPluChanges(store::Database& database, std::span<const PluChange> changes)
 {
     store::allOrNothing(database, [&] {
-        Writer writer(database);
-        for (const PluChange& change : changes)
-            writer.store(change);
+        auto known = database.openQuery(columnsOfAll());
+        Additions additions(database);
+        for (const PluChange& change : changes) {
+            if (change.isNew) {
+                additions.store(change);
+            } else {
+                storeKnown(known, change);
+            }
+        }
     });
 }
 

@@ -117,10 +117,10 @@ private:
     void takeLine(const CsvReader& csv)
     {
         const Cells cells = csv.cells();
-        if (std::ranges::all_of(cells, &std::string::empty))
-            return;
         if (csv.isUnclosed()) {
             add(csv.line(), {}, u"a quote is not closed"_s);
+        } else if (std::ranges::all_of(cells, &std::string::empty)) {
+            return;
         } else if (cells.size() != m_file.columns.size()) {
             add(csv.line(), {},
                 u"%1 columns, but %2 headings"_s.arg(cells.size()).arg(m_file.columns.size()));
@@ -146,9 +146,10 @@ private:
         firstLines.reserve(m_file.lines.size());
         std::erase_if(m_file.lines, [&](const PluLine& line) {
             const auto [first, isNew] = firstLines.try_emplace(line.number, line.line);
-            if (!isNew)
+            if (!isNew) {
                 add(line.line, numberColumn().heading,
                     u"the number stands in line %1 already"_s.arg(first->second));
+            }
             return !isNew;
         });
     }

@@ -110,9 +110,10 @@ private:
         std::vector<int> places{number};
         for (const PluColumn* const column : m_file.columns)
             places.push_back(plus.fieldOrdinal(column->field));
-        for (plus.readOnly(places); !plus.atEnd(); plus.moveNext()) {
+        qint64 position = 0;
+        for (plus.readOnly(places); !plus.atEnd(); plus.moveNext(), ++position) {
             if (const PluLine* const line = lineOf(plus.value(number).textView()))
-                compare(*line, plus, places);
+                compare(*line, plus, places, position);
         }
     }
 
@@ -125,9 +126,10 @@ private:
         return found == m_byNumber.end() ? nullptr : std::exchange(found->second, nullptr);
     }
 
-    void compare(const PluLine& line, const store::Recordset& plus, const std::vector<int>& places)
+    void compare(const PluLine& line, const store::Recordset& plus, const std::vector<int>& places,
+                 qint64 position)
     {
-        PluChange change{plus.value(places.front()).toUtf8(), false, {}};
+        PluChange change{plus.value(places.front()).toUtf8(), false, position, {}};
         for (std::size_t column = 0; column < m_file.columns.size(); ++column)
             compareCell(line, column, plus.value(places[column + 1]), change);
         if (!change.fields.empty())
@@ -137,9 +139,9 @@ private:
     void compareNew()
     {
         for (const PluLine& line : m_file.lines) {
-            if (m_byNumber.at(line.number) == nullptr) // is stored
+            if (m_byNumber.at(line.number) == nullptr) // is known
                 continue;
-            PluChange change{line.number, true, {}};
+            PluChange change{line.number, true, 0, {}};
             for (std::size_t column = 0; column < m_file.columns.size(); ++column)
                 compareCell(line, column, newPluValue(*m_file.columns[column]), change);
             m_result.changes.push_back(std::move(change));

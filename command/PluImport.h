@@ -22,6 +22,7 @@ struct PluFieldChange {
 struct PluChange {
     std::string number; ///< as the table holds it
     bool isNew = false;
+    qint64 position = 0;                ///< of a known one, in the order of the numbers, from 0
     std::vector<PluFieldChange> fields; ///< in the order of the file's columns
 };
 

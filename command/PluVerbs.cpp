@@ -14,7 +14,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <ranges>
+#include <span>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,7 +55,8 @@ void failWith(const std::vector<PluMistake>& mistakes, const QString& path)
 {
     if (mistakes.empty())
         return;
-    for (const auto& [line, column, reason] : mistakes | std::views::take(mistakesShown))
+    for (const auto& [line, column, reason] :
+         std::span(mistakes).first(std::min(mistakes.size(), mistakesShown)))
         tell(u"line %1%2: %3"_s.arg(line).arg(column.isEmpty() ? QString() : u", "_s + column, reason));
     const QString further =
         mistakes.size() > mistakesShown ? u" The first %1 are listed."_s.arg(mistakesShown) : QString();
@@ -72,9 +73,10 @@ Listing differences(const std::vector<PluChange>& changes)
             store::shownKey(pluColumns().front().field, QString::fromStdString(change.number));
         if (change.isNew)
             listing.add({number, u"new PLU"_s, {}, {}});
-        for (const auto& [column, before, after] : change.fields)
+        for (const auto& [column, before, after] : change.fields) {
             listing.add({number, QString(column->heading), shownPluValue(*column, before),
                          shownPluValue(*column, after)});
+        }
     }
     return listing;
 }

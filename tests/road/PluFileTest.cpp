@@ -2,6 +2,7 @@
 #include "customers/CustomerLog.h"
 #include "customers/SafetyCopies.h"
 #include "platform/FilePaths.h"
+#include "platform/FolderLock.h"
 #include "tests/road/RunCommand.h"
 #include "tests/road/Shop.h"
 #include "tests/store/Rows.h"
@@ -199,6 +200,9 @@ TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
     EXPECT_EQ(run({u"plus"_s, customer, u"import"_s, u"none.csv"_s}).code, 9);
     EXPECT_EQ(run({u"plus"_s, customer, u"export"_s, u"plus.pdf"_s}).code, 2);
     EXPECT_EQ(run({u"plus"_s, customer, u"print"_s, u"plus.csv"_s}).code, 2);
+    const auto lock = FolderLock::take(m_shop.values().customerPath, m_shop.boxes());
+    EXPECT_EQ(import(prices + "1,2\n").code, 5);
+    EXPECT_EQ(import(prices + "1,2\n", {u"--dry-run"_s}).code, 0);
     EXPECT_EQ(rows(), before);
     EXPECT_EQ(copies(), 0);
 }
