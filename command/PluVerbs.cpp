@@ -81,13 +81,11 @@ Listing differences(const std::vector<PluChange>& changes)
     return listing;
 }
 
-/// Shows what the file changes. @throws CommandError BadFile
-std::vector<PluChange> compared(const Session& session, store::Database& database, const QString& path)
+/// Shows what the file at @p path changes. @throws CommandError BadFile
+void show(const Session& session, const PluComparison& comparison, const QString& path)
 {
-    auto comparison = comparePlus(database, contentOf(path));
     failWith(comparison.mistakes, path);
     session.show(differences(comparison.changes));
-    return std::move(comparison.changes);
 }
 
 QString resultOf(const std::vector<PluChange>& changes)
@@ -96,12 +94,22 @@ QString resultOf(const std::vector<PluChange>& changes)
     return u"%1 changed, %2 new"_s.arg(std::ssize(changes) - added).arg(added);
 }
 
+void listChanges(const Session& session, const ApplicationValues& values, const QString& path)
+{
+    store::Database database(values.databasePath);
+    show(session, comparePlus(database, contentOf(path)), path);
+}
+
 void importFrom(const Session& session, const ApplicationValues& values, const QString& path)
 {
     const auto lock = lockFor(session, values);
     customers::LoggedWork work(values.customerPath, u"PLU import"_s);
     store::Database database(values.databasePath);
-    const auto changes = compared(session, database, path);
+    const PluComparison comparison = comparePlus(database, contentOf(path));
+    if (!comparison.mistakes.empty())
+        work.setResult(u"refused: the file has mistakes"_s);
+    show(session, comparison, path);
+    const auto& changes = comparison.changes;
     if (!changes.empty()) {
         if (!customers::copyBeforeJob(values, session.boxes, u"before PLU import"_s))
             throw CommandError(ExitCode::Unwritable, {});
@@ -124,8 +132,7 @@ void movePlus(const Session& session, const Invocation& words)
     if (isExport) {
         exportTo(session, values, path);
     } else if (words.has("dry-run"_L1)) {
-        store::Database database(values.databasePath);
-        (void)compared(session, database, session.userFile(path));
+        listChanges(session, values, session.userFile(path));
     } else {
         importFrom(session, values, session.userFile(path));
     }

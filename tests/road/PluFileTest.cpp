@@ -195,6 +195,8 @@ TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
         EXPECT_TRUE(ended.err.contains(err)) << ended.err.toStdString();
         EXPECT_EQ(ended.out, QString());
     }
+    EXPECT_EQ(customers::lastLogged(m_shop.values().customerPath, {u"PLU import"_s})->result,
+              u"refused: the file has mistakes");
     const QString folder = m_shop.folder().appPath();
     EXPECT_TRUE(run({u"plus"_s, customer, u"import"_s, folder}).err.contains(u"is a folder"_s));
     EXPECT_EQ(run({u"plus"_s, customer, u"import"_s, u"none.csv"_s}).code, 9);
