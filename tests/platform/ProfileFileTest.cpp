@@ -31,23 +31,24 @@ QByteArray afterWriting(const QByteArray& file, const char* key, const char* val
     return folder.read("setup.ini");
 }
 
+constexpr const char* spellings[][3] = {
+    {"case-blind names", "[SETUPoption]\r\nPORT=2\r\n", "2"},
+    {"blanks around names and value", " [ SetupOption ] \r\n\t port \t= \t 2 \t\r\n", "2"},
+    {"first key wins", "[SetupOption]\nPort=1\nPort=2\n", "1"},
+    {"section goes on further down", "[SetupOption]\n[x]\nPort=1\n[setupoption]\nPort=2\n", "2"},
+    {"before any section", "Port=1\n[SetupOption]\n", "absent"},
+    {"comment", "[SetupOption]\n;Port=1\n ; Port=1\n", "absent"},
+    {"key without equals sign", "[SetupOption]\nPort\nPort=1\n", "1"},
+    {"double quotes", "[SetupOption]\nPort=\" a \"\n", " a "},
+    {"one pair only", "[SetupOption]\nPort=\"'a'\"\n", "'a'"},
+    {"unequal quotes", "[SetupOption]\nPort=\"a'\n", "\"a'"},
+    {"marked UTF-8", "\xEF\xBB\xBF[SetupOption]\nPort=\xC3\xA4\n", "ä"},
+    {"Windows-1252", "[SetupOption]\nPort=\xE4\x80\n", "ä€"},
+};
+
 TEST(ProfileFile, ReadsAsTheFormerPlatformDid)
 {
-    constexpr const char* rows[][3] = {
-        {"case-blind names", "[SETUPoption]\r\nPORT=2\r\n", "2"},
-        {"blanks around names and value", " [ SetupOption ] \r\n\t port \t= \t 2 \t\r\n", "2"},
-        {"first key wins", "[SetupOption]\nPort=1\nPort=2\n", "1"},
-        {"section goes on further down", "[SetupOption]\n[x]\nPort=1\n[setupoption]\nPort=2\n", "2"},
-        {"before any section", "Port=1\n[SetupOption]\n", "absent"},
-        {"comment", "[SetupOption]\n;Port=1\n ; Port=1\n", "absent"},
-        {"key without equals sign", "[SetupOption]\nPort\nPort=1\n", "1"},
-        {"double quotes", "[SetupOption]\nPort=\" a \"\n", " a "},
-        {"one pair only", "[SetupOption]\nPort=\"'a'\"\n", "'a'"},
-        {"unequal quotes", "[SetupOption]\nPort=\"a'\n", "\"a'"},
-        {"marked UTF-8", "\xEF\xBB\xBF[SetupOption]\nPort=\xC3\xA4\n", "ä"},
-        {"Windows-1252", "[SetupOption]\nPort=\xE4\x80\n", "ä€"},
-    };
-    for (const auto& [what, file, value] : rows)
+    for (const auto& [what, file, value] : spellings)
         EXPECT_EQ(valueIn(file, "Port"), QString::fromUtf8(value)) << what;
 
     const QByteArray file = "[SetupOption]\nList=\"" + QByteArray(300, 'x') + "\"\n";

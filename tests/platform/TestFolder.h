@@ -60,16 +60,24 @@ private:
     QString m_before = QDir::currentPath();
 };
 
-/// The number of the failure that @p act throws; 0 when it throws none.
+/// Number and text of the failure that @p act throws, as "53 File not found: mem.dat"; empty when it throws
+/// none.
 template <typename Act>
-int failureOf(Act act)
+QString failureTextOf(Act act)
 {
     try {
         act();
     } catch (const RuntimeFailure& failure) {
-        return failure.number();
+        return QString::number(failure.number()) + u' ' + failure.text();
     }
-    return 0;
+    return {};
+}
+
+/// The number of the failure that @p act throws; 0 when it throws none.
+template <typename Act>
+int failureOf(Act act)
+{
+    return failureTextOf(act).section(u' ', 0, 0).toInt();
 }
 
 } // namespace norvane::test

@@ -232,22 +232,23 @@ TEST(FileLayoutsTest, KeepsNumbersInTheFlagsOfSomeFunctionKeys)
     }
 }
 
+const char* const olderTexts = "|KEY||KEY||KEY|KEY|KEY|KEY|KEY|";
+const struct {
+    int memorySize;
+    const char* texts; ///< of the keys 256 to 266
+    std::size_t boxes; ///< the firmware is asked for once
+} cardKeys[] = {
+    {78,
+     "||ADD BALANCE|ADD BALANCE|ADD POINTS|ADD POINTS|ADD POINTS|ADD POINTS|ADD POINTS|ADD POINTS|"
+     "DEL HOTLIST",
+     0},
+    {77, olderTexts, 0},
+    {0, olderTexts, 1},
+};
+
 TEST(FileLayoutsTest, KeepsTheTextsOfTheCardKeysFromNewerFirmware)
 {
-    const char* const older = "|KEY||KEY||KEY|KEY|KEY|KEY|KEY|";
-    const struct {
-        int memorySize;
-        const char* texts; ///< of the keys 256 to 266
-        std::size_t boxes; ///< the firmware is asked for once
-    } cases[] = {
-        {78,
-         "||ADD BALANCE|ADD BALANCE|ADD POINTS|ADD POINTS|ADD POINTS|ADD POINTS|ADD POINTS|ADD POINTS|"
-         "DEL HOTLIST",
-         0},
-        {77, older, 0},
-        {0, older, 1},
-    };
-    for (const auto& [memorySize, expected, boxes] : cases) {
+    for (const auto& [memorySize, expected, boxes] : cardKeys) {
         Shop shop;
         shop.folder.write("mem.dat", QByteArray(memorySize, 0));
         shop.import(2, functionKeys({{256, ""}, {258, ""}, {260, ""}, {266, ""}}));

@@ -13,6 +13,7 @@ namespace
 {
 
 using norvane::test::failureOf;
+using norvane::test::failureTextOf;
 using store::Value;
 using test::plu;
 using test::Shop;
@@ -62,28 +63,26 @@ TEST(FileProceduresTest, SetsThePointsOfThePlusThatAreThere)
     EXPECT_EQ(shop.column("PLUDATA", "POINT1"), "null");
 }
 
+const struct {
+    QByteArray line;
+    int failure;
+    const char* place;
+} badLines[] = {{plu(18) + ",,,,,,,  ", 13, "67.txt, line 2, column 8: "},
+                {plu(18) + ",,,,,,,-4", 13, "67.txt, line 2, column 8: "},
+                {plu(17), 3022, "67.txt, line 2: "}};
+
 /// Of a table of three records the first two would be left, or none.
 TEST(FileProceduresTest, AsksWhatBecomesOfATextThatIsBadInTheMiddle)
 {
-    const struct {
-        QByteArray line;
-        int failure;
-        const char* place;
-    } cases[] = {{plu(18) + ",,,,,,,  ", 13, "67.txt, line 2, column 8: "},
-                 {plu(18) + ",,,,,,,-4", 13, "67.txt, line 2, column 8: "},
-                 {plu(17), 3022, "67.txt, line 2: "}};
-    for (const auto& [line, number, place] : cases) {
+    for (const auto& [line, number, place] : badLines) {
         Shop shop;
         shop.import(67, plu(1) + "\r\n" + plu(2) + "\r\n" + plu(3));
         for (const bool keeps : {false, true}) {
             shop.boxes.answers = {keeps};
-            try {
-                shop.import(67, plu(17) + "\r\n" + line + "\r\n" + plu(19));
-                ADD_FAILURE() << line.toStdString();
-            } catch (const RuntimeFailure& failure) {
-                EXPECT_EQ(failure.number(), number);
-                EXPECT_TRUE(failure.text().startsWith(QLatin1String(place))) << failure.what();
-            }
+            const QString told =
+                failureTextOf([&] { shop.import(67, plu(17) + "\r\n" + line + "\r\n" + plu(19)); });
+            EXPECT_TRUE(told.startsWith(QString::number(number) + u' ' + QLatin1String(place)))
+                << told.toStdString();
             const auto& asked = shop.boxes.shown.back();
             EXPECT_TRUE(asked.text.startsWith(QLatin1String(place)) && asked.text.contains(u"1 records") &&
                         asked.text.contains(u"with 3 records"))
