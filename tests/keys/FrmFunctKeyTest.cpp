@@ -5,14 +5,9 @@
 #include "tests/support/FormTest.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QtWidgets>
 
 namespace norvane::keys::test
 {
@@ -118,28 +113,29 @@ TEST_F(FrmFunctKeyTest, AKeyIsFoundByItsNumberOrAnyPartOfItsText)
     EXPECT_EQ(row(5), "KEY 262     ") << "showing stores nothing";
 }
 
+// clang-format off
+const struct {
+    const char* key;
+    const char* shown;
+    std::vector<std::pair<const char*, const char*>> typed;
+    std::vector<int> ticks;
+    const char* saved;
+} kindsOfKeys[] = {
+    {"1", "", {{"description", "GO"}}, {}, "GO 0 0 0 0 0"},
+    {"16", "Halo=0.00|Allow In X Only|Compulsory Validation|Print Receipt", {{"Halo", "12,5"}}, {0, 2}, "KEY 251 1250 50 0 0 0"},
+    {"23", "Print Check On Printer# (0-40)=0", {{"otherno", "7"}}, {}, "KEY 244 1250 0 0 7 0"},
+    {"27", "Rate=0|Linked Drawer (0-3)=0|Curr Dec Places=0|Change In Foreign Currency",
+     {{"Halo", "1175"}, {"otherno", "3"}, {"otherno2", "2"}}, {0}, "KEY 240 1175 40 3 2 0"},
+    {"157", nullptr, {{"Halo", "1.234"}}, {6, 19}, "KEY 110 1234 0 40 0 20"},
+    {"264", "Money Gain For Each Point=0|Allow In X Mode Only|Print Card Details", {{"Halo", "12.34"}}, {0}, "KEY 3 1234 40 12.34 0 0"},
+};
+// clang-format on
+
 TEST_F(FrmFunctKeyTest, KeysOfAllKindsAreShownTypedAndSaved)
 {
-    // clang-format off
-    const struct {
-        const char* key;
-        const char* shown;
-        std::vector<std::pair<const char*, const char*>> typed;
-        std::vector<int> ticks;
-        const char* saved;
-    } rows[] = {
-        {"1", "", {{"description", "GO"}}, {}, "GO 0 0 0 0 0"},
-        {"16", "Halo=0.00|Allow In X Only|Compulsory Validation|Print Receipt", {{"Halo", "12,5"}}, {0, 2}, "KEY 251 1250 50 0 0 0"},
-        {"23", "Print Check On Printer# (0-40)=0", {{"otherno", "7"}}, {}, "KEY 244 1250 0 0 7 0"},
-        {"27", "Rate=0|Linked Drawer (0-3)=0|Curr Dec Places=0|Change In Foreign Currency",
-         {{"Halo", "1175"}, {"otherno", "3"}, {"otherno2", "2"}}, {0}, "KEY 240 1175 40 3 2 0"},
-        {"157", nullptr, {{"Halo", "1.234"}}, {6, 19}, "KEY 110 1234 0 40 0 20"},
-        {"264", "Money Gain For Each Point=0|Allow In X Mode Only|Print Card Details", {{"Halo", "12.34"}}, {0}, "KEY 3 1234 40 12.34 0 0"},
-    };
-    // clang-format on
     open();
     const QSize size = m_form->size();
-    for (const auto& [key, seen, typed, ticks, saved] : rows) {
+    for (const auto& [key, seen, typed, ticks, saved] : kindsOfKeys) {
         select(key);
         EXPECT_TRUE(seen == nullptr || shown() == seen) << key << ' ' << shown();
         for (const auto& [box, text] : typed)

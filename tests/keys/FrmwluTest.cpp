@@ -4,15 +4,8 @@
 #include "tests/keys/KeyShop.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTableView>
 #include <QTest>
-#include <QWindow>
+#include <QtWidgets>
 
 namespace norvane::keys
 {

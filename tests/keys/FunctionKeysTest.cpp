@@ -292,13 +292,8 @@ TEST(FunctionKeyFieldsTest, WhatCannotBeShownOrSavedTellsTableRowAndWayOut)
     shop.add("FUNCTIONKEY", {{"id", whole(1)}});
     shop.add("FUNCTIONKEY", {{"id", whole(5)}});
     FunctionKeys keys(shop.open(), shop.values);
-    const auto failure = [](const auto& act) -> std::string {
-        try {
-            act();
-        } catch (const RuntimeFailure& thrown) {
-            return std::to_string(thrown.number()) + ' ' + thrown.text().toStdString();
-        }
-        return "none";
+    const auto failure = [](const auto& act) {
+        return failureTextOf(act).toStdString();
     };
     EXPECT_EQ(failure([&] { keys.moveTo(5); }),
               "3021 No current record. Table FunctionKey has 2 rows, but no row 5. Their numbers must run "

@@ -3,8 +3,6 @@
 
 #include "tests/keys/KeyShop.h"
 
-#include <functional>
-
 namespace norvane::keys
 {
 namespace
@@ -52,56 +50,53 @@ protected:
 constexpr auto untouched = "abcd efgh ijkl";
 const KeyCells pair{{1, 0}, {1, 1}};
 
+/// What a user does with keys; the cells of @p to are those of the grip and of the drop, or the goal.
+using Change = Refusal (*)(KeyEditor& editor, const KeyCells& keys, const KeyCells& to);
+
+Refusal swapKeys(KeyEditor& editor, const KeyCells& keys, const KeyCells& to)
+{
+    return editor.swap(keys, to[0], to[1]);
+}
+Refusal dragCopy(KeyEditor& editor, const KeyCells& keys, const KeyCells& to)
+{
+    return editor.copyTo(keys, to[0], to[1]);
+}
+Refusal copyAndPaste(KeyEditor& editor, const KeyCells& keys, const KeyCells& to)
+{
+    editor.copy(keys);
+    return editor.paste(to);
+}
+Refusal markAndSwap(KeyEditor& editor, const KeyCells& keys, const KeyCells& to)
+{
+    editor.mark(keys);
+    return editor.swapWithMarked(to);
+}
+Refusal cutKeys(KeyEditor& editor, const KeyCells& keys, const KeyCells& /*to*/)
+{
+    return editor.cut(keys);
+}
+
+const struct {
+    Change change;
+    KeyCells keys;
+    KeyCells to;
+    const char* after;
+} changes[] = {
+    {swapKeys, {{1, 0}}, {{1, 0}, {3, 3}}, "lbcd efgh ijka"},
+    {swapKeys, pair, {{1, 1}, {2, 1}}, "efcd abgh ijkl"},
+    {swapKeys, {{1, 1}, {1, 0}}, {{1, 0}, {1, 1}}, "cabd efgh ijkl"},
+    {swapKeys, {{1, 0}, {2, 1}}, {{1, 0}, {2, 1}}, "kbcd eagh ijfl"},
+    {dragCopy, pair, {{1, 0}, {1, 1}}, "aabd efgh ijkl"},
+    {copyAndPaste, pair, {{3, 2}}, "abcd efgh ijab"},
+    {copyAndPaste, {{1, 0}}, {{2, 0}, {3, 3}}, "abcd afgh ijka"},
+    {markAndSwap, pair, {{3, 2}, {3, 3}}, "klcd efgh ijab"},
+    {cutKeys, {{1, 0}, {2, 0}}, {}, ".bcd .fgh ijkl"},
+};
+
 TEST_F(KeyEditorTest, EveryChangeIsOneStepBackAndForth)
 {
-    const auto copyAndPaste = [](KeyEditor& it, const KeyCells& from, const KeyCells& to) {
-        it.copy(from);
-        return it.paste(to);
-    };
-    const auto markAndSwap = [](KeyEditor& it, const KeyCells& from, const KeyCells& to) {
-        it.mark(from);
-        return it.swapWithMarked(to);
-    };
-    const std::pair<std::function<Refusal(KeyEditor&)>, const char*> cases[] = {
-        {[](KeyEditor& it) {
-             return it.swap({{1, 0}}, {1, 0}, {3, 3});
-         },
-         "lbcd efgh ijka"},
-        {[](KeyEditor& it) {
-             return it.swap(pair, {1, 1}, {2, 1});
-         },
-         "efcd abgh ijkl"},
-        {[](KeyEditor& it) {
-             return it.swap({{1, 1}, {1, 0}}, {1, 0}, {1, 1});
-         },
-         "cabd efgh ijkl"},
-        {[](KeyEditor& it) {
-             return it.swap({{1, 0}, {2, 1}}, {1, 0}, {2, 1});
-         },
-         "kbcd eagh ijfl"},
-        {[](KeyEditor& it) {
-             return it.copyTo(pair, {1, 0}, {1, 1});
-         },
-         "aabd efgh ijkl"},
-        {[&](KeyEditor& it) {
-             return copyAndPaste(it, pair, {{3, 2}});
-         },
-         "abcd efgh ijab"},
-        {[&](KeyEditor& it) {
-             return copyAndPaste(it, {{1, 0}}, {{2, 0}, {3, 3}});
-         },
-         "abcd afgh ijka"},
-        {[&](KeyEditor& it) {
-             return markAndSwap(it, pair, {{3, 2}, {3, 3}});
-         },
-         "klcd efgh ijab"},
-        {[](KeyEditor& it) {
-             return it.cut({{1, 0}, {2, 0}});
-         },
-         ".bcd .fgh ijkl"},
-    };
-    for (const auto& [change, after] : cases) {
-        EXPECT_EQ(change(editor), Refusal::None);
+    for (const auto& [change, keysChanged, to, after] : changes) {
+        EXPECT_EQ(change(editor, keysChanged, to), Refusal::None);
         EXPECT_EQ(keys(), after);
         editor.undo();
         EXPECT_EQ(keys(), untouched);
@@ -112,45 +107,26 @@ TEST_F(KeyEditorTest, EveryChangeIsOneStepBackAndForth)
     }
 }
 
+const struct {
+    Change change;
+    KeyCells keys;
+    KeyCells to;
+    Refusal refusal;
+} refused[] = {
+    {swapKeys, {{0, 0}}, {{0, 0}, {3, 3}}, Refusal::FixedKey},
+    {swapKeys, pair, {{1, 0}, {0, 0}}, Refusal::FixedKey},
+    {dragCopy, {{1, 2}, {2, 2}}, {{1, 2}, {0, 1}}, Refusal::FixedKey},
+    {copyAndPaste, pair, {{0, 1}}, Refusal::FixedKey},
+    {cutKeys, {{1, 0}, {0, 0}}, {}, Refusal::FixedKey},
+    {swapKeys, pair, {{1, 1}, {1, 0}}, Refusal::Outside},
+    {copyAndPaste, pair, {{9, 15}}, Refusal::Outside},
+    {markAndSwap, {}, {{1, 0}}, Refusal::NoKeys},
+};
+
 TEST_F(KeyEditorTest, RefusesWhatTouchesAFixedKeyOrLeavesTheKeyboard)
 {
-    editor.copy(pair);
-    const std::pair<std::function<Refusal(KeyEditor&)>, Refusal> cases[] = {
-        {[](KeyEditor& it) {
-             return it.swap({{0, 0}}, {0, 0}, {3, 3});
-         },
-         Refusal::FixedKey},
-        {[](KeyEditor& it) {
-             return it.swap(pair, {1, 0}, {0, 0});
-         },
-         Refusal::FixedKey},
-        {[](KeyEditor& it) {
-             return it.copyTo({{1, 2}, {2, 2}}, {1, 2}, {0, 1});
-         },
-         Refusal::FixedKey},
-        {[](KeyEditor& it) {
-             return it.paste({{0, 1}});
-         },
-         Refusal::FixedKey},
-        {[](KeyEditor& it) {
-             return it.cut({{1, 0}, {0, 0}});
-         },
-         Refusal::FixedKey},
-        {[](KeyEditor& it) {
-             return it.swap(pair, {1, 1}, {1, 0});
-         },
-         Refusal::Outside},
-        {[](KeyEditor& it) {
-             return it.paste({{9, 15}});
-         },
-         Refusal::Outside},
-        {[](KeyEditor& it) {
-             return it.swapWithMarked({{1, 0}});
-         },
-         Refusal::NoKeys},
-    };
-    for (const auto& [change, refusal] : cases) {
-        EXPECT_EQ(change(editor), refusal);
+    for (const auto& [change, keysChanged, to, refusal] : refused) {
+        EXPECT_EQ(change(editor, keysChanged, to), refusal);
         EXPECT_EQ(keys(), untouched);
         EXPECT_FALSE(editor.canUndo());
     }

@@ -7,16 +7,8 @@
 #include "tests/support/RecordingBoxes.h"
 #include "ui/ValueList.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QStatusBar>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 namespace norvane::keys
 {

@@ -15,6 +15,7 @@ namespace norvane::keys::test
 {
 
 using norvane::test::failureOf;
+using norvane::test::failureTextOf;
 
 using FieldValue = std::pair<const char*, store::Value>;
 

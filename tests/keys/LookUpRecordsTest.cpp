@@ -12,6 +12,7 @@ namespace
 
 using namespace Qt::Literals::StringLiterals;
 using test::failureOf;
+using test::failureTextOf;
 using test::FieldValue;
 using test::text;
 using test::whole;
@@ -63,27 +64,28 @@ protected:
     test::KeyShop m_shop;
 };
 
+struct ShownLine {
+    int type;
+    const char* code;
+    const char* shown; ///< type, code, word, item
+};
+const ShownLine shownLines[] = {
+    {0, "1001", "0|000000000000001001|PLU|000000000000001001\rCola"},
+    {1, "000000000000001001", "1|000000000000001001|Condiment|000000000000001001\rCola"},
+    {0, "123456789012345678", "0|123456789012345678|PLU|123456789012345678\rLong"},
+    {2, "18", "2|18|Function|CASH"},
+    {0, "1002", "0|0|PLU|0"},
+    {1, "1002", "1|0|Condiment|0"},
+    {2, "19", "0|0|Function|0"},
+    {2, "999999999999999999", "0|0|Function|0"},
+    {3, "1001", "0|0|Not Used|0"},
+    {-1, "18", "0|0|Not Used|0"},
+};
+
 TEST_F(LookUpRecordsTest, ShowsEachLineByItsTypeAndDropsWhatIsGone)
 {
-    struct Case {
-        int type;
-        const char* code;
-        const char* shown; ///< type, code, word, item
-    };
-    const Case cases[] = {
-        {0, "1001", "0|000000000000001001|PLU|000000000000001001\rCola"},
-        {1, "000000000000001001", "1|000000000000001001|Condiment|000000000000001001\rCola"},
-        {0, "123456789012345678", "0|123456789012345678|PLU|123456789012345678\rLong"},
-        {2, "18", "2|18|Function|CASH"},
-        {0, "1002", "0|0|PLU|0"},
-        {1, "1002", "1|0|Condiment|0"},
-        {2, "19", "0|0|Function|0"},
-        {2, "999999999999999999", "0|0|Function|0"},
-        {3, "1001", "0|0|Not Used|0"},
-        {-1, "18", "0|0|Not Used|0"},
-    };
     std::map<int, std::pair<int, const char*>> lines;
-    for (const Case& each : cases)
+    for (const ShownLine& each : shownLines)
         lines[static_cast<int>(lines.size()) + 1] = {each.type, each.code};
     addLookUp(1, lines);
     m_shop.execute("update wlu set wlutype11 = null, codenumber12 = null");
@@ -95,8 +97,8 @@ TEST_F(LookUpRecordsTest, ShowsEachLineByItsTypeAndDropsWhatIsGone)
             .join(u'|')
             .toStdString();
     };
-    for (std::size_t line = 0; line < std::size(cases); ++line)
-        EXPECT_EQ(shown(line), cases[line].shown) << line;
+    for (std::size_t line = 0; line < std::size(shownLines); ++line)
+        EXPECT_EQ(shown(line), shownLines[line].shown) << line;
     EXPECT_EQ(shown(10), "0|0|Not Used|0");
     EXPECT_EQ(shown(11), "0|0|PLU|0");
     EXPECT_EQ(lookUp.lines.size(), 50U);
@@ -151,13 +153,13 @@ TEST_F(LookUpRecordsTest, StoresWholeOrNotAtAll)
 
 TEST_F(LookUpRecordsTest, TellsWhatToUploadWhenItCannotOpen)
 {
-    const auto opened = [&]() -> QString {
-        try {
+    const auto opened = [&] {
+        QString lines;
+        const QString told = failureTextOf([&] {
             LookUpRecords records(m_shop.open());
-            return QString::number(records.read().lines.size());
-        } catch (const RuntimeFailure& failure) {
-            return QString::number(failure.number()) + u' ' + failure.text();
-        }
+            lines = QString::number(records.read().lines.size());
+        });
+        return told + lines;
     };
     EXPECT_EQ(opened(),
               u"3021 No current record. Table wlu is empty. Upload Window Look Up's from the ECR first."_s);
