@@ -72,6 +72,36 @@ TEST(Transfer, bringsTheMemoryUnderTheSpellingThatIsThere)
     EXPECT_EQ(bench.read("work/MEM.dat"), bench.read("bank/1/52.dat"));
 }
 
+TEST(Transfer, refusesWhatDoesNotFitTheRegister)
+{
+    const ToolBench bench;
+    const auto good = bench.read("bank/1/70.dat");
+    const std::pair<QByteArray, const char*> files[] = {{"", "3"},
+                                                        {"Hot Drinks  ,40,40\r\n", "3"},
+                                                        {bench.read("bank/1/58.dat"), "3"},
+                                                        {good.chopped(1), "4"},
+                                                        {good + 'x', "4"},
+                                                        {QByteArray(good).replace(40, 1, "x"), "11"}};
+    for (const auto& [bytes, result] : files) {
+        bench.write("work/70.DAT", bytes);
+        EXPECT_EQ(bench.comm("s9 F1 1T c1 N70.DAT -D 70"), result) << bytes.size();
+        EXPECT_EQ(bench.read("bank/1/70.dat"), good) << bytes.size();
+    }
+}
+
+TEST(Faults, aClearThatBreaksAtTheSecondRegisterLeavesItsSales)
+{
+    const ToolBench bench(2);
+    for (const char* totals : {"bank/1/consolidated", "bank/2/consolidated"}) {
+        QDir().mkpath(bench.path(totals));
+        bench.write(QByteArray(totals) + "/190.txt", "1,2.5\r\n");
+    }
+    bench.write("bank/faults.ini", "[Clear]\nCommand=clear\nRegister=2\nResult=15\n");
+    EXPECT_EQ(bench.comm("9600 F1 2T -C"), "15");
+    EXPECT_FALSE(bench.has("bank/1/consolidated/190.txt"));
+    EXPECT_TRUE(bench.has("bank/2/consolidated/190.txt"));
+}
+
 /// Registers that are off or busy are met by the exchanges and collections.
 TEST(Transfer, answersForWhatTheRegisterIsAndHolds)
 {
