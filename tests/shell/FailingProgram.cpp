@@ -3,10 +3,7 @@
 #include "shell/Program.h"
 #include "ui/MessageBoxes.h"
 
-#include <QDialog>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <cstdio>
 

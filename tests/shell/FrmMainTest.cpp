@@ -5,15 +5,9 @@
 #include "shell/MainStatusBar.h"
 #include "tests/shell/ShellFixture.h"
 
-#include <QLabel>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 namespace norvane::shell
 {

@@ -5,10 +5,8 @@
 #include "tests/platform/FullDisk.h"
 #include "tests/shell/ShellFixture.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
+#include <QtWidgets>
 
 namespace norvane::shell
 {

@@ -79,21 +79,22 @@ const QString noMemory = u"You must upload the data from the Velmar"_s;
 const QString noCards = u"You must upload the Card Catergory file from the ECR"_s;
 const QString noHotlist = u"You must upload the Hot List file from the ECR"_s;
 
+const struct {
+    int memoryLength;
+    QLatin1StringView entry;
+    QStringList shown;
+} cardEntries[] = {
+    {77, "CardCat"_L1, {tooOld}},           {77, "Hotlist"_L1, {tooOld}}, {78, "CardCat"_L1, {noCards}},
+    {0, "CardCat"_L1, {noMemory, noCards}}, {78, "PLUMENU"_L1, {}},       {78, "Hotlist"_L1, {noHotlist}},
+};
+
 TEST_F(ScreenChoiceTest, CardEntriesAskFirmwareAndTable)
 {
     EXPECT_EQ(failureOf([this] { opens("CardCat"_L1); }), 53) << "no memory file";
     setMemoryFile(78);
     EXPECT_EQ(failureOf([this] { opens("CardCat"_L1); }), 53) << "no database";
     makeCustomerDatabase();
-    const struct {
-        int memoryLength;
-        QLatin1StringView entry;
-        QStringList shown;
-    } rows[] = {
-        {77, "CardCat"_L1, {tooOld}},           {77, "Hotlist"_L1, {tooOld}}, {78, "CardCat"_L1, {noCards}},
-        {0, "CardCat"_L1, {noMemory, noCards}}, {78, "PLUMENU"_L1, {}},       {78, "Hotlist"_L1, {noHotlist}},
-    };
-    for (const auto& row : rows) {
+    for (const auto& row : cardEntries) {
         setMemoryFile(row.memoryLength);
         EXPECT_EQ(opens(row.entry), row.shown.empty()) << row.entry.data();
         EXPECT_TRUE(row.shown.empty() ||

@@ -6,13 +6,8 @@
 #include "shell/MainStatusBar.h"
 #include "tests/shell/ShellFixture.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <deque>
 
