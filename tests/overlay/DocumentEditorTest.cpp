@@ -135,19 +135,20 @@ struct Step {
     int left, right, up, down;
 };
 
+// clang-format off
+const Step steps[] = {
+    {Keyboard::Dorvik,   4,    4,  34,   3,   5},  // line 2 of the first key
+    {Keyboard::Dorvik,   3,    3,  33,   2,   4},  // line 1 of the second
+    {Keyboard::Dorvik,  379, 352, 401, 378, 380},  // the 4 of the numeric keys
+    {Keyboard::Dorvik,  348, 318, 378, 347, 349},  // beside the 7
+    {Keyboard::Velmar,  482, 443, 482, 481, 482},  // the last cell
+    {Keyboard::Quelmont, 0,    0,  18,   0,   1},
+    {Keyboard::Quelmont, 72,  54,  90,  72,  73},  // above the first wide keys
+};
+// clang-format on
+
 TEST(CellOrderTest, ArrowsLeadToTheNearestCellAndReadingGoesKeyByKey)
 {
-    // clang-format off
-    const Step steps[] = {
-        {Keyboard::Dorvik,   4,    4,  34,   3,   5},  // line 2 of the first key
-        {Keyboard::Dorvik,   3,    3,  33,   2,   4},  // line 1 of the second
-        {Keyboard::Dorvik,  379, 352, 401, 378, 380},  // the 4 of the numeric keys
-        {Keyboard::Dorvik,  348, 318, 378, 347, 349},  // beside the 7
-        {Keyboard::Velmar,  482, 443, 482, 481, 482},  // the last cell
-        {Keyboard::Quelmont, 0,    0,  18,   0,   1},
-        {Keyboard::Quelmont, 72,  54,  90,  72,  73},  // above the first wide keys
-    };
-    // clang-format on
     for (const Step& step : steps) {
         const auto to = [&](Direction direction) {
             return neighbour(layoutOf(step.keyboard), step.from, direction);

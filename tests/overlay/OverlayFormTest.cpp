@@ -8,15 +8,9 @@
 #include "tests/support/RecordingBoxes.h"
 
 #include <gtest/gtest.h>
-#include <QAction>
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPrinter>
-#include <QRegularExpression>
-#include <QStatusBar>
 #include <QTest>
-#include <QToolButton>
+#include <QtWidgets>
 
 namespace norvane::overlay
 {
@@ -110,17 +104,18 @@ protected:
     std::optional<OverlayForm> m_form;
 };
 
+const std::pair<Keyboard, const char*> askedFiles[] = {
+    {Keyboard::Dorvik, "New|C|Keyboard Files (*.Dorvik)|Velmar;Open|C|Keyboard Files (*.Dorvik)|;"
+                       "Save|C|Keyboard Files (*.Dorvik)|Velmar"},
+    {Keyboard::Velmar, "New|C|Keyboard Files (*.Velmar)|Velmar;Open|C|Keyboard Files (*.Velmar)|;"
+                       "Save|C|Keyboard Files (*.Velmar)|Velmar"},
+    {Keyboard::Quelmont, "New|/app|Keyboard Files (*.ky4)|ky4;Open|C|Keyboard Files (*.ky4)|;"
+                         "Save|C|Keyboard Files (*.ky4)|ky4"},
+};
+
 TEST_F(OverlayFormTest, AsksForFilesAsEachKeyboardHasThem)
 {
-    const std::pair<Keyboard, const char*> rows[] = {
-        {Keyboard::Dorvik, "New|C|Keyboard Files (*.Dorvik)|Velmar;Open|C|Keyboard Files (*.Dorvik)|;"
-                           "Save|C|Keyboard Files (*.Dorvik)|Velmar"},
-        {Keyboard::Velmar, "New|C|Keyboard Files (*.Velmar)|Velmar;Open|C|Keyboard Files (*.Velmar)|;"
-                           "Save|C|Keyboard Files (*.Velmar)|Velmar"},
-        {Keyboard::Quelmont, "New|/app|Keyboard Files (*.ky4)|ky4;Open|C|Keyboard Files (*.ky4)|;"
-                             "Save|C|Keyboard Files (*.ky4)|ky4"},
-    };
-    for (const auto& [keyboard, expected] : rows) {
+    for (const auto& [keyboard, expected] : askedFiles) {
         open(keyboard);
         m_dialogs.asked.clear();
         for (const char* entry : {"New", "Open", "Save"})
@@ -219,16 +214,17 @@ TEST_F(OverlayFormTest, OffersTheColoursUsedLast)
     EXPECT_EQ(sample.palette().color(QPalette::WindowText), QColor(160, 0, 0));
 }
 
+const std::pair<Qt::Key, int> keySteps[] = {
+    {Qt::Key_Down, 1},   {Qt::Key_Return, 2}, {Qt::Key_Tab, 30},   {Qt::Key_Right, 60},
+    {Qt::Key_Down, 61},  {Qt::Key_Left, 31},  {Qt::Key_Enter, 32}, {Qt::Key_Backtab, 31},
+    {Qt::Key_Right, 61}, {Qt::Key_Right, 91}, {Qt::Key_Up, 90},    {Qt::Key_Up, 90},
+};
+
 TEST_F(OverlayFormTest, WalksByKeysAndTakesOnlyWhatARegisterHas)
 {
     open(Keyboard::Dorvik);
     EXPECT_EQ(focused(), 0);
-    const std::pair<Qt::Key, int> steps[] = {
-        {Qt::Key_Down, 1},   {Qt::Key_Return, 2}, {Qt::Key_Tab, 30},   {Qt::Key_Right, 60},
-        {Qt::Key_Down, 61},  {Qt::Key_Left, 31},  {Qt::Key_Enter, 32}, {Qt::Key_Backtab, 31},
-        {Qt::Key_Right, 61}, {Qt::Key_Right, 91}, {Qt::Key_Up, 90},    {Qt::Key_Up, 90},
-    };
-    for (const auto& [key, expected] : steps) {
+    for (const auto& [key, expected] : keySteps) {
         QTest::keyClick(QApplication::focusWidget(), key);
         EXPECT_EQ(focused(), expected) << key;
     }

@@ -6,12 +6,8 @@
 #include "tests/support/FormTest.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QLabel>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 using namespace Qt::Literals::StringLiterals;
 
