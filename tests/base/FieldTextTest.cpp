@@ -8,17 +8,18 @@ namespace norvane
 namespace
 {
 
+const struct {
+    std::optional<QString> value;
+    int width;
+    int mode;
+    const char16_t* field;
+} fieldTexts[] = {{u" 12 "_s, 4, 0, u"0012"},  {u"123456"_s, 4, 0, u"3456"}, {{}, 3, 0, u"000"},
+                  {u"  ab "_s, 4, 1, u"ab  "}, {u"123456"_s, 4, 1, u"1234"}, {u"ab"_s, 5, 2, u"  ab "},
+                  {u"ab"_s, 7, 99, u"  ab   "}};
+
 TEST(FieldTextTest, TextsAreBroughtToTheFormOfRecords)
 {
-    const struct {
-        std::optional<QString> value;
-        int width;
-        int mode;
-        const char16_t* field;
-    } rows[] = {{u" 12 "_s, 4, 0, u"0012"},  {u"123456"_s, 4, 0, u"3456"}, {{}, 3, 0, u"000"},
-                {u"  ab "_s, 4, 1, u"ab  "}, {u"123456"_s, 4, 1, u"1234"}, {u"ab"_s, 5, 2, u"  ab "},
-                {u"ab"_s, 7, 99, u"  ab   "}};
-    for (auto [value, width, mode, field] : rows) {
+    for (auto [value, width, mode, field] : fieldTexts) {
         EXPECT_EQ(JustifyField(value, width, mode), field);
         EXPECT_EQ(value, QString::fromUtf16(field)) << "the caller's own value";
     }

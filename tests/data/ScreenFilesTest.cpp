@@ -14,15 +14,8 @@
 #include "ui/TextBox.h"
 #include "ui/ValueList.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QLabel>
-#include <QMdiSubWindow>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QScrollBar>
-#include <QSet>
 #include <QTest>
+#include <QtWidgets>
 
 #include <algorithm>
 

@@ -4,12 +4,8 @@
 #include "tests/platform/TestFolder.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <QDialog>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 using namespace std::chrono_literals;
 

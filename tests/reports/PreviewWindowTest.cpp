@@ -7,17 +7,9 @@
 #include "tests/support/OtherPrograms.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <QAbstractScrollArea>
-#include <QAction>
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
 #include <QPrinter>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QStatusBar>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace norvane::test
 {

@@ -8,15 +8,9 @@
 #include "tests/support/OtherPrograms.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <QApplication>
-#include <QDialog>
-#include <QLabel>
-#include <QMainWindow>
 #include <QPrinter>
-#include <QProgressDialog>
-#include <QPushButton>
-#include <QStatusBar>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace norvane::test
 {

@@ -135,6 +135,20 @@ TEST_F(SalesReports, ThePriceListShowsEuroPricesWhereAnyIsSet)
     EXPECT_EQ(data.text(6, 4), u"0.335"_s);
 }
 
+const std::tuple<const char*, const char*, const char*> periods[] = {
+    {"in YearToDate", "2028-02-29",
+     "1|Period 1|60|6.00|8.4\n2|Period 2|60|65.17|91.6\n# |Total|120|71.17|100.0"},
+    {"in YearToDate", "2028-03-01",
+     "1|Period 1|61|6.10|8.6\n2|Period 2|61|65.24|91.4\n# |Total|122|71.34|100.0"},
+    {"in YearToDate", "2028-01-01", "1|Period 1|1|0.10|58.8\n2|Period 2|1|0.07|41.2\n# |Total|2|0.17|100.0"},
+    {"in monthtodate", "2028-02-29",
+     "1|Period 1|29|2.90|8.7\n2|Period 2|29|30.45|91.3\n# |Total|58|33.35|100.0"},
+    {"in WeekToDateFromSun", "2028-01-01",
+     "1|Period 1|7|0.70|5.5\n2|Period 2|7|12.04|94.5\n# |Total|14|12.74|100.0"},
+    {"in date(2027,11,30) to date(2028,1,1)", "2028-03-01",
+     "1|Period 1|33|3.30|8.2\n2|Period 2|33|36.89|91.8\n# |Total|66|40.19|100.0"},
+};
+
 /// Periods that totals of months serve show what the rows themselves add up to.
 TEST_F(SalesReports, APeriodOfMonthsShowsWhatItsDaysAddUpTo)
 {
@@ -143,22 +157,8 @@ TEST_F(SalesReports, APeriodOfMonthsShowsWhatItsDaysAddUpTo)
         "insert into TIMESALES (ID, SALESDATE, QUANTITY, VALUE) with recursive days(day) as "
         "(select '2027-11-01' union all select date(day, '+1 day') from days where day < '2028-03-01') "
         "select 1, day, 1, 0.1 from days union all select 2, day, 1, 0.07 * strftime('%d', day) from days");
-    const std::tuple<const char*, const char*, const char*> rows[] = {
-        {"in YearToDate", "2028-02-29",
-         "1|Period 1|60|6.00|8.4\n2|Period 2|60|65.17|91.6\n# |Total|120|71.17|100.0"},
-        {"in YearToDate", "2028-03-01",
-         "1|Period 1|61|6.10|8.6\n2|Period 2|61|65.24|91.4\n# |Total|122|71.34|100.0"},
-        {"in YearToDate", "2028-01-01",
-         "1|Period 1|1|0.10|58.8\n2|Period 2|1|0.07|41.2\n# |Total|2|0.17|100.0"},
-        {"in monthtodate", "2028-02-29",
-         "1|Period 1|29|2.90|8.7\n2|Period 2|29|30.45|91.3\n# |Total|58|33.35|100.0"},
-        {"in WeekToDateFromSun", "2028-01-01",
-         "1|Period 1|7|0.70|5.5\n2|Period 2|7|12.04|94.5\n# |Total|14|12.74|100.0"},
-        {"in date(2027,11,30) to date(2028,1,1)", "2028-03-01",
-         "1|Period 1|33|3.30|8.2\n2|Period 2|33|36.89|91.8\n# |Total|66|40.19|100.0"},
-    };
     QStringList steps;
-    for (const auto& [formula, today, lines] : rows) {
+    for (const auto& [formula, today, lines] : periods) {
         auto request = shop.request(ReportShop::installed("timesales.rpt"),
                                     u"{TIMESALES.SALESDATE} "_s + QLatin1String(formula));
         request.now = QDate::fromString(QLatin1String(today), Qt::ISODate).startOfDay();

@@ -5,14 +5,8 @@
 #include "tests/road/Shop.h"
 #include "tests/support/FormTest.h"
 
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialog>
-#include <QLineEdit>
-#include <QProcess>
-#include <QTableView>
 #include <QTest>
+#include <QtWidgets>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -7,16 +7,8 @@
 #include "store/Database.h"
 #include "store/Recordset.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QDialog>
-#include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QProcess>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 namespace norvane::test
 {

@@ -5,13 +5,8 @@
 #include "tests/support/RecordingBoxes.h"
 
 #include <gtest/gtest.h>
-#include <QApplication>
-#include <QCalendarWidget>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTest>
-#include <QTimer>
-#include <QWindow>
+#include <QtWidgets>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -67,64 +67,65 @@ protected:
     int m_imports = 0;
 };
 
+const QByteArray zeros = QByteArray("0,0\r\n").repeated(117);
+const ImportCase goodTexts[] = {
+    {"zeros are passed over but count", "FileFinSales", "3,0\r\n0,0\r\n0,0.00\r\n-1,-2.5\r\n",
+     "1|24/11/2026|3|0\n4|24/11/2026|-1|-2.5"},
+    {"values run over line ends", "FileTimeSales", "1\r\n2,3\n4\r5.5, 6",
+     "1|24/11/2026|1|2\n2|24/11/2026|3|4\n3|24/11/2026|5.5|6"},
+    {"blanks, quotes and other spellings", "FileTimeSales",
+     "  7 , \"8\"\r\n\" 1.25 \",+3\r\n\t1E2,.5\r\n\r\n  \r\n\x1A\r\n\x1A ",
+     "1|24/11/2026|7|8\n2|24/11/2026|1.25|3\n3|24/11/2026|100|0.5"},
+    {"an empty file", "FileFinSales", "", ""},
+    {"a block for each clerk", "FileClerkSales", "5,6\r\n" + zeros + zeros + "7,8\r\n9,10\r\n",
+     "1|1|24/11/2026|5|6\n118|2|24/11/2026|7|8\n1|3|24/11/2026|9|10"},
+    {"a hundredfold, in decimal", "FilemixSales", "3\r\n0\r\n0.07\r\n1.115\r\n",
+     "1|24/11/2026|300|0\n3|24/11/2026|7|0\n4|24/11/2026|111.5|0"},
+    {"zeros of PLUs are rows", "FilePLUSales", "000000000000000012,0,0,0,0\r\n\"A,1\",1,2,3,4\r\n",
+     "000000000000000012|24/11/2026|0|0|0|0|0|0|0|0|0|0|0|0\n"
+     "A,1|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0"},
+    {"a last digit of 0 means one level, whatever the first", "FilePLUSales", "7,1,2,3,4\r\n",
+     "7|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0", '\x90'},
+    {"two levels", "FilePLUSales", "7,1,2,3,4,5,6\r\n", "7|24/11/2026|1|2|3|4|5|6|0|0|0|0|0|0", '\x21'},
+    {"three levels", "FilePLUSales", "7,1,2,3,4,5,6,7,8\r\n", "7|24/11/2026|1|2|3|4|5|6|7|8|0|0|0|0", '\x31'},
+    {"four levels", "FilePLUSales", "7,1,2,3,4,5,6,7,8,9,10\r\n", "7|24/11/2026|1|2|3|4|5|6|7|8|9|10|0|0",
+     '\x41'},
+    {"no PLUs under a stamp without a layout", "FilePLUSales", "", "", '\x51'},
+};
+
 TEST_F(PollImport, TurnsRecordsIntoRows)
 {
-    const QByteArray zeros = QByteArray("0,0\r\n").repeated(117);
-    const ImportCase cases[] = {
-        {"zeros are passed over but count", "FileFinSales", "3,0\r\n0,0\r\n0,0.00\r\n-1,-2.5\r\n",
-         "1|24/11/2026|3|0\n4|24/11/2026|-1|-2.5"},
-        {"values run over line ends", "FileTimeSales", "1\r\n2,3\n4\r5.5, 6",
-         "1|24/11/2026|1|2\n2|24/11/2026|3|4\n3|24/11/2026|5.5|6"},
-        {"blanks, quotes and other spellings", "FileTimeSales",
-         "  7 , \"8\"\r\n\" 1.25 \",+3\r\n\t1E2,.5\r\n\r\n  \r\n\x1A\r\n\x1A ",
-         "1|24/11/2026|7|8\n2|24/11/2026|1.25|3\n3|24/11/2026|100|0.5"},
-        {"an empty file", "FileFinSales", "", ""},
-        {"a block for each clerk", "FileClerkSales", "5,6\r\n" + zeros + zeros + "7,8\r\n9,10\r\n",
-         "1|1|24/11/2026|5|6\n118|2|24/11/2026|7|8\n1|3|24/11/2026|9|10"},
-        {"a hundredfold, in decimal", "FilemixSales", "3\r\n0\r\n0.07\r\n1.115\r\n",
-         "1|24/11/2026|300|0\n3|24/11/2026|7|0\n4|24/11/2026|111.5|0"},
-        {"zeros of PLUs are rows", "FilePLUSales", "000000000000000012,0,0,0,0\r\n\"A,1\",1,2,3,4\r\n",
-         "000000000000000012|24/11/2026|0|0|0|0|0|0|0|0|0|0|0|0\n"
-         "A,1|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0"},
-        {"a last digit of 0 means one level, whatever the first", "FilePLUSales", "7,1,2,3,4\r\n",
-         "7|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0", '\x90'},
-        {"two levels", "FilePLUSales", "7,1,2,3,4,5,6\r\n", "7|24/11/2026|1|2|3|4|5|6|0|0|0|0|0|0", '\x21'},
-        {"three levels", "FilePLUSales", "7,1,2,3,4,5,6,7,8\r\n", "7|24/11/2026|1|2|3|4|5|6|7|8|0|0|0|0",
-         '\x31'},
-        {"four levels", "FilePLUSales", "7,1,2,3,4,5,6,7,8,9,10\r\n", "7|24/11/2026|1|2|3|4|5|6|7|8|9|10|0|0",
-         '\x41'},
-        {"no PLUs under a stamp without a layout", "FilePLUSales", "", "", '\x51'},
-    };
-    for (const ImportCase& c : cases)
+    for (const ImportCase& c : goodTexts)
         import(c);
 }
 
+const struct {
+    const char* text; ///< behind a good record
+    int failure;
+    const char* told;
+} badAmounts[] = {
+    {"3\r\n", 62, "poll190.txt, record 2"}, {"abc,3\r\n", 13, "\"abc\""}, {"12x,3\r\n", 13, "12x"},
+    {"nan,inf\r\n", 13, "record 2"},        {",3\r\n", 13, "record 2"},   {"3,\r\n", 13, "record 2"},
+    {"\r\n3,4\r\n", 13, "record 2"},        {"3,\"4", 13, "record 2"},    {"3,1e999\r\n", 6, "record 2"},
+};
+const std::string firstPlu = "7|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0";
+const ImportCase badRecords[] = {
+    {"comma too many", "FileFinSales", "1,2,\r\n3,4\r\n", "1|24/11/2026|1|2", '\x11', 13, "record 2"},
+    {"mix", "FilemixSales", "x", "", '\x11', 13, "poll218.txt, record 1"},
+    {"short", "FilePLUSales", "7,1,2,3,4\r\n8,1", firstPlu, '\x11', 62, "poll194.txt, record 2"},
+    {"without a code", "FilePLUSales", "7,1,2,3,4\r\n,1,2,3,4", firstPlu, '\x11', 13, "record 2"},
+    {"long code", "FilePLUSales", "7,1,2,3,4\r\n1234567890123456789,1,2,3,4", firstPlu, '\x11', 3163,
+     "record 2"},
+    {"a stamp without a layout", "FilePLUSales", "7,1,2,3,4", "", '\x51', 3314, "51"},
+};
+
 TEST_F(PollImport, EndsAtABadRecordAndKeepsThoseAhead)
 {
-    const struct {
-        const char* text; ///< behind a good record
-        int failure;
-        const char* told;
-    } amounts[] = {
-        {"3\r\n", 62, "poll190.txt, record 2"}, {"abc,3\r\n", 13, "\"abc\""}, {"12x,3\r\n", 13, "12x"},
-        {"nan,inf\r\n", 13, "record 2"},        {",3\r\n", 13, "record 2"},   {"3,\r\n", 13, "record 2"},
-        {"\r\n3,4\r\n", 13, "record 2"},        {"3,\"4", 13, "record 2"},    {"3,1e999\r\n", 6, "record 2"},
-    };
-    for (const auto& [text, failure, told] : amounts) {
+    for (const auto& [text, failure, told] : badAmounts) {
         import(
             {text, "FileFinSales", QByteArray("1,2\r\n") + text, "1|24/11/2026|1|2", '\x11', failure, told});
     }
-    const std::string firstPlu = "7|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0";
-    const ImportCase others[] = {
-        {"comma too many", "FileFinSales", "1,2,\r\n3,4\r\n", "1|24/11/2026|1|2", '\x11', 13, "record 2"},
-        {"mix", "FilemixSales", "x", "", '\x11', 13, "poll218.txt, record 1"},
-        {"short", "FilePLUSales", "7,1,2,3,4\r\n8,1", firstPlu, '\x11', 62, "poll194.txt, record 2"},
-        {"without a code", "FilePLUSales", "7,1,2,3,4\r\n,1,2,3,4", firstPlu, '\x11', 13, "record 2"},
-        {"long code", "FilePLUSales", "7,1,2,3,4\r\n1234567890123456789,1,2,3,4", firstPlu, '\x11', 3163,
-         "record 2"},
-        {"a stamp without a layout", "FilePLUSales", "7,1,2,3,4", "", '\x51', 3314, "51"},
-    };
-    for (const ImportCase& c : others)
+    for (const ImportCase& c : badRecords)
         import(c);
 }
 

@@ -2,8 +2,6 @@
 #include "screens/GridControl.h"
 #include "tests/screens/ScreenFixture.h"
 
-#include <QLabel>
-
 namespace norvane::screens
 {
 namespace
@@ -78,20 +76,21 @@ TEST_F(GridTest, ReadsALongTableAsTheUserScrolls)
     EXPECT_EQ(rows("select PLUNUMBER from PLUDATA where PRICE1 = '7'"), "000000000000000699");
 }
 
+const std::tuple<int, const char*, const char*, const char*> entries[] = {
+    {2, "3.9", "3.9", "3.90"},
+    {2, "4,05", "4.05", "4.05"},
+    {2, "0007", "7", "7.00"},
+    {2, ".5", "0.5", "0.50"},
+    {2, "999999.99", "999999.99", "999999.99"},
+    {2, "", "0", "0.00"},
+    {3, "12", "12", "12"},
+    {3, "", "null", ""}};
+
 TEST_F(GridTest, CellsAreStoredAtOnce)
 {
-    const std::tuple<int, const char*, const char*, const char*> cases[] = {
-        {2, "3.9", "3.9", "3.90"},
-        {2, "4,05", "4.05", "4.05"},
-        {2, "0007", "7", "7.00"},
-        {2, ".5", "0.5", "0.50"},
-        {2, "999999.99", "999999.99", "999999.99"},
-        {2, "", "0", "0.00"},
-        {3, "12", "12", "12"},
-        {3, "", "null", ""}};
     QString told;
     QObject::connect(&*form, &OptionForm::told, &*form, [&told](const QString& text) { told = text; });
-    for (const auto& [column, keys, kept, shown] : cases) {
+    for (const auto& [column, keys, kept, shown] : entries) {
         enter(0, column, keys);
         EXPECT_EQ(stored(column == 2 ? "PRICE1" : "GROUPNO"), kept);
         EXPECT_EQ(cell(0, column).data().toString().toStdString(), shown);

@@ -4,9 +4,6 @@
 #include "tests/screens/ScreenFixture.h"
 #include "ui/ValueList.h"
 
-#include <QCheckBox>
-#include <QLabel>
-
 namespace norvane::screens
 {
 namespace
@@ -141,14 +138,12 @@ const struct {
 TEST_F(OptionFormBuildTest, FaultsFailWithTheNameOfTheFileAndOfTheKey)
 {
     for (const auto& [text, number, named] : faults) {
-        try {
+        const QString told = test::failureTextOf([&, text = text] {
             open(text.startsWith('[') ? text : groups + "[Field1]\nControlType=" + text + "\n");
-            ADD_FAILURE() << text.data();
-        } catch (const RuntimeFailure& failure) {
-            EXPECT_EQ(failure.number(), number) << text.data();
-            for (const QString& part : {m_screenFilePath, QString::fromLatin1(named)})
-                EXPECT_TRUE(failure.text().contains(part)) << failure.what();
-        }
+        });
+        for (const QString& part :
+             {QString::number(number) + u' ', m_screenFilePath, QString::fromLatin1(named)})
+            EXPECT_TRUE(told.contains(part)) << text.data() << told.toStdString();
     }
     EXPECT_TRUE(m_boxes.shown.empty());
     execute("delete * from GROUPS");

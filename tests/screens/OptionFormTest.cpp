@@ -3,10 +3,6 @@
 #include "tests/screens/ScreenFixture.h"
 #include "ui/ValueList.h"
 
-#include <QCheckBox>
-#include <QElapsedTimer>
-#include <QLabel>
-
 namespace norvane::screens
 {
 namespace

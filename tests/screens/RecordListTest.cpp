@@ -1,9 +1,6 @@
 // The list beside a screen: keys and clicks in, rows of the list and the record on the screen out.
 #include "tests/screens/ScreenFixture.h"
 
-#include <QLabel>
-#include <QTableView>
-
 namespace norvane::screens
 {
 namespace
@@ -50,18 +47,18 @@ protected:
     Form form;
 };
 
+const std::pair<const char*, const char*> filters[] = {{"123", "123 Claret|1123 Cider"},
+                                                       {"12", "123 Claret|1123 Cider|5000 crème 12"},
+                                                       {"CRÈ", "5000 crème 12"},
+                                                       {"r", "5 Lager*|123 Claret|1123 Cider|5000 crème 12"},
+                                                       {"3C", ""}};
+
 TEST_F(RecordListTest, FiltersByAnyPartOfNumberOrTextAndGoesToTheChosenRecord)
 {
     toggleList();
     EXPECT_EQ(QApplication::focusWidget(), control(form, "ListFilter"));
     EXPECT_EQ(listed(), "5 Lager*|123 Claret|1123 Cider|5000 crème 12");
-    const std::pair<const char*, const char*> cases[] = {
-        {"123", "123 Claret|1123 Cider"},
-        {"12", "123 Claret|1123 Cider|5000 crème 12"},
-        {"CRÈ", "5000 crème 12"},
-        {"r", "5 Lager*|123 Claret|1123 Cider|5000 crème 12"},
-        {"3C", ""}};
-    for (const auto& [part, rows] : cases) {
+    for (const auto& [part, rows] : filters) {
         type(form, "ListFilter", part);
         EXPECT_EQ(listed(), rows) << part;
     }

@@ -8,11 +8,8 @@
 #include "tests/support/FormTest.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QLineEdit>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <memory>
 

@@ -84,15 +84,16 @@ TEST_F(MonthTotalsTest, GiveWhatTheRowsAddUpTo)
     EXPECT_EQ(answer(u"select exact_sum(VALUE) from "_s + m_totals.rows(twoYears, {u"value"_s})), "2.1");
 }
 
+const std::pair<const char*, const char*> changes[] = {
+    {"insert into CLERKSALES values (1, 1, '2028-01-15', 1, 1000000000000000.25)", "2027-12 2028-02"},
+    {"update CLERKSALES set VALUE = VALUE + 1 where SALESDATE = '2028-02-29'", "2027-12 2028-01"},
+    {"update CLERKSALES set SALESDATE = '2027-12-01' where SALESDATE = '2028-02-01'", "2028-01"},
+    {"delete from CLERKSALES where SALESDATE = '2027-12-31' and ID = 2", "2028-01 2028-02"},
+    {"insert into CLERKSALES values (1, 1, '2028-03-02', 1, 0.1)", "2027-12 2028-01 2028-02"},
+};
+
 TEST_F(MonthTotalsTest, LoseEveryMonthOfWhichARowChanges)
 {
-    const std::pair<const char*, const char*> changes[] = {
-        {"insert into CLERKSALES values (1, 1, '2028-01-15', 1, 1000000000000000.25)", "2027-12 2028-02"},
-        {"update CLERKSALES set VALUE = VALUE + 1 where SALESDATE = '2028-02-29'", "2027-12 2028-01"},
-        {"update CLERKSALES set SALESDATE = '2027-12-01' where SALESDATE = '2028-02-01'", "2028-01"},
-        {"delete from CLERKSALES where SALESDATE = '2027-12-31' and ID = 2", "2028-01 2028-02"},
-        {"insert into CLERKSALES values (1, 1, '2028-03-02', 1, 0.1)", "2027-12 2028-01 2028-02"},
-    };
     for (const auto& [sql, left] : changes) {
         addUpAll();
         runElsewhere(m_folder.path(), sql);

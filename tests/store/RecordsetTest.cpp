@@ -162,6 +162,25 @@ TEST_F(RecordsetTest, ADeletedRecordNeverBecomesAnotherThatComesLater)
     }
 }
 
+const struct {
+    const char* index;
+    Seek comparison;
+    Value key;
+    const char* found; ///< empty when there is none
+} seeks[] = {{"PLUNUMBER", Seek::Equal, text("02A"), "02a"},
+             {"primarykey", Seek::AtOrAfter, text("03"), "04a"},
+             {"plunumber", Seek::AtOrAfter, text(""), "010a"},
+             {"plunumber", Seek::AtOrAfter, text("05"), ""},
+             {"plunumber", Seek::Equal, text("02"), ""},
+             {"bygroup", Seek::Equal, text(" 10 "), "010a"},
+             {"bygroup", Seek::AtOrAfter, Value::number(2.5), "04a"},
+             {"bygroup", Seek::Equal, Value::number(2.5), ""},
+             {"bygroup", Seek::AtOrAfter, text("99999999999"), ""},
+             {"bygroup", Seek::AtOrAfter, text(""), "02a"},
+             {"bygroup", Seek::Equal, text(""), ""},
+             {"bylink", Seek::AtOrAfter, text("1000000000000000000003"), "04a"},
+             {"bylink", Seek::Equal, text("010000000000000000000010"), "010a"}};
+
 TEST_F(RecordsetTest, SeeksByTheCurrentIndex)
 {
     for (const std::string each : {"2", "4", "10"}) {
@@ -169,25 +188,7 @@ TEST_F(RecordsetTest, SeeksByTheCurrentIndex)
                         {"GROUPNO", Value::text(each)},
                         {"#OfCondiments", Value::text("100000000000000000000" + each)}});
     }
-    const struct {
-        const char* index;
-        Seek comparison;
-        Value key;
-        const char* found; ///< empty when there is none
-    } rows[] = {{"PLUNUMBER", Seek::Equal, text("02A"), "02a"},
-                {"primarykey", Seek::AtOrAfter, text("03"), "04a"},
-                {"plunumber", Seek::AtOrAfter, text(""), "010a"},
-                {"plunumber", Seek::AtOrAfter, text("05"), ""},
-                {"plunumber", Seek::Equal, text("02"), ""},
-                {"bygroup", Seek::Equal, text(" 10 "), "010a"},
-                {"bygroup", Seek::AtOrAfter, Value::number(2.5), "04a"},
-                {"bygroup", Seek::Equal, Value::number(2.5), ""},
-                {"bygroup", Seek::AtOrAfter, text("99999999999"), ""},
-                {"bygroup", Seek::AtOrAfter, text(""), "02a"},
-                {"bygroup", Seek::Equal, text(""), ""},
-                {"bylink", Seek::AtOrAfter, text("1000000000000000000003"), "04a"},
-                {"bylink", Seek::Equal, text("010000000000000000000010"), "010a"}};
-    for (const auto& [index, comparison, key, found] : rows) {
+    for (const auto& [index, comparison, key, found] : seeks) {
         m_records.setIndex(QString::fromUtf8(index));
         EXPECT_EQ(m_records.seek(comparison, key), *found != '\0') << index << ' ' << key.toUtf8();
         EXPECT_EQ(m_records.hasCurrent() ? number() : "", found) << index << ' ' << key.toUtf8();

@@ -36,52 +36,53 @@ TEST(Value, GivesTextNumberAndTruth)
     }
 }
 
+const Value longDigits = text("123456789012345678901234567890");
+const Value day = Value::date(QDate(2003, 2, 1));
+const struct {
+    const char* field;
+    Value given;
+    Value held;  ///< when it converts
+    int failure; ///< 0 when it does
+} conversions[] = {
+    {"GROUPNO", text(" 42 "), Value::whole(42), 0},
+    {"GROUPNO", text("2.5"), Value::whole(2), 0},
+    {"GROUPNO", Value::number(3.5), Value::whole(4), 0},
+    {"GROUPNO", Value::yesNo(true), Value::whole(-1), 0},
+    {"GROUPNO", text("   "), Value(), 0},
+    {"GROUPNO", text("12a"), {}, 3421},
+    {"GROUPNO", text("2147483648"), {}, 3421},
+    {"GROUPNO", Value::number(1e300), {}, 3421},
+    {"GROUPNO", day, {}, 3421},
+    {"ROUNDON%", text("12.50"), Value::number(12.5), 0},
+    {"rOuNdOn%", text("-1e3"), Value::number(-1000), 0},
+    {"ROUNDON%", text("inf"), {}, 3421},
+    {"ROUNDON%", Value::number(std::numeric_limits<double>::quiet_NaN()), {}, 3421},
+    {"#OfCondiments", longDigits, longDigits, 0},
+    {"#OfCondiments", text(" 0012 "), text("0012"), 0},
+    {"#OfCondiments", Value::whole(9007199254740993), text("9007199254740993"), 0},
+    {"#OfCondiments", text("1x"), {}, 3421},
+    {"TAX/x", Value::whole(7), Value::yesNo(true), 0},
+    {"TAX/x", text("Yes"), Value::yesNo(true), 0},
+    {"TAX/x", text("0"), Value::yesNo(false), 0},
+    {"TAX/x", text("maybe"), {}, 3421},
+    {"OPENEURO&LOCALDRAWER", text("1/2/2003"), day, 0},
+    {"OPENEURO&LOCALDRAWER", text("2003-02-01"), day, 0},
+    {"OPENEURO&LOCALDRAWER", text("31/2/2003"), {}, 3421},
+    {"OPENEURO&LOCALDRAWER", Value::date(QDate()), Value(), 0},
+    {"DESCRIPTION", text("Crème brûlée äöü"), text("Crème brûlée äöü"), 0},
+    {"DESCRIPTION", text("12345678901234567"), {}, 3163},
+    {"DESCRIPTION", text("Cola  "), text("Cola  "), 0},
+    {"DESCRIPTION", text(""), text(""), 0},
+    {"DESCRIPTION", Value::number(12.50), text("12.5"), 0},
+};
+
 /// What was stored is read by another connection, so that it is the file that tells it.
 TEST(Value, IsConvertedOrRefusedByItsField)
 {
-    const Value longDigits = text("123456789012345678901234567890");
-    const Value day = Value::date(QDate(2003, 2, 1));
-    const struct {
-        const char* field;
-        Value given;
-        Value held;  ///< when it converts
-        int failure; ///< 0 when it does
-    } rows[] = {
-        {"GROUPNO", text(" 42 "), Value::whole(42), 0},
-        {"GROUPNO", text("2.5"), Value::whole(2), 0},
-        {"GROUPNO", Value::number(3.5), Value::whole(4), 0},
-        {"GROUPNO", Value::yesNo(true), Value::whole(-1), 0},
-        {"GROUPNO", text("   "), Value(), 0},
-        {"GROUPNO", text("12a"), {}, 3421},
-        {"GROUPNO", text("2147483648"), {}, 3421},
-        {"GROUPNO", Value::number(1e300), {}, 3421},
-        {"GROUPNO", day, {}, 3421},
-        {"ROUNDON%", text("12.50"), Value::number(12.5), 0},
-        {"rOuNdOn%", text("-1e3"), Value::number(-1000), 0},
-        {"ROUNDON%", text("inf"), {}, 3421},
-        {"ROUNDON%", Value::number(std::numeric_limits<double>::quiet_NaN()), {}, 3421},
-        {"#OfCondiments", longDigits, longDigits, 0},
-        {"#OfCondiments", text(" 0012 "), text("0012"), 0},
-        {"#OfCondiments", Value::whole(9007199254740993), text("9007199254740993"), 0},
-        {"#OfCondiments", text("1x"), {}, 3421},
-        {"TAX/x", Value::whole(7), Value::yesNo(true), 0},
-        {"TAX/x", text("Yes"), Value::yesNo(true), 0},
-        {"TAX/x", text("0"), Value::yesNo(false), 0},
-        {"TAX/x", text("maybe"), {}, 3421},
-        {"OPENEURO&LOCALDRAWER", text("1/2/2003"), day, 0},
-        {"OPENEURO&LOCALDRAWER", text("2003-02-01"), day, 0},
-        {"OPENEURO&LOCALDRAWER", text("31/2/2003"), {}, 3421},
-        {"OPENEURO&LOCALDRAWER", Value::date(QDate()), Value(), 0},
-        {"DESCRIPTION", text("Crème brûlée äöü"), text("Crème brûlée äöü"), 0},
-        {"DESCRIPTION", text("12345678901234567"), {}, 3163},
-        {"DESCRIPTION", text("Cola  "), text("Cola  "), 0},
-        {"DESCRIPTION", text(""), text(""), 0},
-        {"DESCRIPTION", Value::number(12.50), text("12.5"), 0},
-    };
     const StoreFolder folder;
     Database database(folder.path());
     auto items = database.openTable(u"items"_s);
-    for (const auto& row : rows) {
+    for (const auto& row : conversions) {
         const QString field = QString::fromUtf8(row.field);
         database.execute(u"delete * from items"_s);
         items.addNew();

@@ -5,13 +5,9 @@
 #include "ui/ValueList.h"
 
 #include <gtest/gtest.h>
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QClipboard>
 #include <QSignalSpy>
 #include <QTest>
-#include <QToolTip>
-#include <QWheelEvent>
+#include <QtWidgets>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -3,13 +3,8 @@
 
 #include "tests/platform/TestFolder.h"
 
-#include <QApplication>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 namespace norvane::ui
 {
