@@ -3,13 +3,8 @@
 
 #include "tests/platform/TestFolder.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QFontDialog>
-#include <QLineEdit>
-#include <QRadioButton>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 namespace norvane::overlay
 {

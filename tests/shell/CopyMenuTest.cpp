@@ -4,9 +4,7 @@
 #include "store/Recordset.h"
 #include "tests/shell/ShellFixture.h"
 
-#include <QAction>
-#include <QListWidget>
-#include <QMenu>
+#include <QtWidgets>
 
 namespace norvane::shell
 {

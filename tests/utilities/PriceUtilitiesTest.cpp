@@ -5,10 +5,8 @@
 #include "shell/Openers.h"
 #include "tests/shell/ShellFixture.h"
 
-#include <QAction>
-#include <QMenuBar>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 namespace norvane::shell
 {
