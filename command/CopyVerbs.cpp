@@ -29,20 +29,20 @@ customers::SafetyCopy copyOf(const QString& customerPath, const QString& name)
 
 } // namespace
 
-void listCopies(const Session& session, const Invocation& words)
+void listCopies(const Workplace& workplace, const Invocation& words)
 {
-    const ApplicationValues values = takeCustomer(session, words.operands.front());
+    const ApplicationValues values = takeCustomer(workplace, words.operands.front());
     Listing listing({u"Name"_s, u"Made"_s, u"Reason"_s});
     for (const auto& copy : customers::safetyCopies(values.customerPath))
         listing.add({copy.name, copy.made, copy.reason});
-    session.show(listing);
+    workplace.show(listing);
 }
 
-void restore(const Session& session, const Invocation& words)
+void restore(const Workplace& workplace, const Invocation& words)
 {
-    const ApplicationValues values = takeCustomer(session, words.operands[0]);
+    const ApplicationValues values = takeCustomer(workplace, words.operands[0]);
     const auto copy = copyOf(values.customerPath, words.operands[1]);
-    const auto lock = lockFor(session, values);
+    const auto lock = lockFor(workplace, values);
     customers::restoreSafetyCopy(values.customerPath, copy);
 }
 

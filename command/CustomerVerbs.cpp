@@ -53,11 +53,11 @@ QVariant lastSales(const QString& database)
     return found.isValid() ? QVariant(found) : QVariant();
 }
 
-QVariantList customerRow(const Session& session, const QString& name)
+QVariantList customerRow(const Workplace& workplace, const QString& name)
 {
     ApplicationValues values;
-    values.appPath = session.appPath;
-    values.customerPath = existingPath(joinPath(session.appPath, name));
+    values.appPath = workplace.appPath;
+    values.customerPath = existingPath(joinPath(workplace.appPath, name));
     const auto exchange = customers::lastLogged(values.customerPath, {u"upload"_s, u"download"_s});
     QVariant sales;
     try {
@@ -105,22 +105,22 @@ QStringList faultySettings(const ApplicationValues& values)
 
 } // namespace
 
-void listCustomers(const Session& session, const Invocation& /*words*/)
+void listCustomers(const Workplace& workplace, const Invocation& /*words*/)
 {
     Listing listing({u"Name"_s, u"Model"_s, u"Registers"_s, u"Last exchange"_s, u"Last sales"_s});
     // Names as they are on disk: those of the window, in upper case, would have to be looked for.
-    const QDir folder(session.appPath);
+    const QDir folder(workplace.appPath);
     for (const QString& name :
          folder.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
         if (pathExists(customers::customerDatabase(folder.filePath(name))))
-            listing.add(customerRow(session, name));
+            listing.add(customerRow(workplace, name));
     }
-    session.show(listing);
+    workplace.show(listing);
 }
 
-void checkCustomer(const Session& session, const Invocation& words)
+void checkCustomer(const Workplace& workplace, const Invocation& words)
 {
-    const ApplicationValues values = takeCustomer(session, words.operands.front());
+    const ApplicationValues values = takeCustomer(workplace, words.operands.front());
     Listing listing({u"Part"_s, u"Finding"_s});
     const auto add = [&listing](const QString& part, const QStringList& findings) {
         for (const QString& finding : findings)
@@ -128,9 +128,9 @@ void checkCustomer(const Session& session, const Invocation& words)
     };
     add(u"database"_s, missingIn(values.databasePath));
     add(u"settings"_s, faultySettings(values));
-    add(u"installation"_s, checkInstallation(session.appPath).mistakes);
-    if (session.asJson || !listing.isEmpty())
-        session.show(listing);
+    add(u"installation"_s, checkInstallation(workplace.appPath).mistakes);
+    if (workplace.asJson || !listing.isEmpty())
+        workplace.show(listing);
     if (!listing.isEmpty())
         throw CommandError(ExitCode::Unsound, {});
     tellStep(u"Nothing is wrong."_s);

@@ -44,14 +44,14 @@ private:
     link::LinkSettings m_link;
 };
 
-link::RunOutside outsideOf(const Session& session, const ApplicationValues& values)
+link::RunOutside outsideOf(const Workplace& workplace, const ApplicationValues& values)
 {
     return {.runAndWait = [&values](const QString& line) { return RunAndWait(values, line); },
             .readStatus = ReadStatusOut,
             .showStep = tellStep,
             .showNotice = tell,
             .goOn = [] { return true; },
-            .boxes = session.boxes};
+            .boxes = workplace.boxes};
 }
 
 class Ticks : public exchange::TickBoxes
@@ -106,43 +106,43 @@ std::set<int> boxesOf(const QStringList& names)
     return boxes;
 }
 
-void exchangeWith(const Session& session, const Invocation& words,
+void exchangeWith(const Workplace& workplace, const Invocation& words,
                   bool (exchange::ExchangeRunner::*sequence)())
 {
-    const ApplicationValues values = takeCustomer(session, words.operands.front());
+    const ApplicationValues values = takeCustomer(workplace, words.operands.front());
     Ticks ticks(boxesOf(words.operands.mid(1)));
-    const auto lock = lockFor(session, values);
+    const auto lock = lockFor(workplace, values);
     const link::LinkSettings link = link::readLinkSettings(values);
     Line line;
     // Also when a failure ends the run: an open call costs the shop money.
     const auto hangUp = qScopeGuard([&line] { line.disconnect(); });
     if (line.connect(link) == link::modemFailed)
         throw CommandError(ExitCode::Stopped, u"Communications Error: Modem Failure"_s);
-    exchange::ExchangeRunner runner(values, link, ticks, outsideOf(session, values));
+    exchange::ExchangeRunner runner(values, link, ticks, outsideOf(workplace, values));
     if (!(runner.*sequence)())
         throw CommandError(ExitCode::Stopped, {});
 }
 
 } // namespace
 
-void fetch(const Session& session, const Invocation& words)
+void fetch(const Workplace& workplace, const Invocation& words)
 {
-    exchangeWith(session, words, &exchange::ExchangeRunner::UploadData);
+    exchangeWith(workplace, words, &exchange::ExchangeRunner::UploadData);
 }
 
-void send(const Session& session, const Invocation& words)
+void send(const Workplace& workplace, const Invocation& words)
 {
-    exchangeWith(session, words, &exchange::ExchangeRunner::downloaddata);
+    exchangeWith(workplace, words, &exchange::ExchangeRunner::downloaddata);
 }
 
-void collect(const Session& session, const Invocation& words)
+void collect(const Workplace& workplace, const Invocation& words)
 {
-    const ApplicationValues values = takeCustomer(session, words.operands.front());
-    const auto lock = lockFor(session, values);
+    const ApplicationValues values = takeCustomer(workplace, words.operands.front());
+    const auto lock = lockFor(workplace, values);
     Line line;
     sales::CollectionRun run(values, {.connectLink = [&line](const auto& link) { return line.connect(link); },
                                       .disconnectLink = [&line] { line.disconnect(); },
-                                      .run = outsideOf(session, values)});
+                                      .run = outsideOf(workplace, values)});
     if (!run.collect())
         throw CommandError(ExitCode::Stopped, {});
 }

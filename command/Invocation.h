@@ -28,7 +28,7 @@ struct Invocation {
     [[nodiscard]] QString value(QLatin1StringView option) const { return options.value(option); }
 };
 
-struct Session;
+struct Workplace;
 
 struct Verb {
     QLatin1StringView name;
@@ -38,7 +38,7 @@ struct Verb {
     std::span<const OptionDefinition> options;
     QLatin1StringView text;
     /// @throws CommandError, and what the product throws.
-    void (*run)(const Session& session, const Invocation& words);
+    void (*run)(const Workplace& workplace, const Invocation& words);
 };
 
 /// Every verb, in the order of the help.

@@ -1,7 +1,7 @@
 // Entry of the command line.
 #include "command/Invocation.h"
-#include "command/Session.h"
 #include "command/TerminalBoxes.h"
+#include "command/Workplace.h"
 #include "platform/RuntimeFailure.h"
 #include "reports/ReportRun.h"
 

@@ -25,7 +25,7 @@ namespace
 
 constexpr std::size_t mistakesShown = 100;
 
-void exportTo(const Session& session, const ApplicationValues& values, const QString& path)
+void exportTo(const Workplace& workplace, const ApplicationValues& values, const QString& path)
 {
     const QString ending = QFileInfo(path).suffix().toLower();
     if (ending != "csv"_L1 && ending != "xlsx"_L1)
@@ -36,7 +36,7 @@ void exportTo(const Session& session, const ApplicationValues& values, const QSt
     plus.heading.customer = customerOf(values, values.databasePath);
     plus.heading.printed = QDateTime::currentDateTime();
     plus.heading.notice = u"There are no PLUs."_s;
-    (ending == "csv"_L1 ? reports::writeCsv : reports::writeXlsx)(plus, session.userFile(path), {});
+    (ending == "csv"_L1 ? reports::writeCsv : reports::writeXlsx)(plus, workplace.userFile(path), {});
 }
 
 /// @throws CommandError BadFile
@@ -82,10 +82,10 @@ Listing differences(const std::vector<PluChange>& changes)
 }
 
 /// Shows what the file at @p path changes. @throws CommandError BadFile
-void show(const Session& session, const PluComparison& comparison, const QString& path)
+void show(const Workplace& workplace, const PluComparison& comparison, const QString& path)
 {
     failWith(comparison.mistakes, path);
-    session.show(differences(comparison.changes));
+    workplace.show(differences(comparison.changes));
 }
 
 QString resultOf(const std::vector<PluChange>& changes)
@@ -94,24 +94,24 @@ QString resultOf(const std::vector<PluChange>& changes)
     return u"%1 changed, %2 new"_s.arg(std::ssize(changes) - added).arg(added);
 }
 
-void listChanges(const Session& session, const ApplicationValues& values, const QString& path)
+void listChanges(const Workplace& workplace, const ApplicationValues& values, const QString& path)
 {
     store::Database database(values.databasePath);
-    show(session, comparePlus(database, contentOf(path)), path);
+    show(workplace, comparePlus(database, contentOf(path)), path);
 }
 
-void importFrom(const Session& session, const ApplicationValues& values, const QString& path)
+void importFrom(const Workplace& workplace, const ApplicationValues& values, const QString& path)
 {
-    const auto lock = lockFor(session, values);
+    const auto lock = lockFor(workplace, values);
     customers::LoggedWork work(values.customerPath, u"PLU import"_s);
     store::Database database(values.databasePath);
     const PluComparison comparison = comparePlus(database, contentOf(path));
     if (!comparison.mistakes.empty())
         work.setResult(u"refused: the file has mistakes"_s);
-    show(session, comparison, path);
+    show(workplace, comparison, path);
     const auto& changes = comparison.changes;
     if (!changes.empty()) {
-        if (!customers::copyBeforeJob(values, session.boxes, u"before PLU import"_s))
+        if (!customers::copyBeforeJob(values, workplace.boxes, u"before PLU import"_s))
             throw CommandError(ExitCode::Unwritable, {});
         applyPluChanges(database, changes);
     }
@@ -121,20 +121,20 @@ void importFrom(const Session& session, const ApplicationValues& values, const Q
 
 } // namespace
 
-void movePlus(const Session& session, const Invocation& words)
+void movePlus(const Workplace& workplace, const Invocation& words)
 {
     const QString direction = words.operands[1];
     const bool isExport = direction == "export"_L1;
     if (!isExport && direction != "import"_L1)
         throw CommandError(ExitCode::Usage, u"\"%1\" is neither export nor import."_s.arg(direction));
-    const ApplicationValues values = takeCustomer(session, words.operands[0]);
+    const ApplicationValues values = takeCustomer(workplace, words.operands[0]);
     const QString path = words.operands[2];
     if (isExport) {
-        exportTo(session, values, path);
+        exportTo(workplace, values, path);
     } else if (words.has("dry-run"_L1)) {
-        listChanges(session, values, session.userFile(path));
+        listChanges(workplace, values, workplace.userFile(path));
     } else {
-        importFrom(session, values, session.userFile(path));
+        importFrom(workplace, values, workplace.userFile(path));
     }
 }
 

@@ -103,16 +103,16 @@ void checkWords(const Invocation& words)
 
 } // namespace
 
-void report(const Session& session, const Invocation& words)
+void report(const Workplace& workplace, const Invocation& words)
 {
     checkWords(words);
-    const ApplicationValues values = takeCustomer(session, words.operands[0]);
+    const ApplicationValues values = takeCustomer(workplace, words.operands[0]);
     const QString name = words.operands[1];
     reports::ReportRequest request;
-    request.reportFile = joinPath(session.appPath, name + u".rpt"_s);
+    request.reportFile = joinPath(workplace.appPath, name + u".rpt"_s);
     if (!pathExists(request.reportFile))
         throw CommandError(ExitCode::NoSuchName,
-                           u"There is no report \"%1\" in %2."_s.arg(name, session.appPath));
+                           u"There is no report \"%1\" in %2."_s.arg(name, workplace.appPath));
     request.dataFile = values.databasePath;
     request.customer = customerOf(values, values.databasePath);
     request.now = QDateTime::currentDateTime();
@@ -120,7 +120,7 @@ void report(const Session& session, const Invocation& words)
     const reports::ReportData data = reports::runReport(request);
     for (const auto& target : targets) {
         if (words.has(target.option))
-            target.write(data, session.userFile(words.value(target.option)));
+            target.write(data, workplace.userFile(words.value(target.option)));
     }
 }
 

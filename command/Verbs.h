@@ -2,20 +2,20 @@
 #pragma once
 
 #include "command/Invocation.h"
-#include "command/Session.h"
+#include "command/Workplace.h"
 
 namespace norvane::command
 {
 
 // All throw CommandError, and what the product throws.
-void listCustomers(const Session& session, const Invocation& words);
-void checkCustomer(const Session& session, const Invocation& words);
-void fetch(const Session& session, const Invocation& words);
-void send(const Session& session, const Invocation& words);
-void collect(const Session& session, const Invocation& words);
-void report(const Session& session, const Invocation& words);
-void movePlus(const Session& session, const Invocation& words);
-void listCopies(const Session& session, const Invocation& words);
-void restore(const Session& session, const Invocation& words);
+void listCustomers(const Workplace& workplace, const Invocation& words);
+void checkCustomer(const Workplace& workplace, const Invocation& words);
+void fetch(const Workplace& workplace, const Invocation& words);
+void send(const Workplace& workplace, const Invocation& words);
+void collect(const Workplace& workplace, const Invocation& words);
+void report(const Workplace& workplace, const Invocation& words);
+void movePlus(const Workplace& workplace, const Invocation& words);
+void listCopies(const Workplace& workplace, const Invocation& words);
+void restore(const Workplace& workplace, const Invocation& words);
 
 } // namespace norvane::command

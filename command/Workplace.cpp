@@ -1,5 +1,5 @@
-// See Session.h.
-#include "command/Session.h"
+// See Workplace.h.
+#include "command/Workplace.h"
 
 #include "command/ExitCode.h"
 #include "customers/CustomerFolders.h"
@@ -15,26 +15,26 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::command
 {
 
-QString Session::userFile(const QString& name) const
+QString Workplace::userFile(const QString& name) const
 {
     return QDir(startedIn).absoluteFilePath(name);
 }
 
-void Session::show(const Listing& listing) const
+void Workplace::show(const Listing& listing) const
 {
     const QByteArray text = asJson ? listing.json() : listing.text();
     std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
 }
 
-ApplicationValues takeCustomer(const Session& session, const QString& name)
+ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
 {
     using customers::CustomerChoice;
     ApplicationValues values;
-    values.appPath = session.appPath;
+    values.appPath = workplace.appPath;
     const CommandError none(ExitCode::NoCustomer,
-                            u"There is no customer \"%1\" in %2."_s.arg(name, session.appPath));
+                            u"There is no customer \"%1\" in %2."_s.arg(name, workplace.appPath));
     // Choosing one that is not there would make it.
-    if (!pathExists(customers::customerDatabase(joinPath(session.appPath, name))))
+    if (!pathExists(customers::customerDatabase(joinPath(workplace.appPath, name))))
         throw none;
     switch (customers::chooseCustomer(values, name)) {
     case CustomerChoice::Damaged:
@@ -50,9 +50,9 @@ ApplicationValues takeCustomer(const Session& session, const QString& name)
     return values;
 }
 
-std::unique_ptr<customers::RunLock> lockFor(const Session& session, const ApplicationValues& values)
+std::unique_ptr<customers::RunLock> lockFor(const Workplace& workplace, const ApplicationValues& values)
 {
-    auto lock = customers::RunLock::take(values, session.boxes);
+    auto lock = customers::RunLock::take(values, workplace.boxes);
     if (lock == nullptr)
         throw CommandError(ExitCode::Busy, {});
     return lock;

@@ -15,7 +15,7 @@ class RunLock;
 namespace norvane::command
 {
 
-struct Session {
+struct Workplace {
     QString appPath;   ///< the program's folder, which is the working directory
     QString startedIn; ///< where the user was: files named on the command line are looked for there
     bool asJson = false;
@@ -30,10 +30,10 @@ struct Session {
 /// The values of an existing customer, found without regard to case. Its database is brought to the current
 /// layout, as at a choice in the window.
 /// @throws CommandError NoCustomer; Unsound when its database is damaged.
-[[nodiscard]] ApplicationValues takeCustomer(const Session& session, const QString& name);
+[[nodiscard]] ApplicationValues takeCustomer(const Workplace& workplace, const QString& name);
 
 /// @throws CommandError Busy when another run works with the customer.
-[[nodiscard]] std::unique_ptr<customers::RunLock> lockFor(const Session& session,
+[[nodiscard]] std::unique_ptr<customers::RunLock> lockFor(const Workplace& workplace,
                                                           const ApplicationValues& values);
 
 } // namespace norvane::command
