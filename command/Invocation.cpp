@@ -18,9 +18,10 @@ const Verb& verbOf(const QString& name)
 {
     const auto all = verbs();
     const auto verb = std::ranges::find_if(all, [&](const Verb& each) { return name == each.name; });
-    if (verb == all.end())
+    if (verb == all.end()) {
         throw CommandError(ExitCode::Usage,
                            u"There is no command \"%1\". Try norvane-shop --help."_s.arg(name));
+    }
     return *verb;
 }
 

@@ -110,9 +110,10 @@ void report(const Workplace& workplace, const Invocation& words)
     const QString name = words.operands[1];
     reports::ReportRequest request;
     request.reportFile = joinPath(workplace.appPath, name + u".rpt"_s);
-    if (!pathExists(request.reportFile))
+    if (!pathExists(request.reportFile)) {
         throw CommandError(ExitCode::NoSuchName,
                            u"There is no report \"%1\" in %2."_s.arg(name, workplace.appPath));
+    }
     request.dataFile = values.databasePath;
     request.customer = customerOf(values, values.databasePath);
     request.now = QDateTime::currentDateTime();

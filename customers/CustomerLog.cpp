@@ -15,7 +15,7 @@ namespace norvane::customers
 namespace
 {
 
-constexpr qint64 mostBytes = 1024 * 1024;
+constexpr qint64 mostBytes = qint64{1024} * 1024;
 const auto timeFormat = u"yyyy-MM-dd HH:mm:ss"_s;
 constexpr double millisecondsPerSecond = 1000;
 enum Column { begunColumn, workColumn, registersColumn, resultColumn, secondsColumn };
@@ -80,9 +80,9 @@ std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList
     QFile log(logPath(customerPath));
     if (!log.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const auto lines = log.readAll().trimmed().split('\n');
-    for (auto text = lines.crbegin(); text != lines.crend(); ++text) {
-        LogLine line = lineOf(*text);
+    auto lines = log.readAll().trimmed().split('\n');
+    while (!lines.isEmpty()) {
+        LogLine line = lineOf(lines.takeLast());
         if (works.contains(line.work))
             return line;
     }

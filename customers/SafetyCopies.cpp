@@ -115,7 +115,7 @@ SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, st
     if (pathExists(customerDatabase(customerPath)))
         store::copyDatabase(customerDatabase(customerPath), joinPath(path, databaseName), what);
     copyFiles(customerPath, path);
-    const SafetyCopy copy = copyOfFolder(folder, freeName(folder, now.toString(timeFormat) + u' ' + reason));
+    SafetyCopy copy = copyOfFolder(folder, freeName(folder, now.toString(timeFormat) + u' ' + reason));
     unfinished.keepAs(copy.path);
     removeOldCopies(customerPath, now);
     return copy;
