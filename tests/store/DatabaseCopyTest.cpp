@@ -35,9 +35,10 @@ protected:
     {
         QString found;
         BoundQuery plus(m_database, "SELECT PLUNUMBER, PRICE1, _rowid_ FROM PLUDATA ORDER BY 1", {}, {});
-        while (plus.next())
+        while (plus.next()) {
             found +=
                 plus.value(0).toText() + u' ' + plus.value(1).toText() + u' ' + plus.value(2).toText() + u';';
+        }
         const DayRange year{{2026, 1, 1}, {2026, 12, 31}};
         MonthTotals totals(m_database, u"PLUSALES"_s);
         totals.addUpMissing(year, {2027, 1, 1});
