@@ -7,6 +7,7 @@
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "store/DatabaseCheck.h"
+#include "store/SalesTables.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -97,13 +98,6 @@ private:
     bool m_isKept = false;
 };
 
-store::CopyOf contentOf(const QString& database)
-{
-    const auto tables = store::Database(database).tableNames();
-    return tables.contains(u"PLUSALES"_s, Qt::CaseInsensitive) ? store::CopyOf::Everything
-                                                               : store::CopyOf::Programme;
-}
-
 } // namespace
 
 SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, store::CopyOf what,
@@ -134,6 +128,12 @@ QList<SafetyCopy> safetyCopies(const QString& customerPath)
     return copies;
 }
 
+bool holdsSales(const SafetyCopy& copy)
+{
+    return store::Database(joinPath(copy.path, databaseName))
+        .hasTable(QLatin1String(store::salestable::plus));
+}
+
 void restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy)
 {
     LoggedWork work(customerPath, u"restore"_s);
@@ -141,7 +141,8 @@ void restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy)
     const QString damage = store::damageOf(copied);
     if (!damage.isEmpty())
         throw RuntimeFailure(Failure::NotOurDatabase, u"The copy %1 is damaged: %2"_s.arg(copied, damage));
-    makeSafetyCopy(customerPath, u"before restore"_s, contentOf(copied));
+    makeSafetyCopy(customerPath, u"before restore"_s,
+                   holdsSales(copy) ? store::CopyOf::Everything : store::CopyOf::Programme);
     store::Database database(customerDatabase(customerPath));
     store::restoreTables(database, copied);
     copyFiles(copy.path, customerPath);

@@ -30,6 +30,9 @@ SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, st
 /// The latest first.
 [[nodiscard]] QList<SafetyCopy> safetyCopies(const QString& customerPath);
 
+/// Whether sales come back from it, too. @throws RuntimeFailure 53, 3343 for a copy without a sound database.
+[[nodiscard]] bool holdsSales(const SafetyCopy& copy);
+
 /// Puts tables, settings and register files back as the copy holds them, after a copy of how they stand now.
 /// Sales come back only from a copy that holds them. Files that the copy does not hold stay. The database
 /// comes back wholly or not at all; the files follow it.

@@ -23,6 +23,14 @@ QString wordsOf(const customers::SafetyCopy& copy)
     return u"%1, %2"_s.arg(QLocale().toString(copy.made, QLocale::ShortFormat), copy.reason);
 }
 
+QString questionOf(const QString& customer, const customers::SafetyCopy& copy)
+{
+    const QString sales = customers::holdsSales(copy) ? u"sales included"_s : u"but for sales"_s;
+    return u"Put %1 back as it was on %2?\r\rAll that was changed since is undone, %3. A copy of how it "
+           u"stands "
+           "now is made first."_s.arg(customer, wordsOf(copy), sales);
+}
+
 } // namespace
 
 CopyMenu::CopyMenu(const QString& appPath, const QString& customer, Boxes& boxes, QWidget* parent)
@@ -51,15 +59,12 @@ void CopyMenu::addCopy(const customers::SafetyCopy& copy)
 
 void CopyMenu::restore(const ApplicationValues& values, Boxes& boxes, const customers::SafetyCopy& copy)
 {
-    const QString question =
-        u"Put %1 back as it was on %2?\r\rAll that was changed since is undone; sales stay. A "
-        "copy of how it stands now is made first."_s;
-    if (!askBeforeLoss(boxes, question.arg(values.customerName, wordsOf(copy))))
-        return;
-    const auto lock = customers::RunLock::take(values, boxes);
-    if (lock == nullptr)
-        return;
     try {
+        if (!askBeforeLoss(boxes, questionOf(values.customerName, copy)))
+            return;
+        const auto lock = customers::RunLock::take(values, boxes);
+        if (lock == nullptr)
+            return;
         const ui::WaitPointer pointer;
         customers::restoreSafetyCopy(values.customerPath, copy);
     } catch (const RuntimeFailure& failure) {
