@@ -171,8 +171,10 @@ TEST_F(KeyLayoutTest, AsksOnLeavingALevelAndStaysWhenTheQuestionIsClosed)
     EXPECT_EQ(cell(9, 0), "CASH");
     EXPECT_TRUE(control<QPushButton>("CSCmdBtn3").isChecked());
     boxes.answers = {false, true};
+    grid().selectAll();
     press("CSCmdBtn4");
     EXPECT_EQ(form->windowTitle(), u"Keyboard Level. 2"_s);
+    EXPECT_EQ(grid().chosenCells().size(), 1U);
     press("CSCmdBtn3");
     EXPECT_EQ(cell(9, 0), "Function Key") << "No has thrown the change away";
     EXPECT_FALSE(control<QAction>("Undo").isEnabled());
