@@ -187,8 +187,8 @@ TEST(BadInputTest, QuotesNoMoreOfALongColumnThanABoxCanShow)
 {
     Shop shop;
     for (const auto& [before, column, number, quoted] : longColumns) {
-        const auto told =
-            norvane::test::failureTextOf([&] { shop.import(pluFile, before + column); }).toUtf8();
+        const QByteArray text = before + column;
+        const auto told = norvane::test::failureTextOf([&] { shop.import(pluFile, text); }).toUtf8();
         EXPECT_TRUE(told.startsWith(QByteArray::number(number)) && told.contains('"' + quoted + "...\""))
             << told.left(300).toStdString();
     }

@@ -77,10 +77,10 @@ TEST(FileProceduresTest, AsksWhatBecomesOfATextThatIsBadInTheMiddle)
     for (const auto& [line, number, place] : badLines) {
         Shop shop;
         shop.import(67, plu(1) + "\r\n" + plu(2) + "\r\n" + plu(3));
+        const QByteArray bad = plu(17) + "\r\n" + line + "\r\n" + plu(19);
         for (const bool keeps : {false, true}) {
             shop.boxes.answers = {keeps};
-            const QString told =
-                failureTextOf([&] { shop.import(67, plu(17) + "\r\n" + line + "\r\n" + plu(19)); });
+            const QString told = failureTextOf([&] { shop.import(67, bad); });
             EXPECT_TRUE(told.startsWith(QString::number(number) + u' ' + QLatin1String(place)))
                 << told.toStdString();
             const auto& asked = shop.boxes.shown.back();
