@@ -1,7 +1,8 @@
 // Select All up and Select All down on a full register, with the real tools: how much of the time is the
-// program's own, and which register files take it.
+// program's own, which register files take it, and the share of the safety copy that is made first.
 #include "base/SharedRoutines.h"
 #include "bench/Ratio.h"
+#include "customers/SafetyCopies.h"
 #include "exchange/ExchangeRunner.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
@@ -27,7 +28,7 @@ using bench::require;
 using Seconds = std::chrono::duration<double>;
 
 constexpr int dorvik = 3;
-constexpr int pluCount = 10000;
+constexpr int mostPlus = 99999; ///< that the memory of a register tells of
 
 /// Measures the tools and the program's own steps apart.
 class Meter
@@ -89,7 +90,10 @@ private:
 class Shop
 {
 public:
-    Shop() : m_folder(dorvik, 1, pluCount), m_values(m_folder.makeCustomer(u"Shop"_s)) {}
+    explicit Shop(int plus)
+        : m_plus(plus), m_folder(dorvik, 1, plus), m_values(m_folder.makeCustomer(u"Shop"_s))
+    {
+    }
 
     Meter run(bool (exchange::ExchangeRunner::*sequence)())
     {
@@ -106,14 +110,16 @@ public:
     void checkTable()
     {
         store::Database database(m_values.databasePath);
-        require(database.openTable(u"PLUDATA"_s).recordCount() == pluCount, "all PLUs came");
+        require(database.openTable(u"PLUDATA"_s).recordCount() == m_plus, "all PLUs came");
     }
+    /// The copy that an upload begins with, alone.
+    void copy() { require(customers::copyBeforeJob(m_values, m_boxes, u"bench"_s), "copied"); }
     /// Takes a file away from the register, so that only a send can bring it back.
     void emptyRegister() { require(QFile::remove(pluFile()), "the register's PLUs go"); }
     void checkRegister()
     {
         const qint64 leastRecord = 64;
-        require(QFileInfo(pluFile()).size() > pluCount * leastRecord, "the register got its PLUs");
+        require(QFileInfo(pluFile()).size() > m_plus * leastRecord, "the register got its PLUs");
     }
 
 private:
@@ -128,6 +134,7 @@ private:
     }
     [[nodiscard]] QString pluFile() const { return m_folder.registerFile(1, 67); }
 
+    int m_plus;
     test::ProgramFolder m_folder;
     ApplicationValues m_values;
     test::RecordingBoxes m_boxes;
@@ -149,28 +156,36 @@ void selectAll(benchmark::State& state, Shop& shop, bool (exchange::ExchangeRunn
                Before before, After after)
 {
     double tools = 0;
+    double own = 0;
+    double copy = 0;
     Meter last;
     for (auto _ : state) {
         before();
+        copy += bench::secondsOf([&] { shop.copy(); });
         last = shop.run(sequence);
         after();
         state.SetIterationTime(last.own());
+        own += last.own();
         tools += last.tools();
     }
     state.counters["tools_ms"] = tools * 1000 / static_cast<double>(state.iterations());
+    state.counters["copy_ms"] = copy * 1000 / static_cast<double>(state.iterations());
+    state.counters["copy_share"] = copy / (own + tools);
     printSplit(last);
 }
 
 void selectAllUp(benchmark::State& state)
 {
-    Shop shop;
+    Shop shop(static_cast<int>(state.range()));
+    // What is copied is the full programme, as before any upload but the first.
+    shop.run(&exchange::ExchangeRunner::UploadData);
     selectAll(
         state, shop, &exchange::ExchangeRunner::UploadData, [] {}, [&] { shop.checkTable(); });
 }
 
 void selectAllDown(benchmark::State& state)
 {
-    Shop shop;
+    Shop shop(static_cast<int>(state.range()));
     shop.run(&exchange::ExchangeRunner::UploadData);
     selectAll(
         state, shop, &exchange::ExchangeRunner::downloaddata, [&] { shop.emptyRegister(); },
@@ -179,8 +194,13 @@ void selectAllDown(benchmark::State& state)
 
 } // namespace
 
-BENCHMARK(selectAllUp)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
-BENCHMARK(selectAllDown)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
+BENCHMARK(selectAllUp)
+    ->Arg(10000)
+    ->Arg(mostPlus)
+    ->UseManualTime()
+    ->Iterations(5)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(selectAllDown)->Arg(10000)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv)
 {

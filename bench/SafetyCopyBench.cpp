@@ -62,7 +62,7 @@ int years()
     return wish ? std::max(1, std::atoi(wish)) : 1;
 }
 
-/// By the clock: both spend their time waiting for the disk.
+/// Both end when the copy is on the disk.
 void CopyWithSales(benchmark::State& state)
 {
     static const Shop shop(
@@ -74,18 +74,21 @@ void CopyWithSales(benchmark::State& state)
         "0 "
         "from n, p");
     const QString plain = shop.path() + u"/plain"_s;
+    const auto copyPlainly = [&] {
+        require(QFile::copy(shop.database(), plain), "plain copy");
+        QFile::remove(plain);
+    };
+    // The first one also waits for what the making of the shop left to write.
+    copyPlainly();
     (void)bench::compare(
         state,
         [&] {
             shop.copy(store::CopyOf::Everything);
             shop.removeCopies();
         },
-        [&] {
-            require(QFile::copy(shop.database(), plain), "plain copy");
-            QFile::remove(plain);
-        });
+        copyPlainly);
 }
-BENCHMARK(CopyWithSales)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(CopyWithSales)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
 
 } // namespace
 

@@ -103,13 +103,24 @@ void copyProgramme(SQLite::Database& source, const QString& from, const QString&
     run(connection, "COMMIT", to);
 }
 
+/// How the target of copyPages() is written. The engine writes a page at a time: in large ones years of sales
+/// take little more than a plain copy of the file, in those of the source twice as long. A small cache keeps
+/// them near the processor. The copy that results has the page size of its source.
+constexpr const char* targetSettings[] = {
+    // A copy that is cut off is removed, so there is nothing to roll back in it.
+    "PRAGMA journal_mode = OFF",
+    "PRAGMA page_size = 65536",
+    "VACUUM",
+    "PRAGMA cache_size = -256",
+};
+
+/// Returns once the copy is on the disk: what the job deletes next may be nowhere else.
 void copyPages(SQLite::Database& source, const QString& to)
 {
     createDatabaseFile(to, {});
     auto target = openUnreadDatabaseFile(to);
-    // A copy that is cut off is removed, and one that a power cut damaged is told by its check.
-    run(target.getHandle(), "PRAGMA journal_mode = OFF", to);
-    run(target.getHandle(), "PRAGMA synchronous = OFF", to);
+    for (const char* const sql : targetSettings)
+        run(target.getHandle(), sql, to);
     sqlite3_backup* const backup =
         sqlite3_backup_init(target.getHandle(), "main", source.getHandle(), "main");
     if (backup != nullptr) {

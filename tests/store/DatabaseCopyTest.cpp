@@ -74,6 +74,7 @@ TEST_F(DatabaseCopyTest, EverythingComesBackWithItsSalesAndTheirMonths)
     addSale({2026, 3, 1}, 10.1);
     const QString before = content();
     copy(CopyOf::Everything);
+    EXPECT_EQ(QFileInfo(m_copy).size(), QFileInfo(m_folder.path()).size()) << "in pages of the same size";
     (void)m_database.execute(u"delete * from plusales"_s);
     addSale({2026, 3, 5}, 7);
     EXPECT_NE(content(), before);
