@@ -9,7 +9,7 @@ namespace norvane
 /// Plain values, made once by the program and handed to whoever needs them; nothing guards them. Which
 /// routine sets which is part of the system's behaviour: a change of customer leaves databasePath as it was.
 struct ApplicationValues {
-    /// The folder of the program file, without a closing separator.
+    /// The program's folder (base/ProgramFolder.h), without a closing separator.
     QString appPath;
     /// The customer's folder name as typed or picked.
     QString customerName;

@@ -1,4 +1,5 @@
 // Entry of the command line.
+#include "base/ProgramFolder.h"
 #include "command/Invocation.h"
 #include "command/TerminalBoxes.h"
 #include "command/Workplace.h"
@@ -36,7 +37,7 @@ void run(const QStringList& words)
     const QString started = QDir::currentPath();
     const QString folder = invocation.has("folder"_L1)
                                ? QDir(started).absoluteFilePath(invocation.value("folder"_L1))
-                               : QCoreApplication::applicationDirPath();
+                               : programFolder();
     // The tools are found there, and leave their files there.
     if (!QDir::setCurrent(folder))
         throw CommandError(ExitCode::Usage, u"There is no folder %1."_s.arg(folder));

@@ -12,7 +12,7 @@ namespace
 
 constexpr auto common = std::to_array<OptionDefinition>({
     {"folder"_L1, "DIR"_L1,
-     "work in this folder of the program instead of the one that holds norvane-shop"_L1},
+     "work in this folder of the program instead of NORVANE_FOLDER or the one that holds norvane-shop"_L1},
     {"json"_L1, {}, "listings as JSON"_L1},
 });
 constexpr auto reportOptions = std::to_array<OptionDefinition>({

@@ -2,6 +2,7 @@
 # Installs what building and running the program needs on Debian 12, if anything is missing.
 #   --checks   also what .ci/run checks the sources with, and a print server for a test's own queue
 #   --clang    also the compiler of the preset clang
+#   --packages also what ./package.sh makes packages with
 set -euo pipefail
 
 packages=(
@@ -16,7 +17,8 @@ for option in "$@"; do
   case "$option" in
     --checks) packages+=(clang-format clang-tidy cups-daemon cups-client) ;;
     --clang) packages+=(clang-16) ;;
-    *) echo "usage: scripts/install-packages.sh [--checks] [--clang]" >&2; exit 2 ;;
+    --packages) packages+=(dpkg-dev patchelf) ;;
+    *) echo "usage: scripts/install-packages.sh [--checks] [--clang] [--packages]" >&2; exit 2 ;;
   esac
 done
 

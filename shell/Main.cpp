@@ -1,5 +1,6 @@
 // Entry of the program.
 #include "base/ApplicationValues.h"
+#include "base/ProgramFolder.h"
 #include "shell/FrmMain.h"
 #include "shell/Openers.h"
 #include "shell/Program.h"
@@ -7,7 +8,10 @@
 #include "ui/Appearance.h"
 #include "ui/MessageBoxes.h"
 
+#include <QDir>
+
 using namespace norvane;
+using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
@@ -15,7 +19,12 @@ namespace
 int runProgram(Boxes& boxes)
 {
     ApplicationValues values;
-    values.appPath = QCoreApplication::applicationDirPath();
+    values.appPath = programFolder();
+    // The tools leave their files there, wherever the desktop has started the program.
+    if (!QDir::setCurrent(values.appPath)) {
+        boxes.message(u"There is no folder %1."_s.arg(values.appPath), {}, BoxIcon::Critical);
+        return 1;
+    }
     shell::FrmMain mainWindow(values, boxes, shell::makeOpeners(values, boxes));
     QObject::connect(&mainWindow, &shell::FrmMain::unloaded, qApp, [] { QCoreApplication::exit(0); });
     if (!shell::StartSequence(values, boxes, mainWindow, shell::machineSecondsSinceMidnight).run())
@@ -30,5 +39,6 @@ int main(int argc, char** argv)
     ui::MessageBoxes boxes;
     shell::Program program(argc, argv, boxes);
     ui::applyAppearance(program);
+    QGuiApplication::setDesktopFileName(u"norvane"_s);
     return program.guarded([&boxes] { return runProgram(boxes); });
 }

@@ -1,0 +1,16 @@
+# Read by cpack for each kind of package: which of the installed parts goes where in it.
+set(build "${CPACK_BUILD_FOLDER}")
+if(CPACK_GENERATOR STREQUAL "DEB")
+  # Each row names its whole way, for the prefix of the package comes behind the folder of a row.
+  set(CPACK_PACKAGING_INSTALL_PREFIX "/")
+  set(CPACK_INSTALL_CMAKE_PROJECTS
+    "${build};norvane;program;/usr/lib/norvane"
+    "${build};norvane;data;/usr/share/norvane"
+    "${build};norvane;system;/usr")
+else()
+  set(CPACK_PACKAGE_FILE_NAME "norvane-${CPACK_PACKAGE_VERSION}-linux-${CPACK_SYSTEM_PROCESSOR}")
+  set(CPACK_INSTALL_CMAKE_PROJECTS
+    "${build};norvane;program;/program"
+    "${build};norvane;data;/program"
+    "${build};norvane;portable;/")
+endif()

@@ -1,0 +1,58 @@
+# Run while the portable folder is put together, after the program lies in program/: brings the libraries and plugins
+# that not every desktop has, and their licences. qt_plugins: folder of the toolkit's plugins.
+set(folder "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
+set(programs "${folder}/program/norvane" "${folder}/program/norvane-shop")
+
+# Windows on X11 and none, pictures, typing of accents, printers.
+set(plugins
+  platforms/libqxcb.so
+  platforms/libqoffscreen.so
+  imageformats/libqgif.so
+  imageformats/libqico.so
+  imageformats/libqjpeg.so
+  platforminputcontexts/libcomposeplatforminputcontextplugin.so
+  platforminputcontexts/libibusplatforminputcontextplugin.so
+  printsupport/libcupsprintersupport.so)
+
+# What stays the system's own: the C library, which fits its kernel and loader, and what each desktop has and sets up in
+# its own way, with all that this needs. A second copy of these would quarrel with the first.
+set(of_system
+  "^ld-linux" "^libc\\.so" "^libm\\.so" "^libdl\\.so" "^libpthread\\.so" "^librt\\.so" "^libresolv\\.so"
+  "^libX11\\.so" "^libX11-xcb\\.so" "^libxcb\\.so" "^libXau\\.so" "^libXdmcp\\.so" "^libbsd\\.so" "^libmd\\.so"
+  "^libfontconfig\\.so" "^libfreetype\\.so" "^libexpat\\.so" "^libpng16\\.so" "^libbrotli" "^libz\\.so")
+
+# Copies the licence of the package that the file of a library came with.
+function(add_licence file)
+  # The system may know the file by its place without /usr.
+  string(REGEX REPLACE "^/usr" "" name "${file}")
+  execute_process(COMMAND dpkg-query --search "*${name}" OUTPUT_VARIABLE owner ERROR_QUIET)
+  string(REGEX MATCH "^[^:,\n]+" package "${owner}")
+  if(package AND EXISTS "/usr/share/doc/${package}/copyright")
+    file(COPY_FILE "/usr/share/doc/${package}/copyright" "${folder}/licences/${package}.txt")
+  else()
+    message(FATAL_ERROR "No licence was found for ${file}")
+  endif()
+endfunction()
+
+list(TRANSFORM plugins PREPEND "${qt_plugins}/" OUTPUT_VARIABLE plugin_files)
+file(GET_RUNTIME_DEPENDENCIES
+  EXECUTABLES ${programs}
+  MODULES ${plugin_files}
+  RESOLVED_DEPENDENCIES_VAR libraries
+  PRE_EXCLUDE_REGEXES ${of_system})
+
+file(MAKE_DIRECTORY "${folder}/libraries" "${folder}/licences")
+foreach(library ${libraries})
+  # Under the name that the programs ask for, without links: a memory stick knows none.
+  get_filename_component(name "${library}" NAME)
+  file(REAL_PATH "${library}" library)
+  file(COPY_FILE "${library}" "${folder}/libraries/${name}")
+  add_licence("${library}")
+endforeach()
+foreach(plugin ${plugins})
+  get_filename_component(kind "${plugin}" DIRECTORY)
+  file(COPY "${qt_plugins}/${plugin}" DESTINATION "${folder}/plugins/${kind}")
+endforeach()
+# The old kind of run path holds for the libraries of the libraries and for the plugins, too, and unlike an environment
+# variable it does not reach the tools that the program starts.
+execute_process(COMMAND patchelf --force-rpath --set-rpath "$ORIGIN/../libraries" ${programs} COMMAND_ERROR_IS_FATAL ANY)
