@@ -35,7 +35,7 @@ endfunction()
 # its libraries may bring another.
 function(norvane_write_build_map file)
   norvane_targets_below("${PROJECT_SOURCE_DIR}" targets)
-  foreach(module Core Gui PrintSupport SerialPort Test Widgets)
+  foreach(module Core DBus Gui PrintSupport SerialPort Test Widgets)
     if(TARGET Qt6::${module})
       list(APPEND targets Qt6::${module})
     endif()

@@ -4,6 +4,7 @@
 #include "exchange/ExchangeRunner.h"
 #include "link/ResultCodes.h"
 #include "ui/Appearance.h"
+#include "ui/FormKit.h"
 #include "ui/StatusLine.h"
 
 #include <QCheckBox>
@@ -42,8 +43,7 @@ void FrmComm::buildBoxes()
     for (int box = 0; box < boxCount; ++box) {
         const auto index = static_cast<std::size_t>(box);
         check1[index] = new QCheckBox(QLatin1String(boxCaptions()[index]), this);
-        check1[index]->setObjectName(u"check1_%1"_s.arg(box));
-        check1[index]->setAccessibleName(check1[index]->objectName());
+        ui::nameControl(*check1[index], u"check1_%1"_s.arg(box));
     }
 }
 

@@ -2,6 +2,7 @@
 #include "screens/LabelPairs.h"
 
 #include "ui/Appearance.h"
+#include "ui/FormKit.h"
 
 #include <QLabel>
 
@@ -40,15 +41,6 @@ Widget* nextInRow(const QWidget& widget, const QVector<Widget*>& others)
     return nearest;
 }
 
-/// Without a control, an access letter is just an "&" in the text.
-QString withoutAccessLetter(QString text)
-{
-    const QString twice = u"&&"_s;
-    text.replace(twice, QString(QChar::Null));
-    text.remove(u'&');
-    return text.replace(QChar::Null, u'&');
-}
-
 void makeHeading(QLabel& label)
 {
     QFont font = label.font();
@@ -61,7 +53,7 @@ void makeHeading(QLabel& label)
 
 void describe(QWidget& control, const QLabel& label)
 {
-    const QString text = withoutAccessLetter(label.text());
+    const QString text = ui::spokenText(label.text());
     const QString former = control.accessibleDescription();
     control.setAccessibleDescription(former.isEmpty() ? text : former + u' ' + text);
 }
@@ -93,7 +85,7 @@ void tieLabels(const QVector<QLabel*>& labels, const QVector<QWidget*>& controls
         } else {
             makeHeading(*label);
         }
-        label->setText(withoutAccessLetter(label->text()));
+        label->setText(ui::spokenText(label->text()));
     }
 }
 

@@ -3,9 +3,11 @@
 
 #include "ui/Appearance.h"
 
+#include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -17,7 +19,17 @@ namespace norvane::ui
 void nameControl(QWidget& control, const QString& name)
 {
     control.setObjectName(name);
+    if (control.focusPolicy() == Qt::NoFocus)
+        return;
     control.setAccessibleName(name);
+    if (const auto* const button = qobject_cast<QAbstractButton*>(&control))
+        control.setAccessibleDescription(spokenText(button->text()).trimmed());
+}
+
+QString spokenText(QString caption)
+{
+    static const QRegularExpression accessMark(u"&(.?)"_s);
+    return caption.contains(u'&') ? caption.replace(accessMark, u"\\1"_s) : caption;
 }
 
 QPushButton* makeButton(const QString& name, const QString& caption, QWidget* form)

@@ -17,8 +17,13 @@ class QWidget;
 namespace norvane::ui
 {
 
-/// Names @p control for tests, scripts and screen readers.
+/// Names @p control for tests, scripts and screen readers, which read the caption of a button as its
+/// description. What takes no keys (a window, frame, label or status line) is read by the title or text that
+/// it shows.
 void nameControl(QWidget& control, const QString& name);
+
+/// @p caption as a screen reader says it: without the marks of access letters.
+[[nodiscard]] QString spokenText(QString caption);
 
 /// A named button of the usual width. The caller places it.
 [[nodiscard]] QPushButton* makeButton(const QString& name, const QString& caption, QWidget* form);

@@ -1,0 +1,154 @@
+// Calls of the accessibility bus; see Accessible.h.
+#include "tests/support/Accessible.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusVariant>
+
+#include <stdexcept>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::test
+{
+namespace
+{
+
+constexpr int callMilliseconds = 10000;
+constexpr unsigned labelledBy = 2; ///< a relation
+constexpr int mostActions = 5;
+
+/// An error has a text instead.
+bool isList(const QVariant& answer)
+{
+    return answer.metaType() == QMetaType::fromType<QDBusArgument>();
+}
+
+QList<AccessiblePlace> readPlaces(const QDBusArgument& answer)
+{
+    QList<AccessiblePlace> places;
+    for (answer.beginArray(); !answer.atEnd(); answer.endStructure()) {
+        AccessiblePlace place;
+        answer.beginStructure();
+        answer >> place.service >> place.path;
+        places += place;
+    }
+    answer.endArray();
+    return places;
+}
+
+} // namespace
+
+Accessible::Accessible(QDBusConnection bus, AccessiblePlace place)
+    : m_bus(std::move(bus)), m_place(std::move(place))
+{
+}
+
+QVariant Accessible::ask(const char* interface, const char* method, const QVariantList& arguments) const
+{
+    auto call = QDBusMessage::createMethodCall(m_place.service, m_place.path.path(), QLatin1String(interface),
+                                               QLatin1String(method));
+    call.setArguments(arguments);
+    return m_bus.call(call, QDBus::Block, callMilliseconds).arguments().value(0);
+}
+
+QString Accessible::property(const char* name) const
+{
+    const auto answer =
+        ask("org.freedesktop.DBus.Properties", "Get", {u"org.a11y.atspi.Accessible"_s, QLatin1String(name)});
+    return answer.value<QDBusVariant>().variant().toString();
+}
+
+QString Accessible::role() const
+{
+    return ask("org.a11y.atspi.Accessible", "GetRoleName").toString();
+}
+
+QString Accessible::name() const
+{
+    return property("Name");
+}
+
+QString Accessible::label() const
+{
+    const QVariant answer = ask("org.a11y.atspi.Accessible", "GetRelationSet");
+    QString label;
+    if (!isList(answer))
+        return label;
+    const auto relations = answer.value<QDBusArgument>();
+    for (relations.beginArray(); !relations.atEnd(); relations.endStructure()) {
+        unsigned relation = 0;
+        relations.beginStructure();
+        relations >> relation;
+        const auto others = readPlaces(relations);
+        if (relation == labelledBy && !others.isEmpty())
+            label = Accessible(m_bus, others.first()).name();
+    }
+    return label;
+}
+
+QString Accessible::words() const
+{
+    for (const auto& words : {label(), property("Description")}) {
+        if (!words.isEmpty())
+            return words;
+    }
+    return name().trimmed();
+}
+
+QString Accessible::text() const
+{
+    return ask("org.a11y.atspi.Text", "GetText", {0, -1}).toString();
+}
+
+bool Accessible::is(Spoken state) const
+{
+    const auto bits = qdbus_cast<QList<uint>>(ask("org.a11y.atspi.Accessible", "GetState"));
+    return (bits.value(0) >> static_cast<unsigned>(state) & 1U) != 0;
+}
+
+QList<Accessible> Accessible::children() const
+{
+    QList<Accessible> children;
+    const QVariant answer = ask("org.a11y.atspi.Accessible", "GetChildren");
+    if (isList(answer)) {
+        for (const AccessiblePlace& place : readPlaces(answer.value<QDBusArgument>()))
+            children += Accessible(m_bus, place);
+    }
+    return children;
+}
+
+std::optional<Accessible> Accessible::find(const QString& role, const QString& words) const
+{
+    for (const Accessible& child : children()) {
+        const QString found = child.role();
+        if (found == role && child.words() == words && child.is(Spoken::Showing))
+            return child;
+        if (found == "table"_L1 || found == "menu item"_L1)
+            continue;
+        if (auto below = child.find(role, words))
+            return below;
+    }
+    return std::nullopt;
+}
+
+void Accessible::act(const QString& action) const
+{
+    int place = 0;
+    while (ask("org.a11y.atspi.Action", "GetName", {place}).toString() != action) {
+        if (++place == mostActions)
+            throw std::runtime_error("no action " + action.toStdString());
+    }
+    auto call = QDBusMessage::createMethodCall(m_place.service, m_place.path.path(),
+                                               u"org.a11y.atspi.Action"_s, u"DoAction"_s);
+    call.setArguments({place});
+    m_bus.send(call);
+}
+
+void Accessible::setText(const QString& text) const
+{
+    ask("org.a11y.atspi.EditableText", "SetTextContents", {text});
+}
+
+} // namespace norvane::test
