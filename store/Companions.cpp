@@ -46,6 +46,13 @@ std::vector<Companion> triggersOf(const TableDefinition& table)
             trigger(months, "DELETE", "delete", dropTotals)};
 }
 
+/// @p row as for dropMonthOf().
+std::string dropDayOf(const TableDefinition& table, const std::string& row)
+{
+    return "DELETE FROM " + quotedName(dayDigestsName(table.name)) + " WHERE day = " + row + '.' +
+           quotedName(table.searchedField) + "; ";
+}
+
 Companion indexOn(const QString& table, const QString& field)
 {
     const QString name = table + u" search"_s;
@@ -83,6 +90,24 @@ std::vector<Companion> monthCompanionsOf(const TableDefinition& table)
     for (Companion& each : triggersOf(table))
         all.push_back(std::move(each));
     return all;
+}
+
+QString dayDigestsName(const QString& table)
+{
+    return u"norvane_day_digests_"_s + table;
+}
+
+std::vector<Companion> dayCompanionsOf(const TableDefinition& table)
+{
+    const QString digests = dayDigestsName(table.name);
+    return {
+        {Companion::Kind::Table, digests,
+         "CREATE TABLE " + quotedName(digests) +
+             " (day TEXT PRIMARY KEY, digest TEXT NOT NULL) STRICT, WITHOUT ROWID"},
+        trigger(table.name, "INSERT", "insert digest", dropDayOf(table, "NEW")),
+        trigger(table.name, "UPDATE", "update digest", dropDayOf(table, "OLD") + dropDayOf(table, "NEW")),
+        trigger(table.name, "DELETE", "delete digest", dropDayOf(table, "OLD")),
+    };
 }
 
 } // namespace norvane::store

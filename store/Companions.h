@@ -32,6 +32,13 @@ struct Companion {
 /// Holds their totals, under the names of the table's fields, numbers as whole numbers or decimal texts.
 [[nodiscard]] QString monthTotalsName(const QString& table);
 
+/// The table that holds digests of days (DayDigests) and the triggers that drop the digest of a day with any
+/// change of its rows. They are made only all together, as those of the months are.
+[[nodiscard]] std::vector<Companion> dayCompanionsOf(const TableDefinition& table);
+
+/// Holds the days, as yyyy-mm-dd, and their digests.
+[[nodiscard]] QString dayDigestsName(const QString& table);
+
 /// Whether rows are added up by this field, which then holds a total; otherwise totals are kept by it.
 [[nodiscard]] inline bool isAddedUp(const FieldDefinition& field)
 {

@@ -42,16 +42,12 @@ bool hasField(const TableDefinition& table, const QString& name)
     });
 }
 
-bool keepsTotals(sqlite3* connection, const QString& table)
+/// The tables that the triggers of @p table keep right, as far as the file has them.
+QStringList tablesOfTriggers(sqlite3* connection, const QString& table)
 {
-    return Schema(connection).declarationOf(addedMonthsName(table)).has_value();
-}
-
-/// What the triggers would do is done here for all rows at once.
-void dropAllTotals(sqlite3* connection, const QString& table)
-{
-    for (const QString& each : {addedMonthsName(table), monthTotalsName(table)})
-        PreparedStatement(connection, "DELETE FROM " + quotedName(each), each).run();
+    QStringList names{addedMonthsName(table), monthTotalsName(table), dayDigestsName(table)};
+    names.removeIf([&](const QString& each) { return !Schema(connection).declarationOf(each); });
+    return names;
 }
 
 } // namespace
@@ -124,9 +120,12 @@ qint64 Database::execute(const QString& sql)
     // Without the triggers of a table the engine frees its pages as a whole. With them it would visit every
     // row: ten years of sales would take minutes instead of seconds.
     std::optional<TriggersAtRest> rest;
-    if (translated.deletesAll && keepsTotals(d->connection(), emptied->name())) {
+    if (const auto kept = tablesOfTriggers(d->connection(), emptied->name());
+        translated.deletesAll && !kept.isEmpty()) {
         rest.emplace(d->connection());
-        dropAllTotals(d->connection(), emptied->name());
+        // What the triggers would do is done here for all rows at once.
+        for (const QString& each : kept)
+            PreparedStatement(d->connection(), "DELETE FROM " + quotedName(each), each).run();
     }
     const qint64 touched = statement.run();
     savepoint.keep();

@@ -61,6 +61,7 @@ public:
 private:
     friend void restoreTables(Database& database, const QString& copy);
     friend class MonthTotals;
+    friend class DayDigests;
     friend class BoundQuery;
     friend class Recordset;
     friend class RowAppend;

@@ -28,25 +28,43 @@ RowAppend::~RowAppend()
         return;
     m_rest.reset();
     try {
-        dropMonths();
+        dropKept();
     } catch (const RuntimeFailure&) {
         m_database.rollBackQuietly();
     }
 }
 
-/// New rows have the highest row ids. Months between the first and the last of theirs are dropped with them:
-/// that costs no more than adding them up once more. The plus keeps the engine from walking the index over
-/// the days, which is as long as the table.
-void RowAppend::dropMonths()
+/// New rows have the highest row ids. What stands between the first and the last of their days is dropped
+/// with theirs: that costs no more than making it once more. The plus keeps the engine from walking the index
+/// over the days, which is as long as the table.
+void RowAppend::dropKept()
 {
+    sqlite3* const connection = m_database.connection();
     const std::string day = quotedName(QLatin1StringView(salestable::day));
-    PreparedStatement drop(m_database.connection(),
-                           "DELETE FROM " + quotedName(addedMonthsName(m_table)) +
-                               " WHERE month BETWEEN (SELECT substr(min(+" + day + "), 1, 7) FROM " +
-                               quotedName(m_table) + " WHERE _rowid_ > ?1) AND (SELECT substr(max(+" + day +
-                               "), 1, 7) FROM " + quotedName(m_table) + " WHERE _rowid_ > ?1)",
+    PreparedStatement days(connection,
+                           "SELECT min(+" + day + "), max(+" + day + ") FROM " + quotedName(m_table) +
+                               " WHERE _rowid_ > ?1",
                            m_table);
-    drop.bind(1, m_lastRow);
+    days.bind(1, m_lastRow);
+    if (!days.step())
+        return;
+    constexpr qsizetype lengthOfMonth = 7;
+    const QString first = days.text(0);
+    const QString last = days.text(1);
+    days.reset();
+    dropBetween(addedMonthsName(m_table), "month", first.left(lengthOfMonth), last.left(lengthOfMonth));
+    if (Schema(connection).declarationOf(dayDigestsName(m_table)))
+        dropBetween(dayDigestsName(m_table), "day", first, last);
+}
+
+void RowAppend::dropBetween(const QString& table, const char* key, const QString& first, const QString& last)
+{
+    PreparedStatement drop(m_database.connection(),
+                           "DELETE FROM " + quotedName(table) + " WHERE " + key + " BETWEEN ?1 AND ?2",
+                           table);
+    const Value range[] = {Value::text(first), Value::text(last)};
+    drop.bind(1, range[0]);
+    drop.bind(2, range[1]);
     drop.run();
 }
 

@@ -288,9 +288,10 @@ void Schema::addCompanions(const TableDefinition& table)
     const Companion index = searchIndexOf(*standing);
     if (!declarationOf(index.name))
         run(index.declaration, u"Table %1."_s.arg(table.name));
-    const auto companions = monthCompanionsOf(*standing);
-    if (!hasAll(companions))
-        makeAnew(companions);
+    for (const auto& companions : {monthCompanionsOf(*standing), dayCompanionsOf(*standing)}) {
+        if (!hasAll(companions))
+            makeAnew(companions);
+    }
 }
 
 void Schema::makeAnew(const std::vector<Companion>& companions)

@@ -3,6 +3,8 @@
 #include "store/MonthTotals.h"
 
 #include "store/Catalogue.h"
+#include "store/DayDigests.h"
+#include "store/RowAppend.h"
 #include "store/Upgrade.h"
 #include "tests/store/Elsewhere.h"
 #include "tests/store/StoreFolder.h"
@@ -145,6 +147,48 @@ TEST_F(MonthTotalsTest, AMonthThatCannotBeAddedUpIsReadFromItsRows)
     const DayRange february{{2028, 2, 1}, {2028, 2, 29}};
     EXPECT_EQ(reportOf(m_totals.rows(february)), reportOfRows(february));
     EXPECT_EQ(failureOf([this] { MonthTotals(m_database, u"PLUDATA"_s); }), 3265);
+}
+
+/// The days of February and March 2028 that still have a digest.
+std::string daysLeft(const DayDigests& digests)
+{
+    std::string left;
+    for (const auto& [day, digest] : digests.standing())
+        left += (left.empty() ? "" : " ") + day.toString(u"d.M="_s).toStdString() + digest;
+    return left;
+}
+
+TEST_F(MonthTotalsTest, DigestsOfDaysGoWithAnyChangeOfTheirRows)
+{
+    const std::pair<const char*, const char*> losses[] = {
+        {"insert into CLERKSALES values (1, 1, '2028-02-01', 1, 1)", "29.2=b 1.3=c"},
+        {"update CLERKSALES set VALUE = VALUE + 1 where SALESDATE = '2028-02-29'", "1.2=a 1.3=c"},
+        {"update CLERKSALES set SALESDATE = '2028-03-01' where SALESDATE = '2028-02-01'", "29.2=b"},
+        {"delete from CLERKSALES where SALESDATE = '2028-02-29' and ID = 2", "1.2=a 1.3=c"},
+        {"insert into CLERKSALES values (1, 1, '2028-03-02', 1, 1)", "1.2=a 29.2=b 1.3=c"},
+        {"drop trigger [CLERKSALES update digest]", ""},
+    };
+    const std::map<QDate, std::string> all{{{2028, 2, 1}, "a"}, {{2028, 2, 29}, "b"}, {{2028, 3, 1}, "c"}};
+    for (const auto& [sql, left] : losses) {
+        DayDigests(m_database, u"clerksales"_s).keep(all);
+        runElsewhere(m_folder.path(), sql);
+        EXPECT_EQ(daysLeft(DayDigests(m_database, u"CLERKSALES"_s)), left) << sql;
+    }
+    completeDatabase(m_folder.path());
+    DayDigests digests(m_database, u"CLERKSALES"_s);
+    EXPECT_EQ(daysLeft(digests), "") << "some may have missed the change of their rows";
+    digests.keep(all);
+    {
+        Transaction transaction(m_database);
+        const RowAppend append(m_database, transaction, u"CLERKSALES"_s);
+        auto sales = m_database.openTable(u"CLERKSALES"_s);
+        test::add(sales, {{"ID", Value::whole(1)},
+                          {"CLERKID", Value::whole(1)},
+                          {"SALESDATE", Value::date({2028, 3, 1})}});
+    }
+    EXPECT_EQ(daysLeft(digests), "1.2=a 29.2=b");
+    m_database.execute(u"delete * from CLERKSALES"_s);
+    EXPECT_EQ(daysLeft(digests), "");
 }
 
 } // namespace
