@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
-scripts/install-packages.sh
+scripts/install-packages.sh --packages
 cmake --preset ci
 cmake --build --preset ci
 # Widgets keep caches until the process ends; what the toolkit itself keeps is not ours to report.

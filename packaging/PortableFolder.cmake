@@ -21,17 +21,21 @@ set(of_system
   "^libX11\\.so" "^libX11-xcb\\.so" "^libxcb\\.so" "^libXau\\.so" "^libXdmcp\\.so" "^libbsd\\.so" "^libmd\\.so"
   "^libfontconfig\\.so" "^libfreetype\\.so" "^libexpat\\.so" "^libpng16\\.so" "^libbrotli" "^libz\\.so")
 
-# Copies the licence of the package that the file of a library came with.
-function(add_licence file)
-  # The system may know the file by its place without /usr.
-  string(REGEX REPLACE "^/usr" "" name "${file}")
-  execute_process(COMMAND dpkg-query --search "*${name}" OUTPUT_VARIABLE owner ERROR_QUIET)
-  string(REGEX MATCH "^[^:,\n]+" package "${owner}")
-  if(package AND EXISTS "/usr/share/doc/${package}/copyright")
+# Copies the licences of the packages that the files came with.
+function(add_licences)
+  # The system may know a file by its place without /usr.
+  list(TRANSFORM ARGN REPLACE "^/usr" "")
+  list(TRANSFORM ARGN PREPEND "*" OUTPUT_VARIABLE patterns)
+  execute_process(COMMAND dpkg-query --search ${patterns} OUTPUT_VARIABLE owners ERROR_QUIET)
+  foreach(file ${ARGN})
+    string(REGEX REPLACE "([.+])" "\\\\\\1" pattern "${file}")
+    string(REGEX MATCH "\n([^:\n]+):[^\n]*${pattern}\n" owner "\n${owners}")
+    set(package "${CMAKE_MATCH_1}")
+    if(NOT owner OR NOT EXISTS "/usr/share/doc/${package}/copyright")
+      message(FATAL_ERROR "No licence was found for ${file}")
+    endif()
     file(COPY_FILE "/usr/share/doc/${package}/copyright" "${folder}/licences/${package}.txt")
-  else()
-    message(FATAL_ERROR "No licence was found for ${file}")
-  endif()
+  endforeach()
 endfunction()
 
 list(TRANSFORM plugins PREPEND "${qt_plugins}/" OUTPUT_VARIABLE plugin_files)
@@ -47,8 +51,11 @@ foreach(library ${libraries})
   get_filename_component(name "${library}" NAME)
   file(REAL_PATH "${library}" library)
   file(COPY_FILE "${library}" "${folder}/libraries/${name}")
-  add_licence("${library}")
+  list(APPEND brought "${library}")
 endforeach()
+add_licences(${brought})
+# This one is part of the programs.
+file(COPY_FILE /usr/share/doc/libsqlitecpp-dev/copyright "${folder}/licences/libsqlitecpp.txt")
 foreach(plugin ${plugins})
   get_filename_component(kind "${plugin}" DIRECTORY)
   file(COPY "${qt_plugins}/${plugin}" DESTINATION "${folder}/plugins/${kind}")
