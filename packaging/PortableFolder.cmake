@@ -47,7 +47,7 @@ file(GET_RUNTIME_DEPENDENCIES
 
 file(MAKE_DIRECTORY "${folder}/libraries" "${folder}/licences")
 foreach(library ${libraries})
-  # Under the name that the programs ask for, without links: a memory stick knows none.
+  # Under the name that the programs ask for, without links: not every disk knows any.
   get_filename_component(name "${library}" NAME)
   file(REAL_PATH "${library}" library)
   file(COPY_FILE "${library}" "${folder}/libraries/${name}")

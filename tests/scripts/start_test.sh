@@ -85,17 +85,17 @@ shop check CAFE >"$root/check" || fail "check: $(cat "$root/check")"
 expect "the shipped screen is back" links_to "$folder/Smode.scn" "$shipped/Smode.scn"
 expect "and the one that was edited" links_to "$folder/PLU.scn" "$shipped/PLU.scn"
 
-# The window in a folder that several users share, started from anywhere.
-shared=$root/shared
+# The window in a folder that the user names, started from anywhere.
+named=$root/shared
 cd /
-NORVANE_FOLDER=$shared QT_QPA_PLATFORM=offscreen "$usr/bin/norvane" &
+NORVANE_FOLDER=$named QT_QPA_PLATFORM=offscreen "$usr/bin/norvane" &
 window=$!
 for ((tries = 0; tries < 200; tries++)); do
-  [ "$(readlink "/proc/$window/cwd")" != "$shared" ] || break
+  [ "$(readlink "/proc/$window/cwd")" != "$named" ] || break
   sleep 0.1
 done
-expect "the window works in the shared folder" [ "$(readlink "/proc/$window/cwd")" = "$shared" ]
-expect "which is made" links_to "$shared/PLU.scn" "$shipped/PLU.scn"
+expect "the window works in the named folder" [ "$(readlink "/proc/$window/cwd")" = "$named" ]
+expect "which is made" links_to "$named/PLU.scn" "$shipped/PLU.scn"
 kill "$window"
 wait "$window" 2>/dev/null || true
 
