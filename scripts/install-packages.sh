@@ -17,7 +17,7 @@ for option in "$@"; do
   case "$option" in
     --checks) packages+=(clang-format clang-tidy cups-daemon cups-client) ;;
     --clang) packages+=(clang-16) ;;
-    --packages) packages+=(dpkg-dev patchelf) ;;
+    --packages) packages+=(dpkg-dev file patchelf) ;;
     *) echo "usage: scripts/install-packages.sh [--checks] [--clang] [--packages]" >&2; exit 2 ;;
   esac
 done
