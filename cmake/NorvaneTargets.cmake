@@ -15,6 +15,10 @@ if(NORVANE_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1 -g1)
   target_link_options(norvane_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(NORVANE_FUZZ)
+  target_compile_options(norvane_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(norvane_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # norvane_library(<name> SOURCES <files> [LINKS <libraries that callers see too>])
 # Headers are included by their folder ("store/Database.h"); what may be called is what is linked.

@@ -107,7 +107,7 @@ void DocumentEditor::restart(const QString& fileName, const QString& fileInHand)
 
 void DocumentEditor::newFile(const QString& path)
 {
-    edit({}, [this](Document& document) { document = Document(document.keyboard()); });
+    edit({}, [](Document& document) { document = Document(document.keyboard()); });
     m_history.clear();
     restart(path, {});
 }

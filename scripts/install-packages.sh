@@ -3,6 +3,7 @@
 #   --checks   also what .ci/run checks the sources with, and a print server for a test's own queue
 #   --clang    also the compiler of the preset clang
 #   --packages also what ./package.sh makes packages with
+#   --fuzz     also what the preset fuzz needs: that compiler, libFuzzer and its sanitizers
 set -euo pipefail
 
 packages=(
@@ -18,7 +19,8 @@ for option in "$@"; do
     --checks) packages+=(clang-format clang-tidy cups-daemon cups-client) ;;
     --clang) packages+=(clang-16) ;;
     --packages) packages+=(dpkg-dev file patchelf) ;;
-    *) echo "usage: scripts/install-packages.sh [--checks] [--clang] [--packages]" >&2; exit 2 ;;
+    --fuzz) packages+=(clang-16 libclang-rt-16-dev) ;;
+    *) echo "usage: scripts/install-packages.sh [--checks] [--clang] [--packages] [--fuzz]" >&2; exit 2 ;;
   esac
 done
 

@@ -10,10 +10,10 @@ namespace norvane::test
 
 namespace
 {
-// Tests, benchmarks and scripts drive whatever they need.
+// Tests, benchmarks, fuzz targets and scripts drive whatever they need.
 bool ofProduct(const Target& target)
 {
-    static const QStringList beside = {u""_s, u"tests"_s, u"bench"_s, u"scripts"_s};
+    static const QStringList beside = {u""_s, u"tests"_s, u"bench"_s, u"fuzz"_s, u"scripts"_s};
     return !beside.contains(target.folder);
 }
 

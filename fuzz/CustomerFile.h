@@ -1,0 +1,46 @@
+// A customer's database for the fuzz targets, made once for a process.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "platform/Boxes.h"
+#include "store/Database.h"
+
+#include <functional>
+
+namespace norvane::fuzz
+{
+
+/// The values of a customer in scratchFolder(), whose folder is the program's folder too. The database holds
+/// all tables of the catalogue, empty.
+[[nodiscard]] const ApplicationValues& customer();
+
+/// That database, opened once.
+[[nodiscard]] store::Database& customerDatabase();
+
+/// Runs @p work and takes back what it did to customerDatabase(): an input must not find what another left.
+/// The recordsets that @p work opens must be gone at its end.
+void undone(const std::function<void()>& work);
+
+/// The setting for the kind of register, 0 to 3.
+void setModel(int model);
+
+/// Nobody sits before them: every question gets the answer that loses nothing.
+class SilentBoxes : public Boxes
+{
+public:
+    void message(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/) override {}
+    bool ask(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/,
+             BoxAnswer /*preset*/) override
+    {
+        return false;
+    }
+    QString input(const QString& /*prompt*/, const QString& /*title*/, const QString& /*initial*/) override
+    {
+        return {};
+    }
+    QString fileToOpen(const FileRequest& /*request*/) override { return {}; }
+    QString fileToSave(const FileRequest& /*request*/) override { return {}; }
+    void beep() override {}
+};
+
+} // namespace norvane::fuzz

@@ -1,0 +1,37 @@
+// Spreadsheets of PLUs: whatever somebody saved as CSV.
+#include "command/PluFile.h"
+#include "fuzz/Target.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace norvane::fuzz
+{
+namespace
+{
+
+void requireWhole(const command::PluFile& file, qint64 lines)
+{
+    std::unordered_set<std::string> numbers;
+    for (const auto& line : file.lines) {
+        require(line.line >= 1 && line.line <= lines, "a line that was read lies within the file");
+        require(line.cells.size() == file.columns.size(), "a line has a cell for each column");
+        require(line.number.size() >= 1 && numbers.insert(line.number).second, "a number stands there once");
+    }
+    for (const auto& mistake : file.mistakes) {
+        require(mistake.line >= 1 && mistake.line <= lines, "a mistake names a line within the file");
+        require(!mistake.reason.isEmpty(), "a mistake has a reason");
+    }
+}
+
+} // namespace
+
+void tryInput(std::string_view input)
+{
+    const QByteArray content(input.data(), static_cast<qsizetype>(input.size()));
+    const auto ends =
+        std::count(input.begin(), input.end(), '\n') + std::count(input.begin(), input.end(), '\r');
+    requireWhole(command::readPluFile(content), ends + 1);
+}
+
+} // namespace norvane::fuzz

@@ -1,0 +1,88 @@
+#!/usr/bin/env bash
+# usage: fuzz/make-seeds.sh <folder of the built tools> <folder for the seeds>
+# Makes a first corpus for every fuzz target: what the stand-in tools write for each model, the screens and report files,
+# and a few lines of what people write. Each target tells at its top what its inputs begin with.
+set -euo pipefail
+tools=$(cd "$1" && pwd)
+seeds=$2
+source_root=$(cd "$(dirname "$0")/.." && pwd)
+data=$source_root/data
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export ASAN_OPTIONS=detect_leaks=0
+
+rm -rf "$seeds"
+mkdir -p "$seeds"/{records,procedures,memory,poll,status,profile,screens,layouts,formulas,overlay,plufile}
+
+byte() { printf "\\x$(printf %02x "$1")"; }
+
+# The text files of a register of each kind, and its reports after a day.
+words=(Velmaro Velmaro Velmarn Dorvik)
+for kind in 0 1 2 3; do
+  word=${words[$kind]}
+  "$tools/makebank" "$work/bank$kind" --model "$kind" --plus 40 >/dev/null
+  "$tools/ringsales" "$work/bank$kind" --tickets 10 --seed 1 >/dev/null
+  mkdir "$work/app$kind"
+  cd "$work/app$kind"
+  printf '[Bank]\r\nFolder=../bank%s\r\n' "$kind" > registers.ini
+  cp "$work/bank$kind"/1/*.dat .
+  for binary in *.dat; do
+    file=${binary%.dat}
+    "$tools/convert" "w$word" "f$binary" "t$file.txt" "u$(printf %02d "$file")" 2>/dev/null || continue
+    { byte "$file"; byte "$kind"; byte 0; head -n 4 "$file.txt"; } > "$seeds/records/$file-$kind"
+    { byte "$file"; byte "$kind"; head -n 12 "$file.txt"; } > "$seeds/procedures/$file-$kind"
+  done
+  for operation in u52 u352; do
+    if "$tools/convert" "w$word" f52.dat t52.txt "$operation" 2>/dev/null; then
+      { byte "$kind"; cat 52.txt; } > "$seeds/memory/$operation-$kind"
+    fi
+  done
+  "$tools/VELMARCOMM" 9600 F1 1T P0001010100010000000000000000000000000000000000000000000100 -Z >/dev/null 2>&1 || true
+  cp status.out "$seeds/status/$kind"
+  "$tools/VELMARCOMM" 9600 F1 1T -P 190 191 192 194 218 >/dev/null 2>&1 || true
+  place=0
+  for report in 190 194 191 218 192; do
+    if "$tools/convert" "w$word" "fpoll$report.dll" "tPOLL$report.txt" "S$report" 2>/dev/null; then
+      stamp=$(od -An -tu1 -j4 -N1 poll194.dll)
+      { byte "$place"; byte "$stamp"; head -n 30 "POLL$report.txt"; } > "$seeds/poll/$report-$kind"
+    fi
+    place=$((place + 1))
+  done
+done
+cd "$source_root"
+
+for file in "$data"/*.scn; do
+  cp "$file" "$seeds/screens/"
+done
+for file in "$data"/*.rpt; do
+  cp "$file" "$seeds/layouts/"
+done
+for file in "$data/setup.ini" "$data/plutble.scn"; do
+  { printf 'SetupOption\nECRModel\n3\n'; cat "$file"; } > "$seeds/profile/$(basename "$file")"
+done
+for status in '0' '8' '-13' '"12",' $'99\r\n'; do
+  printf '%s' "$status" > "$seeds/status/$(printf '%s' "$status" | cksum | cut -d' ' -f1)"
+done
+
+# Selections and expressions as the report files have them, and the periods.
+number=0
+formula() { number=$((number + 1)); printf '%s' "$1" > "$seeds/formulas/$number"; }
+for period in monthtodate weektodate yeartodate lastfullmonth; do
+  formula "s{PLUSALES.SALESDATE} in $period"
+done
+formula 's{PLUSALES.SALESDATE} in date(2026,1,1) to date(2026,1,31) and not ({PLUSALES.ID} = "17" or {PLUSALES.COUNT1} <= 0)'
+formula 's3 < {PLUDATA.PRICE1} and {PLUDATA.DESCRIPTION} <> "Tea"'
+while IFS= read -r line; do
+  formula "s$line"
+done < <(grep -h -i '^where=' "$data"/*.rpt | cut -d= -f2- | tr -d '\r')
+while IFS= read -r line; do
+  formula "e$line"
+done < <(grep -h -i -E '^(number|value|shownif)=' "$data"/*.rpt | cut -d= -f2- | tr -d '\r' | sort -u)
+
+for keyboard in 0 1 2 3; do
+  { byte "$keyboard"; printf 'Tea\r\n16777215\r\n0\r\nArial\r\n8\r\nTrue\r\nFalse\r\n  Cup\r\n-2147483633\r\n255\r\nCourier New\r\n8.25\r\nFalse\r\nTrue\r\n'; } \
+    > "$seeds/overlay/$keyboard"
+done
+
+printf 'Number,Description,Group,Status,Price 1\r\n17,"Tea, black",1,1,2.50\r\n018,Coffee,2,1,3\r\n' > "$seeds/plufile/commas"
+printf '\xef\xbb\xbfPLU report;;\r\nNumber;Price 2;Description\r\n17;2,50;"said ""tea"""\r\n17;1;\r\n;;\r\n' > "$seeds/plufile/semicolons"
