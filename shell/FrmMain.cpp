@@ -88,11 +88,12 @@ QMdiArea* FrmMain::makeArea()
     return area;
 }
 
-/// F10 leads into the menu as the Alt key alone does.
+/// F10 leads into the menu as the Alt key alone does. A press of Alt says itself that Alt is held, so the
+/// event names no other key.
 void FrmMain::takeMenuKey()
 {
     connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this, [this] {
-        QKeyEvent pressed(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
+        QKeyEvent pressed(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier);
         QKeyEvent released(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
         QCoreApplication::sendEvent(this, &pressed);
         QCoreApplication::sendEvent(this, &released);

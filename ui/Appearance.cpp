@@ -8,6 +8,7 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QWidget>
 
 using namespace Qt::Literals::StringLiterals;
@@ -29,6 +30,19 @@ public:
         return hint == SH_DialogButtonBox_ButtonsHaveIcons
                    ? 0
                    : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+
+    /// Marks the entry of the menu bar that Alt and the arrow keys have reached. Fusion marks it only once
+    /// its menu is open.
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        const auto* const entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        if (element != CE_MenuBarItem || !entry || !entry->state.testFlag(State_Selected))
+            return QProxyStyle::drawControl(element, option, painter, widget);
+        QStyleOptionMenuItem marked(*entry);
+        marked.state |= State_Sunken;
+        QProxyStyle::drawControl(element, &marked, painter, widget);
     }
 };
 

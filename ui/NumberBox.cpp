@@ -1,6 +1,8 @@
 // Typing rules of the number boxes; see NumberBox.h.
 #include "ui/NumberBox.h"
 
+#include <QFocusEvent>
+#include <QMouseEvent>
 #include <QToolTip>
 #include <QValidator>
 
@@ -110,6 +112,29 @@ bool NumberBox::isTooLarge(const QString& text) const
     const QStringView digits = withoutLeadingZeros(text);
     return digitsIn(digits) > mostDigits ||
            (!m_maximum.isEmpty() && !text.startsWith(u'-') && isAbove(text, m_maximum));
+}
+
+void NumberBox::focusInEvent(QFocusEvent* event)
+{
+    m_isFirstClick = event->reason() == Qt::MouseFocusReason;
+    QLineEdit::focusInEvent(event);
+}
+
+/// A click sets the cursor when the button goes down, so the number is chosen when it goes up. A part that
+/// was chosen by dragging stays.
+void NumberBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (m_isFirstClick && !hasSelectedText())
+        selectAll();
+    m_isFirstClick = false;
+}
+
+/// The digits before the point are a word of their own otherwise.
+void NumberBox::mouseDoubleClickEvent(QMouseEvent* /*event*/)
+{
+    selectAll();
+    m_isFirstClick = false;
 }
 
 void NumberBox::takeTyping(const QString& text)

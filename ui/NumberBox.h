@@ -11,7 +11,9 @@ namespace norvane::ui
 /// A box for one number without a sign: registers know no negative amounts, so that no minus can be typed. A
 /// stored negative number is shown all the same and stays what it is until it is typed over. Holds up to 18
 /// digits. An empty box counts as 0. Setting a value by program raises no signal. The tool tip tells from
-/// where to where the number may go; it opens by itself at a key that the box does not take.
+/// where to where the number may go; it opens by itself at a key that the box does not take. The first click
+/// into the box and a double click choose the whole number, so that what is typed replaces it: half a price
+/// that stays makes 290.20 of 2.90.
 class NumberBox : public QLineEdit
 {
     Q_OBJECT
@@ -36,6 +38,9 @@ protected:
     [[nodiscard]] virtual QString shownText(const Decimal& value) const = 0;
     /// Puts the range into the tool tip; after a change of what decides on it.
     void tellRange();
+    void focusInEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
     void takeTyping(const QString& text);
@@ -43,7 +48,8 @@ private:
 
     class Validator;
     Validator* m_validator;
-    QString m_maximum; ///< plain number text; empty without a maximum
+    bool m_isFirstClick = false; ///< the mouse button that brought the focus is still down
+    QString m_maximum;           ///< plain number text; empty without a maximum
 };
 
 } // namespace norvane::ui

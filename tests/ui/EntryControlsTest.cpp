@@ -85,6 +85,25 @@ TEST(NumberBox, TellsItsRangeAndOpensItAtAKeyThatItDoesNotTake)
     }
 }
 
+TEST(NumberBox, APriceTypedAfterAClickOrADoubleClickReplacesTheFormerOne)
+{
+    QWidget form;
+    DecimalBox first(&form);
+    DecimalBox price(&form);
+    price.move(0, 50);
+    form.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    for (const auto click : {QTest::MouseClick, QTest::MouseDClick}) {
+        first.setFocus();
+        price.setValue(Decimal(320, 2));
+        QTest::mouseEvent(click, &price, Qt::LeftButton, {}, {});
+        QTest::keyClicks(&price, u"2.90"_s);
+        EXPECT_EQ(price.text(), u"2.90"_s);
+    }
+    QTest::mouseClick(&price, Qt::LeftButton);
+    EXPECT_FALSE(price.hasSelectedText()) << "the next click sets the cursor";
+}
+
 TEST(NumberBox, WithoutAMaximumWhatItCanHoldIsTheLargest)
 {
     IntegerBox whole;
