@@ -56,6 +56,7 @@ cp --remove-destination "$shipped/PLU.scn" "$folder/PLU.scn"
 cp "$shipped/Taxes.scn" "$folder/TAXES.SCN"
 echo mine >"$folder/notes.txt"
 ln -s /nowhere "$folder/stick"
+ln -s "$shipped/Payrate.scn" "$folder/wages.scn"
 edited=$(stat -c %i "$folder/PLU.scn")
 
 # The update adds a screen, replaces one, and takes one away; the dealer brings a tool, and a screen for all users.
@@ -76,6 +77,7 @@ expect "the shipped one makes room" is_absent "$folder/Smode.scn"
 expect "the dealer's tool is linked" links_to "$folder/VELMARCOMM" "$dealers/VELMARCOMM"
 expect "a file of the user stays" grep -q mine "$folder/notes.txt"
 expect "a link of the user stays" [ -L "$folder/stick" ]
+expect "also one to our file" [ -L "$folder/wages.scn" ]
 expect "the customer is whole" [ -s "$folder/CAFE/velmar.mdb" ]
 
 # The dealer takes the screen back, the user the edited one.
