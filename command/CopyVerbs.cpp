@@ -1,4 +1,5 @@
 // Safety copies: which there are, and the way back to one.
+#include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
 #include "customers/RunLock.h"
 #include "customers/SafetyCopies.h"
@@ -31,7 +32,7 @@ customers::SafetyCopy copyOf(const QString& customerPath, const QString& name)
 
 void listCopies(const Workplace& workplace, const Invocation& words)
 {
-    const ApplicationValues values = takeCustomer(workplace, words.operands.front());
+    const ApplicationValues values = findCustomer(workplace, words.operands.front());
     Listing listing({u"Name"_s, u"Made"_s, u"Reason"_s});
     for (const auto& copy : customers::safetyCopies(values.customerPath))
         listing.add({copy.name, copy.made, copy.reason});
@@ -40,10 +41,12 @@ void listCopies(const Workplace& workplace, const Invocation& words)
 
 void restore(const Workplace& workplace, const Invocation& words)
 {
-    const ApplicationValues values = takeCustomer(workplace, words.operands[0]);
+    const ApplicationValues values = findCustomer(workplace, words.operands[0]);
     const auto copy = copyOf(values.customerPath, words.operands[1]);
     const auto lock = lockFor(workplace, values);
-    customers::restoreSafetyCopy(values.customerPath, copy);
+    const QString told = customers::restoreSafetyCopy(values.customerPath, copy);
+    if (!told.isEmpty())
+        tell(told);
 }
 
 } // namespace norvane::command

@@ -79,12 +79,9 @@ QStringList missingIn(const QString& database)
             missing << u"There is no table %1."_s.arg(table.name);
             continue;
         }
-        const auto stored = opened.table(table.name).fields;
+        const auto stored = opened.table(table.name);
         for (const auto& field : table.fields) {
-            const auto isIt = [&field](const auto& other) {
-                return other.name.compare(field.name, Qt::CaseInsensitive) == 0;
-            };
-            if (std::ranges::none_of(stored, isIt))
+            if (store::fieldNamed(stored, field.name) == nullptr)
                 missing << u"The table %1 has no field %2."_s.arg(table.name, field.name);
         }
     }

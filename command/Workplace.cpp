@@ -4,6 +4,7 @@
 #include "command/ExitCode.h"
 #include "customers/CustomerFolders.h"
 #include "customers/RunLock.h"
+#include "customers/SafetyCopies.h"
 #include "platform/FilePaths.h"
 
 #include <QDir>
@@ -26,17 +27,39 @@ void Workplace::show(const Listing& listing) const
     std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
 }
 
+ApplicationValues findCustomer(const Workplace& workplace, const QString& name)
+{
+    QStringList found = customers::foldersNamed(workplace.appPath, name);
+    found.removeIf([](const QString& folder) {
+        return !pathExists(customers::customerDatabase(folder)) && customers::safetyCopies(folder).isEmpty();
+    });
+    if (found.isEmpty()) {
+        throw CommandError(ExitCode::NoCustomer,
+                           u"There is no customer \"%1\" in %2."_s.arg(name, workplace.appPath));
+    }
+    if (found.size() > 1) {
+        throw CommandError(ExitCode::NoSuchName,
+                           u"\"%1\" may be each of the folders %2. Spell it as one of them."_s.arg(
+                               name, found.join(u", "_s)));
+    }
+    ApplicationValues values;
+    values.appPath = workplace.appPath;
+    values.customerName = QDir(workplace.appPath).relativeFilePath(found.front());
+    values.customerPath = found.front();
+    values.databasePath = customers::customerDatabase(values.customerPath);
+    return values;
+}
+
 ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
 {
     using customers::CustomerChoice;
-    ApplicationValues values;
-    values.appPath = workplace.appPath;
+    ApplicationValues values = findCustomer(workplace, name);
     const CommandError none(ExitCode::NoCustomer,
-                            u"There is no customer \"%1\" in %2."_s.arg(name, workplace.appPath));
+                            u"The customer \"%1\" has no database %2."_s.arg(name, values.databasePath));
     // Choosing one that is not there would make it.
-    if (!pathExists(customers::customerDatabase(joinPath(workplace.appPath, name))))
+    if (!pathExists(values.databasePath))
         throw none;
-    switch (customers::chooseCustomer(values, name)) {
+    switch (customers::chooseCustomer(values, values.customerName)) {
     case CustomerChoice::Damaged:
         throw CommandError(ExitCode::Unsound, customers::damageReport(values.customerPath));
     case CustomerChoice::InvalidEntry:
@@ -46,7 +69,6 @@ ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
     case CustomerChoice::Taken:
         break;
     }
-    values.databasePath = customers::customerDatabase(values.customerPath);
     return values;
 }
 

@@ -27,9 +27,13 @@ struct Workplace {
     void show(const Listing& listing) const;
 };
 
-/// The values of an existing customer, found without regard to case. Its database is brought to the current
-/// layout, as at a choice in the window.
-/// @throws CommandError NoCustomer; Unsound when its database is damaged.
+/// The values of an existing customer, found without regard to case where only one is meant. Its database is
+/// not opened and may be damaged or gone.
+/// @throws CommandError NoCustomer; NoSuchName when the name fits several.
+[[nodiscard]] ApplicationValues findCustomer(const Workplace& workplace, const QString& name);
+
+/// The same; its database is brought to the current layout, as at a choice in the window.
+/// @throws CommandError as well Unsound when its database is damaged.
 [[nodiscard]] ApplicationValues takeCustomer(const Workplace& workplace, const QString& name);
 
 /// @throws CommandError Busy when another run works with the customer.

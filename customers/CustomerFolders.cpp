@@ -143,12 +143,32 @@ QStringList customerFolders(const QString& appPath)
     return names;
 }
 
+QStringList foldersNamed(const QString& appPath, const QString& name)
+{
+    if (trimBlanks(name).isEmpty() || !staysInside(name))
+        return {};
+    const QFileInfo wanted(joinPath(appPath, name));
+    if (wanted.isDir())
+        return {wanted.filePath()};
+    QStringList found;
+    const QDir above(existingPath(wanted.path()));
+    for (const QString& entry :
+         above.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name)) {
+        if (entry.compare(wanted.fileName(), Qt::CaseInsensitive) == 0)
+            found << above.filePath(entry);
+    }
+    return found;
+}
+
 QString damageReport(const QString& customerPath)
 {
     const QString database = customerDatabase(customerPath);
-    return u"The database of this customer is damaged:\r%1\r\r%2\r\rNothing was changed in it. Put a copy of "
-           u"the customer's "
-           "folder in its place, then choose the customer again."_s.arg(database, store::damageOf(database));
+    const bool hasCopies = pathExists(joinPath(customerPath, u"copies"_s));
+    const QString way = hasCopies ? u"Put a safety copy (right mouse button on the customer's line, or "
+                                    "norvane-shop restore) or a copy of the customer's folder"_s
+                                  : u"Put a copy of the customer's folder"_s;
+    return u"The database of this customer is damaged:\r%1\r\r%2\r\rNothing was changed in it. %3 in its "
+           u"place, then choose the customer again."_s.arg(database, store::damageOf(database), way);
 }
 
 QString customerDatabase(const QString& customerPath)

@@ -11,6 +11,10 @@ namespace norvane::customers
 /// All folders in @p appPath, in upper case and sorted by name, with or without a database in them.
 [[nodiscard]] QStringList customerFolders(const QString& appPath);
 
+/// The folders in @p appPath that @p name may mean: the one that is spelled so, or all that differ in case
+/// only. None for a blank name and for one that leads out of the program's folder. Opens nothing.
+[[nodiscard]] QStringList foldersNamed(const QString& appPath, const QString& name);
+
 enum class CustomerChoice {
     InvalidEntry, ///< blank name
     Created,      ///< folder with copies of the template database and settings, new or completed

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -98,21 +99,90 @@ private:
     bool m_isKept = false;
 };
 
-} // namespace
-
-SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, store::CopyOf what,
-                          const QDateTime& now)
+/// @param what nothing: the files alone.
+SafetyCopy makeCopy(const QString& customerPath, const QString& reason, std::optional<store::CopyOf> what,
+                    const QDateTime& now)
 {
     const QString folder = copiesFolder(customerPath);
     UnfinishedFolder unfinished(joinPath(folder, u"unfinished"_s));
     const QString path = joinPath(folder, u"unfinished"_s);
-    if (pathExists(customerDatabase(customerPath)))
-        store::copyDatabase(customerDatabase(customerPath), joinPath(path, databaseName), what);
+    if (what)
+        store::copyDatabase(customerDatabase(customerPath), joinPath(path, databaseName), *what);
     copyFiles(customerPath, path);
     SafetyCopy copy = copyOfFolder(folder, freeName(folder, now.toString(timeFormat) + u' ' + reason));
     unfinished.keepAs(copy.path);
     removeOldCopies(customerPath, now);
     return copy;
+}
+
+QString databaseOf(const SafetyCopy& copy)
+{
+    return joinPath(copy.path, databaseName);
+}
+
+/// @throws RuntimeFailure 53 for a copy without a database, as one of the files alone is, 3343 for a damaged
+/// one.
+void checkCopy(const SafetyCopy& copy)
+{
+    const QString path = databaseOf(copy);
+    const QString damage = store::damageOf(path);
+    if (!damage.isEmpty())
+        throw RuntimeFailure(Failure::NotOurDatabase, u"The copy %1 is damaged: %2"_s.arg(path, damage));
+    const store::Database opened(path);
+}
+
+void move(const QString& from, const QString& to)
+{
+    if (!QFile::rename(from, to)) {
+        throw RuntimeFailure(Failure::PathOrFileAccess,
+                             u"Path/File access error: %1 cannot be renamed to %2"_s.arg(from, to));
+    }
+}
+
+/// Sets a damaged database aside with the journal that belongs to it, and puts @p made in its place.
+/// @return the name under which the damaged one is kept; empty when there was none.
+QString exchangeDatabase(const QString& customerPath, const QString& made)
+{
+    const QString database = customerDatabase(customerPath);
+    if (!pathExists(database)) {
+        move(made, database);
+        return {};
+    }
+    const QString wanted = u"velmar.damaged-"_s + QDateTime::currentDateTime().toString(timeFormat);
+    const QString aside = freeName(customerPath, wanted);
+    move(database, joinPath(customerPath, aside));
+    QFile::rename(database + u"-journal"_s, joinPath(customerPath, aside + u"-journal"_s));
+    try {
+        move(made, database);
+    } catch (const RuntimeFailure&) {
+        QFile::rename(joinPath(customerPath, aside), database);
+        throw;
+    }
+    return aside;
+}
+
+/// A new database from the copy, in the place of one that is damaged. @return what to tell of it.
+QString replaceDatabase(const QString& customerPath, const SafetyCopy& copy)
+{
+    const QString made = joinPath(customerPath, u"velmar.restored"_s);
+    const QStringList lost = store::rebuildDatabase(databaseOf(copy), customerDatabase(customerPath), made);
+    const QString aside = exchangeDatabase(customerPath, made);
+    QStringList told;
+    if (!aside.isEmpty())
+        told << u"The damaged database is kept as %1."_s.arg(aside);
+    if (!lost.isEmpty())
+        told << u"These tables begin empty, because the copy has none and they could not be read: %1."_s.arg(
+            lost.join(u", "_s));
+    return told.join(u'\r');
+}
+
+} // namespace
+
+SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, store::CopyOf what,
+                          const QDateTime& now)
+{
+    const bool hasDatabase = pathExists(customerDatabase(customerPath));
+    return makeCopy(customerPath, reason, hasDatabase ? std::optional(what) : std::nullopt, now);
 }
 
 QList<SafetyCopy> safetyCopies(const QString& customerPath)
@@ -130,23 +200,41 @@ QList<SafetyCopy> safetyCopies(const QString& customerPath)
 
 bool holdsSales(const SafetyCopy& copy)
 {
-    return store::Database(joinPath(copy.path, databaseName))
-        .hasTable(QLatin1String(store::salestable::plus));
+    return store::Database(databaseOf(copy)).hasTable(QLatin1String(store::salestable::plus));
 }
 
-void restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy)
+bool needsNewDatabase(const QString& customerPath)
+{
+    const QString database = customerDatabase(customerPath);
+    if (!pathExists(database) || !store::damageOf(database).isEmpty())
+        return true;
+    try {
+        const store::Database opened(database);
+        return false;
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() == Failure::NotOurDatabase)
+            return true;
+        throw;
+    }
+}
+
+QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy)
 {
     LoggedWork work(customerPath, u"restore"_s);
-    const QString copied = joinPath(copy.path, databaseName);
-    const QString damage = store::damageOf(copied);
-    if (!damage.isEmpty())
-        throw RuntimeFailure(Failure::NotOurDatabase, u"The copy %1 is damaged: %2"_s.arg(copied, damage));
-    makeSafetyCopy(customerPath, u"before restore"_s,
-                   holdsSales(copy) ? store::CopyOf::Everything : store::CopyOf::Programme);
-    store::Database database(customerDatabase(customerPath));
-    store::restoreTables(database, copied);
+    checkCopy(copy);
+    QString told;
+    if (needsNewDatabase(customerPath)) {
+        makeCopy(customerPath, u"before restore, files alone"_s, {}, QDateTime::currentDateTime());
+        told = replaceDatabase(customerPath, copy);
+    } else {
+        makeSafetyCopy(customerPath, u"before restore"_s,
+                       holdsSales(copy) ? store::CopyOf::Everything : store::CopyOf::Programme);
+        store::Database database(customerDatabase(customerPath));
+        store::restoreTables(database, databaseOf(copy));
+    }
     copyFiles(copy.path, customerPath);
-    work.setResult(u"restored %1"_s.arg(copy.name));
+    work.setResult(u"restored %1"_s.arg(copy.name) + (told.isEmpty() ? QString() : u". "_s + told));
+    return told;
 }
 
 bool copyBeforeJob(const ApplicationValues& values, Boxes& boxes, const QString& reason, store::CopyOf what)

@@ -33,11 +33,17 @@ SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, st
 /// Whether sales come back from it, too. @throws RuntimeFailure 53, 3343 for a copy without a sound database.
 [[nodiscard]] bool holdsSales(const SafetyCopy& copy);
 
+/// Whether the customer's database is gone, damaged or no database any more, so that a restore sets it aside.
+/// @throws RuntimeFailure 3260, 75 when that cannot be told.
+[[nodiscard]] bool needsNewDatabase(const QString& customerPath);
+
 /// Puts tables, settings and register files back as the copy holds them, after a copy of how they stand now.
 /// Sales come back only from a copy that holds them. Files that the copy does not hold stay. The database
-/// comes back wholly or not at all; the files follow it.
+/// comes back wholly or not at all; the files follow it. A database that is damaged is kept beside a new one,
+/// which takes over the sales that can still be read.
+/// @return what the user must know about a damaged database; empty when there was none.
 /// @throws RuntimeFailure as makeSafetyCopy(), and 3343 for a damaged copy, before anything was changed.
-void restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy);
+QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy);
 
 /// A copy of the customers that a job is about to change: the one whose database is in use and, where that is
 /// another, the one whose folder takes the register files.

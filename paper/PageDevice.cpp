@@ -24,8 +24,11 @@ QPainter& PageDevice::nextPage()
 {
     const bool began = m_isBegun ? m_device.newPage() : m_painter.begin(&m_device);
     m_hasFailed = m_hasFailed || !began;
-    if (!m_isBegun && began)
+    if (!m_isBegun && began) {
         startAtCorner();
+    } else if (!m_isBegun) {
+        m_painter.begin(&m_nowhere);
+    }
     m_isBegun = true;
     return m_painter;
 }

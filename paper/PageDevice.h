@@ -1,6 +1,7 @@
 // Paper that is drawn on page by page: a PDF file or a printer.
 #pragma once
 
+#include <QImage>
 #include <QPagedPaintDevice>
 #include <QPageLayout>
 #include <QPainter>
@@ -25,6 +26,9 @@ private:
     void startAtCorner();
 
     QPagedPaintDevice& m_device;
+    /// Takes what is painted when the device cannot be begun: a painter without a device complains about each
+    /// stroke.
+    QImage m_nowhere{1, 1, QImage::Format_Mono};
     QPainter m_painter;
     bool m_isBegun = false;
     bool m_hasFailed = false;

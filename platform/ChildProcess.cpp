@@ -8,6 +8,12 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <sys/prctl.h>
+#include <unistd.h>
+#endif
+
 namespace norvane
 {
 namespace
@@ -50,6 +56,20 @@ void waitForEnd(QProcess& child, const ChildWatch& watch)
     }
 }
 
+/// Lets the child die with this program. It would go on talking to the registers otherwise, while the lock of
+/// the run is free again and the next run begins. Other platforms have no such signal; there the child stays.
+void bindToParent([[maybe_unused]] QProcess& child)
+{
+#ifdef Q_OS_LINUX
+    child.setChildProcessModifier([parent = getpid()] {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        // It may have died before the signal was asked for.
+        if (getppid() != parent)
+            _exit(1);
+    });
+#endif
+}
+
 } // namespace
 
 QStringList commandWords(const QString& commandLine)
@@ -81,6 +101,7 @@ ChildResult runAndWait(const QString& commandLine, const QString& programFolder,
     QProcess child;
     child.setProcessChannelMode(QProcess::ForwardedChannels);
     child.setInputChannelMode(QProcess::ForwardedInputChannel);
+    bindToParent(child);
     child.start(program, words);
     if (!child.waitForStarted(-1))
         return ChildResult::NotStarted;

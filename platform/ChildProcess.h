@@ -30,7 +30,8 @@ struct ChildWatch {
 };
 
 /// Starts @p commandLine in the working directory with this process's environment and waits for its end
-/// without a time limit. The exit code is not told: the tools report through their files.
+/// without a time limit. The exit code is not told: the tools report through their files. On Linux the child
+/// is killed when this program dies.
 ChildResult runAndWait(const QString& commandLine, const QString& programFolder,
                        const ChildWatch& watch = {});
 

@@ -13,6 +13,8 @@ namespace
 
 /// More bars than this cannot be told apart on a page.
 constexpr std::size_t mostDays = 62;
+/// So many parts have a place in the legend, and the others together one more.
+constexpr std::size_t mostShares = 10;
 
 bool isSameMonth(QDate left, QDate right)
 {
@@ -72,13 +74,16 @@ void ChartPoints::keepLargest()
     std::erase_if(m_points, [](const ChartPoint& point) { return point.value.coefficient() <= 0; });
     std::ranges::stable_sort(m_points, std::ranges::greater(),
                              [](const ChartPoint& point) { return point.value.toDouble(); });
-    const auto most = static_cast<std::size_t>(m_layout.most);
-    if (most == 0 || m_points.size() <= most)
+    const bool isShares = m_layout.kind == ChartKind::Shares;
+    std::size_t most = m_layout.most > 0 ? static_cast<std::size_t>(m_layout.most) : m_points.size();
+    if (isShares)
+        most = std::min(most, mostShares);
+    if (m_points.size() <= most)
         return;
-    const std::vector<ChartPoint> others(m_points.begin() + m_layout.most, m_points.end());
+    const ChartPoint others{u"Others"_s, isShares ? sumOf(std::span(m_points).subspan(most)) : Decimal()};
     m_points.resize(most);
-    if (m_layout.kind == ChartKind::Shares)
-        m_points.push_back({u"Others"_s, sumOf(others)});
+    if (isShares)
+        m_points.push_back(others);
 }
 
 ChartBuilder::ChartBuilder(const ReportLayout& layout)

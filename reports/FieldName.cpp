@@ -3,8 +3,6 @@
 
 #include "store/Catalogue.h"
 
-#include <algorithm>
-
 namespace norvane::reports
 {
 
@@ -27,13 +25,10 @@ std::optional<FieldName> findField(QStringView name, const store::TableDefinitio
     const auto* const table = point < 0 ? own : store::catalogueTable(name.left(point).trimmed().toString());
     if (!table)
         return std::nullopt;
-    const QStringView wanted = name.mid(point + 1).trimmed();
-    const auto found = std::find_if(table->fields.begin(), table->fields.end(), [wanted](const auto& field) {
-        return wanted.compare(field.name, Qt::CaseInsensitive) == 0;
-    });
-    if (found == table->fields.end())
+    const auto* const found = store::fieldNamed(*table, name.mid(point + 1).trimmed());
+    if (found == nullptr)
         return std::nullopt;
-    return FieldName{table, static_cast<int>(found - table->fields.begin())};
+    return FieldName{table, static_cast<int>(found - table->fields.constData())};
 }
 
 } // namespace norvane::reports

@@ -208,13 +208,20 @@ private:
             sql += (sql.empty() ? " ORDER BY " : ", ") + term;
         };
         if (m_source.groupBy) {
-            const std::string group = column(*m_source.groupBy, !m_source.addsUp());
-            // Rows without a group come last, whether the register left the number empty or put a 0 there.
-            add("nullif(nullif(" + group + ", 0), '') NULLS LAST");
+            add(isNoGroup(*m_source.groupBy));
+            add(orderTerm({*m_source.groupBy}));
         }
         for (const auto& key : m_source.order)
             add(orderTerm(key));
         return sql;
+    }
+
+    /// True, and so last, for a row without a group: the register left the number empty or put zeros there.
+    [[nodiscard]] std::string isNoGroup(const FieldName& field) const
+    {
+        const std::string group = column(field, !m_source.addsUp());
+        const std::string left = field.isText() ? "ltrim(" + group + ", '0 ')" : group;
+        return "ifnull(" + left + (field.isText() ? ", '') = ''" : ", 0) = 0");
     }
 
     [[nodiscard]] std::string orderTerm(const SortKey& key) const

@@ -9,8 +9,6 @@
 
 #include <QLocale>
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::reports
@@ -40,11 +38,7 @@ void ReportQuery::checkTables() const
             throw ReportError(u"%1: the database has no table %2."_s.arg(m_dataFile, table->name));
     }
     for (const auto& field : m_layout.source.fields) {
-        const auto fields = m_database.table(field.table->name).fields;
-        const auto isIt = [&field](const auto& stored) {
-            return stored.name.compare(field.name(), Qt::CaseInsensitive) == 0;
-        };
-        if (std::ranges::none_of(fields, isIt))
+        if (store::fieldNamed(m_database.table(field.table->name), field.name()) == nullptr)
             throw ReportError(u"%1: the database has no field %2."_s.arg(m_dataFile, field.text()));
     }
 }

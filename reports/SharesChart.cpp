@@ -8,7 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <span>
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,32 +19,16 @@ namespace
 
 constexpr double rowHeight = 5.4;
 constexpr double discSize = 56;
-constexpr double gap = 8; ///< between disc and legend
-constexpr std::size_t mostParts = 10;
+constexpr double gap = 8;             ///< between disc and legend
 constexpr double fullTurn = 360 * 16; ///< in the painter's sixteenths of a degree
 
 using Part = ChartPoint;
 
-/// The parts above zero, largest first.
-std::vector<Part> sortedParts(const Chart& chart)
+/// For angles and percentages only: it never fails, as an exact sum of many digits does.
+double wholeOf(const std::vector<Part>& parts)
 {
-    std::vector<Part> parts = chart.points;
-    std::erase_if(parts, [](const Part& part) { return part.value.coefficient() <= 0; });
-    std::ranges::stable_sort(parts, std::greater(), [](const Part& part) { return part.value.toDouble(); });
-    return parts;
-}
-
-/// The smallest parts become one when there are too many for a legend.
-std::vector<Part> shownParts(const Chart& chart)
-{
-    std::vector<Part> parts = sortedParts(chart);
-    if (parts.size() <= mostParts)
-        return parts;
-    const auto others = std::span(parts).subspan(mostParts - 1);
-    const Part rest{u"%1 others"_s.arg(others.size()), sumOf(others)};
-    parts.resize(mostParts - 1);
-    parts.push_back(rest);
-    return parts;
+    return std::accumulate(parts.begin(), parts.end(), 0.0,
+                           [](double sum, const Part& part) { return sum + part.value.toDouble(); });
 }
 
 /// Dark and light in turn, each a little paler than the last of its kind.
@@ -150,16 +134,16 @@ double legendHeight(std::size_t parts)
 
 double sharesHeight(const Chart& chart, double width)
 {
-    const double legend = legendHeight(std::min(chart.points.size(), mostParts));
+    const double legend = legendHeight(chart.points.size());
     return isLegendBelow(width) ? discSizeIn(width) + gap + legend : std::max(discSize, legend) + 2;
 }
 
 void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text)
 {
-    const std::vector<Part> parts = shownParts(chart);
+    const std::vector<Part>& parts = chart.points;
     if (parts.empty())
         return;
-    const double whole = sumOf(parts).toDouble();
+    const double whole = wholeOf(parts);
     const double size = std::min(discSizeIn(place.width()), place.height());
     const QRectF disc(place.left(), place.top(), size, size);
     const double legendTop = std::max(place.top(), disc.center().y() - legendHeight(parts.size()) / 2);

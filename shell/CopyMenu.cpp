@@ -23,12 +23,16 @@ QString wordsOf(const customers::SafetyCopy& copy)
     return u"%1, %2"_s.arg(QLocale().toString(copy.made, QLocale::ShortFormat), copy.reason);
 }
 
-QString questionOf(const QString& customer, const customers::SafetyCopy& copy)
+QString questionOf(const QString& customer, const QString& customerPath, const customers::SafetyCopy& copy)
 {
     const QString sales = customers::holdsSales(copy) ? u"sales included"_s : u"but for sales"_s;
-    return u"Put %1 back as it was on %2?\r\rAll that was changed since is undone, %3. A copy of how it "
-           u"stands "
-           "now is made first."_s.arg(customer, wordsOf(copy), sales);
+    const QString kept =
+        customers::needsNewDatabase(customerPath)
+            ? u"The database of today cannot be used. It is kept under another name, and what can be read of "
+              "the sales in it is taken over."_s
+            : u"A copy of how it stands now is made first."_s;
+    return u"Put %1 back as it was on %2?\r\rAll that was changed since is undone, %3. %4"_s.arg(
+        customer, wordsOf(copy), sales, kept);
 }
 
 } // namespace
@@ -59,20 +63,21 @@ void CopyMenu::addCopy(const customers::SafetyCopy& copy)
 
 void CopyMenu::restore(const ApplicationValues& values, Boxes& boxes, const customers::SafetyCopy& copy)
 {
+    QString told;
     try {
-        if (!askBeforeLoss(boxes, questionOf(values.customerName, copy)))
+        if (!askBeforeLoss(boxes, questionOf(values.customerName, values.customerPath, copy)))
             return;
         const auto lock = customers::RunLock::take(values, boxes);
         if (lock == nullptr)
             return;
         const ui::WaitPointer pointer;
-        customers::restoreSafetyCopy(values.customerPath, copy);
+        told = customers::restoreSafetyCopy(values.customerPath, copy);
     } catch (const RuntimeFailure& failure) {
         boxes.message(failure.text(), boxTitle, BoxIcon::Critical);
         return;
     }
-    boxes.message(u"%1 is as it was on %2."_s.arg(values.customerName, wordsOf(copy)), boxTitle,
-                  BoxIcon::Information);
+    const QString done = u"%1 is as it was on %2."_s.arg(values.customerName, wordsOf(copy));
+    boxes.message(told.isEmpty() ? done : done + u"\r\r"_s + told, boxTitle, BoxIcon::Information);
 }
 
 } // namespace norvane::shell

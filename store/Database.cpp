@@ -15,7 +15,6 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -33,13 +32,6 @@ namespace
 [[noreturn]] void failQuery(const QString& sql)
 {
     throw RuntimeFailure(Failure::UnknownNameInQuery, u"Unknown name or faulty statement. \"%1\""_s.arg(sql));
-}
-
-bool hasField(const TableDefinition& table, const QString& name)
-{
-    return std::any_of(table.fields.cbegin(), table.fields.cend(), [&name](const FieldDefinition& field) {
-        return field.name.compare(name, Qt::CaseInsensitive) == 0;
-    });
 }
 
 /// The tables that the triggers of @p table keep right, as far as the file has them.
@@ -158,7 +150,7 @@ void Database::addTable(const TableDefinition& table)
 void Database::addField(const QString& table, const FieldDefinition& field)
 {
     const auto shape = d->shape(table);
-    if (hasField(shape->definition(), field.name)) {
+    if (fieldNamed(shape->definition(), field.name) != nullptr) {
         failExists(Failure::FieldExists, u"Field %1 of table %2"_s.arg(field.name, shape->name()));
     }
     Schema(d->connection()).addField(shape->definition(), field);

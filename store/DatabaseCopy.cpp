@@ -9,11 +9,10 @@
 #include "store/PreparedStatement.h"
 #include "store/SqliteFailures.h"
 #include "store/TriggersAtRest.h"
+#include "store/Upgrade.h"
 
 #include <QFile>
 #include <sqlite3.h>
-
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -136,13 +135,75 @@ QStringList commonFields(const TableDefinition& table, const TableDefinition& co
 {
     QStringList names;
     for (const auto& field : table.fields) {
-        const auto isIt = [&field](const auto& other) {
-            return other.name.compare(field.name, Qt::CaseInsensitive) == 0;
-        };
-        if (std::ranges::any_of(copied.fields, isIt))
+        if (fieldNamed(copied, field.name) != nullptr)
             names.append(field.name);
     }
     return names;
+}
+
+bool isWhole(sqlite3* connection, const QString& table, const QString& path)
+{
+    PreparedStatement check(
+        connection, std::string("PRAGMA ") + otherFile + ".quick_check(" + quotedName(table) + ')', path);
+    return check.step() && check.text(0) == u"ok"_s;
+}
+
+/// Takes the rows of one table over from the file at @p from. @return false when they are damaged there.
+bool rescueTable(sqlite3* connection, const TableDefinition& table, const QString& from)
+{
+    run(connection, "BEGIN", from);
+    try {
+        const bool rescued = isWhole(connection, table.name, from);
+        if (rescued)
+            run(connection, moveRows(table.name, fieldNames(table), otherFile, "main"), from);
+        run(connection, "COMMIT", from);
+        return rescued;
+    } catch (const RuntimeFailure& failure) {
+        sqlite3_exec(connection, "ROLLBACK", nullptr, nullptr, nullptr);
+        if (failure.failure() == Failure::DiskFull)
+            throw;
+        return false;
+    }
+}
+
+/// @return the tables that could not be taken over.
+QStringList rescueTables(const QString& to, const QVector<TableDefinition>& tables, const QString& from)
+{
+    QStringList lost;
+    for (const auto& table : tables)
+        lost << table.name;
+    if (!pathExists(from))
+        return lost;
+    auto target = openDatabaseFile(to);
+    sqlite3* const connection = target.getHandle();
+    try {
+        const AttachedFile source(connection, existingPath(from));
+        const TriggersAtRest rest(connection);
+        for (const auto& table : tables) {
+            if (rescueTable(connection, table, from))
+                lost.removeOne(table.name);
+        }
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() == Failure::DiskFull)
+            throw;
+    }
+    return lost;
+}
+
+/// Brings a database to today's layout. @return the tables that it lacked.
+QVector<TableDefinition> addMissingTables(const QString& path)
+{
+    QVector<TableDefinition> missing;
+    UpgradeDatabase(path);
+    Database database(path);
+    for (const auto& table : catalogue()) {
+        if (!database.hasTable(table.name)) {
+            database.addTable(table);
+            missing << table;
+        }
+    }
+    completeDatabase(path);
+    return missing;
 }
 
 } // namespace
@@ -185,6 +246,17 @@ void restoreTables(Database& database, const QString& copy)
         throw;
     }
     transaction.commit();
+}
+
+QStringList rebuildDatabase(const QString& copy, const QString& damaged, const QString& to)
+{
+    copyDatabase(copy, to, CopyOf::Everything);
+    try {
+        return rescueTables(to, addMissingTables(to), damaged);
+    } catch (const RuntimeFailure&) {
+        QFile::remove(to);
+        throw;
+    }
 }
 
 } // namespace norvane::store

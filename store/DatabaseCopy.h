@@ -23,4 +23,10 @@ void copyDatabase(const QString& from, const QString& to, CopyOf what);
 /// @throws RuntimeFailure as Database does for @p copy, and what the engine reports for @p database.
 void restoreTables(Database& database, const QString& copy);
 
+/// Makes a new database at @p to when the one at @p damaged can no longer be used: the tables of the copy at
+/// @p copy in today's layout, and those that the copy lacks with the rows that the damaged file still holds
+/// whole. The damaged file may be missing. A file at @p to is replaced.
+/// @return the tables whose rows are lost. @throws RuntimeFailure as copyDatabase(); nothing is left then.
+[[nodiscard]] QStringList rebuildDatabase(const QString& copy, const QString& damaged, const QString& to);
+
 } // namespace norvane::store

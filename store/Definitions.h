@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <algorithm>
+
 namespace norvane::store
 {
 
@@ -41,5 +43,15 @@ struct TableDefinition {
     /// quickly, though no recordset can be set to it. Only for making a table, not told of one that is there.
     QString searchedField = {};
 };
+
+/// The field of that name, in any case; nullptr when the table has none.
+[[nodiscard]] inline const FieldDefinition* fieldNamed(const TableDefinition& table, QStringView name)
+{
+    const auto isIt = [name](const FieldDefinition& field) {
+        return name.compare(field.name, Qt::CaseInsensitive) == 0;
+    };
+    const auto found = std::find_if(table.fields.cbegin(), table.fields.cend(), isIt);
+    return found == table.fields.cend() ? nullptr : &*found;
+}
 
 } // namespace norvane::store

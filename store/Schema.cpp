@@ -311,11 +311,8 @@ void Schema::widenFields(const TableDefinition& table)
     };
     const auto stored = read(table.name);
     for (const auto& field : stored ? stored->fields : QVector<FieldDefinition>()) {
-        const auto wanted =
-            std::find_if(table.fields.cbegin(), table.fields.cend(), [&field](const auto& it) {
-                return it.name.compare(field.name, Qt::CaseInsensitive) == 0;
-            });
-        if (wanted != table.fields.cend() && wanted->type == FieldType::Digits && narrow(field.type))
+        const auto* const wanted = fieldNamed(table, field.name);
+        if (wanted != nullptr && wanted->type == FieldType::Digits && narrow(field.type))
             widenField(stored->name, {field.name, FieldType::Digits, wanted->size, {}, false});
     }
 }

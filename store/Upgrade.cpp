@@ -6,7 +6,6 @@
 #include "store/Database.h"
 #include "store/SalesTables.h"
 
-#include <algorithm>
 #include <array>
 #include <functional>
 #include <optional>
@@ -67,10 +66,7 @@ constexpr Step steps[] = {
 /// The catalogue's definition under the name as the step spells it.
 FieldDefinition fieldOf(const Step& step, const QString& name)
 {
-    const QVector<FieldDefinition>& fields = catalogueTable(QLatin1StringView(step.table))->fields;
-    FieldDefinition field = *std::find_if(fields.begin(), fields.end(), [&name](const FieldDefinition& each) {
-        return each.name.compare(name, Qt::CaseInsensitive) == 0;
-    });
+    FieldDefinition field = *fieldNamed(*catalogueTable(QLatin1StringView(step.table)), name);
     field.name = name;
     field.type = step.type.value_or(field.type);
     return field;

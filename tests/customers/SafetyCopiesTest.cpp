@@ -2,9 +2,13 @@
 #include "customers/SafetyCopies.h"
 
 #include "customers/CustomerLog.h"
+#include "platform/FilePaths.h"
+#include "store/DatabaseCheck.h"
 #include "store/Recordset.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/shell/ShellFixture.h"
+
+#include <functional>
 
 namespace norvane::customers
 {
@@ -27,6 +31,17 @@ protected:
         plus.addNew();
         plus.setValue(u"plunumber"_s, store::Value::text(std::string(number)));
         plus.update();
+    }
+    void sell() const
+    {
+        store::Database database(m_values.databasePath);
+        auto sales = database.openTable(u"plusales"_s);
+        sales.addNew();
+        sales.setValue(u"id"_s, store::Value::text(u"1"_s));
+        sales.setValue(u"salesdate"_s, store::Value::date({2026, 11, 25}));
+        for (int number = 2; number < sales.fieldCount(); ++number)
+            sales.setValue(number, store::Value::number(1));
+        sales.update();
     }
     [[nodiscard]] QString plu() const
     {
@@ -87,6 +102,44 @@ TEST_F(SafetyCopiesTest, WithoutRoomNothingIsLeftAndTheJobDoesNotStart)
     EXPECT_EQ(QDir(m_folder.path("app/Cafe/copies")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               QStringList());
     EXPECT_TRUE(copyBeforeJob(m_values, m_boxes, u"before upload"_s));
+}
+
+/// The database as a failing disk leaves it, told by what is done to its bytes, and whether its sales can
+/// still be read.
+const struct {
+    const char* what;
+    std::function<void(QByteArray&)> spoil;
+    bool keepsSales;
+} damages[] = {
+    {"cut off", [](QByteArray& bytes) { bytes.chop(100); }, true},
+    {"the first page gone", [](QByteArray& bytes) { bytes.replace(0, 4096, QByteArray(4096, '\0')); }, false},
+    {"empty", [](QByteArray& bytes) { bytes.clear(); }, false},
+};
+
+TEST_F(SafetyCopiesTest, ARestoreSetsADamagedDatabaseAsideAndTakesItsSalesOver)
+{
+    const auto sold = [this] {
+        store::Database database(m_values.databasePath);
+        return database.openTable(u"plusales"_s).recordCount();
+    };
+    for (const auto& [what, spoil, keepsSales] : damages) {
+        SCOPED_TRACE(what);
+        makeCustomerDatabase();
+        setPlu("1");
+        const auto copy = makeSafetyCopy(m_values.customerPath, u"x"_s, store::CopyOf::Programme);
+        setPlu("2");
+        sell();
+        QByteArray bytes = m_folder.read("app/Cafe/velmar.mdb");
+        spoil(bytes);
+        m_folder.write("app/Cafe/velmar.mdb", bytes);
+        const QString told = restoreSafetyCopy(m_values.customerPath, copy);
+        EXPECT_EQ(plu(), u"1"_s);
+        EXPECT_EQ(sold(), keepsSales ? 1 : 0);
+        EXPECT_EQ(told.contains(u"PLUSALES"_s), !keepsSales) << told.toStdString();
+        const QString aside = told.section(u"kept as "_s, 1).section(u'\r', 0, 0).chopped(1);
+        EXPECT_EQ(readWholeFile(joinPath(m_values.customerPath, aside)), bytes) << told.toStdString();
+        EXPECT_EQ(store::damageOf(m_values.databasePath), QString());
+    }
 }
 
 TEST_F(SafetyCopiesTest, ADamagedCopyIsRefusedBeforeAnythingChanges)

@@ -6,6 +6,11 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <csignal>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
 
 namespace norvane
 {
@@ -56,6 +61,41 @@ TEST(ChildProcess, AWatchSeesTheChildRunAndCanEndIt)
                              return true;
                          }}),
               ChildResult::Ended);
+}
+
+/// Killed as from outside, with its tool hanging. @return the number of the tool's process.
+pid_t killOwnerOfATool(const TestFolder& folder)
+{
+    const pid_t owner = fork();
+    if (owner == 0) {
+        (void)runAndWait(u"tool hang started"_s, folder.path());
+        _exit(0);
+    }
+    while (folder.read("started").isEmpty())
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    kill(owner, SIGKILL);
+    waitpid(owner, nullptr, 0);
+    return folder.read("started").split('\n').front().toInt();
+}
+
+TEST(ChildProcess, AToolDiesWithTheProgramThatStartedIt)
+{
+    const TestFolder folder;
+    const test::WorkingDirectory here(folder.path());
+    putProbe(folder, "tool");
+    folder.write("started", "");
+    prctl(PR_SET_CHILD_SUBREAPER, 1);
+    const pid_t tool = killOwnerOfATool(folder);
+    ASSERT_GT(tool, 0);
+    int status = 0;
+    pid_t ended = 0;
+    for (int look = 0; look < 500 && ended == 0; ++look) {
+        ended = waitpid(tool, &status, WNOHANG);
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    QFile::remove(folder.path("started"));
+    EXPECT_EQ(ended, tool);
+    EXPECT_EQ(WTERMSIG(status), SIGKILL);
 }
 
 TEST(ChildProcess, TheProgramFolderComesBeforeTheWorkingDirectoryAndThePath)

@@ -94,6 +94,24 @@ TEST_F(OwnLayout, GroupsAndSortsByWhatItNames)
     EXPECT_EQ(data.charts[0].points[1].value, Decimal(6, 0));
 }
 
+/// Numbers as texts, which registers fill up with zeros and blanks; more parts than a legend has room for.
+TEST_F(OwnLayout, PutsZerosLastAndManySmallSharesTogether)
+{
+    for (const char* plu : {"000|0.1", "   |0.2", "b|1", "A|2", "010|3", "  9|4", "1|5", "2|6", "3|7", "4|8",
+                            "5|9", "6|999999999999999999"})
+        shop.add("PLUDATA", "DESCRIPTION|PRICE1", {plu});
+    shop.folder().write("own.rpt",
+                        "[Report]\r\nTitle=Own\r\nTable=PLUDATA\r\n"
+                        "[Column1]\r\nValue={DESCRIPTION}\r\nWidth=60\r\n"
+                        "[Group]\r\nBy={DESCRIPTION}\r\nHeading={DESCRIPTION}\r\nMissing=Rest\r\n"
+                        "[Chart1]\r\nKind=Shares\r\nTitle=By group\r\nFrom=Groups\r\nValue={PRICE1}\r\n");
+    const auto data = runReport(shop.request(shop.folder().path("own.rpt")));
+    EXPECT_EQ(linesOf(data), "> 9\n9\n> 010\n010\n> 1\n1\n> 2\n2\n> 3\n3\n> 4\n4\n> 5\n5\n> 6\n6\n> A\nA\n"
+                             "> b\nb\n> Rest\n\n000");
+    ASSERT_EQ(data.charts[0].points.size(), 11U);
+    EXPECT_EQ(data.charts[0].points.back().value, Decimal(3, 1));
+}
+
 TEST_F(OwnLayout, APictureOfManyDaysShowsMonths)
 {
     for (QDate day(2026, 9, 15); day <= QDate(2026, 11, 25); day = day.addDays(1)) {
