@@ -22,6 +22,7 @@ ItemList makeItemList(const ItemList::Names& names, const std::shared_ptr<store:
     auto* const model = new store::RecordListModel(
         database, {items.table, u"primarykey"_s, items.number, u"DESCRIPTION"_s}, parent);
     QTableView* const view = ui::makeListTable(names.list, model, parent);
+    view->setAccessibleDescription(option->accessibleDescription());
     option->hide();
     view->hide();
     return {names.kind, option, view, model};

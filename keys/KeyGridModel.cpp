@@ -67,7 +67,7 @@ QVariant KeyGridModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return toolTip(cell);
     case Qt::AccessibleDescriptionRole:
-        return QString(stateWords[static_cast<std::size_t>(key.state)]);
+        return spokenState(cell);
     case StateRole:
         return static_cast<int>(key.state);
     case FoundRole:
@@ -77,6 +77,20 @@ QVariant KeyGridModel::data(const QModelIndex& index, int role) const
     default:
         return {};
     }
+}
+
+/// What the cell shows by its place, its colour and its marks.
+QString KeyGridModel::spokenState(KeyCell cell) const
+{
+    QStringList words;
+    if (const auto number = m_level.geometry().keyNumber(cell))
+        words += u"Key %1"_s.arg(*number);
+    words += stateWords[static_cast<std::size_t>(m_level.key(cell).state)];
+    if (isAmong(m_editor.marked(), cell))
+        words += u"marked"_s;
+    if (isAmong(m_found, cell))
+        words += u"found"_s;
+    return words.join(u", "_s);
 }
 
 /// No "<" can stand in the first line, so that descriptions are never taken for markup.

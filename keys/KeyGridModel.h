@@ -47,6 +47,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QString toolTip(KeyCell cell) const;
+    [[nodiscard]] QString spokenState(KeyCell cell) const;
 
     const KeyLevel& m_level;
     const KeyEditor& m_editor;

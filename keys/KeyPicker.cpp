@@ -1,6 +1,8 @@
 // Columns and search of the key list; see KeyPicker.h.
 #include "keys/KeyPicker.h"
 
+#include "ui/FormKit.h"
+
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QLineEdit>
@@ -36,6 +38,7 @@ KeyPicker::KeyPicker(QWidget* parent) : QComboBox(parent)
     setMaxVisibleItems(mostRowsShown);
     setMinimumContentsLength(textColumn);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    ui::nameControl(*lineEdit(), u"selectkeyText"_s);
     lineEdit()->setPlaceholderText(u"Select Function Key"_s);
     lineEdit()->installEventFilter(this);
 

@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableView>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -47,6 +48,7 @@ void Frmreports::layOut()
     ui::nameControl(*CSCal, u"CSCal"_s);
     CSCal->setGridVisible(false);
     CSCal->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    connect(CSCal, &QCalendarWidget::selectionChanged, this, &Frmreports::tellDay);
     auto* const Generate = ui::makeButton(u"CSCmdBtn1"_s, u"&Generate"_s, this);
     auto* const CmdExit = ui::makeButton(u"CmdExit"_s, u"&Exit"_s, this);
     Generate->setDefault(true);
@@ -80,6 +82,17 @@ void Frmreports::loadForm()
 {
     CSCal->setVisible(!m_values.reportMode.isEmpty());
     CSCal->setSelectedDate(QDate::currentDate());
+    tellDay();
+}
+
+/// For screen readers: the fields of the calendar hold the numbers of days only.
+void Frmreports::tellDay()
+{
+    const QString day = u"Day of the report: "_s + locale().toString(CSCal->selectedDate());
+    auto* const days = CSCal->findChild<QTableView*>();
+    ui::nameControl(*days, days->objectName());
+    for (QWidget* const calendar : {static_cast<QWidget*>(CSCal), static_cast<QWidget*>(days)})
+        calendar->setAccessibleDescription(day);
 }
 
 /// In any other mode the formula stays as the menu entry set it.

@@ -36,6 +36,7 @@ private:
     void layOut();
     [[nodiscard]] QWidget* makeTargets();
     void loadForm();
+    void tellDay();
     void generate();
 
     const ApplicationValues& m_values;

@@ -281,6 +281,7 @@ void FieldPanel::finish()
     setWidget(m_picture);
     const auto ordered = inTabOrder();
     chain(ordered);
+    setFocusPolicy(Qt::NoFocus); // the keyboard belongs to the controls
     chooseFirst(ordered);
 }
 

@@ -51,21 +51,48 @@ void makeHeading(QLabel& label)
     label.setPalette(palette);
 }
 
-void describe(QWidget& control, const QLabel& label)
+void describe(QWidget& control, const QString& text)
 {
-    const QString text = ui::spokenText(label.text());
     const QString former = control.accessibleDescription();
     control.setAccessibleDescription(former.isEmpty() ? text : former + u' ' + text);
 }
 
-/// The control whose next neighbour in the row is @p label.
-QWidget* controlBefore(QLabel& label, const QVector<QWidget*>& controls, const QVector<QLabel*>& labels)
+void describe(QWidget& control, const QLabel& label)
+{
+    describe(control, ui::spokenText(label.text()));
+}
+
+/// The control whose next neighbour in the row, of all @p others, is @p widget.
+template <typename Widget>
+QWidget* controlBefore(Widget& widget, const QVector<QWidget*>& controls, const QVector<Widget*>& others)
 {
     for (QWidget* const control : controls) {
-        if (nextInRow(*control, labels) == &label)
+        if (nextInRow(*control, others) == &widget)
             return control;
     }
     return nullptr;
+}
+
+/// The heading of the column that @p control stands in.
+const QLabel* headingAbove(const QWidget& control, const QVector<QLabel*>& labels)
+{
+    const QLabel* nearest = nullptr;
+    for (const QLabel* const label : labels) {
+        const bool isAbove = label->x() == control.x() && label->y() < control.y() && !label->buddy();
+        if (isAbove && (!nearest || label->y() > nearest->y()))
+            nearest = label;
+    }
+    return nearest;
+}
+
+/// Where controls stand in rows and columns, only the first of a row has a label of its own.
+void describeByRowAndColumn(QWidget& control, const QVector<QLabel*>& labels,
+                            const QVector<QWidget*>& controls)
+{
+    if (const QWidget* const before = controlBefore(control, controls, controls))
+        describe(control, before->accessibleDescription());
+    if (const QLabel* const heading = headingAbove(control, labels))
+        describe(control, *heading);
 }
 
 } // namespace
@@ -86,6 +113,10 @@ void tieLabels(const QVector<QLabel*>& labels, const QVector<QWidget*>& controls
             makeHeading(*label);
         }
         label->setText(ui::spokenText(label->text()));
+    }
+    for (QWidget* const control : controls) {
+        if (control->accessibleDescription().isEmpty())
+            describeByRowAndColumn(*control, labels, controls);
     }
 }
 

@@ -11,7 +11,8 @@ namespace norvane::screens
 
 /// Ties each label to the control that stands right behind it in its row: the label's access letter leads
 /// there, and screen readers say its text. A label right behind a control ("minutes") describes it as well.
-/// Labels that stand alone head what lies below them and look so.
+/// Labels that stand alone head what lies below them and look so; a control without a label of its own is
+/// known by that of its row and the heading of its column.
 void tieLabels(const QVector<QLabel*>& labels, const QVector<QWidget*>& controls);
 
 } // namespace norvane::screens

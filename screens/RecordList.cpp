@@ -94,6 +94,7 @@ void RecordList::buildFilter()
 void RecordList::buildTable()
 {
     m_table = ui::makeListTable(u"ListTable"_s, m_model, m_panel);
+    m_table->setAccessibleDescription(u"List of records"_s);
     m_table->setItemDelegate(new MarkingDelegate(m_table));
     m_filter->setList(m_table);
     connect(m_table, &QTableView::clicked, this, &RecordList::choose);

@@ -82,10 +82,16 @@ BoxNumbers Shop::exchange(const char* entry, const BoxNumbers& boxes)
 QWidget& Shop::openForm(const char* entry)
 {
     choose(entry);
-    QMdiSubWindow* const window = child<QMdiArea>(*m_main, QString()).activeSubWindow();
-    if (window == nullptr)
+    QWidget* const form = front();
+    if (form == nullptr)
         throw std::runtime_error(std::string("no form behind ") + entry);
-    return *window->widget();
+    return *form;
+}
+
+QWidget* Shop::front() const
+{
+    QMdiSubWindow* const window = child<QMdiArea>(*m_main, QString()).activeSubWindow();
+    return window ? window->widget() : nullptr;
 }
 
 void Shop::press(QWidget& form, const char* button)

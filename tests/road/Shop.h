@@ -39,6 +39,8 @@ public:
 
     /// Chooses a menu entry that opens a form which is not modal. @return the form.
     QWidget& openForm(const char* entry);
+    /// The form in front that is not modal, if any.
+    [[nodiscard]] QWidget* front() const;
     /// Presses a button of a form, or a find button with its answer typed into the dialog.
     static void press(QWidget& form, const char* button);
     static void find(QWidget& form, const char* text);
