@@ -4,20 +4,41 @@
 #include "fuzz/Target.h"
 #include "store/Catalogue.h"
 
+#include <map>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::fuzz
 {
 
+namespace
+{
+
+ApplicationValues customerHolding(const QVector<store::TableDefinition>& tables, const QString& databaseName)
+{
+    const QString& folder = scratchFolder();
+    const QString path = folder + u'/' + databaseName;
+    store::Database::create(path, tables);
+    return {folder, u"SHOP"_s, folder, path, {}};
+}
+
+} // namespace
+
 const ApplicationValues& customer()
 {
-    static const ApplicationValues values = [] {
-        const QString& folder = scratchFolder();
-        ApplicationValues made{folder, u"SHOP"_s, folder, folder + u"/velmar.mdb"_s, {}};
-        store::Database::create(made.databasePath, store::catalogue());
-        return made;
-    }();
+    static const ApplicationValues values = customerHolding(store::catalogue(), u"velmar.mdb"_s);
     return values;
+}
+
+const ApplicationValues& customerWith(const QString& table)
+{
+    static std::map<QString, ApplicationValues> customers;
+    auto found = customers.find(table);
+    if (found == customers.end()) {
+        auto made = customerHolding({*store::catalogueTable(table)}, table + u".mdb"_s);
+        found = customers.emplace(table, std::move(made)).first;
+    }
+    return found->second;
 }
 
 store::Database& customerDatabase()

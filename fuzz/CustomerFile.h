@@ -14,7 +14,11 @@ namespace norvane::fuzz
 /// all tables of the catalogue, empty.
 [[nodiscard]] const ApplicationValues& customer();
 
-/// That database, opened once.
+/// The same with a database of one table: a procedure that opens it for itself is not kept waiting by the
+/// definitions of all others.
+[[nodiscard]] const ApplicationValues& customerWith(const QString& table);
+
+/// The database of customer(), opened once.
 [[nodiscard]] store::Database& customerDatabase();
 
 /// Runs @p work and takes back what it did to customerDatabase(): an input must not find what another left.

@@ -26,7 +26,7 @@ void tryInput(std::string_view input)
 {
     constexpr unsigned olderBit = 0x80;
     const unsigned kind = takeByte(input);
-    const ApplicationValues& values = customer();
+    const ApplicationValues& values = customerWith(u"memoryallocation"_s);
     setModel(static_cast<int>(kind % 4));
     setGeneration((kind & olderBit) != 0);
     scratchFile(u"52.txt"_s, input);

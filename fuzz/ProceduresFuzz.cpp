@@ -19,7 +19,9 @@ class Procedures
 {
 public:
     explicit Procedures(const records::RegisterFile& file)
-        : m_file(file), m_text(u"%1.txt"_s.arg(file.number)), m_context{customer(), m_boxes, converted}
+        : m_file(file),
+          m_text(u"%1.txt"_s.arg(file.number)), m_context{customerWith(QLatin1StringView(file.table)),
+                                                          m_boxes, converted}
     {
     }
 

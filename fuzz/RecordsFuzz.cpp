@@ -21,7 +21,7 @@ using records::RegisterFile;
 using Row = std::vector<store::Value>;
 
 /// Records of an input beyond these teach nothing new.
-constexpr int mostLines = 6;
+constexpr int mostLines = 2;
 /// The last record with columns of its own is 264, of the function keys.
 constexpr int highestRecord = 270;
 
@@ -145,7 +145,7 @@ public:
         std::string line;
         const bool isWritten = succeeds({Failure::Overflow}, [&] {
             records::RecordWriter writer(m_file.layout(), m_records, choice.traits);
-            for (int i = 0; i < number; ++i) {
+            for (int i = isNumbered() ? 1 : number; i <= number; ++i) {
                 line.clear();
                 writer.appendLine(line);
             }
@@ -158,6 +158,8 @@ public:
         return line;
     }
 
+    /// Whether some records have columns of their own: the writer counts them then.
+    [[nodiscard]] bool isNumbered() const { return m_file.layout().sets.size() > 1; }
     [[nodiscard]] bool comesBack(std::size_t field) const { return m_comesBack[field]; }
     void remove() { m_records.deleteRecord(); }
     [[nodiscard]] const store::FieldDefinition& field(std::size_t at) const

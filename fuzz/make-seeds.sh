@@ -29,8 +29,8 @@ for kind in 0 1 2 3; do
   for binary in *.dat; do
     file=${binary%.dat}
     "$tools/convert" "w$word" "f$binary" "t$file.txt" "u$(printf %02d "$file")" 2>/dev/null || continue
-    { byte "$file"; byte "$kind"; byte 0; head -n 4 "$file.txt"; } > "$seeds/records/$file-$kind"
-    { byte "$file"; byte "$kind"; head -n 12 "$file.txt"; } > "$seeds/procedures/$file-$kind"
+    { byte "$file"; byte "$kind"; byte 0; head -n 2 "$file.txt"; } > "$seeds/records/$file-$kind"
+    { byte "$file"; byte "$kind"; head -n 3 "$file.txt"; } > "$seeds/procedures/$file-$kind"
   done
   for operation in u52 u352; do
     if "$tools/convert" "w$word" f52.dat t52.txt "$operation" 2>/dev/null; then
@@ -44,7 +44,7 @@ for kind in 0 1 2 3; do
   for report in 190 194 191 218 192; do
     if "$tools/convert" "w$word" "fpoll$report.dll" "tPOLL$report.txt" "S$report" 2>/dev/null; then
       stamp=$(od -An -tu1 -j4 -N1 poll194.dll)
-      { byte "$place"; byte "$stamp"; head -n 30 "POLL$report.txt"; } > "$seeds/poll/$report-$kind"
+      { byte "$place"; byte "$stamp"; head -n 20 "POLL$report.txt"; } > "$seeds/poll/$report-$kind"
     fi
     place=$((place + 1))
   done

@@ -145,9 +145,9 @@ private:
     Expression number()
     {
         const Token token = m_tokens.current();
-        const auto value = Decimal::parse(token.text.toString().toStdString());
+        const auto value = Decimal::plain(token.text.toString().toStdString());
         if (!value)
-            m_tokens.failExpecting(u"a number"_s);
+            m_tokens.failExpecting(u"a number of at most 18 digits"_s);
         m_tokens.take();
         Expression expression;
         expression.m_number = *value;

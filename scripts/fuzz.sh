@@ -33,19 +33,21 @@ mkdir -p build/fuzz-corpus build/fuzz-findings build/fuzz-logs
 scratch=$(mktemp -d -p "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")")
 trap 'rm -rf "$scratch"' EXIT
 
+# The targets work in a folder of their own, so paths are whole.
 run_target() {
-  local name=$1 longest inputs=()
+  local name=$1 top=$PWD longest inputs=()
   longest=$(awk -v name="$name" '$1 == name { print $2 }' build/fuzz/fuzz/targets.txt)
   mkdir -p "build/fuzz-corpus/$name"
-  for folder in "build/fuzz-corpus/$name" "build/fuzz/fuzz/seeds/$name" "fuzz/regressions/$name"; do
+  for folder in "$top/build/fuzz-corpus/$name" "$top/build/fuzz/fuzz/seeds/$name" "$top/fuzz/regressions/$name"; do
     [ -d "$folder" ] && inputs+=("$folder")
   done
-  "build/fuzz/fuzz/fuzz_$name" "${inputs[@]}" "${@:2}" -max_len="$longest" -timeout=20 -rss_limit_mb=2048 \
-    -artifact_prefix="build/fuzz-findings/$name-" -print_final_stats=1 > "build/fuzz-logs/$name.log" 2>&1 || true
+  "build/fuzz/fuzz/fuzz_$name" "${inputs[@]}" "${@:2}" -max_len="$longest" -len_control=0 -timeout=20 -rss_limit_mb=2048 \
+    -artifact_prefix="$top/build/fuzz-findings/$name-" -print_final_stats=1 > "build/fuzz-logs/$name.log" 2>&1 || true
 }
 export -f run_target
 export TMPDIR=$scratch QT_QPA_PLATFORM=offscreen
 export ASAN_OPTIONS="${ASAN_OPTIONS:-detect_leaks=0}"
+export ASAN_SYMBOLIZER_PATH="${ASAN_SYMBOLIZER_PATH:-$(command -v llvm-symbolizer-16 || command -v llvm-symbolizer || true)}"
 export UBSAN_OPTIONS="${UBSAN_OPTIONS:-print_stacktrace=1}"
 printf '%s\n' "${targets[@]}" | xargs -P "$jobs" -I{} bash -c 'run_target "$@"' _ {} "${limit[@]}"
 
