@@ -10,7 +10,6 @@
 #include <QDate>
 
 #include <array>
-#include <map>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -65,8 +64,9 @@ void trySelection(const QString& formula)
     require(own.isAlwaysTrue() ||
                 !reports::mentions(own, [&](const auto& field) { return field.table != &sales(); }),
             "a restricted condition tests its own table only");
-    const reports::FieldName day{&sales(), 0};
-    static_cast<void>(day);
+    const auto day = *reports::findField(u"PLUSALES.SALESDATE");
+    require(!reports::isOnlyPeriod(own, day) || reports::periodOf(own, day).has_value(),
+            "a formula that asks for days alone has a period");
     runCondition(own);
 }
 

@@ -86,3 +86,12 @@ done
 
 printf 'Number,Description,Group,Status,Price 1\r\n17,"Tea, black",1,1,2.50\r\n018,Coffee,2,1,3\r\n' > "$seeds/plufile/commas"
 printf '\xef\xbb\xbfPLU report;;\r\nNumber;Price 2;Description\r\n17;2,50;"said ""tea"""\r\n17;1;\r\n;;\r\n' > "$seeds/plufile/semicolons"
+
+# Words from which formulas, report files and screens are made.
+dictionary() { tr -d '\r' | sort -u | sed 's/.*/"&"/' > "$seeds/$1.dict"; }
+{
+  printf '%s\n' ' and ' ' or ' 'not ' ' in ' ' to ' 'date(' 'sum(' 'total(' '<>' '<=' '>=' monthtodate YearToDate WeekToDateFromSun
+  grep -hoE '\{[A-Z0-9]+\.[A-Z0-9]+\}' "$data"/*.rpt
+} | dictionary formulas
+grep -hoE '^([A-Za-z0-9]+=.*|\[[A-Za-z0-9]+\])' "$data"/*.rpt | grep -v '["\\]' | dictionary layouts
+grep -hoE '^([A-Za-z0-9]+=|\[[A-Za-z]+)' "$data"/*.scn | dictionary screens

@@ -41,6 +41,7 @@ run_target() {
   for folder in "$top/build/fuzz-corpus/$name" "$top/build/fuzz/fuzz/seeds/$name" "$top/fuzz/regressions/$name"; do
     [ -d "$folder" ] && inputs+=("$folder")
   done
+  [ ! -f "build/fuzz/fuzz/seeds/$name.dict" ] || inputs+=("-dict=$top/build/fuzz/fuzz/seeds/$name.dict")
   "build/fuzz/fuzz/fuzz_$name" "${inputs[@]}" "${@:2}" -max_len="$longest" -len_control=0 -timeout=20 -rss_limit_mb=2048 \
     -artifact_prefix="$top/build/fuzz-findings/$name-" -print_final_stats=1 > "build/fuzz-logs/$name.log" 2>&1 || true
 }
