@@ -37,6 +37,12 @@ QRectF rectOf(const KeyPlace& key)
             key.height.inMillimetres()};
 }
 
+/// As screen readers say it.
+QString placeOf(const KeyPlace& key, int cell)
+{
+    return u"Column %1, key %2, line %3"_s.arg(key.column + 1).arg(key.row + 1).arg(cell - key.firstCell + 1);
+}
+
 QRectF boundsOf(const KeyLayout& layout)
 {
     QRectF bounds;
@@ -142,8 +148,10 @@ void KeyboardView::showCell(int cell)
 {
     const Document& document = m_editor.document();
     const QString printed = printedText(document, cell);
-    m_cells[static_cast<std::size_t>(cell)]->showContents(
-        document.cell(cell), {printed, printed.size() < document.cell(cell).text.size()});
+    CellEdit& edit = *m_cells[static_cast<std::size_t>(cell)];
+    edit.showContents(document.cell(cell), {printed, printed.size() < document.cell(cell).text.size()});
+    edit.setAccessibleDescription(placeOf(m_layout.keyOf(cell), cell) +
+                                  (edit.isCut() ? u", wider than its key"_s : QString()));
 }
 
 bool KeyboardView::isCut(int cell) const

@@ -9,7 +9,10 @@
 #include <QPainter>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::overlay
 {
@@ -22,6 +25,12 @@ constexpr double largestScale = 40;
 constexpr double smallestScale = 0.5;
 constexpr double zoomStep = 1.25;
 constexpr int arrowStep = 40;
+
+QRectF rectOf(const KeyPlace& key)
+{
+    return {key.x.inMillimetres(), key.y.inMillimetres(), key.width.inMillimetres(),
+            key.height.inMillimetres()};
+}
 
 } // namespace
 
@@ -93,6 +102,13 @@ QPointF SheetView::sheetCorner() const
             static_cast<double>(rulerWidth + gap - verticalScrollBar()->value())};
 }
 
+/// Where the keys begin, in millimetres from the paper's corner.
+QPointF SheetView::keysCorner() const
+{
+    return {(m_target.sheet.margins.left + m_target.correction.across.offset).inMillimetres(),
+            (m_target.sheet.margins.top + m_target.correction.down.offset).inMillimetres()};
+}
+
 QPointF SheetView::toViewport(QPointF place) const
 {
     return sheetCorner() + place * m_scale;
@@ -134,8 +150,7 @@ void SheetView::paintSheet(QPainter& painter) const
     painter.fillRect(sheet, Qt::white);
     painter.save();
     painter.setClipRect(sheet);
-    painter.translate((m_target.sheet.margins.left + m_target.correction.across.offset).inMillimetres(),
-                      (m_target.sheet.margins.top + m_target.correction.down.offset).inMillimetres());
+    painter.translate(keysCorner());
     painter.setRenderHint(QPainter::Antialiasing);
     SheetPainter(painter, m_document).paint();
     painter.restore();
@@ -146,17 +161,35 @@ void SheetView::paintSheet(QPainter& painter) const
 
 void SheetView::paintOutside(QPainter& painter) const
 {
-    painter.translate((m_target.sheet.margins.left + m_target.correction.across.offset).inMillimetres(),
-                      (m_target.sheet.margins.top + m_target.correction.down.offset).inMillimetres());
+    painter.translate(keysCorner());
     QColor colour = ui::colours::warning;
     painter.setPen(QPen(colour, 0.5));
     colour.setAlphaF(0.15F);
     painter.setBrush(colour);
     for (const std::size_t index : m_outside) {
         const KeyPlace& key = m_document.layout().keys()[index];
-        painter.drawRect(QRectF(key.x.inMillimetres(), key.y.inMillimetres(), key.width.inMillimetres(),
-                                key.height.inMillimetres()));
+        painter.drawRect(rectOf(key));
     }
+}
+
+int SheetView::spokenItemCount() const
+{
+    return static_cast<int>(m_document.layout().keys().size());
+}
+
+ui::SpokenItem SheetView::spokenItem(int index) const
+{
+    const KeyPlace& key = m_document.layout().keys()[static_cast<std::size_t>(index)];
+    QStringList lines;
+    for (int cell = key.firstCell; cell <= key.lastCell(); ++cell)
+        lines += printedText(m_document, cell).trimmed();
+    lines.removeAll(QString());
+    QString state = u"Column %1, key %2"_s.arg(key.column + 1).arg(key.row + 1);
+    if (std::ranges::find(m_outside, static_cast<std::size_t>(index)) != m_outside.end())
+        state += u", leaves the printable area"_s;
+    const QRectF place = rectOf(key).translated(keysCorner());
+    return {lines.join(u' '), state,
+            QRectF(toViewport(place.topLeft()), place.size() * m_scale).toAlignedRect()};
 }
 
 void SheetView::resizeEvent(QResizeEvent* /*event*/)

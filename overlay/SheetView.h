@@ -2,6 +2,7 @@
 #pragma once
 
 #include "overlay/SheetPrint.h"
+#include "ui/SpokenItems.h"
 
 #include <QAbstractScrollArea>
 
@@ -10,8 +11,8 @@ namespace norvane::overlay
 
 /// Shows the whole page between rulers that count millimetres from the paper's edges, the printable area of
 /// the printer, and a mark on each key that leaves it. Zoomed with Ctrl and the wheel, plus and minus; moved
-/// with the bars, the arrows and the mouse.
-class SheetView : public QAbstractScrollArea
+/// with the bars, the arrows and the mouse. Screen readers find the keys on it.
+class SheetView : public QAbstractScrollArea, public ui::SpokenItems
 {
     Q_OBJECT
 
@@ -30,6 +31,9 @@ public:
     /// Where a place of the paper, in mm from its corner, is in the viewport.
     [[nodiscard]] QPointF toViewport(QPointF place) const;
 
+    [[nodiscard]] int spokenItemCount() const override;
+    [[nodiscard]] ui::SpokenItem spokenItem(int index) const override;
+
 Q_SIGNALS:
     /// The user has zoomed to a size of his own.
     void zoomedFreely();
@@ -45,6 +49,7 @@ protected:
 
 private:
     [[nodiscard]] QPointF sheetCorner() const;
+    [[nodiscard]] QPointF keysCorner() const;
     void takeScale();
     void updateBars();
     void zoomBy(double factor, QPointF fixed);

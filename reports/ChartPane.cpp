@@ -2,10 +2,13 @@
 #include "reports/ChartPane.h"
 
 #include "reports/ChartPainter.h"
+#include "ui/SpokenItems.h"
 
 #include <QPainter>
 
 #include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::reports
 {
@@ -17,10 +20,29 @@ constexpr double margin = 5; ///< around charts, in mm
 
 } // namespace
 
-class ChartPane::Sheet : public QWidget
+class ChartPane::Sheet : public QWidget, public ui::SpokenItems
 {
 public:
     explicit Sheet(const ReportDocument& document) : m_document(document) {}
+
+    /// Each point of each chart; where it stands in the picture says nothing more.
+    [[nodiscard]] int spokenItemCount() const override
+    {
+        int points = 0;
+        for (const Chart& chart : m_document.report().charts)
+            points += static_cast<int>(chart.points.size());
+        return points;
+    }
+    [[nodiscard]] ui::SpokenItem spokenItem(int index) const override
+    {
+        auto left = static_cast<std::size_t>(index);
+        const auto* chart = m_document.report().charts.data();
+        for (; left >= chart->points.size(); ++chart)
+            left -= chart->points.size();
+        const ChartPoint& point = chart->points[left];
+        const QString value = shownNumber(point.value, chart->leastDecimals, chart->mostDecimals);
+        return {u"%1 %2"_s.arg(point.label, value), chart->title, rect()};
+    }
 
 protected:
     void resizeEvent(QResizeEvent* /*event*/) override
@@ -58,7 +80,9 @@ private:
 
 ChartPane::ChartPane(const ReportDocument& document, QWidget* parent) : QScrollArea(parent)
 {
-    setWidget(new Sheet(document));
+    auto* const sheet = new Sheet(document);
+    sheet->setAccessibleName(u"Charts of the report"_s);
+    setWidget(sheet);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMinimumWidth(200);

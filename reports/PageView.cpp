@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::reports
 {
 namespace
@@ -138,12 +140,17 @@ void PageView::paintPage(QPainter& painter, int page) const
     painter.restore();
 }
 
+bool PageView::isChosen(const PlacedLine& line) const
+{
+    return hasChosen() && !line.isContinued && line.line >= firstChosen() && line.line <= lastChosen();
+}
+
 void PageView::paintChosen(QPainter& painter, int page) const
 {
     QColor colour = ui::colours::accent;
     colour.setAlphaF(0.25F);
     for (const PlacedLine& line : m_document.pages().placedLines(page)) {
-        if (!line.isContinued && line.line >= firstChosen() && line.line <= lastChosen())
+        if (isChosen(line))
             painter.fillRect(line.place, colour);
     }
 }
@@ -263,6 +270,30 @@ void PageView::reveal(qsizetype line)
     const double bottom = top + found->place.height() * m_scale;
     if (top < 0 || bottom > viewport()->height())
         scrollBy(static_cast<int>(top) - viewport()->height() / 2);
+    say(line);
+}
+
+void PageView::say(qsizetype line)
+{
+    const auto placed = m_document.pages().placedLines(currentPage());
+    const auto found = std::ranges::find(placed, line, &PlacedLine::line);
+    if (found != placed.end())
+        ui::sayItem(*this, static_cast<int>(found - placed.begin()));
+}
+
+int PageView::spokenItemCount() const
+{
+    return static_cast<int>(m_document.pages().placedLines(currentPage()).size());
+}
+
+ui::SpokenItem PageView::spokenItem(int index) const
+{
+    const PlacedLine line = m_document.pages().placedLines(currentPage()).at(static_cast<std::size_t>(index));
+    QStringList cells = m_document.linesAsText(line.line, line.line).trimmed().split(u'\t');
+    cells.removeAll(QString());
+    const QRectF place(pageRect(currentPage()).topLeft() + line.place.topLeft() * m_scale,
+                       line.place.size() * m_scale);
+    return {cells.join(u", "_s), {}, place.toAlignedRect(), isChosen(line)};
 }
 
 } // namespace norvane::reports

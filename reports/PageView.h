@@ -2,6 +2,7 @@
 #pragma once
 
 #include "reports/ReportDocument.h"
+#include "ui/SpokenItems.h"
 
 #include <QAbstractScrollArea>
 
@@ -14,7 +15,8 @@ enum class Zoom { FitWidth, FitPage, TrueSize };
 
 /// Pages are turned with Page Up, Page Down, Home and End, and scrolled with wheel, arrows and the space bar.
 /// Lines are chosen with the mouse, or with Shift and the arrows from the line that was found or clicked.
-class PageView : public QAbstractScrollArea
+/// Screen readers find the lines of the current page.
+class PageView : public QAbstractScrollArea, public ui::SpokenItems
 {
     Q_OBJECT
 
@@ -37,6 +39,9 @@ public:
     [[nodiscard]] bool hasChosen() const { return m_anchor >= 0; }
     [[nodiscard]] qsizetype firstChosen() const { return qMin(m_anchor, m_current); }
     [[nodiscard]] qsizetype lastChosen() const { return qMax(m_anchor, m_current); }
+
+    [[nodiscard]] int spokenItemCount() const override;
+    [[nodiscard]] ui::SpokenItem spokenItem(int index) const override;
 
 Q_SIGNALS:
     void currentPageChanged();
@@ -62,6 +67,8 @@ private:
     void choose(qsizetype line, bool extends);
     void extendBy(int lines);
     void reveal(qsizetype line);
+    void say(qsizetype line);
+    [[nodiscard]] bool isChosen(const PlacedLine& line) const;
     bool turnPage(int key);
     void scrollBy(int pixels);
     void keepPlace(const std::function<void()>& change);

@@ -51,6 +51,14 @@ QString documents()
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
+/// What stands above the lines, or in their place.
+QString spokenHeading(const ReportHeading& heading)
+{
+    QStringList texts{heading.title, heading.subtitle, heading.customer, heading.notice};
+    texts.removeAll(QString());
+    return texts.join(u", "_s);
+}
+
 } // namespace
 
 struct PreviewWindow::FileKind {
@@ -100,6 +108,7 @@ PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterFinder find
 void PreviewWindow::buildControls()
 {
     ui::nameControl(*m_view, u"Pages"_s);
+    m_view->setAccessibleDescription(spokenHeading(m_document.report().heading));
     ui::nameControl(*m_charts, u"Charts"_s);
     ui::nameControl(*m_find, u"FindBar"_s);
     ui::nameControl(*m_status, u"StatusBar1"_s);

@@ -77,7 +77,8 @@ NumberBox::NumberBox(Point point, QWidget* parent)
     setValidator(m_validator);
     setAlignment(Qt::AlignRight);
     connect(this, &QLineEdit::textEdited, this, &NumberBox::takeTyping);
-    connect(this, &QLineEdit::editingFinished, this, [this] { setText(shownText(value())); });
+    connect(this, &QLineEdit::editingFinished, this, [this] { showText(shownText(value())); });
+    connect(this, &QLineEdit::textChanged, this, &NumberBox::takeGiven);
     connect(this, &QLineEdit::inputRejected, this,
             [this] { QToolTip::showText(mapToGlobal(rect().bottomLeft()), toolTip(), this); });
 }
@@ -104,7 +105,26 @@ void NumberBox::setValue(const Decimal& value)
 {
     m_validator->allowMinus(value.coefficient() < 0);
     if (const QString shown = shownText(value); shown != text())
-        setText(shown);
+        showText(shown);
+}
+
+void NumberBox::showText(const QString& text)
+{
+    m_known = text;
+    setText(text);
+}
+
+/// Assistive technology sets a text past the rules of typing.
+void NumberBox::takeGiven()
+{
+    QString given = text();
+    if (given == m_known)
+        return;
+    int cursor = 0;
+    if (m_validator->validate(given, cursor) == QValidator::Invalid)
+        return showText(m_known);
+    showText(given);
+    takeTyping(given);
 }
 
 bool NumberBox::isTooLarge(const QString& text) const
@@ -139,6 +159,7 @@ void NumberBox::mouseDoubleClickEvent(QMouseEvent* /*event*/)
 
 void NumberBox::takeTyping(const QString& text)
 {
+    m_known = text;
     if (isTooLarge(text)) {
         setValue({});
         Q_EMIT maximumExceeded();

@@ -13,7 +13,7 @@ namespace norvane::ui
 /// digits. An empty box counts as 0. Setting a value by program raises no signal. The tool tip tells from
 /// where to where the number may go; it opens by itself at a key that the box does not take. The first click
 /// into the box and a double click choose the whole number, so that what is typed replaces it: half a price
-/// that stays makes 290.20 of 2.90.
+/// that stays makes 290.20 of 2.90. A text that screen readers or dictation put in counts as typed.
 class NumberBox : public QLineEdit
 {
     Q_OBJECT
@@ -44,11 +44,14 @@ protected:
 
 private:
     void takeTyping(const QString& text);
+    void takeGiven();
+    void showText(const QString& text);
     [[nodiscard]] bool isTooLarge(const QString& text) const;
 
     class Validator;
     Validator* m_validator;
     bool m_isFirstClick = false; ///< the mouse button that brought the focus is still down
+    QString m_known;             ///< the text last shown or typed
     QString m_maximum;           ///< plain number text; empty without a maximum
 };
 

@@ -6,5 +6,6 @@ norvane_library(norvane_ui_base
     "${PROJECT_SOURCE_DIR}/ui/FrmSearch.cpp"
     "${PROJECT_SOURCE_DIR}/ui/MessageBoxes.cpp"
     "${PROJECT_SOURCE_DIR}/ui/RegisterPicture.cpp"
+    "${PROJECT_SOURCE_DIR}/ui/SpokenItems.cpp"
     "${PROJECT_SOURCE_DIR}/ui/StatusLine.cpp"
   LINKS Qt6::Widgets norvane_platform)

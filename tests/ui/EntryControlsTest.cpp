@@ -57,6 +57,27 @@ TEST(NumberBox, ValuesSetByProgramComeBackAndRaiseNothing)
     EXPECT_EQ(edited.count(), 1);
 }
 
+TEST(NumberBox, WhatAScreenReaderPutsInFollowsTheRulesOfTyping)
+{
+    DecimalBox box;
+    box.setMaximum(Decimal(9999, 2));
+    box.setValue(Decimal(150, 2));
+    QSignalSpy edited(&box, &NumberBox::valueEdited);
+    QSignalSpy exceeded(&box, &NumberBox::maximumExceeded);
+    const auto give = [&box](const QString& text) {
+        auto& editing = *QAccessible::queryAccessibleInterface(&box)->editableTextInterface();
+        editing.replaceText(0, static_cast<int>(box.text().size()), text);
+        return box.text();
+    };
+    EXPECT_EQ(give(u"2,90"_s), u"2.90"_s);
+    EXPECT_EQ(edited.count(), 1);
+    EXPECT_EQ(give(u"-3"_s), u"2.90"_s);
+    EXPECT_EQ(give(u"3 euro"_s), u"2.90"_s);
+    EXPECT_EQ(edited.count() + exceeded.count(), 1);
+    EXPECT_EQ(give(u"100"_s), u"0.00"_s);
+    EXPECT_EQ(exceeded.count(), 1);
+}
+
 TEST(NumberBox, TheMaximumIsReportedOnceForEachEntryAboveIt)
 {
     DecimalBox box;
