@@ -128,11 +128,15 @@ RecordEditor::RecordEditor(std::shared_ptr<store::Database> database, ScreenTabl
 
 void RecordEditor::showFields(BoundFields& fields)
 {
-    namingFile(m_screenFile, [&] {
-        forEachBound(fields, showOrder, [this](BoundField& field) {
-            field.content = shownValue(field, m_records.value(field.dataField));
-        });
-    });
+    const auto explain = [this](const QString& text) {
+        return m_records.recordCount() > 0
+                   ? text
+                   : text + u" The table is empty. Upload its file from the ECR first."_s;
+    };
+    const auto showField = [this](BoundField& field) {
+        field.content = shownValue(field, m_records.value(field.dataField));
+    };
+    namingFile(m_screenFile, [&] { atPlace(explain, [&] { forEachBound(fields, showOrder, showField); }); });
     remember();
 }
 

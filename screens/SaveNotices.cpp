@@ -15,12 +15,14 @@ struct Reason {
     QLatin1StringView text;
 };
 
-/// Failures that have nothing to do with the entry. The texts of all others name table and field.
+/// Failures that the user can tell in fewer words than the database. The texts of all others name table and
+/// field.
 constexpr Reason reasons[] = {
     {Failure::DatabaseLocked, "another program holds the database"_L1},
     {Failure::DiskFull, "the disk is full"_L1},
     {Failure::PathOrFileAccess, "the database is read only"_L1},
     {Failure::DeviceIo, "the disk cannot be read or written"_L1},
+    {Failure::DuplicateKey, "another record has this number"_L1},
     {Failure::RecordDeleted, "the record was deleted meanwhile"_L1},
 };
 

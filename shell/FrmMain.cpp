@@ -35,6 +35,10 @@ namespace
 constexpr double spareWidthTwips = 4;
 constexpr double spareHeightTwips = 450;
 
+/// How far aside of another a screen opens, in device-independent pixels: the title of the lower one stays
+/// visible.
+constexpr int cascadeStep = 28;
+
 /// The shared forms have a title with a close button, but their size is fixed.
 constexpr Qt::WindowFlags sharedFormFlags = Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
@@ -190,12 +194,23 @@ QMdiSubWindow& FrmMain::showChild(QWidget* form, Qt::WindowFlags flags)
     return *child;
 }
 
-/// In the middle of the window, higher when the status bar would cover its lower edge.
+/// In the middle of the window, higher when the status bar would cover its lower edge, and aside of a screen
+/// of the same size: exactly above it, it would hide what was typed there.
 void FrmMain::place(QMdiSubWindow& child)
 {
     ui::centreOn(child, *this);
     const int lowest = qMax(0, m_area->viewport()->height() - child.height());
     child.move(child.x(), qMin(child.y(), lowest));
+    const QPoint step(cascadeStep, cascadeStep);
+    while (coversAnother(child) && m_area->viewport()->rect().contains(child.geometry().translated(step)))
+        child.move(child.pos() + step);
+}
+
+bool FrmMain::coversAnother(const QMdiSubWindow& child) const
+{
+    return std::ranges::any_of(m_area->subWindowList(), [&child](const QMdiSubWindow* other) {
+        return other != &child && other->isVisible() && other->geometry() == child.geometry();
+    });
 }
 
 void FrmMain::showShared(const QString& name, const std::function<QWidget*()>& make, FormSize size)

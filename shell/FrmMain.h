@@ -81,6 +81,7 @@ private:
     void openScreen(const MenuEntry& entry);
     void openForm(const MenuEntry& entry);
     void place(QMdiSubWindow& child);
+    [[nodiscard]] bool coversAnother(const QMdiSubWindow& child) const;
     void showDataInUse();
 
     const ApplicationValues& m_values;

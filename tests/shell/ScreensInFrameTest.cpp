@@ -167,6 +167,7 @@ TEST_F(ScreensInFrameTest, AnUntouchedScreenFollowsAPriceChangeAndATouchedOneAsk
     QWidget& touched = open("PLUMENU");
     type(touched, pluName, "Stout");
     QWidget& untouched = open("PLUMENU");
+    EXPECT_NE(touched.parentWidget()->pos(), untouched.parentWidget()->pos()) << "none hides the other";
     m_boxes.answers = {true};
     child<QAction>(*m_main, "Transfer1to2").trigger(); // without a rate nothing changes
     EXPECT_EQ(shown(untouched, firstPrice), "2.50");
