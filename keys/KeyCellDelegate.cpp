@@ -191,6 +191,10 @@ void KeyCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
 KeyLegend::KeyLegend(QWidget* parent) : QWidget(parent)
 {
     ui::nameControl(*this, u"KeyLegend"_s);
+    QStringList words;
+    for (const Look& look : explainedLooks)
+        words += look.words;
+    setAccessibleName(u"Keys are marked as: "_s + words.join(u", "_s));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 

@@ -97,6 +97,24 @@ protected:
     std::unique_ptr<KeyLayout> form;
 };
 
+TEST_F(KeyLayoutTest, AScreenReaderMeetsEachKeyWithItsNumberStateAndAction)
+{
+    auto& key = *QAccessible::queryAccessibleInterface(&grid())->tableInterface()->cellAt(9, 0);
+    const auto said = [&key] {
+        return (key.text(QAccessible::Name) + u": "_s + key.text(QAccessible::Description)).toStdString();
+    };
+    grid().setCurrentCell({9, 0});
+    control<QRadioButton>("plucode").click();
+    click(control<QTableView>("plulist"), 1);
+    EXPECT_EQ(said(), "P00000000000001002 Cider: Key 1, PLU");
+    control<QAction>("Mark").trigger();
+    EXPECT_EQ(said(), "P00000000000001002 Cider: Key 1, PLU, marked");
+    grid().setCurrentCell({0, 0});
+    EXPECT_FALSE(key.state().selected);
+    key.actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(key.state().selected);
+}
+
 TEST_F(KeyLayoutTest, IsWorkedByKeysAloneAndStoresOnlyWhenTold)
 {
     EXPECT_EQ(shop.values.databasePath, shop.folder.path("velmar.mdb"));

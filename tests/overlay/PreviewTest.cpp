@@ -70,7 +70,12 @@ TEST_F(Preview, MarksTheKeysThatAPrinterCannotReachAndMovesTheSheet)
 {
     Document document(Keyboard::Velmar);
     document.cell(40).background = {255};
+    document.cell(0).text = u"TEA"_s;
     open(document, office);
+    auto& sheet = *QAccessible::queryAccessibleInterface(&control<SheetView>(*m_preview, u"SheetView"_s));
+    EXPECT_EQ(sheet.child(0)->text(QAccessible::Name), u"TEA"_s);
+    EXPECT_EQ(sheet.child(0)->text(QAccessible::Description),
+              u"Column 1, key 1, leaves the printable area"_s);
     EXPECT_EQ(
         notice(),
         "13 keys leave the printable area of the printer Office (dashed line) and will not print whole.");
@@ -78,6 +83,7 @@ TEST_F(Preview, MarksTheKeysThatAPrinterCannotReachAndMovesTheSheet)
     EXPECT_NE(at(8 + 8, 3 + 13), QColor(Qt::white)) << "a mark over the white of the first key";
     press(u"MoveButton"_s);
     EXPECT_EQ(notice(), "");
+    EXPECT_EQ(sheet.child(0)->text(QAccessible::Description), u"Column 1, key 1"_s);
     EXPECT_EQ(m_corrections.of(u"Office"_s).down.offset, millimetres(2));
     EXPECT_EQ(at(8 + 18 + 8, 5 + 7), QColor(Qt::red));
     EXPECT_EQ(at(8 + 8, 5 + 13), QColor(Qt::white));

@@ -85,6 +85,28 @@ protected:
     QPointer<PreviewWindow> m_preview = new PreviewWindow(longReport(), m_boxes, m_finder, nullptr);
 };
 
+TEST_F(PreviewTest, AScreenReaderFindsLinesOfThePageAndPointsOfTheCharts)
+{
+    auto& pages = *QAccessible::queryAccessibleInterface(control(u"Pages"_s));
+    EXPECT_EQ(pages.text(QAccessible::Description),
+              u"PLU Sales Report by Date., Friday, 7 May 2004, Corner Shop, No sales on 7 May 2004."_s);
+    press(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), u"Article 2"_s);
+    std::string chosen;
+    for (int place = 0; place < pages.childCount(); ++place) {
+        if (pages.child(place)->state().selected)
+            chosen += pages.child(place)->text(QAccessible::Name).toStdString();
+    }
+    EXPECT_EQ(chosen, "2, Article 2, 1.125, 2.35");
+    EXPECT_EQ(pages.childAt(pages.child(1)->rect().center().x(), pages.child(1)->rect().center().y()),
+              pages.child(1));
+
+    auto& charts = *QAccessible::queryAccessibleInterface(control<QScrollArea>(u"Charts"_s)->widget());
+    EXPECT_EQ(charts.childCount(), 15 + 6 + 31);
+    EXPECT_EQ(charts.child(16)->text(QAccessible::Name), u"Label 1 94.50"_s);
+    EXPECT_EQ(charts.child(16)->text(QAccessible::Description), u"Best-selling PLUs"_s);
+}
+
 TEST_F(PreviewTest, TurnsPagesByKeysAndWheel)
 {
     for (const auto& [key, page] : {std::pair(Qt::Key_PageDown, 2),
