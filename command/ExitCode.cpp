@@ -1,6 +1,8 @@
 // See ExitCode.h.
 #include "command/ExitCode.h"
 
+#include "platform/RuntimeFailure.h"
+
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -17,14 +19,35 @@ std::span<const ExitMeaning> exitMeanings()
         {ExitCode::NoCustomer, "there is no such customer"_L1},
         {ExitCode::NoSuchName,
          "there is no such box, report or copy, or the name fits several, also that of the customer"_L1},
-        {ExitCode::Busy, "another exchange, collection or price run is at work with the customer"_L1},
+        {ExitCode::Busy,
+         "another exchange, collection, price run or publication is at work with the customer"_L1},
         {ExitCode::Stopped,
          "the run stopped before its end: a register's answer, or a question answered No"_L1},
         {ExitCode::Unwritable, "a file or folder cannot be written"_L1},
         {ExitCode::Unsound, "the check found something"_L1},
         {ExitCode::BadFile, "the file to import has mistakes"_L1},
+        {ExitCode::NoServer, "PostgreSQL cannot be reached, or has no such database or login"_L1},
+        {ExitCode::ServerWentAway,
+         "PostgreSQL went away; the next publication goes on where this one stopped"_L1},
+        {ExitCode::NoRights, "the rights at PostgreSQL do not suffice"_L1},
+        {ExitCode::UnfitServer, "the database there has a later schema or another encoding"_L1},
+        {ExitCode::OtherShop, "the shop was published from another folder or under another name"_L1},
+        {ExitCode::Vanished, "the shop no longer has what is published; that was left as it is"_L1},
     });
     return meanings;
+}
+
+ExitCode codeOf(const RuntimeFailure& failure)
+{
+    switch (failure.failure()) {
+    case Failure::PathOrFileAccess:
+    case Failure::DiskFull:
+        return ExitCode::Unwritable;
+    case Failure::DatabaseLocked:
+        return ExitCode::Busy;
+    default:
+        return ExitCode::Failed;
+    }
 }
 
 } // namespace norvane::command

@@ -7,6 +7,11 @@
 #include <span>
 #include <stdexcept>
 
+namespace norvane
+{
+class RuntimeFailure;
+}
+
 namespace norvane::command
 {
 
@@ -21,6 +26,12 @@ enum class ExitCode {
     Unwritable = 7,
     Unsound = 8,
     BadFile = 9,
+    NoServer = 10,
+    ServerWentAway = 11,
+    NoRights = 12,
+    UnfitServer = 13,
+    OtherShop = 14,
+    Vanished = 15,
 };
 
 struct ExitMeaning {
@@ -29,6 +40,9 @@ struct ExitMeaning {
 };
 /// All codes with their meaning, as help and manual tell them.
 [[nodiscard]] std::span<const ExitMeaning> exitMeanings();
+
+/// What a failure that nobody caught means.
+[[nodiscard]] ExitCode codeOf(const RuntimeFailure& failure);
 
 /// Ends a command. The text, which may be empty when the user was told already, goes to standard error.
 class CommandError : public std::runtime_error

@@ -18,19 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-ExitCode codeOf(const RuntimeFailure& failure)
-{
-    switch (failure.failure()) {
-    case Failure::PathOrFileAccess:
-    case Failure::DiskFull:
-        return ExitCode::Unwritable;
-    case Failure::DatabaseLocked:
-        return ExitCode::Busy;
-    default:
-        return ExitCode::Failed;
-    }
-}
-
 void run(const QStringList& words)
 {
     const auto [verb, invocation] = parse(words);

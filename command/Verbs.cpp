@@ -25,6 +25,12 @@ constexpr auto reportOptions = std::to_array<OptionDefinition>({
 constexpr auto plusOptions = std::to_array<OptionDefinition>({
     {"dry-run"_L1, {}, "of an import: list what would change, and change nothing"_L1},
 });
+constexpr auto publishOptions = std::to_array<OptionDefinition>({
+    {"to"_L1, "CONNECTION"_L1, "\"host=db.example dbname=chain\" or \"postgresql://db.example/chain\""_L1},
+    {"vanished"_L1, "keep|remove"_L1,
+     "of days that are published and that the shop no longer has: leave them for good, or take them away"_L1},
+    {"adopt"_L1, {}, "go on with a shop that was published from another folder or under another name"_L1},
+});
 
 // clang-format off
 constexpr auto all = std::to_array<Verb>({
@@ -43,6 +49,8 @@ constexpr auto all = std::to_array<Verb>({
     {"copies"_L1, "CUSTOMER"_L1, 1, 1, {}, "Lists the safety copies, the latest first."_L1, listCopies},
     {"restore"_L1, "CUSTOMER COPY"_L1, 2, 2, {},
      "Puts the customer back as a safety copy holds it, after a copy of how it stands now. COPY is a name or its beginning."_L1, restore},
+    {"publish"_L1, "CUSTOMER..."_L1, 1, -1, publishOptions,
+     "Brings the sales and names of shops into the PostgreSQL of their chain: days that are new or have changed."_L1, publish},
 });
 // clang-format on
 

@@ -17,5 +17,6 @@ void report(const Workplace& workplace, const Invocation& words);
 void movePlus(const Workplace& workplace, const Invocation& words);
 void listCopies(const Workplace& workplace, const Invocation& words);
 void restore(const Workplace& workplace, const Invocation& words);
+void publish(const Workplace& workplace, const Invocation& words);
 
 } // namespace norvane::command

@@ -9,9 +9,9 @@ set -euo pipefail
 packages=(
   g++ cmake ninja-build ccache git
   qt6-base-dev qt6-serialport-dev libgl-dev
-  libsqlitecpp-dev libsqlite3-dev libxlsxwriter-dev libminizip-dev zlib1g-dev
+  libsqlitecpp-dev libsqlite3-dev libxlsxwriter-dev libminizip-dev zlib1g-dev libpqxx-dev
   poppler-utils unzip xvfb dbus-daemon at-spi2-core
-  libgtest-dev libgmock-dev libbenchmark-dev
+  libgtest-dev libgmock-dev libbenchmark-dev postgresql-15
   fonts-dejavu-core fonts-liberation
 )
 for option in "$@"; do
@@ -37,5 +37,10 @@ as_root=()
 if [ "$(id -u)" -ne 0 ]; then
   as_root=(sudo)
 fi
+# The tests start a PostgreSQL of their own: its package need not make and start one for the whole system.
+no_server=/etc/postgresql-common/createcluster.d/norvane-build.conf
+"${as_root[@]}" mkdir -p "${no_server%/*}"
+echo "create_main_cluster = false" | "${as_root[@]}" tee "$no_server" >/dev/null
+trap '"${as_root[@]}" rm -f "$no_server"' EXIT
 "${as_root[@]}" apt-get update -q
 "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"

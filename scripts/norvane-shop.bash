@@ -7,7 +7,9 @@ _norvane_shop()
     if [ "$COMP_CWORD" -eq 1 ]; then
         # The help names each command at the beginning of a line.
         choices=$("$1" --help 2>/dev/null | sed -n 's/^norvane-shop \([a-z]*\).*/\1/p')
-    elif [ "$COMP_CWORD" -eq 2 ]; then
+    elif [ "${COMP_WORDS[COMP_CWORD - 1]}" = --vanished ]; then
+        choices=$'keep\nremove'
+    elif [ "$COMP_CWORD" -eq 2 ] || { [ "${COMP_WORDS[1]}" = publish ] && [ "${word#-}" = "$word" ]; }; then
         choices=$("$1" customers --json 2>/dev/null | sed -n 's/^ *"name": "\(.*\)",$/\1/p')
     else
         choices=$("$1" --help 2>/dev/null | sed -n 's/^ *\(--[a-z]*\).*/\1/p' | sort -u)

@@ -1,0 +1,203 @@
+// The steps from an empty database to the current schema, and the partitions; see ChainSchema.h.
+#include "chain/ChainSchema.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::chain
+{
+namespace
+{
+
+std::string joined(const std::vector<std::string>& parts, const std::string& between)
+{
+    std::string all;
+    for (const std::string& part : parts)
+        all += (all.empty() ? "" : between) + part;
+    return all;
+}
+
+std::string columnOf(const ChainColumn& column, const char* constraint)
+{
+    return std::string(column.name) + ' ' + typeOf(column.content) + constraint;
+}
+
+/// No sales refer to another table by a constraint: it would be looked up for every row, and distributed
+/// tables could not have it.
+std::string declarationOf(const SalesTable& table)
+{
+    std::vector<std::string> columns{"shop integer NOT NULL", "day date NOT NULL"};
+    std::string key = "shop, day";
+    for (const auto& item : table.items) {
+        columns.push_back(columnOf(item, " NOT NULL"));
+        key += ", " + std::string(item.name);
+    }
+    const auto all = columnsOf(table);
+    for (auto added = all.begin() + static_cast<std::ptrdiff_t>(table.items.size()); added != all.end();
+         ++added)
+        columns.push_back(*added + " numeric NOT NULL");
+    return "CREATE TABLE " + std::string(table.name) + " (" + joined(columns, ", ") + ", PRIMARY KEY (" +
+           key + ")) PARTITION BY RANGE (day)";
+}
+
+std::string declarationOf(const NameTable& table)
+{
+    std::vector<std::string> columns{"shop integer NOT NULL"};
+    for (const auto& column : table.columns)
+        columns.push_back(columnOf(column, &column == table.columns.data() ? " NOT NULL" : ""));
+    return "CREATE TABLE " + std::string(table.name) + " (" + joined(columns, ", ") +
+           ", PRIMARY KEY (shop, " + std::string(table.columns.front().name) + "))";
+}
+
+/// The books: which shops there are, and what of each is published.
+constexpr auto books = std::to_array<const char*>({
+    "CREATE TABLE shops (shop integer GENERATED ALWAYS AS IDENTITY PRIMARY KEY, name text NOT NULL, "
+    "folded_name text NOT NULL UNIQUE, folder_id uuid NOT NULL UNIQUE, "
+    "first_published timestamptz NOT NULL DEFAULT now())",
+    "CREATE TABLE published_days (shop integer NOT NULL, day date NOT NULL, digest text NOT NULL, "
+    "row_count bigint NOT NULL, published_at timestamptz NOT NULL DEFAULT now(), "
+    "kept boolean NOT NULL DEFAULT false, PRIMARY KEY (shop, day))",
+    "CREATE TABLE published_names (shop integer NOT NULL, table_name text NOT NULL, digest text NOT NULL, "
+    "row_count bigint NOT NULL, published_at timestamptz NOT NULL DEFAULT now(), "
+    "PRIMARY KEY (shop, table_name))",
+});
+
+std::vector<std::string> tableStatements()
+{
+    std::vector<std::string> all(books.begin(), books.end());
+    for (const auto& table : salesTables())
+        all.push_back(declarationOf(table));
+    for (const auto& table : nameTables())
+        all.push_back(declarationOf(table));
+    return all;
+}
+
+/// What brings a schema from the version before to the next, the first one from nothing to version 1.
+using SchemaStep = std::vector<std::string> (*)();
+constexpr auto steps = std::to_array<SchemaStep>({tableStatements, viewStatements});
+constexpr int currentVersion = static_cast<int>(steps.size());
+
+bool exists(pqxx::work& work, const std::string& table)
+{
+    return !work.exec_params1("SELECT to_regclass($1)", table)[0].is_null();
+}
+
+/// A schema that the owner of the database has made for the user is taken as it is.
+void makeSchema(pqxx::work& work)
+{
+    if (work.exec_params1("SELECT to_regnamespace($1)", std::string(schemaName))[0].is_null())
+        work.exec0(std::string("CREATE SCHEMA ") + schemaName);
+    work.exec0("CREATE TABLE chain_version (version integer NOT NULL)");
+    work.exec0("INSERT INTO chain_version VALUES (0)");
+}
+
+int versionOf(pqxx::work& work)
+{
+    return work.exec1("SELECT max(version) FROM chain_version")[0].as<int>();
+}
+
+/// The common case takes no lock.
+int standingVersion(Server& server)
+{
+    int version = -1;
+    server.transact([&](pqxx::work& work) {
+        if (exists(work, qualified("chain_version")))
+            version = versionOf(work);
+    });
+    return version;
+}
+
+void takeSteps(pqxx::work& work)
+{
+    lockSchema(work);
+    if (!exists(work, qualified("chain_version")))
+        makeSchema(work);
+    for (auto step = static_cast<std::size_t>(versionOf(work)); step < steps.size(); ++step) {
+        for (const std::string& statement : steps.at(step)())
+            work.exec0(statement);
+    }
+    work.exec0("UPDATE chain_version SET version = " + std::to_string(currentVersion));
+}
+
+[[noreturn]] void failWithoutRights(const Server& server)
+{
+    throw ChainError(
+        ChainFailure::NoRights,
+        u"%1 may not make the schema %2 (%3): let the owner of the database run CREATE SCHEMA %2 "
+        "AUTHORIZATION %1, or connect as the owner of the schema."_s.arg(
+            server.user(), QLatin1StringView(schemaName), server.where()));
+}
+
+std::string partitionOf(const SalesTable& table, QDate month)
+{
+    return std::string(table.name) + month.toString(u"_yyyy_MM"_s).toStdString();
+}
+
+std::string partitionStatement(const SalesTable& table, QDate month)
+{
+    const auto word = [](QDate day) {
+        return '\'' + day.toString(Qt::ISODate).toStdString() + '\'';
+    };
+    return "CREATE TABLE IF NOT EXISTS " + partitionOf(table, month) + " PARTITION OF " +
+           std::string(table.name) + " FOR VALUES FROM (" + word(month) + ") TO (" +
+           word(month.addMonths(1)) + ')';
+}
+
+} // namespace
+
+std::string qualified(const char* table)
+{
+    return std::string(schemaName) + '.' + table;
+}
+
+void lockSchema(pqxx::work& work)
+{
+    work.exec1("SELECT pg_advisory_xact_lock(" + std::to_string(lockFamily) + ", 0)");
+}
+
+void prepareSchema(Server& server)
+{
+    const int version = standingVersion(server);
+    if (version > currentVersion) {
+        throw ChainError(
+            ChainFailure::Unfit,
+            u"The schema %1 has version %2 and this program knows versions up to %3 (%4): a later "
+            "program made it, so publish with that one."_s.arg(QLatin1StringView(schemaName))
+                .arg(version)
+                .arg(currentVersion)
+                .arg(server.where()));
+    }
+    if (version == currentVersion)
+        return;
+    try {
+        server.transact(takeSteps);
+    } catch (const ChainError& error) {
+        if (error.failure() == ChainFailure::NoRights)
+            failWithoutRights(server);
+        throw;
+    }
+}
+
+void makePartitions(Server& server, QDate day)
+{
+    const QDate month(day.year(), day.month(), 1);
+    std::vector<std::string> missing;
+    server.transact([&](pqxx::work& work) {
+        for (const auto& table : salesTables()) {
+            if (!exists(work, partitionOf(table, month)))
+                missing.push_back(partitionStatement(table, month));
+        }
+    });
+    if (missing.empty())
+        return;
+    // A transaction of its own: until its end nobody else can write to the tables.
+    server.transact([&](pqxx::work& work) {
+        lockSchema(work);
+        for (const std::string& statement : missing)
+            work.exec0(statement);
+    });
+}
+
+} // namespace norvane::chain

@@ -1,0 +1,32 @@
+// The tables and views of a chain in its database.
+#pragma once
+
+#include "chain/ChainTables.h"
+#include "chain/Server.h"
+
+#include <QDate>
+
+#include <string>
+#include <vector>
+
+namespace norvane::chain
+{
+
+/// Makes the schema where there is none and brings an older one up to date.
+/// @throws ChainError NoRights; Unfit for a schema of a later program.
+void prepareSchema(Server& server);
+
+/// Makes the partitions that hold the month of @p day, unless they are there. A partition that was made by
+/// one shop serves all.
+void makePartitions(Server& server, QDate day);
+
+/// The statements that make the views.
+[[nodiscard]] std::vector<std::string> viewStatements();
+
+/// A table's name for a place where the search path may not be trusted to find it.
+[[nodiscard]] std::string qualified(const char* table);
+
+/// Waits for whoever changes the schema; held to the end of the transaction.
+void lockSchema(pqxx::work& work);
+
+} // namespace norvane::chain

@@ -1,0 +1,165 @@
+// See ChainShop.h.
+#include "chain/ChainShop.h"
+
+#include "chain/ChainSchema.h"
+#include "platform/FilePaths.h"
+#include "platform/ProfileFile.h"
+
+#include <QUuid>
+
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::chain
+{
+namespace
+{
+
+const auto idFile = u"norvane-chain.ini"_s;
+const auto section = u"Chain"_s;
+const auto idKey = u"Shop"_s;
+
+struct Shop {
+    int number;
+    QString name;
+    QString folderId;
+};
+
+QString readId(const ShopFolder& folder)
+{
+    const ProfileFile file(existingPath(joinPath(folder.customerPath, idFile)));
+    return QUuid::fromString(file.value(section, idKey)).toString(QUuid::WithoutBraces);
+}
+
+void writeId(const ShopFolder& folder, const QString& id)
+{
+    const QString path = joinPath(folder.customerPath, idFile);
+    if (!ProfileFile::write(existingPath(path), section, idKey, id))
+        throw ChainError(ChainFailure::Unwritable, u"%1 could not be written."_s.arg(path));
+}
+
+std::string foldedName(const ShopFolder& folder)
+{
+    return folder.name.toCaseFolded().toStdString();
+}
+
+std::optional<Shop> shopBy(pqxx::work& work, const char* column, const std::string& value)
+{
+    const auto rows = work.exec_params(
+        "SELECT shop, name, folder_id FROM shops WHERE " + std::string(column) + "::text = $1", value);
+    if (rows.empty())
+        return std::nullopt;
+    const auto text = [&rows](pqxx::row::size_type column_) {
+        return QString::fromUtf8(rows[0][column_].c_str());
+    };
+    return Shop{rows[0][0].as<int>(), text(1), text(2)};
+}
+
+[[noreturn]] void failOther(const QString& text)
+{
+    throw ChainError(ChainFailure::OtherShop, text);
+}
+
+/// The shop of the folder's id has another name: the folder was renamed, or is a copy.
+void rename(pqxx::work& work, const ShopFolder& folder, const Shop& shop, bool adopt)
+{
+    if (!adopt) {
+        failOther(
+            u"\"%1\" was published as \"%2\": if the folder was renamed, publish it with --adopt; if it "
+            "is a copy for another shop, remove %3 from it."_s.arg(folder.name, shop.name, idFile));
+    }
+    work.exec_params0("UPDATE shops SET name = $1, folded_name = $2 WHERE shop = $3",
+                      folder.name.toStdString(), foldedName(folder), shop.number);
+}
+
+/// The shop of the folder's name has another id: it is of another machine, or the folder was made anew.
+void takeOver(const ShopFolder& folder, const Shop& shop, const Server& server, bool adopt)
+{
+    if (!adopt) {
+        failOther(
+            u"The shop \"%1\" was published from another folder (%2): rename one of the two, or, if this "
+            "folder goes on with that shop, publish it with --adopt."_s.arg(shop.name, server.where()));
+    }
+    writeId(folder, shop.folderId);
+}
+
+/// The id is kept first: were it lost, the next run would take the shop for another.
+int addShop(pqxx::work& work, const ShopFolder& folder, QString id)
+{
+    if (QUuid::fromString(id).isNull()) {
+        id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+        writeId(folder, id);
+    }
+    return work
+        .exec_params1("INSERT INTO shops (name, folded_name, folder_id) VALUES ($1, $2, $3) RETURNING shop",
+                      folder.name.toStdString(), foldedName(folder), id.toStdString())[0]
+        .as<int>();
+}
+
+int shopOf(pqxx::work& work, const ShopFolder& folder, const Server& server, bool adopt)
+{
+    const QString id = readId(folder);
+    const auto byId = shopBy(work, "folder_id", id.toStdString());
+    const auto byName = shopBy(work, "folded_name", foldedName(folder));
+    if (byId && byName && byId->number != byName->number) {
+        failOther(
+            u"\"%1\" was published as \"%2\", and there is another shop \"%3\" (%4): rename the folder."_s
+                .arg(folder.name, byId->name, byName->name, server.where()));
+    }
+    if (byId && !byName)
+        rename(work, folder, *byId, adopt);
+    if (byName && !byId)
+        takeOver(folder, *byName, server, adopt);
+    if (byId || byName)
+        return byId ? byId->number : byName->number;
+    return addShop(work, folder, id);
+}
+
+} // namespace
+
+int findShop(Server& server, const ShopFolder& folder, bool adopt)
+{
+    int shop = 0;
+    server.transact([&](pqxx::work& work) {
+        // Two first publications at once would give one name twice.
+        lockSchema(work);
+        shop = shopOf(work, folder, server, adopt);
+    });
+    return shop;
+}
+
+ShopLock::ShopLock(Server& server, int shop, const QString& name)
+    : m_server(server), m_name(name), m_key(std::to_string(lockFamily) + ", " + std::to_string(shop))
+{
+    bool isHeld = false;
+    server.transact([&](pqxx::work& work) {
+        isHeld = work.exec1("SELECT pg_try_advisory_lock(" + m_key + ")")[0].as<bool>();
+    });
+    if (!isHeld)
+        fail();
+}
+
+ShopLock::~ShopLock()
+{
+    try {
+        m_server.transact(
+            [this](pqxx::work& work) { work.exec1("SELECT pg_advisory_unlock(" + m_key + ")"); });
+    } catch (const ChainError&) {
+        // Without the connection the lock is gone.
+    }
+}
+
+void ShopLock::holdIn(pqxx::work& work) const
+{
+    if (!work.exec1("SELECT pg_try_advisory_xact_lock(" + m_key + ")")[0].as<bool>())
+        fail();
+}
+
+void ShopLock::fail() const
+{
+    throw ChainError(ChainFailure::Busy,
+                     u"Another program is publishing the shop \"%1\" (%2)."_s.arg(m_name, m_server.where()));
+}
+
+} // namespace norvane::chain

@@ -1,0 +1,49 @@
+// Which shop of the chain a customer's folder is.
+#pragma once
+
+#include "chain/Server.h"
+
+#include <string>
+
+namespace norvane::chain
+{
+
+/// A customer on this machine.
+struct ShopFolder {
+    QString name; ///< of the folder
+    QString customerPath;
+    QString databasePath;
+};
+
+/// The number of the shop. A folder is known by an id that its first publication leaves in it, in
+/// norvane-chain.ini, and by its name, without regard to case: two folders of one name on two machines are
+/// two shops, and a copy of a folder is another shop, too, until the user says otherwise.
+/// @param adopt the user says that the folder is the shop: it takes over the shop of its name, or gives the
+/// shop of its id its name.
+/// @throws ChainError OtherShop when name and id do not fit together and @p adopt is false, or both belong to
+/// other shops; Unwritable when the id cannot be kept.
+[[nodiscard]] int findShop(Server& server, const ShopFolder& folder, bool adopt);
+
+/// While it lives, no other program publishes the shop.
+class ShopLock
+{
+public:
+    /// @throws ChainError Busy.
+    ShopLock(Server& server, int shop, const QString& name);
+    ~ShopLock();
+    ShopLock(const ShopLock&) = delete;
+    ShopLock& operator=(const ShopLock&) = delete;
+
+    /// Takes the lock once more to the end of a transaction, for the connection may have been made anew.
+    /// @throws ChainError Busy.
+    void holdIn(pqxx::work& work) const;
+
+private:
+    [[noreturn]] void fail() const;
+
+    Server& m_server;
+    QString m_name;
+    std::string m_key;
+};
+
+} // namespace norvane::chain

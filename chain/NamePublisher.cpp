@@ -1,0 +1,84 @@
+// See NamePublisher.h.
+#include "chain/NamePublisher.h"
+
+#include "chain/CopyStream.h"
+#include "chain/SourceRows.h"
+
+namespace norvane::chain
+{
+namespace
+{
+
+class NamePublisher
+{
+public:
+    NamePublisher(pqxx::work& work, store::Database& database, int shop)
+        : m_work(work), m_database(database), m_shop(shop)
+    {
+    }
+
+    /// @return false when the table is empty in the shop and was not emptied.
+    bool publish(const NameTable& table, bool mayEmpty)
+    {
+        const ReadRows read = readNames(m_database, table);
+        const auto known = published(table);
+        const bool isEmptied = read.rows == 0 && !known.empty() && known[0][1].as<qint64>() > 0;
+        if (isEmptied && !mayEmpty)
+            return false;
+        if (known.empty() || known[0][0].as<std::string>() != read.digest)
+            replace(table);
+        return true;
+    }
+
+private:
+    pqxx::result published(const NameTable& table)
+    {
+        return m_work.exec_params(
+            "SELECT digest, row_count FROM published_names WHERE shop = $1 AND table_name = $2", m_shop,
+            std::string(table.name));
+    }
+
+    void replace(const NameTable& table)
+    {
+        m_work.exec_params0("DELETE FROM " + std::string(table.name) + " WHERE shop = $1", m_shop);
+        auto columns = columnsOf(table);
+        columns.insert(columns.begin(), "shop");
+        CopyStream stream(m_work, table.name, columns);
+        stream.setLeading(std::to_string(m_shop) + '\t');
+        const ReadRows copied =
+            readNames(m_database, table, [&stream](const std::string& line) { stream.add(line); });
+        stream.complete();
+        note(table, copied);
+    }
+
+    void note(const NameTable& table, const ReadRows& copied)
+    {
+        m_work.exec_params0("INSERT INTO published_names (shop, table_name, digest, row_count) "
+                            "VALUES ($1, $2, $3, $4) ON CONFLICT (shop, table_name) DO UPDATE SET "
+                            "digest = excluded.digest, row_count = excluded.row_count, published_at = now()",
+                            m_shop, std::string(table.name), copied.digest, copied.rows);
+    }
+
+    pqxx::work& m_work;
+    store::Database& m_database;
+    int m_shop;
+};
+
+} // namespace
+
+QStringList publishNames(Server& server, store::Database& database, int shop, const ShopLock& lock,
+                         bool mayEmpty)
+{
+    QStringList spared;
+    server.transact([&](pqxx::work& work) {
+        lock.holdIn(work);
+        NamePublisher publisher(work, database, shop);
+        for (const auto& table : nameTables()) {
+            if (!publisher.publish(table, mayEmpty))
+                spared << QLatin1StringView(table.name);
+        }
+    });
+    return spared;
+}
+
+} // namespace norvane::chain

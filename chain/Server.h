@@ -1,0 +1,44 @@
+// The connection to the PostgreSQL in which the shops of a chain come together.
+#pragma once
+
+#include "chain/ChainError.h"
+
+#include <functional>
+#include <memory>
+#include <pqxx/pqxx>
+
+namespace norvane::chain
+{
+
+/// Where the tables are.
+inline constexpr const char* schemaName = "norvane";
+/// Of the advisory locks: this number and that of the shop, 0 for the schema itself.
+inline constexpr int lockFamily = 0x4E76;
+
+class Server
+{
+public:
+    /// @param connection in the words of PostgreSQL: "host=... dbname=... user=..." or "postgresql://...".
+    /// @throws ChainError BadConnection, Unreachable; Unfit for a database that cannot hold every name.
+    explicit Server(const QString& connection);
+
+    /// Does @p work in one transaction: wholly, or not at all. @throws ChainError.
+    void transact(const std::function<void(pqxx::work&)>& work);
+
+    /// "database chain at db.example", for sentences.
+    [[nodiscard]] const QString& where() const { return m_where; }
+    [[nodiscard]] QString user() const;
+
+private:
+    void connect(const QString& connection);
+    void checkEncoding();
+    [[noreturn]] void failGone(const char* what) const;
+    [[noreturn]] void fail(ChainFailure failure, const QString& sentence, const char* what) const;
+    [[nodiscard]] QString plain(const char* what) const;
+
+    QString m_where;
+    QString m_password; ///< not to be shown
+    std::unique_ptr<pqxx::connection> m_connection;
+};
+
+} // namespace norvane::chain

@@ -1,0 +1,119 @@
+// See ShopDays.h.
+#include "chain/ShopDays.h"
+
+#include "chain/ChainTables.h"
+#include "chain/SourceRows.h"
+#include "platform/RuntimeFailure.h"
+#include "store/DayDigests.h"
+
+#include <QCryptographicHash>
+
+namespace norvane::chain
+{
+namespace
+{
+
+/// Of a table that has no sales of the day.
+constexpr const char* noRows = "-";
+
+QDate dayOf(const pqxx::field& field)
+{
+    return QDate::fromString(QString::fromUtf8(field.c_str()), Qt::ISODate);
+}
+
+} // namespace
+
+PublishedDays publishedDays(Server& server, int shop)
+{
+    PublishedDays days;
+    server.transact([&](pqxx::work& work) {
+        for (const auto& row : work.exec_params(
+                 "SELECT to_char(day, 'YYYY-MM-DD'), digest, kept FROM published_days WHERE shop = $1", shop))
+            days[dayOf(row[0])] = {row[1].as<std::string>(), row[2].as<bool>()};
+    });
+    return days;
+}
+
+ShopDays::ShopDays(store::Database& database) : m_database(database), m_new(salesTables().size())
+{
+    for (std::size_t table = 0; table < salesTables().size(); ++table)
+        read(table);
+}
+
+void ShopDays::read(std::size_t table)
+{
+    const auto& source = salesTables()[table];
+    const auto standing = store::DayDigests(m_database, QLatin1StringView(source.source)).standing();
+    for (const QDate day : daysOf(m_database, source)) {
+        auto& digests = m_digests.try_emplace(day, salesTables().size(), noRows).first->second;
+        const auto known = standing.find(day);
+        digests[table] = known != standing.end() && isCurrentDigest(known->second) ? known->second : "";
+    }
+}
+
+QList<QDate> ShopDays::days() const
+{
+    QList<QDate> all;
+    for (const auto& [day, digests] : m_digests)
+        all << day;
+    return all;
+}
+
+std::string ShopDays::digestOf(QDate day)
+{
+    std::string all;
+    const auto& digests = m_digests.at(day);
+    for (std::size_t table = 0; table < digests.size(); ++table) {
+        if (digests[table].empty())
+            setDigest(day, table, readDay(m_database, salesTables()[table], day).digest);
+        all += digests[table] + ' ';
+    }
+    return QCryptographicHash::hash(QByteArrayView(all), QCryptographicHash::Blake2b_160)
+        .toHex()
+        .toStdString();
+}
+
+void ShopDays::setDigest(QDate day, std::size_t table, const std::string& digest)
+{
+    std::string& known = m_digests.at(day).at(table);
+    if (known == noRows || known == digest)
+        return;
+    known = digest;
+    m_new.at(table)[day] = digest;
+}
+
+void ShopDays::keep()
+{
+    try {
+        store::Transaction transaction(m_database);
+        for (std::size_t table = 0; table < m_new.size(); ++table)
+            store::DayDigests(m_database, QLatin1StringView(salesTables()[table].source)).keep(m_new[table]);
+        transaction.commit();
+    } catch (const RuntimeFailure&) {
+        // They only save time.
+    }
+    for (auto& digests : m_new)
+        digests.clear();
+}
+
+DayComparison compareDays(ShopDays& days, const PublishedDays& published)
+{
+    DayComparison comparison;
+    for (const QDate day : days.days()) {
+        const auto known = published.find(day);
+        if (known == published.end()) {
+            comparison.missing << day;
+        } else if (known->second.isKept || known->second.digest == days.digestOf(day)) {
+            ++comparison.same;
+        } else {
+            comparison.changed << day;
+        }
+    }
+    for (const auto& [day, content] : published) {
+        if (!content.isKept && !days.has(day))
+            comparison.vanished << day;
+    }
+    return comparison;
+}
+
+} // namespace norvane::chain

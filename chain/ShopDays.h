@@ -1,0 +1,62 @@
+// The days of a shop, and which of them differ from what is published.
+#pragma once
+
+#include "chain/Server.h"
+#include "store/Database.h"
+
+#include <QDate>
+#include <QList>
+
+#include <map>
+#include <string>
+
+namespace norvane::chain
+{
+
+/// A day as it is published.
+struct PublishedDay {
+    std::string digest;
+    bool isKept = false; ///< the user wants it to stay as it is
+};
+using PublishedDays = std::map<QDate, PublishedDay>;
+
+[[nodiscard]] PublishedDays publishedDays(Server& server, int shop);
+
+/// The days that any sales table of a customer holds. What a day holds is told by a digest that lies with the
+/// sales and goes with any change of them, so that years are compared without reading them.
+class ShopDays
+{
+public:
+    explicit ShopDays(store::Database& database);
+
+    [[nodiscard]] bool has(QDate day) const { return m_digests.contains(day); }
+    [[nodiscard]] QList<QDate> days() const;
+    /// Reads the rows of tables that have no digest of the day, and keeps it.
+    /// @throws RuntimeFailure as readDay() does.
+    [[nodiscard]] std::string digestOf(QDate day);
+    /// What was just read of a day, by the order of salesTables().
+    void setDigest(QDate day, std::size_t table, const std::string& digest);
+    /// Writes the digests that are new beside the sales. A file that cannot be written keeps none: the next
+    /// run reads these days once more.
+    void keep();
+
+private:
+    void read(std::size_t table);
+
+    store::Database& m_database;
+    /// Of each table, empty when it is not known.
+    std::map<QDate, std::vector<std::string>> m_digests;
+    std::vector<std::map<QDate, std::string>> m_new; ///< by table
+};
+
+/// What is to be done about the days of a shop.
+struct DayComparison {
+    QList<QDate> missing; ///< not published yet
+    QList<QDate> changed;
+    QList<QDate> vanished; ///< published, and no longer in the shop
+    int same = 0;
+};
+
+[[nodiscard]] DayComparison compareDays(ShopDays& days, const PublishedDays& published);
+
+} // namespace norvane::chain

@@ -1,0 +1,172 @@
+// See SourceRows.h.
+#include "chain/SourceRows.h"
+
+#include "platform/Decimal.h"
+#include "store/BoundQuery.h"
+#include "store/SalesTables.h"
+
+#include <QCryptographicHash>
+
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::chain
+{
+namespace
+{
+
+using store::Value;
+
+/// Stands before a digest. Change it with anything that changes what is read.
+constexpr const char* digestForm = "1:";
+
+std::string quoted(const std::string& field)
+{
+    return '"' + field + '"';
+}
+
+/// PostgreSQL has no character 0.
+QString withoutNulls(const Value& value)
+{
+    return value.toText().remove(QChar::Null);
+}
+
+/// Registers spell a time as hhmm, with or without the zeros in front.
+QString timeText(const Value& value)
+{
+    constexpr int digits = 4;
+    const QString padded = withoutNulls(value).trimmed().rightJustified(digits, u'0');
+    return padded.chopped(2) + u':' + padded.right(2);
+}
+
+/// Nothing for a price that was never set.
+std::optional<std::string> textOf(const Value& value, Content content)
+{
+    switch (content) {
+    case Content::Number: {
+        const auto number = Decimal::parse(value.toUtf8());
+        return number ? std::optional(number->text()) : std::nullopt;
+    }
+    case Content::Time:
+        return timeText(value).toStdString();
+    case Content::Text: // filled with blanks by a register
+        return withoutNulls(value).trimmed().toStdString();
+    case Content::Key:
+        return withoutNulls(value).toStdString();
+    case Content::Whole:
+        break;
+    }
+    return value.toUtf8();
+}
+
+void appendEscaped(std::string& line, const std::string& text)
+{
+    static constexpr std::string_view special = "\\\t\n\r";
+    static constexpr std::string_view letters = "\\tnr";
+    for (const char c : text) {
+        if (const auto at = special.find(c); at != std::string_view::npos) {
+            line += '\\';
+            line += letters[at];
+        } else {
+            line += c;
+        }
+    }
+}
+
+void appendValue(std::string& line, const Value& value, Content content)
+{
+    if (const auto text = value.isNull() ? std::nullopt : textOf(value, content)) {
+        appendEscaped(line, *text);
+    } else {
+        line += "\\N";
+    }
+}
+
+/// Goes through a query, whose first columns are @p columns and all others sums, which come as texts.
+ReadRows readAll(store::BoundQuery& query, std::span<const ChainColumn> columns, const RowSink& sink)
+{
+    ReadRows read;
+    QCryptographicHash hash(QCryptographicHash::Blake2b_160);
+    for (std::string line; query.next(); ++read.rows) {
+        line.clear();
+        for (int at = 0; at < query.columnCount(); ++at) {
+            line.append(at == 0 ? 0 : 1, '\t');
+            if (const auto column = static_cast<std::size_t>(at); column < columns.size()) {
+                appendValue(line, query.value(at), columns[column].content);
+            } else {
+                line += query.value(at).textView();
+            }
+        }
+        hash.addData(QByteArrayView(line));
+        hash.addData(QByteArrayView("\n"));
+        if (sink)
+            sink(line);
+    }
+    read.digest = digestForm + hash.result().toHex().toStdString();
+    return read;
+}
+
+std::string dayStatement(const SalesTable& table)
+{
+    std::string items;
+    std::string sums;
+    for (const auto& item : table.items)
+        items += (items.empty() ? "" : ", ") + quoted(item.field) + " COLLATE BINARY";
+    for (const std::string& field : addedFields(table))
+        sums += ", exact_sum(" + quoted(field) + ')';
+    return "SELECT " + items + sums + " FROM " + quoted(table.source) + " WHERE " +
+           quoted(store::salestable::day) + " = ? GROUP BY " + items + " ORDER BY " + items;
+}
+
+std::string nameStatement(const NameTable& table)
+{
+    std::string columns;
+    for (const auto& column : table.columns)
+        columns += (columns.empty() ? "" : ", ") + quoted(column.field);
+    const std::string key = quoted(table.columns.front().field);
+    return "SELECT " + columns + " FROM " + quoted(table.source) + " WHERE " + key +
+           " IS NOT NULL ORDER BY " + key;
+}
+
+/// Jumps from day to day through the index: a walk over all rows would take seconds.
+std::string daysStatement(const SalesTable& table)
+{
+    const std::string day = quoted(store::salestable::day);
+    const std::string next = "SELECT min(" + day + ") FROM " + quoted(table.source);
+    return "WITH RECURSIVE days(day) AS (" + next + " UNION ALL SELECT (" + next + " WHERE " + day +
+           " > days.day) FROM days WHERE days.day IS NOT NULL) SELECT day FROM days WHERE day IS NOT NULL";
+}
+
+} // namespace
+
+std::set<QDate> daysOf(store::Database& database, const SalesTable& table)
+{
+    std::set<QDate> days;
+    store::BoundQuery query(database, daysStatement(table), {}, QLatin1StringView(table.source));
+    while (query.next()) {
+        if (const QDate day = query.value(0).toDate(); day.isValid())
+            days.insert(day);
+    }
+    return days;
+}
+
+ReadRows readDay(store::Database& database, const SalesTable& table, QDate day, const RowSink& sink)
+{
+    store::BoundQuery query(database, dayStatement(table), {Value::date(day)},
+                            QLatin1StringView(table.source));
+    return readAll(query, table.items, sink);
+}
+
+ReadRows readNames(store::Database& database, const NameTable& table, const RowSink& sink)
+{
+    store::BoundQuery query(database, nameStatement(table), {}, QLatin1StringView(table.source));
+    return readAll(query, table.columns, sink);
+}
+
+bool isCurrentDigest(const std::string& digest)
+{
+    return digest.starts_with(digestForm);
+}
+
+} // namespace norvane::chain

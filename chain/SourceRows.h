@@ -1,0 +1,39 @@
+// Reads what is published out of a customer's database.
+#pragma once
+
+#include "chain/ChainTables.h"
+#include "store/Database.h"
+
+#include <QDate>
+
+#include <functional>
+#include <set>
+#include <string>
+
+namespace norvane::chain
+{
+
+/// Takes a row as PostgreSQL's COPY reads it, without its line end: the values in the order of the table's
+/// columns, with tabs between.
+using RowSink = std::function<void(const std::string& line)>;
+
+/// What was read, to be compared with what was read another time.
+struct ReadRows {
+    std::string digest;
+    qint64 rows = 0;
+};
+
+/// All days of which the table holds sales, without reading the rows of them.
+[[nodiscard]] std::set<QDate> daysOf(store::Database& database, const SalesTable& table);
+
+/// Reads the items of a day in the order of their numbers, the collections of the day added up exactly.
+/// @throws RuntimeFailure as the database reports, 3061 for an infinite number.
+ReadRows readDay(store::Database& database, const SalesTable& table, QDate day, const RowSink& sink = {});
+
+/// Reads the names in the order of their numbers.
+ReadRows readNames(store::Database& database, const NameTable& table, const RowSink& sink = {});
+
+/// Whether @p digest is of rows as they are read now; an earlier program may have read them otherwise.
+[[nodiscard]] bool isCurrentDigest(const std::string& digest);
+
+} // namespace norvane::chain

@@ -1,0 +1,219 @@
+// Shops into the PostgreSQL of their chain.
+#include "chain/ChainSchema.h"
+#include "chain/Publisher.h"
+#include "command/TerminalBoxes.h"
+#include "command/Verbs.h"
+#include "customers/CustomerLog.h"
+#include "platform/FolderLock.h"
+#include "platform/RuntimeFailure.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::command
+{
+namespace
+{
+
+using chain::ChainFailure;
+using chain::Vanished;
+
+struct FailureCode {
+    ChainFailure failure;
+    ExitCode code;
+    bool isOfShop; ///< the other shops can be published all the same
+};
+constexpr auto failureCodes = std::to_array<FailureCode>({
+    {ChainFailure::BadConnection, ExitCode::Usage, false},
+    {ChainFailure::Unreachable, ExitCode::NoServer, false},
+    {ChainFailure::WentAway, ExitCode::ServerWentAway, false},
+    {ChainFailure::NoRights, ExitCode::NoRights, false},
+    {ChainFailure::Unfit, ExitCode::UnfitServer, false},
+    {ChainFailure::OtherShop, ExitCode::OtherShop, true},
+    {ChainFailure::Busy, ExitCode::Busy, true},
+    {ChainFailure::Unwritable, ExitCode::Unwritable, true},
+    {ChainFailure::Refused, ExitCode::Failed, false},
+});
+
+const FailureCode& rowOf(const chain::ChainError& error)
+{
+    return *std::ranges::find(failureCodes, error.failure(), &FailureCode::failure);
+}
+
+[[noreturn]] void rethrow(const chain::ChainError& error)
+{
+    throw CommandError(rowOf(error).code, error.text());
+}
+
+/// The answers of --vanished.
+struct VanishedWord {
+    QLatin1StringView word;
+    Vanished meaning;
+};
+constexpr auto vanishedWords = std::to_array<VanishedWord>({
+    {{}, Vanished::Ask},
+    {"keep"_L1, Vanished::Keep},
+    {"remove"_L1, Vanished::Remove},
+});
+
+Vanished vanishedOf(const Invocation& words)
+{
+    const QString given = words.value("vanished"_L1);
+    const auto* const word =
+        std::ranges::find_if(vanishedWords, [&](const auto& each) { return given == each.word; });
+    if (word == vanishedWords.end())
+        throw CommandError(ExitCode::Usage, u"Either --vanished keep or --vanished remove."_s);
+    return word->meaning;
+}
+
+QString shopName(const ApplicationValues& customer)
+{
+    return QFileInfo(customer.customerPath).fileName();
+}
+
+QString vanishedText(const QString& name, const chain::Published& published)
+{
+    QStringList parts;
+    if (!published.vanished.isEmpty()) {
+        parts << u"%1 published days (%2 to %3)"_s.arg(published.vanished.size())
+                     .arg(published.vanished.first().toString(Qt::ISODate),
+                          published.vanished.last().toString(Qt::ISODate));
+    }
+    if (!published.vanishedNames.isEmpty())
+        parts << u"all %1"_s.arg(published.vanishedNames.join(u", "_s));
+    QString text = u"\"%1\" no longer has %2: they stay as published."_s.arg(name, parts.join(u" and "_s));
+    if (published.heldBack > 0)
+        text += u" So do %1 days that differ."_s.arg(published.heldBack);
+    return text +
+           u" Was the shop reset? --vanished keep leaves them for good, --vanished remove takes them away."_s;
+}
+
+class PublishRun
+{
+public:
+    PublishRun(const Workplace& workplace, const Invocation& words)
+        : m_workplace(workplace),
+          m_words(words), m_options{vanishedOf(words), words.has("adopt"_L1), tellStep}
+    {
+    }
+
+    /// @throws CommandError for the first thing that went wrong; what concerns one shop alone was told
+    /// before.
+    void run();
+
+private:
+    [[nodiscard]] std::vector<ApplicationValues> takeCustomers();
+    void publishAll(chain::Server& server, const std::vector<ApplicationValues>& customers);
+    void publishOrTell(chain::Server& server, const ApplicationValues& customer);
+    void publish(chain::Server& server, const ApplicationValues& customer);
+    void note(ExitCode code, const QString& text);
+
+    const Workplace& m_workplace;
+    const Invocation& m_words;
+    chain::PublishOptions m_options;
+    Listing m_listing{{u"Shop"_s, u"Days"_s, u"Rows"_s, u"Unchanged"_s, u"Vanished"_s}};
+    ExitCode m_code = ExitCode::Done;
+};
+
+void PublishRun::run()
+{
+    const auto customers = takeCustomers();
+    try {
+        chain::Server server(m_words.value("to"_L1));
+        chain::prepareSchema(server);
+        publishAll(server, customers);
+    } catch (const chain::ChainError& error) {
+        rethrow(error);
+    }
+    if (m_code != ExitCode::Done)
+        throw CommandError(m_code, {});
+}
+
+/// A name that is mistyped stops everything, a damaged shop itself alone.
+std::vector<ApplicationValues> PublishRun::takeCustomers()
+{
+    std::vector<ApplicationValues> customers;
+    for (const QString& name : m_words.operands) {
+        try {
+            const ApplicationValues customer = takeCustomer(m_workplace, name);
+            if (std::ranges::find(customers, customer.customerPath, &ApplicationValues::customerPath) ==
+                customers.end())
+                customers.push_back(customer);
+        } catch (const CommandError& error) {
+            if (error.code() != ExitCode::Unsound)
+                throw;
+            note(error.code(), error.text());
+        }
+    }
+    return customers;
+}
+
+void PublishRun::publishAll(chain::Server& server, const std::vector<ApplicationValues>& customers)
+{
+    try {
+        for (const auto& customer : customers)
+            publishOrTell(server, customer);
+    } catch (const chain::ChainError&) {
+        m_workplace.show(m_listing);
+        throw;
+    }
+    m_workplace.show(m_listing);
+}
+
+void PublishRun::publishOrTell(chain::Server& server, const ApplicationValues& customer)
+{
+    try {
+        publish(server, customer);
+    } catch (const chain::ChainError& error) {
+        if (!rowOf(error).isOfShop)
+            throw;
+        note(rowOf(error).code, error.text());
+    } catch (const RuntimeFailure& failure) {
+        note(codeOf(failure), u"%1: Run-time error '%2': %3"_s.arg(shopName(customer))
+                                  .arg(failure.number())
+                                  .arg(failure.text()));
+    }
+}
+
+void PublishRun::publish(chain::Server& server, const ApplicationValues& customer)
+{
+    // A collection must not store half a day meanwhile. The program's folder is not needed, so that other
+    // shops can collect.
+    const auto lock = FolderLock::take(customer.customerPath, m_workplace.boxes);
+    if (lock == nullptr) {
+        note(ExitCode::Busy, {});
+        return;
+    }
+    customers::LoggedWork work(customer.customerPath, u"publication"_s);
+    const QString name = shopName(customer);
+    const auto published =
+        chain::publishShop(server, {name, customer.customerPath, customer.databasePath}, m_options);
+    work.setResult(u"%1 days, %2 rows"_s.arg(published.days).arg(published.rows));
+    m_listing.add({name, published.days, published.rows, published.same, published.vanished.size()});
+    const bool hasVanished = !published.vanished.isEmpty() || !published.vanishedNames.isEmpty();
+    if (m_options.vanished == Vanished::Ask && hasVanished)
+        note(ExitCode::Vanished, vanishedText(name, published));
+}
+
+void PublishRun::note(ExitCode code, const QString& text)
+{
+    if (!text.isEmpty())
+        tell(text);
+    if (m_code == ExitCode::Done)
+        m_code = code;
+}
+
+} // namespace
+
+void publish(const Workplace& workplace, const Invocation& words)
+{
+    if (!words.has("to"_L1))
+        throw CommandError(ExitCode::Usage, u"Name the PostgreSQL with --to."_s);
+    PublishRun(workplace, words).run();
+}
+
+} // namespace norvane::command

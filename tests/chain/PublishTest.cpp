@@ -1,0 +1,168 @@
+// What stands in PostgreSQL after a shop was published, and after it was published again.
+#include "tests/chain/ChainTest.h"
+
+namespace norvane::test
+{
+namespace
+{
+
+const QString shop = u"Corner Shop"_s;
+
+/// Three days of two months: two collections of one day, halves of cents, a minus, texts that COPY must
+/// escape.
+constexpr const char* threeDays =
+    "insert into PLUDATA (PLUNUMBER, DESCRIPTION, GROUPNO, PRICE1, PRICE2) values "
+    "('0001', 'Käse\\5€', 1, ' 1.5', null), ('0002', 'Tab\there  ', 1, '12.34', '');"
+    "insert into GROUPS (GROUPNO, DESCRIPTION) values (1, 'Food');"
+    "insert into EMPLOYEE (ID, DESCRIPTION, SIGNONCODE, dallaskey) values (1, 'Ann', 4711, '');"
+    "insert into TIMEPERIOD (id, STARTTIME, ENDTIME) values (1, '930', 1200);"
+    "insert into PLUSALES (ID, SALESDATE, PROMO, WASTE, COUNT1, VALUE1, COUNT2, VALUE2, COUNT3, VALUE3, "
+    "COUNT4, "
+    "VALUE4, COUNT5, VALUE5) values "
+    "('0001', '2026-10-31', 0, 0, 1, 0.1, 0, 0, 0, 0, 0, 0, 0, 0),"
+    "('0001', '2026-10-31', 0, 0, 1, 0.2, 0, 0, 0, 0, 0, 0, 0, 0),"
+    "('0002', '2026-11-01', 0, 1, 3, 37.02, 0, 0, 0, 0, 0, 0, 1, 2.005),"
+    "('0001', '2026-11-02', 0, 0, -1, -0.1, 0, 0, 0, 0, 0, 0, 0, 0);"
+    "insert into FINANCIALSALES values (2, '2026-11-01', 4, 39.03);"
+    "insert into CLERKSALES values (2, 1, '2026-11-01', 4, 39.03), (3, 1, '2026-11-01', 1, 7);"
+    "insert into TIMESALES values (1, '2026-11-01', 4, 39.03);"
+    "insert into MIXSALES values (5, '2026-11-01', 2, 0);";
+
+class PublishTest : public ChainTest
+{
+protected:
+    PublishTest()
+    {
+        makeShop(shop);
+        change(shop, threeDays);
+    }
+};
+
+TEST_F(PublishTest, BringsSalesAndNamesOnce)
+{
+    const std::pair<QString, const char*> answers[] = {
+        {u"SELECT day, plu, waste, count1, value1, value5 FROM plu_sales ORDER BY day"_s,
+         "2026-10-31|0001|0|2|0.3|0 2026-11-01|0002|1|3|37.02|2.005 2026-11-02|0001|0|-1|-0.1|0"},
+        {u"SELECT plu, description, price1, price2 FROM plus ORDER BY plu"_s,
+         "0001|Käse\\5€|1.5| 0002|Tab\there|12.34|"},
+        {u"SELECT employee, name FROM employees"_s, "1|Ann"},
+        {u"SELECT starts_at, ends_at FROM time_periods"_s, "09:30|12:00"},
+        {u"SELECT employee, line, value FROM employee_sales ORDER BY line"_s, "1|2|39.03 1|3|7"},
+        {u"SELECT mix, quantity FROM mix_sales"_s, "5|2"},
+        {u"SELECT shop_name, first_day, days, quantity, takings, net_sales FROM takings_by_shop"_s,
+         "Corner Shop|2026-10-31|3|5|39.23|39.03"},
+        {u"SELECT day, quantity, takings, net_sales FROM takings_by_day ORDER BY day"_s,
+         "2026-10-31|2|0.30| 2026-11-01|4|39.03|39.03 2026-11-02|-1|-0.10|"},
+        {u"SELECT day, group_name, takings FROM takings_by_group WHERE day > '2026-11-01'"_s,
+         "2026-11-02|Food|-0.10"},
+        {u"SELECT plu, description, takings FROM takings_by_plu WHERE day = '2026-11-01'"_s,
+         "0002|Tab\there|39.03"},
+        {u"SELECT count(*) FROM pg_inherits WHERE inhparent = 'plu_sales'::regclass"_s, "2"},
+    };
+    EXPECT_EQ(published({shop}), "3 8 0 0");
+    for (int run = 0; run < 2; ++run) {
+        for (const auto& [sql, rows] : answers)
+            EXPECT_EQ(query(sql), rows);
+        EXPECT_EQ(published({shop}), "0 0 3 0");
+    }
+}
+
+TEST_F(PublishTest, RanksTheLastMonthAndTellsWhoDidNotCollect)
+{
+    makeShop(u"Late"_s);
+    change(shop, "update PLUSALES set SALESDATE = date('now', 'localtime', '-1 day')");
+    change(u"Late"_s, "insert into MIXSALES values (1, date('now', 'localtime', '-3 day'), 1, 0)");
+    EXPECT_EQ(publish({shop, u"Late"_s, u"late"_s}).code, 0);
+    EXPECT_EQ(query(u"SELECT rank, plu, takings FROM best_sellers ORDER BY rank"_s),
+              "1|0002|39.03 2|0001|0.20");
+    EXPECT_EQ(query(u"SELECT shop_name, days_ago FROM shops_without_collection_yesterday"_s), "Late|3");
+}
+
+TEST_F(PublishTest, FindsLateCorrectionsAndChangedNames)
+{
+    EXPECT_EQ(published({shop}), "3 8 0 0");
+    const QString former =
+        u"SELECT string_agg(published_at::text, ' ') FROM published_days WHERE day <> '2026-11-01'"_s;
+    const std::string untouched = query(former);
+    const struct {
+        const char* sql;
+        const char* numbers;
+        QString question;
+        const char* answer;
+    } corrections[] = {
+        {"update PLUSALES set VALUE1 = 40 where SALESDATE = '2026-11-01'", "1 6 2 0",
+         u"SELECT value1 FROM plu_sales WHERE day = '2026-11-01'"_s, "40"},
+        {"insert into MIXSALES values (6, '2026-11-01', 1, 0)", "1 7 2 0",
+         u"SELECT count(*) FROM mix_sales"_s, "2"},
+        {"delete from CLERKSALES", "1 5 2 0", u"SELECT count(*) FROM employee_sales"_s, "0"},
+        {"update GROUPS set DESCRIPTION = 'Meals'", "0 0 3 0",
+         u"SELECT DISTINCT group_name FROM takings_by_group"_s, "Meals"},
+        {"delete from PLUDATA where PLUNUMBER = '0002'", "0 0 3 0", u"SELECT count(*) FROM plus"_s, "1"},
+    };
+    for (const auto& [sql, numbers, question, answer] : corrections) {
+        change(shop, sql);
+        EXPECT_EQ(published({shop}), numbers) << sql;
+        EXPECT_EQ(query(question), answer) << sql;
+    }
+    EXPECT_EQ(query(former), untouched) << "days that did not change are not written";
+}
+
+TEST_F(PublishTest, NeverEmptiesAShopThatWasReset)
+{
+    const QString days = u"SELECT string_agg(to_char(day, 'DD'), ' ' ORDER BY day) FROM published_days"_s;
+    EXPECT_EQ(published({shop}), "3 8 0 0");
+    // Reset after the collection of the 1st, one more that day, and the next day; the names went with it.
+    for (const char* sql :
+         {"delete from PLUSALES", "delete from CLERKSALES", "delete from TIMESALES", "delete from MIXSALES",
+          "delete from EMPLOYEE", "update FINANCIALSALES set VALUE = 1",
+          "insert into FINANCIALSALES values (2, '2026-11-03', 1, 5)"})
+        change(shop, sql);
+    const Ended told = publish({shop});
+    EXPECT_EQ(told.code, 15);
+    EXPECT_EQ(
+        told.err.toStdString(),
+        "\"Corner Shop\" no longer has 2 published days (2026-10-31 to 2026-11-02) and all employees: they "
+        "stay as published. So do 1 days that differ. Was the shop reset? --vanished keep leaves them for "
+        "good, --vanished remove takes them away.\n");
+    EXPECT_EQ(query(days), "31 01 02 03");
+    EXPECT_EQ(query(u"SELECT takings, net_sales FROM takings_by_day WHERE day = '2026-11-01'"_s),
+              "39.03|39.03");
+
+    EXPECT_EQ(published({shop, u"--vanished"_s, u"keep"_s}), "0 0 1 2");
+    EXPECT_EQ(published({shop}, 15), "0 0 2 0") << "the employees are still missing";
+    EXPECT_EQ(query(u"SELECT count(*) FROM employees"_s), "1");
+    change(shop, "delete from FINANCIALSALES where SALESDATE = '2026-11-03'");
+    EXPECT_EQ(published({shop, u"--vanished"_s, u"remove"_s}), "0 0 1 1");
+    EXPECT_EQ(query(days + u"; SELECT count(*) FROM employees"_s), "31 01 02 0") << "kept days stay";
+}
+
+TEST_F(PublishTest, KnowsAShopByItsFolder)
+{
+    EXPECT_EQ(published({shop}), "3 8 0 0");
+    const QString idFile = shop + u"/norvane-chain.ini"_s;
+    const QByteArray id = m_folder.read(qUtf8Printable(idFile));
+    const auto expectRefused = [this](const QString& name, const QString& text) {
+        const Ended ended = publish({name});
+        EXPECT_EQ(ended.code, 14);
+        EXPECT_TRUE(ended.err.contains(text)) << ended.err.toStdString();
+    };
+    // The same name on another machine, in other letters.
+    ASSERT_TRUE(QFile::remove(m_folder.path(qUtf8Printable(idFile))));
+    ASSERT_TRUE(QDir(m_folder.path()).rename(shop, u"CORNER shop"_s));
+    expectRefused(u"corner shop"_s, u"was published from another folder"_s);
+    EXPECT_EQ(published({u"CORNER shop"_s, u"--adopt"_s}), "0 0 3 0");
+    EXPECT_EQ(m_folder.read("CORNER shop/norvane-chain.ini"), id);
+    // A copy for another shop.
+    makeShop(u"Second"_s);
+    m_folder.write("Second/norvane-chain.ini", id);
+    expectRefused(u"Second"_s, u"\"Second\" was published as \"Corner Shop\""_s);
+    ASSERT_TRUE(QFile::remove(m_folder.path("Second/norvane-chain.ini")));
+    EXPECT_EQ(published({u"Second"_s}), "0 0 0 0");
+    ASSERT_TRUE(QDir(m_folder.path()).rename(u"Second"_s, u"Third"_s));
+    expectRefused(u"Third"_s, u"was published as \"Second\""_s);
+    EXPECT_EQ(published({u"Third"_s, u"--adopt"_s}), "0 0 0 0");
+    EXPECT_EQ(query(u"SELECT string_agg(name, ', ' ORDER BY shop) FROM shops"_s), "Corner Shop, Third");
+}
+
+} // namespace
+} // namespace norvane::test

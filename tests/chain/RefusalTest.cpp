@@ -1,0 +1,164 @@
+// A PostgreSQL that is down, goes away half way, does not fit or allows nothing: told, and nothing half done.
+#include "tests/chain/ChainTest.h"
+
+#include <QtTest>
+
+namespace norvane::test
+{
+namespace
+{
+
+const QString shop = u"Corner Shop"_s;
+
+class RefusalTest : public ChainTest
+{
+protected:
+    RefusalTest()
+    {
+        makeShop(shop);
+        change(shop, "insert into MIXSALES values (1, '2026-01-05', 1, 0), (1, '2026-02-05', 2, 0), "
+                     "(1, '2026-03-05', 3, 0)");
+    }
+
+    void expectRefused(const Ended& ended, int code, const QString& text) const
+    {
+        EXPECT_EQ(ended.code, code) << ended.err.toStdString();
+        EXPECT_TRUE(ended.err.contains(text)) << ended.err.toStdString();
+        EXPECT_EQ(ended.err.count(u'\n'), 1) << "one sentence: " << ended.err.toStdString();
+        EXPECT_FALSE(ended.err.contains(u"hunter2"_s)) << ended.err.toStdString();
+    }
+    [[nodiscard]] std::string months() const
+    {
+        return query(
+            u"SELECT string_agg(to_char(day, 'MM') || '=' || quantity, ' ' ORDER BY day) FROM mix_sales"_s);
+    }
+    /// Until a publication waits for a lock that another connection holds.
+    [[nodiscard]] bool waitsForLock() const
+    {
+        return QTest::qWaitFor(
+            [this] {
+                return query(u"SELECT count(*) FROM pg_stat_activity WHERE datname = current_database() AND "
+                             "wait_event_type = 'Lock'"_s) == "1";
+            },
+            20000);
+    }
+};
+
+TEST_F(RefusalTest, TellsWhyNothingIsPublished)
+{
+    postgres().makeDatabase(u"ascii"_s,
+                            u"ENCODING 'SQL_ASCII' LC_COLLATE 'C' LC_CTYPE 'C' TEMPLATE template0"_s);
+    postgres().makeDatabase(u"latin"_s,
+                            u"ENCODING 'LATIN1' LC_COLLATE 'C' LC_CTYPE 'C' TEMPLATE template0"_s);
+    EXPECT_EQ(query(u"CREATE ROLE guest LOGIN"_s), "");
+    const auto to = [](const QString& database, const QString& user = u"postgres"_s) {
+        return postgres().connection(database, user) + u" password=hunter2"_s;
+    };
+    const struct {
+        QStringList words;
+        QString connection;
+        int code;
+        QString text;
+    } refusals[] = {
+        {{shop}, u"hunter2"_s, 2, u"is no connection such as"_s},
+        {{shop}, u"hots=x password=hunter2"_s, 2, u"is no connection such as"_s},
+        {{shop}, u"postgresql://me:hunter2@[x/chain"_s, 2, u"is no connection such as"_s},
+        {{shop, u"--vanished"_s, u"yes"_s}, to(m_database), 2, u"--vanished keep or --vanished remove"_s},
+        {{shop, u"nowhere"_s}, to(m_database), 3, u"There is no customer \"nowhere\""_s},
+        {{shop},
+         u"host=/nowhere dbname=chain password=hunter2"_s,
+         10,
+         u"cannot be reached (database chain at /nowhere)"_s},
+        {{shop}, to(u"nothing"_s), 10, u"database \"nothing\" does not exist"_s},
+        {{shop}, to(m_database, u"nobody"_s), 10, u"role \"nobody\" does not exist"_s},
+        {{shop}, to(m_database, u"guest"_s), 12, u"guest may not make the schema norvane"_s},
+        {{shop}, to(u"ascii"_s), 13, u"The encoding SQL_ASCII cannot hold the names"_s},
+        {{shop}, to(u"latin"_s), 13, u"The encoding LATIN1 cannot hold the names"_s},
+    };
+    for (const auto& [words, connection, code, text] : refusals)
+        expectRefused(publish(words, connection), code, text);
+    EXPECT_EQ(query(u"SELECT count(*) FROM pg_namespace WHERE nspname = 'norvane'"_s), "0");
+    EXPECT_FALSE(pathExists(m_folder.path("Corner Shop/norvane-chain.ini")));
+    EXPECT_FALSE(pathExists(m_folder.path("nowhere")));
+
+    EXPECT_EQ(publish({shop}).code, 0);
+    EXPECT_EQ(
+        query(
+            u"GRANT USAGE ON SCHEMA norvane TO guest; GRANT SELECT ON ALL TABLES IN SCHEMA norvane TO guest"_s),
+        "");
+    change(shop, "update MIXSALES set QUANTITY = 9");
+    expectRefused(publish({shop}, to(m_database, u"guest"_s)), 12, u"The rights do not suffice"_s);
+    EXPECT_EQ(months(), "01=1 02=2 03=3");
+}
+
+TEST_F(RefusalTest, BringsAnOlderSchemaUpAndLeavesALaterOneAlone)
+{
+    EXPECT_EQ(publish({shop}).code, 0);
+    EXPECT_EQ(query(u"SET client_min_messages = warning; DROP VIEW plu_lines CASCADE; DROP VIEW "
+                    u"takings_by_day CASCADE; "
+                    "DROP VIEW shops_without_collection_yesterday; UPDATE chain_version SET version = 1"_s),
+              "");
+    EXPECT_EQ(published({shop}), "0 0 3 0");
+    EXPECT_EQ(query(u"SELECT count(*) FROM shops_without_collection_yesterday"_s), "1");
+    EXPECT_EQ(query(u"UPDATE chain_version SET version = 99"_s), "");
+    expectRefused(publish({shop}), 13, u"has version 99 and this program knows versions up to 2"_s);
+}
+
+TEST_F(RefusalTest, GoesOnAfterAConnectionThatBrokeAmidTheRows)
+{
+    EXPECT_EQ(publish({shop}).code, 0);
+    EXPECT_EQ(query(u"TRUNCATE mix_sales, published_days; "
+                    "CREATE FUNCTION breakdown() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
+                    "PERFORM pg_terminate_backend(pg_backend_pid()); RETURN NEW; END $$; "
+                    "CREATE TRIGGER breakdown BEFORE INSERT ON mix_sales FOR EACH ROW "
+                    "WHEN (NEW.day = '2026-02-05') EXECUTE FUNCTION breakdown()"_s),
+              "");
+    expectRefused(publish({shop}), 11, u"PostgreSQL went away (database "_s);
+    EXPECT_EQ(months(), "01=1");
+    EXPECT_EQ(query(u"DROP TRIGGER breakdown ON mix_sales"_s), "");
+    EXPECT_EQ(published({shop}), "2 2 1 0");
+    EXPECT_EQ(months(), "01=1 02=2 03=3");
+}
+
+TEST_F(RefusalTest, GoesOnAfterAPowerCut)
+{
+    EXPECT_EQ(publish({shop}).code, 0);
+    change(shop, "update MIXSALES set QUANTITY = QUANTITY * 10");
+    QProcess holder;
+    postgres().queryMeanwhile(holder, m_database,
+                              u"BEGIN; LOCK norvane.mix_sales_2026_02; SELECT pg_sleep(100)"_s);
+    QProcess command;
+    command.start(
+        QString::fromUtf8(COMMAND),
+        {u"publish"_s, shop, u"--to"_s, postgres().connection(m_database), u"--folder"_s, m_folder.path()});
+    ASSERT_TRUE(waitsForLock());
+    postgres().cutPower();
+    EXPECT_TRUE(command.waitForFinished(-1) && holder.waitForFinished(-1));
+    EXPECT_EQ(command.exitCode(), 11) << command.readAllStandardError().toStdString();
+    expectRefused(publish({shop}), 10, u"PostgreSQL cannot be reached"_s);
+    ASSERT_TRUE(postgres().start());
+    EXPECT_EQ(months(), "01=10 02=2 03=3") << "whole months, the rest as before";
+    EXPECT_EQ(published({shop}), "2 2 1 0");
+    EXPECT_EQ(months(), "01=10 02=20 03=30");
+}
+
+TEST_F(RefusalTest, TwoPublicationsOfOneShopTakeTurns)
+{
+    EXPECT_EQ(publish({shop}).code, 0);
+    makeShop(u"Other"_s);
+    QProcess holder;
+    postgres().queryMeanwhile(holder, m_database, u"SELECT pg_advisory_lock(20086, 1), pg_sleep(100)"_s);
+    ASSERT_TRUE(QTest::qWaitFor(
+        [this] {
+            return query(u"SELECT count(*) FROM pg_locks WHERE locktype = 'advisory' AND granted"_s) == "1";
+        },
+        20000));
+    const Ended ended = publish({shop, u"Other"_s});
+    expectRefused(ended, 5, u"Another program is publishing the shop \"Corner Shop\""_s);
+    EXPECT_TRUE(ended.out.contains(u"Other"_s)) << "the other shops are published all the same";
+    holder.kill();
+    holder.waitForFinished();
+}
+
+} // namespace
+} // namespace norvane::test

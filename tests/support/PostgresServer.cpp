@@ -1,0 +1,131 @@
+#include "tests/support/PostgresServer.h"
+
+#include <gtest/gtest.h>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+#include <QtTest>
+
+#include <csignal>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::test
+{
+namespace
+{
+
+constexpr int patience = 60000; // milliseconds, on a machine that builds meanwhile
+const auto serverUser = u"postgres"_s;
+
+/// The package keeps the server's programs out of the way of other versions.
+QString toolPath(const QString& tool)
+{
+    const QDir versions(u"/usr/lib/postgresql"_s);
+    for (const QString& version :
+         versions.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::Reversed)) {
+        const QString path = versions.filePath(version + u"/bin/"_s + tool);
+        if (QFile::exists(path))
+            return path;
+    }
+    return QStandardPaths::findExecutable(tool);
+}
+
+bool isRoot()
+{
+    return geteuid() == 0;
+}
+
+} // namespace
+
+bool PostgresServer::isInstalled()
+{
+    return !toolPath(u"initdb"_s).isEmpty() && !toolPath(u"psql"_s).isEmpty();
+}
+
+PostgresServer::PostgresServer(QStringList settings) : m_settings(std::move(settings))
+{
+    if (isRoot()) {
+        EXPECT_EQ(QProcess::execute(u"chown"_s, {serverUser, folder()}), 0);
+    }
+    QProcess initdb;
+    run(u"initdb"_s,
+        {u"-D"_s, folder() + u"/data"_s, u"-U"_s, u"postgres"_s, u"-A"_s, u"trust"_s, u"-E"_s, u"UTF8"_s,
+         u"--locale=C.UTF-8"_s, u"--no-sync"_s},
+        initdb);
+    EXPECT_TRUE(initdb.waitForFinished(patience) && initdb.exitCode() == 0)
+        << initdb.readAllStandardError().toStdString();
+}
+
+PostgresServer::~PostgresServer()
+{
+    stop();
+}
+
+void PostgresServer::run(const QString& tool, const QStringList& arguments, QProcess& process) const
+{
+    process.setWorkingDirectory(folder());
+    if (isRoot()) {
+        process.start(u"runuser"_s, QStringList{u"-u"_s, serverUser, u"--"_s, toolPath(tool)} + arguments);
+    } else {
+        process.start(toolPath(tool), arguments);
+    }
+}
+
+bool PostgresServer::start()
+{
+    QStringList arguments{u"-D"_s, folder() + u"/data"_s, u"-k"_s, folder(), u"-c"_s, u"listen_addresses="_s};
+    for (const QString& setting : m_settings)
+        arguments << u"-c"_s << setting;
+    m_server.setStandardErrorFile(folder() + u"/log"_s);
+    run(u"postgres"_s, arguments, m_server);
+    return QTest::qWaitFor([this] { return query(u"postgres"_s, u"select 1"_s) == "1"_L1; }, patience);
+}
+
+void PostgresServer::cutPower()
+{
+    endServer(SIGQUIT);
+}
+
+void PostgresServer::stop()
+{
+    endServer(SIGINT);
+}
+
+/// The server's own process is not the one that was started when that changed the user first.
+void PostgresServer::endServer(int signal)
+{
+    if (m_server.state() == QProcess::NotRunning)
+        return;
+    QFile file(folder() + u"/data/postmaster.pid"_s);
+    if (file.open(QIODevice::ReadOnly))
+        kill(file.readLine().trimmed().toInt(), signal);
+    EXPECT_TRUE(m_server.waitForFinished(patience));
+}
+
+QString PostgresServer::connection(const QString& database, const QString& user) const
+{
+    return u"host=%1 dbname=%2 user=%3"_s.arg(folder(), database, user);
+}
+
+void PostgresServer::makeDatabase(const QString& database, const QString& options) const
+{
+    EXPECT_EQ(query(u"postgres"_s, u"CREATE DATABASE %1 %2"_s.arg(database, options)), QString());
+}
+
+QString PostgresServer::query(const QString& database, const QString& sql) const
+{
+    QProcess psql;
+    queryMeanwhile(psql, database, sql);
+    EXPECT_TRUE(psql.waitForFinished(patience)) << sql.toStdString();
+    return QString::fromUtf8(psql.readAllStandardOutput() + psql.readAllStandardError()).trimmed();
+}
+
+void PostgresServer::queryMeanwhile(QProcess& psql, const QString& database, const QString& sql) const
+{
+    psql.start(toolPath(u"psql"_s), {u"-X"_s, u"-q"_s, u"-A"_s, u"-t"_s, u"-v"_s, u"ON_ERROR_STOP=1"_s,
+                                     u"-c"_s, sql, u"-d"_s, connection(database)});
+}
+
+} // namespace norvane::test
