@@ -68,9 +68,10 @@ void SpokenForms::readControl(QAccessibleInterface& control)
     check(!wordsOf(control).isEmpty(), control, "says nothing to a user");
     check(!isGeneric(control.role()), control, "has no role");
     const QObject* const shown = control.object();
-    if (const auto* const widget = qobject_cast<const QWidget*>(shown))
+    if (const auto* const widget = qobject_cast<const QWidget*>(shown)) {
         check(widget->isEnabled() != bool(control.state().disabled), control,
               "tells wrongly whether it can be used");
+    }
     if (const auto* const button = qobject_cast<const QAbstractButton*>(shown))
         check(button->isChecked() == bool(control.state().checked), control, "tells another tick");
     const bool holdsText = control.tableInterface() == nullptr;
