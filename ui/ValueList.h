@@ -41,6 +41,8 @@ protected:
 
 private:
     void takePick(int row);
+    /// Shows a value without a row; an empty one for none.
+    void showStranger(const QString& value);
     void fillTexts();
     [[nodiscard]] int columnWidth(qsizetype column) const;
     [[nodiscard]] QVector<int> columnsInPixels() const;
