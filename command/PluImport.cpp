@@ -39,6 +39,8 @@ QString faultOf(const QString& text)
         return u"\"%1\" is longer than %2 characters"_s.arg(excerpt(text)).arg(longestDescription);
     if (std::ranges::any_of(text, [](QChar letter) { return letter.category() == QChar::Other_Control; }))
         return u"\"%1\" has a line end or another control character"_s.arg(text.simplified());
+    if (text.contains(u','))
+        return u"\"%1\" has a comma, at which the file for the registers would be parted"_s.arg(text);
     if (!fitsWindows1252(text))
         return u"\"%1\" has characters that a register does not know"_s.arg(text);
     return {};

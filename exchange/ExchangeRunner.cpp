@@ -213,6 +213,7 @@ bool ExchangeRunner::downloadRow(const DownloadRow& row)
     case records::Exported::File:
         return sendFile(row, fromTable);
     case records::Exported::Refused:
+        link::tellEndedByAnswer(m_outside);
         break;
     }
     return false;

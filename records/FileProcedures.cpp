@@ -2,6 +2,7 @@
 #include "records/FileProcedures.h"
 
 #include "base/CustomerSettings.h"
+#include "base/LossQuestion.h"
 #include "base/SharedRoutines.h"
 #include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
@@ -138,8 +139,9 @@ private:
     QFile m_file;
 };
 
-void writeRecords(const RegisterFile& file, store::Recordset& records, TextOutput& output,
-                  const ProcedureContext& context)
+/// @return the first text that holds a comma.
+std::string writeRecords(const RegisterFile& file, store::Recordset& records, TextOutput& output,
+                         const ProcedureContext& context)
 {
     records.moveFirst();
     RecordWriter writer(file.layout(), records, traitsOf(context));
@@ -153,6 +155,29 @@ void writeRecords(const RegisterFile& file, store::Recordset& records, TextOutpu
         }
     }
     output.write(text);
+    return writer.textWithComma();
+}
+
+/// @return the first text that holds a comma.
+std::string writeText(const RegisterFile& file, const ProcedureContext& context)
+{
+    TextOutput output(joinPath(context.values.appPath, textName(file)));
+    store::Database database(context.values.databasePath);
+    store::Recordset records = database.openTable(QLatin1String(file.table));
+    records.setIndex(QLatin1String(file.index));
+    return writeRecords(file, records, output, context);
+}
+
+bool mayPartColumns(const RegisterFile& file, const std::string& textWithComma, Boxes& boxes)
+{
+    return textWithComma.empty() ||
+           askBeforeLoss(
+               boxes,
+               u"The text \"%1\" holds a comma. Commas part the columns of %2, so that what follows would "
+               u"reach the registers as another value, such as a price.\r\r"
+               u"To keep the registers as they are, answer No, take the comma out and send again.\r\r"
+               u"Send all the same?"_s.arg(QString::fromStdString(plainFromRegister(textWithComma)),
+                                           textName(file)));
 }
 
 bool isEmpty(const RegisterFile& file, const QString& databasePath)
@@ -229,16 +254,10 @@ bool importRegisterFile(int number, const ProcedureContext& context)
 Exported exportRegisterFile(int number, const ProcedureContext& context)
 {
     const RegisterFile& file = knownFile(number);
-    const QString& databasePath = context.values.databasePath;
-    if (file.emptyTable == EmptyTable::Skips && isEmpty(file, databasePath))
+    if (file.emptyTable == EmptyTable::Skips && isEmpty(file, context.values.databasePath))
         return Exported::Nothing;
-    {
-        TextOutput output(joinPath(context.values.appPath, textName(file)));
-        store::Database database(databasePath);
-        store::Recordset records = database.openTable(QLatin1String(file.table));
-        records.setIndex(QLatin1String(file.index));
-        writeRecords(file, records, output, context);
-    }
+    if (!mayPartColumns(file, writeText(file, context), context.boxes))
+        return Exported::Refused;
     const bool mayBeSent = context.convert(
         {exportLine(file, context.values), u"%1.dat"_s.arg(file.number),
          u"The registers would get it, though it may be an old file or another customer's. The changes "

@@ -46,11 +46,12 @@ bool importRegisterFile(int file, const ProcedureContext& context);
 enum class Exported {
     Nothing,
     File,
-    Refused, ///< the user does not want the file that a failed conversion left
+    Refused, ///< the user does not want a text with a comma, or the file that a failed conversion left
 };
 
 /// The Write... procedure: makes NN.txt in the program's folder from all records of the table in the order of
-/// the file's index, then converts it to NN.dat.
+/// the file's index, then converts it to NN.dat. A comma in a text would move the columns behind it, so the
+/// user is asked then.
 /// @return Nothing when the table is empty and the file is one that is passed over then; no file is touched.
 /// @throws RuntimeFailure 3021 when the table is empty and the file is not passed over, with NN.txt emptied;
 /// 75 when NN.txt cannot be opened, 61 when the disk is full; what GetModelCode() throws, and for the

@@ -238,12 +238,22 @@ void RecordWriter::append(std::string& out, const TextColumn& column, const Step
             m_latestDefault = column.withheldTexts[static_cast<std::size_t>(m_record - column.firstWithheld)];
         sent = m_latestDefault;
     }
+    const auto start = out.size();
     (column.marksKept ? appendPlainText : appendText)(out, sent, column.width);
+    noteComma(std::string_view(out).substr(start));
 }
 
-void RecordWriter::append(std::string& out, const MessageColumn& /*column*/, const Step& step) const
+void RecordWriter::append(std::string& out, const MessageColumn& /*column*/, const Step& step)
 {
+    const auto start = out.size();
     appendText(out, ValueText(m_records.value(step.ordinal)).view(), m_messageWidth);
+    noteComma(std::string_view(out).substr(start));
+}
+
+void RecordWriter::noteComma(std::string_view text)
+{
+    if (m_textWithComma.empty() && text.find(',') != std::string_view::npos)
+        m_textWithComma = trimBlanks(text);
 }
 
 void RecordWriter::append(std::string& out, const OptionsColumn& column, const Step& step) const

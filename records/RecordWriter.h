@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace norvane::records
@@ -36,6 +37,10 @@ public:
     /// Ordinals of the fields that lines are made from; the others need not be read.
     [[nodiscard]] const std::vector<int>& fields() const { return m_fields; }
 
+    /// The first text with a comma that the lines hold so far, in the register's character set; empty without
+    /// one. A comma ends a column wherever it stands, so that the rest of the line moves on by a column.
+    [[nodiscard]] const std::string& textWithComma() const { return m_textWithComma; }
+
 private:
     struct Digit {
         const DigitPart* part;
@@ -57,7 +62,8 @@ private:
     void append(std::string& out, const CodeColumn& column, const Step& step) const;
     void append(std::string& out, const LeftBoundColumn& column, const Step& step) const;
     void append(std::string& out, const TextColumn& column, const Step& step);
-    void append(std::string& out, const MessageColumn& column, const Step& step) const;
+    void append(std::string& out, const MessageColumn& column, const Step& step);
+    void noteComma(std::string_view text);
     void append(std::string& out, const OptionsColumn& column, const Step& step) const;
     void append(std::string& out, const SymbolColumn& column, const Step& step) const;
     void append(std::string& out, const HexByteColumn& column, const Step& step) const;
@@ -76,6 +82,7 @@ private:
     bool m_hasMessages = false;
     std::size_t m_messageWidth = 0;
     bool m_withholdsTexts = false;
+    std::string m_textWithComma;
     std::string m_latestDefault; ///< sent for a text that is withheld
 };
 

@@ -40,6 +40,23 @@ TEST(FileProceduresTest, WritesOverTheFileOfAnotherSpellingInTheOrderOfTheIndex)
     EXPECT_EQ(shop.commands, QStringList(QStringLiteral("convert wVelmaro f1.txt t1.dat d01")));
 }
 
+/// What stands behind a comma would reach the register in the next column.
+TEST(FileProceduresTest, AsksBeforeATextWithACommaPartsTheColumns)
+{
+    Shop shop;
+    shop.add("GROUPS", {{"GROUPNO", Value::whole(1)}, {"DESCRIPTION", text("Cola 0,2 l")}});
+    shop.add("LOGOMESSAGE", {{"ID", Value::whole(1)}, {"PREAMBLE1", text("Cola 0,2 l")}});
+    for (const int file : {1, 23}) {
+        shop.commands.clear();
+        shop.boxes.answers = {false, true};
+        EXPECT_EQ(exportRegisterFile(file, shop.context()), Exported::Refused);
+        EXPECT_TRUE(shop.commands.isEmpty()) << file;
+        EXPECT_TRUE(shop.boxes.shown.back().text.startsWith(u"The text \"Cola 0,2 l\" holds a comma."));
+        EXPECT_EQ(exportRegisterFile(file, shop.context()), Exported::File);
+        EXPECT_EQ(shop.commands.size(), 1) << file;
+    }
+}
+
 /// The points go with the records that hold them, but not before there are others.
 TEST(FileProceduresTest, SetsThePointsOfThePlusThatAreThere)
 {

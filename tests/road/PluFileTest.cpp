@@ -178,6 +178,7 @@ TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
         {prices + "1,1000000\n", u"a price is from 0 to 999999.99"_s},
         {prices + "1,-1\n", u"a price is from 0 to 999999.99"_s},
         {"Number,Description\n1,12345678901234567\n", u"\"12345678901234567\" is longer than 16"_s},
+        {"Number;Description\n1;Cola 0,2 l\n", u"has a comma"_s},
         {"Number,Description\n1,\xE2\x84\xA6\n", u"characters that a register does not know"_s},
         {"Number,Description\n1,\"a\nb\"\n2\n", u"line 4: 1 columns, but 2 headings"_s},
         {"Number,Description\n1,\"a\n", u"line 2: a quote is not closed"_s},
