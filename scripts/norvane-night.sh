@@ -1,0 +1,42 @@
+#!/bin/sh
+# The night of all customers in a folder of the program: collects the sales of each, writes the day's report, and
+# publishes to a chain's database where one is named. One customer's failure does not stop the next. Prints only what
+# failed, which cron mails, and ends with 1 then.
+#
+#   norvane-night.sh FOLDER REPORTS [CONNECTION]
+#
+# Run twice, it stores and publishes nothing twice and writes the same reports again.
+set -u
+[ $# -ge 2 ] || { echo "usage: norvane-night.sh FOLDER REPORTS [CONNECTION]" >&2; exit 2; }
+shop=$(dirname "$0")/norvane-shop
+folder=$1
+reports=$2
+connection=${3:-}
+failed=0
+
+# attempt CUSTOMER WORD...: a command on a customer, told when it fails.
+attempt() {
+  customer=$1
+  shift
+  said=$("$shop" "$@" --folder "$folder" 2>&1) && return 0
+  code=$?
+  failed=1
+  printf '%s: %s ended with %s\n%s\n\n' "$customer" "$1" "$code" "$said"
+  return 1
+}
+
+# Sales count for the day on which they are collected.
+day=$(date +%F)
+mkdir -p "$reports" || exit 1
+customers=$("$shop" customers --json --folder "$folder") || exit 1
+names=$(printf '%s\n' "$customers" | sed -n 's/^ *"name": "\(.*\)",*$/\1/p')
+while IFS= read -r customer; do
+  [ -n "$customer" ] || continue
+  # Without its sales the report of the day would be wrong, and nobody would look at it again.
+  attempt "$customer" collect "$customer" &&
+    attempt "$customer" report "$customer" plusales --day "$day" --pdf "$(realpath "$reports")/$customer $day.pdf"
+  [ -z "$connection" ] || attempt "$customer" publish "$customer" --to "$connection"
+done <<END
+$names
+END
+exit $failed

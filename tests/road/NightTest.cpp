@@ -1,0 +1,143 @@
+// A night of two shops, as a timer starts it: one register is off, and the night is played once more.
+#include "customers/CustomerLog.h"
+#include "platform/FilePaths.h"
+#include "tests/store/Rows.h"
+#include "tests/support/OtherPrograms.h"
+#include "tests/support/PostgresServer.h"
+#include "tests/support/ProgramFolder.h"
+
+#include <QProcess>
+
+namespace norvane
+{
+namespace
+{
+
+/// A shop of three registers with a folder of the program of its own.
+class Branch
+{
+public:
+    explicit Branch(const QString& name) : m_customer(m_folder.makeCustomer(name))
+    {
+        EXPECT_TRUE(QFile::copy(QString::fromUtf8(NIGHT_SCRIPT), script()));
+        EXPECT_TRUE(QFile::link(QString::fromUtf8(COMMAND), m_folder.appFile(u"norvane-shop"_s)));
+    }
+
+    /// @return the takings of the three registers, as they print them.
+    [[nodiscard]] double ring() const
+    {
+        const QByteArray said =
+            test::outputOf(QString::fromUtf8(RINGSALES_TOOL), {m_folder.bankPath(), u"--seed"_s, u"5"_s});
+        double takings = 0;
+        for (const QByteArray& line : said.split('\n'))
+            takings += line.mid(line.lastIndexOf(' ') + 1).toDouble() * (line.contains("net sales") ? 1 : 0);
+        return takings;
+    }
+    void breakRegister2() const { m_folder.setFaults("[Off]\nCommand=consolidate\nRegister=2\nResult=8\n"); }
+    void mend() const { m_folder.setFaults({}); }
+
+    /// @return what the script prints, and its exit code before it.
+    [[nodiscard]] QString night(const QString& chain) const
+    {
+        QProcess script;
+        script.start(this->script(), {m_folder.appPath(), reports(), chain});
+        EXPECT_TRUE(script.waitForFinished(-1));
+        return QString::number(script.exitCode()) + u' ' +
+               QString::fromLocal8Bit(script.readAllStandardOutput() + script.readAllStandardError());
+    }
+    /// Every row of every sales table. A register reports the PLUs that were not sold, too.
+    [[nodiscard]] std::string sales() const
+    {
+        std::string rows;
+        for (const char* query : {"select * from plusales where count1 <> 0 or count2 <> 0 or count3 <> 0",
+                                  "financialsales", "clerksales", "timesales", "mixsales"})
+            rows += test::rowsOf(m_customer.databasePath, QString::fromLatin1(query), u"\n") + '\n';
+        return rows;
+    }
+    /// The second line of the financial report: the net sales.
+    [[nodiscard]] double takings() const
+    {
+        return QByteArray::fromStdString(
+                   test::rowsOf(m_customer.databasePath, u"select value from financialsales where id = 2"_s))
+            .toDouble();
+    }
+    [[nodiscard]] QString logged() const
+    {
+        const auto line = customers::lastLogged(m_customer.customerPath, {u"collection"_s});
+        return line ? line->registers + u", "_s + line->result : QString();
+    }
+    /// The lines of the only report, without the moment of printing.
+    [[nodiscard]] QStringList report() const
+    {
+        const QStringList files = QDir(reports()).entryList(QDir::Files);
+        if (files != QStringList{m_customer.customerName + u' ' + QDate::currentDate().toString(Qt::ISODate) +
+                                 u".pdf"_s})
+            return files;
+        QStringList lines = test::pdfLines(joinPath(reports(), files.front()));
+        lines.removeIf([](const QString& line) { return line.contains(u"Printed"_s); });
+        return lines;
+    }
+
+private:
+    [[nodiscard]] QString script() const { return m_folder.appFile(u"norvane-night.sh"_s); }
+    [[nodiscard]] QString reports() const { return m_folder.appFile(u"reports"_s); }
+
+    test::ProgramFolder m_folder{2, 3};
+    ApplicationValues m_customer;
+};
+
+/// Every sale in the chain's database, then the net sales of each shop.
+QString chainSales(const test::PostgresServer& server)
+{
+    QString rows;
+    for (const char* const sql : {"plu_sales WHERE count1 + count2 + count3 <> 0", "financial_sales",
+                                  "employee_sales", "time_sales", "mix_sales"})
+        rows += server.query(u"chain"_s,
+                             u"SELECT * FROM norvane.%1 ORDER BY 1, 2, 3, 4"_s.arg(QLatin1StringView(sql)));
+    return rows +
+           server.query(u"chain"_s,
+                        u"SELECT shop_name, round(net_sales, 2) FROM norvane.takings_by_shop ORDER BY 1"_s);
+}
+
+TEST(Night, OfTwoShopsWithARegisterOffCanBePlayedAgain)
+{
+    test::PostgresServer server;
+    ASSERT_TRUE(test::PostgresServer::isInstalled() && server.start());
+    server.makeDatabase(u"chain"_s);
+    const QString chain = server.connection(u"chain"_s);
+    const Branch north(u"North Gate"_s);
+    const Branch south(u"South Gate"_s);
+    const double rung = north.ring();
+    EXPECT_GT(rung, 0);
+    EXPECT_GT(south.ring(), 0);
+    south.breakRegister2();
+
+    EXPECT_EQ(north.night(chain), u"0 "_s);
+    const QString failed = south.night(chain);
+    EXPECT_TRUE(failed.startsWith(u"1 South Gate: collect ended with 6\n"_s)) << failed.toStdString();
+    EXPECT_TRUE(failed.contains(u"8. Time Out"_s)) << failed.toStdString();
+    EXPECT_DOUBLE_EQ(north.takings(), rung);
+    EXPECT_EQ(north.logged(), u"registers 1 to 3, complete"_s);
+    EXPECT_EQ(south.logged(), u"registers 1 to 3, stopped; nothing stored"_s);
+    EXPECT_EQ(south.report(), QStringList());
+
+    const std::string sales = north.sales();
+    const QStringList report = north.report();
+    const QString published = chainSales(server);
+    const QString netOfNorth = u"North Gate|"_s + QString::number(rung, 'f', 2);
+    EXPECT_TRUE(published.endsWith(netOfNorth) && published.count(u'\n') > 100) << published.toStdString();
+    EXPECT_EQ(north.night(chain), u"0 "_s);
+    EXPECT_EQ(north.sales(), sales);
+    EXPECT_EQ(north.report(), report);
+    EXPECT_EQ(chainSales(server), published);
+    EXPECT_GT(report.size(), 10) << report.join(u'\n').toStdString();
+
+    south.mend();
+    EXPECT_EQ(south.night(chain), u"0 "_s);
+    EXPECT_DOUBLE_EQ(south.takings(), rung) << "the same tickets, none of them twice";
+    EXPECT_TRUE(chainSales(server).endsWith(netOfNorth + u"\nSouth Gate|"_s + netOfNorth.section(u'|', 1)))
+        << chainSales(server).toStdString();
+}
+
+} // namespace
+} // namespace norvane
