@@ -120,7 +120,7 @@ void exchangeWith(const Workplace& workplace, const Invocation& words,
         throw CommandError(ExitCode::Stopped, u"Communications Error: Modem Failure"_s);
     exchange::ExchangeRunner runner(values, link, ticks, outsideOf(workplace, values));
     if (!(runner.*sequence)())
-        throw CommandError(ExitCode::Stopped, {});
+        throw CommandError(runner.lacksCopy() ? ExitCode::Unwritable : ExitCode::Stopped, {});
 }
 
 } // namespace

@@ -24,7 +24,7 @@ std::span<const ExitMeaning> exitMeanings()
         {ExitCode::Stopped,
          "the run stopped before its end: a register's answer, or a question answered No"_L1},
         {ExitCode::Unwritable, "a file or folder cannot be written"_L1},
-        {ExitCode::Unsound, "the check found something"_L1},
+        {ExitCode::Unsound, "the check found something, or a database or safety copy is damaged"_L1},
         {ExitCode::BadFile, "the file to import has mistakes"_L1},
         {ExitCode::NoServer, "PostgreSQL cannot be reached, or has no such database or login"_L1},
         {ExitCode::ServerWentAway,
@@ -45,6 +45,8 @@ ExitCode codeOf(const RuntimeFailure& failure)
         return ExitCode::Unwritable;
     case Failure::DatabaseLocked:
         return ExitCode::Busy;
+    case Failure::NotOurDatabase:
+        return ExitCode::Unsound;
     default:
         return ExitCode::Failed;
     }

@@ -111,8 +111,10 @@ void importFrom(const Workplace& workplace, const ApplicationValues& values, con
     show(workplace, comparison, path);
     const auto& changes = comparison.changes;
     if (!changes.empty()) {
-        if (!customers::copyBeforeJob(values, workplace.boxes, u"before PLU import"_s))
+        if (!customers::copyBeforeJob(values, workplace.boxes, u"before PLU import"_s)) {
+            work.setResult(u"not started: no safety copy"_s);
             throw CommandError(ExitCode::Unwritable, {});
+        }
         applyPluChanges(database, changes);
     }
     work.setResult(resultOf(changes));

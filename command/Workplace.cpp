@@ -6,8 +6,11 @@
 #include "customers/RunLock.h"
 #include "customers/SafetyCopies.h"
 #include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
+#include "store/Database.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -26,6 +29,23 @@ void Workplace::show(const Listing& listing) const
     const QByteArray text = asJson ? listing.json() : listing.text();
     std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
 }
+
+namespace
+{
+
+/// A file that is no database any more is told before the work begins. @throws CommandError Unsound
+void checkOpens(const QString& database)
+{
+    try {
+        const store::Database opened(database);
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() == Failure::NotOurDatabase)
+            throw CommandError(ExitCode::Unsound, failure.text());
+        throw;
+    }
+}
+
+} // namespace
 
 ApplicationValues findCustomer(const Workplace& workplace, const QString& name)
 {
@@ -69,14 +89,18 @@ ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
     case CustomerChoice::Taken:
         break;
     }
+    checkOpens(values.databasePath);
     return values;
 }
 
 std::unique_ptr<customers::RunLock> lockFor(const Workplace& workplace, const ApplicationValues& values)
 {
     auto lock = customers::RunLock::take(values, workplace.boxes);
-    if (lock == nullptr)
-        throw CommandError(ExitCode::Busy, {});
+    if (lock == nullptr) {
+        const bool isWritable =
+            QFileInfo(values.appPath).isWritable() && QFileInfo(values.customerPath).isWritable();
+        throw CommandError(isWritable ? ExitCode::Busy : ExitCode::Unwritable, {});
+    }
     return lock;
 }
 

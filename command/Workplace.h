@@ -33,10 +33,11 @@ struct Workplace {
 [[nodiscard]] ApplicationValues findCustomer(const Workplace& workplace, const QString& name);
 
 /// The same; its database is brought to the current layout, as at a choice in the window.
-/// @throws CommandError as well Unsound when its database is damaged.
+/// @throws CommandError as well Unsound when its database is damaged or is none.
 [[nodiscard]] ApplicationValues takeCustomer(const Workplace& workplace, const QString& name);
 
-/// @throws CommandError Busy when another run works with the customer.
+/// @throws CommandError Busy when another run works with the customer, Unwritable when the lock cannot be
+/// written.
 [[nodiscard]] std::unique_ptr<customers::RunLock> lockFor(const Workplace& workplace,
                                                           const ApplicationValues& values);
 

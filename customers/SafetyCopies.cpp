@@ -149,7 +149,7 @@ QString exchangeDatabase(const QString& customerPath, const QString& made)
         return {};
     }
     const QString wanted = u"velmar.damaged-"_s + QDateTime::currentDateTime().toString(timeFormat);
-    const QString aside = freeName(customerPath, wanted);
+    QString aside = freeName(customerPath, wanted);
     move(database, joinPath(customerPath, aside));
     QFile::rename(database + u"-journal"_s, joinPath(customerPath, aside + u"-journal"_s));
     try {
@@ -170,9 +170,10 @@ QString replaceDatabase(const QString& customerPath, const SafetyCopy& copy)
     QStringList told;
     if (!aside.isEmpty())
         told << u"The damaged database is kept as %1."_s.arg(aside);
-    if (!lost.isEmpty())
+    if (!lost.isEmpty()) {
         told << u"These tables begin empty, because the copy has none and they could not be read: %1."_s.arg(
             lost.join(u", "_s));
+    }
     return told.join(u'\r');
 }
 

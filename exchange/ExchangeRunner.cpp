@@ -72,6 +72,7 @@ bool ExchangeRunner::UploadData()
     customers::LoggedWork work(m_values.customerPath, u"upload"_s, u"register 1"_s);
     if (!customers::copyBeforeJob(m_values, m_outside.boxes, u"before upload"_s)) {
         work.setResult(u"not started: no safety copy"_s);
+        m_lacksCopy = true;
         return false;
     }
     upload();

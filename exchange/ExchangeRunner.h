@@ -37,6 +37,8 @@ public:
     /// Makes the files from the tables, or takes the kept ones, and sends them to registers 1 to n.
     /// @throws as UploadData, and 53 when the kept bitmap file is missing.
     bool downloaddata();
+    /// Whether the upload did not start because no safety copy could be made; the user was told then.
+    [[nodiscard]] bool lacksCopy() const { return m_lacksCopy; }
 
 private:
     void upload();
@@ -71,6 +73,7 @@ private:
     link::RunOutside m_outside;
     records::ProcedureContext m_procedures;
     UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
+    bool m_lacksCopy = false;
 };
 
 } // namespace norvane::exchange

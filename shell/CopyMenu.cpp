@@ -23,16 +23,21 @@ QString wordsOf(const customers::SafetyCopy& copy)
     return u"%1, %2"_s.arg(QLocale().toString(copy.made, QLocale::ShortFormat), copy.reason);
 }
 
+/// What becomes of today's database.
+QString keptInWords(const QString& customerPath, bool salesComeBack)
+{
+    if (!customers::needsNewDatabase(customerPath))
+        return u"A copy of how it stands now is made first."_s;
+    const QString kept = u"The database of today cannot be used. It is kept under another name"_s;
+    return kept + (salesComeBack ? u"."_s : u", and what can be read of the sales in it is taken over."_s);
+}
+
 QString questionOf(const QString& customer, const QString& customerPath, const customers::SafetyCopy& copy)
 {
-    const QString sales = customers::holdsSales(copy) ? u"sales included"_s : u"but for sales"_s;
-    const QString kept =
-        customers::needsNewDatabase(customerPath)
-            ? u"The database of today cannot be used. It is kept under another name, and what can be read of "
-              "the sales in it is taken over."_s
-            : u"A copy of how it stands now is made first."_s;
+    const bool salesComeBack = customers::holdsSales(copy);
     return u"Put %1 back as it was on %2?\r\rAll that was changed since is undone, %3. %4"_s.arg(
-        customer, wordsOf(copy), sales, kept);
+        customer, wordsOf(copy), salesComeBack ? u"sales included"_s : u"but for sales"_s,
+        keptInWords(customerPath, salesComeBack));
 }
 
 } // namespace

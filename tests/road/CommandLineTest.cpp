@@ -191,6 +191,34 @@ TEST_P(CommandLineOfOneShop, ListsReportsAndPutsBack)
     EXPECT_GT(m_shop.rowsOf("PLUSALES"), 0) << "sales stay";
 }
 
+/// A price run with a wrong rate, then a disk that fails, then a second folder of that name.
+TEST_P(CommandLineOfOneShop, MendsABadEvening)
+{
+    expectDone({u"fetch"_s, shopName, u"plu"_s});
+    const QString database = m_shop.values().databasePath;
+    const std::string before = test::rowsOf(database, u"pludata"_s);
+    m_shop.boxes().answers = {true};
+    m_shop.boxes().typed = {u"136"_s};
+    m_shop.choose("Transfer1to2");
+    EXPECT_FALSE(test::rowsOf(database, u"pludata"_s) == before);
+    const QString copy = run({u"copies"_s, shopName}).out.section(u'\n', 1, 1).section(u"  "_s, 0, 0);
+    EXPECT_TRUE(copy.endsWith(u"before price run"_s)) << copy.toStdString();
+    expectDone({u"restore"_s, shopName, copy});
+    EXPECT_TRUE(test::rowsOf(database, u"pludata"_s) == before) << "every field of every PLU";
+
+    ASSERT_TRUE(QFile::resize(database, 50000));
+    for (const char* const verb : {"check", "collect", "fetch"})
+        EXPECT_EQ(run({QString::fromLatin1(verb), shopName}).code, 8) << verb;
+    const Ended restored = run({u"restore"_s, u"corner SHOP"_s, copy});
+    EXPECT_EQ(restored.code, 0);
+    EXPECT_TRUE(restored.err.contains(u"kept as velmar.damaged-"_s)) << restored.err.toStdString();
+    EXPECT_TRUE(test::rowsOf(database, u"pludata"_s) == before);
+
+    (void)m_shop.folder().makeCustomer(u"CORNER SHOP"_s);
+    EXPECT_EQ(run({u"check"_s, u"corner shop"_s}).code, 4) << "which of them?";
+    EXPECT_EQ(run({u"check"_s, shopName}).code, 0);
+}
+
 INSTANTIATE_TEST_SUITE_P(OneModel, CommandLineOfOneShop, testing::Values(2));
 
 } // namespace
