@@ -107,7 +107,7 @@ FrmFunctKey::NumberRow FrmFunctKey::makeNumber(NumberControl control, const QStr
 }
 
 /// Everything has its place for good: what a key does not show leaves a blank.
-void FrmFunctKey::layOut()
+QGridLayout* FrmFunctKey::makeGrid()
 {
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(ui::spacing::controlGap);
@@ -123,14 +123,18 @@ void FrmFunctKey::layOut()
         grid->addWidget(row.box, line++, 4);
     }
     grid->setColumnStretch(5, 1);
+    return grid;
+}
 
+void FrmFunctKey::layOut()
+{
     auto* const ExitForm = ui::makeButton(u"ExitForm"_s, u"E&xit"_s, this);
     connect(ExitForm, &QPushButton::clicked, this, &QDialog::reject);
     // Enter in a box must not save.
     for (QPushButton* const button : {SaveRecord, ExitForm})
         button->setAutoDefault(false);
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
-    column->addLayout(grid);
+    column->addLayout(makeGrid());
     column->addWidget(m_options);
     column->addLayout(ui::makeButtonRow({SaveRecord, ExitForm}));
 }

@@ -6,6 +6,7 @@
 
 #include <QDialog>
 
+class QGridLayout;
 class QLabel;
 class QPushButton;
 
@@ -47,6 +48,7 @@ private:
     };
 
     void makeControls();
+    [[nodiscard]] QGridLayout* makeGrid();
     void layOut();
     [[nodiscard]] NumberRow makeNumber(NumberControl control, const QString& label, ui::NumberBox* box,
                                        const QString& name);

@@ -42,9 +42,8 @@ QString LevelCopy::misplacedKeys(const KeyGeometry& keyboard) const
 {
     if (from == to || keyboard.keysPerLevel == copiedKeys)
         return {};
-    return u"A level of this keyboard has %1 keys, but Copy Levels counts %2 keys a level. It would copy %3 "
-           u"over "
-           "%4.\n\nCopy all the same?"_s.arg(keyboard.keysPerLevel)
+    return u"A level of this keyboard has %1 keys, but Copy Levels counts %2 keys a level. "
+           "It would copy %3 over %4.\n\nCopy all the same?"_s.arg(keyboard.keysPerLevel)
                .arg(copiedKeys)
                .arg(keysOf(from, keyboard), keysOf(to, keyboard));
 }

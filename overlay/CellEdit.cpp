@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QHash>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -145,31 +146,31 @@ bool CellEdit::leadsOut(int key) const
     return !hasSelectedText() && cursorPosition() == (key == Qt::Key_Left ? 0 : text().size());
 }
 
+/// Enter leads on in the order of reading, with Shift back.
 bool CellEdit::walk(const QKeyEvent& event)
 {
-    static constexpr std::array<std::pair<Qt::Key, Direction>, 4> ways = {{
-        {Qt::Key_Left, Direction::Left},
-        {Qt::Key_Right, Direction::Right},
-        {Qt::Key_Up, Direction::Up},
-        {Qt::Key_Down, Direction::Down},
-    }};
     const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
-        if (modifiers == Qt::ShiftModifier) {
-            Q_EMIT previousWanted();
-        } else {
-            Q_EMIT nextWanted();
-        }
-        return true;
+    if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter)
+        return modifiers == Qt::NoModifier && walkByArrow(event.key());
+    if (modifiers == Qt::ShiftModifier) {
+        Q_EMIT previousWanted();
+    } else {
+        Q_EMIT nextWanted();
     }
-    for (const auto& [key, direction] : ways) {
-        const bool isSideways = key == Qt::Key_Left || key == Qt::Key_Right;
-        if (event.key() != key || modifiers != Qt::NoModifier || (isSideways && !leadsOut(key)))
-            continue;
-        Q_EMIT wayChosen(direction);
-        return true;
-    }
-    return false;
+    return true;
+}
+
+bool CellEdit::walkByArrow(int key)
+{
+    static const QHash<int, Direction> ways{{Qt::Key_Left, Direction::Left},
+                                            {Qt::Key_Right, Direction::Right},
+                                            {Qt::Key_Up, Direction::Up},
+                                            {Qt::Key_Down, Direction::Down}};
+    const bool isSideways = key == Qt::Key_Left || key == Qt::Key_Right;
+    if (!ways.contains(key) || (isSideways && !leadsOut(key)))
+        return false;
+    Q_EMIT wayChosen(ways.value(key));
+    return true;
 }
 
 void CellEdit::focusInEvent(QFocusEvent* event)

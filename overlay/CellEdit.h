@@ -55,6 +55,7 @@ private:
     [[nodiscard]] QFont shownFont() const;
     [[nodiscard]] bool leadsOut(int key) const;
     bool walk(const QKeyEvent& event);
+    bool walkByArrow(int key);
     void takeLook();
     void paintPrinted(QPainter& painter) const;
 
