@@ -4,20 +4,17 @@
 
 #include "base/ApplicationValues.h"
 #include "store/Catalogue.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"
-
-#include <utility>
-#include <vector>
+#include "tests/store/Rows.h"
 
 namespace norvane::keys::test
 {
 
+using norvane::test::addRecord;
 using norvane::test::failureOf;
 using norvane::test::failureTextOf;
 
-using FieldValue = std::pair<const char*, store::Value>;
+using norvane::test::FieldValue;
 
 inline store::Value text(const char* value)
 {
@@ -48,16 +45,7 @@ public:
     void add(const char* table, const std::vector<FieldValue>& fields) const
     {
         store::Database database(values.databasePath);
-        add(database, table, fields);
-    }
-
-    static void add(store::Database& database, const char* table, const std::vector<FieldValue>& fields)
-    {
-        auto records = database.openTable(QLatin1String(table));
-        records.addNew();
-        for (const auto& [name, value] : fields)
-            records.setValue(QLatin1String(name), value);
-        records.update();
+        addRecord(database, table, fields);
     }
 
     /// Five levels of @p keys keys: key 3 of level 2 does "2003" by its @c keylink and has that number.
@@ -67,22 +55,14 @@ public:
         const store::Transaction all(*database);
         for (int row = 0; row < keys * levels; ++row) {
             const QByteArray key = QByteArray::number((row / keys + 1) * 1000 + row % keys + 1);
-            add(*database, "KEYLINK", {{"ID", whole(row + 1)}, {"KEYLINK", text(key)}});
-            add(*database, "NLU", {{"ID", whole(row + 1)}, {"NLU", text(key.rightJustified(18, '0'))}});
+            addRecord(*database, "KEYLINK", {{"ID", whole(row + 1)}, {"KEYLINK", text(key)}});
+            addRecord(*database, "NLU", {{"ID", whole(row + 1)}, {"NLU", text(key.rightJustified(18, '0'))}});
         }
     }
 
-    /// The field in the records of a table, in the order of its first index, parted by "|"; null as "null".
     [[nodiscard]] std::string column(const char* table, const char* field) const
     {
-        const auto database = open();
-        auto records = database->openTable(QLatin1String(table));
-        std::string shown;
-        for (qint64 left = records.recordCount(); left > 0; --left, records.moveNext()) {
-            const auto& value = records.value(QLatin1String(field));
-            shown += (shown.empty() ? "" : "|") + (value.isNull() ? "null" : value.toUtf8());
-        }
-        return shown;
+        return norvane::test::columnOf(values.databasePath, table, field);
     }
 
     /// Runs an update or delete, as another program at the same file would.

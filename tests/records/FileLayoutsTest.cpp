@@ -144,6 +144,21 @@ const struct {
     {6, "00,,,20", "stockisdeducted", "True"},
     {11, "00,00,00,30", "DATEPRINT", "3"},
     {11, "00,00,00,70,00,00,", "HOMESYMBOL", "48"},
+    // Columns too many, digits that are no sums of flags, and lines without anything: no register takes them for settings.
+    {1, "a,40,40,9,,zz", "tax1", "True"},
+    {1, "a,89,89", "addtogrouptotal", "False"},
+    {1, "a,89,89", "tax1", "False"},
+    {3, "89", "DEFAULTDESTINATION", "0"},
+    {67, "\r\n", "PRICE1", "0"},
+    {67, "\r\n", "OVERRIDE", "False"},
+    {23, "\r\n", "Justify", "0"},
+    {29, "\r\n", "taxrate", "0"},
+    {11, "\r\n", "CURRENCY5SYMBOL", "48"},
+    {58, "\r\n", "DESCRIPTION", "Prod Mix 1"},
+    {60, "\r\n", "DESCRIPTION", "Recipe 1"},
+    {63, "\r\n", "dallaskey", "00000000000000"},
+    {65, "\r\n", "AUTOGRILL", "False"},
+    {57, "\r\n", "codenumber1", "0"},
 };
 // clang-format on
 

@@ -4,18 +4,14 @@
 
 #include "records/FileProcedures.h"
 #include "store/Catalogue.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
 #include "tests/platform/TestFolder.h"
+#include "tests/store/Rows.h"
 #include "tests/support/RecordingBoxes.h"
-
-#include <utility>
-#include <vector>
 
 namespace norvane::records::test
 {
 
-using FieldValue = std::pair<const char*, store::Value>;
+using norvane::test::FieldValue;
 
 class Shop
 {
@@ -52,24 +48,12 @@ public:
     void add(const char* table, const std::vector<FieldValue>& fields) const
     {
         store::Database database(values.databasePath);
-        auto records = database.openTable(QLatin1String(table));
-        records.addNew();
-        for (const auto& [name, value] : fields)
-            records.setValue(QLatin1String(name), value);
-        records.update();
+        norvane::test::addRecord(database, table, fields);
     }
 
-    /// The field in the records of a table, in the order of its first index, parted by "|"; null as "null".
     [[nodiscard]] std::string column(const char* table, const char* field) const
     {
-        store::Database database(values.databasePath);
-        auto records = database.openTable(QLatin1String(table));
-        std::string shown;
-        for (qint64 left = records.recordCount(); left > 0; --left, records.moveNext()) {
-            const auto& value = records.value(QLatin1String(field));
-            shown += (shown.empty() ? "" : "|") + (value.isNull() ? "null" : value.toUtf8());
-        }
-        return shown;
+        return norvane::test::columnOf(values.databasePath, table, field);
     }
 
     [[nodiscard]] qint64 rows(const char* table) const

@@ -5,6 +5,8 @@
 #include "store/Recordset.h"
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace norvane::test
 {
@@ -26,6 +28,30 @@ inline std::string rowsOf(const QString& databasePath, const QString& sql, QStri
 inline void execute(const QString& databasePath, const QString& sql)
 {
     store::Database(databasePath).execute(sql);
+}
+
+using FieldValue = std::pair<const char*, store::Value>;
+
+inline void addRecord(store::Database& database, const char* table, const std::vector<FieldValue>& fields)
+{
+    auto records = database.openTable(QLatin1String(table));
+    records.addNew();
+    for (const auto& [name, value] : fields)
+        records.setValue(QLatin1String(name), value);
+    records.update();
+}
+
+/// The field in the records of a table, in the order of its first index, parted by "|"; null as "null".
+inline std::string columnOf(const QString& databasePath, const char* table, const char* field)
+{
+    store::Database database(databasePath);
+    auto records = database.openTable(QLatin1String(table));
+    std::string shown;
+    for (qint64 left = records.recordCount(); left > 0; --left, records.moveNext()) {
+        const auto& value = records.value(QLatin1String(field));
+        shown += (shown.empty() ? "" : "|") + (value.isNull() ? "null" : value.toUtf8());
+    }
+    return shown;
 }
 
 } // namespace norvane::test
