@@ -23,8 +23,8 @@ protected:
         const store::Transaction all(*database);
         for (int id = 1; id <= 266; ++id) {
             const QString description = id == 21 ? u"Cheque"_s : u"KEY %1"_s.arg(267 - id);
-            KeyShop::add(*database, "FUNCTIONKEY",
-                         {{"id", whole(id)}, {"description", store::Value::text(description)}});
+            addRecord(*database, "FUNCTIONKEY",
+                      {{"id", whole(id)}, {"description", store::Value::text(description)}});
         }
     }
     void open()

@@ -170,6 +170,8 @@ TEST_F(FrmwluTest, FillsMovesAndSavesLines)
     EXPECT_EQ(drop(0, 2, -1), 1) << "between lines 2 and 3";
     EXPECT_EQ(drop(1, -1, 2), 2) << "on line 3";
     EXPECT_EQ(drop(0, -1, -1), 3) << "below all";
+    QTest::keyClick(m_form->windowHandle(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(grid.currentIndex().row(), 3) << "there is no line below";
     press("CSCmdBtn1");
     EXPECT_EQ(stored(1), "0:1001 1:1002 :0 :0");
     m_boxes.answers = {true};

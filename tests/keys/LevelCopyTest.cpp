@@ -1,7 +1,6 @@
-// Copying levels, and where an item lies on the keyboard afterwards.
+// Copying levels row by row, on both keyboards and where rows are missing.
 #include "keys/LevelCopy.h"
 
-#include "keys/KeyPlaces.h"
 #include "tests/keys/KeyShop.h"
 
 namespace norvane::keys
@@ -20,18 +19,6 @@ std::string keyAt(const KeyShop& shop, const KeyGeometry& keyboard, int level, i
     const auto numbers = QString::fromStdString(shop.column("NLU", "NLU")).split(u'|');
     EXPECT_EQ(numbers.at(row).toInt(), links.at(row).toInt());
     return links.at(row).toStdString();
-}
-
-TEST(LevelCopy, CopiesALevelOfTheSmallerKeyboard)
-{
-    const KeyShop shop("3");
-    const KeyGeometry& keyboard = dorvikKeyboard();
-    shop.addKeyboard(keyboard.keysPerLevel);
-    LevelCopy{2, 5}.run(*shop.open());
-    for (const auto& [level, key, does] :
-         {std::tuple(5, 1, "2001"), {5, 158, "2158"}, {4, 158, "4158"}, {2, 158, "2158"}, {1, 1, "1001"}})
-        EXPECT_EQ(keyAt(shop, keyboard, level, key), does);
-    EXPECT_EQ((LevelCopy{2, 5}.misplacedKeys(keyboard)), QString());
 }
 
 TEST(LevelCopy, CountsTheSameKeysOnTheLargerKeyboardAndTellsSo)
@@ -62,22 +49,6 @@ TEST(LevelCopy, LeavesAllAsItWasWhenATableEndsBefore)
         EXPECT_EQ(shop.column("KEYLINK", "KEYLINK"), links);
         EXPECT_EQ(shop.column("NLU", "NLU"), numbers);
     }
-}
-
-TEST(KeyPlaces, AreFoundByLinkAndNumber)
-{
-    const KeyShop shop("3");
-    shop.addKeyboard(dorvikKeyboard().keysPerLevel);
-    shop.execute("update keylink set keylink = '271' where id in (3, 4, 158, 159, 790)");
-    shop.execute("update nlu set nlu = '000712345678901234' where id in (3, 158, 159, 790)");
-    const auto database = shop.open();
-    const auto places = [&](const char* link, const char* number) {
-        return placesText(findKeys(*database, dorvikKeyboard(), QLatin1String(link), QLatin1String(number)))
-            .toStdString();
-    };
-    EXPECT_EQ(places("271", "0007"), "Level 1 keys 3, 158, Level 2 key 1, Level 5 key 158");
-    EXPECT_EQ(places("2003", ""), "Level 2 key 3");
-    EXPECT_EQ(places("271", "0008"), "");
 }
 
 } // namespace

@@ -178,25 +178,5 @@ TEST_F(LookUpRecordsTest, TellsWhatToUploadWhenItCannotOpen)
     EXPECT_TRUE(opened().startsWith(u"3021 Table memoryallocation is empty"_s));
 }
 
-TEST(LookUpLines, MoveFromPlaceToPlace)
-{
-    struct Case {
-        int from;
-        int to;
-        const char* order;
-    };
-    for (const auto& [from, to, order] : {Case{0, 3, "2341"}, Case{3, 0, "4123"}, Case{1, 2, "1324"},
-                                          Case{2, 2, "1234"}, Case{0, -1, "1234"}, Case{4, 3, "1234"}}) {
-        LookUpLines lines;
-        for (const char* code : {"1", "2", "3", "4"})
-            lines.push_back({.code = QLatin1String(code)});
-        EXPECT_EQ(moveLine(lines, from, to), from != 4 && to != -1);
-        QString moved;
-        for (const LookUpLine& line : lines)
-            moved += line.code;
-        EXPECT_EQ(moved, QLatin1String(order)) << from << " to " << to;
-    }
-}
-
 } // namespace
 } // namespace norvane::keys

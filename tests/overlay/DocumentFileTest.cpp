@@ -56,18 +56,6 @@ TEST(DocumentFileTest, HasSevenPlainLinesForEachCellAndKeepsEveryAttribute)
     EXPECT_EQ(read, written);
 }
 
-TEST(DocumentFileTest, TakesALargerKeyboardsFileAndIgnoresTheRest)
-{
-    const TestFolder folder;
-    Document velmar(Keyboard::Velmar);
-    velmar.cell(455).text = u"last"_s;
-    writeDocument(folder.path("a"), velmar);
-    Document dorvik(Keyboard::Dorvik);
-    readDocument(folder.path("a"), dorvik);
-    EXPECT_EQ(dorvik.cell(455).text, u"last"_s);
-    EXPECT_EQ(dorvik.cell(0).text, QString());
-}
-
 std::string described(const Cell& cell)
 {
     return u"%1|%2,%3|%4 %5%6%7"_s.arg(cell.text.size() > 10 ? QString::number(cell.text.size()) : cell.text)
@@ -99,6 +87,7 @@ TEST(DocumentFileTest, ABadFileFailsAndLeavesWhatWasReadBefore)
         {"size is none", one + cellLines("2", "1,2,X,large,False,True"), 13, "2|1,2|X 8 bold"},
         {"size is too large", one + cellLines("2", "1,2,X,1e39,False,True"), 6, "2|1,2|X 8 bold"},
         {"line is too long", one + QByteArray(200000, '\xFF'), 3163, "|16777215,0|Arial 8 bold"},
+        {"longer than needed", one + cellLines("2").repeated(482), 0, "2|16777215,0|Arial 8 bold"},
         {"longest text", one + QByteArray(cellTextLimit, 'x') + "\r\n", 62, "32767|16777215,0|Arial 8 bold"}};
     const TestFolder folder;
     for (const auto& [what, content, failure, second] : files) {

@@ -1,7 +1,6 @@
 // What the keys of an overlay say after the import of a level, from the rows of a real database.
 #include "overlay/LevelImport.h"
 
-#include "overlay/DocumentEditor.h"
 #include "store/Catalogue.h"
 #include "tests/store/StoreFolder.h"
 
@@ -108,24 +107,6 @@ TEST_F(LevelImportTest, LooksUpWhatAKeyDoes)
         EXPECT_EQ(key(document, fromBottom[row]), programmedKeys[row].second) << row;
     EXPECT_EQ(document.cell(36).background, Colour{255}) << "only texts change";
     EXPECT_EQ(document.cell(37).font.name, u"Courier"_s);
-}
-
-TEST_F(LevelImportTest, FailsWhenRowsRunOutAndCanBeTakenBack)
-{
-    execute("delete * from KEYLINK where ID > 320");
-    for (const int level : {3, 4}) {
-        DocumentEditor editor(Keyboard::Dorvik);
-        const QString told = test::failureTextOf([&] { editor.importLevel(level, m_folder.path()); });
-        EXPECT_TRUE(told.startsWith(u"3021 "_s) && told.contains(u"has only 320. Upload \"Key Link\""_s))
-            << level;
-        EXPECT_EQ(key(editor.document(), 27), level == 3 ? "|F317|" : "||") << "what was read stays";
-        EXPECT_EQ(editor.history().count(), level == 3 ? 1 : 0);
-        editor.history().undo();
-        EXPECT_EQ(editor.document(), Document(Keyboard::Dorvik));
-    }
-    execute("update KEYLINK set KEYLINK='ABCD' where ID=1");
-    DocumentEditor editor(Keyboard::Velmar);
-    EXPECT_EQ(test::failureOf([&] { editor.importLevel(1, m_folder.path()); }), 3421);
 }
 
 } // namespace

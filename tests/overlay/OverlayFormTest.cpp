@@ -73,7 +73,13 @@ protected:
             QTest::sendKeyEvent(QTest::Click, &cell(index), Qt::Key_unknown, QString(letter), Qt::NoModifier);
     }
     void click(int index) { QTest::mouseClick(&cell(index), Qt::LeftButton); }
-    void doubleClick(int index) { QTest::mouseDClick(&cell(index), Qt::LeftButton); }
+    /// As a mouse does: the first press is a click.
+    void doubleClick(int index)
+    {
+        click(index);
+        QTest::mouseDClick(&cell(index), Qt::LeftButton);
+        QTest::mouseRelease(&cell(index), Qt::LeftButton);
+    }
     /// The colour of a cell as it is seen, beside its text.
     [[nodiscard]] std::string colourOf(int index)
     {
@@ -165,6 +171,37 @@ TEST_F(OverlayFormTest, SavesAndOpensAndTellsWhatIsWrong)
     choose("Save");
     EXPECT_TRUE(m_boxes.shown.back().text.startsWith(u"System error 75: "_s));
     EXPECT_FALSE(test::takeFailure());
+}
+
+TEST_F(OverlayFormTest, ReplacesUnaskedOnlyTheFileInHand)
+{
+    m_folder.folder().write("short.Dorvik", "HALF\r\n");
+    const QString tea = path("tea.Dorvik");
+    open(Keyboard::Dorvik);
+    type(3, "TEA");
+    m_dialogs.files = {tea, path("short.Dorvik"), tea, {}, tea, tea, {}};
+    choose("Save");
+    EXPECT_TRUE(m_boxes.shown.empty());
+    choose("Open");
+    choose("Save");
+    EXPECT_EQ(m_boxes.shown.back().title, u"Save"_s) << "after an open that failed";
+    m_boxes.answers = {true};
+    choose("New");
+    EXPECT_EQ(cell(0).text() + cell(3).text(), u" RECEIPT"_s);
+    EXPECT_FALSE(m_form->isWindowModified());
+    choose("Save");
+    EXPECT_EQ(m_boxes.shown.back().title, u"Save"_s) << "new, but a file of this name is there";
+    EXPECT_TRUE(m_folder.folder().read("tea.Dorvik").contains("\nTEA\r"));
+}
+
+TEST_F(OverlayFormTest, AKeyOfOneCellTakesOneLineOfAnother)
+{
+    open(Keyboard::Dorvik);
+    type(3, "TEA");
+    choose("CopyKey");
+    cell(379).setFocus();
+    choose("PasteKey");
+    EXPECT_EQ(cell(379).text() + cell(380).text(), u"TEA 1"_s);
 }
 
 TEST_F(OverlayFormTest, ClicksGiveTheFontAndDoubleClicksTheColours)

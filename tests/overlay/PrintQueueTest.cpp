@@ -61,6 +61,7 @@ TEST(PrintQueueTest, GetsTheSheetFromTheCornerOfThePrintableArea)
         GTEST_SKIP() << "needs the programs cupsd and lpadmin";
     const PrintServer server;
     ASSERT_TRUE(server.isUp());
+    EXPECT_EQ(paper::defaultPrinter(), nullptr);
     server.addDefaultQueue(QStringLiteral("Office"), description);
     expectMargins(paper::sheetOf(*printerFor(QPageLayout::Portrait)), {10, 20, 20, 40});
     const auto printer = printerFor(QPageLayout::Landscape);
@@ -78,6 +79,10 @@ TEST(PrintQueueTest, GetsTheSheetFromTheCornerOfThePrintableArea)
     while (x < page.width() && qGray(page.pixel(x, y)) > 0x80)
         ++x;
     EXPECT_NEAR(x / 10.0, 40 * 25.4 / 72 + 0.34, 0.1);
+
+    EXPECT_TRUE(paper::isThere(*printer));
+    server.removeQueue(QStringLiteral("Office"));
+    EXPECT_FALSE(paper::isThere(*printer));
 }
 
 } // namespace

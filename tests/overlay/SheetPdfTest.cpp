@@ -278,20 +278,6 @@ TEST(TestPageTest, HasItsLinesWhereItSaysUnderTheCorrectionInHand)
     EXPECT_NEAR(down.height(), 100, 0.2);
 }
 
-TEST(SheetPdfTest, TellsOfAPaperThatCannotBeWrittenWithoutAWordFromThePainter)
-{
-    static QStringList said;
-    said.clear();
-    auto* const former = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext&, const QString& text) { said << text; });
-    const TestFolder folder;
-    QPdfWriter writer(folder.path("none/a.pdf"));
-    const bool isPrinted = printSheet(Document(Keyboard::Dorvik), writer, {});
-    qInstallMessageHandler(former);
-    EXPECT_FALSE(isPrinted);
-    EXPECT_LE(said.size(), 1) << said.join(u'\n').toStdString();
-}
-
 TEST(OverlayPenTest, WrapsWordsToTheWidthAndCutsToTheArea)
 {
     const TestFolder folder;

@@ -3,6 +3,7 @@
 #include "keys/KeyGeometry.h"
 #include "platform/FilePaths.h"
 #include "tests/road/Shop.h"
+#include "tests/store/Rows.h"
 #include "tests/support/FormTest.h"
 
 #include <QTest>
@@ -174,9 +175,10 @@ protected:
         return (numbers.join(u' ') + u" | "_s + ticked.join(u' ')).toStdString();
     }
     /// All function keys but 21, whose third flag arrives cut.
-    [[nodiscard]] QStringList otherFunctionKeys() const
+    [[nodiscard]] std::string otherFunctionKeys() const
     {
-        return m_shop.storedRows(
+        return test::rowsOf(
+            m_shop.values().databasePath,
             u"select id, halo, flag1, flag2, flag3, flag4 from functionkey where id <> 21 order by id"_s);
     }
     /// What is rung on a key of the first level at the register, empty when it sells nothing.
@@ -214,10 +216,11 @@ TEST_P(KeysRoad, KeysAndLookUpsArriveAtARegisterAndAtASecondCustomer)
     const QString lookUp = shownLookUp();
     EXPECT_TRUE(lookUp.startsWith(u"15|Favourites|2|0|1|1|1|PLU "_s)) << lookUp.toStdString();
     const auto keyTables = [this] {
-        return m_shop.storedRows(u"select keylink from keylink order by id"_s) +
-               m_shop.storedRows(u"select nlu from nlu order by id"_s);
+        const QString& path = m_shop.values().databasePath;
+        return test::rowsOf(path, u"select keylink from keylink order by id"_s) +
+               test::rowsOf(path, u"select nlu from nlu order by id"_s);
     };
-    const QStringList keys = keyTables();
+    const std::string keys = keyTables();
     sendAndStartAnew();
     EXPECT_EQ(rungOn(to), article);
     EXPECT_EQ(rungOn(from), "");
@@ -237,7 +240,7 @@ TEST_P(KeysRoad, FunctionKeysArriveButForWhatTheirPackingLoses)
     openFunctionKeys([](const QDialog& form, const KeyOptions& options) {
         EXPECT_EQ(shownOptions(form, options.key), options.shown) << options.key;
     });
-    const QStringList others = otherFunctionKeys();
+    const std::string others = otherFunctionKeys();
     sendAndStartAnew();
     const QByteArrayList tender = m_shop.recordsOf(1, functionFile).at(118);
     EXPECT_EQ(tender.sliced(2).join(' '), "00 40 03 02");

@@ -99,15 +99,6 @@ void Shop::press(QWidget& form, const char* button)
     QTest::mouseClick(&child<QPushButton>(form, QString::fromLatin1(button)), Qt::LeftButton);
 }
 
-void Shop::find(QWidget& form, const char* text)
-{
-    onDialog([text](QDialog& dialog) {
-        QTest::keyClicks(&child<QLineEdit>(dialog, u"SearchData"_s), QString::fromLatin1(text));
-        press(dialog, "ExitControl_0");
-    });
-    press(form, "FindControl_1");
-}
-
 QList<QByteArrayList> Shop::recordsOf(int registerNumber, int file) const
 {
     const QString source = m_folder.registerFile(registerNumber, file);
@@ -124,25 +115,6 @@ QList<QByteArrayList> Shop::recordsOf(int registerNumber, int file) const
             records << line.chopped(1).split(',');
     }
     return records;
-}
-
-QString Shop::stored(const QByteArray& query) const
-{
-    store::Database database(m_values.databasePath);
-    return database.openQuery(QString::fromLatin1(query)).value(0).toText();
-}
-
-QStringList Shop::storedRows(const QString& query) const
-{
-    store::Database database(m_values.databasePath);
-    QStringList rows;
-    for (store::Recordset record = database.openQuery(query); !record.atEnd(); record.moveNext()) {
-        QStringList fields;
-        for (int field = 0; field < record.fieldCount(); ++field)
-            fields += record.value(field).toText();
-        rows += fields.join(u' ');
-    }
-    return rows;
 }
 
 qint64 Shop::rowsOf(const char* table) const

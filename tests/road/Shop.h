@@ -41,16 +41,11 @@ public:
     QWidget& openForm(const char* entry);
     /// The form in front that is not modal, if any.
     [[nodiscard]] QWidget* front() const;
-    /// Presses a button of a form, or a find button with its answer typed into the dialog.
+    /// Presses a button of a form.
     static void press(QWidget& form, const char* button);
-    static void find(QWidget& form, const char* text);
 
     /// What a register holds in a file, as text lines split at the commas.
     [[nodiscard]] QList<QByteArrayList> recordsOf(int registerNumber, int file) const;
-    /// The first field of the first record of a query.
-    [[nodiscard]] QString stored(const QByteArray& query) const;
-    /// The fields of all records of a query, those of a record parted by blanks.
-    [[nodiscard]] QStringList storedRows(const QString& query) const;
     [[nodiscard]] qint64 rowsOf(const char* table) const;
     /// Runs a statement on the customer's database, as another program at the same file would.
     void execute(const char* sql) const;

@@ -46,15 +46,13 @@ public:
     {
         return QTest::qWaitFor([this] { return QFile::exists(m_folder.path("socket")); }, 10000);
     }
-    /// @param description of a printer, which tells its margins; empty for a queue that tells nothing.
-    void addDefaultQueue(const QString& name, const QByteArray& description = {}) const
+    /// @param description of a printer, which tells its margins.
+    void addDefaultQueue(const QString& name, const QByteArray& description) const
     {
-        QStringList arguments = {QStringLiteral("-p"), name, QStringLiteral("-v"),
-                                 QStringLiteral("file:/dev/null"), QStringLiteral("-E")};
         m_folder.write("queue.ppd", description);
-        arguments += description.isEmpty() ? QStringList{QStringLiteral("-m"), QStringLiteral("raw")}
-                                           : QStringList{QStringLiteral("-P"), m_folder.path("queue.ppd")};
-        outputOf(QStringLiteral("lpadmin"), arguments);
+        outputOf(QStringLiteral("lpadmin"),
+                 {QStringLiteral("-p"), name, QStringLiteral("-v"), QStringLiteral("file:/dev/null"),
+                  QStringLiteral("-E"), QStringLiteral("-P"), m_folder.path("queue.ppd")});
         outputOf(QStringLiteral("lpadmin"), {QStringLiteral("-d"), name});
     }
     void removeQueue(const QString& name) const

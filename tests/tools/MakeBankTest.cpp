@@ -28,14 +28,5 @@ TEST(MakeBank, makesTheSameRegistersAndKeepsThemUnlessAskedForFreshOnes)
     EXPECT_EQ(bench.read("bank/notes.txt"), "mine");
 }
 
-TEST(MakeBank, refusesOptionsThatItDoesNotHave)
-{
-    const ToolBench bench;
-    for (const auto* words : {"", "a b", "new --registers 0", "new --registers 33", "new --model 4",
-                              "new --plus x", "new --colour red"})
-        EXPECT_EQ(bench.run(MAKEBANK, words).exitCode, 1) << words;
-    EXPECT_FALSE(bench.has("work/new"));
-}
-
 } // namespace
 } // namespace bank::test
