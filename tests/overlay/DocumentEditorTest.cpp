@@ -57,7 +57,7 @@ TEST_F(DocumentEditorTest, ADoubleClickColoursAWhiteKeyOrOneCell)
 
 TEST_F(DocumentEditorTest, ADoubleClickTakesTheFontOfItsFirstClickBack)
 {
-    m_editor.style().font = CellFont{u"Courier"_s, 10, false, true};
+    m_editor.style().font = CellFont{QStringLiteral("Courier"), 10, false, true};
     m_editor.click(3);
     m_editor.doubleClick(3);
     EXPECT_EQ(m_editor.document().cell(3).font, CellFont());

@@ -46,22 +46,20 @@ const struct {
 } badColumns[] = {
     {67, ",,1x", "3421 67.txt, line 1, column 3"},
     {67, ",,,,,,,1x", "13 67.txt, line 1, column 8"},
-    {67, ",,,,,,,,,,,,1x", ""},
+    {67, ",,,,,,,,,,,,1x", "13 67.txt, line 1, column 13"},
     {1, "Food\r\nA text of eighteen\r\n", "3163 1.txt, line 2, column 1"},
     {1, "Food,4x", "13 1.txt, line 1, column 2"},
-    {29, "17500,40,1x", "3421 29.txt, line 1, column 3"},
     {63, "Ann,,,,,,,,,,,,,,,,,,,,,,1x", "13 63.txt, line 1, column 23"},
     {23, "40,A message that is far longer than any register has room for", "3163 23.txt, line 1, column 2"},
-    {16, "12\r\n1x", "3421 16.txt, line 2, column 1"},
-    {57, "Drinks,,,,,,40,1x", "13 57.txt, line 1, column 8"},
+    {57, "Drinks,,,,,,40,1x", "3421 57.txt, line 1, column 8"},
 };
 
 TEST(BadInputTest, NamesTheColumnThatItRefuses)
 {
     Shop shop;
-    for (const auto& [file, text, told] : badColumns) {
-        const auto failure = norvane::test::failureTextOf([&, &text = text] { shop.import(file, text); });
-        EXPECT_EQ(failure.section(u':', 0, 0), QLatin1String(told)) << text;
+    for (const auto& row : badColumns) {
+        const auto failure = norvane::test::failureTextOf([&] { shop.import(row.file, row.text); });
+        EXPECT_EQ(failure.section(u':', 0, 0).toStdString(), row.told);
     }
 }
 
