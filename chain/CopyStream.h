@@ -8,17 +8,17 @@
 namespace norvane::chain
 {
 
-/// A row that is spelled as COPY reads it already. The library's stream spells each value of a tuple, whose
-/// length must be known to the compiler, and joins them value by value; years of sales would take twice as
-/// long so.
-struct CopyLine {
+/// Rows that are spelled as COPY reads them already, with line ends between. The library's stream spells each
+/// value of a tuple, whose length must be known to the compiler, and sends every row as a message of its own;
+/// years of sales would take twice as long so.
+struct CopyLines {
     const std::string& text;
 };
-/// What the stream calls to spell a row.
-inline std::string separated_list(const char* /*separator*/, const CopyLine& line,
+/// What the stream calls to spell what it sends.
+inline std::string separated_list(const char* /*separator*/, const CopyLines& lines,
                                   const pqxx::internal::TypedCopyEscaper& /*escaper*/)
 {
-    return line.text;
+    return lines.text;
 }
 
 /// One COPY. Nothing else can be done in the transaction until complete().
@@ -35,16 +35,32 @@ public:
     /// @p rest is what readDay() and readNames() hand on.
     void add(const std::string& rest)
     {
-        m_line.assign(m_leading).append(rest);
-        m_stream << CopyLine{m_line};
+        if (!m_lines.empty())
+            m_lines += '\n';
+        m_lines.append(m_leading).append(rest);
+        if (m_lines.size() > bytesAtOnce)
+            send();
     }
     /// Reports what the server says of the rows.
-    void complete() { m_stream.complete(); }
+    void complete()
+    {
+        send();
+        m_stream.complete();
+    }
 
 private:
+    static constexpr std::size_t bytesAtOnce = 32 * 1024;
+
+    void send()
+    {
+        if (!m_lines.empty())
+            m_stream << CopyLines{m_lines};
+        m_lines.clear();
+    }
+
     pqxx::stream_to m_stream;
     std::string m_leading;
-    std::string m_line;
+    std::string m_lines; ///< not sent yet
 };
 
 } // namespace norvane::chain

@@ -93,15 +93,20 @@ void PostgresServer::stop()
     endServer(SIGINT);
 }
 
-/// The server's own process is not the one that was started when that changed the user first.
 void PostgresServer::endServer(int signal)
 {
     if (m_server.state() == QProcess::NotRunning)
         return;
-    QFile file(folder() + u"/data/postmaster.pid"_s);
-    if (file.open(QIODevice::ReadOnly))
-        kill(file.readLine().trimmed().toInt(), signal);
+    if (const int process = processId(); process > 0)
+        kill(process, signal);
     EXPECT_TRUE(m_server.waitForFinished(patience));
+}
+
+/// It is not the process that was started when that changed the user first.
+int PostgresServer::processId() const
+{
+    QFile file(folder() + u"/data/postmaster.pid"_s);
+    return file.open(QIODevice::ReadOnly) ? file.readLine().trimmed().toInt() : 0;
 }
 
 QString PostgresServer::connection(const QString& database, const QString& user) const

@@ -28,6 +28,8 @@ public:
     /// Ends it in good order.
     void stop();
 
+    /// Of the server's own process; 0 when there is none.
+    [[nodiscard]] int processId() const;
     /// For whoever connects to @p database.
     [[nodiscard]] QString connection(const QString& database,
                                      const QString& user = QStringLiteral("postgres")) const;
