@@ -1,5 +1,7 @@
 // The procedures around the records: a whole text file replaces a table, and the table is written to a file.
-// Input: number of the file, kind of register, then the text.
+// Input: number of the file, 52 for the memory allocation; kind of register, bit 7 for an older memory file;
+// then the text.
+#include "exchange/MemoryFile.h"
 #include "fuzz/CustomerFile.h"
 #include "fuzz/FileChoice.h"
 #include "fuzz/Target.h"
@@ -14,6 +16,39 @@ namespace norvane::fuzz
 namespace
 {
 
+constexpr unsigned char memoryFile = 52;
+
+/// What the text of a register can be refused for.
+template <typename Import>
+bool imports(Import import)
+{
+    return succeeds({Failure::TypeMismatch, Failure::Overflow, Failure::TextTooLong, Failure::Conversion,
+                     Failure::DuplicateKey},
+                    import);
+}
+
+/// The converter left the text that is there.
+bool converted(const records::Conversion& /*conversion*/)
+{
+    return true;
+}
+
+void setRegister(unsigned kind)
+{
+    constexpr unsigned olderBit = 0x80;
+    constexpr std::size_t olderLength = 77;
+    setModel(static_cast<int>(kind % 4));
+    scratchFile(u"mem.dat"_s, std::string((kind & olderBit) != 0 ? olderLength : olderLength + 1, 'm'));
+}
+
+void tryMemory(std::string_view text)
+{
+    SilentBoxes boxes;
+    const ApplicationValues& values = customerWith(u"memoryallocation"_s);
+    scratchFile(u"52.txt"_s, text);
+    imports([&] { exchange::FileMemory({values, boxes, converted}); });
+}
+
 /// The text file of one register file, and the two procedures that read and write it.
 class Procedures
 {
@@ -27,9 +62,7 @@ public:
 
     bool import()
     {
-        return succeeds({Failure::TypeMismatch, Failure::Overflow, Failure::TextTooLong, Failure::Conversion,
-                         Failure::DuplicateKey},
-                        [&] { records::importRegisterFile(m_file.number, m_context); });
+        return imports([&] { records::importRegisterFile(m_file.number, m_context); });
     }
 
     /// @return what goes to the registers; nothing for an empty table or a number that no register takes.
@@ -45,23 +78,16 @@ public:
     [[nodiscard]] const QString& text() const { return m_text; }
 
 private:
-    static bool converted(const records::Conversion& /*conversion*/) { return true; }
-
     const records::RegisterFile& m_file;
     QString m_text;
     SilentBoxes m_boxes;
     records::ProcedureContext m_context;
 };
 
-} // namespace
-
-void tryInput(std::string_view input)
+void tryFile(const records::RegisterFile& file, std::string_view text)
 {
-    const auto& file = chosenFile(takeByte(input));
-    setModel(takeByte(input) % 4);
-    scratchFile(u"mem.dat"_s, "m");
     Procedures procedures(file);
-    scratchFile(procedures.text(), input);
+    scratchFile(procedures.text(), text);
     if (!procedures.import() || !records::hasExporter(file.number))
         return;
     const QByteArray sent = procedures.exported();
@@ -69,6 +95,19 @@ void tryInput(std::string_view input)
         return;
     require(procedures.import(), "a file that was sent can be fetched");
     require(procedures.exported().size() == sent.size(), "a file that was fetched is sent in the same form");
+}
+
+} // namespace
+
+void tryInput(std::string_view input)
+{
+    const auto number = takeByte(input);
+    setRegister(takeByte(input));
+    if (number == memoryFile) {
+        tryMemory(input);
+    } else {
+        tryFile(chosenFile(number), input);
+    }
 }
 
 } // namespace norvane::fuzz

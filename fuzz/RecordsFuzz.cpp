@@ -27,7 +27,7 @@ constexpr int highestRecord = 270;
 
 struct Choice {
     const RegisterFile& file;
-    records::RegisterTraits traits;
+    unsigned kind;
     int record; ///< number of the first, from 1
 };
 
@@ -35,15 +35,8 @@ Choice takeChoice(std::string_view& input)
 {
     const auto& file = chosenFile(takeByte(input));
     const auto kind = takeByte(input);
-    const auto record = takeByte(input);
-    // Most records of the function keys are alike: from 200 on come those that are not.
-    const int first = 1 + record;
-    return {file,
-            {[kind] { return kind % 2 == 1 ? std::size_t{32} : std::size_t{40}; },
-             [kind] {
-                 return kind / 2 % 2 == 1 ? 3 : 2;
-             }},
-            std::min(first, highestRecord)};
+    const int record = takeByte(input);
+    return {file, kind, std::min(1 + record + record / 16, highestRecord)};
 }
 
 /// The columns in which each field is sent, and those from which it is read, by their places.
@@ -87,6 +80,11 @@ private:
             for (const auto& part : parts)
                 m_read[part.readField].push_back(nowhere);
         }
+    }
+    void add(const records::TextColumn& column)
+    {
+        m_sent[column.field].push_back(m_place);
+        m_read[column.field].push_back(column.withheldTexts.empty() ? m_place : nowhere);
     }
     void add(const records::SpareColumn& /*column*/) {}
     template <typename Column>
@@ -144,10 +142,12 @@ public:
     {
         std::string line;
         const bool isWritten = succeeds({Failure::Overflow}, [&] {
-            records::RecordWriter writer(m_file.layout(), m_records, choice.traits);
+            m_kind = choice.kind;
+            if (!m_writer || isNumbered())
+                m_writer.emplace(m_file.layout(), m_records, traits());
             for (int i = isNumbered() ? 1 : number; i <= number; ++i) {
                 line.clear();
-                writer.appendLine(line);
+                m_writer->appendLine(line);
             }
         });
         if (!isWritten)
@@ -168,10 +168,20 @@ public:
     }
 
 private:
+    records::RegisterTraits traits()
+    {
+        return {[this] { return m_kind % 2 == 1 ? std::size_t{32} : std::size_t{40}; },
+                [this] {
+                    return m_kind / 2 % 2 == 1 ? 3 : 2;
+                }};
+    }
+
     const RegisterFile& m_file;
     store::Recordset m_records;
     records::RecordReader m_reader;
     std::vector<bool> m_comesBack;
+    unsigned m_kind = 0; ///< of the register that a line is for
+    std::optional<records::RecordWriter> m_writer;
 };
 
 Table& tableOf(const RegisterFile& file)

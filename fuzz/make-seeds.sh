@@ -12,7 +12,7 @@ trap 'rm -rf "$work"' EXIT
 export ASAN_OPTIONS=detect_leaks=0
 
 rm -rf "$seeds"
-mkdir -p "$seeds"/{records,procedures,memory,poll,status,profile,screens,layouts,formulas,overlay,plufile}
+mkdir -p "$seeds"/{records,procedures,poll,status,profile,screens,layouts,formulas,overlay,plufile}
 
 byte() { printf "\\x$(printf %02x "$1")"; }
 
@@ -34,7 +34,7 @@ for kind in 0 1 2 3; do
   done
   for operation in u52 u352; do
     if "$tools/convert" "w$word" f52.dat t52.txt "$operation" 2>/dev/null; then
-      { byte "$kind"; cat 52.txt; } > "$seeds/memory/$operation-$kind"
+      { byte 52; byte "$kind"; cat 52.txt; } > "$seeds/procedures/$operation-$kind"
     fi
   done
   "$tools/VELMARCOMM" 9600 F1 1T P0001010100010000000000000000000000000000000000000000000100 -Z >/dev/null 2>&1 || true
