@@ -39,11 +39,15 @@ private:
     static constexpr double unitsPerInch = 914'400;
     static constexpr double millimetresPerInch = 25.4;
     static constexpr double twipsPerInch = 1'440;
+    /// A kilometre. Files tell any number; what lies beyond all paper and screens need not differ any more.
+    static constexpr double mostUnits = 1e6 / millimetresPerInch * unitsPerInch;
 
     explicit constexpr Length(std::int64_t units) : m_units(units) {}
     static constexpr Length made(double count, double countsPerInch)
     {
         const double units = count * unitsPerInch / countsPerInch;
+        if (!(units > -mostUnits && units < mostUnits))
+            return Length(static_cast<std::int64_t>(units < mostUnits ? -mostUnits : mostUnits));
         return Length(static_cast<std::int64_t>(units < 0 ? units - 0.5 : units + 0.5));
     }
     [[nodiscard]] constexpr double in(double unitsPerCount) const

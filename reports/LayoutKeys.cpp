@@ -118,8 +118,10 @@ bool takeWidth(const QString& value, LayoutTarget& target)
     constexpr double widest = 280;
     bool isNumber = false;
     const double width = value.toDouble(&isNumber);
+    if (!isNumber || !(width >= narrowest && width <= widest))
+        return false;
     target.column->column.width = paper::millimetres(width);
-    return isNumber && width >= narrowest && width <= widest;
+    return true;
 }
 
 bool takeSort(const QString& value, LayoutTarget& target)
