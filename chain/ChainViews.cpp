@@ -55,6 +55,7 @@ constexpr auto views = std::to_array<View>({
 std::vector<std::string> viewStatements()
 {
     std::vector<std::string> all;
+    all.reserve(views.size());
     for (const auto& [name, select] : views)
         all.push_back(std::string("CREATE VIEW ") + name + " AS " + select);
     return all;

@@ -43,7 +43,7 @@ QString valueOf(const Options& options, std::initializer_list<QLatin1StringView>
     const Options defaults(PQconndefaults(), &PQconninfoFree);
     for (const Options* const each : {&options, &defaults}) {
         for (const QLatin1StringView keyword : keywords) {
-            if (const QString value = optionOf(*each, keyword); !value.isEmpty())
+            if (QString value = optionOf(*each, keyword); !value.isEmpty())
                 return value;
         }
     }
