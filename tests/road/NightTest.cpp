@@ -69,7 +69,7 @@ public:
     /// The lines of the only report, without the moment of printing.
     [[nodiscard]] QStringList report() const
     {
-        const QStringList files = QDir(reports()).entryList(QDir::Files);
+        QStringList files = QDir(reports()).entryList(QDir::Files);
         if (files != QStringList{m_customer.customerName + u' ' + QDate::currentDate().toString(Qt::ISODate) +
                                  u".pdf"_s})
             return files;
@@ -91,9 +91,10 @@ QString chainSales(const test::PostgresServer& server)
 {
     QString rows;
     for (const char* const sql : {"plu_sales WHERE count1 + count2 + count3 <> 0", "financial_sales",
-                                  "employee_sales", "time_sales", "mix_sales"})
+                                  "employee_sales", "time_sales", "mix_sales"}) {
         rows += server.query(u"chain"_s,
                              u"SELECT * FROM norvane.%1 ORDER BY 1, 2, 3, 4"_s.arg(QLatin1StringView(sql)));
+    }
     return rows +
            server.query(u"chain"_s,
                         u"SELECT shop_name, round(net_sales, 2) FROM norvane.takings_by_shop ORDER BY 1"_s);
