@@ -6,6 +6,7 @@
 #include "keys/OptionColumns.h"
 #include "ui/Appearance.h"
 #include "ui/DecimalBox.h"
+#include "ui/FittingArea.h"
 #include "ui/FormKit.h"
 #include "ui/IntegerBox.h"
 #include "ui/TextBox.h"
@@ -79,7 +80,7 @@ void FrmFunctKey::makeControls()
     description = new ui::TextBox(this);
     ui::nameControl(*description, u"description"_s);
     description->setLimit(m_keys.descriptionLength());
-    description->setFixedWidth(descriptionWidth);
+    description->setFixedWidth(ui::scaled(descriptionWidth));
     labels = makeLabel(u"labels"_s, u"Description"_s, description);
     keepRoomWhenHidden(*description);
     keepRoomWhenHidden(*labels);
@@ -97,7 +98,7 @@ FrmFunctKey::NumberRow FrmFunctKey::makeNumber(NumberControl control, const QStr
                                                ui::NumberBox* box, const QString& name)
 {
     ui::nameControl(*box, name);
-    box->setFixedWidth(numberWidth);
+    box->setFixedWidth(ui::scaled(numberWidth));
     connect(box, &ui::NumberBox::maximumExceeded, this, [this, box] { ui::rejectNumber(*box, m_boxes); });
     const NumberRow row{control, makeLabel(label, {}, box), box};
     row.label->setFixedWidth(widestNumberCaption(*row.label));
@@ -134,8 +135,13 @@ void FrmFunctKey::layOut()
     for (QPushButton* const button : {SaveRecord, ExitForm})
         button->setAutoDefault(false);
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
-    column->addLayout(makeGrid());
-    column->addWidget(m_options);
+    auto* const contents = new QWidget;
+    auto* const rows = new QVBoxLayout(contents);
+    rows->setContentsMargins({});
+    rows->setSpacing(ui::spacing::groupGap);
+    rows->addLayout(makeGrid());
+    rows->addWidget(m_options);
+    column->addWidget(new ui::FittingArea(contents));
     column->addLayout(ui::makeButtonRow({SaveRecord, ExitForm}));
 }
 

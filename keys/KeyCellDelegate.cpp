@@ -127,10 +127,10 @@ void paintNumbered(QPainter& painter, const QRect& place, const QString& text)
     const QString number = text.section(u' ', 0, 0);
     const QString description = text.section(u' ', 1);
     const QFont usual = painter.font();
-    painter.setFont(fittingFont(usual, numberFontPixels, number, place.width()));
+    painter.setFont(fittingFont(usual, ui::scaled(numberFontPixels), number, place.width()));
     painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, number);
     const QRect besideMark = place.adjusted(0, 0, -markSize - 1, 0);
-    painter.setFont(fittingFont(usual, ui::fontPixels, description, besideMark.width()));
+    painter.setFont(fittingFont(usual, ui::fontPixels(), description, besideMark.width()));
     painter.drawText(besideMark, Qt::AlignLeft | Qt::AlignBottom, description);
 }
 
@@ -195,7 +195,7 @@ KeyLegend::KeyLegend(QWidget* parent) : QWidget(parent)
     for (const Look& look : explainedLooks)
         words += look.words;
     setAccessibleName(u"Keys are marked as: "_s + words.join(u", "_s));
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
 }
 
 QSize KeyLegend::sizeHint() const

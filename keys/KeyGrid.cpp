@@ -3,6 +3,7 @@
 
 #include "keys/KeyCellDelegate.h"
 #include "paper/Length.h"
+#include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
 #include <QDrag>
@@ -22,7 +23,7 @@ namespace
 
 int pixels(double twips)
 {
-    return static_cast<int>(paper::twips(twips).inDots(paper::screenDotsPerInch));
+    return static_cast<int>(ui::scaled(paper::twips(twips).inDots(paper::screenDotsPerInch)));
 }
 
 void fixSections(QHeaderView& header, double twips)

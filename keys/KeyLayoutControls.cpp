@@ -29,6 +29,7 @@ constexpr auto inForm = Qt::WindowShortcut;
 
 constexpr int levelButtonWidth = 64;
 constexpr int findWidth = 180;
+constexpr int narrowestFind = 80;
 /// What a window's frame and a desktop's bars take of the screen.
 constexpr QSize frameRoom(16, 60);
 
@@ -94,7 +95,7 @@ QPushButton* KeyLayout::makeLevelButton(int level)
     // CSCmdBtn3 is level 1.
     QPushButton* const button =
         makeFormButton(u"CSCmdBtn%1"_s.arg(level + 2), u"Level %1"_s.arg(level), this);
-    button->setMinimumWidth(levelButtonWidth);
+    button->setMinimumWidth(ui::scaled(levelButtonWidth));
     button->setCheckable(true);
     connect(button, &QPushButton::clicked, this, [this, level] { changeLevel(level); });
     m_levels.push_back(button);
@@ -105,7 +106,8 @@ void KeyLayout::makeFind(QHBoxLayout& row)
 {
     m_find = new QLineEdit(this);
     ui::nameControl(*m_find, u"KeyFind"_s);
-    m_find->setFixedWidth(findWidth);
+    m_find->setMinimumWidth(ui::scaled(narrowestFind));
+    m_find->setMaximumWidth(ui::scaled(findWidth));
     m_find->setClearButtonEnabled(true);
     m_find->setToolTip(u"Marks the keys of this level with this text (Ctrl+F); Enter goes to the next"_s);
     auto* const label = new QLabel(u"&Find keys:"_s, this);
@@ -113,7 +115,7 @@ void KeyLayout::makeFind(QHBoxLayout& row)
     m_findOutcome = new QLabel(this);
     ui::nameControl(*m_findOutcome, u"KeyFindOutcome"_s);
     row.addWidget(label);
-    row.addWidget(m_find);
+    row.addWidget(m_find, 2);
     row.addWidget(m_findOutcome, 1);
 }
 
@@ -127,6 +129,8 @@ QLayout* KeyLayout::makeFindRow()
     connect(store, &QPushButton::clicked, this, &KeyLayout::askAndSave);
     // Without any question: what is not saved is lost.
     connect(leave, &QPushButton::clicked, this, [this] { done(Rejected); });
+    for (QPushButton* const button : {store, leave})
+        button->setMinimumWidth(ui::buttonWidth); // in large type the legend needs the room
     row->addWidget(new KeyLegend(this));
     row->addSpacing(ui::spacing::groupGap);
     row->addWidget(store);

@@ -36,7 +36,7 @@ KeyListPanel::KeyListPanel(const std::shared_ptr<store::Database>& database, QWi
     : QWidget(parent), m_filter(new ui::FilterBox(u"ListFilter"_s, this)), m_count(new QLabel(this))
 {
     ui::nameControl(*m_count, u"ListCount"_s);
-    setFixedWidth(panelPixels);
+    setFixedWidth(ui::scaled(panelPixels));
     for (const ItemList::Names& names : rows) {
         list(names.kind) = makeItemList(names, database, this);
         connectList(names.kind);

@@ -85,7 +85,7 @@ void LookUpFields::addText(const TextRow& row, QGridLayout& grid, int line)
     auto* const box = new ui::TextBox(this);
     ui::nameControl(*box, QLatin1String(row.name));
     box->setLimit(row.characters);
-    box->setFixedWidth(row.isNumber ? numberWidth : descriptionWidth);
+    box->setFixedWidth(ui::scaled(row.isNumber ? numberWidth : descriptionWidth));
     if (row.isNumber) {
         box->setCharacters(ui::TextBox::Characters::Digits);
         box->setAlignment(Qt::AlignRight);

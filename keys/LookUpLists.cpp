@@ -28,7 +28,7 @@ LookUpLists::LookUpLists(const std::shared_ptr<store::Database>& database, QWidg
     : QWidget(parent), m_options(new QButtonGroup(this)), m_filter(new ui::FilterBox(u"ListFilter"_s, this)),
       m_hint(new QLabel(u"What is ticked under Allow is listed here."_s, this))
 {
-    setMinimumWidth(listWidth);
+    setMinimumWidth(ui::scaled(listWidth));
     ui::nameControl(*m_hint, u"ListHint"_s);
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setEnabled(false);

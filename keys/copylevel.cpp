@@ -20,8 +20,8 @@ namespace norvane::keys
 namespace
 {
 
-/// Widths of the list's columns in pixels: the number is the value, the user sees the name.
-const QVector<int> columnWidths{0, 206};
+/// Of the list's second column in pixels; the first, the number, is the value and not shown.
+constexpr int nameWidth = 206;
 
 QVector<QStringList> levelRows()
 {
@@ -60,7 +60,7 @@ ui::ValueList* copylevel::addList(const QString& name, const QString& caption, Q
     auto* const list = new ui::ValueList(this);
     ui::nameControl(*list, name);
     list->setRows(levelRows());
-    list->setColumnWidths(columnWidths);
+    list->setColumnWidths({0, ui::scaled(nameWidth)});
     list->setValue({});
     auto* const label = new QLabel(caption, this);
     label->setBuddy(list);

@@ -11,6 +11,7 @@
 #include "platform/Boxes.h"
 #include "platform/Numbers.h"
 #include "ui/Appearance.h"
+#include "ui/FittingArea.h"
 #include "ui/FormKit.h"
 #include "ui/StatusLine.h"
 
@@ -62,12 +63,12 @@ QTableView* makeGrid(LookUpGridModel* model, QWidget* form)
 
 int columnPixels(int column)
 {
-    return paper::screenPixels(paper::twips(columnWidthsTwips[column]));
+    return ui::scaled(paper::screenPixels(paper::twips(columnWidthsTwips[column])));
 }
 
 void sizeGrid(QTableView& grid)
 {
-    const int rowHeight = paper::screenPixels(paper::twips(rowHeightTwips));
+    const int rowHeight = ui::scaled(paper::screenPixels(paper::twips(rowHeightTwips)));
     grid.horizontalHeader()->hide();
     grid.horizontalHeader()->setMinimumSectionSize(1);
     grid.horizontalHeader()->setStretchLastSection(true);
@@ -106,7 +107,9 @@ void frmwlu::layOut()
     left->setSpacing(ui::spacing::groupGap);
     left->addWidget(m_fields);
     left->addWidget(Grid1, 1);
-    auto* const upper = new QHBoxLayout;
+    auto* const contents = new QWidget;
+    auto* const upper = new QHBoxLayout(contents);
+    upper->setContentsMargins({});
     upper->setSpacing(ui::spacing::groupGap);
     upper->addLayout(left);
     upper->addWidget(m_lists, 1);
@@ -114,7 +117,7 @@ void frmwlu::layOut()
     constexpr int margin = ui::spacing::formMargin;
     column->setContentsMargins(margin, margin, margin, 0);
     column->setSpacing(ui::spacing::groupGap);
-    column->addLayout(upper, 1);
+    column->addWidget(new ui::FittingArea(contents), 1);
     column->addLayout(makeButtons());
     column->addWidget(m_status);
 }

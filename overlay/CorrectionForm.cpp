@@ -115,7 +115,7 @@ QDoubleSpinBox* CorrectionForm::addBox(QGridLayout& grid, const QString& name, c
     auto* const label = new QLabel(caption, this);
     auto* const box = new QDoubleSpinBox(this);
     ui::nameControl(*box, name);
-    box->setFixedWidth(boxWidth);
+    box->setFixedWidth(ui::scaled(boxWidth));
     label->setBuddy(box);
     const int row = grid.rowCount();
     grid.addWidget(label, row, 0, Qt::AlignRight);

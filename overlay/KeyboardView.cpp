@@ -86,7 +86,7 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
-        painter.fillRect(rect(), ui::colours::desktop);
+        painter.fillRect(rect(), ui::colours::desktop());
         painter.setPen(QPen(ui::colours::greyedText, keyFrame));
         painter.setBrush(Qt::white);
         for (const KeyPlace& key : m_layout.keys())
@@ -110,7 +110,7 @@ KeyboardView::KeyboardView(DocumentEditor& editor, QWidget* parent)
     setAlignment(Qt::AlignCenter);
     setFrameShape(QFrame::NoFrame);
     QPalette colours = palette();
-    colours.setColor(QPalette::Window, ui::colours::desktop);
+    colours.setColor(QPalette::Window, ui::colours::desktop());
     setPalette(colours);
     for (const int cell : m_order)
         makeCell(cell);

@@ -65,7 +65,7 @@ OverlayForm::OverlayForm(Keyboard keyboard, const ApplicationValues& values, Box
     column->setContentsMargins({});
     column->setSpacing(0);
     column->setMenuBar(bar);
-    column->addWidget(makeTools());
+    column->addLayout(makeTools());
     column->addWidget(m_keyboard, 1);
     column->addWidget(StatusBar1);
     connect(m_keyboard, &KeyboardView::currentCellChanged, this, &OverlayForm::showCurrentCell);

@@ -8,6 +8,7 @@
 #include <QDialog>
 
 class QLabel;
+class QLayout;
 class QMenu;
 class QMenuBar;
 class QStatusBar;
@@ -42,7 +43,9 @@ private:
     void buildMenus(QMenuBar& bar);
     void addEntry(QWidget& menu, const Entry& entry);
     void addImportMenu(QMenuBar& bar);
-    [[nodiscard]] QToolBar* makeTools();
+    [[nodiscard]] QLayout* makeTools();
+    [[nodiscard]] QToolBar* makeActionTools();
+    [[nodiscard]] QToolBar* makeViewTools();
     void addZoom(QToolBar& bar);
     void addSample(QToolBar& bar);
     void followHistory();

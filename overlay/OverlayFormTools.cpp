@@ -2,12 +2,15 @@
 #include "overlay/ColourStrip.h"
 #include "overlay/KeyboardView.h"
 #include "overlay/OverlayForm.h"
+#include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QToolBar>
 
 #include <array>
@@ -85,7 +88,21 @@ void OverlayForm::addImportMenu(QMenuBar& bar)
     }
 }
 
-QToolBar* OverlayForm::makeTools()
+/// In one row, or in two where large type makes them too wide for the screen.
+QLayout* OverlayForm::makeTools()
+{
+    QToolBar* const actions = makeActionTools();
+    QToolBar* const view = makeViewTools();
+    const int width = actions->sizeHint().width() + view->sizeHint().width();
+    const bool fits = width < screen()->availableSize().width() * 0.94;
+    auto* const tools = new QBoxLayout(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    tools->setSpacing(0);
+    tools->addWidget(actions);
+    tools->addWidget(view, 1);
+    return tools;
+}
+
+QToolBar* OverlayForm::makeActionTools()
 {
     static constexpr std::array<Entry, 4> edits = {{
         {"Undo", "Undo", &OverlayForm::undo, "Ctrl+Z", "Takes the last step back (Ctrl+Z)"},
@@ -112,6 +129,13 @@ QToolBar* OverlayForm::makeTools()
     bar->addSeparator();
     for (const Entry& entry : sheet)
         addEntry(*bar, entry);
+    return bar;
+}
+
+QToolBar* OverlayForm::makeViewTools()
+{
+    auto* const bar = new QToolBar(this);
+    ui::nameControl(*bar, u"ViewTools"_s);
     bar->addSeparator();
     addZoom(*bar);
     bar->addSeparator();
@@ -136,7 +160,7 @@ void OverlayForm::addSample(QToolBar& bar)
     ui::nameControl(*Label1, u"Label1"_s);
     Label1->setToolTip(u"What a double click (colours) and a click (font) give to a cell"_s);
     Label1->setAlignment(Qt::AlignCenter);
-    Label1->setFixedSize(sampleSize);
+    Label1->setFixedSize(ui::scaled(sampleSize));
     Label1->setFrameStyle(QFrame::Box);
     Label1->setAutoFillBackground(true);
     // A tool bar gives its own roles to what lies in it.

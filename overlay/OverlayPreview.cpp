@@ -100,6 +100,7 @@ QWidget* OverlayPreview::makeNotice()
     frame->setAutoFillBackground(true);
     QPalette palette = frame->palette();
     palette.setColor(QPalette::Window, ui::colours::warningPale);
+    palette.setColor(QPalette::WindowText, ui::colours::text);
     frame->setPalette(palette);
     m_notice = new QLabel(frame);
     m_notice->setWordWrap(true);

@@ -29,7 +29,7 @@ PrinterSetup::PrinterSetup(const PrinterChoice& initial, QWidget* parent)
     setObjectName(u"PrinterSetup"_s);
     setWindowTitle(u"Printer Setup"_s);
     ui::nameControl(*PrinterList, u"PrinterList"_s);
-    PrinterList->setMinimumWidth(listWidth);
+    PrinterList->setMinimumWidth(ui::scaled(listWidth));
     fillPrinters(initial.name);
     auto* const label = new QLabel(u"Prin&ter:"_s, this);
     label->setBuddy(PrinterList);

@@ -1,9 +1,9 @@
 // See Ruler.h.
 #include "overlay/Ruler.h"
 
-#include "ui/Appearance.h"
-
+#include <QGuiApplication>
 #include <QPainter>
+#include <QPalette>
 
 #include <cmath>
 
@@ -47,8 +47,9 @@ void forEachPlace(int length, double origin, double pixels, int step, Visit visi
 /// The lines of one ruler, drawn as if it lay on the upper edge.
 void paintTicks(QPainter& painter, int length, double origin, double pixels)
 {
-    painter.fillRect(0, 0, length, rulerWidth, ui::colours::window);
-    painter.setPen(ui::colours::greyedText);
+    const QPalette palette = QGuiApplication::palette();
+    painter.fillRect(0, 0, length, rulerWidth, palette.window());
+    painter.setPen(palette.color(QPalette::PlaceholderText));
     painter.drawLine(0, rulerWidth - 1, length, rulerWidth - 1);
     const Steps steps = stepsFor(pixels);
     forEachPlace(length, origin, pixels, steps.tick, [&](int place, int at) {
@@ -70,13 +71,14 @@ void paintRulers(QPainter& painter, QSize size, QPointF origin, double pixels)
     paintTicks(painter, size.height(), origin.y(), pixels);
     painter.restore();
     paintTicks(painter, size.width(), origin.x(), pixels);
-    painter.setPen(ui::colours::text);
+    const QPalette palette = QGuiApplication::palette();
+    painter.setPen(palette.color(QPalette::WindowText));
     forEachPlace(size.width(), origin.x(), pixels, label,
                  [&](int place, int at) { painter.drawText(at + 2, 10, QString::number(place)); });
     forEachPlace(size.height(), origin.y(), pixels, label,
                  [&](int place, int at) { painter.drawText(2, at + 10, QString::number(place)); });
-    painter.fillRect(0, 0, rulerWidth, rulerWidth, ui::colours::window);
-    painter.setPen(ui::colours::greyedText);
+    painter.fillRect(0, 0, rulerWidth, rulerWidth, palette.window());
+    painter.setPen(palette.color(QPalette::PlaceholderText));
     painter.drawText(QRect(0, 0, rulerWidth, rulerWidth), Qt::AlignCenter, QStringLiteral("mm"));
     painter.restore();
 }

@@ -133,7 +133,7 @@ void SheetView::zoomBy(double factor, QPointF fixed)
 void SheetView::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), ui::colours::desktop);
+    painter.fillRect(viewport()->rect(), ui::colours::desktop());
     painter.save();
     painter.translate(sheetCorner());
     painter.scale(m_scale, m_scale);

@@ -27,7 +27,7 @@ FindBar::FindBar(QWidget* parent) : QWidget(parent), m_text(new QLineEdit(this))
     row->setSpacing(ui::spacing::controlGap);
     for (QWidget* const control : std::initializer_list<QWidget*>{label, m_text, next, previous, m_note})
         row->addWidget(control, control == m_note ? 1 : 0);
-    m_text->setMinimumWidth(220);
+    m_text->setMinimumWidth(ui::scaled(220));
     connect(m_text, &QLineEdit::textEdited, this, [this] { Q_EMIT findWanted(0); });
     connect(m_text, &QLineEdit::returnPressed, this, [this] { Q_EMIT findWanted(1); });
     connect(next, &QPushButton::clicked, this, [this] { Q_EMIT findWanted(1); });

@@ -118,7 +118,7 @@ void PageView::scrollContentsBy(int /*dx*/, int /*dy*/)
 void PageView::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), ui::colours::desktop);
+    painter.fillRect(viewport()->rect(), ui::colours::desktop());
     const auto first = static_cast<int>((verticalScrollBar()->value() - gap) / pagePitch());
     for (int page = qMax(0, first); page < m_document.pages().pageCount(); ++page) {
         if (pageRect(page).top() > viewport()->height())

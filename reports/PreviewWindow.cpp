@@ -158,6 +158,7 @@ QPushButton* PreviewWindow::addButton(QBoxLayout& row, const QString& name, cons
                                       Handler handler)
 {
     QPushButton* const button = ui::makeButton(name, caption, this);
+    button->setMinimumWidth(ui::buttonWidth); // in large type the row would be wider than a small screen
     connect(button, &QPushButton::clicked, this, handler);
     row.addWidget(button);
     return button;
@@ -166,6 +167,7 @@ QPushButton* PreviewWindow::addButton(QBoxLayout& row, const QString& name, cons
 void PreviewWindow::addSaveButton(QBoxLayout& row)
 {
     QPushButton* const button = ui::makeButton(u"SaveButton"_s, u"&Save as"_s, this);
+    button->setMinimumWidth(ui::buttonWidth);
     auto* const menu = new QMenu(button);
     for (const FileKind& kind : FileKind::all()) {
         QAction* const action =
@@ -205,7 +207,7 @@ void PreviewWindow::addPageButtons(QBoxLayout& row)
 {
     const auto turn = [&](const QString& name, const QString& caption, int pages) {
         QPushButton* const button = ui::makeButton(name, caption, this);
-        button->setFixedWidth(32);
+        button->setFixedWidth(ui::scaled(32));
         connect(button, &QPushButton::clicked, this,
                 [this, pages] { m_view->goToPage(m_view->currentPage() + pages); });
         row.addWidget(button);

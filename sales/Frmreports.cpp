@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
+#include <QTextCharFormat>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -49,6 +50,7 @@ void Frmreports::layOut()
     CSCal->setGridVisible(false);
     CSCal->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     connect(CSCal, &QCalendarWidget::selectionChanged, this, &Frmreports::tellDay);
+    colourDays();
     auto* const Generate = ui::makeButton(u"CSCmdBtn1"_s, u"&Generate"_s, this);
     auto* const CmdExit = ui::makeButton(u"CmdExit"_s, u"&Exit"_s, this);
     Generate->setDefault(true);
@@ -64,11 +66,23 @@ void Frmreports::layOut()
     column->addLayout(ui::makeButtonRow({Generate, CmdExit}));
 }
 
+/// The calendar's own red and grey are too pale on some grounds.
+void Frmreports::colourDays()
+{
+    QTextCharFormat weekend;
+    weekend.setForeground(ui::colours::heading());
+    CSCal->setWeekdayTextFormat(Qt::Saturday, weekend);
+    CSCal->setWeekdayTextFormat(Qt::Sunday, weekend);
+    QPalette palette = CSCal->palette();
+    palette.setColor(QPalette::Disabled, QPalette::Text, palette.color(QPalette::PlaceholderText));
+    CSCal->setPalette(palette);
+}
+
 QWidget* Frmreports::makeTargets()
 {
     auto* const frame = new QGroupBox(u"Print to:-"_s, this);
     ui::nameControl(*frame, u"Frame1"_s);
-    frame->setMinimumWidth(contentWidth);
+    frame->setMinimumWidth(ui::scaled(contentWidth));
     auto* const row = new QHBoxLayout(frame);
     row->setSpacing(ui::spacing::groupGap);
     Option1 = makeTarget(u"Option1"_s, u"Screen"_s, *row);

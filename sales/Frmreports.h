@@ -34,6 +34,7 @@ public:
 
 private:
     void layOut();
+    void colourDays();
     [[nodiscard]] QWidget* makeTargets();
     void loadForm();
     void tellDay();

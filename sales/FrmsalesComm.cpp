@@ -2,6 +2,7 @@
 #include "sales/FrmsalesComm.h"
 
 #include "sales/CollectionRun.h"
+#include "ui/Appearance.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -24,7 +25,7 @@ FrmsalesComm::FrmsalesComm(const ApplicationValues& values, Boxes& boxes, QWidge
     setWindowTitle(u"Collect Sales."_s);
     auto* explanation =
         new QLabel(u"Fetches the sales of all registers into the database and clears them there."_s, this);
-    explanation->setMinimumWidth(contentWidth);
+    explanation->setMinimumWidth(ui::scaled(contentWidth));
     auto* content = new QVBoxLayout;
     content->addWidget(explanation);
     layOut(content);

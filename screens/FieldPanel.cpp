@@ -7,6 +7,7 @@
 #include "screens/ControlContents.h"
 #include "screens/GridControl.h"
 #include "screens/LabelPairs.h"
+#include "ui/Appearance.h"
 #include "ui/DecimalBox.h"
 #include "ui/FormKit.h"
 #include "ui/IntegerBox.h"
@@ -33,7 +34,7 @@ constexpr double marginBelow = 10; ///< twips between the lowest "Y" and the end
 
 int pixels(double twips)
 {
-    return paper::screenPixels(paper::twips(twips));
+    return ui::scaled(paper::screenPixels(paper::twips(twips)));
 }
 
 /// How controls of a kind are called and what they are before the file says otherwise.

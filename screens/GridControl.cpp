@@ -3,6 +3,7 @@
 
 #include "paper/Length.h"
 #include "screens/GridModel.h"
+#include "ui/Appearance.h"
 #include "ui/TextBox.h"
 
 #include <QHeaderView>
@@ -13,7 +14,13 @@ namespace norvane::screens
 namespace
 {
 
-constexpr int heightOfRow = 24;
+/// At the usual font, in pixels.
+constexpr int usualRowHeight = 24;
+
+int heightOfRow()
+{
+    return ui::scaled(usualRowHeight);
+}
 
 /// Cells are edited in the boxes that screens use, which take what registers can hold.
 class CellDelegate : public QStyledItemDelegate
@@ -47,7 +54,7 @@ GridControl::GridControl(QWidget* parent) : QTableView(parent)
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked | SelectedClicked);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(heightOfRow);
+    verticalHeader()->setDefaultSectionSize(heightOfRow());
     horizontalHeader()->setHighlightSections(false);
 }
 
@@ -63,7 +70,7 @@ void GridControl::showQuery(const std::shared_ptr<store::Database>& database,
     for (int column = 0; column < definition.gridColumns.size(); ++column) {
         const GridColumn& told = definition.gridColumns[column];
         if (told.width)
-            setColumnWidth(column, paper::screenPixels(paper::twips(*told.width)));
+            setColumnWidth(column, ui::scaled(paper::screenPixels(paper::twips(*told.width))));
         setColumnHidden(column, !told.visible);
     }
 }
@@ -98,8 +105,8 @@ void GridControl::resizeEvent(QResizeEvent* event)
 
 void GridControl::cutToWholeRows()
 {
-    const int cut = viewport()->height() % heightOfRow;
-    if (cut != 0 && viewport()->height() > heightOfRow)
+    const int cut = viewport()->height() % heightOfRow();
+    if (cut != 0 && viewport()->height() > heightOfRow())
         resize(width(), height() - cut);
 }
 

@@ -26,7 +26,7 @@ GridFindBar::GridFindBar(GridControl& grid, QWidget* parent)
 {
     ui::nameControl(*m_part, u"GridFind"_s);
     ui::nameControl(*m_outcome, u"GridFindOutcome"_s);
-    m_part->setFixedWidth(boxWidth);
+    m_part->setFixedWidth(ui::scaled(boxWidth));
     m_part->setClearButtonEnabled(true);
     m_part->setToolTip(u"Part of number or text; Enter goes to the next, the arrow down into the row"_s);
     auto* const label = new QLabel(u"&Find number or text:"_s, this);

@@ -22,7 +22,7 @@ bool inOneRow(const QWidget& left, const QWidget& right)
 }
 
 /// Pixels between a label and its control. Anything further off is another column.
-constexpr int neighbourGap = 14;
+constexpr double neighbourGap = 14;
 
 /// The nearest of @p others that begins right behind @p widget in its row.
 template <typename Widget>
@@ -32,7 +32,7 @@ Widget* nextInRow(const QWidget& widget, const QVector<Widget*>& others)
     int distance = std::numeric_limits<int>::max();
     for (Widget* const other : others) {
         const int gap = other->x() - widget.geometry().center().x();
-        const bool isNear = other->x() - widget.geometry().right() <= neighbourGap;
+        const bool isNear = other->x() - widget.geometry().right() <= ui::scaled(neighbourGap);
         if (other != &widget && gap > 0 && isNear && gap < distance && inOneRow(widget, *other)) {
             nearest = other;
             distance = gap;
@@ -47,7 +47,7 @@ void makeHeading(QLabel& label)
     font.setBold(true);
     label.setFont(font);
     QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, ui::colours::accent);
+    palette.setColor(QPalette::WindowText, ui::colours::heading());
     label.setPalette(palette);
 }
 

@@ -90,8 +90,8 @@ void OptionForm::buildWindow()
 {
     const ScreenWindow window = m_file.window();
     setWindowTitle(window.name.isEmpty() ? designedCaption() : window.name);
-    m_size = QSize(paper::screenPixels(paper::twips(window.width.value_or(designedWidth))),
-                   paper::screenPixels(paper::twips(window.height.value_or(designedHeight))));
+    m_size = ui::scaled(QSize(paper::screenPixels(paper::twips(window.width.value_or(designedWidth))),
+                              paper::screenPixels(paper::twips(window.height.value_or(designedHeight)))));
 }
 
 void OptionForm::buildControls()
@@ -159,7 +159,7 @@ QPushButton* OptionForm::addButton(const ButtonRow& entry, QHBoxLayout& row)
     connect(button, &QPushButton::clicked, this, entry.pressed);
     if (entry.beginsRightGroup)
         row.addStretch();
-    row.addWidget(button);
+    row.addWidget(button, 1);
     return button;
 }
 
@@ -224,12 +224,21 @@ QString OptionForm::textField() const
     return {};
 }
 
+/// They grow to the usual width, or to what a narrow form has for them; the list of records may press them
+/// together to their texts.
 void OptionForm::fitButtons(const QVector<QPushButton*>& shown)
 {
     const int count = static_cast<int>(shown.size());
-    const int room = m_size.width() - 2 * ui::spacing::formMargin - (count - 1) * ui::spacing::controlGap;
-    for (QPushButton* const button : shown)
-        button->setFixedWidth(qBound(narrowestButton, room / count, ui::buttonWidth));
+    const int besides = 2 * ui::spacing::formMargin + (count - 1) * ui::spacing::controlGap;
+    const int width =
+        qBound(ui::scaled(narrowestButton), (m_size.width() - besides) / count, ui::scaled(ui::buttonWidth));
+    for (QPushButton* const button : shown) {
+        const int text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+        button->setMinimumWidth(qMin(width, text + 2 * ui::spacing::controlGap));
+        button->setMaximumWidth(width);
+    }
+    const int handle = m_list ? m_list->handleWidth() : 0;
+    m_size.setWidth(qMax(m_size.width(), count * width + besides + handle));
 }
 
 void OptionForm::ShowFields()

@@ -20,7 +20,13 @@ namespace
 {
 
 constexpr int handlePixels = 16;
-constexpr int panelPixels = 260;
+/// Where the main window has no more room beside the screen. At the usual font, in pixels.
+constexpr int narrowestPanel = 160;
+
+int panelPixels()
+{
+    return ui::scaled(260);
+}
 
 /// The record on the screen stands out also when another row is chosen.
 class MarkingDelegate : public QStyledItemDelegate
@@ -67,7 +73,6 @@ void RecordList::buildHandle()
 void RecordList::buildPanel()
 {
     m_panel = new QWidget(this);
-    m_panel->setFixedWidth(panelPixels);
     m_panel->hide();
     layout()->addWidget(m_panel);
     buildFilter();
@@ -120,12 +125,16 @@ void RecordList::toggle()
     }
 }
 
-/// Asks for room first: a form that is too narrow grows by itself, but not by the right width.
+/// Asks for room first, and takes what it gets: a form that is too narrow grows by itself, but not by the
+/// right width.
 void RecordList::unfold()
 {
-    Q_EMIT widened(panelPixels);
+    Q_EMIT widened(panelPixels());
     if (m_panel == nullptr)
         buildPanel();
+    const QWidget& form = *parentWidget();
+    const int room = form.width() - form.minimumSizeHint().width();
+    m_panel->setFixedWidth(qBound(ui::scaled(narrowestPanel), room, panelPixels()));
     m_panel->show();
     m_handle->setArrowType(Qt::RightArrow);
     m_filter->setFocus(); // reads the records, unless the window is not active
@@ -138,7 +147,7 @@ void RecordList::fold()
     m_panel->hide();
     m_handle->setArrowType(Qt::LeftArrow);
     layout()->activate(); // so that the form knows its new least width already
-    Q_EMIT widened(-panelPixels);
+    Q_EMIT widened(-panelPixels());
 }
 
 void RecordList::reload()

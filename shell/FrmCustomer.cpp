@@ -57,7 +57,7 @@ QGroupBox* FrmCustomer::makeFrame()
     auto* const frame = new QGroupBox(u"Select / Create Customer"_s, this);
     auto* const label = new QLabel(u"Select Existing Customer"_s, frame);
     label->setBuddy(List1);
-    List1->setMinimumSize(listSize);
+    List1->setMinimumSize(ui::scaled(listSize));
     auto* const column = new QVBoxLayout(frame);
     column->setSpacing(ui::spacing::controlGap);
     column->addWidget(label);

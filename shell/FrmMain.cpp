@@ -85,7 +85,7 @@ QMdiArea* FrmMain::makeArea()
 {
     auto* const area = new QMdiArea(this);
     ui::nameControl(*area, u"Workspace"_s);
-    area->setBackground(ui::colours::desktop);
+    area->setBackground(ui::colours::desktop());
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     new AccessLetters(*area);

@@ -52,7 +52,7 @@ QWidget* makeControl(const Setting& setting)
 {
     QWidget* const control = hasList(setting) ? makeList(setting) : makeTextBox();
     ui::nameControl(*control, setting.control);
-    control->setFixedWidth(controlWidth);
+    control->setFixedWidth(ui::scaled(controlWidth));
     return control;
 }
 
@@ -60,7 +60,7 @@ QWidget* makeControl(const Setting& setting)
 QLabel* makeLabel(const Setting& setting)
 {
     auto* const label = new QLabel(setting.label);
-    label->setMinimumWidth(labelWidth);
+    label->setMinimumWidth(ui::scaled(labelWidth));
     return label;
 }
 

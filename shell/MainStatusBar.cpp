@@ -37,7 +37,7 @@ MainStatusBar::MainStatusBar(QWidget* parent)
       m_notice(statusLabel(u"Notice"_s)), m_dataInUse(statusLabel(u"DataInUse"_s))
 {
     ui::nameControl(*this, u"StatusBar1"_s);
-    m_panel->setMinimumWidth(panelWidth);
+    m_panel->setMinimumWidth(ui::scaled(panelWidth));
     // A long text must not widen the window.
     for (QLabel* const label : {m_text, m_notice})
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -66,7 +66,7 @@ void MainStatusBar::setStatusText(const QString& text)
 {
     m_text->setText(text);
     m_text->setToolTip(text);
-    m_text->setMinimumWidth(qMin(m_text->sizeHint().width(), widestText));
+    m_text->setMinimumWidth(qMin(m_text->sizeHint().width(), ui::scaled(widestText)));
 }
 
 QString MainStatusBar::statusText() const

@@ -52,7 +52,7 @@ QLabel* makeDisclaimer()
 {
     QLabel* const label = makeTextLabel(u"lblDisclaimer"_s, disclaimer);
     label->setWordWrap(true);
-    label->setFixedWidth(textWidth);
+    label->setFixedWidth(ui::scaled(textWidth));
     return label;
 }
 

@@ -27,7 +27,7 @@ constexpr int textPixels = 14;
 void setLook(QLabel& label, int pixels, QFont::Weight weight, const QColor& colour)
 {
     QFont font = label.font();
-    font.setPixelSize(pixels);
+    font.setPixelSize(ui::scaled(pixels));
     font.setWeight(weight);
     label.setFont(font);
     QPalette palette = label.palette();
@@ -51,7 +51,7 @@ frmSplash::frmSplash(MainStatusBar& status)
     : StatusForm(u"frmSplash"_s, aboutCaption(), u"About....."_s, status, nullptr)
 {
     setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
-    setFixedSize(splashSize);
+    setFixedSize(ui::scaled(splashSize));
     layOut();
 }
 
@@ -59,7 +59,8 @@ void frmSplash::layOut()
 {
     const AboutLabels labels = makeSplashLabels();
     auto* const rows = new QVBoxLayout(this);
-    rows->setContentsMargins(pictureSide + 2 * pictureMargin, pictureMargin, pictureMargin, pictureMargin);
+    rows->setContentsMargins(ui::scaled(pictureSide + 2 * pictureMargin), ui::scaled(pictureMargin),
+                             ui::scaled(pictureMargin), ui::scaled(pictureMargin));
     rows->setSpacing(ui::spacing::groupGap);
     rows->addStretch();
     rows->addWidget(labels.lblTitle);

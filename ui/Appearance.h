@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QIcon>
+#include <QSize>
 
 class QApplication;
 class QWidget;
@@ -18,19 +19,29 @@ inline constexpr int groupGap = 12;   ///< between groups of controls
 inline constexpr int controlGap = 8;  ///< between neighbouring controls
 } // namespace spacing
 
-/// Smallest width of a button in device-independent pixels. Buttons of a row look alike.
+/// Smallest width of a button in device-independent pixels at the usual font. Buttons of a row look alike.
 inline constexpr int buttonWidth = 96;
 
-/// Height of the font in device-independent pixels. Screen files place controls in twips, 15 to the pixel, so
-/// texts must be as wide on every platform.
-inline constexpr int fontPixels = 12;
+/// Height in device-independent pixels of the font that forms and screen files are drawn for. Screen files
+/// place controls in twips, 15 to the pixel, so texts must be as wide on every platform.
+inline constexpr int usualFontPixels = 12;
+
+/// Height of the font in use in device-independent pixels: the usual one, or that of the user's system when
+/// it is larger.
+[[nodiscard]] int fontPixels();
+
+/// What @p pixels of a form drawn for the usual font are with the font in use. All fixed widths go through
+/// it.
+[[nodiscard]] int scaled(double pixels);
+[[nodiscard]] QSize scaled(QSize size);
 
 namespace colours
 {
-inline constexpr QColor accent{0x1f, 0x5f, 0x8b};     ///< selections, headings, the icon
+/// Those of a light and a dark scheme stand in the palette. What stands here looks the same in both: paper,
+/// the register's keys, the icon. What is written on it is written in text or greyedText, never in the
+/// palette's.
+inline constexpr QColor accent{0x1f, 0x5f, 0x8b};     ///< selections, the icon
 inline constexpr QColor accentDark{0x14, 0x3d, 0x5c}; ///< the darker end of the splash
-inline constexpr QColor window{0xf2, 0xf4, 0xf6};
-inline constexpr QColor desktop{0xc3, 0xcd, 0xd6}; ///< behind the screens in the main window
 inline constexpr QColor text{0x1c, 0x23, 0x2a};
 inline constexpr QColor greyedText{0x8b, 0x95, 0x9e};
 inline constexpr QColor linePale{0xd8, 0xde, 0xe4};
@@ -47,9 +58,14 @@ inline constexpr QColor missingMark{0xc0, 0x35, 0x2b};
 inline constexpr QColor found{0xd9, 0x5f, 0x02};       ///< around what a search has found
 inline constexpr QColor warning{0xc4, 0x4f, 0x0c};     ///< marks what will not be as it should
 inline constexpr QColor warningPale{0xfd, 0xf0, 0xd8}; ///< behind a notice of it
+/// Behind the screens in the main window, and around paper.
+[[nodiscard]] QColor desktop();
+/// Headings, on the palette's window.
+[[nodiscard]] QColor heading();
 } // namespace colours
 
-/// Gives @p application its style, font, palette and window icon. Once, before the first window.
+/// Gives @p application its style, font, palette and window icon. Once, before the first window. Font size
+/// and a dark scheme come from the user's system.
 void applyAppearance(QApplication& application);
 
 /// The program's icon, drawn for every size that platforms ask for.

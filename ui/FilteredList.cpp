@@ -1,6 +1,7 @@
 // See FilteredList.h.
 #include "ui/FilteredList.h"
 
+#include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
 #include <QCoreApplication>
@@ -60,8 +61,8 @@ QTableView* makeListTable(const QString& name, QAbstractItemModel* model, QWidge
     table->horizontalHeader()->setStretchLastSection(true);
     table->verticalHeader()->hide();
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setMinimumSectionSize(rowHeight);
-    table->verticalHeader()->setDefaultSectionSize(rowHeight);
+    table->verticalHeader()->setMinimumSectionSize(scaled(rowHeight));
+    table->verticalHeader()->setDefaultSectionSize(scaled(rowHeight));
     return table;
 }
 

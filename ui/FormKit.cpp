@@ -36,7 +36,7 @@ QPushButton* makeButton(const QString& name, const QString& caption, QWidget* fo
 {
     auto* const button = new QPushButton(caption, form);
     nameControl(*button, name);
-    button->setMinimumWidth(buttonWidth);
+    button->setMinimumWidth(scaled(buttonWidth));
     return button;
 }
 

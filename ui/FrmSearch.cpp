@@ -32,7 +32,7 @@ FrmSearch::FrmSearch(QWidget* parent, const QString& sought)
     nameControl(*this, u"FrmSearch"_s);
     nameControl(*SearchData, u"SearchData"_s);
     setWindowTitle(u"Find Record....."_s);
-    SearchData->setMinimumWidth(boxWidth);
+    SearchData->setMinimumWidth(scaled(boxWidth));
     auto* const label = new QLabel(u"Find the record with this %1, or the next:"_s.arg(sought), this);
     label->setBuddy(SearchData);
     QPushButton* const find = makeButton(u"ExitControl_0"_s, u"&Find"_s, this);

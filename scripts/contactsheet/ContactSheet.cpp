@@ -2,16 +2,11 @@
 //   contact_sheet <folder>
 // Writes screens-1.png, screens-2.png ... there, and each screen of each model as a file of its own in
 // single/.
-#include "platform/RuntimeFailure.h"
-#include "shell/MenuTree.h"
-#include "shell/ScreenChoice.h"
-#include "tests/road/Shop.h"
+#include "scripts/windows/FilledShop.h"
 #include "ui/Appearance.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QHash>
 #include <QPainter>
 #include <QRegularExpression>
@@ -19,7 +14,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
-#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,12 +22,6 @@ namespace
 
 using namespace norvane;
 
-constexpr const char* modelNames[] = {"Velmar -V2", "Velmar V2 Card", "Velmar +V3", "Dorvik"};
-
-/// A screen that several models share is shown for the first of them in this order.
-constexpr int modelOrder[] = {2, 0, 1, 3};
-
-constexpr int exchangeBoxes = 37;
 constexpr QSize desktop{1600, 1200};
 
 constexpr double scale = 2.0 / 3; ///< texts can still be read
@@ -49,15 +37,6 @@ struct Shot {
     QImage image;
 };
 
-QAction& actionOf(const shell::MenuEntry& entry)
-{
-    for (const QWidget* const window : QApplication::topLevelWidgets()) {
-        if (auto* const action = window->findChild<QAction*>(entry.name))
-            return *action;
-    }
-    qFatal("no menu entry %s", entry.name.data());
-}
-
 QString captionOf(const shell::MenuEntry& entry)
 {
     static const QRegularExpression accessMark(u"&(?=\\S)"_s);
@@ -71,62 +50,33 @@ QImage picture(const QWidget& screen)
     return screen.parentWidget()->grab().toImage();
 }
 
-/// A shop whose database was filled from a register of the model.
-class FilledShop : public test::Shop
+/// Opens the screen of @p entry, takes its picture and closes it. @throws what the screen throws.
+QImage pictureOf(windows::FilledShop& shop, const shell::MenuEntry& entry)
 {
-public:
-    explicit FilledShop(int model) : Shop(model, 1)
-    {
-        test::BoxNumbers everyBox(exchangeBoxes);
-        std::iota(everyBox.begin(), everyBox.end(), 0);
-        upload(everyBox);
-        // On a small desktop the largest screens would scroll.
-        for (QWidget* const window : QApplication::topLevelWidgets())
-            window->resize(desktop);
-        // Nothing uploads the descriptors; a picture needs a record.
-        execute("insert into SYSTEMDESCRIPTORS (ID, SYSTEMDESCRIPTORS) values (1, 'TOTAL')");
-    }
-
-    /// Opens the screen of @p entry, takes its picture and closes it. @throws what the screen throws.
-    QImage pictureOf(const shell::MenuEntry& entry)
-    {
-        boxes().shown.clear();
-        actionOf(entry).setEnabled(true); // some are grey
-        QWidget& screen = openForm(entry.name.data());
-        QImage image = picture(screen);
-        press(screen, "ExitForm");
-        return image;
-    }
-
-    /// The text of the last box since the last picture.
-    QString lastText() { return boxes().shown.empty() ? QString() : boxes().shown.back().text; }
-};
-
-/// Deletes closed windows: first the screen, then the frame that is empty without it.
-void deleteClosed()
-{
-    for (int turn = 0; turn < 2; ++turn)
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QWidget& screen = shop.openScreen(entry);
+    QImage image = picture(screen);
+    windows::FilledShop::press(screen, "ExitForm");
+    return image;
 }
 
 /// Pictures of all screens of a model; reports on the error output which could not be opened.
 QVector<Shot> shotsOf(int model)
 {
-    FilledShop shop(model);
+    windows::FilledShop shop(model);
+    shop.frame().resize(desktop); // the largest screens would scroll on a small one
     QVector<Shot> shots;
     for (const shell::MenuEntry& entry : shell::menuTree()) {
-        const QString target =
-            shell::opensScreen(entry) ? shell::targetOf(entry, shop.values()).mid(1) : QString();
-        if (target.isEmpty() || !QFileInfo::exists(target))
+        const QString target = shop.screenFile(entry);
+        if (target.isEmpty())
             continue;
         try {
-            const QString name = QString::fromLatin1(modelNames[model]);
-            shots.append({target, captionOf(entry), name, shop.pictureOf(entry)});
+            const QString name = QString::fromLatin1(windows::modelNames[model]);
+            shots.append({target, captionOf(entry), name, pictureOf(shop, entry)});
         } catch (const std::exception& failure) {
-            std::fprintf(stderr, "%s, %s: %s %s\n", modelNames[model], qPrintable(target), failure.what(),
-                         qPrintable(shop.lastText()));
+            std::fprintf(stderr, "%s, %s: %s %s\n", windows::modelNames[model], qPrintable(target),
+                         failure.what(), qPrintable(shop.lastText()));
         }
-        deleteClosed();
+        windows::deleteClosed();
     }
     return shots;
 }
@@ -225,7 +175,7 @@ private:
 QVector<Shot> takeShots(const QDir& single)
 {
     QVector<Shot> distinct;
-    for (const int model : modelOrder) {
+    for (const int model : windows::modelOrder) {
         for (const Shot& shot : shotsOf(model)) {
             const QString name = u"%1-%2.png"_s.arg(shot.file.section(u'.', 0, 0)).arg(model);
             shot.image.save(single.filePath(name));

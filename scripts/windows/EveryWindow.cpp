@@ -1,0 +1,290 @@
+// The windows as tables, by how they open; see EveryWindow.h.
+#include "scripts/windows/EveryWindow.h"
+
+#include "exchange/FrmComm.h"
+#include "keys/copylevel.h"
+#include "keys/FrmFunctKey.h"
+#include "keys/frmwlu.h"
+#include "keys/KeyLayout.h"
+#include "overlay/CorrectionForm.h"
+#include "overlay/OverlayForm.h"
+#include "overlay/OverlayPreview.h"
+#include "overlay/PrinterSetup.h"
+#include "overlay/SystemDialogs.h"
+#include "reports/Report.h"
+#include "sales/Frmreports.h"
+#include "scripts/windows/FilledShop.h"
+#include "shell/CopyMenu.h"
+#include "shell/FrmCustomer.h"
+#include "shell/frmSplash.h"
+#include "store/Database.h"
+#include "ui/FrmSearch.h"
+#include "ui/MessageBoxes.h"
+
+#include <QtWidgets>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::windows
+{
+namespace
+{
+
+/// What a dialog is made with. Names are as long as users give them.
+struct Ground {
+    explicit Ground(FilledShop& filled) : shop(filled) {}
+
+    FilledShop& shop;
+    ApplicationValues values = shop.values();
+    overlay::SystemDialogs dialogs;
+    store::Database database = store::Database(values.databasePath);
+    overlay::Document document = overlay::Document(overlay::Keyboard::Velmar);
+    paper::PrinterCorrections corrections = paper::PrinterCorrections(shop.folder().appFile(u"none.ini"_s));
+};
+
+struct Dialog {
+    const char* name;
+    QWidget* (*make)(Ground& ground, QWidget* parent);
+};
+
+QWidget* designer(overlay::Keyboard keyboard, Ground& ground, QWidget* parent)
+{
+    auto* const form = new overlay::OverlayForm(keyboard, ground.values, ground.shop.boxes(), ground.dialogs,
+                                                overlay::findPrinter, parent);
+    if (auto* const import = form->findChild<QAction*>(u"ImportLevel1"_s))
+        import->trigger();
+    return form;
+}
+
+QWidget* preview(Ground& ground, QWidget* parent)
+{
+    const paper::Sheet portrait{QPageLayout::Portrait};
+    return new overlay::OverlayPreview(ground.document, {u"Office on the first floor"_s, portrait, {}}, {},
+                                       ground.corrections, ground.shop.boxes(), parent);
+}
+
+constexpr Dialog dialogs[] = {
+    {"customer",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new shell::FrmCustomer(g.values, g.shop.boxes(), p);
+     }},
+    {"copies",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new shell::CopyMenu(g.values.appPath, g.values.customerName, g.shop.boxes(), p);
+     }},
+    {"exchange",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new exchange::FrmComm(u"UPLOAD"_s, g.values, g.shop.boxes(), p);
+     }},
+    {"keys-velmar",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new keys::KeyLayout(keys::velmarKeyboard(), g.values, g.shop.boxes(), p);
+     }},
+    {"copy-level",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new keys::copylevel(g.database, keys::velmarKeyboard(), g.values, g.shop.boxes(), p);
+     }},
+    {"function-keys",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new keys::FrmFunctKey(g.values, g.shop.boxes(), p);
+     }},
+    {"look-ups",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new keys::frmwlu(g.values, g.shop.boxes(), p);
+     }},
+    {"overlay-velmar",
+     [](Ground& g, QWidget* p) {
+         return designer(overlay::Keyboard::Velmar, g, p);
+     }},
+    {"overlay-quelmont",
+     [](Ground& g, QWidget* p) {
+         return designer(overlay::Keyboard::Quelmont, g, p);
+     }},
+    {"overlay-preview", &preview},
+    {"printer-correction",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new overlay::CorrectionForm(u"Office"_s, {}, {}, g.shop.boxes(), p);
+     }},
+    {"printer-setup",
+     [](Ground& /*g*/, QWidget* p) -> QWidget* {
+         return new overlay::PrinterSetup({}, p);
+     }},
+    {"reports",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         g.values.reportMode = u"DAILYPLU"_s;
+         return new sales::Frmreports(g.values, g.shop.boxes(), reports::runReport, p);
+     }},
+    {"splash",
+     [](Ground& g, QWidget* /*p*/) -> QWidget* {
+         return new shell::frmSplash(g.shop.frame().statusBar1());
+     }},
+};
+
+/// The keyboard of the model, which has tables of its own.
+constexpr Dialog dorvikDialogs[] = {
+    {"keys-dorvik",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new keys::KeyLayout(keys::dorvikKeyboard(), g.values, g.shop.boxes(), p);
+     }},
+    {"overlay-dorvik",
+     [](Ground& g, QWidget* p) {
+         return designer(overlay::Keyboard::Dorvik, g, p);
+     }},
+};
+
+/// Boxes that wait for an answer, with the longest texts that the program has for them.
+struct WaitingBox {
+    const char* name;
+    void (*open)(Boxes& boxes, QWidget& frame);
+};
+
+constexpr WaitingBox waitingBoxes[] = {
+    {"message",
+     [](Boxes& boxes, QWidget&) {
+         boxes.message(
+             u"Your new database has been created please\rupload program from your cash register.  \r"_s,
+             u"Information "_s, BoxIcon::Information);
+     }},
+    {"question",
+     [](Boxes& boxes, QWidget&) {
+         boxes.ask(
+             u"Put Corner Shop as it was on 24/11/2026 22:05, before the upload?\r\rAll that was changed since is undone, sales included. A copy of how it stands now is made first."_s,
+             u"Please Check"_s, BoxIcon::Question, BoxAnswer::No);
+     }},
+    {"choice",
+     [](Boxes& boxes, QWidget&) {
+         boxes.choose(
+             u"Since this record was shown here, it was changed by another screen, a price change or an upload.\r\rSave replaces those changes by what stands here.\rShow shows them here, and drops what you have typed."_s,
+             u"Record Changed"_s, u"&Save"_s, u"S&how"_s);
+     }},
+    {"input",
+     [](Boxes& boxes, QWidget&) {
+         boxes.input(u"Please enter the Euro Conversion Rate"_s, u"Enter Euro Conversion Rate"_s,
+                     u"1.269738"_s);
+     }},
+    {"find",
+     [](Boxes&, QWidget& frame) {
+         static_cast<void>(ui::FrmSearch::ask(&frame, u"PLU number"_s));
+     }},
+};
+
+/// Windows that lie in the frame, by their menu entries.
+constexpr const char* formsInFrame[] = {"DataSetup", "About", "CollectSales", "Quelmontkeyboard"};
+
+void show(QWidget& window)
+{
+    window.show();
+    QApplication::processEvents();
+}
+
+void lookAtMenus(shell::FrmMain& frame, const Look& look)
+{
+    look(u"main"_s, frame);
+    for (QMenu* const menu : frame.findChildren<QMenu*>()) {
+        menu->popup({});
+        look(u"menu-"_s + menu->objectName(), *menu);
+        menu->close();
+    }
+}
+
+/// With the list of records open beside those that have one.
+void lookAtScreen(FilledShop& shop, const shell::MenuEntry& entry, const QString& name, const Look& look)
+{
+    QWidget& screen = shop.openScreen(entry);
+    QApplication::processEvents();
+    look(name, *screen.parentWidget());
+    if (auto* const handle = screen.findChild<QToolButton*>(u"ListHandle"_s);
+        handle && name.contains(u"PLU"_s)) {
+        handle->click();
+        QApplication::processEvents();
+        look(name + u"-list"_s, *screen.parentWidget());
+    }
+    FilledShop::press(screen, "ExitForm");
+    deleteClosed();
+}
+
+void lookAtScreens(FilledShop& shop, QSet<QString>& seen, const Look& look)
+{
+    for (const shell::MenuEntry& entry : shell::menuTree()) {
+        const QString file = shop.screenFile(entry);
+        if (file.isEmpty() || seen.contains(file.toLower()))
+            continue;
+        seen.insert(file.toLower());
+        lookAtScreen(shop, entry, u"screen-"_s + file.section(u'.', 0, 0), look);
+    }
+}
+
+void lookAtFormsInFrame(FilledShop& shop, const Look& look)
+{
+    for (const char* const entry : formsInFrame) {
+        QWidget& form = shop.openForm(entry);
+        QApplication::processEvents();
+        look(u"frame-"_s + QLatin1String(entry), *form.parentWidget());
+        form.close();
+        deleteClosed();
+    }
+}
+
+void lookAtDialogs(FilledShop& shop, std::span<const Dialog> table, const Look& look)
+{
+    Ground ground(shop);
+    for (const Dialog& dialog : table) {
+        const std::unique_ptr<QWidget> window(dialog.make(ground, &shop.frame()));
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        show(*window);
+        look(QLatin1String(dialog.name), *window);
+    }
+}
+
+void lookAtBoxes(QWidget& frame, const Look& look)
+{
+    ui::MessageBoxes boxes;
+    for (const WaitingBox& box : waitingBoxes) {
+        QTimer::singleShot(0, &frame, [&] {
+            QWidget* const window = QApplication::activeModalWidget();
+            QApplication::processEvents();
+            look(u"box-"_s + QLatin1String(box.name), *window);
+            window->close();
+        });
+        box.open(boxes, frame);
+    }
+}
+
+/// The price list, printed to the screen.
+void lookAtReport(FilledShop& shop, const Look& look)
+{
+    reports::Report report(shop.frame(), shop.boxes());
+    report.setReportFile(shop.folder().appFile(u"pluprice.rpt"_s));
+    report.setDataFile(0, shop.values().databasePath);
+    report.run();
+    auto* const window = shop.frame().findChild<QWidget*>(u"ReportPreview"_s);
+    window->findChild<QPushButton*>(u"FindButton"_s)->click();
+    QApplication::processEvents();
+    look(u"report-preview"_s, *window);
+    window->close();
+    deleteClosed();
+}
+
+} // namespace
+
+void lookAtEveryWindow(const Look& look)
+{
+    QSet<QString> seen;
+    for (const int model : modelOrder) {
+        FilledShop shop(model);
+        lookAtScreens(shop, seen, look);
+        if (model == modelOrder[0]) {
+            lookAtMenus(shop.frame(), look);
+            lookAtFormsInFrame(shop, look);
+            lookAtDialogs(shop, dialogs, look);
+            lookAtReport(shop, look);
+            lookAtBoxes(shop.frame(), look);
+        }
+        if (model == 3)
+            lookAtDialogs(shop, dorvikDialogs, look);
+    }
+}
+
+} // namespace norvane::windows

@@ -1,0 +1,147 @@
+// Opens every window and tells which texts cannot be read: cut, covered, too pale, or off a small screen.
+//   check_windows [--scale 2] [--font 150] [--dark] [--pictures <folder>]
+// --scale is the number of pixels to a point, --font the size of the system's font in percent. The screen has
+// 1024 x 768 points. A line for each fault; the exit code is 1 when there is one.
+#include "scripts/windows/EveryWindow.h"
+#include "scripts/windows/TextCheck.h"
+#include "ui/Appearance.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QScreen>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+constexpr QSize screenSize{1024, 768};
+/// What the title of a window takes of the screen.
+constexpr int titleHeight = 30;
+
+struct Setting {
+    int scale = 1;
+    int fontPercent = 100;
+    bool isDark = false;
+    QString pictures;
+};
+
+Setting settingOf(const QStringList& words)
+{
+    QCommandLineParser parser;
+    parser.addOptions({{u"scale"_s, {}, u"n"_s, u"1"_s},
+                       {u"font"_s, {}, u"n"_s, u"100"_s},
+                       {u"dark"_s, {}},
+                       {u"pictures"_s, {}, u"folder"_s}});
+    parser.process(words);
+    return {parser.value(u"scale"_s).toInt(), parser.value(u"font"_s).toInt(), parser.isSet(u"dark"_s),
+            parser.value(u"pictures"_s)};
+}
+
+/// The screen that the windows open on. Before the application is made.
+void setUpScreen(const Setting& setting, const QString& configuration)
+{
+    const QSize pixels = screenSize * setting.scale;
+    QFile file(configuration);
+    if (!file.open(QFile::WriteOnly))
+        qFatal("cannot write %s", qPrintable(configuration));
+    file.write(
+        uR"({"screens": [{"name": "small", "x": 0, "y": 0, "width": %1, "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})"_s
+            .arg(pixels.width())
+            .arg(pixels.height())
+            .toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + configuration.toLocal8Bit());
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(setting.scale));
+}
+
+/// As desktops have it.
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x2b, 0x2d, 0x30), QColor(0x2b, 0x2d, 0x30));
+    palette.setColor(QPalette::Base, QColor(0x1e, 0x1f, 0x22));
+    return palette;
+}
+
+/// The user's own font and palette, which the program starts with.
+void setUpDesktop(const Setting& setting)
+{
+    constexpr double percent = 100;
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * setting.fontPercent / percent);
+    QApplication::setFont(font);
+    if (setting.isDark)
+        QApplication::setPalette(darkPalette());
+}
+
+QString tooLarge(const QWidget& window)
+{
+    const QSize room = screenSize - QSize(0, titleHeight);
+    return window.isWindow() && room.expandedTo(window.size()) != room
+               ? u"%1 x %2 is larger than the screen"_s.arg(window.width()).arg(window.height())
+               : QString();
+}
+
+class Check
+{
+public:
+    explicit Check(const Setting& setting) : m_setting(setting) {}
+
+    void look(const QString& name, QWidget& window)
+    {
+        ++m_windows;
+        const QImage picture = window.grab().toImage();
+        if (!m_setting.pictures.isEmpty())
+            picture.save(QDir(m_setting.pictures).filePath(name + u".png"_s));
+        for (const QString& fault :
+             QStringList(tooLarge(window)) + norvane::windows::unreadableTexts(window, picture))
+            tell(name, fault);
+    }
+    /// @return the exit code.
+    [[nodiscard]] int end() const
+    {
+        std::printf("%d windows, %d faults\n", m_windows, m_faults);
+        return m_faults == 0 ? 0 : 1;
+    }
+
+private:
+    void tell(const QString& name, const QString& fault)
+    {
+        if (fault.isEmpty())
+            return;
+        ++m_faults;
+        std::printf("%s: %s\n", qPrintable(name), qPrintable(fault));
+    }
+
+    const Setting& m_setting;
+    int m_windows = 0;
+    int m_faults = 0;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QStringList words;
+    for (int word = 0; word < argc; ++word)
+        words += QString::fromLocal8Bit(argv[word]);
+    Setting setting = settingOf(words);
+    if (!setting.pictures.isEmpty()) {
+        QDir().mkpath(setting.pictures);
+        setting.pictures = QDir(setting.pictures).absolutePath(); // a shop changes the working directory
+    }
+    const QTemporaryDir folder;
+    setUpScreen(setting, folder.filePath(u"screen.json"_s));
+    QApplication application(argc, argv);
+    if (QGuiApplication::primaryScreen()->size() != screenSize)
+        qFatal("the screen has another size");
+    setUpDesktop(setting);
+    norvane::ui::applyAppearance(application);
+    Check check(setting);
+    norvane::windows::lookAtEveryWindow(
+        [&check](const QString& name, QWidget& window) { check.look(name, window); });
+    return check.end();
+}
