@@ -30,7 +30,7 @@ const QString& scratchFolder()
 
 QString scratchFile(const QString& name, std::string_view content)
 {
-    const QString path = scratchFolder() + u'/' + name;
+    QString path = scratchFolder() + u'/' + name;
     QFile file(path);
     const auto size = static_cast<qint64>(content.size());
     // A full disk must stop the run, not pass for an empty file.
