@@ -27,16 +27,23 @@ std::string quoted(const std::string& field)
 }
 
 /// PostgreSQL has no character 0.
-QString withoutNulls(const Value& value)
+std::string withoutNulls(const Value& value)
 {
-    return value.toText().remove(QChar::Null);
+    std::string text = value.toUtf8();
+    std::erase(text, '\0');
+    return text;
+}
+
+QString trimmed(const Value& value)
+{
+    return QString::fromStdString(withoutNulls(value)).trimmed();
 }
 
 /// Registers spell a time as hhmm, with or without the zeros in front.
 QString timeText(const Value& value)
 {
     constexpr int digits = 4;
-    const QString padded = withoutNulls(value).trimmed().rightJustified(digits, u'0');
+    const QString padded = trimmed(value).rightJustified(digits, u'0');
     return padded.chopped(2) + u':' + padded.right(2);
 }
 
@@ -51,9 +58,9 @@ std::optional<std::string> textOf(const Value& value, Content content)
     case Content::Time:
         return timeText(value).toStdString();
     case Content::Text: // filled with blanks by a register
-        return withoutNulls(value).trimmed().toStdString();
+        return trimmed(value).toStdString();
     case Content::Key:
-        return withoutNulls(value).toStdString();
+        return withoutNulls(value);
     case Content::Whole:
         break;
     }
