@@ -28,17 +28,23 @@ constexpr auto views = std::to_array<View>({
     {"takings_by_group", "SELECT shop, shop_name, day, group_no, group_name, sum(quantity) AS quantity, "
                          "round(sum(takings), 2) AS takings FROM plu_lines "
                          "GROUP BY shop, shop_name, day, group_no, group_name"},
-    {"takings_by_day",
-     "SELECT t.shop, s.name AS shop_name, t.day, t.quantity, round(t.takings, 2) AS takings, "
-     "(SELECT round(f.value, 2) FROM financial_sales f "
-     "WHERE f.shop = t.shop AND f.day = t.day AND f.line = 2) AS net_sales "
-     "FROM (SELECT shop, day, sum(count1 + count2 + count3 + count4 + count5) AS quantity, "
-     "sum(value1 + value2 + value3 + value4 + value5) AS takings FROM plu_sales GROUP BY shop, day) t "
+    // A day that was collected only in part is there, too, with nothing where nothing came.
+    {"day_lines",
+     "SELECT t.shop, s.name AS shop_name, t.day, t.quantity, t.takings, t.net_sales "
+     "FROM (SELECT shop, day, sum(quantity) AS quantity, sum(takings) AS takings, sum(net_sales) AS "
+     "net_sales "
+     "FROM (SELECT shop, day, count1 + count2 + count3 + count4 + count5 AS quantity, "
+     "value1 + value2 + value3 + value4 + value5 AS takings, NULL::numeric AS net_sales FROM plu_sales "
+     "UNION ALL SELECT shop, day, NULL, NULL, value FROM financial_sales WHERE line = 2 "
+     "UNION ALL SELECT shop, day, NULL, NULL, NULL FROM published_days) u GROUP BY shop, day) t "
      "JOIN shops s ON s.shop = t.shop"},
+    {"takings_by_day", "SELECT shop, shop_name, day, quantity, round(takings, 2) AS takings, "
+                       "round(net_sales, 2) AS net_sales FROM day_lines"},
     {"takings_by_shop",
-     "SELECT shop, shop_name, min(day) AS first_day, max(day) AS last_day, count(*) AS days, "
-     "sum(quantity) AS quantity, sum(takings) AS takings, sum(net_sales) AS net_sales "
-     "FROM takings_by_day GROUP BY shop, shop_name"},
+     "SELECT s.shop, s.name AS shop_name, min(d.day) AS first_day, max(d.day) AS last_day, "
+     "count(d.day) AS days, sum(d.quantity) AS quantity, round(sum(d.takings), 2) AS takings, "
+     "round(sum(d.net_sales), 2) AS net_sales FROM shops s LEFT JOIN day_lines d ON d.shop = s.shop "
+     "GROUP BY s.shop, s.name"},
     {"best_sellers",
      "SELECT shop, shop_name, rank() OVER (PARTITION BY shop ORDER BY sum(takings) DESC) AS rank, "
      "plu, description, sum(quantity) AS quantity, round(sum(takings), 2) AS takings "
