@@ -78,16 +78,31 @@ std::vector<std::string> tableStatements()
 using SchemaStep = std::vector<std::string> (*)();
 constexpr auto steps = std::to_array<SchemaStep>({tableStatements, viewStatements});
 constexpr int currentVersion = static_cast<int>(steps.size());
+constexpr const char* versionTable = "chain_version";
+
+/// The functions that find a name look into a memory of the connection, which does not learn what others made
+/// while this one waited for the lock.
+bool hasSchema(pqxx::work& work)
+{
+    return work
+        .exec_params1("SELECT EXISTS (SELECT FROM pg_catalog.pg_namespace WHERE nspname = $1)",
+                      std::string(schemaName))[0]
+        .as<bool>();
+}
 
 bool exists(pqxx::work& work, const std::string& table)
 {
-    return !work.exec_params1("SELECT to_regclass($1)", table)[0].is_null();
+    return work
+        .exec_params1("SELECT EXISTS (SELECT FROM pg_catalog.pg_class c JOIN pg_catalog.pg_namespace n "
+                      "ON n.oid = c.relnamespace WHERE n.nspname = $1 AND c.relname = $2)",
+                      std::string(schemaName), table)[0]
+        .as<bool>();
 }
 
 /// A schema that the owner of the database has made for the user is taken as it is.
 void makeSchema(pqxx::work& work)
 {
-    if (work.exec_params1("SELECT to_regnamespace($1)", std::string(schemaName))[0].is_null())
+    if (!hasSchema(work))
         work.exec0(std::string("CREATE SCHEMA ") + schemaName);
     work.exec0("CREATE TABLE chain_version (version integer NOT NULL)");
     work.exec0("INSERT INTO chain_version VALUES (0)");
@@ -95,7 +110,9 @@ void makeSchema(pqxx::work& work)
 
 int versionOf(pqxx::work& work)
 {
-    return work.exec1("SELECT max(version) FROM chain_version")[0].as<int>();
+    // With the schema's name, so that who may not use it is told so.
+    return work.exec1("SELECT max(version) FROM " + std::string(schemaName) + '.' + versionTable)[0]
+        .as<int>();
 }
 
 /// The common case takes no lock.
@@ -103,7 +120,7 @@ int standingVersion(Server& server)
 {
     int version = -1;
     server.transact([&](pqxx::work& work) {
-        if (exists(work, qualified("chain_version")))
+        if (exists(work, versionTable))
             version = versionOf(work);
     });
     return version;
@@ -112,7 +129,7 @@ int standingVersion(Server& server)
 void takeSteps(pqxx::work& work)
 {
     lockSchema(work);
-    if (!exists(work, qualified("chain_version")))
+    if (!exists(work, versionTable))
         makeSchema(work);
     for (auto step = static_cast<std::size_t>(versionOf(work)); step < steps.size(); ++step) {
         for (const std::string& statement : steps.at(step)())
@@ -146,11 +163,6 @@ std::string partitionStatement(const SalesTable& table, QDate month)
 }
 
 } // namespace
-
-std::string qualified(const char* table)
-{
-    return std::string(schemaName) + '.' + table;
-}
 
 void lockSchema(pqxx::work& work)
 {

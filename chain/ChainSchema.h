@@ -23,9 +23,6 @@ void makePartitions(Server& server, QDate day);
 /// The statements that make the views.
 [[nodiscard]] std::vector<std::string> viewStatements();
 
-/// A table's name for a place where the search path may not be trusted to find it.
-[[nodiscard]] std::string qualified(const char* table);
-
 /// Waits for whoever changes the schema; held to the end of the transaction.
 void lockSchema(pqxx::work& work);
 
