@@ -23,7 +23,6 @@ const auto idKey = u"Shop"_s;
 struct Shop {
     int number;
     QString name;
-    QString folderId;
 };
 
 QString readId(const ShopFolder& folder)
@@ -46,14 +45,11 @@ std::string foldedName(const ShopFolder& folder)
 
 std::optional<Shop> shopBy(pqxx::work& work, const char* column, const std::string& value)
 {
-    const auto rows = work.exec_params(
-        "SELECT shop, name, folder_id FROM shops WHERE " + std::string(column) + "::text = $1", value);
+    const auto rows =
+        work.exec_params("SELECT shop, name FROM shops WHERE " + std::string(column) + "::text = $1", value);
     if (rows.empty())
         return std::nullopt;
-    const auto text = [&rows](pqxx::row::size_type column_) {
-        return QString::fromUtf8(rows[0][column_].c_str());
-    };
-    return Shop{rows[0][0].as<int>(), text(1), text(2)};
+    return Shop{rows[0][0].as<int>(), QString::fromUtf8(rows[0][1].c_str())};
 }
 
 [[noreturn]] void failOther(const QString& text)
@@ -73,27 +69,36 @@ void rename(pqxx::work& work, const ShopFolder& folder, const Shop& shop, bool a
                       folder.name.toStdString(), foldedName(folder), shop.number);
 }
 
-/// The shop of the folder's name has another id: it is of another machine, or the folder was made anew.
-void takeOver(const ShopFolder& folder, const Shop& shop, const Server& server, bool adopt)
+/// The folder's own id, a new one for a folder that has none. It is kept first: were it lost, the next run
+/// would take the shop for another.
+std::string ownId(const ShopFolder& folder, QString id)
+{
+    if (QUuid::fromString(id).isNull()) {
+        id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+        writeId(folder, id);
+    }
+    return id.toStdString();
+}
+
+/// The shop of the folder's name has another id: it is of another machine, or the folder was made anew. From
+/// now on the shop is known by the id of this one, so that the former folder, wherever it is, cannot write
+/// over its days.
+void takeOver(pqxx::work& work, const ShopFolder& folder, const QString& id, const Shop& shop,
+              const Server& server, bool adopt)
 {
     if (!adopt) {
         failOther(
             u"The shop \"%1\" was published from another folder (%2): rename one of the two, or, if this "
             "folder goes on with that shop, publish it with --adopt."_s.arg(shop.name, server.where()));
     }
-    writeId(folder, shop.folderId);
+    work.exec_params0("UPDATE shops SET folder_id = $1 WHERE shop = $2", ownId(folder, id), shop.number);
 }
 
-/// The id is kept first: were it lost, the next run would take the shop for another.
-int addShop(pqxx::work& work, const ShopFolder& folder, QString id)
+int addShop(pqxx::work& work, const ShopFolder& folder, const QString& id)
 {
-    if (QUuid::fromString(id).isNull()) {
-        id = QUuid::createUuid().toString(QUuid::WithoutBraces);
-        writeId(folder, id);
-    }
     return work
         .exec_params1("INSERT INTO shops (name, folded_name, folder_id) VALUES ($1, $2, $3) RETURNING shop",
-                      folder.name.toStdString(), foldedName(folder), id.toStdString())[0]
+                      folder.name.toStdString(), foldedName(folder), ownId(folder, id))[0]
         .as<int>();
 }
 
@@ -110,7 +115,7 @@ int shopOf(pqxx::work& work, const ShopFolder& folder, const Server& server, boo
     if (byId && !byName)
         rename(work, folder, *byId, adopt);
     if (byName && !byId)
-        takeOver(folder, *byName, server, adopt);
+        takeOver(work, folder, id, *byName, server, adopt);
     if (byId || byName)
         return byId ? byId->number : byName->number;
     return addShop(work, folder, id);

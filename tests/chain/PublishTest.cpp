@@ -71,11 +71,17 @@ TEST_F(PublishTest, RanksTheLastMonthAndTellsWhoDidNotCollect)
 {
     makeShop(u"Late"_s);
     change(shop, "update PLUSALES set SALESDATE = date('now', 'localtime', '-1 day')");
-    change(u"Late"_s, "insert into MIXSALES values (1, date('now', 'localtime', '-3 day'), 1, 0)");
-    EXPECT_EQ(publish({shop, u"Late"_s, u"late"_s}).code, 0);
+    makeShop(u"New"_s);
+    change(u"Late"_s, "insert into FINANCIALSALES values (2, date('now', 'localtime', '-3 day'), 1, 0.005), "
+                      "(2, date('now', 'localtime', '-4 day'), 1, 0.005)");
+    EXPECT_EQ(publish({shop, u"Late"_s, u"late"_s, u"New"_s}).code, 0);
+    EXPECT_EQ(query(u"SELECT shop_name, days, takings, net_sales FROM takings_by_shop ORDER BY shop"_s),
+              "Corner Shop|2|39.23|39.03 Late|2||0.01 New|0||")
+        << "rounded once, and days without a PLU count";
     EXPECT_EQ(query(u"SELECT rank, plu, takings FROM best_sellers ORDER BY rank"_s),
               "1|0002|39.03 2|0001|0.20");
-    EXPECT_EQ(query(u"SELECT shop_name, days_ago FROM shops_without_collection_yesterday"_s), "Late|3");
+    EXPECT_EQ(query(u"SELECT shop_name, days_ago FROM shops_without_collection_yesterday ORDER BY shop"_s),
+              "Late|3 New|");
 }
 
 TEST_F(PublishTest, FindsLateCorrectionsAndChangedNames)
@@ -140,7 +146,7 @@ TEST_F(PublishTest, KnowsAShopByItsFolder)
 {
     EXPECT_EQ(published({shop}), "3 8 0 0");
     const QString idFile = shop + u"/norvane-chain.ini"_s;
-    const QByteArray id = m_folder.read(qUtf8Printable(idFile));
+    const QByteArray former = m_folder.read(qUtf8Printable(idFile));
     const auto expectRefused = [this](const QString& name, const QString& text) {
         const Ended ended = publish({name});
         EXPECT_EQ(ended.code, 14);
@@ -151,7 +157,11 @@ TEST_F(PublishTest, KnowsAShopByItsFolder)
     ASSERT_TRUE(QDir(m_folder.path()).rename(shop, u"CORNER shop"_s));
     expectRefused(u"corner shop"_s, u"was published from another folder"_s);
     EXPECT_EQ(published({u"CORNER shop"_s, u"--adopt"_s}), "0 0 3 0");
-    EXPECT_EQ(m_folder.read("CORNER shop/norvane-chain.ini"), id);
+    // The former folder must not write over the shop's days beside it.
+    const QByteArray id = m_folder.read("CORNER shop/norvane-chain.ini");
+    m_folder.write("CORNER shop/norvane-chain.ini", former);
+    expectRefused(u"corner shop"_s, u"was published from another folder"_s);
+    m_folder.write("CORNER shop/norvane-chain.ini", id);
     // A copy for another shop.
     makeShop(u"Second"_s);
     m_folder.write("Second/norvane-chain.ini", id);
