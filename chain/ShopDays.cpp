@@ -34,7 +34,9 @@ PublishedDays publishedDays(Server& server, int shop)
     return days;
 }
 
-ShopDays::ShopDays(store::Database& database) : m_database(database), m_new(salesTables().size())
+ShopDays::ShopDays(store::Database& database)
+    : m_database(database), m_version(store::DayDigests::changesByOthers(database)),
+      m_new(salesTables().size())
 {
     for (std::size_t table = 0; table < salesTables().size(); ++table)
         read(table);
@@ -86,14 +88,21 @@ void ShopDays::keep()
 {
     try {
         store::Transaction transaction(m_database);
-        for (std::size_t table = 0; table < m_new.size(); ++table)
-            store::DayDigests(m_database, QLatin1StringView(salesTables()[table].source)).keep(m_new[table]);
+        // A row that was changed after it was read has dropped the former digest: it must not get it back.
+        if (store::DayDigests::changesByOthers(m_database) == m_version)
+            keepNew();
         transaction.commit();
     } catch (const RuntimeFailure&) {
         // They only save time.
     }
     for (auto& digests : m_new)
         digests.clear();
+}
+
+void ShopDays::keepNew()
+{
+    for (std::size_t table = 0; table < m_new.size(); ++table)
+        store::DayDigests(m_database, QLatin1StringView(salesTables()[table].source)).keep(m_new[table]);
 }
 
 DayComparison compareDays(ShopDays& days, const PublishedDays& published)

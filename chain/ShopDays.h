@@ -36,14 +36,16 @@ public:
     [[nodiscard]] std::string digestOf(QDate day);
     /// What was just read of a day, by the order of salesTables().
     void setDigest(QDate day, std::size_t table, const std::string& digest);
-    /// Writes the digests that are new beside the sales. A file that cannot be written keeps none: the next
-    /// run reads these days once more.
+    /// Writes the digests that are new beside the sales. Once anybody has changed the file since this was
+    /// made, and when it cannot be written, it keeps none: the next run reads these days once more.
     void keep();
 
 private:
     void read(std::size_t table);
+    void keepNew();
 
     store::Database& m_database;
+    std::int64_t m_version; ///< of the file before anything was read
     /// Of each table, empty when it is not known.
     std::map<QDate, std::vector<std::string>> m_digests;
     std::vector<std::map<QDate, std::string>> m_new; ///< by table

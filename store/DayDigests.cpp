@@ -62,4 +62,10 @@ void DayDigests::keep(const std::map<QDate, std::string>& digests)
     savepoint.keep();
 }
 
+std::int64_t DayDigests::changesByOthers(Database& database)
+{
+    PreparedStatement version(database.d->connection(), "PRAGMA data_version", database.d->path());
+    return version.step() ? version.whole(0) : 0;
+}
+
 } // namespace norvane::store

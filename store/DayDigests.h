@@ -5,6 +5,7 @@
 
 #include <QDate>
 
+#include <cstdint>
 #include <map>
 #include <string>
 
@@ -26,6 +27,10 @@ public:
     /// Keeps them, in the open transaction or in one of its own. Nothing happens when the file has no room
     /// for them. @throws RuntimeFailure what the database reports.
     void keep(const std::map<QDate, std::string>& digests);
+
+    /// Differs from what it was as soon as another connection has changed anything in the file: what was read
+    /// before may no longer be so. @throws RuntimeFailure what the database reports.
+    [[nodiscard]] static std::int64_t changesByOthers(Database& database);
 
 private:
     Database::Private& m_database;
