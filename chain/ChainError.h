@@ -16,6 +16,7 @@ enum class ChainFailure {
     Unfit,     ///< a schema of another version, or another encoding
     OtherShop, ///< the shop of that name, or of that folder, is another one
     Busy,      ///< somebody publishes the same shop
+    BadRows,   ///< the shop holds what no table takes, such as sales without a PLU
     Unwritable,
     Refused ///< by the server for any other reason
 };

@@ -69,6 +69,12 @@ bool isFarewell(const pqxx::sql_error& error)
     return error.sqlstate().starts_with("57P") || error.sqlstate().starts_with("08");
 }
 
+/// The rows are at fault, not the server.
+bool isOfRows(const pqxx::sql_error& error)
+{
+    return error.sqlstate().starts_with("22") || error.sqlstate().starts_with("23");
+}
+
 } // namespace
 
 Server::Server(const QString& connection)
@@ -118,7 +124,13 @@ void Server::transact(const std::function<void(pqxx::work&)>& work)
     } catch (const pqxx::sql_error& error) {
         if (isFarewell(error))
             failGone(error.what());
+        if (isOfRows(error))
+            fail(ChainFailure::BadRows, u"PostgreSQL does not take what the shop holds"_s, error.what());
         fail(ChainFailure::Refused, u"PostgreSQL refused"_s, error.what());
+    } catch (const pqxx::in_doubt_error&) {
+        // The library's own sentence asks for a check by hand.
+        failGone("the connection was lost while rows were being committed; the next publication finds out "
+                 "whether they were.");
     } catch (const pqxx::failure& failure) {
         // It is the library that speaks: the connection has failed.
         failGone(failure.what());

@@ -35,6 +35,7 @@ constexpr auto failureCodes = std::to_array<FailureCode>({
     {ChainFailure::Unfit, ExitCode::UnfitServer, false},
     {ChainFailure::OtherShop, ExitCode::OtherShop, true},
     {ChainFailure::Busy, ExitCode::Busy, true},
+    {ChainFailure::BadRows, ExitCode::Unsound, true},
     {ChainFailure::Unwritable, ExitCode::Unwritable, true},
     {ChainFailure::Refused, ExitCode::Failed, false},
 });
@@ -171,7 +172,9 @@ void PublishRun::publishOrTell(chain::Server& server, const ApplicationValues& c
     } catch (const chain::ChainError& error) {
         if (!rowOf(error).isOfShop)
             throw;
-        note(rowOf(error).code, error.text());
+        // What the server says of rows does not name the shop.
+        const bool isNameless = error.failure() == ChainFailure::BadRows;
+        note(rowOf(error).code, isNameless ? shopName(customer) + u": "_s + error.text() : error.text());
     } catch (const RuntimeFailure& failure) {
         note(codeOf(failure), u"%1: Run-time error '%2': %3"_s.arg(shopName(customer))
                                   .arg(failure.number())

@@ -32,13 +32,38 @@ protected:
         return query(
             u"SELECT string_agg(to_char(day, 'MM') || '=' || quantity, ' ' ORDER BY day) FROM mix_sales"_s);
     }
-    /// Until a publication waits for a lock that another connection holds.
-    [[nodiscard]] bool waitsForLock() const
+    void startPublication(QProcess& command, const QString& name = shop) const
     {
+        command.start(QString::fromUtf8(COMMAND),
+                      {u"publish"_s, name, u"--to"_s, postgres().connection(m_database), u"--folder"_s,
+                       m_folder.path()});
+    }
+    /// Another connection holds an advisory lock until endHolder().
+    [[nodiscard]] bool hold(QProcess& holder, const QString& lock) const
+    {
+        postgres().queryMeanwhile(holder, m_database,
+                                  u"SELECT pg_advisory_lock(%1), pg_sleep(100)"_s.arg(lock));
         return QTest::qWaitFor(
             [this] {
+                return query(u"SELECT count(*) FROM pg_locks WHERE locktype = 'advisory' AND granted"_s) ==
+                       "1";
+            },
+            20000);
+    }
+    void endHolder(QProcess& holder) const
+    {
+        EXPECT_EQ(
+            query(u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE wait_event = 'PgSleep'"_s),
+            "t");
+        holder.waitForFinished();
+    }
+    /// Until that many publications wait for a lock that another connection holds.
+    [[nodiscard]] bool waitsForLock(const char* publications = "1") const
+    {
+        return QTest::qWaitFor(
+            [&] {
                 return query(u"SELECT count(*) FROM pg_stat_activity WHERE datname = current_database() AND "
-                             "wait_event_type = 'Lock'"_s) == "1";
+                             "wait_event_type = 'Lock'"_s) == publications;
             },
             20000);
     }
@@ -95,7 +120,7 @@ TEST_F(RefusalTest, BringsAnOlderSchemaUpAndLeavesALaterOneAlone)
 {
     EXPECT_EQ(publish({shop}).code, 0);
     EXPECT_EQ(query(u"SET client_min_messages = warning; DROP VIEW plu_lines CASCADE; DROP VIEW "
-                    u"takings_by_day CASCADE; "
+                    u"day_lines CASCADE; "
                     "DROP VIEW shops_without_collection_yesterday; UPDATE chain_version SET version = 1"_s),
               "");
     EXPECT_EQ(published({shop}), "0 0 3 0");
@@ -128,9 +153,7 @@ TEST_F(RefusalTest, GoesOnAfterAPowerCut)
     postgres().queryMeanwhile(holder, m_database,
                               u"BEGIN; LOCK norvane.mix_sales_2026_02; SELECT pg_sleep(100)"_s);
     QProcess command;
-    command.start(
-        QString::fromUtf8(COMMAND),
-        {u"publish"_s, shop, u"--to"_s, postgres().connection(m_database), u"--folder"_s, m_folder.path()});
+    startPublication(command);
     ASSERT_TRUE(waitsForLock());
     postgres().cutPower();
     EXPECT_TRUE(command.waitForFinished(-1) && holder.waitForFinished(-1));
@@ -147,17 +170,62 @@ TEST_F(RefusalTest, TwoPublicationsOfOneShopTakeTurns)
     EXPECT_EQ(publish({shop}).code, 0);
     makeShop(u"Other"_s);
     QProcess holder;
-    postgres().queryMeanwhile(holder, m_database, u"SELECT pg_advisory_lock(20086, 1), pg_sleep(100)"_s);
-    ASSERT_TRUE(QTest::qWaitFor(
-        [this] {
-            return query(u"SELECT count(*) FROM pg_locks WHERE locktype = 'advisory' AND granted"_s) == "1";
-        },
-        20000));
+    ASSERT_TRUE(hold(holder, u"20086, 1"_s));
     const Ended ended = publish({shop, u"Other"_s});
     expectRefused(ended, 5, u"Another program is publishing the shop \"Corner Shop\""_s);
     EXPECT_TRUE(ended.out.contains(u"Other"_s)) << "the other shops are published all the same";
-    holder.kill();
-    holder.waitForFinished();
+    endHolder(holder);
+}
+
+TEST_F(RefusalTest, TwoFirstPublicationsMakeOneSchema)
+{
+    makeShop(u"Other"_s);
+    QProcess holder;
+    ASSERT_TRUE(hold(holder, u"20086, 0"_s)) << "what the maker of the schema waits for";
+    QProcess first;
+    QProcess second;
+    startPublication(first);
+    startPublication(second, u"Other"_s);
+    ASSERT_TRUE(waitsForLock("2"));
+    endHolder(holder);
+    for (QProcess* const each : {&first, &second}) {
+        EXPECT_TRUE(each->waitForFinished(-1));
+        EXPECT_EQ(each->exitCode(), 0) << each->readAllStandardError().toStdString();
+    }
+    EXPECT_EQ(query(u"SELECT count(*) FROM shops"_s), "2");
+}
+
+TEST_F(RefusalTest, ADayThatChangesWhileItIsSentGoesAgain)
+{
+    EXPECT_EQ(publish({shop}).code, 0);
+    EXPECT_EQ(query(u"TRUNCATE mix_sales, published_days; "
+                    "CREATE FUNCTION halt() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
+                    "PERFORM pg_advisory_xact_lock(1); RETURN NEW; END $$; "
+                    "CREATE TRIGGER halt BEFORE INSERT ON mix_sales FOR EACH ROW "
+                    "WHEN (NEW.day = '2026-02-05') EXECUTE FUNCTION halt()"_s),
+              "");
+    change(shop, "update MIXSALES set QUANTITY = QUANTITY * 10");
+    QProcess holder;
+    ASSERT_TRUE(hold(holder, u"1"_s));
+    QProcess command;
+    startPublication(command);
+    ASSERT_TRUE(waitsForLock());
+    change(shop, "update MIXSALES set QUANTITY = 21 where SALESDATE = '2026-02-05'");
+    endHolder(holder);
+    EXPECT_TRUE(command.waitForFinished(-1));
+    EXPECT_EQ(command.exitCode(), 0) << command.readAllStandardError().toStdString();
+    EXPECT_EQ(published({shop}), "1 1 2 0");
+    EXPECT_EQ(months(), "01=10 02=21 03=30");
+}
+
+TEST_F(RefusalTest, AShopWhoseRowsDoNotFitStopsNoOther)
+{
+    makeShop(u"Other"_s);
+    change(shop, "insert into PLUSALES (SALESDATE) values ('2026-02-05')");
+    const Ended ended = publish({shop, u"Other"_s});
+    expectRefused(ended, 8, u"Corner Shop: PostgreSQL does not take what the shop holds"_s);
+    EXPECT_TRUE(ended.out.contains(u"Other"_s)) << ended.out.toStdString();
+    EXPECT_EQ(months(), "01=1") << "whole months";
 }
 
 } // namespace
