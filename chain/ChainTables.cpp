@@ -23,11 +23,11 @@ constexpr ChainColumn financialItems[] = {{"ID", "line", Content::Whole}};
 
 /// No poll file fills the sales by group: they are those of the PLUs.
 constexpr auto sales = std::to_array<SalesTable>({
-    {plus,       "plu_sales",       pluItems},
-    {times,      "time_sales",      timeItems},
-    {clerks,     "employee_sales",  employeeItems},
-    {mixes,      "mix_sales",       mixItems},
-    {financials, "financial_sales", financialItems},
+    {plus,       "plu_sales",       pluItems, 0},
+    {times,      "time_sales",      timeItems, 0},
+    {clerks,     "employee_sales",  employeeItems, 0},
+    {mixes,      "mix_sales",       mixItems, 2},
+    {financials, "financial_sales", financialItems, 0},
 });
 
 constexpr ChainColumn pluNames[] = {

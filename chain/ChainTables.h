@@ -29,6 +29,7 @@ struct SalesTable {
     const char* source; ///< in the customer's database
     const char* name;   ///< in PostgreSQL
     std::span<const ChainColumn> items;
+    int places; ///< the shop's database holds the sums times ten to this, as the register sends them
 };
 
 /// What the numbers of sales mean now. The first column is the key.

@@ -2,6 +2,7 @@
 #include "chain/SourceRows.h"
 
 #include "platform/Decimal.h"
+#include "platform/RuntimeFailure.h"
 #include "store/BoundQuery.h"
 #include "store/SalesTables.h"
 
@@ -19,7 +20,7 @@ namespace
 using store::Value;
 
 /// Stands before a digest. Change it with anything that changes what is read.
-constexpr const char* digestForm = "1:";
+constexpr const char* digestForm = "2:";
 
 std::string quoted(const std::string& field)
 {
@@ -90,8 +91,22 @@ void appendValue(std::string& line, const Value& value, Content content)
     }
 }
 
-/// Goes through a query, whose first columns are @p columns and all others sums, which come as texts.
-ReadRows readAll(store::BoundQuery& query, std::span<const ChainColumn> columns, const RowSink& sink)
+void appendSum(std::string& line, std::string_view sum, int places)
+{
+    if (places == 0) {
+        line += sum;
+        return;
+    }
+    const auto number = Decimal::parse(sum);
+    if (!number)
+        throw RuntimeFailure(Failure::Overflow, u"Overflow"_s);
+    line += number->shifted(-places).text();
+}
+
+/// Goes through a query, whose first columns are @p columns and all others sums, which come as texts and with
+/// so many @p places too few.
+ReadRows readAll(store::BoundQuery& query, std::span<const ChainColumn> columns, int places,
+                 const RowSink& sink)
 {
     ReadRows read;
     QCryptographicHash hash(QCryptographicHash::Blake2b_160);
@@ -102,7 +117,7 @@ ReadRows readAll(store::BoundQuery& query, std::span<const ChainColumn> columns,
             if (const auto column = static_cast<std::size_t>(at); column < columns.size()) {
                 appendValue(line, query.value(at), columns[column].content);
             } else {
-                line += query.value(at).textView();
+                appendSum(line, query.value(at).textView(), places);
             }
         }
         hash.addData(QByteArrayView(line));
@@ -162,13 +177,13 @@ ReadRows readDay(store::Database& database, const SalesTable& table, QDate day, 
 {
     store::BoundQuery query(database, dayStatement(table), {Value::date(day)},
                             QLatin1StringView(table.source));
-    return readAll(query, table.items, sink);
+    return readAll(query, table.items, table.places, sink);
 }
 
 ReadRows readNames(store::Database& database, const NameTable& table, const RowSink& sink)
 {
     store::BoundQuery query(database, nameStatement(table), {}, QLatin1StringView(table.source));
-    return readAll(query, table.columns, sink);
+    return readAll(query, table.columns, 0, sink);
 }
 
 bool isCurrentDigest(const std::string& digest)

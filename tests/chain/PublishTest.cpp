@@ -26,7 +26,7 @@ constexpr const char* threeDays =
     "insert into FINANCIALSALES values (2, '2026-11-01', 4, 39.03);"
     "insert into CLERKSALES values (2, 1, '2026-11-01', 4, 39.03), (3, 1, '2026-11-01', 1, 7);"
     "insert into TIMESALES values (1, '2026-11-01', 4, 39.03);"
-    "insert into MIXSALES values (5, '2026-11-01', 2, 0);";
+    "insert into MIXSALES values (5, '2026-11-01', 200, 0);";
 
 class PublishTest : public ChainTest
 {

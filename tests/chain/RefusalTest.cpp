@@ -16,8 +16,8 @@ protected:
     RefusalTest()
     {
         makeShop(shop);
-        change(shop, "insert into MIXSALES values (1, '2026-01-05', 1, 0), (1, '2026-02-05', 2, 0), "
-                     "(1, '2026-03-05', 3, 0)");
+        change(shop, "insert into MIXSALES values (1, '2026-01-05', 100, 0), (1, '2026-02-05', 200, 0), "
+                     "(1, '2026-03-05', 300, 0)");
     }
 
     void expectRefused(const Ended& ended, int code, const QString& text) const
@@ -210,7 +210,7 @@ TEST_F(RefusalTest, ADayThatChangesWhileItIsSentGoesAgain)
     QProcess command;
     startPublication(command);
     ASSERT_TRUE(waitsForLock());
-    change(shop, "update MIXSALES set QUANTITY = 21 where SALESDATE = '2026-02-05'");
+    change(shop, "update MIXSALES set QUANTITY = 2100 where SALESDATE = '2026-02-05'");
     endHolder(holder);
     EXPECT_TRUE(command.waitForFinished(-1));
     EXPECT_EQ(command.exitCode(), 0) << command.readAllStandardError().toStdString();
