@@ -188,7 +188,8 @@ void PublishRun::publish(chain::Server& server, const ApplicationValues& custome
     // shops can collect.
     const auto lock = FolderLock::take(customer.customerPath, m_workplace.boxes);
     if (lock == nullptr) {
-        note(ExitCode::Busy, {});
+        // The box does not name the shop.
+        note(ExitCode::Busy, u"\"%1\" was not published."_s.arg(shopName(customer)));
         return;
     }
     customers::LoggedWork work(customer.customerPath, u"publication"_s);
