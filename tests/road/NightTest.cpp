@@ -126,7 +126,8 @@ TEST(Night, OfTwoShopsWithARegisterOffCanBePlayedAgain)
     const QStringList report = north.report();
     const QString published = chainSales(server);
     const QString netOfNorth = u"North Gate|"_s + QString::number(rung, 'f', 2);
-    EXPECT_TRUE(published.endsWith(netOfNorth) && published.count(u'\n') > 100) << published.toStdString();
+    EXPECT_TRUE(published.endsWith(netOfNorth + u"\nSouth Gate|"_s) && published.count(u'\n') > 100)
+        << published.toStdString();
     EXPECT_EQ(north.night(chain), u"0 "_s);
     EXPECT_EQ(north.sales(), sales);
     EXPECT_EQ(north.report(), report);
