@@ -205,12 +205,14 @@ void filterList(benchmark::State& state)
     Shop shop;
     const auto database = std::make_shared<store::Database>(shop.values.databasePath);
     fillPlus(*database);
+    QWidget form;
     screens::RecordList list(database,
                              {QStringLiteral("PLUDATA"), QStringLiteral("plunumber"),
                               QStringLiteral("PLUNUMBER"), QStringLiteral("DESCRIPTION")},
-                             nullptr);
-    list.resize(280, 500);
-    list.show();
+                             &form);
+    form.resize(280, 500);
+    list.resize(form.size());
+    form.show();
     state.counters["open_ms"] =
         1e3 * bench::secondsOf([&] {
             list.toggle();

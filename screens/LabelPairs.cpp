@@ -30,10 +30,11 @@ Widget* nextInRow(const QWidget& widget, const QVector<Widget*>& others)
 {
     Widget* nearest = nullptr;
     int distance = std::numeric_limits<int>::max();
+    const int farthest = widget.geometry().right() + ui::scaled(neighbourGap);
     for (Widget* const other : others) {
         const int gap = other->x() - widget.geometry().center().x();
-        const bool isNear = other->x() - widget.geometry().right() <= ui::scaled(neighbourGap);
-        if (other != &widget && gap > 0 && isNear && gap < distance && inOneRow(widget, *other)) {
+        if (other != &widget && gap > 0 && other->x() <= farthest && gap < distance &&
+            inOneRow(widget, *other)) {
             nearest = other;
             distance = gap;
         }
