@@ -190,12 +190,13 @@ QList<SafetyCopy> safetyCopies(const QString& customerPath)
 {
     const QString folder = copiesFolder(customerPath);
     QList<SafetyCopy> copies;
-    for (const QString& name :
-         QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::Reversed)) {
+    // The names tell the second alone; of two copies within one the folders know which came later.
+    for (const QString& name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Time)) {
         SafetyCopy copy = copyOfFolder(folder, name);
         if (copy.made.isValid())
             copies.append(std::move(copy));
     }
+    std::ranges::stable_sort(copies, std::ranges::greater(), &SafetyCopy::made);
     return copies;
 }
 

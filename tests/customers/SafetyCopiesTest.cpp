@@ -91,6 +91,15 @@ TEST_F(SafetyCopiesTest, TheLastTenStayAndThoseOfAWeek)
     EXPECT_EQ(names().back(), u"2026-11-18 12.00.00 x"_s);
 }
 
+TEST_F(SafetyCopiesTest, OfOneSecondTheLaterOneStandsFirst)
+{
+    const QDateTime now({2026, 11, 25}, {18, 30, 12});
+    for (const char* const reason : {"before upload", "before price run", "before restore"})
+        makeSafetyCopy(m_values.customerPath, QString::fromLatin1(reason), store::CopyOf::Programme, now);
+    EXPECT_TRUE(names().front().endsWith(u"before restore"_s));
+    EXPECT_TRUE(names().back().endsWith(u"before upload"_s));
+}
+
 TEST_F(SafetyCopiesTest, WithoutRoomNothingIsLeftAndTheJobDoesNotStart)
 {
     {
