@@ -156,6 +156,7 @@ QString exchangeDatabase(const QString& customerPath, const QString& made)
         move(made, database);
     } catch (const RuntimeFailure&) {
         QFile::rename(joinPath(customerPath, aside), database);
+        QFile::rename(joinPath(customerPath, aside + u"-journal"_s), database + u"-journal"_s);
         throw;
     }
     return aside;
