@@ -1,23 +1,47 @@
 # Completion of norvane-shop for bash: source this file, or put it into /usr/share/bash-completion/completions.
+#
+# Names of customers are names of folders, so anybody may have chosen them: they are compared and quoted as plain text,
+# and never reach anything that expands them.
+
+# Prints the names of the customers, one in each line.
+_norvane_shop_customers()
+{
+    "$1" customers --json 2>/dev/null | sed -n -e 's/\\"/"/g; s/\\\\/\\/g; s/^ *"name": "\(.*\)",$/\1/p'
+}
+
+# Prints a name as it must be typed after the opening quote $1, if any.
+_norvane_shop_quoted()
+{
+    case $1 in
+        \") sed 's/[\\"$`]/\\&/g' <<< "$2" ;;
+        \') printf '%s\n' "${2//\'/\'\\\'\'}" ;;
+        *) printf '%q\n' "$2" ;;
+    esac
+}
+
 _norvane_shop()
 {
-    local word=${COMP_WORDS[COMP_CWORD]}
-    local IFS=$'\n'
-    local choices
+    local word=${COMP_WORDS[COMP_CWORD]} quote= choice
+    local -a choices
+    case $word in
+        [\"\']*) quote=${word:0:1} word=${word:1} ;;
+    esac
+    [ "$quote" = \' ] || word=$(sed 's/\\\(.\)/\1/g' <<< "$word")
+
     if [ "$COMP_CWORD" -eq 1 ]; then
         # The help names each command at the beginning of a line.
-        choices=$("$1" --help 2>/dev/null | sed -n 's/^norvane-shop \([a-z]*\).*/\1/p')
+        mapfile -t choices < <("$1" --help 2>/dev/null | sed -n 's/^norvane-shop \([a-z]*\).*/\1/p')
     elif [ "${COMP_WORDS[COMP_CWORD - 1]}" = --vanished ]; then
-        choices=$'keep\nremove'
-    elif [ "$COMP_CWORD" -eq 2 ] || { [ "${COMP_WORDS[1]}" = publish ] && [ "${word#-}" = "$word" ]; }; then
-        choices=$("$1" customers --json 2>/dev/null | sed -n 's/^ *"name": "\(.*\)",$/\1/p')
+        choices=(keep remove)
+    elif [ "${word#-}" = "$word" ] && { [ "$COMP_CWORD" -eq 2 ] || [ "${COMP_WORDS[1]}" = publish ]; }; then
+        mapfile -t choices < <(_norvane_shop_customers "$1")
     else
-        choices=$("$1" --help 2>/dev/null | sed -n 's/^ *\(--[a-z]*\).*/\1/p' | sort -u)
+        mapfile -t choices < <("$1" help "${COMP_WORDS[1]}" 2>/dev/null | sed -n 's/^ *\(--[a-z-]*\).*/\1/p')
     fi
+
     COMPREPLY=()
-    local choice
-    for choice in $(compgen -W "$choices" -- "$word"); do
-        COMPREPLY+=("$(printf '%q' "$choice")")
+    for choice in "${choices[@]}"; do
+        [ "${choice:0:${#word}}" != "$word" ] || COMPREPLY+=("$(_norvane_shop_quoted "$quote" "$choice")")
     done
 }
 complete -o default -F _norvane_shop norvane-shop
