@@ -2,11 +2,11 @@
 #include "platform/FilePaths.h"
 
 #include "platform/RuntimeFailure.h"
+#include "platform/WholeFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace norvane
 {
@@ -120,18 +120,13 @@ QByteArray readWholeFile(const QString& path)
 
 void writeWholeFile(const QString& path, const QByteArray& content)
 {
-    // Written beside the old file and then put in its place: there is no other copy of the customer's
-    // register files.
-    QSaveFile file(pathForWriting(path));
-    if (!file.open(QIODevice::WriteOnly))
-        failAccess(path, file.errorString());
-    // A full disk takes part of the bytes and reports no error.
-    if (file.write(content) != content.size() || !file.flush())
-        file.cancelWriting();
-    if (!file.commit()) {
+    const auto error = replaceWholeFile(pathForWriting(path), content);
+    if (!error)
+        return;
+    if (error->failure == Failure::DiskFull)
         throw RuntimeFailure(Failure::DiskFull,
-                             QStringLiteral("Disk full: %1 (%2)").arg(path, file.errorString()));
-    }
+                             QStringLiteral("Disk full: %1 (%2)").arg(path, error->reason));
+    failAccess(path, error->reason);
 }
 
 } // namespace norvane

@@ -1,10 +1,10 @@
 // See TargetFile.h.
 #include "reports/TargetFile.h"
 
+#include "platform/WholeFile.h"
 #include "reports/ReportRun.h"
 
 #include <QDir>
-#include <QSaveFile>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,13 +18,8 @@ void failWriting(const QString& path, const QString& reason)
 
 void replaceFile(const QString& path, const QByteArray& content)
 {
-    QSaveFile file(path);
-    // When the disk becomes full, a write stores a part of the content and reports no error.
-    const bool isWhole = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-    if (!isWhole && file.error() == QFileDevice::NoError)
-        failWriting(path, u"the disk is full."_s);
-    if (!isWhole || !file.commit())
-        failWriting(path, file.errorString());
+    if (const auto error = replaceWholeFile(path, content))
+        failWriting(path, error->reason);
 }
 
 } // namespace norvane::reports

@@ -7,8 +7,8 @@
 namespace norvane::reports
 {
 
-/// Writes @p content to a file beside @p path and then renames it to @p path.
-/// @throws ReportError when not all of it can be written; a former file stays then.
+/// Replaces the file @p path, or writes to the device that it names.
+/// @throws TargetError when not all of @p content can be written; a former file stays then.
 void replaceFile(const QString& path, const QByteArray& content);
 
 /// @throws ReportError that names @p path and the reason.

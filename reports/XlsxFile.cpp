@@ -1,9 +1,11 @@
 // Writes the spreadsheet; see ReportFiles.h.
+#include "platform/WholeFile.h"
 #include "reports/ColumnPlaces.h"
 #include "reports/ReportFiles.h"
 #include "reports/SpreadsheetCheck.h"
 #include "reports/TargetFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLocale>
 #include <QTemporaryFile>
@@ -193,7 +195,8 @@ private:
 /// @return the file's content.
 QByteArray spreadsheet(const ReportData& report, const QString& path, const KeepGoing& keepGoing)
 {
-    QTemporaryFile beside(path + u".XXXXXX"_s);
+    // On the disk of the target, where there is room for it if anywhere; but nothing is made beside a device.
+    QTemporaryFile beside((isReplaceable(path) ? path : QDir::temp().filePath(u"report"_s)) + u".XXXXXX"_s);
     if (!beside.open())
         failWriting(path, beside.errorString());
     const QByteArray name = QFile::encodeName(beside.fileName());

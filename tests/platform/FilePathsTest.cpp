@@ -4,6 +4,10 @@
 #include "tests/platform/FullDisk.h"
 #include "tests/platform/TestFolder.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace norvane
 {
 namespace
@@ -58,6 +62,19 @@ TEST(FilePaths, AFullDiskLeavesTheFormerFileWhole)
     }
     EXPECT_EQ(folder.read("67.dat"), "former");
     EXPECT_EQ(folder.names(), QStringList{QStringLiteral("67.dat")});
+}
+
+TEST(FilePaths, APipeOrDeviceIsWrittenInPlace)
+{
+    const TestFolder folder;
+    const QByteArray pipe = folder.path("pipe").toLocal8Bit();
+    ASSERT_EQ(mkfifo(pipe, 0600), 0);
+    const int reader = open(pipe, O_RDONLY | O_NONBLOCK); // NOLINT(cppcoreguidelines-pro-type-vararg)
+    writeWholeFile(folder.path("pipe"), "abc");
+    char written[4]{};
+    ASSERT_EQ(read(reader, written, sizeof written), 3);
+    close(reader);
+    EXPECT_EQ(failureOf([] { writeWholeFile(u"/dev/full"_s, "x"); }), 61);
 }
 
 } // namespace
