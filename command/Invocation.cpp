@@ -2,6 +2,7 @@
 #include "command/Invocation.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -52,35 +53,81 @@ QString optionLines(std::span<const OptionDefinition> options)
     return lines;
 }
 
+QString linesOf(const Verb& verb)
+{
+    return usageOf(verb) + u"\n    "_s + verb.text + u'\n' + optionLines(verb.options);
+}
+
+QString commonLines()
+{
+    return u"\nWith every command:\n"_s + optionLines(commonOptions());
+}
+
+QString helpOf(const Verb& verb)
+{
+    return linesOf(verb) + commonLines();
+}
+
+QString helpOfAll()
+{
+    QString text = u"norvane-shop: the Norvane utility without a window.\n\n"_s;
+    for (const Verb& verb : verbs())
+        text += linesOf(verb);
+    text += commonLines() + u"\nExit codes:\n"_s;
+    for (const auto& meaning : exitMeanings())
+        text += u"    %1  %2\n"_s.arg(static_cast<int>(meaning.code)).arg(meaning.text);
+    return text;
+}
+
+/// Moves the options before the verb behind it: "--json report X" becomes "report --json X".
+QStringList verbFirst(const QStringList& words)
+{
+    QCommandLineParser parser;
+    addOptions(parser, commonOptions());
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    if (!parser.parse(QStringList{u"norvane-shop"_s} + words))
+        throw CommandError(ExitCode::Usage, parser.errorText());
+    const QStringList rest = parser.positionalArguments();
+    if (rest.isEmpty())
+        throw CommandError(ExitCode::Usage, helpOfAll());
+    return rest.first(1) + words.first(words.size() - rest.size()) + rest.sliced(1);
+}
+
 } // namespace
+
+std::optional<QString> requestedHelp(const QStringList& words)
+{
+    if (words.value(0) == "help"_L1)
+        return words.size() > 1 && !words[1].startsWith(u'-') ? helpOf(verbOf(words[1])) : helpOfAll();
+    // What follows "--" is data.
+    const auto end = std::ranges::find(words, u"--"_s);
+    const auto has = [&](QLatin1StringView option) {
+        return std::find(words.begin(), end, option) != end;
+    };
+    if (has("--version"_L1))
+        return u"norvane-shop %1\n"_s.arg(QCoreApplication::applicationVersion());
+    if (!has("--help"_L1) && !has("-h"_L1))
+        return std::nullopt;
+    const auto all = verbs();
+    const auto verb = std::ranges::find_if(all, [&](const Verb& each) { return words.front() == each.name; });
+    return verb == all.end() ? helpOfAll() : helpOf(*verb);
+}
 
 std::pair<const Verb*, Invocation> parse(const QStringList& words)
 {
-    if (words.isEmpty())
-        throw CommandError(ExitCode::Usage, helpText());
-    const Verb& verb = verbOf(words.front());
+    const QStringList ordered = verbFirst(words);
+    const Verb& verb = verbOf(ordered.front());
     QCommandLineParser parser;
     addOptions(parser, commonOptions());
     addOptions(parser, verb.options);
     // The parser takes the first word for the program's name.
-    if (!parser.parse(words))
+    if (!parser.parse(ordered))
         throw CommandError(ExitCode::Usage, parser.errorText() + u"\nUsage: "_s + usageOf(verb));
     Invocation invocation{parser.positionalArguments(), {}};
     checkOperands(verb, invocation.operands.size());
     for (const QString& name : parser.optionNames())
         invocation.options.insert(name, parser.value(name));
     return {&verb, invocation};
-}
-
-QString helpText()
-{
-    QString text = u"norvane-shop: the Norvane utility without a window.\n\n"_s;
-    for (const Verb& verb : verbs())
-        text += usageOf(verb) + u"\n    "_s + verb.text + u'\n' + optionLines(verb.options);
-    text += u"\nWith every command:\n"_s + optionLines(commonOptions()) + u"\nExit codes:\n"_s;
-    for (const auto& meaning : exitMeanings())
-        text += u"    %1  %2\n"_s.arg(static_cast<int>(meaning.code)).arg(meaning.text);
-    return text;
 }
 
 } // namespace norvane::command

@@ -21,7 +21,7 @@ struct OptionDefinition {
 
 /// A command line as it was typed, checked against its verb.
 struct Invocation {
-    QStringList operands; ///< behind the verb
+    QStringList operands; ///< after the verb
     QHash<QString, QString> options;
 
     [[nodiscard]] bool has(QLatin1StringView option) const { return options.contains(option); }
@@ -46,11 +46,14 @@ struct Verb {
 /// Options that stand with any verb.
 [[nodiscard]] std::span<const OptionDefinition> commonOptions();
 
-/// The verb and the words behind it. @param words without the program's own name.
+/// The verb, its operands and options. Common options may also come before the verb.
+/// @param words without the program's own name.
 /// @throws CommandError Usage for an unknown verb or option, a missing value, too few or too many operands.
 [[nodiscard]] std::pair<const Verb*, Invocation> parse(const QStringList& words);
 
-/// All verbs, options and exit codes.
-[[nodiscard]] QString helpText();
+/// What to print when @p words ask for help or for the version: "help", "help report", "report --help", "-h",
+/// "--version". @return nothing for other words.
+/// @throws CommandError Usage for help on an unknown verb.
+[[nodiscard]] std::optional<QString> requestedHelp(const QStringList& words);
 
 } // namespace norvane::command

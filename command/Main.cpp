@@ -9,8 +9,6 @@
 #include <QDir>
 #include <QGuiApplication>
 
-#include <cstdio>
-
 using namespace norvane;
 using namespace norvane::command;
 using namespace Qt::Literals::StringLiterals;
@@ -20,6 +18,10 @@ namespace
 
 void run(const QStringList& words)
 {
+    if (const auto help = requestedHelp(words)) {
+        print(help->toLocal8Bit());
+        return;
+    }
     const auto [verb, invocation] = parse(words);
     const QString started = QDir::currentPath();
     const QString folder = invocation.has("folder"_L1)
@@ -70,10 +72,6 @@ int main(int argc, char** argv)
     // Pages are painted with the fonts of the system, but no window opens.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    const QStringList words = QCoreApplication::arguments().mid(1);
-    if (words.contains("--help"_L1)) {
-        std::fputs(qPrintable(helpText()), stdout);
-        return 0;
-    }
-    return static_cast<int>(guarded(words));
+    QCoreApplication::setApplicationVersion(QLatin1StringView(NORVANE_VERSION));
+    return static_cast<int>(guarded(QCoreApplication::arguments().mid(1)));
 }

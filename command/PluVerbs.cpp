@@ -27,7 +27,7 @@ constexpr std::size_t mistakesShown = 100;
 
 void exportTo(const Workplace& workplace, const ApplicationValues& values, const QString& path)
 {
-    const QString ending = QFileInfo(path).suffix().toLower();
+    const QString ending = path == standardOutput ? u"csv"_s : QFileInfo(path).suffix().toLower();
     if (ending != "csv"_L1 && ending != "xlsx"_L1)
         throw CommandError(ExitCode::Usage, u"Name a file that ends in .csv or .xlsx."_s);
     store::Database database(values.databasePath);
@@ -36,7 +36,8 @@ void exportTo(const Workplace& workplace, const ApplicationValues& values, const
     plus.heading.customer = customerOf(values, values.databasePath);
     plus.heading.printed = QDateTime::currentDateTime();
     plus.heading.notice = u"There are no PLUs."_s;
-    (ending == "csv"_L1 ? reports::writeCsv : reports::writeXlsx)(plus, workplace.userFile(path), {});
+    const auto write = ending == "csv"_L1 ? reports::writeCsv : reports::writeXlsx;
+    workplace.writeUserFile(path, [&](const QString& file) { write(plus, file, {}); });
 }
 
 /// @throws CommandError BadFile

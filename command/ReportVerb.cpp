@@ -1,9 +1,9 @@
 // A report into files.
 #include "base/CustomerSettings.h"
+#include "command/ReportPeriods.h"
 #include "command/Verbs.h"
 #include "platform/FilePaths.h"
 #include "reports/ReportFiles.h"
-#include "sales/ReportEntries.h"
 
 #include <algorithm>
 #include <array>
@@ -15,47 +15,11 @@ namespace norvane::command
 namespace
 {
 
-/// The word of a period on the command line, and how the formulas of the menu say it.
-struct PeriodWord {
-    QLatin1StringView word;
-    QLatin1StringView inFormula;
-};
-constexpr auto periods = std::to_array<PeriodWord>({
-    {"week"_L1, "WeekToDateFromSun"_L1},
-    {"month"_L1, "monthtodate"_L1},
-    {"year"_L1, "YearToDate"_L1},
-});
-constexpr auto dayWord = "day"_L1;
-
-/// The entries of the menu that open the layout @p name.
-auto entriesOf(const QString& name)
-{
-    std::vector<const sales::ReportEntry*> found;
-    for (const auto& entry : sales::reportEntries()) {
-        if (QString(entry.file).mid(1).compare(name + u".rpt"_s, Qt::CaseInsensitive) == 0)
-            found.push_back(&entry);
-    }
-    return found;
-}
-
-/// @throws CommandError Usage for a report that has no such period.
-const sales::ReportEntry& entryOfPeriod(const QString& name, const QString& period)
-{
-    const auto* const word =
-        std::ranges::find_if(periods, [&](const auto& each) { return period == each.word; });
-    for (const auto* const entry : entriesOf(name)) {
-        const bool isOfDay = entry->formula.isEmpty() && entry->mode && !entry->mode->isEmpty();
-        if (period == dayWord ? isOfDay : word != periods.end() && entry->formula.endsWith(word->inFormula))
-            return *entry;
-    }
-    throw CommandError(ExitCode::Usage, u"The report %1 has no period \"%2\"."_s.arg(name, period));
-}
-
 QDate dayOf(const QString& text)
 {
     const QDate day = QDate::fromString(text, Qt::ISODate);
     if (!day.isValid())
-        throw CommandError(ExitCode::Usage, u"\"%1\" is no day such as 2026-11-25."_s.arg(text));
+        throw CommandError(ExitCode::Usage, u"\"%1\" is not a day such as 2026-11-25."_s.arg(text));
     return day;
 }
 
@@ -65,7 +29,7 @@ void selectPeriod(reports::ReportRequest& request, const QString& name, const In
     const bool ofOneDay = words.has("day"_L1);
     if (!ofOneDay && !words.has("period"_L1))
         return;
-    const auto& entry = entryOfPeriod(name, ofOneDay ? QString(dayWord) : words.value("period"_L1));
+    const auto& entry = entryOfPeriod(name, ofOneDay ? QString(dayPeriod) : words.value("period"_L1));
     request.reportTitle = entry.title;
     request.selectionFormula = entry.formula;
     if (entry.formula.isEmpty()) {
@@ -121,7 +85,8 @@ void report(const Workplace& workplace, const Invocation& words)
     const reports::ReportData data = reports::runReport(request);
     for (const auto& target : targets) {
         if (words.has(target.option))
-            target.write(data, workplace.userFile(words.value(target.option)));
+            workplace.writeUserFile(words.value(target.option),
+                                    [&](const QString& path) { target.write(data, path); });
     }
 }
 

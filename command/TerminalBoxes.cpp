@@ -1,6 +1,8 @@
 // See TerminalBoxes.h.
 #include "command/TerminalBoxes.h"
 
+#include "command/ExitCode.h"
+
 #include <cstdio>
 
 #ifdef Q_OS_UNIX
@@ -32,6 +34,15 @@ bool isTerminal()
 }
 
 } // namespace
+
+void print(const QByteArray& bytes)
+{
+    const auto size = static_cast<std::size_t>(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0) {
+        throw CommandError(ExitCode::Unwritable,
+                           u"Standard output could not be written: %1."_s.arg(qt_error_string()));
+    }
+}
 
 void tell(const QString& text)
 {

@@ -14,11 +14,13 @@ constexpr auto common = std::to_array<OptionDefinition>({
     {"folder"_L1, "DIR"_L1,
      "work in this folder of the program instead of NORVANE_FOLDER or the one that holds norvane-shop"_L1},
     {"json"_L1, {}, "listings as JSON"_L1},
+    {"help"_L1, {}, "what a command does, as \"help COMMAND\" and \"-h\" do"_L1},
+    {"version"_L1, {}, "the version of the program"_L1},
 });
 constexpr auto reportOptions = std::to_array<OptionDefinition>({
     {"period"_L1, "PERIOD"_L1, "day, week, month or year: the period that ends today"_L1},
     {"day"_L1, "DAY"_L1, "the sales of one day: 2026-11-25"_L1},
-    {"pdf"_L1, "FILE"_L1, "write the pages"_L1},
+    {"pdf"_L1, "FILE"_L1, "write the pages; \"-\" for standard output, here and below"_L1},
     {"csv"_L1, "FILE"_L1, "write the lines as CSV"_L1},
     {"xlsx"_L1, "FILE"_L1, "write the lines as a spreadsheet"_L1},
 });
@@ -46,6 +48,8 @@ constexpr auto all = std::to_array<Verb>({
      "Writes a report: plusales, finsales, clerksales, timesales, mixsales, pluprice or any layout of the program's folder."_L1, report},
     {"plus"_L1, "CUSTOMER export|import FILE"_L1, 3, 3, plusOptions,
      "Exports number, description, group, status and prices of all PLUs as FILE.csv or FILE.xlsx; imports such a CSV file: known PLUs are changed, new ones added, wholly or not at all."_L1, movePlus},
+    {"boxes"_L1, {}, 0, 0, {}, "Lists the boxes of the exchange dialog, which fetch and send take by number or name."_L1, listBoxes},
+    {"reports"_L1, {}, 0, 0, {}, "Lists the reports with their titles and the periods that --period takes."_L1, listReports},
     {"copies"_L1, "CUSTOMER"_L1, 1, 1, {}, "Lists the safety copies, the latest first."_L1, listCopies},
     {"restore"_L1, "CUSTOMER COPY"_L1, 2, 2, {},
      "Puts the customer back as a safety copy holds it, after a copy of how it stands now. COPY is a name or its beginning."_L1, restore},

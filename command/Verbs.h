@@ -17,6 +17,8 @@ void report(const Workplace& workplace, const Invocation& words);
 void movePlus(const Workplace& workplace, const Invocation& words);
 void listCopies(const Workplace& workplace, const Invocation& words);
 void restore(const Workplace& workplace, const Invocation& words);
+void listBoxes(const Workplace& workplace, const Invocation& words);
+void listReports(const Workplace& workplace, const Invocation& words);
 void publish(const Workplace& workplace, const Invocation& words);
 
 } // namespace norvane::command

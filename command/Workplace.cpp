@@ -2,6 +2,7 @@
 #include "command/Workplace.h"
 
 #include "command/ExitCode.h"
+#include "command/TerminalBoxes.h"
 #include "customers/CustomerFolders.h"
 #include "customers/RunLock.h"
 #include "customers/SafetyCopies.h"
@@ -11,8 +12,7 @@
 
 #include <QDir>
 #include <QFileInfo>
-
-#include <cstdio>
+#include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,10 +24,22 @@ QString Workplace::userFile(const QString& name) const
     return QDir(startedIn).absoluteFilePath(name);
 }
 
+void Workplace::writeUserFile(const QString& name,
+                              const std::function<void(const QString& path)>& write) const
+{
+    if (name != standardOutput) {
+        write(userFile(name));
+        return;
+    }
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"output"_s);
+    write(path);
+    print(readWholeFile(path));
+}
+
 void Workplace::show(const Listing& listing) const
 {
-    const QByteArray text = asJson ? listing.json() : listing.text();
-    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+    print(asJson ? listing.json() : listing.text());
 }
 
 namespace

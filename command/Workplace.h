@@ -7,6 +7,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace norvane::customers
 {
 class RunLock;
@@ -14,6 +16,9 @@ class RunLock;
 
 namespace norvane::command
 {
+
+/// What the user writes in place of a file's name for standard output.
+inline constexpr QLatin1StringView standardOutput("-");
 
 struct Workplace {
     QString appPath;   ///< the program's folder, which is the working directory
@@ -23,6 +28,9 @@ struct Workplace {
 
     /// The path of a file that the user named.
     [[nodiscard]] QString userFile(const QString& name) const;
+    /// Has @p write write the file that the user named; "-" is standard output.
+    /// @throws CommandError Unwritable, and what @p write throws.
+    void writeUserFile(const QString& name, const std::function<void(const QString& path)>& write) const;
     /// Writes a listing to standard output.
     void show(const Listing& listing) const;
 };
