@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what building and running the program needs on Debian 12, if anything is missing.
-#   --checks   also what .ci/run checks the sources with, and a print server for a test's own queue
+#   --checks   also what .ci/run and scripts/mutate.py check the sources with, and a print server for a test's own queue
 #   --clang    also the compiler of the preset clang
 #   --packages also what ./package.sh makes packages with
 #   --fuzz     also what the preset fuzz needs: that compiler, libFuzzer and its sanitizers
@@ -16,7 +16,7 @@ packages=(
 )
 for option in "$@"; do
   case "$option" in
-    --checks) packages+=(clang-format clang-tidy cups-daemon cups-client) ;;
+    --checks) packages+=(clang-format clang-tidy cups-daemon cups-client python3) ;;
     --clang) packages+=(clang-16) ;;
     --packages) packages+=(dpkg-dev file patchelf) ;;
     --fuzz) packages+=(clang-16 libclang-rt-16-dev) ;;
