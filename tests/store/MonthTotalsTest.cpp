@@ -86,6 +86,14 @@ TEST_F(MonthTotalsTest, GiveWhatTheRowsAddUpTo)
     EXPECT_EQ(answer(u"select exact_sum(VALUE) from "_s + m_totals.rows(twoYears, {u"value"_s})), "2.1");
 }
 
+TEST_F(MonthTotalsTest, AMonthIsWholeWithItsLastDay)
+{
+    const QVector<QDate> february{{2028, 2, 1}};
+    EXPECT_EQ(m_totals.missing({{2028, 2, 1}, {2028, 2, 29}}, {2028, 3, 1}), february);
+    EXPECT_TRUE(m_totals.missing({{2028, 2, 1}, {2028, 2, 28}}, {2028, 3, 1}).isEmpty());
+    EXPECT_TRUE(m_totals.missing({{2028, 2, 1}, {2028, 2, 29}}, {2028, 2, 29}).isEmpty()) << "still selling";
+}
+
 const std::pair<const char*, const char*> changes[] = {
     {"insert into CLERKSALES values (1, 1, '2028-01-15', 1, 1000000000000000.25)", "2027-12 2028-02"},
     {"update CLERKSALES set VALUE = VALUE + 1 where SALESDATE = '2028-02-29'", "2027-12 2028-01"},

@@ -84,6 +84,7 @@ TEST_F(QueryTest, RowsOfOneTableCanBeChangedAndComputedOnesCannot)
     rows.moveFirst();
     EXPECT_EQ(rows.value(0), text("2")); // the deleted row is passed over
     rows.deleteRecord();
+    EXPECT_EQ(rows.recordCount(), 1);
     EXPECT_EQ(found(u"items"_s).substr(0, 2), "1|");
     EXPECT_EQ(failureOf([&] { rows.addNew(); }), 3027);
 

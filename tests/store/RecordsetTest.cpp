@@ -1,7 +1,9 @@
 // Walking, seeking and storing records of a table.
 #include "tests/store/StoreFolder.h"
 
+#include <chrono>
 #include <functional>
+#include <thread>
 
 namespace norvane::store::test
 {
@@ -92,6 +94,33 @@ TEST_F(RecordsetTest, AWalkSeesWhatComesAndGoesAheadOfIt)
     EXPECT_EQ(numbersOf(m_records), "100 100x 200 200x 300 300x");
 }
 
+/// A walk reads ahead, but another window of the program or another program may store in the meantime.
+TEST_F(RecordsetTest, AWalkShowsWhatAnotherWindowHasStored)
+{
+    for (int i = 100; i < 200; ++i)
+        add(m_records, {{"NUMBER", Value::whole(i)}, {"GROUPNO", Value::whole(0)}});
+    auto sameProgram = m_database.openTable(items);
+    Database elsewhere(m_folder.path());
+    auto otherProgram = elsewhere.openTable(items);
+    m_records.moveFirst();
+    for (const auto pace : {std::chrono::milliseconds(0), std::chrono::milliseconds(60)}) {
+        for (auto* other : {&sameProgram, &otherProgram}) {
+            for (int step = 0; step < 12; ++step) {
+                std::this_thread::sleep_for(pace);
+                m_records.moveNext();
+            }
+            ASSERT_TRUE(other->seek(Seek::Equal, Value::whole(std::stoi(number()) + 1)));
+            other->edit();
+            other->setValue(group, Value::whole(7));
+            other->update();
+            // No user changes from one program to the other faster.
+            std::this_thread::sleep_for(std::chrono::milliseconds(other == &otherProgram ? 60 : 0));
+            m_records.moveNext();
+            EXPECT_EQ(m_records.value(group), Value::whole(7)) << number();
+        }
+    }
+}
+
 TEST_F(RecordsetTest, HoldsItsPlaceWhereTheRecordWasDeleted)
 {
     fill();
@@ -162,6 +191,24 @@ TEST_F(RecordsetTest, ADeletedRecordNeverBecomesAnotherThatComesLater)
     }
 }
 
+TEST_F(RecordsetTest, ARowNumberIsGivenOnceByARecordsetThatGoesOnAdding)
+{
+    auto watching = m_database.openTable(items);
+    Database elsewhere(m_folder.path());
+    int next = 10;
+    const auto replaceLast = [&](Database& deleting) {
+        add(m_records, {{"NUMBER", Value::whole(++next)}});
+        watching.moveLast();
+        deleting.execute(u"delete * from items where number = '%1'"_s.arg(next));
+        add(m_records, {{"NUMBER", Value::whole(++next)}});
+        EXPECT_EQ(failureOf([&] { watching.edit(); }), 3167);
+    };
+    replaceLast(m_database);
+    replaceLast(elsewhere);
+    const Transaction transaction(m_database); // as an upload has
+    replaceLast(m_database);
+}
+
 const struct {
     const char* index;
     Seek comparison;
@@ -179,7 +226,11 @@ const struct {
              {"bygroup", Seek::AtOrAfter, text(""), "02a"},
              {"bygroup", Seek::Equal, text(""), ""},
              {"bylink", Seek::AtOrAfter, text("1000000000000000000003"), "04a"},
-             {"bylink", Seek::Equal, text("010000000000000000000010"), "010a"}};
+             {"bylink", Seek::Equal, text("010000000000000000000010"), "010a"},
+             {"bylink", Seek::AtOrAfter, text("-99999999999"), "04b"},
+             {"bylink", Seek::AtOrAfter, text("-99"), "02b"},
+             {"bylink", Seek::AtOrAfter, text("0"), "02a"},
+             {"bylink", Seek::AtOrAfter, text("-1"), "02a"}};
 
 TEST_F(RecordsetTest, SeeksByTheCurrentIndex)
 {
@@ -188,6 +239,8 @@ TEST_F(RecordsetTest, SeeksByTheCurrentIndex)
                         {"GROUPNO", Value::text(each)},
                         {"#OfCondiments", Value::text("100000000000000000000" + each)}});
     }
+    add(m_records, {{"NUMBER", text("02b")}, {"GROUPNO", text("20")}, {"#OfCondiments", text("-12")}});
+    add(m_records, {{"NUMBER", text("04b")}, {"GROUPNO", text("20")}, {"#OfCondiments", text("-123")}});
     for (const auto& [index, comparison, key, found] : seeks) {
         m_records.setIndex(QString::fromUtf8(index));
         EXPECT_EQ(m_records.seek(comparison, key), *found != '\0') << index << ' ' << key.toUtf8();

@@ -60,6 +60,8 @@ const struct {
     {"#OfCondiments", longDigits, longDigits, 0},
     {"#OfCondiments", text(" 0012 "), text("0012"), 0},
     {"#OfCondiments", Value::whole(9007199254740993), text("9007199254740993"), 0},
+    {"#OfCondiments", text("-0012"), text("-0012"), 0},
+    {"#OfCondiments", text("-"), {}, 3421},
     {"#OfCondiments", text("1x"), {}, 3421},
     {"TAX/x", Value::whole(7), Value::yesNo(true), 0},
     {"TAX/x", text("Yes"), Value::yesNo(true), 0},
