@@ -89,6 +89,8 @@ const Travel travels[] = {
     {"router", 9, {{"kprouter", whole(1)}, {"PLUCODEONKP", yes()}}, 3, 1, "50", "kprouter", "1"},
     {"router_that_is_clear_is_not_read", 9, {{"kprouter", whole(0)}}, 3, 1, "00", "kprouter", "null"},
     {"currency_sign", 11, {{"CURRENCY5SYMBOL", whole(128)}}, 12, 1, "\x80  ", "CURRENCY5SYMBOL", "128"},
+    {"last_symbol", 11, {{"HOMESYMBOL", whole(255)}}, 7, 1, "\xFF  ", "HOMESYMBOL", "255"},
+    {"beyond_the_last_symbol", 11, {{"HOMESYMBOL", whole(256)}}, 7, 1, "   ", "HOMESYMBOL", "32"},
     {"mark_as_a_symbol", 11, {{"HOMESYMBOL", whole('^')}}, 7, 1, "\xFD  ", "HOMESYMBOL", "94"},
     {"no_symbol", 11, {{"HOMESYMBOL", Value()}}, 7, 1, "   ", "HOMESYMBOL", "32"},
     {"cutter_and_internal_print", 11, {{"TURNOFFAUTOCUTTER", whole(-1)}, {"STOPINTERNALPRINT", yes()}}, 19, 1, "60", "TURNOFFAUTOCUTTER", "-1"},
