@@ -304,6 +304,15 @@ TEST(ExchangeRunner, AsksBeforeItSendsPlusWhosePointsWait)
     EXPECT_TRUE(shop.boxes.shown.empty());
 }
 
+TEST(ExchangeRunner, SendsNothingOfATableThatMustNotBeEmpty)
+{
+    Exchange shop(2);
+    test::execute(shop.values.databasePath, u"delete from GROUPS"_s);
+    EXPECT_EQ(test::failureOf([&] { shop.download({2}); }), 3021);
+    EXPECT_TRUE(shop.files().isEmpty());
+    EXPECT_EQ(shop.ticks.ticked, std::set<int>{2});
+}
+
 TEST(ExchangeRunner, SendsNoFileOfAnotherCustomer)
 {
     Exchange shop(2);

@@ -16,14 +16,12 @@ class KeyEditorTest : public testing::Test
 protected:
     KeyEditorTest()
     {
-        shop.addKeyboard(keyboard.keysPerLevel, 2);
-        level.emplace(keyboard, shop.open());
-        level->read(1);
+        level.read(1);
         // Letters instead of key links, to be read at a glance.
         for (int row = 1; row <= 3; ++row) {
             for (int column = 0; column < 4; ++column) {
                 const char letter = static_cast<char>('a' + (row - 1) * 4 + column);
-                level->setKey({row, column}, {QString(QLatin1Char(letter)), {}, {}, KeyState::Function});
+                level.setKey({row, column}, {QString(QLatin1Char(letter)), {}, {}, KeyState::Function});
             }
         }
     }
@@ -35,16 +33,22 @@ protected:
         for (int row = 1; row <= 3; ++row) {
             QString shown;
             for (int column = 0; column < 4; ++column)
-                shown += level->key({row, column}).function.leftJustified(1, u'.');
+                shown += level.key({row, column}).function.leftJustified(1, u'.');
             rows += shown;
         }
         return rows.join(u' ').toStdString();
     }
 
+    std::shared_ptr<store::Database> filledShop()
+    {
+        shop.addKeyboard(keyboard.keysPerLevel, 2);
+        return shop.open();
+    }
+
     KeyShop shop{"3"};
     const KeyGeometry& keyboard = dorvikKeyboard();
-    std::optional<KeyLevel> level;
-    KeyEditor editor{*level};
+    KeyLevel level{keyboard, filledShop()};
+    KeyEditor editor{level};
 };
 
 constexpr auto untouched = "abcd efgh ijkl";
@@ -135,11 +139,11 @@ TEST_F(KeyEditorTest, RefusesWhatTouchesAFixedKeyOrLeavesTheKeyboard)
 TEST_F(KeyEditorTest, CopiedKeysOutliveTheLevelAndStepsDoNot)
 {
     editor.cut(pair);
-    level->read(2);
+    level.read(2);
     editor.levelWasRead();
     EXPECT_FALSE(editor.canUndo());
     EXPECT_EQ(editor.paste({{3, 3}}), Refusal::None);
-    EXPECT_EQ(level->key({3, 4}).function, u"b"_s);
+    EXPECT_EQ(level.key({3, 4}).function, u"b"_s);
     editor.undo();
     editor.clear({{1, 0}});
     EXPECT_FALSE(editor.canRedo()) << "a new change takes the place of what was undone";

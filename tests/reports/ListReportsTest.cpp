@@ -71,6 +71,15 @@ TEST_F(OwnLayout, ReckonsInDecimal)
     EXPECT_EQ(reckoned("{VALUE}", "0.00"), "0.10\n0.20\n123456789012345.00\n# 123456789012345.30");
 }
 
+/// Totals of more digits than a number holds: what is cut off still tells a half from a little more.
+TEST_F(OwnLayout, RoundsWithAllDigitsOfALongTotal)
+{
+    shop.add("GROUPSALES", "ID|SALESDATE|VALUE", {"1|2026-11-25|0.125", "2|2026-11-25|4e-19"});
+    EXPECT_EQ(reckoned("1 - total({VALUE})", "0.00"), "0.87\n0.87\n# 0.87");
+    shop.add("GROUPSALES", "ID|SALESDATE|VALUE", {"3|2026-11-25|12345678901234000", "4|2026-11-25|567.4"});
+    EXPECT_EQ(reckoned("12345678901234568 - total({VALUE})", "0"), "0\n0\n0\n0\n# 0");
+}
+
 TEST_F(OwnLayout, GroupsAndSortsByWhatItNames)
 {
     shop.add("GROUPS", "GROUPNO|DESCRIPTION", {"2|SECOND", "10|TENTH"});
@@ -109,6 +118,7 @@ TEST_F(OwnLayout, PutsZerosLastAndManySmallSharesTogether)
     EXPECT_EQ(linesOf(data), "> 9\n9\n> 010\n010\n> 1\n1\n> 2\n2\n> 3\n3\n> 4\n4\n> 5\n5\n> 6\n6\n> A\nA\n"
                              "> b\nb\n> Rest\n\n000");
     ASSERT_EQ(data.charts[0].points.size(), 11U);
+    EXPECT_EQ(data.charts[0].points.back().label, u"Others"_s);
     EXPECT_EQ(data.charts[0].points.back().value, Decimal(3, 1));
 }
 

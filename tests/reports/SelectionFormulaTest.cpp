@@ -56,6 +56,8 @@ const std::pair<const char16_t*, const char*> selections[] = {
     {u"{FINANCIALSALES.ID} = 1 or {PLUSALES.COUNT1} > 3", "1 2 3 4 5 6 7 8"},
     {u"not ({FINANCIALSALES.ID} = 1 or {PLUSALES.COUNT1} > 3)", "2 3 4 5 6 7 8"},
     {u"not ({FINANCIALSALES.ID} = 1 and {PLUSALES.COUNT1} > 3)", "1 2 3 4 5 6 7 8"},
+    {u"not (not ({FINANCIALSALES.ID} = 1 and {PLUSALES.COUNT1} > 3))", "1"},
+    {u"not (not ({FINANCIALSALES.ID} = 1 or {PLUSALES.COUNT1} > 3))", "1 2 3 4 5 6 7 8"},
 };
 
 TEST_F(Selection, FindsTheRowsThatItNames)
