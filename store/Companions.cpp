@@ -20,37 +20,57 @@ std::string totalsDeclaration(const TableDefinition& table)
     return "CREATE TABLE " + quotedName(monthTotalsName(table.name)) + " (" + columns + ") STRICT";
 }
 
-/// @p row is the engine's word for the row that was added or went: NEW or OLD.
-std::string dropMonthOf(const TableDefinition& table, const std::string& row)
+/// The day of the row that a trigger runs for. @p row is the engine's word for it: NEW or OLD.
+std::string dayOf(const TableDefinition& table, const std::string& row)
 {
-    return "DELETE FROM " + quotedName(addedMonthsName(table.name)) + " WHERE month = substr(" + row + '.' +
-           quotedName(table.searchedField) + ", 1, 7); ";
+    return row + '.' + quotedName(table.searchedField);
 }
 
-Companion trigger(const QString& on, const char* event, const std::string& name, const std::string& body)
+/// The day of the row that already has the number of the new one. REPLACE removes that row without running a
+/// trigger for it.
+std::string replacedDay(const TableDefinition& table)
 {
-    const QString full = u"%1 %2"_s.arg(on, QString::fromStdString(name));
+    return "(SELECT " + quotedName(table.searchedField) + " FROM " + quotedName(table.name) +
+           " WHERE _rowid_ = NEW._rowid_)";
+}
+
+std::string dropMonthOf(const TableDefinition& table, const std::string& day)
+{
+    return "DELETE FROM " + quotedName(addedMonthsName(table.name)) + " WHERE month = substr(" + day +
+           ", 1, 7); ";
+}
+
+std::string dropDigestOf(const TableDefinition& table, const std::string& day)
+{
+    return "DELETE FROM " + quotedName(dayDigestsName(table.name)) + " WHERE day = " + day + "; ";
+}
+
+Companion trigger(const QString& on, const char* event, const QString& name, const std::string& body)
+{
+    const QString full = u"%1 %2"_s.arg(on, name);
     return {Companion::Kind::Trigger, full,
-            "CREATE TRIGGER " + quotedName(full) + " AFTER " + event + " ON " + quotedName(on) + " BEGIN " +
-                body + "END"};
+            "CREATE TRIGGER " + quotedName(full) + ' ' + event + " ON " + quotedName(on) + ' ' + body};
 }
 
-std::vector<Companion> triggersOf(const TableDefinition& table)
+std::string block(const std::string& statements)
 {
-    const QString months = addedMonthsName(table.name);
-    const std::string dropTotals = "DELETE FROM " + quotedName(monthTotalsName(table.name)) + " WHERE " +
-                                   quotedName(table.searchedField) + " = OLD.month || '-01'; ";
-    return {trigger(table.name, "INSERT", "insert", dropMonthOf(table, "NEW")),
-            trigger(table.name, "UPDATE", "update", dropMonthOf(table, "OLD") + dropMonthOf(table, "NEW")),
-            trigger(table.name, "DELETE", "delete", dropMonthOf(table, "OLD")),
-            trigger(months, "DELETE", "delete", dropTotals)};
+    return "BEGIN " + statements + "END";
 }
 
-/// @p row as for dropMonthOf().
-std::string dropDayOf(const TableDefinition& table, const std::string& row)
+/// The triggers that run @p dropOf for the day of every row that is added, changed, deleted or replaced.
+/// @p ending keeps their names apart from those of other triggers of the table.
+std::vector<Companion> rowTriggers(const TableDefinition& table, const QString& ending,
+                                   std::string (*dropOf)(const TableDefinition&, const std::string& day))
 {
-    return "DELETE FROM " + quotedName(dayDigestsName(table.name)) + " WHERE day = " + row + '.' +
-           quotedName(table.searchedField) + "; ";
+    const std::string dropNew = dropOf(table, dayOf(table, "NEW"));
+    const std::string dropOld = dropOf(table, dayOf(table, "OLD"));
+    const std::string dropReplaced = block(dropOf(table, replacedDay(table)));
+    return {trigger(table.name, "AFTER INSERT", u"insert"_s + ending, block(dropNew)),
+            trigger(table.name, "AFTER UPDATE", u"update"_s + ending, block(dropOld + dropNew)),
+            trigger(table.name, "AFTER DELETE", u"delete"_s + ending, block(dropOld)),
+            trigger(table.name, "BEFORE INSERT", u"replace by insert"_s + ending, dropReplaced),
+            trigger(table.name, "BEFORE UPDATE", u"replace by update"_s + ending,
+                    "WHEN NEW._rowid_ <> OLD._rowid_ " + dropReplaced)};
 }
 
 Companion indexOn(const QString& table, const QString& field)
@@ -87,8 +107,11 @@ std::vector<Companion> monthCompanionsOf(const TableDefinition& table)
         {Companion::Kind::Table, totals, totalsDeclaration(table)},
         indexOn(totals, table.searchedField),
     };
-    for (Companion& each : triggersOf(table))
+    for (Companion& each : rowTriggers(table, {}, dropMonthOf))
         all.push_back(std::move(each));
+    all.push_back(trigger(months, "AFTER DELETE", u"delete"_s,
+                          block("DELETE FROM " + quotedName(totals) + " WHERE " +
+                                quotedName(table.searchedField) + " = OLD.month || '-01'; ")));
     return all;
 }
 
@@ -100,14 +123,11 @@ QString dayDigestsName(const QString& table)
 std::vector<Companion> dayCompanionsOf(const TableDefinition& table)
 {
     const QString digests = dayDigestsName(table.name);
-    return {
-        {Companion::Kind::Table, digests,
-         "CREATE TABLE " + quotedName(digests) +
-             " (day TEXT PRIMARY KEY, digest TEXT NOT NULL) STRICT, WITHOUT ROWID"},
-        trigger(table.name, "INSERT", "insert digest", dropDayOf(table, "NEW")),
-        trigger(table.name, "UPDATE", "update digest", dropDayOf(table, "OLD") + dropDayOf(table, "NEW")),
-        trigger(table.name, "DELETE", "delete digest", dropDayOf(table, "OLD")),
-    };
+    std::vector<Companion> all = rowTriggers(table, u" digest"_s, dropDigestOf);
+    all.insert(all.begin(), {Companion::Kind::Table, digests,
+                             "CREATE TABLE " + quotedName(digests) +
+                                 " (day TEXT PRIMARY KEY, digest TEXT NOT NULL) STRICT, WITHOUT ROWID"});
+    return all;
 }
 
 } // namespace norvane::store

@@ -13,8 +13,8 @@ namespace norvane::store
 {
 
 /// What somebody made of all rows of a day in one sales table, kept with the table. Triggers of the file drop
-/// the digest of a day as soon as a row of it is added, changed or deleted, whoever does it, so a digest that
-/// stands is right. Recordsets, screens and the list of tables do not know them.
+/// the digest of a day as soon as a row of it is added, changed, deleted or replaced, whoever does it, so a
+/// digest that is there is right. Recordsets, screens and the list of tables do not know them.
 class DayDigests
 {
 public:

@@ -17,8 +17,8 @@ struct DayRange {
 };
 
 /// The totals of one sales table. A month has totals only once it was added up. Triggers of the file drop
-/// them as soon as a row of that month is added, changed or deleted, whoever does it, so a total that stands
-/// is right. Recordsets, screens and the list of tables do not know them.
+/// them as soon as a row of that month is added, changed, deleted or replaced, whoever does it, so a total
+/// that is there is right. Recordsets, screens and the list of tables do not know them.
 class MonthTotals
 {
 public:
