@@ -5,7 +5,6 @@
 #include "reports/LineStatement.h"
 #include "store/BoundQuery.h"
 #include "store/Catalogue.h"
-#include "store/MonthTotals.h"
 
 #include <QLocale>
 
@@ -85,7 +84,7 @@ std::string ReportQuery::monthRows(const LineSource& source)
     if (!totals.available())
         return {};
     const store::DayRange days{period->from, period->to};
-    totals.addUpMissing(days, m_today, [this](QDate month) { return beginMonth(month); });
+    addUpMissing(totals, days);
     QStringList fields;
     for (const auto& field : source.fields) {
         if (field.table == source.table)
@@ -96,6 +95,18 @@ std::string ReportQuery::monthRows(const LineSource& source)
             fields.append(key.name());
     }
     return totals.rows(days, fields).toStdString();
+}
+
+/// Another program that reads keeps the totals from being stored for as long as it likes. Reading the rows
+/// takes less time than waiting for it, and a report has several queries that would each wait.
+void ReportQuery::addUpMissing(store::MonthTotals& totals, const store::DayRange& days)
+{
+    if (!m_mayAddUp)
+        return;
+    const store::ShortWait wait(m_database);
+    m_mayAddUp = totals.addUpMissing(days, m_today, [this](QDate month) { return beginMonth(month); });
+    if (!m_mayAddUp && m_showStep)
+        m_showStep(u"Reading the sales day by day"_s);
 }
 
 /// A database without totals of months, as earlier versions made it, takes some seconds for each year, once.

@@ -5,6 +5,7 @@
 #include "reports/ReportLayout.h"
 #include "reports/ReportRun.h"
 #include "store/Database.h"
+#include "store/MonthTotals.h"
 
 #include <functional>
 
@@ -31,6 +32,7 @@ public:
 private:
     void checkTables() const;
     [[nodiscard]] std::string monthRows(const LineSource& source);
+    void addUpMissing(store::MonthTotals& totals, const store::DayRange& days);
     [[nodiscard]] bool beginMonth(QDate month) const;
 
     const ReportLayout& m_layout;
@@ -40,6 +42,7 @@ private:
     store::Database m_database;
     Condition m_condition;
     QDate m_today;
+    bool m_mayAddUp = true; ///< false once months could not be added up
 };
 
 } // namespace norvane::reports

@@ -9,7 +9,8 @@
 namespace norvane::store
 {
 
-Savepoint::Savepoint(sqlite3* connection) : m_connection(connection)
+Savepoint::Savepoint(sqlite3* connection)
+    : m_connection(connection), m_isOutermost(sqlite3_get_autocommit(connection) != 0)
 {
     run("SAVEPOINT steps");
 }
@@ -18,8 +19,10 @@ Savepoint::~Savepoint()
 {
     if (m_kept)
         return;
-    sqlite3_exec(m_connection, "ROLLBACK TO steps", nullptr, nullptr, nullptr);
-    sqlite3_exec(m_connection, "RELEASE steps", nullptr, nullptr, nullptr);
+    // Releasing the outermost savepoint would commit once more. While another program reads, that waits and
+    // fails again, and the file would stay locked.
+    sqlite3_exec(m_connection, m_isOutermost ? "ROLLBACK" : "ROLLBACK TO steps; RELEASE steps", nullptr,
+                 nullptr, nullptr);
 }
 
 void Savepoint::keep()

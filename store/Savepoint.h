@@ -22,6 +22,7 @@ private:
     void run(const char* sql) const;
 
     sqlite3* m_connection;
+    bool m_isOutermost; ///< keeping it commits
     bool m_kept = false;
 };
 

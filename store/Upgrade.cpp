@@ -103,6 +103,13 @@ void run(Database& database, const Step& step)
     database.refresh();
 }
 
+/// Whether the first step would fail because its field exists already.
+bool isCurrent(const Database& database)
+{
+    const TableDefinition table = database.table(QLatin1StringView(steps[0].table));
+    return fieldNamed(table, QString::fromLatin1(steps[0].fields[0])) != nullptr;
+}
+
 /// A customer is taken whatever state the database is in, so no failure leaves here. A field that exists
 /// already is the usual one: it tells the current layout.
 void workQuietly(const QString& path, const std::function<void(Database&)>& work)
@@ -120,6 +127,9 @@ void workQuietly(const QString& path, const std::function<void(Database&)>& work
 void UpgradeDatabase(const QString& path)
 {
     workQuietly(path, [](Database& database) {
+        // Even an empty transaction waits at its end for a program that reads.
+        if (isCurrent(database))
+            return;
         // What was done before a failure stays, but a computer switched off in between leaves the old layout
         // whole: a layout half way would never be completed by a later start.
         const Transaction transaction(database);
@@ -137,7 +147,10 @@ void UpgradeUnitDescription(const QString& path)
 
 void completeDatabase(const QString& path)
 {
-    workQuietly(path, [](Database& database) { database.complete(catalogue()); });
+    workQuietly(path, [](Database& database) {
+        const ShortWait wait(database); // nothing is lost until the next call
+        database.complete(catalogue());
+    });
 }
 
 } // namespace norvane::store

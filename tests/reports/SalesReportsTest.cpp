@@ -149,28 +149,51 @@ const std::tuple<const char*, const char*, const char*> periods[] = {
      "1|Period 1|33|3.30|8.2\n2|Period 2|33|36.89|91.8\n# |Total|66|40.19|100.0"},
 };
 
-/// Periods that totals of months serve show what the rows themselves add up to.
-TEST_F(SalesReports, APeriodOfMonthsShowsWhatItsDaysAddUpTo)
+class PeriodReports : public SalesReports
 {
-    norvane::test::runElsewhere(
-        shop.path(),
-        "insert into TIMESALES (ID, SALESDATE, QUANTITY, VALUE) with recursive days(day) as "
-        "(select '2027-11-01' union all select date(day, '+1 day') from days where day < '2028-03-01') "
-        "select 1, day, 1, 0.1 from days union all select 2, day, 1, 0.07 * strftime('%d', day) from days");
-    QStringList steps;
-    for (const auto& [formula, today, lines] : periods) {
+protected:
+    PeriodReports()
+    {
+        norvane::test::runElsewhere(
+            shop.path(),
+            "insert into TIMESALES (ID, SALESDATE, QUANTITY, VALUE) with recursive days(day) as "
+            "(select '2027-11-01' union all select date(day, '+1 day') from days where day < '2028-03-01') "
+            "select 1, day, 1, 0.1 from days union all "
+            "select 2, day, 1, 0.07 * strftime('%d', day) from days");
+    }
+
+    std::string linesIn(const char* formula, const char* today)
+    {
         auto request = shop.request(ReportShop::installed("timesales.rpt"),
                                     u"{TIMESALES.SALESDATE} "_s + QLatin1String(formula));
         request.now = QDate::fromString(QLatin1String(today), Qt::ISODate).startOfDay();
-        request.showStep = [&steps](const QString& step) {
+        request.showStep = [this](const QString& step) {
             steps.append(step);
         };
-        EXPECT_EQ(linesOf(runReport(request)), lines) << today;
+        return linesOf(runReport(request));
     }
+
+    QStringList steps;
+};
+
+/// Periods that totals of months serve show what the rows themselves add up to.
+TEST_F(PeriodReports, APeriodOfMonthsShowsWhatItsDaysAddUpTo)
+{
+    for (const auto& [formula, today, lines] : periods)
+        EXPECT_EQ(linesIn(formula, today), lines) << today;
     EXPECT_EQ(steps, (QStringList{u"Adding up the sales of January 2028"_s,
                                   u"Adding up the sales of February 2028"_s,
                                   u"Adding up the sales of December 2027"_s}))
         << "each month once";
+}
+
+TEST_F(PeriodReports, AnotherProgramThatReadsIsWaitedForOnceInAReport)
+{
+    const norvane::test::ReadingElsewhere reader(shop.path());
+    const auto& [formula, today, lines] = periods[0];
+    EXPECT_EQ(linesIn(formula, today), lines);
+    EXPECT_EQ(steps,
+              (QStringList{u"Adding up the sales of January 2028"_s, u"Reading the sales day by day"_s}));
 }
 
 } // namespace

@@ -17,4 +17,24 @@ inline void runElsewhere(const QString& databasePath, const char* sql)
     sqlite3_close(connection);
 }
 
+/// Another program in the middle of reading: nobody can store anything until it goes.
+class ReadingElsewhere
+{
+public:
+    explicit ReadingElsewhere(const QString& databasePath)
+    {
+        sqlite3_open(databasePath.toUtf8().constData(), &m_connection);
+        EXPECT_EQ(sqlite3_exec(m_connection, "begin; select count(*) from sqlite_schema", nullptr, nullptr,
+                               nullptr),
+                  SQLITE_OK)
+            << sqlite3_errmsg(m_connection);
+    }
+    ~ReadingElsewhere() { sqlite3_close(m_connection); }
+    ReadingElsewhere(const ReadingElsewhere&) = delete;
+    ReadingElsewhere& operator=(const ReadingElsewhere&) = delete;
+
+private:
+    sqlite3* m_connection = nullptr;
+};
+
 } // namespace norvane::test

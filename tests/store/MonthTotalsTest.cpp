@@ -163,6 +163,15 @@ TEST_F(MonthTotalsTest, AMonthThatCannotBeAddedUpIsReadFromItsRows)
     EXPECT_EQ(failureOf([this] { MonthTotals(m_database, u"PLUDATA"_s); }), 3265);
 }
 
+TEST_F(MonthTotalsTest, AMonthThatCannotBeStoredLeavesTheFileToOthers)
+{
+    const norvane::test::ReadingElsewhere reader(m_folder.path());
+    const ShortWait wait(m_database);
+    EXPECT_FALSE(m_totals.addUpMissing(twoYears, today));
+    const norvane::test::ReadingElsewhere another(m_folder.path());
+    EXPECT_EQ(reportOf(m_totals.rows(twoYears)), reportOfRows(twoYears));
+}
+
 /// The days of February and March 2028 that still have a digest.
 std::string daysLeft(const DayDigests& digests)
 {
