@@ -46,8 +46,7 @@ constexpr Row mixNMatch[] = {
     decimal("PRICE"),
 };
 
-// register file 65. LINKEDNVIMAGE carries a two-digit number; only a database that was brought up from an
-// older layout has it as yes/no.
+// register file 65
 constexpr Row pluStatus[] = {
     whole("STATUSNO"),
     text("DESCRIPTION", 12),

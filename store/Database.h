@@ -50,7 +50,8 @@ public:
     /// @throws RuntimeFailure 3191 when the field exists, 3265 for an unknown table.
     void addField(const QString& table, const FieldDefinition& field);
     /// Makes what the file keeps beside @p tables for quick queries and still lacks, such as the index over
-    /// the day of a sales table, and turns number fields into fields of digits where @p tables have those.
+    /// the day of a sales table, and turns number fields into fields of digits, and yes/no fields into
+    /// numbers, where @p tables have those.
     /// Tables that are missing stay so; a complete file is not written to.
     void complete(const QVector<TableDefinition>& tables);
     /// Reads the definitions anew, after another connection may have changed them.

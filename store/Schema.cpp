@@ -39,6 +39,19 @@ const TypeRow& rowOf(FieldType type)
                          [type](const TypeRow& row) { return row.type == type; });
 }
 
+std::string columnType(const FieldDefinition& field)
+{
+    return rowOf(field.type).declaration;
+}
+
+/// Whether a field stored as @p stored loses what one of the type @p wanted keeps.
+bool isNarrower(FieldType stored, FieldType wanted)
+{
+    if (wanted == FieldType::Digits)
+        return stored == FieldType::Long || stored == FieldType::Double;
+    return wanted == FieldType::Long && stored == FieldType::YesNo;
+}
+
 FieldType typeOfWord(const QString& word)
 {
     const auto* row = std::find_if(std::begin(types), std::end(types), [&word](const TypeRow& candidate) {
@@ -103,7 +116,7 @@ const char* dropWord(Companion::Kind kind)
 
 std::string columnDeclaration(const FieldDefinition& field)
 {
-    return quotedName(field.name) + ' ' + rowOf(field.type).declaration;
+    return quotedName(field.name) + ' ' + columnType(field);
 }
 
 TableShape::TableShape(TableDefinition definition)
@@ -306,19 +319,32 @@ void Schema::makeAnew(const std::vector<Companion>& companions)
 
 void Schema::widenFields(const TableDefinition& table)
 {
-    const auto narrow = [](FieldType type) {
-        return type == FieldType::Long || type == FieldType::Double;
-    };
     const auto stored = read(table.name);
     for (const auto& field : stored ? stored->fields : QVector<FieldDefinition>()) {
         const auto* const wanted = fieldNamed(table, field.name);
-        if (wanted != nullptr && wanted->type == FieldType::Digits && narrow(field.type))
-            widenField(stored->name, {field.name, FieldType::Digits, wanted->size, {}, false});
+        if (wanted != nullptr && isNarrower(field.type, wanted->type))
+            widenField(stored->name, field, *wanted);
     }
 }
 
+void Schema::widenField(const QString& table, const FieldDefinition& former, const FieldDefinition& wanted)
+{
+    Savepoint savepoint(m_connection);
+    if (columnType(former) != columnType(wanted))
+        replaceColumn(table, {former.name, wanted.type, wanted.size, {}, false});
+    PreparedStatement update(m_connection,
+                             "UPDATE norvane_field SET type = ?, size = ? WHERE table_name = ? AND name = ?",
+                             u"Table %1."_s.arg(table));
+    const Value values[] = {Value::text(std::string(rowOf(wanted.type).word)), Value::whole(wanted.size),
+                            Value::text(table), Value::text(former.name)};
+    for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
+        update.bind(i + 1, values[i]);
+    update.run();
+    savepoint.keep();
+}
+
 /// SQLite cannot change the type of a column, so a new one takes its name.
-void Schema::widenField(const QString& table, const FieldDefinition& field)
+void Schema::replaceColumn(const QString& table, const FieldDefinition& field)
 {
     FieldDefinition column = field;
     column.name += u" wide"_s;
@@ -326,21 +352,12 @@ void Schema::widenField(const QString& table, const FieldDefinition& field)
     const std::string former = quotedName(field.name);
     const std::string wide = quotedName(column.name);
     const QString what = u"Table %1."_s.arg(table);
-    Savepoint savepoint(m_connection);
     run(alter + " ADD COLUMN " + columnDeclaration(column), what);
     run("UPDATE " + quotedName(table) + " SET " + wide + " = printf('%.0f', " + former + ") WHERE " + former +
             " IS NOT NULL",
         what);
     run(alter + " DROP COLUMN " + former, what);
     run(alter + " RENAME COLUMN " + wide + " TO " + former, what);
-    PreparedStatement update(
-        m_connection, "UPDATE norvane_field SET type = ?, size = ? WHERE table_name = ? AND name = ?", what);
-    const Value values[] = {Value::text(std::string(rowOf(field.type).word)), Value::whole(field.size),
-                            Value::text(table), Value::text(field.name)};
-    for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
-        update.bind(i + 1, values[i]);
-    update.run();
-    savepoint.keep();
 }
 
 void Schema::addField(const TableDefinition& table, const FieldDefinition& field)

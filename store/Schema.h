@@ -68,7 +68,8 @@ private:
     void writeIndex(const QString& table, int number, const IndexDefinition& index);
     void addCompanions(const TableDefinition& table);
     void widenFields(const TableDefinition& table);
-    void widenField(const QString& table, const FieldDefinition& field);
+    void widenField(const QString& table, const FieldDefinition& former, const FieldDefinition& wanted);
+    void replaceColumn(const QString& table, const FieldDefinition& field);
     [[nodiscard]] QVector<FieldDefinition> readFields(const QString& table, QString& storedName) const;
     [[nodiscard]] QVector<IndexDefinition> readIndexes(const QString& table) const;
 

@@ -40,7 +40,7 @@ constexpr Step steps[] = {
     {Action::AddFields, "EMPLOYEE", {"dallaskey"}},
     {Action::AddFields, "KITCHENPRINTOPTIONS", {"REDIRECTTORCPT"}},
     {Action::AddFields, "PLUDATA", {"PRINTNV"}},
-    // The number that it carries in the current layout does not fit: kept, since such databases are in use.
+    // Old databases got it as a flag. completeDatabase() makes it the number of the current layout.
     {Action::AddFields, "PLUSTATUS", {"LINKEDNVIMAGE"}, FieldType::YesNo},
     {Action::AddFields, "GENERALFUNCTIONS",
      {"redeemcash", "redeemcheck", "redeemmisc1", "redeemmisc2", "redeemmisc3", "redeemmisc4", "redeemmisc5",

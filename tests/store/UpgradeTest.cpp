@@ -69,20 +69,32 @@ std::string layoutIn(const StoreFolder& folder)
     return layoutOf(tables);
 }
 
+/// The upgrade makes a flag of a field that the current layout has as a number.
+std::string beforeCompletion(const std::string& layout)
+{
+    return QString::fromStdString(layout)
+        .replace(u"LINKEDNVIMAGE TYPE 1"_s, u"LINKEDNVIMAGE TYPE 0"_s)
+        .toStdString();
+}
+
 TEST(Upgrade, BringsAnOldDatabaseToTheCurrentLayout)
 {
     const StoreFolder folder(oldLayout());
     UpgradeDatabase(folder.path());
     UpgradeUnitDescription(folder.path());
-    QVector<TableDefinition> wanted = catalogue();
-    for (TableDefinition& table : wanted) {
-        for (FieldDefinition& field : table.fields) {
-            // The number of the current layout came too late for databases that have the flag.
-            if (field.name == u"LINKEDNVIMAGE"_s)
-                field.type = FieldType::YesNo;
-        }
-    }
-    EXPECT_EQ(layoutIn(folder), layoutOf(wanted));
+    EXPECT_EQ(layoutIn(folder), beforeCompletion(layoutOf(catalogue())));
+    const auto addStatus = [&folder](int status, const Value& image) {
+        Database database(folder.path());
+        Recordset statuses = database.openTable(u"PLUSTATUS"_s);
+        test::add(statuses, {{"STATUSNO", Value::whole(status)}, {"LINKEDNVIMAGE", image}});
+    };
+    addStatus(1, Value());
+    addStatus(2, Value::whole(12));
+    completeDatabase(folder.path());
+    addStatus(3, Value::whole(12));
+    EXPECT_EQ(layoutIn(folder), layoutOf(catalogue()));
+    EXPECT_EQ(rowsOf(folder.path(), u"select LINKEDNVIMAGE from PLUSTATUS order by STATUSNO"_s),
+              "null -1 12");
 }
 
 TEST(Upgrade, WritesNothingIntoACurrentDatabaseWhichTellsTheCatalogue)
@@ -206,7 +218,7 @@ TEST(Completion, AddsNoTableAndNoFieldThatTheUpgradeLeftOut)
     UpgradeDatabase(folder.path());
     const std::string tables = layoutIn(folder);
     completeDatabase(folder.path());
-    EXPECT_EQ(layoutIn(folder), tables);
+    EXPECT_EQ(beforeCompletion(layoutIn(folder)), tables);
     // The upgrade makes the three tables with their indexes; the fourth stood already.
     EXPECT_EQ(rowsOf(folder.path(),
                      u"select upper(tbl_name) from sqlite_schema where name like '*sales search' "
