@@ -97,6 +97,9 @@ ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
     case CustomerChoice::InvalidEntry:
     case CustomerChoice::Failed:
         throw none;
+    case CustomerChoice::NewSettings:
+        workplace.boxes.message(customers::newSettingsReport(), {}, BoxIcon::Exclamation);
+        break;
     case CustomerChoice::Created:
     case CustomerChoice::Taken:
         break;

@@ -3,8 +3,11 @@
 
 #include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
 #include "platform/TextFields.h"
+#include "store/Database.h"
 #include "store/DatabaseCheck.h"
+#include "store/Recordset.h"
 #include "store/Upgrade.h"
 
 #include <QDir>
@@ -111,19 +114,36 @@ bool wasCutOff(const QString& path)
     return !complete && holdsOnlyCustomerFiles(path);
 }
 
+/// A file that cannot be read is not a new database.
+bool holdsRecords(const QString& path)
+{
+    try {
+        store::Database database(path);
+        return std::ranges::any_of(database.tableNames(), [&database](const QString& table) {
+            return database.openTable(table).hasCurrent();
+        });
+    } catch (const RuntimeFailure&) {
+        return true;
+    }
+}
+
 CustomerChoice takeFolder(ApplicationValues& values, const QString& path)
 {
     if (!QFileInfo(path).isDir())
         return CustomerChoice::Failed;
     values.customerPath = path;
-    const CustomerChoice choice = wasCutOff(path) ? fillFolder(values) : CustomerChoice::Taken;
+    const bool isFilled = wasCutOff(path);
+    if (isFilled && fillFolder(values) == CustomerChoice::Failed)
+        return CustomerChoice::Failed;
     const QString database = customerDatabase(path);
     // Each write to a damaged file makes it worse, and a later copy of it replaces the last good one.
     if (!store::damageOf(database).isEmpty())
         return CustomerChoice::Damaged;
     store::UpgradeDatabase(database);
     store::completeDatabase(database);
-    return choice;
+    if (!isFilled)
+        return CustomerChoice::Taken;
+    return holdsRecords(database) ? CustomerChoice::NewSettings : CustomerChoice::Created;
 }
 
 CustomerChoice makeCustomer(ApplicationValues& values, const QString& path)
@@ -169,6 +189,13 @@ QString damageReport(const QString& customerPath)
                                   : u"Put a copy of the customer's folder"_s;
     return u"The database of this customer is damaged:\r%1\r\r%2\r\rNothing was changed in it. %3 in its "
            u"place, then choose the customer again."_s.arg(database, store::damageOf(database), way);
+}
+
+QString newSettingsReport()
+{
+    return u"The settings of this customer (setup.ini) were missing. The standard settings are used now.\r\r"
+           "Check the port, the number of registers and the model under \"Setup\" before you fetch or send "
+           "anything. The database was not changed."_s;
 }
 
 QString customerDatabase(const QString& customerPath)

@@ -19,6 +19,7 @@ enum class CustomerChoice {
     InvalidEntry, ///< blank name
     Created,      ///< folder with copies of the template database and settings, new or completed
     Taken,        ///< existing folder; its database was upgraded and completed
+    NewSettings,  ///< the same, but its settings were missing and are those of the template now
     Damaged,      ///< existing folder; nothing was written to its database
     Failed,       ///< refused name or failed step; a folder that was made stays
 };
@@ -33,6 +34,9 @@ enum class CustomerChoice {
 
 /// What to tell the user about a customer that is Damaged: which file, what is wrong and the way out.
 [[nodiscard]] QString damageReport(const QString& customerPath);
+
+/// What to tell the user about a customer that has NewSettings.
+[[nodiscard]] QString newSettingsReport();
 
 /// The database of the customer whose folder is @p customerPath.
 [[nodiscard]] QString customerDatabase(const QString& customerPath);

@@ -113,6 +113,10 @@ void FrmCustomer::takeCustomer()
         return accept();
     case customers::CustomerChoice::Created:
         return welcomeNewCustomer();
+    case customers::CustomerChoice::NewSettings:
+        accept();
+        m_boxes.message(customers::newSettingsReport(), u"Settings Missing"_s, BoxIcon::Exclamation);
+        return;
     }
 }
 

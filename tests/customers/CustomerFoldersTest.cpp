@@ -63,9 +63,10 @@ TEST_F(CustomerFoldersTest, ANewNameMakesAFolderWithCopiesOfTheTemplates)
 TEST_F(CustomerFoldersTest, ACustomerWhoseMakingWasCutOffIsCompletedAtTheNextChoice)
 {
     const QByteArray settings = m_folder.read("app/setup.ini");
+    store::Database::create(m_folder.path("app/velmar.mdb"), store::catalogue());
     QFile::remove(m_folder.path("app/setup.ini"));
     EXPECT_EQ(chooseCustomer(m_values, u"Half"_s), CustomerChoice::Failed);
-    EXPECT_EQ(m_folder.read("app/Half/velmar.mdb"), "template");
+    EXPECT_TRUE(m_folder.read("app/Half/velmar.mdb") == m_folder.read("app/velmar.mdb"));
     m_folder.write("app/setup.ini", settings);
     QDir().mkpath(m_folder.path("app/Empty"));
     m_folder.write("app/Killed/qt_temp.Xy12Zw", "tem");
@@ -81,6 +82,19 @@ TEST_F(CustomerFoldersTest, ACustomerWhoseMakingWasCutOffIsCompletedAtTheNextCho
     EXPECT_EQ(m_folder.read("app/Cafe/setup.ini"), "[SetupOption]\r\nECRModel= 0\r\n")
         << "what was there stays";
     EXPECT_FALSE(QFile::exists(m_folder.path("app/Killed/qt_temp.Xy12Zw")));
+}
+
+TEST_F(CustomerFoldersTest, OnlyADatabaseWithoutRecordsIsANewOne)
+{
+    makeCustomerDatabase();
+    execute(u"insert into GROUPS (GROUPNO) values (1)"_s);
+    m_folder.write("app/Old/velmar.mdb", "of a former version");
+    for (const char* const name : {"Cafe", "Old"}) {
+        QFile::remove(m_folder.path("app/Cafe/setup.ini"));
+        EXPECT_EQ(chooseCustomer(m_values, QLatin1StringView(name)), CustomerChoice::NewSettings) << name;
+        expectTemplates(m_values.customerPath);
+        EXPECT_EQ(chooseCustomer(m_values, QLatin1StringView(name)), CustomerChoice::Taken) << name;
+    }
 }
 
 TEST_F(CustomerFoldersTest, AFolderThatHoldsOtherThingsIsLeftAlone)

@@ -2,6 +2,7 @@
 // set afterwards.
 #include "shell/StartSequence.h"
 
+#include "customers/CustomerFolders.h"
 #include "shell/FrmMain.h"
 #include "shell/MainStatusBar.h"
 #include "tests/shell/ShellFixture.h"
@@ -161,6 +162,20 @@ TEST_F(StartSequenceTest, AWrongNameIsToldAndOnlyYesEndsTheStart)
     EXPECT_EQ(m_boxes.shown, (std::vector{invalid, refused, refused, question, question}));
     EXPECT_FALSE(m_main.isVisible());
     EXPECT_EQ(m_values.databasePath, QString());
+}
+
+TEST_F(StartSequenceTest, LostSettingsOfACustomerWithRecordsAreTold)
+{
+    const QString database = m_folder.path("app/Cafe/velmar.mdb");
+    store::Database::create(database, store::catalogue());
+    test::execute(database, u"insert into GROUPS (GROUPNO) values (1)"_s);
+    QFile::remove(m_folder.path("app/Cafe/setup.ini"));
+    EXPECT_TRUE(run({0, 4.1, 999}, [](QWidget& dialog) {
+        child<QLineEdit>(dialog, "text1").setText(u"Cafe"_s);
+        child<QPushButton>(dialog, "CSCmdBtn1").click();
+    }));
+    EXPECT_EQ(m_boxes.shown, (std::vector{test::ShownBox{customers::newSettingsReport(),
+                                                         u"Settings Missing"_s, BoxIcon::Exclamation}}));
 }
 
 TEST_F(StartSequenceTest, ADamagedDatabaseIsToldAndLeftAsItIs)
