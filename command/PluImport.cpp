@@ -1,6 +1,7 @@
 // Compares a file with the table; see PluImport.h. PluApply.cpp stores.
 #include "command/PluImport.h"
 
+#include "command/DecimalSign.h"
 #include "platform/Excerpt.h"
 #include "platform/TextFields.h"
 #include "platform/Windows1252.h"
@@ -22,7 +23,7 @@ namespace
 
 using store::Value;
 
-/// Cells come with a decimal point or comma; thousands are not parted.
+/// Cells come with a decimal point or comma; thousands are not separated.
 std::optional<Decimal> numberOf(std::string_view cell)
 {
     if (const auto number = Decimal::plain(cell))
@@ -30,6 +31,15 @@ std::optional<Decimal> numberOf(std::string_view cell)
     std::string pointed(cell);
     std::ranges::replace(pointed, ',', '.');
     return std::ranges::count(pointed, '.') == 1 ? Decimal::plain(pointed) : std::nullopt;
+}
+
+/// What a number with one sign may mean: the sign is the decimal sign, or it separates the thousands.
+QString readingsOf(const PluColumn& column, std::string_view cell, const Decimal& decimal)
+{
+    std::string whole(cell);
+    std::erase_if(whole, [](char letter) { return letter == '.' || letter == ','; });
+    return u"\"%1\" may mean %2 or %3; write %2 or %3"_s.arg(
+        excerptOfUtf8(cell), shownPluValue(column, decimal.text()), shownPluValue(column, whole));
 }
 
 /// What keeps a text off a register, empty for a good one.
@@ -90,8 +100,10 @@ public:
         : m_database(database), m_file(file), m_keys(database)
     {
         m_byNumber.reserve(file.lines.size());
-        for (const PluLine& line : file.lines)
+        for (const PluLine& line : file.lines) {
             m_byNumber.emplace(line.number, &line);
+            learnDecimalSign(line);
+        }
     }
 
     PluComparison run()
@@ -104,6 +116,15 @@ public:
     }
 
 private:
+    void learnDecimalSign(const PluLine& line)
+    {
+        for (std::size_t place = 0; place < m_file.columns.size(); ++place) {
+            const std::string_view cell = trimBlanks(std::string_view(line.cells[place]));
+            if (m_file.columns[place]->content == PluContent::Price && numberOf(cell))
+                m_decimalSign.learnFrom(cell);
+        }
+    }
+
     void compareStored()
     {
         auto plus = m_database.openTable(u"PLUDATA"_s);
@@ -187,7 +208,7 @@ private:
             return;
         const auto number = numberOf(cell);
         const auto before = exportedNumber(stored);
-        if (number && before && *number == *before)
+        if (number && before && *number == *before && isExported(cell, *before))
             return;
         if (const QString fault = faultOfNumber(column, cell, number); !fault.isEmpty()) {
             add(line, column, fault);
@@ -196,12 +217,20 @@ private:
         }
     }
 
+    /// An export writes three places only of a price that has them.
+    [[nodiscard]] bool isExported(std::string_view cell, const Decimal& before) const
+    {
+        return !m_decimalSign.leavesOpen(cell) || before.rounded(priceDecimals) != before;
+    }
+
     QString faultOfNumber(const PluColumn& column, std::string_view cell,
                           const std::optional<Decimal>& number)
     {
         const bool isPrice = column.content == PluContent::Price;
         if (!number)
             return (isPrice ? u"\"%1\" is no price"_s : u"\"%1\" is no number"_s).arg(excerptOfUtf8(cell));
+        if (m_decimalSign.leavesOpen(cell))
+            return readingsOf(column, cell, *number);
         if (isPrice)
             return faultOf(*number);
         return m_keys.contains(column, *number)
@@ -217,6 +246,7 @@ private:
     store::Database& m_database;
     const PluFile& m_file;
     KnownKeys m_keys;
+    DecimalSign m_decimalSign;
     std::unordered_map<std::string_view, const PluLine*> m_byNumber;
     PluComparison m_result;
 };

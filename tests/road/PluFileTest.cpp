@@ -142,7 +142,7 @@ TEST_P(PluFileOfOneModel, TakesWhatSpreadsheetsWrite)
                                ";2,5;900000000000000001;0,99; =new\r\n"
                                "\r\n"
                                "7;\"3,25\";4711;;\"Say \"\"\xE2\x82\xAC\"\"\"\r\n"
-                               ";;900000000000000002;;\r\n",
+                               ";;900000000000000002;4,100;\r\n", // the other commas tell what this one is
                                {u"--json"_s});
     EXPECT_EQ(ended.code, 0) << ended.err.toStdString();
     EXPECT_TRUE(ended.out.contains(u"\"new\": \"3.25\""_s)) << ended.out.toStdString();
@@ -152,7 +152,7 @@ TEST_P(PluFileOfOneModel, TakesWhatSpreadsheetsWrite)
         "000000000000004711|Say \"€\"|7|0|3.25|0|null|0|False\n"
         "900000000000000000|=1+2|99|null| 1.5|-1.255|null|null|null\n"
         "900000000000000001|=new|99|null|2.5|-1.255|0.99|null|null\n"
-        "900000000000000002||99|null| 1.5|-1.255|null|null|null");
+        "900000000000000002||99|null| 1.5|-1.255|4.1|null|null");
 }
 
 TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
@@ -174,7 +174,13 @@ TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
         {prices + "9E+17,1\n,2\n", u"line 3, Number: \"\" is no PLU number"_s},
         {prices + "1,2x\n", u"line 2, Price 1: \"2x\" is no price"_s},
         {prices + "1,\"1.234,50\"\n", u"\"1.234,50\" is no price"_s},
-        {prices + "1,1.005\n", u"at most two decimal places"_s},
+        {prices + "1,\"1,000\"\n",
+         u"line 2, Price 1: \"1,000\" may mean 1.00 or 1000.00; write 1.00 or 1000.00"_s},
+        {prices + "900000000000000000,1.500\n", u"\"1.500\" may mean 1.50 or 1500.00"_s},
+        {"Number;Price 1;Price 2\n1;2.500;1,5\n", u"\"2.500\" may mean 2.50 or 2500.00"_s},
+        {prices + "1,2.500\n2,2.5\n3,\"2,5\"\n", u"line 2, Price 1: \"2.500\" may mean"_s},
+        {"Number,Group\n1,7.000\n", u"line 2, Group: \"7.000\" may mean 7 or 7000"_s},
+        {prices + "1,1.0051\n", u"at most two decimal places"_s},
         {prices + "1,1000000\n", u"a price is from 0 to 999999.99"_s},
         {prices + "1,-1\n", u"a price is from 0 to 999999.99"_s},
         {"Number,Description\n1,12345678901234567\n", u"\"12345678901234567\" is longer than 16"_s},

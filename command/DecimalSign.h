@@ -1,0 +1,25 @@
+// Which of comma and point is the decimal sign in the numbers of a file.
+#pragma once
+
+#include <string_view>
+
+namespace norvane::command
+{
+
+/// "1,000" is one or a thousand. The other numbers of the file may tell: in "2,50" the comma can only be the
+/// decimal sign.
+class DecimalSign
+{
+public:
+    /// Learns from @p number, which has no blanks around it.
+    void learnFrom(std::string_view number);
+    /// Whether @p number has one sign, three digits after it, and the numbers learned from do not tell that
+    /// this is the decimal sign of the file and the other sign is not.
+    [[nodiscard]] bool leavesOpen(std::string_view number) const;
+
+private:
+    bool m_isPoint = false; ///< some number can only be read so
+    bool m_isComma = false;
+};
+
+} // namespace norvane::command
