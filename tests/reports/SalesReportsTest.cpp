@@ -1,4 +1,5 @@
 // The reports of the sales menu over a small shop.
+#include "platform/FilePaths.h"
 #include "tests/reports/ReportShop.h"
 #include "tests/store/Elsewhere.h"
 
@@ -162,10 +163,10 @@ protected:
             "select 2, day, 1, 0.07 * strftime('%d', day) from days");
     }
 
-    std::string linesIn(const char* formula, const char* today)
+    std::string linesIn(const char* formula, const char* today,
+                        const QString& layout = ReportShop::installed("timesales.rpt"))
     {
-        auto request = shop.request(ReportShop::installed("timesales.rpt"),
-                                    u"{TIMESALES.SALESDATE} "_s + QLatin1String(formula));
+        auto request = shop.request(layout, u"{TIMESALES.SALESDATE} "_s + QLatin1String(formula));
         request.now = QDate::fromString(QLatin1String(today), Qt::ISODate).startOfDay();
         request.showStep = [this](const QString& step) {
             steps.append(step);
@@ -190,8 +191,13 @@ TEST_F(PeriodReports, APeriodOfMonthsShowsWhatItsDaysAddUpTo)
 TEST_F(PeriodReports, AnotherProgramThatReadsIsWaitedForOnceInAReport)
 {
     const norvane::test::ReadingElsewhere reader(shop.path());
+    // With a chart that adds up months by itself.
+    shop.folder().write("two.rpt",
+                        readWholeFile(ReportShop::installed("timesales.rpt")) +
+                            "\r\n[Chart3]\r\nKind=Ranking\r\nTitle=Periods\r\nBy={TIMESALES.ID}\r\n"
+                            "Label={TIMESALES.ID}\r\nValue={TIMESALES.VALUE}\r\n");
     const auto& [formula, today, lines] = periods[0];
-    EXPECT_EQ(linesIn(formula, today), lines);
+    EXPECT_EQ(linesIn(formula, today, shop.folder().path("two.rpt")), lines);
     EXPECT_EQ(steps,
               (QStringList{u"Adding up the sales of January 2028"_s, u"Reading the sales day by day"_s}));
 }
