@@ -61,10 +61,8 @@ const sales::ReportEntry& entryOfPeriod(const QString& name, const QString& peri
     if (entry != nullptr)
         return *entry;
     const QStringList words = periodsOf(name);
-    throw CommandError(ExitCode::Usage, words.isEmpty()
-                                            ? u"The report %1 has no periods."_s.arg(name)
-                                            : u"The report %1 has no period \"%2\". It has: %3."_s.arg(
-                                                  name, period, words.join(u", "_s)));
+    const QString known = words.isEmpty() ? QString() : u" It has: %1."_s.arg(words.join(u", "_s));
+    throw CommandError(ExitCode::Usage, u"The report %1 has no period \"%2\"."_s.arg(name, period) + known);
 }
 
 } // namespace norvane::command
