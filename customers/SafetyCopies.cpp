@@ -240,7 +240,7 @@ QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy)
     return told;
 }
 
-bool copyBeforeJob(const ApplicationValues& values, Boxes& boxes, const QString& reason, store::CopyOf what)
+QString refusalOfCopy(const ApplicationValues& values, const QString& reason, store::CopyOf what)
 {
     const QString customer = values.customerPath;
     const QString ofDatabase = QFileInfo(values.databasePath).path();
@@ -248,12 +248,18 @@ bool copyBeforeJob(const ApplicationValues& values, Boxes& boxes, const QString&
         makeSafetyCopy(ofDatabase, reason, what);
         if (QFileInfo(customer).canonicalFilePath() != QFileInfo(ofDatabase).canonicalFilePath())
             makeSafetyCopy(customer, reason, what);
-        return true;
+        return {};
     } catch (const RuntimeFailure& failure) {
-        boxes.message(u"No safety copy could be made, so nothing was started.\r\r%1"_s.arg(failure.text()),
-                      pleaseCheck, BoxIcon::Exclamation);
-        return false;
+        return u"No safety copy could be made, so nothing was started.\r\r%1"_s.arg(failure.text());
     }
+}
+
+bool copyBeforeJob(const ApplicationValues& values, Boxes& boxes, const QString& reason, store::CopyOf what)
+{
+    const QString refusal = refusalOfCopy(values, reason, what);
+    if (!refusal.isEmpty())
+        boxes.message(refusal, pleaseCheck, BoxIcon::Exclamation);
+    return refusal.isEmpty();
 }
 
 } // namespace norvane::customers

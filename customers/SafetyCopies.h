@@ -45,9 +45,14 @@ SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, st
 /// @throws RuntimeFailure as makeSafetyCopy(), and 3343 for a damaged copy, before anything was changed.
 QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy);
 
-/// A copy of the customers that a job is about to change: the one whose database is in use and, where that is
+/// Copies the customers that a job is about to change: the one whose database is in use and, where that is
 /// another, the one whose folder takes the register files.
-/// @return false after telling the user that there was no room for it; the job must not start then.
+/// @return why no copy could be made, in words for the user; empty on success. Without a copy the job must not
+/// start.
+[[nodiscard]] QString refusalOfCopy(const ApplicationValues& values, const QString& reason,
+                                    store::CopyOf what = store::CopyOf::Programme);
+
+/// The same; shows the refusal. @return whether the copy was made.
 [[nodiscard]] bool copyBeforeJob(const ApplicationValues& values, Boxes& boxes, const QString& reason,
                                  store::CopyOf what = store::CopyOf::Programme);
 

@@ -69,21 +69,46 @@ ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::Link
 
 bool ExchangeRunner::UploadData()
 {
+    const bool isComplete = loggedUpload();
+    showLastBox();
+    return isComplete;
+}
+
+bool ExchangeRunner::downloaddata()
+{
+    const bool isComplete = loggedDownload();
+    showLastBox();
+    return isComplete;
+}
+
+bool ExchangeRunner::loggedUpload()
+{
     customers::LoggedWork work(m_values.customerPath, u"upload"_s, u"register 1"_s);
-    if (!customers::copyBeforeJob(m_values, m_outside.boxes, u"before upload"_s)) {
+    const QString refusal = customers::refusalOfCopy(m_values, u"before upload"_s);
+    if (!refusal.isEmpty()) {
         work.setResult(u"not started: no safety copy"_s);
         m_lacksCopy = true;
+        m_lastBox = {refusal, pleaseCheck, BoxIcon::Exclamation};
         return false;
     }
     upload();
     return tellResult(work);
 }
 
-bool ExchangeRunner::downloaddata()
+bool ExchangeRunner::loggedDownload()
 {
     customers::LoggedWork work(m_values.customerPath, u"download"_s, link::registersInWords(m_link));
     download();
     return tellResult(work);
+}
+
+/// After everything else: nobody may be there to close it.
+void ExchangeRunner::showLastBox()
+{
+    if (m_lastBox.text.isEmpty())
+        return;
+    m_outside.beforeLastBox();
+    m_outside.boxes.message(m_lastBox.text, m_lastBox.title, m_lastBox.icon);
 }
 
 bool ExchangeRunner::tellResult(customers::LoggedWork& work) const
@@ -310,7 +335,7 @@ bool ExchangeRunner::succeeded()
     const QString status = m_outside.readStatus();
     if (link::resultNumber(status) == 0)
         return true;
-    m_outside.boxes.message(u"Communications Error "_s + status, u"Communication result"_s);
+    m_lastBox = {u"Communications Error "_s + status, u"Communication result"_s};
     return false;
 }
 

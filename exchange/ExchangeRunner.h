@@ -41,6 +41,9 @@ public:
     [[nodiscard]] bool lacksCopy() const { return m_lacksCopy; }
 
 private:
+    [[nodiscard]] bool loggedUpload();
+    [[nodiscard]] bool loggedDownload();
+    void showLastBox();
     void upload();
     void download();
     bool tellResult(customers::LoggedWork& work) const;
@@ -74,6 +77,12 @@ private:
     records::ProcedureContext m_procedures;
     UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
     bool m_lacksCopy = false;
+    /// Ends the run; without a text there is none.
+    struct {
+        QString text;
+        QString title;
+        BoxIcon icon = BoxIcon::None;
+    } m_lastBox;
 };
 
 } // namespace norvane::exchange

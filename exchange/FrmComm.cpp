@@ -90,7 +90,7 @@ void FrmComm::exchange()
     if (exitPressed())
         return;
     if (result == link::modemFailed) {
-        disconnectLink();
+        endBeforeLastBox();
         m_boxes.message(u"Modem Failure"_s, u"Communications Error"_s);
         return;
     }
@@ -106,7 +106,7 @@ void FrmComm::noteSerialPort()
 void FrmComm::runSequence(const link::LinkSettings& link)
 {
     // Also when a failure ends the sequence: an open call costs the shop money.
-    const auto hangUp = qScopeGuard([this] { disconnectLink(); });
+    const auto ended = qScopeGuard([this] { hangUp(); });
     moveTicked(link);
 }
 

@@ -88,8 +88,8 @@ void LinkForm::communicate()
 {
     if (m_work != Work::None)
         return;
-    const auto lock = customers::RunLock::take(m_values, m_boxes);
-    if (lock == nullptr)
+    m_lock = customers::RunLock::take(m_values, m_boxes);
+    if (m_lock == nullptr)
         return;
     beginRun();
     bool leavesNow = false;
@@ -114,6 +114,7 @@ bool LinkForm::endRun()
 {
     const bool leaves = m_exitPressed && m_work == Work::Moving;
     m_work = Work::None;
+    m_lock.reset();
     m_waitPointer.reset();
     Communicate->setEnabled(true);
     Communicate->setFocus();
@@ -127,6 +128,7 @@ int LinkForm::connectLink(const LinkSettings& link)
     m_modem = std::make_unique<Modem>(*m_line, *m_clock,
                                       [this](const QString& text) { StatusBar1->setStep(text); });
     m_modem->setUpLine(m_link);
+    m_isConnected = true;
     const int result = dial();
     if (!m_exitPressed)
         m_work = Work::Moving;
@@ -143,8 +145,22 @@ int LinkForm::dial()
 
 void LinkForm::disconnectLink()
 {
+    m_isConnected = false;
     if (m_link.isModem())
         m_modem->Dropphoneline();
+}
+
+void LinkForm::hangUp()
+{
+    if (m_isConnected)
+        disconnectLink();
+}
+
+/// In this order: a run that starts now may dial on the same modem, and hanging up later would end its call.
+void LinkForm::endBeforeLastBox()
+{
+    hangUp();
+    m_lock.reset();
 }
 
 void LinkForm::reject()
@@ -171,7 +187,8 @@ RunOutside LinkForm::outside()
             .showStep = [this](const QString& text) { StatusBar1->setStep(text); },
             .showNotice = [this](const QString& text) { StatusBar1->setNotice(text); },
             .goOn = [this] { return !m_exitPressed; },
-            .boxes = m_boxes};
+            .boxes = m_boxes,
+            .beforeLastBox = [this] { endBeforeLastBox(); }};
 }
 
 } // namespace norvane::link

@@ -19,6 +19,11 @@
 class QHBoxLayout;
 class QPushButton;
 
+namespace norvane::customers
+{
+class RunLock;
+}
+
 namespace norvane::ui
 {
 class StatusLine;
@@ -68,6 +73,10 @@ protected:
     [[nodiscard]] int connectLink(const LinkSettings& link);
     /// Hangs up a modem; nothing on a direct line.
     void disconnectLink();
+    /// Hangs up unless that was done since the last connectLink().
+    void hangUp();
+    /// Hangs up and lets other runs start. Call it before a box that ends the run: the user may be away.
+    void endBeforeLastBox();
     [[nodiscard]] bool exitPressed() const { return m_exitPressed; }
 
     /// The outside of a run that shows its steps in this form; the form must outlive it.
@@ -93,6 +102,8 @@ private:
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<Modem> m_modem;
     LinkSettings m_link; ///< of the last run
+    bool m_isConnected = false;
+    std::unique_ptr<customers::RunLock> m_lock; ///< while a run works
     /// What a run is busy with.
     enum class Work { None, Preparing, Dialling, Moving };
     Work m_work = Work::None;

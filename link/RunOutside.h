@@ -24,6 +24,9 @@ struct RunOutside {
     /// Asked before each step that may be left out. @return false when the user has left.
     std::function<bool()> goOn;
     Boxes& boxes;
+    /// Called before a box that ends the run, once everything is stored and logged. The box may stay open all
+    /// night, so the call and the lock of the run end here.
+    std::function<void()> beforeLastBox = [] {};
 };
 
 /// Runs a tool and tells the user when it could not be started or crashed. The run goes on all the same:

@@ -93,10 +93,20 @@ bool CollectionRun::collect()
     m_link = link::readLinkSettings(m_values);
     m_ended = m_isStored = m_isCleared = false;
     m_origin = ReportOrigin::ThisRun;
+    m_failed.reset();
+    loggedCall();
+    if (m_failed) {
+        m_outside.run.beforeLastBox();
+        m_outside.run.boxes.message(link::resultText(*m_failed, m_dialResult), u"Communications Error"_s);
+    }
+    return m_isCleared;
+}
+
+void CollectionRun::loggedCall()
+{
     customers::LoggedWork work(m_values.customerPath, u"collection"_s, link::registersInWords(m_link));
     call();
     work.setResult(outcome());
-    return m_isCleared;
 }
 
 QString CollectionRun::outcome() const
@@ -112,8 +122,7 @@ void CollectionRun::call()
     // A user who left while the modem dialled has hung up already.
     if (!m_outside.run.goOn())
         return;
-    if (const auto failed = resultOfCall())
-        m_outside.run.boxes.message(link::resultText(*failed, m_dialResult), u"Communications Error"_s);
+    m_failed = resultOfCall();
 }
 
 std::optional<int> CollectionRun::resultOfCall()

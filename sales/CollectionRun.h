@@ -56,6 +56,7 @@ private:
     [[nodiscard]] bool mayUse(const link::WatchedStep& step, bool hasReports, const QString& consequence);
     [[nodiscard]] bool convertReports();
     [[nodiscard]] Stored importReports() const;
+    void loggedCall();
     void call();
     [[nodiscard]] QString outcome() const;
 
@@ -63,6 +64,7 @@ private:
     CollectionOutside m_outside;
     link::LinkSettings m_link;
     int m_dialResult = 0;
+    std::optional<int> m_failed; ///< the result that stopped the run
     bool m_isStored = false;
     bool m_isCleared = false;
     bool m_ended = false; ///< the user left, or does not want what a tool left

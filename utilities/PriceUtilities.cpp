@@ -1,6 +1,7 @@
 // Table of the Utilities menu and how a row is run; see PriceUtilities.h.
 #include "utilities/PriceUtilities.h"
 
+#include "base/LossQuestion.h"
 #include "customers/CustomerLog.h"
 #include "customers/RunLock.h"
 #include "customers/SafetyCopies.h"
@@ -75,42 +76,95 @@ void empty(Tables tables, const QString& databasePath)
         database.execute(u"delete * from %1"_s.arg(QLatin1StringView(table)));
 }
 
-/// Years of sales are copied only where they are at stake.
-bool copyFirst(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes)
+/// One choice of an entry.
+class PriceRun
 {
-    const bool resetsSales = !utility.emptied.empty();
-    return customers::copyBeforeJob(values, boxes,
-                                    resetsSales ? u"before sales reset"_s : u"before price run"_s,
+public:
+    PriceRun(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes,
+             const WalkFrame& frame)
+        : m_utility(utility), m_values(values), m_boxes(boxes), m_frame(frame)
+    {
+    }
+    void run();
+
+private:
+    [[nodiscard]] bool isWanted();
+    [[nodiscard]] bool isChanged();
+    [[nodiscard]] bool changesAlone();
+    [[nodiscard]] QString copyRefusal() const;
+    void change();
+
+    const PriceUtility& m_utility;
+    const ApplicationValues& m_values;
+    Boxes& m_boxes;
+    const WalkFrame& m_frame;
+    std::optional<store::Database> m_database; ///< of a walk
+    std::optional<store::Recordset> m_plus;    ///< of a walk
+    std::optional<Decimal> m_rate;
+    QString m_refusal; ///< why there is no safety copy
+};
+
+void PriceRun::run()
+{
+    if (!isWanted() || !isChanged())
+        return;
+    m_boxes.message(m_utility.done.text, m_utility.done.title);
+    empty(m_utility.emptiedAfterwards, m_values.databasePath);
+}
+
+/// Asks without the lock, since the user may be away.
+bool PriceRun::isWanted()
+{
+    if (!m_boxes.ask(m_utility.confirm.text, m_utility.confirm.title, BoxIcon::Question, BoxAnswer::No))
+        return false;
+    if (m_utility.fields.empty())
+        return true;
+    m_plus.emplace(m_database.emplace(m_values.databasePath).openTable(u"pludata"_s));
+    if (!m_utility.asksRate)
+        return true;
+    m_rate = exchangeRate(m_boxes.input(u"Please enter the current Euro Exchange"_s, u"Euro Rate"_s));
+    return m_rate.has_value();
+}
+
+bool PriceRun::isChanged()
+{
+    const bool isDone = changesAlone();
+    if (!m_refusal.isEmpty())
+        m_boxes.message(m_refusal, pleaseCheck, BoxIcon::Exclamation);
+    return isDone;
+}
+
+/// The lock ends with it, so that the box afterwards stops no other run however long it stays open.
+bool PriceRun::changesAlone()
+{
+    const auto lock = customers::RunLock::take(m_values, m_boxes);
+    if (lock == nullptr)
+        return false;
+    customers::LoggedWork work(QFileInfo(m_values.databasePath).path(), m_utility.confirm.title);
+    m_refusal = copyRefusal();
+    if (m_refusal.isEmpty())
+        change();
+    work.setResult(m_refusal.isEmpty() ? u"complete"_s : u"not started: no safety copy"_s);
+    return m_refusal.isEmpty();
+}
+
+/// Years of sales are copied only where they are at stake.
+QString PriceRun::copyRefusal() const
+{
+    const bool resetsSales = !m_utility.emptied.empty();
+    return customers::refusalOfCopy(m_values, resetsSales ? u"before sales reset"_s : u"before price run"_s,
                                     resetsSales ? store::CopyOf::Everything : store::CopyOf::Programme);
 }
 
-/// @return false when the user gave no rate or there is no room for a safety copy.
-bool walk(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes, const WalkFrame& frame)
+void PriceRun::change()
 {
-    store::Database database(values.databasePath);
-    auto plus = database.openTable(u"pludata"_s);
-    std::optional<Decimal> rate;
-    if (utility.asksRate) {
-        rate = exchangeRate(boxes.input(u"Please enter the current Euro Exchange"_s, u"Euro Rate"_s));
-        if (!rate)
-            return false;
+    if (m_plus) {
+        m_frame.begins();
+        transferPrices(*m_database, *m_plus, m_utility.fields, m_rate, m_frame.everyRow);
     }
-    if (!copyFirst(utility, values, boxes))
-        return false;
-    frame.begins();
-    transferPrices(database, plus, utility.fields, rate, frame.everyRow);
-    return true;
-}
-
-/// What needs no walk. @return false when there is no room for a safety copy.
-bool change(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes)
-{
-    if (!copyFirst(utility, values, boxes))
-        return false;
-    if (!utility.statement.isEmpty())
-        store::Database(values.databasePath).execute(utility.statement);
-    empty(utility.emptied, values.databasePath);
-    return true;
+    if (!m_utility.statement.isEmpty())
+        store::Database(m_values.databasePath).execute(m_utility.statement);
+    empty(m_utility.emptied, m_values.databasePath);
 }
 
 } // namespace
@@ -123,19 +177,7 @@ std::span<const PriceUtility> priceUtilities()
 void runPriceUtility(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes,
                      const WalkFrame& frame)
 {
-    if (!boxes.ask(utility.confirm.text, utility.confirm.title, BoxIcon::Question, BoxAnswer::No))
-        return;
-    const auto lock = customers::RunLock::take(values, boxes);
-    if (lock == nullptr)
-        return;
-    customers::LoggedWork work(QFileInfo(values.databasePath).path(), utility.confirm.title);
-    const bool isDone =
-        utility.fields.empty() ? change(utility, values, boxes) : walk(utility, values, boxes, frame);
-    work.setResult(isDone ? u"complete"_s : u"not started"_s);
-    if (!isDone)
-        return;
-    boxes.message(utility.done.text, utility.done.title);
-    empty(utility.emptiedAfterwards, values.databasePath);
+    PriceRun(utility, values, boxes, frame).run();
 }
 
 } // namespace norvane::utilities

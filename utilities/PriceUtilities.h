@@ -41,8 +41,9 @@ struct WalkFrame {
     std::function<void()> everyRow; ///< called before each record, so it must be cheap
 };
 
-/// Asks (Enter means No), changes the database in use and tells that it is done. Does nothing more after No,
-/// a rate of 0, or while another run holds the program's folder.
+/// Asks (Enter means No), changes the database in use and reports success. Changes nothing after No, for a
+/// rate of 0, or while another run holds the program's folder. Holds the lock of a run between the last answer
+/// and the last box only.
 /// @throws RuntimeFailure what the database reports; the changes before it stay.
 void runPriceUtility(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes,
                      const WalkFrame& frame);

@@ -122,6 +122,30 @@ TEST_F(FrmCommTest, StartsNothingWhileAnotherRunHoldsTheFolder)
     EXPECT_EQ(boxes.shown.size(), 1U);
 }
 
+/// A box that nobody closes must not keep the other shops from collecting at night.
+TEST_F(FrmCommTest, HangsUpAndLetsOtherRunsStartWhileItsLastBoxIsOpen)
+{
+    useModem();
+    folder.setFaults("[Off]\nCommand=open\nResult=8\n");
+    boxes.whileOpen = [this](const test::ShownBox& box) {
+        SCOPED_TRACE(box.text.toStdString());
+        expectHungUp();
+        EXPECT_TRUE(othersMayStart());
+        EXPECT_TRUE(readWholeFile(joinPath(values.customerPath, u"norvane.log"_s)).endsWith(" s\n"));
+    };
+    for (const char* const beginning : {"Communications Error 8", "No safety copy could be made"}) {
+        willConnect(true);
+        box(2).setChecked(true);
+        boxes.shown.clear();
+        upload();
+        ASSERT_EQ(boxes.shown.size(), 1U);
+        EXPECT_TRUE(boxes.shown[0].text.startsWith(QLatin1StringView(beginning)));
+        QDir(joinPath(values.customerPath, u"copies"_s)).removeRecursively();
+        writeWholeFile(joinPath(values.customerPath, u"copies"_s), "a file where the copies should be");
+    }
+    expectHungUp();
+}
+
 /// After an error, a failure that ends the program, and a run that leaves nothing.
 TEST_F(FrmCommTest, TellsAtTheNextOpeningWhatAnExchangeLeft)
 {

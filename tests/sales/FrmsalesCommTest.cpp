@@ -282,6 +282,7 @@ TEST_F(FrmsalesCommTest, DialsCollectsAndHangsUp)
     useModem();
     boxes.whileOpen = [this](const ShownBox&) {
         expectHungUp();
+        EXPECT_TRUE(othersMayStart());
     };
     for (const Exit& end :
          {Exit{"", "Error 100 Sorry Error Unknown", "Resetting Modem .......AT&F", false, false},

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/CustomerSettings.h"
+#include "platform/FolderLock.h"
 #include "platform/ProfileFile.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/ProgramFolder.h"
@@ -49,6 +50,13 @@ protected:
     [[nodiscard]] std::string status() const
     {
         return form.template findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage().toStdString();
+    }
+
+    /// Whether another run could start now.
+    [[nodiscard]] bool othersMayStart() const
+    {
+        RecordingBoxes refusals;
+        return FolderLock::take(values.appPath, refusals) && FolderLock::take(values.customerPath, refusals);
     }
 
     /// Puts the modem at the far end of the line and makes it the customer's connection.

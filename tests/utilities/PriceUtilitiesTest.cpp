@@ -113,6 +113,12 @@ TEST_F(PriceUtilitiesTest, EachEntryFillsItsOwnFieldsOfEveryPlu)
     makeCustomerDatabase();
     addPlu(2, u"'3', null, '3', '4', '5', '6', '7', '8', '9', '0'"_s);
     addPlu(1, u"'1.00', '2.00', '0.00', 'abc', '-1.00', '9.1', '9.2', '9.3', '9.4', null"_s);
+    // Nobody may be there to close a box: others must be able to collect meanwhile.
+    m_boxes.whileOpen = [this](const test::ShownBox& box) {
+        test::RecordingBoxes refusals;
+        EXPECT_TRUE(FolderLock::take(m_values.appPath, refusals)) << box.text.toStdString();
+        execute(u"update PLUDATA set DESCRIPTION = 'open'"_s);
+    };
     for (const auto& [entry, rate, boxes, stored] : steps) {
         EXPECT_EQ(choose(entry, rate), boxes);
         EXPECT_EQ(prices(), stored) << entry;
