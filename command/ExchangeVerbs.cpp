@@ -106,8 +106,7 @@ std::set<int> boxesOf(const QStringList& names)
     return boxes;
 }
 
-void exchangeWith(const Workplace& workplace, const Invocation& words,
-                  bool (exchange::ExchangeRunner::*sequence)())
+void exchangeWith(const Workplace& workplace, const Invocation& words, exchange::Direction direction)
 {
     const ApplicationValues values = takeCustomer(workplace, words.operands.front());
     Ticks ticks(boxesOf(words.operands.mid(1)));
@@ -116,10 +115,13 @@ void exchangeWith(const Workplace& workplace, const Invocation& words,
     Line line;
     // Also when a failure ends the run: an open call costs the shop money.
     const auto hangUp = qScopeGuard([&line] { line.disconnect(); });
-    if (line.connect(link) == link::modemFailed)
-        throw CommandError(ExitCode::Stopped, u"Communications Error: Modem Failure"_s);
     exchange::ExchangeRunner runner(values, link, ticks, outsideOf(workplace, values));
-    if (!(runner.*sequence)())
+    if (line.connect(link) == link::modemFailed) {
+        runner.logFailedCall(direction);
+        throw CommandError(ExitCode::Stopped, u"Communications Error: Modem Failure"_s);
+    }
+    const bool isUpload = direction == exchange::Direction::Upload;
+    if (!(isUpload ? runner.UploadData() : runner.downloaddata()))
         throw CommandError(runner.lacksCopy() ? ExitCode::Unwritable : ExitCode::Stopped, {});
 }
 
@@ -127,12 +129,12 @@ void exchangeWith(const Workplace& workplace, const Invocation& words,
 
 void fetch(const Workplace& workplace, const Invocation& words)
 {
-    exchangeWith(workplace, words, &exchange::ExchangeRunner::UploadData);
+    exchangeWith(workplace, words, exchange::Direction::Upload);
 }
 
 void send(const Workplace& workplace, const Invocation& words)
 {
-    exchangeWith(workplace, words, &exchange::ExchangeRunner::downloaddata);
+    exchangeWith(workplace, words, exchange::Direction::Download);
 }
 
 void collect(const Workplace& workplace, const Invocation& words)

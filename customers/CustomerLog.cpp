@@ -89,17 +89,26 @@ std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList
     return std::nullopt;
 }
 
-LoggedWork::LoggedWork(QString customerPath, const QString& work, const QString& registers)
+LoggedWork::LoggedWork(QString customerPath, const QString& work, const QString& registers,
+                       std::function<qint64()> waited)
     : m_customerPath(std::move(customerPath)), m_line{QDateTime::currentDateTime(), work, registers,
-                                                      u"ended by a failure"_s}
+                                                      u"ended by a failure"_s},
+      m_waited(std::move(waited)), m_waitedBefore(m_waited())
 {
     m_time.start();
 }
 
 LoggedWork::~LoggedWork()
 {
-    m_line.milliseconds = m_time.elapsed();
+    m_line.milliseconds = m_time.elapsed() - (m_waited() - m_waitedBefore);
     writeLog(m_customerPath, m_line);
+}
+
+/// Without the full stop, since more may follow.
+QString LoggedWork::inLog(const RuntimeFailure& failure)
+{
+    const QString text = u"failure %1: %2"_s.arg(failure.number()).arg(failure.text());
+    return text.endsWith(u'.') ? text.chopped(1) : text;
 }
 
 } // namespace norvane::customers

@@ -1,12 +1,16 @@
 // What was done with a customer, when and how it ended: a text that its dealer can read.
 #pragma once
 
+#include "platform/RuntimeFailure.h"
+
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace norvane::customers
 {
@@ -14,7 +18,7 @@ namespace norvane::customers
 /// A line of norvane.log in the customer's folder; its parts stand between tabs.
 struct LogLine {
     QDateTime begun;
-    QString work;      ///< "upload", "price run"
+    QString work;      ///< "upload", "Transfer Current Price to Euro, rate 0.68"
     QString registers; ///< "register 1", "registers 1 to 3"; empty for work on the database alone
     QString result;
     qint64 milliseconds = 0;
@@ -27,21 +31,47 @@ void writeLog(const QString& customerPath, const LogLine& line);
 /// The latest line of any of these @p works; nothing when the log holds none.
 [[nodiscard]] std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList& works);
 
-/// Work in hand. It is logged when this ends, as failed unless a result was set before.
+/// Work in progress. It is logged when this ends, as failed unless a result was set before.
 class LoggedWork
 {
 public:
-    LoggedWork(QString customerPath, const QString& work, const QString& registers = {});
+    /// @param waited milliseconds spent so far on waiting for answers of the user, which do not count as work
+    LoggedWork(
+        QString customerPath, const QString& work, const QString& registers = {},
+        std::function<qint64()> waited = [] { return qint64{0}; });
     ~LoggedWork();
     LoggedWork(const LoggedWork&) = delete;
     LoggedWork& operator=(const LoggedWork&) = delete;
 
     void setResult(const QString& result) { m_line.result = result; }
 
+    /// Does @p work. When it fails, @p describe makes the result from "failure 53: 67.txt is missing", and
+    /// the failure goes on. @return what @p work returns.
+    template <typename Work, typename Describe>
+    decltype(auto) during(Work&& work, Describe&& describe)
+    {
+        try {
+            return std::forward<Work>(work)();
+        } catch (const RuntimeFailure& failure) {
+            setResult(std::forward<Describe>(describe)(inLog(failure)));
+            throw;
+        }
+    }
+    template <typename Work>
+    decltype(auto) during(Work&& work)
+    {
+        return during(std::forward<Work>(work),
+                      [](const QString& failure) { return QStringLiteral("ended by ") + failure; });
+    }
+
 private:
+    [[nodiscard]] static QString inLog(const RuntimeFailure& failure);
+
     QString m_customerPath;
     LogLine m_line;
     QElapsedTimer m_time;
+    std::function<qint64()> m_waited;
+    qint64 m_waitedBefore;
 };
 
 } // namespace norvane::customers

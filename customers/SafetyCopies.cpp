@@ -221,9 +221,12 @@ bool needsNewDatabase(const QString& customerPath)
     }
 }
 
-QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy)
+namespace
 {
-    LoggedWork work(customerPath, u"restore"_s);
+
+/// As restoreSafetyCopy(), without a line in the log.
+QString putBack(const QString& customerPath, const SafetyCopy& copy)
+{
     checkCopy(copy);
     QString told;
     if (needsNewDatabase(customerPath)) {
@@ -236,6 +239,15 @@ QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy)
         store::restoreTables(database, databaseOf(copy));
     }
     copyFiles(copy.path, customerPath);
+    return told;
+}
+
+} // namespace
+
+QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy)
+{
+    LoggedWork work(customerPath, u"restore"_s);
+    QString told = work.during([&] { return putBack(customerPath, copy); });
     work.setResult(u"restored %1"_s.arg(copy.name) + (told.isEmpty() ? QString() : u". "_s + told));
     return told;
 }

@@ -47,8 +47,8 @@ QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy);
 
 /// Copies the customers that a job is about to change: the one whose database is in use and, where that is
 /// another, the one whose folder takes the register files.
-/// @return why no copy could be made, in words for the user; empty on success. Without a copy the job must not
-/// start.
+/// @return why no copy could be made, in words for the user; empty on success. Without a copy the job must
+/// not start.
 [[nodiscard]] QString refusalOfCopy(const ApplicationValues& values, const QString& reason,
                                     store::CopyOf what = store::CopyOf::Programme);
 

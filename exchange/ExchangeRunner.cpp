@@ -83,23 +83,35 @@ bool ExchangeRunner::downloaddata()
 
 bool ExchangeRunner::loggedUpload()
 {
-    customers::LoggedWork work(m_values.customerPath, u"upload"_s, u"register 1"_s);
+    customers::LoggedWork work = logLine(Direction::Upload);
     const QString refusal = customers::refusalOfCopy(m_values, u"before upload"_s);
     if (!refusal.isEmpty()) {
-        work.setResult(u"not started: no safety copy"_s);
+        work.setResult(refusal);
         m_lacksCopy = true;
         m_lastBox = {refusal, pleaseCheck, BoxIcon::Exclamation};
         return false;
     }
-    upload();
-    return tellResult(work);
+    return logged(work, &ExchangeRunner::upload);
 }
 
 bool ExchangeRunner::loggedDownload()
 {
-    customers::LoggedWork work(m_values.customerPath, u"download"_s, link::registersInWords(m_link));
-    download();
-    return tellResult(work);
+    customers::LoggedWork work = logLine(Direction::Download);
+    return logged(work, &ExchangeRunner::download);
+}
+
+customers::LoggedWork ExchangeRunner::logLine(Direction direction) const
+{
+    const bool isUpload = direction == Direction::Upload;
+    return {m_values.customerPath, isUpload ? u"upload"_s : u"download"_s,
+            isUpload ? u"register 1"_s : link::registersInWords(m_link), m_outside.millisecondsOpen};
+}
+
+void ExchangeRunner::logFailedCall(Direction direction)
+{
+    m_place = u"the call"_s;
+    m_stop = link::resultInWords(link::modemFailed);
+    logLine(direction).setResult(stoppedText(m_stop));
 }
 
 /// After everything else: nobody may be there to close it.
@@ -111,33 +123,40 @@ void ExchangeRunner::showLastBox()
     m_outside.boxes.message(m_lastBox.text, m_lastBox.title, m_lastBox.icon);
 }
 
-bool ExchangeRunner::tellResult(customers::LoggedWork& work) const
+bool ExchangeRunner::logged(customers::LoggedWork& work, bool (ExchangeRunner::*sequence)())
 {
-    const QList<int> left = tickedBoxes();
-    work.setResult(left.isEmpty() ? u"complete"_s : u"stopped; still to do: %1"_s.arg(boxNames(left)));
-    return left.isEmpty();
+    const bool isComplete = work.during([&] { return (this->*sequence)(); },
+                                        [this](const QString& failure) { return stoppedText(failure); });
+    work.setResult(isComplete ? u"complete"_s : stoppedText(m_stop));
+    return isComplete;
 }
 
-void ExchangeRunner::upload()
+/// "stopped at file 67: result 8: Time Out; still to do: PLU, Group".
+QString ExchangeRunner::stoppedText(const QString& reason) const
+{
+    const QString stopped = u"stopped at %1: %2"_s.arg(m_place, reason);
+    const QList<int> left = tickedBoxes();
+    return left.isEmpty() ? stopped : u"%1; still to do: %2"_s.arg(stopped, boxNames(left));
+}
+
+bool ExchangeRunner::upload()
 {
     begin(Direction::Upload);
     if (!open(u"Opening exchange"_s, link::uploadLine(m_link, link::openingSuffix)) ||
         !open(u"Memory allocation"_s, link::uploadLine(m_link, link::memorySuffix), {memoryFile})) {
-        return;
+        return false;
     }
     keepForCustomer(memoryFile);
-    if (FileMemory(m_procedures))
-        moveBoxes(uploadPlan(), &ExchangeRunner::uploadRow);
+    return FileMemory(m_procedures) && moveBoxes(uploadPlan(), &ExchangeRunner::uploadRow);
 }
 
-void ExchangeRunner::download()
+bool ExchangeRunner::download()
 {
     begin(Direction::Download);
-    if (!open(u"Memory allocation"_s, link::downloadOpeningLine(m_link, link::memorySuffix), {memoryFile}) ||
-        !open(u"Opening exchange"_s, link::downloadOpeningLine(m_link, link::openingSuffix))) {
-        return;
-    }
-    moveBoxes(downloadPlan(), &ExchangeRunner::downloadRow);
+    return open(u"Memory allocation"_s, link::downloadOpeningLine(m_link, link::memorySuffix),
+                {memoryFile}) &&
+           open(u"Opening exchange"_s, link::downloadOpeningLine(m_link, link::openingSuffix)) &&
+           moveBoxes(downloadPlan(), &ExchangeRunner::downloadRow);
 }
 
 /// Remembered from here on, so that a run that is cut off at any time is told later. A run without boxes
@@ -168,16 +187,18 @@ void ExchangeRunner::noteBoxesLeft()
     noteExchange(m_values, m_exchange);
 }
 
+/// @return whether all ticked boxes moved.
 template <typename Row>
-void ExchangeRunner::moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::*moveRow)(const Row&))
+bool ExchangeRunner::moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::*moveRow)(const Row&))
 {
     for (int box = 0; box < boxCount; ++box) {
         if (box == firstSmartCardBox)
             untickWithoutSmartCards();
         if (m_ticks.isTicked(box) && !moveBox(box, rowsOfBox(plan, box), moveRow))
-            return;
+            return false;
         noteBoxesLeft();
     }
+    return true;
 }
 
 /// @return false when the run ends here, with the box still ticked.
@@ -185,7 +206,12 @@ template <typename Row>
 bool ExchangeRunner::moveBox(int box, std::span<const Row> rows, bool (ExchangeRunner::*moveRow)(const Row&))
 {
     for (const Row& row : rows) {
-        if (!m_outside.goOn() || !(this->*moveRow)(row))
+        m_place = u"file %1"_s.arg(row.file);
+        if (!m_outside.goOn()) {
+            m_stop = u"left by the user"_s;
+            return false;
+        }
+        if (!(this->*moveRow)(row))
             return false;
     }
     m_ticks.setTicked(box, false);
@@ -335,6 +361,7 @@ bool ExchangeRunner::succeeded()
     const QString status = m_outside.readStatus();
     if (link::resultNumber(status) == 0)
         return true;
+    m_stop = link::resultInWords(link::resultNumber(status));
     m_lastBox = {u"Communications Error "_s + status, u"Communication result"_s};
     return false;
 }
@@ -343,6 +370,7 @@ bool ExchangeRunner::succeeded()
 bool ExchangeRunner::open(const QString& name, const QString& commandLine, const QStringList& expected)
 {
     m_outside.showStep(name);
+    m_place = u"the "_s + name.toLower();
     link::WatchedStep step(m_outside, expected + QStringList{link::statusFile});
     step.run(commandLine);
     return succeeded() && step.mayGoOn(oldResult);

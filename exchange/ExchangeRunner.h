@@ -37,6 +37,8 @@ public:
     /// Makes the files from the tables, or takes the kept ones, and sends them to registers 1 to n.
     /// @throws as UploadData, and 53 when the kept bitmap file is missing.
     bool downloaddata();
+    /// Logs that the modem reached no register, so that nothing was moved.
+    void logFailedCall(Direction direction);
     /// Whether the upload did not start because no safety copy could be made; the user was told then.
     [[nodiscard]] bool lacksCopy() const { return m_lacksCopy; }
 
@@ -44,11 +46,13 @@ private:
     [[nodiscard]] bool loggedUpload();
     [[nodiscard]] bool loggedDownload();
     void showLastBox();
-    void upload();
-    void download();
-    bool tellResult(customers::LoggedWork& work) const;
+    [[nodiscard]] customers::LoggedWork logLine(Direction direction) const;
+    [[nodiscard]] bool logged(customers::LoggedWork& work, bool (ExchangeRunner::*sequence)());
+    [[nodiscard]] QString stoppedText(const QString& reason) const;
+    bool upload();
+    bool download();
     template <typename Row>
-    void moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::*moveRow)(const Row&));
+    bool moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::*moveRow)(const Row&));
     template <typename Row>
     bool moveBox(int box, std::span<const Row> rows, bool (ExchangeRunner::*moveRow)(const Row&));
     bool uploadRow(const UploadRow& row);
@@ -77,6 +81,9 @@ private:
     records::ProcedureContext m_procedures;
     UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
     bool m_lacksCopy = false;
+    QString m_place; ///< in progress: "file 67", "the opening exchange"
+    /// Why the run stops. A step that ends it without a result of the tool was answered No.
+    QString m_stop = QStringLiteral("answered No");
     /// Ends the run; without a text there is none.
     struct {
         QString text;

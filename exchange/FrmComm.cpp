@@ -89,12 +89,14 @@ void FrmComm::exchange()
     // Exit has hung up; show nothing.
     if (exitPressed())
         return;
+    ExchangeRunner runner(m_values, link, *this, outside());
     if (result == link::modemFailed) {
+        runner.logFailedCall(isUpload() ? Direction::Upload : Direction::Download);
         endBeforeLastBox();
         m_boxes.message(u"Modem Failure"_s, u"Communications Error"_s);
         return;
     }
-    runSequence(link);
+    runSequence(runner);
 }
 
 void FrmComm::noteSerialPort()
@@ -103,21 +105,20 @@ void FrmComm::noteSerialPort()
         m_boxes.message(serialPortNote(), u"Please note...."_s, BoxIcon::Exclamation);
 }
 
-void FrmComm::runSequence(const link::LinkSettings& link)
+void FrmComm::runSequence(ExchangeRunner& runner)
 {
     // Also when a failure ends the sequence: an open call costs the shop money.
     const auto ended = qScopeGuard([this] { hangUp(); });
-    moveTicked(link);
-}
-
-void FrmComm::moveTicked(const link::LinkSettings& link)
-{
-    ExchangeRunner runner(m_values, link, *this, outside());
-    if (m_exchangeMode == "UPLOAD"_L1) {
+    if (isUpload()) {
         runner.UploadData();
     } else {
         runner.downloaddata();
     }
+}
+
+bool FrmComm::isUpload() const
+{
+    return m_exchangeMode == "UPLOAD"_L1;
 }
 
 QString FrmComm::leavingNotice() const

@@ -11,6 +11,8 @@ class QCheckBox;
 namespace norvane::exchange
 {
 
+class ExchangeRunner;
+
 /// Serves both directions; the menu gives the dialog its caption. All boxes start unticked. Closing takes
 /// effect after the current file.
 class FrmComm : public link::LinkForm, private TickBoxes
@@ -35,8 +37,8 @@ private:
     void selectAll();
     void exchange();
     void noteSerialPort();
-    void runSequence(const link::LinkSettings& link);
-    void moveTicked(const link::LinkSettings& link);
+    void runSequence(ExchangeRunner& runner);
+    [[nodiscard]] bool isUpload() const;
 
     [[nodiscard]] bool isTicked(int box) const override;
     void setTicked(int box, bool ticked) override;

@@ -16,7 +16,7 @@ namespace norvane::link
 
 LinkForm::LinkForm(const char* name, const char* runCaption, const ApplicationValues& values, Boxes& boxes,
                    QWidget* parent)
-    : QDialog(parent), m_values(values), m_boxes(boxes),
+    : QDialog(parent), m_values(values), m_boxes(boxes), m_timedBoxes(boxes),
       m_tool(this, boxes, [this](const QString& text) { StatusBar1->setRunning(text); }),
       m_line(makeSerialLine()), m_clock(std::make_unique<SystemClock>())
 {
@@ -187,8 +187,12 @@ RunOutside LinkForm::outside()
             .showStep = [this](const QString& text) { StatusBar1->setStep(text); },
             .showNotice = [this](const QString& text) { StatusBar1->setNotice(text); },
             .goOn = [this] { return !m_exitPressed; },
-            .boxes = m_boxes,
-            .beforeLastBox = [this] { endBeforeLastBox(); }};
+            .boxes = m_timedBoxes,
+            .beforeLastBox = [this] { endBeforeLastBox(); },
+            .millisecondsOpen =
+                [this] {
+                    return m_timedBoxes.millisecondsOpen();
+                }};
 }
 
 } // namespace norvane::link

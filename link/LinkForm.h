@@ -7,6 +7,7 @@
 #include "link/LinkSettings.h"
 #include "link/Modem.h"
 #include "link/RunOutside.h"
+#include "link/TimedBoxes.h"
 #include "link/ToolWait.h"
 #include "platform/SerialLine.h"
 #include "ui/WaitPointer.h"
@@ -97,6 +98,7 @@ private:
     [[nodiscard]] int dial();
     void leave();
 
+    TimedBoxes m_timedBoxes; ///< of a run
     ToolWait m_tool;
     std::unique_ptr<SerialLine> m_line;
     std::unique_ptr<Clock> m_clock;

@@ -41,15 +41,29 @@ constexpr ResultCode resultCodes[] = {
     {descriptionsPolled, "Please set\rS-Mode.\r5.System Option.\r13. Send PLU Description when polled to N"},
 };
 
+/// Empty for a status without a text.
+QString knownText(int status)
+{
+    const auto* row = std::find_if(std::begin(resultCodes), std::end(resultCodes),
+                                   [status](const ResultCode& code) { return code.code == status; });
+    return row == std::end(resultCodes) ? QString() : QLatin1String(row->text);
+}
+
 } // namespace
 
 QString resultText(int status, int dialResult)
 {
-    const auto* row = std::find_if(std::begin(resultCodes), std::end(resultCodes),
-                                   [status](const ResultCode& code) { return code.code == status; });
-    if (row != std::end(resultCodes))
-        return QLatin1String(row->text);
-    return u"Error %1 Sorry Error Unknown"_s.arg(dialResult);
+    const QString text = knownText(status);
+    return text.isEmpty() ? u"Error %1 Sorry Error Unknown"_s.arg(dialResult) : text;
+}
+
+QString resultInWords(int status)
+{
+    const QString number = u"%1. "_s.arg(status);
+    QString text = knownText(status);
+    if (text.startsWith(number))
+        text.remove(0, number.size());
+    return u"result %1: %2"_s.arg(status).arg(text.isEmpty() ? u"unknown"_s : text.replace(u'\r', u' '));
 }
 
 int resultNumber(const QString& statusText)

@@ -26,7 +26,12 @@ struct RunOutside {
     Boxes& boxes;
     /// Called before a box that ends the run, once everything is stored and logged. The box may stay open all
     /// night, so the call and the lock of the run end here.
-    std::function<void()> beforeLastBox = [] {};
+    std::function<void()> beforeLastBox = [] {
+    };
+    /// For how long the boxes have been open, which is not counted as work.
+    std::function<qint64()> millisecondsOpen = [] {
+        return qint64{0};
+    };
 };
 
 /// Runs a tool and tells the user when it could not be started or crashed. The run goes on all the same:

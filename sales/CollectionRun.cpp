@@ -94,6 +94,7 @@ bool CollectionRun::collect()
     m_ended = m_isStored = m_isCleared = false;
     m_origin = ReportOrigin::ThisRun;
     m_failed.reset();
+    m_place = u"the call"_s;
     loggedCall();
     if (m_failed) {
         m_outside.run.beforeLastBox();
@@ -104,16 +105,29 @@ bool CollectionRun::collect()
 
 void CollectionRun::loggedCall()
 {
-    customers::LoggedWork work(m_values.customerPath, u"collection"_s, link::registersInWords(m_link));
-    call();
-    work.setResult(outcome());
+    customers::LoggedWork work(m_values.customerPath, u"collection"_s, link::registersInWords(m_link),
+                               m_outside.run.millisecondsOpen);
+    work.during([this] { call(); },
+                [this](const QString& failure) {
+                    // What was read before the failure may have been kept.
+                    return stoppedText(failure, u"the registers were not cleared"_s);
+                });
+    work.setResult(m_isCleared ? u"complete"_s : stoppedText(whyStopped(), u"nothing stored"_s));
 }
 
-QString CollectionRun::outcome() const
+QString CollectionRun::whyStopped() const
 {
-    if (m_isCleared)
-        return u"complete"_s;
-    return m_isStored ? u"stored; the registers were not cleared"_s : u"stopped; nothing stored"_s;
+    if (m_failed)
+        return link::resultInWords(m_dialResult == link::modemFailed ? m_dialResult : *m_failed);
+    return m_outside.run.goOn() ? u"answered No"_s : u"left by the user"_s;
+}
+
+/// "stopped at Consolidate Reports: result 8: Time Out; nothing stored". @p beforeStoring ends the text of a
+/// run that has not stored the reports.
+QString CollectionRun::stoppedText(const QString& reason, const QString& beforeStoring) const
+{
+    const QString stored = u"the sales are stored; still to do: clear the registers"_s;
+    return u"stopped at %1: %2; %3"_s.arg(m_place, reason, m_isStored ? stored : beforeStoring);
 }
 
 void CollectionRun::call()
@@ -141,6 +155,7 @@ std::optional<int> CollectionRun::failedResult()
     if (const auto failed = fetchReports(); failed || m_ended)
         return failed;
     m_outside.run.showStep(u"Parse data...."_s);
+    m_place = u"Parse data"_s;
     if (sendsDescriptions())
         return link::descriptionsPolled;
     if (!convertReports())
@@ -178,8 +193,9 @@ std::optional<int> CollectionRun::runStep(const ToolStep& step)
         m_ended = true;
         return std::nullopt;
     }
+    m_place = step.statusText != nullptr ? QString::fromLatin1(step.statusText) : u"the opening exchange"_s;
     if (step.statusText != nullptr)
-        m_outside.run.showStep(QLatin1String(step.statusText));
+        m_outside.run.showStep(m_place);
     link::WatchedStep watched(m_outside.run, (step.leavesReports ? reportNames(reportFile) : QStringList()) +
                                                  QStringList{link::statusFile});
     watched.run(step.line(m_link, step.suffix));

@@ -58,12 +58,14 @@ private:
     [[nodiscard]] Stored importReports() const;
     void loggedCall();
     void call();
-    [[nodiscard]] QString outcome() const;
+    [[nodiscard]] QString whyStopped() const;
+    [[nodiscard]] QString stoppedText(const QString& reason, const QString& beforeStoring) const;
 
     const ApplicationValues& m_values;
     CollectionOutside m_outside;
     link::LinkSettings m_link;
     int m_dialResult = 0;
+    QString m_place;             ///< the step in progress, for the log
     std::optional<int> m_failed; ///< the result that stopped the run
     bool m_isStored = false;
     bool m_isCleared = false;

@@ -22,10 +22,18 @@ TEST(CustomerLog, HasALineForEachWorkAndTellsOneThatAFailureEnded)
         throw std::runtime_error("the disk is full");
     } catch (const std::runtime_error&) {
     }
+    qint64 waited = 5000;
+    const int failure = test::failureOf([&] {
+        LoggedWork restore(folder.path(), u"restore"_s, {}, [&] { return std::exchange(waited, 0); });
+        restore.during([] { throw RuntimeFailure(Failure::DiskFull, u"The disk\ris full."_s); });
+    });
+    EXPECT_EQ(failure, 61);
     const QString text = QString::fromUtf8(folder.read("norvane.log"));
     const QRegularExpression lines(u"^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\tupload\tregister "
                                    u"1\tstopped. Still to do: PLU\t0.\\d s\n"
-                                   "[-0-9]+ [0-9:]+\tprice run\t\tended by a failure\t0.\\d s\n$"_s);
+                                   "[-0-9]+ [0-9:]+\tprice run\t\tended by a failure\t0.\\d s\n"
+                                   "[-0-9]+ [0-9:]+\trestore\t\tended by failure 61: The disk is full\t"
+                                   "5.\\d s\n$"_s);
     EXPECT_TRUE(lines.match(text).hasMatch()) << text.toStdString();
     EXPECT_EQ(lastLogged(folder.path(), {u"upload"_s, u"download"_s})->result,
               u"stopped. Still to do: PLU"_s);

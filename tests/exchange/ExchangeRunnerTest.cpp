@@ -3,6 +3,7 @@
 #include "exchange/ExchangeRunner.h"
 
 #include "base/SharedRoutines.h"
+#include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
 #include "tests/store/Rows.h"
 #include "tests/support/ProgramFolder.h"
@@ -213,6 +214,33 @@ TEST(ExchangeRunner, StopsByTheResultThatStandsInStatusOut)
     EXPECT_EQ(shop.transfers.size(), 2) << "the memory file comes first on the way down";
     EXPECT_TRUE(shop.showsOnly("Communications Error 8"));
     EXPECT_EQ(shop.ticks.ticked, std::set<int>{2});
+}
+
+/// A run that stops, and how its result in the log begins.
+constexpr struct {
+    std::initializer_list<int> ticked;
+    const char* fault;
+    const char* logged;
+} stops[] = {
+    {{}, "Command=open\nResult=8", "stopped at the opening exchange: result 8: Time Out"},
+    {{0, 2}, "File=67\nResult=12", "stopped at file 67: result 12: Machine Busy; still to do: PLU, Group"},
+    {{0}, "File=67\nResult=77", "stopped at file 67: result 77: unknown; still to do: PLU"},
+    {{2}, "File=1\nCrash=1", "stopped at file 1: answered No; still to do: Group"},
+    {{2}, "File=1\nStatus=garbage", "stopped at file 1: failure 13: status.out holds "},
+    {{2}, "File=2", "complete"},
+};
+
+TEST(ExchangeRunner, LogsWhereAndWhyItStoppedAndWhatIsLeft)
+{
+    Exchange shop(2);
+    shop.upload({2});
+    for (const auto& [ticked, fault, logged] : stops) {
+        shop.folder.setFaults(QByteArray("[Stop]\nTool=VELMARCOMM\n") + fault + '\n');
+        (void)test::failureOf([&] { shop.upload(ticked); });
+        const QString result = customers::lastLogged(shop.values.customerPath, {u"upload"_s})->result;
+        EXPECT_TRUE(result.startsWith(QLatin1StringView(logged))) << result.toStdString();
+        EXPECT_EQ(result.endsWith(u"Group"_s), shop.ticks.ticked.contains(2));
+    }
 }
 
 TEST(ExchangeRunner, GoesByAnOldResultWhenTheToolLeavesNone)

@@ -2,6 +2,7 @@
 // end of a pseudo terminal.
 #include "exchange/FrmComm.h"
 
+#include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
 #include "platform/FolderLock.h"
 #include "store/Database.h"
@@ -38,6 +39,10 @@ protected:
         return joinPath(values.customerPath, u"%1.dat"_s.arg(file));
     }
     void upload() { press("Communicate"); }
+    [[nodiscard]] customers::LogLine logged() const
+    {
+        return customers::lastLogged(values.customerPath, {u"upload"_s}).value_or(customers::LogLine());
+    }
     void expectCall(const Call& call)
     {
         boxes.shown.clear();
@@ -105,6 +110,23 @@ TEST_F(FrmCommTest, EndsTheFileInWorkWhenLeftInTheMidst)
     EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(store::Database(values.databasePath).openTable(u"memoryallocation"_s).recordCount(), 1);
     EXPECT_FALSE(pathExists(kept(1)));
+    EXPECT_EQ(logged().result, u"stopped at file 1: left by the user; still to do: Group");
+}
+
+TEST_F(FrmCommTest, DoesNotLogTheTimeInWhichAQuestionWaitsAsWork)
+{
+    constexpr int open = 1000;
+    constexpr int rounding = 50;
+    boxes.whileOpen = [](const test::ShownBox&) {
+        QThread::msleep(open);
+    };
+    upload();
+    folder.removeTool("VELMARCOMM");
+    QElapsedTimer timer;
+    timer.start();
+    upload();
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_LE(logged().milliseconds, timer.elapsed() - open + rounding);
 }
 
 TEST_F(FrmCommTest, StartsNothingWhileAnotherRunHoldsTheFolder)
@@ -127,19 +149,24 @@ TEST_F(FrmCommTest, HangsUpAndLetsOtherRunsStartWhileItsLastBoxIsOpen)
 {
     useModem();
     folder.setFaults("[Off]\nCommand=open\nResult=8\n");
-    boxes.whileOpen = [this](const test::ShownBox& box) {
+    QStringList results;
+    boxes.whileOpen = [&](const test::ShownBox& box) {
         SCOPED_TRACE(box.text.toStdString());
         expectHungUp();
         EXPECT_TRUE(othersMayStart());
-        EXPECT_TRUE(readWholeFile(joinPath(values.customerPath, u"norvane.log"_s)).endsWith(" s\n"));
+        results << logged().result;
     };
-    for (const char* const beginning : {"Communications Error 8", "No safety copy could be made"}) {
-        willConnect(true);
+    for (const auto& [connects, beginning, result] :
+         {std::tuple(true, "Communications Error 8", "stopped at the opening exchange: result 8: Time Out"),
+          {false, "Modem Failure", "stopped at the call: result 100: Modem Failure"},
+          {true, "No safety copy could be made", "No safety copy could be made"}}) {
+        willConnect(connects);
         box(2).setChecked(true);
         boxes.shown.clear();
         upload();
         ASSERT_EQ(boxes.shown.size(), 1U);
         EXPECT_TRUE(boxes.shown[0].text.startsWith(QLatin1StringView(beginning)));
+        EXPECT_TRUE(results.takeLast().startsWith(QLatin1StringView(result)));
         QDir(joinPath(values.customerPath, u"copies"_s)).removeRecursively();
         writeWholeFile(joinPath(values.customerPath, u"copies"_s), "a file where the copies should be");
     }

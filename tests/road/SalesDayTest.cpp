@@ -129,7 +129,7 @@ TEST_P(SalesDay, ComesHomeOnceAndTheNextDayBesideIt)
     EXPECT_EQ(collect(), u"Consolidate Reports"_s);
     EXPECT_EQ(m_shop.boxes().shown,
               (std::vector{test::ShownBox{u"8. Time Out"_s, u"Communications Error"_s}}));
-    EXPECT_EQ(logged(), u"stopped; nothing stored"_s);
+    EXPECT_EQ(logged(), u"stopped at Consolidate Reports: result 8: Time Out; nothing stored"_s);
     m_shop.folder().setFaults({});
     EXPECT_EQ(collect(), done);
     expectTablesHoldWhatWasRung();

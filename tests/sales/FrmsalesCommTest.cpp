@@ -2,6 +2,7 @@
 // end of a pseudo terminal.
 #include "sales/FrmsalesComm.h"
 
+#include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
@@ -71,6 +72,10 @@ protected:
         EXPECT_EQ(boxes.shown,
                   std::vector<ShownBox>(end.text == nullptr ? 0 : 1, {QLatin1String(end.text), errorTitle}));
     }
+    [[nodiscard]] QString logged() const
+    {
+        return customers::lastLogged(values.customerPath, {u"collection"_s})->result;
+    }
     /// Whether the sales still stand at the registers, open or consolidated.
     [[nodiscard]] bool registersHoldSales() const
     {
@@ -127,7 +132,10 @@ TEST_F(FrmsalesCommTest, EndsAtAResultThatIsNotAccepted)
         EXPECT_EQ(rows() > 0, end.imported);
         EXPECT_TRUE(registersHoldSales());
         EXPECT_TRUE(form.isVisible());
+        EXPECT_EQ(logged().endsWith(u"nothing stored"_s), !end.imported);
     }
+    EXPECT_EQ(logged(), u"stopped at Clear Data at ECR: result 15: Report Clear Error; the sales are stored; "
+                        u"still to do: clear the registers");
 }
 
 TEST_F(FrmsalesCommTest, CollectsSalesThatWait)
