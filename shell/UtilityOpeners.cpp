@@ -24,7 +24,10 @@ void runUtility(FrmMain& main, const utilities::PriceUtility& utility, const App
     const auto everyRow = [&] {
         work->letEventsRun();
     };
-    utilities::runPriceUtility(utility, values, boxes, {begin, everyRow});
+    const auto showNotice = [&](const QString& text) {
+        main.statusBar1().setNotice(text);
+    };
+    utilities::runPriceUtility(utility, values, boxes, {begin, everyRow, showNotice});
 }
 
 /// The status bar's panel counts the seconds in which the converter is open.

@@ -2,6 +2,7 @@
 #include "utilities/PriceConversion.h"
 
 #include "platform/Numbers.h"
+#include "platform/NumberScan.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -20,6 +21,11 @@ std::optional<Decimal> exchangeRate(const QString& answer)
 {
     const double rate = leadingNumber(answer);
     return rate == 0 ? std::nullopt : std::optional(Decimal::fromDouble(rate));
+}
+
+bool isWhollyNumber(const QString& answer)
+{
+    return scanWholeNumber(answer.toStdString()).has_value();
 }
 
 std::string convertedPrice(std::string_view price, const Decimal& rate)

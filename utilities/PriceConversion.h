@@ -16,6 +16,9 @@ namespace norvane::utilities
 /// @throws RuntimeFailure 6 for a number of more than 18 digits.
 [[nodiscard]] std::optional<Decimal> exchangeRate(const QString& answer);
 
+/// Whether all of @p answer is a number, as in "0.68" but not in "1,5".
+[[nodiscard]] bool isWhollyNumber(const QString& answer);
+
 /// The number at the start of @p price, divided by @p rate (not 0). The quotient is rounded to four places
 /// and cut to three; a last digit below 5 is subtracted; then it is rounded to two.
 /// @return the text for a price field: a blank or "-" first, no trailing zeros (" 1.5", " 0", "-0.68").

@@ -1,10 +1,13 @@
 // Table of the Utilities menu and how a row is run; see PriceUtilities.h.
 #include "utilities/PriceUtilities.h"
 
+#include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
 #include "customers/CustomerLog.h"
 #include "customers/RunLock.h"
 #include "customers/SafetyCopies.h"
+#include "platform/Excerpt.h"
+#include "platform/RuntimeFailure.h"
 #include "store/SalesTables.h"
 #include "utilities/PriceConversion.h"
 
@@ -56,13 +59,19 @@ constexpr BoxWords fromEuro{"Update Prices with Euro Prices"_L1, "Do you wish to
 constexpr BoxWords converted{"Euro Conversion"_L1, "Conversion complete..."_L1};
 
 constexpr auto utilities = std::to_array<PriceUtility>({
-    {"TransferEuro_Click"_L1,    toEuro,   true,  currentToEuro, {}, converted},
-    {"TransferCurrent_Click"_L1, fromEuro, false, euroToCurrent, {}, converted},
-    {"Transfer1to2_Click"_L1,    toEuro,   true,  firstToSecond, {}, converted},
-    {"Transfer2to1_Click"_L1,    fromEuro, false, secondToFirst, {}, converted},
-    {"ResetPrice_Click"_L1, {"Reset Prices?"_L1, "Do you wish to reset prices?"_L1}, false, {},
+    {"TransferEuro_Click"_L1, "Transfer Current Price to Euro"_L1,
+     toEuro, true, "the euro prices 1 to 5"_L1, currentToEuro, {}, converted},
+    {"TransferCurrent_Click"_L1, "Transfer Euro Price to Current"_L1,
+     fromEuro, false, "the prices 1 to 5"_L1, euroToCurrent, {}, converted},
+    {"Transfer1to2_Click"_L1, "Transfer 1st Price To 2nd Price (Euro)"_L1,
+     toEuro, true, "price 2"_L1, firstToSecond, {}, converted},
+    {"Transfer2to1_Click"_L1, "Transfer 2nd Price to 1st Price (Euro)"_L1,
+     fromEuro, false, "price 1"_L1, secondToFirst, {}, converted},
+    {"ResetPrice_Click"_L1, "Reset Prices"_L1,
+     {"Reset Prices?"_L1, "Do you wish to reset prices?"_L1}, false, "all prices and euro prices"_L1, {},
      resetPrices, {"Price Reset"_L1, "Price Reset Complete!"_L1}},
-    {"SalesReset_Click"_L1, {"Reset Sales Data?"_L1, "Do you wish to reset ALL Sales data?"_L1}, false, {},
+    {"SalesReset_Click"_L1, "Reset Sales"_L1,
+     {"Reset Sales Data?"_L1, "Do you wish to reset ALL Sales data?"_L1}, false, "all collected sales"_L1, {},
      {}, {"Sales Reset"_L1, "Sales Reset Complete!"_L1}, resetSales, resetCards},
 });
 // clang-format on
@@ -74,6 +83,24 @@ void empty(Tables tables, const QString& databasePath)
     store::Database database(databasePath);
     for (const char* table : tables)
         database.execute(u"delete * from %1"_s.arg(QLatin1StringView(table)));
+}
+
+/// A look from outside, before the user has said Yes. @return nothing when there is no database to read,
+/// which is reported only if the user goes on.
+std::optional<qint64> pluCount(const QString& databasePath)
+{
+    try {
+        return store::Database(databasePath).openTable(u"pludata"_s).recordCount();
+    } catch (const RuntimeFailure&) {
+        return std::nullopt;
+    }
+}
+
+QString plusInWords(std::optional<qint64> count)
+{
+    if (!count)
+        return u"all PLUs"_s;
+    return count == 1 ? u"1 PLU"_s : u"%1 PLUs"_s.arg(*count);
 }
 
 /// One choice of an entry.
@@ -89,9 +116,15 @@ public:
 
 private:
     [[nodiscard]] bool isWanted();
+    [[nodiscard]] bool takesRate();
+    [[nodiscard]] bool deletesSales() const { return !m_utility.emptied.empty(); }
+    [[nodiscard]] QString intention() const;
+    [[nodiscard]] QString wayBack() const;
+    [[nodiscard]] QString copyReason() const;
     [[nodiscard]] bool isChanged();
     [[nodiscard]] bool changesAlone();
     [[nodiscard]] QString copyRefusal() const;
+    [[nodiscard]] QString nameInLog() const;
     void change();
 
     const PriceUtility& m_utility;
@@ -101,15 +134,38 @@ private:
     std::optional<store::Database> m_database; ///< of a walk
     std::optional<store::Recordset> m_plus;    ///< of a walk
     std::optional<Decimal> m_rate;
-    QString m_refusal; ///< why there is no safety copy
+    qint64 m_changed = 0; ///< PLUs
+    QString m_refusal;    ///< why there is no safety copy
 };
 
 void PriceRun::run()
 {
-    if (!isWanted() || !isChanged())
+    m_frame.showNotice(intention());
+    if (!isWanted() || !isChanged()) {
+        m_frame.showNotice({});
         return;
+    }
+    m_frame.showNotice(wayBack());
     m_boxes.message(m_utility.done.text, m_utility.done.title);
     empty(m_utility.emptiedAfterwards, m_values.databasePath);
+}
+
+QString PriceRun::intention() const
+{
+    const QString action =
+        deletesSales()
+            ? u"delete "_s + m_utility.target
+            : u"change %1 of %2"_s.arg(m_utility.target, plusInWords(pluCount(m_values.databasePath)));
+    return u"This will %1. A safety copy is made first."_s.arg(action);
+}
+
+/// Short enough for a narrow window.
+QString PriceRun::wayBack() const
+{
+    const QString done =
+        deletesSales() ? u"Deleted "_s + m_utility.target : u"Changed "_s + plusInWords(m_changed);
+    return u"%1. To go back, right-click %2 in \"Change Customer File\"."_s.arg(
+        done, customerOf(m_values, m_values.databasePath));
 }
 
 /// Asks without the lock, since the user may be away.
@@ -120,10 +176,18 @@ bool PriceRun::isWanted()
     if (m_utility.fields.empty())
         return true;
     m_plus.emplace(m_database.emplace(m_values.databasePath).openTable(u"pludata"_s));
-    if (!m_utility.asksRate)
-        return true;
-    m_rate = exchangeRate(m_boxes.input(u"Please enter the current Euro Exchange"_s, u"Euro Rate"_s));
-    return m_rate.has_value();
+    return !m_utility.asksRate || takesRate();
+}
+
+/// @return whether there is a rate that the user means.
+bool PriceRun::takesRate()
+{
+    const QString answer = m_boxes.input(u"Please enter the current Euro Exchange"_s, u"Euro Rate"_s);
+    m_rate = exchangeRate(answer);
+    if (!m_rate || isWhollyNumber(answer))
+        return m_rate.has_value();
+    return askBeforeLoss(m_boxes, u"\"%1\" counts as %2.\r\rConvert at the rate %2?"_s.arg(
+                                      excerpt(answer), QString::fromStdString(m_rate->text())));
 }
 
 bool PriceRun::isChanged()
@@ -140,30 +204,42 @@ bool PriceRun::changesAlone()
     const auto lock = customers::RunLock::take(m_values, m_boxes);
     if (lock == nullptr)
         return false;
-    customers::LoggedWork work(QFileInfo(m_values.databasePath).path(), m_utility.confirm.title);
+    customers::LoggedWork work(QFileInfo(m_values.databasePath).path(), nameInLog());
     m_refusal = copyRefusal();
-    if (m_refusal.isEmpty())
-        change();
-    work.setResult(m_refusal.isEmpty() ? u"complete"_s : u"not started: no safety copy"_s);
-    return m_refusal.isEmpty();
+    work.setResult(m_refusal);
+    if (!m_refusal.isEmpty())
+        return false;
+    work.during([this] { change(); });
+    work.setResult(deletesSales() ? u"complete"_s : u"complete, "_s + plusInWords(m_changed));
+    return true;
+}
+
+QString PriceRun::nameInLog() const
+{
+    const QString name = m_utility.name;
+    return m_rate ? u"%1, rate %2"_s.arg(name, QString::fromStdString(m_rate->text())) : name;
+}
+
+QString PriceRun::copyReason() const
+{
+    return deletesSales() ? u"before sales reset"_s : u"before price run"_s;
 }
 
 /// Years of sales are copied only where they are at stake.
 QString PriceRun::copyRefusal() const
 {
-    const bool resetsSales = !m_utility.emptied.empty();
-    return customers::refusalOfCopy(m_values, resetsSales ? u"before sales reset"_s : u"before price run"_s,
-                                    resetsSales ? store::CopyOf::Everything : store::CopyOf::Programme);
+    return customers::refusalOfCopy(m_values, copyReason(),
+                                    deletesSales() ? store::CopyOf::Everything : store::CopyOf::Programme);
 }
 
 void PriceRun::change()
 {
     if (m_plus) {
         m_frame.begins();
-        transferPrices(*m_database, *m_plus, m_utility.fields, m_rate, m_frame.everyRow);
+        m_changed = transferPrices(*m_database, *m_plus, m_utility.fields, m_rate, m_frame.everyRow);
     }
     if (!m_utility.statement.isEmpty())
-        store::Database(m_values.databasePath).execute(m_utility.statement);
+        m_changed = store::Database(m_values.databasePath).execute(m_utility.statement);
     empty(m_utility.emptied, m_values.databasePath);
 }
 

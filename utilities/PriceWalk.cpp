@@ -45,17 +45,20 @@ void transferRow(store::Recordset& plus, const std::vector<PairOfPlaces>& places
 
 } // namespace
 
-void transferPrices(store::Database& database, store::Recordset& plus, std::span<const PricePair> fields,
-                    const std::optional<Decimal>& rate, const std::function<void()>& everyRow)
+qint64 transferPrices(store::Database& database, store::Recordset& plus, std::span<const PricePair> fields,
+                      const std::optional<Decimal>& rate, const std::function<void()>& everyRow)
 {
     const auto places = placesOf(plus, fields);
     store::Transaction transaction(database);
     plus.setIndex(u"plunumber"_s);
+    qint64 changed = 0;
     for (plus.moveFirst(); !plus.atEnd(); plus.moveNext()) {
         everyRow();
         transferRow(plus, places, rate);
+        ++changed;
     }
     transaction.commit();
+    return changed;
 }
 
 } // namespace norvane::utilities

@@ -26,8 +26,8 @@ struct PricePair {
 ///
 /// One transaction, which a failure commits too: the records before it stay changed. Until then other
 /// connections cannot write, and sometimes not read.
-/// @throws RuntimeFailure 3021 when there are no records.
-void transferPrices(store::Database& database, store::Recordset& plus, std::span<const PricePair> fields,
-                    const std::optional<Decimal>& rate, const std::function<void()>& everyRow);
+/// @return the number of records. @throws RuntimeFailure 3021 when there are no records.
+qint64 transferPrices(store::Database& database, store::Recordset& plus, std::span<const PricePair> fields,
+                      const std::optional<Decimal>& rate, const std::function<void()>& everyRow);
 
 } // namespace norvane::utilities

@@ -2,6 +2,7 @@
 #include "customers/SafetyCopies.h"
 #include "platform/FolderLock.h"
 #include "shell/FrmMain.h"
+#include "shell/MainStatusBar.h"
 #include "shell/Openers.h"
 #include "tests/shell/ShellFixture.h"
 
@@ -26,10 +27,10 @@ protected:
     PriceUtilitiesTest() : m_main(m_values, m_boxes, makeOpeners(m_values, m_boxes)) { m_main.show(); }
 
     QAction& action(const char* name) { return *m_main.findChild<QAction*>(QLatin1String(name)); }
-    /// Chooses the entry and answers Yes. @return the boxes shown.
-    QStringList choose(const char* entry, const char* typed = "")
+    /// Chooses the entry and gives the answers. @return the boxes shown.
+    QStringList choose(const char* entry, const char* typed = "", const std::deque<bool>& answers = {true})
     {
-        m_boxes.answers = {true};
+        m_boxes.answers = answers;
         m_boxes.typed = {QString::fromLatin1(typed)};
         action(entry).trigger();
         return takeBoxes();
@@ -64,6 +65,14 @@ protected:
             counts += QString::number(database.openTable(table).recordCount());
         return counts;
     }
+    /// Work and result of each line of the log.
+    [[nodiscard]] QStringList logged() const
+    {
+        QStringList works;
+        for (const QByteArray& line : m_folder.read("app/Cafe/norvane.log").trimmed().split('\n'))
+            works << QString::fromUtf8(line.split('\t').value(1) + ", " + line.split('\t').value(3));
+        return works;
+    }
     void restoreLatestCopy() const
     {
         const auto copies = customers::safetyCopies(m_values.customerPath);
@@ -85,6 +94,7 @@ protected:
 };
 
 const QStringList toEuroBoxes{toEuro, rateBox, converted};
+const QString partOfRate = u"Please Check: \"1,5\" counts as 1.\r\rConvert at the rate 1?"_s;
 const QStringList fromEuroBoxes{fromEuro, converted};
 /// Entry, rate, boxes and the prices of both PLUs afterwards; each step goes on from the one before.
 const struct {
@@ -95,7 +105,9 @@ const struct {
 } steps[] = {
     {"Transfer1to2", "0.68", toEuroBoxes,
      "1.00| 1.47|0.00|abc|-1.00|9.1|9.2|9.3|9.4|null  3| 4.41|3|4|5|6|7|8|9|0"},
-    {"TransferEuro", "1,5", toEuroBoxes,
+    {"TransferEuro",
+     "1,5",
+     {toEuro, rateBox, partOfRate, converted},
      "1.00| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1  3| 4.41|3|4|5| 3| 4.41| 3| 4| 5"},
     {"Transfer2to1", "", fromEuroBoxes,
      " 1.47| 1.47|0.00|abc|-1.00| 1| 1.47| 0| 0|-1   4.41| 4.41|3|4|5| 3| 4.41| 3| 4| 5"},
@@ -120,11 +132,16 @@ TEST_F(PriceUtilitiesTest, EachEntryFillsItsOwnFieldsOfEveryPlu)
         execute(u"update PLUDATA set DESCRIPTION = 'open'"_s);
     };
     for (const auto& [entry, rate, boxes, stored] : steps) {
-        EXPECT_EQ(choose(entry, rate), boxes);
+        EXPECT_EQ(choose(entry, rate, {true, true}), boxes);
         EXPECT_EQ(prices(), stored) << entry;
     }
+    m_boxes.whileOpen = {};
     restoreLatestCopy();
     EXPECT_EQ(prices(), steps[3].prices) << "as before the reset";
+    EXPECT_EQ(logged().first(3),
+              (QStringList{u"Transfer 1st Price To 2nd Price (Euro), rate 0.68, complete, 2 PLUs"_s,
+                           u"Transfer Current Price to Euro, rate 1, complete, 2 PLUs"_s,
+                           u"Transfer 2nd Price to 1st Price (Euro), complete, 2 PLUs"_s}));
 }
 
 TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClosed)
@@ -146,9 +163,9 @@ TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClos
     EXPECT_EQ(recordCounts(tables), u"1111111"_s);
 }
 
-TEST_F(PriceUtilitiesTest, NoOpensNoDatabaseAndARateOfZeroOrAnotherRunChangesNothing)
+TEST_F(PriceUtilitiesTest, NoNeedsNoDatabaseAndARateOfZeroOrAnotherRunChangesNothing)
 {
-    // There is no database yet: opening it would fail.
+    // There is no database yet: working on it would fail.
     for (QAction* const entry : m_main.findChild<QWidget*>(u"Utils"_s)->actions())
         EXPECT_EQ(test::failureOf([&] { entry->trigger(); }), 0);
     ASSERT_EQ(m_boxes.shown.size(), 6U) << "the question alone";
@@ -159,9 +176,29 @@ TEST_F(PriceUtilitiesTest, NoOpensNoDatabaseAndARateOfZeroOrAnotherRunChangesNot
     addPlu(1, u"1, 2, 3, 4, 5, 6, 7, 8, 9, 10"_s);
     for (const char* const rate : {"", "0", "rate"})
         EXPECT_EQ(choose("TransferEuro", rate), (QStringList{toEuro, rateBox}));
+    EXPECT_EQ(choose("TransferEuro", "1,5"), (QStringList{toEuro, rateBox, partOfRate}));
+    EXPECT_EQ(m_main.statusBar1().notice(), QString());
     const auto other = FolderLock::take(m_values.appPath, m_boxes);
     EXPECT_EQ(choose("TransferEuro", "2").last().section(u':', 0, 1), u"Please Check: Nothing was started"_s);
     EXPECT_EQ(prices(), "1|2|3|4|5|6|7|8|9|10");
+}
+
+TEST_F(PriceUtilitiesTest, TheStatusBarSaysWhatWillChangeAndAfterwardsTheWayBack)
+{
+    makeCustomerDatabase();
+    addPlu(1, u"1, 2, 3, 4, 5, 6, 7, 8, 9, 10"_s);
+    QStringList notices;
+    m_boxes.whileOpen = [&](const test::ShownBox&) {
+        notices << m_main.statusBar1().notice();
+    };
+    (void)choose("Transfer1to2", "2");
+    (void)choose("SalesReset");
+    const QString back = u" To go back, right-click Cafe in \"Change Customer File\"."_s;
+    const QString change = u"This will change price 2 of 1 PLU. A safety copy is made first."_s;
+    EXPECT_EQ(notices, (QStringList{change, change, u"Changed 1 PLU."_s + back,
+                                    u"This will delete all collected sales. A safety copy is made first."_s,
+                                    u"Deleted all collected sales."_s + back}));
+    EXPECT_EQ(m_main.statusBar1().notice(), notices.back());
 }
 
 TEST_F(PriceUtilitiesTest, AFailureAmidTheWalkKeepsTheRecordsBeforeItAndGivesTheWindowBack)
