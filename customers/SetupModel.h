@@ -37,6 +37,7 @@ struct Setting {
 struct SettingValue {
     int index = -1;
     QString text;
+    bool operator==(const SettingValue&) const = default;
 };
 
 /// Reads all settings of the customer, in the order of settings().

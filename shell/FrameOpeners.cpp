@@ -1,9 +1,11 @@
 // Opening of setup, about and customer dialog; see FrameOpeners.h.
 #include "shell/FrameOpeners.h"
 
+#include "platform/RuntimeFailure.h"
 #include "shell/frmAbout.h"
 #include "shell/FrmCustomer.h"
 #include "shell/FrmSetup.h"
+#include "shell/Program.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -25,14 +27,32 @@ void changeCustomer(FrmMain& main, ApplicationValues& values, Boxes& boxes)
         main.unload();
 }
 
+/// Settings that cannot be read close the window: those of the former customer must not be saved.
+void followCustomer(FrmSetup& setup, Boxes& boxes)
+{
+    try {
+        setup.followCustomer();
+    } catch (const RuntimeFailure&) {
+        setup.close();
+        showFailure(describeFailure(std::current_exception()), boxes);
+    }
+}
+
+QWidget* makeSetup(FrmMain& main, const ApplicationValues& values, Boxes& boxes)
+{
+    auto* const setup = new FrmSetup(values, main.statusBar1());
+    QObject::connect(&main, &FrmMain::entryDone, setup, [setup, &boxes] { followCustomer(*setup, boxes); });
+    return setup;
+}
+
 } // namespace
 
 FrmMain::FormOpeners makeFrameOpeners(ApplicationValues& values, Boxes& boxes)
 {
     FrmMain::FormOpeners openers;
     openers.insert(u"Exit"_s, [](FrmMain& main, const MenuEntry&) { main.close(); });
-    openers.insert(u"FrmSetup"_s, [&values](FrmMain& main, const MenuEntry&) {
-        main.showShared(u"FrmSetup"_s, [&] { return new FrmSetup(values, main.statusBar1()); });
+    openers.insert(u"FrmSetup"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
+        main.showShared(u"FrmSetup"_s, [&] { return makeSetup(main, values, boxes); });
     });
     openers.insert(u"frmAbout"_s, [&boxes](FrmMain& main, const MenuEntry&) {
         main.showShared(u"frmAbout"_s, [&] { return new frmAbout(boxes, main.statusBar1()); });

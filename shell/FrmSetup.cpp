@@ -109,17 +109,29 @@ QGroupBox* FrmSetup::makeFrame(const QString& caption, bool withLists)
 
 void FrmSetup::load()
 {
-    const QList<SettingValue> read = readSettings(m_values);
-    for (qsizetype row = 0; row < read.size(); ++row) {
+    m_read = readSettings(m_values);
+    m_shown = m_values;
+    for (qsizetype row = 0; row < m_read.size(); ++row) {
         if (auto* const combo = qobject_cast<QComboBox*>(m_controls[row])) {
-            combo->setCurrentIndex(read[row].index);
+            combo->setCurrentIndex(m_read[row].index);
         } else if (auto* const text = qobject_cast<QLineEdit*>(m_controls[row])) {
-            text->setText(read[row].text);
+            text->setText(m_read[row].text);
         }
     }
 }
 
-void FrmSetup::save()
+void FrmSetup::followCustomer()
+{
+    if (m_shown.customerPath == m_values.customerPath)
+        return;
+    const QString former = m_shown.customerName;
+    const bool isTyped = shownSettings() != m_read;
+    load();
+    const QString notice = u"Setup now shows the settings of %1"_s.arg(m_values.customerName);
+    m_statusBar.setNotice(isTyped ? u"%1. Changes for %2 were not saved"_s.arg(notice, former) : notice);
+}
+
+QList<SettingValue> FrmSetup::shownSettings() const
 {
     QList<SettingValue> shown;
     for (const QWidget* const control : m_controls) {
@@ -129,7 +141,12 @@ void FrmSetup::save()
             shown.append(SettingValue{-1, text->text()});
         }
     }
-    m_statusBar.setNotice(outcome(writeSettings(m_values, shown)));
+    return shown;
+}
+
+void FrmSetup::save()
+{
+    m_statusBar.setNotice(outcome(writeSettings(m_values, shownSettings())));
     close();
 }
 

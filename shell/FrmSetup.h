@@ -10,8 +10,8 @@ class QGroupBox;
 namespace norvane::shell
 {
 
-/// A child window of the main window. Reads the customer's settings when it opens. Save writes them for the
-/// customer who is chosen by then, who may be another one.
+/// A child window of the main window. Shows and writes the settings of the chosen customer, also after a
+/// change of customer.
 class FrmSetup : public StatusForm
 {
     Q_OBJECT
@@ -20,6 +20,11 @@ public:
     /// @throws RuntimeFailure as readSettings() does.
     FrmSetup(const ApplicationValues& values, MainStatusBar& status, QWidget* parent = nullptr);
 
+    /// Shows the settings of the chosen customer when these are another's. The status bar says so, and names
+    /// the customer whose typed settings are lost.
+    /// @throws RuntimeFailure as readSettings() does; the controls then still hold the former settings.
+    void followCustomer();
+
 private:
     /// A frame with the settings that are chosen from lists, or with those that are typed.
     [[nodiscard]] QGroupBox* makeFrame(const QString& caption, bool withLists);
@@ -27,12 +32,15 @@ private:
     void layOut();
     void load();
     void save();
+    [[nodiscard]] QList<customers::SettingValue> shownSettings() const;
 
     [[nodiscard]] QString outcome(int written) const;
 
     const ApplicationValues& m_values;
     MainStatusBar& m_statusBar;
-    QList<QWidget*> m_controls; ///< a list or a text box each, in the order of settings()
+    ApplicationValues m_shown;             ///< whose settings the controls show
+    QList<customers::SettingValue> m_read; ///< as they were in the file
+    QList<QWidget*> m_controls;            ///< a list or a text box each, in the order of settings()
 };
 
 } // namespace norvane::shell

@@ -258,6 +258,32 @@ TEST_F(ScreensInFrameTest, AKeyEditorThatCannotOpenClosesAlone)
     EXPECT_EQ(m_boxes.shown.size(), 4U) << "a note for the function keys, a failure for each";
 }
 
+/// Setup stays open while another customer is chosen.
+TEST_F(ScreensInFrameTest, SetupFollowsAChangeOfCustomer)
+{
+    m_folder.write("app/Bar/setup.ini", "[SetupOption]\r\nECRModel= 3\r\n");
+    m_folder.write("app/Inn/setup.ini", "[SetupOption]\r\nECRModel=none\r\n");
+    const auto change = [this](const char* name) {
+        m_values.customerName = QLatin1String(name);
+        m_values.customerPath = m_folder.path(QByteArray("app/") + name);
+        child<QAction>(*m_main, "About").trigger();
+        return m_main->statusBar1().notice();
+    };
+    QPointer<QWidget> setup = &open("DataSetup");
+    EXPECT_EQ(change("Bar"), u"Setup now shows the settings of Bar");
+    EXPECT_EQ(child<QComboBox>(*setup, "CboModel").currentText(), u"Dorvik");
+    child<QComboBox>(*setup, "CboECRs").setCurrentIndex(4);
+    EXPECT_EQ(change("Cafe"), u"Setup now shows the settings of Cafe. Changes for Bar were not saved");
+    child<QPushButton>(*setup, "CmdSave").click();
+    EXPECT_EQ(m_folder.read("app/Bar/setup.ini"), "[SetupOption]\r\nECRModel= 3\r\n");
+    EXPECT_TRUE(m_folder.read("app/Cafe/setup.ini").contains("NoOfECRs=0\r\n"));
+
+    setup = &open("DataSetup");
+    (void)change("Inn");
+    EXPECT_TRUE(soon([&] { return setup.isNull(); })) << "nothing of Cafe can be saved for Inn";
+    EXPECT_TRUE(m_boxes.shown.back().text.contains(u"ECRModel=none in "_s));
+}
+
 /// Entries, models and the form that opens.
 constexpr const char* modalForms[][3] = {{"DorvikKeyboard", "2", "Dorvik"},
                                          {"Velmarkeyboard", "2", "Velmar"},
