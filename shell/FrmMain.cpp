@@ -243,7 +243,8 @@ void FrmMain::showDataInUse()
 void FrmMain::unload()
 {
     m_unloading = true;
-    close();
+    // A form inside may refuse. The next close asks again then.
+    m_unloading = close();
 }
 
 void FrmMain::beginWork()

@@ -320,13 +320,16 @@ TEST_F(ScreensInFrameTest, ADesignerBesideTheMenuIsAskedBeforeTheEnd)
     type(beside, "RichTextBox1_0", "TEA");
     m_main->close();
     EXPECT_TRUE(m_main->isVisible());
+    m_main->unload();
+    EXPECT_TRUE(m_main->isVisible());
     m_boxes.answers = {true, true};
     m_main->close();
     EXPECT_FALSE(m_main->isVisible());
     QStringList titles;
     for (const auto& box : m_boxes.shown)
         titles += box.title;
-    EXPECT_EQ(titles, (QStringList{u"Unsaved Changes"_s, u"Unsaved Changes"_s, u"Exit Program"_s}));
+    const QString unsaved = u"Unsaved Changes"_s;
+    EXPECT_EQ(titles, (QStringList{unsaved, unsaved, unsaved, u"Exit Program"_s}));
 }
 
 } // namespace
