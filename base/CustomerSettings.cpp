@@ -1,6 +1,7 @@
 // Reading of the customer's setup.ini; see CustomerSettings.h.
 #include "base/CustomerSettings.h"
 
+#include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
 #include "platform/Numbers.h"
 #include "platform/ProfileFile.h"
@@ -23,7 +24,11 @@ QString readSetting(const ApplicationValues& values, const QString& key, const Q
 
 double ecrModel(const ApplicationValues& values)
 {
-    return toNumber(readSetting(values, QStringLiteral("ECRModel"), QStringLiteral("0")));
+    const QString stored = readSetting(values, QStringLiteral("ECRModel"), QStringLiteral("0"));
+    const auto withPlace = [&](const QString& text) {
+        return QStringLiteral("%1\nECRModel=%2 in %3").arg(text, stored, settingsPath(values));
+    };
+    return atPlace(withPlace, [&] { return toNumber(stored); });
 }
 
 int messageWidth(const ApplicationValues& values)

@@ -17,7 +17,7 @@ namespace norvane
                                   const QString& defaultText);
 
 /// The register model index ECRModel, default "0", converted to a number.
-/// @throws RuntimeFailure 13 when the value is empty or no number.
+/// @throws RuntimeFailure 13 when the value is empty or not a number; the text names file and key.
 [[nodiscard]] double ecrModel(const ApplicationValues& values);
 
 /// Characters of a message line: the printers of the models 0, 1 and 2 are wider than those of all others.

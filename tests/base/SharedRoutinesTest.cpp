@@ -35,6 +35,19 @@ TEST_F(SharedRoutinesTest, ModelIndexesGiveTheConvertersWords)
     }
 }
 
+TEST_F(SharedRoutinesTest, AnEmptyModelIsReportedWithFileAndKey)
+{
+    m_app.write("setup.ini", "[SetupOption]\r\nECRModel=\r\n");
+    try {
+        (void)GetModelCode(m_values);
+        FAIL() << "no failure";
+    } catch (const RuntimeFailure& failure) {
+        EXPECT_EQ(failure.number(), 13);
+        EXPECT_TRUE(failure.text().endsWith(u"\nECRModel= in "_s + m_app.path("setup.ini")))
+            << failure.what();
+    }
+}
+
 TEST_F(SharedRoutinesTest, PositionThreeIsARowOfTheRegisterAndNoBit)
 {
     for (int digit = 0; digit < 10; ++digit) {
