@@ -6,6 +6,9 @@
 #include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
 
+#include <algorithm>
+#include <array>
+#include <limits>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -25,10 +28,15 @@ constexpr int hundredths = 2;
 constexpr KeyControls::Number KeyControls::*numbers[] = {&KeyControls::Halo, &KeyControls::otherno,
                                                          &KeyControls::otherno2};
 
+/// In the order of KeyField.
+constexpr QLatin1StringView fieldNames[] = {"halo"_L1, "flag1"_L1, "flag2"_L1, "flag3"_L1, "flag4"_L1};
+
+/// What a record is to hold, in the order of KeyField. A null text leaves a field as it is.
+using FieldTexts = std::array<QString, std::size(fieldNames)>;
+
 QString nameOf(KeyField field)
 {
-    constexpr QLatin1StringView names[] = {"halo"_L1, "flag1"_L1, "flag2"_L1, "flag3"_L1, "flag4"_L1};
-    return names[static_cast<int>(field)];
+    return fieldNames[static_cast<int>(field)];
 }
 
 Decimal numberOf(const QString& text)
@@ -54,6 +62,44 @@ QString storedText(const Decimal& value, int scale)
 {
     const Decimal stored = scale > 0 ? value.shifted(scale).rounded(0) : value;
     return QString::fromStdString(stored.text());
+}
+
+/// The amount as it is stored with every key. Null when the field cannot hold it: the rate of another key is
+/// in the control then.
+QString amountText(const Decimal& amount)
+{
+    const qint64 stored = amount.shifted(hundredths).toWhole();
+    return stored > std::numeric_limits<qint32>::max() ? QString() : QString::number(stored);
+}
+
+/// Amount and boxes.
+FieldTexts textsOf(const KeyControls& controls)
+{
+    std::array<int, flagCount> sums{};
+    for (int index = 0; index < checkCount; ++index) {
+        if (controls.Check1.at(index).ticked)
+            sums.at(static_cast<std::size_t>(index / checksOfFlag)) += placeOf(index).amount();
+    }
+    FieldTexts texts{amountText(controls.Halo.value)};
+    std::ranges::transform(sums, texts.begin() + 1, [](int sum) { return QString::number(sum); });
+    return texts;
+}
+
+void putNumber(const NumberField& field, const Decimal& value, FieldTexts& texts)
+{
+    const QString number = storedText(value, field.scale);
+    QString& text = texts.at(static_cast<std::size_t>(field.to.field));
+    switch (field.to.manner) {
+    case SavedTo::Manner::Replacing:
+        text = number;
+        break;
+    case SavedTo::Manner::Adding:
+        text = QString::number(text.toLongLong() + number.toLongLong());
+        break;
+    case SavedTo::Manner::Appending:
+        text += number;
+        break;
+    }
 }
 
 RuntimeFailure noSuchRow(const QString& what)
@@ -192,42 +238,21 @@ void FunctionKeys::SaveData(const KeyControls& controls)
     atPlace(explain, [&] { storeAll(controls); });
 }
 
+/// Each field is stored once: what a number replaces may be more than its field holds.
 void FunctionKeys::storeAll(const KeyControls& controls)
 {
-    m_table.edit();
-    store(KeyField::halo, storedText(controls.Halo.value, hundredths));
-    m_table.setValue(descriptionField, store::Value::text(controls.description));
-    QVector<int> sums(flagCount);
-    for (int index = 0; index < checkCount; ++index) {
-        if (controls.Check1.at(index).ticked)
-            sums[index / checksOfFlag] += placeOf(index).amount();
-    }
-    for (int flag = 0; flag < flagCount; ++flag)
-        store(placeOf(flag * checksOfFlag).field, QString::number(sums.at(flag)));
+    FieldTexts texts = textsOf(controls);
     if (const KeyOptions* const options = optionsOf(id())) {
         for (const NumberField& field : options->numbers)
-            storeNumber(field, controls.number(field.control).value);
+            putNumber(field, controls.number(field.control).value, texts);
+    }
+    m_table.edit();
+    m_table.setValue(descriptionField, store::Value::text(controls.description));
+    for (std::size_t field = 0; field < texts.size(); ++field) {
+        if (const QString& text = texts.at(field); !text.isNull())
+            m_table.setValue(fieldNames[field], store::Value::text(text));
     }
     m_table.update();
-}
-
-void FunctionKeys::storeNumber(const NumberField& field, const Decimal& value)
-{
-    const QString number = storedText(value, field.scale);
-    const QString boxes = textOf(field.to.field);
-    switch (field.to.manner) {
-    case SavedTo::Manner::Replacing:
-        return store(field.to.field, number);
-    case SavedTo::Manner::Adding:
-        return store(field.to.field, QString::number(boxes.toLongLong() + number.toLongLong()));
-    case SavedTo::Manner::Appending:
-        return store(field.to.field, boxes + number);
-    }
-}
-
-void FunctionKeys::store(KeyField field, const QString& value)
-{
-    m_table.setValue(nameOf(field), store::Value::text(value));
 }
 
 qint64 FunctionKeys::id() const

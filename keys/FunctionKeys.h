@@ -68,7 +68,7 @@ public:
     /// @throws RuntimeFailure 13 when a field holds no number.
     void GetData(KeyControls& controls) const;
     /// Saves the current key as one step. Every option that is not ticked, and so every hidden one, is
-    /// cleared.
+    /// cleared. A key without an amount takes Halo's number unless that is above 21474836.47.
     /// @throws RuntimeFailure of the database; the record is as it was then.
     void SaveData(const KeyControls& controls);
 
@@ -78,8 +78,6 @@ private:
     void showNumber(const NumberField& field, KeyControls& controls) const;
     [[nodiscard]] bool isSet(int index) const;
     void storeAll(const KeyControls& controls);
-    void storeNumber(const NumberField& field, const Decimal& value);
-    void store(KeyField field, const QString& value);
     [[nodiscard]] qint64 id() const;
     [[nodiscard]] QString textOf(KeyField field) const;
 
