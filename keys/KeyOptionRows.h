@@ -16,6 +16,7 @@ using enum NumberControl;
 
 /// Largest numbers that can be typed. What the register stores larger is shown all the same.
 inline constexpr Decimal largestWhole{9999, 0};
+inline constexpr Decimal largestRate{99999999, 0};
 inline constexpr Decimal largestHalo{99999999, 2};
 inline constexpr Decimal largestInThousandths{99999999, 3};
 inline constexpr Decimal largestMoney{999999, 2};
@@ -42,9 +43,9 @@ inline NumberField haloInThousandths()
 }
 
 /// A whole number in the control of the amount.
-inline NumberField wholeInHalo(QLatin1StringView caption, KeyField field)
+inline NumberField wholeInHalo(QLatin1StringView caption, KeyField field, const Decimal& largest)
 {
-    return {Halo, caption, {field}, {field}, largestWhole, 0, HaloDigits::NoneFromNow};
+    return {Halo, caption, {field}, {field}, largest, 0, HaloDigits::NoneFromNow};
 }
 
 /// An amount of a field that holds it as it is shown.

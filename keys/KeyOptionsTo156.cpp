@@ -50,7 +50,7 @@ const std::vector<KeyOptions>& keyOptionsTo156()
         {{key(23)}, {number(otherno, "Print Check On Printer# (0-40)"_L1, {flag3}, {flag3})}, {}},
 
         {{keys(26, 30)},
-         {wholeInHalo("Rate"_L1, halo),
+         {wholeInHalo("Rate"_L1, halo, largestRate),
           number(otherno, "Linked Drawer (0-3)"_L1, {flag2}, {flag2}),
           number(otherno2, "Curr Dec Places"_L1, {flag3}, {flag3})},
          {{0, "Change In Foreign Currency"_L1}}},
@@ -91,7 +91,7 @@ const std::vector<KeyOptions>& keyOptionsTo156()
 
         {{keys(136, 145)},
          {number(otherno, "Key Affect Digit 1-18 Of PLU#"_L1, {flag2}, {flag2}),
-          wholeInHalo("Val of Dgt Add (0-9) To PLU"_L1, flag3)},
+          wholeInHalo("Val of Dgt Add (0-9) To PLU"_L1, flag3, largestWhole)},
          {{0, "Allow In X Only"_L1}, {1, "Key Modifies Descriptor Only"_L1},
           {2, "Print Descriptor On Guest Check"_L1}, {3, "Print Descriptor On Receipt"_L1},
           {4, "Print Descriptor On KP"_L1}}},

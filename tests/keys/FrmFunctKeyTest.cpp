@@ -125,7 +125,8 @@ const struct {
     {"16", "Halo=0.00|Allow In X Only|Compulsory Validation|Print Receipt", {{"Halo", "12,5"}}, {0, 2}, "KEY 251 1250 50 0 0 0"},
     {"23", "Print Check On Printer# (0-40)=0", {{"otherno", "7"}}, {}, "KEY 244 1250 0 0 7 0"},
     {"27", "Rate=0|Linked Drawer (0-3)=0|Curr Dec Places=0|Change In Foreign Currency",
-     {{"Halo", "1175"}, {"otherno", "3"}, {"otherno2", "2"}}, {0}, "KEY 240 1175 40 3 2 0"},
+     {{"Halo", "99999999"}, {"otherno", "3"}, {"otherno2", "2"}}, {0}, "KEY 240 99999999 40 3 2 0"},
+    {"31", "", {{"description", "NO RATE"}}, {}, "NO RATE  0 0 0 0"},
     {"157", nullptr, {{"Halo", "1.234"}}, {6, 19}, "KEY 110 1234 0 40 0 20"},
     {"264", "Money Gain For Each Point=0|Allow In X Mode Only|Print Card Details", {{"Halo", "12.34"}}, {0}, "KEY 3 1234 40 12.34 0 0"},
 };
