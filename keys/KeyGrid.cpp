@@ -110,6 +110,28 @@ void KeyGrid::keyPressEvent(QKeyEvent* event)
         return;
     }
     QTableView::keyPressEvent(event);
+    chooseCurrent();
+}
+
+/// With Ctrl, the view adds the cell to what is chosen before anybody knows whether it will be dragged.
+void KeyGrid::mousePressEvent(QMouseEvent* event)
+{
+    m_pressedOutside = !selectionModel()->isSelected(indexAt(event->position().toPoint()));
+    QTableView::mousePressEvent(event);
+}
+
+void KeyGrid::mouseReleaseEvent(QMouseEvent* event)
+{
+    QTableView::mouseReleaseEvent(event);
+    chooseCurrent();
+}
+
+/// A cell that Ctrl took out of what is chosen is no longer the current one.
+void KeyGrid::chooseCurrent()
+{
+    const QModelIndexList chosen = selectionModel()->selectedIndexes();
+    if (!chosen.empty() && !chosen.contains(currentIndex()))
+        selectionModel()->setCurrentIndex(chosen.last(), QItemSelectionModel::NoUpdate);
 }
 
 /// What is chosen follows the current cell by every key that moves it. With Ctrl it would stay behind,
@@ -129,6 +151,8 @@ void KeyGrid::startDrag(Qt::DropActions actions)
 {
     if (!model()->flags(currentIndex()).testFlag(Qt::ItemIsDragEnabled))
         return;
+    if (m_pressedOutside)
+        setCurrentCell(currentCell());
     auto* const drag = new QDrag(this);
     drag->setMimeData(model()->mimeData(selectedIndexes()));
     const QRect place = visualRegionForSelection(selectionModel()->selection()).boundingRect();

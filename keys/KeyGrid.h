@@ -10,7 +10,8 @@ namespace norvane::keys
 {
 
 /// Arrow keys walk the keys; with Shift they choose several, as Shift and Ctrl with a click do. What is
-/// chosen is dragged as a block.
+/// chosen is dragged as a block; a drag that begins on another cell takes that cell alone. The current cell
+/// is among the chosen ones.
 class KeyGrid : public QTableView
 {
     Q_OBJECT
@@ -36,6 +37,8 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     [[nodiscard]] QItemSelectionModel::SelectionFlags
     selectionCommand(const QModelIndex& index, const QEvent* event = nullptr) const override;
     void startDrag(Qt::DropActions actions) override;
@@ -43,9 +46,11 @@ protected:
 
 private:
     void extendTo(const QModelIndex& end);
+    void chooseCurrent();
 
     QPersistentModelIndex m_anchor; ///< where a choice of several keys began
     bool m_extends = false;
+    bool m_pressedOutside = false; ///< the mouse went down on a cell that was not chosen
 };
 
 } // namespace norvane::keys

@@ -77,12 +77,28 @@ protected:
         return (links.at(number - 1) + u' ' + lookUps.at(number - 1)).toStdString();
     }
     /// Lets what is chosen go over a cell; with Ctrl when @p copies.
-    void dropAt(int row, int column, bool copies) const
+    void dropAt(KeyCell cell, bool copies) const
     {
         QAbstractItemModel& model = *grid().model();
         const std::unique_ptr<QMimeData> keys(model.mimeData(grid().selectionModel()->selectedIndexes()));
         model.dropMimeData(keys.get(), copies ? Qt::CopyAction : Qt::MoveAction, -1, -1,
-                           model.index(row, column));
+                           model.index(cell.row, cell.column));
+    }
+    /// Takes cells up with the mouse by @p from, with Ctrl down from the start when @p copies, and lets them
+    /// go. A drag ends as it begins on a platform without a screen.
+    void drag(KeyCell from, KeyCell to, bool copies) const
+    {
+        const auto mouse = [this, copies](QTest::MouseAction action, KeyCell cell, int right = 0) {
+            const QRect place = grid().visualRect(grid().model()->index(cell.row, cell.column));
+            QTest::mouseEvent(action, form->windowHandle(), Qt::LeftButton,
+                              copies ? Qt::ControlModifier : Qt::NoModifier,
+                              grid().viewport()->mapTo(form.get(), place.center() + QPoint(right, 0)));
+        };
+        mouse(QTest::MousePress, from);
+        for (const int right : {10, 20})
+            mouse(QTest::MouseMove, to, right);
+        mouse(QTest::MouseRelease, to);
+        dropAt(to, copies);
     }
     /// Alt and a letter; a button pressed so stays down for a moment.
     bool letter(Qt::Key letter, const std::function<bool()>& happened) const
@@ -247,11 +263,11 @@ TEST_F(KeyLayoutTest, KeysAreDraggedCopiedAndSwappedAndComeBack)
     grid().setCurrentCell({9, 0});
     click(control<QTableView>("functionlist"), 0);
     grid().setFocus();
-    dropAt(9, 1, false);
+    dropAt({9, 1}, false);
     EXPECT_EQ(cells(), u".CASH.");
-    dropAt(9, 2, true);
+    dropAt({9, 2}, true);
     EXPECT_EQ(cells(), u".CASHCASH");
-    dropAt(0, 0, false);
+    dropAt({0, 0}, false);
     EXPECT_NE(status().find("A fixed key"), std::string::npos);
     grid().setCurrentCell({9, 1});
     for (const auto& [moves, letter, expected] : presses) {
@@ -260,6 +276,31 @@ TEST_F(KeyLayoutTest, KeysAreDraggedCopiedAndSwappedAndComeBack)
         key(letter, Qt::ControlModifier);
         EXPECT_EQ(cells(), QLatin1String(expected)) << letter;
     }
+}
+
+TEST_F(KeyLayoutTest, TheMouseDragsWhatIsChosenOrTheOneCellItBeganOn)
+{
+    const auto cells = [this](int row) {
+        return QString::fromStdString(cell(row, 0) + cell(row, 1) + cell(row, 2) + cell(row, 3))
+            .replace(u"Function Key"_s, u"."_s)
+            .toStdString();
+    };
+    for (const auto& [place, entry] : {std::pair(KeyCell{9, 0}, 0), {KeyCell{9, 1}, 1}}) {
+        grid().setCurrentCell(place);
+        click(control<QTableView>("functionlist"), entry);
+    }
+    grid().setCurrentCell({9, 0});
+    drag({9, 1}, {8, 2}, true);
+    EXPECT_EQ(cells(8), "..CHECK.") << "and not CASH, where the cursor was";
+    EXPECT_EQ(cells(9), "CASHCHECK..");
+    grid().setCurrentCell({9, 0});
+    click(grid(), 9, 1, Qt::ControlModifier);
+    drag({9, 1}, {8, 1}, false);
+    EXPECT_EQ(cells(8), "CASHCHECKCHECK.");
+    EXPECT_EQ(cells(9), "....") << "both changed places";
+    click(grid(), 8, 1, Qt::ControlModifier);
+    EXPECT_EQ(grid().currentCell(), (KeyCell{8, 0}))
+        << "the cell taken out of the block is not the current one";
 }
 
 TEST_F(KeyLayoutTest, FindsKeysOfTheLevelAndTheItemOnAllLevels)
