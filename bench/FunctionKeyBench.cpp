@@ -1,7 +1,7 @@
 // Opening the editor of the function keys on a whole register, and going from key to key in it.
 #include "bench/Ratio.h"
 #include "keys/FrmFunctKey.h"
-#include "keys/KeyPicker.h"
+#include "keys/RecordPicker.h"
 #include "store/Catalogue.h"
 #include "ui/Appearance.h"
 #include "ui/MessageBoxes.h"
@@ -74,7 +74,7 @@ void changeKey(benchmark::State& state)
     Shop shop;
     ui::MessageBoxes boxes;
     const auto form = openForm(shop, boxes);
-    auto* const list = form->findChild<keys::KeyPicker*>();
+    auto* const list = form->findChild<keys::RecordPicker*>();
     bench::Cost cost;
     double worst = 0;
     int row = 0;

@@ -2,8 +2,8 @@
 #include "keys/FrmFunctKey.h"
 
 #include "keys/KeyDatabase.h"
-#include "keys/KeyPicker.h"
 #include "keys/OptionColumns.h"
+#include "keys/RecordPicker.h"
 #include "ui/Appearance.h"
 #include "ui/DecimalBox.h"
 #include "ui/FittingArea.h"
@@ -75,8 +75,7 @@ FrmFunctKey::FrmFunctKey(ApplicationValues& values, Boxes& boxes, QWidget* paren
 
 void FrmFunctKey::makeControls()
 {
-    selectkey = new KeyPicker(this);
-    ui::nameControl(*selectkey, u"selectkey"_s);
+    selectkey = new RecordPicker(u"selectkey"_s, u"Select Function Key"_s, this);
     description = new ui::TextBox(this);
     ui::nameControl(*description, u"description"_s);
     description->setLimit(m_keys.descriptionLength());

@@ -21,8 +21,8 @@ class TextBox;
 namespace norvane::keys
 {
 
-class KeyPicker;
 class OptionColumns;
+class RecordPicker;
 
 /// Shows the options of the key that the user selects. Selecting another key and leaving drop what was not
 /// saved, without a question. Before the first key is selected there is nothing to save.
@@ -62,7 +62,7 @@ private:
     Boxes& m_boxes;
     FunctionKeys m_keys;
     KeyControls m_controls;
-    KeyPicker* selectkey;
+    RecordPicker* selectkey;
     QLabel* labels;
     ui::TextBox* description;
     ui::DecimalBox* Halo;

@@ -151,9 +151,9 @@ FunctionKeys::FunctionKeys(std::shared_ptr<store::Database> database, const Appl
 {
 }
 
-QVector<FunctionKeys::Item> FunctionKeys::readItems()
+QVector<ListedItem> FunctionKeys::readItems()
 {
-    QVector<Item> items;
+    QVector<ListedItem> items;
     items.reserve(m_table.recordCount());
     for (m_table.moveFirst(); !m_table.atEnd(); m_table.moveNext())
         items += {m_table.value(u"id"_s).toText(), m_table.value(descriptionField).toText()};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
+#include "keys/KeyItems.h"
 #include "keys/KeyOptions.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
@@ -46,18 +47,12 @@ struct KeyControls {
 class FunctionKeys
 {
 public:
-    /// A row of the list: number and text of a key as the table has them.
-    struct Item {
-        QString number;
-        QString description;
-    };
-
     /// Keeps the connection. @p values tell the register model whenever a key is shown.
     /// @throws RuntimeFailure 3021 for an empty table, and those of the database.
     FunctionKeys(std::shared_ptr<store::Database> database, const ApplicationValues& values);
 
     /// All keys in their order. The place is the first key afterwards.
-    [[nodiscard]] QVector<Item> readItems();
+    [[nodiscard]] QVector<ListedItem> readItems();
     /// Characters that a description can have.
     [[nodiscard]] int descriptionLength() const;
 

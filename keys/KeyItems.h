@@ -14,6 +14,12 @@ namespace norvane::keys
 
 enum class ItemKind { Function, Plu, LookUp };
 
+/// A record as a list of its table shows it.
+struct ListedItem {
+    QString number;
+    QString description;
+};
+
 /// What a cell of the grid says about its key.
 enum class KeyState {
     Unprogrammed,

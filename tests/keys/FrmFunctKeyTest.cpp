@@ -113,6 +113,24 @@ TEST_F(FrmFunctKeyTest, AKeyIsFoundByItsNumberOrAnyPartOfItsText)
     EXPECT_EQ(row(5), "KEY 262     ") << "showing stores nothing";
 }
 
+/// What is typed then takes the place of the key shown.
+TEST_F(FrmFunctKeyTest, AClickOrADoubleClickChoosesTheWholeTextOfTheKey)
+{
+    open();
+    select("5");
+    QLineEdit& text = *list().lineEdit();
+    const QPoint place = text.mapTo(&*m_form, QPoint(30, text.height() / 2));
+    for (const auto& [isDouble, typed] : {std::pair(false, "18"), {true, "21"}}) {
+        QTest::mouseClick(m_form->windowHandle(), Qt::LeftButton, {}, place);
+        if (isDouble)
+            QTest::mouseDClick(m_form->windowHandle(), Qt::LeftButton, {}, place);
+        QApplication::processEvents();
+        QTest::keyClicks(&text, QLatin1String(typed));
+        QTest::keyClick(&text, Qt::Key_Return);
+        EXPECT_EQ(list().currentData().toString(), QLatin1String(typed));
+    }
+}
+
 // clang-format off
 const struct {
     const char* key;

@@ -1,12 +1,11 @@
-// Columns and search of the key list; see KeyPicker.h.
-#include "keys/KeyPicker.h"
+// Columns and search of the list; see RecordPicker.h.
+#include "keys/RecordPicker.h"
 
 #include "ui/FormKit.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QLineEdit>
-#include <QTimer>
 #include <QWheelEvent>
 
 using namespace Qt::Literals::StringLiterals;
@@ -24,22 +23,23 @@ constexpr int mostRowsShown = 16;
 /// As wide as a digit, so that numbers stand right under each other.
 constexpr QChar figureSpace(0x2007);
 
-QString rowText(const FunctionKeys::Item& item)
+QString rowText(const ListedItem& item)
 {
     return item.number.rightJustified(numberColumn, figureSpace) + u"   "_s + item.description.trimmed();
 }
 
 } // namespace
 
-KeyPicker::KeyPicker(QWidget* parent) : QComboBox(parent)
+RecordPicker::RecordPicker(const QString& name, const QString& hint, QWidget* parent) : QComboBox(parent)
 {
+    ui::nameControl(*this, name);
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
     setMaxVisibleItems(mostRowsShown);
     setMinimumContentsLength(textColumn);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    ui::nameControl(*lineEdit(), u"selectkeyText"_s);
-    lineEdit()->setPlaceholderText(u"Select Function Key"_s);
+    ui::nameControl(*lineEdit(), name + u"Text"_s);
+    lineEdit()->setPlaceholderText(hint);
     lineEdit()->installEventFilter(this);
 
     auto* const finder = new QCompleter(model(), this);
@@ -47,28 +47,33 @@ KeyPicker::KeyPicker(QWidget* parent) : QComboBox(parent)
     finder->setCaseSensitivity(Qt::CaseInsensitive);
     finder->setMaxVisibleItems(mostRowsShown);
     setCompleter(finder);
-    // The next key can be typed at once. The finder writes its text after the choice.
+    // The next record can be typed at once. The finder writes its text after the choice.
     connect(this, &QComboBox::activated, lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
-    connect(lineEdit(), &QLineEdit::returnPressed, this, &KeyPicker::takeTyped);
-    connect(lineEdit(), &QLineEdit::editingFinished, this, &KeyPicker::dropTyped);
+    connect(lineEdit(), &QLineEdit::returnPressed, this, &RecordPicker::takeTyped);
+    connect(lineEdit(), &QLineEdit::editingFinished, this, &RecordPicker::dropTyped);
 }
 
-void KeyPicker::setItems(const QVector<FunctionKeys::Item>& items)
+void RecordPicker::setItems(const QVector<ListedItem>& items)
 {
     clear();
-    for (const FunctionKeys::Item& item : items)
+    for (const ListedItem& item : items)
         addItem(rowText(item), item.number);
     setCurrentIndex(-1);
 }
 
+void RecordPicker::showRecord(const QString& number)
+{
+    setCurrentIndex(findData(number));
+}
+
 /// A row number of the list, -1 when nothing is found.
-int KeyPicker::find(const QString& typed) const
+int RecordPicker::find(const QString& typed) const
 {
     const int byNumber = findData(typed, Qt::UserRole, Qt::MatchFixedString);
     return typed.isEmpty() || byNumber >= 0 ? byNumber : findText(typed, Qt::MatchContains);
 }
 
-void KeyPicker::takeTyped()
+void RecordPicker::takeTyped()
 {
     const QString typed = lineEdit()->text();
     // The list itself has taken a text that is a whole row.
@@ -80,23 +85,30 @@ void KeyPicker::takeTyped()
     Q_EMIT activated(row);
 }
 
-/// What was typed and not taken gives way to the key that is shown.
-void KeyPicker::dropTyped()
+/// What was typed and not taken gives way to the record that is shown.
+void RecordPicker::dropTyped()
 {
     if (const QString shown = itemText(currentIndex()); shown != lineEdit()->text())
         setEditText(shown);
 }
 
-/// A click into the list marks its text, so that typing replaces it.
-bool KeyPicker::eventFilter(QObject* watched, QEvent* event)
+/// In a text that is being typed, a click only moves the cursor.
+void RecordPicker::chooseText()
 {
-    const auto* const focus = event->type() == QEvent::FocusIn ? static_cast<QFocusEvent*>(event) : nullptr;
-    if (watched == lineEdit() && focus != nullptr && focus->reason() == Qt::MouseFocusReason)
-        QTimer::singleShot(0, lineEdit(), &QLineEdit::selectAll);
+    if (lineEdit()->text() == itemText(currentIndex()))
+        lineEdit()->selectAll();
+}
+
+/// The box moves its cursor when the mouse button goes down, and chooses a word at a double click.
+bool RecordPicker::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool ends = event->type() == QEvent::MouseButtonRelease && !lineEdit()->hasSelectedText();
+    if (watched == lineEdit() && (ends || event->type() == QEvent::MouseButtonDblClick))
+        QMetaObject::invokeMethod(this, &RecordPicker::chooseText, Qt::QueuedConnection);
     return QComboBox::eventFilter(watched, event);
 }
 
-void KeyPicker::wheelEvent(QWheelEvent* event)
+void RecordPicker::wheelEvent(QWheelEvent* event)
 {
     event->ignore();
 }
