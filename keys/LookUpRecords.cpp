@@ -72,6 +72,19 @@ QString numbered(QLatin1StringView field, int line)
     return field + QString::number(line);
 }
 
+/// Of all look-ups, of which nothing but number and description is read.
+store::Recordset openItems(store::Database& database)
+{
+    store::Recordset items = openByKey(database, u"wlu"_s);
+    items.readOnly({items.fieldOrdinal(u"wluno"_s), items.fieldOrdinal(u"description"_s)});
+    return items;
+}
+
+ListedItem itemOf(const store::Recordset& lookUp)
+{
+    return {lookUp.value(u"wluno"_s).toText(), lookUp.value(u"description"_s).toText()};
+}
+
 int readLineCount(store::Database& database)
 {
     const store::Recordset memory = database.openTable(u"memoryallocation"_s);
@@ -202,6 +215,26 @@ void LookUpRecords::storeLine(int line, const LookUpLine& from)
 {
     m_lookUps.setValue(numbered("wlutype"_L1, line), store::Value::whole(static_cast<int>(from.type)));
     m_lookUps.setValue(numbered("codenumber"_L1, line), store::Value::text(from.code));
+}
+
+QVector<ListedItem> LookUpRecords::readItems() const
+{
+    QVector<ListedItem> items;
+    for (store::Recordset lookUps = openItems(*m_database); !lookUps.atEnd(); lookUps.moveNext())
+        items += itemOf(lookUps);
+    return items;
+}
+
+std::optional<ListedItem> LookUpRecords::find(const QString& number) const
+{
+    store::Recordset lookUps = openItems(*m_database);
+    const bool isFound = lookUps.seek(store::Seek::Equal, store::Value::text(number));
+    return isFound ? std::optional(itemOf(lookUps)) : std::nullopt;
+}
+
+bool LookUpRecords::moveTo(const QString& number)
+{
+    return find(number) && m_lookUps.seek(store::Seek::Equal, store::Value::text(number));
 }
 
 bool LookUpRecords::next()

@@ -6,7 +6,10 @@
 #include "store/Database.h"
 #include "store/Recordset.h"
 
+#include <QVector>
+
 #include <memory>
+#include <optional>
 
 namespace norvane::keys
 {
@@ -42,6 +45,12 @@ public:
     void save(LookUp& lookUp);
     /// The number of the record as it is stored.
     [[nodiscard]] QString storedNumber() const;
+    /// All look-ups in their order.
+    [[nodiscard]] QVector<ListedItem> readItems() const;
+    /// The look-up of this number, a text of digits. @return nothing when there is none.
+    [[nodiscard]] std::optional<ListedItem> find(const QString& number) const;
+    /// Goes to the look-up of this number. @return false when there is none; it stays then.
+    bool moveTo(const QString& number);
     /// @return false at the last record, where it stays.
     [[nodiscard]] bool next();
     /// @return false at the first record, where it stays.

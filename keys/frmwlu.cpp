@@ -7,6 +7,7 @@
 #include "keys/KeyPlaces.h"
 #include "keys/LookUpFields.h"
 #include "keys/LookUpGridModel.h"
+#include "keys/RecordPicker.h"
 #include "paper/Length.h"
 #include "platform/Boxes.h"
 #include "platform/Numbers.h"
@@ -18,6 +19,7 @@
 #include <QCloseEvent>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTableView>
@@ -87,7 +89,8 @@ void sizeGrid(QTableView& grid)
 
 frmwlu::frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent)
     : QDialog(parent), m_boxes(boxes), m_database(openCustomerDatabase(values)),
-      m_keyboard(keyboardOf(ecrModel(values))), m_records(m_database), m_lines(new LookUpGridModel(this)),
+      m_keyboard(keyboardOf(ecrModel(values))), m_records(m_database),
+      m_picker(new RecordPicker(u"selectwlu"_s, u"Select WLU"_s, this)), m_lines(new LookUpGridModel(this)),
       m_fields(new LookUpFields(this)), Grid1(makeGrid(m_lines, this)),
       m_lists(new LookUpLists(m_database, this)), m_status(new ui::StatusLine(this))
 {
@@ -96,6 +99,7 @@ frmwlu::frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent)
     sizeGrid(*Grid1);
     layOut();
     connectControls();
+    m_picker->setItems(m_records.readItems());
     updategrid();
     takeInHand(0);
     Grid1->setFocus();
@@ -105,6 +109,7 @@ void frmwlu::layOut()
 {
     auto* const left = new QVBoxLayout;
     left->setSpacing(ui::spacing::groupGap);
+    left->addLayout(makePickerRow());
     left->addWidget(m_fields);
     left->addWidget(Grid1, 1);
     auto* const contents = new QWidget;
@@ -120,6 +125,17 @@ void frmwlu::layOut()
     column->addWidget(new ui::FittingArea(contents), 1);
     column->addLayout(makeButtons());
     column->addWidget(m_status);
+}
+
+QHBoxLayout* frmwlu::makePickerRow()
+{
+    auto* const label = new QLabel(u"Select WLU"_s, this);
+    label->setBuddy(m_picker);
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(ui::spacing::controlGap);
+    row->addWidget(label);
+    row->addWidget(m_picker, 1);
+    return row;
 }
 
 QHBoxLayout* frmwlu::makeButtons()
@@ -141,6 +157,7 @@ QHBoxLayout* frmwlu::makeButtons()
 
 void frmwlu::connectControls()
 {
+    connect(m_picker, &QComboBox::activated, this, &frmwlu::selectwlu_Click);
     connect(m_fields, &LookUpFields::allowedChanged, this, &frmwlu::showLists);
     connect(m_lists, &LookUpLists::clicked, this, &frmwlu::fillLine);
     connect(m_lists, &LookUpLists::entered, this, [this](ItemKind kind, const QString& number) {
@@ -179,6 +196,7 @@ void frmwlu::moveLineBy(int step)
 void frmwlu::updategrid()
 {
     const LookUp lookUp = m_records.read();
+    m_picker->showRecord(lookUp.number);
     m_fields->setLookUp(lookUp);
     m_fields->showKeys(placesText(findKeys(*m_database, m_keyboard, lookUpLink, fourDigits(lookUp.number))));
     m_lines->setLines(lookUp.lines);
@@ -233,6 +251,7 @@ bool frmwlu::SaveGrid()
     if (!mayStore(lookUp))
         return false;
     m_records.save(lookUp);
+    m_picker->setItems(m_records.readItems());
     updategrid();
     m_status->setNotice(u"Saved WLU No "_s + m_records.storedNumber());
     return true;
@@ -242,11 +261,25 @@ bool frmwlu::SaveGrid()
 bool frmwlu::mayStore(const LookUp& lookUp)
 {
     const QString stored = m_records.storedNumber();
-    return fourDigits(lookUp.number) == fourDigits(stored) ||
-           askBeforeLoss(m_boxes,
+    if (fourDigits(lookUp.number) == fourDigits(stored))
+        return true;
+    if (const auto other = m_records.find(lookUp.number)) {
+        offerInstead(*other);
+        return false;
+    }
+    return askBeforeLoss(m_boxes,
                          u"This look-up is WLU No %1 at the register and would become \"%2\" here. With the "
                          "next download, keys that open a look-up may open another one.\n\nSave it "
                          "all the same?"_s.arg(stored, lookUp.number));
+}
+
+void frmwlu::offerInstead(const ListedItem& other)
+{
+    if (askBeforeLoss(
+            m_boxes, u"WLU No %1, \"%2\", exists already, and no two look-ups can have one number. "
+                     "Nothing was saved.\n\nGo to WLU No %1 instead? What was changed in WLU No %3 is "
+                     "lost then."_s.arg(other.number, other.description.trimmed(), m_records.storedNumber())))
+        goTo(other.number);
 }
 
 /// Without any question: what is not saved is lost.
@@ -277,6 +310,23 @@ void frmwlu::closeEvent(QCloseEvent* event)
     event->setAccepted(mayLeave());
     if (event->isAccepted())
         done(Rejected);
+}
+
+/// Saving changes first fills the list again, so that the row may be another one by then.
+void frmwlu::selectwlu_Click(int row)
+{
+    const QString number = m_picker->itemData(row).toString();
+    if (mayLeave())
+        goTo(number);
+    else
+        m_picker->showRecord(m_records.storedNumber());
+}
+
+void frmwlu::goTo(const QString& number)
+{
+    m_records.moveTo(number);
+    updategrid();
+    takeInHand(0);
 }
 
 void frmwlu::nextRecord()

@@ -26,10 +26,11 @@ namespace norvane::keys
 
 class LookUpFields;
 class LookUpGridModel;
+class RecordPicker;
 
-/// Shows one look-up after another. A click on an entry of a list, or Enter, fills the line in hand; lines
-/// move by Alt and the arrows or by dragging. Nothing is stored but by Save and Delete Line, which store all
-/// of the form.
+/// Shows one look-up after another, or the one that is chosen in a list. A click on an entry of a list, or
+/// Enter, fills the line in hand; lines move by Alt and the arrows or by dragging. Nothing is stored but by
+/// Save and Delete Line, which store all of the form.
 class frmwlu : public QDialog
 {
     Q_OBJECT
@@ -49,6 +50,7 @@ protected:
 private:
     void layOut();
     void connectControls();
+    [[nodiscard]] QHBoxLayout* makePickerRow();
     [[nodiscard]] QHBoxLayout* makeButtons();
     void moveLineBy(int step);
 
@@ -59,10 +61,13 @@ private:
     void leave();
     bool SaveGrid();
     [[nodiscard]] bool mayStore(const LookUp& lookUp);
+    void offerInstead(const ListedItem& other);
     [[nodiscard]] bool mayLeave();
     [[nodiscard]] LookUp entered() const;
     void nextRecord();
     void previousRecord();
+    void selectwlu_Click(int row);
+    void goTo(const QString& number);
     void tellNoMoreRecords();
     void fillLine(ItemKind kind, const QString& number);
     [[nodiscard]] int lineInHand() const;
@@ -73,6 +78,7 @@ private:
     const KeyGeometry& m_keyboard;
     LookUpRecords m_records;
     LookUp m_shown; ///< as the controls held it when the record was shown
+    RecordPicker* m_picker;
     LookUpGridModel* m_lines;
     LookUpFields* m_fields;
     QTableView* Grid1;

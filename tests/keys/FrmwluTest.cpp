@@ -202,6 +202,48 @@ TEST_F(FrmwluTest, DeletesALineAtOnceAndAsksBeforeANewNumber)
     }
 }
 
+TEST_F(FrmwluTest, ANumberThatExistsIsOfferedInsteadAndNothingIsStored)
+{
+    auto& number = control<QLineEdit>("WLUNumber");
+    for (const bool goes : {false, true}) {
+        number.setFocus();
+        number.selectAll();
+        QTest::keyClicks(&number, u"2"_s);
+        m_boxes.answers = {true, goes};
+        press("CSCmdBtn1");
+        EXPECT_EQ(
+            m_boxes.shown.back().text,
+            u"WLU No 2, \"Payment\", exists already, and no two look-ups can have one number. Nothing was "
+            "saved.\n\nGo to WLU No 2 instead? What was changed in WLU No 1 is lost then."_s);
+        EXPECT_EQ(m_boxes.shown.back().preset, BoxAnswer::No);
+        EXPECT_EQ(control<QLineEdit>("description").text(), goes ? u"Payment"_s : u"Drinks"_s);
+        EXPECT_EQ(m_shop.column("WLU", "WLUno"), "1|2");
+    }
+}
+
+TEST_F(FrmwluTest, AListLeadsToAnyLookUpAndAsksAboutChanges)
+{
+    auto& list = control<QComboBox>("selectwlu");
+    EXPECT_TRUE(list.currentText().endsWith(u"Drinks"));
+    const auto choose = [&](const char* typed) {
+        QTest::mouseClick(list.lineEdit(), Qt::LeftButton);
+        QApplication::processEvents();
+        QTest::keyClicks(list.lineEdit(), QLatin1String(typed));
+        QTest::keyClick(list.lineEdit(), Qt::Key_Return);
+        return control<QLineEdit>("description").text();
+    };
+    EXPECT_EQ(choose("pay"), u"Payment"_s);
+    press("PreviousRecord");
+    EXPECT_TRUE(list.currentText().endsWith(u"Drinks"));
+    control<QLineEdit>("description").setText(u"Beers"_s);
+    EXPECT_EQ(choose("2"), u"Beers"_s) << "the question was closed";
+    EXPECT_TRUE(list.currentText().endsWith(u"Drinks"));
+    m_boxes.answers = {true};
+    EXPECT_EQ(choose("2"), u"Payment"_s);
+    EXPECT_EQ(choose("beer"), u"Beers"_s) << "the list shows what was saved";
+    EXPECT_EQ(m_boxes.shown.size(), 2U);
+}
+
 TEST_F(FrmwluTest, EscapeLeavesTheListsThenAsksAboutChangesWhichExitDrops)
 {
     const auto escape = [this] {
