@@ -241,6 +241,8 @@ TEST(FunctionKeyFieldsTest, OddValuesAreReadAsFarAsTheyGo)
         {18, "flag3 = null, flag1 = 98", "0"},
         {18, "flag3 = 1234567", "1 16"},
         {18, "flag1 = 37, flag3 = 0", "0 1 2 3 4 5"},
+        {21, "flag3 = 12", "2 14"},
+        {21, "flag3 = 40", "0 12"},
         {190, "flag1 = 1234567", "1234567"},
         {190, "flag1 = -3", "-3"},
         {20, "flag2 = 3, flag4 = 7", "7"},
