@@ -11,6 +11,7 @@
 #include "ui/IntegerBox.h"
 #include "ui/TextBox.h"
 
+#include <QCloseEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -129,7 +130,8 @@ QGridLayout* FrmFunctKey::makeGrid()
 void FrmFunctKey::layOut()
 {
     auto* const ExitForm = ui::makeButton(u"ExitForm"_s, u"E&xit"_s, this);
-    connect(ExitForm, &QPushButton::clicked, this, &QDialog::reject);
+    // Without any question: what is not saved is lost.
+    connect(ExitForm, &QPushButton::clicked, this, [this] { done(Rejected); });
     // Enter in a box must not save.
     for (QPushButton* const button : {SaveRecord, ExitForm})
         button->setAutoDefault(false);
@@ -158,6 +160,8 @@ void FrmFunctKey::selectkey_Click(int row)
     readControls();
     m_keys.GetData(m_controls);
     showControls();
+    readControls();
+    m_shown = m_controls;
     SaveRecord->setEnabled(true);
 }
 
@@ -165,7 +169,32 @@ void FrmFunctKey::saveRecord()
 {
     readControls();
     m_keys.SaveData(m_controls);
+    m_shown = m_controls;
     Q_EMIT told(u"Saved function key %1"_s.arg(selectkey->currentData().toString()));
+}
+
+/// @return false when the form stays: the user has closed the question.
+bool FrmFunctKey::mayLeave()
+{
+    readControls();
+    if (!SaveRecord->isEnabled() || m_controls == m_shown)
+        return true;
+    const auto answer = m_boxes.askBeforeGoingOn(u"Save Changes?"_s, u"Save Details."_s);
+    if (answer == true)
+        saveRecord();
+    return answer.has_value();
+}
+
+void FrmFunctKey::reject()
+{
+    close();
+}
+
+void FrmFunctKey::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(mayLeave());
+    if (event->isAccepted())
+        done(Rejected);
 }
 
 void FrmFunctKey::showControls()

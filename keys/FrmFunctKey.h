@@ -24,7 +24,7 @@ namespace norvane::keys
 class OptionColumns;
 class RecordPicker;
 
-/// Shows the options of the key that the user selects. Selecting another key and leaving drop what was not
+/// Shows the options of the key that the user selects. Selecting another key and "E&xit" drop what was not
 /// saved, without a question. Before the first key is selected there is nothing to save.
 class FrmFunctKey : public QDialog
 {
@@ -35,9 +35,15 @@ public:
     /// do.
     FrmFunctKey(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
+    /// Escape asks about changes, as the window's close button does.
+    void reject() override;
+
 Q_SIGNALS:
     /// What the last action came to, in words for the status bar.
     void told(const QString& text);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     /// A number, its label and what the logic calls it.
@@ -55,6 +61,7 @@ private:
     void Form_Load();
     void selectkey_Click(int row);
     void saveRecord();
+    [[nodiscard]] bool mayLeave();
     void showControls();
     void showNumber(const NumberRow& row);
     void readControls();
@@ -62,6 +69,7 @@ private:
     Boxes& m_boxes;
     FunctionKeys m_keys;
     KeyControls m_controls;
+    KeyControls m_shown; ///< as the controls held it when the key was shown or saved
     RecordPicker* selectkey;
     QLabel* labels;
     ui::TextBox* description;

@@ -21,12 +21,14 @@ struct KeyControls {
         bool visible = false;
         QString caption;
         bool ticked = false;
+        bool operator==(const Check&) const = default;
     };
     struct Number {
         bool visible = false;
         QString caption;
         Decimal value;
         Decimal largest; ///< that can be typed
+        bool operator==(const Number&) const = default;
     };
 
     [[nodiscard]] Number& number(NumberControl control);
@@ -41,6 +43,7 @@ struct KeyControls {
     int haloDigits = 2;
     /// The same for keys that do not say.
     int standingHaloDigits = 2;
+    bool operator==(const KeyControls&) const = default;
 };
 
 /// The table of the function keys with a place in it.

@@ -199,11 +199,29 @@ TEST_F(FrmFunctKeyTest, OnlySaveStoresAndTheListKeepsItsTexts)
     enter("Halo", "1000000");
     EXPECT_EQ(m_boxes.shown, (std::vector{norvane::test::ShownBox{u"Maximum Value Exceeded"_s,
                                                                   u"Input Error"_s, BoxIcon::Exclamation}}));
-    QTest::keyClick(&*m_form, Qt::Key_Escape);
+    QTest::mouseClick(&control<QPushButton>(u"ExitForm"_s), Qt::LeftButton);
     EXPECT_FALSE(m_form->isVisible());
     EXPECT_EQ(row(16), "KEY 251     ");
     open();
     EXPECT_TRUE(list().itemText(12).endsWith(u"NEW"));
+}
+
+TEST_F(FrmFunctKeyTest, EscapeAndTheCloseButtonAskAboutChanges)
+{
+    open();
+    const norvane::test::ShownBox saveChanges{u"Save Changes?"_s, u"Save Details."_s, BoxIcon::Question};
+    select("16");
+    check(0).click();
+    QTest::keyClick(&*m_form, Qt::Key_Escape);
+    EXPECT_TRUE(m_form->isVisible()) << "the question was closed";
+    EXPECT_EQ(m_boxes.shown, std::vector{saveChanges});
+    m_boxes.answers = {true};
+    EXPECT_TRUE(m_form->close());
+    EXPECT_EQ(row(16), "KEY 251 0 40 0 0 0");
+    m_form->show();
+    QTest::keyClick(&*m_form, Qt::Key_Escape);
+    EXPECT_FALSE(m_form->isVisible()) << "nothing has changed since";
+    EXPECT_EQ(m_boxes.shown.size(), 2U);
 }
 
 } // namespace
