@@ -86,18 +86,22 @@ void KeyEditor::redo()
         m_level.setKey(change.cell, change.after);
 }
 
-void KeyEditor::assign(KeyCell cell, ItemKind kind, const QString& number)
+void KeyEditor::assign(const KeyCells& cells, ItemKind kind, const QString& number)
 {
     const std::optional<Key> chosen = m_level.items().keyFor(kind, number);
-    Key key = m_level.key(cell);
-    const bool isFixed = key.state == KeyState::Fixed;
-    if (chosen && !isFixed) {
-        key = *chosen;
-    } else {
-        key.text = chosen ? chosen->text : itemTable(kind).missingEntry;
-        key.state = isFixed ? KeyState::Fixed : KeyState::Missing;
+    Step step;
+    for (const KeyCell cell : cells) {
+        Key key = m_level.key(cell);
+        const bool isFixed = key.state == KeyState::Fixed;
+        if (chosen && !isFixed) {
+            key = *chosen;
+        } else {
+            key.text = chosen ? chosen->text : itemTable(kind).missingEntry;
+            key.state = isFixed ? KeyState::Fixed : KeyState::Missing;
+        }
+        step.push_back(changeOf(cell, key));
     }
-    take({changeOf(cell, key)});
+    take(std::move(step));
 }
 
 /// Each of @p target does what the cell of @p source at the same place does.
@@ -135,16 +139,21 @@ Refusal KeyEditor::copyTo(const KeyCells& cells, KeyCell from, KeyCell to)
     return Refusal::None;
 }
 
+KeyCells KeyEditor::programmable(KeyCells cells) const
+{
+    std::erase_if(cells, [this](KeyCell cell) { return m_level.geometry().fixedAt(cell) != nullptr; });
+    return cells;
+}
+
 /// A fixed key has nothing that another key could do.
 void KeyEditor::copy(const KeyCells& cells)
 {
-    KeyCells programmable = cells;
-    std::erase_if(programmable, [this](KeyCell cell) { return m_level.geometry().fixedAt(cell) != nullptr; });
-    if (programmable.empty())
+    const KeyCells keys = programmable(cells);
+    if (keys.empty())
         return;
     m_copied.clear();
-    const KeyCell corner = upperLeft(programmable);
-    for (const KeyCell cell : programmable)
+    const KeyCell corner = upperLeft(keys);
+    for (const KeyCell cell : keys)
         m_copied.push_back({cell - corner, m_level.key(cell)});
 }
 

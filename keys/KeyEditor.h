@@ -28,15 +28,17 @@ public:
     /// Forgets the steps and the marked keys: another level was read, or this one afresh.
     void levelWasRead();
 
-    /// Puts the item @p number on a key. Of an item that is gone only the cell tells. A fixed cell shows the
+    /// Puts the item @p number on keys. Of an item that is gone only the cells tell. A fixed cell shows the
     /// text alone and keeps what it does.
-    void assign(KeyCell cell, ItemKind kind, const QString& number);
+    void assign(const KeyCells& cells, ItemKind kind, const QString& number);
     /// @p cells, of which @p from lies on @p to then, change places with the keys that lie there. Where both
     /// places overlap, the keys in the way fill what becomes free.
     Refusal swap(const KeyCells& cells, KeyCell from, KeyCell to);
     /// The keys at the new place do what @p cells do.
     Refusal copyTo(const KeyCells& cells, KeyCell from, KeyCell to);
 
+    /// Those of @p cells that are not fixed keys.
+    [[nodiscard]] KeyCells programmable(KeyCells cells) const;
     void copy(const KeyCells& cells);
     /// Copies and clears.
     Refusal cut(const KeyCells& cells);

@@ -40,6 +40,14 @@ QString refusalText(Refusal refusal)
     return {};
 }
 
+/// As many keys as are chosen on purpose or by mistake: from here on the user is asked.
+constexpr std::size_t askedBlock = 4;
+
+QString blockQuestion(std::size_t keys)
+{
+    return u"%1 keys are selected. Put this entry on all of them?"_s.arg(keys);
+}
+
 QString pluFunctionQuestion()
 {
     return u"Function key 200 goes to the registers as \"0200\", which is a PLU key there, and comes back "
@@ -137,20 +145,24 @@ void KeyLayout::copyLevels()
 
 void KeyLayout::assign(ItemKind kind, const QString& number, bool byEnter)
 {
-    if (mayAssign(kind, number)) {
-        m_editor.assign(Grid1->currentCell(), kind, number);
+    const KeyCells cells = m_editor.programmable(Grid1->chosenCells());
+    if (mayAssign(cells, kind, number)) {
+        m_editor.assign(cells.empty() ? KeyCells{Grid1->currentCell()} : cells, kind, number);
         finish(Refusal::None);
     }
     if (byEnter)
         Grid1->setFocus();
 }
 
-bool KeyLayout::mayAssign(ItemKind kind, const QString& number)
+bool KeyLayout::mayAssign(const KeyCells& cells, ItemKind kind, const QString& number)
 {
-    const Key& key = m_level.key(Grid1->currentCell());
-    const bool comesBackAsPlu =
-        kind == ItemKind::Function && number == pluFunction && key.function != pluFunction;
-    return !comesBackAsPlu || key.state == KeyState::Fixed || askBeforeLoss(m_boxes, pluFunctionQuestion());
+    if (cells.size() >= askedBlock && !askBeforeLoss(m_boxes, blockQuestion(cells.size())))
+        return false;
+    const bool comesBackAsPlu = kind == ItemKind::Function && number == pluFunction &&
+                                !std::ranges::all_of(cells, [this](KeyCell cell) {
+                                    return m_level.key(cell).function == pluFunction;
+                                });
+    return !comesBackAsPlu || askBeforeLoss(m_boxes, pluFunctionQuestion());
 }
 
 /// What is chosen follows the keys to their new place.
@@ -182,6 +194,7 @@ void KeyLayout::showChanges()
     m_star->setText(m_level.differs() ? u"*"_s : QString());
     m_undo->setEnabled(m_editor.canUndo());
     m_redo->setEnabled(m_editor.canRedo());
+    m_paste->setEnabled(m_editor.canPaste());
 }
 
 void KeyLayout::find()

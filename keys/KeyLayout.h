@@ -78,7 +78,7 @@ private:
     void copyLevels();
 
     void assign(ItemKind kind, const QString& number, bool byEnter);
-    [[nodiscard]] bool mayAssign(ItemKind kind, const QString& number);
+    [[nodiscard]] bool mayAssign(const KeyCells& cells, ItemKind kind, const QString& number);
     void drop(KeyCell target, bool copies);
     void finish(Refusal refusal);
     void showChanges();
@@ -103,6 +103,7 @@ private:
     QLabel* m_findOutcome;
     ui::StatusLine* m_status;
     std::vector<QPushButton*> m_levels;
+    QAction* m_paste = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
 };

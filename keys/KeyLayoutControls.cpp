@@ -165,10 +165,11 @@ void KeyLayout::addClipboardActions()
               [this] { finish(m_editor.cut(Grid1->chosenCells())); });
     addAction(u"Copy"_s, u"&Copy"_s, {QKeySequence::Copy}, inGrid, [this] {
         m_editor.copy(Grid1->chosenCells());
+        showChanges();
         m_status->setNotice(u"Copied"_s);
     });
-    addAction(u"Paste"_s, u"&Paste"_s, {QKeySequence::Paste}, inGrid,
-              [this] { finish(m_editor.paste(Grid1->chosenCells())); });
+    m_paste = addAction(u"Paste"_s, u"&Paste"_s, {QKeySequence::Paste}, inGrid,
+                        [this] { finish(m_editor.paste(Grid1->chosenCells())); });
     addAction(u"Clear"_s, u"C&lear"_s, {QKeySequence::Delete}, inGrid,
               [this] { finish(m_editor.clear(Grid1->chosenCells())); });
 }

@@ -41,8 +41,6 @@ KeyListPanel::KeyListPanel(const std::shared_ptr<store::Database>& database, QWi
         list(names.kind) = makeItemList(names, database, this);
         connectList(names.kind);
     }
-    // A function's number means nothing to those who put it on a key.
-    list(ItemKind::Function).view->setColumnHidden(0, true);
     connect(m_filter, &QLineEdit::textChanged, this, &KeyListPanel::setFilter);
     connect(m_filter, &QLineEdit::returnPressed, this,
             [this] { choose(shownList().view->currentIndex(), true); });

@@ -303,6 +303,35 @@ TEST_F(KeyLayoutTest, TheMouseDragsWhatIsChosenOrTheOneCellItBeganOn)
         << "the cell taken out of the block is not the current one";
 }
 
+TEST_F(KeyLayoutTest, AnEntryGoesToAllSelectedKeysAfterAQuestionFromFourOn)
+{
+    auto& list = control<QTableView>("functionlist");
+    EXPECT_EQ(list.model()->index(0, 0).data().toString(), u"5"_s);
+    EXPECT_TRUE(list.columnWidth(0) > 0 && !list.isColumnHidden(0)) << "the filter finds the number, too";
+    EXPECT_FALSE(control<QAction>("Paste").isEnabled());
+    grid().setCurrentCell({8, 0});
+    click(grid(), 9, 1, Qt::ControlModifier);
+    click(grid(), 7, 3, Qt::ControlModifier);
+    click(list, 0);
+    EXPECT_EQ(cell(8, 0) + cell(9, 1) + cell(7, 3), "CASHCASHCASH");
+    EXPECT_TRUE(boxes.shown.empty());
+    grid().setCurrentCell({0, 0});
+    grid().setFocus();
+    key(Qt::Key_A, Qt::ControlModifier);
+    for (const bool answer : {false, true}) {
+        boxes.answers = {answer};
+        click(list, 1);
+        EXPECT_TRUE(boxes.shown.back().text.contains(u"158 keys are selected"_s));
+        EXPECT_EQ(boxes.shown.back().preset, BoxAnswer::No);
+        EXPECT_EQ(cell(8, 0) + cell(5, 5), answer ? "CHECKCHECK" : "CASHFunction Key");
+    }
+    EXPECT_EQ(cell(0, 0), "Receipt Feed\rFIXED");
+    control<QAction>("Undo").trigger();
+    EXPECT_EQ(cell(8, 0) + cell(5, 5), "CASHFunction Key");
+    control<QAction>("Copy").trigger();
+    EXPECT_TRUE(control<QAction>("Paste").isEnabled());
+}
+
 TEST_F(KeyLayoutTest, FindsKeysOfTheLevelAndTheItemOnAllLevels)
 {
     shop.execute("update keylink set keylink = '5' where id in (20, 30, 317)");
