@@ -4,6 +4,7 @@
 #include "keys/KeyDatabase.h"
 #include "keys/OptionColumns.h"
 #include "keys/RecordPicker.h"
+#include "keys/SaveOrTell.h"
 #include "ui/Appearance.h"
 #include "ui/DecimalBox.h"
 #include "ui/FittingArea.h"
@@ -165,24 +166,25 @@ void FrmFunctKey::selectkey_Click(int row)
     SaveRecord->setEnabled(true);
 }
 
-void FrmFunctKey::saveRecord()
+/// @return false when nothing was stored.
+bool FrmFunctKey::saveRecord()
 {
     readControls();
-    m_keys.SaveData(m_controls);
+    if (!saveOrTell(m_boxes, [this] { m_keys.SaveData(m_controls); }))
+        return false;
     m_shown = m_controls;
     Q_EMIT told(u"Saved function key %1"_s.arg(selectkey->currentData().toString()));
+    return true;
 }
 
-/// @return false when the form stays: the user has closed the question.
+/// @return false when the form stays: the user has closed the question, or the key could not be saved.
 bool FrmFunctKey::mayLeave()
 {
     readControls();
     if (!SaveRecord->isEnabled() || m_controls == m_shown)
         return true;
     const auto answer = m_boxes.askBeforeGoingOn(u"Save Changes?"_s, u"Save Details."_s);
-    if (answer == true)
-        saveRecord();
-    return answer.has_value();
+    return answer == true ? saveRecord() : answer.has_value();
 }
 
 void FrmFunctKey::reject()

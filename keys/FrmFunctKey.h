@@ -60,7 +60,7 @@ private:
                                        const QString& name);
     void Form_Load();
     void selectkey_Click(int row);
-    void saveRecord();
+    bool saveRecord();
     [[nodiscard]] bool mayLeave();
     void showControls();
     void showNumber(const NumberRow& row);

@@ -6,6 +6,8 @@
 #include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 #include <array>
 #include <limits>
@@ -235,6 +237,7 @@ void FunctionKeys::SaveData(const KeyControls& controls)
     const auto explain = [this](const QString& text) {
         return u"Function key %1 of table %2 was not saved. %3"_s.arg(id()).arg(tableName, text);
     };
+    const store::ShortWait wait(*m_database);
     atPlace(explain, [&] { storeAll(controls); });
 }
 
@@ -246,6 +249,8 @@ void FunctionKeys::storeAll(const KeyControls& controls)
         for (const NumberField& field : options->numbers)
             putNumber(field, controls.number(field.control).value, texts);
     }
+    // A record that could not be stored must not stay open: it would show what was not stored.
+    const auto close = qScopeGuard([this] { m_table.cancelUpdate(); });
     m_table.edit();
     m_table.setValue(descriptionField, store::Value::text(controls.description));
     for (std::size_t field = 0; field < texts.size(); ++field) {

@@ -7,6 +7,7 @@
 #include "keys/KeyGrid.h"
 #include "keys/KeyListPanel.h"
 #include "keys/KeySearch.h"
+#include "keys/SaveOrTell.h"
 #include "platform/Boxes.h"
 #include "ui/StatusLine.h"
 
@@ -98,11 +99,14 @@ std::optional<bool> KeyLayout::askToSave()
     return m_boxes.askBeforeGoingOn(u"Save Changes?"_s, u"Save Details."_s);
 }
 
-void KeyLayout::SaveGrid()
+/// @return false when nothing was stored.
+bool KeyLayout::SaveGrid()
 {
-    m_level.save();
+    if (!saveOrTell(m_boxes, [this] { m_level.save(); }))
+        return false;
     finish(Refusal::None);
     m_status->setNotice(u"Saved level %1"_s.arg(m_level.level()));
+    return true;
 }
 
 void KeyLayout::askAndSave()
@@ -111,13 +115,11 @@ void KeyLayout::askAndSave()
         SaveGrid();
 }
 
-/// @return false when the level stays: the user has closed the question.
+/// @return false when the level stays: the user has closed the question, or it could not be saved.
 bool KeyLayout::leaveLevel()
 {
     const std::optional<bool> answer = askToSave();
-    if (answer == true)
-        SaveGrid();
-    return answer.has_value();
+    return answer == true ? SaveGrid() : answer.has_value();
 }
 
 /// The question comes every time, whether anything has changed or not.

@@ -70,7 +70,7 @@ private:
 
     void updategrid(int level);
     void showLevel();
-    void SaveGrid();
+    bool SaveGrid();
     [[nodiscard]] std::optional<bool> askToSave();
     void askAndSave();
     [[nodiscard]] bool leaveLevel();

@@ -79,13 +79,28 @@ void KeyLevel::read(int level)
     m_level = level;
 }
 
+/// The lock of another program is met before any row is.
+QString KeyLevel::notSaved(const QString& failure) const
+{
+    const int ahead = m_geometry.rowsAhead(m_level);
+    return u"Level %1 was not saved: rows %2 to %3 of the tables %4 and %5 are as they were. %6"_s
+        .arg(m_level)
+        .arg(ahead + 1)
+        .arg(ahead + m_geometry.keysPerLevel)
+        .arg(keyLinkTable().table, nluTable().table, failure);
+}
+
 /// One table after the other: a walk reads rows ahead as long as nothing but itself stores.
 void KeyLevel::save()
 {
-    store::allOrNothing(*m_database, [this] {
-        saveFunctions();
-        saveLookUps();
-    });
+    const store::ShortWait wait(*m_database);
+    atPlace([this](const QString& failure) { return notSaved(failure); },
+            [this] {
+                store::allOrNothing(*m_database, [this] {
+                    saveFunctions();
+                    saveLookUps();
+                });
+            });
     m_stored = m_keys;
 }
 

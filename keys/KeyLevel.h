@@ -32,7 +32,8 @@ public:
     void read(int level);
     /// Stores every key of the level in one transaction, unchanged ones too: a function key's row of NLU gets
     /// its key number whatever it held before, and so does the row of a look-up behind its four digits.
-    /// @throws RuntimeFailure 3021, 13, 3260 ... Both tables are as before then.
+    /// @throws RuntimeFailure 3021, 13, 3260 ..., which names the level and its rows. Both tables are as
+    /// before then, and the changes can still be saved.
     void save();
     /// Whether a save would store another PLU, function or look-up for any key.
     [[nodiscard]] bool differs() const;
@@ -47,6 +48,7 @@ private:
         return static_cast<std::size_t>(index);
     }
     [[nodiscard]] std::vector<Key> readKeys(int level);
+    [[nodiscard]] QString notSaved(const QString& failure) const;
     void saveFunctions();
     void saveLookUps();
 

@@ -5,6 +5,8 @@
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
 
+#include <QScopeGuard>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::keys
@@ -193,12 +195,15 @@ void LookUpRecords::save(LookUp& lookUp)
     const auto explain = [number = storedNumber()](const QString& text) {
         return u"WLU No %1 of table wlu was not saved: %2"_s.arg(number, text);
     };
+    const store::ShortWait wait(*m_database);
     atPlace(explain, [&] { store(lookUp); });
 }
 
 /// One statement stores the record: whole or not at all.
 void LookUpRecords::store(const LookUp& lookUp)
 {
+    // A record that could not be stored must not stay open: it would show what was not stored.
+    const auto close = qScopeGuard([this] { m_lookUps.cancelUpdate(); });
     m_lookUps.edit();
     storeFields(lookUp, firstTexts, m_lookUps);
     storeFields(lookUp, allowedItems, m_lookUps);

@@ -8,6 +8,7 @@
 #include "keys/LookUpFields.h"
 #include "keys/LookUpGridModel.h"
 #include "keys/RecordPicker.h"
+#include "keys/SaveOrTell.h"
 #include "paper/Length.h"
 #include "platform/Boxes.h"
 #include "platform/Numbers.h"
@@ -244,13 +245,12 @@ LookUp frmwlu::entered() const
     return lookUp;
 }
 
-/// @return false when the user would rather not.
+/// @return false when nothing was stored.
 bool frmwlu::SaveGrid()
 {
     LookUp lookUp = entered();
-    if (!mayStore(lookUp))
+    if (!mayStore(lookUp) || !saveOrTell(m_boxes, [&] { m_records.save(lookUp); }))
         return false;
-    m_records.save(lookUp);
     m_picker->setItems(m_records.readItems());
     updategrid();
     m_status->setNotice(u"Saved WLU No "_s + m_records.storedNumber());

@@ -215,13 +215,21 @@ TEST_F(FrmFunctKeyTest, EscapeAndTheCloseButtonAskAboutChanges)
     QTest::keyClick(&*m_form, Qt::Key_Escape);
     EXPECT_TRUE(m_form->isVisible()) << "the question was closed";
     EXPECT_EQ(m_boxes.shown, std::vector{saveChanges});
+    {
+        const auto other = m_shop.open();
+        const store::Transaction held(*other);
+        m_boxes.answers = {true};
+        EXPECT_FALSE(m_form->close());
+    }
+    EXPECT_TRUE(
+        m_boxes.shown.back().text.startsWith(u"Function key 16 of table FunctionKey was not saved."_s));
     m_boxes.answers = {true};
     EXPECT_TRUE(m_form->close());
     EXPECT_EQ(row(16), "KEY 251 0 40 0 0 0");
     m_form->show();
     QTest::keyClick(&*m_form, Qt::Key_Escape);
     EXPECT_FALSE(m_form->isVisible()) << "nothing has changed since";
-    EXPECT_EQ(m_boxes.shown.size(), 2U);
+    EXPECT_EQ(m_boxes.shown.size(), 4U);
 }
 
 } // namespace

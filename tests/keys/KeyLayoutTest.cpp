@@ -332,6 +332,30 @@ TEST_F(KeyLayoutTest, AnEntryGoesToAllSelectedKeysAfterAQuestionFromFourOn)
     EXPECT_TRUE(control<QAction>("Paste").isEnabled());
 }
 
+TEST_F(KeyLayoutTest, ALevelThatCannotBeSavedStaysInTheEditor)
+{
+    grid().setCurrentCell({9, 0});
+    click(control<QTableView>("functionlist"), 0);
+    const auto other = shop.open();
+    {
+        const store::Transaction held(*other);
+        boxes.answers = {true, true};
+        press("CSCmdBtn4");
+        EXPECT_FALSE(form->close());
+    }
+    ASSERT_EQ(boxes.shown.size(), 4U);
+    const QString& told = boxes.shown[1].text;
+    EXPECT_TRUE(
+        told.startsWith(u"Level 1 was not saved: rows 1 to 158 of the tables KEYLINK and NLU are as they "
+                        "were. The database is in use by another program."_s))
+        << told.toStdString();
+    EXPECT_TRUE(told.contains(u"Wait until the other program has finished, or close it, and save again."_s));
+    EXPECT_EQ(label("Label1"), "Keyboard Level. 1");
+    boxes.answers = {true};
+    press("CSCmdBtn1");
+    EXPECT_EQ(stored(1), "5 000000000000000001");
+}
+
 TEST_F(KeyLayoutTest, FindsKeysOfTheLevelAndTheItemOnAllLevels)
 {
     shop.execute("update keylink set keylink = '5' where id in (20, 30, 317)");
