@@ -6,7 +6,7 @@
 #include "overlay/KeyClipboard.h"
 #include "overlay/SheetPainter.h"
 #include "platform/Boxes.h"
-#include "platform/RuntimeFailure.h"
+#include "platform/FailureBox.h"
 #include "ui/FormKit.h"
 
 #include <QClipboard>
@@ -202,8 +202,7 @@ void OverlayForm::importLevel(int level)
         m_editor.importLevel(level, m_values.databasePath);
         tell(u"Level %1 was imported."_s.arg(level));
     } catch (const RuntimeFailure& failure) {
-        m_boxes.message(u"Run-time error '%1':\r\r%2"_s.arg(failure.number()).arg(failure.text()), {},
-                        BoxIcon::Critical);
+        showFailure(failure, m_boxes);
     }
 }
 

@@ -12,6 +12,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class QHBoxLayout;
@@ -77,6 +78,9 @@ private:
     void addFindBar(GridControl& grid, QVBoxLayout& column);
     void fitButtons(const QVector<QPushButton*>& shown);
 
+    void attempt(const std::function<void()>& act);
+    void tellFailure(const RuntimeFailure& failure);
+    void showNothing();
     void addRecord();
     void saveRecord();
     void tellSaved();
@@ -104,6 +108,7 @@ private:
     std::unique_ptr<RecordEditor> m_editor;
     FieldPanel* CSPict1 = nullptr;
     RecordList* m_list = nullptr; ///< beside screens that walk several records
+    bool m_failed = false;        ///< it closes, and does nothing any more
     BoundFields m_shown;          ///< the controls as the record or the last save left them
     QSize m_size;
     SideRoom m_sideRoom; ///< for the open list

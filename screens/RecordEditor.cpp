@@ -119,6 +119,21 @@ void forEachBound(Fields& fields, const KindOrder& order, Act act)
 
 } // namespace
 
+/// Runs @p act. The user is told which table is empty when @p act fails for that reason.
+template <typename Act>
+decltype(auto) RecordEditor::needingRecords(Act act)
+{
+    try {
+        return act();
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() != Failure::NoCurrentRecord || !isEmpty())
+            throw;
+        throw RuntimeFailure(
+            failure.failure(),
+            u"The table %1 is empty. Upload its file from the ECR first."_s.arg(m_table.table));
+    }
+}
+
 RecordEditor::RecordEditor(std::shared_ptr<store::Database> database, ScreenTable table, QString screenFile)
     : m_database(std::move(database)), m_table(std::move(table)), m_screenFile(std::move(screenFile)),
       m_records(namingFile(m_screenFile, [&] { return m_database->openTable(m_table.table); }))
@@ -128,15 +143,10 @@ RecordEditor::RecordEditor(std::shared_ptr<store::Database> database, ScreenTabl
 
 void RecordEditor::showFields(BoundFields& fields)
 {
-    const auto explain = [this](const QString& text) {
-        return m_records.recordCount() > 0
-                   ? text
-                   : text + u" The table is empty. Upload its file from the ECR first."_s;
-    };
     const auto showField = [this](BoundField& field) {
         field.content = shownValue(field, m_records.value(field.dataField));
     };
-    namingFile(m_screenFile, [&] { atPlace(explain, [&] { forEachBound(fields, showOrder, showField); }); });
+    needingRecords([&] { namingFile(m_screenFile, [&] { forEachBound(fields, showOrder, showField); }); });
     remember();
 }
 
@@ -147,9 +157,20 @@ void RecordEditor::remember()
         m_seen.push_back(m_records.value(field));
 }
 
-void RecordEditor::add(BoundFields& fields)
+bool RecordEditor::isEmpty() const
+{
+    return !isAdding() && m_records.recordCount() == 0;
+}
+
+void RecordEditor::showNothing(BoundFields& fields)
 {
     forEachBound(fields, showOrder, [](BoundField& field) { field.content = blankValue(field.kind); });
+    m_seen.clear();
+}
+
+void RecordEditor::add(BoundFields& fields)
+{
+    showNothing(fields);
     m_records.addNew();
 }
 
@@ -172,7 +193,7 @@ bool RecordEditor::isOverwritten(const BoundField& field) const
 
 bool RecordEditor::wouldOverwrite(const BoundFields& fields)
 {
-    if (isAdding() || !reread() || m_seen.empty())
+    if (isAdding() || m_seen.empty() || !reread())
         return false;
     return std::any_of(fields.cbegin(), fields.cend(), [this](const BoundField& field) {
         return !field.dataField.trimmed().isEmpty() && isOverwritten(field);
@@ -216,7 +237,7 @@ void RecordEditor::deleteRecord()
     } else {
         deleteCurrent();
     }
-    m_records.moveFirst();
+    needingRecords([this] { m_records.moveFirst(); });
 }
 
 void RecordEditor::deleteCurrent()
@@ -247,10 +268,16 @@ bool RecordEditor::reread()
 {
     const store::ShortWait wait(*m_database);
     try {
-        return isStillThere() || goToSameKey();
+        return isStillThere() || (m_seen.empty() ? goToFirst() : goToSameKey());
     } catch (const RuntimeFailure&) {
         return false; // what needs the record next reports it
     }
+}
+
+bool RecordEditor::goToFirst()
+{
+    m_records.moveFirst();
+    return true;
 }
 
 bool RecordEditor::goToSameKey()
@@ -258,7 +285,7 @@ bool RecordEditor::goToSameKey()
     const QString order = m_records.index();
     m_records.changeOrder(m_table.firstIndex);
     const int ordinal = m_records.fieldOrdinal(searchedField(1).name);
-    const auto key = m_seen.empty() ? store::Value() : m_seen.at(static_cast<std::size_t>(ordinal));
+    const store::Value& key = m_seen.at(static_cast<std::size_t>(ordinal));
     const bool found = hasRecord(store::Seek::Equal, key) && m_records.seek(store::Seek::Equal, key);
     m_records.changeOrder(order);
     return found;
@@ -266,20 +293,24 @@ bool RecordEditor::goToSameKey()
 
 bool RecordEditor::next()
 {
-    m_records.moveNext();
-    if (!m_records.atEnd())
-        return true;
-    m_records.moveLast();
-    return false;
+    return needingRecords([this] {
+        m_records.moveNext();
+        if (!m_records.atEnd())
+            return true;
+        m_records.moveLast();
+        return false;
+    });
 }
 
 bool RecordEditor::previous()
 {
-    m_records.movePrevious();
-    if (!m_records.atBeginning())
-        return true;
-    m_records.moveFirst();
-    return false;
+    return needingRecords([this] {
+        m_records.movePrevious();
+        if (!m_records.atBeginning())
+            return true;
+        m_records.moveFirst();
+        return false;
+    });
 }
 
 const QString& RecordEditor::indexOf(int button) const

@@ -26,7 +26,7 @@ struct BoundField {
 using BoundFields = QVector<BoundField>;
 
 /// One place in one table. What the user typed is known to the controls alone until it is saved; a move drops
-/// it, and a record being added or changed with it. Failures other than those of save() end the program.
+/// it, and a record being added or changed with it. Failures other than those of save() close the screen.
 class RecordEditor
 {
 public:
@@ -38,6 +38,11 @@ public:
     /// a field that the table does not have, 13 for a whole-number box whose field is null.
     void showFields(BoundFields& fields);
 
+    /// Whether the table has no record, and none is being added. showFields(), deleteRecord() and the moves
+    /// fail with 3021 then; add() leads on.
+    [[nodiscard]] bool isEmpty() const;
+    /// Blanks @p fields, for a table that is empty. Until a record is shown or added, nothing can be saved.
+    void showNothing(BoundFields& fields);
     /// Blanks @p fields and starts a new record, which is stored by save() only.
     void add(BoundFields& fields);
     /// Whether a save of @p fields would write over values that another screen or program has stored since
@@ -52,7 +57,8 @@ public:
     /// drops a new record that is not stored yet.
     void deleteRecord();
     /// Reads the current record as it stands in the file now. One that is gone gives way to the record with
-    /// the same key, which an upload has put in its place. Drops a change that is not stored yet.
+    /// the same key, which an upload has put in its place, and nothing to the first record. Drops a change
+    /// that is not stored yet.
     /// @return false when there is no such record either, or the file cannot be read.
     [[nodiscard]] bool reread();
 
@@ -72,6 +78,8 @@ public:
     [[nodiscard]] bool isAdding() const { return m_records.editMode() == store::EditMode::Adding; }
 
 private:
+    template <typename Act>
+    decltype(auto) needingRecords(Act act);
     void storeFields(BoundFields& fields);
     void storeField(BoundField& field);
     void deleteCurrent();
@@ -79,6 +87,7 @@ private:
     void remember();
     [[nodiscard]] bool isOverwritten(const BoundField& field) const;
     [[nodiscard]] bool isStillThere();
+    [[nodiscard]] bool goToFirst();
     [[nodiscard]] bool goToSameKey();
     [[nodiscard]] const QString& indexOf(int button) const;
     [[nodiscard]] bool hasRecord(store::Seek comparison, const store::Value& key) const;

@@ -23,6 +23,7 @@ constexpr Reason reasons[] = {
     {Failure::PathOrFileAccess, "the database is read only"_L1},
     {Failure::DeviceIo, "the disk cannot be read or written"_L1},
     {Failure::DuplicateKey, "another record has this number"_L1},
+    {Failure::NoCurrentRecord, "there is no record here. Press Add first"_L1},
     {Failure::RecordDeleted, "the record was deleted meanwhile"_L1},
 };
 

@@ -1,11 +1,10 @@
 // Opening of setup, about and customer dialog; see FrameOpeners.h.
 #include "shell/FrameOpeners.h"
 
-#include "platform/RuntimeFailure.h"
+#include "platform/FailureBox.h"
 #include "shell/frmAbout.h"
 #include "shell/FrmCustomer.h"
 #include "shell/FrmSetup.h"
-#include "shell/Program.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -32,9 +31,9 @@ void followCustomer(FrmSetup& setup, Boxes& boxes)
 {
     try {
         setup.followCustomer();
-    } catch (const RuntimeFailure&) {
+    } catch (const RuntimeFailure& failure) {
         setup.close();
-        showFailure(describeFailure(std::current_exception()), boxes);
+        showFailure(failure, boxes);
     }
 }
 

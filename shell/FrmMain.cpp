@@ -2,6 +2,7 @@
 #include "shell/FrmMain.h"
 
 #include "paper/Length.h"
+#include "platform/FailureBox.h"
 #include "platform/FilePaths.h"
 #include "shell/AccessLetters.h"
 #include "shell/MainStatusBar.h"
@@ -154,11 +155,12 @@ void FrmMain::choose(const MenuEntry& entry)
     Q_EMIT entryDone();
 }
 
+/// A screen that cannot open, such as on an empty table, leaves the other screens with what was typed.
 void FrmMain::open(const MenuEntry& entry)
 {
     const bool isForm = entry.opens == Opens::Form || entry.opens == Opens::ModelForm;
     if (opensScreen(entry)) {
-        openScreen(entry);
+        openOrTell(m_boxes, [&] { openScreen(entry); });
     } else if (isForm) {
         openForm(entry);
     }
@@ -223,9 +225,12 @@ void FrmMain::showShared(const QString& name, const std::function<QWidget*()>& m
         m_area->setActiveSubWindow(*found);
         return;
     }
-    QMdiSubWindow& child = showChild(make(), size == FormSize::Fixed ? sharedFormFlags : Qt::WindowFlags());
-    if (size == FormSize::Fixed)
-        child.setFixedSize(child.size());
+    openOrTell(m_boxes, [&] {
+        QMdiSubWindow& child =
+            showChild(make(), size == FormSize::Fixed ? sharedFormFlags : Qt::WindowFlags());
+        if (size == FormSize::Fixed)
+            child.setFixedSize(child.size());
+    });
 }
 
 void FrmMain::showCustomer()

@@ -4,9 +4,8 @@
 #include "keys/FrmFunctKey.h"
 #include "keys/frmwlu.h"
 #include "keys/KeyLayout.h"
-#include "platform/RuntimeFailure.h"
+#include "platform/FailureBox.h"
 #include "shell/MainStatusBar.h"
-#include "shell/Program.h"
 
 #include <memory>
 
@@ -51,24 +50,13 @@ constexpr KeyForm keyForms[] = {
      "Redeem Points for Tender Keys are programmed in the General Function Options"_L1},
 };
 
-/// A key editor that cannot open has stored nothing yet: it alone closes, and what was typed into other
-/// screens stays.
-std::unique_ptr<QDialog> makeOrTell(MakeForm make, ApplicationValues& values, Boxes& boxes, FrmMain& main)
-{
-    try {
-        return make(values, boxes, main);
-    } catch (const RuntimeFailure&) {
-        showFailure(describeFailure(std::current_exception()), boxes);
-        return nullptr;
-    }
-}
-
 /// The editor works on the chosen customer's data, and so does everything else from then on.
 void openKeyForm(const KeyForm& entry, ApplicationValues& values, Boxes& boxes, FrmMain& main)
 {
     if (!entry.notice.isEmpty())
         boxes.message(entry.notice);
-    const std::unique_ptr<QDialog> form = makeOrTell(entry.make, values, boxes, main);
+    std::unique_ptr<QDialog> form;
+    openOrTell(boxes, [&] { form = entry.make(values, boxes, main); });
     main.showCustomer();
     if (form)
         form->exec();

@@ -1,7 +1,7 @@
 // The last failure of the process; see Program.h.
 #include "shell/Program.h"
 
-#include "platform/RuntimeFailure.h"
+#include "platform/FailureBox.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -33,12 +33,6 @@ FatalFailure describeFailure(const std::exception_ptr& failure)
     } catch (...) {
         return {internalError, u"Internal error"_s};
     }
-}
-
-void showFailure(const FatalFailure& failure, Boxes& boxes)
-{
-    boxes.message(u"Run-time error '%1':\r\r%2"_s.arg(failure.number).arg(failure.text), {},
-                  BoxIcon::Critical);
 }
 
 Program::Program(int& argc, char** argv, Boxes& boxes) : QApplication(argc, argv), m_boxes(boxes)
@@ -74,7 +68,7 @@ void Program::end(const std::exception_ptr& failure)
     const FatalFailure shown = describeFailure(failure);
     while (overrideCursor())
         restoreOverrideCursor();
-    showFailure(shown, m_boxes);
+    showFailure(shown.number, shown.text, m_boxes);
     // No destructors: the windows are in the middle of something. The system closes all files, and a database
     // stays whole.
     std::fflush(nullptr);

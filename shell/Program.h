@@ -20,9 +20,6 @@ struct FatalFailure {
 /// Number and text of @p failure: 7 when memory ran out, 51 for an error of a library.
 [[nodiscard]] FatalFailure describeFailure(const std::exception_ptr& failure);
 
-/// Tells the user of a failure: "Run-time error 'number':" and its text.
-void showFailure(const FatalFailure& failure, Boxes& boxes);
-
 /// Shows a failure that an event handler or the start of the program did not catch as "Run-time error
 /// 'number':" with its text, then ends the process with exit code 1. It ends at once, because the caller of a
 /// modal dialog must not go on as if nothing had happened.

@@ -3,7 +3,7 @@
 
 #include "base/CustomerSettings.h"
 #include "base/SharedRoutines.h"
-#include "platform/RuntimeFailure.h"
+#include "platform/FailurePlace.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 
@@ -68,6 +68,15 @@ bool hasRecords(const ApplicationValues& values, const QString& table)
     return database.openTable(table).recordCount() > 0;
 }
 
+/// Every upload begins with the memory file.
+int firmwareGeneration(const ApplicationValues& values, Boxes& boxes)
+{
+    const auto explain = [](const QString& text) {
+        return text + u"\rUpload from the ECR first: each upload fetches this file."_s;
+    };
+    return atPlace(explain, [&] { return GetFirmwareGeneration(values, boxes); });
+}
+
 } // namespace
 
 QString targetOf(const MenuEntry& entry, const ApplicationValues& values)
@@ -81,7 +90,7 @@ bool mayOpen(const MenuEntry& entry, const ApplicationValues& values, Boxes& box
 {
     if (entry.opens != Opens::GatedScreen)
         return true;
-    if (GetFirmwareGeneration(values, boxes) == 2) {
+    if (firmwareGeneration(values, boxes) == 2) {
         boxes.message(u"Option not available on this firmware"_s);
         return false;
     }

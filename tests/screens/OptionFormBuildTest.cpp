@@ -147,8 +147,9 @@ TEST_F(OptionFormBuildTest, FaultsFailWithTheNameOfTheFileAndOfTheKey)
     }
     EXPECT_TRUE(m_boxes.shown.empty());
     execute("delete * from GROUPS");
-    EXPECT_EQ(failureOf([&] { open(groups + "[Field1]\nControlType=TextControl\nDatafield=DESCRIPTION\n"); }),
-              3021);
+    const QString told = test::failureTextOf(
+        [&] { open(groups + "[Field1]\nControlType=TextControl\nDatafield=DESCRIPTION\n"); });
+    EXPECT_EQ(told, u"3021 The table GROUPS is empty. Upload its file from the ECR first."_s);
 }
 
 } // namespace

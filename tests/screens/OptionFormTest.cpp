@@ -1,6 +1,7 @@
 // A screen in use: keys and clicks in, rows in the database and messages out.
 #include "tests/platform/FullDisk.h"
 #include "tests/screens/ScreenFixture.h"
+#include "tests/store/Elsewhere.h"
 #include "ui/ValueList.h"
 
 namespace norvane::screens
@@ -14,6 +15,10 @@ const ShownBox noMoreRecords{u"No More Records"_s, u"Searching..."_s, BoxIcon::E
 const ShownBox noRecord{u"No Record"_s, u"Search"_s, BoxIcon::Exclamation};
 const ShownBox codeExists{u"This item code already exists!\rPlease try again"_s, u"Data Error Code3022"_s,
                           BoxIcon::Critical};
+
+const ShownBox emptyTable{
+    u"Run-time error '3021':\r\rThe table GROUPS is empty. Upload its file from the ECR first."_s,
+    applicationTitle(), BoxIcon::Critical};
 
 const QByteArray allButtons =
     "[visiblekeys]\nShowAddrecord=YES\nShowpreviousrecord=YES\nShownextrecord=YES\nShowdeleterecord=YES\n"
@@ -174,7 +179,7 @@ TEST_F(OptionFormTest, AMoveADeletionAndAnExitDropANewRecord)
     EXPECT_EQ(groupNames(), "Wines Beers Food");
 }
 
-TEST_F(OptionFormTest, DeleteAsksFirstAndFailsOnTheLastRecord)
+TEST_F(OptionFormTest, DeleteAsksFirstAndAfterTheLastRecordAddStillWorks)
 {
     press(form, "NextRecord");
     press(form, "DeleteRecord");
@@ -185,9 +190,71 @@ TEST_F(OptionFormTest, DeleteAsksFirstAndFailsOnTheLastRecord)
     EXPECT_EQ(name(), "Wines");
     EXPECT_EQ(groupNames(), "Wines Food");
     press(form, "DeleteRecord");
+    m_boxes.shown.clear();
+    EXPECT_EQ(toldBy("DeleteRecord"), "The table is empty. Press Add to enter a record.");
+    EXPECT_EQ(m_boxes.shown.size(), 2U);
+    EXPECT_EQ(m_boxes.shown.back(), emptyTable);
+    EXPECT_EQ(name(), "");
+    m_boxes.shown.clear();
+    press(form, "NextRecord");
+    EXPECT_EQ(takeBox(), emptyTable);
+    type(form, "TextControl_1", "Spirits");
+    EXPECT_EQ(toldBy("SaveRecord"), "Nothing was stored: there is no record here. Press Add first");
+    press(form, "AddRecord");
+    press(form, "PreviousRecord");
+    EXPECT_EQ(takeBox(), emptyTable);
+    press(form, "AddRecord");
+    type(form, "IntegerNumberControl_1", "4");
+    type(form, "TextControl_1", "Spirits");
+    EXPECT_EQ(toldBy("SaveRecord"), "Saved Options 4");
+    EXPECT_EQ(groupNames(), "Spirits");
     EXPECT_EQ(failureNumber(), 0);
-    press(form, "DeleteRecord");
-    EXPECT_EQ(failureNumber(), 3021);
+}
+
+TEST_F(OptionFormTest, AnEmptyScreenShowsWhatAnUploadBrings)
+{
+    execute("delete * from GROUPS");
+    press(form, "NextRecord");
+    EXPECT_EQ(takeBox(), emptyTable);
+    execute("insert into GROUPS (GROUPNO, DESCRIPTION) values (1, 'Wines')");
+    EXPECT_EQ(toldBy("SaveRecord"), "Nothing was stored: there is no record here. Press Add first");
+    form->refresh();
+    EXPECT_EQ(name(), "Wines");
+}
+
+/// What is done to the table before a button is pressed and undone afterwards, and the failure that closes
+/// the screen.
+constexpr auto hide = "alter table GROUPS rename to GONE";
+constexpr auto bringBack = "alter table GONE rename to GROUPS";
+constexpr std::tuple<const char*, const char*, const char*, const char*> closingFailures[] = {
+    {hide, bringBack, "NextRecord", "Run-time error '3061':"},
+    {hide, bringBack, "DeleteRecord", "Run-time error '3061':"},
+    {hide, bringBack, "FindControl_1", "Run-time error '3061':"},
+    {"update GROUPS set GROUPNO = null where GROUPNO = 2", "", "PreviousRecord", "Run-time error '13':"},
+};
+
+TEST_F(OptionFormTest, AFailureClosesTheScreenThatItConcernsAndNoOther)
+{
+    const Form other = open();
+    type(other, "TextControl_1", "Ports");
+    for (const auto& [change, undo, button, message] : closingFailures) {
+        form = open();
+        test::runElsewhere(m_values.databasePath, change);
+        m_boxes.answers = {true};
+        m_boxes.shown.clear();
+        if (QLatin1String(button).startsWith("Find"_L1)) {
+            find(form, button, "2");
+        } else {
+            press(form, button);
+        }
+        const std::string shown = m_boxes.shown.empty() ? "" : m_boxes.shown.back().text.toStdString();
+        EXPECT_EQ(shown.find(message), 0U) << shown << button;
+        EXPECT_FALSE(form->isVisible()) << change << button;
+        EXPECT_TRUE(other->isVisible());
+        EXPECT_EQ(text(other, "TextControl_1"), "Ports");
+        test::runElsewhere(m_values.databasePath, undo);
+    }
+    EXPECT_EQ(failureNumber(), 0);
 }
 
 TEST_F(OptionFormTest, FindsByEachButtonsIndex)

@@ -284,6 +284,27 @@ TEST_F(ScreensInFrameTest, SetupFollowsAChangeOfCustomer)
     EXPECT_TRUE(m_boxes.shown.back().text.contains(u"ECRModel=none in "_s));
 }
 
+TEST_F(ScreensInFrameTest, AScreenThatCannotOpenClosesAlone)
+{
+    QFile::copy(QStringLiteral(DATA_DIR "/Group.scn"), m_folder.path("app/Group.scn"));
+    QWidget& screen = open("PLUMENU");
+    type(screen, pluName, "Stout");
+    for (const char* entry : {"GroupMenu", "CardCat"})
+        EXPECT_EQ(&open(entry), &screen) << entry;
+    setModel("");
+    EXPECT_EQ(&open("PLUStatusMenu"), &screen);
+    m_folder.write("app/Cafe/setup.ini", "[SetupOption]\r\nPort=9\r\n");
+    EXPECT_EQ(&open("DataSetup"), &screen);
+    EXPECT_EQ(shown(screen, pluName), "Stout");
+    QStringList told;
+    for (const auto& box : m_boxes.shown)
+        told += box.text.section(u'\r', 0, 0);
+    EXPECT_EQ(told, (QStringList{u"Run-time error '3021':"_s, u"Run-time error '53':"_s,
+                                 u"Run-time error '13':"_s, u"Run-time error '5':"_s}));
+    EXPECT_TRUE(m_boxes.shown[1].text.endsWith(
+        u"mem.dat\rUpload from the ECR first: each upload fetches this file."_s));
+}
+
 /// Entries, models and the form that opens.
 constexpr const char* modalForms[][3] = {{"DorvikKeyboard", "2", "Dorvik"},
                                          {"Velmarkeyboard", "2", "Velmar"},
