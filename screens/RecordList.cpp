@@ -137,9 +137,12 @@ void RecordList::unfold()
     m_panel->setFixedWidth(qBound(ui::scaled(narrowestPanel), room, panelPixels()));
     m_panel->show();
     m_handle->setArrowType(Qt::RightArrow);
-    m_filter->setFocus(); // reads the records, unless the window is not active
+    m_filter->setFocus();  // reads the records, unless the window is not active
+    m_filter->selectAll(); // typing replaces the former filter
     if (m_model->recordCount() == 0)
         reload();
+    // How many rows the table has room for is known only when it has its place.
+    QMetaObject::invokeMethod(this, &RecordList::showMarked, Qt::QueuedConnection);
 }
 
 void RecordList::fold()
@@ -182,6 +185,7 @@ void RecordList::showMarked()
 {
     if (m_model->markedRow() >= 0) {
         m_table->selectRow(m_model->markedRow());
+        m_table->scrollTo(m_table->currentIndex());
     } else {
         m_table->clearSelection();
     }

@@ -94,6 +94,37 @@ TEST_F(RecordListTest, FollowsTheScreenAndTheTable)
     EXPECT_EQ(listed(), "5 Lager|5000 crème 12") << "none of them is on the screen";
 }
 
+TEST_F(RecordListTest, ShowsTheRecordOfTheScreenWhenItOpensAndWhenItsFilterIsCleared)
+{
+    for (int number = 200; number < 300; ++number)
+        execute("insert into PLUDATA values ('000000000000000" + QByteArray::number(number) +
+                "', 'x', '1', 1)");
+    form = open();
+    control(form, "TextControl_1")->setFocus();
+    const auto isShown = [this] {
+        QCoreApplication::processEvents();
+        auto* const table = control<QTableView>(form, "ListTable");
+        const auto selected = table->selectionModel()->selectedRows();
+        return selected.size() == 1 && selected[0].data(Qt::UserRole).toBool() &&
+               table->viewport()->rect().contains(table->visualRect(selected[0]));
+    };
+    for (int time = 0; time < 80; ++time)
+        press(form, "NextRecord");
+    toggleList();
+    EXPECT_TRUE(isShown()) << "at its first opening";
+    auto* const filter = control<QLineEdit>(form, "ListFilter");
+    QTest::keyClicks(filter, u"claret"_s);
+    EXPECT_FALSE(isShown());
+    QTest::keyClick(filter, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(filter, Qt::Key_Delete);
+    EXPECT_TRUE(isShown()) << "without a filter";
+    QTest::keyClicks(filter, u"2"_s);
+    press(form, "ListHandle");
+    press(form, "ListHandle");
+    EXPECT_EQ(filter->selectedText(), u"2"_s) << "typing replaces it";
+    EXPECT_TRUE(isShown()) << "opened again";
+}
+
 TEST_F(RecordListTest, StandsBesideScreensThatWalkSeveralRecordsOnly)
 {
     EXPECT_FALSE(form->findChild<QWidget*>(u"ListFilter"_s)) << "at first";
