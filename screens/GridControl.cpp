@@ -75,6 +75,25 @@ void GridControl::showQuery(const std::shared_ptr<store::Database>& database,
     }
 }
 
+void GridControl::reread()
+{
+    if (state() == EditingState)
+        return;
+    auto* const rows = static_cast<GridModel*>(model());
+    const int current = currentIndex().row();
+    const int column = currentIndex().column();
+    const int row = rows->reread(qMax(current, lastVisibleRow()) + 1, current);
+    if (row != current)
+        setCurrentIndex(rows->index(row, column));
+}
+
+/// Below the last row there is none.
+int GridControl::lastVisibleRow() const
+{
+    const int row = rowAt(viewport()->height() - 1);
+    return row < 0 ? model()->rowCount() - 1 : row;
+}
+
 bool GridControl::findRow(const QString& part, int from)
 {
     auto* const rows = static_cast<GridModel*>(model());

@@ -22,6 +22,9 @@ public:
     /// Shows the query of @p definition under its headings, in the place of what was shown before.
     /// @throws RuntimeFailure 3061, 5
     void showQuery(const std::shared_ptr<store::Database>& database, const ControlDefinition& definition);
+    /// Shows the rows as they stand in the file now, which a price change or an upload may have changed. The
+    /// current row stays the one with the same key. A grid in which a cell is being edited stays as it is.
+    void reread();
     /// Opens the current cell again, empty, with the focus in it.
     void retryCell(const QModelIndex& index);
     /// Makes the next row with @p part in its first two columns the current one, looking from row @p from on
@@ -42,6 +45,7 @@ protected:
 private:
     /// Takes away what is too low for a row.
     void cutToWholeRows();
+    [[nodiscard]] int lastVisibleRow() const;
 };
 
 } // namespace norvane::screens

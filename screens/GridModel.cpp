@@ -69,7 +69,8 @@ GridModel::GridModel(std::shared_ptr<store::Database> database, const QString& s
 {
     if (sql.isEmpty())
         return;
-    m_records.emplace(m_database->openQuery(queryOf(*m_database, sql)));
+    m_query = queryOf(*m_database, sql);
+    m_records.emplace(m_database->openQuery(m_query));
     m_total = static_cast<int>(m_records->recordCount());
     if (m_columns.size() > m_records->fieldCount()) {
         throw RuntimeFailure(Failure::InvalidArgument,
@@ -117,6 +118,64 @@ GridModel::Row GridModel::readRow(int row)
     for (int field = 0; field < m_records->fieldCount(); ++field)
         values[static_cast<std::size_t>(field)] = m_records->value(field);
     return values;
+}
+
+void GridModel::shrinkTo(int rows)
+{
+    if (rows >= rowCount())
+        return;
+    beginRemoveRows({}, rows, rowCount() - 1);
+    m_rows.resize(static_cast<std::size_t>(rows));
+    endRemoveRows();
+}
+
+void GridModel::readAgain(int rows)
+{
+    m_records = m_database->openQuery(m_query);
+    m_total = static_cast<int>(m_records->recordCount());
+    m_texts.clear();
+    shrinkTo(qMin(rows, m_total));
+    for (int row = 0; row < rowCount(); ++row)
+        m_rows[static_cast<std::size_t>(row)] = readRow(row);
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+int GridModel::rowOf(const QString& key, int likely)
+{
+    const auto hasKey = [&](int row) {
+        return m_records->moveTo(row) && m_records->value(0).toText() == key;
+    };
+    if (hasKey(likely))
+        return likely;
+    int row = 0;
+    while (row < m_total && !hasKey(row))
+        ++row;
+    return row < m_total ? row : qMin(likely, m_total - 1);
+}
+
+int GridModel::reread(int rows, int current)
+{
+    if (!m_records)
+        return current;
+    const QString key = current < 0 ? QString() : cell(index(current, 0)).toText();
+    const store::ShortWait wait(*m_database);
+    try {
+        readAgain(rows);
+        if (current < 0)
+            return current;
+        const int row = rowOf(key, current);
+        fetchTo(row);
+        return row;
+    } catch (const RuntimeFailure&) {
+        return qMin(current, rowCount() - 1); // an edit of a row reports it
+    }
+}
+
+void GridModel::fetchTo(int row)
+{
+    while (rowCount() <= row)
+        fetchMore({});
 }
 
 const store::Value& GridModel::cell(const QModelIndex& index) const
@@ -202,8 +261,7 @@ int GridModel::findRow(const QString& part, int from)
         return -1;
     const auto next = std::lower_bound(found.cbegin(), found.cend(), from);
     const int row = next == found.cend() ? found.front() : *next;
-    while (rowCount() <= row)
-        fetchMore({});
+    fetchTo(row);
     return row;
 }
 

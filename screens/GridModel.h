@@ -37,6 +37,10 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
+    /// Reads again, as they stand in the file now, the first @p rows of those that were read; the others are
+    /// read when they are needed. Leaves them as they are when the file cannot be read.
+    /// @param current a row, or -1. @return where the record of @p current stands now.
+    [[nodiscard]] int reread(int rows, int current);
     /// The next row with @p part in its first two columns, in any case of letters, from row @p from on and
     /// then from the top; it is read. @return -1 without such a row.
     [[nodiscard]] int findRow(const QString& part, int from);
@@ -53,12 +57,17 @@ private:
     [[nodiscard]] GridColumn column(int number) const { return m_columns.value(number); }
     [[nodiscard]] const store::Value& cell(const QModelIndex& index) const;
     [[nodiscard]] Row readRow(int row);
+    void readAgain(int rows);
+    [[nodiscard]] int rowOf(const QString& key, int likely);
+    void shrinkTo(int rows);
+    void fetchTo(int row);
     void readTexts();
     void storeCell(const QModelIndex& index, const QString& text);
     [[nodiscard]] store::Value priceOf(int column, QString text) const;
     [[nodiscard]] store::Value valueOf(int column, const QString& text) const;
 
     std::shared_ptr<store::Database> m_database;
+    QString m_query;
     QVector<GridColumn> m_columns;
     std::optional<store::Recordset> m_records;
     int m_total = 0;

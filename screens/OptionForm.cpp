@@ -71,6 +71,8 @@ bool OptionForm::isTouched() const
 void OptionForm::refresh()
 {
     attempt([this] {
+        if (GridControl* const grid = CSPict1->grid())
+            grid->reread();
         if (!m_editor->isAdding() && !isTouched() && m_editor->reread())
             showRecord();
     });
@@ -237,9 +239,10 @@ void OptionForm::printReport()
 
 void OptionForm::rejectCell(GridControl& grid, const QModelIndex& index, const QString& why)
 {
+    const QPersistentModelIndex cell = index; // the rows may be read again while the box is open
     Q_EMIT told(why);
     m_boxes.message(u"Invalid Data Entry"_s, u"Operation Error"_s, BoxIcon::Exclamation);
-    grid.retryCell(index);
+    grid.retryCell(cell);
 }
 
 } // namespace norvane::screens

@@ -46,8 +46,8 @@ public:
 
     /// Puts the current record into the controls, and marks it in the list.
     void ShowFields();
-    /// Shows the record as it stands in the file now, which another screen, a price change or an upload may
-    /// have changed; a screen in which the user has typed stays as it is.
+    /// Shows the record, and the rows of a grid, as they stand in the file now, which another screen, a price
+    /// change or an upload may have changed; a record in which the user has typed stays as it is.
     void refresh();
 
 Q_SIGNALS:

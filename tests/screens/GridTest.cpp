@@ -106,6 +106,42 @@ TEST_F(GridTest, CellsAreStoredAtOnce)
     EXPECT_EQ(cell(0, 2).data(), u"1.255"_s) << "what is seen is what is stored";
 }
 
+TEST_F(GridTest, RowsAreReadAgainAndTheCurrentOneStaysTheSameRecord)
+{
+    const auto current = [&] {
+        return grid->currentIndex().siblingAtColumn(0).data().toString().right(3).toStdString();
+    };
+    const auto scrolled = [&] {
+        return grid->verticalScrollBar()->value();
+    };
+    type(form, "GridFind", "600");
+    const int top = scrolled();
+    execute("update PLUDATA set PRICE1 = '9'");
+    form->refresh();
+    EXPECT_EQ(grid->currentIndex().siblingAtColumn(2).data(), u"9.00"_s);
+    EXPECT_EQ(cell(0, 2).data(), u"9.00"_s);
+    EXPECT_EQ(scrolled(), top) << "the rows stay in their places";
+    EXPECT_EQ(current(), "600");
+    execute("delete * from PLUDATA where PLUNUMBER < '000000000000000590'");
+    form->refresh();
+    EXPECT_EQ(current(), "600");
+    EXPECT_EQ(grid->currentIndex().row(), 10);
+    type(form, "GridFind", "Lager");
+    EXPECT_EQ(control<QLabel>(form, "GridFindOutcome")->text(), u"No such row"_s);
+    grid->setFocus();
+    grid->setCurrentIndex(cell(10, 2));
+    QTest::keyClicks(grid, u"7"_s);
+    execute("update PLUDATA set PRICE1 = '8'");
+    form->refresh();
+    EXPECT_EQ(qobject_cast<QLineEdit*>(QApplication::focusWidget())->text(), u"7"_s) << "being typed";
+    leave(qobject_cast<QLineEdit*>(QApplication::focusWidget()));
+    EXPECT_EQ(rows("select PLUNUMBER from PLUDATA where PRICE1 = '7'"), "000000000000000600");
+    execute("delete * from PLUDATA");
+    form->refresh();
+    EXPECT_EQ(grid->model()->rowCount(), 0);
+    EXPECT_TRUE(m_boxes.shown.empty());
+}
+
 TEST_F(GridTest, WhatNoRegisterHoldsIsRejectedAndTheCellKeepsItsPrice)
 {
     for (const char* keys : {"x1", "-5", "1e5", "123456789012345", "1000000", "1.005", "1.2.3", " "}) {
