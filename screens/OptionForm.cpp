@@ -180,7 +180,7 @@ void OptionForm::tellRefusal(const RuntimeFailure& failure)
 
 void OptionForm::deleteRecord()
 {
-    if (!m_boxes.ask(u"Are You Sure?"_s, u"Delete Record"_s, BoxIcon::Critical))
+    if (!m_boxes.ask(u"Are You Sure?"_s, u"Delete Record"_s, BoxIcon::Critical, BoxAnswer::No))
         return;
     m_editor->deleteRecord();
     reloadList();

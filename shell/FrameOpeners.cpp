@@ -18,11 +18,11 @@ void changeCustomer(FrmMain& main, ApplicationValues& values, Boxes& boxes)
 {
     main.setCursor(Qt::WaitCursor);
     FrmCustomer dialog(values, boxes, &main);
-    const bool chosen = dialog.exec() == QDialog::Accepted;
-    if (chosen)
+    const int outcome = dialog.exec();
+    if (outcome == FrmCustomer::Accepted)
         main.showCustomer();
     main.unsetCursor();
-    if (!chosen)
+    if (outcome == FrmCustomer::Rejected)
         main.unload();
 }
 

@@ -6,6 +6,7 @@
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
+#include <QCloseEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,7 +26,7 @@ constexpr QSize listSize{360, 220};
 } // namespace
 
 FrmCustomer::FrmCustomer(ApplicationValues& values, Boxes& boxes, QWidget* parent)
-    : QDialog(parent), m_values(values), m_boxes(boxes), List1(new QListWidget(this)),
+    : QDialog(parent), m_values(values), m_before(values), m_boxes(boxes), List1(new QListWidget(this)),
       text1(new QLineEdit(this)), CSCmdBtn1(ui::makeButton(u"CSCmdBtn1"_s, u"&Ok"_s, this))
 {
     ui::nameControl(*this, u"FrmCustomer"_s);
@@ -128,10 +129,25 @@ void FrmCustomer::welcomeNewCustomer()
         u"Information "_s, BoxIcon::Information);
 }
 
+/// A name that was refused has set the customer's name already.
 void FrmCustomer::reject()
 {
-    if (m_boxes.ask(u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question))
-        QDialog::reject();
+    if (m_before.databasePath.isEmpty())
+        return endProgram();
+    m_values = m_before;
+    done(Returned);
+}
+
+void FrmCustomer::endProgram()
+{
+    if (m_boxes.ask(u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question, BoxAnswer::No))
+        done(Rejected);
+}
+
+void FrmCustomer::closeEvent(QCloseEvent* event)
+{
+    endProgram();
+    event->setAccepted(!isVisible());
 }
 
 } // namespace norvane::shell

@@ -14,20 +14,28 @@ class QPushButton;
 namespace norvane::shell
 {
 
-/// Run it with exec(): accepted means that the values hold the customer, rejected that the user wants to end
-/// the whole program.
+/// Run it with exec(): Accepted means that the values hold the customer, Rejected that the user wants to end
+/// the whole program, Returned that the work with the former customer goes on and the values are as before.
 class FrmCustomer : public QDialog
 {
     Q_OBJECT
 
 public:
+    static constexpr int Returned = Accepted + 1;
+
     FrmCustomer(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
 public Q_SLOTS:
-    /// The window's close button and Escape: asks first, and stays open after No.
+    /// Escape: returns to the database that is open. At the start there is none, so it acts as the close
+    /// button.
     void reject() override;
 
+protected:
+    /// The window's close button ends the program: asks first, and stays open after No.
+    void closeEvent(QCloseEvent* event) override;
+
 private:
+    void endProgram();
     void layOut();
     [[nodiscard]] QGroupBox* makeFrame();
     void connectList();
@@ -37,6 +45,7 @@ private:
     void welcomeNewCustomer();
 
     ApplicationValues& m_values;
+    const ApplicationValues m_before;
     Boxes& m_boxes;
     QListWidget* List1;
     QLineEdit* text1;

@@ -278,7 +278,8 @@ void FrmMain::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    m_unloading = m_unloading || m_boxes.ask(u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question);
+    m_unloading =
+        m_unloading || m_boxes.ask(u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question, BoxAnswer::No);
     event->setAccepted(m_unloading);
     if (m_unloading)
         Q_EMIT unloaded();

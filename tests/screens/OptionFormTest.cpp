@@ -183,7 +183,8 @@ TEST_F(OptionFormTest, DeleteAsksFirstAndAfterTheLastRecordAddStillWorks)
 {
     press(form, "NextRecord");
     press(form, "DeleteRecord");
-    EXPECT_EQ(takeBox(), (ShownBox{u"Are You Sure?"_s, u"Delete Record"_s, BoxIcon::Critical}));
+    EXPECT_EQ(takeBox(),
+              (ShownBox{u"Are You Sure?"_s, u"Delete Record"_s, BoxIcon::Critical, BoxAnswer::No}));
     EXPECT_EQ(name(), "Beers");
     m_boxes.answers = {true, true, true};
     press(form, "DeleteRecord");

@@ -127,7 +127,7 @@ TEST_F(FrmMainTest, SetupAndAboutStandOnceInTheMiddleAndSpeakInTheStatusBar)
     EXPECT_TRUE(QTest::qWaitFor([this] { return childWindows().isEmpty(); }));
 }
 
-const test::ShownBox question{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question};
+const test::ShownBox question{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question, BoxAnswer::No};
 
 TEST_F(FrmMainTest, AChangeOfCustomerKeepsTheDatabase)
 {
@@ -143,6 +143,22 @@ TEST_F(FrmMainTest, AChangeOfCustomerKeepsTheDatabase)
         u"Your new database has been created please\rupload program from your cash register.  \r"_s,
         u"Information "_s, BoxIcon::Information};
     EXPECT_EQ(m_boxes.shown, std::vector{made});
+}
+
+TEST_F(FrmMainTest, EscapeInAChangeOfCustomerChangesNothing)
+{
+    QTimer::singleShot(0, [] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        ASSERT_TRUE(dialog);
+        QTest::keyClicks(&child<QWidget>(*dialog, "text1"), u"No/Where"_s);
+        child<QPushButton>(*dialog, "CSCmdBtn1").click();
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    choose("ChangeCustomer");
+    EXPECT_EQ(m_boxes.shown.size(), 1U) << "only that the name is refused";
+    EXPECT_TRUE(m_main->isVisible());
+    EXPECT_EQ(m_values.customerName, u"Cafe"_s);
+    EXPECT_EQ(m_values.customerPath, m_folder.path("app/Cafe"));
 }
 
 TEST_F(FrmMainTest, EveryWayOutAsksOnce)

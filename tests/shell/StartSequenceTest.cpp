@@ -158,7 +158,7 @@ TEST_F(StartSequenceTest, AWrongNameIsToldAndOnlyYesEndsTheStart)
     const test::ShownBox invalid{u"Invalid Entry"_s, applicationTitle(), BoxIcon::Critical};
     const test::ShownBox refused{u"Error Creating Directory \rRe run software"_s, u"System Error"_s,
                                  BoxIcon::Critical};
-    const test::ShownBox question{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question};
+    const test::ShownBox question{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question, BoxAnswer::No};
     EXPECT_EQ(m_boxes.shown, (std::vector{invalid, refused, refused, question, question}));
     EXPECT_FALSE(m_main.isVisible());
     EXPECT_EQ(m_values.databasePath, QString());
