@@ -4,6 +4,7 @@
 #include "platform/FailureBox.h"
 #include "platform/FilePaths.h"
 #include "screens/FieldPanel.h"
+#include "screens/FindNotices.h"
 #include "screens/GridControl.h"
 #include "screens/RecordEditor.h"
 #include "screens/RecordList.h"
@@ -18,18 +19,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::screens
 {
-namespace
-{
-
-/// What the find dialog calls the keys of @p field. PLU numbers are texts of digits.
-QString kindOfKey(const store::FieldDefinition& field)
-{
-    if (field.name.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) == 0)
-        return u"PLU number"_s;
-    return field.type == store::FieldType::Text ? u"text"_s : u"number"_s;
-}
-
-} // namespace
 
 OptionForm::OptionForm(const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes,
                        ReportRunner* reports, QWidget* parent)
@@ -211,8 +200,13 @@ void OptionForm::findRecord(int element)
     const auto searchText = ui::FrmSearch::ask(window(), kindOfKey(m_editor->searchedField(element)));
     if (!searchText)
         return;
-    if (m_editor->find(element, *searchText))
-        return ShowFields();
+    const FindOutcome outcome = m_editor->find(element, *searchText);
+    if (outcome != FindOutcome::Nothing) {
+        ShowFields();
+        if (outcome == FindOutcome::Next)
+            tellNext(m_editor->searchedField(element), *searchText);
+        return;
+    }
     m_boxes.beep();
     m_boxes.message(u"No Record"_s, u"Search"_s, BoxIcon::Exclamation);
 }
@@ -220,8 +214,13 @@ void OptionForm::findRecord(int element)
 /// As a find by the first index; another screen may have deleted the record since the list was read.
 void OptionForm::goTo(const QString& key)
 {
-    if (m_editor->find(1, key))
+    if (m_editor->find(1, key) != FindOutcome::Nothing)
         ShowFields();
+}
+
+void OptionForm::tellNext(const store::FieldDefinition& field, const QString& sought)
+{
+    Q_EMIT told(foundNext(windowTitle(), CSPict1->labelOf(field.name), sought, m_list != nullptr));
 }
 
 void OptionForm::exitForm()

@@ -89,6 +89,7 @@ private:
     void nextRecord();
     void previousRecord();
     void findRecord(int element);
+    void tellNext(const store::FieldDefinition& field, const QString& sought);
     void goTo(const QString& key);
     void markRecord();
     void reloadList();

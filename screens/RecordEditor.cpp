@@ -351,12 +351,22 @@ bool RecordEditor::hasRecord(store::Seek comparison, const store::Value& key) co
     }
 }
 
-bool RecordEditor::find(int button, const QString& text)
+FindOutcome RecordEditor::find(int button, const QString& text)
 {
     const QString& index = indexOf(button);
     namingFile(m_screenFile, [&] { m_records.changeOrder(index); });
     const auto key = store::Value::text(isPluNumber(index) ? pluNumber(text) : text);
-    return hasRecord(store::Seek::AtOrAfter, key) && m_records.seek(store::Seek::AtOrAfter, key);
+    if (!hasRecord(store::Seek::AtOrAfter, key) || !m_records.seek(store::Seek::AtOrAfter, key))
+        return FindOutcome::Nothing;
+    return text.isEmpty() || isAt(searchedField(button), key) ? FindOutcome::Found : FindOutcome::Next;
+}
+
+/// A user who looks for a name types its beginning.
+bool RecordEditor::isAt(const store::FieldDefinition& field, const store::Value& key) const
+{
+    if (field.type != store::FieldType::Text || isPluNumber(field.name))
+        return hasRecord(store::Seek::Equal, key);
+    return m_records.value(field.name).toText().startsWith(key.toText(), Qt::CaseInsensitive);
 }
 
 } // namespace norvane::screens

@@ -25,6 +25,9 @@ struct BoundField {
 
 using BoundFields = QVector<BoundField>;
 
+/// What a search came to. Next: the first record behind what was sought, which itself is missing.
+enum class FindOutcome { Found, Next, Nothing };
+
 /// One place in one table. What the user typed is known to the controls alone until it is saved; a move drops
 /// it, and a record being added or changed with it. Failures other than those of save() close the screen.
 class RecordEditor
@@ -68,9 +71,10 @@ public:
     [[nodiscard]] bool previous();
     /// Goes to the first record at or after @p text. The index stays chosen for the moves that follow.
     /// @param button 2 searches by the second index, any other by the first.
-    /// @return false when there is no such record, or @p text cannot be a key. The place stays then, and with
-    /// it a record being added or changed, so that a save goes where the user expects it.
-    [[nodiscard]] bool find(int button, const QString& text);
+    /// A text that begins with @p text counts as found, and so does any record for an empty @p text.
+    /// @return Nothing when there is no such record, or @p text cannot be a key. The place stays then, and
+    /// with it a record being added or changed, so that a save goes where the user expects it.
+    [[nodiscard]] FindOutcome find(int button, const QString& text);
     /// The field that find() searches.
     [[nodiscard]] const store::FieldDefinition& searchedField(int button) const;
     /// What find() by the first index would find the current record by; empty for a new record.
@@ -90,6 +94,7 @@ private:
     [[nodiscard]] bool goToFirst();
     [[nodiscard]] bool goToSameKey();
     [[nodiscard]] const QString& indexOf(int button) const;
+    [[nodiscard]] bool isAt(const store::FieldDefinition& field, const store::Value& key) const;
     [[nodiscard]] bool hasRecord(store::Seek comparison, const store::Value& key) const;
 
     std::shared_ptr<store::Database> m_database;

@@ -44,13 +44,16 @@ QString nothingStored(const RuntimeFailure& failure)
     return u"Nothing was stored: "_s + why;
 }
 
-QString recordSaved(const QString& caption, QString label, const QString& key)
+/// "PLU number" is the number of a PLU.
+QString recordName(const QString& caption, QString label)
 {
-    if (key.isEmpty())
-        return u"Saved "_s + caption;
-    // "PLU number" is the number of a PLU.
     label.remove(u" number"_s);
-    return u"Saved %1 %2"_s.arg(label.isEmpty() ? caption : label, key);
+    return label.isEmpty() ? caption : label;
+}
+
+QString recordSaved(const QString& caption, const QString& label, const QString& key)
+{
+    return u"Saved "_s + (key.isEmpty() ? caption : recordName(caption, label) + u' ' + key);
 }
 
 } // namespace norvane::screens

@@ -3,7 +3,11 @@
 
 #include "platform/Windows1252.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QToolTip>
 #include <QValidator>
 
 #include <algorithm>
@@ -118,13 +122,74 @@ void TextBox::showText(const QString& text)
     setCursorPosition(0);
 }
 
+bool TextBox::hasRoomFor(qsizetype characters) const
+{
+    return text().size() - selectedText().size() + characters <= maxLength();
+}
+
+int TextBox::limit() const
+{
+    return m_limit > 0 ? m_limit : maxLength();
+}
+
+void TextBox::tip(const QString& text)
+{
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), text, this);
+}
+
 void TextBox::keyPressEvent(QKeyEvent* event)
 {
-    const bool isFull = text().size() >= maxLength() && !hasSelectedText();
-    if (isFull && !isReadOnly() && text().endsWith(u' ') && typesCharacter(*event) &&
-        refusedIn(event->text()) == 0)
+    if (event->matches(QKeySequence::Paste))
+        return paste();
+    const bool refuses = !isReadOnly() && typesCharacter(*event) && !hasRoomFor(1);
+    if (refuses && text().endsWith(u' ') && refusedIn(event->text()) == 0) {
         makeRoom();
+    } else if (refuses) {
+        tip(u"At most %1 characters"_s.arg(limit()));
+    }
     QLineEdit::keyPressEvent(event);
+}
+
+void TextBox::paste()
+{
+    pasteText(QGuiApplication::clipboard()->text());
+}
+
+/// The middle button pastes what was selected elsewhere, where the platform has such a clipboard.
+void TextBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QClipboard& clipboard = *QGuiApplication::clipboard();
+    if (event->button() != Qt::MiddleButton || !clipboard.supportsSelection())
+        return QLineEdit::mouseReleaseEvent(event);
+    deselect();
+    pasteText(clipboard.text(QClipboard::Selection));
+}
+
+/// A part of the text may be missing at its end when a text is inserted that does not fit, and the rest would
+/// be glued to what stands there. Cells of a spreadsheet come with a line end.
+void TextBox::pasteText(QString pasted)
+{
+    while (pasted.endsWith(u'\n') || pasted.endsWith(u'\r'))
+        pasted.chop(1);
+    if (isReadOnly())
+        return;
+    while (!hasRoomFor(pasted.size()) && !hasSelectedText() && text().endsWith(u' '))
+        makeRoom();
+    if (pasted.size() > limit()) {
+        pasteCut(pasted.left(limit()));
+    } else if (hasRoomFor(pasted.size())) {
+        insert(pasted);
+    } else {
+        tip(u"At most %1 characters. Select the text first to replace it."_s.arg(limit()));
+    }
+}
+
+void TextBox::pasteCut(const QString& pasted)
+{
+    selectAll();
+    insert(pasted);
+    if (text() == pasted)
+        tip(u"Only the first %1 characters were pasted"_s.arg(limit()));
 }
 
 void TextBox::makeRoom()

@@ -9,7 +9,9 @@ namespace norvane::ui
 /// A line of at most so many characters of a kind. What a register cannot hold is refused when it is typed
 /// or pasted, since a download would send "?" for it. Fields of registers are often padded with blanks to
 /// their full width; typing into such a text pushes its trailing blanks out, so that a full box can be edited
-/// like any other. QLineEdit::textEdited tells typing from setting by program.
+/// like any other. What does not fit is refused with a tip that names the limit. A pasted text that is too
+/// long by itself replaces the whole text, cut, and a tip says so. QLineEdit::textEdited tells typing from
+/// setting by program.
 class TextBox : public QLineEdit
 {
     Q_OBJECT
@@ -35,14 +37,24 @@ public:
     /// Shows a stored text whole, even one above the limit: saving must not cut it.
     void showText(const QString& text);
 
+public Q_SLOTS:
+    /// In the place of QLineEdit::paste(): the context menu calls it by this name.
+    void paste();
+
 Q_SIGNALS:
     /// What the user typed or pasted is above the largest number. The box holds zeros by then.
     void maximumExceeded();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void pasteText(QString pasted);
+    void pasteCut(const QString& pasted);
+    [[nodiscard]] bool hasRoomFor(qsizetype characters) const;
+    [[nodiscard]] int limit() const;
+    void tip(const QString& text);
     [[nodiscard]] qsizetype refusedIn(QStringView text) const;
     void makeRoom();
 

@@ -296,6 +296,28 @@ TEST_F(OptionFormTest, AfterNoRecordTheShownRecordIsStillTheOneThatIsSaved)
     EXPECT_EQ(rows("select GROUPNO from GROUPS order by GROUPNO"), "1 2 3 7") << "still a new record";
 }
 
+/// What is sought, by which button; the record shown and what the status bar says.
+constexpr std::tuple<const char*, const char*, const char*, const char*> searches[] = {
+    {"FindControl_1", "2", "Beers", ""},
+    {"FindControl_1", "", "Wines", ""},
+    {"FindControl_1", "0", "Wines", "No Options 0. This is the next one."},
+    {"FindControl_2", "fo", "Food", ""},
+    {"FindControl_2", "Coffee", "Food", "No Options Coffee. This is the next one."},
+};
+
+TEST_F(OptionFormTest, ASearchThatLandsElsewhereSaysSo)
+{
+    QString said;
+    QObject::connect(form.get(), &OptionForm::told, form.get(), [&](const QString& text) { said = text; });
+    for (const auto& [button, sought, shown, expected] : searches) {
+        find(form, button, sought);
+        EXPECT_EQ(name(), shown) << sought;
+        const QString list = u" The list (Ctrl+L) finds any part of a number or text."_s;
+        EXPECT_EQ(said, *expected == '\0' ? QString() : QLatin1String(expected) + list) << sought;
+    }
+    EXPECT_TRUE(m_boxes.shown.empty());
+}
+
 TEST_F(OptionFormTest, TheFindDialogSaysWhatItsIndexTakes)
 {
     const auto label = [this](const char* button) {

@@ -153,6 +153,7 @@ TEST(TextBox, TypingStopsAtTheLimitButAStoredTextStaysWhole)
         box.showText({});
         QTest::keyClicks(&box, u"Drinks"_s);
         EXPECT_EQ(box.text(), kept);
+        EXPECT_EQ(QToolTip::text(), u"At most 4 characters"_s);
     }
 }
 
@@ -186,6 +187,62 @@ TEST(TextBox, TypingIntoAPaddedTextPushesTheBlanksOut)
     QTest::keyClick(&box, Qt::Key_End);
     QTest::keyClicks(&box, u"s 1"_s);
     EXPECT_EQ(box.text(), u"Ales 1  "_s) << "the end is behind the text, not behind its blanks";
+}
+
+/// What stands in a box of 8 characters, which part is selected, what is pasted; text and tip then.
+const struct {
+    QString standing;
+    std::pair<int, int> selection;
+    QString pasted;
+    QString kept;
+    QString tip;
+} pastes[] = {
+    {u"Ale"_s, {3, 0}, u" 0.5l\r\n"_s, u"Ale 0.5l"_s, {}},
+    {u"Ale     "_s, {3, 0}, u"s"_s, u"Ales    "_s, {}},
+    {u"Orange"_s,
+     {6, 0},
+     u"Latte"_s,
+     u"Orange"_s,
+     u"At most 8 characters. Select the text first to replace it."_s},
+    {u"Orange"_s, {0, 6}, u"Latte"_s, u"Latte"_s, {}},
+    {u"Orange"_s, {3, 0}, u"Latte macchiato"_s, u"Latte ma"_s, u"Only the first 8 characters were pasted"_s},
+    {u"Orange"_s,
+     {0, 3},
+     u"Latte macchi\u0142to"_s,
+     u"Latte ma"_s,
+     u"Only the first 8 characters were pasted"_s},
+    {u"Orange"_s, {0, 3}, u"\u0141atte macchiato"_s, u"Orange"_s, {}},
+};
+
+TEST(TextBox, APastedTextIsNeverGluedToAPartOfTheFormerOne)
+{
+    TextBox box;
+    box.setLimit(8);
+    box.show();
+    for (const auto& [standing, selection, pasted, kept, tip] : pastes) {
+        box.showText(standing);
+        box.setSelection(selection.first, selection.second);
+        QApplication::clipboard()->setText(pasted);
+        const QString before = QToolTip::text();
+        QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(box.text(), kept) << pasted.toStdString();
+        EXPECT_EQ(QToolTip::text(), tip.isEmpty() ? before : tip) << pasted.toStdString();
+        if (kept != standing) {
+            box.undo();
+            EXPECT_EQ(box.text().trimmed(), standing.trimmed());
+        }
+    }
+    box.showText(u"Orange"_s);
+    QApplication::clipboard()->setText(u"Latte"_s);
+    QContextMenuEvent rightClick(QContextMenuEvent::Mouse, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&box, &rightClick);
+    for (QAction* const action : QApplication::activePopupWidget()->actions()) {
+        if (action->text().contains(u"Paste"_s))
+            action->trigger();
+    }
+    EXPECT_EQ(QToolTip::text(), u"At most 8 characters. Select the text first to replace it."_s);
+    QApplication::activePopupWidget()->close();
+    EXPECT_EQ(box.text(), u"Orange"_s) << "from the menu as well";
 }
 
 const struct {
