@@ -281,7 +281,8 @@ TEST_F(ScreensInFrameTest, SetupFollowsAChangeOfCustomer)
     setup = &open("DataSetup");
     (void)change("Inn");
     EXPECT_TRUE(soon([&] { return setup.isNull(); })) << "nothing of Cafe can be saved for Inn";
-    EXPECT_TRUE(m_boxes.shown.back().text.contains(u"ECRModel=none in "_s));
+    ASSERT_EQ(m_boxes.shown.size(), 1U);
+    EXPECT_TRUE(m_boxes.shown[0].text.contains(u"ECRModel=none in "_s));
 }
 
 TEST_F(ScreensInFrameTest, AScreenThatCannotOpenClosesAlone)
