@@ -15,6 +15,7 @@
 #include "store/Recordset.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -63,6 +64,9 @@ ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::Link
       m_outside(std::move(outside)), m_procedures{values, m_outside.boxes,
                                                   [this](const records::Conversion& conversion) {
                                                       return convert(conversion);
+                                                  },
+                                                  [this](int file, const std::function<void()>& commit) {
+                                                      storeImport(file, commit);
                                                   }}
 {
 }
@@ -236,19 +240,28 @@ bool ExchangeRunner::uploadRow(const UploadRow& row)
 
 bool ExchangeRunner::importFile(int file)
 {
-    const bool waited = pluPointsWait(m_values);
-    // Noted before the import, which empties the points even when it is cut off later.
-    if (file == pluFile)
-        notePluPointsWait(m_values, true);
-    const bool imported = records::importRegisterFile(file, m_procedures);
-    if (!imported) {
-        notePluPointsWait(m_values, waited);
-    } else if (file == pluFile) {
+    if (!records::importRegisterFile(file, m_procedures))
+        return false;
+    if (file == pluFile) {
         notePluCount();
     } else if (file == pluPointsFile) {
         notePluPointsWait(m_values, false);
     }
-    return imported;
+    return true;
+}
+
+/// The PLUs that are stored have no points. Noted ahead of the commit, so that a program that is killed
+/// between the two asks once too often rather than never.
+void ExchangeRunner::storeImport(int file, const std::function<void()>& commit)
+{
+    if (file != pluFile) {
+        commit();
+        return;
+    }
+    const bool waited = notePluPointsWait(m_values, true);
+    auto notStored = qScopeGuard([&] { notePluPointsWait(m_values, waited); });
+    commit();
+    notStored.dismiss();
 }
 
 bool ExchangeRunner::downloadRow(const DownloadRow& row)

@@ -2,8 +2,11 @@
 #include "exchange/UnfinishedExchange.h"
 
 #include "base/LossQuestion.h"
+#include "customers/DataOwner.h"
 #include "exchange/ExchangeBoxes.h"
 #include "link/RunNotes.h"
+#include "store/Database.h"
+#include "store/Recordset.h"
 
 #include <QStringList>
 
@@ -45,6 +48,18 @@ QList<int> boxesOf(const QString& numbers)
     return boxes;
 }
 
+bool hasPointsNote(const ApplicationValues& values)
+{
+    return !link::readNote(customers::ownerOfData(values), section, pointsKey).isEmpty();
+}
+
+/// A fetch of the PLUs leaves their points empty.
+bool holdsPlusWithoutPoints(const QString& databasePath)
+{
+    store::Database database(databasePath);
+    return database.openQuery(u"select POINT1 from PLUDATA where POINT1 is null"_s).recordCount() > 0;
+}
+
 } // namespace
 
 std::optional<UnfinishedExchange> unfinishedExchange(const ApplicationValues& values)
@@ -79,13 +94,15 @@ void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes)
 
 bool pluPointsWait(const ApplicationValues& values)
 {
-    return !link::readNote(values, section, pointsKey).isEmpty();
+    return hasPointsNote(values) && holdsPlusWithoutPoints(values.databasePath);
 }
 
-void notePluPointsWait(const ApplicationValues& values, bool wait)
+bool notePluPointsWait(const ApplicationValues& values, bool wait)
 {
-    if (wait != pluPointsWait(values))
-        link::writeNote(values, section, pointsKey, wait ? u"1"_s : QString());
+    const bool waited = hasPointsNote(values);
+    if (wait != waited)
+        link::writeNote(customers::ownerOfData(values), section, pointsKey, wait ? u"1"_s : QString());
+    return waited;
 }
 
 } // namespace norvane::exchange

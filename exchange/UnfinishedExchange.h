@@ -27,8 +27,10 @@ void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exc
 /// Tells which boxes of the last exchange are still to do, and since when; nothing when there are none.
 void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes);
 
-/// Whether the PLUs were fetched and their points not yet: the points in the table belong to the former PLUs.
+/// Whether PLUs of the open database were fetched and their points not yet. Follows the table: after a safety
+/// copy with points was put back, none wait.
 [[nodiscard]] bool pluPointsWait(const ApplicationValues& values);
-void notePluPointsWait(const ApplicationValues& values, bool wait);
+/// Remembers it for the customer whose database is open. @return what was remembered before.
+bool notePluPointsWait(const ApplicationValues& values, bool wait);
 
 } // namespace norvane::exchange

@@ -244,10 +244,13 @@ bool importRegisterFile(int number, const ProcedureContext& context)
     store::Database database(context.values.databasePath);
     store::Transaction transaction(database);
     ImportCounts counts;
+    const auto commit = [&] {
+        context.store(number, [&] { transaction.commit(); });
+    };
     importOrPutBack(
         transaction, context.boxes, [&] { return keepQuestion(file, counts); },
-        [&] { importText(file, database, counts); });
-    transaction.commit();
+        [&] { importText(file, database, counts); }, commit);
+    commit();
     return true;
 }
 

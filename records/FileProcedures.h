@@ -27,6 +27,11 @@ struct ProcedureContext {
     /// Runs the converter and waits for its end. @return whether the target may be used. A conversion that
     /// failed leaves the target of an earlier one, so the user is asked then.
     std::function<bool(const Conversion&)> convert;
+    /// Stores what was read from a register file, wholly or in part, by calling @p commit. Notes about the
+    /// table are written around that call: an import that is put back or killed never comes here.
+    std::function<void(int file, const std::function<void()>& commit)> store = [](int, const auto& commit) {
+        commit();
+    };
 };
 
 /// Whether the register file with this number has a procedure for the direction.

@@ -11,11 +11,16 @@ namespace norvane::records
 namespace
 {
 
-void keepOrPutBack(store::Transaction& transaction, Boxes& boxes, const QString& failure,
-                   const QString& question)
+QString textOf(const RuntimeFailure& failure, const QString& question)
 {
-    if (!question.isEmpty() && askBeforeLoss(boxes, failure + u"\r\r"_s + question)) {
-        transaction.commit();
+    return question.isEmpty() ? QString() : failure.text() + u"\r\r"_s + question;
+}
+
+void keepOrPutBack(store::Transaction& transaction, Boxes& boxes, const QString& text,
+                   const std::function<void()>& commit)
+{
+    if (!text.isEmpty() && askBeforeLoss(boxes, text)) {
+        commit();
     } else {
         transaction.rollBack();
     }
@@ -24,16 +29,22 @@ void keepOrPutBack(store::Transaction& transaction, Boxes& boxes, const QString&
 } // namespace
 
 void importOrPutBack(store::Transaction& transaction, Boxes& boxes, const std::function<QString()>& question,
-                     const std::function<void()>& import)
+                     const std::function<void()>& import, const std::function<void()>& commit)
 {
     try {
         import();
     } catch (const RuntimeFailure& failure) {
         // A full disk can have ended the transaction already: then nothing is left to keep.
         if (transaction.isOpen())
-            keepOrPutBack(transaction, boxes, failure.text(), question());
+            keepOrPutBack(transaction, boxes, textOf(failure, question()), commit);
         throw;
     }
+}
+
+void importOrPutBack(store::Transaction& transaction, Boxes& boxes, const std::function<QString()>& question,
+                     const std::function<void()>& import)
+{
+    importOrPutBack(transaction, boxes, question, import, [&] { transaction.commit(); });
 }
 
 QString keepRecordsQuestion(const QString& textName, qint64 read, qint64 former)

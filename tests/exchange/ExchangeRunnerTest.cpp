@@ -4,6 +4,7 @@
 
 #include "base/SharedRoutines.h"
 #include "customers/CustomerLog.h"
+#include "customers/SafetyCopies.h"
 #include "platform/FilePaths.h"
 #include "tests/store/Rows.h"
 #include "tests/support/ProgramFolder.h"
@@ -69,6 +70,8 @@ public:
     Ticks ticks;
     QStringList transfers; ///< lines of the transfer tool
     QStringList notices;
+    /// Runs after each line of a tool.
+    std::function<void(const QString& line)> afterTool;
 
 private:
     void run(const std::set<int>& wanted, bool (ExchangeRunner::*sequence)())
@@ -94,7 +97,10 @@ private:
     {
         if (line.startsWith("VELMARCOMM"_L1))
             transfers << line;
-        return RunAndWait(values, line);
+        const ChildResult result = RunAndWait(values, line);
+        if (afterTool)
+            afterTool(line);
+        return result;
     }
 };
 
@@ -339,6 +345,37 @@ TEST(ExchangeRunner, SendsNothingOfATableThatMustNotBeEmpty)
     EXPECT_EQ(test::failureOf([&] { shop.download({2}); }), 3021);
     EXPECT_TRUE(shop.files().isEmpty());
     EXPECT_EQ(shop.ticks.ticked, std::set<int>{2});
+}
+
+/// The second PLU of the text comes twice.
+void spoilPlus(const QString& line)
+{
+    if (!line.contains("t67.txt"_L1))
+        return;
+    const QByteArray text = readWholeFile(u"67.txt"_s);
+    writeWholeFile(u"67.txt"_s, text.sliced(text.indexOf('\n') + 1) + text);
+}
+
+TEST(ExchangeRunner, KnowsWhetherPointsWaitAfterAFailedImportAndARestore)
+{
+    Exchange shop(2);
+    shop.upload({0});
+    for (const bool keeps : {false, true}) {
+        shop.afterTool = spoilPlus;
+        shop.boxes.answers = {keeps};
+        EXPECT_EQ(test::failureOf([&] { shop.upload({0}); }), 3022);
+        shop.afterTool = {};
+        shop.download({0});
+        EXPECT_EQ(shop.boxes.shown.size(), keeps ? 1U : 0U) << "of a table that was put back no points wait";
+    }
+    // The registers are not put back with the tables, nor is what is known of them.
+    const QString notes = joinPath(shop.values.customerPath, u"exchange.ini"_s);
+    const QByteArray noted = readWholeFile(notes);
+    customers::restoreSafetyCopy(shop.values.customerPath,
+                                 customers::safetyCopies(shop.values.customerPath).front());
+    writeWholeFile(notes, noted);
+    shop.download({0});
+    EXPECT_TRUE(shop.boxes.shown.empty());
 }
 
 TEST(ExchangeRunner, SendsNoFileOfAnotherCustomer)
