@@ -11,7 +11,22 @@ namespace norvane
 /// The title of every such question, and of what the user has to know before going on.
 inline constexpr QLatin1StringView pleaseCheck{"Please Check"};
 
-/// Asks @p text with Yes and No. No is preset: it is the answer that loses nothing. @return true for Yes.
-[[nodiscard]] bool askBeforeLoss(Boxes& boxes, const QString& text);
+/// Boxes on a command line, where options answer the questions beforehand.
+class AnswersByOption
+{
+public:
+    AnswersByOption() = default;
+    AnswersByOption(const AnswersByOption&) = delete;
+    AnswersByOption& operator=(const AnswersByOption&) = delete;
+    virtual ~AnswersByOption() = default;
+
+    /// @return true, for Yes, when the command line has @p option; otherwise the user is told that it would
+    /// answer Yes.
+    virtual bool answerByOption(const QString& text, const QString& title, QLatin1StringView option) = 0;
+};
+
+/// Asks @p text with Yes and No. No is preset: it is the answer that loses nothing. @p option is the option
+/// of the command line that answers Yes ("accept-fewer"), empty for none. @return true for Yes.
+[[nodiscard]] bool askBeforeLoss(Boxes& boxes, const QString& text, QLatin1StringView option = {});
 
 } // namespace norvane

@@ -30,7 +30,7 @@ void run(const QStringList& words)
     // The tools are found there, and leave their files there.
     if (!QDir::setCurrent(folder))
         throw CommandError(ExitCode::Usage, u"There is no folder %1."_s.arg(folder));
-    TerminalBoxes boxes;
+    TerminalBoxes boxes(invocation.options.keys());
     verb->run({QDir::cleanPath(folder), started, invocation.has("json"_L1), boxes}, invocation);
 }
 

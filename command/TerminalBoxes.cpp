@@ -66,6 +66,14 @@ bool TerminalBoxes::ask(const QString& text, const QString& title, BoxIcon /*ico
     return false;
 }
 
+bool TerminalBoxes::answerByOption(const QString& text, const QString& title, QLatin1StringView option)
+{
+    const bool isYes = m_options.contains(option);
+    const QString answer = isYes ? u"Answered Yes by --%1."_s : u"Answered No. To answer Yes, add --%1."_s;
+    tell(u"%1: %2\n%3"_s.arg(title, lines(text), answer.arg(option)));
+    return isYes;
+}
+
 QString TerminalBoxes::input(const QString& prompt, const QString& title, const QString& /*initial*/)
 {
     tell(u"%1: %2\nLeft empty."_s.arg(title, prompt));

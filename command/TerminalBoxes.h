@@ -1,21 +1,32 @@
 // The program's boxes where nobody sits at a window: texts on standard error, questions answered No.
 #pragma once
 
+#include "base/LossQuestion.h"
 #include "platform/Boxes.h"
+
+#include <QStringList>
 
 namespace norvane::command
 {
 
-/// Every question of the program is put so that No, or the second answer, loses nothing.
-class TerminalBoxes : public Boxes
+/// Every question of the program is put so that No, or the second answer, loses nothing. An option of the
+/// command line can answer Yes.
+class TerminalBoxes : public Boxes, public AnswersByOption
 {
 public:
+    /// @param options the names of the options that the command line has.
+    explicit TerminalBoxes(QStringList options) : m_options(std::move(options)) {}
+
     void message(const QString& text, const QString& title, BoxIcon icon) override;
     bool ask(const QString& text, const QString& title, BoxIcon icon, BoxAnswer preset) override;
     QString input(const QString& prompt, const QString& title, const QString& initial) override;
     QString fileToOpen(const FileRequest& request) override;
     QString fileToSave(const FileRequest& request) override;
     void beep() override {}
+    bool answerByOption(const QString& text, const QString& title, QLatin1StringView option) override;
+
+private:
+    QStringList m_options;
 };
 
 /// Writes to standard output. @throws CommandError Unwritable when not all of it can be written.

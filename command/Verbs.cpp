@@ -17,6 +17,16 @@ constexpr auto common = std::to_array<OptionDefinition>({
     {"help"_L1, {}, "what a command does, as \"help COMMAND\" and \"-h\" do"_L1},
     {"version"_L1, {}, "the version of the program"_L1},
 });
+constexpr auto fetchOptions = std::to_array<OptionDefinition>({
+    {"accept-fewer"_L1,
+     {},
+     "replace a table also with a file that has fewer than half of its records, or is cut off"_L1},
+});
+constexpr auto sendOptions = std::to_array<OptionDefinition>({
+    {"overwrite-points"_L1,
+     {},
+     "send PLUs also when their points were not uploaded; the registers lose the points that they hold"_L1},
+});
 constexpr auto reportOptions = std::to_array<OptionDefinition>({
     {"period"_L1, "PERIOD"_L1, "day, week, month or year: the period that ends today"_L1},
     {"day"_L1, "DAY"_L1, "the sales of one day: 2026-11-25"_L1},
@@ -39,9 +49,9 @@ constexpr auto all = std::to_array<Verb>({
     {"customers"_L1, {}, 0, 0, {}, "Lists the customers: model, registers, last exchange, last day of sales."_L1, listCustomers},
     {"check"_L1, "CUSTOMER"_L1, 1, 1, {},
      "Looks for damage in the database, for missing tables and fields, for settings that cannot be, and for mistakes in the screens and reports of this installation."_L1, checkCustomer},
-    {"fetch"_L1, "CUSTOMER [BOX...]"_L1, 1, -1, {},
+    {"fetch"_L1, "CUSTOMER [BOX...]"_L1, 1, -1, fetchOptions,
      "Uploads from register 1 what the boxes name, as the exchange dialog does; without a box, all of it."_L1, fetch},
-    {"send"_L1, "CUSTOMER [BOX...]"_L1, 1, -1, {},
+    {"send"_L1, "CUSTOMER [BOX...]"_L1, 1, -1, sendOptions,
      "Downloads to all registers what the boxes name; without a box, all of it."_L1, send},
     {"collect"_L1, "CUSTOMER"_L1, 1, 1, {}, "Collects the sales of all registers, stores them and clears them there."_L1, collect},
     {"report"_L1, "CUSTOMER NAME"_L1, 2, 2, reportOptions,

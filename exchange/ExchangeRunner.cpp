@@ -240,7 +240,10 @@ bool ExchangeRunner::uploadRow(const UploadRow& row)
 
 bool ExchangeRunner::importFile(int file)
 {
-    if (!records::importRegisterFile(file, m_procedures))
+    const records::Imported imported = records::importRegisterFile(file, m_procedures);
+    if (imported == records::Imported::TooFew)
+        link::tellEndedByAnswer(m_outside);
+    if (imported != records::Imported::File)
         return false;
     if (file == pluFile) {
         notePluCount();
@@ -303,7 +306,7 @@ bool ExchangeRunner::mayTouchPoints(int file)
 {
     if ((file != pluFile && file != pluPointsFile) || !hasSmartCards() || !pluPointsWait(m_values))
         return true;
-    if (!askBeforeLoss(m_outside.boxes, pointsQuestion())) {
+    if (!askBeforeLoss(m_outside.boxes, pointsQuestion(), "overwrite-points"_L1)) {
         link::tellEndedByAnswer(m_outside);
         return false;
     }

@@ -27,6 +27,9 @@ namespace
 /// The file is written in blocks of this size.
 constexpr std::size_t writeBlock = std::size_t{64} * 1024;
 
+/// A smaller table may well lose half of its records, and is soon typed again.
+constexpr qint64 fewestWorthAsking = 20;
+
 QString textName(const RegisterFile& file)
 {
     return u"%1.txt"_s.arg(file.number);
@@ -205,6 +208,50 @@ void importText(const RegisterFile& file, store::Database& database, ImportCount
     import.storeAll(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
 }
 
+/// What a text holds, before it is read.
+struct TextExtent {
+    qint64 lines = 0;
+    bool isCutOff = false; ///< the last line has no line end
+};
+
+TextExtent extentOf(std::string_view text)
+{
+    TextExtent extent{0, !text.empty() && text.back() != '\n' && text.back() != '\r'};
+    for (Lines lines(text); !lines.atEnd(); ++extent.lines)
+        (void)lines.next();
+    return extent;
+}
+
+QString extentInWords(const TextExtent& extent)
+{
+    if (extent.lines == 0)
+        return u"has no records"_s;
+    const QString count = extent.lines == 1 ? u"has 1 record"_s : u"has %1 records"_s.arg(extent.lines);
+    return extent.isCutOff ? count + u", and its last line is cut off"_s : count;
+}
+
+/// A register sends whole tables, so a text that is much shorter is more often a damaged one.
+bool mayReplace(const RegisterFile& file, store::Database& database, Boxes& boxes)
+{
+    if (file.upload != Upload::ReplacesTable || !pathExists(textName(file)))
+        return true;
+    const qint64 former = database.openTable(QLatin1String(file.table)).recordCount();
+    if (former < fewestWorthAsking)
+        return true;
+    const QByteArray content = readWholeFile(textName(file));
+    const TextExtent extent =
+        extentOf(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
+    if (extent.lines * 2 >= former && !extent.isCutOff)
+        return true;
+    return askBeforeLoss(boxes,
+                         u"%1 %2. It would replace the table %3, which has %4.\r\r"
+                         u"No keeps the table as it is, so that the file can be uploaded again. Yes is right "
+                         u"when the register itself has fewer records now.\r\r"
+                         u"Replace the table?"_s.arg(textName(file), extentInWords(extent),
+                                                     QLatin1String(file.table), QString::number(former)),
+                         "accept-fewer"_L1);
+}
+
 QString keepQuestion(const RegisterFile& file, const ImportCounts& counts)
 {
     if (file.upload == Upload::ReplacesTable)
@@ -233,15 +280,17 @@ bool hasExporter(int file)
     return hasImporter(file) && registerFile(file)->exporter != nullptr;
 }
 
-bool importRegisterFile(int number, const ProcedureContext& context)
+Imported importRegisterFile(int number, const ProcedureContext& context)
 {
     const RegisterFile& file = knownFile(number);
     if (!context.convert({importLine(file, context.values), textName(file),
                           u"The customer's records would be read from it, though it may be an old file or "
                           u"another customer's."_s}))
-        return false;
+        return Imported::Refused;
 
     store::Database database(context.values.databasePath);
+    if (!mayReplace(file, database, context.boxes))
+        return Imported::TooFew;
     store::Transaction transaction(database);
     ImportCounts counts;
     const auto commit = [&] {
@@ -251,7 +300,7 @@ bool importRegisterFile(int number, const ProcedureContext& context)
         transaction, context.boxes, [&] { return keepQuestion(file, counts); },
         [&] { importText(file, database, counts); }, commit);
     commit();
-    return true;
+    return Imported::File;
 }
 
 Exported exportRegisterFile(int number, const ProcedureContext& context)

@@ -38,14 +38,22 @@ struct ProcedureContext {
 [[nodiscard]] bool hasImporter(int file);
 [[nodiscard]] bool hasExporter(int file);
 
+/// What a File... procedure has done. Unless it stored the file, the table is untouched.
+enum class Imported {
+    File,
+    Refused, ///< the user does not want the text that a failed conversion left
+    TooFew,  ///< the user keeps the table, which has more records than the text
+};
+
 /// The File... procedure of a register file: converts NN.dat to NN.txt in the working directory, empties the
 /// table and stores a record for each line, from the first to the end of the file. File 71 empties nothing
 /// and changes the PLUs that it names. All in one transaction: when a failure ends it the user is asked
 /// whether what was read stays, see importOrPutBack().
-/// @return false when the user does not want the text that a failed conversion left; the table is untouched.
+/// Asks before a table of 20 records or more is replaced by a text with none, with fewer than half of them,
+/// or with a last line that is cut off.
 /// @throws RuntimeFailure 53 when NN.txt is missing: nothing was read then; for a bad line what
 /// RecordReader::read and Recordset::update throw, its text naming file, line and column.
-bool importRegisterFile(int file, const ProcedureContext& context);
+Imported importRegisterFile(int file, const ProcedureContext& context);
 
 /// What a Write... procedure has made.
 enum class Exported {

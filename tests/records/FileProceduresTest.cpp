@@ -112,6 +112,51 @@ TEST(FileProceduresTest, AsksWhatBecomesOfATextThatIsBadInTheMiddle)
     }
 }
 
+const struct {
+    const char* name;
+    int former;
+    int lines;
+    QByteArray end;   ///< of the last line
+    const char* told; ///< nullptr: nothing is asked
+} extents[] = {
+    {"none", 20, 0, "", "67.txt has no records. It would replace the table PLUDATA, which has 20.\r"},
+    {"fewer than half", 21, 10, "\r\n",
+     "67.txt has 10 records. It would replace the table PLUDATA, which has 21.\r"},
+    {"half", 20, 10, "\r\n", nullptr},
+    {"cut off", 20, 19, "", "67.txt has 19 records, and its last line is cut off."},
+    {"a small table", 19, 0, "", nullptr},
+};
+
+QByteArray plus(int count, const QByteArray& end)
+{
+    QByteArrayList lines;
+    for (int number = 1; number <= count; ++number)
+        lines << plu(number);
+    return lines.join("\r\n") + end;
+}
+
+TEST(FileProceduresTest, AsksBeforeAShortTextReplacesAFullTable)
+{
+    for (const auto& [name, former, lines, end, told] : extents) {
+        SCOPED_TRACE(name);
+        Shop shop;
+        shop.import(67, plus(former, "\r\n"));
+        const QByteArray text = plus(lines, end);
+        shop.import(67, text);
+        EXPECT_EQ(shop.boxes.shown.size(), told ? 1U : 0U);
+        EXPECT_EQ(shop.rows("PLUDATA"), told ? former : lines);
+        if (told) {
+            const auto& asked = shop.boxes.shown.back();
+            EXPECT_TRUE(asked.text.startsWith(QLatin1String(told))) << asked.text.toStdString();
+            EXPECT_EQ(asked.title, u"Please Check");
+            EXPECT_EQ(asked.preset, BoxAnswer::No);
+            shop.boxes.answers = {true};
+            shop.import(67, text);
+            EXPECT_EQ(shop.rows("PLUDATA"), lines);
+        }
+    }
+}
+
 TEST(FileProceduresTest, PassesOverOrFailsOnAnEmptyTable)
 {
     for (const RegisterFile& file : registerFiles()) {

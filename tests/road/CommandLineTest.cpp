@@ -161,6 +161,32 @@ TEST_P(CommandLineOfOneShop, TellsByItsExitCodeWhatStoppedARun)
     EXPECT_EQ(run({u"collect"_s, shopName}).code, 0) << "the lock went with its owner";
 }
 
+/// A table that has more than the register sends, and PLUs whose points were not fetched.
+TEST_P(CommandLineOfOneShop, AnswersAQuestionBeforeALossByItsOption)
+{
+    const auto expectAnswers = [this](const QStringList& words, const QString& option) {
+        const Ended no = run(words);
+        EXPECT_EQ(no.code, 6) << no.err.toStdString();
+        EXPECT_TRUE(no.err.contains(u"Answered No. To answer Yes, add %1."_s.arg(option)))
+            << no.err.toStdString();
+        const Ended yes = run(words + QStringList{option});
+        EXPECT_EQ(yes.code, 0) << yes.err.toStdString();
+    };
+    expectDone({u"fetch"_s, shopName, u"plu"_s});
+    const qint64 plus = m_shop.rowsOf("PLUDATA");
+    for (const char* const prefix : {"a", "b"})
+        m_shop.execute(QByteArray("insert into PLUDATA (PLUNUMBER) select '")
+                           .append(prefix)
+                           .append("' & PLUNUMBER from PLUDATA"));
+    expectAnswers({u"fetch"_s, shopName, u"plu"_s}, u"--accept-fewer"_s);
+    EXPECT_EQ(m_shop.rowsOf("PLUDATA"), plus);
+
+    m_shop.folder().setFaults("[Off]\nCommand=fetch\nFile=71\nResult=8\n");
+    EXPECT_EQ(run({u"fetch"_s, shopName, u"plu"_s}).code, 6);
+    m_shop.folder().setFaults({});
+    expectAnswers({u"send"_s, shopName, u"plu"_s}, u"--overwrite-points"_s);
+}
+
 TEST_P(CommandLineOfOneShop, ChecksWhatStandsInTheFolders)
 {
     EXPECT_EQ(run({u"check"_s, shopName}).code, 0);
