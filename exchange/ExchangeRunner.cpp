@@ -297,6 +297,9 @@ bool ExchangeRunner::sendFile(const DownloadRow& row, bool fromTable)
         return false;
     if (row.file == pluFile)
         notePluCount();
+    // Not before: registers that the files did not reach still hold their points.
+    if (m_givesUpPoints)
+        notePluPointsWait(m_values, false);
     return true;
 }
 
@@ -304,13 +307,14 @@ bool ExchangeRunner::sendFile(const DownloadRow& row, bool fromTable)
 /// none, as long as they were not fetched after the PLUs.
 bool ExchangeRunner::mayTouchPoints(int file)
 {
-    if ((file != pluFile && file != pluPointsFile) || !hasSmartCards() || !pluPointsWait(m_values))
+    const bool clearsPoints = file == pluFile || file == pluPointsFile;
+    if (!clearsPoints || m_givesUpPoints || !hasSmartCards() || !pluPointsWait(m_values))
         return true;
     if (!askBeforeLoss(m_outside.boxes, pointsQuestion(), "overwrite-points"_L1)) {
         link::tellEndedByAnswer(m_outside);
         return false;
     }
-    notePluPointsWait(m_values, false);
+    m_givesUpPoints = true;
     return true;
 }
 

@@ -82,6 +82,7 @@ private:
     records::ProcedureContext m_procedures;
     UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
     bool m_lacksCopy = false;
+    bool m_givesUpPoints = false; ///< the user sends PLUs though their points wait
     QString m_place; ///< in progress: "file 67", "the opening exchange"
     /// Why the run stops. A step that ends it without a result of the tool was answered No.
     QString m_stop = QStringLiteral("answered No");

@@ -328,8 +328,13 @@ TEST(ExchangeRunner, AsksBeforeItSendsPlusWhosePointsWait)
         EXPECT_EQ(shop.boxes.shown.size(), 1U);
         EXPECT_EQ(readWholeFile(shop.folder.registerFile(1, 71)), points);
     }
+    shop.folder.setFaults("[Off]\nCommand=send\nFile=67\nResult=8\n");
     shop.boxes.answers = {true};
     shop.download({pluBox});
+    shop.folder.setFaults("");
+    shop.boxes.answers = {true};
+    shop.download({pluBox});
+    EXPECT_EQ(shop.boxes.shown.size(), 1U) << "asked again, since nothing was sent, but once for both files";
     EXPECT_TRUE(shop.ticks.ticked.empty());
     EXPECT_NE(readWholeFile(shop.folder.registerFile(1, 71)), points);
 
