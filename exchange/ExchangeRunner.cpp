@@ -248,7 +248,7 @@ bool ExchangeRunner::importFile(int file)
     if (file == pluFile) {
         notePluCount();
     } else if (file == pluPointsFile) {
-        notePluPointsWait(m_values, false);
+        notePluPoints(m_values, PluPoints::Fetched);
     }
     return true;
 }
@@ -261,8 +261,9 @@ void ExchangeRunner::storeImport(int file, const std::function<void()>& commit)
         commit();
         return;
     }
-    const bool waited = notePluPointsWait(m_values, true);
-    auto notStored = qScopeGuard([&] { notePluPointsWait(m_values, waited); });
+    const PluPoints before = notedPluPoints(m_values);
+    notePluPoints(m_values, PluPoints::Wait);
+    auto notStored = qScopeGuard([&] { notePluPoints(m_values, before); });
     commit();
     notStored.dismiss();
 }
@@ -299,7 +300,7 @@ bool ExchangeRunner::sendFile(const DownloadRow& row, bool fromTable)
         notePluCount();
     // Not before: registers that the files did not reach still hold their points.
     if (m_givesUpPoints)
-        notePluPointsWait(m_values, false);
+        notePluPoints(m_values, PluPoints::Unknown);
     return true;
 }
 

@@ -21,6 +21,8 @@ constexpr auto section = "Exchange"_L1;
 /// "UPLOAD 2026-11-24T18:03:11 0,4,36"
 constexpr auto unfinishedKey = "Unfinished"_L1;
 constexpr auto pointsKey = "PLUPointsWait"_L1;
+constexpr auto waitWord = "1"_L1;
+constexpr auto fetchedWord = "0"_L1;
 constexpr auto uploadWord = "UPLOAD"_L1;
 
 QString directionWord(Direction direction)
@@ -48,16 +50,9 @@ QList<int> boxesOf(const QString& numbers)
     return boxes;
 }
 
-bool hasPointsNote(const ApplicationValues& values)
+qint64 recordCount(store::Database& database, const QString& query)
 {
-    return !link::readNote(customers::ownerOfData(values), section, pointsKey).isEmpty();
-}
-
-/// A fetch of the PLUs leaves their points empty.
-bool holdsPlusWithoutPoints(const QString& databasePath)
-{
-    store::Database database(databasePath);
-    return database.openQuery(u"select POINT1 from PLUDATA where POINT1 is null"_s).recordCount() > 0;
+    return database.openQuery(query).recordCount();
 }
 
 } // namespace
@@ -92,17 +87,34 @@ void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes)
         pleaseCheck, BoxIcon::Exclamation);
 }
 
-bool pluPointsWait(const ApplicationValues& values)
+PluPoints notedPluPoints(const ApplicationValues& values)
 {
-    return hasPointsNote(values) && holdsPlusWithoutPoints(values.databasePath);
+    const QString word = link::readNote(customers::ownerOfData(values), section, pointsKey);
+    if (word.isEmpty())
+        return PluPoints::Unknown;
+    return word == fetchedWord ? PluPoints::Fetched : PluPoints::Wait;
 }
 
-bool notePluPointsWait(const ApplicationValues& values, bool wait)
+void notePluPoints(const ApplicationValues& values, PluPoints points)
 {
-    const bool waited = hasPointsNote(values);
-    if (wait != waited)
-        link::writeNote(customers::ownerOfData(values), section, pointsKey, wait ? u"1"_s : QString());
-    return waited;
+    if (points == notedPluPoints(values))
+        return;
+    const QString word = points == PluPoints::Wait ? QString(waitWord) : QString(fetchedWord);
+    link::writeNote(customers::ownerOfData(values), section, pointsKey,
+                    points == PluPoints::Unknown ? QString() : word);
+}
+
+/// A fetch of the PLUs leaves their points empty. So they are in a PLU that was added by hand, but then not
+/// in all.
+bool pluPointsWait(const ApplicationValues& values)
+{
+    const PluPoints noted = notedPluPoints(values);
+    if (noted == PluPoints::Unknown)
+        return false;
+    store::Database database(values.databasePath);
+    const qint64 without = recordCount(database, u"select POINT1 from PLUDATA where POINT1 is null"_s);
+    return without > 0 &&
+           (noted == PluPoints::Wait || without == recordCount(database, u"select POINT1 from PLUDATA"_s));
 }
 
 } // namespace norvane::exchange

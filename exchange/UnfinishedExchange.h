@@ -27,10 +27,19 @@ void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exc
 /// Tells which boxes of the last exchange are still to do, and since when; nothing when there are none.
 void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes);
 
-/// Whether PLUs of the open database were fetched and their points not yet. Follows the table: after a safety
-/// copy with points was put back, none wait.
+/// What the runs know about the points of the PLUs in a database.
+enum class PluPoints {
+    Unknown, ///< never fetched, or given up
+    Wait,    ///< the PLUs were fetched and the points not yet
+    Fetched,
+};
+
+/// Remembered for the customer whose database is open.
+[[nodiscard]] PluPoints notedPluPoints(const ApplicationValues& values);
+void notePluPoints(const ApplicationValues& values, PluPoints points);
+
+/// Whether the points have to be fetched before the PLUs are sent. Follows the table, which a safety copy may
+/// have put back: with its points, or as it was while they waited.
 [[nodiscard]] bool pluPointsWait(const ApplicationValues& values);
-/// Remembers it for the customer whose database is open. @return what was remembered before.
-bool notePluPointsWait(const ApplicationValues& values, bool wait);
 
 } // namespace norvane::exchange

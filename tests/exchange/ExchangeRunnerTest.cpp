@@ -40,6 +40,14 @@ public:
     }
     void upload(const std::set<int>& wanted) { run(wanted, &ExchangeRunner::UploadData); }
     void download(const std::set<int>& wanted) { run(wanted, &ExchangeRunner::downloaddata); }
+    /// The registers are not put back with the tables, nor is what is known of them.
+    void restore(const customers::SafetyCopy& copy) const
+    {
+        const QString notes = joinPath(values.customerPath, u"exchange.ini"_s);
+        const QByteArray noted = readWholeFile(notes);
+        customers::restoreSafetyCopy(values.customerPath, copy);
+        writeWholeFile(notes, noted);
+    }
     /// Numbers of the files that the transfer tool was asked for after the opening exchanges.
     [[nodiscard]] QList<int> files() const
     {
@@ -364,6 +372,14 @@ void spoilPlus(const QString& line)
 TEST(ExchangeRunner, KnowsWhetherPointsWaitAfterAFailedImportAndARestore)
 {
     Exchange shop(2);
+    // As it is while the points wait.
+    const customers::SafetyCopy copyWithoutPoints = [&shop] {
+        shop.folder.setFaults("[Off]\nCommand=fetch\nFile=71\nResult=8\n");
+        shop.upload({0});
+        shop.folder.setFaults("");
+        return customers::makeSafetyCopy(shop.values.customerPath, u"without points"_s,
+                                         store::CopyOf::Programme);
+    }();
     shop.upload({0});
     for (const bool keeps : {false, true}) {
         shop.afterTool = spoilPlus;
@@ -373,14 +389,13 @@ TEST(ExchangeRunner, KnowsWhetherPointsWaitAfterAFailedImportAndARestore)
         shop.download({0});
         EXPECT_EQ(shop.boxes.shown.size(), keeps ? 1U : 0U) << "of a table that was put back no points wait";
     }
-    // The registers are not put back with the tables, nor is what is known of them.
-    const QString notes = joinPath(shop.values.customerPath, u"exchange.ini"_s);
-    const QByteArray noted = readWholeFile(notes);
-    customers::restoreSafetyCopy(shop.values.customerPath,
-                                 customers::safetyCopies(shop.values.customerPath).front());
-    writeWholeFile(notes, noted);
+    shop.restore(customers::safetyCopies(shop.values.customerPath).front());
     shop.download({0});
     EXPECT_TRUE(shop.boxes.shown.empty());
+    shop.upload({0});
+    shop.restore(copyWithoutPoints);
+    shop.download({0});
+    EXPECT_EQ(shop.boxes.shown.size(), 1U);
 }
 
 TEST(ExchangeRunner, SendsNoFileOfAnotherCustomer)
