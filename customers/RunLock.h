@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
+#include "customers/DataOwner.h"
 #include "platform/FolderLock.h"
 
 #include <memory>
@@ -10,26 +11,38 @@ namespace norvane::customers
 {
 
 /// Held by an exchange, a collection, a price run or a restore for as long as it works: the program's folder
-/// holds the working files, the customer's folder the data. A window and a command line, also ones in
-/// different folders of the program, thus never work on one customer at once.
+/// holds the working files, the customer's folder the data. When the open database is another customer's,
+/// that one is locked as well. A window and a command line, also ones in different folders of the program,
+/// thus never work on one customer at once.
 class RunLock
 {
 public:
-    /// @return nothing when another run holds one of the two; the user was told then.
+    /// @return nothing when another run holds one of them; the user was told then.
     [[nodiscard]] static std::unique_ptr<RunLock> take(const ApplicationValues& values, Boxes& boxes)
     {
         std::unique_ptr<RunLock> lock(new RunLock);
         lock->m_program = FolderLock::take(values.appPath, boxes);
         if (lock->m_program != nullptr)
             lock->m_customer = FolderLock::take(values.customerPath, boxes);
-        return lock->m_customer != nullptr ? std::move(lock) : nullptr;
+        if (lock->m_customer == nullptr || !lock->takesData(values, boxes))
+            return nullptr;
+        return lock;
     }
 
 private:
     RunLock() = default;
 
+    [[nodiscard]] bool takesData(const ApplicationValues& values, Boxes& boxes)
+    {
+        if (!isDataOfAnother(values))
+            return true;
+        m_data = FolderLock::take(ownerOfData(values).customerPath, boxes);
+        return m_data != nullptr;
+    }
+
     std::unique_ptr<FolderLock> m_program;
     std::unique_ptr<FolderLock> m_customer;
+    std::unique_ptr<FolderLock> m_data; ///< of another customer whose database is open
 };
 
 } // namespace norvane::customers

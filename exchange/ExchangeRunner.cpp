@@ -3,6 +3,7 @@
 
 #include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
+#include "customers/DataOwner.h"
 #include "customers/SafetyCopies.h"
 #include "exchange/MemoryFile.h"
 #include "exchange/MoveDataFile.h"
@@ -104,11 +105,16 @@ bool ExchangeRunner::loggedDownload()
     return logged(work, &ExchangeRunner::download);
 }
 
+/// An upload is logged with the customer whose tables it replaces. A download changes no table, but the
+/// registers of the chosen customer.
 customers::LoggedWork ExchangeRunner::logLine(Direction direction) const
 {
-    const bool isUpload = direction == Direction::Upload;
-    return {m_values.customerPath, isUpload ? u"upload"_s : u"download"_s,
-            isUpload ? u"register 1"_s : link::registersInWords(m_link), m_outside.millisecondsOpen};
+    if (direction == Direction::Download) {
+        return {m_values.customerPath, u"download"_s, link::registersInWords(m_link),
+                m_outside.millisecondsOpen};
+    }
+    return {customers::ownerOfData(m_values).customerPath, u"upload"_s,
+            u"register 1"_s + customers::ofChosenCustomer(m_values), m_outside.millisecondsOpen};
 }
 
 void ExchangeRunner::logFailedCall(Direction direction)

@@ -83,7 +83,7 @@ private:
     UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
     bool m_lacksCopy = false;
     bool m_givesUpPoints = false; ///< the user sends PLUs though their points wait
-    QString m_place; ///< in progress: "file 67", "the opening exchange"
+    QString m_place;              ///< in progress: "file 67", "the opening exchange"
     /// Why the run stops. A step that ends it without a result of the tool was answered No.
     QString m_stop = QStringLiteral("answered No");
     /// Ends the run; without a text there is none.

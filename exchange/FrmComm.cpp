@@ -1,14 +1,17 @@
 // The exchange dialog's controls and handlers.
 #include "exchange/FrmComm.h"
 
+#include "customers/DataOwner.h"
 #include "exchange/ExchangeRunner.h"
 #include "link/ResultCodes.h"
+#include "platform/RuntimeFailure.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 #include "ui/StatusLine.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QShowEvent>
@@ -25,16 +28,36 @@ constexpr std::array<int, 4> columnStarts{0, 13, 26, boxCount};
 /// Room between the columns, in device-independent pixels.
 constexpr int columnGap = 2 * ui::spacing::groupGap;
 
+/// What is wrong with the settings is reported when OK is pressed.
+QString registersOf(const ApplicationValues& values)
+{
+    try {
+        return link::registersInWords(link::readLinkSettings(values));
+    } catch (const RuntimeFailure&) {
+        return u"the registers"_s;
+    }
+}
+
 } // namespace
 
 FrmComm::FrmComm(QString exchangeMode, const ApplicationValues& values, Boxes& boxes, QWidget* parent)
-    : LinkForm("FrmComm", "&OK", values, boxes, parent), m_exchangeMode(std::move(exchangeMode))
+    : LinkForm("FrmComm", "&OK", values, boxes, parent), m_exchangeMode(std::move(exchangeMode)),
+      m_way(new QLabel(this))
 {
     setModal(true);
+    m_way->setObjectName(u"Way"_s);
+    m_way->setTextFormat(Qt::PlainText);
+    m_way->setWordWrap(true);
+    // A long name of a customer must not widen the dialog.
+    m_way->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     buildBoxes();
     CSCmdBtn2 = addButton("CSCmdBtn2", "&Select All");
     connect(CSCmdBtn2, &QPushButton::clicked, this, &FrmComm::selectAll);
-    layOut(columnsOfBoxes(), {CSCmdBtn2});
+    auto* const content = new QVBoxLayout;
+    content->setSpacing(ui::spacing::groupGap);
+    content->addWidget(m_way);
+    content->addLayout(columnsOfBoxes());
+    layOut(content, {CSCmdBtn2});
     check1.front()->setFocus();
 }
 
@@ -66,8 +89,40 @@ QLayout* FrmComm::columnOfBoxes(int first, int end) const
     return column;
 }
 
+bool FrmComm::isUpload() const
+{
+    return m_exchangeMode == "UPLOAD"_L1;
+}
+
+void FrmComm::showWay()
+{
+    m_way->setText(wayInWords());
+    QFont font = m_way->font();
+    font.setBold(customers::isDataOfAnother(m_values));
+    m_way->setFont(font);
+}
+
+QString FrmComm::wayInWords() const
+{
+    const QString owner = customers::ownerOfData(m_values).customerName;
+    const QString chosen = customers::ofChosenCustomer(m_values);
+    return isUpload() ? u"From register 1%1 to the tables of %2"_s.arg(chosen, owner)
+                      : u"From the tables of %1 to %2%3"_s.arg(owner, registersOf(m_values), chosen);
+}
+
+bool FrmComm::mayStart()
+{
+    return customers::mayUseOpenData(
+        m_values, m_boxes,
+        isUpload()
+            ? u"The upload would replace the tables of %1 with those of a register of %2, and keep the "
+              u"files of the register for %2."_s
+            : u"The download would send the tables of %1 to the registers of %2."_s);
+}
+
 void FrmComm::showEvent(QShowEvent* event)
 {
+    showWay();
     if (!event->spontaneous())
         tellUnfinishedExchange(m_values, m_boxes);
     LinkForm::showEvent(event);
@@ -114,11 +169,6 @@ void FrmComm::runSequence(ExchangeRunner& runner)
     } else {
         runner.downloaddata();
     }
-}
-
-bool FrmComm::isUpload() const
-{
-    return m_exchangeMode == "UPLOAD"_L1;
 }
 
 QString FrmComm::leavingNotice() const

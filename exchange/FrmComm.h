@@ -7,6 +7,7 @@
 #include <array>
 
 class QCheckBox;
+class QLabel;
 
 namespace norvane::exchange
 {
@@ -24,13 +25,17 @@ public:
     FrmComm(QString exchangeMode, const ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
 protected:
+    [[nodiscard]] bool mayStart() override;
     void run() override;
     [[nodiscard]] QString leavingNotice() const override;
     /// Tells first what the last exchange left undone.
     void showEvent(QShowEvent* event) override;
 
 private:
+    [[nodiscard]] bool isUpload() const;
     void buildBoxes();
+    void showWay();
+    [[nodiscard]] QString wayInWords() const;
     [[nodiscard]] QLayout* columnsOfBoxes() const;
     [[nodiscard]] QLayout* columnOfBoxes(int first, int end) const;
 
@@ -38,12 +43,12 @@ private:
     void exchange();
     void noteSerialPort();
     void runSequence(ExchangeRunner& runner);
-    [[nodiscard]] bool isUpload() const;
 
     [[nodiscard]] bool isTicked(int box) const override;
     void setTicked(int box, bool ticked) override;
 
     QString m_exchangeMode;
+    QLabel* m_way; ///< between whose tables and which registers
     std::array<QCheckBox*, boxCount> check1{};
     QPushButton* CSCmdBtn2 = nullptr;
 };

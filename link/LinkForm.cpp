@@ -86,7 +86,7 @@ void LinkForm::tabToButtonsLast(const QList<QPushButton*>& others)
 
 void LinkForm::communicate()
 {
-    if (m_work != Work::None)
+    if (m_work != Work::None || !mayStart())
         return;
     m_lock = customers::RunLock::take(m_values, m_boxes);
     if (m_lock == nullptr)

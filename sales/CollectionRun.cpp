@@ -3,6 +3,7 @@
 
 #include "base/SharedRoutines.h"
 #include "customers/CustomerLog.h"
+#include "customers/DataOwner.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
 #include "sales/PollStamp.h"
@@ -105,7 +106,8 @@ bool CollectionRun::collect()
 
 void CollectionRun::loggedCall()
 {
-    customers::LoggedWork work(m_values.customerPath, u"collection"_s, link::registersInWords(m_link),
+    customers::LoggedWork work(customers::ownerOfData(m_values).customerPath, u"collection"_s,
+                               link::registersInWords(m_link) + customers::ofChosenCustomer(m_values),
                                m_outside.run.millisecondsOpen);
     work.during([this] { call(); },
                 [this](const QString& failure) {

@@ -1,6 +1,7 @@
 // The collection form's controls and the run behind its button.
 #include "sales/FrmsalesComm.h"
 
+#include "customers/DataOwner.h"
 #include "sales/CollectionRun.h"
 #include "ui/Appearance.h"
 
@@ -29,6 +30,13 @@ FrmsalesComm::FrmsalesComm(const ApplicationValues& values, Boxes& boxes, QWidge
     auto* content = new QVBoxLayout;
     content->addWidget(explanation);
     layOut(content);
+}
+
+bool FrmsalesComm::mayStart()
+{
+    return customers::mayUseOpenData(m_values, m_boxes,
+                                     u"The sales of the registers of %2 would be stored as sales of %1, and "
+                                     u"the registers would then be cleared."_s);
 }
 
 void FrmsalesComm::run()

@@ -16,6 +16,7 @@ public:
     FrmsalesComm(const ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
 protected:
+    [[nodiscard]] bool mayStart() override;
     void run() override;
     [[nodiscard]] QString leavingNotice() const override;
 };

@@ -1,6 +1,7 @@
 // Menu handlers and child windows; see FrmMain.h.
 #include "shell/FrmMain.h"
 
+#include "customers/DataOwner.h"
 #include "paper/Length.h"
 #include "platform/FailureBox.h"
 #include "platform/FilePaths.h"
@@ -12,8 +13,6 @@
 #include "ui/WaitPointer.h"
 
 #include <QCloseEvent>
-#include <QDir>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -241,8 +240,8 @@ void FrmMain::showCustomer()
 
 void FrmMain::showDataInUse()
 {
-    const QDir folder = QFileInfo(m_values.databasePath).dir();
-    StatusBar1->setDataInUse(folder == QDir(m_values.customerPath) ? QString() : folder.dirName());
+    const bool isOfAnother = customers::isDataOfAnother(m_values);
+    StatusBar1->setDataInUse(isOfAnother ? customers::ownerOfData(m_values).customerName : QString());
 }
 
 void FrmMain::unload()

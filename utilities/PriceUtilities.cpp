@@ -4,6 +4,7 @@
 #include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
 #include "customers/CustomerLog.h"
+#include "customers/DataOwner.h"
 #include "customers/RunLock.h"
 #include "customers/SafetyCopies.h"
 #include "platform/Excerpt.h"
@@ -171,7 +172,9 @@ QString PriceRun::wayBack() const
 /// Asks without the lock, since the user may be away.
 bool PriceRun::isWanted()
 {
-    if (!m_boxes.ask(m_utility.confirm.text, m_utility.confirm.title, BoxIcon::Question, BoxAnswer::No))
+    if (!m_boxes.ask(m_utility.confirm.text, m_utility.confirm.title, BoxIcon::Question, BoxAnswer::No) ||
+        !customers::mayUseOpenData(m_values, m_boxes,
+                                   u"The tables of %1 would be changed, not those of %2."_s))
         return false;
     if (m_utility.fields.empty())
         return true;

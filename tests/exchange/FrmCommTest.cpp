@@ -10,6 +10,7 @@
 #include "tests/support/LinkFormTest.h"
 
 #include <QCheckBox>
+#include <QLabel>
 
 namespace norvane::exchange
 {
@@ -100,6 +101,44 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndAsksBeforeTheFormerResultCounts)
     EXPECT_EQ(status(), "The program VELMARCOMM was not found.");
     EXPECT_EQ(readWholeFile(kept(43)), bytes) << "the only copy stays when nothing came";
     EXPECT_FALSE(box(11).isChecked());
+}
+
+/// As after a change of customer: the tables of the former shop are still open.
+TEST_F(FrmCommTest, AsksBeforeItFillsTheTablesOfAnotherCustomer)
+{
+    const auto way = [this] {
+        return form.findChild<QLabel*>(u"Way"_s)->text();
+    };
+    EXPECT_EQ(way(), u"From register 1 to the tables of Corner Shop");
+    const ApplicationValues other = folder.makeCustomer(u"Other Shop"_s);
+    values.databasePath = other.databasePath;
+    form.hide();
+    form.show();
+    EXPECT_EQ(way(), u"From register 1 of Corner Shop to the tables of Other Shop");
+    box(2).setChecked(true);
+    upload();
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    const test::ShownBox asked = boxes.shown[0];
+    EXPECT_TRUE(asked.text.startsWith(u"The open database is that of Other Shop, but the customer chosen is "
+                                      u"Corner Shop.\r\rThe upload would replace the tables of Other Shop"))
+        << asked.text.toStdString();
+    EXPECT_EQ(asked, (test::ShownBox{asked.text, u"Please Check"_s, BoxIcon::Question, BoxAnswer::No}));
+    EXPECT_FALSE(pathExists(folder.appFile(u"status.out"_s)));
+
+    boxes.answers = {true};
+    upload();
+    EXPECT_FALSE(box(2).isChecked());
+    EXPECT_GT(store::Database(other.databasePath).openTable(u"GROUPS"_s).recordCount(), 0);
+    EXPECT_TRUE(pathExists(kept(1)));
+    EXPECT_FALSE(customers::lastLogged(values.customerPath, {u"upload"_s}));
+    const auto logged = customers::lastLogged(other.customerPath, {u"upload"_s});
+    EXPECT_EQ(logged ? logged->registers : QString(), u"register 1 of Corner Shop"_s);
+    {
+        const auto run = FolderLock::take(other.customerPath, boxes);
+        boxes.answers = {true};
+        upload();
+        EXPECT_TRUE(boxes.shown.back().text.startsWith("Nothing was started"_L1));
+    }
 }
 
 TEST_F(FrmCommTest, EndsTheFileInWorkWhenLeftInTheMidst)

@@ -138,6 +138,26 @@ TEST_F(FrmsalesCommTest, EndsAtAResultThatIsNotAccepted)
                         u"still to do: clear the registers");
 }
 
+TEST_F(FrmsalesCommTest, AsksBeforeItStoresSalesWithThoseOfAnotherCustomer)
+{
+    const ApplicationValues other = folder.makeCustomer(u"Other Shop"_s);
+    values.databasePath = other.databasePath;
+    collect();
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_TRUE(boxes.shown[0].text.contains(
+        u"The sales of the registers of Corner Shop would be stored as sales of Other Shop"_s))
+        << boxes.shown[0].text.toStdString();
+    EXPECT_EQ(boxes.shown[0].preset, BoxAnswer::No);
+    EXPECT_EQ(rows(), 0);
+    EXPECT_TRUE(registersHoldSales());
+
+    boxes.answers = {true};
+    collect();
+    EXPECT_EQ(rows(), rowsOfDay);
+    const auto logged = customers::lastLogged(other.customerPath, {u"collection"_s});
+    EXPECT_EQ(logged ? logged->registers : QString(), u"registers 1 to 2 of Corner Shop"_s);
+}
+
 TEST_F(FrmsalesCommTest, CollectsSalesThatWait)
 {
     collect("Command=collect\nResult=8");

@@ -93,6 +93,27 @@ protected:
     FrmMain m_main;
 };
 
+/// As after a change of customer: the tables of the former shop are still open.
+TEST_F(PriceUtilitiesTest, AsksBeforeItChangesThePricesOfAnotherCustomer)
+{
+    makeCustomerDatabase();
+    addPlu(1, u"'1.00', '2.00', '3', '4', '5', '6', '7', '8', '9', '0'"_s);
+    const std::string before = prices();
+    m_folder.write("app/Bistro/setup.ini", "");
+    m_values.customerName = u"Bistro"_s;
+    m_values.customerPath = m_folder.path("app/Bistro");
+    const QStringList boxes = choose("ResetPrice");
+    ASSERT_EQ(boxes.size(), 2);
+    EXPECT_TRUE(
+        boxes[1].startsWith(u"Please Check: The open database is that of Cafe, but the customer chosen is "
+                            u"Bistro.\r\rThe tables of Cafe would be changed, not those of Bistro."_s))
+        << boxes[1].toStdString();
+    EXPECT_EQ(prices(), before);
+    m_boxes.answers = {true, true};
+    action("ResetPrice").trigger();
+    EXPECT_NE(prices(), before);
+}
+
 const QStringList toEuroBoxes{toEuro, rateBox, converted};
 const QString partOfRate = u"Please Check: \"1,5\" counts as 1.\r\rConvert at the rate 1?"_s;
 const QStringList fromEuroBoxes{fromEuro, converted};
