@@ -7,6 +7,7 @@
 #include "customers/SafetyCopies.h"
 #include "exchange/MemoryFile.h"
 #include "exchange/MoveDataFile.h"
+#include "exchange/PluPoints.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
 #include "link/RunNotes.h"
@@ -16,7 +17,6 @@
 #include "store/Recordset.h"
 
 #include <QFileInfo>
-#include <QScopeGuard>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,13 +34,6 @@ const QString oldFileFetched =
     u"It would be taken as what the register sent, though it may be an old file or another customer's."_s;
 const QString oldResultOfSend =
     u"An old result would count, and the file as sent, though the registers may not have it."_s;
-
-QString pointsQuestion()
-{
-    return u"The PLUs were uploaded, but the upload of their points did not follow. The points would go to "
-           u"the registers as they are here, and those that the registers hold would be lost.\r\r"
-           u"To keep them, answer No and upload Smartcard PLU Points first.\r\rSend all the same?"_s;
-}
 
 QString dataFile(int file)
 {
@@ -67,7 +60,11 @@ ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::Link
                                                       return convert(conversion);
                                                   },
                                                   [this](int file, const std::function<void()>& commit) {
-                                                      storeImport(file, commit);
+                                                      if (file == pluFile) {
+                                                          storePlusWithoutPoints(m_values, commit);
+                                                      } else {
+                                                          commit();
+                                                      }
                                                   }}
 {
 }
@@ -259,21 +256,6 @@ bool ExchangeRunner::importFile(int file)
     return true;
 }
 
-/// The PLUs that are stored have no points. Noted ahead of the commit, so that a program that is killed
-/// between the two asks once too often rather than never.
-void ExchangeRunner::storeImport(int file, const std::function<void()>& commit)
-{
-    if (file != pluFile) {
-        commit();
-        return;
-    }
-    const PluPoints before = notedPluPoints(m_values);
-    notePluPoints(m_values, PluPoints::Wait);
-    auto notStored = qScopeGuard([&] { notePluPoints(m_values, before); });
-    commit();
-    notStored.dismiss();
-}
-
 bool ExchangeRunner::downloadRow(const DownloadRow& row)
 {
     showStep("Download", row.box, row.file);
@@ -317,7 +299,7 @@ bool ExchangeRunner::mayTouchPoints(int file)
     const bool clearsPoints = file == pluFile || file == pluPointsFile;
     if (!clearsPoints || m_givesUpPoints || !hasSmartCards() || !pluPointsWait(m_values))
         return true;
-    if (!askBeforeLoss(m_outside.boxes, pointsQuestion(), "overwrite-points"_L1)) {
+    if (!mayLosePoints(m_outside.boxes)) {
         link::tellEndedByAnswer(m_outside);
         return false;
     }

@@ -63,7 +63,6 @@ private:
     void keepForCustomer(const QString& name);
     void untickWithoutSmartCards();
     [[nodiscard]] bool importFile(int file);
-    void storeImport(int file, const std::function<void()>& commit);
     [[nodiscard]] bool mayTouchPoints(int file);
     [[nodiscard]] bool sendFile(const DownloadRow& row, bool fromTable);
     void notePluCount();

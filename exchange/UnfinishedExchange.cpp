@@ -2,11 +2,8 @@
 #include "exchange/UnfinishedExchange.h"
 
 #include "base/LossQuestion.h"
-#include "customers/DataOwner.h"
 #include "exchange/ExchangeBoxes.h"
 #include "link/RunNotes.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
 
 #include <QStringList>
 
@@ -20,9 +17,6 @@ namespace
 constexpr auto section = "Exchange"_L1;
 /// "UPLOAD 2026-11-24T18:03:11 0,4,36"
 constexpr auto unfinishedKey = "Unfinished"_L1;
-constexpr auto pointsKey = "PLUPointsWait"_L1;
-constexpr auto waitWord = "1"_L1;
-constexpr auto fetchedWord = "0"_L1;
 constexpr auto uploadWord = "UPLOAD"_L1;
 
 QString directionWord(Direction direction)
@@ -48,11 +42,6 @@ QList<int> boxesOf(const QString& numbers)
             boxes << box;
     }
     return boxes;
-}
-
-qint64 recordCount(store::Database& database, const QString& query)
-{
-    return database.openQuery(query).recordCount();
 }
 
 } // namespace
@@ -85,36 +74,6 @@ void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes)
         u"To finish it, tick these boxes for the %1."_s.arg(
             direction, exchange->started.toString(u"dd/MM/yyyy HH:mm"_s), boxNames(exchange->boxes)),
         pleaseCheck, BoxIcon::Exclamation);
-}
-
-PluPoints notedPluPoints(const ApplicationValues& values)
-{
-    const QString word = link::readNote(customers::ownerOfData(values), section, pointsKey);
-    if (word.isEmpty())
-        return PluPoints::Unknown;
-    return word == fetchedWord ? PluPoints::Fetched : PluPoints::Wait;
-}
-
-void notePluPoints(const ApplicationValues& values, PluPoints points)
-{
-    if (points == notedPluPoints(values))
-        return;
-    const QString word = points == PluPoints::Wait ? QString(waitWord) : QString(fetchedWord);
-    link::writeNote(customers::ownerOfData(values), section, pointsKey,
-                    points == PluPoints::Unknown ? QString() : word);
-}
-
-/// A fetch of the PLUs leaves their points empty. So they are in a PLU that was added by hand, but then not
-/// in all.
-bool pluPointsWait(const ApplicationValues& values)
-{
-    const PluPoints noted = notedPluPoints(values);
-    if (noted == PluPoints::Unknown)
-        return false;
-    store::Database database(values.databasePath);
-    const qint64 without = recordCount(database, u"select POINT1 from PLUDATA where POINT1 is null"_s);
-    return without > 0 &&
-           (noted == PluPoints::Wait || without == recordCount(database, u"select POINT1 from PLUDATA"_s));
 }
 
 } // namespace norvane::exchange

@@ -27,19 +27,4 @@ void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exc
 /// Tells which boxes of the last exchange are still to do, and since when; nothing when there are none.
 void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes);
 
-/// What the runs know about the points of the PLUs in a database.
-enum class PluPoints {
-    Unknown, ///< never fetched, or given up
-    Wait,    ///< the PLUs were fetched and the points not yet
-    Fetched,
-};
-
-/// Remembered for the customer whose database is open.
-[[nodiscard]] PluPoints notedPluPoints(const ApplicationValues& values);
-void notePluPoints(const ApplicationValues& values, PluPoints points);
-
-/// Whether the points have to be fetched before the PLUs are sent. Follows the table, which a safety copy may
-/// have put back: with its points, or as it was while they waited.
-[[nodiscard]] bool pluPointsWait(const ApplicationValues& values);
-
 } // namespace norvane::exchange
