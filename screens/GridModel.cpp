@@ -134,7 +134,8 @@ void GridModel::readAgain(int rows)
     m_records = m_database->openQuery(m_query);
     m_total = static_cast<int>(m_records->recordCount());
     m_texts.clear();
-    shrinkTo(qMin(rows, m_total));
+    // In whole batches, as they were read: the scroll bar would tell a short table otherwise.
+    shrinkTo(qMin((rows / rowsAtATime + 1) * rowsAtATime, m_total));
     for (int row = 0; row < rowCount(); ++row)
         m_rows[static_cast<std::size_t>(row)] = readRow(row);
     if (rowCount() > 0)

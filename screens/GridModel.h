@@ -37,8 +37,8 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
-    /// Reads again, as they stand in the file now, the first @p rows of those that were read; the others are
-    /// read when they are needed. Leaves them as they are when the file cannot be read.
+    /// Reads again, as they stand in the file now, the first @p rows or somewhat more of those that were
+    /// read; the others are read when they are needed. Leaves them as they are when the file cannot be read.
     /// @param current a row, or -1. @return where the record of @p current stands now.
     [[nodiscard]] int reread(int rows, int current);
     /// The next row with @p part in its first two columns, in any case of letters, from row @p from on and

@@ -114,6 +114,7 @@ TEST_F(GridTest, RowsAreReadAgainAndTheCurrentOneStaysTheSameRecord)
     const auto scrolled = [&] {
         return grid->verticalScrollBar()->value();
     };
+    EXPECT_EQ(grid->model()->rowCount(), 200) << "also after the window came to the front";
     type(form, "GridFind", "600");
     const int top = scrolled();
     execute("update PLUDATA set PRICE1 = '9'");
