@@ -15,7 +15,7 @@ namespace
 QString wayOut(const RuntimeFailure& failure)
 {
     return failure.failure() == Failure::DatabaseLocked
-               ? u" Wait until the other program has finished, or close it, and save again."_s
+               ? u"Wait until the other program has finished, or close it, and save again. "_s
                : QString();
 }
 
@@ -27,7 +27,7 @@ bool saveOrTell(Boxes& boxes, const std::function<void()>& save)
         save();
         return true;
     } catch (const RuntimeFailure& failure) {
-        boxes.message(failure.text() + wayOut(failure) + u"\r\rThe changes are still here and not lost."_s,
+        boxes.message(failure.text() + u"\r\r"_s + wayOut(failure) + u"The changes are still here."_s,
                       QString(pleaseCheck), BoxIcon::Exclamation);
         return false;
     }
