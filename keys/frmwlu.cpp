@@ -316,10 +316,11 @@ void frmwlu::closeEvent(QCloseEvent* event)
 void frmwlu::selectwlu_Click(int row)
 {
     const QString number = m_picker->itemData(row).toString();
-    if (mayLeave())
+    if (mayLeave()) {
         goTo(number);
-    else
+    } else {
         m_picker->showRecord(m_records.storedNumber());
+    }
 }
 
 void frmwlu::goTo(const QString& number)
