@@ -8,6 +8,7 @@
 #include "link/Modem.h"
 #include "link/ResultCodes.h"
 #include "sales/CollectionRun.h"
+#include "sales/UnclearedSales.h"
 
 #include <QScopeGuard>
 
@@ -125,6 +126,14 @@ void exchangeWith(const Workplace& workplace, const Invocation& words, exchange:
         throw CommandError(runner.lacksCopy() ? ExitCode::Unwritable : ExitCode::Stopped, {});
 }
 
+/// The option that answers Yes to the question of the next collection; empty when it would ask nothing.
+QString clearHint(const ApplicationValues& values)
+{
+    if (!sales::mayBeCleared(sales::unclearedCollection(values)))
+        return {};
+    return u"\"collect --clear-first\" clears them at the registers and then collects what was sold since."_s;
+}
+
 } // namespace
 
 void fetch(const Workplace& workplace, const Invocation& words)
@@ -145,8 +154,9 @@ void collect(const Workplace& workplace, const Invocation& words)
     sales::CollectionRun run(values, {.connectLink = [&line](const auto& link) { return line.connect(link); },
                                       .disconnectLink = [&line] { line.disconnect(); },
                                       .run = outsideOf(workplace, values)});
-    if (!run.collect())
-        throw CommandError(ExitCode::Stopped, {});
+    const auto clearFirst = words.has("clear-first"_L1) ? sales::ClearFirst::Yes : sales::ClearFirst::Ask;
+    if (!run.collect(clearFirst))
+        throw CommandError(ExitCode::Stopped, clearHint(values));
 }
 
 } // namespace norvane::command

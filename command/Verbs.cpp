@@ -27,6 +27,9 @@ constexpr auto sendOptions = std::to_array<OptionDefinition>({
      {},
      "send PLUs also when their points were not uploaded; the registers lose the points that they hold"_L1},
 });
+constexpr auto collectOptions = std::to_array<OptionDefinition>({
+    {"clear-first"_L1, {}, "first clear sales that are stored and were not cleared at all registers"_L1},
+});
 constexpr auto reportOptions = std::to_array<OptionDefinition>({
     {"period"_L1, "PERIOD"_L1, "day, week, month or year: the period that ends today"_L1},
     {"day"_L1, "DAY"_L1, "the sales of one day: 2026-11-25"_L1},
@@ -53,7 +56,7 @@ constexpr auto all = std::to_array<Verb>({
      "Uploads from register 1 what the boxes name, as the exchange dialog does; without a box, all of it."_L1, fetch},
     {"send"_L1, "CUSTOMER [BOX...]"_L1, 1, -1, sendOptions,
      "Downloads to all registers what the boxes name; without a box, all of it."_L1, send},
-    {"collect"_L1, "CUSTOMER"_L1, 1, 1, {}, "Collects the sales of all registers, stores them and clears them there."_L1, collect},
+    {"collect"_L1, "CUSTOMER"_L1, 1, 1, collectOptions, "Collects the sales of all registers, stores them and clears them there."_L1, collect},
     {"report"_L1, "CUSTOMER NAME"_L1, 2, 2, reportOptions,
      "Writes a report: plusales, finsales, clerksales, timesales, mixsales, pluprice or any layout of the program's folder."_L1, report},
     {"plus"_L1, "CUSTOMER export|import FILE"_L1, 3, 3, plusOptions,

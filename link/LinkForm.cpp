@@ -86,10 +86,7 @@ void LinkForm::tabToButtonsLast(const QList<QPushButton*>& others)
 
 void LinkForm::communicate()
 {
-    if (m_work != Work::None || !mayStart())
-        return;
-    m_lock = customers::RunLock::take(m_values, m_boxes);
-    if (m_lock == nullptr)
+    if (m_work != Work::None || !mayStart() || !takeLock())
         return;
     beginRun();
     bool leavesNow = false;
@@ -99,6 +96,12 @@ void LinkForm::communicate()
     }
     if (leavesNow)
         leave();
+}
+
+bool LinkForm::takeLock()
+{
+    m_lock = customers::RunLock::take(m_values, m_boxes);
+    return m_lock != nullptr;
 }
 
 void LinkForm::beginRun()
@@ -189,6 +192,7 @@ RunOutside LinkForm::outside()
             .goOn = [this] { return !m_exitPressed; },
             .boxes = m_timedBoxes,
             .beforeLastBox = [this] { endBeforeLastBox(); },
+            .beginAgain = [this] { return takeLock(); },
             .millisecondsOpen =
                 [this] {
                     return m_timedBoxes.millisecondsOpen();

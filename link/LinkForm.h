@@ -95,6 +95,7 @@ private:
     [[nodiscard]] QHBoxLayout* buttonRow(const QList<QPushButton*>& others) const;
     void tabToButtonsLast(const QList<QPushButton*>& others);
     void communicate();
+    [[nodiscard]] bool takeLock();
     void beginRun();
     [[nodiscard]] bool endRun();
     [[nodiscard]] int dial();

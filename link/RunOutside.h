@@ -28,6 +28,11 @@ struct RunOutside {
     /// night, so the call and the lock of the run end here.
     std::function<void()> beforeLastBox = [] {
     };
+    /// Called when the answer to a box after beforeLastBox() goes on with the run. @return false when another
+    /// run is at work; the user was told then.
+    std::function<bool()> beginAgain = [] {
+        return true;
+    };
     /// For how long the boxes have been open, which is not counted as work.
     std::function<qint64()> millisecondsOpen = [] {
         return qint64{0};

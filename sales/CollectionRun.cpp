@@ -1,12 +1,14 @@
 // The steps of a collection as a table, and the run over them; see CollectionRun.h.
 #include "sales/CollectionRun.h"
 
+#include "base/LossQuestion.h"
 #include "base/SharedRoutines.h"
 #include "customers/CustomerLog.h"
 #include "customers/DataOwner.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
 #include "sales/PollStamp.h"
+#include "sales/UnclearedSales.h"
 
 #include <QDate>
 #include <QScopeGuard>
@@ -31,6 +33,9 @@ constexpr const char* asIfConsolidated =
     "The collection would go on as if the registers had made up their reports.";
 constexpr const char* olderSales = "Older sales would be stored as those of today, and the registers would "
                                    "then be cleared: what they sold would be lost.";
+constexpr const char* asIfFormerCleared =
+    "The collection would go on as if the registers were cleared. The sales that they still hold would be "
+    "counted twice.";
 constexpr const char* asIfCleared = "The collection would end as successful, though the registers may hold "
                                     "the sales still and hand them over again.";
 
@@ -78,6 +83,8 @@ const CollectionRun::ToolStep CollectionRun::stepsAheadOfImport[] = {
      " P0001010100010000000000000000000000000000000000000000000100 -Z"_L1,         true,  false, asIfConsolidated},
     {"Collect Report Files", link::salesLine,        " -P 190 191 192 194 218"_L1,  false, true,  olderSales},
 };
+const CollectionRun::ToolStep CollectionRun::clearingFormer =
+    {"Clear Data at ECR",    link::salesLine,        " -C"_L1,                      false, false, asIfFormerCleared};
 const CollectionRun::ToolStep CollectionRun::clearing =
     {"Clear Data at ECR",    link::salesLine,        " -C"_L1,                      false, false, asIfCleared};
 // clang-format on
@@ -87,33 +94,65 @@ CollectionRun::CollectionRun(const ApplicationValues& values, CollectionOutside 
 {
 }
 
-bool CollectionRun::collect()
+bool CollectionRun::collect(ClearFirst clearFirst)
 {
     // Called because it makes an empty poll194.dll when there is none.
     (void)ReadPoll194Stamp(m_values);
     m_link = link::readLinkSettings(m_values);
-    m_ended = m_isStored = m_isCleared = false;
+    m_isStored = m_isCleared = false;
     m_origin = ReportOrigin::ThisRun;
+    loggedCall([&] {
+        if (mayBegin(clearFirst))
+            call();
+    });
+    while (mayClearAgain())
+        loggedCall([this] { call(); });
+    return m_isCleared;
+}
+
+/// Asks about sales that an earlier collection stored and did not clear at all registers.
+bool CollectionRun::mayBegin(ClearFirst clearFirst)
+{
+    m_tasks = {Task::Collect, Task::Clear};
+    m_place = u"the question about sales that were not cleared"_s;
+    const auto former = unclearedCollection(m_values);
+    if (!former)
+        return true;
+    // The step of the run before would look like one of this run.
+    m_outside.run.showStep({});
+    Boxes& boxes = m_outside.run.boxes;
+    if (mayBeCleared(former) &&
+        (clearFirst == ClearFirst::Yes || askBeforeLoss(boxes, clearFirstQuestion(*former)))) {
+        m_tasks.prepend(Task::ClearFormer);
+        return true;
+    }
+    const bool begins = askBeforeLoss(boxes, countTwiceQuestion(*former));
+    if (!begins)
+        link::tellEndedByAnswer(m_outside.run);
+    return begins;
+}
+
+/// One call with its line in the log, and then the box about a step that failed.
+void CollectionRun::loggedCall(const std::function<void()>& makeCall)
+{
+    m_ended = false;
     m_failed.reset();
-    m_place = u"the call"_s;
-    loggedCall();
+    logCall(makeCall);
     if (m_failed) {
         m_outside.run.beforeLastBox();
         m_outside.run.boxes.message(link::resultText(*m_failed, m_dialResult), u"Communications Error"_s);
     }
-    return m_isCleared;
 }
 
-void CollectionRun::loggedCall()
+void CollectionRun::logCall(const std::function<void()>& makeCall)
 {
     customers::LoggedWork work(customers::ownerOfData(m_values).customerPath, u"collection"_s,
                                link::registersInWords(m_link) + customers::ofChosenCustomer(m_values),
                                m_outside.run.millisecondsOpen);
-    work.during([this] { call(); },
-                [this](const QString& failure) {
-                    // What was read before the failure may have been kept.
-                    return stoppedText(failure, u"the registers were not cleared"_s);
-                });
+    work.during(makeCall, [this](const QString& failure) {
+        // What was read before the failure may have been kept.
+        return stoppedText(failure, u"the registers were not cleared"_s);
+    });
     work.setResult(m_isCleared ? u"complete"_s : stoppedText(whyStopped(), u"nothing stored"_s));
 }
 
@@ -132,8 +171,25 @@ QString CollectionRun::stoppedText(const QString& reason, const QString& beforeS
     return u"stopped at %1: %2; %3"_s.arg(m_place, reason, m_isStored ? stored : beforeStoring);
 }
 
+/// Asks after a clear that failed. A user who has left is asked at the next collection. While the question
+/// waits other runs may start, and one of them may have collected what a clear would lose.
+bool CollectionRun::mayClearAgain() const
+{
+    const bool clears = !m_tasks.isEmpty() && m_tasks.front() != Task::Collect;
+    if (!clears || !m_outside.run.goOn() || !mayBeCleared(unclearedCollection(m_values)))
+        return false;
+    m_outside.run.beforeLastBox();
+    if (!askBeforeLoss(m_outside.run.boxes, clearAgainQuestion()) || !m_outside.run.beginAgain())
+        return false;
+    const bool isStillSafe = mayBeCleared(unclearedCollection(m_values));
+    if (!isStillSafe)
+        m_outside.run.showNotice(u"Another run was at work since. Nothing was cleared."_s);
+    return isStillSafe;
+}
+
 void CollectionRun::call()
 {
+    m_place = u"the call"_s;
     m_dialResult = m_outside.connectLink(m_link);
     // A user who left while the modem dialled has hung up already.
     if (!m_outside.run.goOn())
@@ -148,25 +204,43 @@ std::optional<int> CollectionRun::resultOfCall()
     return failedResult();
 }
 
-/// All steps. @return the result that stopped them, nothing when they went through or the user left.
+/// All tasks that are left. @return the result that stopped them, nothing when they went through or the user
+/// left.
 std::optional<int> CollectionRun::failedResult()
 {
     // No step has a result yet.
     if (m_dialResult == link::modemFailed)
         return 0;
-    if (const auto failed = fetchReports(); failed || m_ended)
-        return failed;
+    while (!m_tasks.isEmpty()) {
+        if (const auto failed = carryOut(m_tasks.front()); failed || m_ended)
+            return failed;
+        m_tasks.removeFirst();
+    }
+    m_outside.run.showStep(u"Communications Successful...."_s);
+    return std::nullopt;
+}
+
+std::optional<int> CollectionRun::carryOut(Task task)
+{
+    if (task != Task::Collect)
+        return clearRegisters(task == Task::Clear ? clearing : clearingFormer);
+    const auto failed = fetchReports();
+    return failed || m_ended ? failed : storeSales();
+}
+
+std::optional<int> CollectionRun::storeSales()
+{
     m_outside.run.showStep(u"Parse data...."_s);
     m_place = u"Parse data"_s;
     if (sendsDescriptions())
         return link::descriptionsPolled;
-    if (!convertReports())
+    m_ended = !convertReports();
+    if (m_ended)
         return std::nullopt;
-    const Stored stored = importReports();
-    m_isStored = stored != Stored::Refused;
-    if (m_isStored)
-        return clearRegisters();
-    link::tellEndedByAnswer(m_outside.run);
+    m_isStored = importReports() != Stored::Refused;
+    m_ended = !m_isStored;
+    if (m_ended)
+        link::tellEndedByAnswer(m_outside.run);
     return std::nullopt;
 }
 
@@ -179,28 +253,35 @@ std::optional<int> CollectionRun::fetchReports()
     return std::nullopt;
 }
 
-/// Directly after the import: until the registers are cleared, another import would add the same sales again.
-std::optional<int> CollectionRun::clearRegisters()
+/// After an import directly: until the registers are cleared, another import would add the same sales again.
+std::optional<int> CollectionRun::clearRegisters(const ToolStep& step)
 {
-    const auto failed = runStep(clearing);
-    m_isCleared = !failed && !m_ended;
-    if (m_isCleared)
-        m_outside.run.showStep(u"Communications Successful...."_s);
+    const auto failed = runStep(step);
+    if (!failed && m_stepIsComplete) {
+        noteCleared(m_values);
+    } else {
+        noteClearFailed(m_values, failed);
+    }
+    m_isCleared = m_isStored && !failed && !m_ended;
     return failed;
 }
 
 std::optional<int> CollectionRun::runStep(const ToolStep& step)
 {
+    m_stepIsComplete = false;
     if (&step != &clearing && !m_outside.run.goOn()) {
         m_ended = true;
         return std::nullopt;
     }
     m_place = step.statusText != nullptr ? QString::fromLatin1(step.statusText) : u"the opening exchange"_s;
+    if (step.passesWaiting)
+        noteNewerSales(m_values);
     if (step.statusText != nullptr)
         m_outside.run.showStep(m_place);
     link::WatchedStep watched(m_outside.run, (step.leavesReports ? reportNames(reportFile) : QStringList()) +
                                                  QStringList{link::statusFile});
     watched.run(step.line(m_link, step.suffix));
+    m_stepIsComplete = watched.isComplete();
     const int result = link::resultNumber(m_outside.run.readStatus());
     if (result != 0 && !(step.passesWaiting && waits(result)))
         return result;

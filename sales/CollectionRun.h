@@ -6,6 +6,7 @@
 #include "link/WatchedStep.h"
 #include "sales/ReportStore.h"
 
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -23,10 +24,14 @@ struct CollectionOutside {
     link::RunOutside run;
 };
 
+/// What to do about sales of an earlier collection that are stored and not cleared at all registers.
+enum class ClearFirst { Ask, Yes };
+
 /// One run: consolidate at the registers, collect, import, clear at the registers. The registers are cleared
 /// only after all five imports, so a run that fails before loses nothing. A run that fails between import and
-/// clearing leaves the sales both in the tables and at the registers; a repeat is asked about. What a failed
-/// tool left is used only after a question; No ends the run.
+/// clearing leaves the sales both in the tables and at the registers. Then the user is asked whether to clear
+/// again, and the next run asks whether to clear first; see UnclearedSales.h. What a failed tool left is used
+/// only after a question; No ends the run.
 class CollectionRun
 {
 public:
@@ -36,27 +41,36 @@ public:
     CollectionRun& operator=(const CollectionRun&) = delete;
 
     /// Shows the result's text in a box when a step fails. A modem is always hung up first. The customer's
-    /// log gets a line.
+    /// log gets a line. @p clearFirst Yes answers the question about an earlier collection, as far as a clear
+    /// loses nothing.
     /// @return whether the sales were stored and the registers cleared.
     /// @throws RuntimeFailure 53 when status.out is missing, 13 when it holds no number or the model is none,
     /// 6 and 13 for link settings, and what storeReports() throws.
-    bool collect();
+    bool collect(ClearFirst clearFirst = ClearFirst::Ask);
 
 private:
     struct ToolStep;
+    /// What a call has to do.
+    enum class Task { ClearFormer, Collect, Clear };
     static const ToolStep stepsAheadOfImport[];
+    static const ToolStep clearingFormer;
     static const ToolStep clearing;
 
+    [[nodiscard]] bool mayBegin(ClearFirst clearFirst);
+    [[nodiscard]] bool mayClearAgain() const;
     [[nodiscard]] std::optional<int> resultOfCall();
     [[nodiscard]] std::optional<int> failedResult();
+    [[nodiscard]] std::optional<int> carryOut(Task task);
+    [[nodiscard]] std::optional<int> storeSales();
     [[nodiscard]] std::optional<int> fetchReports();
-    [[nodiscard]] std::optional<int> clearRegisters();
+    [[nodiscard]] std::optional<int> clearRegisters(const ToolStep& step);
     [[nodiscard]] std::optional<int> runStep(const ToolStep& step);
     [[nodiscard]] bool sendsDescriptions() const;
     [[nodiscard]] bool mayUse(const link::WatchedStep& step, bool hasReports, const QString& consequence);
     [[nodiscard]] bool convertReports();
     [[nodiscard]] Stored importReports() const;
-    void loggedCall();
+    void loggedCall(const std::function<void()>& makeCall);
+    void logCall(const std::function<void()>& makeCall);
     void call();
     [[nodiscard]] QString whyStopped() const;
     [[nodiscard]] QString stoppedText(const QString& reason, const QString& beforeStoring) const;
@@ -65,8 +79,10 @@ private:
     CollectionOutside m_outside;
     link::LinkSettings m_link;
     int m_dialResult = 0;
-    QString m_place;             ///< the step in progress, for the log
-    std::optional<int> m_failed; ///< the result that stopped the run
+    QString m_place;               ///< the step in progress, for the log
+    std::optional<int> m_failed;   ///< the result that stopped the run
+    QList<Task> m_tasks;           ///< those that are left, the next one first
+    bool m_stepIsComplete = false; ///< the last step's tool wrote what it has to
     bool m_isStored = false;
     bool m_isCleared = false;
     bool m_ended = false; ///< the user left, or does not want what a tool left

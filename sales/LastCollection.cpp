@@ -17,8 +17,12 @@ namespace
 {
 
 constexpr auto section = "Collection"_L1;
-/// "2026-11-24T18:03:11 612 <mark>": one line, so that no half of it is ever taken for the whole.
+/// "2026-11-24T18:03:11 612 <mark>", and while the registers are not cleared also the result of clearing them
+/// ("8", or "none") and "more" when they hold more than was stored. One line, so that no half of it is ever
+/// taken for the whole.
 constexpr auto storedKey = "Stored"_L1;
+constexpr auto noResult = "none"_L1;
+constexpr auto moreWord = "more"_L1;
 /// "118 320 24 10 3776": as many as there are reports.
 constexpr auto recordsKey = "Records"_L1;
 
@@ -32,6 +36,24 @@ void readRecords(const ApplicationValues& values, LastCollection& last)
     }
 }
 
+/// @p words behind the mark.
+std::optional<Uncleared> unclearedOf(const QStringList& words)
+{
+    if (words.isEmpty())
+        return std::nullopt;
+    bool isNumber = false;
+    const int result = words.front().toInt(&isNumber);
+    return Uncleared{isNumber ? std::optional(result) : std::nullopt, words.value(1) == moreWord};
+}
+
+QStringList wordsOf(const Uncleared& uncleared)
+{
+    QStringList words{uncleared.result ? QString::number(*uncleared.result) : QString(noResult)};
+    if (uncleared.holdsMore)
+        words << moreWord;
+    return words;
+}
+
 } // namespace
 
 LastCollection readLastCollection(const ApplicationValues& values)
@@ -41,14 +63,17 @@ LastCollection readLastCollection(const ApplicationValues& values)
     last.stored = QDateTime::fromString(words.value(0), Qt::ISODate);
     last.rowsOfDay = words.value(1).toLongLong();
     last.mark = words.value(2).toLatin1();
+    last.uncleared = unclearedOf(words.mid(3));
     readRecords(values, last);
     return last;
 }
 
 void noteLastCollection(const ApplicationValues& values, const LastCollection& collection)
 {
-    const QStringList words{collection.stored.toString(Qt::ISODate), QString::number(collection.rowsOfDay),
-                            QString::fromLatin1(collection.mark)};
+    QStringList words{collection.stored.toString(Qt::ISODate), QString::number(collection.rowsOfDay),
+                      QString::fromLatin1(collection.mark)};
+    if (collection.uncleared)
+        words << wordsOf(*collection.uncleared);
     link::writeNote(values, section, storedKey, words.join(u' '));
     QStringList counts;
     for (const qint64 count : collection.records)
@@ -78,6 +103,12 @@ qint64 rowsOfDay(store::Database& database, QDate day)
         rows += database.openQuery(count).value(0).toText().toLongLong();
     }
     return rows;
+}
+
+bool isStillStored(const LastCollection& collection, store::Database& database)
+{
+    return !collection.mark.isEmpty() &&
+           rowsOfDay(database, collection.stored.date()) >= collection.rowsOfDay;
 }
 
 } // namespace norvane::sales

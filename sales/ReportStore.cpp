@@ -41,6 +41,7 @@ private:
     [[nodiscard]] bool isRepeat() const;
     [[nodiscard]] bool mayStoreAgain() const;
     void note();
+    void noteUncleared();
 
     const ApplicationValues& m_values;
     Boxes& m_boxes;
@@ -57,8 +58,7 @@ private:
 ReportStore::ReportStore(const ApplicationValues& values, Boxes& boxes, QDate collected, ReportOrigin origin)
     : m_values(values), m_boxes(boxes), m_collected(collected), m_origin(origin),
       m_database(values.databasePath), m_transaction(m_database), m_last(readLastCollection(values)),
-      // Sales that were taken out of the tables since, or a database put back from a copy, are to be stored.
-      m_lastIsThere(!m_last.mark.isEmpty() && rowsOfDay(m_database, m_last.stored.date()) >= m_last.rowsOfDay)
+      m_lastIsThere(isStillStored(m_last, m_database))
 {
 }
 
@@ -73,6 +73,8 @@ Stored ReportStore::store()
     }
     if (outcome != Stored::Yes) {
         m_transaction.rollBack();
+        if (outcome == Stored::AlreadyThere)
+            noteUncleared();
         return outcome;
     }
     note();
@@ -153,7 +155,16 @@ void ReportStore::note()
 {
     m_this.stored = QDateTime(m_collected, QTime::currentTime());
     m_this.rowsOfDay = rowsOfDay(m_database, m_collected);
+    // After a tool that failed, what was stored need not be what the registers hold.
+    m_this.uncleared = Uncleared{.result = {}, .holdsMore = m_origin == ReportOrigin::InDoubt};
     noteLastCollection(m_values, m_this);
+}
+
+/// The registers have just sent what is stored already, and nothing else.
+void ReportStore::noteUncleared()
+{
+    m_last.uncleared = Uncleared{};
+    noteLastCollection(m_values, m_last);
 }
 
 } // namespace

@@ -32,8 +32,9 @@ customers=$("$shop" customers --json --folder "$folder") || exit 1
 names=$(printf '%s\n' "$customers" | sed -n 's/^ *"name": "\(.*\)",*$/\1/p')
 while IFS= read -r customer; do
   [ -n "$customer" ] || continue
+  # Sales that an earlier night stored and could not clear at all registers are cleared first.
   # Without its sales the report of the day would be wrong, and nobody would look at it again.
-  attempt "$customer" collect "$customer" &&
+  attempt "$customer" collect "$customer" --clear-first &&
     attempt "$customer" report "$customer" plusales --day "$day" --pdf "$(realpath "$reports")/$customer $day.pdf"
   [ -z "$connection" ] || attempt "$customer" publish "$customer" --to "$connection"
 done <<END

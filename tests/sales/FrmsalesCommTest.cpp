@@ -8,6 +8,9 @@
 #include "store/Recordset.h"
 #include "tests/support/LinkFormTest.h"
 
+#include <algorithm>
+#include <array>
+
 namespace norvane::sales
 {
 namespace
@@ -17,6 +20,8 @@ using test::ShownBox;
 
 const QString errorTitle = u"Communications Error"_s;
 const QString checkTitle = u"Please Check"_s;
+const ShownBox clearAgain{u"The sales are stored, but not all registers were cleared. Clear again?"_s,
+                          checkTitle, BoxIcon::Question, BoxAnswer::No};
 /// Rows of what ring() rings at two registers with 20 PLUs.
 constexpr qint64 rowsOfDay = 2 + 20 + 1 + 1 + 1;
 const char* const done = "Communications Successful....";
@@ -68,9 +73,13 @@ protected:
     }
     void expectEnd(const Exit& end)
     {
+        std::vector<ShownBox> expected;
+        if (end.text != nullptr)
+            expected.push_back({QLatin1String(end.text), errorTitle});
+        if (end.text != nullptr && end.imported)
+            expected.push_back(clearAgain);
         EXPECT_EQ(status(), end.status);
-        EXPECT_EQ(boxes.shown,
-                  std::vector<ShownBox>(end.text == nullptr ? 0 : 1, {QLatin1String(end.text), errorTitle}));
+        EXPECT_EQ(boxes.shown, expected);
     }
     [[nodiscard]] QString logged() const
     {
@@ -79,7 +88,8 @@ protected:
     /// Whether the sales still stand at the registers, open or consolidated.
     [[nodiscard]] bool registersHoldSales() const
     {
-        return pathExists(bankPath("1/totals")) || pathExists(bankPath("1/consolidated"));
+        return std::ranges::any_of(std::array{"1/totals", "1/consolidated", "2/totals", "2/consolidated"},
+                                   [this](const char* sales) { return pathExists(bankPath(sales)); });
     }
     [[nodiscard]] qint64 rows() const
     {
@@ -88,6 +98,13 @@ protected:
         for (const char* table : {"FINANCIALSALES", "PLUSALES", "TIMESALES", "MIXSALES", "CLERKSALES"})
             count += database.openTable(QLatin1String(table)).recordCount();
         return count;
+    }
+    /// Net sales of all collections in hundredths; ring() rings 100.05 at each register.
+    [[nodiscard]] int takings() const
+    {
+        store::Database database(values.databasePath);
+        const auto sum = database.openQuery(u"select sum(value) from financialsales where id = 1"_s);
+        return qRound(sum.value(0).toText().toDouble() * 100);
     }
     [[nodiscard]] QString bankPath(const char* name) const
     {
@@ -167,13 +184,105 @@ TEST_F(FrmsalesCommTest, CollectsSalesThatWait)
     EXPECT_FALSE(registersHoldSales());
 }
 
-/// A failed clear leaves the sales here and at the registers.
+TEST_F(FrmsalesCommTest, ClearsAgainRightAfterAClearThatFailed)
+{
+    boxes.answers = {true};
+    collect("Command=clear\nResult=15\nNth=1");
+    EXPECT_EQ(boxes.shown, (std::vector<ShownBox>{{u"Report Clear Error"_s, errorTitle}, clearAgain}));
+    EXPECT_EQ(status(), done);
+    EXPECT_FALSE(registersHoldSales());
+    ring();
+    collect("Command=clear\nResult=15");
+    store::Database(values.databasePath).execute(u"delete * from FINANCIALSALES"_s);
+    collect();
+    EXPECT_TRUE(boxes.shown.empty()) << "sales that were taken out of the tables are stored again";
+    EXPECT_EQ(takings(), 2 * 10005);
+}
+
+/// The day after a clear that failed at register 2: a new day is rung at both.
+struct NextDay {
+    const char* what;
+    std::deque<bool> answers;
+    const char* faults;
+    std::vector<const char*> boxes; ///< a part of each
+    int takings;                    ///< in all, of one register and day
+    bool holdsSales = false;
+};
+
+const char* const clearThem =
+    "are stored, but were not cleared at all registers (result 8: Time Out). Clear them first?";
+const char* const again = "would be counted twice.\r\rCollect all the same?";
+const NextDay nextDays[] = {
+    {"cleared first", {true}, "", {clearThem}, 4},
+    {"nothing done", {}, "", {clearThem, again}, 2, true},
+    {"the clear fails again",
+     {true},
+     "Command=clear\nResult=15",
+     {clearThem, "Report Clear", "Clear again?"},
+     2,
+     true},
+    {"and goes through then",
+     {true, true},
+     "Command=clear\nResult=15\nNth=1",
+     {clearThem, "Report Clear", "Clear again?"},
+     4},
+    {"the tool crashes",
+     {true},
+     "Command=clear\nCrash=1",
+     {clearThem, "still hold would be counted", "Clear again?"},
+     2,
+     true},
+    {"counted twice", {false, true}, "", {clearThem, again}, 4, true},
+};
+
+TEST_F(FrmsalesCommTest, AsksToClearStoredSalesBeforeItCollectsAgain)
+{
+    for (const NextDay& day : nextDays) {
+        SCOPED_TRACE(day.what);
+        QDir(folder.bankPath() + u"/2/consolidated"_s).removeRecursively();
+        ring();
+        store::Database(values.databasePath).execute(u"delete * from FINANCIALSALES"_s);
+        collect("Command=clear\nRegister=2\nResult=8");
+        EXPECT_EQ(takings(), 2 * 10005);
+        ring(2);
+        writeWholeFile(folder.appFile(u"status.out"_s), "0");
+        boxes.answers = day.answers;
+        collect(day.faults);
+        ASSERT_EQ(boxes.shown.size(), day.boxes.size());
+        for (std::size_t box = 0; box < day.boxes.size(); ++box) {
+            EXPECT_TRUE(boxes.shown[box].text.contains(QLatin1StringView(day.boxes[box])))
+                << boxes.shown[box].text.toStdString();
+        }
+        EXPECT_EQ(boxes.shown.front().preset, BoxAnswer::No);
+        EXPECT_EQ(takings(), day.takings * 10005);
+        EXPECT_EQ(registersHoldSales(), day.holdsSales);
+    }
+}
+
+/// Once newer sales were consolidated beside those that are stored, a clear would lose them.
+TEST_F(FrmsalesCommTest, OffersNoClearThatWouldLoseNewerSales)
+{
+    collect("Command=clear\nRegister=2\nResult=8");
+    ring(2);
+    boxes.answers = {false, true};
+    collect("Command=collect\nResult=8");
+    collect();
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_TRUE(boxes.shown[0].text.contains(u"newer sales, which clearing them now would lose"_s))
+        << boxes.shown[0].text.toStdString();
+    EXPECT_EQ(takings(), 2 * 10005);
+    EXPECT_TRUE(pathExists(bankPath("1/consolidated")));
+}
+
+/// A clear that reports success and does nothing.
 TEST_F(FrmsalesCommTest, AsksBeforeItStoresTheSameSalesAgain)
 {
-    for (const bool again : {false, true}) {
-        collect("Command=clear\nResult=15");
+    for (const bool twice : {false, true}) {
+        ring(twice ? 2 : 1);
+        collect();
         const qint64 stored = rows();
-        boxes.answers = {again};
+        ring(twice ? 2 : 1);
+        boxes.answers = {twice};
         collect();
         ASSERT_EQ(boxes.shown.size(), 1U);
         const ShownBox& asked = boxes.shown[0];
@@ -182,8 +291,7 @@ TEST_F(FrmsalesCommTest, AsksBeforeItStoresTheSameSalesAgain)
         EXPECT_EQ(asked, (ShownBox{asked.text, checkTitle, BoxIcon::Question, BoxAnswer::No}));
         EXPECT_EQ(status(), done);
         EXPECT_FALSE(registersHoldSales());
-        EXPECT_EQ(rows(), again ? stored + rowsOfDay : stored);
-        ring(2);
+        EXPECT_EQ(rows(), twice ? stored + rowsOfDay : stored);
     }
 }
 
@@ -219,7 +327,7 @@ TEST_F(FrmsalesCommTest, AsksBeforeItUsesWhatAFailedToolLeft)
         const qint64 before = rows();
         boxes.answers.clear();
         collect(fault);
-        ASSERT_EQ(boxes.shown.size(), 1U);
+        ASSERT_EQ(boxes.shown.size(), clears ? 2U : 1U);
         const ShownBox& asked = boxes.shown[0];
         EXPECT_TRUE(asked.text.contains(QLatin1StringView(told)) && asked.text.contains(u" old\r"))
             << asked.text.toStdString();
@@ -227,6 +335,7 @@ TEST_F(FrmsalesCommTest, AsksBeforeItUsesWhatAFailedToolLeft)
         EXPECT_EQ(rows(), clears ? before + rowsOfDay : before);
         EXPECT_TRUE(registersHoldSales());
         EXPECT_TRUE(status().find(done) == std::string::npos) << status();
+        boxes.answers = {clears};
         collect();
 
         ring(day++);
@@ -234,8 +343,11 @@ TEST_F(FrmsalesCommTest, AsksBeforeItUsesWhatAFailedToolLeft)
         collect(fault);
         EXPECT_EQ(boxes.shown.size(), questions);
         EXPECT_EQ(registersHoldSales(), staysAtRegisters);
+        boxes.answers = {clears};
         if (staysAtRegisters)
             collect();
+        const QString first = boxes.shown.empty() ? QString() : boxes.shown.front().text;
+        EXPECT_EQ(first.contains(u"(no result). Clear them first?"_s), clears) << first.toStdString();
         EXPECT_FALSE(registersHoldSales());
     }
 }
@@ -308,9 +420,11 @@ TEST_F(FrmsalesCommTest, NamesAToolThatIsMissing)
 TEST_F(FrmsalesCommTest, DialsCollectsAndHangsUp)
 {
     useModem();
-    boxes.whileOpen = [this](const ShownBox&) {
+    boxes.whileOpen = [this](const ShownBox& box) {
         expectHungUp();
         EXPECT_TRUE(othersMayStart());
+        if (box == clearAgain)
+            willConnect(true);
     };
     for (const Exit& end :
          {Exit{"", "Error 100 Sorry Error Unknown", "Resetting Modem .......AT&F", false, false},
@@ -322,6 +436,12 @@ TEST_F(FrmsalesCommTest, DialsCollectsAndHangsUp)
         expectHungUp();
         expectEnd(end);
     }
+    ring(2);
+    willConnect(true);
+    boxes.answers = {true};
+    collect("Command=clear\nResult=8\nNth=1");
+    expectHungUp();
+    EXPECT_EQ(status(), done);
     expectExitHangsUp();
 }
 
