@@ -1,6 +1,7 @@
 // Making, listing and restoring copies; see SafetyCopies.h.
 #include "customers/SafetyCopies.h"
 
+#include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
 #include "customers/CustomerFolders.h"
 #include "customers/CustomerLog.h"
@@ -27,7 +28,7 @@ constexpr int daysKept = 7;
 const auto timeFormat = u"yyyy-MM-dd HH.mm.ss"_s;
 const auto databaseName = u"velmar.mdb"_s;
 
-/// What stands beside the database and goes with it: settings, notes of the runs, register files.
+/// What is beside the database and goes with it: settings and register files.
 const QStringList& copiedFiles()
 {
     static const QStringList patterns{u"*.ini"_s, u"*.dat"_s, u"*.dat.former"_s};
@@ -39,10 +40,19 @@ QString copiesFolder(const QString& customerPath)
     return joinPath(customerPath, u"copies"_s);
 }
 
+/// The notes of the runs describe the registers: what they still hold and what waits to be moved. That does
+/// not change when the customer is put back, and with old notes the next collection would store a day twice.
+bool describesRegisters(const QString& name)
+{
+    return name.compare(runNotesName(), Qt::CaseInsensitive) == 0;
+}
+
 void copyFiles(const QString& from, const QString& to)
 {
-    for (const QString& name : QDir(from).entryList(copiedFiles(), QDir::Files | QDir::Hidden))
-        writeWholeFile(joinPath(to, name), readWholeFile(joinPath(from, name)));
+    for (const QString& name : QDir(from).entryList(copiedFiles(), QDir::Files | QDir::Hidden)) {
+        if (!describesRegisters(name))
+            writeWholeFile(joinPath(to, name), readWholeFile(joinPath(from, name)));
+    }
 }
 
 /// A second copy within one second gets a number.

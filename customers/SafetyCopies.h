@@ -38,9 +38,9 @@ SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, st
 [[nodiscard]] bool needsNewDatabase(const QString& customerPath);
 
 /// Puts tables, settings and register files back as the copy holds them, after a copy of how they stand now.
-/// Sales come back only from a copy that holds them. Files that the copy does not hold stay. The database
-/// comes back wholly or not at all; the files follow it. A database that is damaged is kept beside a new one,
-/// which takes over the sales that can still be read.
+/// Sales come back only from a copy that holds them. Files that the copy does not hold stay, and so do the
+/// notes about the registers. The database comes back wholly or not at all; the files follow it. A database
+/// that is damaged is kept beside a new one, which takes over the sales that can still be read.
 /// @return what the user must know about a damaged database; empty when there was none.
 /// @throws RuntimeFailure as makeSafetyCopy(), and 3343 for a damaged copy, before anything was changed.
 QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy);

@@ -66,7 +66,10 @@ TEST_F(SafetyCopiesTest, ARestoreBringsBackTablesSettingsAndFilesAndCanBeTakenBa
     setPlu("2");
     setModel("3");
     m_folder.write("app/Cafe/73.dat", "");
+    m_folder.write("app/Cafe/exchange.ini", "[Collection]\r\nStored=today\r\n");
+    writeWholeFile(joinPath(copy.path, u"exchange.ini"_s), "[Collection]\r\nStored=yesterday\r\n");
     restoreSafetyCopy(m_values.customerPath, copy);
+    EXPECT_TRUE(m_folder.read("app/Cafe/exchange.ini").contains("today")) << "what the registers did stays";
     EXPECT_EQ(plu(), u"1"_s);
     EXPECT_TRUE(m_folder.read("app/Cafe/setup.ini").contains("ECRModel= 0"));
     EXPECT_EQ(m_folder.read("app/Cafe/73.dat"), "logo");
