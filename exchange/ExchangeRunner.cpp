@@ -327,6 +327,8 @@ bool ExchangeRunner::takeKeptFile(const DownloadRow& row)
     const QString name = dataFile(row.file);
     if (!pathExists(joinPath(m_values.customerPath, name)))
         m_outside.showNotice(u"The customer's folder holds no %1. Upload it from the ECR first."_s.arg(name));
+    // The transfer tool gets the name in capitals and would send an old file of that spelling.
+    link::keepLatestSpelling(joinPath(m_values.appPath, name));
     MoveDataFile(m_values.customerPath, m_values.appPath, name);
     return row.copy != Copy::FromCustomerUnlessEmpty || lengthOf(name) > 0;
 }

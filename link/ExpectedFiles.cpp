@@ -2,8 +2,10 @@
 #include "link/ExpectedFiles.h"
 
 #include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -44,14 +46,42 @@ QString ageSince(const QDateTime& written)
     return seconds < 2 * day ? counted(seconds / hour, "hour") : counted(seconds / day, "day");
 }
 
+/// The files that a name may mean, the one written last first.
+QFileInfoList spellingsOf(const QString& path)
+{
+    const QFileInfo wanted(path);
+    QFileInfoList files = wanted.dir().entryInfoList(QDir::Files | QDir::Hidden | QDir::System, QDir::Time);
+    files.removeIf([&wanted](const QFileInfo& file) {
+        return file.fileName().compare(wanted.fileName(), Qt::CaseInsensitive) != 0;
+    });
+    return files;
+}
+
 } // namespace
+
+void keepLatestSpelling(const QString& path)
+{
+    for (const QFileInfo& older : spellingsOf(path).mid(1)) {
+        if (!QFile::remove(older.filePath())) {
+            throw RuntimeFailure(Failure::PathOrFileAccess,
+                                 u"Path/File access error: %1 cannot be removed"_s.arg(older.filePath()));
+        }
+    }
+}
 
 ExpectedFiles::ExpectedFiles(const QStringList& names)
 {
     for (const QString& name : names) {
+        keepLatestSpelling(name);
         setTimeBack(name);
         m_before.insert(name, stateOf(name));
     }
+}
+
+void ExpectedFiles::keepLatestSpellings() const
+{
+    for (const QString& name : names())
+        keepLatestSpelling(name);
 }
 
 bool ExpectedFiles::wasWritten(const QString& name) const

@@ -11,6 +11,11 @@
 namespace norvane::link
 {
 
+/// Of several files whose names differ from @p path in case only, keeps the one that was written last.
+/// Otherwise one step writes "POLL190.txt" and the next reads an old "poll190.txt".
+/// @throws RuntimeFailure 75 when another one cannot be removed.
+void keepLatestSpelling(const QString& path);
+
 /// The files that a step is to write, as they stood before it. That a file is there says nothing about
 /// whether this step wrote it: an old one looks the same. A file that was written a moment ago gets a time
 /// some seconds older, so that the same bytes written again at once can be told from no writing at all,
@@ -19,7 +24,12 @@ class ExpectedFiles
 {
 public:
     /// Notes files of the working directory; @p names meet without regard to case.
+    /// @throws RuntimeFailure as keepLatestSpelling().
     explicit ExpectedFiles(const QStringList& names);
+
+    /// After a tool has run: it may spell a file in another way than the one that was there.
+    /// @throws RuntimeFailure as keepLatestSpelling().
+    void keepLatestSpellings() const;
 
     [[nodiscard]] QStringList names() const { return m_before.keys(); }
     /// Whether the file is there and was written since.

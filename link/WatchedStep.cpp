@@ -16,6 +16,7 @@ WatchedStep::WatchedStep(const RunOutside& outside, const QStringList& expected)
 void WatchedStep::run(const QString& commandLine)
 {
     const ChildResult result = runTool(m_outside, commandLine);
+    m_expected.keepLatestSpellings();
     if (m_result == ChildResult::Ended) {
         m_result = result;
         m_tool = commandWords(commandLine).value(0);

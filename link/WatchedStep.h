@@ -18,7 +18,8 @@ public:
     /// this.
     WatchedStep(const RunOutside& outside, const QStringList& expected);
 
-    /// Runs a tool as runTool() does.
+    /// Runs a tool as runTool() does. Of a file in several spellings only the latest remains.
+    /// @throws RuntimeFailure as keepLatestSpelling().
     void run(const QString& commandLine);
     /// Whether every tool came to its own end and every file was written.
     [[nodiscard]] bool isComplete() const;

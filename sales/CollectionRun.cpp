@@ -7,6 +7,7 @@
 #include "customers/DataOwner.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
+#include "sales/PollImport.h"
 #include "sales/PollStamp.h"
 #include "sales/UnclearedSales.h"
 
@@ -44,16 +45,20 @@ QString reportFile(int report)
     return u"poll%1.dll"_s.arg(report);
 }
 
-QString textFile(int report)
-{
-    return u"POLL%1.txt"_s.arg(report);
-}
-
-QStringList reportNames(QString (*nameOf)(int report))
+QStringList reportNames()
 {
     QStringList names;
     for (const int report : reports)
-        names << nameOf(report);
+        names << reportFile(report);
+    return names;
+}
+
+/// The texts by the names under which the import reads them.
+QStringList textNames()
+{
+    QStringList names;
+    for (const PollFile& file : pollFiles())
+        names << QString::fromLatin1(file.name);
     return names;
 }
 
@@ -278,7 +283,7 @@ std::optional<int> CollectionRun::runStep(const ToolStep& step)
         noteNewerSales(m_values);
     if (step.statusText != nullptr)
         m_outside.run.showStep(m_place);
-    link::WatchedStep watched(m_outside.run, (step.leavesReports ? reportNames(reportFile) : QStringList()) +
+    link::WatchedStep watched(m_outside.run, (step.leavesReports ? reportNames() : QStringList()) +
                                                  QStringList{link::statusFile});
     watched.run(step.line(m_link, step.suffix));
     m_stepIsComplete = watched.isComplete();
@@ -310,9 +315,9 @@ bool CollectionRun::sendsDescriptions() const
 bool CollectionRun::convertReports()
 {
     const QString model = GetModelCode(m_values);
-    link::WatchedStep step(m_outside.run, reportNames(textFile));
+    link::WatchedStep step(m_outside.run, textNames());
     for (const int report : reports)
-        step.run(u"convert w%1 f%2 t%3 S%4"_s.arg(model, reportFile(report), textFile(report)).arg(report));
+        step.run(u"convert w%1 f%2 tPOLL%3.txt S%3"_s.arg(model, reportFile(report)).arg(report));
     return mayUse(step, true, QLatin1StringView(olderSales));
 }
 

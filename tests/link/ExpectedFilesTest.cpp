@@ -29,6 +29,23 @@ TEST(ExpectedFiles, TellTheSameBytesWrittenAgainFromAnOldFile)
     }
 }
 
+TEST(ExpectedFiles, RemainInTheSpellingThatWasWrittenLast)
+{
+    const test::TestFolder folder;
+    const test::WorkingDirectory here(folder.path());
+    for (const char* name : {"67.txt", "67.TXT", "67.txt.former", "167.txt"})
+        folder.write(name, "old");
+    for (const char* name : {"67.Txt", "67.txt"}) {
+        const ExpectedFiles expected({u"67.txt"_s});
+        EXPECT_EQ(QDir(folder.path()).entryList({u"67.txt"_s}).size(), 1);
+        folder.write(name, name);
+        expected.keepLatestSpellings();
+        EXPECT_TRUE(expected.allWritten());
+        EXPECT_EQ(readWholeFile(u"67.TXT"_s), name);
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 3);
+    }
+}
+
 TEST(ExpectedFiles, AreToldWithTheirAge)
 {
     const test::TestFolder folder;

@@ -308,8 +308,8 @@ constexpr Doubt doubts[] = {
     {"Tool=VELMARCOMM\nCommand=open\nCrash=1", "status.out of "},
     {"Tool=VELMARCOMM\nCommand=collect\nCrash=1", "poll218.dll of ", 2, true},
     {"Tool=VELMARCOMM\nCommand=collect\nStatus=none", "status.out of "},
-    {"Tool=convert\nCommand=S194\nResult=1", "Found:\r\rPOLL194.txt of "},
-    {"Tool=convert\nCrash=1", "convert crashed. Found:\r\rPOLL190.txt of ", 2, true},
+    {"Tool=convert\nCommand=S194\nResult=1", "Found:\r\rpoll194.txt of "},
+    {"Tool=convert\nCrash=1", "convert crashed. Found:\r\rpoll190.txt of ", 2, true},
     {"Tool=VELMARCOMM\nCommand=clear\nCrash=1", "end as successful", 1, true},
     {"Tool=VELMARCOMM\nCommand=consolidate\nCrash=1", "VELMARCOMM crashed. Found:\r\rstatus.out of ", 1,
      true},
@@ -350,6 +350,19 @@ TEST_F(FrmsalesCommTest, AsksBeforeItUsesWhatAFailedToolLeft)
         EXPECT_EQ(first.contains(u"(no result). Clear them first?"_s), clears) << first.toStdString();
         EXPECT_FALSE(registersHoldSales());
     }
+}
+
+TEST_F(FrmsalesCommTest, ImportsWhatTheConverterWroteInAnySpelling)
+{
+    for (const char* name : {"poll190.txt", "Poll190.TXT"}) {
+        QFile old(folder.appFile(QLatin1String(name)));
+        ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+        old.write("1,0.01\r\n");
+    }
+    collect();
+    EXPECT_EQ(takings(), 2 * 10005);
+    EXPECT_TRUE(boxes.shown.empty());
+    EXPECT_EQ(QDir(folder.appPath()).entryList({u"poll190.txt"_s}).size(), 1);
 }
 
 TEST_F(FrmsalesCommTest, StopsAtRegistersThatSendDescriptions)
