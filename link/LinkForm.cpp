@@ -27,6 +27,8 @@ LinkForm::LinkForm(const char* name, const char* runCaption, const ApplicationVa
     CSCmdBtn1 = addButton("CSCmdBtn1", "E&xit");
     connect(CSCmdBtn1, &QPushButton::clicked, this, &LinkForm::reject);
     StatusBar1 = new ui::StatusLine(this);
+    m_tool.setExit(CSCmdBtn1,
+                   [this](bool leaves) { StatusBar1->setNotice(leaves ? leavingNotice() : QString()); });
 }
 
 LinkForm::~LinkForm() = default;

@@ -48,7 +48,8 @@ public:
 
 public Q_SLOTS:
     /// The "E&xit" button, Escape and the window's close button: hangs up a modem and leaves, even while it
-    /// dials. While tools are at work, leaving takes effect after the current step.
+    /// dials. While tools are at work, leaving takes effect after the current step; the status bar says so at
+    /// once.
     void reject() override;
 
 protected:

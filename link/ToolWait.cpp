@@ -117,6 +117,12 @@ ToolWait::ToolWait(QWidget* form, Boxes& boxes, std::function<void(const QString
 
 ToolWait::~ToolWait() = default;
 
+void ToolWait::setExit(QWidget* exit, std::function<void(bool leaves)> show)
+{
+    m_exit = exit;
+    m_showLeaving = std::move(show);
+}
+
 ChildResult ToolWait::run(const ApplicationValues& values, const QString& commandLine)
 {
     const QString tool = commandWords(commandLine).value(0).section(u'/', -1);
@@ -160,7 +166,10 @@ void ToolWait::showSeconds(std::chrono::milliseconds running)
 bool ToolWait::mayBeEnded(const QString& tool, std::chrono::milliseconds running)
 {
     // This Escape, and those tried before it, are not meant for the form.
+    const bool leftBefore = willLeave();
     std::erase_if(m_kept, [](const KeptEvent& kept) { return isKey(*kept.event, Qt::Key_Escape); });
+    if (leftBefore && !willLeave())
+        m_showLeaving(false);
     m_escape.spend();
     return m_boxes.ask(u"%1 has been running for %2 seconds and may be hanging.\r\r"
                        "Do you want to end it? What it was moving will not be complete."_s.arg(tool)
@@ -209,14 +218,36 @@ bool ToolWait::belongsToForm(const QObject& receiver, const QEvent& event) const
 
 void ToolWait::keep(QObject& receiver, const QEvent& event)
 {
-    m_kept.push_back({&receiver, std::unique_ptr<QEvent>(event.clone())});
+    const QObject* const aim = receiver.isWindowType() ? target(*m_form->window(), event) : &receiver;
+    m_kept.push_back({&receiver, aim, std::unique_ptr<QEvent>(event.clone())});
+    if (leaves(m_kept.back()))
+        m_showLeaving(true);
 }
 
+bool ToolWait::willLeave() const
+{
+    return std::ranges::any_of(m_kept, [this](const KeptEvent& kept) { return leaves(kept); });
+}
+
+/// What the form takes as leaving it once it gets the event.
+bool ToolWait::leaves(const KeptEvent& kept) const
+{
+    const QEvent::Type type = kept.event->type();
+    if (type == QEvent::Close || (type == QEvent::KeyPress && isKey(*kept.event, Qt::Key_Escape)))
+        return true;
+    const bool presses = type == QEvent::MouseButtonRelease || type == QEvent::Shortcut ||
+                         (type == QEvent::KeyRelease && isKey(*kept.event, Qt::Key_Space));
+    return presses && m_exit != nullptr && kept.target == m_exit;
+}
+
+/// The form shows by itself that it is being left. A click that was drawn off the button does not leave it.
 void ToolWait::handOver()
 {
-    for (const auto& [receiver, event] : std::exchange(m_kept, {})) {
-        if (receiver)
-            QCoreApplication::sendEvent(receiver, event.get());
+    if (willLeave())
+        m_showLeaving(false);
+    for (const KeptEvent& kept : std::exchange(m_kept, {})) {
+        if (kept.receiver)
+            QCoreApplication::sendEvent(kept.receiver, kept.event.get());
     }
 }
 

@@ -59,6 +59,9 @@ public:
     ToolWait(QWidget* form, Boxes& boxes, std::function<void(const QString& text)> showRunning);
     ~ToolWait() override;
 
+    /// @param exit the form's button that leaves it; @param show is told at once whether what the user did
+    /// while a tool runs will leave the form when the tool has ended.
+    void setExit(QWidget* exit, std::function<void(bool leaves)> show);
     void setPatience(const ToolPatience& patience) { m_patience = patience; }
 
     /// Lets pending events run once, then runs the tool. @return Crashed, too, when the user ended it.
@@ -69,6 +72,7 @@ public:
 private:
     struct KeptEvent {
         QPointer<QObject> receiver;
+        QPointer<const QObject> target; ///< the widget of the form that it is for
         std::unique_ptr<QEvent> event;
     };
 
@@ -77,11 +81,16 @@ private:
     [[nodiscard]] bool mayBeEnded(const QString& tool, std::chrono::milliseconds running);
     [[nodiscard]] bool belongsToForm(const QObject& receiver, const QEvent& event) const;
     void keep(QObject& receiver, const QEvent& event);
+    [[nodiscard]] bool willLeave() const;
+    [[nodiscard]] bool leaves(const KeptEvent& kept) const;
     void handOver();
 
     QWidget* m_form;
     Boxes& m_boxes;
     std::function<void(const QString& text)> m_showRunning;
+    QWidget* m_exit = nullptr;
+    std::function<void(bool leaves)> m_showLeaving = [](bool) {
+    };
     ToolPatience m_patience;
     std::chrono::seconds m_shown{0};
     HeldKey m_escape{Qt::Key_Escape};

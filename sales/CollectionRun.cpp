@@ -165,7 +165,7 @@ QString CollectionRun::whyStopped() const
 {
     if (m_failed)
         return link::resultInWords(m_dialResult == link::modemFailed ? m_dialResult : *m_failed);
-    return m_outside.run.goOn() ? u"answered No"_s : u"left by the user"_s;
+    return hasLeft() ? u"left by the user"_s : u"answered No"_s;
 }
 
 /// "stopped at Consolidate Reports: result 8: Time Out; nothing stored". @p beforeStoring ends the text of a
@@ -181,7 +181,7 @@ QString CollectionRun::stoppedText(const QString& reason, const QString& beforeS
 bool CollectionRun::mayClearAgain() const
 {
     const bool clears = !m_tasks.isEmpty() && m_tasks.front() != Task::Collect;
-    if (!clears || !m_outside.run.goOn() || !mayBeCleared(unclearedCollection(m_values)))
+    if (!clears || hasLeft() || !mayBeCleared(unclearedCollection(m_values)))
         return false;
     m_outside.run.beforeLastBox();
     if (!askBeforeLoss(m_outside.run.boxes, clearAgainQuestion()) || !m_outside.run.beginAgain())
@@ -197,7 +197,7 @@ void CollectionRun::call()
     m_place = u"the call"_s;
     m_dialResult = m_outside.connectLink(m_link);
     // A user who left while the modem dialled has hung up already.
-    if (!m_outside.run.goOn())
+    if (hasLeft())
         return;
     m_failed = resultOfCall();
 }
@@ -235,6 +235,9 @@ std::optional<int> CollectionRun::carryOut(Task task)
 
 std::optional<int> CollectionRun::storeSales()
 {
+    m_ended = hasLeft();
+    if (m_ended)
+        return std::nullopt;
     m_outside.run.showStep(u"Parse data...."_s);
     m_place = u"Parse data"_s;
     if (sendsDescriptions())
@@ -274,7 +277,7 @@ std::optional<int> CollectionRun::clearRegisters(const ToolStep& step)
 std::optional<int> CollectionRun::runStep(const ToolStep& step)
 {
     m_stepIsComplete = false;
-    if (&step != &clearing && !m_outside.run.goOn()) {
+    if (&step != &clearing && hasLeft()) {
         m_ended = true;
         return std::nullopt;
     }
@@ -310,15 +313,18 @@ bool CollectionRun::sendsDescriptions() const
     return stamp.endsWith(u'3') || stamp.endsWith(u'2');
 }
 
-/// Makes all five texts first, then asks once about those that failed. @return false when the user does not
-/// want older ones.
+/// Makes all five texts first, then asks once about those that failed. @return false when the user has left
+/// or does not want older ones.
 bool CollectionRun::convertReports()
 {
     const QString model = GetModelCode(m_values);
     link::WatchedStep step(m_outside.run, textNames());
-    for (const int report : reports)
+    for (const int report : reports) {
+        if (hasLeft())
+            return false;
         step.run(u"convert w%1 f%2 tPOLL%3.txt S%3"_s.arg(model, reportFile(report)).arg(report));
-    return mayUse(step, true, QLatin1StringView(olderSales));
+    }
+    return !hasLeft() && mayUse(step, true, QLatin1StringView(olderSales));
 }
 
 Stored CollectionRun::importReports() const

@@ -31,7 +31,7 @@ enum class ClearFirst { Ask, Yes };
 /// only after all five imports, so a run that fails before loses nothing. A run that fails between import and
 /// clearing leaves the sales both in the tables and at the registers. Then the user is asked whether to clear
 /// again, and the next run asks whether to clear first; see UnclearedSales.h. What a failed tool left is used
-/// only after a question; No ends the run.
+/// only after a question; No ends the run. A user who leaves before the import ends it between two tools.
 class CollectionRun
 {
 public:
@@ -68,6 +68,7 @@ private:
     [[nodiscard]] bool sendsDescriptions() const;
     [[nodiscard]] bool mayUse(const link::WatchedStep& step, bool hasReports, const QString& consequence);
     [[nodiscard]] bool convertReports();
+    [[nodiscard]] bool hasLeft() const { return !m_outside.run.goOn(); }
     [[nodiscard]] Stored importReports() const;
     void loggedCall(const std::function<void()>& makeCall);
     void logCall(const std::function<void()>& makeCall);

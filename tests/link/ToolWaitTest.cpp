@@ -51,6 +51,7 @@ protected:
             window->activateWindow();
             EXPECT_TRUE(QTest::qWaitForWindowActive(window));
         }
+        wait.setExit(&exit, [this](bool leaves) { isLeaving = leaves; });
         wait.setPatience({.hangsAfter = 300ms, .held = 150ms});
     }
 
@@ -87,6 +88,7 @@ protected:
     Painted painted;
     QLineEdit other;
     int exits = 0;
+    bool isLeaving = false; ///< as the form shows it
     QStringList shown;
     ToolWait wait{&form, boxes, [this](const QString& text) {
                       shown << text;
@@ -154,6 +156,31 @@ TEST_F(ToolWaitTest, AsksOnlyAboutAnEscapeThatIsHeldLongEnough)
     EXPECT_EQ(shown.back(), QString());
     EXPECT_EQ(form.leaves, 0) << "the Escapes were meant for the question";
     EXPECT_TRUE(exitComesTo(1)) << "a click before it was not";
+}
+
+TEST_F(ToolWaitTest, ShowsAtOnceThatTheFormWillBeLeft)
+{
+    const auto expect = [this](bool leaving, const char* what) {
+        EXPECT_EQ(std::exchange(isLeaving, false), leaving) << what;
+    };
+    std::vector<std::function<void()>> acts{
+        [&] { QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, painted.geometry().center()); },
+        [&] { key(QTest::Click, Qt::Key_Tab); },
+        [&] {
+            expect(false, "a click beside it and another key");
+            clickExit();
+            expect(true, "a click");
+            key(QTest::Click, Qt::Key_X, Qt::AltModifier);
+            expect(true, "the access letter");
+            form.windowHandle()->close();
+            expect(true, "the close button");
+            down();
+            expect(true, "Escape");
+            up();
+            QFile::remove(u"started"_s);
+        }};
+    EXPECT_EQ(hang(acts), ChildResult::Ended);
+    EXPECT_FALSE(isLeaving) << "the form shows it from here on";
 }
 
 } // namespace

@@ -414,6 +414,35 @@ TEST_F(FrmsalesCommTest, EndsWithoutClearingWhenLeftInTheMidst)
     EXPECT_EQ(rows(), 0);
 }
 
+/// Exit while a tool hangs: told at once, and nothing is stored.
+TEST_F(FrmsalesCommTest, EndsBetweenTwoToolsWhenLeft)
+{
+    const QString matched = joinPath(folder.bankPath(), u"faults.log"_s);
+    for (const char* tool :
+         {"VELMARCOMM\nCommand=collect", "convert\nCommand=S191", "convert\nCommand=S218"}) {
+        SCOPED_TRACE(tool);
+        form.show();
+        std::string shown;
+        QTimer user;
+        QObject::connect(&user, &QTimer::timeout, [&] {
+            if (shown.empty() && pathExists(matched)) {
+                press("CSCmdBtn1");
+                shown = status();
+            }
+        });
+        user.start(20);
+        collect(QByteArray("Hang=1\nTool=") + tool);
+        EXPECT_TRUE(shown.ends_with("    Leaving after this step .......")) << shown;
+        EXPECT_FALSE(form.isVisible());
+        EXPECT_EQ(rows(), 0);
+        EXPECT_TRUE(registersHoldSales());
+        EXPECT_EQ(pathExists(folder.appFile(u"POLL192.txt"_s)), QByteArray(tool).endsWith("S218"));
+    }
+    form.show();
+    collect();
+    EXPECT_EQ(rows(), rowsOfDay);
+}
+
 TEST_F(FrmsalesCommTest, NamesAToolThatIsMissing)
 {
     collect();
