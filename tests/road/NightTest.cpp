@@ -164,7 +164,7 @@ TEST(Night, AfterAClearThatFailedCountsNothingTwice)
         EXPECT_EQ(night == u"0 "_s, day != 2) << night.toStdString();
         if (day == 2) {
             EXPECT_TRUE(night.contains(u"\"collect --clear-first\" clears"_s)) << night.toStdString();
-            EXPECT_EQ(disturbed.logged(), u"registers 1 to 3, stored; the registers were not cleared"_s);
+            EXPECT_TRUE(disturbed.logged().endsWith(u"still to do: clear the registers"_s));
         }
     }
     EXPECT_EQ(qRound(disturbed.takings() * 100), qRound(rung * 100)) << "to the cent";

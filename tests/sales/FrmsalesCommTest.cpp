@@ -4,6 +4,8 @@
 
 #include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
+#include "platform/FolderLock.h"
+#include "sales/UnclearedSales.h"
 #include "store/Database.h"
 #include "store/Recordset.h"
 #include "tests/support/LinkFormTest.h"
@@ -197,6 +199,34 @@ TEST_F(FrmsalesCommTest, ClearsAgainRightAfterAClearThatFailed)
     collect();
     EXPECT_TRUE(boxes.shown.empty()) << "sales that were taken out of the tables are stored again";
     EXPECT_EQ(takings(), 2 * 10005);
+}
+
+/// While the question waits, the lock is free for others.
+TEST_F(FrmsalesCommTest, ClearsAgainOnlyWhatNoOtherRunHasTouched)
+{
+    std::unique_ptr<FolderLock> other;
+    test::RecordingBoxes othersBoxes;
+    boxes.whileOpen = [&](const ShownBox& box) {
+        if (box == clearAgain)
+            other = FolderLock::take(values.customerPath, othersBoxes);
+    };
+    boxes.answers = {true};
+    collect("Command=clear\nResult=15\nNth=1");
+    EXPECT_NE(other, nullptr);
+    EXPECT_EQ(boxes.shown.size(), 3U) << "the failure, the question, and who is at work";
+    EXPECT_TRUE(registersHoldSales());
+    other.reset();
+
+    boxes.whileOpen = [this](const ShownBox& box) {
+        if (box == clearAgain)
+            noteNewerSales(values);
+    };
+    QDir(folder.bankPath() + u"/1/consolidated"_s).removeRecursively();
+    ring(2);
+    boxes.answers = {false, true, true};
+    collect("Command=clear\nResult=15\nNth=1");
+    EXPECT_EQ(status(), "Clear Data at ECR    Another run was at work since. Nothing was cleared.");
+    EXPECT_TRUE(registersHoldSales());
 }
 
 /// The day after a clear that failed at register 2: a new day is rung at both.
