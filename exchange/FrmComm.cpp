@@ -147,6 +147,7 @@ void FrmComm::exchange()
     ExchangeRunner runner(m_values, link, *this, outside());
     if (result == link::modemFailed) {
         runner.logFailedCall(isUpload() ? Direction::Upload : Direction::Download);
+        hangUp();
         endBeforeLastBox();
         m_boxes.message(u"Modem Failure"_s, u"Communications Error"_s);
         return;

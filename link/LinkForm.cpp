@@ -161,11 +161,12 @@ void LinkForm::hangUp()
         disconnectLink();
 }
 
-/// In this order: a run that starts now may dial on the same modem, and hanging up later would end its call.
+/// A run that started during an open call could not use the modem, and its own call would be ended with this
+/// one.
 void LinkForm::endBeforeLastBox()
 {
-    hangUp();
-    m_lock.reset();
+    if (!m_isConnected || !m_link.isModem())
+        m_lock.reset();
 }
 
 void LinkForm::reject()

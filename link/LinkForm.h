@@ -79,7 +79,8 @@ protected:
     void disconnectLink();
     /// Hangs up unless that was done since the last connectLink().
     void hangUp();
-    /// Hangs up and lets other runs start. Call it before a box that ends the run: the user may be away.
+    /// Lets other runs start, unless a modem is still connected. Call it before a box that ends the run: the
+    /// user may be away.
     void endBeforeLastBox();
     [[nodiscard]] bool exitPressed() const { return m_exitPressed; }
 

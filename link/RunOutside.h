@@ -25,7 +25,7 @@ struct RunOutside {
     std::function<bool()> goOn;
     Boxes& boxes;
     /// Called before a box that ends the run, once everything is stored and logged. The box may stay open all
-    /// night, so the call and the lock of the run end here.
+    /// night, so the lock of the run ends here, if no modem is connected.
     std::function<void()> beforeLastBox = [] {
     };
     /// Called when the answer to a box after beforeLastBox() goes on with the run. @return false when another
