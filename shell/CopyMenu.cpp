@@ -27,7 +27,7 @@ QString wordsOf(const customers::SafetyCopy& copy)
 QString keptInWords(const QString& customerPath, bool salesComeBack)
 {
     if (!customers::needsNewDatabase(customerPath))
-        return u"A copy of how it stands now is made first."_s;
+        return u"A copy of its present state is made first."_s;
     const QString kept = u"The database of today cannot be used. It is kept under another name"_s;
     return kept + (salesComeBack ? u"."_s : u", and what can be read of the sales in it is taken over."_s);
 }
@@ -35,8 +35,8 @@ QString keptInWords(const QString& customerPath, bool salesComeBack)
 QString questionOf(const QString& customer, const QString& customerPath, const customers::SafetyCopy& copy)
 {
     const bool salesComeBack = customers::holdsSales(copy);
-    return u"Put %1 back as it was on %2?\r\rAll that was changed since is undone, %3. %4"_s.arg(
-        customer, wordsOf(copy), salesComeBack ? u"sales included"_s : u"but for sales"_s,
+    return u"Put %1 back as it was on %2?\r\rEverything changed since then is undone, %3. %4"_s.arg(
+        customer, wordsOf(copy), salesComeBack ? u"sales included"_s : u"except sales"_s,
         keptInWords(customerPath, salesComeBack));
 }
 

@@ -150,7 +150,7 @@ constexpr WaitingBox waitingBoxes[] = {
     {"question",
      [](Boxes& boxes, QWidget&) {
          boxes.ask(
-             u"Put Corner Shop as it was on 24/11/2026 22:05, before the upload?\r\rAll that was changed since is undone, sales included. A copy of how it stands now is made first."_s,
+             u"Put Corner Shop as it was on 24/11/2026 22:05, before the upload?\r\rEverything changed since then is undone, sales included. A copy of its present state is made first."_s,
              u"Please Check"_s, BoxIcon::Question, BoxAnswer::No);
      }},
     {"choice",
