@@ -12,6 +12,8 @@ namespace norvane
 enum class BoxIcon { None, Information, Exclamation, Question, Critical };
 /// The answer of a question box that Enter gives.
 enum class BoxAnswer { Yes, No };
+/// What becomes of something typed that is not saved.
+enum class UnsavedAnswer { Cancel, Save, Discard };
 
 /// The title of a box that is given none.
 inline const QString& applicationTitle()
@@ -54,6 +56,12 @@ public:
                         const QString& /*second*/)
     {
         return false;
+    }
+    /// Asks @p text with Save, which Enter gives, Discard and Cancel. Closing the box, and boxes that nobody
+    /// sees, give Cancel.
+    virtual UnsavedAnswer askToSave(const QString& /*text*/, const QString& /*title*/)
+    {
+        return UnsavedAnswer::Cancel;
     }
     /// Asks @p text with OK, which Enter gives, and Cancel, which closing the box and boxes that nobody sees
     /// give. @return true for OK.

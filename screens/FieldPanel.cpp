@@ -114,6 +114,11 @@ bool isBound(const ControlDefinition& definition)
     return !definition.dataField.trimmed().isEmpty();
 }
 
+bool isBoundTo(const ControlDefinition& definition, const QString& field)
+{
+    return definition.dataField.trimmed().compare(field, Qt::CaseInsensitive) == 0;
+}
+
 /// Whether the user can use this control: it is in view and takes an entry.
 bool isEditable(const ControlDefinition& definition, const QWidget& widget)
 {
@@ -166,6 +171,7 @@ QWidget* FieldPanel::makeCheck(const ControlDefinition& definition)
 {
     auto* const box = new QCheckBox(definition.description, m_picture);
     box->setEnabled(definition.enabled.value_or(true));
+    connect(box, &QCheckBox::toggled, this, &FieldPanel::tellEdited);
     return box;
 }
 
@@ -191,6 +197,7 @@ QWidget* FieldPanel::makeNumber(const ControlDefinition& definition)
         box->setMaximum(*definition.maximum);
     if (definition.readOnly.value_or(false))
         makeReadOnly(*box);
+    connect(box, &QLineEdit::textChanged, this, &FieldPanel::tellEdited);
     connect(box, &ui::NumberBox::maximumExceeded, this, [this, box] { Q_EMIT maximumExceeded(box); });
     return box;
 }
@@ -207,6 +214,7 @@ QWidget* FieldPanel::makeText(const ControlDefinition& definition)
         box->setCharacters(*characters);
     if (definition.largest)
         box->setLargest(*definition.largest);
+    connect(box, &QLineEdit::textChanged, this, &FieldPanel::tellEdited);
     connect(box, &ui::TextBox::maximumExceeded, this, [this, box] { Q_EMIT maximumExceeded(box); });
     return box;
 }
@@ -220,7 +228,14 @@ QWidget* FieldPanel::makeCombo(const ControlDefinition& definition)
         list->setValueColumn(toWholeNumber(definition.valueColumn));
     list->setRows(definition.sqlCriteria.isEmpty() ? rowsOfList(definition.list)
                                                    : queriedRows(definition.sqlCriteria));
+    connect(list, &ui::ValueList::valueEdited, this, &FieldPanel::tellEdited);
     return list;
+}
+
+void FieldPanel::tellEdited()
+{
+    if (!m_isShowing)
+        Q_EMIT edited();
 }
 
 const QVector<QStringList>& FieldPanel::queriedRows(const QString& query)
@@ -270,7 +285,7 @@ void FieldPanel::countBottom(const ControlDefinition& definition)
     }
 }
 
-void FieldPanel::finish()
+void FieldPanel::finish(const QString& numberField)
 {
     int right = 0;
     for (const Control& control : std::as_const(m_controls)) {
@@ -283,7 +298,8 @@ void FieldPanel::finish()
     const auto ordered = inTabOrder();
     chain(ordered);
     setFocusPolicy(Qt::NoFocus); // the keyboard belongs to the controls
-    chooseFirst(ordered);
+    m_firstNew = firstEditable(ordered, {});
+    m_first = firstEditable(ordered, numberField);
 }
 
 void FieldPanel::tieShownLabels()
@@ -320,28 +336,39 @@ void FieldPanel::chain(const QVector<Control>& ordered)
         setTabOrder(m_tabOrder[place - 1], m_tabOrder[place]);
 }
 
-void FieldPanel::chooseFirst(const QVector<Control>& ordered)
+/// @return nullptr without one; the control of the field @p except does not count.
+QWidget* FieldPanel::firstEditable(const QVector<Control>& ordered, const QString& except)
 {
-    const auto first = std::find_if(ordered.cbegin(), ordered.cend(), [](const Control& control) {
-        return isEditable(control.definition, *control.widget);
+    const auto first = std::ranges::find_if(ordered, [&](const Control& control) {
+        return isEditable(control.definition, *control.widget) &&
+               (except.isEmpty() || !isBoundTo(control.definition, except));
     });
-    m_firstEditable = first == ordered.cend() ? nullptr : first->widget;
+    return first == ordered.end() ? nullptr : first->widget;
 }
 
-void FieldPanel::focusFirst()
+void FieldPanel::focusOn(QWidget* control)
 {
-    if (m_firstEditable != nullptr) {
-        m_firstEditable->setFocus();
+    if (control != nullptr) {
+        control->setFocus();
     } else if (!m_tabOrder.isEmpty()) {
         m_tabOrder.constFirst()->setFocus();
     }
 }
 
+void FieldPanel::focusFirst()
+{
+    focusOn(m_first);
+}
+
+void FieldPanel::focusNew()
+{
+    focusOn(m_firstNew);
+}
+
 QString FieldPanel::labelOf(const QString& dataField) const
 {
-    const auto control = std::ranges::find_if(m_controls, [&](const Control& known) {
-        return known.definition.dataField.trimmed().compare(dataField, Qt::CaseInsensitive) == 0;
-    });
+    const auto control = std::ranges::find_if(
+        m_controls, [&](const Control& known) { return isBoundTo(known.definition, dataField); });
     return control == m_controls.end() ? QString() : control->widget->accessibleDescription();
 }
 
@@ -360,11 +387,13 @@ BoundFields FieldPanel::contents() const
 
 void FieldPanel::showContents(const BoundFields& fields)
 {
+    m_isShowing = true;
     auto field = fields.cbegin();
     for (const Control& control : std::as_const(m_controls)) {
         if (isBound(control.definition))
             showContent(control.definition.kind, *control.widget, (field++)->content);
     }
+    m_isShowing = false;
 }
 
 } // namespace norvane::screens

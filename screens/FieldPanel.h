@@ -36,7 +36,8 @@ public:
     /// @throws RuntimeFailure of the control's query, 13 for a list column that is no number.
     void addControl(const ControlDefinition& definition);
     /// After the last control: size of the panel, tab order, labels tied to their controls.
-    void finish();
+    /// @param numberField the field that holds the number of the record.
+    void finish(const QString& numberField);
 
     /// The controls that are bound to fields, in the order of the file, with what they show.
     [[nodiscard]] BoundFields contents() const;
@@ -48,11 +49,15 @@ public:
     [[nodiscard]] QString labelOf(const QString& dataField) const;
     /// Controls in tab order.
     [[nodiscard]] const QVector<QWidget*>& tabOrder() const { return m_tabOrder; }
-    /// Puts the focus where a user begins: into the first control in tab order that takes an entry. The
-    /// number of the record, which comes before it on most screens, cannot be changed there.
+    /// Puts the focus where the user begins in a stored record: into the first control in tab order that
+    /// takes an entry and is not its number, which what is typed at once would replace.
     void focusFirst();
+    /// Puts the focus where the user begins in a new record: into the first that takes an entry.
+    void focusNew();
 
 Q_SIGNALS:
+    /// A control holds something else than before; not raised by showContents().
+    void edited();
     void findPressed(int element);
     void maximumExceeded(QLineEdit* box);
     void gridDataError(norvane::screens::GridControl* grid, const QModelIndex& index, const QString& why);
@@ -71,6 +76,7 @@ private:
     [[nodiscard]] QWidget* makeText(const ControlDefinition& definition);
     [[nodiscard]] QWidget* makeCombo(const ControlDefinition& definition);
     [[nodiscard]] QWidget* makeGrid(const ControlDefinition& definition);
+    void tellEdited();
     [[nodiscard]] const QVector<QStringList>& queriedRows(const QString& query);
     [[nodiscard]] int nextElement(ControlKind kind);
     void place(const ControlDefinition& definition, QWidget& widget);
@@ -78,7 +84,8 @@ private:
     void tieShownLabels();
     [[nodiscard]] QVector<Control> inTabOrder() const;
     void chain(const QVector<Control>& ordered);
-    void chooseFirst(const QVector<Control>& ordered);
+    [[nodiscard]] static QWidget* firstEditable(const QVector<Control>& ordered, const QString& except);
+    void focusOn(QWidget* control);
 
     std::shared_ptr<store::Database> m_database;
     QWidget* m_picture; ///< carries the controls
@@ -86,9 +93,11 @@ private:
     QHash<ControlKind, int> m_counters;                 ///< next element of each kind
     QHash<QString, QVector<QStringList>> m_queriedRows; ///< many lists of a screen have the same query
     GridControl* m_grid = nullptr;                      ///< the one grid; each grid section is about it
+    bool m_isShowing = false;                           ///< within showContents()
     double m_bottom = 0;                                ///< twips
     QVector<QWidget*> m_tabOrder;
-    QWidget* m_firstEditable = nullptr;
+    QWidget* m_first = nullptr;    ///< that takes an entry; nullptr without one
+    QWidget* m_firstNew = nullptr; ///< the same in a new record
 };
 
 } // namespace norvane::screens

@@ -293,7 +293,8 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
     }
     Q_EMIT dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
     const QString key = store::shownKey(m_records->field(0).name, cell(index.siblingAtColumn(0)).toText());
-    Q_EMIT stored(recordSaved({}, headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), key));
+    const QString label = headerData(0, Qt::Horizontal, Qt::DisplayRole).toString();
+    Q_EMIT stored(recordSaved(recordName({}, label, key)));
     return true;
 }
 

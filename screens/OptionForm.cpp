@@ -13,7 +13,7 @@
 #include "ui/FrmSearch.h"
 #include "ui/WaitPointer.h"
 
-#include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,9 +21,10 @@ namespace norvane::screens
 {
 
 OptionForm::OptionForm(const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes,
-                       ReportRunner* reports, QWidget* parent)
-    : QWidget(parent), m_values(values), m_boxes(boxes), m_reports(reports), m_file(screenFilePath),
-      m_databasePath(values.databasePath), m_sideRoom(*this)
+                       ReportRunner* reports, std::shared_ptr<LostChangesList> losses)
+    : m_values(values), m_boxes(boxes), m_reports(reports), m_file(screenFilePath),
+      m_databasePath(values.databasePath),
+      m_losses(losses ? std::move(losses) : std::make_shared<LostChangesList>()), m_sideRoom(*this)
 {
     ui::nameControl(*this, u"OptionForm"_s);
     openTable();
@@ -31,30 +32,38 @@ OptionForm::OptionForm(const QString& screenFilePath, const ApplicationValues& v
     buildControls();
     buildList();
     buildButtons();
+    takeUndoKey();
     ShowFields();
     CSPict1->focusFirst();
 }
 
 OptionForm::~OptionForm() = default;
 
+QString OptionForm::caption() const
+{
+    return windowTitle().chopped(titleStar.size());
+}
+
 void OptionForm::ShowFields()
 {
     showRecord();
-    Q_EMIT told({});
+    Q_EMIT told(std::exchange(m_notice, {}));
 }
 
 void OptionForm::showRecord()
 {
     BoundFields fields = CSPict1->contents();
     m_editor->showFields(fields);
-    CSPict1->showContents(fields);
-    m_shown = CSPict1->contents();
+    showUnchanged(fields);
     markRecord();
 }
 
-bool OptionForm::isTouched() const
+/// What the controls show now is the record as it is stored, or an empty one.
+void OptionForm::showUnchanged(const BoundFields& fields)
 {
-    return !std::ranges::equal(CSPict1->contents(), m_shown, {}, &BoundField::content, &BoundField::content);
+    CSPict1->showContents(fields);
+    m_typed->begin();
+    showStar();
 }
 
 void OptionForm::refresh()
@@ -62,7 +71,7 @@ void OptionForm::refresh()
     attempt([this] {
         if (GridControl* const grid = CSPict1->grid())
             grid->reread();
-        if (!m_editor->isAdding() && !isTouched() && m_editor->reread())
+        if (!m_editor->isAdding() && !m_typed->exist() && m_editor->reread())
             showRecord();
     });
 }
@@ -98,8 +107,7 @@ void OptionForm::showNothing()
 {
     BoundFields fields = CSPict1->contents();
     m_editor->showNothing(fields);
-    CSPict1->showContents(fields);
-    m_shown = CSPict1->contents();
+    showUnchanged(fields);
     reloadList();
 }
 
@@ -127,35 +135,76 @@ void OptionForm::markRecord()
 
 void OptionForm::addRecord()
 {
+    drop(unsavedChanges());
+    startRecord();
+    Q_EMIT told(std::exchange(m_notice, {}));
+    CSPict1->focusNew();
+}
+
+void OptionForm::startRecord()
+{
     BoundFields fields = CSPict1->contents();
     m_editor->add(fields);
-    CSPict1->showContents(fields);
+    showUnchanged(fields);
     markRecord();
-    Q_EMIT told({});
-    CSPict1->focusFirst();
 }
 
 void OptionForm::saveRecord()
 {
-    BoundFields fields = CSPict1->contents();
-    if (m_editor->wouldOverwrite(fields) && !mayOverwrite(m_boxes))
-        return ShowFields();
-    const auto refusal = m_editor->save(fields);
-    CSPict1->showContents(fields);
-    if (refusal) {
-        tellRefusal(*refusal);
-    } else {
-        m_shown = CSPict1->contents();
-        tellSaved();
-        reloadList();
-    }
+    static_cast<void>(save());
 }
 
-void OptionForm::tellSaved()
+/// @return false if nothing was stored.
+bool OptionForm::save()
+{
+    BoundFields fields = CSPict1->contents();
+    if (m_editor->wouldOverwrite(fields) && !mayOverwrite(m_boxes)) {
+        drop(unsavedChanges());
+        ShowFields();
+        return false;
+    }
+    if (!mayRenumberRecord(fields)) {
+        keepNumber(fields);
+        return false;
+    }
+    const auto refusal = m_editor->save(fields);
+    if (refusal) {
+        CSPict1->showContents(fields);
+        tellRefusal(*refusal);
+        return false;
+    }
+    showUnchanged(fields);
+    Q_EMIT told(recordSaved(shownRecord()));
+    reloadList();
+    return true;
+}
+
+bool OptionForm::mayRenumberRecord(const BoundFields& fields)
+{
+    const auto number = m_editor->newNumber(fields);
+    if (!number)
+        return true;
+    const auto shown = [this](const store::Value& key) {
+        return store::shownKey(m_editor->searchedField(1).name, key.toText());
+    };
+    return mayRenumber(m_boxes, shownRecord(), shown(number->before), shown(number->after),
+                       holdersOfKey(*m_database, m_file.table().table, number->before));
+}
+
+/// What else was typed stays on the screen.
+void OptionForm::keepNumber(BoundFields fields)
+{
+    m_editor->restoreNumber(fields);
+    CSPict1->showContents(fields);
+    showStar();
+    Q_EMIT told(u"Nothing was stored: %1 keeps its number"_s.arg(shownRecord()));
+}
+
+QString OptionForm::shownRecord() const
 {
     const QString field = m_editor->searchedField(1).name;
     const QString key = m_list ? store::shownKey(field, m_editor->key()) : QString();
-    Q_EMIT told(recordSaved(windowTitle(), CSPict1->labelOf(field), key));
+    return recordName(caption(), CSPict1->labelOf(field), key);
 }
 
 void OptionForm::tellRefusal(const RuntimeFailure& failure)
@@ -178,6 +227,7 @@ void OptionForm::deleteRecord()
 
 void OptionForm::nextRecord()
 {
+    drop(unsavedChanges());
     if (!m_editor->next())
         tellNoMoreRecords();
     ShowFields();
@@ -185,6 +235,7 @@ void OptionForm::nextRecord()
 
 void OptionForm::previousRecord()
 {
+    drop(unsavedChanges());
     if (!m_editor->previous())
         tellNoMoreRecords();
     ShowFields();
@@ -200,10 +251,12 @@ void OptionForm::findRecord(int element)
     const auto searchText = ui::FrmSearch::ask(window(), kindOfKey(m_editor->searchedField(element)));
     if (!searchText)
         return;
+    const auto changes = unsavedChanges();
     const FindOutcome outcome = m_editor->find(element, *searchText);
     if (outcome != FindOutcome::Nothing) {
+        drop(changes);
         ShowFields();
-        if (outcome == FindOutcome::Next)
+        if (outcome == FindOutcome::Next && !changes)
             tellNext(m_editor->searchedField(element), *searchText);
         return;
     }
@@ -214,17 +267,19 @@ void OptionForm::findRecord(int element)
 /// As a find by the first index; another screen may have deleted the record since the list was read.
 void OptionForm::goTo(const QString& key)
 {
-    if (m_editor->find(1, key) != FindOutcome::Nothing)
-        ShowFields();
+    if (mayLeave() && m_editor->find(1, key) != FindOutcome::Nothing)
+        return ShowFields();
+    markRecord();
 }
 
 void OptionForm::tellNext(const store::FieldDefinition& field, const QString& sought)
 {
-    Q_EMIT told(foundNext(windowTitle(), CSPict1->labelOf(field.name), sought, m_list != nullptr));
+    Q_EMIT told(foundNext(caption(), CSPict1->labelOf(field.name), sought, m_list != nullptr));
 }
 
 void OptionForm::exitForm()
 {
+    drop(unsavedChanges());
     close();
 }
 

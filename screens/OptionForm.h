@@ -4,16 +4,19 @@
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 #include "platform/RuntimeFailure.h"
+#include "screens/LostChanges.h"
 #include "screens/RecordEditor.h"
 #include "screens/ReportRunner.h"
 #include "screens/ScreenReader.h"
 #include "screens/SideRoom.h"
+#include "screens/TypedChanges.h"
 #include "store/Database.h"
 
 #include <QWidget>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QHBoxLayout;
 class QLineEdit;
@@ -29,17 +32,19 @@ class RecordList;
 
 /// Builds itself from a screen file over the database at databasePath.
 /// Each instance has a connection and a place in the table of its own, so that several may be open on one
-/// table. Closing it loses what was not saved, without a question.
+/// table. The title has a star while something typed is not saved. Moves, Find, Add and Exit drop that
+/// without a question, and Ctrl+Z gets it back; the record list and closing the window ask first.
 class OptionForm : public QWidget
 {
     Q_OBJECT
 
 public:
     /// @param reports behind the print button, which is greyed without it.
+    /// @param losses where dropped changes are kept; a list of its own without one.
     /// @throws RuntimeFailure 3265 for an unknown table, index or field, 3021 for an empty table, 13 for a
     /// bad number or word in the file, and those of the database; the text names the screen file.
     OptionForm(const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes,
-               ReportRunner* reports = nullptr, QWidget* parent = nullptr);
+               ReportRunner* reports = nullptr, std::shared_ptr<LostChangesList> losses = nullptr);
     ~OptionForm() override;
 
     [[nodiscard]] QSize sizeHint() const override { return m_size; }
@@ -49,15 +54,27 @@ public:
     /// Shows the record, and the rows of a grid, as they stand in the file now, which another screen, a price
     /// change or an upload may have changed; a record in which the user has typed stays as it is.
     void refresh();
+    /// Returns to the record whose changes this screen, or an earlier one of the same file, dropped last, and
+    /// puts them back into the controls. What is typed here now is kept in their place.
+    void getBack();
+    [[nodiscard]] QString screenFile() const { return m_file.path(); }
+    [[nodiscard]] QString databasePath() const { return m_databasePath; }
 
 Q_SIGNALS:
     /// What the last action came to, in words for the status bar; empty once the screen shows another record.
     void told(const QString& text);
+    /// getBack() has nothing to bring back.
+    void nothingToGetBack();
 
 protected:
     bool event(QEvent* event) override;
+    /// Leaves Ctrl+Z in a box to the screen while nothing is typed.
+    bool eventFilter(QObject* box, QEvent* event) override;
+    /// Asks first while something typed is not saved; Exit has dropped it by then.
+    void closeEvent(QCloseEvent* event) override;
 
 private:
+    static constexpr QLatin1StringView titleStar{"[*]"}; ///< where the title shows unsaved changes
     struct ButtonRow {
         const char* name;
         const char* caption;
@@ -67,6 +84,7 @@ private:
     };
     [[nodiscard]] static const QVector<ButtonRow>& buttonRows();
 
+    [[nodiscard]] QString caption() const;
     void openTable();
     void buildWindow();
     void buildControls();
@@ -81,9 +99,16 @@ private:
     void attempt(const std::function<void()>& act);
     void tellFailure(const RuntimeFailure& failure);
     void showNothing();
+    void takeUndoKey();
     void addRecord();
+    void startRecord();
     void saveRecord();
-    void tellSaved();
+    [[nodiscard]] bool save();
+    [[nodiscard]] bool mayRenumberRecord(const BoundFields& fields);
+    void keepNumber(BoundFields fields);
+    /// "PLU 1001"; the caption for the only record of a screen.
+    [[nodiscard]] QString shownRecord() const;
+    [[nodiscard]] QString unsavedRecord() const;
     void tellRefusal(const RuntimeFailure& failure);
     void deleteRecord();
     void nextRecord();
@@ -96,7 +121,13 @@ private:
     void printReport();
     void exitForm();
     void showRecord();
-    [[nodiscard]] bool isTouched() const;
+    void showUnchanged(const BoundFields& fields);
+    void showStar();
+    [[nodiscard]] std::optional<LostChanges> unsavedChanges() const;
+    void drop(std::optional<LostChanges> changes);
+    [[nodiscard]] bool mayLeave();
+    void returnTo(const LostChanges& lost);
+    void putBack(const LostChanges& lost);
     void rejectCell(GridControl& grid, const QModelIndex& index, const QString& why);
     void tellNoMoreRecords();
 
@@ -110,7 +141,9 @@ private:
     FieldPanel* CSPict1 = nullptr;
     RecordList* m_list = nullptr; ///< beside screens that walk several records
     bool m_failed = false;        ///< it closes, and does nothing any more
-    BoundFields m_shown;          ///< the controls as the record or the last save left them
+    std::optional<TypedChanges> m_typed;
+    std::shared_ptr<LostChangesList> m_losses;
+    QString m_notice; ///< what the action that is under way has dropped or saved, said at its end
     QSize m_size;
     SideRoom m_sideRoom; ///< for the open list
 };

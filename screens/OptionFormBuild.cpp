@@ -56,7 +56,7 @@ void OptionForm::openTable()
 void OptionForm::buildWindow()
 {
     const ScreenWindow window = m_file.window();
-    setWindowTitle(window.name.isEmpty() ? designedCaption() : window.name);
+    setWindowTitle((window.name.isEmpty() ? designedCaption() : window.name) + titleStar);
     m_size = ui::scaled(QSize(paper::screenPixels(paper::twips(window.width.value_or(designedWidth))),
                               paper::screenPixels(paper::twips(window.height.value_or(designedHeight)))));
 }
@@ -74,7 +74,9 @@ void OptionForm::buildControls()
             CSPict1->addControl(definition);
         });
     }
-    CSPict1->finish();
+    CSPict1->finish(m_editor->searchedField(1).name);
+    m_typed.emplace(*CSPict1);
+    connect(CSPict1, &FieldPanel::edited, this, &OptionForm::showStar);
     connect(CSPict1, &FieldPanel::findPressed, this,
             [this](int element) { attempt([&] { findRecord(element); }); });
     connect(CSPict1, &FieldPanel::maximumExceeded, this,
@@ -157,7 +159,7 @@ void OptionForm::layOut(QHBoxLayout* buttons)
 /// The form grows with it: the grid keeps its rows.
 void OptionForm::addFindBar(GridControl& grid, QVBoxLayout& column)
 {
-    grid.setAccessibleDescription(windowTitle());
+    grid.setAccessibleDescription(caption());
     connect(&grid, &GridControl::stored, this, &OptionForm::told);
     auto* const bar = new GridFindBar(grid, this);
     column.insertWidget(0, bar);

@@ -200,6 +200,44 @@ bool RecordEditor::wouldOverwrite(const BoundFields& fields)
     });
 }
 
+bool RecordEditor::isNumber(const BoundField& field) const
+{
+    return field.dataField.trimmed().compare(searchedField(1).name, Qt::CaseInsensitive) == 0;
+}
+
+const store::Value& RecordEditor::numberIn(const std::vector<store::Value>& record) const
+{
+    static const store::Value none;
+    const int ordinal = m_records.fieldOrdinal(searchedField(1).name);
+    return record.empty() ? none : record.at(static_cast<std::size_t>(ordinal));
+}
+
+std::optional<NewNumber> RecordEditor::newNumber(const BoundFields& fields)
+{
+    const store::ShortWait wait(*m_database);
+    const auto typed = std::ranges::find_if(
+        fields, [this](const auto& field) { return !field.readOnly && isNumber(field); });
+    const store::Value before = numberIn(m_seen);
+    if (isAdding() || typed == fields.end() || before.isNull() || !reread())
+        return {};
+    const auto& definition = searchedField(1);
+    const auto filled = [&](const store::Value& value) {
+        return isPluNumber(definition.name) ? store::Value::text(pluNumber(value.toText())) : value;
+    };
+    const store::Value after = filled(valueToStore(*typed, definition));
+    if (after.toText() == filled(before).toText() || hasRecord(m_table.firstIndex, store::Seek::Equal, after))
+        return {};
+    return NewNumber{before, after};
+}
+
+void RecordEditor::restoreNumber(BoundFields& fields) const
+{
+    for (BoundField& field : fields) {
+        if (isNumber(field))
+            field.content = shownValue(field, numberIn(m_seen));
+    }
+}
+
 std::optional<RuntimeFailure> RecordEditor::save(BoundFields& fields)
 {
     const store::ShortWait wait(*m_database);
@@ -268,7 +306,7 @@ bool RecordEditor::reread()
 {
     const store::ShortWait wait(*m_database);
     try {
-        return isStillThere() || (m_seen.empty() ? goToFirst() : goToSameKey());
+        return isStillThere() || (m_seen.empty() ? goToFirst() : goBackTo(m_seen));
     } catch (const RuntimeFailure&) {
         return false; // what needs the record next reports it
     }
@@ -280,13 +318,14 @@ bool RecordEditor::goToFirst()
     return true;
 }
 
-bool RecordEditor::goToSameKey()
+bool RecordEditor::goBackTo(const std::vector<store::Value>& seen)
 {
+    const store::Value key = numberIn(seen);
+    if (seen.empty() || !hasRecord(m_table.firstIndex, store::Seek::Equal, key))
+        return false;
     const QString order = m_records.index();
     m_records.changeOrder(m_table.firstIndex);
-    const int ordinal = m_records.fieldOrdinal(searchedField(1).name);
-    const store::Value& key = m_seen.at(static_cast<std::size_t>(ordinal));
-    const bool found = hasRecord(store::Seek::Equal, key) && m_records.seek(store::Seek::Equal, key);
+    const bool found = m_records.seek(store::Seek::Equal, key);
     m_records.changeOrder(order);
     return found;
 }
@@ -338,10 +377,10 @@ QString RecordEditor::key() const
 }
 
 /// On a recordset of its own: a search without result would lose the place.
-bool RecordEditor::hasRecord(store::Seek comparison, const store::Value& key) const
+bool RecordEditor::hasRecord(const QString& index, store::Seek comparison, const store::Value& key) const
 {
     store::Recordset records = m_database->openTable(m_table.table);
-    records.setIndex(m_records.index());
+    records.setIndex(index);
     try {
         return records.seek(comparison, key);
     } catch (const RuntimeFailure& failure) {
@@ -356,7 +395,7 @@ FindOutcome RecordEditor::find(int button, const QString& text)
     const QString& index = indexOf(button);
     namingFile(m_screenFile, [&] { m_records.changeOrder(index); });
     const auto key = store::Value::text(isPluNumber(index) ? pluNumber(text) : text);
-    if (!hasRecord(store::Seek::AtOrAfter, key) || !m_records.seek(store::Seek::AtOrAfter, key))
+    if (!hasRecord(index, store::Seek::AtOrAfter, key) || !m_records.seek(store::Seek::AtOrAfter, key))
         return FindOutcome::Nothing;
     return text.isEmpty() || isAt(searchedField(button), key) ? FindOutcome::Found : FindOutcome::Next;
 }
@@ -365,7 +404,7 @@ FindOutcome RecordEditor::find(int button, const QString& text)
 bool RecordEditor::isAt(const store::FieldDefinition& field, const store::Value& key) const
 {
     if (field.type != store::FieldType::Text || isPluNumber(field.name))
-        return hasRecord(store::Seek::Equal, key);
+        return hasRecord(m_records.index(), store::Seek::Equal, key);
     return m_records.value(field.name).toText().startsWith(key.toText(), Qt::CaseInsensitive);
 }
 

@@ -25,6 +25,12 @@ struct BoundField {
 
 using BoundFields = QVector<BoundField>;
 
+/// The number of a stored record, and the one that it is about to get.
+struct NewNumber {
+    store::Value before;
+    store::Value after;
+};
+
 /// What a search came to. Next: the first record behind what was sought, which itself is missing.
 enum class FindOutcome { Found, Next, Nothing };
 
@@ -51,6 +57,11 @@ public:
     /// Whether a save of @p fields would write over values that another screen or program has stored since
     /// showFields().
     [[nodiscard]] bool wouldOverwrite(const BoundFields& fields);
+    /// The number that a save of @p fields would give to a record that is stored already; nothing if the
+    /// number stays, or if another record has the new one, so that the save would be refused.
+    [[nodiscard]] std::optional<NewNumber> newNumber(const BoundFields& fields);
+    /// Puts the number of the record as it was shown back into @p fields.
+    void restoreNumber(BoundFields& fields) const;
     /// Stores @p fields into the current record, or into the new one. A record that was refused stays open
     /// for the next attempt. PLU numbers are filled with zeros to their full width, in @p fields as well.
     /// Waits less than a second for a file that another program holds.
@@ -64,6 +75,14 @@ public:
     /// that is not stored yet.
     /// @return false when there is no such record either, or the file cannot be read.
     [[nodiscard]] bool reread();
+    /// All fields of the record as it was shown or stored last; empty while there is none.
+    [[nodiscard]] const std::vector<store::Value>& seen() const { return m_seen; }
+    /// Goes to the record with the number that @p seen has; the index that is chosen stays.
+    /// @return false if there is none any more. The place stays then, and a record being added or changed.
+    [[nodiscard]] bool goBackTo(const std::vector<store::Value>& seen);
+    /// From now on, the current record counts as shown in the state @p seen: wouldOverwrite() reports what
+    /// others have stored since.
+    void setSeen(std::vector<store::Value> seen) { m_seen = std::move(seen); }
 
     /// @return false past the last record: the place is the last record then.
     [[nodiscard]] bool next();
@@ -92,10 +111,11 @@ private:
     [[nodiscard]] bool isOverwritten(const BoundField& field) const;
     [[nodiscard]] bool isStillThere();
     [[nodiscard]] bool goToFirst();
-    [[nodiscard]] bool goToSameKey();
     [[nodiscard]] const QString& indexOf(int button) const;
     [[nodiscard]] bool isAt(const store::FieldDefinition& field, const store::Value& key) const;
-    [[nodiscard]] bool hasRecord(store::Seek comparison, const store::Value& key) const;
+    [[nodiscard]] bool isNumber(const BoundField& field) const;
+    [[nodiscard]] const store::Value& numberIn(const std::vector<store::Value>& record) const;
+    [[nodiscard]] bool hasRecord(const QString& index, store::Seek comparison, const store::Value& key) const;
 
     std::shared_ptr<store::Database> m_database;
     ScreenTable m_table;

@@ -1,6 +1,8 @@
 // See SaveNotices.h.
 #include "screens/SaveNotices.h"
 
+#include "base/LossQuestion.h"
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -37,6 +39,37 @@ bool mayOverwrite(Boxes& boxes)
                         u"Record Changed"_s, u"&Save"_s, u"S&how"_s);
 }
 
+bool mayRenumber(Boxes& boxes, const QString& record, const QString& before, const QString& after,
+                 const KeyHolders& holders)
+{
+    QString text = u"%1 will get the number %2."_s.arg(record, after);
+    if (!holders.words.isEmpty())
+        text += u"\r\r%1 is used by %2."_s.arg(before, holders.words);
+    if (holders.count > 0)
+        text += u" They keep the old number and will not find this record any more."_s;
+    return askBeforeLoss(boxes, text + u"\r\rSave it under the new number?"_s);
+}
+
+UnsavedAnswer askToSave(Boxes& boxes, const QString& record)
+{
+    return boxes.askToSave(u"Changes to %1 are not saved."_s.arg(record), u"Unsaved Changes"_s);
+}
+
+QString changesLost(const QString& record)
+{
+    return u"Changes to %1 were not saved. Press Ctrl+Z to get them back"_s.arg(record);
+}
+
+QString changesBack(const QString& record)
+{
+    return u"Changes to %1 are back. Press Save to store them"_s.arg(record);
+}
+
+QString changesGone(const QString& record)
+{
+    return u"Changes to %1 cannot be brought back: the record was deleted"_s.arg(record);
+}
+
 QString nothingStored(const RuntimeFailure& failure)
 {
     const auto* const known = std::ranges::find(reasons, failure.failure(), &Reason::failure);
@@ -51,9 +84,14 @@ QString recordName(const QString& caption, QString label)
     return label.isEmpty() ? caption : label;
 }
 
-QString recordSaved(const QString& caption, const QString& label, const QString& key)
+QString recordName(const QString& caption, const QString& label, const QString& key)
 {
-    return u"Saved "_s + (key.isEmpty() ? caption : recordName(caption, label) + u' ' + key);
+    return key.isEmpty() ? caption : recordName(caption, label) + u' ' + key;
+}
+
+QString recordSaved(const QString& record)
+{
+    return u"Saved "_s + record;
 }
 
 } // namespace norvane::screens

@@ -3,6 +3,7 @@
 
 #include "platform/Boxes.h"
 #include "platform/RuntimeFailure.h"
+#include "screens/KeyReferences.h"
 
 #include <QString>
 
@@ -13,6 +14,20 @@ namespace norvane::screens
 /// fields of a screen, also those that the user left alone.
 [[nodiscard]] bool mayOverwrite(Boxes& boxes);
 
+/// Asks whether @p record ("PLU 1001") may get the number @p after in place of @p before, since what refers
+/// to a record by its number keeps the old one. @param holders of the old number.
+[[nodiscard]] bool mayRenumber(Boxes& boxes, const QString& record, const QString& before,
+                               const QString& after, const KeyHolders& holders);
+
+/// Asks what becomes of changes to @p record ("PLU 1001") before a control leads away from them.
+[[nodiscard]] UnsavedAnswer askToSave(Boxes& boxes, const QString& record);
+/// Says that they were left unsaved, and how to get them back.
+[[nodiscard]] QString changesLost(const QString& record);
+/// Says that they are on the screen again.
+[[nodiscard]] QString changesBack(const QString& record);
+/// Says that they cannot be got back, since the record was deleted.
+[[nodiscard]] QString changesGone(const QString& record);
+
 /// Says that nothing was stored, and why.
 [[nodiscard]] QString nothingStored(const RuntimeFailure& failure);
 
@@ -20,8 +35,10 @@ namespace norvane::screens
 /// empty where the key is not shown.
 [[nodiscard]] QString recordName(const QString& caption, QString label);
 
-/// "Saved PLU 1001" for the record @p key of many, which the screen calls by the words @p label; "Saved Tax
-/// Options" with an empty key for the only record of the screen @p caption.
-[[nodiscard]] QString recordSaved(const QString& caption, const QString& label, const QString& key);
+/// "PLU 1001" for the record @p key of many; "Tax Options" with an empty key for the only record of a screen.
+[[nodiscard]] QString recordName(const QString& caption, const QString& label, const QString& key);
+
+/// "Saved PLU 1001".
+[[nodiscard]] QString recordSaved(const QString& record);
 
 } // namespace norvane::screens

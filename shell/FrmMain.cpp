@@ -78,6 +78,7 @@ FrmMain::FrmMain(const ApplicationValues& values, Boxes& boxes, Openers openers)
     StatusBar1->setPanel(readyText());
     buildMenu();
     takeMenuKey();
+    takeUndoKey();
     placeOnScreen();
 }
 
@@ -101,6 +102,18 @@ void FrmMain::takeMenuKey()
         QKeyEvent released(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
         QCoreApplication::sendEvent(this, &pressed);
         QCoreApplication::sendEvent(this, &released);
+    });
+}
+
+/// A child window has a Ctrl+Z of its own, and a key of two owners would reach neither.
+void FrmMain::takeUndoKey()
+{
+    auto* const undo = new QShortcut(QKeySequence::Undo, this);
+    connect(m_area, &QMdiArea::subWindowActivated, undo,
+            [undo](const QMdiSubWindow* child) { undo->setEnabled(child == nullptr); });
+    connect(undo, &QShortcut::activated, this, [this] {
+        if (m_openers.lostScreen && !m_working)
+            m_openers.lostScreen(*this);
     });
 }
 
@@ -230,6 +243,11 @@ void FrmMain::showShared(const QString& name, const std::function<QWidget*()>& m
         if (size == FormSize::Fixed)
             child.setFixedSize(child.size());
     });
+}
+
+void FrmMain::bringToFront(const QWidget& form)
+{
+    m_area->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(form.parentWidget()));
 }
 
 void FrmMain::showCustomer()

@@ -36,6 +36,9 @@ public:
     struct Openers {
         FormOpeners forms;
         ScreenOpener screen;
+        /// Opens the screen whose changes were lost last, with them. For Ctrl+Z while no child window is
+        /// open.
+        std::function<void(FrmMain&)> lostScreen = {};
     };
 
     FrmMain(const ApplicationValues& values, Boxes& boxes, Openers openers);
@@ -52,6 +55,7 @@ public:
     /// Shows the form @p name, of which only one is open at a time; makes it when none is.
     void showShared(const QString& name, const std::function<QWidget*()>& make,
                     FormSize size = FormSize::Fixed);
+    void bringToFront(const QWidget& form);
     /// Closes the window and its child windows without asking.
     void unload();
 
@@ -76,6 +80,7 @@ private:
     [[nodiscard]] QAction* buildEntry(const MenuEntry& entry);
     void placeOnScreen();
     void takeMenuKey();
+    void takeUndoKey();
     void choose(const MenuEntry& entry);
     void open(const MenuEntry& entry);
     void openScreen(const MenuEntry& entry);

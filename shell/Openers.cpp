@@ -2,6 +2,7 @@
 #include "shell/Openers.h"
 
 #include "exchange/FrmComm.h"
+#include "platform/FailureBox.h"
 #include "sales/FrmsalesComm.h"
 #include "screens/OptionForm.h"
 #include "shell/FrameOpeners.h"
@@ -13,6 +14,7 @@
 
 #include <QMdiSubWindow>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
@@ -49,24 +51,54 @@ void openCollection(FrmMain& main, const ApplicationValues& values, Boxes& boxes
     });
 }
 
-/// Notices of a screen are shown in the status bar until the screen closes. A screen that comes to the front
-/// reads its record again, and all screens do after a menu entry: others may have changed it.
-void openScreen(FrmMain& main, const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes)
+/// Opens screens, and gets back what was typed into one and not saved.
+class Screens
 {
-    auto reports = std::make_unique<ScreenReports>(main, values, boxes);
-    auto* const form = new screens::OptionForm(screenFilePath, values, boxes, reports.get());
-    reports.release()->setParent(form);
-    auto* const status = &main.statusBar1();
-    QObject::connect(form, &screens::OptionForm::told, status, &MainStatusBar::setNotice);
-    QObject::connect(form, &QObject::destroyed, status, [status] { status->setNotice({}); });
-    QObject::connect(&main, &FrmMain::entryDone, form, &screens::OptionForm::refresh);
-    const QMdiSubWindow& child = main.showChild(form);
-    QObject::connect(&child, &QMdiSubWindow::windowStateChanged, form,
-                     [form](Qt::WindowStates before, Qt::WindowStates now) {
-                         if ((now & ~before).testFlag(Qt::WindowActive))
-                             form->refresh();
-                     });
-}
+public:
+    Screens(ApplicationValues& values, Boxes& boxes) : m_values(values), m_boxes(boxes) {}
+
+    /// Notices of a screen are shown in the status bar. A screen that comes to the front reads its record
+    /// again, and all screens do after a menu entry: others may have changed it.
+    screens::OptionForm& open(FrmMain& main, const QString& screenFile)
+    {
+        auto reports = std::make_unique<ScreenReports>(main, m_values, m_boxes);
+        auto* const form = new screens::OptionForm(screenFile, m_values, m_boxes, reports.get(), m_losses);
+        reports.release()->setParent(form);
+        QObject::connect(form, &screens::OptionForm::told, &main.statusBar1(), &MainStatusBar::setNotice);
+        QObject::connect(form, &screens::OptionForm::nothingToGetBack, &main,
+                         [this, &main] { getBack(main); });
+        QObject::connect(&main, &FrmMain::entryDone, form, &screens::OptionForm::refresh);
+        const QMdiSubWindow& child = main.showChild(form);
+        QObject::connect(&child, &QMdiSubWindow::windowStateChanged, form,
+                         [form](Qt::WindowStates before, Qt::WindowStates now) {
+                             if ((now & ~before).testFlag(Qt::WindowActive))
+                                 form->refresh();
+                         });
+        return *form;
+    }
+
+    /// In the screen that lost changes last, which is opened again if the user has left it.
+    void getBack(FrmMain& main)
+    {
+        const QString file = m_losses->latestScreen(m_values.databasePath);
+        if (file.isEmpty())
+            return;
+        const auto forms = main.findChildren<screens::OptionForm*>();
+        const auto found = std::ranges::find_if(forms, [&](const screens::OptionForm* form) {
+            return form->screenFile() == file && form->databasePath() == m_values.databasePath;
+        });
+        openOrTell(m_boxes, [&] {
+            screens::OptionForm& form = found == forms.end() ? open(main, file) : **found;
+            main.bringToFront(form);
+            form.getBack();
+        });
+    }
+
+private:
+    ApplicationValues& m_values;
+    Boxes& m_boxes;
+    std::shared_ptr<screens::LostChangesList> m_losses = std::make_shared<screens::LostChangesList>();
+};
 
 } // namespace
 
@@ -83,8 +115,10 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
     openers.insert(makeReportOpeners(values, boxes));
     openers.insert(makeKeyOpeners(values, boxes));
     openers.insert(makeOverlayOpeners(values, boxes));
-    return {openers, [&values, &boxes](FrmMain& main, const QString& screenFilePath) {
-                openScreen(main, screenFilePath, values, boxes);
+    const auto editors = std::make_shared<Screens>(values, boxes);
+    return {openers, [editors](FrmMain& main, const QString& file) { editors->open(main, file); },
+            [editors](FrmMain& main) {
+                editors->getBack(main);
             }};
 }
 

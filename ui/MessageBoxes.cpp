@@ -153,6 +153,19 @@ bool MessageBoxes::choose(const QString& text, const QString& title, const QStri
     return box.clickedButton() == chosen;
 }
 
+UnsavedAnswer MessageBoxes::askToSave(const QString& text, const QString& title)
+{
+    switch (show(text, title, BoxIcon::Exclamation,
+                 QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save)) {
+    case QMessageBox::Save:
+        return UnsavedAnswer::Save;
+    case QMessageBox::Discard:
+        return UnsavedAnswer::Discard;
+    default:
+        return UnsavedAnswer::Cancel;
+    }
+}
+
 bool MessageBoxes::confirm(const QString& text, const QString& title)
 {
     return show(text, title, BoxIcon::Question, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;

@@ -16,6 +16,7 @@ public:
     std::optional<bool> askBeforeGoingOn(const QString& text, const QString& title) override;
     bool choose(const QString& text, const QString& title, const QString& first,
                 const QString& second) override;
+    UnsavedAnswer askToSave(const QString& text, const QString& title) override;
     bool confirm(const QString& text, const QString& title) override;
     QString input(const QString& prompt, const QString& title, const QString& initial) override;
     QString fileToOpen(const FileRequest& request) override;

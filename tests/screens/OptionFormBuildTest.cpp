@@ -25,7 +25,7 @@ TEST_F(OptionFormBuildTest, PlacesControlsInPixelsAndNamesThemByElement)
                       "[Field4]\nControlType=Slider\n"
                       "[Field5]\nControlType=LabelControl\nDescription=R && D\nX=150\nY=1200\nVisible=1\n"
                       "[Field6]\nControlType=\n[Field7]\nControlType=CheckControl\n");
-    EXPECT_EQ(form->windowTitle(), u"Groups"_s);
+    EXPECT_EQ(form->windowTitle(), u"Groups[*]"_s);
     EXPECT_EQ(form->size(), QSize(600, 300));
     EXPECT_EQ(control(form, "TextControl_1")->geometry().topLeft(), QPoint(120, 20));
     EXPECT_EQ(control(form, "TextControl_1")->width(), 200);

@@ -43,18 +43,26 @@ protected:
                "[Field9]\nControlType=CheckControl\nY=4100\nVisible=True\nDatafield=FLAG\n"
                "[Field10]\nControlType=DecimalNumberControl\nY=4600\nVisible=True\nDatafield=RATE\nReadOnly="
                "True\n");
-        form = open();
+        show(open());
+    }
+    void show(Form opened)
+    {
+        form = std::move(opened);
+        QObject::connect(form.get(), &OptionForm::told, form.get(),
+                         [this](const QString& text) { m_told = text.toStdString(); });
+    }
+    void undo()
+    {
+        QApplication::setActiveWindow(form.get()); // a dialog leaves none on this platform
+        QWidget* const focus = QApplication::focusWidget();
+        QTest::keyClick(focus ? focus : form.get(), Qt::Key_Z, Qt::ControlModifier);
     }
     [[nodiscard]] std::string name() const { return text(form, "TextControl_1"); }
     /// Presses a button. @return what the status bar says then.
     std::string toldBy(const char* button)
     {
-        QString last;
-        const auto listening = QObject::connect(form.get(), &OptionForm::told, form.get(),
-                                                [&](const QString& text) { last = text; });
         press(form, button);
-        QObject::disconnect(listening);
-        return last.toStdString();
+        return m_told;
     }
     [[nodiscard]] std::string groupNames() const
     {
@@ -68,6 +76,7 @@ protected:
     }
 
     Form form;
+    std::string m_told; ///< what the status bar says
 };
 
 TEST_F(OptionFormTest, WhatTheUserTypesIsStoredOnSave)
@@ -96,7 +105,7 @@ TEST_F(OptionFormTest, WhatTheUserTypesIsStoredOnSave)
 TEST_F(OptionFormTest, NullIsShownEmptyAndAFailingSaveShowsNoBox)
 {
     execute("update GROUPS set DESCRIPTION = null, PRICE = null, LINK = null, TAX1 = null where GROUPNO = 1");
-    form = open();
+    show(open());
     EXPECT_EQ(name(), "");
     EXPECT_EQ(text(form, "DecimalNumberControl_1"), "0.00");
     EXPECT_TRUE(control<ui::ValueList>(form, "ComboControl_1")->value().isNull());
@@ -147,6 +156,101 @@ TEST_F(OptionFormTest, MovesLoseWhatWasTypedAndTellTheEnds)
     EXPECT_EQ(name(), "Food");
 }
 
+TEST_F(OptionFormTest, TypedChangesShowAStarAndComeBackAfterEachButtonThatDropsThem)
+{
+    type(form, "TextControl_1", "Ports");
+    EXPECT_TRUE(form->isWindowModified());
+    undo();
+    undo();
+    EXPECT_EQ(name(), "Wines") << "a box takes back the typing first";
+    EXPECT_FALSE(form->isWindowModified());
+    const std::string lost = "Changes to Options 1 were not saved. Press Ctrl+Z to get them back";
+    const auto find3 = [&] {
+        find(form, "FindControl_1", "3");
+    };
+    for (const char* leaving : {"NextRecord", "PreviousRecord", "AddRecord", "find", "ExitForm"}) {
+        type(form, "TextControl_1", "Ports");
+        QTest::keyClick(control(form, "CheckControl_1"), Qt::Key_Space);
+        m_told.clear();
+        leaving == std::string_view("find") ? find3() : press(form, leaving);
+        EXPECT_EQ(m_told, lost) << leaving;
+        EXPECT_FALSE(form->isWindowModified());
+        execute("update GROUPS set PRICE = '7' where GROUPNO = 1");
+        if (!form->isVisible())
+            show(open());
+        undo();
+        EXPECT_EQ(name(), "Ports") << leaving;
+        EXPECT_EQ(m_told, "Changes to Options 1 are back. Press Save to store them");
+        EXPECT_TRUE(form->isWindowModified());
+        EXPECT_EQ(group(1), "Wines|7|3|null|True|1|1.5") << "nothing is stored";
+        press(form, "SaveRecord");
+        EXPECT_EQ(group(1), "Ports|7|3|null|False|0|1.5") << "with what others stored meanwhile";
+        EXPECT_FALSE(form->isWindowModified());
+        execute("update GROUPS set DESCRIPTION = 'Wines', PRICE = '12.34', TAX1 = True, FLAG = 1 where "
+                "GROUPNO = 1");
+        form->refresh();
+        m_boxes.shown.clear(); // "No More Records"
+    }
+    undo();
+    EXPECT_EQ(name(), "Wines") << "each comes back once";
+}
+
+TEST_F(OptionFormTest, LostChangesMeetWhatHappenedToTheirRecordMeanwhile)
+{
+    type(form, "TextControl_1", "Ports");
+    press(form, "NextRecord");
+    execute("update GROUPS set DESCRIPTION = 'Sherry' where GROUPNO = 1");
+    undo();
+    press(form, "SaveRecord");
+    EXPECT_EQ(takeBox().title, u"Record Changed"_s);
+    EXPECT_EQ(name(), "Sherry");
+    EXPECT_EQ(m_told.find("Changes to Options 1 were not saved."), 0U) << "dropped by Show";
+    execute("delete * from GROUPS where GROUPNO = 1");
+    press(form, "NextRecord");
+    undo();
+    EXPECT_EQ(m_told, "Changes to Options 1 cannot be brought back: the record was deleted");
+    EXPECT_EQ(name(), "Beers");
+
+    press(form, "AddRecord");
+    type(form, "TextControl_1", "Spirits");
+    type(form, "IntegerNumberControl_1", "7");
+    press(form, "NextRecord");
+    EXPECT_EQ(m_told, "Changes to the new record were not saved. Press Ctrl+Z to get them back");
+    type(form, "TextControl_1", "Snacks");
+    control(form, "NextRecord")->setFocus();
+    undo();
+    EXPECT_EQ(name(), "Spirits");
+    EXPECT_EQ(m_told.find("Changes to Options 3 were not saved."), 0U) << m_told;
+    press(form, "SaveRecord");
+    EXPECT_EQ(groupNames(), "Beers Food Spirits");
+    undo();
+    EXPECT_EQ(name(), "Snacks");
+}
+
+TEST_F(OptionFormTest, ClosingTheWindowAsksWhatBecomesOfTypedChanges)
+{
+    const ShownBox question{u"Changes to Options 1 are not saved. [Save|Discard|Cancel]"_s,
+                            u"Unsaved Changes"_s, BoxIcon::Exclamation};
+    type(form, "TextControl_1", "Ports");
+    form->close();
+    EXPECT_EQ(takeBox(), question);
+    EXPECT_TRUE(form->isVisible()) << "cancelled";
+    m_boxes.unsavedAnswers = {UnsavedAnswer::Discard};
+    form->close();
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(groupNames(), "Wines Beers Food");
+    show(open());
+    type(form, "TextControl_1", "Ports");
+    execute("update GROUPS set DESCRIPTION = 'Sherry' where GROUPNO = 1");
+    m_boxes.unsavedAnswers = {UnsavedAnswer::Save, UnsavedAnswer::Save};
+    form->close();
+    EXPECT_TRUE(form->isVisible()) << "not saved, since another change was shown first";
+    type(form, "TextControl_1", "Ports");
+    form->close();
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(groupNames(), "Ports Beers Food");
+}
+
 TEST_F(OptionFormTest, ANewRecordWithATakenKeyCanBeCorrectedAndStaysTheOneThatIsShown)
 {
     press(form, "AddRecord");
@@ -161,9 +265,9 @@ TEST_F(OptionFormTest, ANewRecordWithATakenKeyCanBeCorrectedAndStaysTheOneThatIs
     press(form, "SaveRecord");
     EXPECT_EQ(group(4), "Spirits|0|0|null|False|0|null");
     type(form, "IntegerNumberControl_1", "6");
+    m_boxes.answers = {true, true};
     press(form, "SaveRecord");
     EXPECT_EQ(rows("select GROUPNO from GROUPS order by GROUPNO"), "1 2 3 6");
-    m_boxes.answers = {true};
     press(form, "DeleteRecord");
     EXPECT_EQ(groupNames(), "Wines Beers Food");
 }
@@ -350,6 +454,7 @@ TEST_F(OptionFormTest, PluNumbersAreFilledToTheirWidth)
     press(form, "SaveRecord");
     EXPECT_EQ(takeBox(), codeExists);
     type(form, "TextControl_1", "99000000000000000004");
+    m_boxes.answers = {true};
     press(form, "SaveRecord");
     EXPECT_EQ(text(form, "TextControl_1"), "000000000000000004");
     EXPECT_EQ(rows("select PLUNUMBER, DESCRIPTION from PLUDATA order by PLUNUMBER"),

@@ -70,7 +70,8 @@ protected:
     /// Opens the screen file that is written now.
     Form open()
     {
-        auto form = std::make_unique<screens::OptionForm>(m_screenFilePath, m_values, m_boxes);
+        auto form =
+            std::make_unique<screens::OptionForm>(m_screenFilePath, m_values, m_boxes, nullptr, m_losses);
         form->show();
         QApplication::setActiveWindow(form.get());
         EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
@@ -137,6 +138,7 @@ protected:
     TestFolder m_folder;
     QString m_screenFilePath = m_folder.path("test.scn");
     ApplicationValues m_values;
+    std::shared_ptr<screens::LostChangesList> m_losses = std::make_shared<screens::LostChangesList>();
     struct : RecordingBoxes {
         int heard = 0;
         void beep() override { ++heard; }

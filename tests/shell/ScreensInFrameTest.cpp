@@ -127,6 +127,80 @@ TEST_F(ScreensInFrameTest, TheLettersOfAScreenWinOverTheMenu)
     EXPECT_EQ(notice(), "");
 }
 
+TEST_F(ScreensInFrameTest, ANewNumberForAnArticleIsAskedForWithWhatHoldsTheOldOne)
+{
+    const QString number = u"'000000000000001001'"_s;
+    for (const char* key : {"1, '5'", "2, '0'", "3, '0'"})
+        execute(u"insert into KEYLINK (ID, KEYLINK) values (%1)"_s.arg(QLatin1String(key)));
+    for (const char* key : {"11", "12", "13"}) // belong together by their order
+        execute(u"insert into NLU (ID, NLU) values (%1, %2)"_s.arg(QLatin1String(key), number));
+    for (const char* line : {"1, 0, '1001', 1, '1001'", "2, 2, '1001', 0, '1002'", "3, 0, '7', 1, '1001'"})
+        execute(u"insert into WLU (WLUno, wlutype1, codenumber1, wlutype50, codenumber50) values (%1)"_s.arg(
+            QLatin1String(line)));
+    execute(u"insert into PLUSTATUS (STATUSNO, LINKEDPLU) values (4, '1001')"_s);
+    execute(u"update PLUDATA set STOCKLINK = '1001' where DESCRIPTION = 'Cider'"_s);
+
+    QWidget& screen = open("PLUMENU");
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), QLatin1String(pluName)) << "not the number";
+    type(screen, pluName, "Stout");
+    const auto saveAs = [&](const char* plu) {
+        m_boxes.shown.clear();
+        type(screen, pluNumber, plu);
+        save(screen);
+        return m_boxes.shown.size() == 1 ? m_boxes.shown.front() : test::ShownBox{};
+    };
+    EXPECT_EQ(
+        saveAs("999"),
+        (test::ShownBox{u"PLU 1001 will get the number 999.\r\r1001 is used by 2 keys, 2 look-ups and 2 "
+                        "links. They keep the old number and will not find this record any more.\r\r"
+                        "Save it under the new number?"_s,
+                        u"Please Check"_s, BoxIcon::Question, BoxAnswer::No}));
+    EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
+    EXPECT_EQ(notice(), "Nothing was stored: PLU 1001 keeps its number");
+    EXPECT_EQ(shown(screen, pluNumber), "000000000000001001");
+    EXPECT_EQ(shown(screen, pluName), "Stout");
+    EXPECT_EQ(saveAs("1002").title, u"Data Error Code3022"_s) << "another record has it";
+    m_boxes.answers = {true};
+    saveAs("999");
+    EXPECT_EQ(plus(), "Stout 2.5|Cider 3");
+    EXPECT_EQ(notice(), "Saved PLU 999");
+    EXPECT_TRUE(saveAs("1001").text.contains(u"999 is used by no key, look-up or link.\r\rSave it"_s));
+    letter(Qt::Key_A);
+    EXPECT_TRUE(soon([] { return QApplication::focusWidget()->objectName() == QLatin1String(pluNumber); }))
+        << "of a new record";
+}
+
+TEST_F(ScreensInFrameTest, CtrlZOpensAScreenAgainThatWasLeftWithTypedChanges)
+{
+    const auto key = [this](Qt::Key pressed) {
+        QWidget* const focus = QApplication::focusWidget();
+        QTest::keyClick(focus ? focus : &*m_main, pressed, Qt::ControlModifier);
+    };
+    const auto front = [this]() -> QWidget& {
+        return *m_main->findChild<QMdiArea*>()->activeSubWindow()->widget();
+    };
+    type(open("PLUMENU"), pluName, "Stout");
+    EXPECT_TRUE(front().parentWidget()->isWindowModified()) << "the star of its title";
+    child<QPushButton>(front(), "ExitForm").click();
+    EXPECT_TRUE(allClosed());
+    EXPECT_EQ(notice(), "Changes to PLU 1001 were not saved. Press Ctrl+Z to get them back");
+    key(Qt::Key_Z);
+    EXPECT_EQ(shown(front(), pluName), "Stout");
+    EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
+    key(Qt::Key_W);
+    EXPECT_EQ(m_boxes.shown.size(), 1U);
+    EXPECT_EQ(shown(front(), pluName), "Stout") << "cancelled";
+
+    child<QPushButton>(front(), "NextRecord").click();
+    QWidget& second = open("PLUMENU");
+    key(Qt::Key_Z);
+    EXPECT_EQ(shown(second, pluName), "Stout") << "also in another window of the same screen";
+    m_boxes.unsavedAnswers = {UnsavedAnswer::Save};
+    key(Qt::Key_W);
+    EXPECT_TRUE(soon([this] { return plus() == "Stout 2.5|Cider 3"; })) << plus();
+    EXPECT_EQ(notice(), "Saved PLU 1001");
+}
+
 TEST_F(ScreensInFrameTest, TheLettersOfTheSmallWindowsWinOverTheMenu)
 {
     open("DataSetup");

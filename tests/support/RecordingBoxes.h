@@ -19,12 +19,13 @@ struct ShownBox {
 };
 
 /// Answers Yes/No and typed texts in the order in which they were put in; a question without an answer counts
-/// as No, an input or file box without one as cancelled.
+/// as No, any other box without one as cancelled.
 class RecordingBoxes : public Boxes
 {
 public:
     std::vector<ShownBox> shown;
     std::deque<bool> answers;
+    std::deque<UnsavedAnswer> unsavedAnswers;
     std::deque<QString> typed;
     /// Runs while a box stands open, to look at what is behind it.
     std::function<void(const ShownBox&)> whileOpen;
@@ -50,6 +51,11 @@ public:
         record({text + QLatin1String(" [") + first + QLatin1Char('|') + second + QLatin1Char(']'), title,
                 BoxIcon::Exclamation});
         return takeFront(answers);
+    }
+    UnsavedAnswer askToSave(const QString& text, const QString& title) override
+    {
+        record({text + QLatin1String(" [Save|Discard|Cancel]"), title, BoxIcon::Exclamation});
+        return takeFront(unsavedAnswers);
     }
     bool confirm(const QString& text, const QString& title) override
     {

@@ -101,6 +101,15 @@ TEST(MessageBoxes, EnterConfirmsAndEscapeCancels)
     }
 }
 
+TEST(MessageBoxes, EnterSavesAndEscapeStays)
+{
+    for (const auto& [key, answer] :
+         {std::pair(Qt::Key_Return, UnsavedAnswer::Save), std::pair(Qt::Key_Escape, UnsavedAnswer::Cancel)}) {
+        pressSoon(key, Qt::NoModifier);
+        EXPECT_EQ(MessageBoxes().askToSave(u"Changes are not saved."_s, u"PLU"_s), answer);
+    }
+}
+
 TEST(MessageBoxes, OfTwoNamedAnswersEnterAndEscapeGiveTheSecond)
 {
     const std::tuple<Qt::Key, Qt::KeyboardModifier, bool> cases[] = {{Qt::Key_Return, Qt::NoModifier, false},

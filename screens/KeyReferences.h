@@ -1,0 +1,25 @@
+// Which records refer to a record of a table by its number.
+#pragma once
+
+#include "store/Database.h"
+#include "store/Value.h"
+
+#include <QString>
+
+namespace norvane::screens
+{
+
+/// What holds a number.
+struct KeyHolders {
+    int count = 0;
+    /// "3 keys, 1 look-up and 2 links", "no key, look-up or link"; empty for a table that nothing refers to.
+    QString words;
+};
+
+/// Counts the records that hold the number @p key of a record of @p table. The number 0 has no holders: it
+/// means "none" in every field that refers to a record.
+/// @throws RuntimeFailure 3343 and others of store::BoundQuery.
+[[nodiscard]] KeyHolders holdersOfKey(store::Database& database, const QString& table,
+                                      const store::Value& key);
+
+} // namespace norvane::screens
