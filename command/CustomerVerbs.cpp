@@ -53,20 +53,43 @@ QVariant lastSales(const QString& database)
     return found.isValid() ? QVariant(found) : QVariant();
 }
 
+QVariant salesInWords(const QString& database)
+{
+    if (!pathExists(database))
+        return u"no database"_s;
+    try {
+        return lastSales(database);
+    } catch (const RuntimeFailure&) {
+        return u"unreadable"_s;
+    }
+}
+
+/// Why no command takes a customer of this name; empty when commands do.
+QString noteOn(const Workplace& workplace, const QString& name)
+{
+    return customers::foldersNamed(workplace.appPath, name).isEmpty()
+               ? u"rename the folder: no command takes its name"_s
+               : QString();
+}
+
+/// Whether a folder is a customer's, also when the database was lost.
+bool isCustomer(const QString& folder)
+{
+    return pathExists(customers::customerDatabase(folder)) || pathExists(joinPath(folder, u"setup.ini"_s));
+}
+
 QVariantList customerRow(const Workplace& workplace, const QString& name)
 {
     ApplicationValues values;
     values.appPath = workplace.appPath;
     values.customerPath = existingPath(joinPath(workplace.appPath, name));
     const auto exchange = customers::lastLogged(values.customerPath, {u"upload"_s, u"download"_s});
-    QVariant sales;
-    try {
-        sales = lastSales(customers::customerDatabase(values.customerPath));
-    } catch (const RuntimeFailure&) {
-        sales = u"unreadable"_s;
-    }
-    return {name, settingInWords(values, "ECRModel"_L1), settingInWords(values, "NoOfECRs"_L1),
-            exchange ? QVariant(exchange->begun) : QVariant(), sales};
+    return {name,
+            settingInWords(values, "ECRModel"_L1),
+            settingInWords(values, "NoOfECRs"_L1),
+            exchange ? QVariant(exchange->begun) : QVariant(),
+            salesInWords(customers::customerDatabase(values.customerPath)),
+            noteOn(workplace, name)};
 }
 
 /// What the catalogue has and the customer's database lacks.
@@ -104,12 +127,12 @@ QStringList faultySettings(const ApplicationValues& values)
 
 void listCustomers(const Workplace& workplace, const Invocation& /*words*/)
 {
-    Listing listing({u"Name"_s, u"Model"_s, u"Registers"_s, u"Last exchange"_s, u"Last sales"_s});
+    Listing listing({u"Name"_s, u"Model"_s, u"Registers"_s, u"Last exchange"_s, u"Last sales"_s, u"Note"_s});
     // Names as they are on disk: those of the window, in upper case, would have to be looked for.
     const QDir folder(workplace.appPath);
     for (const QString& name :
          folder.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
-        if (pathExists(customers::customerDatabase(folder.filePath(name))))
+        if (isCustomer(folder.filePath(name)))
             listing.add(customerRow(workplace, name));
     }
     workplace.show(listing);

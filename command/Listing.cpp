@@ -1,6 +1,8 @@
 // See Listing.h.
 #include "command/Listing.h"
 
+#include "platform/Excerpt.h"
+
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -30,7 +32,8 @@ QString textOf(const QVariant& value)
 {
     if (value.typeId() == QMetaType::QDateTime)
         return value.toDateTime().toString(u"yyyy-MM-dd HH:mm:ss"_s);
-    return value.toString();
+    return visibleControls(
+        value.toString().replace(u'\n', u"\\n"_s).replace(u'\r', u"\\r"_s).replace(u'\t', u"\\t"_s));
 }
 
 QJsonValue jsonOf(const QVariant& value)

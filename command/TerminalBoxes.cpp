@@ -2,6 +2,7 @@
 #include "command/TerminalBoxes.h"
 
 #include "command/ExitCode.h"
+#include "platform/Excerpt.h"
 
 #include <cstdio>
 
@@ -21,7 +22,7 @@ namespace
 /// Texts of boxes end a line with a carriage return.
 QString lines(QString text)
 {
-    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').trimmed();
+    return visibleControls(text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').trimmed());
 }
 
 bool isTerminal()

@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStorageInfo>
 #include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
@@ -44,6 +45,12 @@ void Workplace::show(const Listing& listing) const
 
 namespace
 {
+
+/// Whether a new file could be made in @p folder.
+bool canWriteIn(const QString& folder)
+{
+    return QFileInfo(folder).isWritable() && QStorageInfo(folder).bytesAvailable() > 0;
+}
 
 /// A file that is no database any more is told before the work begins. @throws CommandError Unsound
 void checkOpens(const QString& database)
@@ -112,8 +119,7 @@ std::unique_ptr<customers::RunLock> lockFor(const Workplace& workplace, const Ap
 {
     auto lock = customers::RunLock::take(values, workplace.boxes);
     if (lock == nullptr) {
-        const bool isWritable =
-            QFileInfo(values.appPath).isWritable() && QFileInfo(values.customerPath).isWritable();
+        const bool isWritable = canWriteIn(values.appPath) && canWriteIn(values.customerPath);
         throw CommandError(isWritable ? ExitCode::Busy : ExitCode::Unwritable, {});
     }
     return lock;

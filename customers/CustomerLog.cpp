@@ -16,6 +16,7 @@ namespace
 {
 
 constexpr qint64 mostBytes = qint64{1024} * 1024;
+constexpr qint64 fewBytes = qint64{16} * 1024;
 const auto timeFormat = u"yyyy-MM-dd HH:mm:ss"_s;
 constexpr double millisecondsPerSecond = 1000;
 enum Column { begunColumn, workColumn, registersColumn, resultColumn, secondsColumn };
@@ -46,6 +47,27 @@ LogLine lineOf(const QByteArray& text)
     return {QDateTime::fromString(parts.value(begunColumn), timeFormat), parts.value(workColumn),
             parts.value(registersColumn), parts.value(resultColumn),
             qRound64(seconds * millisecondsPerSecond)};
+}
+
+/// The whole lines among the last @p bytes of a log.
+QByteArray endOf(QFile& log, qint64 bytes)
+{
+    log.seek(std::max(log.size() - bytes, qint64(0)));
+    if (log.pos() > 0)
+        (void)log.readLine();
+    return log.readAll();
+}
+
+/// The last line about one of @p works.
+std::optional<LogLine> lastIn(const QByteArray& lines, const QStringList& works)
+{
+    auto all = lines.trimmed().split('\n');
+    while (!all.isEmpty()) {
+        LogLine line = lineOf(all.takeLast());
+        if (works.contains(line.work))
+            return line;
+    }
+    return std::nullopt;
 }
 
 void dropOlderHalf(const QString& path)
@@ -80,13 +102,11 @@ std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList
     QFile log(logPath(customerPath));
     if (!log.open(QIODevice::ReadOnly))
         return std::nullopt;
-    auto lines = log.readAll().trimmed().split('\n');
-    while (!lines.isEmpty()) {
-        LogLine line = lineOf(lines.takeLast());
-        if (works.contains(line.work))
-            return line;
-    }
-    return std::nullopt;
+    // What is wanted is nearly always among the last lines.
+    auto found = lastIn(endOf(log, fewBytes), works);
+    if (!found && log.size() > fewBytes)
+        found = lastIn(endOf(log, log.size()), works);
+    return found;
 }
 
 LoggedWork::LoggedWork(QString customerPath, const QString& work, const QString& registers,

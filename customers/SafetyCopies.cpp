@@ -47,9 +47,9 @@ bool describesRegisters(const QString& name)
     return name.compare(runNotesName(), Qt::CaseInsensitive) == 0;
 }
 
-void copyFiles(const QString& from, const QString& to)
+void copyFiles(const QString& from, const QString& to, QDir::Filters kinds = QDir::Files | QDir::Hidden)
 {
-    for (const QString& name : QDir(from).entryList(copiedFiles(), QDir::Files | QDir::Hidden)) {
+    for (const QString& name : QDir(from).entryList(copiedFiles(), kinds)) {
         if (!describesRegisters(name))
             writeWholeFile(joinPath(to, name), readWholeFile(joinPath(from, name)));
     }
@@ -85,8 +85,13 @@ class UnfinishedFolder
 public:
     explicit UnfinishedFolder(const QString& path) : m_folder(path)
     {
-        m_folder.removeRecursively();
-        if (!m_folder.mkpath(u"."_s))
+        // Removing what a link leads to would empty somebody else's folder.
+        if (QFileInfo(path).isSymLink()) {
+            QFile::remove(path);
+        } else {
+            m_folder.removeRecursively();
+        }
+        if (QFileInfo(path).isSymLink() || !m_folder.mkpath(u"."_s))
             throw RuntimeFailure(Failure::PathOrFileAccess, u"The folder %1 cannot be made."_s.arg(path));
     }
     ~UnfinishedFolder()
@@ -135,7 +140,8 @@ QString databaseOf(const SafetyCopy& copy)
 void checkCopy(const SafetyCopy& copy)
 {
     const QString path = databaseOf(copy);
-    const QString damage = store::damageOf(path);
+    const QString damage =
+        QFileInfo(path).isSymLink() ? u"it is a link to another file."_s : store::damageOf(path);
     if (!damage.isEmpty())
         throw RuntimeFailure(Failure::NotOurDatabase, u"The copy %1 is damaged: %2"_s.arg(path, damage));
     const store::Database opened(path);
@@ -202,7 +208,8 @@ QList<SafetyCopy> safetyCopies(const QString& customerPath)
     const QString folder = copiesFolder(customerPath);
     QList<SafetyCopy> copies;
     // The names tell the second alone; of two copies within one the folders know which came later.
-    for (const QString& name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Time)) {
+    for (const QString& name :
+         QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Time)) {
         SafetyCopy copy = copyOfFolder(folder, name);
         if (copy.made.isValid())
             copies.append(std::move(copy));
@@ -248,7 +255,7 @@ QString putBack(const QString& customerPath, const SafetyCopy& copy)
         store::Database database(customerDatabase(customerPath));
         store::restoreTables(database, databaseOf(copy));
     }
-    copyFiles(copy.path, customerPath);
+    copyFiles(copy.path, customerPath, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
     return told;
 }
 

@@ -13,6 +13,21 @@ namespace norvane
 /// belong, and no box could show them.
 inline constexpr qsizetype excerptLength = 60;
 
+/// @p text with "\x1b" in place of an escape character and so on: a name or cell may hold what a terminal
+/// takes for a command. Ends of lines and tabs are kept.
+[[nodiscard]] inline QString visibleControls(const QString& text)
+{
+    constexpr int hexadecimal = 16;
+    QString visible;
+    visible.reserve(text.size());
+    for (const QChar c : text) {
+        const bool isKept = c == u'\r' || c == u'\n' || c == u'\t' || c.category() != QChar::Other_Control;
+        visible +=
+            isKept ? QString(c) : QStringLiteral("\\x%1").arg(c.unicode(), 2, hexadecimal, QLatin1Char('0'));
+    }
+    return visible;
+}
+
 /// @p text, or its beginning followed by "..." when it is longer than excerptLength.
 [[nodiscard]] inline QString excerpt(QStringView text)
 {

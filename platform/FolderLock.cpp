@@ -4,6 +4,7 @@
 #include "platform/FilePaths.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 
@@ -11,6 +12,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace norvane
 {
+namespace
+{
+
+constexpr qint64 secondsForOwner = 10;
+
+} // namespace
 
 FolderLock::FolderLock(const QString& path) : m_file(path)
 {
@@ -23,8 +30,26 @@ std::unique_ptr<FolderLock> FolderLock::take(const QString& folder, Boxes& boxes
     std::unique_ptr<FolderLock> lock(new FolderLock(joinPath(folder, u"norvane.lock"_s)));
     if (lock->m_file.tryLock())
         return lock;
+    if (lock->isWithoutOwner() && QFile::remove(lock->m_file.fileName()) && lock->m_file.tryLock()) {
+        boxes.message(
+            u"The file %1 did not say which program it belongs to, as after a power cut. It was replaced."_s
+                .arg(lock->m_file.fileName()),
+            u"Please Check"_s, BoxIcon::Exclamation);
+        return lock;
+    }
     boxes.message(lock->refusal(), u"Please Check"_s, BoxIcon::Exclamation);
     return nullptr;
+}
+
+/// A program that has just made the file writes its owner into it at once.
+bool FolderLock::isWithoutOwner() const
+{
+    qint64 process = 0;
+    QString host;
+    QString program;
+    const QDateTime written = QFileInfo(m_file.fileName()).lastModified();
+    return m_file.error() == QLockFile::LockFailedError && !m_file.getLockInfo(&process, &host, &program) &&
+           written.secsTo(QDateTime::currentDateTime()) > secondsForOwner;
 }
 
 QString FolderLock::refusal() const

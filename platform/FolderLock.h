@@ -17,13 +17,15 @@ namespace norvane
 class FolderLock
 {
 public:
-    /// Takes the lock of @p folder. One whose owner died on this machine is taken over.
+    /// Takes the lock of @p folder. One whose owner died on this machine is taken over; so is a file that
+    /// says nothing about its owner, as a power cut leaves it, and the user is told.
     /// @return nullptr when another program, or another window of this one, holds it, or the folder cannot be
     /// written to; the user was told then.
     [[nodiscard]] static std::unique_ptr<FolderLock> take(const QString& folder, Boxes& boxes);
 
 private:
     explicit FolderLock(const QString& path);
+    [[nodiscard]] bool isWithoutOwner() const;
     [[nodiscard]] QString refusal() const;
     [[nodiscard]] QString holder() const;
 

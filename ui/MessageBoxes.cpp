@@ -1,6 +1,8 @@
 // Boxes made of the toolkit's own; see MessageBoxes.h.
 #include "ui/MessageBoxes.h"
 
+#include "platform/Excerpt.h"
+
 #include <QApplication>
 #include <QCursor>
 #include <QFileDialog>
@@ -51,7 +53,7 @@ QString shownText(QString text)
     text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
     while (text.endsWith(u'\n'))
         text.chop(1);
-    return text;
+    return visibleControls(text);
 }
 
 /// The frame's icon and its three buttons.

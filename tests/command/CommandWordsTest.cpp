@@ -3,6 +3,8 @@
 #include "tests/road/RunCommand.h"
 #include "tests/support/ProgramFolder.h"
 
+#include <QRegularExpression>
+
 namespace norvane::test
 {
 namespace
@@ -49,6 +51,20 @@ TEST_F(CommandWords, CommonOptionsMayComeBeforeTheCommand)
     EXPECT_EQ(run({u"--json"_s, u"customers"_s}).out, listed);
     expectUsage({u"--jsn"_s, u"customers"_s}, u"Unknown option 'jsn'."_s);
     expectUsage({u"--json"_s}, u"norvane-shop customers"_s);
+}
+
+TEST_F(CommandWords, ListedCustomersThatNoCommandTakesHaveANote)
+{
+    for (const QString& name : {u"LOST"_s, u"A:B"_s, u"BELL\a\nTWO"_s})
+        (void)m_folder.makeCustomer(name);
+    ASSERT_TRUE(QFile::remove(m_folder.appFile(u"LOST/velmar.mdb"_s)));
+    const QStringList lines = run({u"customers"_s}).out.split(u'\n');
+    const auto has = [&lines](const QString& pattern) {
+        return !lines.filter(QRegularExpression(pattern)).isEmpty();
+    };
+    EXPECT_TRUE(has(u"^LOST .* no database$"_s)) << lines.join(u'\n').toStdString();
+    EXPECT_TRUE(has(u"^A:B .* rename the folder: no command takes its name$"_s));
+    EXPECT_TRUE(has(u"^BELL\\\\x07\\\\nTWO "_s)) << lines.join(u'\n').toStdString();
 }
 
 TEST_F(CommandWords, NamesThatOtherCommandsTakeAreListed)

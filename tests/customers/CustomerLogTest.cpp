@@ -49,6 +49,8 @@ TEST(CustomerLog, LosesItsOlderHalfBeyondAMegabyte)
     EXPECT_GT(log.size(), 500'000);
     EXPECT_TRUE(log.startsWith("an old line\n"));
     EXPECT_TRUE(log.endsWith("\tcollection\t\tstored\t0.9 s\n"));
+    folder.write("norvane.log", log.last(100) + QByteArray("a later line\n").repeated(20'000));
+    EXPECT_TRUE(lastLogged(folder.path(), {u"collection"_s})) << "however long ago it was";
 }
 
 } // namespace

@@ -154,6 +154,31 @@ TEST_F(SafetyCopiesTest, ARestoreSetsADamagedDatabaseAsideAndTakesItsSalesOver)
     }
 }
 
+TEST_F(SafetyCopiesTest, LinksAmongTheCopiesAreNotFollowed)
+{
+    setPlu("1");
+    m_folder.write("elsewhere/setup.ini", "theirs");
+    const QString elsewhere = m_folder.path("elsewhere");
+    const QString copies = joinPath(m_values.customerPath, u"copies"_s);
+    ASSERT_TRUE(QDir().mkpath(copies));
+    ASSERT_TRUE(QFile::link(elsewhere, copies + u"/unfinished"_s));
+    ASSERT_TRUE(QFile::link(elsewhere, copies + u"/2001-01-01 10.00.00 old"_s));
+    const auto copy = makeSafetyCopy(m_values.customerPath, u"x"_s, store::CopyOf::Everything);
+    EXPECT_EQ(names(), QStringList(copy.name));
+
+    const QByteArray mine = m_folder.read("app/Cafe/setup.ini");
+    const auto replaceByLink = [&](const QString& name) {
+        const QString path = copy.path + u'/' + name;
+        return QFile::remove(path) && QFile::link(elsewhere + u"/setup.ini"_s, path);
+    };
+    ASSERT_TRUE(replaceByLink(u"setup.ini"_s));
+    restoreSafetyCopy(m_values.customerPath, copy);
+    EXPECT_EQ(m_folder.read("app/Cafe/setup.ini"), mine);
+    ASSERT_TRUE(replaceByLink(u"velmar.mdb"_s));
+    EXPECT_EQ(test::failureOf([&] { restoreSafetyCopy(m_values.customerPath, copy); }), 3343);
+    EXPECT_EQ(m_folder.read("elsewhere/setup.ini"), "theirs");
+}
+
 TEST_F(SafetyCopiesTest, ADamagedCopyIsRefusedBeforeAnythingChanges)
 {
     setPlu("1");

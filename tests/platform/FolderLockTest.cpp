@@ -66,6 +66,22 @@ TEST_F(FolderLockTest, TheLockOfADeadProgramIsTakenOver)
     EXPECT_EQ(folder.names(), QStringList()) << "nothing is left behind";
 }
 
+TEST_F(FolderLockTest, AFileWithoutAnOwnerIsReplacedOnceItIsOld)
+{
+    for (const char* const content : {"", "garbled"}) {
+        folder.write("norvane.lock", content);
+        EXPECT_FALSE(take()) << "its owner may be writing it";
+        QFile file(folder.path("norvane.lock"));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFile::FileModificationTime));
+        file.close();
+        EXPECT_TRUE(take());
+        ASSERT_EQ(boxes.shown.size(), 1U);
+        EXPECT_TRUE(boxes.shown.front().text.contains("It was replaced."_L1));
+        EXPECT_EQ(folder.names(), QStringList());
+    }
+}
+
 TEST_F(FolderLockTest, AFolderThatCannotBeWrittenToIsTold)
 {
     boxes.shown.clear();
