@@ -151,6 +151,7 @@ def run_tests(tests, seconds, output):
     for name, cases in tests.items():
         program = next(path for path in (BUILD / "tests").rglob(name) if path.is_file())
         with tempfile.TemporaryDirectory(prefix="mutate") as scratch, open(output, "wb") as log:
+            os.chmod(scratch, 0o755)  # a database server of a test may run as another user
             code = run([program, f"--gtest_filter={cases}", "--gtest_fail_fast", "--gtest_brief=1"], seconds,
                        cwd=program.parent, env=environment | {"TMPDIR": scratch}, stdout=log, stderr=subprocess.STDOUT)
         if code != 0:

@@ -6,6 +6,7 @@
 #include "tests/support/RecordingBoxes.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 
@@ -40,6 +41,9 @@ TEST(Copylevel, CopiesOnceBothLevelsAreChosenAndAsksWhereLevelsLieElsewhere)
         norvane::test::RecordingBoxes boxes;
         copylevel form(*database, *keyboard, shop.values, boxes);
         form.show();
+        for (const QLabel* const label : form.findChildren<QLabel*>())
+            EXPECT_TRUE(!label->buddy() || label->geometry().right() < label->buddy()->x())
+                << "before its list";
         press(form, "CSCmdBtn1");
         choose(form, "CopyFrom", 5);
         press(form, "CSCmdBtn1");

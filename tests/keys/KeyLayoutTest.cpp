@@ -22,6 +22,13 @@ using test::whole;
 const norvane::test::ShownBox saveChanges{u"Save Changes?"_s, u"Save Details."_s, BoxIcon::Question,
                                           BoxAnswer::Yes};
 
+class HeardBoxes : public norvane::test::RecordingBoxes
+{
+public:
+    int beeps = 0;
+    void beep() override { ++beeps; }
+};
+
 class KeyLayoutTest : public testing::Test
 {
 protected:
@@ -109,7 +116,7 @@ protected:
 
     const KeyGeometry& keyboard = dorvikKeyboard();
     test::KeyShop shop{"3"};
-    norvane::test::RecordingBoxes boxes;
+    HeardBoxes boxes;
     std::unique_ptr<KeyLayout> form;
 };
 
@@ -145,6 +152,7 @@ TEST_F(KeyLayoutTest, IsWorkedByKeysAloneAndStoresOnlyWhenTold)
     QTest::keyClicks(QApplication::focusWidget(), u"ch"_s);
     QTest::keyClicks(QApplication::focusWidget(), u"e"_s);
     EXPECT_EQ(label("ListCount"), "1 of 3");
+    control<QTableView>("functionlist").setFocus();
     key(Qt::Key_Return);
     EXPECT_TRUE(grid().hasFocus());
     EXPECT_EQ(cell(9, 0), "CHECK");
@@ -267,7 +275,9 @@ TEST_F(KeyLayoutTest, KeysAreDraggedCopiedAndSwappedAndComeBack)
     EXPECT_EQ(cells(), u".CASH.");
     dropAt({9, 2}, true);
     EXPECT_EQ(cells(), u".CASHCASH");
+    EXPECT_EQ(boxes.beeps, 0);
     dropAt({0, 0}, false);
+    EXPECT_EQ(boxes.beeps, 1);
     EXPECT_NE(status().find("A fixed key"), std::string::npos);
     grid().setCurrentCell({9, 1});
     for (const auto& [moves, letter, expected] : presses) {

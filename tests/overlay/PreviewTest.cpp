@@ -85,6 +85,7 @@ TEST_F(Preview, MarksTheKeysThatAPrinterCannotReachAndMovesTheSheet)
     EXPECT_EQ(notice(), "");
     EXPECT_EQ(sheet.child(0)->text(QAccessible::Description), u"Column 1, key 1"_s);
     EXPECT_EQ(m_corrections.of(u"Office"_s).down.offset, millimetres(2));
+    EXPECT_EQ(m_corrections.of(u"Office"_s).across.offset, millimetres(0)) << "fits already";
     EXPECT_EQ(at(8 + 18 + 8, 5 + 7), QColor(Qt::red));
     EXPECT_EQ(at(8 + 8, 5 + 13), QColor(Qt::white));
 }

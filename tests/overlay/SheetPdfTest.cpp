@@ -276,6 +276,11 @@ TEST(TestPageTest, HasItsLinesWhereItSaysUnderTheCorrectionInHand)
     EXPECT_NEAR(across.width(), 101, 0.2);
     EXPECT_NEAR(down.top(), 37, 0.1);
     EXPECT_NEAR(down.height(), 100, 0.2);
+    // The ticks at the ends, six long.
+    for (const double x : {52 * 1.01 + 0.1, 152 * 1.01 - 0.1})
+        EXPECT_NEAR(page.darkPart({x - 0.1, 80, 0.2, 20}).height(), 6, 0.2) << x;
+    for (const double y : {37.1, 136.9})
+        EXPECT_NEAR(page.darkPart({90, y - 0.1, 30, 0.2}).width(), 6 * 1.01, 0.2) << y;
 }
 
 TEST(OverlayPenTest, WrapsWordsToTheWidthAndCutsToTheArea)

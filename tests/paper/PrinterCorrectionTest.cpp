@@ -30,7 +30,7 @@ TEST(PrinterCorrectionTest, IsKeptForEachPrinterByItsName)
     const test::TestFolder folder;
     const PrinterCorrections corrections(folder.path("printers.ini"));
     const PrinterCorrection first{{millimetres(-1.5), 1.01}, {millimetres(2), 0.995}};
-    const PrinterCorrection second{{millimetres(3), 1}, {}};
+    const PrinterCorrection second{{largestOffset, smallestStretch}, {millimetres(-50), largestStretch}};
     EXPECT_TRUE(corrections.keep(u"Büro/2. Stock [A4]"_s, first));
     EXPECT_TRUE(corrections.keep(u"Büro"_s, second));
     EXPECT_EQ(corrections.of(u"Büro/2. Stock [A4]"_s), first);

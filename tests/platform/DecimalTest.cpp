@@ -1,6 +1,7 @@
 // Exact decimals: texts, moved points and roundings of money, and the way through binary numbers.
 #include "platform/Decimal.h"
 
+#include "platform/DecimalTotal.h"
 #include "tests/platform/TestFolder.h"
 
 #include <cstdlib>
@@ -28,6 +29,27 @@ TEST(Decimal, TextsComeBackPlain)
     }
     for (const char* text : {"", " ", "12abc", "1 2", ".", "1,5", "1.2.3"})
         EXPECT_FALSE(Decimal::parse(text)) << text;
+}
+
+TEST(Decimal, TotalsLoseNoDigit)
+{
+    DecimalTotal total;
+    EXPECT_EQ(total.text(), "0");
+    for (int i = 0; i < 10; ++i)
+        total.add(0.1);
+    EXPECT_EQ(total.text(), "1");
+    EXPECT_EQ(total.whole(), 1);
+    total.add(-12.3456);
+    EXPECT_EQ(total.text(), "-11.3456");
+    EXPECT_FALSE(total.whole());
+    total.add("12345678901234567890.0456");
+    EXPECT_EQ(total.text(), "12345678901234567878.7");
+    total.add(std::int64_t{-7});
+    total.add("-12345678901234567878.7 each");
+    EXPECT_EQ(total.text(), "12345678901234567871.7") << "not a number";
+    total.add("-12345678901234567871.7");
+    EXPECT_EQ(total.text(), "0");
+    EXPECT_EQ(failureOf([&total] { total.add("1e400"); }), 6);
 }
 
 TEST(Decimal, MovesThePointAndRoundsHalvesAwayFromZero)

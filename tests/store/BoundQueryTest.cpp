@@ -37,7 +37,8 @@ TEST_F(BoundQueryTest, ValuesNeverBecomePartOfTheStatement)
 
 TEST_F(BoundQueryTest, OnlyReads)
 {
-    for (const char* const sql : {"DELETE FROM Items", "SELECT nothing FROM Items", "DROP TABLE Items"})
+    for (const char* const sql : {"DELETE FROM Items", "SELECT nothing FROM Items",
+                                  "SELECT \"nothing\" FROM Items", "DROP TABLE Items"})
         EXPECT_EQ(failureOf([&] { BoundQuery(m_database, sql, {}, what); }), 3061) << sql;
     EXPECT_TRUE(m_database.hasTable(u"Items"_s));
 }

@@ -263,6 +263,9 @@ TEST_F(RecordsetTest, ANewRecordIsTheCurrentOne)
     m_records.moveNext();
     EXPECT_EQ(number(), "03");
     add(m_records, {{"NUMBER", text("00")}});
+    m_records.moveNext();
+    EXPECT_EQ(number(), "01");
+    m_records.movePrevious();
     m_records.deleteRecord();
     m_records.moveNext();
     EXPECT_EQ(number(), "01");
