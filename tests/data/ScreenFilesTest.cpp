@@ -323,6 +323,25 @@ TEST(InstalledScreens, TakeWhatTheRegistersOfTheModelHold)
     }
 }
 
+TEST(InstalledScreens, OfferCardOptionsToModelsWithCards)
+{
+    for (const QByteArray model : {"0", "1", "2"}) {
+        const test::TestFolder customer;
+        customer.write("setup.ini", "[SetupOption]\r\nECRModel=" + model + "\r\n");
+        ApplicationValues values;
+        values.customerPath = customer.path();
+        values.databasePath = filledDatabase();
+        test::RecordingBoxes boxes;
+        const OptionForm form(QStringLiteral(SCREEN_FILES "/EJPRT.scn"), values, boxes);
+        QStringList enabled;
+        for (const auto* const box : form.findChildren<QCheckBox*>()) {
+            if (box->text() == u"Payment by points" && box->isEnabled())
+                enabled << box->text();
+        }
+        EXPECT_EQ(enabled.size(), model == "0" ? 0 : 1) << model.data();
+    }
+}
+
 std::vector<std::string> screenFiles()
 {
     std::vector<std::string> names;

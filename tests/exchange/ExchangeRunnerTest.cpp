@@ -10,6 +10,7 @@
 #include "tests/support/ProgramFolder.h"
 #include "tests/support/RecordingBoxes.h"
 
+#include <map>
 #include <set>
 
 namespace norvane::exchange
@@ -194,6 +195,17 @@ void emptyTablesThatMayBe(const Exchange& shop)
     for (const char* table : {"LOGOMESSAGE", "VALIDATIONMESSAGE", "CHECKENDORSEMESSAGE", "GUESTCHECKMESSAGE",
                               "MIXNMATCH", "CARDCATEGORY", "HOTLIST"})
         database.execute(u"delete * from "_s + QLatin1String(table));
+}
+
+TEST(ExchangeRunner, ABoxMovesTheSameFilesBothWays)
+{
+    std::multimap<int, int> up;
+    std::multimap<int, int> down;
+    for (const UploadRow& row : uploadPlan())
+        up.emplace(row.file, row.box);
+    for (const DownloadRow& row : downloadPlan())
+        down.emplace(row.file, row.box);
+    EXPECT_EQ(up, down);
 }
 
 /// One shop for all three runs: the tools start some two hundred times.

@@ -147,6 +147,7 @@ TEST_F(OptionFormTest, MovesLoseWhatWasTypedAndTellTheEnds)
     EXPECT_EQ(name(), "Beers");
     press(form, "PreviousRecord");
     EXPECT_EQ(name(), "Wines");
+    EXPECT_TRUE(m_boxes.shown.empty());
     press(form, "PreviousRecord");
     EXPECT_EQ(takeBox(), noMoreRecords);
     EXPECT_EQ(name(), "Wines");
