@@ -2,6 +2,7 @@
 #include "base/SharedRoutines.h"
 
 #include "tests/platform/TestFolder.h"
+#include "tests/support/RecordingBoxes.h"
 
 namespace norvane
 {
@@ -54,6 +55,19 @@ TEST_F(SharedRoutinesTest, PositionThreeIsARowOfTheRegisterAndNoBit)
         EXPECT_EQ(DigitFlagSet(digit, 3), digit == 3 || digit == 5 || digit == 7) << digit;
         EXPECT_EQ(DigitFlagSet(digit, 4), digit < 8 && (digit & 4) != 0) << digit;
     }
+}
+
+TEST_F(SharedRoutinesTest, TheLengthOfTheMemoryFileTellsTheFirmware)
+{
+    test::RecordingBoxes boxes;
+    EXPECT_EQ(failureOf([&] { (void)GetFirmwareGeneration(m_values, boxes); }), 53);
+    for (const auto& [length, generation] : {std::pair{0, -1}, {1, 2}, {77, 2}, {78, 3}, {32767, 3}}) {
+        m_app.write("MEM.dat", QByteArray(length, 'x'));
+        EXPECT_EQ(GetFirmwareGeneration(m_values, boxes), generation) << length;
+    }
+    EXPECT_EQ(boxes.shown.size(), 1U) << "for the empty one";
+    m_app.write("MEM.dat", QByteArray(32768, 'x'));
+    EXPECT_EQ(failureOf([&] { (void)GetFirmwareGeneration(m_values, boxes); }), 6);
 }
 
 TEST_F(SharedRoutinesTest, TheLastValueOfTheStatusFileCounts)

@@ -38,7 +38,8 @@ TEST(ToolResult, IsNoticedWhenTheToolCrashedOrIsMissing)
                                  .boxes = boxes};
         EXPECT_EQ(runTool(outside, u"convert w1 f1.dat"_s), result);
     }
-    EXPECT_EQ(notices, QStringList({u"The program convert crashed."_s, u"The program convert was not found."_s}));
+    EXPECT_EQ(notices,
+              QStringList({u"The program convert crashed."_s, u"The program convert was not found."_s}));
 }
 
 } // namespace
