@@ -13,35 +13,21 @@ namespace
 {
 
 using namespace Qt::Literals::StringLiterals;
-using test::text;
-using test::whole;
 
 class FrmwluTest : public testing::Test
 {
 protected:
     FrmwluTest()
     {
-        for (const auto& [number, name] :
-             {std::pair("1001", "Cola"), {"1002", "Lemonade"}, {"2001", "Cake"}}) {
-            m_shop.add("PLUDATA", {{"PLUNUMBER", text(QByteArray(number).rightJustified(18, '0'))},
-                                   {"DESCRIPTION", text(name)}});
-        }
-        m_shop.add("FUNCTIONKEY", {{"id", whole(1)}, {"DESCRIPTION", text("CASH")}});
-        m_shop.add("FUNCTIONKEY", {{"id", whole(2)}, {"DESCRIPTION", text("CARD")}});
-        m_shop.add("MEMORYALLOCATION", {{"LINES/PLU", text("4")}});
-        m_shop.add("WLU", {{"WLUno", whole(1)},
-                           {"DESCRIPTION", text("Drinks")},
-                           {"Allowplu", whole(-1)},
-                           {"wlutype1", whole(0)},
-                           {"codenumber1", text("1001")},
-                           {"wlutype2", whole(1)},
-                           {"codenumber2", text("1002")}});
-        m_shop.add("WLU", {{"WLUno", whole(2)},
-                           {"DESCRIPTION", text("Payment")},
-                           {"Allowfunction", whole(-1)},
-                           {"#OfCondiments", whole(1)},
-                           {"LINK", whole(1)},
-                           {"allowexit", whole(-1)}});
+        m_shop.addItems();
+        for (const char* const sql :
+             {"insert into PLUDATA (PLUNUMBER, DESCRIPTION) values ('000000000000002001', 'Cake')",
+              "insert into MEMORYALLOCATION ([LINES/PLU]) values ('4')",
+              "insert into WLU (WLUno, DESCRIPTION, Allowplu, wlutype1, codenumber1, wlutype2, codenumber2) "
+              "values (1, 'Drinks', -1, 0, '1001', 1, '1002')",
+              "insert into WLU (WLUno, DESCRIPTION, Allowfunction, [#OfCondiments], LINK, allowexit) "
+              "values (2, 'Payment', -1, 1, 1, -1)"})
+            m_shop.execute(sql);
         m_shop.addKeyboard(169);
         m_shop.execute("update keylink set keylink = '271' where id in (5, 170)");
         m_shop.execute("update nlu set nlu = '000100000000000005' where id in (5, 170)");

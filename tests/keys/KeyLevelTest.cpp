@@ -10,8 +10,6 @@ namespace
 
 using namespace Qt::Literals::StringLiterals;
 using test::KeyShop;
-using test::text;
-using test::whole;
 
 constexpr int shownLevel = 2;
 
@@ -22,10 +20,9 @@ public:
     LevelShop() : KeyShop("3")
     {
         addKeyboard(keyboard.keysPerLevel);
-        add("FUNCTIONKEY", {{"id", whole(5)}, {"DESCRIPTION", text("CASH")}});
-        add("PLUDATA", {{"PLUNUMBER", text("000000000000001001")}, {"DESCRIPTION", text("Lager")}});
-        add("PLUDATA", {{"PLUNUMBER", text("123456789012345678")}, {"DESCRIPTION", text("Malt")}});
-        add("WLU", {{"WLUno", whole(12)}, {"DESCRIPTION", text("Breakfast")}});
+        addItems();
+        execute("insert into PLUDATA (PLUNUMBER, DESCRIPTION) values ('123456789012345678', 'Malt')");
+        execute("insert into WLU (WLUno, DESCRIPTION) values (12, 'Breakfast')");
     }
 
     /// Puts both values, SQL texts, into the row of a key of the shown level.
@@ -57,14 +54,14 @@ struct StoredKey {
     const char* savedNumber; ///< a "#" stands for the key's number in 14 digits
 };
 const StoredKey storedKeys[] = {
-    {"'0'", "'000000000000001001'", "P00000000000001001 Lager", KeyState::Plu, "0", "000000000000001001"},
+    {"'0'", "'000000000000001001'", "P00000000000001001 Cola", KeyState::Plu, "0", "000000000000001001"},
     {"'0'", "'123456789012345678'", "P123456789012345678 Malt", KeyState::Plu, "0", "123456789012345678"},
     {"'0'", "'000000000000009999'", "PLU ITEM", KeyState::Missing, "0", "000000000000009999"},
     {"'0'", "null", "PLU ITEM", KeyState::Missing, "0", "null"},
     {"'271'", "'001200000000000777'", "W00000000000000012 Breakfast", KeyState::LookUp, "271", "0012#"},
     {"'271'", "'0099'", "WLU ITEM", KeyState::Missing, "271", "0099#"},
     {"'5'", "'999'", "CASH", KeyState::Function, "5", "0000#"},
-    {"'6'", "'000000000000001001'", "Function Key", KeyState::Missing, "6", "0000#"},
+    {"'7'", "'000000000000001001'", "Function Key", KeyState::Missing, "7", "0000#"},
     {"''", "'000000000000001001'", "Function Key", KeyState::Unprogrammed, "", "0000#"},
     {"null", "null", "Function Key", KeyState::Unprogrammed, "null", "0000#"},
 };

@@ -48,6 +48,14 @@ public:
         addRecord(database, table, fields);
     }
 
+    /// PLUs 1001 and 1002, function keys 5 and 6.
+    void addItems() const
+    {
+        execute("insert into PLUDATA (PLUNUMBER, DESCRIPTION) values ('000000000000001001', 'Cola'), "
+                "('000000000000001002', 'Lemonade')");
+        execute("insert into FUNCTIONKEY (id, DESCRIPTION) values (5, 'CASH'), (6, 'CHECK')");
+    }
+
     /// Five levels of @p keys keys: key 3 of level 2 does "2003" by its @c keylink and has that number.
     void addKeyboard(int keys, int levels = 5) const
     {
@@ -65,7 +73,7 @@ public:
         return norvane::test::columnOf(values.databasePath, table, field);
     }
 
-    /// Runs an update or delete, as another program at the same file would.
+    /// Runs a statement, as another program at the same file would.
     void execute(const char* sql) const { open()->execute(QLatin1String(sql)); }
 
     norvane::test::TestFolder folder;
