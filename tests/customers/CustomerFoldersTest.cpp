@@ -10,13 +10,6 @@ namespace
 
 class CustomerFoldersTest : public shell::ShellFixture
 {
-protected:
-    void expectCustomerIn(const QByteArray& folder) const
-    {
-        EXPECT_EQ(m_values.customerPath.toLower(), m_folder.path(folder).toLower());
-        EXPECT_EQ(m_folder.read(folder + "/velmar.mdb"), "template");
-        EXPECT_EQ(m_folder.read(folder + "/setup.ini"), m_folder.read("app/setup.ini"));
-    }
 };
 
 /// The copies that a customer in @p folder needs.
@@ -43,7 +36,7 @@ TEST_F(CustomerFoldersTest, ANewNameMakesAFolderWithCopiesOfTheTemplates)
     const struct {
         QString typed;
         CustomerChoice choice;
-        const char* folder;
+        QByteArray folder;
     } rows[] = {{u"New Shop"_s, CustomerChoice::Created, "app/New Shop"},
                 {u"CAFE\\Bar"_s, CustomerChoice::Created, "app/Cafe/Bar"},
                 {u"cafe\\bar"_s, CustomerChoice::Taken, "app/Cafe/Bar"},
@@ -54,7 +47,9 @@ TEST_F(CustomerFoldersTest, ANewNameMakesAFolderWithCopiesOfTheTemplates)
         SCOPED_TRACE(typed.toStdString());
         EXPECT_EQ(chooseCustomer(m_values, typed), choice);
         EXPECT_EQ(m_values.customerName, typed);
-        expectCustomerIn(folder);
+        EXPECT_EQ(m_values.customerPath.toLower(), m_folder.path(folder).toLower());
+        EXPECT_EQ(m_folder.read(folder + "/velmar.mdb"), "template");
+        EXPECT_EQ(m_folder.read(folder + "/setup.ini"), m_folder.read("app/setup.ini"));
     }
     EXPECT_EQ(m_values.databasePath, m_folder.path("app/Cafe/velmar.mdb"))
         << "the start sets it, not the choice";

@@ -9,10 +9,15 @@ namespace norvane::link
 namespace
 {
 
-TEST(ExpectedFiles, TellTheSameBytesWrittenAgainFromAnOldFile)
+class ExpectedFilesTest : public testing::Test
 {
-    const test::TestFolder folder;
-    const test::WorkingDirectory here(folder.path());
+protected:
+    test::TestFolder folder;
+    test::WorkingDirectory here{folder.path()};
+};
+
+TEST_F(ExpectedFilesTest, TellTheSameBytesWrittenAgainFromAnOldFile)
+{
     folder.write("STATUS.OUT", "0");
     // Many times without a pause: one of them would share a tick of the clock with the writing before.
     for (int round = 0; round < 50; ++round) {
@@ -29,10 +34,8 @@ TEST(ExpectedFiles, TellTheSameBytesWrittenAgainFromAnOldFile)
     }
 }
 
-TEST(ExpectedFiles, RemainInTheSpellingThatWasWrittenLast)
+TEST_F(ExpectedFilesTest, RemainInTheSpellingThatWasWrittenLast)
 {
-    const test::TestFolder folder;
-    const test::WorkingDirectory here(folder.path());
     for (const char* name : {"67.txt", "67.TXT", "67.txt.former", "167.txt"})
         folder.write(name, "old");
     for (const char* name : {"67.Txt", "67.txt"}) {
@@ -46,10 +49,8 @@ TEST(ExpectedFiles, RemainInTheSpellingThatWasWrittenLast)
     }
 }
 
-TEST(ExpectedFiles, AreToldWithTheirAge)
+TEST_F(ExpectedFilesTest, AreToldWithTheirAge)
 {
-    const test::TestFolder folder;
-    const test::WorkingDirectory here(folder.path());
     constexpr std::pair<qint64, const char*> ages[] = {
         {0, "less than a minute"}, {60, "1 minute"},        {59 * 60, "59 minutes"},
         {3600, "1 hour"},          {47 * 3600, "47 hours"}, {48 * 3600, "2 days"},

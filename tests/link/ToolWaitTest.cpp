@@ -128,7 +128,6 @@ TEST_F(ToolWaitTest, AsksOnlyAboutAnEscapeThatIsHeldLongEnough)
         acts.emplace_back([&] { down(); });
         acts.emplace_back([&] { up(); });
     }
-    const std::size_t before = acts.size();
     acts.emplace_back([&] {
         EXPECT_TRUE(boxes.shown.empty()) << "pressed often, held never";
         down();
@@ -149,7 +148,6 @@ TEST_F(ToolWaitTest, AsksOnlyAboutAnEscapeThatIsHeldLongEnough)
         down();
     };
     acts.resize(acts.size() + 40, again);
-    EXPECT_EQ(acts.size(), before + 41);
     EXPECT_EQ(hang(acts), ChildResult::Crashed);
     EXPECT_EQ(boxes.shown.size(), 2U);
     EXPECT_TRUE(shown.contains(u"1 s (to end it, hold Escape)"_s)) << qPrintable(shown.join(u'|'));

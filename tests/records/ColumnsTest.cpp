@@ -12,20 +12,8 @@ namespace
 
 using namespace Qt::Literals::StringLiterals;
 using store::Value;
-using test::FieldValue;
+using test::emptyRecord;
 using test::Shop;
-
-std::vector<FieldValue> emptyRecord(int file, int number)
-{
-    std::vector<FieldValue> record;
-    if (const auto& counted = registerFile(file)->layout().lineNumberField; !counted.empty())
-        record.emplace_back(counted.c_str(), Value::whole(number));
-    if (file == 63)
-        record.emplace_back("dallaskey", test::text(""));
-    if (file == 67)
-        record.emplace_back("PLUNUMBER", Value::text(std::to_string(number)));
-    return record;
-}
 
 TEST(ColumnsTest, AreAsWideAsTheRegisterReadsThem)
 {

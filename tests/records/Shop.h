@@ -3,6 +3,7 @@
 #pragma once
 
 #include "records/FileProcedures.h"
+#include "records/RegisterFiles.h"
 #include "store/Catalogue.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/store/Rows.h"
@@ -89,6 +90,19 @@ inline QByteArray plu(int number)
 inline store::Value text(const char* value)
 {
     return store::Value::text(std::string(value));
+}
+
+/// The fields without which a record of the file cannot be stored.
+inline std::vector<FieldValue> emptyRecord(int file, int number)
+{
+    std::vector<FieldValue> record;
+    if (const auto& counted = registerFile(file)->layout().lineNumberField; !counted.empty())
+        record.emplace_back(counted.c_str(), store::Value::whole(number));
+    if (file == 63)
+        record.emplace_back("dallaskey", text(""));
+    if (file == 67)
+        record.emplace_back("PLUNUMBER", store::Value::text(std::to_string(number)));
+    return record;
 }
 
 } // namespace norvane::records::test

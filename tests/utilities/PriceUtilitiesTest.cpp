@@ -18,6 +18,7 @@ const QString toEuro = u"Update Euro prices: Continue?"_s;
 const QString fromEuro = u"Update Prices with Euro Prices: Do you wish to overwrite your current prices?"_s;
 const QString rateBox = u"Euro Rate: Please enter the current Euro Exchange"_s;
 const QString converted = u"Euro Conversion: Conversion complete..."_s;
+const QString wayBack = u" To go back, right-click Cafe in \"Change Customer File\"."_s;
 const QString priceFields =
     u"PRICE1, PRICE2, PRICE3, PRICE4, PRICE5, EuroPrice1, EuroPrice2, EuroPrice3, EuroPrice4, EuroPrice5"_s;
 
@@ -147,7 +148,9 @@ TEST_F(PriceUtilitiesTest, EachEntryFillsItsOwnFieldsOfEveryPlu)
     addPlu(2, u"'3', null, '3', '4', '5', '6', '7', '8', '9', '0'"_s);
     addPlu(1, u"'1.00', '2.00', '0.00', 'abc', '-1.00', '9.1', '9.2', '9.3', '9.4', null"_s);
     // Nobody may be there to close a box: others must be able to collect meanwhile.
-    m_boxes.whileOpen = [this](const test::ShownBox& box) {
+    QStringList notices;
+    m_boxes.whileOpen = [&](const test::ShownBox& box) {
+        notices << m_main.statusBar1().notice();
         test::RecordingBoxes refusals;
         EXPECT_TRUE(FolderLock::take(m_values.appPath, refusals)) << box.text.toStdString();
         execute(u"update PLUDATA set DESCRIPTION = 'open'"_s);
@@ -157,6 +160,8 @@ TEST_F(PriceUtilitiesTest, EachEntryFillsItsOwnFieldsOfEveryPlu)
         EXPECT_EQ(prices(), stored) << entry;
     }
     m_boxes.whileOpen = {};
+    const QString change = u"This will change price 2 of 2 PLUs. A safety copy is made first."_s;
+    EXPECT_EQ(notices.first(3), (QStringList{change, change, u"Changed 2 PLUs."_s + wayBack}));
     restoreLatestCopy();
     EXPECT_EQ(prices(), steps[3].prices) << "as before the reset";
     EXPECT_EQ(logged().first(3),
@@ -173,13 +178,18 @@ TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClos
     for (const QString& table : tables)
         execute(u"insert into %1 default values"_s.arg(table));
     QStringList counts;
+    QStringList notices;
     m_boxes.whileOpen = [&](const auto&) {
         counts.append(recordCounts(tables));
+        notices << m_main.statusBar1().notice();
     };
     EXPECT_EQ(choose("SalesReset"), (QStringList{u"Reset Sales Data?: Do you wish to reset ALL Sales data?"_s,
                                                  u"Sales Reset: Sales Reset Complete!"_s}));
     counts.append(recordCounts(tables));
     EXPECT_EQ(counts, (QStringList{u"1111111"_s, u"0000001"_s, u"0000000"_s}));
+    EXPECT_EQ(notices, (QStringList{u"This will delete all collected sales. A safety copy is made first."_s,
+                                    u"Deleted all collected sales."_s + wayBack}));
+    EXPECT_EQ(m_main.statusBar1().notice(), notices.back());
     restoreLatestCopy();
     EXPECT_EQ(recordCounts(tables), u"1111111"_s);
 }
@@ -202,24 +212,6 @@ TEST_F(PriceUtilitiesTest, NoNeedsNoDatabaseAndARateOfZeroOrAnotherRunChangesNot
     const auto other = FolderLock::take(m_values.appPath, m_boxes);
     EXPECT_EQ(choose("TransferEuro", "2").last().section(u':', 0, 1), u"Please Check: Nothing was started"_s);
     EXPECT_EQ(prices(), "1|2|3|4|5|6|7|8|9|10");
-}
-
-TEST_F(PriceUtilitiesTest, TheStatusBarSaysWhatWillChangeAndAfterwardsTheWayBack)
-{
-    makeCustomerDatabase();
-    addPlu(1, u"1, 2, 3, 4, 5, 6, 7, 8, 9, 10"_s);
-    QStringList notices;
-    m_boxes.whileOpen = [&](const test::ShownBox&) {
-        notices << m_main.statusBar1().notice();
-    };
-    (void)choose("Transfer1to2", "2");
-    (void)choose("SalesReset");
-    const QString back = u" To go back, right-click Cafe in \"Change Customer File\"."_s;
-    const QString change = u"This will change price 2 of 1 PLU. A safety copy is made first."_s;
-    EXPECT_EQ(notices, (QStringList{change, change, u"Changed 1 PLU."_s + back,
-                                    u"This will delete all collected sales. A safety copy is made first."_s,
-                                    u"Deleted all collected sales."_s + back}));
-    EXPECT_EQ(m_main.statusBar1().notice(), notices.back());
 }
 
 TEST_F(PriceUtilitiesTest, AFailureAmidTheWalkKeepsTheRecordsBeforeItAndGivesTheWindowBack)
@@ -248,6 +240,7 @@ TEST_F(PriceUtilitiesTest, DuringTheWalkTheWindowLivesTakesNoOtherEntryAndCloses
     EXPECT_EQ(choose("TransferEuro", "2"), (QStringList{toEuro, rateBox, converted}));
     EXPECT_EQ(turns, 1);
     EXPECT_EQ(prices(), "1|2|3|4|5| 0.5| 1| 1.5| 2| 2.5");
+    EXPECT_EQ(m_main.statusBar1().notice(), u"Changed 1 PLU."_s + wayBack);
     m_boxes.answers = {true};
     EXPECT_TRUE(QTest::qWaitFor([this] { return !m_main.isVisible(); })) << "the close that was put off";
     EXPECT_EQ(takeBoxes(), QStringList{u"Exit Program: Are You Sure?"_s});
