@@ -1,6 +1,7 @@
 // The shared routines to the character, with the files that registers and tools leave behind.
 #include "base/SharedRoutines.h"
 
+#include "base/FieldText.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/support/RecordingBoxes.h"
 
@@ -9,16 +10,13 @@ namespace norvane
 namespace
 {
 
-using test::failureOf;
-using test::TestFolder;
-
 /// The working directory is the program's folder.
 class SharedRoutinesTest : public testing::Test
 {
 protected:
     SharedRoutinesTest() { m_values.appPath = m_values.customerPath = m_app.path(); }
 
-    TestFolder m_app;
+    test::TestFolder m_app;
     test::WorkingDirectory m_here{m_app.path()};
     ApplicationValues m_values;
 };
@@ -36,19 +34,6 @@ TEST_F(SharedRoutinesTest, ModelIndexesGiveTheConvertersWords)
     }
 }
 
-TEST_F(SharedRoutinesTest, AnEmptyModelIsReportedWithFileAndKey)
-{
-    m_app.write("setup.ini", "[SetupOption]\r\nECRModel=\r\n");
-    try {
-        (void)GetModelCode(m_values);
-        FAIL() << "no failure";
-    } catch (const RuntimeFailure& failure) {
-        EXPECT_EQ(failure.number(), 13);
-        EXPECT_TRUE(failure.text().endsWith(u"\nECRModel= in "_s + m_app.path("setup.ini")))
-            << failure.what();
-    }
-}
-
 TEST_F(SharedRoutinesTest, PositionThreeIsARowOfTheRegisterAndNoBit)
 {
     for (int digit = 0; digit < 10; ++digit) {
@@ -60,14 +45,14 @@ TEST_F(SharedRoutinesTest, PositionThreeIsARowOfTheRegisterAndNoBit)
 TEST_F(SharedRoutinesTest, TheLengthOfTheMemoryFileTellsTheFirmware)
 {
     test::RecordingBoxes boxes;
-    EXPECT_EQ(failureOf([&] { (void)GetFirmwareGeneration(m_values, boxes); }), 53);
+    EXPECT_EQ(test::failureOf([&] { (void)GetFirmwareGeneration(m_values, boxes); }), 53);
     for (const auto& [length, generation] : {std::pair{0, -1}, {1, 2}, {77, 2}, {78, 3}, {32767, 3}}) {
         m_app.write("MEM.dat", QByteArray(length, 'x'));
         EXPECT_EQ(GetFirmwareGeneration(m_values, boxes), generation) << length;
     }
     EXPECT_EQ(boxes.shown.size(), 1U) << "for the empty one";
     m_app.write("MEM.dat", QByteArray(32768, 'x'));
-    EXPECT_EQ(failureOf([&] { (void)GetFirmwareGeneration(m_values, boxes); }), 6);
+    EXPECT_EQ(test::failureOf([&] { (void)GetFirmwareGeneration(m_values, boxes); }), 6);
 }
 
 TEST_F(SharedRoutinesTest, TheLastValueOfTheStatusFileCounts)
@@ -84,6 +69,25 @@ TEST_F(SharedRoutinesTest, TheLastValueOfTheStatusFileCounts)
         m_app.write("STATUS.OUT", content);
         EXPECT_EQ(ReadStatusOut(), status) << content;
     }
+}
+
+const struct {
+    std::optional<QString> text;
+    int width;
+    int mode;
+    QString field;
+} justified[] = {{u" 12 "_s, 4, 0, u"0012"_s},  {u"123456"_s, 4, 0, u"3456"_s}, {{}, 3, 0, u"000"_s},
+                 {u"  ab "_s, 4, 1, u"ab  "_s}, {u"123456"_s, 4, 1, u"1234"_s}, {u"ab"_s, 5, 2, u"  ab "_s},
+                 {u"ab"_s, 7, 99, u"  ab   "_s}};
+
+TEST(FieldTextTest, ATextIsBroughtToTheWidthOfItsField)
+{
+    for (auto [value, width, mode, field] : justified) {
+        EXPECT_EQ(JustifyField(value, width, mode), field);
+        EXPECT_EQ(value, field) << "the caller's own value";
+    }
+    std::optional<QString> longer = u"abcdef"_s;
+    EXPECT_EQ(test::failureOf([&longer] { JustifyField(longer, 4, 2); }), 5);
 }
 
 } // namespace

@@ -47,6 +47,11 @@ protected:
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+    /// The last digits of the current row's number.
+    [[nodiscard]] std::string current() const
+    {
+        return grid->currentIndex().siblingAtColumn(0).data().toString().right(3).toStdString();
+    }
     [[nodiscard]] std::string stored(const char* field) const
     {
         return rows(QByteArray("select ") + field + " from PLUDATA where DESCRIPTION = 'Lager'");
@@ -108,20 +113,14 @@ TEST_F(GridTest, CellsAreStoredAtOnce)
 
 TEST_F(GridTest, RowsAreReadAgainAndTheCurrentOneStaysTheSameRecord)
 {
-    const auto current = [&] {
-        return grid->currentIndex().siblingAtColumn(0).data().toString().right(3).toStdString();
-    };
-    const auto scrolled = [&] {
-        return grid->verticalScrollBar()->value();
-    };
     EXPECT_EQ(grid->model()->rowCount(), 200) << "also after the window came to the front";
     type(form, "GridFind", "600");
-    const int top = scrolled();
+    const int top = grid->verticalScrollBar()->value();
     execute("update PLUDATA set PRICE1 = '9'");
     form->refresh();
     EXPECT_EQ(grid->currentIndex().siblingAtColumn(2).data(), u"9.00"_s);
     EXPECT_EQ(cell(0, 2).data(), u"9.00"_s);
-    EXPECT_EQ(scrolled(), top) << "the rows stay in their places";
+    EXPECT_EQ(grid->verticalScrollBar()->value(), top) << "the rows stay in their places";
     EXPECT_EQ(current(), "600");
     execute("delete * from PLUDATA where PLUNUMBER < '000000000000000590'");
     form->refresh();
@@ -160,26 +159,23 @@ TEST_F(GridTest, WhatNoRegisterHoldsIsRejectedAndTheCellKeepsItsPrice)
 
 TEST_F(GridTest, FindsRowsByNumberOrText)
 {
-    const auto found = [&] {
-        return grid->currentIndex().siblingAtColumn(0).data().toString().right(3).toStdString();
-    };
     type(form, "GridFind", "CLAR");
-    EXPECT_EQ(found(), "123");
+    EXPECT_EQ(current(), "123");
     QTest::keyClick(control(form, "GridFind"), Qt::Key_Down);
     EXPECT_TRUE(grid->hasFocus());
     EXPECT_EQ(grid->currentIndex().column(), 2) << "the first cell that can be entered and is shown";
     type(form, "GridFind", "69");
-    EXPECT_EQ(found(), "269");
+    EXPECT_EQ(current(), "269");
     EXPECT_TRUE(grid->viewport()->rect().contains(grid->visualRect(grid->currentIndex())));
     for (const char* next : {"369", "469", "569", "669", "690", "691"}) {
         QTest::keyClick(control(form, "GridFind"), Qt::Key_Return);
-        EXPECT_EQ(found(), next);
+        EXPECT_EQ(current(), next);
     }
     type(form, "GridFind", "699");
     QTest::keyClick(control(form, "GridFind"), Qt::Key_Return);
-    EXPECT_EQ(found(), "699") << "the only one, again";
+    EXPECT_EQ(current(), "699") << "the only one, again";
     type(form, "GridFind", "clart");
-    EXPECT_EQ(found(), "123") << "stays where the last match was";
+    EXPECT_EQ(current(), "123") << "stays where the last match was";
     EXPECT_EQ(control<QLabel>(form, "GridFindOutcome")->text(), u"No such row"_s);
 }
 

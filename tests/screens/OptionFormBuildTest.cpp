@@ -101,18 +101,17 @@ TEST_F(OptionFormBuildTest, ControlsTakeTheirPropertiesFromTheFile)
 
 TEST_F(OptionFormBuildTest, ATableThatIsNotGivenIsToldAndThenFails)
 {
-    const std::pair<const char*, QStringList> cases[] = {
-        {"", {u"database table"_s, u"index"_s}},
-        {"[Database]\nIndex1=groupno\n", {u"database table"_s}},
-        {"[Database]\ntable=GROUPS\n", {u"index"_s}}};
-    for (const auto& [text, missing] : cases) {
+    const auto no = [this](const QString& what) {
+        return test::ShownBox{u"No %1 defined in %2 file"_s.arg(what, m_screenFilePath),
+                              u"Initialisation Error"_s, BoxIcon::Critical};
+    };
+    const std::pair<const char*, std::vector<test::ShownBox>> cases[] = {
+        {"", {no(u"database table"_s), no(u"index"_s)}},
+        {"[Database]\nIndex1=groupno\n", {no(u"database table"_s)}},
+        {"[Database]\ntable=GROUPS\n", {no(u"index"_s)}}};
+    for (const auto& [text, told] : cases) {
         EXPECT_EQ(failureOf([&, text = text] { open(text); }), 3265) << text;
-        std::vector<test::ShownBox> expected;
-        for (const QString& what : missing) {
-            expected.push_back({u"No %1 defined in %2 file"_s.arg(what, m_screenFilePath),
-                                u"Initialisation Error"_s, BoxIcon::Critical});
-        }
-        EXPECT_EQ(std::exchange(m_boxes.shown, {}), expected) << text;
+        EXPECT_EQ(std::exchange(m_boxes.shown, {}), told) << text;
     }
 }
 

@@ -106,12 +106,15 @@ protected:
         return control<QLineEdit>(form, box)->text().toStdString();
     }
     /// Presses a find button, types into the dialog and ends it with a key, or with the button @p answer.
-    static void find(const Form& form, const char* button, const char* searchText,
-                     Qt::Key key = Qt::Key_Return, const char* answer = nullptr)
+    /// @return what the dialog says.
+    static std::string find(const Form& form, const char* button, const char* searchText,
+                            Qt::Key key = Qt::Key_Return, const char* answer = nullptr)
     {
-        QTimer::singleShot(0, [=] {
+        QString said;
+        QTimer::singleShot(0, [=, &said] {
             QWidget* const dialog = QApplication::activeModalWidget();
             ASSERT_NE(dialog, nullptr);
+            said = dialog->findChild<QLabel*>()->text();
             auto* const box = dialog->findChild<QLineEdit*>(u"SearchData"_s);
             QTest::keyClicks(box, QString::fromUtf8(searchText));
             if (answer != nullptr) {
@@ -121,18 +124,13 @@ protected:
             }
         });
         press(form, button);
+        return said.toStdString();
     }
     [[nodiscard]] ShownBox takeBox()
     {
         EXPECT_EQ(m_boxes.shown.size(), 1U);
         const auto shown = std::exchange(m_boxes.shown, {});
         return shown.empty() ? ShownBox{} : shown.back();
-    }
-    /// The number of the failure that reached the outermost handler, 0 for none.
-    static int failureNumber()
-    {
-        const auto failure = takeFailure();
-        return failure ? failure->number() : 0;
     }
 
     TestFolder m_folder;

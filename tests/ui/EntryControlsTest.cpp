@@ -69,26 +69,11 @@ TEST(NumberBox, WhatAScreenReaderPutsInFollowsTheRulesOfTyping)
         editing.replaceText(0, static_cast<int>(box.text().size()), text);
         return box.text();
     };
-    EXPECT_EQ(give(u"2,90"_s), u"2.90"_s);
-    EXPECT_EQ(edited.count(), 1);
-    EXPECT_EQ(give(u"-3"_s), u"2.90"_s);
-    EXPECT_EQ(give(u"3 euro"_s), u"2.90"_s);
-    EXPECT_EQ(edited.count() + exceeded.count(), 1);
+    for (const auto& given : {u"2,90"_s, u"-3"_s, u"3 euro"_s})
+        EXPECT_EQ(give(given), u"2.90"_s);
+    EXPECT_EQ(edited.count() + exceeded.count(), 1) << "the others were refused";
     EXPECT_EQ(give(u"100"_s), u"0.00"_s);
     EXPECT_EQ(exceeded.count(), 1);
-}
-
-TEST(NumberBox, TheMaximumIsReportedOnceForEachEntryAboveIt)
-{
-    DecimalBox box;
-    QSignalSpy exceeded(&box, &NumberBox::maximumExceeded);
-    QObject::connect(&box, &NumberBox::maximumExceeded, &box, &QLineEdit::selectAll);
-    box.setMaximum(Decimal(9999, 2));
-    EXPECT_EQ(typed(box, "0099.990"), u"99.99"_s);
-    EXPECT_EQ(exceeded.count(), 0);
-    EXPECT_EQ(typed(box, "99.991"), u"0.00"_s);
-    EXPECT_EQ(exceeded.count(), 1);
-    EXPECT_EQ(typed(box, "1005"), u"5.00"_s) << "the next digit begins a new entry";
 }
 
 TEST(NumberBox, TellsItsRangeAndOpensItAtAKeyThatItDoesNotTake)
@@ -125,11 +110,16 @@ TEST(NumberBox, APriceTypedAfterAClickOrADoubleClickReplacesTheFormerOne)
     EXPECT_FALSE(price.hasSelectedText()) << "the next click sets the cursor";
 }
 
-TEST(NumberBox, WithoutAMaximumWhatItCanHoldIsTheLargest)
+TEST(NumberBox, AnEntryAboveTheMaximumIsReportedOnceAndEmptied)
 {
     IntegerBox whole;
     DecimalBox money;
+    DecimalBox limited;
+    limited.setMaximum(Decimal(9999, 2));
+    // Without a maximum, what the box can hold is the largest.
     const std::tuple<NumberBox&, const char*, QString> cases[] = {
+        {limited, "0099.990", u"99.99"_s},
+        {limited, "99.991", u"0.00"_s},
         {money, "000999999999999999999", u"999999999999999999.00"_s},
         {money, "1234567890123456789", u"0.00"_s},
         {money, "1.123456789012345678", u"0.00"_s},
@@ -140,6 +130,8 @@ TEST(NumberBox, WithoutAMaximumWhatItCanHoldIsTheLargest)
         EXPECT_EQ(typed(box, keys), kept);
         EXPECT_EQ(exceeded.count(), kept.startsWith(u'0') ? 1 : 0) << keys;
     }
+    QObject::connect(&limited, &NumberBox::maximumExceeded, &limited, &QLineEdit::selectAll);
+    EXPECT_EQ(typed(limited, "1005"), u"5.00"_s) << "the next digit begins a new entry";
 }
 
 TEST(TextBox, TypingStopsAtTheLimitButAStoredTextStaysWhole)
@@ -189,6 +181,9 @@ TEST(TextBox, TypingIntoAPaddedTextPushesTheBlanksOut)
     EXPECT_EQ(box.text(), u"Ales 1  "_s) << "the end is behind the text, not behind its blanks";
 }
 
+const QString tooLong = u"At most 8 characters. Select the text first to replace it."_s;
+const QString cutOff = u"Only the first 8 characters were pasted"_s;
+
 /// What stands in a box of 8 characters, which part is selected, what is pasted; text and tip then.
 const struct {
     QString standing;
@@ -199,18 +194,10 @@ const struct {
 } pastes[] = {
     {u"Ale"_s, {3, 0}, u" 0.5l\r\n"_s, u"Ale 0.5l"_s, {}},
     {u"Ale     "_s, {3, 0}, u"s"_s, u"Ales    "_s, {}},
-    {u"Orange"_s,
-     {6, 0},
-     u"Latte"_s,
-     u"Orange"_s,
-     u"At most 8 characters. Select the text first to replace it."_s},
+    {u"Orange"_s, {6, 0}, u"Latte"_s, u"Orange"_s, tooLong},
     {u"Orange"_s, {0, 6}, u"Latte"_s, u"Latte"_s, {}},
-    {u"Orange"_s, {3, 0}, u"Latte macchiato"_s, u"Latte ma"_s, u"Only the first 8 characters were pasted"_s},
-    {u"Orange"_s,
-     {0, 3},
-     u"Latte macchi\u0142to"_s,
-     u"Latte ma"_s,
-     u"Only the first 8 characters were pasted"_s},
+    {u"Orange"_s, {3, 0}, u"Latte macchiato"_s, u"Latte ma"_s, cutOff},
+    {u"Orange"_s, {0, 3}, u"Latte macchi\u0142to"_s, u"Latte ma"_s, cutOff},
     {u"Orange"_s, {0, 3}, u"\u0141atte macchiato"_s, u"Orange"_s, {}},
 };
 
@@ -240,23 +227,19 @@ TEST(TextBox, APastedTextIsNeverGluedToAPartOfTheFormerOne)
         if (action->text().contains(u"Paste"_s))
             action->trigger();
     }
-    EXPECT_EQ(QToolTip::text(), u"At most 8 characters. Select the text first to replace it."_s);
+    EXPECT_EQ(QToolTip::text(), tooLong);
     QApplication::activePopupWidget()->close();
     EXPECT_EQ(box.text(), u"Orange"_s) << "from the menu as well";
 }
 
-const struct {
-    TextBox::Characters characters;
-    QString typed;
-    QString kept;
-} refusals[] = {{TextBox::Characters::Register, u"Caf\u00e9 5\u20ac \u2605\u0142\u201cok\u201d"_s,
-                 u"Caf\u00e9 5\u20ac \u201cok\u201d"_s},
-                {TextBox::Characters::Digits, u"1a-2 3\u0663"_s, u"123"_s},
-                {TextBox::Characters::Hexadecimal, u"0Ag f9.-x"_s, u"0Af9"_s}};
-
 TEST(TextBox, RefusesWhatTheFieldCannotHold)
 {
-    for (const auto& [characters, typed, kept] : refusals) {
+    using enum TextBox::Characters;
+    for (const auto& [characters, typed, kept] :
+         {std::tuple{Register, u"Caf\u00e9 5\u20ac \u2605\u0142\u201cok\u201d"_s,
+                     u"Caf\u00e9 5\u20ac \u201cok\u201d"_s},
+          {Digits, u"1a-2 3\u0663"_s, u"123"_s},
+          {Hexadecimal, u"0Ag f9.-x"_s, u"0Af9"_s}}) {
         TextBox box;
         box.setCharacters(characters);
         for (const QChar character : typed) // QTest's own key clicks know no keys beyond Latin-1
@@ -288,25 +271,18 @@ TEST(ValueList, TheValueSelectsItsRowAndStaysAsItWasGiven)
     EXPECT_EQ(edited.count(), 0);
 }
 
-TEST(ValueList, TheWheelScrollsTheScreenAndNotTheList)
+TEST(ValueList, TheWheelScrollsTheScreenAndTheOpenListIsAsWideAsItsColumns)
 {
     ValueList list;
     list.setRows({{u"1"_s, u"Wines"_s}, {u"2"_s, u"Beers"_s}});
-    list.setValue(u"1"_s);
-    QWheelEvent turn({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    list.setValue(u"2"_s);
+    QWheelEvent turn({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&list, &turn);
-    EXPECT_EQ(list.value(), u"1"_s);
+    EXPECT_EQ(list.value(), u"2"_s);
     EXPECT_FALSE(turn.isAccepted());
-}
-
-TEST(ValueList, TheOpenListIsAsWideAsItsColumnsAndHidesThoseOfNoWidth)
-{
-    ValueList list;
-    list.setRows({{u"1"_s, u"Wines"_s}, {u"2"_s, u"Beers"_s}});
     list.resize(40, 24);
     list.setColumnWidths({0, 150});
-    list.setValue(u"2"_s);
-    EXPECT_EQ(list.currentText(), u"Beers"_s);
+    EXPECT_EQ(list.currentText(), u"Beers"_s) << "columns of no width are hidden";
     list.show();
     list.showPopup();
     EXPECT_GE(list.view()->width(), 150);

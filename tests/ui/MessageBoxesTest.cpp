@@ -47,79 +47,52 @@ private:
     QTimer m_timer;
 };
 
-class FileBoxTest : public testing::Test
+TEST(MessageBoxes, AnExistingFileIsReplacedOnlyAfterAYes)
 {
-protected:
-    [[nodiscard]] QString save(const QStringList& answers)
-    {
-        Answers user(answers);
-        QString path = MessageBoxes().fileToSave({u"Save"_s, m_folder.path(), u"Texts (*.txt)"_s, u"txt"_s});
-        m_asked = user.asked;
-        return path;
-    }
-
-    test::TestFolder m_folder;
-    QStringList m_asked;
-};
-
-TEST_F(FileBoxTest, AnExistingFileIsReplacedOnlyAfterAYes)
-{
-    m_folder.write("old.txt", "old");
-    const QStringList question{u"old.txt exists already. Replace it? preset No"_s};
-    EXPECT_EQ(save({u"new"_s}), m_folder.path("new.txt")) << "with the suffix, unasked";
-    EXPECT_EQ(m_asked, QStringList());
-    EXPECT_EQ(save({u"old"_s, u"Yes"_s}), m_folder.path("old.txt"));
-    EXPECT_EQ(m_asked, question);
-    EXPECT_EQ(save({u"old"_s, u"No"_s, u"other.txt"_s}), m_folder.path("other.txt")) << "asked for another";
-    EXPECT_EQ(m_asked, question);
-    EXPECT_EQ(save({u"old"_s, u"No"_s, u"Escape"_s}), QString());
-}
-
-TEST_F(FileBoxTest, OnlyAFileThatExistsCanBeOpened)
-{
-    m_folder.write("old.txt", "old");
+    const test::TestFolder folder;
+    folder.write("old.txt", "old");
+    const FileRequest request{u"Save"_s, folder.path(), u"Texts (*.txt)"_s, u"txt"_s};
+    const auto save = [&](const QStringList& answers) {
+        const Answers user(answers);
+        const QString path = MessageBoxes().fileToSave(request).section(u'/', -1);
+        return user.asked.join(u'|') + u" -> "_s + path;
+    };
+    const QString question = u"old.txt exists already. Replace it? preset No -> "_s;
+    EXPECT_EQ(save({u"new"_s}), u" -> new.txt"_s) << "with the suffix, unasked";
+    EXPECT_EQ(save({u"old"_s, u"Yes"_s}), question + u"old.txt"_s);
+    EXPECT_EQ(save({u"old"_s, u"No"_s, u"other.txt"_s}), question + u"other.txt"_s) << "asked for another";
+    EXPECT_EQ(save({u"old"_s, u"No"_s, u"Escape"_s}), question);
     const Answers user({u"old.txt"_s});
-    EXPECT_EQ(MessageBoxes().fileToOpen({u"Open"_s, m_folder.path(), u"Texts (*.txt)"_s, u"txt"_s}),
-              m_folder.path("old.txt"));
+    EXPECT_EQ(MessageBoxes().fileToOpen(request), folder.path("old.txt"));
 }
 
-/// Presses a key in the box that opens next.
-void pressSoon(Qt::Key key, Qt::KeyboardModifier modifier)
+/// Presses each key in a box of its own, which @p ask opens.
+template <typename Answer>
+void expectAnswers(const std::function<Answer()>& ask,
+                   const std::vector<std::pair<const char*, Answer>>& answers)
 {
-    QTimer::singleShot(0, [key, modifier] {
-        QWidget* const box = QApplication::activeModalWidget();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(box));
-        QTest::keyClick(box, key, modifier);
-    });
-}
-
-TEST(MessageBoxes, EnterConfirmsAndEscapeCancels)
-{
-    for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
-        pressSoon(key, Qt::NoModifier);
-        EXPECT_EQ(MessageBoxes().confirm(u"Start?"_s, u"Print"_s), key == Qt::Key_Return);
+    for (const auto& [key, answer] : answers) {
+        QTimer::singleShot(0, [key = key] {
+            QWidget* const box = QApplication::activeModalWidget();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(box));
+            QTest::keySequence(box, QKeySequence(QLatin1String(key)));
+        });
+        EXPECT_EQ(ask(), answer) << key;
     }
 }
 
-TEST(MessageBoxes, EnterSavesAndEscapeStays)
+TEST(MessageBoxes, EnterEscapeAndLettersAnswer)
 {
-    for (const auto& [key, answer] :
-         {std::pair(Qt::Key_Return, UnsavedAnswer::Save), std::pair(Qt::Key_Escape, UnsavedAnswer::Cancel)}) {
-        pressSoon(key, Qt::NoModifier);
-        EXPECT_EQ(MessageBoxes().askToSave(u"Changes are not saved."_s, u"PLU"_s), answer);
-    }
-}
-
-TEST(MessageBoxes, OfTwoNamedAnswersEnterAndEscapeGiveTheSecond)
-{
-    const std::tuple<Qt::Key, Qt::KeyboardModifier, bool> cases[] = {{Qt::Key_Return, Qt::NoModifier, false},
-                                                                     {Qt::Key_Escape, Qt::NoModifier, false},
-                                                                     {Qt::Key_H, Qt::AltModifier, false},
-                                                                     {Qt::Key_S, Qt::AltModifier, true}};
-    for (const auto& [key, modifier, first] : cases) {
-        pressSoon(key, modifier);
-        EXPECT_EQ(MessageBoxes().choose(u"Changed"_s, u"Record"_s, u"&Save"_s, u"S&how"_s), first) << key;
-    }
+    MessageBoxes boxes;
+    expectAnswers<bool>([&] { return boxes.confirm(u"Start?"_s, u"Print"_s); },
+                        {{"Return", true}, {"Esc", false}});
+    expectAnswers<UnsavedAnswer>([&] { return boxes.askToSave(u"Changes are not saved."_s, u"PLU"_s); },
+                                 {{"Return", UnsavedAnswer::Save}, {"Esc", UnsavedAnswer::Cancel}});
+    expectAnswers<bool>([&] { return boxes.choose(u"Changed"_s, u"Record"_s, u"&Save"_s, u"S&how"_s); },
+                        {{"Return", false}, {"Esc", false}, {"Alt+H", false}, {"Alt+S", true}});
+    expectAnswers<std::optional<bool>>(
+        [&] { return boxes.askBeforeGoingOn(u"Save Changes?"_s, u"Save Details."_s); },
+        {{"Return", true}, {"Alt+N", false}, {"Esc", std::nullopt}});
 }
 
 TEST(MessageBoxes, AShortTextLeavesRoomForTheTitle)
@@ -136,18 +109,6 @@ TEST(MessageBoxes, AShortTextLeavesRoomForTheTitle)
     const QString title = u"Transfer of all prices to euro prices"_s;
     EXPECT_GT(widthOf(title), QFontMetrics(QApplication::font()).horizontalAdvance(title));
     EXPECT_LT(widthOf(u"A"_s), widthOf(title));
-}
-
-TEST(MessageBoxes, AQuestionBeforeGoingOnCanBeClosedWithoutAnAnswer)
-{
-    const std::tuple<Qt::Key, Qt::KeyboardModifier, std::optional<bool>> cases[] = {
-        {Qt::Key_Return, Qt::NoModifier, true},
-        {Qt::Key_N, Qt::AltModifier, false},
-        {Qt::Key_Escape, Qt::NoModifier, std::nullopt}};
-    for (const auto& [key, modifier, answer] : cases) {
-        pressSoon(key, modifier);
-        EXPECT_EQ(MessageBoxes().askBeforeGoingOn(u"Save Changes?"_s, u"Save Details."_s), answer) << key;
-    }
 }
 
 } // namespace

@@ -1,0 +1,21 @@
+// From the value of a field to the content of the control that is bound to it, and back.
+#pragma once
+
+#include "screens/RecordEditor.h"
+
+namespace norvane::screens
+{
+
+/// @p text as the register numbers its PLUs: the last 18 digits, filled with zeros from the left.
+[[nodiscard]] QString pluNumber(const QString& text);
+/// Whether the field or index @p name holds PLU numbers.
+[[nodiscard]] bool isPluNumber(const QString& name);
+
+/// What the control of @p field shows of @p value. @throws RuntimeFailure 13 for null in a whole-number box.
+[[nodiscard]] store::Value shownValue(const BoundField& field, const store::Value& value);
+/// What a control of @p kind shows of a new record.
+[[nodiscard]] store::Value blankValue(ControlKind kind);
+/// What a save stores of @p field into @p definition.
+[[nodiscard]] store::Value valueToStore(const BoundField& field, const store::FieldDefinition& definition);
+
+} // namespace norvane::screens
