@@ -1,7 +1,6 @@
 // The context menu of a customer's line.
 #include "customers/SafetyCopies.h"
 #include "shell/FrmCustomer.h"
-#include "store/Recordset.h"
 #include "tests/shell/ShellFixture.h"
 
 #include <QtWidgets>
@@ -27,18 +26,9 @@ protected:
         entries.last()->trigger();
         return entries.size();
     }
-    [[nodiscard]] qint64 plus() const
+    [[nodiscard]] std::string plus() const
     {
-        store::Database database(m_values.databasePath);
-        return database.openTable(u"pludata"_s).recordCount();
-    }
-    void addPlu(const QString& number) const
-    {
-        store::Database database(m_values.databasePath);
-        auto plus = database.openTable(u"pludata"_s);
-        plus.addNew();
-        plus.setValue(u"plunumber"_s, store::Value::text(number));
-        plus.update();
+        return test::rowsOf(m_values.databasePath, u"select PLUNUMBER from PLUDATA"_s);
     }
 };
 
@@ -47,17 +37,17 @@ TEST_F(CopyMenuTest, PutsTheCustomerBackAfterAQuestion)
     EXPECT_EQ(chooseLastCopy(), 1) << "no copies, which a heading tells";
     EXPECT_TRUE(m_boxes.shown.empty());
 
-    addPlu(u"1"_s);
+    execute(u"insert into PLUDATA (PLUNUMBER) values ('1')"_s);
     (void)customers::makeSafetyCopy(m_values.customerPath, u"before upload"_s, store::CopyOf::Programme,
                                     QDateTime({2026, 11, 25}, {18, 30}));
-    addPlu(u"2"_s);
+    execute(u"insert into PLUDATA (PLUNUMBER) values ('2')"_s);
     EXPECT_EQ(chooseLastCopy(), 2);
-    EXPECT_EQ(plus(), 2) << "without an answer";
+    EXPECT_EQ(plus(), "1 2") << "without an answer";
     ASSERT_EQ(m_boxes.shown.size(), 1U);
     EXPECT_EQ(m_boxes.shown[0].preset, BoxAnswer::No);
     m_boxes.answers = {true};
     chooseLastCopy();
-    EXPECT_EQ(plus(), 1);
+    EXPECT_EQ(plus(), "1");
     EXPECT_TRUE(m_boxes.shown.back().text.startsWith(u"CAFE is as it was on"_s));
 }
 

@@ -11,18 +11,6 @@ namespace norvane::shell
 namespace
 {
 
-/// Runs the failing program as @p kind and expects one box with @p shown, or none for an empty text.
-void expectShown(const QString& kind, const QString& shown)
-{
-    QProcess program;
-    program.start(QLatin1StringView(FAILING_PROGRAM), {kind});
-    ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(QString::fromUtf8(program.readAllStandardOutput()),
-              shown.isEmpty() ? shown : applicationTitle() + u"|Run-time error '"_s + shown);
-    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(program.exitCode(), shown.isEmpty() ? 0 : 1);
-}
-
 TEST(ProgramTest, AFailureIsShownOnceAndEndsTheProcess)
 {
     const QString notFound = u"53':\n\nFile not found: mem.dat\n"_s;
@@ -32,8 +20,13 @@ TEST(ProgramTest, AFailureIsShownOnceAndEndsTheProcess)
                                                 {u"memory"_s, u"7':\n\nOut of memory\n"_s},
                                                 {u"none"_s, QString()}};
     for (const auto& [kind, shown] : rows) {
-        SCOPED_TRACE(kind.toStdString());
-        expectShown(kind, shown);
+        QProcess program;
+        program.start(QLatin1StringView(FAILING_PROGRAM), {kind});
+        ASSERT_TRUE(program.waitForFinished());
+        EXPECT_EQ(QString::fromUtf8(program.readAllStandardOutput()),
+                  shown.isEmpty() ? shown : applicationTitle() + u"|Run-time error '"_s + shown);
+        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << kind.toStdString();
+        EXPECT_EQ(program.exitCode(), shown.isEmpty() ? 0 : 1) << kind.toStdString();
     }
 }
 

@@ -31,35 +31,21 @@ protected:
     }
 };
 
-/// Entries and what they open for the models 0 to 3.
-constexpr std::pair<QLatin1StringView, const char*> targets[] = {
-    {"PLUMENU"_L1, "\\PLUVelmarv2.scn \\PLUVelmarv2card.scn \\PLUVelmarv3.scn \\PLU.scn"},
-    {"PLUStatusMenu"_L1,
-     "\\PLUstatVelmarv2.scn \\PLUstatVelmarvcard.scn \\PLUstatVelmarv3.scn \\PLUstat.scn"},
-    {"EmployeeMenu"_L1,
-     "\\employeeVelmarv2.scn \\employeeVelmarv2.scn \\employeeVelmarv3.scn \\employee.scn"},
-    {"EJPrint"_L1, "\\EJPRTv2.scn \\EJPRTv2.scn \\EJPRTv3.scn \\EJPRT.scn"},
-    {"KeyboardLocation"_L1, "KeyLayoutVelmar KeyLayoutVelmar KeyLayoutVelmar KeyLayoutDorvik"},
-    {"GroupMenu"_L1, "\\Group.scn \\Group.scn \\Group.scn \\Group.scn"},
-};
-
 TEST_F(ScreenChoiceTest, TheModelOfTheMomentChoosesTheFile)
 {
-    for (const auto& [entry, expected] : targets) {
-        QStringList found;
-        for (int model = 0; model < 4; ++model) {
-            setModel(QByteArray::number(model));
-            found << target(entry);
-        }
-        EXPECT_EQ(found.join(u' '), QLatin1String(expected)) << entry.data();
+    for (const auto& [model, file] : {std::pair{"0", u"\\PLUVelmarv2.scn"},
+                                      {"1", u"\\PLUVelmarv2card.scn"},
+                                      {"2", u"\\PLUVelmarv3.scn"},
+                                      {"3", u"\\PLU.scn"},
+                                      {"7", u"\\PLU.scn"}}) {
+        setModel(model);
+        EXPECT_EQ(target("PLUMENU"_L1), file) << model;
     }
-    setModel("7");
-    EXPECT_EQ(target("PLUMENU"_L1), u"\\PLU.scn");
-    QFile::remove(m_folder.path("app/Cafe/setup.ini"));
-    EXPECT_EQ(target("PLUMENU"_L1), u"\\PLUVelmarv2.scn");
     setModel("");
     EXPECT_EQ(failureOf([this] { (void)target("PLUMENU"_L1); }), 13);
     EXPECT_EQ(target("GroupMenu"_L1), u"\\Group.scn") << "needs no model";
+    QFile::remove(m_folder.path("app/Cafe/setup.ini"));
+    EXPECT_EQ(target("PLUMENU"_L1), u"\\PLUVelmarv2.scn");
 }
 
 TEST_F(ScreenChoiceTest, EveryScreenThatCanBeChosenIsInstalledForEveryModel)
