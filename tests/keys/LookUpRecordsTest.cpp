@@ -13,38 +13,31 @@ namespace
 using namespace Qt::Literals::StringLiterals;
 using test::failureOf;
 using test::failureTextOf;
-using test::FieldValue;
 using test::text;
 using test::whole;
-
-const QString cola = u"000000000000001001"_s;
 
 class LookUpRecordsTest : public testing::Test
 {
 protected:
     LookUpRecordsTest()
     {
-        m_shop.add("PLUDATA", {{"PLUNUMBER", store::Value::text(cola)}, {"DESCRIPTION", text("Cola")}});
-        m_shop.add("PLUDATA", {{"PLUNUMBER", text("123456789012345678")}, {"DESCRIPTION", text("Long")}});
-        m_shop.add("FUNCTIONKEY", {{"id", whole(18)}, {"DESCRIPTION", text("CASH")}});
+        m_shop.addItems();
+        m_shop.execute("update PLUDATA set PLUNUMBER = '123456789012345678' where DESCRIPTION = 'Lemonade'");
+        m_shop.execute("update FUNCTIONKEY set id = 18 where DESCRIPTION = 'CASH'");
         m_shop.add("MEMORYALLOCATION", {{"LINES/PLU", text("50")}});
     }
 
     /// A look-up with these types and codes from line 1 on, the others empty.
     void addLookUp(int number, const std::map<int, std::pair<int, const char*>>& lines)
     {
-        std::vector<FieldValue> fields{{"WLUno", whole(number)}};
-        std::vector<std::string> names;
-        names.reserve(200);
-        for (int line = 1; line <= mostLookUpLines; ++line) {
-            const auto found = lines.find(line);
-            const auto [type, code] = found == lines.end() ? std::pair(0, "0") : found->second;
-            names.push_back("wlutype" + std::to_string(line));
-            fields.emplace_back(names.back().c_str(), whole(type));
-            names.push_back("codenumber" + std::to_string(line));
-            fields.emplace_back(names.back().c_str(), text(code));
+        m_shop.add("WLU", {{"WLUno", whole(number)}});
+        for (const auto& [line, each] : lines) {
+            m_shop.execute(
+                qPrintable(u"update wlu set wlutype%1 = %2, codenumber%1 = '%3' where wluno = %4"_s.arg(line)
+                               .arg(each.first)
+                               .arg(QLatin1String(each.second))
+                               .arg(number)));
         }
-        m_shop.add("WLU", fields);
     }
 
     /// The used lines of the first look-up as they are stored, and their number: "3:1 1001 | 1".
@@ -72,7 +65,7 @@ struct ShownLine {
 const ShownLine shownLines[] = {
     {0, "1001", "0|000000000000001001|PLU|000000000000001001\rCola"},
     {1, "000000000000001001", "1|000000000000001001|Condiment|000000000000001001\rCola"},
-    {0, "123456789012345678", "0|123456789012345678|PLU|123456789012345678\rLong"},
+    {0, "123456789012345678", "0|123456789012345678|PLU|123456789012345678\rLemonade"},
     {2, "18", "2|18|Function|CASH"},
     {0, "1002", "0|0|PLU|0"},
     {1, "1002", "1|0|Condiment|0"},
@@ -88,7 +81,7 @@ TEST_F(LookUpRecordsTest, ShowsEachLineByItsTypeAndDropsWhatIsGone)
     for (const ShownLine& each : shownLines)
         lines[static_cast<int>(lines.size()) + 1] = {each.type, each.code};
     addLookUp(1, lines);
-    m_shop.execute("update wlu set wlutype11 = null, codenumber12 = null");
+    m_shop.execute("update wlu set codenumber11 = '1001', wlutype12 = 0");
     LookUpRecords records(m_shop.open());
     const LookUp lookUp = records.read();
     const auto shown = [&](std::size_t line) {
@@ -140,15 +133,10 @@ TEST_F(LookUpRecordsTest, StoresWholeOrNotAtAll)
     lookUp.description = u"Others"_s;
     lookUp.number = u"1"_s;
     EXPECT_EQ(failureOf([&] { records.save(lookUp); }), 3022);
-    for (const auto& [field, values] : std::map<const char*, const char*>{{"WLUno", "1|2"},
-                                                                          {"description", "null|Drinks"},
-                                                                          {"#ofcondiments", "null|3"},
-                                                                          {"link", "null|1"},
-                                                                          {"AllowExit", "null|True"},
-                                                                          {"allowplu", "null|True"},
-                                                                          {"condimentMulti", "null|False"},
-                                                                          {"#ofwlu", "null|1"}})
-        EXPECT_EQ(m_shop.column("WLU", field), values) << field;
+    EXPECT_EQ(norvane::test::rowsOf(m_shop.values.databasePath,
+                                    u"select WLUno, description, [#ofcondiments], link, AllowExit, allowplu, "
+                                    "condimentMulti, [#ofwlu] from WLU"_s),
+              "1|null|null|null|null|null|null|null 2|Drinks|3|1|True|True|False|1");
 }
 
 TEST_F(LookUpRecordsTest, TellsWhatToUploadWhenItCannotOpen)

@@ -9,10 +9,6 @@ namespace norvane::overlay
 namespace
 {
 
-using store::Value;
-using store::test::add;
-using store::test::text;
-
 /// Row n of KEYLINK leads to the function "F" and n, whatever the keyboard.
 class LevelImportTest : public testing::Test
 {
@@ -21,15 +17,13 @@ protected:
     {
         store::Database database(m_folder.path());
         const store::Transaction transaction(database);
-        auto links = database.openTable(u"KEYLINK"_s);
-        auto lookUps = database.openTable(u"NLU"_s);
-        auto functions = database.openTable(u"FUNCTIONKEY"_s);
         for (int row = 1; row <= 845; ++row) {
-            const QString function = QString::number(row + 1000);
-            add(links, {{"ID", Value::whole(row)}, {"KEYLINK", Value::text(function)}});
-            add(lookUps, {{"ID", Value::whole(row)}, {"NLU", text("000000000000000000")}});
-            add(functions,
-                {{"id", Value::whole(row + 1000)}, {"DESCRIPTION", Value::text(u"F%1"_s.arg(row))}});
+            for (const auto& sql : {u"KEYLINK (ID, KEYLINK) values (%1, '%2')"_s,
+                                    u"NLU (ID, NLU) values (%1, '000000000000000000')"_s,
+                                    u"FUNCTIONKEY (id, DESCRIPTION) values (%2, 'F%1')"_s})
+                database.execute(u"insert into "_s + QString(sql)
+                                                         .replace(u"%1"_s, QString::number(row))
+                                                         .replace(u"%2"_s, QString::number(row + 1000)));
         }
     }
 

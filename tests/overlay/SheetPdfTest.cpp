@@ -51,29 +51,17 @@ const std::vector<ColumnMeasure> quelmontColumns = {
     {7, 6, 0},   {24, 6, 0},  {41, 2, 0},  {58, 2, 0},  {75, 2, 0},  {92, 6, 0},  {109, 1, 5}, {128, 1, 0},
     {145, 1, 5}, {164, 1, 0}, {181, 1, 5}, {200, 1, 0}, {217, 6, 0}, {234, 4, 2}, {253, 4, 0}};
 
+// clang-format off
 const KeyboardMeasure measures[] = {
-    {Keyboard::Dorvik,
-     5,
-     15,
-     18,
-     {16.32, {edge, 4.66, 9.42, 13.66}, 7.35, {0, 4.66, 9.32}},
-     {16.32, {edge, 13.66}, 7, {0.5}},
-     dorvikColumns},
-    {Keyboard::Velmar,
-     3,
-     15,
-     18,
-     {16.32, {edge, 4.66, 9.42, 11.66}, 7.35, {0, 4.66, 9.32}},
-     {16.32, {edge, 13.66}, 7, {0.5}},
-     velmarColumns},
-    {Keyboard::Quelmont,
-     10,
-     17,
-     17,
+    {Keyboard::Dorvik, 5, 15, 18,
+     {16.32, {edge, 4.66, 9.42, 13.66}, 7.35, {0, 4.66, 9.32}}, {16.32, {edge, 13.66}, 7, {0.5}}, dorvikColumns},
+    {Keyboard::Velmar, 3, 15, 18,
+     {16.32, {edge, 4.66, 9.42, 11.66}, 7.35, {0, 4.66, 9.32}}, {16.32, {edge, 13.66}, 7, {0.5}}, velmarColumns},
+    {Keyboard::Quelmont, 10, 17, 17,
      {12.32, {edge, 4.33, 8.76, 12.66}, 5.35, {0, 4.33, 8.66}},
-     {31.32, {edge, 4.33, 8.76, 12.66}, 14.85, {0, 4.33, 8.66}},
-     quelmontColumns},
+     {31.32, {edge, 4.33, 8.76, 12.66}, 14.85, {0, 4.33, 8.66}}, quelmontColumns},
 };
+// clang-format on
 
 /// A key where it should be, with its first cell.
 struct ExpectedKey {
