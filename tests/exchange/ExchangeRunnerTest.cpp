@@ -11,7 +11,6 @@
 #include "tests/support/ProgramFolder.h"
 
 #include <map>
-#include <ranges>
 #include <set>
 
 namespace norvane::exchange
@@ -122,8 +121,10 @@ private:
 
 std::set<int> allBoxes()
 {
-    const auto all = std::views::iota(0, boxCount);
-    return {all.begin(), all.end()};
+    std::set<int> all;
+    for (int box = 0; box < boxCount; ++box)
+        all.insert(box);
+    return all;
 }
 
 /// Lines of the tool: the literal of each run with every %1 replaced by each of its file numbers in turn.
