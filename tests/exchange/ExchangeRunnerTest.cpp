@@ -243,7 +243,7 @@ TEST(ExchangeRunner, LogsWhereAndWhyItStoppedAndWhatIsLeft)
     shop.upload({2});
     for (const auto& [ticked, fault, logged] : stops) {
         shop.folder.setFaults(QByteArray("[Stop]\nTool=VELMARCOMM\n") + fault + '\n');
-        (void)test::failureOf([&] { shop.upload(ticked); });
+        (void)test::failureOf([&shop, &ticked = ticked] { shop.upload(ticked); });
         const QString result = customers::lastLogged(shop.values.customerPath, {u"upload"_s})->result;
         EXPECT_TRUE(result.startsWith(QLatin1StringView(logged))) << result.toStdString();
         EXPECT_EQ(result.endsWith(u"Group"_s), shop.ticks.ticked.contains(2));

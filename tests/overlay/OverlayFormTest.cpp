@@ -358,7 +358,7 @@ TEST_F(OverlayFormTest, LeavingAsksOnceAboutUnsavedChanges)
 {
     const std::function<void()> ways[] = {
         [this] { choose("Exit"); },
-        [this] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); },
+        [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); },
         [this] { m_form->close(); },
     };
     for (const auto& leave : ways) {
