@@ -144,6 +144,7 @@ void bareConvertAll(const QString& path, double rate)
 }
 
 void nothing() {}
+void noNotice(const QString& /*text*/) {}
 
 void euroConversion(benchmark::State& state)
 {
@@ -152,7 +153,7 @@ void euroConversion(benchmark::State& state)
     double rate = 0;
     // The bare walk is first and takes a new rate for both.
     const auto ours = [&] {
-        convertAll(shop.ours(), rate, {nothing, nothing});
+        convertAll(shop.ours(), rate, {nothing, nothing, noNotice});
     };
     const auto bare = [&] {
         rate = rates.next();
@@ -204,7 +205,7 @@ WalkTimes walkWithWindow(shell::FrmMain& main, const QString& path, double rate)
         const auto everyRow = [&] {
             times.yields += bench::secondsOf([&work] { work.letEventsRun(); });
         };
-        convertAll(path, rate, {nothing, everyRow});
+        convertAll(path, rate, {nothing, everyRow, noNotice});
     });
     times.longestWait = wait.milliseconds();
     return times;

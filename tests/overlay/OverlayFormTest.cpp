@@ -335,9 +335,10 @@ TEST_F(OverlayFormTest, PrintsOnceAndTellsWhatFails)
 
 TEST_F(OverlayFormTest, ImportsALevelAndStaysWhenRowsAreMissing)
 {
-    for (int row = 1; row <= 170; ++row)
+    for (int row = 1; row <= 170; ++row) {
         norvane::test::execute(m_folder.path(),
                                u"insert into KEYLINK (ID, KEYLINK) values (%1, '%1')"_s.arg(row));
+    }
     open(Keyboard::Velmar);
     choose("ImportLevel1");
     EXPECT_EQ(cell(0).text() + u'|' + cell(1).text() + cell(378).text(), u"functio|n 7"_s);
