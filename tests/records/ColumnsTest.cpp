@@ -3,6 +3,7 @@
 #include "tests/records/Shop.h"
 #include "tools/bank/Layout.h"
 
+#include <algorithm>
 #include <map>
 
 namespace norvane::records
@@ -34,6 +35,38 @@ TEST(ColumnsTest, AreAsWideAsTheRegisterReadsThem)
                 EXPECT_EQ(sent[i].size(), width) << file.number << ' ' << i;
             }
         }
+    }
+}
+
+/// Numbers that are stored as texts, and the unit, of which a register has four characters only.
+bool isText(const store::FieldDefinition& field)
+{
+    static const QStringList others{u"PRICE"_s, u"EuroPrice"_s, u"dallaskey"_s, u"unitDESCRIPTION"_s};
+    return field.type == store::FieldType::Text &&
+           std::ranges::none_of(others, [&](const QString& other) { return field.name.startsWith(other); });
+}
+
+TEST(ColumnsTest, SendTextsAsLongAsTheirFields)
+{
+    for (const RegisterFile& file : registerFiles()) {
+        if (!hasExporter(file.number) || file.upload != Upload::ReplacesTable)
+            continue;
+        Shop shop;
+        shop.folder.write("mem.dat", QByteArray(77, 0));
+        QByteArrayList names;
+        QByteArrayList texts;
+        auto record = emptyRecord(file.number, 1);
+        for (const auto& field : store::catalogueTable(QLatin1String(file.table))->fields) {
+            if (!isText(field))
+                continue;
+            names << field.name.toLatin1();
+            texts << QByteArray(field.size, static_cast<char>('a' + texts.size()));
+            record.emplace_back(names.back().constData(), Value::text(texts.back().toStdString()));
+        }
+        shop.add(file.table, record);
+        const QByteArrayList columns = shop.exported(file.number).chopped(2).split(',');
+        for (const QByteArray& text : texts)
+            EXPECT_TRUE(columns.contains(text)) << file.number << ' ' << text.data();
     }
 }
 

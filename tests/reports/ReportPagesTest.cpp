@@ -91,6 +91,21 @@ TEST(ReportPagesTest, FitsManyColumnsWithoutCuttingANumber)
     EXPECT_GT(lines.cells(0)[0].rows.size(), 1) << "the text gives way before the numbers";
 }
 
+TEST(ReportPagesTest, BreaksNoWordOfAHeadingOverNarrowNumbers)
+{
+    std::vector<ReportColumn> columns = {textColumn(u"Description"_s, 60)};
+    for (int column = 0; column < 5; ++column)
+        columns.push_back(numberColumn(u"Quantityofmeals"_s, 8, 0, 0));
+    const ReportData report(columns);
+    const Paged paged(report);
+    const ColumnPlaces& places = paged.pages.lines().places();
+    const TextStyle style{places.textSize, true};
+    for (std::size_t column = 1; column < columns.size(); ++column) {
+        const double width = places.columns[column].width - 2 * cellMargin;
+        EXPECT_EQ(paged.text.wrapped(columns[column].heading, style, width).size(), 1);
+    }
+}
+
 TEST(PageTextTest, LosesNoLetterInFurtherRows)
 {
     const PageText text;
