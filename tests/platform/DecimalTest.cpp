@@ -52,6 +52,24 @@ TEST(Decimal, TotalsLoseNoDigit)
     EXPECT_EQ(failureOf([&total] { total.add("1e400"); }), 6);
 }
 
+TEST(Decimal, DividesToAsManyDigitsAsAskedFor)
+{
+    const struct {
+        const char* number;
+        const char* divisor;
+        int digits;
+        const char* quotient;
+    } rows[] = {{"1", "3", 5, "0.33333"},
+                {"2", "3", 5, "0.66667"},
+                {"-1", "8", 17, "-0.125"},
+                {"5", "-2", 1, "-3"},
+                {"0", "7", 5, "0"},
+                {"0.01", "0.3", 3, "0.0333"},
+                {"123456789012345678", "1", 5, "123460000000000000"}};
+    for (const auto& [number, divisor, digits, quotient] : rows)
+        EXPECT_EQ(Decimal::parse(number)->dividedBy(*Decimal::parse(divisor), digits).text(), quotient);
+}
+
 TEST(Decimal, MovesThePointAndRoundsHalvesAwayFromZero)
 {
     const struct {

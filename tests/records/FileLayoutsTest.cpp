@@ -128,6 +128,7 @@ const struct {
     {11, "00,00,00,70,00,00,", "HOMESYMBOL", "48"},
     // Columns too many, digits that are no sums of flags, and lines without anything: no register takes them for settings.
     {1, "a,40,40,9,,zz", "tax1", "True"},
+    {1, "a,98,98", "addtogrouptotal", "False"},
     {1, "a,89,89", "tax1", "False"},
     {3, "89", "DEFAULTDESTINATION", "0"},
     {67, "\r\n", "PRICE1", "0"},
