@@ -20,8 +20,8 @@ public:
     AnswersByOption& operator=(const AnswersByOption&) = delete;
     virtual ~AnswersByOption() = default;
 
-    /// @return true, for Yes, when the command line has @p option; otherwise the user is told that it would
-    /// answer Yes.
+    /// @return true, for Yes, when the command line has @p option. Otherwise a message says that this option
+    /// would answer Yes.
     virtual bool answerByOption(const QString& text, const QString& title, QLatin1StringView option) = 0;
 };
 

@@ -1,4 +1,4 @@
-// What the user is told when an editor could not save.
+// The message shown when an editor could not save.
 #pragma once
 
 #include "platform/Boxes.h"

@@ -29,8 +29,8 @@ class LookUpGridModel;
 class RecordPicker;
 
 /// Shows one look-up after another, or the one that is chosen in a list. A click on an entry of a list, or
-/// Enter, fills the line in hand; lines move by Alt and the arrows or by dragging. Nothing is stored but by
-/// Save and Delete Line, which store all of the form.
+/// Enter, fills the current line; lines move by Alt and the arrows or by dragging. Only Save and Delete Line
+/// store, and they store all of the form.
 class frmwlu : public QDialog
 {
     Q_OBJECT

@@ -59,8 +59,8 @@ public:
     ToolWait(QWidget* form, Boxes& boxes, std::function<void(const QString& text)> showRunning);
     ~ToolWait() override;
 
-    /// @param exit the form's button that leaves it; @param show is told at once whether what the user did
-    /// while a tool runs will leave the form when the tool has ended.
+    /// @param exit the form's button that leaves it; @param show is called at once with whether the form
+    /// will close when the running tool ends, because of what the user did meanwhile.
     void setExit(QWidget* exit, std::function<void(bool leaves)> show);
     void setPatience(const ToolPatience& patience) { m_patience = patience; }
 

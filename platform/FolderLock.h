@@ -17,8 +17,8 @@ namespace norvane
 class FolderLock
 {
 public:
-    /// Takes the lock of @p folder. One whose owner died on this machine is taken over; so is a file that
-    /// says nothing about its owner, as a power cut leaves it, and the user is told.
+    /// Takes the lock of @p folder. One whose owner died on this machine is taken over. So is a file
+    /// without a readable owner, which a power cut leaves; a message then says so.
     /// @return nullptr when another program, or another window of this one, holds it, or the folder cannot be
     /// written to; the user was told then.
     [[nodiscard]] static std::unique_ptr<FolderLock> take(const QString& folder, Boxes& boxes);

@@ -44,7 +44,7 @@ void forEachBound(Fields& fields, const KindOrder& order, Act act)
 
 } // namespace
 
-/// Runs @p act. The user is told which table is empty when @p act fails for that reason.
+/// Runs @p act. When it fails because the table is empty, the failure names that table.
 template <typename Act>
 decltype(auto) RecordEditor::needingRecords(Act act)
 {

@@ -1,4 +1,4 @@
-// The keyboard in the designer: its cells lie on the keys.
+// The keyboard in the designer: its cells are on the keys.
 #include "overlay/KeyboardView.h"
 
 #include "overlay/DocumentEditor.h"

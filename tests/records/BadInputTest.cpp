@@ -9,7 +9,7 @@ namespace
 
 using test::Shop;
 
-/// A column of each form, refused at its own place; of a long one no more is told than a box can show.
+/// A column of each form, refused at its own place; of a long one no more is shown than a box can hold.
 const struct {
     int file;
     QByteArray text;
