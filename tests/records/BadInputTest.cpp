@@ -33,7 +33,9 @@ TEST(BadInputTest, NamesTheColumnThatItRefuses)
 {
     Shop shop;
     for (const auto& [file, text, told, quoted] : badColumns) {
-        const auto failure = norvane::test::failureTextOf([&] { shop.import(file, text); }).toUtf8();
+        const auto failure = norvane::test::failureTextOf([&shop, file = file, &text = text] {
+                                 shop.import(file, text);
+                             }).toUtf8();
         EXPECT_TRUE(failure.startsWith(told)) << failure.left(300).toStdString();
         EXPECT_TRUE(quoted.isEmpty() || failure.contains('"' + quoted + "...\"")) << told;
     }
