@@ -118,9 +118,20 @@ void OverlayForm::saveFile()
         tell(u"Saved as %1."_s.arg(QDir::toNativeSeparators(m_editor.fileName())));
 }
 
+void OverlayForm::print()
+{
+    printUnder({});
+}
+
+void OverlayForm::printUnder(const std::optional<paper::PrinterCorrection>& correction)
+{
+    m_sheet.print(m_files.documentName(), correction);
+}
+
 void OverlayForm::preview()
 {
-    m_sheet.preview([this] { print(); }, [this] { savePdf(); }, this);
+    m_sheet.preview([this](const paper::PrinterCorrection& shown) { printUnder(shown); },
+                    [this] { savePdf(); }, this);
 }
 
 void OverlayForm::savePdf()

@@ -55,7 +55,8 @@ private:
     void openFile();
     void saveFile();
     void setUpPrinter() { m_sheet.setUpPrinter(); }
-    void print() { m_sheet.print(m_files.documentName()); }
+    void print();
+    void printUnder(const std::optional<paper::PrinterCorrection>& correction);
     void chooseFont();
     void chooseBackground();
     void chooseTextColour();

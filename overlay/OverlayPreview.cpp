@@ -117,7 +117,7 @@ QWidget* OverlayPreview::makeNotice()
 
 void OverlayPreview::print()
 {
-    m_actions.print();
+    m_actions.print(m_target.correction);
 }
 
 void OverlayPreview::savePdf()

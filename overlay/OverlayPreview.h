@@ -24,7 +24,8 @@ class SheetView;
 
 /// What the preview's buttons do beside the preview itself.
 struct PreviewActions {
-    std::function<void()> print;
+    /// Prints under the correction that the preview shows, which may not have been stored.
+    std::function<void(const paper::PrinterCorrection&)> print;
     std::function<void()> savePdf;
     /// Prints the test page under a correction. @return false when the printer failed.
     std::function<bool(const paper::PrinterCorrection&)> printTestPage;

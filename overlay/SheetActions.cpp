@@ -42,6 +42,7 @@ std::unique_ptr<QPrinter> SheetActions::printerForSheet() const
     if (printer) {
         printer->setPageSize(QPageSize(QPageSize::A4));
         printer->setPageOrientation(m_choice.orientation);
+        paper::askForHighQuality(*printer);
     }
     return printer;
 }
@@ -58,13 +59,16 @@ TargetPrinter SheetActions::target() const
     return printer ? targetOf(*printer) : TargetPrinter{QString(), {m_choice.orientation}, {}};
 }
 
-bool SheetActions::printOn(const QString& name, const Painter& paint) const
+bool SheetActions::printOn(const QString& name, const std::optional<paper::PrinterCorrection>& correction,
+                           const Painter& paint) const
 {
     const auto printer = printerForSheet();
     if (!printer)
         return false;
     printer->setDocName(name);
-    const bool isPrinted = paint(*printer, targetOf(*printer)) && paper::isThere(*printer);
+    TargetPrinter target = targetOf(*printer);
+    target.correction = correction.value_or(target.correction);
+    const bool isPrinted = paint(*printer, target) && paper::isThere(*printer);
     // Letter is what the printer is left with. The job has ended, so no further page comes of it.
     printer->setPageSize(QPageSize(QPageSize::Letter));
     return isPrinted;
@@ -85,14 +89,14 @@ bool SheetActions::mayCut() const
     return m_boxes.ask(told + u"\r\rPrint all the same?"_s, u"Print Option"_s);
 }
 
-void SheetActions::print(const QString& name)
+void SheetActions::print(const QString& name, const std::optional<paper::PrinterCorrection>& correction)
 {
     if (!m_boxes.confirm(u"Start Printing?"_s, u"Print Option"_s) || !mayCut())
         return;
     const auto paint = [this](QPrinter& printer, const TargetPrinter& target) {
         return printSheet(m_document, printer, target);
     };
-    if (!printOn(name, paint))
+    if (!printOn(name, correction, paint))
         m_boxes.message(u"Printer Failure"_s, u"Error"_s, BoxIcon::Critical);
 }
 
@@ -110,7 +114,8 @@ QString SheetActions::savePdf(const QString& suggested)
     }
 }
 
-void SheetActions::preview(std::function<void()> print, std::function<void()> savePdf, QWidget* parent)
+void SheetActions::preview(std::function<void(const paper::PrinterCorrection&)> print,
+                           std::function<void()> savePdf, QWidget* parent)
 {
     OverlayPreview window(m_document, target(),
                           {std::move(print), std::move(savePdf),
@@ -123,10 +128,7 @@ void SheetActions::preview(std::function<void()> print, std::function<void()> sa
 
 bool SheetActions::printTest(const paper::PrinterCorrection& correction) const
 {
-    return printOn(u"Test page"_s, [&correction](QPrinter& printer, TargetPrinter target) {
-        target.correction = correction;
-        return printTestPage(printer, target);
-    });
+    return printOn(u"Test page"_s, correction, &printTestPage);
 }
 
 void SheetActions::correctPrinter(QWidget* parent)

@@ -32,11 +32,14 @@ public:
     void setUpPrinter();
     /// Asks whether to start, and once more when texts will be cut; tells when the printer fails.
     /// @param name of the document, for the print queue.
-    void print(const QString& name);
+    /// @param correction in force; without one, the printer's stored one.
+    void print(const QString& name, const std::optional<paper::PrinterCorrection>& correction = {});
     /// @param suggested path. @return where the file was written; empty when it was not.
     QString savePdf(const QString& suggested);
-    /// @param print, savePdf what the preview's buttons do.
-    void preview(std::function<void()> print, std::function<void()> savePdf, QWidget* parent);
+    /// @param print what the preview's Print button does, under the correction that the preview shows.
+    /// @param savePdf what its other button does.
+    void preview(std::function<void(const paper::PrinterCorrection&)> print, std::function<void()> savePdf,
+                 QWidget* parent);
     /// Lets the user measure and correct the chosen printer.
     void correctPrinter(QWidget* parent);
 
@@ -47,7 +50,8 @@ private:
     [[nodiscard]] TargetPrinter targetOf(const QPrinter& printer) const;
     [[nodiscard]] std::unique_ptr<QPrinter> printerForSheet() const;
     [[nodiscard]] bool mayCut() const;
-    [[nodiscard]] bool printOn(const QString& name, const Painter& paint) const;
+    [[nodiscard]] bool printOn(const QString& name, const std::optional<paper::PrinterCorrection>& correction,
+                               const Painter& paint) const;
     [[nodiscard]] bool printTest(const paper::PrinterCorrection& correction) const;
 
     const Document& m_document;

@@ -17,6 +17,9 @@ namespace norvane::paper
 /// print in. A printer that tells no margins is taken for a usual one.
 [[nodiscard]] Sheet sheetOf(const QPrinter& printer);
 
+/// Asks for the printer's high quality in each job that @p printer begins from now on.
+void askForHighQuality(QPrinter& printer);
+
 /// Whether the system still has @p printer, which takes a job for one that has gone and says nothing of it.
 [[nodiscard]] bool isThere(const QPrinter& printer);
 

@@ -1,7 +1,12 @@
 // A sheet on the queue of a printer that tells its margins.
-#include "overlay/SheetPrint.h"
+#include "overlay/SheetActions.h"
 #include "paper/DefaultPrinter.h"
+#include "tests/overlay/RecordingDialogs.h"
 #include "tests/support/PrintServer.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <QApplication>
+#include <QPushButton>
 
 namespace norvane::test
 {
@@ -55,7 +60,33 @@ void expectMargins(const paper::Sheet& sheet, const std::array<int, 4>& points)
         EXPECT_NEAR(told[edge].inMillimetres(), points[edge] * 25.4 / 72, 0.01) << edge;
 }
 
-TEST(PrintQueueTest, GetsTheSheetFromTheCornerOfThePrintableArea)
+constexpr double millimetresPerPoint = 25.4 / 72;
+
+/// Where black begins on a line of pixels across or down a page, in mm.
+double blackFrom(const QImage& page, QPoint start, QPoint step)
+{
+    QPoint place = start;
+    while (page.rect().contains(place) && qGray(page.pixel(place)) > 0x80)
+        place += step;
+    return (place.x() * step.x() + place.y() * step.y()) / 10.0;
+}
+
+/// Moves the sheet in its preview and prints it there.
+void printFromPreview(SheetActions& actions)
+{
+    QTimer::singleShot(0, [] {
+        const auto* const preview = QApplication::activeModalWidget();
+        for (const char* button : {"MoveButton", "PrintButton", "CloseButton"})
+            preview->findChild<QPushButton*>(QLatin1StringView(button))->click();
+    });
+    const auto print = [&](const paper::PrinterCorrection& shown) {
+        actions.print(QStringLiteral("Velmar"), shown);
+    };
+    actions.preview(
+        print, [] {}, nullptr);
+}
+
+TEST(PrintQueueTest, GetsTheSheetInPlaceAndInHighQuality)
 {
     if (!PrintServer::isInstalled())
         GTEST_SKIP() << "needs the programs cupsd and lpadmin";
@@ -71,14 +102,27 @@ TEST(PrintQueueTest, GetsTheSheetFromTheCornerOfThePrintableArea)
     Document document(Keyboard::Dorvik);
     document.cell(3).background = black;
     ASSERT_TRUE(printSheet(document, *printer, {printer->printerName(), sheet, {}}));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(server.firstJob()); }));
-    const QImage page = pdfPage(server.firstJob(), 1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(server.job(1)); }));
+    const QImage page = pdfPage(server.job(1), 1);
     EXPECT_NEAR(page.width(), 2970, 1);
-    const int y = static_cast<int>((10 * 25.4 / 72 + 15 + 3) * 10);
-    int x = 0;
-    while (x < page.width() && qGray(page.pixel(x, y)) > 0x80)
-        ++x;
-    EXPECT_NEAR(x / 10.0, 40 * 25.4 / 72 + 0.34, 0.1);
+    const int y = static_cast<int>((10 * millimetresPerPoint + 15 + 3) * 10);
+    EXPECT_NEAR(blackFrom(page, {0, y}, {1, 0}), 40 * millimetresPerPoint + 0.34, 0.1);
+
+    qputenv("XDG_CONFIG_HOME", "/dev/null"); // keeps no corrections
+    Document velmar(Keyboard::Velmar);
+    velmar.cell(40).background = black;
+    RecordingBoxes boxes;
+    boxes.answers = {true};
+    RecordingDialogs dialogs;
+    SheetActions actions(velmar, boxes, dialogs, findPrinter);
+    printFromPreview(actions);
+    ASSERT_EQ(boxes.shown.size(), 2U);
+    EXPECT_TRUE(boxes.shown[0].text.startsWith(u"The correction could not be stored."));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(server.job(2)); }));
+    const int x = static_cast<int>((40 * millimetresPerPoint + 3 + 18 + 8) * 10);
+    EXPECT_NEAR(blackFrom(pdfPage(server.job(2), 1), {x, 0}, {0, 1}), 10 * millimetresPerPoint + 4.66, 0.1)
+        << "2 mm below where a Velmar begins";
+    EXPECT_TRUE(server.attributesOf(2).contains(QByteArrayLiteral("print-quality\0\4\0\0\0\5")));
 
     EXPECT_TRUE(paper::isThere(*printer));
     server.removeQueue(QStringLiteral("Office"));

@@ -24,7 +24,7 @@ public:
             QDir().mkpath(m_folder.path(part));
         m_folder.write("root/cupsd.conf",
                        "Listen " + m_folder.path("socket").toUtf8() +
-                           "\nWebInterface No\nBrowsing No\n<Location />\nAllow all\n"
+                           "\nDirtyCleanInterval 0\nWebInterface No\nBrowsing No\n<Location />\nAllow all\n"
                            "</Location>\n<Policy default>\n<Limit All>\n</Limit>\n</Policy>\n");
         m_folder.write("root/files.conf",
                        QByteArray("FileDevice Yes\nServerRoot @/root\nRequestRoot @/spool\n"
@@ -59,8 +59,16 @@ public:
     {
         outputOf(QStringLiteral("lpadmin"), {QStringLiteral("-x"), name});
     }
-    /// What the first job brought.
-    [[nodiscard]] QString firstJob() const { return m_folder.path("spool/d00001-001"); }
+    /// What a job brought; the first is number 1.
+    [[nodiscard]] QString job(int number) const
+    {
+        return m_folder.path("spool/d%1-001").arg(number, 5, 10, QLatin1Char('0'));
+    }
+    /// What the server keeps of a job besides: names and values as they came over the wire.
+    [[nodiscard]] QByteArray attributesOf(int number) const
+    {
+        return m_folder.read(QStringLiteral("spool/c%1").arg(number, 5, 10, QLatin1Char('0')).toUtf8());
+    }
 
 private:
     [[nodiscard]] static QString program()
