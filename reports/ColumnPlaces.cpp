@@ -4,6 +4,7 @@
 #include "reports/ExactNumbers.h"
 
 #include <QLocale>
+#include <QStringTokenizer>
 
 #include <algorithm>
 #include <numeric>
@@ -15,16 +16,27 @@ namespace
 
 constexpr double usualSize = 3.1;
 constexpr double smallestSize = 1.9;
-/// A text in a column narrower than this, in mm, would be broken after every few letters.
-constexpr double leastTextWidth = 14;
+constexpr double sizeStep = 0.05;
+/// A text in a column narrower than this, in mm, would be broken after every few words.
+constexpr double leastTextWidth = 12;
+/// A word with letters may be broken where it is wider than this, in mm.
+constexpr double longestWord = 24;
+/// Room for the rounding of widths, in mm.
+constexpr double slack = 0.05;
+
+bool isNumber(QStringView word)
+{
+    return std::ranges::none_of(word, [](QChar letter) { return letter.isLetter(); });
+}
 
 /// The width of a cell that must not be cut, in mm. Numbers are measured by their count of digits and never
-/// spelled out, since lists may have 100,000 lines. Texts count as nothing: they can be broken.
+/// spelled out, since lists may have 100,000 lines. Of texts the widest word counts.
 class WidestCell
 {
 public:
     WidestCell(const ReportColumn& column, const PageText& text, bool isBold)
-        : m_column(column), m_digit(text.width(QStringLiteral("0"), {usualSize, isBold})),
+        : m_column(column), m_text(text), m_style{usualSize, isBold},
+          m_digit(text.width(QStringLiteral("0"), {usualSize, isBold})),
           m_sign(text.width(QStringLiteral("-"), {usualSize, isBold})),
           m_day(
               text.width(QLocale().toString(QDate(2028, 12, 28), QLocale::ShortFormat), {usualSize, isBold}))
@@ -32,7 +44,15 @@ public:
     }
 
     double operator()(std::monostate) const { return 0; }
-    double operator()(const QString&) const { return 0; }
+    double operator()(const QString& words) const
+    {
+        double widest = 0;
+        for (const QStringView word : QStringTokenizer(words, u' ')) {
+            const double width = m_text.width(word, m_style);
+            widest = std::max(widest, isNumber(word) ? width : std::min(width, longestWord));
+        }
+        return widest;
+    }
     double operator()(const QDate&) const { return m_day; }
     double operator()(const Decimal& number) const
     {
@@ -48,6 +68,8 @@ public:
 
 private:
     const ReportColumn& m_column;
+    const PageText& m_text;
+    TextStyle m_style;
     double m_digit;
     double m_sign;
     double m_day;
@@ -56,32 +78,26 @@ private:
 double widestWord(const QString& heading, const PageText& text)
 {
     double widest = 0;
-    for (const QString& word : heading.split(u' '))
+    for (const QStringView word : QStringTokenizer(heading, u' '))
         widest = std::max(widest, text.width(word, {usualSize, true}));
     return widest;
 }
 
+/// Headings of groups run over the whole line, so they do not count.
 double widestValue(const ReportData& report, int column, const PageText& text)
 {
     const ReportColumn& shown = report.columns()[static_cast<std::size_t>(column)];
     const WidestCell plain(shown, text, false);
     const WidestCell bold(shown, text, true);
-    double widest = 0;
+    double widest =
+        shown.kind == ColumnKind::Text ? std::min(leastTextWidth, shown.width.inMillimetres()) : 0;
     for (qsizetype line = 0; line < report.lineCount(); ++line) {
-        const bool isDetail = report.lineKind(line) == LineKind::Detail;
-        widest = std::max(widest, std::visit(isDetail ? plain : bold, report.cell(line, column)));
+        const LineKind kind = report.lineKind(line);
+        if (kind != LineKind::GroupHeading)
+            widest = std::max(widest,
+                              std::visit(kind == LineKind::Detail ? plain : bold, report.cell(line, column)));
     }
     return widest;
-}
-
-double neededWidth(const ReportData& report, int column, const PageText& text)
-{
-    const ReportColumn& shown = report.columns()[static_cast<std::size_t>(column)];
-    const double heading = widestWord(shown.heading, text);
-    const double value = shown.kind == ColumnKind::Text
-                             ? std::min(leastTextWidth, shown.width.inMillimetres())
-                             : widestValue(report, column, text);
-    return std::max(heading, value) + 2 * cellMargin;
 }
 
 double sum(const std::vector<double>& widths)
@@ -89,32 +105,94 @@ double sum(const std::vector<double>& widths)
     return std::accumulate(widths.begin(), widths.end(), 0.0);
 }
 
-/// The layout's widths where there is room. Else each column gives up the same part of what it can spare.
-std::vector<double> fittedWidths(const ReportData& report, const std::vector<double>& needed, double width)
+/// Widths of columns in mm.
+struct Widths {
+    std::vector<double> needed; ///< what must not be split, in letters of the usual size, without margins
+    std::vector<double> wanted; ///< by the layout
+
+    [[nodiscard]] double needs(std::size_t column, double size) const
+    {
+        return needed[column] * size / usualSize + 2 * cellMargin + slack;
+    }
+};
+
+Widths widthsOf(const ReportData& report, const PageText& text)
 {
-    std::vector<double> widths = needed;
-    for (std::size_t column = 0; column < widths.size(); ++column)
-        widths[column] = std::max(widths[column], report.columns()[column].width.inMillimetres());
-    const double surplus = sum(widths) - width;
-    const double spare = sum(widths) - sum(needed);
-    for (std::size_t column = 0; surplus > 0 && spare > 0 && column < widths.size(); ++column)
-        widths[column] -= (widths[column] - needed[column]) * std::min(1.0, surplus / spare);
+    Widths widths;
+    for (int column = 0; column < report.columnCount(); ++column) {
+        const ReportColumn& shown = report.columns()[static_cast<std::size_t>(column)];
+        widths.needed.push_back(std::max(widestWord(shown.heading, text), widestValue(report, column, text)));
+        widths.wanted.push_back(shown.width.inMillimetres());
+    }
     return widths;
+}
+
+/// The column after the last one of each band.
+std::vector<std::size_t> bandEnds(const Widths& widths, double size, double width)
+{
+    std::vector<std::size_t> ends;
+    double used = 0;
+    for (std::size_t column = 0; column < widths.needed.size(); ++column) {
+        const double own = widths.needs(column, size);
+        if (used > 0 && used + own > width) {
+            ends.push_back(column);
+            used = 0;
+        }
+        used += own;
+    }
+    ends.push_back(widths.needed.size());
+    return ends;
+}
+
+/// The largest letters in which there are no more bands than in the smallest.
+double fittingSize(const Widths& widths, double width)
+{
+    const std::size_t fewest = bandEnds(widths, smallestSize, width).size();
+    double size = usualSize;
+    while (size > smallestSize && bandEnds(widths, size, width).size() > fewest)
+        size -= sizeStep;
+    return std::max(size, smallestSize);
+}
+
+/// The layout's widths where there is room. Else each column gives up the same part of what it can spare.
+std::vector<double> fittedWidths(const Widths& widths, std::size_t first, std::size_t end, double size,
+                                 double width)
+{
+    std::vector<double> fitted;
+    double needed = 0;
+    for (std::size_t column = first; column < end; ++column) {
+        needed += widths.needs(column, size);
+        fitted.push_back(std::max(widths.needs(column, size), widths.wanted[column]));
+    }
+    const double surplus = sum(fitted) - width;
+    const double spare = sum(fitted) - needed;
+    for (std::size_t column = first; surplus > 0 && spare > 0 && column < end; ++column) {
+        double& own = fitted[column - first];
+        own -= (own - widths.needs(column, size)) * std::min(1.0, surplus / spare);
+    }
+    return fitted;
 }
 
 } // namespace
 
 ColumnPlaces fitColumns(const ReportData& report, const PageText& text, double left, double width)
 {
-    std::vector<double> needed(report.columns().size());
-    for (int column = 0; column < report.columnCount(); ++column)
-        needed[static_cast<std::size_t>(column)] = neededWidth(report, column, text);
-    const std::vector<double> widths = fittedWidths(report, needed, width);
-    const double scale = width / std::max(sum(widths), 1.0);
-    ColumnPlaces places{{}, std::max(smallestSize, usualSize * std::min(1.0, scale))};
-    for (const double own : widths) {
-        places.columns.push_back({left, own * scale});
-        left += own * scale;
+    const Widths widths = widthsOf(report, text);
+    const double size = fittingSize(widths, width);
+    ColumnPlaces places{{}, size};
+    int band = 0;
+    std::size_t first = 0;
+    for (const std::size_t end : bandEnds(widths, size, width)) {
+        const std::vector<double> fitted = fittedWidths(widths, first, end, size, width);
+        const double filling = width / std::max(sum(fitted), 1.0);
+        const double scale = band == 0 ? filling : std::min(1.0, filling);
+        double at = left;
+        for (const double own : fitted) {
+            places.columns.push_back({at, own * scale, band});
+            at += own * scale;
+        }
+        first = end;
+        ++band;
     }
     return places;
 }

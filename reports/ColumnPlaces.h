@@ -12,6 +12,7 @@ namespace norvane::reports
 struct ColumnPlace {
     double left = 0;
     double width = 0;
+    int band = 0; ///< counted from the top, where not all columns fit side by side
     [[nodiscard]] double right() const { return left + width; }
 };
 
@@ -19,14 +20,17 @@ struct ColumnPlace {
 struct ColumnPlaces {
     std::vector<ColumnPlace> columns;
     double textSize = 0; ///< height of the letters in lines and column headings, in mm
+    /// 1 where all columns stand side by side.
+    [[nodiscard]] int bandCount() const { return columns.empty() ? 1 : columns.back().band + 1; }
 };
 
 /// Free space at both sides of a cell, in mm.
 inline constexpr double cellMargin = 1.3;
 
 /// Fills @p width mm from @p left with the columns of @p report, in proportion to the widths of the layout.
-/// No number is cut: where space is short, text columns become narrower first, so that texts break into rows;
-/// if that is not enough, all letters become smaller.
+/// No number and no word of a heading is cut or split: where space is short, text columns become narrower
+/// first, so that texts break into rows; if that is not enough, all letters become smaller; and if letters
+/// would become too small to read, the last columns go on in a further band below the others.
 [[nodiscard]] ColumnPlaces fitColumns(const ReportData& report, const PageText& text, double left,
                                       double width);
 

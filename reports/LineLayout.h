@@ -8,11 +8,12 @@
 namespace norvane::reports
 {
 
-/// What is painted for one cell: its text, broken into rows from the top of the line.
+/// What is painted for one cell: its text, broken into rows.
 struct CellBox {
     ColumnPlace place; ///< in mm, without the cell's margins
     QStringList rows;
     Alignment alignment = Alignment::Left;
+    int firstRow = 0; ///< counted from the top of the line
 };
 
 /// Lays out one line at a time. A text too wide for its column goes on in further rows. The heading of a
@@ -31,12 +32,16 @@ public:
     /// Free space above the text of the line, a part of its height.
     [[nodiscard]] double lead(qsizetype line) const;
     [[nodiscard]] std::vector<CellBox> cells(qsizetype line) const;
+    /// The headings of all columns, each at the foot of its band.
+    [[nodiscard]] std::vector<CellBox> headings() const;
 
 private:
     [[nodiscard]] ColumnPlace textPlace(qsizetype line, int column) const;
     [[nodiscard]] int firstColumn(qsizetype line, int column) const;
     [[nodiscard]] int lastColumn(qsizetype line, int column) const;
-    [[nodiscard]] int rowCount(qsizetype line) const;
+    [[nodiscard]] bool isSameBand(int column, int other) const;
+    [[nodiscard]] qsizetype rowsOfCell(qsizetype line, int column) const;
+    [[nodiscard]] std::vector<int> bandTops(qsizetype line) const;
     [[nodiscard]] CellBox cellBox(qsizetype line, int column) const;
 
     const ReportData& m_report;

@@ -16,6 +16,9 @@ inline const TextStyle chartStyle{3.0, false};
 /// Height of a row in headings, as a multiple of the letters' size.
 inline constexpr double headingPitch = 1.35;
 
+/// Above and below the headings of columns, in mm.
+inline constexpr double columnHeadingPadding = 1.2;
+
 inline constexpr double hairline = 0.1;
 inline constexpr double thinLine = 0.2;
 inline constexpr double thickLine = 0.5;

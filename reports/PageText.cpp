@@ -56,13 +56,13 @@ PageText::Face::Face(bool isBold) : font(pageFont(isBold)), metrics(font)
 
 PageText::PageText() = default;
 
-double PageText::width(const QString& text, const TextStyle& style) const
+double PageText::width(QStringView text, const TextStyle& style) const
 {
     const Face& letters = face(style);
     double units = 0;
     for (const QChar letter : text) {
         if (letter.unicode() >= letters.advances.size())
-            return letters.metrics.horizontalAdvance(text) * style.size / unitsPerSquare;
+            return letters.metrics.horizontalAdvance(text.toString()) * style.size / unitsPerSquare;
         units += letters.advances[letter.unicode()];
     }
     return units * style.size / unitsPerSquare;
@@ -70,11 +70,22 @@ double PageText::width(const QString& text, const TextStyle& style) const
 
 QStringList PageText::wrapped(const QString& text, const TextStyle& style, double width) const
 {
+    return rows(text, style, width, QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+QStringList PageText::wrappedWords(const QString& text, const TextStyle& style, double width) const
+{
+    return rows(text, style, width, QTextOption::WordWrap);
+}
+
+QStringList PageText::rows(const QString& text, const TextStyle& style, double width,
+                           QTextOption::WrapMode mode) const
+{
     if (this->width(text, style) <= width)
         return {text};
     QTextLayout layout(printable(text), face(style).font);
     QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setWrapMode(mode);
     layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())

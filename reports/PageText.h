@@ -8,6 +8,7 @@
 #include <QFontMetricsF>
 #include <QRectF>
 #include <QStringList>
+#include <QTextOption>
 
 #include <array>
 
@@ -29,10 +30,12 @@ public:
     PageText();
 
     /// In mm.
-    [[nodiscard]] double width(const QString& text, const TextStyle& style) const;
+    [[nodiscard]] double width(QStringView text, const TextStyle& style) const;
     /// The rows that @p text takes in @p width mm: broken between words, and within one only where it is
     /// wider than that.
     [[nodiscard]] QStringList wrapped(const QString& text, const TextStyle& style, double width) const;
+    /// Likewise, but no word is broken: one that is wider than @p width has a row of its own.
+    [[nodiscard]] QStringList wrappedWords(const QString& text, const TextStyle& style, double width) const;
     /// The text, or as much of its beginning as fits into @p width mm together with three dots.
     [[nodiscard]] QString elided(const QString& text, const TextStyle& style, double width) const;
     /// Paints one row in the middle of @p place's height; text wider than the place is narrowed, not cut.
@@ -41,6 +44,8 @@ public:
               Alignment alignment) const;
 
 private:
+    [[nodiscard]] QStringList rows(const QString& text, const TextStyle& style, double width,
+                                   QTextOption::WrapMode mode) const;
     /// A font so large that the widths of its letters need no rounding.
     struct Face {
         explicit Face(bool isBold);

@@ -14,8 +14,9 @@ bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& 
     ReportPages pages(report, text, showsCharts);
     pages.layOutAll();
     const ReportPainter painter(report, pages, text);
+    const QRectF& sheet = pages.frame().sheet;
     paper::PageDevice paper(device, QPageSize(QPageSize::A4),
-                            report.page.isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+                            sheet.width() > sheet.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
     for (int page = 0; page < pages.pageCount(); ++page) {
         painter.paint(paper.nextPage(), page);
         needGoOn(keepGoing);

@@ -53,6 +53,7 @@ struct ReportHeading {
 
 struct PageSetup {
     bool isLandscape = false; ///< of a sheet of A4
+    bool mayTurn = false;     ///< an upright sheet is turned where the columns do not fit side by side
 };
 
 enum class ChartKind {

@@ -15,16 +15,10 @@ namespace
 constexpr QSizeF uprightSheet{210, 297};
 constexpr QMarginsF margins{14, 12, 14, 12};
 constexpr double chartGap = 8;
-constexpr double columnHeadingPadding = 1.2;
 
-QSizeF sheetSize(const ReportData& report)
+QRectF sheetOf(bool isLandscape)
 {
-    return report.page.isLandscape ? uprightSheet.transposed() : uprightSheet;
-}
-
-QRectF areaWithinMargins(const ReportData& report)
-{
-    return QRectF(QPointF(), sheetSize(report)).marginsRemoved(margins);
+    return {QPointF(), isLandscape ? uprightSheet.transposed() : uprightSheet};
 }
 
 double headingRowHeight(const TextStyle& style)
@@ -32,22 +26,11 @@ double headingRowHeight(const TextStyle& style)
     return style.size * headingPitch;
 }
 
-qsizetype columnHeadingRows(const ReportData& report, const PageText& text, const ColumnPlaces& places)
-{
-    qsizetype rows = 1;
-    for (std::size_t column = 0; column < places.columns.size(); ++column) {
-        const double width = places.columns[column].width - 2 * cellMargin;
-        const TextStyle bold{places.textSize, true};
-        rows = std::max(rows, text.wrapped(report.columns()[column].heading, bold, width).size());
-    }
-    return rows;
-}
-
-PageFrame makeFrame(const ReportData& report, const PageText& text, const ColumnPlaces& places)
+PageFrame makeFrame(const ReportData& report, const PageText& text, const LineLayout& lines, bool isLandscape)
 {
     PageFrame frame;
-    const QRectF area = areaWithinMargins(report);
-    frame.sheet = QRectF(QPointF(), sheetSize(report));
+    frame.sheet = sheetOf(isLandscape);
+    const QRectF area = frame.sheet.marginsRemoved(margins);
     frame.subtitleWidth = area.width() * 0.68;
     const auto rows = [&](const QString& words, const TextStyle& style) {
         return static_cast<double>(text.wrapped(words, style, frame.subtitleWidth).size());
@@ -56,10 +39,12 @@ PageFrame makeFrame(const ReportData& report, const PageText& text, const Column
                         rows(report.heading.subtitle, subtitleStyle) * headingRowHeight(subtitleStyle);
     const double right = 3 * headingRowHeight(subtitleStyle);
     frame.heading = QRectF(area.topLeft(), QSizeF(area.width(), std::max(left, right) + 1.5));
-    const double columnRows = static_cast<double>(columnHeadingRows(report, text, places));
+    int columnRows = 1;
+    for (const CellBox& heading : lines.headings())
+        columnRows = std::max(columnRows, heading.firstRow + static_cast<int>(heading.rows.size()));
     frame.columnHeadings =
         QRectF(frame.heading.bottomLeft(),
-               QSizeF(area.width(), columnRows * places.textSize * headingPitch + 2 * columnHeadingPadding));
+               QSizeF(area.width(), columnRows * lines.rowHeight() + 2 * columnHeadingPadding));
     frame.body = area;
     frame.body.setTop(frame.columnHeadings.bottom() + 0.6);
     return frame;
@@ -70,18 +55,35 @@ bool isTotal(LineKind kind)
     return kind == LineKind::Subtotal || kind == LineKind::GrandTotal;
 }
 
-ColumnPlaces places(const ReportData& report, const PageText& text)
+ColumnPlaces columnsOn(bool isLandscape, const ReportData& report, const PageText& text)
 {
-    const QRectF area = areaWithinMargins(report);
+    const QRectF area = sheetOf(isLandscape).marginsRemoved(margins);
     return fitColumns(report, text, area.left(), area.width());
+}
+
+/// Turns the sheet, where the layout leaves that open, before columns go on in a second band.
+SheetColumns sheetColumns(const ReportData& report, const PageText& text)
+{
+    const bool isLandscape = report.page.isLandscape;
+    SheetColumns upright{isLandscape, columnsOn(isLandscape, report, text)};
+    if (isLandscape || !report.page.mayTurn || upright.places.bandCount() == 1)
+        return upright;
+    return {true, columnsOn(true, report, text)};
 }
 
 } // namespace
 
 ReportPages::ReportPages(const ReportData& report, const PageText& text, bool showsCharts)
-    : m_report(report), m_lines(report, text, places(report, text)), m_charts(drawableCharts(showsCharts))
+    : ReportPages(report, text, showsCharts, sheetColumns(report, text))
 {
-    m_frame = makeFrame(report, text, m_lines.places());
+}
+
+ReportPages::ReportPages(const ReportData& report, const PageText& text, bool showsCharts,
+                         SheetColumns columns)
+    : m_report(report), m_lines(report, text, std::move(columns.places)),
+      m_charts(drawableCharts(showsCharts))
+{
+    m_frame = makeFrame(report, text, m_lines, columns.isLandscape);
 }
 
 std::vector<std::size_t> ReportPages::drawableCharts(bool showsCharts) const

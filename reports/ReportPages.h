@@ -40,6 +40,12 @@ struct PageFrame {
     double subtitleWidth = 0; ///< of title and subtitle, which break into rows
 };
 
+/// The columns, and the sheet that they were fitted to.
+struct SheetColumns {
+    bool isLandscape = false;
+    ColumnPlaces places;
+};
+
 /// Lays out a few pages at a time, so that the first can be shown while the rest is made. Lines never split;
 /// a group's heading stands with the first of its lines, and a total with the line above it. Charts stand
 /// beneath the last line where there is room, else on pages of their own.
@@ -66,6 +72,7 @@ public:
     [[nodiscard]] std::optional<int> pageOfLine(qsizetype line) const;
 
 private:
+    ReportPages(const ReportData& report, const PageText& text, bool showsCharts, SheetColumns columns);
     void layOutPage();
     void addLines(ReportPage& page);
     void addBlock(ReportPage& page, qsizetype end);

@@ -103,30 +103,22 @@ void ReportPainter::paintOrigin(QPainter& painter, int index) const
     m_text.draw(painter, row, number, subtitleStyle, Alignment::Right);
 }
 
+/// Headings are aligned to the rule below them, so that short ones are near their figures too.
 void ReportPainter::paintColumnHeadings(QPainter& painter) const
 {
-    for (std::size_t column = 0; column < m_report.columns().size(); ++column)
-        paintColumnHeading(painter, column);
+    const LineLayout& lines = m_pages.lines();
     const QRectF& area = m_pages.frame().columnHeadings;
-    drawRule(painter, area, area.bottom(), thinLine, ink::rule);
-}
-
-/// Headings are aligned to the rule below them, so that short ones are near their figures too.
-void ReportPainter::paintColumnHeading(QPainter& painter, std::size_t column) const
-{
-    const ColumnPlaces& places = m_pages.lines().places();
-    const ColumnPlace& place = places.columns[column];
-    const TextStyle style{places.textSize, true};
-    const ReportColumn& shown = m_report.columns()[column];
-    const double pitch = style.size * headingPitch;
-    const QStringList rows = m_text.wrapped(shown.heading, style, place.width - 2 * cellMargin);
-    const double height = static_cast<double>(rows.size()) * pitch;
-    QRectF row(place.left + cellMargin, m_pages.frame().columnHeadings.bottom() - height - 0.6,
-               place.width - 2 * cellMargin, pitch);
-    for (const QString& text : rows) {
-        m_text.draw(painter, row, text, style, shown.alignment);
-        row.moveTop(row.bottom());
+    const TextStyle style{lines.places().textSize, true};
+    for (const CellBox& heading : lines.headings()) {
+        QRectF row(heading.place.left,
+                   area.top() + columnHeadingPadding + heading.firstRow * lines.rowHeight(),
+                   heading.place.width, lines.rowHeight());
+        for (const QString& text : heading.rows) {
+            m_text.draw(painter, row, text, style, heading.alignment);
+            row.moveTop(row.bottom());
+        }
     }
+    drawRule(painter, area, area.bottom(), thinLine, ink::rule);
 }
 
 void ReportPainter::paintLine(QPainter& painter, const PlacedLine& line) const
@@ -139,8 +131,8 @@ void ReportPainter::paintLine(QPainter& painter, const PlacedLine& line) const
 void ReportPainter::paintCell(QPainter& painter, const PlacedLine& line, const CellBox& cell) const
 {
     const LineLayout& lines = m_pages.lines();
-    QRectF row(cell.place.left, line.place.top() + lines.lead(line.line), cell.place.width,
-               lines.rowHeight());
+    QRectF row(cell.place.left, line.place.top() + lines.lead(line.line) + cell.firstRow * lines.rowHeight(),
+               cell.place.width, lines.rowHeight());
     for (const QString& text : cell.rows) {
         const QString shown = line.isContinued ? text + u" (continued)"_s : text;
         m_text.draw(painter, row, shown, lines.style(line.line), cell.alignment);

@@ -25,7 +25,6 @@ private:
                           QRectF& row) const;
     void paintOrigin(QPainter& painter, int index) const;
     void paintColumnHeadings(QPainter& painter) const;
-    void paintColumnHeading(QPainter& painter, std::size_t column) const;
     void paintLine(QPainter& painter, const PlacedLine& line) const;
     void paintCell(QPainter& painter, const PlacedLine& line, const CellBox& cell) const;
     void paintNotice(QPainter& painter) const;

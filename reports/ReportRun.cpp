@@ -46,7 +46,7 @@ public:
         setHeading(data.heading);
         if (data.lineCount() == 0)
             data.heading.notice = notice();
-        data.page.isLandscape = isLandscape(data);
+        data.page = {isLandscape(data), m_layout.orientation == Orientation::Automatic};
         return data;
     }
 

@@ -74,35 +74,61 @@ TEST(ReportPagesTest, PutsChartsBeneathTheLinesOrOnPagesOfTheirOwn)
     EXPECT_EQ(Paged(report, false).chartCounts(), (std::vector<std::size_t>{0}));
 }
 
-TEST(ReportPagesTest, FitsManyColumnsWithoutCuttingANumber)
+/// PLU numbers of @p digits digits, names, and @p values columns of long numbers under two words.
+ReportData wideReport(int digits, int values, bool mayTurn)
 {
-    std::vector<ReportColumn> columns = {textColumn(u"Description"_s, 60)};
-    for (int column = 0; column < 9; ++column)
-        columns.push_back(numberColumn(u"Value"_s, 25, 2, 2));
+    std::vector<ReportColumn> columns = {textColumn(u"PLU"_s, 8), textColumn(u"Description"_s, 60)};
+    for (int column = 0; column < values; ++column)
+        columns.push_back(numberColumn(u"Quantityofmeals sold"_s, 8, 2, 2));
     ReportData report(columns);
+    report.page.mayTurn = mayTurn;
     std::vector<Cell> cells(columns.size(), Decimal(-123456789012, 2));
-    cells[0] = u"A description of some length"_s;
+    cells[0] = QString(digits, u'8');
+    cells[1] = u"A description of some length, Linked PLU 123456789012345678, and more of the same"_s;
     report.addLine(LineKind::Detail, cells);
-    const Paged paged(report);
-    const LineLayout& lines = paged.pages.lines();
-    EXPECT_NEAR(lines.places().columns.back().right(), 196, 0.01);
-    for (const CellBox& cell : lines.cells(0))
-        EXPECT_LE(paged.text.width(cell.rows[0], lines.style(0)), cell.place.width + 2 * cellMargin);
-    EXPECT_GT(lines.cells(0)[0].rows.size(), 1) << "the text gives way before the numbers";
+    report.addLine(LineKind::Detail, {u"1"_s, u"Tea"_s});
+    return report;
 }
 
-TEST(ReportPagesTest, BreaksNoWordOfAHeadingOverNarrowNumbers)
+void expectInPlace(const Paged& paged, const CellBox& cell, const TextStyle& style)
 {
-    std::vector<ReportColumn> columns = {textColumn(u"Description"_s, 60)};
-    for (int column = 0; column < 5; ++column)
-        columns.push_back(numberColumn(u"Quantityofmeals"_s, 8, 0, 0));
-    const ReportData report(columns);
-    const Paged paged(report);
-    const ColumnPlaces& places = paged.pages.lines().places();
-    const TextStyle style{places.textSize, true};
-    for (std::size_t column = 1; column < columns.size(); ++column) {
-        const double width = places.columns[column].width - 2 * cellMargin;
-        EXPECT_EQ(paged.text.wrapped(columns[column].heading, style, width).size(), 1);
+    for (const QString& row : cell.rows)
+        EXPECT_LE(paged.text.width(row, style), cell.place.width + 0.01) << row.toStdString();
+    EXPECT_LE(cell.place.right(), paged.pages.frame().body.right() + 0.01);
+}
+
+const std::tuple<int, int, bool, int, int> wideReports[] = {
+    {13, 3, false, 210, 1}, {18, 6, false, 210, 1}, {18, 9, true, 297, 1},
+    {18, 9, false, 210, 2}, {18, 16, true, 297, 2}, {18, 30, true, 297, 3},
+};
+
+// Smaller letters first, then the sheet is turned, then columns go on below the others.
+TEST(ReportPagesTest, SplitNoNumberAndNoWordOfAHeading)
+{
+    for (const auto& [digits, values, mayTurn, width, bands] : wideReports) {
+        SCOPED_TRACE(values);
+        const ReportData report = wideReport(digits, values, mayTurn);
+        const Paged paged(report);
+        const LineLayout& lines = paged.pages.lines();
+        EXPECT_EQ(paged.pages.frame().sheet.width(), width);
+        EXPECT_EQ(lines.places().bandCount(), bands);
+        const auto headings = lines.headings();
+        for (const CellBox& heading : headings) {
+            EXPECT_FALSE(heading.rows.filter(u"Quantityofmeals"_s).isEmpty() && heading.rows[0].size() > 11);
+            expectInPlace(paged, heading, {lines.places().textSize, true});
+        }
+        const auto cells = lines.cells(0);
+        for (std::size_t column = 0; column < cells.size(); ++column) {
+            EXPECT_TRUE(column == 1 || cells[column].rows.size() == 1);
+            expectInPlace(paged, cells[column], lines.style(0));
+        }
+        EXPECT_GT(cells[1].rows.size(), 1) << "the text gives way before the numbers";
+        EXPECT_FALSE(cells[1].rows.filter(u"123456789012345678"_s).isEmpty());
+        // Bands stand below each other, in the headings too.
+        const auto names = static_cast<int>(cells[1].rows.size());
+        EXPECT_EQ(cells.back().firstRow, bands == 1 ? 0 : names + bands - 2);
+        EXPECT_GE(lines.height(0), (names + bands - 1) * lines.rowHeight());
+        EXPECT_EQ(headings.back().firstRow, 2 * bands - 2);
     }
 }
 
