@@ -1,6 +1,8 @@
 // See ChartBuilder.h.
 #include "reports/ChartBuilder.h"
 
+#include "platform/RuntimeFailure.h"
+
 #include <algorithm>
 #include <span>
 
@@ -25,16 +27,25 @@ bool isSameMonth(QDate left, QDate right)
 
 void ChartPoints::add(const QString& label, const SlotNumbers& numbers, QDate day)
 {
-    const auto value = m_layout.value->value(numbers);
-    if (!value)
+    try {
+        const auto value = m_layout.value->value(numbers);
+        if (!value)
+            return;
+        m_points.push_back({label, *value});
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() != Failure::Overflow)
+            throw;
+        m_isTooLarge = true;
         return;
-    m_points.push_back({label, *value});
+    }
     if (day.isValid())
         m_days.push_back(day);
 }
 
 Chart ChartPoints::finished(int moneyDecimals)
 {
+    if (m_isTooLarge)
+        return {};
     if (m_layout.kind != ChartKind::Course) {
         keepLargest();
     } else if (m_points.size() > mostDays && m_days.size() == m_points.size()) {

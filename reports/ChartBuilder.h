@@ -24,6 +24,8 @@ public:
     /// @param moneyDecimals the decimal places of money at this shop.
     /// @return a chart without points when there is nothing to see.
     [[nodiscard]] Chart finished(int moneyDecimals);
+    /// Whether a value had more than 18 digits before the point: such a chart is left out.
+    [[nodiscard]] bool isTooLarge() const { return m_isTooLarge; }
 
 private:
     void putMonthsTogether();
@@ -32,6 +34,7 @@ private:
     const ChartLayout& m_layout;
     std::vector<ChartPoint> m_points;
     std::vector<QDate> m_days; ///< one for each point of a chart over days; else empty
+    bool m_isTooLarge = false;
 };
 
 /// All charts of a report. Those over its lines or groups get their points here, as the lines are made.

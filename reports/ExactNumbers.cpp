@@ -13,8 +13,6 @@ namespace norvane::reports
 namespace
 {
 
-constexpr std::size_t mostDigits = 18;
-
 /// How many characters @p number has up to its 18th digit. Leading zeros do not count as digits.
 std::size_t lengthOfFirstDigits(std::string_view number)
 {
@@ -23,7 +21,7 @@ std::size_t lengthOfFirstDigits(std::string_view number)
         const char c = number[at];
         if (c < '0' || c > '9' || (c == '0' && digits == 0))
             continue;
-        if (++digits > mostDigits)
+        if (++digits > std::size_t{mostDigits})
             return at;
     }
     return number.size();
@@ -81,12 +79,29 @@ Decimal decimalOf(std::string_view exact)
     return Decimal::parse(kept).value_or(Decimal());
 }
 
+bool isLong(std::string_view exact)
+{
+    return lengthOfFirstDigits(exact) < exact.size();
+}
+
+/// The places after the point are rounded by themselves and added to the whole.
+std::string roundedText(std::string_view exact, int places)
+{
+    const auto point = std::min(exact.find('.'), exact.size());
+    std::string tail(exact.starts_with('-') ? "-0" : "0");
+    tail += exact.substr(point);
+    DecimalTotal total;
+    total.add(exact.substr(0, point));
+    total.add(std::string_view(decimalOf(tail).rounded(places).text()));
+    return total.text();
+}
+
 Decimal product(const Decimal& left, const Decimal& right)
 {
     Decimal a = left;
     Decimal b = right;
     const auto wide = [&] {
-        return digitsOf(a.coefficient()) + digitsOf(b.coefficient()) > int{mostDigits};
+        return digitsOf(a.coefficient()) + digitsOf(b.coefficient()) > mostDigits;
     };
     while (wide() && a.scale() + b.scale() > 0) {
         // Dropping the last place of the longer number changes the product least.
@@ -96,7 +111,7 @@ Decimal product(const Decimal& left, const Decimal& right)
         longer = longer.rounded(longer.scale() - 1);
     }
     if (wide())
-        return Decimal(a.coefficient(), 0).shifted(static_cast<int>(mostDigits)); // throws: too large
+        return Decimal(a.coefficient(), 0).shifted(mostDigits); // throws: too large
     return {a.coefficient() * b.coefficient(), a.scale() + b.scale()};
 }
 

@@ -11,6 +11,9 @@
 namespace norvane::reports
 {
 
+/// Digits that a Decimal holds.
+inline constexpr int mostDigits = 18;
+
 /// The count of decimal digits of @p number without its sign; 1 for 0.
 [[nodiscard]] int digitsOf(std::int64_t number);
 
@@ -23,6 +26,13 @@ namespace norvane::reports
 /// to fewer places gives what rounding the whole number would.
 /// @throws RuntimeFailure 6 when there are more than 18 digits before the point.
 [[nodiscard]] Decimal decimalOf(std::string_view exact);
+
+/// Whether @p exact has more digits than a Decimal holds.
+[[nodiscard]] bool isLong(std::string_view exact);
+
+/// The number that @p exact spells, rounded to @p places, halves away from zero, with all digits before the
+/// point.
+[[nodiscard]] std::string roundedText(std::string_view exact, int places);
 
 /// The product of both: exact when it has at most 18 digits, else rounded to 18.
 /// @throws RuntimeFailure 6 when there are more than 18 digits before the point.

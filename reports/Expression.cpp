@@ -236,8 +236,10 @@ std::optional<Decimal> Expression::value(const SlotNumbers& numbers) const
     case Kind::Number:
         return m_number;
     case Kind::Sum:
-    case Kind::Difference:
-        return exactSum(numbers);
+    case Kind::Difference: {
+        const auto sum = exactValue(numbers);
+        return sum ? std::optional(decimalOf(*sum)) : std::nullopt;
+    }
     case Kind::Product:
     case Kind::Quotient:
         return quotient(numbers);
@@ -247,12 +249,12 @@ std::optional<Decimal> Expression::value(const SlotNumbers& numbers) const
     return std::nullopt;
 }
 
-std::optional<Decimal> Expression::exactSum(const SlotNumbers& numbers) const
+std::optional<std::string> Expression::exactValue(const SlotNumbers& numbers) const
 {
     ExactTotal total;
     if (!addTo(total, numbers, false))
         return std::nullopt;
-    return decimalOf(total.text());
+    return total.text();
 }
 
 /// @return false when a part has no value.

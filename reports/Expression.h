@@ -37,6 +37,9 @@ public:
     /// @return nothing when it divides by zero. @throws RuntimeFailure 6 when the number has more than 18
     /// digits before the point.
     [[nodiscard]] std::optional<Decimal> value(const SlotNumbers& numbers) const;
+    /// Likewise with all digits, however many a sum has. Only products and quotients have the limit of
+    /// value().
+    [[nodiscard]] std::optional<std::string> exactValue(const SlotNumbers& numbers) const;
     /// Whether it uses totals of the whole report.
     [[nodiscard]] bool needsWhole() const;
     /// Marks the slots that it reads.
@@ -50,7 +53,6 @@ private:
 
     [[nodiscard]] bool addTo(class ExactTotal& total, const SlotNumbers& numbers, bool negative) const;
     [[nodiscard]] std::optional<Decimal> quotient(const SlotNumbers& numbers) const;
-    [[nodiscard]] std::optional<Decimal> exactSum(const SlotNumbers& numbers) const;
 
     Kind m_kind = Kind::Number;
     Slot m_slot = 0;

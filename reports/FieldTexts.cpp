@@ -35,26 +35,37 @@ const Parts* wordsFor(const std::vector<Parts>& words, const store::Value& value
                : nullptr;
 }
 
-QString textOfParts(const Parts& parts, const CellFormat& format, const LineFields& fields)
+struct MadeText {
+    QString text;
+    bool endsInLayout = false; ///< the last word is one of the layout, not of a field
+};
+
+MadeText textOfParts(const Parts& parts, const CellFormat& format, const LineFields& fields)
 {
-    QString made;
+    MadeText made;
+    const auto add = [&made](const QString& text, bool isOfLayout) {
+        made.text += text;
+        if (!text.trimmed().isEmpty())
+            made.endsInLayout = isOfLayout;
+    };
     for (const auto& [fixed, slot, words] : parts) {
         if (!slot) {
-            made += fixed;
+            add(fixed, true);
         } else if (words.empty()) {
-            made += format.text(fieldAt(fields, *slot));
+            add(format.text(fieldAt(fields, *slot)), false);
         } else if (const auto* const chosen = wordsFor(words, fieldAt(fields, *slot))) {
-            made += textOfParts(*chosen, format, fields);
+            const MadeText inner = textOfParts(*chosen, format, fields);
+            add(inner.text, inner.endsInLayout);
         }
     }
     return made;
 }
 
-/// Takes away a comma behind which no further word came.
-QString withoutLastComma(const QString& text)
+/// Takes away a comma of the layout after which no further word came. A shop's own text keeps its comma.
+QString withoutLastComma(const MadeText& made)
 {
-    const QString trimmed = text.trimmed();
-    return trimmed.endsWith(u',') ? trimmed.chopped(1) : trimmed;
+    const QString trimmed = made.text.trimmed();
+    return made.endsInLayout && trimmed.endsWith(u',') ? trimmed.chopped(1) : trimmed;
 }
 
 } // namespace

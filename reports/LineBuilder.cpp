@@ -1,6 +1,7 @@
 // See LineBuilder.h.
 #include "reports/LineBuilder.h"
 
+#include "platform/RuntimeFailure.h"
 #include "reports/ExactNumbers.h"
 
 #include <algorithm>
@@ -11,6 +12,10 @@ namespace norvane::reports
 {
 namespace
 {
+
+constexpr auto tooLong = "too long"_L1;
+/// Characters of a number that a page has room for.
+constexpr std::size_t longestShown = 40;
 
 /// The column in which the label of a total stands: the first that shows words and is always shown, else the
 /// first of all.
@@ -164,10 +169,41 @@ Cell LineBuilder::cell(const ColumnLayout& column, const LineFields& fields) con
     return text.isEmpty() ? Cell() : Cell(text);
 }
 
+/// @return nothing where the number has more digits than a Decimal holds.
+std::optional<Cell> LineBuilder::shortNumber(const ColumnLayout& column, const SlotNumbers& numbers)
+{
+    try {
+        const auto value = column.number->value(numbers);
+        if (!value)
+            return Cell();
+        if (digitsOf(value->coefficient()) < mostDigits)
+            return Cell(*value);
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() != Failure::Overflow)
+            throw;
+    }
+    return std::nullopt;
+}
+
+/// A sum of more digits than a Decimal holds becomes a text with all of them. A quotient of such sums cannot
+/// be calculated, and the cell says so.
 Cell LineBuilder::number(const ColumnLayout& column, const std::vector<std::string>& numbers) const
 {
-    const auto value = column.number->value({numbers, m_whole});
-    return value ? Cell(*value) : Cell();
+    const SlotNumbers all{numbers, m_whole};
+    if (auto cell = shortNumber(column, all))
+        return *std::move(cell);
+    try {
+        const std::string rounded =
+            roundedText(column.number->exactValue(all).value_or("0"), column.column.mostDecimals);
+        if (!isLong(rounded))
+            return decimalOf(rounded);
+        if (rounded.size() <= longestShown)
+            return shownDigits(QString::fromStdString(rounded), column.column.leastDecimals);
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() != Failure::Overflow)
+            throw;
+    }
+    return QString(tooLong);
 }
 
 void LineBuilder::noteShown()

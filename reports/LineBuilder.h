@@ -61,6 +61,8 @@ private:
     void addDetail(const LineFields& fields);
     void addTotal(LineKind kind, const SlotTotals& totals, const QString& label);
     [[nodiscard]] Cell cell(const ColumnLayout& column, const LineFields& fields) const;
+    [[nodiscard]] static std::optional<Cell> shortNumber(const ColumnLayout& column,
+                                                         const SlotNumbers& numbers);
     [[nodiscard]] Cell number(const ColumnLayout& column, const std::vector<std::string>& numbers) const;
     void noteShown();
 

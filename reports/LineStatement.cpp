@@ -25,10 +25,12 @@ std::string quoted(const QString& name)
     return '"' + QString(name).replace(u'"', u"\"\""_s).toStdString() + '"';
 }
 
-/// Registers fill numbers up with zeros and blanks. Without these, "007" and 7 are the same text.
+/// Registers fill numbers up with zeros and blanks. Without these, "007" and 7 are the same text. Of zeros
+/// alone one is left.
 std::string byValue(const std::string& column)
 {
-    return "ltrim(trim(" + column + "),'0')";
+    const std::string trimmed = "trim(" + column + ")";
+    return "ifnull(nullif(ltrim(" + trimmed + ",'0'),''),substr(" + trimmed + ",-1))";
 }
 
 class Writer
@@ -208,8 +210,11 @@ private:
             sql += (sql.empty() ? " ORDER BY " : ", ") + term;
         };
         if (m_source.groupBy) {
-            add(isNoGroup(*m_source.groupBy));
-            add(orderTerm({*m_source.groupBy}));
+            // Lines without a group are one group, whether the register left the number empty or put zeros.
+            const std::string none = isNoGroup(*m_source.groupBy);
+            add(none);
+            add("CASE WHEN " + none + " THEN NULL ELSE " + column(*m_source.groupBy, !m_source.addsUp()) +
+                " END" + (m_source.groupBy->isText() ? " COLLATE NOCASE" : ""));
         }
         for (const auto& key : m_source.order)
             add(orderTerm(key));

@@ -125,17 +125,21 @@ Decimal sumOf(std::span<const ChartPoint> points)
     return decimalOf(total.text());
 }
 
-QString shownNumber(const Decimal& number, int leastDecimals, int mostDecimals)
+QString shownDigits(QString plain, int leastDecimals)
 {
-    QString text = QString::fromStdString(number.rounded(mostDecimals).text());
-    const qsizetype point = text.indexOf(u'.');
-    const qsizetype places = point < 0 ? 0 : text.size() - point - 1;
+    const qsizetype point = plain.indexOf(u'.');
+    const qsizetype places = point < 0 ? 0 : plain.size() - point - 1;
     if (places < leastDecimals) {
         if (point < 0)
-            text += u'.';
-        text += QString(leastDecimals - places, u'0');
+            plain += u'.';
+        plain += QString(leastDecimals - places, u'0');
     }
-    return text.replace(u"."_s, QLocale().decimalPoint());
+    return plain.replace(u"."_s, QLocale().decimalPoint());
+}
+
+QString shownNumber(const Decimal& number, int leastDecimals, int mostDecimals)
+{
+    return shownDigits(QString::fromStdString(number.rounded(mostDecimals).text()), leastDecimals);
 }
 
 } // namespace norvane::reports

@@ -120,6 +120,10 @@ private:
     std::string m_texts; ///< of all cells, one behind the other, in UTF-8
 };
 
+/// A plain decimal such as "-1234.5" with @p leastDecimals places at least, spelled as the user's locale
+/// does.
+[[nodiscard]] QString shownDigits(QString plain, int leastDecimals);
+
 /// A number with between @p leastDecimals and @p mostDecimals places, rounded in decimal, halves away from
 /// zero, with the sign of the user's locale and without thousands separators.
 [[nodiscard]] QString shownNumber(const Decimal& number, int leastDecimals, int mostDecimals);

@@ -117,6 +117,13 @@ bool ReportQuery::beginMonth(QDate month) const
     return !m_keepGoing || m_keepGoing();
 }
 
+std::optional<SalesDays> ReportQuery::salesDays(const Period& period)
+{
+    if (period.isOpen())
+        return std::nullopt;
+    return reports::salesDays(m_database, period, m_today, m_keepGoing);
+}
+
 int ReportQuery::moneyDecimals()
 {
     const auto* const table = store::catalogueTable(u"smode"_s);

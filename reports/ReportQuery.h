@@ -4,6 +4,7 @@
 #include "reports/FieldTexts.h"
 #include "reports/ReportLayout.h"
 #include "reports/ReportRun.h"
+#include "reports/SalesDays.h"
 #include "store/Database.h"
 #include "store/MonthTotals.h"
 
@@ -26,6 +27,8 @@ public:
     /// Hands the fields of one line after another to @p take.
     /// @throws ReportCancelled, RuntimeFailure
     void run(const LineSource& source, const std::function<void(const LineFields&)>& take);
+    /// See SalesDays; nothing for a report over a table without sales too.
+    [[nodiscard]] std::optional<SalesDays> salesDays(const Period& period);
     /// The decimal places of money at this shop: two where its settings do not tell.
     [[nodiscard]] int moneyDecimals();
 

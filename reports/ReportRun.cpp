@@ -26,6 +26,40 @@ QString shortened(const QString& formula)
     return formula.size() <= longestShownFormula ? formula : formula.left(longestShownFormula) + u"..."_s;
 }
 
+/// Adds the days without sales to a chart over days, at zero.
+class DayFiller
+{
+public:
+    DayFiller(ChartPoints& points, std::size_t daySlot, std::size_t slots)
+        : m_points(points), m_daySlot(daySlot), m_fields(slots), m_zeros(slots, "0")
+    {
+    }
+
+    void begin(QDate first) { m_next = first; }
+    /// Adds the days before @p day, which comes next. An invalid day adds nothing.
+    void fillUpTo(QDate day)
+    {
+        for (; m_next.isValid() && day.isValid() && m_next < day; m_next = m_next.addDays(1)) {
+            m_fields[m_daySlot] = store::Value::date(m_next);
+            m_points.add(textOf(m_points.layout().label, m_fields), {m_zeros, {}}, m_next);
+        }
+        if (day.isValid())
+            m_next = day.addDays(1);
+    }
+
+private:
+    ChartPoints& m_points;
+    std::size_t m_daySlot;
+    LineFields m_fields;
+    std::vector<std::string> m_zeros;
+    QDate m_next; ///< the day that is expected next
+};
+
+QString uncollectedText(int days)
+{
+    return days == 1 ? u"1 day without a collection"_s : u"%1 days without a collection"_s.arg(days);
+}
+
 class Run
 {
 public:
@@ -42,6 +76,8 @@ public:
         ReportData data(columns());
         ChartBuilder charts(m_layout);
         addLines(data, charts);
+        if (m_period)
+            m_days = m_query.salesDays(*m_period);
         addCharts(data, charts, decimals);
         setHeading(data.heading);
         if (data.lineCount() == 0)
@@ -67,7 +103,9 @@ private:
     ReportLayout m_layout;
     ReportQuery m_query;
     std::optional<Period> m_period;
-    bool m_isOnlyPeriod = true; ///< the selection asks for days alone, or for nothing
+    bool m_isOnlyPeriod = true;      ///< the selection asks for days alone, or for nothing
+    std::optional<SalesDays> m_days; ///< of the period
+    bool m_lacksChart = false;       ///< one has a value that is too large to draw
     QStringList m_otherTables;
 };
 
@@ -140,6 +178,7 @@ void Run::addCharts(ReportData& data, ChartBuilder& charts, int decimals)
         if (points.layout().from == PointSource::Query)
             runChart(points);
         auto chart = points.finished(decimals);
+        m_lacksChart = m_lacksChart || points.isTooLarge();
         if (!chart.points.empty())
             data.charts.push_back(std::move(chart));
     }
@@ -148,14 +187,23 @@ void Run::addCharts(ReportData& data, ChartBuilder& charts, int decimals)
 void Run::runChart(ChartPoints& points)
 {
     const auto& source = *points.layout().query;
-    const auto key = std::ranges::find(source.fields, source.keys.front()) - source.fields.begin();
+    const auto key = static_cast<std::size_t>(std::ranges::find(source.fields, source.keys.front()) -
+                                              source.fields.begin());
+    const bool isOverDays = key < source.fields.size() && source.day() == source.keys.front();
+    DayFiller filler(points, key, source.fields.size());
     std::vector<std::string> numbers(source.fields.size());
+    bool hasRows = false;
+    if (isOverDays && m_days)
+        filler.begin(m_days->first);
     m_query.run(source, [&](const LineFields& fields) {
         std::ranges::transform(fields, numbers.begin(), exactText);
-        const bool hasKey = key < std::ssize(fields);
-        points.add(textOf(points.layout().label, fields), {numbers, {}},
-                   hasKey ? fields[static_cast<std::size_t>(key)].toDate() : QDate());
+        const QDate day = isOverDays ? fields[key].toDate() : QDate();
+        hasRows = true;
+        filler.fillUpTo(day);
+        points.add(textOf(points.layout().label, fields), {numbers, {}}, day);
     });
+    if (isOverDays && m_days && hasRows)
+        filler.fillUpTo(m_days->last.addDays(1));
 }
 
 /// The report's title is the heading of the pages, and the title of the window when none is set for it. A
@@ -174,10 +222,14 @@ QString Run::subtitle() const
     QStringList parts;
     if (m_period)
         parts.append(m_period->text());
+    if (m_days && m_days->uncollected > 0 && m_period->from != m_period->to)
+        parts.append(uncollectedText(m_days->uncollected));
     if (!m_isOnlyPeriod)
         parts.append(u"selected by %1"_s.arg(shortened(m_request.selectionFormula)));
     if (!m_otherTables.isEmpty())
         parts.append(u"the selection names another table (%1)"_s.arg(m_otherTables.join(u", "_s)));
+    if (m_lacksChart)
+        parts.append(u"a chart is left out because a sum has more than 18 digits"_s);
     QString text = parts.join(u"; "_s);
     if (!text.isEmpty())
         text.front() = text.front().toUpper();

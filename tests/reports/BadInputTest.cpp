@@ -55,12 +55,6 @@ TEST_F(BadInput, NullAndTextInNumbersCountAsZero)
     EXPECT_EQ(linesOf(data), "1|Offer 1|1.5\n2|Offer 2|1\n|Offer|1\n# |Total|3.5");
 }
 
-TEST_F(BadInput, ANumberTooLargeToShowIsTold)
-{
-    shop.add("MIXSALES", "ID|SALESDATE|QUANTITY", {"1|2026-11-25|1e300"});
-    EXPECT_TRUE(tells(request("mixsales.rpt"), "18 digits"));
-}
-
 TEST_F(BadInput, ALongRunIsGivenUpWithoutAReport)
 {
     runElsewhere(shop.path(),

@@ -1,4 +1,5 @@
 // The lists that screens print, and what a dealer's own layout can say.
+#include "platform/FilePaths.h"
 #include "tests/reports/ReportShop.h"
 
 namespace norvane::reports::test
@@ -15,10 +16,10 @@ TEST(ListReports, TellOptionsInWords)
 {
     const ReportShop shop;
     shop.add("PLUSTATUS", "STATUSNO|DESCRIPTION|tax1|tax3|SINGLEITEM|KPGROUP2|LINKEDPLU|GROUPLINK2",
-             {"2|PLAIN|0|0|0|0|0|0", "1|FOOD|1|1|1|1|123456789012345678|4"});
+             {"2|PLAIN,|0|0|0|0|0|0", "1|FOOD|1|1|1|1|123456789012345678|4"});
     EXPECT_EQ(printed(shop, "plustat.rpt"),
               "1|FOOD|1, 3|Single item sale, Kitchen group 2, Linked PLU 123456789012345678, Second group 4\n"
-              "2|PLAIN");
+              "2|PLAIN,");
     shop.add("RECIPE", "recipeno|DESCRIPTION|item1|recipe1|qty1|item2|recipe2|qty2|item3|qty3",
              {"1|BURGER|1|15|2|0|7|100|0|0"});
     EXPECT_EQ(printed(shop, "recipe.rpt"), "1|BURGER|2 x PLU 15, 100 x ingredient 7");
@@ -78,6 +79,18 @@ TEST_F(OwnLayout, RoundsWithAllDigitsOfALongTotal)
     EXPECT_EQ(reckoned("1 - total({VALUE})", "0.00"), "0.87\n0.87\n# 0.87");
     shop.add("GROUPSALES", "ID|SALESDATE|VALUE", {"3|2026-11-25|12345678901234000", "4|2026-11-25|567.4"});
     EXPECT_EQ(reckoned("12345678901234568 - total({VALUE})", "0"), "0\n0\n0\n0\n# 0");
+    // Sums that a number does not hold keep their digits; what cannot be calculated from them says so.
+    shop.add("GROUPSALES", "ID|SALESDATE|VALUE", {"5|2026-11-25|-2e20", "6|2026-11-25|1e50"});
+    EXPECT_EQ(reckoned("{VALUE}", "0.00"),
+              "0.13\n0.00\n12345678901234000.00\n567.40\n-200000000000000000000.00\ntoo long\n# too long");
+    EXPECT_EQ(reckoned("{VALUE} / 2 * {ID}", "0"),
+              "0\n0\n18518518351851000\n1135\ntoo long\ntoo long\n# too long");
+    shop.folder().write("chart.rpt",
+                        readWholeFile(shop.folder().path("own.rpt")) +
+                            "[Chart1]\r\nKind=Ranking\r\nTitle=C\r\nLabel={ID}\r\nValue={VALUE}\r\n");
+    const auto data = runReport(shop.request(shop.folder().path("chart.rpt")));
+    EXPECT_TRUE(data.charts.empty());
+    EXPECT_EQ(data.heading.subtitle, u"A chart is left out because a sum has more than 18 digits"_s);
 }
 
 TEST_F(OwnLayout, GroupsAndSortsByWhatItNames)
@@ -116,7 +129,7 @@ TEST_F(OwnLayout, PutsZerosLastAndManySmallSharesTogether)
                         "[Chart1]\r\nKind=Shares\r\nTitle=By group\r\nFrom=Groups\r\nValue={PRICE1}\r\n");
     const auto data = runReport(shop.request(shop.folder().path("own.rpt")));
     EXPECT_EQ(linesOf(data), "> 9\n9\n> 010\n010\n> 1\n1\n> 2\n2\n> 3\n3\n> 4\n4\n> 5\n5\n> 6\n6\n> A\nA\n"
-                             "> b\nb\n> Rest\n\n000");
+                             "> b\nb\n> Rest\n000\n");
     ASSERT_EQ(data.charts[0].points.size(), 11U);
     EXPECT_EQ(data.charts[0].points.back().label, u"Others"_s);
     EXPECT_EQ(data.charts[0].points.back().value, Decimal(3, 1));

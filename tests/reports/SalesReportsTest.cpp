@@ -38,7 +38,7 @@ TEST_F(SalesReports, PluSalesStandByGroupWithNamesAndExactTotals)
               "000000000000000020|2026-11-25|0|0|0|0|0|0", // sold nothing
               "000000000000000007|2026-11-25|0|0|1|2|0|0", "000000000000000008|2026-11-25|0|0|1|3|0|0",
               "000000000000000999|2026-11-25|0|0|1|4|0|0", // no longer in the programme
-              "000000000000000003|2026-11-24|0|0|50|60|0|0"});
+              "000000000000000000|2026-11-25|0|0|1|0|0|0", "000000000000000003|2026-11-24|0|0|50|60|0|0"});
     const auto data = run("plusales.rpt", u"{PLUSALES.SALESDATE} = date(2026,11,25)"_s);
     EXPECT_EQ(headingsOf(data), "PLU|Description|Quantity|Value|Promotion|Waste|Share %");
     EXPECT_EQ(linesOf(data), "> 1 DRINKS\n"
@@ -49,10 +49,11 @@ TEST_F(SalesReports, PluSalesStandByGroupWithNamesAndExactTotals)
                              "8|LOST GROUP|1|3.00|0|0|0.1\n"
                              "= |Total 9|1|3.00|0|0|0.1\n"
                              "> No group\n"
+                             "0||1|0.00|0|0|0.0\n"
                              "7|LOOSE|1|2.00|0|0|0.0\n"
                              "999||1|4.00|0|0|0.1\n"
-                             "= |Total No group|2|6.00|0|0|0.1\n"
-                             "# |Total|6.125|5649.66|1|2|100.0");
+                             "= |Total No group|3|6.00|0|0|0.1\n"
+                             "# |Total|7.125|5649.66|1|2|100.0");
     EXPECT_EQ(data.heading.subtitle, u"25/11/2026"_s);
     ASSERT_EQ(data.charts.size(), 2U);
     EXPECT_EQ(data.charts[0].points.front().label, u"COLA"_s);
@@ -117,6 +118,29 @@ TEST_F(SalesReports, PeriodsShowTheirTimesAndOffersWholeQuantities)
     EXPECT_EQ(headingsOf(offers), "Offer|Description|Quantity");
     EXPECT_EQ(linesOf(offers), "1|3 FOR 2|5\n4|Offer 4|0.125\n# |Total|5.125");
     EXPECT_EQ(offers.charts.at(0).mostDecimals, 3);
+}
+
+/// Collected on the 20th, 22nd (in another table only) and 24th, and not yet today, the 25th.
+TEST_F(SalesReports, ACourseOverDaysShowsTheDaysWithoutSales)
+{
+    shop.add("TIMESALES", "ID|SALESDATE|QUANTITY|VALUE",
+             {"1|2026-10-03|1|9", "1|2026-11-20|1|2.5", "1|2026-11-24|1|4"});
+    shop.add("FINANCIALSALES", "ID|SALESDATE|QUANTITY|VALUE", {"1|2026-11-22|1|1"});
+    const auto course = [this](const char* period) {
+        const auto data = run("timesales.rpt", u"{TIMESALES.SALESDATE} in "_s + QLatin1String(period));
+        std::string text = data.heading.subtitle.toStdString() + ':';
+        for (const auto& point : data.charts.back().points)
+            text += ' ' + point.label.toStdString() + '=' + point.value.text();
+        return text;
+    };
+    EXPECT_EQ(course("WeekToDateFromSun"),
+              "Week to date, 22/11/2026 to 25/11/2026; 1 day without a collection: 22/11=0 23/11=0 24/11=4");
+    EXPECT_EQ(course("date(2026,10,2) to date(2026,10,4)"),
+              "02/10/2026 to 04/10/2026; 1 day without a collection: 03/10=9 04/10=0");
+    const std::string year = course("YearToDate");
+    EXPECT_TRUE(year.starts_with("Year to date, 01/01/2026 to 25/11/2026; 49 days without a collection: "
+                                 "03/10=9 04/10=0 "));
+    EXPECT_TRUE(year.ends_with(" 20/11=2.5 21/11=0 22/11=0 23/11=0 24/11=4"));
 }
 
 TEST_F(SalesReports, ThePriceListShowsEuroPricesWhereAnyIsSet)
