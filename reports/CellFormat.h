@@ -24,6 +24,12 @@ enum class FormatKind {
     Words ///< a word for each number
 };
 
+/// How money is shown at a shop.
+struct MoneyFormat {
+    int decimals = 2;
+    QString currency; ///< sign before the number; empty for none
+};
+
 struct CellFormat {
     FormatKind kind = FormatKind::Text;
     int leastDecimals = 0;
@@ -31,6 +37,8 @@ struct CellFormat {
     QHash<QString, QString> words; ///< of FormatKind::Words: from the stored number to its word
 
     [[nodiscard]] bool isNumber() const { return kind == FormatKind::Number || kind == FormatKind::Money; }
+    /// Patterns without places are for numbers of records, which have no thousands.
+    [[nodiscard]] bool isGrouped() const { return isNumber() && mostDecimals > 0; }
     [[nodiscard]] Alignment alignment() const;
     /// The text of a stored value; empty for null.
     [[nodiscard]] QString text(const store::Value& value) const;

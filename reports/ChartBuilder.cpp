@@ -42,7 +42,7 @@ void ChartPoints::add(const QString& label, const SlotNumbers& numbers, QDate da
         m_days.push_back(day);
 }
 
-Chart ChartPoints::finished(int moneyDecimals)
+Chart ChartPoints::finished(const MoneyFormat& money)
 {
     if (m_isTooLarge)
         return {};
@@ -55,9 +55,10 @@ Chart ChartPoints::finished(int moneyDecimals)
     const bool isMoney = format.kind == FormatKind::Money;
     Chart chart{m_layout.kind,
                 m_layout.title,
-                isMoney ? moneyDecimals : format.leastDecimals,
-                isMoney ? moneyDecimals : format.mostDecimals,
-                {}};
+                isMoney ? money.decimals : format.leastDecimals,
+                isMoney ? money.decimals : format.mostDecimals,
+                {},
+                {true, isMoney ? money.currency : QString()}};
     // One bar alone shows no course of things.
     if (m_layout.kind != ChartKind::Course || m_points.size() > 1)
         chart.points = std::move(m_points);

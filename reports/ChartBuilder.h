@@ -21,9 +21,9 @@ public:
     [[nodiscard]] const ChartLayout& layout() const { return m_layout; }
     /// @param day of the point, in a chart over days.
     void add(const QString& label, const SlotNumbers& numbers, QDate day = {});
-    /// @param moneyDecimals the decimal places of money at this shop.
+    /// @param money how money is shown at this shop.
     /// @return a chart without points when there is nothing to see.
-    [[nodiscard]] Chart finished(int moneyDecimals);
+    [[nodiscard]] Chart finished(const MoneyFormat& money);
     /// Whether a value had more than 18 digits before the point: such a chart is left out.
     [[nodiscard]] bool isTooLarge() const { return m_isTooLarge; }
 

@@ -40,7 +40,7 @@ public:
         for (; left >= chart->points.size(); ++chart)
             left -= chart->points.size();
         const ChartPoint& point = chart->points[left];
-        const QString value = shownNumber(point.value, chart->leastDecimals, chart->mostDecimals);
+        const QString value = shownValue(*chart, point.value);
         return {u"%1 %2"_s.arg(point.label, value), chart->title, rect()};
     }
 

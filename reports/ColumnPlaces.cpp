@@ -38,6 +38,8 @@ public:
         : m_column(column), m_text(text), m_style{usualSize, isBold},
           m_digit(text.width(QStringLiteral("0"), {usualSize, isBold})),
           m_sign(text.width(QStringLiteral("-"), {usualSize, isBold})),
+          m_separator(text.width(QLocale().groupSeparator(), {usualSize, isBold})),
+          m_currency(text.width(column.dress.currency, {usualSize, isBold})),
           m_day(
               text.width(QLocale().toString(QDate(2028, 12, 28), QLocale::ShortFormat), {usualSize, isBold}))
     {
@@ -61,9 +63,10 @@ public:
                                       std::max(m_column.leastDecimals, m_column.mostDecimals));
         if (number.scale() > places)
             ++whole; // 9.99 may be shown as 10.0
+        const int separators = m_column.dress.isGrouped ? (whole - 1) / 3 : 0;
         // The point takes no more room than the sign.
-        return (whole + places) * m_digit + (places > 0 ? m_sign : 0) +
-               (number.coefficient() < 0 ? m_sign : 0);
+        return m_currency + separators * m_separator + (whole + places) * m_digit +
+               (places > 0 ? m_sign : 0) + (number.coefficient() < 0 ? m_sign : 0);
     }
 
 private:
@@ -72,6 +75,8 @@ private:
     TextStyle m_style;
     double m_digit;
     double m_sign;
+    double m_separator;
+    double m_currency;
     double m_day;
 };
 

@@ -80,7 +80,7 @@ private:
     }
     [[nodiscard]] QString tick(double value) const
     {
-        return shownNumber(Decimal::fromDouble(value), 0, m_chart.mostDecimals);
+        return dressed(shownNumber(Decimal::fromDouble(value), 0, m_chart.mostDecimals), m_chart.dress);
     }
 
     void paintScale()

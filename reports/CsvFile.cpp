@@ -60,7 +60,8 @@ private:
     bool m_isFirst = true;
 };
 
-/// The cell as the preview shows it, but a day as yyyy-mm-dd, which every spreadsheet knows.
+/// The cell as the preview shows it, but a number without thousands separators and currency, and a day as
+/// yyyy-mm-dd, which every spreadsheet knows.
 QString csvValue(const ReportData& report, qsizetype line, int column)
 {
     const Cell cell = report.cell(line, column);
@@ -68,7 +69,7 @@ QString csvValue(const ReportData& report, qsizetype line, int column)
         return guarded(printable(*text));
     if (const auto* const day = std::get_if<QDate>(&cell))
         return day->toString(Qt::ISODate);
-    return report.text(line, column);
+    return report.plainText(line, column);
 }
 
 void addLine(CsvWriter& csv, const ReportData& report, qsizetype line)

@@ -5,6 +5,7 @@
 #include "reports/FormulaTokens.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -12,6 +13,8 @@
 
 namespace norvane::reports
 {
+
+struct NameList;
 
 /// A place in the row of fields that a report reads, counted from 0.
 using Slot = int;
@@ -22,6 +25,9 @@ struct FieldSlots {
     /// Hands out a field's slot. @throws FormulaError with the column handed in when the report does not read
     /// such a field.
     std::function<Slot(const FieldName&, qsizetype column)> slotOf;
+    /// Hands out the list of names of a field of another table. @throws FormulaError likewise when its
+    /// records have no number.
+    std::function<std::shared_ptr<const NameList>(const FieldName&, qsizetype column)> namesOf = {};
 };
 
 /// The numbers that an expression is calculated from: one exact decimal for each slot.

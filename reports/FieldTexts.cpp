@@ -48,9 +48,11 @@ MadeText textOfParts(const Parts& parts, const CellFormat& format, const LineFie
         if (!text.trimmed().isEmpty())
             made.endsInLayout = isOfLayout;
     };
-    for (const auto& [fixed, slot, words] : parts) {
+    for (const auto& [fixed, slot, words, names] : parts) {
         if (!slot) {
             add(fixed, true);
+        } else if (names) {
+            add(names->names.value(NameList::keyOf(fieldAt(fields, *slot))), false);
         } else if (words.empty()) {
             add(format.text(fieldAt(fields, *slot)), false);
         } else if (const auto* const chosen = wordsFor(words, fieldAt(fields, *slot))) {

@@ -196,11 +196,12 @@ bool takeValueFormat(const QString& value, LayoutTarget& target)
 
 // Keys are read in the order of these rows: a table before its fields, a format before its value.
 // clang-format off
-constexpr std::array<KeyRule, 6> reportKeys{{
+constexpr std::array<KeyRule, 7> reportKeys{{
     {u"Title", true, "the heading of the report"_L1, [](const QString& value, LayoutTarget& target) { target.layout.title = value; return true; }},
     {u"Table", true, "a table of the customer's database"_L1, takeTable},
     {u"Lines", false, "the fields of the table that make a line, such as {PLUSALES.ID}"_L1, takeLines},
     {u"ZeroLines", false, "YES or NO"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.layout.showsZeroLines); }},
+    {u"EmptyRecords", false, "YES or NO"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.layout.showsEmptyRecords); }},
     {u"Orientation", false, "Automatic, Portrait or Landscape"_L1, [](const QString& value, LayoutTarget& target) { return takeChoice(value, orientations, target.layout.orientation); }},
     {u"Where", false, "a condition on fields of the report's table"_L1, takeWhere},
 }};

@@ -72,11 +72,12 @@ private:
     {
         const QStringView inside = m_text.mid(open + 1, close - open - 1);
         const qsizetype question = inside.indexOf(u'?');
-        const QStringView name = question < 0 ? inside : inside.left(question);
-        const auto found = findField(name, m_fields.own);
-        if (!found)
-            throw FormulaError(open + 1, u"there is no field {%1}"_s.arg(name));
-        TextTemplate::Part made{{}, m_fields.slotOf(*found, open + 1), {}};
+        const QStringView names = question < 0 ? inside : inside.left(question);
+        const qsizetype colon = names.indexOf(u':');
+        const auto found = fieldNamed(colon < 0 ? names : names.left(colon), open + 1);
+        TextTemplate::Part made{{}, m_fields.slotOf(found, open + 1), {}};
+        if (colon >= 0)
+            made.names = m_fields.namesOf(fieldNamed(names.mid(colon + 1), open + 1), open + 1);
         for (qsizetype at = open + 1 + question; question >= 0 && at < close;) {
             const qsizetype end = endOfWords(at + 1, close);
             made.words.push_back(part(at + 1, end).parts);
@@ -85,9 +86,30 @@ private:
         return made;
     }
 
+    [[nodiscard]] FieldName fieldNamed(QStringView name, qsizetype column) const
+    {
+        const auto found = findField(name, m_fields.own);
+        if (!found)
+            throw FormulaError(column, u"there is no field {%1}"_s.arg(name));
+        return *found;
+    }
+
     QStringView m_text;
     const FieldSlots& m_fields;
 };
+
+std::shared_ptr<const NameList> nameListOf(ReportLayout& layout, const FieldName& name, qsizetype column)
+{
+    const auto same =
+        std::ranges::find_if(layout.nameLists, [&name](const auto& list) { return list->name == name; });
+    if (same != layout.nameLists.end())
+        return *same;
+    const auto& indexes = name.table->indexes;
+    const auto key = indexes.isEmpty() ? std::nullopt : findField(indexes.first().field, name.table);
+    if (!key)
+        throw FormulaError(column, u"records of table %1 have no number"_s.arg(name.table->name));
+    return layout.nameLists.emplace_back(std::make_shared<NameList>(NameList{name, *key, {}}));
+}
 
 } // namespace
 
@@ -134,11 +156,15 @@ void checkField(const ReportLayout& layout, const LineSource& source, const Fiel
     }
 }
 
-FieldSlots fieldSlots(const ReportLayout& layout, LineSource& source)
+FieldSlots fieldSlots(ReportLayout& layout, LineSource& source)
 {
-    return {source.table, [&layout, &source](const FieldName& field, qsizetype column) {
+    return {source.table,
+            [&layout, &source](const FieldName& field, qsizetype column) {
                 checkField(layout, source, field, column);
                 return source.slotOf(field);
+            },
+            [&layout](const FieldName& name, qsizetype column) {
+                return nameListOf(layout, name, column);
             }};
 }
 

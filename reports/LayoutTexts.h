@@ -14,7 +14,8 @@ namespace norvane::reports
 [[nodiscard]] std::optional<SortKey> parseSortKey(QStringView text, const store::TableDefinition* own);
 
 /// A text with fields in braces; "{FIELD?words}" stands for the words where the field is not 0,
-/// "{FIELD?zero;one;two}" for those of its number; words may hold fields themselves. @throws FormulaError
+/// "{FIELD?zero;one;two}" for those of its number; words may hold fields themselves.
+/// "{FIELD:TABLE.NAME}" is the name in the record of TABLE whose number is the field. @throws FormulaError
 [[nodiscard]] TextTemplate parseTemplate(QStringView text, const FieldSlots& fields);
 
 /// @throws FormulaError for a field that @p source cannot hand out: one of a table that is not read, or one
@@ -23,6 +24,6 @@ void checkField(const ReportLayout& layout, const LineSource& source, const Fiel
                 qsizetype column);
 
 /// Gives each field that is named a slot in @p source, after checkField().
-[[nodiscard]] FieldSlots fieldSlots(const ReportLayout& layout, LineSource& source);
+[[nodiscard]] FieldSlots fieldSlots(ReportLayout& layout, LineSource& source);
 
 } // namespace norvane::reports

@@ -103,12 +103,17 @@ LineBuilder::LineBuilder(const ReportLayout& layout, ReportData& data, ChartBuil
 {
     for (const auto& column : layout.columns)
         m_isShown.push_back(column.shownIf.empty());
+    const LineSource& source = layout.source;
+    for (std::size_t slot = 0; !source.addsUp() && slot < source.fields.size(); ++slot) {
+        if (!isRecordNumber(source, source.fields[slot]))
+            m_contents.push_back(slot);
+    }
 }
 
 void LineBuilder::add(const LineFields& fields)
 {
     m_numbers.read(fields);
-    if (!m_layout.showsZeroLines && m_numbers.areZero())
+    if (isLeftOut(fields))
         return;
     if (m_layout.group)
         changeGroup(fields);
@@ -117,6 +122,17 @@ void LineBuilder::add(const LineFields& fields)
     m_totals.add(m_numbers.numbers());
     m_charts.addLine(fields, {m_numbers.numbers(), m_whole});
     noteShown();
+}
+
+/// A line without amounts, or in a list a record in which nothing but its number is set.
+bool LineBuilder::isLeftOut(const LineFields& fields) const
+{
+    if (!m_layout.showsZeroLines && m_numbers.areZero())
+        return true;
+    if (m_layout.showsEmptyRecords || m_contents.empty())
+        return false;
+    return std::ranges::all_of(m_contents,
+                               [&fields](std::size_t slot) { return namesNothing(fields.at(slot)); });
 }
 
 void LineBuilder::changeGroup(const LineFields& fields)

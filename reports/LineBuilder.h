@@ -56,6 +56,7 @@ public:
     void finish();
 
 private:
+    [[nodiscard]] bool isLeftOut(const LineFields& fields) const;
     void changeGroup(const LineFields& fields);
     void closeGroup();
     void addDetail(const LineFields& fields);
@@ -76,6 +77,7 @@ private:
     std::optional<store::Value> m_group; ///< of the lines that come now
     QString m_groupHeading;
     std::vector<bool> m_isShown;
+    std::vector<std::size_t> m_contents; ///< slots of a list's records other than their number
     std::size_t m_labelColumn;
     bool m_isTotalled;
 };

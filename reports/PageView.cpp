@@ -289,7 +289,10 @@ int PageView::spokenItemCount() const
 ui::SpokenItem PageView::spokenItem(int index) const
 {
     const PlacedLine line = m_document.pages().placedLines(currentPage()).at(static_cast<std::size_t>(index));
-    QStringList cells = m_document.linesAsText(line.line, line.line).trimmed().split(u'\t');
+    const ReportData& report = m_document.report();
+    QStringList cells;
+    for (int column = 0; column < report.columnCount(); ++column)
+        cells << printable(report.text(line.line, column));
     cells.removeAll(QString());
     const QRectF place(pageRect(currentPage()).topLeft() + line.place.topLeft() * m_scale,
                        line.place.size() * m_scale);

@@ -45,7 +45,7 @@ QString Period::text() const
 {
     QString days;
     if (from == to) {
-        days = dayText(from);
+        days = (name.isEmpty() ? from.toString(u"dddd, ") : QString()) + dayText(from);
     } else if (!from.isValid()) {
         days = u"up to %1"_s.arg(dayText(to));
     } else if (!to.isValid()) {

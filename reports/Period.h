@@ -16,7 +16,8 @@ struct Period {
     QString name; ///< "Month to date"; empty for days that were picked
 
     [[nodiscard]] bool isOpen() const { return !from.isValid() || !to.isValid(); }
-    /// "Month to date, 01/11/2026 to 25/11/2026"; "25/11/2026" for one day that was picked.
+    /// "Month to date, 01/11/2026 to 25/11/2026"; "Wednesday, 25/11/2026" for one day that was
+    /// picked.
     [[nodiscard]] QString text() const;
 };
 

@@ -22,17 +22,12 @@ struct Scale {
     double largest = 0;
 };
 
-QString shownValue(const Chart& chart, const ChartPoint& point)
-{
-    return shownNumber(point.value, chart.leastDecimals, chart.mostDecimals);
-}
-
 Scale makeScale(const Chart& chart, const PageText& text, double width)
 {
     Scale scale;
     for (const ChartPoint& point : chart.points) {
         scale.labelWidth = std::max(scale.labelWidth, text.width(point.label, chartStyle));
-        scale.valueWidth = std::max(scale.valueWidth, text.width(shownValue(chart, point), chartStyle));
+        scale.valueWidth = std::max(scale.valueWidth, text.width(shownValue(chart, point.value), chartStyle));
         scale.largest = std::max(scale.largest, point.value.toDouble());
     }
     scale.labelWidth = std::min(scale.labelWidth, width * 0.4);
@@ -67,7 +62,7 @@ void paintRanking(QPainter& painter, const QRectF& place, const Chart& chart, co
         text.draw(painter, row, text.elided(point.label, style, row.width() + 0.1), style, Alignment::Right);
         painter.fillRect(bar, ink::bar);
         text.draw(painter, QRectF(bar.right() + gap, row.top(), scale.valueWidth, pitch),
-                  shownValue(chart, point), style, Alignment::Left);
+                  shownValue(chart, point.value), style, Alignment::Left);
         row.moveTop(row.bottom());
     }
     painter.fillRect(QRectF(origin - thinLine, place.top(), thinLine, row.top() - place.top()), ink::rule);

@@ -22,7 +22,7 @@ constexpr int mostScale = 200;
 constexpr int lengthBits = 16;
 constexpr std::int64_t longestText = (1 << lengthBits) - 1;
 
-struct ShownCell {
+struct PlainCell {
     const ReportColumn& column;
 
     QString operator()(std::monostate) const { return {}; }
@@ -33,6 +33,12 @@ struct ShownCell {
         return shownNumber(number, column.leastDecimals, column.mostDecimals);
     }
 };
+
+bool isNumberCell(const ReportColumn& column, const Cell& cell)
+{
+    return std::holds_alternative<Decimal>(cell) ||
+           (column.kind == ColumnKind::Number && std::holds_alternative<QString>(cell));
+}
 
 } // namespace
 
@@ -114,7 +120,15 @@ Cell ReportData::cell(qsizetype line, int column) const
 
 QString ReportData::text(qsizetype line, int column) const
 {
-    return std::visit(ShownCell{m_columns.at(static_cast<std::size_t>(column))}, cell(line, column));
+    const ReportColumn& shown = m_columns.at(static_cast<std::size_t>(column));
+    const Cell own = cell(line, column);
+    const QString plain = std::visit(PlainCell{shown}, own);
+    return isNumberCell(shown, own) ? dressed(plain, shown.dress) : plain;
+}
+
+QString ReportData::plainText(qsizetype line, int column) const
+{
+    return std::visit(PlainCell{m_columns.at(static_cast<std::size_t>(column))}, cell(line, column));
 }
 
 Decimal sumOf(std::span<const ChartPoint> points)
@@ -140,6 +154,26 @@ QString shownDigits(QString plain, int leastDecimals)
 QString shownNumber(const Decimal& number, int leastDecimals, int mostDecimals)
 {
     return shownDigits(QString::fromStdString(number.rounded(mostDecimals).text()), leastDecimals);
+}
+
+/// A text that is not a number, as stands for a sum of too many digits, stays as it is.
+QString dressed(QString number, const NumberDress& dress)
+{
+    constexpr qsizetype thousands = 3;
+    const qsizetype first = number.startsWith(u'-') ? 1 : 0;
+    qsizetype end = first;
+    while (end < number.size() && number.at(end).isDigit())
+        ++end;
+    if (end == first)
+        return number;
+    for (qsizetype at = end - thousands; dress.isGrouped && at > first; at -= thousands)
+        number.insert(at, QLocale().groupSeparator());
+    return number.insert(first, dress.currency);
+}
+
+QString shownValue(const Chart& chart, const Decimal& value)
+{
+    return dressed(shownNumber(value, chart.leastDecimals, chart.mostDecimals), chart.dress);
 }
 
 } // namespace norvane::reports

@@ -21,6 +21,12 @@ namespace norvane::reports
 enum class Alignment { Left, Centre, Right };
 enum class ColumnKind { Text, Number, Date };
 
+/// What pages add to a plain number.
+struct NumberDress {
+    bool isGrouped = false; ///< thousands are separated
+    QString currency;       ///< the shop's sign before the number; empty for none
+};
+
 /// A column of the report, and how its values are shown.
 struct ReportColumn {
     QString heading;
@@ -29,6 +35,7 @@ struct ReportColumn {
     ColumnKind kind = ColumnKind::Text;
     int leastDecimals = 0; ///< places that are always shown
     int mostDecimals = 0;  ///< further places are rounded off, halves away from zero
+    NumberDress dress = {};
 };
 
 /// A cell as it is stored, never rounded: nothing, a text, a number or a day.
@@ -74,6 +81,7 @@ struct Chart {
     int leastDecimals = 2; ///< of the values as shown
     int mostDecimals = 2;
     std::vector<ChartPoint> points;
+    NumberDress dress = {true, {}};
 };
 
 /// The exact sum of the points' values.
@@ -101,9 +109,11 @@ public:
     [[nodiscard]] qsizetype lineCount() const { return static_cast<qsizetype>(m_kinds.size()); }
     [[nodiscard]] LineKind lineKind(qsizetype line) const;
     [[nodiscard]] Cell cell(qsizetype line, int column) const;
-    /// The cell as preview, paper and clipboard show it: numbers rounded to the column's places, with the
-    /// decimal sign of the user's locale, dates in the locale's short form.
+    /// The cell as preview and paper show it: numbers rounded to the column's places, with the signs of the
+    /// user's locale and the column's dress, dates in the locale's short form.
     [[nodiscard]] QString text(qsizetype line, int column) const;
+    /// The cell as other programs read it: a number without its dress.
+    [[nodiscard]] QString plainText(qsizetype line, int column) const;
 
 private:
     /// Cells of one column, line by line.
@@ -127,5 +137,9 @@ private:
 /// A number with between @p leastDecimals and @p mostDecimals places, rounded in decimal, halves away from
 /// zero, with the sign of the user's locale and without thousands separators.
 [[nodiscard]] QString shownNumber(const Decimal& number, int leastDecimals, int mostDecimals);
+/// Adds the dress to a number spelled by shownNumber(): "-1234.50" becomes "-£1,234.50".
+[[nodiscard]] QString dressed(QString number, const NumberDress& dress);
+/// The value of a point as the chart shows it.
+[[nodiscard]] QString shownValue(const Chart& chart, const Decimal& value);
 
 } // namespace norvane::reports

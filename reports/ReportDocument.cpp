@@ -25,8 +25,10 @@ void ReportDocument::setShowsCharts(bool shows)
 bool ReportDocument::holds(qsizetype line, const QString& sought) const
 {
     for (int column = 0; column < m_report.columnCount(); ++column) {
-        if (m_report.text(line, column).contains(sought, Qt::CaseInsensitive))
+        if (m_report.text(line, column).contains(sought, Qt::CaseInsensitive) ||
+            m_report.plainText(line, column).contains(sought, Qt::CaseInsensitive)) {
             return true;
+        }
     }
     return false;
 }
@@ -48,7 +50,7 @@ QString ReportDocument::linesAsText(qsizetype first, qsizetype last) const
     for (qsizetype line = first; line <= last; ++line) {
         QStringList cells;
         for (int column = 0; column < m_report.columnCount(); ++column)
-            cells << printable(m_report.text(line, column));
+            cells << printable(m_report.plainText(line, column));
         text += cells.join(u'\t') + u'\n';
     }
     return text;

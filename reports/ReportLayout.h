@@ -9,11 +9,22 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace norvane::reports
 {
+
+/// Names of another table, found by the number of a record. They are read once, when the report runs.
+struct NameList {
+    FieldName name;
+    FieldName key;                 ///< the field of the same table that its first index orders by
+    QHash<QString, QString> names; ///< by keyOf()
+
+    /// A number as lists compare it: registers fill numbers up with zeros and blanks.
+    [[nodiscard]] static QString keyOf(const store::Value& number);
+};
 
 /// A text with fields in it: "{TIMEPERIOD.STARTTIME} to {TIMEPERIOD.ENDTIME}".
 struct TextTemplate {
@@ -23,6 +34,8 @@ struct TextTemplate {
         /// Words that stand here instead of the field's value. One: where the field is not 0. Several: for 0,
         /// 1 and so on.
         std::vector<std::vector<Part>> words;
+        std::shared_ptr<const NameList> names =
+            nullptr; ///< what stands here is the name of the field's number
     };
     std::vector<Part> parts;
 
@@ -113,6 +126,8 @@ struct ReportLayout {
     std::vector<ColumnLayout> columns;
     std::optional<GroupLayout> group;
     bool showsZeroLines = true;
+    bool showsEmptyRecords = false; ///< of a list
+    std::vector<std::shared_ptr<NameList>> nameLists;
     std::vector<ChartLayout> charts;
 
     /// Whether it reads @p table: its own or a joined one.

@@ -164,19 +164,39 @@ void ReportPages::takeLine(ReportPage& page)
 
 void ReportPages::addCharts(ReportPage& page)
 {
-    const QRectF& body = m_frame.body;
     while (!m_charts.empty()) {
         const bool isFirst = !page.hasLines() && page.charts.empty();
         const double gap = isFirst ? 0 : chartGap;
-        const double space = body.bottom() - m_y - gap;
-        const double wanted = chartHeight(m_report.charts[m_charts.back()], body.width());
+        const double space = m_frame.body.bottom() - m_y - gap;
+        const std::size_t count = std::min(m_charts.size(), chartsInRow());
+        const double width =
+            (m_frame.body.width() - static_cast<double>(count - 1) * chartGap) / static_cast<double>(count);
+        const double wanted = rowHeight(count, width);
         if (wanted > space && !isFirst)
             return;
-        const double height = std::min(wanted, space);
-        page.charts.push_back({m_charts.back(), QRectF(body.left(), m_y + gap, body.width(), height)});
-        m_y += gap + height;
-        m_charts.pop_back();
+        QRectF place(m_frame.body.left(), m_y + gap, width, std::min(wanted, space));
+        m_y = place.bottom();
+        for (std::size_t chart = 0; chart < count; ++chart) {
+            page.charts.push_back({m_charts.back(), place});
+            place.translate(width + chartGap, 0);
+            m_charts.pop_back();
+        }
     }
+}
+
+/// Beneath each other, two charts would need two landscape sheets.
+std::size_t ReportPages::chartsInRow() const
+{
+    return m_frame.sheet.width() > m_frame.sheet.height() ? 2 : 1;
+}
+
+/// The height of the next @p count charts side by side.
+double ReportPages::rowHeight(std::size_t count, double width) const
+{
+    double height = 0;
+    for (std::size_t chart = m_charts.size() - count; chart < m_charts.size(); ++chart)
+        height = std::max(height, chartHeight(m_report.charts[m_charts[chart]], width));
+    return height;
 }
 
 /// The end of the block that begins at @p line and should stay on one page: a heading with the first line

@@ -48,7 +48,8 @@ struct SheetColumns {
 
 /// Lays out a few pages at a time, so that the first can be shown while the rest is made. Lines never split;
 /// a group's heading stands with the first of its lines, and a total with the line above it. Charts stand
-/// beneath the last line where there is room, else on pages of their own.
+/// beneath the last line where there is room, else on pages of their own; on landscape sheets two side by
+/// side.
 class ReportPages
 {
 public:
@@ -78,6 +79,8 @@ private:
     void addBlock(ReportPage& page, qsizetype end);
     void takeLine(ReportPage& page);
     void addCharts(ReportPage& page);
+    [[nodiscard]] std::size_t chartsInRow() const;
+    [[nodiscard]] double rowHeight(std::size_t count, double width) const;
     [[nodiscard]] qsizetype blockEnd(qsizetype line) const;
     [[nodiscard]] double height(qsizetype first, qsizetype end) const;
     [[nodiscard]] std::vector<std::size_t> drawableCharts(bool showsCharts) const;

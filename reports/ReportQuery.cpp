@@ -2,6 +2,7 @@
 #include "reports/ReportQuery.h"
 
 #include "platform/RuntimeFailure.h"
+#include "platform/Windows1252.h"
 #include "reports/LineStatement.h"
 #include "store/BoundQuery.h"
 #include "store/Catalogue.h"
@@ -124,16 +125,60 @@ std::optional<SalesDays> ReportQuery::salesDays(const Period& period)
     return reports::salesDays(m_database, period, m_today, m_keepGoing);
 }
 
-int ReportQuery::moneyDecimals()
+/// The field in the first record of a table of settings; null when there is none.
+store::Value ReportQuery::setting(const QString& table, const QString& field)
 {
-    const auto* const table = store::catalogueTable(u"smode"_s);
-    if (!table || !m_database.hasTable(table->name))
-        return usualDecimals;
-    store::BoundQuery query(m_database, "SELECT DECIMALPlace FROM smode ORDER BY ID LIMIT 1", {}, m_dataFile);
-    if (!query.next() || query.value(0).isNull())
-        return usualDecimals;
-    const double places = query.value(0).toNumber();
-    return places >= 0 && places <= mostMoneyDecimals ? static_cast<int>(places) : usualDecimals;
+    if (!m_database.hasTable(table))
+        return {};
+    store::BoundQuery query(
+        m_database, u"SELECT \"%1\" FROM \"%2\" ORDER BY ID LIMIT 1"_s.arg(field, table).toStdString(), {},
+        m_dataFile);
+    return query.next() ? query.value(0) : store::Value();
+}
+
+/// The registers keep the sign as the code of a character.
+QString ReportQuery::currencySign()
+{
+    constexpr double lowest = 33;
+    constexpr double highest = 255;
+    const double code = setting(u"GENERALPRINTOPTION"_s, u"HOMESYMBOL"_s).toNumber();
+    if (code < lowest || code > highest)
+        return {};
+    return fromWindows1252(QByteArray(1, static_cast<char>(static_cast<int>(code))));
+}
+
+MoneyFormat ReportQuery::moneyFormat()
+{
+    const store::Value places = setting(u"smode"_s, u"DECIMALPlace"_s);
+    const double decimals = places.isNull() ? usualDecimals : places.toNumber();
+    const bool isUsual = decimals < 0 || decimals > mostMoneyDecimals;
+    return {isUsual ? usualDecimals : static_cast<int>(decimals), currencySign()};
+}
+
+void ReportQuery::readNames(const MoneyFormat& money)
+{
+    for (const auto& list : m_layout.nameLists)
+        readList(*list, money);
+}
+
+/// Of several records with the same number the first counts.
+void ReportQuery::readList(NameList& list, const MoneyFormat& money)
+{
+    if (!m_database.hasTable(list.name.table->name))
+        return;
+    const QString sql =
+        u"SELECT \"%1\", \"%2\" FROM \"%3\""_s.arg(list.key.name(), list.name.name(), list.name.table->name);
+    store::BoundQuery query(m_database, sql.toStdString(), {}, m_dataFile, m_keepGoing);
+    while (query.next()) {
+        const QString key = NameList::keyOf(query.value(0));
+        const store::Value& name = query.value(1);
+        if (list.names.contains(key))
+            continue;
+        list.names.insert(key, name.isDouble() ? dressed(shownNumber(Decimal::fromDouble(name.toNumber()),
+                                                                     money.decimals, money.decimals),
+                                                         {true, money.currency})
+                                               : name.toText().trimmed());
+    }
 }
 
 } // namespace norvane::reports

@@ -29,11 +29,17 @@ public:
     void run(const LineSource& source, const std::function<void(const LineFields&)>& take);
     /// See SalesDays; nothing for a report over a table without sales too.
     [[nodiscard]] std::optional<SalesDays> salesDays(const Period& period);
-    /// The decimal places of money at this shop: two where its settings do not tell.
-    [[nodiscard]] int moneyDecimals();
+    /// How this shop shows money: with two decimal places and no currency sign where its settings have none.
+    [[nodiscard]] MoneyFormat moneyFormat();
+    /// Fills the lists of names that the layout looks up.
+    /// @param money for names that are amounts.
+    void readNames(const MoneyFormat& money);
 
 private:
     void checkTables() const;
+    [[nodiscard]] store::Value setting(const QString& table, const QString& field);
+    [[nodiscard]] QString currencySign();
+    void readList(NameList& list, const MoneyFormat& money);
     [[nodiscard]] std::string monthRows(const LineSource& source);
     void addUpMissing(store::MonthTotals& totals, const store::DayRange& days);
     [[nodiscard]] bool beginMonth(QDate month) const;

@@ -71,14 +71,15 @@ public:
     ReportData make()
     {
         select();
-        const int decimals = m_query.moneyDecimals();
-        setMoney(decimals);
+        const MoneyFormat money = m_query.moneyFormat();
+        setMoney(money);
+        m_query.readNames(money);
         ReportData data(columns());
         ChartBuilder charts(m_layout);
         addLines(data, charts);
         if (m_period)
             m_days = m_query.salesDays(*m_period);
-        addCharts(data, charts, decimals);
+        addCharts(data, charts, money);
         setHeading(data.heading);
         if (data.lineCount() == 0)
             data.heading.notice = notice();
@@ -88,11 +89,11 @@ public:
 
 private:
     void select();
-    void setMoney(int decimals);
+    void setMoney(const MoneyFormat& money);
     [[nodiscard]] std::vector<ReportColumn> columns() const;
     void addLines(ReportData& data, ChartBuilder& charts);
     void addWholeLines(ReportData& data, ChartBuilder& charts);
-    void addCharts(ReportData& data, ChartBuilder& charts, int decimals);
+    void addCharts(ReportData& data, ChartBuilder& charts, const MoneyFormat& money);
     void runChart(ChartPoints& points);
     void setHeading(ReportHeading& heading) const;
     [[nodiscard]] QString subtitle() const;
@@ -130,11 +131,14 @@ void Run::select()
     }
 }
 
-void Run::setMoney(int decimals)
+void Run::setMoney(const MoneyFormat& money)
 {
     for (auto& layout : m_layout.columns) {
-        if (layout.format.kind == FormatKind::Money)
-            layout.column.leastDecimals = layout.column.mostDecimals = decimals;
+        layout.column.dress.isGrouped = layout.format.isGrouped();
+        if (layout.format.kind != FormatKind::Money)
+            continue;
+        layout.column.leastDecimals = layout.column.mostDecimals = money.decimals;
+        layout.column.dress.currency = money.currency;
     }
 }
 
@@ -172,12 +176,12 @@ void Run::addWholeLines(ReportData& data, ChartBuilder& charts)
     builder.finish();
 }
 
-void Run::addCharts(ReportData& data, ChartBuilder& charts, int decimals)
+void Run::addCharts(ReportData& data, ChartBuilder& charts, const MoneyFormat& money)
 {
     for (auto& points : charts.charts()) {
         if (points.layout().from == PointSource::Query)
             runChart(points);
-        auto chart = points.finished(decimals);
+        auto chart = points.finished(money);
         m_lacksChart = m_lacksChart || points.isTooLarge();
         if (!chart.points.empty())
             data.charts.push_back(std::move(chart));

@@ -69,7 +69,7 @@ struct LegendColumns {
 
     [[nodiscard]] QString shownValue(const Part& part) const
     {
-        return shownNumber(part.value, chart.leastDecimals, chart.mostDecimals);
+        return reports::shownValue(chart, part.value);
     }
 };
 

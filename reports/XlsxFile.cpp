@@ -26,12 +26,17 @@ constexpr lxw_row_t headingRow = 4;
 constexpr double millimetresPerLetter = 1.9; ///< a spreadsheet counts the width of columns in letters
 constexpr std::size_t longestNumber = 15;    ///< digits that a spreadsheet keeps
 
-/// "0", "0.00"; a number of varying places shows those that it has.
+/// "0", "#,##0.00", with the currency in quotes before it; a number of varying places shows those that it
+/// has.
 QByteArray numberFormat(const ReportColumn& column)
 {
     if (column.leastDecimals != column.mostDecimals)
         return "General"_ba;
-    return column.leastDecimals == 0 ? "0"_ba : "0."_ba + QByteArray(column.leastDecimals, '0');
+    QByteArray format = column.dress.isGrouped ? "#,##0"_ba : "0"_ba;
+    if (column.leastDecimals > 0)
+        format += '.' + QByteArray(column.leastDecimals, '0');
+    const QString currency = QString(column.dress.currency).remove(u'"');
+    return currency.isEmpty() ? format : '"' + currency.toUtf8() + '"' + format;
 }
 
 std::uint8_t sideOf(Alignment alignment)

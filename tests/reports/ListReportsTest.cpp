@@ -20,16 +20,26 @@ TEST(ListReports, TellOptionsInWords)
     EXPECT_EQ(printed(shop, "plustat.rpt"),
               "1|FOOD|1, 3|Single item sale, Kitchen group 2, Linked PLU 123456789012345678, Second group 4\n"
               "2|PLAIN,");
+    shop.add("PLUDATA", "PLUNUMBER|DESCRIPTION", {"000000000000000015|Patty"});
     shop.add("RECIPE", "recipeno|DESCRIPTION|item1|recipe1|qty1|item2|recipe2|qty2|item3|qty3",
-             {"1|BURGER|1|15|2|0|7|100|0|0"});
-    EXPECT_EQ(printed(shop, "recipe.rpt"), "1|BURGER|2 x PLU 15, 100 x ingredient 7");
+             {"1|BURGER|1|15|2|0|7|100|0|0", "2||0|0|0|0|0|0|0|0", "3|MENU|2|1|1|1|99|1|0|0"});
+    EXPECT_EQ(printed(shop, "recipe.rpt"),
+              "1|BURGER|2 x PLU 15 Patty, 100 x ingredient 7\n3|MENU|1 x recipe 1 BURGER, 1 x PLU 99");
     shop.add("TAXRATES", "ID|taxrate|TAXTYPE|first", {"1|19|0|0", "2|7.125|2|12"});
     EXPECT_EQ(printed(shop, "taxes.rpt"), "1|19.000|VAT|0\n2|7.125|Tax table|12");
     shop.add("AUTHORITYLEVEL", "ID|DESCRIPTION|PAYANYCHECK|ALLOWNOSALE", {"3|MANAGER|1|1"});
     EXPECT_EQ(printed(shop, "authlvl.rpt"), "3|MANAGER|Pay any check, No sale");
-    shop.add("EMPLOYEE", "ID|DESCRIPTION|AUTHORITYLEVEL|SIGNONCODE|JOB1CODE|JOB3CODE|Trainmode|dallaskey",
-             {"1|ANNE|3|4711|2|5|0|0", "2|BERT|8|0|0|0|1|0"});
-    EXPECT_EQ(printed(shop, "employee.rpt"), "1|ANNE|MANAGER|2, 5|||||No\n2|BERT|Level 8||||||Yes");
+    shop.add("JOBCODE", "JOBCODE|DESCRIPTION", {"2|WAITER", "6|"});
+    EXPECT_EQ(printed(shop, "jobcode.rpt"), "2|WAITER") << "without the empty record";
+    shop.add("PAYRATE", "PAYRATE|rate", {"4|1012.5"});
+    shop.add("EMPLOYEE",
+             "ID|DESCRIPTION|AUTHORITYLEVEL|SIGNONCODE|JOB1CODE|JOB3CODE|PAYRATE2|Trainmode|dallaskey",
+             {"1|ANNE|3|4711|2|5|4|0|0", "2|BERT|8|0|0|0|0|1|0", "3||0|0|0|0|0|0|0"});
+    EXPECT_EQ(printed(shop, "employee.rpt"),
+              "1|ANNE|MANAGER|2 WAITER, 5|4: 1,012.50||||No\n2|BERT|Level 8||||||Yes");
+    shop.folder().write("all.rpt", readWholeFile(ReportShop::installed("jobcode.rpt"))
+                                       .replace("[Column1]", "EmptyRecords=YES\r\n[Column1]"));
+    EXPECT_EQ(linesOf(runReport(shop.request(shop.folder().path("all.rpt")))), "2|WAITER\n6");
     shop.add("TIMEPERIOD", "id|STARTTIME|ENDTIME|ACTIVE", {"1|0000|559|1"});
     EXPECT_EQ(printed(shop, "timeperd.rpt"), "1|00:00 to 05:59|Yes");
     EXPECT_EQ(printed(shop, "hotlist.rpt"), "");
@@ -43,10 +53,11 @@ protected:
     /// The value of a column of numbers, a line each for the records that the shop has.
     [[nodiscard]] std::string reckoned(const QByteArray& value, const char* format = "0.###") const
     {
-        shop.folder().write("own.rpt", QByteArray("[Report]\r\nTitle=Own\r\nTable=GROUPSALES\r\n"
-                                                  "[Column1]\r\nFormat=") +
-                                           format + "\r\nWidth=20\r\nTotal=YES\r\nValue=" + value +
-                                           "\r\n[Sort]\r\nKey1={ID}\r\n");
+        shop.folder().write("own.rpt",
+                            QByteArray("[Report]\r\nTitle=Own\r\nTable=GROUPSALES\r\nEmptyRecords=YES\r\n"
+                                       "[Column1]\r\nFormat=") +
+                                format + "\r\nWidth=20\r\nTotal=YES\r\nValue=" + value +
+                                "\r\n[Sort]\r\nKey1={ID}\r\n");
         return linesOf(runReport(shop.request(shop.folder().path("own.rpt"))));
     }
 
@@ -58,7 +69,7 @@ TEST_F(OwnLayout, ReckonsInDecimal)
     shop.add("GROUPSALES", "ID|SALESDATE|QUANTITY|VALUE",
              {"1|2026-11-25|3|0.1", "2|2026-11-25|0|0.2", "3|2026-11-25|-7|123456789012345"});
     const std::pair<const char*, const char*> values[] = {
-        {"{QUANTITY} + {VALUE} - 1", "2.1\n-0.8\n123456789012337"},
+        {"{QUANTITY} + {VALUE} - 1", "2.1\n-0.8\n123,456,789,012,337"},
         {"{ID} - ({QUANTITY} - 2) * 2", "-1\n6\n21"},
         {"-{QUANTITY} * 0.5", "-1.5\n0\n3.5"},
         {"1 / {QUANTITY}", "0.333\n\n-0.143"},
@@ -69,7 +80,7 @@ TEST_F(OwnLayout, ReckonsInDecimal)
         const std::string all = reckoned(value);
         EXPECT_EQ(all.substr(0, all.rfind("\n# ")), lines) << value;
     }
-    EXPECT_EQ(reckoned("{VALUE}", "0.00"), "0.10\n0.20\n123456789012345.00\n# 123456789012345.30");
+    EXPECT_EQ(reckoned("{VALUE}", "0.00"), "0.10\n0.20\n123,456,789,012,345.00\n# 123,456,789,012,345.30");
 }
 
 /// Totals of more digits than a number holds: what is cut off still tells a half from a little more.
@@ -81,8 +92,8 @@ TEST_F(OwnLayout, RoundsWithAllDigitsOfALongTotal)
     EXPECT_EQ(reckoned("12345678901234568 - total({VALUE})", "0"), "0\n0\n0\n0\n# 0");
     // Sums that a number does not hold keep their digits; what cannot be calculated from them says so.
     shop.add("GROUPSALES", "ID|SALESDATE|VALUE", {"5|2026-11-25|-2e20", "6|2026-11-25|1e50"});
-    EXPECT_EQ(reckoned("{VALUE}", "0.00"),
-              "0.13\n0.00\n12345678901234000.00\n567.40\n-200000000000000000000.00\ntoo long\n# too long");
+    EXPECT_EQ(reckoned("{VALUE}", "0.00"), "0.13\n0.00\n12,345,678,901,234,000.00\n567.40\n-200,000,000,000,"
+                                           "000,000,000.00\ntoo long\n# too long");
     EXPECT_EQ(reckoned("{VALUE} / 2 * {ID}", "0"),
               "0\n0\n18518518351851000\n1135\ntoo long\ntoo long\n# too long");
     shop.folder().write("chart.rpt",

@@ -53,10 +53,11 @@ QStringList shownCells(const ReportData& report, qsizetype line)
 
 ReportData trickyReport()
 {
-    ReportData report({textColumn(u"PLU"_s, 40),
-                       textColumn(u"Description"_s, 60),
-                       {u"Day"_s, paper::millimetres(25), Alignment::Left, ColumnKind::Date, 0, 0},
-                       numberColumn(u"Value"_s, 25, 2, 2)});
+    ReportData report(
+        {textColumn(u"PLU"_s, 40),
+         textColumn(u"Description"_s, 60),
+         {u"Day"_s, paper::millimetres(25), Alignment::Left, ColumnKind::Date, 0, 0},
+         {u"Value"_s, paper::millimetres(25), Alignment::Right, ColumnKind::Number, 2, 2, {true, u"£"_s}}});
     report.heading.title = u"Prices"_s;
     report.addLine(LineKind::Detail,
                    {u"123456789012345678"_s, u"=1+1"_s, QDate(2004, 2, 29), Decimal(5639549999999998, 12)});
@@ -121,6 +122,7 @@ TEST_F(ReportFiles, SpellCsvAsTheUsersSpreadsheetReadsIt)
 {
     QLocale::setDefault(QLocale(QLocale::German));
     writeCsv(trickyReport(), m_folder.path("a.csv"));
+    EXPECT_EQ(trickyReport().text(0, 3), u"£5.639,55"_s) << "on pages only";
     EXPECT_EQ(m_folder.read("a.csv").toStdString(), "\xEF\xBB\xBFPLU;Description;Day;Value\r\n"
                                                     "123456789012345678;\" =1+1\";2004-02-29;5639,55\r\n"
                                                     "2;\"5\"\" pipe; long,  \";;-0,01\r\n");

@@ -72,6 +72,13 @@ TEST(ReportPagesTest, PutsChartsBeneathTheLinesOrOnPagesOfTheirOwn)
     addGroup(report, u"Cakes"_s, 25);
     EXPECT_EQ(Paged(report).chartCounts(), (std::vector<std::size_t>{0, 2}));
     EXPECT_EQ(Paged(report, false).chartCounts(), (std::vector<std::size_t>{0}));
+    report.page.isLandscape = true;
+    const Paged wide(report);
+    ASSERT_EQ(wide.chartCounts(), (std::vector<std::size_t>{0, 2}));
+    const auto& charts = wide.pages.page(1).charts;
+    EXPECT_EQ(charts[0].place.top(), charts[1].place.top());
+    EXPECT_LT(charts[0].place.right(), charts[1].place.left());
+    EXPECT_NEAR(charts[1].place.right(), 283, 0.01);
 }
 
 /// PLU numbers of @p digits digits, names, and @p values columns of long numbers under two words.
@@ -80,6 +87,7 @@ ReportData wideReport(int digits, int values, bool mayTurn)
     std::vector<ReportColumn> columns = {textColumn(u"PLU"_s, 8), textColumn(u"Description"_s, 60)};
     for (int column = 0; column < values; ++column)
         columns.push_back(numberColumn(u"Quantityofmeals sold"_s, 8, 2, 2));
+    columns.back().dress = {true, u"£"_s};
     ReportData report(columns);
     report.page.mayTurn = mayTurn;
     std::vector<Cell> cells(columns.size(), Decimal(-123456789012, 2));

@@ -42,9 +42,9 @@ TEST_F(SalesReports, PluSalesStandByGroupWithNamesAndExactTotals)
     const auto data = run("plusales.rpt", u"{PLUSALES.SALESDATE} = date(2026,11,25)"_s);
     EXPECT_EQ(headingsOf(data), "PLU|Description|Quantity|Value|Promotion|Waste|Share %");
     EXPECT_EQ(linesOf(data), "> 1 DRINKS\n"
-                             "3|COLA|3|5639.65|1|2|99.8\n"
+                             "3|COLA|3|5,639.65|1|2|99.8\n"
                              "100|TEA|0.125|1.01|0|0|0.0\n"
-                             "= |Total 1 DRINKS|3.125|5640.66|1|2|99.8\n"
+                             "= |Total 1 DRINKS|3.125|5,640.66|1|2|99.8\n"
                              "> 9\n"
                              "8|LOST GROUP|1|3.00|0|0|0.1\n"
                              "= |Total 9|1|3.00|0|0|0.1\n"
@@ -53,8 +53,8 @@ TEST_F(SalesReports, PluSalesStandByGroupWithNamesAndExactTotals)
                              "7|LOOSE|1|2.00|0|0|0.0\n"
                              "999||1|4.00|0|0|0.1\n"
                              "= |Total No group|3|6.00|0|0|0.1\n"
-                             "# |Total|7.125|5649.66|1|2|100.0");
-    EXPECT_EQ(data.heading.subtitle, u"25/11/2026"_s);
+                             "# |Total|7.125|5,649.66|1|2|100.0");
+    EXPECT_EQ(data.heading.subtitle, u"Wednesday, 25/11/2026"_s);
     ASSERT_EQ(data.charts.size(), 2U);
     EXPECT_EQ(data.charts[0].points.front().label, u"COLA"_s);
     EXPECT_EQ(data.charts[0].points[1].label, u"999"_s);
@@ -152,12 +152,14 @@ TEST_F(SalesReports, ThePriceListShowsEuroPricesWhereAnyIsSet)
               "123456789012345678|LONG|FOOD|1.50|0.34");
     shop.add("PLUDATA", "PLUNUMBER|EuroPrice2", {"000000000000000001|2"});
     shop.add("smode", "DECIMALPlace", {"3"});
+    shop.add("GENERALPRINTOPTION", "ID|HOMESYMBOL", {"1|163"});
     const auto data = run("pluprice.rpt");
     EXPECT_EQ(
         headingsOf(data),
         "PLU|Description|Group|Price 1|Price 2|Price 3|Price 4|Price 5|Euro 1|Euro 2|Euro 3|Euro 4|Euro 5");
-    EXPECT_EQ(data.text(0, 9), u"2.000"_s);
-    EXPECT_EQ(data.text(6, 4), u"0.335"_s);
+    EXPECT_EQ(data.text(0, 9), u"£2.000"_s);
+    EXPECT_EQ(data.text(6, 4), u"£0.335"_s);
+    EXPECT_EQ(data.plainText(6, 4), u"0.335"_s);
 }
 
 const std::tuple<const char*, const char*, const char*> periods[] = {

@@ -77,7 +77,7 @@ const std::tuple<const char16_t*, QDate, const char16_t*> periods[] = {
     {u"in WeekToDateFromSun", {2027, 1, 1}, u"Week to date, 27/12/2026 to 01/01/2027"},
     {u"in YearToDate", {2028, 2, 29}, u"Year to date, 01/01/2028 to 29/02/2028"},
     {u"in monthtodate", {2028, 2, 29}, u"Month to date, 01/02/2028 to 29/02/2028"},
-    {u"= date(2028,2,29)", {2028, 3, 1}, u"29/02/2028"},
+    {u"= date(2028,2,29)", {2028, 3, 1}, u"Tuesday, 29/02/2028"},
     {u"> date(2026,1,31)", {2026, 11, 25}, u"From 01/02/2026"},
 };
 
