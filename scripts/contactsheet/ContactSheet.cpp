@@ -55,7 +55,7 @@ QImage pictureOf(windows::FilledShop& shop, const shell::MenuEntry& entry)
 {
     QWidget& screen = shop.openScreen(entry);
     QImage image = picture(screen);
-    windows::FilledShop::press(screen, "ExitForm");
+    test::press(screen, "ExitForm");
     return image;
 }
 

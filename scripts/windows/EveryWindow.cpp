@@ -201,7 +201,7 @@ void lookAtScreen(FilledShop& shop, const shell::MenuEntry& entry, const QString
         QApplication::processEvents();
         look(name + u"-list"_s, *screen.parentWidget());
     }
-    FilledShop::press(screen, "ExitForm");
+    test::press(screen, "ExitForm");
     deleteClosed();
 }
 

@@ -3,21 +3,101 @@
 
 #include "tests/architecture/BuildMap.h"
 
+#include <QDirIterator>
+#include <QRegularExpression>
+
 namespace norvane::test
 {
 
+// Tests, benchmarks, fuzz targets and scripts drive whatever they need.
+inline bool ofProduct(const Target& target)
+{
+    static const QStringList beside = {u""_s, u"tests"_s, u"bench"_s, u"fuzz"_s, u"scripts"_s};
+    return !beside.contains(target.folder);
+}
+
+/// For each folder of the product, those that its targets reach.
+inline QHash<QString, QSet<QString>> foldersBelow(const BuildMap& map)
+{
+    QHash<QString, QSet<QString>> below;
+    for (const Target& target : map.targets()) {
+        if (ofProduct(target))
+            below[target.folder] += map.reachedFolders(target.name);
+    }
+    return below;
+}
+
+/// The headers of our own that a source names with their folder.
+inline QStringList includesOf(const QString& path)
+{
+    static const QRegularExpression include(uR"(^\s*#\s*include\s*"(\w+/[^"]+))"_s,
+                                            QRegularExpression::MultilineOption);
+    QFile source(path);
+    QStringList headers;
+    if (source.open(QIODevice::ReadOnly)) {
+        for (const auto& match : include.globalMatch(QString::fromUtf8(source.readAll())))
+            headers << match.captured(1);
+    }
+    return headers;
+}
+
 /** @brief Includes of a folder that no target of the including folder reaches, as "base/Value.cpp includes
  * top/Plan.h". Tests, benchmarks and scripts drive whatever they need and are not looked at. */
-[[nodiscard]] QStringList undeclaredIncludes(const BuildMap& map, const QString& root);
+inline QStringList undeclaredIncludes(const BuildMap& map, const QString& root)
+{
+    QStringList wrong;
+    const auto below = foldersBelow(map);
+    for (auto folder = below.cbegin(); folder != below.cend(); ++folder) {
+        QDirIterator walk(root + u'/' + folder.key(), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
+                          QDirIterator::Subdirectories);
+        while (walk.hasNext()) {
+            const QString file = walk.next();
+            for (const QString& header : includesOf(file)) {
+                if (!folder->contains(header.section(u'/', 0, 0)))
+                    wrong << file.mid(root.size() + 1) + " includes "_L1 + header;
+            }
+        }
+    }
+    return wrong;
+}
 
 /** @brief Libraries with widgets that are neither in ui/ nor named ..._forms; empty when all is well. */
-[[nodiscard]] QStringList misplacedWidgets(const BuildMap& map);
+inline QStringList misplacedWidgets(const BuildMap& map)
+{
+    QStringList wrong;
+    for (const Target& target : map.targets()) {
+        const bool mayShow = !target.library || target.folder == "ui"_L1 || target.name.endsWith("_forms"_L1);
+        if (ofProduct(target) && !mayShow && map.reach(target.name).contains(u"Qt6::Widgets"_s))
+            wrong << target.name;
+    }
+    return wrong;
+}
 
 /** @brief Pairs of folders whose libraries reach each other, as "exchange and sales reach each other". */
-[[nodiscard]] QStringList folderCycles(const BuildMap& map);
+inline QStringList folderCycles(const BuildMap& map)
+{
+    QStringList wrong;
+    const auto below = foldersBelow(map);
+    for (auto one = below.cbegin(); one != below.cend(); ++one) {
+        for (const QString& other : one.value()) {
+            if (one.key() < other && below.value(other).contains(one.key()))
+                wrong << u"%1 and %2 reach each other"_s.arg(one.key(), other);
+        }
+    }
+    return wrong;
+}
 
 /** @brief Targets in tools/ that link something of the product, for what the product writes wrongly must
  * show. */
-[[nodiscard]] QStringList partialTools(const BuildMap& map);
+inline QStringList partialTools(const BuildMap& map)
+{
+    QStringList wrong;
+    for (const Target& target : map.targets()) {
+        const auto others = map.reachedFolders(target.name) - QSet<QString>{QString(), u"tools"_s};
+        if (target.folder == "tools"_L1 && !others.isEmpty())
+            wrong << target.name;
+    }
+    return wrong;
+}
 
 } // namespace norvane::test

@@ -9,13 +9,10 @@
 #include "store/Recordset.h"
 #include "tests/data/FieldRules.h"
 #include "tests/platform/TestFolder.h"
-#include "tests/support/RecordingBoxes.h"
+#include "tests/support/FormTest.h"
 #include "ui/Appearance.h"
 #include "ui/TextBox.h"
 #include "ui/ValueList.h"
-
-#include <QTest>
-#include <QtWidgets>
 
 #include <algorithm>
 
@@ -24,9 +21,7 @@ namespace norvane::screens
 namespace
 {
 
-using store::FieldDefinition;
-using store::FieldType;
-using store::TableDefinition;
+using store::FieldDefinition, store::FieldType, store::TableDefinition;
 
 /// Pixels between a text and the edges of its box.
 constexpr int boxMargins = 8;
@@ -306,17 +301,23 @@ const struct {
                    {u"gstchk.scn"_s, "3", "TextControl_1", long50, long50.left(32)},
                    {u"employee.scn"_s, "3", "TextControl_2", u"0a-G 2D"_s, u"0a2D"_s}};
 
+/// The form of a screen file for a customer with registers of that model.
+std::unique_ptr<OptionForm> formOf(const QString& file, const QByteArray& model)
+{
+    static const test::TestFolder customer;
+    static ApplicationValues values;
+    static test::RecordingBoxes boxes;
+    customer.write("setup.ini", "[SetupOption]\r\nECRModel=" + model + "\r\n");
+    values.customerPath = customer.path();
+    values.databasePath = filledDatabase();
+    return std::make_unique<OptionForm>(QStringLiteral(SCREEN_FILES "/") + file, values, boxes);
+}
+
 TEST(InstalledScreens, TakeWhatTheRegistersOfTheModelHold)
 {
     for (const auto& [file, model, name, typed, kept] : modelLimits) {
-        const test::TestFolder customer;
-        customer.write("setup.ini", "[SetupOption]\r\nECRModel=" + model + "\r\n");
-        ApplicationValues values;
-        values.customerPath = customer.path();
-        values.databasePath = filledDatabase();
-        test::RecordingBoxes boxes;
-        const OptionForm form(QStringLiteral(SCREEN_FILES "/") + file, values, boxes);
-        auto* const box = form.findChild<ui::TextBox*>(QLatin1String(name));
+        const auto form = formOf(file, model);
+        auto* const box = form->findChild<ui::TextBox*>(QLatin1String(name));
         ASSERT_NE(box, nullptr) << qPrintable(file);
         QTest::keyClicks(box, typed);
         EXPECT_EQ(box->text(), kept) << qPrintable(file) << ", model " << model.data();
@@ -326,19 +327,12 @@ TEST(InstalledScreens, TakeWhatTheRegistersOfTheModelHold)
 TEST(InstalledScreens, OfferCardOptionsToModelsWithCards)
 {
     for (const QByteArray model : {"0", "1", "2"}) {
-        const test::TestFolder customer;
-        customer.write("setup.ini", "[SetupOption]\r\nECRModel=" + model + "\r\n");
-        ApplicationValues values;
-        values.customerPath = customer.path();
-        values.databasePath = filledDatabase();
-        test::RecordingBoxes boxes;
-        const OptionForm form(QStringLiteral(SCREEN_FILES "/EJPRT.scn"), values, boxes);
-        QStringList enabled;
-        for (const auto* const box : form.findChildren<QCheckBox*>()) {
-            if (box->text() == u"Payment by points" && box->isEnabled())
-                enabled << box->text();
-        }
-        EXPECT_EQ(enabled.size(), model == "0" ? 0 : 1) << model.data();
+        const auto form = formOf(u"EJPRT.scn"_s, model);
+        const auto boxes = form->findChildren<QCheckBox*>();
+        const auto enabled = std::ranges::count_if(boxes, [](const QCheckBox* box) {
+            return box->text() == u"Payment by points" && box->isEnabled();
+        });
+        EXPECT_EQ(enabled, model == "0" ? 0 : 1) << model.data();
     }
 }
 

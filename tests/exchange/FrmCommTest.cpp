@@ -10,9 +10,6 @@
 #include "tests/support/AskedFirst.h"
 #include "tests/support/LinkFormTest.h"
 
-#include <QCheckBox>
-#include <QLabel>
-
 namespace norvane::exchange
 {
 namespace

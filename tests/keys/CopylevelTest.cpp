@@ -4,29 +4,19 @@
 #include "customers/SafetyCopies.h"
 #include "keys/LevelCopy.h"
 #include "tests/keys/KeyShop.h"
-#include "tests/support/RecordingBoxes.h"
-
-#include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QTest>
+#include "tests/support/FormTest.h"
 
 namespace norvane::keys
 {
 namespace
 {
 
-using namespace Qt::Literals::StringLiterals;
-
-void press(QDialog& form, const char* button)
-{
-    QTest::mouseClick(form.findChild<QPushButton*>(QLatin1StringView(button)), Qt::LeftButton);
-}
+using norvane::test::press;
 
 /// Chooses by the arrow keys, as often as the level is far from the list's top.
 void choose(QDialog& form, const char* list, int level)
 {
-    auto& box = *form.findChild<QComboBox*>(QLatin1StringView(list));
+    auto& box = norvane::test::child<QComboBox>(form, list);
     EXPECT_EQ(box.currentIndex(), -1) << list;
     for (int step = 0; step < level; ++step)
         QTest::keyClick(&box, Qt::Key_Down);

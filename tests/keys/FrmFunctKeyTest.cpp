@@ -3,11 +3,6 @@
 
 #include "tests/keys/KeyShop.h"
 #include "tests/support/FormTest.h"
-#include "tests/support/RecordingBoxes.h"
-
-#include <QSignalSpy>
-#include <QTest>
-#include <QtWidgets>
 
 namespace norvane::keys::test
 {
@@ -36,9 +31,9 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(&*m_form));
     }
     template <typename Control>
-    Control& control(const QString& name)
+    Control& control(QAnyStringView name)
     {
-        return *m_form->findChild<Control*>(name);
+        return norvane::test::child<Control>(*m_form, name);
     }
     QCheckBox& check(int index) { return control<QCheckBox>(u"Check1_%1"_s.arg(index)); }
     QComboBox& list() { return control<QComboBox>(u"selectkey"_s); }
@@ -49,10 +44,7 @@ protected:
         QTest::keyClicks(&box, QLatin1String(text));
         QTest::keyClick(&box, last);
     }
-    void enter(const char* box, const char* text)
-    {
-        type(control<QLineEdit>(QLatin1String(box)), text, Qt::Key_Tab);
-    }
+    void enter(const char* box, const char* text) { type(control<QLineEdit>(box), text, Qt::Key_Tab); }
     void select(const char* typed) { type(*list().lineEdit(), typed, Qt::Key_Return); }
     /// By the letter of the button. @return what the status bar is told.
     QString save()
@@ -64,13 +56,9 @@ protected:
     }
     std::string row(int id) const
     {
-        const auto database = m_shop.open();
-        const auto rows = database->openQuery(
-            u"select description, halo, flag1, flag2, flag3, flag4 from FUNCTIONKEY where id = %1"_s.arg(id));
-        QStringList fields;
-        for (int field = 0; field < rows.fieldCount(); ++field)
-            fields += rows.value(field).toText();
-        return fields.join(u' ').toStdString();
+        const QString fields = u"description, halo, flag1, flag2, flag3, flag4"_s;
+        return norvane::test::rowsOf(m_shop.folder.path("velmar.mdb"),
+                                     u"select %1 from FUNCTIONKEY where id = %2"_s.arg(fields).arg(id));
     }
     /// Numbers and boxes that the user sees, ticked ones with an asterisk.
     std::string shown()
@@ -110,7 +98,7 @@ TEST_F(FrmFunctKeyTest, AKeyIsFoundByItsNumberOrAnyPartOfItsText)
     }
     QTest::keyClick(list().lineEdit(), Qt::Key_Up);
     EXPECT_EQ(shown(), "Allow In X Mode Only|Print Card Details") << "key 265";
-    EXPECT_EQ(row(5), "KEY 262     ") << "showing stores nothing";
+    EXPECT_EQ(row(5), "KEY 262|null|null|null|null|null") << "showing stores nothing";
 }
 
 /// What is typed then takes the place of the key shown.
@@ -139,14 +127,14 @@ const struct {
     std::vector<int> ticks;
     const char* saved;
 } kindsOfKeys[] = {
-    {"1", "", {{"description", "GO"}}, {}, "GO 0 0 0 0 0"},
-    {"16", "Halo=0.00|Allow In X Only|Compulsory Validation|Print Receipt", {{"Halo", "12,5"}}, {0, 2}, "KEY 251 1250 50 0 0 0"},
-    {"23", "Print Check On Printer# (0-40)=0", {{"otherno", "7"}}, {}, "KEY 244 1250 0 0 7 0"},
+    {"1", "", {{"description", "GO"}}, {}, "GO|0|0|0|0|0"},
+    {"16", "Halo=0.00|Allow In X Only|Compulsory Validation|Print Receipt", {{"Halo", "12,5"}}, {0, 2}, "KEY 251|1250|50|0|0|0"},
+    {"23", "Print Check On Printer# (0-40)=0", {{"otherno", "7"}}, {}, "KEY 244|1250|0|0|7|0"},
     {"27", "Rate=0|Linked Drawer (0-3)=0|Curr Dec Places=0|Change In Foreign Currency",
-     {{"Halo", "99999999"}, {"otherno", "3"}, {"otherno2", "2"}}, {0}, "KEY 240 99999999 40 3 2 0"},
-    {"31", "", {{"description", "NO RATE"}}, {}, "NO RATE  0 0 0 0"},
-    {"157", nullptr, {{"Halo", "1.234"}}, {6, 19}, "KEY 110 1234 0 40 0 20"},
-    {"264", "Money Gain For Each Point=0|Allow In X Mode Only|Print Card Details", {{"Halo", "12.34"}}, {0}, "KEY 3 1234 40 12.34 0 0"},
+     {{"Halo", "99999999"}, {"otherno", "3"}, {"otherno2", "2"}}, {0}, "KEY 240|99999999|40|3|2|0"},
+    {"31", "", {{"description", "NO RATE"}}, {}, "NO RATE|null|0|0|0|0"},
+    {"157", nullptr, {{"Halo", "1.234"}}, {6, 19}, "KEY 110|1234|0|40|0|20"},
+    {"264", "Money Gain For Each Point=0|Allow In X Mode Only|Print Card Details", {{"Halo", "12.34"}}, {0}, "KEY 3|1234|40|12.34|0|0"},
 };
 // clang-format on
 
@@ -183,7 +171,7 @@ TEST_F(FrmFunctKeyTest, HaloKeepsItsValueAndItsDigitsFromKeyToKey)
     }
     select("1");
     save();
-    EXPECT_EQ(row(1), "KEY 266 125 0 0 0 0");
+    EXPECT_EQ(row(1), "KEY 266|125|0|0|0|0");
 }
 
 TEST_F(FrmFunctKeyTest, OnlySaveStoresAndTheListKeepsItsTexts)
@@ -193,15 +181,15 @@ TEST_F(FrmFunctKeyTest, OnlySaveStoresAndTheListKeepsItsTexts)
     select("13");
     enter("description", "NEW");
     save();
-    EXPECT_EQ(row(13), "NEW 0 0 0 0 0");
+    EXPECT_EQ(row(13), "NEW|0|0|0|0|0");
     EXPECT_TRUE(list().currentText().endsWith(u"KEY 254"));
     select("16");
     enter("Halo", "1000000");
     EXPECT_EQ(m_boxes.shown, (std::vector{norvane::test::ShownBox{u"Maximum Value Exceeded"_s,
                                                                   u"Input Error"_s, BoxIcon::Exclamation}}));
-    QTest::mouseClick(&control<QPushButton>(u"ExitForm"_s), Qt::LeftButton);
+    norvane::test::press(*m_form, "ExitForm");
     EXPECT_FALSE(m_form->isVisible());
-    EXPECT_EQ(row(16), "KEY 251     ");
+    EXPECT_EQ(row(16), "KEY 251|null|null|null|null|null");
     open();
     EXPECT_TRUE(list().itemText(12).endsWith(u"NEW"));
 }
@@ -225,7 +213,7 @@ TEST_F(FrmFunctKeyTest, EscapeAndTheCloseButtonAskAboutChanges)
         m_boxes.shown.back().text.startsWith(u"Function key 16 of table FunctionKey was not saved."_s));
     m_boxes.answers = {true};
     EXPECT_TRUE(m_form->close());
-    EXPECT_EQ(row(16), "KEY 251 0 40 0 0 0");
+    EXPECT_EQ(row(16), "KEY 251|0|40|0|0|0");
     m_form->show();
     QTest::keyClick(&*m_form, Qt::Key_Escape);
     EXPECT_FALSE(m_form->isVisible()) << "nothing has changed since";

@@ -2,17 +2,12 @@
 #include "keys/frmwlu.h"
 
 #include "tests/keys/KeyShop.h"
-#include "tests/support/RecordingBoxes.h"
-
-#include <QTest>
-#include <QtWidgets>
+#include "tests/support/FormTest.h"
 
 namespace norvane::keys
 {
 namespace
 {
-
-using namespace Qt::Literals::StringLiterals;
 
 class FrmwluTest : public testing::Test
 {
@@ -40,9 +35,9 @@ protected:
     template <typename Control>
     Control& control(const char* name)
     {
-        return *m_form->findChild<Control*>(QLatin1StringView(name));
+        return norvane::test::child<Control>(*m_form, name);
     }
-    void press(const char* button) { QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton); }
+    void press(const char* button) { norvane::test::press(*m_form, button); }
     /// Clicks entry @p row of a list, or of the grid.
     void click(const char* list, int row)
     {

@@ -4,28 +4,15 @@
 #include "keys/KeyGrid.h"
 #include "tests/keys/KeyShop.h"
 #include "tests/support/FormTest.h"
-#include "tests/support/RecordingBoxes.h"
 #include "ui/ValueList.h"
-
-#include <QTest>
-#include <QtWidgets>
 
 namespace norvane::keys
 {
 namespace
 {
 
-using namespace Qt::Literals::StringLiterals;
-
 const norvane::test::ShownBox saveChanges{u"Save Changes?"_s, u"Save Details."_s, BoxIcon::Question,
                                           BoxAnswer::Yes};
-
-class HeardBoxes : public norvane::test::RecordingBoxes
-{
-public:
-    int beeps = 0;
-    void beep() override { ++beeps; }
-};
 
 class KeyLayoutTest : public testing::Test
 {
@@ -46,10 +33,10 @@ protected:
     template <typename Control>
     Control& control(const char* name) const
     {
-        return *form->findChild<Control*>(QLatin1String(name));
+        return norvane::test::child<Control>(*form, name);
     }
     [[nodiscard]] KeyGrid& grid() const { return control<KeyGrid>("Grid1"); }
-    void press(const char* button) const { QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton); }
+    void press(const char* button) const { norvane::test::press(*form, button); }
     static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
@@ -125,7 +112,7 @@ protected:
 
     const KeyGeometry& keyboard = dorvikKeyboard();
     test::KeyShop shop{"3"};
-    HeardBoxes boxes;
+    norvane::test::RecordingBoxes boxes;
     std::unique_ptr<KeyLayout> form;
 };
 

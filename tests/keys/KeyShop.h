@@ -10,21 +10,8 @@
 namespace norvane::keys::test
 {
 
-using norvane::test::addRecord;
-using norvane::test::failureOf;
-using norvane::test::failureTextOf;
-
-using norvane::test::FieldValue;
-
-inline store::Value text(const char* value)
-{
-    return store::Value::text(std::string(value));
-}
-
-inline store::Value whole(int value)
-{
-    return store::Value::whole(value);
-}
+using norvane::test::addRecord, norvane::test::failureOf, norvane::test::failureTextOf,
+    norvane::test::FieldValue, norvane::test::text, norvane::test::whole;
 
 class KeyShop
 {

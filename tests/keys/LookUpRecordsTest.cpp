@@ -11,10 +11,7 @@ namespace
 {
 
 using namespace Qt::Literals::StringLiterals;
-using test::failureOf;
-using test::failureTextOf;
-using test::text;
-using test::whole;
+using test::failureOf, test::failureTextOf, test::text, test::whole;
 
 class LookUpRecordsTest : public testing::Test
 {

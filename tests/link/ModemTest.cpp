@@ -14,8 +14,7 @@ namespace norvane::link
 namespace
 {
 
-using test::PseudoModem;
-using test::QuickClock;
+using test::PseudoModem, test::QuickClock;
 
 class ModemTest : public testing::Test
 {

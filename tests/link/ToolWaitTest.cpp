@@ -2,10 +2,7 @@
 #include "link/ToolWait.h"
 
 #include "tests/platform/TestFolder.h"
-#include "tests/support/RecordingBoxes.h"
-
-#include <QTest>
-#include <QtWidgets>
+#include "tests/support/FormTest.h"
 
 using namespace std::chrono_literals;
 

@@ -2,9 +2,7 @@
 #include "overlay/KeyboardView.h"
 
 #include "overlay/DocumentEditor.h"
-
-#include <gtest/gtest.h>
-#include <QLineEdit>
+#include "tests/support/FormTest.h"
 
 namespace norvane::overlay
 {

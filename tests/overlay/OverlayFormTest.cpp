@@ -5,19 +5,14 @@
 #include "tests/overlay/RecordingDialogs.h"
 #include "tests/store/StoreFolder.h"
 #include "tests/support/FormTest.h"
-#include "tests/support/RecordingBoxes.h"
 
-#include <gtest/gtest.h>
 #include <QPrinter>
-#include <QTest>
-#include <QtWidgets>
 
 namespace norvane::overlay
 {
 namespace
 {
 
-using namespace Qt::Literals::StringLiterals;
 using test::ShownBox;
 
 const ShownBox startPrinting{u"Start Printing? [OK|Cancel]"_s, u"Print Option"_s, BoxIcon::Question};

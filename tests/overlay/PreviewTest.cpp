@@ -4,12 +4,6 @@
 #include "overlay/SheetView.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/support/FormTest.h"
-#include "tests/support/RecordingBoxes.h"
-
-#include <QTest>
-#include <QtWidgets>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::test
 {
@@ -36,23 +30,15 @@ protected:
         m_preview->show();
         return *m_preview;
     }
-    template <typename Control>
-    static Control& control(const QWidget& form, const QString& name)
-    {
-        auto* const found = form.findChild<Control*>(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return *found;
-    }
     [[nodiscard]] std::string notice() const
     {
-        const auto& label = control<QLabel>(*m_preview, u"Notice"_s);
+        const auto& label = child<QLabel>(*m_preview, "Notice");
         return label.isVisible() ? label.text().toStdString() : "";
     }
-    void press(const QString& button) const { control<QPushButton>(*m_preview, button).click(); }
     /// The colour that the preview shows at a place of the paper.
     [[nodiscard]] QColor at(double x, double y) const
     {
-        const auto& view = control<SheetView>(*m_preview, u"SheetView"_s);
+        const auto& view = child<SheetView>(*m_preview, "SheetView");
         return view.viewport()->grab().toImage().pixelColor(view.toViewport({x, y}).toPoint());
     }
 
@@ -72,7 +58,7 @@ TEST_F(Preview, MarksTheKeysThatAPrinterCannotReachAndMovesTheSheet)
     document.cell(40).background = {255};
     document.cell(0).text = u"TEA"_s;
     open(document, office);
-    auto& sheet = *QAccessible::queryAccessibleInterface(&control<SheetView>(*m_preview, u"SheetView"_s));
+    auto& sheet = *QAccessible::queryAccessibleInterface(&child<SheetView>(*m_preview, "SheetView"));
     EXPECT_EQ(sheet.child(0)->text(QAccessible::Name), u"TEA"_s);
     EXPECT_EQ(sheet.child(0)->text(QAccessible::Description),
               u"Column 1, key 1, leaves the printable area"_s);
@@ -81,7 +67,7 @@ TEST_F(Preview, MarksTheKeysThatAPrinterCannotReachAndMovesTheSheet)
         "13 keys leave the printable area of the printer Office (dashed line) and will not print whole.");
     EXPECT_LT(at(8 + 18 + 8, 3 + 7).blue(), 40) << "the middle line of the second column's first key";
     EXPECT_NE(at(8 + 8, 3 + 13), QColor(Qt::white)) << "a mark over the white of the first key";
-    press(u"MoveButton"_s);
+    press(*m_preview, "MoveButton");
     EXPECT_EQ(notice(), "");
     EXPECT_EQ(sheet.child(0)->text(QAccessible::Description), u"Column 1, key 1"_s);
     EXPECT_EQ(m_corrections.of(u"Office"_s).down.offset, millimetres(2));
@@ -102,9 +88,9 @@ TEST_F(Preview, TellsWhatWillNotPrint)
         "area of the printer Office (dashed line) and will not print whole.\n"
         "1 text is wider than the key and will be cut, as shown. The first is \"A text that is wider than "
         "a key\".");
-    EXPECT_FALSE(control<QPushButton>(*m_preview, u"MoveButton"_s).isVisible()) << "no move helps";
+    EXPECT_FALSE(child<QPushButton>(*m_preview, "MoveButton").isVisible()) << "no move helps";
     open(Document(Keyboard::Dorvik), {});
-    EXPECT_FALSE(control<QPushButton>(*m_preview, u"CorrectionButton"_s).isEnabled()) << "a PDF needs none";
+    EXPECT_FALSE(child<QPushButton>(*m_preview, "CorrectionButton").isEnabled()) << "a PDF needs none";
 }
 
 TEST_F(Preview, WorksOutACorrectionFromTheMeasuredTestPage)
@@ -114,18 +100,18 @@ TEST_F(Preview, WorksOutACorrectionFromTheMeasuredTestPage)
     QTimer::singleShot(0, [this] {
         const auto& form = *m_preview->findChild<CorrectionForm*>();
         const auto set = [&form](const char* box, double value) {
-            control<QDoubleSpinBox>(form, QString::fromLatin1(box)).setValue(value);
+            child<QDoubleSpinBox>(form, box).setValue(value);
         };
-        control<QPushButton>(form, u"TestPageButton"_s).click();
+        child<QPushButton>(form, "TestPageButton").click();
         set("MeasuredAcross", 99);
         set("MeasuredLeft", 52);
-        control<QPushButton>(form, u"TakeOverButton"_s).click();
-        control<QPushButton>(form, u"TakeOverButton"_s).click(); // takes nothing over twice
+        child<QPushButton>(form, "TakeOverButton").click();
+        child<QPushButton>(form, "TakeOverButton").click(); // takes nothing over twice
         set("OffsetDown", -0.5);
-        control<QPushButton>(form, u"TestPageButton"_s).click();
-        control<QPushButton>(form, u"OkButton"_s).click();
+        child<QPushButton>(form, "TestPageButton").click();
+        child<QPushButton>(form, "OkButton").click();
     });
-    press(u"CorrectionButton"_s);
+    press(*m_preview, "CorrectionButton");
     const paper::PrinterCorrection kept = m_corrections.of(u"Office"_s);
     EXPECT_NEAR(kept.across.offset.inMillimetres(), 0.99 * 51 - 52, 0.006);
     EXPECT_NEAR(kept.across.stretch, 1 / 0.99, 0.0001);
@@ -140,7 +126,7 @@ TEST_F(Preview, WorksOutACorrectionFromTheMeasuredTestPage)
 TEST_F(Preview, ZoomsAroundThePointer)
 {
     open(m_document, office);
-    auto& view = control<SheetView>(*m_preview, u"SheetView"_s);
+    auto& view = child<SheetView>(*m_preview, "SheetView");
     const double whole = view.pixelsPerMillimetre();
     const QPointF pointer = view.toViewport({100, 60});
     QWheelEvent turn(pointer, view.viewport()->mapToGlobal(pointer), {}, {0, 480}, Qt::NoButton,
@@ -149,7 +135,7 @@ TEST_F(Preview, ZoomsAroundThePointer)
     EXPECT_NEAR(view.pixelsPerMillimetre(), whole * 2.44, 0.1);
     const QPointF way = view.toViewport({100, 60}) - pointer;
     EXPECT_LT(way.manhattanLength(), 3);
-    EXPECT_EQ(control<QComboBox>(*m_preview, u"Zoom"_s).currentIndex(), -1);
+    EXPECT_EQ(child<QComboBox>(*m_preview, "Zoom").currentIndex(), -1);
     QTest::keyClick(&view, Qt::Key_Minus);
     EXPECT_NEAR(view.pixelsPerMillimetre(), whole * 1.95, 0.1);
 }

@@ -111,7 +111,7 @@ public:
     /// The colour at a dot, each part full or empty.
     [[nodiscard]] QRgb at(double x, double y) const
     {
-        const QRgb dot = m_image.pixel(static_cast<int>(x * 10), static_cast<int>(y * 10));
+        const QRgb dot = dotAt(x, y);
         const auto full = [](int part) {
             return part < 0x80 ? 0 : 0xff;
         };
@@ -140,7 +140,8 @@ public:
     {
         double width = 0;
         for (int step = -6; step < 6; ++step) {
-            const auto [least, most] = partsAt(x + step * stepX, y + step * stepY);
+            const QRgb dot = dotAt(x + step * stepX, y + step * stepY);
+            const auto [least, most] = std::minmax({qRed(dot), qGreen(dot), qBlue(dot)});
             width += least > 0x60 && most < 0xe0 ? 0.1 : 0;
         }
         return width;
@@ -159,10 +160,9 @@ public:
     }
 
 private:
-    [[nodiscard]] std::pair<int, int> partsAt(double x, double y) const
+    [[nodiscard]] QRgb dotAt(double x, double y) const
     {
-        const QRgb dot = m_image.pixel(static_cast<int>(x * 10), static_cast<int>(y * 10));
-        return std::minmax({qRed(dot), qGreen(dot), qBlue(dot)});
+        return m_image.pixel(static_cast<int>(x * 10), static_cast<int>(y * 10));
     }
 
     QImage m_image;

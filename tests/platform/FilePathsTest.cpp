@@ -13,8 +13,7 @@ namespace norvane
 namespace
 {
 
-using test::failureOf;
-using test::TestFolder;
+using test::failureOf, test::TestFolder;
 
 TEST(FilePaths, NamesMeetWithoutRegardToCaseInEveryPart)
 {

@@ -8,13 +8,6 @@ namespace norvane
 namespace
 {
 
-std::string utf8FromRegister(std::string_view bytes)
-{
-    std::string out;
-    appendUtf8FromWindows1252(out, bytes);
-    return out;
-}
-
 std::string registerFromUtf8(std::string_view utf8)
 {
     std::string out;
@@ -29,7 +22,8 @@ TEST(Windows1252, EveryByteIsTheCharacterOfTheCodePageAndComesBackByBothRoads)
         const QString text = fromWindows1252(byte);
         EXPECT_EQ(toWindows1252(text), byte) << i;
         EXPECT_TRUE(fitsWindows1252(text)) << i;
-        const std::string utf8 = utf8FromRegister({byte.data(), 1});
+        std::string utf8;
+        appendUtf8FromWindows1252(utf8, {byte.data(), 1});
         EXPECT_EQ(utf8, text.toStdString()) << i;
         EXPECT_EQ(registerFromUtf8(utf8), byte.toStdString()) << i;
     }

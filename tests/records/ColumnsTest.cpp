@@ -12,9 +12,7 @@ namespace
 {
 
 using namespace Qt::Literals::StringLiterals;
-using store::Value;
-using test::emptyRecord;
-using test::Shop;
+using store::Value, test::emptyRecord, test::Shop;
 
 TEST(ColumnsTest, AreAsWideAsTheRegisterReadsThem)
 {

@@ -10,15 +10,8 @@ namespace norvane::records
 namespace
 {
 
-using store::Value;
-using test::FieldValue;
-using test::Shop;
-using test::text;
+using norvane::test::whole, store::Value, test::FieldValue, test::Shop, test::text;
 
-Value whole(int number)
-{
-    return Value::whole(number);
-}
 Value yes()
 {
     return Value::yesNo(true);

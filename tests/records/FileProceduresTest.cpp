@@ -14,13 +14,8 @@ namespace norvane::records
 namespace
 {
 
-using norvane::test::expectAskedFirst;
-using norvane::test::failureOf;
-using norvane::test::failureTextOf;
-using store::Value;
-using test::plu;
-using test::Shop;
-using test::text;
+using norvane::test::expectAskedFirst, norvane::test::failureOf, norvane::test::failureTextOf, store::Value,
+    test::plu, test::Shop, test::text;
 
 TEST(FileProceduresTest, WritesOverTheFileOfAnotherSpellingInTheOrderOfTheIndex)
 {

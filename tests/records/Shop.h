@@ -12,7 +12,7 @@
 namespace norvane::records::test
 {
 
-using norvane::test::FieldValue;
+using norvane::test::FieldValue, norvane::test::text;
 
 class Shop
 {
@@ -85,11 +85,6 @@ public:
 inline QByteArray plu(int number)
 {
     return QByteArray::number(number).rightJustified(18, '0');
-}
-
-inline store::Value text(const char* value)
-{
-    return store::Value::text(std::string(value));
 }
 
 /// The fields without which a record of the file cannot be stored.

@@ -5,11 +5,8 @@
 #include "tests/reports/SampleReport.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/OtherPrograms.h"
-#include "tests/support/RecordingBoxes.h"
 
 #include <QPrinter>
-#include <QtTest>
-#include <QtWidgets>
 
 namespace norvane::test
 {

@@ -1,16 +1,13 @@
 // A report run from a form: where it goes, and what happens when it cannot.
 #include "reports/Report.h"
 
-#include "platform/RuntimeFailure.h"
 #include "reports/PreviewWindow.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/reports/SampleReport.h"
+#include "tests/support/FormTest.h"
 #include "tests/support/OtherPrograms.h"
-#include "tests/support/RecordingBoxes.h"
 
 #include <QPrinter>
-#include <QtTest>
-#include <QtWidgets>
 
 namespace norvane::test
 {

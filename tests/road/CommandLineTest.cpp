@@ -3,19 +3,13 @@
 #include "platform/FolderLock.h"
 #include "tests/road/RunCommand.h"
 #include "tests/road/Shop.h"
-#include "tests/store/Rows.h"
-#include "tests/support/FormTest.h"
-
-#include <QDirIterator>
-#include <QProcess>
 
 namespace norvane
 {
 namespace
 {
 
-using test::Ended;
-using test::Shop;
+using test::Ended, test::Shop;
 
 class CommandLine : public testing::TestWithParam<int>
 {
@@ -83,7 +77,7 @@ protected:
     {
         QWidget& form = m_shop.openForm("CollectSales");
         ring();
-        Shop::press(form, "Communicate");
+        test::press(form, "Communicate");
         ring();
         expectDone({u"collect"_s, otherShop});
     }

@@ -3,13 +3,6 @@
 #include "keys/KeyGeometry.h"
 #include "platform/FilePaths.h"
 #include "tests/road/Shop.h"
-#include "tests/store/Rows.h"
-#include "tests/support/FormTest.h"
-
-#include <QTest>
-#include <QtWidgets>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace norvane
 {
@@ -26,12 +19,6 @@ constexpr int numberFile = 17;
 constexpr int lookUpFile = 57;
 /// The register's room for a look-up that is not used yet.
 constexpr int emptyLookUp = 15;
-
-template <typename Control>
-Control& control(const QDialog& form, const QString& name)
-{
-    return *form.findChild<Control*>(name);
-}
 
 /// What is set in the editor of the function keys, and what it shows then: numbers, then the boxes ticked.
 struct KeyOptions {
@@ -71,11 +58,11 @@ protected:
     void moveKey(keys::KeyCell from, keys::KeyCell to)
     {
         m_shop.choose("KeyboardLocation", [&](const QDialog& form) {
-            auto& grid = control<QTableView>(form, u"Grid1"_s);
+            auto& grid = test::child<QTableView>(form, "Grid1");
             grid.setCurrentIndex(grid.model()->index(from.row, from.column));
-            control<QAction>(form, u"Cut"_s).trigger();
+            test::child<QAction>(form, "Cut").trigger();
             grid.setCurrentIndex(grid.model()->index(to.row, to.column));
-            control<QAction>(form, u"Paste"_s).trigger();
+            test::child<QAction>(form, "Paste").trigger();
             leave(form, "CSCmdBtn1", "CSCmdBtn2");
         });
     }
@@ -84,7 +71,7 @@ protected:
     {
         m_shop.boxes().answers = {true};
         for (const char* button : {save, exit})
-            Shop::press(const_cast<QDialog&>(form), button);
+            test::press(form, button);
         m_shop.boxes().answers.clear();
     }
 
@@ -92,15 +79,15 @@ protected:
     void fillLookUp()
     {
         openLookUp([&](const QDialog& form) {
-            auto& grid = control<QTableView>(form, u"Grid1"_s);
-            control<QCheckBox>(form, u"allowfunction"_s).click();
-            control<QCheckBox>(form, u"Allowexit"_s).setChecked(true);
-            typeInto(control<QLineEdit>(form, u"description"_s), u"Favourites"_s);
-            typeInto(control<QLineEdit>(form, u"noofchoices"_s), u"2"_s);
+            auto& grid = test::child<QTableView>(form, "Grid1");
+            test::child<QCheckBox>(form, "allowfunction").click();
+            test::child<QCheckBox>(form, "Allowexit").setChecked(true);
+            typeInto(test::child<QLineEdit>(form, "description"), u"Favourites"_s);
+            typeInto(test::child<QLineEdit>(form, "noofchoices"), u"2"_s);
             int line = 0;
             for (const auto& [list, entry] : {std::pair("plulist", 3), {"plulist", 1}, {"functionlist", 4}}) {
                 grid.setCurrentIndex(grid.model()->index(line++, 2));
-                auto& entries = control<QTableView>(form, QLatin1String(list));
+                auto& entries = test::child<QTableView>(form, list);
                 QTest::mouseClick(entries.viewport(), Qt::LeftButton, {},
                                   entries.visualRect(entries.model()->index(entry, 0)).center());
             }
@@ -113,10 +100,10 @@ protected:
         QStringList shown;
         openLookUp([&](const QDialog& form) {
             for (const char* box : {"WLUNumber", "description", "noofchoices"})
-                shown += control<QLineEdit>(form, QLatin1String(box)).text().trimmed();
+                shown += test::child<QLineEdit>(form, box).text().trimmed();
             for (const char* box : {"allowcondiment", "allowplu", "allowfunction", "Allowexit"})
-                shown += control<QCheckBox>(form, QLatin1String(box)).isChecked() ? u"1"_s : u"0"_s;
-            const auto& lines = *control<QTableView>(form, u"Grid1"_s).model();
+                shown += test::child<QCheckBox>(form, box).isChecked() ? u"1"_s : u"0"_s;
+            const auto& lines = *test::child<QTableView>(form, "Grid1").model();
             for (int line = 0; line < 4; ++line) {
                 shown +=
                     lines.index(line, 1).data().toString() + u' ' + lines.index(line, 2).data().toString();
@@ -129,7 +116,7 @@ protected:
     {
         m_shop.choose("WLUMenu", [&](QDialog& form) {
             for (int record = 1; record < emptyLookUp; ++record)
-                Shop::press(form, "NextRecord");
+                test::press(form, "NextRecord");
             act(form);
         });
     }
@@ -140,12 +127,12 @@ protected:
                 if (options.firstModel <= GetParam() && GetParam() <= options.lastModel)
                     act(form, options);
             }
-            Shop::press(form, "ExitForm");
+            test::press(form, "ExitForm");
         });
     }
     static void select(const QDialog& form, int key)
     {
-        QLineEdit& typed = *control<QComboBox>(form, u"selectkey"_s).lineEdit();
+        QLineEdit& typed = *test::child<QComboBox>(form, "selectkey").lineEdit();
         typeInto(typed, QString::number(key));
         QTest::keyClick(&typed, Qt::Key_Return);
     }
@@ -153,10 +140,10 @@ protected:
     {
         select(form, options.key);
         for (qsizetype i = 0; i < options.numbers.size(); ++i)
-            typeInto(control<QLineEdit>(form, i == 0 ? u"otherno"_s : u"otherno2"_s), options.numbers[i]);
+            typeInto(test::child<QLineEdit>(form, i == 0 ? u"otherno"_s : u"otherno2"_s), options.numbers[i]);
         for (int box = 0; box < 24; ++box)
-            control<QCheckBox>(form, u"Check1_%1"_s.arg(box)).setChecked(options.ticked.contains(box));
-        Shop::press(const_cast<QDialog&>(form), "SaveRecord");
+            test::child<QCheckBox>(form, u"Check1_%1"_s.arg(box)).setChecked(options.ticked.contains(box));
+        test::press(form, "SaveRecord");
     }
     [[nodiscard]] static std::string shownOptions(const QDialog& form, int key)
     {
@@ -164,12 +151,12 @@ protected:
         QStringList numbers;
         QStringList ticked;
         for (const char* name : {"otherno", "otherno2"}) {
-            const auto& box = control<QLineEdit>(form, QLatin1String(name));
+            const auto& box = test::child<QLineEdit>(form, name);
             if (box.isVisible())
                 numbers += box.text();
         }
         for (int box = 0; box < 24; ++box) {
-            if (control<QCheckBox>(form, u"Check1_%1"_s.arg(box)).isChecked())
+            if (test::child<QCheckBox>(form, u"Check1_%1"_s.arg(box)).isChecked())
                 ticked += QString::number(box);
         }
         return (numbers.join(u' ') + u" | "_s + ticked.join(u' ')).toStdString();

@@ -5,8 +5,6 @@
 #include "platform/FolderLock.h"
 #include "tests/road/RunCommand.h"
 #include "tests/road/Shop.h"
-#include "tests/store/Rows.h"
-#include "tests/support/FormTest.h"
 
 #include <algorithm>
 
@@ -15,8 +13,7 @@ namespace norvane
 namespace
 {
 
-using test::Ended;
-using test::Shop;
+using test::Ended, test::Shop;
 
 const QString customer = u"Corner Shop"_s;
 

@@ -1,11 +1,5 @@
 // Reports from the menu and from a screen's print button, as far as the figures on the clipboard.
 #include "tests/road/Shop.h"
-#include "tests/support/FormTest.h"
-
-#include <QApplication>
-#include <QClipboard>
-#include <QDate>
-#include <QDialog>
 
 namespace norvane
 {
@@ -21,8 +15,8 @@ QString linesOfPreview(const QString& title)
         if (window->objectName() == u"ReportPreview"_s && window->isVisible()) {
             EXPECT_EQ(window->windowTitle(), title);
             QGuiApplication::clipboard()->clear();
-            Shop::press(*window, "CopyButton");
-            Shop::press(*window, "CloseButton");
+            test::press(*window, "CopyButton");
+            test::press(*window, "CloseButton");
             return QGuiApplication::clipboard()->text();
         }
     }
@@ -57,11 +51,11 @@ TEST(Reports, EveryGroupOfTheMenuShowsItsSales)
     for (const auto& [entry, title] : entries) {
         shop.choose(entry, [&, title = title](QDialog& dialog) {
             EXPECT_EQ(dialog.windowTitle(), title);
-            Shop::press(dialog, "CSCmdBtn1");
+            test::press(dialog, "CSCmdBtn1");
             const QString lines = linesOfPreview(title);
             EXPECT_TRUE(lines.contains(u"11279.1"_s)) << title.toStdString() << lines.toStdString();
             EXPECT_TRUE(dialog.isVisible());
-            Shop::press(dialog, "CmdExit");
+            test::press(dialog, "CmdExit");
         });
     }
     EXPECT_TRUE(shop.boxes().shown.empty());
@@ -72,7 +66,7 @@ TEST(Reports, AScreenPrintsItsTable)
     Shop shop(0, 1);
     shop.execute("insert into GROUPS (GROUPNO, DESCRIPTION) values (3, 'Drinks')");
     QWidget& screen = shop.openForm("GroupMenu");
-    Shop::press(screen, "PrintReport");
+    test::press(screen, "PrintReport");
     EXPECT_TRUE(linesOfPreview(u"GROUPS"_s).contains(u"Drinks"_s));
 }
 

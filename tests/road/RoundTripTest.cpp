@@ -1,16 +1,10 @@
 // The whole programme of a register on its way into the database and out to a second register. What the
 // second register holds then is what the first one held, but for the differences that are listed here.
-#include "exchange/ExchangeBoxes.h"
-#include "exchange/ExchangePlan.h"
 #include "platform/FilePaths.h"
 #include "records/RegisterFiles.h"
 #include "tests/road/Shop.h"
-#include "tests/support/FormTest.h"
-
-#include <QDir>
 
 #include <map>
-#include <set>
 
 namespace norvane
 {
@@ -240,26 +234,6 @@ TEST_P(RoundTrip, BringsEverythingBackButForTheListedDifferences)
     }
     EXPECT_EQ(readWholeFile(m_shop.values().customerPath + u"/MEM.dat"_s), m_bytes[memoryFile]);
     EXPECT_FALSE(QFile::exists(path(second, descriptorFile))) << "nobody moves the system descriptors";
-}
-
-template <typename Row>
-std::set<int> filesOf(std::span<const Row> plan, int box)
-{
-    std::set<int> files;
-    for (const Row& row : exchange::rowsOfBox(plan, box))
-        files.insert(row.file);
-    return files;
-}
-
-/// All boxes at once cannot tell which box moves a file.
-TEST(RoundTripOfABox, SendsTheFilesThatItFetches)
-{
-    std::size_t files = 0;
-    for (int box = 0; box < exchange::boxCount; ++box) {
-        EXPECT_EQ(filesOf(exchange::uploadPlan(), box), filesOf(exchange::downloadPlan(), box)) << box;
-        files += filesOf(exchange::uploadPlan(), box).size();
-    }
-    EXPECT_EQ(files, exchange::uploadPlan().size()) << "the files of a box stand together";
 }
 
 INSTANTIATE_TEST_SUITE_P(Models, RoundTrip, testing::Range(0, 4));

@@ -1,23 +1,15 @@
 // A day's sales come home: rung at three registers, collected over the real form, added up in the tables.
 #include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
 #include "tests/road/Shop.h"
-#include "tests/support/FormTest.h"
 #include "tests/support/RungDay.h"
-
-#include <QProcess>
-#include <QSettings>
-#include <QStatusBar>
 
 namespace norvane
 {
 namespace
 {
 
-using test::ReportSums;
-using test::Shop;
+using test::ReportSums, test::Shop;
 
 struct SalesTable {
     int report;
@@ -71,7 +63,7 @@ protected:
     /// @return what the status bar shows at the end
     QString collect()
     {
-        Shop::press(m_form, "Communicate");
+        test::press(m_form, "Communicate");
         EXPECT_FALSE(test::takeFailure().has_value());
         return m_form.findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage();
     }

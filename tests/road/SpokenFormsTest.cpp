@@ -3,17 +3,13 @@
 
 #include "shell/MenuTree.h"
 #include "tests/road/Shop.h"
-#include "tests/support/FormTest.h"
-
-#include <QtWidgets>
 
 namespace norvane
 {
 namespace
 {
 
-using shell::Opens;
-using test::Shop;
+using shell::Opens, test::Shop;
 
 class SpokenFormsTest : public testing::TestWithParam<int>
 {

@@ -14,8 +14,7 @@
 namespace norvane::sales
 {
 
-using test::expectAskedFirst;
-using test::ShownBox;
+using test::expectAskedFirst, test::ShownBox;
 
 inline const QString errorTitle = u"Communications Error"_s;
 inline const QString checkTitle = u"Please Check"_s;

@@ -2,13 +2,6 @@
 #include "sales/Frmreports.h"
 
 #include "tests/support/FormTest.h"
-#include "tests/support/RecordingBoxes.h"
-
-#include <gtest/gtest.h>
-#include <QTest>
-#include <QtWidgets>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::sales
 {
@@ -51,7 +44,7 @@ protected:
     template <typename Control>
     Control& control(const char* name)
     {
-        return *m_form->findChild<Control*>(QLatin1StringView(name));
+        return test::child<Control>(*m_form, name);
     }
     bool showsCalendar() { return control<QCalendarWidget>("CSCal").isVisible(); }
     /// What the report control was asked for by the press of Enter.

@@ -36,7 +36,7 @@ TEST_F(FindTest, AfterNoRecordTheShownRecordIsStillTheOneThatIsSaved)
         press(form, "SaveRecord");
         EXPECT_EQ(group(2).find(missing), 0U) << group(2);
     }
-    EXPECT_EQ(m_boxes.heard, 2);
+    EXPECT_EQ(m_boxes.beeps, 2);
     find(form, "FindControl_2", "zz");
     EXPECT_EQ(takeBox(), noRecord);
     press(form, "NextRecord");

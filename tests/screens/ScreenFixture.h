@@ -6,10 +6,6 @@
 #include "tests/platform/TestFolder.h"
 #include "tests/store/Rows.h"
 #include "tests/support/FormTest.h"
-#include "tests/support/RecordingBoxes.h"
-
-#include <QTest>
-#include <QtWidgets>
 
 #include <memory>
 
@@ -137,10 +133,7 @@ protected:
     QString m_screenFilePath = m_folder.path("test.scn");
     ApplicationValues m_values;
     std::shared_ptr<screens::LostChangesList> m_losses = std::make_shared<screens::LostChangesList>();
-    struct : RecordingBoxes {
-        int heard = 0;
-        void beep() override { ++heard; }
-    } m_boxes;
+    RecordingBoxes m_boxes;
 };
 
 } // namespace norvane::test

@@ -2,8 +2,7 @@
 #include "customers/SafetyCopies.h"
 #include "shell/FrmCustomer.h"
 #include "tests/shell/ShellFixture.h"
-
-#include <QtWidgets>
+#include "tests/support/FormTest.h"
 
 namespace norvane::shell
 {

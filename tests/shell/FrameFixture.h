@@ -5,9 +5,7 @@
 #include "shell/MainStatusBar.h"
 #include "shell/Openers.h"
 #include "tests/shell/ShellFixture.h"
-
-#include <QTest>
-#include <QtWidgets>
+#include "tests/support/FormTest.h"
 
 namespace norvane::shell
 {

@@ -4,10 +4,7 @@
 #include "shell/FrameOpeners.h"
 #include "shell/MainStatusBar.h"
 #include "tests/shell/ShellFixture.h"
-
-#include <QSignalSpy>
-#include <QTest>
-#include <QtWidgets>
+#include "tests/support/FormTest.h"
 
 namespace norvane::shell
 {

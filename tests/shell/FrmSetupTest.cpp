@@ -4,9 +4,7 @@
 #include "shell/MainStatusBar.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/shell/ShellFixture.h"
-
-#include <QTest>
-#include <QtWidgets>
+#include "tests/support/FormTest.h"
 
 namespace norvane::shell
 {

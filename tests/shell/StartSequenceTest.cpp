@@ -6,9 +6,7 @@
 #include "shell/FrmMain.h"
 #include "shell/MainStatusBar.h"
 #include "tests/shell/ShellFixture.h"
-
-#include <QTest>
-#include <QtWidgets>
+#include "tests/support/FormTest.h"
 
 #include <deque>
 

@@ -30,6 +30,16 @@ inline void execute(const QString& databasePath, const QString& sql)
     store::Database(databasePath).execute(sql);
 }
 
+inline store::Value text(const char* utf8)
+{
+    return store::Value::text(std::string(utf8));
+}
+
+inline store::Value whole(int number)
+{
+    return store::Value::whole(number);
+}
+
 using FieldValue = std::pair<const char*, store::Value>;
 
 inline void addRecord(store::Database& database, const char* table, const std::vector<FieldValue>& fields)

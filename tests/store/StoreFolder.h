@@ -11,14 +11,7 @@
 namespace norvane::store::test
 {
 
-using norvane::test::failureOf;
-using norvane::test::rowsOf;
-using norvane::test::TestFolder;
-
-inline Value text(const char* utf8)
-{
-    return Value::text(std::string(utf8));
-}
+using norvane::test::failureOf, norvane::test::rowsOf, norvane::test::TestFolder, norvane::test::text;
 
 /// A table such as a register's price look-ups, with every type and with names that hold punctuation.
 inline TableDefinition itemTable()

@@ -15,8 +15,7 @@ namespace norvane::store
 namespace
 {
 
-using test::rowsOf;
-using test::StoreFolder;
+using test::rowsOf, test::StoreFolder;
 
 /// Whether a table or "TABLE.FIELD" came after the first databases were made.
 bool cameLater(const QString& place)

@@ -1,10 +1,6 @@
 // Entry of the tests with widgets.
 #include "tests/support/FormTest.h"
 
-#include <gtest/gtest.h>
-#include <QApplication>
-#include <QStyleFactory>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace

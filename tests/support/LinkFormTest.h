@@ -8,12 +8,6 @@
 #include "tests/support/FormTest.h"
 #include "tests/support/ProgramFolder.h"
 #include "tests/support/PseudoModem.h"
-#include "tests/support/RecordingBoxes.h"
-
-#include <QGuiApplication>
-#include <QPushButton>
-#include <QStatusBar>
-#include <QtTest>
 
 namespace norvane::test
 {
@@ -37,11 +31,7 @@ protected:
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     }
 
-    [[nodiscard]] QPushButton& button(const char* name) const
-    {
-        return *form.template findChild<QPushButton*>(QLatin1String(name));
-    }
-    void press(const char* name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
+    void press(const char* name) { test::press(form, name); }
     /// Escape, as soon as the form handles events.
     void pressEscapeSoon()
     {
@@ -49,7 +39,7 @@ protected:
     }
     [[nodiscard]] std::string status() const
     {
-        return form.template findChild<QStatusBar*>(u"StatusBar1"_s)->currentMessage().toStdString();
+        return child<QStatusBar>(form, "StatusBar1").currentMessage().toStdString();
     }
 
     /// Whether another run could start now.

@@ -1,7 +1,6 @@
 // Staging as the run script does it, from the programs just built.
 #include "tests/support/ProgramFolder.h"
 
-#include "platform/FilePaths.h"
 #include "platform/ProfileFile.h"
 
 #include <QProcess>
@@ -38,16 +37,6 @@ ProgramFolder::ProgramFolder(int model, int registers, int plus)
     m_workingDirectory.emplace(appPath());
 }
 
-QString ProgramFolder::registerFile(int number, int file) const
-{
-    return joinPath(bankPath(), u"%1/%2.dat"_s.arg(number).arg(file));
-}
-
-QString ProgramFolder::appFile(const QString& name) const
-{
-    return joinPath(appPath(), name);
-}
-
 ApplicationValues ProgramFolder::makeCustomer(const QString& name) const
 {
     ApplicationValues values;
@@ -59,17 +48,6 @@ ApplicationValues ProgramFolder::makeCustomer(const QString& name) const
         copyInto(appFile(QLatin1String(file)), values.customerPath);
     values.databasePath = joinPath(values.customerPath, u"velmar.mdb"_s);
     return values;
-}
-
-void ProgramFolder::setFaults(const QByteArray& sections) const
-{
-    QFile::remove(m_folder.path("registers/faults.log"));
-    m_folder.write("registers/faults.ini", sections);
-}
-
-void ProgramFolder::removeTool(const char* name) const
-{
-    EXPECT_TRUE(QFile::remove(appFile(QLatin1String(name)))) << name;
 }
 
 } // namespace norvane::test

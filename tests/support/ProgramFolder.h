@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
+#include "platform/FilePaths.h"
 #include "tests/platform/TestFolder.h"
 
 #include <optional>
@@ -22,17 +23,27 @@ public:
     [[nodiscard]] QString appPath() const { return m_folder.path("app"); }
     [[nodiscard]] QString bankPath() const { return m_folder.path("registers"); }
     /// Path of a register's binary file; registers count from 1.
-    [[nodiscard]] QString registerFile(int number, int file) const;
+    [[nodiscard]] QString registerFile(int number, int file) const
+    {
+        return joinPath(bankPath(), u"%1/%2.dat"_s.arg(number).arg(file));
+    }
     /// Path of a file in the program's folder.
-    [[nodiscard]] QString appFile(const QString& name) const;
+    [[nodiscard]] QString appFile(const QString& name) const { return joinPath(appPath(), name); }
 
     /// Makes a customer by copying the templates, and hands out the values of a program that has chosen it.
     [[nodiscard]] ApplicationValues makeCustomer(const QString& name) const;
 
     /// Lets steps of the tools fail as a faults.ini says, from its first step on; empty text mends all.
-    void setFaults(const QByteArray& sections) const;
+    void setFaults(const QByteArray& sections) const
+    {
+        QFile::remove(m_folder.path("registers/faults.log"));
+        m_folder.write("registers/faults.ini", sections);
+    }
     /// Takes "VELMARCOMM" or "convert" away.
-    void removeTool(const char* name) const;
+    void removeTool(const char* name) const
+    {
+        EXPECT_TRUE(QFile::remove(appFile(QLatin1String(name)))) << name;
+    }
 
 private:
     TestFolder m_folder;

@@ -3,13 +3,16 @@
 
 #include "link/Clock.h"
 
-#include <QByteArray>
-#include <QString>
+#include <gtest/gtest.h>
+#include <QtCore>
 
 #include <cmath>
+#include <cstdlib>
 #include <deque>
+#include <fcntl.h>
 #include <functional>
 #include <map>
+#include <unistd.h>
 
 namespace norvane::test
 {
@@ -24,8 +27,14 @@ public:
         double delay = 0;
     };
 
-    PseudoModem();
-    ~PseudoModem();
+    PseudoModem() : m_line(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
+    {
+        EXPECT_GE(m_line, 0);
+        EXPECT_EQ(::grantpt(m_line), 0);
+        EXPECT_EQ(::unlockpt(m_line), 0);
+        m_device = QString::fromLocal8Bit(::ptsname(m_line));
+    }
+    ~PseudoModem() { ::close(m_line); }
     PseudoModem(const PseudoModem&) = delete;
     PseudoModem& operator=(const PseudoModem&) = delete;
 
@@ -40,9 +49,29 @@ public:
     /// Puts bytes on the line at a time of the clock, asked or not.
     void willSay(double time, const QByteArray& text) { m_due.insert({time, text}); }
     /// Reads what has come and sends what is due at @p now, in seconds that go on past midnight.
-    void act(double now);
+    void act(double now)
+    {
+        const auto commands = received().count('\r');
+        for (; m_commands < commands; ++m_commands) {
+            if (!m_answers.empty()) {
+                willSay(now + m_answers.front().delay, m_answers.front().text);
+                m_answers.pop_front();
+            }
+        }
+        for (; !m_due.empty() && m_due.begin()->first <= now; m_due.erase(m_due.begin())) {
+            const QByteArray& text = m_due.begin()->second;
+            EXPECT_EQ(::write(m_line, text.constData(), static_cast<std::size_t>(text.size())), text.size());
+        }
+    }
     /// All bytes that have come so far.
-    [[nodiscard]] QByteArray received();
+    [[nodiscard]] QByteArray received()
+    {
+        char buffer[256];
+        for (auto count = ::read(m_line, buffer, sizeof buffer); count > 0;
+             count = ::read(m_line, buffer, sizeof buffer))
+            m_received.append(buffer, count);
+        return m_received;
+    }
 
 private:
     int m_line;
@@ -64,8 +93,18 @@ public:
     [[nodiscard]] double now() const { return std::fmod(m_now, 86400); }
 
     [[nodiscard]] double secondsSinceMidnight() override { return now(); }
-    void pause() override;
-    void yieldEvents() override;
+    void pause() override
+    {
+        QThread::msleep(1);
+        m_now += 0.1;
+        m_modem.act(m_now);
+    }
+    void yieldEvents() override
+    {
+        QCoreApplication::processEvents();
+        if (onEvents)
+            onEvents();
+    }
 
 private:
     PseudoModem& m_modem;

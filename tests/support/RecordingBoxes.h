@@ -27,6 +27,7 @@ public:
     std::deque<bool> answers;
     std::deque<UnsavedAnswer> unsavedAnswers;
     std::deque<QString> typed;
+    int beeps = 0;
     /// Runs while a box stands open, to look at what is behind it.
     std::function<void(const ShownBox&)> whileOpen;
 
@@ -73,7 +74,7 @@ public:
         return takeFront(typed);
     }
     QString fileToSave(const FileRequest& request) override { return fileToOpen(request); }
-    void beep() override {}
+    void beep() override { ++beeps; }
 
 private:
     void record(ShownBox box)

@@ -1,15 +1,9 @@
 // The boxes and lists of the screens under a user's fingers.
+#include "tests/support/FormTest.h"
 #include "ui/DecimalBox.h"
 #include "ui/IntegerBox.h"
 #include "ui/TextBox.h"
 #include "ui/ValueList.h"
-
-#include <gtest/gtest.h>
-#include <QSignalSpy>
-#include <QTest>
-#include <QtWidgets>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::ui
 {

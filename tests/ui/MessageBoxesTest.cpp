@@ -2,9 +2,7 @@
 #include "ui/MessageBoxes.h"
 
 #include "tests/platform/TestFolder.h"
-
-#include <QTest>
-#include <QtWidgets>
+#include "tests/support/FormTest.h"
 
 namespace norvane::ui
 {

@@ -1,14 +1,7 @@
 // What forms share: the filter above a list, and what screen readers are told of painted widgets.
+#include "tests/support/FormTest.h"
 #include "ui/FilteredList.h"
 #include "ui/SpokenItems.h"
-
-#include <gtest/gtest.h>
-#include <QAccessible>
-#include <QStringListModel>
-#include <QTableView>
-#include <QTest>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::ui
 {
