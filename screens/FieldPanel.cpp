@@ -7,6 +7,7 @@
 #include "screens/ControlContents.h"
 #include "screens/GridControl.h"
 #include "screens/LabelPairs.h"
+#include "screens/ListRoom.h"
 #include "ui/Appearance.h"
 #include "ui/DecimalBox.h"
 #include "ui/FormKit.h"
@@ -75,7 +76,7 @@ void makeReadOnly(QLineEdit& box)
 ui::NumberBox* makeNumberBox(const ControlDefinition& definition, QWidget* parent)
 {
     if (definition.kind == ControlKind::Integer)
-        return new ui::IntegerBox(parent);
+        return new ui::IntegerBox(parent, definition.digits.value_or(1));
     auto* const box = new ui::DecimalBox(parent);
     box->setDecimals(definition.decimals.value_or(box->decimals()));
     return box;
@@ -287,13 +288,14 @@ void FieldPanel::countBottom(const ControlDefinition& definition)
 
 void FieldPanel::finish(const QString& numberField)
 {
-    int right = 0;
+    QVector<QWidget*> shown;
     for (const Control& control : std::as_const(m_controls)) {
         if (!control.widget->isHidden())
-            right = qMax(right, control.widget->geometry().right() + 1);
+            shown += control.widget;
     }
-    tieShownLabels();
-    m_picture->resize(right, pixels(m_bottom + marginBelow));
+    widenLists(shown);
+    tieShownLabels(shown);
+    m_picture->resize(rightEdge(shown), pixels(m_bottom + marginBelow));
     setWidget(m_picture);
     const auto ordered = inTabOrder();
     chain(ordered);
@@ -302,17 +304,15 @@ void FieldPanel::finish(const QString& numberField)
     m_first = firstEditable(ordered, numberField);
 }
 
-void FieldPanel::tieShownLabels()
+void FieldPanel::tieShownLabels(const QVector<QWidget*>& shown)
 {
     QVector<QLabel*> labels;
     QVector<QWidget*> controls;
-    for (const Control& control : std::as_const(m_controls)) {
-        if (control.widget->isHidden())
-            continue;
-        if (control.definition.kind == ControlKind::Label) {
-            labels += static_cast<QLabel*>(control.widget);
+    for (QWidget* const widget : shown) {
+        if (auto* const label = qobject_cast<QLabel*>(widget)) {
+            labels += label;
         } else {
-            controls += control.widget;
+            controls += widget;
         }
     }
     tieLabels(labels, controls);

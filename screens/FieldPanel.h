@@ -81,7 +81,7 @@ private:
     [[nodiscard]] int nextElement(ControlKind kind);
     void place(const ControlDefinition& definition, QWidget& widget);
     void countBottom(const ControlDefinition& definition);
-    void tieShownLabels();
+    static void tieShownLabels(const QVector<QWidget*>& shown);
     [[nodiscard]] QVector<Control> inTabOrder() const;
     void chain(const QVector<Control>& ordered);
     [[nodiscard]] static QWidget* firstEditable(const QVector<Control>& ordered, const QString& except);

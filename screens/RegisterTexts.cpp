@@ -19,6 +19,8 @@ enum class FieldRule {
     MessageLine,
     /// Up to midnight, which is 2400.
     TimeOfDay,
+    /// The same as a number, which would lose its leading zeros.
+    TimeNumber,
     /// One screen file serves the two models of the older generation, of which the first knows no cards.
     CardOption,
 };
@@ -38,6 +40,7 @@ constexpr RuledField ruledFields[] = {
     {"VALIDATIONMESSAGE"_L1, "LINE"_L1, FieldRule::MessageLine},
     {"CHECKENDORSEMESSAGE"_L1, "LINE"_L1, FieldRule::MessageLine},
     {"TIMEPERIOD"_L1, "STARTTIME"_L1, FieldRule::TimeOfDay},
+    {"TIMEPERIOD"_L1, "ENDTIME"_L1, FieldRule::TimeNumber},
     {"EJDETAILPRINT"_L1, "EJPOINTPAYMENT"_L1, FieldRule::CardOption},
     {"EJDETAILPRINT"_L1, "EJSUBTRACT"_L1, FieldRule::CardOption},
     {"EJDETAILPRINT"_L1, "EJADDPOINT"_L1, FieldRule::CardOption},
@@ -49,6 +52,7 @@ constexpr RuledField ruledFields[] = {
 };
 
 constexpr int midnight = 2400;
+constexpr int timeDigits = 4;
 constexpr double modelWithoutCards = 0;
 
 /// Eight digits with two behind the point, as the price boxes of the PLU screens.
@@ -72,6 +76,9 @@ void apply(FieldRule rule, ControlDefinition& control, const ApplicationValues& 
         break;
     case FieldRule::TimeOfDay:
         control.largest = midnight;
+        break;
+    case FieldRule::TimeNumber:
+        control.digits = timeDigits;
         break;
     case FieldRule::CardOption:
         control.enabled = ecrModel(values) != modelWithoutCards;

@@ -57,6 +57,7 @@ struct ControlDefinition {
     QString characters;         ///< "NUMERIC" in any case for digits only
     bool isHexadecimal = false; ///< no word of the file, see RegisterTexts.h
     std::optional<int> largest; ///< number that a text of digits may make; no word of the file either
+    std::optional<int> digits;  ///< that a whole number is shown with at least; no word of the file either
     QString sqlCriteria;        ///< query behind a combo or grid
     QString list;               ///< rows of a combo without query: "0;Off,1;On"
     QString columnWidths;       ///< of a combo's list, in twips, separated by ";"; 0 hides a column

@@ -6,7 +6,7 @@
 namespace norvane::ui
 {
 
-IntegerBox::IntegerBox(QWidget* parent) : NumberBox(Point::None, parent)
+IntegerBox::IntegerBox(QWidget* parent, int digits) : NumberBox(Point::None, parent), m_digits(digits)
 {
     setMaximum(Decimal(std::numeric_limits<std::int32_t>::max(), 0));
     IntegerBox::setValue({});
@@ -19,7 +19,7 @@ void IntegerBox::setValue(const Decimal& value)
 
 QString IntegerBox::shownText(const Decimal& value) const
 {
-    return QString::fromStdString(value.text());
+    return QString::fromStdString(value.text()).rightJustified(m_digits, u'0');
 }
 
 } // namespace norvane::ui

@@ -13,11 +13,15 @@ class IntegerBox : public NumberBox
     Q_OBJECT
 
 public:
-    explicit IntegerBox(QWidget* parent = nullptr);
+    /// @param digits numbers are shown with at least so many, zeros in front: a time of the day as "0900".
+    explicit IntegerBox(QWidget* parent = nullptr, int digits = 1);
     void setValue(const Decimal& value) override;
 
 protected:
     [[nodiscard]] QString shownText(const Decimal& value) const override;
+
+private:
+    int m_digits;
 };
 
 } // namespace norvane::ui

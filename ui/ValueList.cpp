@@ -188,6 +188,31 @@ void ValueList::showPopup()
     QComboBox::showPopup();
 }
 
+int ValueList::widthFor(int textWidth) const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QSize text(textWidth, fontMetrics().height());
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this).width();
+}
+
+int ValueList::fullWidth() const
+{
+    int widest = 0;
+    for (int row = 0; row < count(); ++row)
+        widest = qMax(widest, fontMetrics().horizontalAdvance(itemText(row)));
+    return widthFor(widest);
+}
+
+bool ValueList::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const int needed = widthFor(fontMetrics().horizontalAdvance(currentText()));
+        setToolTip(width() < needed ? currentText() : QString());
+    }
+    return QComboBox::event(event);
+}
+
 void ValueList::wheelEvent(QWheelEvent* event)
 {
     event->ignore();

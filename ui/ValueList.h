@@ -29,7 +29,12 @@ public:
     /// Shows the row of @p value; "03" finds 3. A null text clears the list.
     void setValue(const QString& value);
 
+    /// Width in which the box shows its longest row whole, in device-independent pixels.
+    [[nodiscard]] int fullWidth() const;
+
     void showPopup() override;
+    /// The tool tip says a row whole that the box cuts.
+    bool event(QEvent* event) override;
 
 Q_SIGNALS:
     /// The user picked a row.
@@ -41,6 +46,7 @@ protected:
 
 private:
     void takePick(int row);
+    [[nodiscard]] int widthFor(int textWidth) const;
     /// Shows a value without a row; an empty one for none.
     void showStranger(const QString& value);
     void fillTexts();

@@ -26,7 +26,8 @@ using store::FieldDefinition, store::FieldType, store::TableDefinition;
 /// Pixels between a text and the edges of its box.
 constexpr int boxMargins = 8;
 
-/// The catalogue's tables with one record of zeros and empty texts in each.
+/// The catalogue's tables with one record in each: zeros, empty texts, and names as long as they can be.
+/// hold.
 const QString& filledDatabase()
 {
     static const test::TestFolder folder;
@@ -43,7 +44,9 @@ const QString& filledDatabase()
         records.addNew();
         for (const FieldDefinition& field : table.fields) {
             if (field.type == FieldType::Text && !isPrice(field)) {
-                records.setValue(field.name, store::Value::text(std::string()));
+                const bool isName = field.name.compare(u"DESCRIPTION"_s, Qt::CaseInsensitive) == 0;
+                const auto letters = static_cast<std::size_t>(isName ? field.size : 0);
+                records.setValue(field.name, store::Value::text(std::string(letters, 'M')));
             } else if (field.type != FieldType::Counter) {
                 records.setValue(field.name, store::Value::whole(0));
             }
@@ -212,8 +215,16 @@ void ScreenFile::checkWidth(const QWidget& control)
         needed = boxMargins + control.fontMetrics().averageCharWidth() * qMin(box->maxLength(), 40);
     } else if (const auto* const list = qobject_cast<const ui::ValueList*>(&control)) {
         EXPECT_GE(list->count(), 2) << qPrintable(control.objectName()) << " leaves nothing to pick";
-        for (int row = 0; row < list->count(); ++row)
-            needed = qMax(needed, control.fontMetrics().horizontalAdvance(list->itemText(row)));
+        QStyleOptionComboBox option;
+        option.initFrom(list);
+        const int room =
+            list->style()
+                ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, list)
+                .width();
+        for (int row = 0; row < list->count(); ++row) {
+            const int text = control.fontMetrics().horizontalAdvance(list->itemText(row));
+            needed = qMax(needed, text + list->width() - room);
+        }
     }
     if (needed > control.width()) {
         complain(control.objectName() + u' ' + control.accessibleDescription(),
@@ -322,6 +333,20 @@ TEST(InstalledScreens, TakeWhatTheRegistersOfTheModelHold)
         QTest::keyClicks(box, typed);
         EXPECT_EQ(box->text(), kept) << qPrintable(file) << ", model " << model.data();
     }
+}
+
+TEST(InstalledScreens, ShowTimesOfTheDayInFourDigits)
+{
+    ApplicationValues values;
+    values.databasePath = filledDatabase();
+    test::RecordingBoxes boxes;
+    const OptionForm form(QStringLiteral(SCREEN_FILES "/timeperd.scn"), values, boxes);
+    auto* const end = form.findChild<QLineEdit*>(u"IntegerNumberControl_2"_s);
+    ASSERT_NE(end, nullptr);
+    EXPECT_EQ(end->text(), u"0000");
+    end->clear();
+    QTest::keyClicks(end, u"930\r"_s);
+    EXPECT_EQ(end->text(), u"0930");
 }
 
 TEST(InstalledScreens, OfferCardOptionsToModelsWithCards)
