@@ -109,6 +109,15 @@ std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList
     return found;
 }
 
+QStringList lastLogLines(const QString& customerPath, int count)
+{
+    QFile log(logPath(customerPath));
+    if (!log.open(QIODevice::ReadOnly))
+        return {};
+    const QStringList lines = QString::fromUtf8(endOf(log, fewBytes)).split(u'\n', Qt::SkipEmptyParts);
+    return lines.mid(std::max(qsizetype{0}, lines.size() - count));
+}
+
 LoggedWork::LoggedWork(QString customerPath, const QString& work, const QString& registers,
                        std::function<qint64()> waited)
     : m_customerPath(std::move(customerPath)), m_line{QDateTime::currentDateTime(), work, registers,

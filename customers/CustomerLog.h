@@ -31,6 +31,9 @@ void writeLog(const QString& customerPath, const LogLine& line);
 /// The latest line of any of these @p works; nothing when the log holds none.
 [[nodiscard]] std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList& works);
 
+/// The last @p count lines of the log as they are in the file, or all that it has; empty without a log.
+[[nodiscard]] QStringList lastLogLines(const QString& customerPath, int count);
+
 /// Work in progress. It is logged when this ends, as failed unless a result was set before.
 class LoggedWork
 {

@@ -53,8 +53,8 @@ FrmMain::FormOpeners makeFrameOpeners(ApplicationValues& values, Boxes& boxes)
     openers.insert(u"FrmSetup"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
         main.showShared(u"FrmSetup"_s, [&] { return makeSetup(main, values, boxes); });
     });
-    openers.insert(u"frmAbout"_s, [&boxes](FrmMain& main, const MenuEntry&) {
-        main.showShared(u"frmAbout"_s, [&] { return new frmAbout(boxes, main.statusBar1()); });
+    openers.insert(u"frmAbout"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
+        main.showShared(u"frmAbout"_s, [&] { return new frmAbout(values, boxes, main.statusBar1()); });
     });
     openers.insert(u"FrmCustomer"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
         changeCustomer(main, values, boxes);

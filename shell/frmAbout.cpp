@@ -2,12 +2,15 @@
 #include "shell/frmAbout.h"
 
 #include "shell/AboutLabels.h"
+#include "shell/frmSysInfo.h"
+#include "shell/SystemReport.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPrinterInfo>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -23,7 +26,7 @@ constexpr int textWidth = 380;
 
 constexpr auto disclaimer =
     "Warning: this program changes how cash registers calculate, print and report. Check every register "
-    "after a transfer; its makers answer for no loss that comes from its use."_L1;
+    "after a transfer; its makers accept no liability for losses from its use."_L1;
 
 QLabel* makePicture()
 {
@@ -58,8 +61,9 @@ QLabel* makeDisclaimer()
 
 } // namespace
 
-frmAbout::frmAbout(Boxes& boxes, MainStatusBar& status, QWidget* parent)
-    : StatusForm(u"frmAbout"_s, aboutCaption(), u"About....."_s, status, parent), m_boxes(boxes)
+frmAbout::frmAbout(const ApplicationValues& values, Boxes& boxes, MainStatusBar& status, QWidget* parent)
+    : StatusForm(u"frmAbout"_s, aboutCaption(), u"About....."_s, status, parent), m_values(values),
+      m_boxes(boxes)
 {
     layOut();
 }
@@ -85,10 +89,16 @@ QLayout* frmAbout::makeButtons()
     return ui::makeButtonRow({cmdOK, cmdSysInfo});
 }
 
-/// No platform that the program runs on so far has a system information program to start.
 void frmAbout::startSysInfo()
 {
-    m_boxes.message(u"System Information Is Unavailable At This Time"_s);
+    const QString report = systemReport(m_values, QPrinterInfo::availablePrinterNames());
+    if (report.isEmpty()) {
+        m_boxes.message(u"System Information Is Unavailable At This Time"_s);
+        return;
+    }
+    auto* const window = new frmSysInfo(report, this);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->open();
 }
 
 } // namespace norvane::shell

@@ -1,6 +1,7 @@
 // The about window.
 #pragma once
 
+#include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 #include "shell/StatusForm.h"
 
@@ -15,13 +16,14 @@ class frmAbout : public StatusForm
     Q_OBJECT
 
 public:
-    frmAbout(Boxes& boxes, MainStatusBar& status, QWidget* parent = nullptr);
+    frmAbout(const ApplicationValues& values, Boxes& boxes, MainStatusBar& status, QWidget* parent = nullptr);
 
 private:
     void layOut();
     [[nodiscard]] QLayout* makeButtons();
     void startSysInfo();
 
+    const ApplicationValues& m_values;
     Boxes& m_boxes;
 };
 

@@ -44,6 +44,11 @@ QStringList tablesOfTriggers(sqlite3* connection, const QString& table)
 
 } // namespace
 
+QString engineVersion()
+{
+    return QString::fromLatin1(sqlite3_libversion());
+}
+
 Database::Private::Private(const QString& path)
     : m_path(existingPath(path)), m_connection(openDatabaseFile(m_path))
 {

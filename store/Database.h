@@ -13,6 +13,9 @@ namespace norvane::store
 
 class Recordset;
 
+/// The version of the engine, such as "3.40.1".
+[[nodiscard]] QString engineVersion();
+
 /// An open database. Names of tables, fields and indexes match without regard to case. Not shared between
 /// threads. Open recordsets must be gone before it is.
 class Database

@@ -17,6 +17,8 @@
 #include "shell/CopyMenu.h"
 #include "shell/FrmCustomer.h"
 #include "shell/frmSplash.h"
+#include "shell/frmSysInfo.h"
+#include "shell/SystemReport.h"
 #include "store/Database.h"
 #include "ui/FrmSearch.h"
 #include "ui/MessageBoxes.h"
@@ -115,6 +117,10 @@ constexpr Dialog dialogs[] = {
      [](Ground& g, QWidget* p) -> QWidget* {
          g.values.reportMode = u"DAILYPLU"_s;
          return new sales::Frmreports(g.values, g.shop.boxes(), reports::runReport, p);
+     }},
+    {"system-info",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new shell::frmSysInfo(shell::systemReport(g.values, {}), p);
      }},
     {"splash",
      [](Ground& g, QWidget* /*p*/) -> QWidget* {

@@ -19,9 +19,18 @@ TEST_F(FormsInFrameTest, TheLettersOfTheSmallWindowsWinOverTheMenu)
     EXPECT_EQ(notice(), "Saved Setup");
     open("About");
     letter(Qt::Key_S);
-    EXPECT_TRUE(soon([this] { return !m_boxes.shown.empty(); }));
+    QPointer<QWidget> info;
+    ASSERT_TRUE(soon([&] { return !(info = m_main->findChild<QWidget*>(u"frmSysInfo"_s)).isNull(); }));
+    child<QPushButton>(*info, "CopyButton").click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text().section(u'\n', 0, 0), u"Program: " NORVANE_VERSION);
+    info->close();
+    EXPECT_TRUE(soon([&] { return info.isNull(); }));
+    QApplication::setActiveWindow(&*m_main);
+    const QString path = std::exchange(m_values.customerPath, m_folder.path("app/Gone"));
+    child<QPushButton>(*m_main, "cmdSysInfo").click();
     child<QPushButton>(*m_main, "cmdOK").click();
     EXPECT_TRUE(allClosed());
+    m_values.customerPath = path;
     for (const char* entry : {"DataSetup", "CollectSales"}) {
         open(entry);
         letter(Qt::Key_X);
