@@ -10,7 +10,7 @@ fi
 
 scripts/install-packages.sh --packages
 cmake --preset release
-cmake --build --preset release --target norvane norvane-shop template_database package_files
+cmake --build --preset release --target norvane norvane-shop template_database user_guide package_files
 rm -rf build/packages
 cpack --config build/release/CPackConfig.cmake
 # The work folder of cpack, and sums that nobody asked for.

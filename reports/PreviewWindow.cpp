@@ -3,11 +3,11 @@
 
 #include "platform/Boxes.h"
 #include "reports/ChartPane.h"
-#include "reports/FindBar.h"
 #include "reports/PageView.h"
 #include "reports/ReportFiles.h"
 #include "reports/RunProgress.h"
 #include "ui/Appearance.h"
+#include "ui/FindBar.h"
 #include "ui/FormKit.h"
 
 #include <QBoxLayout>
@@ -89,7 +89,7 @@ const std::array<PreviewWindow::FileKind, 3>& PreviewWindow::FileKind::all()
 
 PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterFinder findPrinter, QWidget* parent)
     : QWidget(parent, Qt::Window), m_document(std::move(report)), m_boxes(boxes),
-      m_findPrinter(std::move(findPrinter)), m_find(new FindBar(this)),
+      m_findPrinter(std::move(findPrinter)), m_find(new ui::FindBar(this)),
       m_view(new PageView(m_document, this)), m_charts(new ChartPane(m_document, this)),
       m_status(new QStatusBar(this))
 {
@@ -121,7 +121,7 @@ void PreviewWindow::buildControls()
     column->addWidget(m_find);
     column->addWidget(makeContent(), 1);
     column->addWidget(m_status);
-    connect(m_find, &FindBar::findWanted, this, &PreviewWindow::find);
+    connect(m_find, &ui::FindBar::findWanted, this, &PreviewWindow::find);
     connect(m_view, &PageView::currentPageChanged, this, &PreviewWindow::showPageNumber);
     m_view->setFocus();
 }

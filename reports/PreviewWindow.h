@@ -14,13 +14,16 @@ class QStatusBar;
 namespace norvane
 {
 class Boxes;
+namespace ui
+{
+class FindBar;
 }
+} // namespace norvane
 
 namespace norvane::reports
 {
 
 class ChartPane;
-class FindBar;
 class PageView;
 
 /// A window of its own that is deleted when it closes. It stands above @p parent and can be used while that
@@ -67,7 +70,7 @@ private:
     ReportDocument m_document;
     Boxes& m_boxes;
     PrinterFinder m_findPrinter;
-    FindBar* m_find;
+    ui::FindBar* m_find;
     PageView* m_view;
     ChartPane* m_charts;
     QLabel* m_pageNumber = nullptr;

@@ -1,7 +1,9 @@
 // Entry of the program.
 #include "base/ApplicationValues.h"
 #include "base/ProgramFolder.h"
+#include "platform/FilePaths.h"
 #include "shell/FrmMain.h"
+#include "shell/HelpKey.h"
 #include "shell/Openers.h"
 #include "shell/Program.h"
 #include "shell/StartSequence.h"
@@ -25,6 +27,7 @@ int runProgram(Boxes& boxes)
         boxes.message(u"There is no folder %1."_s.arg(values.appPath), {}, BoxIcon::Critical);
         return 1;
     }
+    const shell::HelpKey help(existingPath(joinPath(values.appPath, u"user-guide.html"_s)), boxes);
     shell::FrmMain mainWindow(values, boxes, shell::makeOpeners(values, boxes));
     QObject::connect(&mainWindow, &shell::FrmMain::unloaded, qApp, [] { QCoreApplication::exit(0); });
     if (!shell::StartSequence(values, boxes, mainWindow, shell::machineSecondsSinceMidnight).run())

@@ -136,7 +136,7 @@ constexpr auto entries = std::to_array<MenuEntry>({
     {"Setup"_L1, "ChangeCustomer"_L1, "&Change Customer File"_L1, Form, "FrmCustomer"_L1},
 
     {""_L1, "About"_L1, "&About"_L1, Form, "frmAbout"_L1},
-    // There is no help file.
+    // F1 opens the user guide; the entry itself is grey.
     {""_L1, "HelpMenu"_L1, "&Help"_L1, Nothing, {}, never},
 });
 // clang-format on

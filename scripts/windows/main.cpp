@@ -4,11 +4,13 @@
 // 1024 x 768 points. A line for each fault; the exit code is 1 when there is one.
 #include "scripts/windows/EveryWindow.h"
 #include "scripts/windows/TextCheck.h"
+#include "shell/HelpTopics.h"
 #include "ui/Appearance.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QMenu>
 #include <QScreen>
 #include <QTemporaryDir>
 
@@ -85,6 +87,20 @@ QString tooLarge(const QWidget& window)
                : QString();
 }
 
+/// F1 leads to the beginning of the user guide there, which helps nobody in a form. Boxes and menus lie above
+/// a form; the splash takes no keys.
+QString withoutHelp(const QWidget& window)
+{
+    QString name = window.objectName();
+    if (name.endsWith(u"Window"_s)) // the frame of a form in the main window
+        name.chop(6);
+    const bool isForm =
+        !qobject_cast<const QMenu*>(&window) && !name.endsWith(u"Box"_s) && name != u"frmSplash";
+    return isForm && norvane::shell::helpAnchor(name).isEmpty()
+               ? u"the form %1 has no place in the user guide"_s.arg(name)
+               : QString();
+}
+
 class Check
 {
 public:
@@ -96,8 +112,8 @@ public:
         const QImage picture = window.grab().toImage();
         if (!m_setting.pictures.isEmpty())
             picture.save(QDir(m_setting.pictures).filePath(name + u".png"_s));
-        for (const QString& fault :
-             QStringList(tooLarge(window)) + norvane::windows::unreadableTexts(window, picture))
+        for (const QString& fault : QStringList{tooLarge(window), withoutHelp(window)} +
+                                        norvane::windows::unreadableTexts(window, picture))
             tell(name, fault);
     }
     /// @return the exit code.

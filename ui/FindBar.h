@@ -1,4 +1,4 @@
-// The row in which a text is sought in a report.
+// The row in which a text is sought.
 #pragma once
 
 #include <QWidget>
@@ -6,10 +6,10 @@
 class QLabel;
 class QLineEdit;
 
-namespace norvane::reports
+namespace norvane::ui
 {
 
-/// Searches while the user types, beginning at the chosen line; Enter goes on to the next one.
+/// Searches while the user types, beginning at the chosen place; Enter goes on to the next one.
 class FindBar : public QWidget
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     [[nodiscard]] QString sought() const;
 
 Q_SIGNALS:
-    /// @param step 0 to begin at the chosen line itself, 1 and -1 for the next and the former one.
+    /// @param step 0 to begin at the chosen place itself, 1 and -1 for the next and the former one.
     void findWanted(int step);
 
 private:
@@ -32,4 +32,4 @@ private:
     QLabel* m_note;
 };
 
-} // namespace norvane::reports
+} // namespace norvane::ui
