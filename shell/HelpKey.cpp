@@ -45,8 +45,10 @@ HelpKey::HelpKey(QString guide, Boxes& boxes) : m_guide(std::move(guide)), m_box
 
 bool HelpKey::eventFilter(QObject* /*watched*/, QEvent* event)
 {
+    if (!isHelpKey(*event))
+        return false;
     QWidget* const window = QApplication::activeWindow();
-    if (!isHelpKey(*event) || !window || qobject_cast<GuideWindow*>(window))
+    if (!window || qobject_cast<GuideWindow*>(window))
         return false;
     const QWidget* const focus = QApplication::focusWidget();
     showGuide(*window, placeOf(focus ? focus : window));

@@ -18,6 +18,7 @@ cd /
 env -i ASAN_OPTIONS=detect_leaks=0 LD_DEBUG=files LD_DEBUG_OUTPUT="$root/loaded" \
   "$folder/program/norvane-shop" report CAFE pluprice --pdf "$root/prices.pdf"
 [ -s "$root/prices.pdf" ]
+grep -q "data:image/png;base64," "$folder/program/user-guide.html" # with its pictures
 
 # Also what only the window and its plugins load.
 export LD_LIBRARY_PATH=$folder/libraries
