@@ -4,11 +4,13 @@
 #include "paper/PageDevice.h"
 #include "reports/ReportPainter.h"
 
+#include <algorithm>
+
 namespace norvane::reports
 {
 
 bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device,
-                 const KeepGoing& keepGoing)
+                 const KeepGoing& keepGoing, PageSpan span)
 {
     const PageText text;
     ReportPages pages(report, text, showsCharts);
@@ -17,7 +19,7 @@ bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& 
     const QRectF& sheet = pages.frame().sheet;
     paper::PageDevice paper(device, QPageSize(QPageSize::A4),
                             sheet.width() > sheet.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
-    for (int page = 0; page < pages.pageCount(); ++page) {
+    for (int page = span.first - 1; page < std::min(span.last, pages.pageCount()); ++page) {
         painter.paint(paper.nextPage(), page);
         needGoOn(keepGoing);
     }

@@ -3,14 +3,22 @@
 
 #include "reports/ReportRun.h"
 
+#include <limits>
+
 class QPagedPaintDevice;
 
 namespace norvane::reports
 {
 
-/// Paints all pages on @p device, a printer or a PDF. @return false when the device failed.
+/// Pages from one to another, both included, counted from 1.
+struct PageSpan {
+    int first = 1;
+    int last = std::numeric_limits<int>::max();
+};
+
+/// Paints the pages of @p span on @p device, a printer or a PDF. @return false when the device failed.
 /// @throws ReportCancelled between two pages. A printer still prints the pages painted before.
 [[nodiscard]] bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device,
-                               const KeepGoing& keepGoing);
+                               const KeepGoing& keepGoing, PageSpan span = {});
 
 } // namespace norvane::reports

@@ -18,6 +18,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
+#include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
@@ -39,11 +40,27 @@ namespace
 constexpr QSize goodSize{1060, 800};
 constexpr int pagesAtOnce = 40;
 
-/// Makes the name of a file from a title such as "PLU Sales Report by Date.".
-QString fileName(const QString& title)
+/// "2026-11-01 to 2026-11-25", which sorts by day in a folder.
+QString periodOf(const ReportHeading& heading)
+{
+    QStringList days;
+    for (const QDate day : {heading.from, heading.to}) {
+        const QString text = day.toString(Qt::ISODate);
+        if (!text.isEmpty() && !days.contains(text))
+            days << text;
+    }
+    return days.join(u" to "_s);
+}
+
+/// The name of a file: the shop, a title such as "PLU Sales Report by Date." and the period.
+QString fileName(const ReportHeading& heading)
 {
     static const QRegularExpression unfit(u"[^\\w -]+"_s, QRegularExpression::UseUnicodePropertiesOption);
-    return QString(title).remove(unfit).simplified();
+    QStringList parts{heading.customer, heading.title, periodOf(heading)};
+    for (QString& part : parts)
+        part = part.remove(unfit).simplified();
+    parts.removeAll(QString());
+    return parts.join(u" - "_s);
 }
 
 QString documents()
@@ -276,18 +293,23 @@ void PreviewWindow::tell(const QString& text)
 
 void PreviewWindow::print()
 {
-    const auto printAll = [this](const KeepGoing& keepGoing) {
-        const QString printer =
-            printReport(m_document.report(), m_document.showsCharts(), m_findPrinter, keepGoing);
-        tell(u"Sent to the printer %1."_s.arg(printer));
+    m_document.pages().layOutAll();
+    m_view->updatePages();
+    const auto job =
+        askForPrint(m_findPrinter, {m_document.pages().pageCount(), m_view->currentPage() + 1}, this);
+    if (!job)
+        return;
+    const auto printPages = [&](const KeepGoing& keepGoing) {
+        printOn(*job, m_document.report(), m_document.showsCharts(), keepGoing);
+        tell(sentText(*job->printer));
     };
-    guarded(printAll, u"Cancelled. The pages that were ready are printed."_s);
+    guarded(printPages, u"Cancelled. The pages that were ready are printed."_s);
 }
 
 void PreviewWindow::save(const FileKind& kind)
 {
     const QString suffix = QLatin1String(kind.suffix);
-    const QString suggested = fileName(m_document.report().heading.title) + u'.' + suffix;
+    const QString suggested = fileName(m_document.report().heading) + u'.' + suffix;
     const QString path = m_boxes.fileToSave(
         {u"Save Report"_s, QDir(documents()).filePath(suggested), QLatin1String(kind.filter), suffix});
     if (path.isEmpty())

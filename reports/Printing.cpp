@@ -5,26 +5,75 @@
 #include "reports/PagedReport.h"
 #include "reports/ReportRun.h"
 
+#include <QDir>
+#include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::reports
 {
 
-QString printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter,
-                    const KeepGoing& keepGoing)
+namespace
 {
-    const std::unique_ptr<QPrinter> printer = findPrinter();
-    if (!printer) {
+
+PageSpan chosenPages(const QPrinter& printer, PrintedPages pages)
+{
+    switch (printer.printRange()) {
+    case QPrinter::PageRange:
+        return {printer.fromPage(), printer.toPage()};
+    case QPrinter::CurrentPage:
+        return {pages.current, pages.current};
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+std::optional<PrintJob> askForPrint(const PrinterFinder& findPrinter, PrintedPages pages, QWidget* parent)
+{
+    auto printer = findPrinter();
+    if (!printer && QPrinterInfo::availablePrinterNames().isEmpty())
+        return PrintJob{};
+    if (!printer)
+        printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    QPrintDialog dialog(printer.get(), parent);
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
+    dialog.setMinMax(1, pages.count);
+    dialog.setFromTo(1, pages.count);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    const PageSpan span = chosenPages(*printer, pages);
+    return PrintJob{std::move(printer), span};
+}
+
+void printOn(const PrintJob& job, const ReportData& report, bool showsCharts, const KeepGoing& keepGoing)
+{
+    if (!job.printer) {
         throw ReportError(
             u"There is no printer to print on. Choose a default printer in the system's settings, "
             "or save the report as a file."_s);
     }
-    printer->setDocName(report.heading.title);
-    if (!paintReport(report, showsCharts, *printer, keepGoing) || !paper::isThere(*printer))
-        throw ReportError(u"The printer %1 does not print. Is it still there?"_s.arg(printer->printerName()));
-    return printer->printerName();
+    QPrinter& printer = *job.printer;
+    printer.setDocName(report.heading.title);
+    if (!paintReport(report, showsCharts, printer, keepGoing, job.pages) || !paper::isThere(printer))
+        throw ReportError(u"The printer %1 does not print. Is it still there?"_s.arg(printer.printerName()));
+}
+
+void printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter,
+                 const KeepGoing& keepGoing)
+{
+    printOn({findPrinter(), {}}, report, showsCharts, keepGoing);
+}
+
+QString sentText(const QPrinter& printer)
+{
+    if (!printer.outputFileName().isEmpty())
+        return u"Saved as %1."_s.arg(QDir::toNativeSeparators(printer.outputFileName()));
+    const QString sent = u"Sent to the printer %1"_s.arg(printer.printerName());
+    return printer.copyCount() > 1 ? u"%1, %2 copies."_s.arg(sent).arg(printer.copyCount()) : sent + u'.';
 }
 
 } // namespace norvane::reports

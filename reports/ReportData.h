@@ -55,7 +55,9 @@ struct ReportHeading {
     QString subtitle;    ///< the period in words and dates, or which other table the selection names
     QString customer;
     QDateTime printed;
-    QString notice; ///< stands in place of the lines when the period holds none
+    QString notice;  ///< stands in place of the lines when the period holds none
+    QDate from = {}; ///< first day of the period; invalid where it has none
+    QDate to = {};
 };
 
 struct PageSetup {

@@ -219,6 +219,10 @@ void Run::setHeading(ReportHeading& heading) const
     heading.subtitle = subtitle();
     heading.customer = m_request.customer;
     heading.printed = m_request.now;
+    if (m_period) {
+        heading.from = m_period->from;
+        heading.to = m_period->to;
+    }
 }
 
 QString Run::subtitle() const

@@ -6,6 +6,7 @@
 #include "tests/support/FormTest.h"
 #include "tests/support/OtherPrograms.h"
 
+#include <QPrintDialog>
 #include <QPrinter>
 
 namespace norvane::test
@@ -18,12 +19,25 @@ using namespace reports;
 ReportData longReport()
 {
     ReportData report = emptySales();
+    report.heading.from = QDate(2004, 5, 1);
+    report.heading.to = QDate(2004, 5, 7);
     for (int group = 0; group < 4; ++group)
         addGroup(report, u"Group %1"_s.arg(group), 100);
     report.charts = {sampleChart(ChartKind::Ranking, 15), sampleChart(ChartKind::Shares, 6),
                      sampleChart(ChartKind::Course, 31)};
     return report;
 }
+
+class SavingBoxes : public RecordingBoxes
+{
+public:
+    QString fileToSave(const FileRequest& request) override
+    {
+        suggested = QFileInfo(request.folder).fileName();
+        return RecordingBoxes::fileToSave(request);
+    }
+    QString suggested;
+};
 
 class PreviewTest : public testing::Test
 {
@@ -66,6 +80,23 @@ protected:
         press(Qt::Key_C, Qt::ControlModifier);
         return QGuiApplication::clipboard()->text();
     }
+    /// Prints by the key, and answers the system's print dialog once it is open.
+    void print(const std::function<void(QDialog&)>& answer)
+    {
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            poll.stop();
+            answer(*dialog);
+        });
+        poll.start(10);
+        press(Qt::Key_P, Qt::ControlModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !poll.isActive(); }));
+        m_preview->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_preview));
+    }
     void save(const char* kind, const QString& path)
     {
         m_boxes.typed.push_back(path);
@@ -73,12 +104,13 @@ protected:
     }
 
     TestFolder m_folder;
-    RecordingBoxes m_boxes;
+    SavingBoxes m_boxes;
     PrinterFinder m_finder = [this] {
         auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-        printer->setOutputFileName(m_folder.path("paper.pdf"));
+        printer->setOutputFileName(m_folder.path(("paper" + std::to_string(++m_prints) + ".pdf").c_str()));
         return printer;
     };
+    int m_prints = 0;
     QPointer<PreviewWindow> m_preview = new PreviewWindow(longReport(), m_boxes, m_finder, nullptr);
 };
 
@@ -173,19 +205,29 @@ TEST_F(PreviewTest, CopiesAllLinesWhereNoneIsChosen)
 
 TEST_F(PreviewTest, PrintsAndSavesWhatItShows)
 {
-    press(Qt::Key_P, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !status().empty(); })) << "the press of a key takes a moment";
+    print([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(status(), "");
+    print([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    EXPECT_EQ(status(), "Saved as " + m_folder.path("paper2.pdf").toStdString() + '.');
+    print([](QDialog& dialog) {
+        dialog.findChild<QRadioButton*>(u"printRange"_s)->click();
+        dialog.findChild<QSpinBox*>(u"from"_s)->setValue(9);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(pdfLines(m_folder.path("paper3.pdf")).filter(u" of 10"_s).join(u'|'),
+              u"Page 9 of 10|Page 10 of 10"_s);
     save("SavePdf", m_folder.path("whole.pdf"));
+    EXPECT_EQ(m_boxes.suggested, u"Corner Shop - PLU Sales Report by Date - 2004-05-01 to 2004-05-07.pdf"_s);
     press(Qt::Key_H, Qt::AltModifier);
     expectPageText(u"Page 1 of 9"_s);
     EXPECT_FALSE(control(u"Charts"_s)->isVisible());
     save("SavePdf", m_folder.path("lines.pdf"));
-    for (const auto& [file, pages] : {std::pair("paper.pdf", 10), {"whole.pdf", 10}, {"lines.pdf", 9}}) {
+    for (const auto& [file, pages] : {std::pair("paper2.pdf", 10), {"whole.pdf", 10}, {"lines.pdf", 9}}) {
         const QStringList lines = pdfLines(m_folder.path(file));
         EXPECT_EQ(lines.filter(u" of %1"_s.arg(pages)).size(), pages) << file;
         EXPECT_EQ(lines.contains(u"Best-selling PLUs"_s), pages == 10) << file;
     }
-    EXPECT_EQ(pdfPage(m_folder.path("paper.pdf"), 10), pdfPage(m_folder.path("whole.pdf"), 10));
+    EXPECT_EQ(pdfPage(m_folder.path("paper2.pdf"), 10), pdfPage(m_folder.path("whole.pdf"), 10));
 }
 
 TEST_F(PreviewTest, TellsWhatCannotBeSavedOrPrinted)
