@@ -9,6 +9,10 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,6 +21,22 @@ namespace norvane::reports
 
 namespace
 {
+
+/// Qt hides copies and pages below a button at first.
+void openOptions(const QPrintDialog& dialog)
+{
+    const auto buttons = dialog.findChildren<QPushButton*>();
+    const auto options = std::ranges::find(buttons, QPrintDialog::tr("&Options >>"), &QPushButton::text);
+    if (options != buttons.end())
+        (*options)->click();
+}
+
+/// A list such as "1,3-5" is sent with the job: the print server takes these pages out of all.
+bool isChosenByServer(const QPrintDialog& dialog)
+{
+    const auto* const list = dialog.findChild<QRadioButton*>(u"pagesRadioButton"_s);
+    return list && list->isChecked() && list->isEnabled();
+}
 
 PageSpan chosenPages(const QPrinter& printer, PrintedPages pages)
 {
@@ -43,9 +63,10 @@ std::optional<PrintJob> askForPrint(const PrinterFinder& findPrinter, PrintedPag
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, pages.count);
     dialog.setFromTo(1, pages.count);
+    openOptions(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    const PageSpan span = chosenPages(*printer, pages);
+    const PageSpan span = isChosenByServer(dialog) ? PageSpan() : chosenPages(*printer, pages);
     return PrintJob{std::move(printer), span};
 }
 
