@@ -104,11 +104,14 @@ void GuideWindow::showPlace(const QString& anchor)
     m_text->setFocus();
 }
 
-/// Goes on at the other end of the guide when there is nothing more this way.
+/// Begins where the user reads, and goes on at the other end of the guide when there is nothing more this
+/// way.
 void GuideWindow::find(int step)
 {
     const QString sought = m_find->sought();
     QTextCursor from = m_text->textCursor();
+    if (!m_text->viewport()->rect().intersects(m_text->cursorRect()))
+        from = m_text->cursorForPosition({});
     const QTextDocument::FindFlags direction =
         step < 0 ? QTextDocument::FindBackward : QTextDocument::FindFlags();
     if (step == 0)

@@ -75,9 +75,11 @@ TEST_F(HelpTest, F1OpensTheGuideAtTheFormAndASearchFindsMore)
 
     auto& sought = child<QLineEdit>(*guide, "FindText");
     const auto& text = child<QTextBrowser>(*guide, "GuideText");
+    const int shownFrom = text.cursorForPosition({20, 20}).position();
     QTest::keyClicks(&sought, u"SAFETY copy"_s);
     const int first = text.textCursor().position();
     EXPECT_EQ(text.textCursor().selectedText(), u"safety copy");
+    EXPECT_GT(first, shownFrom);
     QTest::keyClick(&sought, Qt::Key_Return);
     EXPECT_GT(text.textCursor().position(), first);
     QTest::keyClicks(&sought, u"x"_s);
