@@ -20,7 +20,7 @@ protected:
     {
         m_document = document;
         m_preview.reset();
-        const PreviewActions actions{[] {}, [] {},
+        const PreviewActions actions{[](const paper::PrinterCorrection&) {}, [] {},
                                      [this](const paper::PrinterCorrection& correction) {
                                          m_testPages.push_back(correction);
                                          return m_testPages.size() > 1;
