@@ -78,8 +78,9 @@ void openDesigner(benchmark::State& state)
     const ApplicationValues values;
     test::RecordingBoxes boxes;
     SystemDialogs dialogs;
+    PrinterInUse printer;
     for (auto _ : state) {
-        OverlayForm form(Keyboard::Velmar, values, boxes, dialogs);
+        OverlayForm form(Keyboard::Velmar, values, boxes, dialogs, printer);
         form.show();
         QApplication::processEvents();
         benchmark::DoNotOptimize(form.grab());

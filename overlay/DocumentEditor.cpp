@@ -156,7 +156,8 @@ bool DocumentEditor::isWhiteKey(int cell) const
     const KeyPlace& key = m_document.layout().keyOf(cell);
     const auto first = m_document.cells().begin() + key.firstCell;
     return key.cells > 1 && key.firstCell == cell &&
-           std::all_of(first, first + key.cells, [](const Cell& each) { return each.background == white; });
+           std::all_of(first, first + key.cells,
+                       [](const Cell& each) { return drawnBackground(each.background) == Qt::white; });
 }
 
 void DocumentEditor::giveColours(Document& document, int cell) const

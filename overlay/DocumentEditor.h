@@ -51,8 +51,9 @@ public:
     void setText(int cell, const QString& text);
     void endTyping() { ++m_typing; }
     void click(int cell);
-    /// On the first cell of a key of three white cells, all three take the current colours; otherwise the
-    /// cell alone does. A click that came just before is taken back: it was the first half of this one.
+    /// On the first cell of a key of three cells that are drawn white, all three take the current colours;
+    /// otherwise the cell alone does. A click that came just before is taken back: it was the first half of
+    /// this one.
     void doubleClick(int cell);
     /// @throws RuntimeFailure as importdata() does. What was imported, by then too, is one step.
     void importLevel(int level, const QString& databasePath);

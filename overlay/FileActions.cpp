@@ -37,9 +37,11 @@ FileActions::FileActions(DocumentEditor& editor, const ApplicationValues& values
 FileChoice FileActions::choice(const QString& title, FileChoice::Name name) const
 {
     const DocumentFiles& files = m_editor.document().geometry().files;
-    const bool opens = name == FileChoice::Name::Existing;
-    return {title, m_values.customerPath, shownFilter(files.filter),
-            opens ? QString() : suffixOf(files.defaultExtension), name};
+    QStringList suffixes = {suffixOf(files.defaultExtension)};
+    if (name == FileChoice::Name::Existing)
+        suffixes.prepend(suffixOf(files.extension));
+    suffixes.removeDuplicates();
+    return {title, m_values.customerPath, shownFilter(files.filter), suffixes, name};
 }
 
 void FileActions::Newfile()
@@ -107,9 +109,11 @@ bool FileActions::SaveFile()
 
 bool FileActions::mayDropChanges()
 {
-    return m_editor.history().isClean() ||
-           m_boxes.choose(u"%1 has changes that were not saved."_s.arg(documentName()), u"Unsaved Changes"_s,
-                          u"&Drop the changes"_s, u"&Keep them"_s);
+    if (m_editor.history().isClean())
+        return true;
+    const UnsavedAnswer answer =
+        m_boxes.askToSave(u"Changes to %1 are not saved."_s.arg(documentName()), u"Unsaved Changes"_s);
+    return answer == UnsavedAnswer::Save ? SaveFile() : answer == UnsavedAnswer::Discard;
 }
 
 QString FileActions::documentName() const

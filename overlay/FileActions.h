@@ -27,7 +27,8 @@ public:
     void OpenFile();
     /// @return whether the document was written.
     bool SaveFile();
-    /// Asks whether changes that were not saved may be dropped, if there are any.
+    /// Asks whether changes are to be saved or dropped, if there are any. @return false when the user keeps
+    /// them or they could not be saved.
     [[nodiscard]] bool mayDropChanges();
     /// What the document is called in titles: the name of its file, "Untitled" before it has one.
     [[nodiscard]] QString documentName() const;

@@ -29,7 +29,8 @@ struct FileChoice {
     QString title;
     QString path;   ///< the file that is filled in, or the folder that is shown first
     QString filter; ///< "Keyboard Files (*.Dorvik)"
-    QString suffix; ///< added to a name typed without one; may be empty
+    /// Added to a name typed without one: to an existing file's the first that fits, else the first of all.
+    QStringList suffixes;
     Name name = Name::Existing;
 };
 

@@ -1,12 +1,14 @@
 // See OverlayForm.h.
 #include "overlay/OverlayForm.h"
 
+#include "base/CustomerSettings.h"
 #include "overlay/ColourStrip.h"
 #include "overlay/KeyboardView.h"
 #include "overlay/KeyClipboard.h"
 #include "overlay/SheetPainter.h"
 #include "platform/Boxes.h"
 #include "platform/FailureBox.h"
+#include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
 #include <QClipboard>
@@ -40,6 +42,19 @@ QFont fontOf(const CellFont& font)
     return shown;
 }
 
+/// The keyboard of the customer whose database is imported from; nothing when the settings do not say.
+std::optional<Keyboard> keyboardInUse(ApplicationValues values)
+{
+    values.customerPath = QFileInfo(values.databasePath).path();
+    try {
+        const double model = ecrModel(values);
+        const bool isVelmar = model == 0 || model == 1 || model == 2;
+        return isVelmar ? Keyboard::Velmar : Keyboard::Dorvik;
+    } catch (const RuntimeFailure&) {
+        return std::nullopt;
+    }
+}
+
 /// The dialog shows what stands in for a font that this computer does not have. Documents keep its name.
 QString nameOf(const QFont& chosen, const QFont& initial)
 {
@@ -49,10 +64,9 @@ QString nameOf(const QFont& chosen, const QFont& initial)
 } // namespace
 
 OverlayForm::OverlayForm(Keyboard keyboard, const ApplicationValues& values, Boxes& boxes,
-                         OverlayDialogs& dialogs, PrinterFinder finder, QWidget* parent)
+                         OverlayDialogs& dialogs, PrinterInUse& printer, QWidget* parent)
     : QDialog(parent, Qt::Window), m_values(values), m_boxes(boxes), m_dialogs(dialogs), m_editor(keyboard),
-      m_files(m_editor, values, boxes, dialogs),
-      m_sheet(m_editor.document(), boxes, dialogs, std::move(finder)),
+      m_files(m_editor, values, boxes, dialogs), m_sheet(m_editor.document(), boxes, dialogs, printer),
       m_keyboard(new KeyboardView(m_editor, this)), m_colours(new ColourStrip(this)),
       Label1(new QLabel(u"Sample"_s, this)), StatusBar1(new QStatusBar(this))
 {
@@ -92,7 +106,7 @@ void OverlayForm::followHistory()
 void OverlayForm::openAtGoodSize()
 {
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
-    resize(screen()->availableSize() * 0.94);
+    ui::centreOnScreen(*this, screen()->availableSize() * 0.94);
 }
 
 void OverlayForm::reject()
@@ -125,7 +139,12 @@ void OverlayForm::print()
 
 void OverlayForm::printUnder(const std::optional<paper::PrinterCorrection>& correction)
 {
-    m_sheet.print(m_files.documentName(), correction);
+    const QString destination = m_sheet.destination(correction);
+    tell(destination);
+    if (m_sheet.print(m_files.documentName(), correction))
+        tell(u"Sent to the printer. "_s + destination);
+    else
+        showCurrentCell(m_keyboard->currentCell());
 }
 
 void OverlayForm::preview()
@@ -211,10 +230,20 @@ void OverlayForm::importLevel(int level)
 {
     try {
         m_editor.importLevel(level, m_values.databasePath);
-        tell(u"Level %1 was imported."_s.arg(level));
+        tell(u"Level %1 was imported."_s.arg(level) + keyboardNotice());
     } catch (const RuntimeFailure& failure) {
         showFailure(failure, m_boxes);
     }
+}
+
+/// What the user should know when the level is another keyboard's: its rows fill the keys all the same.
+QString OverlayForm::keyboardNotice() const
+{
+    const auto used = keyboardInUse(m_values);
+    if (!used || *used == m_editor.document().keyboard())
+        return {};
+    return u" It is a level of a %1: the texts may be on the wrong keys of this %2."_s.arg(
+        geometryOf(*used).name, m_editor.document().geometry().name);
 }
 
 void OverlayForm::undo()

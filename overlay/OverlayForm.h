@@ -27,11 +27,11 @@ class OverlayForm : public QDialog
     Q_OBJECT
 
 public:
-    /// @p values, @p boxes and @p dialogs must outlive the form.
+    /// @p values, @p boxes, @p dialogs and @p printer must outlive the form.
     OverlayForm(Keyboard keyboard, const ApplicationValues& values, Boxes& boxes, OverlayDialogs& dialogs,
-                PrinterFinder finder = findPrinter, QWidget* parent = nullptr);
+                PrinterInUse& printer, QWidget* parent = nullptr);
 
-    /// Asks whether unsaved changes may be dropped, for a window that is closed with this form in it.
+    /// Asks what becomes of unsaved changes, for a window that is closed with this form in it.
     [[nodiscard]] bool mayLeave() { return m_files.mayDropChanges(); }
     /// The user leaves with the entry "E&xit", the Escape key or the window's close button.
     void reject() override;
@@ -61,6 +61,7 @@ private:
     void chooseBackground();
     void chooseTextColour();
     void importLevel(int level);
+    [[nodiscard]] QString keyboardNotice() const;
     void undo();
     void redo();
     void copyKey();

@@ -41,7 +41,7 @@ OverlayPreview::OverlayPreview(const Document& document, TargetPrinter target, P
     setWindowTitle(u"Preview - %1"_s.arg(printerName()));
     buildControls();
     showTarget();
-    resize(goodSize.boundedTo(screen()->availableSize() * 0.94));
+    ui::centreOnScreen(*this, goodSize.boundedTo(screen()->availableSize() * 0.94));
     m_view->setFocus();
 }
 

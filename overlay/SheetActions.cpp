@@ -15,6 +15,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::overlay
 {
+namespace
+{
+
+QString percent(double stretch)
+{
+    return QString::number(stretch * 100, 'g', 5) + u" %"_s;
+}
+
+} // namespace
 
 std::unique_ptr<QPrinter> findPrinter(const PrinterChoice& choice)
 {
@@ -25,23 +34,23 @@ std::unique_ptr<QPrinter> findPrinter(const PrinterChoice& choice)
 }
 
 SheetActions::SheetActions(const Document& document, Boxes& boxes, OverlayDialogs& dialogs,
-                           PrinterFinder finder)
-    : m_document(document), m_boxes(boxes), m_dialogs(dialogs), m_finder(std::move(finder))
+                           PrinterInUse& printer)
+    : m_document(document), m_boxes(boxes), m_dialogs(dialogs), m_printer(printer)
 {
 }
 
 void SheetActions::setUpPrinter()
 {
-    if (const auto chosen = m_dialogs.printer(m_choice))
-        m_choice = *chosen;
+    if (const auto chosen = m_dialogs.printer(m_printer.choice))
+        m_printer.choice = *chosen;
 }
 
 std::unique_ptr<QPrinter> SheetActions::printerForSheet() const
 {
-    auto printer = m_finder(m_choice);
+    auto printer = m_printer.find(m_printer.choice);
     if (printer) {
         printer->setPageSize(QPageSize(QPageSize::A4));
-        printer->setPageOrientation(m_choice.orientation);
+        printer->setPageOrientation(m_printer.choice.orientation);
         paper::askForHighQuality(*printer);
     }
     return printer;
@@ -56,7 +65,7 @@ TargetPrinter SheetActions::targetOf(const QPrinter& printer) const
 TargetPrinter SheetActions::target() const
 {
     const auto printer = printerForSheet();
-    return printer ? targetOf(*printer) : TargetPrinter{QString(), {m_choice.orientation}, {}};
+    return printer ? targetOf(*printer) : TargetPrinter{QString(), {m_printer.choice.orientation}, {}};
 }
 
 bool SheetActions::printOn(const QString& name, const std::optional<paper::PrinterCorrection>& correction,
@@ -89,15 +98,30 @@ bool SheetActions::mayCut() const
     return m_boxes.ask(told + u"\r\rPrint all the same?"_s, u"Print Option"_s);
 }
 
-void SheetActions::print(const QString& name, const std::optional<paper::PrinterCorrection>& correction)
+QString SheetActions::destination(const std::optional<paper::PrinterCorrection>& correction) const
+{
+    const TargetPrinter used = target();
+    const paper::PrinterCorrection& in = correction ? *correction : used.correction;
+    const bool isLandscape = used.sheet.orientation == QPageLayout::Landscape;
+    const QString scale =
+        in.across.stretch == in.down.stretch
+            ? percent(in.across.stretch)
+            : u"%1 across, %2 down"_s.arg(percent(in.across.stretch), percent(in.down.stretch));
+    return u"Printer: %1. Paper: A4 %2. Scale: %3."_s.arg(
+        used.name.isEmpty() ? u"none"_s : used.name, isLandscape ? u"landscape"_s : u"portrait"_s, scale);
+}
+
+bool SheetActions::print(const QString& name, const std::optional<paper::PrinterCorrection>& correction)
 {
     if (!m_boxes.confirm(u"Start Printing?"_s, u"Print Option"_s) || !mayCut())
-        return;
+        return false;
     const auto paint = [this](QPrinter& printer, const TargetPrinter& target) {
         return printSheet(m_document, printer, target);
     };
-    if (!printOn(name, correction, paint))
+    const bool isPrinted = printOn(name, correction, paint);
+    if (!isPrinted)
         m_boxes.message(u"Printer Failure"_s, u"Error"_s, BoxIcon::Critical);
+    return isPrinted;
 }
 
 QString SheetActions::savePdf(const QString& suggested)
@@ -106,7 +130,7 @@ QString SheetActions::savePdf(const QString& suggested)
     if (path.isEmpty())
         return {};
     try {
-        writeSheetPdf(m_document, m_choice.orientation, path);
+        writeSheetPdf(m_document, m_printer.choice.orientation, path);
         return path;
     } catch (const RuntimeFailure& failure) {
         m_boxes.message(failure.text(), u"Save as PDF"_s, BoxIcon::Critical);

@@ -23,17 +23,26 @@ namespace norvane::overlay
 using PrinterFinder = std::function<std::unique_ptr<QPrinter>(const PrinterChoice&)>;
 [[nodiscard]] std::unique_ptr<QPrinter> findPrinter(const PrinterChoice& choice);
 
-/// Works on a document and one choice of a printer. All that is handed in must outlive this.
+/// Where sheets are printed. The designers share one as long as the program runs.
+struct PrinterInUse {
+    PrinterChoice choice;
+    PrinterFinder find = findPrinter;
+};
+
+/// Works on a document and a printer. All that is handed in must outlive this.
 class SheetActions
 {
 public:
-    SheetActions(const Document& document, Boxes& boxes, OverlayDialogs& dialogs, PrinterFinder finder);
+    SheetActions(const Document& document, Boxes& boxes, OverlayDialogs& dialogs, PrinterInUse& printer);
 
     void setUpPrinter();
+    /// Printer, paper and scale of the next print, in words. @param correction as for print().
+    [[nodiscard]] QString destination(const std::optional<paper::PrinterCorrection>& correction) const;
     /// Asks whether to start, and once more when texts will be cut; tells when the printer fails.
     /// @param name of the document, for the print queue.
     /// @param correction in force; without one, the printer's stored one.
-    void print(const QString& name, const std::optional<paper::PrinterCorrection>& correction = {});
+    /// @return whether the sheet went to the printer.
+    bool print(const QString& name, const std::optional<paper::PrinterCorrection>& correction = {});
     /// @param suggested path. @return where the file was written; empty when it was not.
     QString savePdf(const QString& suggested);
     /// @param print what the preview's Print button does, under the correction that the preview shows.
@@ -57,8 +66,7 @@ private:
     const Document& m_document;
     Boxes& m_boxes;
     OverlayDialogs& m_dialogs;
-    PrinterFinder m_finder;
-    PrinterChoice m_choice;
+    PrinterInUse& m_printer;
     paper::PrinterCorrections m_corrections = paper::PrinterCorrections::ofThisComputer();
 };
 

@@ -1,14 +1,16 @@
 // See SystemDialogs.h.
 #include "overlay/SystemDialogs.h"
 
+#include "overlay/FontBox.h"
 #include "overlay/PrinterSetup.h"
+#include "platform/FilePaths.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFontDialog>
 #include <QFontInfo>
+#include <QMessageBox>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,20 +30,73 @@ void showPath(QFileDialog& box, const QString& path)
     }
 }
 
+/// The existing file that is meant by @p typed, which may lack its ending; empty when there is none.
+QString meantFile(const QString& typed, const QStringList& suffixes)
+{
+    QStringList paths = {typed};
+    for (const QString& suffix : suffixes)
+        paths += typed + u'.' + suffix;
+    for (const QString& path : paths) {
+        if (QFileInfo(existingPath(path)).isFile())
+            return existingPath(path);
+    }
+    return {};
+}
+
+/// Takes the name of any existing file. The kit's own mode for that takes only a name that its filter shows,
+/// with its ending.
+class OpenBox : public QFileDialog
+{
+public:
+    explicit OpenBox(const FileChoice& choice)
+        : QFileDialog(QApplication::activeWindow(), choice.title, {}, choice.filter),
+          m_suffixes(choice.suffixes)
+    {
+    }
+    [[nodiscard]] QString path() const { return m_path; }
+    void accept() override
+    {
+        const QString typed = selectedFiles().value(0);
+        m_path = meantFile(typed, m_suffixes);
+        if (QFileInfo(typed).isDir()) {
+            QFileDialog::accept();
+        } else if (!m_path.isEmpty()) {
+            QDialog::accept();
+        } else {
+            QMessageBox::warning(this, windowTitle(),
+                                 u"There is no file %1 in this folder."_s.arg(QFileInfo(typed).fileName()));
+        }
+    }
+
+private:
+    QStringList m_suffixes;
+    QString m_path;
+};
+
+/// Sets up what the dialogs for files have in common.
+void setUp(QFileDialog& box, const FileChoice& choice)
+{
+    box.setObjectName(u"FileBox"_s);
+    const bool writes = choice.name == FileChoice::Name::ToWrite;
+    box.setAcceptMode(writes ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    box.setFileMode(QFileDialog::AnyFile);
+    // Whether a file may be replaced is asked by the form, in its own words.
+    box.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
+    showPath(box, choice.path);
+}
+
 } // namespace
 
 QString SystemDialogs::file(const FileChoice& choice)
 {
+    if (choice.name == FileChoice::Name::Existing) {
+        OpenBox box(choice);
+        setUp(box, choice);
+        return box.exec() == QDialog::Accepted ? box.path() : QString();
+    }
     QFileDialog box(QApplication::activeWindow(), choice.title, {}, choice.filter);
-    box.setObjectName(u"FileBox"_s);
-    const bool writes = choice.name == FileChoice::Name::ToWrite;
-    box.setAcceptMode(writes ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    box.setFileMode(choice.name == FileChoice::Name::Existing ? QFileDialog::ExistingFile
-                                                              : QFileDialog::AnyFile);
-    box.setDefaultSuffix(choice.suffix);
-    // Whether a file may be replaced is asked by the form, in its own words.
-    box.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
-    showPath(box, choice.path);
+    setUp(box, choice);
+    box.setDefaultSuffix(choice.suffixes.value(0));
     return box.exec() == QDialog::Accepted ? box.selectedFiles().value(0) : QString();
 }
 
@@ -59,11 +114,8 @@ std::optional<QFont> SystemDialogs::font(const QFont& initial)
 {
     QFont shown = initial;
     shown.setFamily(QFontInfo(initial).family());
-    QFontDialog box(shown, QApplication::activeWindow());
-    box.setObjectName(u"FontBox"_s);
-    box.setWindowTitle(u"Font"_s);
-    box.setOption(QFontDialog::DontUseNativeDialog);
-    return box.exec() == QDialog::Accepted ? std::optional(box.selectedFont()) : std::nullopt;
+    FontBox box(shown, QApplication::activeWindow());
+    return box.exec() == QDialog::Accepted ? std::optional(box.choice()) : std::nullopt;
 }
 
 std::optional<PrinterChoice> SystemDialogs::printer(const PrinterChoice& initial)

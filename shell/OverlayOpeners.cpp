@@ -39,11 +39,17 @@ private:
     OverlayForm& m_form;
 };
 
+/// What the designers share as long as the program runs.
+struct Shared {
+    overlay::SystemDialogs dialogs;
+    overlay::PrinterInUse printer;
+};
+
 void openBeside(FrmMain& main, Keyboard keyboard, const ApplicationValues& values, Boxes& boxes,
-                overlay::OverlayDialogs& dialogs)
+                Shared& shared)
 {
     const auto make = [&] {
-        auto* const form = new OverlayForm(keyboard, values, boxes, dialogs);
+        auto* const form = new OverlayForm(keyboard, values, boxes, shared.dialogs, shared.printer);
         new CloseQuestion(main, *form);
         return form;
     };
@@ -51,9 +57,9 @@ void openBeside(FrmMain& main, Keyboard keyboard, const ApplicationValues& value
 }
 
 void openModal(FrmMain& main, Keyboard keyboard, const ApplicationValues& values, Boxes& boxes,
-               overlay::OverlayDialogs& dialogs)
+               Shared& shared)
 {
-    OverlayForm form(keyboard, values, boxes, dialogs, overlay::findPrinter, &main);
+    OverlayForm form(keyboard, values, boxes, shared.dialogs, shared.printer, &main);
     form.exec();
 }
 
@@ -61,10 +67,10 @@ void openModal(FrmMain& main, Keyboard keyboard, const ApplicationValues& values
 
 FrmMain::FormOpeners makeOverlayOpeners(const ApplicationValues& values, Boxes& boxes)
 {
-    const auto dialogs = std::make_shared<overlay::SystemDialogs>();
-    const auto opener = [dialogs, &values, &boxes](Keyboard keyboard, auto open) {
+    const auto shared = std::make_shared<Shared>();
+    const auto opener = [shared, &values, &boxes](Keyboard keyboard, auto open) {
         return [=, &values, &boxes](FrmMain& main, const MenuEntry&) {
-            open(main, keyboard, values, boxes, *dialogs);
+            open(main, keyboard, values, boxes, *shared);
         };
     };
     return {{u"Dorvik"_s, opener(Keyboard::Dorvik, openModal)},

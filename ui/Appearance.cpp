@@ -9,6 +9,7 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QProxyStyle>
+#include <QScreen>
 #include <QStyleOption>
 #include <QWidget>
 
@@ -176,6 +177,16 @@ QIcon applicationIcon()
 void centreOn(QWidget& form, const QWidget& frame)
 {
     form.move(qMax(0, (frame.width() - form.width()) / 2), qMax(0, (frame.height() - form.height()) / 2));
+}
+
+void centreOnScreen(QWidget& form, QSize good)
+{
+    // Desktops tell the size of a frame only after the window is shown.
+    constexpr QMargins frame(8, 40, 8, 10);
+    const QRect room = form.screen()->availableGeometry().marginsRemoved(frame);
+    QRect place(QPoint(), good.boundedTo(room.size()));
+    place.moveCenter(room.center());
+    form.setGeometry(place);
 }
 
 } // namespace norvane::ui

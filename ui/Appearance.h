@@ -74,4 +74,8 @@ void applyAppearance(QApplication& application);
 /// Places @p form in the middle of @p frame, but never beyond the frame's upper left corner.
 void centreOn(QWidget& form, const QWidget& frame);
 
+/// Gives @p form, a window that was not shown yet, the size @p good and the middle of its screen. It is made
+/// smaller where it would not fit with its frame.
+void centreOnScreen(QWidget& form, QSize good);
+
 } // namespace norvane::ui

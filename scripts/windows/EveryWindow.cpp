@@ -41,6 +41,7 @@ struct Ground {
     FilledShop& shop;
     ApplicationValues values = shop.values();
     overlay::SystemDialogs dialogs;
+    overlay::PrinterInUse printer;
     store::Database database = store::Database(values.databasePath);
     overlay::Document document = overlay::Document(overlay::Keyboard::Velmar);
     paper::PrinterCorrections corrections = paper::PrinterCorrections(shop.folder().appFile(u"none.ini"_s));
@@ -54,7 +55,7 @@ struct Dialog {
 QWidget* designer(overlay::Keyboard keyboard, Ground& ground, QWidget* parent)
 {
     auto* const form = new overlay::OverlayForm(keyboard, ground.values, ground.shop.boxes(), ground.dialogs,
-                                                overlay::findPrinter, parent);
+                                                ground.printer, parent);
     if (auto* const import = form->findChild<QAction*>(u"ImportLevel1"_s))
         import->trigger();
     return form;

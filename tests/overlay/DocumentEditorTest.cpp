@@ -53,6 +53,10 @@ TEST_F(DocumentEditorTest, ADoubleClickColoursAWhiteKeyOrOneCell)
     m_editor.doubleClick(4);
     m_editor.doubleClick(3);
     EXPECT_EQ(blueCells(), (std::vector{3, 4})) << "the key is no longer all white";
+    m_editor.pasteKey(
+        3, {{{}, {-2147483643}, black, {}}, {{}, {0x7fffffff}, black, {}}, {{}, white, black, {}}});
+    m_editor.doubleClick(3);
+    EXPECT_EQ(blueCells(), (std::vector{3, 4, 5})) << "other numbers that are drawn white";
 }
 
 TEST_F(DocumentEditorTest, ADoubleClickTakesTheFontOfItsFirstClickBack)

@@ -30,10 +30,7 @@ protected:
 
     void open(Keyboard keyboard)
     {
-        m_form.emplace(keyboard, m_values, m_boxes, m_dialogs, [this](const PrinterChoice& choice) {
-            m_chosen = choice;
-            return makePrinter();
-        });
+        m_form.emplace(keyboard, m_values, m_boxes, m_dialogs, m_printer);
         m_form->show();
         QApplication::setActiveWindow(&*m_form);
         ASSERT_TRUE(QTest::qWaitForWindowActive(&*m_form));
@@ -95,6 +92,7 @@ protected:
         return QApplication::focusWidget()->objectName().section(u'_', 1).toInt();
     }
     [[nodiscard]] std::string title() const { return m_form->windowTitle().toStdString(); }
+    [[nodiscard]] QString status() const { return m_form->findChild<QStatusBar*>()->currentMessage(); }
 
     store::test::StoreFolder m_folder{store::catalogue()};
     ApplicationValues m_values;
@@ -102,30 +100,34 @@ protected:
     test::RecordingDialogs m_dialogs;
     QString m_printFile;
     std::optional<PrinterChoice> m_chosen;
+    PrinterInUse m_printer{{}, [this](const PrinterChoice& choice) {
+                               m_chosen = choice;
+                               return makePrinter();
+                           }};
     std::optional<OverlayForm> m_form;
 };
 
-/// Where New begins, the filter and the suffix.
-const std::tuple<Keyboard, QString, QString, QString> askedFiles[] = {
-    {Keyboard::Dorvik, u"C"_s, u"*.Dorvik"_s, u"Velmar"_s},
-    {Keyboard::Velmar, u"C"_s, u"*.Velmar"_s, u"Velmar"_s},
-    {Keyboard::Quelmont, u"/app"_s, u"*.ky4"_s, u"ky4"_s},
+/// Where New begins, the filter, the suffix of what is written and those of what is opened.
+const std::tuple<Keyboard, QString, QString, QString, QString> askedFiles[] = {
+    {Keyboard::Dorvik, u"C"_s, u"*.Dorvik"_s, u"Velmar"_s, u"Dorvik Velmar"_s},
+    {Keyboard::Velmar, u"C"_s, u"*.Velmar"_s, u"Velmar"_s, u"Velmar"_s},
+    {Keyboard::Quelmont, u"/app"_s, u"*.ky4"_s, u"ky4"_s, u"ky4"_s},
 };
 
 TEST_F(OverlayFormTest, AsksForFilesAsEachKeyboardHasThem)
 {
-    for (const auto& [keyboard, newIn, filter, suffix] : askedFiles) {
+    for (const auto& [keyboard, newIn, filter, suffix, opened] : askedFiles) {
         open(keyboard);
         m_dialogs.asked.clear();
         for (const char* entry : {"New", "Open", "Save"})
             choose(entry);
         QStringList asked;
         for (const FileChoice& each : m_dialogs.asked) {
-            asked << u"%1|%2|%3|%4"_s.arg(each.title, each.path, each.filter, each.suffix)
+            asked << u"%1|%2|%3|%4"_s.arg(each.title, each.path, each.filter, each.suffixes.join(u' '))
                          .replace(m_values.customerPath, u"C"_s);
         }
-        EXPECT_EQ(asked.join(u';'), u"New|%1|Keyboard Files (%2)|%3;Open|C|Keyboard Files (%2)|;"
-                                    "Save|C|Keyboard Files (%2)|%3"_s.arg(newIn, filter, suffix));
+        EXPECT_EQ(asked.join(u';'), u"New|%1|Keyboard Files (%2)|%3;Open|C|Keyboard Files (%2)|%4;"
+                                    "Save|C|Keyboard Files (%2)|%3"_s.arg(newIn, filter, suffix, opened));
         EXPECT_EQ(m_form->findChild<QAction*>(u"ImportLevel5"_s) != nullptr, keyboard != Keyboard::Quelmont);
     }
     EXPECT_TRUE(m_boxes.shown.empty());
@@ -151,7 +153,7 @@ TEST_F(OverlayFormTest, SavesAndOpensAndTellsWhatIsWrong)
     choose("Save");
     choose("Open");
     EXPECT_EQ(cell(0).text(), u"HALF"_s);
-    m_boxes.answers = {true};
+    m_boxes.unsavedAnswers = {UnsavedAnswer::Discard};
     choose("Open");
     ASSERT_EQ(m_boxes.shown.size(), 3U) << "saving again asks nothing";
     EXPECT_EQ(m_boxes.shown[0], (ShownBox{u"Incorrect file format"_s, u"File Error"_s, BoxIcon::Critical}));
@@ -179,7 +181,7 @@ TEST_F(OverlayFormTest, ReplacesUnaskedOnlyTheFileInHand)
     choose("Open");
     choose("Save");
     EXPECT_EQ(m_boxes.shown.back().title, u"Save"_s) << "after an open that failed";
-    m_boxes.answers = {true};
+    m_boxes.unsavedAnswers = {UnsavedAnswer::Discard};
     choose("New");
     EXPECT_EQ(cell(0).text() + cell(3).text(), u" RECEIPT"_s);
     EXPECT_FALSE(m_form->isWindowModified());
@@ -301,7 +303,6 @@ TEST_F(OverlayFormTest, PrintsOnceAndTellsWhatFails)
     m_boxes.answers = {false};
     choose("Print");
     EXPECT_EQ(m_boxes.shown, std::vector{startPrinting});
-    EXPECT_FALSE(m_chosen) << "Cancel leaves the printer alone";
     for (const char* file : {"", "no/such/folder.pdf"}) {
         m_printFile = *file != '\0' ? path(file) : QString();
         m_boxes.answers = {true};
@@ -313,10 +314,21 @@ TEST_F(OverlayFormTest, PrintsOnceAndTellsWhatFails)
     type(3, "A TEXT FAR WIDER THAN ITS KEY");
     m_printFile = path("sheet.pdf");
     m_boxes.shown.clear();
-    m_boxes.answers = {true, false, true, true};
+    m_boxes.answers = {false, true, false, true, true};
+    QStringList told;
+    m_boxes.whileOpen = [&](const ShownBox& box) {
+        if (box == startPrinting)
+            told += status();
+    };
+    choose("Print");
+    EXPECT_EQ(told, QStringList{u"Printer: none. Paper: A4 portrait. Scale: 100 %."_s});
+    m_boxes.shown.clear();
     choose("Print");
     EXPECT_FALSE(QFile::exists(m_printFile));
+    open(Keyboard::Velmar); // printed where the former form was set up to print
+    type(3, "A TEXT FAR WIDER THAN ITS KEY");
     choose("Print");
+    EXPECT_TRUE(status().startsWith(u"Sent to the printer. "_s));
     ASSERT_EQ(m_boxes.shown.size(), 4U);
     EXPECT_EQ(m_boxes.shown[1],
               (ShownBox{u"The text \"A TEXT FAR WIDER THAN ITS KEY\" is wider than its key and will be "
@@ -337,6 +349,13 @@ TEST_F(OverlayFormTest, ImportsALevelAndStaysWhenRowsAreMissing)
     open(Keyboard::Velmar);
     choose("ImportLevel1");
     EXPECT_EQ(cell(0).text() + u'|' + cell(1).text() + cell(378).text(), u"functio|n 7"_s);
+    EXPECT_EQ(status(), u"Level 1 was imported."_s);
+    m_folder.folder().write("setup.ini", "[SetupOption]\r\nECRModel=3\r\n");
+    choose("Undo");
+    choose("ImportLevel1");
+    EXPECT_EQ(status(),
+              u"Level 1 was imported. It is a level of a Dorvik: the texts may be on the wrong keys "
+              "of this Velmar."_s);
     choose("Undo");
     EXPECT_TRUE(m_boxes.shown.empty() && !m_form->isWindowModified());
     type(0, "TEA");
@@ -361,18 +380,22 @@ TEST_F(OverlayFormTest, LeavingAsksOnceAboutUnsavedChanges)
         open(Keyboard::Quelmont);
         m_boxes.shown.clear();
         type(3, "TEA");
-        m_boxes.answers = {false};
-        leave();
-        EXPECT_TRUE(m_form->isVisible());
-        m_boxes.answers = {true};
+        m_dialogs.files.clear();
+        for (const auto answer : {UnsavedAnswer::Cancel, UnsavedAnswer::Save}) {
+            m_boxes.unsavedAnswers = {answer};
+            leave();
+            EXPECT_TRUE(m_form->isVisible()) << "kept, or not saved since no name was given";
+        }
+        const bool saves = !QFile::exists(path("tea.ky4"));
+        m_dialogs.files = {path("tea.ky4")};
+        m_boxes.unsavedAnswers = {saves ? UnsavedAnswer::Save : UnsavedAnswer::Discard};
         leave();
         EXPECT_FALSE(m_form->isVisible());
-        EXPECT_EQ(
-            m_boxes.shown,
-            std::vector(
-                2, ShownBox{u"Untitled has changes that were not saved. [&Drop the changes|&Keep them]"_s,
-                            u"Unsaved Changes"_s, BoxIcon::Exclamation}));
+        EXPECT_EQ(m_boxes.shown,
+                  std::vector(3, ShownBox{u"Changes to Untitled are not saved. [Save|Discard|Cancel]"_s,
+                                          u"Unsaved Changes"_s, BoxIcon::Exclamation}));
     }
+    EXPECT_TRUE(m_folder.folder().read("tea.ky4").contains("\nTEA\r"));
     open(Keyboard::Quelmont);
     m_form->close();
     EXPECT_FALSE(m_form->isVisible());

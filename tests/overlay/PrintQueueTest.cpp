@@ -14,6 +14,7 @@ namespace
 {
 
 using namespace overlay;
+using namespace Qt::Literals::StringLiterals;
 
 /// White on upright A4: 10 points to the left, 20 above and to the right, 40 below.
 const char* const description = R"ppd(*PPD-Adobe: "4.3"
@@ -82,6 +83,8 @@ void printFromPreview(SheetActions& actions)
     const auto print = [&](const paper::PrinterCorrection& shown) {
         actions.print(QStringLiteral("Velmar"), shown);
     };
+    EXPECT_EQ(actions.destination(paper::PrinterCorrection{{{}, 1.0101}, {}}),
+              u"Printer: Office. Paper: A4 landscape. Scale: 101.01 % across, 100 % down."_s);
     actions.preview(
         print, [] {}, nullptr);
 }
@@ -114,7 +117,8 @@ TEST(PrintQueueTest, GetsTheSheetInPlaceAndInHighQuality)
     RecordingBoxes boxes;
     boxes.answers = {true};
     RecordingDialogs dialogs;
-    SheetActions actions(velmar, boxes, dialogs, findPrinter);
+    PrinterInUse inUse;
+    SheetActions actions(velmar, boxes, dialogs, inUse);
     printFromPreview(actions);
     ASSERT_EQ(boxes.shown.size(), 2U);
     EXPECT_TRUE(boxes.shown[0].text.startsWith(u"The correction could not be stored."));

@@ -23,33 +23,37 @@ void soon(Use use)
 TEST(SystemDialogsTest, TakeNamesOfFilesThatAreNotThereWhereTheyMay)
 {
     const test::TestFolder folder;
-    folder.write("old.ky4", "");
-    const std::pair<FileChoice::Name, const char*> rows[] = {
-        {FileChoice::Name::Any, "new.ky4"},
-        {FileChoice::Name::ToWrite, "new.ky4"},
-        {FileChoice::Name::ToWrite, "old.ky4"},
-        {FileChoice::Name::Existing, "old.ky4"},
+    for (const char* file : {"old.ky4", "tea.Dorvik", "tea.Velmar"})
+        folder.write(file, "");
+    const std::tuple<FileChoice::Name, const char*, QStringList, const char*> rows[] = {
+        {FileChoice::Name::Any, "new", {u"ky4"_s}, "new.ky4"},
+        {FileChoice::Name::ToWrite, "new", {u"ky4"_s}, "new.ky4"},
+        {FileChoice::Name::ToWrite, "old", {u"ky4"_s}, "old.ky4"},
+        {FileChoice::Name::Existing, "old", {u"ky4"_s}, "old.ky4"},
+        {FileChoice::Name::Existing, "tea", {u"ky4"_s, u"Velmar"_s, u"Dorvik"_s}, "tea.Velmar"},
+        {FileChoice::Name::Existing, "tea.Dorvik", {u"ky4"_s}, "tea.Dorvik"},
     };
-    for (const auto& [name, expected] : rows) {
-        soon([typed = QString::fromLatin1(expected).section(u'.', 0, 0)](QWidget& box) {
+    for (const auto& [name, typed, suffixes, expected] : rows) {
+        soon([text = QString::fromLatin1(typed)](QWidget& box) {
             auto* const edit = box.findChild<QLineEdit*>(u"fileNameEdit"_s);
-            edit->setText(typed);
+            edit->setText(text);
             QTest::keyClick(edit, Qt::Key_Return);
         });
-        EXPECT_EQ(SystemDialogs().file({u"New"_s, folder.path(), u"Files (*.ky4)"_s, u"ky4"_s, name}),
+        EXPECT_EQ(SystemDialogs().file({u"New"_s, folder.path(), u"Files (*.ky4)"_s, suffixes, name}),
                   folder.path(expected));
     }
 }
 
 TEST(SystemDialogsTest, BeginTheFontDialogAtWhatStandsInForAMissingFont)
 {
-    QFont missing(u"Arial"_s, 11);
+    QFont missing(u"Arial"_s);
+    missing.setPointSizeF(8.25);
     missing.setBold(true);
     soon([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
     const auto chosen = SystemDialogs().font(missing);
     ASSERT_TRUE(chosen);
     EXPECT_EQ(chosen->family(), QFontInfo(missing).family());
-    EXPECT_EQ(chosen->pointSize(), 11);
+    EXPECT_EQ(chosen->pointSizeF(), 8.25);
     EXPECT_TRUE(chosen->bold());
 }
 
