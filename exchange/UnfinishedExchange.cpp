@@ -4,6 +4,7 @@
 #include "base/LossQuestion.h"
 #include "exchange/ExchangeBoxes.h"
 #include "link/RunNotes.h"
+#include "platform/ShownTime.h"
 
 #include <QStringList>
 
@@ -69,11 +70,10 @@ void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes)
     if (!exchange)
         return;
     const QString direction = exchange->direction == Direction::Upload ? u"upload"_s : u"download"_s;
-    boxes.message(
-        u"The %1 of %2 did not come to its end.\r\rStill to do: %3.\r\r"
-        u"To finish it, tick these boxes for the %1."_s.arg(
-            direction, exchange->started.toString(u"dd/MM/yyyy HH:mm"_s), boxNames(exchange->boxes)),
-        pleaseCheck, BoxIcon::Exclamation);
+    boxes.message(u"The %1 of %2 did not come to its end.\r\rStill to do: %3.\r\r"
+                  u"To finish it, tick these boxes for the %1."_s.arg(direction, shownTime(exchange->started),
+                                                                      boxNames(exchange->boxes)),
+                  pleaseCheck, BoxIcon::Exclamation);
 }
 
 } // namespace norvane::exchange

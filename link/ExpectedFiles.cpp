@@ -3,6 +3,7 @@
 
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
+#include "platform/ShownTime.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -124,7 +125,7 @@ QString fileAndAge(const QString& name)
     if (!file.exists())
         return u"no %1"_s.arg(name);
     const QDateTime written = file.lastModified();
-    return u"%1 of %2, %3 old"_s.arg(name, written.toString(u"dd/MM/yyyy HH:mm"_s), ageSince(written));
+    return u"%1 of %2, %3 old"_s.arg(name, shownTime(written), ageSince(written));
 }
 
 } // namespace norvane::link

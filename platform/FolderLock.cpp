@@ -2,11 +2,11 @@
 #include "platform/FolderLock.h"
 
 #include "platform/FilePaths.h"
+#include "platform/ShownTime.h"
 
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -72,8 +72,8 @@ QString FolderLock::holder() const
     if (!m_file.getLockInfo(&process, &host, &program))
         return u"It began just now."_s;
     const QDateTime since = QFileInfo(m_file.fileName()).lastModified();
-    return u"%1, process %2 on the computer %3, since %4"_s.arg(
-        program, QString::number(process), host, QLocale().toString(since, QLocale::ShortFormat));
+    return u"%1, process %2 on the computer %3, since %4"_s.arg(program, QString::number(process), host,
+                                                                shownTime(since));
 }
 
 } // namespace norvane

@@ -1,6 +1,7 @@
 // See ColumnPlaces.h.
 #include "reports/ColumnPlaces.h"
 
+#include "platform/ShownTime.h"
 #include "reports/ExactNumbers.h"
 
 #include <QLocale>
@@ -40,8 +41,7 @@ public:
           m_sign(text.width(QStringLiteral("-"), {usualSize, isBold})),
           m_separator(text.width(QLocale().groupSeparator(), {usualSize, isBold})),
           m_currency(text.width(column.dress.currency, {usualSize, isBold})),
-          m_day(
-              text.width(QLocale().toString(QDate(2028, 12, 28), QLocale::ShortFormat), {usualSize, isBold}))
+          m_day(text.width(shownDay({2028, 12, 28}), {usualSize, isBold}))
     {
     }
 

@@ -2,6 +2,7 @@
 #include "reports/ReportData.h"
 
 #include "platform/DecimalTotal.h"
+#include "platform/ShownTime.h"
 #include "reports/ExactNumbers.h"
 
 #include <QLocale>
@@ -27,7 +28,7 @@ struct PlainCell {
 
     QString operator()(std::monostate) const { return {}; }
     QString operator()(const QString& text) const { return text; }
-    QString operator()(const QDate& day) const { return QLocale().toString(day, QLocale::ShortFormat); }
+    QString operator()(const QDate& day) const { return shownDay(day); }
     QString operator()(const Decimal& number) const
     {
         return shownNumber(number, column.leastDecimals, column.mostDecimals);

@@ -1,10 +1,10 @@
 // See ReportPainter.h.
 #include "reports/ReportPainter.h"
 
+#include "platform/ShownTime.h"
 #include "reports/ChartPainter.h"
 #include "reports/PageStyles.h"
 
-#include <QLocale>
 #include <QPainter>
 
 using namespace Qt::Literals::StringLiterals;
@@ -91,8 +91,7 @@ void ReportPainter::paintOrigin(QPainter& painter, int index) const
     QString number = u"Page %1"_s.arg(index + 1);
     if (m_pages.isComplete())
         number += u" of %1"_s.arg(m_pages.pageCount());
-    const QString printed =
-        u"Printed "_s + QLocale().toString(m_report.heading.printed, QLocale::ShortFormat);
+    const QString printed = u"Printed "_s + shownTime(m_report.heading.printed);
     const QRectF& heading = m_pages.frame().heading;
     QRectF row(heading.left() + m_pages.frame().subtitleWidth, heading.top(),
                heading.width() - m_pages.frame().subtitleWidth, subtitleStyle.size * headingPitch);

@@ -1,4 +1,5 @@
 // Writes the spreadsheet; see ReportFiles.h.
+#include "platform/ShownTime.h"
 #include "platform/WholeFile.h"
 #include "reports/ColumnPlaces.h"
 #include "reports/ReportFiles.h"
@@ -7,7 +8,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QLocale>
 #include <QTemporaryFile>
 
 #include <algorithm>
@@ -133,7 +133,7 @@ private:
     void writeHeading()
     {
         const ReportHeading& heading = m_report.heading;
-        const QString printed = QLocale().toString(heading.printed, QLocale::ShortFormat);
+        const QString printed = shownTime(heading.printed);
         writeText(0, 0, heading.title, boldText());
         writeText(1, 0, heading.subtitle, nullptr);
         writeText(2, 0, heading.customer + u"  "_s + printed, nullptr);

@@ -48,6 +48,7 @@ void Frmreports::layOut()
 {
     ui::nameControl(*CSCal, u"CSCal"_s);
     CSCal->setGridVisible(false);
+    CSCal->setFirstDayOfWeek(Qt::Sunday); // as the week of the reports to date
     CSCal->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     connect(CSCal, &QCalendarWidget::selectionChanged, this, &Frmreports::tellDay);
     colourDays();

@@ -3,6 +3,7 @@
 
 #include "base/CustomerSettings.h"
 #include "link/ResultCodes.h"
+#include "platform/ShownTime.h"
 #include "store/Database.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -14,7 +15,7 @@ namespace
 
 QString dayOf(const LastCollection& collection)
 {
-    return collection.stored.toString(u"dd/MM/yyyy HH:mm"_s);
+    return shownTime(collection.stored);
 }
 
 QString notClearedSentence(const LastCollection& collection)

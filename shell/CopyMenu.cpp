@@ -5,9 +5,8 @@
 #include "customers/RunLock.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
+#include "platform/ShownTime.h"
 #include "ui/WaitPointer.h"
-
-#include <QLocale>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,7 +19,7 @@ const auto boxTitle = u"Safety Copies"_s;
 
 QString wordsOf(const customers::SafetyCopy& copy)
 {
-    return u"%1, %2"_s.arg(QLocale().toString(copy.made, QLocale::ShortFormat), copy.reason);
+    return u"%1, %2"_s.arg(shownTime(copy.made), copy.reason);
 }
 
 /// What becomes of today's database.

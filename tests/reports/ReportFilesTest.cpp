@@ -122,6 +122,7 @@ TEST_F(ReportFiles, SpellCsvAsTheUsersSpreadsheetReadsIt)
 {
     QLocale::setDefault(QLocale(QLocale::German));
     writeCsv(trickyReport(), m_folder.path("a.csv"));
+    EXPECT_EQ(trickyReport().text(0, 2), u"29/02/2004"_s) << "as everywhere on the screen";
     EXPECT_EQ(trickyReport().text(0, 3), u"£5.639,55"_s) << "on pages only";
     EXPECT_EQ(m_folder.read("a.csv").toStdString(), "\xEF\xBB\xBFPLU;Description;Day;Value\r\n"
                                                     "123456789012345678;\" =1+1\";2004-02-29;5639,55\r\n"

@@ -1,0 +1,22 @@
+// Days and times as boxes, screens and reports show them: in one form, whatever the computer's language.
+// Files and the command line have forms of their own.
+#pragma once
+
+#include <QDateTime>
+
+namespace norvane
+{
+
+/// "07/05/2004", day before month.
+[[nodiscard]] inline QString shownDay(const QDate& day)
+{
+    return day.toString(QStringLiteral("dd/MM/yyyy"));
+}
+
+/// "07/05/2004 18:30".
+[[nodiscard]] inline QString shownTime(const QDateTime& time)
+{
+    return time.toString(QStringLiteral("dd/MM/yyyy HH:mm"));
+}
+
+} // namespace norvane
