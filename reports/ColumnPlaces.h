@@ -20,7 +20,7 @@ struct ColumnPlace {
 struct ColumnPlaces {
     std::vector<ColumnPlace> columns;
     double textSize = 0; ///< height of the letters in lines and column headings, in mm
-    /// 1 where all columns stand side by side.
+    /// 1 where all columns are side by side.
     [[nodiscard]] int bandCount() const { return columns.empty() ? 1 : columns.back().band + 1; }
 };
 

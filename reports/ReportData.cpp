@@ -157,7 +157,7 @@ QString shownNumber(const Decimal& number, int leastDecimals, int mostDecimals)
     return shownDigits(QString::fromStdString(number.rounded(mostDecimals).text()), leastDecimals);
 }
 
-/// A text that is not a number, as stands for a sum of too many digits, stays as it is.
+/// Words in place of a number, as for a sum of too many digits, are left as they are.
 QString dressed(QString number, const NumberDress& dress)
 {
     constexpr qsizetype thousands = 3;

@@ -35,7 +35,7 @@ struct TextTemplate {
         /// 1 and so on.
         std::vector<std::vector<Part>> words;
         std::shared_ptr<const NameList> names =
-            nullptr; ///< what stands here is the name of the field's number
+            nullptr; ///< shows the name that belongs to the field's number
     };
     std::vector<Part> parts;
 

@@ -132,7 +132,7 @@ TEST(ReportPagesTest, SplitNoNumberAndNoWordOfAHeading)
         }
         EXPECT_GT(cells[1].rows.size(), 1) << "the text gives way before the numbers";
         EXPECT_FALSE(cells[1].rows.filter(u"123456789012345678"_s).isEmpty());
-        // Bands stand below each other, in the headings too.
+        // Bands are below each other, in the headings too.
         const auto names = static_cast<int>(cells[1].rows.size());
         EXPECT_EQ(cells.back().firstRow, bands == 1 ? 0 : names + bands - 2);
         EXPECT_GE(lines.height(0), (names + bands - 1) * lines.rowHeight());
