@@ -129,7 +129,7 @@ TEST_F(SalesReports, ACourseOverDaysShowsTheDaysWithoutSales)
     const auto course = [this](const char* period) {
         const auto data = run("timesales.rpt", u"{TIMESALES.SALESDATE} in "_s + QLatin1String(period));
         std::string text = data.heading.subtitle.toStdString() + ':';
-        if (data.charts.size() < 2)
+        if (data.charts.empty())
             return text;
         for (const auto& point : data.charts.back().points)
             text += ' ' + point.label.toStdString() + '=' + point.value.text();
