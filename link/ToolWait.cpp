@@ -5,8 +5,11 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <QScopeGuard>
+#include <QStyle>
+#include <QStyleOptionTitleBar>
 #include <QWidget>
 #include <QWindow>
 
@@ -81,6 +84,24 @@ const QWidget* target(const QWidget& window, const QEvent& event)
         return QApplication::focusWidget();
     const QPoint place = static_cast<const QMouseEvent&>(event).position().toPoint();
     return window.childAt(place);
+}
+
+/// Whether a mouse event of the window is on the close button of @p form's frame, when it is a child of the
+/// main window. The button is drawn and not a widget.
+bool isOnCloseButton(const QWidget& form, const QEvent& event)
+{
+    const auto* const widget = qobject_cast<const QMdiSubWindow*>(form.parentWidget());
+    if (widget == nullptr || target(*form.window(), event) != widget)
+        return false;
+    const QMdiSubWindow& frame = *widget;
+    const QPoint place =
+        frame.mapFrom(form.window(), static_cast<const QMouseEvent&>(event).position().toPoint());
+    QStyleOptionTitleBar bar;
+    bar.initFrom(&frame);
+    bar.titleBarFlags = frame.windowFlags();
+    bar.rect.setHeight(frame.style()->pixelMetric(QStyle::PM_TitleBarHeight, &bar, &frame));
+    return frame.style()->hitTestComplexControl(QStyle::CC_TitleBar, &bar, place, &frame) ==
+           QStyle::SC_TitleBarCloseButton;
 }
 
 } // namespace
@@ -191,6 +212,8 @@ bool ToolWait::eventFilter(QObject* watched, QEvent* event)
         return false;
     if (!repeated && holds(worthKeeping, event->type()) && belongsToForm(*watched, *event))
         keep(*watched, *event);
+    if (isMouse(*event) && m_form != nullptr && m_form->window()->windowHandle() == watched)
+        followFrame(*event);
     if (event->type() == QEvent::Close)
         event->ignore();
     return true;
@@ -222,6 +245,17 @@ void ToolWait::keep(QObject& receiver, const QEvent& event)
     m_kept.push_back({&receiver, aim, std::unique_ptr<QEvent>(event.clone())});
     if (leaves(m_kept.back()))
         m_showLeaving(true);
+}
+
+/// A click on the close button of the form's frame closes the form; the frame itself would need the moves of
+/// the mouse as well.
+void ToolWait::followFrame(const QEvent& event)
+{
+    const bool isOnButton = isOnCloseButton(*m_form, event);
+    const bool isReleased = event.type() == QEvent::MouseButtonRelease;
+    if (isReleased && isOnButton && m_closesFrame)
+        keep(*m_form, QCloseEvent());
+    m_closesFrame = isOnButton && !isReleased;
 }
 
 bool ToolWait::willLeave() const

@@ -81,6 +81,7 @@ private:
     [[nodiscard]] bool mayBeEnded(const QString& tool, std::chrono::milliseconds running);
     [[nodiscard]] bool belongsToForm(const QObject& receiver, const QEvent& event) const;
     void keep(QObject& receiver, const QEvent& event);
+    void followFrame(const QEvent& event);
     [[nodiscard]] bool willLeave() const;
     [[nodiscard]] bool leaves(const KeptEvent& kept) const;
     void handOver();
@@ -96,6 +97,7 @@ private:
     HeldKey m_escape{Qt::Key_Escape};
     QPointer<QWidget> m_modal; ///< the window that takes all input, if any
     std::vector<KeptEvent> m_kept;
+    bool m_closesFrame = false; ///< the mouse went down on the close button of the form's frame
 };
 
 } // namespace norvane::link

@@ -53,7 +53,8 @@ protected:
     }
 
     /// Runs a tool that hangs. Meanwhile the user does @p acts, one each turn of 50 ms.
-    [[nodiscard]] ChildResult hang(std::vector<std::function<void()>> acts)
+    [[nodiscard]] ChildResult hang(std::vector<std::function<void()>> acts) { return hang(acts, wait); }
+    [[nodiscard]] ChildResult hang(std::vector<std::function<void()>> acts, ToolWait& by) const
     {
         QTimer user;
         QObject::connect(&user, &QTimer::timeout, [&, next = std::size_t{0}]() mutable {
@@ -61,7 +62,7 @@ protected:
                 acts.at(next++)();
         });
         user.start(50ms);
-        return wait.run(m_values, u"tool hang started"_s);
+        return by.run(m_values, u"tool hang started"_s);
     }
     /// A key as the platform reports it for the window of the form.
     void key(QTest::KeyAction action, Qt::Key which = Qt::Key_Escape, Qt::KeyboardModifiers with = {})
@@ -176,6 +177,31 @@ TEST_F(ToolWaitTest, ShowsAtOnceThatTheFormWillBeLeft)
         }};
     EXPECT_EQ(hang(acts), ChildResult::Ended);
     EXPECT_FALSE(isLeaving) << "the form shows it from here on";
+}
+
+/// Such a form is a child of the main window. Its frame draws the close button itself.
+TEST_F(ToolWaitTest, LeavesByTheCloseButtonOfTheFormsFrame)
+{
+    QMdiArea main;
+    auto* const child = new Form;
+    QMdiSubWindow* const frame = main.addSubWindow(child);
+    main.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&main));
+    ToolWait childWait(child, boxes, [](const QString&) {});
+    childWait.setExit(nullptr, [this](bool leaves) { isLeaving = leaves; });
+    const auto click = [&](int fromRight) {
+        const QPoint place(frame->width() - fromRight, 12);
+        QTest::mouseClick(main.windowHandle(), Qt::LeftButton, {}, frame->mapTo(&main, place));
+    };
+    const auto act = [&] {
+        click(frame->width() / 2);
+        EXPECT_FALSE(isLeaving) << "the title";
+        click(14);
+        EXPECT_TRUE(isLeaving);
+        QFile::remove(u"started"_s);
+    };
+    EXPECT_EQ(hang({act}, childWait), ChildResult::Ended);
+    EXPECT_EQ(child->leaves, 1);
 }
 
 } // namespace
