@@ -8,6 +8,8 @@
 
 #include <QCryptographicHash>
 
+#include <algorithm>
+
 namespace norvane::chain
 {
 namespace
@@ -86,6 +88,9 @@ void ShopDays::setDigest(QDate day, std::size_t table, const std::string& digest
 
 void ShopDays::keep()
 {
+    // Without a digest to keep, a transaction would only wait for whoever reads the sales.
+    if (std::ranges::all_of(m_new, [](const auto& digests) { return digests.empty(); }))
+        return;
     try {
         store::Transaction transaction(m_database);
         // A row that was changed after it was read has dropped the former digest: it must not get it back.
