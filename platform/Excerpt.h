@@ -18,12 +18,16 @@ inline constexpr qsizetype excerptLength = 60;
 [[nodiscard]] inline QString visibleControls(const QString& text)
 {
     constexpr int hexadecimal = 16;
+    const auto isKept = [](QChar c) {
+        return c == u'\r' || c == u'\n' || c == u'\t' || c.category() != QChar::Other_Control;
+    };
+    // Nearly every text of a long listing.
+    if (std::all_of(text.cbegin(), text.cend(), isKept))
+        return text;
     QString visible;
-    visible.reserve(text.size());
     for (const QChar c : text) {
-        const bool isKept = c == u'\r' || c == u'\n' || c == u'\t' || c.category() != QChar::Other_Control;
-        visible +=
-            isKept ? QString(c) : QStringLiteral("\\x%1").arg(c.unicode(), 2, hexadecimal, QLatin1Char('0'));
+        visible += isKept(c) ? QString(c)
+                             : QStringLiteral("\\x%1").arg(c.unicode(), 2, hexadecimal, QLatin1Char('0'));
     }
     return visible;
 }
