@@ -15,16 +15,11 @@ namespace norvane::reports
 namespace
 {
 
-/// Spreadsheets expect the list separator of the user's system. That is a semicolon wherever a comma is the
-/// decimal sign.
-char listSeparator()
-{
-    return QLocale().decimalPoint() == ","_L1 ? ';' : ',';
-}
-
 class CsvWriter
 {
 public:
+    explicit CsvWriter(char separator) : m_separator(separator) {}
+
     void addValue(const QString& value)
     {
         if (!m_isFirst)
@@ -56,39 +51,51 @@ private:
     }
 
     QByteArray m_content = "\xEF\xBB\xBF"_ba; ///< begins with the byte order mark of UTF-8
-    char m_separator = listSeparator();
+    char m_separator;
     bool m_isFirst = true;
 };
 
 /// The cell as the preview shows it, but a number without thousands separators and currency, and a day as
 /// yyyy-mm-dd, which every spreadsheet knows.
-QString csvValue(const ReportData& report, qsizetype line, int column)
+QString csvValue(const ReportData& report, qsizetype line, int column, char decimalSign)
 {
     const Cell cell = report.cell(line, column);
     if (const auto* const text = std::get_if<QString>(&cell))
         return guarded(printable(*text));
     if (const auto* const day = std::get_if<QDate>(&cell))
         return day->toString(Qt::ISODate);
-    return report.plainText(line, column);
+    return report.plainText(line, column)
+        .replace(QLocale().decimalPoint(), QLatin1StringView(&decimalSign, 1));
 }
 
-void addLine(CsvWriter& csv, const ReportData& report, qsizetype line)
+void addLine(CsvWriter& csv, const ReportData& report, qsizetype line, char decimalSign)
 {
     for (int column = 0; column < report.columnCount(); ++column)
-        csv.addValue(csvValue(report, line, column));
+        csv.addValue(csvValue(report, line, column, decimalSign));
     csv.endLine();
 }
 
 } // namespace
 
+CsvSigns csvSignsOfLocale()
+{
+    return QLocale().decimalPoint() == ","_L1 ? CsvSigns{';', ','} : CsvSigns{};
+}
+
 void writeCsv(const ReportData& report, const QString& path, const KeepGoing& keepGoing)
 {
-    CsvWriter csv;
+    writeCsvWith(csvSignsOfLocale(), report, path, keepGoing);
+}
+
+void writeCsvWith(const CsvSigns& signs, const ReportData& report, const QString& path,
+                  const KeepGoing& keepGoing)
+{
+    CsvWriter csv(signs.separator);
     for (const ReportColumn& column : report.columns())
         csv.addValue(guarded(printable(column.heading)));
     csv.endLine();
     for (qsizetype line = 0; line < report.lineCount(); ++line) {
-        addLine(csv, report, line);
+        addLine(csv, report, line, signs.decimal);
         needGoOn(keepGoing);
     }
     replaceFile(path, csv.content());

@@ -14,10 +14,21 @@ namespace norvane::reports
 void writePdf(const ReportData& report, bool showsCharts, const QString& path,
               const KeepGoing& keepGoing = {});
 
-/// A text that a spreadsheet opens at a double click: UTF-8 with a byte order mark, the decimal sign of the
-/// user's locale, and between the values commas, or semicolons where the decimal sign is a comma. The first
-/// line holds the headings.
+/// What separates the values of a CSV file, and the decimal sign of its numbers.
+struct CsvSigns {
+    char separator = ',';
+    char decimal = '.';
+};
+/// What spreadsheets expect on the user's system: its decimal sign, and between the values commas, or
+/// semicolons where the decimal sign is a comma.
+[[nodiscard]] CsvSigns csvSignsOfLocale();
+
+/// A text that a spreadsheet opens at a double click: UTF-8 with a byte order mark and csvSignsOfLocale().
+/// The first line holds the headings.
 void writeCsv(const ReportData& report, const QString& path, const KeepGoing& keepGoing = {});
+/// The same with other signs.
+void writeCsvWith(const CsvSigns& signs, const ReportData& report, const QString& path,
+                  const KeepGoing& keepGoing = {});
 
 /// An .xlsx file. Numbers and days are stored as such, so that a spreadsheet can calculate with them. Texts
 /// stay texts, whatever they begin with and however many digits they have.
