@@ -118,12 +118,13 @@ void exchangeWith(const Workplace& workplace, const Invocation& words, exchange:
     const auto hangUp = qScopeGuard([&line] { line.disconnect(); });
     exchange::ExchangeRunner runner(values, link, ticks, outsideOf(workplace, values));
     if (line.connect(link) == link::modemFailed) {
-        runner.logFailedCall(direction);
+        runner.logFailedCall(direction, link::resultInWords(link::modemFailed));
         throw CommandError(ExitCode::Stopped, u"Communications Error: Modem Failure"_s);
     }
     const bool isUpload = direction == exchange::Direction::Upload;
     if (!(isUpload ? runner.UploadData() : runner.downloaddata()))
         throw CommandError(runner.lacksCopy() ? ExitCode::Unwritable : ExitCode::Stopped, {});
+    tellStep(runner.resultInWords());
 }
 
 /// The option that answers Yes to the question of the next collection; empty when it would ask nothing.
@@ -157,6 +158,7 @@ void collect(const Workplace& workplace, const Invocation& words)
     const auto clearFirst = words.has("clear-first"_L1) ? sales::ClearFirst::Yes : sales::ClearFirst::Ask;
     if (!run.collect(clearFirst))
         throw CommandError(ExitCode::Stopped, clearHint(values));
+    tellStep(run.resultInWords());
 }
 
 } // namespace norvane::command

@@ -59,12 +59,12 @@ QByteArray endOf(QFile& log, qint64 bytes)
 }
 
 /// The last line about one of @p works.
-std::optional<LogLine> lastIn(const QByteArray& lines, const QStringList& works)
+std::optional<LogLine> lastIn(const QByteArray& lines, const QStringList& works, const QString& result)
 {
     auto all = lines.trimmed().split('\n');
     while (!all.isEmpty()) {
         LogLine line = lineOf(all.takeLast());
-        if (works.contains(line.work))
+        if (works.contains(line.work) && (result.isEmpty() || line.result == result))
             return line;
     }
     return std::nullopt;
@@ -97,15 +97,16 @@ void writeLog(const QString& customerPath, const LogLine& line)
         dropOlderHalf(log.fileName());
 }
 
-std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList& works)
+std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList& works,
+                                  const QString& result)
 {
     QFile log(logPath(customerPath));
     if (!log.open(QIODevice::ReadOnly))
         return std::nullopt;
     // What is wanted is nearly always among the last lines.
-    auto found = lastIn(endOf(log, fewBytes), works);
+    auto found = lastIn(endOf(log, fewBytes), works, result);
     if (!found && log.size() > fewBytes)
-        found = lastIn(endOf(log, log.size()), works);
+        found = lastIn(endOf(log, log.size()), works, result);
     return found;
 }
 
@@ -129,15 +130,34 @@ LoggedWork::LoggedWork(QString customerPath, const QString& work, const QString&
 
 LoggedWork::~LoggedWork()
 {
-    m_line.milliseconds = m_time.elapsed() - (m_waited() - m_waitedBefore);
+    m_line.milliseconds = milliseconds();
     writeLog(m_customerPath, m_line);
 }
 
-/// Without the full stop, since more may follow.
+qint64 LoggedWork::milliseconds() const
+{
+    return m_time.elapsed() - (m_waited() - m_waitedBefore);
+}
+
+QString LoggedWork::secondsInWords() const
+{
+    const double seconds = static_cast<double>(milliseconds()) / millisecondsPerSecond;
+    return u"%1 s"_s.arg(std::max(qRound(seconds), 1));
+}
+
+/// Without the full stop, since more may follow. After a signal nothing has failed.
 QString LoggedWork::inLog(const RuntimeFailure& failure)
 {
+    if (failure.failure() == Failure::UserInterrupt)
+        return failure.text();
     const QString text = u"failure %1: %2"_s.arg(failure.number()).arg(failure.text());
     return text.endsWith(u'.') ? text.chopped(1) : text;
+}
+
+/// "ended by failure 61: The disk is full", "stopped by a signal".
+QString LoggedWork::ending(const QString& reason)
+{
+    return reason.startsWith(u"failure "_s) ? u"ended by "_s + reason : reason;
 }
 
 } // namespace norvane::customers

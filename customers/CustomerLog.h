@@ -28,8 +28,12 @@ struct LogLine {
 /// work matters more.
 void writeLog(const QString& customerPath, const LogLine& line);
 
-/// The latest line of any of these @p works; nothing when the log holds none.
-[[nodiscard]] std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList& works);
+/// The result of an exchange or a collection that did all of its work.
+inline constexpr QLatin1StringView completeResult("complete");
+
+/// The latest line of any of these @p works, with @p result if one is given; nothing when the log holds none.
+[[nodiscard]] std::optional<LogLine> lastLogged(const QString& customerPath, const QStringList& works,
+                                                const QString& result = {});
 
 /// The last @p count lines of the log as they are in the file, or all that it has; empty without a log.
 [[nodiscard]] QStringList lastLogLines(const QString& customerPath, int count);
@@ -47,9 +51,11 @@ public:
     LoggedWork& operator=(const LoggedWork&) = delete;
 
     void setResult(const QString& result) { m_line.result = result; }
+    /// The work so far in seconds, for the user: "12 s".
+    [[nodiscard]] QString secondsInWords() const;
 
-    /// Does @p work. When it fails, @p describe makes the result from "failure 53: 67.txt is missing", and
-    /// the failure goes on. @return what @p work returns.
+    /// Does @p work. When it fails, @p describe makes the result from "failure 53: 67.txt is missing" or
+    /// "stopped by a signal", and the failure goes on. @return what @p work returns.
     template <typename Work, typename Describe>
     decltype(auto) during(Work&& work, Describe&& describe)
     {
@@ -63,12 +69,13 @@ public:
     template <typename Work>
     decltype(auto) during(Work&& work)
     {
-        return during(std::forward<Work>(work),
-                      [](const QString& failure) { return QStringLiteral("ended by ") + failure; });
+        return during(std::forward<Work>(work), ending);
     }
 
 private:
+    [[nodiscard]] qint64 milliseconds() const;
     [[nodiscard]] static QString inLog(const RuntimeFailure& failure);
+    [[nodiscard]] static QString ending(const QString& reason);
 
     QString m_customerPath;
     LogLine m_line;

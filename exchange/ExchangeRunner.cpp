@@ -7,6 +7,7 @@
 #include "customers/SafetyCopies.h"
 #include "exchange/MemoryFile.h"
 #include "exchange/MoveDataFile.h"
+#include "exchange/MovedFiles.h"
 #include "exchange/PluPoints.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
@@ -114,11 +115,10 @@ customers::LoggedWork ExchangeRunner::logLine(Direction direction) const
             u"register 1"_s + customers::ofChosenCustomer(m_values), m_outside.millisecondsOpen};
 }
 
-void ExchangeRunner::logFailedCall(Direction direction)
+void ExchangeRunner::logFailedCall(Direction direction, const QString& reason)
 {
     m_place = u"the call"_s;
-    m_stop = link::resultInWords(link::modemFailed);
-    logLine(direction).setResult(stoppedText(m_stop));
+    logLine(direction).setResult(stoppedText(reason));
 }
 
 /// After everything else: nobody may be there to close it.
@@ -134,7 +134,9 @@ bool ExchangeRunner::logged(customers::LoggedWork& work, bool (ExchangeRunner::*
 {
     const bool isComplete = work.during([&] { return (this->*sequence)(); },
                                         [this](const QString& failure) { return stoppedText(failure); });
-    work.setResult(isComplete ? u"complete"_s : stoppedText(m_stop));
+    work.setResult(isComplete ? QString(customers::completeResult) : stoppedText(m_stop));
+    const QString moved = movedFiles(m_filesMoved, m_exchange.direction, m_link);
+    m_result = isComplete ? u"%1, %2"_s.arg(moved, work.secondsInWords()) : QString();
     return isComplete;
 }
 
@@ -238,6 +240,7 @@ bool ExchangeRunner::uploadRow(const UploadRow& row)
     if (records::hasImporter(row.file) && !importFile(row.file))
         return false;
     keepForCustomer(dataFile(row.file));
+    ++m_filesMoved;
     return true;
 }
 
@@ -284,6 +287,7 @@ bool ExchangeRunner::sendFile(const DownloadRow& row, bool fromTable)
         copyAfterSend(row);
     if (!succeeded() || !step.mayGoOn(oldResultOfSend))
         return false;
+    ++m_filesMoved;
     if (row.file == pluFile)
         notePluCount();
     // Not before: registers that the files did not reach still hold their points.

@@ -37,8 +37,10 @@ public:
     /// Makes the files from the tables, or takes the kept ones, and sends them to registers 1 to n.
     /// @throws as UploadData, and 53 when the kept bitmap file is missing.
     bool downloaddata();
-    /// Logs that the modem reached no register, so that nothing was moved.
-    void logFailedCall(Direction direction);
+    /// Logs that the modem reached no register, so that nothing was moved, and why.
+    void logFailedCall(Direction direction, const QString& reason);
+    /// What a complete run has moved: "36 files from register 1, 12 s". Empty for any other.
+    [[nodiscard]] const QString& resultInWords() const { return m_result; }
     /// Whether the upload did not start because no safety copy could be made; the user was told then.
     [[nodiscard]] bool lacksCopy() const { return m_lacksCopy; }
 
@@ -80,6 +82,8 @@ private:
     link::RunOutside m_outside;
     records::ProcedureContext m_procedures;
     UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
+    int m_filesMoved = 0;
+    QString m_result; ///< of a complete run
     bool m_lacksCopy = false;
     bool m_givesUpPoints = false; ///< the user sends PLUs though their points wait
     QString m_place;              ///< in progress: "file 67", "the opening exchange"

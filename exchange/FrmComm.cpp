@@ -130,7 +130,7 @@ void FrmComm::showEvent(QShowEvent* event)
 
 void FrmComm::run()
 {
-    // A finished run shows no step; the ticks that are left say what did not move.
+    // A finished run shows what it moved and no step; the ticks that are left say what did not move.
     const auto ended = qScopeGuard([this] { StatusBar1->setStep({}); });
     exchange();
 }
@@ -146,7 +146,8 @@ void FrmComm::exchange()
         return;
     ExchangeRunner runner(m_values, link, *this, outside());
     if (result == link::modemFailed) {
-        runner.logFailedCall(isUpload() ? Direction::Upload : Direction::Download);
+        runner.logFailedCall(isUpload() ? Direction::Upload : Direction::Download,
+                             link::resultInWords(result));
         hangUp();
         endBeforeLastBox();
         m_boxes.message(u"Modem Failure"_s, u"Communications Error"_s);
@@ -170,6 +171,7 @@ void FrmComm::runSequence(ExchangeRunner& runner)
     } else {
         runner.downloaddata();
     }
+    StatusBar1->setResult(runner.resultInWords());
 }
 
 QString FrmComm::leavingNotice() const

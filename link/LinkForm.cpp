@@ -111,6 +111,7 @@ void LinkForm::beginRun()
     m_work = Work::Preparing;
     m_exitPressed = false;
     StatusBar1->setNotice({});
+    StatusBar1->setResult({});
     Communicate->setEnabled(false);
 }
 

@@ -15,6 +15,7 @@ enum class Failure {
     Overflow = 6,
     SubscriptOutOfRange = 9,
     TypeMismatch = 13,
+    UserInterrupt = 18,
     FileNotFound = 53,
     InputPastEnd = 62,
     DeviceIo = 57,

@@ -12,6 +12,7 @@
 #include "sales/UnclearedSales.h"
 
 #include <QDate>
+#include <QLocale>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -105,6 +106,7 @@ bool CollectionRun::collect(ClearFirst clearFirst)
     (void)ReadPoll194Stamp(m_values);
     m_link = link::readLinkSettings(m_values);
     m_isStored = m_isCleared = false;
+    m_rowsStored = 0;
     m_origin = ReportOrigin::ThisRun;
     loggedCall([&] {
         if (mayBegin(clearFirst))
@@ -158,7 +160,12 @@ void CollectionRun::logCall(const std::function<void()>& makeCall)
         // What was read before the failure may have been kept.
         return stoppedText(failure, u"the registers were not cleared"_s);
     });
-    work.setResult(m_isCleared ? u"complete"_s : stoppedText(whyStopped(), u"nothing stored"_s));
+    work.setResult(m_isCleared ? QString(customers::completeResult)
+                               : stoppedText(whyStopped(), u"nothing stored"_s));
+    if (m_isCleared) {
+        m_result =
+            u"%1 rows of sales stored, %2"_s.arg(QLocale().toString(m_rowsStored), work.secondsInWords());
+    }
 }
 
 QString CollectionRun::whyStopped() const
@@ -327,10 +334,12 @@ bool CollectionRun::convertReports()
     return !hasLeft() && mayUse(step, true, QLatin1StringView(olderSales));
 }
 
-Stored CollectionRun::importReports() const
+Stored CollectionRun::importReports()
 {
     // One day for all reports, also when the imports run across midnight.
-    return storeReports(m_values, m_outside.run.boxes, QDate::currentDate(), m_origin);
+    const auto [outcome, rows] = storeReports(m_values, m_outside.run.boxes, QDate::currentDate(), m_origin);
+    m_rowsStored = rows;
+    return outcome;
 }
 
 } // namespace norvane::sales

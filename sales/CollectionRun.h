@@ -47,6 +47,8 @@ public:
     /// @throws RuntimeFailure 53 when status.out is missing, 13 when it holds no number or the model is none,
     /// 6 and 13 for link settings, and what storeReports() throws.
     bool collect(ClearFirst clearFirst = ClearFirst::Ask);
+    /// What a complete run has stored: "3,776 rows of sales stored, 12 s". Empty for any other.
+    [[nodiscard]] const QString& resultInWords() const { return m_result; }
 
 private:
     struct ToolStep;
@@ -69,7 +71,7 @@ private:
     [[nodiscard]] bool mayUse(const link::WatchedStep& step, bool hasReports, const QString& consequence);
     [[nodiscard]] bool convertReports();
     [[nodiscard]] bool hasLeft() const { return !m_outside.run.goOn(); }
-    [[nodiscard]] Stored importReports() const;
+    [[nodiscard]] Stored importReports();
     void loggedCall(const std::function<void()>& makeCall);
     void logCall(const std::function<void()>& makeCall);
     void call();
@@ -85,6 +87,8 @@ private:
     QList<Task> m_tasks;           ///< those that are left, the next one first
     bool m_stepIsComplete = false; ///< the last step's tool wrote what it has to
     bool m_isStored = false;
+    qint64 m_rowsStored = 0;
+    QString m_result; ///< of a complete run
     bool m_isCleared = false;
     bool m_ended = false; ///< the user left, or does not want what a tool left
     ReportOrigin m_origin = ReportOrigin::ThisRun;

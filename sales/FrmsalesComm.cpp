@@ -4,6 +4,7 @@
 #include "customers/DataOwner.h"
 #include "sales/CollectionRun.h"
 #include "ui/Appearance.h"
+#include "ui/StatusLine.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -41,11 +42,12 @@ bool FrmsalesComm::mayStart()
 
 void FrmsalesComm::run()
 {
-    CollectionRun(m_values,
-                  {.connectLink = [this](const link::LinkSettings& link) { return connectLink(link); },
-                   .disconnectLink = [this] { disconnectLink(); },
-                   .run = outside()})
-        .collect();
+    CollectionRun run(m_values,
+                      {.connectLink = [this](const link::LinkSettings& link) { return connectLink(link); },
+                       .disconnectLink = [this] { disconnectLink(); },
+                       .run = outside()});
+    run.collect();
+    StatusBar1->setResult(run.resultInWords());
 }
 
 QString FrmsalesComm::leavingNotice() const

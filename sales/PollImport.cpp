@@ -144,6 +144,7 @@ private:
     std::array<Value, std::size(pluFields)> m_values;
     bool m_allZero = true; ///< of the record
     bool m_hasSales = false;
+    qint64 m_rows = 0;
 };
 
 Import::Import(const PollFile& file, store::Recordset& records, const ApplicationValues& values,
@@ -167,7 +168,7 @@ ImportedReport Import::storeAll(TextValues& text)
         count();
         atPlace([this](const QString& what) { return placed(what); }, [&] { storeRecord(text); });
     }
-    return {m_record, m_hasSales};
+    return {m_record, m_hasSales, m_rows};
 }
 
 QString Import::placed(const QString& what) const
@@ -237,6 +238,7 @@ void Import::addRow()
     for (std::size_t at = 0; at < m_valuesOfRecord; ++at)
         m_records.setValue(m_ordinals.at(at), std::move(m_values.at(at)));
     m_records.update();
+    ++m_rows;
 }
 
 /// The first collection of a month adds up the one before, so that no report has to. Reports reach back to

@@ -45,6 +45,7 @@ struct PollFile {
 struct ImportedReport {
     qint64 records = 0;
     bool hasSales = false; ///< a record with a value other than 0
+    qint64 rows = 0;       ///< that were appended
 };
 
 /// The five readers in the order in which a collection runs them.

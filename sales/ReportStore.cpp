@@ -31,7 +31,7 @@ class ReportStore
 public:
     ReportStore(const ApplicationValues& values, Boxes& boxes, QDate collected, ReportOrigin origin);
 
-    [[nodiscard]] Stored store();
+    [[nodiscard]] StoredReports store();
 
 private:
     void importAll();
@@ -53,6 +53,7 @@ private:
     bool m_lastIsThere; ///< its rows are still in the tables
     LastCollection m_this;
     bool m_hasSales = false;
+    qint64 m_rows = 0;
 };
 
 ReportStore::ReportStore(const ApplicationValues& values, Boxes& boxes, QDate collected, ReportOrigin origin)
@@ -62,7 +63,7 @@ ReportStore::ReportStore(const ApplicationValues& values, Boxes& boxes, QDate co
 {
 }
 
-Stored ReportStore::store()
+StoredReports ReportStore::store()
 {
     records::importOrPutBack(m_transaction, m_boxes, keepSalesQuestion, [this] { importAll(); });
     auto outcome = Stored::Yes;
@@ -75,11 +76,11 @@ Stored ReportStore::store()
         m_transaction.rollBack();
         if (outcome == Stored::AlreadyThere)
             noteUncleared();
-        return outcome;
+        return {outcome, 0};
     }
     note();
     m_transaction.commit();
-    return outcome;
+    return {outcome, m_rows};
 }
 
 void ReportStore::importAll()
@@ -90,6 +91,7 @@ void ReportStore::importAll()
         const ImportedReport imported = importPollFile(files[report], m_database, m_values, m_collected);
         m_this.records.at(report) = imported.records;
         m_hasSales = m_hasSales || imported.hasSales;
+        m_rows += imported.rows;
     }
     m_this.mark = markOfReports(m_values);
 }
@@ -169,7 +171,8 @@ void ReportStore::noteUncleared()
 
 } // namespace
 
-Stored storeReports(const ApplicationValues& values, Boxes& boxes, QDate collected, ReportOrigin origin)
+StoredReports storeReports(const ApplicationValues& values, Boxes& boxes, QDate collected,
+                           ReportOrigin origin)
 {
     return ReportStore(values, boxes, collected, origin).store();
 }

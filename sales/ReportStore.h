@@ -21,11 +21,16 @@ enum class Stored {
     Refused,      ///< nothing was stored, and the registers must keep their sales
 };
 
+struct StoredReports {
+    Stored outcome;
+    qint64 rows; ///< that were stored
+};
+
 /// Imports the five reports, dated @p collected, in one transaction. Asks when a report holds fewer records
 /// than this customer's last one or none at all, and when all are byte for byte those that were stored last.
 /// When a failure ends it the user is asked whether what was read stays, see importOrPutBack().
 /// @throws what importPollFile() throws.
-[[nodiscard]] Stored storeReports(const ApplicationValues& values, Boxes& boxes, QDate collected,
-                                  ReportOrigin origin);
+[[nodiscard]] StoredReports storeReports(const ApplicationValues& values, Boxes& boxes, QDate collected,
+                                         ReportOrigin origin);
 
 } // namespace norvane::sales

@@ -27,6 +27,12 @@ void StatusLine::setRunning(const QString& text)
     showAll();
 }
 
+void StatusLine::setResult(const QString& text)
+{
+    m_result = text;
+    showAll();
+}
+
 void StatusLine::setNotice(const QString& text)
 {
     m_notice = text;
@@ -35,7 +41,7 @@ void StatusLine::setNotice(const QString& text)
 
 void StatusLine::showAll()
 {
-    QStringList texts{m_step, m_running, m_notice};
+    QStringList texts{m_step, m_running, m_result, m_notice};
     texts.removeAll(QString());
     showMessage(texts.join(u"    "_s));
 }

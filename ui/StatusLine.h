@@ -6,7 +6,8 @@
 namespace norvane::ui
 {
 
-/// Names the current step, how long it has been running, and a notice that stays until it is replaced.
+/// Names the current step, how long it has been running, what a run has done, and a notice that stays until
+/// it is replaced.
 class StatusLine : public QStatusBar
 {
     Q_OBJECT
@@ -16,6 +17,7 @@ public:
 
     void setStep(const QString& text);
     void setRunning(const QString& text);
+    void setResult(const QString& text);
     void setNotice(const QString& text);
 
 private:
@@ -23,6 +25,7 @@ private:
 
     QString m_step;
     QString m_running;
+    QString m_result;
     QString m_notice;
 };
 

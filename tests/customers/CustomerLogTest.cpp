@@ -37,6 +37,7 @@ TEST(CustomerLog, HasALineForEachWorkAndTellsOneThatAFailureEnded)
     EXPECT_TRUE(lines.match(text).hasMatch()) << text.toStdString();
     EXPECT_EQ(lastLogged(folder.path(), {u"upload"_s, u"download"_s})->result,
               u"stopped. Still to do: PLU"_s);
+    EXPECT_FALSE(lastLogged(folder.path(), {u"upload"_s}, completeResult));
 }
 
 TEST(CustomerLog, LosesItsOlderHalfBeyondAMegabyte)

@@ -56,7 +56,7 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndAsksBeforeTheFormerResultCounts)
 {
     box(11).click();
     upload();
-    EXPECT_EQ(status(), "");
+    EXPECT_EQ(status(), "5 files from register 1, 1 s");
     const QByteArray bytes = readWholeFile(kept(43));
     EXPECT_TRUE(QFile::remove(existingPath(folder.appFile(u"43.dat"_s))));
     folder.removeTool("VELMARCOMM");
@@ -76,7 +76,7 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndAsksBeforeTheFormerResultCounts)
 
     boxes.answers.assign(20, true);
     upload();
-    EXPECT_EQ(status(), "The program VELMARCOMM was not found.");
+    EXPECT_EQ(status(), "5 files from register 1, 1 s    The program VELMARCOMM was not found.");
     EXPECT_EQ(readWholeFile(kept(43)), bytes) << "the only copy stays when nothing came";
     EXPECT_FALSE(box(11).isChecked());
 }

@@ -3,6 +3,8 @@
 #include "customers/CustomerLog.h"
 #include "tests/sales/CollectionTest.h"
 
+using namespace std::string_literals;
+
 namespace norvane::sales
 {
 namespace
@@ -109,12 +111,13 @@ TEST_F(FrmsalesCommTest, CollectsSalesThatWait)
 TEST_F(FrmsalesCommTest, AsksBeforeItStoresTheSameSalesAgain)
 {
     collect();
+    EXPECT_EQ(LinkFormTest::status(), done + "    25 rows of sales stored, 1 s"s);
     const qint64 stored = rows();
     ring();
     collect();
     ASSERT_EQ(boxes.shown.size(), 1U);
     expectAskedFirst(boxes.shown[0], QDate::currentDate().toString(u"dd/MM/yyyy 'at' "_s));
-    EXPECT_EQ(status(), done);
+    EXPECT_EQ(LinkFormTest::status(), done + "    0 rows of sales stored, 1 s"s);
     EXPECT_FALSE(registersHoldSales());
     EXPECT_EQ(rows(), stored);
 }
@@ -250,7 +253,7 @@ TEST_F(FrmsalesCommTest, NamesAToolThatIsMissing)
     EXPECT_TRUE(boxes.shown.back().text.contains(u"leaves the sales at the registers"_s));
     boxes.answers.assign(6, true);
     collect();
-    EXPECT_EQ(status(), "Communications Successful....    The program VELMARCOMM was not found.");
+    EXPECT_TRUE(status().starts_with(done) && status().ends_with("The program VELMARCOMM was not found."));
 }
 
 TEST_F(FrmsalesCommTest, DialsCollectsAndHangsUp)

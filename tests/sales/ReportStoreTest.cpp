@@ -46,7 +46,7 @@ protected:
             m_folder.write(QByteArray(pollFiles()[report].name).replace("poll", "POLL"), texts.at(report));
         m_boxes.shown.clear();
         m_boxes.answers = {answer};
-        return storeReports(m_values, m_boxes, today, ReportOrigin::ThisRun);
+        return storeReports(m_values, m_boxes, today, ReportOrigin::ThisRun).outcome;
     }
     /// Of the one question; empty when there was none.
     [[nodiscard]] QString asked() const
