@@ -3,10 +3,12 @@
 // transaction. The checks, the list of differences and all mistakes are ours alone; printing the list is not
 // measured.
 #include "bench/BareDatabase.h"
+#include "bench/Memory.h"
 #include "command/PluImport.h"
 #include "store/Catalogue.h"
 
 #include <benchmark/benchmark.h>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <array>
@@ -135,9 +137,9 @@ void bareImport(const QString& path, const QByteArray& file)
 void ourImport(const QString& path, const QByteArray& file)
 {
     store::Database database(path);
-    const auto comparison = command::comparePlus(database, file);
-    require(comparison.mistakes.empty() && comparison.changes.size() == pluCount, "every line differs");
-    command::applyPluChanges(database, comparison.changes);
+    const command::PluComparison comparison(database, file);
+    require(comparison.mistakes().isEmpty() && comparison.changeCount() == pluCount, "every line differs");
+    command::applyPluChanges(database, comparison);
 }
 
 void PluImport(benchmark::State& state)
@@ -155,6 +157,18 @@ void PluImport(benchmark::State& state)
     shop.checkSums();
 }
 BENCHMARK(PluImport)->UseManualTime()->Iterations(6)->Unit(benchmark::kMillisecond);
+
+/// Of the text, its comparison and the storing.
+void PluImportMemory(benchmark::State& state)
+{
+    const Shop shop;
+    const QByteArray content = fileOf(0);
+    QFile file(shop.ours() + u".csv"_s);
+    require(file.open(QIODevice::ReadWrite) && file.write(content) == content.size() && file.reset(), "file");
+    bench::measureMemory(state, static_cast<std::size_t>(content.size()),
+                         [&] { ourImport(shop.ours(), file.readAll()); });
+}
+BENCHMARK(PluImportMemory)->Iterations(1);
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // What an import and an export of the PLU file cost beside the least that could do the work: a loop that
 // splits, converts and binds into one prepared insert, and one that selects and writes.
 #include "bench/BareDatabase.h"
+#include "bench/Memory.h"
 #include "platform/RuntimeFailure.h"
 #include "records/FileProcedures.h"
 #include "store/Catalogue.h"
@@ -16,9 +17,6 @@
 #include <charconv>
 #include <cstring>
 #include <fstream>
-#include <functional>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace
 {
@@ -28,6 +26,7 @@ using bench::BareDatabase;
 using bench::bindText;
 using bench::columnText;
 using bench::compare;
+using bench::measureMemory;
 using bench::require;
 
 constexpr int pluFile = 67;
@@ -300,42 +299,6 @@ void exportPlus(benchmark::State& state)
     };
     require(contentOf("67.txt") == shop.text, "the export is not what was imported");
     require(contentOf("bare.txt") == shop.text, "the bare export is not what was imported");
-}
-
-/// A line of this process's status, in bytes.
-std::int64_t statusBytes(const char* name)
-{
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);) {
-        if (line.starts_with(name))
-            return std::atoll(line.c_str() + std::strlen(name)) * 1024;
-    }
-    return 0;
-}
-
-/// The most memory that an import takes above what the process had, as a multiple of the file's size. It is
-/// measured in a process of its own, whose mark of the highest use was set back before.
-void measureMemory(benchmark::State& state, std::size_t fileSize, const std::function<void()>& work)
-{
-    std::array<int, 2> pipeEnds{};
-    require(pipe(pipeEnds.data()) == 0, "pipe");
-    while (state.KeepRunning()) {
-        const auto child = fork();
-        if (child == 0) {
-            std::ofstream("/proc/self/clear_refs") << "5";
-            const auto before = statusBytes("VmRSS:");
-            work();
-            const auto taken = statusBytes("VmHWM:") - before;
-            std::_Exit(write(pipeEnds[1], &taken, sizeof taken) == sizeof taken ? 0 : 1);
-        }
-        int status = 0;
-        std::int64_t taken = 0;
-        require(waitpid(child, &status, 0) == child && status == 0, "child");
-        require(read(pipeEnds[0], &taken, sizeof taken) == sizeof taken, "read");
-        state.counters["memory_per_file_size"] = static_cast<double>(taken) / static_cast<double>(fileSize);
-    }
-    close(pipeEnds[0]);
-    close(pipeEnds[1]);
 }
 
 void importMemory(benchmark::State& state)

@@ -21,6 +21,10 @@ public:
 
     /// Goes to the next record, the first one at the first call. @return false behind the last.
     [[nodiscard]] bool next();
+    /// Where the next record begins in the text, to come back by goTo(). A record that is read so says a
+    /// wrong line().
+    [[nodiscard]] std::size_t place() const { return m_at; }
+    void goTo(std::size_t place) { m_at = place; }
     /// Of the record; good until the next one.
     [[nodiscard]] std::span<const std::string> cells() const { return {m_cells.data(), m_count}; }
     /// The line of the text that the record begins in, counted from 1.

@@ -5,6 +5,7 @@
 #include "command/Verbs.h"
 #include "customers/CustomerFolders.h"
 #include "customers/CustomerLog.h"
+#include "customers/SafetyCopies.h"
 #include "customers/SetupModel.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
@@ -75,7 +76,8 @@ QString noteOn(const Workplace& workplace, const QString& name)
 /// Whether a folder is a customer's, also when the database was lost.
 bool isCustomer(const QString& folder)
 {
-    return pathExists(customers::customerDatabase(folder)) || pathExists(joinPath(folder, u"setup.ini"_s));
+    return pathExists(customers::customerDatabase(folder)) || pathExists(joinPath(folder, u"setup.ini"_s)) ||
+           !customers::safetyCopies(folder).isEmpty();
 }
 
 QVariantList customerRow(const Workplace& workplace, const QString& name)
@@ -83,7 +85,8 @@ QVariantList customerRow(const Workplace& workplace, const QString& name)
     ApplicationValues values;
     values.appPath = workplace.appPath;
     values.customerPath = existingPath(joinPath(workplace.appPath, name));
-    const auto exchange = customers::lastLogged(values.customerPath, {u"upload"_s, u"download"_s});
+    const auto exchange =
+        customers::lastLogged(values.customerPath, {u"upload"_s, u"download"_s}, customers::completeResult);
     return {name,
             settingInWords(values, "ECRModel"_L1),
             settingInWords(values, "NoOfECRs"_L1),

@@ -1,6 +1,9 @@
 // See DecimalSign.h.
 #include "command/DecimalSign.h"
 
+#include <algorithm>
+#include <string>
+
 namespace norvane::command
 {
 namespace
@@ -23,6 +26,15 @@ Fraction fractionOf(std::string_view number)
 }
 
 } // namespace
+
+std::optional<Decimal> numberOf(std::string_view cell)
+{
+    if (const auto number = Decimal::plain(cell))
+        return number;
+    std::string pointed(cell);
+    std::ranges::replace(pointed, ',', '.');
+    return std::ranges::count(pointed, '.') == 1 ? Decimal::plain(pointed) : std::nullopt;
+}
 
 void DecimalSign::learnFrom(std::string_view number)
 {

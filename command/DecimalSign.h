@@ -1,10 +1,16 @@
 // Which of comma and point is the decimal sign in the numbers of a file.
 #pragma once
 
+#include "platform/Decimal.h"
+
+#include <optional>
 #include <string_view>
 
 namespace norvane::command
 {
+
+/// The number of a cell, with a decimal point or comma; thousands are not separated.
+[[nodiscard]] std::optional<Decimal> numberOf(std::string_view cell);
 
 /// "1,000" is one or a thousand. The other numbers of the file may tell: in "2,50" the comma can only be the
 /// decimal sign.

@@ -1,5 +1,6 @@
 // Work with the registers: the runs of the window, without it.
 #include "base/SharedRoutines.h"
+#include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
 #include "customers/RunLock.h"
@@ -7,12 +8,12 @@
 #include "exchange/ExchangeRunner.h"
 #include "link/Modem.h"
 #include "link/ResultCodes.h"
+#include "platform/RuntimeFailure.h"
 #include "sales/CollectionRun.h"
 #include "sales/UnclearedSales.h"
 
-#include <QScopeGuard>
-
 #include <set>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,37 +22,69 @@ namespace norvane::command
 namespace
 {
 
+/// Lets a signal end the wait for a modem's answer.
+class StoppableClock : public link::SystemClock
+{
+public:
+    void yieldEvents() override { stopIfSignalled(); }
+};
+
 /// The way to the registers for as long as a run lasts.
 class Line
 {
 public:
-    /// @return what dialling gave, 0 on a direct line.
+    Line() = default;
+    /// Also when a failure ends the run: an open call costs the shop money.
+    ~Line() { disconnect(); }
+    Line(const Line&) = delete;
+    Line& operator=(const Line&) = delete;
+
+    /// @return what dialling gave, 0 on a direct line. @throws RuntimeFailure 18 after a signal.
     int connect(const link::LinkSettings& link)
     {
         m_link = link;
         m_modem.setUpLine(link);
-        return link.isModem() ? m_modem.DialModem(link) : 0;
+        m_isCalling = link.isModem();
+        return m_isCalling ? m_modem.DialModem(link) : 0;
     }
     void disconnect()
     {
-        if (m_link.isModem())
+        if (std::exchange(m_isCalling, false))
             m_modem.Dropphoneline();
     }
 
 private:
     std::unique_ptr<SerialLine> m_line = makeSerialLine();
-    link::SystemClock m_clock;
+    StoppableClock m_clock;
     link::Modem m_modem{*m_line, m_clock, tellStep};
     link::LinkSettings m_link;
+    bool m_isCalling = false;
 };
+
+/// After a signal no further tool starts, and the running one is killed. The child may have received the
+/// signal as well, so a crash is not reported then; a tool that still ended by itself counts.
+ChildResult runTool(const ApplicationValues& values, const QString& line)
+{
+    stopIfSignalled();
+    const ChildResult result = RunAndWait(values, line, {[](auto) {
+                                              return stopSignal() == 0;
+                                          }});
+    if (result != ChildResult::Ended)
+        stopIfSignalled();
+    return result;
+}
 
 link::RunOutside outsideOf(const Workplace& workplace, const ApplicationValues& values)
 {
-    return {.runAndWait = [&values](const QString& line) { return RunAndWait(values, line); },
+    return {.runAndWait = [&values](const QString& line) { return runTool(values, line); },
             .readStatus = ReadStatusOut,
             .showStep = tellStep,
             .showNotice = tell,
-            .goOn = [] { return true; },
+            .goOn =
+                [] {
+                    stopIfSignalled();
+                    return true;
+                },
             .boxes = workplace.boxes};
 }
 
@@ -114,12 +147,15 @@ void exchangeWith(const Workplace& workplace, const Invocation& words, exchange:
     const auto lock = lockFor(workplace, values);
     const link::LinkSettings link = link::readLinkSettings(values);
     Line line;
-    // Also when a failure ends the run: an open call costs the shop money.
-    const auto hangUp = qScopeGuard([&line] { line.disconnect(); });
     exchange::ExchangeRunner runner(values, link, ticks, outsideOf(workplace, values));
-    if (line.connect(link) == link::modemFailed) {
-        runner.logFailedCall(direction, link::resultInWords(link::modemFailed));
-        throw CommandError(ExitCode::Stopped, u"Communications Error: Modem Failure"_s);
+    try {
+        if (line.connect(link) == link::modemFailed) {
+            runner.logFailedCall(direction, link::resultInWords(link::modemFailed));
+            throw CommandError(ExitCode::Stopped, u"Communications Error: Modem Failure"_s);
+        }
+    } catch (const RuntimeFailure& stop) {
+        runner.logFailedCall(direction, stop.text());
+        throw;
     }
     const bool isUpload = direction == exchange::Direction::Upload;
     if (!(isUpload ? runner.UploadData() : runner.downloaddata()))
@@ -156,9 +192,15 @@ void collect(const Workplace& workplace, const Invocation& words)
                                       .disconnectLink = [&line] { line.disconnect(); },
                                       .run = outsideOf(workplace, values)});
     const auto clearFirst = words.has("clear-first"_L1) ? sales::ClearFirst::Yes : sales::ClearFirst::Ask;
-    if (!run.collect(clearFirst))
-        throw CommandError(ExitCode::Stopped, clearHint(values));
-    tellStep(run.resultInWords());
+    try {
+        if (!run.collect(clearFirst))
+            throw CommandError(ExitCode::Stopped, clearHint(values));
+        tellStep(run.resultInWords());
+    } catch (const RuntimeFailure&) {
+        if (const QString hint = clearHint(values); !hint.isEmpty())
+            tell(hint);
+        throw;
+    }
 }
 
 } // namespace norvane::command

@@ -33,6 +33,8 @@ std::span<const ExitMeaning> exitMeanings()
         {ExitCode::UnfitServer, "the database there has a later schema or another encoding"_L1},
         {ExitCode::OtherShop, "the shop was published from another folder or under another name"_L1},
         {ExitCode::Vanished, "the shop no longer has what is published; that was left as it is"_L1},
+        {ExitCode::Interrupted, "the run was stopped by SIGINT (Ctrl+C)"_L1},
+        {ExitCode::Terminated, "the run was stopped by SIGTERM"_L1},
     });
     return meanings;
 }

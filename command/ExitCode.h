@@ -32,6 +32,9 @@ enum class ExitCode {
     UnfitServer = 13,
     OtherShop = 14,
     Vanished = 15,
+    // As shells report them: 128 and the number of the signal.
+    Interrupted = 130,
+    Terminated = 143,
 };
 
 struct ExitMeaning {

@@ -41,40 +41,84 @@ QJsonValue jsonOf(const QVariant& value)
     return value.isValid() ? QJsonValue::fromVariant(value) : QJsonValue();
 }
 
-} // namespace
-
-QByteArray Listing::text() const
+/// Passes a text on in large pieces.
+class Pieces
 {
-    QList<QStringList> lines{m_headings};
-    for (const QVariantList& row : m_rows) {
-        QStringList& line = lines.emplaceBack();
-        std::ranges::transform(row, std::back_inserter(line), textOf);
+public:
+    explicit Pieces(const Write& write) : m_write(write) {}
+    void add(QByteArrayView text)
+    {
+        constexpr qsizetype enough = qsizetype{64} * 1024;
+        m_piece += text;
+        if (m_piece.size() >= enough)
+            finish();
     }
-    QList<qsizetype> widths(m_headings.size());
-    for (const QStringList& line : lines) {
-        for (qsizetype column = 0; column < line.size(); ++column)
-            widths[column] = std::max(widths[column], line[column].size());
+    void finish()
+    {
+        m_write(m_piece);
+        m_piece.resize(0);
     }
-    QString text;
-    for (const QStringList& line : lines) {
-        QString shown;
-        for (qsizetype column = 0; column < line.size(); ++column)
-            shown += line[column].leftJustified(widths[column] + columnGap);
-        text += shown.trimmed() + u'\n';
-    }
-    return text.toLocal8Bit();
+
+private:
+    const Write& m_write;
+    QByteArray m_piece;
+};
+
+QByteArray lineOf(const QStringList& texts, const QList<qsizetype>& widths)
+{
+    QString line;
+    for (qsizetype column = 0; column < texts.size(); ++column)
+        line += texts[column].leftJustified(widths[column] + columnGap);
+    return line.trimmed().toLocal8Bit() + '\n';
 }
 
-QByteArray Listing::json() const
+QStringList textsOf(const QVariantList& row)
 {
-    QJsonArray rows;
-    for (const QVariantList& row : m_rows) {
+    QStringList texts;
+    std::ranges::transform(row, std::back_inserter(texts), textOf);
+    return texts;
+}
+
+QList<qsizetype> widthsOf(const QStringList& headings, const Rows& rows)
+{
+    QList<qsizetype> widths(headings.size());
+    const auto widen = [&widths](const QStringList& texts) {
+        for (qsizetype column = 0; column < texts.size(); ++column)
+            widths[column] = std::max(widths[column], texts[column].size());
+    };
+    widen(headings);
+    rows([&](const QVariantList& row) { widen(textsOf(row)); });
+    return widths;
+}
+
+} // namespace
+
+void writeText(const QStringList& headings, const Rows& rows, const Write& write)
+{
+    const auto widths = widthsOf(headings, rows);
+    Pieces pieces(write);
+    pieces.add(lineOf(headings, widths));
+    rows([&](const QVariantList& row) { pieces.add(lineOf(textsOf(row), widths)); });
+    pieces.finish();
+}
+
+void writeJson(const QStringList& headings, const Rows& rows, const Write& write)
+{
+    QStringList keys;
+    std::ranges::transform(headings, std::back_inserter(keys), keyOf);
+    Pieces pieces(write);
+    QByteArrayView between = "[\n";
+    rows([&](const QVariantList& row) {
         QJsonObject object;
         for (qsizetype column = 0; column < row.size(); ++column)
-            object.insert(keyOf(m_headings[column]), jsonOf(row[column]));
-        rows.append(object);
-    }
-    return QJsonDocument(rows).toJson();
+            object.insert(keys[column], jsonOf(row[column]));
+        // Of an array with this object, what is between the lines of its brackets.
+        pieces.add(between);
+        pieces.add(QByteArrayView(QJsonDocument(QJsonArray{object}).toJson()).sliced(2).chopped(3));
+        between = ",\n";
+    });
+    pieces.add(between == "[\n" ? "[\n]\n" : "\n]\n");
+    pieces.finish();
 }
 
 } // namespace norvane::command

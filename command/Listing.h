@@ -5,8 +5,21 @@
 #include <QString>
 #include <QVariant>
 
+#include <algorithm>
+#include <functional>
+
 namespace norvane::command
 {
+
+/// Gives each row to @p take, in the order of the listing. It is called twice: widths come before lines.
+using Rows = std::function<void(const std::function<void(const QVariantList& row)>& take)>;
+/// Takes a piece of the text.
+using Write = std::function<void(const QByteArray& text)>;
+
+/// Writes a listing whose rows are made one by one, so that one of millions takes no memory: lines of aligned
+/// columns, or an array of objects.
+void writeText(const QStringList& headings, const Rows& rows, const Write& write);
+void writeJson(const QStringList& headings, const Rows& rows, const Write& write);
 
 /// Columns are told by their headings ("Last sales"); as JSON the same names stand as keys ("lastSales").
 class Listing
@@ -19,9 +32,13 @@ public:
     void add(QVariantList row) { m_rows.append(std::move(row)); }
     [[nodiscard]] bool isEmpty() const { return m_rows.isEmpty(); }
 
-    /// Lines of aligned columns, or an array of objects.
-    [[nodiscard]] QByteArray text() const;
-    [[nodiscard]] QByteArray json() const;
+    [[nodiscard]] const QStringList& headings() const { return m_headings; }
+    [[nodiscard]] Rows rows() const
+    {
+        return [this](const auto& take) {
+            std::ranges::for_each(m_rows, take);
+        };
+    }
 
 private:
     QStringList m_headings;

@@ -1,6 +1,7 @@
 // Entry of the command line.
 #include "base/ProgramFolder.h"
 #include "command/Invocation.h"
+#include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Workplace.h"
 #include "platform/RuntimeFailure.h"
@@ -8,6 +9,8 @@
 
 #include <QDir>
 #include <QGuiApplication>
+
+#include <csignal>
 
 using namespace norvane;
 using namespace norvane::command;
@@ -34,6 +37,13 @@ void run(const QStringList& words)
     verb->run({QDir::cleanPath(folder), started, invocation.has("json"_L1), boxes}, invocation);
 }
 
+ExitCode stopped()
+{
+    const auto code = stopSignal() == SIGTERM ? ExitCode::Terminated : ExitCode::Interrupted;
+    tell(u"Stopped by %1."_s.arg(code == ExitCode::Terminated ? u"SIGTERM" : u"SIGINT"));
+    return code;
+}
+
 ExitCode guarded(const QStringList& words)
 {
     try {
@@ -49,6 +59,8 @@ ExitCode guarded(const QStringList& words)
     } catch (const reports::ReportError& error) {
         tell(u"Report Error: %1"_s.arg(error.text()));
     } catch (const RuntimeFailure& failure) {
+        if (failure.failure() == Failure::UserInterrupt)
+            return stopped();
         tell(u"Run-time error '%1': %2"_s.arg(failure.number()).arg(failure.text()));
         return codeOf(failure);
     } catch (const std::exception& failure) {

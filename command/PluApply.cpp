@@ -1,5 +1,6 @@
 // Stores the changes of an import; see PluImport.h.
 #include "command/PluImport.h"
+#include "command/StopSignals.h"
 #include "platform/RuntimeFailure.h"
 #include "store/AllOrNothing.h"
 #include "store/Recordset.h"
@@ -87,18 +88,19 @@ void storeKnown(store::Recordset& plus, const PluChange& change)
 
 } // namespace
 
-void applyPluChanges(store::Database& database, std::span<const PluChange> changes)
+void applyPluChanges(store::Database& database, const PluComparison& comparison)
 {
     store::allOrNothing(database, [&] {
         auto known = database.openQuery(columnsOfAll());
         Additions additions(database);
-        for (const PluChange& change : changes) {
+        comparison.forEach([&](const PluChange& change) {
+            stopIfSignalled();
             if (change.isNew) {
                 additions.store(change);
             } else {
                 storeKnown(known, change);
             }
-        }
+        });
     });
 }
 

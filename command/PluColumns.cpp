@@ -34,10 +34,13 @@ std::span<const PluColumn> pluColumns()
     return columns;
 }
 
-std::string filledPluNumber(std::string_view digits)
+std::string filledPluNumber(std::uint64_t number)
 {
-    std::string number(pluNumberDigits - std::min(digits.size(), pluNumberDigits), '0');
-    return number.append(digits);
+    constexpr std::uint64_t base = 10;
+    std::string digits(pluNumberDigits, '0');
+    for (auto digit = digits.rbegin(); number > 0; ++digit, number /= base)
+        *digit = static_cast<char>('0' + number % base);
+    return digits;
 }
 
 store::Value newPluValue(const PluColumn& column)

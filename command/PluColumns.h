@@ -7,10 +7,10 @@
 #include <QLatin1StringView>
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 
 namespace norvane::command
 {
@@ -40,7 +40,7 @@ inline constexpr Decimal highestPrice{99999999, 2}; ///< a register has eight di
 inline constexpr int priceDecimals = 2;
 
 /// The number as the table keeps it, zeros in front.
-[[nodiscard]] std::string filledPluNumber(std::string_view digits);
+[[nodiscard]] std::string filledPluNumber(std::uint64_t number);
 /// What a new record of the PLU screen holds in a column; nothing in one that is not on it.
 [[nodiscard]] store::Value newPluValue(const PluColumn& column);
 /// What an export shows of a stored text; a register fills it with blanks.

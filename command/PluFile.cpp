@@ -1,13 +1,13 @@
 // See PluFile.h.
 #include "command/PluFile.h"
 
-#include "command/CsvReader.h"
 #include "platform/Excerpt.h"
 #include "platform/TextFields.h"
 
 #include <algorithm>
 #include <array>
-#include <unordered_map>
+#include <charconv>
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,9 +17,7 @@ namespace
 {
 
 constexpr int linesForHeadings = 5;
-constexpr auto separators = std::to_array({';', ','});
-
-using Cells = std::span<const std::string>;
+constexpr auto separators = std::to_array({';', ',', '\t'});
 
 bool isHeading(const std::string& cell, const PluColumn& column)
 {
@@ -43,132 +41,177 @@ qint64 brokenLine(std::string_view text)
     return line;
 }
 
-bool isDigits(std::string_view text)
+const PluColumn& numberColumn()
 {
-    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+    return pluColumns().front();
 }
 
-class Reader
+std::string_view withoutByteOrderMark(std::string_view text)
 {
-public:
-    explicit Reader(std::string_view text) : m_text(text) {}
-
-    PluFile read()
-    {
-        if (!isUtf8(m_text)) {
-            add(brokenLine(m_text), {}, u"the file is not UTF-8; save it as \"CSV UTF-8\""_s);
-        } else if (auto csv = atHeadings()) {
-            takeHeadings(*csv);
-            while (m_headingsAreGood && csv->next())
-                takeLine(*csv);
-            dropDoubles();
-        } else {
-            add(1, {}, u"there is no line of headings with a column \"%1\""_s.arg(numberColumn().heading));
-        }
-        return std::move(m_file);
-    }
-
-private:
-    static const PluColumn& numberColumn() { return pluColumns().front(); }
-
-    void add(qint64 line, const QString& column, const QString& reason)
-    {
-        m_file.mistakes.push_back({line, column, reason});
-    }
-
-    /// A reader on the headings, which also tell the separator.
-    [[nodiscard]] std::optional<CsvReader> atHeadings() const
-    {
-        for (const char separator : separators) {
-            CsvReader csv(m_text, separator);
-            for (int tried = 0; tried < linesForHeadings && csv.next(); ++tried) {
-                if (std::ranges::any_of(csv.cells(),
-                                        [](const auto& cell) { return isHeading(cell, numberColumn()); }))
-                    return csv;
-            }
-        }
-        return std::nullopt;
-    }
-
-    void takeHeadings(const CsvReader& csv)
-    {
-        for (const std::string& cell : csv.cells())
-            takeHeading(csv.line(), cell);
-        m_headingsAreGood = m_file.mistakes.empty();
-        const auto number = std::ranges::find(m_file.columns, &numberColumn());
-        m_numberPlace = static_cast<std::size_t>(number - m_file.columns.begin());
-    }
-
-    void takeHeading(qint64 line, const std::string& cell)
-    {
-        const auto all = pluColumns();
-        const auto column =
-            std::ranges::find_if(all, [&](const auto& each) { return isHeading(cell, each); });
-        const QString shown = excerptOfUtf8(cell);
-        if (column == all.end()) {
-            add(line, shown, u"there is no such column"_s);
-        } else if (std::ranges::find(m_file.columns, &*column) != m_file.columns.end()) {
-            add(line, shown, u"the column stands there twice"_s);
-        } else {
-            m_file.columns.push_back(&*column);
-        }
-    }
-
-    void takeLine(const CsvReader& csv)
-    {
-        const Cells cells = csv.cells();
-        if (csv.isUnclosed()) {
-            add(csv.line(), {}, u"a quote is not closed"_s);
-        } else if (std::ranges::all_of(cells, &std::string::empty)) {
-            return;
-        } else if (cells.size() != m_file.columns.size()) {
-            add(csv.line(), {},
-                u"%1 columns, but %2 headings"_s.arg(cells.size()).arg(m_file.columns.size()));
-        } else {
-            takeNumber(csv.line(), cells);
-        }
-    }
-
-    void takeNumber(qint64 line, Cells cells)
-    {
-        const std::string_view number = trimBlanks(std::string_view(cells[m_numberPlace]));
-        if (isDigits(number) && number.size() <= pluNumberDigits) {
-            m_file.lines.push_back({line, filledPluNumber(number), {cells.begin(), cells.end()}});
-        } else {
-            add(line, numberColumn().heading,
-                u"\"%1\" is no PLU number of up to 18 digits"_s.arg(excerptOfUtf8(number)));
-        }
-    }
-
-    void dropDoubles()
-    {
-        std::unordered_map<std::string, qint64> firstLines;
-        firstLines.reserve(m_file.lines.size());
-        std::erase_if(m_file.lines, [&](const PluLine& line) {
-            const auto [first, isNew] = firstLines.try_emplace(line.number, line.line);
-            if (!isNew) {
-                add(line.line, numberColumn().heading,
-                    u"the number stands in line %1 already"_s.arg(first->second));
-            }
-            return !isNew;
-        });
-    }
-
-    std::string_view m_text;
-    PluFile m_file;
-    std::size_t m_numberPlace = 0;
-    bool m_headingsAreGood = false;
-};
-
-} // namespace
-
-PluFile readPluFile(const QByteArray& content)
-{
-    std::string_view text(content.constData(), static_cast<std::size_t>(content.size()));
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     if (text.starts_with(byteOrderMark))
         text.remove_prefix(byteOrderMark.size());
-    return Reader(text).read();
+    return text;
+}
+
+} // namespace
+
+std::optional<std::uint64_t> pluNumberOf(std::string_view text)
+{
+    const std::string_view digits = trimBlanks(text);
+    std::uint64_t number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    const bool isNumber = error == std::errc() && end == digits.data() + digits.size();
+    return isNumber && digits.size() <= pluNumberDigits ? std::optional(number) : std::nullopt;
+}
+
+PluFile::PluFile(const QByteArray& content, std::optional<char> separator)
+    : m_text(withoutByteOrderMark({content.constData(), static_cast<std::size_t>(content.size())}))
+{
+    if (!isUtf8(m_text)) {
+        add(brokenLine(m_text), {}, u"the file is not UTF-8; save it as \"CSV UTF-8\""_s);
+        return;
+    }
+    findHeadings(separator);
+    if (!m_mistakes.isEmpty())
+        return;
+    m_lines.reserve(static_cast<std::size_t>(std::ranges::count(m_text, '\n')) + 1);
+    for (std::size_t place = m_csv.place(); m_csv.next(); place = m_csv.place())
+        takeLine(place);
+    sortByNumber();
+    markDoubles();
+}
+
+void PluFile::findHeadings(std::optional<char> separator)
+{
+    for (const char sign : separators) {
+        if (separator.value_or(sign) != sign)
+            continue;
+        m_csv = CsvReader(m_text, sign);
+        for (int tried = 0; tried < linesForHeadings && m_csv.next(); ++tried) {
+            if (std::ranges::any_of(m_csv.cells(),
+                                    [](const auto& cell) { return isHeading(cell, numberColumn()); })) {
+                takeHeadings();
+                return;
+            }
+        }
+    }
+    add(1, {}, u"there is no line of headings with a column \"%1\""_s.arg(numberColumn().heading));
+}
+
+void PluFile::takeHeadings()
+{
+    for (const std::string& cell : m_csv.cells())
+        takeHeading(cell);
+    const auto number = std::ranges::find(m_columns, &numberColumn());
+    m_numberPlace = static_cast<std::size_t>(number - m_columns.begin());
+}
+
+void PluFile::takeHeading(const std::string& cell)
+{
+    const auto all = pluColumns();
+    const auto column = std::ranges::find_if(all, [&](const auto& each) { return isHeading(cell, each); });
+    const QString shown = excerptOfUtf8(cell);
+    if (column == all.end()) {
+        add(m_csv.line(), shown, u"there is no such column"_s);
+    } else if (std::ranges::find(m_columns, &*column) != m_columns.end()) {
+        add(m_csv.line(), shown, u"the column stands there twice"_s);
+    } else {
+        m_columns.push_back(&*column);
+    }
+}
+
+void PluFile::takeLine(std::size_t place)
+{
+    const auto cells = m_csv.cells();
+    if (m_csv.isUnclosed()) {
+        add(m_csv.line(), {}, u"a quote is not closed"_s);
+    } else if (std::ranges::all_of(cells, &std::string::empty)) {
+        return;
+    } else if (cells.size() != m_columns.size()) {
+        add(m_csv.line(), {}, u"%1 columns, but %2 headings"_s.arg(cells.size()).arg(m_columns.size()));
+    } else {
+        takeNumber(place);
+    }
+}
+
+void PluFile::takeNumber(std::size_t place)
+{
+    const std::string& cell = m_csv.cells()[m_numberPlace];
+    if (const auto number = pluNumberOf(cell)) {
+        m_lines.push_back({*number, place, static_cast<std::uint32_t>(m_csv.line())});
+        learnDecimalSign();
+    } else {
+        add(m_csv.line(), numberColumn().heading,
+            u"\"%1\" is no PLU number of up to 18 digits"_s.arg(
+                excerptOfUtf8(trimBlanks(std::string_view(cell)))));
+    }
+}
+
+void PluFile::learnDecimalSign()
+{
+    const auto cells = m_csv.cells();
+    for (std::size_t place = 0; place < m_columns.size(); ++place) {
+        const std::string_view cell = trimBlanks(std::string_view(cells[place]));
+        if (m_columns[place]->content == PluContent::Price && numberOf(cell))
+            m_decimalSign.learnFrom(cell);
+    }
+}
+
+void PluFile::sortByNumber()
+{
+    const auto number = [this](std::uint32_t line) {
+        return m_lines[line].number;
+    };
+    m_byNumber.resize(m_lines.size());
+    std::iota(m_byNumber.begin(), m_byNumber.end(), 0);
+    if (!std::ranges::is_sorted(m_byNumber, {}, number))
+        std::ranges::stable_sort(m_byNumber, {}, number);
+}
+
+void PluFile::markDoubles()
+{
+    const PluLine* first = nullptr;
+    for (const std::uint32_t index : m_byNumber) {
+        PluLine& line = m_lines[index];
+        line.isTaken = first != nullptr && first->number == line.number;
+        if (line.isTaken)
+            add(line.line, numberColumn().heading,
+                u"the number stands in line %1 already"_s.arg(first->line));
+        else
+            first = &line;
+    }
+}
+
+std::span<const std::string> PluFile::cells(std::uint32_t line) const
+{
+    m_csv.goTo(m_lines[line].place);
+    (void)m_csv.next();
+    return m_csv.cells();
+}
+
+std::optional<std::uint32_t> PluFile::take(std::uint64_t number)
+{
+    const auto hasNumber = [&](std::size_t place) {
+        return place < m_byNumber.size() && m_lines[m_byNumber[place]].number == number;
+    };
+    // Whoever goes through the numbers in order finds the next one here.
+    if (!hasNumber(m_next)) {
+        const auto found = std::ranges::lower_bound(
+            m_byNumber, number, {}, [this](std::uint32_t line) { return m_lines[line].number; });
+        m_next = static_cast<std::size_t>(found - m_byNumber.begin());
+    }
+    if (!hasNumber(m_next))
+        return std::nullopt;
+    const std::uint32_t line = m_byNumber[m_next++];
+    if (std::exchange(m_lines[line].isTaken, true))
+        return std::nullopt;
+    return line;
+}
+
+void PluFile::add(qint64 line, const QString& column, const QString& reason)
+{
+    m_mistakes.add({line, column, reason});
 }
 
 } // namespace norvane::command

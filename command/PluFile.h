@@ -1,37 +1,73 @@
 // The lines of a file of PLUs as they were typed.
 #pragma once
 
+#include "command/CsvReader.h"
+#include "command/DecimalSign.h"
 #include "command/PluColumns.h"
+#include "command/PluMistakes.h"
 
 #include <QByteArray>
-#include <QString>
 
+#include <cstdint>
+#include <optional>
+#include <span>
 #include <vector>
 
 namespace norvane::command
 {
 
-/// Why a file cannot be imported.
-struct PluMistake {
-    qint64 line = 0; ///< of the file, counted from 1
-    QString column;  ///< its heading; empty when it is about the whole line
-    QString reason;
-};
-
 struct PluLine {
-    qint64 line = 0;
-    std::string number;             ///< as the table keeps it
-    std::vector<std::string> cells; ///< one for each column of the file, UTF-8
+    std::uint64_t number; ///< of up to 18 digits
+    std::size_t place;    ///< in the text
+    std::uint32_t line;   ///< counted from 1
+    bool isTaken = false; ///< a stored PLU has this number, or a line before this one
 };
 
-struct PluFile {
-    std::vector<const PluColumn*> columns;
-    std::vector<PluLine> lines;       ///< each of another number
-    std::vector<PluMistake> mistakes; ///< lines that could not be read are missing above
+/// A file that was read once. Its cells stay in the text, and a line is taken apart when it is needed: the
+/// cells of a million lines would take ten times as much memory as the text.
+class PluFile
+{
+public:
+    /// Reads CSV in UTF-8. A line of headings names the columns, in any order and case; up to four lines
+    /// before it, such as a title, are passed over. So are empty lines.
+    /// @param content must outlive this object
+    /// @param separator of the values; nothing for what the headings show: a semicolon, comma or tab
+    PluFile(const QByteArray& content, std::optional<char> separator);
+
+    [[nodiscard]] const std::vector<const PluColumn*>& columns() const { return m_columns; }
+    /// In the order of the file. Those that could not be read are missing.
+    [[nodiscard]] const std::vector<PluLine>& lines() const { return m_lines; }
+    [[nodiscard]] const PluMistakes& mistakes() const { return m_mistakes; }
+    [[nodiscard]] const DecimalSign& decimalSign() const { return m_decimalSign; }
+    /// One cell for each column, UTF-8; good until the next call.
+    [[nodiscard]] std::span<const std::string> cells(std::uint32_t line) const;
+    /// The index of the line with this number when nobody took it before; it is taken then.
+    [[nodiscard]] std::optional<std::uint32_t> take(std::uint64_t number);
+
+private:
+    void findHeadings(std::optional<char> separator);
+    void takeHeadings();
+    void takeHeading(const std::string& cell);
+    void takeLine(std::size_t place);
+    void takeNumber(std::size_t place);
+    void learnDecimalSign();
+    void sortByNumber();
+    void markDoubles();
+    void add(qint64 line, const QString& column, const QString& reason);
+
+    std::string_view m_text;
+    mutable CsvReader m_csv{{}, ','};
+    std::vector<const PluColumn*> m_columns;
+    std::size_t m_numberPlace = 0; ///< of the column with the number
+    std::vector<PluLine> m_lines;
+    std::vector<std::uint32_t> m_byNumber; ///< indexes of lines
+    std::size_t m_next = 0;                ///< in m_byNumber, after the last line that was taken
+    PluMistakes m_mistakes;
+    DecimalSign m_decimalSign;
 };
 
-/// Reads CSV in UTF-8, with commas or semicolons. A line of headings names the columns, in any order and
-/// case; up to four lines before it, such as a title, are passed over. So are empty lines.
-[[nodiscard]] PluFile readPluFile(const QByteArray& content);
+/// The number of a cell or of the table, blanks around it passed over; nothing for what is not one of up to
+/// 18 digits.
+[[nodiscard]] std::optional<std::uint64_t> pluNumberOf(std::string_view text);
 
 } // namespace norvane::command

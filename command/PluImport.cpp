@@ -1,7 +1,7 @@
 // Compares a file with the table; see PluImport.h. PluApply.cpp stores.
 #include "command/PluImport.h"
 
-#include "command/DecimalSign.h"
+#include "command/StopSignals.h"
 #include "platform/Excerpt.h"
 #include "platform/TextFields.h"
 #include "platform/Windows1252.h"
@@ -10,9 +10,7 @@
 
 #include <algorithm>
 #include <map>
-#include <unordered_map>
 #include <unordered_set>
-#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,16 +20,6 @@ namespace
 {
 
 using store::Value;
-
-/// Cells come with a decimal point or comma; thousands are not separated.
-std::optional<Decimal> numberOf(std::string_view cell)
-{
-    if (const auto number = Decimal::plain(cell))
-        return number;
-    std::string pointed(cell);
-    std::ranges::replace(pointed, ',', '.');
-    return std::ranges::count(pointed, '.') == 1 ? Decimal::plain(pointed) : std::nullopt;
-}
 
 /// What a number with one sign may mean: the sign is the decimal sign, or it separates the thousands.
 QString readingsOf(const PluColumn& column, std::string_view cell, const Decimal& decimal)
@@ -93,99 +81,112 @@ private:
     std::map<const PluColumn*, std::unordered_set<std::string>> m_keys;
 };
 
-class Comparison
+/// What will be stored of a cell that is a change.
+std::string valueOf(const PluColumn& column, const std::string& cell)
+{
+    if (column.content == PluContent::Text)
+        return reports::unguarded(QString::fromStdString(cell)).toStdString();
+    return numberOf(trimBlanks(std::string_view(cell)))->text();
+}
+
+/// The next of the texts that a zero byte ends; @p texts goes to the one after it.
+std::string takeText(const char*& texts)
+{
+    std::string text(texts);
+    texts += text.size() + 1;
+    return text;
+}
+
+} // namespace
+
+class PluComparer
 {
 public:
-    Comparison(store::Database& database, const PluFile& file)
-        : m_database(database), m_file(file), m_keys(database)
+    PluComparer(store::Database& database, PluComparison& result)
+        : m_database(database), m_file(result.m_file), m_result(result), m_keys(database)
     {
-        m_byNumber.reserve(file.lines.size());
-        for (const PluLine& line : file.lines) {
-            m_byNumber.emplace(line.number, &line);
-            learnDecimalSign(line);
-        }
     }
 
-    PluComparison run()
+    void run()
     {
-        m_result.mistakes = m_file.mistakes;
+        m_result.m_mistakes = m_file.mistakes();
+        m_result.m_changes.reserve(m_file.lines().size());
         compareStored();
         compareNew();
-        std::ranges::stable_sort(m_result.mistakes, {}, &PluMistake::line);
-        return std::move(m_result);
     }
 
 private:
-    void learnDecimalSign(const PluLine& line)
-    {
-        for (std::size_t place = 0; place < m_file.columns.size(); ++place) {
-            const std::string_view cell = trimBlanks(std::string_view(line.cells[place]));
-            if (m_file.columns[place]->content == PluContent::Price && numberOf(cell))
-                m_decimalSign.learnFrom(cell);
-        }
-    }
-
     void compareStored()
     {
         auto plus = m_database.openTable(u"PLUDATA"_s);
         plus.setIndex(u"plunumber"_s);
         const int number = plus.fieldOrdinal(pluColumns().front().field);
         std::vector<int> places{number};
-        for (const PluColumn* const column : m_file.columns)
+        for (const PluColumn* const column : m_file.columns())
             places.push_back(plus.fieldOrdinal(column->field));
-        qint64 position = 0;
+        std::uint32_t position = 0;
         for (plus.readOnly(places); !plus.atEnd(); plus.moveNext(), ++position) {
-            if (const PluLine* const line = lineOf(plus.value(number).textView()))
+            stopIfSignalled();
+            const auto key = pluNumberOf(plus.value(number).textView());
+            if (const auto line = key ? m_file.take(*key) : std::nullopt)
                 compare(*line, plus, places, position);
         }
     }
 
-    /// Takes the line out, so that those of new PLUs are left.
-    [[nodiscard]] const PluLine* lineOf(std::string_view number)
+    void compare(std::uint32_t line, const store::Recordset& plus, const std::vector<int>& places,
+                 std::uint32_t position)
     {
-        const auto found = number.size() == pluNumberDigits
-                               ? m_byNumber.find(number)
-                               : m_byNumber.find(filledPluNumber(trimBlanks(number)));
-        return found == m_byNumber.end() ? nullptr : std::exchange(found->second, nullptr);
-    }
-
-    void compare(const PluLine& line, const store::Recordset& plus, const std::vector<int>& places,
-                 qint64 position)
-    {
-        PluChange change{plus.value(places.front()).toUtf8(), false, position, {}};
-        for (std::size_t column = 0; column < m_file.columns.size(); ++column)
-            compareCell(line, column, plus.value(places[column + 1]), change);
-        if (!change.fields.empty())
-            m_result.changes.push_back(std::move(change));
+        m_change = {line, position, 0, false};
+        m_former = plus.value(places.front()).toUtf8();
+        if (m_former == filledPluNumber(m_file.lines()[line].number))
+            m_former.clear();
+        m_former += '\0';
+        m_cells = m_file.cells(line);
+        for (std::size_t column = 0; column < m_cells.size(); ++column)
+            compareCell(column, plus.value(places[column + 1]));
+        if (m_change.columns != 0)
+            keepChange();
     }
 
     void compareNew()
     {
-        for (const PluLine& line : m_file.lines) {
-            if (m_byNumber.at(line.number) == nullptr) // is known
+        std::vector<Value> newValues;
+        for (const PluColumn* const column : m_file.columns())
+            newValues.push_back(newPluValue(*column));
+        for (std::uint32_t line = 0; line < m_file.lines().size(); ++line) {
+            if (m_file.lines()[line].isTaken)
                 continue;
-            PluChange change{line.number, true, 0, {}};
-            for (std::size_t column = 0; column < m_file.columns.size(); ++column)
-                compareCell(line, column, newPluValue(*m_file.columns[column]), change);
-            m_result.changes.push_back(std::move(change));
+            stopIfSignalled();
+            m_change = {line, 0, 0, true};
+            m_former.assign(1, '\0');
+            m_cells = m_file.cells(line);
+            for (std::size_t column = 0; column < m_cells.size(); ++column)
+                compareCell(column, newValues[column]);
+            keepChange();
+            ++m_result.m_newCount;
         }
     }
 
-    void compareCell(const PluLine& line, std::size_t place, const Value& stored, PluChange& change)
+    void keepChange()
     {
-        const PluColumn& column = *m_file.columns[place];
-        const std::string& cell = line.cells[place];
+        m_result.m_changes.push_back(m_change);
+        m_result.m_former += m_former;
+    }
+
+    void compareCell(std::size_t place, const Value& stored)
+    {
+        const PluColumn& column = *m_file.columns()[place];
+        const std::string& cell = m_cells[place];
         if (stored.textView() == cell)
             return;
         if (column.content == PluContent::Text) {
-            compareText(line, column, QString::fromStdString(cell), stored, change);
+            compareText(place, QString::fromStdString(cell), stored);
         } else if (column.content != PluContent::Number) {
-            compareNumber(line, column, trimBlanks(std::string_view(cell)), stored, change);
+            compareNumber(place, trimBlanks(std::string_view(cell)), stored);
         }
     }
 
-    void compareText(const PluLine& line, const PluColumn& column, const QString& cell, const Value& stored,
-                     PluChange& change)
+    void compareText(std::size_t place, const QString& cell, const Value& stored)
     {
         const QString before = exportedText(stored);
         const auto isBefore = [&](const QString& text) {
@@ -194,15 +195,10 @@ private:
         const QString text = reports::unguarded(cell);
         if (isBefore(cell) || isBefore(text))
             return;
-        if (const QString fault = faultOf(text); !fault.isEmpty()) {
-            add(line, column, fault);
-        } else {
-            change.fields.push_back({&column, before.toStdString(), text.toStdString()});
-        }
+        note(place, faultOf(text), before.toStdString());
     }
 
-    void compareNumber(const PluLine& line, const PluColumn& column, std::string_view cell,
-                       const Value& stored, PluChange& change)
+    void compareNumber(std::size_t place, std::string_view cell, const Value& stored)
     {
         if (cell.empty())
             return;
@@ -210,17 +206,27 @@ private:
         const auto before = exportedNumber(stored);
         if (number && before && *number == *before && isExported(cell, *before))
             return;
-        if (const QString fault = faultOfNumber(column, cell, number); !fault.isEmpty()) {
-            add(line, column, fault);
-        } else {
-            change.fields.push_back({&column, before ? before->text() : std::string(), number->text()});
+        note(place, faultOfNumber(*m_file.columns()[place], cell, number),
+             before ? before->text() : std::string());
+    }
+
+    /// Notes that a cell changes a field, or what is wrong with it.
+    void note(std::size_t place, const QString& fault, const std::string& before)
+    {
+        if (!fault.isEmpty()) {
+            const PluLine& line = m_file.lines()[m_change.line];
+            m_result.m_mistakes.add({line.line, m_file.columns()[place]->heading, fault});
+            return;
         }
+        m_change.columns |= static_cast<std::uint16_t>(1U << place);
+        m_former += before.c_str(); // NOLINT(readability-redundant-string-cstr): without zero bytes
+        m_former += '\0';
     }
 
     /// An export writes three places only of a price that has them.
     [[nodiscard]] bool isExported(std::string_view cell, const Decimal& before) const
     {
-        return !m_decimalSign.leavesOpen(cell) || before.rounded(priceDecimals) != before;
+        return !m_file.decimalSign().leavesOpen(cell) || before.rounded(priceDecimals) != before;
     }
 
     QString faultOfNumber(const PluColumn& column, std::string_view cell,
@@ -229,7 +235,7 @@ private:
         const bool isPrice = column.content == PluContent::Price;
         if (!number)
             return (isPrice ? u"\"%1\" is no price"_s : u"\"%1\" is no number"_s).arg(excerptOfUtf8(cell));
-        if (m_decimalSign.leavesOpen(cell))
+        if (m_file.decimalSign().leavesOpen(cell))
             return readingsOf(column, cell, *number);
         if (isPrice)
             return faultOf(*number);
@@ -238,25 +244,42 @@ private:
                    : u"there is no %1 %2"_s.arg(QString(column.heading).toLower(), excerptOfUtf8(cell));
     }
 
-    void add(const PluLine& line, const PluColumn& column, const QString& reason)
-    {
-        m_result.mistakes.push_back({line.line, column.heading, reason});
-    }
-
     store::Database& m_database;
-    const PluFile& m_file;
+    PluFile& m_file;
+    PluComparison& m_result;
     KnownKeys m_keys;
-    DecimalSign m_decimalSign;
-    std::unordered_map<std::string_view, const PluLine*> m_byNumber;
-    PluComparison m_result;
+    PluComparison::Change m_change{}; ///< of the line that is compared
+    std::string m_former;
+    std::span<const std::string> m_cells;
 };
 
-} // namespace
-
-PluComparison comparePlus(store::Database& database, const QByteArray& content)
+PluComparison::PluComparison(store::Database& database, const QByteArray& content,
+                             std::optional<char> separator)
+    : m_file(content, separator)
 {
-    const PluFile file = readPluFile(content);
-    return Comparison(database, file).run();
+    PluComparer(database, *this).run();
+}
+
+void PluComparison::forEach(const std::function<void(const PluChange& change)>& take) const
+{
+    const char* former = m_former.c_str();
+    PluChange change;
+    for (const auto& [line, position, columns, isNew] : m_changes) {
+        change.number = takeText(former);
+        if (change.number.empty())
+            change.number = filledPluNumber(m_file.lines()[line].number);
+        change.isNew = isNew;
+        change.position = position;
+        change.fields.clear();
+        const auto cells = m_file.cells(line);
+        for (std::size_t place = 0; place < cells.size(); ++place) {
+            if ((columns >> place & 1U) == 0)
+                continue;
+            const PluColumn& column = *m_file.columns()[place];
+            change.fields.push_back({&column, takeText(former), valueOf(column, cells[place])});
+        }
+        take(change);
+    }
 }
 
 QString shownPluValue(const PluColumn& column, const std::string& value)

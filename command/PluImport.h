@@ -6,7 +6,8 @@
 
 #include <QByteArray>
 
-#include <span>
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,21 +27,49 @@ struct PluChange {
     std::vector<PluFieldChange> fields; ///< in the order of the file's columns
 };
 
-struct PluComparison {
-    std::vector<PluMistake> mistakes; ///< by line; with one of them nothing may be stored
-    std::vector<PluChange> changes;   ///< by number, new PLUs behind them as the file has them
+/// A file held against the PLUs of a database. Of a change only the place in the file and the former values
+/// are kept, so that a file of a million lines takes little more memory than its text.
+class PluComparison
+{
+public:
+    /// A cell that reads as an export writes what is stored changes nothing and is never a mistake, whatever
+    /// the register thinks of it. An empty price, group or status leaves things as they are; an empty
+    /// description empties it.
+    /// @param content must outlive this object
+    /// @param separator as for PluFile
+    /// @throws RuntimeFailure as the database reports, 18 after a signal.
+    PluComparison(store::Database& database, const QByteArray& content, std::optional<char> separator = {});
+
+    /// With one of them nothing may be stored.
+    [[nodiscard]] const PluMistakes& mistakes() const { return m_mistakes; }
+    /// Of known and new PLUs.
+    [[nodiscard]] std::size_t changeCount() const { return m_changes.size(); }
+    [[nodiscard]] std::size_t newCount() const { return m_newCount; }
+    /// Calls @p take with each change: by number, new PLUs behind them as the file has them.
+    void forEach(const std::function<void(const PluChange& change)>& take) const;
+
+private:
+    friend class PluComparer;
+    struct Change {
+        std::uint32_t line;     ///< of the file, as an index
+        std::uint32_t position; ///< of a known PLU
+        std::uint16_t columns;  ///< a bit for each column of the file
+        bool isNew;
+    };
+
+    PluFile m_file;
+    PluMistakes m_mistakes;
+    std::vector<Change> m_changes;
+    std::size_t m_newCount = 0;
+    /// For each change the number where the table spells it in its own way, and the former value of each
+    /// changed column; a zero byte ends each.
+    std::string m_former;
 };
 
-/// Holds a file against the PLUs of @p database. A cell that reads as an export writes what is stored changes
-/// nothing and is never a mistake, whatever the register thinks of it. An empty price, group or status leaves
-/// things as they are; an empty description empties it.
-/// @throws RuntimeFailure as the database reports.
-[[nodiscard]] PluComparison comparePlus(store::Database& database, const QByteArray& content);
-
 /// Stores all changes or none. New PLUs are filled as the PLU screen fills a new record.
-/// @throws RuntimeFailure 3022, 3167 when the PLUs are no longer those that were compared, and as the
-/// database reports.
-void applyPluChanges(store::Database& database, std::span<const PluChange> changes);
+/// @throws RuntimeFailure 3022, 3167 when the PLUs are no longer those that were compared, 18 after a signal,
+/// and as the database reports.
+void applyPluChanges(store::Database& database, const PluComparison& comparison);
 
 /// A value of the column as the listing shows it: prices with two places and a point.
 [[nodiscard]] QString shownPluValue(const PluColumn& column, const std::string& value);

@@ -1,7 +1,9 @@
 // PLUs out to a spreadsheet and back.
 #include "base/CustomerSettings.h"
+#include "command/CsvOption.h"
 #include "command/PluExport.h"
 #include "command/PluImport.h"
+#include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
 #include "customers/CustomerLog.h"
@@ -13,8 +15,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
-#include <span>
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -23,21 +24,26 @@ namespace norvane::command
 namespace
 {
 
-constexpr std::size_t mistakesShown = 100;
-
-void exportTo(const Workplace& workplace, const ApplicationValues& values, const QString& path)
+void exportTo(const Workplace& workplace, const ApplicationValues& values, const Invocation& words)
 {
+    const QString path = words.operands[2];
     const QString ending = path == standardOutput ? u"csv"_s : QFileInfo(path).suffix().toLower();
     if (ending != "csv"_L1 && ending != "xlsx"_L1)
         throw CommandError(ExitCode::Usage, u"Name a file that ends in .csv or .xlsx."_s);
+    const reports::CsvSigns signs = signsToWrite(words);
     store::Database database(values.databasePath);
     auto plus = exportedPlus(database);
     plus.heading.title = u"PLUs"_s;
     plus.heading.customer = customerOf(values, values.databasePath);
     plus.heading.printed = QDateTime::currentDateTime();
     plus.heading.notice = u"There are no PLUs."_s;
-    const auto write = ending == "csv"_L1 ? reports::writeCsv : reports::writeXlsx;
-    workplace.writeUserFile(path, [&](const QString& file) { write(plus, file, {}); });
+    workplace.writeUserFile(path, [&](const QString& file) {
+        if (ending == "csv"_L1) {
+            reports::writeCsvWith(signs, plus, file);
+        } else {
+            reports::writeXlsx(plus, file);
+        }
+    });
 }
 
 /// @throws CommandError BadFile
@@ -52,74 +58,92 @@ QByteArray contentOf(const QString& path)
 }
 
 /// @throws CommandError BadFile when there are any.
-void failWith(const std::vector<PluMistake>& mistakes, const QString& path)
+void failWith(const PluMistakes& mistakes, const QString& path)
 {
-    if (mistakes.empty())
+    if (mistakes.isEmpty())
         return;
-    for (const auto& [line, column, reason] :
-         std::span(mistakes).first(std::min(mistakes.size(), mistakesShown)))
+    const auto shown = mistakes.first();
+    for (const auto& [line, column, reason] : shown)
         tell(u"line %1%2: %3"_s.arg(line).arg(column.isEmpty() ? QString() : u", "_s + column, reason));
     const QString further =
-        mistakes.size() > mistakesShown ? u" The first %1 are listed."_s.arg(mistakesShown) : QString();
+        mistakes.count() > shown.size() ? u" The first %1 are listed."_s.arg(shown.size()) : QString();
     throw CommandError(
         ExitCode::BadFile,
-        u"%1 has mistakes: %2. Nothing was changed.%3"_s.arg(path).arg(mistakes.size()).arg(further));
+        u"%1 has mistakes: %2. Nothing was changed.%3"_s.arg(path).arg(mistakes.count()).arg(further));
 }
 
-Listing differences(const std::vector<PluChange>& changes)
+/// A file that is held against the PLUs of a customer.
+class FileOfPlus
 {
-    Listing listing({u"Number"_s, u"Field"_s, u"Old"_s, u"New"_s});
-    for (const PluChange& change : changes) {
+public:
+    /// @throws CommandError BadFile
+    FileOfPlus(const Workplace& workplace, const ApplicationValues& values, const Invocation& words)
+        : m_workplace(workplace), m_path(workplace.userFile(words.operands[2])), m_content(contentOf(m_path)),
+          m_database(values.databasePath), m_comparison(m_database, m_content, separatorToRead(words))
+    {
+    }
+
+    [[nodiscard]] const PluComparison& comparison() const { return m_comparison; }
+    /// Lists what the file changes. @throws CommandError BadFile for one with mistakes.
+    void show() const
+    {
+        failWith(m_comparison.mistakes(), m_path);
+        m_workplace.show({u"Number"_s, u"Field"_s, u"Old"_s, u"New"_s}, [this](const auto& take) {
+            m_comparison.forEach([&take](const PluChange& change) { addRows(change, take); });
+        });
+    }
+    void apply() { applyPluChanges(m_database, m_comparison); }
+
+private:
+    static void addRows(const PluChange& change, const std::function<void(const QVariantList& row)>& take)
+    {
+        stopIfSignalled();
         const QString number =
             store::shownKey(pluColumns().front().field, QString::fromStdString(change.number));
         if (change.isNew)
-            listing.add({number, u"new PLU"_s, {}, {}});
+            take({number, u"new PLU"_s, {}, {}});
         for (const auto& [column, before, after] : change.fields) {
-            listing.add({number, QString(column->heading), shownPluValue(*column, before),
-                         shownPluValue(*column, after)});
+            take({number, QString(column->heading), shownPluValue(*column, before),
+                  shownPluValue(*column, after)});
         }
     }
-    return listing;
-}
 
-/// Shows what the file at @p path changes. @throws CommandError BadFile
-void show(const Workplace& workplace, const PluComparison& comparison, const QString& path)
-{
-    failWith(comparison.mistakes, path);
-    workplace.show(differences(comparison.changes));
-}
+    const Workplace& m_workplace;
+    QString m_path;
+    QByteArray m_content;
+    store::Database m_database;
+    PluComparison m_comparison;
+};
 
-QString resultOf(const std::vector<PluChange>& changes)
+/// @return what was done, for the log.
+QString importFrom(FileOfPlus& file, const Workplace& workplace, const ApplicationValues& values,
+                   customers::LoggedWork& work)
 {
-    const auto added = std::ranges::count_if(changes, &PluChange::isNew);
-    return u"%1 changed, %2 new"_s.arg(std::ssize(changes) - added).arg(added);
-}
-
-void listChanges(const Workplace& workplace, const ApplicationValues& values, const QString& path)
-{
-    store::Database database(values.databasePath);
-    show(workplace, comparePlus(database, contentOf(path)), path);
-}
-
-void importFrom(const Workplace& workplace, const ApplicationValues& values, const QString& path)
-{
-    const auto lock = lockFor(workplace, values);
-    customers::LoggedWork work(values.customerPath, u"PLU import"_s);
-    store::Database database(values.databasePath);
-    const PluComparison comparison = comparePlus(database, contentOf(path));
-    if (!comparison.mistakes.empty())
+    const PluComparison& comparison = file.comparison();
+    if (!comparison.mistakes().isEmpty())
         work.setResult(u"refused: the file has mistakes"_s);
-    show(workplace, comparison, path);
-    const auto& changes = comparison.changes;
-    if (!changes.empty()) {
+    file.show();
+    if (comparison.changeCount() > 0) {
         if (!customers::copyBeforeJob(values, workplace.boxes, u"before PLU import"_s)) {
             work.setResult(u"not started: no safety copy"_s);
             throw CommandError(ExitCode::Unwritable, {});
         }
-        applyPluChanges(database, changes);
+        file.apply();
     }
-    work.setResult(resultOf(changes));
-    tellStep(resultOf(changes));
+    return u"%1 changed, %2 new"_s.arg(comparison.changeCount() - comparison.newCount())
+        .arg(comparison.newCount());
+}
+
+void importFrom(const Workplace& workplace, const ApplicationValues& values, const Invocation& words)
+{
+    const auto lock = lockFor(workplace, values);
+    customers::LoggedWork work(values.customerPath, u"PLU import"_s);
+    const QString result = work.during([&] {
+        FileOfPlus file(workplace, values, words);
+        return importFrom(file, workplace, values, work);
+    });
+    work.setResult(result);
+    tellStep(result);
 }
 
 } // namespace
@@ -131,13 +155,12 @@ void movePlus(const Workplace& workplace, const Invocation& words)
     if (!isExport && direction != "import"_L1)
         throw CommandError(ExitCode::Usage, u"\"%1\" is neither export nor import."_s.arg(direction));
     const ApplicationValues values = takeCustomer(workplace, words.operands[0]);
-    const QString path = words.operands[2];
     if (isExport) {
-        exportTo(workplace, values, path);
+        exportTo(workplace, values, words);
     } else if (words.has("dry-run"_L1)) {
-        listChanges(workplace, values, workplace.userFile(path));
+        FileOfPlus(workplace, values, words).show();
     } else {
-        importFrom(workplace, values, workplace.userFile(path));
+        importFrom(workplace, values, words);
     }
 }
 

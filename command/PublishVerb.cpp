@@ -1,6 +1,7 @@
 // Shops into the PostgreSQL of their chain.
 #include "chain/ChainSchema.h"
 #include "chain/Publisher.h"
+#include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
 #include "customers/CustomerLog.h"
@@ -98,7 +99,10 @@ class PublishRun
 public:
     PublishRun(const Workplace& workplace, const Invocation& words)
         : m_workplace(workplace),
-          m_words(words), m_options{vanishedOf(words), words.has("adopt"_L1), tellStep}
+          m_words(words), m_options{vanishedOf(words), words.has("adopt"_L1), [](const QString& text) {
+                                        stopIfSignalled();
+                                        tellStep(text);
+                                    }}
     {
     }
 
@@ -176,6 +180,8 @@ void PublishRun::publishOrTell(chain::Server& server, const ApplicationValues& c
         const bool isNameless = error.failure() == ChainFailure::BadRows;
         note(rowOf(error).code, isNameless ? shopName(customer) + u": "_s + error.text() : error.text());
     } catch (const RuntimeFailure& failure) {
+        if (failure.failure() == Failure::UserInterrupt)
+            throw;
         note(codeOf(failure), u"%1: Run-time error '%2': %3"_s.arg(shopName(customer))
                                   .arg(failure.number())
                                   .arg(failure.text()));
@@ -186,6 +192,7 @@ void PublishRun::publish(chain::Server& server, const ApplicationValues& custome
 {
     // A collection must not store half a day meanwhile. The program's folder is not needed, so that other
     // shops can collect.
+    catchStopSignals();
     const auto lock = FolderLock::take(customer.customerPath, m_workplace.boxes);
     if (lock == nullptr) {
         // The box does not name the shop.
@@ -194,8 +201,10 @@ void PublishRun::publish(chain::Server& server, const ApplicationValues& custome
     }
     customers::LoggedWork work(customer.customerPath, u"publication"_s);
     const QString name = shopName(customer);
-    const auto published =
-        chain::publishShop(server, {name, customer.customerPath, customer.databasePath}, m_options);
+    const auto published = work.during([&] {
+        stopIfSignalled();
+        return chain::publishShop(server, {name, customer.customerPath, customer.databasePath}, m_options);
+    });
     work.setResult(u"%1 days, %2 rows"_s.arg(published.days).arg(published.rows));
     m_listing.add({name, published.days, published.rows, published.same, published.vanished.size()});
     const bool hasVanished = !published.vanished.isEmpty() || !published.vanishedNames.isEmpty();

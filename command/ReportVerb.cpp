@@ -1,5 +1,6 @@
 // A report into files.
 #include "base/CustomerSettings.h"
+#include "command/CsvOption.h"
 #include "command/ReportPeriods.h"
 #include "command/Verbs.h"
 #include "platform/FilePaths.h"
@@ -40,19 +41,19 @@ void selectPeriod(reports::ReportRequest& request, const QString& name, const In
 
 struct Target {
     QLatin1StringView option;
-    void (*write)(const reports::ReportData& report, const QString& path);
+    void (*write)(const reports::ReportData& report, const QString& path, const reports::CsvSigns& signs);
 };
 constexpr auto targets = std::to_array<Target>({
     {"pdf"_L1,
-     [](const reports::ReportData& report, const QString& path) {
+     [](const reports::ReportData& report, const QString& path, const reports::CsvSigns& /*signs*/) {
          reports::writePdf(report, true, path);
      }},
     {"csv"_L1,
-     [](const reports::ReportData& report, const QString& path) {
-         reports::writeCsv(report, path);
+     [](const reports::ReportData& report, const QString& path, const reports::CsvSigns& signs) {
+         reports::writeCsvWith(signs, report, path);
      }},
     {"xlsx"_L1,
-     [](const reports::ReportData& report, const QString& path) {
+     [](const reports::ReportData& report, const QString& path, const reports::CsvSigns& /*signs*/) {
          reports::writeXlsx(report, path);
      }},
 });
@@ -70,6 +71,7 @@ void checkWords(const Invocation& words)
 void report(const Workplace& workplace, const Invocation& words)
 {
     checkWords(words);
+    const reports::CsvSigns signs = signsToWrite(words);
     const ApplicationValues values = takeCustomer(workplace, words.operands[0]);
     const QString name = words.operands[1];
     reports::ReportRequest request;
@@ -86,7 +88,7 @@ void report(const Workplace& workplace, const Invocation& words)
     for (const auto& target : targets) {
         if (words.has(target.option))
             workplace.writeUserFile(words.value(target.option),
-                                    [&](const QString& path) { target.write(data, path); });
+                                    [&](const QString& path) { target.write(data, path, signs); });
     }
 }
 

@@ -25,16 +25,17 @@ QString lines(QString text)
     return visibleControls(text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').trimmed());
 }
 
-bool isTerminal()
+} // namespace
+
+bool isTerminal(Output output)
 {
+    std::FILE* const file = output == Output::Standard ? stdout : stderr;
 #ifdef Q_OS_UNIX
-    return isatty(fileno(stderr)) != 0;
+    return isatty(fileno(file)) != 0;
 #else
-    return _isatty(_fileno(stderr)) != 0;
+    return _isatty(_fileno(file)) != 0;
 #endif
 }
-
-} // namespace
 
 void print(const QByteArray& bytes)
 {
@@ -52,7 +53,7 @@ void tell(const QString& text)
 
 void tellStep(const QString& text)
 {
-    if (isTerminal() && !text.isEmpty())
+    if (isTerminal(Output::Error) && !text.isEmpty())
         tell(text);
 }
 

@@ -29,6 +29,10 @@ private:
     QStringList m_options;
 };
 
+enum class Output { Standard, Error };
+/// Whether somebody reads what is written there on a terminal.
+[[nodiscard]] bool isTerminal(Output output);
+
 /// Writes to standard output. @throws CommandError Unwritable when not all of it can be written.
 void print(const QByteArray& bytes);
 /// Writes a line to standard error.

@@ -1,6 +1,8 @@
 // The table of commands.
 #include "command/Verbs.h"
 
+#include "command/CsvOption.h"
+
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,9 +38,11 @@ constexpr auto reportOptions = std::to_array<OptionDefinition>({
     {"pdf"_L1, "FILE"_L1, "write the pages; \"-\" for standard output, here and below"_L1},
     {"csv"_L1, "FILE"_L1, "write the lines as CSV"_L1},
     {"xlsx"_L1, "FILE"_L1, "write the lines as a spreadsheet"_L1},
+    separatorOption,
 });
 constexpr auto plusOptions = std::to_array<OptionDefinition>({
     {"dry-run"_L1, {}, "of an import: list what would change, and change nothing"_L1},
+    separatorOption,
 });
 constexpr auto publishOptions = std::to_array<OptionDefinition>({
     {"to"_L1, "CONNECTION"_L1, "\"host=db.example dbname=chain\" or \"postgresql://db.example/chain\""_L1},

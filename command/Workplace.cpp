@@ -2,6 +2,7 @@
 #include "command/Workplace.h"
 
 #include "command/ExitCode.h"
+#include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "customers/CustomerFolders.h"
 #include "customers/RunLock.h"
@@ -40,7 +41,12 @@ void Workplace::writeUserFile(const QString& name,
 
 void Workplace::show(const Listing& listing) const
 {
-    print(asJson ? listing.json() : listing.text());
+    show(listing.headings(), listing.rows());
+}
+
+void Workplace::show(const QStringList& headings, const Rows& rows) const
+{
+    (asJson ? writeJson : writeText)(headings, rows, print);
 }
 
 namespace
@@ -117,6 +123,8 @@ ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
 
 std::unique_ptr<customers::RunLock> lockFor(const Workplace& workplace, const ApplicationValues& values)
 {
+    // A run that is killed would leave the lock behind and no line in the log.
+    catchStopSignals();
     auto lock = customers::RunLock::take(values, workplace.boxes);
     if (lock == nullptr) {
         const bool isWritable = canWriteIn(values.appPath) && canWriteIn(values.customerPath);

@@ -33,6 +33,7 @@ struct Workplace {
     void writeUserFile(const QString& name, const std::function<void(const QString& path)>& write) const;
     /// Writes a listing to standard output.
     void show(const Listing& listing) const;
+    void show(const QStringList& headings, const Rows& rows) const;
 };
 
 /// The values of an existing customer, found without regard to case where only one is meant. Its database is
@@ -44,6 +45,7 @@ struct Workplace {
 /// @throws CommandError as well Unsound when its database is damaged or is none.
 [[nodiscard]] ApplicationValues takeCustomer(const Workplace& workplace, const QString& name);
 
+/// Also begins to catch signals: the run must call stopIfSignalled().
 /// @throws CommandError Busy when another run works with the customer, Unwritable when the lock cannot be
 /// written.
 [[nodiscard]] std::unique_ptr<customers::RunLock> lockFor(const Workplace& workplace,

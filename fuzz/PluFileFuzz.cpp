@@ -12,13 +12,14 @@ namespace
 
 void requireWhole(const command::PluFile& file, qint64 lines)
 {
-    std::unordered_set<std::string> numbers;
-    for (const auto& line : file.lines) {
+    std::unordered_set<std::uint64_t> numbers;
+    for (std::uint32_t index = 0; index < file.lines().size(); ++index) {
+        const command::PluLine& line = file.lines()[index];
         require(line.line >= 1 && line.line <= lines, "a line that was read lies within the file");
-        require(line.cells.size() == file.columns.size(), "a line has a cell for each column");
-        require(line.number.size() >= 1 && numbers.insert(line.number).second, "a number stands there once");
+        require(file.cells(index).size() == file.columns().size(), "a line has a cell for each column");
+        require(numbers.insert(line.number).second != line.isTaken, "a number is taken once");
     }
-    for (const auto& mistake : file.mistakes) {
+    for (const auto& mistake : file.mistakes().first()) {
         require(mistake.line >= 1 && mistake.line <= lines, "a mistake names a line within the file");
         require(!mistake.reason.isEmpty(), "a mistake has a reason");
     }
@@ -31,7 +32,7 @@ void tryInput(std::string_view input)
     const QByteArray content(input.data(), static_cast<qsizetype>(input.size()));
     const auto ends =
         std::count(input.begin(), input.end(), '\n') + std::count(input.begin(), input.end(), '\r');
-    requireWhole(command::readPluFile(content), ends + 1);
+    requireWhole(command::PluFile(content, {}), ends + 1);
 }
 
 } // namespace norvane::fuzz

@@ -33,6 +33,8 @@ _norvane_shop()
         mapfile -t choices < <("$1" --help 2>/dev/null | sed -n 's/^norvane-shop \([a-z]*\).*/\1/p')
     elif [ "${COMP_WORDS[COMP_CWORD - 1]}" = --vanished ]; then
         choices=(keep remove)
+    elif [ "${COMP_WORDS[COMP_CWORD - 1]}" = --separator ]; then
+        choices=(comma semicolon tab)
     elif [ "${word#-}" = "$word" ] && { [ "$COMP_CWORD" -eq 2 ] || [ "${COMP_WORDS[1]}" = publish ]; }; then
         mapfile -t choices < <(_norvane_shop_customers "$1")
     else

@@ -148,11 +148,50 @@ TEST_P(CommandLineOfOneShop, TellsByItsExitCodeWhatStoppedARun)
     const Ended stopped = run({u"fetch"_s, shopName, u"1"_s});
     EXPECT_EQ(stopped.code, 6);
     EXPECT_TRUE(stopped.err.contains(u"Communications Error"_s)) << stopped.err.toStdString();
+    EXPECT_TRUE(run({u"customers"_s, u"--json"_s}).out.contains(u"\"lastExchange\": null"_s));
     m_shop.folder().setFaults({});
     auto lock = FolderLock::take(m_shop.values().customerPath, m_shop.boxes());
     EXPECT_EQ(run({u"collect"_s, shopName}).code, 5);
     lock.reset();
     EXPECT_EQ(run({u"collect"_s, shopName}).code, 0) << "the lock went with its owner";
+}
+
+/// The tool hangs; it is ended with the run.
+TEST_P(CommandLineOfOneShop, IsStoppedByASignalWithALineInTheLogAndNoLock)
+{
+    ring();
+    const struct {
+        QStringList words;
+        QByteArray fault;
+        QString logged;
+        QString said;
+    } runs[] = {
+        {{u"fetch"_s, shopName, u"plu"_s, u"group"_s},
+         "fetch\nFile=67",
+         u"upload\tregister 1\tstopped at file 67: stopped by a signal; still to do: PLU, Group"_s,
+         u"Stopped by SIGTERM."_s},
+        {{u"collect"_s, shopName},
+         "clear",
+         u"stopped at Clear Data at ECR: stopped by a signal; the sales are stored; still to do: clear"_s,
+         u"\"collect --clear-first\" clears them"_s},
+    };
+    for (const auto& [words, fault, logged, said] : runs) {
+        m_shop.folder().setFaults("[Slow]\nHang=60\nCommand=" + fault + '\n');
+        QProcess command;
+        command.start(QString::fromUtf8(COMMAND),
+                      words + QStringList{u"--folder"_s, m_shop.folder().appPath()});
+        EXPECT_TRUE(QTest::qWaitFor(
+            [this] { return pathExists(joinPath(m_shop.folder().bankPath(), u"faults.log"_s)); }, 30000));
+        command.terminate();
+        EXPECT_TRUE(command.waitForFinished(20000));
+        EXPECT_EQ(command.exitCode(), 143);
+        const QString err = QString::fromLocal8Bit(command.readAllStandardError());
+        EXPECT_TRUE(err.contains(said)) << err.toStdString();
+        const QByteArray log = readWholeFile(joinPath(m_shop.values().customerPath, u"norvane.log"_s));
+        EXPECT_TRUE(log.contains(logged.toUtf8())) << log.toStdString();
+        for (const QString& folder : {m_shop.values().customerPath, m_shop.folder().appPath()})
+            EXPECT_FALSE(pathExists(joinPath(folder, u"norvane.lock"_s)));
+    }
 }
 
 /// A table that has more than the register sends, and PLUs whose points were not fetched.

@@ -118,15 +118,21 @@ protected:
 TEST_P(PluFileOfOneModel, ChangesNothingByAnExport)
 {
     const auto before = rows();
-    for (const QString& locale : {u"C.UTF-8"_s, u"de_DE.UTF-8"_s}) {
-        EXPECT_EQ(run({u"plus"_s, customer, u"export"_s, m_file}, locale).code, 0);
+    for (const QStringList& options :
+         {QStringList{}, {u"--separator"_s, u"tab"_s}, {u"--separator"_s, u"semicolon"_s}}) {
+        // No terminal: the locale counts for nothing.
+        EXPECT_EQ(run(QStringList{u"plus"_s, customer, u"export"_s, m_file} + options, u"de_DE.UTF-8"_s).code,
+                  0);
+        const QByteArray signs = options.isEmpty() ? ",." : options[1] == u"tab"_s ? "\t." : ";,";
+        QByteArray line = "900000000000000000;\" =1+2\";99;;1|50;-1|255;;";
+        EXPECT_TRUE(readWholeFile(m_file).contains(line.replace(';', signs[0]).replace('|', signs[1])))
+            << readWholeFile(m_file).toStdString();
         const Ended imported = import(readWholeFile(m_file));
         EXPECT_EQ(imported.code, 0) << imported.err.toStdString();
         EXPECT_EQ(imported.out, u"Number  Field  Old  New\n") << readWholeFile(m_file).toStdString();
     }
     EXPECT_EQ(rows(), before);
     EXPECT_EQ(copies(), 0);
-    EXPECT_TRUE(readWholeFile(m_file).contains("\r\n900000000000000000;\" =1+2\";99;;1,50;-1,255;;"));
     const QString sheet = m_shop.folder().appFile(u"plus.XLSX"_s);
     EXPECT_EQ(run({u"plus"_s, customer, u"export"_s, sheet}).code, 0);
     EXPECT_TRUE(readWholeFile(sheet).startsWith("PK"));
@@ -206,6 +212,9 @@ TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
     EXPECT_EQ(run({u"plus"_s, customer, u"import"_s, u"none.csv"_s}).code, 9);
     EXPECT_EQ(run({u"plus"_s, customer, u"export"_s, u"plus.pdf"_s}).code, 2);
     EXPECT_EQ(run({u"plus"_s, customer, u"print"_s, u"plus.csv"_s}).code, 2);
+    EXPECT_EQ(import(prices + "1,2\n", {u"--separator"_s, u"dot"_s}).code, 2);
+    EXPECT_TRUE(
+        import(prices + "1,2\n", {u"--separator"_s, u"semicolon"_s}).err.contains(u"no line of headings"_s));
     const auto lock = FolderLock::take(m_shop.values().customerPath, m_shop.boxes());
     EXPECT_EQ(import(prices + "1,2\n").code, 5);
     EXPECT_EQ(import(prices + "1,2\n", {u"--dry-run"_s}).code, 0);

@@ -1,0 +1,18 @@
+// Ctrl+C and the stop of a service end a run in an orderly way.
+#pragma once
+
+namespace norvane::command
+{
+
+/// From now on the first SIGINT or SIGTERM is remembered for stopSignal(); a second one has its default
+/// effect. A signal that is ignored, as that of a shell's background job, is still ignored.
+void catchStopSignals();
+
+/// The number of the signal that asks the run to stop, 0 before one.
+[[nodiscard]] int stopSignal();
+
+/// To be called where a run can stop: everything stored so far is whole.
+/// @throws RuntimeFailure 18 after a signal.
+void stopIfSignalled();
+
+} // namespace norvane::command
