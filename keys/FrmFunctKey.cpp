@@ -216,7 +216,6 @@ void FrmFunctKey::showNumber(const NumberRow& row)
 {
     const KeyControls::Number& number = m_controls.number(row.control);
     row.label->setText(number.caption);
-    row.box->setAccessibleDescription(number.caption);
     row.box->setMaximum(number.largest);
     row.box->setValue(number.value);
     row.label->setVisible(number.visible);

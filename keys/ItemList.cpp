@@ -21,8 +21,7 @@ ItemList makeItemList(const ItemList::Names& names, const std::shared_ptr<store:
     ui::nameControl(*option, names.option);
     auto* const model = new store::RecordListModel(
         database, {items.table, u"primarykey"_s, items.number, u"DESCRIPTION"_s}, parent);
-    QTableView* const view = ui::makeListTable(names.list, model, parent);
-    view->setAccessibleDescription(option->accessibleDescription());
+    QTableView* const view = ui::makeListTable(names.list, ui::spokenName(*option), model, parent);
     option->hide();
     view->hide();
     return {names.kind, option, view, model};

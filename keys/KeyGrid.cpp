@@ -38,8 +38,7 @@ void fixSections(QHeaderView& header, double twips)
 
 KeyGrid::KeyGrid(KeyGridModel* model, QWidget* parent) : QTableView(parent)
 {
-    ui::nameControl(*this, u"Grid1"_s);
-    setAccessibleDescription(u"Keys of the level"_s);
+    ui::nameControl(*this, u"Grid1"_s, u"Keys of the level"_s);
     setModel(model);
     setItemDelegate(new KeyCellDelegate(this));
     fixSections(*verticalHeader(), cellHeightTwips);

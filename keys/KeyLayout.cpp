@@ -9,6 +9,7 @@
 #include "keys/KeySearch.h"
 #include "keys/SaveOrTell.h"
 #include "platform/Boxes.h"
+#include "ui/Announcement.h"
 #include "ui/StatusLine.h"
 
 #include <QAction>
@@ -204,7 +205,10 @@ void KeyLayout::find()
     const QString part = m_find->text().trimmed();
     m_found = cellsWith(m_level, part);
     m_model.setFound(m_found);
-    m_findOutcome->setText(part.isEmpty() ? QString() : u"%1 found"_s.arg(m_found.size()));
+    const QString outcome = part.isEmpty() ? QString() : u"%1 found"_s.arg(m_found.size());
+    if (outcome != m_findOutcome->text())
+        ui::announce(*m_findOutcome, outcome);
+    m_findOutcome->setText(outcome);
 }
 
 /// Row by row; behind the last one comes the first.

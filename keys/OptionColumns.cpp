@@ -24,11 +24,10 @@ QString buttonText(const QString& caption)
     return QString(caption).replace(u'&', u"&&"_s);
 }
 
-/// Shows @p caption beside @p box and tells it to screen readers.
+/// Shows @p caption beside @p box.
 void setCaption(QCheckBox& box, const QString& caption)
 {
     box.setText(buttonText(caption));
-    box.setAccessibleDescription(caption);
 }
 
 constexpr int columnCount = 3;

@@ -50,8 +50,7 @@ QString fourDigits(const QString& number)
 QTableView* makeGrid(LookUpGridModel* model, QWidget* form)
 {
     auto* const grid = new QTableView(form);
-    ui::nameControl(*grid, u"Grid1"_s);
-    grid->setAccessibleDescription(u"Lines of the look-up"_s);
+    ui::nameControl(*grid, u"Grid1"_s, u"Lines of the look-up"_s);
     grid->setModel(model);
     grid->setTabKeyNavigation(false);
     grid->setSelectionBehavior(QTableView::SelectRows);

@@ -3,6 +3,7 @@
 
 #include "base/SharedRoutines.h"
 #include "customers/RunLock.h"
+#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 #include "ui/StatusLine.h"
@@ -127,12 +128,17 @@ bool LinkForm::endRun()
     return leaves;
 }
 
+void LinkForm::showStep(const QString& text)
+{
+    StatusBar1->setStep(text);
+    ui::announce(*StatusBar1, text);
+}
+
 int LinkForm::connectLink(const LinkSettings& link)
 {
     m_link = link;
     m_waitPointer.emplace();
-    m_modem = std::make_unique<Modem>(*m_line, *m_clock,
-                                      [this](const QString& text) { StatusBar1->setStep(text); });
+    m_modem = std::make_unique<Modem>(*m_line, *m_clock, [this](const QString& text) { showStep(text); });
     m_modem->setUpLine(m_link);
     m_isConnected = true;
     const int result = dial();
@@ -191,7 +197,7 @@ RunOutside LinkForm::outside()
 {
     return {.runAndWait = [this](const QString& line) { return m_tool.run(m_values, line); },
             .readStatus = ReadStatusOut,
-            .showStep = [this](const QString& text) { StatusBar1->setStep(text); },
+            .showStep = [this](const QString& text) { showStep(text); },
             .showNotice = [this](const QString& text) { StatusBar1->setNotice(text); },
             .goOn = [this] { return !m_exitPressed; },
             .boxes = m_timedBoxes,

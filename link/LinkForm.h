@@ -98,6 +98,7 @@ private:
     void tabToButtonsLast(const QList<QPushButton*>& others);
     void communicate();
     [[nodiscard]] bool takeLock();
+    void showStep(const QString& text);
     void beginRun();
     [[nodiscard]] bool endRun();
     [[nodiscard]] int dial();

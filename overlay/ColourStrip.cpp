@@ -69,8 +69,9 @@ void ColourStrip::showColours()
     for (std::size_t place = 0; place < m_fields.size(); ++place) {
         const bool isUsed = static_cast<qsizetype>(place) < m_colours.size();
         m_fields.at(place)->setEnabled(isUsed);
-        m_fields.at(place)->setAccessibleDescription(
-            isUsed ? u"Colour "_s + m_colours.at(static_cast<qsizetype>(place)).name() : u"No colour yet"_s);
+        m_fields.at(place)->setAccessibleName(u"Colour %1: %2"_s.arg(
+            QString::number(place + 1),
+            isUsed ? m_colours.at(static_cast<qsizetype>(place)).name() : u"none yet"_s));
         m_fields.at(place)->setIcon(isUsed ? iconOf(m_colours.at(static_cast<qsizetype>(place))) : QIcon());
     }
 }

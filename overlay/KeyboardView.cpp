@@ -150,8 +150,8 @@ void KeyboardView::showCell(int cell)
     const QString printed = printedText(document, cell);
     CellEdit& edit = *m_cells[static_cast<std::size_t>(cell)];
     edit.showContents(document.cell(cell), {printed, printed.size() < document.cell(cell).text.size()});
-    edit.setAccessibleDescription(placeOf(m_layout.keyOf(cell), cell) +
-                                  (edit.isCut() ? u", wider than its key"_s : QString()));
+    edit.setAccessibleName(placeOf(m_layout.keyOf(cell), cell) +
+                           (edit.isCut() ? u", wider than its key"_s : QString()));
 }
 
 bool KeyboardView::isCut(int cell) const

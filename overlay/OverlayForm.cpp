@@ -8,6 +8,7 @@
 #include "overlay/SheetPainter.h"
 #include "platform/Boxes.h"
 #include "platform/FailureBox.h"
+#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
@@ -308,6 +309,7 @@ void OverlayForm::showCurrentCell(int cell)
 void OverlayForm::tell(const QString& text)
 {
     StatusBar1->showMessage(text);
+    ui::announce(*StatusBar1, text);
 }
 
 } // namespace norvane::overlay

@@ -146,7 +146,7 @@ QToolBar* OverlayForm::makeViewTools()
 void OverlayForm::addZoom(QToolBar& bar)
 {
     auto* const zoom = new QComboBox(&bar);
-    ui::nameControl(*zoom, u"Zoom"_s);
+    ui::nameControl(*zoom, u"Zoom"_s, u"Size of the keyboard on the screen"_s);
     for (const auto& [caption, percent] : zooms)
         zoom->addItem(QLatin1StringView(caption), percent);
     zoom->setToolTip(u"Size of the keyboard on the screen"_s);

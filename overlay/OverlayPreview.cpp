@@ -154,7 +154,7 @@ void OverlayPreview::showTarget()
     QStringList notices = {outsideNotice(), cutNotice()};
     notices.removeAll(QString());
     m_notice->setText(notices.join(u'\n'));
-    m_view->setAccessibleDescription(notices.isEmpty() ? u"The sheet as it will print"_s : m_notice->text());
+    m_view->setAccessibleName(notices.isEmpty() ? u"The sheet as it will print"_s : m_notice->text());
     m_notice->parentWidget()->setVisible(!notices.isEmpty());
     const bool hasPrinter = !m_target.name.isEmpty();
     findChild<QPushButton*>(u"CorrectionButton"_s)->setEnabled(hasPrinter);

@@ -6,6 +6,7 @@
 #include "reports/PageView.h"
 #include "reports/ReportFiles.h"
 #include "reports/RunProgress.h"
+#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FindBar.h"
 #include "ui/FormKit.h"
@@ -124,8 +125,7 @@ PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterFinder find
 
 void PreviewWindow::buildControls()
 {
-    ui::nameControl(*m_view, u"Pages"_s);
-    m_view->setAccessibleDescription(spokenHeading(m_document.report().heading));
+    ui::nameControl(*m_view, u"Pages"_s, spokenHeading(m_document.report().heading));
     ui::nameControl(*m_charts, u"Charts"_s);
     ui::nameControl(*m_find, u"FindBar"_s);
     ui::nameControl(*m_status, u"StatusBar1"_s);
@@ -222,18 +222,19 @@ void PreviewWindow::addChartSwitch(QBoxLayout& row)
 
 void PreviewWindow::addPageButtons(QBoxLayout& row)
 {
-    const auto turn = [&](const QString& name, const QString& caption, int pages) {
+    const auto turn = [&](const QString& name, const QString& caption, const QString& spoken, int pages) {
         QPushButton* const button = ui::makeButton(name, caption, this);
+        button->setAccessibleName(spoken);
         button->setFixedWidth(ui::scaled(32));
         connect(button, &QPushButton::clicked, this,
                 [this, pages] { m_view->goToPage(m_view->currentPage() + pages); });
         row.addWidget(button);
     };
-    turn(u"PreviousPageButton"_s, u"&<"_s, -1);
+    turn(u"PreviousPageButton"_s, u"&<"_s, u"Previous page"_s, -1);
     m_pageNumber = new QLabel(this);
     ui::nameControl(*m_pageNumber, u"PageNumber"_s);
     row.addWidget(m_pageNumber);
-    turn(u"NextPageButton"_s, u"&>"_s, 1);
+    turn(u"NextPageButton"_s, u"&>"_s, u"Next page"_s, 1);
 }
 
 void PreviewWindow::addKeys()
@@ -289,6 +290,7 @@ void PreviewWindow::guarded(const std::function<void(const KeepGoing&)>& act, co
 void PreviewWindow::tell(const QString& text)
 {
     m_status->showMessage(text);
+    ui::announce(*m_status, text);
 }
 
 void PreviewWindow::print()

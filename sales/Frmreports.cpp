@@ -3,6 +3,7 @@
 
 #include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
+#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
@@ -10,7 +11,6 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTableView>
 #include <QTextCharFormat>
 #include <QVBoxLayout>
 
@@ -46,12 +46,14 @@ Frmreports::Frmreports(const ApplicationValues& values, Boxes& boxes, reports::R
 
 void Frmreports::layOut()
 {
-    ui::nameControl(*CSCal, u"CSCal"_s);
+    ui::nameControl(*CSCal, u"CSCal"_s, u"Calendar"_s);
     CSCal->setGridVisible(false);
     CSCal->setFirstDayOfWeek(Qt::Sunday); // as the week of the reports to date
     CSCal->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     connect(CSCal, &QCalendarWidget::selectionChanged, this, &Frmreports::tellDay);
     colourDays();
+    CSCal->findChild<QWidget*>(u"qt_calendar_prevmonth"_s)->setAccessibleName(u"Previous month"_s);
+    CSCal->findChild<QWidget*>(u"qt_calendar_nextmonth"_s)->setAccessibleName(u"Next month"_s);
     auto* const Generate = ui::makeButton(u"CSCmdBtn1"_s, u"&Generate"_s, this);
     auto* const CmdExit = ui::makeButton(u"CmdExit"_s, u"&Exit"_s, this);
     Generate->setDefault(true);
@@ -103,11 +105,11 @@ void Frmreports::loadForm()
 /// For screen readers: the fields of the calendar hold the numbers of days only.
 void Frmreports::tellDay()
 {
-    const QString day = u"Day of the report: "_s + locale().toString(CSCal->selectedDate());
-    auto* const days = CSCal->findChild<QTableView*>();
-    ui::nameControl(*days, days->objectName());
-    for (QWidget* const calendar : {static_cast<QWidget*>(CSCal), static_cast<QWidget*>(days)})
-        calendar->setAccessibleDescription(day);
+    const QString day = locale().toString(CSCal->selectedDate());
+    CSCal->findChild<QWidget*>(u"qt_calendar_calendarview"_s)
+        ->setAccessibleName(u"Day of the report: "_s + day);
+    if (isVisible())
+        ui::announce(*CSCal, day);
 }
 
 /// In any other mode the formula stays as the menu entry set it.

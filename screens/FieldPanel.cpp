@@ -369,7 +369,7 @@ QString FieldPanel::labelOf(const QString& dataField) const
 {
     const auto control = std::ranges::find_if(
         m_controls, [&](const Control& known) { return isBoundTo(known.definition, dataField); });
-    return control == m_controls.end() ? QString() : control->widget->accessibleDescription();
+    return control == m_controls.end() ? QString() : ui::spokenName(*control->widget);
 }
 
 BoundFields FieldPanel::contents() const

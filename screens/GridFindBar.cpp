@@ -2,6 +2,7 @@
 #include "screens/GridFindBar.h"
 
 #include "screens/GridControl.h"
+#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
@@ -47,6 +48,7 @@ void GridFindBar::goOn(int fromRow)
 {
     const bool found = m_part->text().isEmpty() || m_grid.findRow(m_part->text(), fromRow);
     m_outcome->setText(found ? QString() : u"No such row"_s);
+    ui::announce(*m_outcome, m_outcome->text());
 }
 
 } // namespace norvane::screens

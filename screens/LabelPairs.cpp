@@ -4,8 +4,10 @@
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
+#include <QHash>
 #include <QLabel>
 
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
@@ -23,6 +25,8 @@ bool inOneRow(const QWidget& left, const QWidget& right)
 
 /// Pixels between a label and its control. Anything further off is another column.
 constexpr double neighbourGap = 14;
+/// Between the boxes of a row.
+constexpr double columnGap = 40;
 
 /// The nearest of @p others that begins right behind @p widget in its row.
 template <typename Widget>
@@ -52,15 +56,15 @@ void makeHeading(QLabel& label)
     label.setPalette(palette);
 }
 
-void describe(QWidget& control, const QString& text)
+void nameAfter(QWidget& control, const QString& text)
 {
-    const QString former = control.accessibleDescription();
-    control.setAccessibleDescription(former.isEmpty() ? text : former + u' ' + text);
+    const QString former = ui::spokenName(control);
+    control.setAccessibleName(former.isEmpty() ? text : former + u' ' + text);
 }
 
-void describe(QWidget& control, const QLabel& label)
+QString textOf(const QLabel& label)
 {
-    describe(control, ui::spokenText(label.text()));
+    return ui::spokenText(label.text());
 }
 
 /// The control whose next neighbour in the row, of all @p others, is @p widget.
@@ -74,26 +78,81 @@ QWidget* controlBefore(Widget& widget, const QVector<QWidget*>& controls, const 
     return nullptr;
 }
 
-/// The heading of the column that @p control stands in.
-const QLabel* headingAbove(const QWidget& control, const QVector<QLabel*>& labels)
+/// The heading of the column that @p widget stands in.
+const QLabel* headingAbove(const QWidget& widget, const QVector<QLabel*>& labels)
 {
     const QLabel* nearest = nullptr;
     for (const QLabel* const label : labels) {
-        const bool isAbove = label->x() == control.x() && label->y() < control.y() && !label->buddy();
+        const bool isAbove = label->x() == widget.x() && label->y() < widget.y() && !label->buddy();
         if (isAbove && (!nearest || label->y() > nearest->y()))
             nearest = label;
     }
     return nearest;
 }
 
-/// Where controls stand in rows and columns, only the first of a row has a label of its own.
-void describeByRowAndColumn(QWidget& control, const QVector<QLabel*>& labels,
-                            const QVector<QWidget*>& controls)
+/// What a sighted user takes in at a glance: which label begins the row of a control, and what heads its
+/// column.
+struct Place {
+    const QLabel* row;
+    const QLabel* column;
+};
+
+/// A row ends at a gap that is wider than the columns of a table are apart.
+const QLabel* beginningOfRow(const QWidget& control, const QVector<QLabel*>& labels,
+                             const QVector<QWidget*>& controls)
 {
-    if (const QWidget* const before = controlBefore(control, controls, controls))
-        describe(control, before->accessibleDescription());
-    if (const QLabel* const heading = headingAbove(control, labels))
-        describe(control, *heading);
+    const QLabel* nearest = nullptr;
+    for (const QLabel* const label : labels) {
+        if (label->x() < control.x() && inOneRow(*label, control) && (!nearest || label->x() > nearest->x()))
+            nearest = label;
+    }
+    const auto reaches = [&](const QWidget& left) {
+        return left.geometry().right() + ui::scaled(columnGap) >= control.x();
+    };
+    const bool isJoined =
+        nearest && (reaches(*nearest) || std::ranges::any_of(controls, [&](const QWidget* other) {
+                        return other->x() > nearest->x() && other->x() < control.x() &&
+                               inOneRow(*other, control) && reaches(*other);
+                    }));
+    return isJoined ? nearest : nullptr;
+}
+
+Place placeOf(const QWidget& control, const QVector<QLabel*>& labels, const QVector<QWidget*>& controls)
+{
+    const QLabel* const row = beginningOfRow(control, labels, controls);
+    const QLabel* const above = headingAbove(control, labels);
+    return {row, above || !row ? above : headingAbove(*row, labels)};
+}
+
+/// A heading within a name: "Price 1 level".
+QString withSmallLetter(QString heading)
+{
+    if (heading.size() > 1 && heading[1].isLower())
+        heading[0] = heading[0].toLower();
+    return heading;
+}
+
+void nameByPlace(QWidget& control, const Place& place)
+{
+    const QString row = place.row ? textOf(*place.row) : QString();
+    const QString column = place.column ? textOf(*place.column) : QString();
+    control.setAccessibleName(row.isEmpty() ? column : (row + u' ' + withSmallLetter(column)).trimmed());
+}
+
+/// Controls that have the same name are known apart by what stands before or above them.
+void nameApart(QWidget& control, const Place& place)
+{
+    const QString name = ui::spokenName(control);
+    const bool isInRow = place.row && textOf(*place.row) != name;
+    if (const QLabel* const apart = isInRow ? place.row : place.column)
+        control.setAccessibleName(textOf(*apart) + u' ' + name);
+}
+
+/// Screen readers prefer the text of a label to the name of its control.
+void nameAsControl(QLabel& label)
+{
+    const QString name = label.buddy() ? ui::spokenName(*label.buddy()) : QString();
+    label.setAccessibleName(name == textOf(label) ? QString() : name);
 }
 
 } // namespace
@@ -105,20 +164,27 @@ void tieLabels(const QVector<QLabel*>& labels, const QVector<QWidget*>& controls
         const QLabel* const between = nextInRow(*label, labels);
         if (control && (!between || between->x() > control->x())) {
             label->setBuddy(control);
-            describe(*control, *label);
+            control->setAccessibleName((textOf(*label) + u' ' + ui::spokenName(*control)).trimmed());
             continue;
         }
         if (QWidget* const before = controlBefore(*label, controls, labels)) {
-            describe(*before, *label);
+            nameAfter(*before, textOf(*label));
         } else {
             makeHeading(*label);
         }
-        label->setText(ui::spokenText(label->text()));
+        label->setText(textOf(*label));
+    }
+    QHash<QString, int> holders;
+    for (QWidget* const control : controls) {
+        if (ui::spokenName(*control).isEmpty())
+            nameByPlace(*control, placeOf(*control, labels, controls));
+        ++holders[ui::spokenName(*control)];
     }
     for (QWidget* const control : controls) {
-        if (control->accessibleDescription().isEmpty())
-            describeByRowAndColumn(*control, labels, controls);
+        if (holders.value(ui::spokenName(*control)) > 1)
+            nameApart(*control, placeOf(*control, labels, controls));
     }
+    std::ranges::for_each(labels, [](QLabel* label) { nameAsControl(*label); });
 }
 
 } // namespace norvane::screens

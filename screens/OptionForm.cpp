@@ -9,6 +9,7 @@
 #include "screens/RecordEditor.h"
 #include "screens/RecordList.h"
 #include "screens/SaveNotices.h"
+#include "ui/Announcement.h"
 #include "ui/FormKit.h"
 #include "ui/FrmSearch.h"
 #include "ui/WaitPointer.h"
@@ -47,7 +48,21 @@ QString OptionForm::caption() const
 void OptionForm::ShowFields()
 {
     showRecord();
-    Q_EMIT told(std::exchange(m_notice, {}));
+    const QString notice = std::exchange(m_notice, {});
+    if (m_list && notice.isEmpty())
+        ui::announce(*this, spokenRecord());
+    Q_EMIT told(notice);
+}
+
+/// The focus stays where it was, and nothing else says which record has come.
+QString OptionForm::spokenRecord() const
+{
+    const QString field = textField();
+    for (const BoundField& shown : CSPict1->contents()) {
+        if (!field.isEmpty() && shown.dataField.trimmed() == field)
+            return shownRecord() + u", "_s + shown.content.toText().trimmed();
+    }
+    return shownRecord();
 }
 
 void OptionForm::showRecord()

@@ -108,6 +108,8 @@ private:
     void keepNumber(BoundFields fields);
     /// "PLU 1001"; the caption for the only record of a screen.
     [[nodiscard]] QString shownRecord() const;
+    /// With its text: "PLU 1001, Espresso".
+    [[nodiscard]] QString spokenRecord() const;
     [[nodiscard]] QString unsavedRecord() const;
     void tellRefusal(const RuntimeFailure& failure);
     void deleteRecord();

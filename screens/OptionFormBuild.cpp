@@ -159,7 +159,7 @@ void OptionForm::layOut(QHBoxLayout* buttons)
 /// The form grows with it: the grid keeps its rows.
 void OptionForm::addFindBar(GridControl& grid, QVBoxLayout& column)
 {
-    grid.setAccessibleDescription(caption());
+    grid.setAccessibleName(caption());
     connect(&grid, &GridControl::stored, this, &OptionForm::told);
     auto* const bar = new GridFindBar(grid, this);
     column.insertWidget(0, bar);

@@ -1,6 +1,7 @@
 // See RecordList.h.
 #include "screens/RecordList.h"
 
+#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FilteredList.h"
 #include "ui/FormKit.h"
@@ -59,7 +60,7 @@ RecordList::RecordList(const std::shared_ptr<store::Database>& database,
 
 void RecordList::buildHandle()
 {
-    ui::nameControl(*m_handle, u"ListHandle"_s);
+    ui::nameControl(*m_handle, u"ListHandle"_s, u"List of records"_s);
     m_handle->setToolTip(u"List of records (Ctrl+L)"_s);
     m_handle->setArrowType(Qt::LeftArrow);
     m_handle->setAutoRaise(true);
@@ -98,8 +99,7 @@ void RecordList::buildFilter()
 
 void RecordList::buildTable()
 {
-    m_table = ui::makeListTable(u"ListTable"_s, m_model, m_panel);
-    m_table->setAccessibleDescription(u"List of records"_s);
+    m_table = ui::makeListTable(u"ListTable"_s, u"List of records"_s, m_model, m_panel);
     m_table->setItemDelegate(new MarkingDelegate(m_table));
     m_filter->setList(m_table);
     connect(m_table, &QTableView::clicked, this, &RecordList::choose);
@@ -179,6 +179,7 @@ void RecordList::setFilter(const QString& text)
         m_table->selectRow(0);
     }
     tellCount();
+    ui::announce(*m_count, m_count->text());
 }
 
 void RecordList::showMarked()

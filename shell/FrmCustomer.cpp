@@ -30,10 +30,8 @@ FrmCustomer::FrmCustomer(ApplicationValues& values, Boxes& boxes, QWidget* paren
       text1(new QLineEdit(this)), CSCmdBtn1(ui::makeButton(u"CSCmdBtn1"_s, u"&Ok"_s, this))
 {
     ui::nameControl(*this, u"FrmCustomer"_s);
-    ui::nameControl(*List1, u"List1"_s);
-    ui::nameControl(*text1, u"text1"_s);
-    List1->setAccessibleDescription(u"Existing customers"_s);
-    text1->setAccessibleDescription(u"Customer to open, or to create"_s);
+    ui::nameControl(*List1, u"List1"_s, u"Select Existing Customer"_s);
+    ui::nameControl(*text1, u"text1"_s, u"Customer to open, or to create"_s);
     setWindowTitle(u"Select Customer"_s);
     layOut();
     connectList();

@@ -57,9 +57,10 @@ QWidget* makeControl(const Setting& setting)
 }
 
 /// All labels are equally wide, so that the controls of both frames line up.
-QLabel* makeLabel(const Setting& setting)
+QLabel* makeLabel(const Setting& setting, QWidget* control)
 {
     auto* const label = new QLabel(setting.label);
+    label->setBuddy(control);
     label->setMinimumWidth(ui::scaled(labelWidth));
     return label;
 }
@@ -100,7 +101,7 @@ QGroupBox* FrmSetup::makeFrame(const QString& caption, bool withLists)
     for (qsizetype row = 0; const Setting& setting : settings()) {
         if (hasList(setting) == withLists) {
             m_controls[row] = makeControl(setting);
-            rows->addRow(makeLabel(setting), m_controls[row]);
+            rows->addRow(makeLabel(setting, m_controls[row]), m_controls[row]);
         }
         ++row;
     }

@@ -2,6 +2,7 @@
 #include "shell/MainStatusBar.h"
 
 #include "shell/AboutLabels.h"
+#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
@@ -78,6 +79,7 @@ void MainStatusBar::setNotice(const QString& text)
 {
     m_notice->setText(text);
     m_notice->setToolTip(text);
+    ui::announce(*m_notice, text);
 }
 
 QString MainStatusBar::notice() const

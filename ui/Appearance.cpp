@@ -2,6 +2,7 @@
 #include "ui/Appearance.h"
 
 #include "ui/RegisterPicture.h"
+#include "ui/SpokenCombos.h"
 
 #include <QApplication>
 #include <QFontInfo>
@@ -139,6 +140,7 @@ void applyAppearance(QApplication& application)
     font.setPixelSize(fontPixels());
     QApplication::setFont(font);
     application.setWindowIcon(applicationIcon());
+    speakCombos();
 }
 
 int fontPixels()

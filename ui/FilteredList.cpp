@@ -28,8 +28,9 @@ bool walksRows(int key)
 
 FilterBox::FilterBox(const QString& name, QWidget* parent) : QLineEdit(parent)
 {
-    nameControl(*this, name);
-    setPlaceholderText(u"Part of number or text"_s);
+    const QString hint = u"Part of number or text"_s;
+    nameControl(*this, name, hint);
+    setPlaceholderText(hint);
     setClearButtonEnabled(true);
 }
 
@@ -48,10 +49,11 @@ void FilterBox::keyPressEvent(QKeyEvent* event)
     QLineEdit::keyPressEvent(event);
 }
 
-QTableView* makeListTable(const QString& name, QAbstractItemModel* model, QWidget* parent)
+QTableView* makeListTable(const QString& name, const QString& spoken, QAbstractItemModel* model,
+                          QWidget* parent)
 {
     auto* const table = new QTableView(parent);
-    nameControl(*table, name);
+    nameControl(*table, name, spoken);
     table->setModel(model);
     table->setShowGrid(false);
     table->setTabKeyNavigation(false);

@@ -34,8 +34,9 @@ private:
 };
 
 /// A plain list of @p model's rows: one row chosen at a time, the last column takes the room that is left.
-/// The caller places it.
-[[nodiscard]] QTableView* makeListTable(const QString& name, QAbstractItemModel* model, QWidget* parent);
+/// Screen readers call it @p spoken. The caller places it.
+[[nodiscard]] QTableView* makeListTable(const QString& name, const QString& spoken, QAbstractItemModel* model,
+                                        QWidget* parent);
 
 /// Makes the first column of @p list as wide as @p longest needs in bold.
 void fitFirstColumn(QTableView& list, const QString& longest);

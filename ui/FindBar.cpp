@@ -1,6 +1,7 @@
 // See FindBar.h.
 #include "ui/FindBar.h"
 
+#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
@@ -44,6 +45,7 @@ void FindBar::open()
 void FindBar::setFound(bool isFound)
 {
     m_note->setText(isFound || sought().isEmpty() ? QString() : u"Not found."_s);
+    ui::announce(*m_note, m_note->text());
 }
 
 QString FindBar::sought() const

@@ -16,14 +16,17 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::ui
 {
 
-void nameControl(QWidget& control, const QString& name)
+void nameControl(QWidget& control, const QString& name, const QString& spoken)
 {
     control.setObjectName(name);
-    if (control.focusPolicy() == Qt::NoFocus)
-        return;
-    control.setAccessibleName(name);
-    if (const auto* const button = qobject_cast<QAbstractButton*>(&control))
-        control.setAccessibleDescription(spokenText(button->text()).trimmed());
+    control.setAccessibleName(spoken);
+}
+
+QString spokenName(const QWidget& control)
+{
+    const auto* const button = qobject_cast<const QAbstractButton*>(&control);
+    return button && control.accessibleName().isEmpty() ? spokenText(button->text()).trimmed()
+                                                        : control.accessibleName();
 }
 
 QString spokenText(QString caption)

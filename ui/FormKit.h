@@ -17,10 +17,12 @@ class QWidget;
 namespace norvane::ui
 {
 
-/// Names @p control for tests, scripts and screen readers, which read the caption of a button as its
-/// description. What takes no keys (a window, frame, label or status line) is read by the title or text that
-/// it shows.
-void nameControl(QWidget& control, const QString& name);
+/// Names @p control for tests and scripts. Screen readers say what a sighted user reads: caption, text, title
+/// or the label whose buddy it is. Where none of these is there, @p spoken gives the words.
+void nameControl(QWidget& control, const QString& name, const QString& spoken = {});
+
+/// The name of @p control for screen readers, unless it is that of a label: given to it, or its caption.
+[[nodiscard]] QString spokenName(const QWidget& control);
 
 /// @p caption as a screen reader says it: without the marks of access letters.
 [[nodiscard]] QString spokenText(QString caption);

@@ -1,8 +1,8 @@
 // Interfaces of the toolkit for painted widgets; see SpokenItems.h.
 #include "ui/SpokenItems.h"
 
-#include <QAccessibleWidget>
-#include <QHash>
+#include "ui/ItemsInterface.h"
+
 #include <QWidget>
 
 #include <utility>
@@ -68,56 +68,49 @@ private:
     int m_index;
 };
 
-class PaintedWidget : public QAccessibleWidget
-{
-public:
-    PaintedWidget(QWidget& painted, const SpokenItems& items)
-        : QAccessibleWidget(&painted, QAccessible::Document), m_items(items)
-    {
-    }
-
-    [[nodiscard]] int childCount() const override { return m_items.spokenItemCount(); }
-    [[nodiscard]] QAccessibleInterface* child(int index) const override
-    {
-        if (index < 0 || index >= childCount())
-            return nullptr;
-        if (!m_ids.contains(index))
-            m_ids[index] = QAccessible::registerAccessibleInterface(new Item(*widget(), m_items, index));
-        return QAccessible::accessibleInterface(m_ids[index]);
-    }
-    [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override
-    {
-        const QPoint place = widget()->mapFromGlobal(QPoint(x, y));
-        for (int index = 0; index < childCount(); ++index) {
-            if (m_items.spokenItem(index).place.contains(place))
-                return child(index);
-        }
-        return nullptr;
-    }
-    int indexOfChild(const QAccessibleInterface* child) const override
-    {
-        return m_ids.key(QAccessible::uniqueId(const_cast<QAccessibleInterface*>(child)), -1);
-    }
-
-protected:
-    ~PaintedWidget() override
-    {
-        for (const QAccessible::Id id : std::as_const(m_ids))
-            QAccessible::deleteAccessibleInterface(id);
-    }
-
-private:
-    const SpokenItems& m_items;
-    mutable QHash<int, QAccessible::Id> m_ids; ///< of the items that were asked for
-};
-
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
 {
     const auto* const items = dynamic_cast<SpokenItems*>(object);
-    return items ? new PaintedWidget(*static_cast<QWidget*>(object), *items) : nullptr;
+    return items ? new ItemsInterface(*static_cast<QWidget*>(object), QAccessible::Document, *items)
+                 : nullptr;
 }
 
 } // namespace
+
+int ItemsInterface::childCount() const
+{
+    return m_items.spokenItemCount();
+}
+
+QAccessibleInterface* ItemsInterface::child(int index) const
+{
+    if (index < 0 || index >= childCount())
+        return nullptr;
+    if (!m_ids.contains(index))
+        m_ids[index] = QAccessible::registerAccessibleInterface(new Item(*widget(), m_items, index));
+    return QAccessible::accessibleInterface(m_ids[index]);
+}
+
+QAccessibleInterface* ItemsInterface::childAt(int x, int y) const
+{
+    const QPoint place = widget()->mapFromGlobal(QPoint(x, y));
+    for (int index = 0; index < childCount(); ++index) {
+        if (m_items.spokenItem(index).place.contains(place))
+            return child(index);
+    }
+    return nullptr;
+}
+
+int ItemsInterface::indexOfChild(const QAccessibleInterface* child) const
+{
+    return m_ids.key(QAccessible::uniqueId(const_cast<QAccessibleInterface*>(child)), -1);
+}
+
+ItemsInterface::~ItemsInterface()
+{
+    for (const QAccessible::Id id : std::as_const(m_ids))
+        QAccessible::deleteAccessibleInterface(id);
+}
 
 /// The toolkit takes the same function once only.
 SpokenItems::SpokenItems()

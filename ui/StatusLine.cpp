@@ -1,6 +1,7 @@
 // See StatusLine.h.
 #include "ui/StatusLine.h"
 
+#include "ui/Announcement.h"
 #include "ui/FormKit.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -31,12 +32,14 @@ void StatusLine::setResult(const QString& text)
 {
     m_result = text;
     showAll();
+    announce(*this, text);
 }
 
 void StatusLine::setNotice(const QString& text)
 {
     m_notice = text;
     showAll();
+    announce(*this, text);
 }
 
 void StatusLine::showAll()

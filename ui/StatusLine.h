@@ -7,7 +7,7 @@ namespace norvane::ui
 {
 
 /// Names the current step, how long it has been running, what a run has done, and a notice that stays until
-/// it is replaced.
+/// it is replaced. Screen readers say result and notice.
 class StatusLine : public QStatusBar
 {
     Q_OBJECT

@@ -136,20 +136,13 @@ void ValueList::setValue(const QString& value)
     const auto row = value.isNull() ? m_rows.cend() : std::find_if(m_rows.cbegin(), m_rows.cend(), hasValue);
     const bool found = row != m_rows.cend();
     setCurrentIndex(found ? static_cast<int>(row - m_rows.cbegin()) : -1);
-    showStranger(found ? QString() : value);
-}
-
-/// Screen readers take the row for a list's name. Where there is none, they get the text that stands there.
-void ValueList::showStranger(const QString& value)
-{
-    setPlaceholderText(value);
-    setAccessibleName(value.isEmpty() ? objectName() : value);
+    setPlaceholderText(found ? QString() : value);
 }
 
 void ValueList::takePick(int row)
 {
     m_value = m_rows.value(row).value(m_valueColumn);
-    showStranger({});
+    setPlaceholderText({});
     Q_EMIT valueEdited();
 }
 

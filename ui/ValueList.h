@@ -47,8 +47,6 @@ protected:
 private:
     void takePick(int row);
     [[nodiscard]] int widthFor(int textWidth) const;
-    /// Shows a value without a row; an empty one for none.
-    void showStranger(const QString& value);
     void fillTexts();
     [[nodiscard]] int columnWidth(qsizetype column) const;
     [[nodiscard]] QVector<int> columnsInPixels() const;

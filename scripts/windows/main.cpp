@@ -3,6 +3,7 @@
 // --scale is the number of pixels to a point, --font the size of the system's font in percent. The screen has
 // 1024 x 768 points. A line for each fault; the exit code is 1 when there is one.
 #include "scripts/windows/EveryWindow.h"
+#include "scripts/windows/SpokenControls.h"
 #include "scripts/windows/TextCheck.h"
 #include "shell/HelpTopics.h"
 #include "ui/Appearance.h"
@@ -113,7 +114,8 @@ public:
         if (!m_setting.pictures.isEmpty())
             picture.save(QDir(m_setting.pictures).filePath(name + u".png"_s));
         for (const QString& fault : QStringList{tooLarge(window), withoutHelp(window)} +
-                                        norvane::windows::unreadableTexts(window, picture))
+                                        norvane::windows::unreadableTexts(window, picture) +
+                                        norvane::windows::unspokenControls(window))
             tell(name, fault);
     }
     /// @return the exit code.

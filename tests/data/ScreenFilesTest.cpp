@@ -227,8 +227,7 @@ void ScreenFile::checkWidth(const QWidget& control)
         }
     }
     if (needed > control.width()) {
-        complain(control.objectName() + u' ' + control.accessibleDescription(),
-                 u"is too narrow for its text"_s);
+        complain(control.objectName() + u' ' + control.accessibleName(), u"is too narrow for its text"_s);
     }
 }
 

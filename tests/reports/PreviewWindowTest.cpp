@@ -117,7 +117,7 @@ protected:
 TEST_F(PreviewTest, AScreenReaderFindsLinesOfThePageAndPointsOfTheCharts)
 {
     auto& pages = *QAccessible::queryAccessibleInterface(control(u"Pages"_s));
-    EXPECT_EQ(pages.text(QAccessible::Description),
+    EXPECT_EQ(pages.text(QAccessible::Name),
               u"PLU Sales Report by Date., Friday, 7 May 2004, Corner Shop, No sales on 7 May 2004."_s);
     press(Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(QApplication::focusWidget(), u"Article 2"_s);
@@ -265,7 +265,6 @@ TEST_F(PreviewTest, GoesRoundByTabAndClosesByEscape)
                              "ChartSwitch", "PreviousPageButton", "NextPageButton", "CloseButton", "Pages"}) {
         press(Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), name);
-        EXPECT_EQ(QApplication::focusWidget()->accessibleName().toStdString(), name);
     }
     press(Qt::Key_Escape);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !m_preview; }));

@@ -14,6 +14,43 @@ using test::Spoken;
 
 constexpr auto button = "push button";
 
+/// What the program has said at once, wherever the focus is.
+class Notices : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Programs send only the events that somebody has asked for.
+    explicit Notices(QDBusConnection bus) : m_bus(std::move(bus))
+    {
+        auto call =
+            QDBusMessage::createMethodCall(u"org.a11y.atspi.Registry"_s, u"/org/a11y/atspi/registry"_s,
+                                           u"org.a11y.atspi.Registry"_s, u"RegisterEvent"_s);
+        call.setArguments({u"object:state-changed:showing"_s});
+        m_bus.call(call);
+        m_bus.connect({}, {}, u"org.a11y.atspi.Event.Object"_s, u"StateChanged"_s, this,
+                      SLOT(hear(QDBusMessage)));
+    }
+    void waitFor(const QString& notice) const
+    {
+        test::ReaderDesktop::waitUntil([&] { return m_heard.contains(notice); }, notice);
+    }
+
+private Q_SLOTS:
+    void hear(const QDBusMessage& event)
+    {
+        if (event.arguments().value(0) != u"showing"_s)
+            return;
+        const test::Accessible shown(m_bus, {event.service(), QDBusObjectPath(event.path())});
+        if (shown.role() == "notification"_L1)
+            m_heard += shown.name();
+    }
+
+private:
+    QDBusConnection m_bus;
+    QStringList m_heard;
+};
+
 class WithoutLooking : public testing::Test
 {
 protected:
@@ -63,6 +100,7 @@ protected:
     test::ProgramFolder folder;
     const ApplicationValues values = folder.makeCustomer(u"Corner Shop"_s);
     test::ReaderDesktop desktop;
+    Notices notices{desktop.bus()};
 };
 
 TEST_F(WithoutLooking, APluIsFetchedItsPriceChangedAndSaved)
@@ -72,10 +110,13 @@ TEST_F(WithoutLooking, APluIsFetchedItsPriceChangedAndSaved)
     findPlu("1005");
     EXPECT_EQ(text("PLU number"), u"000000000000001005"_s);
     EXPECT_NE(storedPrice(), "1234.56");
+    notices.waitFor(u"PLU 1005, Latte"_s);
+    EXPECT_EQ(text("Price 1 level"), u"1"_s);
+    EXPECT_EQ(control("combo box", "Group").text(), u"1  Hot Drinks"_s);
     const test::Accessible price = control("text", "Price 1");
     price.setText(u"1234.56"_s);
     press("Save");
-    EXPECT_EQ(control("label", "Saved PLU 1005").role(), u"label"_s) << "told in the status bar";
+    notices.waitFor(u"Saved PLU 1005"_s);
     EXPECT_EQ(storedPrice(), "1234.56");
 
     press("Exit");
@@ -87,3 +128,5 @@ TEST_F(WithoutLooking, APluIsFetchedItsPriceChangedAndSaved)
 
 } // namespace
 } // namespace norvane
+
+#include "WithoutLookingTest.moc"

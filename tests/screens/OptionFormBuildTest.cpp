@@ -31,7 +31,7 @@ TEST_F(OptionFormBuildTest, PlacesControlsInPixelsAndNamesThemByElement)
     EXPECT_EQ(control(form, "TextControl_1")->width(), 200);
     EXPECT_FALSE(control(form, "TextControl_2")->isVisible()) << "hidden unless the file shows it";
     EXPECT_TRUE(control(form, "LabelControl_0")->isVisible()) << "the first label is in view";
-    EXPECT_EQ(control(form, "TextControl_1")->accessibleDescription(), u"Name"_s);
+    EXPECT_EQ(control(form, "TextControl_1")->accessibleName(), u"Name"_s);
     EXPECT_EQ(control<QLabel>(form, "LabelControl_0")->buddy(), control(form, "TextControl_1"));
     EXPECT_EQ(control<QLabel>(form, "LabelControl_1")->text(), u"R & D"_s) << "behind an unknown type";
     EXPECT_EQ(form->findChild<QCheckBox*>(), nullptr) << "behind the gap nothing is read";

@@ -1,4 +1,4 @@
-// A control of a running program as a screen reader meets it: over the bus, by role, words and state.
+// A control of a running program as a screen reader meets it: over the bus, by role, name and state.
 #pragma once
 
 #include <QtDBus>
@@ -28,16 +28,13 @@ public:
     }
 
     [[nodiscard]] QString role() const { return ask("org.a11y.atspi.Accessible", "GetRoleName").toString(); }
-    /// By what a user knows it: the text of its label, else what it is described as, else its name.
-    [[nodiscard]] QString words() const
+    /// What a user reads on or beside it.
+    [[nodiscard]] QString name() const
     {
-        for (const auto& words : {label(), property("Description")}) {
-            if (!words.isEmpty())
-                return words;
-        }
-        return name().trimmed();
+        const auto answer =
+            ask("org.freedesktop.DBus.Properties", "Get", {u"org.a11y.atspi.Accessible"_s, u"Name"_s});
+        return answer.value<QDBusVariant>().variant().toString().trimmed();
     }
-    [[nodiscard]] QString name() const { return property("Name"); }
     /// What stands in a box.
     [[nodiscard]] QString text() const { return ask("org.a11y.atspi.Text", "GetText", {0, -1}).toString(); }
     [[nodiscard]] bool is(Spoken state) const
@@ -55,16 +52,16 @@ public:
         }
         return children;
     }
-    /// The first in view below this with @p role and @p words. Does not look into tables.
-    [[nodiscard]] std::optional<Accessible> find(const QString& role, const QString& words) const
+    /// The first in view below this with @p role and @p name. Does not look into tables.
+    [[nodiscard]] std::optional<Accessible> find(const QString& role, const QString& name) const
     {
         for (const Accessible& child : children()) {
             const QString found = child.role();
-            if (found == role && child.words() == words && child.is(Spoken::Showing))
+            if (found == role && child.name() == name && child.is(Spoken::Showing))
                 return child;
             if (found == "table"_L1 || found == "menu item"_L1)
                 continue;
-            if (auto below = child.find(role, words))
+            if (auto below = child.find(role, name))
                 return below;
         }
         return std::nullopt;
@@ -87,7 +84,6 @@ public:
 
 private:
     static constexpr int callMilliseconds = 10000;
-    static constexpr unsigned labelledBy = 2; ///< a relation
     static constexpr int mostActions = 5;
 
     /// An error has a text instead.
@@ -114,29 +110,6 @@ private:
                                                    QLatin1String(interface), QLatin1String(method));
         call.setArguments(arguments);
         return m_bus.call(call, QDBus::Block, callMilliseconds).arguments().value(0);
-    }
-    [[nodiscard]] QString property(const char* name) const
-    {
-        const auto answer = ask("org.freedesktop.DBus.Properties", "Get",
-                                {u"org.a11y.atspi.Accessible"_s, QLatin1String(name)});
-        return answer.value<QDBusVariant>().variant().toString();
-    }
-    [[nodiscard]] QString label() const
-    {
-        const QVariant answer = ask("org.a11y.atspi.Accessible", "GetRelationSet");
-        QString label;
-        if (!isList(answer))
-            return label;
-        const auto relations = answer.value<QDBusArgument>();
-        for (relations.beginArray(); !relations.atEnd(); relations.endStructure()) {
-            unsigned relation = 0;
-            relations.beginStructure();
-            relations >> relation;
-            const auto others = readPlaces(relations);
-            if (relation == labelledBy && !others.isEmpty())
-                label = Accessible(m_bus, others.first()).name();
-        }
-        return label;
     }
 
     QDBusConnection m_bus;

@@ -68,22 +68,31 @@ public:
     }
 
     /// Waits for a control in view, in the window opened last or in one below it.
-    [[nodiscard]] Accessible find(const QString& role, const QString& words)
+    [[nodiscard]] Accessible find(const QString& role, const QString& name)
     {
         std::optional<Accessible> found;
-        waitUntil([&] { return (found = seen(role, words)).has_value(); }, role + u' ' + words);
+        waitUntil([&] { return (found = seen(role, name)).has_value(); }, role + u' ' + name);
         return *found;
     }
     /// Waits until no such control is in view.
-    void waitUntilGone(const QString& role, const QString& words)
+    void waitUntilGone(const QString& role, const QString& name)
     {
-        waitUntil([&] { return !seen(role, words).has_value(); }, u"the end of %1 %2"_s.arg(role, words));
+        waitUntil([&] { return !seen(role, name).has_value(); }, u"the end of %1 %2"_s.arg(role, name));
     }
     /// Waits until @p control is, or is not, in @p state.
     void waitFor(const Accessible& control, Spoken state, bool is)
     {
-        waitUntil([&] { return control.is(state) == is; }, u"the state of "_s + control.words());
+        waitUntil([&] { return control.is(state) == is; }, u"the state of "_s + control.name());
     }
+    static void waitUntil(const std::function<bool()>& condition, const QString& what)
+    {
+        for (QDeadlineTimer end(lookMilliseconds); !condition(); QThread::msleep(pauseMilliseconds)) {
+            QCoreApplication::processEvents();
+            if (end.hasExpired())
+                throw std::runtime_error("waited in vain for " + what.toStdString());
+        }
+    }
+    [[nodiscard]] const QDBusConnection& bus() const { return *m_accessibility; }
     /// Presses the last of @p captions, an entry in the menus before it.
     void chooseMenu(const QStringList& captions)
     {
@@ -92,8 +101,8 @@ public:
             QList<Accessible> entries = entry.children();
             if (!entries.isEmpty() && entries.first().role() == "popup menu"_L1)
                 entries = entries.first().children();
-            const auto found = std::ranges::find_if(
-                entries, [&](const Accessible& one) { return one.name().trimmed() == caption; });
+            const auto found =
+                std::ranges::find_if(entries, [&](const Accessible& one) { return one.name() == caption; });
             if (found == entries.end())
                 throw std::runtime_error("no menu entry " + caption.toStdString());
             entry = *found;
@@ -106,14 +115,6 @@ private:
     static constexpr int endMilliseconds = 5000;
     static constexpr int lookMilliseconds = 30000; ///< a tool on a busy machine takes its time
     static constexpr unsigned long pauseMilliseconds = 50;
-
-    static void waitUntil(const std::function<bool()>& condition, const QString& what)
-    {
-        for (QDeadlineTimer end(lookMilliseconds); !condition(); QThread::msleep(pauseMilliseconds)) {
-            if (end.hasExpired())
-                throw std::runtime_error("waited in vain for " + what.toStdString());
-        }
-    }
 
     static QString firstLine(QProcess& process)
     {
@@ -148,12 +149,12 @@ private:
         if (!process.waitForStarted(startMilliseconds))
             throw std::runtime_error("cannot start " + program.toStdString());
     }
-    [[nodiscard]] std::optional<Accessible> seen(const QString& role, const QString& words) const
+    [[nodiscard]] std::optional<Accessible> seen(const QString& role, const QString& name) const
     {
         for (const Accessible& window : windows()) {
-            if (window.role() == role && window.words() == words)
+            if (window.role() == role && window.name() == name)
                 return window;
-            if (auto found = window.find(role, words))
+            if (auto found = window.find(role, name))
                 return found;
         }
         return std::nullopt;

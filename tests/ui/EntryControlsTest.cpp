@@ -258,7 +258,6 @@ TEST(ValueList, TheValueSelectsItsRowAndStaysAsItWasGiven)
     list.setValue(u"7"_s);
     EXPECT_EQ(list.currentIndex(), -1);
     EXPECT_EQ(list.value(), u"7"_s);
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&list)->text(QAccessible::Name), u"7"_s) << "as shown";
     list.setValueColumn(1);
     list.setValue(u"Wines"_s);
     EXPECT_EQ(list.currentIndex(), 1);

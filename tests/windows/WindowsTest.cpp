@@ -1,4 +1,5 @@
 // Every window under the settings that users have, and the faults that the search must find.
+#include "scripts/windows/SpokenControls.h"
 #include "scripts/windows/TextCheck.h"
 
 #include <gtest/gtest.h>
@@ -81,12 +82,42 @@ TEST(TextCheckTest, FindsWhatAUserCannotRead)
     }
 }
 
+TEST(TextCheckTest, FindsWhatAScreenReaderCannotSay)
+{
+    const struct {
+        const char* control;
+        const char* objectName;
+        const char* spoken;
+        const char* found;
+    } cases[] = {{"box", "box", "Price", ""},
+                 {"box", "box", "", "has no name"},
+                 {"box", "box", "box", "has an internal name"},
+                 {"button", "Save record", "", ""},
+                 {"button", "button", "Exit", "has the name of another"}};
+    for (const auto& each : cases) {
+        QWidget form;
+        fill(form);
+        for (const char* const unnamed : {"combo", "table", "box"})
+            form.findChild<QWidget*>(QLatin1String(unnamed))
+                ->setAccessibleName(QLatin1String(unnamed) + u" 1"_s);
+        auto* const other = new QPushButton(u"E&xit"_s, &form);
+        other->move(10, 150);
+        auto& control = *form.findChild<QWidget*>(QLatin1String(each.control));
+        control.setObjectName(QLatin1String(each.objectName));
+        control.setAccessibleName(QLatin1String(each.spoken));
+        form.show();
+        const QString faults = unspokenControls(form).join(u'\n');
+        EXPECT_EQ(faults.isEmpty(), *each.found == '\0') << faults.toStdString();
+        EXPECT_TRUE(faults.contains(QLatin1String(each.found))) << faults.toStdString();
+    }
+}
+
 /// Any two of the three settings meet in one of the runs. WINDOW_PICTURES names a folder for the pictures.
 class EveryWindowTest : public testing::TestWithParam<const char*>
 {
 };
 
-TEST_P(EveryWindowTest, CanBeReadWhole)
+TEST_P(EveryWindowTest, CanBeReadWholeByEyesAndByReaders)
 {
     QStringList words = QString::fromLatin1(GetParam()).split(u' ');
     if (const QString folder = qEnvironmentVariable("WINDOW_PICTURES"); !folder.isEmpty())
@@ -102,7 +133,8 @@ TEST_P(EveryWindowTest, CanBeReadWhole)
 
 INSTANTIATE_TEST_SUITE_P(, EveryWindowTest,
                          testing::Values("--scale=1 --font=100", "--scale=1 --font=150 --dark",
-                                         "--scale=2 --font=100 --dark", "--scale=2 --font=150"));
+                                         "--scale=2 --font=100 --dark", "--scale=2 --font=150",
+                                         "--scale=1 --font=100 --contrast"));
 
 } // namespace
 } // namespace norvane::windows
