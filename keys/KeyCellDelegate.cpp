@@ -56,6 +56,21 @@ const Look& lookOf(const QModelIndex& index)
     return looks.at(static_cast<std::size_t>(index.data(KeyGridModel::StateRole).toInt()));
 }
 
+QColor groundOf(const Look& look)
+{
+    return colours::yielding(look.ground, QPalette::Base);
+}
+
+QColor textColour()
+{
+    return colours::yielding(colours::text, QPalette::Text);
+}
+
+int markPixels()
+{
+    return ui::scaled(markSize);
+}
+
 QPainterPath lockPath(const QRectF& place)
 {
     QPainterPath path;
@@ -108,7 +123,7 @@ QPainterPath markPath(Shape shape, const QRectF& place)
 void paintMark(QPainter& painter, const Look& look, const QRectF& place)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(markPath(look.shape, place), look.mark);
+    painter.fillPath(markPath(look.shape, place), colours::yielding(look.mark, QPalette::Text));
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
@@ -129,7 +144,7 @@ void paintNumbered(QPainter& painter, const QRect& place, const QString& text)
     const QFont usual = painter.font();
     painter.setFont(fittingFont(usual, ui::scaled(numberFontPixels), number, place.width()));
     painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, number);
-    const QRect besideMark = place.adjusted(0, 0, -markSize - 1, 0);
+    const QRect besideMark = place.adjusted(0, 0, -markPixels() - 1, 0);
     painter.setFont(fittingFont(usual, ui::fontPixels(), description, besideMark.width()));
     painter.drawText(besideMark, Qt::AlignLeft | Qt::AlignBottom, description);
 }
@@ -140,7 +155,8 @@ void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QMod
     const auto state = static_cast<KeyState>(index.data(KeyGridModel::StateRole).toInt());
     const QRect place = option.rect.adjusted(padding, padding, -padding, -padding);
     painter.setFont(option.font);
-    painter.setPen(state == KeyState::Unprogrammed ? colours::greyedText : colours::text);
+    painter.setPen(state == KeyState::Unprogrammed ? colours::yielding(colours::greyedText, QPalette::Text)
+                                                   : textColour());
     if (state == KeyState::Plu || state == KeyState::LookUp) {
         paintNumbered(painter, place, text);
     } else {
@@ -161,11 +177,12 @@ void paintFrames(QPainter& painter, const QStyleOptionViewItem& option, const QM
     if (index.data(KeyGridModel::FoundRole).toBool())
         paintFrame(painter, option.rect, QPen(colours::found, strongLine), strongLine);
     if (index.data(KeyGridModel::MarkedRole).toBool())
-        paintFrame(painter, option.rect, QPen(colours::text, 1, Qt::DashLine), strongLine);
+        paintFrame(painter, option.rect, QPen(textColour(), 1, Qt::DashLine), strongLine);
     // Also while the keyboard is in a list: a choice there is for this key.
     const auto* const grid = qobject_cast<const QAbstractItemView*>(option.widget);
     if (grid != nullptr && grid->currentIndex() == index)
-        paintFrame(painter, option.rect, QPen(colours::accentDark, strongLine), 0);
+        paintFrame(painter, option.rect,
+                   QPen(colours::yielding(colours::accentDark, QPalette::Highlight), strongLine), 0);
 }
 
 } // namespace
@@ -175,15 +192,16 @@ void KeyCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
 {
     const Look& look = lookOf(index);
     painter->save();
-    painter->fillRect(option.rect, look.ground);
+    painter->fillRect(option.rect, groundOf(look));
     if (option.state.testFlag(QStyle::State_Selected)) {
-        QColor chosen = colours::accent;
+        QColor chosen = colours::yielding(colours::accent, QPalette::Highlight);
         chosen.setAlpha(90);
         painter->fillRect(option.rect, chosen);
     }
     paintText(*painter, option, index);
-    const QPoint corner = option.rect.bottomRight() - QPoint(markSize + padding, markSize + padding);
-    paintMark(*painter, look, QRectF(corner, QSizeF(markSize, markSize)));
+    const int mark = markPixels();
+    const QPoint corner = option.rect.bottomRight() - QPoint(mark + padding, mark + padding);
+    paintMark(*painter, look, QRectF(corner, QSizeF(mark, mark)));
     paintFrames(*painter, option, index);
     painter->restore();
 }
@@ -203,21 +221,22 @@ QSize KeyLegend::sizeHint() const
     const QFontMetrics metrics(font());
     int width = 0;
     for (const Look& look : explainedLooks)
-        width += metrics.horizontalAdvance(look.words) + markSize + 2 * padding + legendGap;
+        width += metrics.horizontalAdvance(look.words) + markPixels() + 2 * padding + legendGap;
     return {width, metrics.height() + 2 * padding};
 }
 
 void KeyLegend::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
+    const int mark = markPixels();
     int x = 0;
     for (const Look& look : explainedLooks) {
         const int words = painter.fontMetrics().horizontalAdvance(look.words);
-        const QRect place(x, 0, markSize + 3 * padding + words, height());
-        painter.fillRect(place, look.ground);
-        painter.setPen(colours::text);
-        painter.drawText(place.adjusted(markSize + 2 * padding, 0, 0, 0), Qt::AlignVCenter, look.words);
-        paintMark(painter, look, QRectF(x + padding, (height() - markSize) / 2.0, markSize, markSize));
+        const QRect place(x, 0, mark + 3 * padding + words, height());
+        painter.fillRect(place, groundOf(look));
+        painter.setPen(textColour());
+        painter.drawText(place.adjusted(mark + 2 * padding, 0, 0, 0), Qt::AlignVCenter, look.words);
+        paintMark(painter, look, QRectF(x + padding, (height() - mark) / 2.0, mark, mark));
         x += place.width() + legendGap - padding;
     }
 }

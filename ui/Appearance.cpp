@@ -1,6 +1,7 @@
 // Look of the program; see Appearance.h.
 #include "ui/Appearance.h"
 
+#include "ui/FormStyle.h"
 #include "ui/RegisterPicture.h"
 #include "ui/SpokenCombos.h"
 
@@ -9,10 +10,11 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
-#include <QProxyStyle>
 #include <QScreen>
-#include <QStyleOption>
 #include <QWidget>
+
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,63 +23,59 @@ namespace norvane::ui
 namespace
 {
 
-bool isDark(const QPalette& palette)
+double luminance(const QColor& colour)
 {
-    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+    const auto light = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * light(colour.redF()) + 0.7152 * light(colour.greenF()) + 0.0722 * light(colour.blueF());
 }
 
-/// Fusion on every platform, without the icons that some desktops put on dialog buttons. On a dark ground its
-/// frames around boxes are darker still and could hardly be seen.
-class FormStyle : public QProxyStyle
+/// By the web's rules for accessible contents (1.4.3): from 1 to 21.
+double contrast(const QColor& left, const QColor& right)
 {
-public:
-    FormStyle() : QProxyStyle(u"Fusion"_s) {}
+    const auto [dark, light] = std::minmax({luminance(left), luminance(right)});
+    return (light + 0.05) / (dark + 0.05);
+}
 
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget) const override
-    {
-        const bool isTick = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
-        if (isTick && isDark(option->palette)) {
-            drawWithPaleFrame<QStyleOptionButton>(element, *option, painter, widget);
-        } else if (element == PE_FrameLineEdit && isDark(option->palette)) {
-            drawWithPaleFrame<QStyleOptionFrame>(element, *option, painter, widget);
-        } else {
-            QProxyStyle::drawPrimitive(element, option, painter, widget);
-        }
-    }
+/// Desktops for everybody soften their texts, or tell windows and boxes apart by their grounds.
+bool isOfHighContrast(const QPalette& palette)
+{
+    constexpr double least = 15;
+    constexpr double sameGround = 1.1;
+    const QColor window = palette.color(QPalette::Window);
+    const QColor base = palette.color(QPalette::Base);
+    return contrast(window, base) < sameGround &&
+           contrast(window, palette.color(QPalette::WindowText)) >= least &&
+           contrast(base, palette.color(QPalette::Text)) >= least;
+}
 
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* answer) const override
-    {
-        return hint == SH_DialogButtonBox_ButtonsHaveIcons
-                   ? 0
-                   : QProxyStyle::styleHint(hint, option, widget, answer);
-    }
+/// A part of the way from the ground to the letters.
+QColor paler(const QColor& text, const QColor& ground)
+{
+    constexpr double share = 0.6;
+    const auto mixed = [](float letter, float under) {
+        return static_cast<float>(letter * share + under * (1 - share));
+    };
+    return QColor::fromRgbF(mixed(text.redF(), ground.redF()), mixed(text.greenF(), ground.greenF()),
+                            mixed(text.blueF(), ground.blueF()));
+}
 
-    /// Marks the entry of the menu bar that Alt and the arrow keys have reached. Fusion marks it only once
-    /// its menu is open.
-    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                     const QWidget* widget) const override
-    {
-        const auto* const entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-        if (element != CE_MenuBarItem || !entry || !entry->state.testFlag(State_Selected))
-            return QProxyStyle::drawControl(element, option, painter, widget);
-        QStyleOptionMenuItem marked(*entry);
-        marked.state |= State_Sunken;
-        QProxyStyle::drawControl(element, &marked, painter, widget);
+/// The desktop's own colours. Where it has none, the toolkit makes some up that are too pale.
+QPalette contrastPalette(QPalette palette)
+{
+    const QColor ground = palette.color(QPalette::Window);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        if (contrast(palette.color(QPalette::Disabled, role), ground) < 4.5)
+            palette.setColor(QPalette::Disabled, role, paler(palette.color(role), ground));
     }
-
-private:
-    /// The style makes the colour of a frame from that of the window.
-    template <typename Option>
-    void drawWithPaleFrame(PrimitiveElement element, const QStyleOption& option, QPainter* painter,
-                           const QWidget* widget) const
-    {
-        Option pale = static_cast<const Option&>(option);
-        pale.palette.setColor(QPalette::Window, pale.palette.color(QPalette::PlaceholderText));
-        QProxyStyle::drawPrimitive(element, &pale, painter, widget);
-    }
-};
+    const QColor text = palette.color(QPalette::Text);
+    palette.setColor(QPalette::PlaceholderText, text);
+    palette.setColor(QPalette::AlternateBase, palette.color(QPalette::Base));
+    if (contrast(palette.color(QPalette::Link), ground) < 7)
+        palette.setColor(QPalette::Link, palette.color(QPalette::WindowText));
+    return palette;
+}
 
 struct Scheme {
     QColor window;
@@ -133,9 +131,10 @@ QPixmap iconOfSize(int size)
 
 void applyAppearance(QApplication& application)
 {
-    const bool systemIsDark = isDark(QApplication::palette());
+    const QPalette desktop = QApplication::palette();
     QApplication::setStyle(new FormStyle);
-    QApplication::setPalette(formPalette(systemIsDark ? dark : light));
+    QApplication::setPalette(isOfHighContrast(desktop) ? contrastPalette(desktop)
+                                                       : formPalette(isDark(desktop) ? dark : light));
     QFont font = QApplication::font();
     font.setPixelSize(fontPixels());
     QApplication::setFont(font);
@@ -158,8 +157,20 @@ QSize scaled(QSize size)
     return {scaled(size.width()), scaled(size.height())};
 }
 
+bool isHighContrast()
+{
+    return isOfHighContrast(QApplication::palette());
+}
+
+QColor colours::yielding(const QColor& usual, QPalette::ColorRole role)
+{
+    return isHighContrast() ? QApplication::palette().color(role) : usual;
+}
+
 QColor colours::desktop()
 {
+    if (isHighContrast())
+        return QApplication::palette().color(QPalette::Window);
     return isDark(QApplication::palette()) ? QColor(0x16, 0x18, 0x1b) : QColor(0xc3, 0xcd, 0xd6);
 }
 

@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QIcon>
+#include <QPalette>
 #include <QSize>
 
 class QApplication;
@@ -37,9 +38,8 @@ inline constexpr int usualFontPixels = 12;
 
 namespace colours
 {
-/// Those of a light and a dark scheme stand in the palette. What stands here looks the same in both: paper,
-/// the register's keys, the icon. What is written on it is written in text or greyedText, never in the
-/// palette's.
+/// Those of a light and a dark scheme are in the palette. These look the same in both: paper, the register's
+/// keys, the icon. What is written on them is written in text or greyedText, never in the palette's.
 inline constexpr QColor accent{0x1f, 0x5f, 0x8b};     ///< selections, the icon
 inline constexpr QColor accentDark{0x14, 0x3d, 0x5c}; ///< the darker end of the splash
 inline constexpr QColor text{0x1c, 0x23, 0x2a};
@@ -62,10 +62,16 @@ inline constexpr QColor warningPale{0xfd, 0xf0, 0xd8}; ///< behind a notice of i
 [[nodiscard]] QColor desktop();
 /// Headings, on the palette's window.
 [[nodiscard]] QColor heading();
+/// @p usual, or the desktop's colour for @p role where that has high contrast.
+[[nodiscard]] QColor yielding(const QColor& usual, QPalette::ColorRole role);
 } // namespace colours
 
-/// Gives @p application its style, font, palette and window icon. Once, before the first window. Font size
-/// and a dark scheme come from the user's system.
+/// Whether the user's system shows all texts in the strongest contrast. Its colours are in use as they are
+/// then.
+[[nodiscard]] bool isHighContrast();
+
+/// Gives @p application its style, font, palette and window icon. Once, before the first window. Font size,
+/// a dark scheme and a palette of high contrast come from the user's system.
 void applyAppearance(QApplication& application);
 
 /// The program's icon, drawn for every size that platforms ask for.

@@ -4,6 +4,7 @@ norvane_library(norvane_ui_base
     "${PROJECT_SOURCE_DIR}/ui/Announcement.cpp"
     "${PROJECT_SOURCE_DIR}/ui/Appearance.cpp"
     "${PROJECT_SOURCE_DIR}/ui/FormKit.cpp"
+    "${PROJECT_SOURCE_DIR}/ui/FormStyle.cpp"
     "${PROJECT_SOURCE_DIR}/ui/FrmSearch.cpp"
     "${PROJECT_SOURCE_DIR}/ui/MessageBoxes.cpp"
     "${PROJECT_SOURCE_DIR}/ui/RegisterPicture.cpp"

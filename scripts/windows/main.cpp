@@ -1,7 +1,8 @@
 // Opens every window and tells which texts cannot be read: cut, covered, too pale, or off a small screen.
-//   check_windows [--scale 2] [--font 150] [--dark] [--pictures <folder>]
+//   check_windows [--scale 2] [--font 150] [--dark | --contrast] [--pictures <folder>]
 // --scale is the number of pixels to a point, --font the size of the system's font in percent. The screen has
-// 1024 x 768 points. A line for each fault; the exit code is 1 when there is one.
+// 1024 x 768 points. What a screen reader could not say is a fault as well. A line for each fault; the exit
+// code is 1 when there is one.
 #include "scripts/windows/EveryWindow.h"
 #include "scripts/windows/SpokenControls.h"
 #include "scripts/windows/TextCheck.h"
@@ -30,6 +31,7 @@ struct Setting {
     int scale = 1;
     int fontPercent = 100;
     bool isDark = false;
+    bool hasContrast = false;
     QString pictures;
 };
 
@@ -39,10 +41,11 @@ Setting settingOf(const QStringList& words)
     parser.addOptions({{u"scale"_s, {}, u"n"_s, u"1"_s},
                        {u"font"_s, {}, u"n"_s, u"100"_s},
                        {u"dark"_s, {}},
+                       {u"contrast"_s, {}},
                        {u"pictures"_s, {}, u"folder"_s}});
     parser.process(words);
     return {parser.value(u"scale"_s).toInt(), parser.value(u"font"_s).toInt(), parser.isSet(u"dark"_s),
-            parser.value(u"pictures"_s)};
+            parser.isSet(u"contrast"_s), parser.value(u"pictures"_s)};
 }
 
 /// The screen that the windows open on. Before the application is made.
@@ -69,6 +72,20 @@ QPalette darkPalette()
     return palette;
 }
 
+/// White on black, as desktops have it for high contrast.
+QPalette contrastPalette()
+{
+    QPalette palette(Qt::black);
+    palette.setColor(QPalette::Base, Qt::black);
+    palette.setColor(QPalette::Highlight, QColor(0x1a, 0xeb, 0xff));
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, Qt::white);
+        palette.setColor(QPalette::Disabled, role, QColor(0x3f, 0xf2, 0x3f));
+    }
+    return palette;
+}
+
 /// The user's own font and palette, which the program starts with.
 void setUpDesktop(const Setting& setting)
 {
@@ -78,6 +95,8 @@ void setUpDesktop(const Setting& setting)
     QApplication::setFont(font);
     if (setting.isDark)
         QApplication::setPalette(darkPalette());
+    if (setting.hasContrast)
+        QApplication::setPalette(contrastPalette());
 }
 
 QString tooLarge(const QWidget& window)
