@@ -6,6 +6,7 @@
 #include "link/ResultCodes.h"
 #include "platform/RuntimeFailure.h"
 #include "ui/Appearance.h"
+#include "ui/FittingArea.h"
 #include "ui/FormKit.h"
 #include "ui/StatusLine.h"
 
@@ -25,6 +26,8 @@ namespace
 
 /// First boxes of the three columns, and the end.
 constexpr std::array<int, 4> columnStarts{0, 13, 26, boxCount};
+/// What is above and below the boxes, in device-independent pixels.
+constexpr int aboveAndBelow = 220;
 /// Room between the columns, in device-independent pixels.
 constexpr int columnGap = 2 * ui::spacing::groupGap;
 
@@ -56,7 +59,7 @@ FrmComm::FrmComm(QString exchangeMode, const ApplicationValues& values, Boxes& b
     auto* const content = new QVBoxLayout;
     content->setSpacing(ui::spacing::groupGap);
     content->addWidget(m_way);
-    content->addLayout(columnsOfBoxes());
+    content->addWidget(areaOfBoxes());
     layOut(content, {CSCmdBtn2});
     check1.front()->setFocus();
 }
@@ -70,13 +73,16 @@ void FrmComm::buildBoxes()
     }
 }
 
-QLayout* FrmComm::columnsOfBoxes() const
+/// The buttons stay in reach on a small screen in large type.
+QWidget* FrmComm::areaOfBoxes() const
 {
-    auto* columns = new QHBoxLayout;
+    auto* const boxes = new QWidget;
+    auto* const columns = new QHBoxLayout(boxes);
+    columns->setContentsMargins({});
     columns->setSpacing(columnGap);
     for (std::size_t column = 0; column + 1 < columnStarts.size(); ++column)
         columns->addLayout(columnOfBoxes(columnStarts[column], columnStarts[column + 1]));
-    return columns;
+    return new ui::FittingArea(boxes, aboveAndBelow);
 }
 
 QLayout* FrmComm::columnOfBoxes(int first, int end) const

@@ -36,7 +36,7 @@ private:
     void buildBoxes();
     void showWay();
     [[nodiscard]] QString wayInWords() const;
-    [[nodiscard]] QLayout* columnsOfBoxes() const;
+    [[nodiscard]] QWidget* areaOfBoxes() const;
     [[nodiscard]] QLayout* columnOfBoxes(int first, int end) const;
 
     void selectAll();

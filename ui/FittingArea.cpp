@@ -11,13 +11,12 @@ namespace norvane::ui
 namespace
 {
 
-/// What stands around it: the window's frame and a desktop's bars, the form's margins and buttons. At the
-/// usual font.
-constexpr QSize around(40, 150);
+/// Beside it: the window's frame and the form's margins. At the usual font.
+constexpr int leftAndRight = 40;
 
 } // namespace
 
-FittingArea::FittingArea(QWidget* contents, QWidget* parent) : QScrollArea(parent)
+FittingArea::FittingArea(QWidget* contents, int aboveAndBelow) : m_around(leftAndRight, aboveAndBelow)
 {
     setFrameShape(NoFrame);
     setWidgetResizable(true);
@@ -29,7 +28,7 @@ QSize FittingArea::sizeHint() const
 {
     const QSize whole =
         widget()->sizeHint().expandedTo(widget()->minimumSize()).boundedTo(widget()->maximumSize());
-    const QSize room = screen()->availableSize() - scaled(around);
+    const QSize room = screen()->availableSize() - scaled(m_around);
     QSize size = whole;
     if (whole.width() > room.width())
         size.rheight() += horizontalScrollBar()->sizeHint().height();

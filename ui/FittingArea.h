@@ -11,11 +11,15 @@ namespace norvane::ui
 class FittingArea : public QScrollArea
 {
 public:
-    /// Takes over @p contents.
-    explicit FittingArea(QWidget* contents, QWidget* parent = nullptr);
+    /// Takes over @p contents. @param aboveAndBelow pixels at the usual font that the screen has for other
+    /// things: the window's frame and a desktop's bars, the form's margins and buttons.
+    explicit FittingArea(QWidget* contents, int aboveAndBelow = 150);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+private:
+    QSize m_around; ///< pixels at the usual font
 };
 
 } // namespace norvane::ui
