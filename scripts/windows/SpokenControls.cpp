@@ -18,6 +18,8 @@ QString shownIn(const QObject* control)
 {
     if (const auto* const box = qobject_cast<const QLineEdit*>(control))
         return box->displayText();
+    if (const auto* const page = qobject_cast<const QPlainTextEdit*>(control))
+        return page->toPlainText();
     if (const auto* const spin = qobject_cast<const QDoubleSpinBox*>(control))
         return spin->cleanText();
     if (const auto* const list = qobject_cast<const QComboBox*>(control))
