@@ -25,8 +25,8 @@ namespace
 
 constexpr qsizetype copiesKept = 10;
 constexpr int daysKept = 7;
-const auto timeFormat = u"yyyy-MM-dd HH.mm.ss"_s;
-const auto databaseName = u"velmar.mdb"_s;
+const auto nameFormat = u"yyyy-MM-dd HH.mm.ss"_s;
+const auto copiedDatabase = u"velmar.mdb"_s;
 
 /// What is beside the database and goes with it: settings and register files.
 const QStringList& copiedFiles()
@@ -66,8 +66,8 @@ QString freeName(const QString& folder, const QString& wanted)
 
 SafetyCopy copyOfFolder(const QString& folder, const QString& name)
 {
-    const QDateTime made = QDateTime::fromString(name.left(timeFormat.size()), timeFormat);
-    return {name, joinPath(folder, name), made, name.mid(timeFormat.size() + 1)};
+    const QDateTime made = QDateTime::fromString(name.left(nameFormat.size()), nameFormat);
+    return {name, joinPath(folder, name), made, name.mid(nameFormat.size() + 1)};
 }
 
 void removeOldCopies(const QString& customerPath, const QDateTime& now)
@@ -122,9 +122,9 @@ SafetyCopy makeCopy(const QString& customerPath, const QString& reason, std::opt
     UnfinishedFolder unfinished(joinPath(folder, u"unfinished"_s));
     const QString path = joinPath(folder, u"unfinished"_s);
     if (what)
-        store::copyDatabase(customerDatabase(customerPath), joinPath(path, databaseName), *what);
+        store::copyDatabase(customerDatabase(customerPath), joinPath(path, copiedDatabase), *what);
     copyFiles(customerPath, path);
-    SafetyCopy copy = copyOfFolder(folder, freeName(folder, now.toString(timeFormat) + u' ' + reason));
+    SafetyCopy copy = copyOfFolder(folder, freeName(folder, now.toString(nameFormat) + u' ' + reason));
     unfinished.keepAs(copy.path);
     removeOldCopies(customerPath, now);
     return copy;
@@ -132,7 +132,7 @@ SafetyCopy makeCopy(const QString& customerPath, const QString& reason, std::opt
 
 QString databaseOf(const SafetyCopy& copy)
 {
-    return joinPath(copy.path, databaseName);
+    return joinPath(copy.path, copiedDatabase);
 }
 
 /// @throws RuntimeFailure 53 for a copy without a database, as one of the files alone is, 3343 for a damaged
@@ -164,7 +164,7 @@ QString exchangeDatabase(const QString& customerPath, const QString& made)
         move(made, database);
         return {};
     }
-    const QString wanted = u"velmar.damaged-"_s + QDateTime::currentDateTime().toString(timeFormat);
+    const QString wanted = u"velmar.damaged-"_s + QDateTime::currentDateTime().toString(nameFormat);
     QString aside = freeName(customerPath, wanted);
     move(database, joinPath(customerPath, aside));
     QFile::rename(database + u"-journal"_s, joinPath(customerPath, aside + u"-journal"_s));

@@ -8,7 +8,7 @@ namespace
 {
 
 // clang-format off
-constexpr DownloadRow rows[] = {
+constexpr DownloadRow downloadRows[] = {
     { 0, 67, "  N67.DAT -a",      Copy::ToCustomerAfter},
     { 1, 65, "  N65.DAT -d 65",   Copy::ToCustomerAfter},
     { 2,  1, "  N1.DAT -D 1",     Copy::ToCustomerAfter},
@@ -83,7 +83,7 @@ constexpr DownloadRow rows[] = {
 
 std::span<const DownloadRow> downloadPlan()
 {
-    return rows;
+    return downloadRows;
 }
 
 } // namespace norvane::exchange

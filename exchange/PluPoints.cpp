@@ -16,7 +16,7 @@ namespace norvane::exchange
 namespace
 {
 
-constexpr auto section = "Exchange"_L1;
+constexpr auto pointsSection = "Exchange"_L1;
 constexpr auto pointsKey = "PLUPointsWait"_L1;
 constexpr auto waitWord = "1"_L1;
 constexpr auto fetchedWord = "0"_L1;
@@ -37,7 +37,7 @@ qint64 recordCount(store::Database& database, const QString& query)
 
 PluPoints notedPluPoints(const ApplicationValues& values)
 {
-    const QString word = link::readNote(customers::ownerOfData(values), section, pointsKey);
+    const QString word = link::readNote(customers::ownerOfData(values), pointsSection, pointsKey);
     if (word.isEmpty())
         return PluPoints::Unknown;
     return word == fetchedWord ? PluPoints::Fetched : PluPoints::Wait;
@@ -48,7 +48,7 @@ void notePluPoints(const ApplicationValues& values, PluPoints points)
     if (points == notedPluPoints(values))
         return;
     const QString word = points == PluPoints::Wait ? QString(waitWord) : QString(fetchedWord);
-    link::writeNote(customers::ownerOfData(values), section, pointsKey,
+    link::writeNote(customers::ownerOfData(values), pointsSection, pointsKey,
                     points == PluPoints::Unknown ? QString() : word);
 }
 

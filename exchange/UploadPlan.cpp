@@ -7,7 +7,7 @@ namespace
 {
 
 // clang-format off
-constexpr UploadRow rows[] = {
+constexpr UploadRow uploadRows[] = {
     { 0, 67, "  N67.DAT -U 67"},
     { 1, 65, " N65.DAT -U 65"},
     { 2,  1, "  N1.DAT -U 1"},
@@ -82,7 +82,7 @@ constexpr UploadRow rows[] = {
 
 std::span<const UploadRow> uploadPlan()
 {
-    return rows;
+    return uploadRows;
 }
 
 } // namespace norvane::exchange

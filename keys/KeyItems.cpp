@@ -23,9 +23,7 @@ constexpr ItemTable tables[] = {
 constexpr QLatin1StringView pluLink("0");
 constexpr QLatin1StringView lookUpLink("271");
 
-constexpr int lookUpWidth = 18;
 constexpr int shownWidth = 17;
-constexpr int wluDigits = 4;
 
 QString zeroFilled(const QString& number, int width)
 {

@@ -12,6 +12,11 @@
 namespace norvane::keys
 {
 
+/// Digits of the number that a key of the NLU file keeps, the register's width.
+inline constexpr int lookUpWidth = 18;
+/// Digits of a window look-up's number.
+inline constexpr int wluDigits = 4;
+
 enum class ItemKind { Function, Plu, LookUp };
 
 /// A record as a list of its table shows it.

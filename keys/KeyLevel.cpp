@@ -15,9 +15,7 @@ namespace norvane::keys
 namespace
 {
 
-constexpr int lookUpWidth = 18;
 constexpr int keyNumberWidth = 14;
-constexpr int wluDigits = 4;
 
 /// What KEYLINK takes: a whole number, or nothing for an unprogrammed key.
 QString storedFunction(const QString& function)

@@ -16,8 +16,8 @@ namespace norvane::keys
 namespace
 {
 
-constexpr int descriptionWidth = 120;
-constexpr int numberWidth = 56;
+constexpr int lookUpTextWidth = 120;
+constexpr int lookUpNumberWidth = 56;
 constexpr int flagColumn = 3;
 /// The longest list of keys that a shop has needs two lines.
 constexpr int linesOfKeys = 2;
@@ -85,7 +85,7 @@ void LookUpFields::addText(const TextRow& row, QGridLayout& grid, int line)
     auto* const box = new ui::TextBox(this);
     ui::nameControl(*box, QLatin1String(row.name));
     box->setLimit(row.characters);
-    box->setFixedWidth(ui::scaled(row.isNumber ? numberWidth : descriptionWidth));
+    box->setFixedWidth(ui::scaled(row.isNumber ? lookUpNumberWidth : lookUpTextWidth));
     if (row.isNumber) {
         box->setCharacters(ui::TextBox::Characters::Digits);
         box->setAlignment(Qt::AlignRight);

@@ -3,6 +3,8 @@
 
 #include "overlay/KeyboardGeometry.h"
 
+#include <QRectF>
+
 #include <vector>
 
 namespace norvane::overlay
@@ -21,6 +23,11 @@ struct KeyPlace {
     paper::Length height;
 
     [[nodiscard]] int lastCell() const { return firstCell + cells - 1; }
+    /// Returns the key's outline in mm, from the corner of the printable area.
+    [[nodiscard]] QRectF outline() const
+    {
+        return {x.inMillimetres(), y.inMillimetres(), width.inMillimetres(), height.inMillimetres()};
+    }
 };
 
 /// The keys of a keyboard in the order of their cells: down each column, columns from the left.

@@ -31,12 +31,6 @@ constexpr int reachPixels = 20;
 constexpr double pixelsPerMillimetre = paper::screenDotsPerInch / 25.4;
 constexpr double smallestScale = 0.45 * pixelsPerMillimetre;
 
-QRectF rectOf(const KeyPlace& key)
-{
-    return {key.x.inMillimetres(), key.y.inMillimetres(), key.width.inMillimetres(),
-            key.height.inMillimetres()};
-}
-
 /// As screen readers say it.
 QString placeOf(const KeyPlace& key, int cell)
 {
@@ -47,7 +41,7 @@ QRectF boundsOf(const KeyLayout& layout)
 {
     QRectF bounds;
     for (const KeyPlace& key : layout.keys())
-        bounds |= rectOf(key);
+        bounds |= key.outline();
     return bounds.adjusted(-groundMargin, -groundMargin, groundMargin, groundMargin);
 }
 
@@ -90,7 +84,7 @@ protected:
         painter.setPen(QPen(ui::colours::greyedText, keyFrame));
         painter.setBrush(Qt::white);
         for (const KeyPlace& key : m_layout.keys())
-            painter.drawRect(pixels(rectOf(key)).adjusted(-keyFrame, -keyFrame, 0, 0));
+            painter.drawRect(pixels(key.outline()).adjusted(-keyFrame, -keyFrame, 0, 0));
     }
 
 private:
@@ -177,7 +171,7 @@ void KeyboardView::placeCells()
 {
     m_ground->setScale(m_zoom > 0 ? m_zoom * pixelsPerMillimetre / 100 : fittingScale());
     for (const KeyPlace& key : m_layout.keys()) {
-        QRectF line = rectOf(key);
+        QRectF line = key.outline();
         line.setHeight(line.height() / key.cells);
         for (int cell = key.firstCell; cell <= key.lastCell(); ++cell) {
             CellEdit& edit = *m_cells[static_cast<std::size_t>(cell)];

@@ -10,12 +10,6 @@ namespace
 
 using paper::millimetres;
 
-QRectF rectOf(const KeyPlace& key)
-{
-    return {key.x.inMillimetres(), key.y.inMillimetres(), key.width.inMillimetres(),
-            key.height.inMillimetres()};
-}
-
 /// What a printer tells of its margins is a dot more or less.
 constexpr double tolerance = 0.05;
 
@@ -28,7 +22,7 @@ QRectF allKeys(const KeyLayout& layout, const TargetPrinter& target)
 {
     QRectF all;
     for (const KeyPlace& key : layout.keys())
-        all = all.united(rectOf(key));
+        all = all.united(key.outline());
     return placeOnPaper(target).mapRect(all);
 }
 
@@ -52,7 +46,7 @@ std::vector<std::size_t> keysOutside(const KeyLayout& layout, const TargetPrinte
     const QRectF area = printable(target);
     std::vector<std::size_t> outside;
     for (std::size_t key = 0; key < layout.keys().size(); ++key) {
-        if (!area.contains(place.mapRect(rectOf(layout.keys()[key]))))
+        if (!area.contains(place.mapRect(layout.keys()[key].outline())))
             outside.push_back(key);
     }
     return outside;

@@ -21,16 +21,10 @@ namespace
 
 constexpr int gap = 10; ///< around the sheet, in pixels
 constexpr double millimetresPerInch = 25.4;
-constexpr double largestScale = 40;
-constexpr double smallestScale = 0.5;
+constexpr double largestZoom = 40;
+constexpr double smallestZoom = 0.5;
 constexpr double zoomStep = 1.25;
 constexpr int arrowStep = 40;
-
-QRectF rectOf(const KeyPlace& key)
-{
-    return {key.x.inMillimetres(), key.y.inMillimetres(), key.width.inMillimetres(),
-            key.height.inMillimetres()};
-}
 
 } // namespace
 
@@ -79,7 +73,7 @@ void SheetView::takeScale()
     case Zoom::Free:
         break;
     }
-    m_scale = qBound(smallestScale, m_scale, largestScale);
+    m_scale = qBound(smallestZoom, m_scale, largestZoom);
     updateBars();
     viewport()->update();
 }
@@ -168,7 +162,7 @@ void SheetView::paintOutside(QPainter& painter) const
     painter.setBrush(colour);
     for (const std::size_t index : m_outside) {
         const KeyPlace& key = m_document.layout().keys()[index];
-        painter.drawRect(rectOf(key));
+        painter.drawRect(key.outline());
     }
 }
 
@@ -187,7 +181,7 @@ ui::SpokenItem SheetView::spokenItem(int index) const
     QString state = u"Column %1, key %2"_s.arg(key.column + 1).arg(key.row + 1);
     if (std::ranges::find(m_outside, static_cast<std::size_t>(index)) != m_outside.end())
         state += u", leaves the printable area"_s;
-    const QRectF place = rectOf(key).translated(keysCorner());
+    const QRectF place = key.outline().translated(keysCorner());
     return {lines.join(u' '), state,
             QRectF(toViewport(place.topLeft()), place.size() * m_scale).toAlignedRect()};
 }

@@ -27,12 +27,12 @@ constexpr std::int64_t wholeUnits = 10000;
 /// @return nothing for any other spelling.
 std::optional<std::int64_t> plainUnits(std::string_view text)
 {
-    constexpr std::size_t mostDigits = 14;
+    constexpr std::size_t mostPlainDigits = 14;
     const bool negative = text.starts_with('-');
     text.remove_prefix(negative ? 1 : 0);
     const auto point = std::min(text.find('.'), text.size());
     const auto fraction = text.size() - std::min(point + 1, text.size());
-    if (point == 0 || point > mostDigits || fraction > unitPlaces)
+    if (point == 0 || point > mostPlainDigits || fraction > unitPlaces)
         return std::nullopt;
     std::int64_t units = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {

@@ -10,7 +10,7 @@ namespace
 
 /// Ends a text file for tools that do not know its length.
 constexpr char endMark = '\x1A';
-constexpr std::string_view whiteSpace = " \t\r\n";
+constexpr std::string_view trailingSpace = " \t\r\n";
 constexpr std::string_view endOfText = " \t\r\n\x1A";
 
 bool isBlank(char c)
@@ -64,7 +64,7 @@ std::string_view withoutEndMark(std::string_view text)
 
 TextValues::TextValues(std::string_view text) : m_rest(withoutEndMark(text))
 {
-    m_rest = m_rest.substr(0, m_rest.find_last_not_of(whiteSpace) + 1);
+    m_rest = m_rest.substr(0, m_rest.find_last_not_of(trailingSpace) + 1);
 }
 
 std::optional<std::string_view> TextValues::next()

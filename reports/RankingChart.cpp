@@ -14,7 +14,7 @@ namespace
 
 constexpr double bestPitch = 6.4;
 constexpr double barPart = 0.66; ///< of the pitch
-constexpr double gap = 1.5;
+constexpr double barGap = 1.5;
 
 struct Scale {
     double labelWidth = 0;
@@ -53,15 +53,15 @@ void paintRanking(QPainter& painter, const QRectF& place, const Chart& chart, co
     const double pitch = std::min(bestPitch, place.height() / static_cast<double>(chart.points.size()));
     TextStyle style = chartStyle;
     style.size = std::min(style.size, pitch * 0.75);
-    const double origin = place.left() + scale.labelWidth + gap;
-    const double space = place.right() - origin - gap - scale.valueWidth;
+    const double origin = place.left() + scale.labelWidth + barGap;
+    const double space = place.right() - origin - barGap - scale.valueWidth;
     QRectF row(place.left(), place.top(), scale.labelWidth, pitch);
     for (const ChartPoint& point : chart.points) {
         const QRectF bar(origin, row.center().y() - pitch * barPart / 2, barLength(point, scale, space),
                          pitch * barPart);
         text.draw(painter, row, text.elided(point.label, style, row.width() + 0.1), style, Alignment::Right);
         painter.fillRect(bar, ink::bar);
-        text.draw(painter, QRectF(bar.right() + gap, row.top(), scale.valueWidth, pitch),
+        text.draw(painter, QRectF(bar.right() + barGap, row.top(), scale.valueWidth, pitch),
                   shownValue(chart, point.value), style, Alignment::Left);
         row.moveTop(row.bottom());
     }

@@ -17,7 +17,7 @@ namespace
 {
 
 /// Room for the longest text of the status bar, in device-independent pixels.
-constexpr int contentWidth = 420;
+constexpr int explanationWidth = 420;
 
 } // namespace
 
@@ -27,7 +27,7 @@ FrmsalesComm::FrmsalesComm(const ApplicationValues& values, Boxes& boxes, QWidge
     setWindowTitle(u"Collect Sales."_s);
     auto* explanation =
         new QLabel(u"Fetches the sales of all registers into the database and clears them there."_s, this);
-    explanation->setMinimumWidth(ui::scaled(contentWidth));
+    explanation->setMinimumWidth(ui::scaled(explanationWidth));
     auto* content = new QVBoxLayout;
     content->addWidget(explanation);
     layOut(content);

@@ -83,7 +83,7 @@ constexpr TableRow salesTable(const char* name, std::span<const Row> fields)
     return {name, fields, {}, nullptr, salestable::day};
 }
 
-constexpr TableRow tables[] = {
+constexpr TableRow collectedRows[] = {
     salesTable(salestable::times, itemSales),
     salesTable(salestable::clerks, clerkSales),
     salesTable(salestable::plus, pluSales),
@@ -97,7 +97,7 @@ constexpr TableRow tables[] = {
 
 std::span<const TableRow> collectedTables()
 {
-    return tables;
+    return collectedRows;
 }
 
 } // namespace norvane::store::rows

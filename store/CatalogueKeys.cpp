@@ -56,7 +56,7 @@ constexpr Row hotList[] = {
     flag("HOTLISTED"),
 };
 
-constexpr TableRow tables[] = {
+constexpr TableRow keysRows[] = {
     {"FUNCTIONKEY", functionKey, {"primarykey"}, "id"},
     {"KEYLINK", keyLink, {"primarykey"}, "ID"},
     {"NLU", nlu, {"primarykey"}, "ID"},
@@ -70,7 +70,7 @@ constexpr TableRow tables[] = {
 
 std::span<const TableRow> keyTables()
 {
-    return tables;
+    return keysRows;
 }
 
 } // namespace norvane::store::rows

@@ -60,7 +60,7 @@ constexpr Row guestCheckMessage[] = {
     numbered(5, text("POSTAMBLE*", messageLine)),
 };
 
-constexpr TableRow tables[] = {
+constexpr TableRow messagesRows[] = {
     {"SYSTEMDESCRIPTORS", systemDescriptors, {"primarykey"}, "ID"},
     {"ERRORMESSAGE", errorMessage, {"primarykey"}, "ID"},
     {"FINANCIALREPORTDESCRIPTORS", financialReportDescriptors, {"primarykey"}, "ID"},
@@ -75,7 +75,7 @@ constexpr TableRow tables[] = {
 
 std::span<const TableRow> messageTables()
 {
-    return tables;
+    return messagesRows;
 }
 
 } // namespace norvane::store::rows

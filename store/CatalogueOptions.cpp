@@ -152,7 +152,7 @@ constexpr Row trackingFileOptions[] = {
     flag("DISABLEGCONRECEIPT"),
 };
 
-constexpr TableRow tables[] = {
+constexpr TableRow optionsRows[] = {
     {"GENERALFUNCTIONS", generalFunctions, {"primarykey"}, "ID"},
     {"TAXOPTIONS", taxOptions, {"primarykey"}, "ID"},
     {"CASHDRAWEROPTIONS", cashDrawerOptions, {"primarykey"}, "ID"},
@@ -165,7 +165,7 @@ constexpr TableRow tables[] = {
 
 std::span<const TableRow> optionTables()
 {
-    return tables;
+    return optionsRows;
 }
 
 } // namespace norvane::store::rows

@@ -217,7 +217,7 @@ constexpr Row ejDetailPrint[] = {
     flag("DISABLEREGDETAIL"),
 };
 
-constexpr TableRow tables[] = {
+constexpr TableRow printOptionsRows[] = {
     {"KITCHENPRINTOPTIONS", kitchenPrintOptions, {"primarykey"}, "ID"},
     {"VALIDSUBTOTALOPTIONS", validSubtotalOptions, {"primarykey"}, "ID"},
     {"GENERALPRINTOPTION", generalPrintOption, {"primarykey"}, "ID"},
@@ -231,7 +231,7 @@ constexpr TableRow tables[] = {
 
 std::span<const TableRow> printOptionTables()
 {
-    return tables;
+    return printOptionsRows;
 }
 
 } // namespace norvane::store::rows

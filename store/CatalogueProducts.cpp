@@ -101,7 +101,7 @@ constexpr Row groups[] = {
     numbered(6, flag("tax*")),
 };
 
-constexpr TableRow tables[] = {
+constexpr TableRow productsRows[] = {
     {"PLUDATA", pluData, {"plunumber", "primarykey"}, "PLUNUMBER"},
     {"PRODUCTMIX", productMix, {"primarykeys"}, "PRODUCTNO"},
     {"MIXNMATCH", mixNMatch, {"primarykey"}, "MixNo"},
@@ -113,7 +113,7 @@ constexpr TableRow tables[] = {
 
 std::span<const TableRow> productTables()
 {
-    return tables;
+    return productsRows;
 }
 
 } // namespace norvane::store::rows

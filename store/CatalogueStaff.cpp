@@ -130,7 +130,7 @@ constexpr Row serviceMode[] = {
     whole("rompass"),
 };
 
-constexpr TableRow tables[] = {
+constexpr TableRow staffRows[] = {
     {"EMPLOYEE", employee, {"primarykey"}, "ID"},    {"JOBCODE", jobCode, {"primarykey"}, "JOBCODE"},
     {"PAYRATE", payRate, {"primarykey"}, "PAYRATE"}, {"AUTHORITYLEVEL", authorityLevel, {"primarykey"}, "ID"},
     {"TIMEPERIOD", timePeriod, {"id"}, "id"},        {"TAXRATES", taxRates, {"primarykey"}, "ID"},
@@ -141,7 +141,7 @@ constexpr TableRow tables[] = {
 
 std::span<const TableRow> staffTables()
 {
-    return tables;
+    return staffRows;
 }
 
 } // namespace norvane::store::rows

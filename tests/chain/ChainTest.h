@@ -12,6 +12,8 @@
 namespace norvane::test
 {
 
+inline const QString cornerShop = QStringLiteral("Corner Shop");
+
 /// The server of the whole test program, up while any test runs.
 [[nodiscard]] PostgresServer& postgres();
 

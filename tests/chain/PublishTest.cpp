@@ -6,8 +6,6 @@ namespace norvane::test
 namespace
 {
 
-const QString shop = u"Corner Shop"_s;
-
 /// Three days of two months: two collections of one day, halves of cents, a minus, texts that COPY must
 /// escape.
 constexpr const char* threeDays =
@@ -33,8 +31,8 @@ class PublishTest : public ChainTest
 protected:
     PublishTest()
     {
-        makeShop(shop);
-        change(shop, threeDays);
+        makeShop(cornerShop);
+        change(cornerShop, threeDays);
     }
 };
 
@@ -59,22 +57,22 @@ TEST_F(PublishTest, BringsSalesAndNamesOnce)
          "0002|Tab\there|39.03"},
         {u"SELECT count(*) FROM pg_inherits WHERE inhparent = 'plu_sales'::regclass"_s, "2"},
     };
-    EXPECT_EQ(published({shop}), "3 8 0 0");
+    EXPECT_EQ(published({cornerShop}), "3 8 0 0");
     for (int run = 0; run < 2; ++run) {
         for (const auto& [sql, rows] : answers)
             EXPECT_EQ(query(sql), rows);
-        EXPECT_EQ(published({shop}), "0 0 3 0");
+        EXPECT_EQ(published({cornerShop}), "0 0 3 0");
     }
 }
 
 TEST_F(PublishTest, RanksTheLastMonthAndTellsWhoDidNotCollect)
 {
     makeShop(u"Late"_s);
-    change(shop, "update PLUSALES set SALESDATE = date('now', 'localtime', '-1 day')");
+    change(cornerShop, "update PLUSALES set SALESDATE = date('now', 'localtime', '-1 day')");
     makeShop(u"New"_s);
     change(u"Late"_s, "insert into FINANCIALSALES values (2, date('now', 'localtime', '-3 day'), 1, 0.005), "
                       "(2, date('now', 'localtime', '-4 day'), 1, 0.005)");
-    EXPECT_EQ(publish({shop, u"Late"_s, u"late"_s, u"New"_s}).code, 0);
+    EXPECT_EQ(publish({cornerShop, u"Late"_s, u"late"_s, u"New"_s}).code, 0);
     EXPECT_EQ(query(u"SELECT shop_name, days, takings, net_sales FROM takings_by_shop ORDER BY shop"_s),
               "Corner Shop|2|39.23|39.03 Late|2||0.01 New|0||")
         << "rounded once, and days without a PLU count";
@@ -86,7 +84,7 @@ TEST_F(PublishTest, RanksTheLastMonthAndTellsWhoDidNotCollect)
 
 TEST_F(PublishTest, FindsLateCorrectionsAndChangedNames)
 {
-    EXPECT_EQ(published({shop}), "3 8 0 0");
+    EXPECT_EQ(published({cornerShop}), "3 8 0 0");
     const QString former =
         u"SELECT string_agg(published_at::text, ' ') FROM published_days WHERE day <> '2026-11-01'"_s;
     const std::string untouched = query(former);
@@ -106,8 +104,8 @@ TEST_F(PublishTest, FindsLateCorrectionsAndChangedNames)
         {"delete from PLUDATA where PLUNUMBER = '0002'", "0 0 3 0", u"SELECT count(*) FROM plus"_s, "1"},
     };
     for (const auto& [sql, numbers, question, answer] : corrections) {
-        change(shop, sql);
-        EXPECT_EQ(published({shop}), numbers) << sql;
+        change(cornerShop, sql);
+        EXPECT_EQ(published({cornerShop}), numbers) << sql;
         EXPECT_EQ(query(question), answer) << sql;
     }
     EXPECT_EQ(query(former), untouched) << "days that did not change are not written";
@@ -116,14 +114,14 @@ TEST_F(PublishTest, FindsLateCorrectionsAndChangedNames)
 TEST_F(PublishTest, NeverEmptiesAShopThatWasReset)
 {
     const QString days = u"SELECT string_agg(to_char(day, 'DD'), ' ' ORDER BY day) FROM published_days"_s;
-    EXPECT_EQ(published({shop}), "3 8 0 0");
+    EXPECT_EQ(published({cornerShop}), "3 8 0 0");
     // Reset after the collection of the 1st, one more that day, and the next day; the names went with it.
     for (const char* sql :
          {"delete from PLUSALES", "delete from CLERKSALES", "delete from TIMESALES", "delete from MIXSALES",
           "delete from EMPLOYEE", "update FINANCIALSALES set VALUE = 1",
           "insert into FINANCIALSALES values (2, '2026-11-03', 1, 5)"})
-        change(shop, sql);
-    const Ended told = publish({shop});
+        change(cornerShop, sql);
+    const Ended told = publish({cornerShop});
     EXPECT_EQ(told.code, 15);
     EXPECT_EQ(
         told.err.toStdString(),
@@ -134,18 +132,18 @@ TEST_F(PublishTest, NeverEmptiesAShopThatWasReset)
     EXPECT_EQ(query(u"SELECT takings, net_sales FROM takings_by_day WHERE day = '2026-11-01'"_s),
               "39.03|39.03");
 
-    EXPECT_EQ(published({shop, u"--vanished"_s, u"keep"_s}), "0 0 1 2");
-    EXPECT_EQ(published({shop}, 15), "0 0 2 0") << "the employees are still missing";
+    EXPECT_EQ(published({cornerShop, u"--vanished"_s, u"keep"_s}), "0 0 1 2");
+    EXPECT_EQ(published({cornerShop}, 15), "0 0 2 0") << "the employees are still missing";
     EXPECT_EQ(query(u"SELECT count(*) FROM employees"_s), "1");
-    change(shop, "delete from FINANCIALSALES where SALESDATE = '2026-11-03'");
-    EXPECT_EQ(published({shop, u"--vanished"_s, u"remove"_s}), "0 0 1 1");
+    change(cornerShop, "delete from FINANCIALSALES where SALESDATE = '2026-11-03'");
+    EXPECT_EQ(published({cornerShop, u"--vanished"_s, u"remove"_s}), "0 0 1 1");
     EXPECT_EQ(query(days + u"; SELECT count(*) FROM employees"_s), "31 01 02 0") << "kept days stay";
 }
 
 TEST_F(PublishTest, KnowsAShopByItsFolder)
 {
-    EXPECT_EQ(published({shop}), "3 8 0 0");
-    const QString idFile = shop + u"/norvane-chain.ini"_s;
+    EXPECT_EQ(published({cornerShop}), "3 8 0 0");
+    const QString idFile = cornerShop + u"/norvane-chain.ini"_s;
     const QByteArray former = m_folder.read(qUtf8Printable(idFile));
     const auto expectRefused = [this](const QString& name, const QString& text) {
         const Ended ended = publish({name});
@@ -154,7 +152,7 @@ TEST_F(PublishTest, KnowsAShopByItsFolder)
     };
     // The same name on another machine, in other letters.
     ASSERT_TRUE(QFile::remove(m_folder.path(qUtf8Printable(idFile))));
-    ASSERT_TRUE(QDir(m_folder.path()).rename(shop, u"CORNER shop"_s));
+    ASSERT_TRUE(QDir(m_folder.path()).rename(cornerShop, u"CORNER shop"_s));
     expectRefused(u"corner shop"_s, u"was published from another folder"_s);
     EXPECT_EQ(published({u"CORNER shop"_s, u"--adopt"_s}), "0 0 3 0");
     // The former folder must not write over the shop's days beside it.

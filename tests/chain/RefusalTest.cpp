@@ -8,16 +8,15 @@ namespace norvane::test
 namespace
 {
 
-const QString shop = u"Corner Shop"_s;
-
 class RefusalTest : public ChainTest
 {
 protected:
     RefusalTest()
     {
-        makeShop(shop);
-        change(shop, "insert into MIXSALES values (1, '2026-01-05', 100, 0), (1, '2026-02-05', 200, 0), "
-                     "(1, '2026-03-05', 300, 0)");
+        makeShop(cornerShop);
+        change(cornerShop,
+               "insert into MIXSALES values (1, '2026-01-05', 100, 0), (1, '2026-02-05', 200, 0), "
+               "(1, '2026-03-05', 300, 0)");
     }
 
     void expectRefused(const Ended& ended, int code, const QString& text) const
@@ -32,7 +31,7 @@ protected:
         return query(
             u"SELECT string_agg(to_char(day, 'MM') || '=' || quantity, ' ' ORDER BY day) FROM mix_sales"_s);
     }
-    void startPublication(QProcess& command, const QString& name = shop) const
+    void startPublication(QProcess& command, const QString& name = cornerShop) const
     {
         command.start(QString::fromUtf8(COMMAND),
                       {u"publish"_s, name, u"--to"_s, postgres().connection(m_database), u"--folder"_s,
@@ -85,20 +84,23 @@ TEST_F(RefusalTest, TellsWhyNothingIsPublished)
         int code;
         QString text;
     } refusals[] = {
-        {{shop}, u"hunter2"_s, 2, u"is no connection such as"_s},
-        {{shop}, u"hots=x password=hunter2"_s, 2, u"is no connection such as"_s},
-        {{shop}, u"postgresql://me:hunter2@[x/chain"_s, 2, u"is no connection such as"_s},
-        {{shop, u"--vanished"_s, u"yes"_s}, to(m_database), 2, u"--vanished keep or --vanished remove"_s},
-        {{shop, u"nowhere"_s}, to(m_database), 3, u"There is no customer \"nowhere\""_s},
-        {{shop},
+        {{cornerShop}, u"hunter2"_s, 2, u"is no connection such as"_s},
+        {{cornerShop}, u"hots=x password=hunter2"_s, 2, u"is no connection such as"_s},
+        {{cornerShop}, u"postgresql://me:hunter2@[x/chain"_s, 2, u"is no connection such as"_s},
+        {{cornerShop, u"--vanished"_s, u"yes"_s},
+         to(m_database),
+         2,
+         u"--vanished keep or --vanished remove"_s},
+        {{cornerShop, u"nowhere"_s}, to(m_database), 3, u"There is no customer \"nowhere\""_s},
+        {{cornerShop},
          u"host=/nowhere dbname=chain password=hunter2"_s,
          10,
          u"cannot be reached (database chain at /nowhere)"_s},
-        {{shop}, to(u"nothing"_s), 10, u"database \"nothing\" does not exist"_s},
-        {{shop}, to(m_database, u"nobody"_s), 10, u"role \"nobody\" does not exist"_s},
-        {{shop}, to(m_database, u"guest"_s), 12, u"guest may not make the schema norvane"_s},
-        {{shop}, to(u"ascii"_s), 13, u"The encoding SQL_ASCII cannot hold the names"_s},
-        {{shop}, to(u"latin"_s), 13, u"The encoding LATIN1 cannot hold the names"_s},
+        {{cornerShop}, to(u"nothing"_s), 10, u"database \"nothing\" does not exist"_s},
+        {{cornerShop}, to(m_database, u"nobody"_s), 10, u"role \"nobody\" does not exist"_s},
+        {{cornerShop}, to(m_database, u"guest"_s), 12, u"guest may not make the schema norvane"_s},
+        {{cornerShop}, to(u"ascii"_s), 13, u"The encoding SQL_ASCII cannot hold the names"_s},
+        {{cornerShop}, to(u"latin"_s), 13, u"The encoding LATIN1 cannot hold the names"_s},
     };
     for (const auto& [words, connection, code, text] : refusals)
         expectRefused(publish(words, connection), code, text);
@@ -106,49 +108,49 @@ TEST_F(RefusalTest, TellsWhyNothingIsPublished)
     EXPECT_FALSE(pathExists(m_folder.path("Corner Shop/norvane-chain.ini")));
     EXPECT_FALSE(pathExists(m_folder.path("nowhere")));
 
-    EXPECT_EQ(publish({shop}).code, 0);
+    EXPECT_EQ(publish({cornerShop}).code, 0);
     EXPECT_EQ(
         query(
             u"GRANT USAGE ON SCHEMA norvane TO guest; GRANT SELECT ON ALL TABLES IN SCHEMA norvane TO guest"_s),
         "");
-    change(shop, "update MIXSALES set QUANTITY = 9");
-    expectRefused(publish({shop}, to(m_database, u"guest"_s)), 12, u"The rights do not suffice"_s);
+    change(cornerShop, "update MIXSALES set QUANTITY = 9");
+    expectRefused(publish({cornerShop}, to(m_database, u"guest"_s)), 12, u"The rights do not suffice"_s);
     EXPECT_EQ(months(), "01=1 02=2 03=3");
 }
 
 TEST_F(RefusalTest, BringsAnOlderSchemaUpAndLeavesALaterOneAlone)
 {
-    EXPECT_EQ(publish({shop}).code, 0);
+    EXPECT_EQ(publish({cornerShop}).code, 0);
     EXPECT_EQ(query(u"SET client_min_messages = warning; DROP VIEW plu_lines CASCADE; DROP VIEW "
                     u"day_lines CASCADE; "
                     "DROP VIEW shops_without_collection_yesterday; UPDATE chain_version SET version = 1"_s),
               "");
-    EXPECT_EQ(published({shop}), "0 0 3 0");
+    EXPECT_EQ(published({cornerShop}), "0 0 3 0");
     EXPECT_EQ(query(u"SELECT count(*) FROM shops_without_collection_yesterday"_s), "1");
     EXPECT_EQ(query(u"UPDATE chain_version SET version = 99"_s), "");
-    expectRefused(publish({shop}), 13, u"has version 99 and this program knows versions up to 2"_s);
+    expectRefused(publish({cornerShop}), 13, u"has version 99 and this program knows versions up to 2"_s);
 }
 
 TEST_F(RefusalTest, GoesOnAfterAConnectionThatBrokeAmidTheRows)
 {
-    EXPECT_EQ(publish({shop}).code, 0);
+    EXPECT_EQ(publish({cornerShop}).code, 0);
     EXPECT_EQ(query(u"TRUNCATE mix_sales, published_days; "
                     "CREATE FUNCTION breakdown() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
                     "PERFORM pg_terminate_backend(pg_backend_pid()); RETURN NEW; END $$; "
                     "CREATE TRIGGER breakdown BEFORE INSERT ON mix_sales FOR EACH ROW "
                     "WHEN (NEW.day = '2026-02-05') EXECUTE FUNCTION breakdown()"_s),
               "");
-    expectRefused(publish({shop}), 11, u"PostgreSQL went away (database "_s);
+    expectRefused(publish({cornerShop}), 11, u"PostgreSQL went away (database "_s);
     EXPECT_EQ(months(), "01=1");
     EXPECT_EQ(query(u"DROP TRIGGER breakdown ON mix_sales"_s), "");
-    EXPECT_EQ(published({shop}), "2 2 1 0");
+    EXPECT_EQ(published({cornerShop}), "2 2 1 0");
     EXPECT_EQ(months(), "01=1 02=2 03=3");
 }
 
 TEST_F(RefusalTest, GoesOnAfterAPowerCut)
 {
-    EXPECT_EQ(publish({shop}).code, 0);
-    change(shop, "update MIXSALES set QUANTITY = QUANTITY * 10");
+    EXPECT_EQ(publish({cornerShop}).code, 0);
+    change(cornerShop, "update MIXSALES set QUANTITY = QUANTITY * 10");
     QProcess holder;
     postgres().queryMeanwhile(holder, m_database,
                               u"BEGIN; LOCK norvane.mix_sales_2026_02; SELECT pg_sleep(100)"_s);
@@ -158,20 +160,20 @@ TEST_F(RefusalTest, GoesOnAfterAPowerCut)
     postgres().cutPower();
     EXPECT_TRUE(command.waitForFinished(-1) && holder.waitForFinished(-1));
     EXPECT_EQ(command.exitCode(), 11) << command.readAllStandardError().toStdString();
-    expectRefused(publish({shop}), 10, u"PostgreSQL cannot be reached"_s);
+    expectRefused(publish({cornerShop}), 10, u"PostgreSQL cannot be reached"_s);
     ASSERT_TRUE(postgres().start());
     EXPECT_EQ(months(), "01=10 02=2 03=3") << "whole months, the rest as before";
-    EXPECT_EQ(published({shop}), "2 2 1 0");
+    EXPECT_EQ(published({cornerShop}), "2 2 1 0");
     EXPECT_EQ(months(), "01=10 02=20 03=30");
 }
 
 TEST_F(RefusalTest, TwoPublicationsOfOneShopTakeTurns)
 {
-    EXPECT_EQ(publish({shop}).code, 0);
+    EXPECT_EQ(publish({cornerShop}).code, 0);
     makeShop(u"Other"_s);
     QProcess holder;
     ASSERT_TRUE(hold(holder, u"20086, 1"_s));
-    const Ended ended = publish({shop, u"Other"_s});
+    const Ended ended = publish({cornerShop, u"Other"_s});
     expectRefused(ended, 5, u"Another program is publishing the shop \"Corner Shop\""_s);
     EXPECT_TRUE(ended.out.contains(u"Other"_s)) << "the other shops are published all the same";
     endHolder(holder);
@@ -197,32 +199,32 @@ TEST_F(RefusalTest, TwoFirstPublicationsMakeOneSchema)
 
 TEST_F(RefusalTest, ADayThatChangesWhileItIsSentGoesAgain)
 {
-    EXPECT_EQ(publish({shop}).code, 0);
+    EXPECT_EQ(publish({cornerShop}).code, 0);
     EXPECT_EQ(query(u"TRUNCATE mix_sales, published_days; "
                     "CREATE FUNCTION halt() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
                     "PERFORM pg_advisory_xact_lock(1); RETURN NEW; END $$; "
                     "CREATE TRIGGER halt BEFORE INSERT ON mix_sales FOR EACH ROW "
                     "WHEN (NEW.day = '2026-02-05') EXECUTE FUNCTION halt()"_s),
               "");
-    change(shop, "update MIXSALES set QUANTITY = QUANTITY * 10");
+    change(cornerShop, "update MIXSALES set QUANTITY = QUANTITY * 10");
     QProcess holder;
     ASSERT_TRUE(hold(holder, u"1"_s));
     QProcess command;
     startPublication(command);
     ASSERT_TRUE(waitsForLock());
-    change(shop, "update MIXSALES set QUANTITY = 2100 where SALESDATE = '2026-02-05'");
+    change(cornerShop, "update MIXSALES set QUANTITY = 2100 where SALESDATE = '2026-02-05'");
     endHolder(holder);
     EXPECT_TRUE(command.waitForFinished(-1));
     EXPECT_EQ(command.exitCode(), 0) << command.readAllStandardError().toStdString();
-    EXPECT_EQ(published({shop}), "1 1 2 0");
+    EXPECT_EQ(published({cornerShop}), "1 1 2 0");
     EXPECT_EQ(months(), "01=10 02=21 03=30");
 }
 
 TEST_F(RefusalTest, AShopWhoseRowsDoNotFitStopsNoOther)
 {
     makeShop(u"Other"_s);
-    change(shop, "insert into PLUSALES (SALESDATE) values ('2026-02-05')");
-    const Ended ended = publish({shop, u"Other"_s});
+    change(cornerShop, "insert into PLUSALES (SALESDATE) values ('2026-02-05')");
+    const Ended ended = publish({cornerShop, u"Other"_s});
     expectRefused(ended, 8, u"Corner Shop: PostgreSQL does not take what the shop holds"_s);
     EXPECT_TRUE(ended.out.contains(u"Other"_s)) << ended.out.toStdString();
     EXPECT_EQ(months(), "01=1") << "whole months";

@@ -18,7 +18,7 @@ Value yes()
 }
 
 /// A field on its way out and back.
-struct Travel {
+struct FileTravel {
     const char* name;
     int file;
     std::vector<FieldValue> stored;
@@ -30,7 +30,7 @@ struct Travel {
 };
 
 // clang-format off
-const Travel travels[] = {
+const FileTravel travels[] = {
     {"text", 67, {{"DESCRIPTION", text(" Tea ")}}, 2, 1, "Tea             ", "DESCRIPTION", "Tea             "},
     {"text_in_the_character_set", 67, {{"DESCRIPTION", text("T\u00fcr^\u4e2d\u20ac")}}, 2, 1, "T\xFCr\xFD?\x80          ", "DESCRIPTION", "T\u00fcr^?\u20ac          "},
     {"number_loses_its_left_end", 67, {{"PLUSTATUS", whole(123456)}}, 4, 1, "3456", "PLUSTATUS", "3456"},
@@ -134,7 +134,7 @@ const struct {
 
 TEST(FileLayoutsTest, SendsAndReadsEachFieldItsOwnWay)
 {
-    for (const Travel& travel : travels) {
+    for (const FileTravel& travel : travels) {
         SCOPED_TRACE(travel.name);
         Shop shop;
         shop.folder.write("mem.dat", QByteArray(77, 0));

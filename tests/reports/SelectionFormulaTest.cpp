@@ -69,7 +69,7 @@ TEST_F(Selection, FindsTheRowsThatItNames)
         EXPECT_EQ(found(QString::fromUtf16(formula)), rows) << QString::fromUtf16(formula).toStdString();
 }
 
-const std::tuple<const char16_t*, QDate, const char16_t*> periods[] = {
+const std::tuple<const char16_t*, QDate, const char16_t*> namedPeriods[] = {
     {u"in monthtodate", {2026, 11, 25}, u"Month to date, 01/11/2026 to 25/11/2026"},
     {u"in monthtodate", {2026, 11, 1}, u"Month to date, 01/11/2026"},
     {u"in WeekToDateFromSun", {2026, 11, 22}, u"Week to date, 22/11/2026"}, // a Sunday
@@ -83,7 +83,7 @@ const std::tuple<const char16_t*, QDate, const char16_t*> periods[] = {
 
 TEST_F(Selection, TellsItsPeriodAndEndsItToday)
 {
-    for (const auto& [formula, today, subtitle] : periods) {
+    for (const auto& [formula, today, subtitle] : namedPeriods) {
         const QString whole = u"{FINANCIALSALES.SALESDATE} "_s + QString::fromUtf16(formula);
         const auto data = runReport(request(whole, today));
         EXPECT_EQ(data.heading.subtitle, QString::fromUtf16(subtitle));
@@ -93,7 +93,7 @@ TEST_F(Selection, TellsItsPeriodAndEndsItToday)
               u"The selection names another table (PLUSALES)"_s);
 }
 
-const std::pair<const char16_t*, const char*> mistakes[] = {
+const std::pair<const char16_t*, const char*> formulaMistakes[] = {
     {u"({FINANCIALSALES.ID} = 1", "column 25: \")\" is expected, but the formula ends"},
     {u"{FINANCIALSALES.ID} = 1)", "column 24: the end is expected, but \")\""},
     {u"{FINANCIALSALES.IDS} = 1", "column 1: there is no field {FINANCIALSALES.IDS}"},
@@ -112,7 +112,7 @@ const std::pair<const char16_t*, const char*> mistakes[] = {
 
 TEST_F(Selection, TellsWhereItsMistakeIs)
 {
-    for (const auto& [formula, message] : mistakes) {
+    for (const auto& [formula, message] : formulaMistakes) {
         const std::string error = errorOf(request(QString::fromUtf16(formula)));
         EXPECT_NE(error.find(message), std::string::npos) << error;
     }

@@ -104,7 +104,7 @@ TEST_F(FrmMainTest, SetupAndAboutStandOnceInTheMiddleAndSpeakInTheStatusBar)
     EXPECT_TRUE(QTest::qWaitFor([this] { return childWindows().isEmpty(); }));
 }
 
-const test::ShownBox question{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question, BoxAnswer::No};
+const test::ShownBox exitQuestion{u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question, BoxAnswer::No};
 
 TEST_F(FrmMainTest, AChangeOfCustomerKeepsTheDatabaseAndEscapeChangesNothing)
 {
@@ -140,7 +140,7 @@ TEST_F(FrmMainTest, EveryWayOutAsksOnce)
     choose("ChangeCustomer");
     EXPECT_FALSE(m_main->isVisible());
     EXPECT_EQ(ended.size(), 1);
-    EXPECT_EQ(m_boxes.shown, (std::vector{question, question, question}));
+    EXPECT_EQ(m_boxes.shown, (std::vector{exitQuestion, exitQuestion, exitQuestion}));
 }
 
 } // namespace

@@ -8,7 +8,7 @@ namespace norvane::store::test
 namespace
 {
 
-const QString items = u"items"_s;
+const QString testTable = u"items"_s;
 
 TEST(Database, AForeignOrDamagedFileIsRefusedAndLeftAsItIs)
 {
@@ -40,7 +40,7 @@ TEST(DatabaseCheck, FindsDamageOnEveryPageAndAWrongLength)
     {
         Database database(folder.path());
         const Transaction transaction(database);
-        auto records = database.openTable(items);
+        auto records = database.openTable(testTable);
         for (int i = 1000; i < 1500; ++i)
             add(records, {{"NUMBER", Value::whole(i)}, {"GROUPNO", Value::whole(i)}});
     }
@@ -72,21 +72,21 @@ TEST(Database, AnAddedFieldLeavesOldRowsNullUntilTheyAreStored)
     const StoreFolder folder;
     Database database(folder.path());
     Database elsewhere(folder.path());
-    EXPECT_EQ(elsewhere.table(items).fields.size(), 8);
-    auto before = database.openTable(items);
+    EXPECT_EQ(elsewhere.table(testTable).fields.size(), 8);
+    auto before = database.openTable(testTable);
     add(before, {{"NUMBER", text("1")}});
     const FieldDefinition key{u"dallaskey"_s, FieldType::Text, 14, u"none"_s, true};
-    database.addField(items, key);
+    database.addField(testTable, key);
     add(before, {{"NUMBER", text("2")}}); // a recordset opened before goes on with the fields that it knows
 
-    auto after = database.openTable(items);
+    auto after = database.openTable(testTable);
     EXPECT_TRUE(after.value(key.name).isNull());
     after.edit();
     EXPECT_EQ(failureOf([&] { after.update(); }), 3314);
     after.addNew();
     EXPECT_EQ(after.value(key.name), text("none"));
     elsewhere.refresh();
-    EXPECT_EQ(elsewhere.table(items).fields.last().name, key.name);
+    EXPECT_EQ(elsewhere.table(testTable).fields.last().name, key.name);
 }
 
 TEST(Transaction, ThatFindsNoRoomFailsAndLeavesTheTableAsItWas)

@@ -10,7 +10,7 @@ namespace norvane::store::test
 namespace
 {
 
-const QString items = u"ITEMS"_s;
+const QString itemsTable = u"ITEMS"_s;
 const QString group = u"groupno"_s;
 const QString bygroup = u"ByGroup"_s;
 
@@ -34,7 +34,7 @@ protected:
 
     StoreFolder m_folder;
     Database m_database{m_folder.path()};
-    Recordset m_records = m_database.openTable(items);
+    Recordset m_records = m_database.openTable(itemsTable);
 };
 
 TEST_F(RecordsetTest, WalksBothWaysInTheOrderOfTheIndex)
@@ -76,7 +76,7 @@ TEST_F(RecordsetTest, AWalkSeesWhatComesAndGoesAheadOfIt)
         change(group, Value::number(std::stoi(number()) * 2));
     EXPECT_EQ(m_database.execute(u"update items set count1 = 1 where groupno = 2 * number"_s), 300);
 
-    auto other = m_database.openTable(items);
+    auto other = m_database.openTable(itemsTable);
     int seen = 0;
     for (m_records.moveFirst(); !m_records.atEnd(); m_records.moveNext()) {
         const std::string here = number();
@@ -99,9 +99,9 @@ TEST_F(RecordsetTest, AWalkShowsWhatAnotherWindowHasStored)
 {
     for (int i = 100; i < 200; ++i)
         add(m_records, {{"NUMBER", Value::whole(i)}, {"GROUPNO", Value::whole(0)}});
-    auto sameProgram = m_database.openTable(items);
+    auto sameProgram = m_database.openTable(itemsTable);
     Database elsewhere(m_folder.path());
-    auto otherProgram = elsewhere.openTable(items);
+    auto otherProgram = elsewhere.openTable(itemsTable);
     m_records.moveFirst();
     for (const auto pace : {std::chrono::milliseconds(0), std::chrono::milliseconds(60)}) {
         for (auto* other : {&sameProgram, &otherProgram}) {
@@ -124,7 +124,7 @@ TEST_F(RecordsetTest, AWalkShowsWhatAnotherWindowHasStored)
 TEST_F(RecordsetTest, HoldsItsPlaceWhereTheRecordWasDeleted)
 {
     fill();
-    auto other = m_database.openTable(items);
+    auto other = m_database.openTable(itemsTable);
     m_records.seek(Seek::Equal, text("02"));
     other.seek(Seek::Equal, text("03"));
     m_records.deleteRecord();
@@ -149,7 +149,7 @@ TEST_F(RecordsetTest, ADeletedRecordNeverBecomesAnotherThatComesLater)
         add(records, {{"NUMBER", text("06")}});
     };
     Database elsewhere(m_folder.path());
-    auto other = elsewhere.openTable(items);
+    auto other = elsewhere.openTable(itemsTable);
     const std::function<void()> replacements[] = {
         [&] {
             other.moveLast();
@@ -159,7 +159,7 @@ TEST_F(RecordsetTest, ADeletedRecordNeverBecomesAnotherThatComesLater)
         [&] {
             elsewhere.execute(u"delete from [items] where number = '05'"_s);
             Database later(m_folder.path());
-            auto records = later.openTable(items);
+            auto records = later.openTable(itemsTable);
             addLast(records);
         },
         [&] { // as an upload does
@@ -175,7 +175,7 @@ TEST_F(RecordsetTest, ADeletedRecordNeverBecomesAnotherThatComesLater)
         m_database.execute(u"delete * from items"_s);
         fill();
         m_records.moveLast();
-        auto editing = m_database.openTable(items);
+        auto editing = m_database.openTable(itemsTable);
         editing.moveLast();
         editing.edit();
         editing.setValue(group, Value::whole(99));
@@ -193,7 +193,7 @@ TEST_F(RecordsetTest, ADeletedRecordNeverBecomesAnotherThatComesLater)
 
 TEST_F(RecordsetTest, ARowNumberIsGivenOnceByARecordsetThatGoesOnAdding)
 {
-    auto watching = m_database.openTable(items);
+    auto watching = m_database.openTable(itemsTable);
     Database elsewhere(m_folder.path());
     int next = 10;
     const auto replaceLast = [&](Database& deleting) {

@@ -13,7 +13,7 @@ namespace bank
 namespace
 {
 
-constexpr qsizetype headLength = 14;
+constexpr qsizetype fileHeadLength = 14;
 constexpr qsizetype headerLength = 16;
 constexpr quint8 formatVersion = 1;
 const QByteArray magic = "NVRF"_ba;
@@ -85,7 +85,7 @@ RegisterFile fromBytes(const QByteArray& bytes)
     file.model = static_cast<Model>(header.model);
     file.recordLength = header.length;
     file.records = bytes.mid(headerLength);
-    checkRecords(header, bytes.left(headLength), file.records);
+    checkRecords(header, bytes.left(fileHeadLength), file.records);
     return file;
 }
 

@@ -13,7 +13,7 @@ namespace
 constexpr int linkFile = 16;
 constexpr int numberFile = 17;
 constexpr int windowFile = 57;
-constexpr qsizetype levels = 5;
+constexpr qsizetype keyLevels = 5;
 constexpr qsizetype windowDigits = 4;
 /// A window's lines stand in pairs of columns behind what describes it.
 constexpr qsizetype firstLine = 6;
@@ -53,7 +53,7 @@ Keyboard::Keyboard(const Register& of)
     const auto numbers = of.records(numberFile);
     for (qsizetype row = 0; row < std::min(links.size(), numbers.size()); ++row)
         m_keys += Code{links.at(row).first(), numbers.at(row).first()};
-    m_keysALevel = m_keys.size() / levels;
+    m_keysALevel = m_keys.size() / keyLevels;
     const auto windows = of.records(windowFile);
     for (const auto& window : windows)
         m_windows += articlesIn(window);
@@ -77,7 +77,7 @@ QByteArrayList Keyboard::articlesOf(const Code& code) const
 /// What is noted already stays.
 void Keyboard::noteKeys(const QByteArray& link)
 {
-    for (qsizetype row = 0; row < m_keysALevel * levels; ++row) {
+    for (qsizetype row = 0; row < m_keysALevel * keyLevels; ++row) {
         if (m_keys.at(row).link != link)
             continue;
         for (const auto& number : articlesOf(m_keys.at(row))) {
@@ -95,7 +95,7 @@ std::optional<KeyPlace> Keyboard::keyOf(const QByteArray& number) const
 
 QByteArrayList Keyboard::articlesOn(const KeyPlace& place) const
 {
-    if (place.level > levels || place.key > m_keysALevel)
+    if (place.level > keyLevels || place.key > m_keysALevel)
         return {};
     return articlesOf(m_keys.at((place.level - 1) * m_keysALevel + place.key - 1));
 }
