@@ -12,7 +12,7 @@ target_compile_definitions(norvane_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
 if(NORVANE_SANITIZE)
   target_compile_options(norvane_options INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1 -g1)
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1)
   target_link_options(norvane_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(NORVANE_FUZZ)
@@ -20,11 +20,13 @@ if(NORVANE_FUZZ)
   target_link_options(norvane_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# norvane_library(<name> SOURCES <files> [LINKS <libraries that callers see too>])
+# norvane_library(<name> [MOC] SOURCES <files> [LINKS <libraries that callers see too>])
+# MOC: a class in it has Q_OBJECT. Without it the linker misses that class's virtual table.
 # Headers are included by their folder ("store/Database.h"); what may be called is what is linked.
 function(norvane_library name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "MOC" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
+  set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
   target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
   target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE norvane_options)
 endfunction()

@@ -1,5 +1,5 @@
 # The part of ui/ that every form needs, whatever it shows: look, wait pointer, message boxes.
-norvane_library(norvane_ui_base
+norvane_library(norvane_ui_base MOC
   SOURCES
     "${PROJECT_SOURCE_DIR}/ui/Announcement.cpp"
     "${PROJECT_SOURCE_DIR}/ui/Appearance.cpp"
