@@ -15,7 +15,7 @@ namespace
 
 constexpr auto tooLong = "too long"_L1;
 /// Characters of a number that a page has room for.
-constexpr std::size_t longestShown = 40;
+constexpr std::size_t longestSumShown = 40;
 
 /// The column in which the label of a total stands: the first that shows words and is always shown, else the
 /// first of all.
@@ -213,7 +213,7 @@ Cell LineBuilder::number(const ColumnLayout& column, const std::vector<std::stri
             roundedText(column.number->exactValue(all).value_or("0"), column.column.mostDecimals);
         if (!isLong(rounded))
             return decimalOf(rounded);
-        if (rounded.size() <= longestShown)
+        if (rounded.size() <= longestSumShown)
             return shownDigits(QString::fromStdString(rounded), column.column.leastDecimals);
     } catch (const RuntimeFailure& failure) {
         if (failure.failure() != Failure::Overflow)
