@@ -10,7 +10,7 @@ namespace
 {
 
 /// What stays between a list and its neighbour, in pixels.
-constexpr double neighbourGap = 4;
+constexpr double listGap = 4;
 
 bool inOneRow(const QRect& left, const QRect& right)
 {
@@ -23,7 +23,7 @@ int roomFor(const QWidget& list, const QVector<QWidget*>& controls)
     int edge = rightEdge(controls);
     for (const QWidget* const control : controls) {
         if (control->x() > list.x() && inOneRow(control->geometry(), list.geometry()))
-            edge = qMin(edge, control->x() - ui::scaled(neighbourGap));
+            edge = qMin(edge, control->x() - ui::scaled(listGap));
     }
     return edge - list.x();
 }

@@ -96,9 +96,9 @@ QString lineOf(const Row& row, Values values)
     return u"%1: %2\n"_s.arg(row.label, text);
 }
 
-QString listed(const QStringList& entries)
+QString listed(const QStringList& names)
 {
-    return entries.isEmpty() ? u"none"_s : entries.join(u", "_s);
+    return names.isEmpty() ? u"none"_s : names.join(u", "_s);
 }
 
 } // namespace
