@@ -44,7 +44,6 @@ public:
     /// Replace the machine's serial line and clock; before the first run.
     void setSerialLine(std::unique_ptr<SerialLine> line);
     void setClock(std::unique_ptr<Clock> clock);
-    void setToolPatience(const ToolPatience& patience) { m_tool.setPatience(patience); }
 
 public Q_SLOTS:
     /// The "E&xit" button, Escape and the window's close button: hangs up a modem and leaves, even while it

@@ -40,8 +40,6 @@ public:
     [[nodiscard]] int cellCount() const { return static_cast<int>(m_keyOfCell.size()); }
     /// @param cell from 0 to cellCount() - 1.
     [[nodiscard]] const KeyPlace& keyOf(int cell) const;
-    /// The upper line of a key, the cell of a single key included.
-    [[nodiscard]] bool isFirstCell(int cell) const { return keyOf(cell).firstCell == cell; }
 
 private:
     void addColumn(const KeyboardGeometry& geometry, const ColumnGroup& group, KeyPlace next);

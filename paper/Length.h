@@ -20,8 +20,6 @@ public:
     constexpr Length() = default;
 
     [[nodiscard]] constexpr double inMillimetres() const { return in(unitsPerInch / millimetresPerInch); }
-    /// 1,440 to the inch, 15 to a pixel of the screen.
-    [[nodiscard]] constexpr double inTwips() const { return in(unitsPerInch / twipsPerInch); }
     [[nodiscard]] constexpr double inDots(double dotsPerInch) const { return in(unitsPerInch / dotsPerInch); }
 
     // The check takes a 0 in the compiler's own code for a null pointer.

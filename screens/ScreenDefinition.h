@@ -20,8 +20,7 @@ struct ScreenTable {
 
 /// Section "FormName".
 struct ScreenWindow {
-    QString name;      ///< caption
-    QString helpTopic; ///< kept with the screen; nothing shows it
+    QString name; ///< caption
     std::optional<double> width;
     std::optional<double> height;
 };

@@ -168,7 +168,7 @@ ScreenTable ScreenReader::table() const
 ScreenWindow ScreenReader::window() const
 {
     const QString section = u"FormName"_s;
-    ScreenWindow window{m_file.value(section, u"Name"_s), m_file.value(section, u"HelpHTML"_s), {}, {}};
+    ScreenWindow window{m_file.value(section, u"Name"_s), {}, {}};
     read(section, u"Width"_s, profileValueLimit,
          [&](const QString& value) { window.width = toNumber(value); });
     read(section, u"Height"_s, profileValueLimit,
