@@ -22,7 +22,7 @@ namespace
 constexpr double smallest = 0.1; ///< points
 constexpr double largest = 2160;
 /// Larger letters would not fit the sample.
-constexpr double largestSample = 30;
+constexpr double largestShownSize = 30;
 constexpr QSize sampleSize{300, 70};
 
 /// "8 pt" and "8.25 pt".
@@ -103,7 +103,7 @@ QFont FontBox::choice() const
 void FontBox::showSample()
 {
     QFont shown = choice();
-    shown.setPointSizeF(qMin(shown.pointSizeF(), largestSample));
+    shown.setPointSizeF(qMin(shown.pointSizeF(), largestShownSize));
     m_sample->setFont(shown);
 }
 

@@ -23,7 +23,7 @@ namespace
 {
 
 constexpr int levels = 5;
-constexpr QSize sampleSize{100, 28};
+constexpr QSize labelSampleSize{100, 28};
 constexpr std::array<std::pair<const char*, int>, 6> zooms = {
     {{"Fit window", 0}, {"75 %", 75}, {"100 %", 100}, {"125 %", 125}, {"150 %", 150}, {"200 %", 200}}};
 
@@ -160,7 +160,7 @@ void OverlayForm::addSample(QToolBar& bar)
     ui::nameControl(*Label1, u"Label1"_s);
     Label1->setToolTip(u"What a double click (colours) and a click (font) give to a cell"_s);
     Label1->setAlignment(Qt::AlignCenter);
-    Label1->setFixedSize(ui::scaled(sampleSize));
+    Label1->setFixedSize(ui::scaled(labelSampleSize));
     Label1->setFrameStyle(QFrame::Box);
     Label1->setAutoFillBackground(true);
     // A tool bar gives its own roles to what lies in it.

@@ -18,7 +18,7 @@ namespace norvane::overlay
 namespace
 {
 
-QString percent(double stretch)
+QString percentOf(double stretch)
 {
     return QString::number(stretch * 100, 'g', 5) + u" %"_s;
 }
@@ -105,8 +105,8 @@ QString SheetActions::destination(const std::optional<paper::PrinterCorrection>&
     const bool isLandscape = used.sheet.orientation == QPageLayout::Landscape;
     const QString scale =
         in.across.stretch == in.down.stretch
-            ? percent(in.across.stretch)
-            : u"%1 across, %2 down"_s.arg(percent(in.across.stretch), percent(in.down.stretch));
+            ? percentOf(in.across.stretch)
+            : u"%1 across, %2 down"_s.arg(percentOf(in.across.stretch), percentOf(in.down.stretch));
     return u"Printer: %1. Paper: A4 %2. Scale: %3."_s.arg(
         used.name.isEmpty() ? u"none"_s : used.name, isLandscape ? u"landscape"_s : u"portrait"_s, scale);
 }
