@@ -54,6 +54,8 @@ QString faultOf(const Decimal& price)
     return {};
 }
 
+} // namespace
+
 /// The numbers of the records in the tables that keys point to.
 class KnownKeys
 {
@@ -80,6 +82,9 @@ private:
     store::Database& m_database;
     std::map<const PluColumn*, std::unordered_set<std::string>> m_keys;
 };
+
+namespace
+{
 
 /// What will be stored of a cell that is a change.
 std::string valueOf(const PluColumn& column, const std::string& cell)
@@ -273,7 +278,7 @@ void PluComparison::forEach(const std::function<void(const PluChange& change)>& 
         change.fields.clear();
         const auto cells = m_file.cells(line);
         for (std::size_t place = 0; place < cells.size(); ++place) {
-            if ((columns >> place & 1U) == 0)
+            if ((unsigned{columns} >> place & 1U) == 0)
                 continue;
             const PluColumn& column = *m_file.columns()[place];
             change.fields.push_back({&column, takeText(former), valueOf(column, cells[place])});
