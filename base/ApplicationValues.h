@@ -6,8 +6,8 @@
 namespace norvane
 {
 
-/// Plain values, made once by the program and handed to whoever needs them; nothing guards them. Which
-/// routine sets which is part of the system's behaviour: a change of customer leaves databasePath as it was.
+/// Plain values, created once by the program and passed to the code that needs them. Which routine sets which
+/// value is part of the system's behaviour: a change of customer leaves databasePath as it was.
 struct ApplicationValues {
     /// The program's folder (base/ProgramFolder.h), without a closing separator.
     QString appPath;
@@ -18,7 +18,7 @@ struct ApplicationValues {
     /// The customer database in use. Set at the start and by the key editors only.
     QString databasePath;
     /// The kind of report for which the user picks a day ("DAILYPLU"); empty for a report over a fixed
-    /// period. The price list does not set it, so the value of the report before stays.
+    /// period. The price list does not set it and so keeps the value of the previous report.
     QString reportMode;
 };
 

@@ -12,20 +12,23 @@ namespace norvane
 /// Path of the customer's settings file.
 [[nodiscard]] QString settingsPath(const ApplicationValues& values);
 
-/// One key of section SetupOption, read afresh from the file; see ProfileFile for absent and empty values.
+/// Reads one key of section SetupOption from the file on each call; see ProfileFile for absent and empty
+/// values.
 [[nodiscard]] QString readSetting(const ApplicationValues& values, const QString& key,
                                   const QString& defaultText);
 
 /// The register model index ECRModel, default "0", converted to a number.
-/// @throws RuntimeFailure 13 when the value is empty or not a number; the text names file and key.
+/// @throws RuntimeFailure with Failure::TypeMismatch if the value is empty or not a number; the text names
+/// file and key.
 [[nodiscard]] double ecrModel(const ApplicationValues& values);
 
 /// Characters of a message line: the printers of the models 0, 1 and 2 are wider than those of all others.
-/// @throws 13 as ecrModel() does.
+/// @throws RuntimeFailure with Failure::TypeMismatch as ecrModel() does.
 [[nodiscard]] int messageWidth(const ApplicationValues& values);
 
 /// The name of the customer whose data @p database holds. After a change of customer the database in use is
-/// still the former customer's. @return customerName, or else the name of the folder that @p database is in.
+/// still the previous customer's. @return customerName, or else the name of the folder that @p database is
+/// in.
 [[nodiscard]] QString customerOf(const ApplicationValues& values, const QString& database);
 
 /// The file in the customer's folder in which exchange and collection leave notes for their next run.

@@ -15,8 +15,7 @@
 namespace norvane
 {
 
-/// The register's own mark in texts, in its bytes and in Unicode, and the character that stands for it in the
-/// database.
+/// The register's mark in texts, as a byte and in Unicode, and the character used for it in the database.
 inline constexpr int registerMark = 0xFD;
 inline constexpr int shownMark = '^';
 
@@ -66,9 +65,10 @@ template <typename Char>
     return text;
 }
 
-/// Brings @p value, trimmed, to @p width characters. Mode 0: zeros on the left, the right end kept. Mode 1:
-/// blanks on the right, the left end kept. Any other: centred. A missing value counts as empty.
-/// @return the new value. @throws RuntimeFailure 5 when a centred value is longer than the width.
+/// Pads or cuts the trimmed @p value to @p width characters. Mode 0: zeros on the left, the right end kept.
+/// Mode 1: blanks on the right, the left end kept. Any other: centred. A missing value counts as empty.
+/// @return the new value. @throws RuntimeFailure with Failure::InvalidArgument if a centred value is longer
+/// than the width.
 QString JustifyField(std::optional<QString>& value, int width, int mode);
 
 /// Trims blanks and removes all leading zeros in @p text; zeros alone become empty text. For key links; other

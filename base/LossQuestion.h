@@ -8,7 +8,7 @@
 namespace norvane
 {
 
-/// The title of every such question, and of what the user has to know before going on.
+/// The title of these questions and of notices that the user must read before continuing.
 inline constexpr QLatin1StringView pleaseCheck{"Please Check"};
 
 /// Boxes on a command line, where options answer the questions beforehand.

@@ -6,10 +6,9 @@
 namespace norvane
 {
 
-/// The folder with the screens, the reports, the templates, the tools and the customers, as an absolute path
-/// without a closing separator: the one that the environment names in NORVANE_FOLDER, where each user has one
-/// of their own and the program file lies elsewhere; else the folder of the program file. It need not be
-/// there.
+/// The folder of the screens, reports, templates, tools and customers, as an absolute path without a trailing
+/// separator: the value of the environment variable NORVANE_FOLDER (set where each user has a folder and the
+/// program is installed elsewhere), otherwise the folder of the program file. It may not exist.
 [[nodiscard]] QString programFolder();
 
 } // namespace norvane

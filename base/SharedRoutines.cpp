@@ -39,7 +39,7 @@ int GetFirmwareGeneration(const ApplicationValues& values, Boxes& boxes)
         throw RuntimeFailure(Failure::FileNotFound, QStringLiteral("File not found: %1").arg(path));
     if (file.size() > std::numeric_limits<std::int16_t>::max()) {
         throw RuntimeFailure(Failure::Overflow,
-                             QStringLiteral("Overflow: %1 is no memory file of a register").arg(path));
+                             QStringLiteral("Overflow: %1 is not a memory file of a register").arg(path));
     }
     if (file.size() == 0) {
         boxes.message(QStringLiteral("You must upload the data from the Velmar"));
@@ -58,7 +58,7 @@ QString ReadStatusOut()
 {
     const QByteArray content = readWholeFile(u"status.out"_s);
     TextValues values({content.constData(), static_cast<std::size_t>(content.size())});
-    // An empty place is no value: a line end too many must not turn an error into a success.
+    // An empty place is not a value: a line end too many must not turn an error into a success.
     std::string_view last;
     while (const auto value = values.next())
         last = value->empty() ? last : *value;

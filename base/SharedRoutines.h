@@ -10,15 +10,17 @@
 namespace norvane
 {
 
-/// The model word that the converter takes: "Velmaro", "Velmarn" or "Dorvik". @throws 13 as ecrModel() does.
+/// The model word that the converter takes: "Velmaro", "Velmarn" or "Dorvik". @throws RuntimeFailure with
+/// Failure::TypeMismatch as ecrModel() does.
 [[nodiscard]] QString GetModelCode(const ApplicationValues& values);
 
-/// 2, 3, or -1 for an empty mem.dat (after telling the user), by the length of mem.dat in the program's
+/// Returns 2, 3, or -1 for an empty mem.dat (after a message), by the length of mem.dat in the program's
 /// folder.
-/// @throws RuntimeFailure 53 when the file is missing, 6 when it has 32,768 bytes or more.
+/// @throws RuntimeFailure with Failure::FileNotFound when the file is missing, Failure::Overflow when it has
+/// 32,768 bytes or more.
 [[nodiscard]] int GetFirmwareGeneration(const ApplicationValues& values, Boxes& boxes);
 
-/// Whether a flag is set in an option digit. Position 3 is no bit: the register counts 3, 5 and 7.
+/// Whether a flag is set in an option digit. Position 3 is not a bit: the register counts 3, 5 and 7.
 [[nodiscard]] constexpr bool DigitFlagSet(int digit, int position)
 {
     switch (position) {
@@ -35,13 +37,13 @@ namespace norvane
     }
 }
 
-/// Lets pending events run once, then runs a tool and waits for it, while @p watch looks on.
-/// @return how it came to its end.
+/// Processes pending events once, then runs a tool and waits for it while @p watch observes it.
+/// @return how it ended.
 ChildResult RunAndWait(const ApplicationValues& values, const QString& commandLine,
                        const ChildWatch& watch = {});
 
 /// The last value of status.out in the working directory; empty text when it holds none.
-/// @throws RuntimeFailure 53 when the file cannot be opened.
+/// @throws RuntimeFailure with Failure::FileNotFound when the file cannot be opened.
 [[nodiscard]] QString ReadStatusOut();
 
 } // namespace norvane

@@ -1,5 +1,5 @@
-// The boxes that the program's logic shows. The real ones are in ui/; tests hand in boxes that answer as
-// told.
+// The boxes that the program's logic shows. The real ones are in ui/; tests pass in boxes with prepared
+// answers.
 #pragma once
 
 #include <QString>
@@ -12,10 +12,10 @@ namespace norvane
 enum class BoxIcon { None, Information, Exclamation, Question, Critical };
 /// The answer of a question box that Enter gives.
 enum class BoxAnswer { Yes, No };
-/// What becomes of something typed that is not saved.
+/// What happens to unsaved changes.
 enum class UnsavedAnswer { Cancel, Save, Discard };
 
-/// The title of a box that is given none.
+/// The default title of a box.
 inline const QString& applicationTitle()
 {
     static const QString title = QStringLiteral("Norvane Velmar and Dorvik Utility.");
@@ -26,7 +26,7 @@ inline const QString& applicationTitle()
 struct FileRequest {
     QString title;
     QString folder; ///< shown first
-    QString filter; ///< "Overlays (*.Dorvik)", several parted by ";;"
+    QString filter; ///< "Overlays (*.Dorvik)", several separated by ";;"
     QString suffix; ///< added to a name typed without one, when a file is saved
 };
 
@@ -38,33 +38,33 @@ public:
     Boxes& operator=(const Boxes&) = delete;
     virtual ~Boxes() = default;
 
-    /// Shows @p text with an OK button and waits for it. An empty @p title stands for applicationTitle().
+    /// Shows @p text with an OK button and waits for it. An empty @p title means applicationTitle().
     virtual void message(const QString& text, const QString& title = {}, BoxIcon icon = BoxIcon::None) = 0;
     /// Asks @p text with Yes and No; closing the box counts as No. @return true for Yes.
     virtual bool ask(const QString& text, const QString& title, BoxIcon icon = BoxIcon::Question,
                      BoxAnswer preset = BoxAnswer::Yes) = 0;
-    /// Asks @p text with Yes, which is preset, and No, before something goes on that either answer allows. A
-    /// closed box gives neither, as do boxes that nobody sees: nothing goes on then.
+    /// Asks @p text with Yes (the default) and No before a step that continues after either answer. Returns
+    /// nothing, and the step ends, if the box is closed or cannot be shown.
     virtual std::optional<bool> askBeforeGoingOn(const QString& /*text*/, const QString& /*title*/)
     {
         return std::nullopt;
     }
-    /// Asks @p text with two answers in words of their own, access letters included ("&Save", "S&how").
-    /// Enter, closing the box, and boxes that nobody sees give the second, which does less harm.
+    /// Asks @p text with two buttons of the given captions, access letters included ("&Save", "S&how").
+    /// Enter, closing the box, and boxes that cannot be shown choose the second, which does less harm.
     /// @return true for the first.
     virtual bool choose(const QString& /*text*/, const QString& /*title*/, const QString& /*first*/,
                         const QString& /*second*/)
     {
         return false;
     }
-    /// Asks @p text with Save, which Enter gives, Discard and Cancel. Closing the box, and boxes that nobody
-    /// sees, give Cancel.
+    /// Asks @p text with Save (the default), Discard and Cancel. Closing the box, and boxes that cannot be
+    /// shown, choose Cancel.
     virtual UnsavedAnswer askToSave(const QString& /*text*/, const QString& /*title*/)
     {
         return UnsavedAnswer::Cancel;
     }
-    /// Asks @p text with OK, which Enter gives, and Cancel, which closing the box and boxes that nobody sees
-    /// give. @return true for OK.
+    /// Asks @p text with OK (the default) and Cancel, which also closing the box and boxes that cannot be
+    /// shown choose. @return true for OK.
     virtual bool confirm(const QString& /*text*/, const QString& /*title*/) { return false; }
     /// Asks for a line of text. @return empty text for Cancel, as for an emptied box.
     virtual QString input(const QString& prompt, const QString& title, const QString& initial = {}) = 0;

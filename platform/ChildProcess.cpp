@@ -42,7 +42,7 @@ QString programAt(const QString& path)
     return file.isFile() && file.isExecutable() ? file.absoluteFilePath() : QString();
 }
 
-/// Short enough for a window to seem alive. A child that ends is noticed at once.
+/// Short enough to keep a window responsive. A child that exits is noticed immediately.
 constexpr int millisecondsBetweenLooks = 40;
 
 void waitForEnd(QProcess& child, const ChildWatch& watch)
@@ -56,8 +56,9 @@ void waitForEnd(QProcess& child, const ChildWatch& watch)
     }
 }
 
-/// Lets the child die with this program. It would go on talking to the registers otherwise, while the lock of
-/// the run is free again and the next run begins. Other platforms have no such signal; there the child stays.
+/// Ends the child when this program dies. Otherwise it would keep talking to the registers while the lock of
+/// the run is released and the next run starts. Other platforms have no such signal; there the child keeps
+/// running.
 void bindToParent([[maybe_unused]] QProcess& child)
 {
 #ifdef Q_OS_LINUX

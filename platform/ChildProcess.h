@@ -18,20 +18,19 @@ namespace norvane
 /// @return empty text when there is none.
 [[nodiscard]] QString findProgram(const QString& name, const QString& programFolder);
 
-/// How a child came to its end. Crashed: a signal, a fault of its own or the user ended it, whatever it had
-/// written.
+/// How a child ended. Crashed: ended by a signal, a fault or the user, even if it had written its files.
 enum class ChildResult { Ended, Crashed, NotFound, NotStarted };
 
-/// Looks on while a child runs.
+/// Observes a running child process.
 struct ChildWatch {
     /// Called every few hundredths of a second with the time since the start. @return false to end the child,
-    /// which counts as a crash. Empty: nothing happens before the child ends by itself.
+    /// which counts as a crash. If empty, the child runs until it exits.
     std::function<bool(std::chrono::milliseconds running)> goOn;
 };
 
 /// Starts @p commandLine in the working directory with this process's environment and waits for its end
-/// without a time limit. The exit code is not told: the tools report through their files. On Linux the child
-/// is killed when this program dies.
+/// without a time limit. The exit code is not returned: the tools report through their files. On Linux the
+/// child is killed when this program dies.
 ChildResult runAndWait(const QString& commandLine, const QString& programFolder,
                        const ChildWatch& watch = {});
 

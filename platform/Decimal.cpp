@@ -61,7 +61,7 @@ std::string_view significant(std::string_view digits, int& scale)
     return digits;
 }
 
-/// @return false at a character that is no digit.
+/// @return false at a character that is not a digit.
 bool addDigits(std::int64_t& coefficient, std::string_view digits)
 {
     for (const char digit : digits) {

@@ -18,15 +18,16 @@ public:
     constexpr Decimal() = default;
     constexpr Decimal(std::int64_t coefficient, int scale) : m_coefficient(coefficient), m_scale(scale) {}
 
-    /// The number of a text of digits with a minus in front and a point at most. Nearly all numbers are
-    /// spelled so; bulk work reads them without a scan.
-    /// @return nothing for any other spelling and for more than 18 digits.
+    /// The number in a text of digits with at most a leading minus and a point. Nearly all numbers are
+    /// written so; bulk work reads them without a scan.
+    /// @return nothing for any other form and for more than 18 digits.
     [[nodiscard]] static std::optional<Decimal> plain(std::string_view text);
-    /// Reads a whole text such as "-12.340" (blanks around it allowed). @return nothing when it is no number.
+    /// Reads a whole text such as "-12.340" (blanks around it allowed). @return nothing if it is not a
+    /// number.
     [[nodiscard]] static std::optional<Decimal> parse(std::string_view text);
-    /// The number that @p text begins with, blanks passed over: "12abc" is 12, and "x", which has none, is 0.
+    /// The number at the start of @p text, blanks skipped: "12abc" is 12, and "x", which has none, is 0.
     [[nodiscard]] static Decimal leading(std::string_view text);
-    /// The shortest decimal that stands for the binary @p number.
+    /// The shortest decimal that converts to the binary @p number.
     [[nodiscard]] static Decimal fromDouble(double number);
 
     [[nodiscard]] constexpr std::int64_t coefficient() const { return m_coefficient; }
@@ -34,7 +35,7 @@ public:
 
     /// Moves the point: multiplies by 10^@p places, divides when negative.
     [[nodiscard]] Decimal shifted(int places) const;
-    /// Rounds to @p places behind the point, halves away from zero.
+    /// Rounds to @p places after the point, halves away from zero.
     [[nodiscard]] Decimal rounded(int places) const;
     /// The quotient to @p digits significant digits (up to 17), halves away from zero. @p divisor is not 0.
     [[nodiscard]] Decimal dividedBy(const Decimal& divisor, int digits) const;

@@ -23,8 +23,8 @@ constexpr std::int64_t wholeUnits = 10000;
     throw RuntimeFailure(Failure::Overflow, QStringLiteral("Overflow: a number too large to be added up"));
 }
 
-/// Ten-thousandths of a text of digits, with a minus and a point at most: nearly every number is spelled so.
-/// @return nothing for any other spelling.
+/// Ten-thousandths of a text of digits, with at most a minus and a point: nearly every number is written so.
+/// @return nothing for any other form.
 std::optional<std::int64_t> plainUnits(std::string_view text)
 {
     constexpr std::size_t mostPlainDigits = 14;

@@ -12,8 +12,8 @@ namespace norvane
 {
 
 /// Adds numbers in decimal. A double counts as its shortest decimal, so 0.1 added ten times is 1 and not
-/// 0.9999999999999999. There is no limit of digits: what was added can be taken away again to the last one.
-/// Numbers of up to four places and fifteen digits, that is all takings, are added as fast as doubles.
+/// 0.9999999999999999. The number of digits is unlimited: subtracting what was added gives the exact total
+/// back. Numbers of up to four places and fifteen digits (all takings) are added as fast as doubles.
 class DecimalTotal
 {
 public:
@@ -22,7 +22,7 @@ public:
     DecimalTotal(const DecimalTotal&) = delete;
     DecimalTotal& operator=(const DecimalTotal&) = delete;
 
-    /// @throws RuntimeFailure 6 for a number that is infinite or none.
+    /// @throws RuntimeFailure with Failure::Overflow for infinity and NaN.
     void add(double number)
     {
         const double scaled = number * unitsOfOne;
@@ -36,22 +36,23 @@ public:
         addAsSpelled(number);
     }
     void add(std::int64_t number);
-    /// Adds the decimal that @p text spells; a text that is no number counts as 0.
-    /// @throws RuntimeFailure 6 for a number of more than some 350 places before or behind the point.
+    /// Adds the decimal number in @p text; a text that is not a number counts as 0.
+    /// @throws RuntimeFailure with Failure::Overflow for a number of more than some 350 places before or
+    /// after the point.
     void add(std::string_view text);
 
     /// The total as a plain decimal without trailing zeros: "5639.55", "-3", "0".
     [[nodiscard]] std::string text() const;
-    /// The total when it has no places behind the point. @return nothing for any other and for one of more
-    /// than some fifteen digits.
+    /// The total as a whole number. @return nothing if it has decimal places or more than about fifteen
+    /// digits.
     [[nodiscard]] std::optional<std::int64_t> whole() const;
 
 private:
     class Places;
 
     static constexpr double unitsOfOne = 10000;
-    /// Two decimals of up to fifteen digits never share a double, so a double that four places stand for has
-    /// no shorter decimal.
+    /// Two decimals of up to fifteen digits never share a double, so a decimal of four places that converts
+    /// to a double is its shortest.
     static constexpr double mostExactUnits = 1e15;
     static constexpr std::int64_t mostUnits = 8'000'000'000'000'000'000;
 

@@ -39,7 +39,7 @@ inline constexpr qsizetype excerptLength = 60;
                                         : text.left(excerptLength).toString() + QStringLiteral("...");
 }
 
-/// The same of UTF-8, of which no more is converted than is shown.
+/// The same for UTF-8; only the part that is shown is converted.
 [[nodiscard]] inline QString excerptOfUtf8(std::string_view text)
 {
     constexpr std::size_t widestCharacter = 4;

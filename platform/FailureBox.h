@@ -1,4 +1,4 @@
-// The box that tells the user of a run-time failure.
+// The box that reports a run-time failure to the user.
 #pragma once
 
 #include "platform/Boxes.h"

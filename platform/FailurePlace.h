@@ -1,4 +1,4 @@
-// Adds the place to a failure: the line of a file, the section of a screen. Nobody rethrows by hand.
+// Adds the place to a failure: the line of a file, the section of a screen. No other code rethrows.
 #pragma once
 
 #include "platform/RuntimeFailure.h"
@@ -8,8 +8,8 @@
 namespace norvane
 {
 
-/// Runs @p work. When it fails, the number stays and @p explain makes the new text from the old one, such as
-/// "67.txt, line 3: " and the text. @p explain is called only then.
+/// Runs @p work. If it fails, the failure keeps its number and @p explain makes the new text from the old
+/// one, for example by prefixing "67.txt, line 3: ". @p explain is called only then.
 /// @return what @p work returns.
 template <typename Explain, typename Work>
 decltype(auto) atPlace(Explain&& explain, Work&& work)

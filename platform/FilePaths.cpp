@@ -1,4 +1,4 @@
-// Case-blind file names on file systems that tell case apart; see FilePaths.h.
+// Case-insensitive file names on case-sensitive file systems; see FilePaths.h.
 #include "platform/FilePaths.h"
 
 #include "platform/RuntimeFailure.h"
@@ -19,7 +19,7 @@ QString forwardSlashes(const QString& path)
     return QString(path).replace(u'\\', u'/');
 }
 
-/// The entry of @p folder that @p name means. @return empty text when there is none.
+/// The entry of @p folder named @p name in any case. @return empty text if there is none.
 QString entryOf(const QString& folder, const QString& name)
 {
     if (QFileInfo::exists(folder + name))
@@ -34,7 +34,7 @@ QString entryOf(const QString& folder, const QString& name)
     return {};
 }
 
-/// The part of @p path that stands before the first name: "/", "C:/", or nothing for a relative path.
+/// The part of @p path before the first name: "/", "C:/", or empty for a relative path.
 QString rootOf(const QString& path)
 {
     if (path.startsWith(u'/'))

@@ -13,23 +13,26 @@ namespace norvane
 /// Joins with the platform's separator. @p name may begin with "/", with "\" or with neither.
 [[nodiscard]] QString joinPath(const QString& folder, const QString& name);
 
-/// The file or folder that @p path names, each part found without regard to case; an exact match wins.
-/// @return @p path in the platform's form when there is none.
+/// The file or folder that @p path names, each part matched case-insensitively; an exact match wins.
+/// @return @p path in the platform's form if there is none.
 [[nodiscard]] QString existingPath(const QString& path);
 
 /// True when @p path names an existing file or folder without regard to case.
 [[nodiscard]] bool pathExists(const QString& path);
 
-/// A file, found without regard to case, to be read piece by piece.
-/// @throws RuntimeFailure 53 when there is none, 75 when it cannot be read.
+/// Opens a file, found without regard to case, for reading piece by piece.
+/// @throws RuntimeFailure with Failure::FileNotFound if there is none, Failure::PathOrFileAccess if it cannot
+/// be read.
 [[nodiscard]] std::unique_ptr<QFile> openToRead(const QString& path);
 
 /// The bytes of a file, found without regard to case.
-/// @throws RuntimeFailure 53 when there is none, 75 when it cannot be read.
+/// @throws RuntimeFailure with Failure::FileNotFound if there is none, Failure::PathOrFileAccess if it cannot
+/// be read.
 [[nodiscard]] QByteArray readWholeFile(const QString& path);
 
 /// Replaces the content of a file, found without regard to case, or makes it.
-/// @throws RuntimeFailure 75 when it cannot be opened for writing, 61 when the disk is full.
+/// @throws RuntimeFailure with Failure::PathOrFileAccess when it cannot be opened for writing,
+/// Failure::DiskFull when the disk is full.
 void writeWholeFile(const QString& path, const QByteArray& content);
 
 } // namespace norvane

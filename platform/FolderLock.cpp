@@ -1,4 +1,4 @@
-// The lock file and the words for whoever finds it taken; see FolderLock.h.
+// The lock file and the message shown when it is taken; see FolderLock.h.
 #include "platform/FolderLock.h"
 
 #include "platform/FilePaths.h"
@@ -41,7 +41,7 @@ std::unique_ptr<FolderLock> FolderLock::take(const QString& folder, Boxes& boxes
     return nullptr;
 }
 
-/// A program that has just made the file writes its owner into it at once.
+/// A program writes its owner into the file immediately after creating it.
 bool FolderLock::isWithoutOwner() const
 {
     qint64 process = 0;

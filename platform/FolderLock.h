@@ -11,16 +11,16 @@
 namespace norvane
 {
 
-/// Held by whatever reads and writes the working files of the program's folder or walks through a database,
-/// for as long as it does so: two programs that exchange at once would mix the data of two shops, and two
-/// collections would store a day twice. The lock is a file, which other machines see too.
+/// Held while working files of the program's folder or all records of a database are read and written: two
+/// exchanges at the same time would mix the data of two shops, and two collections would store a day twice.
+/// The lock is a file, so other machines see it too.
 class FolderLock
 {
 public:
-    /// Takes the lock of @p folder. One whose owner died on this machine is taken over. So is a file
-    /// without a readable owner, which a power cut leaves; a message then says so.
+    /// Takes the lock of @p folder. A lock whose owner died on this machine is taken over. So is a file
+    /// without a readable owner, as a power cut leaves it; a message says so.
     /// @return nullptr when another program, or another window of this one, holds it, or the folder cannot be
-    /// written to; the user was told then.
+    /// written to; a message was shown then.
     [[nodiscard]] static std::unique_ptr<FolderLock> take(const QString& folder, Boxes& boxes);
 
 private:

@@ -22,23 +22,23 @@ struct ScannedNumber {
 /// Larger exponents are cut to this: beyond every number type, and no sum of two overflows.
 inline constexpr int exponentLimit = 9999;
 
-/// The number that @p text begins with, without blanks in front. The exponent letter is E or D and needs
-/// digits behind it.
+/// The number at the start of @p text, leading blanks not allowed. The exponent letter is E or D and must be
+/// followed by digits.
 /// @return nothing when there is no digit.
 [[nodiscard]] std::optional<ScannedNumber> scanNumber(std::string_view text);
 
 /// The number that is all of @p text, white space around it allowed.
 [[nodiscard]] std::optional<ScannedNumber> scanWholeNumber(std::string_view text);
 
-/// The number that @p text begins with. Blanks, tabs and line feeds are passed over wherever they are.
+/// The number at the start of @p text. Blanks, tabs and line feeds are skipped anywhere.
 [[nodiscard]] std::optional<ScannedNumber> scanLeadingNumber(std::string_view text);
 
 /// The nearest double; 0 when the number is too small for one. @return nothing when it is too large.
 [[nodiscard]] std::optional<double> toDouble(const ScannedNumber& number);
 
-/// The whole number that @p text spells with digits and at most a minus in front. Nearly all numbers are
-/// spelled so, and bulk work reads them without a scan.
-/// @return nothing for any other spelling and for a number of more than 64 bits.
+/// The whole number in @p text, written with digits and at most a leading minus. Nearly all numbers are
+/// written so, and bulk work reads them without a scan.
+/// @return nothing for any other form and for a number of more than 64 bits.
 [[nodiscard]] std::optional<std::int64_t> plainWhole(std::string_view text);
 
 } // namespace norvane

@@ -22,7 +22,7 @@ constexpr std::size_t longestNumberText = 400;
 [[noreturn]] void failTypeMismatch(QStringView text)
 {
     throw RuntimeFailure(Failure::TypeMismatch,
-                         QStringLiteral("Type mismatch: \"%1\" is no number").arg(excerpt(text)));
+                         QStringLiteral("Type mismatch: \"%1\" is not a number").arg(excerpt(text)));
 }
 
 [[noreturn]] void failOverflow(QStringView text)
@@ -44,7 +44,7 @@ double toDouble(const ScannedNumber& number, QStringView text)
     return *value;
 }
 
-/// The number's digits before and behind the point, rounded half away from zero.
+/// The number's digits before and after the point, rounded half away from zero.
 struct PlainDigits {
     std::string whole;
     std::string fraction;

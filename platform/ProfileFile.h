@@ -26,13 +26,13 @@ public:
     [[nodiscard]] QString value(QStringView section, QStringView key, const QString& defaultText = {},
                                 int limit = profileValueLimit) const;
 
-    /// The names as they are first spelled, in no order: for readers that tell a misspelt one.
+    /// The names as first written, in no particular order: for readers that report misspelled ones.
     [[nodiscard]] QStringList sections() const;
     [[nodiscard]] QStringList keys(QStringView section) const;
 
-    /// Writes one key at once and keeps every other line, comment and the file's line ends; makes the section
-    /// and the file where they are missing (CR LF).
-    /// @return false when the file cannot be written; the former file is then whole.
+    /// Writes one key immediately and keeps every other line, comment and the file's line ends; creates a
+    /// missing section or file (CR LF).
+    /// @return false when the file cannot be written; the old file is then unchanged.
     static bool write(const QString& path, const QString& section, const QString& key, const QString& value);
 
 private:

@@ -1,4 +1,4 @@
-// Cuts a text into its values; see TextValues.h. A report of all PLUs holds nearly a million.
+// Splits a text into its values; see TextValues.h. A report of all PLUs has nearly a million.
 #include "platform/TextValues.h"
 
 #include <algorithm>

@@ -7,15 +7,15 @@
 namespace norvane
 {
 
-/// The part of a text file that counts: all before the end mark (byte 1A) that old tools write behind the
-/// last line. Only line ends, blanks and further marks may follow it; elsewhere the byte is a character like
-/// any other, and the records behind it count.
+/// The part of a text file before the end mark (byte 1A) that old tools write after the last line. Only line
+/// ends, blanks and further marks may follow it; elsewhere the byte is an ordinary character, and the records
+/// after it count.
 [[nodiscard]] std::string_view withoutEndMark(std::string_view text);
 
 /// Takes one value after another from a text, as views of it; the text must outlive them. Each value comes
-/// trimmed and without the quotes around it. A line end parts two values as a comma does. An opening quote
-/// without a closing one makes one value, quote and all, of the rest. Blank lines at the end and the end mark
-/// are no values.
+/// trimmed and without the quotes around it. A line end separates two values as a comma does. After an
+/// opening quote without a closing one, the rest, quote included, is one value. Blank lines at the end and
+/// the end mark are not values.
 class TextValues
 {
 public:
@@ -27,7 +27,7 @@ public:
 
 private:
     std::string_view m_rest;
-    bool m_valueDue = false; ///< an empty value stands behind a comma that ends the text
+    bool m_valueDue = false; ///< an empty value follows a comma that ends the text
 };
 
 } // namespace norvane

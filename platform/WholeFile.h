@@ -1,4 +1,4 @@
-// Writes a whole file: the former one stays until the new one is complete.
+// Writes a whole file: the old one remains until the new one is complete.
 #pragma once
 
 #include "platform/RuntimeFailure.h"

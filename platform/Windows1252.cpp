@@ -75,7 +75,7 @@ bool isContinuation(unsigned char byte)
     return (byte & 0xC0u) == 0x80;
 }
 
-/// The character of two or three bytes; a register has no longer ones.
+/// Decodes a character of two or three bytes; registers have none that are longer.
 /// @return 0 when the bytes are anything else.
 char32_t shortCharacter(std::string_view utf8)
 {
