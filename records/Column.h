@@ -20,12 +20,12 @@ struct CodeWord {
     std::string sent;
 };
 
-/// A number with places behind the point. The register counts in tenths, hundredths ... of it.
+/// A number with places after the point. The register counts in tenths, hundredths ... of it.
 struct ScaledColumn {
     std::size_t width = 0; ///< characters sent
     std::string field;
-    int scale = 0;        ///< places behind the point
-    bool leading = false; ///< only the number in front is read
+    int scale = 0;        ///< places after the point
+    bool leading = false; ///< only the leading number is read
 
     /// Read, only the number at the beginning counts; without one it is 0.
     [[nodiscard]] ScaledColumn byLeadingNumber() const;
@@ -38,7 +38,7 @@ struct CodeColumn {
     std::vector<CodeWord> words;
 };
 
-/// A number at the left end of its column, zeros behind it, while another field holds a certain kind.
+/// A number at the left end of its column, followed by zeros, while another field has a certain kind.
 struct LeftBoundColumn {
     std::size_t width = 0;
     std::string field;
@@ -59,19 +59,19 @@ struct NumberColumn {
     bool written = true;
     std::string usual{};   ///< is sent as the text below; empty for none
     std::string instead{}; ///< what is sent for the usual text
-    std::string tail{};    ///< sent behind the number
+    std::string tail{};    ///< sent after the number
 
     /// Read, a number is stored with its leading zeros.
     [[nodiscard]] NumberColumn asItStands() const;
-    /// The register counts in tenths, hundredths ... of the stored number, @p places behind the point.
+    /// The register counts in tenths, hundredths ... of the stored number, @p places after the point.
     [[nodiscard]] ScaledColumn scaled(int places) const;
     /// A column that came out as @p usualText is sent as @p otherText instead.
     [[nodiscard]] NumberColumn writtenInstead(const char* usualText, const char* otherText) const;
     /// Sent from one field, read into another.
     [[nodiscard]] NumberColumn readInto(const char* otherField) const;
-    /// Sent with @p literal right behind the number.
+    /// Sent with @p literal right after the number.
     [[nodiscard]] NumberColumn followedBy(const char* literal) const;
-    /// Read, only the first character counts after the leading zeros are gone.
+    /// When read, only the first character after the leading zeros counts.
     [[nodiscard]] NumberColumn firstCharacterOnly() const;
     /// Read, only the first @p characters count, leading zeros included.
     [[nodiscard]] NumberColumn cutTo(std::size_t characters) const;
@@ -92,7 +92,7 @@ struct TextColumn {
     bool stripped = false;
     bool marksKept = false;
     int firstWithheld = 0;
-    std::vector<std::string> withheldTexts{}; ///< of the record firstWithheld and those behind it
+    std::vector<std::string> withheldTexts{}; ///< of the record firstWithheld and those after it
 
     /// A record without a name is named @p text and the line number, cut to the field.
     [[nodiscard]] TextColumn namedByDefault(const char* text) const;
@@ -117,7 +117,7 @@ struct OptionsColumn {
     bool isBare = false;
     std::string numberField{}; ///< read as a number into this field; empty when the digits are read
 
-    /// Read, only the first character behind the leading zeros counts, and only 4 and 2. It is the left
+    /// When read, only the first character after the leading zeros counts, and only 4 and 2. It is the left
     /// digit.
     [[nodiscard]] OptionsColumn firstCharacterOnly() const;
     /// Sent as the number that they make, without a leading zero.
@@ -141,11 +141,11 @@ struct HexByteColumn {
 /// Two characters of a number that is sent in several columns. Read, the pieces are joined, from place 0 on.
 struct PieceColumn {
     std::string field;
-    std::string pattern; ///< to which the number is brought
+    std::string pattern; ///< format of the number
     int place = 0;       ///< in the number, from its end when negative
-    std::string point{}; ///< stands before this piece when the pieces are joined
+    std::string point{}; ///< placed before this piece when the pieces are joined
 
-    /// Joined with @p between in front.
+    /// Joined with @p between before it.
     [[nodiscard]] PieceColumn joinedBy(const char* between) const;
 };
 
@@ -159,7 +159,7 @@ using Column =
                  OptionsColumn, SymbolColumn, HexByteColumn, PieceColumn, SpareColumn>;
 
 [[nodiscard]] NumberColumn number(std::size_t width, const char* field);
-/// A number with two places behind the point, sent in hundredths.
+/// A number with two places after the point, sent in hundredths.
 [[nodiscard]] ScaledColumn money(std::size_t width, const char* field);
 [[nodiscard]] TextColumn text(std::size_t width, const char* field);
 [[nodiscard]] OptionsColumn options(std::vector<DigitPart> left, std::vector<DigitPart> right = {});

@@ -86,7 +86,7 @@ private:
                 [&] { (this->*store)(line, number); });
     }
 
-    /// Where a failure happened, for the user. A record that could not be stored has no column.
+    /// Where a failure happened, for the user. A record that could not be stored names no column.
     [[nodiscard]] QString placeOf(qint64 line) const
     {
         const QString place = u"%1, line %2"_s.arg(textName(m_file)).arg(line);
@@ -175,12 +175,12 @@ bool mayPartColumns(const RegisterFile& file, const std::string& textWithComma, 
 {
     return textWithComma.empty() ||
            askBeforeLoss(
-               boxes,
-               u"The text \"%1\" holds a comma. Commas part the columns of %2, so that what follows would "
-               u"reach the registers as another value, such as a price.\r\r"
-               u"To keep the registers as they are, answer No, take the comma out and send again.\r\r"
-               u"Send all the same?"_s.arg(QString::fromStdString(plainFromRegister(textWithComma)),
-                                           textName(file)));
+               boxes, u"The text \"%1\" contains a comma. Commas separate the columns of %2, so that what "
+                      u"follows would "
+                      u"reach the registers as another value, such as a price.\r\r"
+                      u"To keep the registers as they are, answer No, take the comma out and send again.\r\r"
+                      u"Send all the same?"_s.arg(QString::fromStdString(plainFromRegister(textWithComma)),
+                                                  textName(file)));
 }
 
 bool isEmpty(const RegisterFile& file, const QString& databasePath)
@@ -199,7 +199,7 @@ void importText(const RegisterFile& file, store::Database& database, ImportCount
 {
     store::Recordset records = database.openTable(QLatin1String(file.table));
     records.setIndex(QLatin1String(file.index));
-    // The table is emptied before the text is looked for: without a text it stays empty.
+    // The table is emptied before the text is opened: if there is no text, it remains empty.
     if (file.upload == Upload::ReplacesTable)
         counts.former = database.execute(u"delete * from %1"_s.arg(QLatin1String(file.table)));
     const QByteArray content = readWholeFile(textName(file));

@@ -41,34 +41,35 @@ struct ProcedureContext {
 /// What a File... procedure has done. Unless it stored the file, the table is untouched.
 enum class Imported {
     File,
-    Refused, ///< the user does not want the text that a failed conversion left
+    Refused, ///< the user rejected the text left by a failed conversion
     TooFew,  ///< the user keeps the table, which has more records than the text
 };
 
 /// The File... procedure of a register file: converts NN.dat to NN.txt in the working directory, empties the
 /// table and stores a record for each line, from the first to the end of the file. File 71 empties nothing
-/// and changes the PLUs that it names. All in one transaction: when a failure ends it the user is asked
-/// whether what was read stays, see importOrPutBack().
+/// and changes the PLUs that it names. All of it is one transaction: after a failure the user is asked
+/// whether to keep what was read, see importOrPutBack().
 /// Asks before a table of 20 records or more is replaced by a text with none, with fewer than half of them,
 /// or with a last line that is cut off.
-/// @throws RuntimeFailure 53 when NN.txt is missing: nothing was read then; for a bad line what
-/// RecordReader::read and Recordset::update throw, its text naming file, line and column.
+/// @throws RuntimeFailure with Failure::FileNotFound when NN.txt is missing: nothing was read then; for a bad
+/// line what RecordReader::read and Recordset::update throw, its text naming file, line and column.
 Imported importRegisterFile(int file, const ProcedureContext& context);
 
 /// What a Write... procedure has made.
 enum class Exported {
     Nothing,
     File,
-    Refused, ///< the user does not want a text with a comma, or the file that a failed conversion left
+    Refused, ///< the user rejected a text with a comma, or the file left by a failed conversion
 };
 
 /// The Write... procedure: makes NN.txt in the program's folder from all records of the table in the order of
 /// the file's index, then converts it to NN.dat. A comma in a text would move the columns behind it, so the
 /// user is asked then.
-/// @return Nothing when the table is empty and the file is one that is passed over then; no file is touched.
-/// @throws RuntimeFailure 3021 when the table is empty and the file is not passed over, with NN.txt emptied;
-/// 75 when NN.txt cannot be opened, 61 when the disk is full; what GetModelCode() throws, and for the
-/// function keys, file 2, what GetFirmwareGeneration() throws.
+/// @return Nothing if the table is empty and the file is skipped in that case; no file is touched.
+/// @throws RuntimeFailure with Failure::NoCurrentRecord if the table is empty and the file is not skipped;
+/// NN.txt is then empty; Failure::PathOrFileAccess if NN.txt cannot be opened, Failure::DiskFull if the disk
+/// is full; what GetModelCode() throws, and for the function keys, file 2, what GetFirmwareGeneration()
+/// throws.
 Exported exportRegisterFile(int file, const ProcedureContext& context);
 
 } // namespace norvane::records

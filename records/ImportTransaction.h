@@ -1,4 +1,4 @@
-// Asks the user what becomes of the tables when an import fails.
+// Asks the user whether to keep or restore the tables when an import fails.
 #pragma once
 
 #include "platform/Boxes.h"
@@ -9,11 +9,11 @@
 namespace norvane::records
 {
 
-/// Runs @p import in the open @p transaction. When a failure passes through it, asks whether to keep what was
-/// read: the box shows the failure and then what @p question gives, which is called only then; empty text
-/// asks nothing. No, the preset answer, puts the tables back as they were; Yes calls @p commit, which commits
-/// the transaction. The failure passes on in either case. Without one the transaction stays open for the
-/// caller to commit. A process that is killed keeps nothing.
+/// Runs @p import in the open @p transaction. On a failure, asks whether to keep what was read: the box shows
+/// the failure and then the text of @p question, which is called only then; empty text asks nothing. No, the
+/// default, restores the tables; Yes calls @p commit, which commits the transaction. The failure is rethrown
+/// in either case. Without a failure the transaction remains open for the caller to commit. A killed process
+/// keeps nothing.
 void importOrPutBack(store::Transaction& transaction, Boxes& boxes, const std::function<QString()>& question,
                      const std::function<void()>& import, const std::function<void()>& commit);
 /// The same with a plain commit.

@@ -59,7 +59,7 @@ const RecordLayout& numberLookUpLayout()
     return layout;
 }
 
-/// File 57. An entry of type 2 is a function; its short number stands at the left.
+/// File 57. An entry of type 2 is a function; its short number is at the left.
 const RecordLayout& windowLookUpLayout()
 {
     static const RecordLayout layout{"WLUno", {

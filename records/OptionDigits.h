@@ -22,7 +22,7 @@ public:
     DigitPart(int weight, const char* field);
     DigitPart(const char* field, std::vector<DigitChoice> choices);
 
-    /// The register answers at another place.
+    /// The register returns it in another column.
     [[nodiscard]] DigitPart readBy(int selector) const;
     /// The answer goes into another field than the one that is sent.
     [[nodiscard]] DigitPart readInto(const char* field) const;

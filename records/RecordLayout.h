@@ -1,6 +1,6 @@
-// How the columns of a register record stand for the fields of a table: one list of columns for each register
-// file, read by RecordReader in one direction and by RecordWriter in the other. There is no second list for
-// the way back.
+// How the columns of a register record map to the fields of a table: one list of columns for each register
+// file, read by RecordReader in one direction and by RecordWriter in the other. The same list serves both
+// directions.
 #pragma once
 
 #include "records/Column.h"
@@ -36,7 +36,7 @@ struct ColumnGroup {
 struct ColumnSet {
     ColumnSet(std::vector<int> recordNumbers, const std::vector<ColumnGroup>& groups);
 
-    std::vector<int> records; ///< empty for all that no other set names
+    std::vector<int> records; ///< empty for all records that no other set names
     std::vector<Column> columns;
 };
 

@@ -1,5 +1,5 @@
-// Converts the columns of a record; see RecordReader.h. An import of all PLUs passes some two million columns
-// through here, so the usual column is converted without a detour.
+// Converts the columns of a record; see RecordReader.h. An import of all PLUs converts some two million
+// columns here, so the usual column takes a short path.
 #include "records/RecordReader.h"
 
 #include "base/FieldText.h"
@@ -41,8 +41,9 @@ Value numberValue(FieldType type, std::string_view text)
 
 [[noreturn]] void failNoNumber(std::string_view text)
 {
-    throw RuntimeFailure(Failure::TypeMismatch,
-                         QStringLiteral("Type mismatch: \"%1\" is no number").arg(shownFromRegister(text)));
+    throw RuntimeFailure(
+        Failure::TypeMismatch,
+        QStringLiteral("Type mismatch: \"%1\" is not a number").arg(shownFromRegister(text)));
 }
 
 /// A register fills columns that it does not use with blanks: they are 0 as an empty column is.
@@ -90,7 +91,7 @@ std::string hexByte(std::string_view text)
     return {digits[(byte >> 4U) & digitMask], digits[byte & digitMask]};
 }
 
-/// The choice digit that the column begins with behind its zeros; any other character is no choice.
+/// The choice digit after the column's leading zeros; any other character is not a choice.
 std::array<int, 2> firstDigit(std::string_view text)
 {
     const char first = StripLeadingZero(text).front();
@@ -228,7 +229,7 @@ void RecordReader::store(const OptionsColumn& column, const Step& step, std::str
         storeDigit(digit, digits.at(digit.place), text);
 }
 
-/// A symbol is kept as its code, the register's own mark as that of the "^" that stands for it.
+/// A symbol is stored as its code, the register's mark as the code of "^".
 void RecordReader::store(const SymbolColumn& /*column*/, const Step& step, std::string_view text)
 {
     const auto code = static_cast<unsigned char>(StripLeadingZero(text).front());

@@ -17,18 +17,18 @@ namespace norvane::records
 class RecordReader
 {
 public:
-    /// @throws RuntimeFailure 3265 when the table lacks a field of the layout.
+    /// @throws RuntimeFailure with Failure::UnknownName if the table lacks a field of the layout.
     RecordReader(const RecordLayout& layout, store::Recordset& records);
 
     /// Stores all columns of @p line (bytes of the register, no line end) in the layout's order; of two
     /// columns for one field the later counts. A missing column of a number stores 0, of option digits clears
     /// them, of a text stores an empty text; a number column of blanks alone stores 0.
     /// @param lineNumber counts from 1.
-    /// @throws RuntimeFailure 13 for option digits, a scaled number or a byte that are none, 3163 for a
-    /// column that no register could send, and what Recordset::setValue throws.
+    /// @throws RuntimeFailure with Failure::TypeMismatch for invalid option digits, scaled numbers or bytes,
+    /// Failure::TextTooLong for a column that no register could send, and what Recordset::setValue throws.
     void read(std::string_view line, std::int64_t lineNumber);
 
-    /// The column, from 1, in which the reading of a line failed; 0 when no line stands half read.
+    /// The column, from 1, in which the reading of a line failed; 0 if no line is partly read.
     [[nodiscard]] int column() const { return m_column; }
 
 private:
@@ -46,7 +46,7 @@ private:
         const Column* column;
         bool rereads = false; ///< takes the text of the column before
         Target target;
-        Target kind; ///< field that tells what kind of number the column holds
+        Target kind; ///< field with the kind of number in the column
         std::vector<Digit> digits;
     };
 

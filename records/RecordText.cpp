@@ -72,7 +72,7 @@ std::array<int, 2> optionDigits(std::string_view column)
     const std::string digits = formatNumber(shown, u"00").toStdString();
     if (!isDigit(digits[0])) {
         throw RuntimeFailure(Failure::TypeMismatch,
-                             u"Type mismatch: \"%1\" are no option digits"_s.arg(shownFromRegister(column)));
+                             u"Type mismatch: \"%1\" are not option digits"_s.arg(shownFromRegister(column)));
     }
     return {digits[0] - '0', digits[1] - '0'};
 }

@@ -24,33 +24,33 @@ public:
 private:
     std::string_view m_text;
     std::size_t m_at = 0;
-    std::size_t m_lineFeed = 0; ///< where the first line feed stands behind the lines taken so far
+    std::size_t m_lineFeed = 0; ///< position of the first line feed after the lines taken so far
 };
 
-/// Takes the next column off @p line. There is no quoting: a comma always ends a column. Columns beyond the
-/// end of a line are empty.
+/// Takes the next column from @p line. Columns are never quoted: a comma always ends a column. Columns beyond
+/// the end of a line are empty.
 [[nodiscard]] std::string_view takeField(std::string_view& line);
 
 /// While the trimmed text begins with a zero, it is replaced by the trimmed text without that zero. Blanks
-/// around a text that begins with anything else stay. @return "0" when nothing is left; a text of blanks
-/// alone as it is.
+/// around any other text are kept. @return "0" when nothing is left; a text of blanks alone as it is.
 [[nodiscard]] std::string_view StripLeadingZero(std::string_view text);
 
-/// A register's columns are short. @throws RuntimeFailure 3163 for one that is longer than any could be: the
-/// file is damaged, and converting it would take many times its memory.
+/// Checks that a column has a length that a register can send. @throws RuntimeFailure with
+/// Failure::TextTooLong for one that is longer than any could be: the file is damaged, and converting it
+/// would take many times its memory.
 void checkLength(std::string_view column);
 
 /// The two digits of an option column, 0 to 9 each, after the text was brought to two digits ("4" is 0 and
-/// 4). Empty text counts as "00". @throws RuntimeFailure 13 for anything that does not give two digits.
+/// 4). Empty text counts as "00". @throws RuntimeFailure with Failure::TypeMismatch for anything else.
 [[nodiscard]] std::array<int, 2> optionDigits(std::string_view column);
 
 /// A text column as the database holds it: UTF-8, the register's own mark shown as "^".
 [[nodiscard]] std::string textFromRegister(std::string_view bytes);
 
-/// A column in a message, which shows no more than the beginning of a long one.
+/// A column as shown in a message: only the beginning of a long one.
 [[nodiscard]] QString shownFromRegister(std::string_view bytes);
 
-/// A column whose text passes as it is, without regard to the register's mark.
+/// A column whose text is copied unchanged; the register's mark is not converted.
 [[nodiscard]] std::string plainFromRegister(std::string_view bytes);
 
 } // namespace norvane::records

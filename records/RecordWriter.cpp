@@ -268,7 +268,7 @@ void RecordWriter::append(std::string& out, const OptionsColumn& column, const S
     }
 }
 
-/// A code that stands for no character of the register is sent as blanks.
+/// A code without a character on the register is sent as blanks.
 void RecordWriter::append(std::string& out, const SymbolColumn& /*column*/, const Step& step) const
 {
     const int code = roundHalfEven(m_records.value(step.ordinal).toNumber());

@@ -25,20 +25,22 @@ struct RegisterTraits {
 class RecordWriter
 {
 public:
-    /// @throws RuntimeFailure 3265 when the table lacks a field of the layout, and what @p traits throw.
+    /// @throws RuntimeFailure with Failure::UnknownName if the table lacks a field of the layout, and what @p
+    /// traits throw.
     RecordWriter(const RecordLayout& layout, const store::Recordset& records, RegisterTraits traits);
 
     /// Appends the current record's line in the register's character set, closed by CR LF. Null counts as
     /// empty: zeros in a number column, blanks in a text column. The lines are counted: some records have
     /// columns of their own.
-    /// @throws RuntimeFailure 3021 without a current record, 6 for a scaled number of more than 18 digits.
+    /// @throws RuntimeFailure with Failure::NoCurrentRecord without a current record, Failure::Overflow for a
+    /// scaled number of more than 18 digits.
     void appendLine(std::string& out);
 
     /// Ordinals of the fields that lines are made from; the others need not be read.
     [[nodiscard]] const std::vector<int>& fields() const { return m_fields; }
 
-    /// The first text with a comma that the lines hold so far, in the register's character set; empty without
-    /// one. A comma ends a column wherever it stands, so that the rest of the line moves on by a column.
+    /// The first text with a comma in the lines so far, in the register's character set; empty if there is
+    /// none. A comma always ends a column, so the rest of the line moves by one column.
     [[nodiscard]] const std::string& textWithComma() const { return m_textWithComma; }
 
 private:
@@ -49,7 +51,7 @@ private:
     struct Step {
         const Column* column;
         int ordinal;
-        int kindOrdinal; ///< of the field that tells what kind of number the column holds
+        int kindOrdinal; ///< of the field with the kind of number in the column
         std::array<std::vector<Digit>, 2> digits;
     };
 

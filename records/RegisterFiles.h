@@ -1,5 +1,5 @@
-// The catalogue of the register files that have a text form: which table stands behind a file, which
-// procedures move it and how.
+// The catalogue of the register files that have a text form: the table of each file, the procedures that move
+// it and how.
 #pragma once
 
 #include "records/RecordLayout.h"
@@ -18,7 +18,7 @@ enum class Upload {
 
 /// What a download does when the table has no records.
 enum class EmptyTable {
-    Fails, ///< with failure 3021
+    Fails, ///< with Failure::NoCurrentRecord
     Skips, ///< no file is touched and nothing is converted
 };
 

@@ -6,8 +6,8 @@ namespace norvane::records
 
 // clang-format off
 
-/// File 29. From the fourth column on the register answers one column later than it is told, and its answer
-/// ends with the eighth: whatever is told behind that takes over the eighth.
+/// File 29. From the fourth column on the register returns each value one column later than it was sent, and
+/// its answer ends with the eighth column: any value sent after that replaces the eighth.
 const RecordLayout& taxRateLayout()
 {
     static const RecordLayout layout{"ID", {
@@ -27,7 +27,7 @@ const RecordLayout& taxRateLayout()
     return layout;
 }
 
-/// File 15. Three decimal places are told as 6, which is never found again: they come back as two.
+/// File 15. Three decimal places are sent as 6, which the register does not return: they come back as two.
 const RecordLayout& serviceModeLayout()
 {
     static const RecordLayout layout{"", {

@@ -6,7 +6,7 @@ namespace norvane::records
 
 // clang-format off
 
-/// File 63. The key that an employee holds against the register is told byte by byte.
+/// File 63. The employee's electronic key is sent byte by byte.
 const RecordLayout& employeeLayout()
 {
     static const RecordLayout layout{"ID", {

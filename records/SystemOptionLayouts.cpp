@@ -7,7 +7,8 @@ namespace norvane::records
 
 // clang-format off
 
-/// File 3. The register answers the start cursor and the sign-on method at other places than it takes them.
+/// File 3. The register returns the start cursor and the sign-on method in other columns than it receives
+/// them.
 const RecordLayout& generalOptionLayout()
 {
     static const RecordLayout layout{"ID", {

@@ -22,7 +22,7 @@ struct LogoConversion {
 
 [[nodiscard]] std::span<const LogoConversion> logoConversions();
 
-/// Tells what the images must be like, then runs the converter from the program's folder with @p runAndWait,
+/// Shows what the images must be like, then runs the converter from the program's folder with @p runAndWait,
 /// which waits until the user closes it. Nothing happens after the notice when the converter is missing.
 void convertLogoImages(const LogoConversion& conversion, const ApplicationValues& values, Boxes& boxes,
                        const std::function<ChildResult(const QString& commandLine)>& runAndWait);

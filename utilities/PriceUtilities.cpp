@@ -201,7 +201,7 @@ bool PriceRun::isChanged()
     return isDone;
 }
 
-/// The lock ends with it, so that the box afterwards stops no other run however long it stays open.
+/// The lock is released with it, so that the box shown next blocks no other run, however long it stays open.
 bool PriceRun::changesAlone()
 {
     const auto lock = customers::RunLock::take(m_values, m_boxes);

@@ -1,4 +1,4 @@
-// The entries of the Utilities menu: what each asks, does and tells.
+// The entries of the Utilities menu: what each asks, does and reports.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -45,10 +45,10 @@ struct WalkFrame {
     std::function<void(const QString& text)> showNotice;
 };
 
-/// Asks (Enter means No), changes the database in use and reports success. Also asks before it takes a rate
+/// Asks (Enter means No), changes the database in use and reports success. Also asks before it uses a rate
 /// that is only the beginning of what was typed. Changes nothing after No, for a rate of 0, or while another
 /// run holds the program's folder. Holds the lock of a run between the last answer and the last box only.
-/// @throws RuntimeFailure what the database reports; the changes before it stay.
+/// @throws RuntimeFailure as the database reports; the changes before it remain.
 void runPriceUtility(const PriceUtility& utility, const ApplicationValues& values, Boxes& boxes,
                      const WalkFrame& frame);
 

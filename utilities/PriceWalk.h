@@ -24,9 +24,10 @@ struct PricePair {
 /// index plunumber: with the source converted at @p rate, or with the source itself without a rate. Calls
 /// @p everyRow before each record.
 ///
-/// One transaction, which a failure commits too: the records before it stay changed. Until then other
+/// One transaction, which a failure commits too: the records before it remain changed. Until then other
 /// connections cannot write, and sometimes not read.
-/// @return the number of records. @throws RuntimeFailure 3021 when there are no records.
+/// @return the number of records. @throws RuntimeFailure with Failure::NoCurrentRecord if there are no
+/// records.
 qint64 transferPrices(store::Database& database, store::Recordset& plus, std::span<const PricePair> fields,
                       const std::optional<Decimal>& rate, const std::function<void()>& everyRow);
 

@@ -49,7 +49,7 @@ TEST(FileProceduresTest, AsksBeforeATextWithACommaPartsTheColumns)
         shop.boxes.answers = {false, true};
         EXPECT_EQ(exportRegisterFile(file, shop.context()), Exported::Refused);
         EXPECT_TRUE(shop.commands.isEmpty()) << file;
-        EXPECT_TRUE(shop.boxes.shown.back().text.startsWith(u"The text \"Cola 0,2 l\" holds a comma."));
+        EXPECT_TRUE(shop.boxes.shown.back().text.startsWith(u"The text \"Cola 0,2 l\" contains a comma."));
         EXPECT_EQ(exportRegisterFile(file, shop.context()), Exported::File);
         EXPECT_EQ(shop.commands.size(), 1) << file;
     }
