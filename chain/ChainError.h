@@ -9,7 +9,7 @@ namespace norvane::chain
 {
 
 enum class ChainFailure {
-    BadConnection, ///< the text is no connection
+    BadConnection, ///< the text is not a connection string
     Unreachable,   ///< no server there, no such database, or it refused the login
     WentAway,      ///< in the middle of the work
     NoRights,

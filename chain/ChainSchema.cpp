@@ -74,7 +74,7 @@ std::vector<std::string> tableStatements()
     return all;
 }
 
-/// What brings a schema from the version before to the next, the first one from nothing to version 1.
+/// Each step upgrades a schema by one version; the first creates version 1.
 using SchemaStep = std::vector<std::string> (*)();
 constexpr auto steps = std::to_array<SchemaStep>({tableStatements, viewStatements});
 constexpr int currentVersion = static_cast<int>(steps.size());
@@ -110,7 +110,7 @@ void makeSchema(pqxx::work& work)
 
 int versionOf(pqxx::work& work)
 {
-    // With the schema's name, so that who may not use it is told so.
+    // Names the schema, so that a user without rights to it sees which one.
     return work.exec1("SELECT max(version) FROM " + std::string(schemaName) + '.' + versionTable)[0]
         .as<int>();
 }
@@ -204,7 +204,7 @@ void makePartitions(Server& server, QDate day)
     });
     if (missing.empty())
         return;
-    // A transaction of its own: until its end nobody else can write to the tables.
+    // A separate transaction: until it ends nobody else can write to the tables.
     server.transact([&](pqxx::work& work) {
         lockSchema(work);
         for (const std::string& statement : missing)

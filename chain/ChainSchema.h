@@ -12,7 +12,7 @@
 namespace norvane::chain
 {
 
-/// Makes the schema where there is none and brings an older one up to date.
+/// Creates the schema if there is none and upgrades an older one.
 /// @throws ChainError NoRights; Unfit for a schema of a later program.
 void prepareSchema(Server& server);
 
@@ -23,7 +23,7 @@ void makePartitions(Server& server, QDate day);
 /// The statements that make the views.
 [[nodiscard]] std::vector<std::string> viewStatements();
 
-/// Waits for whoever changes the schema; held to the end of the transaction.
+/// Waits for other changes of the schema to end; held until the transaction ends.
 void lockSchema(pqxx::work& work);
 
 } // namespace norvane::chain

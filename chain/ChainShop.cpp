@@ -69,8 +69,8 @@ void rename(pqxx::work& work, const ShopFolder& folder, const Shop& shop, bool a
                       folder.name.toStdString(), foldedName(folder), shop.number);
 }
 
-/// The folder's own id, a new one for a folder that has none. It is kept first: were it lost, the next run
-/// would take the shop for another.
+/// The folder's own id, a new one for a folder that has none. It is stored first: if it were lost, the next
+/// run would treat the shop as another.
 std::string ownId(const ShopFolder& folder, QString id)
 {
     if (QUuid::fromString(id).isNull()) {
@@ -80,16 +80,15 @@ std::string ownId(const ShopFolder& folder, QString id)
     return id.toStdString();
 }
 
-/// The shop of the folder's name has another id: it is of another machine, or the folder was made anew. From
-/// now on the shop is known by the id of this one, so that the former folder, wherever it is, cannot write
-/// over its days.
+/// The shop of the folder's name has another id: it belongs to another machine, or the folder was recreated.
+/// From now on the shop has the id of this folder, so that the former folder cannot overwrite its days.
 void takeOver(pqxx::work& work, const ShopFolder& folder, const QString& id, const Shop& shop,
               const Server& server, bool adopt)
 {
     if (!adopt) {
         failOther(
             u"The shop \"%1\" was published from another folder (%2): rename one of the two, or, if this "
-            "folder goes on with that shop, publish it with --adopt."_s.arg(shop.name, server.where()));
+            "folder continues that shop, publish it with --adopt."_s.arg(shop.name, server.where()));
     }
     work.exec_params0("UPDATE shops SET folder_id = $1 WHERE shop = $2", ownId(folder, id), shop.number);
 }
@@ -127,7 +126,7 @@ int findShop(Server& server, const ShopFolder& folder, bool adopt)
 {
     int shop = 0;
     server.transact([&](pqxx::work& work) {
-        // Two first publications at once would give one name twice.
+        // Two simultaneous first publications would use a name twice.
         lockSchema(work);
         shop = shopOf(work, folder, server, adopt);
     });
@@ -151,7 +150,7 @@ ShopLock::~ShopLock()
         m_server.transact(
             [this](pqxx::work& work) { work.exec1("SELECT pg_advisory_unlock(" + m_key + ")"); });
     } catch (const ChainError&) {
-        // Without the connection the lock is gone.
+        // If the connection is lost, so is the lock.
     }
 }
 

@@ -34,7 +34,7 @@ public:
     ShopLock(const ShopLock&) = delete;
     ShopLock& operator=(const ShopLock&) = delete;
 
-    /// Takes the lock once more to the end of a transaction, for the connection may have been made anew.
+    /// Takes the lock once more until the end of a transaction: the connection may be a new one.
     /// @throws ChainError Busy.
     void holdIn(pqxx::work& work) const;
 

@@ -42,7 +42,7 @@ constexpr ChainColumn pluNames[] = {
 };
 constexpr ChainColumn groupNames[] = {{"GROUPNO", "group_no", Content::Whole},
                                       {"DESCRIPTION", "description", Content::Text}};
-/// Their names alone: codes and pay rates stay in the shop.
+/// Only their names: codes and pay rates remain in the shop.
 constexpr ChainColumn employeeNames[] = {{"ID", "employee", Content::Whole},
                                          {"DESCRIPTION", "name", Content::Text}};
 constexpr ChainColumn timeNames[] = {{"id", "period", Content::Whole},

@@ -8,9 +8,9 @@
 namespace norvane::chain
 {
 
-/// Rows that are spelled as COPY reads them already, with line ends between. The library's stream spells each
-/// value of a tuple, whose length must be known to the compiler, and sends every row as a message of its own;
-/// years of sales would take twice as long so.
+/// Rows that are already in the format that COPY reads, with line ends between. The library's stream formats
+/// each value of a tuple, whose length must be known to the compiler, and sends every row as a separate
+/// message; years of sales would take twice as long.
 struct CopyLines {
     const std::string& text;
 };
@@ -32,7 +32,7 @@ public:
 
     /// Every row that follows begins with these values: the shop, or shop and day.
     void setLeading(const std::string& values) { m_leading = values; }
-    /// @p rest is what readDay() and readNames() hand on.
+    /// @p rest is what readDay() and readNames() pass on.
     void add(const std::string& rest)
     {
         if (!m_lines.empty())

@@ -149,7 +149,7 @@ void ShopPublisher::removeDays(pqxx::work& work, const QList<QDate>& days) const
     remove("published_days");
 }
 
-/// Reads the days and sends them on at once: they never stand in memory.
+/// Sends the days while reading them: they are never all in memory.
 void ShopPublisher::copyTable(pqxx::work& work, std::size_t table, const QList<QDate>& days,
                               std::map<QDate, qint64>& rows)
 {

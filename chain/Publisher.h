@@ -1,4 +1,4 @@
-// Brings what a shop has sold, and what its numbers mean, into the PostgreSQL of its chain.
+// Copies a shop's sales, and the names of its numbers, to the PostgreSQL of its chain.
 #pragma once
 
 #include "chain/ChainShop.h"
@@ -13,17 +13,17 @@
 namespace norvane::chain
 {
 
-/// What becomes of days that are published and that the shop no longer has.
+/// What to do with published days that the shop no longer has.
 enum class Vanished {
-    Ask,   ///< they stay, and the next publication tells of them again
-    Keep,  ///< they stay for good
+    Ask,   ///< they remain, and the next publication reports them again
+    Keep,  ///< they remain and are no longer reported
     Remove ///< they go
 };
 
 struct PublishOptions {
     Vanished vanished = Vanished::Ask;
     bool adopt = false;                              ///< see findShop()
-    std::function<void(const QString& text)> step{}; ///< told before each month
+    std::function<void(const QString& text)> step{}; ///< called before each month
 };
 
 struct Published {
@@ -32,15 +32,15 @@ struct Published {
     int same = 0;
     QList<QDate> vanished;     ///< published days that the shop no longer has
     QStringList vanishedNames; ///< tables of names that are published and empty in the shop
-    int heldBack = 0;          ///< days that differ and stay as published because others vanished
+    int heldBack = 0;          ///< days that differ and remain as published because others vanished
 };
 
-/// Publishes names and all days that are new or changed, month by month: a month is published wholly or not
-/// at all, so that one that was cut off goes on where it stopped.
+/// Publishes names and all days that are new or changed, month by month: a month is published completely or
+/// not at all, so that an interrupted publication continues where it stopped.
 ///
-/// A shop whose sales were reset has lost days. Those that are published stay, and so do those that differ,
-/// for the day of the reset itself may have lost its morning; what becomes of them @p options tell.
-/// @throws ChainError; RuntimeFailure as the customer's database reports. What was published before stays.
+/// A shop whose sales were reset has lost days. Published days remain, and so do days that differ, because
+/// the day of the reset may have lost its morning; @p options says what to do with them.
+/// @throws ChainError; RuntimeFailure as the customer's database reports. What was published before remains.
 Published publishShop(Server& server, const ShopFolder& folder, const PublishOptions& options);
 
 } // namespace norvane::chain

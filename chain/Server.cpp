@@ -30,9 +30,10 @@ Options parsed(const QString& connection)
     // The library's own sentence quotes the text, and with it a password.
     PQfreemem(error);
     if (options == nullptr) {
-        throw ChainError(ChainFailure::BadConnection,
-                         u"The text behind --to is no connection such as \"host=db.example dbname=chain\" or "
-                         "\"postgresql://db.example/chain\"."_s);
+        throw ChainError(
+            ChainFailure::BadConnection,
+            u"The value of --to is not a connection string such as \"host=db.example dbname=chain\" or "
+            "\"postgresql://db.example/chain\"."_s);
     }
     return options;
 }
@@ -108,7 +109,7 @@ void Server::checkEncoding()
     transact([&](pqxx::work& work) { encoding = work.exec1("SHOW server_encoding")[0].as<std::string>(); });
     if (encoding != "UTF8") {
         throw ChainError(ChainFailure::Unfit,
-                         u"The encoding %1 cannot hold the names of all PLUs (%2): make the database with "
+                         u"The encoding %1 cannot hold the names of all PLUs (%2): create the database with "
                          "ENCODING 'UTF8'."_s.arg(QString::fromStdString(encoding), m_where));
     }
 }
@@ -120,7 +121,7 @@ void Server::transact(const std::function<void(pqxx::work&)>& work)
         work(transaction);
         transaction.commit();
     } catch (const pqxx::insufficient_privilege& error) {
-        fail(ChainFailure::NoRights, u"The rights do not suffice"_s, error.what());
+        fail(ChainFailure::NoRights, u"The rights are insufficient"_s, error.what());
     } catch (const pqxx::sql_error& error) {
         if (isFarewell(error))
             failGone(error.what());
@@ -144,7 +145,7 @@ QString Server::user() const
 
 void Server::failGone(const char* what) const
 {
-    fail(ChainFailure::WentAway, u"PostgreSQL went away"_s, what);
+    fail(ChainFailure::WentAway, u"The connection to PostgreSQL was lost"_s, what);
 }
 
 void Server::fail(ChainFailure failure, const QString& sentence, const char* what) const

@@ -12,7 +12,7 @@ namespace norvane::chain
 
 /// Where the tables are.
 inline constexpr const char* schemaName = "norvane";
-/// Of the advisory locks: this number and that of the shop, 0 for the schema itself.
+/// First key of the advisory locks; the second is the shop's number, 0 for the schema itself.
 inline constexpr int lockFamily = 0x4E76;
 
 class Server

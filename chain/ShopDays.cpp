@@ -15,7 +15,7 @@ namespace norvane::chain
 namespace
 {
 
-/// Of a table that has no sales of the day.
+/// The digest of a table without sales of the day.
 constexpr const char* noRows = "-";
 
 QDate dayOf(const pqxx::field& field)

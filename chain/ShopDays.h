@@ -16,14 +16,14 @@ namespace norvane::chain
 /// A day as it is published.
 struct PublishedDay {
     std::string digest;
-    bool isKept = false; ///< the user wants it to stay as it is
+    bool isKept = false; ///< the user wants to keep it as it is
 };
 using PublishedDays = std::map<QDate, PublishedDay>;
 
 [[nodiscard]] PublishedDays publishedDays(Server& server, int shop);
 
-/// The days that any sales table of a customer holds. What a day holds is told by a digest that lies with the
-/// sales and goes with any change of them, so that years are compared without reading them.
+/// The days in any sales table of a customer. Each day is compared by a digest that is stored beside the
+/// sales and dropped with any change of them, so that years are compared without reading them.
 class ShopDays
 {
 public:
@@ -36,8 +36,8 @@ public:
     [[nodiscard]] std::string digestOf(QDate day);
     /// What was just read of a day, by the order of salesTables().
     void setDigest(QDate day, std::size_t table, const std::string& digest);
-    /// Writes the digests that are new beside the sales. Once anybody has changed the file since this was
-    /// made, and when it cannot be written, it keeps none: the next run reads these days once more.
+    /// Writes the digests that are new beside the sales. Writes none if the file has changed since this
+    /// object was created or cannot be written: the next run then reads these days again.
     void keep();
 
 private:

@@ -19,7 +19,7 @@ namespace
 
 using store::Value;
 
-/// Stands before a digest. Change it with anything that changes what is read.
+/// Prefix of a digest. Change it with anything that changes what is read.
 constexpr const char* digestForm = "2:";
 
 std::string quoted(const std::string& field)
@@ -40,7 +40,7 @@ QString trimmed(const Value& value)
     return QString::fromStdString(withoutNulls(value)).trimmed();
 }
 
-/// Registers spell a time as hhmm, with or without the zeros in front.
+/// Registers write a time as hhmm, with or without leading zeros.
 QString timeText(const Value& value)
 {
     constexpr int digits = 4;

@@ -26,7 +26,7 @@ struct ReadRows {
 /// All days of which the table holds sales, without reading the rows of them.
 [[nodiscard]] std::set<QDate> daysOf(store::Database& database, const SalesTable& table);
 
-/// Reads the items of a day in the order of their numbers, the collections of the day added up exactly.
+/// Reads the items of a day in the order of their numbers, the collections of the day added exactly.
 /// @throws RuntimeFailure as the database reports, 3061 for an infinite number.
 ReadRows readDay(store::Database& database, const SalesTable& table, QDate day, const RowSink& sink = {});
 

@@ -1,4 +1,4 @@
-// The modem's waits read this clock. It is handed in, so that a test need not wait real seconds.
+// The modem's waits read this clock. It is passed in, so that tests need not wait real seconds.
 #pragma once
 
 namespace norvane::link

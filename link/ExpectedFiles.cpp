@@ -107,8 +107,8 @@ std::optional<ExpectedFiles::State> ExpectedFiles::stateOf(const QString& name)
     return noTime || noSize ? std::nullopt : std::optional(state);
 }
 
-/// A time ahead of the clock counts as new too. A time that cannot be set stays; the clock is fine enough
-/// then in nearly all cases.
+/// A time ahead of the clock counts as new too. If a time cannot be set, it is left unchanged; the clock is
+/// then nearly always fine enough.
 void ExpectedFiles::setTimeBack(const QString& name)
 {
     std::error_code failed;

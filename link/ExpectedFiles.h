@@ -13,13 +13,13 @@ namespace norvane::link
 
 /// Of several files whose names differ from @p path in case only, keeps the one that was written last.
 /// Otherwise one step writes "POLL190.txt" and the next reads an old "poll190.txt".
-/// @throws RuntimeFailure 75 when another one cannot be removed.
+/// @throws RuntimeFailure with Failure::PathOrFileAccess if another one cannot be removed.
 void keepLatestSpelling(const QString& path);
 
-/// The files that a step is to write, as they stood before it. That a file is there says nothing about
-/// whether this step wrote it: an old one looks the same. A file that was written a moment ago gets a time
-/// some seconds older, so that the same bytes written again at once can be told from no writing at all,
-/// however coarse the times of the file system are.
+/// The files that a step is to write, as they were before it. The existence of a file does not show that this
+/// step wrote it: an old one looks the same. A file that was just written gets a time some seconds older, so
+/// that writing the same bytes again can be distinguished from not writing, however coarse the file system's
+/// times are.
 class ExpectedFiles
 {
 public:

@@ -47,12 +47,12 @@ public:
 
 public Q_SLOTS:
     /// The "E&xit" button, Escape and the window's close button: hangs up a modem and leaves, even while it
-    /// dials. While tools are at work, leaving takes effect after the current step; the status bar says so at
-    /// once.
+    /// dials. While tools are at work, leaving takes effect after the current step; the status bar says so
+    /// immediately.
     void reject() override;
 
 protected:
-    /// @p name becomes the form's object name, @p runCaption stands on the button Communicate.
+    /// @p name becomes the form's object name, @p runCaption is the caption of the button Communicate.
     LinkForm(const char* name, const char* runCaption, const ApplicationValues& values, Boxes& boxes,
              QWidget* parent);
     ~LinkForm() override;

@@ -8,14 +8,15 @@
 namespace norvane::link
 {
 
-/// The link values. Each press of OK reads them again, so that a change in the set-up dialog counts at once.
+/// The link values. Each press of OK reads them again, so that a change in the set-up dialog takes effect
+/// immediately.
 struct LinkSettings {
     QString connectionType; ///< "DIRECT" or "MODEM"; empty before the first reading
     QString resetString;    ///< ends in a carriage return, as the two below
     QString setUpString;
     QString dialString; ///< "ATD" and the telephone number
     int modemDelay = 0; ///< whole seconds to wait for the far modem
-    int baudIndex = 0;  ///< list index from 0; see CommandLines.h for what it stands for
+    int baudIndex = 0;  ///< list index from 0; see CommandLines.h for its meaning
     int portIndex = 0;  ///< list index from 0, so serial port number less one
     QString rangeWord;  ///< last register of the range, "1T" to "32T"
 
@@ -26,7 +27,8 @@ struct LinkSettings {
 [[nodiscard]] QString registersInWords(const LinkSettings& link);
 
 /// Reads the link values. A number is the leading number of its text; blanks and a missing key count as 0.
-/// @throws RuntimeFailure 6 when a number does not fit (the dial time-out holds at most 32,767 seconds).
+/// @throws RuntimeFailure with Failure::Overflow if a number does not fit (the dial time-out holds at most
+/// 32,767 seconds).
 [[nodiscard]] LinkSettings readLinkSettings(const ApplicationValues& values);
 
 } // namespace norvane::link

@@ -1,5 +1,5 @@
 // Dials the registers' modem before an exchange and hangs up after it. In between the port is closed, so that
-// the transfer tool can use it; the call stays up.
+// the transfer tool can use it; the call remains connected.
 #pragma once
 
 #include "link/Clock.h"
@@ -25,7 +25,7 @@ public:
 
     /// Resets, programs and dials. Handles window events while it waits, so that the user can leave: closing
     /// the port ends the wait.
-    /// @return 0 when connected (the port is closed then), 100 on any failure (the port stays open, for
+    /// @return 0 when connected (the port is closed then), 100 on any failure (the port remains open, for
     /// Dropphoneline to hang up).
     [[nodiscard]] int DialModem(const LinkSettings& link);
 

@@ -71,7 +71,7 @@ int resultNumber(const QString& statusText)
     if (statusText.trimmed().isEmpty())
         return 0;
     const auto explain = [&](const QString&) {
-        return u"status.out holds \"%1\", which is no result code."_s.arg(excerpt(statusText));
+        return u"status.out contains \"%1\", which is not a result code."_s.arg(excerpt(statusText));
     };
     return atPlace(explain, [&] { return toWholeNumber(statusText); });
 }

@@ -15,11 +15,12 @@ inline constexpr int descriptionsPolled = 101;
 /// dialling gave (0 on a direct link).
 [[nodiscard]] QString resultText(int status, int dialResult);
 
-/// The same for a list or a log, without the number in front: "result 8: Time Out".
+/// The same for a list or a log, without the leading number: "result 8: Time Out".
 [[nodiscard]] QString resultInWords(int status);
 
 /// A value of status.out as a number; empty text counts as 0.
-/// @throws RuntimeFailure 13 when it is no number, 6 when it is beyond a whole number of 32 bits.
+/// @throws RuntimeFailure with Failure::TypeMismatch if it is not a number, Failure::Overflow if it does not
+/// fit 32 bits.
 [[nodiscard]] int resultNumber(const QString& statusText);
 
 } // namespace norvane::link

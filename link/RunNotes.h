@@ -15,7 +15,7 @@ namespace norvane::link
 void writeNote(const ApplicationValues& values, QLatin1StringView section, QLatin1StringView key,
                const QString& value);
 
-/// How many PLUs the registers hold, as the last exchange of the PLU file told; 0 when none did.
+/// How many PLUs the registers hold, from the last exchange of the PLU file; 0 before the first.
 [[nodiscard]] qint64 pluCountOfRegisters(const ApplicationValues& values);
 void notePluCountOfRegisters(const ApplicationValues& values, qint64 count);
 

@@ -17,19 +17,19 @@ struct RunOutside {
     std::function<ChildResult(const QString& commandLine)> runAndWait;
     /// The last value of status.out.
     std::function<QString()> readStatus;
-    /// Names the step in work.
+    /// Shows the name of the current step.
     std::function<void(const QString& text)> showStep;
-    /// Shows a notice that does not stop the run; it stays until the run ends.
+    /// Shows a notice that does not stop the run; it remains until the run ends.
     std::function<void(const QString& text)> showNotice;
     /// Asked before each step that may be left out. @return false when the user has left.
     std::function<bool()> goOn;
     Boxes& boxes;
     /// Called before a box that ends the run, once everything is stored and logged. The box may stay open all
-    /// night, so the lock of the run ends here, if no modem is connected.
+    /// night, so the lock of the run is released here if no modem is connected.
     std::function<void()> beforeLastBox = [] {
     };
-    /// Called when the answer to a box after beforeLastBox() goes on with the run. @return false when another
-    /// run is at work; the user was told then.
+    /// Called when the run continues after a box that followed beforeLastBox(). @return false if another run
+    /// is active; a message was shown then.
     std::function<bool()> beginAgain = [] {
         return true;
     };
@@ -39,11 +39,11 @@ struct RunOutside {
     };
 };
 
-/// Runs a tool and tells the user when it could not be started or crashed. The run goes on all the same:
+/// Runs a tool and shows a message if it could not be started or crashed. The run continues even then:
 /// status.out keeps the previous result.
 ChildResult runTool(const RunOutside& outside, const QString& commandLine);
 
-/// Tells that the user's No to a question has ended the run.
+/// Reports that the user's No to a question has ended the run.
 void tellEndedByAnswer(const RunOutside& outside);
 
 } // namespace norvane::link

@@ -1,4 +1,4 @@
-// Boxes that measure how long they are open: the log tells seconds of work, not of waiting for an answer.
+// Boxes that measure how long they are open: the log records seconds of work, not of waiting for an answer.
 #pragma once
 
 #include "platform/Boxes.h"

@@ -202,8 +202,8 @@ bool ToolWait::eventFilter(QObject* watched, QEvent* event)
 {
     // A window gets a key first and may hand it on: it counts once.
     const bool repeated = watched->isWindowType() && m_escape.follow(*event);
-    // A box that has opened since waits for its answer. The Escape that brought it up is still down and must
-    // not be that answer.
+    // A box that has opened since waits for its answer. The Escape that opened it is still down and must not
+    // be that answer.
     if (m_modal != QApplication::activeModalWidget())
         return repeated;
     if (event->type() == QEvent::FocusOut)
@@ -219,7 +219,7 @@ bool ToolWait::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
-/// A window gets its keys and clicks first and hands them to the widget that they are for.
+/// A window receives keys and clicks first and passes them to the widget concerned.
 bool ToolWait::belongsToForm(const QObject& receiver, const QEvent& event) const
 {
     if (m_form == nullptr)

@@ -35,7 +35,7 @@ public:
     /// @return whether @p event only repeats that the key is down
     bool follow(const QEvent& event);
     [[nodiscard]] bool isHeld(std::chrono::milliseconds atLeast) const;
-    /// It counts as held only after it went down afresh.
+    /// It counts as held only after it was pressed again.
     void spend() { m_spent = true; }
     void letGo() { m_down.invalidate(); }
 
@@ -46,9 +46,9 @@ private:
     bool m_spent = false;
 };
 
-/// Runs tools one after another. Meanwhile the windows are painted but get neither keys nor clicks. Only what
-/// the user does in the form of the run is kept, and reaches it as soon as the tool has ended, so that Exit
-/// works. A tool that may be hanging can be ended.
+/// Runs tools one after another. Meanwhile the windows are painted but receive neither keys nor clicks. Only
+/// input to the form of the run is kept and delivered when the tool has ended, so that Exit works. A tool
+/// that may be hanging can be ended.
 class ToolWait : public QObject
 {
     Q_OBJECT

@@ -21,10 +21,10 @@ public:
     /// Runs a tool as runTool() does. Of a file in several spellings only the latest remains.
     /// @throws RuntimeFailure as keepLatestSpelling().
     void run(const QString& commandLine);
-    /// Whether every tool came to its own end and every file was written.
+    /// Whether no tool crashed and every file was written.
     [[nodiscard]] bool isComplete() const;
     /// Asks when the step is not complete; the question names the tool, the files and their age.
-    /// @p consequence is the sentence that tells what would happen. @return whether the run may use the files
+    /// @p consequence is the sentence that says what would happen. @return whether the run may use the files
     /// that are there: always for a complete step, else the user's answer.
     [[nodiscard]] bool mayGoOn(const QString& consequence) const;
 

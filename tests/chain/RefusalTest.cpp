@@ -84,9 +84,9 @@ TEST_F(RefusalTest, TellsWhyNothingIsPublished)
         int code;
         QString text;
     } refusals[] = {
-        {{cornerShop}, u"hunter2"_s, 2, u"is no connection such as"_s},
-        {{cornerShop}, u"hots=x password=hunter2"_s, 2, u"is no connection such as"_s},
-        {{cornerShop}, u"postgresql://me:hunter2@[x/chain"_s, 2, u"is no connection such as"_s},
+        {{cornerShop}, u"hunter2"_s, 2, u"is not a connection string such as"_s},
+        {{cornerShop}, u"hots=x password=hunter2"_s, 2, u"is not a connection string such as"_s},
+        {{cornerShop}, u"postgresql://me:hunter2@[x/chain"_s, 2, u"is not a connection string such as"_s},
         {{cornerShop, u"--vanished"_s, u"yes"_s},
          to(m_database),
          2,
@@ -114,7 +114,7 @@ TEST_F(RefusalTest, TellsWhyNothingIsPublished)
             u"GRANT USAGE ON SCHEMA norvane TO guest; GRANT SELECT ON ALL TABLES IN SCHEMA norvane TO guest"_s),
         "");
     change(cornerShop, "update MIXSALES set QUANTITY = 9");
-    expectRefused(publish({cornerShop}, to(m_database, u"guest"_s)), 12, u"The rights do not suffice"_s);
+    expectRefused(publish({cornerShop}, to(m_database, u"guest"_s)), 12, u"The rights are insufficient"_s);
     EXPECT_EQ(months(), "01=1 02=2 03=3");
 }
 
@@ -140,7 +140,7 @@ TEST_F(RefusalTest, GoesOnAfterAConnectionThatBrokeAmidTheRows)
                     "CREATE TRIGGER breakdown BEFORE INSERT ON mix_sales FOR EACH ROW "
                     "WHEN (NEW.day = '2026-02-05') EXECUTE FUNCTION breakdown()"_s),
               "");
-    expectRefused(publish({cornerShop}), 11, u"PostgreSQL went away (database "_s);
+    expectRefused(publish({cornerShop}), 11, u"The connection to PostgreSQL was lost (database "_s);
     EXPECT_EQ(months(), "01=1");
     EXPECT_EQ(query(u"DROP TRIGGER breakdown ON mix_sales"_s), "");
     EXPECT_EQ(published({cornerShop}), "2 2 1 0");
