@@ -17,8 +17,8 @@ Margins inMillimetres(const QMarginsF& margins)
             millimetres(margins.bottom())};
 }
 
-/// Outside Windows the margins of upright paper are told for both orientations. A sheet in landscape leaves
-/// the printer turned to the left: its upper edge is the paper's left one.
+/// Outside Windows the margins of upright paper are reported for both orientations. A landscape sheet is
+/// printed turned to the left: its upper edge is the paper's left one.
 Margins turned([[maybe_unused]] const Margins& upright)
 {
 #ifdef Q_OS_WIN

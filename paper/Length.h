@@ -1,5 +1,5 @@
-// A length on paper or on the screen, whatever unit it was told in. Screen files tell twips, overlays and
-// report pages millimetres, printers dots.
+// A length on paper or on the screen, in any unit. Screen files use twips, overlays and report pages
+// millimetres, printers dots.
 #pragma once
 
 #include <cmath>
@@ -37,7 +37,7 @@ private:
     static constexpr double unitsPerInch = 914'400;
     static constexpr double millimetresPerInch = 25.4;
     static constexpr double twipsPerInch = 1'440;
-    /// A kilometre. Files tell any number; what lies beyond all paper and screens need not differ any more.
+    /// A kilometre. Files may have any number; lengths beyond all paper and screens need not differ.
     static constexpr double mostUnits = 1e6 / millimetresPerInch * unitsPerInch;
 
     explicit constexpr Length(std::int64_t units) : m_units(units) {}

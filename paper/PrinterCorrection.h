@@ -47,7 +47,7 @@ public:
     /// Those in the user's folder for settings.
     [[nodiscard]] static PrinterCorrections ofThisComputer();
 
-    /// @return none for a printer that has none; values that no printer needs count as none.
+    /// @return none for a printer without one; values beyond any printer's need count as none.
     [[nodiscard]] PrinterCorrection of(const QString& printer) const;
     /// @return false when the file cannot be written.
     [[nodiscard]] bool keep(const QString& printer, const PrinterCorrection& correction) const;

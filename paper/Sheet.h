@@ -19,7 +19,7 @@ struct Margins {
     bool operator==(const Margins&) const = default;
 };
 
-/// Of a PDF, and of printers that do not tell theirs.
+/// Of a PDF, and of printers that do not report theirs.
 inline constexpr Margins usualMargins{millimetres(5), millimetres(5), millimetres(5), millimetres(5)};
 
 struct Sheet {

@@ -9,7 +9,8 @@ namespace norvane::paper
 /// Units to the square of an unrounded font's letters.
 inline constexpr int unitsPerSquare = 100;
 
-/// @p font in a size at which no width is rounded to pixels. A text is as wide as its letters are one by one.
+/// @p font in a size at which no width is rounded to pixels. The width of a text is the sum of its letters'
+/// widths.
 [[nodiscard]] QFont unrounded(QFont font);
 
 } // namespace norvane::paper

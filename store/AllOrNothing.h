@@ -10,9 +10,10 @@
 namespace norvane::store
 {
 
-/// Runs @p work in one transaction of @p database. A failure that passes through puts everything back, as a
-/// killed process does. The recordsets of @p work must be gone when it ends; no transaction may be open.
-/// @throws RuntimeFailure what @p work throws, and 61, 75, 3260 ... from storing.
+/// Runs @p work in one transaction of @p database. A failure restores everything, as after a killed process.
+/// The recordsets of @p work must be destroyed when it ends; no transaction may be open.
+/// @throws RuntimeFailure as @p work throws, and with Failure::DiskFull, Failure::PathOrFileAccess,
+/// Failure::DatabaseLocked ... from storing.
 template <typename Work>
 void allOrNothing(Database& database, Work&& work)
 {

@@ -15,9 +15,9 @@ namespace norvane::store
 
 class PreparedStatement;
 
-/// Rows of a statement in the engine's own words, in which each "?" stands for a value handed in: what a user
-/// or a file says never becomes part of the statement. Nothing is kept of a row once the next one is asked
-/// for, so that a long list takes no room. The database must outlive it, and holds one such query at a time.
+/// Rows of a statement in the engine's SQL, in which each "?" is replaced by a bound value: text from a user
+/// or a file never becomes part of the statement. A row is not kept after the next one is read, so a long
+/// list takes no memory. The database must outlive this object and has one such query at a time.
 class BoundQuery
 {
 public:
@@ -26,16 +26,17 @@ public:
     using KeepGoing = std::function<bool()>;
 
     /// @param values in the order of the question marks. @param what names the query in failures.
-    /// @throws RuntimeFailure 3061 for a faulty statement or one that would change the file, 3343 when the
-    /// file is damaged.
+    /// @throws RuntimeFailure with Failure::UnknownNameInQuery for a faulty statement or one that would
+    /// change the file, Failure::NotOurDatabase when the file is damaged.
     BoundQuery(Database& database, const std::string& sql, std::vector<Value> values, const QString& what,
                KeepGoing keepGoing = {});
     ~BoundQuery();
     BoundQuery(const BoundQuery&) = delete;
     BoundQuery& operator=(const BoundQuery&) = delete;
 
-    /// Goes to the next row, the first one at the first call. @return false when there is none.
-    /// @throws RuntimeFailure 3343, 57 and so on as the engine reports, and 3000 when it was told to give up.
+    /// Goes to the next row; the first call goes to the first row. @return false if there is none.
+    /// @throws RuntimeFailure with Failure::NotOurDatabase, Failure::DeviceIo and so on as the engine
+    /// reports, and Failure::EngineFailure if it was cancelled.
     bool next();
     [[nodiscard]] bool wasGivenUp() const { return m_givenUp; }
 

@@ -1,24 +1,24 @@
 // Makes the definitions of the catalogue from its rows.
 //
-// Every table stands in the Catalogue*.cpp file of its subject. Its fields have the order and the spelling of
-// the register's record, odd ones included, so that the two can be compared line by line.
+// Every table is in the Catalogue*.cpp file of its subject. Its fields have the order and the spelling of the
+// register's record, odd spellings included, so that the two can be compared line by line.
 //
 // clang-format off
-//   What a field holds                   Type      Why
+//   Content of a field                   Type      Why
 //   yes or no                            YesNo
-//   whole number of up to 9 digits       Long      as much as a number box on a screen holds
+//   whole number of up to 9 digits       Long      the range of a number box on a screen
 //   whole number of 10 to 15 digits      Double    exact up to there: sign-on codes, check numbers
 //   whole number of more digits          Digits    kept digit for digit: PLU links, reserved tax columns
 //   number with decimal places           Double    amounts, rates, factors
 //   price of a PLU                       Text      see price()
 //   text, PLU numbers among them         Text      leading zeros of a PLU number count
-//   what a register says of its memory   Text      kept as it came
+//   memory data of a register            Text      stored unchanged
 //   day                                  Date
 // clang-format on
 //
-// A table whose record has no number of its own has a counter as its key. Each index is unique and stands
-// over the key field. The sales tables have no key, since collections only append to them; an index of the
-// engine lets reports find a day (docs/decisions/).
+// A table whose record has no number of its own has a counter as its key. Each index is unique and covers the
+// key field. The sales tables have no key, since collections only append to them; an index of the engine lets
+// reports find a day (docs/decisions/).
 #include "store/Catalogue.h"
 
 #include "store/CatalogueRows.h"

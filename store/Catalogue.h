@@ -10,7 +10,7 @@ namespace norvane::store
 /// All tables of the current layout. Template database, upgrade steps and screen checks are made from it.
 [[nodiscard]] const QVector<TableDefinition>& catalogue();
 
-/// The catalogue's definition of a table, matched without regard to case; nullptr when there is none.
+/// The catalogue's definition of a table, matched without regard to case; nullptr if there is none.
 [[nodiscard]] const TableDefinition* catalogueTable(const QString& name);
 
 } // namespace norvane::store

@@ -29,8 +29,8 @@ constexpr Row pluSales[] = {
     numbered(5, zeroUnlessSet(decimal("COUNT*")), zeroUnlessSet(decimal("VALUE*"))),
 };
 
-// Register file 52. Kept as text so that a register's odd answer, or a line that ends early, is stored as it
-// came; the flags tell which totals the register keeps.
+// Register file 52. Text, so that an odd value from a register, or a line that ends early, is stored
+// unchanged; the flags tell which totals the register keeps.
 constexpr Row memoryAllocation[] = {
     counter("ID"),
     reported("reporttotals"),

@@ -6,7 +6,7 @@ namespace norvane::store::rows
 namespace
 {
 
-// register files 67 and 71. The number is text, so that leading zeros stay and the order is that of 18
+// register files 67 and 71. The number is text, so that leading zeros are kept and the order is that of 18
 // characters. Screens and key editors ask for the one index by either name.
 constexpr Row pluData[] = {
     text("PLUNUMBER", 18),

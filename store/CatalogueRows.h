@@ -21,7 +21,7 @@ struct FieldRow {
 /// A field, or fields that come again and again with a number in their names.
 struct Row {
     std::array<FieldRow, 3> fields{};
-    int times = 0; ///< 0: stands once, the name as it is
+    int times = 0; ///< 0: once, with the unchanged name
 
     constexpr Row(FieldRow field) : fields{field} {}
     constexpr Row(int count, FieldRow first, FieldRow second, FieldRow third)

@@ -109,7 +109,7 @@ constexpr Row taxRates[] = {
     digits("highhold", 20),
 };
 
-// register file 15. Its record has no number, so the key counts by itself.
+// register file 15. Its record has no number, so the key is a counter.
 constexpr Row serviceMode[] = {
     counter("ID"),
     whole("DECIMALPlace"),

@@ -10,8 +10,8 @@
 namespace norvane::store
 {
 
-/// A table, index or trigger of the engine and the statement that makes it. The engine keeps the statement as
-/// it stands, so a file tells whether it has this very one.
+/// A table, index or trigger of the engine and the statement that makes it. The engine stores the statement
+/// unchanged, so it can be compared with the one in a file.
 struct Companion {
     enum class Kind { Table, Index, Trigger } kind;
     QString name;
@@ -21,10 +21,10 @@ struct Companion {
 /// The index by which queries find rows by TableDefinition::searchedField.
 [[nodiscard]] Companion searchIndexOf(const TableDefinition& table);
 
-/// The two tables that hold totals of months, and what keeps them right. A month that stands in the first
-/// table was added up, and its totals stand in the second; a month leaves both together. The triggers of the
-/// sales table run for every row of it, so they do no more than look for the month.
-/// They are made in this order, and only all together: totals without their triggers could be wrong.
+/// The two tables of month totals, and the triggers that keep them right. A month listed in the first table
+/// was added up, and its totals are in the second; a month is removed from both together. The triggers of the
+/// sales table run for every row of it, so they only look for the month.
+/// They are created in this order, and only all together: totals without their triggers could be wrong.
 [[nodiscard]] std::vector<Companion> monthCompanionsOf(const TableDefinition& table);
 
 /// Holds the months, as yyyy-mm, that were added up.

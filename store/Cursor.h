@@ -17,7 +17,7 @@ struct Row {
     std::int64_t rowId = 0;
 };
 
-/// Every move says whether there was a record; without one the cursor stays where it was.
+/// Every move returns whether there was a record; if not, the cursor does not move.
 class Cursor
 {
 public:
@@ -33,7 +33,7 @@ public:
     [[nodiscard]] virtual qint64 count() = 0;
     /// The record last moved to.
     [[nodiscard]] virtual const Row& row() const = 0;
-    /// Reads the record again. @return false when it is gone.
+    /// Reads the record again. @return false if it was deleted.
     virtual bool reread() = 0;
     /// This recordset stored the record with these values.
     virtual void rowStored(const std::vector<Value>& values) = 0;

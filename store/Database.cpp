@@ -120,7 +120,7 @@ qint64 Database::execute(const QString& sql)
     if (const auto kept = tablesOfTriggers(d->connection(), emptied->name());
         translated.deletesAll && !kept.isEmpty()) {
         rest.emplace(d->connection());
-        // What the triggers would do is done here for all rows at once.
+        // Does the triggers' work for all rows together.
         for (const QString& each : kept)
             PreparedStatement(d->connection(), "DELETE FROM " + quotedName(each), each).run();
     }

@@ -93,7 +93,7 @@ void copyProgramme(SQLite::Database& source, const QString& from, const QString&
     const auto tables = programmeTables(connection);
     createDatabaseFile(to, tables);
     const AttachedFile target(connection, to);
-    // A copy that is cut off is removed, so there is nothing to roll back in it.
+    // An incomplete copy is removed, so it needs no rollback.
     run(connection, std::string("PRAGMA ") + otherFile + ".journal_mode = OFF", to);
     // One transaction, so that all tables are of one moment.
     run(connection, "BEGIN", from);
@@ -106,7 +106,7 @@ void copyProgramme(SQLite::Database& source, const QString& from, const QString&
 /// take little more than a plain copy of the file, in those of the source twice as long. A small cache keeps
 /// them near the processor. The copy that results has the page size of its source.
 constexpr const char* targetSettings[] = {
-    // A copy that is cut off is removed, so there is nothing to roll back in it.
+    // An incomplete copy is removed, so it needs no rollback.
     "PRAGMA journal_mode = OFF",
     "PRAGMA page_size = 65536",
     "VACUUM",
@@ -130,7 +130,7 @@ void copyPages(SQLite::Database& source, const QString& to)
         failWithSqlite(target.getHandle(), to);
 }
 
-/// The fields that both have, as the database spells them.
+/// The fields that both have, as spelled in the database.
 QStringList commonFields(const TableDefinition& table, const TableDefinition& copied)
 {
     QStringList names;
@@ -190,7 +190,7 @@ QStringList rescueTables(const QString& to, const QVector<TableDefinition>& tabl
     return lost;
 }
 
-/// Brings a database to today's layout. @return the tables that it lacked.
+/// Upgrades a database to the current layout. @return the tables that it lacked.
 QVector<TableDefinition> addMissingTables(const QString& path)
 {
     QVector<TableDefinition> missing;

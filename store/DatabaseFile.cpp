@@ -68,7 +68,7 @@ void checkHeader(sqlite3* connection, const QString& path)
     const Header header = readHeader(connection);
     if (std::memcmp(header.data(), engineMark, sizeof engineMark) != 0) {
         failNotOurs(path,
-                    "is no database of this program, is damaged, or was made by a former version of it");
+                    "is not a database of this program, is damaged, or was made by a former version of it");
     }
     if (bigEndian(header, applicationIdAt) != applicationId)
         failNotOurs(path, "is a database of another program");
@@ -141,7 +141,7 @@ void writeTables(const QString& path, const QVector<TableDefinition>& tables)
     run(database.getHandle(), "COMMIT", path);
 }
 
-/// The journal of a file that is gone must not be played back into the new one.
+/// The journal of a deleted file must not be applied to the new one.
 void putInPlace(const QString& from, const QString& to)
 {
     QFile::remove(to + u"-journal"_s);

@@ -15,11 +15,11 @@ inline constexpr int busyMilliseconds = 5000;
 /// Opens an existing file for reading and, where it may be written, for writing. @throws as Database does.
 [[nodiscard]] SQLite::Database openDatabaseFile(const QString& path);
 
-/// The same, but reads no more than the header: the rest of the file may be damaged.
+/// The same, but reads only the header: the rest of the file may be damaged.
 [[nodiscard]] SQLite::Database openUnreadDatabaseFile(const QString& path);
 
 /// Makes a file beside @p path and puts it in its place once it is whole.
-/// @throws RuntimeFailure 75, 61.
+/// @throws RuntimeFailure with Failure::PathOrFileAccess, 61.
 void createDatabaseFile(const QString& path, const QVector<TableDefinition>& tables);
 
 } // namespace norvane::store

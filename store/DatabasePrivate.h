@@ -20,9 +20,9 @@ public:
     [[nodiscard]] sqlite3* connection() const { return m_connection.getHandle(); }
     [[nodiscard]] const QString& path() const { return m_path; }
 
-    /// The shape of a table; nullptr when there is none of that name.
+    /// The shape of a table; nullptr if there is none of that name.
     [[nodiscard]] std::shared_ptr<const TableShape> findShape(const QString& table);
-    /// @throws RuntimeFailure 3265 when there is none.
+    /// @throws RuntimeFailure with Failure::UnknownName if there is none.
     [[nodiscard]] std::shared_ptr<const TableShape> shape(const QString& table);
     void forgetShapes() { m_shapes.clear(); }
 
@@ -36,7 +36,7 @@ public:
 
     /// Counts every row that this connection has changed.
     [[nodiscard]] std::int64_t changes() const;
-    /// Tells one transaction from the next; 0 outside of any.
+    /// Identifies a transaction; 0 outside of any.
     [[nodiscard]] std::int64_t transactionNumber() const { return m_depth > 0 ? m_transactions : 0; }
 
     /// Counts the times that rows were deleted; see RowIds.h.

@@ -12,24 +12,24 @@
 namespace norvane::store
 {
 
-/// What somebody made of all rows of a day in one sales table, kept with the table. Triggers of the file drop
-/// the digest of a day as soon as a row of it is added, changed, deleted or replaced, whoever does it, so a
-/// digest that is there is right. Recordsets, screens and the list of tables do not know them.
+/// A digest of all rows of a day in one sales table, made by a caller and stored with the table. Triggers of
+/// the file drop the digest of a day when any program adds, changes, deletes or replaces a row of it, so an
+/// existing digest is right. Recordsets, screens and the list of tables do not know them.
 class DayDigests
 {
 public:
     /// @p table is one that the catalogue finds by a day (TableDefinition::searchedField). The database must
-    /// outlive this. @throws RuntimeFailure 3265 when the file has no such table.
+    /// outlive this. @throws RuntimeFailure with Failure::UnknownName if the file has no such table.
     DayDigests(Database& database, const QString& table);
 
-    /// The digest of each day that has one; nothing when the file has no room for them.
+    /// The digest of each day that has one; nothing if the file has no table for them.
     [[nodiscard]] std::map<QDate, std::string> standing() const;
-    /// Keeps them, in the open transaction or in one of its own. Nothing happens when the file has no room
-    /// for them. @throws RuntimeFailure what the database reports.
+    /// Stores them, in the open transaction or a separate one. Does nothing if the file has no table for
+    /// them. @throws RuntimeFailure as the database reports.
     void keep(const std::map<QDate, std::string>& digests);
 
-    /// Differs from what it was as soon as another connection has changed anything in the file: what was read
-    /// before may no longer be so. @throws RuntimeFailure what the database reports.
+    /// A value that changes when another connection changes the file: what was read before may be outdated.
+    /// @throws RuntimeFailure as the database reports.
     [[nodiscard]] static std::int64_t changesByOthers(Database& database);
 
 private:

@@ -1,4 +1,4 @@
-// Definitions of tables, fields and indexes, as the catalogue lists them and as a database file tells them.
+// Definitions of tables, fields and indexes, as listed in the catalogue and as read from a database file.
 #pragma once
 
 #include <QString>
@@ -28,7 +28,7 @@ struct FieldDefinition {
     bool required = false; ///< may not be null when a record is stored
 };
 
-/// An index over one field. Several names may stand for one index.
+/// An index over one field. One index may have several names.
 struct IndexDefinition {
     QStringList names;
     QString field;
@@ -39,12 +39,12 @@ struct TableDefinition {
     QString name;
     QVector<FieldDefinition> fields;
     QVector<IndexDefinition> indexes;
-    /// A field by which queries choose records of a table that grows without end: the file finds them
-    /// quickly, though no recordset can be set to it. Only for making a table, not told of one that is there.
+    /// A field by which queries choose records of an ever-growing table: the file finds them quickly, though
+    /// recordsets cannot use it as an index. Only used to create a table; not filled for existing ones.
     QString searchedField = {};
 };
 
-/// The field of that name, in any case; nullptr when the table has none.
+/// The field of that name, in any case; nullptr if the table has none.
 [[nodiscard]] inline const FieldDefinition* fieldNamed(const TableDefinition& table, QStringView name)
 {
     const auto isIt = [name](const FieldDefinition& field) {

@@ -14,7 +14,7 @@ namespace norvane::store
 namespace
 {
 
-/// The engine keeps one for each group of rows and hands it out zeroed at the first row.
+/// The engine keeps one for each group of rows and passes it zeroed at the first row.
 struct Slot {
     bool used;
     alignas(DecimalTotal) std::byte room[sizeof(DecimalTotal)];
@@ -52,7 +52,7 @@ void addTo(DecimalTotal& total, sqlite3_value* value)
     case SQLITE_TEXT:
         total.add(textOf(value));
         break;
-    default: // null and blobs are no numbers
+    default: // null and blobs are not numbers
         break;
     }
 }

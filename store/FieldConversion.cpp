@@ -58,14 +58,14 @@ bool isDigits(std::string_view text)
     return !text.empty() && text.find_first_not_of(digitSigns) == std::string_view::npos;
 }
 
-/// The number that is the whole text, in any spelling; nothing when it is none or too large.
+/// Reads the whole text as a number in any form; nothing if it is not a number or too large.
 std::optional<double> wholeTextNumber(std::string_view text)
 {
     const auto scanned = scanWholeNumber(text);
     return scanned ? norvane::toDouble(*scanned) : std::nullopt;
 }
 
-/// The number that a value stands for; nothing for null, dates and texts that are no numbers.
+/// The numeric value of a field; nothing for null, dates and texts that are not numbers.
 std::optional<double> numberOf(const Value& value)
 {
     if (value.isYesNo() || value.isWhole() || (value.isDouble() && std::isfinite(value.toNumber())))
@@ -101,7 +101,7 @@ std::optional<Value> toDouble(const Value& value)
     return number ? std::optional(Value::number(*number)) : std::nullopt;
 }
 
-/// Digits stay as they are written, leading zeros too; a number in another spelling becomes its digits.
+/// Digits are kept as written, leading zeros too; a number in another form becomes its digits.
 std::optional<Value> toDigits(const Value& value)
 {
     std::string_view text = trimBlanks(value.textView());

@@ -11,15 +11,16 @@
 namespace norvane::store
 {
 
-/// Converts @p value to the type of @p field, as storing does. Null stays null, and a text of nothing but
-/// blanks becomes null in every field but a text field: a register fills a column that it does not use with
-/// spaces. Whole numbers round halves to the even neighbour. @p table is named in failures.
-/// @throws RuntimeFailure 3421 when the value does not convert, 3163 when a text is too long.
+/// Converts @p value to the type of @p field, as storing does. Null remains null, and a text of blanks only
+/// becomes null in every field but a text field: a register fills unused columns with spaces. Whole numbers
+/// round halves to the even neighbour. @p table is named in failures.
+/// @throws RuntimeFailure with Failure::Conversion if the value does not convert, Failure::TextTooLong if a
+/// text is too long.
 void convertToField(Value& value, const FieldDefinition& field, const QString& table);
 
 /// A key as an index over @p field compares it: a fraction sought among whole numbers is not rounded. A text
-/// of nothing but blanks sought among numbers or dates gives null, which lies before every key.
-/// @throws RuntimeFailure 3421 when the key does not convert.
+/// of blanks only, sought among numbers or dates, converts to null, which sorts before every key.
+/// @throws RuntimeFailure with Failure::Conversion if the key does not convert.
 [[nodiscard]] Value indexKey(const Value& key, const FieldDefinition& field, const QString& table);
 
 /// The order of two digit texts by value: less than, equal to or greater than 0. Leading zeros do not count.

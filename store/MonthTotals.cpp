@@ -18,7 +18,7 @@ namespace norvane::store
 namespace
 {
 
-/// The engine joins some hundred selects at most. Nobody has sales of more months than these.
+/// The engine joins some hundred selects at most. No shop has sales of more months.
 constexpr qsizetype mostMonths = 400;
 
 QDate lastOfMonth(QDate first)
@@ -26,7 +26,7 @@ QDate lastOfMonth(QDate first)
     return first.addMonths(1).addDays(-1);
 }
 
-/// The first days of the months that lie wholly inside.
+/// The first days of the months that are completely inside.
 QVector<QDate> wholeMonths(const DayRange& days)
 {
     QVector<QDate> months;
@@ -65,7 +65,7 @@ std::string totalOf(const FieldDefinition& field)
     return field.type == FieldType::Date ? "?1" : quotedName(field.name);
 }
 
-/// Texts that differ in nothing but capitals stay apart here; the report decides whether they are one item.
+/// Texts that differ only in case remain separate here; the report decides whether they are one item.
 std::string groupWords(const FieldDefinition& field)
 {
     if (isAddedUp(field) || field.type == FieldType::Date)
@@ -110,7 +110,7 @@ TableDefinition salesTable(const TableDefinition& standing)
     const TableDefinition* known = catalogueTable(standing.name);
     if (known == nullptr || known->searchedField.isEmpty()) {
         throw RuntimeFailure(Failure::UnknownName,
-                             u"Item not found: %1 is no table of sales."_s.arg(standing.name));
+                             u"Item not found: %1 is not a table of sales."_s.arg(standing.name));
     }
     TableDefinition table = standing;
     table.name = known->name;

@@ -15,7 +15,7 @@ namespace norvane::store
 namespace
 {
 
-/// Days lie in the file as yyyy-mm-dd, which sorts by time.
+/// Days are stored as yyyy-mm-dd, which sorts by time.
 std::string dayText(QDate date)
 {
     return date.toString(Qt::ISODate).toStdString();

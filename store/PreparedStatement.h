@@ -16,16 +16,17 @@ struct sqlite3_stmt;
 namespace norvane::store
 {
 
-/// Prepared once and run as often as wanted. SQLiteCpp opens and closes the connection, but its statements
-/// hand out every column as an object with a share in the statement, by which a walk over wide records takes
-/// a quarter longer; so statements stand on SQLite's own interface.
+/// Prepared once and run any number of times. SQLiteCpp opens and closes the connection, but its statements
+/// return every column as an object that shares the statement, which makes a walk over wide records a quarter
+/// slower; so statements use SQLite's own interface.
 class PreparedStatement
 {
 public:
-    /// @p what names the table or query in failures. @throws RuntimeFailure 3061 for a faulty statement.
+    /// @p what names the table or query in failures. @throws RuntimeFailure with Failure::UnknownNameInQuery
+    /// for a faulty statement.
     PreparedStatement(sqlite3* connection, const std::string& sql, QString what);
 
-    /// Parameters count from 1. A bound text must stay as it is until the statement was run.
+    /// Parameters count from 1. A bound text must remain unchanged until the statement has run.
     void bind(int parameter, const Value& value);
     void bind(int parameter, std::int64_t value);
     /// The same for a parameter that not every variant of a statement has.
@@ -37,11 +38,11 @@ public:
     }
     [[nodiscard]] int parameterCount() const;
 
-    /// @return false when there is no further row. @throws RuntimeFailure as the engine reports.
+    /// @return false if there is no further row. @throws RuntimeFailure as the engine reports.
     bool step();
     /// Ends the run, so that the file is not held locked by it.
     void reset() noexcept;
-    /// Runs a statement that gives no rows. @return the number of rows touched.
+    /// Runs a statement that returns no rows. @return the number of rows touched.
     qint64 run();
 
     /// Columns count from 0. @p type is the field's; without one the value is of the kind that was stored.

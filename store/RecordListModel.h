@@ -30,17 +30,17 @@ public:
 
     RecordListModel(std::shared_ptr<Database> database, RecordListSource source, QObject* parent = nullptr);
 
-    /// Reads the records as they stand in the file now; the filter stays.
+    /// Reads the records again from the file; the filter is kept.
     void reload();
     /// Shows only records with @p part in number or text.
     void setFilter(const QString& part);
-    /// Tells which record the form shows; an empty text for none.
+    /// Sets the record that the form shows; an empty text for none.
     void mark(const QString& number);
 
     [[nodiscard]] int recordCount() const { return m_texts.size(); }
     /// Empty without records.
     [[nodiscard]] QString lastNumber() const;
-    /// Row of the marked record, -1 when it is filtered out or there is none.
+    /// Row of the marked record, -1 if it is filtered out or there is none.
     [[nodiscard]] int markedRow() const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

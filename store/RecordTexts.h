@@ -10,7 +10,7 @@
 namespace norvane::store
 {
 
-/// How users know the record whose key is @p key: a PLU number without the zeros that fill it.
+/// The record's key as users know it: a PLU number without leading zeros.
 [[nodiscard]] QString shownKey(const QString& keyField, const QString& key);
 
 /// Keeps all texts in two long strings, one to show and one in small letters to search, so that 100,000

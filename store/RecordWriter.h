@@ -19,11 +19,14 @@ class RecordWriter
 public:
     RecordWriter(Database::Private& database, std::shared_ptr<const TableShape> shape);
 
-    /// @return the row id of the new row. @throws RuntimeFailure 3022, 3314 and what the engine reports.
+    /// @return the row id of the new row. @throws RuntimeFailure with Failure::DuplicateKey,
+    /// Failure::RequiredFieldIsNull and what the engine reports.
     std::int64_t insert(const std::vector<Value>& values);
-    /// @throws RuntimeFailure 3022, 3314, 3167 when the row is gone, and what the engine reports.
+    /// @throws RuntimeFailure with Failure::DuplicateKey, Failure::RequiredFieldIsNull,
+    /// Failure::RecordDeleted if the row was deleted, and what the engine reports.
     void update(std::int64_t rowId, const std::vector<Value>& before, const std::vector<Value>& after);
-    /// @throws RuntimeFailure 3167 when the row is gone, and what the engine reports.
+    /// @throws RuntimeFailure with Failure::RecordDeleted if the row was deleted, and what the engine
+    /// reports.
     void remove(std::int64_t rowId);
 
 private:

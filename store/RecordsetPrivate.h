@@ -20,7 +20,7 @@ public:
 
     enum class Place {
         OnRecord,
-        Deleted,     ///< the record is gone, its place still tells the next and the previous one
+        Deleted,     ///< the record was deleted; its place still leads to the next and previous ones
         AtBeginning, ///< before the first
         AtEnd,       ///< after the last
         Empty,       ///< no records: at the beginning and at the end
@@ -40,7 +40,7 @@ public:
     std::unique_ptr<Cursor> cursor;
     TableCursor* tableCursor = nullptr;   ///< the cursor, when it walks a table by index
     ResultCursor* resultCursor = nullptr; ///< the cursor, when it walks a query's rows
-    std::unique_ptr<RecordWriter> writer; ///< none where rows cannot be changed
+    std::unique_ptr<RecordWriter> writer; ///< nullptr if rows cannot be changed
     Place place = Place::Empty;
     EditMode mode = EditMode::None;
     std::vector<Value> edited; ///< the record being edited or added

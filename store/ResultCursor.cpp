@@ -18,7 +18,7 @@ bool ResultCursor::moveTo(qint64 position)
     return true;
 }
 
-/// Rows that were deleted meanwhile are passed over.
+/// Rows that were deleted meanwhile are skipped.
 bool ResultCursor::moveFrom(qint64 position, int step)
 {
     for (; position >= 0 && position < positions(); position += step) {

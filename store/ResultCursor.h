@@ -15,7 +15,7 @@ namespace norvane::store
 class ResultCursor : public Cursor
 {
 public:
-    /// @return false when there is no such row (any more).
+    /// @return false if there is no such row (any more).
     bool moveTo(qint64 position);
 
     bool first() override;
@@ -27,7 +27,7 @@ public:
 
 protected:
     [[nodiscard]] virtual qint64 positions() const = 0;
-    /// The row at a position, nullptr when it is gone.
+    /// The row at a position, nullptr if it was deleted.
     [[nodiscard]] virtual const Row* load(qint64 position) = 0;
     [[nodiscard]] qint64 position() const { return m_position; }
 

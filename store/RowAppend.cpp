@@ -34,9 +34,9 @@ RowAppend::~RowAppend()
     }
 }
 
-/// New rows have the highest row ids. What stands between the first and the last of their days is dropped
-/// with theirs: that costs no more than making it once more. The plus keeps the engine from walking the index
-/// over the days, which is as long as the table.
+/// New rows have the highest row ids. Digests and totals between the first and the last of their days are
+/// dropped too: that only costs making them again. The plus keeps the engine from walking the index over the
+/// days, which is as long as the table.
 void RowAppend::dropKept()
 {
     sqlite3* const connection = m_database.connection();

@@ -1,4 +1,4 @@
-// Adding many rows to a sales table at once.
+// Adds many rows to a sales table in one operation.
 #pragma once
 
 #include "store/Database.h"
@@ -11,16 +11,17 @@ namespace norvane::store
 
 class TriggersAtRest;
 
-/// While it lives, rows are added to @p table as fast as without totals of months: the triggers rest, and at
-/// the end the months of all rows that were added lose their totals, and the days their digests, in one go.
-/// Triggers would take a third of the time of an import. Nothing else may be changed meanwhile.
+/// During its lifetime, rows are added to @p table as fast as without totals of months: the triggers are
+/// disabled, and at the end the totals of all months of the added rows, and the digests of their days, are
+/// dropped together. Triggers would take a third of the time of an import. Nothing else may be changed
+/// meanwhile.
 class RowAppend
 {
 public:
-    /// @p open is the transaction around it, which must outlive it. @throws RuntimeFailure 3265 for an
-    /// unknown table, and what the database reports.
+    /// @p open is the transaction around it, which must outlive it. @throws RuntimeFailure with
+    /// Failure::UnknownName for an unknown table, and what the database reports.
     RowAppend(Database& database, const Transaction& open, const QString& table);
-    /// When the totals cannot be dropped, the transaction is rolled back, and its commit tells so.
+    /// If the totals cannot be dropped, the transaction is rolled back, and its commit reports it.
     ~RowAppend();
     RowAppend(const RowAppend&) = delete;
     RowAppend& operator=(const RowAppend&) = delete;

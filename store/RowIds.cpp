@@ -41,7 +41,7 @@ std::string highestRowId(const TableShape& table)
 void retireRowIds(Database::Private& database, const TableShape& table, std::int64_t last)
 {
     makeTable(database, table);
-    // Only the highest of a table can come again: there is nothing to remember of any other.
+    // Only the highest of a table can be reused: the others need not be remembered.
     auto insert = statementOf(database, table,
                               "INSERT INTO norvane_retired SELECT " + quotedText(table.name()) +
                                   ", highest FROM (" + highestRowId(table) +

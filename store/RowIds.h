@@ -9,10 +9,10 @@
 namespace norvane::store
 {
 
-// SQLite gives the row id of a deleted last row to the next new one. A screen that still stands on the
-// deleted record would then store its fields over the new one. So the file remembers the highest row id that
-// was ever deleted from each table, and a new row gets a higher one. A file of an earlier build begins to
-// remember with its first deletion or new row.
+// SQLite reuses the row id of a deleted last row for the next new one. A screen still on the deleted record
+// would then overwrite the new one. So the file remembers the highest row id that was ever deleted from each
+// table, and a new row gets a higher one. A file of an earlier build begins to remember with its first
+// deletion or new row.
 
 /// To be done before rows of @p table are deleted, in one go with the deletion. @p last is the highest of
 /// them. @throws RuntimeFailure as the engine reports.
@@ -20,7 +20,8 @@ void retireRowIds(Database::Private& database, const TableShape& table, std::int
 /// The same before any number of rows are deleted.
 void retireAllRowIds(Database::Private& database, const TableShape& table);
 
-/// The SQL of a row id that no row of @p table has or ever had. @throws RuntimeFailure as the engine reports.
+/// The SQL of a row id that no row of @p table has or had before. @throws RuntimeFailure as the engine
+/// reports.
 [[nodiscard]] std::string unusedRowId(Database::Private& database, const TableShape& table);
 
 } // namespace norvane::store

@@ -29,8 +29,8 @@ namespace norvane::store
     return sql + "_rowid_ FROM " + quotedName(shape.name());
 }
 
-/// Takes over the row that such a statement stands on. @p row keeps the room that its texts have, and its
-/// other fields as they are.
+/// Copies the current row of such a statement. @p row keeps the capacity of its texts, and its other fields
+/// are unchanged.
 inline void readFields(PreparedStatement& statement, const TableShape& shape,
                        const std::vector<int>& ordinals, Row& row)
 {

@@ -1,4 +1,4 @@
-// The definitions of tables as a database file tells them, and the making of tables and fields.
+// The definitions of tables in a database file, and the creation of tables and fields.
 #pragma once
 
 #include "store/Companions.h"
@@ -27,7 +27,7 @@ public:
     [[nodiscard]] std::optional<int> ordinal(const QString& field) const;
     /// Makes @p values those of a new record, by ordinal.
     void fillNew(std::vector<Value>& values) const;
-    /// The index that @p name stands for, nullptr when there is none.
+    /// The index named @p name, nullptr if there is none.
     [[nodiscard]] const IndexDefinition* index(const QString& name) const;
 
 private:
@@ -37,9 +37,9 @@ private:
     std::vector<std::size_t> m_withDefault; ///< ordinals; few fields have one
 };
 
-/// Reads and writes definitions. They lie in two tables of the store's own beside the tables that they
-/// describe: SQLite's declared types are free text that knows nothing of required fields, defaults or two
-/// names of one index, and a declaration can hardly be changed after a field was added.
+/// Reads and writes definitions. They are stored in two tables beside the tables that they describe: SQLite's
+/// declared types are free text that knows nothing of required fields, defaults or two names of one index,
+/// and a declaration can hardly be changed after a field was added.
 class Schema
 {
 public:
@@ -48,7 +48,7 @@ public:
     /// Makes the two tables of definitions in an empty file.
     void prepareFile();
     [[nodiscard]] QStringList tableNames() const;
-    /// The table's definition, nothing when there is none of that name.
+    /// The table's definition, nothing if there is none of that name.
     [[nodiscard]] std::optional<TableDefinition> read(const QString& table) const;
     /// Both are done wholly or not at all.
     void addTable(const TableDefinition& table);
@@ -56,7 +56,7 @@ public:
     /// Makes what the file keeps beside @p table and still lacks, and gives fields the room that @p table
     /// has. Writes nothing when the table is missing or nothing is lacking.
     void completeTable(const TableDefinition& table);
-    /// The engine's statement that made something of that name, nothing when there is none.
+    /// The engine's statement that created the object of that name, nothing if there is none.
     [[nodiscard]] std::optional<QString> declarationOf(const QString& name) const;
     /// Whether the file keeps all of them, just as they would be made.
     [[nodiscard]] bool hasAll(const std::vector<Companion>& companions) const;

@@ -79,7 +79,7 @@ private:
         if (!match.hasMatch())
             return takeSign();
         m_at = match.capturedEnd();
-        // Days in statements stand month first, whatever the machine's own habit.
+        // Days in statements have the month first, whatever the machine's locale.
         const QDate date = QDate::fromString(match.captured(1), u"M/d/yyyy"_s);
         return {Kind::Text, date.toString(Qt::ISODate)};
     }
@@ -101,7 +101,7 @@ private:
         return m_sql.mid(begin, m_at - begin);
     }
 
-    /// A doubled quote stands for one.
+    /// A doubled quote means one.
     QString takeText(QChar quote)
     {
         QString text;
@@ -121,7 +121,7 @@ private:
     qsizetype m_at = 0;
 };
 
-/// The next token after @p at that is no blank; the number of tokens when there is none.
+/// The next token after @p at that is not a blank; the number of tokens when there is none.
 qsizetype nextAfter(const Tokens& tokens, qsizetype at)
 {
     do {
@@ -193,7 +193,7 @@ void changeWildcards(Tokens& tokens)
     }
 }
 
-/// The name that a token stands for; empty when it is none.
+/// The name in a token; empty if it is not a name.
 QString nameOf(const Token& token)
 {
     if (token.kind == Kind::Name)

@@ -21,12 +21,12 @@ struct Meaning {
     const char* text;
 };
 
-/// Extended codes stand before the plain ones that they belong to.
+/// Extended codes come before their plain codes.
 constexpr Meaning meanings[] = {
     {SQLITE_CONSTRAINT_DATATYPE, Failure::Conversion, "Data type conversion error."},
     {SQLITE_CONSTRAINT, Failure::DuplicateKey, "A record with the same key exists already."},
     {SQLITE_MISMATCH, Failure::Conversion, "Data type conversion error."},
-    {SQLITE_NOTADB, Failure::NotOurDatabase, "The file is no database of this program, or it is damaged."},
+    {SQLITE_NOTADB, Failure::NotOurDatabase, "The file is not a database of this program, or it is damaged."},
     {SQLITE_CORRUPT, Failure::NotOurDatabase, "The database is damaged."},
     {SQLITE_BUSY, Failure::DatabaseLocked, "The database is in use by another program."},
     {SQLITE_LOCKED, Failure::DatabaseLocked, "The database is in use."},

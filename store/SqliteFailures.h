@@ -8,11 +8,11 @@ struct sqlite3;
 namespace norvane::store
 {
 
-/// Throws the failure that the connection's last error stands for. @p what names the file, table or statement
-/// concerned.
-/// @throws RuntimeFailure 3022 duplicate key, 3421 a value of the wrong kind, 3343 damaged, 3260 locked by
-/// another program, 75 read only or not to be opened, 61 disk full, 57 device, 3061 for a faulty statement,
-/// 3000 otherwise.
+/// Throws the failure for the connection's last error. @p what names the file, table or statement concerned.
+/// @throws RuntimeFailure with Failure::DuplicateKey, Failure::Conversion for a value of the wrong kind,
+/// Failure::NotOurDatabase when damaged, Failure::DatabaseLocked when locked by another program,
+/// Failure::PathOrFileAccess when read only or not to be opened, Failure::DiskFull, Failure::DeviceIo,
+/// Failure::UnknownNameInQuery for a faulty statement, Failure::EngineFailure otherwise.
 [[noreturn]] void failWithSqlite(sqlite3* connection, const QString& what);
 
 } // namespace norvane::store

@@ -1,4 +1,4 @@
-// The statements behind each move and the rows read ahead; see TableCursor.h.
+// The statements of each move and the rows read ahead; see TableCursor.h.
 #include "store/TableCursor.h"
 
 #include "store/FieldConversion.h"
@@ -36,8 +36,8 @@ std::string withKeyName(std::string_view sql, const std::string& key)
 
 } // namespace
 
-// "%" stands for the key; ?1 is a key and ?2 a row id. Records without a key come before all others, and a
-// comparison never finds them, so they have statements of their own.
+// "%" is the key; ?1 is a key and ?2 a row id. Records without a key come before all others, and a comparison
+// never finds them, so they have separate statements.
 const std::array<TableCursor::AccessSql, TableCursor::AccessCount> TableCursor::accesses = {{
     /* First */ {" ORDER BY %, _rowid_", " ORDER BY _rowid_"},
     /* Last */ {" ORDER BY % DESC, _rowid_ DESC", " ORDER BY _rowid_ DESC"},
@@ -113,7 +113,7 @@ void TableCursor::chooseFields()
     m_fields.erase(std::unique(m_fields.begin(), m_fields.end()), m_fields.end());
 }
 
-/// Reads up to @p most rows and stands on the first. Nothing changes when there is none.
+/// Reads up to @p most rows and moves to the first. If there is none, nothing changes.
 bool TableCursor::read(Access access, const Value& key, std::int64_t rowId, std::size_t most)
 {
     auto& select = statement(access);
@@ -154,7 +154,7 @@ bool TableCursor::isFresh() const
 {
     if (m_filled == 0 || m_stamp.changes != m_database.changes())
         return false;
-    // Inside a transaction nobody else can store.
+    // Inside a transaction no other connection can store.
     const auto transaction = m_database.transactionNumber();
     if (transaction != 0)
         return transaction == m_stamp.transaction;
@@ -222,7 +222,7 @@ bool TableCursor::reread()
     return (mineAlone && isFresh()) || read(ByRowId, {}, row().rowId);
 }
 
-/// The rows read ahead stay valid when this recordset's own change to one row is the only one since.
+/// The rows read ahead remain valid if this recordset's change to one row is the only change since.
 void TableCursor::keepReadAhead()
 {
     if (m_stamp.changes + 1 == m_database.changes())

@@ -14,13 +14,13 @@
 namespace norvane::store
 {
 
-/// Its place is the key and the row id of a record and never a row's number, so records may come and go
-/// around it, the record that it stands on included.
+/// Its place is the key and the row id of a record, not a row's number, so records may be added and deleted
+/// around it, its current record included.
 ///
-/// Rows are read ahead, more of them the longer a walk goes on, and no statement is left open between two
-/// moves: an open one would keep every other connection from storing. What was read ahead is thrown away as
-/// soon as this connection changes anything, and, outside of a transaction, when it is too old to show to a
-/// user who may have stored something on another screen.
+/// Rows are read ahead, more of them as a walk continues, and no statement remains open between two moves: an
+/// open one would keep every other connection from storing. Rows read ahead are discarded when this
+/// connection changes anything and, outside a transaction, when they are too old to show to a user who may
+/// have stored something on another screen.
 class TableCursor : public Cursor
 {
 public:
@@ -28,13 +28,12 @@ public:
 
     /// Chooses the order; nullptr for the order in which records were added. The place is lost.
     void setIndex(const IndexDefinition* index);
-    /// Chooses the order of the moves that follow, from the place where it stands.
+    /// Chooses the order of later moves, from the current place.
     void changeOrder(const IndexDefinition& index);
     [[nodiscard]] const IndexDefinition* index() const { return m_index; }
     bool seek(Seek comparison, const Value& key);
-    /// Moves to a row that its own recordset has added. Takes the values over; what @p values holds
-    /// afterwards is not defined. Nothing is read here: an import adds many rows and needs none of them
-    /// again.
+    /// Moves to a row that this recordset has added. Moves from @p values, whose content is then undefined.
+    /// Reads nothing: an import adds many rows and does not need them again.
     void rowAdded(std::vector<Value>& values, std::int64_t rowId);
     /// Reads these fields and the key alone from now on; all others are null. The place is lost.
     void limitTo(const std::vector<int>& fields);

@@ -14,8 +14,8 @@ namespace norvane::store
 
 void Database::Private::beginTransaction()
 {
-    // Takes the lock at once, which waits for another program. A reader that begins to write later would be
-    // refused without waiting.
+    // Takes the lock immediately, which waits for another program. A reader that starts writing later would
+    // be refused without waiting.
     if (m_depth == 0 && sqlite3_exec(connection(), "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK)
         failWithSqlite(connection(), m_path);
     if (m_depth == 0)
@@ -60,8 +60,8 @@ Transaction::~Transaction()
     try {
         commit();
     } catch (const RuntimeFailure& failure) {
-        // A destructor may not throw: another failure may be passing. Whoever must know that the work was
-        // kept calls commit().
+        // A destructor may not throw: another failure may be passing. Callers that must know that the work
+        // was stored call commit().
         qWarning("%s", failure.what());
     }
 }

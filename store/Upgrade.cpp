@@ -1,4 +1,4 @@
-// The steps that bring an older customer database to the current layout, and the engine that runs them.
+// The steps that upgrade an older customer database to the current layout, and the engine that runs them.
 #include "store/Upgrade.h"
 
 #include "platform/RuntimeFailure.h"
@@ -63,7 +63,7 @@ constexpr Step steps[] = {
 };
 // clang-format on
 
-/// The catalogue's definition under the name as the step spells it.
+/// The catalogue's definition under the name as spelled in the step.
 FieldDefinition fieldOf(const Step& step, const QString& name)
 {
     FieldDefinition field = *fieldNamed(*catalogueTable(QLatin1StringView(step.table)), name);
@@ -110,8 +110,8 @@ bool isCurrent(const Database& database)
     return fieldNamed(table, QString::fromLatin1(steps[0].fields[0])) != nullptr;
 }
 
-/// A customer is taken whatever state the database is in, so no failure leaves here. A field that exists
-/// already is the usual one: it tells the current layout.
+/// A customer is opened whatever the state of the database, so no failure is passed on. A field that already
+/// exists is the usual one: it shows the current layout.
 void workQuietly(const QString& path, const std::function<void(Database&)>& work)
 {
     try {
@@ -130,8 +130,8 @@ void UpgradeDatabase(const QString& path)
         // Even an empty transaction waits at its end for a program that reads.
         if (isCurrent(database))
             return;
-        // What was done before a failure stays, but a computer switched off in between leaves the old layout
-        // whole: a layout half way would never be completed by a later start.
+        // Work done before a failure is kept, but a power cut in between leaves the old layout: a partly
+        // upgraded layout would never be completed by a later start.
         const Transaction transaction(database);
         for (const Step& step : steps)
             run(database, step);

@@ -1,4 +1,4 @@
-// Brings older customer databases to the current layout.
+// Upgrades older customer databases to the current layout.
 #pragma once
 
 #include <QString>
@@ -10,13 +10,12 @@ namespace norvane::store
 /// that exists already is one) ends the routine silently, with nothing undone.
 void UpgradeDatabase(const QString& path);
 
-/// Makes what the store keeps beside the tables for quick queries and an earlier build of the program did not
-/// make yet, and gives fields that were too narrow for a register's answer the room of the current layout.
-/// Adds no table and no field, so the upgrade's rule stands. Every failure is passed over: the customer is
-/// used without it, and the next call tries again.
+/// Creates the structures for quick queries that an earlier build did not create, and widens fields that were
+/// too narrow for a register's values to the current layout. Adds no table and no field, as the upgrade
+/// requires. Every failure is ignored: the customer is used without it, and the next call tries again.
 void completeDatabase(const QString& path);
 
-/// Adds the field unitdescription to productmix; every failure is passed over.
+/// Adds the field unitdescription to productmix; every failure is ignored.
 void UpgradeUnitDescription(const QString& path);
 
 } // namespace norvane::store
