@@ -108,7 +108,7 @@ FrmFunctKey::NumberRow FrmFunctKey::makeNumber(NumberControl control, const QStr
     return row;
 }
 
-/// Everything has its place for good: what a key does not show leaves a blank.
+/// Every control has a fixed place: controls that a key does not show leave a blank.
 QGridLayout* FrmFunctKey::makeGrid()
 {
     auto* const grid = new QGridLayout;
@@ -177,7 +177,7 @@ bool FrmFunctKey::saveRecord()
     return true;
 }
 
-/// @return false when the form stays: the user has closed the question, or the key could not be saved.
+/// @return false if the form remains open: the user has closed the question, or the key could not be saved.
 bool FrmFunctKey::mayLeave()
 {
     readControls();

@@ -24,8 +24,8 @@ namespace norvane::keys
 class OptionColumns;
 class RecordPicker;
 
-/// Shows the options of the key that the user selects. Selecting another key and "E&xit" drop what was not
-/// saved, without a question. Before the first key is selected there is nothing to save.
+/// Shows the options of the key that the user selects. Selecting another key and "E&xit" discard unsaved
+/// changes without a question. Before the first key is selected there is nothing to save.
 class FrmFunctKey : public QDialog
 {
     Q_OBJECT

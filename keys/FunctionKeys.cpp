@@ -59,7 +59,7 @@ QString partOf(const QString& text, ShownFrom::Part part)
     return text;
 }
 
-/// Rounded, where the field holds parts of the number; else as it stands.
+/// Rounded where the field has fractions of the number; else unchanged.
 QString storedText(const Decimal& value, int scale)
 {
     const Decimal stored = scale > 0 ? value.shifted(scale).rounded(0) : value;

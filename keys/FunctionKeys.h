@@ -39,7 +39,7 @@ struct KeyControls {
     Number Halo;
     Number otherno;
     Number otherno2;
-    /// Digits behind the point that Halo shows at least for this key.
+    /// Digits after the point that Halo shows at least for this key.
     int haloDigits = 2;
     /// The same for keys that do not say.
     int standingHaloDigits = 2;
@@ -50,8 +50,8 @@ struct KeyControls {
 class FunctionKeys
 {
 public:
-    /// Keeps the connection. @p values tell the register model whenever a key is shown.
-    /// @throws RuntimeFailure 3021 for an empty table, and those of the database.
+    /// Keeps the connection. @p values provide the register model whenever a key is shown.
+    /// @throws RuntimeFailure with Failure::NoCurrentRecord for an empty table, and those of the database.
     FunctionKeys(std::shared_ptr<store::Database> database, const ApplicationValues& values);
 
     /// All keys in their order. The place is the first key afterwards.
@@ -60,10 +60,10 @@ public:
     [[nodiscard]] int descriptionLength() const;
 
     /// Goes to the row at @p position, which counts from 1: keys are found by their place in the table.
-    /// @throws RuntimeFailure 3021 when the table has no such row.
+    /// @throws RuntimeFailure with Failure::NoCurrentRecord if the table has no such row.
     void moveTo(qint64 position);
     /// Shows the current key. What it does not show is hidden, and no longer ticked.
-    /// @throws RuntimeFailure 13 when a field holds no number.
+    /// @throws RuntimeFailure with Failure::TypeMismatch when a field holds no number.
     void GetData(KeyControls& controls) const;
     /// Saves the current key as one step. Every option that is not ticked, and so every hidden one, is
     /// cleared. A key without an amount takes Halo's number unless that is above 21474836.47.

@@ -6,9 +6,9 @@
 namespace norvane::keys
 {
 
-/// Paints a cell in the colour of what its key does, with a mark whose shape tells the same: a circle for a
-/// function, a triangle for a PLU, a square for a window look-up, a lock for a fixed key, a cross for an item
-/// that is missing.
+/// Paints a cell in the colour of what its key does, with a mark whose shape has the same meaning: a circle
+/// for a function, a triangle for a PLU, a square for a window look-up, a lock for a fixed key, a cross for
+/// an item that is missing.
 class KeyCellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

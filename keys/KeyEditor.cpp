@@ -145,7 +145,7 @@ KeyCells KeyEditor::programmable(KeyCells cells) const
     return cells;
 }
 
-/// A fixed key has nothing that another key could do.
+/// A fixed key's function cannot be put on another key.
 void KeyEditor::copy(const KeyCells& cells)
 {
     const KeyCells keys = programmable(cells);

@@ -10,11 +10,11 @@ namespace norvane::keys
 
 using KeyCells = std::vector<KeyCell>;
 
-/// Why keys stay as they are.
+/// Why keys were not changed.
 enum class Refusal {
     None,
     FixedKey, ///< a fixed key would be moved or written over
-    Outside,  ///< the block would stand out of the keyboard
+    Outside,  ///< the block would extend beyond the keyboard
     NoKeys,   ///< nothing was copied or marked
 };
 
@@ -25,14 +25,14 @@ class KeyEditor
 public:
     explicit KeyEditor(KeyLevel& level) : m_level(level) {}
 
-    /// Forgets the steps and the marked keys: another level was read, or this one afresh.
+    /// Forgets the steps and the marked keys: another level was read, or this one again.
     void levelWasRead();
 
-    /// Puts the item @p number on keys. Of an item that is gone only the cells tell. A fixed cell shows the
-    /// text alone and keeps what it does.
+    /// Puts the item @p number on keys. If the item does not exist, only the cells show it. A fixed cell
+    /// shows the text only and keeps its function.
     void assign(const KeyCells& cells, ItemKind kind, const QString& number);
-    /// @p cells, of which @p from lies on @p to then, change places with the keys that lie there. Where both
-    /// places overlap, the keys in the way fill what becomes free.
+    /// Exchanges @p cells, of which @p from moves to @p to, with the keys there. Where both blocks overlap,
+    /// the displaced keys fill the freed places.
     Refusal swap(const KeyCells& cells, KeyCell from, KeyCell to);
     /// The keys at the new place do what @p cells do.
     Refusal copyTo(const KeyCells& cells, KeyCell from, KeyCell to);

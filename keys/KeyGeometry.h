@@ -1,4 +1,4 @@
-// The keyboards of the register families: where their keys lie and in which order registers count them.
+// The keyboards of the register families: where their keys are and in which order registers count them.
 #pragma once
 
 #include <QLatin1StringView>
@@ -27,7 +27,7 @@ struct KeyCell {
     }
 };
 
-/// A cell whose key does the same on every register. It has no row in the tables.
+/// A cell whose key has the same function on every register. It has no row in the tables.
 struct FixedCell {
     KeyCell cell;
     QLatin1StringView text; ///< with a carriage return between its lines

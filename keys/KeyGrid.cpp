@@ -125,7 +125,7 @@ void KeyGrid::mouseReleaseEvent(QMouseEvent* event)
     chooseCurrent();
 }
 
-/// A cell that Ctrl took out of what is chosen is no longer the current one.
+/// A cell that Ctrl removed from the selection is no longer the current one.
 void KeyGrid::chooseCurrent()
 {
     const QModelIndexList chosen = selectionModel()->selectedIndexes();
@@ -133,8 +133,8 @@ void KeyGrid::chooseCurrent()
         selectionModel()->setCurrentIndex(chosen.last(), QItemSelectionModel::NoUpdate);
 }
 
-/// What is chosen follows the current cell by every key that moves it. With Ctrl it would stay behind,
-/// perhaps out of sight, and be cut instead of the key in hand.
+/// The selection follows the current cell with every key that moves it. With Ctrl it would remain, perhaps
+/// out of sight, and be cut instead of the current key.
 QItemSelectionModel::SelectionFlags KeyGrid::selectionCommand(const QModelIndex& index,
                                                               const QEvent* event) const
 {

@@ -1,4 +1,4 @@
-// The key grid: a view with a block of keys in hand.
+// The key grid: a view with a selected block of keys.
 #pragma once
 
 #include "keys/KeyGridModel.h"
@@ -31,7 +31,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The user wants to choose for the current cell.
+    /// The user asked to choose an item for the current cell.
     void entered();
     void currentCellChanged();
 

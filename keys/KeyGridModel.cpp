@@ -93,7 +93,7 @@ QString KeyGridModel::spokenState(KeyCell cell) const
     return words.join(u", "_s);
 }
 
-/// No "<" can stand in the first line, so that descriptions are never taken for markup.
+/// The first line cannot contain "<", so that descriptions are never read as markup.
 QString KeyGridModel::toolTip(KeyCell cell) const
 {
     const Key& key = m_level.key(cell);

@@ -25,7 +25,7 @@ public:
 
     /// Shows the level as it is now.
     void refresh();
-    /// Marks the cells that a search has found; they stay marked until the next one.
+    /// Marks the cells that a search has found; they remain marked until the next search.
     void setFound(KeyCells cells);
 
     [[nodiscard]] static KeyCell cellOf(const QModelIndex& index) { return {index.row(), index.column()}; }
@@ -36,7 +36,7 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     [[nodiscard]] Qt::DropActions supportedDropActions() const override;
     [[nodiscard]] QStringList mimeTypes() const override;
-    /// Only this program's own keys: the cells stay with the view that drags them.
+    /// Only this program's own keys: the view that drags the cells keeps them.
     [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
     bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                       const QModelIndex& target) override;

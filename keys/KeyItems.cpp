@@ -19,7 +19,7 @@ constexpr ItemTable tables[] = {
 };
 // clang-format on
 
-/// Values of KEYLINK that are no function keys.
+/// Values of KEYLINK that are not function keys.
 constexpr QLatin1StringView pluLink("0");
 constexpr QLatin1StringView lookUpLink("271");
 
@@ -102,7 +102,7 @@ KeyItems::KeyItems(store::Database& database)
         m_records.push_back(openItems(database, table));
 }
 
-/// Of the item that the recordset of the kind stands on.
+/// Of the current item in the recordset of the kind.
 QString KeyItems::textOf(ItemKind kind)
 {
     const store::Recordset& item = records(kind);

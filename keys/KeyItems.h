@@ -49,8 +49,8 @@ struct ItemTable {
     QLatin1StringView table;
     QLatin1StringView number;       ///< field
     QLatin1StringView mark;         ///< ahead of the number in a cell; a function shows no number
-    QLatin1StringView missingKey;   ///< the cell of a key whose item is gone
-    QLatin1StringView missingEntry; ///< the cell after a choice of an item that is gone
+    QLatin1StringView missingKey;   ///< the cell of a key whose item does not exist
+    QLatin1StringView missingEntry; ///< the cell after the choice of an item that does not exist
     KeyState state;
 };
 [[nodiscard]] const ItemTable& itemTable(ItemKind kind);
@@ -67,15 +67,16 @@ struct ItemTable {
 /// The function key that comes back from a register as a PLU key.
 inline constexpr QLatin1StringView pluFunction{"200"};
 
-/// Looks items up as the tables stand at that moment.
+/// Looks items up in the current tables.
 class KeyItems
 {
 public:
     explicit KeyItems(store::Database& database);
 
-    /// A key of these codes with its text. @throws RuntimeFailure 3421 when a code is no number.
+    /// A key of these codes with its text. @throws RuntimeFailure with Failure::Conversion when a code is not
+    /// a number.
     [[nodiscard]] Key keyOf(const QString& function, const QString& lookUp);
-    /// The key that opens the item with @p number. @return nothing when there is no such item.
+    /// The key that opens the item with @p number. @return nothing if there is no such item.
     [[nodiscard]] std::optional<Key> keyFor(ItemKind kind, const QString& number);
 
 private:

@@ -33,7 +33,7 @@ QString refusalText(Refusal refusal)
     case Refusal::FixedKey:
         return u"A fixed key does the same on every register and cannot be moved or replaced."_s;
     case Refusal::Outside:
-        return u"The keys would stand outside the keyboard."_s;
+        return u"The keys would be outside the keyboard."_s;
     case Refusal::NoKeys:
         return u"No keys were copied or marked."_s;
     case Refusal::None:
@@ -116,7 +116,7 @@ void KeyLayout::askAndSave()
         SaveGrid();
 }
 
-/// @return false when the level stays: the user has closed the question, or it could not be saved.
+/// @return false if the level is kept: the user has closed the question, or it could not be saved.
 bool KeyLayout::leaveLevel()
 {
     const std::optional<bool> answer = askToSave();
@@ -136,7 +136,7 @@ void KeyLayout::changeLevel(int level)
     }
 }
 
-/// The level is read afresh afterwards, so that changes are asked about first.
+/// The level is read again afterwards, so that changes are asked about first.
 void KeyLayout::copyLevels()
 {
     if (m_level.differs() && !leaveLevel())
@@ -211,7 +211,7 @@ void KeyLayout::find()
     m_findOutcome->setText(outcome);
 }
 
-/// Row by row; behind the last one comes the first.
+/// Row by row; the first follows the last.
 void KeyLayout::goToNextFound()
 {
     if (m_found.empty())

@@ -41,7 +41,8 @@ class KeyLayout : public QDialog
 
 public:
     /// Opens the chosen customer's database. @p values and @p boxes must outlive the form.
-    /// @throws RuntimeFailure 3021 when a table has fewer rows than level 1 needs, and as reading does.
+    /// @throws RuntimeFailure with Failure::NoCurrentRecord when a table has fewer rows than level 1 needs,
+    /// and as reading does.
     KeyLayout(const KeyGeometry& keyboard, ApplicationValues& values, Boxes& boxes,
               QWidget* parent = nullptr);
 

@@ -38,7 +38,7 @@ QString storedLookUp(const Key& key, int number)
     return numberText.rightJustified(lookUpWidth, u'0');
 }
 
-/// The number that cannot be sought stands in the table that tells the item.
+/// The invalid number is in the table that names the item.
 Key readKey(KeyItems& items, const KeyRows& functions, const KeyRows& lookUps)
 {
     const QString function = functions.text();

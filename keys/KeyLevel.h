@@ -26,14 +26,15 @@ public:
     [[nodiscard]] int level() const { return m_level; }
     [[nodiscard]] KeyItems& items() { return m_items; }
 
-    /// Reads @p level afresh; what was not saved is lost.
-    /// @throws RuntimeFailure 3021 when a table has fewer rows than the level needs, 3421 for a code that is
-    /// no number; the level shown before stays then.
+    /// Reads @p level again; unsaved changes are lost.
+    /// @throws RuntimeFailure with Failure::NoCurrentRecord if a table has fewer rows than the level needs,
+    /// Failure::Conversion for a code that is not a number; the level shown before is then kept.
     void read(int level);
     /// Stores every key of the level in one transaction, unchanged ones too: a function key's row of NLU gets
-    /// its key number whatever it held before, and so does the row of a look-up behind its four digits.
-    /// @throws RuntimeFailure 3021, 13, 3260 ..., which names the level and its rows. Both tables are as
-    /// before then, and the changes can still be saved.
+    /// its key number whatever it had before, and so does the row of a look-up after its four digits.
+    /// @throws RuntimeFailure with Failure::NoCurrentRecord, Failure::TypeMismatch, Failure::DatabaseLocked
+    /// ..., which names the level and its rows. Both tables are then unchanged, and the changes can still be
+    /// saved.
     void save();
     /// Whether a save would store another PLU, function or look-up for any key.
     [[nodiscard]] bool differs() const;

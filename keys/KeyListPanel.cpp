@@ -128,7 +128,7 @@ void KeyListPanel::clearFilter()
     m_filter->clear();
 }
 
-/// Enter chooses; what is typed in a list filters it anew.
+/// Enter chooses; what is typed in a list filters it again.
 bool KeyListPanel::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress)

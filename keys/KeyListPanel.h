@@ -26,7 +26,7 @@ class KeyListPanel : public QWidget
 public:
     KeyListPanel(const std::shared_ptr<store::Database>& database, QWidget* parent);
 
-    /// Brings the keyboard into the list shown.
+    /// Moves the keyboard focus to the list shown.
     void enterList();
     /// Shows all entries again.
     void clearFilter();
@@ -34,7 +34,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The user wants this item on the key; by Enter or by a click.
+    /// The user chose this item for the key, by Enter or a click.
     void chosen(ItemKind kind, const QString& number, bool byEnter);
     /// The user looks at this item.
     void looked(ItemKind kind, const QString& number);

@@ -79,7 +79,7 @@ inline SavedTo appendedTo(KeyField field)
     return {field, SavedTo::Manner::Appending};
 }
 
-/// Tax exemptions in front of a key's own boxes.
+/// Tax exemptions before a key's own boxes.
 inline std::vector<OptionBox> taxSetAnd(const std::vector<OptionBox>& own)
 {
     std::vector<OptionBox> all{{0, "Exempt Tax1"_L1}, {1, "Exempt Tax2"_L1}, {2, "Exempt Tax3"_L1},

@@ -32,7 +32,7 @@ struct OptionPlace {
 /// The place that belongs to @p index, 0 to 23, whatever the key.
 [[nodiscard]] OptionPlace placeOf(int index);
 
-/// On which register models an option exists. Models are told by the text of the setting ECRModel.
+/// On which register models an option exists. Models are identified by the text of the setting ECRModel.
 enum class Models {
     All,
     Card,   ///< all but "0", which knows no smart cards
@@ -53,7 +53,7 @@ enum class NumberControl { Halo, otherno, otherno2 };
 
 /// Where a number is read when its key is shown.
 struct ShownFrom {
-    /// Which part of the field's text the number is. A digit stands beside packed options in some fields.
+    /// Which part of the field's text the number is. Some fields have a digit beside packed options.
     enum class Part { All, FirstCharacter, LastCharacter };
     KeyField field;
     Part part = Part::All;
@@ -64,13 +64,13 @@ struct SavedTo {
     enum class Manner {
         Replacing, ///< the number alone is left in the field
         Adding,    ///< to the sum of the boxes
-        Appending, ///< behind the digits of that sum
+        Appending, ///< after the digits of that sum
     };
     KeyField field;
     Manner manner = Manner::Replacing;
 };
 
-/// How many digits behind the point Halo shows, at least.
+/// How many digits after the point Halo shows, at least.
 enum class HaloDigits {
     AsTheyStand, ///< 2 at first
     NoneFromNow, ///< for this key and all that are shown after it
@@ -83,7 +83,7 @@ struct NumberField {
     ShownFrom from;
     SavedTo to;
     Decimal largest;
-    /// Digits of the stored whole number that stand behind the point: 2 for hundredths.
+    /// Digits of the stored whole number that are after the point: 2 for hundredths.
     int scale = 0;
     HaloDigits digits = HaloDigits::AsTheyStand;
 };
@@ -105,7 +105,7 @@ struct KeyOptions {
 [[nodiscard]] const std::vector<KeyOptions>& keyOptionsTo156();
 [[nodiscard]] const std::vector<KeyOptions>& keyOptionsFrom157();
 
-/// The row of @p rows for function key @p id, nullptr when there is none.
+/// The row of @p rows for function key @p id, nullptr if there is none.
 [[nodiscard]] const KeyOptions* optionsOf(qint64 id, const std::vector<KeyOptions>& rows);
 /// The row of either table.
 [[nodiscard]] const KeyOptions* optionsOf(qint64 id);

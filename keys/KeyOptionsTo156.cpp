@@ -32,7 +32,7 @@ const std::vector<KeyOptions>& keyOptionsTo156()
          {number(otherno, "Print Check On Printer# (0-40)"_L1, {flag4}, {flag2})},
          {{0, "Print Check Automatically on Service"_L1}, {1, "Print Consecutive# on Guest Check"_L1}}},
 
-        // The printer is written behind the digits of the boxes, so that the field may hold three of them.
+        // The printer is written after the digits of the boxes, so the field may have three digits.
         {{key(21)},
          {haloOfKey(),
           number(otherno, "Print Check On Printer# (0-40)"_L1, lastCharacterOf(flag3), appendedTo(flag3))},

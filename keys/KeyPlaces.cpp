@@ -19,7 +19,7 @@ constexpr auto placesStatement =
     "SELECT place FROM links JOIN numbers USING (place) "
     "WHERE keylink = ?1 AND substr(nlu, 1, length(?2)) = ?2 AND place <= ?3 ORDER BY place";
 
-/// Numbers of the keys of one level, from @p at on, which moves behind them.
+/// Numbers of the keys of one level from @p at, which is moved past them.
 QStringList keysOfLevel(const std::vector<KeyPlace>& places, std::size_t& at)
 {
     QStringList keys;

@@ -1,4 +1,4 @@
-// Where an item lies on the keyboards of a customer.
+// Finds the keys of an item on a customer's keyboards.
 #pragma once
 
 #include "keys/KeyGeometry.h"
@@ -18,9 +18,9 @@ struct KeyPlace {
     bool operator==(const KeyPlace&) const = default;
 };
 
-/// The keys that do what is sought, as the tables stand, in the order of the levels.
-/// @param link what field keylink holds: "0" a PLU key, "271" a look-up key, else a function key's id
-/// @param number what field nlu begins with; empty for all keys of this link
+/// The matching keys in the current tables, in the order of the levels.
+/// @param link the value of field keylink: "0" a PLU key, "271" a look-up key, else a function key's id
+/// @param number the start of field nlu; empty for all keys of this link
 [[nodiscard]] std::vector<KeyPlace> findKeys(store::Database& database, const KeyGeometry& keyboard,
                                              const QString& link, const QString& number);
 

@@ -13,7 +13,7 @@ namespace norvane::keys
 struct KeyTable {
     QLatin1StringView table;
     QLatin1StringView field;
-    QLatin1StringView upload; ///< what brings it from a register, as the exchange dialog calls it
+    QLatin1StringView upload; ///< its upload from a register, as named in the exchange dialog
 };
 
 /// What a key does: "0" for a PLU, "271" for a window look-up, else the id of a function key. Empty for an
@@ -22,12 +22,12 @@ struct KeyTable {
 /// Which PLU or look-up it is, in 18 digits; the key's number for a function.
 [[nodiscard]] const KeyTable& nluTable();
 
-/// A walk over one of the tables. Every failure names table and row, counted from 1, and what brings the
-/// table in order again. Running off its end is failure 3021: registers have all rows of all levels.
+/// A walk over one of the tables. Every failure names table and row, counted from 1, and how to repair the
+/// table. Moving past its end fails with Failure::NoCurrentRecord: registers have all rows of all levels.
 class KeyRows
 {
 public:
-    /// Stands on the row behind the first @p rowsAhead.
+    /// Starts at the row after the first @p rowsAhead.
     KeyRows(store::Database& database, const KeyTable& table, int rowsAhead = 0);
 
     void next();
@@ -36,7 +36,7 @@ public:
     /// What the row holds; null as empty text.
     [[nodiscard]] QString text() const { return value().toText(); }
     void store(const store::Value& value);
-    /// Stores another text. A row that holds it already stays as it is, null included.
+    /// Stores another text. A row that already has it is unchanged, null included.
     void store(const QString& text);
     /// Adds table, row and the way out to what went wrong with the row's text.
     [[nodiscard]] QString explained(const QString& failure) const;

@@ -1,4 +1,4 @@
-// Finding keys of the level in hand, and of all levels.
+// Finds keys on the current level and on all levels.
 #pragma once
 
 #include "keys/KeyLevel.h"
@@ -9,12 +9,11 @@
 namespace norvane::keys
 {
 
-/// The cells of the level whose text holds @p part, in any case of letters, row by row; none for an empty
-/// part.
+/// The cells of the level whose text contains @p part, in any case, row by row; none for an empty part.
 [[nodiscard]] std::vector<KeyCell> cellsWith(const KeyLevel& level, const QString& part);
 
-/// The keys that do the same as @p key: on the level in hand as they stand there, on all others as the tables
-/// have them. An unprogrammed key has no others.
+/// The keys that do the same as @p key: on the current level with its unsaved changes, on all others as
+/// stored in the tables. An unprogrammed key has no others.
 [[nodiscard]] std::vector<KeyPlace> keysLike(const Key& key, const KeyLevel& level,
                                              store::Database& database);
 

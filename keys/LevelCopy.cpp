@@ -20,7 +20,7 @@ int rowsAhead(int level)
     return (level - 1) * copiedKeys;
 }
 
-/// "keys 159 to 169 of Level 1 and keys 1 to 147 of Level 2": what lies on @p keyboard where the copy expects
+/// "keys 159 to 169 of Level 1 and keys 1 to 147 of Level 2": what is on @p keyboard where the copy expects
 /// @p level.
 QString keysOf(int level, const KeyGeometry& keyboard)
 {

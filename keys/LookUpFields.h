@@ -26,13 +26,13 @@ public:
     explicit LookUpFields(QWidget* parent);
 
     void setLookUp(const LookUp& lookUp);
-    /// Tells on which keys the look-up lies; an empty text for none.
+    /// Shows on which keys the look-up is; an empty text for none.
     void showKeys(const QString& places);
     /// Puts what the controls hold into @p lookUp, all but its lines.
     void read(LookUp& lookUp) const;
 
 Q_SIGNALS:
-    /// The user ticked or unticked what may stand on the lines.
+    /// The user ticked or unticked what is allowed on the lines.
     void allowedChanged();
 
 private:

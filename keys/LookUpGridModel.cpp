@@ -104,7 +104,7 @@ QVariant LookUpGridModel::data(const QModelIndex& index, int role) const
     }
 }
 
-/// Lines are dropped between or on others; nothing lies below a line.
+/// Lines are dropped between or on others; a line has no children.
 Qt::ItemFlags LookUpGridModel::flags(const QModelIndex& index) const
 {
     return QAbstractTableModel::flags(index) | Qt::ItemIsDropEnabled |
@@ -123,8 +123,8 @@ QMimeData* LookUpGridModel::mimeData(const QModelIndexList& indexes) const
     return data;
 }
 
-/// Between two lines @p row is the lower one, on a line it is that of @p parent, below all there is none. The
-/// view that hears of a move would clear the line where it was, so it hears of none.
+/// Between two lines @p row is the lower one, on a line it is that of @p parent, below all there is none. A
+/// view that is notified of a move would clear the old line, so no move is reported.
 bool LookUpGridModel::dropMimeData(const QMimeData* data, Qt::DropAction /*action*/, int row, int /*column*/,
                                    const QModelIndex& parent)
 {

@@ -26,7 +26,7 @@ bool isLine(const LookUpLines& lines, int place)
 
 } // namespace
 
-/// A PLU number of nothing but zeros is none.
+/// A PLU number of zeros only is empty.
 bool LookUpLine::isEmpty() const
 {
     return std::all_of(code.begin(), code.end(), [](QChar digit) { return digit == u'0'; });

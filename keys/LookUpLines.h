@@ -28,11 +28,12 @@ struct LookUpLine {
 
 using LookUpLines = std::vector<LookUpLine>;
 
-/// Closes the gaps, the others keep their order. A used line behind more than 20 empty ones moves up by 20
-/// places and stays behind the rest of the gap until it is packed again.
+/// Closes the gaps; used lines keep their order. A used line after more than 20 empty ones moves up by 20
+/// places and remains after the rest of the gap until the lines are packed again.
 void packLines(LookUpLines& lines);
 
-/// Takes the line at @p from out and puts it in at @p to, both from 0. @return false when either is no line.
+/// Takes the line at @p from out and puts it in at @p to, both from 0. @return false when either is not a
+/// line.
 bool moveLine(LookUpLines& lines, int from, int to);
 
 /// Lines that are not empty.

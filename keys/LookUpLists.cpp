@@ -112,7 +112,7 @@ void LookUpLists::follow()
     m_filter->setList(shown > 0 ? first->view : nullptr);
 }
 
-/// One row is in hand, whichever list it is in.
+/// Only one row is selected in both lists.
 void LookUpLists::setFilter(const QString& text)
 {
     bool inHand = text.isEmpty();

@@ -20,7 +20,7 @@ namespace norvane::keys
 {
 
 /// PLUs and function keys, each with an option button that hides the other list, and a box above that filters
-/// what is shown. Which of them can be reached is told by the form.
+/// what is shown. The form decides which of them are available.
 class LookUpLists : public QWidget
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
 
     /// Shows a list and its option button, or hides both.
     void reach(ItemKind kind, bool reachable);
-    /// Takes the keyboard into the filter box. Nothing happens while there is no list.
+    /// Moves the keyboard focus to the filter box. Does nothing while there is no list.
     void enter();
     /// Takes the filter away when the keyboard is here. @return whether it is.
     [[nodiscard]] bool leave();

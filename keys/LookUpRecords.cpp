@@ -1,4 +1,4 @@
-// Table wlu and the tables behind its lines; see LookUpRecords.h.
+// Table wlu and the tables of its lines; see LookUpRecords.h.
 #include "keys/LookUpRecords.h"
 
 #include "platform/FailurePlace.h"
@@ -44,7 +44,7 @@ void readFields(const store::Recordset& from, const FlagField (&fields)[count], 
         to.*flag = from.value(field).toNumber() != 0;
 }
 
-/// A field that is empty and stays so is left as it is.
+/// A field that is empty and remains empty is not written.
 template <std::size_t count>
 void storeFields(const LookUp& from, const TextField (&fields)[count], store::Recordset& to)
 {
@@ -74,7 +74,7 @@ QString numbered(QLatin1StringView field, int line)
     return field + QString::number(line);
 }
 
-/// Of all look-ups, of which nothing but number and description is read.
+/// All look-ups; only number and description are read.
 store::Recordset openItems(store::Database& database)
 {
     store::Recordset items = openByKey(database, u"wlu"_s);
@@ -91,10 +91,9 @@ int readLineCount(store::Database& database)
 {
     const store::Recordset memory = database.openTable(u"memoryallocation"_s);
     if (!memory.hasCurrent()) {
-        throw RuntimeFailure(Failure::NoCurrentRecord,
-                             u"Table memoryallocation is empty, so that nobody knows "
-                             "how many lines a look-up has. Upload from the ECR "
-                             "first."_s);
+        throw RuntimeFailure(Failure::NoCurrentRecord, u"Table memoryallocation is empty, so it is not known "
+                                                       "how many lines a look-up has. Upload from the ECR "
+                                                       "first."_s);
     }
     const auto explain = [](const QString& text) {
         return u"Field lines/plu of table memoryallocation: %1"_s.arg(text);

@@ -25,39 +25,42 @@ struct LookUp {
     QString choices; ///< 0 for as many as the customer likes
     bool multiplies = false;
     bool allowsExit = false;
-    QString link; ///< number of the look-up that opens behind this one, 0 for none
+    QString link; ///< number of the look-up that opens after this one, 0 for none
     LookUpLines lines;
     bool operator==(const LookUp&) const = default;
 };
 
-/// Stands on one record of table wlu. The set of records is the register's: none is added or deleted here.
+/// Has one current record of table wlu. The register defines the set of records: none is added or deleted
+/// here.
 class LookUpRecords
 {
 public:
-    /// Goes to the first look-up. @throws RuntimeFailure 3021 when there are none or the register's memory
-    /// allocation is not known, 13 and 9 when that tells no number of lines or more than 50.
+    /// Goes to the first look-up. @throws RuntimeFailure with Failure::NoCurrentRecord if there are none or
+    /// the register's memory allocation is not known, Failure::TypeMismatch if the allocation has no number
+    /// of lines, Failure::SubscriptOutOfRange if it has more than 50.
     explicit LookUpRecords(std::shared_ptr<store::Database> database);
 
-    /// The record on which it stands, read afresh. A line whose item is gone is empty.
+    /// Reads the current record again. A line whose item does not exist is empty.
     [[nodiscard]] LookUp read();
     /// Packs the lines of @p lookUp and stores all of it over the record, with the number of its used lines.
-    /// @throws RuntimeFailure 3167, 3022, 3421 and so on as storing does; nothing is changed then.
+    /// @throws RuntimeFailure with Failure::RecordDeleted, Failure::DuplicateKey, Failure::Conversion and so
+    /// on as storing does; nothing is changed then.
     void save(LookUp& lookUp);
     /// The number of the record as it is stored.
     [[nodiscard]] QString storedNumber() const;
     /// All look-ups in their order.
     [[nodiscard]] QVector<ListedItem> readItems() const;
-    /// The look-up of this number, a text of digits. @return nothing when there is none.
+    /// The look-up of this number, a text of digits. @return nothing if there is none.
     [[nodiscard]] std::optional<ListedItem> find(const QString& number) const;
-    /// Goes to the look-up of this number. @return false when there is none; it stays then.
+    /// Goes to the look-up of this number. @return false if there is none; the current record is then kept.
     bool moveTo(const QString& number);
-    /// @return false at the last record, where it stays.
+    /// @return false at the last record, which remains current.
     [[nodiscard]] bool next();
-    /// @return false at the first record, where it stays.
+    /// @return false at the first record, which remains current.
     [[nodiscard]] bool previous();
 
-    /// What a choice of PLU or function @p number makes of @p line. A PLU is never a condiment; an item that
-    /// is gone leaves the line empty and keeps its word.
+    /// Sets @p line to PLU or function @p number. A PLU is never a condiment; if the item does not exist, the
+    /// line is empty but keeps its text.
     void fill(LookUpLine& line, ItemKind kind, const QString& number);
 
 private:

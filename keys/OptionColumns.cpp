@@ -37,7 +37,7 @@ int columnOf(int index)
     return std::min(index / checksOfFlag, columnCount - 1);
 }
 
-/// What the boxes of all keys need.
+/// The size that fits the boxes of every key.
 struct Room {
     QVector<int> widths = QVector<int>(columnCount);
     qsizetype lines = 0; ///< of the longest column

@@ -12,9 +12,9 @@ class QGridLayout;
 namespace norvane::keys
 {
 
-/// Boxes "Check1_0" to "Check1_23" in three columns: those of flag1, of flag2, and of both others, of which
-/// no key shows many. Boxes that are shown move up, and none ever changes its column. The size is that which
-/// the key with the most options needs, and never changes.
+/// Boxes "Check1_0" to "Check1_23" in three columns: those of flag1, of flag2, and of the two others, which
+/// have few boxes on every key. Boxes that are shown move up, and none ever changes its column. The size fits
+/// the key with the most options and never changes.
 class OptionColumns : public QWidget
 {
     Q_OBJECT

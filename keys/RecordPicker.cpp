@@ -20,7 +20,7 @@ constexpr int numberColumn = 3;
 constexpr int textColumn = 30;
 constexpr int mostRowsShown = 16;
 
-/// As wide as a digit, so that numbers stand right under each other.
+/// As wide as a digit, so that numbers are aligned.
 constexpr QChar figureSpace(0x2007);
 
 QString rowText(const ListedItem& item)
@@ -47,7 +47,7 @@ RecordPicker::RecordPicker(const QString& name, const QString& hint, QWidget* pa
     finder->setCaseSensitivity(Qt::CaseInsensitive);
     finder->setMaxVisibleItems(mostRowsShown);
     setCompleter(finder);
-    // The next record can be typed at once. The finder writes its text after the choice.
+    // The next record can be typed immediately. The finder writes its text after the choice.
     connect(this, &QComboBox::activated, lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
     connect(lineEdit(), &QLineEdit::returnPressed, this, &RecordPicker::takeTyped);
     connect(lineEdit(), &QLineEdit::editingFinished, this, &RecordPicker::dropTyped);

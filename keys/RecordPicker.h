@@ -12,7 +12,7 @@ namespace norvane::keys
 /// Drop-down list with two columns, number and text, in which one can type: a number, or any part of the
 /// text, narrows the list, and Enter takes the record of that number or else the first one found. A click
 /// into the text of the record shown chooses all of it, so that typing replaces it. QComboBox's signal
-/// activated tells each choice; data() of a row is the number.
+/// activated reports each choice; data() of a row is the number.
 class RecordPicker : public QComboBox
 {
     Q_OBJECT

@@ -8,8 +8,8 @@
 namespace norvane::keys
 {
 
-/// Runs @p save, which stores all or nothing. When that fails, a box says why and what to do, and the editor
-/// goes on with what the user has changed.
+/// Runs @p save, which stores all or nothing. If that fails, a box says why and what to do, and the editor
+/// keeps the user's changes.
 /// @return whether it was saved.
 [[nodiscard]] bool saveOrTell(Boxes& boxes, const std::function<void()>& save);
 

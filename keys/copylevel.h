@@ -24,15 +24,15 @@ class ValueList;
 namespace norvane::keys
 {
 
-/// Copies at once when "Copy" is pressed, and closes. Where the keyboard's levels are not those that a copy
-/// counts, it first says which keys are hit and asks.
+/// Copies immediately when "Copy" is pressed, and closes. If the keyboard's levels are not those that a copy
+/// counts, it first says which keys are overwritten and asks.
 class copylevel : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// @p database, @p keyboard and @p values must outlive the dialog. @p values tell whose data is copied
-    /// first, so that the level can come back.
+    /// @p database, @p keyboard and @p values must outlive the dialog. @p values name the customer whose data
+    /// is copied first, so that the level can be restored.
     copylevel(store::Database& database, const KeyGeometry& keyboard, const ApplicationValues& values,
               Boxes& boxes, QWidget* parent = nullptr);
 

@@ -77,7 +77,7 @@ void sizeGrid(QTableView& grid)
     grid.verticalHeader()->hide();
     grid.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     grid.verticalHeader()->setDefaultSectionSize(rowHeight);
-    // Two digits do not fit into the width that was meant for a smaller font.
+    // Two digits do not fit into the width planned for a smaller font.
     const int digits = grid.fontMetrics().horizontalAdvance(u"50"_s) + cellPadding;
     grid.setColumnWidth(LookUpGridModel::NumberColumn,
                         qMax(digits, columnPixels(LookUpGridModel::NumberColumn)));
@@ -180,7 +180,7 @@ int frmwlu::lineInHand() const
     return Grid1->currentIndex().row();
 }
 
-/// The cell in hand is always the one of the item.
+/// The current cell is always the one of the item.
 void frmwlu::takeInHand(int line)
 {
     const QModelIndex cell = m_lines->index(line, LookUpGridModel::ItemColumn);

@@ -36,8 +36,8 @@ class frmwlu : public QDialog
     Q_OBJECT
 
 public:
-    /// Makes the chosen customer's database the one in use and shows its first look-up.
-    /// @throws RuntimeFailure when that cannot be opened or has no look-ups; see LookUpRecords.
+    /// Opens the chosen customer's database and shows its first look-up.
+    /// @throws RuntimeFailure if it cannot be opened or has no look-ups; see LookUpRecords.
     frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
     /// Escape leads from the lists back to the lines first. Like the window's close button it asks about
