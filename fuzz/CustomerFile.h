@@ -14,21 +14,21 @@ namespace norvane::fuzz
 /// all tables of the catalogue, empty.
 [[nodiscard]] const ApplicationValues& customer();
 
-/// The same with a database of one table: a procedure that opens it for itself is not kept waiting by the
-/// definitions of all others.
+/// The same with a database of one table: a procedure that opens it need not read the definitions of all
+/// others.
 [[nodiscard]] const ApplicationValues& customerWith(const QString& table);
 
 /// The database of customer(), opened once.
 [[nodiscard]] store::Database& customerDatabase();
 
-/// Runs @p work and takes back what it did to customerDatabase(): an input must not find what another left.
-/// The recordsets that @p work opens must be gone at its end.
+/// Runs @p work and undoes its changes to customerDatabase(): an input must not see the changes of another.
+/// The recordsets that @p work opens must be destroyed at its end.
 void undone(const std::function<void()>& work);
 
 /// The setting for the kind of register, 0 to 3.
 void setModel(int model);
 
-/// Nobody sits before them: every question gets the answer that loses nothing.
+/// Boxes without a user: every question gets the answer that loses nothing.
 class SilentBoxes : public Boxes
 {
 public:

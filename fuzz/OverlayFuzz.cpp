@@ -49,7 +49,7 @@ void tryInput(std::string_view input)
     if (!succeeds({Failure::InputPastEnd, Failure::TypeMismatch, Failure::Overflow, Failure::TextTooLong},
                   [&] { overlay::readDocument(path, document); }))
         return;
-    // What no line of a file holds, such as a lone carriage return, changes when it is saved; then no more.
+    // Characters that a line cannot contain, such as a lone carriage return, change at the first save only.
     overlay::writeDocument(path, document);
     const QByteArray saved = readWholeFile(path);
     Document again = blank.document;

@@ -15,7 +15,7 @@ void requireWhole(const command::PluFile& file, qint64 lines)
     std::unordered_set<std::uint64_t> numbers;
     for (std::uint32_t index = 0; index < file.lines().size(); ++index) {
         const command::PluLine& line = file.lines()[index];
-        require(line.line >= 1 && line.line <= lines, "a line that was read lies within the file");
+        require(line.line >= 1 && line.line <= lines, "a line that was read is within the file");
         require(file.cells(index).size() == file.columns().size(), "a line has a cell for each column");
         require(numbers.insert(line.number).second != line.isTaken, "a number is taken once");
     }

@@ -1,6 +1,6 @@
-// The procedures around the records: a whole text file replaces a table, and the table is written to a file.
-// Input: number of the file, 52 for the memory allocation; kind of register, bit 7 for an older memory file;
-// then the text.
+// The procedures that use the records: a whole text file replaces a table, and the table is written to a
+// file. Input: number of the file, 52 for the memory allocation; kind of register, bit 7 for an older memory
+// file; then the text.
 #include "exchange/MemoryFile.h"
 #include "fuzz/CustomerFile.h"
 #include "fuzz/FileChoice.h"
@@ -65,7 +65,8 @@ public:
         return imports([&] { records::importRegisterFile(m_file.number, m_context); });
     }
 
-    /// @return what goes to the registers; nothing for an empty table or a number that no register takes.
+    /// @return what is sent to the registers; nothing for an empty table or a number that no register
+    /// accepts.
     QByteArray exported()
     {
         auto result = records::Exported::Nothing;

@@ -52,8 +52,8 @@ public:
             }
         }
     }
-    /// Some fields are answered by the register at another place or in another form than they are sent, and
-    /// its option digits have no place for every combination: such a field need not come back.
+    /// The register returns some fields in another column or form than they are sent, and its option digits
+    /// cannot represent every combination: such a field need not come back.
     [[nodiscard]] bool comesBack(const std::string& field) const
     {
         const auto sent = m_sent.find(field);
@@ -125,7 +125,7 @@ public:
                         });
     }
 
-    /// The current record as it stands in the file.
+    /// The current record as it is in the file.
     Row row()
     {
         m_records.edit();
@@ -136,8 +136,8 @@ public:
         return values;
     }
 
-    /// The line that goes to the register for the current record, without its line end; nothing when it has
-    /// a number that no register takes.
+    /// The line that is sent to the register for the current record, without its line end; nothing if it has
+    /// a number that no register accepts.
     std::optional<std::string> line(const Choice& choice, int number)
     {
         std::string line;
@@ -202,7 +202,7 @@ void requireSame(const Choice& choice, const Table& table, const Row& before, co
     }
 }
 
-/// What was sent once stays the same, however often it is read and sent again.
+/// What was sent once is the same, however often it is read and sent again.
 void tryLine(const Choice& choice, std::string_view line, int number)
 {
     Table& table = tableOf(choice.file);

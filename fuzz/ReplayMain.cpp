@@ -1,5 +1,5 @@
-// Gives every file of the folders named on the command line to a fuzz target, so that what fuzzing found
-// stays mended in every build: the target ends the process where it does not.
+// Runs a fuzz target with every file of the folders named on the command line, so that findings remain fixed
+// in every build: the target ends the process if one does not.
 #include "fuzz/Target.h"
 
 #include <QDirIterator>
@@ -20,7 +20,7 @@ int replay(const QString& folder)
         QFile file(files.next());
         if (!file.open(QIODevice::ReadOnly))
             norvane::fuzz::report(QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
-        // Read by whoever looks for the input that ended the process.
+        // Shows which input ended the process.
         std::fprintf(stderr, "%s\n", qPrintable(file.fileName()));
         const QByteArray content = file.readAll();
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(content.constData()),

@@ -17,7 +17,7 @@ void readPart(Work work)
         work();
     } catch (const RuntimeFailure& failure) {
         require(failure.failure() == Failure::TypeMismatch || failure.failure() == Failure::Overflow,
-                "a wrong value is failure 13 or 6");
+                "a wrong value fails with TypeMismatch or Overflow");
         require(failure.text().contains("a.scn"_L1), "a mistake names the file");
     }
 }

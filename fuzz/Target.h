@@ -13,7 +13,7 @@
 namespace norvane::fuzz
 {
 
-/// Reads one input as the product would. What is no documented answer ends the process.
+/// Reads one input as the product would. Any undocumented result ends the process.
 void tryInput(std::string_view input);
 
 /// Ends the process, so that the input is kept as a finding.
@@ -27,7 +27,7 @@ inline void require(bool holds, const char* what)
 }
 
 /// Runs @p work, which may fail with one of the @p documented numbers; any other exception is a finding.
-/// @return whether it came to its end.
+/// @return whether it finished without a failure.
 template <typename Work>
 bool succeeds(std::initializer_list<Failure> documented, Work work)
 {
@@ -53,7 +53,7 @@ bool succeeds(std::initializer_list<Failure> documented, Work work)
     return byte;
 }
 
-/// Takes the text up to @p mark, and the mark, off @p input; all of it where there is no mark.
+/// Takes the text up to @p mark, and the mark, from @p input; all of it if there is no mark.
 [[nodiscard]] inline std::string_view takeUntil(std::string_view& input, char mark)
 {
     const auto end = input.find(mark);

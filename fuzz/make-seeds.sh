@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # usage: fuzz/make-seeds.sh <folder of the built tools> <folder for the seeds>
-# Makes a first corpus for every fuzz target: what the stand-in tools write for each model, the screens and report files,
-# and a few lines of what people write. Each target tells at its top what its inputs begin with.
+# Makes a first corpus for every fuzz target: what the stand-in tools write for each model, the screens and
+# report files, and a few lines as users write them. Each target's first lines describe the start of its
+# inputs.
 set -euo pipefail
 tools=$(cd "$1" && pwd)
 seeds=$2

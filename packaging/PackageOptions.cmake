@@ -1,7 +1,7 @@
 # Read by cpack for each kind of package: which of the installed parts goes where in it.
 set(build "${CPACK_BUILD_FOLDER}")
 if(CPACK_GENERATOR STREQUAL "DEB")
-  # Each row names its whole way, for the prefix of the package comes behind the folder of a row.
+  # Each row has its whole path, because the prefix of the package comes after the folder of a row.
   set(CPACK_PACKAGING_INSTALL_PREFIX "/")
   set(CPACK_INSTALL_CMAKE_PROJECTS
     "${build};norvane;program;/usr/lib/norvane"

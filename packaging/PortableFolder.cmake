@@ -1,9 +1,9 @@
-# Run while the portable folder is put together, after the program lies in program/: brings the libraries and plugins
+# Runs while the portable folder is built, after the program is in program/: copies the libraries and plugins
 # that not every desktop has, and their licences. qt_plugins: folder of the toolkit's plugins.
 set(folder "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
 set(programs "${folder}/program/norvane" "${folder}/program/norvane-shop")
 
-# Windows on X11 and none, pictures, typing of accents, printers.
+# Plugins for X11 and offscreen windows, pictures, typing of accents, printers.
 set(plugins
   platforms/libqxcb.so
   platforms/libqoffscreen.so
@@ -14,8 +14,8 @@ set(plugins
   platforminputcontexts/libibusplatforminputcontextplugin.so
   printsupport/libcupsprintersupport.so)
 
-# What stays the system's own: the C library, which fits its kernel and loader, and what each desktop has and sets up in
-# its own way, with all that this needs. A second copy of these would quarrel with the first.
+# Libraries taken from the system: the C library, which matches its kernel and loader, and those that each
+# desktop has and configures, with their dependencies. A second copy of these would conflict with the first.
 set(of_system
   "^ld-linux" "^libc\\.so" "^libm\\.so" "^libdl\\.so" "^libpthread\\.so" "^librt\\.so" "^libresolv\\.so"
   "^libX11\\.so" "^libX11-xcb\\.so" "^libxcb\\.so" "^libXau\\.so" "^libXdmcp\\.so" "^libbsd\\.so" "^libmd\\.so"

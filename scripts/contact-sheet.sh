@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes docs/images/screens-N.png anew: every screen of the menu on a database filled from a register of its
-# model. Each screen by itself, for every model, lies in build/contact-sheet/single/ afterwards.
+# Recreates docs/images/screens-N.png: every screen of the menu on a database filled from a register of its
+# model. Single pictures of each screen, for every model, are in build/contact-sheet/single/ afterwards.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

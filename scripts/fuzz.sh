@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # usage: scripts/fuzz.sh [--seconds N | --runs N] [--jobs N] [TARGET...]
-# Builds the fuzz targets (all when none is named) and runs each for N seconds (60) or N inputs, --jobs at a time (2).
-# What is learned stays in build/fuzz-corpus, an input that is a finding in build/fuzz-findings; build/fuzz-corpus/runs.txt
-# has a line for every run. Ends with 1 when there is a finding.
+# Builds the fuzz targets (all when none is named) and runs each for N seconds (60) or N inputs, --jobs at a
+# time (2). New inputs are kept in build/fuzz-corpus, findings in build/fuzz-findings;
+# build/fuzz-corpus/runs.txt has a line for every run. The exit code is 1 if there is a finding.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

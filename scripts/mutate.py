@@ -127,7 +127,7 @@ def tests_of(folder):
 
 
 def run(command, seconds=None, **options):
-    """Returns the exit code, or None at the time limit. Ends with everything that the command started."""
+    """Returns the exit code, or None at the time limit. Kills everything that the command started at the end."""
     child = subprocess.Popen(command, stdin=subprocess.DEVNULL, start_new_session=True, **options)
     try:
         return child.wait(seconds)

@@ -1,11 +1,11 @@
 #!/bin/sh
-# The night of all customers in a folder of the program: collects the sales of each, writes the day's report, and
-# publishes to a chain's database where one is named. One customer's failure does not stop the next. Prints only what
-# failed, which cron mails, and ends with 1 then.
+# The night of all customers in a folder of the program: collects the sales of each, writes the day's report,
+# and publishes to a chain's database if one is named. One customer's failure does not stop the next. Prints
+# only failures, which cron mails; the exit code is then 1.
 #
 #   norvane-night.sh FOLDER REPORTS [CONNECTION]
 #
-# Run twice, it stores and publishes nothing twice and writes the same reports again.
+# A second run stores and publishes nothing twice and writes the same reports again.
 set -u
 [ $# -ge 2 ] || { echo "usage: norvane-night.sh FOLDER REPORTS [CONNECTION]" >&2; exit 2; }
 shop=$(dirname "$0")/norvane-shop
@@ -14,7 +14,7 @@ reports=$2
 connection=${3:-}
 failed=0
 
-# attempt CUSTOMER WORD...: a command on a customer, told when it fails.
+# attempt CUSTOMER WORD...: runs a command on a customer and reports a failure.
 attempt() {
   customer=$1
   shift
@@ -33,7 +33,7 @@ names=$(printf '%s\n' "$customers" | sed -n 's/^ *"name": "\(.*\)",*$/\1/p')
 while IFS= read -r customer; do
   [ -n "$customer" ] || continue
   # Sales that an earlier night stored and could not clear at all registers are cleared first.
-  # Without its sales the report of the day would be wrong, and nobody would look at it again.
+  # Without its sales the report of the day would be wrong, and nobody would check it again.
   attempt "$customer" collect "$customer" --clear-first &&
     attempt "$customer" report "$customer" plusales --day "$day" --pdf "$(realpath "$reports")/$customer $day.pdf"
   [ -z "$connection" ] || attempt "$customer" publish "$customer" --to "$connection"

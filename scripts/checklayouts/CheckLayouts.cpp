@@ -1,8 +1,8 @@
-// Reads every layout and every screen of a folder and holds them against the catalogue.
+// Reads every layout and every screen of a folder and compares them with the catalogue.
 //
 //   check_layouts <folder>
 //
-// Tells each mistake on a line; the exit code is 1 when there is one.
+// Prints each mistake on a line; the exit code is 1 if there is one.
 #include "command/InstallationCheck.h"
 
 #include <cstdio>

@@ -59,7 +59,7 @@ QImage pictureOf(windows::FilledShop& shop, const shell::MenuEntry& entry)
     return image;
 }
 
-/// Pictures of all screens of a model; reports on the error output which could not be opened.
+/// Pictures of all screens of a model; reports on standard error which could not be opened.
 QVector<Shot> shotsOf(int model)
 {
     windows::FilledShop shop(model);

@@ -35,7 +35,7 @@ void require(bool holds, const QString& complaint)
         throw std::runtime_error(complaint.toStdString());
 }
 
-/// Nobody is there to read or to answer, so any box is a failure.
+/// No user can read or answer, so any box is a failure.
 class NoBoxes : public Boxes
 {
 public:
@@ -157,7 +157,7 @@ ApplicationValues makeCustomer(const Wish& wish, const QString& folder)
     return values;
 }
 
-/// A copy beside the program's folder first: a move within one disk happens at once or not at all.
+/// First a copy beside the program's folder: a move within one disk is atomic.
 void moveIntoProgram(const QString& customer, const QString& program)
 {
     QDir copy(program + u".demo"_s);

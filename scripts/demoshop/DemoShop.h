@@ -8,7 +8,7 @@ namespace demo
 {
 
 struct Wish {
-    QString program; ///< folder of the program, with tools, templates and a bank that answers
+    QString program; ///< folder of the program, with tools, templates and a working bank
     QString tools;   ///< folder with makebank and ringsales
     QString scratch; ///< folder for temporary files, on a quick disk
     QDate first;     ///< first and last day of the sales

@@ -177,7 +177,7 @@ constexpr WaitingBox waitingBoxes[] = {
      }},
 };
 
-/// Windows that lie in the frame, by their menu entries.
+/// Windows inside the frame, by their menu entries.
 constexpr const char* formsInFrame[] = {"DataSetup", "About", "CollectSales", "Quelmontkeyboard"};
 
 void show(QWidget& window)

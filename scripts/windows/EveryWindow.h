@@ -8,7 +8,7 @@
 namespace norvane::windows
 {
 
-/// Gets each window while it stands open, under a name of its own.
+/// Receives each window while it is open, under a unique name.
 using Look = std::function<void(const QString& name, QWidget& window)>;
 
 /// The main window with its menus, every screen on a model that has it, every dialog and box.

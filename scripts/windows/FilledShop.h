@@ -1,4 +1,4 @@
-// A shop whose database was filled from a register, for all who look at its windows.
+// A shop whose database was filled from a register, for programs that check its windows.
 #pragma once
 
 #include "shell/MenuTree.h"
@@ -19,7 +19,7 @@ public:
     explicit FilledShop(int model);
 
     [[nodiscard]] shell::FrmMain& frame() const;
-    /// The file of a menu entry's screen; empty for other entries and where this model has none.
+    /// The file of a menu entry's screen; empty for other entries and if this model has none.
     [[nodiscard]] QString screenFile(const shell::MenuEntry& entry) const;
     /// Opens the screen of @p entry, also of a grey one. @throws what the screen throws.
     QWidget& openScreen(const shell::MenuEntry& entry);

@@ -24,7 +24,7 @@ QSize sizeOf(const QWidget& control, const QString& text)
     return control.fontMetrics().size(Qt::TextShowMnemonic, text);
 }
 
-/// Where the text of now stands.
+/// The position of the current text.
 QRect placeOf(const QWidget& control, const QString& text, Qt::Alignment alignment, const QRect& room)
 {
     const QSize shown = sizeOf(control, text).boundedTo(room.size());
@@ -104,7 +104,7 @@ void addCombo(Texts& texts, const QComboBox& combo)
         texts.last().letters = placeOf(combo, combo.currentText(), Qt::AlignLeft | Qt::AlignVCenter, room);
 }
 
-/// The tool tip of a number box tells how far it may go.
+/// The tool tip of a number box shows its range.
 QString longestContent(const QLineEdit& box)
 {
     if (const auto end = box.toolTip().indexOf(u" to "_s); end > 0 && box.toolTip().startsWith(u"From "_s))
@@ -156,7 +156,7 @@ void addHeader(Texts& texts, const QHeaderView& header)
     }
 }
 
-/// Keys wrap and fit their letters by themselves, and the status bar tells the whole text.
+/// Keys wrap and fit their letters themselves, and the status bar shows the whole text.
 bool fitsItself(const QAbstractItemView& view)
 {
     return view.inherits("norvane::keys::KeyGrid");

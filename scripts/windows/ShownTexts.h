@@ -13,10 +13,9 @@ namespace norvane::windows
 struct ShownText {
     const QWidget* control;
     QString text;
-    QRect room; ///< what the style leaves the text, in the control's coordinates
-    QSize
-        need; ///< of the text, or of the longest one that can stand there; empty where the toolkit sees to it
-    QRect letters; ///< where the text of now stands, in the control's coordinates
+    QRect room;    ///< what the style leaves the text, in the control's coordinates
+    QSize need;    ///< of the text, or of the longest possible one; empty where the toolkit ensures it
+    QRect letters; ///< position of the current text, in the control's coordinates
 };
 
 /// All texts in view of @p window and of the controls in it.

@@ -41,7 +41,7 @@ bool mayBeCut(const ShownText& text)
     return text.control->toolTip() == text.text;
 }
 
-/// Cells and headings may lie partly outside a table that scrolls.
+/// Cells and headings may be partly outside a table that scrolls.
 bool isOfView(const ShownText& text)
 {
     return qobject_cast<const QAbstractScrollArea*>(text.control->parentWidget()) != nullptr;
@@ -142,7 +142,7 @@ QString described(const ShownText& text, const QString& fault)
     return u"%1 \"%2\": %3"_s.arg(name, text.text.left(60).simplified(), fault);
 }
 
-/// Tools that do not fit hide behind an arrow.
+/// Tools that do not fit are hidden in an arrow menu.
 QStringList hiddenTools(const QWidget& window)
 {
     QStringList faults;

@@ -1,4 +1,4 @@
-// Looks for texts of a window that a user cannot read as they stand: cut, covered by others, too pale.
+// Finds texts of a window that a user cannot read: cut, covered by others, too pale.
 #pragma once
 
 #include <QImage>

@@ -1,8 +1,8 @@
-// Opens every window and tells which texts cannot be read: cut, covered, too pale, or off a small screen.
+// Opens every window and lists the texts that cannot be read: cut, covered, too pale, or off a small screen.
 //   check_windows [--scale 2] [--font 150] [--dark | --contrast] [--pictures <folder>]
 // --scale is the number of pixels to a point, --font the size of the system's font in percent. The screen has
-// 1024 x 768 points. What a screen reader could not say is a fault as well. A line for each fault; the exit
-// code is 1 when there is one.
+// 1024 x 768 points. What a screen reader could not say is a fault as well. Prints a line for each fault; the
+// exit code is 1 if there is one.
 #include "scripts/windows/EveryWindow.h"
 #include "scripts/windows/SpokenControls.h"
 #include "scripts/windows/TextCheck.h"
@@ -107,8 +107,8 @@ QString tooLarge(const QWidget& window)
                : QString();
 }
 
-/// F1 leads to the beginning of the user guide there, which helps nobody in a form. Boxes and menus lie above
-/// a form; the splash takes no keys.
+/// F1 opens the beginning of the user guide there, which is no help in a form. Boxes and menus are above a
+/// form; the splash takes no keys.
 QString withoutHelp(const QWidget& window)
 {
     QString name = window.objectName();

@@ -1,8 +1,8 @@
-// The bank of registers behind the tools: a folder with one sub-folder for each register.
+// The bank of registers that the tools use: a folder with one sub-folder for each register.
 //
 // registers.ini, in the working directory or beside the tool, says in [Bank] Folder= where the bank is,
-// relative to itself. Each register's folder is its number from 1 and holds register.ini, the binary files
-// NN.dat and what it sold (Totals.h).
+// relative to itself. Each register's folder is its number from 1 and contains register.ini, the binary files
+// NN.dat and its sales (Totals.h).
 #pragma once
 
 #include "tools/bank/Model.h"

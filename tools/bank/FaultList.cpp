@@ -73,7 +73,7 @@ std::optional<Fault> dueFault(const QString& bankFolder, const Step& step)
     std::optional<Fault> due;
     for (const QString& name : ini.childGroups()) {
         ini.beginGroup(name);
-        // Each section that matches counts, also behind the one that is due.
+        // Every matching section is counted, also after the one that is due.
         const bool now = matches(ini, step) && isTurnOf(ini, countMatch(bankFolder, name));
         if (now && !due)
             due = readFault(ini);

@@ -1,4 +1,4 @@
-// faults.ini of the bank: steps that are to fail, for testers who want to see what the user would see.
+// faults.ini of the bank: steps that are to fail, so that testers see what the user would see.
 #pragma once
 
 #include <QString>
@@ -13,7 +13,7 @@ struct Step {
     QString tool; ///< "VELMARCOMM" or "convert"
     QString
         command;  ///< VELMARCOMM: open, fetch, send, consolidate, collect, clear; convert: "u67" and the like
-    int file = 0; ///< 0: the step has no file of its own
+    int file = 0; ///< 0: the step has no file
 };
 
 struct Fault {
@@ -21,8 +21,8 @@ struct Fault {
     int atRegister = 0;           ///< the registers before it are still served; 0: fails before the first
     int hangSeconds = 0;          ///< waits so long before anything else
     bool crash = false;           ///< ends as a program fault does, nothing written
-    QString status;               ///< none: status.out is not touched; garbage: it holds no number
-    std::optional<int> bytesLeft; ///< what arrives of each file; the result stays 0
+    QString status;               ///< none: status.out is not touched; garbage: it contains no number
+    std::optional<int> bytesLeft; ///< bytes of each file that arrive; the result remains 0
 };
 
 /// @return the first fault of @p bankFolder's faults.ini that is due at @p step. Every matching call is

@@ -7,8 +7,8 @@
 namespace bank
 {
 
-/// @return the path of the file in @p folder whose name equals @p name but for letter case; the path with the
-/// name as given when there is none. An exact match goes before others.
+/// @return the path of the file in @p folder whose name equals @p name except for case; the path with the
+/// given name if there is none. An exact match wins.
 [[nodiscard]] QString pathOf(const QString& folder, const QString& name);
 
 /// Reads the whole file. @throws ToolFailure FileOpenError

@@ -23,7 +23,7 @@ enum class Form : quint8 {
 struct Column {
     Form form = Form::Text;
     int width = 0;              ///< characters in the text form; of Bare the longest
-    QList<QByteArray> values{}; ///< of Bare and Code: what may stand there
+    QList<QByteArray> values{}; ///< of Bare and Code: the allowed values
 
     /// Bytes in the packed record.
     [[nodiscard]] int packedLength() const;
@@ -42,12 +42,12 @@ constexpr int generationOf(int memoryCode)
 /// All layout codes in ascending order.
 [[nodiscard]] const std::vector<int>& layoutCodes();
 
-/// @return the columns of the file with @p layoutCode; empty when it has no text form.
+/// @return the columns of the file with @p layoutCode; empty if it has no text form.
 [[nodiscard]] Columns columnsOf(int layoutCode, Model model);
 
 [[nodiscard]] int packedLength(const Columns& columns);
 
-/// Files that travel as bytes and have no text form.
+/// Files that are transferred as bytes and have no text form.
 [[nodiscard]] const std::vector<int>& opaqueFiles();
 
 /// How many records a register of @p model has room for in @p file. Where the memory file says it, @p memory

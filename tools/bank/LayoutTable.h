@@ -6,7 +6,7 @@
 namespace bank
 {
 
-/// Room that the register's memory file tells: the number in this column, counted from 1.
+/// Capacity from the register's memory file: the number in this column, counted from 1.
 struct Memory {
     int column;
 };

@@ -10,7 +10,7 @@ namespace bank
 
 enum class Model : quint8 { Velmaro = 0, Velmarn = 1, Dorvik = 2 };
 
-/// The word that stands for @p model on convert's command line and in register.ini.
+/// The word for @p model on convert's command line and in register.ini.
 [[nodiscard]] QString modelWord(Model model);
 
 /// @return nothing for a word that differs from all three, letter case included.

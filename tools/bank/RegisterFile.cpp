@@ -28,7 +28,7 @@ ToolFailure wrongInformation(const QString& text)
     return {FileInformationWrong, text};
 }
 
-/// What stands in front of the records.
+/// The header before the records.
 struct Header {
     quint8 stamp = 0;
     quint8 number = 0;

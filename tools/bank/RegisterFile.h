@@ -9,7 +9,7 @@
 //   15..16      CRC-16 of bytes 1..14 and the records
 // clang-format on
 //
-// Numbers are big-endian. The stamp stands at byte 5 because that is where a collected report carries it.
+// Numbers are big-endian. The stamp is at byte 5, as in a collected report.
 #pragma once
 
 #include "tools/bank/Model.h"
@@ -23,7 +23,7 @@ struct RegisterFile {
     int file = 0;
     Model model = Model::Velmaro;
     int recordLength = 0; ///< bytes
-    QByteArray records{}; ///< all records, one behind the other
+    QByteArray records{}; ///< all records, one after the other
     quint8 stamp = 0;
 
     [[nodiscard]] qsizetype recordCount() const
@@ -38,7 +38,7 @@ struct RegisterFile {
 
 [[nodiscard]] QByteArray toBytes(const RegisterFile& file);
 
-/// @throws ToolFailure FileInformationWrong for what is no register file, FileSizeMismatch when the length
+/// @throws ToolFailure FileInformationWrong for what is not a register file, FileSizeMismatch when the length
 /// does not fit the header, BadCrc when the content was changed.
 [[nodiscard]] RegisterFile fromBytes(const QByteArray& bytes);
 

@@ -1,7 +1,7 @@
 // Consolidating, adding up and writing reports; see Reports.h.
 //
-// A record of a collected file holds its numbers as 64-bit big-endian thousandths, in report 194 behind the
-// 18 digits of the PLU and, when the register is set to send them, the 16 characters of its description.
+// A record of a collected file has its numbers as 64-bit big-endian thousandths, in report 194 after the 18
+// digits of the PLU and, if the register is set to send them, the 16 characters of its description.
 #include "tools/bank/Reports.h"
 
 #include "tools/bank/Layout.h"
@@ -35,7 +35,7 @@ struct Shape {
     std::size_t numbers;
 };
 
-/// The reports whose records are known by their place.
+/// The reports whose records are identified by their position.
 constexpr std::array shapes{Shape{financialReport, 2}, Shape{timeReport, 2}, Shape{clerkReport, 2},
                             Shape{mixReport, 1}};
 
@@ -45,13 +45,13 @@ std::size_t numbersOfPlu(quint8 stamp)
     return 2 + 2 * (byLevel ? std::max<std::size_t>(stamp >> 4, 1) : 1);
 }
 
-/// Of what stands in front of a PLU's numbers.
+/// Length in bytes of the fields before a PLU's numbers.
 qsizetype headLength(quint8 stamp)
 {
     return pluDigits + ((stamp & descriptionBit) != 0 ? descriptionWidth : 0);
 }
 
-/// @param head bytes of PLU number and description in front of the numbers, 0 when there are none
+/// @param head bytes of PLU number and description before the numbers, 0 if there are none
 QByteArray reportLine(const QByteArray& record, qsizetype head)
 {
     QByteArrayList values;

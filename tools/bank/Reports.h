@@ -16,15 +16,15 @@ namespace bank
 /// The five reports in the order in which they are asked for.
 [[nodiscard]] const std::vector<int>& reportFiles();
 
-/// Moves the open totals over to be collected.
-/// @return false when those of an earlier run still wait; they and the open totals then stay as they are.
+/// Moves the open totals to the consolidated ones.
+/// @return false if those of an earlier run still wait; they and the open totals are then unchanged.
 [[nodiscard]] bool consolidateReports(const Register& target);
 
-/// Forgets the consolidated totals. @throws ToolFailure 15 when they cannot be removed
+/// Deletes the consolidated totals. @throws ToolFailure 15 if they cannot be removed
 void clearReports(const Register& target);
 
-/// The consolidated totals of several registers, added up. The first register says what the PLU report looks
-/// like; price levels of the others that it has no room for are counted with its last one.
+/// The consolidated totals of several registers, added up. The first register defines the layout of the PLU
+/// report; price levels of the others beyond it are counted with its last one.
 class Collection
 {
 public:
@@ -50,7 +50,7 @@ private:
     std::map<QByteArray, Plu> m_plus;
 };
 
-/// The text form of a collected file, a line for each record. @throws ToolFailure for what is none
+/// The text form of a collected file, a line for each record. @throws ToolFailure for anything else
 [[nodiscard]] QByteArray reportText(const RegisterFile& file);
 
 } // namespace bank

@@ -10,7 +10,7 @@ namespace bank
 namespace
 {
 
-/// A column's text is wrong; the caller knows where it stands.
+/// A column's text is wrong; the caller knows its position.
 struct ColumnFault {
     QString text;
 };
@@ -46,7 +46,7 @@ QString complaintAbout(const QByteArray& value, const Column& column)
 {
     switch (column.form) {
     case Form::Text:
-        return hasControlCharacter(value) ? u"a control character stands in the text"_s : QString();
+        return hasControlCharacter(value) ? u"the text contains a control character"_s : QString();
     case Form::Digits:
         return onlyDigitsUpTo('9', value) ? QString() : quoted(value) + " is not all digits"_L1;
     case Form::Options:
@@ -94,11 +94,11 @@ QByteArray packColumn(const QByteArray& value, const Column& column)
 QByteArray codeText(char code, const Column& column)
 {
     if (static_cast<unsigned char>(code) >= column.values.size())
-        throw ColumnFault{u"an unknown code stands in the record"_s};
+        throw ColumnFault{u"the record contains an unknown code"_s};
     return column.values.at(code);
 }
 
-/// A comma that a cashier keyed in stays: the text form cannot protect it.
+/// A comma keyed in by a cashier is kept: the text form cannot quote it.
 QByteArray unpackColumn(const QByteArray& packed, const Column& column)
 {
     if (isCode(column))

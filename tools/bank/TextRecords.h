@@ -25,7 +25,7 @@ private:
 };
 
 /// @param text lines that each end in carriage return and line feed, at least one
-/// @return the packed records, one behind the other
+/// @return the packed records, one after the other
 /// @throws TextFault at the first column that does not fit
 [[nodiscard]] QByteArray packText(const QByteArray& text, const Columns& columns);
 

@@ -21,7 +21,7 @@ enum Result {
     TimeOut = 8,
     BadCrc = 11,
     MachineBusy = 12,
-    /// Consolidated reports of an earlier run still wait for collection or clearing; they stay.
+    /// Consolidated reports of an earlier run still wait for collection or clearing; they are kept.
     ReportsWaiting = -13,
 };
 

@@ -21,7 +21,7 @@ namespace
 
 constexpr std::array reportsByPlace{financialReport, timeReport, clerkReport, mixReport};
 constexpr qint64 thousand = 1000;
-constexpr qint64 largestTotal = 1'000'000'000'000; ///< so that sums over all registers stay exact
+constexpr qint64 largestTotal = 1'000'000'000'000; ///< so that sums over all registers remain exact
 
 std::optional<qint64> parseThousandths(const QByteArray& text)
 {
@@ -100,7 +100,7 @@ void addNumbers(Numbers& into, const Numbers& numbers)
 void Totals::add(int report, std::size_t item, const Numbers& numbers)
 {
     auto& items = byPlace[report];
-    // An item without sales still needs a line, or those behind it would move up.
+    // An item without sales still needs a line, or those after it would move up.
     items.resize(std::max(items.size(), item), Numbers(numbers.size()));
     addNumbers(items[item - 1], numbers);
 }

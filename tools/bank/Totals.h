@@ -32,7 +32,7 @@ constexpr qsizetype pluDigits = 18;
 [[nodiscard]] QByteArray numberText(qint64 thousandths);
 
 struct Totals {
-    std::map<int, std::vector<Numbers>> byPlace; ///< of all reports but 194, item 1 first
+    std::map<int, std::vector<Numbers>> byPlace; ///< of all reports except 194, item 1 first
     std::map<QByteArray, Numbers> plus; ///< by PLU number of 18 digits: promotion, waste, then count and
                                         ///< value for each price level
 

@@ -38,7 +38,7 @@ QByteArray resource(const QString& name)
     return file.readAll();
 }
 
-/// The contents of this model, else those of all models.
+/// The contents of this model, otherwise those of all models.
 QString contentsName(int file, Model model)
 {
     const auto own = u"%1-%2"_s.arg(file).arg(modelWord(model).toLower());
@@ -177,7 +177,7 @@ private:
         return record;
     }
 
-    /// Bytes that nobody reads. They differ by register, so that a copy shows where it came from.
+    /// Bytes that no tool reads. They differ by register, so that the origin of a copy can be seen.
     void writeOpaque(int file) const
     {
         if (file == imageFile && m_target.generation == 2) {

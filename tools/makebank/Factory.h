@@ -16,7 +16,7 @@ struct Kind {
 /// @param index 0 to 3. @throws std::out_of_range
 [[nodiscard]] const Kind& kindOf(int index);
 
-/// Writes all files of @p target anew.
+/// Writes all files of @p target again.
 /// @param kindIndex 0 to 3, the kind that it is
 /// @param plus number of PLUs, 0 for the shop's own range
 /// @throws std::runtime_error, ToolFailure

@@ -13,7 +13,7 @@ namespace
 
 constexpr char registerMark = '\xFD';
 
-/// "^" and two hexadecimal digits behind a backslash stand for characters that a plain text cannot hold.
+/// "^", and a backslash with two hexadecimal digits, encode characters that a plain text cannot contain.
 QByteArray registerText(QByteArray value)
 {
     value.replace('^', registerMark);

@@ -1,4 +1,4 @@
-// The compact form of factory contents: a register file's records as they leave the works, without padding.
+// The compact form of factory contents: a register file's factory records without padding.
 //
 // clang-format off
 //   ; a remark
@@ -9,8 +9,8 @@
 //   fill room ...      up to the number of records that the register has room for
 // clang-format on
 //
-// In texts "^" stands for the register's mark and \A3 for the character with that code. A digit column is
-// filled with zeros on the left, or on the right when its value ends in "<".
+// In texts "^" means the register's mark and \A3 the character with that code. A digit column is filled with
+// zeros on the left, or on the right when its value ends in "<".
 #pragma once
 
 #include "tools/bank/Layout.h"

@@ -1,5 +1,5 @@
 // The keyboards of a factory-fresh register: what each key of the five levels does (file 16) and the number
-// that goes with it (file 17), from a plan of the keys as they lie before the cashier.
+// that goes with it (file 17), from a plan of the keys as the cashier sees them.
 #pragma once
 
 #include "tools/bank/Model.h"

@@ -1,6 +1,6 @@
-// makebank: makes a bank of registers with factory contents.
+// makebank: creates a bank of registers with factory contents.
 //   makebank <folder> [--registers N] [--model 0|1|2|3] [--plus N] [--fresh]
-// A bank that is there is kept as it stands unless --fresh is given.
+// An existing bank is kept unchanged unless --fresh is given.
 #include "tools/bank/Bank.h"
 #include "tools/bank/ToolFailure.h"
 #include "tools/makebank/Factory.h"
@@ -47,7 +47,7 @@ void declareOptions(QCommandLineParser& parser)
         {u"registers"_s, u"Number of registers."_s, u"N"_s, u"1"_s},
         {u"model"_s, u"Kind of register, 0 to 3."_s, u"index"_s, u"2"_s},
         {u"plus"_s, u"Number of PLUs; 0: the shop's own range."_s, u"N"_s, u"0"_s},
-        {u"fresh"_s, u"Make the bank anew."_s},
+        {u"fresh"_s, u"Create the bank again."_s},
     });
 }
 
@@ -95,7 +95,7 @@ void run(const Wish& wish)
     if (wish.fresh)
         removeBank(wish);
     if (!Bank(wish.folder).registers().isEmpty()) {
-        std::printf("The bank %s is kept as it stands.\n", qPrintable(wish.folder));
+        std::printf("The bank %s is kept unchanged.\n", qPrintable(wish.folder));
         return;
     }
     for (int number = 1; number <= wish.registers; ++number)

@@ -113,7 +113,7 @@ private:
         return percent >= 98 && article.waste ? Entry::Waste : Entry::Sale;
     }
 
-    /// What stands early in the programme, such as the coffee, sells many times as often as what stands late.
+    /// Articles early in the programme, such as the coffee, sell many times as often as late ones.
     const Article& wanted()
     {
         const int count = static_cast<int>(m_programme.articles.size());

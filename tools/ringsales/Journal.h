@@ -1,5 +1,5 @@
 // The journal of a day: a line of comma-separated text for each item rung, from which every total can be
-// added up anew.
+// added up again.
 #pragma once
 
 #include "tools/ringsales/Day.h"

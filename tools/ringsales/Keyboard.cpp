@@ -15,7 +15,7 @@ constexpr int numberFile = 17;
 constexpr int windowFile = 57;
 constexpr qsizetype keyLevels = 5;
 constexpr qsizetype windowDigits = 4;
-/// A window's lines stand in pairs of columns behind what describes it.
+/// A window's lines are pairs of columns after its description.
 constexpr qsizetype firstLine = 6;
 const QByteArray pluLink = "0200"_ba;
 const QByteArray windowLink = "0300"_ba;
@@ -74,7 +74,7 @@ QByteArrayList Keyboard::articlesOf(const Code& code) const
                                    : QByteArrayList();
 }
 
-/// What is noted already stays.
+/// Existing notes are kept.
 void Keyboard::noteKeys(const QByteArray& link)
 {
     for (qsizetype row = 0; row < m_keysALevel * keyLevels; ++row) {

@@ -19,7 +19,7 @@ struct KeyPlace {
 
     /// "2/17" as the journal and the command line write it.
     [[nodiscard]] QByteArray text() const;
-    /// @return nothing when @p text is no place of a key.
+    /// @return nothing if @p text is not the place of a key.
     [[nodiscard]] static std::optional<KeyPlace> of(const QString& text);
     bool operator==(const KeyPlace&) const = default;
 };
@@ -30,8 +30,8 @@ public:
     /// Reads the register's keys and its window look-ups. @throws ToolFailure, TextFault
     explicit Keyboard(const Register& of);
 
-    /// The first key that rings PLU @p number (18 digits), one of its own before one that opens a window with
-    /// it. @return nothing for an article that is rung by its number.
+    /// The first key that rings PLU @p number (18 digits); a key of the PLU comes before one that opens a
+    /// window with it. @return nothing for an article that is rung by its number.
     [[nodiscard]] std::optional<KeyPlace> keyOf(const QByteArray& number) const;
     /// The PLU numbers that key @p place rings: its own, or those in its window. Empty for any other key.
     [[nodiscard]] QByteArrayList articlesOn(const KeyPlace& place) const;

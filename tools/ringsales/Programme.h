@@ -21,7 +21,7 @@ struct Article {
     bool promotion = false; ///< may be given away
     bool waste = false;     ///< may be written off
     bool discount = false;
-    std::optional<KeyPlace> key; ///< that rings it; nothing when it is rung by its number
+    std::optional<KeyPlace> key; ///< that rings it; nothing if it is rung by its number
 };
 
 /// Both ends as the register keeps them: the clock read as a number, 0859 is 859.
@@ -33,13 +33,13 @@ struct TimePeriod {
 
 struct Programme {
     std::vector<Article> articles; ///< active ones with a price on some level
-    std::vector<int> clerks;       ///< numbers of the employees that have a name and are no trainees
+    std::vector<int> clerks;       ///< numbers of the employees who have a name and are not trainees
     std::vector<TimePeriod> periods;
 
-    /// @return the number of the active period at @p clock, 0 when there is none
+    /// @return the number of the active period at @p clock, 0 if there is none
     [[nodiscard]] int periodAt(int clock) const;
 
-    /// @param only when given, customers want nothing but what lies on this key
+    /// @param only if given, customers buy only what is on this key
     /// @throws ToolFailure, TextFault; std::runtime_error when there is nothing to sell or nobody to sell it
     [[nodiscard]] static Programme read(const Register& of, const std::optional<KeyPlace>& only = {});
 };

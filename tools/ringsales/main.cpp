@@ -1,6 +1,6 @@
 // ringsales: rings up a day's sales on registers of a bank.
 //   ringsales <folder> [--registers 1,3] [--tickets N] [--seed N] [--key L/K] [--journal file]
-// What is rung adds to what the registers have sold already.
+// The sales are added to those that the registers already have.
 #include "tools/bank/Bank.h"
 #include "tools/bank/Files.h"
 #include "tools/bank/TextRecords.h"
@@ -54,7 +54,7 @@ void declareOptions(QCommandLineParser& parser)
         {u"tickets"_s, u"Customers at each register."_s, u"N"_s, u"100"_s},
         {u"seed"_s, u"The same number rings the same day; today's date else."_s, u"N"_s,
          QDate::currentDate().toString(u"yyyyMMdd"_s)},
-        {u"key"_s, u"Sells only what lies on this key: level and key, such as 2/17."_s, u"L/K"_s},
+        {u"key"_s, u"Sells only what is on this key: level and key, such as 2/17."_s, u"L/K"_s},
         {u"journal"_s, u"File for a line of each item rung."_s, u"file"_s},
     });
 }
@@ -105,7 +105,7 @@ QList<Register> chosenRegisters(const Wish& wish)
 QByteArray ring(const Register& on, const Wish& wish)
 {
     const auto programme = Programme::read(on, wish.key);
-    // A seed apart for each register, so that its day is the same whichever others are rung.
+    // A separate seed for each register, so that its day does not depend on the other registers.
     const Dice dice(wish.seed * 100 + static_cast<quint64>(on.number));
     auto totals = Totals::read(openTotals(on));
     QByteArray journal;

@@ -17,11 +17,11 @@ namespace bank
 namespace
 {
 
-/// Each file answers to one letter only on the way up and to one on the way down.
+/// Each file accepts one letter for upload and one for download.
 struct FileLetters {
     int file;
     char fetch;
-    char send; ///< 'a' stands without a number; blank: the file is never sent
+    char send; ///< 'a' has no number; blank: the file is never sent
 };
 
 constexpr std::array fileLetters{
@@ -54,7 +54,7 @@ constexpr int memoryFileNumber = 52;
 
 enum Use : unsigned { Program = 1, Sales = 2, OneRegister = 4, AllRegisters = 8 };
 
-/// The words behind speed, range and port, and on which lines they may stand.
+/// The words after speed, range and port, and the lines on which they are allowed.
 struct Suffix {
     QString words;
     Order::Kind kind;
@@ -105,7 +105,7 @@ ToolFailure badArgument(const QString& text)
     return {BadArgument, text};
 }
 
-/// Why @p words are no known suffix: a command that does not exist differs from a mistyped argument.
+/// Why @p words are not a known suffix: a command that does not exist differs from a mistyped argument.
 ToolFailure refusal(const QStringList& words)
 {
     const QString all = words.join(u' ');
@@ -131,11 +131,11 @@ const Suffix& suffixOf(const QStringList& words, unsigned use)
     if (found == table.end())
         throw refusal(words);
     if ((found->uses & use) != use)
-        throw badArgument(u"\"%1\" does not stand on such a line"_s.arg(found->words));
+        throw badArgument(u"\"%1\" is not allowed on such a line"_s.arg(found->words));
     return *found;
 }
 
-/// The words in front, taken one by one.
+/// The leading words, taken one by one.
 class Front
 {
 public:
@@ -177,7 +177,7 @@ public:
             if (take(u"%1T"_s.arg(last)))
                 return last;
         }
-        throw badArgument(u"no last register 1T to 32T behind F1"_s);
+        throw badArgument(u"no last register 1T to 32T after F1"_s);
     }
 
 private:

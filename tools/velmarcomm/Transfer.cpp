@@ -27,8 +27,8 @@ void expectAnswer(const Register& target)
         throw ToolFailure(MachineBusy, u"register %1 is busy"_s.arg(target.number));
 }
 
-/// The registers of an order, one by one: a missing or silent one stops the run there, and the registers
-/// before it are done.
+/// The registers of an order, one by one: a missing or silent one stops the run; the registers before it are
+/// complete.
 class Line
 {
 public:

@@ -8,7 +8,7 @@
 namespace bank
 {
 
-/// @param fault what the bank's fault file wants of this step
+/// @param fault the bank's fault file's entry for this step
 /// @return the result for status.out; @throws ToolFailure with any other
 [[nodiscard]] int carryOut(const Order& order, const Bank& bank, const std::optional<Fault>& fault);
 

@@ -18,7 +18,7 @@ using namespace bank;
 
 struct Outcome {
     int result = Done;
-    QString status; ///< as the fault file wants it
+    QString status; ///< as set in the fault file
 };
 
 void run(const QStringList& words, Outcome& outcome)
@@ -46,7 +46,7 @@ void leaveStatus(const Outcome& outcome)
     writeFile(pathOf(QDir::currentPath(), u"status.out"_s), text + "\r\n");
 }
 
-/// Tells a failure on the error channel. @return its code, Done when @p work went well
+/// Reports a failure on standard error. @return its code, Done if @p work succeeded
 template <typename Work>
 int told(Work work)
 {
