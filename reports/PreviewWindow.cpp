@@ -255,8 +255,7 @@ void PreviewWindow::addKeys()
 
 void PreviewWindow::openAtGoodSize()
 {
-    const QSize room = screen()->availableSize() * 0.94;
-    resize(goodSize.boundedTo(room));
+    ui::centreOnScreen(*this, goodSize.boundedTo(screen()->availableSize() * 0.94));
 }
 
 void PreviewWindow::layOutMore()
