@@ -131,7 +131,7 @@ private:
     QComboBox& m_combo;
 };
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
+QAccessibleInterface* makeComboInterface(const QString& /*className*/, QObject* object)
 {
     auto* const combo = qobject_cast<QComboBox*>(object);
     return combo ? new ComboInterface(*combo) : nullptr;
@@ -141,7 +141,7 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
 
 void speakCombos()
 {
-    QAccessible::installFactory(makeInterface);
+    QAccessible::installFactory(makeComboInterface);
 }
 
 } // namespace norvane::ui

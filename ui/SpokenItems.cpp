@@ -68,7 +68,7 @@ private:
     int m_index;
 };
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
+QAccessibleInterface* makeItemInterface(const QString& /*className*/, QObject* object)
 {
     const auto* const items = dynamic_cast<SpokenItems*>(object);
     return items ? new ItemsInterface(*static_cast<QWidget*>(object), QAccessible::Document, *items)
@@ -115,7 +115,7 @@ ItemsInterface::~ItemsInterface()
 /// The toolkit takes the same function once only.
 SpokenItems::SpokenItems()
 {
-    QAccessible::installFactory(makeInterface);
+    QAccessible::installFactory(makeItemInterface);
 }
 
 void sayItem(QWidget& widget, int index)
