@@ -83,7 +83,7 @@ void CellEdit::takeLook()
     setPalette(colours);
 }
 
-/// A size that prints nothing is shown like the default, or the text could not be mended.
+/// A size that prints nothing is shown like the default, so that the text can be corrected.
 QFont CellEdit::shownFont() const
 {
     const float points = m_contents.font.size > 0 ? m_contents.font.size : CellFont().size;
@@ -193,7 +193,7 @@ void CellEdit::mousePressEvent(QMouseEvent* event)
     TextBox::mousePressEvent(event);
 }
 
-/// A drag selects text and is no click.
+/// A drag selects text and is not a click.
 void CellEdit::mouseReleaseEvent(QMouseEvent* event)
 {
     TextBox::mouseReleaseEvent(event);

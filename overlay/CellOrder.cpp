@@ -25,7 +25,7 @@ Middle middleOf(const KeyLayout& layout, int cell)
             key.y.inMillimetres() + (cell - key.firstCell + 0.5) * lineHeight};
 }
 
-/// How far @p to lies from @p from along a direction, and how far beside its line.
+/// Distance of @p to from @p from along a direction, and to the side of it.
 struct Way {
     double ahead = 0;
     double aside = 0;
@@ -55,7 +55,7 @@ double detour(const Way& way)
     return way.ahead + asideCosts * way.aside;
 }
 
-/// Cells less than this ahead, in millimetres, stand side by side.
+/// Cells less than this ahead, in millimetres, are side by side.
 constexpr double sideBySide = 1;
 
 } // namespace

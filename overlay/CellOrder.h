@@ -13,7 +13,7 @@ enum class Direction { Left, Right, Up, Down };
 /// All cells in the order of reading: key by key along each row of keys, and down the lines of a key.
 [[nodiscard]] std::vector<int> readingOrder(const KeyLayout& layout);
 
-/// The nearest cell that lies beside @p cell in a direction; @p cell itself at the edge.
+/// The nearest cell to @p cell in a direction; @p cell itself at the edge.
 [[nodiscard]] int neighbour(const KeyLayout& layout, int cell, Direction direction);
 
 } // namespace norvane::overlay

@@ -152,7 +152,7 @@ void CorrectionForm::takeMeasured(const Axis& axis)
                              millimetres(axis.length->value())}));
 }
 
-/// The boxes go back to what is right, so that nothing is taken over twice.
+/// The boxes return to the correct values, so that nothing is applied twice.
 void CorrectionForm::takeOver()
 {
     takeMeasured(m_across);

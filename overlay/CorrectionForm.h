@@ -1,4 +1,4 @@
-// Where the user tells what a printer does wrong.
+// The form for the errors of a printer.
 #pragma once
 
 #include "paper/PrinterCorrection.h"
@@ -18,8 +18,8 @@ class Boxes;
 namespace norvane::overlay
 {
 
-/// Two steps in one window: what was measured on the test page is taken over into the correction, which can
-/// also be typed. Any number of test pages can be printed meanwhile, each under the correction as it stands.
+/// Two steps in one window: the values measured on the test page are applied to the correction, which can
+/// also be typed. Any number of test pages can be printed meanwhile, each with the current correction.
 class CorrectionForm : public QDialog
 {
     Q_OBJECT

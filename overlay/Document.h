@@ -12,8 +12,8 @@
 namespace norvane::overlay
 {
 
-/// A colour as documents number it: red + 256 x green + 65,536 x blue. A negative number stands for a colour
-/// of the computer's desktop, which no paper has: see drawnBackground() and drawnText().
+/// A colour as documents number it: red + 256 x green + 65,536 x blue. A negative number is a colour of the
+/// computer's desktop, which paper does not have: see drawnBackground() and drawnText().
 struct Colour {
     std::int32_t number = 0;
 
@@ -49,7 +49,7 @@ struct Cell {
     bool operator==(const Cell&) const = default;
 };
 
-/// The most characters that a cell holds; a file with a longer line is no overlay.
+/// The most characters that a cell holds; a file with a longer line is not an overlay.
 inline constexpr int cellTextLimit = 32767;
 
 /// A value: a copy is a document of its own, for undo.

@@ -20,7 +20,7 @@ namespace norvane::overlay
 class DocumentEditor::Step : public QUndoCommand
 {
 public:
-    /// @param typing 0 for a step that stands alone; steps of one number and cell become one.
+    /// @param typing 0 for a separate step; steps of one number and cell become one.
     Step(DocumentEditor& editor, const QString& name, const Document& before, int typing)
         : QUndoCommand(name), m_editor(editor), m_typing(typing)
     {

@@ -22,8 +22,8 @@ struct CurrentStyle {
     std::optional<CellFont> font;
 };
 
-/// Every change is a step of the history, whose clean state says whether the document is as it was last read,
-/// written or made. Typing in one cell is one step until endTyping().
+/// Every change is a step of the history, whose clean state says whether the document is unchanged since it
+/// was last read, written or created. Typing in one cell is one step until endTyping().
 class DocumentEditor : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] CurrentStyle& style() { return m_style; }
     [[nodiscard]] const CurrentStyle& style() const { return m_style; }
 
-    /// The file that the document is called by, empty for none. New and failed reads set it too.
+    /// The document's file, empty for none. New and failed reads set it too.
     [[nodiscard]] const QString& fileName() const { return m_fileName; }
     /// Whether saving as @p path would replace a file other than the one read or written last.
     [[nodiscard]] bool replacesOther(const QString& path) const;
@@ -80,7 +80,7 @@ private:
     QString m_fileName;
     QString m_fileInHand; ///< read or written last
     int m_typing = 1;
-    int m_clicked = -1; ///< the cell of the click that made the last step, -1 when it was none
+    int m_clicked = -1; ///< the cell of the click that made the last step, -1 if it was not a click
 };
 
 } // namespace norvane::overlay

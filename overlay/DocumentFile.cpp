@@ -25,7 +25,7 @@ class LineSource
 public:
     explicit LineSource(const QString& path) : m_file(openToRead(path)) {}
 
-    /// @throws RuntimeFailure 62 behind the last line, which need not be ended.
+    /// @throws RuntimeFailure with Failure::InputPastEnd after the last line, which may have no line end.
     QString next()
     {
         constexpr int lineEnd = 3; // and the end mark that readLine() counts
@@ -75,7 +75,7 @@ QByteArray sizeText(float size)
     return {buffer.data(), result.ptr - buffer.data()};
 }
 
-/// What was read before a line fails stays in the cell.
+/// Values read before a failing line remain in the cell.
 void readCell(LineSource& lines, Cell& cell)
 {
     cell.text = lines.next();

@@ -92,7 +92,7 @@ QString FileActions::fileToSave() const
     }
 }
 
-/// A document that cannot be written stays open, so that it can be saved elsewhere.
+/// A document that cannot be written remains open, so that it can be saved elsewhere.
 bool FileActions::SaveFile()
 {
     const QString path = fileToSave();

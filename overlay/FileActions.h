@@ -15,8 +15,8 @@ namespace norvane::overlay
 
 class DocumentEditor;
 
-/// Asks for the files and before something would be lost, and tells what went wrong. All that is handed in
-/// must outlive this.
+/// Asks for file names and before anything would be lost, and reports failures. All arguments must outlive
+/// this.
 class FileActions
 {
 public:

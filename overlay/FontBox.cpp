@@ -70,7 +70,7 @@ QWidget* FontBox::makeControls(const QFont& initial)
     ui::nameControl(*m_size, u"FontSize"_s);
     ui::nameControl(*m_bold, u"FontBold"_s);
     ui::nameControl(*m_italic, u"FontItalic"_s);
-    m_name->setEditable(false); // a typed name that no font has would choose nothing
+    m_name->setEditable(false); // a typed name without a font would choose nothing
     m_name->setCurrentFont(initial);
     m_size->setRange(smallest, largest);
     m_size->setSuffix(u" pt"_s);

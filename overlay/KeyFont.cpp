@@ -15,7 +15,7 @@ using paper::millimetres;
 
 QFont fontOf(const CellFont& cell)
 {
-    // The system finds what stands in for a font that it does not have, but takes any for no name at all.
+    // The system substitutes a font that it does not have, but uses any font for an empty name.
     QFont font(cell.name.isEmpty() ? CellFont().name : cell.name);
     font.setBold(cell.isBold);
     font.setItalic(cell.isItalic);

@@ -12,7 +12,7 @@ class QPainter;
 namespace norvane::overlay
 {
 
-/// A size that is not above 0 has no letters, and one beyond 2,160 points is drawn at that.
+/// A size of 0 or less draws no letters, and a size above 2,160 points is drawn at 2,160.
 class KeyFont
 {
 public:

@@ -1,4 +1,4 @@
-// Which cells make up a key, and where it stands.
+// The cells of a key, and its place.
 #pragma once
 
 #include "overlay/KeyboardGeometry.h"

@@ -1,4 +1,4 @@
-// The three keyboards as tables: what stands where on the sheet, and the files that the sheets are kept in.
+// The three keyboards as tables: the places on the sheet, and the files of the sheets.
 #pragma once
 
 #include "paper/Length.h"

@@ -195,7 +195,7 @@ QSize KeyboardView::sizeHint() const
     return (m_ground->sizeInMillimetres() * pixelsPerMillimetre).toSize();
 }
 
-/// A cell that gets the focus back from a dialog is no other one.
+/// A cell that regains the focus from a dialog is the same cell.
 void KeyboardView::enter(int cell)
 {
     if (std::exchange(m_current, cell) == cell)

@@ -1,4 +1,4 @@
-// The cells of an overlay where the keys of the keyboard stand.
+// The cells of an overlay at the places of the keyboard's keys.
 #pragma once
 
 #include "overlay/CellOrder.h"
@@ -13,8 +13,8 @@ namespace norvane::overlay
 class CellEdit;
 class DocumentEditor;
 
-/// Shows a document in the shape of its keyboard, as large as fits or in a size of its own, and hands what is
-/// typed and clicked to the editor. Tab, Enter and the arrow keys walk the cells, whose menus offer the
+/// Shows a document in the shape of its keyboard, as large as fits or in a fixed size, and passes typed text
+/// and clicks to the editor. Tab, Enter and the arrow keys move through the cells, whose menus offer the
 /// actions of this widget.
 class KeyboardView : public QScrollArea
 {
@@ -28,7 +28,7 @@ public:
     void setZoom(int percent);
     /// The cell that has or had the focus last.
     [[nodiscard]] int currentCell() const { return m_current; }
-    /// Brings @p cell into view and gives it the focus.
+    /// Scrolls to @p cell and gives it the focus.
     void goTo(int cell);
     [[nodiscard]] QSize sizeHint() const override;
     /// Whether a part of the cell's text will not print.

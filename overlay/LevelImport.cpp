@@ -16,7 +16,7 @@ namespace norvane::overlay
 namespace
 {
 
-/// Keys that the register keeps for itself. They have no row in the tables.
+/// Keys that are reserved by the register. They have no row in the tables.
 struct FixedKey {
     Keyboard keyboard;
     int firstCell;
@@ -55,13 +55,13 @@ std::vector<const KeyPlace*> keysInTableOrder(const Document& document)
 
 /// Rows of NLU that are looked at: five levels of the larger keyboard and some more.
 constexpr std::size_t lookUpEntries = 901;
-/// What KEYLINK says of a key that is no function.
+/// What KEYLINK says of a key that is not a function.
 constexpr auto pluKey = "0"_L1;
 constexpr auto windowKey = "271"_L1;
-/// The number of a window stands ahead of the key's own number.
+/// The number of a window is before the key's number.
 constexpr qsizetype windowDigits = 4;
 
-/// A table that tells in DESCRIPTION what a key does.
+/// A table whose DESCRIPTION names the function of a key.
 class NamedRows
 {
 public:
@@ -72,7 +72,7 @@ public:
         m_rows.setIndex(index);
         m_rows.readOnly({m_description});
     }
-    /// The name of the row with @p key, or what stands for a row that is not there.
+    /// The name of the row with @p key, or the text for a missing row.
     [[nodiscard]] QString nameOf(const QString& key)
     {
         return m_rows.seek(store::Seek::Equal, store::Value::text(key)) ? m_rows.value(m_description).toText()

@@ -1,5 +1,5 @@
-// The dialogs that an overlay form opens beside message boxes. The real ones are in SystemDialogs; tests hand
-// in dialogs that answer as told.
+// The dialogs that an overlay form opens besides message boxes. The real ones are in SystemDialogs; tests
+// pass in dialogs with prepared answers.
 #pragma once
 
 #include <QColor>
@@ -29,7 +29,8 @@ struct FileChoice {
     QString title;
     QString path;   ///< the file that is filled in, or the folder that is shown first
     QString filter; ///< "Keyboard Files (*.Dorvik)"
-    /// Added to a name typed without one: to an existing file's the first that fits, else the first of all.
+    /// Added to a name typed without one: the first that gives an existing file, otherwise the first in the
+    /// list.
     QStringList suffixes;
     Name name = Name::Existing;
 };

@@ -43,7 +43,7 @@ QFont fontOf(const CellFont& font)
     return shown;
 }
 
-/// The keyboard of the customer whose database is imported from; nothing when the settings do not say.
+/// The keyboard of the customer whose database is imported; nothing if the settings do not say.
 std::optional<Keyboard> keyboardInUse(ApplicationValues values)
 {
     values.customerPath = QFileInfo(values.databasePath).path();
@@ -56,7 +56,7 @@ std::optional<Keyboard> keyboardInUse(ApplicationValues values)
     }
 }
 
-/// The dialog shows what stands in for a font that this computer does not have. Documents keep its name.
+/// The dialog shows the substitute for a font that this computer does not have. Documents keep its name.
 QString nameOf(const QFont& chosen, const QFont& initial)
 {
     return QFontInfo(initial).family() == chosen.family() ? initial.family() : chosen.family();

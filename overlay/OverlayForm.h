@@ -31,7 +31,7 @@ public:
     OverlayForm(Keyboard keyboard, const ApplicationValues& values, Boxes& boxes, OverlayDialogs& dialogs,
                 PrinterInUse& printer, QWidget* parent = nullptr);
 
-    /// Asks what becomes of unsaved changes, for a window that is closed with this form in it.
+    /// Asks what to do with unsaved changes when a window with this form in it is closed.
     [[nodiscard]] bool mayLeave() { return m_files.mayDropChanges(); }
     /// The user leaves with the entry "E&xit", the Escape key or the window's close button.
     void reject() override;

@@ -163,7 +163,7 @@ void OverlayForm::addSample(QToolBar& bar)
     Label1->setFixedSize(ui::scaled(labelSampleSize));
     Label1->setFrameStyle(QFrame::Box);
     Label1->setAutoFillBackground(true);
-    // A tool bar gives its own roles to what lies in it.
+    // A tool bar applies its roles to the widgets in it.
     Label1->setBackgroundRole(QPalette::Window);
     Label1->setForegroundRole(QPalette::WindowText);
     connect(m_colours, &ColourStrip::backgroundChosen, this, &OverlayForm::takeBackground);

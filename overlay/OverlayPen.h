@@ -17,8 +17,8 @@ struct DrawnControl {
     QString Caption;
 };
 
-/// Draws on any painter whose unit is a millimetre. Outlines are lines of drawing width 8: eight dots of a
-/// printer with 300 to the inch, half of them on either side.
+/// Draws on any painter whose unit is a millimetre. Outlines are lines of drawing width 8: eight dots at 300
+/// dpi, half of them on either side.
 class OverlayPen
 {
 public:
@@ -33,8 +33,8 @@ public:
     /// Fills a rectangle, without an outline.
     void DrawBlock(paper::Length x, paper::Length y, const QColor& colour, paper::Length width,
                    paper::Length height);
-    /// Prints what of @p text reaches @p maximumWidth, its top at @p y, in the middle of that width from
-    /// @p x on and never left of it. The ground stays as it is.
+    /// Prints the part of @p text that fits @p maximumWidth, its top at @p y, centred in that width from @p x
+    /// on and never left of it. The background is not painted.
     void PRINTTEXT(paper::Length x, paper::Length y, paper::Length maximumWidth, const QString& text);
     /// Outlines a rectangle of a plain key's width.
     void DrawBox(paper::Length x, paper::Length y, const QColor& colour, paper::Length height);

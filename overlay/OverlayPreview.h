@@ -31,8 +31,8 @@ struct PreviewActions {
     std::function<bool(const paper::PrinterCorrection&)> printTestPage;
 };
 
-/// Shows a document as a printer will print it, tells which keys it cannot print whole and which texts it
-/// cuts, and leads to its correction.
+/// Shows a document as a printer will print it, lists the keys that it cannot print completely and the texts
+/// that it cuts, and opens its correction.
 class OverlayPreview : public QDialog
 {
     Q_OBJECT

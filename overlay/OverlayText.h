@@ -11,9 +11,9 @@ namespace norvane::overlay
 /// Puts a blank in the place of each carriage return and each line feed: a cell is a single line.
 [[nodiscard]] QString RemoveCarriage(QString text);
 
-/// The lines of a key for @p text, of at most seven characters each. A short text stands in the middle. A
-/// line ends behind its first blank or is cut at seven characters, the next begins right there; what is left
-/// behind the third is dropped.
+/// The lines of a key for @p text, of at most seven characters each. A short text is in the middle. A line
+/// ends after its first blank or is cut at seven characters, and the next begins right there; text after the
+/// third line is dropped.
 [[nodiscard]] std::array<QString, 3> CUTTEXTUP(const QString& text);
 
 } // namespace norvane::overlay

@@ -45,7 +45,7 @@ PrinterSetup::PrinterSetup(const PrinterChoice& initial, QWidget* parent)
     column->addLayout(ui::makeButtonRow({ok, cancel}));
 }
 
-/// A printer that was chosen and has gone since stays in the list: printing tells that it fails.
+/// A chosen printer that was removed since remains in the list: printing reports the failure.
 void PrinterSetup::fillPrinters(const QString& chosen)
 {
     const QString usual = QPrinterInfo::defaultPrinterName();

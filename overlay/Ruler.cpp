@@ -44,7 +44,7 @@ void forEachPlace(int length, double origin, double pixels, int step, Visit visi
         visit(place, qRound(origin + place * pixels));
 }
 
-/// The lines of one ruler, drawn as if it lay on the upper edge.
+/// The lines of one ruler, drawn as if it were at the upper edge.
 void paintTicks(QPainter& painter, int length, double origin, double pixels)
 {
     const QPalette palette = QGuiApplication::palette();

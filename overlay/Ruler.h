@@ -9,7 +9,7 @@ class QPainter;
 namespace norvane::overlay
 {
 
-/// In pixels; across the edge that it lies on.
+/// In pixels; perpendicular to its edge.
 inline constexpr int rulerWidth = 24;
 
 /// Paints both rulers over a view of @p size pixels. They count millimetres, of @p pixels each, from

@@ -78,7 +78,7 @@ bool SheetActions::printOn(const QString& name, const std::optional<paper::Print
     TargetPrinter target = targetOf(*printer);
     target.correction = correction.value_or(target.correction);
     const bool isPrinted = paint(*printer, target) && paper::isThere(*printer);
-    // Letter is what the printer is left with. The job has ended, so no further page comes of it.
+    // The page size is reset to Letter afterwards. The job has ended, so this prints no further page.
     printer->setPageSize(QPageSize(QPageSize::Letter));
     return isPrinted;
 }

@@ -29,7 +29,7 @@ struct PrinterInUse {
     PrinterFinder find = findPrinter;
 };
 
-/// Works on a document and a printer. All that is handed in must outlive this.
+/// Works on a document and a printer. All arguments must outlive this.
 class SheetActions
 {
 public:
@@ -38,10 +38,10 @@ public:
     void setUpPrinter();
     /// Printer, paper and scale of the next print, in words. @param correction as for print().
     [[nodiscard]] QString destination(const std::optional<paper::PrinterCorrection>& correction) const;
-    /// Asks whether to start, and once more when texts will be cut; tells when the printer fails.
+    /// Asks whether to start, and once more if texts will be cut; reports a failure of the printer.
     /// @param name of the document, for the print queue.
     /// @param correction in force; without one, the printer's stored one.
-    /// @return whether the sheet went to the printer.
+    /// @return whether the sheet was sent to the printer.
     bool print(const QString& name, const std::optional<paper::PrinterCorrection>& correction = {});
     /// @param suggested path. @return where the file was written; empty when it was not.
     QString savePdf(const QString& suggested);

@@ -10,7 +10,7 @@ namespace
 
 using paper::millimetres;
 
-/// What a printer tells of its margins is a dot more or less.
+/// The margins reported by a printer are accurate to a dot.
 constexpr double tolerance = 0.05;
 
 QRectF printable(const TargetPrinter& target)
@@ -26,7 +26,7 @@ QRectF allKeys(const KeyLayout& layout, const TargetPrinter& target)
     return placeOnPaper(target).mapRect(all);
 }
 
-/// How far what reaches from @p first to @p last must be moved to lie between @p least and @p most.
+/// The distance by which the range @p first to @p last must be moved to be between @p least and @p most.
 double moveInto(double first, double last, double least, double most)
 {
     return first < least ? least - first : std::min(0.0, most - last);

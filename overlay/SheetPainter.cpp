@@ -15,8 +15,8 @@ using paper::millimetres;
 
 constexpr Length bandOffset = millimetres(0.1); ///< of a band from its line, across; down only of two lines
 constexpr Length singleTextOffset = millimetres(0.5);
-/// Bands of one colour would show a light seam where one ends exactly where the next begins. What a band has
-/// more lies under the next one.
+/// Bands of one colour would show a light seam if one ended exactly where the next begins. So a band extends
+/// under the next one.
 constexpr Length underNextBand = millimetres(0.15);
 
 Length halfOutline()

@@ -1,4 +1,4 @@
-// The sheet that lies under the keyboard's cover, key by key.
+// The sheet under the keyboard's cover, key by key.
 #pragma once
 
 #include "overlay/OverlayPen.h"
@@ -38,7 +38,7 @@ private:
 
 /// The part of a cell's text that prints: as much as reaches the width of its key.
 [[nodiscard]] QString printedText(const Document& document, int cell);
-/// The cells whose text does not print whole, in their order.
+/// The cells whose text is not printed completely, in their order.
 [[nodiscard]] std::vector<int> cutCells(const Document& document);
 
 } // namespace norvane::overlay

@@ -21,8 +21,8 @@ struct TargetPrinter {
     paper::PrinterCorrection correction;
 };
 
-/// From the sheet's own millimetres, counted from the corner of the printable area, to those that the device
-/// is told, counted from the paper's corner.
+/// Converts the sheet's millimetres, from the corner of the printable area, to those of the device, from the
+/// paper's corner.
 [[nodiscard]] QTransform placeOnPaper(const TargetPrinter& target);
 
 /// Prints @p document on one page of @p device, a printer or a PDF, at true size.
@@ -39,9 +39,10 @@ inline constexpr paper::Length testLineLeft = paper::millimetres(50);
 inline constexpr paper::Length testLineTop = paper::millimetres(40);
 inline constexpr paper::Length testLineLength = paper::millimetres(100);
 
-/// Writes the sheet as a PDF file, its printable area 5 mm inside the page. A former file stays when it
+/// Writes the sheet as a PDF file, its printable area 5 mm inside the page. An existing file is kept if it
 /// cannot be written.
-/// @throws RuntimeFailure 75, 61, or 57 when the page could not be painted.
+/// @throws RuntimeFailure with Failure::PathOrFileAccess, Failure::DiskFull, or Failure::DeviceIo if the page
+/// could not be painted.
 void writeSheetPdf(const Document& document, QPageLayout::Orientation orientation, const QString& path);
 
 /// The keys that the printer cannot print whole, as indexes into the layout's keys.

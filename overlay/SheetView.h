@@ -1,4 +1,4 @@
-// The sheet on the screen as it will lie on the paper.
+// The sheet on the screen as it will be on the paper.
 #pragma once
 
 #include "overlay/SheetPrint.h"

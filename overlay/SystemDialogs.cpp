@@ -30,7 +30,7 @@ void showPath(QFileDialog& box, const QString& path)
     }
 }
 
-/// The existing file that is meant by @p typed, which may lack its ending; empty when there is none.
+/// The existing file for @p typed, which may lack the suffix; empty if there is none.
 QString meantFile(const QString& typed, const QStringList& suffixes)
 {
     QStringList paths = {typed};
@@ -109,7 +109,7 @@ std::optional<QColor> SystemDialogs::colour(const QColor& initial, const QString
     return box.exec() == QDialog::Accepted ? std::optional(box.selectedColor()) : std::nullopt;
 }
 
-/// The list has only what this computer has: a font that is missing is shown by what stands in for it.
+/// The list has only the fonts of this computer: a missing font is shown as its substitute.
 std::optional<QFont> SystemDialogs::font(const QFont& initial)
 {
     QFont shown = initial;

@@ -38,7 +38,7 @@ QString withoutLeadingZeros(const QString& text)
     return text.mid(zeros);
 }
 
-/// Registers spell a time as hhmm, with or without the zeros in front.
+/// Registers write a time as hhmm, with or without leading zeros.
 QString timeText(const QString& text)
 {
     constexpr int digits = 4;

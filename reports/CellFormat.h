@@ -49,7 +49,7 @@ struct CellFormat {
 [[nodiscard]] std::optional<CellFormat> parseFormat(QStringView text);
 
 /// Reads "0;None,1;Added": a word for each number, written as in the lists of screens.
-/// @return nothing when a number has no word.
+/// @return nothing if a number has no word.
 [[nodiscard]] std::optional<QHash<QString, QString>> parseWords(const QString& text);
 
 } // namespace norvane::reports

@@ -13,7 +13,7 @@ namespace norvane::reports
 namespace
 {
 
-/// More bars than this cannot be told apart on a page.
+/// More bars than this cannot be distinguished on a page.
 constexpr std::size_t mostDays = 62;
 /// So many parts have a place in the legend, and the others together one more.
 constexpr std::size_t mostShares = 10;

@@ -21,8 +21,8 @@ public:
     [[nodiscard]] const ChartLayout& layout() const { return m_layout; }
     /// @param day of the point, in a chart over days.
     void add(const QString& label, const SlotNumbers& numbers, QDate day = {});
-    /// @param money how money is shown at this shop.
-    /// @return a chart without points when there is nothing to see.
+    /// @param money how this shop shows money.
+    /// @return a chart without points if there is nothing to show.
     [[nodiscard]] Chart finished(const MoneyFormat& money);
     /// Whether a value had more than 18 digits before the point: such a chart is left out.
     [[nodiscard]] bool isTooLarge() const { return m_isTooLarge; }

@@ -1,5 +1,5 @@
-// Paints the charts beside a report's lines. Charts must read in black and white as well: parts that must be
-// told apart differ in lightness, and rankings and shares show each value as a number too.
+// Paints the charts beside a report's lines. Charts must be readable in black and white too: parts that must
+// be distinguished differ in lightness, and rankings and shares show each value as a number too.
 #pragma once
 
 #include "reports/PageText.h"

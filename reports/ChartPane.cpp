@@ -25,7 +25,7 @@ class ChartPane::Sheet : public QWidget, public ui::SpokenItems
 public:
     explicit Sheet(const ReportDocument& document) : m_document(document) {}
 
-    /// Each point of each chart; where it stands in the picture says nothing more.
+    /// Each point of each chart; its place in the picture adds no information.
     [[nodiscard]] int spokenItemCount() const override
     {
         int points = 0;

@@ -30,8 +30,8 @@ bool isNumber(QStringView word)
     return std::ranges::none_of(word, [](QChar letter) { return letter.isLetter(); });
 }
 
-/// The width of a cell that must not be cut, in mm. Numbers are measured by their count of digits and never
-/// spelled out, since lists may have 100,000 lines. Of texts the widest word counts.
+/// The width of a cell that must not be cut, in mm. Numbers are measured by their count of digits and not
+/// formatted, since lists may have 100,000 lines. For texts the widest word counts.
 class WidestCell
 {
 public:
@@ -64,7 +64,7 @@ public:
         if (number.scale() > places)
             ++whole; // 9.99 may be shown as 10.0
         const int separators = m_column.dress.isGrouped ? (whole - 1) / 3 : 0;
-        // The point takes no more room than the sign.
+        // The point is no wider than the sign.
         return m_currency + separators * m_separator + (whole + places) * m_digit +
                (places > 0 ? m_sign : 0) + (number.coefficient() < 0 ? m_sign : 0);
     }
@@ -149,7 +149,7 @@ std::vector<std::size_t> bandEnds(const Widths& widths, double size, double widt
     return ends;
 }
 
-/// The largest letters in which there are no more bands than in the smallest.
+/// The largest letters with no more bands than the smallest.
 double fittingSize(const Widths& widths, double width)
 {
     const std::size_t fewest = bandEnds(widths, smallestSize, width).size();

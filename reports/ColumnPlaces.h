@@ -16,7 +16,7 @@ struct ColumnPlace {
     [[nodiscard]] double right() const { return left + width; }
 };
 
-/// Where the columns stand and how large their letters are.
+/// The places of the columns and the size of their letters.
 struct ColumnPlaces {
     std::vector<ColumnPlace> columns;
     double textSize = 0; ///< height of the letters in lines and column headings, in mm
@@ -30,7 +30,7 @@ inline constexpr double cellMargin = 1.3;
 /// Fills @p width mm from @p left with the columns of @p report, in proportion to the widths of the layout.
 /// No number and no word of a heading is cut or split: where space is short, text columns become narrower
 /// first, so that texts break into rows; if that is not enough, all letters become smaller; and if letters
-/// would become too small to read, the last columns go on in a further band below the others.
+/// would become too small to read, the last columns continue in a further band below the others.
 [[nodiscard]] ColumnPlaces fitColumns(const ReportData& report, const PageText& text, double left,
                                       double width);
 

@@ -19,7 +19,7 @@ bool isTest(const Condition& condition)
     return condition.kind == Condition::Kind::Test || condition.kind == Condition::Kind::Twins;
 }
 
-/// @param isNegated whether the condition stands behind a "not". @return nothing when it restricts nothing.
+/// @param isNegated whether the condition follows a "not". @return nothing if it restricts nothing.
 std::optional<Condition> restricted(const Condition& condition, const Reads& reads, QStringList& others,
                                     bool isNegated = false)
 {
@@ -42,7 +42,8 @@ std::optional<Condition> restricted(const Condition& condition, const Reads& rea
         if (rest)
             left.parts.push_back(std::move(*rest));
     }
-    // Any row may pass an "or" by the part that is not tested. Behind a "not" this goes for an "and" instead.
+    // Any row may pass an "or" by the part that is not tested. After a "not" this applies to an "and"
+    // instead.
     const bool needsAllParts = condition.kind == (isNegated ? Kind::All : Kind::Any);
     const bool isWhole = left.parts.size() == condition.parts.size();
     if (left.parts.empty() || (needsAllParts && !isWhole))

@@ -43,7 +43,7 @@ ValueScale makeScale(const Chart& chart)
         scale.low = std::min(scale.low, point.value.toDouble());
         scale.high = std::max(scale.high, point.value.toDouble());
     }
-    // No step is finer than the numbers beside it can tell.
+    // No step is finer than the numbers beside it can show.
     const double finest = std::pow(10, -chart.mostDecimals);
     if (scale.high > scale.low)
         scale.step = std::max(finest, roundStep((scale.high - scale.low) / wantedSteps));
@@ -123,7 +123,7 @@ private:
     const Chart& m_chart;
     const PageText& m_text;
     ValueScale m_scale;
-    QRectF m_field;     ///< where the bars stand
+    QRectF m_field;     ///< the area of the bars
     double m_pitch = 1; ///< from one bar to the next, in mm
 };
 

@@ -32,8 +32,8 @@ bool hasDigitButZero(std::string_view text)
     return text.find_first_of("123456789") != std::string_view::npos;
 }
 
-/// The digits behind the kept ones are not all zero. A last digit of 0 or 5 is raised by one, so that a later
-/// rounding does not take it for an exact half or a whole.
+/// The dropped digits are not all zero. A last digit of 0 or 5 is raised by one, so that a later rounding
+/// does not treat it as an exact half or whole.
 void markTail(std::string& kept)
 {
     if (kept.back() == '0' || kept.back() == '5')

@@ -17,25 +17,24 @@ inline constexpr int mostDigits = 18;
 /// The count of decimal digits of @p number without its sign; 1 for 0.
 [[nodiscard]] int digitsOf(std::int64_t number);
 
-/// The decimal that a stored value stands for, spelled out: a double is its shortest decimal; null, a text
-/// that is no number and a date count as "0".
-/// @throws RuntimeFailure 6 for an infinite number.
+/// The decimal text of a stored value: a double is its shortest decimal; null, a text that is not a number
+/// and a date count as "0".
+/// @throws RuntimeFailure with Failure::Overflow for an infinite number.
 [[nodiscard]] std::string exactText(const store::Value& value);
 
-/// The number that @p exact spells, to 18 digits. A longer one loses its tail in such a way that rounding it
-/// to fewer places gives what rounding the whole number would.
-/// @throws RuntimeFailure 6 when there are more than 18 digits before the point.
+/// The number in @p exact, to 18 digits. A longer one is shortened so that rounding it to fewer places gives
+/// the same as rounding the whole number.
+/// @throws RuntimeFailure with Failure::Overflow if there are more than 18 digits before the point.
 [[nodiscard]] Decimal decimalOf(std::string_view exact);
 
 /// Whether @p exact has more digits than a Decimal holds.
 [[nodiscard]] bool isLong(std::string_view exact);
 
-/// The number that @p exact spells, rounded to @p places, halves away from zero, with all digits before the
-/// point.
+/// The number in @p exact, rounded to @p places, halves away from zero, with all digits before the point.
 [[nodiscard]] std::string roundedText(std::string_view exact, int places);
 
-/// The product of both: exact when it has at most 18 digits, else rounded to 18.
-/// @throws RuntimeFailure 6 when there are more than 18 digits before the point.
+/// The product of both: exact with at most 18 digits, otherwise rounded to 18.
+/// @throws RuntimeFailure with Failure::Overflow if there are more than 18 digits before the point.
 [[nodiscard]] Decimal product(const Decimal& left, const Decimal& right);
 
 } // namespace norvane::reports

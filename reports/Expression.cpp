@@ -185,7 +185,7 @@ private:
         addNumbered(expressions, *from, last, column);
     }
 
-    /// Adds the fields numbered behind @p from up to @p last: after COUNT1, these are COUNT2, COUNT3 ...
+    /// Adds the fields numbered after @p from up to @p last: after COUNT1, these are COUNT2, COUNT3 ...
     void addNumbered(std::vector<Expression>& expressions, const FieldName& from, const FieldName& last,
                      qsizetype column)
     {
@@ -257,7 +257,7 @@ std::optional<std::string> Expression::exactValue(const SlotNumbers& numbers) co
     return total.text();
 }
 
-/// @return false when a part has no value.
+/// @return false if a part has no value.
 bool Expression::addTo(ExactTotal& total, const SlotNumbers& numbers, bool negative) const
 {
     if (m_kind == Kind::Field) {

@@ -22,11 +22,11 @@ using Slot = int;
 /// What a layout lets an expression or a text read.
 struct FieldSlots {
     const store::TableDefinition* own = nullptr; ///< the table of fields that are named without one
-    /// Hands out a field's slot. @throws FormulaError with the column handed in when the report does not read
-    /// such a field.
+    /// Returns a field's slot. @throws FormulaError with the given column if the report does not read such a
+    /// field.
     std::function<Slot(const FieldName&, qsizetype column)> slotOf;
-    /// Hands out the list of names of a field of another table. @throws FormulaError likewise when its
-    /// records have no number.
+    /// Returns the list of names of a field of another table. @throws FormulaError likewise if its records
+    /// have no number.
     std::function<std::shared_ptr<const NameList>(const FieldName&, qsizetype column)> namesOf = {};
 };
 
@@ -40,8 +40,8 @@ struct SlotNumbers {
 class Expression
 {
 public:
-    /// @return nothing when it divides by zero. @throws RuntimeFailure 6 when the number has more than 18
-    /// digits before the point.
+    /// @return nothing if it divides by zero. @throws RuntimeFailure with Failure::Overflow if the number has
+    /// more than 18 digits before the point.
     [[nodiscard]] std::optional<Decimal> value(const SlotNumbers& numbers) const;
     /// Likewise with all digits, however many a sum has. Only products and quotients have the limit of
     /// value().
@@ -50,7 +50,7 @@ public:
     [[nodiscard]] bool needsWhole() const;
     /// Marks the slots that it reads.
     void markSlots(std::vector<bool>& slots) const;
-    /// The slot of an expression that is nothing but a field.
+    /// The slot of an expression that is only a field.
     [[nodiscard]] std::optional<Slot> loneSlot() const;
 
 private:
@@ -71,8 +71,8 @@ private:
 /// @throws FormulaError
 [[nodiscard]] Expression parseExpression(QStringView text, const FieldSlots& fields);
 
-/// Reads expressions with commas between them. "{T.F2} to {T.F5}" stands for the numbered fields from the
-/// first to the last.
+/// Reads expressions with commas between them. "{T.F2} to {T.F5}" means the numbered fields from the first to
+/// the last.
 /// @throws FormulaError
 [[nodiscard]] std::vector<Expression> parseExpressions(QStringView text, const FieldSlots& fields);
 

@@ -25,9 +25,9 @@ struct FieldName {
     bool operator==(const FieldName&) const = default;
 };
 
-/// Finds the field that @p name ("PLUSALES.ID", without braces) stands for. A name without a table is a field
-/// of the table @p own, if that is given.
-/// @return nothing when the catalogue has none of that name.
+/// Finds the field named @p name ("PLUSALES.ID", without braces). A name without a table is a field of the
+/// table @p own, if that is given.
+/// @return nothing if the catalogue has none of that name.
 [[nodiscard]] std::optional<FieldName> findField(QStringView name,
                                                  const store::TableDefinition* own = nullptr);
 

@@ -24,7 +24,7 @@ bool isAnySet(const Parts& parts, const CellFormat& format, const LineFields& fi
     });
 }
 
-/// @return nullptr when there are no words for the value.
+/// @return nullptr if there are no words for the value.
 const Parts* wordsFor(const std::vector<Parts>& words, const store::Value& value)
 {
     if (words.size() == 1)

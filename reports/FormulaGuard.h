@@ -8,7 +8,7 @@
 namespace norvane::reports
 {
 
-/// Whether @p text begins like a formula, blanks in front passed over.
+/// Whether @p text begins like a formula, leading blanks skipped.
 [[nodiscard]] inline bool looksLikeFormula(QStringView text)
 {
     static constexpr QStringView signs = u"=+-@";

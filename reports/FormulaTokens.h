@@ -41,24 +41,23 @@ struct Token {
 class FormulaTokens
 {
 public:
-    /// @param own the table of fields that are named without one. @throws FormulaError for a character that
-    /// no token begins with, and for a brace or quote that is not closed; so do all functions that take a
-    /// token.
+    /// @param own the table of fields named without a table. @throws FormulaError for a character that no
+    /// token begins with, and for a brace or quote that is not closed; so do all functions that take a token.
     explicit FormulaTokens(QStringView formula, const store::TableDefinition* own = nullptr);
 
     [[nodiscard]] const Token& current() const { return m_current; }
     [[nodiscard]] bool isSymbol(QStringView symbol) const;
     [[nodiscard]] bool isWord(QStringView word) const; ///< without regard to case
     Token take();
-    /// Takes the symbol or word if it stands here.
+    /// Takes the symbol or word if it is the current token.
     bool takeSymbol(QStringView symbol);
     bool takeWord(QStringView word);
-    /// @throws FormulaError when it does not stand here.
+    /// @throws FormulaError if it is not the current token.
     void expectSymbol(QStringView symbol);
     void expectEnd();
-    /// The field that stands here. @throws FormulaError also for one that the catalogue does not know.
+    /// The field at the current token. @throws FormulaError also for one that is not in the catalogue.
     FieldName takeField();
-    /// @throws FormulaError that says what should stand at the current token, and what stands there.
+    /// @throws FormulaError with what is expected at the current token and what was found.
     [[noreturn]] void failExpecting(const QString& what) const;
 
 private:

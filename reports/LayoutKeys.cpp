@@ -58,7 +58,7 @@ bool takeLines(const QString& value, LayoutTarget& target)
 
 bool takeWhere(const QString& value, LayoutTarget& target)
 {
-    // No day is handed in: periods that end today are for the user's selection, not for a layout.
+    // No day is passed in: periods that end today are for the user's selection, not for a layout.
     const auto condition = parseSelection(value, QDate(), target.table());
     target.source->where = condition;
     const auto* const table = target.source->table;
@@ -93,7 +93,7 @@ bool takeWords(const QString& value, LayoutTarget& target)
     return true;
 }
 
-/// A number is calculated; any other value is a text with fields in it. A day alone in its column stays a
+/// A number is calculated; any other value is a text with fields in it. A day alone in its column remains a
 /// day, so that spreadsheets can sort by it.
 bool takeColumnValue(const QString& value, LayoutTarget& target)
 {

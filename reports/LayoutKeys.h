@@ -39,7 +39,7 @@ struct LayoutKeys {
     std::span<const KeyRule> group;
     std::span<const KeyRule> sort;
     std::span<const KeyRule> chart;
-    KeyRule furtherValue; ///< of a column, behind its value: Value2 and so on
+    KeyRule furtherValue; ///< of a column, after its value: Value2 and so on
 };
 [[nodiscard]] const LayoutKeys& layoutKeys();
 

@@ -18,7 +18,7 @@ namespace norvane::reports
 namespace
 {
 
-/// A long text of a column goes on in further keys, Value2 and so on.
+/// A long text of a column continues in further keys, Value2 and so on.
 constexpr int mostValues = 40;
 
 class LayoutReader
@@ -51,8 +51,8 @@ private:
         fail(u"section [%1], key %2"_s.arg(section, key), text);
     }
 
-    /// Without this check a misspelt section would be left out in silence, and so would every section behind
-    /// a gap in the numbers.
+    /// Without this check a misspelled section would be ignored silently, and so would every section after a
+    /// gap in the numbers.
     void checkSections() const
     {
         static const QRegularExpression known(u"^(Report|Group|Sort|(Join|Column|Chart)([1-9][0-9]{0,3}))$"_s,
@@ -151,7 +151,7 @@ private:
             LayoutTarget target{m_layout, &m_layout.source};
             target.column = &column;
             readColumn(u"Column%1"_s.arg(number), target);
-            // Headings of groups stand in the first column.
+            // Headings of groups are in the first column.
             if (number == 1 && !column.shownIf.empty())
                 fail(u"Column1"_s, u"Show", u"the first column is always shown"_s);
             m_layout.columns.push_back(std::move(column));

@@ -60,7 +60,7 @@ private:
         throw FormulaError(open + 1, u"a field's name is not closed by }"_s);
     }
 
-    /// The next semicolon that stands in no inner braces.
+    /// The next semicolon outside inner braces.
     [[nodiscard]] qsizetype endOfWords(qsizetype at, qsizetype close) const
     {
         while (at < close && m_text.at(at) != u';')

@@ -9,12 +9,12 @@ namespace norvane::reports
 /// Fields with commas between them. @throws FormulaError
 [[nodiscard]] std::vector<FieldName> parseFields(QStringView text, const store::TableDefinition* own);
 
-/// A field, alone or with the words "by value" or "descending" behind it. @return nothing for other words.
+/// A field, alone or followed by the words "by value" or "descending". @return nothing for other words.
 /// @throws FormulaError
 [[nodiscard]] std::optional<SortKey> parseSortKey(QStringView text, const store::TableDefinition* own);
 
-/// A text with fields in braces; "{FIELD?words}" stands for the words where the field is not 0,
-/// "{FIELD?zero;one;two}" for those of its number; words may hold fields themselves.
+/// A text with fields in braces; "{FIELD?words}" means the words if the field is not 0,
+/// "{FIELD?zero;one;two}" those of its number; words may contain fields themselves.
 /// "{FIELD:TABLE.NAME}" is the name in the record of TABLE whose number is the field. @throws FormulaError
 [[nodiscard]] TextTemplate parseTemplate(QStringView text, const FieldSlots& fields);
 

@@ -17,8 +17,7 @@ constexpr auto tooLong = "too long"_L1;
 /// Characters of a number that a page has room for.
 constexpr std::size_t longestSumShown = 40;
 
-/// The column in which the label of a total stands: the first that shows words and is always shown, else the
-/// first of all.
+/// The column of a total's label: the first that shows words and is always shown, otherwise the first column.
 std::size_t labelColumnOf(const ReportLayout& layout)
 {
     const auto& columns = layout.columns;

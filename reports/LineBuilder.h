@@ -26,7 +26,7 @@ private:
     std::vector<DecimalTotal> m_totals;
 };
 
-/// The numbers of a line as exact decimals. Slots that no column and no chart calculates with stay "0".
+/// The numbers of a line as exact decimals. Slots not used in any calculation remain "0".
 class LineNumbers
 {
 public:
@@ -43,8 +43,8 @@ private:
     std::vector<std::string> m_numbers;
 };
 
-/// Makes lines from rows that come in their order. Totals of the whole report, if the layout needs them, are
-/// handed in before the first row.
+/// Makes lines from rows in their order. Totals of the whole report, if the layout needs them, are passed in
+/// before the first row.
 class LineBuilder
 {
 public:
@@ -52,7 +52,7 @@ public:
                 std::vector<std::string> whole);
 
     void add(const LineFields& fields);
-    /// Closes the last group, adds the total and takes away columns that have nothing to show.
+    /// Closes the last group, adds the total and removes columns that have nothing to show.
     void finish();
 
 private:

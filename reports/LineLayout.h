@@ -16,8 +16,8 @@ struct CellBox {
     int firstRow = 0; ///< counted from the top of the line
 };
 
-/// Lays out one line at a time. A text too wide for its column goes on in further rows. The heading of a
-/// group runs over the whole line, and the label of a total over the empty cells at both sides.
+/// Lays out one line at a time. A text too wide for its column continues in further rows. The heading of a
+/// group spans the whole line, and the label of a total over the empty cells at both sides.
 class LineLayout
 {
 public:

@@ -7,8 +7,8 @@
 //   SELECT l.c0, j0.c1, l.c2 FROM l LEFT JOIN j0 ON j0.k = l.c0 ORDER BY ...
 //
 // The rows are added up before names are looked up, so that each name is looked up once. A list has no "l":
-// its lines are the rows "b". Joined tables are materialized because the engine makes an index over the
-// result then; it has none over a number by value.
+// its lines are the rows "b". Joined tables are materialized because the engine then creates an index over
+// the result; it has none over a number by value.
 #include "reports/LineStatement.h"
 
 #include <algorithm>

@@ -1,4 +1,5 @@
-// Sizes of letters and widths of lines, in mm, and colours of all pages. They read in black and white too.
+// Sizes of letters and widths of lines, in mm, and colours of all pages. They are readable in black and white
+// too.
 #pragma once
 
 #include "reports/PageText.h"

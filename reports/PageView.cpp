@@ -257,7 +257,7 @@ void PageView::showLine(qsizetype line)
     reveal(line);
 }
 
-/// Brings a line that is out of sight to the middle of the view.
+/// Scrolls a line that is out of sight to the middle of the view.
 void PageView::reveal(qsizetype line)
 {
     const auto page = m_document.pages().pageOfLine(line);

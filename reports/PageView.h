@@ -33,7 +33,7 @@ public:
     /// Shows the top of @p page, or of the last one before it.
     void goToPage(int page);
 
-    /// Chooses @p line alone and brings its page into view.
+    /// Selects only @p line and scrolls to its page.
     void showLine(qsizetype line);
     void chooseAll();
     [[nodiscard]] bool hasChosen() const { return m_anchor >= 0; }
@@ -76,7 +76,7 @@ private:
     const ReportDocument& m_document;
     Zoom m_zoom = Zoom::FitWidth;
     double m_scale = 1;       ///< pixels to the millimetre
-    qsizetype m_anchor = -1;  ///< the line where the choice began; -1 while none is chosen
+    qsizetype m_anchor = -1;  ///< the line where the selection began; -1 while none is selected
     qsizetype m_current = -1; ///< the line where it ends
 };
 

@@ -69,7 +69,7 @@ QString documents()
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
-/// What stands above the lines, or in their place.
+/// Shown above the lines, or in their place.
 QString spokenHeading(const ReportHeading& heading)
 {
     QStringList texts{heading.title, heading.subtitle, heading.customer, heading.notice};
@@ -114,7 +114,7 @@ PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterFinder find
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"ReportPreview"_s);
     setWindowTitle(m_document.report().heading.windowTitle);
-    // The first page is there at once; the others follow while it is looked at.
+    // The first page appears immediately; the others are laid out while it is shown.
     m_document.pages().layOut(1);
     buildControls();
     addKeys();
@@ -208,7 +208,7 @@ void PreviewWindow::addZoom(QBoxLayout& row)
     row.addWidget(zoom);
 }
 
-/// A report without charts needs no switch for them.
+/// A report without charts has no switch for them.
 void PreviewWindow::addChartSwitch(QBoxLayout& row)
 {
     auto* const charts = new QCheckBox(u"C&hart"_s, this);
@@ -273,7 +273,7 @@ void PreviewWindow::showPageNumber()
     m_pageNumber->setText(u"Page %1 of %2"_s.arg(m_view->currentPage() + 1).arg(count));
 }
 
-/// Shows a box for what could not be done; the window stays open.
+/// Shows a box for a failure; the window remains open.
 void PreviewWindow::guarded(const std::function<void(const KeepGoing&)>& act, const QString& whenCancelled)
 {
     try {
@@ -322,7 +322,7 @@ void PreviewWindow::save(const FileKind& kind)
     guarded(write, u"Cancelled. Nothing was saved."_s);
 }
 
-/// Copies all lines when none are chosen.
+/// Copies all lines if none are selected.
 void PreviewWindow::copy()
 {
     const qsizetype first = m_view->hasChosen() ? m_view->firstChosen() : 0;

@@ -26,8 +26,8 @@ namespace norvane::reports
 class ChartPane;
 class PageView;
 
-/// A window of its own that is deleted when it closes. It stands above @p parent and can be used while that
-/// is modal. What it prints and saves is what it shows.
+/// A separate window that is deleted when it closes. It is above @p parent and can be used while that is
+/// modal. It prints and saves what it shows.
 class PreviewWindow : public QWidget
 {
     Q_OBJECT

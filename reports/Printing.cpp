@@ -31,7 +31,7 @@ void openOptions(const QPrintDialog& dialog)
         (*options)->click();
 }
 
-/// A list such as "1,3-5" is sent with the job: the print server takes these pages out of all.
+/// A list such as "1,3-5" is sent with the job: the print server selects these pages.
 bool isChosenByServer(const QPrintDialog& dialog)
 {
     const auto* const list = dialog.findChild<QRadioButton*>(u"pagesRadioButton"_s);

@@ -26,23 +26,22 @@ struct PrintedPages {
     int current = 0; ///< counted from 1, as first
 };
 
-/// Finds the printer; null when the system has none to use.
+/// Finds the printer; null if the system has none to use.
 using PrinterFinder = std::function<std::unique_ptr<QPrinter>()>;
 
-/// Asks for printer, copies and pages; the printer that @p findPrinter gives is chosen at first.
-/// @return nothing when the user cancelled; a job without a printer when the system has none at all.
+/// Asks for printer, copies and pages; the printer returned by @p findPrinter is preset.
+/// @return nothing if the user cancelled; a job without a printer if the system has none.
 [[nodiscard]] std::optional<PrintJob> askForPrint(const PrinterFinder& findPrinter, PrintedPages pages,
                                                   QWidget* parent);
 
 /// Prints the pages of @p job.
-/// @throws ReportError when there is no printer or it fails, and ReportCancelled; pages painted by then are
+/// @throws ReportError if there is no printer or it fails, and ReportCancelled; pages painted by then are
 /// printed.
 void printOn(const PrintJob& job, const ReportData& report, bool showsCharts,
              const KeepGoing& keepGoing = {});
 
-/// Prints all pages on the printer that @p findPrinter gives, without a question.
-/// @throws ReportError when there is none or it fails, and ReportCancelled; pages painted by then are
-/// printed.
+/// Prints all pages on the printer returned by @p findPrinter, without a question.
+/// @throws ReportError if there is none or it fails, and ReportCancelled; pages painted by then are printed.
 void printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter,
                  const KeepGoing& keepGoing = {});
 

@@ -1,4 +1,4 @@
-// Runs a report and brings it to a preview or to the printer; see Report.h.
+// Runs a report and shows it in a preview or prints it; see Report.h.
 #include "reports/Report.h"
 
 #include "paper/DefaultPrinter.h"
@@ -31,8 +31,8 @@ Report::Report(QWidget& window, Boxes& boxes, Runner runner)
 {
 }
 
-/// A preview is a child of the form's window: a modal form would block any other window. When the form goes,
-/// its open previews become children of the window above it, so that they stay open.
+/// A preview is a child of the form's window: a modal form would block any other window. When the form is
+/// destroyed, its open previews become children of the window above it, so that they remain open.
 Report::~Report()
 {
     const QWidget* const form = m_window.window();

@@ -31,12 +31,12 @@ enum class Destination {
 /// What makes a report's lines: runReport() of the engine.
 using Runner = std::function<ReportData(const ReportRequest&, const KeepGoing&)>;
 
-/// One report of a form. Belongs to the form that it is run from and must not outlive it. Previews stay open
-/// when the form closes; they close with the window that the form belongs to.
+/// One report of a form. Belongs to the form that runs it and must not outlive it. Previews remain open when
+/// the form closes; they close with the window that the form belongs to.
 class Report
 {
 public:
-    /// @param window the form. Previews stand above it and can be used while it is modal.
+    /// @param window the form. Previews are above it and can be used while it is modal.
     Report(QWidget& window, Boxes& boxes, Runner runner = runReport);
     ~Report();
     Report(const Report&) = delete;
@@ -46,20 +46,20 @@ public:
     void setReportFile(const QString& path) { m_request.reportFile = path; }
     /// Path of the database at @p index; layouts read from number 0 alone.
     void setDataFile(int index, const QString& path);
-    /// Heading on the pages, and the preview's title while it has none of its own.
+    /// Heading on the pages, and the preview's title while it has no other title.
     void setReportTitle(const QString& text) { m_request.reportTitle = text; }
     /// Title of the preview alone.
     void setWindowTitle(const QString& text) { m_request.windowTitle = text; }
     /// Replaces the former formula; empty text selects all rows.
     void setSelectionFormula(const QString& text) { m_request.selectionFormula = text; }
     void setDestination(Destination destination) { m_destination = destination; }
-    /// The shop whose figures these are, as the pages name it.
+    /// The name of the shop as shown on the pages.
     void setCustomer(const QString& name) { m_request.customer = name; }
     /// Prints on what @p finder gives in place of the system's default printer.
     void setPrinterFinder(PrinterFinder finder) { m_findPrinter = std::move(finder); }
 
-    /// Runs the report as it is set; periods end today. An error is told in a box "Report Error". After an
-    /// error, or when the user cancelled, everything is as before the run.
+    /// Runs the report as set; periods end today. An error is shown in a box "Report Error". After an error,
+    /// or if the user cancelled, everything is as before the run.
     void run();
 
 private:

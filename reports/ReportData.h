@@ -42,21 +42,21 @@ struct ReportColumn {
 using Cell = std::variant<std::monostate, QString, Decimal, QDate>;
 
 enum class LineKind : std::uint8_t {
-    GroupHeading, ///< its text stands in the first cell and runs over the whole line
+    GroupHeading, ///< its text is in the first cell and spans the whole line
     Detail,
-    Subtotal,  ///< of the group that ends here; its label stands in the first text column
+    Subtotal,  ///< of the group that ends here; its label is in the first text column
     GrandTotal ///< likewise, at the end of the report
 };
 
-/// What stands above the lines and around them on every page.
+/// The texts above the lines and around them on every page.
 struct ReportHeading {
     QString title;       ///< on the pages
     QString windowTitle; ///< of the preview
     QString subtitle;    ///< the period in words and dates, or which other table the selection names
     QString customer;
     QDateTime printed;
-    QString notice;  ///< stands in place of the lines when the period holds none
-    QDate from = {}; ///< first day of the period; invalid where it has none
+    QString notice;  ///< replaces the lines if the period has none
+    QDate from = {}; ///< first day of the period; invalid if it has none
     QDate to = {};
 };
 
@@ -87,11 +87,11 @@ struct Chart {
 };
 
 /// The exact sum of the points' values.
-/// @throws RuntimeFailure 6 when it has more than 18 digits before the point.
+/// @throws RuntimeFailure with Failure::Overflow if it has more than 18 digits before the point.
 [[nodiscard]] Decimal sumOf(std::span<const ChartPoint> points);
 
 /// The lines of a report. They are added in their order; lines and columns count from 0. A list can have a
-/// hundred thousand lines, so a cell takes no more than nine bytes and its text.
+/// hundred thousand lines, so a cell takes at most nine bytes and its text.
 class ReportData
 {
 public:
@@ -104,7 +104,7 @@ public:
     [[nodiscard]] const std::vector<ReportColumn>& columns() const { return m_columns; }
     [[nodiscard]] int columnCount() const { return static_cast<int>(m_columns.size()); }
 
-    /// Adds a line; @p cells beyond the columns are an error of the caller, missing ones stay empty.
+    /// Adds a line; @p cells beyond the columns are an error of the caller, missing ones remain empty.
     void addLine(LineKind kind, std::vector<Cell> cells);
     /// Removes the columns for which @p isKept is false, with their cells.
     void keepColumns(const std::vector<bool>& isKept);
@@ -129,17 +129,17 @@ private:
     std::vector<ReportColumn> m_columns;
     std::vector<LineKind> m_kinds;
     std::vector<Cells> m_cells;
-    std::string m_texts; ///< of all cells, one behind the other, in UTF-8
+    std::string m_texts; ///< of all cells, one after the other, in UTF-8
 };
 
-/// A plain decimal such as "-1234.5" with @p leastDecimals places at least, spelled as the user's locale
-/// does.
+/// A plain decimal such as "-1234.5" with at least @p leastDecimals places, in the format of the user's
+/// locale.
 [[nodiscard]] QString shownDigits(QString plain, int leastDecimals);
 
 /// A number with between @p leastDecimals and @p mostDecimals places, rounded in decimal, halves away from
 /// zero, with the sign of the user's locale and without thousands separators.
 [[nodiscard]] QString shownNumber(const Decimal& number, int leastDecimals, int mostDecimals);
-/// Adds the dress to a number spelled by shownNumber(): "-1234.50" becomes "-£1,234.50".
+/// Adds sign and currency to a number formatted by shownNumber(): "-1234.50" becomes "-£1,234.50".
 [[nodiscard]] QString dressed(QString number, const NumberDress& dress);
 /// The value of a point as the chart shows it.
 [[nodiscard]] QString shownValue(const Chart& chart, const Decimal& value);

@@ -28,12 +28,12 @@ public:
 
     [[nodiscard]] bool hasCharts() const;
     [[nodiscard]] bool showsCharts() const { return m_showsCharts; }
-    /// Begins the pages anew, with the charts or without.
+    /// Lays the pages out again, with or without the charts.
     void setShowsCharts(bool shows);
 
-    /// The first line from @p from on that holds @p sought in any of its cells, in capitals or small letters.
-    /// At the end of the report the search goes on from the other end. @param step 1 forwards, -1 backwards.
-    /// @return -1 when no line holds it.
+    /// The first line from @p from on that contains @p sought in any of its cells, in any case. At the end of
+    /// the report the search continues from the other end. @param step 1 forwards, -1 backwards.
+    /// @return -1 if no line contains it.
     [[nodiscard]] qsizetype findLine(const QString& sought, qsizetype from, int step) const;
     /// The cells of lines @p first to @p last with tabs between them, as other programs paste them.
     [[nodiscard]] QString linesAsText(qsizetype first, qsizetype last) const;

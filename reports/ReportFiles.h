@@ -1,6 +1,6 @@
-// Saves a report as PDF, CSV or spreadsheet. Each file holds every line and total with the figures of the
-// preview. It is written under another name first and then renamed, so that a former file stays when the disk
-// is full or the user cancels.
+// Saves a report as PDF, CSV or spreadsheet. Each file has every line and total with the figures of the
+// preview. It is written under another name first and then renamed, so that an existing file is kept if the
+// disk is full or the user cancels.
 #pragma once
 
 #include "reports/ReportRun.h"
@@ -31,7 +31,7 @@ void writeCsvWith(const CsvSigns& signs, const ReportData& report, const QString
                   const KeepGoing& keepGoing = {});
 
 /// An .xlsx file. Numbers and days are stored as such, so that a spreadsheet can calculate with them. Texts
-/// stay texts, whatever they begin with and however many digits they have.
+/// remain texts, whatever their first character and number of digits.
 void writeXlsx(const ReportData& report, const QString& path, const KeepGoing& keepGoing = {});
 
 } // namespace norvane::reports

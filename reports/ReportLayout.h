@@ -30,9 +30,8 @@ struct NameList {
 struct TextTemplate {
     struct Part {
         QString text;
-        std::optional<Slot> slot; ///< the field that stands here instead of the text
-        /// Words that stand here instead of the field's value. One: where the field is not 0. Several: for 0,
-        /// 1 and so on.
+        std::optional<Slot> slot; ///< the field shown instead of the text
+        /// Words shown instead of the field's value. One: if the field is not 0. Several: for 0, 1 and so on.
         std::vector<std::vector<Part>> words;
         std::shared_ptr<const NameList> names =
             nullptr; ///< shows the name that belongs to the field's number
@@ -45,7 +44,7 @@ struct TextTemplate {
 /// A text, and the text that takes its place when all its fields are empty.
 struct FieldText {
     TextTemplate text;
-    std::vector<TextTemplate> further; ///< added behind it with commas, unless they come out empty
+    std::vector<TextTemplate> further; ///< added after it with commas, unless they are empty
     TextTemplate missing;              ///< its fields are shown as numbers of records, in any format
     CellFormat format;
 };
@@ -69,7 +68,7 @@ struct LineSource {
     const store::TableDefinition* table = nullptr;
     /// The fields that make a line when rows are added up; empty for a list, where each row is a line.
     std::vector<FieldName> keys;
-    /// The fields in the order of their slots. Of a report that adds up, those of its table that are no keys
+    /// The fields in the order of their slots. Of a report that adds up, those of its table that are not keys
     /// are sums.
     std::vector<FieldName> fields;
     std::optional<FieldName> groupBy; ///< lines are sorted by it first; those without a group come last

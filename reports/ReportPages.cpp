@@ -199,7 +199,7 @@ double ReportPages::rowHeight(std::size_t count, double width) const
     return height;
 }
 
-/// The end of the block that begins at @p line and should stay on one page: a heading with the first line
+/// The end of the block that begins at @p line and should be kept on one page: a heading with the first line
 /// below it, and any line with the totals that follow it.
 qsizetype ReportPages::blockEnd(qsizetype line) const
 {

@@ -22,10 +22,10 @@ struct PlacedChart {
     QRectF place;
 };
 
-/// What stands on a page between its heading and its foot.
+/// The part of a page between its heading and its foot.
 struct ReportPage {
     qsizetype firstLine = 0;
-    qsizetype endLine = 0;                   ///< the line behind the last one
+    qsizetype endLine = 0;                   ///< the line after the last one
     std::optional<qsizetype> continuedGroup; ///< heading line of a group that began on an earlier page
     std::vector<PlacedChart> charts;
     [[nodiscard]] bool hasLines() const { return endLine > firstLine; }
@@ -46,10 +46,9 @@ struct SheetColumns {
     ColumnPlaces places;
 };
 
-/// Lays out a few pages at a time, so that the first can be shown while the rest is made. Lines never split;
-/// a group's heading stands with the first of its lines, and a total with the line above it. Charts stand
-/// beneath the last line where there is room, else on pages of their own; on landscape sheets two side by
-/// side.
+/// Lays out a few pages at a time, so that the first can be shown while the rest is laid out. Lines never
+/// split; a group's heading is kept with its first line, and a total with the line above it. Charts are below
+/// the last line if there is room, otherwise on separate pages; on landscape sheets two side by side.
 class ReportPages
 {
 public:
@@ -69,7 +68,7 @@ public:
     [[nodiscard]] const PageFrame& frame() const { return m_frame; }
     [[nodiscard]] const LineLayout& lines() const { return m_lines; }
     [[nodiscard]] std::vector<PlacedLine> placedLines(int page) const;
-    /// The page that @p line stands on; nothing while it is not laid out.
+    /// The page of @p line; nothing while it is not laid out.
     [[nodiscard]] std::optional<int> pageOfLine(qsizetype line) const;
 
 private:
@@ -91,7 +90,7 @@ private:
     std::vector<std::size_t> m_charts; ///< still to be placed, the next one last
     std::vector<ReportPage> m_pages;
     qsizetype m_nextLine = 0;
-    double m_y = 0;                   ///< where the next line or chart would stand
+    double m_y = 0;                   ///< the place of the next line or chart
     std::optional<qsizetype> m_group; ///< heading line of the group that the next line belongs to
 };
 

@@ -15,7 +15,7 @@ public:
     /// All must outlive this.
     ReportPainter(const ReportData& report, const ReportPages& pages, const PageText& text);
 
-    /// Paints the page at @p index from 0. Its heading tells how many pages there are once all are laid out.
+    /// Paints the page at @p index from 0. Its heading shows the number of pages once all are laid out.
     /// @param painter in millimetres from the sheet's upper left corner.
     void paint(QPainter& painter, int index) const;
 

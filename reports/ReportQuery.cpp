@@ -125,7 +125,7 @@ std::optional<SalesDays> ReportQuery::salesDays(const Period& period)
     return reports::salesDays(m_database, period, m_today, m_keepGoing);
 }
 
-/// The field in the first record of a table of settings; null when there is none.
+/// The field in the first record of a table of settings; null if there is none.
 store::Value ReportQuery::setting(const QString& table, const QString& field)
 {
     if (!m_database.hasTable(table))

@@ -29,7 +29,7 @@ public:
     void run(const LineSource& source, const std::function<void(const LineFields&)>& take);
     /// See SalesDays; nothing for a report over a table without sales too.
     [[nodiscard]] std::optional<SalesDays> salesDays(const Period& period);
-    /// How this shop shows money: with two decimal places and no currency sign where its settings have none.
+    /// How this shop shows money: with two decimal places and no currency sign if its settings have none.
     [[nodiscard]] MoneyFormat moneyFormat();
     /// Fills the lists of names that the layout looks up.
     /// @param money for names that are amounts.

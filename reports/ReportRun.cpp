@@ -210,7 +210,7 @@ void Run::runChart(ChartPoints& points)
         filler.fillUpTo(m_days->last.addDays(1));
 }
 
-/// The report's title is the heading of the pages, and the title of the window when none is set for it. A
+/// The report's title is the heading of the pages, and the title of the window if none is set for it. A
 /// window's title is never the heading of the pages.
 void Run::setHeading(ReportHeading& heading) const
 {

@@ -12,7 +12,7 @@ namespace norvane::reports
 {
 
 /// Thrown when a report cannot be made, printed or saved. The text is shown in a box "Report Error", and the
-/// program goes on.
+/// program continues.
 class ReportError : public std::runtime_error
 {
 public:
@@ -24,7 +24,7 @@ private:
     QString m_text;
 };
 
-/// The user cancelled the run. That needs no box.
+/// The user cancelled the run. No box is shown.
 class ReportCancelled : public ReportError
 {
 public:

@@ -42,7 +42,7 @@ void RunProgress::showStep(const QString& step)
         m_box->setLabelText(step);
 }
 
-/// Nothing where no main window stands above the form.
+/// Nothing if the form has no main window above it.
 QStatusBar* RunProgress::statusBar() const
 {
     for (QWidget* widget = &m_window; widget != nullptr; widget = widget->parentWidget()) {
@@ -70,7 +70,7 @@ void RunProgress::handleEvents(Clock::time_point now)
 
 void RunProgress::showBox()
 {
-    // An empty range shows a moving bar: no query tells how much is left.
+    // An empty range shows a moving bar: queries do not report how much is left.
     const QString text = m_step.isEmpty() ? m_work : m_step;
     m_box = std::make_unique<QProgressDialog>(text, u"&Cancel"_s, 0, 0, &m_window);
     ui::nameControl(*m_box, u"RunProgress"_s);

@@ -19,7 +19,7 @@ namespace norvane::reports
 class RunProgress
 {
 public:
-    /// @param window above which the box stands. @param work the text of the box.
+    /// @param window the window below the box. @param work the text of the box.
     RunProgress(QWidget& window, QString work);
     ~RunProgress();
     RunProgress(const RunProgress&) = delete;

@@ -21,7 +21,7 @@ constexpr std::array tables{salestable::times, salestable::clerks, salestable::p
                             salestable::financials};
 
 /// From the last day before the period, or else the first of all, each step finds the next day by the index:
-/// a table of many years is not read through.
+/// a table of many years is not read completely.
 std::string daysOf(const char* table)
 {
     const std::string day = salestable::day;

@@ -19,7 +19,7 @@ namespace norvane::reports
 /// A parsed formula: tests of fields, joined by and, or and not.
 struct Condition {
     enum class Kind {
-        All,  ///< of the parts; of none: always true
+        All,  ///< all parts; without parts: always true
         Any,  ///< of the parts
         Not,  ///< the one part
         Test, ///< a field against a value
@@ -47,7 +47,7 @@ struct Condition {
                                        const store::TableDefinition* own = nullptr);
 
 /// The part of @p condition that a report can test which @p reads only some tables. A test of any other table
-/// restricts nothing: rows stay that might pass it. The names of such tables are added to @p others.
+/// restricts nothing: rows that might pass it are kept. The names of such tables are added to @p others.
 [[nodiscard]] Condition restrictedTo(const Condition& condition,
                                      const std::function<bool(const store::TableDefinition&)>& reads,
                                      QStringList& others);

@@ -114,7 +114,7 @@ void paintLegend(QPainter& painter, const QRectF& place, const std::vector<Part>
     }
 }
 
-/// The legend stands beside the disc, or below it where that would leave no room for names.
+/// The legend is beside the disc, or below it if that would leave no room for names.
 bool isLegendBelow(double width)
 {
     return width < 2.2 * discSize;

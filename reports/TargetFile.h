@@ -8,7 +8,7 @@ namespace norvane::reports
 {
 
 /// Replaces the file @p path, or writes to the device that it names.
-/// @throws TargetError when not all of @p content can be written; a former file stays then.
+/// @throws TargetError if not all of @p content can be written; an existing file is then kept.
 void replaceFile(const QString& path, const QByteArray& content);
 
 /// @throws ReportError that names @p path and the reason.

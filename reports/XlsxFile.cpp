@@ -54,7 +54,7 @@ class Sheet
 public:
     Sheet(const ReportData& report, const QByteArray& path) : m_report(report)
     {
-        // Each row goes to disk at once: a list of 100,000 lines would take too much memory.
+        // Each row is written to disk immediately: a list of 100,000 lines would take too much memory.
         lxw_workbook_options options{};
         options.constant_memory = LXW_TRUE;
         m_book.reset(workbook_new_opt(path.constData(), &options));

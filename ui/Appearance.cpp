@@ -194,7 +194,7 @@ void centreOn(QWidget& form, const QWidget& frame)
 
 void centreOnScreen(QWidget& form, QSize good)
 {
-    // Desktops tell the size of a frame only after the window is shown.
+    // Desktops report the size of a frame only after the window is shown.
     constexpr QMargins frame(8, 40, 8, 10);
     const QRect room = form.screen()->availableGeometry().marginsRemoved(frame);
     QRect place(QPoint(), good.boundedTo(room.size()));

@@ -1,4 +1,4 @@
-// How the program looks: style, font, colours, spacing, icon. Forms set none of their own.
+// How the program looks: style, font, colours, spacing, icon. Forms do not set their own.
 #pragma once
 
 #include <QColor>
@@ -57,8 +57,8 @@ inline constexpr QColor lookUpMark{0xb0, 0x7d, 0x0a};
 inline constexpr QColor missingMark{0xc0, 0x35, 0x2b};
 inline constexpr QColor found{0xd9, 0x5f, 0x02};       ///< around what a search has found
 inline constexpr QColor warning{0xc4, 0x4f, 0x0c};     ///< marks what will not be as it should
-inline constexpr QColor warningPale{0xfd, 0xf0, 0xd8}; ///< behind a notice of it
-/// Behind the screens in the main window, and around paper.
+inline constexpr QColor warningPale{0xfd, 0xf0, 0xd8}; ///< background of a warning
+/// The background of the screens in the main window and of paper.
 [[nodiscard]] QColor desktop();
 /// Headings, on the palette's window.
 [[nodiscard]] QColor heading();

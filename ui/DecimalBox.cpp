@@ -1,4 +1,4 @@
-// Numbers with digits behind the point; see DecimalBox.h.
+// Numbers with digits after the point; see DecimalBox.h.
 #include "ui/DecimalBox.h"
 
 namespace norvane::ui

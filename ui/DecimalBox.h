@@ -1,4 +1,4 @@
-// Box for a number with digits behind the point.
+// Box for a number with digits after the point.
 #pragma once
 
 #include "ui/NumberBox.h"
@@ -6,14 +6,14 @@
 namespace norvane::ui
 {
 
-/// Shows at least decimals() digits behind the point. More digits stay: what the box shows is what is stored.
+/// Shows at least decimals() digits after the point. Further digits are kept: the box shows the stored value.
 class DecimalBox : public NumberBox
 {
     Q_OBJECT
 
 public:
     explicit DecimalBox(QWidget* parent = nullptr);
-    /// Digits behind the point, 0 to 9; 2 at first.
+    /// Digits after the point, 0 to 9; 2 by default.
     void setDecimals(int decimals);
     [[nodiscard]] int decimals() const { return m_decimals; }
 

@@ -10,8 +10,8 @@ class QTableView;
 namespace norvane::ui
 {
 
-/// A box for any part of a number or text. QLineEdit::textChanged tells what to filter by, returnPressed that
-/// the row in hand is wanted.
+/// A box for any part of a number or text. QLineEdit::textChanged reports the filter text, returnPressed that
+/// the current row is chosen.
 class FilterBox : public QLineEdit
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ class QLineEdit;
 namespace norvane::ui
 {
 
-/// Searches while the user types, beginning at the chosen place; Enter goes on to the next one.
+/// Searches while the user types, beginning at the chosen place; Enter finds the next one.
 class FindBar : public QWidget
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
 
     /// Shows the row with its text ready to be typed over.
     void open();
-    /// Tells whether the last search found something.
+    /// Shows whether the last search found something.
     void setFound(bool isFound);
     [[nodiscard]] QString sought() const;
 

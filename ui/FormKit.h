@@ -34,8 +34,8 @@ void nameControl(QWidget& control, const QString& name, const QString& spoken = 
 [[nodiscard]] QHBoxLayout* makeButtonRow(std::initializer_list<QPushButton*> buttons,
                                          std::initializer_list<QPushButton*> left = {});
 
-/// Tells that the number in @p box was too large, which is back at 0, and lets the user type it anew. The
-/// tool tip shows how far it may go.
+/// Reports that the number in @p box was too large, resets it to 0 and lets the user type it again. The tool
+/// tip shows the range.
 void rejectNumber(QLineEdit& box, Boxes& boxes);
 
 /// The column for the contents of @p form, @p gap pixels apart. The form is as large as they need.

@@ -13,7 +13,7 @@ class IntegerBox : public NumberBox
     Q_OBJECT
 
 public:
-    /// @param digits numbers are shown with at least so many, zeros in front: a time of the day as "0900".
+    /// @param digits minimum number of digits shown, with leading zeros: a time of the day as "0900".
     explicit IntegerBox(QWidget* parent = nullptr, int digits = 1);
     void setValue(const Decimal& value) override;
 

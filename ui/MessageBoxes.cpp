@@ -19,7 +19,7 @@ namespace norvane::ui
 namespace
 {
 
-/// The arrow while a box waits, even when the work behind it shows the wait pointer.
+/// The arrow while a box waits, even if the interrupted work shows the wait pointer.
 class ArrowPointer
 {
 public:
@@ -131,8 +131,8 @@ bool MessageBoxes::ask(const QString& text, const QString& title, BoxIcon icon, 
     return show(text, title, icon, QMessageBox::Yes | QMessageBox::No, presetButton) == QMessageBox::Yes;
 }
 
-/// The toolkit closes a box by Escape and by its close button only when one of its buttons stands for that. A
-/// third button that is never shown does.
+/// The toolkit closes a box by Escape and by its close button only if one of its buttons is assigned to that.
+/// A third, hidden button is.
 std::optional<bool> MessageBoxes::askBeforeGoingOn(const QString& text, const QString& title)
 {
     PlainBox box(text, title, BoxIcon::Question);

@@ -7,7 +7,7 @@ namespace norvane::ui
 {
 
 /// Boxes over the window in use. Their objects are named "MessageBox", "InputBox" and "FileBox". Texts are
-/// shown as they stand, never as markup; a carriage return starts a new line.
+/// shown unchanged, never as markup; a carriage return starts a new line.
 class MessageBoxes : public Boxes
 {
 public:

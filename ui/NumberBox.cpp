@@ -140,8 +140,8 @@ void NumberBox::focusInEvent(QFocusEvent* event)
     QLineEdit::focusInEvent(event);
 }
 
-/// A click sets the cursor when the button goes down, so the number is chosen when it goes up. A part that
-/// was chosen by dragging stays.
+/// A click sets the cursor when the button goes down, so the number is chosen when it goes up. A part
+/// selected by dragging remains selected.
 void NumberBox::mouseReleaseEvent(QMouseEvent* event)
 {
     QLineEdit::mouseReleaseEvent(event);

@@ -9,11 +9,11 @@ namespace norvane::ui
 {
 
 /// A box for one number without a sign: registers know no negative amounts, so that no minus can be typed. A
-/// stored negative number is shown all the same and stays what it is until it is typed over. Holds up to 18
-/// digits. An empty box counts as 0. Setting a value by program raises no signal. The tool tip tells from
-/// where to where the number may go; it opens by itself at a key that the box does not take. The first click
-/// into the box and a double click choose the whole number, so that what is typed replaces it: half a price
-/// that stays makes 290.20 of 2.90. A text that screen readers or dictation put in counts as typed.
+/// stored negative number is still shown and kept until it is overwritten. Holds up to 18 digits. An empty
+/// box counts as 0. Setting a value by program raises no signal. The tool tip shows the allowed range; it
+/// opens when the box rejects a key. The first click into the box and a double click select the whole number,
+/// so that typing replaces it: a remaining half of a price would turn 2.90 into 290.20. A text entered by
+/// screen readers or dictation counts as typed.
 class NumberBox : public QLineEdit
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ Q_SIGNALS:
 protected:
     enum class Point { None, Allowed };
     NumberBox(Point point, QWidget* parent);
-    /// The text shown for @p value when nobody is typing.
+    /// The text shown for @p value while the user is not typing.
     [[nodiscard]] virtual QString shownText(const Decimal& value) const = 0;
     /// Puts the range into the tool tip; after a change of what decides on it.
     void tellRange();

@@ -1,4 +1,4 @@
-// What a widget paints by itself, told to screen readers thing by thing.
+// Presents the items that a widget paints to screen readers.
 #pragma once
 
 #include <QRect>
@@ -12,14 +12,13 @@ namespace norvane::ui
 /// A thing on a painted widget, such as a line or a key.
 struct SpokenItem {
     QString text;
-    QString state;         ///< what colours and marks tell; empty when they tell nothing
+    QString state;         ///< the meaning of colours and marks; empty for none
     QRect place;           ///< in pixels of the widget
     bool isChosen = false; ///< as shown by the colour of selections
 };
 
-/// Second base of a widget that paints its contents: screen readers meet it as a document and find each of
-/// its items below it. Items have no objects of their own, so that ten thousand cost nothing until somebody
-/// asks.
+/// Second base of a widget that paints its contents: screen readers see it as a document with its items as
+/// children. Items have no objects, so that ten thousand cost nothing until a screen reader asks for them.
 class SpokenItems
 {
 public:
@@ -33,7 +32,7 @@ public:
     [[nodiscard]] virtual SpokenItem spokenItem(int index) const = 0;
 };
 
-/// Tells that the user has come to item @p index of @p widget.
+/// Reports that the user has moved to item @p index of @p widget.
 void sayItem(QWidget& widget, int index);
 
 } // namespace norvane::ui

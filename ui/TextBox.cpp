@@ -19,7 +19,7 @@ namespace norvane::ui
 namespace
 {
 
-/// The toolkit's own limit, for none.
+/// The toolkit's limit, used for "no limit".
 constexpr int noLimit = 32767;
 
 bool typesCharacter(const QKeyEvent& event)
@@ -46,7 +46,8 @@ bool isOnRegister(QChar character)
 
 } // namespace
 
-/// Refuses characters that must not be typed. Those of a stored text may stay, or it could not be mended.
+/// Refuses characters that must not be typed. Those of a stored text are allowed, or it could not be
+/// corrected.
 class TextBox::Validator : public QValidator
 {
 public:
@@ -166,7 +167,7 @@ void TextBox::mouseReleaseEvent(QMouseEvent* event)
 }
 
 /// A part of the text may be missing at its end when a text is inserted that does not fit, and the rest would
-/// be glued to what stands there. Cells of a spreadsheet come with a line end.
+/// be joined to the text there. Cells of a spreadsheet come with a line end.
 void TextBox::pasteText(QString pasted)
 {
     while (pasted.endsWith(u'\n') || pasted.endsWith(u'\r'))
@@ -195,7 +196,7 @@ void TextBox::pasteCut(const QString& pasted)
 void TextBox::makeRoom()
 {
     int cursor = cursorPosition();
-    // The end key, and a click into the empty part, go behind the text, not behind its blanks.
+    // The end key, and a click into the empty part, go to the end of the text, not of its blanks.
     if (cursor == text().size()) {
         while (cursor > 0 && text().at(cursor - 1) == u' ')
             --cursor;

@@ -6,12 +6,12 @@
 namespace norvane::ui
 {
 
-/// A line of at most so many characters of a kind. What a register cannot hold is refused when it is typed
-/// or pasted, since a download would send "?" for it. Fields of registers are often padded with blanks to
-/// their full width; typing into such a text pushes its trailing blanks out, so that a full box can be edited
-/// like any other. What does not fit is refused with a tip that names the limit. A pasted text that is too
-/// long by itself replaces the whole text, cut, and a tip says so. QLineEdit::textEdited tells typing from
-/// setting by program.
+/// A text line with a maximum length and a set of characters. Characters that a register does not have are
+/// refused when typed or pasted, since a download would send "?" for it. Fields of registers are often padded
+/// with blanks to their full width; typing into such a text pushes its trailing blanks out, so that a full
+/// box can be edited like any other. Excess text is refused with a tip that names the limit. A pasted text
+/// that alone is too long replaces the whole text, cut, and a tip says so. QLineEdit::textEdited reports
+/// typing only, not setting by program.
 class TextBox : public QLineEdit
 {
     Q_OBJECT
@@ -27,10 +27,10 @@ public:
 
     /// Most characters that can be typed; 0 for no limit.
     void setLimit(int characters);
-    /// What can be typed, at first Characters::Register. Other characters of a stored text stay until they
-    /// are deleted.
+    /// The allowed characters, by default Characters::Register. Other characters of a stored text remain
+    /// until they are deleted.
     void setCharacters(Characters characters);
-    /// Code of the side the text stands at: "0" left, "1" right, "2" centre; any other changes nothing.
+    /// Code of the text's alignment: "0" left, "1" right, "2" centre; any other changes nothing.
     void setJustify(const QString& code);
     /// The largest number that digits may make, such as a time of the day.
     void setLargest(int number);

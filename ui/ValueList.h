@@ -24,7 +24,7 @@ public:
     /// shown, columns without a width are as wide as their longest text.
     void setColumnWidths(const QVector<int>& widths);
 
-    /// The value shown or picked; a null text when there is none.
+    /// The value shown or picked; a null text if there is none.
     [[nodiscard]] QString value() const { return m_value; }
     /// Shows the row of @p value; "03" finds 3. A null text clears the list.
     void setValue(const QString& value);
