@@ -52,7 +52,7 @@ bool staysInside(const QString& name)
     return std::ranges::none_of(path.split(u'/'), isDirection);
 }
 
-/// Makes the folder with its name as typed; the folders above it may be spelled in any case.
+/// Makes the folder with its name as typed; the folders above it are matched in any case.
 bool makeFolder(const QString& path)
 {
     const QFileInfo folder(path);

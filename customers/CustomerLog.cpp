@@ -26,7 +26,7 @@ QString logPath(const QString& customerPath)
     return joinPath(customerPath, u"norvane.log"_s);
 }
 
-/// A result may carry the text of a box; a line stays a line.
+/// A result may contain the text of a box; it is kept on one line.
 QString oneLine(const QString& text)
 {
     return text.simplified();
@@ -154,7 +154,7 @@ QString LoggedWork::inLog(const RuntimeFailure& failure)
     return text.endsWith(u'.') ? text.chopped(1) : text;
 }
 
-/// "ended by failure 61: The disk is full", "stopped by a signal".
+/// "ended by Failure::DiskFull: The disk is full", "stopped by a signal".
 QString LoggedWork::ending(const QString& reason)
 {
     return reason.startsWith(u"failure "_s) ? u"ended by "_s + reason : reason;

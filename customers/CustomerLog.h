@@ -15,7 +15,7 @@
 namespace norvane::customers
 {
 
-/// A line of norvane.log in the customer's folder; its parts stand between tabs.
+/// A line of norvane.log in the customer's folder; its parts are separated by tabs.
 struct LogLine {
     QDateTime begun;
     QString work;      ///< "upload", "Transfer Current Price to Euro, rate 0.68"
@@ -24,8 +24,8 @@ struct LogLine {
     qint64 milliseconds = 0;
 };
 
-/// Adds a line. Beyond 1 MB the older half of the log goes. A log that cannot be written is passed over: the
-/// work matters more.
+/// Adds a line. Beyond 1 MB the older half of the log is removed. A log that cannot be written is ignored:
+/// the work matters more.
 void writeLog(const QString& customerPath, const LogLine& line);
 
 /// The result of an exchange or a collection that did all of its work.
@@ -54,8 +54,8 @@ public:
     /// The work so far in seconds, for the user: "12 s".
     [[nodiscard]] QString secondsInWords() const;
 
-    /// Does @p work. When it fails, @p describe makes the result from "failure 53: 67.txt is missing" or
-    /// "stopped by a signal", and the failure goes on. @return what @p work returns.
+    /// Does @p work. When it fails, @p describe makes the result from "failure 53: 67.txt is
+    /// missing" or "stopped by a signal", and the failure is rethrown. @return what @p work returns.
     template <typename Work, typename Describe>
     decltype(auto) during(Work&& work, Describe&& describe)
     {

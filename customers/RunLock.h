@@ -10,14 +10,14 @@
 namespace norvane::customers
 {
 
-/// Held by an exchange, a collection, a price run or a restore for as long as it works: the program's folder
-/// holds the working files, the customer's folder the data. When the open database is another customer's,
-/// that one is locked as well. A window and a command line, also ones in different folders of the program,
-/// thus never work on one customer at once.
+/// Held by an exchange, a collection, a price run or a restore while it works: the program's folder has the
+/// working files, the customer's folder the data. If the open database belongs to another customer, that one
+/// is locked as well. A window and a command line, also ones in different folders of the program, thus never
+/// work on one customer at once.
 class RunLock
 {
 public:
-    /// @return nothing when another run holds one of them; the user was told then.
+    /// @return nothing if another run holds one of them; a message was shown then.
     [[nodiscard]] static std::unique_ptr<RunLock> take(const ApplicationValues& values, Boxes& boxes)
     {
         std::unique_ptr<RunLock> lock(new RunLock);

@@ -135,8 +135,8 @@ QString databaseOf(const SafetyCopy& copy)
     return joinPath(copy.path, copiedDatabase);
 }
 
-/// @throws RuntimeFailure 53 for a copy without a database, as one of the files alone is, 3343 for a damaged
-/// one.
+/// @throws RuntimeFailure with Failure::FileNotFound for a copy without a database, as one of the files alone
+/// is, Failure::NotOurDatabase for a damaged one.
 void checkCopy(const SafetyCopy& copy)
 {
     const QString path = databaseOf(copy);
@@ -155,8 +155,8 @@ void move(const QString& from, const QString& to)
     }
 }
 
-/// Sets a damaged database aside with the journal that belongs to it, and puts @p made in its place.
-/// @return the name under which the damaged one is kept; empty when there was none.
+/// Renames a damaged database and its journal, and puts @p made in its place.
+/// @return the name under which the damaged one is kept; empty if there was none.
 QString exchangeDatabase(const QString& customerPath, const QString& made)
 {
     const QString database = customerDatabase(customerPath);
@@ -178,7 +178,7 @@ QString exchangeDatabase(const QString& customerPath, const QString& made)
     return aside;
 }
 
-/// A new database from the copy, in the place of one that is damaged. @return what to tell of it.
+/// Creates a new database from the copy in place of a damaged one. @return the message about it.
 QString replaceDatabase(const QString& customerPath, const SafetyCopy& copy)
 {
     const QString made = joinPath(customerPath, u"velmar.restored"_s);
@@ -207,7 +207,7 @@ QList<SafetyCopy> safetyCopies(const QString& customerPath)
 {
     const QString folder = copiesFolder(customerPath);
     QList<SafetyCopy> copies;
-    // The names tell the second alone; of two copies within one the folders know which came later.
+    // The names have only the second; the times of the folders order two copies within one second.
     for (const QString& name :
          QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Time)) {
         SafetyCopy copy = copyOfFolder(folder, name);

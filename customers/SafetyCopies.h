@@ -22,31 +22,35 @@ struct SafetyCopy {
 };
 
 /// Copies the customer of the folder @p customerPath. The last ten copies and those of the last seven days
-/// stay; older ones are removed.
-/// @throws RuntimeFailure 61 on a full disk, 75, and what the database reports; no part of a copy is left.
+/// are kept; older ones are removed.
+/// @throws RuntimeFailure with Failure::DiskFull on a full disk, Failure::PathOrFileAccess, and what the
+/// database reports; no part of a copy is left.
 SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, store::CopyOf what,
                           const QDateTime& now = QDateTime::currentDateTime());
 
 /// The latest first.
 [[nodiscard]] QList<SafetyCopy> safetyCopies(const QString& customerPath);
 
-/// Whether sales come back from it, too. @throws RuntimeFailure 53, 3343 for a copy without a sound database.
+/// Whether it restores sales, too. @throws RuntimeFailure with Failure::FileNotFound, Failure::NotOurDatabase
+/// for a copy without a sound database.
 [[nodiscard]] bool holdsSales(const SafetyCopy& copy);
 
-/// Whether the customer's database is gone, damaged or no database any more, so that a restore sets it aside.
-/// @throws RuntimeFailure 3260, 75 when that cannot be told.
+/// Whether the customer's database is missing, damaged or not a database any more, so that a restore renames
+/// it.
+/// @throws RuntimeFailure with Failure::DatabaseLocked, Failure::PathOrFileAccess if that cannot be
+/// determined.
 [[nodiscard]] bool needsNewDatabase(const QString& customerPath);
 
-/// Puts tables, settings and register files back as the copy holds them, after a copy of how they stand now.
-/// Sales come back only from a copy that holds them. Files that the copy does not hold stay, and so do the
-/// notes about the registers. The database comes back wholly or not at all; the files follow it. A database
-/// that is damaged is kept beside a new one, which takes over the sales that can still be read.
-/// @return what the user must know about a damaged database; empty when there was none.
+/// Restores tables, settings and register files from the copy, after copying their current state. Sales are
+/// restored only from a copy that has them. Files that the copy does not have are kept, and so are the notes
+/// about the registers. The database is restored completely or not at all; the files follow it. A damaged
+/// database is kept beside a new one, which receives the sales that can still be read.
+/// @return what the user must know about a damaged database; empty if there was none.
 /// @throws RuntimeFailure as makeSafetyCopy(), and 3343 for a damaged copy, before anything was changed.
 QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy);
 
-/// Copies the customers that a job is about to change: the one whose database is in use and, where that is
-/// another, the one whose folder takes the register files.
+/// Copies the customers that a job is about to change: the one whose database is in use and, if different,
+/// the one whose folder receives the register files.
 /// @return why no copy could be made, in words for the user; empty on success. Without a copy the job must
 /// not start.
 [[nodiscard]] QString refusalOfCopy(const ApplicationValues& values, const QString& reason,

@@ -1,4 +1,4 @@
-// Table of the settings and how setup.ini spells them; see SetupModel.h.
+// Table of the settings and their values in setup.ini; see SetupModel.h.
 #include "customers/SetupModel.h"
 
 #include "base/CustomerSettings.h"

@@ -33,7 +33,7 @@ struct Setting {
 /// The entries of the list that @p setting is chosen from.
 [[nodiscard]] QStringList itemsOf(const Setting& setting);
 
-/// What the dialog shows for a setting: the list index (-1 for none) or the text.
+/// The dialog's value of a setting: the list index (-1 for none) or the text.
 struct SettingValue {
     int index = -1;
     QString text;
@@ -41,8 +41,8 @@ struct SettingValue {
 };
 
 /// Reads all settings of the customer, in the order of settings().
-/// @throws RuntimeFailure 13 or 6 when an index is no whole number, 5 when it is outside its list; the text
-/// names file and key.
+/// @throws RuntimeFailure with Failure::TypeMismatch or Failure::Overflow if an index is not a whole number,
+/// Failure::InvalidArgument if it is outside its list; the text names file and key.
 [[nodiscard]] QList<SettingValue> readSettings(const ApplicationValues& values);
 
 /// Writes all settings, key by key; makes the file when it is missing.

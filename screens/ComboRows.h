@@ -10,7 +10,8 @@ namespace norvane::screens
 {
 
 /// "0;Not used" and then one row for each record of @p sql, made of its first and second column.
-/// @throws RuntimeFailure 3061 for a faulty query, 3265 for one with fewer than two columns.
+/// @throws RuntimeFailure with Failure::UnknownNameInQuery for a faulty query, Failure::UnknownName for one
+/// with fewer than two columns.
 [[nodiscard]] QVector<QStringList> rowsOfQuery(store::Database& database, const QString& sql);
 
 /// Rows of a fixed list: rows separated by ",", their columns by ";".

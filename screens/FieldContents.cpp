@@ -32,7 +32,7 @@ store::Value shownInteger(const store::Value& value, const QString& field)
     return shownNumber(value);
 }
 
-/// A number field shows null as an empty box; saved unchanged it stays null.
+/// A number field shows null as an empty box; saved unchanged it remains null.
 store::Value textToStore(const store::Value& content, const store::FieldDefinition& field)
 {
     const bool isBlank = QString::fromStdString(content.toUtf8()).trimmed().isEmpty();

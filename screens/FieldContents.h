@@ -11,7 +11,8 @@ namespace norvane::screens
 /// Whether the field or index @p name holds PLU numbers.
 [[nodiscard]] bool isPluNumber(const QString& name);
 
-/// What the control of @p field shows of @p value. @throws RuntimeFailure 13 for null in a whole-number box.
+/// The content of @p field's control for @p value. @throws RuntimeFailure with Failure::TypeMismatch for null
+/// in a whole-number box.
 [[nodiscard]] store::Value shownValue(const BoundField& field, const store::Value& value);
 /// What a control of @p kind shows of a new record.
 [[nodiscard]] store::Value blankValue(ControlKind kind);

@@ -46,7 +46,7 @@ struct Template {
     double height;
 };
 
-/// In the order of ControlKind. The first label is the template itself; the other templates stay unused.
+/// In the order of ControlKind. The first label is the template itself; the other templates are unused.
 constexpr std::array<Template, 8> templates{{
     {"FindControl", 1, findButtonWidth, controlHeight},
     {"CheckControl", 1, 2400, checkHeight},
@@ -161,7 +161,7 @@ QWidget* FieldPanel::make(const ControlDefinition& definition, int element)
     if (definition.kind == ControlKind::Find)
         return makeFind(element);
     using Maker = QWidget* (FieldPanel::*)(const ControlDefinition&);
-    // In the order of ControlKind, behind the find button.
+    // In the order of ControlKind, after the find button.
     constexpr std::array<Maker, 7> makers{
         &FieldPanel::makeCheck, &FieldPanel::makeLabel, &FieldPanel::makeNumber, &FieldPanel::makeNumber,
         &FieldPanel::makeText,  &FieldPanel::makeCombo, &FieldPanel::makeGrid};

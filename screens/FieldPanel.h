@@ -17,15 +17,15 @@ namespace norvane::screens
 
 class GridControl;
 
-/// Heights of the controls in twips, which no screen file gives; labels are as high as boxes, so that a label
-/// stands level with the box of the same "Y".
+/// Heights of the controls in twips, which screen files do not define; labels are as high as boxes, so that a
+/// label is level with the box of the same "Y".
 inline constexpr double controlHeight = 360;
-inline constexpr double checkHeight = 300; ///< long columns of check boxes stay close together
+inline constexpr double checkHeight = 300; ///< keeps long columns of check boxes close together
 inline constexpr double findButtonWidth = 1200;
 
-/// Makes a control for each definition and knows them by kind and element. The panel is as high as the
+/// Makes a control for each definition and finds them by kind and element. The panel is as high as the
 /// largest "Y" of its find buttons, boxes and combos (a grid counts by its height, check boxes and labels do
-/// not count) and 10 twips more; what lies below is cut.
+/// not count) and 10 twips more; the part below is cut.
 class FieldPanel : public QScrollArea
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ class FieldPanel : public QScrollArea
 public:
     explicit FieldPanel(std::shared_ptr<store::Database> database, QWidget* parent = nullptr);
 
-    /// @throws RuntimeFailure of the control's query, 13 for a list column that is no number.
+    /// @throws RuntimeFailure as the control's query, 13 for a list column that is not a number.
     void addControl(const ControlDefinition& definition);
     /// After the last control: size of the panel, tab order, labels tied to their controls.
     /// @param numberField the field that holds the number of the record.
@@ -49,8 +49,8 @@ public:
     [[nodiscard]] QString labelOf(const QString& dataField) const;
     /// Controls in tab order.
     [[nodiscard]] const QVector<QWidget*>& tabOrder() const { return m_tabOrder; }
-    /// Puts the focus where the user begins in a stored record: into the first control in tab order that
-    /// takes an entry and is not its number, which what is typed at once would replace.
+    /// Sets the focus for a stored record: to the first editable control in tab order except its number,
+    /// which typing would replace.
     void focusFirst();
     /// Puts the focus where the user begins in a new record: into the first that takes an entry.
     void focusNew();

@@ -11,10 +11,10 @@ namespace norvane::screens
 /// What the find dialog calls the keys of @p field: "PLU number", "text", "number".
 [[nodiscard]] QString kindOfKey(const store::FieldDefinition& field);
 
-/// What the status bar says when a record behind @p sought is shown because @p sought is missing: "No PLU
-/// Latte. This is the next one."
+/// The status bar's text if a record after @p sought is shown because @p sought is missing: "No PLU Latte.
+/// This is the next one."
 /// @param caption of the screen. @param label of the box that shows the key, empty without one.
-/// @param hasList whether the list beside the screen can be named as the other way.
+/// @param hasList whether the list beside the screen can be named as an alternative.
 [[nodiscard]] QString foundNext(const QString& caption, const QString& label, const QString& sought,
                                 bool hasList);
 

@@ -87,7 +87,7 @@ void GridControl::reread()
         setCurrentIndex(rows->index(row, column));
 }
 
-/// Below the last row there is none.
+/// There is no row below the last one.
 int GridControl::lastVisibleRow() const
 {
     const int row = rowAt(viewport()->height() - 1);

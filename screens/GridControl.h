@@ -19,11 +19,11 @@ class GridControl : public QTableView
 public:
     explicit GridControl(QWidget* parent = nullptr);
 
-    /// Shows the query of @p definition under its headings, in the place of what was shown before.
-    /// @throws RuntimeFailure 3061, 5
+    /// Shows the query of @p definition under its headings, replacing the previous content.
+    /// @throws RuntimeFailure with Failure::UnknownNameInQuery, 5
     void showQuery(const std::shared_ptr<store::Database>& database, const ControlDefinition& definition);
-    /// Shows the rows as they stand in the file now, which a price change or an upload may have changed. The
-    /// current row stays the one with the same key. A grid in which a cell is being edited stays as it is.
+    /// Shows the rows as they now are in the file, which a price change or an upload may have changed. The
+    /// row with the same key remains current. A grid with a cell being edited is unchanged.
     void reread();
     /// Opens the current cell again, empty, with the focus in it.
     void retryCell(const QModelIndex& index);

@@ -41,7 +41,7 @@ QString queryOf(const store::Database& database, const QString& sql)
     return table.indexes.isEmpty() ? query : query + u" order by [%1]"_s.arg(table.indexes[0].field);
 }
 
-/// Whether @p text is digits with at most @p decimals behind a point; so is nothing at all.
+/// Whether @p text is digits with at most @p decimals after a point; empty text counts.
 bool isPlainNumber(const QString& text, int decimals)
 {
     static const QRegularExpression plain(u"^[0-9]*(?:\\.([0-9]*))?$"_s);
@@ -109,7 +109,7 @@ void GridModel::fetchMore(const QModelIndex& /*parent*/)
     endInsertRows();
 }
 
-/// A row that another screen has deleted stays as an empty line.
+/// A row that another screen has deleted remains as an empty line.
 GridModel::Row GridModel::readRow(int row)
 {
     Row values(static_cast<std::size_t>(m_records->fieldCount()));
@@ -134,7 +134,7 @@ void GridModel::readAgain(int rows)
     m_records = m_database->openQuery(m_query);
     m_total = static_cast<int>(m_records->recordCount());
     m_texts.clear();
-    // In whole batches, as they were read: the scroll bar would tell a short table otherwise.
+    // In whole batches, as they were read: otherwise the scroll bar would indicate a short table.
     shrinkTo(qMin((rows / rowsAtATime + 1) * rowsAtATime, m_total));
     for (int row = 0; row < rowCount(); ++row)
         m_rows[static_cast<std::size_t>(row)] = readRow(row);

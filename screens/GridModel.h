@@ -15,16 +15,17 @@
 namespace norvane::screens
 {
 
-/// Reads the rows as the user scrolls to them, so that a long table opens at once. An edited cell is stored
-/// at once. The grid has no record in common with the rest of its screen.
+/// Reads the rows as the user scrolls to them, so that a long table opens immediately. An edited cell is
+/// stored immediately. The grid does not share records with the rest of its screen.
 class GridModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    /// @param sql a query or the name of a table; an empty text gives a grid without rows.
-    /// @param columns headings and formats of the first columns; the query's further ones show under their
-    /// field names. @throws RuntimeFailure 3061 for a faulty query, 5 for more headings than columns.
+    /// @param sql a query or the name of a table; an empty text makes a grid without rows.
+    /// @param columns headings and formats of the first columns; further columns of the query are shown under
+    /// their field names. @throws RuntimeFailure with Failure::UnknownNameInQuery for a faulty query,
+    /// Failure::InvalidArgument for more headings than columns.
     GridModel(std::shared_ptr<store::Database> database, const QString& sql, QVector<GridColumn> columns,
               QObject* parent = nullptr);
 
@@ -37,9 +38,9 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
-    /// Reads again, as they stand in the file now, the first @p rows or somewhat more of those that were
-    /// read; the others are read when they are needed. Leaves them as they are when the file cannot be read.
-    /// @param current a row, or -1. @return where the record of @p current stands now.
+    /// Reads again the first @p rows, or a few more, of those that were read; the others are read when
+    /// needed. Leaves them unchanged if the file cannot be read.
+    /// @param current a row, or -1. @return the row that the record of @p current now has.
     [[nodiscard]] int reread(int rows, int current);
     /// The next row with @p part in its first two columns, in any case of letters, from row @p from on and
     /// then from the top; it is read. @return -1 without such a row.
@@ -72,7 +73,7 @@ private:
     std::optional<store::Recordset> m_records;
     int m_total = 0;
     std::vector<Row> m_rows;    ///< those read so far
-    store::RecordTexts m_texts; ///< of all rows, once a row was sought
+    store::RecordTexts m_texts; ///< of all rows, after the first search
 };
 
 } // namespace norvane::screens

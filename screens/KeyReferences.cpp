@@ -16,8 +16,8 @@ namespace norvane::screens
 namespace
 {
 
-/// A field that holds the number of a record of table @p to. "*" in the field and the condition stands for
-/// the numbers from first to last: a record with several such fields counts once.
+/// A field with the number of a record of table @p to. "*" in the field and the condition means the numbers
+/// from first to last: a record with several such fields counts once.
 struct Reference {
     QLatin1StringView to;
     QLatin1StringView holder; ///< what the user calls a record with this field; several take an "s"

@@ -16,9 +16,9 @@ struct KeyHolders {
     QString words;
 };
 
-/// Counts the records that hold the number @p key of a record of @p table. The number 0 has no holders: it
-/// means "none" in every field that refers to a record.
-/// @throws RuntimeFailure 3343 and others of store::BoundQuery.
+/// Counts the records that refer to the number @p key of a record of @p table. No record refers to number 0:
+/// it means "none" in every field that refers to a record.
+/// @throws RuntimeFailure with Failure::NotOurDatabase and others of store::BoundQuery.
 [[nodiscard]] KeyHolders holdersOfKey(store::Database& database, const QString& table,
                                       const store::Value& key);
 

@@ -28,7 +28,7 @@ constexpr double neighbourGap = 14;
 /// Between the boxes of a row.
 constexpr double columnGap = 40;
 
-/// The nearest of @p others that begins right behind @p widget in its row.
+/// The nearest of @p others that begins right after @p widget in its row.
 template <typename Widget>
 Widget* nextInRow(const QWidget& widget, const QVector<Widget*>& others)
 {

@@ -9,7 +9,7 @@ namespace norvane::screens
 namespace
 {
 
-/// What stays between a list and its neighbour, in pixels.
+/// Minimum space between a list and its neighbour, in pixels.
 constexpr double listGap = 4;
 
 bool inOneRow(const QRect& left, const QRect& right)

@@ -1,4 +1,4 @@
-// What users typed into screens and left without saving, kept until they want it back or the program ends.
+// Unsaved input of screens, kept until the user restores it or the program ends.
 #pragma once
 
 #include "screens/RecordEditor.h"
@@ -21,14 +21,14 @@ struct LostChanges {
     BoundFields typed;              ///< the controls that the user changed
 };
 
-/// The losses of all screens, from which each screen takes back its own.
+/// The dropped changes of all screens, from which each screen restores its own.
 class LostChangesList
 {
 public:
     void add(LostChanges lost) { m_losses.push_back(std::move(lost)); }
-    /// Takes out the latest loss of a screen. @return nothing if there is none.
+    /// Removes and returns the latest dropped changes of a screen; nothing if there are none.
     std::optional<LostChanges> take(const QString& databasePath, const QString& screenFile);
-    /// The screen file of the latest loss in this database; empty if there is none.
+    /// The screen file of the latest dropped changes in this database; empty if there are none.
     [[nodiscard]] QString latestScreen(const QString& databasePath) const;
 
 private:

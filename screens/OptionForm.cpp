@@ -102,7 +102,7 @@ void OptionForm::attempt(const std::function<void()>& act)
     }
 }
 
-/// Closes this screen and nothing else. On a table that has become empty, a screen that can add stays for it.
+/// Closes only this screen. On a table that has become empty, a screen that can add remains open.
 void OptionForm::tellFailure(const RuntimeFailure& failure)
 {
     const bool canAdd =
@@ -206,7 +206,7 @@ bool OptionForm::mayRenumberRecord(const BoundFields& fields)
                        holdersOfKey(*m_database, m_file.table().table, number->before));
 }
 
-/// What else was typed stays on the screen.
+/// Other input remains on the screen.
 void OptionForm::keepNumber(BoundFields fields)
 {
     m_editor->restoreNumber(fields);

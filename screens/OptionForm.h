@@ -1,4 +1,4 @@
-// The one record editor behind all screens that are described by screen files.
+// The record editor of all screens that are described by screen files.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -39,10 +39,11 @@ class OptionForm : public QWidget
     Q_OBJECT
 
 public:
-    /// @param reports behind the print button, which is greyed without it.
-    /// @param losses where dropped changes are kept; a list of its own without one.
-    /// @throws RuntimeFailure 3265 for an unknown table, index or field, 3021 for an empty table, 13 for a
-    /// bad number or word in the file, and those of the database; the text names the screen file.
+    /// @param reports opened by the print button, which is greyed without it.
+    /// @param losses where dropped changes are kept; a separate list without one.
+    /// @throws RuntimeFailure with Failure::UnknownName for an unknown table, index or field,
+    /// Failure::NoCurrentRecord for an empty table, Failure::TypeMismatch for a bad number or word in the
+    /// file, and those of the database; the text names the screen file.
     OptionForm(const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes,
                ReportRunner* reports = nullptr, std::shared_ptr<LostChangesList> losses = nullptr);
     ~OptionForm() override;
@@ -51,11 +52,11 @@ public:
 
     /// Puts the current record into the controls, and marks it in the list.
     void ShowFields();
-    /// Shows the record, and the rows of a grid, as they stand in the file now, which another screen, a price
-    /// change or an upload may have changed; a record in which the user has typed stays as it is.
+    /// Shows the record, and the rows of a grid, as they now are in the file, which another screen, a price
+    /// change or an upload may have changed; a record with unsaved input is unchanged.
     void refresh();
     /// Returns to the record whose changes this screen, or an earlier one of the same file, dropped last, and
-    /// puts them back into the controls. What is typed here now is kept in their place.
+    /// restores them to the controls. The current input is kept in their place.
     void getBack();
     [[nodiscard]] QString screenFile() const { return m_file.path(); }
     [[nodiscard]] QString databasePath() const { return m_databasePath; }
@@ -63,7 +64,7 @@ public:
 Q_SIGNALS:
     /// What the last action came to, in words for the status bar; empty once the screen shows another record.
     void told(const QString& text);
-    /// getBack() has nothing to bring back.
+    /// getBack() has nothing to restore.
     void nothingToGetBack();
 
 protected:

@@ -1,4 +1,4 @@
-// What becomes of changes that are not saved, and how they come back; see OptionForm.h.
+// Unsaved changes: what happens to them, and how they are restored; see OptionForm.h.
 #include "screens/FieldPanel.h"
 #include "screens/OptionForm.h"
 #include "screens/SaveNotices.h"
@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::screens
 {
 
-/// A box takes Ctrl+Z for itself, even if it has nothing to undo.
+/// A box handles Ctrl+Z itself, even if it has nothing to undo.
 void OptionForm::takeUndoKey()
 {
     connect(new QShortcut(QKeySequence::Undo, this, {}, {}, Qt::WidgetWithChildrenShortcut),
@@ -60,7 +60,7 @@ void OptionForm::drop(std::optional<LostChanges> changes)
     showStar();
 }
 
-/// Asks before a control that is no button of the screen leads away. @return false to stay.
+/// Asks before a control that is not a button of the screen leads away. @return false to remain.
 bool OptionForm::mayLeave()
 {
     if (!m_typed->exist())

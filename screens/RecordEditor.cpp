@@ -99,7 +99,7 @@ void RecordEditor::add(BoundFields& fields)
     m_records.addNew();
 }
 
-/// Reads the record anew, also when an earlier save was refused and has left its edit open.
+/// Reads the record again, even if an earlier save was refused and has left its edit open.
 void RecordEditor::beginEdit()
 {
     if (isAdding())
@@ -195,7 +195,7 @@ void RecordEditor::storeField(BoundField& field)
 void RecordEditor::deleteRecord()
 {
     if (isAdding()) {
-        // The user sees the new record, so it is the one that goes; the one behind it stays.
+        // The user sees the new record, so it is deleted; the stored record is kept.
         m_records.cancelUpdate();
     } else {
         deleteCurrent();
@@ -208,7 +208,7 @@ void RecordEditor::deleteCurrent()
     try {
         m_records.deleteRecord();
     } catch (const RuntimeFailure& failure) {
-        // Another screen came first: the record is gone, which is what the user wants.
+        // Another screen was first: the record is already deleted, as the user asked.
         if (failure.failure() != Failure::RecordDeleted)
             throw;
     }
@@ -311,7 +311,7 @@ bool RecordEditor::hasRecord(const QString& index, store::Seek comparison, const
     } catch (const RuntimeFailure& failure) {
         if (failure.failure() != Failure::Conversion)
             throw;
-        return false; // "two" is no key among numbers
+        return false; // "two" is not a key among numbers
     }
 }
 

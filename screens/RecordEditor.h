@@ -31,7 +31,7 @@ struct NewNumber {
     store::Value after;
 };
 
-/// What a search came to. Next: the first record behind what was sought, which itself is missing.
+/// The result of a search. Next: the first record after the sought one, which is missing.
 enum class FindOutcome { Found, Next, Nothing };
 
 /// One place in one table. What the user typed is known to the controls alone until it is saved; a move drops
@@ -40,11 +40,13 @@ class RecordEditor
 {
 public:
     /// Opens the table in the order of its first index, on the first record.
-    /// @param screenFile named in the failures. @throws RuntimeFailure 3265 for an unknown table or index.
+    /// @param screenFile named in the failures. @throws RuntimeFailure with Failure::UnknownName for an
+    /// unknown table or index.
     RecordEditor(std::shared_ptr<store::Database> database, ScreenTable table, QString screenFile);
 
-    /// Puts the current record into @p fields. @throws RuntimeFailure 3021 without a current record, 3265 for
-    /// a field that the table does not have, 13 for a whole-number box whose field is null.
+    /// Copies the current record to @p fields. @throws RuntimeFailure with Failure::NoCurrentRecord without a
+    /// current record, Failure::UnknownName for a field that the table does not have, Failure::TypeMismatch
+    /// for a whole-number box whose field is null.
     void showFields(BoundFields& fields);
 
     /// Whether the table has no record, and none is being added. showFields(), deleteRecord() and the moves
@@ -57,28 +59,28 @@ public:
     /// Whether a save of @p fields would write over values that another screen or program has stored since
     /// showFields().
     [[nodiscard]] bool wouldOverwrite(const BoundFields& fields);
-    /// The number that a save of @p fields would give to a record that is stored already; nothing if the
-    /// number stays, or if another record has the new one, so that the save would be refused.
+    /// The new number that a save of @p fields would give to a stored record; nothing if the number is
+    /// unchanged, or if another record has it, so that the save would be refused.
     [[nodiscard]] std::optional<NewNumber> newNumber(const BoundFields& fields);
     /// Puts the number of the record as it was shown back into @p fields.
     void restoreNumber(BoundFields& fields) const;
-    /// Stores @p fields into the current record, or into the new one. A record that was refused stays open
-    /// for the next attempt. PLU numbers are filled with zeros to their full width, in @p fields as well.
-    /// Waits less than a second for a file that another program holds.
-    /// @return why nothing was stored; nothing when it was.
+    /// Stores @p fields into the current record, or into the new one. A refused record remains open for the
+    /// next attempt. PLU numbers are filled with zeros to their full width, in @p fields as well. Waits less
+    /// than a second for a file locked by another program.
+    /// @return why nothing was stored; nothing on success.
     [[nodiscard]] std::optional<RuntimeFailure> save(BoundFields& fields);
     /// Deletes the current record and goes to the first one, also when somebody else has deleted it already;
     /// drops a new record that is not stored yet.
     void deleteRecord();
-    /// Reads the current record as it stands in the file now. One that is gone gives way to the record with
-    /// the same key, which an upload has put in its place, and nothing to the first record. Drops a change
-    /// that is not stored yet.
-    /// @return false when there is no such record either, or the file cannot be read.
+    /// Reads the current record again from the file. A deleted record is replaced by the record with the same
+    /// key, as after an upload, and no record by the first one. Drops unsaved changes.
+    /// @return false if there is no such record either, or the file cannot be read.
     [[nodiscard]] bool reread();
-    /// All fields of the record as it was shown or stored last; empty while there is none.
+    /// All fields of the record as last shown or stored; empty while there is none.
     [[nodiscard]] const std::vector<store::Value>& seen() const { return m_seen; }
-    /// Goes to the record with the number that @p seen has; the index that is chosen stays.
-    /// @return false if there is none any more. The place stays then, and a record being added or changed.
+    /// Goes to the record with the number of @p seen; the chosen index is kept.
+    /// @return false if there is none any more. The position, and a record being added or changed, are then
+    /// kept.
     [[nodiscard]] bool goBackTo(const std::vector<store::Value>& seen);
     /// From now on, the current record counts as shown in the state @p seen: wouldOverwrite() reports what
     /// others have stored since.
@@ -88,11 +90,11 @@ public:
     [[nodiscard]] bool next();
     /// @return false before the first record: the place is the first record then.
     [[nodiscard]] bool previous();
-    /// Goes to the first record at or after @p text. The index stays chosen for the moves that follow.
+    /// Goes to the first record at or after @p text. The index remains chosen for later moves.
     /// @param button 2 searches by the second index, any other by the first.
     /// A text that begins with @p text counts as found, and so does any record for an empty @p text.
-    /// @return Nothing when there is no such record, or @p text cannot be a key. The place stays then, and
-    /// with it a record being added or changed, so that a save goes where the user expects it.
+    /// @return Nothing if there is no such record, or @p text cannot be a key. The position, and a record
+    /// being added or changed, are then kept, so that a save stores the record that the user expects.
     [[nodiscard]] FindOutcome find(int button, const QString& text);
     /// The field that find() searches.
     [[nodiscard]] const store::FieldDefinition& searchedField(int button) const;

@@ -21,7 +21,7 @@ namespace
 {
 
 constexpr int handlePixels = 16;
-/// Where the main window has no more room beside the screen. At the usual font, in pixels.
+/// Width used if the main window has no more room beside the screen. At the usual font, in pixels.
 constexpr int narrowestPanel = 160;
 
 int panelPixels()
@@ -29,7 +29,7 @@ int panelPixels()
     return ui::scaled(260);
 }
 
-/// The record on the screen stands out also when another row is chosen.
+/// The record on the screen is highlighted even if another row is chosen.
 class MarkingDelegate : public QStyledItemDelegate
 {
 public:

@@ -29,7 +29,7 @@ public:
 
     /// Opens the list with the keyboard in its box, or closes it.
     void toggle();
-    /// Tells which record the screen shows, by the key as it is stored; an empty text for none.
+    /// Sets the record that the screen shows, by its stored key; an empty text for none.
     void mark(const QString& number);
     /// Reads the records again, if the list is open.
     void reload();
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] int handleWidth() const;
 
 Q_SIGNALS:
-    /// The user wants this record on the screen; never the one that it shows.
+    /// The user chose this record for the screen; never the one already shown.
     void chosen(const QString& number);
     /// The list takes so many more pixels beside the screen, less when negative.
     void widened(int pixels);
@@ -58,7 +58,7 @@ private:
 
     store::RecordListModel* m_model;
     QToolButton* m_handle;
-    QWidget* m_panel = nullptr; ///< with all that follows, none before the list is opened
+    QWidget* m_panel = nullptr; ///< with all that follows, nullptr before the list is opened
     ui::FilterBox* m_filter = nullptr;
     QTableView* m_table = nullptr;
     QLabel* m_count = nullptr;

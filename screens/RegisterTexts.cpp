@@ -55,7 +55,7 @@ constexpr int midnight = 2400;
 constexpr int timeDigits = 4;
 constexpr double modelWithoutCards = 0;
 
-/// Eight digits with two behind the point, as the price boxes of the PLU screens.
+/// Eight digits with two after the point, as the price boxes of the PLU screens.
 constexpr double largestPrice = 999999.99;
 
 void narrowTo(ControlDefinition& control, int characters)

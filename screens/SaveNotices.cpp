@@ -17,8 +17,7 @@ struct Reason {
     QLatin1StringView text;
 };
 
-/// Failures that the user can tell in fewer words than the database. The texts of all others name table and
-/// field.
+/// Failures with shorter texts than the database's. The texts of all others name table and field.
 constexpr Reason reasons[] = {
     {Failure::DatabaseLocked, "another program holds the database"_L1},
     {Failure::DiskFull, "the disk is full"_L1},

@@ -1,4 +1,4 @@
-// What the user is asked before a save and told after it.
+// Questions before a save and messages after it.
 #pragma once
 
 #include "platform/Boxes.h"
@@ -19,7 +19,7 @@ namespace norvane::screens
 [[nodiscard]] bool mayRenumber(Boxes& boxes, const QString& record, const QString& before,
                                const QString& after, const KeyHolders& holders);
 
-/// Asks what becomes of changes to @p record ("PLU 1001") before a control leads away from them.
+/// Asks what to do with changes to @p record ("PLU 1001") before a control leads away from them.
 [[nodiscard]] UnsavedAnswer askToSave(Boxes& boxes, const QString& record);
 /// Says that they were left unsaved, and how to get them back.
 [[nodiscard]] QString changesLost(const QString& record);
@@ -28,11 +28,11 @@ namespace norvane::screens
 /// Says that they cannot be got back, since the record was deleted.
 [[nodiscard]] QString changesGone(const QString& record);
 
-/// Says that nothing was stored, and why.
+/// Reports that nothing was stored, and why.
 [[nodiscard]] QString nothingStored(const RuntimeFailure& failure);
 
-/// What one record of the screen @p caption is called, whose key has the label @p label: "PLU". The label is
-/// empty where the key is not shown.
+/// The name for one record of the screen @p caption, whose key has the label @p label: "PLU". The label is
+/// empty if the key is not shown.
 [[nodiscard]] QString recordName(const QString& caption, QString label);
 
 /// "PLU 1001" for the record @p key of many; "Tax Options" with an empty key for the only record of a screen.

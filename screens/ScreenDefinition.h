@@ -15,7 +15,7 @@ namespace norvane::screens
 struct ScreenTable {
     QString table;       ///< empty when the file does not say it
     QString firstIndex;  ///< order at the start and of find button 1; empty when the file does not say it
-    QString secondIndex; ///< order of find button 2; the first index when the file gives no second one
+    QString secondIndex; ///< order of find button 2; the first index if the file gives no second one
 };
 
 /// Section "FormName".
@@ -36,7 +36,7 @@ struct GridColumn {
     bool visible = true;
 };
 
-/// Section "FieldN". What the file does not give stays empty, and the control stays as it is made.
+/// Section "FieldN". Missing keys remain empty, and the control keeps its default.
 struct ControlDefinition {
     QString section; ///< "Field12"
     ControlKind kind = ControlKind::Label;
@@ -57,7 +57,7 @@ struct ControlDefinition {
     bool isHexadecimal = false; ///< no word of the file, see RegisterTexts.h
     std::optional<int> largest; ///< number that a text of digits may make; no word of the file either
     std::optional<int> digits;  ///< that a whole number is shown with at least; no word of the file either
-    QString sqlCriteria;        ///< query behind a combo or grid
+    QString sqlCriteria;        ///< query of a combo or grid
     QString list;               ///< rows of a combo without query: "0;Off,1;On"
     QString columnWidths;       ///< of a combo's list, in twips, separated by ";"; 0 hides a column
     QString valueColumn;        ///< column of a combo's list that is the value, from 0

@@ -7,9 +7,9 @@
 namespace norvane::screens
 {
 
-/// Reads a screen file once and gives it out section by section, so that a screen reports mistakes in the
-/// order in which it is built. Missing keys, sections and files are no failure. A wrong number, or a word
-/// that is neither true nor false, is failure 13, which names file, section and key.
+/// Reads a screen file once and returns it section by section, so that a screen reports mistakes in the order
+/// in which it is built. Missing keys, sections and files are not failures. A wrong number, or a word that is
+/// neither true nor false, is Failure::TypeMismatch, which names file, section and key.
 class ScreenReader
 {
 public:
@@ -17,10 +17,10 @@ public:
 
     [[nodiscard]] const QString& path() const { return m_path; }
     [[nodiscard]] ScreenTable table() const;
-    /// @throws RuntimeFailure 13
+    /// @throws RuntimeFailure with Failure::TypeMismatch
     [[nodiscard]] ScreenWindow window() const;
     /// The controls from "Field1" up to the first section without a control type; sections of an unknown type
-    /// are left out. @throws RuntimeFailure 13, 6
+    /// are left out. @throws RuntimeFailure with Failure::TypeMismatch, 6
     [[nodiscard]] QVector<ControlDefinition> controls() const;
     [[nodiscard]] ScreenButtons buttons() const;
     [[nodiscard]] ScreenReport report() const;

@@ -12,8 +12,8 @@ class SideRoom
 public:
     explicit SideRoom(QWidget& form) : m_form(form) {}
 
-    /// Makes the form @p pixels wider, as far as there is room. A negative number makes it as narrow as it
-    /// was before. A maximized form stays as it is.
+    /// Makes the form @p pixels wider, as far as there is room. A negative number makes it as narrow as
+    /// before. A maximized form is unchanged.
     void widen(int pixels);
 
 private:
