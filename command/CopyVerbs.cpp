@@ -11,7 +11,7 @@ namespace norvane::command
 namespace
 {
 
-/// @throws CommandError NoSuchName when none or several begin so.
+/// @throws CommandError NoSuchName if none or several begin so.
 customers::SafetyCopy copyOf(const QString& customerPath, const QString& name)
 {
     QList<customers::SafetyCopy> found;

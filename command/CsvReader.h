@@ -19,7 +19,7 @@ class CsvReader
 public:
     CsvReader(std::string_view text, char separator) : m_text(text), m_separator(separator) {}
 
-    /// Goes to the next record, the first one at the first call. @return false behind the last.
+    /// Goes to the next record; the first call goes to the first one. @return false after the last.
     [[nodiscard]] bool next();
     /// Where the next record begins in the text, to come back by goTo(). A record that is read so says a
     /// wrong line().

@@ -25,8 +25,8 @@ namespace norvane::command
 namespace
 {
 
-/// What the customer's setup.ini says of a key, as the setup dialog words it; the text itself where it is no
-/// entry of the list.
+/// The value of a key in the customer's setup.ini, as worded in the setup dialog; the text itself if it is
+/// not an entry of the list.
 QString settingInWords(const ApplicationValues& values, QLatin1StringView key)
 {
     const auto all = customers::settings();

@@ -13,7 +13,7 @@ namespace
 constexpr std::size_t digitsOfThousand = 3;
 
 struct Fraction {
-    char sign = 0; ///< 0 for a number that has no sign, or several
+    char sign = 0; ///< 0 for a number without a sign or with several
     std::size_t digits = 0;
 };
 

@@ -129,7 +129,7 @@ int boxOf(const QString& name)
     throw CommandError(ExitCode::NoSuchName, text);
 }
 
-/// The boxes named behind the customer; all without any.
+/// The boxes named after the customer; all if none is named.
 std::set<int> boxesOf(const QStringList& names)
 {
     std::set<int> boxes;
@@ -163,7 +163,7 @@ void exchangeWith(const Workplace& workplace, const Invocation& words, exchange:
     tellStep(runner.resultInWords());
 }
 
-/// The option that answers Yes to the question of the next collection; empty when it would ask nothing.
+/// The option that answers Yes to the question of the next collection; empty if it would ask nothing.
 QString clearHint(const ApplicationValues& values)
 {
     if (!sales::mayBeCleared(sales::unclearedCollection(values)))

@@ -14,7 +14,7 @@ std::span<const ExitMeaning> exitMeanings()
 {
     static constexpr auto meanings = std::to_array<ExitMeaning>({
         {ExitCode::Done, "done"_L1},
-        {ExitCode::Failed, "a failure, told on standard error"_L1},
+        {ExitCode::Failed, "a failure, reported on standard error"_L1},
         {ExitCode::Usage, "the command line is wrong"_L1},
         {ExitCode::NoCustomer, "there is no such customer"_L1},
         {ExitCode::NoSuchName,

@@ -41,13 +41,13 @@ struct ExitMeaning {
     ExitCode code;
     QLatin1StringView text;
 };
-/// All codes with their meaning, as help and manual tell them.
+/// All codes with their meaning, as shown in help and manual.
 [[nodiscard]] std::span<const ExitMeaning> exitMeanings();
 
-/// What a failure that nobody caught means.
+/// The exit code of an uncaught failure.
 [[nodiscard]] ExitCode codeOf(const RuntimeFailure& failure);
 
-/// Ends a command. The text, which may be empty when the user was told already, goes to standard error.
+/// Ends a command. The text, which may be empty if a message was already shown, goes to standard error.
 class CommandError : public std::runtime_error
 {
 public:

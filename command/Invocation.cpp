@@ -79,7 +79,7 @@ QString helpOfAll()
     return text;
 }
 
-/// Moves the options before the verb behind it: "--json report X" becomes "report --json X".
+/// Moves the options before the verb after it: "--json report X" becomes "report --json X".
 QStringList verbFirst(const QStringList& words)
 {
     QCommandLineParser parser;

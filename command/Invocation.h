@@ -43,7 +43,7 @@ struct Verb {
 
 /// Every verb, in the order of the help.
 [[nodiscard]] std::span<const Verb> verbs();
-/// Options that stand with any verb.
+/// Options of every verb.
 [[nodiscard]] std::span<const OptionDefinition> commonOptions();
 
 /// The verb, its operands and options. Common options may also come before the verb.

@@ -21,7 +21,7 @@ using Write = std::function<void(const QByteArray& text)>;
 void writeText(const QStringList& headings, const Rows& rows, const Write& write);
 void writeJson(const QStringList& headings, const Rows& rows, const Write& write);
 
-/// Columns are told by their headings ("Last sales"); as JSON the same names stand as keys ("lastSales").
+/// Columns have headings ("Last sales"); in JSON the same names are keys ("lastSales").
 class Listing
 {
 public:

@@ -39,7 +39,7 @@ public:
     {
         for (const PluColumn& column : pluColumns())
             m_places.push_back(m_plus.fieldOrdinal(column.field));
-        // The screen cannot show a PLU whose number boxes hold nothing.
+        // The screen cannot show a PLU whose number fields are empty.
         for (int place = 0; place < m_plus.fieldCount(); ++place) {
             const auto type = m_plus.field(place).type;
             if (type == store::FieldType::Long || type == store::FieldType::YesNo)

@@ -27,7 +27,7 @@ struct PluColumn {
     QLatin1StringView field;   ///< of PLUDATA
     PluContent content;
     bool isOnScreen = true;    ///< whether a new record of the PLU screen sets it
-    QLatin1StringView table{}; ///< of a key: where it must stand
+    QLatin1StringView table{}; ///< of a key: the table that must have it
     QLatin1StringView tableKey{};
 };
 
@@ -39,7 +39,7 @@ inline constexpr qsizetype longestDescription = 16; ///< characters of a registe
 inline constexpr Decimal highestPrice{99999999, 2}; ///< a register has eight digits for a price
 inline constexpr int priceDecimals = 2;
 
-/// The number as the table keeps it, zeros in front.
+/// The number as stored in the table, with leading zeros.
 [[nodiscard]] std::string filledPluNumber(std::uint64_t number);
 /// What a new record of the PLU screen holds in a column; nothing in one that is not on it.
 [[nodiscard]] store::Value newPluValue(const PluColumn& column);

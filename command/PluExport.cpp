@@ -63,7 +63,7 @@ std::vector<std::vector<Cell>> allLines(store::Database& database)
     return lines;
 }
 
-/// Prices are never rounded: what is imported again must be what stands there.
+/// Prices are never rounded: importing the file again must restore the stored values.
 int mostDecimals(const std::vector<std::vector<Cell>>& lines)
 {
     int most = priceDecimals;

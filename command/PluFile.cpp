@@ -115,7 +115,7 @@ void PluFile::takeHeading(const std::string& cell)
     if (column == all.end()) {
         add(m_csv.line(), shown, u"there is no such column"_s);
     } else if (std::ranges::find(m_columns, &*column) != m_columns.end()) {
-        add(m_csv.line(), shown, u"the column stands there twice"_s);
+        add(m_csv.line(), shown, u"the column is there twice"_s);
     } else {
         m_columns.push_back(&*column);
     }
@@ -143,7 +143,7 @@ void PluFile::takeNumber(std::size_t place)
         learnDecimalSign();
     } else {
         add(m_csv.line(), numberColumn().heading,
-            u"\"%1\" is no PLU number of up to 18 digits"_s.arg(
+            u"\"%1\" is not a PLU number of up to 18 digits"_s.arg(
                 excerptOfUtf8(trimBlanks(std::string_view(cell)))));
     }
 }

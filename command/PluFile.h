@@ -29,7 +29,7 @@ class PluFile
 {
 public:
     /// Reads CSV in UTF-8. A line of headings names the columns, in any order and case; up to four lines
-    /// before it, such as a title, are passed over. So are empty lines.
+    /// before it, such as a title, are skipped. So are empty lines.
     /// @param content must outlive this object
     /// @param separator of the values; nothing for what the headings show: a semicolon, comma or tab
     PluFile(const QByteArray& content, std::optional<char> separator);

@@ -38,7 +38,7 @@ QString faultOf(const QString& text)
     if (std::ranges::any_of(text, [](QChar letter) { return letter.category() == QChar::Other_Control; }))
         return u"\"%1\" has a line end or another control character"_s.arg(text.simplified());
     if (text.contains(u','))
-        return u"\"%1\" has a comma, at which the file for the registers would be parted"_s.arg(text);
+        return u"\"%1\" has a comma, which would split it in the file for the registers"_s.arg(text);
     if (!fitsWindows1252(text))
         return u"\"%1\" has characters that a register does not know"_s.arg(text);
     return {};
@@ -239,7 +239,8 @@ private:
     {
         const bool isPrice = column.content == PluContent::Price;
         if (!number)
-            return (isPrice ? u"\"%1\" is no price"_s : u"\"%1\" is no number"_s).arg(excerptOfUtf8(cell));
+            return (isPrice ? u"\"%1\" is not a price"_s : u"\"%1\" is not a number"_s)
+                .arg(excerptOfUtf8(cell));
         if (m_file.decimalSign().leavesOpen(cell))
             return readingsOf(column, cell, *number);
         if (isPrice)

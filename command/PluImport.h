@@ -45,7 +45,7 @@ public:
     /// Of known and new PLUs.
     [[nodiscard]] std::size_t changeCount() const { return m_changes.size(); }
     [[nodiscard]] std::size_t newCount() const { return m_newCount; }
-    /// Calls @p take with each change: by number, new PLUs behind them as the file has them.
+    /// Calls @p take with each change: by number, then new PLUs in the order of the file.
     void forEach(const std::function<void(const PluChange& change)>& take) const;
 
 private:
@@ -67,8 +67,8 @@ private:
 };
 
 /// Stores all changes or none. New PLUs are filled as the PLU screen fills a new record.
-/// @throws RuntimeFailure 3022, 3167 when the PLUs are no longer those that were compared, 18 after a signal,
-/// and as the database reports.
+/// @throws RuntimeFailure with Failure::DuplicateKey, Failure::RecordDeleted when the PLUs are no longer
+/// those that were compared, 18 after a signal, and as the database reports.
 void applyPluChanges(store::Database& database, const PluComparison& comparison);
 
 /// A value of the column as the listing shows it: prices with two places and a point.

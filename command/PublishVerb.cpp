@@ -87,7 +87,7 @@ QString vanishedText(const QString& name, const chain::Published& published)
     }
     if (!published.vanishedNames.isEmpty())
         parts << u"all %1"_s.arg(published.vanishedNames.join(u", "_s));
-    QString text = u"\"%1\" no longer has %2: they stay as published."_s.arg(name, parts.join(u" and "_s));
+    QString text = u"\"%1\" no longer has %2: they remain as published."_s.arg(name, parts.join(u" and "_s));
     if (published.heldBack > 0)
         text += u" So do %1 days that differ."_s.arg(published.heldBack);
     return text +
@@ -106,8 +106,8 @@ public:
     {
     }
 
-    /// @throws CommandError for the first thing that went wrong; what concerns one shop alone was told
-    /// before.
+    /// @throws CommandError for the first thing that went wrong; failures of a single shop were already
+    /// reported.
     void run();
 
 private:

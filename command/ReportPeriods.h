@@ -17,8 +17,8 @@ inline constexpr QLatin1StringView dayPeriod("day");
 /// @return an empty list for a layout that the menu does not use.
 [[nodiscard]] QStringList periodsOf(const QString& name);
 
-/// The entry of the menu for a report and a period.
-/// @throws CommandError Usage for a report that has no such period; the text lists those it has.
+/// The menu entry for a report and a period.
+/// @throws CommandError Usage for a report without that period; the text lists its periods.
 [[nodiscard]] const sales::ReportEntry& entryOfPeriod(const QString& name, const QString& period);
 
 } // namespace norvane::command

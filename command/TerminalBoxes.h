@@ -1,4 +1,4 @@
-// The program's boxes where nobody sits at a window: texts on standard error, questions answered No.
+// The program's boxes on a command line: texts on standard error, questions answered No.
 #pragma once
 
 #include "base/LossQuestion.h"
@@ -9,7 +9,7 @@
 namespace norvane::command
 {
 
-/// Every question of the program is put so that No, or the second answer, loses nothing. An option of the
+/// Every question of the program is worded so that No, or the second answer, loses nothing. An option of the
 /// command line can answer Yes.
 class TerminalBoxes : public Boxes, public AnswersByOption
 {

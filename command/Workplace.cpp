@@ -58,7 +58,7 @@ bool canWriteIn(const QString& folder)
     return QFileInfo(folder).isWritable() && QStorageInfo(folder).bytesAvailable() > 0;
 }
 
-/// A file that is no database any more is told before the work begins. @throws CommandError Unsound
+/// A file that is no longer a database is reported before the work begins. @throws CommandError Unsound
 void checkOpens(const QString& database)
 {
     try {

@@ -36,13 +36,13 @@ struct Workplace {
     void show(const QStringList& headings, const Rows& rows) const;
 };
 
-/// The values of an existing customer, found without regard to case where only one is meant. Its database is
-/// not opened and may be damaged or gone.
-/// @throws CommandError NoCustomer; NoSuchName when the name fits several.
+/// The values of an existing customer, found without regard to case if the name is unique. Its database is
+/// not opened and may be damaged or missing.
+/// @throws CommandError NoCustomer; NoSuchName if the name matches several.
 [[nodiscard]] ApplicationValues findCustomer(const Workplace& workplace, const QString& name);
 
-/// The same; its database is brought to the current layout, as at a choice in the window.
-/// @throws CommandError as well Unsound when its database is damaged or is none.
+/// The same; its database is upgraded to the current layout, as when chosen in the window.
+/// @throws CommandError also Unsound if its database is damaged or is not a database.
 [[nodiscard]] ApplicationValues takeCustomer(const Workplace& workplace, const QString& name);
 
 /// Also begins to catch signals: the run must call stopIfSignalled().

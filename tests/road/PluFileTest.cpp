@@ -169,14 +169,14 @@ TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
         {"", u"line 1: there is no line of headings with a column \"Number\""_s},
         {"Price 1\n2\n", u"line 1: there is no line of headings"_s},
         {"Number,Prize\n", u"line 1, Prize: there is no such column"_s},
-        {"Number,Number\n", u"line 1, Number: the column stands there twice"_s},
+        {"Number,Number\n", u"line 1, Number: the column is there twice"_s},
         {prices + "1,2\n2,3,4\n", u"line 3: 3 columns, but 2 headings"_s},
         {prices + "1,2\n\n01,3\n", u"line 4, Number: the number stands in line 2 already"_s},
         {prices + "1234567890123456789,1\n",
-         u"\"1234567890123456789\" is no PLU number of up to 18 digits"_s},
+         u"\"1234567890123456789\" is not a PLU number of up to 18 digits"_s},
         {prices + "9E+17,1\n,2\n", u"line 3, Number: \"\" is no PLU number"_s},
-        {prices + "1,2x\n", u"line 2, Price 1: \"2x\" is no price"_s},
-        {prices + "1,\"1.234,50\"\n", u"\"1.234,50\" is no price"_s},
+        {prices + "1,2x\n", u"line 2, Price 1: \"2x\" is not a price"_s},
+        {prices + "1,\"1.234,50\"\n", u"\"1.234,50\" is not a price"_s},
         {prices + "1,\"1,000\"\n",
          u"line 2, Price 1: \"1,000\" may mean 1.00 or 1000.00; write 1.00 or 1000.00"_s},
         {prices + "900000000000000000,1.500\n", u"\"1.500\" may mean 1.50 or 1500.00"_s},
@@ -195,7 +195,7 @@ TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
         {"Number,Group,Status\n1,7,1\n2,8,x\n",
          u"line 3, Group: there is no group 8\nline 3, Status: \"x\" is no"_s},
         {prices + QByteArray("x,1\n").repeated(101),
-         u"line 101, Number: \"x\" is no PLU number of up to 18 digits\n"
+         u"line 101, Number: \"x\" is not a PLU number of up to 18 digits\n"
          "%1 has mistakes: 101. Nothing was changed. "
          "The first 100 are listed."_s.arg(m_file)},
     };
