@@ -61,7 +61,7 @@ inline std::string_view columnText(sqlite3_stmt* statement, int place)
     return text == nullptr ? std::string_view() : text;
 }
 
-/// Runs a statement that gives no rows, to be run again.
+/// Runs a statement that returns no rows, to be run again.
 inline void runOnce(sqlite3_stmt* statement)
 {
     require(sqlite3_step(statement) == SQLITE_DONE, "run");

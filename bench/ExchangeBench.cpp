@@ -28,7 +28,7 @@ using bench::require;
 using Seconds = std::chrono::duration<double>;
 
 constexpr int dorvik = 3;
-constexpr int mostPlus = 99999; ///< that the memory of a register tells of
+constexpr int mostPlus = 99999; ///< the largest capacity in a register's memory file
 
 /// Measures the tools and the program's own steps apart.
 class Meter
@@ -114,7 +114,7 @@ public:
     }
     /// The copy that an upload begins with, alone.
     void copy() { require(customers::copyBeforeJob(m_values, m_boxes, u"bench"_s), "copied"); }
-    /// Takes a file away from the register, so that only a send can bring it back.
+    /// Removes a file from the register, so that only a send can restore it.
     void emptyRegister() { require(QFile::remove(pluFile()), "the register's PLUs go"); }
     void checkRegister()
     {

@@ -216,7 +216,7 @@ void filterPlus(benchmark::State& state)
     times.tell(state);
 }
 
-/// With the list of all PLUs beside its 50 lines.
+/// Opened with the list of all PLUs beside its 50 lines.
 void openLookUps(benchmark::State& state)
 {
     Shop shop;

@@ -30,7 +30,7 @@ inline std::int64_t statusBytes(const char* name)
 }
 
 /// The most memory that work on a file takes above what the process had, as a multiple of the file's size. It
-/// is measured in a process of its own, whose mark of the highest use was set back before.
+/// is measured in a separate process, whose peak value was reset before.
 inline void measureMemory(benchmark::State& state, std::size_t fileSize, const std::function<void()>& work)
 {
     std::array<int, 2> pipeEnds{};

@@ -22,7 +22,7 @@ using bench::BareDatabase;
 using bench::require;
 
 constexpr int recordCount = 100000;
-/// ID, promotion and waste stand ahead of the count and the value of each price level.
+/// ID, promotion and waste come before the count and the value of each price level.
 constexpr int headValues = 3;
 constexpr int levels = 4;
 /// A poll file that carries the stamp of four levels at its place, and nothing else.

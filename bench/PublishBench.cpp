@@ -163,7 +163,7 @@ bench::Cost costOf(Work work)
     return cost;
 }
 
-/// From now on the peak is counted anew.
+/// From now on the peak is counted again.
 void forgetPeak()
 {
     QFile file(u"/proc/self/clear_refs"_s);

@@ -112,7 +112,7 @@ struct PeriodOfSales {
     store::DayRange days;
 };
 
-/// The least that could tell the sales: names and exact sums left out.
+/// A minimal statement for the sales: without names and exact sums.
 void addUpBare(const BareDatabase& bare, const std::string& rows)
 {
     const std::string sql =

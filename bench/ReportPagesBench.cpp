@@ -34,7 +34,7 @@ reports::ReportData reportOf(int lines)
     return report;
 }
 
-/// A window that can tell when its pages were first painted.
+/// A window that records when its pages were first painted.
 class FirstPaint : public QObject
 {
 public:
@@ -58,7 +58,7 @@ bool isLaidOut(const QWidget& window)
     return number && !number->text().endsWith(u"..."_s);
 }
 
-/// From run() with its lines at hand to the first painted page, and to the last one laid out.
+/// From run() with available lines to the first painted page, and to the last one laid out.
 void openPreview(benchmark::State& state)
 {
     const reports::ReportData lines = reportOf(static_cast<int>(state.range(0)));

@@ -323,7 +323,7 @@ void registerPeriods(int days)
         ->Unit(benchmark::kMillisecond);
 }
 
-/// Appending is measured last: a shop that has grown a little is no longer of that many days.
+/// Appending is measured last: it changes the number of days of the shop.
 void registerAll(int years)
 {
     std::vector<int> sizes{daysPerMonth, daysPerYear};

@@ -24,7 +24,7 @@ inline constexpr int boxTicked = 1;
 [[nodiscard]] const std::array<const char*, boxCount>& boxCaptions();
 /// A caption as the user reads it.
 [[nodiscard]] QString boxName(int box);
-/// The names of several, parted by commas.
+/// The names of several, separated by commas.
 [[nodiscard]] QString boxNames(const QList<int>& boxes);
 
 /// Whether the note about powering off the registers is shown before a download of the serial port devices.

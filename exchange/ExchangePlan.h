@@ -1,4 +1,4 @@
-// What an upload and a download move, in order: one row for each register file behind a box.
+// The files moved by an upload and a download, in order: one row for each register file of a box.
 #pragma once
 
 #include <span>
@@ -23,8 +23,8 @@ enum class Copy {
     FromCustomerUnlessEmpty, ///< the same, but a copy without bytes is not sent; a missing one is a failure
 };
 
-/// A file sent to all registers of the range. The file catalogue knows the procedure that makes it from its
-/// table, and whether an empty table is passed over.
+/// A file sent to all registers of the range. The file catalogue has the procedure that makes it from its
+/// table, and whether an empty table is skipped.
 struct DownloadRow {
     int box;
     int file;
@@ -36,7 +36,7 @@ struct DownloadRow {
 [[nodiscard]] std::span<const UploadRow> uploadPlan();
 [[nodiscard]] std::span<const DownloadRow> downloadPlan();
 
-/// The rows of one box; they stand together in a plan.
+/// The rows of one box; they are adjacent in a plan.
 template <typename Row>
 [[nodiscard]] std::span<const Row> rowsOfBox(std::span<const Row> plan, int box)
 {

@@ -121,7 +121,7 @@ void ExchangeRunner::logFailedCall(Direction direction, const QString& reason)
     logLine(direction).setResult(stoppedText(reason));
 }
 
-/// After everything else: nobody may be there to close it.
+/// After everything else: the box may stay open unattended.
 void ExchangeRunner::showLastBox()
 {
     if (m_lastBox.text.isEmpty())
@@ -168,8 +168,8 @@ bool ExchangeRunner::download()
            moveBoxes(downloadPlan(), &ExchangeRunner::downloadRow);
 }
 
-/// Remembered from here on, so that a run that is cut off at any time is told later. A run without boxes
-/// moves nothing, and the boxes of the run before it are still to do.
+/// Stored from here on, so that an interrupted run is reported later. A run without boxes moves nothing, and
+/// the boxes of the run before it are still to do.
 void ExchangeRunner::begin(Direction direction)
 {
     m_exchange = {direction, QDateTime::currentDateTime(), tickedBoxes()};
@@ -296,8 +296,8 @@ bool ExchangeRunner::sendFile(const DownloadRow& row, bool fromTable)
     return true;
 }
 
-/// Sending the PLUs clears their points at the registers, and the points that follow are those of the table:
-/// none, as long as they were not fetched after the PLUs.
+/// Sending the PLUs clears their points at the registers, and the points sent next are those of the table:
+/// none, if they were not fetched after the PLUs.
 bool ExchangeRunner::mayTouchPoints(int file)
 {
     const bool clearsPoints = file == pluFile || file == pluPointsFile;
@@ -346,8 +346,8 @@ void ExchangeRunner::copyAfterSend(const DownloadRow& row)
     }
 }
 
-/// The customer's copy is the only store of a file without a table. It stays when a tool reports success but
-/// has left no file.
+/// The customer's copy is the only store of a file without a table. It is kept if a tool reports success but
+/// has written no file.
 void ExchangeRunner::keepForCustomer(const QString& name)
 {
     if (!pathExists(joinPath(m_values.appPath, name)))

@@ -16,7 +16,7 @@
 namespace norvane::exchange
 {
 
-/// One run over the ticked boxes. The values, settings and ticks handed in must outlive it. A box is unticked
+/// One run over the ticked boxes. The values, settings and ticks passed in must outlive it. A box is unticked
 /// when all its files have moved, so that after a failure the ticks show what is still to do; the customer's
 /// folder remembers them too. Nothing is undone.
 class ExchangeRunner
@@ -28,11 +28,12 @@ public:
     ExchangeRunner& operator=(const ExchangeRunner&) = delete;
 
     /// Fetches from one register, reloads the tables, keeps the binary files in the customer's folder. A
-    /// safety copy comes first; without room for it nothing starts.
+    /// safety copy is made first; without room for it nothing starts.
     /// @return whether all ticked boxes moved, as downloaddata() does. Both write a line to the customer's
     /// log.
-    /// @throws RuntimeFailure 53 when status.out or a text file is missing, 13 when status.out holds no
-    /// number or the model is none, and what the importers throw.
+    /// @throws RuntimeFailure with Failure::FileNotFound when status.out or a text file is missing,
+    /// Failure::TypeMismatch when status.out holds no number or the model is invalid, and as the importers
+    /// throw.
     bool UploadData();
     /// Makes the files from the tables, or takes the kept ones, and sends them to registers 1 to n.
     /// @throws as UploadData, and 53 when the kept bitmap file is missing.
@@ -41,7 +42,7 @@ public:
     void logFailedCall(Direction direction, const QString& reason);
     /// What a complete run has moved: "36 files from register 1, 12 s". Empty for any other.
     [[nodiscard]] const QString& resultInWords() const { return m_result; }
-    /// Whether the upload did not start because no safety copy could be made; the user was told then.
+    /// Whether the upload did not start because no safety copy could be made; a message was shown then.
     [[nodiscard]] bool lacksCopy() const { return m_lacksCopy; }
 
 private:
@@ -89,7 +90,7 @@ private:
     QString m_place;              ///< in progress: "file 67", "the opening exchange"
     /// Why the run stops. A step that ends it without a result of the tool was answered No.
     QString m_stop = QStringLiteral("answered No");
-    /// Ends the run; without a text there is none.
+    /// Ends the run; without a text no box is shown.
     struct {
         QString text;
         QString title;

@@ -28,7 +28,7 @@ protected:
     [[nodiscard]] bool mayStart() override;
     void run() override;
     [[nodiscard]] QString leavingNotice() const override;
-    /// Tells first what the last exchange left undone.
+    /// First shows what the last exchange left undone.
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -48,7 +48,7 @@ private:
     void setTicked(int box, bool ticked) override;
 
     QString m_exchangeMode;
-    QLabel* m_way; ///< between whose tables and which registers
+    QLabel* m_way; ///< the customer of the tables, and the registers
     std::array<QCheckBox*, boxCount> check1{};
     QPushButton* CSCmdBtn2 = nullptr;
 };

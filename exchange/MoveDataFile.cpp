@@ -13,7 +13,7 @@ namespace norvane::exchange
 namespace
 {
 
-/// Removes the file in every spelling, so that no other one is found next.
+/// Removes the file in every case variant, so that no other one is found next.
 void removeEverySpelling(const QString& path)
 {
     while (pathExists(path)) {

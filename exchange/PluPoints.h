@@ -24,7 +24,7 @@ void notePluPoints(const ApplicationValues& values, PluPoints points);
 /// have put back: with its points, or as it was while they waited.
 [[nodiscard]] bool pluPointsWait(const ApplicationValues& values);
 
-/// Asks before PLUs are sent whose points wait. @return whether the points at the registers may be lost.
+/// Asks before PLUs with pending points are sent. @return whether the points at the registers may be lost.
 [[nodiscard]] bool mayLosePoints(Boxes& boxes);
 
 /// Commits PLUs that were fetched, which have no points, by calling @p commit.

@@ -14,7 +14,7 @@ namespace norvane::exchange
 
 enum class Direction { Upload, Download };
 
-/// An exchange that did not come to its end: a crash, a power cut, an error, or the user leaving.
+/// An exchange that did not finish: a crash, a power cut, an error, or the user leaving.
 struct UnfinishedExchange {
     Direction direction = Direction::Upload;
     QDateTime started;
@@ -24,7 +24,7 @@ struct UnfinishedExchange {
 [[nodiscard]] std::optional<UnfinishedExchange> unfinishedExchange(const ApplicationValues& values);
 /// Remembers @p exchange in place of any other; one without boxes is finished and forgotten.
 void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exchange);
-/// Tells which boxes of the last exchange are still to do, and since when; nothing when there are none.
+/// Shows which boxes of the last exchange are still to do, and since when; nothing if there are none.
 void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes);
 
 } // namespace norvane::exchange

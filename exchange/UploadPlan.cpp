@@ -1,4 +1,4 @@
-// The upload plan. The tool takes the letter of -U or -u and the leading blanks as they stand here.
+// The upload plan. The tool takes the letter of -U or -u and the leading blanks as written here.
 #include "exchange/ExchangePlan.h"
 
 namespace norvane::exchange

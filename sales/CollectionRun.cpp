@@ -102,7 +102,7 @@ CollectionRun::CollectionRun(const ApplicationValues& values, CollectionOutside 
 
 bool CollectionRun::collect(ClearFirst clearFirst)
 {
-    // Called because it makes an empty poll194.dll when there is none.
+    // Called because it creates an empty poll194.dll if there is none.
     (void)ReadPoll194Stamp(m_values);
     m_link = link::readLinkSettings(m_values);
     m_isStored = m_isCleared = false;
@@ -312,16 +312,16 @@ bool CollectionRun::mayUse(const link::WatchedStep& step, bool hasReports, const
     return step.mayGoOn(consequence);
 }
 
-/// Whether the records of the PLU report hold descriptions, as its stamp tells. No layout has a column for
-/// them.
+/// Whether the records of the PLU report have descriptions, according to its stamp. No layout has a column
+/// for them.
 bool CollectionRun::sendsDescriptions() const
 {
     const QString stamp = ReadPoll194Stamp(m_values).trimmed();
     return stamp.endsWith(u'3') || stamp.endsWith(u'2');
 }
 
-/// Makes all five texts first, then asks once about those that failed. @return false when the user has left
-/// or does not want older ones.
+/// Makes all five texts first, then asks once about those that failed. @return false if the user has left or
+/// rejected older ones.
 bool CollectionRun::convertReports()
 {
     const QString model = GetModelCode(m_values);

@@ -1,4 +1,4 @@
-// The collection of a day's sales from all registers, in an order that loses none.
+// Collects a day's sales from all registers, in an order that loses none.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -17,7 +17,7 @@ namespace norvane::sales
 
 /// What a collection calls.
 struct CollectionOutside {
-    /// Brings the link up. @return what the dialling gave, 0 on a direct link.
+    /// Connects the link. @return the result of dialling, 0 on a direct link.
     std::function<int(const link::LinkSettings& link)> connectLink;
     /// Hangs up a modem; nothing on a direct link.
     std::function<void()> disconnectLink;
@@ -40,12 +40,13 @@ public:
     CollectionRun(const CollectionRun&) = delete;
     CollectionRun& operator=(const CollectionRun&) = delete;
 
-    /// Shows the result's text in a box when a step fails. A modem is always hung up first. The customer's
-    /// log gets a line. @p clearFirst Yes answers the question about an earlier collection, as far as a clear
-    /// loses nothing.
+    /// Shows the result's text in a box if a step fails. A modem is always hung up first. Adds a line to the
+    /// customer's log. @p clearFirst Yes answers the question about an earlier collection if a clear loses
+    /// nothing.
     /// @return whether the sales were stored and the registers cleared.
-    /// @throws RuntimeFailure 53 when status.out is missing, 13 when it holds no number or the model is none,
-    /// 6 and 13 for link settings, and what storeReports() throws.
+    /// @throws RuntimeFailure with Failure::FileNotFound when status.out is missing, Failure::TypeMismatch
+    /// when it holds no number or the model is none, 6 and Failure::TypeMismatch for link settings, and as
+    /// storeReports() throws.
     bool collect(ClearFirst clearFirst = ClearFirst::Ask);
     /// What a complete run has stored: "3,776 rows of sales stored, 12 s". Empty for any other.
     [[nodiscard]] const QString& resultInWords() const { return m_result; }
@@ -90,7 +91,7 @@ private:
     qint64 m_rowsStored = 0;
     QString m_result; ///< of a complete run
     bool m_isCleared = false;
-    bool m_ended = false; ///< the user left, or does not want what a tool left
+    bool m_ended = false; ///< the user left, or rejected files left by a tool
     ReportOrigin m_origin = ReportOrigin::ThisRun;
 };
 

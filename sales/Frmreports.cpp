@@ -112,7 +112,7 @@ void Frmreports::tellDay()
         ui::announce(*CSCal, day);
 }
 
-/// In any other mode the formula stays as the menu entry set it.
+/// In any other mode the formula of the menu entry is kept.
 void Frmreports::generate()
 {
     if (const auto formula = formulaOfDay(m_values.reportMode, CSCal->selectedDate()))
@@ -122,8 +122,8 @@ void Frmreports::generate()
     m_report.run();
 }
 
-/// The mode comes first: the dialog looks at it when it is made. The price list sets none, so that after a
-/// report by date it opens with the calendar and takes over that report's selection of a day.
+/// The mode is set first: the dialog reads it when it is created. The price list sets none, so that after a
+/// report by date it opens with the calendar and keeps that report's selection of a day.
 void showReport(const ReportEntry& entry, ApplicationValues& values, Boxes& boxes, QWidget* parent,
                 const reports::Runner& runner)
 {

@@ -1,4 +1,4 @@
-// The dialog behind every report of the menu.
+// The dialog of every report of the menu.
 #pragma once
 
 #include "base/ApplicationValues.h"
@@ -18,14 +18,14 @@ class Boxes;
 namespace norvane::sales
 {
 
-/// Asks for a target and, where the application's report mode says so, for a day. It stays open, so that a
-/// report can be had for further days or once more on paper. Enter generates, Escape leaves.
+/// Asks for a target and, depending on the application's report mode, for a day. It remains open, so that a
+/// report can be generated for further days or printed again. Enter generates, Escape leaves.
 class Frmreports : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Shows the calendar by the report mode as it stands, at today. @p values must outlive the dialog.
+    /// Shows the calendar at today, as the current report mode requires. @p values must outlive the dialog.
     Frmreports(const ApplicationValues& values, Boxes& boxes, reports::Runner runner,
                QWidget* parent = nullptr);
 

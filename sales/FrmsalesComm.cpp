@@ -1,4 +1,4 @@
-// The collection form's controls and the run behind its button.
+// The collection form's controls and the run started by its button.
 #include "sales/FrmsalesComm.h"
 
 #include "customers/DataOwner.h"

@@ -18,8 +18,8 @@ namespace
 
 constexpr auto section = "Collection"_L1;
 /// "2026-11-24T18:03:11 612 <mark>", and while the registers are not cleared also the result of clearing them
-/// ("8", or "none") and "more" when they hold more than was stored. One line, so that no half of it is ever
-/// taken for the whole.
+/// ("8", or "none") and "more" if they have more than was stored. One line, so that a part of it is never
+/// read as the whole.
 constexpr auto storedKey = "Stored"_L1;
 constexpr auto noResult = "none"_L1;
 constexpr auto moreWord = "more"_L1;
@@ -36,7 +36,7 @@ void readRecords(const ApplicationValues& values, LastCollection& last)
     }
 }
 
-/// @p words behind the mark.
+/// @p words after the mark.
 std::optional<Uncleared> unclearedOf(const QStringList& words)
 {
     if (words.isEmpty())

@@ -22,7 +22,7 @@ inline constexpr std::size_t reportCount = 5;
 
 /// Why the registers may still hold sales that are stored.
 struct Uncleared {
-    std::optional<int> result; ///< of the last attempt to clear them; nothing when it left none
+    std::optional<int> result; ///< of the last attempt to clear them; nothing if it left none
     /// The registers may also hold sales that are not stored. Clearing them would lose those.
     bool holdsMore = false;
 };
@@ -32,7 +32,7 @@ struct LastCollection {
     QByteArray mark; ///< hash of the five texts, empty before the first collection
     QDateTime stored;
     qint64 rowsOfDay = 0; ///< of that day in the sales tables, right after it was stored
-    /// Records of each report in the order of pollFiles(); -1 when none is known.
+    /// Records of each report in the order of pollFiles(); -1 if unknown.
     std::array<qint64, reportCount> records{-1, -1, -1, -1, -1};
     std::optional<Uncleared> uncleared; ///< nothing once all registers were cleared
 };
@@ -41,7 +41,7 @@ struct LastCollection {
 void noteLastCollection(const ApplicationValues& values, const LastCollection& collection);
 
 /// A hash of the five texts in the program's folder: the same only for the same bytes.
-/// @throws RuntimeFailure 53 when one is missing.
+/// @throws RuntimeFailure with Failure::FileNotFound when one is missing.
 [[nodiscard]] QByteArray markOfReports(const ApplicationValues& values);
 
 /// Rows of a day in all tables that a collection fills.

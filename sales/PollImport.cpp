@@ -47,7 +47,7 @@ constexpr PollFile readers[] = {
 constexpr std::int64_t blockLength = 118;
 
 /// How many price levels the PLU report has by its stamp. The first row that fits counts, so that a last
-/// digit of 0 means one level whatever stands before it.
+/// digit of 0 means one level whatever the first digit is.
 struct StampLayout {
     enum { First, Last } place;
     char digit;
@@ -81,7 +81,7 @@ QString shown(std::string_view text)
 
 [[noreturn]] void failNoNumber(std::string_view text)
 {
-    throw RuntimeFailure(Failure::TypeMismatch, u"Type mismatch: \"%1\" is no number"_s.arg(shown(text)));
+    throw RuntimeFailure(Failure::TypeMismatch, u"Type mismatch: \"%1\" is not a number"_s.arg(shown(text)));
 }
 
 double numberOf(std::string_view text)
@@ -185,7 +185,7 @@ void Import::storeRecord(TextValues& text)
         addRow();
 }
 
-/// Records that are passed over count too, so that an item keeps its number.
+/// Skipped records count too, so that an item keeps its number.
 void Import::count()
 {
     ++m_record;
@@ -241,9 +241,9 @@ void Import::addRow()
     ++m_rows;
 }
 
-/// The first collection of a month adds up the one before, so that no report has to. Reports reach back to
-/// the beginning of the year at most; after a longer absence they add up the rest themselves, and where it
-/// cannot be done here they read the rows: a day's sales are never refused for it.
+/// The first collection of a month adds up the one before, so that reports need not. Reports reach back to
+/// the beginning of the year at most; after a longer absence they add up the rest themselves, and if adding
+/// up fails here they read the rows: a day's sales are never refused for it.
 void addUpEndedMonths(store::Database& database, const QString& table, QDate collected)
 {
     const QDate month(collected.year(), collected.month(), 1);

@@ -15,7 +15,7 @@ class Database;
 namespace norvane::sales
 {
 
-/// What a row's ID is, when the record does not tell it.
+/// The source of a row's ID.
 enum class Numbering {
     ByText,  ///< the record's first value is the item's code
     Running, ///< the place of the record in the file, from 1
@@ -25,7 +25,7 @@ enum class Numbering {
 /// Which values a record has.
 enum class RecordForm {
     Fixed,   ///< one for each field
-    Stamped, ///< so many as the stamp of the PLU report tells
+    Stamped, ///< as many as the stamp of the PLU report says
 };
 
 /// One of the five readers.
@@ -51,13 +51,14 @@ struct ImportedReport {
 /// The five readers in the order in which a collection runs them.
 [[nodiscard]] std::span<const PollFile> pollFiles();
 
-/// Appends a row to the reader's table for each record of its file, dated @p collected: nothing in a file
-/// tells when its sales were made. The rows ahead of a failure are there when it is thrown; a transaction of
-/// the caller decides what becomes of them. After a good end the months of the year before that still lack
-/// totals get them, see store/MonthTotals.h.
-/// @throws RuntimeFailure 53 when the file is missing; naming file and record 62 when the last record is
-/// short, 13 for a value that is empty or no number, 6 for one that is too large, 3163 for an item's code
-/// that is too long, 3314 at the first record when the PLU report's stamp fits no layout.
+/// Appends a row to the reader's table for each record of its file, dated @p collected: the file does not say
+/// when its sales were made. On a failure, the rows before it have been added; a transaction of the caller
+/// decides whether to keep them. On success, earlier months of the year without totals get them, see
+/// store/MonthTotals.h.
+/// @throws RuntimeFailure with Failure::FileNotFound if the file is missing; naming file and record, with
+/// Failure::InputPastEnd if the last record is short, Failure::TypeMismatch for a value that is empty or not
+/// a number, Failure::Overflow for one that is too large, Failure::TextTooLong for an item's code that is too
+/// long, Failure::RequiredFieldIsNull at the first record if the PLU report's stamp fits no layout.
 ImportedReport importPollFile(const PollFile& file, store::Database& database,
                               const ApplicationValues& values, QDate collected);
 

@@ -21,7 +21,7 @@ struct ReportEntry {
     QLatin1StringView handler; ///< "PLUSalesByDate_Click"
     QLatin1StringView title;
     QLatin1StringView file; ///< layout in the program's folder
-    /// What ApplicationValues::reportMode is set to; nothing leaves it as it stands.
+    /// The value for ApplicationValues::reportMode; nothing leaves it unchanged.
     std::optional<QLatin1StringView> mode;
     QLatin1StringView formula; ///< of the selection; empty for none
     TitleUse titleUse = TitleUse::Report;
@@ -30,7 +30,7 @@ struct ReportEntry {
 [[nodiscard]] std::span<const ReportEntry> reportEntries();
 
 /// The selection formula for the sales of @p day: "{PLUSALES.SALESDATE} = date(2004,5,7)" for "DAILYPLU".
-/// @return nothing when @p mode is none of those that ask for a day.
+/// @return nothing if @p mode does not ask for a day.
 [[nodiscard]] std::optional<QString> formulaOfDay(const QString& mode, QDate day);
 
 } // namespace norvane::sales

@@ -142,7 +142,7 @@ bool ReportStore::isRepeat() const
 bool ReportStore::mayStoreAgain() const
 {
     const QString then = m_origin == ReportOrigin::ThisRun
-                             ? u"No stores nothing and goes on to clear the registers."_s
+                             ? u"No stores nothing and continues with clearing the registers."_s
                              : u"No stores nothing and leaves the sales at the registers."_s;
     return askBeforeLoss(
         m_boxes, u"These sales are stored already: poll190.txt and the other four reports "

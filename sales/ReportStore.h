@@ -26,9 +26,9 @@ struct StoredReports {
     qint64 rows; ///< that were stored
 };
 
-/// Imports the five reports, dated @p collected, in one transaction. Asks when a report holds fewer records
-/// than this customer's last one or none at all, and when all are byte for byte those that were stored last.
-/// When a failure ends it the user is asked whether what was read stays, see importOrPutBack().
+/// Imports the five reports, dated @p collected, in one transaction. Asks if a report has fewer records than
+/// this customer's last one or none at all, and if all are byte for byte those that were stored last. After a
+/// failure the user is asked whether to keep what was read, see importOrPutBack().
 /// @throws what importPollFile() throws.
 [[nodiscard]] StoredReports storeReports(const ApplicationValues& values, Boxes& boxes, QDate collected,
                                          ReportOrigin origin);

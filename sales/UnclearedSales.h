@@ -16,15 +16,15 @@ namespace norvane::sales
 
 /// Notes that all registers were cleared.
 void noteCleared(const ApplicationValues& values);
-/// Notes that a clear failed. @param result of the transfer tool; nothing when it left none.
+/// Notes that a clear failed. @param result of the transfer tool; nothing if it left none.
 void noteClearFailed(const ApplicationValues& values, std::optional<int> result);
-/// Notes that the registers are about to make up reports of newer sales.
+/// Notes that the registers are about to consolidate newer sales.
 void noteNewerSales(const ApplicationValues& values);
 
 /// Asks whether to clear the sales of @p collection before a new collection.
 [[nodiscard]] QString clearFirstQuestion(const LastCollection& collection);
 /// Asks whether to collect although the sales of @p collection would be counted twice. Follows a No to
-/// clearFirstQuestion(), or stands alone when the registers may no longer be cleared.
+/// clearFirstQuestion(), or is asked alone if the registers may no longer be cleared.
 [[nodiscard]] QString countTwiceQuestion(const LastCollection& collection);
 /// Asks whether to try a clear again that has failed just now.
 [[nodiscard]] QString clearAgainQuestion();

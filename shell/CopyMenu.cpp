@@ -22,7 +22,7 @@ QString wordsOf(const customers::SafetyCopy& copy)
     return u"%1, %2"_s.arg(shownTime(copy.made), copy.reason);
 }
 
-/// What becomes of today's database.
+/// What happens to the current database.
 QString keptInWords(const QString& customerPath, bool salesComeBack)
 {
     if (!customers::needsNewDatabase(customerPath))
@@ -60,7 +60,7 @@ void CopyMenu::addCopy(const customers::SafetyCopy& copy)
 {
     QAction* const action = addAction(wordsOf(copy));
     action->setObjectName(copy.name);
-    // The menu is gone by the time that the question is answered.
+    // The menu is destroyed before the question is answered.
     connect(action, &QAction::triggered, parent(),
             [values = m_values, &boxes = m_boxes, copy] { restore(values, boxes, copy); });
 }

@@ -10,8 +10,8 @@
 namespace norvane::shell
 {
 
-/// Lists the safety copies of one customer. Choosing one puts the customer back as it was then, after a
-/// question; what goes wrong is told in a box.
+/// Lists the safety copies of one customer. Choosing one restores the customer from it, after a question;
+/// failures are shown in a box.
 class CopyMenu : public QMenu
 {
     Q_OBJECT

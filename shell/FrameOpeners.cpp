@@ -13,7 +13,8 @@ namespace norvane::shell
 namespace
 {
 
-/// databasePath stays: screens and exchange use the previous customer's database until a key editor sets it.
+/// databasePath is unchanged: screens and exchange use the previous customer's database until a key editor
+/// sets it.
 void changeCustomer(FrmMain& main, ApplicationValues& values, Boxes& boxes)
 {
     main.setCursor(Qt::WaitCursor);

@@ -14,8 +14,8 @@ class QPushButton;
 namespace norvane::shell
 {
 
-/// Run it with exec(): Accepted means that the values hold the customer, Rejected that the user wants to end
-/// the whole program, Returned that the work with the former customer goes on and the values are as before.
+/// Run it with exec(): Accepted means that the values name the customer, Rejected that the user wants to end
+/// the program, Returned that the work with the previous customer continues and the values are as before.
 class FrmCustomer : public QDialog
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public Q_SLOTS:
     void reject() override;
 
 protected:
-    /// The window's close button ends the program: asks first, and stays open after No.
+    /// The window's close button ends the program: asks first, and remains open after No.
     void closeEvent(QCloseEvent* event) override;
 
 private:

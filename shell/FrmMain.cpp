@@ -35,7 +35,7 @@ namespace
 constexpr double spareWidthTwips = 4;
 constexpr double spareHeightTwips = 450;
 
-/// How far aside of another a screen opens, in device-independent pixels: the title of the lower one stays
+/// Offset of a screen from another one, in device-independent pixels: the title of the lower one remains
 /// visible.
 constexpr int cascadeStep = 28;
 
@@ -208,8 +208,8 @@ QMdiSubWindow& FrmMain::showChild(QWidget* form, Qt::WindowFlags flags)
     return *child;
 }
 
-/// In the middle of the window, higher when the status bar would cover its lower edge, and aside of a screen
-/// of the same size: exactly above it, it would hide what was typed there.
+/// In the middle of the window, higher if the status bar would cover its lower edge, and offset from a screen
+/// of the same size: exactly above it, it would hide input there.
 void FrmMain::place(QMdiSubWindow& child)
 {
     ui::centreOn(child, *this);

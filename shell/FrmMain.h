@@ -20,7 +20,7 @@ namespace norvane::shell
 
 class MainStatusBar;
 
-/// The menu table says what an entry opens; the openers handed in open it.
+/// The menu table defines what an entry opens; the openers passed in open it.
 class FrmMain : public QMainWindow
 {
     Q_OBJECT
@@ -44,15 +44,15 @@ public:
     FrmMain(const ApplicationValues& values, Boxes& boxes, Openers openers);
 
     [[nodiscard]] MainStatusBar& statusBar1() { return *StatusBar1; }
-    /// Shows "Customer Database " and the customer's name in the status bar, and whose data is open as long
-    /// as it is another's: a change of customer alone leaves the database as it is.
+    /// Shows "Customer Database " and the customer's name in the status bar, and the owner of the open data
+    /// if it is another customer: a change of customer alone does not change the database.
     void showCustomer();
 
     /// Shows @p form in the middle of this window. The returned child window has @p flags and owns the form;
-    /// when the form closes, both are gone.
+    /// when the form closes, both are deleted.
     QMdiSubWindow& showChild(QWidget* form, Qt::WindowFlags flags = {});
     enum class FormSize { Fixed, Free };
-    /// Shows the form @p name, of which only one is open at a time; makes it when none is.
+    /// Shows the form @p name, of which only one is open at a time; creates it if none is.
     void showShared(const QString& name, const std::function<QWidget*()>& make,
                     FormSize size = FormSize::Fixed);
     void bringToFront(const QWidget& form);

@@ -20,9 +20,9 @@ public:
     /// @throws RuntimeFailure as readSettings() does.
     FrmSetup(const ApplicationValues& values, MainStatusBar& status, QWidget* parent = nullptr);
 
-    /// Shows the settings of the chosen customer when these are another's. The status bar says so, and names
+    /// Shows the settings of the chosen customer if another's are shown. The status bar says so, and names
     /// the customer whose typed settings are lost.
-    /// @throws RuntimeFailure as readSettings() does; the controls then still hold the former settings.
+    /// @throws RuntimeFailure as readSettings() does; the controls then still have the previous settings.
     void followCustomer();
 
 private:
@@ -38,7 +38,7 @@ private:
 
     const ApplicationValues& m_values;
     MainStatusBar& m_statusBar;
-    ApplicationValues m_shown;             ///< whose settings the controls show
+    ApplicationValues m_shown;             ///< the customer whose settings are shown
     QList<customers::SettingValue> m_read; ///< as they were in the file
     QList<QWidget*> m_controls;            ///< a list or a text box each, in the order of settings()
 };

@@ -104,8 +104,7 @@ void GuideWindow::showPlace(const QString& anchor)
     m_text->setFocus();
 }
 
-/// Begins where the user reads, and goes on at the other end of the guide when there is nothing more this
-/// way.
+/// Begins at the current place, and continues at the other end of the guide if nothing more is found.
 void GuideWindow::find(int step)
 {
     const QString sought = m_find->sought();

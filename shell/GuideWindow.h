@@ -13,9 +13,9 @@ class FindBar;
 namespace norvane::shell
 {
 
-/// A window of its own that is deleted when it closes, at the latest with @p parent. It can be used while
-/// @p parent is modal. It is our own and not the desktop's browser: an installation without one has help,
-/// too, and a modal form cannot lie above it.
+/// A separate window that is deleted when it closes, at the latest with @p parent. It can be used while @p
+/// parent is modal. It does not use the desktop's browser: an installation without one has help, too, and a
+/// modal form cannot cover it.
 class GuideWindow : public QWidget
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     /// @param path the HTML file with the guide.
     GuideWindow(QString path, QWidget* parent);
 
-    /// Shows the guide at @p anchor, in front of other windows.
+    /// Shows the guide at @p anchor, above other windows.
     void showPlace(const QString& anchor);
 
 private:

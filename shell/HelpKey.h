@@ -11,8 +11,8 @@ class Boxes;
 namespace norvane::shell
 {
 
-/// Opens the user guide on F1, at the place of the form with the focus. One for the application, whose events
-/// it watches: a shortcut would not reach modal forms.
+/// Opens the user guide on F1, at the chapter of the form with the focus. One object for the application; it
+/// watches the application's events, because a shortcut would not reach modal forms.
 class HelpKey : public QObject
 {
     Q_OBJECT

@@ -16,7 +16,7 @@ struct HelpTopic {
 
 [[nodiscard]] std::span<const HelpTopic> helpTopics();
 
-/// The anchor for the form, or box, @p form; empty when it has none of its own.
+/// The anchor for the form, or box, @p form; empty if it has none.
 [[nodiscard]] QString helpAnchor(const QString& form);
 
 } // namespace norvane::shell

@@ -21,7 +21,7 @@ using MakeForm = std::unique_ptr<QDialog> (*)(ApplicationValues& values, Boxes& 
 struct KeyForm {
     QLatin1StringView name;
     MakeForm make;
-    QLatin1StringView notice = {}; ///< what the user is told first, empty for nothing
+    QLatin1StringView notice = {}; ///< a message shown first, empty for none
 };
 
 template <const keys::KeyGeometry& (*keyboard)()>

@@ -1,4 +1,4 @@
-// Keeps the main window alive during long work behind a menu entry.
+// Keeps the main window responsive during long work started by a menu entry.
 #pragma once
 
 #include "ui/WaitPointer.h"

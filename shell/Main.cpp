@@ -22,7 +22,7 @@ int runProgram(Boxes& boxes)
 {
     ApplicationValues values;
     values.appPath = programFolder();
-    // The tools leave their files there, wherever the desktop has started the program.
+    // The tools write their files there, whatever the working directory at the start.
     if (!QDir::setCurrent(values.appPath)) {
         boxes.message(u"There is no folder %1."_s.arg(values.appPath), {}, BoxIcon::Critical);
         return 1;

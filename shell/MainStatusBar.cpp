@@ -16,7 +16,7 @@ namespace
 {
 
 constexpr int panelWidth = 120;
-/// Room for the customer's name beside a notice; a longer name is cut and stands in the tool tip.
+/// Room for the customer's name beside a notice; a longer name is cut and shown in the tool tip.
 constexpr int widestText = 300;
 
 QLabel* statusLabel(const QString& name)

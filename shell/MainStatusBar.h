@@ -9,7 +9,7 @@ namespace norvane::shell
 {
 
 /// A panel ("Ready.....") and beside it the status text, which names the customer. At the right the result of
-/// the last action ("Saved PLU 1001"), and whose data is open while that is another customer's.
+/// the last action ("Saved PLU 1001"), and the owner of the open data if it is another customer.
 class MainStatusBar : public QStatusBar
 {
     Q_OBJECT
@@ -21,10 +21,10 @@ public:
     [[nodiscard]] QString panel() const;
     void setStatusText(const QString& text);
     [[nodiscard]] QString statusText() const;
-    /// Stands until the next one; an empty text takes it away.
+    /// Remains until the next one; an empty text removes it.
     void setNotice(const QString& text);
     [[nodiscard]] QString notice() const;
-    /// Tells whose data screens and exchange work on; an empty name for those of the chosen customer.
+    /// Shows whose data screens and exchange use; an empty name for the chosen customer.
     void setDataInUse(const QString& customer);
 
 private:

@@ -18,8 +18,7 @@ namespace
 using overlay::Keyboard;
 using overlay::OverlayForm;
 
-/// The main window closes without asking the forms that lie in it. An overlay with changes is asked about
-/// first.
+/// The main window closes without asking the forms in it. So unsaved overlays are asked about first.
 class CloseQuestion : public QObject
 {
 public:

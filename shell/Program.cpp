@@ -69,8 +69,8 @@ void Program::end(const std::exception_ptr& failure)
     while (overrideCursor())
         restoreOverrideCursor();
     showFailure(shown.number, shown.text, m_boxes);
-    // No destructors: the windows are in the middle of something. The system closes all files, and a database
-    // stays whole.
+    // No destructors: the windows are in the middle of an operation. The system closes all files, and a
+    // database remains intact.
     std::fflush(nullptr);
     std::_Exit(failedExit);
 }

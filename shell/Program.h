@@ -17,12 +17,12 @@ struct FatalFailure {
     QString text;
 };
 
-/// Number and text of @p failure: 7 when memory ran out, 51 for an error of a library.
+/// Number and text of @p failure: 7 if out of memory, 51 for an error of a library.
 [[nodiscard]] FatalFailure describeFailure(const std::exception_ptr& failure);
 
 /// Shows a failure that an event handler or the start of the program did not catch as "Run-time error
-/// 'number':" with its text, then ends the process with exit code 1. It ends at once, because the caller of a
-/// modal dialog must not go on as if nothing had happened.
+/// 'number':" with its text, then ends the process with exit code 1. It ends immediately, because the caller
+/// of a modal dialog must not continue as if nothing had happened.
 class Program : public QApplication
 {
     Q_OBJECT

@@ -54,7 +54,7 @@ void StartSequence::showSplash()
     splash.unload();
 }
 
-/// The clock starts again at midnight, so a splash shown just before stays for about a day.
+/// The clock starts again at midnight, so a splash shown just before remains for about a day.
 void StartSequence::waitOutSplash(double shownAt)
 {
     while (m_clock() - shownAt <= splashSeconds) {

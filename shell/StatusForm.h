@@ -20,7 +20,7 @@ protected:
     StatusForm(const QString& name, const QString& caption, const QString& panelText, MainStatusBar& status,
                QWidget* parent);
 
-    /// Enter presses the button with the focus, or @p onEnter when none has it; Escape presses @p onEscape.
+    /// Enter presses the button with the focus, or @p onEnter if none has it; Escape presses @p onEscape.
     void setKeys(QPushButton* onEnter, QPushButton* onEscape);
 
     void closeEvent(QCloseEvent* event) override;

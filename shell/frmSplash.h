@@ -6,7 +6,7 @@
 namespace norvane::shell
 {
 
-/// Stays until unload(): no click and no key closes it. Place it on the main window with ui::centreOn().
+/// Remains until unload(): no click and no key closes it. Place it on the main window with ui::centreOn().
 class frmSplash : public StatusForm
 {
     Q_OBJECT
