@@ -63,7 +63,7 @@ const Shop& shop()
     return shop;
 }
 
-/// A prepared select on a connection of its own that reads every column of the row it finds.
+/// A prepared select on a separate connection that reads every column of the row it finds.
 class BareSelect
 {
 public:

@@ -88,7 +88,7 @@ void ShopDays::setDigest(QDate day, std::size_t table, const std::string& digest
 
 void ShopDays::keep()
 {
-    // Without a digest to keep, a transaction would only wait for whoever reads the sales.
+    // Without a digest to keep, a transaction would only wait for readers of the sales.
     if (std::ranges::all_of(m_new, [](const auto& digests) { return digests.empty(); }))
         return;
     try {

@@ -176,8 +176,7 @@ void PluFile::markDoubles()
         PluLine& line = m_lines[index];
         line.isTaken = first != nullptr && first->number == line.number;
         if (line.isTaken)
-            add(line.line, numberColumn().heading,
-                u"the number stands in line %1 already"_s.arg(first->line));
+            add(line.line, numberColumn().heading, u"line %1 already has this number"_s.arg(first->line));
         else
             first = &line;
     }
@@ -195,7 +194,7 @@ std::optional<std::uint32_t> PluFile::take(std::uint64_t number)
     const auto hasNumber = [&](std::size_t place) {
         return place < m_byNumber.size() && m_lines[m_byNumber[place]].number == number;
     };
-    // Whoever goes through the numbers in order finds the next one here.
+    // Callers that go through the numbers in order find the next one here.
     if (!hasNumber(m_next)) {
         const auto found = std::ranges::lower_bound(
             m_byNumber, number, {}, [this](std::uint32_t line) { return m_lines[line].number; });

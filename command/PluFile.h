@@ -23,8 +23,8 @@ struct PluLine {
     bool isTaken = false; ///< a stored PLU has this number, or a line before this one
 };
 
-/// A file that was read once. Its cells stay in the text, and a line is taken apart when it is needed: the
-/// cells of a million lines would take ten times as much memory as the text.
+/// A file that was read once. Its cells remain in the text, and a line is split when needed: the cells of a
+/// million lines would take ten times as much memory as the text.
 class PluFile
 {
 public:
@@ -66,8 +66,8 @@ private:
     DecimalSign m_decimalSign;
 };
 
-/// The number of a cell or of the table, blanks around it passed over; nothing for what is not one of up to
-/// 18 digits.
+/// The number of a cell or of the table, blanks around it skipped; nothing if it is not one of up to 18
+/// digits.
 [[nodiscard]] std::optional<std::uint64_t> pluNumberOf(std::string_view text);
 
 } // namespace norvane::command

@@ -67,8 +67,8 @@ private:
 };
 
 /// Stores all changes or none. New PLUs are filled as the PLU screen fills a new record.
-/// @throws RuntimeFailure with Failure::DuplicateKey, Failure::RecordDeleted when the PLUs are no longer
-/// those that were compared, 18 after a signal, and as the database reports.
+/// @throws RuntimeFailure with Failure::DuplicateKey, Failure::RecordDeleted if the PLUs are no longer those
+/// that were compared, 18 after a signal, and as the database reports.
 void applyPluChanges(store::Database& database, const PluComparison& comparison);
 
 /// A value of the column as the listing shows it: prices with two places and a point.

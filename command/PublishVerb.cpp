@@ -90,8 +90,7 @@ QString vanishedText(const QString& name, const chain::Published& published)
     QString text = u"\"%1\" no longer has %2: they remain as published."_s.arg(name, parts.join(u" and "_s));
     if (published.heldBack > 0)
         text += u" So do %1 days that differ."_s.arg(published.heldBack);
-    return text +
-           u" Was the shop reset? --vanished keep leaves them for good, --vanished remove takes them away."_s;
+    return text + u" Was the shop reset? --vanished keep keeps them, --vanished remove deletes them."_s;
 }
 
 class PublishRun

@@ -47,7 +47,7 @@ constexpr auto plusOptions = std::to_array<OptionDefinition>({
 constexpr auto publishOptions = std::to_array<OptionDefinition>({
     {"to"_L1, "CONNECTION"_L1, "\"host=db.example dbname=chain\" or \"postgresql://db.example/chain\""_L1},
     {"vanished"_L1, "keep|remove"_L1,
-     "of days that are published and that the shop no longer has: leave them for good, or take them away"_L1},
+     "of days that are published and that the shop no longer has: keep them and report them no more, or delete them"_L1},
     {"adopt"_L1, {}, "go on with a shop that was published from another folder or under another name"_L1},
 });
 
@@ -64,14 +64,14 @@ constexpr auto all = std::to_array<Verb>({
     {"report"_L1, "CUSTOMER NAME"_L1, 2, 2, reportOptions,
      "Writes a report: plusales, finsales, clerksales, timesales, mixsales, pluprice or any layout of the program's folder."_L1, report},
     {"plus"_L1, "CUSTOMER export|import FILE"_L1, 3, 3, plusOptions,
-     "Exports number, description, group, status and prices of all PLUs as FILE.csv or FILE.xlsx; imports such a CSV file: known PLUs are changed, new ones added, wholly or not at all."_L1, movePlus},
+     "Exports number, description, group, status and prices of all PLUs as FILE.csv or FILE.xlsx; imports such a CSV file: known PLUs are changed, new ones added, all or nothing."_L1, movePlus},
     {"boxes"_L1, {}, 0, 0, {}, "Lists the boxes of the exchange dialog, which fetch and send take by number or name."_L1, listBoxes},
     {"reports"_L1, {}, 0, 0, {}, "Lists the reports with their titles and the periods that --period takes."_L1, listReports},
     {"copies"_L1, "CUSTOMER"_L1, 1, 1, {}, "Lists the safety copies, the latest first."_L1, listCopies},
     {"restore"_L1, "CUSTOMER COPY"_L1, 2, 2, {},
-     "Puts the customer back as a safety copy holds it, after a copy of how it stands now. COPY is a name or its beginning."_L1, restore},
+     "Restores the customer from a safety copy, after copying its current state. COPY is a name or its beginning."_L1, restore},
     {"publish"_L1, "CUSTOMER..."_L1, 1, -1, publishOptions,
-     "Brings the sales and names of shops into the PostgreSQL of their chain: days that are new or have changed."_L1, publish},
+     "Copies the sales and names of shops to the PostgreSQL of their chain: days that are new or have changed."_L1, publish},
 });
 // clang-format on
 

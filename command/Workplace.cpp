@@ -123,7 +123,7 @@ ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
 
 std::unique_ptr<customers::RunLock> lockFor(const Workplace& workplace, const ApplicationValues& values)
 {
-    // A run that is killed would leave the lock behind and no line in the log.
+    // A killed run would leave the lock but no line in the log.
     catchStopSignals();
     auto lock = customers::RunLock::take(values, workplace.boxes);
     if (lock == nullptr) {

@@ -10,7 +10,7 @@ namespace norvane::exchange
 {
 
 inline constexpr int boxCount = 37;
-/// Boxes with rules of their own.
+/// Boxes with special rules.
 inline constexpr int pluBox = 0;
 inline constexpr int serialPortBox = 23;
 inline constexpr int firstSmartCardBox = 34;

@@ -73,7 +73,7 @@ void FrmComm::buildBoxes()
     }
 }
 
-/// The buttons stay in reach on a small screen in large type.
+/// The buttons remain reachable on a small screen in large type.
 QWidget* FrmComm::areaOfBoxes() const
 {
     auto* const boxes = new QWidget;

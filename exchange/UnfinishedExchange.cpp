@@ -70,7 +70,7 @@ void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes)
     if (!exchange)
         return;
     const QString direction = exchange->direction == Direction::Upload ? u"upload"_s : u"download"_s;
-    boxes.message(u"The %1 of %2 did not come to its end.\r\rStill to do: %3.\r\r"
+    boxes.message(u"The %1 of %2 did not finish.\r\rStill to do: %3.\r\r"
                   u"To finish it, tick these boxes for the %1."_s.arg(direction, shownTime(exchange->started),
                                                                       boxNames(exchange->boxes)),
                   pleaseCheck, BoxIcon::Exclamation);

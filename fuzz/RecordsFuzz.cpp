@@ -22,7 +22,7 @@ using Row = std::vector<store::Value>;
 
 /// Records of an input beyond these teach nothing new.
 constexpr int mostLines = 2;
-/// The last record with columns of its own is 264, of the function keys.
+/// The last record with special columns is 264, of the function keys.
 constexpr int highestRecord = 270;
 
 struct Choice {
@@ -158,7 +158,7 @@ public:
         return line;
     }
 
-    /// Whether some records have columns of their own: the writer counts them then.
+    /// Whether some records have special columns: the writer then counts the records.
     [[nodiscard]] bool isNumbered() const { return m_file.layout().sets.size() > 1; }
     [[nodiscard]] bool comesBack(std::size_t field) const { return m_comesBack[field]; }
     void remove() { m_records.deleteRecord(); }

@@ -249,7 +249,7 @@ void FunctionKeys::storeAll(const KeyControls& controls)
         for (const NumberField& field : options->numbers)
             putNumber(field, controls.number(field.control).value, texts);
     }
-    // A record that could not be stored must not stay open: it would show what was not stored.
+    // A record that could not be stored must not remain open: it would show values that were not stored.
     const auto close = qScopeGuard([this] { m_table.cancelUpdate(); });
     m_table.edit();
     m_table.setValue(descriptionField, store::Value::text(controls.description));

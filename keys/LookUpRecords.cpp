@@ -201,7 +201,7 @@ void LookUpRecords::save(LookUp& lookUp)
 /// One statement stores the record: whole or not at all.
 void LookUpRecords::store(const LookUp& lookUp)
 {
-    // A record that could not be stored must not stay open: it would show what was not stored.
+    // A record that could not be stored must not remain open: it would show values that were not stored.
     const auto close = qScopeGuard([this] { m_lookUps.cancelUpdate(); });
     m_lookUps.edit();
     storeFields(lookUp, firstTexts, m_lookUps);

@@ -200,7 +200,7 @@ bool ToolWait::mayBeEnded(const QString& tool, std::chrono::milliseconds running
 
 bool ToolWait::eventFilter(QObject* watched, QEvent* event)
 {
-    // A window gets a key first and may hand it on: it counts once.
+    // A window receives a key first and may pass it on: it counts once.
     const bool repeated = watched->isWindowType() && m_escape.follow(*event);
     // A box that has opened since waits for its answer. The Escape that opened it is still down and must not
     // be that answer.

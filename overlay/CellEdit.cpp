@@ -119,7 +119,7 @@ void CellEdit::paintPrinted(QPainter& painter) const
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, m_printed.text);
 }
 
-/// The box has a history of its own, which would know nothing of colours and fonts.
+/// The box has its own history, which lacks colours and fonts.
 bool CellEdit::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride && isForTheForm(*static_cast<QKeyEvent*>(event))) {

@@ -1,4 +1,4 @@
-// An overlay document: a fixed list of text cells, each with colours and a font of its own.
+// An overlay document: a fixed list of text cells, each with its own colours and font.
 #pragma once
 
 #include "overlay/KeyLayout.h"
@@ -52,7 +52,7 @@ struct Cell {
 /// The most characters that a cell holds; a file with a longer line is not an overlay.
 inline constexpr int cellTextLimit = 32767;
 
-/// A value: a copy is a document of its own, for undo.
+/// A value: a copy is an independent document, for undo.
 class Document
 {
 public:

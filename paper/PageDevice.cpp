@@ -33,7 +33,7 @@ QPainter& PageDevice::nextPage()
     return m_painter;
 }
 
-/// Printers with margins of their own do not take the full page, and begin inside them.
+/// Printers with margins do not use the full page; their origin is inside the margins.
 void PageDevice::startAtCorner()
 {
     m_painter.scale(m_device.logicalDpiX() / millimetresPerInch, m_device.logicalDpiY() / millimetresPerInch);

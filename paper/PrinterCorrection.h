@@ -37,8 +37,8 @@ struct PrinterCorrection {
     bool operator==(const PrinterCorrection&) const = default;
 };
 
-/// The corrections of the printers of this computer, in a file of its own: they are the printers', whatever
-/// customer is chosen.
+/// The corrections of the printers of this computer, in a separate file: they belong to the printers, not to
+/// a customer.
 class PrinterCorrections
 {
 public:

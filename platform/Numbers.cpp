@@ -16,7 +16,7 @@ namespace norvane
 namespace
 {
 
-/// A double has up to 309 digits before the point or some 340 characters behind it.
+/// A double has up to 309 digits before the point or some 340 characters after it.
 constexpr std::size_t longestNumberText = 400;
 
 [[noreturn]] void failTypeMismatch(QStringView text)

@@ -30,8 +30,8 @@ namespace norvane
 [[nodiscard]] bool toBoolean(QStringView text);
 
 /// Formats a number by zeros with an optional point ("00", "0000.00"): at least so many digits before the
-/// point, exactly so many after it, halves rounded away from zero in decimal. Empty text stays empty.
-/// @throws RuntimeFailure with Failure::TypeMismatch when @p text is neither empty nor a number.
+/// point, exactly so many after it, halves rounded away from zero in decimal. Empty text remains empty.
+/// @throws RuntimeFailure with Failure::TypeMismatch if @p text is neither empty nor a number.
 [[nodiscard]] QString formatNumber(QStringView text, QStringView pattern);
 
 } // namespace norvane

@@ -1,5 +1,5 @@
 // Days and times as boxes, screens and reports show them: in one form, whatever the computer's language.
-// Files and the command line have forms of their own.
+// Files and the command line use other forms.
 #pragma once
 
 #include <QDateTime>

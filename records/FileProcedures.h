@@ -63,13 +63,12 @@ enum class Exported {
 };
 
 /// The Write... procedure: makes NN.txt in the program's folder from all records of the table in the order of
-/// the file's index, then converts it to NN.dat. A comma in a text would move the columns behind it, so the
-/// user is asked then.
+/// the file's index, then converts it to NN.dat. A comma in a text would shift the columns after it, so the
+/// user is then asked.
 /// @return Nothing if the table is empty and the file is skipped in that case; no file is touched.
 /// @throws RuntimeFailure with Failure::NoCurrentRecord if the table is empty and the file is not skipped;
 /// NN.txt is then empty; Failure::PathOrFileAccess if NN.txt cannot be opened, Failure::DiskFull if the disk
-/// is full; what GetModelCode() throws, and for the function keys, file 2, what GetFirmwareGeneration()
-/// throws.
+/// is full; and as GetModelCode() and, for the function keys (file 2), GetFirmwareGeneration() throw.
 Exported exportRegisterFile(int file, const ProcedureContext& context);
 
 } // namespace norvane::records

@@ -45,7 +45,7 @@ public:
 
     void addLine(const LineFields& fields, const SlotNumbers& numbers);
     void addGroup(const QString& heading, const SlotNumbers& totals);
-    /// In the order of the layout. A chart with a query of its own gets its points from that query later.
+    /// In the order of the layout. A chart with a separate query gets its points from it later.
     [[nodiscard]] std::vector<ChartPoints>& charts() { return m_charts; }
 
 private:

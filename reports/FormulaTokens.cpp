@@ -33,7 +33,7 @@ QString shown(const Token& token)
 {
     if (token.kind == TokenKind::End)
         return u"the formula ends"_s;
-    return u"\"%1\" stands there"_s.arg(token.text.left(longestShown));
+    return u"\"%1\" was found"_s.arg(token.text.left(longestShown));
 }
 
 } // namespace

@@ -226,7 +226,7 @@ constexpr std::array<KeyRule, 3> groupKeys{{
     {u"Heading", true, "a text with fields"_L1, [](const QString& value, LayoutTarget& target) { target.layout.group->heading.text = parseTemplate(value, target.fields()); return true; }},
     {u"Missing", false, "a text"_L1, [](const QString& value, LayoutTarget& target) { target.layout.group->heading.missing = parseTemplate(value, target.fields()); return true; }},
 }};
-constexpr auto sortExpected = "a field, with \"by value\" or \"descending\" behind it or nothing"_L1;
+constexpr auto sortExpected = "a field, with \"by value\" or \"descending\" after it or nothing"_L1;
 constexpr std::array<KeyRule, 3> sortKeys{{
     {u"Key1", true, sortExpected, takeSort},
     {u"Key2", false, sortExpected, takeSort},
@@ -241,7 +241,7 @@ constexpr std::array<KeyRule, 11> chartKeys{{
     {u"Format", false, "Text, Digits, Day, Date or Time"_L1, [](const QString& value, LayoutTarget& target) { return takeFormat(value, target.chart->label.format); }},
     {u"Label", false, "a text with fields"_L1, [](const QString& value, LayoutTarget& target) { target.chart->label.text = parseTemplate(value, target.fields()); return true; }},
     {u"Missing", false, "a text"_L1, [](const QString& value, LayoutTarget& target) { target.chart->label.missing = parseTemplate(value, target.fields()); return true; }},
-    {u"Value", true, "a number reckoned from fields"_L1, [](const QString& value, LayoutTarget& target) { target.chart->value = parseExpression(value, target.fields()); return true; }},
+    {u"Value", true, "a number computed from fields"_L1, [](const QString& value, LayoutTarget& target) { target.chart->value = parseExpression(value, target.fields()); return true; }},
     {u"ValueFormat", false, "Money or Quantity"_L1, takeValueFormat},
     {u"Most", false, "a whole number from 1 to 100"_L1, takeMost},
 }};

@@ -105,8 +105,7 @@ private:
             return;
         try {
             if (!rule.take(value, target)) {
-                fail(section, rule.key,
-                     u"expected is %1, but \"%2\" stands there"_s.arg(rule.expected, value));
+                fail(section, rule.key, u"expected is %1, but \"%2\" was found"_s.arg(rule.expected, value));
             }
         } catch (const FormulaError& error) {
             fail(section, rule.key, error.text());

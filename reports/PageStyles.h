@@ -28,7 +28,7 @@ namespace ink
 {
 inline constexpr QColor line{0xb4, 0xba, 0xc0}; ///< between lines
 inline constexpr QColor rule{0x30, 0x38, 0x40}; ///< around headings and totals
-inline constexpr QColor band{0xec, 0xef, 0xf2}; ///< behind group headings and grand totals
+inline constexpr QColor band{0xec, 0xef, 0xf2}; ///< background of group headings and grand totals
 inline constexpr QColor bar{0x2f, 0x5d, 0x82};  ///< of charts; a dark grey on a printer without colours
 inline constexpr QColor pale{0x5a, 0x63, 0x6c}; ///< of words that explain
 } // namespace ink

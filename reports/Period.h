@@ -9,7 +9,7 @@
 namespace norvane::reports
 {
 
-/// Days from one to another, both included. An invalid day at one end means that there is no limit there.
+/// Days from one to another, both included. An invalid day means no limit at that end.
 struct Period {
     QDate from;
     QDate to;

@@ -24,7 +24,7 @@ namespace norvane::reports
 class PreviewWindow;
 
 enum class Destination {
-    Window, ///< a preview of its own; each run opens another
+    Window, ///< a preview; each run opens another
     Printer ///< the system's default printer, without a question
 };
 

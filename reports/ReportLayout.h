@@ -107,7 +107,7 @@ struct ChartLayout {
     ChartKind kind = ChartKind::Ranking;
     QString title;
     PointSource from = PointSource::Lines;
-    std::optional<LineSource> query; ///< of a chart that adds up the rows once more, by a field of its own
+    std::optional<LineSource> query; ///< of a chart that adds up the rows again, by another field
     FieldText label;
     std::optional<Expression> value;
     CellFormat valueFormat{FormatKind::Money, 2, 2, {}};

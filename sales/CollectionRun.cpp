@@ -39,7 +39,7 @@ constexpr const char* asIfFormerCleared =
     "The collection would go on as if the registers were cleared. The sales that they still hold would be "
     "counted twice.";
 constexpr const char* asIfCleared = "The collection would end as successful, though the registers may hold "
-                                    "the sales still and hand them over again.";
+                                    "the sales still and send them again.";
 
 QString reportFile(int report)
 {

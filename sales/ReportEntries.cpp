@@ -14,7 +14,7 @@ namespace
 /// A report over a period that ends today.
 constexpr auto fixed = ""_L1;
 
-// The tables' names stand in the formulas as the reports have always had them.
+// The formulas have the table names that the reports have always used.
 // clang-format off
 constexpr auto entries = std::to_array<ReportEntry>({
     {"PLUSalesByDate_Click"_L1, "PLU Sales Report by Date."_L1, "\\plusales.rpt"_L1, "DAILYPLU"_L1, {}},

@@ -78,7 +78,7 @@ QWidget* controlBefore(Widget& widget, const QVector<QWidget*>& controls, const 
     return nullptr;
 }
 
-/// The heading of the column that @p widget stands in.
+/// The heading of the column of @p widget.
 const QLabel* headingAbove(const QWidget& widget, const QVector<QLabel*>& labels)
 {
     const QLabel* nearest = nullptr;
@@ -139,7 +139,7 @@ void nameByPlace(QWidget& control, const Place& place)
     control.setAccessibleName(row.isEmpty() ? column : (row + u' ' + withSmallLetter(column)).trimmed());
 }
 
-/// Controls that have the same name are known apart by what stands before or above them.
+/// Controls with the same name are distinguished by the text before or above them.
 void nameApart(QWidget& control, const Place& place)
 {
     const QString name = ui::spokenName(control);

@@ -54,7 +54,7 @@ void OptionForm::ShowFields()
     Q_EMIT told(notice);
 }
 
-/// The focus stays where it was, and nothing else says which record has come.
+/// The focus does not move, and nothing else says which record is shown.
 QString OptionForm::spokenRecord() const
 {
     const QString field = textField();

@@ -31,9 +31,9 @@ class GridControl;
 class RecordList;
 
 /// Builds itself from a screen file over the database at databasePath.
-/// Each instance has a connection and a place in the table of its own, so that several may be open on one
-/// table. The title has a star while something typed is not saved. Moves, Find, Add and Exit drop that
-/// without a question, and Ctrl+Z gets it back; the record list and closing the window ask first.
+/// Each instance has its own connection and position, so that several may be open on one table. The title has
+/// a star while there are unsaved changes. Moves, Find, Add and Exit drop them without a question, and Ctrl+Z
+/// restores them; the record list and closing the window ask first.
 class OptionForm : public QWidget
 {
     Q_OBJECT

@@ -301,7 +301,7 @@ QString RecordEditor::key() const
     return m_records.value(searchedField(1).name).toText();
 }
 
-/// On a recordset of its own: a search without result would lose the place.
+/// On a separate recordset: a search without result would lose the position.
 bool RecordEditor::hasRecord(const QString& index, store::Seek comparison, const store::Value& key) const
 {
     store::Recordset records = m_database->openTable(m_table.table);

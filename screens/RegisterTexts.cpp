@@ -1,4 +1,4 @@
-// Table of the texts with rules of their own; see RegisterTexts.h.
+// Table of the texts with special rules; see RegisterTexts.h.
 #include "screens/RegisterTexts.h"
 
 #include "base/CustomerSettings.h"

@@ -33,7 +33,7 @@ constexpr Reason reasons[] = {
 bool mayOverwrite(Boxes& boxes)
 {
     return boxes.choose(u"Since this record was shown here, it was changed by another screen, a price change "
-                        "or an upload.\r\rSave replaces those changes by what stands here.\r"
+                        "or an upload.\r\rSave replaces those changes by the values shown here.\r"
                         "Show shows them here, and drops what you have typed."_s,
                         u"Record Changed"_s, u"&Save"_s, u"S&how"_s);
 }

@@ -33,7 +33,7 @@ mkdir -p build/fuzz-corpus build/fuzz-findings build/fuzz-logs
 scratch=$(mktemp -d -p "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")")
 trap 'rm -rf "$scratch"' EXIT
 
-# The targets work in a folder of their own, so paths are whole.
+# The targets work in a separate folder, so paths are absolute.
 run_target() {
   local name=$1 top=$PWD longest inputs=()
   longest=$(awk -v name="$name" '$1 == name { print $2 }' build/fuzz/fuzz/targets.txt)

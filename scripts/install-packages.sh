@@ -38,7 +38,7 @@ as_root=()
 if [ "$(id -u)" -ne 0 ]; then
   as_root=(sudo)
 fi
-# The tests start a PostgreSQL of their own: its package need not make and start one for the whole system.
+# The tests start a separate PostgreSQL: its package need not create and start one for the whole system.
 no_server=/etc/postgresql-common/createcluster.d/norvane-build.conf
 "${as_root[@]}" mkdir -p "${no_server%/*}"
 echo "create_main_cluster = false" | "${as_root[@]}" tee "$no_server" >/dev/null

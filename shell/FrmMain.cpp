@@ -105,7 +105,7 @@ void FrmMain::takeMenuKey()
     });
 }
 
-/// A child window has a Ctrl+Z of its own, and a key of two owners would reach neither.
+/// A child window has its own Ctrl+Z, and a key with two owners would reach neither.
 void FrmMain::takeUndoKey()
 {
     auto* const undo = new QShortcut(QKeySequence::Undo, this);

@@ -24,7 +24,7 @@ bool isHelpKey(const QEvent& event)
     return key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier;
 }
 
-/// Of the innermost form around the focus; a box without a place of its own has that of the form below it.
+/// Of the innermost form around the focus; a box without a chapter uses that of the form below it.
 QString placeOf(const QWidget* control)
 {
     QString anchor;

@@ -81,7 +81,7 @@ public:
     void update();
     void cancelUpdate();
     /// Deletes the current record; there is no current record until the next move. @throws RuntimeFailure
-    /// with Failure::RecordDeleted when it was deleted before.
+    /// with Failure::RecordDeleted if it was deleted before.
     void deleteRecord();
     [[nodiscard]] EditMode editMode() const;
 

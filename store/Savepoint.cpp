@@ -20,7 +20,7 @@ Savepoint::~Savepoint()
     if (m_kept)
         return;
     // Releasing the outermost savepoint would commit once more. While another program reads, that waits and
-    // fails again, and the file would stay locked.
+    // fails again, and the file would remain locked.
     sqlite3_exec(m_connection, m_isOutermost ? "ROLLBACK" : "ROLLBACK TO steps; RELEASE steps", nullptr,
                  nullptr, nullptr);
 }

@@ -1,4 +1,4 @@
-// The interface of a widget to screen readers with items that are no widgets. Only for the files of ui/.
+// The interface of a widget to screen readers with items that are not widgets. Only for the files of ui/.
 #pragma once
 
 #include "ui/SpokenItems.h"

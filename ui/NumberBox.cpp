@@ -150,7 +150,7 @@ void NumberBox::mouseReleaseEvent(QMouseEvent* event)
     m_isFirstClick = false;
 }
 
-/// The digits before the point are a word of their own otherwise.
+/// Otherwise the digits before the point are a separate word.
 void NumberBox::mouseDoubleClickEvent(QMouseEvent* /*event*/)
 {
     selectAll();

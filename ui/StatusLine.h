@@ -6,8 +6,8 @@
 namespace norvane::ui
 {
 
-/// Names the current step, how long it has been running, what a run has done, and a notice that stays until
-/// it is replaced. Screen readers say result and notice.
+/// Shows the current step, its running time, the result of a run, and a notice that remains until it is
+/// replaced. Screen readers say result and notice.
 class StatusLine : public QStatusBar
 {
     Q_OBJECT

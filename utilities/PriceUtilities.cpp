@@ -86,8 +86,8 @@ void empty(Tables tables, const QString& databasePath)
         database.execute(u"delete * from %1"_s.arg(QLatin1StringView(table)));
 }
 
-/// A look from outside, before the user has said Yes. @return nothing when there is no database to read,
-/// which is reported only if the user goes on.
+/// A read-only check before the user has answered Yes. @return nothing if there is no database to read, which
+/// is reported only if the user continues.
 std::optional<qint64> pluCount(const QString& databasePath)
 {
     try {

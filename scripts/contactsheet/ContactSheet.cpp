@@ -1,7 +1,6 @@
 // Makes the pictures of the user guide: every screen of the menu, filled from a register of each model.
 //   contact_sheet <folder>
-// Writes screens-1.png, screens-2.png ... there, and each screen of each model as a file of its own in
-// single/.
+// Writes screens-1.png, screens-2.png ... there, and each screen of each model as a separate file in single/.
 #include "scripts/windows/FilledShop.h"
 #include "ui/Appearance.h"
 

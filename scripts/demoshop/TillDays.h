@@ -13,8 +13,8 @@ namespace demo
 /// Runs a program in @p folder to its end. @throws std::runtime_error when it failed
 void runIn(const QString& folder, const QString& program, const QStringList& words);
 
-/// A register of its own, and a folder in which the tools work as they do in the program's folder. The
-/// programs are not copied there: on some machines no program may run from a folder for temporary files.
+/// A separate register, and a folder in which the tools work as in the program's folder. The programs are not
+/// copied there: on some machines no program may run from a folder for temporary files.
 class TillDays
 {
 public:

@@ -129,7 +129,7 @@ constexpr Dialog dialogs[] = {
      }},
 };
 
-/// The keyboard of the model, which has tables of its own.
+/// The keyboard of the model, which has separate tables.
 constexpr Dialog dorvikDialogs[] = {
     {"keys-dorvik",
      [](Ground& g, QWidget* p) -> QWidget* {
@@ -163,7 +163,7 @@ constexpr WaitingBox waitingBoxes[] = {
     {"choice",
      [](Boxes& boxes, QWidget&) {
          boxes.choose(
-             u"Since this record was shown here, it was changed by another screen, a price change or an upload.\r\rSave replaces those changes by what stands here.\rShow shows them here, and drops what you have typed."_s,
+             u"Since this record was shown here, it was changed by another screen, a price change or an upload.\r\rSave replaces those changes by the values shown here.\rShow shows them here, and drops what you have typed."_s,
              u"Record Changed"_s, u"&Save"_s, u"S&how"_s);
      }},
     {"input",

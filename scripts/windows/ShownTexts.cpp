@@ -118,7 +118,7 @@ void addBox(Texts& texts, const QLineEdit& box)
 {
     const bool isInner =
         qobject_cast<const QAbstractSpinBox*>(box.parent()) || qobject_cast<const QComboBox*>(box.parent());
-    // A key of an overlay shows what its paper will have, cut texts with a mark of their own.
+    // A key of an overlay looks as on paper; cut texts have a mark.
     if (isInner || box.objectName().startsWith(u"RichTextBox1_"_s))
         return;
     QStyleOptionFrame option;

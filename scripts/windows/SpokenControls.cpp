@@ -1,4 +1,4 @@
-// Goes through the interfaces that the accessibility bus hands on; see SpokenControls.h.
+// Goes through the interfaces that the accessibility bus provides; see SpokenControls.h.
 #include "scripts/windows/SpokenControls.h"
 
 #include <QAccessible>

@@ -8,9 +8,9 @@ class QWidget;
 namespace norvane::windows
 {
 
-/// Looks at every control in view of @p window, which must be shown: it has a name of its own that is not its
+/// Checks every visible control of @p window, which must be shown: it has an accessible name that is not its
 /// objectName, a role, and the state, tick and value that it shows; tables have their cells.
-/// @return a line for each fault; empty when every control can be said.
+/// @return a line for each fault; empty if every control can be read.
 [[nodiscard]] QStringList unspokenControls(QWidget& window);
 
 } // namespace norvane::windows

@@ -1,4 +1,4 @@
-// What stands in PostgreSQL after a shop was published, and after it was published again.
+// The contents of PostgreSQL after a shop was published, and after it was published again.
 #include "tests/chain/ChainTest.h"
 
 namespace norvane::test
@@ -126,8 +126,8 @@ TEST_F(PublishTest, NeverEmptiesAShopThatWasReset)
     EXPECT_EQ(
         told.err.toStdString(),
         "\"Corner Shop\" no longer has 2 published days (2026-10-31 to 2026-11-02) and all employees: they "
-        "stay as published. So do 1 days that differ. Was the shop reset? --vanished keep leaves them for "
-        "good, --vanished remove takes them away.\n");
+        "remain as published. So do 1 days that differ. Was the shop reset? --vanished keep keeps them, "
+        "--vanished remove deletes them.\n");
     EXPECT_EQ(query(days), "31 01 02 03");
     EXPECT_EQ(query(u"SELECT takings, net_sales FROM takings_by_day WHERE day = '2026-11-01'"_s),
               "39.03|39.03");

@@ -171,7 +171,7 @@ TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
         {"Number,Prize\n", u"line 1, Prize: there is no such column"_s},
         {"Number,Number\n", u"line 1, Number: the column is there twice"_s},
         {prices + "1,2\n2,3,4\n", u"line 3: 3 columns, but 2 headings"_s},
-        {prices + "1,2\n\n01,3\n", u"line 4, Number: the number stands in line 2 already"_s},
+        {prices + "1,2\n\n01,3\n", u"line 4, Number: line 2 already has this number"_s},
         {prices + "1234567890123456789,1\n",
          u"\"1234567890123456789\" is not a PLU number of up to 18 digits"_s},
         {prices + "9E+17,1\n,2\n", u"line 3, Number: \"\" is no PLU number"_s},

@@ -11,7 +11,8 @@ using ScreensInFrameTest = FrameFixture;
 
 const test::ShownBox changed{
     u"Since this record was shown here, it was changed by another screen, a price change or an upload.\r\r"
-    "Save replaces those changes by what stands here.\rShow shows them here, and drops what you have typed. "
+    "Save replaces those changes by the values shown here.\rShow shows them here, and drops what you have "
+    "typed. "
     "[&Save|S&how]"_s,
     u"Record Changed"_s, BoxIcon::Exclamation};
 

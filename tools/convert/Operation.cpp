@@ -16,7 +16,7 @@ namespace
 {
 
 constexpr int systemDescriptors = 19; ///< read from the register, never written
-constexpr int employeeFile = 63;      ///< a Dorvik has a writing code of its own
+constexpr int employeeFile = 63;      ///< a Dorvik has a different writing code
 
 ToolFailure wrong(const QString& text)
 {
