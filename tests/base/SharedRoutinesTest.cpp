@@ -1,4 +1,4 @@
-// The shared routines to the character, with the files that registers and tools leave behind.
+// The shared routines to the character, with the files that registers and tools write.
 #include "base/SharedRoutines.h"
 
 #include "base/FieldText.h"

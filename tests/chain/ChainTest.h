@@ -20,7 +20,7 @@ inline const QString cornerShop = QStringLiteral("Corner Shop");
 class ChainTest : public testing::Test
 {
 protected:
-    /// Each test has a database of its own.
+    /// Each test has a separate database.
     ChainTest()
         : m_database(
               QString::fromUtf8(testing::UnitTest::GetInstance()->current_test_info()->name()).toLower())

@@ -1,4 +1,5 @@
-// A PostgreSQL that is down, goes away half way, does not fit or allows nothing: told, and nothing half done.
+// A PostgreSQL that is down, is lost half way, does not fit or allows nothing: reported, and nothing is half
+// done.
 #include "tests/chain/ChainTest.h"
 
 #include <QtTest>

@@ -1,4 +1,4 @@
-// Safety copies: when one is made, what comes back from it, and what happens when there is no room.
+// Safety copies: when one is made, what it restores, and what happens if there is no room.
 #include "customers/SafetyCopies.h"
 
 #include "customers/CustomerLog.h"
@@ -97,8 +97,8 @@ TEST_F(SafetyCopiesTest, WithoutRoomNothingIsLeftAndTheJobDoesNotStart)
     EXPECT_TRUE(copyBeforeJob(m_values, m_boxes, u"before upload"_s));
 }
 
-/// The database as a failing disk leaves it, told by what is done to its bytes, and whether its sales can
-/// still be read.
+/// The database as a failing disk leaves it, by the change of its bytes, and whether its sales can still be
+/// read.
 const struct {
     const char* what;
     std::function<void(QByteArray&)> spoil;

@@ -12,7 +12,7 @@ namespace norvane::screens
 {
 
 /// Fields that a screen leaves out on purpose: its file ("*" for all over the table), its table, the fields.
-/// A name that ends in "*" stands for all that begin so.
+/// A name that ends in "*" matches all that begin so.
 inline constexpr const char* leftOut[][3] = {
     // The grid of euro prices.
     {"plutble.scn", "PLUDATA",
@@ -64,7 +64,7 @@ inline Sent sentBy(const records::Column& column)
     return std::visit(look, column);
 }
 
-/// Whether @p name is a word of @p list. A word that ends in "*" stands for all names that begin so.
+/// Whether @p name is a word of @p list. A word that ends in "*" matches all names that begin so.
 inline bool isListed(const char* list, const QString& name)
 {
     const QStringList words = QString::fromLatin1(list).split(u' ');

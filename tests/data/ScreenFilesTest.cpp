@@ -262,8 +262,8 @@ void ScreenFile::checkPlaces(const QWidget& picture, const QList<QWidget*>& cont
     }
 }
 
-/// Down a column and then the next one, or along a row and then the next one: nothing that is reached later
-/// lies both above, or level, and to the left, or level.
+/// Down a column and then the next one, or along a row and then the next one: no later control is both above,
+/// or level, and to the left, or level.
 void ScreenFile::checkOrder(const QVector<QWidget*>& order)
 {
     for (qsizetype later = 0; later < order.size(); ++later) {

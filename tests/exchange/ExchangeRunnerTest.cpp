@@ -1,5 +1,5 @@
-// Whole sequences with the real tools and a bank of registers: the lines that the tool gets, what is left in
-// the folders, the ticks that stay, the boxes that the user sees.
+// Whole sequences with the real tools and a bank of registers: the lines that the tool gets, the files in the
+// folders, the remaining ticks, the boxes shown.
 #include "exchange/ExchangeRunner.h"
 
 #include "base/SharedRoutines.h"

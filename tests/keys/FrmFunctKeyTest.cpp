@@ -1,4 +1,4 @@
-// The function key editor as a user works it, and what stands in the table afterwards.
+// The function key editor as a user works it, and the table afterwards.
 #include "keys/FrmFunctKey.h"
 
 #include "tests/keys/KeyShop.h"
@@ -46,7 +46,7 @@ protected:
     }
     void enter(const char* box, const char* text) { type(control<QLineEdit>(box), text, Qt::Key_Tab); }
     void select(const char* typed) { type(*list().lineEdit(), typed, Qt::Key_Return); }
-    /// By the letter of the button. @return what the status bar is told.
+    /// By the letter of the button. @return the text of the status bar.
     QString save()
     {
         QSignalSpy told(&*m_form, &FrmFunctKey::told);

@@ -100,7 +100,7 @@ TEST_F(FrmwluTest, WalksTheLookUpsOfTheChosenCustomer)
     control<QLineEdit>("linkwlu").setText(u"7"_s);
     press("PreviousRecord");
     EXPECT_EQ(m_boxes.shown, (std::vector{noMore, noMore}));
-    EXPECT_EQ(control<QLineEdit>("linkwlu").text(), u""_s) << "the first record is shown afresh";
+    EXPECT_EQ(control<QLineEdit>("linkwlu").text(), u""_s) << "the first record is shown again";
 }
 
 TEST_F(FrmwluTest, OffersTheListsOfWhatIsAllowed)
@@ -161,7 +161,7 @@ TEST_F(FrmwluTest, FillsMovesAndSavesLines)
                                                                      BoxIcon::Question})));
     EXPECT_EQ(stored(1), "0:1001 0:2001 0:0 0:0");
     EXPECT_EQ(lines(), "PLU 0 | PLU 000000000000002001\nCake | PLU 0 | PLU 0")
-        << "shown afresh: the cola is gone";
+        << "shown again: the cola is gone";
 }
 
 TEST_F(FrmwluTest, DeletesALineAtOnceAndAsksBeforeANewNumber)

@@ -103,7 +103,7 @@ protected:
         mouse(QTest::MouseRelease, to);
         dropAt(to, copies);
     }
-    /// Alt and a letter; a button pressed so stays down for a moment.
+    /// Alt and a letter; a button pressed so remains down for a moment.
     bool letter(Qt::Key letter, const std::function<bool()>& happened) const
     {
         key(letter, Qt::AltModifier);

@@ -1,4 +1,4 @@
-// Which key lies where, and a level from its two tables to its cells and back, good rows and bad ones.
+// The places of the keys, and a level from its two tables to its cells and back, good rows and bad ones.
 #include "keys/KeyLevel.h"
 
 #include "tests/keys/KeyShop.h"
@@ -77,7 +77,7 @@ struct StoredKey {
     const char* shown;
     KeyState state;
     const char* savedLink;
-    const char* savedNumber; ///< a "#" stands for the key's number in 14 digits
+    const char* savedNumber; ///< "#" means the key's number in 14 digits
 };
 const StoredKey storedKeys[] = {
     {"'0'", "'000000000000001001'", "P00000000000001001 Cola", KeyState::Plu, "0", "000000000000001001"},

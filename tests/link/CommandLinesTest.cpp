@@ -1,4 +1,4 @@
-// What the transfer tool and the modem are told by a customer's settings file.
+// The command lines and modem settings from a customer's settings file.
 #include "link/CommandLines.h"
 
 #include "tests/platform/TestFolder.h"

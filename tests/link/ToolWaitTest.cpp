@@ -1,4 +1,4 @@
-// A real tool that hangs, and a user who goes on pressing keys in real windows.
+// A real tool that hangs, and a user who keeps pressing keys in real windows.
 #include "link/ToolWait.h"
 
 #include "tests/platform/TestFolder.h"
@@ -21,7 +21,7 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override { ++paints; }
 };
 
-/// Stays open when the user leaves, as the form of a run does.
+/// Remains open when the user leaves, as the form of a run does.
 class Form : public QDialog
 {
 public:

@@ -1,4 +1,4 @@
-// Overlay documents and their files: what stands in a new one, what is read and what is left behind.
+// Overlay documents and their files: the contents of a new one, what is read and which files are written.
 #include "overlay/DocumentFile.h"
 
 #include "overlay/OverlayText.h"

@@ -1,4 +1,4 @@
-// Dialogs for the tests of the overlay forms: record what was asked for and answer as told.
+// Dialogs for the tests of the overlay forms: record the requests and give prepared answers.
 #pragma once
 
 #include "overlay/OverlayDialogs.h"

@@ -87,7 +87,7 @@ std::vector<ExpectedKey> expectedKeys(const KeyboardMeasure& keyboard)
     return keys;
 }
 
-/// Neighbours differ, and each is full or empty in every part, so that a dot half covered is told apart.
+/// Neighbours differ, and each is full or empty in every part, so that a half covered dot is distinguished.
 constexpr std::array<QRgb, 6> colours = {0xffff0000, 0xff00ff00, 0xff0000ff,
                                          0xffffff00, 0xffff00ff, 0xff00ffff};
 
@@ -117,7 +117,7 @@ public:
         };
         return qRgb(full(qRed(dot)), full(qGreen(dot)), full(qBlue(dot)));
     }
-    /// How far the colour at a place goes on in a direction; -1 when it is another one.
+    /// How far the colour at a place extends in a direction; -1 if it is another one.
     [[nodiscard]] double reach(double x, double y, double stepX, double stepY, QRgb colour) const
     {
         int steps = 0;
@@ -220,8 +220,7 @@ TEST_P(SheetPdf, ShowsEveryBandAndGapWhereTheKeyIs)
     }
 }
 
-/// Where capitals of 8 points begin and stand, down from the top of the text, in the letters that stand in
-/// for Arial.
+/// Where capitals of 8 points begin and end, down from the top of the text, in the substitute font for Arial.
 constexpr double capitalTop = (0.905 - 0.688) * 8 * 25.4 / 72;
 constexpr double baseline = 0.905 * 8 * 25.4 / 72;
 

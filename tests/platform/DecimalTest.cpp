@@ -94,7 +94,7 @@ TEST(Decimal, PricesSurviveTheWayThroughTheNearestBinaryNumber)
                              "1.7976931348623", "123456789.987654321"}) {
         EXPECT_EQ(Decimal::parse(text)->toDouble(), std::strtod(text, nullptr)) << text;
     }
-    // No more than eighteen digits are told exactly.
+    // At most eighteen digits are exact.
     EXPECT_EQ(failureOf([] { (void)Decimal::parse("1234567890123456789"); }), 6);
     EXPECT_EQ(failureOf([] { (void)Decimal(123, 0).shifted(16); }), 6);
     EXPECT_EQ(failureOf([] { (void)Decimal::fromDouble(1e30); }), 6);

@@ -1,4 +1,4 @@
-// Case-blind file names, failures of reading and writing, and what a full disk leaves behind.
+// Case-insensitive file names, failures of reading and writing, and the files after a full disk.
 #include "platform/FilePaths.h"
 
 #include "tests/platform/FullDisk.h"

@@ -45,7 +45,7 @@ TEST(Windows1252, WhatNoRegisterHasIsOneQuestionMark)
     EXPECT_EQ(registerFromUtf8("a\xC3"), "a?");
     EXPECT_EQ(registerFromUtf8("\x80\x80z"), "?z");
     EXPECT_EQ(registerFromUtf8("\xE2\x82|"), "?|");
-    EXPECT_EQ(registerFromUtf8("\xC1\x81\xFFz"), "??z"); // an overlong letter is no letter
+    EXPECT_EQ(registerFromUtf8("\xC1\x81\xFFz"), "??z"); // an overlong letter is not a letter
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// Columns that no register should send: where a line is refused, and how much of it is told.
+// Columns that no register should send: where a line is refused, and how much of it is shown.
 #include "records/RegisterFiles.h"
 #include "tests/records/Shop.h"
 

@@ -119,7 +119,8 @@ const struct {
     {6, "00,,,20", "stockisdeducted", "True"},
     {11, "00,00,00,30", "DATEPRINT", "3"},
     {11, "00,00,00,70,00,00,", "HOMESYMBOL", "48"},
-    // Columns too many, digits that are no sums of flags, and lines without anything: no register takes them for settings.
+    // Columns too many, digits that are not sums of flags, and empty lines: no register accepts them as
+    // settings.
     {1, "a,40,40,9,,zz", "tax1", "True"},
     {1, "a,98,98", "addtogrouptotal", "False"},
     {1, "a,89,89", "tax1", "False"},

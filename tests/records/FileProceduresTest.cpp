@@ -38,7 +38,7 @@ TEST(FileProceduresTest, WritesOverTheFileOfAnotherSpellingInTheOrderOfTheIndex)
     EXPECT_EQ(shop.commands, QStringList(QStringLiteral("convert wVelmaro f1.txt t1.dat d01")));
 }
 
-/// What stands behind a comma would reach the register in the next column.
+/// Text after a comma would reach the register in the next column.
 TEST(FileProceduresTest, AsksBeforeATextWithACommaPartsTheColumns)
 {
     Shop shop;

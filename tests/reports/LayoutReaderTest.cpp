@@ -1,4 +1,4 @@
-// Layout files with mistakes, and what is told of them.
+// Layout files with mistakes, and the messages about them.
 #include "tests/reports/ReportShop.h"
 
 namespace norvane::reports::test

@@ -245,7 +245,7 @@ TEST_F(PreviewTest, TellsWhatCannotBeSavedOrPrinted)
     EXPECT_TRUE(m_boxes.shown[3].text.startsWith(u"There is no printer"_s));
 }
 
-// Names the first control that is cut off or lies outside, at the size of a small screen.
+// Names the first control that is cut off or outside, at the size of a small screen.
 TEST_F(PreviewTest, FitsOnASmallScreen)
 {
     m_preview->resize(1024, 700);

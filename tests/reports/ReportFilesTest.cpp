@@ -1,4 +1,4 @@
-// What stands in the files that a report is saved to, read back by other programs.
+// The contents of saved report files, read back by other programs.
 #include "reports/ReportFiles.h"
 
 #include "reports/ReportRun.h"
@@ -25,7 +25,7 @@ QString cellOf(QXmlStreamReader& xml)
     return isText ? u'"' + text + u'"' : text;
 }
 
-/// The rows of the first sheet, the cells of each parted by bars.
+/// The rows of the first sheet, the cells of each separated by bars.
 QStringList sheetRows(const QString& path)
 {
     QXmlStreamReader xml(outputOf(u"unzip"_s, {u"-p"_s, path, u"xl/worksheets/sheet1.xml"_s}));

@@ -1,4 +1,4 @@
-// How lines are broken into pages, and where they stand on paper.
+// How lines are broken into pages, and their places on paper.
 #include "reports/ReportPages.h"
 
 #include "reports/ReportFiles.h"

@@ -1,4 +1,4 @@
-// Formulas over rows of a real database: which rows they find, and where a mistake is told.
+// Formulas over rows of a real database: which rows they find, and where a mistake is reported.
 #include "tests/reports/ReportShop.h"
 
 namespace norvane::reports::test

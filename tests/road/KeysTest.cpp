@@ -38,7 +38,7 @@ const KeyOptions keyOptions[] = {
     // The port of key 18 is added to the digit of boxes 15 to 17: beside one of those, both are misread.
     {18,  0, 0, {u"4"_s},         {6},      "4 | 6",       "4 | 6"},
     {18,  1, 3, {u"4"_s},         {16},     "6 | 15 16",   "6 | 15 16"},
-    // The printer of key 21 is put behind the digits of boxes 12 to 14, and a register keeps the last two.
+    // The printer of key 21 is put after the digits of boxes 12 to 14, and a register keeps the last two.
     {21,  0, 3, {u"5"_s},         {6, 12},  "5 | 6 12",    "5 | 6"},
 };
 // clang-format on

@@ -14,7 +14,7 @@ namespace norvane
 namespace
 {
 
-/// A shop of three registers with a folder of the program of its own.
+/// A shop of three registers with a separate folder of the program.
 class Branch
 {
 public:

@@ -174,7 +174,7 @@ TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
         {prices + "1,2\n\n01,3\n", u"line 4, Number: line 2 already has this number"_s},
         {prices + "1234567890123456789,1\n",
          u"\"1234567890123456789\" is not a PLU number of up to 18 digits"_s},
-        {prices + "9E+17,1\n,2\n", u"line 3, Number: \"\" is no PLU number"_s},
+        {prices + "9E+17,1\n,2\n", u"line 3, Number: \"\" is not a PLU number"_s},
         {prices + "1,2x\n", u"line 2, Price 1: \"2x\" is not a price"_s},
         {prices + "1,\"1.234,50\"\n", u"\"1.234,50\" is not a price"_s},
         {prices + "1,\"1,000\"\n",
@@ -193,7 +193,7 @@ TEST_P(PluFileOfOneModel, ListsTheMistakesOfAFileAndStoresNothing)
         {"Number,Description\n1,\"a\n", u"line 2: a quote is not closed"_s},
         {"Number,Description\n1,a\n2,\xFC\n", u"line 3: the file is not UTF-8"_s},
         {"Number,Group,Status\n1,7,1\n2,8,x\n",
-         u"line 3, Group: there is no group 8\nline 3, Status: \"x\" is no"_s},
+         u"line 3, Group: there is no group 8\nline 3, Status: \"x\" is not a number"_s},
         {prices + QByteArray("x,1\n").repeated(101),
          u"line 101, Number: \"x\" is not a PLU number of up to 18 digits\n"
          "%1 has mistakes: 101. Nothing was changed. "

@@ -8,7 +8,7 @@ namespace
 
 using test::Shop;
 
-/// Takes the lines of the preview that stands open and closes it.
+/// Takes the lines of the open preview and closes it.
 QString linesOfPreview(const QString& title)
 {
     for (QWidget* const window : QApplication::topLevelWidgets()) {

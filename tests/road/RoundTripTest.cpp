@@ -85,18 +85,18 @@ const Difference differences[] = {
     {2, 2, 1, [](const Travelling& here) { if (here.line >= 257) here.text.fill(' '); }},
     // Destination 2 beside the eat-in question is the digit of destination 3.
     {3, 0, 1, digit(1, '5', '7')},
-    // The start cursor is told at weight 2 and answered at weight 1; sign-on method 3 reads as 2.
+    // The start cursor is sent at weight 2 and returned at weight 1; sign-on method 3 reads as 2.
     {3, 0, 7, digit(0, '5', '6')},
     {3, 0, 7, digit(1, '3', '2')},
-    // The default price level goes out with a zero behind it: ten times as much with each journey.
+    // The default price level is sent with a zero after it: ten times as much each time.
     {7, 0, 4, text("001", "010")},
-    // That check 4 holds check 3 is told in the left digit and answered in the right one.
+    // That check 4 holds check 3 is sent in the left digit and returned in the right one.
     {8, 0, 2, digit(0, '7', '6')},
-    // The port is the first digit behind the zeros, and goes out as the left one.
+    // The port is the first digit after the zeros, and is sent as the left one.
     {10, 0, 2, text("05", "50")},
     // A receipt after an interrupt is always asked for.
     {11, 0, 2, [](const Travelling& here) { setBit(here.text, 0, 4, true); }},
-    // A receipt at the time clock is told in two places and answered in the second.
+    // A receipt at the time clock is sent in two places and returned in the second.
     {11, 0, 2, [](const Travelling& here) { setBit(here.text, 1, 4, hasBit(here.sentIn(3), 0, 1)); }},
     // How the date is printed is only ever read.
     {11, 0, 4, [](const Travelling& here) { setBit(here.text, 0, 3, false); }},
@@ -104,15 +104,17 @@ const Difference differences[] = {
     {11, 0, 11, text("Fr ", "F  ")},
     // The question before a reset is answered at the place of the omitted tax totals.
     {13, 0, 2, [](const Travelling& here) { setBit(here.text, 1, 1, hasBit(here.text, 1, 4)); }},
-    // Three decimal places are told as 6, which reads as two.
+    // Three decimal places are sent as 6, which reads as two.
     {15, 0, 1, [](const Travelling& here) { setBit(here.text, 0, 2, false); }},
     // Texts lose the blanks in front of them, message lines their zeros too.
     {25, 0, 5, [](const Travelling& here) { here.text = here.text.trimmed().leftJustified(here.text.size()); }},
     {26, 0, 10, [](const Travelling& here) { if (here.text.startsWith('0')) here.text = here.text.sliced(1) + ' '; }},
-    // Each number of a tax table comes from the column behind it, all reserves and the end from the first reserve.
+    // Each number of a tax table comes from the column after it, all reserves and the end from the first
+    // reserve.
     {29, 0, 4, [](const Travelling& here) { here.becomes(here.sentIn(here.column + 1)); }, 1, 7},
     {29, 0, 9, [](const Travelling& here) { here.becomes(here.sentIn(8)); }, 1, 30},
-    // Negative sales are told in column 2 and overwritten by the detail option of column 3, which is lost itself.
+    // Negative sales are sent in column 2 and overwritten by the detail option of column 3, which is lost
+    // itself.
     {36, 0, 2, [](const Travelling& here) { setBit(here.text, 1, 4, hasBit(here.sentIn(3), 0, 4)); }},
     {36, 0, 3, [](const Travelling& here) { setBit(here.text, 0, 4, false); }},
     // Added points give way to the removed card in the same way.
@@ -128,7 +130,7 @@ const Difference differences[] = {
     // The grill number is read into the flag before it and is never sent.
     {65, 0, 9, [](const Travelling& here) { setBit(here.text, 0, 4, here.sentIn(12) != "00"); }},
     {65, 0, 12, [](const Travelling& here) { here.text = "00"; }},
-    // A price without a level is one of the level that it stands at.
+    // A price without a level has the level of its position.
     {67, 0, 22, text("00", "05")},
 };
 // clang-format on

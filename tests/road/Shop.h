@@ -27,7 +27,7 @@ public:
         m_main->show();
     }
 
-    /// Makes a second customer and goes on with it, as after a new start of the program.
+    /// Creates a second customer and continues with it, as after a restart of the program.
     void startWith(const QString& customer)
     {
         m_values = m_folder.makeCustomer(customer);
@@ -89,7 +89,7 @@ public:
         store::Database(m_values.databasePath).execute(QString::fromLatin1(sql));
     }
 
-    /// Chooses a menu entry; @p act runs as soon as a modal dialog stands open.
+    /// Chooses a menu entry; @p act runs as soon as a modal dialog is open.
     void choose(const char* entry, const std::function<void(QDialog&)>& act = {})
     {
         if (act)

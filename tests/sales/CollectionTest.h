@@ -66,7 +66,7 @@ protected:
         const std::string whole = LinkFormTest::status();
         return whole.starts_with(done) && whole.ends_with(" rows of sales stored, 1 s") ? done : whole;
     }
-    /// Whether the sales still stand at the registers, open or consolidated.
+    /// Whether the registers still have the sales, open or consolidated.
     [[nodiscard]] bool registersHoldSales() const
     {
         return std::ranges::any_of(std::array{"1/totals", "1/consolidated", "2/totals", "2/consolidated"},

@@ -122,7 +122,7 @@ TEST_F(FrmsalesCommTest, AsksBeforeItStoresTheSameSalesAgain)
     EXPECT_EQ(rows(), stored);
 }
 
-/// A step whose tool failed in silence, behind a collection of the day before.
+/// A step whose tool failed silently, after a collection of the day before.
 struct Doubt {
     const char* fault;
     const char* told;
@@ -194,7 +194,7 @@ TEST_F(FrmsalesCommTest, StopsAtRegistersThatSendDescriptions)
     }
 }
 
-/// The third of five imports fails: the user says whether what came before stays; the registers keep
+/// The third of five imports fails: the user says whether to keep the first two; the registers keep
 /// everything.
 TEST_F(FrmsalesCommTest, ClearsNothingAfterAFailedImport)
 {
@@ -213,7 +213,7 @@ TEST_F(FrmsalesCommTest, ClearsNothingAfterAFailedImport)
     }
 }
 
-/// Exit while a tool hangs: told at once, and nothing is stored.
+/// Exit while a tool hangs: shown immediately, and nothing is stored.
 TEST_F(FrmsalesCommTest, EndsBetweenTwoToolsWhenLeft)
 {
     const QString matched = joinPath(folder.bankPath(), u"faults.log"_s);

@@ -100,7 +100,7 @@ TEST_F(PollImport, TurnsRecordsIntoRows)
 }
 
 const struct {
-    const char* text; ///< behind a good record
+    const char* text; ///< after a good record
     int failure;
     const char* told;
 } badAmounts[] = {

@@ -1,4 +1,4 @@
-// The find buttons of a screen: a text in, the record shown and what is told out.
+// The find buttons of a screen: a text in, the record shown and the status bar's text out.
 #include "tests/screens/OptionFormFixture.h"
 
 namespace norvane::screens

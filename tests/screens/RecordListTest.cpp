@@ -26,7 +26,7 @@ protected:
         QCoreApplication::processEvents();
         ASSERT_TRUE(control(form, "ListFilter")->isVisible());
     }
-    /// What stands in the list: "number text", the record of the screen with a star.
+    /// The contents of the list: "number text", the record of the screen with a star.
     [[nodiscard]] std::string listed() const
     {
         QStringList rows;

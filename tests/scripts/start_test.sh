@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The program installed as its package installs it, started by users with folders of their own, through updates.
+# The program installed as its package installs it, started by users with separate folders, through updates.
 #   start_test.sh BUILD_FOLDER
 set -euo pipefail
 build=$1

@@ -31,7 +31,7 @@ int failAs(const QString& kind)
     });
     if (kind == u"dialog") {
         QDialog().exec();
-        std::puts("went on"); // code behind a dialog that failed must not
+        std::puts("went on"); // code after a failed dialog must not
     }
     return QCoreApplication::exec();
 }

@@ -69,7 +69,7 @@ TEST_F(FormsInFrameTest, AKeyEditorThatCannotOpenClosesAlone)
     EXPECT_EQ(m_boxes.shown.size(), 4U) << "a note for the function keys, a failure for each";
 }
 
-/// Setup stays open while another customer is chosen.
+/// Setup remains open while another customer is chosen.
 TEST_F(FormsInFrameTest, SetupFollowsAChangeOfCustomer)
 {
     m_folder.write("app/Bar/setup.ini", "[SetupOption]\r\nECRModel= 3\r\n");

@@ -138,7 +138,7 @@ TEST_F(ScreensInFrameTest, AnUntouchedScreenFollowsAPriceChangeAndATouchedOneAsk
     save(touched);
     EXPECT_EQ(m_boxes.shown, std::vector{changed});
     EXPECT_EQ(plus(), "Lager 0.00|Cider 0.00");
-    EXPECT_EQ(shown(touched, pluName), "Lager") << "read afresh";
+    EXPECT_EQ(shown(touched, pluName), "Lager") << "read again";
     save(touched);
     EXPECT_EQ(m_boxes.shown.size(), 1U) << "nothing to ask any more";
 }
@@ -167,7 +167,7 @@ TEST_F(ScreensInFrameTest, AScreenReadsItsRecordAgainWhenItComesToTheFront)
     EXPECT_EQ(shown(first, pluName), "Lager");
     bringToFront(first);
     EXPECT_EQ(shown(first, pluName), "Stout");
-    // An upload makes all records anew.
+    // An upload creates all records again.
     execute(u"delete * from PLUDATA"_s);
     addPlu(u"1001', 'Porter', '3"_s);
     bringToFront(second);

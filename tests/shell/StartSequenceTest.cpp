@@ -1,5 +1,5 @@
-// The start with a clock of the test's own: how long the splash stays, what the customer dialog does, what is
-// set afterwards.
+// The start with a clock of the test's own: how long the splash is shown, what the customer dialog does, what
+// is set afterwards.
 #include "shell/StartSequence.h"
 
 #include "customers/CustomerFolders.h"

@@ -77,7 +77,7 @@ TEST(Database, AnAddedFieldLeavesOldRowsNullUntilTheyAreStored)
     add(before, {{"NUMBER", text("1")}});
     const FieldDefinition key{u"dallaskey"_s, FieldType::Text, 14, u"none"_s, true};
     database.addField(testTable, key);
-    add(before, {{"NUMBER", text("2")}}); // a recordset opened before goes on with the fields that it knows
+    add(before, {{"NUMBER", text("2")}}); // a recordset opened before continues with the fields that it knows
 
     auto after = database.openTable(testTable);
     EXPECT_TRUE(after.value(key.name).isNull());

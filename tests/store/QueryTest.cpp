@@ -82,7 +82,7 @@ TEST_F(QueryTest, RowsOfOneTableCanBeChangedAndComputedOnesCannot)
     EXPECT_FALSE(rows.moveTo(0));
     EXPECT_FALSE(rows.moveTo(2));
     rows.moveFirst();
-    EXPECT_EQ(rows.value(0), text("2")); // the deleted row is passed over
+    EXPECT_EQ(rows.value(0), text("2")); // the deleted row is skipped
     rows.deleteRecord();
     EXPECT_EQ(rows.recordCount(), 1);
     EXPECT_EQ(found(u"items"_s).substr(0, 2), "1|");

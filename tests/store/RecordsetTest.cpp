@@ -291,7 +291,7 @@ TEST_F(RecordsetTest, AChangedRecordStaysTheCurrentOne)
     add(m_records, {{"NUMBER", text("06")}});
     m_records.moveFirst();
     EXPECT_EQ(failureOf([&] { change(key, text("02")); }), 3022);
-    m_records.edit(); // goes on
+    m_records.edit(); // continues
     EXPECT_EQ(number(), "02");
     change(key, text("07"));
     EXPECT_EQ(number(), "07") << "where its new key takes it";

@@ -1,4 +1,4 @@
-// What stands in a database, as another program at the same file would read and change it.
+// The contents of a database, read and changed as by another program.
 #pragma once
 
 #include "store/Database.h"
@@ -51,7 +51,7 @@ inline void addRecord(store::Database& database, const char* table, const std::v
     records.update();
 }
 
-/// The field in the records of a table, in the order of its first index, parted by "|"; null as "null".
+/// The field in the records of a table, in the order of its first index, separated by "|"; null as "null".
 inline std::string columnOf(const QString& databasePath, const char* table, const char* field)
 {
     store::Database database(databasePath);

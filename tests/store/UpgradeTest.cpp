@@ -115,7 +115,7 @@ TEST(Upgrade, WritesNothingIntoACurrentDatabaseWhichTellsTheCatalogue)
     EXPECT_EQ(folder.folder().names(), QStringList{u"velmar.mdb"_s});
 }
 
-// What stands, the last that is added before it and the first that is not added behind it.
+// The existing field, the last one added before it and the first one not added after it.
 constexpr const char* partlyUpgraded[][3] = {
     {"AUTHORITYLEVEL.DISALLOWADDINX", "", "AUTHORITYLEVEL.DISALLOWOVERRIDEINX"},
     {"KITCHENPRINTOPTIONS.REDIRECTTORCPT", "EMPLOYEE.DALLASKEY", "PLUDATA.PRINTNV"},
@@ -148,7 +148,7 @@ QVector<TableDefinition> withoutCompanions()
     return tables;
 }
 
-/// Everything that stands in a file, the engine's own view of it, but for what comes with the first row.
+/// The whole contents of a file as the engine sees it, except what the first row adds.
 std::string engineLayoutOf(const StoreFolder& folder)
 {
     return rowsOf(folder.path(),
@@ -218,7 +218,7 @@ TEST(Completion, AddsNoTableAndNoFieldThatTheUpgradeLeftOut)
     const std::string tables = layoutIn(folder);
     completeDatabase(folder.path());
     EXPECT_EQ(beforeCompletion(layoutIn(folder)), tables);
-    // The upgrade makes the three tables with their indexes; the fourth stood already.
+    // The upgrade makes the three tables with their indexes; the fourth already existed.
     EXPECT_EQ(rowsOf(folder.path(),
                      u"select upper(tbl_name) from sqlite_schema where name like '*sales search' "
                      "and name not like 'norvane*' order by 1"_s),

@@ -10,7 +10,7 @@ namespace norvane::test
 
 using namespace Qt::Literals::StringLiterals;
 
-/// Where an accessible object lies on the bus.
+/// The place of an accessible object on the bus.
 struct AccessiblePlace {
     QString service;
     QDBusObjectPath path;
@@ -19,7 +19,7 @@ struct AccessiblePlace {
 /// Places of states in the bits that the bus tells.
 enum class Spoken { Checked = 4, Editable = 7, Enabled = 8, Focusable = 11, Showing = 25 };
 
-/// Objects that are gone have no texts, states and children.
+/// Deleted objects have no texts, states and children.
 class Accessible
 {
 public:
@@ -35,7 +35,7 @@ public:
             ask("org.freedesktop.DBus.Properties", "Get", {u"org.a11y.atspi.Accessible"_s, u"Name"_s});
         return answer.value<QDBusVariant>().variant().toString().trimmed();
     }
-    /// What stands in a box.
+    /// The text of a box.
     [[nodiscard]] QString text() const { return ask("org.a11y.atspi.Text", "GetText", {0, -1}).toString(); }
     [[nodiscard]] bool is(Spoken state) const
     {

@@ -1,5 +1,5 @@
-// For the tests of forms that speak with registers: a customer, the real tools, a bank of registers, and a
-// modem behind a pseudo terminal.
+// For the tests of forms that communicate with registers: a customer, the real tools, a bank of registers,
+// and a modem on a pseudo terminal.
 #pragma once
 
 #include "base/CustomerSettings.h"
@@ -65,7 +65,7 @@ protected:
         clock = quick.get();
         form.setClock(std::move(quick));
     }
-    /// Lets the modem connect the next call or stay silent.
+    /// Lets the modem connect the next call or remain silent.
     void willConnect(bool connects)
     {
         far.willAnswer(connects ? std::deque<PseudoModem::Answer>{{"OK"}, {"OK"}, {"CONNECT"}}

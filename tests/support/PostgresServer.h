@@ -1,4 +1,4 @@
-// A PostgreSQL that nobody else sees, on a socket in a folder of its own.
+// A private PostgreSQL, on a socket in a separate folder.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -64,7 +64,7 @@ public:
         QFile file(folder() + u"/data/postmaster.pid"_s);
         return file.open(QIODevice::ReadOnly) ? file.readLine().trimmed().toInt() : 0;
     }
-    /// For whoever connects to @p database.
+    /// The connection string of @p database.
     [[nodiscard]] QString connection(const QString& database,
                                      const QString& user = QStringLiteral("postgres")) const
     {
@@ -83,7 +83,7 @@ public:
         EXPECT_TRUE(psql.waitForFinished(patience)) << sql.toStdString();
         return QString::fromUtf8(psql.readAllStandardOutput() + psql.readAllStandardError()).trimmed();
     }
-    /// The same on a connection of its own that goes on while this returns. Its owner ends it.
+    /// The same on a separate connection that continues after this returns. Its owner ends it.
     void queryMeanwhile(QProcess& psql, const QString& database, const QString& sql) const
     {
         psql.start(toolPath(u"psql"_s), {u"-X"_s, u"-q"_s, u"-A"_s, u"-t"_s, u"-v"_s, u"ON_ERROR_STOP=1"_s,

@@ -10,7 +10,7 @@
 namespace norvane::test
 {
 
-/// Stands in for the system's print server as long as it lives.
+/// Replaces the system's print server during its lifetime.
 class PrintServer
 {
 public:

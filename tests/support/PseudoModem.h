@@ -17,8 +17,8 @@
 namespace norvane::test
 {
 
-/// Answers each command that ends in a carriage return with the next of its answers, as many seconds later as
-/// told. Keeps all that it got.
+/// Answers each command that ends in a carriage return with the next of its answers, after the given number
+/// of seconds. Keeps everything that it received.
 class PseudoModem
 {
 public:
@@ -108,7 +108,7 @@ public:
 
 private:
     PseudoModem& m_modem;
-    double m_now; ///< goes on past midnight
+    double m_now; ///< continues past midnight
 };
 
 } // namespace norvane::test

@@ -1,5 +1,5 @@
-// A desktop that nobody looks at: a display of its own, and the busses over which a screen reader reads and
-// works the programs on it.
+// A hidden desktop: a separate display, and the busses over which a screen reader reads and operates the
+// programs on it.
 #pragma once
 
 #include "tests/support/Accessible.h"
@@ -137,7 +137,7 @@ private:
         process.waitForFinished(endMilliseconds);
     }
 
-    /// In a group of its own, which ends with the test even when the test is killed.
+    /// In a separate group, which ends with the test even if the test is killed.
     void startHelper(QProcess& process, const QString& program, const QStringList& arguments)
     {
         process.setProcessEnvironment(m_environment);

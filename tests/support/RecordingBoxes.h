@@ -1,4 +1,4 @@
-// Boxes for the tests: records what was shown and answers as told beforehand.
+// Boxes for the tests: records what was shown and gives prepared answers.
 #pragma once
 
 #include "platform/Boxes.h"
@@ -28,7 +28,7 @@ public:
     std::deque<UnsavedAnswer> unsavedAnswers;
     std::deque<QString> typed;
     int beeps = 0;
-    /// Runs while a box stands open, to look at what is behind it.
+    /// Runs while a box is open, to check the windows below it.
     std::function<void(const ShownBox&)> whileOpen;
 
     void message(const QString& text, const QString& title, BoxIcon icon) override
@@ -40,7 +40,7 @@ public:
         record({text, title, icon, preset});
         return takeFront(answers);
     }
-    /// Closes the box when there is no answer.
+    /// Closes the box if there is no answer.
     std::optional<bool> askBeforeGoingOn(const QString& text, const QString& title) override
     {
         record({text, title, BoxIcon::Question, BoxAnswer::Yes});

@@ -31,7 +31,7 @@ const QByteArray group = "Hot Drinks  ,40,40\r\n";
 const struct {
     const char* operation;
     QByteArray text;
-    const char* place; ///< as told on the error channel
+    const char* place; ///< as reported on standard error
 } badTexts[] = {
     {"d01", "", "line 1:"},
     {"d01", "Hot Drinks  ,40\r\n", "line 1, column 3: 2 columns, 3 expected"},
@@ -64,7 +64,7 @@ TEST(Convert, refusesATextThatDoesNotFitAndNamesThePlace)
     }
 }
 
-/// By the exit code, lines parted by a semicolon.
+/// By the exit code, lines separated by a semicolon.
 const std::pair<int, const char*> badLines[] = {
     {1, "; wVelmarn f1.dat t1.txt; wVelmarn f1.dat t1.txt u01 more; Velmarn f1.dat t1.txt u01; "
         "wvelmarn f1.dat t1.txt u01; wVelmar f1.dat t1.txt u01; wVelmarn t1.txt f1.dat u01; "

@@ -1,4 +1,4 @@
-// makebank: the same bank every time, kept unless asked for anew, of the size asked for.
+// makebank: the same bank every time, kept unless --fresh is given, of the requested size.
 #include "ToolBench.h"
 
 namespace bank::test

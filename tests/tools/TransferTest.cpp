@@ -7,7 +7,7 @@ namespace bank::test
 namespace
 {
 
-/// Lines parted by a semicolon, by the result in status.out.
+/// Lines separated by a semicolon, by the result in status.out.
 const std::pair<const char*, const char*> linesByResult[] = {
     // lines of all three kinds
     {"0", "s9 c1 -U 250; s2 c1 Nmem.DAT -U 52; s4 F1 2T c1 N1.DAT -D 1; s1 F1 1T c1 N1.DAT -D 1; "

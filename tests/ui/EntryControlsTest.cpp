@@ -178,7 +178,7 @@ TEST(TextBox, TypingIntoAPaddedTextPushesTheBlanksOut)
 const QString tooLong = u"At most 8 characters. Select the text first to replace it."_s;
 const QString cutOff = u"Only the first 8 characters were pasted"_s;
 
-/// What stands in a box of 8 characters, which part is selected, what is pasted; text and tip then.
+/// The text of a box of 8 characters, the selected part, what is pasted; text and tip afterwards.
 const struct {
     QString standing;
     std::pair<int, int> selection;

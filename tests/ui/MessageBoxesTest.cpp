@@ -64,7 +64,7 @@ TEST(MessageBoxes, AnExistingFileIsReplacedOnlyAfterAYes)
     EXPECT_EQ(MessageBoxes().fileToOpen(request), folder.path("old.txt"));
 }
 
-/// Presses each key in a box of its own, which @p ask opens.
+/// Presses each key in a separate box, which @p ask opens.
 template <typename Answer>
 void expectAnswers(const std::function<Answer()>& ask,
                    const std::vector<std::pair<const char*, Answer>>& answers)

@@ -20,7 +20,7 @@ constexpr const char* cases[][3] = {
     {"1.23495", "1", " 1.24"},
     {"1.23494", "1", " 1.23"},
     {"9.9995", "1", " 10"},
-    // Decimal, not binary: 1.005 is no 1.00499999999999989.
+    // Decimal, not binary: 1.005 is not 1.00499999999999989.
     {"1.005", "1", " 1.01"},
     // 15 significant digits, then the fourth place.
     {"1.23494999999999999", "1", " 1.24"},

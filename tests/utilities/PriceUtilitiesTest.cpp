@@ -116,7 +116,7 @@ TEST_F(PriceUtilitiesTest, AsksBeforeItChangesThePricesOfAnotherCustomer)
 const QStringList toEuroBoxes{toEuro, rateBox, converted};
 const QString partOfRate = u"Please Check: \"1,5\" counts as 1.\r\rConvert at the rate 1?"_s;
 const QStringList fromEuroBoxes{fromEuro, converted};
-/// Entry, rate, boxes and the prices of both PLUs afterwards; each step goes on from the one before.
+/// Entry, rate, boxes and the prices of both PLUs afterwards; each step continues from the previous one.
 const struct {
     const char* entry;
     const char* rate;
@@ -246,7 +246,7 @@ TEST_F(PriceUtilitiesTest, DuringTheWalkTheWindowLivesTakesNoOtherEntryAndCloses
 
 TEST_F(PriceUtilitiesTest, LogoImagesTellTheRulesAndOnlyTheFirstEntryRunsTheConverterToItsEnd)
 {
-    // The entries cannot be chosen in the menu: what stands behind them is called.
+    // The entries cannot be chosen in the menu: their functions are called.
     const auto openers = makeOpeners(m_values, m_boxes);
     m_values.appPath = m_folder.path("my app");
     const auto notice = [&](QLatin1StringView entry) {

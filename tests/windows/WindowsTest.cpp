@@ -16,7 +16,7 @@ namespace
 struct Planted {
     const char* control;
     void (*spoil)(QWidget& control);
-    const char* found; ///< empty when it is no fault
+    const char* found; ///< empty if it is not a fault
 };
 
 void colour(QWidget& control, QPalette::ColorRole role, const char* name)
