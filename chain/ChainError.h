@@ -8,6 +8,7 @@
 namespace norvane::chain
 {
 
+/// Reasons why a publication fails.
 enum class ChainFailure {
     BadConnection, ///< the text is not a connection string
     Unreachable,   ///< no server there, no such database, or it refused the login

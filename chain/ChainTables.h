@@ -17,6 +17,7 @@ enum class Content {
     Time    ///< "0930" of a register, as "09:30"
 };
 
+/// A column of a published table.
 struct ChainColumn {
     const char* field; ///< in the customer's database
     const char* name;  ///< in PostgreSQL

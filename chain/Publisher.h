@@ -20,12 +20,14 @@ enum class Vanished {
     Remove ///< they go
 };
 
+/// Choices of one publication.
 struct PublishOptions {
     Vanished vanished = Vanished::Ask;
     bool adopt = false;                              ///< see findShop()
     std::function<void(const QString& text)> step{}; ///< called before each month
 };
 
+/// Result of one publication.
 struct Published {
     int days = 0; ///< new or changed ones that were published
     qint64 rows = 0;

@@ -15,6 +15,7 @@ inline constexpr const char* schemaName = "norvane";
 /// First key of the advisory locks; the second is the shop's number, 0 for the schema itself.
 inline constexpr int lockFamily = 0x4E76;
 
+/// A connection to the chain's PostgreSQL.
 class Server
 {
 public:

@@ -15,6 +15,7 @@ class RuntimeFailure;
 namespace norvane::command
 {
 
+/// Exit codes of norvane-shop.
 enum class ExitCode {
     Done = 0,
     Failed = 1,
@@ -37,6 +38,7 @@ enum class ExitCode {
     Terminated = 143,
 };
 
+/// An exit code and its meaning.
 struct ExitMeaning {
     ExitCode code;
     QLatin1StringView text;

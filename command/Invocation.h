@@ -13,6 +13,7 @@
 namespace norvane::command
 {
 
+/// An option of the command line.
 struct OptionDefinition {
     QLatin1StringView name;  ///< "pdf"
     QLatin1StringView value; ///< "FILE"; empty for a switch
@@ -30,6 +31,7 @@ struct Invocation {
 
 struct Workplace;
 
+/// A command of norvane-shop.
 struct Verb {
     QLatin1StringView name;
     QLatin1StringView operands; ///< as help shows them: "CUSTOMER [BOX...]"

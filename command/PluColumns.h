@@ -15,6 +15,7 @@
 namespace norvane::command
 {
 
+/// Kinds of values in the PLU spreadsheet.
 enum class PluContent {
     Number, ///< of the PLU itself
     Text,
@@ -22,6 +23,7 @@ enum class PluContent {
     Price
 };
 
+/// A column of the PLU spreadsheet.
 struct PluColumn {
     QLatin1StringView heading; ///< in the file
     QLatin1StringView field;   ///< of PLUDATA

@@ -16,6 +16,7 @@
 namespace norvane::command
 {
 
+/// A line of the file.
 struct PluLine {
     std::uint64_t number; ///< of up to 18 digits
     std::size_t place;    ///< in the text

@@ -14,12 +14,14 @@
 namespace norvane::command
 {
 
+/// A changed field of a PLU.
 struct PluFieldChange {
     const PluColumn* column = nullptr;
     std::string before; ///< as the listing shows it; empty for what was never set
     std::string after;  ///< what will be stored
 };
 
+/// All changes of one PLU.
 struct PluChange {
     std::string number; ///< as the table holds it
     bool isNew = false;

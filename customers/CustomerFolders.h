@@ -15,6 +15,7 @@ namespace norvane::customers
 /// for a blank name and for one that leads out of the program's folder. Opens nothing.
 [[nodiscard]] QStringList foldersNamed(const QString& appPath, const QString& name);
 
+/// Result of choosing a customer.
 enum class CustomerChoice {
     InvalidEntry, ///< blank name
     Created,      ///< folder with copies of the template database and settings, new or completed

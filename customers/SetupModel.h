@@ -12,12 +12,14 @@
 namespace norvane::customers
 {
 
+/// How a setting is stored and shown.
 enum class SettingForm {
     SignedIndex, ///< list index after a blank or "-": "Port= 0"
     PlainIndex,  ///< list index: "NoOfECRs=0"
     UpperText,   ///< text, written in upper case: "ModemReset=AT&F"
 };
 
+/// A setting of the setup dialog.
 struct Setting {
     QLatin1StringView key; ///< as it is written; case does not matter when it is read
     SettingForm form;

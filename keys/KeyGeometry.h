@@ -33,6 +33,7 @@ struct FixedCell {
     QLatin1StringView text; ///< with a carriage return between its lines
 };
 
+/// A keyboard: its rows, columns and fixed keys.
 struct KeyGeometry {
     QLatin1StringView form; ///< name of its editor
     int rows;

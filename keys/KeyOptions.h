@@ -77,6 +77,7 @@ enum class HaloDigits {
     Three,       ///< for this key alone
 };
 
+/// A number of a function key.
 struct NumberField {
     NumberControl control;
     QLatin1StringView caption;

@@ -31,6 +31,7 @@ inline constexpr Colour lightGrey{12632256}; ///< number 7 of the palette of 16 
 /// A system colour is drawn as window text: black.
 [[nodiscard]] QColor drawnText(Colour colour);
 
+/// The font of a cell.
 struct CellFont {
     QString name = QStringLiteral("Arial");
     float size = 8; ///< points; a document may say any number, one that is not above 0 prints nothing
@@ -40,6 +41,7 @@ struct CellFont {
     bool operator==(const CellFont&) const = default;
 };
 
+/// A text cell with its colours and font.
 struct Cell {
     QString text; ///< leading blanks count
     Colour background = white;

@@ -16,6 +16,7 @@ enum class Keyboard { Dorvik, Velmar, Quelmont };
 /// Plain and wide keys have three cells, one for each line of text; a single one has one cell.
 enum class KeyForm { Plain, Wide, Single };
 
+/// The shape of a key.
 struct KeyShape {
     paper::Length width;      ///< of bands and outline
     paper::Length printWidth; ///< that a line of text is cut to
@@ -40,6 +41,7 @@ struct PresetText {
     QStringView text;
 };
 
+/// The files of a keyboard's documents.
 struct DocumentFiles {
     QStringView extension;             ///< "*.ky4"
     QStringView filter;                ///< of the file dialogs: name, bar, pattern
@@ -47,6 +49,7 @@ struct DocumentFiles {
     bool isNewInProgramFolder = false; ///< where the dialog New begins; else in the customer's folder
 };
 
+/// The sheet of a keyboard.
 struct KeyboardGeometry {
     Keyboard keyboard{};
     QStringView name;     ///< of its form

@@ -35,6 +35,7 @@ struct FileChoice {
     Name name = Name::Existing;
 };
 
+/// Interface of the overlay dialogs.
 class OverlayDialogs
 {
 public:

@@ -21,13 +21,14 @@ struct AxisCorrection {
 struct MeasuredLine {
     Length start;          ///< where it should begin, from the sheet's edge
     Length length;         ///< what it should measure
-    Length measuredStart;  ///< where it does begin
-    Length measuredLength; ///< what it does measure; above 0
+    Length measuredStart;  ///< the measured start
+    Length measuredLength; ///< the measured length; above 0
 };
 
-/// @return the correction that puts right what @p line still shows wrong under @p before.
+/// Improves @p before by the error that @p line still shows.
 [[nodiscard]] AxisCorrection improved(const AxisCorrection& before, const MeasuredLine& line);
 
+/// The correction of a printer in both directions.
 struct PrinterCorrection {
     AxisCorrection across;
     AxisCorrection down;

@@ -22,6 +22,7 @@ struct Margins {
 /// Of a PDF, and of printers that do not report theirs.
 inline constexpr Margins usualMargins{millimetres(5), millimetres(5), millimetres(5), millimetres(5)};
 
+/// A sheet of paper with its margins.
 struct Sheet {
     QPageLayout::Orientation orientation = QPageLayout::Landscape;
     Margins margins = usualMargins;

@@ -30,6 +30,7 @@ struct FileRequest {
     QString suffix; ///< added to a name typed without one, when a file is saved
 };
 
+/// Interface of message boxes, questions and file dialogs.
 class Boxes
 {
 public:

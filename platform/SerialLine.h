@@ -9,6 +9,7 @@
 namespace norvane
 {
 
+/// Interface of a serial port.
 class SerialLine
 {
 public:

@@ -12,6 +12,7 @@
 namespace norvane::reports
 {
 
+/// Kinds of cell formats.
 enum class FormatKind {
     Text,
     Digits, ///< a number of many digits held as text, without its leading zeros
@@ -30,6 +31,7 @@ struct MoneyFormat {
     QString currency; ///< sign before the number; empty for none
 };
 
+/// How a cell shows its value.
 struct CellFormat {
     FormatKind kind = FormatKind::Text;
     int leastDecimals = 0;

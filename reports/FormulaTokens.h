@@ -22,6 +22,7 @@ private:
     QString m_text;
 };
 
+/// Kinds of tokens.
 enum class TokenKind {
     End,
     Field,  ///< {TABLE.FIELD}; the text is without the braces
@@ -31,6 +32,7 @@ enum class TokenKind {
     Symbol  ///< brackets, comma and operators
 };
 
+/// A token of a formula.
 struct Token {
     TokenKind kind = TokenKind::End;
     QStringView text;

@@ -24,6 +24,7 @@ struct LayoutTarget {
 /// @throws FormulaError when it is not, and the column of the mistake is known.
 using Take = bool (*)(const QString& value, LayoutTarget& target);
 
+/// A key of a report file and how it is read.
 struct KeyRule {
     QStringView key;
     bool isRequired;

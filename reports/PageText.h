@@ -17,6 +17,7 @@ class QPainter;
 namespace norvane::reports
 {
 
+/// How a text on a page is drawn.
 struct TextStyle {
     double size = 3.1; ///< height of the letters with the space that belongs to them, in mm
     bool isBold = false;

@@ -23,6 +23,7 @@ namespace norvane::reports
 
 class PreviewWindow;
 
+/// Where a report is shown.
 enum class Destination {
     Window, ///< a preview; each run opens another
     Printer ///< the system's default printer, without a question

@@ -41,6 +41,7 @@ struct ReportColumn {
 /// A cell as it is stored, never rounded: nothing, a text, a number or a day.
 using Cell = std::variant<std::monostate, QString, Decimal, QDate>;
 
+/// Kinds of report lines.
 enum class LineKind : std::uint8_t {
     GroupHeading, ///< its text is in the first cell and spans the whole line
     Detail,
@@ -60,17 +61,20 @@ struct ReportHeading {
     QDate to = {};
 };
 
+/// The page settings of a report.
 struct PageSetup {
     bool isLandscape = false; ///< of a sheet of A4
     bool mayTurn = false;     ///< an upright sheet is turned where the columns do not fit side by side
 };
 
+/// Kinds of charts.
 enum class ChartKind {
     Ranking, ///< horizontal bars, the longest first
     Course,  ///< upright bars over days or hours, in their order
     Shares   ///< parts of a whole
 };
 
+/// A point of a chart.
 struct ChartPoint {
     QString label;
     Decimal value;

@@ -58,6 +58,7 @@ struct Join {
 
 enum class Order { Plain, ByValue, Descending };
 
+/// A field by which lines are sorted.
 struct SortKey {
     FieldName field;
     Order order = Order::Plain;
@@ -85,6 +86,7 @@ struct LineSource {
     Slot slotOf(const FieldName& field);
 };
 
+/// A column of a report.
 struct ColumnLayout {
     ReportColumn column; ///< the decimal places of money are set when the report runs
     CellFormat format;
@@ -95,6 +97,7 @@ struct ColumnLayout {
     std::vector<Expression> shownIf;
 };
 
+/// A group of a report.
 struct GroupLayout {
     Slot by = 0;
     FieldText heading;
@@ -103,6 +106,7 @@ struct GroupLayout {
 /// Where the points of a chart come from.
 enum class PointSource { Lines, Groups, Query };
 
+/// A chart of a report.
 struct ChartLayout {
     ChartKind kind = ChartKind::Ranking;
     QString title;
@@ -116,6 +120,7 @@ struct ChartLayout {
 
 enum class Orientation { Automatic, Portrait, Landscape };
 
+/// A whole report file.
 struct ReportLayout {
     QString path;
     QString title;

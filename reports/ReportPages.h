@@ -11,12 +11,14 @@
 namespace norvane::reports
 {
 
+/// A line and its place on a page.
 struct PlacedLine {
     qsizetype line = 0;
     QRectF place;
     bool isContinued = false; ///< a group's heading once more, above its lines on a further page
 };
 
+/// A chart and its place on a page.
 struct PlacedChart {
     std::size_t chart = 0; ///< counts the report's charts from 0
     QRectF place;

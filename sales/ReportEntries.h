@@ -17,6 +17,7 @@ enum class TitleUse {
     Window, ///< the preview window
 };
 
+/// A report of the menu.
 struct ReportEntry {
     QLatin1StringView handler; ///< "PLUSalesByDate_Click"
     QLatin1StringView title;

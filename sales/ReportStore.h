@@ -15,12 +15,14 @@ enum class ReportOrigin {
     InDoubt, ///< a tool failed and the user went on: they may be older
 };
 
+/// Whether the reports were stored.
 enum class Stored {
     Yes,
     AlreadyThere, ///< the same reports were stored before, and not a second time
     Refused,      ///< nothing was stored, and the registers must keep their sales
 };
 
+/// The stored reports of a collection.
 struct StoredReports {
     Stored outcome;
     qint64 rows; ///< that were stored

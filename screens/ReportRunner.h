@@ -6,6 +6,7 @@
 namespace norvane::screens
 {
 
+/// The report that a print button runs.
 struct ReportRequest {
     QString reportFile; ///< path of the layout
     QString title;      ///< of the report's window

@@ -9,6 +9,7 @@
 namespace norvane::shell
 {
 
+/// A form and its chapter of the user guide.
 struct HelpTopic {
     QLatin1StringView form;   ///< control name of a form, or title of a box
     QLatin1StringView anchor; ///< of a heading: its text in small letters with "-" for blanks

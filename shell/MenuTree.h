@@ -8,6 +8,7 @@
 namespace norvane::shell
 {
 
+/// What a menu entry opens.
 enum class Opens {
     Nothing,     ///< an entry without any function
     Menu,        ///< a menu of further entries
@@ -21,6 +22,7 @@ enum class Opens {
 
 enum class Choosable { Yes, No };
 
+/// An entry of the menu.
 struct MenuEntry {
     QLatin1StringView parent; ///< empty for the top level
     QLatin1StringView name;   ///< control name

@@ -10,6 +10,7 @@
 namespace norvane::store::rows
 {
 
+/// A field in the catalogue's rows.
 struct FieldRow {
     const char* name = nullptr;
     FieldType type = FieldType::Text;
@@ -99,6 +100,7 @@ constexpr FieldRow zeroUnlessSet(FieldRow field)
 /// Lines of messages are 40 characters on the widest printer.
 constexpr int messageLine = 40;
 
+/// A table in the catalogue's rows.
 struct TableRow {
     const char* name = nullptr;
     std::span<const Row> fields;

@@ -10,6 +10,7 @@
 namespace norvane::store
 {
 
+/// Types of fields.
 enum class FieldType {
     YesNo,   ///< holds -1 or 0; anything not zero becomes true
     Long,    ///< whole number of 32 bits
@@ -20,6 +21,7 @@ enum class FieldType {
     Counter, ///< whole number that the store counts up for each new record
 };
 
+/// A field of a table.
 struct FieldDefinition {
     QString name;
     FieldType type = FieldType::Text;
@@ -35,6 +37,7 @@ struct IndexDefinition {
     bool unique = true;
 };
 
+/// A table with its fields and indexes.
 struct TableDefinition {
     QString name;
     QVector<FieldDefinition> fields;
