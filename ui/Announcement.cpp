@@ -40,7 +40,7 @@ public:
     }
 };
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
+QAccessibleInterface* makeNoticeInterface(const QString& /*className*/, QObject* object)
 {
     return dynamic_cast<Announcement*>(object) ? new AnnouncementInterface(object) : nullptr;
 }
@@ -61,7 +61,7 @@ void announce(QWidget& place, const QString& text)
 {
     if (text.isEmpty() || !QAccessible::isActive())
         return;
-    QAccessible::installFactory(makeInterface); // the toolkit takes the same function only once
+    QAccessible::installFactory(makeNoticeInterface); // the toolkit takes the same function only once
     Announcement& announcement = announcementOf(place);
     announcement.text = text;
     QAccessibleEvent event(&announcement, QAccessible::ObjectShow);
