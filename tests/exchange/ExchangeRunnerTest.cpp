@@ -232,8 +232,8 @@ constexpr struct {
     {{0, 2}, "File=67\nResult=12", "stopped at file 67: result 12: Machine Busy; still to do: PLU, Group"},
     {{0}, "File=67\nResult=77", "stopped at file 67: result 77: unknown; still to do: PLU"},
     {{2}, "File=1\nCrash=1", "stopped at file 1: answered No; still to do: Group"},
-    {{2}, "File=1\nStatus=garbage", "stopped at file 1: failure 13: status.out holds "},
-    {{2}, "Status=none", "stopped at the opening exchange: failure 13: status.out holds "},
+    {{2}, "File=1\nStatus=garbage", "stopped at file 1: failure 13: status.out contains "},
+    {{2}, "Status=none", "stopped at the opening exchange: failure 13: status.out contains "},
     {{2}, "File=2", "complete"},
 };
 

@@ -155,7 +155,8 @@ TEST_F(FormsInFrameTest, ADesignerBesideTheMenuIsAskedBeforeTheEnd)
     EXPECT_TRUE(m_main->isVisible());
     m_main->unload();
     EXPECT_TRUE(m_main->isVisible());
-    m_boxes.answers = {true, true};
+    m_boxes.unsavedAnswers = {UnsavedAnswer::Discard};
+    m_boxes.answers = {true};
     m_main->close();
     EXPECT_FALSE(m_main->isVisible());
     QStringList titles;
