@@ -9,11 +9,11 @@ namespace norvane::link
 ChildResult runTool(const RunOutside& outside, const QString& commandLine)
 {
     const ChildResult result = outside.runAndWait(commandLine);
-    const QString tool = commandWords(commandLine).value(0);
+    const QString program = commandWords(commandLine).value(0);
     if (result == ChildResult::Crashed) {
-        outside.showNotice(u"The program %1 crashed."_s.arg(tool));
+        outside.showNotice(u"The program %1 crashed."_s.arg(program));
     } else if (result != ChildResult::Ended) {
-        outside.showNotice(u"The program %1 was not found."_s.arg(tool));
+        outside.showNotice(u"The program %1 was not found."_s.arg(program));
     }
     return result;
 }
