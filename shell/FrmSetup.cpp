@@ -5,6 +5,7 @@
 #include "platform/ProfileFile.h"
 #include "shell/MainStatusBar.h"
 #include "ui/Appearance.h"
+#include "ui/FittingArea.h"
 #include "ui/FormKit.h"
 
 #include <QComboBox>
@@ -28,6 +29,8 @@ namespace
 
 constexpr int controlWidth = 200;
 constexpr int labelWidth = 100;
+/// What is above and below the settings, in device-independent pixels: the program's bars and the buttons.
+constexpr int aboveAndBelow = 200;
 
 bool hasList(const Setting& setting)
 {
@@ -78,8 +81,13 @@ FrmSetup::FrmSetup(const ApplicationValues& values, MainStatusBar& status, QWidg
 void FrmSetup::layOut()
 {
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
-    column->addWidget(makeFrame(u"PC Setup"_s, true));
-    column->addWidget(makeFrame(u"Modem Settings"_s, false));
+    auto* const frames = new QWidget;
+    auto* const below = new QVBoxLayout(frames);
+    below->setContentsMargins({});
+    below->setSpacing(ui::spacing::groupGap);
+    below->addWidget(makeFrame(u"PC Setup"_s, true));
+    below->addWidget(makeFrame(u"Modem Settings"_s, false));
+    column->addWidget(new ui::FittingArea(frames, aboveAndBelow));
     column->addLayout(makeButtons());
 }
 
