@@ -31,9 +31,10 @@ std::optional<reports::CsvSigns> chosenSigns(const Invocation& words)
     const auto* const word = std::ranges::find_if(separatorWords, [&](const SeparatorWord& each) {
         return given == each.word || given == QLatin1Char(each.signs.separator);
     });
-    if (word == separatorWords.end())
+    if (word == separatorWords.end()) {
         throw CommandError(ExitCode::Usage,
                            u"--separator is comma, semicolon or tab, not \"%1\"."_s.arg(given));
+    }
     return word->signs;
 }
 

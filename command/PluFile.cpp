@@ -175,10 +175,11 @@ void PluFile::markDoubles()
     for (const std::uint32_t index : m_byNumber) {
         PluLine& line = m_lines[index];
         line.isTaken = first != nullptr && first->number == line.number;
-        if (line.isTaken)
+        if (line.isTaken) {
             add(line.line, numberColumn().heading, u"line %1 already has this number"_s.arg(first->line));
-        else
+        } else {
             first = &line;
+        }
     }
 }
 

@@ -238,9 +238,10 @@ private:
                           const std::optional<Decimal>& number)
     {
         const bool isPrice = column.content == PluContent::Price;
-        if (!number)
+        if (!number) {
             return (isPrice ? u"\"%1\" is not a price"_s : u"\"%1\" is not a number"_s)
                 .arg(excerptOfUtf8(cell));
+        }
         if (m_file.decimalSign().leavesOpen(cell))
             return readingsOf(column, cell, *number);
         if (isPrice)

@@ -12,7 +12,7 @@ namespace norvane::overlay
 
 /// The cells of a key for the clipboard; other programs see their texts. The caller owns it.
 [[nodiscard]] QMimeData* keyToMime(const std::vector<Cell>& cells);
-/// @return nothing if there is no key, or a damaged one.
+/// @return an empty list if the clipboard has no key or a damaged one.
 [[nodiscard]] std::vector<Cell> keyFromMime(const QMimeData& mime);
 
 } // namespace norvane::overlay

@@ -61,7 +61,7 @@ public:
         if (QFileInfo(typed).isDir()) {
             QFileDialog::accept();
         } else if (!m_path.isEmpty()) {
-            QDialog::accept();
+            QDialog::accept(); // the base would refuse the typed name. NOLINT(bugprone-parent-virtual-call)
         } else {
             QMessageBox::warning(this, windowTitle(),
                                  u"There is no file %1 in this folder."_s.arg(QFileInfo(typed).fileName()));

@@ -24,7 +24,7 @@ inline constexpr int exponentLimit = 9999;
 
 /// The number at the start of @p text, leading blanks not allowed. The exponent letter is E or D and must be
 /// followed by digits.
-/// @return nothing if there is no digit.
+/// @return std::nullopt if @p text does not begin with a number.
 [[nodiscard]] std::optional<ScannedNumber> scanNumber(std::string_view text);
 
 /// The number that is all of @p text, white space around it allowed.

@@ -199,7 +199,7 @@ void importText(const RegisterFile& file, store::Database& database, ImportCount
 {
     store::Recordset records = database.openTable(QLatin1String(file.table));
     records.setIndex(QLatin1String(file.index));
-    // The table is emptied before the text is opened: if there is no text, it remains empty.
+    // The table is emptied before the text file is opened, so it stays empty if that file is missing.
     if (file.upload == Upload::ReplacesTable)
         counts.former = database.execute(u"delete * from %1"_s.arg(QLatin1String(file.table)));
     const QByteArray content = readWholeFile(textName(file));

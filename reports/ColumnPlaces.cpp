@@ -98,9 +98,10 @@ double widestValue(const ReportData& report, int column, const PageText& text)
         shown.kind == ColumnKind::Text ? std::min(leastTextWidth, shown.width.inMillimetres()) : 0;
     for (qsizetype line = 0; line < report.lineCount(); ++line) {
         const LineKind kind = report.lineKind(line);
-        if (kind != LineKind::GroupHeading)
+        if (kind != LineKind::GroupHeading) {
             widest = std::max(widest,
                               std::visit(kind == LineKind::Detail ? plain : bold, report.cell(line, column)));
+        }
     }
     return widest;
 }

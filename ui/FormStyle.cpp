@@ -219,9 +219,10 @@ void FormStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
             paintFocus(*painter, option->rect, option->palette);
     } else {
         drawBase(*option);
-        if (control == CC_ScrollBar && isHighContrast())
+        if (control == CC_ScrollBar && isHighContrast()) {
             painter->fillRect(placeOf(SC_ScrollBarSlider).adjusted(2, 2, -2, -2),
                               option->palette.color(QPalette::WindowText));
+        }
     }
 }
 

@@ -22,9 +22,10 @@ QString shownIn(const QObject* control)
         return page->toPlainText();
     if (const auto* const spin = qobject_cast<const QDoubleSpinBox*>(control))
         return spin->cleanText();
-    if (const auto* const list = qobject_cast<const QComboBox*>(control))
+    if (const auto* const list = qobject_cast<const QComboBox*>(control)) {
         return list->currentIndex() < 0 && !list->isEditable() ? list->placeholderText()
                                                                : list->currentText();
+    }
     return {};
 }
 
@@ -103,10 +104,11 @@ private:
 
     void check(bool holds, QAccessibleInterface& control, const QString& fault)
     {
-        if (!holds)
+        if (!holds) {
             m_faults += u"%1 \"%2\" (%3) %4"_s.arg(QLatin1String(qAccessibleRoleString(control.role())),
                                                    control.text(QAccessible::Name),
                                                    control.object()->objectName(), fault);
+        }
     }
 
     QSet<std::pair<int, QString>> m_names;

@@ -51,7 +51,7 @@ class OwnLayout : public testing::Test
 {
 protected:
     /// The value of a column of numbers, a line each for the records that the shop has.
-    [[nodiscard]] std::string reckoned(const QByteArray& value, const char* format = "0.###") const
+    [[nodiscard]] std::string computed(const QByteArray& value, const char* format = "0.###") const
     {
         shop.folder().write("own.rpt",
                             QByteArray("[Report]\r\nTitle=Own\r\nTable=GROUPSALES\r\nEmptyRecords=YES\r\n"
@@ -77,24 +77,24 @@ TEST_F(OwnLayout, ReckonsInDecimal)
         {"{QUANTITY} / total({QUANTITY}) * 100", "-75\n0\n175"},
     };
     for (const auto& [value, lines] : values) {
-        const std::string all = reckoned(value);
+        const std::string all = computed(value);
         EXPECT_EQ(all.substr(0, all.rfind("\n# ")), lines) << value;
     }
-    EXPECT_EQ(reckoned("{VALUE}", "0.00"), "0.10\n0.20\n123,456,789,012,345.00\n# 123,456,789,012,345.30");
+    EXPECT_EQ(computed("{VALUE}", "0.00"), "0.10\n0.20\n123,456,789,012,345.00\n# 123,456,789,012,345.30");
 }
 
 /// Totals of more digits than a number holds: what is cut off still tells a half from a little more.
 TEST_F(OwnLayout, RoundsWithAllDigitsOfALongTotal)
 {
     shop.add("GROUPSALES", "ID|SALESDATE|VALUE", {"1|2026-11-25|0.125", "2|2026-11-25|4e-19"});
-    EXPECT_EQ(reckoned("1 - total({VALUE})", "0.00"), "0.87\n0.87\n# 0.87");
+    EXPECT_EQ(computed("1 - total({VALUE})", "0.00"), "0.87\n0.87\n# 0.87");
     shop.add("GROUPSALES", "ID|SALESDATE|VALUE", {"3|2026-11-25|12345678901234000", "4|2026-11-25|567.4"});
-    EXPECT_EQ(reckoned("12345678901234568 - total({VALUE})", "0"), "0\n0\n0\n0\n# 0");
+    EXPECT_EQ(computed("12345678901234568 - total({VALUE})", "0"), "0\n0\n0\n0\n# 0");
     // Sums that a number does not hold keep their digits; what cannot be calculated from them says so.
     shop.add("GROUPSALES", "ID|SALESDATE|VALUE", {"5|2026-11-25|-2e20", "6|2026-11-25|1e50"});
-    EXPECT_EQ(reckoned("{VALUE}", "0.00"), "0.13\n0.00\n12,345,678,901,234,000.00\n567.40\n-200,000,000,000,"
+    EXPECT_EQ(computed("{VALUE}", "0.00"), "0.13\n0.00\n12,345,678,901,234,000.00\n567.40\n-200,000,000,000,"
                                            "000,000,000.00\ntoo long\n# too long");
-    EXPECT_EQ(reckoned("{VALUE} / 2 * {ID}", "0"),
+    EXPECT_EQ(computed("{VALUE} / 2 * {ID}", "0"),
               "0\n0\n18518518351851000\n1135\ntoo long\ntoo long\n# too long");
     shop.folder().write("chart.rpt",
                         readWholeFile(shop.folder().path("own.rpt")) +

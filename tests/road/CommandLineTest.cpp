@@ -207,10 +207,11 @@ TEST_P(CommandLineOfOneShop, AnswersAQuestionBeforeALossByItsOption)
     };
     expectDone({u"fetch"_s, shopName, u"plu"_s});
     const qint64 plus = m_shop.rowsOf("PLUDATA");
-    for (const char* const prefix : {"a", "b"})
+    for (const char* const prefix : {"a", "b"}) {
         m_shop.execute(QByteArray("insert into PLUDATA (PLUNUMBER) select '")
                            .append(prefix)
                            .append("' & PLUNUMBER from PLUDATA"));
+    }
     expectAnswers({u"fetch"_s, shopName, u"plu"_s}, u"--accept-fewer"_s);
     EXPECT_EQ(m_shop.rowsOf("PLUDATA"), plus);
 
