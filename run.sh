@@ -2,7 +2,7 @@
 # Installs what is missing, builds the program, stages it with a demo bank of three registers and a customer to look
 # at, and starts it.
 #   --no-start   stop before the start
-#   --fresh      make the program folder (customers included) and the bank anew
+#   --fresh      remake the program folder (customers included) and the bank
 set -euo pipefail
 cd "$(dirname "$0")"
 

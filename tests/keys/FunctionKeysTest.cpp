@@ -28,7 +28,7 @@ QString textOf(const Decimal& value)
     return QString::fromStdString(value.text());
 }
 
-QStringList parted(const QString& text, QChar separator)
+QStringList splitAt(const QString& text, QChar separator)
 {
     QStringList parts = text.split(separator);
     for (QString& part : parts)
@@ -53,9 +53,9 @@ struct ListedKey {
 
 void addCaptions(const QString& line, KeyControls& page)
 {
-    for (const QString& number : parted(line.section(u'|', 1, 1), u';'))
+    for (const QString& number : splitAt(line.section(u'|', 1, 1), u';'))
         numberOf(page, number.section(u' ', 0, 0)) = {true, number.section(u' ', 1), {}, {}};
-    for (const QString& box : parted(line.section(u'|', 2), u';')) {
+    for (const QString& box : splitAt(line.section(u'|', 2), u';')) {
         for (int tax = 0; box == "tax"_L1 && tax < 6; ++tax)
             page.Check1[tax] = {true, u"Exempt Tax%1"_s.arg(tax + 1), false};
         if (box != "tax"_L1)
@@ -65,7 +65,7 @@ void addCaptions(const QString& line, KeyControls& page)
 
 void add(const QString& section, const QString& line, const QString& model, ListedKey& key)
 {
-    const QStringList cells = parted(line, u'|');
+    const QStringList cells = splitAt(line, u'|');
     if (section == "[keys]"_L1) {
         addCaptions(line, key.page);
     } else if (section == "[models]"_L1 && !cells[2].contains(model)) {
@@ -90,7 +90,7 @@ QMap<int, ListedKey> listedKeys(int model)
             section = line;
         if (line.startsWith(u'[') || line.startsWith(u';'))
             continue;
-        for (const QString& range : parted(line.section(u'|', 0, 0), u',')) {
+        for (const QString& range : splitAt(line.section(u'|', 0, 0), u',')) {
             for (int id = range.section(u'-', 0, 0).toInt(); id <= range.section(u'-', -1).toInt(); ++id)
                 add(section, line, QString::number(model), keys[id]);
         }
