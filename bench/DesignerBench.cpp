@@ -4,9 +4,9 @@
 #include "overlay/LevelImport.h"
 #include "overlay/OverlayForm.h"
 #include "overlay/SystemDialogs.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 #include "tests/support/RecordingBoxes.h"
 #include "ui/Appearance.h"
 

@@ -4,8 +4,8 @@
 #include "bench/Ratio.h"
 #include "customers/SafetyCopies.h"
 #include "exchange/ExchangeRunner.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 #include "tests/support/ProgramFolder.h"
 #include "tests/support/RecordingBoxes.h"
 

@@ -1,8 +1,8 @@
 // Opening the editor of the function keys on a whole register, and going from key to key in it.
 #include "bench/Ratio.h"
-#include "keys/FrmFunctKey.h"
+#include "keys/functions/FrmFunctKey.h"
 #include "keys/RecordPicker.h"
-#include "store/Catalogue.h"
+#include "store/catalogue/Catalogue.h"
 #include "ui/Appearance.h"
 #include "ui/MessageBoxes.h"
 

@@ -1,12 +1,12 @@
 // The editors of keyboards and look-ups over 100,000 PLUs and full keyboards: their own time for what users
 // wait for, and a save of a level beside a bare loop that updates the same rows.
 #include "bench/BareDatabase.h"
-#include "keys/frmwlu.h"
-#include "keys/KeyLayout.h"
-#include "keys/KeyLevel.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "keys/layout/KeyLayout.h"
+#include "keys/layout/KeyLevel.h"
+#include "keys/lookups/frmwlu.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 #include "ui/Appearance.h"
 #include "ui/MessageBoxes.h"
 

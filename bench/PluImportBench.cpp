@@ -5,7 +5,7 @@
 #include "bench/BareDatabase.h"
 #include "bench/Memory.h"
 #include "command/PluImport.h"
-#include "store/Catalogue.h"
+#include "store/catalogue/Catalogue.h"
 
 #include <benchmark/benchmark.h>
 #include <QFile>

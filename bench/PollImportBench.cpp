@@ -2,8 +2,8 @@
 // commas, converts and binds into one prepared insert.
 #include "bench/BareDatabase.h"
 #include "sales/PollImport.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
 
 #include <benchmark/benchmark.h>
 #include <QTemporaryDir>

@@ -3,8 +3,8 @@
 #include "bench/BareDatabase.h"
 #include "shell/FrmMain.h"
 #include "shell/LongWork.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
 #include "tests/support/RecordingBoxes.h"
 #include "utilities/PriceUtilities.h"
 

@@ -5,9 +5,9 @@
 #include "bench/Ratio.h"
 #include "chain/ChainSchema.h"
 #include "chain/Publisher.h"
-#include "store/Catalogue.h"
-#include "store/Recordset.h"
-#include "store/RowAppend.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Recordset.h"
+#include "store/sales/RowAppend.h"
 #include "tests/support/PostgresServer.h"
 
 #include <QCoreApplication>

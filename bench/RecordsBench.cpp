@@ -4,8 +4,8 @@
 #include "bench/Memory.h"
 #include "platform/RuntimeFailure.h"
 #include "records/FileProcedures.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
 #include "tests/support/RecordingBoxes.h"
 
 #include <benchmark/benchmark.h>

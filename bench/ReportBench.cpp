@@ -2,10 +2,10 @@
 // collects every day. A run makes two years of sales; NORVANE_SALES_YEARS=10 makes ten, in some minutes and
 // three gigabytes of the temporary folder.
 #include "bench/BareDatabase.h"
-#include "reports/ReportRun.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
-#include "store/MonthTotals.h"
+#include "reports/lines/ReportRun.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
+#include "store/sales/MonthTotals.h"
 
 #include <benchmark/benchmark.h>
 #include <QTemporaryDir>

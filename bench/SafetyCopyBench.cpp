@@ -2,8 +2,8 @@
 // NORVANE_SALES_YEARS=10 makes ten years, in some minutes and six gigabytes of the temporary folder.
 #include "bench/BareDatabase.h"
 #include "customers/SafetyCopies.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
 
 #include <benchmark/benchmark.h>
 #include <QDir>

@@ -2,11 +2,11 @@
 // week, a month and a year, beside what a bare statement takes. A run makes one year; NORVANE_SALES_YEARS=10
 // makes them all, in some minutes and five gigabytes of the temporary folder. Times are processor times.
 #include "bench/BareDatabase.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
-#include "store/MonthTotals.h"
-#include "store/Recordset.h"
-#include "store/RowAppend.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
+#include "store/sales/MonthTotals.h"
+#include "store/sales/RowAppend.h"
 
 #include <benchmark/benchmark.h>
 #include <QFileInfo>

@@ -1,9 +1,9 @@
 // Finding and walking among 100,000 PLUs, beside a prepared select.
 #include "bench/Ratio.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
-#include "store/DatabaseCheck.h"
-#include "store/Recordset.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/catalogue/DatabaseCheck.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <QFile>
 #include <QFileInfo>

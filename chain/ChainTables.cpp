@@ -1,8 +1,8 @@
 // The tables of what is published; see ChainTables.h.
 #include "chain/ChainTables.h"
 
-#include "store/Catalogue.h"
-#include "store/SalesTables.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/catalogue/SalesTables.h"
 
 #include <array>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "chain/ChainShop.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QStringList>
 

@@ -4,7 +4,7 @@
 #include "chain/ChainTables.h"
 #include "chain/SourceRows.h"
 #include "platform/RuntimeFailure.h"
-#include "store/DayDigests.h"
+#include "store/sales/DayDigests.h"
 
 #include <QCryptographicHash>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "chain/Server.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QDate>
 #include <QList>

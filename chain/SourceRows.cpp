@@ -3,8 +3,8 @@
 
 #include "platform/Decimal.h"
 #include "platform/RuntimeFailure.h"
-#include "store/BoundQuery.h"
-#include "store/SalesTables.h"
+#include "store/catalogue/SalesTables.h"
+#include "store/engine/BoundQuery.h"
 
 #include <QCryptographicHash>
 

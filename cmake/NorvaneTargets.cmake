@@ -22,7 +22,7 @@ endif()
 
 # norvane_library(<name> [MOC] SOURCES <files> [LINKS <libraries that callers see too>])
 # MOC: a class in it has Q_OBJECT. Without it the linker misses that class's virtual table.
-# Headers are included by their folder ("store/Database.h"); what may be called is what is linked.
+# Headers are included by their folder ("store/engine/Database.h"); what may be called is what is linked.
 function(norvane_library name)
   cmake_parse_arguments(ARG "MOC" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "command/Invocation.h"
-#include "reports/ReportFiles.h"
+#include "reports/files/ReportFiles.h"
 
 #include <optional>
 

@@ -9,9 +9,9 @@
 #include "customers/SetupModel.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
-#include "store/BoundQuery.h"
-#include "store/Catalogue.h"
-#include "store/SalesTables.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/catalogue/SalesTables.h"
+#include "store/engine/BoundQuery.h"
 
 #include <QDir>
 #include <QFileInfo>

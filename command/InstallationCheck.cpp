@@ -3,11 +3,11 @@
 
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
-#include "reports/ReportRun.h"
+#include "reports/lines/ReportRun.h"
 #include "screens/ScreenReader.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <QDir>
 #include <QTemporaryDir>

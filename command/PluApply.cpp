@@ -2,8 +2,8 @@
 #include "command/PluImport.h"
 #include "command/StopSignals.h"
 #include "platform/RuntimeFailure.h"
-#include "store/AllOrNothing.h"
-#include "store/Recordset.h"
+#include "store/engine/AllOrNothing.h"
+#include "store/engine/Recordset.h"
 
 #include <utility>
 

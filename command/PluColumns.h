@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/Decimal.h"
-#include "store/Value.h"
+#include "store/engine/Value.h"
 
 #include <QLatin1StringView>
 #include <QString>

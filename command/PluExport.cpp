@@ -2,8 +2,8 @@
 #include "command/PluExport.h"
 
 #include "command/PluColumns.h"
-#include "store/Recordset.h"
-#include "store/RecordTexts.h"
+#include "store/engine/Recordset.h"
+#include "store/engine/RecordTexts.h"
 
 #include <algorithm>
 

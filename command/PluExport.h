@@ -1,8 +1,8 @@
 // All PLUs of a customer as lines for a spreadsheet.
 #pragma once
 
-#include "reports/ReportData.h"
-#include "store/Database.h"
+#include "reports/lines/ReportData.h"
+#include "store/engine/Database.h"
 
 namespace norvane::command
 {

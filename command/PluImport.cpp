@@ -5,8 +5,8 @@
 #include "platform/Excerpt.h"
 #include "platform/TextFields.h"
 #include "platform/Windows1252.h"
-#include "reports/FormulaGuard.h"
-#include "store/Recordset.h"
+#include "reports/files/FormulaGuard.h"
+#include "store/engine/Recordset.h"
 
 #include <algorithm>
 #include <map>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "command/PluFile.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QByteArray>
 

@@ -9,8 +9,8 @@
 #include "customers/CustomerLog.h"
 #include "customers/RunLock.h"
 #include "customers/SafetyCopies.h"
-#include "reports/ReportFiles.h"
-#include "store/RecordTexts.h"
+#include "reports/files/ReportFiles.h"
+#include "store/engine/RecordTexts.h"
 
 #include <QFile>
 #include <QFileInfo>

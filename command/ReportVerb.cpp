@@ -4,7 +4,8 @@
 #include "command/ReportPeriods.h"
 #include "command/Verbs.h"
 #include "platform/FilePaths.h"
-#include "reports/ReportFiles.h"
+#include "reports/files/ReportFiles.h"
+#include "reports/lines/ReportRun.h"
 
 #include <algorithm>
 #include <array>

@@ -9,7 +9,7 @@
 #include "customers/SafetyCopies.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -5,10 +5,10 @@
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/TextFields.h"
-#include "store/Database.h"
-#include "store/DatabaseCheck.h"
-#include "store/Recordset.h"
-#include "store/Upgrade.h"
+#include "store/catalogue/DatabaseCheck.h"
+#include "store/catalogue/Upgrade.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <QDir>
 #include <QFile>

@@ -7,8 +7,8 @@
 #include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
-#include "store/DatabaseCheck.h"
-#include "store/SalesTables.h"
+#include "store/catalogue/DatabaseCheck.h"
+#include "store/catalogue/SalesTables.h"
 
 #include <QDir>
 #include <QFileInfo>

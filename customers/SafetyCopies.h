@@ -3,7 +3,7 @@
 
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "store/DatabaseCopy.h"
+#include "store/catalogue/DatabaseCopy.h"
 
 #include <QDateTime>
 #include <QList>

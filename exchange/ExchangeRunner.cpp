@@ -14,8 +14,8 @@
 #include "link/RunNotes.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <QFileInfo>
 

@@ -7,8 +7,8 @@
 #include "platform/TextValues.h"
 #include "records/ImportTransaction.h"
 #include "records/RecordText.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <array>
 #include <string>

@@ -4,8 +4,8 @@
 #include "base/LossQuestion.h"
 #include "customers/DataOwner.h"
 #include "link/RunNotes.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <QScopeGuard>
 

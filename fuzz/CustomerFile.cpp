@@ -2,7 +2,7 @@
 #include "fuzz/CustomerFile.h"
 
 #include "fuzz/Target.h"
-#include "store/Catalogue.h"
+#include "store/catalogue/Catalogue.h"
 
 #include <map>
 

@@ -3,7 +3,7 @@
 
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <functional>
 

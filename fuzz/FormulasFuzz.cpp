@@ -2,10 +2,10 @@
 // expression, then the formula. What the parser takes, the database must run and the calculation must end.
 #include "fuzz/CustomerFile.h"
 #include "fuzz/Target.h"
-#include "reports/Expression.h"
-#include "reports/SelectionFormula.h"
-#include "store/BoundQuery.h"
-#include "store/Catalogue.h"
+#include "reports/formula/Expression.h"
+#include "reports/formula/SelectionFormula.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/BoundQuery.h"
 
 #include <QDate>
 

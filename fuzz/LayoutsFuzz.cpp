@@ -1,9 +1,9 @@
 // Report files. Input: the file. What the reader takes is run on a customer with a few records.
 #include "fuzz/CustomerFile.h"
 #include "fuzz/Target.h"
-#include "reports/LayoutReader.h"
-#include "reports/ReportRun.h"
-#include "store/Recordset.h"
+#include "reports/lines/LayoutReader.h"
+#include "reports/lines/ReportRun.h"
+#include "store/engine/Recordset.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::string_literals;

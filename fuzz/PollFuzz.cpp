@@ -2,7 +2,7 @@
 #include "fuzz/CustomerFile.h"
 #include "fuzz/Target.h"
 #include "sales/PollImport.h"
-#include "store/Recordset.h"
+#include "store/engine/Recordset.h"
 
 #include <array>
 

@@ -8,7 +8,7 @@
 #include "records/RecordText.h"
 #include "records/RecordWriter.h"
 #include "records/RegisterFiles.h"
-#include "store/Recordset.h"
+#include "store/engine/Recordset.h"
 
 #include <map>
 

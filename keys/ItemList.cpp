@@ -19,7 +19,7 @@ ItemList makeItemList(const ItemList::Names& names, const std::shared_ptr<store:
     const ItemTable& items = itemTable(names.kind);
     auto* const option = new QRadioButton(names.caption, parent);
     ui::nameControl(*option, names.option);
-    auto* const model = new store::RecordListModel(
+    auto* const model = new ui::RecordListModel(
         database, {items.table, u"primarykey"_s, items.number, u"DESCRIPTION"_s}, parent);
     QTableView* const view = ui::makeListTable(names.list, ui::spokenName(*option), model, parent);
     option->hide();

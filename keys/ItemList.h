@@ -2,7 +2,7 @@
 #pragma once
 
 #include "keys/KeyItems.h"
-#include "store/RecordListModel.h"
+#include "ui/RecordListModel.h"
 
 #include <memory>
 
@@ -27,7 +27,7 @@ struct ItemList {
     ItemKind kind = ItemKind::Function;
     QRadioButton* option = nullptr;
     QTableView* view = nullptr;
-    store::RecordListModel* model = nullptr;
+    ui::RecordListModel* model = nullptr;
 
     /// Reads the table when the list is first shown: a long one takes its time.
     void readIfNew() const;

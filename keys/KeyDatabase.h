@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 // See KeyItems.h.
 #include "keys/KeyItems.h"
 
-#include "store/Database.h"
-#include "store/RecordTexts.h"
+#include "store/engine/Database.h"
+#include "store/engine/RecordTexts.h"
 
 using namespace Qt::Literals::StringLiterals;
 

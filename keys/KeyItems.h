@@ -1,7 +1,7 @@
 // What keys can do: the functions, PLUs and window look-ups of the customer, and how a key shows them.
 #pragma once
 
-#include "store/Recordset.h"
+#include "store/engine/Recordset.h"
 
 #include <QLatin1StringView>
 #include <QString>

@@ -1,7 +1,7 @@
 // One query over both tables of the keyboard; see KeyPlaces.h.
 #include "keys/KeyPlaces.h"
 
-#include "store/BoundQuery.h"
+#include "store/engine/BoundQuery.h"
 
 #include <QStringList>
 

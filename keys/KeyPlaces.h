@@ -2,7 +2,7 @@
 #pragma once
 
 #include "keys/KeyGeometry.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QString>
 

@@ -3,8 +3,8 @@
 
 #include "overlay/OverlayText.h"
 #include "platform/RuntimeFailure.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <algorithm>
 #include <utility>

@@ -12,7 +12,7 @@
 #include "records/RecordReader.h"
 #include "records/RecordWriter.h"
 #include "records/RegisterFiles.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QFile>
 #include <QScopeGuard>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/Boxes.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <functional>
 

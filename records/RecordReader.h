@@ -2,7 +2,7 @@
 #pragma once
 
 #include "records/RecordLayout.h"
-#include "store/Recordset.h"
+#include "store/engine/Recordset.h"
 
 #include <cstdint>
 #include <string>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
-#include "reports/Report.h"
+#include "reports/window/Report.h"
 #include "sales/ReportEntries.h"
 
 #include <QDialog>

@@ -3,9 +3,9 @@
 
 #include "link/RunNotes.h"
 #include "platform/FilePaths.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
-#include "store/SalesTables.h"
+#include "store/catalogue/SalesTables.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <QCryptographicHash>
 

@@ -9,11 +9,11 @@
 #include "platform/TextValues.h"
 #include "records/RecordText.h"
 #include "sales/PollStamp.h"
-#include "store/Database.h"
-#include "store/MonthTotals.h"
-#include "store/Recordset.h"
-#include "store/RowAppend.h"
-#include "store/SalesTables.h"
+#include "store/catalogue/SalesTables.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
+#include "store/sales/MonthTotals.h"
+#include "store/sales/RowAppend.h"
 
 #include <algorithm>
 #include <array>

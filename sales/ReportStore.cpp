@@ -7,7 +7,7 @@
 #include "records/ImportTransaction.h"
 #include "sales/LastCollection.h"
 #include "sales/PollImport.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <algorithm>
 

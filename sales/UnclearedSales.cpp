@@ -4,7 +4,7 @@
 #include "base/CustomerSettings.h"
 #include "link/ResultCodes.h"
 #include "platform/ShownTime.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 using namespace Qt::Literals::StringLiterals;
 

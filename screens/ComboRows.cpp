@@ -2,7 +2,7 @@
 #include "screens/ComboRows.h"
 
 #include "platform/RuntimeFailure.h"
-#include "store/Recordset.h"
+#include "store/engine/Recordset.h"
 
 using namespace Qt::Literals::StringLiterals;
 

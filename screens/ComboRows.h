@@ -1,7 +1,7 @@
 // Rows of a drop-down list of a screen.
 #pragma once
 
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QStringList>
 #include <QVector>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "screens/ScreenDefinition.h"
-#include "store/Value.h"
+#include "store/engine/Value.h"
 
 class QWidget;
 

@@ -1,7 +1,7 @@
 // What a screen asks and says when a record is sought.
 #pragma once
 
-#include "store/Definitions.h"
+#include "store/engine/Definitions.h"
 
 #include <QString>
 

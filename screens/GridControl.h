@@ -2,7 +2,7 @@
 #pragma once
 
 #include "screens/ScreenDefinition.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QTableView>
 

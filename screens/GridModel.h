@@ -2,9 +2,9 @@
 #pragma once
 
 #include "screens/ScreenDefinition.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
-#include "store/RecordTexts.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
+#include "store/engine/RecordTexts.h"
 
 #include <QAbstractTableModel>
 

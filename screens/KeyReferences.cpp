@@ -1,7 +1,7 @@
 // See KeyReferences.h.
 #include "screens/KeyReferences.h"
 
-#include "store/BoundQuery.h"
+#include "store/engine/BoundQuery.h"
 
 #include <QStringList>
 

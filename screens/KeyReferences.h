@@ -1,8 +1,8 @@
 // Which records refer to a record of a table by its number.
 #pragma once
 
-#include "store/Database.h"
-#include "store/Value.h"
+#include "store/engine/Database.h"
+#include "store/engine/Value.h"
 
 #include <QString>
 

@@ -10,7 +10,7 @@
 #include "screens/ScreenReader.h"
 #include "screens/SideRoom.h"
 #include "screens/TypedChanges.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QWidget>
 

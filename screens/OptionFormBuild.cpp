@@ -172,8 +172,8 @@ void OptionForm::buildList()
     if (!told.next && !told.previous)
         return;
     const ScreenTable table = m_file.table();
-    const store::RecordListSource source{table.table, table.firstIndex, m_editor->searchedField(1).name,
-                                         textField()};
+    const ui::RecordListSource source{table.table, table.firstIndex, m_editor->searchedField(1).name,
+                                      textField()};
     m_list = new RecordList(m_database, source, this);
     m_size.rwidth() += m_list->handleWidth();
     connect(m_list, &RecordList::chosen, this, [this](const QString& key) { attempt([&] { goTo(key); }); });

@@ -3,8 +3,8 @@
 
 #include "platform/RuntimeFailure.h"
 #include "screens/ScreenDefinition.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <memory>
 #include <optional>

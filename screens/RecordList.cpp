@@ -39,15 +39,15 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        option->font.setBold(index.data(store::RecordListModel::MarkedRole).toBool());
+        option->font.setBold(index.data(ui::RecordListModel::MarkedRole).toBool());
     }
 };
 
 } // namespace
 
-RecordList::RecordList(const std::shared_ptr<store::Database>& database,
-                       const store::RecordListSource& source, QWidget* parent)
-    : QWidget(parent), m_model(new store::RecordListModel(database, source, this)),
+RecordList::RecordList(const std::shared_ptr<store::Database>& database, const ui::RecordListSource& source,
+                       QWidget* parent)
+    : QWidget(parent), m_model(new ui::RecordListModel(database, source, this)),
       m_handle(new QToolButton(this))
 {
     ui::nameControl(*this, u"RecordList"_s);

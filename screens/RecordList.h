@@ -1,7 +1,7 @@
 // The side list of a screen, by which a record is found by any part of its number or text.
 #pragma once
 
-#include "store/RecordListModel.h"
+#include "ui/RecordListModel.h"
 
 #include <QWidget>
 
@@ -24,7 +24,7 @@ class RecordList : public QWidget
     Q_OBJECT
 
 public:
-    RecordList(const std::shared_ptr<store::Database>& database, const store::RecordListSource& source,
+    RecordList(const std::shared_ptr<store::Database>& database, const ui::RecordListSource& source,
                QWidget* parent);
 
     /// Opens the list with the keyboard in its box, or closes it.
@@ -56,7 +56,7 @@ private:
     void fitNumbers();
     void choose(const QModelIndex& index);
 
-    store::RecordListModel* m_model;
+    ui::RecordListModel* m_model;
     QToolButton* m_handle;
     QWidget* m_panel = nullptr; ///< with all that follows, nullptr before the list is opened
     ui::FilterBox* m_filter = nullptr;

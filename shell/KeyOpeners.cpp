@@ -1,9 +1,9 @@
 // The key editors as a table, and how each of them opens; see KeyOpeners.h.
 #include "shell/KeyOpeners.h"
 
-#include "keys/FrmFunctKey.h"
-#include "keys/frmwlu.h"
-#include "keys/KeyLayout.h"
+#include "keys/functions/FrmFunctKey.h"
+#include "keys/layout/KeyLayout.h"
+#include "keys/lookups/frmwlu.h"
 #include "platform/FailureBox.h"
 #include "shell/MainStatusBar.h"
 

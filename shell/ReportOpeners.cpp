@@ -2,7 +2,7 @@
 #include "shell/ReportOpeners.h"
 
 #include "base/CustomerSettings.h"
-#include "reports/Report.h"
+#include "reports/window/Report.h"
 #include "sales/Frmreports.h"
 
 #include <algorithm>

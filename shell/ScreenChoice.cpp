@@ -4,8 +4,8 @@
 #include "base/CustomerSettings.h"
 #include "base/SharedRoutines.h"
 #include "platform/FailurePlace.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <algorithm>
 #include <array>

@@ -5,7 +5,7 @@
 #include "shell/FrmCustomer.h"
 #include "shell/FrmMain.h"
 #include "shell/frmSplash.h"
-#include "store/Upgrade.h"
+#include "store/catalogue/Upgrade.h"
 #include "ui/Appearance.h"
 
 #include <QCoreApplication>

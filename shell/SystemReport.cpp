@@ -5,7 +5,7 @@
 #include "customers/SetupModel.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -9,7 +9,7 @@
 #include "customers/SafetyCopies.h"
 #include "platform/Excerpt.h"
 #include "platform/RuntimeFailure.h"
-#include "store/SalesTables.h"
+#include "store/catalogue/SalesTables.h"
 #include "utilities/PriceConversion.h"
 
 #include <QFileInfo>

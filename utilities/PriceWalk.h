@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/Decimal.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <QLatin1StringView>
 

@@ -9,7 +9,7 @@
 #include "platform/FolderLock.h"
 #include "sales/PollImport.h"
 #include "scripts/demoshop/TillDays.h"
-#include "store/Database.h"
+#include "store/engine/Database.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 struct Target {
     bool library = false;
     QString name;
-    QString folder;    ///< of the source root, the first part of its path alone; empty outside of it
+    QString folder;    ///< as a path from the source root, "store/engine"; empty outside of it
     QStringList links; ///< what its own files may use
     QStringList hands; ///< what it hands on to those who link it
 };
@@ -35,8 +35,7 @@ public:
                 current = words[2];
                 const QString folder =
                     words[3].startsWith(root + u'/') ? words[3].mid(root.size() + 1) : QString();
-                m_targets[current] = {
-                    words[1].endsWith("_LIBRARY"_L1), current, folder.section(u'/', 0, 0), {}, {}};
+                m_targets[current] = {words[1].endsWith("_LIBRARY"_L1), current, folder, {}, {}};
             } else if (words[0] == "LINK_LIBRARIES"_L1) {
                 m_targets[current].links << words[1];
             } else if (words[0] == "INTERFACE_LINK_LIBRARIES"_L1) {

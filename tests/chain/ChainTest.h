@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/FilePaths.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/road/RunCommand.h"
 #include "tests/store/Elsewhere.h"

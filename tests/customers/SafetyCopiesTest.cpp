@@ -3,8 +3,8 @@
 
 #include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
-#include "store/DatabaseCheck.h"
-#include "store/Recordset.h"
+#include "store/catalogue/DatabaseCheck.h"
+#include "store/engine/Recordset.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/shell/ShellFixture.h"
 

@@ -4,7 +4,7 @@
 #include "platform/Decimal.h"
 #include "records/RegisterFiles.h"
 #include "screens/ScreenDefinition.h"
-#include "store/Definitions.h"
+#include "store/engine/Definitions.h"
 
 #include <algorithm>
 

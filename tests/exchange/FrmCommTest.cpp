@@ -5,8 +5,8 @@
 #include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
 #include "platform/FolderLock.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 #include "tests/support/AskedFirst.h"
 #include "tests/support/LinkFormTest.h"
 

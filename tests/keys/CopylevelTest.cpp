@@ -1,8 +1,8 @@
 // The dialog that copies levels as a user works it.
-#include "keys/copylevel.h"
+#include "keys/layout/copylevel.h"
 
 #include "customers/SafetyCopies.h"
-#include "keys/LevelCopy.h"
+#include "keys/layout/LevelCopy.h"
 #include "tests/keys/KeyShop.h"
 #include "tests/support/FormTest.h"
 

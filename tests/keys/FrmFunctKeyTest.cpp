@@ -1,5 +1,5 @@
 // The function key editor as a user works it, and the table afterwards.
-#include "keys/FrmFunctKey.h"
+#include "keys/functions/FrmFunctKey.h"
 
 #include "tests/keys/KeyShop.h"
 #include "tests/support/FormTest.h"

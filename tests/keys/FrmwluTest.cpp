@@ -1,5 +1,5 @@
 // The look-up editor as a user works it.
-#include "keys/frmwlu.h"
+#include "keys/lookups/frmwlu.h"
 
 #include "tests/keys/KeyShop.h"
 #include "tests/support/FormTest.h"

@@ -1,5 +1,5 @@
 // All function keys on all models, held against a list of what registers have (function_keys.txt).
-#include "keys/FunctionKeys.h"
+#include "keys/functions/FunctionKeys.h"
 
 #include "tests/keys/KeyShop.h"
 

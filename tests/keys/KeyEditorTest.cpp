@@ -1,5 +1,5 @@
 // Blocks of keys that move, are copied and come back, by what the upper left of a level does then.
-#include "keys/KeyEditor.h"
+#include "keys/layout/KeyEditor.h"
 
 #include "tests/keys/KeyShop.h"
 

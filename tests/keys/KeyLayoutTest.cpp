@@ -1,7 +1,7 @@
 // The keyboard layout editor as a user works it, by keys and by mouse.
-#include "keys/KeyLayout.h"
+#include "keys/layout/KeyLayout.h"
 
-#include "keys/KeyGrid.h"
+#include "keys/layout/KeyGrid.h"
 #include "tests/keys/KeyShop.h"
 #include "tests/support/FormTest.h"
 #include "ui/ValueList.h"

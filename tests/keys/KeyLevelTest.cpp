@@ -1,5 +1,5 @@
 // The places of the keys, and a level from its two tables to its cells and back, good rows and bad ones.
-#include "keys/KeyLevel.h"
+#include "keys/layout/KeyLevel.h"
 
 #include "tests/keys/KeyShop.h"
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
-#include "store/Catalogue.h"
+#include "store/catalogue/Catalogue.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/store/Rows.h"
 

@@ -1,5 +1,5 @@
 // What a window look-up shows of its record and what it stores.
-#include "keys/LookUpRecords.h"
+#include "keys/lookups/LookUpRecords.h"
 
 #include "tests/keys/KeyShop.h"
 

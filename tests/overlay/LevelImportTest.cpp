@@ -1,7 +1,7 @@
 // What the keys of an overlay say after the import of a level, from the rows of a real database.
 #include "overlay/LevelImport.h"
 
-#include "store/Catalogue.h"
+#include "store/catalogue/Catalogue.h"
 #include "tests/store/StoreFolder.h"
 
 namespace norvane::overlay

@@ -1,7 +1,7 @@
 // The designer as a dealer works it: cells, colours and fonts by mouse and keys, files, printing, leaving.
 #include "overlay/OverlayForm.h"
 
-#include "store/Catalogue.h"
+#include "store/catalogue/Catalogue.h"
 #include "tests/overlay/RecordingDialogs.h"
 #include "tests/store/StoreFolder.h"
 #include "tests/support/FormTest.h"

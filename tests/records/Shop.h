@@ -4,7 +4,7 @@
 
 #include "records/FileProcedures.h"
 #include "records/RegisterFiles.h"
-#include "store/Catalogue.h"
+#include "store/catalogue/Catalogue.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/store/Rows.h"
 #include "tests/support/RecordingBoxes.h"

@@ -1,6 +1,6 @@
 // What charts show on paper, measured on a picture of ten dots to the millimetre.
-#include "reports/ChartPainter.h"
-#include "reports/PageStyles.h"
+#include "reports/pages/ChartPainter.h"
+#include "reports/pages/PageStyles.h"
 #include "tests/reports/SampleReport.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // What a user does in a preview.
-#include "reports/PreviewWindow.h"
+#include "reports/window/PreviewWindow.h"
 
 #include "tests/platform/TestFolder.h"
 #include "tests/reports/SampleReport.h"

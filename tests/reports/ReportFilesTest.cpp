@@ -1,7 +1,8 @@
 // The contents of saved report files, read back by other programs.
-#include "reports/ReportFiles.h"
+#include "reports/files/ReportFiles.h"
 
-#include "reports/ReportRun.h"
+#include "reports/lines/KeepGoing.h"
+#include "reports/lines/ReportData.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/reports/SampleReport.h"

@@ -1,7 +1,7 @@
 // How lines are broken into pages, and their places on paper.
-#include "reports/ReportPages.h"
+#include "reports/pages/ReportPages.h"
 
-#include "reports/ReportFiles.h"
+#include "reports/files/ReportFiles.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/reports/SampleReport.h"
 #include "tests/support/OtherPrograms.h"

@@ -2,10 +2,10 @@
 // in.
 #pragma once
 
-#include "reports/ReportRun.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "reports/lines/ReportRun.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 #include "tests/platform/TestFolder.h"
 
 #include <QLocale>

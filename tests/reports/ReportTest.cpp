@@ -1,7 +1,7 @@
 // A report run from a form: where it goes, and what happens when it cannot.
-#include "reports/Report.h"
+#include "reports/window/Report.h"
 
-#include "reports/PreviewWindow.h"
+#include "reports/window/PreviewWindow.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/reports/SampleReport.h"
 #include "tests/support/FormTest.h"

@@ -3,8 +3,8 @@
 
 #include "platform/FilePaths.h"
 #include "sales/FrmsalesComm.h"
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 #include "tests/support/AskedFirst.h"
 #include "tests/support/LinkFormTest.h"
 

@@ -3,8 +3,8 @@
 
 #include "platform/RuntimeFailure.h"
 #include "sales/PollStamp.h"
-#include "store/Catalogue.h"
-#include "store/MonthTotals.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/sales/MonthTotals.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/store/Rows.h"
 

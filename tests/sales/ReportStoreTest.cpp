@@ -3,8 +3,8 @@
 
 #include "link/RunNotes.h"
 #include "sales/LastCollection.h"
-#include "store/Catalogue.h"
-#include "store/Database.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/Database.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/support/RecordingBoxes.h"
 

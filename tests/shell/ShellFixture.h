@@ -3,7 +3,7 @@
 
 #include "base/ApplicationValues.h"
 #include "base/SharedRoutines.h"
-#include "store/Catalogue.h"
+#include "store/catalogue/Catalogue.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/store/Rows.h"
 #include "tests/support/RecordingBoxes.h"

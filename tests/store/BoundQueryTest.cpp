@@ -1,5 +1,5 @@
 // Selects with bound values: what a value may hold, and how a long one is given up.
-#include "store/BoundQuery.h"
+#include "store/engine/BoundQuery.h"
 
 #include "tests/store/StoreFolder.h"
 

@@ -1,9 +1,9 @@
 // Safety copies of a customer's database and the way back.
-#include "store/DatabaseCopy.h"
+#include "store/catalogue/DatabaseCopy.h"
 
-#include "store/BoundQuery.h"
-#include "store/Catalogue.h"
-#include "store/MonthTotals.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/BoundQuery.h"
+#include "store/sales/MonthTotals.h"
 #include "tests/store/StoreFolder.h"
 
 namespace norvane::store::test

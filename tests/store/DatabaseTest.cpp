@@ -1,5 +1,5 @@
 // Opening what is ours and nothing else, fields that come later, and a disk without room.
-#include "store/DatabaseCheck.h"
+#include "store/catalogue/DatabaseCheck.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/store/StoreFolder.h"
 

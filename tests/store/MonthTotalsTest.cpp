@@ -1,11 +1,11 @@
 // Totals of whole months beside the sales tables: what a report reads through them is what the rows add up
 // to, whoever changed the rows in between.
-#include "store/MonthTotals.h"
+#include "store/sales/MonthTotals.h"
 
-#include "store/Catalogue.h"
-#include "store/DayDigests.h"
-#include "store/RowAppend.h"
-#include "store/Upgrade.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/catalogue/Upgrade.h"
+#include "store/sales/DayDigests.h"
+#include "store/sales/RowAppend.h"
 #include "tests/store/Elsewhere.h"
 #include "tests/store/StoreFolder.h"
 

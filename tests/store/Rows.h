@@ -1,8 +1,8 @@
 // The contents of a database, read and changed as by another program.
 #pragma once
 
-#include "store/Database.h"
-#include "store/Recordset.h"
+#include "store/engine/Database.h"
+#include "store/engine/Recordset.h"
 
 #include <string>
 #include <utility>

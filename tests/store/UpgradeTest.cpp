@@ -1,8 +1,8 @@
 // What the start makes of a current database, and of older ones made by leaving the later fields and tables
 // out.
-#include "store/Upgrade.h"
+#include "store/catalogue/Upgrade.h"
 
-#include "store/Catalogue.h"
+#include "store/catalogue/Catalogue.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/store/StoreFolder.h"
 

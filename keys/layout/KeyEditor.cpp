@@ -1,0 +1,207 @@
+// See KeyEditor.h.
+#include "keys/layout/KeyEditor.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace norvane::keys
+{
+namespace
+{
+
+/// Row by row, so that a block and its new place are in the same order whatever was clicked first.
+KeyCells sorted(KeyCells cells)
+{
+    std::ranges::sort(cells, {}, [](KeyCell cell) { return std::pair(cell.row, cell.column); });
+    return cells;
+}
+
+/// Those of @p cells that are not among @p others.
+KeyCells without(const KeyCells& cells, const KeyCells& others)
+{
+    KeyCells left;
+    for (const KeyCell cell : cells) {
+        if (std::ranges::find(others, cell) == others.end())
+            left.push_back(cell);
+    }
+    return left;
+}
+
+} // namespace
+
+KeyCells movedBy(KeyCells cells, KeyCell offset)
+{
+    for (KeyCell& cell : cells)
+        cell = cell + offset;
+    return cells;
+}
+
+KeyCell upperLeft(const KeyCells& cells)
+{
+    return {std::ranges::min(cells, {}, &KeyCell::row).row,
+            std::ranges::min(cells, {}, &KeyCell::column).column};
+}
+
+void KeyEditor::levelWasRead()
+{
+    m_steps.clear();
+    m_done = 0;
+    m_marked.clear();
+}
+
+Refusal KeyEditor::refusalOf(const KeyCells& cells) const
+{
+    const KeyGeometry& keyboard = m_level.geometry();
+    if (!std::ranges::all_of(cells, [&](KeyCell cell) { return keyboard.contains(cell); }))
+        return Refusal::Outside;
+    const auto isFixed = [&](KeyCell cell) {
+        return keyboard.fixedAt(cell) != nullptr;
+    };
+    return std::ranges::any_of(cells, isFixed) ? Refusal::FixedKey : Refusal::None;
+}
+
+void KeyEditor::take(Step step)
+{
+    std::erase_if(step, [](const Change& change) { return change.before == change.after; });
+    if (step.empty())
+        return;
+    m_steps.resize(m_done);
+    m_steps.push_back(std::move(step));
+    redo();
+}
+
+void KeyEditor::undo()
+{
+    if (!canUndo())
+        return;
+    for (const Change& change : m_steps[--m_done])
+        m_level.setKey(change.cell, change.before);
+}
+
+void KeyEditor::redo()
+{
+    if (!canRedo())
+        return;
+    for (const Change& change : m_steps[m_done++])
+        m_level.setKey(change.cell, change.after);
+}
+
+void KeyEditor::assign(const KeyCells& cells, ItemKind kind, const QString& number)
+{
+    const std::optional<Key> chosen = m_level.items().keyFor(kind, number);
+    Step step;
+    for (const KeyCell cell : cells) {
+        Key key = m_level.key(cell);
+        const bool isFixed = key.state == KeyState::Fixed;
+        if (chosen && !isFixed) {
+            key = *chosen;
+        } else {
+            key.text = chosen ? chosen->text : itemTable(kind).missingEntry;
+            key.state = isFixed ? KeyState::Fixed : KeyState::Missing;
+        }
+        step.push_back(changeOf(cell, key));
+    }
+    take(std::move(step));
+}
+
+/// Each of @p target does what the cell of @p source at the same place does.
+KeyEditor::Step KeyEditor::copies(const KeyCells& source, const KeyCells& target) const
+{
+    Step step;
+    for (std::size_t i = 0; i < source.size(); ++i)
+        step.push_back(changeOf(target[i], m_level.key(source[i])));
+    return step;
+}
+
+Refusal KeyEditor::swap(const KeyCells& cells, KeyCell from, KeyCell to)
+{
+    const KeyCells source = sorted(cells);
+    const KeyCells target = movedBy(source, to - from);
+    for (const KeyCells& touched : {target, source}) {
+        if (const Refusal refusal = refusalOf(touched); refusal != Refusal::None)
+            return refusal;
+    }
+    Step step = copies(source, target);
+    const Step back = copies(without(target, source), without(source, target));
+    step.insert(step.end(), back.begin(), back.end());
+    take(std::move(step));
+    return Refusal::None;
+}
+
+Refusal KeyEditor::copyTo(const KeyCells& cells, KeyCell from, KeyCell to)
+{
+    const KeyCells target = movedBy(cells, to - from);
+    for (const KeyCells& touched : {target, cells}) {
+        if (const Refusal refusal = refusalOf(touched); refusal != Refusal::None)
+            return refusal;
+    }
+    take(copies(cells, target));
+    return Refusal::None;
+}
+
+KeyCells KeyEditor::programmable(KeyCells cells) const
+{
+    std::erase_if(cells, [this](KeyCell cell) { return m_level.geometry().fixedAt(cell) != nullptr; });
+    return cells;
+}
+
+/// A fixed key's function cannot be put on another key.
+void KeyEditor::copy(const KeyCells& cells)
+{
+    const KeyCells keys = programmable(cells);
+    if (keys.empty())
+        return;
+    m_copied.clear();
+    const KeyCell corner = upperLeft(keys);
+    for (const KeyCell cell : keys)
+        m_copied.push_back({cell - corner, m_level.key(cell)});
+}
+
+Refusal KeyEditor::cut(const KeyCells& cells)
+{
+    if (const Refusal refusal = refusalOf(cells); refusal != Refusal::None)
+        return refusal;
+    copy(cells);
+    return clear(cells);
+}
+
+Refusal KeyEditor::clear(const KeyCells& cells)
+{
+    if (const Refusal refusal = refusalOf(cells); refusal != Refusal::None)
+        return refusal;
+    Step step;
+    for (const KeyCell cell : cells)
+        step.push_back(changeOf(cell, unprogrammedKey()));
+    take(std::move(step));
+    return Refusal::None;
+}
+
+Refusal KeyEditor::paste(const KeyCells& cells)
+{
+    if (m_copied.empty() || cells.empty())
+        return Refusal::NoKeys;
+    const KeyCells corners = m_copied.size() == 1 ? cells : KeyCells{upperLeft(cells)};
+    Step step;
+    for (const KeyCell corner : corners) {
+        for (const Piece& piece : m_copied) {
+            const KeyCell cell = corner + piece.offset;
+            if (const Refusal refusal = refusalOf({cell}); refusal != Refusal::None)
+                return refusal;
+            step.push_back(changeOf(cell, piece.key));
+        }
+    }
+    take(std::move(step));
+    return Refusal::None;
+}
+
+Refusal KeyEditor::swapWithMarked(const KeyCells& cells)
+{
+    if (m_marked.empty() || cells.empty())
+        return Refusal::NoKeys;
+    const Refusal refusal = swap(m_marked, upperLeft(m_marked), upperLeft(cells));
+    if (refusal == Refusal::None)
+        m_marked.clear();
+    return refusal;
+}
+
+} // namespace norvane::keys

@@ -1,0 +1,93 @@
+// A level under the user's hands: every change of its keys, and the way back.
+#pragma once
+
+#include "keys/layout/KeyLevel.h"
+
+#include <vector>
+
+namespace norvane::keys
+{
+
+using KeyCells = std::vector<KeyCell>;
+
+/// Why keys were not changed.
+enum class Refusal {
+    None,
+    FixedKey, ///< a fixed key would be moved or written over
+    Outside,  ///< the block would extend beyond the keyboard
+    NoKeys,   ///< nothing was copied or marked
+};
+
+/// Changes the keys of a KeyLevel. Each call is one step of undo(); the steps live until another level is
+/// read. Keys that were copied outlive it, so that they can be pasted into another level.
+class KeyEditor
+{
+public:
+    explicit KeyEditor(KeyLevel& level) : m_level(level) {}
+
+    /// Forgets the steps and the marked keys: another level was read, or this one again.
+    void levelWasRead();
+
+    /// Puts the item @p number on keys. If the item does not exist, only the cells show it. A fixed cell
+    /// shows the text only and keeps its function.
+    void assign(const KeyCells& cells, ItemKind kind, const QString& number);
+    /// Exchanges @p cells, of which @p from moves to @p to, with the keys there. Where both blocks overlap,
+    /// the displaced keys fill the freed places.
+    Refusal swap(const KeyCells& cells, KeyCell from, KeyCell to);
+    /// The keys at the new place do what @p cells do.
+    Refusal copyTo(const KeyCells& cells, KeyCell from, KeyCell to);
+
+    /// Those of @p cells that are not fixed keys.
+    [[nodiscard]] KeyCells programmable(KeyCells cells) const;
+    void copy(const KeyCells& cells);
+    /// Copies and clears.
+    Refusal cut(const KeyCells& cells);
+    /// Makes keys unprogrammed.
+    Refusal clear(const KeyCells& cells);
+    /// Puts what was copied at the upper left of @p cells; a single key on all of them.
+    Refusal paste(const KeyCells& cells);
+    [[nodiscard]] bool canPaste() const { return !m_copied.empty(); }
+
+    /// Remembers keys for swapWithMarked().
+    void mark(const KeyCells& cells) { m_marked = cells; }
+    [[nodiscard]] const KeyCells& marked() const { return m_marked; }
+    /// swap() of the marked keys, the upper left of them to that of @p cells. Takes the mark away.
+    Refusal swapWithMarked(const KeyCells& cells);
+
+    [[nodiscard]] bool canUndo() const { return m_done > 0; }
+    [[nodiscard]] bool canRedo() const { return m_done < m_steps.size(); }
+    void undo();
+    void redo();
+
+private:
+    struct Change {
+        KeyCell cell;
+        Key before;
+        Key after;
+    };
+    using Step = std::vector<Change>;
+    struct Piece {
+        KeyCell offset; ///< from the upper left of what was copied
+        Key key;
+    };
+
+    [[nodiscard]] Refusal refusalOf(const KeyCells& cells) const;
+    [[nodiscard]] Change changeOf(KeyCell cell, const Key& after) const
+    {
+        return {cell, m_level.key(cell), after};
+    }
+    [[nodiscard]] Step copies(const KeyCells& source, const KeyCells& target) const;
+    void take(Step step);
+
+    KeyLevel& m_level;
+    std::vector<Step> m_steps;
+    std::size_t m_done = 0; ///< steps that are not undone
+    std::vector<Piece> m_copied;
+    KeyCells m_marked;
+};
+
+[[nodiscard]] KeyCells movedBy(KeyCells cells, KeyCell offset);
+/// The first row and the first column of @p cells, which may not be empty.
+[[nodiscard]] KeyCell upperLeft(const KeyCells& cells);
+
+} // namespace norvane::keys

@@ -1,0 +1,112 @@
+// The keyboard layout editor.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "keys/layout/KeyEditor.h"
+#include "keys/layout/KeyGridModel.h"
+
+#include <QDialog>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QAction;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace norvane
+{
+class Boxes;
+}
+
+namespace norvane::ui
+{
+class StatusLine;
+}
+
+namespace norvane::keys
+{
+
+class KeyGrid;
+class KeyListPanel;
+
+/// The forms KeyLayoutVelmar and KeyLayoutDorvik: one level of the keyboard as a grid, and lists of what can
+/// be put on its keys. Nothing is stored before the user says so.
+class KeyLayout : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Opens the chosen customer's database. @p values and @p boxes must outlive the form.
+    /// @throws RuntimeFailure with Failure::NoCurrentRecord when a table has fewer rows than level 1 needs,
+    /// and as reading does.
+    KeyLayout(const KeyGeometry& keyboard, ApplicationValues& values, Boxes& boxes,
+              QWidget* parent = nullptr);
+
+    /// Escape takes a search and marks away and leads back to the grid first. Like the window's close button
+    /// it asks about changes, which only "E&xit" throws away unasked.
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void layOut();
+    [[nodiscard]] QLayout* makeLevelRow();
+    [[nodiscard]] QPushButton* makeLevelButton(int level);
+    void makeFind(QHBoxLayout& row);
+    [[nodiscard]] QLayout* makeFindRow();
+    void connectParts();
+    void addActions();
+    void addClipboardActions();
+    void addMarkActions();
+    void addFormActions();
+    void addSeparator();
+    QAction* addAction(const QString& name, const QString& caption, const QList<QKeySequence>& keys,
+                       Qt::ShortcutContext context, const std::function<void()>& run);
+    void fitScreen();
+
+    void updategrid(int level);
+    void showLevel();
+    bool SaveGrid();
+    [[nodiscard]] std::optional<bool> askToSave();
+    void askAndSave();
+    [[nodiscard]] bool leaveLevel();
+    void changeLevel(int level);
+    void copyLevels();
+
+    void assign(ItemKind kind, const QString& number, bool byEnter);
+    [[nodiscard]] bool mayAssign(const KeyCells& cells, ItemKind kind, const QString& number);
+    void drop(KeyCell target, bool copies);
+    void finish(Refusal refusal);
+    void showChanges();
+    void find();
+    void goToNextFound();
+    void tellKey();
+    void tellItem(ItemKind kind, const QString& number);
+    void tellPlaces(const Key& key);
+
+    const ApplicationValues& m_values;
+    Boxes& m_boxes;
+    std::shared_ptr<store::Database> m_database;
+    KeyLevel m_level;
+    KeyEditor m_editor{m_level};
+    KeyGridModel m_model{m_level, m_editor};
+    KeyCells m_found;
+    KeyGrid* Grid1;
+    KeyListPanel* m_lists;
+    QLabel* Label1;
+    QLabel* m_star;
+    QLineEdit* m_find;
+    QLabel* m_findOutcome;
+    ui::StatusLine* m_status;
+    std::vector<QPushButton*> m_levels;
+    QAction* m_paste = nullptr;
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
+};
+
+} // namespace norvane::keys

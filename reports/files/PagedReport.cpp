@@ -1,0 +1,29 @@
+// See PagedReport.h.
+#include "reports/files/PagedReport.h"
+
+#include "paper/PageDevice.h"
+#include "reports/pages/ReportPainter.h"
+
+#include <algorithm>
+
+namespace norvane::reports
+{
+
+bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device,
+                 const KeepGoing& keepGoing, PageSpan span)
+{
+    const PageText text;
+    ReportPages pages(report, text, showsCharts);
+    pages.layOutAll();
+    const ReportPainter painter(report, pages, text);
+    const QRectF& sheet = pages.frame().sheet;
+    paper::PageDevice paper(device, QPageSize(QPageSize::A4),
+                            sheet.width() > sheet.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
+    for (int page = span.first - 1; page < std::min(span.last, pages.pageCount()); ++page) {
+        painter.paint(paper.nextPage(), page);
+        needGoOn(keepGoing);
+    }
+    return paper.finish();
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,259 @@
+// See LayoutKeys.h.
+#include "reports/lines/LayoutKeys.h"
+
+#include "store/catalogue/Catalogue.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+bool takeYesNo(const QString& value, bool& flag)
+{
+    flag = value.compare("YES"_L1, Qt::CaseInsensitive) == 0;
+    return flag || value.compare("NO"_L1, Qt::CaseInsensitive) == 0;
+}
+
+template <typename Choice, std::size_t count>
+bool takeChoice(const QString& value, const std::array<std::pair<QLatin1String, Choice>, count>& choices,
+                Choice& choice)
+{
+    for (const auto& [name, meaning] : choices) {
+        if (value.compare(name, Qt::CaseInsensitive) == 0) {
+            choice = meaning;
+            return true;
+        }
+    }
+    return false;
+}
+
+constexpr std::array<std::pair<QLatin1String, Orientation>, 3> orientations{
+    {{"Automatic"_L1, Orientation::Automatic},
+     {"Portrait"_L1, Orientation::Portrait},
+     {"Landscape"_L1, Orientation::Landscape}}};
+constexpr std::array<std::pair<QLatin1String, Alignment>, 3> alignments{
+    {{"Left"_L1, Alignment::Left}, {"Centre"_L1, Alignment::Centre}, {"Right"_L1, Alignment::Right}}};
+constexpr std::array<std::pair<QLatin1String, ChartKind>, 3> chartKinds{
+    {{"Ranking"_L1, ChartKind::Ranking}, {"Course"_L1, ChartKind::Course}, {"Shares"_L1, ChartKind::Shares}}};
+constexpr std::array<std::pair<QLatin1String, PointSource>, 2> pointSources{
+    {{"Lines"_L1, PointSource::Lines}, {"Groups"_L1, PointSource::Groups}}};
+
+bool takeTable(const QString& value, LayoutTarget& target)
+{
+    target.layout.source.table = store::catalogueTable(value);
+    return target.layout.source.table != nullptr;
+}
+
+bool takeLines(const QString& value, LayoutTarget& target)
+{
+    auto& source = target.layout.source;
+    source.keys = parseFields(value, target.table());
+    return std::ranges::all_of(source.keys, [&](const auto& key) { return key.table == source.table; });
+}
+
+bool takeWhere(const QString& value, LayoutTarget& target)
+{
+    // No day is passed in: periods that end today are for the user's selection, not for a layout.
+    const auto condition = parseSelection(value, QDate(), target.table());
+    target.source->where = condition;
+    const auto* const table = target.source->table;
+    return !mentions(condition, [table](const auto& field) { return field.table != table; });
+}
+
+bool takeFormat(const QString& value, CellFormat& format)
+{
+    const auto parsed = parseFormat(value);
+    if (parsed)
+        format = *parsed;
+    return parsed.has_value();
+}
+
+bool takeColumnFormat(const QString& value, LayoutTarget& target)
+{
+    ColumnLayout& layout = *target.column;
+    if (!takeFormat(value, layout.format))
+        return false;
+    layout.column.alignment = layout.format.alignment();
+    return true;
+}
+
+bool takeWords(const QString& value, LayoutTarget& target)
+{
+    auto& format = target.column->format;
+    const auto words = parseWords(value);
+    if (!words)
+        return false;
+    format.kind = FormatKind::Words;
+    format.words = *words;
+    return true;
+}
+
+/// A number is calculated; any other value is a text with fields in it. A day alone in its column remains a
+/// day, so that spreadsheets can sort by it.
+bool takeColumnValue(const QString& value, LayoutTarget& target)
+{
+    auto& layout = *target.column;
+    layout.column.leastDecimals = layout.format.leastDecimals;
+    layout.column.mostDecimals = layout.format.mostDecimals;
+    layout.text.format = layout.format;
+    if (layout.format.isNumber()) {
+        layout.column.kind = ColumnKind::Number;
+        layout.number = parseExpression(value, target.fields());
+        return true;
+    }
+    layout.text.text = parseTemplate(value, target.fields());
+    if (layout.format.kind == FormatKind::Date && layout.text.text.parts.size() == 1)
+        layout.column.kind = ColumnKind::Date;
+    return true;
+}
+
+bool takeWidth(const QString& value, LayoutTarget& target)
+{
+    constexpr double narrowest = 1;
+    constexpr double widest = 280;
+    bool isNumber = false;
+    const double width = value.toDouble(&isNumber);
+    if (!isNumber || !(width >= narrowest && width <= widest))
+        return false;
+    target.column->column.width = paper::millimetres(width);
+    return true;
+}
+
+bool takeSort(const QString& value, LayoutTarget& target)
+{
+    const auto key = parseSortKey(value, target.table());
+    if (!key)
+        return false;
+    checkField(target.layout, *target.source, key->field, 1);
+    target.source->order.push_back(*key);
+    return true;
+}
+
+bool takeGroupBy(const QString& value, LayoutTarget& target)
+{
+    const auto fields = parseFields(value, target.table());
+    if (fields.size() != 1)
+        return false;
+    target.layout.group.emplace().by = target.fields().slotOf(fields.front(), 1);
+    target.source->groupBy = fields.front();
+    return true;
+}
+
+bool takeChartBy(const QString& value, LayoutTarget& target)
+{
+    const auto fields = parseFields(value, target.table());
+    auto& source = target.chart->query.emplace();
+    source.table = target.layout.source.table;
+    source.keys = fields;
+    source.order.push_back({fields.front(), Order::Plain});
+    target.chart->from = PointSource::Query;
+    target.source = &source;
+    return fields.size() == 1 && fields.front().table == source.table;
+}
+
+bool takeChartWhere(const QString& value, LayoutTarget& target)
+{
+    return target.chart->query && takeWhere(value, target);
+}
+
+bool takeFind(const QString& value, LayoutTarget& target)
+{
+    const auto fields = parseFields(value, target.table());
+    if (fields.size() != 1 || target.layout.reads(*fields.front().table))
+        return false;
+    target.join->key = fields.front();
+    target.join->table = fields.front().table;
+    return true;
+}
+
+bool takeBy(const QString& value, LayoutTarget& target)
+{
+    const auto fields = parseFields(value, target.table());
+    if (fields.size() != 1)
+        return false;
+    checkField(target.layout, *target.source, fields.front(), 1);
+    target.join->of = fields.front();
+    return true;
+}
+
+bool takeMost(const QString& value, LayoutTarget& target)
+{
+    constexpr int limit = 100;
+    bool isNumber = false;
+    target.chart->most = value.toInt(&isNumber);
+    return isNumber && target.chart->most > 0 && target.chart->most <= limit;
+}
+
+bool takeValueFormat(const QString& value, LayoutTarget& target)
+{
+    return takeFormat(value, target.chart->valueFormat) && target.chart->valueFormat.isNumber();
+}
+
+// Keys are read in the order of these rows: a table before its fields, a format before its value.
+// clang-format off
+constexpr std::array<KeyRule, 7> reportKeys{{
+    {u"Title", true, "the heading of the report"_L1, [](const QString& value, LayoutTarget& target) { target.layout.title = value; return true; }},
+    {u"Table", true, "a table of the customer's database"_L1, takeTable},
+    {u"Lines", false, "the fields of the table that make a line, such as {PLUSALES.ID}"_L1, takeLines},
+    {u"ZeroLines", false, "YES or NO"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.layout.showsZeroLines); }},
+    {u"EmptyRecords", false, "YES or NO"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.layout.showsEmptyRecords); }},
+    {u"Orientation", false, "Automatic, Portrait or Landscape"_L1, [](const QString& value, LayoutTarget& target) { return takeChoice(value, orientations, target.layout.orientation); }},
+    {u"Where", false, "a condition on fields of the report's table"_L1, takeWhere},
+}};
+constexpr std::array<KeyRule, 2> joinKeys{{
+    {u"Find", true, "a field of a table that is not read yet, such as {PLUDATA.PLUNUMBER}"_L1, takeFind},
+    {u"By", true, "a field by whose value the record is found, such as {PLUSALES.ID}"_L1, takeBy},
+}};
+constexpr std::array<KeyRule, 9> columnKeys{{
+    {u"Heading", false, "the heading of the column"_L1, [](const QString& value, LayoutTarget& target) { target.column->column.heading = value; return true; }},
+    {u"Format", false, "Text, Digits, Money, Quantity, Date, Time, YesNo or a pattern such as 0.00"_L1, takeColumnFormat},
+    {u"Words", false, "words for numbers, such as 0;None,1;Added"_L1, takeWords},
+    {u"Value", true, "fields such as {PLUSALES.ID}"_L1, takeColumnValue},
+    {u"Missing", false, "a text"_L1, [](const QString& value, LayoutTarget& target) { target.column->text.missing = parseTemplate(value, target.fields()); return true; }},
+    {u"Width", true, "millimetres from 1 to 280"_L1, takeWidth},
+    {u"Align", false, "Left, Centre or Right"_L1, [](const QString& value, LayoutTarget& target) { return takeChoice(value, alignments, target.column->column.alignment); }},
+    {u"Total", false, "YES or NO, and YES only for a number"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.column->isTotalled) && (target.column->number || !target.column->isTotalled); }},
+    {u"Show", false, "numbers that are not all zero where the column is shown"_L1, [](const QString& value, LayoutTarget& target) { target.column->shownIf = parseExpressions(value, target.fields()); return true; }},
+}};
+constexpr KeyRule furtherValue{u"Value2", false, "a text with fields"_L1, [](const QString& value, LayoutTarget& target) { target.column->text.further.push_back(parseTemplate(value, target.fields())); return !target.column->number; }};
+constexpr std::array<KeyRule, 3> groupKeys{{
+    {u"By", true, "a field such as {PLUDATA.GROUPNO}"_L1, takeGroupBy},
+    {u"Heading", true, "a text with fields"_L1, [](const QString& value, LayoutTarget& target) { target.layout.group->heading.text = parseTemplate(value, target.fields()); return true; }},
+    {u"Missing", false, "a text"_L1, [](const QString& value, LayoutTarget& target) { target.layout.group->heading.missing = parseTemplate(value, target.fields()); return true; }},
+}};
+constexpr auto sortExpected = "a field, with \"by value\" or \"descending\" after it or nothing"_L1;
+constexpr std::array<KeyRule, 3> sortKeys{{
+    {u"Key1", true, sortExpected, takeSort},
+    {u"Key2", false, sortExpected, takeSort},
+    {u"Key3", false, sortExpected, takeSort},
+}};
+constexpr std::array<KeyRule, 11> chartKeys{{
+    {u"Kind", true, "Ranking, Course or Shares"_L1, [](const QString& value, LayoutTarget& target) { return takeChoice(value, chartKinds, target.chart->kind); }},
+    {u"Title", true, "the heading of the picture"_L1, [](const QString& value, LayoutTarget& target) { target.chart->title = value; return true; }},
+    {u"From", false, "Lines or Groups"_L1, [](const QString& value, LayoutTarget& target) { return takeChoice(value, pointSources, target.chart->from); }},
+    {u"By", false, "a field of the report's table by which it is added up"_L1, takeChartBy},
+    {u"Where", false, "a condition on fields of the report's table, beside By"_L1, takeChartWhere},
+    {u"Format", false, "Text, Digits, Day, Date or Time"_L1, [](const QString& value, LayoutTarget& target) { return takeFormat(value, target.chart->label.format); }},
+    {u"Label", false, "a text with fields"_L1, [](const QString& value, LayoutTarget& target) { target.chart->label.text = parseTemplate(value, target.fields()); return true; }},
+    {u"Missing", false, "a text"_L1, [](const QString& value, LayoutTarget& target) { target.chart->label.missing = parseTemplate(value, target.fields()); return true; }},
+    {u"Value", true, "a number computed from fields"_L1, [](const QString& value, LayoutTarget& target) { target.chart->value = parseExpression(value, target.fields()); return true; }},
+    {u"ValueFormat", false, "Money or Quantity"_L1, takeValueFormat},
+    {u"Most", false, "a whole number from 1 to 100"_L1, takeMost},
+}};
+// clang-format on
+
+} // namespace
+
+const LayoutKeys& layoutKeys()
+{
+    static constexpr LayoutKeys keys{reportKeys, joinKeys,  columnKeys,  groupKeys,
+                                     sortKeys,   chartKeys, furtherValue};
+    return keys;
+}
+
+} // namespace norvane::reports

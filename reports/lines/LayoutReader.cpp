@@ -1,0 +1,190 @@
+// The engine that reads a layout by the tables of its keys; see LayoutReader.h.
+#include "reports/lines/LayoutReader.h"
+
+#include "platform/FilePaths.h"
+#include "platform/ProfileFile.h"
+#include "reports/lines/LayoutKeys.h"
+#include "reports/lines/ReportError.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+/// A long text of a column continues in further keys, Value2 and so on.
+constexpr int mostValues = 40;
+
+class LayoutReader
+{
+public:
+    explicit LayoutReader(const QString& path) : m_file(path) { m_layout.path = path; }
+
+    ReportLayout read()
+    {
+        checkSections();
+        LayoutTarget target{m_layout, &m_layout.source};
+        readKeys(u"Report"_s, layoutKeys().report, target);
+        readJoins();
+        readColumns();
+        if (hasSection(u"Group"_s))
+            readKeys(u"Group"_s, layoutKeys().group, target);
+        if (hasSection(u"Sort"_s))
+            readKeys(u"Sort"_s, layoutKeys().sort, target);
+        readCharts();
+        return std::move(m_layout);
+    }
+
+private:
+    [[noreturn]] void fail(const QString& place, const QString& text) const
+    {
+        throw ReportError(u"%1, %2: %3"_s.arg(m_layout.path, place, text));
+    }
+    [[noreturn]] void fail(const QString& section, QStringView key, const QString& text) const
+    {
+        fail(u"section [%1], key %2"_s.arg(section, key), text);
+    }
+
+    /// Without this check a misspelled section would be ignored silently, and so would every section after a
+    /// gap in the numbers.
+    void checkSections() const
+    {
+        static const QRegularExpression known(u"^(Report|Group|Sort|(Join|Column|Chart)([1-9][0-9]{0,3}))$"_s,
+                                              QRegularExpression::CaseInsensitiveOption);
+        const QStringList sections = m_file.sections();
+        for (const QString& section : sections) {
+            const auto match = known.match(section);
+            if (!match.hasMatch()) {
+                fail(u"section [%1]"_s.arg(section),
+                     u"Report, Join1, Column1, Group, Sort or Chart1 is expected"_s);
+            }
+            const QString before = match.captured(2) + QString::number(match.captured(3).toInt() - 1);
+            if (match.captured(3).toInt() > 1 && !sections.contains(before, Qt::CaseInsensitive))
+                fail(u"section [%1]"_s.arg(section), u"there is no section [%1] before it"_s.arg(before));
+        }
+    }
+
+    void readKeys(const QString& section, std::span<const KeyRule> rules, LayoutTarget& target,
+                  const QStringList& others = {}) const
+    {
+        for (const QString& key : m_file.keys(section)) {
+            if (others.contains(key, Qt::CaseInsensitive))
+                continue;
+            const auto isIt = [&key](const KeyRule& rule) {
+                return rule.key.compare(key, Qt::CaseInsensitive) == 0;
+            };
+            if (std::ranges::none_of(rules, isIt))
+                fail(section, key, u"there is no such key; expected are %1"_s.arg(keyNames(rules)));
+        }
+        for (const auto& rule : rules)
+            readKey(section, rule, target);
+    }
+
+    [[nodiscard]] static QString keyNames(std::span<const KeyRule> rules)
+    {
+        QStringList names;
+        for (const auto& rule : rules)
+            names.append(rule.key.toString());
+        return names.join(u", "_s);
+    }
+
+    void readKey(const QString& section, const KeyRule& rule, LayoutTarget& target) const
+    {
+        const QString value = m_file.value(section, rule.key, {}, profileValueLimit + 1);
+        if (value.size() > profileValueLimit)
+            fail(section, rule.key, u"it has more than %1 characters"_s.arg(profileValueLimit));
+        if (value.isEmpty() && rule.isRequired)
+            fail(section, rule.key, u"it is missing; expected is %1"_s.arg(rule.expected));
+        if (value.isEmpty())
+            return;
+        try {
+            if (!rule.take(value, target)) {
+                fail(section, rule.key, u"expected is %1, but \"%2\" was found"_s.arg(rule.expected, value));
+            }
+        } catch (const FormulaError& error) {
+            fail(section, rule.key, error.text());
+        }
+    }
+
+    [[nodiscard]] bool hasSection(const QString& name) const
+    {
+        return m_file.sections().contains(name, Qt::CaseInsensitive);
+    }
+
+    void readJoins()
+    {
+        for (int number = 1; hasSection(u"Join%1"_s.arg(number)); ++number) {
+            Join join;
+            LayoutTarget target{m_layout, &m_layout.source};
+            target.join = &join;
+            readKeys(u"Join%1"_s.arg(number), layoutKeys().join, target);
+            m_layout.joins.push_back(join);
+        }
+    }
+
+    void readColumn(const QString& section, LayoutTarget& target)
+    {
+        QStringList further;
+        for (int number = 2; number <= mostValues; ++number)
+            further.append(u"Value%1"_s.arg(number));
+        readKeys(section, layoutKeys().column, target, further);
+        for (const QString& key : further) {
+            KeyRule rule = layoutKeys().furtherValue;
+            rule.key = key;
+            readKey(section, rule, target);
+        }
+    }
+
+    void readColumns()
+    {
+        if (!hasSection(u"Column1"_s))
+            fail(u"section [Column1]"_s, u"it is missing; a report has one column at least"_s);
+        for (int number = 1; hasSection(u"Column%1"_s.arg(number)); ++number) {
+            ColumnLayout column;
+            LayoutTarget target{m_layout, &m_layout.source};
+            target.column = &column;
+            readColumn(u"Column%1"_s.arg(number), target);
+            // Headings of groups are in the first column.
+            if (number == 1 && !column.shownIf.empty())
+                fail(u"Column1"_s, u"Show", u"the first column is always shown"_s);
+            m_layout.columns.push_back(std::move(column));
+        }
+    }
+
+    void readCharts()
+    {
+        for (int number = 1; hasSection(u"Chart%1"_s.arg(number)); ++number) {
+            const QString section = u"Chart%1"_s.arg(number);
+            ChartLayout chart;
+            LayoutTarget target{m_layout, &m_layout.source};
+            target.chart = &chart;
+            readKeys(section, layoutKeys().chart, target);
+            if (chart.from == PointSource::Groups && !m_layout.group)
+                fail(section, u"From", u"the report has no groups"_s);
+            if (chart.from != PointSource::Groups && chart.label.text.isEmpty())
+                fail(section, u"Label", u"it is missing; expected is a text with fields"_s);
+            m_layout.charts.push_back(std::move(chart));
+        }
+    }
+
+    ProfileFile m_file;
+    ReportLayout m_layout;
+};
+
+} // namespace
+
+ReportLayout readLayout(const QString& path)
+{
+    const QString found = existingPath(path);
+    if (!QFileInfo(found).isFile())
+        throw ReportError(u"%1: the report's layout was not found."_s.arg(path));
+    return LayoutReader(found).read();
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,257 @@
+// See LineBuilder.h.
+#include "reports/lines/LineBuilder.h"
+
+#include "platform/RuntimeFailure.h"
+#include "reports/formula/ExactNumbers.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+constexpr auto tooLong = "too long"_L1;
+/// Characters of a number that a page has room for.
+constexpr std::size_t longestSumShown = 40;
+
+/// The column of a total's label: the first that shows words and is always shown, otherwise the first column.
+std::size_t labelColumnOf(const ReportLayout& layout)
+{
+    const auto& columns = layout.columns;
+    const auto isWord = [](const ColumnLayout& column) {
+        return !column.number && column.format.kind != FormatKind::Digits && column.shownIf.empty();
+    };
+    const auto word = std::ranges::find_if(columns, isWord);
+    return word == columns.end() ? 0 : static_cast<std::size_t>(word - columns.begin());
+}
+
+bool isRecordNumber(const LineSource& source, const FieldName& field)
+{
+    const auto& indexes = field.table->indexes;
+    const bool isIndexed = !indexes.isEmpty() && indexes.first().field == field.name();
+    return field.table != source.table || source.isKey(field) || isIndexed;
+}
+
+} // namespace
+
+void SlotTotals::add(const std::vector<std::string>& numbers)
+{
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        if (numbers[i] != "0")
+            m_totals[i].add(std::string_view(numbers[i]));
+    }
+}
+
+std::vector<std::string> SlotTotals::texts() const
+{
+    std::vector<std::string> texts;
+    for (const auto& total : m_totals)
+        texts.push_back(total.text());
+    return texts;
+}
+
+LineNumbers::LineNumbers(const ReportLayout& layout)
+    : m_isReckoned(layout.source.fields.size()), m_isValue(layout.source.fields.size()),
+      m_numbers(layout.source.fields.size(), "0")
+{
+    for (const auto& column : layout.columns) {
+        if (column.number)
+            column.number->markSlots(m_isReckoned);
+        for (const auto& expression : column.shownIf)
+            expression.markSlots(m_isReckoned);
+    }
+    for (const auto& chart : layout.charts) {
+        if (chart.from != PointSource::Query)
+            chart.value->markSlots(m_isReckoned);
+    }
+    for (std::size_t i = 0; i < m_isValue.size(); ++i) {
+        m_isValue[i] = m_isReckoned[i] && !isRecordNumber(layout.source, layout.source.fields[i]);
+        m_isSum.push_back(layout.source.isSum(layout.source.fields[i]));
+    }
+}
+
+void LineNumbers::read(const LineFields& fields)
+{
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (m_isReckoned[i] && m_isSum[i]) {
+            m_numbers[i].assign(fields[i].textView());
+        } else if (m_isReckoned[i]) {
+            m_numbers[i] = exactText(fields[i]);
+        }
+    }
+}
+
+bool LineNumbers::areZero() const
+{
+    for (std::size_t i = 0; i < m_numbers.size(); ++i) {
+        if (m_isValue[i] && m_numbers[i] != "0")
+            return false;
+    }
+    return true;
+}
+
+LineBuilder::LineBuilder(const ReportLayout& layout, ReportData& data, ChartBuilder& charts,
+                         std::vector<std::string> whole)
+    : m_layout(layout), m_data(data), m_charts(charts), m_whole(std::move(whole)), m_numbers(layout),
+      m_groupTotals(layout.source.fields.size()), m_totals(layout.source.fields.size()),
+      m_labelColumn(labelColumnOf(layout)),
+      m_isTotalled(std::ranges::any_of(layout.columns, &ColumnLayout::isTotalled))
+{
+    for (const auto& column : layout.columns)
+        m_isShown.push_back(column.shownIf.empty());
+    const LineSource& source = layout.source;
+    for (std::size_t slot = 0; !source.addsUp() && slot < source.fields.size(); ++slot) {
+        if (!isRecordNumber(source, source.fields[slot]))
+            m_contents.push_back(slot);
+    }
+}
+
+void LineBuilder::add(const LineFields& fields)
+{
+    m_numbers.read(fields);
+    if (isLeftOut(fields))
+        return;
+    if (m_layout.group)
+        changeGroup(fields);
+    addDetail(fields);
+    m_groupTotals.add(m_numbers.numbers());
+    m_totals.add(m_numbers.numbers());
+    m_charts.addLine(fields, {m_numbers.numbers(), m_whole});
+    noteShown();
+}
+
+/// A line without amounts, or in a list a record in which nothing but its number is set.
+bool LineBuilder::isLeftOut(const LineFields& fields) const
+{
+    if (!m_layout.showsZeroLines && m_numbers.areZero())
+        return true;
+    if (m_layout.showsEmptyRecords || m_contents.empty())
+        return false;
+    return std::ranges::all_of(m_contents,
+                               [&fields](std::size_t slot) { return namesNothing(fields.at(slot)); });
+}
+
+void LineBuilder::changeGroup(const LineFields& fields)
+{
+    const auto& by = fields.at(static_cast<std::size_t>(m_layout.group->by));
+    const auto& heading = m_layout.group->heading;
+    const bool isNone = namesNothing(by);
+    const store::Value group = isNone ? store::Value() : by;
+    if (m_group && *m_group == group)
+        return;
+    closeGroup();
+    m_group = group;
+    m_groupHeading =
+        isNone && !heading.missing.isEmpty() ? textOf(heading.missing, {}, fields) : textOf(heading, fields);
+    m_data.addLine(LineKind::GroupHeading, {m_groupHeading});
+}
+
+void LineBuilder::closeGroup()
+{
+    if (!m_group)
+        return;
+    m_charts.addGroup(m_groupHeading, {m_groupTotals.texts(), m_whole});
+    if (m_isTotalled)
+        addTotal(LineKind::Subtotal, m_groupTotals, u"Total %1"_s.arg(m_groupHeading));
+    m_groupTotals = SlotTotals(m_layout.source.fields.size());
+}
+
+void LineBuilder::addDetail(const LineFields& fields)
+{
+    std::vector<Cell> cells;
+    cells.reserve(m_layout.columns.size());
+    for (const auto& column : m_layout.columns)
+        cells.push_back(cell(column, fields));
+    m_data.addLine(LineKind::Detail, std::move(cells));
+}
+
+Cell LineBuilder::cell(const ColumnLayout& column, const LineFields& fields) const
+{
+    if (column.number) {
+        const auto slot = column.number->loneSlot();
+        if (slot && fields.at(static_cast<std::size_t>(*slot)).isNull())
+            return {};
+        return number(column, m_numbers.numbers());
+    }
+    if (column.column.kind == ColumnKind::Date) {
+        const QDate day = fields.at(static_cast<std::size_t>(*column.text.text.parts.front().slot)).toDate();
+        return day.isValid() ? Cell(day) : Cell();
+    }
+    const QString text = textOf(column.text, fields);
+    return text.isEmpty() ? Cell() : Cell(text);
+}
+
+/// @return nothing where the number has more digits than a Decimal holds.
+std::optional<Cell> LineBuilder::shortNumber(const ColumnLayout& column, const SlotNumbers& numbers)
+{
+    try {
+        const auto value = column.number->value(numbers);
+        if (!value)
+            return Cell();
+        if (digitsOf(value->coefficient()) < mostDigits)
+            return Cell(*value);
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() != Failure::Overflow)
+            throw;
+    }
+    return std::nullopt;
+}
+
+/// A sum of more digits than a Decimal holds becomes a text with all of them. A quotient of such sums cannot
+/// be calculated, and the cell says so.
+Cell LineBuilder::number(const ColumnLayout& column, const std::vector<std::string>& numbers) const
+{
+    const SlotNumbers all{numbers, m_whole};
+    if (auto cell = shortNumber(column, all))
+        return *std::move(cell);
+    try {
+        const std::string rounded =
+            roundedText(column.number->exactValue(all).value_or("0"), column.column.mostDecimals);
+        if (!isLong(rounded))
+            return decimalOf(rounded);
+        if (rounded.size() <= longestSumShown)
+            return shownDigits(QString::fromStdString(rounded), column.column.leastDecimals);
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() != Failure::Overflow)
+            throw;
+    }
+    return QString(tooLong);
+}
+
+void LineBuilder::noteShown()
+{
+    for (std::size_t i = 0; i < m_isShown.size(); ++i) {
+        for (const auto& expression : m_layout.columns[i].shownIf) {
+            if (m_isShown[i])
+                break;
+            const auto value = expression.value({m_numbers.numbers(), m_whole});
+            m_isShown[i] = value && value->coefficient() != 0;
+        }
+    }
+}
+
+void LineBuilder::addTotal(LineKind kind, const SlotTotals& totals, const QString& label)
+{
+    const auto numbers = totals.texts();
+    std::vector<Cell> cells(m_layout.columns.size());
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (m_layout.columns[i].isTotalled)
+            cells[i] = number(m_layout.columns[i], numbers);
+    }
+    if (!m_layout.columns[m_labelColumn].isTotalled)
+        cells[m_labelColumn] = label;
+    m_data.addLine(kind, std::move(cells));
+}
+
+void LineBuilder::finish()
+{
+    closeGroup();
+    if (m_isTotalled && m_data.lineCount() > 0)
+        addTotal(LineKind::GrandTotal, m_totals, u"Total"_s);
+    m_data.keepColumns(m_isShown);
+}
+
+} // namespace norvane::reports

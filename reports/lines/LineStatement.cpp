@@ -1,0 +1,264 @@
+// See LineStatement.h. A statement for PLU sales, shortened:
+//
+//   WITH j0 AS MATERIALIZED (SELECT <number by value> AS k, "DESCRIPTION" AS c1, min(_rowid_) FROM "PLUDATA"
+//                            GROUP BY 1),
+//        l AS MATERIALIZED (SELECT <ID by value> AS c0, exact_sum(b."PROMO") AS c2 FROM "PLUSALES" b
+//                           WHERE b."SALESDATE" >= ? GROUP BY 1)
+//   SELECT l.c0, j0.c1, l.c2 FROM l LEFT JOIN j0 ON j0.k = l.c0 ORDER BY ...
+//
+// The rows are added up before names are looked up, so that each name is looked up once. A list has no "l":
+// its lines are the rows "b". Joined tables are materialized because the engine then creates an index over
+// the result; it has none over a number by value.
+#include "reports/lines/LineStatement.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+std::string quoted(const QString& name)
+{
+    return '"' + QString(name).replace(u'"', u"\"\""_s).toStdString() + '"';
+}
+
+/// Registers fill numbers up with zeros and blanks. Without these, "007" and 7 are the same text. Of zeros
+/// alone one is left.
+std::string byValue(const std::string& column)
+{
+    const std::string trimmed = "trim(" + column + ")";
+    return "ifnull(nullif(ltrim(" + trimmed + ",'0'),''),substr(" + trimmed + ",-1))";
+}
+
+class Writer
+{
+public:
+    Writer(const LineSource& source, const std::vector<Join>& joins, const Condition& condition,
+           const std::string& rows)
+        : m_source(source), m_joins(joins), m_condition(condition), m_rows(rows), m_fields(source.fields)
+    {
+        for (const auto& key : source.keys)
+            need(key);
+        if (source.groupBy)
+            need(*source.groupBy);
+        for (const auto& key : source.order)
+            need(key.field);
+        collectConditionFields(condition);
+        // A join may be found by a field of an earlier join, so the last join is looked at first.
+        for (std::size_t number = joins.size(); number-- > 0;) {
+            if (isJoined(*joins[number].table))
+                need(joins[number].of);
+        }
+    }
+
+    LineStatement write()
+    {
+        std::string with;
+        for (std::size_t i = 0; i < m_joins.size(); ++i) {
+            if (isJoined(*m_joins[i].table))
+                with += (with.empty() ? "WITH " : ", ") + joinTable(i);
+        }
+        if (m_source.addsUp())
+            with += (with.empty() ? "WITH " : ", ") + ("l AS MATERIALIZED (" + sums() + ')');
+        m_statement.sql = with + " SELECT " + list() + " FROM " + lines() + order();
+        return std::move(m_statement);
+    }
+
+private:
+    void need(const FieldName& field)
+    {
+        if (std::ranges::find(m_fields, field) == m_fields.end())
+            m_fields.push_back(field);
+    }
+
+    /// A condition can read the fields of the report's own table directly. Those of joined tables must be
+    /// among the fields of the join.
+    void collectConditionFields(const Condition& condition)
+    {
+        const auto look = [this](const FieldName& field) {
+            if (field.table != m_source.table) {
+                m_joinsBelow = true;
+                need(field);
+            }
+            return false;
+        };
+        (void)mentions(condition, look);
+    }
+
+    [[nodiscard]] bool isJoined(const store::TableDefinition& table) const
+    {
+        return &table != m_source.table &&
+               std::ranges::any_of(m_fields, [&table](const auto& field) { return field.table == &table; });
+    }
+
+    /// "c3" for the fourth field that is needed.
+    [[nodiscard]] std::string alias(const FieldName& field) const
+    {
+        return 'c' + std::to_string(std::ranges::find(m_fields, field) - m_fields.begin());
+    }
+
+    [[nodiscard]] std::string joinName(const store::TableDefinition& table) const
+    {
+        return 'j' + std::to_string(std::ranges::find(m_joins, &table, &Join::table) - m_joins.begin());
+    }
+
+    [[nodiscard]] std::string joinTable(std::size_t number) const
+    {
+        const Join& join = m_joins[number];
+        std::string sql = 'j' + std::to_string(number) + " AS MATERIALIZED (SELECT " +
+                          meeting(join, quoted(join.key.name())) + " AS k";
+        for (const auto& field : m_fields) {
+            if (field.table == join.table)
+                sql += ", " + quoted(field.name()) + " AS " + alias(field);
+        }
+        // Beside min() the engine takes the other columns from the same row.
+        return sql + ", min(_rowid_) FROM " + quoted(join.table->name) + " GROUP BY 1)";
+    }
+
+    /// A column as a join compares it: by value when one of the two is a text.
+    [[nodiscard]] static std::string meeting(const Join& join, const std::string& column)
+    {
+        return join.key.isText() || join.of.isText() ? byValue(column) : column;
+    }
+
+    /// @param below true inside "l", where the column comes from a row; false where rows are added up
+    /// already.
+    [[nodiscard]] std::string column(const FieldName& field, bool below) const
+    {
+        if (field.table != m_source.table)
+            return joinName(*field.table) + '.' + alias(field);
+        return below ? "b." + quoted(field.name()) : "l." + alias(field);
+    }
+
+    [[nodiscard]] std::string joined(bool below) const
+    {
+        std::string sql;
+        for (const auto& join : m_joins) {
+            if (!isJoined(*join.table))
+                continue;
+            const std::string name = joinName(*join.table);
+            sql.append(" LEFT JOIN ").append(name).append(" ON ").append(name).append(".k = ");
+            sql += meeting(join, column(join.of, below));
+        }
+        return sql;
+    }
+
+    [[nodiscard]] std::string rows() const
+    {
+        return (m_rows.empty() ? quoted(m_source.table->name) : m_rows) + " b";
+    }
+
+    std::string where()
+    {
+        std::string sql;
+        const auto named = [this](const FieldName& field) {
+            return column(field, true);
+        };
+        if (m_rows.empty() && !m_condition.isAlwaysTrue())
+            sql += " WHERE " + conditionSql(m_condition, named, m_statement.values);
+        if (m_source.where) {
+            sql += sql.empty() ? " WHERE " : " AND ";
+            sql += conditionSql(*m_source.where, named, m_statement.values);
+        }
+        return sql;
+    }
+
+    std::string sums()
+    {
+        std::string columns;
+        std::string groups;
+        int number = 0;
+        for (const auto& field : m_fields) {
+            if (field.table != m_source.table)
+                continue;
+            const std::string plain = "b." + quoted(field.name());
+            ++number;
+            std::string value = "exact_sum(" + plain + ')';
+            if (m_source.isKey(field)) {
+                value = field.isText() ? byValue(plain) : plain;
+                groups += (groups.empty() ? "" : ", ") + std::to_string(number);
+            }
+            columns += (columns.empty() ? "" : ", ") + value + " AS " + alias(field);
+        }
+        return "SELECT " + columns + " FROM " + rows() + (m_joinsBelow ? joined(true) : std::string()) +
+               where() + " GROUP BY " + groups;
+    }
+
+    [[nodiscard]] std::string list() const
+    {
+        std::string sql;
+        for (const auto& field : m_source.fields)
+            sql += (sql.empty() ? "" : ", ") + column(field, !m_source.addsUp());
+        return sql;
+    }
+
+    std::string lines()
+    {
+        if (m_source.addsUp())
+            return 'l' + joined(false);
+        const std::string tables = rows() + joined(true);
+        return tables + where();
+    }
+
+    [[nodiscard]] std::string order() const
+    {
+        std::string sql;
+        const auto add = [&sql](const std::string& term) {
+            sql += (sql.empty() ? " ORDER BY " : ", ") + term;
+        };
+        if (m_source.groupBy) {
+            // Lines without a group are one group, whether the register left the number empty or put zeros.
+            const std::string none = isNoGroup(*m_source.groupBy);
+            add(none);
+            add("CASE WHEN " + none + " THEN NULL ELSE " + column(*m_source.groupBy, !m_source.addsUp()) +
+                " END" + (m_source.groupBy->isText() ? " COLLATE NOCASE" : ""));
+        }
+        for (const auto& key : m_source.order)
+            add(orderTerm(key));
+        return sql;
+    }
+
+    /// True, and so last, for a row without a group: the register left the number empty or put zeros there.
+    [[nodiscard]] std::string isNoGroup(const FieldName& field) const
+    {
+        const std::string group = column(field, !m_source.addsUp());
+        const std::string left = field.isText() ? "ltrim(" + group + ", '0 ')" : group;
+        return "ifnull(" + left + (field.isText() ? ", '') = ''" : ", 0) = 0");
+    }
+
+    [[nodiscard]] std::string orderTerm(const SortKey& key) const
+    {
+        const std::string plain = column(key.field, !m_source.addsUp());
+        if (m_source.isSum(key.field))
+            return "CAST(" + plain + " AS REAL)" + (key.order == Order::Descending ? " DESC" : "");
+        switch (key.order) {
+        case Order::ByValue:
+            return "trim(" + plain + ") COLLATE norvane_digits NULLS LAST";
+        case Order::Descending:
+            return plain + (key.field.isText() ? " COLLATE NOCASE DESC" : " DESC");
+        default:
+            return plain + (key.field.isText() ? " COLLATE NOCASE" : "") + " NULLS LAST";
+        }
+    }
+
+    const LineSource& m_source;
+    const std::vector<Join>& m_joins;
+    const Condition& m_condition;
+    const std::string& m_rows;
+    std::vector<FieldName> m_fields; ///< those of the source first, then those that only the statement needs
+    bool m_joinsBelow = false;
+    LineStatement m_statement;
+};
+
+} // namespace
+
+LineStatement makeLineStatement(const LineSource& source, const std::vector<Join>& joins,
+                                const Condition& condition, const std::string& rows)
+{
+    return Writer(source, joins, condition, rows).write();
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,55 @@
+// See ReportLayout.h.
+#include "reports/lines/ReportLayout.h"
+
+#include <algorithm>
+
+namespace norvane::reports
+{
+
+QString NameList::keyOf(const store::Value& number)
+{
+    const QString text = number.toText().trimmed();
+    qsizetype zeros = 0;
+    while (zeros + 1 < text.size() && text.at(zeros) == u'0')
+        ++zeros;
+    return text.mid(zeros);
+}
+
+bool LineSource::isKey(const FieldName& field) const
+{
+    return std::ranges::find(keys, field) != keys.end();
+}
+
+bool LineSource::isSum(const FieldName& field) const
+{
+    return addsUp() && field.table == table && !isKey(field);
+}
+
+std::optional<FieldName> LineSource::day() const
+{
+    return table->searchedField.isEmpty() ? std::nullopt
+                                          : findField(table->name + u'.' + table->searchedField);
+}
+
+Slot LineSource::slotOf(const FieldName& field)
+{
+    const auto found = std::ranges::find(fields, field);
+    const auto slot = static_cast<Slot>(found - fields.begin());
+    if (found == fields.end())
+        fields.push_back(field);
+    return slot;
+}
+
+bool ReportLayout::reads(const store::TableDefinition& table) const
+{
+    return &table == source.table ||
+           std::ranges::any_of(joins, [&table](const Join& join) { return join.table == &table; });
+}
+
+bool ReportLayout::needsWhole() const
+{
+    return std::ranges::any_of(
+        columns, [](const ColumnLayout& column) { return column.number && column.number->needsWhole(); });
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,184 @@
+// See ReportQuery.h.
+#include "reports/lines/ReportQuery.h"
+
+#include "platform/RuntimeFailure.h"
+#include "platform/Windows1252.h"
+#include "reports/lines/LineStatement.h"
+#include "store/catalogue/Catalogue.h"
+#include "store/engine/BoundQuery.h"
+
+#include <QLocale>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+constexpr int usualDecimals = 2;
+constexpr int mostMoneyDecimals = 3;
+
+} // namespace
+
+ReportQuery::ReportQuery(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing)
+    : m_layout(layout), m_keepGoing(keepGoing), m_showStep(request.showStep), m_dataFile(request.dataFile),
+      m_database(request.dataFile)
+{
+    checkTables();
+}
+
+void ReportQuery::checkTables() const
+{
+    QVector<const store::TableDefinition*> tables{m_layout.source.table};
+    for (const auto& join : m_layout.joins)
+        tables.append(join.table);
+    for (const auto* table : tables) {
+        if (!m_database.hasTable(table->name))
+            throw ReportError(u"%1: the database has no table %2."_s.arg(m_dataFile, table->name));
+    }
+    for (const auto& field : m_layout.source.fields) {
+        if (store::fieldNamed(m_database.table(field.table->name), field.name()) == nullptr)
+            throw ReportError(u"%1: the database has no field %2."_s.arg(m_dataFile, field.text()));
+    }
+}
+
+void ReportQuery::select(const Condition& condition, QDate today)
+{
+    m_condition = condition;
+    m_today = today;
+}
+
+void ReportQuery::run(const LineSource& source, const std::function<void(const LineFields&)>& take)
+{
+    auto statement = makeLineStatement(source, m_layout.joins, m_condition, monthRows(source));
+    store::BoundQuery query(m_database, statement.sql, std::move(statement.values), m_layout.path,
+                            m_keepGoing);
+    LineFields fields(source.fields.size());
+    try {
+        while (query.next()) {
+            for (std::size_t i = 0; i < fields.size(); ++i)
+                fields[i] = query.value(static_cast<int>(i));
+            take(fields);
+        }
+    } catch (const RuntimeFailure&) {
+        if (query.wasGivenUp())
+            throw ReportCancelled();
+        throw;
+    }
+}
+
+/// The source of a statement that adds up totals of months in place of rows. It can when the selection asks
+/// for days alone and the lines do not depend on the day. @return empty text when the rows must be read.
+std::string ReportQuery::monthRows(const LineSource& source)
+{
+    const auto day = source.day();
+    if (!source.addsUp() || !day || source.isKey(*day) || !isOnlyPeriod(m_condition, *day))
+        return {};
+    const auto period = periodOf(m_condition, *day);
+    const auto needsRows = [&source](const FieldName& field) {
+        return !source.isKey(field);
+    };
+    if (!period || period->isOpen() || (source.where && mentions(*source.where, needsRows)))
+        return {};
+    store::MonthTotals totals(m_database, source.table->name);
+    if (!totals.available())
+        return {};
+    const store::DayRange days{period->from, period->to};
+    addUpMissing(totals, days);
+    QStringList fields;
+    for (const auto& field : source.fields) {
+        if (field.table == source.table)
+            fields.append(field.name());
+    }
+    for (const auto& key : source.keys) {
+        if (!fields.contains(key.name()))
+            fields.append(key.name());
+    }
+    return totals.rows(days, fields).toStdString();
+}
+
+/// Another program that reads keeps the totals from being stored for as long as it likes. Reading the rows
+/// takes less time than waiting for it, and a report has several queries that would each wait.
+void ReportQuery::addUpMissing(store::MonthTotals& totals, const store::DayRange& days)
+{
+    if (!m_mayAddUp)
+        return;
+    const store::ShortWait wait(m_database);
+    m_mayAddUp = totals.addUpMissing(days, m_today, [this](QDate month) { return beginMonth(month); });
+    if (!m_mayAddUp && m_showStep)
+        m_showStep(u"Reading the sales day by day"_s);
+}
+
+/// A database without totals of months, as earlier versions made it, takes some seconds for each year, once.
+bool ReportQuery::beginMonth(QDate month) const
+{
+    if (m_showStep)
+        m_showStep(u"Adding up the sales of %1"_s.arg(QLocale().toString(month, u"MMMM yyyy"_s)));
+    return !m_keepGoing || m_keepGoing();
+}
+
+std::optional<SalesDays> ReportQuery::salesDays(const Period& period)
+{
+    if (period.isOpen())
+        return std::nullopt;
+    return reports::salesDays(m_database, period, m_today, m_keepGoing);
+}
+
+/// The field in the first record of a table of settings; null if there is none.
+store::Value ReportQuery::setting(const QString& table, const QString& field)
+{
+    if (!m_database.hasTable(table))
+        return {};
+    store::BoundQuery query(
+        m_database, u"SELECT \"%1\" FROM \"%2\" ORDER BY ID LIMIT 1"_s.arg(field, table).toStdString(), {},
+        m_dataFile);
+    return query.next() ? query.value(0) : store::Value();
+}
+
+/// The registers keep the sign as the code of a character.
+QString ReportQuery::currencySign()
+{
+    constexpr double lowest = 33;
+    constexpr double highest = 255;
+    const double code = setting(u"GENERALPRINTOPTION"_s, u"HOMESYMBOL"_s).toNumber();
+    if (code < lowest || code > highest)
+        return {};
+    return fromWindows1252(QByteArray(1, static_cast<char>(static_cast<int>(code))));
+}
+
+MoneyFormat ReportQuery::moneyFormat()
+{
+    const store::Value places = setting(u"smode"_s, u"DECIMALPlace"_s);
+    const double decimals = places.isNull() ? usualDecimals : places.toNumber();
+    const bool isUsual = decimals < 0 || decimals > mostMoneyDecimals;
+    return {isUsual ? usualDecimals : static_cast<int>(decimals), currencySign()};
+}
+
+void ReportQuery::readNames(const MoneyFormat& money)
+{
+    for (const auto& list : m_layout.nameLists)
+        readList(*list, money);
+}
+
+/// Of several records with the same number the first counts.
+void ReportQuery::readList(NameList& list, const MoneyFormat& money)
+{
+    if (!m_database.hasTable(list.name.table->name))
+        return;
+    const QString sql =
+        u"SELECT \"%1\", \"%2\" FROM \"%3\""_s.arg(list.key.name(), list.name.name(), list.name.table->name);
+    store::BoundQuery query(m_database, sql.toStdString(), {}, m_dataFile, m_keepGoing);
+    while (query.next()) {
+        const QString key = NameList::keyOf(query.value(0));
+        const store::Value& name = query.value(1);
+        if (list.names.contains(key))
+            continue;
+        list.names.insert(key, name.isDouble() ? dressed(shownNumber(Decimal::fromDouble(name.toNumber()),
+                                                                     money.decimals, money.decimals),
+                                                         {true, money.currency})
+                                               : name.toText().trimmed());
+    }
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,57 @@
+// Runs the statements of one report on the customer's database.
+#pragma once
+
+#include "reports/lines/FieldTexts.h"
+#include "reports/lines/ReportLayout.h"
+#include "reports/lines/ReportRun.h"
+#include "reports/lines/SalesDays.h"
+#include "store/engine/Database.h"
+#include "store/sales/MonthTotals.h"
+
+#include <functional>
+
+namespace norvane::reports
+{
+
+/// The opened database and the selection of a report. A long statement asks @p keepGoing now and then.
+class ReportQuery
+{
+public:
+    /// @throws RuntimeFailure when the database cannot be opened, ReportError when it lacks a table or field
+    /// that the report reads.
+    ReportQuery(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing);
+
+    /// @param condition names only tables that the report reads. @param today: months that ended before it
+    /// are read from their totals.
+    void select(const Condition& condition, QDate today);
+    /// Hands the fields of one line after another to @p take.
+    /// @throws ReportCancelled, RuntimeFailure
+    void run(const LineSource& source, const std::function<void(const LineFields&)>& take);
+    /// See SalesDays; nothing for a report over a table without sales too.
+    [[nodiscard]] std::optional<SalesDays> salesDays(const Period& period);
+    /// How this shop shows money: with two decimal places and no currency sign if its settings have none.
+    [[nodiscard]] MoneyFormat moneyFormat();
+    /// Fills the lists of names that the layout looks up.
+    /// @param money for names that are amounts.
+    void readNames(const MoneyFormat& money);
+
+private:
+    void checkTables() const;
+    [[nodiscard]] store::Value setting(const QString& table, const QString& field);
+    [[nodiscard]] QString currencySign();
+    void readList(NameList& list, const MoneyFormat& money);
+    [[nodiscard]] std::string monthRows(const LineSource& source);
+    void addUpMissing(store::MonthTotals& totals, const store::DayRange& days);
+    [[nodiscard]] bool beginMonth(QDate month) const;
+
+    const ReportLayout& m_layout;
+    const KeepGoing& m_keepGoing;
+    const std::function<void(const QString&)>& m_showStep;
+    QString m_dataFile;
+    store::Database m_database;
+    Condition m_condition;
+    QDate m_today;
+    bool m_mayAddUp = true; ///< false once months could not be added up
+};
+
+} // namespace norvane::reports

@@ -1,0 +1,274 @@
+// Makes a report's lines from its layout; see ReportRun.h.
+#include "reports/lines/ReportRun.h"
+
+#include "platform/RuntimeFailure.h"
+#include "reports/formula/ExactNumbers.h"
+#include "reports/lines/LayoutReader.h"
+#include "reports/lines/LineBuilder.h"
+#include "reports/lines/ReportQuery.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+/// Columns that are wider than this together do not fit an upright sheet.
+constexpr double uprightMillimetres = 190;
+/// Characters of a formula in the heading, so that room is left for the lines.
+constexpr qsizetype longestShownFormula = 200;
+
+QString shortened(const QString& formula)
+{
+    return formula.size() <= longestShownFormula ? formula : formula.left(longestShownFormula) + u"..."_s;
+}
+
+/// Adds the days without sales to a chart over days, at zero.
+class DayFiller
+{
+public:
+    DayFiller(ChartPoints& points, std::size_t daySlot, std::size_t slots)
+        : m_points(points), m_daySlot(daySlot), m_fields(slots), m_zeros(slots, "0")
+    {
+    }
+
+    void begin(QDate first) { m_next = first; }
+    /// Adds the days before @p day, which comes next. An invalid day adds nothing.
+    void fillUpTo(QDate day)
+    {
+        for (; m_next.isValid() && day.isValid() && m_next < day; m_next = m_next.addDays(1)) {
+            m_fields[m_daySlot] = store::Value::date(m_next);
+            m_points.add(textOf(m_points.layout().label, m_fields), {m_zeros, {}}, m_next);
+        }
+        if (day.isValid())
+            m_next = day.addDays(1);
+    }
+
+private:
+    ChartPoints& m_points;
+    std::size_t m_daySlot;
+    LineFields m_fields;
+    std::vector<std::string> m_zeros;
+    QDate m_next; ///< the day that is expected next
+};
+
+QString uncollectedText(int days)
+{
+    return days == 1 ? u"1 day without a collection"_s : u"%1 days without a collection"_s.arg(days);
+}
+
+class Run
+{
+public:
+    Run(const ReportRequest& request, const KeepGoing& keepGoing)
+        : m_request(request), m_layout(readLayout(request.reportFile)), m_query(request, m_layout, keepGoing)
+    {
+    }
+
+    ReportData make()
+    {
+        select();
+        const MoneyFormat money = m_query.moneyFormat();
+        setMoney(money);
+        m_query.readNames(money);
+        ReportData data(columns());
+        ChartBuilder charts(m_layout);
+        addLines(data, charts);
+        if (m_period)
+            m_days = m_query.salesDays(*m_period);
+        addCharts(data, charts, money);
+        setHeading(data.heading);
+        if (data.lineCount() == 0)
+            data.heading.notice = notice();
+        data.page = {isLandscape(data), m_layout.orientation == Orientation::Automatic};
+        return data;
+    }
+
+private:
+    void select();
+    void setMoney(const MoneyFormat& money);
+    [[nodiscard]] std::vector<ReportColumn> columns() const;
+    void addLines(ReportData& data, ChartBuilder& charts);
+    void addWholeLines(ReportData& data, ChartBuilder& charts);
+    void addCharts(ReportData& data, ChartBuilder& charts, const MoneyFormat& money);
+    void runChart(ChartPoints& points);
+    void setHeading(ReportHeading& heading) const;
+    [[nodiscard]] QString subtitle() const;
+    [[nodiscard]] QString notice() const;
+    [[nodiscard]] bool isLandscape(const ReportData& data) const;
+
+    const ReportRequest& m_request;
+    ReportLayout m_layout;
+    ReportQuery m_query;
+    std::optional<Period> m_period;
+    bool m_isOnlyPeriod = true;      ///< the selection asks for days alone, or for nothing
+    std::optional<SalesDays> m_days; ///< of the period
+    bool m_lacksChart = false;       ///< one has a value that is too large to draw
+    QStringList m_otherTables;
+};
+
+void Run::select()
+{
+    const QDate today = m_request.now.date();
+    try {
+        const auto whole = parseSelection(m_request.selectionFormula, today);
+        const auto reads = [this](const store::TableDefinition& table) {
+            return m_layout.reads(table);
+        };
+        const auto condition = restrictedTo(whole, reads, m_otherTables);
+        if (const auto day = m_layout.source.day()) {
+            m_period = periodOf(condition, *day);
+            m_isOnlyPeriod = condition.isAlwaysTrue() || isOnlyPeriod(condition, *day);
+        } else {
+            m_isOnlyPeriod = condition.isAlwaysTrue();
+        }
+        m_query.select(condition, today);
+    } catch (const FormulaError& error) {
+        throw ReportError(u"%1: mistake in the selection formula, %2."_s.arg(m_layout.path, error.text()));
+    }
+}
+
+void Run::setMoney(const MoneyFormat& money)
+{
+    for (auto& layout : m_layout.columns) {
+        layout.column.dress.isGrouped = layout.format.isGrouped();
+        if (layout.format.kind != FormatKind::Money)
+            continue;
+        layout.column.leastDecimals = layout.column.mostDecimals = money.decimals;
+        layout.column.dress.currency = money.currency;
+    }
+}
+
+std::vector<ReportColumn> Run::columns() const
+{
+    std::vector<ReportColumn> columns;
+    for (const auto& layout : m_layout.columns)
+        columns.push_back(layout.column);
+    return columns;
+}
+
+void Run::addLines(ReportData& data, ChartBuilder& charts)
+{
+    if (m_layout.needsWhole())
+        return addWholeLines(data, charts);
+    LineBuilder builder(m_layout, data, charts, {});
+    m_query.run(m_layout.source, [&builder](const LineFields& fields) { builder.add(fields); });
+    builder.finish();
+}
+
+/// Shares of the whole are known only when all lines are read, so the lines are kept until then.
+void Run::addWholeLines(ReportData& data, ChartBuilder& charts)
+{
+    std::vector<LineFields> lines;
+    LineNumbers numbers(m_layout);
+    SlotTotals totals(m_layout.source.fields.size());
+    m_query.run(m_layout.source, [&](const LineFields& fields) {
+        numbers.read(fields);
+        totals.add(numbers.numbers());
+        lines.push_back(fields);
+    });
+    LineBuilder builder(m_layout, data, charts, totals.texts());
+    for (const auto& fields : lines)
+        builder.add(fields);
+    builder.finish();
+}
+
+void Run::addCharts(ReportData& data, ChartBuilder& charts, const MoneyFormat& money)
+{
+    for (auto& points : charts.charts()) {
+        if (points.layout().from == PointSource::Query)
+            runChart(points);
+        auto chart = points.finished(money);
+        m_lacksChart = m_lacksChart || points.isTooLarge();
+        if (!chart.points.empty())
+            data.charts.push_back(std::move(chart));
+    }
+}
+
+void Run::runChart(ChartPoints& points)
+{
+    const auto& source = *points.layout().query;
+    const auto key = static_cast<std::size_t>(std::ranges::find(source.fields, source.keys.front()) -
+                                              source.fields.begin());
+    const bool isOverDays = key < source.fields.size() && source.day() == source.keys.front();
+    DayFiller filler(points, key, source.fields.size());
+    std::vector<std::string> numbers(source.fields.size());
+    bool hasRows = false;
+    if (isOverDays && m_days)
+        filler.begin(m_days->first);
+    m_query.run(source, [&](const LineFields& fields) {
+        std::ranges::transform(fields, numbers.begin(), exactText);
+        const QDate day = isOverDays ? fields[key].toDate() : QDate();
+        hasRows = true;
+        filler.fillUpTo(day);
+        points.add(textOf(points.layout().label, fields), {numbers, {}}, day);
+    });
+    if (isOverDays && m_days && hasRows)
+        filler.fillUpTo(m_days->last.addDays(1));
+}
+
+/// The report's title is the heading of the pages, and the title of the window if none is set for it. A
+/// window's title is never the heading of the pages.
+void Run::setHeading(ReportHeading& heading) const
+{
+    heading.title = m_request.reportTitle.isEmpty() ? m_layout.title : m_request.reportTitle;
+    heading.windowTitle = m_request.windowTitle.isEmpty() ? heading.title : m_request.windowTitle;
+    heading.subtitle = subtitle();
+    heading.customer = m_request.customer;
+    heading.printed = m_request.now;
+    if (m_period) {
+        heading.from = m_period->from;
+        heading.to = m_period->to;
+    }
+}
+
+QString Run::subtitle() const
+{
+    QStringList parts;
+    if (m_period)
+        parts.append(m_period->text());
+    if (m_days && m_days->uncollected > 0 && m_period->from != m_period->to)
+        parts.append(uncollectedText(m_days->uncollected));
+    if (!m_isOnlyPeriod)
+        parts.append(u"selected by %1"_s.arg(shortened(m_request.selectionFormula)));
+    if (!m_otherTables.isEmpty())
+        parts.append(u"the selection names another table (%1)"_s.arg(m_otherTables.join(u", "_s)));
+    if (m_lacksChart)
+        parts.append(u"a chart is left out because a sum has more than 18 digits"_s);
+    QString text = parts.join(u"; "_s);
+    if (!text.isEmpty())
+        text.front() = text.front().toUpper();
+    return text;
+}
+
+QString Run::notice() const
+{
+    const QString nothing = u"There is nothing to show"_s;
+    return m_period ? u"%1: %2."_s.arg(nothing, m_period->text()) : nothing + u'.';
+}
+
+bool Run::isLandscape(const ReportData& data) const
+{
+    paper::Length width;
+    for (const auto& column : data.columns())
+        width = width + column.width;
+    const bool isWide = width > paper::millimetres(uprightMillimetres);
+    return m_layout.orientation == Orientation::Landscape ||
+           (m_layout.orientation == Orientation::Automatic && isWide);
+}
+
+} // namespace
+
+ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing)
+{
+    try {
+        return Run(request, keepGoing).make();
+    } catch (const RuntimeFailure& failure) {
+        throw ReportError(u"%1: %2"_s.arg(request.dataFile, failure.text()));
+    }
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,32 @@
+// Runs a report: makes its lines from a layout file, the customer's database and a selection.
+#pragma once
+
+#include "reports/lines/KeepGoing.h"
+#include "reports/lines/ReportData.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace norvane::reports
+{
+
+/// What a report is run over.
+struct ReportRequest {
+    QString reportFile;       ///< path of the layout; found without regard to case
+    QString dataFile;         ///< path of the customer's database
+    QString reportTitle;      ///< heading on the pages; empty for the layout's own
+    QString windowTitle;      ///< of the preview; empty for the report's title
+    QString selectionFormula; ///< empty for all rows
+    QString customer;
+    QDateTime now; ///< the moment of the run: periods end on this day
+    /// Called with the name of each step that takes long.
+    std::function<void(const QString& step)> showStep = {};
+};
+
+/// @return the report. When no row is selected, its heading has a notice that says so.
+/// @throws ReportError for a layout, formula, database or number that is not as it should be, and
+/// ReportCancelled when @p keepGoing returns false.
+[[nodiscard]] ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing = {});
+
+} // namespace norvane::reports

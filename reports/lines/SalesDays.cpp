@@ -1,0 +1,65 @@
+// See SalesDays.h.
+#include "reports/lines/SalesDays.h"
+
+#include "store/catalogue/SalesTables.h"
+#include "store/engine/BoundQuery.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <string>
+
+namespace norvane::reports
+{
+namespace
+{
+
+namespace salestable = store::salestable;
+
+/// A collection leaves out lines that are zero, so a day may have rows in one table only.
+constexpr std::array tables{salestable::times, salestable::clerks, salestable::plus, salestable::mixes,
+                            salestable::financials};
+
+/// From the last day before the period, or else the first of all, each step finds the next day by the index:
+/// a table of many years is not read completely.
+std::string daysOf(const char* table)
+{
+    const std::string day = salestable::day;
+    const std::string from = " FROM " + std::string(table) + " WHERE " + day;
+    return "WITH RECURSIVE d(day) AS (SELECT ifnull((SELECT max(" + day + ')' + from + " < ?), (SELECT min(" +
+           day + ')' + from + " <= ?)) UNION ALL SELECT (SELECT min(" + day + ')' + from + " > d.day AND " +
+           day + " <= ?) FROM d WHERE d.day IS NOT NULL) SELECT day FROM d WHERE day IS NOT NULL";
+}
+
+void collectDays(store::Database& database, const char* table, const Period& period,
+                 const std::function<bool()>& keepGoing, std::set<QDate>& days)
+{
+    if (!database.hasTable(QLatin1String(table)))
+        return;
+    const auto to = store::Value::date(period.to);
+    store::BoundQuery query(database, daysOf(table), {store::Value::date(period.from), to, to},
+                            QLatin1String(table), keepGoing);
+    while (query.next())
+        days.insert(query.value(0).toDate());
+}
+
+} // namespace
+
+std::optional<SalesDays> salesDays(store::Database& database, const Period& period, QDate today,
+                                   const std::function<bool()>& keepGoing)
+{
+    std::set<QDate> days;
+    for (const char* const table : tables)
+        collectDays(database, table, period, keepGoing, days);
+    if (days.empty())
+        return std::nullopt;
+    SalesDays found{std::max(period.from, *days.begin()),
+                    std::min(period.to, days.contains(today) ? today : today.addDays(-1))};
+    if (found.first > found.last)
+        return std::nullopt;
+    const auto collected = std::distance(days.lower_bound(found.first), days.upper_bound(found.last));
+    found.uncollected = static_cast<int>(found.first.daysTo(found.last) + 1 - collected);
+    return found;
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,26 @@
+// The days of a period on which the shop collected its sales.
+#pragma once
+
+#include "reports/formula/Period.h"
+#include "store/engine/Database.h"
+
+#include <functional>
+#include <optional>
+
+namespace norvane::reports
+{
+
+/// The part of a period in which sales can be expected: from the shop's first collection on, and up to
+/// yesterday or, once it is collected, today.
+struct SalesDays {
+    QDate first;
+    QDate last;
+    int uncollected = 0; ///< days from first to last without a row in any table of sales
+};
+
+/// @param period not open. @return nothing when no day of the period can be expected to have sales.
+/// @throws RuntimeFailure what the database reports.
+[[nodiscard]] std::optional<SalesDays> salesDays(store::Database& database, const Period& period, QDate today,
+                                                 const std::function<bool()>& keepGoing);
+
+} // namespace norvane::reports

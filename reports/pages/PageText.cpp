@@ -1,0 +1,122 @@
+// See PageText.h.
+#include "reports/pages/PageText.h"
+
+#include "paper/UnroundedFont.h"
+
+#include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
+
+namespace norvane::reports
+{
+namespace
+{
+
+using paper::unitsPerSquare;
+
+QFont pageFont(bool isBold)
+{
+    QFont font;
+    font.setBold(isBold);
+    return paper::unrounded(font);
+}
+
+bool isControl(QChar letter)
+{
+    return letter.category() == QChar::Other_Control;
+}
+
+QStringList rowsOf(const QTextLayout& layout)
+{
+    QStringList rows;
+    for (int row = 0; row < layout.lineCount(); ++row) {
+        const QTextLine line = layout.lineAt(row);
+        rows << layout.text().mid(line.textStart(), line.textLength()).trimmed();
+    }
+    return rows;
+}
+
+} // namespace
+
+QString printable(QString text)
+{
+    if (std::any_of(text.cbegin(), text.cend(), isControl))
+        std::replace_if(text.begin(), text.end(), isControl, u' ');
+    return text;
+}
+
+PageText::Face::Face(bool isBold) : font(pageFont(isBold)), metrics(font)
+{
+    for (std::size_t code = 0; code < advances.size(); ++code) {
+        const QChar letter(static_cast<char16_t>(code));
+        advances[code] = metrics.horizontalAdvance(isControl(letter) ? QChar(u' ') : letter);
+    }
+}
+
+PageText::PageText() = default;
+
+double PageText::width(QStringView text, const TextStyle& style) const
+{
+    const Face& letters = face(style);
+    double units = 0;
+    for (const QChar letter : text) {
+        if (letter.unicode() >= letters.advances.size())
+            return letters.metrics.horizontalAdvance(text.toString()) * style.size / unitsPerSquare;
+        units += letters.advances[letter.unicode()];
+    }
+    return units * style.size / unitsPerSquare;
+}
+
+QStringList PageText::wrapped(const QString& text, const TextStyle& style, double width) const
+{
+    return rows(text, style, width, QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+QStringList PageText::wrappedWords(const QString& text, const TextStyle& style, double width) const
+{
+    return rows(text, style, width, QTextOption::WordWrap);
+}
+
+QStringList PageText::rows(const QString& text, const TextStyle& style, double width,
+                           QTextOption::WrapMode mode) const
+{
+    if (this->width(text, style) <= width)
+        return {text};
+    QTextLayout layout(printable(text), face(style).font);
+    QTextOption option;
+    option.setWrapMode(mode);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
+        line.setLineWidth(std::max(width, style.size) * unitsPerSquare / style.size);
+    layout.endLayout();
+    return rowsOf(layout);
+}
+
+QString PageText::elided(const QString& text, const TextStyle& style, double width) const
+{
+    return face(style).metrics.elidedText(printable(text), Qt::ElideRight,
+                                          width * unitsPerSquare / style.size);
+}
+
+void PageText::draw(QPainter& painter, const QRectF& place, const QString& text, const TextStyle& style,
+                    Alignment alignment) const
+{
+    const Face& letters = face(style);
+    const double natural = width(text, style);
+    const double narrowed = natural > place.width() ? place.width() / natural : 1;
+    const double free = place.width() - natural * narrowed;
+    const double left = alignment == Alignment::Left ? 0 : alignment == Alignment::Right ? free : free / 2;
+    const double scale = style.size / unitsPerSquare;
+    const double baseline = (letters.metrics.ascent() - letters.metrics.descent()) / 2 * scale;
+    painter.save();
+    painter.translate(place.left() + left, place.center().y() + baseline);
+    painter.scale(scale * narrowed, scale);
+    painter.setFont(letters.font);
+    painter.setPen(style.colour);
+    painter.drawText(QPointF(), printable(text));
+    painter.restore();
+}
+
+} // namespace norvane::reports

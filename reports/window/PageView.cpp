@@ -1,0 +1,302 @@
+// See PageView.h.
+#include "reports/window/PageView.h"
+
+#include "ui/Appearance.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+constexpr int gap = 12; ///< around pages, in pixels
+constexpr int arrowStep = 40;
+
+} // namespace
+
+PageView::PageView(const ReportDocument& document, QWidget* parent)
+    : QAbstractScrollArea(parent), m_document(document)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    verticalScrollBar()->setSingleStep(arrowStep);
+    horizontalScrollBar()->setSingleStep(arrowStep);
+    // If the bar appeared only with the second page, the first one would become narrower while it is read.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+void PageView::setZoom(Zoom zoom)
+{
+    m_zoom = zoom;
+    keepPlace([this] { updateScale(); });
+}
+
+void PageView::updatePages()
+{
+    updateBars();
+    viewport()->update();
+    Q_EMIT currentPageChanged();
+}
+
+double PageView::pagePitch() const
+{
+    return sheet().height() * m_scale + gap;
+}
+
+/// The place of a page in the viewport, in pixels.
+QRectF PageView::pageRect(int page) const
+{
+    const QSizeF size = sheet().size() * m_scale;
+    const double left = qMax<double>(gap, (viewport()->width() - size.width()) / 2);
+    return {QPointF(left - horizontalScrollBar()->value(),
+                    gap + page * pagePitch() - verticalScrollBar()->value()),
+            size};
+}
+
+int PageView::currentPage() const
+{
+    const int middle = verticalScrollBar()->value() + viewport()->height() / 3;
+    return qBound(0, static_cast<int>((middle - gap) / pagePitch()), m_document.pages().pageCount() - 1);
+}
+
+void PageView::goToPage(int page)
+{
+    const int last = m_document.pages().pageCount() - 1;
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(qBound(0, page, last) * pagePitch())));
+}
+
+void PageView::updateScale()
+{
+    const double wide = (viewport()->width() - 2 * gap) / sheet().width();
+    const double high = (viewport()->height() - 2 * gap) / sheet().height();
+    const double trueSize = paper::millimetres(1).inDots(paper::screenDotsPerInch);
+    const double wanted = m_zoom == Zoom::FitWidth  ? wide
+                          : m_zoom == Zoom::FitPage ? qMin(wide, high)
+                                                    : trueSize;
+    m_scale = qMax(wanted, 0.2);
+    updateBars();
+    viewport()->update();
+}
+
+void PageView::updateBars()
+{
+    const double height = gap + m_document.pages().pageCount() * pagePitch();
+    const double width = sheet().width() * m_scale + 2 * gap;
+    verticalScrollBar()->setPageStep(viewport()->height());
+    verticalScrollBar()->setRange(0, qMax(0, static_cast<int>(height) - viewport()->height()));
+    horizontalScrollBar()->setPageStep(viewport()->width());
+    horizontalScrollBar()->setRange(0, qMax(0, static_cast<int>(width) - viewport()->width()));
+}
+
+/// Makes a change of the pages' size and then shows the same part of them as before.
+void PageView::keepPlace(const std::function<void()>& change)
+{
+    const double place = verticalScrollBar()->value() / pagePitch();
+    change();
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(place * pagePitch())));
+    Q_EMIT currentPageChanged();
+}
+
+void PageView::resizeEvent(QResizeEvent* /*event*/)
+{
+    keepPlace([this] { updateScale(); });
+}
+
+void PageView::scrollContentsBy(int /*dx*/, int /*dy*/)
+{
+    viewport()->update();
+    Q_EMIT currentPageChanged();
+}
+
+void PageView::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), ui::colours::desktop());
+    const auto first = static_cast<int>((verticalScrollBar()->value() - gap) / pagePitch());
+    for (int page = qMax(0, first); page < m_document.pages().pageCount(); ++page) {
+        if (pageRect(page).top() > viewport()->height())
+            return;
+        paintPage(painter, page);
+    }
+}
+
+void PageView::paintPage(QPainter& painter, int page) const
+{
+    const QRectF rect = pageRect(page);
+    painter.fillRect(rect, Qt::white);
+    painter.save();
+    painter.translate(rect.topLeft());
+    painter.scale(m_scale, m_scale);
+    m_document.paint(painter, page);
+    if (hasChosen())
+        paintChosen(painter, page);
+    painter.restore();
+}
+
+bool PageView::isChosen(const PlacedLine& line) const
+{
+    return hasChosen() && !line.isContinued && line.line >= firstChosen() && line.line <= lastChosen();
+}
+
+void PageView::paintChosen(QPainter& painter, int page) const
+{
+    QColor colour = ui::colours::accent;
+    colour.setAlphaF(0.25F);
+    for (const PlacedLine& line : m_document.pages().placedLines(page)) {
+        if (isChosen(line))
+            painter.fillRect(line.place, colour);
+    }
+}
+
+void PageView::keyPressEvent(QKeyEvent* event)
+{
+    const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
+    const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
+    if (step != 0 && extends && hasChosen()) {
+        extendBy(step);
+    } else if (step != 0) {
+        scrollBy(step * arrowStep);
+    } else if (event->key() == Qt::Key_Space) {
+        scrollBy((viewport()->height() - arrowStep) * (extends ? -1 : 1));
+    } else if (!turnPage(event->key())) {
+        QAbstractScrollArea::keyPressEvent(event);
+    }
+}
+
+bool PageView::turnPage(int key)
+{
+    switch (key) {
+    case Qt::Key_PageDown:
+        goToPage(currentPage() + 1);
+        return true;
+    case Qt::Key_PageUp:
+        // First to the top of this page, then to the one before.
+        goToPage(pageRect(currentPage()).top() < 0 ? currentPage() : currentPage() - 1);
+        return true;
+    case Qt::Key_Home:
+        goToPage(0);
+        return true;
+    case Qt::Key_End:
+        goToPage(m_document.pages().pageCount() - 1);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void PageView::scrollBy(int pixels)
+{
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + pixels);
+}
+
+void PageView::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        choose(lineAt(event->pos()), event->modifiers().testFlag(Qt::ShiftModifier));
+}
+
+void PageView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons().testFlag(Qt::LeftButton))
+        choose(lineAt(event->pos()), true);
+}
+
+/// A press beside the lines chooses nothing; a drag there changes nothing.
+void PageView::choose(qsizetype line, bool extends)
+{
+    if (line < 0 && extends)
+        return;
+    m_current = line;
+    if (!extends || m_anchor < 0)
+        m_anchor = line;
+    viewport()->update();
+}
+
+void PageView::extendBy(int lines)
+{
+    choose(qBound<qsizetype>(0, m_current + lines, m_document.report().lineCount() - 1), true);
+    reveal(m_current);
+}
+
+void PageView::chooseAll()
+{
+    m_anchor = m_document.report().lineCount() > 0 ? 0 : -1;
+    m_current = m_document.report().lineCount() - 1;
+    viewport()->update();
+}
+
+qsizetype PageView::lineAt(QPoint place) const
+{
+    for (int page = 0; page < m_document.pages().pageCount(); ++page) {
+        const QRectF rect = pageRect(page);
+        if (rect.contains(place))
+            return lineOnPage(page, (place.y() - rect.top()) / m_scale);
+    }
+    return -1;
+}
+
+qsizetype PageView::lineOnPage(int page, double y) const
+{
+    for (const PlacedLine& line : m_document.pages().placedLines(page)) {
+        if (!line.isContinued && y >= line.place.top() && y < line.place.bottom())
+            return line.line;
+    }
+    return -1;
+}
+
+void PageView::showLine(qsizetype line)
+{
+    choose(line, false);
+    reveal(line);
+}
+
+/// Scrolls a line that is out of sight to the middle of the view.
+void PageView::reveal(qsizetype line)
+{
+    const auto page = m_document.pages().pageOfLine(line);
+    if (!page)
+        return;
+    const auto placed = m_document.pages().placedLines(*page);
+    const auto found = std::ranges::find_if(
+        placed, [&](const PlacedLine& one) { return one.line == line && !one.isContinued; });
+    const double top = pageRect(*page).top() + found->place.top() * m_scale;
+    const double bottom = top + found->place.height() * m_scale;
+    if (top < 0 || bottom > viewport()->height())
+        scrollBy(static_cast<int>(top) - viewport()->height() / 2);
+    say(line);
+}
+
+void PageView::say(qsizetype line)
+{
+    const auto placed = m_document.pages().placedLines(currentPage());
+    const auto found = std::ranges::find(placed, line, &PlacedLine::line);
+    if (found != placed.end())
+        ui::sayItem(*this, static_cast<int>(found - placed.begin()));
+}
+
+int PageView::spokenItemCount() const
+{
+    return static_cast<int>(m_document.pages().placedLines(currentPage()).size());
+}
+
+ui::SpokenItem PageView::spokenItem(int index) const
+{
+    const PlacedLine line = m_document.pages().placedLines(currentPage()).at(static_cast<std::size_t>(index));
+    const ReportData& report = m_document.report();
+    QStringList cells;
+    for (int column = 0; column < report.columnCount(); ++column)
+        cells << printable(report.text(line.line, column));
+    cells.removeAll(QString());
+    const QRectF place(pageRect(currentPage()).topLeft() + line.place.topLeft() * m_scale,
+                       line.place.size() * m_scale);
+    return {cells.join(u", "_s), {}, place.toAlignedRect(), isChosen(line)};
+}
+
+} // namespace norvane::reports

@@ -1,0 +1,83 @@
+// The pages of a report on the screen, one below the other.
+#pragma once
+
+#include "reports/pages/ReportDocument.h"
+#include "ui/SpokenItems.h"
+
+#include <QAbstractScrollArea>
+
+#include <functional>
+
+namespace norvane::reports
+{
+
+enum class Zoom { FitWidth, FitPage, TrueSize };
+
+/// Pages are turned with Page Up, Page Down, Home and End, and scrolled with wheel, arrows and the space bar.
+/// Lines are chosen with the mouse, or with Shift and the arrows from the line that was found or clicked.
+/// Screen readers find the lines of the current page.
+class PageView : public QAbstractScrollArea, public ui::SpokenItems
+{
+    Q_OBJECT
+
+public:
+    /// @p document must outlive this.
+    PageView(const ReportDocument& document, QWidget* parent);
+
+    void setZoom(Zoom zoom);
+    /// To be called when further pages are laid out, or all pages are new.
+    void updatePages();
+
+    /// The page in the upper part of the view, from 0.
+    [[nodiscard]] int currentPage() const;
+    /// Shows the top of @p page, or of the last one before it.
+    void goToPage(int page);
+
+    /// Selects only @p line and scrolls to its page.
+    void showLine(qsizetype line);
+    void chooseAll();
+    [[nodiscard]] bool hasChosen() const { return m_anchor >= 0; }
+    [[nodiscard]] qsizetype firstChosen() const { return qMin(m_anchor, m_current); }
+    [[nodiscard]] qsizetype lastChosen() const { return qMax(m_anchor, m_current); }
+
+    [[nodiscard]] int spokenItemCount() const override;
+    [[nodiscard]] ui::SpokenItem spokenItem(int index) const override;
+
+Q_SIGNALS:
+    void currentPageChanged();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    [[nodiscard]] const QRectF& sheet() const { return m_document.pages().frame().sheet; }
+    [[nodiscard]] double pagePitch() const;
+    [[nodiscard]] QRectF pageRect(int page) const;
+    [[nodiscard]] qsizetype lineAt(QPoint place) const;
+    [[nodiscard]] qsizetype lineOnPage(int page, double y) const;
+    void updateScale();
+    void updateBars();
+    void paintPage(QPainter& painter, int page) const;
+    void paintChosen(QPainter& painter, int page) const;
+    void choose(qsizetype line, bool extends);
+    void extendBy(int lines);
+    void reveal(qsizetype line);
+    void say(qsizetype line);
+    [[nodiscard]] bool isChosen(const PlacedLine& line) const;
+    bool turnPage(int key);
+    void scrollBy(int pixels);
+    void keepPlace(const std::function<void()>& change);
+
+    const ReportDocument& m_document;
+    Zoom m_zoom = Zoom::FitWidth;
+    double m_scale = 1;       ///< pixels to the millimetre
+    qsizetype m_anchor = -1;  ///< the line where the selection began; -1 while none is selected
+    qsizetype m_current = -1; ///< the line where it ends
+};
+
+} // namespace norvane::reports

@@ -1,0 +1,385 @@
+// See PreviewWindow.h.
+#include "reports/window/PreviewWindow.h"
+
+#include "platform/Boxes.h"
+#include "reports/files/ReportFiles.h"
+#include "reports/window/ChartPane.h"
+#include "reports/window/PageView.h"
+#include "reports/window/RunProgress.h"
+#include "ui/Announcement.h"
+#include "ui/Appearance.h"
+#include "ui/FindBar.h"
+#include "ui/FormKit.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDir>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QPrinter>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStandardPaths>
+#include <QStatusBar>
+#include <QTimer>
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+constexpr QSize goodSize{1060, 800};
+constexpr int pagesAtOnce = 40;
+
+/// "2026-11-01 to 2026-11-25", which sorts by day in a folder.
+QString periodOf(const ReportHeading& heading)
+{
+    QStringList days;
+    for (const QDate day : {heading.from, heading.to}) {
+        const QString text = day.toString(Qt::ISODate);
+        if (!text.isEmpty() && !days.contains(text))
+            days << text;
+    }
+    return days.join(u" to "_s);
+}
+
+/// The name of a file: the shop, a title such as "PLU Sales Report by Date." and the period.
+QString fileName(const ReportHeading& heading)
+{
+    static const QRegularExpression unfit(u"[^\\w -]+"_s, QRegularExpression::UseUnicodePropertiesOption);
+    QStringList parts{heading.customer, heading.title, periodOf(heading)};
+    for (QString& part : parts)
+        part = part.remove(unfit).simplified();
+    parts.removeAll(QString());
+    return parts.join(u" - "_s);
+}
+
+QString documents()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+/// Shown above the lines, or in their place.
+QString spokenHeading(const ReportHeading& heading)
+{
+    QStringList texts{heading.title, heading.subtitle, heading.customer, heading.notice};
+    texts.removeAll(QString());
+    return texts.join(u", "_s);
+}
+
+} // namespace
+
+struct PreviewWindow::FileKind {
+    const char* name;
+    const char* caption;
+    const char* filter;
+    const char* suffix;
+    FileWriter write;
+
+    static const std::array<FileKind, 3>& all();
+};
+
+const std::array<PreviewWindow::FileKind, 3>& PreviewWindow::FileKind::all()
+{
+    static constexpr std::array<FileKind, 3> kinds = {{
+        {"SavePdf", "&PDF, as printed...", "PDF (*.pdf)", "pdf", writePdf},
+        {"SaveXlsx", "&Spreadsheet (XLSX)...", "Spreadsheet (*.xlsx)", "xlsx",
+         [](const ReportData& report, bool, const QString& path, const KeepGoing& keepGoing) {
+             writeXlsx(report, path, keepGoing);
+         }},
+        {"SaveCsv", "&Values (CSV)...", "Values (*.csv)", "csv",
+         [](const ReportData& report, bool, const QString& path, const KeepGoing& keepGoing) {
+             writeCsv(report, path, keepGoing);
+         }},
+    }};
+    return kinds;
+}
+
+PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterFinder findPrinter, QWidget* parent)
+    : QWidget(parent, Qt::Window), m_document(std::move(report)), m_boxes(boxes),
+      m_findPrinter(std::move(findPrinter)), m_find(new ui::FindBar(this)),
+      m_view(new PageView(m_document, this)), m_charts(new ChartPane(m_document, this)),
+      m_status(new QStatusBar(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(u"ReportPreview"_s);
+    setWindowTitle(m_document.report().heading.windowTitle);
+    // The first page appears immediately; the others are laid out while it is shown.
+    m_document.pages().layOut(1);
+    buildControls();
+    addKeys();
+    openAtGoodSize();
+    showPageNumber();
+    QTimer::singleShot(0, this, &PreviewWindow::layOutMore);
+}
+
+void PreviewWindow::buildControls()
+{
+    ui::nameControl(*m_view, u"Pages"_s, spokenHeading(m_document.report().heading));
+    ui::nameControl(*m_charts, u"Charts"_s);
+    ui::nameControl(*m_find, u"FindBar"_s);
+    ui::nameControl(*m_status, u"StatusBar1"_s);
+    m_find->hide();
+    auto* const column = new QVBoxLayout(this);
+    const int margin = ui::spacing::controlGap;
+    column->setContentsMargins(margin, margin, margin, 0);
+    column->setSpacing(margin);
+    column->addLayout(makeButtons());
+    column->addWidget(m_find);
+    column->addWidget(makeContent(), 1);
+    column->addWidget(m_status);
+    connect(m_find, &ui::FindBar::findWanted, this, &PreviewWindow::find);
+    connect(m_view, &PageView::currentPageChanged, this, &PreviewWindow::showPageNumber);
+    m_view->setFocus();
+}
+
+QWidget* PreviewWindow::makeContent()
+{
+    auto* const content = new QSplitter(this);
+    content->addWidget(m_view);
+    content->addWidget(m_charts);
+    content->setStretchFactor(0, 1);
+    content->setSizes({goodSize.width() * 2 / 3, goodSize.width() / 3});
+    content->setChildrenCollapsible(false);
+    m_charts->setVisible(m_document.hasCharts());
+    return content;
+}
+
+QBoxLayout* PreviewWindow::makeButtons()
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(ui::spacing::controlGap);
+    addButton(*row, u"PrintButton"_s, u"&Print"_s, &PreviewWindow::print);
+    addSaveButton(*row);
+    addButton(*row, u"CopyButton"_s, u"&Copy lines"_s, &PreviewWindow::copy);
+    addButton(*row, u"FindButton"_s, u"&Find"_s, &PreviewWindow::openFind);
+    addZoom(*row);
+    addChartSwitch(*row);
+    row->addStretch();
+    addPageButtons(*row);
+    addButton(*row, u"CloseButton"_s, u"C&lose"_s, &PreviewWindow::leave);
+    return row;
+}
+
+QPushButton* PreviewWindow::addButton(QBoxLayout& row, const QString& name, const QString& caption,
+                                      Handler handler)
+{
+    QPushButton* const button = ui::makeButton(name, caption, this);
+    button->setMinimumWidth(ui::buttonWidth); // in large type the row would be wider than a small screen
+    connect(button, &QPushButton::clicked, this, handler);
+    row.addWidget(button);
+    return button;
+}
+
+void PreviewWindow::addSaveButton(QBoxLayout& row)
+{
+    QPushButton* const button = ui::makeButton(u"SaveButton"_s, u"&Save as"_s, this);
+    button->setMinimumWidth(ui::buttonWidth);
+    auto* const menu = new QMenu(button);
+    for (const FileKind& kind : FileKind::all()) {
+        QAction* const action =
+            menu->addAction(QLatin1String(kind.caption), this, [this, &kind] { save(kind); });
+        action->setObjectName(QLatin1String(kind.name));
+    }
+    button->setMenu(menu);
+    row.addWidget(button);
+}
+
+void PreviewWindow::addZoom(QBoxLayout& row)
+{
+    auto* const label = new QLabel(u"&Zoom:"_s, this);
+    auto* const zoom = new QComboBox(this);
+    zoom->addItems({u"Fit width"_s, u"Fit page"_s, u"100 %"_s});
+    ui::nameControl(*zoom, u"Zoom"_s);
+    label->setBuddy(zoom);
+    connect(zoom, &QComboBox::currentIndexChanged, this,
+            [this](int index) { m_view->setZoom(static_cast<Zoom>(index)); });
+    row.addWidget(label);
+    row.addWidget(zoom);
+}
+
+/// A report without charts has no switch for them.
+void PreviewWindow::addChartSwitch(QBoxLayout& row)
+{
+    auto* const charts = new QCheckBox(u"C&hart"_s, this);
+    ui::nameControl(*charts, u"ChartSwitch"_s);
+    charts->setToolTip(u"Shows the chart here, on paper and in the PDF"_s);
+    charts->setChecked(true);
+    charts->setVisible(m_document.hasCharts());
+    connect(charts, &QCheckBox::toggled, this, &PreviewWindow::switchCharts);
+    row.addWidget(charts);
+}
+
+void PreviewWindow::addPageButtons(QBoxLayout& row)
+{
+    const auto turn = [&](const QString& name, const QString& caption, const QString& spoken, int pages) {
+        QPushButton* const button = ui::makeButton(name, caption, this);
+        button->setAccessibleName(spoken);
+        button->setFixedWidth(ui::scaled(32));
+        connect(button, &QPushButton::clicked, this,
+                [this, pages] { m_view->goToPage(m_view->currentPage() + pages); });
+        row.addWidget(button);
+    };
+    turn(u"PreviousPageButton"_s, u"&<"_s, u"Previous page"_s, -1);
+    m_pageNumber = new QLabel(this);
+    ui::nameControl(*m_pageNumber, u"PageNumber"_s);
+    row.addWidget(m_pageNumber);
+    turn(u"NextPageButton"_s, u"&>"_s, u"Next page"_s, 1);
+}
+
+void PreviewWindow::addKeys()
+{
+    static constexpr std::array<std::pair<QKeySequence::StandardKey, Handler>, 6> keys = {{
+        {QKeySequence::Print, &PreviewWindow::print},
+        {QKeySequence::Copy, &PreviewWindow::copy},
+        {QKeySequence::Find, &PreviewWindow::openFind},
+        {QKeySequence::FindNext, &PreviewWindow::findNext},
+        {QKeySequence::FindPrevious, &PreviewWindow::findPrevious},
+        {QKeySequence::Cancel, &PreviewWindow::escape},
+    }};
+    for (const auto& [key, handler] : keys)
+        connect(new QShortcut(key, this), &QShortcut::activated, this, handler);
+    connect(new QShortcut(QKeySequence::SelectAll, m_view, nullptr, nullptr, Qt::WidgetShortcut),
+            &QShortcut::activated, m_view, &PageView::chooseAll);
+}
+
+void PreviewWindow::openAtGoodSize()
+{
+    ui::centreOnScreen(*this, goodSize.boundedTo(screen()->availableSize() * 0.94));
+}
+
+void PreviewWindow::layOutMore()
+{
+    const bool isMore = m_document.pages().layOut(pagesAtOnce);
+    m_view->updatePages();
+    if (isMore)
+        QTimer::singleShot(0, this, &PreviewWindow::layOutMore);
+}
+
+void PreviewWindow::showPageNumber()
+{
+    const QString count =
+        m_document.pages().isComplete() ? QString::number(m_document.pages().pageCount()) : u"..."_s;
+    m_pageNumber->setText(u"Page %1 of %2"_s.arg(m_view->currentPage() + 1).arg(count));
+}
+
+/// Shows a box for a failure; the window remains open.
+void PreviewWindow::guarded(const std::function<void(const KeepGoing&)>& act, const QString& whenCancelled)
+{
+    try {
+        RunProgress progress(*this, u"The report is being written."_s);
+        act([&progress] { return progress.goOn(); });
+    } catch (const ReportCancelled&) {
+        tell(whenCancelled);
+    } catch (const ReportError& error) {
+        m_boxes.message(error.text(), u"Report Error"_s, BoxIcon::Critical);
+    }
+}
+
+void PreviewWindow::tell(const QString& text)
+{
+    m_status->showMessage(text);
+    ui::announce(*m_status, text);
+}
+
+void PreviewWindow::print()
+{
+    m_document.pages().layOutAll();
+    m_view->updatePages();
+    const auto job =
+        askForPrint(m_findPrinter, {m_document.pages().pageCount(), m_view->currentPage() + 1}, this);
+    if (!job)
+        return;
+    const auto printPages = [&](const KeepGoing& keepGoing) {
+        printOn(*job, m_document.report(), m_document.showsCharts(), keepGoing);
+        tell(sentText(*job->printer));
+    };
+    guarded(printPages, u"Cancelled. The pages that were ready are printed."_s);
+}
+
+void PreviewWindow::save(const FileKind& kind)
+{
+    const QString suffix = QLatin1String(kind.suffix);
+    const QString suggested = fileName(m_document.report().heading) + u'.' + suffix;
+    const QString path = m_boxes.fileToSave(
+        {u"Save Report"_s, QDir(documents()).filePath(suggested), QLatin1String(kind.filter), suffix});
+    if (path.isEmpty())
+        return;
+    const auto write = [&](const KeepGoing& keepGoing) {
+        kind.write(m_document.report(), m_document.showsCharts(), path, keepGoing);
+        tell(u"Saved as %1."_s.arg(QDir::toNativeSeparators(path)));
+    };
+    guarded(write, u"Cancelled. Nothing was saved."_s);
+}
+
+/// Copies all lines if none are selected.
+void PreviewWindow::copy()
+{
+    const qsizetype first = m_view->hasChosen() ? m_view->firstChosen() : 0;
+    const qsizetype last = m_view->hasChosen() ? m_view->lastChosen() : m_document.report().lineCount() - 1;
+    QGuiApplication::clipboard()->setText(m_document.linesAsText(first, last));
+    tell(last == first ? u"1 line copied."_s : u"%1 lines copied."_s.arg(last - first + 1));
+}
+
+void PreviewWindow::openFind()
+{
+    m_find->open();
+}
+
+void PreviewWindow::findNext()
+{
+    find(1);
+}
+
+void PreviewWindow::findPrevious()
+{
+    find(-1);
+}
+
+void PreviewWindow::find(int step)
+{
+    const qsizetype start = m_view->hasChosen() ? m_view->firstChosen() + step : 0;
+    const qsizetype found = m_document.findLine(m_find->sought(), start, step < 0 ? -1 : 1);
+    m_find->setFound(found >= 0);
+    if (found < 0)
+        return;
+    m_document.pages().layOutAll();
+    m_view->updatePages();
+    m_view->showLine(found);
+}
+
+void PreviewWindow::switchCharts(bool shows)
+{
+    m_charts->setVisible(shows);
+    m_document.setShowsCharts(shows);
+    m_document.pages().layOutAll();
+    m_view->updatePages();
+}
+
+void PreviewWindow::leave()
+{
+    close();
+}
+
+/// Closes the search row if it is open, else the window.
+void PreviewWindow::escape()
+{
+    if (!m_find->isVisible()) {
+        leave();
+        return;
+    }
+    m_find->hide();
+    m_view->setFocus();
+}
+
+} // namespace norvane::reports

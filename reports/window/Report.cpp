@@ -1,0 +1,107 @@
+// Runs a report and shows it in a preview or prints it; see Report.h.
+#include "reports/window/Report.h"
+
+#include "paper/DefaultPrinter.h"
+#include "platform/Boxes.h"
+#include "platform/RuntimeFailure.h"
+#include "reports/window/PreviewWindow.h"
+#include "reports/window/RunProgress.h"
+
+#include <QScopedValueRollback>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::reports
+{
+namespace
+{
+
+void moveToWindow(QWidget& preview, QWidget* window)
+{
+    const QRect place = preview.geometry();
+    preview.setParent(window, preview.windowFlags());
+    preview.setGeometry(place);
+    preview.show();
+}
+
+} // namespace
+
+Report::Report(QWidget& window, Boxes& boxes, Runner runner)
+    : m_window(window), m_boxes(boxes), m_runner(std::move(runner)), m_findPrinter(paper::defaultPrinter)
+{
+}
+
+/// A preview is a child of the form's window: a modal form would block any other window. When the form is
+/// destroyed, its open previews become children of the window above it, so that they remain open.
+Report::~Report()
+{
+    const QWidget* const form = m_window.window();
+    QWidget* const next = form->parentWidget() ? form->parentWidget()->window() : nullptr;
+    for (const QPointer<PreviewWindow>& preview : m_previews) {
+        if (preview && next)
+            moveToWindow(*preview, next);
+    }
+}
+
+void Report::setDataFile(int index, const QString& path)
+{
+    if (index == 0)
+        m_request.dataFile = path;
+}
+
+void Report::run()
+{
+    // Events run during a long report; a second press of its button must not start it again.
+    if (m_isRunning)
+        return;
+    const QScopedValueRollback running(m_isRunning, true);
+    const auto tell = [this](const QString& text) {
+        m_boxes.message(text, u"Report Error"_s, BoxIcon::Critical);
+    };
+    try {
+        if (auto report = runnerResult())
+            deliver(std::move(*report));
+    } catch (const ReportCancelled&) {
+        return;
+    } catch (const ReportError& error) {
+        tell(error.text());
+    } catch (const RuntimeFailure& failure) {
+        tell(failure.text());
+    }
+}
+
+/// Nothing when the user cancelled.
+std::optional<ReportData> Report::runnerResult()
+{
+    RunProgress progress(m_window, u"The report is being made."_s);
+    ReportRequest request = m_request;
+    request.now = QDateTime::currentDateTime();
+    request.showStep = [&progress](const QString& step) {
+        progress.showStep(step);
+    };
+    try {
+        return m_runner(request, [&progress] { return progress.goOn(); });
+    } catch (const ReportError&) {
+        if (progress.isCancelled())
+            return std::nullopt;
+        throw;
+    }
+}
+
+void Report::deliver(ReportData report)
+{
+    if (m_destination == Destination::Window) {
+        preview(std::move(report));
+        return;
+    }
+    RunProgress progress(m_window, u"The report is being printed."_s);
+    printReport(report, true, m_findPrinter, [&progress] { return progress.goOn(); });
+}
+
+void Report::preview(ReportData report)
+{
+    m_previews.emplace_back(new PreviewWindow(std::move(report), m_boxes, m_findPrinter, m_window.window()));
+    m_previews.back()->show();
+}
+
+} // namespace norvane::reports

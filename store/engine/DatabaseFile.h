@@ -1,0 +1,25 @@
+// Opening and making database files: what is ours, what is left alone.
+#pragma once
+
+#include "store/engine/Definitions.h"
+
+#include <SQLiteCpp/Database.h>
+
+namespace norvane::store
+{
+
+/// How long every connection waits for a file that another program holds: no work of ours holds one this
+/// long, and a user can wait for it.
+inline constexpr int busyMilliseconds = 5000;
+
+/// Opens an existing file for reading and, where it may be written, for writing. @throws as Database does.
+[[nodiscard]] SQLite::Database openDatabaseFile(const QString& path);
+
+/// The same, but reads only the header: the rest of the file may be damaged.
+[[nodiscard]] SQLite::Database openUnreadDatabaseFile(const QString& path);
+
+/// Makes a file beside @p path and puts it in its place once it is whole.
+/// @throws RuntimeFailure with Failure::PathOrFileAccess, 61.
+void createDatabaseFile(const QString& path, const QVector<TableDefinition>& tables);
+
+} // namespace norvane::store
