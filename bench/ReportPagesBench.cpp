@@ -1,7 +1,8 @@
 // From a report's lines to what the user gets: the preview's first page, a PDF, a CSV. The CSV is written
 // beside a bare loop that selects the same lines and writes them.
 #include "bench/BareDatabase.h"
-#include "reports/files/ReportFiles.h"
+#include "reports/files/CsvFile.h"
+#include "reports/files/PdfFile.h"
 #include "reports/window/PageView.h"
 #include "reports/window/Report.h"
 #include "tests/reports/SampleReport.h"

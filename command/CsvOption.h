@@ -2,7 +2,7 @@
 #pragma once
 
 #include "command/Invocation.h"
-#include "reports/files/ReportFiles.h"
+#include "reports/files/CsvFile.h"
 
 #include <optional>
 

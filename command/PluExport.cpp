@@ -14,7 +14,7 @@ namespace norvane::command
 namespace
 {
 
-using reports::Cell;
+using reports::ReportCell;
 
 reports::ReportColumn layoutOf(const PluColumn& column, int mostDecimals)
 {
@@ -28,7 +28,7 @@ reports::ReportColumn layoutOf(const PluColumn& column, int mostDecimals)
             .mostDecimals = isPrice ? mostDecimals : 0};
 }
 
-Cell cellOf(const PluColumn& column, const store::Value& value)
+ReportCell cellOf(const PluColumn& column, const store::Value& value)
 {
     switch (column.content) {
     case PluContent::Number:
@@ -37,38 +37,38 @@ Cell cellOf(const PluColumn& column, const store::Value& value)
         return exportedText(value);
     default:
         const auto number = exportedNumber(value);
-        return number ? Cell(*number) : Cell();
+        return number ? ReportCell(*number) : ReportCell();
     }
 }
 
-std::vector<Cell> lineOf(const store::Recordset& plus, const std::vector<int>& places)
+std::vector<ReportCell> lineOf(const store::Recordset& plus, const std::vector<int>& places)
 {
-    std::vector<Cell> cells;
+    std::vector<ReportCell> cells;
     cells.reserve(places.size());
     for (std::size_t column = 0; column < places.size(); ++column)
         cells.push_back(cellOf(pluColumns()[column], plus.value(places[column])));
     return cells;
 }
 
-std::vector<std::vector<Cell>> allLines(store::Database& database)
+std::vector<std::vector<ReportCell>> allLines(store::Database& database)
 {
     auto plus = database.openTable(u"PLUDATA"_s);
     plus.setIndex(u"plunumber"_s);
     std::vector<int> places;
     for (const PluColumn& column : pluColumns())
         places.push_back(plus.fieldOrdinal(column.field));
-    std::vector<std::vector<Cell>> lines;
+    std::vector<std::vector<ReportCell>> lines;
     for (plus.readOnly(places); !plus.atEnd(); plus.moveNext())
         lines.push_back(lineOf(plus, places));
     return lines;
 }
 
 /// Prices are never rounded: importing the file again must restore the stored values.
-int mostDecimals(const std::vector<std::vector<Cell>>& lines)
+int mostDecimals(const std::vector<std::vector<ReportCell>>& lines)
 {
     int most = priceDecimals;
     for (const auto& line : lines) {
-        for (const Cell& cell : line) {
+        for (const ReportCell& cell : line) {
             if (const auto* const number = std::get_if<Decimal>(&cell))
                 most = std::max(most, number->scale());
         }

@@ -9,7 +9,8 @@
 #include "customers/CustomerLog.h"
 #include "customers/RunLock.h"
 #include "customers/SafetyCopies.h"
-#include "reports/files/ReportFiles.h"
+#include "reports/files/CsvFile.h"
+#include "reports/files/XlsxFile.h"
 #include "store/engine/RecordTexts.h"
 
 #include <QFile>

@@ -4,7 +4,9 @@
 #include "command/ReportPeriods.h"
 #include "command/Verbs.h"
 #include "platform/FilePaths.h"
-#include "reports/files/ReportFiles.h"
+#include "reports/files/CsvFile.h"
+#include "reports/files/PdfFile.h"
+#include "reports/files/XlsxFile.h"
 #include "reports/lines/ReportRun.h"
 
 #include <algorithm>

@@ -4,7 +4,7 @@
 #include "platform/Excerpt.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
-#include "screens/RegisterTexts.h"
+#include "screens/RegisterRules.h"
 #include "screens/SaveNotices.h"
 
 #include <QRegularExpression>

@@ -92,7 +92,7 @@ const QLabel* headingAbove(const QWidget& widget, const QVector<QLabel*>& labels
 
 /// What a sighted user takes in at a glance: which label begins the row of a control, and what heads its
 /// column.
-struct Place {
+struct GridPlace {
     const QLabel* row;
     const QLabel* column;
 };
@@ -117,7 +117,8 @@ const QLabel* beginningOfRow(const QWidget& control, const QVector<QLabel*>& lab
     return isJoined ? nearest : nullptr;
 }
 
-Place placeOf(const QWidget& control, const QVector<QLabel*>& labels, const QVector<QWidget*>& controls)
+GridPlace gridPlaceOf(const QWidget& control, const QVector<QLabel*>& labels,
+                      const QVector<QWidget*>& controls)
 {
     const QLabel* const row = beginningOfRow(control, labels, controls);
     const QLabel* const above = headingAbove(control, labels);
@@ -132,7 +133,7 @@ QString withSmallLetter(QString heading)
     return heading;
 }
 
-void nameByPlace(QWidget& control, const Place& place)
+void nameByPlace(QWidget& control, const GridPlace& place)
 {
     const QString row = place.row ? textOf(*place.row) : QString();
     const QString column = place.column ? textOf(*place.column) : QString();
@@ -140,7 +141,7 @@ void nameByPlace(QWidget& control, const Place& place)
 }
 
 /// Controls with the same name are distinguished by the text before or above them.
-void nameApart(QWidget& control, const Place& place)
+void nameApart(QWidget& control, const GridPlace& place)
 {
     const QString name = ui::spokenName(control);
     const bool isInRow = place.row && textOf(*place.row) != name;
@@ -177,12 +178,12 @@ void tieLabels(const QVector<QLabel*>& labels, const QVector<QWidget*>& controls
     QHash<QString, int> holders;
     for (QWidget* const control : controls) {
         if (ui::spokenName(*control).isEmpty())
-            nameByPlace(*control, placeOf(*control, labels, controls));
+            nameByPlace(*control, gridPlaceOf(*control, labels, controls));
         ++holders[ui::spokenName(*control)];
     }
     for (QWidget* const control : controls) {
         if (holders.value(ui::spokenName(*control)) > 1)
-            nameApart(*control, placeOf(*control, labels, controls));
+            nameApart(*control, gridPlaceOf(*control, labels, controls));
     }
     std::ranges::for_each(labels, [](QLabel* label) { nameAsControl(*label); });
 }

@@ -6,7 +6,7 @@
 #include "screens/GridFindBar.h"
 #include "screens/OptionForm.h"
 #include "screens/RecordList.h"
-#include "screens/RegisterTexts.h"
+#include "screens/RegisterRules.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 

@@ -7,7 +7,7 @@ namespace norvane::screens
 {
 
 /// The report that a print button runs.
-struct ReportRequest {
+struct TableReport {
     QString reportFile; ///< path of the layout
     QString title;      ///< of the report's window
     QString database;   ///< path of the database that the report reads, as stored
@@ -22,7 +22,7 @@ public:
     ReportRunner& operator=(const ReportRunner&) = delete;
     virtual ~ReportRunner() = default;
 
-    virtual void run(const ReportRequest& request) = 0;
+    virtual void run(const TableReport& request) = 0;
 };
 
 } // namespace norvane::screens

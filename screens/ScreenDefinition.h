@@ -54,7 +54,7 @@ struct ControlDefinition {
     QString dataField;
     QString justify;            ///< "0" left, "1" right, "2" centre
     QString characters;         ///< "NUMERIC" in any case for digits only
-    bool isHexadecimal = false; ///< no word of the file, see RegisterTexts.h
+    bool isHexadecimal = false; ///< no word of the file, see RegisterRules.h
     std::optional<int> largest; ///< number that a text of digits may make; no word of the file either
     std::optional<int> digits;  ///< that a whole number is shown with at least; no word of the file either
     QString sqlCriteria;        ///< query of a combo or grid

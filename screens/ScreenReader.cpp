@@ -82,14 +82,14 @@ constexpr Kinds combo = kinds({ControlKind::Combo});
 constexpr Kinds grid = kinds({ControlKind::Grid});
 constexpr Kinds all = find | check | label | number | text | combo | grid;
 
-struct KeyRule {
+struct ScreenKey {
     QStringView key;
     Kinds readBy;
     void (*convert)(const QString&, ControlDefinition&);
     int limit = profileValueLimit;
 };
 
-constexpr std::array<KeyRule, 17> keyRules{{
+constexpr std::array<ScreenKey, 17> screenKeys{{
     {u"X", all, takeNumber<&ControlDefinition::x>},
     {u"Y", all, takeNumber<&ControlDefinition::y>},
     {u"Visible", all, takeYesNo<&ControlDefinition::visible>},
@@ -108,14 +108,14 @@ constexpr std::array<KeyRule, 17> keyRules{{
     {u"Columnwidth", combo, takeText<&ControlDefinition::columnWidths>},
     {u"Valuecol", combo, takeText<&ControlDefinition::valueColumn>},
 }};
-constexpr KeyRule listRule{u"List", combo, takeText<&ControlDefinition::list>, profileListLimit};
+constexpr ScreenKey listRule{u"List", combo, takeText<&ControlDefinition::list>, profileListLimit};
 
-struct ColumnRule {
+struct GridColumnKey {
     QLatin1String key; ///< the column's number follows
     void (*convert)(const QString&, GridColumn&);
 };
 
-constexpr std::array<ColumnRule, 4> columnRules{{
+constexpr std::array<GridColumnKey, 4> gridColumnKeys{{
     {"Colwidth"_L1,
      [](const QString& value, GridColumn& column) {
          column.width = toNumber(value);
@@ -196,11 +196,11 @@ ControlDefinition ScreenReader::control(const QString& section, ControlKind kind
     ControlDefinition control;
     control.section = section;
     control.kind = kind;
-    const auto take = [&](const KeyRule& rule) {
+    const auto take = [&](const ScreenKey& rule) {
         if ((rule.readBy & kinds({kind})) != 0)
             read(section, rule.key, rule.limit, [&](const QString& value) { rule.convert(value, control); });
     };
-    for (const KeyRule& rule : keyRules)
+    for (const ScreenKey& rule : screenKeys)
         take(rule);
     if (kind == ControlKind::Grid) {
         control.gridColumns = gridColumns(section);
@@ -218,7 +218,7 @@ QVector<GridColumn> ScreenReader::gridColumns(const QString& section) const
         column.caption = m_file.value(section, u"Caption%1"_s.arg(index));
         if (column.caption.isEmpty())
             return columns;
-        for (const ColumnRule& rule : columnRules) {
+        for (const GridColumnKey& rule : gridColumnKeys) {
             read(section, rule.key + QString::number(index), profileValueLimit,
                  [&](const QString& value) { rule.convert(value, column); });
         }

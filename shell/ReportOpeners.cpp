@@ -41,7 +41,7 @@ ScreenReports::ScreenReports(FrmMain& main, const ApplicationValues& values, Box
 {
 }
 
-void ScreenReports::run(const screens::ReportRequest& request)
+void ScreenReports::run(const screens::TableReport& request)
 {
     reports::Report report(m_main, m_boxes);
     report.setReportFile(request.reportFile);

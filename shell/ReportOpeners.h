@@ -17,7 +17,7 @@ class ScreenReports : public QObject, public screens::ReportRunner
 {
 public:
     ScreenReports(FrmMain& main, const ApplicationValues& values, Boxes& boxes);
-    void run(const screens::ReportRequest& request) override;
+    void run(const screens::TableReport& request) override;
 
 private:
     FrmMain& m_main;

@@ -60,13 +60,13 @@ QString describeTool(Values values, const QString& name)
     return u"missing"_s;
 }
 
-struct Row {
+struct ReportedValue {
     QLatin1StringView label;
     QString (*describe)(Values values);
 };
 
 // clang-format off
-constexpr Row rows[] = {
+constexpr ReportedValue rows[] = {
     {"Program"_L1, [](Values) { return QString(QLatin1StringView(NORVANE_VERSION)); }},
     {"Qt"_L1, [](Values) { return QString::fromLatin1(qVersion()); }},
     {"SQLite"_L1, [](Values) { return store::engineVersion(); }},
@@ -85,7 +85,7 @@ constexpr Row rows[] = {
 };
 // clang-format on
 
-QString lineOf(const Row& row, Values values)
+QString lineOf(const ReportedValue& row, Values values)
 {
     QString text;
     try {
@@ -108,7 +108,7 @@ QString systemReport(const ApplicationValues& values, const QStringList& printer
     if (!QFileInfo(values.customerPath).isDir())
         return {};
     QString report;
-    for (const Row& row : rows)
+    for (const ReportedValue& row : rows)
         report += lineOf(row, values);
     report += u"Printers: %1\n"_s.arg(listed(printers));
     const QStringList log = customers::lastLogLines(values.customerPath, logLines);

@@ -1,8 +1,9 @@
-// Writes the CSV file; see ReportFiles.h.
+// See CsvFile.h.
+#include "reports/files/CsvFile.h"
+
 #include "reports/files/FormulaGuard.h"
-#include "reports/files/ReportFiles.h"
 #include "reports/files/TargetFile.h"
-#include "reports/pages/PageText.h"
+#include "reports/pages/PageFont.h"
 
 #include <QLocale>
 
@@ -59,7 +60,7 @@ private:
 /// yyyy-mm-dd, which every spreadsheet knows.
 QString csvValue(const ReportData& report, qsizetype line, int column, char decimalSign)
 {
-    const Cell cell = report.cell(line, column);
+    const ReportCell cell = report.cell(line, column);
     if (const auto* const text = std::get_if<QString>(&cell))
         return guarded(printable(*text));
     if (const auto* const day = std::get_if<QDate>(&cell))

@@ -12,10 +12,10 @@ namespace norvane::reports
 bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device,
                  const KeepGoing& keepGoing, PageSpan span)
 {
-    const PageText text;
-    ReportPages pages(report, text, showsCharts);
+    const PageFont font;
+    ReportPages pages(report, font, showsCharts);
     pages.layOutAll();
-    const ReportPainter painter(report, pages, text);
+    const ReportPainter painter(report, pages, font);
     const QRectF& sheet = pages.frame().sheet;
     paper::PageDevice paper(device, QPageSize(QPageSize::A4),
                             sheet.width() > sheet.height() ? QPageLayout::Landscape : QPageLayout::Portrait);

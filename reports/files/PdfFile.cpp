@@ -1,6 +1,7 @@
-// Writes the PDF; see ReportFiles.h.
+// See PdfFile.h.
+#include "reports/files/PdfFile.h"
+
 #include "reports/files/PagedReport.h"
-#include "reports/files/ReportFiles.h"
 #include "reports/files/TargetFile.h"
 
 #include <QBuffer>

@@ -1,7 +1,8 @@
-// Writes the spreadsheet; see ReportFiles.h.
+// See XlsxFile.h.
+#include "reports/files/XlsxFile.h"
+
 #include "platform/ShownTime.h"
 #include "platform/WholeFile.h"
-#include "reports/files/ReportFiles.h"
 #include "reports/files/SpreadsheetCheck.h"
 #include "reports/files/TargetFile.h"
 #include "reports/pages/ColumnPlaces.h"
@@ -49,10 +50,11 @@ struct BookFreer {
     void operator()(lxw_workbook* book) const { lxw_workbook_free(book); }
 };
 
-class Sheet
+/// Fills the one sheet of a workbook, row by row.
+class SpreadsheetWriter
 {
 public:
-    Sheet(const ReportData& report, const QByteArray& path) : m_report(report)
+    SpreadsheetWriter(const ReportData& report, const QByteArray& path) : m_report(report)
     {
         // Each row is written to disk immediately: a list of 100,000 lines would take too much memory.
         lxw_workbook_options options{};
@@ -155,7 +157,7 @@ private:
 
     void writeCell(lxw_row_t row, qsizetype line, int column)
     {
-        const Cell cell = m_report.cell(line, column);
+        const ReportCell cell = m_report.cell(line, column);
         lxw_format* const shown = format(line, column);
         if (const auto* const text = std::get_if<QString>(&cell)) {
             writeText(row, column, *text, shown);
@@ -205,9 +207,9 @@ QByteArray spreadsheet(const ReportData& report, const QString& path, const Keep
     if (!beside.open())
         failWriting(path, beside.errorString());
     const QByteArray name = QFile::encodeName(beside.fileName());
-    Sheet sheet(report, name);
-    sheet.fill(keepGoing);
-    const QString error = sheet.close();
+    SpreadsheetWriter writer(report, name);
+    writer.fill(keepGoing);
+    const QString error = writer.close();
     if (!error.isEmpty())
         failWriting(path, error);
     if (!isWholeSpreadsheet(name))

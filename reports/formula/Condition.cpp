@@ -1,5 +1,5 @@
-// What a parsed selection formula asks for: tables, period and SQL; see SelectionFormula.h.
-#include "reports/formula/SelectionFormula.h"
+// See Condition.h.
+#include "reports/formula/Condition.h"
 
 #include <algorithm>
 #include <span>

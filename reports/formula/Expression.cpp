@@ -144,7 +144,7 @@ private:
 
     Expression number()
     {
-        const Token token = m_tokens.current();
+        const FormulaToken token = m_tokens.current();
         const auto value = Decimal::plain(token.text.toString().toStdString());
         if (!value)
             m_tokens.failExpecting(u"a number of at most 18 digits"_s);
@@ -173,7 +173,7 @@ private:
 
     void listPart(std::vector<Expression>& expressions)
     {
-        const Token first = m_tokens.current();
+        const FormulaToken first = m_tokens.current();
         expressions.push_back(sum());
         if (!m_tokens.takeWord(u"to"))
             return;

@@ -29,7 +29,7 @@ bool isOfWord(QChar c)
     return c.isLetterOrNumber() || c == u'_';
 }
 
-QString shown(const Token& token)
+QString shown(const FormulaToken& token)
 {
     if (token.kind == TokenKind::End)
         return u"the formula ends"_s;
@@ -106,9 +106,9 @@ bool FormulaTokens::isWord(QStringView word) const
     return m_current.kind == TokenKind::Word && m_current.text.compare(word, Qt::CaseInsensitive) == 0;
 }
 
-Token FormulaTokens::take()
+FormulaToken FormulaTokens::take()
 {
-    const Token token = m_current;
+    const FormulaToken token = m_current;
     read();
     return token;
 }

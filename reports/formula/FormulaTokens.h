@@ -33,7 +33,7 @@ enum class TokenKind {
 };
 
 /// A token of a formula.
-struct Token {
+struct FormulaToken {
     TokenKind kind = TokenKind::End;
     QStringView text;
     qsizetype column = 1;
@@ -47,10 +47,10 @@ public:
     /// token begins with, and for a brace or quote that is not closed; so do all functions that take a token.
     explicit FormulaTokens(QStringView formula, const store::TableDefinition* own = nullptr);
 
-    [[nodiscard]] const Token& current() const { return m_current; }
+    [[nodiscard]] const FormulaToken& current() const { return m_current; }
     [[nodiscard]] bool isSymbol(QStringView symbol) const;
     [[nodiscard]] bool isWord(QStringView word) const; ///< without regard to case
-    Token take();
+    FormulaToken take();
     /// Takes the symbol or word if it is the current token.
     bool takeSymbol(QStringView symbol);
     bool takeWord(QStringView word);
@@ -72,7 +72,7 @@ private:
     QStringView m_formula;
     const store::TableDefinition* m_own;
     qsizetype m_at = 0;
-    Token m_current;
+    FormulaToken m_current;
     int m_depth = 0;
 };
 

@@ -1,7 +1,7 @@
-// The parser of selection formulas; see SelectionFormula.h. Condition.cpp works with what it makes.
+// See SelectionFormula.h.
 #include "reports/formula/SelectionFormula.h"
 
-#include "platform/Decimal.h"
+#include "reports/formula/FormulaTokens.h"
 
 #include <array>
 
@@ -186,7 +186,7 @@ private:
 
     Condition period(const FieldName& field)
     {
-        const Token word = m_tokens.current();
+        const FormulaToken word = m_tokens.current();
         if (!m_today.isValid())
             m_tokens.failExpecting(u"a range such as date(2026,1,1) to date(2026,1,31)"_s);
         const auto period = namedPeriod(word.text, m_today);
@@ -203,7 +203,7 @@ private:
 
     Side side()
     {
-        const Token token = m_tokens.current();
+        const FormulaToken token = m_tokens.current();
         switch (token.kind) {
         case TokenKind::Field:
             return {m_tokens.takeField(), {}, token.column};
@@ -220,7 +220,7 @@ private:
     Value number()
     {
         const bool isNegative = m_tokens.takeSymbol(u"-");
-        const Token token = m_tokens.current();
+        const FormulaToken token = m_tokens.current();
         if (token.kind != TokenKind::Number)
             m_tokens.failExpecting(u"a field, a number, a text or a day"_s);
         QString text = token.text.toString();
@@ -238,7 +238,7 @@ private:
 
     QDate day()
     {
-        const Token word = m_tokens.current();
+        const FormulaToken word = m_tokens.current();
         if (!m_tokens.takeWord(u"date"))
             m_tokens.failExpecting(u"a field, a number, a text or a day"_s);
         m_tokens.expectSymbol(u"(");

@@ -1,8 +1,8 @@
 // Collects the points of a report's charts.
 #pragma once
 
-#include "reports/lines/FieldTexts.h"
 #include "reports/lines/ReportLayout.h"
+#include "reports/lines/TextTemplate.h"
 
 #include <QDate>
 

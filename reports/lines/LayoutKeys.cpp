@@ -1,6 +1,8 @@
 // See LayoutKeys.h.
 #include "reports/lines/LayoutKeys.h"
 
+#include "reports/formula/SelectionFormula.h"
+#include "reports/lines/TemplateParser.h"
 #include "store/catalogue/Catalogue.h"
 
 #include <algorithm>

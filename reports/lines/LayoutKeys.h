@@ -1,7 +1,7 @@
 // The keys of layout files, section by section: how each is read and which value is expected.
 #pragma once
 
-#include "reports/lines/LayoutTexts.h"
+#include "reports/lines/LayoutFields.h"
 
 #include <span>
 

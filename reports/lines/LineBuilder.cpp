@@ -161,14 +161,14 @@ void LineBuilder::closeGroup()
 
 void LineBuilder::addDetail(const LineFields& fields)
 {
-    std::vector<Cell> cells;
+    std::vector<ReportCell> cells;
     cells.reserve(m_layout.columns.size());
     for (const auto& column : m_layout.columns)
         cells.push_back(cell(column, fields));
     m_data.addLine(LineKind::Detail, std::move(cells));
 }
 
-Cell LineBuilder::cell(const ColumnLayout& column, const LineFields& fields) const
+ReportCell LineBuilder::cell(const ColumnLayout& column, const LineFields& fields) const
 {
     if (column.number) {
         const auto slot = column.number->loneSlot();
@@ -178,21 +178,21 @@ Cell LineBuilder::cell(const ColumnLayout& column, const LineFields& fields) con
     }
     if (column.column.kind == ColumnKind::Date) {
         const QDate day = fields.at(static_cast<std::size_t>(*column.text.text.parts.front().slot)).toDate();
-        return day.isValid() ? Cell(day) : Cell();
+        return day.isValid() ? ReportCell(day) : ReportCell();
     }
     const QString text = textOf(column.text, fields);
-    return text.isEmpty() ? Cell() : Cell(text);
+    return text.isEmpty() ? ReportCell() : ReportCell(text);
 }
 
 /// @return nothing where the number has more digits than a Decimal holds.
-std::optional<Cell> LineBuilder::shortNumber(const ColumnLayout& column, const SlotNumbers& numbers)
+std::optional<ReportCell> LineBuilder::shortNumber(const ColumnLayout& column, const SlotNumbers& numbers)
 {
     try {
         const auto value = column.number->value(numbers);
         if (!value)
-            return Cell();
+            return ReportCell();
         if (digitsOf(value->coefficient()) < mostDigits)
-            return Cell(*value);
+            return ReportCell(*value);
     } catch (const RuntimeFailure& failure) {
         if (failure.failure() != Failure::Overflow)
             throw;
@@ -202,7 +202,7 @@ std::optional<Cell> LineBuilder::shortNumber(const ColumnLayout& column, const S
 
 /// A sum of more digits than a Decimal holds becomes a text with all of them. A quotient of such sums cannot
 /// be calculated, and the cell says so.
-Cell LineBuilder::number(const ColumnLayout& column, const std::vector<std::string>& numbers) const
+ReportCell LineBuilder::number(const ColumnLayout& column, const std::vector<std::string>& numbers) const
 {
     const SlotNumbers all{numbers, m_whole};
     if (auto cell = shortNumber(column, all))
@@ -236,7 +236,7 @@ void LineBuilder::noteShown()
 void LineBuilder::addTotal(LineKind kind, const SlotTotals& totals, const QString& label)
 {
     const auto numbers = totals.texts();
-    std::vector<Cell> cells(m_layout.columns.size());
+    std::vector<ReportCell> cells(m_layout.columns.size());
     for (std::size_t i = 0; i < cells.size(); ++i) {
         if (m_layout.columns[i].isTotalled)
             cells[i] = number(m_layout.columns[i], numbers);

@@ -3,9 +3,9 @@
 
 #include "platform/DecimalTotal.h"
 #include "reports/lines/ChartBuilder.h"
-#include "reports/lines/FieldTexts.h"
 #include "reports/lines/ReportData.h"
 #include "reports/lines/ReportLayout.h"
+#include "reports/lines/TextTemplate.h"
 
 #include <optional>
 #include <string>
@@ -61,10 +61,11 @@ private:
     void closeGroup();
     void addDetail(const LineFields& fields);
     void addTotal(LineKind kind, const SlotTotals& totals, const QString& label);
-    [[nodiscard]] Cell cell(const ColumnLayout& column, const LineFields& fields) const;
-    [[nodiscard]] static std::optional<Cell> shortNumber(const ColumnLayout& column,
-                                                         const SlotNumbers& numbers);
-    [[nodiscard]] Cell number(const ColumnLayout& column, const std::vector<std::string>& numbers) const;
+    [[nodiscard]] ReportCell cell(const ColumnLayout& column, const LineFields& fields) const;
+    [[nodiscard]] static std::optional<ReportCell> shortNumber(const ColumnLayout& column,
+                                                               const SlotNumbers& numbers);
+    [[nodiscard]] ReportCell number(const ColumnLayout& column,
+                                    const std::vector<std::string>& numbers) const;
     void noteShown();
 
     const ReportLayout& m_layout;

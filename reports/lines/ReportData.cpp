@@ -35,7 +35,7 @@ struct PlainCell {
     }
 };
 
-bool isNumberCell(const ReportColumn& column, const Cell& cell)
+bool isNumberCell(const ReportColumn& column, const ReportCell& cell)
 {
     return std::holds_alternative<Decimal>(cell) ||
            (column.kind == ColumnKind::Number && std::holds_alternative<QString>(cell));
@@ -48,7 +48,7 @@ ReportData::ReportData(std::vector<ReportColumn> columns)
 {
 }
 
-void ReportData::addLine(LineKind kind, std::vector<Cell> cells)
+void ReportData::addLine(LineKind kind, std::vector<ReportCell> cells)
 {
     Q_ASSERT(cells.size() <= m_columns.size());
     cells.resize(m_columns.size());
@@ -57,7 +57,7 @@ void ReportData::addLine(LineKind kind, std::vector<Cell> cells)
         addCell(m_cells[column], cells[column]);
 }
 
-void ReportData::addCell(Cells& cells, const Cell& cell)
+void ReportData::addCell(Cells& cells, const ReportCell& cell)
 {
     if (const auto* text = std::get_if<QString>(&cell)) {
         addText(cells, *text);
@@ -102,7 +102,7 @@ LineKind ReportData::lineKind(qsizetype line) const
     return m_kinds.at(static_cast<std::size_t>(line));
 }
 
-Cell ReportData::cell(qsizetype line, int column) const
+ReportCell ReportData::cell(qsizetype line, int column) const
 {
     const Cells& cells = m_cells.at(static_cast<std::size_t>(column));
     const auto tag = cells.tags.at(static_cast<std::size_t>(line));
@@ -122,7 +122,7 @@ Cell ReportData::cell(qsizetype line, int column) const
 QString ReportData::text(qsizetype line, int column) const
 {
     const ReportColumn& shown = m_columns.at(static_cast<std::size_t>(column));
-    const Cell own = cell(line, column);
+    const ReportCell own = cell(line, column);
     const QString plain = std::visit(PlainCell{shown}, own);
     return isNumberCell(shown, own) ? dressed(plain, shown.dress) : plain;
 }

@@ -39,7 +39,7 @@ struct ReportColumn {
 };
 
 /// A cell as it is stored, never rounded: nothing, a text, a number or a day.
-using Cell = std::variant<std::monostate, QString, Decimal, QDate>;
+using ReportCell = std::variant<std::monostate, QString, Decimal, QDate>;
 
 /// Kinds of report lines.
 enum class LineKind : std::uint8_t {
@@ -109,12 +109,12 @@ public:
     [[nodiscard]] int columnCount() const { return static_cast<int>(m_columns.size()); }
 
     /// Adds a line; @p cells beyond the columns are an error of the caller, missing ones remain empty.
-    void addLine(LineKind kind, std::vector<Cell> cells);
+    void addLine(LineKind kind, std::vector<ReportCell> cells);
     /// Removes the columns for which @p isKept is false, with their cells.
     void keepColumns(const std::vector<bool>& isKept);
     [[nodiscard]] qsizetype lineCount() const { return static_cast<qsizetype>(m_kinds.size()); }
     [[nodiscard]] LineKind lineKind(qsizetype line) const;
-    [[nodiscard]] Cell cell(qsizetype line, int column) const;
+    [[nodiscard]] ReportCell cell(qsizetype line, int column) const;
     /// The cell as preview and paper show it: numbers rounded to the column's places, with the signs of the
     /// user's locale and the column's dress, dates in the locale's short form.
     [[nodiscard]] QString text(qsizetype line, int column) const;
@@ -127,7 +127,7 @@ private:
         std::vector<std::uint8_t> tags;     ///< what a cell is, and the scale of a number
         std::vector<std::int64_t> contents; ///< coefficient, day, or place of the text
     };
-    void addCell(Cells& cells, const Cell& cell);
+    void addCell(Cells& cells, const ReportCell& cell);
     void addText(Cells& cells, const QString& text);
 
     std::vector<ReportColumn> m_columns;

@@ -6,15 +6,6 @@
 namespace norvane::reports
 {
 
-QString NameList::keyOf(const store::Value& number)
-{
-    const QString text = number.toText().trimmed();
-    qsizetype zeros = 0;
-    while (zeros + 1 < text.size() && text.at(zeros) == u'0')
-        ++zeros;
-    return text.mid(zeros);
-}
-
 bool LineSource::isKey(const FieldName& field) const
 {
     return std::ranges::find(keys, field) != keys.end();

@@ -1,11 +1,11 @@
 // The content of a layout file (.rpt): the tables that a report reads, its columns, order, groups and charts.
 #pragma once
 
+#include "reports/formula/Condition.h"
 #include "reports/formula/Expression.h"
 #include "reports/formula/FieldName.h"
-#include "reports/formula/SelectionFormula.h"
-#include "reports/lines/CellFormat.h"
 #include "reports/lines/ReportData.h"
+#include "reports/lines/TextTemplate.h"
 
 #include <QString>
 
@@ -15,39 +15,6 @@
 
 namespace norvane::reports
 {
-
-/// Names of another table, found by the number of a record. They are read once, when the report runs.
-struct NameList {
-    FieldName name;
-    FieldName key;                 ///< the field of the same table that its first index orders by
-    QHash<QString, QString> names; ///< by keyOf()
-
-    /// A number as lists compare it: registers fill numbers up with zeros and blanks.
-    [[nodiscard]] static QString keyOf(const store::Value& number);
-};
-
-/// A text with fields in it: "{TIMEPERIOD.STARTTIME} to {TIMEPERIOD.ENDTIME}".
-struct TextTemplate {
-    struct Part {
-        QString text;
-        std::optional<Slot> slot; ///< the field shown instead of the text
-        /// Words shown instead of the field's value. One: if the field is not 0. Several: for 0, 1 and so on.
-        std::vector<std::vector<Part>> words;
-        std::shared_ptr<const NameList> names =
-            nullptr; ///< shows the name that belongs to the field's number
-    };
-    std::vector<Part> parts;
-
-    [[nodiscard]] bool isEmpty() const { return parts.empty(); }
-};
-
-/// A text, and the text that takes its place when all its fields are empty.
-struct FieldText {
-    TextTemplate text;
-    std::vector<TextTemplate> further; ///< added after it with commas, unless they are empty
-    TextTemplate missing;              ///< its fields are shown as numbers of records, in any format
-    CellFormat format;
-};
 
 /// A table joined for its names. Its rows are found by value: "007" and 7 meet.
 struct Join {
@@ -91,7 +58,7 @@ struct ColumnLayout {
     ReportColumn column; ///< the decimal places of money are set when the report runs
     CellFormat format;
     std::optional<Expression> number; ///< of a column of numbers
-    FieldText text;                   ///< of a column of texts or days
+    LineText text;                    ///< of a column of texts or days
     bool isTotalled = false;
     /// The column is shown if one of these is not zero in any line; always if there are none.
     std::vector<Expression> shownIf;
@@ -100,7 +67,7 @@ struct ColumnLayout {
 /// A group of a report.
 struct GroupLayout {
     Slot by = 0;
-    FieldText heading;
+    LineText heading;
 };
 
 /// Where the points of a chart come from.
@@ -112,7 +79,7 @@ struct ChartLayout {
     QString title;
     PointSource from = PointSource::Lines;
     std::optional<LineSource> query; ///< of a chart that adds up the rows again, by another field
-    FieldText label;
+    LineText label;
     std::optional<Expression> value;
     CellFormat valueFormat{FormatKind::Money, 2, 2, {}};
     int most = 0; ///< how many of the largest points are shown; 0 for all

@@ -1,10 +1,10 @@
 // Runs the statements of one report on the customer's database.
 #pragma once
 
-#include "reports/lines/FieldTexts.h"
 #include "reports/lines/ReportLayout.h"
 #include "reports/lines/ReportRun.h"
 #include "reports/lines/SalesDays.h"
+#include "reports/lines/TextTemplate.h"
 #include "store/engine/Database.h"
 #include "store/sales/MonthTotals.h"
 

@@ -3,6 +3,7 @@
 
 #include "platform/RuntimeFailure.h"
 #include "reports/formula/ExactNumbers.h"
+#include "reports/formula/SelectionFormula.h"
 #include "reports/lines/LayoutReader.h"
 #include "reports/lines/LineBuilder.h"
 #include "reports/lines/ReportQuery.h"

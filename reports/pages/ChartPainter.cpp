@@ -17,7 +17,7 @@ constexpr double titleHeight = 9;
 
 struct Drawing {
     double (*height)(const Chart&, double);
-    void (*paint)(QPainter&, const QRectF&, const Chart&, const PageText&);
+    void (*paint)(QPainter&, const QRectF&, const Chart&, const PageFont&);
 };
 
 const Drawing& drawing(ChartKind kind)
@@ -35,15 +35,15 @@ double chartHeight(const Chart& chart, double width)
     return titleHeight + drawing(chart.kind).height(chart, width);
 }
 
-void paintChart(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text)
+void paintChart(QPainter& painter, const QRectF& place, const Chart& chart, const PageFont& font)
 {
     if (chart.points.empty())
         return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF title(place.topLeft(), QSizeF(place.width(), chartTitleStyle.size * headingPitch));
-    text.draw(painter, title, chart.title, chartTitleStyle, Alignment::Left);
-    drawing(chart.kind).paint(painter, place.adjusted(0, titleHeight, 0, 0), chart, text);
+    font.draw(painter, title, chart.title, chartTitleStyle, Alignment::Left);
+    drawing(chart.kind).paint(painter, place.adjusted(0, titleHeight, 0, 0), chart, font);
     painter.restore();
 }
 

@@ -2,7 +2,7 @@
 // be distinguished differ in lightness, and rankings and shares show each value as a number too.
 #pragma once
 
-#include "reports/pages/PageText.h"
+#include "reports/pages/PageFont.h"
 
 class QPainter;
 
@@ -13,6 +13,6 @@ namespace norvane::reports
 [[nodiscard]] double chartHeight(const Chart& chart, double width);
 
 /// Paints @p chart into @p place. @param painter in millimetres.
-void paintChart(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text);
+void paintChart(QPainter& painter, const QRectF& place, const Chart& chart, const PageFont& font);
 
 } // namespace norvane::reports

@@ -35,13 +35,13 @@ bool isNumber(QStringView word)
 class WidestCell
 {
 public:
-    WidestCell(const ReportColumn& column, const PageText& text, bool isBold)
-        : m_column(column), m_text(text), m_style{usualSize, isBold},
-          m_digit(text.width(QStringLiteral("0"), {usualSize, isBold})),
-          m_sign(text.width(QStringLiteral("-"), {usualSize, isBold})),
-          m_separator(text.width(QLocale().groupSeparator(), {usualSize, isBold})),
-          m_currency(text.width(column.dress.currency, {usualSize, isBold})),
-          m_day(text.width(shownDay({2028, 12, 28}), {usualSize, isBold}))
+    WidestCell(const ReportColumn& column, const PageFont& font, bool isBold)
+        : m_column(column), m_font(font), m_style{usualSize, isBold},
+          m_digit(font.width(QStringLiteral("0"), {usualSize, isBold})),
+          m_sign(font.width(QStringLiteral("-"), {usualSize, isBold})),
+          m_separator(font.width(QLocale().groupSeparator(), {usualSize, isBold})),
+          m_currency(font.width(column.dress.currency, {usualSize, isBold})),
+          m_day(font.width(shownDay({2028, 12, 28}), {usualSize, isBold}))
     {
     }
 
@@ -50,7 +50,7 @@ public:
     {
         double widest = 0;
         for (const QStringView word : QStringTokenizer(words, u' ')) {
-            const double width = m_text.width(word, m_style);
+            const double width = m_font.width(word, m_style);
             widest = std::max(widest, isNumber(word) ? width : std::min(width, longestWord));
         }
         return widest;
@@ -71,7 +71,7 @@ public:
 
 private:
     const ReportColumn& m_column;
-    const PageText& m_text;
+    const PageFont& m_font;
     TextStyle m_style;
     double m_digit;
     double m_sign;
@@ -80,20 +80,20 @@ private:
     double m_day;
 };
 
-double widestWord(const QString& heading, const PageText& text)
+double widestWord(const QString& heading, const PageFont& font)
 {
     double widest = 0;
     for (const QStringView word : QStringTokenizer(heading, u' '))
-        widest = std::max(widest, text.width(word, {usualSize, true}));
+        widest = std::max(widest, font.width(word, {usualSize, true}));
     return widest;
 }
 
 /// Headings of groups run over the whole line, so they do not count.
-double widestValue(const ReportData& report, int column, const PageText& text)
+double widestValue(const ReportData& report, int column, const PageFont& font)
 {
     const ReportColumn& shown = report.columns()[static_cast<std::size_t>(column)];
-    const WidestCell plain(shown, text, false);
-    const WidestCell bold(shown, text, true);
+    const WidestCell plain(shown, font, false);
+    const WidestCell bold(shown, font, true);
     double widest =
         shown.kind == ColumnKind::Text ? std::min(leastTextWidth, shown.width.inMillimetres()) : 0;
     for (qsizetype line = 0; line < report.lineCount(); ++line) {
@@ -122,12 +122,12 @@ struct Widths {
     }
 };
 
-Widths widthsOf(const ReportData& report, const PageText& text)
+Widths widthsOf(const ReportData& report, const PageFont& font)
 {
     Widths widths;
     for (int column = 0; column < report.columnCount(); ++column) {
         const ReportColumn& shown = report.columns()[static_cast<std::size_t>(column)];
-        widths.needed.push_back(std::max(widestWord(shown.heading, text), widestValue(report, column, text)));
+        widths.needed.push_back(std::max(widestWord(shown.heading, font), widestValue(report, column, font)));
         widths.wanted.push_back(shown.width.inMillimetres());
     }
     return widths;
@@ -181,9 +181,9 @@ std::vector<double> fittedWidths(const Widths& widths, std::size_t first, std::s
 
 } // namespace
 
-ColumnPlaces fitColumns(const ReportData& report, const PageText& text, double left, double width)
+ColumnPlaces fitColumns(const ReportData& report, const PageFont& font, double left, double width)
 {
-    const Widths widths = widthsOf(report, text);
+    const Widths widths = widthsOf(report, font);
     const double size = fittingSize(widths, width);
     ColumnPlaces places{{}, size};
     int band = 0;

@@ -1,7 +1,7 @@
 // Columns fitted to a page's width.
 #pragma once
 
-#include "reports/pages/PageText.h"
+#include "reports/pages/PageFont.h"
 
 #include <vector>
 
@@ -31,7 +31,7 @@ inline constexpr double cellMargin = 1.3;
 /// No number and no word of a heading is cut or split: where space is short, text columns become narrower
 /// first, so that texts break into rows; if that is not enough, all letters become smaller; and if letters
 /// would become too small to read, the last columns continue in a further band below the others.
-[[nodiscard]] ColumnPlaces fitColumns(const ReportData& report, const PageText& text, double left,
+[[nodiscard]] ColumnPlaces fitColumns(const ReportData& report, const PageFont& font, double left,
                                       double width);
 
 } // namespace norvane::reports

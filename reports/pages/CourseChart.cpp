@@ -55,11 +55,11 @@ ValueScale makeScale(const Chart& chart)
 class Course
 {
 public:
-    Course(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text)
-        : m_painter(painter), m_chart(chart), m_text(text), m_scale(makeScale(chart))
+    Course(QPainter& painter, const QRectF& place, const Chart& chart, const PageFont& font)
+        : m_painter(painter), m_chart(chart), m_font(font), m_scale(makeScale(chart))
     {
         const double scaleWidth =
-            std::max(text.width(tick(m_scale.high), chartStyle), text.width(tick(m_scale.low), chartStyle));
+            std::max(font.width(tick(m_scale.high), chartStyle), font.width(tick(m_scale.low), chartStyle));
         m_field = place.adjusted(scaleWidth + scaleGap, chartStyle.size / 2, 0, -labelHeight);
         m_pitch = m_field.width() / static_cast<double>(chart.points.size());
     }
@@ -91,7 +91,7 @@ private:
             m_painter.fillRect(QRectF(m_field.left(), y(value) - hairline / 2, m_field.width(), hairline),
                                ink::line);
             const QRectF label(m_field.left() - scaleGap - 40, y(value) - 3, 40, 6);
-            m_text.draw(m_painter, label, tick(value), chartStyle, Alignment::Right);
+            m_font.draw(m_painter, label, tick(value), chartStyle, Alignment::Right);
         }
     }
 
@@ -110,18 +110,18 @@ private:
     {
         double widest = 0;
         for (const ChartPoint& point : m_chart.points)
-            widest = std::max(widest, m_text.width(point.label, chartStyle) + scaleGap);
+            widest = std::max(widest, m_font.width(point.label, chartStyle) + scaleGap);
         const auto every = static_cast<std::size_t>(std::max(1.0, std::ceil(widest / m_pitch)));
         for (std::size_t point = 0; point < m_chart.points.size(); point += every) {
             const double centre = m_field.left() + (static_cast<double>(point) + 0.5) * m_pitch;
             const QRectF place(centre - widest / 2, m_field.bottom() + 0.8, widest, labelHeight);
-            m_text.draw(m_painter, place, m_chart.points[point].label, chartStyle, Alignment::Centre);
+            m_font.draw(m_painter, place, m_chart.points[point].label, chartStyle, Alignment::Centre);
         }
     }
 
     QPainter& m_painter;
     const Chart& m_chart;
-    const PageText& m_text;
+    const PageFont& m_font;
     ValueScale m_scale;
     QRectF m_field;     ///< the area of the bars
     double m_pitch = 1; ///< from one bar to the next, in mm
@@ -134,9 +134,9 @@ double courseHeight(const Chart& /*chart*/, double /*width*/)
     return 74;
 }
 
-void paintCourse(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text)
+void paintCourse(QPainter& painter, const QRectF& place, const Chart& chart, const PageFont& font)
 {
-    Course(painter, place, chart, text).paint();
+    Course(painter, place, chart, font).paint();
 }
 
 } // namespace norvane::reports

@@ -23,8 +23,8 @@ std::vector<int> topsOf(const std::vector<int>& rows)
 
 } // namespace
 
-LineLayout::LineLayout(const ReportData& report, const PageText& text, ColumnPlaces places)
-    : m_report(report), m_text(text), m_places(std::move(places))
+LineLayout::LineLayout(const ReportData& report, const PageFont& font, ColumnPlaces places)
+    : m_report(report), m_font(font), m_places(std::move(places))
 {
 }
 
@@ -61,7 +61,7 @@ int LineLayout::firstColumn(qsizetype line, int column) const
 {
     const bool isDetail = m_report.lineKind(line) == LineKind::Detail;
     while (!isDetail && column > 0 && isSameBand(column, column - 1) &&
-           m_report.cell(line, column - 1) == Cell())
+           m_report.cell(line, column - 1) == ReportCell())
         --column;
     return column;
 }
@@ -72,7 +72,7 @@ int LineLayout::lastColumn(qsizetype line, int column) const
     const LineKind kind = m_report.lineKind(line);
     const int end = m_report.columnCount() - 1;
     while (kind != LineKind::Detail && column < end && isSameBand(column, column + 1) &&
-           m_report.cell(line, column + 1) == Cell())
+           m_report.cell(line, column + 1) == ReportCell())
         ++column;
     return column;
 }
@@ -87,11 +87,11 @@ ColumnPlace LineLayout::textPlace(qsizetype line, int column) const
 /// Only texts take several rows, so numbers need not be measured.
 qsizetype LineLayout::rowsOfCell(qsizetype line, int column) const
 {
-    const Cell cell = m_report.cell(line, column);
-    if (cell == Cell())
+    const ReportCell cell = m_report.cell(line, column);
+    if (cell == ReportCell())
         return 0;
     const auto* const text = std::get_if<QString>(&cell);
-    return text ? m_text.wrapped(*text, style(line), textPlace(line, column).width).size() : 1;
+    return text ? m_font.wrapped(*text, style(line), textPlace(line, column).width).size() : 1;
 }
 
 /// The first row of each band, and the end of the last one. The first band has one row at least.
@@ -116,7 +116,7 @@ std::vector<CellBox> LineLayout::headings() const
         ColumnPlace place = m_places.columns[column];
         place.left += cellMargin;
         place.width -= 2 * cellMargin;
-        boxes.push_back({place, m_text.wrappedWords(shown.heading, bold, place.width), shown.alignment});
+        boxes.push_back({place, m_font.wrappedWords(shown.heading, bold, place.width), shown.alignment});
         int& own = rows[static_cast<std::size_t>(place.band)];
         own = std::max(own, static_cast<int>(boxes.back().rows.size()));
     }
@@ -134,7 +134,7 @@ CellBox LineLayout::cellBox(qsizetype line, int column) const
     if (!std::holds_alternative<QString>(m_report.cell(line, column)))
         return {place, {text}, shown.alignment};
     const bool isLabel = lastColumn(line, column) > firstColumn(line, column);
-    return {place, m_text.wrapped(text, style(line), place.width),
+    return {place, m_font.wrapped(text, style(line), place.width),
             isLabel ? Alignment::Left : shown.alignment};
 }
 
@@ -143,7 +143,7 @@ std::vector<CellBox> LineLayout::cells(qsizetype line) const
     const std::vector<int> tops = bandTops(line);
     std::vector<CellBox> boxes;
     for (int column = 0; column < m_report.columnCount(); ++column) {
-        if (m_report.cell(line, column) == Cell())
+        if (m_report.cell(line, column) == ReportCell())
             continue;
         boxes.push_back(cellBox(line, column));
         boxes.back().firstRow = tops[static_cast<std::size_t>(boxes.back().place.band)];

@@ -21,8 +21,8 @@ struct CellBox {
 class LineLayout
 {
 public:
-    /// @p report and @p text must outlive this; lines may still be added.
-    LineLayout(const ReportData& report, const PageText& text, ColumnPlaces places);
+    /// @p report and @p font must outlive this; lines may still be added.
+    LineLayout(const ReportData& report, const PageFont& font, ColumnPlaces places);
 
     [[nodiscard]] const ColumnPlaces& places() const { return m_places; }
     [[nodiscard]] TextStyle style(qsizetype line) const;
@@ -45,7 +45,7 @@ private:
     [[nodiscard]] CellBox cellBox(qsizetype line, int column) const;
 
     const ReportData& m_report;
-    const PageText& m_text;
+    const PageFont& m_font;
     ColumnPlaces m_places;
 };
 

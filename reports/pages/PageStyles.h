@@ -2,7 +2,7 @@
 // too.
 #pragma once
 
-#include "reports/pages/PageText.h"
+#include "reports/pages/PageFont.h"
 
 namespace norvane::reports
 {

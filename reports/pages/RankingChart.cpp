@@ -22,12 +22,12 @@ struct Scale {
     double largest = 0;
 };
 
-Scale makeScale(const Chart& chart, const PageText& text, double width)
+Scale makeScale(const Chart& chart, const PageFont& font, double width)
 {
     Scale scale;
     for (const ChartPoint& point : chart.points) {
-        scale.labelWidth = std::max(scale.labelWidth, text.width(point.label, chartStyle));
-        scale.valueWidth = std::max(scale.valueWidth, text.width(shownValue(chart, point.value), chartStyle));
+        scale.labelWidth = std::max(scale.labelWidth, font.width(point.label, chartStyle));
+        scale.valueWidth = std::max(scale.valueWidth, font.width(shownValue(chart, point.value), chartStyle));
         scale.largest = std::max(scale.largest, point.value.toDouble());
     }
     scale.labelWidth = std::min(scale.labelWidth, width * 0.4);
@@ -47,9 +47,9 @@ double rankingHeight(const Chart& chart, double /*width*/)
     return static_cast<double>(chart.points.size()) * bestPitch;
 }
 
-void paintRanking(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text)
+void paintRanking(QPainter& painter, const QRectF& place, const Chart& chart, const PageFont& font)
 {
-    const Scale scale = makeScale(chart, text, place.width());
+    const Scale scale = makeScale(chart, font, place.width());
     const double pitch = std::min(bestPitch, place.height() / static_cast<double>(chart.points.size()));
     TextStyle style = chartStyle;
     style.size = std::min(style.size, pitch * 0.75);
@@ -59,9 +59,9 @@ void paintRanking(QPainter& painter, const QRectF& place, const Chart& chart, co
     for (const ChartPoint& point : chart.points) {
         const QRectF bar(origin, row.center().y() - pitch * barPart / 2, barLength(point, scale, space),
                          pitch * barPart);
-        text.draw(painter, row, text.elided(point.label, style, row.width() + 0.1), style, Alignment::Right);
+        font.draw(painter, row, font.elided(point.label, style, row.width() + 0.1), style, Alignment::Right);
         painter.fillRect(bar, ink::bar);
-        text.draw(painter, QRectF(bar.right() + barGap, row.top(), scale.valueWidth, pitch),
+        font.draw(painter, QRectF(bar.right() + barGap, row.top(), scale.valueWidth, pitch),
                   shownValue(chart, point.value), style, Alignment::Left);
         row.moveTop(row.bottom());
     }

@@ -1,7 +1,7 @@
 // See RankingChart.cpp; painted by paintChart().
 #pragma once
 
-#include "reports/pages/PageText.h"
+#include "reports/pages/PageFont.h"
 
 class QPainter;
 
@@ -10,6 +10,6 @@ namespace norvane::reports
 
 /// The height that the chart of @p width looks best with, without its title; all in mm.
 [[nodiscard]] double rankingHeight(const Chart& chart, double width);
-void paintRanking(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text);
+void paintRanking(QPainter& painter, const QRectF& place, const Chart& chart, const PageFont& font);
 
 } // namespace norvane::reports

@@ -19,7 +19,7 @@ bool ReportDocument::hasCharts() const
 void ReportDocument::setShowsCharts(bool shows)
 {
     m_showsCharts = shows;
-    m_pages = std::make_unique<ReportPages>(m_report, m_text, shows);
+    m_pages = std::make_unique<ReportPages>(m_report, m_font, shows);
 }
 
 bool ReportDocument::holds(qsizetype line, const QString& sought) const

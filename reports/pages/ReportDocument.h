@@ -18,12 +18,12 @@ public:
     ReportDocument& operator=(const ReportDocument&) = delete;
 
     [[nodiscard]] const ReportData& report() const { return m_report; }
-    [[nodiscard]] const PageText& text() const { return m_text; }
+    [[nodiscard]] const PageFont& font() const { return m_font; }
     [[nodiscard]] ReportPages& pages() { return *m_pages; }
     [[nodiscard]] const ReportPages& pages() const { return *m_pages; }
     void paint(QPainter& painter, int page) const
     {
-        ReportPainter(m_report, *m_pages, m_text).paint(painter, page);
+        ReportPainter(m_report, *m_pages, m_font).paint(painter, page);
     }
 
     [[nodiscard]] bool hasCharts() const;
@@ -42,7 +42,7 @@ private:
     [[nodiscard]] bool holds(qsizetype line, const QString& sought) const;
 
     ReportData m_report;
-    PageText m_text;
+    PageFont m_font;
     bool m_showsCharts = true;
     std::unique_ptr<ReportPages> m_pages;
 };

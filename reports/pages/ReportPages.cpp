@@ -26,14 +26,14 @@ double headingRowHeight(const TextStyle& style)
     return style.size * headingPitch;
 }
 
-PageFrame makeFrame(const ReportData& report, const PageText& text, const LineLayout& lines, bool isLandscape)
+PageFrame makeFrame(const ReportData& report, const PageFont& font, const LineLayout& lines, bool isLandscape)
 {
     PageFrame frame;
     frame.sheet = sheetOf(isLandscape);
     const QRectF area = frame.sheet.marginsRemoved(margins);
     frame.subtitleWidth = area.width() * 0.68;
     const auto rows = [&](const QString& words, const TextStyle& style) {
-        return static_cast<double>(text.wrapped(words, style, frame.subtitleWidth).size());
+        return static_cast<double>(font.wrapped(words, style, frame.subtitleWidth).size());
     };
     const double left = rows(report.heading.title, titleStyle) * headingRowHeight(titleStyle) +
                         rows(report.heading.subtitle, subtitleStyle) * headingRowHeight(subtitleStyle);
@@ -55,35 +55,35 @@ bool isTotal(LineKind kind)
     return kind == LineKind::Subtotal || kind == LineKind::GrandTotal;
 }
 
-ColumnPlaces columnsOn(bool isLandscape, const ReportData& report, const PageText& text)
+ColumnPlaces columnsOn(bool isLandscape, const ReportData& report, const PageFont& font)
 {
     const QRectF area = sheetOf(isLandscape).marginsRemoved(margins);
-    return fitColumns(report, text, area.left(), area.width());
+    return fitColumns(report, font, area.left(), area.width());
 }
 
 /// Turns the sheet, where the layout leaves that open, before columns go on in a second band.
-SheetColumns sheetColumns(const ReportData& report, const PageText& text)
+SheetColumns sheetColumns(const ReportData& report, const PageFont& font)
 {
     const bool isLandscape = report.page.isLandscape;
-    SheetColumns upright{isLandscape, columnsOn(isLandscape, report, text)};
+    SheetColumns upright{isLandscape, columnsOn(isLandscape, report, font)};
     if (isLandscape || !report.page.mayTurn || upright.places.bandCount() == 1)
         return upright;
-    return {true, columnsOn(true, report, text)};
+    return {true, columnsOn(true, report, font)};
 }
 
 } // namespace
 
-ReportPages::ReportPages(const ReportData& report, const PageText& text, bool showsCharts)
-    : ReportPages(report, text, showsCharts, sheetColumns(report, text))
+ReportPages::ReportPages(const ReportData& report, const PageFont& font, bool showsCharts)
+    : ReportPages(report, font, showsCharts, sheetColumns(report, font))
 {
 }
 
-ReportPages::ReportPages(const ReportData& report, const PageText& text, bool showsCharts,
+ReportPages::ReportPages(const ReportData& report, const PageFont& font, bool showsCharts,
                          SheetColumns columns)
-    : m_report(report), m_lines(report, text, std::move(columns.places)),
+    : m_report(report), m_lines(report, font, std::move(columns.places)),
       m_charts(drawableCharts(showsCharts))
 {
-    m_frame = makeFrame(report, text, m_lines, columns.isLandscape);
+    m_frame = makeFrame(report, font, m_lines, columns.isLandscape);
 }
 
 std::vector<std::size_t> ReportPages::drawableCharts(bool showsCharts) const

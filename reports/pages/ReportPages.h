@@ -54,8 +54,8 @@ struct SheetColumns {
 class ReportPages
 {
 public:
-    /// @p report and @p text must outlive this.
-    ReportPages(const ReportData& report, const PageText& text, bool showsCharts);
+    /// @p report and @p font must outlive this.
+    ReportPages(const ReportData& report, const PageFont& font, bool showsCharts);
 
     /// Lays out @p pages more, fewer at the end. @return false once all are there.
     bool layOut(int pages);
@@ -74,7 +74,7 @@ public:
     [[nodiscard]] std::optional<int> pageOfLine(qsizetype line) const;
 
 private:
-    ReportPages(const ReportData& report, const PageText& text, bool showsCharts, SheetColumns columns);
+    ReportPages(const ReportData& report, const PageFont& font, bool showsCharts, SheetColumns columns);
     void layOutPage();
     void addLines(ReportPage& page);
     void addBlock(ReportPage& page, qsizetype end);

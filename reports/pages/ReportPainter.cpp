@@ -42,8 +42,8 @@ void paintGround(QPainter& painter, const QRectF& place, LineKind kind)
 
 } // namespace
 
-ReportPainter::ReportPainter(const ReportData& report, const ReportPages& pages, const PageText& text)
-    : m_report(report), m_pages(pages), m_text(text)
+ReportPainter::ReportPainter(const ReportData& report, const ReportPages& pages, const PageFont& font)
+    : m_report(report), m_pages(pages), m_font(font)
 {
 }
 
@@ -57,7 +57,7 @@ void ReportPainter::paint(QPainter& painter, int index) const
     for (const PlacedLine& line : m_pages.placedLines(index))
         paintLine(painter, line);
     for (const PlacedChart& chart : page.charts)
-        paintChart(painter, chart.place, m_report.charts[chart.chart], m_text);
+        paintChart(painter, chart.place, m_report.charts[chart.chart], m_font);
     if (m_report.lineCount() == 0 && index == 0)
         paintNotice(painter);
 }
@@ -67,8 +67,8 @@ void ReportPainter::paintHeading(QPainter& painter, int index) const
     const PageFrame& frame = m_pages.frame();
     const ReportHeading& heading = m_report.heading;
     QRectF row(frame.heading.topLeft(), QSizeF(frame.subtitleWidth, 0));
-    paintHeadingRows(painter, m_text.wrapped(heading.title, titleStyle, row.width()), titleStyle, row);
-    paintHeadingRows(painter, m_text.wrapped(heading.subtitle, subtitleStyle, row.width()), subtitleStyle,
+    paintHeadingRows(painter, m_font.wrapped(heading.title, titleStyle, row.width()), titleStyle, row);
+    paintHeadingRows(painter, m_font.wrapped(heading.subtitle, subtitleStyle, row.width()), subtitleStyle,
                      row);
     paintOrigin(painter, index);
     drawRule(painter, frame.heading, frame.heading.bottom(), thickLine, ink::rule);
@@ -80,7 +80,7 @@ void ReportPainter::paintHeadingRows(QPainter& painter, const QStringList& rows,
 {
     for (const QString& text : rows) {
         row.setHeight(style.size * headingPitch);
-        m_text.draw(painter, row, text, style, Alignment::Left);
+        m_font.draw(painter, row, text, style, Alignment::Left);
         row.moveTop(row.bottom());
     }
 }
@@ -95,11 +95,11 @@ void ReportPainter::paintOrigin(QPainter& painter, int index) const
     const QRectF& heading = m_pages.frame().heading;
     QRectF row(heading.left() + m_pages.frame().subtitleWidth, heading.top(),
                heading.width() - m_pages.frame().subtitleWidth, subtitleStyle.size * headingPitch);
-    m_text.draw(painter, row, m_report.heading.customer, subtitleBoldStyle, Alignment::Right);
+    m_font.draw(painter, row, m_report.heading.customer, subtitleBoldStyle, Alignment::Right);
     row.moveTop(row.bottom());
-    m_text.draw(painter, row, printed, subtitleStyle, Alignment::Right);
+    m_font.draw(painter, row, printed, subtitleStyle, Alignment::Right);
     row.moveTop(row.bottom());
-    m_text.draw(painter, row, number, subtitleStyle, Alignment::Right);
+    m_font.draw(painter, row, number, subtitleStyle, Alignment::Right);
 }
 
 /// Headings are aligned to the rule below them, so that short ones are near their figures too.
@@ -113,7 +113,7 @@ void ReportPainter::paintColumnHeadings(QPainter& painter) const
                    area.top() + columnHeadingPadding + heading.firstRow * lines.rowHeight(),
                    heading.place.width, lines.rowHeight());
         for (const QString& text : heading.rows) {
-            m_text.draw(painter, row, text, style, heading.alignment);
+            m_font.draw(painter, row, text, style, heading.alignment);
             row.moveTop(row.bottom());
         }
     }
@@ -134,7 +134,7 @@ void ReportPainter::paintCell(QPainter& painter, const PlacedLine& line, const C
                cell.place.width, lines.rowHeight());
     for (const QString& text : cell.rows) {
         const QString shown = line.isContinued ? text + u" (continued)"_s : text;
-        m_text.draw(painter, row, shown, lines.style(line.line), cell.alignment);
+        m_font.draw(painter, row, shown, lines.style(line.line), cell.alignment);
         row.moveTop(row.bottom());
     }
 }
@@ -144,8 +144,8 @@ void ReportPainter::paintNotice(QPainter& painter) const
     const PageFrame& frame = m_pages.frame();
     QRectF row(frame.body.left(), frame.body.top() + frame.body.height() / 5, frame.body.width(),
                noticeStyle.size * headingPitch);
-    for (const QString& text : m_text.wrapped(m_report.heading.notice, noticeStyle, row.width())) {
-        m_text.draw(painter, row, text, noticeStyle, Alignment::Centre);
+    for (const QString& text : m_font.wrapped(m_report.heading.notice, noticeStyle, row.width())) {
+        m_font.draw(painter, row, text, noticeStyle, Alignment::Centre);
         row.moveTop(row.bottom());
     }
 }

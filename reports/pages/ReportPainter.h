@@ -13,7 +13,7 @@ class ReportPainter
 {
 public:
     /// All must outlive this.
-    ReportPainter(const ReportData& report, const ReportPages& pages, const PageText& text);
+    ReportPainter(const ReportData& report, const ReportPages& pages, const PageFont& font);
 
     /// Paints the page at @p index from 0. Its heading shows the number of pages once all are laid out.
     /// @param painter in millimetres from the sheet's upper left corner.
@@ -31,7 +31,7 @@ private:
 
     const ReportData& m_report;
     const ReportPages& m_pages;
-    const PageText& m_text;
+    const PageFont& m_font;
 };
 
 } // namespace norvane::reports

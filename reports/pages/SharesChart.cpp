@@ -22,13 +22,11 @@ constexpr double discSize = 56;
 constexpr double legendGap = 8;       ///< between disc and legend
 constexpr double fullTurn = 360 * 16; ///< in the painter's sixteenths of a degree
 
-using Part = ChartPoint;
-
 /// For angles and percentages only: it never fails, as an exact sum of many digits does.
-double wholeOf(const std::vector<Part>& parts)
+double wholeOf(const std::vector<ChartPoint>& parts)
 {
     return std::accumulate(parts.begin(), parts.end(), 0.0,
-                           [](double sum, const Part& part) { return sum + part.value.toDouble(); });
+                           [](double sum, const ChartPoint& part) { return sum + part.value.toDouble(); });
 }
 
 /// Dark and light in turn, each a little paler than the last of its kind.
@@ -45,7 +43,7 @@ QString percentage(double part, double whole)
     return QLocale().toString(part / whole * 100, 'f', 1) + u" %"_s;
 }
 
-void paintDisc(QPainter& painter, const QRectF& disc, const std::vector<Part>& parts, double whole)
+void paintDisc(QPainter& painter, const QRectF& disc, const std::vector<ChartPoint>& parts, double whole)
 {
     painter.setPen(QPen(Qt::white, 0.4));
     double start = fullTurn / 4;
@@ -67,41 +65,41 @@ struct LegendColumns {
     double value = 0;
     double percentage = 0;
 
-    [[nodiscard]] QString shownValue(const Part& part) const
+    [[nodiscard]] QString shownValue(const ChartPoint& part) const
     {
         return reports::shownValue(chart, part.value);
     }
 };
 
-void paintRow(QPainter& painter, QPointF corner, const Part& part, double whole, const LegendColumns& columns,
-              const PageText& text)
+void paintRow(QPainter& painter, QPointF corner, const ChartPoint& part, double whole,
+              const LegendColumns& columns, const PageFont& font)
 {
     const auto place = [&](double width) {
         const QRectF cell(corner, QSizeF(width, rowHeight));
         corner.rx() += width + 3;
         return cell;
     };
-    text.draw(painter, place(columns.label), text.elided(part.label, chartStyle, columns.label + 0.1),
+    font.draw(painter, place(columns.label), font.elided(part.label, chartStyle, columns.label + 0.1),
               chartStyle, Alignment::Left);
-    text.draw(painter, place(columns.value), columns.shownValue(part), chartStyle, Alignment::Right);
-    text.draw(painter, place(columns.percentage), percentage(part.value.toDouble(), whole), chartStyle,
+    font.draw(painter, place(columns.value), columns.shownValue(part), chartStyle, Alignment::Right);
+    font.draw(painter, place(columns.percentage), percentage(part.value.toDouble(), whole), chartStyle,
               Alignment::Right);
 }
 
-LegendColumns legendColumns(const std::vector<Part>& parts, const Chart& chart, const PageText& text,
+LegendColumns legendColumns(const std::vector<ChartPoint>& parts, const Chart& chart, const PageFont& font,
                             double width)
 {
-    LegendColumns columns{chart, 0, 0, text.width(percentage(1, 1), chartStyle)};
-    for (const Part& part : parts) {
-        columns.label = std::max(columns.label, text.width(part.label, chartStyle));
-        columns.value = std::max(columns.value, text.width(columns.shownValue(part), chartStyle));
+    LegendColumns columns{chart, 0, 0, font.width(percentage(1, 1), chartStyle)};
+    for (const ChartPoint& part : parts) {
+        columns.label = std::max(columns.label, font.width(part.label, chartStyle));
+        columns.value = std::max(columns.value, font.width(columns.shownValue(part), chartStyle));
     }
     columns.label = std::max(1.0, std::min(columns.label, width - columns.value - columns.percentage - 12));
     return columns;
 }
 
-void paintLegend(QPainter& painter, const QRectF& place, const std::vector<Part>& parts, double whole,
-                 const LegendColumns& columns, const PageText& text)
+void paintLegend(QPainter& painter, const QRectF& place, const std::vector<ChartPoint>& parts, double whole,
+                 const LegendColumns& columns, const PageFont& font)
 {
     double top = place.top();
     for (std::size_t part = 0; part < parts.size(); ++part) {
@@ -109,7 +107,7 @@ void paintLegend(QPainter& painter, const QRectF& place, const std::vector<Part>
         painter.setPen(QPen(ink::rule, hairline));
         painter.setBrush(partColour(part));
         painter.drawRect(sample);
-        paintRow(painter, QPointF(sample.right() + 2, top), parts[part], whole, columns, text);
+        paintRow(painter, QPointF(sample.right() + 2, top), parts[part], whole, columns, font);
         top += rowHeight;
     }
 }
@@ -138,9 +136,9 @@ double sharesHeight(const Chart& chart, double width)
     return isLegendBelow(width) ? discSizeIn(width) + legendGap + legend : std::max(discSize, legend) + 2;
 }
 
-void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, const PageText& text)
+void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, const PageFont& font)
 {
-    const std::vector<Part>& parts = chart.points;
+    const std::vector<ChartPoint>& parts = chart.points;
     if (parts.empty())
         return;
     const double whole = wholeOf(parts);
@@ -151,7 +149,7 @@ void paintShares(QPainter& painter, const QRectF& place, const Chart& chart, con
                               ? place.adjusted(0, size + legendGap, 0, 0)
                               : QRectF(QPointF(disc.right() + legendGap, legendTop), place.bottomRight());
     paintDisc(painter, disc, parts, whole);
-    paintLegend(painter, legend, parts, whole, legendColumns(parts, chart, text, legend.width()), text);
+    paintLegend(painter, legend, parts, whole, legendColumns(parts, chart, font, legend.width()), font);
 }
 
 } // namespace norvane::reports

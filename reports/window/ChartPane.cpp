@@ -62,7 +62,7 @@ protected:
         for (const Chart& chart : m_document.report().charts) {
             const double height = heightOf(chart);
             paintChart(painter, QRectF(corner, QSizeF(chartWidth(), height - margin)), chart,
-                       m_document.text());
+                       m_document.font());
             corner.ry() += height;
         }
     }

@@ -2,7 +2,9 @@
 #include "reports/window/PreviewWindow.h"
 
 #include "platform/Boxes.h"
-#include "reports/files/ReportFiles.h"
+#include "reports/files/CsvFile.h"
+#include "reports/files/PdfFile.h"
+#include "reports/files/XlsxFile.h"
 #include "reports/window/ChartPane.h"
 #include "reports/window/PageView.h"
 #include "reports/window/RunProgress.h"
@@ -105,7 +107,7 @@ const std::array<PreviewWindow::FileKind, 3>& PreviewWindow::FileKind::all()
     return kinds;
 }
 
-PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterFinder findPrinter, QWidget* parent)
+PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterSource findPrinter, QWidget* parent)
     : QWidget(parent, Qt::Window), m_document(std::move(report)), m_boxes(boxes),
       m_findPrinter(std::move(findPrinter)), m_find(new ui::FindBar(this)),
       m_view(new PageView(m_document, this)), m_charts(new ChartPane(m_document, this)),

@@ -33,7 +33,7 @@ class PreviewWindow : public QWidget
     Q_OBJECT
 
 public:
-    PreviewWindow(ReportData report, Boxes& boxes, PrinterFinder findPrinter, QWidget* parent);
+    PreviewWindow(ReportData report, Boxes& boxes, PrinterSource findPrinter, QWidget* parent);
 
 private:
     using Handler = void (PreviewWindow::*)();
@@ -69,7 +69,7 @@ private:
 
     ReportDocument m_document;
     Boxes& m_boxes;
-    PrinterFinder m_findPrinter;
+    PrinterSource m_findPrinter;
     ui::FindBar* m_find;
     PageView* m_view;
     ChartPane* m_charts;

@@ -52,7 +52,7 @@ PageSpan chosenPages(const QPrinter& printer, PrintedPages pages)
 
 } // namespace
 
-std::optional<PrintJob> askForPrint(const PrinterFinder& findPrinter, PrintedPages pages, QWidget* parent)
+std::optional<PrintJob> askForPrint(const PrinterSource& findPrinter, PrintedPages pages, QWidget* parent)
 {
     auto printer = findPrinter();
     if (!printer && QPrinterInfo::availablePrinterNames().isEmpty())
@@ -83,7 +83,7 @@ void printOn(const PrintJob& job, const ReportData& report, bool showsCharts, co
         throw ReportError(u"The printer %1 does not print. Is it still there?"_s.arg(printer.printerName()));
 }
 
-void printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter,
+void printReport(const ReportData& report, bool showsCharts, const PrinterSource& findPrinter,
                  const KeepGoing& keepGoing)
 {
     printOn({findPrinter(), {}}, report, showsCharts, keepGoing);

@@ -28,11 +28,11 @@ struct PrintedPages {
 };
 
 /// Finds the printer; null if the system has none to use.
-using PrinterFinder = std::function<std::unique_ptr<QPrinter>()>;
+using PrinterSource = std::function<std::unique_ptr<QPrinter>()>;
 
 /// Asks for printer, copies and pages; the printer returned by @p findPrinter is preset.
 /// @return nothing if the user cancelled; a job without a printer if the system has none.
-[[nodiscard]] std::optional<PrintJob> askForPrint(const PrinterFinder& findPrinter, PrintedPages pages,
+[[nodiscard]] std::optional<PrintJob> askForPrint(const PrinterSource& findPrinter, PrintedPages pages,
                                                   QWidget* parent);
 
 /// Prints the pages of @p job.
@@ -43,7 +43,7 @@ void printOn(const PrintJob& job, const ReportData& report, bool showsCharts,
 
 /// Prints all pages on the printer returned by @p findPrinter, without a question.
 /// @throws ReportError if there is none or it fails, and ReportCancelled; pages painted by then are printed.
-void printReport(const ReportData& report, bool showsCharts, const PrinterFinder& findPrinter,
+void printReport(const ReportData& report, bool showsCharts, const PrinterSource& findPrinter,
                  const KeepGoing& keepGoing = {});
 
 /// What became of a print, in words for the status bar.

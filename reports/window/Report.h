@@ -56,8 +56,8 @@ public:
     void setDestination(Destination destination) { m_destination = destination; }
     /// The name of the shop as shown on the pages.
     void setCustomer(const QString& name) { m_request.customer = name; }
-    /// Prints on what @p finder gives in place of the system's default printer.
-    void setPrinterFinder(PrinterFinder finder) { m_findPrinter = std::move(finder); }
+    /// Prints on what @p source gives in place of the system's default printer.
+    void setPrinterSource(PrinterSource source) { m_findPrinter = std::move(source); }
 
     /// Runs the report as set; periods end today. An error is shown in a box "Report Error". After an error,
     /// or if the user cancelled, everything is as before the run.
@@ -71,7 +71,7 @@ private:
     QWidget& m_window;
     Boxes& m_boxes;
     Runner m_runner;
-    PrinterFinder m_findPrinter;
+    PrinterSource m_findPrinter;
     ReportRequest m_request;
     Destination m_destination = Destination::Window;
     bool m_isRunning = false;

@@ -35,7 +35,7 @@ public:
         m_image.fill(Qt::white);
         QPainter painter(&m_image);
         painter.scale(10, 10);
-        paintChart(painter, m_place, chart, PageText());
+        paintChart(painter, m_place, chart, PageFont());
     }
     [[nodiscard]] QColor at(double x, double y) const
     {

@@ -105,7 +105,7 @@ protected:
 
     TestFolder m_folder;
     SavingBoxes m_boxes;
-    PrinterFinder m_finder = [this] {
+    PrinterSource m_finder = [this] {
         auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
         printer->setOutputFileName(m_folder.path(("paper" + std::to_string(++m_prints) + ".pdf").c_str()));
         return printer;

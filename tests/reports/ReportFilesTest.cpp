@@ -1,6 +1,7 @@
 // The contents of saved report files, read back by other programs.
-#include "reports/files/ReportFiles.h"
-
+#include "reports/files/CsvFile.h"
+#include "reports/files/PdfFile.h"
+#include "reports/files/XlsxFile.h"
 #include "reports/lines/KeepGoing.h"
 #include "reports/lines/ReportData.h"
 #include "tests/platform/FullDisk.h"

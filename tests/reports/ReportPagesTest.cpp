@@ -1,7 +1,7 @@
 // How lines are broken into pages, and their places on paper.
 #include "reports/pages/ReportPages.h"
 
-#include "reports/files/ReportFiles.h"
+#include "reports/files/PdfFile.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/reports/SampleReport.h"
 #include "tests/support/OtherPrograms.h"
@@ -16,7 +16,7 @@ using namespace reports;
 class Paged
 {
 public:
-    explicit Paged(const ReportData& report, bool showsCharts = true) : pages(report, text, showsCharts)
+    explicit Paged(const ReportData& report, bool showsCharts = true) : pages(report, font, showsCharts)
     {
         pages.layOutAll();
     }
@@ -28,7 +28,7 @@ public:
         return counts;
     }
 
-    PageText text;
+    PageFont font;
     ReportPages pages;
 };
 
@@ -90,7 +90,7 @@ ReportData wideReport(int digits, int values, bool mayTurn)
     columns.back().dress = {true, u"£"_s};
     ReportData report(columns);
     report.page.mayTurn = mayTurn;
-    std::vector<Cell> cells(columns.size(), Decimal(-123456789012, 2));
+    std::vector<ReportCell> cells(columns.size(), Decimal(-123456789012, 2));
     cells[0] = QString(digits, u'8');
     cells[1] = u"A description of some length, Linked PLU 123456789012345678, and more of the same"_s;
     report.addLine(LineKind::Detail, cells);
@@ -101,7 +101,7 @@ ReportData wideReport(int digits, int values, bool mayTurn)
 void expectInPlace(const Paged& paged, const CellBox& cell, const TextStyle& style)
 {
     for (const QString& row : cell.rows)
-        EXPECT_LE(paged.text.width(row, style), cell.place.width + 0.01) << row.toStdString();
+        EXPECT_LE(paged.font.width(row, style), cell.place.width + 0.01) << row.toStdString();
     EXPECT_LE(cell.place.right(), paged.pages.frame().body.right() + 0.01);
 }
 
@@ -140,16 +140,16 @@ TEST(ReportPagesTest, SplitNoNumberAndNoWordOfAHeading)
     }
 }
 
-TEST(PageTextTest, LosesNoLetterInFurtherRows)
+TEST(PageFontTest, LosesNoLetterInFurtherRows)
 {
-    const PageText text;
+    const PageFont font;
     for (const QString& words : {u"Toffee fudge brownie with cream"_s, u"Unbreakableword30characterslong"_s,
                                  u"שלום עולם שלום עולם שלום עולם"_s, u"tab\tand\x01 bell\a in one line"_s}) {
-        const QStringList rows = text.wrapped(words, {}, 20);
+        const QStringList rows = font.wrapped(words, {}, 20);
         EXPECT_GT(rows.size(), 1);
         EXPECT_EQ(rows.join(QString()).remove(u' '), printable(words).remove(u' '));
         for (const QString& row : rows)
-            EXPECT_LE(text.width(row, {}), 20.1) << row.toStdString();
+            EXPECT_LE(font.width(row, {}), 20.1) << row.toStdString();
     }
 }
 

@@ -78,11 +78,11 @@ TEST_F(ReportTest, PrintsStraightOrSaysThatThereIsNoPrinter)
     const TestFolder folder;
     Report report(m_main, m_boxes, drinks);
     report.setDestination(Destination::Printer);
-    report.setPrinterFinder([] { return nullptr; });
+    report.setPrinterSource([] { return nullptr; });
     report.run();
     ASSERT_EQ(m_boxes.shown.size(), 1);
     EXPECT_EQ(m_boxes.shown[0].title, u"Report Error"_s);
-    report.setPrinterFinder([&] {
+    report.setPrinterSource([&] {
         auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
         printer->setOutputFileName(folder.path("a.pdf"));
         return printer;

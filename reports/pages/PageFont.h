@@ -1,4 +1,4 @@
-// Text on pages, measured in millimetres. Screen, paper and PDF get one layout, whatever their resolution.
+// The font of report pages. Screen, paper and PDF get one layout, whatever their resolution.
 #pragma once
 
 #include "reports/lines/ReportData.h"
@@ -25,10 +25,10 @@ struct TextStyle {
 };
 
 /// Measures and paints single rows of text. Control characters count and show as blanks, in every text.
-class PageText
+class PageFont
 {
 public:
-    PageText();
+    PageFont();
 
     /// In mm.
     [[nodiscard]] double width(QStringView text, const TextStyle& style) const;

@@ -1,6 +1,6 @@
-// Saves a report as PDF, CSV or spreadsheet. Each file has every line and total with the figures of the
-// preview. It is written under another name first and then renamed, so that an existing file is kept if the
-// disk is full or the user cancels.
+// Saves a report as CSV: every line and total with the figures of the preview. The file is written under
+// another name first and then renamed, so that an existing file is kept if the disk is full or the user
+// cancels.
 #pragma once
 
 #include "reports/lines/KeepGoing.h"
@@ -8,12 +8,6 @@
 
 namespace norvane::reports
 {
-
-/// The pages as they are printed, with the charts if @p showsCharts.
-/// @throws ReportError with file and reason when it cannot be written, and ReportCancelled. So do the other
-/// functions here.
-void writePdf(const ReportData& report, bool showsCharts, const QString& path,
-              const KeepGoing& keepGoing = {});
 
 /// What separates the values of a CSV file, and the decimal sign of its numbers.
 struct CsvSigns {
@@ -26,13 +20,10 @@ struct CsvSigns {
 
 /// A text that a spreadsheet opens at a double click: UTF-8 with a byte order mark and csvSignsOfLocale().
 /// The first line holds the headings.
+/// @throws ReportError with file and reason when it cannot be written, and ReportCancelled.
 void writeCsv(const ReportData& report, const QString& path, const KeepGoing& keepGoing = {});
 /// The same with other signs.
 void writeCsvWith(const CsvSigns& signs, const ReportData& report, const QString& path,
                   const KeepGoing& keepGoing = {});
-
-/// An .xlsx file. Numbers and days are stored as such, so that a spreadsheet can calculate with them. Texts
-/// remain texts, whatever their first character and number of digits.
-void writeXlsx(const ReportData& report, const QString& path, const KeepGoing& keepGoing = {});
 
 } // namespace norvane::reports

@@ -1,5 +1,5 @@
-// See FieldTexts.h.
-#include "reports/lines/FieldTexts.h"
+// See TextTemplate.h.
+#include "reports/lines/TextTemplate.h"
 
 #include <algorithm>
 
@@ -72,12 +72,21 @@ QString withoutLastComma(const MadeText& made)
 
 } // namespace
 
+QString NameList::keyOf(const store::Value& number)
+{
+    const QString text = number.toText().trimmed();
+    qsizetype zeros = 0;
+    while (zeros + 1 < text.size() && text.at(zeros) == u'0')
+        ++zeros;
+    return text.mid(zeros);
+}
+
 QString textOf(const TextTemplate& text, const CellFormat& format, const LineFields& fields)
 {
     return withoutLastComma(textOfParts(text.parts, format, fields));
 }
 
-QString textOf(const FieldText& text, const LineFields& fields)
+QString textOf(const LineText& text, const LineFields& fields)
 {
     if (!text.missing.isEmpty() && !isAnySet(text.text.parts, text.format, fields))
         return textOf(text.missing, {FormatKind::Digits, 0, 0, {}}, fields);

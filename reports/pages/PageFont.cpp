@@ -1,5 +1,5 @@
-// See PageText.h.
-#include "reports/pages/PageText.h"
+// See PageFont.h.
+#include "reports/pages/PageFont.h"
 
 #include "paper/UnroundedFont.h"
 
@@ -46,7 +46,7 @@ QString printable(QString text)
     return text;
 }
 
-PageText::Face::Face(bool isBold) : font(pageFont(isBold)), metrics(font)
+PageFont::Face::Face(bool isBold) : font(pageFont(isBold)), metrics(font)
 {
     for (std::size_t code = 0; code < advances.size(); ++code) {
         const QChar letter(static_cast<char16_t>(code));
@@ -54,9 +54,9 @@ PageText::Face::Face(bool isBold) : font(pageFont(isBold)), metrics(font)
     }
 }
 
-PageText::PageText() = default;
+PageFont::PageFont() = default;
 
-double PageText::width(QStringView text, const TextStyle& style) const
+double PageFont::width(QStringView text, const TextStyle& style) const
 {
     const Face& letters = face(style);
     double units = 0;
@@ -68,17 +68,17 @@ double PageText::width(QStringView text, const TextStyle& style) const
     return units * style.size / unitsPerSquare;
 }
 
-QStringList PageText::wrapped(const QString& text, const TextStyle& style, double width) const
+QStringList PageFont::wrapped(const QString& text, const TextStyle& style, double width) const
 {
     return rows(text, style, width, QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
-QStringList PageText::wrappedWords(const QString& text, const TextStyle& style, double width) const
+QStringList PageFont::wrappedWords(const QString& text, const TextStyle& style, double width) const
 {
     return rows(text, style, width, QTextOption::WordWrap);
 }
 
-QStringList PageText::rows(const QString& text, const TextStyle& style, double width,
+QStringList PageFont::rows(const QString& text, const TextStyle& style, double width,
                            QTextOption::WrapMode mode) const
 {
     if (this->width(text, style) <= width)
@@ -94,13 +94,13 @@ QStringList PageText::rows(const QString& text, const TextStyle& style, double w
     return rowsOf(layout);
 }
 
-QString PageText::elided(const QString& text, const TextStyle& style, double width) const
+QString PageFont::elided(const QString& text, const TextStyle& style, double width) const
 {
     return face(style).metrics.elidedText(printable(text), Qt::ElideRight,
                                           width * unitsPerSquare / style.size);
 }
 
-void PageText::draw(QPainter& painter, const QRectF& place, const QString& text, const TextStyle& style,
+void PageFont::draw(QPainter& painter, const QRectF& place, const QString& text, const TextStyle& style,
                     Alignment alignment) const
 {
     const Face& letters = face(style);

@@ -1,5 +1,5 @@
-// Table of the texts with special rules; see RegisterTexts.h.
-#include "screens/RegisterTexts.h"
+// Table of the texts with special rules; see RegisterRules.h.
+#include "screens/RegisterRules.h"
 
 #include "base/CustomerSettings.h"
 

@@ -1,0 +1,16 @@
+// Saves a report as PDF. The file is written under another name first and then renamed, so that an
+// existing file is kept if the disk is full or the user cancels.
+#pragma once
+
+#include "reports/lines/KeepGoing.h"
+#include "reports/lines/ReportData.h"
+
+namespace norvane::reports
+{
+
+/// The pages as they are printed, with the charts if @p showsCharts.
+/// @throws ReportError with file and reason when it cannot be written, and ReportCancelled.
+void writePdf(const ReportData& report, bool showsCharts, const QString& path,
+              const KeepGoing& keepGoing = {});
+
+} // namespace norvane::reports
