@@ -89,9 +89,10 @@ void report(const Workplace& workplace, const Invocation& words)
     selectPeriod(request, name, words);
     const reports::ReportData data = reports::runReport(request);
     for (const auto& target : targets) {
-        if (words.has(target.option))
+        if (words.has(target.option)) {
             workplace.writeUserFile(words.value(target.option),
                                     [&](const QString& path) { target.write(data, path, signs); });
+        }
     }
 }
 

@@ -142,10 +142,11 @@ void OverlayForm::printUnder(const std::optional<paper::PrinterCorrection>& corr
 {
     const QString destination = m_sheet.destination(correction);
     tell(destination);
-    if (m_sheet.print(m_files.documentName(), correction))
+    if (m_sheet.print(m_files.documentName(), correction)) {
         tell(u"Sent to the printer. "_s + destination);
-    else
+    } else {
         showCurrentCell(m_keyboard->currentCell());
+    }
 }
 
 void OverlayForm::preview()

@@ -123,9 +123,10 @@ void writeWholeFile(const QString& path, const QByteArray& content)
     const auto error = replaceWholeFile(pathForWriting(path), content);
     if (!error)
         return;
-    if (error->failure == Failure::DiskFull)
+    if (error->failure == Failure::DiskFull) {
         throw RuntimeFailure(Failure::DiskFull,
                              QStringLiteral("Disk full: %1 (%2)").arg(path, error->reason));
+    }
     failAccess(path, error->reason);
 }
 

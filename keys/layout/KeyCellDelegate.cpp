@@ -180,9 +180,10 @@ void paintFrames(QPainter& painter, const QStyleOptionViewItem& option, const QM
         paintFrame(painter, option.rect, QPen(textColour(), 1, Qt::DashLine), strongLine);
     // Also while the keyboard is in a list: a choice there is for this key.
     const auto* const grid = qobject_cast<const QAbstractItemView*>(option.widget);
-    if (grid != nullptr && grid->currentIndex() == index)
+    if (grid != nullptr && grid->currentIndex() == index) {
         paintFrame(painter, option.rect,
                    QPen(colours::yielding(colours::accentDark, QPalette::Highlight), strongLine), 0);
+    }
 }
 
 } // namespace

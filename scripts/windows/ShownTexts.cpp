@@ -42,10 +42,11 @@ void addLabel(Texts& texts, const QLabel& label)
 {
     const QRect room = label.contentsRect();
     QSize need = sizeOf(label, label.text());
-    if (label.wordWrap())
+    if (label.wordWrap()) {
         need = label.fontMetrics()
                    .boundingRect(QRect(0, 0, room.width(), 0), Qt::TextWordWrap, label.text())
                    .size();
+    }
     const bool isRich = label.textFormat() == Qt::RichText || Qt::mightBeRichText(label.text());
     add(texts, label, label.text(), room, isRich ? label.minimumSizeHint() : need, label.alignment());
 }
@@ -95,10 +96,11 @@ void addCombo(Texts& texts, const QComboBox& combo)
     const QRect room =
         combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo);
     QString longest = combo.placeholderText();
-    for (int entry = 0; entry < combo.count(); ++entry)
+    for (int entry = 0; entry < combo.count(); ++entry) {
         longest = std::max(longest, combo.itemText(entry), [&](const QString& left, const QString& right) {
             return sizeOf(combo, left).width() < sizeOf(combo, right).width();
         });
+    }
     add(texts, combo, longest, room, QSize(combo.fontMetrics().horizontalAdvance(longest), 0));
     if (!longest.isEmpty())
         texts.last().letters = placeOf(combo, combo.currentText(), Qt::AlignLeft | Qt::AlignVCenter, room);

@@ -67,11 +67,11 @@ private:
         checkName(control, widget.objectName());
         const QAccessible::Role role = control.role();
         check(role != QAccessible::NoRole && role != QAccessible::Client, control, u"has no role"_s);
-        check(widget.isEnabled() != bool(control.state().disabled), control, u"tells another state"_s);
+        check(widget.isEnabled() != bool(control.state().disabled), control, u"reports another state"_s);
         if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget))
-            check(button->isChecked() == bool(control.state().checked), control, u"tells another tick"_s);
+            check(button->isChecked() == bool(control.state().checked), control, u"reports another tick"_s);
         check(control.tableInterface() || control.text(QAccessible::Value) == shownIn(&widget), control,
-              u"tells another value"_s);
+              u"reports another value"_s);
     }
 
     static bool isCaption(const QAccessibleInterface& control, const QString& name)

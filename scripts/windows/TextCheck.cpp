@@ -50,11 +50,12 @@ bool isOfView(const ShownText& text)
 QString cutBy(const ShownText& text, const QWidget& window)
 {
     const QSize has = text.room.size();
-    if (text.need.width() > has.width() + slack || text.need.height() > has.height() + slack)
+    if (text.need.width() > has.width() + slack || text.need.height() > has.height() + slack) {
         return u"needs %1 x %2, has %3 x %4"_s.arg(text.need.width())
             .arg(text.need.height())
             .arg(has.width())
             .arg(has.height());
+    }
     const QRect place = text.letters.isValid() ? text.letters : text.room;
     return isOfView(text) || isInView(*text.control, place, window) ? QString() : u"cut by its parents"_s;
 }

@@ -4,23 +4,37 @@
 #include "tests/platform/TestFolder.h"
 #include "tests/support/FormTest.h"
 
+#include <QPointer>
+
 namespace norvane::overlay
 {
 namespace
 {
+
+/// Closes a dialog that is still open, and what is open above it: an unanswered one would never return.
+void closeUnanswered(const QPointer<QWidget>& dialog)
+{
+    if (!dialog || !dialog->isVisible())
+        return;
+    ADD_FAILURE() << "the dialog was not answered";
+    while (QWidget* const open = QApplication::activeModalWidget())
+        open->hide();
+}
 
 /// Works the dialog that opens next.
 template <typename Use>
 void soon(Use use)
 {
     QTimer::singleShot(0, [use] {
-        QWidget* const box = QApplication::activeModalWidget();
-        ASSERT_TRUE(box && QTest::qWaitForWindowActive(box));
-        use(*box);
+        const QPointer<QWidget> dialog = QApplication::activeModalWidget();
+        ASSERT_TRUE(dialog);
+        QTimer::singleShot(10000, dialog, [dialog] { closeUnanswered(dialog); });
+        if (QTest::qWaitForWindowActive(dialog))
+            use(*dialog);
     });
 }
 
-TEST(SystemDialogsTest, TakeNamesOfFilesThatAreNotThereWhereTheyMay)
+TEST(SystemDialogsTest, ANewFileMayBeNamedUnlessItMustExist)
 {
     const test::TestFolder folder;
     for (const char* file : {"old.ky4", "tea.Dorvik", "tea.Velmar"})
@@ -44,7 +58,7 @@ TEST(SystemDialogsTest, TakeNamesOfFilesThatAreNotThereWhereTheyMay)
     }
 }
 
-TEST(SystemDialogsTest, BeginTheFontDialogAtWhatStandsInForAMissingFont)
+TEST(SystemDialogsTest, TheFontDialogBeginsAtTheReplacementOfAMissingFont)
 {
     QFont missing(u"Arial"_s);
     missing.setPointSizeF(8.25);
@@ -57,7 +71,7 @@ TEST(SystemDialogsTest, BeginTheFontDialogAtWhatStandsInForAMissingFont)
     EXPECT_TRUE(chosen->bold());
 }
 
-TEST(SystemDialogsTest, KeepAPrinterThatHasGoneAndTurnTheSheet)
+TEST(SystemDialogsTest, AMissingPrinterRemainsChosenAndTheSheetCanBeTurned)
 {
     soon([](QWidget& box) {
         EXPECT_EQ(box.findChild<QComboBox*>(u"PrinterList"_s)->currentText(), u"Back office"_s);

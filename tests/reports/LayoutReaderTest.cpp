@@ -1,5 +1,6 @@
 // Layout files with mistakes, and the messages about them.
 #include "tests/reports/ReportShop.h"
+#include "tests/support/RowName.h"
 
 namespace norvane::reports::test
 {
@@ -15,61 +16,78 @@ constexpr const char* good = "[Report]\r\nTitle=PLU\r\nTable=PLUSALES\r\nLines={
                              "[Chart1]\r\nKind=Shares\r\nTitle=Shares\r\nFrom=Groups\r\nValue={VALUE1}\r\n";
 
 struct Mistake {
+    const char* name;
     const char* right;
     const char* wrong;
-    const char* told;
+    const char* message;
 };
 
 const Mistake mistakes[] = {
-    {"Table=PLUSALES", "Table=SALES", "section [Report], key Table: expected is a table"},
-    {"Table=PLUSALES\r\n", "", "section [Report], key Table: it is missing"},
-    {"Table=PLUSALES", "Tabel=PLUSALES", "section [Report], key Tabel: there is no such key"},
-    {"Lines={ID}", "Lines={PLUDATA.PLUNUMBER}", "section [Report], key Lines: expected is"},
-    {"Lines={ID}", "Lines={ID}\r\nWhere={SALESDATE} in monthtodate",
+    {"unknown_table", "Table=PLUSALES", "Table=SALES", "section [Report], key Table: expected is a table"},
+    {"missing_table", "Table=PLUSALES\r\n", "", "section [Report], key Table: it is missing"},
+    {"unknown_key", "Table=PLUSALES", "Tabel=PLUSALES", "section [Report], key Tabel: there is no such key"},
+    {"field_of_another_table_in_lines", "Lines={ID}", "Lines={PLUDATA.PLUNUMBER}",
+     "section [Report], key Lines: expected is"},
+    {"period_in_a_condition", "Lines={ID}", "Lines={ID}\r\nWhere={SALESDATE} in monthtodate",
      "section [Report], key Where: column 16: a range"},
-    {"[Join1]", "[Joint1]", "section [Joint1]: Report, Join1"},
-    {"By={ID}", "By={PROMOS}", "section [Join1], key By: column 1: there is no field {PROMOS}"},
-    {"[Column2]", "[Column3]", "section [Column3]: there is no section [Column2] before it"},
-    {"Format=Money", "Format=0.0.0", "section [Column2], key Format: expected is"},
-    {"Value={VALUE1}\r\nW", "Value={VALUE1} +\r\nW", "section [Column2], key Value: column 11: a field"},
-    {"Value={VALUE1}\r\nW", "Value={SALESDATE}\r\nW",
+    {"unknown_section", "[Join1]", "[Joint1]", "section [Joint1]: Report, Join1"},
+    {"unknown_field", "By={ID}", "By={PROMOS}",
+     "section [Join1], key By: column 1: there is no field {PROMOS}"},
+    {"section_left_out", "[Column2]", "[Column3]",
+     "section [Column3]: there is no section [Column2] before it"},
+    {"unknown_format", "Format=Money", "Format=0.0.0", "section [Column2], key Format: expected is"},
+    {"formula_that_breaks_off", "Value={VALUE1}\r\nW", "Value={VALUE1} +\r\nW",
+     "section [Column2], key Value: column 11: a field"},
+    {"day_in_a_sum", "Value={VALUE1}\r\nW", "Value={SALESDATE}\r\nW",
      "key Value: column 1: {PLUSALES.SALESDATE} is not the same"},
-    {"Value={VALUE1}\r\nW", "Value={GROUPS.GROUPNO}\r\nW", "column 1: the report does not read table GROUPS"},
-    {"Value={VALUE1}\r\nW", "Value=sum({COUNT2} to {VALUE5})\r\nW", "column 17: a field numbered higher"},
-    {"Value={VALUE1}\r\nW",
+    {"table_that_is_not_read", "Value={VALUE1}\r\nW", "Value={GROUPS.GROUPNO}\r\nW",
+     "column 1: the report does not read table GROUPS"},
+    {"range_to_another_field", "Value={VALUE1}\r\nW", "Value=sum({COUNT2} to {VALUE5})\r\nW",
+     "column 17: a field numbered higher"},
+    {"value_too_long", "Value={VALUE1}\r\nW",
      "Value={COUNT1} + {COUNT1} + {COUNT1} + {COUNT1} + {COUNT1} + {COUNT1} + {COUNT1} + "
      "{COUNT1} + {COUNT1} + {COUNT1} + {COUNT1} + {COUNT1} + {COUNT1} + {COUNT1}\r\nW",
      "more than 144 characters"},
-    {"Width=20\r\nTotal=YES", "Width=wide\r\nTotal=YES",
+    {"width_in_words", "Width=20\r\nTotal=YES", "Width=wide\r\nTotal=YES",
      "section [Column2], key Width: expected is millimetres"},
-    {"Digits\r\nValue={ID}\r\nWidth=20", "Digits\r\nValue={ID}\r\nWidth=20\r\nTotal=YES",
+    {"total_of_digits", "Digits\r\nValue={ID}\r\nWidth=20", "Digits\r\nValue={ID}\r\nWidth=20\r\nTotal=YES",
      "section [Column1], key Total"},
-    {"Heading=Group {PLUDATA.GROUPNO}", "Heading=Group {PLUDATA.GROUPNO",
+    {"open_brace", "Heading=Group {PLUDATA.GROUPNO}", "Heading=Group {PLUDATA.GROUPNO",
      "section [Group], key Heading: column 7"},
-    {"Key1={ID} by value", "Key1={GROUPS.GROUPNO}",
+    {"order_by_a_table_that_is_not_read", "Key1={ID} by value", "Key1={GROUPS.GROUPNO}",
      "key Key1: column 1: the report does not read table GROUPS"},
-    {"Value={VALUE1}\r\nW", "Value={VALUE1}\r\nValue41=x\r\nW", "key Value41: there is no such key"},
-    {"Key1={ID} by value", "Key1={ID} upwards", "section [Sort], key Key1: expected is a field"},
-    {"Kind=Shares", "Kind=Pie", "section [Chart1], key Kind: expected is Ranking, Course or Shares"},
-    {"Shares\r\nFrom=Groups", "Shares\r\nFrom=Lines", "section [Chart1], key Label: it is missing"},
+    {"too_many_parts_of_a_value", "Value={VALUE1}\r\nW", "Value={VALUE1}\r\nValue41=x\r\nW",
+     "key Value41: there is no such key"},
+    {"unknown_order", "Key1={ID} by value", "Key1={ID} upwards",
+     "section [Sort], key Key1: expected is a field"},
+    {"unknown_kind_of_chart", "Kind=Shares", "Kind=Pie",
+     "section [Chart1], key Kind: expected is Ranking, Course or Shares"},
+    {"chart_without_labels", "Shares\r\nFrom=Groups", "Shares\r\nFrom=Lines",
+     "section [Chart1], key Label: it is missing"},
 };
 
-TEST(Layout, AMistakeIsToldWithItsFileSectionAndKey)
+class LayoutMistake : public testing::TestWithParam<Mistake>
 {
+};
+
+TEST_P(LayoutMistake, IsReportedWithFileSectionAndKey)
+{
+    const auto& [name, right, wrong, message] = GetParam();
     const ReportShop shop;
     const QString path = shop.folder().path("own.rpt");
     shop.folder().write("own.rpt", good);
     EXPECT_EQ(errorOf(shop.request(path)), "");
-    for (const auto& [right, wrong, told] : mistakes) {
-        ASSERT_TRUE(QByteArray(good).contains(right)) << right;
-        shop.folder().write("own.rpt", QByteArray(good).replace(right, wrong));
-        const std::string error = errorOf(shop.request(path));
-        EXPECT_NE(error.find(told), std::string::npos) << wrong << ": " << error;
-        EXPECT_NE(error.find("own.rpt"), std::string::npos) << error;
-    }
+    ASSERT_TRUE(QByteArray(good).contains(right));
+    shop.folder().write("own.rpt", QByteArray(good).replace(right, wrong));
+    const std::string error = errorOf(shop.request(path));
+    EXPECT_NE(error.find(message), std::string::npos) << error;
+    EXPECT_NE(error.find("own.rpt"), std::string::npos) << error;
 }
 
-TEST(Layout, AFileThatIsNoneIsTold)
+INSTANTIATE_TEST_SUITE_P(Layouts, LayoutMistake, testing::ValuesIn(mistakes),
+                         norvane::test::rowName<Mistake>);
+
+TEST(Layout, AFileWithoutALayoutIsReported)
 {
     const ReportShop shop;
     shop.folder().write("empty.rpt", "");

@@ -2,10 +2,9 @@
 //   makebank <folder> [--registers N] [--model 0|1|2|3] [--plus N] [--fresh]
 // An existing bank is kept unchanged unless --fresh is given.
 #include "tools/bank/Bank.h"
-#include "tools/bank/ToolFailure.h"
+#include "tools/bank/CommandLine.h"
 #include "tools/makebank/Factory.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 
@@ -29,38 +28,16 @@ struct Wish {
     bool fresh = false;
 };
 
-int numberOf(const QCommandLineParser& parser, const QString& name, int least, int most)
+Wish readWish()
 {
-    bool isNumber = false;
-    const int number = parser.value(name).toInt(&isNumber);
-    if (!isNumber || number < least || number > most) {
-        throw std::runtime_error(u"--%1 takes %2 to %3"_s.arg(name).arg(least).arg(most).toStdString());
-    }
-    return number;
-}
-
-void declareOptions(QCommandLineParser& parser)
-{
-    parser.addHelpOption();
-    parser.addPositionalArgument(u"folder"_s, u"Folder of the bank."_s);
-    parser.addOptions({
+    const CommandLine words({
         {u"registers"_s, u"Number of registers."_s, u"N"_s, u"1"_s},
         {u"model"_s, u"Kind of register, 0 to 3."_s, u"index"_s, u"2"_s},
         {u"plus"_s, u"Number of PLUs; 0: the shop's own range."_s, u"N"_s, u"0"_s},
         {u"fresh"_s, u"Create the bank again."_s},
     });
-}
-
-Wish readWish(const QCoreApplication& application)
-{
-    QCommandLineParser parser;
-    declareOptions(parser);
-    parser.process(application);
-    if (parser.positionalArguments().size() != 1)
-        throw std::runtime_error("one folder is needed, see --help");
-    return {parser.positionalArguments().first(), numberOf(parser, u"registers"_s, 1, mostRegisters),
-            numberOf(parser, u"model"_s, 0, 3), numberOf(parser, u"plus"_s, 0, mostPlus),
-            parser.isSet(u"fresh"_s)};
+    return {words.folder(), words.number(u"registers"_s, 1, mostRegisters), words.number(u"model"_s, 0, 3),
+            words.number(u"plus"_s, 0, mostPlus), words.isSet(u"fresh"_s)};
 }
 
 void makeRegister(const Wish& wish, int number)
@@ -107,12 +84,6 @@ void run(const Wish& wish)
 
 int main(int argc, char* argv[])
 {
-    QCoreApplication application(argc, argv);
-    try {
-        run(readWish(application));
-    } catch (const std::exception& failure) {
-        std::fprintf(stderr, "makebank: %s\n", failure.what());
-        return 1;
-    }
-    return 0;
+    const QCoreApplication application(argc, argv);
+    return bank::runTool("makebank", [] { run(readWish()); });
 }

@@ -2,13 +2,12 @@
 //   ringsales <folder> [--registers 1,3] [--tickets N] [--seed N] [--key L/K] [--journal file]
 // The sales are added to those that the registers already have.
 #include "tools/bank/Bank.h"
+#include "tools/bank/CommandLine.h"
 #include "tools/bank/Files.h"
 #include "tools/bank/TextRecords.h"
-#include "tools/bank/ToolFailure.h"
 #include "tools/ringsales/Journal.h"
 #include "tools/ringsales/Posting.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDate>
 
@@ -35,53 +34,32 @@ struct Wish {
     QString journal;
 };
 
-template <typename Number>
-Number numberOf(const QCommandLineParser& parser, const QString& name, Number most)
+std::optional<KeyPlace> keyOf(const CommandLine& words)
 {
-    bool isNumber = false;
-    const auto number = parser.value(name).toULongLong(&isNumber);
-    if (!isNumber || number > static_cast<quint64>(most))
-        throw std::runtime_error(u"--%1 takes 0 to %2"_s.arg(name).arg(most).toStdString());
-    return static_cast<Number>(number);
-}
-
-void declareOptions(QCommandLineParser& parser)
-{
-    parser.addHelpOption();
-    parser.addPositionalArgument(u"folder"_s, u"Folder of the bank."_s);
-    parser.addOptions({
-        {u"registers"_s, u"Their numbers, such as 1,3; all when left out."_s, u"numbers"_s},
-        {u"tickets"_s, u"Customers at each register."_s, u"N"_s, u"100"_s},
-        {u"seed"_s, u"The same number rings the same day; today's date else."_s, u"N"_s,
-         QDate::currentDate().toString(u"yyyyMMdd"_s)},
-        {u"key"_s, u"Sells only what is on this key: level and key, such as 2/17."_s, u"L/K"_s},
-        {u"journal"_s, u"File for a line of each item rung."_s, u"file"_s},
-    });
-}
-
-std::optional<KeyPlace> keyOf(const QCommandLineParser& parser)
-{
-    if (!parser.isSet(u"key"_s))
+    if (!words.isSet(u"key"_s))
         return {};
-    const auto key = KeyPlace::of(parser.value(u"key"_s));
+    const auto key = KeyPlace::of(words.value(u"key"_s));
     if (!key)
         throw std::runtime_error("--key takes a level and a key, such as 2/17");
     return key;
 }
 
-Wish readWish(const QCoreApplication& application)
+Wish readWish()
 {
-    QCommandLineParser parser;
-    declareOptions(parser);
-    parser.process(application);
-    if (parser.positionalArguments().size() != 1)
-        throw std::runtime_error("one folder is needed, see --help");
-    return {parser.positionalArguments().first(),
-            parser.value(u"registers"_s).split(u',', Qt::SkipEmptyParts),
-            numberOf(parser, u"tickets"_s, mostTickets),
-            numberOf(parser, u"seed"_s, ~quint64{0}),
-            keyOf(parser),
-            parser.value(u"journal"_s)};
+    const CommandLine words({
+        {u"registers"_s, u"Their numbers, such as 1,3; all when left out."_s, u"numbers"_s},
+        {u"tickets"_s, u"Customers at each register."_s, u"N"_s, u"100"_s},
+        {u"seed"_s, u"The same number rings the same day; today's date when left out."_s, u"N"_s,
+         QDate::currentDate().toString(u"yyyyMMdd"_s)},
+        {u"key"_s, u"Sells only what is on this key: level and key, such as 2/17."_s, u"L/K"_s},
+        {u"journal"_s, u"File for a line of each item rung."_s, u"file"_s},
+    });
+    return {words.folder(),
+            words.value(u"registers"_s).split(u',', Qt::SkipEmptyParts),
+            words.number(u"tickets"_s, 0, mostTickets),
+            words.number(u"seed"_s, quint64{0}, ~quint64{0}),
+            keyOf(words),
+            words.value(u"journal"_s)};
 }
 
 QList<Register> chosenRegisters(const Wish& wish)
@@ -137,11 +115,5 @@ void run(const Wish& wish)
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    try {
-        run(readWish(application));
-    } catch (const std::exception& failure) {
-        std::fprintf(stderr, "ringsales: %s\n", failure.what());
-        return 1;
-    }
-    return 0;
+    return bank::runTool("ringsales", [] { run(readWish()); });
 }

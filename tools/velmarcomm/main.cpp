@@ -48,7 +48,7 @@ void leaveStatus(const Outcome& outcome)
 
 /// Reports a failure on standard error. @return its code, Done if @p work succeeded
 template <typename Work>
-int told(Work work)
+int codeOf(Work work)
 {
     try {
         work();
@@ -65,9 +65,9 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     Outcome outcome;
-    const int failure = told([&] { run(QCoreApplication::arguments().mid(1), outcome); });
+    const int failure = codeOf([&] { run(QCoreApplication::arguments().mid(1), outcome); });
     if (failure != Done)
         outcome.result = failure;
-    const int statusFailure = told([&] { leaveStatus(outcome); });
+    const int statusFailure = codeOf([&] { leaveStatus(outcome); });
     return outcome.result == Done && statusFailure == Done ? 0 : 1;
 }
