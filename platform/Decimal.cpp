@@ -176,6 +176,14 @@ std::int64_t Decimal::toWhole() const
     return rounded(0).shifted(0).m_coefficient;
 }
 
+int Decimal::digits() const
+{
+    int digits = 1;
+    for (std::int64_t left = m_coefficient / 10; left != 0; left /= 10)
+        ++digits;
+    return digits;
+}
+
 std::string Decimal::text() const
 {
     const Decimal plain = shifted(0);

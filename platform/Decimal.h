@@ -32,6 +32,8 @@ public:
 
     [[nodiscard]] constexpr std::int64_t coefficient() const { return m_coefficient; }
     [[nodiscard]] constexpr int scale() const { return m_scale; }
+    /// All digits, those after the point included, without leading zeros; 1 for 0.
+    [[nodiscard]] int digits() const;
 
     /// Moves the point: multiplies by 10^@p places, divides when negative.
     [[nodiscard]] Decimal shifted(int places) const;
