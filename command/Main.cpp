@@ -5,7 +5,7 @@
 #include "command/TerminalBoxes.h"
 #include "command/Workplace.h"
 #include "platform/RuntimeFailure.h"
-#include "reports/lines/ReportError.h"
+#include "reports/data/ReportError.h"
 
 #include <QDir>
 #include <QGuiApplication>

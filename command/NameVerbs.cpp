@@ -2,8 +2,8 @@
 #include "command/ReportPeriods.h"
 #include "command/Verbs.h"
 #include "exchange/ExchangeBoxes.h"
+#include "reports/data/ReportError.h"
 #include "reports/lines/LayoutReader.h"
-#include "reports/lines/ReportError.h"
 
 #include <QDir>
 

@@ -1,7 +1,7 @@
 // The table of the columns; see PluColumns.h.
 #include "command/PluColumns.h"
 
-#include "reports/pages/PageFont.h"
+#include "reports/data/PrintableText.h"
 
 #include <array>
 

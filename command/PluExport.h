@@ -1,7 +1,7 @@
 // All PLUs of a customer as lines for a spreadsheet.
 #pragma once
 
-#include "reports/lines/ReportData.h"
+#include "reports/data/ReportData.h"
 #include "store/engine/Database.h"
 
 namespace norvane::command

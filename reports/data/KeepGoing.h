@@ -1,7 +1,7 @@
 // Lets the user cancel a long run.
 #pragma once
 
-#include "reports/lines/ReportError.h"
+#include "reports/data/ReportError.h"
 
 #include <functional>
 

@@ -4,13 +4,15 @@
 
 #include "paper/Length.h"
 #include "platform/Decimal.h"
+#include "reports/data/Alignment.h"
+#include "reports/data/Chart.h"
+#include "reports/data/ShownNumber.h"
 
 #include <QDate>
 #include <QDateTime>
 #include <QString>
 
 #include <cstdint>
-#include <span>
 #include <string>
 #include <variant>
 #include <vector>
@@ -18,14 +20,8 @@
 namespace norvane::reports
 {
 
-enum class Alignment { Left, Centre, Right };
+/// What the cells of a column hold.
 enum class ColumnKind { Text, Number, Date };
-
-/// What pages add to a plain number.
-struct NumberDress {
-    bool isGrouped = false; ///< thousands are separated
-    QString currency;       ///< the shop's sign before the number; empty for none
-};
 
 /// A column of the report, and how its values are shown.
 struct ReportColumn {
@@ -66,33 +62,6 @@ struct PageSetup {
     bool isLandscape = false; ///< of a sheet of A4
     bool mayTurn = false;     ///< an upright sheet is turned where the columns do not fit side by side
 };
-
-/// Kinds of charts.
-enum class ChartKind {
-    Ranking, ///< horizontal bars, the longest first
-    Course,  ///< upright bars over days or hours, in their order
-    Shares   ///< parts of a whole
-};
-
-/// A point of a chart.
-struct ChartPoint {
-    QString label;
-    Decimal value;
-};
-
-/// A chart beside the lines.
-struct Chart {
-    ChartKind kind = ChartKind::Ranking;
-    QString title;
-    int leastDecimals = 2; ///< of the values as shown
-    int mostDecimals = 2;
-    std::vector<ChartPoint> points;
-    NumberDress dress = {true, {}};
-};
-
-/// The exact sum of the points' values.
-/// @throws RuntimeFailure with Failure::Overflow if it has more than 18 digits before the point.
-[[nodiscard]] Decimal sumOf(std::span<const ChartPoint> points);
 
 /// The lines of a report. They are added in their order; lines and columns count from 0. A list can have a
 /// hundred thousand lines, so a cell takes at most nine bytes and its text.
@@ -135,17 +104,5 @@ private:
     std::vector<Cells> m_cells;
     std::string m_texts; ///< of all cells, one after the other, in UTF-8
 };
-
-/// A plain decimal such as "-1234.5" with at least @p leastDecimals places, in the format of the user's
-/// locale.
-[[nodiscard]] QString shownDigits(QString plain, int leastDecimals);
-
-/// A number with between @p leastDecimals and @p mostDecimals places, rounded in decimal, halves away from
-/// zero, with the sign of the user's locale and without thousands separators.
-[[nodiscard]] QString shownNumber(const Decimal& number, int leastDecimals, int mostDecimals);
-/// Adds sign and currency to a number formatted by shownNumber(): "-1234.50" becomes "-£1,234.50".
-[[nodiscard]] QString dressed(QString number, const NumberDress& dress);
-/// The value of a point as the chart shows it.
-[[nodiscard]] QString shownValue(const Chart& chart, const Decimal& value);
 
 } // namespace norvane::reports

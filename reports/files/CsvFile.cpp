@@ -1,9 +1,9 @@
 // See CsvFile.h.
 #include "reports/files/CsvFile.h"
 
+#include "reports/data/PrintableText.h"
 #include "reports/files/FormulaGuard.h"
 #include "reports/files/TargetFile.h"
-#include "reports/pages/PageFont.h"
 
 #include <QLocale>
 

@@ -1,8 +1,8 @@
 // Paints all pages of a report on a printer or into a PDF.
 #pragma once
 
-#include "reports/lines/KeepGoing.h"
-#include "reports/lines/ReportData.h"
+#include "reports/data/KeepGoing.h"
+#include "reports/data/ReportData.h"
 
 #include <limits>
 

@@ -2,8 +2,8 @@
 // existing file is kept if the disk is full or the user cancels.
 #pragma once
 
-#include "reports/lines/KeepGoing.h"
-#include "reports/lines/ReportData.h"
+#include "reports/data/KeepGoing.h"
+#include "reports/data/ReportData.h"
 
 namespace norvane::reports
 {

@@ -2,7 +2,7 @@
 #include "reports/files/TargetFile.h"
 
 #include "platform/WholeFile.h"
-#include "reports/lines/ReportError.h"
+#include "reports/data/ReportError.h"
 
 #include <QDir>
 

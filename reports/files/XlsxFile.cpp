@@ -3,9 +3,9 @@
 
 #include "platform/ShownTime.h"
 #include "platform/WholeFile.h"
+#include "reports/data/PrintableText.h"
 #include "reports/files/SpreadsheetCheck.h"
 #include "reports/files/TargetFile.h"
-#include "reports/pages/ColumnPlaces.h"
 
 #include <QDir>
 #include <QFile>

@@ -3,8 +3,8 @@
 // cancels.
 #pragma once
 
-#include "reports/lines/KeepGoing.h"
-#include "reports/lines/ReportData.h"
+#include "reports/data/KeepGoing.h"
+#include "reports/data/ReportData.h"
 
 namespace norvane::reports
 {

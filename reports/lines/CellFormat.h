@@ -1,7 +1,7 @@
 // The formats that a layout can give a column, and how each turns a stored field into text.
 #pragma once
 
-#include "reports/lines/ReportData.h"
+#include "reports/data/Alignment.h"
 #include "store/engine/Value.h"
 
 #include <QHash>

@@ -1,7 +1,9 @@
 // See ChartBuilder.h.
 #include "reports/lines/ChartBuilder.h"
 
+#include "platform/DecimalTotal.h"
 #include "platform/RuntimeFailure.h"
+#include "reports/formula/ExactNumbers.h"
 
 #include <algorithm>
 #include <span>
@@ -21,6 +23,16 @@ constexpr std::size_t mostShares = 10;
 bool isSameMonth(QDate left, QDate right)
 {
     return left.year() == right.year() && left.month() == right.month();
+}
+
+/// The exact sum of the points' values.
+/// @throws RuntimeFailure with Failure::Overflow if it has more than 18 digits before the point.
+Decimal sumOf(std::span<const ChartPoint> points)
+{
+    DecimalTotal total;
+    for (const ChartPoint& point : points)
+        total.add(std::string_view(point.value.text()));
+    return decimalOf(total.text());
 }
 
 } // namespace

@@ -3,8 +3,8 @@
 
 #include "platform/FilePaths.h"
 #include "platform/ProfileFile.h"
+#include "reports/data/ReportError.h"
 #include "reports/lines/LayoutKeys.h"
-#include "reports/lines/ReportError.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/DecimalTotal.h"
+#include "reports/data/ReportData.h"
 #include "reports/lines/ChartBuilder.h"
-#include "reports/lines/ReportData.h"
 #include "reports/lines/ReportLayout.h"
 #include "reports/lines/TextTemplate.h"
 

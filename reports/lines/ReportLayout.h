@@ -1,10 +1,10 @@
 // The content of a layout file (.rpt): the tables that a report reads, its columns, order, groups and charts.
 #pragma once
 
+#include "reports/data/ReportData.h"
 #include "reports/formula/Condition.h"
 #include "reports/formula/Expression.h"
 #include "reports/formula/FieldName.h"
-#include "reports/lines/ReportData.h"
 #include "reports/lines/TextTemplate.h"
 
 #include <QString>

@@ -1,8 +1,8 @@
 // Runs a report: makes its lines from a layout file, the customer's database and a selection.
 #pragma once
 
-#include "reports/lines/KeepGoing.h"
-#include "reports/lines/ReportData.h"
+#include "reports/data/KeepGoing.h"
+#include "reports/data/ReportData.h"
 
 #include <QString>
 

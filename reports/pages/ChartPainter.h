@@ -2,6 +2,7 @@
 // be distinguished differ in lightness, and rankings and shares show each value as a number too.
 #pragma once
 
+#include "reports/data/Chart.h"
 #include "reports/pages/PageFont.h"
 
 class QPainter;

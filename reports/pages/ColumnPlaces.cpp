@@ -2,7 +2,6 @@
 #include "reports/pages/ColumnPlaces.h"
 
 #include "platform/ShownTime.h"
-#include "reports/formula/ExactNumbers.h"
 
 #include <QLocale>
 #include <QStringTokenizer>
@@ -58,7 +57,7 @@ public:
     double operator()(const QDate&) const { return m_day; }
     double operator()(const Decimal& number) const
     {
-        int whole = std::max(1, digitsOf(number.coefficient()) - number.scale());
+        int whole = std::max(1, number.digits() - number.scale());
         const int places = std::clamp(number.scale(), m_column.leastDecimals,
                                       std::max(m_column.leastDecimals, m_column.mostDecimals));
         if (number.scale() > places)

@@ -1,6 +1,7 @@
 // Columns fitted to a page's width.
 #pragma once
 
+#include "reports/data/ReportData.h"
 #include "reports/pages/PageFont.h"
 
 #include <vector>

@@ -2,6 +2,7 @@
 #include "reports/pages/PageFont.h"
 
 #include "paper/UnroundedFont.h"
+#include "reports/data/PrintableText.h"
 
 #include <QPainter>
 #include <QTextLayout>
@@ -22,11 +23,6 @@ QFont pageFont(bool isBold)
     return paper::unrounded(font);
 }
 
-bool isControl(QChar letter)
-{
-    return letter.category() == QChar::Other_Control;
-}
-
 QStringList rowsOf(const QTextLayout& layout)
 {
     QStringList rows;
@@ -39,18 +35,11 @@ QStringList rowsOf(const QTextLayout& layout)
 
 } // namespace
 
-QString printable(QString text)
-{
-    if (std::any_of(text.cbegin(), text.cend(), isControl))
-        std::replace_if(text.begin(), text.end(), isControl, u' ');
-    return text;
-}
-
 PageFont::Face::Face(bool isBold) : font(pageFont(isBold)), metrics(font)
 {
     for (std::size_t code = 0; code < advances.size(); ++code) {
         const QChar letter(static_cast<char16_t>(code));
-        advances[code] = metrics.horizontalAdvance(isControl(letter) ? QChar(u' ') : letter);
+        advances[code] = metrics.horizontalAdvance(printable(letter));
     }
 }
 

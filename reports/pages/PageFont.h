@@ -1,7 +1,7 @@
 // The font of report pages. Screen, paper and PDF get one layout, whatever their resolution.
 #pragma once
 
-#include "reports/lines/ReportData.h"
+#include "reports/data/Alignment.h"
 
 #include <QColor>
 #include <QFont>
@@ -60,8 +60,5 @@ private:
     Face m_regular{false};
     Face m_bold{true};
 };
-
-/// The text with a blank for each control character.
-[[nodiscard]] QString printable(QString text);
 
 } // namespace norvane::reports

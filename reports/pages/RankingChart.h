@@ -1,6 +1,7 @@
 // See RankingChart.cpp; painted by paintChart().
 #pragma once
 
+#include "reports/data/Chart.h"
 #include "reports/pages/PageFont.h"
 
 class QPainter;

@@ -1,6 +1,8 @@
 // See ReportDocument.h.
 #include "reports/pages/ReportDocument.h"
 
+#include "reports/data/PrintableText.h"
+
 #include <algorithm>
 
 namespace norvane::reports

@@ -1,6 +1,7 @@
 // See PageView.h.
 #include "reports/window/PageView.h"
 
+#include "reports/data/PrintableText.h"
 #include "ui/Appearance.h"
 
 #include <QKeyEvent>

@@ -2,8 +2,8 @@
 #include "reports/window/Printing.h"
 
 #include "paper/DefaultPrinter.h"
+#include "reports/data/ReportError.h"
 #include "reports/files/PagedReport.h"
-#include "reports/lines/ReportError.h"
 
 #include <QDir>
 #include <QPrintDialog>

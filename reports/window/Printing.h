@@ -1,9 +1,9 @@
 // Reports on the printer.
 #pragma once
 
+#include "reports/data/KeepGoing.h"
+#include "reports/data/ReportData.h"
 #include "reports/files/PagedReport.h"
-#include "reports/lines/KeepGoing.h"
-#include "reports/lines/ReportData.h"
 
 #include <functional>
 #include <memory>

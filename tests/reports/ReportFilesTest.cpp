@@ -1,9 +1,9 @@
 // The contents of saved report files, read back by other programs.
+#include "reports/data/KeepGoing.h"
+#include "reports/data/ReportData.h"
 #include "reports/files/CsvFile.h"
 #include "reports/files/PdfFile.h"
 #include "reports/files/XlsxFile.h"
-#include "reports/lines/KeepGoing.h"
-#include "reports/lines/ReportData.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/reports/SampleReport.h"

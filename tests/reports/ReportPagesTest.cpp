@@ -1,6 +1,7 @@
 // How lines are broken into pages, and their places on paper.
 #include "reports/pages/ReportPages.h"
 
+#include "reports/data/PrintableText.h"
 #include "reports/files/PdfFile.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/reports/SampleReport.h"

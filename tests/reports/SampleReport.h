@@ -1,7 +1,7 @@
 // A report as the engine fills it, for the tests of pages, files and preview.
 #pragma once
 
-#include "reports/lines/ReportData.h"
+#include "reports/data/ReportData.h"
 
 namespace norvane::test
 {
