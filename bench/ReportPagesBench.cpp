@@ -70,7 +70,7 @@ void openPreview(benchmark::State& state)
         reports::Report report(window, boxes, [&](const auto&, const auto&) { return lines; });
         const FirstPaint paint;
         const double first = bench::secondsOf([&] {
-            report.run();
+            report.run({});
             while (!paint.isSeen())
                 QApplication::processEvents();
         });

@@ -34,12 +34,13 @@ QRadioButton* makeTarget(const QString& name, const QString& caption, QLayout& p
 
 } // namespace
 
-Frmreports::Frmreports(const ApplicationValues& values, Boxes& boxes, reports::Runner runner, QWidget* parent)
-    : QDialog(parent), m_values(values), m_report(*this, boxes, std::move(runner)),
-      CSCal(new QCalendarWidget(this))
+Frmreports::Frmreports(const ApplicationValues& values, Boxes& boxes, reports::ReportRequest request,
+                       reports::Runner runner, QWidget* parent)
+    : QDialog(parent), m_values(values), m_request(std::move(request)),
+      Report1(*this, boxes, std::move(runner)), CSCal(new QCalendarWidget(this))
 {
     setObjectName(u"Frmreports"_s);
-    m_report.setCustomer(customerOf(values, values.databasePath));
+    m_request.customer = customerOf(values, values.databasePath);
     layOut();
     loadForm();
 }
@@ -116,10 +117,9 @@ void Frmreports::tellDay()
 void Frmreports::generate()
 {
     if (const auto formula = formulaOfDay(m_values.reportMode, CSCal->selectedDate()))
-        m_report.setSelectionFormula(*formula);
-    m_report.setDestination(Option1->isChecked() ? reports::Destination::Window
-                                                 : reports::Destination::Printer);
-    m_report.run();
+        m_request.selectionFormula = *formula;
+    Report1.run(m_request,
+                Option1->isChecked() ? reports::Destination::Window : reports::Destination::Printer);
 }
 
 /// The mode is set first: the dialog reads it when it is created. The price list sets none, so that after a
@@ -129,18 +129,13 @@ void showReport(const ReportEntry& entry, ApplicationValues& values, Boxes& boxe
 {
     if (entry.mode)
         values.reportMode = *entry.mode;
-    Frmreports form(values, boxes, runner, parent);
+    reports::ReportRequest request;
+    request.reportFile = joinPath(values.appPath, entry.file);
+    request.dataFile = values.databasePath;
+    request.selectionFormula = entry.formula;
+    (entry.titleUse == TitleUse::Report ? request.reportTitle : request.windowTitle) = entry.title;
+    Frmreports form(values, boxes, std::move(request), runner, parent);
     form.setWindowTitle(entry.title);
-    reports::Report& report = form.Report1();
-    if (entry.titleUse == TitleUse::Report) {
-        report.setReportTitle(entry.title);
-    } else {
-        report.setWindowTitle(entry.title);
-    }
-    report.setDataFile(0, values.databasePath);
-    report.setReportFile(joinPath(values.appPath, entry.file));
-    if (!entry.formula.isEmpty())
-        report.setSelectionFormula(entry.formula);
     form.exec();
 }
 

@@ -26,11 +26,9 @@ class Frmreports : public QDialog
 
 public:
     /// Shows the calendar at today, as the current report mode requires. @p values must outlive the dialog.
-    Frmreports(const ApplicationValues& values, Boxes& boxes, reports::Runner runner,
-               QWidget* parent = nullptr);
-
-    /// What the dialog runs, to be set before it is shown.
-    [[nodiscard]] reports::Report& Report1() { return m_report; }
+    /// @param request what the dialog runs; it sets the day and the name of the shop.
+    Frmreports(const ApplicationValues& values, Boxes& boxes, reports::ReportRequest request,
+               reports::Runner runner, QWidget* parent = nullptr);
 
 private:
     void layOut();
@@ -41,7 +39,8 @@ private:
     void generate();
 
     const ApplicationValues& m_values;
-    reports::Report m_report;
+    reports::ReportRequest m_request;
+    reports::Report Report1;
     QCalendarWidget* CSCal;
     QRadioButton* Option1;
 };

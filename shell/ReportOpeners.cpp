@@ -43,12 +43,12 @@ ScreenReports::ScreenReports(FrmMain& main, const ApplicationValues& values, Box
 
 void ScreenReports::run(const screens::TableReport& request)
 {
-    reports::Report report(m_main, m_boxes);
-    report.setReportFile(request.reportFile);
-    report.setWindowTitle(request.title);
-    report.setDataFile(0, request.database);
-    report.setCustomer(customerOf(m_values, request.database));
-    report.run();
+    reports::ReportRequest whole;
+    whole.reportFile = request.reportFile;
+    whole.dataFile = request.database;
+    whole.windowTitle = request.title;
+    whole.customer = customerOf(m_values, request.database);
+    reports::Report(m_main, m_boxes).run(std::move(whole));
 }
 
 } // namespace norvane::shell

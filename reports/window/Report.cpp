@@ -43,13 +43,7 @@ Report::~Report()
     }
 }
 
-void Report::setDataFile(int index, const QString& path)
-{
-    if (index == 0)
-        m_request.dataFile = path;
-}
-
-void Report::run()
+void Report::run(ReportRequest request, Destination destination)
 {
     // Events run during a long report; a second press of its button must not start it again.
     if (m_isRunning)
@@ -59,8 +53,8 @@ void Report::run()
         m_boxes.message(text, u"Report Error"_s, BoxIcon::Critical);
     };
     try {
-        if (auto report = runnerResult())
-            deliver(std::move(*report));
+        if (auto report = runnerResult(std::move(request)))
+            deliver(std::move(*report), destination);
     } catch (const ReportCancelled&) {
         return;
     } catch (const ReportError& error) {
@@ -71,10 +65,9 @@ void Report::run()
 }
 
 /// Nothing when the user cancelled.
-std::optional<ReportData> Report::runnerResult()
+std::optional<ReportData> Report::runnerResult(ReportRequest request)
 {
     RunProgress progress(m_window, u"The report is being made."_s);
-    ReportRequest request = m_request;
     request.now = QDateTime::currentDateTime();
     request.showStep = [&progress](const QString& step) {
         progress.showStep(step);
@@ -88,9 +81,9 @@ std::optional<ReportData> Report::runnerResult()
     }
 }
 
-void Report::deliver(ReportData report)
+void Report::deliver(ReportData report, Destination destination)
 {
-    if (m_destination == Destination::Window) {
+    if (destination == Destination::Window) {
         preview(std::move(report));
         return;
     }

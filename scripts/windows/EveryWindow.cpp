@@ -117,7 +117,7 @@ constexpr Dialog dialogs[] = {
     {"reports",
      [](Ground& g, QWidget* p) -> QWidget* {
          g.values.reportMode = u"DAILYPLU"_s;
-         return new sales::Frmreports(g.values, g.shop.boxes(), reports::runReport, p);
+         return new sales::Frmreports(g.values, g.shop.boxes(), {}, reports::runReport, p);
      }},
     {"system-info",
      [](Ground& g, QWidget* p) -> QWidget* {
@@ -262,10 +262,10 @@ void lookAtBoxes(QWidget& frame, const Look& look)
 /// The price list, printed to the screen.
 void lookAtReport(FilledShop& shop, const Look& look)
 {
-    reports::Report report(shop.frame(), shop.boxes());
-    report.setReportFile(shop.folder().appFile(u"pluprice.rpt"_s));
-    report.setDataFile(0, shop.values().databasePath);
-    report.run();
+    reports::ReportRequest request;
+    request.reportFile = shop.folder().appFile(u"pluprice.rpt"_s);
+    request.dataFile = shop.values().databasePath;
+    reports::Report(shop.frame(), shop.boxes()).run(std::move(request));
     auto* const window = shop.frame().findChild<QWidget*>(u"ReportPreview"_s);
     window->findChild<QPushButton*>(u"FindButton"_s)->click();
     QApplication::processEvents();

@@ -58,8 +58,8 @@ TEST_F(ReportTest, OpensPreviewsThatCanBeUsedOverAModalFormAndOutliveIt)
         QDialog form(&m_main);
         Report report(form, m_boxes, drinks);
         QTimer::singleShot(0, &form, [&] {
-            report.run();
-            report.run();
+            report.run({});
+            report.run({});
             ASSERT_EQ(previews().size(), 2);
             click(*previews()[0], u"FindButton"_s);
             EXPECT_TRUE(previews()[0]->findChild<QWidget*>(u"FindBar"_s)->isVisible());
@@ -77,9 +77,8 @@ TEST_F(ReportTest, PrintsStraightOrSaysThatThereIsNoPrinter)
 {
     const TestFolder folder;
     Report report(m_main, m_boxes, drinks);
-    report.setDestination(Destination::Printer);
     report.setPrinterSource([] { return nullptr; });
-    report.run();
+    report.run({}, Destination::Printer);
     ASSERT_EQ(m_boxes.shown.size(), 1);
     EXPECT_EQ(m_boxes.shown[0].title, u"Report Error"_s);
     report.setPrinterSource([&] {
@@ -87,7 +86,7 @@ TEST_F(ReportTest, PrintsStraightOrSaysThatThereIsNoPrinter)
         printer->setOutputFileName(folder.path("a.pdf"));
         return printer;
     });
-    report.run();
+    report.run({}, Destination::Printer);
     EXPECT_EQ(m_boxes.shown.size(), 1);
     EXPECT_TRUE(pdfLines(folder.path("a.pdf")).contains(u"Total Drinks 3.375 7.04"_s));
     EXPECT_EQ(previews().size(), 0);
@@ -98,7 +97,7 @@ TEST_F(ReportTest, TellsAFailureOfTheStoreInItsBox)
     Report report(m_main, m_boxes, [](const ReportRequest&, const KeepGoing&) -> ReportData {
         throw RuntimeFailure(Failure::EngineFailure, u"The database is damaged."_s);
     });
-    report.run();
+    report.run({});
     EXPECT_EQ(m_boxes.shown,
               (std::vector<ShownBox>{{u"The database is damaged."_s, u"Report Error"_s, BoxIcon::Critical}}));
 }
@@ -114,7 +113,7 @@ TEST_F(ReportTest, AnswersDuringALongRunAndGivesItUpOnCancel)
             const auto* const box = m_main.findChild<QProgressDialog*>(u"RunProgress"_s);
             if (box && box->isVisible()) {
                 EXPECT_EQ(box->labelText(), u"Adding up"_s);
-                report.run();
+                report.run({});
                 QTest::mouseClick(box->findChild<QPushButton*>(), Qt::LeftButton);
             }
         }
@@ -122,7 +121,7 @@ TEST_F(ReportTest, AnswersDuringALongRunAndGivesItUpOnCancel)
         throw ReportError(u"The report was given up."_s);
     });
     m_main.show();
-    report.run();
+    report.run({});
     EXPECT_EQ(runs, 1) << "a second run does not begin within the first";
     EXPECT_EQ(m_boxes.shown.size(), 0);
     EXPECT_EQ(previews().size(), 0);
