@@ -28,6 +28,11 @@ public:
     friend constexpr Length operator-(Length a, Length b) { return Length(a.m_units - b.m_units); }
 
     friend constexpr Length operator*(int times, Length length) { return Length(times * length.m_units); }
+    /// How often @p b fits into @p a; @p b is not 0.
+    friend constexpr double operator/(Length a, Length b)
+    {
+        return static_cast<double>(a.m_units) / static_cast<double>(b.m_units);
+    }
 
     friend constexpr Length millimetres(double count);
     friend constexpr Length twips(double count);

@@ -40,7 +40,7 @@ void write(QSettings& settings, const QString& axis, const AxisCorrection& corre
 
 AxisCorrection improved(const AxisCorrection& before, const MeasuredLine& line)
 {
-    const double ratio = line.measuredLength.inMillimetres() / line.length.inMillimetres();
+    const double ratio = line.measuredLength / line.length;
     const double offset =
         ratio * (line.start + before.offset).inMillimetres() - line.measuredStart.inMillimetres();
     return {millimetres(offset), before.stretch / ratio};

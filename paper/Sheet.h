@@ -9,7 +9,7 @@
 namespace norvane::paper
 {
 
-/// What a printer leaves white at the edges of a sheet.
+/// What remains white at the edges of a sheet.
 struct Margins {
     Length left;
     Length top;

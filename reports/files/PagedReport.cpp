@@ -16,9 +16,8 @@ bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& 
     ReportPages pages(report, font, showsCharts);
     pages.layOutAll();
     const ReportPainter painter(report, pages, font);
-    const QRectF& sheet = pages.frame().sheet;
     paper::PageDevice paper(device, QPageSize(QPageSize::A4),
-                            sheet.width() > sheet.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
+                            pages.frame().isLandscape() ? QPageLayout::Landscape : QPageLayout::Portrait);
     for (int page = span.first - 1; page < std::min(span.last, pages.pageCount()); ++page) {
         painter.paint(paper.nextPage(), page);
         needGoOn(keepGoing);

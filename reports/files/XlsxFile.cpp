@@ -24,8 +24,8 @@ namespace
 {
 
 constexpr lxw_row_t headingRow = 4;
-constexpr double millimetresPerLetter = 1.9; ///< a spreadsheet counts the width of columns in letters
-constexpr std::size_t longestNumber = 15;    ///< digits that a spreadsheet keeps
+constexpr paper::Length letterWidth = paper::millimetres(1.9); ///< in which a spreadsheet counts widths
+constexpr std::size_t longestNumber = 15;                      ///< digits that a spreadsheet keeps
 
 /// "0", "#,##0.00", with the currency in quotes before it; a number of varying places shows those that it
 /// has.
@@ -122,8 +122,8 @@ private:
     {
         for (int column = 0; column < m_report.columnCount(); ++column) {
             const ReportColumn& shown = m_report.columns()[static_cast<std::size_t>(column)];
-            const double letters = std::max(shown.width.inMillimetres() / millimetresPerLetter,
-                                            static_cast<double>(shown.heading.size()) + 2);
+            const double letters =
+                std::max(shown.width / letterWidth, static_cast<double>(shown.heading.size()) + 2);
             const auto place = static_cast<lxw_col_t>(column);
             worksheet_set_column(m_sheet, place, place, letters, nullptr);
         }

@@ -18,7 +18,7 @@ namespace
 {
 
 /// Columns that are wider than this together do not fit an upright sheet.
-constexpr double uprightMillimetres = 190;
+constexpr paper::Length uprightWidth = paper::millimetres(190);
 /// Characters of a formula in the heading, so that room is left for the lines.
 constexpr qsizetype longestShownFormula = 200;
 
@@ -256,7 +256,7 @@ bool Run::isLandscape(const ReportData& data) const
     paper::Length width;
     for (const auto& column : data.columns())
         width = width + column.width;
-    const bool isWide = width > paper::millimetres(uprightMillimetres);
+    const bool isWide = width > uprightWidth;
     return m_layout.orientation == Orientation::Landscape ||
            (m_layout.orientation == Orientation::Automatic && isWide);
 }

@@ -1,6 +1,7 @@
 // See ReportPages.h.
 #include "reports/pages/ReportPages.h"
 
+#include "paper/Sheet.h"
 #include "reports/pages/ChartPainter.h"
 #include "reports/pages/PageStyles.h"
 
@@ -12,13 +13,13 @@ namespace norvane::reports
 namespace
 {
 
-constexpr QSizeF uprightSheet{210, 297};
-constexpr QMarginsF margins{14, 12, 14, 12};
-constexpr double chartGap = 8;
+constexpr paper::Margins margins{paper::millimetres(14), paper::millimetres(12), paper::millimetres(14),
+                                 paper::millimetres(12)};
+constexpr double chartGap = 8; ///< around charts, in mm
 
-QRectF sheetOf(bool isLandscape)
+paper::Sheet sheetOf(bool isLandscape)
 {
-    return {QPointF(), isLandscape ? uprightSheet.transposed() : uprightSheet};
+    return {isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait, margins};
 }
 
 double headingRowHeight(const TextStyle& style)
@@ -29,8 +30,9 @@ double headingRowHeight(const TextStyle& style)
 PageFrame makeFrame(const ReportData& report, const PageFont& font, const LineLayout& lines, bool isLandscape)
 {
     PageFrame frame;
-    frame.sheet = sheetOf(isLandscape);
-    const QRectF area = frame.sheet.marginsRemoved(margins);
+    const paper::Sheet sheet = sheetOf(isLandscape);
+    const QRectF area = sheet.printableRect();
+    frame.sheet = sheet.rect();
     frame.subtitleWidth = area.width() * 0.68;
     const auto rows = [&](const QString& words, const TextStyle& style) {
         return static_cast<double>(font.wrapped(words, style, frame.subtitleWidth).size());
@@ -57,7 +59,7 @@ bool isTotal(LineKind kind)
 
 ColumnPlaces columnsOn(bool isLandscape, const ReportData& report, const PageFont& font)
 {
-    const QRectF area = sheetOf(isLandscape).marginsRemoved(margins);
+    const QRectF area = sheetOf(isLandscape).printableRect();
     return fitColumns(report, font, area.left(), area.width());
 }
 
@@ -187,7 +189,7 @@ void ReportPages::addCharts(ReportPage& page)
 /// Beneath each other, two charts would need two landscape sheets.
 std::size_t ReportPages::chartsInRow() const
 {
-    return m_frame.sheet.width() > m_frame.sheet.height() ? 2 : 1;
+    return m_frame.isLandscape() ? 2 : 1;
 }
 
 /// The height of the next @p count charts side by side.

@@ -33,13 +33,15 @@ struct ReportPage {
     [[nodiscard]] bool hasLines() const { return endLine > firstLine; }
 };
 
-/// The places that all pages share.
+/// The places that all pages share, in mm as all lengths here.
 struct PageFrame {
     QRectF sheet;
     QRectF heading;
     QRectF columnHeadings;
     QRectF body;              ///< room for lines, below the column headings
     double subtitleWidth = 0; ///< of title and subtitle, which break into rows
+
+    [[nodiscard]] bool isLandscape() const { return sheet.width() > sheet.height(); }
 };
 
 /// The columns, and the sheet that they were fitted to.
