@@ -1,17 +1,14 @@
-// Makes, places and reads the controls of a screen; see FieldPanel.h.
+// See FieldPanel.h.
 #include "screens/FieldPanel.h"
 
 #include "paper/Length.h"
-#include "platform/Numbers.h"
-#include "screens/ComboRows.h"
 #include "screens/ControlContents.h"
 #include "screens/GridControl.h"
 #include "screens/LabelPairs.h"
 #include "screens/ListRoom.h"
 #include "ui/Appearance.h"
-#include "ui/DecimalBox.h"
 #include "ui/FormKit.h"
-#include "ui/IntegerBox.h"
+#include "ui/NumberBox.h"
 #include "ui/TextBox.h"
 #include "ui/ValueList.h"
 
@@ -63,47 +60,6 @@ const Template& templateOf(ControlKind kind)
     return templates[static_cast<std::size_t>(kind)];
 }
 
-/// A read-only box looks like the form, so nobody tries to type into it.
-void makeReadOnly(QLineEdit& box)
-{
-    box.setReadOnly(true);
-    box.setToolTip({}); // the range of what can be typed
-    QPalette palette = box.palette();
-    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-    box.setPalette(palette);
-}
-
-ui::NumberBox* makeNumberBox(const ControlDefinition& definition, QWidget* parent)
-{
-    if (definition.kind == ControlKind::Integer)
-        return new ui::IntegerBox(parent, definition.digits.value_or(1));
-    auto* const box = new ui::DecimalBox(parent);
-    box->setDecimals(definition.decimals.value_or(box->decimals()));
-    return box;
-}
-
-int textLimit(const Decimal& maximum)
-{
-    constexpr std::int64_t longest = std::numeric_limits<int>::max();
-    return static_cast<int>(qBound(std::int64_t{0}, maximum.toWhole(), longest));
-}
-
-/// @return nothing for a box that takes all characters of the register.
-std::optional<ui::TextBox::Characters> charactersOf(const ControlDefinition& definition)
-{
-    if (definition.characters.compare("NUMERIC"_L1, Qt::CaseInsensitive) == 0)
-        return ui::TextBox::Characters::Digits;
-    return definition.isHexadecimal ? std::optional(ui::TextBox::Characters::Hexadecimal) : std::nullopt;
-}
-
-QVector<int> listWidths(const QString& text)
-{
-    QVector<int> widths;
-    for (const QString& width : text.split(u';', Qt::SkipEmptyParts))
-        widths += pixels(toNumber(width));
-    return widths;
-}
-
 /// The place of a control without a tab index: last.
 int tabPlace(const ControlDefinition& definition)
 {
@@ -130,7 +86,8 @@ bool isEditable(const ControlDefinition& definition, const QWidget& widget)
 } // namespace
 
 FieldPanel::FieldPanel(std::shared_ptr<store::Database> database, QWidget* parent)
-    : QScrollArea(parent), m_database(std::move(database)), m_picture(new QWidget(this))
+    : QScrollArea(parent), m_database(std::move(database)), m_picture(new QWidget(this)),
+      m_maker(m_database, *m_picture)
 {
     ui::nameControl(*this, u"CSPict1"_s);
     setFrameShape(QFrame::NoFrame);
@@ -156,107 +113,45 @@ int FieldPanel::nextElement(ControlKind kind)
     return *m_counters.insert(kind, templateOf(kind).firstElement);
 }
 
+/// All sections of a grid are about one and the same.
 QWidget* FieldPanel::make(const ControlDefinition& definition, int element)
 {
-    if (definition.kind == ControlKind::Find)
-        return makeFind(element);
-    using Maker = QWidget* (FieldPanel::*)(const ControlDefinition&);
-    // In the order of ControlKind, after the find button.
-    constexpr std::array<Maker, 7> makers{
-        &FieldPanel::makeCheck, &FieldPanel::makeLabel, &FieldPanel::makeNumber, &FieldPanel::makeNumber,
-        &FieldPanel::makeText,  &FieldPanel::makeCombo, &FieldPanel::makeGrid};
-    return (this->*makers.at(static_cast<std::size_t>(definition.kind) - 1))(definition);
+    if (definition.kind == ControlKind::Grid && m_grid) {
+        m_grid->showQuery(m_database, definition);
+        return m_grid;
+    }
+    QWidget* const widget = m_maker.make(definition);
+    listenTo(*widget, element);
+    return widget;
 }
 
-QWidget* FieldPanel::makeCheck(const ControlDefinition& definition)
+void FieldPanel::listenTo(QWidget& widget, int element)
 {
-    auto* const box = new QCheckBox(definition.description, m_picture);
-    box->setEnabled(definition.enabled.value_or(true));
-    connect(box, &QCheckBox::toggled, this, &FieldPanel::tellEdited);
-    return box;
-}
-
-QWidget* FieldPanel::makeLabel(const ControlDefinition& definition)
-{
-    auto* const label = new QLabel(definition.description, m_picture);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-QWidget* FieldPanel::makeFind(int element)
-{
-    auto* const button = new QPushButton(u"F&ind"_s, m_picture);
-    button->setAutoDefault(true);
-    connect(button, &QPushButton::clicked, this, [this, element] { Q_EMIT findPressed(element); });
-    return button;
-}
-
-QWidget* FieldPanel::makeNumber(const ControlDefinition& definition)
-{
-    ui::NumberBox* const box = makeNumberBox(definition, m_picture);
-    if (definition.maximum)
-        box->setMaximum(*definition.maximum);
-    if (definition.readOnly.value_or(false))
-        makeReadOnly(*box);
-    connect(box, &QLineEdit::textChanged, this, &FieldPanel::tellEdited);
-    connect(box, &ui::NumberBox::maximumExceeded, this, [this, box] { Q_EMIT maximumExceeded(box); });
-    return box;
-}
-
-QWidget* FieldPanel::makeText(const ControlDefinition& definition)
-{
-    auto* const box = new ui::TextBox(m_picture);
-    if (definition.maximum)
-        box->setLimit(textLimit(*definition.maximum));
-    if (definition.readOnly.value_or(false))
-        makeReadOnly(*box);
-    box->setJustify(definition.justify);
-    if (const auto characters = charactersOf(definition))
-        box->setCharacters(*characters);
-    if (definition.largest)
-        box->setLargest(*definition.largest);
-    connect(box, &QLineEdit::textChanged, this, &FieldPanel::tellEdited);
-    connect(box, &ui::TextBox::maximumExceeded, this, [this, box] { Q_EMIT maximumExceeded(box); });
-    return box;
-}
-
-QWidget* FieldPanel::makeCombo(const ControlDefinition& definition)
-{
-    auto* const list = new ui::ValueList(m_picture);
-    if (!definition.columnWidths.isEmpty())
-        list->setColumnWidths(listWidths(definition.columnWidths));
-    if (!definition.valueColumn.isEmpty())
-        list->setValueColumn(toWholeNumber(definition.valueColumn));
-    list->setRows(definition.sqlCriteria.isEmpty() ? rowsOfList(definition.list)
-                                                   : queriedRows(definition.sqlCriteria));
-    connect(list, &ui::ValueList::valueEdited, this, &FieldPanel::tellEdited);
-    return list;
+    if (auto* const number = qobject_cast<ui::NumberBox*>(&widget)) {
+        connect(number, &QLineEdit::textChanged, this, &FieldPanel::tellEdited);
+        connect(number, &ui::NumberBox::maximumExceeded, this,
+                [this, number] { Q_EMIT maximumExceeded(number); });
+    } else if (auto* const text = qobject_cast<ui::TextBox*>(&widget)) {
+        connect(text, &QLineEdit::textChanged, this, &FieldPanel::tellEdited);
+        connect(text, &ui::TextBox::maximumExceeded, this, [this, text] { Q_EMIT maximumExceeded(text); });
+    } else if (auto* const check = qobject_cast<QCheckBox*>(&widget)) {
+        connect(check, &QCheckBox::toggled, this, &FieldPanel::tellEdited);
+    } else if (auto* const list = qobject_cast<ui::ValueList*>(&widget)) {
+        connect(list, &ui::ValueList::valueEdited, this, &FieldPanel::tellEdited);
+    } else if (auto* const find = qobject_cast<QPushButton*>(&widget)) {
+        connect(find, &QPushButton::clicked, this, [this, element] { Q_EMIT findPressed(element); });
+    } else if (auto* const grid = qobject_cast<GridControl*>(&widget)) {
+        m_grid = grid;
+        connect(grid, &GridControl::dataError, this, [this](const QModelIndex& index, const QString& why) {
+            Q_EMIT gridDataError(m_grid, index, why);
+        });
+    }
 }
 
 void FieldPanel::tellEdited()
 {
     if (!m_isShowing)
         Q_EMIT edited();
-}
-
-const QVector<QStringList>& FieldPanel::queriedRows(const QString& query)
-{
-    const auto known = m_queriedRows.constFind(query);
-    if (known != m_queriedRows.cend())
-        return *known;
-    return *m_queriedRows.insert(query, rowsOfQuery(*m_database, query));
-}
-
-QWidget* FieldPanel::makeGrid(const ControlDefinition& definition)
-{
-    if (!m_grid) {
-        m_grid = new GridControl(m_picture);
-        connect(m_grid, &GridControl::dataError, this, [this](const QModelIndex& index, const QString& why) {
-            Q_EMIT gridDataError(m_grid, index, why);
-        });
-    }
-    m_grid->showQuery(m_database, definition);
-    return m_grid;
 }
 
 void FieldPanel::place(const ControlDefinition& definition, QWidget& widget)

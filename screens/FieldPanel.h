@@ -1,6 +1,7 @@
 // The scrolling panel of a screen with the controls of its fields.
 #pragma once
 
+#include "screens/ControlMaker.h"
 #include "screens/RecordEditor.h"
 #include "screens/ScreenDefinition.h"
 
@@ -23,9 +24,9 @@ inline constexpr double controlHeight = 360;
 inline constexpr double checkHeight = 300; ///< keeps long columns of check boxes close together
 inline constexpr double findButtonWidth = 1200;
 
-/// Makes a control for each definition and finds them by kind and element. The panel is as high as the
-/// largest "Y" of its find buttons, boxes and combos (a grid counts by its height, check boxes and labels do
-/// not count) and 10 twips more; the part below is cut.
+/// Holds a control for each definition, named by its kind and element. The panel is as high as the largest
+/// "Y" of its find buttons, boxes and combos (a grid counts by its height, check boxes and labels do not
+/// count) and 10 twips more; the part below is cut.
 class FieldPanel : public QScrollArea
 {
     Q_OBJECT
@@ -33,7 +34,7 @@ class FieldPanel : public QScrollArea
 public:
     explicit FieldPanel(std::shared_ptr<store::Database> database, QWidget* parent = nullptr);
 
-    /// @throws RuntimeFailure as the control's query, 13 for a list column that is not a number.
+    /// @throws RuntimeFailure as ControlMaker::make().
     void addControl(const ControlDefinition& definition);
     /// After the last control: size of the panel, tab order, labels tied to their controls.
     /// @param numberField the field that holds the number of the record.
@@ -69,15 +70,8 @@ private:
     };
 
     [[nodiscard]] QWidget* make(const ControlDefinition& definition, int element);
-    [[nodiscard]] QWidget* makeFind(int element);
-    [[nodiscard]] QWidget* makeCheck(const ControlDefinition& definition);
-    [[nodiscard]] QWidget* makeLabel(const ControlDefinition& definition);
-    [[nodiscard]] QWidget* makeNumber(const ControlDefinition& definition);
-    [[nodiscard]] QWidget* makeText(const ControlDefinition& definition);
-    [[nodiscard]] QWidget* makeCombo(const ControlDefinition& definition);
-    [[nodiscard]] QWidget* makeGrid(const ControlDefinition& definition);
+    void listenTo(QWidget& widget, int element);
     void tellEdited();
-    [[nodiscard]] const QVector<QStringList>& queriedRows(const QString& query);
     [[nodiscard]] int nextElement(ControlKind kind);
     void place(const ControlDefinition& definition, QWidget& widget);
     void countBottom(const ControlDefinition& definition);
@@ -89,12 +83,12 @@ private:
 
     std::shared_ptr<store::Database> m_database;
     QWidget* m_picture; ///< carries the controls
+    ControlMaker m_maker;
     QVector<Control> m_controls;
-    QHash<ControlKind, int> m_counters;                 ///< next element of each kind
-    QHash<QString, QVector<QStringList>> m_queriedRows; ///< many lists of a screen have the same query
-    GridControl* m_grid = nullptr;                      ///< the one grid; each grid section is about it
-    bool m_isShowing = false;                           ///< within showContents()
-    double m_bottom = 0;                                ///< twips
+    QHash<ControlKind, int> m_counters; ///< next element of each kind
+    GridControl* m_grid = nullptr;      ///< the one grid; each grid section is about it
+    bool m_isShowing = false;           ///< within showContents()
+    double m_bottom = 0;                ///< twips
     QVector<QWidget*> m_tabOrder;
     QWidget* m_first = nullptr;    ///< that takes an entry; nullptr without one
     QWidget* m_firstNew = nullptr; ///< the same in a new record

@@ -156,25 +156,30 @@ void nameAsControl(QLabel& label)
     label.setAccessibleName(name == textOf(label) ? QString() : name);
 }
 
+/// A label right before a control names it; one right after a control adds to its name; others are headings.
+void tieLabel(QLabel& label, const QVector<QLabel*>& labels, const QVector<QWidget*>& controls)
+{
+    QWidget* const control = nextInRow(label, controls);
+    const QLabel* const between = nextInRow(label, labels);
+    if (control && (!between || between->x() > control->x())) {
+        label.setBuddy(control);
+        control->setAccessibleName((textOf(label) + u' ' + ui::spokenName(*control)).trimmed());
+        return;
+    }
+    if (QWidget* const before = controlBefore(label, controls, labels)) {
+        nameAfter(*before, textOf(label));
+    } else {
+        makeHeading(label);
+    }
+    label.setText(textOf(label));
+}
+
 } // namespace
 
 void tieLabels(const QVector<QLabel*>& labels, const QVector<QWidget*>& controls)
 {
-    for (QLabel* const label : labels) {
-        QWidget* const control = nextInRow(*label, controls);
-        const QLabel* const between = nextInRow(*label, labels);
-        if (control && (!between || between->x() > control->x())) {
-            label->setBuddy(control);
-            control->setAccessibleName((textOf(*label) + u' ' + ui::spokenName(*control)).trimmed());
-            continue;
-        }
-        if (QWidget* const before = controlBefore(*label, controls, labels)) {
-            nameAfter(*before, textOf(*label));
-        } else {
-            makeHeading(*label);
-        }
-        label->setText(textOf(*label));
-    }
+    for (QLabel* const label : labels)
+        tieLabel(*label, labels, controls);
     QHash<QString, int> holders;
     for (QWidget* const control : controls) {
         if (ui::spokenName(*control).isEmpty())

@@ -19,21 +19,26 @@ bool isTest(const Condition& condition)
     return condition.kind == Condition::Kind::Test || condition.kind == Condition::Kind::Twins;
 }
 
+/// Whether all fields of a test can be read; a table that cannot is added to @p others.
+bool canTest(const Condition& test, const Reads& reads, QStringList& others)
+{
+    for (const auto* const table : {test.field.table, test.other.table}) {
+        if (!table || reads(*table))
+            continue;
+        if (!others.contains(table->name))
+            others.append(table->name);
+        return false;
+    }
+    return true;
+}
+
 /// @param isNegated whether the condition follows a "not". @return nothing if it restricts nothing.
 std::optional<Condition> restricted(const Condition& condition, const Reads& reads, QStringList& others,
                                     bool isNegated = false)
 {
     using Kind = Condition::Kind;
-    if (isTest(condition)) {
-        for (const auto* const table : {condition.field.table, condition.other.table}) {
-            if (!table || reads(*table))
-                continue;
-            if (!others.contains(table->name))
-                others.append(table->name);
-            return std::nullopt;
-        }
-        return condition;
-    }
+    if (isTest(condition))
+        return canTest(condition, reads, others) ? std::optional(condition) : std::nullopt;
     Condition left;
     left.kind = condition.kind;
     const bool negatesParts = isNegated != (condition.kind == Kind::Not);
