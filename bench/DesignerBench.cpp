@@ -5,6 +5,7 @@
 #include "overlay/OverlayForm.h"
 #include "overlay/SystemDialogs.h"
 #include "store/catalogue/Catalogue.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 #include "tests/support/RecordingBoxes.h"
@@ -34,7 +35,7 @@ QString pluNumber(int number)
 /// Every key sells another PLU.
 void fillShop(store::Database& database)
 {
-    const store::Transaction transaction(database);
+    const store::CommitOnExit transaction(database);
     store::Recordset plus = database.openTable(u"PLUDATA"_s);
     for (int number = 1; number <= pluCount; ++number) {
         plus.addNew();

@@ -3,6 +3,7 @@
 #include "keys/functions/FrmFunctKey.h"
 #include "keys/RecordPicker.h"
 #include "store/catalogue/Catalogue.h"
+#include "store/engine/CommitOnExit.h"
 #include "ui/Appearance.h"
 #include "ui/MessageBoxes.h"
 
@@ -31,7 +32,7 @@ public:
         const QString path = m_folder.filePath(QStringLiteral("velmar.mdb"));
         store::Database::create(path, store::catalogue());
         store::Database database(path);
-        const store::Transaction transaction(database);
+        const store::CommitOnExit transaction(database);
         for (int id = 1; id <= keyCount; ++id) {
             database.execute(
                 QStringLiteral("insert into FUNCTIONKEY values (%1, 'KEY %1', 1250, 77, 77, 77, 77)")

@@ -5,6 +5,7 @@
 #include "keys/layout/KeyLevel.h"
 #include "keys/lookups/frmwlu.h"
 #include "store/catalogue/Catalogue.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 #include "ui/Appearance.h"
@@ -56,7 +57,7 @@ public:
         values.databasePath = m_folder.filePath(QStringLiteral("velmar.mdb"));
         store::Database::create(values.databasePath, store::catalogue());
         store::Database database(values.databasePath);
-        const store::Transaction all(database);
+        const store::CommitOnExit all(database);
         fillItems(database);
         fillKeys(database);
         fillLookUps(database);

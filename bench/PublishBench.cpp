@@ -6,6 +6,7 @@
 #include "chain/ChainSchema.h"
 #include "chain/Publisher.h"
 #include "store/catalogue/Catalogue.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Recordset.h"
 #include "store/sales/RowAppend.h"
 #include "tests/support/PostgresServer.h"
@@ -53,7 +54,7 @@ private:
 
     void appendDay(store::Database& database)
     {
-        store::Transaction transaction(database);
+        store::CommitOnExit transaction(database);
         store::Recordset sales = database.openTable(u"PLUSALES"_s);
         {
             const store::RowAppend append(database, transaction, u"PLUSALES"_s);

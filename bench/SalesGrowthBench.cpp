@@ -3,6 +3,7 @@
 // makes them all, in some minutes and five gigabytes of the temporary folder. Times are processor times.
 #include "bench/BareDatabase.h"
 #include "store/catalogue/Catalogue.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 #include "store/sales/MonthTotals.h"
@@ -83,14 +84,14 @@ public:
     /// One collection: the day's totals of all PLUs, on the disk at the end.
     void appendDay()
     {
-        store::Transaction transaction(*m_database);
+        store::CommitOnExit transaction(*m_database);
         addRows(transaction);
         transaction.commit();
         ++m_days;
     }
 
 private:
-    void addRows(const store::Transaction& open)
+    void addRows(const store::CommitOnExit& open)
     {
         store::Recordset sales = m_database->openTable(u"PLUSALES"_s);
         const store::RowAppend append(*m_database, open, u"PLUSALES"_s);

@@ -5,6 +5,7 @@
 #include "screens/RecordList.h"
 #include "screens/ScreenReader.h"
 #include "store/catalogue/Catalogue.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Recordset.h"
 #include "ui/Appearance.h"
 #include "ui/DecimalBox.h"
@@ -166,7 +167,7 @@ constexpr int pluCount = 100000;
 
 void fillPlus(store::Database& database)
 {
-    const store::Transaction transaction(database);
+    const store::CommitOnExit transaction(database);
     store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
     for (int number = 1; number <= pluCount; ++number) {
         plus.addNew();

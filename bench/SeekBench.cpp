@@ -2,6 +2,7 @@
 #include "bench/Ratio.h"
 #include "store/catalogue/Catalogue.h"
 #include "store/catalogue/DatabaseCheck.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 
@@ -39,7 +40,7 @@ public:
     {
         store::Database::create(path(), store::catalogue());
         store::Database database(path());
-        const store::Transaction transaction(database);
+        const store::CommitOnExit transaction(database);
         store::Recordset plus = database.openTable(u"PLUDATA"_s);
         for (int number = 1; number <= pluCount; ++number) {
             plus.addNew();
@@ -170,7 +171,7 @@ void checkForDamage(benchmark::State& state)
     require(QFile::copy(shop().path(), path), "copy");
     {
         store::Database database(path);
-        const store::Transaction transaction(database);
+        const store::CommitOnExit transaction(database);
         store::Recordset sales = database.openTable(u"PLUSALES"_s);
         for (std::int64_t row = 0; row < state.range(0); ++row) {
             sales.addNew();

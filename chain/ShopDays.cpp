@@ -4,6 +4,7 @@
 #include "chain/ChainTables.h"
 #include "chain/SourceRows.h"
 #include "platform/RuntimeFailure.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/sales/DayDigests.h"
 
 #include <QCryptographicHash>
@@ -92,7 +93,7 @@ void ShopDays::keep()
     if (std::ranges::all_of(m_new, [](const auto& digests) { return digests.empty(); }))
         return;
     try {
-        store::Transaction transaction(m_database);
+        store::CommitOnExit transaction(m_database);
         // A row that was changed after it was read has dropped the former digest: it must not get it back.
         if (store::DayDigests::changesByOthers(m_database) == m_version)
             keepNew();

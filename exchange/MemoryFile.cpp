@@ -7,6 +7,7 @@
 #include "platform/TextValues.h"
 #include "records/ImportTransaction.h"
 #include "records/RecordText.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 
@@ -167,7 +168,7 @@ struct Reload {
 void reloadTable(const records::ProcedureContext& context, const std::function<int()>& generation)
 {
     store::Database database(context.values.databasePath);
-    store::Transaction transaction(database);
+    store::CommitOnExit transaction(database);
     Reload reload;
     records::importOrPutBack(
         transaction, context.boxes,

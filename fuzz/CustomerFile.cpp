@@ -3,6 +3,7 @@
 
 #include "fuzz/Target.h"
 #include "store/catalogue/Catalogue.h"
+#include "store/engine/CommitOnExit.h"
 
 #include <map>
 
@@ -49,7 +50,7 @@ store::Database& customerDatabase()
 
 void undone(const std::function<void()>& work)
 {
-    store::Transaction transaction(customerDatabase());
+    store::CommitOnExit transaction(customerDatabase());
     work();
     transaction.rollBack();
 }

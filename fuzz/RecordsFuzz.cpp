@@ -8,6 +8,7 @@
 #include "records/RecordText.h"
 #include "records/RecordWriter.h"
 #include "records/RegisterFiles.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Recordset.h"
 
 #include <map>
@@ -186,7 +187,7 @@ private:
 
 Table& tableOf(const RegisterFile& file)
 {
-    static const store::Transaction neverKept(customerDatabase());
+    static const store::CommitOnExit neverKept(customerDatabase());
     static std::map<int, Table> tables;
     return tables.try_emplace(file.number, file).first->second;
 }

@@ -12,6 +12,7 @@
 #include "records/RecordReader.h"
 #include "records/RecordWriter.h"
 #include "records/RegisterFiles.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 
 #include <QFile>
@@ -291,7 +292,7 @@ Imported importRegisterFile(int number, const ProcedureContext& context)
     store::Database database(context.values.databasePath);
     if (!mayReplace(file, database, context.boxes))
         return Imported::TooFew;
-    store::Transaction transaction(database);
+    store::CommitOnExit transaction(database);
     ImportCounts counts;
     const auto commit = [&] {
         context.store(number, [&] { transaction.commit(); });

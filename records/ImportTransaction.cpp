@@ -3,6 +3,7 @@
 
 #include "base/LossQuestion.h"
 #include "platform/RuntimeFailure.h"
+#include "store/engine/CommitOnExit.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,7 +17,7 @@ QString textOf(const RuntimeFailure& failure, const QString& question)
     return question.isEmpty() ? QString() : failure.text() + u"\r\r"_s + question;
 }
 
-void keepOrPutBack(store::Transaction& transaction, Boxes& boxes, const QString& text,
+void keepOrPutBack(store::CommitOnExit& transaction, Boxes& boxes, const QString& text,
                    const std::function<void()>& commit)
 {
     if (!text.isEmpty() && askBeforeLoss(boxes, text)) {
@@ -28,7 +29,7 @@ void keepOrPutBack(store::Transaction& transaction, Boxes& boxes, const QString&
 
 } // namespace
 
-void importOrPutBack(store::Transaction& transaction, Boxes& boxes, const std::function<QString()>& question,
+void importOrPutBack(store::CommitOnExit& transaction, Boxes& boxes, const std::function<QString()>& question,
                      const std::function<void()>& import, const std::function<void()>& commit)
 {
     try {
@@ -41,7 +42,7 @@ void importOrPutBack(store::Transaction& transaction, Boxes& boxes, const std::f
     }
 }
 
-void importOrPutBack(store::Transaction& transaction, Boxes& boxes, const std::function<QString()>& question,
+void importOrPutBack(store::CommitOnExit& transaction, Boxes& boxes, const std::function<QString()>& question,
                      const std::function<void()>& import)
 {
     importOrPutBack(transaction, boxes, question, import, [&] { transaction.commit(); });

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Boxes.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 
 #include <functional>
@@ -14,10 +15,10 @@ namespace norvane::records
 /// default, restores the tables; Yes calls @p commit, which commits the transaction. The failure is rethrown
 /// in either case. Without a failure the transaction remains open for the caller to commit. A killed process
 /// keeps nothing.
-void importOrPutBack(store::Transaction& transaction, Boxes& boxes, const std::function<QString()>& question,
+void importOrPutBack(store::CommitOnExit& transaction, Boxes& boxes, const std::function<QString()>& question,
                      const std::function<void()>& import, const std::function<void()>& commit);
 /// The same with a plain commit.
-void importOrPutBack(store::Transaction& transaction, Boxes& boxes, const std::function<QString()>& question,
+void importOrPutBack(store::CommitOnExit& transaction, Boxes& boxes, const std::function<QString()>& question,
                      const std::function<void()>& import);
 
 /// The question about a register file's text that replaces a table of @p former records, after @p read of

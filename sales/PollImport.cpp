@@ -10,6 +10,7 @@
 #include "records/RecordText.h"
 #include "sales/PollStamp.h"
 #include "store/catalogue/SalesTables.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 #include "store/sales/MonthTotals.h"
@@ -260,7 +261,7 @@ std::span<const PollFile> pollFiles()
 ImportedReport importPollFile(const PollFile& file, store::Database& database,
                               const ApplicationValues& values, QDate collected)
 {
-    store::Transaction transaction(database);
+    store::CommitOnExit transaction(database);
     store::Recordset records = database.openTable(QLatin1StringView(file.table));
     const QByteArray content = readWholeFile(joinPath(values.appPath, QLatin1StringView(file.name)));
     TextValues text({content.constData(), static_cast<std::size_t>(content.size())});

@@ -7,6 +7,7 @@
 #include "records/ImportTransaction.h"
 #include "sales/LastCollection.h"
 #include "sales/PollImport.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 
 #include <algorithm>
@@ -48,7 +49,7 @@ private:
     QDate m_collected;
     ReportOrigin m_origin;
     store::Database m_database;
-    store::Transaction m_transaction;
+    store::CommitOnExit m_transaction;
     LastCollection m_last;
     bool m_lastIsThere; ///< its rows are still in the tables
     LastCollection m_this;

@@ -6,6 +6,7 @@
 #include "platform/RuntimeFailure.h"
 #include "screens/RegisterRules.h"
 #include "screens/SaveNotices.h"
+#include "store/engine/ShortWait.h"
 
 #include <QRegularExpression>
 

@@ -3,6 +3,7 @@
 
 #include "platform/FailurePlace.h"
 #include "screens/FieldContents.h"
+#include "store/engine/ShortWait.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,7 @@
 // Reads, converts and stores record by record; see PriceWalk.h.
 #include "utilities/PriceWalk.h"
 
+#include "store/engine/CommitOnExit.h"
 #include "utilities/PriceConversion.h"
 
 #include <vector>
@@ -49,7 +50,7 @@ qint64 transferPrices(store::Database& database, store::Recordset& plus, std::sp
                       const std::optional<Decimal>& rate, const std::function<void()>& everyRow)
 {
     const auto places = placesOf(plus, fields);
-    store::Transaction transaction(database);
+    store::CommitOnExit transaction(database);
     plus.setIndex(u"plunumber"_s);
     qint64 changed = 0;
     for (plus.moveFirst(); !plus.atEnd(); plus.moveNext()) {

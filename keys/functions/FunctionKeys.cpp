@@ -5,6 +5,7 @@
 #include "base/SharedRoutines.h"
 #include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
+#include "store/engine/ShortWait.h"
 
 #include <QScopeGuard>
 

@@ -5,6 +5,7 @@
 #include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
 #include "store/engine/AllOrNothing.h"
+#include "store/engine/ShortWait.h"
 
 #include <algorithm>
 

@@ -4,6 +4,7 @@
 #include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
+#include "store/engine/ShortWait.h"
 
 #include <QScopeGuard>
 

@@ -6,6 +6,7 @@
 #include "reports/lines/LineStatement.h"
 #include "store/catalogue/Catalogue.h"
 #include "store/engine/BoundQuery.h"
+#include "store/engine/ShortWait.h"
 
 #include <QLocale>
 

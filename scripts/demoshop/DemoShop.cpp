@@ -9,6 +9,7 @@
 #include "platform/FolderLock.h"
 #include "sales/PollImport.h"
 #include "scripts/demoshop/TillDays.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 
 #include <QDir>
@@ -129,7 +130,7 @@ private:
     {
         const std::scoped_lock oneAtATime(m_storing);
         store::Database database(values.databasePath);
-        store::Transaction transaction(database);
+        store::CommitOnExit transaction(database);
         for (const sales::PollFile& file : sales::pollFiles())
             sales::importPollFile(file, database, values, date);
         transaction.commit();

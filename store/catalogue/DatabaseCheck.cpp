@@ -34,7 +34,7 @@ std::optional<SQLite::Database> openIfOurs(const QString& path)
 class Check
 {
 public:
-    Check(sqlite3* connection, QString path) : m_connection(connection), m_path(std::move(path)) {}
+    Check(sqlite3* handle, QString path) : m_handle(handle), m_path(std::move(path)) {}
 
     [[nodiscard]] QString damage() const
     {
@@ -48,10 +48,7 @@ public:
     }
 
 private:
-    [[nodiscard]] PreparedStatement prepare(const std::string& sql) const
-    {
-        return {m_connection, sql, m_path};
-    }
+    [[nodiscard]] PreparedStatement prepare(const std::string& sql) const { return {m_handle, sql, m_path}; }
 
     void run(const std::string& sql) const { prepare(sql).run(); }
 
@@ -84,7 +81,7 @@ private:
         return {};
     }
 
-    sqlite3* m_connection;
+    sqlite3* m_handle;
     QString m_path;
 };
 

@@ -5,8 +5,9 @@
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/Catalogue.h"
 #include "store/catalogue/Upgrade.h"
+#include "store/engine/CommitOnExit.h"
+#include "store/engine/Connection.h"
 #include "store/engine/DatabaseFile.h"
-#include "store/engine/DatabasePrivate.h"
 #include "store/engine/PreparedStatement.h"
 #include "store/engine/SqliteFailures.h"
 #include "store/engine/TriggersAtRest.h"
@@ -24,31 +25,31 @@ namespace
 /// The other file as the statements name it.
 constexpr const char* otherFile = "safety";
 
-void run(sqlite3* connection, const std::string& sql, const QString& path)
+void run(sqlite3* handle, const std::string& sql, const QString& path)
 {
-    PreparedStatement(connection, sql, path).run();
+    PreparedStatement(handle, sql, path).run();
 }
 
 /// Another file on the same connection.
 class AttachedFile
 {
 public:
-    AttachedFile(sqlite3* connection, const QString& path) : m_connection(connection)
+    AttachedFile(sqlite3* handle, const QString& path) : m_handle(handle)
     {
-        PreparedStatement attach(connection, std::string("ATTACH ? AS ") + otherFile, path);
+        PreparedStatement attach(handle, std::string("ATTACH ? AS ") + otherFile, path);
         const Value file = Value::text(path);
         attach.bind(1, file);
         attach.run();
     }
     ~AttachedFile()
     {
-        sqlite3_exec(m_connection, (std::string("DETACH ") + otherFile).c_str(), nullptr, nullptr, nullptr);
+        sqlite3_exec(m_handle, (std::string("DETACH ") + otherFile).c_str(), nullptr, nullptr, nullptr);
     }
     AttachedFile(const AttachedFile&) = delete;
     AttachedFile& operator=(const AttachedFile&) = delete;
 
 private:
-    sqlite3* m_connection;
+    sqlite3* m_handle;
 };
 
 bool growsForEver(const QString& table)
@@ -57,9 +58,9 @@ bool growsForEver(const QString& table)
     return known != nullptr && !known->searchedField.isEmpty();
 }
 
-QVector<TableDefinition> programmeTables(sqlite3* connection)
+QVector<TableDefinition> programmeTables(sqlite3* handle)
 {
-    const Schema schema(connection);
+    const Schema schema(handle);
     QVector<TableDefinition> tables;
     for (const QString& name : schema.tableNames()) {
         if (!growsForEver(name))
@@ -89,17 +90,17 @@ QStringList fieldNames(const TableDefinition& table)
 
 void copyProgramme(SQLite::Database& source, const QString& from, const QString& to)
 {
-    sqlite3* const connection = source.getHandle();
-    const auto tables = programmeTables(connection);
+    sqlite3* const handle = source.getHandle();
+    const auto tables = programmeTables(handle);
     createDatabaseFile(to, tables);
-    const AttachedFile target(connection, to);
+    const AttachedFile target(handle, to);
     // An incomplete copy is removed, so it needs no rollback.
-    run(connection, std::string("PRAGMA ") + otherFile + ".journal_mode = OFF", to);
+    run(handle, std::string("PRAGMA ") + otherFile + ".journal_mode = OFF", to);
     // One transaction, so that all tables are of one moment.
-    run(connection, "BEGIN", from);
+    run(handle, "BEGIN", from);
     for (const auto& table : tables)
-        run(connection, moveRows(table.name, fieldNames(table), "main", otherFile), to);
-    run(connection, "COMMIT", to);
+        run(handle, moveRows(table.name, fieldNames(table), "main", otherFile), to);
+    run(handle, "COMMIT", to);
 }
 
 /// How the target of copyPages() is written. The engine writes a page at a time: in large ones years of sales
@@ -141,25 +142,25 @@ QStringList commonFields(const TableDefinition& table, const TableDefinition& co
     return names;
 }
 
-bool isWhole(sqlite3* connection, const QString& table, const QString& path)
+bool isWhole(sqlite3* handle, const QString& table, const QString& path)
 {
     PreparedStatement check(
-        connection, std::string("PRAGMA ") + otherFile + ".quick_check(" + quotedName(table) + ')', path);
+        handle, std::string("PRAGMA ") + otherFile + ".quick_check(" + quotedName(table) + ')', path);
     return check.step() && check.text(0) == u"ok"_s;
 }
 
 /// Takes the rows of one table over from the file at @p from. @return false when they are damaged there.
-bool rescueTable(sqlite3* connection, const TableDefinition& table, const QString& from)
+bool rescueTable(sqlite3* handle, const TableDefinition& table, const QString& from)
 {
-    run(connection, "BEGIN", from);
+    run(handle, "BEGIN", from);
     try {
-        const bool rescued = isWhole(connection, table.name, from);
+        const bool rescued = isWhole(handle, table.name, from);
         if (rescued)
-            run(connection, moveRows(table.name, fieldNames(table), otherFile, "main"), from);
-        run(connection, "COMMIT", from);
+            run(handle, moveRows(table.name, fieldNames(table), otherFile, "main"), from);
+        run(handle, "COMMIT", from);
         return rescued;
     } catch (const RuntimeFailure& failure) {
-        sqlite3_exec(connection, "ROLLBACK", nullptr, nullptr, nullptr);
+        sqlite3_exec(handle, "ROLLBACK", nullptr, nullptr, nullptr);
         if (failure.failure() == Failure::DiskFull)
             throw;
         return false;
@@ -175,12 +176,12 @@ QStringList rescueTables(const QString& to, const QVector<TableDefinition>& tabl
     if (!pathExists(from))
         return lost;
     auto target = openDatabaseFile(to);
-    sqlite3* const connection = target.getHandle();
+    sqlite3* const handle = target.getHandle();
     try {
-        const AttachedFile source(connection, existingPath(from));
-        const TriggersAtRest rest(connection);
+        const AttachedFile source(handle, existingPath(from));
+        const TriggersAtRest rest(handle);
         for (const auto& table : tables) {
-            if (rescueTable(connection, table, from))
+            if (rescueTable(handle, table, from))
                 lost.removeOne(table.name);
         }
     } catch (const RuntimeFailure& failure) {
@@ -227,9 +228,9 @@ void copyDatabase(const QString& from, const QString& to, CopyOf what)
 void restoreTables(Database& database, const QString& copy)
 {
     Database copied(copy);
-    sqlite3* const connection = database.d->connection();
-    const AttachedFile source(connection, existingPath(copy));
-    Transaction transaction(database);
+    sqlite3* const handle = connectionOf(database).handle();
+    const AttachedFile source(handle, existingPath(copy));
+    CommitOnExit transaction(database);
     try {
         for (const QString& name : copied.tableNames()) {
             if (!database.hasTable(name))
@@ -237,8 +238,8 @@ void restoreTables(Database& database, const QString& copy)
             const TableDefinition table = database.table(name);
             database.execute(u"delete * from [%1]"_s.arg(table.name));
             // Emptying dropped the totals of months too: nothing is left for the triggers to do.
-            const TriggersAtRest rest(connection);
-            run(connection, moveRows(table.name, commonFields(table, copied.table(name)), otherFile, "main"),
+            const TriggersAtRest rest(handle);
+            run(handle, moveRows(table.name, commonFields(table, copied.table(name)), otherFile, "main"),
                 copy);
         }
     } catch (const RuntimeFailure&) {

@@ -4,7 +4,9 @@
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/Catalogue.h"
 #include "store/catalogue/SalesTables.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
+#include "store/engine/ShortWait.h"
 
 #include <array>
 #include <functional>
@@ -132,7 +134,7 @@ void UpgradeDatabase(const QString& path)
             return;
         // Work done before a failure is kept, but a power cut in between leaves the old layout: a partly
         // upgraded layout would never be completed by a later start.
-        const Transaction transaction(database);
+        const CommitOnExit transaction(database);
         for (const Step& step : steps)
             run(database, step);
     });

@@ -1,6 +1,7 @@
 // Work that is stored wholly or leaves everything as it was.
 #pragma once
 
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 
 #include <QScopeGuard>
@@ -17,7 +18,7 @@ namespace norvane::store
 template <typename Work>
 void allOrNothing(Database& database, Work&& work)
 {
-    Transaction transaction(database);
+    CommitOnExit transaction(database);
     auto putBack = qScopeGuard([&transaction] { transaction.rollBack(); });
     std::forward<Work>(work)();
     putBack.dismiss();

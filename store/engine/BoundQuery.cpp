@@ -2,7 +2,7 @@
 #include "store/engine/BoundQuery.h"
 
 #include "platform/RuntimeFailure.h"
-#include "store/engine/DatabasePrivate.h"
+#include "store/engine/Connection.h"
 #include "store/engine/PreparedStatement.h"
 
 #include <sqlite3.h>
@@ -30,8 +30,8 @@ std::int64_t now()
 
 BoundQuery::BoundQuery(Database& database, const std::string& sql, std::vector<Value> values,
                        const QString& what, KeepGoing keepGoing)
-    : m_database(database), m_values(std::move(values)), m_keepGoing(std::move(keepGoing)),
-      m_statement(std::make_unique<PreparedStatement>(database.d->connection(), sql, what)), m_askedAt(now())
+    : m_connection(connectionOf(database)), m_values(std::move(values)), m_keepGoing(std::move(keepGoing)),
+      m_statement(std::make_unique<PreparedStatement>(m_connection.handle(), sql, what)), m_askedAt(now())
 {
     if (!m_statement->onlyReads()) {
         throw RuntimeFailure(Failure::UnknownNameInQuery,
@@ -44,13 +44,13 @@ BoundQuery::BoundQuery(Database& database, const std::string& sql, std::vector<V
         const auto handler = [](void* query) {
             return static_cast<BoundQuery*>(query)->mayGoOn() ? 0 : 1;
         };
-        sqlite3_progress_handler(m_database.d->connection(), stepsBetweenLooks, handler, this);
+        sqlite3_progress_handler(m_connection.handle(), stepsBetweenLooks, handler, this);
     }
 }
 
 BoundQuery::~BoundQuery()
 {
-    sqlite3_progress_handler(m_database.d->connection(), 0, nullptr, nullptr);
+    sqlite3_progress_handler(m_connection.handle(), 0, nullptr, nullptr);
 }
 
 bool BoundQuery::mayGoOn() noexcept

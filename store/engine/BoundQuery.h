@@ -47,7 +47,7 @@ public:
 private:
     bool mayGoOn() noexcept;
 
-    Database& m_database;
+    Connection& m_connection;
     std::vector<Value> m_values;
     KeepGoing m_keepGoing;
     std::unique_ptr<PreparedStatement> m_statement;

@@ -1,10 +1,10 @@
-// The open database: its connection, the shapes of its tables, statements; see Database.h.
+// Statements and definitions of an open database; see Database.h.
 #include "store/engine/Database.h"
 
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
+#include "store/engine/Connection.h"
 #include "store/engine/DatabaseFile.h"
-#include "store/engine/DatabasePrivate.h"
 #include "store/engine/PreparedStatement.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/RecordsetPrivate.h"
@@ -35,10 +35,10 @@ namespace
 }
 
 /// The tables that the triggers of @p table keep right, as far as the file has them.
-QStringList tablesOfTriggers(sqlite3* connection, const QString& table)
+QStringList tablesOfTriggers(sqlite3* handle, const QString& table)
 {
     QStringList names{addedMonthsName(table), monthTotalsName(table), dayDigestsName(table)};
-    names.removeIf([&](const QString& each) { return !Schema(connection).declarationOf(each); });
+    names.removeIf([&](const QString& each) { return !Schema(handle).declarationOf(each); });
     return names;
 }
 
@@ -49,37 +49,12 @@ QString engineVersion()
     return QString::fromLatin1(sqlite3_libversion());
 }
 
-Database::Private::Private(const QString& path)
-    : m_path(existingPath(path)), m_connection(openDatabaseFile(m_path))
+Connection& connectionOf(Database& database)
 {
+    return *database.m_connection;
 }
 
-std::shared_ptr<const TableShape> Database::Private::findShape(const QString& table)
-{
-    auto& shape = m_shapes[table.toCaseFolded()];
-    if (!shape) {
-        if (auto definition = Schema(connection()).read(table))
-            shape = std::make_shared<const TableShape>(std::move(*definition));
-    }
-    return shape;
-}
-
-std::shared_ptr<const TableShape> Database::Private::shape(const QString& table)
-{
-    auto shape = findShape(table);
-    if (!shape) {
-        throw RuntimeFailure(Failure::UnknownName,
-                             u"Item not found: %1 has no table %2."_s.arg(m_path, table));
-    }
-    return shape;
-}
-
-std::int64_t Database::Private::changes() const
-{
-    return sqlite3_total_changes64(connection());
-}
-
-Database::Database(const QString& path) : d(std::make_unique<Private>(path)) {}
+Database::Database(const QString& path) : m_connection(std::make_unique<Connection>(path)) {}
 Database::~Database() = default;
 
 void Database::create(const QString& path, const QVector<TableDefinition>& tables)
@@ -89,18 +64,18 @@ void Database::create(const QString& path, const QVector<TableDefinition>& table
 
 Recordset Database::openTable(const QString& table)
 {
-    return Recordset(std::make_unique<Recordset::Private>(*d, d->shape(table)));
+    return Recordset(std::make_unique<Recordset::Private>(*m_connection, m_connection->shape(table)));
 }
 
 Recordset Database::openQuery(const QString& sql)
 {
     const QString table = loneTableName(sql);
     if (!table.isEmpty()) {
-        if (auto shape = d->findShape(table))
-            return Recordset(std::make_unique<Recordset::Private>(*d, std::move(shape)));
+        if (auto shape = m_connection->findShape(table))
+            return Recordset(std::make_unique<Recordset::Private>(*m_connection, std::move(shape)));
         failQuery(sql);
     }
-    return Recordset(std::make_unique<Recordset::Private>(*d, sql));
+    return Recordset(std::make_unique<Recordset::Private>(*m_connection, sql));
 }
 
 qint64 Database::execute(const QString& sql)
@@ -108,21 +83,21 @@ qint64 Database::execute(const QString& sql)
     const auto translated = translateSql(sql);
     if (!translated.changesRecords)
         failQuery(sql);
-    PreparedStatement statement(d->connection(), translated.sql.toStdString(), sql);
-    const auto emptied = d->findShape(translated.deletesFrom);
+    PreparedStatement statement(m_connection->handle(), translated.sql.toStdString(), sql);
+    const auto emptied = m_connection->findShape(translated.deletesFrom);
     if (!emptied)
         return statement.run();
-    Savepoint savepoint(d->connection());
-    retireAllRowIds(*d, *emptied);
+    Savepoint savepoint(m_connection->handle());
+    retireAllRowIds(*m_connection, *emptied);
     // Without the triggers of a table the engine frees its pages as a whole. With them it would visit every
     // row: ten years of sales would take minutes instead of seconds.
     std::optional<TriggersAtRest> rest;
-    if (const auto kept = tablesOfTriggers(d->connection(), emptied->name());
+    if (const auto kept = tablesOfTriggers(m_connection->handle(), emptied->name());
         translated.deletesAll && !kept.isEmpty()) {
-        rest.emplace(d->connection());
+        rest.emplace(m_connection->handle());
         // Does the triggers' work for all rows together.
         for (const QString& each : kept)
-            PreparedStatement(d->connection(), "DELETE FROM " + quotedName(each), each).run();
+            PreparedStatement(m_connection->handle(), "DELETE FROM " + quotedName(each), each).run();
     }
     const qint64 touched = statement.run();
     savepoint.keep();
@@ -131,48 +106,48 @@ qint64 Database::execute(const QString& sql)
 
 QStringList Database::tableNames() const
 {
-    return Schema(d->connection()).tableNames();
+    return Schema(m_connection->handle()).tableNames();
 }
 
 bool Database::hasTable(const QString& table) const
 {
-    return d->findShape(table) != nullptr;
+    return m_connection->findShape(table) != nullptr;
 }
 
 TableDefinition Database::table(const QString& table) const
 {
-    return d->shape(table)->definition();
+    return m_connection->shape(table)->definition();
 }
 
 void Database::addTable(const TableDefinition& table)
 {
     if (hasTable(table.name))
         failExists(Failure::TableExists, u"Table %1"_s.arg(table.name));
-    Schema(d->connection()).addTable(table);
-    d->forgetShapes();
+    Schema(m_connection->handle()).addTable(table);
+    m_connection->forgetShapes();
 }
 
 void Database::addField(const QString& table, const FieldDefinition& field)
 {
-    const auto shape = d->shape(table);
+    const auto shape = m_connection->shape(table);
     if (fieldNamed(shape->definition(), field.name) != nullptr) {
         failExists(Failure::FieldExists, u"Field %1 of table %2"_s.arg(field.name, shape->name()));
     }
-    Schema(d->connection()).addField(shape->definition(), field);
-    d->forgetShapes();
+    Schema(m_connection->handle()).addField(shape->definition(), field);
+    m_connection->forgetShapes();
 }
 
 void Database::complete(const QVector<TableDefinition>& tables)
 {
-    Schema schema(d->connection());
+    Schema schema(m_connection->handle());
     for (const auto& table : tables)
         schema.completeTable(table);
-    d->forgetShapes();
+    m_connection->forgetShapes();
 }
 
 void Database::refresh()
 {
-    d->forgetShapes();
+    m_connection->forgetShapes();
 }
 
 } // namespace norvane::store

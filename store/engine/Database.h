@@ -1,4 +1,4 @@
-// One customer database file: tables and their definitions, statements, transactions.
+// One customer database file: tables and their definitions, recordsets and statements.
 #pragma once
 
 #include "store/engine/Definitions.h"
@@ -11,6 +11,7 @@
 namespace norvane::store
 {
 
+class Connection;
 class Recordset;
 
 /// The version of the engine, such as "3.40.1".
@@ -61,56 +62,9 @@ public:
     /// Reads the definitions again, after another connection may have changed them.
     void refresh();
 
-    class Private;
-
 private:
-    friend void restoreTables(Database& database, const QString& copy);
-    friend class MonthTotals;
-    friend class DayDigests;
-    friend class BoundQuery;
-    friend class Recordset;
-    friend class RowAppend;
-    friend class ShortWait;
-    friend class Transaction;
-    std::unique_ptr<Private> d;
-};
-
-/// During its lifetime, work on @p database waits less than half a second for a file locked by another
-/// program, and then fails with Failure::DatabaseLocked: a window must not freeze after a button was pressed.
-class ShortWait
-{
-public:
-    explicit ShortWait(Database& database);
-    ~ShortWait();
-    ShortWait(const ShortWait&) = delete;
-    ShortWait& operator=(const ShortWait&) = delete;
-
-private:
-    Database& m_database;
-};
-
-/// Bulk work in one transaction: commits when it goes out of scope, even on an exception, since work done
-/// before a failure is kept. Only a killed process or a power cut rolls back. Nesting is allowed: the
-/// outermost one counts.
-class Transaction
-{
-public:
-    explicit Transaction(Database& database);
-    ~Transaction();
-    Transaction(const Transaction&) = delete;
-    Transaction& operator=(const Transaction&) = delete;
-    /// Commits now and reports what goes wrong. @throws RuntimeFailure with Failure::DiskFull,
-    /// Failure::PathOrFileAccess, Failure::DatabaseLocked ...
-    void commit();
-    /// Restores everything to the start of the transaction; for the outermost one only. Recordsets opened
-    /// since then must be destroyed first.
-    void rollBack();
-    /// Whether there is work that commit() would keep. A full disk ends a transaction by itself.
-    [[nodiscard]] bool isOpen() const;
-
-private:
-    Database& m_database;
-    bool m_open = true;
+    friend Connection& connectionOf(Database& database);
+    std::unique_ptr<Connection> m_connection;
 };
 
 } // namespace norvane::store

@@ -53,19 +53,19 @@ QString shown(const QString& path)
 
 /// Reads through the engine's own file handle: closing a second handle would drop the locks that another
 /// connection of this process holds. Locks and writes nothing.
-Header readHeader(sqlite3* connection)
+Header readHeader(sqlite3* handle)
 {
     Header header{};
     sqlite3_file* file = nullptr;
-    sqlite3_file_control(connection, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    sqlite3_file_control(handle, "main", SQLITE_FCNTL_FILE_POINTER, &file);
     if (file && file->pMethods)
         file->pMethods->xRead(file, header.data(), static_cast<int>(header.size()), 0);
     return header;
 }
 
-void checkHeader(sqlite3* connection, const QString& path)
+void checkHeader(sqlite3* handle, const QString& path)
 {
-    const Header header = readHeader(connection);
+    const Header header = readHeader(handle);
     if (std::memcmp(header.data(), engineMark, sizeof engineMark) != 0) {
         failNotOurs(path,
                     "is not a database of this program, is damaged, or was made by a former version of it");
@@ -82,10 +82,10 @@ int compareInEngine(void*, int leftSize, const void* left, int rightSize, const 
                          {static_cast<const char*>(right), static_cast<std::size_t>(rightSize)});
 }
 
-void run(sqlite3* connection, const char* sql, const QString& path)
+void run(sqlite3* handle, const char* sql, const QString& path)
 {
-    if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-        failWithSqlite(connection, shown(path));
+    if (sqlite3_exec(handle, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+        failWithSqlite(handle, shown(path));
 }
 
 /// A commit returns once it is on the disk. Deleted rows are not overwritten: they hold no secrets, and every
@@ -98,15 +98,15 @@ constexpr const char* settings[] = {
 
 void prepareConnection(SQLite::Database& database, const QString& path)
 {
-    sqlite3* connection = database.getHandle();
-    sqlite3_extended_result_codes(connection, 1);
+    sqlite3* handle = database.getHandle();
+    sqlite3_extended_result_codes(handle, 1);
     // A double-quoted word is a name or a fault, never silently a text.
-    sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-    sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
-    sqlite3_create_collation_v2(connection, digitsCollation, SQLITE_UTF8, nullptr, compareInEngine, nullptr);
-    addExactSum(connection);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    sqlite3_create_collation_v2(handle, digitsCollation, SQLITE_UTF8, nullptr, compareInEngine, nullptr);
+    addExactSum(handle);
     for (const char* sql : settings)
-        run(connection, sql, path);
+        run(handle, sql, path);
 }
 
 /// The engine's count of its own memory is unused and takes a lock at every allocation. It can only be

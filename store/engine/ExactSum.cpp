@@ -97,12 +97,11 @@ void giveTotal(sqlite3_context* context) noexcept
 
 } // namespace
 
-void addExactSum(sqlite3* connection)
+void addExactSum(sqlite3* handle)
 {
     constexpr int options = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
-    sqlite3_create_function_v2(connection, "exact_sum", 1, options, nullptr, nullptr, addRow, giveText,
-                               nullptr);
-    sqlite3_create_function_v2(connection, "exact_total", 1, options, nullptr, nullptr, addRow, giveTotal,
+    sqlite3_create_function_v2(handle, "exact_sum", 1, options, nullptr, nullptr, addRow, giveText, nullptr);
+    sqlite3_create_function_v2(handle, "exact_total", 1, options, nullptr, nullptr, addRow, giveTotal,
                                nullptr);
 }
 

@@ -20,6 +20,6 @@ namespace norvane::store
 ///
 /// exact_total(x) is for totals that are stored and added again: the same, but a number without decimal
 /// places that fits 64 bits is returned as a whole number, which takes less room and time.
-void addExactSum(sqlite3* connection);
+void addExactSum(sqlite3* handle);
 
 } // namespace norvane::store

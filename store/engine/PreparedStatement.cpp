@@ -105,11 +105,11 @@ void PreparedStatement::Finalize::operator()(sqlite3_stmt* statement) const noex
     sqlite3_finalize(statement);
 }
 
-PreparedStatement::PreparedStatement(sqlite3* connection, const std::string& sql, QString what)
-    : m_connection(connection), m_what(std::move(what))
+PreparedStatement::PreparedStatement(sqlite3* handle, const std::string& sql, QString what)
+    : m_handle(handle), m_what(std::move(what))
 {
     sqlite3_stmt* statement = nullptr;
-    check(sqlite3_prepare_v3(connection, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
+    check(sqlite3_prepare_v3(handle, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
                              &statement, nullptr));
     m_statement.reset(statement);
     if (!statement) {
@@ -119,7 +119,7 @@ PreparedStatement::PreparedStatement(sqlite3* connection, const std::string& sql
 
 void PreparedStatement::fail()
 {
-    failWithSqlite(m_connection, m_what);
+    failWithSqlite(m_handle, m_what);
 }
 
 void PreparedStatement::check(int result)
@@ -187,7 +187,7 @@ qint64 PreparedStatement::run()
     // A statement is let run to its end: only then are all rows done.
     while (step()) {
     }
-    return sqlite3_changes64(m_connection);
+    return sqlite3_changes64(m_handle);
 }
 
 void PreparedStatement::read(int column, std::optional<FieldType> type, Value& value)

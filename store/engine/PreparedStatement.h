@@ -24,7 +24,7 @@ class PreparedStatement
 public:
     /// @p what names the table or query in failures. @throws RuntimeFailure with Failure::UnknownNameInQuery
     /// for a faulty statement.
-    PreparedStatement(sqlite3* connection, const std::string& sql, QString what);
+    PreparedStatement(sqlite3* handle, const std::string& sql, QString what);
 
     /// Parameters count from 1. A bound text must remain unchanged until the statement has run.
     void bind(int parameter, const Value& value);
@@ -66,7 +66,7 @@ private:
     void check(int result);
     void bindDay(int parameter, QDate day);
 
-    sqlite3* m_connection;
+    sqlite3* m_handle;
     QString m_what;
     std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
     QDate m_day; ///< the day bound last, and its text

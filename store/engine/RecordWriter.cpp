@@ -30,8 +30,8 @@ std::string insertedValue(const TableShape& shape, const FieldDefinition& field)
 
 } // namespace
 
-RecordWriter::RecordWriter(Database::Private& database, std::shared_ptr<const TableShape> shape)
-    : m_database(database), m_shape(std::move(shape))
+RecordWriter::RecordWriter(Connection& connection, std::shared_ptr<const TableShape> shape)
+    : m_connection(connection), m_shape(std::move(shape))
 {
     const auto& fields = m_shape->definition().fields;
     for (int i = 0; i < fields.size(); ++i) {
@@ -42,13 +42,13 @@ RecordWriter::RecordWriter(Database::Private& database, std::shared_ptr<const Ta
 
 std::unique_ptr<PreparedStatement> RecordWriter::prepare(const std::string& sql) const
 {
-    return std::make_unique<PreparedStatement>(m_database.connection(), sql,
-                                               u"%1, table %2."_s.arg(m_database.path(), m_shape->name()));
+    return std::make_unique<PreparedStatement>(m_connection.handle(), sql,
+                                               u"%1, table %2."_s.arg(m_connection.path(), m_shape->name()));
 }
 
 RecordWriter::Stage RecordWriter::stage() const
 {
-    return {m_database.transactionNumber(), m_database.retirements()};
+    return {m_connection.transactionNumber(), m_connection.retirements()};
 }
 
 std::string RecordWriter::insertSql(const std::string& rowId) const
@@ -79,7 +79,7 @@ PreparedStatement& RecordWriter::insertStatement()
     const bool follows = stage().transaction != 0 && stage() == m_added;
     auto& statement = follows ? m_insertBehind : m_insert;
     if (!statement)
-        statement = prepare(insertSql(follows ? std::string() : unusedRowId(m_database, *m_shape)));
+        statement = prepare(insertSql(follows ? std::string() : unusedRowId(m_connection, *m_shape)));
     return *statement;
 }
 
@@ -118,7 +118,7 @@ std::int64_t RecordWriter::insert(const std::vector<Value>& values)
         statement.bind(++parameter, value);
     statement.run();
     m_added = stage();
-    return sqlite3_last_insert_rowid(m_database.connection());
+    return sqlite3_last_insert_rowid(m_connection.handle());
 }
 
 void RecordWriter::update(std::int64_t rowId, const std::vector<Value>& before,
@@ -145,8 +145,8 @@ void RecordWriter::remove(std::int64_t rowId)
 {
     if (!m_remove)
         m_remove = prepare("DELETE FROM " + quotedName(m_shape->name()) + " WHERE _rowid_ = ?");
-    Savepoint savepoint(m_database.connection());
-    retireRowIds(m_database, *m_shape, rowId);
+    Savepoint savepoint(m_connection.handle());
+    retireRowIds(m_connection, *m_shape, rowId);
     m_remove->bind(1, rowId);
     if (m_remove->run() == 0)
         failGone();

@@ -1,7 +1,7 @@
 // Storing records: the statements that insert, change and delete one row.
 #pragma once
 
-#include "store/engine/DatabasePrivate.h"
+#include "store/engine/Connection.h"
 #include "store/engine/PreparedStatement.h"
 
 #include <map>
@@ -17,7 +17,7 @@ namespace norvane::store
 class RecordWriter
 {
 public:
-    RecordWriter(Database::Private& database, std::shared_ptr<const TableShape> shape);
+    RecordWriter(Connection& connection, std::shared_ptr<const TableShape> shape);
 
     /// @return the row id of the new row. @throws RuntimeFailure with Failure::DuplicateKey,
     /// Failure::RequiredFieldIsNull and what the engine reports.
@@ -47,7 +47,7 @@ private:
     void checkRequired(const std::vector<Value>& values) const;
     [[noreturn]] void failGone() const;
 
-    Database::Private& m_database;
+    Connection& m_connection;
     std::shared_ptr<const TableShape> m_shape;
     std::vector<int> m_required;
     std::unique_ptr<PreparedStatement> m_insert;

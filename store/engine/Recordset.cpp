@@ -21,19 +21,19 @@ struct Columns {
     bool plain = true; ///< every column is a field of that table under its own name
 };
 
-const FieldDefinition* originOf(Database::Private& database, const PreparedStatement& select, int column)
+const FieldDefinition* originOf(Connection& connection, const PreparedStatement& select, int column)
 {
-    const auto shape = database.findShape(select.originTable(column));
+    const auto shape = connection.findShape(select.originTable(column));
     const auto ordinal = shape ? shape->ordinal(select.originField(column)) : std::nullopt;
     // The shape lives on in the database's memory of it.
     return ordinal ? &shape->definition().fields.at(*ordinal) : nullptr;
 }
 
-Columns columnsOf(Database::Private& database, const PreparedStatement& select, const QString& query)
+Columns columnsOf(Connection& connection, const PreparedStatement& select, const QString& query)
 {
     Columns columns{{query, {}, {}}, {}, select.originTable(0)};
     for (int i = 0; i < select.columnCount(); ++i) {
-        const auto* origin = originOf(database, select, i);
+        const auto* origin = originOf(connection, select, i);
         FieldDefinition field = origin ? *origin : FieldDefinition{};
         columns.plain = columns.plain && origin && select.originTable(i) == columns.table &&
                         origin->name.compare(select.columnName(i), Qt::CaseInsensitive) == 0;
@@ -46,10 +46,10 @@ Columns columnsOf(Database::Private& database, const PreparedStatement& select, 
 
 } // namespace
 
-Recordset::Private::Private(Database::Private& database, std::shared_ptr<const TableShape> table)
-    : shape(std::move(table)), writer(std::make_unique<RecordWriter>(database, shape))
+Recordset::Private::Private(Connection& connection, std::shared_ptr<const TableShape> table)
+    : shape(std::move(table)), writer(std::make_unique<RecordWriter>(connection, shape))
 {
-    auto walk = std::make_unique<TableCursor>(database, shape);
+    auto walk = std::make_unique<TableCursor>(connection, shape);
     tableCursor = walk.get();
     cursor = std::move(walk);
     if (tableCursor->index())
@@ -57,26 +57,26 @@ Recordset::Private::Private(Database::Private& database, std::shared_ptr<const T
     moved(cursor->first(), Place::Empty);
 }
 
-Recordset::Private::Private(Database::Private& database, const QString& query)
+Recordset::Private::Private(Connection& connection, const QString& query)
 {
-    openRows(database, query);
+    openRows(connection, query);
     moved(cursor->first(), Place::Empty);
 }
 
-void Recordset::Private::openRows(Database::Private& database, const QString& query)
+void Recordset::Private::openRows(Connection& connection, const QString& query)
 {
     const auto sql = translateSql(query);
-    PreparedStatement select(database.connection(), sql.sql.toStdString(), query);
+    PreparedStatement select(connection.handle(), sql.sql.toStdString(), query);
     if (!select.onlyReads() || select.columnCount() == 0)
         throw RuntimeFailure(Failure::UnknownNameInQuery, u"No query: %1"_s.arg(query));
-    auto columns = columnsOf(database, select, query);
+    auto columns = columnsOf(connection, select, query);
     std::unique_ptr<ResultCursor> rows;
     if (columns.plain && !sql.withRowId.isEmpty()) {
         columns.definition.name = columns.table;
         shape = std::make_shared<const TableShape>(std::move(columns.definition));
-        PreparedStatement keys(database.connection(), sql.withRowId.toStdString(), query);
-        rows = std::make_unique<RowsOfTable>(database, keys, shape);
-        writer = std::make_unique<RecordWriter>(database, shape);
+        PreparedStatement keys(connection.handle(), sql.withRowId.toStdString(), query);
+        rows = std::make_unique<RowsOfTable>(connection, keys, shape);
+        writer = std::make_unique<RecordWriter>(connection, shape);
     } else {
         shape = std::make_shared<const TableShape>(std::move(columns.definition));
         rows = std::make_unique<ReadRows>(select, columns.types);

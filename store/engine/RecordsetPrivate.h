@@ -15,8 +15,8 @@ namespace norvane::store
 class Recordset::Private
 {
 public:
-    Private(Database::Private& database, std::shared_ptr<const TableShape> table);
-    Private(Database::Private& database, const QString& query);
+    Private(Connection& connection, std::shared_ptr<const TableShape> table);
+    Private(Connection& connection, const QString& query);
 
     enum class Place {
         OnRecord,
@@ -47,7 +47,7 @@ public:
     QString indexName;
 
 private:
-    void openRows(Database::Private& database, const QString& query);
+    void openRows(Connection& connection, const QString& query);
 };
 
 } // namespace norvane::store

@@ -65,10 +65,10 @@ const Row* ReadRows::load(qint64 position)
     return &m_rows.at(static_cast<std::size_t>(position));
 }
 
-RowsOfTable::RowsOfTable(Database::Private& database, PreparedStatement& select,
+RowsOfTable::RowsOfTable(Connection& connection, PreparedStatement& select,
                          std::shared_ptr<const TableShape> shape)
     : m_shape(std::move(shape)), m_fields(allOrdinals(*m_shape)),
-      m_byRowId(database.connection(), selectFields(*m_shape, m_fields) + " WHERE _rowid_ = ?1",
+      m_byRowId(connection.handle(), selectFields(*m_shape, m_fields) + " WHERE _rowid_ = ?1",
                 m_shape->name())
 {
     const StatementRun run(select);

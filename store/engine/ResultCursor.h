@@ -1,8 +1,8 @@
 // The rows of a query, known by their position from 0.
 #pragma once
 
+#include "store/engine/Connection.h"
 #include "store/engine/Cursor.h"
-#include "store/engine/DatabasePrivate.h"
 #include "store/engine/PreparedStatement.h"
 
 #include <memory>
@@ -60,8 +60,7 @@ class RowsOfTable : public ResultCursor
 {
 public:
     /// @p select gives the row id in its last column; @p shape has the chosen fields of the table.
-    RowsOfTable(Database::Private& database, PreparedStatement& select,
-                std::shared_ptr<const TableShape> shape);
+    RowsOfTable(Connection& connection, PreparedStatement& select, std::shared_ptr<const TableShape> shape);
     [[nodiscard]] qint64 count() override { return positions() - m_deleted; }
     void rowStored(const std::vector<Value>& values) override { m_current.values = values; }
     void rowDeleted() override;

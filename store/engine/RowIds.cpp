@@ -12,14 +12,14 @@ namespace norvane::store
 namespace
 {
 
-PreparedStatement statementOf(Database::Private& database, const TableShape& table, const std::string& sql)
+PreparedStatement statementOf(Connection& connection, const TableShape& table, const std::string& sql)
 {
-    return {database.connection(), sql, u"%1, table %2."_s.arg(database.path(), table.name())};
+    return {connection.handle(), sql, u"%1, table %2."_s.arg(connection.path(), table.name())};
 }
 
-void makeTable(Database::Private& database, const TableShape& table)
+void makeTable(Connection& connection, const TableShape& table)
 {
-    statementOf(database, table,
+    statementOf(connection, table,
                 "CREATE TABLE IF NOT EXISTS norvane_retired (table_name TEXT COLLATE NOCASE PRIMARY KEY, "
                 "last INTEGER) STRICT, WITHOUT ROWID")
         .run();
@@ -38,28 +38,28 @@ std::string highestRowId(const TableShape& table)
 
 } // namespace
 
-void retireRowIds(Database::Private& database, const TableShape& table, std::int64_t last)
+void retireRowIds(Connection& connection, const TableShape& table, std::int64_t last)
 {
-    makeTable(database, table);
+    makeTable(connection, table);
     // Only the highest of a table can be reused: the others need not be remembered.
-    auto insert = statementOf(database, table,
+    auto insert = statementOf(connection, table,
                               "INSERT INTO norvane_retired SELECT " + quotedText(table.name()) +
                                   ", highest FROM (" + highestRowId(table) +
                                   ") WHERE highest <= ? ON CONFLICT DO UPDATE SET last = MAX(last, "
                                   "excluded.last)");
     insert.bind(1, last);
     insert.run();
-    database.countRetirement();
+    connection.countRetirement();
 }
 
-void retireAllRowIds(Database::Private& database, const TableShape& table)
+void retireAllRowIds(Connection& connection, const TableShape& table)
 {
-    retireRowIds(database, table, std::numeric_limits<std::int64_t>::max());
+    retireRowIds(connection, table, std::numeric_limits<std::int64_t>::max());
 }
 
-std::string unusedRowId(Database::Private& database, const TableShape& table)
+std::string unusedRowId(Connection& connection, const TableShape& table)
 {
-    makeTable(database, table);
+    makeTable(connection, table);
     return "(SELECT 1 + MAX(COALESCE((SELECT last FROM norvane_retired WHERE table_name = " +
            quotedText(table.name()) + "), 0), COALESCE((" + highestRowId(table) + "), 0)))";
 }

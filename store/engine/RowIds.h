@@ -1,7 +1,7 @@
 // Row ids that are never given a second time.
 #pragma once
 
-#include "store/engine/DatabasePrivate.h"
+#include "store/engine/Connection.h"
 
 #include <cstdint>
 #include <string>
@@ -16,12 +16,12 @@ namespace norvane::store
 
 /// To be done before rows of @p table are deleted, in one go with the deletion. @p last is the highest of
 /// them. @throws RuntimeFailure as the engine reports.
-void retireRowIds(Database::Private& database, const TableShape& table, std::int64_t last);
+void retireRowIds(Connection& connection, const TableShape& table, std::int64_t last);
 /// The same before any number of rows are deleted.
-void retireAllRowIds(Database::Private& database, const TableShape& table);
+void retireAllRowIds(Connection& connection, const TableShape& table);
 
 /// The SQL of a row id that no row of @p table has or had before. @throws RuntimeFailure as the engine
 /// reports.
-[[nodiscard]] std::string unusedRowId(Database::Private& database, const TableShape& table);
+[[nodiscard]] std::string unusedRowId(Connection& connection, const TableShape& table);
 
 } // namespace norvane::store

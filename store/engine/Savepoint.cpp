@@ -9,8 +9,7 @@
 namespace norvane::store
 {
 
-Savepoint::Savepoint(sqlite3* connection)
-    : m_connection(connection), m_isOutermost(sqlite3_get_autocommit(connection) != 0)
+Savepoint::Savepoint(sqlite3* handle) : m_handle(handle), m_isOutermost(sqlite3_get_autocommit(handle) != 0)
 {
     run("SAVEPOINT steps");
 }
@@ -21,8 +20,8 @@ Savepoint::~Savepoint()
         return;
     // Releasing the outermost savepoint would commit once more. While another program reads, that waits and
     // fails again, and the file would remain locked.
-    sqlite3_exec(m_connection, m_isOutermost ? "ROLLBACK" : "ROLLBACK TO steps; RELEASE steps", nullptr,
-                 nullptr, nullptr);
+    sqlite3_exec(m_handle, m_isOutermost ? "ROLLBACK" : "ROLLBACK TO steps; RELEASE steps", nullptr, nullptr,
+                 nullptr);
 }
 
 void Savepoint::keep()
@@ -33,8 +32,8 @@ void Savepoint::keep()
 
 void Savepoint::run(const char* sql) const
 {
-    if (sqlite3_exec(m_connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-        failWithSqlite(m_connection, QString::fromUtf8(sqlite3_db_filename(m_connection, "main")));
+    if (sqlite3_exec(m_handle, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+        failWithSqlite(m_handle, QString::fromUtf8(sqlite3_db_filename(m_handle, "main")));
 }
 
 } // namespace norvane::store

@@ -11,7 +11,7 @@ class Savepoint
 {
 public:
     /// @throws RuntimeFailure as the engine reports.
-    explicit Savepoint(sqlite3* connection);
+    explicit Savepoint(sqlite3* handle);
     ~Savepoint();
     Savepoint(const Savepoint&) = delete;
     Savepoint& operator=(const Savepoint&) = delete;
@@ -21,7 +21,7 @@ public:
 private:
     void run(const char* sql) const;
 
-    sqlite3* m_connection;
+    sqlite3* m_handle;
     bool m_isOutermost; ///< keeping it commits
     bool m_kept = false;
 };

@@ -155,7 +155,7 @@ const IndexDefinition* TableShape::index(const QString& name) const
 
 void Schema::run(const std::string& sql, const QString& what)
 {
-    PreparedStatement(m_connection, sql, what).run();
+    PreparedStatement(m_handle, sql, what).run();
 }
 
 void Schema::prepareFile()
@@ -170,7 +170,7 @@ void Schema::prepareFile()
 QStringList Schema::tableNames() const
 {
     QStringList names;
-    PreparedStatement select(m_connection, "SELECT table_name FROM norvane_field WHERE ordinal = 0",
+    PreparedStatement select(m_handle, "SELECT table_name FROM norvane_field WHERE ordinal = 0",
                              u"Definitions."_s);
     while (select.step())
         names.append(select.text(0));
@@ -179,7 +179,7 @@ QStringList Schema::tableNames() const
 
 QVector<FieldDefinition> Schema::readFields(const QString& table, QString& storedName) const
 {
-    PreparedStatement select(m_connection,
+    PreparedStatement select(m_handle,
                              "SELECT table_name, name, type, size, default_text, required FROM norvane_field "
                              "WHERE table_name = ? ORDER BY ordinal",
                              u"Definitions."_s);
@@ -197,7 +197,7 @@ QVector<FieldDefinition> Schema::readFields(const QString& table, QString& store
 
 QVector<IndexDefinition> Schema::readIndexes(const QString& table) const
 {
-    PreparedStatement select(m_connection,
+    PreparedStatement select(m_handle,
                              "SELECT number, name, field, is_unique FROM norvane_index WHERE table_name = ? "
                              "ORDER BY number, name_number",
                              u"Definitions."_s);
@@ -224,7 +224,7 @@ std::optional<TableDefinition> Schema::read(const QString& table) const
 
 void Schema::writeField(const QString& table, int ordinal, const FieldDefinition& field)
 {
-    PreparedStatement insert(m_connection, "INSERT INTO norvane_field VALUES (?, ?, ?, ?, ?, ?, ?)",
+    PreparedStatement insert(m_handle, "INSERT INTO norvane_field VALUES (?, ?, ?, ?, ?, ?, ?)",
                              u"Definitions."_s);
     const Value values[] = {Value::text(table),
                             Value::whole(ordinal),
@@ -240,7 +240,7 @@ void Schema::writeField(const QString& table, int ordinal, const FieldDefinition
 
 void Schema::writeIndex(const QString& table, int number, const IndexDefinition& index)
 {
-    PreparedStatement insert(m_connection, "INSERT INTO norvane_index VALUES (?, ?, ?, ?, ?, ?)",
+    PreparedStatement insert(m_handle, "INSERT INTO norvane_index VALUES (?, ?, ?, ?, ?, ?)",
                              u"Definitions."_s);
     for (int i = 0; i < index.names.size(); ++i) {
         const Value values[] = {Value::text(table),       Value::whole(number),
@@ -254,7 +254,7 @@ void Schema::writeIndex(const QString& table, int number, const IndexDefinition&
 
 void Schema::addTable(const TableDefinition& table)
 {
-    Savepoint savepoint(m_connection);
+    Savepoint savepoint(m_handle);
     const QString what = u"Table %1."_s.arg(table.name);
     run(tableDeclaration(table), what);
     for (int i = 0; i < table.fields.size(); ++i)
@@ -269,7 +269,7 @@ void Schema::addTable(const TableDefinition& table)
 
 std::optional<QString> Schema::declarationOf(const QString& name) const
 {
-    PreparedStatement select(m_connection, "SELECT sql FROM sqlite_schema WHERE name = ? COLLATE NOCASE",
+    PreparedStatement select(m_handle, "SELECT sql FROM sqlite_schema WHERE name = ? COLLATE NOCASE",
                              u"Definitions."_s);
     const Value key = Value::text(name);
     select.bind(1, key);
@@ -309,7 +309,7 @@ void Schema::addCompanions(const TableDefinition& table)
 
 void Schema::makeAnew(const std::vector<Companion>& companions)
 {
-    Savepoint savepoint(m_connection);
+    Savepoint savepoint(m_handle);
     for (const Companion& each : companions)
         run(std::string("DROP ") + dropWord(each.kind) + " IF EXISTS " + quotedName(each.name), each.name);
     for (const Companion& each : companions)
@@ -329,10 +329,10 @@ void Schema::widenFields(const TableDefinition& table)
 
 void Schema::widenField(const QString& table, const FieldDefinition& former, const FieldDefinition& wanted)
 {
-    Savepoint savepoint(m_connection);
+    Savepoint savepoint(m_handle);
     if (columnType(former) != columnType(wanted))
         replaceColumn(table, {former.name, wanted.type, wanted.size, {}, false});
-    PreparedStatement update(m_connection,
+    PreparedStatement update(m_handle,
                              "UPDATE norvane_field SET type = ?, size = ? WHERE table_name = ? AND name = ?",
                              u"Table %1."_s.arg(table));
     const Value values[] = {Value::text(std::string(rowOf(wanted.type).word)), Value::whole(wanted.size),
@@ -362,7 +362,7 @@ void Schema::replaceColumn(const QString& table, const FieldDefinition& field)
 
 void Schema::addField(const TableDefinition& table, const FieldDefinition& field)
 {
-    Savepoint savepoint(m_connection);
+    Savepoint savepoint(m_handle);
     // No default is declared, so that the rows that are there hold null.
     run("ALTER TABLE " + quotedName(table.name) + " ADD COLUMN " + columnDeclaration(field),
         u"Table %1."_s.arg(table.name));

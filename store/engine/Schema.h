@@ -43,7 +43,7 @@ private:
 class Schema
 {
 public:
-    explicit Schema(sqlite3* connection) : m_connection(connection) {}
+    explicit Schema(sqlite3* handle) : m_handle(handle) {}
 
     /// Makes the two tables of definitions in an empty file.
     void prepareFile();
@@ -73,7 +73,7 @@ private:
     [[nodiscard]] QVector<FieldDefinition> readFields(const QString& table, QString& storedName) const;
     [[nodiscard]] QVector<IndexDefinition> readIndexes(const QString& table) const;
 
-    sqlite3* m_connection;
+    sqlite3* m_handle;
 };
 
 /// Marks a file as a database of ours in its header.

@@ -1,7 +1,8 @@
-// See ShortWait in Database.h.
-#include "store/engine/Database.h"
+// See ShortWait.h.
+#include "store/engine/ShortWait.h"
+
+#include "store/engine/Connection.h"
 #include "store/engine/DatabaseFile.h"
-#include "store/engine/DatabasePrivate.h"
 
 #include <sqlite3.h>
 
@@ -14,14 +15,14 @@ constexpr int shortMilliseconds = 400;
 
 } // namespace
 
-ShortWait::ShortWait(Database& database) : m_database(database)
+ShortWait::ShortWait(Database& database) : m_connection(connectionOf(database))
 {
-    sqlite3_busy_timeout(m_database.d->connection(), shortMilliseconds);
+    sqlite3_busy_timeout(m_connection.handle(), shortMilliseconds);
 }
 
 ShortWait::~ShortWait()
 {
-    sqlite3_busy_timeout(m_database.d->connection(), busyMilliseconds);
+    sqlite3_busy_timeout(m_connection.handle(), busyMilliseconds);
 }
 
 } // namespace norvane::store

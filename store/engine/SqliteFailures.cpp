@@ -46,13 +46,13 @@ constexpr Meaning meanings[] = {
 
 } // namespace
 
-void failWithSqlite(sqlite3* connection, const QString& what)
+void failWithSqlite(sqlite3* handle, const QString& what)
 {
     constexpr auto missing = "no such table: "_L1;
-    const QString words = QString::fromUtf8(sqlite3_errmsg(connection));
+    const QString words = QString::fromUtf8(sqlite3_errmsg(handle));
     if (words.startsWith(missing))
         failMissing(words.mid(missing.size()), what);
-    const int code = sqlite3_extended_errcode(connection);
+    const int code = sqlite3_extended_errcode(handle);
     const auto* meaning = std::find_if(std::begin(meanings), std::end(meanings), [code](const Meaning& row) {
         return row.code == code || row.code == (code & 0xFF);
     });

@@ -13,6 +13,6 @@ namespace norvane::store
 /// Failure::NotOurDatabase when damaged, Failure::DatabaseLocked when locked by another program,
 /// Failure::PathOrFileAccess when read only or not to be opened, Failure::DiskFull, Failure::DeviceIo,
 /// Failure::UnknownNameInQuery for a faulty statement, Failure::EngineFailure otherwise.
-[[noreturn]] void failWithSqlite(sqlite3* connection, const QString& what);
+[[noreturn]] void failWithSqlite(sqlite3* handle, const QString& what);
 
 } // namespace norvane::store

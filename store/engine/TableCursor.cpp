@@ -55,8 +55,8 @@ const std::array<TableCursor::AccessSql, TableCursor::AccessCount> TableCursor::
     /* ByRowId */ {" WHERE _rowid_ = ?2", " WHERE _rowid_ = ?2"},
 }};
 
-TableCursor::TableCursor(Database::Private& database, std::shared_ptr<const TableShape> shape)
-    : m_database(database), m_shape(std::move(shape))
+TableCursor::TableCursor(Connection& connection, std::shared_ptr<const TableShape> shape)
+    : m_connection(connection), m_shape(std::move(shape))
 {
     const auto& fields = m_shape->definition().fields;
     const auto counter = std::find_if(fields.cbegin(), fields.cend(), [](const FieldDefinition& field) {
@@ -90,7 +90,7 @@ PreparedStatement& TableCursor::statement(Access access)
             selectFields(*m_shape, m_fields) +
             (m_index ? withKeyName(words.withKey, quotedName(m_index->field)) : words.withoutKey);
         statement = std::make_unique<PreparedStatement>(
-            m_database.connection(), sql, u"%1, table %2."_s.arg(m_database.path(), m_shape->name()));
+            m_connection.handle(), sql, u"%1, table %2."_s.arg(m_connection.path(), m_shape->name()));
     }
     return *statement;
 }
@@ -143,8 +143,8 @@ const Value& TableCursor::placeKey() const
 
 void TableCursor::stampNow()
 {
-    m_stamp.changes = m_database.changes();
-    m_stamp.transaction = m_database.transactionNumber();
+    m_stamp.changes = m_connection.changes();
+    m_stamp.transaction = m_connection.transactionNumber();
     // Inside a transaction the time does not count, and an import would ask for it at every row.
     if (m_stamp.transaction == 0)
         m_stamp.time = std::chrono::steady_clock::now();
@@ -152,10 +152,10 @@ void TableCursor::stampNow()
 
 bool TableCursor::isFresh() const
 {
-    if (m_filled == 0 || m_stamp.changes != m_database.changes())
+    if (m_filled == 0 || m_stamp.changes != m_connection.changes())
         return false;
     // Inside a transaction no other connection can store.
-    const auto transaction = m_database.transactionNumber();
+    const auto transaction = m_connection.transactionNumber();
     if (transaction != 0)
         return transaction == m_stamp.transaction;
     return std::chrono::steady_clock::now() - m_stamp.time < freshTime;
@@ -210,7 +210,7 @@ bool TableCursor::seek(Seek comparison, const Value& key)
 
 qint64 TableCursor::count()
 {
-    PreparedStatement select(m_database.connection(), "SELECT count(*) FROM " + quotedName(m_shape->name()),
+    PreparedStatement select(m_connection.handle(), "SELECT count(*) FROM " + quotedName(m_shape->name()),
                              m_shape->name());
     select.step();
     return select.whole(0);
@@ -218,14 +218,14 @@ qint64 TableCursor::count()
 
 bool TableCursor::reread()
 {
-    const bool mineAlone = m_database.transactionNumber() != 0;
+    const bool mineAlone = m_connection.transactionNumber() != 0;
     return (mineAlone && isFresh()) || read(ByRowId, {}, row().rowId);
 }
 
 /// The rows read ahead remain valid if this recordset's change to one row is the only change since.
 void TableCursor::keepReadAhead()
 {
-    if (m_stamp.changes + 1 == m_database.changes())
+    if (m_stamp.changes + 1 == m_connection.changes())
         ++m_stamp.changes;
 }
 

@@ -1,8 +1,8 @@
 // A walk over a table in the order of an index.
 #pragma once
 
+#include "store/engine/Connection.h"
 #include "store/engine/Cursor.h"
-#include "store/engine/DatabasePrivate.h"
 #include "store/engine/PreparedStatement.h"
 #include "store/engine/Recordset.h"
 
@@ -24,7 +24,7 @@ namespace norvane::store
 class TableCursor : public Cursor
 {
 public:
-    TableCursor(Database::Private& database, std::shared_ptr<const TableShape> shape);
+    TableCursor(Connection& connection, std::shared_ptr<const TableShape> shape);
 
     /// Chooses the order; nullptr for the order in which records were added. The place is lost.
     void setIndex(const IndexDefinition* index);
@@ -86,7 +86,7 @@ private:
     void keepReadAhead();
     void stampNow();
 
-    Database::Private& m_database;
+    Connection& m_connection;
     std::shared_ptr<const TableShape> m_shape;
     const IndexDefinition* m_index = nullptr;
     int m_keyOrdinal = -1;

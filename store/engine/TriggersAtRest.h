@@ -11,15 +11,15 @@ namespace norvane::store
 class TriggersAtRest
 {
 public:
-    explicit TriggersAtRest(sqlite3* connection) : m_connection(connection) { set(0); }
+    explicit TriggersAtRest(sqlite3* handle) : m_handle(handle) { set(0); }
     ~TriggersAtRest() { set(1); }
     TriggersAtRest(const TriggersAtRest&) = delete;
     TriggersAtRest& operator=(const TriggersAtRest&) = delete;
 
 private:
-    void set(int work) { sqlite3_db_config(m_connection, SQLITE_DBCONFIG_ENABLE_TRIGGER, work, nullptr); }
+    void set(int work) { sqlite3_db_config(m_handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, work, nullptr); }
 
-    sqlite3* m_connection;
+    sqlite3* m_handle;
 };
 
 } // namespace norvane::store

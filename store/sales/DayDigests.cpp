@@ -3,7 +3,7 @@
 
 #include "store/catalogue/Catalogue.h"
 #include "store/engine/Companions.h"
-#include "store/engine/DatabasePrivate.h"
+#include "store/engine/Connection.h"
 #include "store/engine/PreparedStatement.h"
 #include "store/engine/Savepoint.h"
 
@@ -12,21 +12,21 @@ namespace norvane::store
 namespace
 {
 
-bool hasRoom(sqlite3* connection, TableDefinition standing)
+bool hasRoom(sqlite3* handle, TableDefinition standing)
 {
     const TableDefinition* known = catalogueTable(standing.name);
     if (known == nullptr || known->searchedField.isEmpty())
         return false;
     standing.name = known->name;
     standing.searchedField = known->searchedField;
-    return Schema(connection).hasAll(dayCompanionsOf(standing));
+    return Schema(handle).hasAll(dayCompanionsOf(standing));
 }
 
 } // namespace
 
 DayDigests::DayDigests(Database& database, const QString& table)
-    : m_database(*database.d), m_table(database.table(table).name),
-      m_available(hasRoom(m_database.connection(), database.table(table)))
+    : m_connection(connectionOf(database)), m_table(database.table(table).name),
+      m_available(hasRoom(m_connection.handle(), database.table(table)))
 {
 }
 
@@ -35,7 +35,7 @@ std::map<QDate, std::string> DayDigests::standing() const
     std::map<QDate, std::string> digests;
     if (!m_available)
         return digests;
-    PreparedStatement select(m_database.connection(),
+    PreparedStatement select(m_connection.handle(),
                              "SELECT day, digest FROM " + quotedName(dayDigestsName(m_table)), m_table);
     while (select.step()) {
         if (const QDate day = QDate::fromString(select.text(0), Qt::ISODate); day.isValid())
@@ -48,9 +48,9 @@ void DayDigests::keep(const std::map<QDate, std::string>& digests)
 {
     if (!m_available || digests.empty())
         return;
-    Savepoint savepoint(m_database.connection());
+    Savepoint savepoint(m_connection.handle());
     PreparedStatement insert(
-        m_database.connection(),
+        m_connection.handle(),
         "INSERT OR REPLACE INTO " + quotedName(dayDigestsName(m_table)) + " VALUES (?1, ?2)", m_table);
     for (const auto& [day, digest] : digests) {
         const Value values[] = {Value::date(day), Value::text(digest)};
@@ -64,7 +64,8 @@ void DayDigests::keep(const std::map<QDate, std::string>& digests)
 
 std::int64_t DayDigests::changesByOthers(Database& database)
 {
-    PreparedStatement version(database.d->connection(), "PRAGMA data_version", database.d->path());
+    PreparedStatement version(connectionOf(database).handle(), "PRAGMA data_version",
+                              connectionOf(database).path());
     return version.step() ? version.whole(0) : 0;
 }
 

@@ -33,7 +33,7 @@ public:
     [[nodiscard]] static std::int64_t changesByOthers(Database& database);
 
 private:
-    Database::Private& m_database;
+    Connection& m_connection;
     QString m_table;
     bool m_available;
 };

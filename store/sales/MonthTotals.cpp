@@ -4,8 +4,8 @@
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/Catalogue.h"
 #include "store/engine/Companions.h"
+#include "store/engine/Connection.h"
 #include "store/engine/Database.h"
-#include "store/engine/DatabasePrivate.h"
 #include "store/engine/PreparedStatement.h"
 #include "store/engine/Savepoint.h"
 
@@ -73,9 +73,9 @@ std::string groupWords(const FieldDefinition& field)
     return quotedName(field.name) + (field.type == FieldType::Text ? " COLLATE BINARY" : "");
 }
 
-void run(sqlite3* connection, const std::string& sql, const QString& table, const std::vector<Value>& values)
+void run(sqlite3* handle, const std::string& sql, const QString& table, const std::vector<Value>& values)
 {
-    PreparedStatement statement(connection, sql, table);
+    PreparedStatement statement(handle, sql, table);
     for (int i = 0; i < static_cast<int>(values.size()); ++i)
         statement.bind(i + 1, values[static_cast<std::size_t>(i)]);
     statement.run();
@@ -121,8 +121,8 @@ TableDefinition salesTable(const TableDefinition& standing)
 } // namespace
 
 MonthTotals::MonthTotals(Database& database, const QString& table)
-    : m_database(*database.d), m_table(salesTable(database.table(table))),
-      m_available(Schema(m_database.connection()).hasAll(monthCompanionsOf(m_table)))
+    : m_connection(connectionOf(database)), m_table(salesTable(database.table(table))),
+      m_available(Schema(m_connection.handle()).hasAll(monthCompanionsOf(m_table)))
 {
 }
 
@@ -131,7 +131,7 @@ QVector<QDate> MonthTotals::missing(const DayRange& days, QDate today) const
     if (!m_available)
         return {};
     PreparedStatement isMissing(
-        m_database.connection(),
+        m_connection.handle(),
         "SELECT NOT EXISTS (SELECT 1 FROM " + quotedName(addedMonthsName(m_table.name)) +
             " WHERE month = ?1) AND EXISTS (SELECT 1 FROM " + quotedName(m_table.name) + " WHERE " +
             quotedName(m_table.searchedField) + " BETWEEN ?2 AND ?3)",
@@ -149,18 +149,18 @@ QVector<QDate> MonthTotals::missing(const DayRange& days, QDate today) const
 
 void MonthTotals::addUp(QDate month)
 {
-    sqlite3* connection = m_database.connection();
+    sqlite3* handle = m_connection.handle();
     const std::string months = quotedName(addedMonthsName(m_table.name));
     const std::string totals = quotedName(monthTotalsName(m_table.name));
     const std::string day = quotedName(m_table.searchedField);
-    Savepoint savepoint(connection);
-    run(connection, "DELETE FROM " + months + " WHERE month = ?", m_table.name, {monthValue(month)});
-    run(connection,
+    Savepoint savepoint(handle);
+    run(handle, "DELETE FROM " + months + " WHERE month = ?", m_table.name, {monthValue(month)});
+    run(handle,
         "INSERT INTO " + totals + " SELECT " + joined(m_table.fields, totalOf) + " FROM " +
             quotedName(m_table.name) + " WHERE " + day + " BETWEEN ?1 AND ?2 GROUP BY " +
             joined(m_table.fields, groupWords),
         m_table.name, {dayValue(month), dayValue(lastOfMonth(month))});
-    run(connection, "INSERT INTO " + months + " VALUES (?)", m_table.name, {monthValue(month)});
+    run(handle, "INSERT INTO " + months + " VALUES (?)", m_table.name, {monthValue(month)});
     savepoint.keep();
 }
 

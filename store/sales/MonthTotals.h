@@ -52,7 +52,7 @@ public:
     [[nodiscard]] QString rows(const DayRange& days, const QStringList& fields = {}) const;
 
 private:
-    Database::Private& m_database;
+    Connection& m_connection;
     TableDefinition m_table;
     bool m_available;
 };

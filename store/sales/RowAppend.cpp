@@ -3,23 +3,23 @@
 
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/SalesTables.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Companions.h"
-#include "store/engine/DatabasePrivate.h"
+#include "store/engine/Connection.h"
 #include "store/engine/PreparedStatement.h"
 #include "store/engine/TriggersAtRest.h"
 
 namespace norvane::store
 {
 
-RowAppend::RowAppend(Database& database, const Transaction&, const QString& table)
-    : m_database(*database.d), m_table(m_database.shape(table)->name())
+RowAppend::RowAppend(Database& database, const CommitOnExit&, const QString& table)
+    : m_connection(connectionOf(database)), m_table(m_connection.shape(table)->name())
 {
-    if (!Schema(m_database.connection()).declarationOf(addedMonthsName(m_table)))
+    if (!Schema(m_connection.handle()).declarationOf(addedMonthsName(m_table)))
         return;
-    PreparedStatement last(m_database.connection(), "SELECT max(_rowid_) FROM " + quotedName(m_table),
-                           m_table);
+    PreparedStatement last(m_connection.handle(), "SELECT max(_rowid_) FROM " + quotedName(m_table), m_table);
     m_lastRow = last.step() ? last.whole(0) : 0;
-    m_rest = std::make_unique<TriggersAtRest>(m_database.connection());
+    m_rest = std::make_unique<TriggersAtRest>(m_connection.handle());
 }
 
 RowAppend::~RowAppend()
@@ -30,7 +30,7 @@ RowAppend::~RowAppend()
     try {
         dropKept();
     } catch (const RuntimeFailure&) {
-        m_database.rollBackQuietly();
+        m_connection.rollBackQuietly();
     }
 }
 
@@ -39,9 +39,9 @@ RowAppend::~RowAppend()
 /// days, which is as long as the table.
 void RowAppend::dropKept()
 {
-    sqlite3* const connection = m_database.connection();
+    sqlite3* const handle = m_connection.handle();
     const std::string day = quotedName(QLatin1StringView(salestable::day));
-    PreparedStatement days(connection,
+    PreparedStatement days(handle,
                            "SELECT min(+" + day + "), max(+" + day + ") FROM " + quotedName(m_table) +
                                " WHERE _rowid_ > ?1",
                            m_table);
@@ -53,13 +53,13 @@ void RowAppend::dropKept()
     const QString last = days.text(1);
     days.reset();
     dropBetween(addedMonthsName(m_table), "month", first.left(lengthOfMonth), last.left(lengthOfMonth));
-    if (Schema(connection).declarationOf(dayDigestsName(m_table)))
+    if (Schema(handle).declarationOf(dayDigestsName(m_table)))
         dropBetween(dayDigestsName(m_table), "day", first, last);
 }
 
 void RowAppend::dropBetween(const QString& table, const char* key, const QString& first, const QString& last)
 {
-    PreparedStatement drop(m_database.connection(),
+    PreparedStatement drop(m_connection.handle(),
                            "DELETE FROM " + quotedName(table) + " WHERE " + key + " BETWEEN ?1 AND ?2",
                            table);
     const Value range[] = {Value::text(first), Value::text(last)};

@@ -1,6 +1,7 @@
 // Adds many rows to a sales table in one operation.
 #pragma once
 
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 
 #include <cstdint>
@@ -20,7 +21,7 @@ class RowAppend
 public:
     /// @p open is the transaction around it, which must outlive it. @throws RuntimeFailure with
     /// Failure::UnknownName for an unknown table, and what the database reports.
-    RowAppend(Database& database, const Transaction& open, const QString& table);
+    RowAppend(Database& database, const CommitOnExit& open, const QString& table);
     /// If the totals cannot be dropped, the transaction is rolled back, and its commit reports it.
     ~RowAppend();
     RowAppend(const RowAppend&) = delete;
@@ -30,7 +31,7 @@ private:
     void dropKept();
     void dropBetween(const QString& table, const char* key, const QString& first, const QString& last);
 
-    Database::Private& m_database;
+    Connection& m_connection;
     QString m_table;
     std::int64_t m_lastRow = 0; ///< before the first that is added
     std::unique_ptr<TriggersAtRest> m_rest;

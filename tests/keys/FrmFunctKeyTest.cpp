@@ -1,6 +1,7 @@
 // The function key editor as a user works it, and the table afterwards.
 #include "keys/functions/FrmFunctKey.h"
 
+#include "store/engine/CommitOnExit.h"
 #include "tests/keys/KeyShop.h"
 #include "tests/support/FormTest.h"
 
@@ -15,7 +16,7 @@ protected:
     FrmFunctKeyTest()
     {
         const auto database = m_shop.open();
-        const store::Transaction all(*database);
+        const store::CommitOnExit all(*database);
         for (int id = 1; id <= 266; ++id) {
             const QString description = id == 21 ? u"Cheque"_s : u"KEY %1"_s.arg(267 - id);
             addRecord(*database, "FUNCTIONKEY",
@@ -205,7 +206,7 @@ TEST_F(FrmFunctKeyTest, EscapeAndTheCloseButtonAskAboutChanges)
     EXPECT_EQ(m_boxes.shown, std::vector{saveChanges});
     {
         const auto other = m_shop.open();
-        const store::Transaction held(*other);
+        const store::CommitOnExit held(*other);
         m_boxes.answers = {true};
         EXPECT_FALSE(m_form->close());
     }

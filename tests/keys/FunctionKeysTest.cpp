@@ -1,6 +1,7 @@
 // All function keys on all models, held against a list of what registers have (function_keys.txt).
 #include "keys/functions/FunctionKeys.h"
 
+#include "store/engine/CommitOnExit.h"
 #include "tests/keys/KeyShop.h"
 
 #include <QMap>
@@ -165,7 +166,7 @@ protected:
     QMap<int, ListedKey> m_listed = listedKeys(GetParam());
     KeyShop m_shop{QByteArray::number(GetParam())};
     std::shared_ptr<store::Database> m_database = m_shop.open();
-    store::Transaction m_quick{*m_database};
+    store::CommitOnExit m_quick{*m_database};
     KeyControls m_controls;
     FunctionKeys m_keys = [this] {
         for (int id = 1; id <= keysOfARegister + 1; ++id)

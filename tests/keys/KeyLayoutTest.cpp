@@ -2,6 +2,7 @@
 #include "keys/layout/KeyLayout.h"
 
 #include "keys/layout/KeyGrid.h"
+#include "store/engine/CommitOnExit.h"
 #include "tests/keys/KeyShop.h"
 #include "tests/support/FormTest.h"
 #include "ui/ValueList.h"
@@ -317,7 +318,7 @@ TEST_F(KeyLayoutTest, ALevelThatCannotBeSavedStaysInTheEditor)
     put(0);
     const auto other = shop.open();
     {
-        const store::Transaction held(*other);
+        const store::CommitOnExit held(*other);
         boxes.answers = {true, true};
         press("CSCmdBtn4");
         EXPECT_FALSE(form->close());

@@ -4,6 +4,7 @@
 
 #include "base/ApplicationValues.h"
 #include "store/catalogue/Catalogue.h"
+#include "store/engine/CommitOnExit.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/store/Rows.h"
 
@@ -47,7 +48,7 @@ public:
     void addKeyboard(int keys, int levels = 5) const
     {
         const auto database = open();
-        const store::Transaction all(*database);
+        const store::CommitOnExit all(*database);
         for (int row = 0; row < keys * levels; ++row) {
             const QByteArray key = QByteArray::number((row / keys + 1) * 1000 + row % keys + 1);
             addRecord(*database, "KEYLINK", {{"ID", whole(row + 1)}, {"KEYLINK", text(key)}});

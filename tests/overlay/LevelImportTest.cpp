@@ -2,6 +2,7 @@
 #include "overlay/LevelImport.h"
 
 #include "store/catalogue/Catalogue.h"
+#include "store/engine/CommitOnExit.h"
 #include "tests/store/StoreFolder.h"
 
 namespace norvane::overlay
@@ -16,7 +17,7 @@ protected:
     LevelImportTest()
     {
         store::Database database(m_folder.path());
-        const store::Transaction transaction(database);
+        const store::CommitOnExit transaction(database);
         for (int row = 1; row <= 845; ++row) {
             for (const auto& sql : {u"KEYLINK (ID, KEYLINK) values (%1, '%2')"_s,
                                     u"NLU (ID, NLU) values (%1, '000000000000000000')"_s,

@@ -4,6 +4,7 @@
 
 #include "reports/lines/ReportRun.h"
 #include "store/catalogue/Catalogue.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 #include "tests/platform/TestFolder.h"
@@ -32,7 +33,7 @@ public:
     void add(const char* table, const char* fields, std::initializer_list<const char*> rows) const
     {
         store::Database database(path());
-        store::Transaction transaction(database);
+        store::CommitOnExit transaction(database);
         auto records = database.openTable(QLatin1String(table));
         const QStringList names = QString::fromLatin1(fields).split(u'|');
         for (const char* const row : rows) {

@@ -1,5 +1,6 @@
 // The grid of a screen: cells entered by keys, rows found above it, prices in the database.
 #include "screens/GridControl.h"
+#include "store/engine/CommitOnExit.h"
 #include "tests/screens/ScreenFixture.h"
 
 namespace norvane::screens
@@ -17,7 +18,7 @@ protected:
     GridTest()
     {
         store::Database database(m_values.databasePath);
-        store::Transaction transaction(database);
+        store::CommitOnExit transaction(database);
         for (int number = 200; number < 700; ++number)
             database.execute(u"insert into PLUDATA values ('000000000000000%1', 'x', '1', 2)"_s.arg(number));
         transaction.commit();

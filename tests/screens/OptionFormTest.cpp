@@ -1,4 +1,5 @@
 // A screen in use: keys and clicks in, rows in the database and messages out.
+#include "store/engine/CommitOnExit.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/screens/OptionFormFixture.h"
 #include "tests/store/Elsewhere.h"
@@ -63,7 +64,7 @@ TEST_F(OptionFormTest, ASaveOnALockedFileOrAFullDiskSaysSoAndCanBeRepeated)
     QElapsedTimer clock;
     {
         store::Database other(m_values.databasePath);
-        const store::Transaction work(other);
+        const store::CommitOnExit work(other);
         clock.start();
         EXPECT_EQ(toldBy("SaveRecord"), "Nothing was stored: another program holds the database");
         EXPECT_LT(clock.elapsed(), 2000) << "the usual wait is five seconds";

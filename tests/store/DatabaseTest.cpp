@@ -1,5 +1,6 @@
 // Opening what is ours and nothing else, fields that come later, and a disk without room.
 #include "store/catalogue/DatabaseCheck.h"
+#include "store/engine/CommitOnExit.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/store/StoreFolder.h"
 
@@ -39,7 +40,7 @@ TEST(DatabaseCheck, FindsDamageOnEveryPageAndAWrongLength)
     const StoreFolder folder;
     {
         Database database(folder.path());
-        const Transaction transaction(database);
+        const CommitOnExit transaction(database);
         auto records = database.openTable(testTable);
         for (int i = 1000; i < 1500; ++i)
             add(records, {{"NUMBER", Value::whole(i)}, {"GROUPNO", Value::whole(i)}});
@@ -102,7 +103,7 @@ TEST(Transaction, ThatFindsNoRoomFailsAndLeavesTheTableAsItWas)
     };
     const norvane::test::FullDisk disk(1'000'000);
     const int failure = failureOf([&] {
-        Transaction transaction(database);
+        CommitOnExit transaction(database);
         addNotes(1000);
         transaction.commit();
     });

@@ -4,6 +4,8 @@
 
 #include "store/catalogue/Catalogue.h"
 #include "store/catalogue/Upgrade.h"
+#include "store/engine/CommitOnExit.h"
+#include "store/engine/ShortWait.h"
 #include "store/sales/DayDigests.h"
 #include "store/sales/RowAppend.h"
 #include "tests/store/Elsewhere.h"
@@ -205,7 +207,7 @@ TEST_F(MonthTotalsTest, DigestsOfDaysGoWithAnyChangeOfTheirRows)
     EXPECT_EQ(daysLeft(digests), "") << "some may have missed the change of their rows";
     digests.keep(all);
     {
-        Transaction transaction(m_database);
+        CommitOnExit transaction(m_database);
         const RowAppend append(m_database, transaction, u"CLERKSALES"_s);
         auto sales = m_database.openTable(u"CLERKSALES"_s);
         test::add(sales, {{"ID", Value::whole(1)},

@@ -1,4 +1,5 @@
 // Walking, seeking and storing records of a table.
+#include "store/engine/CommitOnExit.h"
 #include "tests/store/StoreFolder.h"
 
 #include <chrono>
@@ -69,7 +70,7 @@ TEST_F(RecordsetTest, WalksBothWaysInTheOrderOfTheIndex)
 
 TEST_F(RecordsetTest, AWalkSeesWhatComesAndGoesAheadOfIt)
 {
-    const Transaction transaction(m_database);
+    const CommitOnExit transaction(m_database);
     for (int i = 100; i < 400; ++i)
         add(m_records, {{"NUMBER", Value::whole(i)}});
     for (m_records.moveFirst(); !m_records.atEnd(); m_records.moveNext())
@@ -163,7 +164,7 @@ TEST_F(RecordsetTest, ADeletedRecordNeverBecomesAnotherThatComesLater)
             addLast(records);
         },
         [&] { // as an upload does
-            const Transaction transaction(elsewhere);
+            const CommitOnExit transaction(elsewhere);
             elsewhere.execute(u"Delete * From ITEMS"_s);
             for (int i = 0; i < 10; ++i)
                 add(other, {{"NUMBER", Value::text("0" + std::to_string(i))}});
@@ -205,7 +206,7 @@ TEST_F(RecordsetTest, ARowNumberIsGivenOnceByARecordsetThatGoesOnAdding)
     };
     replaceLast(m_database);
     replaceLast(elsewhere);
-    const Transaction transaction(m_database); // as an upload has
+    const CommitOnExit transaction(m_database); // as an upload has
     replaceLast(m_database);
 }
 

@@ -1,4 +1,4 @@
-// What an open database holds; shared by the files of the store, unknown outside of it.
+// What an open database holds; used only inside the store.
 #pragma once
 
 #include "store/engine/Database.h"
@@ -12,12 +12,13 @@
 namespace norvane::store
 {
 
-class Database::Private
+/// The connection of a Database to the engine, the shapes of its tables and its transactions.
+class Connection
 {
 public:
-    explicit Private(const QString& path);
+    explicit Connection(const QString& path);
 
-    [[nodiscard]] sqlite3* connection() const { return m_connection.getHandle(); }
+    [[nodiscard]] sqlite3* handle() const { return m_sqlite.getHandle(); }
     [[nodiscard]] const QString& path() const { return m_path; }
 
     /// The shape of a table; nullptr if there is none of that name.
@@ -45,11 +46,14 @@ public:
 
 private:
     QString m_path;
-    SQLite::Database m_connection;
+    SQLite::Database m_sqlite;
     QHash<QString, std::shared_ptr<const TableShape>> m_shapes;
     int m_depth = 0;
     std::int64_t m_transactions = 0;
     std::int64_t m_retirements = 0;
 };
+
+/// For the types of the store that work on the engine itself. Lives as long as @p database.
+[[nodiscard]] Connection& connectionOf(Database& database);
 
 } // namespace norvane::store
