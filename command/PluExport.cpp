@@ -3,7 +3,7 @@
 
 #include "command/PluColumns.h"
 #include "store/engine/Recordset.h"
-#include "store/engine/RecordTexts.h"
+#include "store/engine/SearchableTexts.h"
 
 #include <algorithm>
 

@@ -11,7 +11,7 @@
 #include "customers/SafetyCopies.h"
 #include "reports/files/CsvFile.h"
 #include "reports/files/XlsxFile.h"
-#include "store/engine/RecordTexts.h"
+#include "store/engine/SearchableTexts.h"
 
 #include <QFile>
 #include <QFileInfo>

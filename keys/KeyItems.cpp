@@ -2,7 +2,7 @@
 #include "keys/KeyItems.h"
 
 #include "store/engine/Database.h"
-#include "store/engine/RecordTexts.h"
+#include "store/engine/SearchableTexts.h"
 
 using namespace Qt::Literals::StringLiterals;
 

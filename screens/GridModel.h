@@ -4,7 +4,7 @@
 #include "screens/ScreenDefinition.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
-#include "store/engine/RecordTexts.h"
+#include "store/engine/SearchableTexts.h"
 
 #include <QAbstractTableModel>
 
@@ -72,8 +72,8 @@ private:
     QVector<GridColumn> m_columns;
     std::optional<store::Recordset> m_records;
     int m_total = 0;
-    std::vector<Row> m_rows;    ///< those read so far
-    store::RecordTexts m_texts; ///< of all rows, after the first search
+    std::vector<Row> m_rows;        ///< those read so far
+    store::SearchableTexts m_texts; ///< of all rows, after the first search
 };
 
 } // namespace norvane::screens

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "store/engine/Database.h"
-#include "store/engine/RecordTexts.h"
+#include "store/engine/SearchableTexts.h"
 
 #include <QAbstractTableModel>
 
@@ -54,7 +54,7 @@ private:
 
     std::shared_ptr<store::Database> m_database;
     RecordListSource m_source;
-    store::RecordTexts m_texts;
+    store::SearchableTexts m_texts;
     QString m_filter;
     std::vector<int> m_shown; ///< records by row
     QString m_markedNumber;

@@ -30,19 +30,19 @@ namespace norvane::store
 namespace
 {
 
-FieldDefinition fieldFrom(const rows::FieldRow& row, const QString& name)
+FieldDefinition fieldFrom(const rows::CatalogueField& row, const QString& name)
 {
     return {name, row.type, row.size, QLatin1StringView(row.defaultText), row.required};
 }
 
-void appendFields(QVector<FieldDefinition>& fields, const rows::Row& row)
+void appendFields(QVector<FieldDefinition>& fields, const rows::FieldRow& row)
 {
     if (row.times == 0) {
         fields.append(fieldFrom(row.fields[0], QLatin1StringView(row.fields[0].name)));
         return;
     }
     for (int number = 1; number <= row.times; ++number) {
-        for (const rows::FieldRow& field : row.fields) {
+        for (const rows::CatalogueField& field : row.fields) {
             if (field.name != nullptr) {
                 const QString pattern = QLatin1StringView(field.name);
                 fields.append(fieldFrom(field, QString(pattern).replace(u'*', QString::number(number))));
@@ -54,7 +54,7 @@ void appendFields(QVector<FieldDefinition>& fields, const rows::Row& row)
 TableDefinition tableFrom(const rows::TableRow& row)
 {
     TableDefinition table{QLatin1StringView(row.name), {}, {}};
-    for (const rows::Row& fields : row.fields)
+    for (const rows::FieldRow& fields : row.fields)
         appendFields(table.fields, fields);
     if (row.indexField != nullptr) {
         IndexDefinition index{{}, QLatin1StringView(row.indexField)};

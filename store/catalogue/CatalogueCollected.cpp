@@ -8,20 +8,20 @@ namespace
 {
 
 // Totals of one item on the day of a collection; the clerks' have the clerk beside the item.
-constexpr Row itemSales[] = {
+constexpr FieldRow itemSales[] = {
     mustBeSet(whole("ID")),
     mustBeSet(date(salestable::day)),
     zeroUnlessSet(decimal("QUANTITY")),
     zeroUnlessSet(decimal("VALUE")),
 };
 
-constexpr Row clerkSales[] = {
+constexpr FieldRow clerkSales[] = {
     mustBeSet(whole("ID")),           mustBeSet(whole("CLERKID")),
     mustBeSet(date(salestable::day)), zeroUnlessSet(decimal("QUANTITY")),
     zeroUnlessSet(decimal("VALUE")),
 };
 
-constexpr Row pluSales[] = {
+constexpr FieldRow pluSales[] = {
     mustBeSet(text("ID", 18)),
     mustBeSet(date(salestable::day)),
     mustBeSet(decimal("PROMO")),
@@ -31,7 +31,7 @@ constexpr Row pluSales[] = {
 
 // Register file 52. Text, so that an odd value from a register, or a line that ends early, is stored
 // unchanged; the flags tell which totals the register keeps.
-constexpr Row memoryAllocation[] = {
+constexpr FieldRow memoryAllocation[] = {
     counter("ID"),
     reported("reporttotals"),
     reported("REPORTCOUNTERS"),
@@ -78,7 +78,7 @@ constexpr Row memoryAllocation[] = {
 };
 
 /// Each collection appends, so only reports look for rows: by the day.
-constexpr TableRow salesTable(const char* name, std::span<const Row> fields)
+constexpr TableRow salesTable(const char* name, std::span<const FieldRow> fields)
 {
     return {name, fields, {}, nullptr, salestable::day};
 }

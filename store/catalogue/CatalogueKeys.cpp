@@ -7,25 +7,25 @@ namespace
 {
 
 // register file 2. flag2 of some keys is an amount with decimals, of the others a pair of option digits.
-constexpr Row functionKey[] = {
+constexpr FieldRow functionKey[] = {
     whole("id"),      text("DESCRIPTION", 12), whole("HALO"),  whole("flag1"),
     decimal("flag2"), whole("flag3"),          whole("flag4"),
 };
 
 // register file 16. An unused key holds empty text.
-constexpr Row keyLink[] = {
+constexpr FieldRow keyLink[] = {
     whole("ID"),
     text("KEYLINK", 4),
 };
 
 // register file 17
-constexpr Row nlu[] = {
+constexpr FieldRow nlu[] = {
     whole("ID"),
     text("NLU", 18),
 };
 
 // register file 57
-constexpr Row wlu[] = {
+constexpr FieldRow wlu[] = {
     whole("WLUno"),         text("DESCRIPTION", 12),
     whole("LINK"),          whole("#OfCondiments"),
     whole("#OfWLU"),        flag("Allowcondiment"),
@@ -35,21 +35,21 @@ constexpr Row wlu[] = {
 };
 
 // register file 60
-constexpr Row recipe[] = {
+constexpr FieldRow recipe[] = {
     whole("recipeno"),
     text("DESCRIPTION", 16),
     numbered(20, whole("item*"), whole("recipe*"), whole("qty*")),
 };
 
 // register file 85
-constexpr Row cardCategory[] = {
+constexpr FieldRow cardCategory[] = {
     whole("id"),      text("DESCRIPTOR", 16),   whole("DISCOUNT"),
     whole("PREMIUM"), whole("POINTMULTIPLIER"), whole("REDEEMMULTIPLIER"),
     flag("INACTIVE"), flag("DISALLOWPOINT"),    flag("ACCURENOTMULTIPLY"),
 };
 
 // register file 86
-constexpr Row hotList[] = {
+constexpr FieldRow hotList[] = {
     whole("id"),
     text("REFERENCE", 30),
     flag("INACTIVE"),

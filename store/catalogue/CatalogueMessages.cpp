@@ -7,31 +7,31 @@ namespace
 {
 
 // register file 19, never exchanged
-constexpr Row systemDescriptors[] = {
+constexpr FieldRow systemDescriptors[] = {
     whole("ID"),
     text("SYSTEMDESCRIPTORS", 30),
 };
 
 // register file 20
-constexpr Row errorMessage[] = {
+constexpr FieldRow errorMessage[] = {
     whole("ID"),
     text("ERRORMESSAGE", 30),
 };
 
 // register file 21
-constexpr Row financialReportDescriptors[] = {
+constexpr FieldRow financialReportDescriptors[] = {
     whole("ID"),
     text("financialreport", 30),
 };
 
 // register file 22
-constexpr Row employeeReportDescriptors[] = {
+constexpr FieldRow employeeReportDescriptors[] = {
     whole("ID"),
     text("Employeereport", 30),
 };
 
 // register file 23
-constexpr Row logoMessage[] = {
+constexpr FieldRow logoMessage[] = {
     whole("ID"),
     whole("Justify"),
     numbered(5, text("PREAMBLE*", messageLine)),
@@ -39,21 +39,21 @@ constexpr Row logoMessage[] = {
 };
 
 // register file 24
-constexpr Row validationMessage[] = {
+constexpr FieldRow validationMessage[] = {
     whole("ID"),
     whole("Justify"),
     numbered(3, text("LINE*", messageLine)),
 };
 
 // register file 25
-constexpr Row checkEndorseMessage[] = {
+constexpr FieldRow checkEndorseMessage[] = {
     whole("ID"),
     whole("Justify"),
     numbered(10, text("LINE*", messageLine)),
 };
 
 // register file 26
-constexpr Row guestCheckMessage[] = {
+constexpr FieldRow guestCheckMessage[] = {
     whole("ID"),
     whole("Justify"),
     numbered(5, text("PREAMBLE*", messageLine)),

@@ -7,7 +7,7 @@ namespace
 {
 
 // register file 3
-constexpr Row generalFunctions[] = {
+constexpr FieldRow generalFunctions[] = {
     whole("ID"),
     flag("NEGSALESINXMODE"),
     flag("NEGTENDERINXMODE"),
@@ -79,7 +79,7 @@ constexpr Row generalFunctions[] = {
 };
 
 // register file 4
-constexpr Row taxOptions[] = {
+constexpr FieldRow taxOptions[] = {
     whole("ID"),
     whole("TAXROUNDiNGFACTOR"),
     flag("VATSUBTRACTFROMPLU"),
@@ -96,7 +96,7 @@ constexpr Row taxOptions[] = {
 };
 
 // register file 5
-constexpr Row cashDrawerOptions[] = {
+constexpr FieldRow cashDrawerOptions[] = {
     whole("ID"),
     flag("allowdraweropen"),
     flag("openduringx"),
@@ -108,7 +108,7 @@ constexpr Row cashDrawerOptions[] = {
 };
 
 // register file 6
-constexpr Row trainingModeOptions[] = {
+constexpr FieldRow trainingModeOptions[] = {
     whole("ID"),
     flag("opendrawerintmode"),
     flag("allowreardisplayintraining"),
@@ -122,7 +122,7 @@ constexpr Row trainingModeOptions[] = {
 };
 
 // register file 7
-constexpr Row levelModifierOptions[] = {
+constexpr FieldRow levelModifierOptions[] = {
     whole("ID"),
     whole("keyboardlevel"),
     whole("pricelevelstatus"),
@@ -135,7 +135,7 @@ constexpr Row levelModifierOptions[] = {
 };
 
 // register file 8. DISABLEGCONRECEIPT is in no record.
-constexpr Row trackingFileOptions[] = {
+constexpr FieldRow trackingFileOptions[] = {
     whole("ID"),
     flag("AUTOTRANSFER"),
     flag("TRANSFERTOTALS"),

@@ -7,7 +7,7 @@ namespace
 {
 
 // register file 9
-constexpr Row kitchenPrintOptions[] = {
+constexpr FieldRow kitchenPrintOptions[] = {
     whole("ID"),
     flag("TTLAMOUNTLINEONKP"),
     flag("PRINTSEAT#ONKP"),
@@ -40,7 +40,7 @@ constexpr Row kitchenPrintOptions[] = {
 };
 
 // register file 10
-constexpr Row validSubtotalOptions[] = {
+constexpr FieldRow validSubtotalOptions[] = {
     whole("ID"),
     flag("VALIDATIONAMOUNT"),
     flag("CHKVALIDATIONAMOUNT"),
@@ -52,7 +52,7 @@ constexpr Row validSubtotalOptions[] = {
 };
 
 // register file 11. The symbols are character codes. TURNOFFAUTOCUTTER is a number that holds yes/no.
-constexpr Row generalPrintOption[] = {
+constexpr FieldRow generalPrintOption[] = {
     whole("ID"),
     flag("EMPLOYEEONRECEIPT"),
     flag("CONSECUTIVE#ONRECEIPT"),
@@ -119,7 +119,7 @@ constexpr Row generalPrintOption[] = {
 };
 
 // register file 12
-constexpr Row reportPrintingOptions[] = {
+constexpr FieldRow reportPrintingOptions[] = {
     whole("ID"),
     flag("ZEROSKIPONFINANCIALREPORT"),
     flag("ZEROSKIPONPLUREPORT"),
@@ -139,7 +139,7 @@ constexpr Row reportPrintingOptions[] = {
 };
 
 // register file 13
-constexpr Row reportOptions[] = {
+constexpr FieldRow reportOptions[] = {
     whole("ID"),
     flag("ONLYTTLPRODUCTMIX"),
     flag("ONLYITEMSWITHINVENTORY"),
@@ -169,7 +169,7 @@ constexpr Row reportOptions[] = {
 };
 
 // register file 14
-constexpr Row timeKeeping[] = {
+constexpr FieldRow timeKeeping[] = {
     whole("ID"),
     flag("ENFORCEOUTBREAK"),
     whole("EMPLOYEETIMEIN"),
@@ -180,7 +180,7 @@ constexpr Row timeKeeping[] = {
 };
 
 // register file 36
-constexpr Row ejDetailPrint[] = {
+constexpr FieldRow ejDetailPrint[] = {
     whole("ID"),
     flag("CASHTOEJ"),
     flag("CHEQUETOEJ"),

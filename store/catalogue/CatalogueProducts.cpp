@@ -8,7 +8,7 @@ namespace
 
 // register files 67 and 71. The number is text, so that leading zeros are kept and the order is that of 18
 // characters. Screens and key editors ask for the one index by either name.
-constexpr Row pluData[] = {
+constexpr FieldRow pluData[] = {
     text("PLUNUMBER", 18),
     text("DESCRIPTION", 16),
     whole("GROUPNO"),
@@ -31,7 +31,7 @@ constexpr Row pluData[] = {
 };
 
 // register file 58. The unit has 4 characters in the record; screens of newer registers offer 10.
-constexpr Row productMix[] = {
+constexpr FieldRow productMix[] = {
     whole("PRODUCTNO"),
     text("DESCRIPTION", 12),
     text("unitDESCRIPTION", 10),
@@ -39,7 +39,7 @@ constexpr Row productMix[] = {
 };
 
 // register file 70
-constexpr Row mixNMatch[] = {
+constexpr FieldRow mixNMatch[] = {
     whole("MixNo"),
     text("DESCRIPTION", 12),
     whole("TRIP"),
@@ -47,7 +47,7 @@ constexpr Row mixNMatch[] = {
 };
 
 // register file 65
-constexpr Row pluStatus[] = {
+constexpr FieldRow pluStatus[] = {
     whole("STATUSNO"),
     text("DESCRIPTION", 12),
     numbered(6, flag("tax*")),
@@ -94,7 +94,7 @@ constexpr Row pluStatus[] = {
 };
 
 // register file 1
-constexpr Row groups[] = {
+constexpr FieldRow groups[] = {
     whole("GROUPNO"),
     text("DESCRIPTION", 12),
     flag("addtogrouptotal"),

@@ -7,7 +7,7 @@ namespace
 {
 
 // register file 63. The key is seven bytes in hexadecimal digits.
-constexpr Row employee[] = {
+constexpr FieldRow employee[] = {
     whole("ID"),
     text("DESCRIPTION", 12),
     longNumber("SOCIAL"),
@@ -24,19 +24,19 @@ constexpr Row employee[] = {
 };
 
 // register file 33
-constexpr Row jobCode[] = {
+constexpr FieldRow jobCode[] = {
     whole("JOBCODE"),
     text("DESCRIPTION", 12),
 };
 
 // register file 34
-constexpr Row payRate[] = {
+constexpr FieldRow payRate[] = {
     whole("PAYRATE"),
     decimal("rate"),
 };
 
 // register file 32
-constexpr Row authorityLevel[] = {
+constexpr FieldRow authorityLevel[] = {
     whole("ID"),
     text("DESCRIPTION", 12),
     flag("CLOCKIN/OUTONLY"),
@@ -87,7 +87,7 @@ constexpr Row authorityLevel[] = {
 };
 
 // register file 64. The start keeps its leading zeros, the end does not.
-constexpr Row timePeriod[] = {
+constexpr FieldRow timePeriod[] = {
     whole("id"),
     text("STARTTIME", 4),
     whole("ENDTIME"),
@@ -95,7 +95,7 @@ constexpr Row timePeriod[] = {
 };
 
 // register file 29
-constexpr Row taxRates[] = {
+constexpr FieldRow taxRates[] = {
     whole("ID"),
     decimal("taxrate"),
     whole("TAXTYPE"),
@@ -110,7 +110,7 @@ constexpr Row taxRates[] = {
 };
 
 // register file 15. Its record has no number, so the key is a counter.
-constexpr Row serviceMode[] = {
+constexpr FieldRow serviceMode[] = {
     counter("ID"),
     whole("DECIMALPlace"),
     flag("SENDPLUDESCRIPTOR"),

@@ -31,10 +31,10 @@ std::optional<SQLite::Database> openIfOurs(const QString& path)
     }
 }
 
-class Check
+class PageCheck
 {
 public:
-    Check(sqlite3* handle, QString path) : m_handle(handle), m_path(std::move(path)) {}
+    PageCheck(sqlite3* handle, QString path) : m_handle(handle), m_path(std::move(path)) {}
 
     [[nodiscard]] QString damage() const
     {
@@ -93,7 +93,7 @@ QString damageOf(const QString& path)
     if (!database)
         return {};
     try {
-        return Check(database->getHandle(), path).damage();
+        return PageCheck(database->getHandle(), path).damage();
     } catch (const RuntimeFailure& failure) {
         const bool isDamage =
             failure.failure() == Failure::NotOurDatabase || failure.failure() == Failure::DeviceIo;

@@ -5,7 +5,7 @@
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/Catalogue.h"
 #include "store/catalogue/Upgrade.h"
-#include "store/engine/CommitOnExit.h"
+#include "store/engine/AllOrNothing.h"
 #include "store/engine/Connection.h"
 #include "store/engine/DatabaseFile.h"
 #include "store/engine/PreparedStatement.h"
@@ -230,8 +230,7 @@ void restoreTables(Database& database, const QString& copy)
     Database copied(copy);
     sqlite3* const handle = connectionOf(database).handle();
     const AttachedFile source(handle, existingPath(copy));
-    CommitOnExit transaction(database);
-    try {
+    allOrNothing(database, [&] {
         for (const QString& name : copied.tableNames()) {
             if (!database.hasTable(name))
                 continue;
@@ -242,11 +241,7 @@ void restoreTables(Database& database, const QString& copy)
             run(handle, moveRows(table.name, commonFields(table, copied.table(name)), otherFile, "main"),
                 copy);
         }
-    } catch (const RuntimeFailure&) {
-        transaction.rollBack();
-        throw;
-    }
-    transaction.commit();
+    });
 }
 
 QStringList rebuildDatabase(const QString& copy, const QString& damaged, const QString& to)

@@ -9,8 +9,8 @@ class Database;
 
 /// A transaction that commits when it goes out of scope, also while an exception passes: work done before a
 /// failure is kept, for a file read halfway is worth more to a shop than none, and the user is told which
-/// line failed. Only a killed process or a power cut rolls back. Nesting is allowed: the outermost one counts.
-/// Work that must be stored wholly or not at all uses allOrNothing() of AllOrNothing.h.
+/// line failed. Only a killed process or a power cut rolls back. Nesting is allowed: the outermost one
+/// counts. Work that must be stored wholly or not at all uses allOrNothing() of AllOrNothing.h.
 class CommitOnExit
 {
 public:

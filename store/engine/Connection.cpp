@@ -13,8 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::store
 {
 
-Connection::Connection(const QString& path)
-    : m_path(existingPath(path)), m_sqlite(openDatabaseFile(m_path))
+Connection::Connection(const QString& path) : m_path(existingPath(path)), m_sqlite(openDatabaseFile(m_path))
 {
 }
 

@@ -12,7 +12,7 @@ namespace norvane::store
 {
 
 /// A record as it was read, with the number by which the table knows its row.
-struct Row {
+struct StoredRow {
     std::vector<Value> values;
     std::int64_t rowId = 0;
 };
@@ -32,7 +32,7 @@ public:
     virtual bool previous() = 0;
     [[nodiscard]] virtual qint64 count() = 0;
     /// The record last moved to.
-    [[nodiscard]] virtual const Row& row() const = 0;
+    [[nodiscard]] virtual const StoredRow& row() const = 0;
     /// Reads the record again. @return false if it was deleted.
     virtual bool reread() = 0;
     /// This recordset stored the record with these values.

@@ -47,7 +47,7 @@ Columns columnsOf(Connection& connection, const PreparedStatement& select, const
 } // namespace
 
 Recordset::Private::Private(Connection& connection, std::shared_ptr<const TableShape> table)
-    : shape(std::move(table)), writer(std::make_unique<RecordWriter>(connection, shape))
+    : shape(std::move(table)), writer(std::make_unique<RowWriter>(connection, shape))
 {
     auto walk = std::make_unique<TableCursor>(connection, shape);
     tableCursor = walk.get();
@@ -76,10 +76,10 @@ void Recordset::Private::openRows(Connection& connection, const QString& query)
         shape = std::make_shared<const TableShape>(std::move(columns.definition));
         PreparedStatement keys(connection.handle(), sql.withRowId.toStdString(), query);
         rows = std::make_unique<RowsOfTable>(connection, keys, shape);
-        writer = std::make_unique<RecordWriter>(connection, shape);
+        writer = std::make_unique<RowWriter>(connection, shape);
     } else {
         shape = std::make_shared<const TableShape>(std::move(columns.definition));
-        rows = std::make_unique<ReadRows>(select, columns.types);
+        rows = std::make_unique<RowsInMemory>(select, columns.types);
     }
     resultCursor = rows.get();
     cursor = std::move(rows);

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "store/engine/Recordset.h"
-#include "store/engine/RecordWriter.h"
 #include "store/engine/ResultCursor.h"
+#include "store/engine/RowWriter.h"
 #include "store/engine/TableCursor.h"
 
 #include <memory>
@@ -40,7 +40,7 @@ public:
     std::unique_ptr<Cursor> cursor;
     TableCursor* tableCursor = nullptr;   ///< the cursor, when it walks a table by index
     ResultCursor* resultCursor = nullptr; ///< the cursor, when it walks a query's rows
-    std::unique_ptr<RecordWriter> writer; ///< nullptr if rows cannot be changed
+    std::unique_ptr<RowWriter> writer;    ///< nullptr if rows cannot be changed
     Place place = Place::Empty;
     EditMode mode = EditMode::None;
     std::vector<Value> edited; ///< the record being edited or added

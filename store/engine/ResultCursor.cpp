@@ -10,7 +10,7 @@ bool ResultCursor::moveTo(qint64 position)
 {
     if (position < 0 || position >= positions())
         return false;
-    const Row* row = load(position);
+    const StoredRow* row = load(position);
     if (!row)
         return false;
     m_position = position;
@@ -48,11 +48,11 @@ bool ResultCursor::previous()
     return moveFrom(m_position - 1, -1);
 }
 
-ReadRows::ReadRows(PreparedStatement& select, const std::vector<std::optional<FieldType>>& types)
+RowsInMemory::RowsInMemory(PreparedStatement& select, const std::vector<std::optional<FieldType>>& types)
 {
     const StatementRun run(select);
     while (select.step()) {
-        Row row;
+        StoredRow row;
         row.values.resize(types.size());
         for (std::size_t i = 0; i < types.size(); ++i)
             select.read(static_cast<int>(i), types[i], row.values[i]);
@@ -60,7 +60,7 @@ ReadRows::ReadRows(PreparedStatement& select, const std::vector<std::optional<Fi
     }
 }
 
-const Row* ReadRows::load(qint64 position)
+const StoredRow* RowsInMemory::load(qint64 position)
 {
     return &m_rows.at(static_cast<std::size_t>(position));
 }
@@ -77,7 +77,7 @@ RowsOfTable::RowsOfTable(Connection& connection, PreparedStatement& select,
         m_rowIds.push_back(select.whole(rowIdColumn));
 }
 
-const Row* RowsOfTable::load(qint64 position)
+const StoredRow* RowsOfTable::load(qint64 position)
 {
     const StatementRun run(m_byRowId);
     m_byRowId.bind(1, m_rowIds.at(static_cast<std::size_t>(position)));

@@ -22,36 +22,36 @@ public:
     bool last() override;
     bool next() override;
     bool previous() override;
-    [[nodiscard]] const Row& row() const override { return *m_row; }
+    [[nodiscard]] const StoredRow& row() const override { return *m_row; }
     bool reread() override { return moveTo(m_position); }
 
 protected:
     [[nodiscard]] virtual qint64 positions() const = 0;
     /// The row at a position, nullptr if it was deleted.
-    [[nodiscard]] virtual const Row* load(qint64 position) = 0;
+    [[nodiscard]] virtual const StoredRow* load(qint64 position) = 0;
     [[nodiscard]] qint64 position() const { return m_position; }
 
 private:
     bool moveFrom(qint64 position, int step);
 
     qint64 m_position = -1;
-    const Row* m_row = nullptr;
+    const StoredRow* m_row = nullptr;
 };
 
 /// The rows of a query that joins, counts or computes: kept as they were read.
-class ReadRows : public ResultCursor
+class RowsInMemory : public ResultCursor
 {
 public:
-    ReadRows(PreparedStatement& select, const std::vector<std::optional<FieldType>>& types);
+    RowsInMemory(PreparedStatement& select, const std::vector<std::optional<FieldType>>& types);
     [[nodiscard]] qint64 count() override { return positions(); }
     void rowStored(const std::vector<Value>&) override {}
 
 protected:
     [[nodiscard]] qint64 positions() const override { return static_cast<qint64>(m_rows.size()); }
-    [[nodiscard]] const Row* load(qint64 position) override;
+    [[nodiscard]] const StoredRow* load(qint64 position) override;
 
 private:
-    std::vector<Row> m_rows;
+    std::vector<StoredRow> m_rows;
 };
 
 /// The rows of a query over one table: kept by their row ids and read when they are moved to, so that they
@@ -67,14 +67,14 @@ public:
 
 protected:
     [[nodiscard]] qint64 positions() const override { return static_cast<qint64>(m_rowIds.size()); }
-    [[nodiscard]] const Row* load(qint64 position) override;
+    [[nodiscard]] const StoredRow* load(qint64 position) override;
 
 private:
     std::shared_ptr<const TableShape> m_shape;
     std::vector<int> m_fields; ///< all of them
     PreparedStatement m_byRowId;
     std::vector<std::int64_t> m_rowIds;
-    Row m_current;
+    StoredRow m_current;
     qint64 m_deleted = 0;
 };
 

@@ -32,7 +32,7 @@ namespace norvane::store
 /// Copies the current row of such a statement. @p row keeps the capacity of its texts, and its other fields
 /// are unchanged.
 inline void readFields(PreparedStatement& statement, const TableShape& shape,
-                       const std::vector<int>& ordinals, Row& row)
+                       const std::vector<int>& ordinals, StoredRow& row)
 {
     const auto& fields = shape.definition().fields;
     row.values.resize(static_cast<std::size_t>(fields.size()));

@@ -15,32 +15,32 @@ namespace norvane::store
 namespace
 {
 
-enum class Kind { Word, Name, Text, Blank, Sign };
+enum class SqlKind { Word, Name, Text, Blank, Sign };
 
-struct Token {
-    Kind kind;
+struct SqlToken {
+    SqlKind kind;
     QString text; ///< of a text: its characters without the quotes
 
     [[nodiscard]] bool isWord(const char* word) const
     {
-        return kind == Kind::Word && text.compare(QLatin1StringView(word), Qt::CaseInsensitive) == 0;
+        return kind == SqlKind::Word && text.compare(QLatin1StringView(word), Qt::CaseInsensitive) == 0;
     }
     [[nodiscard]] bool isSign(char sign) const
     {
-        return kind == Kind::Sign && text.size() == 1 && text.at(0) == QLatin1Char(sign);
+        return kind == SqlKind::Sign && text.size() == 1 && text.at(0) == QLatin1Char(sign);
     }
 };
 
-using Tokens = QVector<Token>;
+using SqlTokens = QVector<SqlToken>;
 
 class Splitter
 {
 public:
     explicit Splitter(const QString& sql) : m_sql(sql) {}
 
-    Tokens tokens()
+    SqlTokens tokens()
     {
-        Tokens tokens;
+        SqlTokens tokens;
         while (m_at < m_sql.size())
             tokens.append(next());
         return tokens;
@@ -49,30 +49,30 @@ public:
 private:
     static bool isWordPart(QChar c) { return c.isLetterOrNumber() || c == u'_'; }
 
-    Token next()
+    SqlToken next()
     {
         const QChar c = m_sql.at(m_at);
         if (c.isSpace())
-            return {Kind::Blank, takeWhile([](QChar each) { return each.isSpace(); })};
+            return {SqlKind::Blank, takeWhile([](QChar each) { return each.isSpace(); })};
         if (c.isDigit())
-            return {Kind::Word, takeWhile([](QChar each) { return isWordPart(each) || each == u'.'; })};
+            return {SqlKind::Word, takeWhile([](QChar each) { return isWordPart(each) || each == u'.'; })};
         if (isWordPart(c))
-            return {Kind::Word, takeWhile(isWordPart)};
+            return {SqlKind::Word, takeWhile(isWordPart)};
         if (c == u'[')
-            return {Kind::Name, takeThrough(u']')};
+            return {SqlKind::Name, takeThrough(u']')};
         if (c == u'\'' || c == u'"')
-            return {Kind::Text, takeText(c)};
+            return {SqlKind::Text, takeText(c)};
         return c == u'#' ? dayOrSign() : takeSign();
     }
 
-    Token takeSign()
+    SqlToken takeSign()
     {
-        Token sign{Kind::Sign, m_sql.mid(m_at, 1)};
+        SqlToken sign{SqlKind::Sign, m_sql.mid(m_at, 1)};
         ++m_at;
         return sign;
     }
 
-    Token dayOrSign()
+    SqlToken dayOrSign()
     {
         static const QRegularExpression day(u"\\G#\\s*(\\d{1,2}/\\d{1,2}/\\d{4})\\s*#"_s);
         const auto match = day.match(m_sql, m_at);
@@ -81,7 +81,7 @@ private:
         m_at = match.capturedEnd();
         // Days in statements have the month first, whatever the machine's locale.
         const QDate date = QDate::fromString(match.captured(1), u"M/d/yyyy"_s);
-        return {Kind::Text, date.toString(Qt::ISODate)};
+        return {SqlKind::Text, date.toString(Qt::ISODate)};
     }
 
     template <typename Test>
@@ -122,36 +122,36 @@ private:
 };
 
 /// The next token after @p at that is not a blank; the number of tokens when there is none.
-qsizetype nextAfter(const Tokens& tokens, qsizetype at)
+qsizetype nextAfter(const SqlTokens& tokens, qsizetype at)
 {
     do {
         ++at;
-    } while (at < tokens.size() && tokens.at(at).kind == Kind::Blank);
+    } while (at < tokens.size() && tokens.at(at).kind == SqlKind::Blank);
     return at;
 }
 
-void dropEnd(Tokens& tokens)
+void dropEnd(SqlTokens& tokens)
 {
-    while (!tokens.isEmpty() && (tokens.last().kind == Kind::Blank || tokens.last().isSign(';')))
+    while (!tokens.isEmpty() && (tokens.last().kind == SqlKind::Blank || tokens.last().isSign(';')))
         tokens.removeLast();
-    while (!tokens.isEmpty() && tokens.first().kind == Kind::Blank)
+    while (!tokens.isEmpty() && tokens.first().kind == SqlKind::Blank)
         tokens.removeFirst();
 }
 
 /// "delete * from x" and "delete x.* from x".
-void dropStarOfDelete(Tokens& tokens)
+void dropStarOfDelete(SqlTokens& tokens)
 {
     if (tokens.isEmpty() || !tokens.first().isWord("delete"))
         return;
     const auto from =
-        std::find_if(tokens.begin(), tokens.end(), [](const Token& t) { return t.isWord("from"); });
+        std::find_if(tokens.begin(), tokens.end(), [](const SqlToken& t) { return t.isWord("from"); });
     if (from == tokens.end())
         return;
     tokens.erase(tokens.begin() + 1, from);
-    tokens.insert(1, {Kind::Blank, u" "_s});
+    tokens.insert(1, {SqlKind::Blank, u" "_s});
 }
 
-void moveTopToLimit(Tokens& tokens)
+void moveTopToLimit(SqlTokens& tokens)
 {
     const auto top = nextAfter(tokens, 0);
     const auto count = nextAfter(tokens, top);
@@ -160,21 +160,21 @@ void moveTopToLimit(Tokens& tokens)
         return;
     const QString limit = tokens.at(count).text;
     tokens.erase(tokens.begin() + top, tokens.begin() + count + 1);
-    tokens.append({Kind::Word, u" LIMIT "_s + limit});
+    tokens.append({SqlKind::Word, u" LIMIT "_s + limit});
 }
 
-void changeWords(Tokens& tokens)
+void changeWords(SqlTokens& tokens)
 {
-    struct Change {
+    struct Replacement {
         const char* word;
         const char* instead;
     };
-    static constexpr Change changes[] = {
+    static constexpr Replacement replacements[] = {
         {"true", "-1"}, {"yes", "-1"}, {"false", "0"}, {"no", "0"}, {"distinctrow", ""}};
     for (auto& token : tokens) {
-        for (const auto& change : changes) {
-            if (token.isWord(change.word))
-                token.text = QString::fromLatin1(change.instead);
+        for (const auto& each : replacements) {
+            if (token.isWord(each.word))
+                token.text = QString::fromLatin1(each.instead);
         }
         if (token.isSign('&')) {
             token.text = u"||"_s;
@@ -184,29 +184,30 @@ void changeWords(Tokens& tokens)
     }
 }
 
-void changeWildcards(Tokens& tokens)
+void changeWildcards(SqlTokens& tokens)
 {
     for (qsizetype i = 0; i < tokens.size(); ++i) {
         const auto pattern = nextAfter(tokens, i);
-        if (tokens.at(i).isWord("like") && pattern < tokens.size() && tokens.at(pattern).kind == Kind::Text)
+        if (tokens.at(i).isWord("like") && pattern < tokens.size() &&
+            tokens.at(pattern).kind == SqlKind::Text)
             tokens[pattern].text.replace(u'*', u'%').replace(u'?', u'_');
     }
 }
 
 /// The name in a token; empty if it is not a name.
-QString nameOf(const Token& token)
+QString nameOf(const SqlToken& token)
 {
-    if (token.kind == Kind::Name)
+    if (token.kind == SqlKind::Name)
         return token.text.mid(1, token.text.size() - 2);
-    return token.kind == Kind::Word ? token.text : QString();
+    return token.kind == SqlKind::Word ? token.text : QString();
 }
 
-void tellDeletion(const Tokens& tokens, TranslatedSql& translated)
+void noteDeletion(const SqlTokens& tokens, TranslatedSql& translated)
 {
     if (tokens.isEmpty() || !tokens.first().isWord("delete"))
         return;
     const auto from =
-        std::find_if(tokens.begin(), tokens.end(), [](const Token& t) { return t.isWord("from"); });
+        std::find_if(tokens.begin(), tokens.end(), [](const SqlToken& t) { return t.isWord("from"); });
     const auto table = nextAfter(tokens, from - tokens.begin());
     if (table >= tokens.size())
         return;
@@ -214,11 +215,11 @@ void tellDeletion(const Tokens& tokens, TranslatedSql& translated)
     translated.deletesAll = table == tokens.size() - 1;
 }
 
-QString joined(const Tokens& tokens)
+QString joined(const SqlTokens& tokens)
 {
     QString sql;
     for (const auto& token : tokens) {
-        if (token.kind == Kind::Text) {
+        if (token.kind == SqlKind::Text) {
             sql += u'\'' + QString(token.text).replace(u'\'', u"''"_s) + u'\'';
         } else {
             sql += token.text;
@@ -228,7 +229,7 @@ QString joined(const Tokens& tokens)
 }
 
 /// Where the chosen columns end: the first "from" outside of brackets.
-qsizetype fromOf(const Tokens& tokens)
+qsizetype fromOf(const SqlTokens& tokens)
 {
     int depth = 0;
     for (qsizetype i = 0; i < tokens.size(); ++i) {
@@ -239,32 +240,33 @@ qsizetype fromOf(const Tokens& tokens)
     return tokens.size();
 }
 
-bool isOneOf(const Token& token, std::initializer_list<const char*> words)
+bool isOneOf(const SqlToken& token, std::initializer_list<const char*> words)
 {
     return std::any_of(words.begin(), words.end(), [&token](const char* word) { return token.isWord(word); });
 }
 
-bool joinsOrGroups(const Tokens& tokens, qsizetype from)
+bool joinsOrGroups(const SqlTokens& tokens, qsizetype from)
 {
-    const bool hasWord = std::any_of(tokens.begin(), tokens.end(), [](const Token& token) {
+    const bool hasWord = std::any_of(tokens.begin(), tokens.end(), [](const SqlToken& token) {
         return isOneOf(token, {"distinct", "group", "having", "union", "join", "intersect", "except"});
     });
     // A second table or a query in the place of a table.
-    const auto end = std::find_if(tokens.begin() + from, tokens.end(), [](const Token& token) {
+    const auto end = std::find_if(tokens.begin() + from, tokens.end(), [](const SqlToken& token) {
         return isOneOf(token, {"where", "order", "limit"});
     });
-    return hasWord || std::any_of(tokens.begin() + from, end,
-                                  [](const Token& token) { return token.isSign(',') || token.isSign('('); });
+    return hasWord || std::any_of(tokens.begin() + from, end, [](const SqlToken& token) {
+               return token.isSign(',') || token.isSign('(');
+           });
 }
 
-QString withRowIdOf(const Tokens& tokens)
+QString withRowIdOf(const SqlTokens& tokens)
 {
     const auto from = fromOf(tokens);
     if (tokens.isEmpty() || !tokens.first().isWord("select") || from == tokens.size() ||
         joinsOrGroups(tokens, from))
         return {};
-    Tokens extended = tokens;
-    extended.insert(from, {Kind::Word, u", _rowid_ "_s});
+    SqlTokens extended = tokens;
+    extended.insert(from, {SqlKind::Word, u", _rowid_ "_s});
     return joined(extended);
 }
 
@@ -272,7 +274,7 @@ QString withRowIdOf(const Tokens& tokens)
 
 TranslatedSql translateSql(const QString& statement)
 {
-    Tokens tokens = Splitter(statement).tokens();
+    SqlTokens tokens = Splitter(statement).tokens();
     dropEnd(tokens);
     dropStarOfDelete(tokens);
     moveTopToLimit(tokens);
@@ -280,13 +282,13 @@ TranslatedSql translateSql(const QString& statement)
     changeWildcards(tokens);
     const bool changes = !tokens.isEmpty() && isOneOf(tokens.first(), {"delete", "update", "insert"});
     TranslatedSql translated{joined(tokens), withRowIdOf(tokens), changes};
-    tellDeletion(tokens, translated);
+    noteDeletion(tokens, translated);
     return translated;
 }
 
 QString loneTableName(const QString& statement)
 {
-    Tokens tokens = Splitter(statement).tokens();
+    SqlTokens tokens = Splitter(statement).tokens();
     dropEnd(tokens);
     if (tokens.size() != 1)
         return {};

@@ -43,7 +43,7 @@ public:
     bool next() override;
     bool previous() override;
     [[nodiscard]] qint64 count() override;
-    [[nodiscard]] const Row& row() const override { return m_rows.at(m_at); }
+    [[nodiscard]] const StoredRow& row() const override { return m_rows.at(m_at); }
     bool reread() override;
     void rowStored(const std::vector<Value>& values) override;
     void rowDeleted() override;
@@ -95,8 +95,8 @@ private:
     std::vector<int> m_fields;     ///< read
     std::array<std::unique_ptr<PreparedStatement>, AccessCount> m_statements;
 
-    std::vector<Row> m_rows;  ///< the first m_filled of them are the rows read, m_at is the place
-    std::vector<Row> m_spare; ///< read into first, so that a move without a record changes nothing
+    std::vector<StoredRow> m_rows;  ///< the first m_filled of them are the rows read, m_at is the place
+    std::vector<StoredRow> m_spare; ///< read into first, so that a move without a record changes nothing
     std::size_t m_filled = 0;
     std::size_t m_at = 0;
     Stamp m_stamp;

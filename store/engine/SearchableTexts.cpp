@@ -1,5 +1,5 @@
-// See RecordTexts.h.
-#include "store/engine/RecordTexts.h"
+// See SearchableTexts.h.
+#include "store/engine/SearchableTexts.h"
 
 #include <algorithm>
 #include <numeric>
@@ -29,14 +29,14 @@ QString shownKey(const QString& keyField, const QString& key)
     return key.sliced(zeros);
 }
 
-void RecordTexts::clear()
+void SearchableTexts::clear()
 {
     m_shown.clear();
     m_folded.clear();
     m_begins.clear();
 }
 
-void RecordTexts::add(const QString& number, const QString& text)
+void SearchableTexts::add(const QString& number, const QString& text)
 {
     m_begins.push_back(
         {static_cast<std::uint32_t>(m_shown.size()), static_cast<std::uint32_t>(m_folded.size())});
@@ -44,7 +44,7 @@ void RecordTexts::add(const QString& number, const QString& text)
     m_folded += lineOf(number.toCaseFolded()) + lineOf(text.toCaseFolded());
 }
 
-QString RecordTexts::shown(int record, int line) const
+QString SearchableTexts::shown(int record, int line) const
 {
     std::size_t begin = m_begins.at(static_cast<std::size_t>(record)).shown;
     if (line > 0)
@@ -53,7 +53,7 @@ QString RecordTexts::shown(int record, int line) const
     return QString::fromUtf8(m_shown.data() + begin, static_cast<qsizetype>(end - begin));
 }
 
-std::vector<int> RecordTexts::containing(const QString& part) const
+std::vector<int> SearchableTexts::containing(const QString& part) const
 {
     std::vector<int> found;
     if (part.isEmpty()) {
@@ -73,7 +73,7 @@ std::vector<int> RecordTexts::containing(const QString& part) const
     return found;
 }
 
-int RecordTexts::find(const QString& number) const
+int SearchableTexts::find(const QString& number) const
 {
     const std::string line = lineOf(number);
     const auto hasNumber = [&](const Begin& begin) {

@@ -15,7 +15,7 @@ namespace norvane::store
 
 /// Keeps all texts in two long strings, one to show and one in small letters to search, so that 100,000
 /// records are searched in a few milliseconds and take a few megabytes. Records count from 0.
-class RecordTexts
+class SearchableTexts
 {
 public:
     void clear();

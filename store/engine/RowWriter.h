@@ -14,10 +14,10 @@ namespace norvane::store
 /// Writes records of one shape. The statements are prepared once; a change names only the fields that are
 /// really different, so that a walk that stores what is there already writes nothing, and an index is touched
 /// only with its key.
-class RecordWriter
+class RowWriter
 {
 public:
-    RecordWriter(Connection& connection, std::shared_ptr<const TableShape> shape);
+    RowWriter(Connection& connection, std::shared_ptr<const TableShape> shape);
 
     /// @return the row id of the new row. @throws RuntimeFailure with Failure::DuplicateKey,
     /// Failure::RequiredFieldIsNull and what the engine reports.

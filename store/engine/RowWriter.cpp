@@ -1,5 +1,5 @@
-// The SQL of storing one record; see RecordWriter.h.
-#include "store/engine/RecordWriter.h"
+// The SQL of storing one record; see RowWriter.h.
+#include "store/engine/RowWriter.h"
 
 #include "platform/RuntimeFailure.h"
 #include "store/engine/RowIds.h"
@@ -30,7 +30,7 @@ std::string insertedValue(const TableShape& shape, const FieldDefinition& field)
 
 } // namespace
 
-RecordWriter::RecordWriter(Connection& connection, std::shared_ptr<const TableShape> shape)
+RowWriter::RowWriter(Connection& connection, std::shared_ptr<const TableShape> shape)
     : m_connection(connection), m_shape(std::move(shape))
 {
     const auto& fields = m_shape->definition().fields;
@@ -40,18 +40,18 @@ RecordWriter::RecordWriter(Connection& connection, std::shared_ptr<const TableSh
     }
 }
 
-std::unique_ptr<PreparedStatement> RecordWriter::prepare(const std::string& sql) const
+std::unique_ptr<PreparedStatement> RowWriter::prepare(const std::string& sql) const
 {
     return std::make_unique<PreparedStatement>(m_connection.handle(), sql,
                                                u"%1, table %2."_s.arg(m_connection.path(), m_shape->name()));
 }
 
-RecordWriter::Stage RecordWriter::stage() const
+RowWriter::Stage RowWriter::stage() const
 {
     return {m_connection.transactionNumber(), m_connection.retirements()};
 }
 
-std::string RecordWriter::insertSql(const std::string& rowId) const
+std::string RowWriter::insertSql(const std::string& rowId) const
 {
     std::string names = rowId.empty() ? "" : "_rowid_";
     std::string values = rowId;
@@ -62,7 +62,7 @@ std::string RecordWriter::insertSql(const std::string& rowId) const
     return "INSERT INTO " + quotedName(m_shape->name()) + " (" + names + ") VALUES (" + values + ')';
 }
 
-std::string RecordWriter::updateSql(const std::vector<int>& fields) const
+std::string RowWriter::updateSql(const std::vector<int>& fields) const
 {
     std::string changes;
     for (const int field : fields) {
@@ -74,7 +74,7 @@ std::string RecordWriter::updateSql(const std::vector<int>& fields) const
 
 /// Rows that a transaction adds one after the other get rising row ids from the engine. Only the first needs
 /// the search for an unused one, which saves an import much time.
-PreparedStatement& RecordWriter::insertStatement()
+PreparedStatement& RowWriter::insertStatement()
 {
     const bool follows = stage().transaction != 0 && stage() == m_added;
     auto& statement = follows ? m_insertBehind : m_insert;
@@ -83,7 +83,7 @@ PreparedStatement& RecordWriter::insertStatement()
     return *statement;
 }
 
-PreparedStatement& RecordWriter::updateOf(const std::vector<int>& fields)
+PreparedStatement& RowWriter::updateOf(const std::vector<int>& fields)
 {
     if (m_updates.size() >= mostUpdates && !m_updates.contains(fields))
         m_updates.clear();
@@ -93,7 +93,7 @@ PreparedStatement& RecordWriter::updateOf(const std::vector<int>& fields)
     return *statement;
 }
 
-void RecordWriter::checkRequired(const std::vector<Value>& values) const
+void RowWriter::checkRequired(const std::vector<Value>& values) const
 {
     for (const int field : m_required) {
         if (values[static_cast<std::size_t>(field)].isNull()) {
@@ -104,12 +104,12 @@ void RecordWriter::checkRequired(const std::vector<Value>& values) const
     }
 }
 
-void RecordWriter::failGone() const
+void RowWriter::failGone() const
 {
     throw RuntimeFailure(Failure::RecordDeleted, u"Record is deleted. (%1)"_s.arg(m_shape->name()));
 }
 
-std::int64_t RecordWriter::insert(const std::vector<Value>& values)
+std::int64_t RowWriter::insert(const std::vector<Value>& values)
 {
     checkRequired(values);
     auto& statement = insertStatement();
@@ -121,8 +121,7 @@ std::int64_t RecordWriter::insert(const std::vector<Value>& values)
     return sqlite3_last_insert_rowid(m_connection.handle());
 }
 
-void RecordWriter::update(std::int64_t rowId, const std::vector<Value>& before,
-                          const std::vector<Value>& after)
+void RowWriter::update(std::int64_t rowId, const std::vector<Value>& before, const std::vector<Value>& after)
 {
     checkRequired(after);
     std::vector<int> changed;
@@ -141,7 +140,7 @@ void RecordWriter::update(std::int64_t rowId, const std::vector<Value>& before,
         failGone();
 }
 
-void RecordWriter::remove(std::int64_t rowId)
+void RowWriter::remove(std::int64_t rowId)
 {
     if (!m_remove)
         m_remove = prepare("DELETE FROM " + quotedName(m_shape->name()) + " WHERE _rowid_ = ?");
