@@ -62,7 +62,7 @@ std::optional<Decimal> exportedNumber(const store::Value& stored)
 {
     if (stored.isNull())
         return std::nullopt;
-    return stored.isText() ? Decimal::leading(stored.textView()) : Decimal::leading(stored.toUtf8());
+    return stored.toDecimal();
 }
 
 } // namespace norvane::command

@@ -48,8 +48,7 @@ QString faultOf(const Decimal& price)
 {
     if (price.rounded(priceDecimals) != price)
         return u"a price has at most two decimal places"_s;
-    if (price.coefficient() < 0 ||
-        price.rounded(priceDecimals).shifted(priceDecimals).coefficient() > highestPrice.coefficient())
+    if (price < Decimal() || price.rounded(priceDecimals) > highestPrice)
         return u"a price is from 0 to 999999.99"_s;
     return {};
 }
@@ -294,9 +293,7 @@ QString shownPluValue(const PluColumn& column, const std::string& value)
     const auto number = column.content == PluContent::Price ? Decimal::plain(value) : std::nullopt;
     if (!number || number->scale() > priceDecimals)
         return QString::fromStdString(value);
-    QString digits =
-        QString::number(number->shifted(priceDecimals).coefficient()).rightJustified(priceDecimals + 1, u'0');
-    return digits.insert(digits.size() - priceDecimals, u'.');
+    return QString::fromStdString(number->text(priceDecimals));
 }
 
 } // namespace norvane::command

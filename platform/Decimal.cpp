@@ -8,13 +8,14 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 namespace norvane
 {
 namespace
 {
 
-constexpr int mostDigits = 18;
+constexpr int mostDigits = Decimal::mostDigits;
 /// Powers of ten up to this one are exact in a double.
 constexpr int exactDoublePower = 22;
 constexpr std::int64_t exactDoubleLimit = std::int64_t{1} << 53;
@@ -70,6 +71,17 @@ bool addDigits(std::int64_t& coefficient, std::string_view digits)
         coefficient = coefficient * 10 + (digit - '0');
     }
     return true;
+}
+
+/// @p digits with a point before the last @p places of them.
+std::string pointed(std::string digits, int places)
+{
+    const auto fraction = static_cast<std::size_t>(places);
+    if (digits.size() <= fraction)
+        digits.insert(0, fraction - digits.size() + 1, '0');
+    if (places > 0)
+        digits.insert(digits.size() - fraction, 1, '.');
+    return digits;
 }
 
 Decimal fromScanned(const ScannedNumber& number)
@@ -171,6 +183,24 @@ Decimal Decimal::dividedBy(const Decimal& divisor, int digits) const
     return Decimal(rounded.m_coefficient, scale - surplus).shifted(0);
 }
 
+Decimal Decimal::times(const Decimal& factor) const
+{
+    Decimal a = *this;
+    Decimal b = factor;
+    const auto isTooLong = [&] {
+        return a.digits() + b.digits() > mostDigits;
+    };
+    while (isTooLong() && a.m_scale + b.m_scale > 0) {
+        // Dropping the last place of the longer number changes the product least.
+        const bool isFirst = b.m_scale == 0 || (a.m_scale > 0 && a.digits() > b.digits());
+        Decimal& longer = isFirst ? a : b;
+        longer = longer.rounded(longer.m_scale - 1);
+    }
+    if (isTooLong() && a.m_coefficient != 0 && b.m_coefficient != 0)
+        failOverflow();
+    return {a.m_coefficient * b.m_coefficient, a.m_scale + b.m_scale};
+}
+
 std::int64_t Decimal::toWhole() const
 {
     return rounded(0).shifted(0).m_coefficient;
@@ -178,25 +208,19 @@ std::int64_t Decimal::toWhole() const
 
 int Decimal::digits() const
 {
-    int digits = 1;
-    for (std::int64_t left = m_coefficient / 10; left != 0; left /= 10)
-        ++digits;
-    return digits;
+    const auto above = std::upper_bound(powersOfTen.begin(), powersOfTen.end(), std::abs(m_coefficient));
+    return std::max(1, static_cast<int>(above - powersOfTen.begin()));
 }
 
-std::string Decimal::text() const
+std::string Decimal::text(int places) const
 {
-    const Decimal plain = shifted(0);
-    std::string digits = std::to_string(std::abs(plain.m_coefficient));
-    const auto scale = static_cast<std::size_t>(plain.m_scale);
-    if (digits.size() <= scale)
-        digits.insert(0, scale - digits.size() + 1, '0');
-    if (scale > 0) {
-        digits.insert(digits.size() - scale, 1, '.');
-        digits.erase(digits.find_last_not_of('0') + 1);
-        if (digits.back() == '.')
-            digits.pop_back();
-    }
+    Decimal shown = shifted(0);
+    while (shown.m_scale > places && shown.m_coefficient % 10 == 0)
+        shown = Decimal(shown.m_coefficient / 10, shown.m_scale - 1);
+    std::string digits = std::to_string(std::abs(shown.m_coefficient));
+    if (shown.m_scale < places)
+        digits.append(static_cast<std::size_t>(places - shown.m_scale), '0');
+    digits = pointed(std::move(digits), std::max(places, shown.m_scale));
     return m_coefficient < 0 ? '-' + digits : digits;
 }
 
@@ -215,9 +239,18 @@ double Decimal::toDouble() const
     return value;
 }
 
-bool Decimal::operator==(const Decimal& other) const
+/// The whole parts decide, and for equal ones what is left of the number with more places: no product that
+/// could overflow.
+std::weak_ordering Decimal::operator<=>(const Decimal& other) const
 {
-    return text() == other.text();
+    if (m_scale < other.m_scale)
+        return 0 <=> (other <=> *this);
+    const int surplus = m_scale - other.m_scale;
+    const std::int64_t whole = surplus > mostDigits ? 0 : m_coefficient / powerOfTen(surplus);
+    if (whole != other.m_coefficient)
+        return whole <=> other.m_coefficient;
+    const std::int64_t rest = surplus > mostDigits ? m_coefficient : m_coefficient % powerOfTen(surplus);
+    return rest <=> 0;
 }
 
 } // namespace norvane

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -11,10 +12,13 @@
 namespace norvane
 {
 
-/// coefficient / 10^scale, exact, up to 18 digits. Operations that would need more fail with Overflow (6).
+/// coefficient / 10^scale, exact, up to 18 digits.
+/// @throws RuntimeFailure with Failure::Overflow from operations that would need more digits.
 class Decimal
 {
 public:
+    static constexpr int mostDigits = 18;
+
     constexpr Decimal() = default;
     constexpr Decimal(std::int64_t coefficient, int scale) : m_coefficient(coefficient), m_scale(scale) {}
 
@@ -30,7 +34,9 @@ public:
     /// The shortest decimal that converts to the binary @p number.
     [[nodiscard]] static Decimal fromDouble(double number);
 
+    /// The whole number that is left when the point is taken away; for keeping many numbers in little memory.
     [[nodiscard]] constexpr std::int64_t coefficient() const { return m_coefficient; }
+    /// Places after the point; those of 1.50 are two.
     [[nodiscard]] constexpr int scale() const { return m_scale; }
     /// All digits, those after the point included, without leading zeros; 1 for 0.
     [[nodiscard]] int digits() const;
@@ -41,13 +47,18 @@ public:
     [[nodiscard]] Decimal rounded(int places) const;
     /// The quotient to @p digits significant digits (up to 17), halves away from zero. @p divisor is not 0.
     [[nodiscard]] Decimal dividedBy(const Decimal& divisor, int digits) const;
+    /// The product. One of more than 18 digits is rounded: places of the longer factor are dropped first.
+    [[nodiscard]] Decimal times(const Decimal& factor) const;
     /// Rounded to the whole number, halves away from zero.
     [[nodiscard]] std::int64_t toWhole() const;
-    /// Plain number text without trailing zeros: "12.34", "0.5", "-3".
-    [[nodiscard]] std::string text() const;
+    /// Plain number text without trailing zeros, but with at least @p places after the point: 12.3 is "12.3",
+    /// with two places "12.30". For exactly so many places, round first.
+    [[nodiscard]] std::string text(int places = 0) const;
     [[nodiscard]] double toDouble() const;
 
-    [[nodiscard]] bool operator==(const Decimal& other) const;
+    /// By value, exactly: 1.50 equals 1.5.
+    [[nodiscard]] std::weak_ordering operator<=>(const Decimal& other) const;
+    [[nodiscard]] bool operator==(const Decimal& other) const { return (*this <=> other) == 0; }
 
 private:
     std::int64_t m_coefficient = 0;

@@ -29,7 +29,7 @@ store::Value contentOf(ControlKind kind, const QWidget& control)
         return store::Value::text(static_cast<const ui::TextBox&>(control).text());
     case ControlKind::Integer:
     case ControlKind::Decimal:
-        return store::Value::text(static_cast<const ui::NumberBox&>(control).value().text());
+        return store::Value::decimal(static_cast<const ui::NumberBox&>(control).value());
     case ControlKind::Combo: {
         const QString value = static_cast<const ui::ValueList&>(control).value();
         return value.isNull() ? store::Value() : store::Value::text(value);
@@ -49,7 +49,7 @@ void showContent(ControlKind kind, QWidget& control, const store::Value& content
         break;
     case ControlKind::Integer:
     case ControlKind::Decimal:
-        static_cast<ui::NumberBox&>(control).setValue(Decimal::leading(content.toUtf8()));
+        static_cast<ui::NumberBox&>(control).setValue(content.toDecimal());
         break;
     case ControlKind::Combo:
         static_cast<ui::ValueList&>(control).setValue(comboValue(content));

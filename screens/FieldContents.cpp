@@ -14,7 +14,7 @@ constexpr int pluNumberDigits = 18;
 
 store::Value shownNumber(const store::Value& value)
 {
-    return store::Value::text(Decimal::leading(value.toUtf8()).text());
+    return store::Value::decimal(value.toDecimal());
 }
 
 store::Value leadingNumberOf(const store::Value& value)

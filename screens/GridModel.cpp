@@ -230,7 +230,7 @@ store::Value GridModel::priceOf(int column, QString text) const
     const Decimal number = Decimal::leading(text.toStdString());
     if (isAboveLargest(number, field))
         throw RuntimeFailure(Failure::Overflow, u"%1 is more than a register holds"_s.arg(excerpt(text)));
-    return store::Value::text(number.text());
+    return store::Value::decimal(number);
 }
 
 store::Value GridModel::valueOf(int column, const QString& text) const

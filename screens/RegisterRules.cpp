@@ -56,12 +56,12 @@ constexpr int timeDigits = 4;
 constexpr double modelWithoutCards = 0;
 
 /// Eight digits with two after the point, as the price boxes of the PLU screens.
-constexpr double largestPrice = 999999.99;
+constexpr Decimal largestPrice{99999999, 2};
 
 void narrowTo(ControlDefinition& control, int characters)
 {
     const Decimal width(characters, 0);
-    if (!control.maximum || control.maximum->toDouble() > characters)
+    if (!control.maximum || *control.maximum > width)
         control.maximum = width;
 }
 
@@ -92,7 +92,7 @@ bool isAboveLargest(const Decimal& number, const QString& field)
 {
     const bool isPrice = field.startsWith("price"_L1, Qt::CaseInsensitive) ||
                          field.startsWith("europrice"_L1, Qt::CaseInsensitive);
-    return isPrice && number.toDouble() > largestPrice;
+    return isPrice && number > largestPrice;
 }
 
 void fitToRegister(ControlDefinition& control, const QString& table, const ApplicationValues& values)

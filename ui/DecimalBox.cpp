@@ -25,14 +25,7 @@ void DecimalBox::setDecimals(int decimals)
 
 QString DecimalBox::shownText(const Decimal& value) const
 {
-    QString text = QString::fromStdString(value.text());
-    auto point = text.indexOf(u'.');
-    if (point < 0 && m_decimals > 0) {
-        point = text.size();
-        text += u'.';
-    }
-    const auto behindPoint = point < 0 ? 0 : text.size() - point - 1;
-    return text + QString(qMax<qsizetype>(0, m_decimals - behindPoint), u'0');
+    return QString::fromStdString(value.text(m_decimals));
 }
 
 } // namespace norvane::ui

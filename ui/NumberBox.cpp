@@ -15,9 +15,6 @@ namespace norvane::ui
 namespace
 {
 
-/// As many digits as exact numbers hold.
-constexpr int mostDigits = 18;
-
 QStringView withoutLeadingZeros(QStringView digits)
 {
     while (digits.startsWith(u'0'))
@@ -29,19 +26,6 @@ qsizetype digitsIn(QStringView text)
 {
     return std::count_if(text.begin(), text.end(),
                          [](QChar character) { return character >= u'0' && character <= u'9'; });
-}
-
-/// Compares plain number texts digit by digit: no digit of a long number is lost.
-bool isAbove(const QString& left, const QString& right)
-{
-    const QStringView leftWhole = withoutLeadingZeros(QStringView(left).left(left.indexOf(u'.')));
-    const QStringView rightWhole = withoutLeadingZeros(QStringView(right).left(right.indexOf(u'.')));
-    if (leftWhole.size() != rightWhole.size())
-        return leftWhole.size() > rightWhole.size();
-    if (leftWhole != rightWhole)
-        return leftWhole > rightWhole;
-    return left.section(u'.', 1).leftJustified(mostDigits, u'0') >
-           right.section(u'.', 1).leftJustified(mostDigits, u'0');
 }
 
 } // namespace
@@ -85,14 +69,13 @@ NumberBox::NumberBox(Point point, QWidget* parent)
 
 void NumberBox::setMaximum(const Decimal& maximum)
 {
-    m_maximum = QString::fromStdString(maximum.text());
+    m_maximum = maximum;
     tellRange();
 }
 
 void NumberBox::tellRange()
 {
-    const QString largest = m_maximum.isEmpty() ? QString(mostDigits, u'9')
-                                                : shownText(Decimal::leading(m_maximum.toStdString()));
+    const QString largest = m_maximum ? shownText(*m_maximum) : QString(Decimal::mostDigits, u'9');
     setToolTip(u"From 0 to "_s + largest);
 }
 
@@ -103,7 +86,7 @@ Decimal NumberBox::value() const
 
 void NumberBox::setValue(const Decimal& value)
 {
-    m_validator->allowMinus(value.coefficient() < 0);
+    m_validator->allowMinus(value < Decimal());
     if (const QString shown = shownText(value); shown != text())
         showText(shown);
 }
@@ -129,9 +112,8 @@ void NumberBox::takeGiven()
 
 bool NumberBox::isTooLarge(const QString& text) const
 {
-    const QStringView digits = withoutLeadingZeros(text);
-    return digitsIn(digits) > mostDigits ||
-           (!m_maximum.isEmpty() && !text.startsWith(u'-') && isAbove(text, m_maximum));
+    return digitsIn(withoutLeadingZeros(text)) > Decimal::mostDigits ||
+           (m_maximum && Decimal::leading(text.toStdString()) > *m_maximum);
 }
 
 void NumberBox::focusInEvent(QFocusEvent* event)

@@ -5,6 +5,8 @@
 
 #include <QLineEdit>
 
+#include <optional>
+
 namespace norvane::ui
 {
 
@@ -52,7 +54,7 @@ private:
     Validator* m_validator;
     bool m_isFirstClick = false; ///< the mouse button that brought the focus is still down
     QString m_known;             ///< the text last shown or typed
-    QString m_maximum;           ///< plain number text; empty without a maximum
+    std::optional<Decimal> m_maximum;
 };
 
 } // namespace norvane::ui

@@ -31,12 +31,12 @@ bool isWhollyNumber(const QString& answer)
 std::string convertedPrice(std::string_view price, const Decimal& rate)
 {
     const Decimal quotient = Decimal::leading(price).dividedBy(rate, significantDigits);
-    const std::int64_t cut = quotient.rounded(4).shifted(4).coefficient() / 10;
+    const std::int64_t cut = quotient.shifted(4).toWhole() / 10;
     const std::int64_t lastDigit = std::abs(cut) % 10;
     // `cut` counts thousandths. Its last digit is subtracted from the signed number, so a negative price
     // moves away from zero: -1.234 becomes -1.238 and then -1.24.
     const Decimal result = Decimal(lastDigit >= 5 ? cut : cut - lastDigit, 3).rounded(2);
-    return result.coefficient() < 0 ? result.text() : ' ' + result.text();
+    return result < Decimal() ? result.text() : ' ' + result.text();
 }
 
 } // namespace norvane::utilities

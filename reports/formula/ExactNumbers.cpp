@@ -4,8 +4,6 @@
 #include "platform/DecimalTotal.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <limits>
 #include <type_traits>
 
 namespace norvane::reports
@@ -21,7 +19,7 @@ std::size_t lengthOfFirstDigits(std::string_view number)
         const char c = number[at];
         if (c < '0' || c > '9' || (c == '0' && digits == 0))
             continue;
-        if (++digits > std::size_t{mostDigits})
+        if (++digits > std::size_t{Decimal::mostDigits})
             return at;
     }
     return number.size();
@@ -42,14 +40,6 @@ void markTail(std::string& kept)
 
 } // namespace
 
-int digitsOf(std::int64_t number)
-{
-    int digits = 1;
-    while ((number /= 10) != 0)
-        ++digits;
-    return digits;
-}
-
 std::string exactText(const store::Value& value)
 {
     DecimalTotal total;
@@ -59,6 +49,8 @@ std::string exactText(const store::Value& value)
             total.add(std::string_view(number));
         } else if constexpr (std::is_same_v<Kind, bool>) {
             total.add(std::int64_t{number ? -1 : 0});
+        } else if constexpr (std::is_same_v<Kind, Decimal>) {
+            total.add(std::string_view(number.text()));
         } else if constexpr (std::is_arithmetic_v<Kind>) {
             total.add(number);
         }
@@ -94,25 +86,6 @@ std::string roundedText(std::string_view exact, int places)
     total.add(exact.substr(0, point));
     total.add(std::string_view(decimalOf(tail).rounded(places).text()));
     return total.text();
-}
-
-Decimal product(const Decimal& left, const Decimal& right)
-{
-    Decimal a = left;
-    Decimal b = right;
-    const auto wide = [&] {
-        return digitsOf(a.coefficient()) + digitsOf(b.coefficient()) > mostDigits;
-    };
-    while (wide() && a.scale() + b.scale() > 0) {
-        // Dropping the last place of the longer number changes the product least.
-        Decimal& longer =
-            (b.scale() == 0 || (a.scale() > 0 && digitsOf(a.coefficient()) > digitsOf(b.coefficient()))) ? a
-                                                                                                         : b;
-        longer = longer.rounded(longer.scale() - 1);
-    }
-    if (wide())
-        return Decimal(a.coefficient(), 0).shifted(mostDigits); // throws: too large
-    return {a.coefficient() * b.coefficient(), a.scale() + b.scale()};
 }
 
 } // namespace norvane::reports

@@ -4,18 +4,11 @@
 #include "platform/Decimal.h"
 #include "store/engine/Value.h"
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace norvane::reports
 {
-
-/// Digits that a Decimal holds.
-inline constexpr int mostDigits = 18;
-
-/// The count of decimal digits of @p number without its sign; 1 for 0.
-[[nodiscard]] int digitsOf(std::int64_t number);
 
 /// The decimal text of a stored value: a double is its shortest decimal; null, a text that is not a number
 /// and a date count as "0".
@@ -32,9 +25,5 @@ inline constexpr int mostDigits = 18;
 
 /// The number in @p exact, rounded to @p places, halves away from zero, with all digits before the point.
 [[nodiscard]] std::string roundedText(std::string_view exact, int places);
-
-/// The product of both: exact with at most 18 digits, otherwise rounded to 18.
-/// @throws RuntimeFailure with Failure::Overflow if there are more than 18 digits before the point.
-[[nodiscard]] Decimal product(const Decimal& left, const Decimal& right);
 
 } // namespace norvane::reports

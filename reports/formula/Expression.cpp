@@ -285,8 +285,8 @@ std::optional<Decimal> Expression::quotient(const SlotNumbers& numbers) const
     if (!left || !right)
         return std::nullopt;
     if (m_kind == Kind::Product)
-        return reports::product(*left, *right);
-    if (right->coefficient() == 0)
+        return left->times(*right);
+    if (*right == Decimal())
         return std::nullopt;
     return left->dividedBy(*right, quotientDigits);
 }

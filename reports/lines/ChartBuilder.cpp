@@ -95,9 +95,8 @@ void ChartPoints::putMonthsTogether()
 /// up the whole.
 void ChartPoints::keepLargest()
 {
-    std::erase_if(m_points, [](const ChartPoint& point) { return point.value.coefficient() <= 0; });
-    std::ranges::stable_sort(m_points, std::ranges::greater(),
-                             [](const ChartPoint& point) { return point.value.toDouble(); });
+    std::erase_if(m_points, [](const ChartPoint& point) { return point.value <= Decimal(); });
+    std::ranges::stable_sort(m_points, std::ranges::greater(), &ChartPoint::value);
     const bool isShares = m_layout.kind == ChartKind::Shares;
     std::size_t most = m_layout.most > 0 ? static_cast<std::size_t>(m_layout.most) : m_points.size();
     if (isShares)

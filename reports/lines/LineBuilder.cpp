@@ -191,7 +191,7 @@ std::optional<ReportCell> LineBuilder::shortNumber(const ColumnLayout& column, c
         const auto value = column.number->value(numbers);
         if (!value)
             return ReportCell();
-        if (digitsOf(value->coefficient()) < mostDigits)
+        if (value->digits() < Decimal::mostDigits)
             return ReportCell(*value);
     } catch (const RuntimeFailure& failure) {
         if (failure.failure() != Failure::Overflow)
@@ -228,7 +228,7 @@ void LineBuilder::noteShown()
             if (m_isShown[i])
                 break;
             const auto value = expression.value({m_numbers.numbers(), m_whole});
-            m_isShown[i] = value && value->coefficient() != 0;
+            m_isShown[i] = value && *value != Decimal();
         }
     }
 }

@@ -65,7 +65,7 @@ public:
         const int separators = m_column.dress.isGrouped ? (whole - 1) / 3 : 0;
         // The point is no wider than the sign.
         return m_currency + separators * m_separator + (whole + places) * m_digit +
-               (places > 0 ? m_sign : 0) + (number.coefficient() < 0 ? m_sign : 0);
+               (places > 0 ? m_sign : 0) + (number < Decimal() ? m_sign : 0);
     }
 
 private:

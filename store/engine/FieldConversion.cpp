@@ -65,10 +65,16 @@ std::optional<double> wholeTextNumber(std::string_view text)
     return scanned ? norvane::toDouble(*scanned) : std::nullopt;
 }
 
+bool isDecimal(const Value& value)
+{
+    return std::holds_alternative<Decimal>(value.data());
+}
+
 /// The numeric value of a field; nothing for null, dates and texts that are not numbers.
 std::optional<double> numberOf(const Value& value)
 {
-    if (value.isYesNo() || value.isWhole() || (value.isDouble() && std::isfinite(value.toNumber())))
+    if (value.isYesNo() || value.isWhole() || isDecimal(value) ||
+        (value.isDouble() && std::isfinite(value.toNumber())))
         return value.toNumber();
     if (value.isText())
         return wholeTextNumber(value.textView());
@@ -104,6 +110,8 @@ std::optional<Value> toDouble(const Value& value)
 /// Digits are kept as written, leading zeros too; a number in another form becomes its digits.
 std::optional<Value> toDigits(const Value& value)
 {
+    if (isDecimal(value))
+        return toDigits(Value::text(value.toUtf8()));
     std::string_view text = trimBlanks(value.textView());
     const bool negative = text.starts_with('-');
     if (isDigits(text.substr(negative ? 1 : 0)))

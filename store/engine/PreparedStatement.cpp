@@ -142,6 +142,8 @@ void PreparedStatement::bind(int parameter, const Value& value)
         check(sqlite3_bind_double(statement, parameter, *number));
     } else if (const auto* date = std::get_if<QDate>(&value.data())) {
         bindDay(parameter, *date);
+    } else if (const auto* decimal = std::get_if<Decimal>(&value.data())) {
+        check(sqlite3_bind_double(statement, parameter, decimal->toDouble()));
     } else {
         check(sqlite3_bind_null(statement, parameter));
     }

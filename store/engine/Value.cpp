@@ -1,7 +1,6 @@
 // What a value looks like as text, number and date, whichever kind it holds; see Value.h.
 #include "store/engine/Value.h"
 
-#include "platform/Decimal.h"
 #include "platform/Numbers.h"
 #include "store/engine/FieldConversion.h"
 
@@ -32,6 +31,7 @@ bool Value::isTrue() const
     return std::visit(Overloaded{[](bool yes) { return yes; },
                                  [](std::int64_t number) { return number == -1; },
                                  [](double number) { return number == -1; },
+                                 [](const Decimal& number) { return number == Decimal(-1, 0); },
                                  [](const auto&) {
                                      return false;
                                  }},
@@ -49,6 +49,7 @@ std::string Value::toUtf8() const
                                  [](bool yes) { return std::string(yes ? "True" : "False"); },
                                  [](std::int64_t number) { return std::to_string(number); },
                                  [](double number) { return numberText(number).toStdString(); },
+                                 [](const Decimal& number) { return number.text(); },
                                  [](const std::string& text) { return text; },
                                  [](QDate date) {
                                      return date.toString(u"dd/MM/yyyy"_s).toStdString();
@@ -61,11 +62,19 @@ double Value::toNumber() const
     return std::visit(Overloaded{[](bool yes) { return yes ? -1.0 : 0.0; },
                                  [](std::int64_t number) { return static_cast<double>(number); },
                                  [](double number) { return number; },
+                                 [](const Decimal& number) { return number.toDouble(); },
                                  [](const std::string& text) { return leadingNumberOf(text); },
                                  [](const auto&) {
                                      return 0.0;
                                  }},
                       m_data);
+}
+
+Decimal Value::toDecimal() const
+{
+    if (const auto* number = std::get_if<Decimal>(&m_data))
+        return *number;
+    return isText() ? Decimal::leading(textView()) : Decimal::leading(toUtf8());
 }
 
 QDate Value::toDate() const

@@ -1,5 +1,7 @@
-// A field's value: null, yes/no, whole number, double, text or date.
+// A field's value: null, yes/no, whole number, double, decimal, text or date.
 #pragma once
+
+#include "platform/Decimal.h"
 
 #include <QDate>
 #include <QString>
@@ -13,7 +15,9 @@
 namespace norvane::store
 {
 
-/// What a field holds or is given. Texts are UTF-8. A value carries no field type: the field converts it.
+/// What a field holds or is given. Texts are UTF-8. A value carries no field type: the field converts it. A
+/// decimal is only given, for no field holds one: text fields, such as prices, take its plain text, number
+/// fields the nearest number.
 class Value
 {
 public:
@@ -22,6 +26,7 @@ public:
     [[nodiscard]] static Value yesNo(bool yes) { return Value(Data(yes)); }
     [[nodiscard]] static Value whole(std::int64_t number) { return Value(Data(number)); }
     [[nodiscard]] static Value number(double number) { return Value(Data(number)); }
+    [[nodiscard]] static Value decimal(const Decimal& number) { return Value(Data(number)); }
     [[nodiscard]] static Value text(std::string utf8) { return Value(Data(std::move(utf8))); }
     [[nodiscard]] static Value text(const QString& text) { return Value(Data(text.toStdString())); }
     [[nodiscard]] static Value date(QDate date) { return Value(Data(date)); }
@@ -42,6 +47,9 @@ public:
     [[nodiscard]] std::string toUtf8() const;
     /// The leading number of the text; yes counts as -1, null and no number as 0.
     [[nodiscard]] double toNumber() const;
+    /// The leading number of the plain text, digit for digit. @throws RuntimeFailure with Failure::Overflow
+    /// if it has more than 18 digits.
+    [[nodiscard]] Decimal toDecimal() const;
     [[nodiscard]] QDate toDate() const;
     /// The text itself of a text value, empty otherwise. Lives as long as the value does.
     [[nodiscard]] std::string_view textView() const;
@@ -53,7 +61,7 @@ public:
     void setNumber(double number) { m_data = number; }
     void setText(const char* utf8, std::size_t length);
 
-    using Data = std::variant<std::monostate, bool, std::int64_t, double, std::string, QDate>;
+    using Data = std::variant<std::monostate, bool, std::int64_t, double, Decimal, std::string, QDate>;
     [[nodiscard]] const Data& data() const { return m_data; }
     bool operator==(const Value& other) const = default;
 

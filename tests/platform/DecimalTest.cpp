@@ -1,4 +1,4 @@
-// Exact decimals: texts, moved points and roundings of money, and the way through binary numbers.
+// Exact decimals: texts, order, moved points, roundings, products and quotients, and binary numbers.
 #include "platform/Decimal.h"
 
 #include "platform/DecimalTotal.h"
@@ -29,6 +29,53 @@ TEST(Decimal, TextsComeBackPlain)
     }
     for (const char* text : {"", " ", "12abc", "1 2", ".", "1,5", "1.2.3"})
         EXPECT_FALSE(Decimal::parse(text)) << text;
+}
+
+TEST(Decimal, IsSpelledWithAtLeastSoManyPlaces)
+{
+    const struct {
+        const char* number;
+        int places;
+        const char* text;
+        const char* rounded; ///< to as many places first
+    } rows[] = {{"12.3", 2, "12.30", "12.30"},
+                {"-0.5", 0, "-0.5", "-1"},
+                {"0", 3, "0.000", "0.000"},
+                {"1.50", 1, "1.5", "1.5"},
+                {"999999999999999999", 2, "999999999999999999.00", "999999999999999999.00"},
+                {"2.345", 2, "2.345", "2.35"},
+                {"-0.004", 2, "-0.004", "0.00"},
+                {"9.999", 2, "9.999", "10.00"}};
+    for (const auto& row : rows) {
+        const auto number = *Decimal::parse(row.number);
+        EXPECT_EQ(number.text(row.places), row.text);
+        EXPECT_EQ(number.rounded(row.places).text(row.places), row.rounded);
+    }
+}
+
+TEST(Decimal, OrderIsThatOfTheValues)
+{
+    const Decimal ascending[] = {{-999999999999999999, 0},
+                                 {-1000001, 0},
+                                 {-99999999, 2},
+                                 {-10, 1},
+                                 {-999999999999999999, 18},
+                                 {-1, 400},
+                                 {0, 5},
+                                 {1, 400},
+                                 {1, 18},
+                                 {1, 1},
+                                 {99999998, 2},
+                                 {99999999, 2},
+                                 {999999991, 3},
+                                 {1, -6},
+                                 {999999999999999999, 0}};
+    for (std::size_t i = 0; i < std::size(ascending); ++i) {
+        for (std::size_t j = 0; j < std::size(ascending); ++j)
+            EXPECT_EQ(ascending[i] <=> ascending[j], i <=> j) << i << ' ' << j;
+    }
+    EXPECT_EQ(Decimal(150, 2), Decimal(15, 1));
+    EXPECT_EQ(Decimal(0, 5), Decimal());
 }
 
 TEST(Decimal, TotalsLoseNoDigit)
@@ -68,6 +115,21 @@ TEST(Decimal, DividesToAsManyDigitsAsAskedFor)
                 {"123456789012345678", "1", 5, "123460000000000000"}};
     for (const auto& [number, divisor, digits, quotient] : rows)
         EXPECT_EQ(Decimal::parse(number)->dividedBy(*Decimal::parse(divisor), digits).text(), quotient);
+}
+
+TEST(Decimal, ProductsLosePlacesOnlyBeyondEighteenDigits)
+{
+    const struct {
+        const char* left;
+        const char* right;
+        const char* product;
+    } rows[] = {{"1.5", "-2.25", "-3.375"},
+                {"123456789012345678", "0", "0"},
+                {"0.333333333333333333", "3", "0.99999999999999999"},
+                {"123456789.12", "987654321.98", "121932631236092058"}};
+    for (const auto& row : rows)
+        EXPECT_EQ(Decimal::parse(row.left)->times(*Decimal::parse(row.right)).text(), row.product);
+    EXPECT_EQ(failureOf([] { (void)Decimal(1'000'000'000, 0).times(Decimal(1'000'000'000, 0)); }), 6);
 }
 
 TEST(Decimal, MovesThePointAndRoundsHalvesAwayFromZero)
