@@ -29,36 +29,40 @@ QString fromColumn(const char* text)
 void readText(sqlite3_stmt* statement, int column, Value& value)
 {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    const auto length = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
     if (text == nullptr) {
-        value.setNull();
+        value.data() = std::monostate();
+    } else if (auto* held = std::get_if<std::string>(&value.data())) {
+        held->assign(text, length);
     } else {
-        value.setText(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+        value.data().emplace<std::string>(text, length);
     }
 }
 
 /// The engine reads a null as 0, so only for a 0 the type has to be asked.
 template <typename Number>
-bool isNull(sqlite3_stmt* statement, int column, Number read)
+void setUnlessNull(Value& value, Number read, sqlite3_stmt* statement, int column)
 {
-    return read == 0 && sqlite3_column_type(statement, column) == SQLITE_NULL;
+    if (read == Number{} && sqlite3_column_type(statement, column) == SQLITE_NULL) {
+        value.data() = std::monostate();
+    } else {
+        value.data() = read;
+    }
 }
 
 void readYesNo(sqlite3_stmt* statement, int column, Value& value)
 {
-    const int yes = sqlite3_column_int(statement, column);
-    isNull(statement, column, yes) ? value.setNull() : value.setYesNo(yes != 0);
+    setUnlessNull(value, sqlite3_column_int(statement, column) != 0, statement, column);
 }
 
 void readWhole(sqlite3_stmt* statement, int column, Value& value)
 {
-    const std::int64_t number = sqlite3_column_int64(statement, column);
-    isNull(statement, column, number) ? value.setNull() : value.setWhole(number);
+    setUnlessNull(value, std::int64_t{sqlite3_column_int64(statement, column)}, statement, column);
 }
 
 void readNumber(sqlite3_stmt* statement, int column, Value& value)
 {
-    const double number = sqlite3_column_double(statement, column);
-    isNull(statement, column, number) ? value.setNull() : value.setNumber(number);
+    setUnlessNull(value, sqlite3_column_double(statement, column), statement, column);
 }
 
 void readDay(sqlite3_stmt* statement, int column, Value& value)

@@ -132,9 +132,7 @@ TableShape::TableShape(TableDefinition definition)
 
 void TableShape::fillNew(std::vector<Value>& values) const
 {
-    values.resize(m_defaults.size());
-    for (Value& value : values)
-        value.setNull();
+    values.assign(m_defaults.size(), Value());
     for (const std::size_t ordinal : m_withDefault)
         values[ordinal] = m_defaults[ordinal];
 }

@@ -93,13 +93,4 @@ std::string_view Value::textView() const
     return text ? std::string_view(*text) : std::string_view();
 }
 
-void Value::setText(const char* utf8, std::size_t length)
-{
-    if (auto* text = std::get_if<std::string>(&m_data)) {
-        text->assign(utf8, length);
-    } else {
-        m_data.emplace<std::string>(utf8, length);
-    }
-}
-
 } // namespace norvane::store

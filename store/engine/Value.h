@@ -6,7 +6,6 @@
 #include <QDate>
 #include <QString>
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -54,15 +53,10 @@ public:
     /// The text itself of a text value, empty otherwise. Lives as long as the value does.
     [[nodiscard]] std::string_view textView() const;
 
-    /// Change the value in place. A walk reads row after row into one value so, and a text keeps its memory.
-    void setNull() { m_data = std::monostate(); }
-    void setYesNo(bool yes) { m_data = yes; }
-    void setWhole(std::int64_t number) { m_data = number; }
-    void setNumber(double number) { m_data = number; }
-    void setText(const char* utf8, std::size_t length);
-
     using Data = std::variant<std::monostate, bool, std::int64_t, double, Decimal, std::string, QDate>;
     [[nodiscard]] const Data& data() const { return m_data; }
+    /// To change the value in place. A walk reads row after row into one value, and a text keeps its memory.
+    [[nodiscard]] Data& data() { return m_data; }
     bool operator==(const Value& other) const = default;
 
 private:
