@@ -13,7 +13,7 @@ cmake --preset release
 cmake --build --preset release --target norvane norvane-shop template_database user_guide package_files
 rm -rf build/packages
 cpack --config build/release/CPackConfig.cmake
-# The work folder of cpack, and sums that nobody asked for.
+# The work folder of cpack, and checksums that are not needed.
 rm -rf build/packages/_CPack_Packages
 echo "Made:"
 du -h build/packages/*

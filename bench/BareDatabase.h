@@ -54,7 +54,7 @@ inline void bindText(sqlite3_stmt* statement, int place, std::string_view text)
     sqlite3_bind_text(statement, place, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
 }
 
-/// Empty for null. Good until the next step.
+/// Empty for null. Valid until the next step.
 inline std::string_view columnText(sqlite3_stmt* statement, int place)
 {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, place));

@@ -73,7 +73,7 @@ void importLevel(benchmark::State& state)
     require(document.cell(36).text == u"Article"_s, "the keys have their texts");
 }
 
-/// From the form's making to its first picture.
+/// From the creation of the form to its first paint.
 void openDesigner(benchmark::State& state)
 {
     const ApplicationValues values;

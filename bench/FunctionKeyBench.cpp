@@ -69,7 +69,7 @@ void openFunctionKeys(benchmark::State& state)
     state.counters["processor_ms"] = cost.processor / static_cast<double>(state.iterations()) * 1e3;
 }
 
-/// From the first key to the last and over again; every kind of key comes.
+/// From the first key to the last and again; every kind of key is shown.
 void changeKey(benchmark::State& state)
 {
     Shop shop;

@@ -59,7 +59,7 @@ void writePdf(benchmark::State& state)
     state.counters["kilobytes"] = static_cast<double>(QFileInfo(path).size()) / 1000;
 }
 
-/// From the dialog's making to its first picture.
+/// From the creation of the dialog to its first paint.
 void openPreview(benchmark::State& state)
 {
     const Document document = fullDocument();

@@ -51,7 +51,7 @@ std::string declarationOf(const NameTable& table)
            ", PRIMARY KEY (shop, " + std::string(table.columns.front().name) + "))";
 }
 
-/// The books: which shops there are, and what of each is published.
+/// Bookkeeping: which shops there are, and what of each is published.
 constexpr auto books = std::to_array<const char*>({
     "CREATE TABLE shops (shop integer GENERATED ALWAYS AS IDENTITY PRIMARY KEY, name text NOT NULL, "
     "folded_name text NOT NULL UNIQUE, folder_id uuid NOT NULL UNIQUE, "
@@ -80,8 +80,8 @@ constexpr auto steps = std::to_array<SchemaStep>({tableStatements, viewStatement
 constexpr int currentVersion = static_cast<int>(steps.size());
 constexpr const char* versionTable = "chain_version";
 
-/// The functions that find a name look into a memory of the connection, which does not learn what others made
-/// while this one waited for the lock.
+/// The functions that find a name use a cache of the connection, which does not see what others created while
+/// this one waited for the lock.
 bool hasSchema(pqxx::work& work)
 {
     return work

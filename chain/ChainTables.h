@@ -1,4 +1,4 @@
-// What of a customer's database is published, and under which names.
+// The parts of a customer's database that are published, and their names there.
 #pragma once
 
 #include <span>
@@ -30,7 +30,8 @@ struct SalesTable {
     const char* source; ///< in the customer's database
     const char* name;   ///< in PostgreSQL
     std::span<const ChainColumn> items;
-    int places; ///< the shop's database holds the sums times ten to this, as the register sends them
+    int places; ///< the shop's database stores the sums multiplied by ten to this power, as the register
+                ///< sends them
 };
 
 /// What the numbers of sales mean now. The first column is the key.
@@ -49,7 +50,7 @@ struct NameTable {
 /// The fields of the source that are added up. @pre the catalogue has the source.
 [[nodiscard]] std::vector<std::string> addedFields(const SalesTable& table);
 
-/// PostgreSQL's word for a content.
+/// PostgreSQL's type for a content.
 [[nodiscard]] const char* typeOf(Content content);
 
 } // namespace norvane::chain

@@ -17,7 +17,7 @@ namespace norvane::chain
 enum class Vanished {
     Ask,   ///< they remain, and the next publication reports them again
     Keep,  ///< they remain and are no longer reported
-    Remove ///< they go
+    Remove ///< they are deleted
 };
 
 /// Choices of one publication.

@@ -38,7 +38,7 @@ Options parsed(const QString& connection)
     return options;
 }
 
-/// What a connection text or, where that is silent, the environment says.
+/// The value from the connection text or, if it has none, from the environment.
 QString valueOf(const Options& options, std::initializer_list<QLatin1StringView> keywords)
 {
     const Options defaults(PQconndefaults(), &PQconninfoFree);
@@ -64,7 +64,7 @@ void setUnlessSet(const char* variable, const char* value)
         qputenv(variable, value);
 }
 
-/// The server said itself that it ends, or that the connection does.
+/// The server reported that it is shutting down or closing the connection.
 bool isFarewell(const pqxx::sql_error& error)
 {
     return error.sqlstate().starts_with("57P") || error.sqlstate().starts_with("08");
@@ -89,7 +89,7 @@ void Server::connect(const QString& connection)
     const Options options = parsed(connection);
     m_where = placeOf(options);
     m_password = valueOf(options, {"password"_L1});
-    // A server that does not answer must not hold up a night.
+    // A server that does not answer must not block the nightly run.
     setUnlessSet("PGCONNECT_TIMEOUT", "10");
     setUnlessSet("PGAPPNAME", "norvane-shop");
     try {
@@ -102,7 +102,7 @@ void Server::connect(const QString& connection)
     }
 }
 
-/// A register's text has characters that other encodings lack, and SQL_ASCII stores anything unlooked at.
+/// A register's text has characters that other encodings lack, and SQL_ASCII stores any bytes unchecked.
 void Server::checkEncoding()
 {
     std::string encoding;
@@ -133,7 +133,7 @@ void Server::transact(const std::function<void(pqxx::work&)>& work)
         failGone("the connection was lost while rows were being committed; the next publication finds out "
                  "whether they were.");
     } catch (const pqxx::failure& failure) {
-        // It is the library that speaks: the connection has failed.
+        // The message is the library's: the connection has failed.
         failGone(failure.what());
     }
 }

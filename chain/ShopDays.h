@@ -46,7 +46,7 @@ private:
 
     store::Database& m_database;
     std::int64_t m_version; ///< of the file before anything was read
-    /// Of each table, empty when it is not known.
+    /// One for each table; empty if it is not known.
     std::map<QDate, std::vector<std::string>> m_digests;
     std::vector<std::map<QDate, std::string>> m_new; ///< by table
 };

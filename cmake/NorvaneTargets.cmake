@@ -2,7 +2,7 @@
 
 include(GNUInstallDirs)
 
-# Warnings (all errors) and sanitizers, linked privately by every target of ours.
+# Warnings (all errors) and sanitizers, linked privately by every target of this project.
 add_library(norvane_options INTERFACE)
 target_compile_options(norvane_options INTERFACE
   $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow

@@ -1,4 +1,4 @@
-// Holds the screens and layouts of a folder against the table catalogue.
+// Checks the screens and layouts of a folder against the table catalogue.
 #pragma once
 
 #include <QString>

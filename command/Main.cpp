@@ -69,7 +69,7 @@ ExitCode guarded(const QStringList& words)
     return ExitCode::Failed;
 }
 
-/// The toolkit's remarks about the machine are not for a script's mail.
+/// The toolkit's notices about the machine must not end up in a script's mail.
 void keepToolkitQuiet(QtMsgType type, const QMessageLogContext& /*place*/, const QString& text)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)

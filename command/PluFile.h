@@ -40,7 +40,7 @@ public:
     [[nodiscard]] const std::vector<PluLine>& lines() const { return m_lines; }
     [[nodiscard]] const PluMistakes& mistakes() const { return m_mistakes; }
     [[nodiscard]] const DecimalSign& decimalSign() const { return m_decimalSign; }
-    /// One cell for each column, UTF-8; good until the next call.
+    /// One cell for each column, UTF-8; valid until the next call.
     [[nodiscard]] std::span<const std::string> cells(std::uint32_t line) const;
     /// The index of the line with this number when nobody took it before; it is taken then.
     [[nodiscard]] std::optional<std::uint32_t> take(std::uint64_t number);

@@ -227,7 +227,7 @@ private:
         m_former += '\0';
     }
 
-    /// An export writes three places only of a price that has them.
+    /// An export writes three places only for a price that has them.
     [[nodiscard]] bool isExported(std::string_view cell, const Decimal& before) const
     {
         return !m_file.decimalSign().leavesOpen(cell) || before.rounded(priceDecimals) != before;

@@ -29,7 +29,7 @@ struct PluChange {
     std::vector<PluFieldChange> fields; ///< in the order of the file's columns
 };
 
-/// A file held against the PLUs of a database. Of a change only the place in the file and the former values
+/// A file compared with the PLUs of a database. Of a change only the place in the file and the former values
 /// are kept, so that a file of a million lines takes little more memory than its text.
 class PluComparison
 {

@@ -1,4 +1,4 @@
-// Shops into the PostgreSQL of their chain.
+// Publishes shops to the PostgreSQL of their chain.
 #include "chain/ChainSchema.h"
 #include "chain/Publisher.h"
 #include "command/StopSignals.h"
@@ -137,7 +137,7 @@ void PublishRun::run()
         throw CommandError(m_code, {});
 }
 
-/// A name that is mistyped stops everything, a damaged shop itself alone.
+/// A mistyped name stops the whole run, a damaged shop only its own publication.
 std::vector<ApplicationValues> PublishRun::takeCustomers()
 {
     std::vector<ApplicationValues> customers;

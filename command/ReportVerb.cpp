@@ -1,4 +1,4 @@
-// A report into files.
+// Writes a report to files.
 #include "base/CustomerSettings.h"
 #include "command/CsvOption.h"
 #include "command/ReportPeriods.h"

@@ -101,7 +101,7 @@ ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
     ApplicationValues values = findCustomer(workplace, name);
     const CommandError none(ExitCode::NoCustomer,
                             u"The customer \"%1\" has no database %2."_s.arg(name, values.databasePath));
-    // Choosing one that is not there would make it.
+    // Choosing a missing customer would create it.
     if (!pathExists(values.databasePath))
         throw none;
     switch (customers::chooseCustomer(values, values.customerName)) {

@@ -28,7 +28,7 @@ constexpr int daysKept = 7;
 const auto nameFormat = u"yyyy-MM-dd HH.mm.ss"_s;
 const auto copiedDatabase = u"velmar.mdb"_s;
 
-/// What is beside the database and goes with it: settings and register files.
+/// Files beside the database that are copied with it: settings and register files.
 const QStringList& copiedFiles()
 {
     static const QStringList patterns{u"*.ini"_s, u"*.dat"_s, u"*.dat.former"_s};

@@ -20,7 +20,7 @@ enum class Copy {
     ToCustomerAfter,         ///< the file just made and sent becomes the customer's kept copy
     FromCustomerAfter,       ///< the customer's older copy replaces the file just sent
     FromCustomerBefore,      ///< the customer's kept copy is what is sent
-    FromCustomerUnlessEmpty, ///< the same, but a copy without bytes is not sent; a missing one is a failure
+    FromCustomerUnlessEmpty, ///< the same, but an empty copy is not sent; a missing one is a failure
 };
 
 /// A file sent to all registers of the range. The file catalogue has the procedure that makes it from its

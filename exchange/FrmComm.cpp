@@ -28,7 +28,7 @@ namespace
 constexpr std::array<int, 4> columnStarts{0, 13, 26, boxCount};
 /// What is above and below the boxes, in device-independent pixels.
 constexpr int aboveAndBelow = 220;
-/// Room between the columns, in device-independent pixels.
+/// Space between the columns, in device-independent pixels.
 constexpr int columnGap = 2 * ui::spacing::groupGap;
 
 /// What is wrong with the settings is reported when OK is pressed.

@@ -82,6 +82,7 @@ void tryExpression(const QString& formula)
     if (!parses([&] { expression = reports::parseExpression(formula, fields); }))
         return;
     std::vector<std::string> line;
+    line.reserve(static_cast<std::size_t>(slots));
     for (int i = 0; i < slots; ++i)
         line.emplace_back(numbers[static_cast<std::size_t>(i) % numbers.size()]);
     std::vector<bool> marked(line.size());

@@ -41,7 +41,7 @@ struct KeyGeometry {
     int keysPerLevel; ///< rows of KEYLINK and of NLU for a level
     std::span<const FixedCell> fixedCells;
 
-    /// Rows of both tables ahead of those of @p level, which counts from 1.
+    /// Rows of both tables before those of @p level, which counts from 1.
     [[nodiscard]] int rowsAhead(int level) const { return (level - 1) * keysPerLevel; }
     /// The text of a fixed cell, nullptr for any other cell.
     [[nodiscard]] const FixedCell* fixedAt(KeyCell cell) const;

@@ -30,7 +30,7 @@ QString zeroFilled(const QString& number, int width)
     return number.rightJustified(width, u'0');
 }
 
-/// Leading zeros beyond the width go, digits never do.
+/// Leading zeros beyond the width are dropped, other digits never are.
 QString shownNumber(const QString& number)
 {
     return zeroFilled(store::shownKey(u"PLUNUMBER"_s, number), shownWidth);

@@ -48,7 +48,7 @@ struct Key {
 struct ItemTable {
     QLatin1StringView table;
     QLatin1StringView number;       ///< field
-    QLatin1StringView mark;         ///< ahead of the number in a cell; a function shows no number
+    QLatin1StringView mark;         ///< before the number in a cell; a function shows no number
     QLatin1StringView missingKey;   ///< the cell of a key whose item does not exist
     QLatin1StringView missingEntry; ///< the cell after the choice of an item that does not exist
     KeyState state;

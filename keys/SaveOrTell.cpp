@@ -11,7 +11,7 @@ namespace norvane::keys
 namespace
 {
 
-/// Of what no upload from a register would help.
+/// Failures that no upload from a register would repair.
 QString wayOut(const RuntimeFailure& failure)
 {
     return failure.failure() == Failure::DatabaseLocked

@@ -16,14 +16,14 @@ namespace norvane::link
 /// @throws RuntimeFailure with Failure::PathOrFileAccess if another one cannot be removed.
 void keepLatestSpelling(const QString& path);
 
-/// The files that a step is to write, as they were before it. The existence of a file does not show that this
-/// step wrote it: an old one looks the same. A file that was just written gets a time some seconds older, so
-/// that writing the same bytes again can be distinguished from not writing, however coarse the file system's
-/// times are.
+/// The files that a step is to write, as they were before it. That a file exists does not show that this step
+/// wrote it: an old one looks the same. A file that was just written gets a time some seconds older, so that
+/// writing the same bytes again can be distinguished from not writing, however coarse the file system's times
+/// are.
 class ExpectedFiles
 {
 public:
-    /// Notes files of the working directory; @p names meet without regard to case.
+    /// Notes files of the working directory; @p names are matched without regard to case.
     /// @throws RuntimeFailure as keepLatestSpelling().
     explicit ExpectedFiles(const QStringList& names);
 

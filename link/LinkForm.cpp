@@ -79,7 +79,7 @@ void LinkForm::layOut(QLayout* content, const QList<QPushButton*>& others)
     tabToButtonsLast(others);
 }
 
-/// This class makes its buttons first, so that Tab would reach them ahead of the form's own controls.
+/// This class makes its buttons first, so that Tab would reach them before the form's own controls.
 void LinkForm::tabToButtonsLast(const QList<QPushButton*>& others)
 {
     const QList<QPushButton*> inOrder = others + QList<QPushButton*>{Communicate, CSCmdBtn1};

@@ -63,7 +63,7 @@ protected:
     /// below. The form gets a fixed size.
     void layOut(QLayout* content, const QList<QPushButton*>& others = {});
 
-    /// Asked at a press of Communicate, ahead of everything else.
+    /// Asked at a press of Communicate, before everything else.
     [[nodiscard]] virtual bool mayStart() = 0;
     /// One press of Communicate.
     virtual void run() = 0;

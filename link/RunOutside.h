@@ -13,7 +13,7 @@ namespace norvane::link
 
 /// What a run of the transfer tool and the converter calls; LinkForm::outside() gives that of a form.
 struct RunOutside {
-    /// Runs a tool's command line and waits for its end. A tool that the user ended counts as crashed.
+    /// Runs a tool's command line and waits until it exits. A tool that the user ended counts as crashed.
     std::function<ChildResult(const QString& commandLine)> runAndWait;
     /// The last value of status.out.
     std::function<QString()> readStatus;

@@ -10,7 +10,7 @@ namespace norvane::link
 
 inline constexpr QLatin1StringView statusFile{"status.out"};
 
-/// Make it before the tool runs, run the tool once or more often, then ask. In a good run nothing is asked.
+/// Create it before the tool runs, run the tool once or more often, then ask. A successful run asks nothing.
 class WatchedStep
 {
 public:

@@ -73,7 +73,7 @@ void DocumentEditor::put(int cell, const Cell& contents)
     Q_EMIT cellChanged(cell);
 }
 
-/// What @p work has changed when it fails is a step, too.
+/// Changes that @p work made before it failed are a step, too.
 void DocumentEditor::edit(const QString& name, const std::function<void(Document&)>& work, int typing)
 {
     const Document before = m_document;

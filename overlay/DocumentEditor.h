@@ -1,4 +1,4 @@
-// An open overlay document and what its user can do to it and take back.
+// An open overlay document: what its user can do to it and undo.
 #pragma once
 
 #include "overlay/Document.h"
@@ -52,8 +52,7 @@ public:
     void endTyping() { ++m_typing; }
     void click(int cell);
     /// On the first cell of a key of three cells that are drawn white, all three take the current colours;
-    /// otherwise the cell alone does. A click that came just before is taken back: it was the first half of
-    /// this one.
+    /// otherwise the cell alone does. A click just before is undone: it was the first half of this one.
     void doubleClick(int cell);
     /// @throws RuntimeFailure as importdata() does. What was imported, by then too, is one step.
     void importLevel(int level, const QString& databasePath);

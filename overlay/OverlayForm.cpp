@@ -227,7 +227,7 @@ void OverlayForm::rememberColours()
         m_colours->remember(colour);
 }
 
-/// An import that fails has stored nothing. What it gave to the document can be taken back like any import.
+/// An import that fails has stored nothing. What it changed in the document can be undone like any import.
 void OverlayForm::importLevel(int level)
 {
     try {

@@ -137,7 +137,7 @@ void SheetView::paintEvent(QPaintEvent* /*event*/)
     paintRulers(painter, viewport()->size(), sheetCorner(), m_scale);
 }
 
-/// The correction's stretch takes back what the printer does wrong: on the paper it is not seen.
+/// The correction's stretch compensates for the printer's error: on the paper it is not seen.
 void SheetView::paintSheet(QPainter& painter) const
 {
     const QRectF sheet = m_target.sheet.rect();

@@ -35,7 +35,7 @@ public:
     [[nodiscard]] ui::SpokenItem spokenItem(int index) const override;
 
 Q_SIGNALS:
-    /// The user has zoomed to a size of his own.
+    /// The user has zoomed to another size.
     void zoomedFreely();
 
 protected:

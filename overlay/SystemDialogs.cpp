@@ -43,8 +43,8 @@ QString meantFile(const QString& typed, const QStringList& suffixes)
     return {};
 }
 
-/// Takes the name of any existing file. The kit's own mode for that takes only a name that its filter shows,
-/// with its ending.
+/// Takes the name of any existing file. The toolkit's own mode for that takes only a name that its filter
+/// shows, with its suffix.
 class OpenBox : public QFileDialog
 {
 public:

@@ -1,4 +1,4 @@
-# Read by cpack for each kind of package: which of the installed parts goes where in it.
+# Read by cpack for each kind of package: where each of the installed parts is in it.
 set(build "${CPACK_BUILD_FOLDER}")
 if(CPACK_GENERATOR STREQUAL "DEB")
   # Each row has its whole path, because the prefix of the package comes after the folder of a row.

@@ -9,7 +9,7 @@
 namespace norvane::paper
 {
 
-/// Logical pixels of a screen to the inch; the widget kit scales them to the real ones.
+/// Logical pixels of a screen to the inch; the toolkit scales them to the real ones.
 inline constexpr double screenDotsPerInch = 96;
 
 /// Counts in 1/914,400 inch, of which a millimetre, a twip and a dot of the usual printers (300, 600 to the

@@ -1,4 +1,4 @@
-// What a printer does wrong, put right: it prints too far to one side, or a little too large or small.
+// The correction of a printer that prints too far to one side, or a little too large or small.
 #pragma once
 
 #include "paper/Length.h"

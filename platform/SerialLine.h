@@ -26,12 +26,12 @@ public:
     /// @return false when the port cannot be opened.
     virtual bool open() = 0;
     virtual void close() = 0;
-    /// Bytes that have come in and were not taken yet.
+    /// Bytes that were received and not taken yet.
     [[nodiscard]] virtual int inputCount() = 0;
     virtual void clearInput() = 0;
     /// Sends @p text as single bytes. @return false when the port is closed or refuses.
     virtual bool send(const QString& text) = 0;
-    /// Takes all that has come in.
+    /// Takes everything that was received.
     virtual QString takeInput() = 0;
 };
 

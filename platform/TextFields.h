@@ -1,4 +1,4 @@
-// Trimming of text fields. Only spaces go: a register prints tabs and no-break spaces as characters.
+// Trimming of text fields. Only spaces are removed: a register prints tabs and no-break spaces as characters.
 #pragma once
 
 #include <QString>

@@ -20,7 +20,7 @@ struct WriteError {
 [[nodiscard]] bool isReplaceable(const QString& path);
 
 /// Writes @p content to a file beside @p path, then renames it to @p path, so that a full disk leaves the
-/// former file whole. What is not a regular file (/dev/full, a pipe) is written in place: renaming would
+/// former file intact. What is not a regular file (/dev/full, a pipe) is written in place: renaming would
 /// replace the device.
 /// @return nothing on success.
 [[nodiscard]] std::optional<WriteError> replaceWholeFile(const QString& path, const QByteArray& content);

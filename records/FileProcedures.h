@@ -20,15 +20,15 @@ struct Conversion {
     QString consequence; ///< for the user: what a target that it did not write would do
 };
 
-/// The world around a procedure.
+/// What a procedure needs from outside.
 struct ProcedureContext {
     const ApplicationValues& values;
     Boxes& boxes;
     /// Runs the converter and waits for its end. @return whether the target may be used. A conversion that
     /// failed leaves the target of an earlier one, so the user is asked then.
     std::function<bool(const Conversion&)> convert;
-    /// Stores what was read from a register file, wholly or in part, by calling @p commit. Notes about the
-    /// table are written around that call: an import that is put back or killed never comes here.
+    /// Stores what was read from a register file, completely or partly, by calling @p commit. Notes about the
+    /// table are written around that call: an import that is undone or killed never calls it.
     std::function<void(int file, const std::function<void()>& commit)> store = [](int, const auto& commit) {
         commit();
     };

@@ -29,7 +29,7 @@ RecordLayout receiptMessageLayout()
 
 } // namespace
 
-/// File 19. The register's own words; it never takes them back.
+/// File 19. The register's own words; they are never sent to it.
 const RecordLayout& systemDescriptorLayout()
 {
     static const RecordLayout layout{"ID", {text(descriptorWidth, "SYSTEMDESCRIPTORS")}};

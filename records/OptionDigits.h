@@ -15,7 +15,7 @@ struct DigitChoice {
 };
 
 /// A flag or small value inside an option digit. A true flag adds its weight. A number is written by the
-/// first choice equal to it; read, the first choice found gives its value, else 0.
+/// first choice equal to it; when read, the first choice found gives its value, else 0.
 class DigitPart
 {
 public:
@@ -32,11 +32,11 @@ public:
     [[nodiscard]] DigitPart notWritten() const;
     /// The weight is sent whatever the field holds.
     [[nodiscard]] DigitPart alwaysWritten() const;
-    /// Written, the field's number is added to the digit as it is.
+    /// When written, the field's number is added to the digit as it is.
     [[nodiscard]] DigitPart addingItsNumber() const;
     /// When no choice is found, the field keeps what it has.
     [[nodiscard]] DigitPart keptOtherwise() const;
-    /// Read, the field takes the first character of the column as it is.
+    /// When read, the field takes the first character of the column as it is.
     [[nodiscard]] DigitPart readAsFirstCharacter() const;
 
     enum class Value { Flag, Number };

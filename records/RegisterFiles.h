@@ -11,7 +11,7 @@ namespace norvane::records
 
 /// What an upload does with the table.
 enum class Upload {
-    ReplacesTable,  ///< all old records go, each line becomes a record
+    ReplacesTable,  ///< all old records are deleted, each line becomes a record
     UpdatesRecords, ///< each line changes the record whose key is its first column; a line without one is
                     ///< dropped
 };

@@ -77,7 +77,7 @@ const RecordLayout& trainingOptionLayout()
     return layout;
 }
 
-/// File 7. The price level goes out with a digit more than it has, and comes back with it.
+/// File 7. The price level is sent with one digit more than it has, and returned with it.
 const RecordLayout& levelOptionLayout()
 {
     static const RecordLayout layout{"ID", {

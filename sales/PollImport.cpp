@@ -58,7 +58,7 @@ constexpr StampLayout stampLayouts[] = {
     {StampLayout::Last, '0', 1},  {StampLayout::First, '1', 1}, {StampLayout::First, '2', 2},
     {StampLayout::First, '3', 3}, {StampLayout::First, '4', 4},
 };
-/// Values of a PLU record ahead of its levels, and of each level.
+/// Values of a PLU record before its levels, and of each level.
 constexpr std::size_t pluHead = 3;
 constexpr std::size_t levelValues = 2;
 

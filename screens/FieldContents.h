@@ -1,4 +1,4 @@
-// From the value of a field to the content of the control that is bound to it, and back.
+// Converts the value of a field to the content of the control that is bound to it, and back.
 #pragma once
 
 #include "screens/RecordEditor.h"

@@ -115,7 +115,7 @@ void GridControl::enterRow()
     }
 }
 
-/// The room for the rows is known only when headers and scroll bars have their places.
+/// The space for the rows is known only when headers and scroll bars have their places.
 void GridControl::resizeEvent(QResizeEvent* event)
 {
     QTableView::resizeEvent(event);
@@ -136,7 +136,7 @@ void GridControl::retryCell(const QModelIndex& index)
     edit(index);
     // The closed editor may still exist; the new one is the last.
     if (const auto editors = viewport()->findChildren<QLineEdit*>(); !editors.isEmpty())
-        editors.last()->setText({}); // unlike clear(), no change by the user
+        editors.last()->setText({}); // unlike clear(), this is not a change by the user
 }
 
 } // namespace norvane::screens

@@ -62,7 +62,8 @@ public:
     [[nodiscard]] QString databasePath() const { return m_databasePath; }
 
 Q_SIGNALS:
-    /// What the last action came to, in words for the status bar; empty once the screen shows another record.
+    /// The result of the last action, in words for the status bar; empty once the screen shows another
+    /// record.
     void told(const QString& text);
     /// getBack() has nothing to restore.
     void nothingToGetBack();

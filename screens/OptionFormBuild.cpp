@@ -195,8 +195,8 @@ QString OptionForm::textField() const
     return {};
 }
 
-/// They grow to the usual width, or to what a narrow form has for them; the list of records may press them
-/// together to their texts.
+/// They grow to the usual width, or to what a narrow form has for them; the list of records may shrink them
+/// to their texts.
 void OptionForm::fitButtons(const QVector<QPushButton*>& shown)
 {
     const int count = static_cast<int>(shown.size());

@@ -49,7 +49,7 @@ QString OptionForm::unsavedRecord() const
     return m_editor->isAdding() ? u"the new record"_s : shownRecord();
 }
 
-/// They can be got back; the next notice says so.
+/// They can be restored; the next notice says so.
 void OptionForm::drop(std::optional<LostChanges> changes)
 {
     if (!changes)

@@ -21,11 +21,11 @@ namespace norvane::screens
 
 /// Asks what to do with changes to @p record ("PLU 1001") before a control leads away from them.
 [[nodiscard]] UnsavedAnswer askToSave(Boxes& boxes, const QString& record);
-/// Says that they were left unsaved, and how to get them back.
+/// Says that they were left unsaved, and how to restore them.
 [[nodiscard]] QString changesLost(const QString& record);
 /// Says that they are on the screen again.
 [[nodiscard]] QString changesBack(const QString& record);
-/// Says that they cannot be got back, since the record was deleted.
+/// Says that they cannot be restored, since the record was deleted.
 [[nodiscard]] QString changesGone(const QString& record);
 
 /// Reports that nothing was stored, and why.

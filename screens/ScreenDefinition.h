@@ -55,8 +55,8 @@ struct ControlDefinition {
     QString justify;            ///< "0" left, "1" right, "2" centre
     QString characters;         ///< "NUMERIC" in any case for digits only
     bool isHexadecimal = false; ///< no word of the file, see RegisterRules.h
-    std::optional<int> largest; ///< number that a text of digits may make; no word of the file either
-    std::optional<int> digits;  ///< that a whole number is shown with at least; no word of the file either
+    std::optional<int> largest; ///< largest number that a text of digits may be; not a key of the file either
+    std::optional<int> digits;  ///< that a whole number is shown with at least; not a key of the file either
     QString sqlCriteria;        ///< query of a combo or grid
     QString list;               ///< rows of a combo without query: "0;Off,1;On"
     QString columnWidths;       ///< of a combo's list, in twips, separated by ";"; 0 hides a column

@@ -6,7 +6,7 @@ class QWidget;
 namespace norvane::screens
 {
 
-/// Grows a form, or the frame around it in the main window, and shrinks it by as much again.
+/// Widens a form, or the frame around it in the main window, and narrows it again by as much.
 class SideRoom
 {
 public:

@@ -11,7 +11,7 @@ namespace norvane::shell
 {
 
 /// Menu and child windows share one window, and with it their letters: Alt+S would open "&Setup" over a
-/// screen with a button "&Save". The letters of the child window with the focus win here. The menu has its
+/// screen with a button "&Save". The letters of the child window with the focus come first. The menu has its
 /// other letters at all times, and all of them once Alt alone or F10 has led into it.
 class AccessLetters : public QObject
 {

@@ -51,7 +51,7 @@ void openCollection(FrmMain& main, const ApplicationValues& values, Boxes& boxes
     });
 }
 
-/// Opens screens, and gets back what was typed into one and not saved.
+/// Opens screens, and restores what was typed into one and not saved.
 class Screens
 {
 public:

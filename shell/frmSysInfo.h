@@ -6,7 +6,7 @@
 namespace norvane::shell
 {
 
-/// Shows a text that can be read, searched by eye and copied whole.
+/// Shows a text that can be read and copied completely.
 class frmSysInfo : public QDialog
 {
     Q_OBJECT

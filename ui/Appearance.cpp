@@ -38,7 +38,7 @@ double contrast(const QColor& left, const QColor& right)
     return (light + 0.05) / (dark + 0.05);
 }
 
-/// Desktops for everybody soften their texts, or tell windows and boxes apart by their grounds.
+/// Ordinary desktops use softer texts, or distinguish windows from boxes by their backgrounds.
 bool isOfHighContrast(const QPalette& palette)
 {
     constexpr double least = 15;

@@ -6,8 +6,8 @@
 namespace norvane::ui
 {
 
-/// Shows its contents whole where the screen has room for them, and scrolls otherwise, so that large type on
-/// a small screen puts no button out of reach. Buttons belong outside.
+/// Shows its contents completely where the screen has room for them, and scrolls otherwise, so that large
+/// type on a small screen puts no button out of reach. Buttons belong outside.
 class FittingArea : public QScrollArea
 {
 public:

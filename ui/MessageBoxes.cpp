@@ -104,7 +104,7 @@ QMessageBox::StandardButton show(const QString& text, const QString& title, BoxI
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
-/// The question before a file is replaced is ours: the toolkit has other words and another preset.
+/// This program asks before a file is replaced: the toolkit's question has other words and another preset.
 QString chosenFile(const FileRequest& request, QFileDialog::AcceptMode mode)
 {
     const ArrowPointer arrow;

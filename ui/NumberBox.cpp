@@ -132,7 +132,7 @@ void NumberBox::mouseReleaseEvent(QMouseEvent* event)
     m_isFirstClick = false;
 }
 
-/// Otherwise the digits before the point are a separate word.
+/// Otherwise the digits before the point would be a separate word.
 void NumberBox::mouseDoubleClickEvent(QMouseEvent* /*event*/)
 {
     selectAll();

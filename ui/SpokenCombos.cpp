@@ -61,7 +61,7 @@ public:
         const bool isBox = m_combo.isEditable() && child == box();
         return isBox ? ItemsInterface::childCount() : ItemsInterface::indexOfChild(child);
     }
-    /// The box of an editable list hands the focus on to the list.
+    /// The box of an editable list passes the focus to the list.
     [[nodiscard]] QAccessibleInterface* focusChild() const override
     {
         return m_combo.isEditable() ? box() : nullptr;
@@ -95,7 +95,7 @@ public:
                                                   : ItemsInterface::interface_cast(type);
     }
 
-    // The text is read whole; nothing in it can be chosen.
+    // The whole text is read; no part of it can be selected.
     void selection(int /*index*/, int* start, int* end) const override { *start = *end = 0; }
     [[nodiscard]] int selectionCount() const override { return 0; }
     void addSelection(int /*start*/, int /*end*/) override {}

@@ -34,7 +34,7 @@ public:
     void setJustify(const QString& code);
     /// The largest number that digits may make, such as a time of the day.
     void setLargest(int number);
-    /// Shows a stored text whole, even one above the limit: saving must not cut it.
+    /// Shows a stored text completely, even one above the limit: saving must not cut it.
     void showText(const QString& text);
 
 public Q_SLOTS:

@@ -29,11 +29,11 @@ public:
     /// Shows the row of @p value; "03" finds 3. A null text clears the list.
     void setValue(const QString& value);
 
-    /// Width in which the box shows its longest row whole, in device-independent pixels.
+    /// Width at which the box shows its longest row completely, in device-independent pixels.
     [[nodiscard]] int fullWidth() const;
 
     void showPopup() override;
-    /// The tool tip says a row whole that the box cuts.
+    /// The tool tip shows the whole row if the box cuts it.
     bool event(QEvent* event) override;
 
 Q_SIGNALS:

@@ -39,7 +39,7 @@ public:
     void reject() override;
 
 Q_SIGNALS:
-    /// What the last action came to, in words for the status bar.
+    /// The result of the last action, in words for the status bar.
     void told(const QString& text);
 
 protected:

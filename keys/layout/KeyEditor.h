@@ -1,4 +1,4 @@
-// A level under the user's hands: every change of its keys, and the way back.
+// A level being edited: every change of its keys, with undo.
 #pragma once
 
 #include "keys/layout/KeyLevel.h"
@@ -31,8 +31,8 @@ public:
     /// Puts the item @p number on keys. If the item does not exist, only the cells show it. A fixed cell
     /// shows the text only and keeps its function.
     void assign(const KeyCells& cells, ItemKind kind, const QString& number);
-    /// Exchanges @p cells, of which @p from moves to @p to, with the keys there. Where both blocks overlap,
-    /// the displaced keys fill the freed places.
+    /// Swaps @p cells, of which @p from moves to @p to, with the keys there. Where both blocks overlap, the
+    /// displaced keys fill the freed places.
     Refusal swap(const KeyCells& cells, KeyCell from, KeyCell to);
     /// The keys at the new place do what @p cells do.
     Refusal copyTo(const KeyCells& cells, KeyCell from, KeyCell to);
@@ -51,7 +51,7 @@ public:
     /// Remembers keys for swapWithMarked().
     void mark(const KeyCells& cells) { m_marked = cells; }
     [[nodiscard]] const KeyCells& marked() const { return m_marked; }
-    /// swap() of the marked keys, the upper left of them to that of @p cells. Takes the mark away.
+    /// swap() of the marked keys, the upper left of them to that of @p cells. Removes the mark.
     Refusal swapWithMarked(const KeyCells& cells);
 
     [[nodiscard]] bool canUndo() const { return m_done > 0; }

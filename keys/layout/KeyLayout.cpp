@@ -128,7 +128,7 @@ void KeyLayout::changeLevel(int level)
 {
     if (leaveLevel()) {
         updategrid(level);
-        // A selection of the former level would be moved with the next key that is dragged.
+        // A selection of the previous level would be moved with the next key that is dragged.
         Grid1->setCurrentCell(Grid1->currentCell());
         Grid1->setFocus();
     } else {

@@ -46,8 +46,8 @@ public:
     KeyLayout(const KeyGeometry& keyboard, ApplicationValues& values, Boxes& boxes,
               QWidget* parent = nullptr);
 
-    /// Escape takes a search and marks away and leads back to the grid first. Like the window's close button
-    /// it asks about changes, which only "E&xit" throws away unasked.
+    /// Escape first clears a search and marks, then leads back to the grid. Like the window's close button it
+    /// asks about changes, which only "E&xit" throws away unasked.
     void reject() override;
 
 protected:

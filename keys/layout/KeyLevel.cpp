@@ -78,7 +78,7 @@ void KeyLevel::read(int level)
     m_level = level;
 }
 
-/// The lock of another program is met before any row is.
+/// A lock of another program is found before any row is written.
 QString KeyLevel::notSaved(const QString& failure) const
 {
     const int ahead = m_geometry.rowsAhead(m_level);

@@ -30,8 +30,8 @@ public:
     /// @throws RuntimeFailure with Failure::NoCurrentRecord if a table has fewer rows than the level needs,
     /// Failure::Conversion for a code that is not a number; the level shown before is then kept.
     void read(int level);
-    /// Stores every key of the level in one transaction, unchanged ones too: a function key's row of NLU gets
-    /// its key number whatever it had before, and so does the row of a look-up after its four digits.
+    /// Stores every key of the level in one transaction, also unchanged ones: a function key's row of NLU
+    /// gets its key number whatever it had before, and so does the row of a look-up after its four digits.
     /// @throws RuntimeFailure with Failure::NoCurrentRecord, Failure::TypeMismatch, Failure::DatabaseLocked
     /// ..., which names the level and its rows. Both tables are then unchanged, and the changes can still be
     /// saved.

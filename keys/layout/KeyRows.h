@@ -38,7 +38,7 @@ public:
     void store(const store::Value& value);
     /// Stores another text. A row that already has it is unchanged, null included.
     void store(const QString& text);
-    /// Adds table, row and the way out to what went wrong with the row's text.
+    /// Adds table, row and remedy to what went wrong with the row's text.
     [[nodiscard]] QString explained(const QString& failure) const;
 
 private:

@@ -23,7 +23,7 @@ struct LevelCopy {
     /// What the copy does on a keyboard whose levels are not where it counts them: which keys of which levels
     /// are overwritten, and with what. Empty if it does what it says or changes nothing.
     [[nodiscard]] QString misplacedKeys(const KeyGeometry& keyboard) const;
-    /// Copies both tables row by row, whole or not at all. @throws RuntimeFailure with
+    /// Copies both tables row by row, completely or not at all. @throws RuntimeFailure with
     /// Failure::NoCurrentRecord when a table ends before, else as storing does.
     void run(store::Database& database) const;
 

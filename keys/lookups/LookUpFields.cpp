@@ -107,7 +107,7 @@ void LookUpFields::addFlag(const FlagRow& row, QGridLayout& grid, int line)
     m_flags += box;
 }
 
-/// A number is shown whole. The description is cut to what the register holds, so that it can be saved.
+/// A number is shown completely. The description is cut to what the register holds, so that it can be saved.
 void LookUpFields::setLookUp(const LookUp& lookUp)
 {
     for (qsizetype i = 0; i < m_texts.size(); ++i) {

@@ -17,7 +17,7 @@ namespace
 
 const QString lineType = u"application/x-norvane-look-up-line"_s;
 
-/// Registers part lines by a carriage return.
+/// Registers separate lines by a carriage return.
 QString onScreen(QString text)
 {
     return text.replace(u'\r', u'\n');

@@ -32,7 +32,7 @@ public:
     void reach(ItemKind kind, bool reachable);
     /// Moves the keyboard focus to the filter box. Does nothing while there is no list.
     void enter();
-    /// Takes the filter away when the keyboard is here. @return whether it is.
+    /// Clears the filter if the keyboard focus is here. @return whether it is.
     [[nodiscard]] bool leave();
 
 Q_SIGNALS:

@@ -199,7 +199,7 @@ void LookUpRecords::save(LookUp& lookUp)
     atPlace(explain, [&] { store(lookUp); });
 }
 
-/// One statement stores the record: whole or not at all.
+/// One statement stores the record: completely or not at all.
 void LookUpRecords::store(const LookUp& lookUp)
 {
     // A record that could not be stored must not remain open: it would show values that were not stored.

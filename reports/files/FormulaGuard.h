@@ -23,7 +23,7 @@ namespace norvane::reports
     return looksLikeFormula(text) ? u' ' + text : text;
 }
 
-/// The text that guarded() was given.
+/// The text before guarded().
 [[nodiscard]] inline QString unguarded(const QString& text)
 {
     return text.startsWith(u' ') && looksLikeFormula(text) ? text.sliced(1) : text;

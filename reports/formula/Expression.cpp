@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::reports
 {
 
-/// Adds up decimals that are given as texts; those that are taken away are added with the other sign.
+/// Adds up decimals that are given as texts; those that are subtracted are added with the other sign.
 class ExactTotal
 {
 public:

@@ -26,7 +26,7 @@ private:
 enum class TokenKind {
     End,
     Field,  ///< {TABLE.FIELD}; the text is without the braces
-    Number, ///< digits with a point at most
+    Number, ///< digits with at most one point
     Text,   ///< the text is without the quotes, single or double
     Word,   ///< letters and digits
     Symbol  ///< brackets, comma and operators

@@ -71,7 +71,7 @@ Chart ChartPoints::finished(const MoneyFormat& money)
                 isMoney ? money.decimals : format.mostDecimals,
                 {},
                 {true, isMoney ? money.currency : QString()}};
-    // One bar alone shows no course of things.
+    // A single bar shows no course.
     if (m_layout.kind != ChartKind::Course || m_points.size() > 1)
         chart.points = std::move(m_points);
     return chart;

@@ -99,8 +99,8 @@ std::string ReportQuery::monthRows(const LineSource& source)
     return totals.rows(days, fields).toStdString();
 }
 
-/// Another program that reads keeps the totals from being stored for as long as it likes. Reading the rows
-/// takes less time than waiting for it, and a report has several queries that would each wait.
+/// Another program that reads can keep the totals from being stored for any time. Reading the rows takes less
+/// time than waiting for it, and a report has several queries that would each wait.
 void ReportQuery::addUpMissing(store::MonthTotals& totals, const store::DayRange& days)
 {
     if (!m_mayAddUp)

@@ -24,7 +24,7 @@ public:
     /// @param condition names only tables that the report reads. @param today: months that ended before it
     /// are read from their totals.
     void select(const Condition& condition, QDate today);
-    /// Hands the fields of one line after another to @p take.
+    /// Passes the fields of one line after another to @p take.
     /// @throws ReportCancelled, RuntimeFailure
     void run(const LineSource& source, const std::function<void(const LineFields&)>& take);
     /// See SalesDays; nothing for a report over a table without sales too.

@@ -63,7 +63,7 @@ ColumnPlaces columnsOn(bool isLandscape, const ReportData& report, const PageFon
     return fitColumns(report, font, area.left(), area.width());
 }
 
-/// Turns the sheet, where the layout leaves that open, before columns go on in a second band.
+/// Turns the sheet, if the layout leaves that open, before columns continue in a second band.
 SheetColumns sheetColumns(const ReportData& report, const PageFont& font)
 {
     const bool isLandscape = report.page.isLandscape;
@@ -186,7 +186,7 @@ void ReportPages::addCharts(ReportPage& page)
     }
 }
 
-/// Beneath each other, two charts would need two landscape sheets.
+/// One below the other, two charts would need two landscape sheets.
 std::size_t ReportPages::chartsInRow() const
 {
     return m_frame.isLandscape() ? 2 : 1;

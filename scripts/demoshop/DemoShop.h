@@ -18,7 +18,7 @@ struct Wish {
 /// Name of the customer.
 [[nodiscard]] QString shopName();
 
-/// Makes the customer in the program's folder, whole or not at all. @throws std::runtime_error or
+/// Makes the customer in the program's folder, completely or not at all. @throws std::runtime_error or
 /// RuntimeFailure
 void makeDemoShop(const Wish& wish);
 

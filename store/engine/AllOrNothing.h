@@ -1,4 +1,4 @@
-// Work that is stored wholly or leaves everything as it was.
+// Work that is stored completely or leaves everything as it was.
 #pragma once
 
 #include "store/engine/CommitOnExit.h"

@@ -1,5 +1,4 @@
-// What the file keeps beside a table that grows without end, for quick queries; the definitions do not list
-// it.
+// What the file keeps beside a table that only grows, for quick queries; the definitions do not list it.
 #pragma once
 
 #include "store/engine/Definitions.h"
@@ -21,10 +20,10 @@ struct Companion {
 /// The index by which queries find rows by TableDefinition::searchedField.
 [[nodiscard]] Companion searchIndexOf(const TableDefinition& table);
 
-/// The two tables of month totals, and the triggers that keep them right. A month listed in the first table
+/// The two tables of month totals, and the triggers that keep them correct. A month listed in the first table
 /// was added up, and its totals are in the second; a month is removed from both together. The triggers of the
-/// sales table run for every row of it, so they only look for the month.
-/// They are created in this order, and only all together: totals without their triggers could be wrong.
+/// sales table run for every row of it, so they only look for the month. They are created in this order, and
+/// only all together: totals without their triggers could be wrong.
 [[nodiscard]] std::vector<Companion> monthCompanionsOf(const TableDefinition& table);
 
 /// Holds the months, as yyyy-mm, that were added up.

@@ -1,4 +1,4 @@
-// Opening and making database files: what is ours, what is left alone.
+// Opening and making database files: which are this program's, and which are never touched.
 #pragma once
 
 #include "store/engine/Definitions.h"
@@ -8,8 +8,8 @@
 namespace norvane::store
 {
 
-/// How long every connection waits for a file that another program holds: no work of ours holds one this
-/// long, and a user can wait for it.
+/// How long every connection waits for a file that another program holds: no work of this program holds one
+/// this long, and a user can wait for it.
 inline constexpr int busyMilliseconds = 5000;
 
 /// Opens an existing file for reading and, where it may be written, for writing. @throws as Database does.
@@ -18,7 +18,7 @@ inline constexpr int busyMilliseconds = 5000;
 /// The same, but reads only the header: the rest of the file may be damaged.
 [[nodiscard]] SQLite::Database openUnreadDatabaseFile(const QString& path);
 
-/// Makes a file beside @p path and puts it in its place once it is whole.
+/// Makes a file beside @p path and puts it in its place once it is complete.
 /// @throws RuntimeFailure with Failure::PathOrFileAccess, 61.
 void createDatabaseFile(const QString& path, const QVector<TableDefinition>& tables);
 

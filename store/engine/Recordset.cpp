@@ -25,7 +25,7 @@ const FieldDefinition* originOf(Connection& connection, const PreparedStatement&
 {
     const auto shape = connection.findShape(select.originTable(column));
     const auto ordinal = shape ? shape->ordinal(select.originField(column)) : std::nullopt;
-    // The shape lives on in the database's memory of it.
+    // The shape remains in the database's cache.
     return ordinal ? &shape->definition().fields.at(*ordinal) : nullptr;
 }
 

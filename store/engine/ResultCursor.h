@@ -11,7 +11,7 @@
 namespace norvane::store
 {
 
-/// Which rows there are is settled when the query is run; rows added later are not among them.
+/// The set of rows is fixed when the query is run; rows added later are not among them.
 class ResultCursor : public Cursor
 {
 public:

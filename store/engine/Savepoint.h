@@ -1,4 +1,4 @@
-// Several statements that are done wholly or not at all.
+// Several statements that are done completely or not at all.
 #pragma once
 
 struct sqlite3;

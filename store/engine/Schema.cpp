@@ -21,8 +21,8 @@ struct TypeRow {
     const char* declaration; ///< of the column
 };
 
-/// Texts meet without regard to case, as users seek them. The tables are strict: a statement cannot leave a
-/// text in a number field either.
+/// Texts are compared without regard to case, as users search for them. The tables are strict: a statement
+/// cannot leave a text in a number field either.
 constexpr TypeRow types[] = {
     {FieldType::YesNo, "yesno", "INTEGER"},
     {FieldType::Long, "long", "INTEGER"},

@@ -50,7 +50,7 @@ public:
     [[nodiscard]] QStringList tableNames() const;
     /// The table's definition, nothing if there is none of that name.
     [[nodiscard]] std::optional<TableDefinition> read(const QString& table) const;
-    /// Both are done wholly or not at all.
+    /// Both are done completely or not at all.
     void addTable(const TableDefinition& table);
     void addField(const TableDefinition& table, const FieldDefinition& field);
     /// Makes what the file keeps beside @p table and still lacks, and gives fields the room that @p table
@@ -76,7 +76,7 @@ private:
     sqlite3* m_handle;
 };
 
-/// Marks a file as a database of ours in its header.
+/// Marks a file in its header as a database of this program.
 inline constexpr std::uint32_t applicationId = 0x4E765631;
 /// The layout of the definitions; a file with a higher one was made by a later program.
 inline constexpr int formatVersion = 1;

@@ -30,7 +30,7 @@ public:
     [[nodiscard]] int find(const QString& number) const;
 
 private:
-    /// Where a record begins; number and text end in a line end each.
+    /// Where a record begins; number and text each end in a line end.
     struct Begin {
         std::uint32_t shown;
         std::uint32_t folded;

@@ -67,7 +67,7 @@ private:
         const char* withKey;
         const char* withoutKey; ///< of a table without an index
     };
-    /// When and amid what the rows were read.
+    /// When the rows were read, and what had changed by then.
     struct Stamp {
         std::int64_t changes = -1;
         std::int64_t transaction = 0;

@@ -1,5 +1,5 @@
-// The arrows of docs/architecture.md, held against the tree as it is; and the checks themselves, over a small
-// tree in which each rule is broken.
+// The arrows of docs/architecture.md, compared with the tree as it is; and the checks themselves, over a
+// small tree in which each rule is broken.
 #include "tests/architecture/Rules.h"
 #include "tests/platform/TestFolder.h"
 
@@ -20,7 +20,7 @@ TEST(TheTree, KeepsWidgetsToFormsAndArrowsDown)
     EXPECT_EQ(undeclaredIncludes(map, root).join(u'\n').toStdString(), "");
 }
 
-// Each floor above base breaks a rule; base itself breaks one once low stands in its folder.
+// Each floor above base breaks a rule; base itself breaks one once low is in its folder.
 constexpr const char* broken =
     "target STATIC_LIBRARY base ROOT/base\n"
     "target STATIC_LIBRARY top_forms ROOT/top\n"

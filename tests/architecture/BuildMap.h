@@ -17,7 +17,7 @@ struct Target {
     QString name;
     QString folder;    ///< as a path from the source root, "store/engine"; empty outside of it
     QStringList links; ///< what its own files may use
-    QStringList hands; ///< what it hands on to those who link it
+    QStringList hands; ///< what it passes on to those that link it
 };
 
 /** @brief All targets by name. */

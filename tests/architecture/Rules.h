@@ -1,4 +1,4 @@
-// The rules of docs/architecture.md, held against the build and the sources.
+// The rules of docs/architecture.md, checked on the build and the sources.
 #pragma once
 
 #include "tests/architecture/BuildMap.h"

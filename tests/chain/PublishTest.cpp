@@ -36,7 +36,7 @@ protected:
     }
 };
 
-TEST_F(PublishTest, BringsSalesAndNamesOnce)
+TEST_F(PublishTest, PublishesSalesAndNamesOnce)
 {
     const std::pair<QString, const char*> answers[] = {
         {u"SELECT day, plu, waste, count1, value1, value5 FROM plu_sales ORDER BY day"_s,
@@ -65,7 +65,7 @@ TEST_F(PublishTest, BringsSalesAndNamesOnce)
     }
 }
 
-TEST_F(PublishTest, RanksTheLastMonthAndTellsWhoDidNotCollect)
+TEST_F(PublishTest, RanksTheLastMonthAndListsShopsWithoutACollection)
 {
     makeShop(u"Late"_s);
     change(cornerShop, "update PLUSALES set SALESDATE = date('now', 'localtime', '-1 day')");
@@ -121,10 +121,10 @@ TEST_F(PublishTest, NeverEmptiesAShopThatWasReset)
           "delete from EMPLOYEE", "update FINANCIALSALES set VALUE = 1",
           "insert into FINANCIALSALES values (2, '2026-11-03', 1, 5)"})
         change(cornerShop, sql);
-    const Ended told = publish({cornerShop});
-    EXPECT_EQ(told.code, 15);
+    const Ended message = publish({cornerShop});
+    EXPECT_EQ(message.code, 15);
     EXPECT_EQ(
-        told.err.toStdString(),
+        message.err.toStdString(),
         "\"Corner Shop\" no longer has 2 published days (2026-10-31 to 2026-11-02) and all employees: they "
         "remain as published. So do 1 days that differ. Was the shop reset? --vanished keep keeps them, "
         "--vanished remove deletes them.\n");
@@ -137,7 +137,7 @@ TEST_F(PublishTest, NeverEmptiesAShopThatWasReset)
     EXPECT_EQ(query(u"SELECT count(*) FROM employees"_s), "1");
     change(cornerShop, "delete from FINANCIALSALES where SALESDATE = '2026-11-03'");
     EXPECT_EQ(published({cornerShop, u"--vanished"_s, u"remove"_s}), "0 0 1 1");
-    EXPECT_EQ(query(days + u"; SELECT count(*) FROM employees"_s), "31 01 02 0") << "kept days stay";
+    EXPECT_EQ(query(days + u"; SELECT count(*) FROM employees"_s), "31 01 02 0") << "kept days remain";
 }
 
 TEST_F(PublishTest, KnowsAShopByItsFolder)

@@ -69,7 +69,7 @@ protected:
     }
 };
 
-TEST_F(RefusalTest, TellsWhyNothingIsPublished)
+TEST_F(RefusalTest, ReportsWhyNothingIsPublished)
 {
     postgres().makeDatabase(u"ascii"_s,
                             u"ENCODING 'SQL_ASCII' LC_COLLATE 'C' LC_CTYPE 'C' TEMPLATE template0"_s);
@@ -119,7 +119,7 @@ TEST_F(RefusalTest, TellsWhyNothingIsPublished)
     EXPECT_EQ(months(), "01=1 02=2 03=3");
 }
 
-TEST_F(RefusalTest, BringsAnOlderSchemaUpAndLeavesALaterOneAlone)
+TEST_F(RefusalTest, UpgradesAnOlderSchemaAndLeavesALaterOneUnchanged)
 {
     EXPECT_EQ(publish({cornerShop}).code, 0);
     EXPECT_EQ(query(u"SET client_min_messages = warning; DROP VIEW plu_lines CASCADE; DROP VIEW "
@@ -132,7 +132,7 @@ TEST_F(RefusalTest, BringsAnOlderSchemaUpAndLeavesALaterOneAlone)
     expectRefused(publish({cornerShop}), 13, u"has version 99 and this program knows versions up to 2"_s);
 }
 
-TEST_F(RefusalTest, GoesOnAfterAConnectionThatBrokeAmidTheRows)
+TEST_F(RefusalTest, ContinuesAfterTheConnectionBrokeBetweenRows)
 {
     EXPECT_EQ(publish({cornerShop}).code, 0);
     EXPECT_EQ(query(u"TRUNCATE mix_sales, published_days; "
@@ -148,7 +148,7 @@ TEST_F(RefusalTest, GoesOnAfterAConnectionThatBrokeAmidTheRows)
     EXPECT_EQ(months(), "01=1 02=2 03=3");
 }
 
-TEST_F(RefusalTest, GoesOnAfterAPowerCut)
+TEST_F(RefusalTest, ContinuesAfterAPowerCut)
 {
     EXPECT_EQ(publish({cornerShop}).code, 0);
     change(cornerShop, "update MIXSALES set QUANTITY = QUANTITY * 10");
@@ -198,7 +198,7 @@ TEST_F(RefusalTest, TwoFirstPublicationsMakeOneSchema)
     EXPECT_EQ(query(u"SELECT count(*) FROM shops"_s), "2");
 }
 
-TEST_F(RefusalTest, ADayThatChangesWhileItIsSentGoesAgain)
+TEST_F(RefusalTest, ADayThatChangesWhileItIsSentIsSentAgain)
 {
     EXPECT_EQ(publish({cornerShop}).code, 0);
     EXPECT_EQ(query(u"TRUNCATE mix_sales, published_days; "
@@ -221,7 +221,7 @@ TEST_F(RefusalTest, ADayThatChangesWhileItIsSentGoesAgain)
     EXPECT_EQ(months(), "01=10 02=21 03=30");
 }
 
-TEST_F(RefusalTest, AShopWhoseRowsDoNotFitStopsNoOther)
+TEST_F(RefusalTest, AShopWithBadRowsDoesNotStopTheOthers)
 {
     makeShop(u"Other"_s);
     change(cornerShop, "insert into PLUSALES (SALESDATE) values ('2026-02-05')");

@@ -19,7 +19,7 @@ void expectTemplates(const QString& folder)
         EXPECT_TRUE(QFileInfo(folder, QLatin1StringView(name)).isFile()) << name;
 }
 
-TEST_F(CustomerFoldersTest, FoldersAreListedInUpperCaseAndStillMeetWhenTheyArePicked)
+TEST_F(CustomerFoldersTest, FoldersAreListedInUpperCaseAndFoundWhenChosen)
 {
     m_folder.write("app/aroma/x", "");
     m_folder.write("app/Straße ı/x", "");
@@ -55,7 +55,7 @@ TEST_F(CustomerFoldersTest, ANewNameMakesAFolderWithCopiesOfTheTemplates)
         << "the start sets it, not the choice";
 }
 
-TEST_F(CustomerFoldersTest, ACustomerWhoseMakingWasCutOffIsCompletedAtTheNextChoice)
+TEST_F(CustomerFoldersTest, ACustomerThatIsOnlyPartlyMadeIsCompletedWhenChosen)
 {
     const QByteArray settings = m_folder.read("app/setup.ini");
     store::Database::create(m_folder.path("app/velmar.mdb"), store::catalogue());
@@ -75,11 +75,11 @@ TEST_F(CustomerFoldersTest, ACustomerWhoseMakingWasCutOffIsCompletedAtTheNextCho
     }
     EXPECT_EQ(m_folder.read("app/Lost/67.dat"), "kept");
     EXPECT_EQ(m_folder.read("app/Cafe/setup.ini"), "[SetupOption]\r\nECRModel= 0\r\n")
-        << "what was there stays";
+        << "existing files are kept";
     EXPECT_FALSE(QFile::exists(m_folder.path("app/Killed/qt_temp.Xy12Zw")));
 }
 
-TEST_F(CustomerFoldersTest, OnlyADatabaseWithoutRecordsIsANewOne)
+TEST_F(CustomerFoldersTest, OnlyADatabaseWithoutRecordsIsNew)
 {
     makeCustomerDatabase();
     execute(u"insert into GROUPS (GROUPNO) values (1)"_s);
@@ -92,7 +92,7 @@ TEST_F(CustomerFoldersTest, OnlyADatabaseWithoutRecordsIsANewOne)
     }
 }
 
-TEST_F(CustomerFoldersTest, AFolderThatHoldsOtherThingsIsLeftAlone)
+TEST_F(CustomerFoldersTest, AFolderWithOtherFilesIsLeftUnchanged)
 {
     m_folder.write("app/docs/guide.html", "text");
     m_folder.write("app/Chain/North/velmar.mdb", "template");

@@ -10,7 +10,7 @@ namespace norvane::customers
 namespace
 {
 
-TEST(CustomerLog, HasALineForEachWorkAndTellsOneThatAFailureEnded)
+TEST(CustomerLog, HasALineForEachJobAlsoForOneThatFailed)
 {
     const test::TestFolder folder;
     {

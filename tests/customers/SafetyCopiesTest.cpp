@@ -45,7 +45,7 @@ protected:
     }
 };
 
-TEST_F(SafetyCopiesTest, ARestoreBringsBackTablesSettingsAndFilesAndCanBeTakenBackItself)
+TEST_F(SafetyCopiesTest, ARestoreRestoresTablesSettingsAndFilesAndCanBeUndone)
 {
     setPlu("1");
     const auto copy = makeSafetyCopy(m_values.customerPath, u"before upload"_s, store::CopyOf::Programme,
@@ -57,7 +57,7 @@ TEST_F(SafetyCopiesTest, ARestoreBringsBackTablesSettingsAndFilesAndCanBeTakenBa
     m_folder.write("app/Cafe/exchange.ini", "[Collection]\r\nStored=today\r\n");
     writeWholeFile(joinPath(copy.path, u"exchange.ini"_s), "[Collection]\r\nStored=yesterday\r\n");
     restoreSafetyCopy(m_values.customerPath, copy);
-    EXPECT_TRUE(m_folder.read("app/Cafe/exchange.ini").contains("today")) << "what the registers did stays";
+    EXPECT_TRUE(m_folder.read("app/Cafe/exchange.ini").contains("today")) << "what the registers did is kept";
     EXPECT_EQ(plu(), "1");
     EXPECT_TRUE(m_folder.read("app/Cafe/setup.ini").contains("ECRModel= 0"));
     EXPECT_EQ(m_folder.read("app/Cafe/73.dat"), "logo");
@@ -69,7 +69,7 @@ TEST_F(SafetyCopiesTest, ARestoreBringsBackTablesSettingsAndFilesAndCanBeTakenBa
     EXPECT_EQ(plu(), "2");
 }
 
-TEST_F(SafetyCopiesTest, TheLastTenStayAndThoseOfAWeek)
+TEST_F(SafetyCopiesTest, TheLastTenAndThoseOfAWeekAreKept)
 {
     const QDateTime today({2026, 11, 25}, {12, 0});
     for (int day = 20; day >= 6; --day)
@@ -81,10 +81,11 @@ TEST_F(SafetyCopiesTest, TheLastTenStayAndThoseOfAWeek)
     EXPECT_EQ(names().size(), 14) << "twelve of today and the two of the last seven days";
     EXPECT_EQ(names().back(), u"2026-11-18 12.00.00 x"_s);
     makeSafetyCopy(m_values.customerPath, u"w"_s, store::CopyOf::Programme, today.addSecs(11));
-    EXPECT_EQ(names().front(), u"2026-11-25 12.00.11 w"_s) << "of one second the later one stands first";
+    EXPECT_EQ(names().front(), u"2026-11-25 12.00.11 w"_s)
+        << "of two within one second the later one is first";
 }
 
-TEST_F(SafetyCopiesTest, WithoutRoomNothingIsLeftAndTheJobDoesNotStart)
+TEST_F(SafetyCopiesTest, OnAFullDiskNothingIsLeftAndTheJobDoesNotStart)
 {
     {
         const test::FullDisk disk(8192);
@@ -109,7 +110,7 @@ const struct {
     {"empty", [](QByteArray& bytes) { bytes.clear(); }, false},
 };
 
-TEST_F(SafetyCopiesTest, ARestoreSetsADamagedDatabaseAsideAndTakesItsSalesOver)
+TEST_F(SafetyCopiesTest, ARestoreKeepsADamagedDatabaseAndTakesOverItsSales)
 {
     for (const auto& [what, spoil, keepsSales] : damages) {
         SCOPED_TRACE(what);
@@ -121,12 +122,12 @@ TEST_F(SafetyCopiesTest, ARestoreSetsADamagedDatabaseAsideAndTakesItsSalesOver)
         QByteArray bytes = m_folder.read("app/Cafe/velmar.mdb");
         spoil(bytes);
         m_folder.write("app/Cafe/velmar.mdb", bytes);
-        const QString told = restoreSafetyCopy(m_values.customerPath, copy);
+        const QString message = restoreSafetyCopy(m_values.customerPath, copy);
         EXPECT_EQ(plu(), "1");
         EXPECT_EQ(test::columnOf(m_values.databasePath, "plusales", "id"), keepsSales ? "1" : "");
-        EXPECT_EQ(told.contains(u"PLUSALES"_s), !keepsSales) << told.toStdString();
-        const QString aside = told.section(u"kept as "_s, 1).section(u'\r', 0, 0).chopped(1);
-        EXPECT_EQ(readWholeFile(joinPath(m_values.customerPath, aside)), bytes) << told.toStdString();
+        EXPECT_EQ(message.contains(u"PLUSALES"_s), !keepsSales) << message.toStdString();
+        const QString aside = message.section(u"kept as "_s, 1).section(u'\r', 0, 0).chopped(1);
+        EXPECT_EQ(readWholeFile(joinPath(m_values.customerPath, aside)), bytes) << message.toStdString();
         EXPECT_EQ(store::damageOf(m_values.databasePath), QString());
     }
 }

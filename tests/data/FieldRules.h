@@ -38,7 +38,7 @@ inline constexpr const char* emptyAfterUpload[][2] = {{"PLUDATA", "POINT*"},
                                                       {"PLUSTATUS", "AUTOGRILLNo LINKEDNVIMAGE"},
                                                       {"GENERALPRINTOPTION", "prelogoimage* postlogoimage*"}};
 
-/// What a column tells of the field that it sends.
+/// What a column says about the field that it sends.
 struct Sent {
     std::string field;
     std::size_t width = 0; ///< 0 where the width says nothing

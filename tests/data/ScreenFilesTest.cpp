@@ -1,5 +1,5 @@
-// Holds every screen file that is installed against the table catalogue, against the columns of the register
-// files and against the form that it makes.
+// Checks every screen file that is installed against the table catalogue, the columns of the register files
+// and the form that it makes.
 #include "paper/Length.h"
 #include "screens/FieldPanel.h"
 #include "screens/OptionForm.h"
@@ -56,7 +56,7 @@ const QString& filledDatabase()
     return path;
 }
 
-/// One screen file. Complaints are in the words of somebody who has to mend it.
+/// One screen file. Complaints are worded for somebody who has to correct it.
 class ScreenFile : public testing::TestWithParam<std::string>
 {
 protected:
@@ -90,7 +90,7 @@ protected:
     test::RecordingBoxes m_boxes;
 };
 
-TEST_P(ScreenFile, IsReadWhole)
+TEST_P(ScreenFile, IsReadCompletely)
 {
     QFile file(m_path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -118,7 +118,7 @@ TEST_P(ScreenFile, BindsControlsToFieldsThatTheyCanHold)
         if (control.dataField.isEmpty())
             continue;
         if (seen.contains(control.dataField.toUpper()))
-            complain(control, u"stands twice on the screen"_s);
+            complain(control, u"is twice on the screen"_s);
         seen += control.dataField.toUpper();
         const auto isIt = [&](const auto& field) {
             return field.name.compare(control.dataField, Qt::CaseInsensitive) == 0;
@@ -181,7 +181,7 @@ TEST_P(ScreenFile, OffersWhatAUserMaySetAndNothingElse)
 {
     const QStringList offered = offeredFields();
     for (const auto& field : m_table->fields) {
-        // The number of an option table's only record tells the user nothing.
+        // The number of an option table's only record is of no use to the user.
         const bool isOnlyRecord = field.name == m_table->indexes.first().field && !m_screen.buttons().next;
         const bool isOffered = offered.contains(field.name, Qt::CaseInsensitive);
         if (isOffered == isLeftOut(m_name, m_table->name, field.name) && !isOnlyRecord) {
@@ -191,7 +191,7 @@ TEST_P(ScreenFile, OffersWhatAUserMaySetAndNothingElse)
     }
 }
 
-TEST_P(ScreenFile, LetsOnlyPlusComeAndGo)
+TEST_P(ScreenFile, LetsOnlyPlusBeAddedAndDeleted)
 {
     const ScreenButtons buttons = m_screen.buttons();
     EXPECT_EQ(buttons.add, m_table->name == u"PLUDATA" && buttons.save) << "only PLUs may be added";

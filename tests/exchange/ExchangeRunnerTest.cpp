@@ -237,7 +237,7 @@ constexpr struct {
     {{2}, "File=2", "complete"},
 };
 
-TEST(ExchangeRunner, LogsWhereAndWhyItStoppedAndWhatIsLeft)
+TEST(ExchangeRunner, LogsWhereAndWhyItStoppedAndWhatIsLeftToDo)
 {
     Exchange shop(2);
     shop.upload({2});
@@ -254,7 +254,7 @@ TEST(ExchangeRunner, LogsWhereAndWhyItStoppedAndWhatIsLeft)
 struct Doubt {
     void (Exchange::*move)(const std::set<int>& wanted);
     const char* fault;
-    const char* told; ///< what the question has to name
+    const char* message; ///< what the question has to name
 };
 
 constexpr Doubt doubts[] = {
@@ -269,21 +269,21 @@ constexpr Doubt doubts[] = {
     {&Exchange::download, "Command=send\nFile=1\nStatus=none", "the registers may not have it"},
 };
 
-TEST(ExchangeRunner, AsksBeforeItUsesWhatAFailedToolLeft)
+TEST(ExchangeRunner, AsksBeforeItUsesFilesThatAFailedToolLeft)
 {
     Exchange shop(2);
     shop.upload({2});
     shop.download({2});
     EXPECT_TRUE(shop.boxes.shown.empty()) << "nothing is asked in a good run";
     const QByteArray groups = readWholeFile(shop.made(1));
-    for (const auto& [move, fault, told] : doubts) {
+    for (const auto& [move, fault, message] : doubts) {
         SCOPED_TRACE(fault);
         test::execute(shop.values.databasePath, u"update GROUPS set DESCRIPTION='Mine' where GROUPNO=1"_s);
         shop.folder.setFaults(QByteArray("[Doubt]\n") + fault + '\n');
         shop.boxes.answers.clear();
         (shop.*move)({2});
         ASSERT_EQ(shop.boxes.shown.size(), 1U);
-        for (const char* part : {told, " old\r"})
+        for (const char* part : {message, " old\r"})
             test::expectAskedFirst(shop.boxes.shown[0], QString::fromLatin1(part));
         EXPECT_EQ(shop.ticks.ticked, std::set<int>{2});
         EXPECT_EQ(shop.firstGroup(), "Mine") << "nothing was imported";

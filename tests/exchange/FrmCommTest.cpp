@@ -77,7 +77,7 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndAsksBeforeTheFormerResultCounts)
     boxes.answers.assign(20, true);
     upload();
     EXPECT_EQ(status(), "5 files from register 1, 1 s    The program VELMARCOMM was not found.");
-    EXPECT_EQ(readWholeFile(kept(43)), bytes) << "the only copy stays when nothing came";
+    EXPECT_EQ(readWholeFile(kept(43)), bytes) << "the only copy is kept when nothing was received";
     EXPECT_FALSE(box(11).isChecked());
 }
 
@@ -119,7 +119,7 @@ TEST_F(FrmCommTest, AsksBeforeItFillsTheTablesOfAnotherCustomer)
     }
 }
 
-TEST_F(FrmCommTest, EndsTheFileInWorkWhenLeftInTheMidst)
+TEST_F(FrmCommTest, FinishesTheCurrentFileWhenTheUserLeaves)
 {
     box(2).click();
     pressEscapeSoon();
@@ -163,7 +163,7 @@ TEST_F(FrmCommTest, LetsOtherRunsStartWhileItsLastBoxIsOpen)
 }
 
 /// After an error, a failure that ends the program, and a run that leaves nothing.
-TEST_F(FrmCommTest, TellsAtTheNextOpeningWhatAnExchangeLeft)
+TEST_F(FrmCommTest, ShowsAtTheNextOpeningWhatAnExchangeLeftUndone)
 {
     const auto reopen = [this] {
         boxes.shown.clear();
@@ -178,7 +178,8 @@ TEST_F(FrmCommTest, TellsAtTheNextOpeningWhatAnExchangeLeft)
         folder.setFaults(fault);
         upload();
         expectFailure(failure);
-        EXPECT_TRUE(pathExists(kept(8)) && !pathExists(kept(10))) << "of the box in work, what came stays";
+        EXPECT_TRUE(pathExists(kept(8)) && !pathExists(kept(10)))
+            << "what was received of the current box is kept";
         reopen();
         ASSERT_EQ(boxes.shown.size(), 1U) << fault;
         const QString today = QDate::currentDate().toString(u"dd/MM/yyyy"_s);

@@ -50,14 +50,14 @@ TEST_F(MemoryFileTest, StoresEveryColumn)
     EXPECT_TRUE(m_shop.boxes.shown.empty());
 }
 
-TEST_F(MemoryFileTest, GoesByTheGenerationThatTheFileSizeTells)
+TEST_F(MemoryFileTest, UsesTheGenerationThatTheFileSizeShows)
 {
     fileMemory(78, fullLine);
     for (const int bytes : {77, 0}) {
         fileMemory(bytes, fullLine);
         expectFields(u"Z3MIX=True CATEGORY=null HOTLIST=null"_s);
     }
-    ASSERT_EQ(m_shop.boxes.shown.size(), 2U) << "an empty memory file tells no generation";
+    ASSERT_EQ(m_shop.boxes.shown.size(), 2U) << "an empty memory file shows no generation";
     EXPECT_EQ(m_shop.boxes.shown[0].text, u"You must upload the data from the Velmar"_s);
     const QString line = u"convert wVelmaro fMEM.dat t52.txt "_s;
     EXPECT_EQ(m_shop.commands, (QStringList{line + "u352"_L1, line + "u52"_L1, line + "u352"_L1}));

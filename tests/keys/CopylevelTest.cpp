@@ -22,7 +22,7 @@ void choose(QDialog& form, const char* list, int level)
         QTest::keyClick(&box, Qt::Key_Down);
 }
 
-TEST(Copylevel, CopiesOnceBothLevelsAreChosenAndAsksWhereLevelsLieElsewhere)
+TEST(Copylevel, CopiesOnceBothLevelsAreChosenAndAsksIfLevelsAreElsewhere)
 {
     for (const KeyGeometry* const keyboard : {&velmarKeyboard(), &dorvikKeyboard()}) {
         const test::KeyShop shop;
@@ -32,9 +32,10 @@ TEST(Copylevel, CopiesOnceBothLevelsAreChosenAndAsksWhereLevelsLieElsewhere)
         norvane::test::RecordingBoxes boxes;
         copylevel form(*database, *keyboard, shop.values, boxes);
         form.show();
-        for (const QLabel* const label : form.findChildren<QLabel*>())
+        for (const QLabel* const label : form.findChildren<QLabel*>()) {
             EXPECT_TRUE(!label->buddy() || label->geometry().right() < label->buddy()->x())
                 << "before its list";
+        }
         press(form, "CSCmdBtn1");
         choose(form, "CopyFrom", 5);
         press(form, "CSCmdBtn1");
@@ -69,7 +70,7 @@ TEST(Copylevel, CopiesOnceBothLevelsAreChosenAndAsksWhereLevelsLieElsewhere)
     }
 }
 
-TEST(Copylevel, LeavesAllAsItWasWhenATableEndsBefore)
+TEST(Copylevel, ChangesNothingWhenATableIsTooShort)
 {
     const test::KeyShop shop("3");
     shop.addKeyboard(dorvikKeyboard().keysPerLevel, 2);
@@ -77,8 +78,8 @@ TEST(Copylevel, LeavesAllAsItWasWhenATableEndsBefore)
     const auto links = shop.column("KEYLINK", "KEYLINK");
     const auto numbers = shop.column("NLU", "NLU");
     for (const LevelCopy copy : {LevelCopy{1, 2}, LevelCopy{2, 1}, LevelCopy{1, 5}}) {
-        const QString told = test::failureTextOf([&] { copy.run(*shop.open()); });
-        EXPECT_TRUE(told.startsWith(u"3021 "_s) && told.contains(u"from the ECR first."_s));
+        const QString message = test::failureTextOf([&] { copy.run(*shop.open()); });
+        EXPECT_TRUE(message.startsWith(u"3021 "_s) && message.contains(u"from the ECR first."_s));
         EXPECT_EQ(shop.column("KEYLINK", "KEYLINK"), links);
         EXPECT_EQ(shop.column("NLU", "NLU"), numbers);
     }

@@ -50,10 +50,10 @@ protected:
     /// By the letter of the button. @return the text of the status bar.
     QString save()
     {
-        QSignalSpy told(&*m_form, &FrmFunctKey::told);
+        QSignalSpy message(&*m_form, &FrmFunctKey::told);
         QTest::keyClick(&*m_form, Qt::Key_S, Qt::AltModifier);
-        EXPECT_TRUE(told.wait());
-        return told.value(0).value(0).toString();
+        EXPECT_TRUE(message.wait());
+        return message.value(0).value(0).toString();
     }
     std::string row(int id) const
     {

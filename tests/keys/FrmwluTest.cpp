@@ -95,7 +95,7 @@ TEST_F(FrmwluTest, WalksTheLookUpsOfTheChosenCustomer)
         EXPECT_EQ(control<QCheckBox>(name).isChecked(), ticked) << name;
     QTest::keyClicks(&control<QLineEdit>("description"), u" by a text that is too long"_s);
     press("NextRecord");
-    EXPECT_EQ(control<QLineEdit>("description").text().size(), 12) << "what was typed stays, cut to twelve";
+    EXPECT_EQ(control<QLineEdit>("description").text().size(), 12) << "what was typed remains, cut to twelve";
     press("PreviousRecord");
     control<QLineEdit>("linkwlu").setText(u"7"_s);
     press("PreviousRecord");

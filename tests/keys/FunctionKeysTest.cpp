@@ -1,4 +1,4 @@
-// All function keys on all models, held against a list of what registers have (function_keys.txt).
+// All function keys on all models, compared with a list of what registers have (function_keys.txt).
 #include "keys/functions/FunctionKeys.h"
 
 #include "store/engine/CommitOnExit.h"
@@ -244,7 +244,7 @@ TEST(FunctionKeyFieldsTest, OddValuesAreReadAsFarAsTheyGo)
     }
 }
 
-TEST(FunctionKeyFieldsTest, WhatCannotBeShownOrSavedTellsTableRowAndWayOut)
+TEST(FunctionKeyFieldsTest, WhatCannotBeShownOrSavedNamesTableRowAndRemedy)
 {
     const KeyShop shop;
     shop.add("FUNCTIONKEY", {{"id", whole(1)}});

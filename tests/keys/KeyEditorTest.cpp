@@ -101,7 +101,7 @@ const struct {
     {Act::CopyAndPaste, pair, {{9, 15}}, untouched, Refusal::Outside},
 };
 
-TEST_F(KeyEditorTest, AChangeIsOneStepBackAndForthAndARefusedOneIsNone)
+TEST_F(KeyEditorTest, AChangeIsOneUndoStepAndARefusedOneIsNotAny)
 {
     EXPECT_EQ(editor.swapWithMarked({{1, 0}}), Refusal::NoKeys);
     for (const auto& [act, keysChanged, to, after, refusal] : changes) {
@@ -118,7 +118,7 @@ TEST_F(KeyEditorTest, AChangeIsOneStepBackAndForthAndARefusedOneIsNone)
     }
 }
 
-TEST_F(KeyEditorTest, CopiedKeysOutliveTheLevelAndStepsDoNot)
+TEST_F(KeyEditorTest, CopiedKeysOutliveTheLevelAndUndoStepsDoNot)
 {
     editor.cut(pair);
     level.read(2);

@@ -80,7 +80,7 @@ protected:
         const auto lookUps = QString::fromStdString(shop.column("NLU", "NLU")).split(u'|');
         return (links.at(number - 1) + u' ' + lookUps.at(number - 1)).toStdString();
     }
-    /// Lets what is chosen go over a cell; with Ctrl when @p copies.
+    /// Drops the selection on a cell; with Ctrl when @p copies.
     void dropAt(KeyCell cell, bool copies) const
     {
         QAbstractItemModel& model = *grid().model();
@@ -88,8 +88,8 @@ protected:
         model.dropMimeData(keys.get(), copies ? Qt::CopyAction : Qt::MoveAction, -1, -1,
                            model.index(cell.row, cell.column));
     }
-    /// Takes cells up with the mouse by @p from, with Ctrl down from the start when @p copies, and lets them
-    /// go. A drag ends as it begins on a platform without a screen.
+    /// Drags cells with the mouse from @p from, with Ctrl down from the start when @p copies, and drops them.
+    /// A drag ends as it begins on a platform without a screen.
     void drag(KeyCell from, KeyCell to, bool copies) const
     {
         const auto mouse = [this, copies](QTest::MouseAction action, KeyCell cell, int right = 0) {
@@ -117,7 +117,7 @@ protected:
     std::unique_ptr<KeyLayout> form;
 };
 
-TEST_F(KeyLayoutTest, AScreenReaderMeetsEachKeyWithItsNumberStateAndAction)
+TEST_F(KeyLayoutTest, AScreenReaderReadsNumberStateAndActionOfEachKey)
 {
     auto& key = *QAccessible::queryAccessibleInterface(&grid())->tableInterface()->cellAt(9, 0);
     const auto said = [&key] {
@@ -135,7 +135,7 @@ TEST_F(KeyLayoutTest, AScreenReaderMeetsEachKeyWithItsNumberStateAndAction)
     EXPECT_TRUE(key.state().selected);
 }
 
-TEST_F(KeyLayoutTest, IsWorkedByKeysAloneAndStoresOnlyWhenTold)
+TEST_F(KeyLayoutTest, IsUsableByKeyboardAndStoresOnlyOnSave)
 {
     EXPECT_EQ(shop.values.databasePath, shop.folder.path("velmar.mdb"));
     EXPECT_EQ(form->windowTitle(), u"Keyboard Level. 1"_s);
@@ -195,7 +195,7 @@ TEST_F(KeyLayoutTest, ClicksInTheListsFillTheCurrentCell)
     EXPECT_EQ(cell(0, 1), "Journal Feed\rFIXED");
 }
 
-TEST_F(KeyLayoutTest, AsksOnLeavingALevelAndStaysWhenTheQuestionIsClosed)
+TEST_F(KeyLayoutTest, AsksOnLeavingALevelAndRemainsWhenTheQuestionIsClosed)
 {
     put(0);
     press("CSCmdBtn4");
@@ -278,7 +278,7 @@ TEST_F(KeyLayoutTest, TheMouseDragsWhatIsChosenOrTheOneCellItBeganOn)
         << "the cell taken out of the block is not the current one";
 }
 
-TEST_F(KeyLayoutTest, AsksBeforeAnEntryThatComesBackAsAPluOrGoesToMoreThanThreeKeys)
+TEST_F(KeyLayoutTest, AsksBeforeAnEntryThatComesBackAsAPluOrIsOnMoreThanThreeKeys)
 {
     for (const bool answer : {false, true}) {
         boxes.answers = {answer};
@@ -313,7 +313,7 @@ TEST_F(KeyLayoutTest, AsksBeforeAnEntryThatComesBackAsAPluOrGoesToMoreThanThreeK
     EXPECT_TRUE(control<QAction>("Paste").isEnabled());
 }
 
-TEST_F(KeyLayoutTest, ALevelThatCannotBeSavedStaysInTheEditor)
+TEST_F(KeyLayoutTest, ALevelThatCannotBeSavedRemainsInTheEditor)
 {
     put(0);
     const auto other = shop.open();
@@ -324,11 +324,12 @@ TEST_F(KeyLayoutTest, ALevelThatCannotBeSavedStaysInTheEditor)
         EXPECT_FALSE(form->close());
     }
     ASSERT_EQ(boxes.shown.size(), 4U);
-    const QString& told = boxes.shown[1].text;
+    const QString& message = boxes.shown[1].text;
     EXPECT_TRUE(
-        told.startsWith(u"Level 1 was not saved: rows 1 to 158 of the tables KEYLINK and NLU are as they "
-                        "were. The database is in use by another program."_s));
-    EXPECT_TRUE(told.contains(u"Wait until the other program has finished, or close it, and save again."_s));
+        message.startsWith(u"Level 1 was not saved: rows 1 to 158 of the tables KEYLINK and NLU are as they "
+                           "were. The database is in use by another program."_s));
+    EXPECT_TRUE(
+        message.contains(u"Wait until the other program has finished, or close it, and save again."_s));
     EXPECT_EQ(label("Label1"), "Keyboard Level. 1");
     boxes.answers = {true};
     press("CSCmdBtn1");

@@ -24,7 +24,7 @@ const KeyOfCell keysOfCells[] = {
     {dorvikKeyboard(), {0, 15}, 158}, {dorvikKeyboard(), {0, 16}, {}},
 };
 
-TEST(KeyGeometry, CountsKeysUpTheColumnsAndPassesOverFixedCells)
+TEST(KeyGeometry, CountsKeysUpTheColumnsAndSkipsFixedCells)
 {
     for (const auto& [keyboard, cell, key] : keysOfCells)
         EXPECT_EQ(keyboard.keyNumber(cell), key) << cell.row << ' ' << cell.column;
@@ -114,8 +114,8 @@ TEST(KeyLevel, ShowsWhatARowSaysAndWritesTheKeyNumberWhereItBelongs)
                   QString::fromLatin1(row.savedNumber).replace(u'#', number).toStdString());
     }
     EXPECT_EQ(shop.stored("NLU", 158), "000000000000000158");
-    EXPECT_EQ(shop.stored("NLU", 159), "000000000000003001") << "level 3 stays";
-    EXPECT_EQ(shop.stored("NLU", 0), "000000000000001158") << "level 1 stays";
+    EXPECT_EQ(shop.stored("NLU", 159), "000000000000003001") << "level 3 is unchanged";
+    EXPECT_EQ(shop.stored("NLU", 0), "000000000000001158") << "level 1 is unchanged";
 }
 
 const std::pair<const char*, const char*> badRows[] = {
@@ -127,7 +127,7 @@ const std::pair<const char*, const char*> badRows[] = {
     {"update nlu set nlu = 'ab' where id = 159", "3421 Table NLU, row 159: "},
 };
 
-TEST(KeyLevel, NamesTableRowAndTheWayOutOfBadRows)
+TEST(KeyLevel, NamesTableRowAndRemedyOfBadRows)
 {
     for (const auto& [spoil, words] : badRows) {
         const LevelShop shop;
@@ -135,8 +135,8 @@ TEST(KeyLevel, NamesTableRowAndTheWayOutOfBadRows)
         KeyLevel level(shop.keyboard, shop.open());
         level.read(1);
         shop.execute(spoil);
-        const QString told = test::failureTextOf([&] { level.read(shownLevel); });
-        EXPECT_TRUE(told.startsWith(QLatin1String(words))) << told.toStdString();
+        const QString message = test::failureTextOf([&] { level.read(shownLevel); });
+        EXPECT_TRUE(message.startsWith(QLatin1String(words))) << message.toStdString();
         EXPECT_EQ(level.level(), 1);
     }
 }

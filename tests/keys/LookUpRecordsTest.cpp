@@ -72,7 +72,7 @@ const ShownLine shownLines[] = {
     {-1, "18", "0|0|Not Used|0"},
 };
 
-TEST_F(LookUpRecordsTest, ShowsEachLineByItsTypeAndDropsWhatIsGone)
+TEST_F(LookUpRecordsTest, ShowsEachLineByItsTypeAndDropsMissingItems)
 {
     std::map<int, std::pair<int, const char*>> lines;
     for (const ShownLine& each : shownLines)
@@ -109,7 +109,7 @@ TEST_F(LookUpRecordsTest, SavesWithoutGapsButMovesNoLineByMoreThanTwentyPlaces)
     EXPECT_EQ(stored(), " | 0");
 }
 
-TEST_F(LookUpRecordsTest, StoresWholeOrNotAtAll)
+TEST_F(LookUpRecordsTest, StoresEverythingOrNothing)
 {
     addLookUp(1, {});
     addLookUp(2, {});
@@ -136,15 +136,15 @@ TEST_F(LookUpRecordsTest, StoresWholeOrNotAtAll)
               "1|null|null|null|null|null|null|null 2|Drinks|3|1|True|True|False|1");
 }
 
-TEST_F(LookUpRecordsTest, TellsWhatToUploadWhenItCannotOpen)
+TEST_F(LookUpRecordsTest, NamesWhatToUploadWhenItCannotOpen)
 {
     const auto opened = [&] {
         QString lines;
-        const QString told = failureTextOf([&] {
+        const QString message = failureTextOf([&] {
             LookUpRecords records(m_shop.open());
             lines = QString::number(records.read().lines.size());
         });
-        return told + lines;
+        return message + lines;
     };
     EXPECT_EQ(opened(),
               u"3021 No current record. Table wlu is empty. Upload Window Look Up's from the ECR first."_s);

@@ -17,7 +17,7 @@ LinkSettings settingsFrom(const QByteArray& keys)
     return readLinkSettings(values);
 }
 
-TEST(CommandLines, AreTheSettingsWordsToTheBlank)
+TEST(CommandLines, AreTheWordsOfTheSettingsWithTheirBlanks)
 {
     constexpr const char* rows[][3] = {
         {"", "VELMARCOMM s2  F1 1T c1  N1.DAT -D 1", "1200"},

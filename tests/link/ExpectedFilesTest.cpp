@@ -16,7 +16,7 @@ protected:
     test::WorkingDirectory here{folder.path()};
 };
 
-TEST_F(ExpectedFilesTest, TellTheSameBytesWrittenAgainFromAnOldFile)
+TEST_F(ExpectedFilesTest, TheSameBytesWrittenAgainAreNotAnOldFile)
 {
     folder.write("STATUS.OUT", "0");
     // Many times without a pause: one of them would share a tick of the clock with the writing before.
@@ -34,7 +34,7 @@ TEST_F(ExpectedFilesTest, TellTheSameBytesWrittenAgainFromAnOldFile)
     }
 }
 
-TEST_F(ExpectedFilesTest, RemainInTheSpellingThatWasWrittenLast)
+TEST_F(ExpectedFilesTest, KeepTheSpellingThatWasWrittenLast)
 {
     for (const char* name : {"67.txt", "67.TXT", "67.txt.former", "167.txt"})
         folder.write(name, "old");
@@ -49,20 +49,20 @@ TEST_F(ExpectedFilesTest, RemainInTheSpellingThatWasWrittenLast)
     }
 }
 
-TEST_F(ExpectedFilesTest, AreToldWithTheirAge)
+TEST_F(ExpectedFilesTest, AreNamedWithTheirAge)
 {
     constexpr std::pair<qint64, const char*> ages[] = {
         {0, "less than a minute"}, {60, "1 minute"},        {59 * 60, "59 minutes"},
         {3600, "1 hour"},          {47 * 3600, "47 hours"}, {48 * 3600, "2 days"},
     };
-    for (const auto& [seconds, told] : ages) {
+    for (const auto& [seconds, age] : ages) {
         folder.write("67.TXT", "");
         QFile file(folder.path("67.TXT"));
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
         const QDateTime written = QDateTime::currentDateTime().addSecs(-seconds);
         ASSERT_TRUE(file.setFileTime(written, QFile::FileModificationTime));
-        EXPECT_EQ(fileAndAge(u"67.txt"_s), u"67.txt of %1, %2 old"_s.arg(
-                                               written.toString(u"dd/MM/yyyy HH:mm"_s), QLatin1String(told)));
+        EXPECT_EQ(fileAndAge(u"67.txt"_s),
+                  u"67.txt of %1, %2 old"_s.arg(written.toString(u"dd/MM/yyyy HH:mm"_s), QLatin1String(age)));
     }
     EXPECT_EQ(fileAndAge(u"1.txt"_s), u"no 1.txt"_s);
 }

@@ -86,7 +86,7 @@ TEST_F(ModemTest, TakesWhatCountsAsAnAnswer)
 }
 
 /// What comes in during the pause after an answer is dropped, except before the dialling.
-TEST_F(ModemTest, JoinsPiecesAndDropsWhatComesInBeforeTheProgrammingAlone)
+TEST_F(ModemTest, JoinsPiecesAndDropsOnlyWhatComesBeforeTheProgramming)
 {
     m_far.willSay(36001, "OK");
     EXPECT_EQ(dial({{"OK"}}), modemFailed);
@@ -97,7 +97,7 @@ TEST_F(ModemTest, JoinsPiecesAndDropsWhatComesInBeforeTheProgrammingAlone)
     EXPECT_EQ(dial({{"OK"}, {"OK"}}), 0);
 }
 
-TEST_F(ModemTest, DoesNotTimeOutAcrossMidnightButEndsItsPauses)
+TEST_F(ModemTest, DoesNotTimeOutAtMidnightAndEndsItsPauses)
 {
     QuickClock late(m_far, 86390);
     Modem modem(*m_line, late, [](const QString&) {});
@@ -108,7 +108,7 @@ TEST_F(ModemTest, DoesNotTimeOutAcrossMidnightButEndsItsPauses)
     EXPECT_NEAR(later.secondsSinceMidnight(), 1.5, 0.3);
 }
 
-TEST_F(ModemTest, PassesOverAPortThatIsMissing)
+TEST_F(ModemTest, ContinuesWithoutAMissingPort)
 {
     EXPECT_FALSE(m_line->send(u"AT"_s)) << "not open yet";
     const auto missing = makeSerialLine({u"no-such-port"_s});
@@ -118,7 +118,7 @@ TEST_F(ModemTest, PassesOverAPortThatIsMissing)
     EXPECT_FALSE(missing->isOpen());
 }
 
-TEST(SerialLine, PassesOverAPortThatIsUnpluggedWhileOpen)
+TEST(SerialLine, ContinuesWhenAnOpenPortIsUnplugged)
 {
     auto far = std::make_unique<PseudoModem>();
     const auto line = makeSerialLine({far->device()});
@@ -136,7 +136,7 @@ TEST_F(ModemTest, HangsUpAnOpenAndAClosedPort)
 {
     m_link.portIndex = 0;
     m_modem.setUpLine(m_link);
-    m_link.portIndex = 4; // beyond the list: the port stays as it was
+    m_link.portIndex = 4; // beyond the list: the port is unchanged
     for (const bool open : {false, true}) {
         SCOPED_TRACE(open);
         m_modem.setUpLine(m_link);

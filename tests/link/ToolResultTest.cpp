@@ -25,7 +25,7 @@ TEST(ToolResult, HasATextThatBeginsWithItsNumber)
     EXPECT_EQ(resultInWords(16), u"result 16: unknown"_s);
 }
 
-TEST(ToolResult, IsNoticedWhenTheToolCrashedOrIsMissing)
+TEST(ToolResult, IsReportedWhenTheToolCrashedOrIsMissing)
 {
     test::RecordingBoxes boxes;
     QStringList notices;

@@ -53,8 +53,11 @@ protected:
     }
 
     /// Runs a tool that hangs. Meanwhile the user does @p acts, one each turn of 50 ms.
-    [[nodiscard]] ChildResult hang(std::vector<std::function<void()>> acts) { return hang(acts, wait); }
-    [[nodiscard]] ChildResult hang(std::vector<std::function<void()>> acts, ToolWait& by) const
+    [[nodiscard]] ChildResult hang(const std::vector<std::function<void()>>& acts)
+    {
+        return hang(acts, wait);
+    }
+    [[nodiscard]] ChildResult hang(const std::vector<std::function<void()>>& acts, ToolWait& by) const
     {
         QTimer user;
         QObject::connect(&user, &QTimer::timeout, [&, next = std::size_t{0}]() mutable {
@@ -93,7 +96,7 @@ protected:
                   }};
 };
 
-TEST_F(ToolWaitTest, PaintsWhileNoInputReachesTheWindowsAndHandsTheFormItsOwnAfterwards)
+TEST_F(ToolWaitTest, PaintsWithoutTakingInputAndPassesTheFormItsOwnAfterwards)
 {
     const int before = painted.paints;
     const auto pressMuch = [&] {

@@ -59,7 +59,7 @@ TEST_F(DocumentEditorTest, ADoubleClickColoursAWhiteKeyOrOneCell)
     EXPECT_EQ(blueCells(), (std::vector{3, 4, 5})) << "other numbers that are drawn white";
 }
 
-TEST_F(DocumentEditorTest, ADoubleClickTakesTheFontOfItsFirstClickBack)
+TEST_F(DocumentEditorTest, ADoubleClickUndoesTheFontOfItsFirstClick)
 {
     m_editor.style().font = CellFont{QStringLiteral("Courier"), 10, false, true};
     m_editor.click(3);

@@ -67,7 +67,7 @@ std::string described(const Cell& cell)
         .toStdString();
 }
 
-TEST(DocumentFileTest, ABadFileFailsAndLeavesWhatWasReadBefore)
+TEST(DocumentFileTest, ABadFileFailsAndKeepsWhatWasReadBefore)
 {
     const QByteArray one = cellLines("1");
     const struct {
@@ -98,7 +98,7 @@ TEST(DocumentFileTest, ABadFileFailsAndLeavesWhatWasReadBefore)
     }
 }
 
-TEST(DocumentFileTest, SavesWholeOrLeavesTheOldFile)
+TEST(DocumentFileTest, SavesCompletelyOrKeepsTheOldFile)
 {
     const TestFolder folder;
     folder.write("a.ky4", "old");

@@ -9,7 +9,7 @@ namespace norvane::overlay
 namespace
 {
 
-TEST(KeyboardViewTest, HoldsEveryCellOnTheKeyboardAndOverNoOther)
+TEST(KeyboardViewTest, HasEveryCellOnTheKeyboardWithoutOverlap)
 {
     for (const Keyboard keyboard : {Keyboard::Dorvik, Keyboard::Velmar, Keyboard::Quelmont}) {
         DocumentEditor editor(keyboard);

@@ -21,10 +21,11 @@ protected:
         for (int row = 1; row <= 845; ++row) {
             for (const auto& sql : {u"KEYLINK (ID, KEYLINK) values (%1, '%2')"_s,
                                     u"NLU (ID, NLU) values (%1, '000000000000000000')"_s,
-                                    u"FUNCTIONKEY (id, DESCRIPTION) values (%2, 'F%1')"_s})
+                                    u"FUNCTIONKEY (id, DESCRIPTION) values (%2, 'F%1')"_s}) {
                 database.execute(u"insert into "_s + QString(sql)
                                                          .replace(u"%1"_s, QString::number(row))
                                                          .replace(u"%2"_s, QString::number(row + 1000)));
+            }
         }
     }
 

@@ -76,7 +76,7 @@ TEST_F(Preview, MarksTheKeysThatAPrinterCannotReachAndMovesTheSheet)
     EXPECT_EQ(at(8 + 8, 5 + 13), QColor(Qt::white));
 }
 
-TEST_F(Preview, TellsWhatWillNotPrint)
+TEST_F(Preview, NamesWhatWillNotBePrinted)
 {
     open(m_document, office);
     EXPECT_EQ(notice(), "");

@@ -1,4 +1,4 @@
-// A sheet on the queue of a printer that tells its margins.
+// A sheet on the queue of a printer that reports its margins.
 #include "overlay/SheetActions.h"
 #include "paper/DefaultPrinter.h"
 #include "tests/overlay/RecordingDialogs.h"
@@ -56,9 +56,9 @@ std::unique_ptr<QPrinter> printerFor(QPageLayout::Orientation orientation)
 void expectMargins(const paper::Sheet& sheet, const std::array<int, 4>& points)
 {
     const paper::Margins& margins = sheet.margins;
-    const std::array told = {margins.left, margins.top, margins.right, margins.bottom};
-    for (std::size_t edge = 0; edge < told.size(); ++edge)
-        EXPECT_NEAR(told[edge].inMillimetres(), points[edge] * 25.4 / 72, 0.01) << edge;
+    const std::array reported = {margins.left, margins.top, margins.right, margins.bottom};
+    for (std::size_t edge = 0; edge < reported.size(); ++edge)
+        EXPECT_NEAR(reported[edge].inMillimetres(), points[edge] * 25.4 / 72, 0.01) << edge;
 }
 
 constexpr double millimetresPerPoint = 25.4 / 72;
@@ -89,7 +89,7 @@ void printFromPreview(SheetActions& actions)
         print, [] {}, nullptr);
 }
 
-TEST(PrintQueueTest, GetsTheSheetInPlaceAndInHighQuality)
+TEST(PrintQueueTest, ReceivesTheSheetInPlaceAndInHighQuality)
 {
     if (!PrintServer::isInstalled())
         GTEST_SKIP() << "needs the programs cupsd and lpadmin";

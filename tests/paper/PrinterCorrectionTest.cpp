@@ -10,7 +10,7 @@ namespace norvane::paper
 namespace
 {
 
-TEST(PrinterCorrectionTest, PutsAPrinterRightInOneStepFromAnyCorrection)
+TEST(PrinterCorrectionTest, CorrectsAPrinterInOneStepFromAnyCorrection)
 {
     // This one prints 1.5 % too small and everything 1.7 mm too far right.
     const auto printed = [](const AxisCorrection& axis, double place) {

@@ -145,7 +145,7 @@ TEST(Decimal, MovesThePointAndRoundsHalvesAwayFromZero)
         EXPECT_EQ(Decimal::parse(row.number)->shifted(row.shift).toWhole(), row.whole) << row.number;
 }
 
-TEST(Decimal, PricesSurviveTheWayThroughTheNearestBinaryNumber)
+TEST(Decimal, PricesSurviveAConversionToTheNearestBinaryNumber)
 {
     for (int cents = -200'000; cents <= 200'000; ++cents) {
         const double stored = Decimal(cents, 2).toDouble();

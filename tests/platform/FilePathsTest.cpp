@@ -15,7 +15,7 @@ namespace
 
 using test::failureOf, test::TestFolder;
 
-TEST(FilePaths, NamesMeetWithoutRegardToCaseInEveryPart)
+TEST(FilePaths, NamesAreFoundWithoutRegardToCaseInEveryPart)
 {
     const TestFolder folder;
     folder.write("Cafe Müller/MEM.dat", "m");
@@ -34,13 +34,13 @@ TEST(FilePaths, NamesMeetWithoutRegardToCaseInEveryPart)
     EXPECT_EQ(readWholeFile(QStringLiteral("./cafe müller/../CAFE müller/MEM.DAT")), "new");
 
     folder.write("Cafe Müller/mem.dat", "small");
-    if (folder.read("Cafe Müller/MEM.dat") == "new") { // this file system tells case apart
+    if (folder.read("Cafe Müller/MEM.dat") == "new") { // this file system is case-sensitive
         EXPECT_EQ(readWholeFile(folder.path("CAFE Müller/mem.dat")), "small") << "an exact name wins";
         EXPECT_EQ(readWholeFile(folder.path("CAFE Müller/Mem.Dat")), "new") << "else the first by name";
     }
 }
 
-TEST(FilePaths, FailuresCarryTheirNumbers)
+TEST(FilePaths, FailuresHaveTheirNumbers)
 {
     const TestFolder folder;
     folder.write("sub/x", "");
@@ -50,7 +50,7 @@ TEST(FilePaths, FailuresCarryTheirNumbers)
     EXPECT_EQ(failureOf([&] { writeWholeFile(folder.path("none/x"), "x"); }), 75);
 }
 
-TEST(FilePaths, AFullDiskLeavesTheFormerFileWhole)
+TEST(FilePaths, AFullDiskLeavesTheFormerFileUnchanged)
 {
     const TestFolder folder;
     folder.write("67.dat", "former");

@@ -38,7 +38,7 @@ protected:
     QProcess other;
 };
 
-TEST_F(FolderLockTest, AnotherProgramIsToldWhoHoldsIt)
+TEST_F(FolderLockTest, AnotherProgramLearnsWhoHoldsIt)
 {
     ASSERT_EQ(startOther(), "held");
     EXPECT_FALSE(take());
@@ -82,7 +82,7 @@ TEST_F(FolderLockTest, AFileWithoutAnOwnerIsReplacedOnceItIsOld)
     }
 }
 
-TEST_F(FolderLockTest, AFolderThatCannotBeWrittenToIsTold)
+TEST_F(FolderLockTest, AFolderThatCannotBeWrittenToIsReported)
 {
     boxes.shown.clear();
     EXPECT_FALSE(FolderLock::take(folder.path("missing"), boxes));

@@ -1,4 +1,4 @@
-// Takes the lock of the folder that it is given, tells so and holds it until its input ends.
+// Takes the lock of the folder that it is given, says so and holds it until its input ends.
 #include "platform/FolderLock.h"
 #include "tests/support/RecordingBoxes.h"
 

@@ -32,7 +32,7 @@ TEST(Numbers, AWholeTextIsANumberOrATypeMismatch)
     }
 }
 
-TEST(Numbers, WholeNumbersTakeHalvesToTheEvenNeighbourAndKeepToTheirRange)
+TEST(Numbers, WholeNumbersRoundHalvesToEvenAndStayInRange)
 {
     const std::pair<const char16_t*, int> rows[] = {{u"0.5", 0},
                                                     {u"1.5", 2},

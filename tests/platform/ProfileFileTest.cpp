@@ -63,7 +63,7 @@ TEST(ProfileFile, WritesOneKeyAndKeepsEveryOtherByte)
     constexpr const char* rows[][3] = {
         {"not in another section", "[x]\nPort=1\n[setupoption]\n\n[y]\n",
          "[x]\nPort=1\n[setupoption]\nPort= 3\n\n[y]\n"},
-        {"behind the last key", "[SetupOption]\n\na=1\n\n\n[y]\nb=1\n",
+        {"after the last key", "[SetupOption]\n\na=1\n\n\n[y]\nb=1\n",
          "[SetupOption]\n\na=1\nPort= 3\n\n\n[y]\nb=1\n"},
         {"a comment is no key", "[SetupOption]\r\n;Port=1\r\n", "[SetupOption]\r\n;Port=1\r\nPort= 3\r\n"},
         {"open last line, appended", "[SetupOption]\na=1", "[SetupOption]\na=1\nPort= 3\n"},

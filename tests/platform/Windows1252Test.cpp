@@ -1,4 +1,4 @@
-// The registers' character set, both ways and by both roads.
+// The registers' character set, in both directions and by both functions.
 #include "platform/Windows1252.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ std::string registerFromUtf8(std::string_view utf8)
     return out;
 }
 
-TEST(Windows1252, EveryByteIsTheCharacterOfTheCodePageAndComesBackByBothRoads)
+TEST(Windows1252, EveryByteIsConvertedToItsCharacterAndBack)
 {
     for (int i = 0; i < 256; ++i) {
         const QByteArray byte(1, static_cast<char>(i));
@@ -34,14 +34,14 @@ TEST(Windows1252, EveryByteIsTheCharacterOfTheCodePageAndComesBackByBothRoads)
     EXPECT_EQ(fromWindows1252("\xA0\xA3\xDF\xFD\xFF"), QStringLiteral("\u00A0£ßýÿ"));
 }
 
-TEST(Windows1252, WhatNoRegisterHasIsOneQuestionMark)
+TEST(Windows1252, ACharacterThatNoRegisterHasBecomesAQuestionMark)
 {
     const QString text = QStringLiteral("a→b😀c\u0080");
     EXPECT_EQ(toWindows1252(text), "a?b?c?");
     EXPECT_EQ(registerFromUtf8(text.toStdString()), "a?b?c?");
     EXPECT_FALSE(fitsWindows1252(text));
     EXPECT_EQ(toWindows1252(QString(QChar(0xD83D)) + u'x'), "?x");
-    // Damaged text never runs away.
+    // Damaged text is never read beyond its end.
     EXPECT_EQ(registerFromUtf8("a\xC3"), "a?");
     EXPECT_EQ(registerFromUtf8("\x80\x80z"), "?z");
     EXPECT_EQ(registerFromUtf8("\xE2\x82|"), "?|");

@@ -13,7 +13,7 @@ using test::Shop;
 const struct {
     int file;
     QByteArray text;
-    const char* told;
+    const char* message;
     QByteArray quoted = {};
 } badColumns[] = {
     {67, "," + QByteArray(100, '\xE9'),
@@ -32,12 +32,12 @@ const struct {
 TEST(BadInputTest, NamesTheColumnThatItRefuses)
 {
     Shop shop;
-    for (const auto& [file, text, told, quoted] : badColumns) {
+    for (const auto& [file, text, message, quoted] : badColumns) {
         const auto failure = norvane::test::failureTextOf([&shop, file = file, &text = text] {
                                  shop.import(file, text);
                              }).toUtf8();
-        EXPECT_TRUE(failure.startsWith(told)) << failure.left(300).toStdString();
-        EXPECT_TRUE(quoted.isEmpty() || failure.contains('"' + quoted + "...\"")) << told;
+        EXPECT_TRUE(failure.startsWith(message)) << failure.left(300).toStdString();
+        EXPECT_TRUE(quoted.isEmpty() || failure.contains('"' + quoted + "...\"")) << message;
     }
 }
 

@@ -39,7 +39,7 @@ TEST(FileProceduresTest, WritesOverTheFileOfAnotherSpellingInTheOrderOfTheIndex)
 }
 
 /// Text after a comma would reach the register in the next column.
-TEST(FileProceduresTest, AsksBeforeATextWithACommaPartsTheColumns)
+TEST(FileProceduresTest, AsksBeforeACommaInATextSeparatesColumns)
 {
     Shop shop;
     shop.add("GROUPS", {{"GROUPNO", Value::whole(1)}, {"DESCRIPTION", text("Cola 0,2 l")}});
@@ -56,7 +56,7 @@ TEST(FileProceduresTest, AsksBeforeATextWithACommaPartsTheColumns)
 }
 
 /// The points go with the records that hold them, but not before there are others.
-TEST(FileProceduresTest, SetsThePointsOfThePlusThatAreThere)
+TEST(FileProceduresTest, SetsThePointsOfExistingPlus)
 {
     Shop shop;
     shop.import(67, plu(17) + ",,,,,,,,,,,,00000250\r\n" + plu(18));
@@ -95,9 +95,9 @@ TEST(FileProceduresTest, AsksWhatBecomesOfATextThatIsBadInTheMiddle)
         const QByteArray bad = plu(17) + "\r\n" + line + "\r\n" + plu(19);
         for (const bool keeps : {false, true}) {
             shop.boxes.answers = {keeps};
-            const QString told = failureTextOf([&] { shop.import(67, bad); });
-            EXPECT_TRUE(told.startsWith(QString::number(number) + u' ' + QLatin1String(place)))
-                << told.toStdString();
+            const QString message = failureTextOf([&] { shop.import(67, bad); });
+            EXPECT_TRUE(message.startsWith(QString::number(number) + u' ' + QLatin1String(place)))
+                << message.toStdString();
             for (const char* part : {place, "1 records", "with 3 records"})
                 expectAskedFirst(shop.boxes.shown.back(), QString::fromLatin1(part));
             const auto former = (plu(1) + '|' + plu(2) + '|' + plu(3)).toStdString();
@@ -110,8 +110,8 @@ const struct {
     const char* name;
     int former;
     int lines;
-    QByteArray end;   ///< of the last line
-    const char* told; ///< nullptr: nothing is asked
+    QByteArray end;      ///< of the last line
+    const char* message; ///< nullptr: nothing is asked
 } extents[] = {
     {"none", 20, 0, "", "67.txt has no records. It would replace the table PLUDATA, which has 20.\r"},
     {"fewer than half", 21, 10, "\r\n",
@@ -131,16 +131,16 @@ QByteArray plus(int count, const QByteArray& end)
 
 TEST(FileProceduresTest, AsksBeforeAShortTextReplacesAFullTable)
 {
-    for (const auto& [name, former, lines, end, told] : extents) {
+    for (const auto& [name, former, lines, end, message] : extents) {
         SCOPED_TRACE(name);
         Shop shop;
         shop.import(67, plus(former, "\r\n"));
         const QByteArray text = plus(lines, end);
         shop.import(67, text);
-        EXPECT_EQ(shop.boxes.shown.size(), told ? 1U : 0U);
-        EXPECT_EQ(shop.rows("PLUDATA"), told ? former : lines);
-        if (told) {
-            expectAskedFirst(shop.boxes.shown.back(), QString::fromLatin1(told));
+        EXPECT_EQ(shop.boxes.shown.size(), message ? 1U : 0U);
+        EXPECT_EQ(shop.rows("PLUDATA"), message ? former : lines);
+        if (message) {
+            expectAskedFirst(shop.boxes.shown.back(), QString::fromLatin1(message));
             shop.boxes.answers = {true};
             shop.import(67, text);
             EXPECT_EQ(shop.rows("PLUDATA"), lines);
@@ -148,7 +148,7 @@ TEST(FileProceduresTest, AsksBeforeAShortTextReplacesAFullTable)
     }
 }
 
-TEST(FileProceduresTest, PassesOverOrFailsOnAnEmptyTable)
+TEST(FileProceduresTest, SkipsAnEmptyTableOrFailsOnIt)
 {
     const std::set<int> passedOver{23, 24, 25, 26, 70, 71, 85, 86};
     for (const RegisterFile& file : registerFiles()) {

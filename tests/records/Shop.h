@@ -1,5 +1,5 @@
 // A customer's database and text files for the tests of the register records, with a converter that leaves
-// what a test tells it to.
+// what a test chooses.
 #pragma once
 
 #include "records/FileProcedures.h"

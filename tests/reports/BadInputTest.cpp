@@ -1,4 +1,4 @@
-// Databases that hold what no program of ours would leave there, and runs that are given up.
+// Databases with contents that this program never stores, and runs that are cancelled.
 #include "tests/reports/ReportShop.h"
 #include "tests/store/Elsewhere.h"
 
@@ -17,7 +17,7 @@ protected:
         return shop.request(ReportShop::installed(layout));
     }
     /// Whether the report's error names @p part.
-    [[nodiscard]] static testing::AssertionResult tells(const ReportRequest& request, const char* part)
+    [[nodiscard]] static testing::AssertionResult reports(const ReportRequest& request, const char* part)
     {
         const std::string error = errorOf(request);
         return error.find(part) == std::string::npos ? testing::AssertionFailure() << error
@@ -27,22 +27,22 @@ protected:
     ReportShop shop;
 };
 
-TEST_F(BadInput, ADatabaseThatLacksATableIsTold)
+TEST_F(BadInput, AMissingTableIsReported)
 {
     runElsewhere(shop.path(), "delete from norvane_field where table_name = 'GROUPS'");
-    EXPECT_TRUE(tells(request("plusales.rpt"), "the database has no table GROUPS"));
+    EXPECT_TRUE(reports(request("plusales.rpt"), "the database has no table GROUPS"));
     EXPECT_EQ(errorOf(request("mixsales.rpt")), "");
 }
 
-TEST_F(BadInput, ADamagedOrMissingDatabaseIsTold)
+TEST_F(BadInput, ADamagedOrMissingDatabaseIsReported)
 {
     QByteArray content = shop.folder().read("velmar.mdb");
     content.replace(8192, content.size() - 8192, QByteArray(content.size() - 8192, '\x5A'));
     shop.folder().write("velmar.mdb", content);
     auto sales = request("plusales.rpt");
-    EXPECT_TRUE(tells(sales, "velmar.mdb"));
+    EXPECT_TRUE(reports(sales, "velmar.mdb"));
     sales.dataFile += u".none"_s;
-    EXPECT_TRUE(tells(sales, "File not found"));
+    EXPECT_TRUE(reports(sales, "File not found"));
 }
 
 TEST_F(BadInput, NullAndTextInNumbersCountAsZero)
@@ -55,7 +55,7 @@ TEST_F(BadInput, NullAndTextInNumbersCountAsZero)
     EXPECT_EQ(linesOf(data), "1|Offer 1|1.5\n2|Offer 2|1\n|Offer|1\n# |Total|3.5");
 }
 
-TEST_F(BadInput, ALongRunIsGivenUpWithoutAReport)
+TEST_F(BadInput, ALongRunIsStoppedWithoutAReport)
 {
     runElsewhere(shop.path(),
                  "insert into MIXSALES (ID, SALESDATE, QUANTITY, VALUE) "

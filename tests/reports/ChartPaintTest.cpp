@@ -147,7 +147,7 @@ TEST(ChartPaintTest, SharesFillTheDiscClockwiseInTheColoursOfTheirLegend)
     Picture(chartOf(ChartKind::Shares, {{longName, 5000}, {u"B"_s, 3000}}), 140).expectInside();
 }
 
-TEST(ChartPaintTest, ACourseStandsOnItsZeroWithEachLabelBelowItsBar)
+TEST(ChartPaintTest, ACourseBeginsAtItsZeroWithEachLabelBelowItsBar)
 {
     const Picture picture(
         chartOf(ChartKind::Course, {{u"1"_s, 1000}, {u"Monday, 2/11"_s, 500}, {u"3"_s, -500}}), 100);

@@ -12,7 +12,7 @@ std::string printed(const ReportShop& shop, const char* layout)
     return linesOf(runReport(shop.request(ReportShop::installed(layout))));
 }
 
-TEST(ListReports, TellOptionsInWords)
+TEST(ListReports, ShowOptionsInWords)
 {
     const ReportShop shop;
     shop.add("PLUSTATUS", "STATUSNO|DESCRIPTION|tax1|tax3|SINGLEITEM|KPGROUP2|LINKEDPLU|GROUPLINK2",
@@ -64,7 +64,7 @@ protected:
     ReportShop shop;
 };
 
-TEST_F(OwnLayout, ReckonsInDecimal)
+TEST_F(OwnLayout, CalculatesInDecimal)
 {
     shop.add("GROUPSALES", "ID|SALESDATE|QUANTITY|VALUE",
              {"1|2026-11-25|3|0.1", "2|2026-11-25|0|0.2", "3|2026-11-25|-7|123456789012345"});
@@ -83,7 +83,7 @@ TEST_F(OwnLayout, ReckonsInDecimal)
     EXPECT_EQ(computed("{VALUE}", "0.00"), "0.10\n0.20\n123,456,789,012,345.00\n# 123,456,789,012,345.30");
 }
 
-/// Totals of more digits than a number holds: what is cut off still tells a half from a little more.
+/// Totals of more digits than a number holds: what is cut off still distinguishes a half from a little more.
 TEST_F(OwnLayout, RoundsWithAllDigitsOfALongTotal)
 {
     shop.add("GROUPSALES", "ID|SALESDATE|VALUE", {"1|2026-11-25|0.125", "2|2026-11-25|4e-19"});
@@ -128,7 +128,7 @@ TEST_F(OwnLayout, GroupsAndSortsByWhatItNames)
 }
 
 /// Numbers as texts, which registers fill up with zeros and blanks; more parts than a legend has room for.
-TEST_F(OwnLayout, PutsZerosLastAndManySmallSharesTogether)
+TEST_F(OwnLayout, PutsZerosLastAndAddsUpSmallShares)
 {
     for (const char* plu : {"000|0.1", "   |0.2", "b|1", "A|2", "010|3", "  9|4", "1|5", "2|6", "3|7", "4|8",
                             "5|9", "6|999999999999999999"})
@@ -146,7 +146,7 @@ TEST_F(OwnLayout, PutsZerosLastAndManySmallSharesTogether)
     EXPECT_EQ(data.charts[0].points.back().value, Decimal(3, 1));
 }
 
-TEST_F(OwnLayout, APictureOfManyDaysShowsMonths)
+TEST_F(OwnLayout, AChartOfManyDaysShowsMonths)
 {
     for (QDate day(2026, 9, 15); day <= QDate(2026, 11, 25); day = day.addDays(1)) {
         shop.add("TIMESALES", "ID|SALESDATE|QUANTITY|VALUE",

@@ -157,7 +157,7 @@ TEST_F(PreviewTest, TurnsPagesByKeysAndWheel)
     EXPECT_EQ(pageText(), u"Page 2 of 10"_s);
 }
 
-TEST_F(PreviewTest, StaysOnItsPageInEveryZoom)
+TEST_F(PreviewTest, KeepsItsPageInEveryZoom)
 {
     auto* const zoom = control<QComboBox>(u"Zoom"_s);
     const auto* const view = control<QAbstractScrollArea>(u"Pages"_s);
@@ -230,7 +230,7 @@ TEST_F(PreviewTest, PrintsAndSavesWhatItShows)
     EXPECT_EQ(pdfPage(m_folder.path("paper2.pdf"), 10), pdfPage(m_folder.path("whole.pdf"), 10));
 }
 
-TEST_F(PreviewTest, TellsWhatCannotBeSavedOrPrinted)
+TEST_F(PreviewTest, ReportsWhatCannotBeSavedOrPrinted)
 {
     save("SaveCsv", m_folder.path("missing/a.csv"));
     save("SaveXlsx", m_folder.path("a.xlsx"));
@@ -259,7 +259,7 @@ TEST_F(PreviewTest, FitsOnASmallScreen)
     EXPECT_GT(control(u"Pages"_s)->height(), 500);
 }
 
-TEST_F(PreviewTest, GoesRoundByTabAndClosesByEscape)
+TEST_F(PreviewTest, TabReachesEverythingAndEscapeCloses)
 {
     for (const char* name : {"Charts", "PrintButton", "SaveButton", "CopyButton", "FindButton", "Zoom",
                              "ChartSwitch", "PreviousPageButton", "NextPageButton", "CloseButton", "Pages"}) {

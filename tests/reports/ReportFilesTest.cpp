@@ -74,7 +74,7 @@ protected:
     TestFolder m_folder;
 };
 
-TEST_F(ReportFiles, HoldTheFiguresOfThePreview)
+TEST_F(ReportFiles, HaveTheNumbersOfThePreview)
 {
     ReportData report = emptySales();
     addGroup(report, u"Coffee"_s, 60);
@@ -104,7 +104,7 @@ TEST_F(ReportFiles, HoldTheFiguresOfThePreview)
     EXPECT_TRUE(pdf.contains(u"Coffee (continued)"_s));
 }
 
-TEST_F(ReportFiles, SayWhenThereIsNothing)
+TEST_F(ReportFiles, SayWhenThereAreNoLines)
 {
     writePdf(emptySales(), true, m_folder.path("a.pdf"));
     writeXlsx(emptySales(), m_folder.path("a.xlsx"));
@@ -137,7 +137,7 @@ const std::function<void(const ReportData&, const QString&, const KeepGoing&)> w
     },
     writeCsv, writeXlsx};
 
-TEST_F(ReportFiles, LeaveTheFormerOneWhenTheyCannotBeWrittenOrTheUserGivesUp)
+TEST_F(ReportFiles, LeaveTheFormerFileWhenWritingFailsOrIsCancelled)
 {
     ReportData report = emptySales();
     addGroup(report, u"Coffee"_s, 2000);

@@ -52,7 +52,7 @@ void expectEachLineOnce(const ReportData& report)
 }
 
 // Groups of each size end differently at the foot of a page.
-TEST(ReportPagesTest, HoldEveryLineOnceAndPartNoHeadingFromItsLines)
+TEST(ReportPagesTest, HaveEveryLineOnceAndEveryHeadingWithItsLines)
 {
     for (const int size : {1, 2, 20, 40, 41, 42, 43, 44, 45, 46, 47, 48, 120}) {
         SCOPED_TRACE(size);
@@ -63,7 +63,7 @@ TEST(ReportPagesTest, HoldEveryLineOnceAndPartNoHeadingFromItsLines)
     }
 }
 
-TEST(ReportPagesTest, PutsChartsBeneathTheLinesOrOnPagesOfTheirOwn)
+TEST(ReportPagesTest, PutsChartsBelowTheLinesOrOnSeparatePages)
 {
     ReportData report = emptySales();
     report.charts = {sampleChart(ChartKind::Ranking, 15), sampleChart(ChartKind::Shares, 5),
@@ -112,7 +112,7 @@ const std::tuple<int, int, bool, int, int> wideReports[] = {
 };
 
 // Smaller letters first, then the sheet is turned, then columns go on below the others.
-TEST(ReportPagesTest, SplitNoNumberAndNoWordOfAHeading)
+TEST(ReportPagesTest, DoNotSplitNumbersOrWordsOfHeadings)
 {
     for (const auto& [digits, values, mayTurn, width, bands] : wideReports) {
         SCOPED_TRACE(values);
@@ -141,7 +141,7 @@ TEST(ReportPagesTest, SplitNoNumberAndNoWordOfAHeading)
     }
 }
 
-TEST(PageFontTest, LosesNoLetterInFurtherRows)
+TEST(PageFontTest, KeepsEveryLetterOverSeveralRows)
 {
     const PageFont font;
     for (const QString& words : {u"Toffee fudge brownie with cream"_s, u"Unbreakableword30characterslong"_s,
@@ -169,7 +169,7 @@ std::pair<double, double> darkPart(const QImage& page, double y)
     return {first / 10.0, (last + 1) / 10.0};
 }
 
-TEST(PdfTest, StandsOnPaperWhereThePagesSay)
+TEST(PdfTest, IsOnPaperWhereThePagesSay)
 {
     const TestFolder folder;
     for (const bool isLandscape : {false, true}) {

@@ -1,4 +1,4 @@
-// A shop's database of a test's own, and reports over it as texts that a test can hold against what it put
+// A shop's database of a test's own, and reports over it as texts that a test can compare with what it put
 // in.
 #pragma once
 

@@ -73,7 +73,7 @@ TEST_F(ReportTest, OpensPreviewsThatCanBeUsedOverAModalFormAndOutliveIt)
     EXPECT_EQ(previews()[0]->parentWidget(), &m_main);
 }
 
-TEST_F(ReportTest, PrintsStraightOrSaysThatThereIsNoPrinter)
+TEST_F(ReportTest, PrintsDirectlyOrSaysThatThereIsNoPrinter)
 {
     const TestFolder folder;
     Report report(m_main, m_boxes, drinks);
@@ -92,7 +92,7 @@ TEST_F(ReportTest, PrintsStraightOrSaysThatThereIsNoPrinter)
     EXPECT_EQ(previews().size(), 0);
 }
 
-TEST_F(ReportTest, TellsAFailureOfTheStoreInItsBox)
+TEST_F(ReportTest, ShowsAFailureOfTheStoreInItsBox)
 {
     Report report(m_main, m_boxes, [](const ReportRequest&, const KeepGoing&) -> ReportData {
         throw RuntimeFailure(Failure::EngineFailure, u"The database is damaged."_s);
@@ -102,7 +102,7 @@ TEST_F(ReportTest, TellsAFailureOfTheStoreInItsBox)
               (std::vector<ShownBox>{{u"The database is damaged."_s, u"Report Error"_s, BoxIcon::Critical}}));
 }
 
-TEST_F(ReportTest, AnswersDuringALongRunAndGivesItUpOnCancel)
+TEST_F(ReportTest, RespondsDuringALongRunAndStopsItOnCancel)
 {
     QDialog form(&m_main);
     int runs = 0;

@@ -29,7 +29,7 @@ protected:
     ReportShop shop;
 };
 
-TEST_F(SalesReports, PluSalesStandByGroupWithNamesAndExactTotals)
+TEST_F(SalesReports, PluSalesAreGroupedWithNamesAndExactTotals)
 {
     shop.add("PLUSALES", pluFields,
              {"000000000000000003|2026-11-25|1|0|2|5639.549999999998|0|0",
@@ -60,7 +60,7 @@ TEST_F(SalesReports, PluSalesStandByGroupWithNamesAndExactTotals)
     EXPECT_EQ(data.charts[0].points[1].label, u"999"_s);
 }
 
-TEST_F(SalesReports, LevelsStandAsColumnsWhereAnyBeyondTheFirstHasSales)
+TEST_F(SalesReports, LevelsAreColumnsIfAnyButTheFirstHasSales)
 {
     shop.add("PLUSALES", pluFields,
              {"3|2026-11-25|0|0|2|5|1|2.5", "20|2026-11-25|0|0|1|1|0|0", "100|2026-11-25|0|0|0|0|1|-1"});
@@ -216,7 +216,7 @@ TEST_F(PeriodReports, APeriodOfMonthsShowsWhatItsDaysAddUpTo)
         << "each month once";
 }
 
-TEST_F(PeriodReports, AnotherProgramThatReadsIsWaitedForOnceInAReport)
+TEST_F(PeriodReports, AReportWaitsOnceForAnotherReader)
 {
     const norvane::test::ReadingElsewhere reader(shop.path());
     // With a chart that adds up months by itself.

@@ -81,7 +81,7 @@ const std::tuple<const char16_t*, QDate, const char16_t*> namedPeriods[] = {
     {u"> date(2026,1,31)", {2026, 11, 25}, u"From 01/02/2026"},
 };
 
-TEST_F(Selection, TellsItsPeriodAndEndsItToday)
+TEST_F(Selection, NamesItsPeriodAndEndsItToday)
 {
     for (const auto& [formula, today, subtitle] : namedPeriods) {
         const QString whole = u"{FINANCIALSALES.SALESDATE} "_s + QString::fromUtf16(formula);
@@ -110,7 +110,7 @@ const std::pair<const char16_t*, const char*> formulaMistakes[] = {
     {u"{FINANCIALSALES.ID} = 1; drop table FINANCIALSALES", "column 24"},
 };
 
-TEST_F(Selection, TellsWhereItsMistakeIs)
+TEST_F(Selection, NamesThePlaceOfItsMistake)
 {
     for (const auto& [formula, message] : formulaMistakes) {
         const std::string error = errorOf(request(QString::fromUtf16(formula)));

@@ -24,8 +24,8 @@ protected:
         EXPECT_EQ(ended.code, 0) << words.join(u' ').toStdString() << ": " << ended.err.toStdString();
     }
 
-    /// Every file of a customer's folder with its bytes, and every table with its rows; without what tells
-    /// when.
+    /// Every file of a customer's folder with its bytes, and every table with its rows; without dates and
+    /// times.
     [[nodiscard]] static QMap<QString, std::string> contentOf(const ApplicationValues& customer)
     {
         QMap<QString, std::string> content;
@@ -132,7 +132,7 @@ const struct {
     {{u"report"_s, shopName, u"pluprice"_s, u"--csv"_s, u"none/x.csv"_s}, 7, u"x.csv could not be written"_s},
 };
 
-TEST_P(CommandLineOfOneShop, TellsByItsExitCodeWhatWasRefused)
+TEST_P(CommandLineOfOneShop, ShowsByItsExitCodeWhatWasRefused)
 {
     for (const auto& [words, code, err] : refusals) {
         const Ended ended = run(words);
@@ -142,7 +142,7 @@ TEST_P(CommandLineOfOneShop, TellsByItsExitCodeWhatWasRefused)
     EXPECT_FALSE(pathExists(joinPath(m_shop.folder().appPath(), u"nowhere"_s)));
 }
 
-TEST_P(CommandLineOfOneShop, TellsByItsExitCodeWhatStoppedARun)
+TEST_P(CommandLineOfOneShop, ShowsByItsExitCodeWhatStoppedARun)
 {
     m_shop.folder().setFaults("[Off]\nCommand=open\nResult=8\n");
     const Ended stopped = run({u"fetch"_s, shopName, u"1"_s});
@@ -221,7 +221,7 @@ TEST_P(CommandLineOfOneShop, AnswersAQuestionBeforeALossByItsOption)
     expectAnswers({u"send"_s, shopName, u"plu"_s}, u"--overwrite-points"_s);
 }
 
-TEST_P(CommandLineOfOneShop, ChecksWhatStandsInTheFolders)
+TEST_P(CommandLineOfOneShop, ChecksWhatIsInTheFolders)
 {
     EXPECT_EQ(run({u"check"_s, shopName}).code, 0);
     writeWholeFile(joinPath(m_shop.values().customerPath, u"setup.ini"_s),
@@ -231,7 +231,7 @@ TEST_P(CommandLineOfOneShop, ChecksWhatStandsInTheFolders)
     EXPECT_TRUE(check.out.contains(u"there is no entry 9 in the list"_s)) << check.out.toStdString();
 }
 
-TEST_P(CommandLineOfOneShop, ListsReportsAndPutsBack)
+TEST_P(CommandLineOfOneShop, ListsReportsAndRestoresCopies)
 {
     const QString shop = u"corner shop"_s;
     expectDone({u"fetch"_s, shop, u"plu"_s});
@@ -248,11 +248,11 @@ TEST_P(CommandLineOfOneShop, ListsReportsAndPutsBack)
     m_shop.execute("update pludata set price1='0.01'");
     expectDone({u"restore"_s, shop, copy});
     EXPECT_TRUE(test::rowsOf(m_shop.values().databasePath, u"pludata"_s) == fetched);
-    EXPECT_GT(m_shop.rowsOf("PLUSALES"), 0) << "sales stay";
+    EXPECT_GT(m_shop.rowsOf("PLUSALES"), 0) << "sales remain";
 }
 
 /// A price run with a wrong rate, then a disk that fails, then a second folder of that name.
-TEST_P(CommandLineOfOneShop, MendsABadEvening)
+TEST_P(CommandLineOfOneShop, RepairsAFailedEvening)
 {
     expectDone({u"fetch"_s, shopName, u"plu"_s});
     const QString database = m_shop.values().databasePath;

@@ -192,7 +192,7 @@ protected:
     test::Shop m_shop{GetParam(), 1};
 };
 
-TEST_P(KeysRoad, KeysAndLookUpsArriveAtARegisterAndAtASecondCustomer)
+TEST_P(KeysRoad, KeysAndLookUpsReachARegisterAndASecondCustomer)
 {
     const keys::KeyCell from{keyboard().rows - 1, 0};
     const keys::KeyCell to{3, 3};
@@ -221,7 +221,7 @@ TEST_P(KeysRoad, KeysAndLookUpsArriveAtARegisterAndAtASecondCustomer)
     EXPECT_EQ(shownLookUp(), lookUp);
 }
 
-TEST_P(KeysRoad, FunctionKeysArriveButForWhatTheirPackingLoses)
+TEST_P(KeysRoad, FunctionKeysArriveExceptForWhatTheirPackingLoses)
 {
     openFunctionKeys(set);
     openFunctionKeys([](const QDialog& form, const KeyOptions& options) {

@@ -1,5 +1,5 @@
 // Nights of two shops, as a timer starts them: one register is off, or cannot be cleared, and the night is
-// played once more.
+// repeated.
 #include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
 #include "tests/store/Rows.h"
@@ -105,7 +105,7 @@ QString chainSales(const test::PostgresServer& server)
                         u"SELECT shop_name, round(net_sales, 2) FROM norvane.takings_by_shop ORDER BY 1"_s);
 }
 
-TEST(Night, OfTwoShopsWithARegisterOffCanBePlayedAgain)
+TEST(Night, OfTwoShopsWithARegisterOffCanBeRepeated)
 {
     test::PostgresServer server;
     ASSERT_TRUE(test::PostgresServer::isInstalled() && server.start());

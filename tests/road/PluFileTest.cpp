@@ -1,4 +1,4 @@
-// PLUs go out to a spreadsheet, are changed there and come back, as far as the registers.
+// PLUs are exported to a spreadsheet, changed there, imported and sent to the registers.
 #include "customers/CustomerLog.h"
 #include "customers/SafetyCopies.h"
 #include "platform/FilePaths.h"
@@ -46,7 +46,7 @@ protected:
     QString m_file = m_shop.folder().appFile(u"plus.csv"_s);
 };
 
-TEST_P(PluFile, BringsNewPricesToTheRegisters)
+TEST_P(PluFile, SendsNewPricesToTheRegisters)
 {
     constexpr int pluRecords = 67;
     for (const QString& box : {u"PLU"_s, u"PLU Status Group"_s, u"Group"_s})
@@ -145,7 +145,7 @@ TEST_P(PluFileOfOneModel, TakesWhatSpreadsheetsWrite)
                                ";2,5;900000000000000001;0,99; =new\r\n"
                                "\r\n"
                                "7;\"3,25\";4711;;\"Say \"\"\xE2\x82\xAC\"\"\"\r\n"
-                               ";;900000000000000002;4,100;\r\n", // the other commas tell what this one is
+                               ";;900000000000000002;4,100;\r\n", // the other commas show what this one is
                                {u"--json"_s});
     EXPECT_EQ(ended.code, 0) << ended.err.toStdString();
     EXPECT_TRUE(ended.out.contains(u"\"new\": \"3.25\""_s)) << ended.out.toStdString();

@@ -220,7 +220,7 @@ protected:
     std::map<int, QByteArray> m_bytes;
 };
 
-TEST_P(RoundTrip, BringsEverythingBackButForTheListedDifferences)
+TEST_P(RoundTrip, BringsEverythingBackExceptForTheListedDifferences)
 {
     takeStock();
     EXPECT_EQ(m_texts.size(), GetParam() == 0 ? 37U : 40U);

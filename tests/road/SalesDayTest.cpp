@@ -1,4 +1,4 @@
-// A day's sales come home: rung at three registers, collected over the real form, added up in the tables.
+// A day's sales: rung at three registers, collected with the real form, added up in the tables.
 #include "customers/CustomerLog.h"
 #include "platform/FilePaths.h"
 #include "tests/road/Shop.h"
@@ -30,7 +30,7 @@ constexpr SalesTable tables[] = {
 struct Kind {
     int model;
     QString stamp;
-    std::size_t levels; ///< of prices that the report tells apart
+    std::size_t levels; ///< of prices that the report distinguishes
 };
 
 class SalesDay : public testing::TestWithParam<Kind>
@@ -107,8 +107,8 @@ protected:
     QWidget& m_form = m_shop.openForm("CollectSales");
 };
 
-/// The second day is collected in two goes: a register was off at the first.
-TEST_P(SalesDay, ComesHomeOnceAndTheNextDayBesideIt)
+/// The second day is collected in two runs: a register was off at the first.
+TEST_P(SalesDay, IsStoredOnceAndTheNextDayBesideIt)
 {
     const QString done = u"Communications Successful...."_s;
     ring(1);

@@ -49,7 +49,7 @@ public:
         choose(entry);
         QWidget* const form = front();
         if (form == nullptr)
-            throw std::runtime_error(std::string("no form behind ") + entry);
+            throw std::runtime_error(std::string("no form opens for ") + entry);
         return *form;
     }
     /// The form in front that is not modal, if any.

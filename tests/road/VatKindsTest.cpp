@@ -8,7 +8,7 @@ namespace
 
 constexpr int vatBox = 5;
 
-TEST(VatKinds, TheScreenCallsEachRateByItsKind)
+TEST(VatKinds, TheScreenNamesEachRateByItsKind)
 {
     test::Shop shop(2, 1);
     EXPECT_TRUE(shop.upload({vatBox}).isEmpty());

@@ -103,7 +103,7 @@ protected:
     Notices notices{desktop.bus()};
 };
 
-TEST_F(WithoutLooking, APluIsFetchedItsPriceChangedAndSaved)
+TEST_F(WithoutLooking, APluIsFoundItsPriceChangedAndSaved)
 {
     chooseCustomer();
     fetchPlus();

@@ -125,7 +125,7 @@ TEST_F(FrmsalesCommTest, AsksBeforeItStoresTheSameSalesAgain)
 /// A step whose tool failed silently, after a collection of the day before.
 struct Doubt {
     const char* fault;
-    const char* told;
+    const char* message;
     /// After a Yes: another one may follow, for sales that are stored already, whose No clears nothing.
     std::size_t questions = 1;
     bool staysAtRegisters = false; ///< after these
@@ -142,12 +142,12 @@ constexpr Doubt doubts[] = {
      true},
 };
 
-TEST_F(FrmsalesCommTest, AsksBeforeItUsesWhatAFailedToolLeft)
+TEST_F(FrmsalesCommTest, AsksBeforeItUsesFilesThatAFailedToolLeft)
 {
     collect();
     EXPECT_TRUE(boxes.shown.empty()) << "nothing is asked in a good run";
     int day = 2;
-    for (const auto& [fault, told, questions, staysAtRegisters] : doubts) {
+    for (const auto& [fault, message, questions, staysAtRegisters] : doubts) {
         SCOPED_TRACE(fault);
         const bool clears = QLatin1StringView(fault).contains("clear"_L1);
         ring(day++);
@@ -155,7 +155,7 @@ TEST_F(FrmsalesCommTest, AsksBeforeItUsesWhatAFailedToolLeft)
         boxes.answers.clear();
         collect(fault);
         ASSERT_EQ(boxes.shown.size(), clears ? 2U : 1U);
-        for (const char* part : {told, " old\r"})
+        for (const char* part : {message, " old\r"})
             expectAskedFirst(boxes.shown[0], QString::fromLatin1(part));
         EXPECT_EQ(rows(), clears ? before + rowsOfOneDay : before);
         EXPECT_TRUE(registersHoldSales());

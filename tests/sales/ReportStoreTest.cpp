@@ -66,12 +66,12 @@ protected:
     test::RecordingBoxes m_boxes;
 };
 
-TEST_F(ReportStoreTest, AsksBeforeADayIsStoredShort)
+TEST_F(ReportStoreTest, AsksBeforeAnIncompleteDayIsStored)
 {
     const struct {
         const char* what;
         Texts texts;
-        const char* told; ///< nullptr when nothing is asked
+        const char* message; ///< nullptr when nothing is asked
     } days[] = {
         {"the first", day(1), nullptr},
         {"as long", day(2), nullptr},
@@ -80,13 +80,13 @@ TEST_F(ReportStoreTest, AsksBeforeADayIsStoredShort)
         {"no offers", day(5, 4, 0), "poll218.txt of "},
         {"an empty text", {day(6, 4, 2)[0], "", day(6)[2], day(6, 4, 2)[3], day(6)[4]}, ": 0 records, 4 at"},
     };
-    for (const auto& [what, texts, told] : days) {
+    for (const auto& [what, texts, message] : days) {
         SCOPED_TRACE(what);
         const qint64 before = rows();
-        EXPECT_EQ(store(texts), told == nullptr ? Stored::Yes : Stored::Refused);
-        EXPECT_EQ(asked().isEmpty(), told == nullptr);
-        EXPECT_TRUE(asked().contains(QLatin1StringView(told))) << asked().toStdString();
-        EXPECT_EQ(rows() == before, told != nullptr);
+        EXPECT_EQ(store(texts), message == nullptr ? Stored::Yes : Stored::Refused);
+        EXPECT_EQ(asked().isEmpty(), message == nullptr);
+        EXPECT_TRUE(asked().contains(QLatin1StringView(message))) << asked().toStdString();
+        EXPECT_EQ(rows() == before, message != nullptr);
     }
     EXPECT_EQ(store(days[3].texts, true), Stored::Yes);
     EXPECT_EQ(store(day(7, 3, 2)), Stored::Yes) << "the new length counts from now on";

@@ -59,13 +59,13 @@ constexpr std::tuple<const char*, const char*, const char*, const char*> searche
     {"FindControl_2", "Coffee", "Food", "No Options Coffee. This is the next one."},
 };
 
-TEST_F(FindTest, ASearchThatLandsElsewhereSaysSo)
+TEST_F(FindTest, ASearchThatFindsAnotherRecordSaysSo)
 {
     for (const auto& [button, sought, shown, expected] : searches) {
         find(form, button, sought);
         EXPECT_EQ(name(), shown) << sought;
         const std::string list = " The list (Ctrl+L) finds any part of a number or text.";
-        EXPECT_EQ(m_told, *expected == '\0' ? "" : expected + list) << sought;
+        EXPECT_EQ(m_notice, *expected == '\0' ? "" : expected + list) << sought;
     }
     EXPECT_TRUE(m_boxes.shown.empty());
 }

@@ -94,8 +94,8 @@ const std::tuple<int, const char*, const char*, const char*> entries[] = {
 
 TEST_F(GridTest, CellsAreStoredAtOnce)
 {
-    QString told;
-    QObject::connect(&*form, &OptionForm::told, &*form, [&told](const QString& text) { told = text; });
+    QString message;
+    QObject::connect(&*form, &OptionForm::told, &*form, [&message](const QString& text) { message = text; });
     for (const auto& [column, keys, kept, shown] : entries) {
         enter(0, column, keys);
         EXPECT_EQ(stored(column == 2 ? "PRICE1" : "GROUPNO"), kept);
@@ -104,9 +104,9 @@ TEST_F(GridTest, CellsAreStoredAtOnce)
     EXPECT_TRUE(m_boxes.shown.empty());
     enter(0, 2, "-5");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !m_boxes.shown.empty(); }));
-    EXPECT_EQ(told, u"Nothing was stored: \"-5\" is not a number from 0 up with at most 2 decimals"_s);
+    EXPECT_EQ(message, u"Nothing was stored: \"-5\" is not a number from 0 up with at most 2 decimals"_s);
     enter(0, 2, "6");
-    EXPECT_EQ(told, u"Saved Number 5"_s) << "and no longer that nothing was stored";
+    EXPECT_EQ(message, u"Saved Number 5"_s) << "and no longer that nothing was stored";
     execute("update PLUDATA set PRICE1 = '1.255'");
     grid = control<GridControl>(form = open(), "gridcontrol_0");
     EXPECT_EQ(cell(0, 2).data(), u"1.255"_s) << "what is seen is what is stored";
@@ -121,7 +121,7 @@ TEST_F(GridTest, RowsAreReadAgainAndTheCurrentOneStaysTheSameRecord)
     form->refresh();
     EXPECT_EQ(grid->currentIndex().siblingAtColumn(2).data(), u"9.00"_s);
     EXPECT_EQ(cell(0, 2).data(), u"9.00"_s);
-    EXPECT_EQ(grid->verticalScrollBar()->value(), top) << "the rows stay in their places";
+    EXPECT_EQ(grid->verticalScrollBar()->value(), top) << "the rows keep their places";
     EXPECT_EQ(current(), "600");
     execute("delete * from PLUDATA where PLUNUMBER < '000000000000000590'");
     form->refresh();
@@ -176,7 +176,7 @@ TEST_F(GridTest, FindsRowsByNumberOrText)
     QTest::keyClick(control(form, "GridFind"), Qt::Key_Return);
     EXPECT_EQ(current(), "699") << "the only one, again";
     type(form, "GridFind", "clart");
-    EXPECT_EQ(current(), "123") << "stays where the last match was";
+    EXPECT_EQ(current(), "123") << "remains at the last match";
     EXPECT_EQ(control<QLabel>(form, "GridFindOutcome")->text(), u"No such row"_s);
 }
 

@@ -33,8 +33,8 @@ TEST_F(OptionFormBuildTest, PlacesControlsInPixelsAndNamesThemByElement)
     EXPECT_TRUE(control(form, "LabelControl_0")->isVisible()) << "the first label is in view";
     EXPECT_EQ(control(form, "TextControl_1")->accessibleName(), u"Name"_s);
     EXPECT_EQ(control<QLabel>(form, "LabelControl_0")->buddy(), control(form, "TextControl_1"));
-    EXPECT_EQ(control<QLabel>(form, "LabelControl_1")->text(), u"R & D"_s) << "behind an unknown type";
-    EXPECT_EQ(form->findChild<QCheckBox*>(), nullptr) << "behind the gap nothing is read";
+    EXPECT_EQ(control<QLabel>(form, "LabelControl_1")->text(), u"R & D"_s) << "after an unknown type";
+    EXPECT_EQ(form->findChild<QCheckBox*>(), nullptr) << "nothing is read after the gap";
 }
 
 TEST_F(OptionFormBuildTest, ThePanelEndsBelowTheLargestCountedValue)
@@ -58,7 +58,7 @@ TEST_F(OptionFormBuildTest, ButtonsAreThoseOfTheFileAndTabEndsInThem)
              "[Field1]\nControlType=TextControl\nVisible=True\nTabindex=2\n"
              "[Field2]\nControlType=CheckControl\nVisible=True\n"
              "[Field3]\nControlType=IntegerNumberControl\nVisible=True\nTabindex=1\nReadOnly=True\n");
-    EXPECT_FALSE(control(form, "PrintReport")->isEnabled()) << "nothing behind it";
+    EXPECT_FALSE(control(form, "PrintReport")->isEnabled()) << "it has no report";
     EXPECT_EQ(QApplication::focusWidget(), control(form, "TextControl_1")) << "the first that takes an entry";
     control(form, "IntegerNumberControl_1")->setFocus();
     QStringList visited;
@@ -99,7 +99,7 @@ TEST_F(OptionFormBuildTest, ControlsTakeTheirPropertiesFromTheFile)
     EXPECT_EQ(control<ui::ValueList>(form, "ComboControl_3")->itemText(0).size(), 255);
 }
 
-TEST_F(OptionFormBuildTest, ATableThatIsNotGivenIsToldAndThenFails)
+TEST_F(OptionFormBuildTest, AMissingTableIsReportedAndThenFails)
 {
     const auto no = [this](const QString& what) {
         return test::ShownBox{u"No %1 defined in %2 file"_s.arg(what, m_screenFilePath),
@@ -109,9 +109,9 @@ TEST_F(OptionFormBuildTest, ATableThatIsNotGivenIsToldAndThenFails)
         {"", {no(u"database table"_s), no(u"index"_s)}},
         {"[Database]\nIndex1=groupno\n", {no(u"database table"_s)}},
         {"[Database]\ntable=GROUPS\n", {no(u"index"_s)}}};
-    for (const auto& [text, told] : cases) {
+    for (const auto& [text, message] : cases) {
         EXPECT_EQ(failureOf([&, text = text] { open(text); }), 3265) << text;
-        EXPECT_EQ(std::exchange(m_boxes.shown, {}), told) << text;
+        EXPECT_EQ(std::exchange(m_boxes.shown, {}), message) << text;
     }
 }
 
@@ -137,18 +137,18 @@ const struct {
 TEST_F(OptionFormBuildTest, FaultsFailWithTheNameOfTheFileAndOfTheKey)
 {
     for (const auto& [text, number, named] : faults) {
-        const QString told = test::failureTextOf([&, text = text] {
+        const QString message = test::failureTextOf([&, text = text] {
             open(text.startsWith('[') ? text : groups + "[Field1]\nControlType=" + text + "\n");
         });
         for (const QString& part :
              {QString::number(number) + u' ', m_screenFilePath, QString::fromLatin1(named)})
-            EXPECT_TRUE(told.contains(part)) << text.data() << told.toStdString();
+            EXPECT_TRUE(message.contains(part)) << text.data() << message.toStdString();
     }
     EXPECT_TRUE(m_boxes.shown.empty());
     execute("delete * from GROUPS");
-    const QString told = test::failureTextOf(
+    const QString message = test::failureTextOf(
         [&] { open(groups + "[Field1]\nControlType=TextControl\nDatafield=DESCRIPTION\n"); });
-    EXPECT_EQ(told, u"3021 The table GROUPS is empty. Upload its file from the ECR first."_s);
+    EXPECT_EQ(message, u"3021 The table GROUPS is empty. Upload its file from the ECR first."_s);
 }
 
 } // namespace

@@ -38,7 +38,7 @@ protected:
     {
         form = std::move(opened);
         QObject::connect(form.get(), &OptionForm::told, form.get(),
-                         [this](const QString& text) { m_told = text.toStdString(); });
+                         [this](const QString& text) { m_notice = text.toStdString(); });
     }
     void undo()
     {
@@ -51,7 +51,7 @@ protected:
     std::string toldBy(const char* button)
     {
         press(form, button);
-        return m_told;
+        return m_notice;
     }
     [[nodiscard]] std::string groupNames() const
     {
@@ -65,7 +65,7 @@ protected:
     }
 
     Form form;
-    std::string m_told; ///< what the status bar says
+    std::string m_notice; ///< what the status bar says
 };
 
 } // namespace norvane::screens

@@ -79,7 +79,7 @@ TEST_F(OptionFormTest, ASaveOnALockedFileOrAFullDiskSaysSoAndCanBeRepeated)
     EXPECT_TRUE(m_boxes.shown.empty());
 }
 
-TEST_F(OptionFormTest, MovesTellTheEnds)
+TEST_F(OptionFormTest, MovesReportTheFirstAndLastRecord)
 {
     press(form, "NextRecord");
     press(form, "PreviousRecord");
@@ -108,16 +108,16 @@ TEST_F(OptionFormTest, TypedChangesShowAStarAndComeBackAfterEachButtonThatDropsT
     for (const char* leaving : {"NextRecord", "PreviousRecord", "AddRecord", "find", "ExitForm"}) {
         type(form, "TextControl_1", "Ports");
         QTest::keyClick(control(form, "CheckControl_1"), Qt::Key_Space);
-        m_told.clear();
+        m_notice.clear();
         leaving == std::string_view("find") ? find3() : press(form, leaving);
-        EXPECT_EQ(m_told, lost) << leaving;
+        EXPECT_EQ(m_notice, lost) << leaving;
         EXPECT_FALSE(form->isWindowModified());
         execute("update GROUPS set PRICE = '7' where GROUPNO = 1");
         if (!form->isVisible())
             show(open());
         undo();
         EXPECT_EQ(name(), "Ports") << leaving;
-        EXPECT_EQ(m_told, "Changes to Options 1 are back. Press Save to store them");
+        EXPECT_EQ(m_notice, "Changes to Options 1 are back. Press Save to store them");
         EXPECT_TRUE(form->isWindowModified());
         EXPECT_EQ(group(1), "Wines|7|3|null|True|1|1.5") << "nothing is stored";
         press(form, "SaveRecord");
@@ -141,23 +141,23 @@ TEST_F(OptionFormTest, LostChangesMeetWhatHappenedToTheirRecordMeanwhile)
     press(form, "SaveRecord");
     EXPECT_EQ(takeBox().title, u"Record Changed"_s);
     EXPECT_EQ(name(), "Sherry");
-    EXPECT_EQ(m_told.find("Changes to Options 1 were not saved."), 0U) << "dropped by Show";
+    EXPECT_EQ(m_notice.find("Changes to Options 1 were not saved."), 0U) << "dropped by Show";
     execute("delete * from GROUPS where GROUPNO = 1");
     press(form, "NextRecord");
     undo();
-    EXPECT_EQ(m_told, "Changes to Options 1 cannot be brought back: the record was deleted");
+    EXPECT_EQ(m_notice, "Changes to Options 1 cannot be brought back: the record was deleted");
     EXPECT_EQ(name(), "Beers");
 
     press(form, "AddRecord");
     type(form, "TextControl_1", "Spirits");
     type(form, "IntegerNumberControl_1", "7");
     press(form, "NextRecord");
-    EXPECT_EQ(m_told, "Changes to the new record were not saved. Press Ctrl+Z to get them back");
+    EXPECT_EQ(m_notice, "Changes to the new record were not saved. Press Ctrl+Z to get them back");
     type(form, "TextControl_1", "Snacks");
     control(form, "NextRecord")->setFocus();
     undo();
     EXPECT_EQ(name(), "Spirits");
-    EXPECT_EQ(m_told.find("Changes to Options 3 were not saved."), 0U) << m_told;
+    EXPECT_EQ(m_notice.find("Changes to Options 3 were not saved."), 0U) << m_notice;
     press(form, "SaveRecord");
     EXPECT_EQ(groupNames(), "Beers Food Spirits");
     undo();
@@ -261,7 +261,7 @@ TEST_F(OptionFormTest, DeleteAsksFirstAndAfterTheLastRecordAddStillWorks)
     EXPECT_EQ(name(), "Wines");
 }
 
-TEST_F(OptionFormTest, AFailureClosesTheScreenThatItConcernsAndNoOther)
+TEST_F(OptionFormTest, AFailureClosesOnlyTheScreenThatItConcerns)
 {
     const Form other = open();
     type(other, "TextControl_1", "Ports");

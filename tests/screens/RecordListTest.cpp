@@ -106,9 +106,10 @@ TEST_F(RecordListTest, FollowsTheScreenAndTheTable)
 
 TEST_F(RecordListTest, ShowsTheRecordOfTheScreenWhenItOpensAndWhenItsFilterIsCleared)
 {
-    for (int number = 200; number < 300; ++number)
+    for (int number = 200; number < 300; ++number) {
         execute("insert into PLUDATA values ('000000000000000" + QByteArray::number(number) +
                 "', 'x', '1', 1)");
+    }
     form = open();
     control(form, "TextControl_1")->setFocus();
     const auto isShown = [this] {
@@ -135,7 +136,7 @@ TEST_F(RecordListTest, ShowsTheRecordOfTheScreenWhenItOpensAndWhenItsFilterIsCle
     EXPECT_TRUE(isShown()) << "opened again";
 }
 
-TEST_F(RecordListTest, StandsBesideScreensThatWalkSeveralRecordsOnly)
+TEST_F(RecordListTest, IsShownOnlyBesideScreensOfSeveralRecords)
 {
     EXPECT_FALSE(form->findChild<QWidget*>(u"ListFilter"_s)) << "at first";
     const int width = form->width();

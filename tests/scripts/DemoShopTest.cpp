@@ -48,7 +48,7 @@ TEST_F(DemoShopTest, HasTheProgrammeOfTheBankAndStoredDaysThatAddUp)
     EXPECT_EQ(QFileInfo(database).lastModified(), made) << "made once";
 }
 
-TEST_F(DemoShopTest, IsNotThereWhenItsMakingFailed)
+TEST_F(DemoShopTest, IsRemovedWhenMakingItFailed)
 {
     folder.setFaults("[Off]\nCommand=fetch\nFile=67\nResult=8\n");
     EXPECT_EQ(make(), 1);

@@ -75,8 +75,8 @@ expect "what is gone is gone" is_absent "$folder/Group.scn"
 expect "the dealer's screen goes first" links_to "$folder/smode.scn" "$dealers/smode.scn"
 expect "the shipped one makes room" is_absent "$folder/Smode.scn"
 expect "the dealer's tool is linked" links_to "$folder/VELMARCOMM" "$dealers/VELMARCOMM"
-expect "a file of the user stays" grep -q mine "$folder/notes.txt"
-expect "a link of the user stays" [ -L "$folder/stick" ]
+expect "a file of the user is kept" grep -q mine "$folder/notes.txt"
+expect "a link of the user is kept" [ -L "$folder/stick" ]
 expect "also one to our file" [ -L "$folder/wages.scn" ]
 expect "the customer is whole" [ -s "$folder/CAFE/velmar.mdb" ]
 
@@ -105,7 +105,7 @@ wait "$window" 2>/dev/null || true
 touch "$root/file"
 code=0
 said=$(NORVANE_FOLDER=$root/file/norvane shop customers 2>&1) || code=$?
-expect "a folder that cannot be made is told: $said" grep -qF "There is no folder $root/file/norvane." <<<"$said"
+expect "a folder that cannot be made is reported: $said" grep -qF "There is no folder $root/file/norvane." <<<"$said"
 expect "and its code" [ "$code" = 2 ]
 
 [ "$failures" = 0 ]

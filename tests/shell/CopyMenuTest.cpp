@@ -31,9 +31,9 @@ protected:
     }
 };
 
-TEST_F(CopyMenuTest, PutsTheCustomerBackAfterAQuestion)
+TEST_F(CopyMenuTest, RestoresTheCustomerAfterAQuestion)
 {
-    EXPECT_EQ(chooseLastCopy(), 1) << "no copies, which a heading tells";
+    EXPECT_EQ(chooseLastCopy(), 1) << "a heading says that there are no copies";
     EXPECT_TRUE(m_boxes.shown.empty());
 
     execute(u"insert into PLUDATA (PLUNUMBER) values ('1')"_s);

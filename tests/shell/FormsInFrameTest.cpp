@@ -9,7 +9,7 @@ namespace
 
 using FormsInFrameTest = FrameFixture;
 
-TEST_F(FormsInFrameTest, TheLettersOfTheSmallWindowsWinOverTheMenu)
+TEST_F(FormsInFrameTest, AccessLettersOfSmallWindowsComeBeforeTheMenu)
 {
     open("DataSetup");
     child<QLineEdit>(*m_main, "TxtTelephone").setText(u"0123"_s);
@@ -108,11 +108,11 @@ TEST_F(FormsInFrameTest, AScreenThatCannotOpenClosesAlone)
     m_folder.write("app/Cafe/setup.ini", "[SetupOption]\r\nPort=9\r\n");
     EXPECT_EQ(&open("DataSetup"), &screen);
     EXPECT_EQ(shown(screen, pluName), "Stout");
-    QStringList told;
+    QStringList messages;
     for (const auto& box : m_boxes.shown)
-        told += box.text.section(u'\r', 0, 0);
-    EXPECT_EQ(told, (QStringList{u"Run-time error '3021':"_s, u"Run-time error '53':"_s,
-                                 u"Run-time error '13':"_s, u"Run-time error '5':"_s}));
+        messages += box.text.section(u'\r', 0, 0);
+    EXPECT_EQ(messages, (QStringList{u"Run-time error '3021':"_s, u"Run-time error '53':"_s,
+                                     u"Run-time error '13':"_s, u"Run-time error '5':"_s}));
     EXPECT_TRUE(m_boxes.shown[1].text.endsWith(
         u"mem.dat\rUpload from the ECR first: each upload fetches this file."_s));
 }

@@ -87,7 +87,7 @@ TEST_F(FrmMainTest, EntriesOpenTheirFileOrForm)
     }
 }
 
-TEST_F(FrmMainTest, SetupAndAboutStandOnceInTheMiddleAndSpeakInTheStatusBar)
+TEST_F(FrmMainTest, SetupAndAboutOpenOnceInTheMiddleAndUseTheStatusBar)
 {
     choose("DataSetup");
     choose("DataSetup");

@@ -91,7 +91,7 @@ TEST_F(FrmSetupTest, EnterSavesAndEscapeAndExitLeave)
     EXPECT_EQ(m_status.panel(), u"Ready.....");
 }
 
-TEST_F(FrmSetupTest, ASaveThatFailsIsToldInTheStatusBar)
+TEST_F(FrmSetupTest, AFailedSaveIsShownInTheStatusBar)
 {
     open();
     combo("CboModel").setCurrentIndex(1);

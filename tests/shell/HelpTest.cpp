@@ -13,7 +13,7 @@ namespace norvane::shell
 namespace
 {
 
-TEST(HelpTopicsTest, LeadToHeadingsOfTheGuide)
+TEST(HelpTopicsTest, ReferToHeadingsOfTheGuide)
 {
     QFile file(QStringLiteral(USER_GUIDE));
     ASSERT_TRUE(file.open(QFile::ReadOnly));
@@ -112,7 +112,7 @@ TEST_F(HelpTest, AModalFormAndABoxAboveItLeaveTheGuideUsable)
     EXPECT_EQ(places, "Choosing a customer|User guide|Questions before something is lost");
 }
 
-TEST_F(HelpTest, AGuideThatIsMissingIsReported)
+TEST_F(HelpTest, AMissingGuideIsReported)
 {
     const HelpKey help(m_folder.path("app/user-guide.html"), m_boxes);
     pressF1(m_main);

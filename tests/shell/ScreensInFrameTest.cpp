@@ -1,4 +1,4 @@
-// Screens in the real main window: access letters beside those of the menu, what the status bar tells, and
+// Screens in the real main window: access letters beside those of the menu, what the status bar shows, and
 // what a screen shows after others have changed its record.
 #include "tests/shell/FrameFixture.h"
 
@@ -16,7 +16,7 @@ const test::ShownBox changed{
     "[&Save|S&how]"_s,
     u"Record Changed"_s, BoxIcon::Exclamation};
 
-TEST_F(ScreensInFrameTest, TheLettersOfAScreenWinOverTheMenu)
+TEST_F(ScreensInFrameTest, AccessLettersOfAScreenComeBeforeTheMenu)
 {
     QWidget& screen = open("PLUMENU");
     type(screen, pluName, "Stout");
@@ -44,9 +44,10 @@ TEST_F(ScreensInFrameTest, ANewNumberForAnArticleIsAskedForWithWhatHoldsTheOldOn
         execute(u"insert into KEYLINK (ID, KEYLINK) values (%1)"_s.arg(QLatin1String(key)));
     for (const char* key : {"11", "12", "13"}) // belong together by their order
         execute(u"insert into NLU (ID, NLU) values (%1, %2)"_s.arg(QLatin1String(key), number));
-    for (const char* line : {"1, 0, '1001', 1, '1001'", "2, 2, '1001', 0, '1002'", "3, 0, '7', 1, '1001'"})
+    for (const char* line : {"1, 0, '1001', 1, '1001'", "2, 2, '1001', 0, '1002'", "3, 0, '7', 1, '1001'"}) {
         execute(u"insert into WLU (WLUno, wlutype1, codenumber1, wlutype50, codenumber50) values (%1)"_s.arg(
             QLatin1String(line)));
+    }
     execute(u"insert into PLUSTATUS (STATUSNO, LINKEDPLU) values (4, '1001')"_s);
     execute(u"update PLUDATA set STOCKLINK = '1001' where DESCRIPTION = 'Cider'"_s);
 
@@ -108,7 +109,7 @@ TEST_F(ScreensInFrameTest, CtrlZOpensAScreenAgainThatWasLeftWithTypedChanges)
     EXPECT_EQ(notice(), "Saved PLU 1001");
 }
 
-TEST_F(ScreensInFrameTest, TheMenuKeepsItsLettersOtherwiseAndBehindF10)
+TEST_F(ScreensInFrameTest, TheMenuKeepsItsOtherLettersAndAllAfterF10)
 {
     const QWidget& screen = open("PLUMENU");
     const auto functionKey = [] {
@@ -143,7 +144,7 @@ TEST_F(ScreensInFrameTest, AnUntouchedScreenFollowsAPriceChangeAndATouchedOneAsk
     EXPECT_EQ(m_boxes.shown.size(), 1U) << "nothing to ask any more";
 }
 
-TEST_F(ScreensInFrameTest, MineIsKeptOnlyOnDemand)
+TEST_F(ScreensInFrameTest, MineIsKeptOnlyOnRequest)
 {
     QWidget& first = open("PLUMENU");
     execute(u"update PLUDATA set STOCKLINK = '77', PRICE1 = '9'"_s);

@@ -83,7 +83,7 @@ void clickCustomers(QWidget& dialog)
     }
 }
 
-TEST_F(StartSequenceTest, ACustomerTakenGivesAnUpgradedDatabaseAndAReadyWindow)
+TEST_F(StartSequenceTest, AChosenCustomerHasAnUpgradedDatabaseAndAWindow)
 {
     // Made by an older version, which had no such fields.
     const QRegularExpression late(u"^(unitdescription|disallow)"_s,
@@ -110,7 +110,7 @@ TEST_F(StartSequenceTest, ACustomerTakenGivesAnUpgradedDatabaseAndAReadyWindow)
     EXPECT_EQ(m_main.statusBar1().statusText(), u"Customer Database cAFE") << "as typed";
 }
 
-TEST_F(StartSequenceTest, AWrongNameIsToldAndOnlyYesEndsTheStart)
+TEST_F(StartSequenceTest, AWrongNameIsReportedAndOnlyYesEndsTheStart)
 {
     m_boxes.answers = {false, true};
     EXPECT_FALSE(run({0, 4.1, 999}, [](QWidget& dialog) {
@@ -139,7 +139,7 @@ void takeCafe(QWidget& dialog)
     dialog.findChild<QPushButton*>(u"CSCmdBtn1"_s)->click();
 }
 
-TEST_F(StartSequenceTest, LostSettingsOfACustomerWithRecordsAreTold)
+TEST_F(StartSequenceTest, LostSettingsOfACustomerWithRecordsAreReported)
 {
     const QString database = m_folder.path("app/Cafe/velmar.mdb");
     store::Database::create(database, store::catalogue());
@@ -150,7 +150,7 @@ TEST_F(StartSequenceTest, LostSettingsOfACustomerWithRecordsAreTold)
                                                          u"Settings Missing"_s, BoxIcon::Exclamation}}));
 }
 
-TEST_F(StartSequenceTest, ADamagedDatabaseIsToldAndLeftAsItIs)
+TEST_F(StartSequenceTest, ADamagedDatabaseIsReportedAndLeftUnchanged)
 {
     store::Database::create(m_folder.path("app/Cafe/velmar.mdb"), store::catalogue());
     const QByteArray damaged = m_folder.read("app/Cafe/velmar.mdb").chopped(100);

@@ -29,7 +29,7 @@ TEST_F(SystemReportTest, SaysWhatSupportAsksForAndOnlyTheEndOfTheLog)
     EXPECT_FALSE(report.contains(u"upload 10\t"_s) || report.contains(u"555123"_s));
 }
 
-TEST_F(SystemReportTest, SettingsThatCannotBeReadAreReportedAndAFolderThatIsGoneHasNone)
+TEST_F(SystemReportTest, UnreadableSettingsAreReportedAndAMissingFolderHasNone)
 {
     m_folder.write("app/Cafe/setup.ini", "[SetupOption]\r\nNoOfECRs=99\r\n");
     const QString report = systemReport(m_values, {});

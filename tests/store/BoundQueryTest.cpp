@@ -43,7 +43,7 @@ TEST_F(BoundQueryTest, OnlyReads)
     EXPECT_TRUE(m_database.hasTable(u"Items"_s));
 }
 
-TEST_F(BoundQueryTest, ALongStatementIsGivenUpWhenItsCallerSaysSo)
+TEST_F(BoundQueryTest, ALongStatementStopsWhenItsCallerSaysSo)
 {
     int asked = 0;
     {

@@ -53,7 +53,7 @@ protected:
     QString m_copy = m_folder.folder().path("copy.mdb");
 };
 
-TEST_F(DatabaseCopyTest, AProgrammeComesBackAndLeavesTheSalesAlone)
+TEST_F(DatabaseCopyTest, AProgrammeIsRestoredWithoutTheSales)
 {
     addPlu("0001", "1.25");
     addPlu("0002", "2.50");
@@ -68,7 +68,7 @@ TEST_F(DatabaseCopyTest, AProgrammeComesBackAndLeavesTheSalesAlone)
     EXPECT_TRUE(content().contains(u"0004 1.00 4"_s)) << "row 3 was given away before";
 }
 
-TEST_F(DatabaseCopyTest, EverythingComesBackWithItsSalesAndTheirMonths)
+TEST_F(DatabaseCopyTest, EverythingIsRestoredWithSalesAndTotals)
 {
     addPlu("0001", "1.25");
     addSale({2026, 3, 1}, 10.1);

@@ -11,7 +11,7 @@ namespace
 
 const QString testTable = u"items"_s;
 
-TEST(Database, AForeignOrDamagedFileIsRefusedAndLeftAsItIs)
+TEST(Database, AForeignOrDamagedFileIsRefusedAndLeftUnchanged)
 {
     const StoreFolder folder;
     const QByteArray ours = folder.folder().read("velmar.mdb");
@@ -90,7 +90,7 @@ TEST(Database, AnAddedFieldLeavesOldRowsNullUntilTheyAreStored)
     EXPECT_EQ(elsewhere.table(testTable).fields.last().name, key.name);
 }
 
-TEST(Transaction, ThatFindsNoRoomFailsAndLeavesTheTableAsItWas)
+TEST(Transaction, FailsOnAFullDiskAndLeavesTheTableUnchanged)
 {
     const QString notes = u"notes"_s;
     const StoreFolder folder({{notes, {{u"NOTE"_s, FieldType::Text, 0, {}, false}}, {}}});

@@ -76,7 +76,7 @@ const DayRange ranges[] = {
     {{1900, 1, 1}, {2028, 12, 31}}, // more months than one query of the engine can join
 };
 
-TEST_F(MonthTotalsTest, GiveWhatTheRowsAddUpTo)
+TEST_F(MonthTotalsTest, AreTheSumsOfTheRows)
 {
     addUpAll();
     EXPECT_EQ(added(), "2027-12 2028-01 2028-02") << "neither empty months nor the running one";
@@ -88,7 +88,7 @@ TEST_F(MonthTotalsTest, GiveWhatTheRowsAddUpTo)
     EXPECT_EQ(answer(u"select exact_sum(VALUE) from "_s + m_totals.rows(twoYears, {u"value"_s})), "2.1");
 }
 
-TEST_F(MonthTotalsTest, AMonthIsWholeWithItsLastDay)
+TEST_F(MonthTotalsTest, AMonthIsCompleteWithItsLastDay)
 {
     const QVector<QDate> february{{2028, 2, 1}};
     EXPECT_EQ(m_totals.missing({{2028, 2, 1}, {2028, 2, 29}}, {2028, 3, 1}), february);
@@ -109,7 +109,7 @@ const std::pair<const char*, const char*> changes[] = {
     {"insert into CLERKSALES values (1, 1, '2028-03-02', 1, 0.1)", "2027-12 2028-01 2028-02"},
 };
 
-TEST_F(MonthTotalsTest, LoseEveryMonthOfWhichARowChanges)
+TEST_F(MonthTotalsTest, DropEveryMonthInWhichARowChanges)
 {
     for (const auto& [sql, left] : changes) {
         addUpAll();
@@ -183,7 +183,7 @@ std::string daysLeft(const DayDigests& digests)
     return left;
 }
 
-TEST_F(MonthTotalsTest, DigestsOfDaysGoWithAnyChangeOfTheirRows)
+TEST_F(MonthTotalsTest, ADigestIsDroppedWhenARowOfItsDayChanges)
 {
     const std::pair<const char*, const char*> losses[] = {
         {"insert into CLERKSALES values (1, 1, '2028-02-01', 1, 1)", "29.2=b 1.3=c"},

@@ -68,7 +68,7 @@ TEST_F(RecordsetTest, WalksBothWaysInTheOrderOfTheIndex)
     EXPECT_EQ(number(), "02");
 }
 
-TEST_F(RecordsetTest, AWalkSeesWhatComesAndGoesAheadOfIt)
+TEST_F(RecordsetTest, AWalkSeesRowsAddedAndDeletedAheadOfIt)
 {
     const CommitOnExit transaction(m_database);
     for (int i = 100; i < 400; ++i)
@@ -122,7 +122,7 @@ TEST_F(RecordsetTest, AWalkShowsWhatAnotherWindowHasStored)
     }
 }
 
-TEST_F(RecordsetTest, HoldsItsPlaceWhereTheRecordWasDeleted)
+TEST_F(RecordsetTest, KeepsItsPlaceWhereTheRecordWasDeleted)
 {
     fill();
     auto other = m_database.openTable(itemsTable);
@@ -144,7 +144,7 @@ TEST_F(RecordsetTest, HoldsItsPlaceWhereTheRecordWasDeleted)
     EXPECT_EQ(number(), "01");
 }
 
-TEST_F(RecordsetTest, ADeletedRecordNeverBecomesAnotherThatComesLater)
+TEST_F(RecordsetTest, ADeletedRecordNeverBecomesALaterOne)
 {
     const auto addLast = [](Recordset& records) {
         add(records, {{"NUMBER", text("06")}});
@@ -192,7 +192,7 @@ TEST_F(RecordsetTest, ADeletedRecordNeverBecomesAnotherThatComesLater)
     }
 }
 
-TEST_F(RecordsetTest, ARowNumberIsGivenOnceByARecordsetThatGoesOnAdding)
+TEST_F(RecordsetTest, ARecordsetNeverGivesARowNumberTwice)
 {
     auto watching = m_database.openTable(itemsTable);
     Database elsewhere(m_folder.path());

@@ -30,7 +30,7 @@ inline TableDefinition itemTable()
              {{u"bylink"_s}, u"#OfCondiments"_s, false}}};
 }
 
-/// What the file tells of a table: a line for the table, for each field and for each index.
+/// What the file says about a table: a line for the table, for each field and for each index.
 inline QStringList linesOf(const TableDefinition& table)
 {
     QStringList lines{table.name + u" is a table"_s};

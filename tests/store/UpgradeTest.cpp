@@ -76,7 +76,7 @@ std::string beforeCompletion(const std::string& layout)
         .toStdString();
 }
 
-TEST(Upgrade, BringsAnOldDatabaseToTheCurrentLayout)
+TEST(Upgrade, UpgradesAnOldDatabaseToTheCurrentLayout)
 {
     const StoreFolder folder(oldLayout());
     UpgradeDatabase(folder.path());
@@ -96,7 +96,7 @@ TEST(Upgrade, BringsAnOldDatabaseToTheCurrentLayout)
               "null -1 12");
 }
 
-TEST(Upgrade, WritesNothingIntoACurrentDatabaseWhichTellsTheCatalogue)
+TEST(Upgrade, WritesNothingIntoACurrentDatabase)
 {
     const StoreFolder folder(catalogue());
     const QByteArray before = folder.folder().read("velmar.mdb");
@@ -125,16 +125,16 @@ constexpr const char* partlyUpgraded[][3] = {
     {"TRACKINGFILEOPTIONS.DISABLEGCONRECEIPT", "EJDETAILPRINT.DISABLEREGDETAIL", ""},
 };
 
-TEST(Upgrade, StopsWhereALaterFieldStandsAlreadyAndIsNeverCompleted)
+TEST(Upgrade, StopsWhereALaterFieldExistsAndIsNeverCompleted)
 {
-    for (const auto& [standing, done, missing] : partlyUpgraded) {
-        const StoreFolder folder(oldLayout(QLatin1StringView(standing)));
+    for (const auto& [existing, done, missing] : partlyUpgraded) {
+        const StoreFolder folder(oldLayout(QLatin1StringView(existing)));
         for (int start = 1; start <= 2; ++start) {
             UpgradeDatabase(folder.path());
             const std::string layout = '\n' + layoutIn(folder);
-            EXPECT_NE(layout.find('\n' + std::string(done)), std::string::npos) << standing;
+            EXPECT_NE(layout.find('\n' + std::string(done)), std::string::npos) << existing;
             EXPECT_TRUE(*missing == '\0' || layout.find('\n' + std::string(missing)) == std::string::npos)
-                << standing << ", start " << start;
+                << existing << ", start " << start;
         }
     }
 }
@@ -156,7 +156,7 @@ std::string engineLayoutOf(const StoreFolder& folder)
                   "order by name"_s);
 }
 
-TEST(Completion, GivesADatabaseOfAnEarlierBuildWhatANewOneHas)
+TEST(Completion, GivesAnEarlierDatabaseWhatANewOneHas)
 {
     const StoreFolder folder(withoutCompanions());
     {
@@ -211,7 +211,7 @@ TEST(Completion, GivesFieldsOfAnEarlierBuildRoomForLongNumbers)
               "12345678901234567890");
 }
 
-TEST(Completion, AddsNoTableAndNoFieldThatTheUpgradeLeftOut)
+TEST(Completion, AddsNothingThatTheUpgradeLeftOut)
 {
     const StoreFolder folder(oldLayout(u"PLUSALES"_s));
     UpgradeDatabase(folder.path());
@@ -225,7 +225,7 @@ TEST(Completion, AddsNoTableAndNoFieldThatTheUpgradeLeftOut)
               "CLERKSALES PLUSALES TIMESALES");
 }
 
-TEST(Completion, PassesOverEveryFailureAndLeavesTheFileWhole)
+TEST(Completion, IgnoresEveryFailureAndLeavesTheFileIntact)
 {
     const StoreFolder folder(withoutCompanions());
     completeDatabase(folder.folder().path("none.mdb"));

@@ -16,7 +16,7 @@ struct AccessiblePlace {
     QDBusObjectPath path;
 };
 
-/// Places of states in the bits that the bus tells.
+/// The bits of the states on the bus.
 enum class Spoken { Checked = 4, Editable = 7, Enabled = 8, Focusable = 11, Showing = 25 };
 
 /// Deleted objects have no texts, states and children.

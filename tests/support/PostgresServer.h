@@ -54,7 +54,7 @@ public:
     }
     /// Ends it as a power cut would: every connection breaks, and what was not committed is lost.
     void cutPower() { endServer(SIGQUIT); }
-    /// Ends it in good order.
+    /// Stops it in an orderly way.
     void stop() { endServer(SIGINT); }
 
     /// Of the server's own process, which is not the one that was started when that changed the user first;
@@ -100,7 +100,7 @@ private:
         const QDir versions(u"/usr/lib/postgresql"_s);
         for (const QString& version :
              versions.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::Reversed)) {
-            const QString path = versions.filePath(version + u"/bin/"_s + tool);
+            QString path = versions.filePath(version + u"/bin/"_s + tool);
             if (QFile::exists(path))
                 return path;
         }

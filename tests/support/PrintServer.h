@@ -46,7 +46,7 @@ public:
     {
         return QTest::qWaitFor([this] { return QFile::exists(m_folder.path("socket")); }, 10000);
     }
-    /// @param description of a printer, which tells its margins.
+    /// @param description of a printer, which reports its margins.
     void addDefaultQueue(const QString& name, const QByteArray& description) const
     {
         m_folder.write("queue.ppd", description);

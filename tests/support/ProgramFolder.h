@@ -30,10 +30,11 @@ public:
     /// Path of a file in the program's folder.
     [[nodiscard]] QString appFile(const QString& name) const { return joinPath(appPath(), name); }
 
-    /// Makes a customer by copying the templates, and hands out the values of a program that has chosen it.
+    /// Makes a customer by copying the templates, and returns the values of a program that has chosen it.
     [[nodiscard]] ApplicationValues makeCustomer(const QString& name) const;
 
-    /// Lets steps of the tools fail as a faults.ini says, from its first step on; empty text mends all.
+    /// Lets steps of the tools fail as a faults.ini says, from its first step on; empty text repairs
+    /// everything.
     void setFaults(const QByteArray& sections) const
     {
         QFile::remove(m_folder.path("registers/faults.log"));

@@ -13,7 +13,7 @@
 namespace norvane::test
 {
 
-/// Starts everything by itself and stops it at its end. Whatever does not come in time is a
+/// Starts everything by itself and stops it at its end. Whatever does not appear in time is a
 /// std::runtime_error.
 class ReaderDesktop
 {

@@ -39,8 +39,8 @@ public:
     {
     }
 
-    /// Adds a journal, of one or more registers. @param levels price levels that the PLU report tells apart;
-    /// sales on higher ones count with the last
+    /// Adds a journal, of one or more registers. @param levels price levels that the PLU report
+    /// distinguishes; sales on higher ones count with the last
     void add(const QByteArray& journal, std::size_t levels)
     {
         const auto lines = journal.trimmed().split('\n');

@@ -6,7 +6,7 @@ namespace bank::test
 namespace
 {
 
-TEST(Convert, bringsEveryFileBackByteForByte)
+TEST(Convert, BringsEveryFileBackByteForByte)
 {
     const QStringList models{u"Velmaro"_s, u"Velmaro"_s, u"Velmarn"_s, u"Dorvik"_s};
     for (int model = 0; model < models.size(); ++model) {
@@ -51,7 +51,7 @@ const struct {
     {"d63", "A,B\r\n", "line 1, column 1:"},
 };
 
-TEST(Convert, refusesATextThatDoesNotFitAndNamesThePlace)
+TEST(Convert, RefusesATextThatDoesNotFitAndNamesThePlace)
 {
     const ToolBench bench;
     for (const auto& each : badTexts) {
@@ -79,7 +79,7 @@ const std::pair<int, const char*> badLines[] = {
     {0, "wVelmarn fmem.dat tm.txt u352"},
 };
 
-TEST(Convert, refusesLinesAndBinariesThatAreNone)
+TEST(Convert, RefusesBadCommandLinesAndBinaries)
 {
     const ToolBench bench;
     bench.comm("s9 c1 N1.DAT -U 1");

@@ -6,7 +6,7 @@ namespace bank::test
 namespace
 {
 
-TEST(MakeBank, makesTheSameRegistersAndKeepsThemUnlessAskedForFreshOnes)
+TEST(MakeBank, MakesTheSameRegistersAndKeepsThemUnlessFresh)
 {
     const ToolBench bench(2);
     const ToolBench other(2);

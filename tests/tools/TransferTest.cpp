@@ -30,7 +30,7 @@ const std::pair<const char*, const char*> linesByResult[] = {
 };
 
 /// The exchanges of the program send each line that it knows.
-TEST(Transfer, takesOrRefusesLines)
+TEST(Transfer, TakesOrRefusesCommandLines)
 {
     const ToolBench bench(2);
     bench.comm("s9 c1 N1.DAT -U 1");
@@ -41,7 +41,7 @@ TEST(Transfer, takesOrRefusesLines)
     }
 }
 
-TEST(Transfer, servesTheRegistersOfAPortOneByOne)
+TEST(Transfer, ServesTheRegistersOfAPortOneByOne)
 {
     const ToolBench bench(3);
     bench.set(3, "Port", "2");
@@ -63,7 +63,7 @@ TEST(Transfer, servesTheRegistersOfAPortOneByOne)
     EXPECT_EQ(bench.read("bank/2/18.dat"), sent);
 }
 
-TEST(Transfer, bringsTheMemoryUnderTheSpellingThatIsThere)
+TEST(Transfer, WritesTheMemoryUnderTheExistingSpelling)
 {
     const ToolBench bench;
     bench.write("work/MEM.dat", "old");
@@ -72,7 +72,7 @@ TEST(Transfer, bringsTheMemoryUnderTheSpellingThatIsThere)
     EXPECT_EQ(bench.read("work/MEM.dat"), bench.read("bank/1/52.dat"));
 }
 
-TEST(Transfer, refusesWhatDoesNotFitTheRegister)
+TEST(Transfer, RefusesWhatDoesNotFitTheRegister)
 {
     const ToolBench bench;
     const auto good = bench.read("bank/1/70.dat");
@@ -89,7 +89,7 @@ TEST(Transfer, refusesWhatDoesNotFitTheRegister)
     }
 }
 
-TEST(Faults, aClearThatBreaksAtTheSecondRegisterLeavesItsSales)
+TEST(Faults, AClearThatFailsAtTheSecondRegisterLeavesItsSales)
 {
     const ToolBench bench(2);
     for (const char* totals : {"bank/1/consolidated", "bank/2/consolidated"}) {
@@ -103,7 +103,7 @@ TEST(Faults, aClearThatBreaksAtTheSecondRegisterLeavesItsSales)
 }
 
 /// Registers that are off or busy are met by the exchanges and collections.
-TEST(Transfer, answersForWhatTheRegisterIsAndHolds)
+TEST(Transfer, AnswersByModelAndContentsOfTheRegister)
 {
     const ToolBench bench;
     const char* const send = "s9 F1 1T c1 N1.DAT -D 1";
@@ -120,7 +120,7 @@ TEST(Transfer, answersForWhatTheRegisterIsAndHolds)
 }
 
 /// Results, ranges and lost states are used by the tests of the exchanges.
-TEST(Faults, comeWhereTheFaultFileSays)
+TEST(Faults, HappenWhereTheFaultFileSays)
 {
     const ToolBench bench;
     bench.write("bank/faults.ini", "[OtherCommand]\nCommand=send\nResult=9\n"

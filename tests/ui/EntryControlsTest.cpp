@@ -20,7 +20,7 @@ QString typed(NumberBox& box, const char* keys)
     return box.text();
 }
 
-TEST(NumberBox, TypingRules)
+TEST(NumberBox, TypedCharactersFollowTheRules)
 {
     IntegerBox whole;
     DecimalBox money;
@@ -33,7 +33,7 @@ TEST(NumberBox, TypingRules)
     }
 }
 
-TEST(NumberBox, ValuesSetByProgramComeBackAndRaiseNothing)
+TEST(NumberBox, ValuesSetByProgramAreKeptWithoutASignal)
 {
     DecimalBox box;
     QSignalSpy edited(&box, &NumberBox::valueEdited);
@@ -51,7 +51,7 @@ TEST(NumberBox, ValuesSetByProgramComeBackAndRaiseNothing)
     EXPECT_EQ(edited.count(), 1);
 }
 
-TEST(NumberBox, WhatAScreenReaderPutsInFollowsTheRulesOfTyping)
+TEST(NumberBox, InputFromAScreenReaderFollowsTheSameRules)
 {
     DecimalBox box;
     box.setMaximum(Decimal(9999, 2));
@@ -70,7 +70,7 @@ TEST(NumberBox, WhatAScreenReaderPutsInFollowsTheRulesOfTyping)
     EXPECT_EQ(exceeded.count(), 1);
 }
 
-TEST(NumberBox, TellsItsRangeAndOpensItAtAKeyThatItDoesNotTake)
+TEST(NumberBox, NamesItsRangeAndShowsItAtARefusedKey)
 {
     DecimalBox money;
     EXPECT_EQ(money.toolTip(), u"From 0 to 999999999999999999"_s);
@@ -128,7 +128,7 @@ TEST(NumberBox, AnEntryAboveTheMaximumIsReportedOnceAndEmptied)
     EXPECT_EQ(typed(limited, "1005"), u"5.00"_s) << "the next digit begins a new entry";
 }
 
-TEST(TextBox, TypingStopsAtTheLimitButAStoredTextStaysWhole)
+TEST(TextBox, TypingStopsAtTheLimitButAStoredTextIsKept)
 {
     TextBox box;
     box.setLimit(4);
@@ -143,7 +143,7 @@ TEST(TextBox, TypingStopsAtTheLimitButAStoredTextStaysWhole)
     }
 }
 
-TEST(TextBox, ATimeOfTheDayEndsAtItsLargest)
+TEST(TextBox, ATimeOfDayEndsAtItsLargest)
 {
     TextBox box;
     box.setLimit(4);
@@ -159,7 +159,7 @@ TEST(TextBox, ATimeOfTheDayEndsAtItsLargest)
     }
 }
 
-TEST(TextBox, TypingIntoAPaddedTextPushesTheBlanksOut)
+TEST(TextBox, TypingIntoAPaddedTextReplacesItsBlanks)
 {
     TextBox box;
     box.setLimit(8);
@@ -172,7 +172,7 @@ TEST(TextBox, TypingIntoAPaddedTextPushesTheBlanksOut)
     box.showText(u"Ale     "_s);
     QTest::keyClick(&box, Qt::Key_End);
     QTest::keyClicks(&box, u"s 1"_s);
-    EXPECT_EQ(box.text(), u"Ales 1  "_s) << "the end is behind the text, not behind its blanks";
+    EXPECT_EQ(box.text(), u"Ales 1  "_s) << "the end is after the text, not after its blanks";
 }
 
 const QString tooLong = u"At most 8 characters. Select the text first to replace it."_s;
@@ -180,7 +180,7 @@ const QString cutOff = u"Only the first 8 characters were pasted"_s;
 
 /// The text of a box of 8 characters, the selected part, what is pasted; text and tip afterwards.
 const struct {
-    QString standing;
+    QString former;
     std::pair<int, int> selection;
     QString pasted;
     QString kept;
@@ -195,22 +195,22 @@ const struct {
     {u"Orange"_s, {0, 3}, u"\u0141atte macchiato"_s, u"Orange"_s, {}},
 };
 
-TEST(TextBox, APastedTextIsNeverGluedToAPartOfTheFormerOne)
+TEST(TextBox, APastedTextNeverJoinsAPartOfTheFormerOne)
 {
     TextBox box;
     box.setLimit(8);
     box.show();
-    for (const auto& [standing, selection, pasted, kept, tip] : pastes) {
-        box.showText(standing);
+    for (const auto& [former, selection, pasted, kept, tip] : pastes) {
+        box.showText(former);
         box.setSelection(selection.first, selection.second);
         QApplication::clipboard()->setText(pasted);
         const QString before = QToolTip::text();
         QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
         EXPECT_EQ(box.text(), kept) << pasted.toStdString();
         EXPECT_EQ(QToolTip::text(), tip.isEmpty() ? before : tip) << pasted.toStdString();
-        if (kept != standing) {
+        if (kept != former) {
             box.undo();
-            EXPECT_EQ(box.text().trimmed(), standing.trimmed());
+            EXPECT_EQ(box.text().trimmed(), former.trimmed());
         }
     }
     box.showText(u"Orange"_s);
@@ -245,7 +245,7 @@ TEST(TextBox, RefusesWhatTheFieldCannotHold)
     }
 }
 
-TEST(ValueList, TheValueSelectsItsRowAndStaysAsItWasGiven)
+TEST(ValueList, TheValueSelectsItsRowAndIsKeptAsGiven)
 {
     ValueList list;
     const QSignalSpy edited(&list, &ValueList::valueEdited);

@@ -37,7 +37,7 @@ public:
     }
 };
 
-TEST(SpokenItems, AreReadWithTheirStateAndEndWithTheWidgetsCount)
+TEST(SpokenItems, AreReadWithTheirStateUpToTheWidgetsCount)
 {
     Lamps lamps;
     auto& all = *QAccessible::queryAccessibleInterface(&lamps);

@@ -33,7 +33,7 @@ constexpr const char* cases[][3] = {
     {"1.00", "-0.68", "-1.47"},
 };
 
-TEST(PriceConversionTest, APriceIsDividedCutAtTheFourthPlaceAndRoundedOnTheThird)
+TEST(PriceConversionTest, APriceIsDividedCutAfterFourPlacesAndRounded)
 {
     for (const auto& [price, typed, stored] : cases) {
         const Decimal rate = exchangeRate(QString::fromUtf8(typed)).value();

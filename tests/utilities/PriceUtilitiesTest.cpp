@@ -192,7 +192,7 @@ TEST_F(PriceUtilitiesTest, AResetOfSalesEmptiesTheCardCategoriesOnceTheBoxIsClos
     EXPECT_EQ(recordCounts(tables), u"1111111"_s);
 }
 
-TEST_F(PriceUtilitiesTest, NoNeedsNoDatabaseAndARateOfZeroOrAnotherRunChangesNothing)
+TEST_F(PriceUtilitiesTest, NoARateOfZeroOrAnotherRunChangeNothing)
 {
     // There is no database yet: working on it would fail.
     for (QAction* const entry : m_main.findChild<QWidget*>(u"Utils"_s)->actions())
@@ -212,7 +212,7 @@ TEST_F(PriceUtilitiesTest, NoNeedsNoDatabaseAndARateOfZeroOrAnotherRunChangesNot
     EXPECT_EQ(prices(), "1|2|3|4|5|6|7|8|9|10");
 }
 
-TEST_F(PriceUtilitiesTest, AFailureAmidTheWalkKeepsTheRecordsBeforeItAndGivesTheWindowBack)
+TEST_F(PriceUtilitiesTest, AFailureDuringTheWalkKeepsTheRecordsBeforeIt)
 {
     makeCustomerDatabase();
     for (const int number : {1, 2, 3, 4})
@@ -226,7 +226,7 @@ TEST_F(PriceUtilitiesTest, AFailureAmidTheWalkKeepsTheRecordsBeforeItAndGivesThe
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(PriceUtilitiesTest, DuringTheWalkTheWindowLivesTakesNoOtherEntryAndClosesOnlyAfterwards)
+TEST_F(PriceUtilitiesTest, DuringTheWalkTheWindowPaintsButTakesNoOtherEntry)
 {
     makeCustomerDatabase();
     addPlu(1, u"1, 2, 3, 4, 5, 6, 7, 8, 9, 10"_s);
@@ -244,7 +244,7 @@ TEST_F(PriceUtilitiesTest, DuringTheWalkTheWindowLivesTakesNoOtherEntryAndCloses
     EXPECT_EQ(takeBoxes(), QStringList{u"Exit Program: Are You Sure?"_s});
 }
 
-TEST_F(PriceUtilitiesTest, LogoImagesTellTheRulesAndOnlyTheFirstEntryRunsTheConverterToItsEnd)
+TEST_F(PriceUtilitiesTest, LogoImagesShowTheRulesAndOnlyTheFirstRunsTheConverter)
 {
     // The entries cannot be chosen in the menu: their functions are called.
     const auto openers = makeOpeners(m_values, m_boxes);

@@ -97,9 +97,10 @@ TEST(TextCheckTest, FindsWhatAScreenReaderCannotSay)
     for (const auto& each : cases) {
         QWidget form;
         fill(form);
-        for (const char* const unnamed : {"combo", "table", "box"})
+        for (const char* const unnamed : {"combo", "table", "box"}) {
             form.findChild<QWidget*>(QLatin1String(unnamed))
                 ->setAccessibleName(QLatin1String(unnamed) + u" 1"_s);
+        }
         auto* const other = new QPushButton(u"E&xit"_s, &form);
         other->move(10, 150);
         auto& control = *form.findChild<QWidget*>(QLatin1String(each.control));
@@ -117,7 +118,7 @@ class EveryWindowTest : public testing::TestWithParam<const char*>
 {
 };
 
-TEST_P(EveryWindowTest, CanBeReadWholeByEyesAndByReaders)
+TEST_P(EveryWindowTest, CanBeReadOnTheScreenAndByAScreenReader)
 {
     QStringList words = QString::fromLatin1(GetParam()).split(u' ');
     if (const QString folder = qEnvironmentVariable("WINDOW_PICTURES"); !folder.isEmpty())
@@ -126,9 +127,9 @@ TEST_P(EveryWindowTest, CanBeReadWholeByEyesAndByReaders)
     check.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     check.start(QLatin1String(CHECK_WINDOWS), words);
     ASSERT_TRUE(check.waitForFinished(-1));
-    const QByteArray told = check.readAllStandardOutput();
-    EXPECT_EQ(check.exitCode(), 0) << told.toStdString();
-    EXPECT_TRUE(told.contains(" windows, 0 faults")) << told.toStdString();
+    const QByteArray printed = check.readAllStandardOutput();
+    EXPECT_EQ(check.exitCode(), 0) << printed.toStdString();
+    EXPECT_TRUE(printed.contains(" windows, 0 faults")) << printed.toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(, EveryWindowTest,

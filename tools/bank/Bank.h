@@ -21,7 +21,7 @@ struct Register {
     Model model = Model::Velmarn;
     int generation = 3; ///< of the firmware, 2 or 3: decides the length of the memory file
     bool cards = true;  ///< has the files of the card functions (71, 85, 86)
-    int port = 1;       ///< the serial port that it hangs on
+    int port = 1;       ///< the serial port that it is connected to
     bool on = true;
     bool busy = false;
     std::optional<quint8> stamp; ///< of its PLU report, in place of what its settings give

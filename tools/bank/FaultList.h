@@ -29,7 +29,7 @@ struct Fault {
 /// counted in faults.log, so that a fault with Nth= comes at the nth one.
 [[nodiscard]] std::optional<Fault> dueFault(const QString& bankFolder, const Step& step);
 
-/// Hangs and crashes as the fault says; comes back when it asks for neither or only for a pause.
+/// Hangs or crashes as the fault says; returns if it asks for neither or only for a pause.
 void suffer(const Fault& fault);
 
 } // namespace bank

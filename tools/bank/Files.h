@@ -1,4 +1,4 @@
-// Files by names that meet without regard to letter case, as the registers' tools always found them.
+// Files by names that match without regard to letter case, as the registers' tools always found them.
 #pragma once
 
 #include <QByteArray>
@@ -14,7 +14,7 @@ namespace bank
 /// Reads the whole file. @throws ToolFailure FileOpenError
 [[nodiscard]] QByteArray readFile(const QString& path);
 
-/// Replaces the file whole or not at all. @throws ToolFailure FileWriteError
+/// Replaces the file completely or not at all. @throws ToolFailure FileWriteError
 void writeFile(const QString& path, const QByteArray& bytes);
 
 } // namespace bank

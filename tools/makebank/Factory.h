@@ -1,4 +1,4 @@
-// A register as it leaves the works, set up as a shop that a dealer might show.
+// A register as it leaves the factory, set up as a shop that a dealer might show.
 #pragma once
 
 #include "tools/bank/Bank.h"

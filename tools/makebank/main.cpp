@@ -55,7 +55,7 @@ void makeRegister(const Wish& wish, int number)
     made.save();
 }
 
-/// Takes away what makebank made and leaves everything else in the folder.
+/// Removes what makebank made and leaves everything else in the folder.
 void removeBank(const Wish& wish)
 {
     const QDir bank(wish.folder);
