@@ -1,18 +1,15 @@
 // The designer of keyboard overlays: opening the largest keyboard, and importing a level of a shop with
 // 100,000 PLUs.
-#include "bench/Ratio.h"
+#include "bench/Shop.h"
+#include "bench/WidgetMain.h"
 #include "overlay/LevelImport.h"
 #include "overlay/OverlayForm.h"
 #include "overlay/SystemDialogs.h"
-#include "store/catalogue/Catalogue.h"
 #include "store/engine/CommitOnExit.h"
-#include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 #include "tests/support/RecordingBoxes.h"
-#include "ui/Appearance.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -27,11 +24,6 @@ using store::Value;
 constexpr int pluCount = 100000;
 constexpr int keyCount = 845;
 
-QString pluNumber(int number)
-{
-    return u"%1"_s.arg(number * 37LL, 18, 10, QChar(u'0'));
-}
-
 /// Every key sells another PLU.
 void fillShop(store::Database& database)
 {
@@ -39,7 +31,7 @@ void fillShop(store::Database& database)
     store::Recordset plus = database.openTable(u"PLUDATA"_s);
     for (int number = 1; number <= pluCount; ++number) {
         plus.addNew();
-        plus.setValue(u"PLUNUMBER"_s, Value::text(pluNumber(number)));
+        plus.setValue(u"PLUNUMBER"_s, Value::text(bench::pluNumber(number * 37LL)));
         plus.setValue(u"DESCRIPTION"_s, Value::text(u"Article %1"_s.arg(number)));
         plus.update();
     }
@@ -52,7 +44,7 @@ void fillShop(store::Database& database)
         links.update();
         lookUps.addNew();
         lookUps.setValue(u"ID"_s, Value::whole(key));
-        lookUps.setValue(u"NLU"_s, Value::text(pluNumber(key * 100)));
+        lookUps.setValue(u"NLU"_s, Value::text(bench::pluNumber(key * 3700LL)));
         lookUps.update();
     }
 }
@@ -60,16 +52,14 @@ void fillShop(store::Database& database)
 /// From the opening of the database to the last key.
 void importLevel(benchmark::State& state)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"velmar.mdb"_s);
-    store::Database::create(path, store::catalogue());
+    const bench::Shop shop;
     {
-        store::Database database(path);
+        store::Database database(shop.database());
         fillShop(database);
     }
     Document document(Keyboard::Velmar);
     for (auto _ : state)
-        importdata(document, 5, path);
+        importdata(document, 5, shop.database());
     require(document.cell(36).text == u"Article"_s, "the keys have their texts");
 }
 
@@ -95,11 +85,5 @@ BENCHMARK(openDesigner)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv)
 {
-    // Widgets alone are measured; a screen would only add its own time.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    ui::applyAppearance(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return norvane::bench::runWithWidgets(argc, argv);
 }

@@ -1,14 +1,12 @@
 // The editors of keyboards and look-ups over 100,000 PLUs and full keyboards: their own time for what users
 // wait for, and a save of a level beside a bare loop that updates the same rows.
-#include "bench/BareDatabase.h"
+#include "bench/Shop.h"
+#include "bench/WidgetMain.h"
 #include "keys/layout/KeyLayout.h"
 #include "keys/layout/KeyLevel.h"
 #include "keys/lookups/frmwlu.h"
-#include "store/catalogue/Catalogue.h"
 #include "store/engine/CommitOnExit.h"
-#include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
-#include "ui/Appearance.h"
 #include "ui/MessageBoxes.h"
 
 #include <QApplication>
@@ -17,7 +15,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <memory>
@@ -26,17 +23,11 @@ namespace
 {
 
 using namespace norvane;
-using bench::processorSecondsOf;
 using bench::require;
 
 constexpr int pluCount = 100000;
 constexpr int functionCount = 266;
 constexpr int lookUpCount = 99;
-
-QString digits(qint64 number)
-{
-    return QStringLiteral("%1").arg(number, 18, 10, QLatin1Char('0'));
-}
 
 void addRow(store::Recordset& rows, const char* numberField, const store::Value& number,
             const char* textField, const QString& text)
@@ -48,30 +39,26 @@ void addRow(store::Recordset& rows, const char* numberField, const store::Value&
 }
 
 /// A PLU or a function on every key of all levels.
-class Shop
+class Shop : public bench::Shop
 {
 public:
     Shop()
     {
-        values.customerPath = m_folder.path();
-        values.databasePath = m_folder.filePath(QStringLiteral("velmar.mdb"));
-        store::Database::create(values.databasePath, store::catalogue());
-        store::Database database(values.databasePath);
-        const store::CommitOnExit all(database);
-        fillItems(database);
-        fillKeys(database);
-        fillLookUps(database);
+        store::Database open(database());
+        const store::CommitOnExit all(open);
+        fillItems(open);
+        fillKeys(open);
+        fillLookUps(open);
     }
 
     const keys::KeyGeometry& keyboard = keys::velmarKeyboard();
-    ApplicationValues values;
 
 private:
     static void fillItems(store::Database& database)
     {
         store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
         for (int plu = 1; plu <= pluCount; ++plu) {
-            addRow(plus, "PLUNUMBER", store::Value::text(digits(plu)), "DESCRIPTION",
+            addRow(plus, "PLUNUMBER", store::Value::text(bench::pluNumber(plu)), "DESCRIPTION",
                    QStringLiteral("Article %1").arg(plu % 977));
         }
         store::Recordset functions = database.openTable(QStringLiteral("FUNCTIONKEY"));
@@ -87,7 +74,8 @@ private:
         for (int row = 1; row <= keys::levelCount * keyboard.keysPerLevel; ++row) {
             const int function = row % 4 == 0 ? row % functionCount + 1 : 0;
             addRow(links, "ID", store::Value::whole(row), "KEYLINK", QString::number(function));
-            addRow(numbers, "ID", store::Value::whole(row), "NLU", digits(row * 100));
+            addRow(numbers, "ID", store::Value::whole(row), "NLU",
+                   QString::fromStdString(bench::pluNumber(row * 100)));
         }
     }
 
@@ -109,8 +97,6 @@ private:
             lookUps.update();
         }
     }
-
-    QTemporaryDir m_folder;
 };
 
 class NoBoxes : public ui::MessageBoxes
@@ -120,30 +106,6 @@ public:
     {
         return false;
     }
-};
-
-/// Counts the milliseconds of each piece of work, on average and at worst.
-class Times
-{
-public:
-    template <typename Work>
-    void add(Work work)
-    {
-        const double ms = processorSecondsOf(work) * 1e3;
-        m_sum += ms;
-        m_worst = std::max(m_worst, ms);
-        ++m_count;
-    }
-    void tell(benchmark::State& state) const
-    {
-        state.counters["processor_ms"] = m_sum / m_count;
-        state.counters["worst_ms"] = m_worst;
-    }
-
-private:
-    double m_sum = 0;
-    double m_worst = 0;
-    int m_count = 0;
 };
 
 std::unique_ptr<keys::KeyLayout> open(Shop& shop, Boxes& boxes)
@@ -158,7 +120,7 @@ void openEditor(benchmark::State& state)
 {
     Shop shop;
     NoBoxes boxes;
-    Times times;
+    bench::Times times;
     for (auto _ : state) {
         std::unique_ptr<keys::KeyLayout> form;
         times.add([&] { form = open(shop, boxes); });
@@ -167,14 +129,14 @@ void openEditor(benchmark::State& state)
                 QStringLiteral("P00000000000000100 Article 100"),
             "the first key");
     }
-    times.tell(state);
+    times.report(state);
 }
 
 void changeLevel(benchmark::State& state)
 {
     Shop shop;
     NoBoxes boxes;
-    Times times;
+    bench::Times times;
     const auto form = open(shop, boxes);
     int level = 1;
     for (auto _ : state) {
@@ -186,7 +148,7 @@ void changeLevel(benchmark::State& state)
         });
         require(form->windowTitle().endsWith(QString::number(level)), "the level is shown");
     }
-    times.tell(state);
+    times.report(state);
 }
 
 /// Replaces the filter, or adds to it, as a typist does, and lets the list paint.
@@ -194,7 +156,7 @@ void filterPlus(benchmark::State& state)
 {
     Shop shop;
     NoBoxes boxes;
-    Times times;
+    bench::Times times;
     const auto form = open(shop, boxes);
     form->findChild<QRadioButton*>(QStringLiteral("plucode"))->click();
     QApplication::processEvents();
@@ -214,7 +176,7 @@ void filterPlus(benchmark::State& state)
         });
     }
     require(list->rowCount() > 0 && list->rowCount() < pluCount, "the list is filtered");
-    times.tell(state);
+    times.report(state);
 }
 
 /// Opened with the list of all PLUs beside its 50 lines.
@@ -222,7 +184,7 @@ void openLookUps(benchmark::State& state)
 {
     Shop shop;
     NoBoxes boxes;
-    Times times;
+    bench::Times times;
     for (auto _ : state) {
         std::unique_ptr<keys::frmwlu> form;
         times.add([&] {
@@ -233,14 +195,14 @@ void openLookUps(benchmark::State& state)
         require(form->findChild<QTableView*>(QStringLiteral("plulist"))->model()->rowCount() == pluCount,
                 "all PLUs");
     }
-    times.tell(state);
+    times.report(state);
 }
 
 void nextLookUp(benchmark::State& state)
 {
     Shop shop;
     NoBoxes boxes;
-    Times times;
+    bench::Times times;
     keys::frmwlu form(shop.values, boxes);
     form.show();
     auto* const button = form.findChild<QPushButton*>(QStringLiteral("NextRecord"));
@@ -254,17 +216,17 @@ void nextLookUp(benchmark::State& state)
     }
     require(form.findChild<QLineEdit*>(QStringLiteral("WLUNumber"))->text() == QString::number(number),
             "one after another");
-    times.tell(state);
+    times.report(state);
 }
 
 /// Every function key gets another function each time, so that both sides have rows to write.
 void saveLevel(benchmark::State& state)
 {
     const Shop shop;
-    const auto database = std::make_shared<store::Database>(shop.values.databasePath);
+    const auto database = std::make_shared<store::Database>(shop.database());
     keys::KeyLevel level(shop.keyboard, database);
     level.read(1);
-    const bench::BareDatabase bare(shop.values.databasePath);
+    const bench::BareDatabase bare(shop.database());
     sqlite3_stmt* const setLink = bare.prepare("update KEYLINK set KEYLINK = ? where ID = ?");
     sqlite3_stmt* const setNumber = bare.prepare("update NLU set NLU = ? where ID = ?");
     int turn = 0;
@@ -282,7 +244,7 @@ void saveLevel(benchmark::State& state)
         bare.run("begin immediate");
         for (int key = 1; key <= shop.keyboard.keysPerLevel; ++key) {
             const std::string code = codeOf(key);
-            const std::string text = digits(key + turn).toStdString();
+            const std::string text = bench::pluNumber(key + turn);
             bench::bindText(setLink, 1, code);
             sqlite3_bind_int(setLink, 2, key);
             bench::runOnce(setLink);
@@ -317,11 +279,5 @@ BENCHMARK(saveLevel)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations
 
 int main(int argc, char** argv)
 {
-    // A real screen would add its own time.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    ui::applyAppearance(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return norvane::bench::runWithWidgets(argc, argv);
 }

@@ -29,6 +29,12 @@ inline std::int64_t statusBytes(const char* name)
     return 0;
 }
 
+/// Begins to count the peak of this process's memory ("VmHWM:") again.
+inline void resetPeak()
+{
+    std::ofstream("/proc/self/clear_refs") << "5";
+}
+
 /// The most memory that work on a file takes above what the process had, as a multiple of the file's size. It
 /// is measured in a separate process, whose peak value was reset before.
 inline void measureMemory(benchmark::State& state, std::size_t fileSize, const std::function<void()>& work)
@@ -38,7 +44,7 @@ inline void measureMemory(benchmark::State& state, std::size_t fileSize, const s
     while (state.KeepRunning()) {
         const auto child = fork();
         if (child == 0) {
-            std::ofstream("/proc/self/clear_refs") << "5";
+            resetPeak();
             const auto before = statusBytes("VmRSS:");
             work();
             const auto taken = statusBytes("VmHWM:") - before;

@@ -1,12 +1,12 @@
 // Overlay documents of the largest keyboard: opened, saved, written as a PDF, looked at before printing.
 #include "bench/Ratio.h"
+#include "bench/WidgetMain.h"
 #include "overlay/DocumentFile.h"
 #include "overlay/OverlayPreview.h"
 #include "overlay/SheetView.h"
 #include "tests/support/RecordingBoxes.h"
 
 #include <benchmark/benchmark.h>
-#include <QApplication>
 #include <QFileInfo>
 #include <QImage>
 #include <QTemporaryDir>
@@ -93,10 +93,5 @@ BENCHMARK(movePreview)->Arg(1)->Arg(4)->Arg(10)->Arg(40)->Unit(benchmark::kMilli
 
 int main(int argc, char** argv)
 {
-    // Widgets alone are measured; a screen would only add its own time.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return norvane::bench::runWithWidgets(argc, argv);
 }

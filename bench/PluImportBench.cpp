@@ -2,14 +2,12 @@
 // split the lines, look each PLU up by a prepared select, store by a prepared update or insert, in one
 // transaction. The checks, the list of differences and all mistakes are ours alone; printing the list is not
 // measured.
-#include "bench/BareDatabase.h"
 #include "bench/Memory.h"
+#include "bench/Shop.h"
 #include "command/PluImport.h"
-#include "store/catalogue/Catalogue.h"
 
 #include <benchmark/benchmark.h>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <array>
 
@@ -26,41 +24,40 @@ constexpr int pluCount = 100000;
 constexpr int prices = 5;
 
 /// Two databases with the same PLUs: ours, and one for the bare loop.
-class Shop
+class Shop : public bench::TwinShop
 {
 public:
     Shop()
     {
-        for (const QString& path : {ours(), bare()})
+        for (const QString& path : {database(), bareDatabase()})
             fill(path);
     }
-    [[nodiscard]] QString ours() const { return m_folder.filePath(u"velmar.mdb"_s); }
-    [[nodiscard]] QString bare() const { return m_folder.filePath(u"bare.mdb"_s); }
 
     void dropNewPlus() const
     {
-        for (const QString& path : {ours(), bare()})
+        for (const QString& path : {database(), bareDatabase()})
             BareDatabase(path).run("delete from PLUDATA where GROUPNO = 0");
     }
-    void checkSums() const { require(sum(ours()) > 0 && sum(ours()) == sum(bare()), "all prices imported"); }
+    void checkSums() const
+    {
+        require(sum(database()) > 0 && sum(database()) == sum(bareDatabase()), "all prices imported");
+    }
 
 private:
     static void fill(const QString& path)
     {
-        store::Database::create(path, store::catalogue());
-        BareDatabase(path).run(
-            "begin; with recursive n(i) as (select 1 union all select i + 1 from n where i < 100000) "
-            "insert into PLUDATA (PLUNUMBER, DESCRIPTION, GROUPNO, PRICE1, PRICE2, PRICE3, PRICE4, PRICE5) "
+        const std::string rows =
+            "insert into PLUDATA (PLUNUMBER, DESCRIPTION, GROUPNO, PRICE1, PRICE2, PRICE3, PRICE4, PRICE5) " +
+            bench::numbersTo(pluCount) +
             "select printf('%018d', i), 'ARTICLE ' || i, 1, '0.1', '0.1', '0.1', '0.1', '0.1' from n "
-            "where i % 10 > 0; commit");
+            "where i % 10 > 0";
+        BareDatabase(path).run(rows.c_str());
     }
     [[nodiscard]] static double sum(const QString& path)
     {
         return BareDatabase(path).number(
             "select sum(round(100 * (PRICE1 + PRICE2 + PRICE3 + PRICE4 + PRICE5))) from PLUDATA");
     }
-
-    QTemporaryDir m_folder;
 };
 
 /// A file as a spreadsheet writes it; each round has other prices.
@@ -148,11 +145,11 @@ void PluImport(benchmark::State& state)
     const std::array files{fileOf(0), fileOf(1), fileOf(2)};
     std::size_t round = 0;
     bench::compare(
-        state, [&] { ourImport(shop.ours(), files.at(round)); },
+        state, [&] { ourImport(shop.database(), files.at(round)); },
         [&] {
             shop.dropNewPlus();
             round = (round + 1) % files.size();
-            bareImport(shop.bare(), files.at(round));
+            bareImport(shop.bareDatabase(), files.at(round));
         });
     shop.checkSums();
 }
@@ -163,10 +160,10 @@ void PluImportMemory(benchmark::State& state)
 {
     const Shop shop;
     const QByteArray content = fileOf(0);
-    QFile file(shop.ours() + u".csv"_s);
+    QFile file(shop.database() + u".csv"_s);
     require(file.open(QIODevice::ReadWrite) && file.write(content) == content.size() && file.reset(), "file");
     bench::measureMemory(state, static_cast<std::size_t>(content.size()),
-                         [&] { ourImport(shop.ours(), file.readAll()); });
+                         [&] { ourImport(shop.database(), file.readAll()); });
 }
 BENCHMARK(PluImportMemory)->Iterations(1);
 

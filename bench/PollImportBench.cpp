@@ -1,12 +1,9 @@
 // The import of a large shop's PLU report beside the least that could do it: a loop that splits at the
 // commas, converts and binds into one prepared insert.
-#include "bench/BareDatabase.h"
+#include "bench/Shop.h"
 #include "sales/PollImport.h"
-#include "store/catalogue/Catalogue.h"
-#include "store/engine/Database.h"
 
 #include <benchmark/benchmark.h>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <charconv>
@@ -32,8 +29,7 @@ std::string pollText()
 {
     std::string text;
     for (int record = 0; record < recordCount; ++record) {
-        const auto code = std::to_string(5000000000000LL + record * 7LL);
-        text += std::string(18 - code.size(), '0') + code + ",0," + std::to_string(record % 3);
+        text += bench::pluNumber(5000000000000LL + record * 7LL) + ",0," + std::to_string(record % 3);
         for (int level = 1; level <= levels; ++level) {
             const int count = (record * 31 + level * 17) % 200;
             const auto cents = std::to_string(100 + count % 100);
@@ -45,34 +41,21 @@ std::string pollText()
 }
 
 /// A report that was collected, and the databases of ours and of the bare loop to import it into.
-class Shop
+class Shop : public bench::TwinShop
 {
 public:
     Shop()
     {
-        values.appPath = m_folder.path();
-        values.databasePath = m_folder.filePath(u"velmar.mdb"_s);
-        bareDatabase = m_folder.filePath(u"bare.mdb"_s);
-        for (const QString& path : {values.databasePath, bareDatabase})
-            store::Database::create(path, store::catalogue());
         write("poll194.txt", pollText());
         write("poll194.dll", stampFile);
     }
-    [[nodiscard]] std::string path(const char* name) const
-    {
-        return m_folder.filePath(QLatin1StringView(name)).toStdString();
-    }
-
-    ApplicationValues values;
-    QString bareDatabase;
+    [[nodiscard]] std::string path(const char* name) const { return file(name).toStdString(); }
 
 private:
     void write(const char* name, std::string_view content) const
     {
         std::ofstream(path(name), std::ios::binary) << content;
     }
-
-    QTemporaryDir m_folder;
 };
 
 const sales::PollFile& pluReport()
@@ -97,7 +80,7 @@ void bindNumber(sqlite3_stmt* statement, int place, std::string_view text)
 
 void bareImport(const Shop& shop)
 {
-    const BareDatabase database(shop.bareDatabase);
+    const BareDatabase database(shop.bareDatabase());
     database.run("begin");
     sqlite3_stmt* insert = database.prepare(bareInsert);
     bench::bindText(insert, 1, "2026-11-24");
@@ -129,13 +112,13 @@ void importPluReport(benchmark::State& state)
     bench::compare(
         state,
         [&] {
-            store::Database database(shop.values.databasePath);
+            store::Database database(shop.database());
             sales::importPollFile(pluReport(), database, shop.values, {2026, 11, 24});
         },
         [&] { bareImport(shop); });
-    const double rows = BareDatabase(shop.values.databasePath).number("select count(*) from PLUSALES");
+    const double rows = BareDatabase(shop.database()).number("select count(*) from PLUSALES");
     require(rows == static_cast<double>(state.iterations()) * recordCount, "all records became rows");
-    require(sumOf(shop.values.databasePath) == sumOf(shop.bareDatabase), "the same sales");
+    require(sumOf(shop.database()) == sumOf(shop.bareDatabase()), "the same sales");
 }
 
 } // namespace

@@ -1,10 +1,9 @@
 // Converts all prices to euro, beside a bare walk: a select in the order of the PLU numbers and a prepared
 // update, in one transaction. What keeps the window alive is measured separately.
-#include "bench/BareDatabase.h"
+#include "bench/Shop.h"
+#include "bench/WidgetMain.h"
 #include "shell/FrmMain.h"
 #include "shell/LongWork.h"
-#include "store/catalogue/Catalogue.h"
-#include "store/engine/Database.h"
 #include "tests/support/RecordingBoxes.h"
 #include "utilities/PriceUtilities.h"
 
@@ -12,7 +11,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
@@ -45,7 +43,6 @@ void addPlu(sqlite3_stmt* insert, int plu)
 
 void fillWithPlus(const QString& path)
 {
-    store::Database::create(path, store::catalogue());
     const BareDatabase database(path);
     database.run("begin");
     sqlite3_stmt* insert = database.prepare(
@@ -58,16 +55,14 @@ void fillWithPlus(const QString& path)
 }
 
 /// Two databases with the same PLUs: ours, and one for the bare walk.
-class Shop
+class Shop : public bench::TwinShop
 {
 public:
     Shop()
     {
-        for (const QString& path : {ours(), bare()})
+        for (const QString& path : {database(), bareDatabase()})
             fillWithPlus(path);
     }
-    [[nodiscard]] QString ours() const { return m_folder.filePath(u"velmar.mdb"_s); }
-    [[nodiscard]] QString bare() const { return m_folder.filePath(u"bare.mdb"_s); }
 
     /// All euro prices of a database added up.
     [[nodiscard]] static double sum(const QString& path)
@@ -78,12 +73,9 @@ public:
     /// The bare walk rounds differently, so a price may differ by a cent.
     void checkSums() const
     {
-        const double total = sum(ours());
-        require(total > 0 && std::abs(total / sum(bare()) - 1) < 1e-5, "all prices converted");
+        const double total = sum(database());
+        require(total > 0 && std::abs(total / sum(bareDatabase()) - 1) < 1e-5, "all prices converted");
     }
-
-private:
-    QTemporaryDir m_folder;
 };
 
 const utilities::PriceUtility& conversion()
@@ -153,11 +145,11 @@ void euroConversion(benchmark::State& state)
     double rate = 0;
     // The bare walk is first and takes a new rate for both.
     const auto ours = [&] {
-        convertAll(shop.ours(), rate, {nothing, nothing, noNotice});
+        convertAll(shop.database(), rate, {nothing, nothing, noNotice});
     };
     const auto bare = [&] {
         rate = rates.next();
-        bareConvertAll(shop.bare(), rate);
+        bareConvertAll(shop.bareDatabase(), rate);
     };
     bench::compare(state, ours, bare);
     shop.checkSums();
@@ -223,7 +215,7 @@ void eventsOfEachRow(benchmark::State& state)
     Rates rates;
     WalkTimes all;
     while (state.KeepRunning()) {
-        const WalkTimes times = walkWithWindow(main, shop.ours(), rates.next());
+        const WalkTimes times = walkWithWindow(main, shop.database(), rates.next());
         all = {all.walk + times.walk, all.yields + times.yields,
                std::max(all.longestWait, times.longestWait)};
         state.SetIterationTime(times.walk);
@@ -241,7 +233,5 @@ BENCHMARK(eventsOfEachRow)->UseManualTime()->Iterations(5)->Unit(benchmark::kMil
 
 int main(int argc, char** argv)
 {
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    return norvane::bench::runWithWidgets(argc, argv);
 }

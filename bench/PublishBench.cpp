@@ -2,13 +2,10 @@
 // partitioned table, and one more day. Times by the clock, since most of the work is the server's. A run
 // makes two months; NORVANE_SALES_YEARS=10 makes ten years, in some ten minutes and ten gigabytes of the
 // temporary folder. The server does not wait for its disk: that would be the same for both.
-#include "bench/Ratio.h"
+#include "bench/GrowingShop.h"
+#include "bench/Memory.h"
 #include "chain/ChainSchema.h"
 #include "chain/Publisher.h"
-#include "store/catalogue/Catalogue.h"
-#include "store/engine/CommitOnExit.h"
-#include "store/engine/Recordset.h"
-#include "store/sales/RowAppend.h"
 #include "tests/support/PostgresServer.h"
 
 #include <QCoreApplication>
@@ -28,67 +25,30 @@ namespace
 
 using namespace norvane;
 using bench::require;
-using store::Value;
 
-constexpr int plusPerDay = 5000;
-constexpr int daysPerYear = 365;
 constexpr int fewDays = 60;
 constexpr int laterDays = 10;
 
-class GrowingShop
+class PublishedShop : public bench::GrowingShop
 {
 public:
-    GrowingShop() { store::Database::create(path(), store::catalogue()); }
-
-    [[nodiscard]] chain::ShopFolder folder() const { return {u"BENCH"_s, m_folder.path(), path()}; }
+    [[nodiscard]] chain::ShopFolder shopFolder() const { return {u"BENCH"_s, folder(), database()}; }
 
     void growBy(int days)
     {
-        store::Database database(path());
+        store::Database open(database());
         for (int day = 0; day < days; ++day)
-            appendDay(database);
+            appendDay(open);
     }
-
-private:
-    [[nodiscard]] QString path() const { return m_folder.filePath(u"velmar.mdb"_s); }
-
-    void appendDay(store::Database& database)
-    {
-        store::CommitOnExit transaction(database);
-        store::Recordset sales = database.openTable(u"PLUSALES"_s);
-        {
-            const store::RowAppend append(database, transaction, u"PLUSALES"_s);
-            for (int plu = 0; plu < plusPerDay; ++plu)
-                addRow(sales, plu);
-        }
-        transaction.commit();
-        ++m_days;
-    }
-
-    void addRow(store::Recordset& sales, int plu) const
-    {
-        const int count = (plu * 31 + m_days * 7) % 50;
-        sales.addNew();
-        sales.setValue("ID"_L1, Value::text(u"%1"_s.arg(plu, 18, 10, QLatin1Char('0'))));
-        sales.setValue("SALESDATE"_L1, Value::date(QDate(2017, 1, 1).addDays(m_days)));
-        sales.setValue("PROMO"_L1, Value::whole(0));
-        sales.setValue("WASTE"_L1, Value::whole(0));
-        sales.setValue("COUNT1"_L1, Value::whole(count));
-        sales.setValue("VALUE1"_L1, Value::number(count * 1.25));
-        sales.update();
-    }
-
-    QTemporaryDir m_folder;
-    int m_days = 0;
 };
 
 int daysWanted()
 {
-    const int years = qEnvironmentVariableIntValue("NORVANE_SALES_YEARS");
-    return years > 0 ? years * daysPerYear : fewDays;
+    const int years = bench::salesYears(0);
+    return years > 0 ? years * bench::GrowingShop::daysPerYear : fewDays;
 }
 
-const QString database = u"chain"_s;
+const QString chainDatabase = u"chain"_s;
 
 test::PostgresServer& server()
 {
@@ -96,15 +56,15 @@ test::PostgresServer& server()
         auto made =
             std::make_unique<test::PostgresServer>(QStringList{u"fsync=off"_s, u"max_wal_size=8GB"_s});
         require(made->start(), "server");
-        made->makeDatabase(database);
+        made->makeDatabase(chainDatabase);
         return made;
     }();
     return *running;
 }
 
-GrowingShop& shop()
+PublishedShop& shop()
 {
-    static GrowingShop grown;
+    static PublishedShop grown;
     return grown;
 }
 
@@ -112,26 +72,16 @@ GrowingShop& shop()
 void psql(const QString& command)
 {
     QProcess process;
-    server().queryMeanwhile(process, database, command);
+    server().queryMeanwhile(process, chainDatabase, command);
     require(process.waitForFinished(-1) && process.exitCode() == 0,
             process.readAllStandardError().append(command.toUtf8()).constData());
 }
 
 chain::Published publish()
 {
-    chain::Server connection(server().connection(database));
+    chain::Server connection(server().connection(chainDatabase));
     chain::prepareSchema(connection);
-    return chain::publishShop(connection, shop().folder(), {});
-}
-
-/// A line of the system's account of this process, in megabytes.
-double megabytes(const QByteArray& line)
-{
-    QFile status(u"/proc/self/status"_s);
-    require(status.open(QIODevice::ReadOnly), "status");
-    const QByteArray all = status.readAll();
-    const auto at = all.indexOf(line) + line.size();
-    return all.mid(at, all.indexOf("kB", at) - at).trimmed().toDouble() / 1024;
+    return chain::publishShop(connection, shop().shopFolder(), {});
 }
 
 /// Processor seconds of this process, of the programs that it ran to their ends, and of the server's
@@ -164,13 +114,6 @@ bench::Cost costOf(Work work)
     return cost;
 }
 
-/// From now on the peak is counted again.
-void forgetPeak()
-{
-    QFile file(u"/proc/self/clear_refs"_s);
-    require(file.open(QIODevice::WriteOnly) && file.write("5") == 1, "peak");
-}
-
 /// The same rows into a table of the same shape, with the same partitions.
 bench::Cost bareCost()
 {
@@ -191,11 +134,12 @@ void publishYears(benchmark::State& state)
 {
     const int days = static_cast<int>(state.range(0));
     shop().growBy(days);
-    forgetPeak();
-    const double before = megabytes("VmRSS:");
+    bench::resetPeak();
+    const auto before = bench::statusBytes("VmRSS:");
     for (auto _ : state) {
         const bench::Cost ours = costOf([days] { require(publish().days == days, "all days"); });
-        state.counters["memory_mb"] = megabytes("VmHWM:") - before;
+        state.counters["memory_mb"] =
+            static_cast<double>(bench::statusBytes("VmHWM:") - before) / (1024 * 1024);
         const bench::Cost bare = bareCost();
         state.SetIterationTime(ours.elapsed);
         state.counters["ratio"] = ours.processor / bare.processor;

@@ -3,6 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -49,6 +50,30 @@ struct Cost {
     }
 };
 
+/// Processor time of pieces of work, on average and of the slowest.
+class Times
+{
+public:
+    template <typename Work>
+    void add(Work work)
+    {
+        const double ms = processorSecondsOf(work) * 1e3;
+        m_sum += ms;
+        m_worst = std::max(m_worst, ms);
+        ++m_count;
+    }
+    void report(benchmark::State& state) const
+    {
+        state.counters["processor_ms"] = m_sum / m_count;
+        state.counters["worst_ms"] = m_worst;
+    }
+
+private:
+    double m_sum = 0;
+    double m_worst = 0;
+    int m_count = 0;
+};
+
 /// Runs ours and the baseline by turns and reports how many times the baseline's time ours takes: of the
 /// processor ("ratio", which the limits are for) and by the clock.
 /// @return the seconds that one run of ours takes.
@@ -66,6 +91,7 @@ double compare(benchmark::State& state, Ours ours, Bare bare)
     const auto runs = static_cast<double>(state.iterations());
     state.counters["ratio"] = oursCost.processor / bareCost.processor;
     state.counters["clock_ratio"] = oursCost.elapsed / bareCost.elapsed;
+    state.counters["processor_ms"] = oursCost.processor / runs * 1e3;
     state.counters["bare_us"] = bareCost.elapsed / runs * 1e6;
     return oursCost.elapsed / runs;
 }

@@ -1,17 +1,14 @@
 // What an import and an export of the PLU file cost beside the least that could do the work: a loop that
 // splits, converts and binds into one prepared insert, and one that selects and writes.
-#include "bench/BareDatabase.h"
 #include "bench/Memory.h"
+#include "bench/Shop.h"
 #include "platform/RuntimeFailure.h"
 #include "records/FileProcedures.h"
-#include "store/catalogue/Catalogue.h"
-#include "store/engine/Database.h"
 #include "tests/support/RecordingBoxes.h"
 
 #include <benchmark/benchmark.h>
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <array>
 #include <charconv>
@@ -52,7 +49,7 @@ std::string pluText(int lines, Sums& sums)
 {
     std::string text;
     for (int i = 0; i < lines; ++i) {
-        text += zeroFilled(5000000000000LL + i * 7LL, 18) + ",Article " + zeroFilled(i, 8) + ',';
+        text += bench::pluNumber(5000000000000LL + i * 7LL) + ",Article " + zeroFilled(i, 8) + ',';
         text += zeroFilled(i % 99, 2) + ',' + zeroFilled(i % 500, 4) + ",0000,0001," + zeroFilled(i % 30, 4);
         text += i % 2 == 0 ? ",45," : ",20,";
         text += "0000," + zeroFilled(i % 100, 4) + ",000000000000000000,0000";
@@ -70,30 +67,20 @@ std::string pluText(int lines, Sums& sums)
 }
 
 /// A folder with a database and the text of so many PLUs.
-class Shop
+class Shop : public bench::TwinShop
 {
 public:
-    explicit Shop(int lines)
+    explicit Shop(int lines) : text(pluText(lines, sums))
     {
-        values.appPath = folder.path();
-        values.customerPath = folder.path();
-        values.databasePath = folder.filePath(QStringLiteral("velmar.mdb"));
-        bareDatabase = folder.filePath(QStringLiteral("bare.mdb"));
-        store::Database::create(values.databasePath, store::catalogue());
-        store::Database::create(bareDatabase, store::catalogue());
-        text = pluText(lines, sums);
         std::ofstream(path("67.txt"), std::ios::binary) << text;
         std::ofstream(path("setup.ini")) << "[SetupOption]\nECRModel=0\n";
-        QDir::setCurrent(folder.path());
+        QDir::setCurrent(folder());
     }
     ~Shop() { QDir::setCurrent(QDir::rootPath()); }
     Shop(const Shop&) = delete;
     Shop& operator=(const Shop&) = delete;
 
-    [[nodiscard]] std::string path(const char* name) const
-    {
-        return folder.filePath(QLatin1String(name)).toStdString();
-    }
+    [[nodiscard]] std::string path(const char* name) const { return file(name).toStdString(); }
     [[nodiscard]] records::ProcedureContext context()
     {
         return {values, boxes, [](const records::Conversion&) {
@@ -101,12 +88,9 @@ public:
                 }};
     }
 
-    QTemporaryDir folder;
-    ApplicationValues values;
-    QString bareDatabase;
     test::RecordingBoxes boxes;
-    std::string text;
     Sums sums;
+    std::string text;
 };
 
 constexpr const char* bareInsert =
@@ -168,7 +152,7 @@ void bindColumn(sqlite3_stmt* statement, Bare form, int place, std::string_view 
 
 void bareImport(const Shop& shop)
 {
-    const BareDatabase database(shop.bareDatabase);
+    const BareDatabase database(shop.bareDatabase());
     database.run("begin");
     database.run("delete from PLUDATA");
     std::ifstream file(shop.path("67.txt"), std::ios::binary);
@@ -221,7 +205,7 @@ std::int64_t centsOf(std::string_view text)
 
 void bareExport(const Shop& shop)
 {
-    const BareDatabase database(shop.values.databasePath);
+    const BareDatabase database(shop.database());
     std::ofstream file(shop.path("bare.txt"), std::ios::binary);
     sqlite3_stmt* select = database.prepare(bareSelect);
     std::string line;
@@ -282,8 +266,8 @@ void importPlus(benchmark::State& state)
     Shop shop(static_cast<int>(state.range(0)));
     compareLines(
         state, [&] { records::importRegisterFile(pluFile, shop.context()); }, [&] { bareImport(shop); });
-    require(sumsOf(shop.values.databasePath) == shop.sums, "the import lost rows");
-    require(sumsOf(shop.bareDatabase) == shop.sums, "the bare loop lost rows");
+    require(sumsOf(shop.database()) == shop.sums, "the import lost rows");
+    require(sumsOf(shop.bareDatabase()) == shop.sums, "the bare loop lost rows");
 }
 
 void exportPlus(benchmark::State& state)
@@ -305,7 +289,7 @@ void importMemory(benchmark::State& state)
 {
     Shop shop(static_cast<int>(state.range(0)));
     measureMemory(state, shop.text.size(), [&shop] { records::importRegisterFile(pluFile, shop.context()); });
-    require(sumsOf(shop.values.databasePath) == shop.sums, "the import lost rows");
+    require(sumsOf(shop.database()) == shop.sums, "the import lost rows");
 }
 
 /// A damaged file: one column of so many bytes, in the place of a text, of a number and of option digits.

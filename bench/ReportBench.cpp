@@ -1,14 +1,11 @@
 // Reports from the formula to their lines: a list of 100,000 PLUs, and periods of a shop with 5,000 PLUs that
 // collects every day. A run makes two years of sales; NORVANE_SALES_YEARS=10 makes ten, in some minutes and
 // three gigabytes of the temporary folder.
-#include "bench/BareDatabase.h"
+#include "bench/Shop.h"
 #include "reports/lines/ReportRun.h"
-#include "store/catalogue/Catalogue.h"
-#include "store/engine/Database.h"
 #include "store/sales/MonthTotals.h"
 
 #include <benchmark/benchmark.h>
-#include <QTemporaryDir>
 
 #include <malloc.h>
 
@@ -21,65 +18,43 @@ using namespace norvane;
 using bench::BareDatabase;
 using bench::require;
 
-/// A database whose rows are made by statements of the engine.
-class Shop
+class Shop : public bench::Shop
 {
 public:
-    explicit Shop(const std::string& rows)
-    {
-        store::Database::create(path(), store::catalogue());
-        const BareDatabase bare(path());
-        bare.run(("begin;" + rows + ";commit").c_str());
-    }
-
-    [[nodiscard]] QString path() const { return m_folder.filePath(u"velmar.mdb"_s); }
+    using bench::Shop::Shop;
 
     [[nodiscard]] reports::ReportData run(const char* layout, const QString& formula = {},
                                           QDate today = QDate(2026, 12, 19)) const
     {
         reports::ReportRequest request;
         request.reportFile = QStringLiteral(REPORT_FILES "/") + QLatin1StringView(layout);
-        request.dataFile = path();
+        request.dataFile = database();
         request.selectionFormula = formula;
         request.now = QDateTime(today, QTime(20, 0));
         return reports::runReport(request, [] { return true; });
     }
-
-private:
-    QTemporaryDir m_folder;
 };
-
-std::string numbersTo(const std::string& most)
-{
-    return "with recursive n(i) as (select 1 union all select i + 1 from n where i < " + most + ")";
-}
 
 std::string programme(int plus)
 {
-    const std::string number = "substr('000000000000000000' || i, -18)";
     return "insert into PLUDATA (PLUNUMBER, DESCRIPTION, GROUPNO, PRICE1, PRICE2, PRICE3, PRICE4, PRICE5) " +
-           numbersTo(std::to_string(plus)) + " select " + number +
-           ", 'ARTICLE ' || i, i % 50, '1.25', '2.50', '3.75', '4.99', '0.10' from n; "
+           bench::numbersTo(plus) +
+           "select printf('%018d', i), 'ARTICLE ' || i, i % 50, '1.25', '2.50', '3.75', '4.99', '0.10' from "
+           "n; "
            "insert into GROUPS (GROUPNO, DESCRIPTION) " +
-           numbersTo("49") + " select i, 'GROUP ' || i from n";
+           bench::numbersTo(49) + "select i, 'GROUP ' || i from n";
 }
 
 /// Every PLU has a row every day up to the end of 2026, most of them with sales.
 std::string sales(int plus, int years)
 {
-    const std::string days = std::to_string(years * 365);
-    return programme(plus) + "; insert into PLUSALES " + numbersTo(days) +
+    const int days = years * 365;
+    return programme(plus) + "; insert into PLUSALES " + bench::numbersTo(days) +
            ", p(k) as (select 1 union all select k + 1 from p where k < " + std::to_string(plus) +
-           ") select substr('000000000000000000' || k, -18), date('2026-12-31', '-' || (" + days +
+           ") select printf('%018d', k), date('2026-12-31', '-' || (" + std::to_string(days) +
            " - i) || ' days'), 0, 0, (k * 31 + i * 7) % 50, ((k * 31 + i * 7) % 50) * 1.25, 0, 0, 0, 0, 0, "
            "0, 0, 0 "
            "from n, p";
-}
-
-int years()
-{
-    const char* const wish = std::getenv("NORVANE_SALES_YEARS");
-    return wish ? std::max(1, std::atoi(wish)) : 2;
 }
 
 void ListOfPlus(benchmark::State& state)
@@ -129,7 +104,7 @@ void addUpBare(const BareDatabase& bare, const std::string& rows)
 
 void PeriodReport(benchmark::State& state)
 {
-    static const Shop shop(sales(5000, years()));
+    static const Shop shop(sales(5000, bench::salesYears(2)));
     const QString day = u"{PLUSALES.SALESDATE} "_s;
     const PeriodOfSales periods[] = {
         {"day", day + u"= date(2026,12,19)"_s, {{2026, 12, 19}, {2026, 12, 19}}},
@@ -142,22 +117,14 @@ void PeriodReport(benchmark::State& state)
     (void)shop.run("plusales.rpt", period.formula); // adds up ended months, as the import does
     std::string rows;
     {
-        store::Database database(shop.path());
+        store::Database database(shop.database());
         rows = store::MonthTotals(database, u"PLUSALES"_s).rows(period.days).toStdString();
     }
-    const BareDatabase bare(shop.path());
-    bench::Cost ours;
-    bench::Cost least;
-    for (auto _ : state) {
-        least.add([&] { addUpBare(bare, rows); });
-        const double before = ours.elapsed;
-        ours.add([&] {
-            require(shop.run("plusales.rpt", period.formula).lineCount() > 4000, "all PLUs have a line");
-        });
-        state.SetIterationTime(ours.elapsed - before);
-    }
-    state.counters["processor_seconds"] = ours.processor / static_cast<double>(state.iterations());
-    state.counters["ratio"] = ours.processor / least.processor;
+    const BareDatabase bare(shop.database());
+    bench::compare(
+        state,
+        [&] { require(shop.run("plusales.rpt", period.formula).lineCount() > 4000, "all PLUs have a line"); },
+        [&] { addUpBare(bare, rows); });
 }
 BENCHMARK(PeriodReport)->DenseRange(0, 3)->UseManualTime()->Unit(benchmark::kMillisecond);
 

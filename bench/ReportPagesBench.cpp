@@ -1,6 +1,7 @@
 // From a report's lines to what the user gets: the preview's first page, a PDF, a CSV. The CSV is written
 // beside a bare loop that selects the same lines and writes them.
 #include "bench/BareDatabase.h"
+#include "bench/WidgetMain.h"
 #include "reports/files/CsvFile.h"
 #include "reports/files/PdfFile.h"
 #include "reports/window/PageView.h"
@@ -142,10 +143,5 @@ BENCHMARK(writeValues)->UseManualTime()->Iterations(10)->Unit(benchmark::kMillis
 
 int main(int argc, char** argv)
 {
-    // Widgets alone are measured; a screen would only add its own time.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return norvane::bench::runWithWidgets(argc, argv);
 }

@@ -1,21 +1,13 @@
 // Ten years of a shop's days in the sales tables: appending a day, reading by date, and reports over a day, a
 // week, a month and a year, beside what a bare statement takes. A run makes one year; NORVANE_SALES_YEARS=10
 // makes them all, in some minutes and five gigabytes of the temporary folder. Times are processor times.
-#include "bench/BareDatabase.h"
-#include "store/catalogue/Catalogue.h"
-#include "store/engine/CommitOnExit.h"
-#include "store/engine/Database.h"
-#include "store/engine/Recordset.h"
+#include "bench/GrowingShop.h"
 #include "store/sales/MonthTotals.h"
-#include "store/sales/RowAppend.h"
 
 #include <benchmark/benchmark.h>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <algorithm>
-#include <array>
-#include <ctime>
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
@@ -25,100 +17,53 @@ namespace
 
 using namespace norvane;
 using bench::require;
-using store::Value;
 
-constexpr int plusPerDay = 5000;
-constexpr int daysPerYear = 365;
+constexpr int plusPerDay = bench::GrowingShop::plusPerDay;
+constexpr int daysPerYear = bench::GrowingShop::daysPerYear;
 constexpr int daysPerMonth = 30;
 /// Days appended by one run of the benchmark of appending.
 constexpr int appendedDays = 10;
 
-std::string pluNumber(int number)
-{
-    const auto digits = std::to_string(number);
-    return std::string(18 - digits.size(), '0') + digits;
-}
-
 /// What the file keeps beside the rows of sales.
 enum class Keeps { Totals, Index, Nothing };
 
-/// Processor seconds of this process: other work on the machine does not count.
-double processorSeconds()
+/// The tables with or without what the file keeps.
+QVector<store::TableDefinition> tablesFor(Keeps keeps)
 {
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+    auto tables = store::catalogue();
+    if (keeps == Keeps::Nothing) {
+        for (auto& table : tables)
+            table.searchedField.clear();
+    }
+    return tables;
 }
 
 /// A database that only grows, day by day.
-class GrowingShop
+class GrowingShop : public bench::GrowingShop
 {
 public:
-    explicit GrowingShop(Keeps keeps)
+    explicit GrowingShop(Keeps keeps) : bench::GrowingShop(tablesFor(keeps))
     {
-        auto tables = store::catalogue();
-        if (keeps == Keeps::Nothing) {
-            for (auto& table : tables)
-                table.searchedField.clear();
-        }
-        store::Database::create(path(), tables);
         if (keeps == Keeps::Index) {
             for (const char* event : {"insert", "update", "delete"}) {
-                bench::BareDatabase(path()).run(
-                    (std::string("drop trigger [PLUSALES ") + event + ']').c_str());
+                bench::BareDatabase(database())
+                    .run((std::string("drop trigger [PLUSALES ") + event + ']').c_str());
             }
         }
-        m_database = std::make_unique<store::Database>(path());
+        m_open = std::make_unique<store::Database>(database());
     }
 
-    [[nodiscard]] store::Database& database() { return *m_database; }
-    [[nodiscard]] QString path() const { return m_folder.filePath(u"velmar.mdb"_s); }
-    [[nodiscard]] qint64 fileSize() const { return QFileInfo(path()).size(); }
-    /// The day that is so many days before the last one.
-    [[nodiscard]] QDate dayBefore(int days) const { return first().addDays(m_days - 1 - days); }
+    [[nodiscard]] store::Database& open() { return *m_open; }
+    [[nodiscard]] qint64 fileSize() const { return QFileInfo(database()).size(); }
 
-    void growTo(int days)
+    void growTo(int wanted)
     {
-        while (m_days < days)
-            appendDay();
-    }
-
-    /// One collection: the day's totals of all PLUs, on the disk at the end.
-    void appendDay()
-    {
-        store::CommitOnExit transaction(*m_database);
-        addRows(transaction);
-        transaction.commit();
-        ++m_days;
+        while (days() < wanted)
+            appendDay(*m_open);
     }
 
 private:
-    void addRows(const store::CommitOnExit& open)
-    {
-        store::Recordset sales = m_database->openTable(u"PLUSALES"_s);
-        const store::RowAppend append(*m_database, open, u"PLUSALES"_s);
-        const auto ordinal = [&sales](const char* field) {
-            return sales.fieldOrdinal(QLatin1StringView(field));
-        };
-        const std::array<int, 6> fields{ordinal("ID"),    ordinal("SALESDATE"), ordinal("PROMO"),
-                                        ordinal("WASTE"), ordinal("COUNT1"),    ordinal("VALUE1")};
-        const Value day = Value::date(first().addDays(m_days));
-        for (int plu = 0; plu < plusPerDay; ++plu) {
-            const int count = (plu * 31 + m_days * 7) % 50;
-            sales.addNew();
-            sales.setValue(fields[0], Value::text(pluNumber(plu)));
-            sales.setValue(fields[1], store::Value(day));
-            sales.setValue(fields[2], Value::whole(0));
-            sales.setValue(fields[3], Value::whole(0));
-            sales.setValue(fields[4], Value::whole(count));
-            sales.setValue(fields[5], Value::number(count * 1.25));
-            sales.update();
-        }
-    }
-
-    [[nodiscard]] static QDate first() { return {2017, 1, 1}; }
-
-    QTemporaryDir m_folder;
-    std::unique_ptr<store::Database> m_database;
-    int m_days = 0;
+    std::unique_ptr<store::Database> m_open;
 };
 
 /// The shops live through the whole run, so that each year is made once.
@@ -141,7 +86,7 @@ void appendDay(benchmark::State& state, Keeps keeps)
 {
     GrowingShop& grown = shopOf(state, keeps);
     while (state.KeepRunning())
-        grown.appendDay();
+        grown.appendDay(grown.open());
     constexpr double megabyte = 1024.0 * 1024.0;
     state.counters["file_mb"] = static_cast<double>(grown.fileSize()) / megabyte;
 }
@@ -158,7 +103,7 @@ void readDay(benchmark::State& state, Keeps keeps)
     const QString query =
         u"select * from PLUSALES where SALESDATE = %1"_s.arg(dateWord(grown.dayBefore(daysPerMonth / 2)));
     while (state.KeepRunning()) {
-        store::Recordset sales = grown.database().openQuery(query);
+        store::Recordset sales = grown.open().openQuery(query);
         int rows = 0;
         for (; !sales.atEnd(); sales.moveNext()) {
             benchmark::DoNotOptimize(sales.value(0));
@@ -176,7 +121,7 @@ void addUp(benchmark::State& state, Keeps keeps, int days)
                           "where SALESDATE >= %1 and SALESDATE <= %2 group by ID"_s.arg(
                               dateWord(grown.dayBefore(days - 1)), dateWord(grown.dayBefore(0)));
     while (state.KeepRunning()) {
-        store::Recordset totals = grown.database().openQuery(query);
+        store::Recordset totals = grown.open().openQuery(query);
         require(totals.value(1).toNumber() == days, "all days of the period");
         int plus = 0;
         for (; !totals.atEnd(); totals.moveNext())
@@ -280,21 +225,10 @@ void readPeriod(benchmark::State& state, const Period& period)
 {
     GrowingShop& grown = shopOf(state, Keeps::Totals);
     const store::DayRange days{period.first(grown.dayBefore(0)), grown.dayBefore(0)};
-    require(store::MonthTotals(grown.database(), u"PLUSALES"_s).addUpMissing(days, days.last), "totals");
-    const bench::BareDatabase bare(grown.path());
-    double bareSeconds = 0;
-    double ourSeconds = 0;
-    while (state.KeepRunning()) {
-        const double start = processorSeconds();
-        readBare(bare, bareStatement(days));
-        const double between = processorSeconds();
-        readReport(grown.database(), days);
-        const double end = processorSeconds();
-        bareSeconds += between - start;
-        ourSeconds += end - between;
-        state.SetIterationTime(end - between);
-    }
-    state.counters["ratio"] = ourSeconds / bareSeconds;
+    require(store::MonthTotals(grown.open(), u"PLUSALES"_s).addUpMissing(days, days.last), "totals");
+    const bench::BareDatabase bare(grown.database());
+    bench::compare(
+        state, [&] { readReport(grown.open(), days); }, [&] { readBare(bare, bareStatement(days)); });
 }
 
 /// What the first collection of a month adds to its time.
@@ -302,7 +236,7 @@ void totalMonth(benchmark::State& state)
 {
     GrowingShop& grown = shopOf(state, Keeps::Totals);
     const QDate last = grown.dayBefore(0);
-    store::MonthTotals totals(grown.database(), u"PLUSALES"_s);
+    store::MonthTotals totals(grown.open(), u"PLUSALES"_s);
     while (state.KeepRunning())
         totals.addUp(QDate(last.year(), last.month(), 1).addMonths(-1));
 }
@@ -359,6 +293,6 @@ void registerAll(int years)
 int main(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
-    registerAll(qEnvironmentVariableIntValue("NORVANE_SALES_YEARS"));
+    registerAll(bench::salesYears(1));
     benchmark::RunSpecifiedBenchmarks();
 }

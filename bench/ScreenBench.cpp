@@ -1,13 +1,12 @@
 // Opening a screen of 100 fields beside creating and laying out the same widgets bare; a keystroke in the
 // list beside a screen of 100,000 PLUs beside the engine's own search.
-#include "bench/Ratio.h"
+#include "bench/Shop.h"
+#include "bench/WidgetMain.h"
 #include "screens/OptionForm.h"
 #include "screens/RecordList.h"
 #include "screens/ScreenReader.h"
-#include "store/catalogue/Catalogue.h"
 #include "store/engine/CommitOnExit.h"
 #include "store/engine/Recordset.h"
-#include "ui/Appearance.h"
 #include "ui/DecimalBox.h"
 #include "ui/IntegerBox.h"
 #include "ui/MessageBoxes.h"
@@ -24,7 +23,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTableView>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <array>
@@ -76,31 +74,18 @@ QByteArray screenText()
     return text;
 }
 
-class Shop
+class Shop : public bench::Shop
 {
 public:
     Shop()
+        : bench::Shop("insert into GROUPS (GROUPNO, DESCRIPTION) " + bench::numbersTo(groupCount) +
+                      "select i, 'Drinks' from n")
     {
-        values.databasePath = m_folder.filePath(QStringLiteral("velmar.mdb"));
-        QFile file(screenFilePath);
-        require(file.open(QIODevice::WriteOnly) && file.write(screenText()) > 0, "screen file");
-        store::Database::create(values.databasePath, store::catalogue());
-        store::Database database(values.databasePath);
-        store::Recordset groups = database.openTable(QStringLiteral("GROUPS"));
-        for (int number = 1; number <= groupCount; ++number) {
-            groups.addNew();
-            groups.setValue(QStringLiteral("GROUPNO"), store::Value::whole(number));
-            groups.setValue(QStringLiteral("DESCRIPTION"), store::Value::text(std::string("Drinks")));
-            groups.update();
-        }
+        QFile screen(screenFilePath);
+        require(screen.open(QIODevice::WriteOnly) && screen.write(screenText()) > 0, "screen file");
     }
 
-private:
-    QTemporaryDir m_folder;
-
-public:
-    const QString screenFilePath = m_folder.filePath(QStringLiteral("screen.scn"));
-    ApplicationValues values;
+    const QString screenFilePath = file("screen.scn");
 };
 
 QWidget* bareControl(const QByteArray& kind, QWidget* parent)
@@ -171,8 +156,7 @@ void fillPlus(store::Database& database)
     store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
     for (int number = 1; number <= pluCount; ++number) {
         plus.addNew();
-        plus.setValue(QStringLiteral("PLUNUMBER"),
-                      store::Value::text(QStringLiteral("%1").arg(number * 37LL, 18, 10, QLatin1Char('0'))));
+        plus.setValue(QStringLiteral("PLUNUMBER"), store::Value::text(bench::pluNumber(number * 37LL)));
         plus.setValue(QStringLiteral("DESCRIPTION"),
                       store::Value::text(QStringLiteral("Article %1").arg(number % 977)));
         plus.update();
@@ -204,7 +188,7 @@ void typeKey(QLineEdit& box, int stroke)
 void filterList(benchmark::State& state)
 {
     Shop shop;
-    const auto database = std::make_shared<store::Database>(shop.values.databasePath);
+    const auto database = std::make_shared<store::Database>(shop.database());
     fillPlus(*database);
     QWidget form;
     screens::RecordList list(database,
@@ -238,11 +222,5 @@ BENCHMARK(openScreen)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv)
 {
-    // A real screen would add its own time to both sides.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    ui::applyAppearance(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return norvane::bench::runWithWidgets(argc, argv);
 }

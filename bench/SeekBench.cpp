@@ -1,15 +1,12 @@
 // Finding and walking among 100,000 PLUs, beside a prepared select.
-#include "bench/Ratio.h"
-#include "store/catalogue/Catalogue.h"
+#include "bench/Shop.h"
 #include "store/catalogue/DatabaseCheck.h"
 #include "store/engine/CommitOnExit.h"
-#include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <sqlite3.h>
 
 #include <array>
 #include <memory>
@@ -29,19 +26,17 @@ constexpr int batch = 1000;
 /// Numbers that are a multiple of 10, so that a search for one between lands on the next.
 std::string pluNumber(int number)
 {
-    const auto digits = std::to_string(number * 10);
-    return std::string(18 - digits.size(), '0') + digits;
+    return bench::pluNumber(number * 10LL);
 }
 
-class Shop
+class Shop : public bench::Shop
 {
 public:
     Shop()
     {
-        store::Database::create(path(), store::catalogue());
-        store::Database database(path());
-        const store::CommitOnExit transaction(database);
-        store::Recordset plus = database.openTable(u"PLUDATA"_s);
+        store::Database open(database());
+        const store::CommitOnExit transaction(open);
+        store::Recordset plus = open.openTable(u"PLUDATA"_s);
         for (int number = 1; number <= pluCount; ++number) {
             plus.addNew();
             plus.setValue(u"PLUNUMBER"_s, store::Value::text(pluNumber(number)));
@@ -52,10 +47,6 @@ public:
             plus.update();
         }
     }
-    [[nodiscard]] QString path() const { return m_folder.filePath(u"velmar.mdb"_s); }
-
-private:
-    QTemporaryDir m_folder;
 };
 
 const Shop& shop()
@@ -68,19 +59,8 @@ const Shop& shop()
 class BareSelect
 {
 public:
-    BareSelect()
-    {
-        require(sqlite3_open(shop().path().toUtf8().constData(), &m_database) == SQLITE_OK, "open");
-        require(sqlite3_prepare_v2(m_database,
-                                   "select * from PLUDATA where PLUNUMBER >= ? order by PLUNUMBER limit 1",
-                                   -1, &m_select, nullptr) == SQLITE_OK,
-                sqlite3_errmsg(m_database));
-    }
-    ~BareSelect()
-    {
-        sqlite3_finalize(m_select);
-        sqlite3_close(m_database);
-    }
+    BareSelect() = default;
+    ~BareSelect() { sqlite3_finalize(m_select); }
     BareSelect(const BareSelect&) = delete;
     BareSelect& operator=(const BareSelect&) = delete;
 
@@ -111,8 +91,9 @@ public:
     }
 
 private:
-    sqlite3* m_database = nullptr;
-    sqlite3_stmt* m_select = nullptr;
+    bench::BareDatabase m_database{shop().database()};
+    sqlite3_stmt* m_select =
+        m_database.prepare("select * from PLUDATA where PLUNUMBER >= ? order by PLUNUMBER limit 1");
 };
 
 /// Numbers all over the table, each of which is missed by a little.
@@ -130,7 +111,7 @@ std::string nextNumber(const std::string& sought)
 
 void seekAtOrAfter(benchmark::State& state)
 {
-    store::Database database(shop().path());
+    store::Database database(shop().database());
     store::Recordset plus = database.openTable(u"PLUDATA"_s);
     BareSelect bare;
     int step = 0;
@@ -155,7 +136,7 @@ void openSeekRead(benchmark::State& state)
 {
     const std::string number = pluNumber(pluCount / 2);
     while (state.KeepRunning()) {
-        store::Database database(shop().path());
+        store::Database database(shop().database());
         store::Recordset plus = database.openTable(u"PLUDATA"_s);
         require(plus.seek(store::Seek::AtOrAfter, store::Value::text(number)), "found");
         for (int field = 0; field < plus.fieldCount(); ++field)
@@ -168,7 +149,7 @@ void checkForDamage(benchmark::State& state)
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(u"velmar.mdb"_s);
-    require(QFile::copy(shop().path(), path), "copy");
+    require(QFile::copy(shop().database(), path), "copy");
     {
         store::Database database(path);
         const store::CommitOnExit transaction(database);
@@ -190,7 +171,7 @@ void checkForDamage(benchmark::State& state)
 /// Steps from a place in the table, given in percent of it.
 void walk(benchmark::State& state, bool forward)
 {
-    store::Database database(shop().path());
+    store::Database database(shop().database());
     store::Recordset plus = database.openTable(u"PLUDATA"_s);
     const int place = 1 + static_cast<int>(state.range(0)) * (pluCount - 1) / 100;
     while (state.KeepRunning()) {
