@@ -48,11 +48,11 @@ ShopDays::ShopDays(store::Database& database)
 void ShopDays::read(std::size_t table)
 {
     const auto& source = salesTables()[table];
-    const auto standing = store::DayDigests(m_database, QLatin1StringView(source.source)).standing();
+    const auto stored = store::DayDigests(m_database, QLatin1StringView(source.source)).stored();
     for (const QDate day : daysOf(m_database, source)) {
         auto& digests = m_digests.try_emplace(day, salesTables().size(), noRows).first->second;
-        const auto known = standing.find(day);
-        digests[table] = known != standing.end() && isCurrentDigest(known->second) ? known->second : "";
+        const auto known = stored.find(day);
+        digests[table] = known != stored.end() && isCurrentDigest(known->second) ? known->second : "";
     }
 }
 

@@ -30,7 +30,7 @@ constexpr FieldRow pluSales[] = {
 };
 
 // Register file 52. Text, so that an odd value from a register, or a line that ends early, is stored
-// unchanged; the flags tell which totals the register keeps.
+// unchanged; the flags show which totals the register keeps.
 constexpr FieldRow memoryAllocation[] = {
     counter("ID"),
     reported("reporttotals"),

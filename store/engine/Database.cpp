@@ -34,7 +34,7 @@ namespace
     throw RuntimeFailure(Failure::UnknownNameInQuery, u"Unknown name or faulty statement. \"%1\""_s.arg(sql));
 }
 
-/// The tables that the triggers of @p table keep right, as far as the file has them.
+/// The tables that the triggers of @p table keep correct, as far as the file has them.
 QStringList tablesOfTriggers(sqlite3* handle, const QString& table)
 {
     QStringList names{addedMonthsName(table), monthTotalsName(table), dayDigestsName(table)};

@@ -291,15 +291,15 @@ void Schema::completeTable(const TableDefinition& table)
 
 void Schema::addCompanions(const TableDefinition& table)
 {
-    auto standing = read(table.name);
-    if (!standing || table.searchedField.isEmpty())
+    auto existing = read(table.name);
+    if (!existing || table.searchedField.isEmpty())
         return;
-    standing->name = table.name;
-    standing->searchedField = table.searchedField;
-    const Companion index = searchIndexOf(*standing);
+    existing->name = table.name;
+    existing->searchedField = table.searchedField;
+    const Companion index = searchIndexOf(*existing);
     if (!declarationOf(index.name))
         run(index.declaration, u"Table %1."_s.arg(table.name));
-    for (const auto& companions : {monthCompanionsOf(*standing), dayCompanionsOf(*standing)}) {
+    for (const auto& companions : {monthCompanionsOf(*existing), dayCompanionsOf(*existing)}) {
         if (!hasAll(companions))
             makeAnew(companions);
     }

@@ -12,14 +12,14 @@ namespace norvane::store
 namespace
 {
 
-bool hasRoom(sqlite3* handle, TableDefinition standing)
+bool hasRoom(sqlite3* handle, TableDefinition existing)
 {
-    const TableDefinition* known = catalogueTable(standing.name);
+    const TableDefinition* known = catalogueTable(existing.name);
     if (known == nullptr || known->searchedField.isEmpty())
         return false;
-    standing.name = known->name;
-    standing.searchedField = known->searchedField;
-    return Schema(handle).hasAll(dayCompanionsOf(standing));
+    existing.name = known->name;
+    existing.searchedField = known->searchedField;
+    return Schema(handle).hasAll(dayCompanionsOf(existing));
 }
 
 } // namespace
@@ -30,7 +30,7 @@ DayDigests::DayDigests(Database& database, const QString& table)
 {
 }
 
-std::map<QDate, std::string> DayDigests::standing() const
+std::map<QDate, std::string> DayDigests::stored() const
 {
     std::map<QDate, std::string> digests;
     if (!m_available)

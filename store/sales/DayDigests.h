@@ -23,7 +23,7 @@ public:
     DayDigests(Database& database, const QString& table);
 
     /// The digest of each day that has one; nothing if the file has no table for them.
-    [[nodiscard]] std::map<QDate, std::string> standing() const;
+    [[nodiscard]] std::map<QDate, std::string> stored() const;
     /// Stores them, in the open transaction or a separate one. Does nothing if the file has no table for
     /// them. @throws RuntimeFailure as the database reports.
     void keep(const std::map<QDate, std::string>& digests);

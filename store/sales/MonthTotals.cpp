@@ -105,14 +105,14 @@ private:
 };
 
 /// The catalogue knows by which field a table's rows are found; the file knows which fields it has.
-TableDefinition salesTable(const TableDefinition& standing)
+TableDefinition salesTable(const TableDefinition& existing)
 {
-    const TableDefinition* known = catalogueTable(standing.name);
+    const TableDefinition* known = catalogueTable(existing.name);
     if (known == nullptr || known->searchedField.isEmpty()) {
         throw RuntimeFailure(Failure::UnknownName,
-                             u"Item not found: %1 is not a table of sales."_s.arg(standing.name));
+                             u"Item not found: %1 is not a table of sales."_s.arg(existing.name));
     }
-    TableDefinition table = standing;
+    TableDefinition table = existing;
     table.name = known->name;
     table.searchedField = known->searchedField;
     return table;

@@ -178,7 +178,7 @@ TEST_F(MonthTotalsTest, AMonthThatCannotBeStoredLeavesTheFileToOthers)
 std::string daysLeft(const DayDigests& digests)
 {
     std::string left;
-    for (const auto& [day, digest] : digests.standing())
+    for (const auto& [day, digest] : digests.stored())
         left += (left.empty() ? "" : " ") + day.toString(u"d.M="_s).toStdString() + digest;
     return left;
 }
