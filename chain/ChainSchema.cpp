@@ -116,7 +116,7 @@ int versionOf(pqxx::work& work)
 }
 
 /// The common case takes no lock.
-int standingVersion(Server& server)
+int installedVersion(Server& server)
 {
     int version = -1;
     server.transact([&](pqxx::work& work) {
@@ -171,7 +171,7 @@ void lockSchema(pqxx::work& work)
 
 void prepareSchema(Server& server)
 {
-    const int version = standingVersion(server);
+    const int version = installedVersion(server);
     if (version > currentVersion) {
         throw ChainError(
             ChainFailure::Unfit,

@@ -28,7 +28,7 @@ Middle middleOf(const KeyLayout& layout, int cell)
 /// Distance of @p to from @p from along a direction, and to the side of it.
 struct Way {
     double ahead = 0;
-    double aside = 0;
+    double sideways = 0;
 };
 
 Way wayTo(Middle from, Middle to, Direction direction)
@@ -51,8 +51,8 @@ Way wayTo(Middle from, Middle to, Direction direction)
 /// Cells in line with the first one come before those beside it, however near.
 double detour(const Way& way)
 {
-    constexpr double asideCosts = 3;
-    return way.ahead + asideCosts * way.aside;
+    constexpr double sidewaysCosts = 3;
+    return way.ahead + sidewaysCosts * way.sideways;
 }
 
 /// Cells less than this ahead, in millimetres, are side by side.

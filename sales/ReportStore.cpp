@@ -101,9 +101,9 @@ bool ReportStore::mayStoreShort() const
 {
     QStringList shortReports;
     for (std::size_t report = 0; report < reportCount; ++report) {
-        const QString told = shortReport(report);
-        if (!told.isEmpty())
-            shortReports << told;
+        const QString text = shortReport(report);
+        if (!text.isEmpty())
+            shortReports << text;
     }
     return shortReports.isEmpty() ||
            askBeforeLoss(m_boxes,
@@ -121,8 +121,8 @@ QString ReportStore::shortReport(std::size_t report) const
     const bool isEmpty = count == 0 && last < 0 && !file.mayBeEmpty;
     if (!isEmpty && count >= fewestExpected(report))
         return {};
-    const QString told = u"%1: %2 records"_s.arg(link::fileAndAge(QLatin1StringView(file.name))).arg(count);
-    return last < 0 ? told : told + u", %1 at the last collection"_s.arg(last);
+    const QString text = u"%1: %2 records"_s.arg(link::fileAndAge(QLatin1StringView(file.name))).arg(count);
+    return last < 0 ? text : text + u", %1 at the last collection"_s.arg(last);
 }
 
 /// A report has a line for each item of the registers' programme, sold or not. The PLUs are the one part that

@@ -68,10 +68,10 @@ void GridControl::showQuery(const std::shared_ptr<store::Database>& database,
     delete model();
     setModel(grid);
     for (int column = 0; column < definition.gridColumns.size(); ++column) {
-        const GridColumn& told = definition.gridColumns[column];
-        if (told.width)
-            setColumnWidth(column, ui::scaled(paper::screenPixels(paper::twips(*told.width))));
-        setColumnHidden(column, !told.visible);
+        const GridColumn& given = definition.gridColumns[column];
+        if (given.width)
+            setColumnWidth(column, ui::scaled(paper::screenPixels(paper::twips(*given.width))));
+        setColumnHidden(column, !given.visible);
     }
 }
 

@@ -181,7 +181,7 @@ def time_limit(tests):
     return 30 + 5 * (time.monotonic() - start) if passed else None
 
 
-def told(spot):
+def described(spot):
     return f"{spot.file}:{spot.line}: {' '.join(spot.old.split())} -> {' '.join(spot.new.split()) or 'nothing'}"
 
 
@@ -197,7 +197,7 @@ def try_folder(folder, spots, count, results):
         for spot in batch:
             outcome = outcome_of(spot, tests, seconds)
             results.append((spot, outcome))
-            print(f"{outcome:12}  {told(spot)}", flush=True)
+            print(f"{outcome:12}  {described(spot)}", flush=True)
             count -= outcome != "not compiled"
 
 
@@ -214,7 +214,7 @@ def report(results):
         print(f"{row:12} {compiled:8} {c['killed']:8} {c['timed out']:10} {c['survived']:9} {rate:6.1f}%")
     survivors = [spot for spot, outcome in results if outcome == "survived"]
     for spot in survivors:
-        print(f"\n{told(spot)}\n    {(TREE / spot.file).read_text().splitlines()[spot.line - 1].strip()}")
+        print(f"\n{described(spot)}\n    {(TREE / spot.file).read_text().splitlines()[spot.line - 1].strip()}")
     SURVIVORS.write_text("".join(json.dumps(spot) + "\n" for spot in survivors))
 
 

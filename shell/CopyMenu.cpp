@@ -67,7 +67,7 @@ void CopyMenu::addCopy(const customers::SafetyCopy& copy)
 
 void CopyMenu::restore(const ApplicationValues& values, Boxes& boxes, const customers::SafetyCopy& copy)
 {
-    QString told;
+    QString message;
     try {
         if (!askBeforeLoss(boxes, questionOf(values.customerName, values.customerPath, copy)))
             return;
@@ -75,13 +75,13 @@ void CopyMenu::restore(const ApplicationValues& values, Boxes& boxes, const cust
         if (lock == nullptr)
             return;
         const ui::WaitPointer pointer;
-        told = customers::restoreSafetyCopy(values.customerPath, copy);
+        message = customers::restoreSafetyCopy(values.customerPath, copy);
     } catch (const RuntimeFailure& failure) {
         boxes.message(failure.text(), boxTitle, BoxIcon::Critical);
         return;
     }
     const QString done = u"%1 is as it was on %2."_s.arg(values.customerName, wordsOf(copy));
-    boxes.message(told.isEmpty() ? done : done + u"\r\r"_s + told, boxTitle, BoxIcon::Information);
+    boxes.message(message.isEmpty() ? done : done + u"\r\r"_s + message, boxTitle, BoxIcon::Information);
 }
 
 } // namespace norvane::shell

@@ -25,10 +25,10 @@ int rowsAhead(int level)
 QString keysOf(int level, const KeyGeometry& keyboard)
 {
     QStringList parts;
-    const int behind = rowsAhead(level) + copiedKeys;
-    for (int row = rowsAhead(level); row < behind;) {
+    const int afterCopied = rowsAhead(level) + copiedKeys;
+    for (int row = rowsAhead(level); row < afterCopied;) {
         const int realLevel = row / keyboard.keysPerLevel + 1;
-        const int end = std::min(behind, keyboard.rowsAhead(realLevel + 1));
+        const int end = std::min(afterCopied, keyboard.rowsAhead(realLevel + 1));
         const int before = keyboard.rowsAhead(realLevel);
         parts += u"keys %1 to %2 of Level %3"_s.arg(row - before + 1).arg(end - before).arg(realLevel);
         row = end;

@@ -43,8 +43,8 @@ bool moveLine(LookUpLines& lines, int from, int to)
     if (!isLine(lines, from) || !isLine(lines, to))
         return false;
     const auto first = lines.begin() + std::min(from, to);
-    const auto behind = lines.begin() + std::max(from, to) + 1;
-    std::rotate(first, from < to ? first + 1 : behind - 1, behind);
+    const auto after = lines.begin() + std::max(from, to) + 1;
+    std::rotate(first, from < to ? first + 1 : after - 1, after);
     return true;
 }
 

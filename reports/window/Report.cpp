@@ -49,7 +49,7 @@ void Report::run(ReportRequest request, Destination destination)
     if (m_isRunning)
         return;
     const QScopedValueRollback running(m_isRunning, true);
-    const auto tell = [this](const QString& text) {
+    const auto showError = [this](const QString& text) {
         m_boxes.message(text, u"Report Error"_s, BoxIcon::Critical);
     };
     try {
@@ -58,9 +58,9 @@ void Report::run(ReportRequest request, Destination destination)
     } catch (const ReportCancelled&) {
         return;
     } catch (const ReportError& error) {
-        tell(error.text());
+        showError(error.text());
     } catch (const RuntimeFailure& failure) {
-        tell(failure.text());
+        showError(failure.text());
     }
 }
 

@@ -170,9 +170,9 @@ void addCell(Texts& texts, const QAbstractItemView& view, const QModelIndex& cel
     const QString text = cell.data().toString();
     if (!place.intersects(view.viewport()->rect()) || text.isEmpty() || !cell.data(Qt::ToolTipRole).isNull())
         return;
-    const QVariant told = cell.data(Qt::TextAlignmentRole);
-    const auto alignment =
-        told.isNull() ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment::fromInt(told.toUInt());
+    const QVariant ownAlignment = cell.data(Qt::TextAlignmentRole);
+    const auto alignment = ownAlignment.isNull() ? Qt::AlignLeft | Qt::AlignVCenter
+                                                 : Qt::Alignment::fromInt(ownAlignment.toUInt());
     const QSize need = fitsItself(view) ? QSize() : QSize(view.sizeHintForIndex(cell).width(), 0);
     add(texts, *view.viewport(), text, place, need, alignment);
     if (fitsItself(view))

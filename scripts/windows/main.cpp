@@ -135,7 +135,7 @@ public:
         for (const QString& fault : QStringList{tooLarge(window), withoutHelp(window)} +
                                         norvane::windows::unreadableTexts(window, picture) +
                                         norvane::windows::unspokenControls(window))
-            tell(name, fault);
+            print(name, fault);
     }
     /// @return the exit code.
     [[nodiscard]] int end() const
@@ -145,7 +145,7 @@ public:
     }
 
 private:
-    void tell(const QString& name, const QString& fault)
+    void print(const QString& name, const QString& fault)
     {
         if (fault.isEmpty())
             return;
