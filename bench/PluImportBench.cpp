@@ -2,9 +2,9 @@
 // split the lines, look each PLU up by a prepared select, store by a prepared update or insert, in one
 // transaction. The checks, the list of differences and all mistakes are ours alone; printing the list is not
 // measured.
+#include "articles/PluUpdate.h"
 #include "bench/Memory.h"
 #include "bench/Shop.h"
-#include "command/PluImport.h"
 
 #include <benchmark/benchmark.h>
 #include <QFile>
@@ -134,9 +134,9 @@ void bareImport(const QString& path, const QByteArray& file)
 void ourImport(const QString& path, const QByteArray& file)
 {
     store::Database database(path);
-    const command::PluComparison comparison(database, file);
+    const articles::PluComparison comparison(database, file);
     require(comparison.mistakes().isEmpty() && comparison.changeCount() == pluCount, "every line differs");
-    command::applyPluChanges(database, comparison);
+    articles::applyPluChanges(database, comparison);
 }
 
 void PluImport(benchmark::State& state)

@@ -1,8 +1,8 @@
 // PLUs out to a spreadsheet and back.
+#include "articles/PluExport.h"
+#include "articles/PluUpdate.h"
 #include "base/CustomerSettings.h"
 #include "command/CsvOption.h"
-#include "command/PluExport.h"
-#include "command/PluImport.h"
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
@@ -33,7 +33,7 @@ void exportTo(const Workplace& workplace, const ApplicationValues& values, const
         throw CommandError(ExitCode::Usage, u"Name a file that ends in .csv or .xlsx."_s);
     const reports::CsvSigns signs = signsToWrite(words);
     store::Database database(values.databasePath);
-    auto plus = exportedPlus(database);
+    auto plus = articles::exportedPlus(database);
     plus.heading.title = u"PLUs"_s;
     plus.heading.customer = customerOf(values, values.databasePath);
     plus.heading.printed = QDateTime::currentDateTime();
@@ -59,7 +59,7 @@ QByteArray contentOf(const QString& path)
 }
 
 /// @throws CommandError BadFile when there are any.
-void failWith(const PluMistakes& mistakes, const QString& path)
+void failWith(const articles::PluMistakes& mistakes, const QString& path)
 {
     if (mistakes.isEmpty())
         return;
@@ -73,6 +73,13 @@ void failWith(const PluMistakes& mistakes, const QString& path)
         u"%1 has mistakes: %2. Nothing was changed.%3"_s.arg(path).arg(mistakes.count()).arg(further));
 }
 
+/// @throws RuntimeFailure with Failure::UserInterrupt after a signal.
+bool untilSignalled()
+{
+    stopIfSignalled();
+    return true;
+}
+
 /// A file that is held against the PLUs of a customer.
 class FileOfPlus
 {
@@ -80,32 +87,34 @@ public:
     /// @throws CommandError BadFile
     FileOfPlus(const Workplace& workplace, const ApplicationValues& values, const Invocation& words)
         : m_workplace(workplace), m_path(workplace.userFile(words.operands[2])), m_content(contentOf(m_path)),
-          m_database(values.databasePath), m_comparison(m_database, m_content, separatorToRead(words))
+          m_database(values.databasePath),
+          m_comparison(m_database, m_content, separatorToRead(words), untilSignalled)
     {
     }
 
-    [[nodiscard]] const PluComparison& comparison() const { return m_comparison; }
+    [[nodiscard]] const articles::PluComparison& comparison() const { return m_comparison; }
     /// Lists what the file changes. @throws CommandError BadFile for one with mistakes.
     void show() const
     {
         failWith(m_comparison.mistakes(), m_path);
         m_workplace.show({u"Number"_s, u"Field"_s, u"Old"_s, u"New"_s}, [this](const auto& take) {
-            m_comparison.forEach([&take](const PluChange& change) { addRows(change, take); });
+            m_comparison.forEach([&take](const articles::PluChange& change) { addRows(change, take); });
         });
     }
-    void apply() { applyPluChanges(m_database, m_comparison); }
+    void apply() { articles::applyPluChanges(m_database, m_comparison, untilSignalled); }
 
 private:
-    static void addRows(const PluChange& change, const std::function<void(const QVariantList& row)>& take)
+    static void addRows(const articles::PluChange& change,
+                        const std::function<void(const QVariantList& row)>& take)
     {
         stopIfSignalled();
         const QString number =
-            store::shownKey(pluColumns().front().field, QString::fromStdString(change.number));
+            store::shownKey(articles::pluColumns().front().field, QString::fromStdString(change.number));
         if (change.isNew)
             take({number, u"new PLU"_s, {}, {}});
         for (const auto& [column, before, after] : change.fields) {
-            take({number, QString(column->heading), shownPluValue(*column, before),
-                  shownPluValue(*column, after)});
+            take({number, QString(column->heading), articles::shownPluValue(*column, before),
+                  articles::shownPluValue(*column, after)});
         }
     }
 
@@ -113,14 +122,14 @@ private:
     QString m_path;
     QByteArray m_content;
     store::Database m_database;
-    PluComparison m_comparison;
+    articles::PluComparison m_comparison;
 };
 
 /// @return what was done, for the log.
 QString importFrom(FileOfPlus& file, const Workplace& workplace, const ApplicationValues& values,
                    customers::LoggedWork& work)
 {
-    const PluComparison& comparison = file.comparison();
+    const articles::PluComparison& comparison = file.comparison();
     if (!comparison.mistakes().isEmpty())
         work.setResult(u"refused: the file has mistakes"_s);
     file.show();

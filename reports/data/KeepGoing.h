@@ -1,15 +1,11 @@
-// Lets the user cancel a long run.
+// Lets the user cancel a long report.
 #pragma once
 
+#include "platform/KeepGoing.h"
 #include "reports/data/ReportError.h"
-
-#include <functional>
 
 namespace norvane::reports
 {
-
-/// Asked now and then during a long run; it may handle events. @return false to cancel the run.
-using KeepGoing = std::function<bool()>;
 
 /// @throws ReportCancelled when @p keepGoing returns false.
 inline void needGoOn(const KeepGoing& keepGoing)

@@ -1,11 +1,11 @@
 // A select over the tables of a database with values bound to it, read row by row.
 #pragma once
 
+#include "platform/KeepGoing.h"
 #include "store/engine/Database.h"
 #include "store/engine/Value.h"
 
 #include <exception>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,11 +21,9 @@ class PreparedStatement;
 class BoundQuery
 {
 public:
-    /// Asked some twenty times a second while the engine works, between rows and within a long one; it may
-    /// handle events. @return false to give up.
-    using KeepGoing = std::function<bool()>;
-
     /// @param values in the order of the question marks. @param what names the query in failures.
+    /// @param keepGoing is asked some twenty times a second while the engine works, between rows and within a
+    /// long one.
     /// @throws RuntimeFailure with Failure::UnknownNameInQuery for a faulty statement or one that would
     /// change the file, Failure::NotOurDatabase when the file is damaged.
     BoundQuery(Database& database, const std::string& sql, std::vector<Value> values, const QString& what,

@@ -34,12 +34,11 @@ protected:
             EXPECT_TRUE(m_form->isVisible()) << "a report leaves the dialog open";
             QTest::keyClick(m_form, Qt::Key_Escape);
         });
-        showReport(
-            *entry, m_values, m_boxes, nullptr,
-            [this](const reports::ReportRequest& request, const reports::KeepGoing&) -> reports::ReportData {
-                m_requests.push_back(request);
-                throw reports::ReportError(u"no layout"_s);
-            });
+        showReport(*entry, m_values, m_boxes, nullptr,
+                   [this](const reports::ReportRequest& request, const KeepGoing&) -> reports::ReportData {
+                       m_requests.push_back(request);
+                       throw reports::ReportError(u"no layout"_s);
+                   });
     }
     template <typename Control>
     Control& control(const char* name)

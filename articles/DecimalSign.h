@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-namespace norvane::command
+namespace norvane::articles
 {
 
 /// The number of a cell, with a decimal point or comma; thousands are not separated.
@@ -28,4 +28,4 @@ private:
     bool m_isComma = false;
 };
 
-} // namespace norvane::command
+} // namespace norvane::articles

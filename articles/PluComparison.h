@@ -1,7 +1,8 @@
-// What a file of PLUs would change in a database, and changing it.
+// What a file of PLUs would change in a database.
 #pragma once
 
-#include "command/PluFile.h"
+#include "articles/PluFile.h"
+#include "platform/KeepGoing.h"
 #include "store/engine/Database.h"
 
 #include <QByteArray>
@@ -11,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace norvane::command
+namespace norvane::articles
 {
 
 /// A changed field of a PLU.
@@ -39,8 +40,10 @@ public:
     /// description empties it.
     /// @param content must outlive this object
     /// @param separator as for PluFile
-    /// @throws RuntimeFailure as the database reports, 18 after a signal.
-    PluComparison(store::Database& database, const QByteArray& content, std::optional<char> separator = {});
+    /// @throws RuntimeFailure as the database reports, and with Failure::UserInterrupt when @p keepGoing
+    /// returns false.
+    PluComparison(store::Database& database, const QByteArray& content, std::optional<char> separator = {},
+                  const KeepGoing& keepGoing = {});
 
     /// With one of them nothing may be stored.
     [[nodiscard]] const PluMistakes& mistakes() const { return m_mistakes; }
@@ -68,12 +71,7 @@ private:
     std::string m_former;
 };
 
-/// Stores all changes or none. New PLUs are filled as the PLU screen fills a new record.
-/// @throws RuntimeFailure with Failure::DuplicateKey, Failure::RecordDeleted if the PLUs are no longer those
-/// that were compared, 18 after a signal, and as the database reports.
-void applyPluChanges(store::Database& database, const PluComparison& comparison);
-
 /// A value of the column as the listing shows it: prices with two places and a point.
 [[nodiscard]] QString shownPluValue(const PluColumn& column, const std::string& value);
 
-} // namespace norvane::command
+} // namespace norvane::articles

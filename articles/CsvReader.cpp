@@ -1,9 +1,9 @@
 // See CsvReader.h.
-#include "command/CsvReader.h"
+#include "articles/CsvReader.h"
 
 #include <algorithm>
 
-namespace norvane::command
+namespace norvane::articles
 {
 
 bool CsvReader::next()
@@ -73,4 +73,4 @@ void CsvReader::passLineEnd()
     ++m_nextLine;
 }
 
-} // namespace norvane::command
+} // namespace norvane::articles

@@ -1,7 +1,7 @@
 // See PluExport.h.
-#include "command/PluExport.h"
+#include "articles/PluExport.h"
 
-#include "command/PluColumns.h"
+#include "articles/PluColumns.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/SearchableTexts.h"
 
@@ -9,7 +9,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace norvane::command
+namespace norvane::articles
 {
 namespace
 {
@@ -91,4 +91,4 @@ reports::ReportData exportedPlus(store::Database& database)
     return data;
 }
 
-} // namespace norvane::command
+} // namespace norvane::articles

@@ -1,6 +1,6 @@
-// Stores the changes of an import; see PluImport.h.
-#include "command/PluImport.h"
-#include "command/StopSignals.h"
+// See PluUpdate.h.
+#include "articles/PluUpdate.h"
+
 #include "platform/RuntimeFailure.h"
 #include "store/engine/AllOrNothing.h"
 #include "store/engine/Recordset.h"
@@ -9,7 +9,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace norvane::command
+namespace norvane::articles
 {
 namespace
 {
@@ -88,13 +88,13 @@ void storeKnown(store::Recordset& plus, const PluChange& change)
 
 } // namespace
 
-void applyPluChanges(store::Database& database, const PluComparison& comparison)
+void applyPluChanges(store::Database& database, const PluComparison& comparison, const KeepGoing& keepGoing)
 {
     store::allOrNothing(database, [&] {
         auto known = database.openQuery(columnsOfAll());
         Additions additions(database);
         comparison.forEach([&](const PluChange& change) {
-            stopIfSignalled();
+            stopUnless(keepGoing);
             if (change.isNew) {
                 additions.store(change);
             } else {
@@ -104,4 +104,4 @@ void applyPluChanges(store::Database& database, const PluComparison& comparison)
     });
 }
 
-} // namespace norvane::command
+} // namespace norvane::articles

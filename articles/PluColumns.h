@@ -12,7 +12,7 @@
 #include <span>
 #include <string>
 
-namespace norvane::command
+namespace norvane::articles
 {
 
 /// Kinds of values in the PLU spreadsheet.
@@ -50,4 +50,4 @@ inline constexpr int priceDecimals = 2;
 /// Nothing for a price or key that was never set.
 [[nodiscard]] std::optional<Decimal> exportedNumber(const store::Value& stored);
 
-} // namespace norvane::command
+} // namespace norvane::articles

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace norvane::command
+namespace norvane::articles
 {
 
 /// Why a file cannot be imported.
@@ -32,4 +32,4 @@ private:
     std::size_t m_count = 0;
 };
 
-} // namespace norvane::command
+} // namespace norvane::articles

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace norvane::command
+namespace norvane::articles
 {
 
 /// Record after record of a text, which must outlive it. A record ends with LF, CR LF or CR. A cell that
@@ -49,4 +49,4 @@ private:
     bool m_isUnclosed = false;
 };
 
-} // namespace norvane::command
+} // namespace norvane::articles

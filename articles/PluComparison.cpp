@@ -1,7 +1,6 @@
-// Compares a file with the table; see PluImport.h. PluApply.cpp stores.
-#include "command/PluImport.h"
+// See PluComparison.h.
+#include "articles/PluComparison.h"
 
-#include "command/StopSignals.h"
 #include "platform/Excerpt.h"
 #include "platform/TextFields.h"
 #include "platform/Windows1252.h"
@@ -14,7 +13,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace norvane::command
+namespace norvane::articles
 {
 namespace
 {
@@ -106,8 +105,9 @@ std::string takeText(const char*& texts)
 class PluComparer
 {
 public:
-    PluComparer(store::Database& database, PluComparison& result)
-        : m_database(database), m_file(result.m_file), m_result(result), m_keys(database)
+    PluComparer(store::Database& database, PluComparison& result, const KeepGoing& keepGoing)
+        : m_database(database), m_file(result.m_file), m_result(result), m_keepGoing(keepGoing),
+          m_keys(database)
     {
     }
 
@@ -130,7 +130,7 @@ private:
             places.push_back(plus.fieldOrdinal(column->field));
         std::uint32_t position = 0;
         for (plus.readOnly(places); !plus.atEnd(); plus.moveNext(), ++position) {
-            stopIfSignalled();
+            stopUnless(m_keepGoing);
             const auto key = pluNumberOf(plus.value(number).textView());
             if (const auto line = key ? m_file.take(*key) : std::nullopt)
                 compare(*line, plus, places, position);
@@ -160,7 +160,7 @@ private:
         for (std::uint32_t line = 0; line < m_file.lines().size(); ++line) {
             if (m_file.lines()[line].isTaken)
                 continue;
-            stopIfSignalled();
+            stopUnless(m_keepGoing);
             m_change = {line, 0, 0, true};
             m_former.assign(1, '\0');
             m_cells = m_file.cells(line);
@@ -253,6 +253,7 @@ private:
     store::Database& m_database;
     PluFile& m_file;
     PluComparison& m_result;
+    const KeepGoing& m_keepGoing;
     KnownKeys m_keys;
     PluComparison::Change m_change{}; ///< of the line that is compared
     std::string m_former;
@@ -260,10 +261,10 @@ private:
 };
 
 PluComparison::PluComparison(store::Database& database, const QByteArray& content,
-                             std::optional<char> separator)
+                             std::optional<char> separator, const KeepGoing& keepGoing)
     : m_file(content, separator)
 {
-    PluComparer(database, *this).run();
+    PluComparer(database, *this, keepGoing).run();
 }
 
 void PluComparison::forEach(const std::function<void(const PluChange& change)>& take) const
@@ -296,4 +297,4 @@ QString shownPluValue(const PluColumn& column, const std::string& value)
     return QString::fromStdString(number->text(priceDecimals));
 }
 
-} // namespace norvane::command
+} // namespace norvane::articles

@@ -1,10 +1,10 @@
 // See DecimalSign.h.
-#include "command/DecimalSign.h"
+#include "articles/DecimalSign.h"
 
 #include <algorithm>
 #include <string>
 
-namespace norvane::command
+namespace norvane::articles
 {
 namespace
 {
@@ -53,4 +53,4 @@ bool DecimalSign::leavesOpen(std::string_view number) const
     return sign == '.' ? !m_isPoint || m_isComma : !m_isComma || m_isPoint;
 }
 
-} // namespace norvane::command
+} // namespace norvane::articles

@@ -1,5 +1,5 @@
 // The table of the columns; see PluColumns.h.
-#include "command/PluColumns.h"
+#include "articles/PluColumns.h"
 
 #include "reports/data/PrintableText.h"
 
@@ -7,7 +7,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace norvane::command
+namespace norvane::articles
 {
 
 std::span<const PluColumn> pluColumns()
@@ -65,4 +65,4 @@ std::optional<Decimal> exportedNumber(const store::Value& stored)
     return stored.toDecimal();
 }
 
-} // namespace norvane::command
+} // namespace norvane::articles

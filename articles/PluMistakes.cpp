@@ -1,9 +1,9 @@
 // See PluMistakes.h.
-#include "command/PluMistakes.h"
+#include "articles/PluMistakes.h"
 
 #include <algorithm>
 
-namespace norvane::command
+namespace norvane::articles
 {
 
 void PluMistakes::add(PluMistake mistake)
@@ -23,4 +23,4 @@ std::vector<PluMistake> PluMistakes::first() const
     return mistakes;
 }
 
-} // namespace norvane::command
+} // namespace norvane::articles

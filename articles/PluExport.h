@@ -4,10 +4,10 @@
 #include "reports/data/ReportData.h"
 #include "store/engine/Database.h"
 
-namespace norvane::command
+namespace norvane::articles
 {
 
 /// In the order of their numbers, without title and date. @throws RuntimeFailure as the database reports.
 [[nodiscard]] reports::ReportData exportedPlus(store::Database& database);
 
-} // namespace norvane::command
+} // namespace norvane::articles

@@ -1,10 +1,10 @@
 // The lines of a file of PLUs as they were typed.
 #pragma once
 
-#include "command/CsvReader.h"
-#include "command/DecimalSign.h"
-#include "command/PluColumns.h"
-#include "command/PluMistakes.h"
+#include "articles/CsvReader.h"
+#include "articles/DecimalSign.h"
+#include "articles/PluColumns.h"
+#include "articles/PluMistakes.h"
 
 #include <QByteArray>
 
@@ -13,7 +13,7 @@
 #include <span>
 #include <vector>
 
-namespace norvane::command
+namespace norvane::articles
 {
 
 /// A line of the file.
@@ -71,4 +71,4 @@ private:
 /// digits.
 [[nodiscard]] std::optional<std::uint64_t> pluNumberOf(std::string_view text);
 
-} // namespace norvane::command
+} // namespace norvane::articles

@@ -1,5 +1,5 @@
 // See PluFile.h.
-#include "command/PluFile.h"
+#include "articles/PluFile.h"
 
 #include "platform/Excerpt.h"
 #include "platform/TextFields.h"
@@ -11,7 +11,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace norvane::command
+namespace norvane::articles
 {
 namespace
 {
@@ -214,4 +214,4 @@ void PluFile::add(qint64 line, const QString& column, const QString& reason)
     m_mistakes.add({line, column, reason});
 }
 
-} // namespace norvane::command
+} // namespace norvane::articles
