@@ -5,7 +5,6 @@
 #include "base/LossQuestion.h"
 #include "customers/DataOwner.h"
 #include "customers/SafetyCopies.h"
-#include "exchange/MemoryFile.h"
 #include "exchange/MoveDataFile.h"
 #include "exchange/MovedFiles.h"
 #include "exchange/PluPoints.h"
@@ -14,6 +13,7 @@
 #include "link/RunNotes.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
+#include "records/MemoryFile.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 
@@ -156,7 +156,7 @@ bool ExchangeRunner::upload()
         return false;
     }
     keepForCustomer(memoryFile);
-    return FileMemory(m_procedures) && moveBoxes(uploadPlan(), &ExchangeRunner::uploadRow);
+    return records::FileMemory(m_procedures) && moveBoxes(uploadPlan(), &ExchangeRunner::uploadRow);
 }
 
 bool ExchangeRunner::download()

@@ -1,12 +1,12 @@
 // The procedures that use the records: a whole text file replaces a table, and the table is written to a
 // file. Input: number of the file, 52 for the memory allocation; kind of register, bit 7 for an older memory
 // file; then the text.
-#include "exchange/MemoryFile.h"
 #include "fuzz/CustomerFile.h"
 #include "fuzz/FileChoice.h"
 #include "fuzz/Target.h"
 #include "platform/FilePaths.h"
 #include "records/FileProcedures.h"
+#include "records/MemoryFile.h"
 #include "records/RegisterFiles.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -46,7 +46,7 @@ void tryMemory(std::string_view text)
     SilentBoxes boxes;
     const ApplicationValues& values = customerWith(u"memoryallocation"_s);
     scratchFile(u"52.txt"_s, text);
-    imports([&] { exchange::FileMemory({values, boxes, converted}); });
+    imports([&] { records::FileMemory({values, boxes, converted}); });
 }
 
 /// The text file of one register file, and the two procedures that read and write it.

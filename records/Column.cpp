@@ -46,6 +46,11 @@ NumberColumn NumberColumn::cutTo(std::size_t characters) const
     return with(*this, &NumberColumn::cut, characters);
 }
 
+NumberColumn NumberColumn::ofNewerFirmware() const
+{
+    return with(*this, &NumberColumn::newerOnly, true);
+}
+
 CodeColumn NumberColumn::withCodeWords(std::vector<CodeWord> words) const
 {
     return {width, field, std::move(words)};

@@ -57,6 +57,7 @@ struct NumberColumn {
     std::size_t cut = std::string::npos; ///< characters that are read
     bool rereads = false;
     bool written = true;
+    bool newerOnly = false;
     std::string usual{};   ///< is sent as the text below; empty for none
     std::string instead{}; ///< what is sent for the usual text
     std::string tail{};    ///< sent after the number
@@ -82,6 +83,8 @@ struct NumberColumn {
     [[nodiscard]] NumberColumn rereading() const;
     /// A column that is read but not written.
     [[nodiscard]] NumberColumn onlyRead() const;
+    /// At the end of a line, read only from newer firmware.
+    [[nodiscard]] NumberColumn ofNewerFirmware() const;
 };
 
 /// Text, filled with blanks on the right.

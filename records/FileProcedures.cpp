@@ -4,19 +4,16 @@
 #include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
 #include "base/SharedRoutines.h"
-#include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/TextValues.h"
 #include "records/ImportTransaction.h"
-#include "records/RecordReader.h"
 #include "records/RecordWriter.h"
-#include "records/RegisterFiles.h"
+#include "records/TextImport.h"
 #include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 
 #include <QFile>
-#include <QScopeGuard>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,11 +27,6 @@ constexpr std::size_t writeBlock = std::size_t{64} * 1024;
 
 /// A smaller table may well lose half of its records, and is soon typed again.
 constexpr qint64 fewestWorthAsking = 20;
-
-QString textName(const RegisterFile& file)
-{
-    return u"%1.txt"_s.arg(file.number);
-}
 
 QString importLine(const RegisterFile& file, const ApplicationValues& values)
 {
@@ -51,72 +43,6 @@ QString exportLine(const RegisterFile& file, const ApplicationValues& values)
     return u"convert w%1 f%2.txt t%2.dat %3"_s.arg(model, QString::number(file.number),
                                                    QLatin1String(operation));
 }
-
-RegisterTraits traitsOf(const ProcedureContext& context)
-{
-    return {[&context] { return static_cast<std::size_t>(messageWidth(context.values)); },
-            [&context] {
-                return GetFirmwareGeneration(context.values, context.boxes);
-            }};
-}
-
-/// Stores the lines of a text file one by one.
-class Import
-{
-public:
-    Import(const RegisterFile& file, store::Recordset& records)
-        : m_file(file), m_records(records), m_reader(file.layout(), records)
-    {
-    }
-
-    void storeAll(std::string_view text)
-    {
-        Lines lines(text);
-        for (; !lines.atEnd(); ++m_stored)
-            storeLine(lines.next(), m_stored + 1);
-    }
-    /// Lines that are in the table.
-    [[nodiscard]] qint64 stored() const { return m_stored; }
-
-private:
-    void storeLine(std::string_view line, qint64 number)
-    {
-        const auto store =
-            m_file.upload == Upload::ReplacesTable ? &Import::addRecord : &Import::updateRecord;
-        atPlace([&](const QString& text) { return u"%1: %2"_s.arg(placeOf(number), text); },
-                [&] { (this->*store)(line, number); });
-    }
-
-    /// Where a failure happened, for the user. A record that could not be stored names no column.
-    [[nodiscard]] QString placeOf(qint64 line) const
-    {
-        const QString place = u"%1, line %2"_s.arg(textName(m_file)).arg(line);
-        const int column = m_reader.column();
-        return column == 0 ? place : u"%1, column %2"_s.arg(place).arg(column);
-    }
-
-    void addRecord(std::string_view line, qint64 number)
-    {
-        m_records.addNew();
-        m_reader.read(line, number);
-        m_records.update();
-    }
-
-    void updateRecord(std::string_view line, qint64 number)
-    {
-        auto rest = line;
-        if (!m_records.seek(store::Seek::Equal, store::Value::text(plainFromRegister(takeField(rest)))))
-            return;
-        m_records.edit();
-        m_reader.read(line, number);
-        m_records.update();
-    }
-
-    const RegisterFile& m_file;
-    store::Recordset& m_records;
-    RecordReader m_reader;
-    qint64 m_stored = 0;
-};
 
 /// The text file of a download; opening empties it.
 class TextOutput
@@ -190,25 +116,6 @@ bool isEmpty(const RegisterFile& file, const QString& databasePath)
     return database.openTable(QLatin1String(file.table)).recordCount() == 0;
 }
 
-/// Records of a table that is replaced.
-struct ImportCounts {
-    qint64 former = 0;
-    qint64 read = 0;
-};
-
-void importText(const RegisterFile& file, store::Database& database, ImportCounts& counts)
-{
-    store::Recordset records = database.openTable(QLatin1String(file.table));
-    records.setIndex(QLatin1String(file.index));
-    // The table is emptied before the text file is opened, so it stays empty if that file is missing.
-    if (file.upload == Upload::ReplacesTable)
-        counts.former = database.execute(u"delete * from %1"_s.arg(QLatin1String(file.table)));
-    const QByteArray content = readWholeFile(textName(file));
-    Import import(file, records);
-    const auto count = qScopeGuard([&] { counts.read = import.stored(); });
-    import.storeAll(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
-}
-
 /// What a text holds, before it is read.
 struct TextExtent {
     qint64 lines = 0;
@@ -253,15 +160,6 @@ bool mayReplace(const RegisterFile& file, store::Database& database, Boxes& boxe
                          "accept-fewer"_L1);
 }
 
-QString keepQuestion(const RegisterFile& file, const ImportCounts& counts)
-{
-    if (file.upload == Upload::ReplacesTable)
-        return keepRecordsQuestion(textName(file), counts.read, counts.former);
-    return u"%1 was read only in part. Keep what was read, %2 lines?\rNo puts the table back as it was."_s
-        .arg(textName(file))
-        .arg(counts.read);
-}
-
 const RegisterFile& knownFile(int number)
 {
     const RegisterFile* file = registerFile(number);
@@ -299,7 +197,7 @@ Imported importRegisterFile(int number, const ProcedureContext& context)
     };
     importOrPutBack(
         transaction, context.boxes, [&] { return keepQuestion(file, counts); },
-        [&] { importText(file, database, counts); }, commit);
+        [&] { importText(file, database, traitsOf(context), counts); }, commit);
     commit();
     return Imported::File;
 }

@@ -51,6 +51,7 @@ namespace norvane::records
 // ServiceLayouts.cpp
 [[nodiscard]] const RecordLayout& taxRateLayout();
 [[nodiscard]] const RecordLayout& serviceModeLayout();
+[[nodiscard]] const RecordLayout& memoryAllocationLayout();
 
 // KeyLayouts.cpp
 [[nodiscard]] const RecordLayout& functionKeyLayout();

@@ -100,8 +100,9 @@ Value choiceValue(const DigitPart& part, int number)
 
 } // namespace
 
-RecordReader::RecordReader(const RecordLayout& layout, store::Recordset& records)
-    : m_layout(layout), m_records(records), m_numbersLines(!layout.lineNumberField.empty())
+RecordReader::RecordReader(const RecordLayout& layout, store::Recordset& records, RegisterTraits traits)
+    : m_layout(layout), m_records(records), m_traits(std::move(traits)),
+      m_numbersLines(!layout.lineNumberField.empty())
 {
     if (m_numbersLines)
         m_lineNumberField = targetOf(layout.lineNumberField);
@@ -121,11 +122,12 @@ RecordReader::Target RecordReader::targetOf(const std::string& field) const
 
 RecordReader::Step RecordReader::stepOf(const Column& column) const
 {
-    Step step{&column, false, {}, {}, {}};
+    Step step{&column, false, false, {}, {}, {}};
     const auto look = [&]<typename Form>(const Form& form) {
         if constexpr (std::is_same_v<Form, NumberColumn>) {
             step.target = targetOf(form.readField);
             step.rereads = form.rereads;
+            step.newerOnly = form.newerOnly;
         } else if constexpr (std::is_same_v<Form, OptionsColumn>) {
             addDigits(step, form);
         } else if constexpr (!std::is_same_v<Form, SpareColumn>) {
@@ -158,6 +160,8 @@ void RecordReader::read(std::string_view line, std::int64_t lineNumber)
         set(m_lineNumberField, Value::whole(lineNumber));
     std::string_view text;
     for (const Step& step : m_sets[m_layout.setOf(lineNumber)]) {
+        if (step.newerOnly && m_traits.firmwareGeneration() != newerGeneration)
+            break;
         if (!step.rereads) {
             ++m_column;
             text = takeField(line);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "records/RecordLayout.h"
+#include "records/RegisterTraits.h"
 #include "store/engine/Recordset.h"
 
 #include <cstdint>
@@ -18,7 +19,7 @@ class RecordReader
 {
 public:
     /// @throws RuntimeFailure with Failure::UnknownName if the table lacks a field of the layout.
-    RecordReader(const RecordLayout& layout, store::Recordset& records);
+    RecordReader(const RecordLayout& layout, store::Recordset& records, RegisterTraits traits);
 
     /// Stores all columns of @p line (bytes of the register, no line end) in the layout's order; of two
     /// columns for one field the later counts. A missing column of a number stores 0, of option digits clears
@@ -45,6 +46,7 @@ private:
     struct Step {
         const Column* column;
         bool rereads = false; ///< takes the text of the column before
+        bool newerOnly = false;
         Target target;
         Target kind; ///< field with the kind of number in the column
         std::vector<Digit> digits;
@@ -70,6 +72,7 @@ private:
 
     const RecordLayout& m_layout;
     store::Recordset& m_records;
+    RegisterTraits m_traits;
     bool m_numbersLines = false;
     Target m_lineNumberField;
     std::int64_t m_line = 0;

@@ -25,8 +25,6 @@ using store::Value;
 constexpr int largestCode = 255;
 constexpr std::size_t symbolWidth = 3;
 constexpr std::size_t pieceWidth = 2;
-/// Firmware that does not get some texts.
-constexpr int withholdingGeneration = 3;
 
 /// A field's value as text, without a copy where the value is a text. Lives as long as the value.
 class ValueText
@@ -140,7 +138,7 @@ RecordWriter::RecordWriter(const RecordLayout& layout, const store::Recordset& r
     const auto& usual = layout.sets.front().columns;
     m_hasMessages = std::any_of(usual.begin(), usual.end(), isMessage);
     m_withholdsTexts = std::any_of(usual.begin(), usual.end(), hasWithheldTexts) &&
-                       m_traits.firmwareGeneration() == withholdingGeneration;
+                       m_traits.firmwareGeneration() == newerGeneration;
 }
 
 int RecordWriter::ordinalOf(const std::string& field)

@@ -2,23 +2,17 @@
 #pragma once
 
 #include "records/RecordLayout.h"
+#include "records/RegisterTraits.h"
 #include "store/engine/Recordset.h"
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace norvane::records
 {
-
-/// What a layout may have to know of the customer's register.
-struct RegisterTraits {
-    std::function<std::size_t()> messageWidth; ///< characters of a message line, asked for each record
-    std::function<int()> firmwareGeneration;   ///< asked once, before the first record
-};
 
 /// Makes lines from the current record of a recordset. Fields are looked up once; the layout and the
 /// recordset must outlive the writer.

@@ -28,7 +28,7 @@ struct RegisterFile {
     const char* table;
     const char* importer;        ///< name of the procedure that reads the text into the table
     const char* exporter;        ///< name of the procedure that writes it, nullptr for none
-    const char* index;           ///< order in which records are written and keys are sought
+    const char* index;           ///< order in which records are written and keys are sought, nullptr for none
     const char* importOperation; ///< what the converter is asked for, binary to text
     const char* exportOperation; ///< text to binary
     EmptyTable emptyTable;

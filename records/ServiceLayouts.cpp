@@ -50,6 +50,50 @@ const RecordLayout& serviceModeLayout()
     return layout;
 }
 
+/// File 52, which is only read.
+const RecordLayout& memoryAllocationLayout()
+{
+    static const RecordLayout layout{"", {
+        number(2, "reporttotals").asItStands(),
+        number(2, "REPORTCOUNTERS").asItStands(),
+        number(5, "PLU"),
+        number(4, "PLUSTATUS"),
+        number(2, "PRICELEVELS"),
+        number(4, "EMPLOYEES"),
+        number(2, "TIME/EMPLOYEE"),
+        number(4, "LINES/SOFTCHECK").asItStands(),
+        number(4, "TRACKINGFILES").asItStands(),
+        numbered(4, {number(4, "TRACK*")}),
+        number(2, "TIMEPERIOD"),
+        number(4, "PRODUCTMIXGROUP").asItStands(),
+        number(2, "PRODUCTMIXTIME").asItStands(),
+        number(4, "WLU"),
+        number(2, "LINES/PLU"),
+        number(4, "RECIPE"),
+        number(4, "INVENTORYINGREDIENT"),
+        number(5, "LINE/EJ"),
+        number(4, "PAIDRECALL").asItStands(),
+        number(4, "SUPER").asItStands(),
+        number(4, "LINES/TRANSACTIONS"),
+        options({{4, "PLUBYLEVEL"}, {2, "GROUPBYEMPLOYEE"}, {1, "CHECKTRACKSOFT"}}, {{4, "PROJECTIONS"}, {2, "STOREBITMAP"}, {1, "EATINTIMEPERIOD"}}),
+        options({{4, "TAKEOUTTIMEPERIOD"}, {2, "DRIVETHRUTIMEPERIOD"}, {1, "TRACK1TIME"}}, {{4, "TRACK2TIME"}, {2, "TRACK3TIME"}, {1, "TRACK4TIME"}}),
+        options({{4, "Z1GROUPTIME"}, {2, "Z2GROUPTIME"}, {1, "Z3GROUPTIME"}}, {{4, "Z4GROUPTIME"}, {2, "Z5GROUPTIME"}}),
+        options({{4, "Z1FINANCIAL"}, {2, "Z2FINANCIAL"}, {1, "Z3FINANCIAL"}}, {{4, "Z4FINANCIAL"}, {2, "Z5FINANCIAL"}}),
+        options({{4, "Z1EMPLOYEE"}, {2, "Z2EMPLOYEE"}, {1, "Z3EMPLOYEE"}}, {{4, "Z4EMPLOYEE"}, {2, "Z5EMPLOYEE"}}),
+        options({{4, "Z1PLU"}, {2, "Z2PLU"}, {1, "Z3PLU"}}, {{4, "Z4PLU"}, {2, "Z5PLU"}}),
+        spare(2),
+        options({{4, "Z1GROUP"}, {2, "Z2GROUP"}, {1, "Z3GROUP"}}, {{4, "Z4GROUP"}, {2, "Z5GROUP"}}),
+        options({{4, "Z1TIME"}, {2, "Z2TIME"}, {1, "Z3TIME"}}, {{4, "Z4TIME"}, {2, "Z5TIME"}}),
+        options({{4, "Z1TIMEKEEP"}, {2, "Z2TIMEKEEP"}, {1, "Z3TIMEKEEP"}}, {{4, "Z4TIMEKEEP"}, {2, "Z5TIMEKEEP"}}),
+        number(4, "MIX").asItStands(),
+        options({{4, "CLERKINTERRUPT"}}),
+        options({{4, "Z1MIX"}, {2, "Z2MIX"}, {1, "Z3MIX"}}, {{4, "Z4MIX"}, {2, "Z5MIX"}}),
+        number(4, "CATEGORY").ofNewerFirmware(),
+        number(4, "HOTLIST").asItStands().ofNewerFirmware(),
+    }};
+    return layout;
+}
+
 // clang-format on
 
 } // namespace norvane::records

@@ -1,9 +1,9 @@
 // The memory allocation row after a conversion that left a given text.
-#include "exchange/MemoryFile.h"
+#include "records/MemoryFile.h"
 
 #include "tests/records/Shop.h"
 
-namespace norvane::exchange
+namespace norvane::records
 {
 namespace
 {
@@ -79,4 +79,4 @@ TEST_F(MemoryFileTest, ReplacesTheRowWhateverTheLinesAre)
 }
 
 } // namespace
-} // namespace norvane::exchange
+} // namespace norvane::records
