@@ -6,7 +6,7 @@
 #include "customers/CustomerFolders.h"
 #include "customers/CustomerLog.h"
 #include "customers/SafetyCopies.h"
-#include "customers/SetupModel.h"
+#include "customers/SetupSettings.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/Catalogue.h"

@@ -5,6 +5,7 @@
 #include "overlay/OverlayPreview.h"
 #include "overlay/SheetPainter.h"
 #include "paper/DefaultPrinter.h"
+#include "paper/PrinterSheet.h"
 #include "platform/Boxes.h"
 #include "platform/Excerpt.h"
 #include "platform/RuntimeFailure.h"

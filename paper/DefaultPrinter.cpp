@@ -8,43 +8,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::paper
 {
-namespace
-{
-
-Margins inMillimetres(const QMarginsF& margins)
-{
-    return {millimetres(margins.left()), millimetres(margins.top()), millimetres(margins.right()),
-            millimetres(margins.bottom())};
-}
-
-/// Outside Windows the margins of upright paper are reported for both orientations. A landscape sheet is
-/// printed turned to the left: its upper edge is the paper's left one.
-Margins turned([[maybe_unused]] const Margins& upright)
-{
-#ifdef Q_OS_WIN
-    return upright;
-#else
-    return {upright.bottom, upright.left, upright.top, upright.right};
-#endif
-}
-
-} // namespace
 
 std::unique_ptr<QPrinter> defaultPrinter()
 {
     const QPrinterInfo printer = QPrinterInfo::defaultPrinter();
     return printer.isNull() ? nullptr : std::make_unique<QPrinter>(printer, QPrinter::HighResolution);
-}
-
-Sheet sheetOf(const QPrinter& printer)
-{
-    QPageLayout layout = printer.pageLayout();
-    layout.setUnits(QPageLayout::Millimeter);
-    const Margins margins = inMillimetres(layout.minimumMargins());
-    if (margins == Margins())
-        return {layout.orientation(), usualMargins};
-    const bool isTurned = layout.orientation() == QPageLayout::Landscape;
-    return {layout.orientation(), isTurned ? turned(margins) : margins};
 }
 
 /// Outside Windows the quality is an option of the print server's job, a name and a value, which the widget

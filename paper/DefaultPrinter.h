@@ -1,7 +1,5 @@
-// The system's default printer.
+// The system's default printer, and what its jobs need of it.
 #pragma once
-
-#include "paper/Sheet.h"
 
 #include <QPrinter>
 
@@ -12,10 +10,6 @@ namespace norvane::paper
 
 /// @return the system's default printer at its full resolution; null if the system has none.
 [[nodiscard]] std::unique_ptr<QPrinter> defaultPrinter();
-
-/// The A4 sheet of @p printer as set up: its orientation, and the margins that it cannot print in. A printer
-/// that reports no margins gets the usual ones.
-[[nodiscard]] Sheet sheetOf(const QPrinter& printer);
 
 /// Asks for the printer's high quality in each job that @p printer begins from now on.
 void askForHighQuality(QPrinter& printer);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
-#include "customers/SetupModel.h"
+#include "customers/SetupSettings.h"
 #include "shell/StatusForm.h"
 
 class QGroupBox;

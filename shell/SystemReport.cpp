@@ -2,7 +2,7 @@
 #include "shell/SystemReport.h"
 
 #include "customers/CustomerLog.h"
-#include "customers/SetupModel.h"
+#include "customers/SetupSettings.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "store/engine/Database.h"

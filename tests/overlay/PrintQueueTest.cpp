@@ -1,6 +1,7 @@
 // A sheet on the queue of a printer that reports its margins.
 #include "overlay/SheetActions.h"
 #include "paper/DefaultPrinter.h"
+#include "paper/PrinterSheet.h"
 #include "tests/overlay/RecordingDialogs.h"
 #include "tests/support/PrintServer.h"
 #include "tests/support/RecordingBoxes.h"

@@ -1,5 +1,5 @@
-// Table of the settings and their values in setup.ini; see SetupModel.h.
-#include "customers/SetupModel.h"
+// Table of the settings and their values in setup.ini; see SetupSettings.h.
+#include "customers/SetupSettings.h"
 
 #include "base/CustomerSettings.h"
 #include "platform/FailurePlace.h"
