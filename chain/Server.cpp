@@ -93,7 +93,7 @@ void Server::connect(const QString& connection)
     setUnlessSet("PGCONNECT_TIMEOUT", "10");
     setUnlessSet("PGAPPNAME", "norvane-shop");
     try {
-        m_connection = std::make_unique<pqxx::connection>(connection.toStdString());
+        m_connection = std::make_unique<Connection>(connection.toStdString());
         m_connection->set_client_encoding("UTF8");
         m_connection->set_variable("search_path", std::string(schemaName) + ", pg_temp");
         m_connection->set_variable("client_min_messages", "warning");

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "chain/ChainError.h"
+#include "chain/Connection.h"
 
 #include <functional>
 #include <memory>
-#include <pqxx/pqxx>
 
 namespace norvane::chain
 {
@@ -39,7 +39,7 @@ private:
 
     QString m_where;
     QString m_password; ///< not to be shown
-    std::unique_ptr<pqxx::connection> m_connection;
+    std::unique_ptr<Connection> m_connection;
 };
 
 } // namespace norvane::chain
