@@ -1,9 +1,7 @@
 // Why sales could not be published.
 #pragma once
 
-#include <QString>
-
-#include <stdexcept>
+#include "platform/TextError.h"
 
 namespace norvane::chain
 {
@@ -23,19 +21,14 @@ enum class ChainFailure {
 };
 
 /// Nothing of the step that met it is stored. The text is one sentence, and no password is in it.
-class ChainError : public std::runtime_error
+class ChainError : public TextError
 {
 public:
-    ChainError(ChainFailure failure, const QString& text)
-        : std::runtime_error(text.toStdString()), m_failure(failure), m_text(text)
-    {
-    }
+    ChainError(ChainFailure failure, const QString& text) : TextError(text), m_failure(failure) {}
     [[nodiscard]] ChainFailure failure() const { return m_failure; }
-    [[nodiscard]] const QString& text() const { return m_text; }
 
 private:
     ChainFailure m_failure;
-    QString m_text;
 };
 
 } // namespace norvane::chain

@@ -23,8 +23,8 @@ public:
 
     /// Every row that follows begins with these values: the shop, or shop and day.
     void setLeading(const std::string& values) { m_leading = values; }
-    /// @param rest of a row in the format that COPY reads, without line end, as readDay() and readNames() pass
-    /// it on.
+    /// @param rest of a row in the format that COPY reads, without line end, as readDay() and readNames()
+    /// pass it on.
     /// @throws pqxx::broken_connection
     void add(const std::string& rest);
     /// Sends what is left. @throws pqxx::sql_error if the server refuses the rows, pqxx::broken_connection

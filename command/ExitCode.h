@@ -1,11 +1,11 @@
 // How a command ended, for scripts.
 #pragma once
 
+#include "platform/TextError.h"
+
 #include <QLatin1StringView>
-#include <QString>
 
 #include <span>
-#include <stdexcept>
 
 namespace norvane
 {
@@ -50,19 +50,14 @@ struct ExitMeaning {
 [[nodiscard]] ExitCode codeOf(const RuntimeFailure& failure);
 
 /// Ends a command. The text, which may be empty if a message was already shown, goes to standard error.
-class CommandError : public std::runtime_error
+class CommandError : public TextError
 {
 public:
-    CommandError(ExitCode code, const QString& text)
-        : std::runtime_error(text.toStdString()), m_code(code), m_text(text)
-    {
-    }
+    CommandError(ExitCode code, const QString& text) : TextError(text), m_code(code) {}
     [[nodiscard]] ExitCode code() const { return m_code; }
-    [[nodiscard]] const QString& text() const { return m_text; }
 
 private:
     ExitCode m_code;
-    QString m_text;
 };
 
 } // namespace norvane::command

@@ -2,9 +2,7 @@
 // outermost handler shows it and ends the program.
 #pragma once
 
-#include <QString>
-
-#include <stdexcept>
+#include "platform/TextError.h"
 
 namespace norvane
 {
@@ -38,21 +36,16 @@ enum class Failure {
 };
 
 /// A failure that ends the program unless a caller is made to deal with it.
-class RuntimeFailure : public std::runtime_error
+class RuntimeFailure : public TextError
 {
 public:
-    RuntimeFailure(Failure number, const QString& text)
-        : std::runtime_error(text.toStdString()), m_number(number), m_text(text)
-    {
-    }
+    /// @param text what happened, in words for the user, naming the file, table or field concerned.
+    RuntimeFailure(Failure number, const QString& text) : TextError(text), m_number(number) {}
     [[nodiscard]] Failure failure() const { return m_number; }
     [[nodiscard]] int number() const { return static_cast<int>(m_number); }
-    /// What happened, in words for the user, naming the file, table or field concerned.
-    [[nodiscard]] const QString& text() const { return m_text; }
 
 private:
     Failure m_number;
-    QString m_text;
 };
 
 } // namespace norvane

@@ -1,24 +1,18 @@
 // Why a report was not made, printed or saved.
 #pragma once
 
-#include <QString>
-
-#include <stdexcept>
+#include "platform/TextError.h"
 
 namespace norvane::reports
 {
 
 /// Thrown when a report cannot be made, printed or saved. The text is shown in a box "Report Error", and the
 /// program continues.
-class ReportError : public std::runtime_error
+class ReportError : public TextError
 {
 public:
-    /// @param text names the file and the reason.
-    explicit ReportError(const QString& text) : std::runtime_error(text.toStdString()), m_text(text) {}
-    [[nodiscard]] const QString& text() const { return m_text; }
-
-private:
-    QString m_text;
+    /// The text names the file and the reason.
+    using TextError::TextError;
 };
 
 /// The user cancelled the run. No box is shown.

@@ -38,8 +38,8 @@ QString shown(const FormulaToken& token)
 
 } // namespace
 
-FormulaError::FormulaError(qsizetype column, const QString& text)
-    : std::runtime_error(text.toStdString()), m_text(u"column %1: %2"_s.arg(column).arg(text))
+FormulaError::FormulaError(qsizetype column, const QString& mistake)
+    : TextError(u"column %1: %2"_s.arg(column).arg(mistake))
 {
 }
 

@@ -1,25 +1,20 @@
 // Cuts selection formulas and the expressions of layouts into tokens.
 #pragma once
 
+#include "platform/TextError.h"
 #include "reports/formula/FieldName.h"
 
 #include <QString>
-
-#include <stdexcept>
 
 namespace norvane::reports
 {
 
 /// A mistake in a formula. Columns count from 1.
-class FormulaError : public std::runtime_error
+class FormulaError : public TextError
 {
 public:
-    FormulaError(qsizetype column, const QString& text);
-    /// Place and mistake: "column 12: ...".
-    [[nodiscard]] const QString& text() const { return m_text; }
-
-private:
-    QString m_text;
+    /// The text becomes "column 12: ...".
+    FormulaError(qsizetype column, const QString& mistake);
 };
 
 /// Kinds of tokens.
