@@ -6,6 +6,9 @@
 namespace norvane
 {
 
+/// The file of a customer's database, in the customer's folder.
+inline constexpr QLatin1StringView databaseFileName{"velmar.mdb"};
+
 /// Plain values, created once by the program and passed to the code that needs them. Which routine sets which
 /// value is part of the system's behaviour: a change of customer leaves databasePath as it was.
 struct ApplicationValues {

@@ -8,9 +8,6 @@
 namespace norvane
 {
 
-/// The title of these questions and of notices that the user must read before continuing.
-inline constexpr QLatin1StringView pleaseCheck{"Please Check"};
-
 /// Boxes on a command line, where options answer the questions beforehand.
 class AnswersByOption
 {

@@ -62,7 +62,7 @@ const sales::PollFile& pluReport()
 {
     const auto all = sales::pollFiles();
     return *std::find_if(all.begin(), all.end(), [](const sales::PollFile& file) {
-        return std::string_view(file.procedure) == "FilePLUSales";
+        return std::string_view(file.name) == "poll194.txt";
     });
 }
 

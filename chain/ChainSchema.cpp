@@ -1,6 +1,8 @@
 // The steps from an empty database to the current schema, and the partitions; see ChainSchema.h.
 #include "chain/ChainSchema.h"
 
+#include "chain/ChainViews.h"
+
 #include <algorithm>
 #include <array>
 

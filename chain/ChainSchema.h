@@ -6,9 +6,6 @@
 
 #include <QDate>
 
-#include <string>
-#include <vector>
-
 namespace norvane::chain
 {
 
@@ -19,9 +16,6 @@ void prepareSchema(Server& server);
 /// Makes the partitions that hold the month of @p day, unless they are there. A partition that was made by
 /// one shop serves all.
 void makePartitions(Server& server, QDate day);
-
-/// The statements that make the views.
-[[nodiscard]] std::vector<std::string> viewStatements();
 
 /// Waits for other changes of the schema to end; held until the transaction ends.
 void lockSchema(pqxx::work& work);

@@ -1,5 +1,5 @@
-// The views of a chain: its takings from every side; see docs/chain.md.
-#include "chain/ChainSchema.h"
+// See ChainViews.h.
+#include "chain/ChainViews.h"
 
 #include <array>
 

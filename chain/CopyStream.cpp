@@ -28,8 +28,9 @@ Result lastOf(PGconn* connection)
 
 } // namespace
 
-CopyStream::CopyStream(pqxx::work& work, const char* table, const std::vector<std::string>& columns)
-    : m_handle(dynamic_cast<Connection&>(work.conn()).handle())
+CopyStream::CopyStream(const Server& server, pqxx::work& work, const char* table,
+                       const std::vector<std::string>& columns)
+    : m_handle(server.handle())
 {
     std::string names;
     for (const std::string& column : columns)

@@ -1,7 +1,7 @@
 // Rows on their way into a table of PostgreSQL.
 #pragma once
 
-#include "chain/Connection.h"
+#include "chain/Server.h"
 
 #include <string>
 #include <vector>
@@ -15,8 +15,9 @@ namespace norvane::chain
 class CopyStream
 {
 public:
-    /// @throws pqxx::failure as the server refuses.
-    CopyStream(pqxx::work& work, const char* table, const std::vector<std::string>& columns);
+    /// @param work a transaction of @p server. @throws pqxx::failure as the server refuses.
+    CopyStream(const Server& server, pqxx::work& work, const char* table,
+               const std::vector<std::string>& columns);
     ~CopyStream();
     CopyStream(const CopyStream&) = delete;
     CopyStream& operator=(const CopyStream&) = delete;

@@ -12,15 +12,15 @@ namespace
 class NamePublisher
 {
 public:
-    NamePublisher(pqxx::work& work, store::Database& database, int shop)
-        : m_work(work), m_database(database), m_shop(shop)
+    NamePublisher(const Server& server, pqxx::work& work, store::Database& database, int shop)
+        : m_server(server), m_work(work), m_database(database), m_shop(shop)
     {
     }
 
     /// @return false when the table is empty in the shop and was not emptied.
     bool publish(const NameTable& table, bool mayEmpty)
     {
-        const ReadRows read = readNames(m_database, table);
+        const RowsDigest read = readNames(m_database, table);
         const auto known = published(table);
         const bool isEmptied = read.rows == 0 && !known.empty() && known[0][1].as<qint64>() > 0;
         if (isEmptied && !mayEmpty)
@@ -43,15 +43,15 @@ private:
         m_work.exec_params0("DELETE FROM " + std::string(table.name) + " WHERE shop = $1", m_shop);
         auto columns = columnsOf(table);
         columns.insert(columns.begin(), "shop");
-        CopyStream stream(m_work, table.name, columns);
+        CopyStream stream(m_server, m_work, table.name, columns);
         stream.setLeading(std::to_string(m_shop) + '\t');
-        const ReadRows copied =
+        const RowsDigest copied =
             readNames(m_database, table, [&stream](const std::string& line) { stream.add(line); });
         stream.complete();
         note(table, copied);
     }
 
-    void note(const NameTable& table, const ReadRows& copied)
+    void note(const NameTable& table, const RowsDigest& copied)
     {
         m_work.exec_params0("INSERT INTO published_names (shop, table_name, digest, row_count) "
                             "VALUES ($1, $2, $3, $4) ON CONFLICT (shop, table_name) DO UPDATE SET "
@@ -59,6 +59,7 @@ private:
                             m_shop, std::string(table.name), copied.digest, copied.rows);
     }
 
+    const Server& m_server;
     pqxx::work& m_work;
     store::Database& m_database;
     int m_shop;
@@ -72,7 +73,7 @@ QStringList publishNames(Server& server, store::Database& database, int shop, co
     QStringList spared;
     server.transact([&](pqxx::work& work) {
         lock.holdIn(work);
-        NamePublisher publisher(work, database, shop);
+        NamePublisher publisher(server, work, database, shop);
         for (const auto& table : nameTables()) {
             if (!publisher.publish(table, mayEmpty))
                 spared << QLatin1StringView(table.name);

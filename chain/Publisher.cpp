@@ -5,6 +5,7 @@
 #include "chain/CopyStream.h"
 #include "chain/NamePublisher.h"
 #include "chain/SourceRows.h"
+#include "platform/Dates.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -13,11 +14,6 @@ namespace norvane::chain
 namespace
 {
 
-std::string dayText(QDate day)
-{
-    return day.toString(Qt::ISODate).toStdString();
-}
-
 /// Days as PostgreSQL reads an array of them.
 std::string arrayOf(const QList<QDate>& days)
 {
@@ -25,11 +21,6 @@ std::string arrayOf(const QList<QDate>& days)
     for (const QDate day : days)
         all << day.toString(Qt::ISODate);
     return u"{%1}"_s.arg(all.join(u',')).toStdString();
-}
-
-bool isSameMonth(QDate left, QDate right)
-{
-    return left.year() == right.year() && left.month() == right.month();
 }
 
 /// The days of each month together.
@@ -142,7 +133,7 @@ void ShopPublisher::removeDays(pqxx::work& work, const QList<QDate>& days) const
         // The range lets the server pass over all other partitions.
         work.exec_params0("DELETE FROM " + table +
                               " WHERE shop = $1 AND day BETWEEN $2 AND $3 AND day = ANY($4::date[])",
-                          m_shop, dayText(days.first()), dayText(days.last()), arrayOf(days));
+                          m_shop, isoDay(days.first()), isoDay(days.last()), arrayOf(days));
     };
     for (const auto& table : salesTables())
         remove(std::string(table.name));
@@ -156,10 +147,10 @@ void ShopPublisher::copyTable(pqxx::work& work, std::size_t table, const QList<Q
     const auto& source = salesTables()[table];
     auto columns = columnsOf(source);
     columns.insert(columns.begin(), {"shop", "day"});
-    CopyStream stream(work, source.name, columns);
+    CopyStream stream(m_server, work, source.name, columns);
     for (const QDate day : days) {
-        stream.setLeading(std::to_string(m_shop) + '\t' + dayText(day) + '\t');
-        const ReadRows read =
+        stream.setLeading(std::to_string(m_shop) + '\t' + isoDay(day) + '\t');
+        const RowsDigest read =
             readDay(m_database, source, day, [&stream](const std::string& line) { stream.add(line); });
         m_days->setDigest(day, table, read.digest);
         rows[day] += read.rows;
@@ -171,7 +162,7 @@ void ShopPublisher::noteDays(pqxx::work& work, const std::map<QDate, qint64>& ro
 {
     for (const auto& [day, count] : rows) {
         work.exec_params0("INSERT INTO published_days (shop, day, digest, row_count) VALUES ($1, $2, $3, $4)",
-                          m_shop, dayText(day), m_days->digestOf(day), count);
+                          m_shop, isoDay(day), m_days->digestOf(day), count);
     }
 }
 

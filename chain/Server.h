@@ -29,6 +29,8 @@ public:
     /// "database chain at db.example", for sentences.
     [[nodiscard]] const QString& where() const { return m_where; }
     [[nodiscard]] QString user() const;
+    /// For calls of libpq in a transaction of transact().
+    [[nodiscard]] Connection::Handle handle() const { return m_connection->handle(); }
 
 private:
     void connect(const QString& connection);

@@ -1,10 +1,12 @@
 // See SourceRows.h.
 #include "chain/SourceRows.h"
 
+#include "platform/Dates.h"
 #include "platform/Decimal.h"
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/SalesTables.h"
 #include "store/engine/BoundQuery.h"
+#include "store/engine/QuotedName.h"
 
 #include <QCryptographicHash>
 
@@ -22,11 +24,6 @@ using store::Value;
 /// Prefix of a digest. Change it with anything that changes what is read.
 constexpr const char* digestForm = "2:";
 
-std::string quoted(const std::string& field)
-{
-    return '"' + field + '"';
-}
-
 /// PostgreSQL has no character 0.
 std::string withoutNulls(const Value& value)
 {
@@ -40,14 +37,6 @@ QString trimmed(const Value& value)
     return QString::fromStdString(withoutNulls(value)).trimmed();
 }
 
-/// Registers write a time as hhmm, with or without leading zeros.
-QString timeText(const Value& value)
-{
-    constexpr int digits = 4;
-    const QString padded = trimmed(value).rightJustified(digits, u'0');
-    return padded.chopped(2) + u':' + padded.right(2);
-}
-
 /// Nothing for a price that was never set.
 std::optional<std::string> textOf(const Value& value, Content content)
 {
@@ -57,7 +46,7 @@ std::optional<std::string> textOf(const Value& value, Content content)
         return number ? std::optional(number->text()) : std::nullopt;
     }
     case Content::Time:
-        return timeText(value).toStdString();
+        return clockTime(trimmed(value)).toStdString();
     case Content::Text: // filled with blanks by a register
         return trimmed(value).toStdString();
     case Content::Key:
@@ -105,10 +94,10 @@ void appendSum(std::string& line, std::string_view sum, int places)
 
 /// Goes through a query, whose first columns are @p columns and all others sums, which come as texts and with
 /// so many @p places too few.
-ReadRows readAll(store::BoundQuery& query, std::span<const ChainColumn> columns, int places,
-                 const RowSink& sink)
+RowsDigest readAll(store::BoundQuery& query, std::span<const ChainColumn> columns, int places,
+                   const RowSink& sink)
 {
-    ReadRows read;
+    RowsDigest read;
     QCryptographicHash hash(QCryptographicHash::Blake2b_160);
     for (std::string line; query.next(); ++read.rows) {
         line.clear();
@@ -134,28 +123,28 @@ std::string dayStatement(const SalesTable& table)
     std::string items;
     std::string sums;
     for (const auto& item : table.items)
-        items += (items.empty() ? "" : ", ") + quoted(item.field) + " COLLATE BINARY";
+        items += (items.empty() ? "" : ", ") + store::quotedName(item.field) + " COLLATE BINARY";
     for (const std::string& field : addedFields(table))
-        sums += ", exact_sum(" + quoted(field) + ')';
-    return "SELECT " + items + sums + " FROM " + quoted(table.source) + " WHERE " +
-           quoted(store::salestable::day) + " = ? GROUP BY " + items + " ORDER BY " + items;
+        sums += ", exact_sum(" + store::quotedName(field) + ')';
+    return "SELECT " + items + sums + " FROM " + store::quotedName(table.source) + " WHERE " +
+           store::quotedName(store::salestable::day) + " = ? GROUP BY " + items + " ORDER BY " + items;
 }
 
 std::string nameStatement(const NameTable& table)
 {
     std::string columns;
     for (const auto& column : table.columns)
-        columns += (columns.empty() ? "" : ", ") + quoted(column.field);
-    const std::string key = quoted(table.columns.front().field);
-    return "SELECT " + columns + " FROM " + quoted(table.source) + " WHERE " + key +
+        columns += (columns.empty() ? "" : ", ") + store::quotedName(column.field);
+    const std::string key = store::quotedName(table.columns.front().field);
+    return "SELECT " + columns + " FROM " + store::quotedName(table.source) + " WHERE " + key +
            " IS NOT NULL ORDER BY " + key;
 }
 
 /// Jumps from day to day through the index: a walk over all rows would take seconds.
 std::string daysStatement(const SalesTable& table)
 {
-    const std::string day = quoted(store::salestable::day);
-    const std::string next = "SELECT min(" + day + ") FROM " + quoted(table.source);
+    const std::string day = store::quotedName(store::salestable::day);
+    const std::string next = "SELECT min(" + day + ") FROM " + store::quotedName(table.source);
     return "WITH RECURSIVE days(day) AS (" + next + " UNION ALL SELECT (" + next + " WHERE " + day +
            " > days.day) FROM days WHERE days.day IS NOT NULL) SELECT day FROM days WHERE day IS NOT NULL";
 }
@@ -173,14 +162,14 @@ std::set<QDate> daysOf(store::Database& database, const SalesTable& table)
     return days;
 }
 
-ReadRows readDay(store::Database& database, const SalesTable& table, QDate day, const RowSink& sink)
+RowsDigest readDay(store::Database& database, const SalesTable& table, QDate day, const RowSink& sink)
 {
     store::BoundQuery query(database, dayStatement(table), {Value::date(day)},
                             QLatin1StringView(table.source));
     return readAll(query, table.items, table.places, sink);
 }
 
-ReadRows readNames(store::Database& database, const NameTable& table, const RowSink& sink)
+RowsDigest readNames(store::Database& database, const NameTable& table, const RowSink& sink)
 {
     store::BoundQuery query(database, nameStatement(table), {}, QLatin1StringView(table.source));
     return readAll(query, table.columns, 0, sink);

@@ -18,7 +18,7 @@ namespace norvane::chain
 using RowSink = std::function<void(const std::string& line)>;
 
 /// What was read, to be compared with what was read another time.
-struct ReadRows {
+struct RowsDigest {
     std::string digest;
     qint64 rows = 0;
 };
@@ -28,10 +28,10 @@ struct ReadRows {
 
 /// Reads the items of a day in the order of their numbers, the collections of the day added exactly.
 /// @throws RuntimeFailure as the database reports, 3061 for an infinite number.
-ReadRows readDay(store::Database& database, const SalesTable& table, QDate day, const RowSink& sink = {});
+RowsDigest readDay(store::Database& database, const SalesTable& table, QDate day, const RowSink& sink = {});
 
 /// Reads the names in the order of their numbers.
-ReadRows readNames(store::Database& database, const NameTable& table, const RowSink& sink = {});
+RowsDigest readNames(store::Database& database, const NameTable& table, const RowSink& sink = {});
 
 /// Whether @p digest is of rows as they are read now; an earlier program may have read them otherwise.
 [[nodiscard]] bool isCurrentDigest(const std::string& digest);

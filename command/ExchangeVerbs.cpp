@@ -8,6 +8,7 @@
 #include "exchange/ExchangeRunner.h"
 #include "link/Modem.h"
 #include "link/ResultCodes.h"
+#include "link/SystemClock.h"
 #include "platform/RuntimeFailure.h"
 #include "sales/CollectionRun.h"
 #include "sales/UnclearedSales.h"
@@ -30,14 +31,14 @@ public:
 };
 
 /// The way to the registers for as long as a run lasts.
-class Line
+class RegisterLine
 {
 public:
-    Line() = default;
+    RegisterLine() = default;
     /// Also when a failure ends the run: an open call costs the shop money.
-    ~Line() { disconnect(); }
-    Line(const Line&) = delete;
-    Line& operator=(const Line&) = delete;
+    ~RegisterLine() { disconnect(); }
+    RegisterLine(const RegisterLine&) = delete;
+    RegisterLine& operator=(const RegisterLine&) = delete;
 
     /// @return what dialling gave, 0 on a direct line. @throws RuntimeFailure 18 after a signal.
     int connect(const link::LinkSettings& link)
@@ -146,7 +147,7 @@ void exchangeWith(const Workplace& workplace, const Invocation& words, exchange:
     Ticks ticks(boxesOf(words.operands.mid(1)));
     const auto lock = lockFor(workplace, values);
     const link::LinkSettings link = link::readLinkSettings(values);
-    Line line;
+    RegisterLine line;
     exchange::ExchangeRunner runner(values, link, ticks, outsideOf(workplace, values));
     try {
         if (line.connect(link) == link::modemFailed) {
@@ -187,7 +188,7 @@ void collect(const Workplace& workplace, const Invocation& words)
 {
     const ApplicationValues values = takeCustomer(workplace, words.operands.front());
     const auto lock = lockFor(workplace, values);
-    Line line;
+    RegisterLine line;
     sales::CollectionRun run(values, {.connectLink = [&line](const auto& link) { return line.connect(link); },
                                       .disconnectLink = [&line] { line.disconnect(); },
                                       .run = outsideOf(workplace, values)});

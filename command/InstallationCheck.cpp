@@ -1,6 +1,7 @@
 // See InstallationCheck.h.
 #include "command/InstallationCheck.h"
 
+#include "base/ApplicationValues.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "reports/lines/ReportRun.h"
@@ -19,10 +20,10 @@ namespace norvane::command
 namespace
 {
 
-class Check
+class FolderCheck
 {
 public:
-    explicit Check(const QString& folder) : m_folder(folder)
+    explicit FolderCheck(const QString& folder) : m_folder(folder)
     {
         store::Database::create(database(), store::catalogue());
     }
@@ -42,7 +43,7 @@ public:
     }
 
 private:
-    [[nodiscard]] QString database() const { return m_temporary.filePath(u"velmar.mdb"_s); }
+    [[nodiscard]] QString database() const { return m_temporary.filePath(databaseFileName); }
 
     void tell(const QString& text) { m_found.mistakes.append(text); }
 
@@ -111,7 +112,7 @@ private:
 
 InstallationCheck checkInstallation(const QString& folder)
 {
-    return Check(folder).run();
+    return FolderCheck(folder).run();
 }
 
 } // namespace norvane::command

@@ -42,11 +42,11 @@ void selectPeriod(reports::ReportRequest& request, const QString& name, const In
     }
 }
 
-struct Target {
+struct FileFormat {
     QLatin1StringView option;
     void (*write)(const reports::ReportData& report, const QString& path, const reports::CsvSigns& signs);
 };
-constexpr auto targets = std::to_array<Target>({
+constexpr auto formats = std::to_array<FileFormat>({
     {"pdf"_L1,
      [](const reports::ReportData& report, const QString& path, const reports::CsvSigns& /*signs*/) {
          reports::writePdf(report, true, path);
@@ -63,7 +63,7 @@ constexpr auto targets = std::to_array<Target>({
 
 void checkWords(const Invocation& words)
 {
-    if (std::ranges::none_of(targets, [&](const auto& target) { return words.has(target.option); }))
+    if (std::ranges::none_of(formats, [&](const auto& format) { return words.has(format.option); }))
         throw CommandError(ExitCode::Usage, u"Name a file with --pdf, --csv or --xlsx."_s);
     if (words.has("day"_L1) && words.has("period"_L1))
         throw CommandError(ExitCode::Usage, u"Either --day or --period."_s);
@@ -88,10 +88,10 @@ void report(const Workplace& workplace, const Invocation& words)
     request.now = QDateTime::currentDateTime();
     selectPeriod(request, name, words);
     const reports::ReportData data = reports::runReport(request);
-    for (const auto& target : targets) {
-        if (words.has(target.option)) {
-            workplace.writeUserFile(words.value(target.option),
-                                    [&](const QString& path) { target.write(data, path, signs); });
+    for (const auto& format : formats) {
+        if (words.has(format.option)) {
+            workplace.writeUserFile(words.value(format.option),
+                                    [&](const QString& path) { format.write(data, path, signs); });
         }
     }
 }

@@ -23,7 +23,7 @@ namespace norvane::customers
 namespace
 {
 
-const auto databaseName = u"velmar.mdb"_s;
+const QString databaseName(databaseFileName);
 const auto settingsName = u"setup.ini"_s;
 
 /// Changes only characters that still match when case is ignored. "Straße" must not become "STRASSE", which

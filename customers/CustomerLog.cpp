@@ -2,9 +2,9 @@
 #include "customers/CustomerLog.h"
 
 #include "platform/FilePaths.h"
+#include "platform/WholeFile.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -19,7 +19,7 @@ constexpr qint64 mostBytes = qint64{1024} * 1024;
 constexpr qint64 fewBytes = qint64{16} * 1024;
 const auto timeFormat = u"yyyy-MM-dd HH:mm:ss"_s;
 constexpr double millisecondsPerSecond = 1000;
-enum Column { begunColumn, workColumn, registersColumn, resultColumn, secondsColumn };
+enum LogColumn { begunColumn, workColumn, registersColumn, resultColumn, secondsColumn };
 
 QString logPath(const QString& customerPath)
 {
@@ -76,11 +76,7 @@ void dropOlderHalf(const QString& path)
     if (!log.open(QIODevice::ReadOnly) || !log.seek(log.size() / 2))
         return;
     (void)log.readLine();
-    QSaveFile shorter(path);
-    if (shorter.open(QIODevice::WriteOnly)) {
-        shorter.write(log.readAll());
-        shorter.commit();
-    }
+    (void)replaceWholeFile(path, log.readAll());
 }
 
 } // namespace

@@ -26,7 +26,6 @@ namespace
 constexpr qsizetype copiesKept = 10;
 constexpr int daysKept = 7;
 const auto nameFormat = u"yyyy-MM-dd HH.mm.ss"_s;
-const auto copiedDatabase = u"velmar.mdb"_s;
 
 /// Files beside the database that are copied with it: settings and register files.
 const QStringList& copiedFiles()
@@ -122,7 +121,7 @@ SafetyCopy makeCopy(const QString& customerPath, const QString& reason, std::opt
     UnfinishedFolder unfinished(joinPath(folder, u"unfinished"_s));
     const QString path = joinPath(folder, u"unfinished"_s);
     if (what)
-        store::copyDatabase(customerDatabase(customerPath), joinPath(path, copiedDatabase), *what);
+        store::copyDatabase(customerDatabase(customerPath), joinPath(path, databaseFileName), *what);
     copyFiles(customerPath, path);
     SafetyCopy copy = copyOfFolder(folder, freeName(folder, now.toString(nameFormat) + u' ' + reason));
     unfinished.keepAs(copy.path);
@@ -132,7 +131,7 @@ SafetyCopy makeCopy(const QString& customerPath, const QString& reason, std::opt
 
 QString databaseOf(const SafetyCopy& copy)
 {
-    return joinPath(copy.path, copiedDatabase);
+    return joinPath(copy.path, databaseFileName);
 }
 
 /// @throws RuntimeFailure with Failure::FileNotFound for a copy without a database, as one of the files alone

@@ -3,14 +3,12 @@
 
 #include "platform/FilePaths.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::keys
 {
 
 std::shared_ptr<store::Database> openCustomerDatabase(ApplicationValues& values)
 {
-    values.databasePath = joinPath(values.customerPath, u"velmar.mdb"_s);
+    values.databasePath = joinPath(values.customerPath, databaseFileName);
     return std::make_shared<store::Database>(values.databasePath);
 }
 

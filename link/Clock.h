@@ -21,13 +21,4 @@ public:
     virtual void yieldEvents() = 0;
 };
 
-/// The machine's clock and the application's event queue.
-class SystemClock : public Clock
-{
-public:
-    [[nodiscard]] double secondsSinceMidnight() override;
-    void pause() override;
-    void yieldEvents() override;
-};
-
 } // namespace norvane::link

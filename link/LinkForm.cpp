@@ -3,6 +3,7 @@
 
 #include "base/SharedRoutines.h"
 #include "customers/RunLock.h"
+#include "link/SystemClock.h"
 #include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"

@@ -1,5 +1,5 @@
-// The machine's clock.
-#include "link/Clock.h"
+// See SystemClock.h.
+#include "link/SystemClock.h"
 
 #include <QCoreApplication>
 #include <QThread>

@@ -1,6 +1,7 @@
 // The filter that keeps keys and clicks from the windows, and the offer to end a tool; see ToolWait.h.
 #include "link/ToolWait.h"
 
+#include "base/LossQuestion.h"
 #include "base/SharedRoutines.h"
 
 #include <QApplication>
@@ -192,10 +193,10 @@ bool ToolWait::mayBeEnded(const QString& tool, std::chrono::milliseconds running
     if (leftBefore && !willLeave())
         m_showLeaving(false);
     m_escape.spend();
-    return m_boxes.ask(u"%1 has been running for %2 seconds and may be hanging.\r\r"
-                       "Do you want to end it? What it was moving will not be complete."_s.arg(tool)
-                           .arg(std::chrono::floor<std::chrono::seconds>(running).count()),
-                       u"Please Check"_s, BoxIcon::Question, BoxAnswer::No);
+    return askBeforeLoss(m_boxes,
+                         u"%1 has been running for %2 seconds and may be hanging.\r\r"
+                         "Do you want to end it? What it was moving will not be complete."_s.arg(tool)
+                             .arg(std::chrono::floor<std::chrono::seconds>(running).count()));
 }
 
 bool ToolWait::eventFilter(QObject* watched, QEvent* event)

@@ -22,6 +22,9 @@ inline const QString& applicationTitle()
     return title;
 }
 
+/// The title of questions before a loss and of notices that the user must read before continuing.
+inline constexpr QLatin1StringView pleaseCheck{"Please Check"};
+
 /// What a file dialog asks for.
 struct FileRequest {
     QString title;

@@ -34,10 +34,10 @@ std::unique_ptr<FolderLock> FolderLock::take(const QString& folder, Boxes& boxes
         boxes.message(
             u"The file %1 did not say which program it belongs to, as after a power cut. It was replaced."_s
                 .arg(lock->m_file.fileName()),
-            u"Please Check"_s, BoxIcon::Exclamation);
+            pleaseCheck, BoxIcon::Exclamation);
         return lock;
     }
-    boxes.message(lock->refusal(), u"Please Check"_s, BoxIcon::Exclamation);
+    boxes.message(lock->refusal(), pleaseCheck, BoxIcon::Exclamation);
     return nullptr;
 }
 

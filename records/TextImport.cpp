@@ -1,6 +1,7 @@
 // See TextImport.h.
 #include "records/TextImport.h"
 
+#include "base/CustomerSettings.h"
 #include "base/SharedRoutines.h"
 #include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"

@@ -36,11 +36,11 @@ constexpr const char* pluFields[] = {"ID",     "promo",  "waste",  "count1", "va
 
 // clang-format off
 constexpr PollFile readers[] = {
-    {"FileFinSales",   "poll190.txt", store::salestable::financials, itemFields, Numbering::Running, RecordForm::Fixed,   false, 0, false},
-    {"FilePLUSales",   "poll194.txt", store::salestable::plus,       pluFields,  Numbering::ByText,  RecordForm::Stamped, true,  0, false},
-    {"FileTimeSales",  "poll191.txt", store::salestable::times,      itemFields, Numbering::Running, RecordForm::Fixed,   false, 0, false},
-    {"FilemixSales",   "poll218.txt", store::salestable::mixes,      mixFields,  Numbering::Running, RecordForm::Fixed,   false, 2, true},
-    {"FileClerkSales", "poll192.txt", store::salestable::clerks,     itemFields, Numbering::ByBlock, RecordForm::Fixed,   false, 0, false},
+    {"poll190.txt", store::salestable::financials, itemFields, Numbering::Running, RecordForm::Fixed,   false, 0, false},
+    {"poll194.txt", store::salestable::plus,       pluFields,  Numbering::ByText,  RecordForm::Stamped, true,  0, false},
+    {"poll191.txt", store::salestable::times,      itemFields, Numbering::Running, RecordForm::Fixed,   false, 0, false},
+    {"poll218.txt", store::salestable::mixes,      mixFields,  Numbering::Running, RecordForm::Fixed,   false, 2, true},
+    {"poll192.txt", store::salestable::clerks,     itemFields, Numbering::ByBlock, RecordForm::Fixed,   false, 0, false},
 };
 // clang-format on
 
@@ -109,10 +109,11 @@ double shiftedNumberOf(std::string_view text, int shift)
 }
 
 /// Stores one record after another.
-class Import
+class PollReader
 {
 public:
-    Import(const PollFile& file, store::Recordset& records, const ApplicationValues& values, QDate collected);
+    PollReader(const PollFile& file, store::Recordset& records, const ApplicationValues& values,
+               QDate collected);
 
     [[nodiscard]] ImportedReport storeAll(TextValues& text);
 
@@ -148,8 +149,8 @@ private:
     qint64 m_rows = 0;
 };
 
-Import::Import(const PollFile& file, store::Recordset& records, const ApplicationValues& values,
-               QDate collected)
+PollReader::PollReader(const PollFile& file, store::Recordset& records, const ApplicationValues& values,
+                       QDate collected)
     : m_file(file), m_records(records), m_collected(collected), m_valuesOfRecord(file.fields.size()),
       m_date(ordinal(store::salestable::day)), m_id(ordinal("ID"))
 {
@@ -163,7 +164,7 @@ Import::Import(const PollFile& file, store::Recordset& records, const Applicatio
         m_ordinals.at(at) = ordinal(file.fields[at]);
 }
 
-ImportedReport Import::storeAll(TextValues& text)
+ImportedReport PollReader::storeAll(TextValues& text)
 {
     while (!text.atEnd()) {
         count();
@@ -172,12 +173,12 @@ ImportedReport Import::storeAll(TextValues& text)
     return {m_record, m_hasSales, m_rows};
 }
 
-QString Import::placed(const QString& what) const
+QString PollReader::placed(const QString& what) const
 {
     return u"%1, record %2: %3"_s.arg(QLatin1StringView(m_file.name)).arg(m_record).arg(what);
 }
 
-void Import::storeRecord(TextValues& text)
+void PollReader::storeRecord(TextValues& text)
 {
     needLayout();
     readValues(text);
@@ -187,7 +188,7 @@ void Import::storeRecord(TextValues& text)
 }
 
 /// Skipped records count too, so that an item keeps its number.
-void Import::count()
+void PollReader::count()
 {
     ++m_record;
     ++m_itemId;
@@ -197,7 +198,7 @@ void Import::count()
     }
 }
 
-void Import::needLayout() const
+void PollReader::needLayout() const
 {
     if (m_valuesOfRecord == 0) {
         throw RuntimeFailure(Failure::RequiredFieldIsNull,
@@ -205,7 +206,7 @@ void Import::needLayout() const
     }
 }
 
-void Import::readValues(TextValues& text)
+void PollReader::readValues(TextValues& text)
 {
     m_allZero = true;
     for (std::size_t at = 0; at < m_valuesOfRecord; ++at) {
@@ -219,7 +220,7 @@ void Import::readValues(TextValues& text)
     }
 }
 
-Value Import::valueOf(std::size_t at, std::string_view text)
+Value PollReader::valueOf(std::size_t at, std::string_view text)
 {
     if (at == 0 && m_file.numbering == Numbering::ByText && !text.empty())
         return Value::text(records::plainFromRegister(text));
@@ -228,7 +229,7 @@ Value Import::valueOf(std::size_t at, std::string_view text)
     return Value::number(number);
 }
 
-void Import::addRow()
+void PollReader::addRow()
 {
     m_records.addNew();
     if (m_file.numbering != Numbering::ByText)
@@ -267,7 +268,7 @@ ImportedReport importPollFile(const PollFile& file, store::Database& database,
     TextValues text({content.constData(), static_cast<std::size_t>(content.size())});
     const ImportedReport report = [&] {
         const store::RowAppend append(database, transaction, QLatin1StringView(file.table));
-        return Import(file, records, values, collected).storeAll(text);
+        return PollReader(file, records, values, collected).storeAll(text);
     }();
     addUpEndedMonths(database, QLatin1StringView(file.table), collected);
     transaction.commit();

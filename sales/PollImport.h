@@ -30,8 +30,7 @@ enum class RecordForm {
 
 /// One of the five readers.
 struct PollFile {
-    const char* procedure; ///< its name, as "FileFinSales"
-    const char* name;      ///< text file in the program's folder, as "poll190.txt"
+    const char* name; ///< text file in the program's folder, as "poll190.txt"
     const char* table;
     std::span<const char* const> fields; ///< what the values of a record are stored in, in their order
     Numbering numbering;

@@ -1,6 +1,8 @@
 // See Period.h.
 #include "reports/formula/Period.h"
 
+#include "platform/ShownTime.h"
+
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -34,24 +36,19 @@ constexpr std::array<NamedPeriod, 3> namedPeriods{{
      }},
 }};
 
-QString dayText(QDate day)
-{
-    return day.toString(u"dd/MM/yyyy");
-}
-
 } // namespace
 
 QString Period::text() const
 {
     QString days;
     if (from == to) {
-        days = (name.isEmpty() ? from.toString(u"dddd, ") : QString()) + dayText(from);
+        days = (name.isEmpty() ? from.toString(u"dddd, ") : QString()) + shownDay(from);
     } else if (!from.isValid()) {
-        days = u"up to %1"_s.arg(dayText(to));
+        days = u"up to %1"_s.arg(shownDay(to));
     } else if (!to.isValid()) {
-        days = u"from %1"_s.arg(dayText(from));
+        days = u"from %1"_s.arg(shownDay(from));
     } else {
-        days = u"%1 to %2"_s.arg(dayText(from), dayText(to));
+        days = u"%1 to %2"_s.arg(shownDay(from), shownDay(to));
     }
     return name.isEmpty() || days.isEmpty() ? name + days : name + u", "_s + days;
 }

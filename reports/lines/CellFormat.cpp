@@ -1,6 +1,8 @@
 // See CellFormat.h.
 #include "reports/lines/CellFormat.h"
 
+#include "platform/Dates.h"
+
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -38,16 +40,6 @@ QString withoutLeadingZeros(const QString& text)
     return text.mid(zeros);
 }
 
-/// Registers write a time as hhmm, with or without leading zeros.
-QString timeText(const QString& text)
-{
-    constexpr int digits = 4;
-    if (text.isEmpty())
-        return {};
-    const QString padded = text.rightJustified(digits, u'0');
-    return padded.left(padded.size() - 2) + u':' + padded.right(2);
-}
-
 } // namespace
 
 Alignment CellFormat::alignment() const
@@ -70,7 +62,7 @@ QString CellFormat::text(const store::Value& value) const
         return day.isValid() ? day.toString(kind == FormatKind::Day ? u"dd/MM" : u"dd/MM/yyyy") : plain;
     }
     case FormatKind::Time:
-        return timeText(plain);
+        return plain.isEmpty() ? QString() : clockTime(plain);
     case FormatKind::YesNo:
         return value.toNumber() != 0 ? u"Yes"_s : u"No"_s;
     case FormatKind::Words:

@@ -1,6 +1,7 @@
 // See ChartBuilder.h.
 #include "reports/lines/ChartBuilder.h"
 
+#include "platform/Dates.h"
 #include "platform/DecimalTotal.h"
 #include "platform/RuntimeFailure.h"
 #include "reports/formula/ExactNumbers.h"
@@ -19,11 +20,6 @@ namespace
 constexpr std::size_t mostDays = 62;
 /// So many parts have a place in the legend, and the others together one more.
 constexpr std::size_t mostShares = 10;
-
-bool isSameMonth(QDate left, QDate right)
-{
-    return left.year() == right.year() && left.month() == right.month();
-}
 
 /// The exact sum of the points' values.
 /// @throws RuntimeFailure with Failure::Overflow if it has more than 18 digits before the point.

@@ -11,6 +11,8 @@
 // the result; it has none over a number by value.
 #include "reports/lines/LineStatement.h"
 
+#include "store/engine/QuotedName.h"
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -19,11 +21,6 @@ namespace norvane::reports
 {
 namespace
 {
-
-std::string quoted(const QString& name)
-{
-    return '"' + QString(name).replace(u'"', u"\"\""_s).toStdString() + '"';
-}
 
 /// Registers fill numbers up with zeros and blanks. Without these, "007" and 7 are the same text. Of zeros
 /// alone one is left.
@@ -109,13 +106,13 @@ private:
     {
         const Join& join = m_joins[number];
         std::string sql = 'j' + std::to_string(number) + " AS MATERIALIZED (SELECT " +
-                          meeting(join, quoted(join.key.name())) + " AS k";
+                          meeting(join, store::quotedName(join.key.name())) + " AS k";
         for (const auto& field : m_fields) {
             if (field.table == join.table)
-                sql += ", " + quoted(field.name()) + " AS " + alias(field);
+                sql += ", " + store::quotedName(field.name()) + " AS " + alias(field);
         }
         // Beside min() the engine takes the other columns from the same row.
-        return sql + ", min(_rowid_) FROM " + quoted(join.table->name) + " GROUP BY 1)";
+        return sql + ", min(_rowid_) FROM " + store::quotedName(join.table->name) + " GROUP BY 1)";
     }
 
     /// A column as a join compares it: by value when one of the two is a text.
@@ -130,7 +127,7 @@ private:
     {
         if (field.table != m_source.table)
             return joinName(*field.table) + '.' + alias(field);
-        return below ? "b." + quoted(field.name()) : "l." + alias(field);
+        return below ? "b." + store::quotedName(field.name()) : "l." + alias(field);
     }
 
     [[nodiscard]] std::string joined(bool below) const
@@ -148,7 +145,7 @@ private:
 
     [[nodiscard]] std::string rows() const
     {
-        return (m_rows.empty() ? quoted(m_source.table->name) : m_rows) + " b";
+        return (m_rows.empty() ? store::quotedName(m_source.table->name) : m_rows) + " b";
     }
 
     std::string where()
@@ -174,7 +171,7 @@ private:
         for (const auto& field : m_fields) {
             if (field.table != m_source.table)
                 continue;
-            const std::string plain = "b." + quoted(field.name());
+            const std::string plain = "b." + store::quotedName(field.name());
             ++number;
             std::string value = "exact_sum(" + plain + ')';
             if (m_source.isKey(field)) {

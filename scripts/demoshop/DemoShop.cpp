@@ -149,7 +149,7 @@ ApplicationValues makeCustomer(const Wish& wish, const QString& folder)
 {
     ApplicationValues values;
     values.appPath = folder;
-    for (const auto& file : {u"velmar.mdb"_s, u"setup.ini"_s})
+    for (const auto& file : {QString(databaseFileName), u"setup.ini"_s})
         require(QFile::copy(joinPath(wish.program, file), joinPath(folder, file)), u"cannot copy "_s + file);
     require(customers::chooseCustomer(values, shopName()) == customers::CustomerChoice::Created,
             u"cannot make the customer"_s);

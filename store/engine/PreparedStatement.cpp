@@ -1,6 +1,7 @@
 // Binding and reading of values; see PreparedStatement.h.
 #include "store/engine/PreparedStatement.h"
 
+#include "platform/Dates.h"
 #include "platform/RuntimeFailure.h"
 #include "store/engine/SqliteFailures.h"
 
@@ -14,12 +15,6 @@ namespace norvane::store
 {
 namespace
 {
-
-/// Days are stored as yyyy-mm-dd, which sorts by time.
-std::string dayText(QDate date)
-{
-    return date.toString(Qt::ISODate).toStdString();
-}
 
 QString fromColumn(const char* text)
 {
@@ -158,7 +153,7 @@ void PreparedStatement::bindDay(int parameter, QDate day)
 {
     if (m_dayText.empty() || day != m_day) {
         m_day = day;
-        m_dayText = dayText(day);
+        m_dayText = isoDay(day);
     }
     check(sqlite3_bind_text(m_statement.get(), parameter, m_dayText.data(),
                             static_cast<int>(m_dayText.size()), SQLITE_TRANSIENT));
@@ -236,17 +231,6 @@ QString PreparedStatement::originField(int column) const
 bool PreparedStatement::onlyReads() const
 {
     return sqlite3_stmt_readonly(m_statement.get()) != 0;
-}
-
-std::string quotedName(const QString& name)
-{
-    std::string quoted = "\"";
-    for (const char c : name.toStdString()) {
-        quoted += c;
-        if (c == '"')
-            quoted += c;
-    }
-    return quoted + '"';
 }
 
 } // namespace norvane::store

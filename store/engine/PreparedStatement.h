@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/engine/Definitions.h"
+#include "store/engine/QuotedName.h"
 #include "store/engine/Value.h"
 
 #include <QString>
@@ -85,8 +86,5 @@ public:
 private:
     PreparedStatement& m_statement;
 };
-
-/// A name as SQL takes it whatever its punctuation: "ROUNDON%".
-[[nodiscard]] std::string quotedName(const QString& name);
 
 } // namespace norvane::store

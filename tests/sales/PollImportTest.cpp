@@ -17,7 +17,7 @@ namespace
 
 struct ImportCase {
     const char* name;
-    const char* procedure;
+    const char* file;
     QByteArray text;
     std::string rows; ///< of a text that fails those of the records ahead
     char stamp = '\x11';
@@ -36,7 +36,7 @@ protected:
         SCOPED_TRACE(c.name);
         const auto files = pollFiles();
         const auto file = std::find_if(files.begin(), files.end(), [&c](const PollFile& each) {
-            return qstrcmp(each.procedure, c.procedure) == 0;
+            return qstrcmp(each.name, c.file) == 0;
         });
         ASSERT_NE(file, files.end());
         m_values.databasePath = m_folder.path(QByteArray::number(++m_imports));
@@ -69,28 +69,28 @@ protected:
 
 const QByteArray zeros = QByteArray("0,0\r\n").repeated(117);
 const ImportCase goodTexts[] = {
-    {"zeros are passed over but count", "FileFinSales", "3,0\r\n0,0\r\n0,0.00\r\n-1,-2.5\r\n",
+    {"zeros are passed over but count", "poll190.txt", "3,0\r\n0,0\r\n0,0.00\r\n-1,-2.5\r\n",
      "1|24/11/2026|3|0\n4|24/11/2026|-1|-2.5"},
-    {"values run over line ends", "FileTimeSales", "1\r\n2,3\n4\r5.5, 6",
+    {"values run over line ends", "poll191.txt", "1\r\n2,3\n4\r5.5, 6",
      "1|24/11/2026|1|2\n2|24/11/2026|3|4\n3|24/11/2026|5.5|6"},
-    {"blanks, quotes and other spellings", "FileTimeSales",
+    {"blanks, quotes and other spellings", "poll191.txt",
      "  7 , \"8\"\r\n\" 1.25 \",+3\r\n\t1E2,.5\r\n\r\n  \r\n\x1A\r\n\x1A ",
      "1|24/11/2026|7|8\n2|24/11/2026|1.25|3\n3|24/11/2026|100|0.5"},
-    {"an empty file", "FileFinSales", "", ""},
-    {"a block for each clerk", "FileClerkSales", "5,6\r\n" + zeros + zeros + "7,8\r\n9,10\r\n",
+    {"an empty file", "poll190.txt", "", ""},
+    {"a block for each clerk", "poll192.txt", "5,6\r\n" + zeros + zeros + "7,8\r\n9,10\r\n",
      "1|1|24/11/2026|5|6\n118|2|24/11/2026|7|8\n1|3|24/11/2026|9|10"},
-    {"a hundredfold, in decimal", "FilemixSales", "3\r\n0\r\n0.07\r\n1.115\r\n",
+    {"a hundredfold, in decimal", "poll218.txt", "3\r\n0\r\n0.07\r\n1.115\r\n",
      "1|24/11/2026|300|0\n3|24/11/2026|7|0\n4|24/11/2026|111.5|0"},
-    {"zeros of PLUs are rows", "FilePLUSales", "000000000000000012,0,0,0,0\r\n\"A,1\",1,2,3,4\r\n",
+    {"zeros of PLUs are rows", "poll194.txt", "000000000000000012,0,0,0,0\r\n\"A,1\",1,2,3,4\r\n",
      "000000000000000012|24/11/2026|0|0|0|0|0|0|0|0|0|0|0|0\n"
      "A,1|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0"},
-    {"a last digit of 0 means one level, whatever the first", "FilePLUSales", "7,1,2,3,4\r\n",
+    {"a last digit of 0 means one level, whatever the first", "poll194.txt", "7,1,2,3,4\r\n",
      "7|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0", '\x90'},
-    {"two levels", "FilePLUSales", "7,1,2,3,4,5,6\r\n", "7|24/11/2026|1|2|3|4|5|6|0|0|0|0|0|0", '\x21'},
-    {"three levels", "FilePLUSales", "7,1,2,3,4,5,6,7,8\r\n", "7|24/11/2026|1|2|3|4|5|6|7|8|0|0|0|0", '\x31'},
-    {"four levels", "FilePLUSales", "7,1,2,3,4,5,6,7,8,9,10\r\n", "7|24/11/2026|1|2|3|4|5|6|7|8|9|10|0|0",
+    {"two levels", "poll194.txt", "7,1,2,3,4,5,6\r\n", "7|24/11/2026|1|2|3|4|5|6|0|0|0|0|0|0", '\x21'},
+    {"three levels", "poll194.txt", "7,1,2,3,4,5,6,7,8\r\n", "7|24/11/2026|1|2|3|4|5|6|7|8|0|0|0|0", '\x31'},
+    {"four levels", "poll194.txt", "7,1,2,3,4,5,6,7,8,9,10\r\n", "7|24/11/2026|1|2|3|4|5|6|7|8|9|10|0|0",
      '\x41'},
-    {"no PLUs under a stamp without a layout", "FilePLUSales", "", "", '\x51'},
+    {"no PLUs under a stamp without a layout", "poll194.txt", "", "", '\x51'},
 };
 
 TEST_F(PollImport, TurnsRecordsIntoRows)
@@ -110,20 +110,20 @@ const struct {
 };
 const std::string firstPlu = "7|24/11/2026|1|2|3|4|0|0|0|0|0|0|0|0";
 const ImportCase badRecords[] = {
-    {"comma too many", "FileFinSales", "1,2,\r\n3,4\r\n", "1|24/11/2026|1|2", '\x11', 13, "record 2"},
-    {"mix", "FilemixSales", "x", "", '\x11', 13, "poll218.txt, record 1"},
-    {"short", "FilePLUSales", "7,1,2,3,4\r\n8,1", firstPlu, '\x11', 62, "poll194.txt, record 2"},
-    {"without a code", "FilePLUSales", "7,1,2,3,4\r\n,1,2,3,4", firstPlu, '\x11', 13, "record 2"},
-    {"long code", "FilePLUSales", "7,1,2,3,4\r\n1234567890123456789,1,2,3,4", firstPlu, '\x11', 3163,
+    {"comma too many", "poll190.txt", "1,2,\r\n3,4\r\n", "1|24/11/2026|1|2", '\x11', 13, "record 2"},
+    {"mix", "poll218.txt", "x", "", '\x11', 13, "poll218.txt, record 1"},
+    {"short", "poll194.txt", "7,1,2,3,4\r\n8,1", firstPlu, '\x11', 62, "poll194.txt, record 2"},
+    {"without a code", "poll194.txt", "7,1,2,3,4\r\n,1,2,3,4", firstPlu, '\x11', 13, "record 2"},
+    {"long code", "poll194.txt", "7,1,2,3,4\r\n1234567890123456789,1,2,3,4", firstPlu, '\x11', 3163,
      "record 2"},
-    {"a stamp without a layout", "FilePLUSales", "7,1,2,3,4", "", '\x51', 3314, "51"},
+    {"a stamp without a layout", "poll194.txt", "7,1,2,3,4", "", '\x51', 3314, "51"},
 };
 
 TEST_F(PollImport, EndsAtABadRecordAndKeepsThoseAhead)
 {
     for (const auto& [text, failure, told] : badAmounts) {
         import(
-            {text, "FileFinSales", QByteArray("1,2\r\n") + text, "1|24/11/2026|1|2", '\x11', failure, told});
+            {text, "poll190.txt", QByteArray("1,2\r\n") + text, "1|24/11/2026|1|2", '\x11', failure, told});
     }
     for (const ImportCase& c : badRecords)
         import(c);

@@ -1,0 +1,13 @@
+// The views of a chain: its takings from every side; see docs/chain.md.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace norvane::chain
+{
+
+/// The statements that make the views, in the order in which they read each other.
+[[nodiscard]] std::vector<std::string> viewStatements();
+
+} // namespace norvane::chain
