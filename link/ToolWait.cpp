@@ -132,8 +132,9 @@ bool HeldKey::isHeld(std::chrono::milliseconds atLeast) const
     return m_down.isValid() && !m_up.isValid() && !m_spent && m_down.hasExpired(atLeast.count());
 }
 
-ToolWait::ToolWait(QWidget* form, Boxes& boxes, std::function<void(const QString& text)> showRunning)
-    : m_form(form), m_boxes(boxes), m_showRunning(std::move(showRunning))
+ToolWait::ToolWait(QWidget* form, Boxes& boxes, std::function<void(const QString& text)> showRunning,
+                   ToolPatience patience)
+    : m_form(form), m_boxes(boxes), m_showRunning(std::move(showRunning)), m_patience(patience)
 {
 }
 

@@ -56,13 +56,13 @@ class ToolWait : public QObject
 public:
     /// @param form of the run, nullptr when it has none; must outlive this object
     /// @param showRunning shows how long the tool has been running; gets empty text when it has ended
-    ToolWait(QWidget* form, Boxes& boxes, std::function<void(const QString& text)> showRunning);
+    ToolWait(QWidget* form, Boxes& boxes, std::function<void(const QString& text)> showRunning,
+             ToolPatience patience = {});
     ~ToolWait() override;
 
     /// @param exit the form's button that leaves it; @param show is called at once with whether the form
     /// will close when the running tool ends, because of what the user did meanwhile.
     void setExit(QWidget* exit, std::function<void(bool leaves)> show);
-    void setPatience(const ToolPatience& patience) { m_patience = patience; }
 
     /// Lets pending events run once, then runs the tool. @return Crashed, too, when the user ended it.
     [[nodiscard]] ChildResult run(const ApplicationValues& values, const QString& commandLine);

@@ -49,7 +49,6 @@ protected:
             EXPECT_TRUE(QTest::qWaitForWindowActive(window));
         }
         wait.setExit(&exit, [this](bool leaves) { isLeaving = leaves; });
-        wait.setPatience({.hangsAfter = 300ms, .held = 150ms});
     }
 
     /// Runs a tool that hangs. Meanwhile the user does @p acts, one each turn of 50 ms.
@@ -91,9 +90,8 @@ protected:
     int exits = 0;
     bool isLeaving = false; ///< as the form shows it
     QStringList shown;
-    ToolWait wait{&form, boxes, [this](const QString& text) {
-                      shown << text;
-                  }};
+    ToolWait wait{
+        &form, boxes, [this](const QString& text) { shown << text; }, {.hangsAfter = 300ms, .held = 150ms}};
 };
 
 TEST_F(ToolWaitTest, PaintsWithoutTakingInputAndPassesTheFormItsOwnAfterwards)
