@@ -1,4 +1,4 @@
-// Takes a CSV text apart.
+// Splits a CSV text into records and cells.
 #pragma once
 
 #include <QtGlobal>
@@ -21,15 +21,14 @@ public:
 
     /// Goes to the next record; the first call goes to the first one. @return false after the last.
     [[nodiscard]] bool next();
-    /// Where the next record begins in the text, to come back by goTo(). A record that is read so says a
-    /// wrong line().
+    /// Offset of the next record in the text, for goTo(). After goTo(), line() is wrong.
     [[nodiscard]] std::size_t place() const { return m_at; }
     void goTo(std::size_t place) { m_at = place; }
-    /// Of the record; good until the next one.
+    /// The cells of the record; valid until the next one.
     [[nodiscard]] std::span<const std::string> cells() const { return {m_cells.data(), m_count}; }
-    /// The line of the text that the record begins in, counted from 1.
+    /// The line of the text in which the record begins, counted from 1.
     [[nodiscard]] qint64 line() const { return m_line; }
-    /// Whether its last cell lacks the closing quote, and so runs to the end of the text.
+    /// Whether the record's last cell lacks its closing quote and therefore runs to the end of the text.
     [[nodiscard]] bool isUnclosed() const { return m_isUnclosed; }
 
 private:

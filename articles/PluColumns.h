@@ -1,4 +1,4 @@
-// What of a PLU goes into a spreadsheet and comes back.
+// The columns of a PLU that are exported to a spreadsheet and imported from one.
 #pragma once
 
 #include "platform/Decimal.h"

@@ -20,7 +20,7 @@ namespace
 
 using store::Value;
 
-/// What a number with one sign may mean: the sign is the decimal sign, or it separates the thousands.
+/// Both meanings of a number with one sign: the sign is the decimal sign, or it separates the thousands.
 QString readingsOf(const PluColumn& column, std::string_view cell, const Decimal& decimal)
 {
     std::string whole(cell);
@@ -29,7 +29,7 @@ QString readingsOf(const PluColumn& column, std::string_view cell, const Decimal
         excerptOfUtf8(cell), shownPluValue(column, decimal.text()), shownPluValue(column, whole));
 }
 
-/// What keeps a text off a register, empty for a good one.
+/// Why a register cannot take a text; empty if it can.
 QString faultOf(const QString& text)
 {
     if (text.size() > longestDescription)

@@ -35,8 +35,8 @@ struct PluChange {
 class PluComparison
 {
 public:
-    /// A cell that reads as an export writes what is stored changes nothing and is never a mistake, whatever
-    /// the register thinks of it. An empty price, group or status leaves things as they are; an empty
+    /// A cell that reads as an export writes what is stored changes nothing and is never a mistake, even if
+    /// a register would not accept it. An empty price, group or status leaves things as they are; an empty
     /// description empties it.
     /// @param content must outlive this object
     /// @param separator as for PluFile

@@ -42,7 +42,7 @@ public:
     [[nodiscard]] const DecimalSign& decimalSign() const { return m_decimalSign; }
     /// One cell for each column, UTF-8; valid until the next call.
     [[nodiscard]] std::span<const std::string> cells(std::uint32_t line) const;
-    /// The index of the line with this number when nobody took it before; it is taken then.
+    /// Takes the line with this number. @return its index; nothing if there is none or it is already taken.
     [[nodiscard]] std::optional<std::uint32_t> take(std::uint64_t number);
 
 private:

@@ -11,7 +11,7 @@ namespace norvane::articles
 /// Why a file cannot be imported.
 struct PluMistake {
     qint64 line = 0; ///< of the file, counted from 1
-    QString column;  ///< its heading; empty when it is about the whole line
+    QString column;  ///< its heading; empty if the whole line is meant
     QString reason;
 };
 

@@ -8,9 +8,9 @@ namespace norvane::chain
 
 /// Reasons why a publication fails.
 enum class ChainFailure {
-    BadConnection, ///< the text is not a connection string
-    Unreachable,   ///< no server there, no such database, or it refused the login
-    WentAway,      ///< in the middle of the work
+    BadConnection,  ///< the text is not a connection string
+    Unreachable,    ///< no server there, no such database, or it refused the login
+    ConnectionLost, ///< in the middle of the work
     NoRights,
     Unfit,     ///< a schema of another version, or another encoding
     OtherShop, ///< the shop of that name, or of that folder, is another one

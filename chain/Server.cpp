@@ -145,7 +145,7 @@ QString Server::user() const
 
 void Server::failGone(const char* what) const
 {
-    fail(ChainFailure::WentAway, u"The connection to PostgreSQL was lost"_s, what);
+    fail(ChainFailure::ConnectionLost, u"The connection to PostgreSQL was lost"_s, what);
 }
 
 void Server::fail(ChainFailure failure, const QString& sentence, const char* what) const

@@ -27,7 +27,7 @@ struct RowsDigest {
 [[nodiscard]] std::set<QDate> daysOf(store::Database& database, const SalesTable& table);
 
 /// Reads the items of a day in the order of their numbers, the collections of the day added exactly.
-/// @throws RuntimeFailure as the database reports, 3061 for an infinite number.
+/// @throws RuntimeFailure as the database reports, with Failure::UnknownNameInQuery for an infinite number.
 RowsDigest readDay(store::Database& database, const SalesTable& table, QDate day, const RowSink& sink = {});
 
 /// Reads the names in the order of their numbers.

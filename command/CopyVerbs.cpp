@@ -44,9 +44,9 @@ void restore(const Workplace& workplace, const Invocation& words)
     const ApplicationValues values = findCustomer(workplace, words.operands[0]);
     const auto copy = copyOf(values.customerPath, words.operands[1]);
     const auto lock = lockFor(workplace, values);
-    const QString told = customers::restoreSafetyCopy(values.customerPath, copy);
-    if (!told.isEmpty())
-        tell(told);
+    const QString notice = customers::restoreSafetyCopy(values.customerPath, copy);
+    if (!notice.isEmpty())
+        tell(notice);
 }
 
 } // namespace norvane::command

@@ -40,7 +40,8 @@ public:
     RegisterLine(const RegisterLine&) = delete;
     RegisterLine& operator=(const RegisterLine&) = delete;
 
-    /// @return what dialling gave, 0 on a direct line. @throws RuntimeFailure 18 after a signal.
+    /// @return what dialling gave, 0 on a direct line. @throws RuntimeFailure with
+    /// Failure::UserInterrupt after a signal.
     int connect(const link::LinkSettings& link)
     {
         m_link = link;

@@ -27,7 +27,7 @@ std::span<const ExitMeaning> exitMeanings()
         {ExitCode::Unsound, "the check found something, or a database or safety copy is damaged"_L1},
         {ExitCode::BadFile, "the file to import has mistakes"_L1},
         {ExitCode::NoServer, "PostgreSQL cannot be reached, or has no such database or login"_L1},
-        {ExitCode::ServerWentAway,
+        {ExitCode::ConnectionLost,
          "the connection to PostgreSQL was lost; the next publication continues where this one stopped"_L1},
         {ExitCode::NoRights, "the rights in PostgreSQL are insufficient"_L1},
         {ExitCode::UnfitServer, "the database there has a later schema or another encoding"_L1},

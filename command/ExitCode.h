@@ -28,7 +28,7 @@ enum class ExitCode {
     Unsound = 8,
     BadFile = 9,
     NoServer = 10,
-    ServerWentAway = 11,
+    ConnectionLost = 11,
     NoRights = 12,
     UnfitServer = 13,
     OtherShop = 14,

@@ -31,7 +31,7 @@ struct FailureCode {
 constexpr auto failureCodes = std::to_array<FailureCode>({
     {ChainFailure::BadConnection, ExitCode::Usage, false},
     {ChainFailure::Unreachable, ExitCode::NoServer, false},
-    {ChainFailure::WentAway, ExitCode::ServerWentAway, false},
+    {ChainFailure::ConnectionLost, ExitCode::ConnectionLost, false},
     {ChainFailure::NoRights, ExitCode::NoRights, false},
     {ChainFailure::Unfit, ExitCode::UnfitServer, false},
     {ChainFailure::OtherShop, ExitCode::OtherShop, true},

@@ -12,7 +12,7 @@ void catchStopSignals();
 [[nodiscard]] int stopSignal();
 
 /// To be called where a run can stop: everything stored so far is whole.
-/// @throws RuntimeFailure 18 after a signal.
+/// @throws RuntimeFailure with Failure::UserInterrupt after a signal.
 void stopIfSignalled();
 
 } // namespace norvane::command

@@ -183,14 +183,14 @@ QString replaceDatabase(const QString& customerPath, const SafetyCopy& copy)
     const QString made = joinPath(customerPath, u"velmar.restored"_s);
     const QStringList lost = store::rebuildDatabase(databaseOf(copy), customerDatabase(customerPath), made);
     const QString aside = exchangeDatabase(customerPath, made);
-    QStringList told;
+    QStringList notices;
     if (!aside.isEmpty())
-        told << u"The damaged database is kept as %1."_s.arg(aside);
+        notices << u"The damaged database is kept as %1."_s.arg(aside);
     if (!lost.isEmpty()) {
-        told << u"These tables begin empty, because the copy has none and they could not be read: %1."_s.arg(
-            lost.join(u", "_s));
+        notices << u"These tables begin empty, because the copy has none and they could not be read: %1."_s
+                       .arg(lost.join(u", "_s));
     }
-    return told.join(u'\r');
+    return notices.join(u'\r');
 }
 
 } // namespace
@@ -244,10 +244,10 @@ namespace
 QString putBack(const QString& customerPath, const SafetyCopy& copy)
 {
     checkCopy(copy);
-    QString told;
+    QString notice;
     if (needsNewDatabase(customerPath)) {
         makeCopy(customerPath, u"before restore, files alone"_s, {}, QDateTime::currentDateTime());
-        told = replaceDatabase(customerPath, copy);
+        notice = replaceDatabase(customerPath, copy);
     } else {
         makeSafetyCopy(customerPath, u"before restore"_s,
                        holdsSales(copy) ? store::CopyOf::Everything : store::CopyOf::Programme);
@@ -255,7 +255,7 @@ QString putBack(const QString& customerPath, const SafetyCopy& copy)
         store::restoreTables(database, databaseOf(copy));
     }
     copyFiles(copy.path, customerPath, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    return told;
+    return notice;
 }
 
 } // namespace
@@ -263,9 +263,9 @@ QString putBack(const QString& customerPath, const SafetyCopy& copy)
 QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy)
 {
     LoggedWork work(customerPath, u"restore"_s);
-    QString told = work.during([&] { return putBack(customerPath, copy); });
-    work.setResult(u"restored %1"_s.arg(copy.name) + (told.isEmpty() ? QString() : u". "_s + told));
-    return told;
+    QString notice = work.during([&] { return putBack(customerPath, copy); });
+    work.setResult(u"restored %1"_s.arg(copy.name) + (notice.isEmpty() ? QString() : u". "_s + notice));
+    return notice;
 }
 
 QString refusalOfCopy(const ApplicationValues& values, const QString& reason, store::CopyOf what)

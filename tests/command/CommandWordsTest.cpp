@@ -1,7 +1,6 @@
 // What a command line may look like, what help it gives, and where its output goes.
 #include "platform/FilePaths.h"
-#include "tests/road/RunCommand.h"
-#include "tests/support/ProgramFolder.h"
+#include "tests/command/CommandTest.h"
 
 #include <QRegularExpression>
 
@@ -10,18 +9,8 @@ namespace norvane::test
 namespace
 {
 
-class CommandWords : public testing::Test
+class CommandWords : public CommandTest
 {
-protected:
-    [[nodiscard]] Ended run(const QStringList& words) const { return runCommand(m_folder.appPath(), words); }
-    void expectUsage(const QStringList& words, const QString& text) const
-    {
-        const Ended ended = run(words);
-        EXPECT_EQ(ended.code, 2) << words.join(u' ').toStdString();
-        EXPECT_TRUE(ended.err.contains(text)) << ended.err.toStdString();
-    }
-
-    ProgramFolder m_folder;
 };
 
 TEST_F(CommandWords, HelpIsGivenInEveryUsualWay)

@@ -1,0 +1,106 @@
+// What commands write that need no register: reports of a day, copies, findings.
+#include "tests/command/CommandTest.h"
+#include "tests/store/Rows.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace norvane::test
+{
+namespace
+{
+
+class Verbs : public CommandTest
+{
+protected:
+    [[nodiscard]] QJsonArray listed(const QStringList& words, int code = 0) const
+    {
+        const Ended ended = run(words + QStringList{u"--json"_s});
+        EXPECT_EQ(ended.code, code) << ended.err.toStdString();
+        return QJsonDocument::fromJson(ended.out.toUtf8()).array();
+    }
+    void sell(const QString& day, const QString& value) const
+    {
+        execute(
+            m_shop.databasePath,
+            u"insert into FINANCIALSALES (ID, SALESDATE, QUANTITY, VALUE) values (2, '%1', 1, '%2')"_s.arg(
+                day, value));
+    }
+
+    ApplicationValues m_shop = m_folder.makeCustomer(u"SHOP"_s);
+};
+
+TEST_F(Verbs, AReportOfADayHasTheSalesOfThatDayInEveryFormat)
+{
+    sell(u"2026-11-24"_s, u"24.25"_s);
+    sell(u"2026-11-25"_s, u"25.75"_s);
+    const QStringList report{u"report"_s, u"SHOP"_s, u"finsales"_s};
+    const TestFolder started;
+    QProcess command;
+    command.setWorkingDirectory(started.path());
+    command.start(QString::fromUtf8(COMMAND),
+                  report + QStringList{u"--day"_s, u"2026-11-24"_s, u"--csv"_s, u"day.csv"_s, u"--pdf"_s,
+                                       u"day.pdf"_s, u"--xlsx"_s, u"day.xlsx"_s, u"--folder"_s,
+                                       m_folder.appPath()});
+    EXPECT_TRUE(command.waitForFinished(-1));
+    EXPECT_EQ(command.exitCode(), 0) << command.readAllStandardError().toStdString();
+    const QByteArray csv = started.read("day.csv");
+    EXPECT_TRUE(csv.contains("24.25") && !csv.contains("25.75")) << csv.toStdString();
+    EXPECT_TRUE(started.read("day.pdf").startsWith("%PDF-"));
+    EXPECT_TRUE(started.read("day.xlsx").startsWith("PK"));
+
+    const auto withDay = [&report](const QString& day) {
+        return report + QStringList{u"--csv"_s, u"-"_s, u"--day"_s, day};
+    };
+    expectUsage(withDay(u"24.11.2026"_s), u"\"24.11.2026\" is not a day such as 2026-11-25."_s);
+    expectUsage(withDay(u"2026-11-24"_s) + QStringList{u"--period"_s, u"week"_s},
+                u"Either --day or --period."_s);
+}
+
+/// On a terminal the locale's spreadsheet is the reader, elsewhere a script.
+TEST_F(Verbs, ATerminalGetsTheSignsOfItsLocale)
+{
+    sell(u"2026-11-24"_s, u"24.25"_s);
+    const QString words = u"report SHOP finsales --day 2026-11-24 --csv - --folder "_s + m_folder.appPath();
+    QProcess terminal;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LC_ALL"_s, u"de_DE.UTF-8"_s);
+    terminal.setProcessEnvironment(environment);
+    terminal.start(u"script"_s, {u"-qec"_s, QString::fromUtf8(COMMAND) + u' ' + words, u"/dev/null"_s});
+    EXPECT_TRUE(terminal.waitForFinished(-1));
+    const QByteArray shown = terminal.readAllStandardOutput();
+    EXPECT_TRUE(shown.contains(";24,25")) << shown.toStdString();
+    EXPECT_TRUE(runCommand(m_folder.appPath(), words.split(u' ').first(7), u"de_DE.UTF-8"_s)
+                    .out.contains(u",24.25"_s));
+}
+
+TEST_F(Verbs, ACopyIsNamedByWhatNoOtherBeginsWith)
+{
+    for (const char* const price : {"1", "2"}) {
+        writeWholeFile(m_folder.appFile(u"plus.csv"_s), QByteArray("Number,Price 1\n7,") + price + '\n');
+        EXPECT_EQ(run({u"plus"_s, u"SHOP"_s, u"import"_s, m_folder.appFile(u"plus.csv"_s)}).code, 0);
+    }
+    const QJsonArray copies = listed({u"copies"_s, u"SHOP"_s});
+    ASSERT_EQ(copies.size(), 2);
+    EXPECT_EQ(copies[0][u"reason"_s], u"before PLU import"_s);
+    expectRefusal(4, {u"restore"_s, u"SHOP"_s, u"20"_s}, u"Several copies begin with \"20\"."_s);
+    expectRefusal(4, {u"restore"_s, u"SHOP"_s, {}}, u"There is no copy \"\"."_s);
+    EXPECT_EQ(run({u"restore"_s, u"SHOP"_s, copies[0][u"name"_s].toString()}).code, 0);
+    EXPECT_EQ(rowsOf(m_shop.databasePath, u"select price1 from pludata"_s), "1");
+}
+
+TEST_F(Verbs, CheckListsWhatIsWrongWithSettingsAndInstallation)
+{
+    EXPECT_EQ(listed({u"check"_s, u"SHOP"_s}), QJsonArray());
+    writeWholeFile(m_folder.appFile(u"bad.rpt"_s), "[Report]\r\nTable=NOTABLE\r\n");
+    writeWholeFile(joinPath(m_shop.customerPath, u"setup.ini"_s), "[SetupOption]\r\nBaud=x\r\n");
+    const QJsonArray findings = listed({u"check"_s, u"SHOP"_s}, 8);
+    ASSERT_EQ(findings.size(), 2);
+    EXPECT_EQ(findings[0][u"part"_s], u"settings"_s);
+    EXPECT_TRUE(findings[0][u"finding"_s].toString().contains(u"Baud=x"_s));
+    EXPECT_EQ(findings[1][u"part"_s], u"installation"_s);
+    EXPECT_TRUE(findings[1][u"finding"_s].toString().contains(u"bad.rpt"_s));
+}
+
+} // namespace
+} // namespace norvane::test
