@@ -106,7 +106,7 @@ class Table
 public:
     explicit Table(const RegisterFile& file)
         : m_file(file), m_records(customerDatabase().openTable(QLatin1StringView(file.table))),
-          m_reader(file.layout(), m_records)
+          m_reader(file.layout(), m_records, {})
     {
         const Places places(file.layout());
         for (int i = 0; i < m_records.fieldCount(); ++i)
