@@ -82,7 +82,7 @@ TEST_F(Verbs, ACopyIsNamedByWhatNoOtherBeginsWith)
     }
     const QJsonArray copies = listed({u"copies"_s, u"SHOP"_s});
     ASSERT_EQ(copies.size(), 2);
-    EXPECT_EQ(copies[0][u"reason"_s], u"before PLU import"_s);
+    EXPECT_TRUE(copies[0][u"reason"_s].toString().startsWith(u"before PLU import"_s));
     expectRefusal(4, {u"restore"_s, u"SHOP"_s, u"20"_s}, u"Several copies begin with \"20\"."_s);
     expectRefusal(4, {u"restore"_s, u"SHOP"_s, {}}, u"There is no copy \"\"."_s);
     EXPECT_EQ(run({u"restore"_s, u"SHOP"_s, copies[0][u"name"_s].toString()}).code, 0);
