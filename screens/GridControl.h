@@ -20,7 +20,7 @@ public:
     explicit GridControl(QWidget* parent = nullptr);
 
     /// Shows the query of @p definition under its headings, replacing the previous content.
-    /// @throws RuntimeFailure with Failure::UnknownNameInQuery, 5
+    /// @throws RuntimeFailure as the constructor of GridModel.
     void showQuery(const std::shared_ptr<store::Database>& database, const ControlDefinition& definition);
     /// Shows the rows as they now are in the file, which a price change or an upload may have changed. The
     /// row with the same key remains current. A grid with a cell being edited is unchanged.

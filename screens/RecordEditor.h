@@ -23,6 +23,7 @@ struct BoundField {
     store::Value content;
 };
 
+/// All bound controls of a screen, in the order of its file.
 using BoundFields = QVector<BoundField>;
 
 /// The number of a stored record, and the one that it is about to get.
@@ -50,7 +51,7 @@ public:
     void showFields(BoundFields& fields);
 
     /// Whether the table has no record, and none is being added. showFields(), deleteRecord() and the moves
-    /// fail with 3021 then; add() leads on.
+    /// fail with Failure::NoCurrentRecord then; add() leads on.
     [[nodiscard]] bool isEmpty() const;
     /// Blanks @p fields, for a table that is empty. Until a record is shown or added, nothing can be saved.
     void showNothing(BoundFields& fields);

@@ -25,6 +25,7 @@ struct ScreenWindow {
     std::optional<double> height;
 };
 
+/// Kinds of controls, in the order of the tables in FieldPanel and ControlMaker.
 enum class ControlKind { Find, Check, Label, Integer, Decimal, Text, Combo, Grid };
 
 /// Column of a grid.

@@ -20,7 +20,8 @@ public:
     /// @throws RuntimeFailure with Failure::TypeMismatch
     [[nodiscard]] ScreenWindow window() const;
     /// The controls from "Field1" up to the first section without a control type; sections of an unknown type
-    /// are left out. @throws RuntimeFailure with Failure::TypeMismatch, 6
+    /// are left out. @throws RuntimeFailure with Failure::TypeMismatch, or Failure::Overflow for a number
+    /// that is too large
     [[nodiscard]] QVector<ControlDefinition> controls() const;
     [[nodiscard]] ScreenButtons buttons() const;
     [[nodiscard]] ScreenReport report() const;

@@ -20,6 +20,7 @@ enum class Opens {
     Separator,
 };
 
+/// Whether a menu entry can be chosen.
 enum class Choosable { Yes, No };
 
 /// An entry of the menu.

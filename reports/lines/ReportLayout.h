@@ -23,6 +23,7 @@ struct Join {
     FieldName of;  ///< of the report's table or of an earlier join
 };
 
+/// How a field sorts lines: as it is stored, texts of digits by their value, or the largest first.
 enum class Order { Plain, ByValue, Descending };
 
 /// A field by which lines are sorted.
@@ -85,6 +86,7 @@ struct ChartLayout {
     int most = 0; ///< how many of the largest points are shown; 0 for all
 };
 
+/// How the sheet is turned; automatic is upright unless the columns are too wide for it.
 enum class Orientation { Automatic, Portrait, Landscape };
 
 /// A whole report file.
