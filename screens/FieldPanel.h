@@ -48,8 +48,6 @@ public:
     [[nodiscard]] GridControl* grid() const { return m_grid; }
     /// What the label beside the control of @p dataField says.
     [[nodiscard]] QString labelOf(const QString& dataField) const;
-    /// Controls in tab order.
-    [[nodiscard]] const QVector<QWidget*>& tabOrder() const { return m_tabOrder; }
     /// Sets the focus for a stored record: to the first editable control in tab order except its number,
     /// which typing would replace.
     void focusFirst();

@@ -1,7 +1,6 @@
 // Table of the menu; see MenuTree.h. Trailing blanks and odd spellings belong to the captions.
 #include "shell/MenuTree.h"
 
-#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -151,12 +150,6 @@ std::span<const MenuEntry> menuTree()
 bool opensScreen(const MenuEntry& entry)
 {
     return entry.opens == Screen || entry.opens == ModelScreen || entry.opens == GatedScreen;
-}
-
-const MenuEntry* menuEntry(QLatin1StringView name)
-{
-    const auto* const found = std::ranges::find(entries, name, &MenuEntry::name);
-    return found == entries.end() ? nullptr : found;
 }
 
 } // namespace norvane::shell

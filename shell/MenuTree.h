@@ -40,7 +40,4 @@ struct MenuEntry {
 /// Whether @p entry opens a record editor.
 [[nodiscard]] bool opensScreen(const MenuEntry& entry);
 
-/// The entry with the control name @p name, or nullptr.
-[[nodiscard]] const MenuEntry* menuEntry(QLatin1StringView name);
-
 } // namespace norvane::shell

@@ -2,6 +2,7 @@
 #include "shell/ScreenChoice.h"
 
 #include "platform/FilePaths.h"
+#include "tests/shell/EntryNamed.h"
 #include "tests/shell/ShellFixture.h"
 
 namespace norvane::shell
@@ -16,9 +17,9 @@ class ScreenChoiceTest : public ShellFixture
 protected:
     [[nodiscard]] QString target(QLatin1StringView entry) const
     {
-        return targetOf(*menuEntry(entry), m_values);
+        return targetOf(entryNamed(entry), m_values);
     }
-    bool opens(QLatin1StringView entry) { return mayOpen(*menuEntry(entry), m_values, m_boxes); }
+    bool opens(QLatin1StringView entry) { return mayOpen(entryNamed(entry), m_values, m_boxes); }
     /// The length of the memory file shows the firmware.
     void setMemoryFile(int length) const { m_folder.write("app/mem.dat", QByteArray(length, 'm')); }
     /// The texts of the boxes since the last call.

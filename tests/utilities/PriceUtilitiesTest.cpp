@@ -4,6 +4,7 @@
 #include "shell/FrmMain.h"
 #include "shell/MainStatusBar.h"
 #include "shell/Openers.h"
+#include "tests/shell/EntryNamed.h"
 #include "tests/shell/ShellFixture.h"
 #include "tests/support/FormTest.h"
 
@@ -250,7 +251,7 @@ TEST_F(PriceUtilitiesTest, LogoImagesShowTheRulesAndOnlyTheFirstRunsTheConverter
     const auto openers = makeOpeners(m_values, m_boxes);
     m_values.appPath = m_folder.path("my app");
     const auto notice = [&](QLatin1StringView entry) {
-        openers.forms.value(menuEntry(entry)->target)(m_main, *menuEntry(entry));
+        openers.forms.value(entryNamed(entry).target)(m_main, entryNamed(entry));
         return takeBoxes().value(0).section(u"this conversion works "_s, 1);
     };
     EXPECT_EQ(notice("Convert350"_L1), u"with SRP350 printers only"_s) << "and no more without a converter";
