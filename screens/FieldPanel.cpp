@@ -113,7 +113,7 @@ int FieldPanel::nextElement(ControlKind kind)
     return *m_counters.insert(kind, templateOf(kind).firstElement);
 }
 
-/// All sections of a grid are about one and the same.
+/// Every grid section describes the one grid of the screen.
 QWidget* FieldPanel::make(const ControlDefinition& definition, int element)
 {
     if (definition.kind == ControlKind::Grid && m_grid) {

@@ -80,11 +80,11 @@ private:
     void focusOn(QWidget* control);
 
     std::shared_ptr<store::Database> m_database;
-    QWidget* m_picture; ///< carries the controls
+    QWidget* m_picture; ///< parent of the controls
     ControlMaker m_maker;
     QVector<Control> m_controls;
     QHash<ControlKind, int> m_counters; ///< next element of each kind
-    GridControl* m_grid = nullptr;      ///< the one grid; each grid section is about it
+    GridControl* m_grid = nullptr;      ///< the one grid, which every grid section describes
     bool m_isShowing = false;           ///< within showContents()
     double m_bottom = 0;                ///< twips
     QVector<QWidget*> m_tabOrder;

@@ -107,11 +107,11 @@ void OptionForm::buildButtons()
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(ui::spacing::formMargin, 0, ui::spacing::formMargin, ui::spacing::controlGap);
     row->setSpacing(ui::spacing::controlGap);
-    const ScreenButtons told = m_file.buttons();
+    const ScreenButtons wanted = m_file.buttons();
     QVector<QPushButton*> shown;
     for (const ButtonRow& entry : buttonRows()) {
         QPushButton* const button = addButton(entry, *row);
-        const bool isShown = entry.shown == nullptr || told.*entry.shown;
+        const bool isShown = entry.shown == nullptr || wanted.*entry.shown;
         button->setVisible(isShown);
         if (isShown)
             shown += button;
@@ -168,8 +168,8 @@ void OptionForm::addFindBar(GridControl& grid, QVBoxLayout& column)
 
 void OptionForm::buildList()
 {
-    const ScreenButtons told = m_file.buttons();
-    if (!told.next && !told.previous)
+    const ScreenButtons wanted = m_file.buttons();
+    if (!wanted.next && !wanted.previous)
         return;
     const ScreenTable table = m_file.table();
     const ui::RecordListSource source{table.table, table.firstIndex, m_editor->searchedField(1).name,

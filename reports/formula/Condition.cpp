@@ -16,7 +16,7 @@ using ColumnOf = std::function<std::string(const FieldName&)>;
 
 bool isTest(const Condition& condition)
 {
-    return condition.kind == Condition::Kind::Test || condition.kind == Condition::Kind::Twins;
+    return condition.kind == Condition::Kind::Test || condition.kind == Condition::Kind::TwoFields;
 }
 
 /// Whether all fields of a test can be read; a table that cannot is added to @p others.
@@ -101,7 +101,7 @@ public:
         switch (condition.kind) {
         case Condition::Kind::Test:
             return test(condition);
-        case Condition::Kind::Twins:
+        case Condition::Kind::TwoFields:
             return '(' + m_column(condition.field) + ' ' + condition.comparison + ' ' +
                    m_column(condition.other) + ')';
         case Condition::Kind::Not:

@@ -19,11 +19,11 @@ namespace norvane::reports
 /// A parsed formula: tests of fields, joined by and, or and not.
 struct Condition {
     enum class Kind {
-        All,  ///< all parts; without parts: always true
-        Any,  ///< of the parts
-        Not,  ///< the one part
-        Test, ///< a field against a value
-        Twins ///< a field against another one
+        All,      ///< all parts; without parts: always true
+        Any,      ///< of the parts
+        Not,      ///< the one part
+        Test,     ///< a field against a value
+        TwoFields ///< a field against another one
     };
 
     Kind kind = Kind::All;
@@ -31,7 +31,7 @@ struct Condition {
     FieldName field;
     std::string comparison; ///< =, <>, <, >, <= or >=
     store::Value value;     ///< what a Test compares the field with
-    FieldName other;        ///< of Twins: the second field
+    FieldName other;        ///< of TwoFields: the second field
     QString periodName;     ///< "Month to date" for a test that comes from a named period
 
     [[nodiscard]] bool isAlwaysTrue() const { return kind == Kind::All && parts.empty(); }

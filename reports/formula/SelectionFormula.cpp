@@ -126,7 +126,7 @@ private:
         const auto* const row = comparison();
         const auto right = side();
         if (left.field && right.field)
-            return twins(*left.field, row->same, *right.field, right.column);
+            return twoFields(*left.field, row->same, *right.field, right.column);
         if (!left.field && !right.field)
             throw FormulaError(left.column, u"a field is expected on one side of the comparison"_s);
         return left.field ? tested(*left.field, row->same, right) : tested(*right.field, row->turned, left);
@@ -155,14 +155,14 @@ private:
         return condition;
     }
 
-    static Condition twins(const FieldName& field, const char* comparison, const FieldName& other,
-                           qsizetype column)
+    static Condition twoFields(const FieldName& field, const char* comparison, const FieldName& other,
+                               qsizetype column)
     {
         const bool isDay = field.definition().type == FieldType::Date;
         if (isDay != (other.definition().type == FieldType::Date))
             throw FormulaError(column, u"a day and something else are compared"_s);
         Condition condition;
-        condition.kind = Condition::Kind::Twins;
+        condition.kind = Condition::Kind::TwoFields;
         condition.field = field;
         condition.comparison = comparison;
         condition.other = other;

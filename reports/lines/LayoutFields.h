@@ -13,7 +13,7 @@ namespace norvane::reports
 /// @throws FormulaError
 [[nodiscard]] std::optional<SortKey> parseSortKey(QStringView text, const store::TableDefinition* own);
 
-/// @throws FormulaError for a field that @p source cannot hand out: one of a table that is not read, or one
+/// @throws FormulaError for a field that @p source cannot provide: one of a table that is not read, or one
 /// that is neither the same in all rows of a line nor a number to be added up.
 void checkField(const ReportLayout& layout, const LineSource& source, const FieldName& field,
                 qsizetype column);

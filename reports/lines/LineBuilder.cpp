@@ -54,21 +54,21 @@ std::vector<std::string> SlotTotals::texts() const
 }
 
 LineNumbers::LineNumbers(const ReportLayout& layout)
-    : m_isReckoned(layout.source.fields.size()), m_isValue(layout.source.fields.size()),
+    : m_isUsed(layout.source.fields.size()), m_isValue(layout.source.fields.size()),
       m_numbers(layout.source.fields.size(), "0")
 {
     for (const auto& column : layout.columns) {
         if (column.number)
-            column.number->markSlots(m_isReckoned);
+            column.number->markSlots(m_isUsed);
         for (const auto& expression : column.shownIf)
-            expression.markSlots(m_isReckoned);
+            expression.markSlots(m_isUsed);
     }
     for (const auto& chart : layout.charts) {
         if (chart.from != PointSource::Query)
-            chart.value->markSlots(m_isReckoned);
+            chart.value->markSlots(m_isUsed);
     }
     for (std::size_t i = 0; i < m_isValue.size(); ++i) {
-        m_isValue[i] = m_isReckoned[i] && !isRecordNumber(layout.source, layout.source.fields[i]);
+        m_isValue[i] = m_isUsed[i] && !isRecordNumber(layout.source, layout.source.fields[i]);
         m_isSum.push_back(layout.source.isSum(layout.source.fields[i]));
     }
 }
@@ -76,9 +76,9 @@ LineNumbers::LineNumbers(const ReportLayout& layout)
 void LineNumbers::read(const LineFields& fields)
 {
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        if (m_isReckoned[i] && m_isSum[i]) {
+        if (m_isUsed[i] && m_isSum[i]) {
             m_numbers[i].assign(fields[i].textView());
-        } else if (m_isReckoned[i]) {
+        } else if (m_isUsed[i]) {
             m_numbers[i] = exactText(fields[i]);
         }
     }

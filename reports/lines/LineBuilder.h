@@ -37,9 +37,9 @@ public:
     [[nodiscard]] bool areZero() const;
 
 private:
-    std::vector<bool> m_isReckoned; ///< some column or chart calculates with the slot
-    std::vector<bool> m_isSum;      ///< the query gives it as the text of an exact decimal
-    std::vector<bool> m_isValue;    ///< an amount, and not the number of a record
+    std::vector<bool> m_isUsed;  ///< some column or chart calculates with the slot
+    std::vector<bool> m_isSum;   ///< the query gives it as the text of an exact decimal
+    std::vector<bool> m_isValue; ///< an amount, and not the number of a record
     std::vector<std::string> m_numbers;
 };
 

@@ -20,7 +20,7 @@ void drawRule(QPainter& painter, const QRectF& area, double y, double width, con
 }
 
 /// Paints what sets a line off from its neighbours: a band or rules.
-void paintGround(QPainter& painter, const QRectF& place, LineKind kind)
+void paintBackground(QPainter& painter, const QRectF& place, LineKind kind)
 {
     switch (kind) {
     case LineKind::GroupHeading:
@@ -122,7 +122,7 @@ void ReportPainter::paintColumnHeadings(QPainter& painter) const
 
 void ReportPainter::paintLine(QPainter& painter, const PlacedLine& line) const
 {
-    paintGround(painter, line.place, m_report.lineKind(line.line));
+    paintBackground(painter, line.place, m_report.lineKind(line.line));
     for (const CellBox& cell : m_pages.lines().cells(line.line))
         paintCell(painter, line, cell);
 }
