@@ -41,7 +41,7 @@ private:
     std::string_view m_text;
     char m_separator;
     std::size_t m_at = 0;
-    std::vector<std::string> m_cells; ///< kept with their room; the record has the first of them
+    std::vector<std::string> m_cells; ///< reused to keep their memory; the record has the first of them
     std::size_t m_count = 0;
     qint64 m_line = 0;
     qint64 m_nextLine = 1;

@@ -28,7 +28,7 @@ constexpr auto views = std::to_array<View>({
     {"takings_by_group", "SELECT shop, shop_name, day, group_no, group_name, sum(quantity) AS quantity, "
                          "round(sum(takings), 2) AS takings FROM plu_lines "
                          "GROUP BY shop, shop_name, day, group_no, group_name"},
-    // A day that was collected only in part is there, too, with nothing where nothing came.
+    // A day that was only partly collected is included, with null for what is missing.
     {"day_lines",
      "SELECT t.shop, s.name AS shop_name, t.day, t.quantity, t.takings, t.net_sales "
      "FROM (SELECT shop, day, sum(quantity) AS quantity, sum(takings) AS takings, sum(net_sales) AS "

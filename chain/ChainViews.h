@@ -1,4 +1,4 @@
-// The views of a chain: its takings from every side; see docs/chain.md.
+// The views of a chain: its takings by day, shop, group and PLU; see docs/chain.md.
 #pragma once
 
 #include <string>

@@ -19,11 +19,11 @@ inline constexpr int lockFamily = 0x4E76;
 class Server
 {
 public:
-    /// @param connection in the words of PostgreSQL: "host=... dbname=... user=..." or "postgresql://...".
+    /// @param connection as PostgreSQL reads it: "host=... dbname=... user=..." or "postgresql://...".
     /// @throws ChainError BadConnection, Unreachable; Unfit for a database that cannot hold every name.
     explicit Server(const QString& connection);
 
-    /// Does @p work in one transaction: wholly, or not at all. @throws ChainError.
+    /// Does @p work in one transaction: completely or not at all. @throws ChainError.
     void transact(const std::function<void(pqxx::work&)>& work);
 
     /// "database chain at db.example", for sentences.
@@ -40,7 +40,7 @@ private:
     [[nodiscard]] QString plain(const char* what) const;
 
     QString m_where;
-    QString m_password; ///< not to be shown
+    QString m_password; ///< never shown
     std::unique_ptr<Connection> m_connection;
 };
 

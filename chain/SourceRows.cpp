@@ -92,8 +92,8 @@ void appendSum(std::string& line, std::string_view sum, int places)
     line += number->shifted(-places).text();
 }
 
-/// Goes through a query, whose first columns are @p columns and all others sums, which come as texts and with
-/// so many @p places too few.
+/// Reads a query whose first columns are @p columns and whose other columns are sums, as texts and multiplied
+/// by ten to the power of @p places.
 RowsDigest readAll(store::BoundQuery& query, std::span<const ChainColumn> columns, int places,
                    const RowSink& sink)
 {

@@ -46,7 +46,7 @@ void restore(const Workplace& workplace, const Invocation& words)
     const auto lock = lockFor(workplace, values);
     const QString notice = customers::restoreSafetyCopy(values.customerPath, copy);
     if (!notice.isEmpty())
-        tell(notice);
+        printMessage(notice);
 }
 
 } // namespace norvane::command

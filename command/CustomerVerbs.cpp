@@ -156,7 +156,7 @@ void checkCustomer(const Workplace& workplace, const Invocation& words)
         workplace.show(listing);
     if (!listing.isEmpty())
         throw CommandError(ExitCode::Unsound, {});
-    tellStep(u"Nothing is wrong."_s);
+    printStep(u"Nothing is wrong."_s);
 }
 
 } // namespace norvane::command

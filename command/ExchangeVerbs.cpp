@@ -40,8 +40,8 @@ public:
     RegisterLine(const RegisterLine&) = delete;
     RegisterLine& operator=(const RegisterLine&) = delete;
 
-    /// @return what dialling gave, 0 on a direct line. @throws RuntimeFailure with
-    /// Failure::UserInterrupt after a signal.
+    /// @return the result of dialling, 0 on a direct line. @throws RuntimeFailure with Failure::UserInterrupt
+    /// after a signal.
     int connect(const link::LinkSettings& link)
     {
         m_link = link;
@@ -58,7 +58,7 @@ public:
 private:
     std::unique_ptr<SerialLine> m_line = makeSerialLine();
     StoppableClock m_clock;
-    link::Modem m_modem{*m_line, m_clock, tellStep};
+    link::Modem m_modem{*m_line, m_clock, printStep};
     link::LinkSettings m_link;
     bool m_isCalling = false;
 };
@@ -80,8 +80,8 @@ link::RunOutside outsideOf(const Workplace& workplace, const ApplicationValues& 
 {
     return {.runAndWait = [&values](const QString& line) { return runTool(values, line); },
             .readStatus = ReadStatusOut,
-            .showStep = tellStep,
-            .showNotice = tell,
+            .showStep = printStep,
+            .showNotice = printMessage,
             .goOn =
                 [] {
                     stopIfSignalled();
@@ -162,7 +162,7 @@ void exchangeWith(const Workplace& workplace, const Invocation& words, exchange:
     const bool isUpload = direction == exchange::Direction::Upload;
     if (!(isUpload ? runner.UploadData() : runner.downloaddata()))
         throw CommandError(runner.lacksCopy() ? ExitCode::Unwritable : ExitCode::Stopped, {});
-    tellStep(runner.resultInWords());
+    printStep(runner.resultInWords());
 }
 
 /// The option that answers Yes to the question of the next collection; empty if it would ask nothing.
@@ -197,10 +197,10 @@ void collect(const Workplace& workplace, const Invocation& words)
     try {
         if (!run.collect(clearFirst))
             throw CommandError(ExitCode::Stopped, clearHint(values));
-        tellStep(run.resultInWords());
+        printStep(run.resultInWords());
     } catch (const RuntimeFailure&) {
         if (const QString hint = clearHint(values); !hint.isEmpty())
-            tell(hint);
+            printMessage(hint);
         throw;
     }
 }

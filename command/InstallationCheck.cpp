@@ -45,7 +45,7 @@ public:
 private:
     [[nodiscard]] QString database() const { return m_temporary.filePath(databaseFileName); }
 
-    void tell(const QString& text) { m_found.mistakes.append(text); }
+    void addMistake(const QString& text) { m_found.mistakes.append(text); }
 
     void checkLayout(const QString& path)
     {
@@ -56,7 +56,7 @@ private:
         try {
             (void)reports::runReport(request);
         } catch (const reports::ReportError& error) {
-            tell(error.text());
+            addMistake(error.text());
         }
     }
 
@@ -67,7 +67,7 @@ private:
         try {
             act();
         } catch (const RuntimeFailure& failure) {
-            tell(u"%1: %2"_s.arg(path, failure.text()));
+            addMistake(u"%1: %2"_s.arg(path, failure.text()));
         }
     }
 
@@ -86,7 +86,7 @@ private:
         });
         const auto report = screen.report();
         if (screen.buttons().print && !pathExists(m_folder.filePath(report.file))) {
-            tell(u"%1, section [CrystalReport], key CrystalReportFile: there is no file %2"_s.arg(
+            addMistake(u"%1, section [CrystalReport], key CrystalReportFile: there is no file %2"_s.arg(
                 path, report.file));
         }
     }

@@ -40,7 +40,7 @@ void run(const QStringList& words)
 ExitCode stopped()
 {
     const auto code = stopSignal() == SIGTERM ? ExitCode::Terminated : ExitCode::Interrupted;
-    tell(u"Stopped by %1."_s.arg(code == ExitCode::Terminated ? u"SIGTERM" : u"SIGINT"));
+    printMessage(u"Stopped by %1."_s.arg(code == ExitCode::Terminated ? u"SIGTERM" : u"SIGINT"));
     return code;
 }
 
@@ -51,20 +51,20 @@ ExitCode guarded(const QStringList& words)
         return ExitCode::Done;
     } catch (const CommandError& error) {
         if (!error.text().isEmpty())
-            tell(error.text());
+            printMessage(error.text());
         return error.code();
     } catch (const reports::TargetError& error) {
-        tell(error.text());
+        printMessage(error.text());
         return ExitCode::Unwritable;
     } catch (const reports::ReportError& error) {
-        tell(u"Report Error: %1"_s.arg(error.text()));
+        printMessage(u"Report Error: %1"_s.arg(error.text()));
     } catch (const RuntimeFailure& failure) {
         if (failure.failure() == Failure::UserInterrupt)
             return stopped();
-        tell(u"Run-time error '%1': %2"_s.arg(failure.number()).arg(failure.text()));
+        printMessage(u"Run-time error '%1': %2"_s.arg(failure.number()).arg(failure.text()));
         return codeOf(failure);
     } catch (const std::exception& failure) {
-        tell(u"Internal error: %1"_s.arg(QString::fromLocal8Bit(failure.what())));
+        printMessage(u"Internal error: %1"_s.arg(QString::fromLocal8Bit(failure.what())));
     }
     return ExitCode::Failed;
 }
@@ -73,7 +73,7 @@ ExitCode guarded(const QStringList& words)
 void keepToolkitQuiet(QtMsgType type, const QMessageLogContext& /*place*/, const QString& text)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)
-        tell(text);
+        printMessage(text);
 }
 
 } // namespace

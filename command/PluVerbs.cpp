@@ -1,4 +1,4 @@
-// PLUs out to a spreadsheet and back.
+// Exports PLUs to a spreadsheet and imports them.
 #include "articles/PluExport.h"
 #include "articles/PluUpdate.h"
 #include "base/CustomerSettings.h"
@@ -65,7 +65,8 @@ void failWith(const articles::PluMistakes& mistakes, const QString& path)
         return;
     const auto shown = mistakes.first();
     for (const auto& [line, column, reason] : shown)
-        tell(u"line %1%2: %3"_s.arg(line).arg(column.isEmpty() ? QString() : u", "_s + column, reason));
+        printMessage(
+            u"line %1%2: %3"_s.arg(line).arg(column.isEmpty() ? QString() : u", "_s + column, reason));
     const QString further =
         mistakes.count() > shown.size() ? u" The first %1 are listed."_s.arg(shown.size()) : QString();
     throw CommandError(
@@ -80,7 +81,7 @@ bool untilSignalled()
     return true;
 }
 
-/// A file that is held against the PLUs of a customer.
+/// A file that is compared with the PLUs of a customer.
 class FileOfPlus
 {
 public:
@@ -153,7 +154,7 @@ void importFrom(const Workplace& workplace, const ApplicationValues& values, con
         return importFrom(file, workplace, values, work);
     });
     work.setResult(result);
-    tellStep(result);
+    printStep(result);
 }
 
 } // namespace

@@ -100,7 +100,7 @@ public:
         : m_workplace(workplace),
           m_words(words), m_options{vanishedOf(words), words.has("adopt"_L1), [](const QString& text) {
                                         stopIfSignalled();
-                                        tellStep(text);
+                                        printStep(text);
                                     }}
     {
     }
@@ -112,7 +112,7 @@ public:
 private:
     [[nodiscard]] std::vector<ApplicationValues> takeCustomers();
     void publishAll(chain::Server& server, const std::vector<ApplicationValues>& customers);
-    void publishOrTell(chain::Server& server, const ApplicationValues& customer);
+    void publishOrReport(chain::Server& server, const ApplicationValues& customer);
     void publish(chain::Server& server, const ApplicationValues& customer);
     void note(ExitCode code, const QString& text);
 
@@ -160,7 +160,7 @@ void PublishRun::publishAll(chain::Server& server, const std::vector<Application
 {
     try {
         for (const auto& customer : customers)
-            publishOrTell(server, customer);
+            publishOrReport(server, customer);
     } catch (const chain::ChainError&) {
         m_workplace.show(m_listing);
         throw;
@@ -168,7 +168,7 @@ void PublishRun::publishAll(chain::Server& server, const std::vector<Application
     m_workplace.show(m_listing);
 }
 
-void PublishRun::publishOrTell(chain::Server& server, const ApplicationValues& customer)
+void PublishRun::publishOrReport(chain::Server& server, const ApplicationValues& customer)
 {
     try {
         publish(server, customer);
@@ -214,7 +214,7 @@ void PublishRun::publish(chain::Server& server, const ApplicationValues& custome
 void PublishRun::note(ExitCode code, const QString& text)
 {
     if (!text.isEmpty())
-        tell(text);
+        printMessage(text);
     if (m_code == ExitCode::Done)
         m_code = code;
 }

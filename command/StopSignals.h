@@ -5,13 +5,13 @@ namespace norvane::command
 {
 
 /// From now on the first SIGINT or SIGTERM is remembered for stopSignal(); a second one has its default
-/// effect. A signal that is ignored, as that of a shell's background job, is still ignored.
+/// effect. A signal that is ignored, such as that of a shell's background job, is still ignored.
 void catchStopSignals();
 
 /// The number of the signal that asks the run to stop, 0 before one.
 [[nodiscard]] int stopSignal();
 
-/// To be called where a run can stop: everything stored so far is whole.
+/// To be called where a run can stop: everything stored so far is consistent.
 /// @throws RuntimeFailure with Failure::UserInterrupt after a signal.
 void stopIfSignalled();
 

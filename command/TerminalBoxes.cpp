@@ -46,25 +46,25 @@ void print(const QByteArray& bytes)
     }
 }
 
-void tell(const QString& text)
+void printMessage(const QString& text)
 {
     std::fprintf(stderr, "%s\n", lines(text).toLocal8Bit().constData());
 }
 
-void tellStep(const QString& text)
+void printStep(const QString& text)
 {
     if (isTerminal(Output::Error) && !text.isEmpty())
-        tell(text);
+        printMessage(text);
 }
 
 void TerminalBoxes::message(const QString& text, const QString& title, BoxIcon /*icon*/)
 {
-    tell(title.isEmpty() ? text : u"%1: %2"_s.arg(title, text));
+    printMessage(title.isEmpty() ? text : u"%1: %2"_s.arg(title, text));
 }
 
 bool TerminalBoxes::ask(const QString& text, const QString& title, BoxIcon /*icon*/, BoxAnswer /*preset*/)
 {
-    tell(u"%1: %2\nAnswered No."_s.arg(title, lines(text)));
+    printMessage(u"%1: %2\nAnswered No."_s.arg(title, lines(text)));
     return false;
 }
 
@@ -72,13 +72,13 @@ bool TerminalBoxes::answerByOption(const QString& text, const QString& title, QL
 {
     const bool isYes = m_options.contains(option);
     const QString answer = isYes ? u"Answered Yes by --%1."_s : u"Answered No. To answer Yes, add --%1."_s;
-    tell(u"%1: %2\n%3"_s.arg(title, lines(text), answer.arg(option)));
+    printMessage(u"%1: %2\n%3"_s.arg(title, lines(text), answer.arg(option)));
     return isYes;
 }
 
 QString TerminalBoxes::input(const QString& prompt, const QString& title, const QString& /*initial*/)
 {
-    tell(u"%1: %2\nLeft empty."_s.arg(title, prompt));
+    printMessage(u"%1: %2\nLeft empty."_s.arg(title, prompt));
     return {};
 }
 

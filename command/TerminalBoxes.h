@@ -36,8 +36,8 @@ enum class Output { Standard, Error };
 /// Writes to standard output. @throws CommandError Unwritable when not all of it can be written.
 void print(const QByteArray& bytes);
 /// Writes a line to standard error.
-void tell(const QString& text);
+void printMessage(const QString& text);
 /// The same for the steps of a run, which a script does not need: only where standard error is a terminal.
-void tellStep(const QString& text);
+void printStep(const QString& text);
 
 } // namespace norvane::command

@@ -15,8 +15,8 @@ std::unique_ptr<QPrinter> defaultPrinter()
     return printer.isNull() ? nullptr : std::make_unique<QPrinter>(printer, QPrinter::HighResolution);
 }
 
-/// Outside Windows the quality is an option of the print server's job, a name and a value, which the widget
-/// kit sets by this number and not by a function. On Windows the full resolution is the high quality.
+/// Outside Windows the quality is an option of the print server's job, a name and a value, which the toolkit
+/// sets by this number and not by a function. On Windows the full resolution is the high quality.
 void askForHighQuality([[maybe_unused]] QPrinter& printer)
 {
 #ifndef Q_OS_WIN

@@ -22,7 +22,7 @@ struct ImportCase {
     std::string rows; ///< of a text that fails those of the records ahead
     char stamp = '\x11';
     int failure = 0;
-    const char* told = ""; ///< what the failure's message has to name
+    const char* message = ""; ///< what the failure's message has to name
 };
 
 class PollImport : public testing::Test
@@ -49,7 +49,7 @@ protected:
             importPollFile(*file, database, m_values, QDate(2026, 11, 24));
         } catch (const RuntimeFailure& thrown) {
             failure = thrown.number();
-            EXPECT_TRUE(thrown.text().contains(QLatin1StringView(c.told))) << thrown.what();
+            EXPECT_TRUE(thrown.text().contains(QLatin1StringView(c.message))) << thrown.what();
         }
         EXPECT_EQ(failure, c.failure);
         EXPECT_EQ(test::rowsOf(m_values.databasePath, QLatin1StringView(file->table), u"\n"), c.rows);
@@ -102,7 +102,7 @@ TEST_F(PollImport, TurnsRecordsIntoRows)
 const struct {
     const char* text; ///< after a good record
     int failure;
-    const char* told;
+    const char* message;
 } badAmounts[] = {
     {"3\r\n", 62, "poll190.txt, record 2"}, {"abc,3\r\n", 13, "\"abc\""}, {"12x,3\r\n", 13, "12x"},
     {"nan,inf\r\n", 13, "record 2"},        {",3\r\n", 13, "record 2"},   {"3,\r\n", 13, "record 2"},
@@ -119,11 +119,11 @@ const ImportCase badRecords[] = {
     {"a stamp without a layout", "poll194.txt", "7,1,2,3,4", "", '\x51', 3314, "51"},
 };
 
-TEST_F(PollImport, EndsAtABadRecordAndKeepsThoseAhead)
+TEST_F(PollImport, EndsAtABadRecordAndKeepsTheOnesBefore)
 {
-    for (const auto& [text, failure, told] : badAmounts) {
-        import(
-            {text, "poll190.txt", QByteArray("1,2\r\n") + text, "1|24/11/2026|1|2", '\x11', failure, told});
+    for (const auto& [text, failure, message] : badAmounts) {
+        import({text, "poll190.txt", QByteArray("1,2\r\n") + text, "1|24/11/2026|1|2", '\x11', failure,
+                message});
     }
     for (const ImportCase& c : badRecords)
         import(c);
