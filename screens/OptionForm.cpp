@@ -51,7 +51,7 @@ void OptionForm::ShowFields()
     const QString notice = std::exchange(m_notice, {});
     if (m_list && notice.isEmpty())
         ui::announce(*this, spokenRecord());
-    Q_EMIT told(notice);
+    Q_EMIT noticeChanged(notice);
 }
 
 /// The focus does not move, and nothing else says which record is shown.
@@ -112,7 +112,7 @@ void OptionForm::tellFailure(const RuntimeFailure& failure)
         showNothing();
     showFailure(failure, m_boxes);
     if (canAdd) {
-        Q_EMIT told(u"The table is empty. Press Add to enter a record."_s);
+        Q_EMIT noticeChanged(u"The table is empty. Press Add to enter a record."_s);
     } else {
         exitForm();
     }
@@ -152,7 +152,7 @@ void OptionForm::addRecord()
 {
     drop(unsavedChanges());
     startRecord();
-    Q_EMIT told(std::exchange(m_notice, {}));
+    Q_EMIT noticeChanged(std::exchange(m_notice, {}));
     CSPict1->focusNew();
 }
 
@@ -189,7 +189,7 @@ bool OptionForm::save()
         return false;
     }
     showUnchanged(fields);
-    Q_EMIT told(recordSaved(shownRecord()));
+    Q_EMIT noticeChanged(recordSaved(shownRecord()));
     reloadList();
     return true;
 }
@@ -212,7 +212,7 @@ void OptionForm::keepNumber(BoundFields fields)
     m_editor->restoreNumber(fields);
     CSPict1->showContents(fields);
     showStar();
-    Q_EMIT told(u"Nothing was stored: %1 keeps its number"_s.arg(shownRecord()));
+    Q_EMIT noticeChanged(u"Nothing was stored: %1 keeps its number"_s.arg(shownRecord()));
 }
 
 QString OptionForm::shownRecord() const
@@ -224,7 +224,7 @@ QString OptionForm::shownRecord() const
 
 void OptionForm::tellRefusal(const RuntimeFailure& failure)
 {
-    Q_EMIT told(nothingStored(failure));
+    Q_EMIT noticeChanged(nothingStored(failure));
     if (failure.failure() == Failure::DuplicateKey) {
         m_boxes.message(u"This item code already exists!\rPlease try again"_s,
                         u"Data Error Code%1"_s.arg(failure.number()), BoxIcon::Critical);
@@ -289,7 +289,7 @@ void OptionForm::goTo(const QString& key)
 
 void OptionForm::tellNext(const store::FieldDefinition& field, const QString& sought)
 {
-    Q_EMIT told(foundNext(caption(), CSPict1->labelOf(field.name), sought, m_list != nullptr));
+    Q_EMIT noticeChanged(foundNext(caption(), CSPict1->labelOf(field.name), sought, m_list != nullptr));
 }
 
 void OptionForm::exitForm()
@@ -309,7 +309,7 @@ void OptionForm::printReport()
 void OptionForm::rejectCell(GridControl& grid, const QModelIndex& index, const QString& why)
 {
     const QPersistentModelIndex cell = index; // the rows may be read again while the box is open
-    Q_EMIT told(why);
+    Q_EMIT noticeChanged(why);
     m_boxes.message(u"Invalid Data Entry"_s, u"Operation Error"_s, BoxIcon::Exclamation);
     grid.retryCell(cell);
 }

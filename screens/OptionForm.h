@@ -64,7 +64,7 @@ public:
 Q_SIGNALS:
     /// The result of the last action, in words for the status bar; empty once the screen shows another
     /// record.
-    void told(const QString& text);
+    void noticeChanged(const QString& text);
     /// getBack() has nothing to restore.
     void nothingToGetBack();
 

@@ -160,7 +160,7 @@ void OptionForm::layOut(QHBoxLayout* buttons)
 void OptionForm::addFindBar(GridControl& grid, QVBoxLayout& column)
 {
     grid.setAccessibleName(caption());
-    connect(&grid, &GridControl::stored, this, &OptionForm::told);
+    connect(&grid, &GridControl::stored, this, &OptionForm::noticeChanged);
     auto* const bar = new GridFindBar(grid, this);
     column.insertWidget(0, bar);
     m_size.rheight() += bar->sizeHint().height() + column.spacing();

@@ -80,7 +80,7 @@ void OptionForm::closeEvent(QCloseEvent* event)
     attempt([&] { leaves = mayLeave(); });
     event->setAccepted(leaves || m_failed);
     if (event->isAccepted())
-        Q_EMIT told(std::exchange(m_notice, {}));
+        Q_EMIT noticeChanged(std::exchange(m_notice, {}));
 }
 
 void OptionForm::getBack()
@@ -95,10 +95,10 @@ void OptionForm::returnTo(const LostChanges& lost)
 {
     const auto changes = unsavedChanges();
     if (!lost.isNew && !m_editor->goBackTo(lost.seen))
-        return Q_EMIT told(changesGone(lost.record));
+        return Q_EMIT noticeChanged(changesGone(lost.record));
     drop(changes);
     putBack(lost);
-    Q_EMIT told(m_notice.isEmpty() ? changesBack(lost.record) : std::exchange(m_notice, {}));
+    Q_EMIT noticeChanged(m_notice.isEmpty() ? changesBack(lost.record) : std::exchange(m_notice, {}));
     CSPict1->focusFirst();
 }
 

@@ -33,7 +33,8 @@ std::unique_ptr<QDialog> makeLayout(ApplicationValues& values, Boxes& boxes, Frm
 std::unique_ptr<QDialog> makeFunctionKeys(ApplicationValues& values, Boxes& boxes, FrmMain& main)
 {
     auto form = std::make_unique<keys::FrmFunctKey>(values, boxes, &main);
-    QObject::connect(form.get(), &keys::FrmFunctKey::told, &main.statusBar1(), &MainStatusBar::setNotice);
+    QObject::connect(form.get(), &keys::FrmFunctKey::noticeChanged, &main.statusBar1(),
+                     &MainStatusBar::setNotice);
     return form;
 }
 

@@ -64,7 +64,8 @@ public:
         auto reports = std::make_unique<ScreenReports>(main, m_values, m_boxes);
         auto* const form = new screens::OptionForm(screenFile, m_values, m_boxes, reports.get(), m_losses);
         reports.release()->setParent(form);
-        QObject::connect(form, &screens::OptionForm::told, &main.statusBar1(), &MainStatusBar::setNotice);
+        QObject::connect(form, &screens::OptionForm::noticeChanged, &main.statusBar1(),
+                         &MainStatusBar::setNotice);
         QObject::connect(form, &screens::OptionForm::nothingToGetBack, &main,
                          [this, &main] { getBack(main); });
         QObject::connect(&main, &FrmMain::entryDone, form, &screens::OptionForm::refresh);

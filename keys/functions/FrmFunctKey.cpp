@@ -173,7 +173,7 @@ bool FrmFunctKey::saveRecord()
     if (!saveOrTell(m_boxes, [this] { m_keys.SaveData(m_controls); }))
         return false;
     m_shown = m_controls;
-    Q_EMIT told(u"Saved function key %1"_s.arg(selectkey->currentData().toString()));
+    Q_EMIT noticeChanged(u"Saved function key %1"_s.arg(selectkey->currentData().toString()));
     return true;
 }
 

@@ -40,7 +40,7 @@ public:
 
 Q_SIGNALS:
     /// The result of the last action, in words for the status bar.
-    void told(const QString& text);
+    void noticeChanged(const QString& text);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -50,7 +50,7 @@ protected:
     /// By the letter of the button. @return the text of the status bar.
     QString save()
     {
-        QSignalSpy message(&*m_form, &FrmFunctKey::told);
+        QSignalSpy message(&*m_form, &FrmFunctKey::noticeChanged);
         QTest::keyClick(&*m_form, Qt::Key_S, Qt::AltModifier);
         EXPECT_TRUE(message.wait());
         return message.value(0).value(0).toString();

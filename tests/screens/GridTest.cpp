@@ -95,7 +95,8 @@ const std::tuple<int, const char*, const char*, const char*> entries[] = {
 TEST_F(GridTest, CellsAreStoredAtOnce)
 {
     QString message;
-    QObject::connect(&*form, &OptionForm::told, &*form, [&message](const QString& text) { message = text; });
+    QObject::connect(&*form, &OptionForm::noticeChanged, &*form,
+                     [&message](const QString& text) { message = text; });
     for (const auto& [column, keys, kept, shown] : entries) {
         enter(0, column, keys);
         EXPECT_EQ(stored(column == 2 ? "PRICE1" : "GROUPNO"), kept);

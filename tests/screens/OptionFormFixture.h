@@ -37,7 +37,7 @@ protected:
     void show(Form opened)
     {
         form = std::move(opened);
-        QObject::connect(form.get(), &OptionForm::told, form.get(),
+        QObject::connect(form.get(), &OptionForm::noticeChanged, form.get(),
                          [this](const QString& text) { m_notice = text.toStdString(); });
     }
     void undo()
