@@ -9,19 +9,20 @@ namespace norvane::chain
 namespace
 {
 
-constexpr std::size_t bytesAtOnce = 32 * 1024;
+constexpr std::size_t bytesAtOnce = std::size_t{32} * 1024;
 
 using Result = std::unique_ptr<PGresult, decltype(&PQclear)>;
 
-/// Takes what the server still says, until it is ready for the next statement.
+/// Takes what the server still reports, until it is ready for the next statement.
 Result lastOf(PGconn* connection)
 {
     Result last(nullptr, &PQclear);
     while (PGresult* const next = PQgetResult(connection)) {
-        if (last == nullptr || PQresultStatus(last.get()) != PGRES_FATAL_ERROR)
+        if (last == nullptr || PQresultStatus(last.get()) != PGRES_FATAL_ERROR) {
             last.reset(next);
-        else
+        } else {
             PQclear(next);
+        }
     }
     return last;
 }

@@ -64,9 +64,10 @@ void failWith(const articles::PluMistakes& mistakes, const QString& path)
     if (mistakes.isEmpty())
         return;
     const auto shown = mistakes.first();
-    for (const auto& [line, column, reason] : shown)
+    for (const auto& [line, column, reason] : shown) {
         printMessage(
             u"line %1%2: %3"_s.arg(line).arg(column.isEmpty() ? QString() : u", "_s + column, reason));
+    }
     const QString further =
         mistakes.count() > shown.size() ? u" The first %1 are listed."_s.arg(shown.size()) : QString();
     throw CommandError(

@@ -58,7 +58,11 @@ public:
 
     /// By value, exactly: 1.50 equals 1.5.
     [[nodiscard]] std::weak_ordering operator<=>(const Decimal& other) const;
-    [[nodiscard]] bool operator==(const Decimal& other) const { return (*this <=> other) == 0; }
+    // The check takes the 0 that an order is compared with for a null pointer.
+    [[nodiscard]] bool operator==(const Decimal& other) const
+    {
+        return (*this <=> other) == 0; // NOLINT(modernize-use-nullptr)
+    }
 
 private:
     std::int64_t m_coefficient = 0;
