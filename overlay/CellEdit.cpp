@@ -55,7 +55,7 @@ CellEdit::CellEdit(QWidget* parent) : TextBox(parent)
     setMaxLength(cellTextLimit);
 }
 
-void CellEdit::showContents(const Cell& contents, const PrintedText& printed)
+void CellEdit::showContents(const TextCell& contents, const PrintedText& printed)
 {
     m_contents = contents;
     m_printed = printed;
@@ -162,10 +162,10 @@ bool CellEdit::walk(const QKeyEvent& event)
 
 bool CellEdit::walkByArrow(int key)
 {
-    static const QHash<int, Direction> ways{{Qt::Key_Left, Direction::Left},
-                                            {Qt::Key_Right, Direction::Right},
-                                            {Qt::Key_Up, Direction::Up},
-                                            {Qt::Key_Down, Direction::Down}};
+    static const QHash<int, ArrowDirection> ways{{Qt::Key_Left, ArrowDirection::Left},
+                                                 {Qt::Key_Right, ArrowDirection::Right},
+                                                 {Qt::Key_Up, ArrowDirection::Up},
+                                                 {Qt::Key_Down, ArrowDirection::Down}};
     const bool isSideways = key == Qt::Key_Left || key == Qt::Key_Right;
     if (!ways.contains(key) || (isSideways && !leadsOut(key)))
         return false;

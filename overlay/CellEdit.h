@@ -25,7 +25,7 @@ class CellEdit : public ui::TextBox
 public:
     explicit CellEdit(QWidget* parent);
 
-    void showContents(const Cell& contents, const PrintedText& printed);
+    void showContents(const TextCell& contents, const PrintedText& printed);
     [[nodiscard]] bool isCut() const { return m_printed.isCut; }
     /// Size of the keyboard on the screen.
     void setPixelsPerMillimetre(double pixels);
@@ -35,7 +35,7 @@ Q_SIGNALS:
     void doubleClicked();
     void entered(); ///< got the focus
     void left();
-    void wayChosen(Direction direction);
+    void wayChosen(ArrowDirection direction);
     void menuOpens(QMenu* menu); ///< further entries may be added
     void nextWanted();
     void previousWanted();
@@ -59,7 +59,7 @@ private:
     void takeLook();
     void paintPrinted(QPainter& painter) const;
 
-    Cell m_contents;
+    TextCell m_contents;
     PrintedText m_printed;
     double m_pixelsPerMillimetre = 1;
     QPoint m_pressedAt;

@@ -17,9 +17,9 @@ struct Middle {
     double y = 0;
 };
 
-Middle middleOf(const KeyLayout& layout, int cell)
+Middle middleOf(const OverlayLayout& layout, int cell)
 {
-    const KeyPlace& key = layout.keyOf(cell);
+    const OverlayKey& key = layout.keyOf(cell);
     const double lineHeight = key.height.inMillimetres() / key.cells;
     return {key.x.inMillimetres() + key.width.inMillimetres() / 2,
             key.y.inMillimetres() + (cell - key.firstCell + 0.5) * lineHeight};
@@ -31,18 +31,18 @@ struct Way {
     double sideways = 0;
 };
 
-Way wayTo(Middle from, Middle to, Direction direction)
+Way wayTo(Middle from, Middle to, ArrowDirection direction)
 {
     const double right = to.x - from.x;
     const double down = to.y - from.y;
     switch (direction) {
-    case Direction::Left:
+    case ArrowDirection::Left:
         return {-right, std::abs(down)};
-    case Direction::Right:
+    case ArrowDirection::Right:
         return {right, std::abs(down)};
-    case Direction::Up:
+    case ArrowDirection::Up:
         return {-down, std::abs(right)};
-    case Direction::Down:
+    case ArrowDirection::Down:
         break;
     }
     return {down, std::abs(right)};
@@ -60,18 +60,18 @@ constexpr double sideBySide = 1;
 
 } // namespace
 
-std::vector<int> readingOrder(const KeyLayout& layout)
+std::vector<int> readingOrder(const OverlayLayout& layout)
 {
     std::vector<int> cells(static_cast<std::size_t>(layout.cellCount()));
     std::iota(cells.begin(), cells.end(), 0);
     std::ranges::sort(cells, {}, [&layout](int cell) {
-        const KeyPlace& key = layout.keyOf(cell);
+        const OverlayKey& key = layout.keyOf(cell);
         return std::tuple(key.row, key.column, cell);
     });
     return cells;
 }
 
-int neighbour(const KeyLayout& layout, int cell, Direction direction)
+int neighbour(const OverlayLayout& layout, int cell, ArrowDirection direction)
 {
     const Middle from = middleOf(layout, cell);
     int nearest = cell;

@@ -1,7 +1,7 @@
 // See CorrectionForm.h.
 #include "overlay/CorrectionForm.h"
 
-#include "overlay/SheetPrint.h"
+#include "overlay/TestPage.h"
 #include "platform/Boxes.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"

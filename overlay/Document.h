@@ -1,7 +1,7 @@
 // An overlay document: a fixed list of text cells, each with its own colours and font.
 #pragma once
 
-#include "overlay/KeyLayout.h"
+#include "overlay/OverlayLayout.h"
 
 #include <QColor>
 #include <QString>
@@ -42,13 +42,13 @@ struct CellFont {
 };
 
 /// A text cell with its colours and font.
-struct Cell {
+struct TextCell {
     QString text; ///< leading blanks count
     Colour background = white;
     Colour textColour = black;
     CellFont font;
 
-    bool operator==(const Cell&) const = default;
+    bool operator==(const TextCell&) const = default;
 };
 
 /// The most characters that a cell holds; a file with a longer line is not an overlay.
@@ -63,19 +63,19 @@ public:
 
     [[nodiscard]] Keyboard keyboard() const { return m_keyboard; }
     [[nodiscard]] const KeyboardGeometry& geometry() const { return geometryOf(m_keyboard); }
-    [[nodiscard]] const KeyLayout& layout() const { return layoutOf(m_keyboard); }
+    [[nodiscard]] const OverlayLayout& layout() const { return layoutOf(m_keyboard); }
 
     [[nodiscard]] int cellCount() const { return static_cast<int>(m_cells.size()); }
-    [[nodiscard]] const std::vector<Cell>& cells() const { return m_cells; }
+    [[nodiscard]] const std::vector<TextCell>& cells() const { return m_cells; }
     /// @param index from 0 to cellCount() - 1.
-    [[nodiscard]] const Cell& cell(int index) const { return m_cells[static_cast<std::size_t>(index)]; }
-    [[nodiscard]] Cell& cell(int index) { return m_cells[static_cast<std::size_t>(index)]; }
+    [[nodiscard]] const TextCell& cell(int index) const { return m_cells[static_cast<std::size_t>(index)]; }
+    [[nodiscard]] TextCell& cell(int index) { return m_cells[static_cast<std::size_t>(index)]; }
 
     bool operator==(const Document&) const = default;
 
 private:
     Keyboard m_keyboard;
-    std::vector<Cell> m_cells;
+    std::vector<TextCell> m_cells;
 };
 
 } // namespace norvane::overlay

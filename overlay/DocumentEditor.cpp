@@ -56,8 +56,8 @@ public:
 private:
     struct Change {
         int cell;
-        Cell before;
-        Cell after;
+        TextCell before;
+        TextCell after;
     };
     DocumentEditor& m_editor;
     int m_typing;
@@ -66,7 +66,7 @@ private:
 
 DocumentEditor::DocumentEditor(Keyboard keyboard, QObject* parent) : QObject(parent), m_document(keyboard) {}
 
-void DocumentEditor::put(int cell, const Cell& contents)
+void DocumentEditor::put(int cell, const TextCell& contents)
 {
     m_clicked = -1;
     m_document.cell(cell) = contents;
@@ -95,13 +95,13 @@ void DocumentEditor::pushChanges(const QString& name, const Document& before, in
 
 bool DocumentEditor::replacesOther(const QString& path) const
 {
-    return pathExists(path) && existingPath(path) != m_fileInHand;
+    return pathExists(path) && existingPath(path) != m_storedFile;
 }
 
-void DocumentEditor::restart(const QString& fileName, const QString& fileInHand)
+void DocumentEditor::restart(const QString& fileName, const QString& storedFile)
 {
     m_fileName = fileName;
-    m_fileInHand = fileInHand;
+    m_storedFile = storedFile;
     Q_EMIT fileNameChanged();
 }
 
@@ -153,11 +153,11 @@ void DocumentEditor::doubleClick(int cell)
 
 bool DocumentEditor::isWhiteKey(int cell) const
 {
-    const KeyPlace& key = m_document.layout().keyOf(cell);
+    const OverlayKey& key = m_document.layout().keyOf(cell);
     const auto first = m_document.cells().begin() + key.firstCell;
     return key.cells > 1 && key.firstCell == cell &&
            std::all_of(first, first + key.cells,
-                       [](const Cell& each) { return drawnBackground(each.background) == Qt::white; });
+                       [](const TextCell& each) { return drawnBackground(each.background) == Qt::white; });
 }
 
 void DocumentEditor::giveColours(Document& document, int cell) const
@@ -176,17 +176,17 @@ void DocumentEditor::importLevel(int level, const QString& databasePath)
          [&](Document& document) { importdata(document, level, databasePath); });
 }
 
-std::vector<Cell> DocumentEditor::copyKey(int cell) const
+std::vector<TextCell> DocumentEditor::copyKey(int cell) const
 {
-    const KeyPlace& key = m_document.layout().keyOf(cell);
+    const OverlayKey& key = m_document.layout().keyOf(cell);
     const auto first = m_document.cells().begin() + key.firstCell;
     return {first, first + key.cells};
 }
 
-void DocumentEditor::pasteKey(int cell, const std::vector<Cell>& cells)
+void DocumentEditor::pasteKey(int cell, const std::vector<TextCell>& cells)
 {
     endTyping();
-    const KeyPlace& key = m_document.layout().keyOf(cell);
+    const OverlayKey& key = m_document.layout().keyOf(cell);
     edit(u"Paste Key"_s, [&](Document& document) {
         const int count = std::min(key.cells, static_cast<int>(cells.size()));
         for (int line = 0; line < count; ++line)

@@ -56,9 +56,9 @@ public:
     void doubleClick(int cell);
     /// @throws RuntimeFailure as importdata() does. What was imported, by then too, is one step.
     void importLevel(int level, const QString& databasePath);
-    [[nodiscard]] std::vector<Cell> copyKey(int cell) const;
+    [[nodiscard]] std::vector<TextCell> copyKey(int cell) const;
     /// Gives the key of @p cell as many of @p cells as it has.
-    void pasteKey(int cell, const std::vector<Cell>& cells);
+    void pasteKey(int cell, const std::vector<TextCell>& cells);
 
 Q_SIGNALS:
     void cellChanged(int cell);
@@ -66,10 +66,10 @@ Q_SIGNALS:
 
 private:
     class Step;
-    void put(int cell, const Cell& contents);
+    void put(int cell, const TextCell& contents);
     void edit(const QString& name, const std::function<void(Document&)>& work, int typing = 0);
     void pushChanges(const QString& name, const Document& before, int typing);
-    void restart(const QString& fileName, const QString& fileInHand);
+    void restart(const QString& fileName, const QString& storedFile);
     void giveColours(Document& document, int cell) const;
     [[nodiscard]] bool isWhiteKey(int cell) const;
 
@@ -77,7 +77,7 @@ private:
     QUndoStack m_history;
     CurrentStyle m_style;
     QString m_fileName;
-    QString m_fileInHand; ///< read or written last
+    QString m_storedFile; ///< read or written last
     int m_typing = 1;
     int m_clicked = -1; ///< the cell of the click that made the last step, -1 if it was not a click
 };

@@ -1,7 +1,7 @@
 // See DocumentFile.h.
 #include "overlay/DocumentFile.h"
 
-#include "overlay/OverlayText.h"
+#include "overlay/KeyLines.h"
 #include "platform/FilePaths.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
@@ -20,10 +20,10 @@ namespace
 {
 
 /// The lines of a file, one after the other: a file of another kind may be of any size.
-class LineSource
+class LineReader
 {
 public:
-    explicit LineSource(const QString& path) : m_file(openToRead(path)) {}
+    explicit LineReader(const QString& path) : m_file(openToRead(path)) {}
 
     /// @throws RuntimeFailure with Failure::InputPastEnd after the last line, which may have no line end.
     QString next()
@@ -76,7 +76,7 @@ QByteArray sizeText(float size)
 }
 
 /// Values read before a failing line remain in the cell.
-void readCell(LineSource& lines, Cell& cell)
+void readCell(LineReader& lines, TextCell& cell)
 {
     cell.text = lines.next();
     cell.background = toColour(lines.next());
@@ -92,7 +92,7 @@ QByteArray yesNo(bool value)
     return value ? QByteArrayLiteral("True") : QByteArrayLiteral("False");
 }
 
-void appendCell(QByteArray& content, const Cell& cell)
+void appendCell(QByteArray& content, const TextCell& cell)
 {
     for (const QByteArray& line :
          {toWindows1252(RemoveCarriage(cell.text)), QByteArray::number(cell.background.number),
@@ -105,7 +105,7 @@ void appendCell(QByteArray& content, const Cell& cell)
 
 void readDocument(const QString& path, Document& document)
 {
-    LineSource lines(path);
+    LineReader lines(path);
     for (int index = 0; index < document.cellCount(); ++index)
         readCell(lines, document.cell(index));
 }
@@ -113,7 +113,7 @@ void readDocument(const QString& path, Document& document)
 void writeDocument(const QString& path, const Document& document)
 {
     QByteArray content;
-    for (const Cell& cell : document.cells())
+    for (const TextCell& cell : document.cells())
         appendCell(content, cell);
     writeWholeFile(path, content);
 }

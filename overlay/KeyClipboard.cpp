@@ -20,24 +20,24 @@ const QString& format()
 
 } // namespace
 
-static QDataStream& operator<<(QDataStream& stream, const Cell& cell)
+static QDataStream& operator<<(QDataStream& stream, const TextCell& cell)
 {
     return stream << cell.text << cell.background.number << cell.textColour.number << cell.font.name
                   << cell.font.size << cell.font.isBold << cell.font.isItalic;
 }
 
-static QDataStream& operator>>(QDataStream& stream, Cell& cell)
+static QDataStream& operator>>(QDataStream& stream, TextCell& cell)
 {
     return stream >> cell.text >> cell.background.number >> cell.textColour.number >> cell.font.name >>
            cell.font.size >> cell.font.isBold >> cell.font.isItalic;
 }
 
-QMimeData* keyToMime(const std::vector<Cell>& cells)
+QMimeData* keyToMime(const std::vector<TextCell>& cells)
 {
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     QStringList texts;
-    for (const Cell& cell : cells) {
+    for (const TextCell& cell : cells) {
         stream << cell;
         texts += cell.text;
     }
@@ -47,11 +47,11 @@ QMimeData* keyToMime(const std::vector<Cell>& cells)
     return mime;
 }
 
-std::vector<Cell> keyFromMime(const QMimeData& mime)
+std::vector<TextCell> keyFromMime(const QMimeData& mime)
 {
     const QByteArray bytes = mime.data(format());
     QDataStream stream(bytes);
-    std::vector<Cell> cells;
+    std::vector<TextCell> cells;
     while (!stream.atEnd()) {
         stream >> cells.emplace_back();
         if (stream.status() != QDataStream::Ok)

@@ -11,8 +11,8 @@ namespace norvane::overlay
 {
 
 /// The cells of a key for the clipboard; other programs see their texts. The caller owns it.
-[[nodiscard]] QMimeData* keyToMime(const std::vector<Cell>& cells);
+[[nodiscard]] QMimeData* keyToMime(const std::vector<TextCell>& cells);
 /// @return an empty list if the clipboard has no key or a damaged one.
-[[nodiscard]] std::vector<Cell> keyFromMime(const QMimeData& mime);
+[[nodiscard]] std::vector<TextCell> keyFromMime(const QMimeData& mime);
 
 } // namespace norvane::overlay

@@ -10,36 +10,36 @@ using paper::Length;
 using paper::millimetres;
 
 constexpr std::array dorvikColumns = {
-    ColumnGroup{12, {{{KeyForm::Plain, 10}}}, millimetres(18)},
-    ColumnGroup{3, {{{KeyForm::Plain, 6}, {KeyForm::Single, 4}}}, millimetres(18)},
-    ColumnGroup{1, {{{KeyForm::Plain, 10}}}, millimetres(18)},
+    KeyColumns{12, {{{KeyKind::Plain, 10}}}, millimetres(18)},
+    KeyColumns{3, {{{KeyKind::Plain, 6}, {KeyKind::Single, 4}}}, millimetres(18)},
+    KeyColumns{1, {{{KeyKind::Plain, 10}}}, millimetres(18)},
 };
 
 constexpr std::array velmarColumns = {
-    ColumnGroup{9, {{{KeyForm::Plain, 13}}}, millimetres(18)},
-    ColumnGroup{3, {{{KeyForm::Plain, 9}, {KeyForm::Single, 4}}}, millimetres(18)},
-    ColumnGroup{1, {{{KeyForm::Plain, 13}}}, millimetres(18)},
+    KeyColumns{9, {{{KeyKind::Plain, 13}}}, millimetres(18)},
+    KeyColumns{3, {{{KeyKind::Plain, 9}, {KeyKind::Single, 4}}}, millimetres(18)},
+    KeyColumns{1, {{{KeyKind::Plain, 13}}}, millimetres(18)},
 };
 
 /// A wide key reaches below the column to its right.
 constexpr Length plainStep = millimetres(17);
 constexpr Length wideStep = millimetres(19);
-constexpr ColumnGroup besideWideKeys{1, {{{KeyForm::Plain, 1}}}, plainStep};
-constexpr ColumnGroup oneAboveFiveWide{1, {{{KeyForm::Plain, 1}, {KeyForm::Wide, 5}}}, wideStep};
+constexpr KeyColumns besideWideKeys{1, {{{KeyKind::Plain, 1}}}, plainStep};
+constexpr KeyColumns oneAboveFiveWide{1, {{{KeyKind::Plain, 1}, {KeyKind::Wide, 5}}}, wideStep};
 
 constexpr std::array quelmontColumns = {
-    ColumnGroup{2, {{{KeyForm::Plain, 6}}}, plainStep},
-    ColumnGroup{3, {{{KeyForm::Plain, 2}}}, plainStep},
-    ColumnGroup{1, {{{KeyForm::Plain, 6}}}, plainStep},
+    KeyColumns{2, {{{KeyKind::Plain, 6}}}, plainStep},
+    KeyColumns{3, {{{KeyKind::Plain, 2}}}, plainStep},
+    KeyColumns{1, {{{KeyKind::Plain, 6}}}, plainStep},
     oneAboveFiveWide,
     besideWideKeys,
     oneAboveFiveWide,
     besideWideKeys,
     oneAboveFiveWide,
     besideWideKeys,
-    ColumnGroup{1, {{{KeyForm::Plain, 6}}}, plainStep},
-    ColumnGroup{1, {{{KeyForm::Plain, 4}, {KeyForm::Wide, 2}}}, wideStep},
-    ColumnGroup{1, {{{KeyForm::Plain, 4}}}, plainStep},
+    KeyColumns{1, {{{KeyKind::Plain, 6}}}, plainStep},
+    KeyColumns{1, {{{KeyKind::Plain, 4}, {KeyKind::Wide, 2}}}, wideStep},
+    KeyColumns{1, {{{KeyKind::Plain, 4}}}, plainStep},
 };
 
 constexpr std::array dorvikOutlines = {millimetres(14)};

@@ -14,7 +14,7 @@ namespace norvane::overlay
 enum class Keyboard { Dorvik, Velmar, Quelmont };
 
 /// Plain and wide keys have three cells, one for each line of text; a single one has one cell.
-enum class KeyForm { Plain, Wide, Single };
+enum class KeyKind { Plain, Wide, Single };
 
 /// The shape of a key.
 struct KeyShape {
@@ -22,14 +22,14 @@ struct KeyShape {
     paper::Length printWidth; ///< that a line of text is cut to
 };
 
-/// Keys of one form, one below the other.
+/// Keys of one kind, one below the other.
 struct KeyRun {
-    KeyForm form = KeyForm::Plain;
+    KeyKind kind = KeyKind::Plain;
     int count = 0;
 };
 
 /// Columns alike, side by side.
-struct ColumnGroup {
+struct KeyColumns {
     int columns = 0;
     std::array<KeyRun, 2> runs; ///< from the top; the second may be empty
     paper::Length step;         ///< from each of them to the next column
@@ -59,14 +59,14 @@ struct KeyboardGeometry {
     paper::Length keyStep;  ///< to the next key down
     paper::Length lineStep; ///< to the next line of a key
     paper::Length bandHeight;
-    std::array<KeyShape, 3> shapes;          ///< by KeyForm
+    std::array<KeyShape, 3> shapes;          ///< by KeyKind
     std::span<const paper::Length> outlines; ///< heights of the white ones that trim a key of three cells
-    std::span<const ColumnGroup> columns;    ///< from the left
+    std::span<const KeyColumns> columns;     ///< from the left
     std::span<const PresetText> presets;
     DocumentFiles files;
     bool hasImport = false; ///< of levels from the customer's tables
 
-    [[nodiscard]] const KeyShape& shape(KeyForm form) const { return shapes[static_cast<std::size_t>(form)]; }
+    [[nodiscard]] const KeyShape& shape(KeyKind kind) const { return shapes[static_cast<std::size_t>(kind)]; }
 };
 
 [[nodiscard]] const KeyboardGeometry& geometryOf(Keyboard keyboard);

@@ -32,15 +32,15 @@ constexpr double pixelsPerMillimetre = paper::screenDotsPerInch / 25.4;
 constexpr double smallestScale = 0.45 * pixelsPerMillimetre;
 
 /// As screen readers say it.
-QString placeOf(const KeyPlace& key, int cell)
+QString placeOf(const OverlayKey& key, int cell)
 {
     return u"Column %1, key %2, line %3"_s.arg(key.column + 1).arg(key.row + 1).arg(cell - key.firstCell + 1);
 }
 
-QRectF boundsOf(const KeyLayout& layout)
+QRectF boundsOf(const OverlayLayout& layout)
 {
     QRectF bounds;
-    for (const KeyPlace& key : layout.keys())
+    for (const OverlayKey& key : layout.keys())
         bounds |= key.outline();
     return bounds.adjusted(-groundMargin, -groundMargin, groundMargin, groundMargin);
 }
@@ -51,7 +51,7 @@ QRectF boundsOf(const KeyLayout& layout)
 class KeyboardView::Ground : public QWidget
 {
 public:
-    Ground(const KeyLayout& layout, QWidget* parent)
+    Ground(const OverlayLayout& layout, QWidget* parent)
         : QWidget(parent), m_layout(layout), m_bounds(boundsOf(layout))
     {
     }
@@ -83,12 +83,12 @@ protected:
         painter.fillRect(rect(), ui::colours::desktop());
         painter.setPen(QPen(ui::colours::greyedText, keyFrame));
         painter.setBrush(Qt::white);
-        for (const KeyPlace& key : m_layout.keys())
+        for (const OverlayKey& key : m_layout.keys())
             painter.drawRect(pixels(key.outline()).adjusted(-keyFrame, -keyFrame, 0, 0));
     }
 
 private:
-    const KeyLayout& m_layout;
+    const OverlayLayout& m_layout;
     QRectF m_bounds; ///< of all keys, in millimetres
     double m_scale = pixelsPerMillimetre;
 };
@@ -135,7 +135,7 @@ void KeyboardView::connectCell(int cell)
     connect(edit, &CellEdit::nextWanted, this, [this, cell] { step(cell, 1); });
     connect(edit, &CellEdit::previousWanted, this, [this, cell] { step(cell, -1); });
     connect(edit, &CellEdit::wayChosen, this,
-            [this, cell](Direction direction) { goTo(neighbour(m_layout, cell, direction)); });
+            [this, cell](ArrowDirection direction) { goTo(neighbour(m_layout, cell, direction)); });
 }
 
 void KeyboardView::showCell(int cell)
@@ -170,7 +170,7 @@ void KeyboardView::setZoom(int percent)
 void KeyboardView::placeCells()
 {
     m_ground->setScale(m_zoom > 0 ? m_zoom * pixelsPerMillimetre / 100 : fittingScale());
-    for (const KeyPlace& key : m_layout.keys()) {
+    for (const OverlayKey& key : m_layout.keys()) {
         QRectF line = key.outline();
         line.setHeight(line.height() / key.cells);
         for (int cell = key.firstCell; cell <= key.lastCell(); ++cell) {

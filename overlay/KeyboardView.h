@@ -51,7 +51,7 @@ private:
     [[nodiscard]] double fittingScale() const;
 
     DocumentEditor& m_editor;
-    const KeyLayout& m_layout;
+    const OverlayLayout& m_layout;
     Ground* m_ground;
     std::vector<CellEdit*> m_cells; ///< by index
     std::vector<int> m_order;       ///< of reading

@@ -1,7 +1,7 @@
 // See LevelImport.h.
 #include "overlay/LevelImport.h"
 
-#include "overlay/OverlayText.h"
+#include "overlay/KeyLines.h"
 #include "platform/RuntimeFailure.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
@@ -26,7 +26,7 @@ constexpr auto fixedKeys = std::to_array<FixedKey>({
     {Keyboard::Dorvik, 30}, // feeds the journal
 });
 
-bool hasRow(Keyboard keyboard, const KeyPlace& key)
+bool hasRow(Keyboard keyboard, const OverlayKey& key)
 {
     return std::ranges::none_of(fixedKeys, [&](const FixedKey& fixed) {
         return fixed.keyboard == keyboard && fixed.firstCell == key.firstCell;
@@ -34,20 +34,20 @@ bool hasRow(Keyboard keyboard, const KeyPlace& key)
 }
 
 /// The numeric keys show their digits whatever their rows say.
-bool takesText(const KeyPlace& key)
+bool takesText(const OverlayKey& key)
 {
-    return key.form != KeyForm::Single;
+    return key.kind != KeyKind::Single;
 }
 
 /// The keys that have rows, in the order of the rows: columns from the left, each from the bottom up.
-std::vector<const KeyPlace*> keysInTableOrder(const Document& document)
+std::vector<const OverlayKey*> keysInTableOrder(const Document& document)
 {
-    std::vector<const KeyPlace*> keys;
-    for (const KeyPlace& key : document.layout().keys()) {
+    std::vector<const OverlayKey*> keys;
+    for (const OverlayKey& key : document.layout().keys()) {
         if (hasRow(document.keyboard(), key))
             keys.push_back(&key);
     }
-    std::ranges::stable_sort(keys, [](const KeyPlace* left, const KeyPlace* right) {
+    std::ranges::stable_sort(keys, [](const OverlayKey* left, const OverlayKey* right) {
         return std::pair(left->column, -left->row) < std::pair(right->column, -right->row);
     });
     return keys;
@@ -165,7 +165,7 @@ void LevelWalk::toNextKey()
     ++m_counter;
 }
 
-void fillKey(Document& document, const KeyPlace& key, const QString& text)
+void fillKey(Document& document, const OverlayKey& key, const QString& text)
 {
     int cell = key.firstCell;
     for (const QString& line : CUTTEXTUP(RemoveCarriage(text)))
@@ -179,7 +179,7 @@ void importdata(Document& document, int level, const QString& databasePath)
     store::Database database(databasePath);
     const auto keys = keysInTableOrder(document);
     LevelWalk walk(database, level, static_cast<int>(keys.size()));
-    for (const KeyPlace* const key : keys) {
+    for (const OverlayKey* const key : keys) {
         const QString text = walk.text();
         if (takesText(*key))
             fillKey(document, *key, text);

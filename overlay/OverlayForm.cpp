@@ -219,7 +219,7 @@ void OverlayForm::rememberColours()
         if (colour != Qt::white && colour != Qt::black && !colours.contains(colour))
             colours += colour;
     };
-    for (const Cell& cell : m_editor.document().cells()) {
+    for (const TextCell& cell : m_editor.document().cells()) {
         note(drawnBackground(cell.background));
         note(drawnText(cell.textColour));
     }
@@ -269,7 +269,7 @@ void OverlayForm::copyKey()
 void OverlayForm::pasteKey()
 {
     const QMimeData* const mime = QGuiApplication::clipboard()->mimeData();
-    const auto cells = mime ? keyFromMime(*mime) : std::vector<Cell>();
+    const auto cells = mime ? keyFromMime(*mime) : std::vector<TextCell>();
     if (cells.empty()) {
         tell(u"No key was copied yet."_s);
     } else {

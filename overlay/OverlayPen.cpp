@@ -99,12 +99,12 @@ void OverlayPen::PRINTTEXT(Length x, Length y, Length maximumWidth, const QStrin
 
 void OverlayPen::DrawBox(Length x, Length y, const QColor& colour, Length height)
 {
-    outline(x, y, colour, m_geometry.shape(KeyForm::Plain).width, height);
+    outline(x, y, colour, m_geometry.shape(KeyKind::Plain).width, height);
 }
 
 void OverlayPen::LargeBox(Length x, Length y, const QColor& colour, Length height)
 {
-    outline(x, y, colour, m_geometry.shape(KeyForm::Wide).width, height);
+    outline(x, y, colour, m_geometry.shape(KeyKind::Wide).width, height);
 }
 
 void OverlayPen::outline(Length x, Length y, const QColor& colour, Length width, Length height)

@@ -4,6 +4,7 @@
 #include "overlay/CorrectionForm.h"
 #include "overlay/OverlayPreview.h"
 #include "overlay/SheetPainter.h"
+#include "overlay/TestPage.h"
 #include "paper/DefaultPrinter.h"
 #include "paper/PrinterSheet.h"
 #include "platform/Boxes.h"

@@ -20,13 +20,13 @@ namespace norvane::overlay
 {
 
 /// Finds the printer that was chosen; null when the system does not have it (any more).
-using PrinterFinder = std::function<std::unique_ptr<QPrinter>(const PrinterChoice&)>;
+using SheetPrinterFinder = std::function<std::unique_ptr<QPrinter>(const PrinterChoice&)>;
 [[nodiscard]] std::unique_ptr<QPrinter> findPrinter(const PrinterChoice& choice);
 
 /// Where sheets are printed. The designers share one as long as the program runs.
 struct PrinterInUse {
     PrinterChoice choice;
-    PrinterFinder find = findPrinter;
+    SheetPrinterFinder find = findPrinter;
 };
 
 /// Works on a document and a printer. All arguments must outlive this.

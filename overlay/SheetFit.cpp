@@ -1,5 +1,5 @@
-// Which keys a printer can print; see SheetPrint.h.
-#include "overlay/SheetPrint.h"
+// See SheetFit.h.
+#include "overlay/SheetFit.h"
 
 #include <algorithm>
 
@@ -18,10 +18,10 @@ QRectF printable(const TargetPrinter& target)
     return target.sheet.printableRect().adjusted(-tolerance, -tolerance, tolerance, tolerance);
 }
 
-QRectF allKeys(const KeyLayout& layout, const TargetPrinter& target)
+QRectF allKeys(const OverlayLayout& layout, const TargetPrinter& target)
 {
     QRectF all;
-    for (const KeyPlace& key : layout.keys())
+    for (const OverlayKey& key : layout.keys())
         all = all.united(key.outline());
     return placeOnPaper(target).mapRect(all);
 }
@@ -40,7 +40,7 @@ paper::AxisCorrection moved(paper::AxisCorrection axis, double move)
 
 } // namespace
 
-std::vector<std::size_t> keysOutside(const KeyLayout& layout, const TargetPrinter& target)
+std::vector<std::size_t> keysOutside(const OverlayLayout& layout, const TargetPrinter& target)
 {
     const QTransform place = placeOnPaper(target);
     const QRectF area = printable(target);
@@ -52,12 +52,13 @@ std::vector<std::size_t> keysOutside(const KeyLayout& layout, const TargetPrinte
     return outside;
 }
 
-bool isWiderThanPage(const KeyLayout& layout, const TargetPrinter& target)
+bool isWiderThanPage(const OverlayLayout& layout, const TargetPrinter& target)
 {
     return allKeys(layout, target).width() > printable(target).width();
 }
 
-std::optional<paper::PrinterCorrection> correctionToFit(const KeyLayout& layout, const TargetPrinter& target)
+std::optional<paper::PrinterCorrection> correctionToFit(const OverlayLayout& layout,
+                                                        const TargetPrinter& target)
 {
     const QRectF keys = allKeys(layout, target);
     const QRectF area = target.sheet.printableRect();

@@ -1,7 +1,7 @@
 // See SheetPainter.h.
 #include "overlay/SheetPainter.h"
 
-#include "overlay/OverlayText.h"
+#include "overlay/KeyLines.h"
 
 #include <QPainter>
 
@@ -35,7 +35,7 @@ SheetPainter::SheetPainter(QPainter& painter, const Document& document)
 void SheetPainter::paint()
 {
     m_nextKey = 0;
-    for (const ColumnGroup& group : m_geometry.columns) {
+    for (const KeyColumns& group : m_geometry.columns) {
         for (int column = 0; column < group.columns; ++column) {
             for (const KeyRun& run : group.runs)
                 printRun(run);
@@ -45,7 +45,7 @@ void SheetPainter::paint()
 
 void SheetPainter::printRun(const KeyRun& run)
 {
-    if (run.form == KeyForm::Plain) {
+    if (run.kind == KeyKind::Plain) {
         SmallKeys(run.count);
     } else {
         DoubleKeys(run.count);
@@ -61,8 +61,8 @@ void SheetPainter::SmallKeys(int count)
 void SheetPainter::DoubleKeys(int count)
 {
     for (int index = 0; index < count; ++index) {
-        const KeyPlace& key = takeKey();
-        if (key.form == KeyForm::Single) {
+        const OverlayKey& key = takeKey();
+        if (key.kind == KeyKind::Single) {
             printSingle(key);
         } else {
             printThreeLines(key);
@@ -70,14 +70,14 @@ void SheetPainter::DoubleKeys(int count)
     }
 }
 
-const KeyPlace& SheetPainter::takeKey()
+const OverlayKey& SheetPainter::takeKey()
 {
     return m_document.layout().keys()[m_nextKey++];
 }
 
 /// The outlines come before the texts: they would take the accents of the first line and the feet of the
 /// third.
-void SheetPainter::printThreeLines(const KeyPlace& key)
+void SheetPainter::printThreeLines(const OverlayKey& key)
 {
     printBands(key);
     trimBands(key);
@@ -85,12 +85,12 @@ void SheetPainter::printThreeLines(const KeyPlace& key)
         printText(key, key.firstCell + line, key.x, lineTop(key, line));
 }
 
-Length SheetPainter::lineTop(const KeyPlace& key, int line) const
+Length SheetPainter::lineTop(const OverlayKey& key, int line) const
 {
     return key.y + line * m_geometry.lineStep;
 }
 
-void SheetPainter::printBands(const KeyPlace& key)
+void SheetPainter::printBands(const OverlayKey& key)
 {
     for (int line = 0; line < key.cells; ++line) {
         const bool isMiddle = line == 1;
@@ -102,10 +102,10 @@ void SheetPainter::printBands(const KeyPlace& key)
 }
 
 /// White outlines trim the bands to the key's edge. Below the first of them no band shows.
-void SheetPainter::trimBands(const KeyPlace& key)
+void SheetPainter::trimBands(const OverlayKey& key)
 {
     for (const Length height : m_geometry.outlines) {
-        if (key.form == KeyForm::Wide) {
+        if (key.kind == KeyKind::Wide) {
             m_pen.LargeBox(key.x, key.y, Qt::white, height);
         } else {
             m_pen.DrawBox(key.x, key.y, Qt::white, height);
@@ -117,30 +117,30 @@ void SheetPainter::trimBands(const KeyPlace& key)
                     bandEnd - top + halfOutline());
 }
 
-void SheetPainter::printSingle(const KeyPlace& key)
+void SheetPainter::printSingle(const OverlayKey& key)
 {
-    const Cell& cell = m_document.cell(key.firstCell);
+    const TextCell& cell = m_document.cell(key.firstCell);
     m_pen.DrawBlock(key.x, key.y, drawnBackground(cell.background), key.width, key.height);
     m_pen.DrawBox(key.x, key.y, drawnBackground(lightGrey), key.height);
     printText(key, key.firstCell, key.x + singleTextOffset, key.y + singleTextOffset);
 }
 
-void SheetPainter::printText(const KeyPlace& key, int cell, Length x, Length y)
+void SheetPainter::printText(const OverlayKey& key, int cell, Length x, Length y)
 {
-    const Cell& printed = m_document.cell(cell);
+    const TextCell& printed = m_document.cell(cell);
     if (printed.text.isEmpty())
         return;
     m_pen.setFont(printed.font, drawnText(printed.textColour));
-    m_pen.PRINTTEXT(x, y, m_geometry.shape(key.form).printWidth, RemoveCarriage(printed.text));
+    m_pen.PRINTTEXT(x, y, m_geometry.shape(key.kind).printWidth, RemoveCarriage(printed.text));
 }
 
 QString printedText(const Document& document, int index)
 {
-    const Cell& cell = document.cell(index);
+    const TextCell& cell = document.cell(index);
     if (cell.text.isEmpty())
         return {};
-    const KeyForm form = document.layout().keyOf(index).form;
-    return KeyFont(cell.font).prefixReaching(document.geometry().shape(form).printWidth,
+    const KeyKind kind = document.layout().keyOf(index).kind;
+    return KeyFont(cell.font).prefixReaching(document.geometry().shape(kind).printWidth,
                                              RemoveCarriage(cell.text));
 }
 

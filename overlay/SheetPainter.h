@@ -22,13 +22,13 @@ private:
     /// Prints the next @p count single or wide keys, which end a column.
     void DoubleKeys(int count);
     void printRun(const KeyRun& run);
-    const KeyPlace& takeKey();
-    void printThreeLines(const KeyPlace& key);
-    void printSingle(const KeyPlace& key);
-    void printBands(const KeyPlace& key);
-    void trimBands(const KeyPlace& key);
-    void printText(const KeyPlace& key, int cell, paper::Length x, paper::Length y);
-    [[nodiscard]] paper::Length lineTop(const KeyPlace& key, int line) const;
+    const OverlayKey& takeKey();
+    void printThreeLines(const OverlayKey& key);
+    void printSingle(const OverlayKey& key);
+    void printBands(const OverlayKey& key);
+    void trimBands(const OverlayKey& key);
+    void printText(const OverlayKey& key, int cell, paper::Length x, paper::Length y);
+    [[nodiscard]] paper::Length lineTop(const OverlayKey& key, int line) const;
 
     const Document& m_document;
     const KeyboardGeometry& m_geometry;

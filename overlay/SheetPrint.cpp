@@ -1,4 +1,4 @@
-// Printing; see SheetPrint.h.
+// See SheetPrint.h.
 #include "overlay/SheetPrint.h"
 
 #include "overlay/SheetPainter.h"

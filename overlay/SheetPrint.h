@@ -1,4 +1,4 @@
-// The sheet on paper and in PDF files, and the test page of a printer.
+// The sheet on paper and in PDF files.
 #pragma once
 
 #include "overlay/Document.h"
@@ -6,8 +6,6 @@
 #include "paper/Sheet.h"
 
 #include <QTransform>
-
-#include <optional>
 
 class QPagedPaintDevice;
 
@@ -30,28 +28,10 @@ struct TargetPrinter {
 [[nodiscard]] bool printSheet(const Document& document, QPagedPaintDevice& device,
                               const TargetPrinter& target);
 
-/// Prints the page that a printer is measured with: a cross of two lines of 100 mm.
-/// @return false when the device failed.
-[[nodiscard]] bool printTestPage(QPagedPaintDevice& device, const TargetPrinter& target);
-
-/// Where the lines of the test page begin, from the paper's left and upper edge, and how long each is.
-inline constexpr paper::Length testLineLeft = paper::millimetres(50);
-inline constexpr paper::Length testLineTop = paper::millimetres(40);
-inline constexpr paper::Length testLineLength = paper::millimetres(100);
-
 /// Writes the sheet as a PDF file, its printable area 5 mm inside the page. An existing file is kept if it
 /// cannot be written.
 /// @throws RuntimeFailure with Failure::PathOrFileAccess, Failure::DiskFull, or Failure::DeviceIo if the page
 /// could not be painted.
 void writeSheetPdf(const Document& document, QPageLayout::Orientation orientation, const QString& path);
-
-/// The keys that the printer cannot print whole, as indexes into the layout's keys.
-[[nodiscard]] std::vector<std::size_t> keysOutside(const KeyLayout& layout, const TargetPrinter& target);
-/// True when no move helps, since the keys reach further across than the page.
-[[nodiscard]] bool isWiderThanPage(const KeyLayout& layout, const TargetPrinter& target);
-/// The target's correction with the smallest move that brings all keys inside the printable area, if the area
-/// has room for them.
-[[nodiscard]] std::optional<paper::PrinterCorrection> correctionToFit(const KeyLayout& layout,
-                                                                      const TargetPrinter& target);
 
 } // namespace norvane::overlay

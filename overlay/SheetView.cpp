@@ -2,6 +2,7 @@
 #include "overlay/SheetView.h"
 
 #include "overlay/Ruler.h"
+#include "overlay/SheetFit.h"
 #include "overlay/SheetPainter.h"
 #include "ui/Appearance.h"
 
@@ -161,7 +162,7 @@ void SheetView::paintOutside(QPainter& painter) const
     colour.setAlphaF(0.15F);
     painter.setBrush(colour);
     for (const std::size_t index : m_outside) {
-        const KeyPlace& key = m_document.layout().keys()[index];
+        const OverlayKey& key = m_document.layout().keys()[index];
         painter.drawRect(key.outline());
     }
 }
@@ -173,7 +174,7 @@ int SheetView::spokenItemCount() const
 
 ui::SpokenItem SheetView::spokenItem(int index) const
 {
-    const KeyPlace& key = m_document.layout().keys()[static_cast<std::size_t>(index)];
+    const OverlayKey& key = m_document.layout().keys()[static_cast<std::size_t>(index)];
     QStringList lines;
     for (int cell = key.firstCell; cell <= key.lastCell(); ++cell)
         lines += printedText(m_document, cell).trimmed();

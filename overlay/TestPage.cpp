@@ -1,6 +1,7 @@
-// The test page; see SheetPrint.h.
+// See TestPage.h.
+#include "overlay/TestPage.h"
+
 #include "overlay/OverlayPen.h"
-#include "overlay/SheetPrint.h"
 #include "paper/PageDevice.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -47,14 +47,14 @@ Decimal numberOf(const QString& text)
     return Decimal::leading(text.toStdString());
 }
 
-QString partOf(const QString& text, ShownFrom::Part part)
+QString charactersOf(const QString& text, ShownFrom::Characters characters)
 {
-    switch (part) {
-    case ShownFrom::Part::FirstCharacter:
+    switch (characters) {
+    case ShownFrom::Characters::First:
         return text.left(1);
-    case ShownFrom::Part::LastCharacter:
+    case ShownFrom::Characters::Last:
         return text.right(1);
-    case ShownFrom::Part::All:
+    case ShownFrom::Characters::All:
         break;
     }
     return text;
@@ -227,7 +227,7 @@ bool FunctionKeys::isSet(int index) const
 
 void FunctionKeys::showNumber(const NumberField& field, KeyControls& controls) const
 {
-    const Decimal stored = numberOf(partOf(textOf(field.from.field), field.from.part));
+    const Decimal stored = numberOf(charactersOf(textOf(field.from.field), field.from.characters));
     controls.number(field.control) = {true, field.caption, stored.shifted(-field.scale), field.largest};
     if (field.control == NumberControl::Halo)
         chooseDigits(field.digits, controls);

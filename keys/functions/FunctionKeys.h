@@ -17,11 +17,11 @@ namespace norvane::keys
 /// What the editor's controls hold, visible or not. A hidden control keeps its number, and Halo's is saved
 /// with every key.
 struct KeyControls {
-    struct Check {
+    struct Tick {
         bool visible = false;
         QString caption;
         bool ticked = false;
-        bool operator==(const Check&) const = default;
+        bool operator==(const Tick&) const = default;
     };
     struct Number {
         bool visible = false;
@@ -35,7 +35,7 @@ struct KeyControls {
     [[nodiscard]] const Number& number(NumberControl control) const;
 
     QString description;
-    QVector<Check> Check1{checkCount}; ///< by index
+    QVector<Tick> Check1{checkCount}; ///< by index
     Number Halo;
     Number otherno;
     Number otherno2;

@@ -61,12 +61,12 @@ inline NumberField number(NumberControl control, QLatin1StringView caption, Show
 
 inline ShownFrom firstCharacterOf(KeyField field)
 {
-    return {field, ShownFrom::Part::FirstCharacter};
+    return {field, ShownFrom::Characters::First};
 }
 
 inline ShownFrom lastCharacterOf(KeyField field)
 {
-    return {field, ShownFrom::Part::LastCharacter};
+    return {field, ShownFrom::Characters::Last};
 }
 
 inline SavedTo addedTo(KeyField field)

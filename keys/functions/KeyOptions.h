@@ -53,10 +53,10 @@ enum class NumberControl { Halo, otherno, otherno2 };
 
 /// Where a number is read when its key is shown.
 struct ShownFrom {
-    /// Which part of the field's text the number is. Some fields have a digit beside packed options.
-    enum class Part { All, FirstCharacter, LastCharacter };
+    /// Which characters of the field's text are the number. Some fields have a digit beside packed options.
+    enum class Characters { All, First, Last };
     KeyField field;
-    Part part = Part::All;
+    Characters characters = Characters::All;
 };
 
 /// Where a number goes when its key is saved, after the boxes have set all flags.

@@ -108,19 +108,19 @@ void OptionColumns::fixSize(QGridLayout& grid)
     setFixedHeight(static_cast<int>(room.lines) * line);
 }
 
-void OptionColumns::showChecks(const QVector<KeyControls::Check>& checks)
+void OptionColumns::showChecks(const QVector<KeyControls::Tick>& checks)
 {
     for (int index = 0; index < checkCount; ++index) {
-        const KeyControls::Check& check = checks[index];
+        const KeyControls::Tick& check = checks[index];
         setCaption(*Check1[index], check.caption);
         Check1[index]->setChecked(check.ticked);
         Check1[index]->setVisible(check.visible);
     }
-    m_noOptions->setVisible(std::ranges::none_of(checks, &KeyControls::Check::visible));
+    m_noOptions->setVisible(std::ranges::none_of(checks, &KeyControls::Tick::visible));
     m_noOptions->adjustSize();
 }
 
-void OptionColumns::readTicks(QVector<KeyControls::Check>& checks) const
+void OptionColumns::readTicks(QVector<KeyControls::Tick>& checks) const
 {
     for (int index = 0; index < checkCount; ++index)
         checks[index].ticked = Check1[index]->isChecked();

@@ -22,9 +22,9 @@ class OptionColumns : public QWidget
 public:
     explicit OptionColumns(QWidget* parent = nullptr);
 
-    void showChecks(const QVector<KeyControls::Check>& checks);
+    void showChecks(const QVector<KeyControls::Tick>& checks);
     /// Takes what the user ticked over into @p checks.
-    void readTicks(QVector<KeyControls::Check>& checks) const;
+    void readTicks(QVector<KeyControls::Tick>& checks) const;
 
 private:
     void makeChecks();

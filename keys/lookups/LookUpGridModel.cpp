@@ -26,7 +26,7 @@ QString onScreen(QString text)
 QString textOf(const LookUpLine& line, int number, int column)
 {
     switch (column) {
-    case LookUpGridModel::NumberColumn:
+    case LookUpGridModel::LineColumn:
         return QString::number(number);
     case LookUpGridModel::WordColumn:
         return line.word;
@@ -41,7 +41,7 @@ QVariant lookOf(const LookUpLine& line, int column, int role)
     const QPalette palette = QGuiApplication::palette();
     if (role == Qt::BackgroundRole && column != LookUpGridModel::ItemColumn)
         return palette.brush(QPalette::Window);
-    if (role == Qt::ForegroundRole && column != LookUpGridModel::NumberColumn && line.isEmpty())
+    if (role == Qt::ForegroundRole && column != LookUpGridModel::LineColumn && line.isEmpty())
         return palette.brush(QPalette::PlaceholderText);
     return {};
 }
@@ -97,7 +97,7 @@ QVariant LookUpGridModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return textOf(line, index.row() + 1, index.column());
     case Qt::TextAlignmentRole:
-        return static_cast<int>((index.column() == NumberColumn ? Qt::AlignRight : Qt::AlignLeft) |
+        return static_cast<int>((index.column() == LineColumn ? Qt::AlignRight : Qt::AlignLeft) |
                                 Qt::AlignVCenter);
     default:
         return lookOf(line, index.column(), role);

@@ -40,7 +40,7 @@ LookUpLists::LookUpLists(const std::shared_ptr<store::Database>& database, QWidg
         connectList(m_lists.back());
     }
     connect(m_filter, &QLineEdit::textChanged, this, &LookUpLists::setFilter);
-    connect(m_filter, &QLineEdit::returnPressed, this, &LookUpLists::takeRowInHand);
+    connect(m_filter, &QLineEdit::returnPressed, this, &LookUpLists::chooseCurrentRow);
     layOut();
     follow();
 }
@@ -115,18 +115,18 @@ void LookUpLists::follow()
 /// Only one row is selected in both lists.
 void LookUpLists::setFilter(const QString& text)
 {
-    bool inHand = text.isEmpty();
+    bool isSelected = text.isEmpty();
     for (const ItemList& list : m_lists) {
         list.model->setFilter(text);
-        if (inHand || !isShown(list) || list.model->rowCount() == 0)
+        if (isSelected || !isShown(list) || list.model->rowCount() == 0)
             continue;
         list.view->selectRow(0);
-        inHand = true;
+        isSelected = true;
     }
 }
 
 /// Of the lists shown, the first that has one.
-void LookUpLists::takeRowInHand()
+void LookUpLists::chooseCurrentRow()
 {
     const auto list = std::ranges::find_if(m_lists, [this](const ItemList& each) {
         return isShown(each) && each.view->currentIndex().isValid();

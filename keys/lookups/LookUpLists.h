@@ -47,7 +47,7 @@ private:
     void showOnly(ItemKind kind);
     void follow();
     void setFilter(const QString& text);
-    void takeRowInHand();
+    void chooseCurrentRow();
     [[nodiscard]] bool isShown(const ItemList& list) const;
 
     std::vector<ItemList> m_lists;

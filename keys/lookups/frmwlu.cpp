@@ -79,8 +79,7 @@ void sizeGrid(QTableView& grid)
     grid.verticalHeader()->setDefaultSectionSize(rowHeight);
     // Two digits do not fit into the width planned for a smaller font.
     const int digits = grid.fontMetrics().horizontalAdvance(u"50"_s) + cellPadding;
-    grid.setColumnWidth(LookUpGridModel::NumberColumn,
-                        qMax(digits, columnPixels(LookUpGridModel::NumberColumn)));
+    grid.setColumnWidth(LookUpGridModel::LineColumn, qMax(digits, columnPixels(LookUpGridModel::LineColumn)));
     grid.setColumnWidth(LookUpGridModel::WordColumn, columnPixels(LookUpGridModel::WordColumn));
     grid.setMinimumHeight(rowsInView * rowHeight);
 }
@@ -101,7 +100,7 @@ frmwlu::frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent)
     connectControls();
     m_picker->setItems(m_records.readItems());
     updategrid();
-    takeInHand(0);
+    goToLine(0);
     Grid1->setFocus();
 }
 
@@ -164,10 +163,10 @@ void frmwlu::connectControls()
         fillLine(kind, number);
         Grid1->setFocus();
     });
-    connect(m_lines, &LookUpGridModel::moved, this, &frmwlu::takeInHand);
+    connect(m_lines, &LookUpGridModel::moved, this, &frmwlu::goToLine);
     connect(Grid1, &QTableView::activated, m_lists, &LookUpLists::enter);
     connect(Grid1->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& current) { takeInHand(current.row()); });
+            [this](const QModelIndex& current) { goToLine(current.row()); });
     for (const int step : {-1, 1}) {
         const QKeySequence keys(Qt::ALT | (step < 0 ? Qt::Key_Up : Qt::Key_Down));
         auto* const shortcut = new QShortcut(keys, this);
@@ -175,13 +174,13 @@ void frmwlu::connectControls()
     }
 }
 
-int frmwlu::lineInHand() const
+int frmwlu::currentLine() const
 {
     return Grid1->currentIndex().row();
 }
 
 /// The current cell is always the one of the item.
-void frmwlu::takeInHand(int line)
+void frmwlu::goToLine(int line)
 {
     const QModelIndex cell = m_lines->index(line, LookUpGridModel::ItemColumn);
     if (cell.isValid() && Grid1->currentIndex() != cell)
@@ -190,7 +189,7 @@ void frmwlu::takeInHand(int line)
 
 void frmwlu::moveLineBy(int step)
 {
-    m_lines->move(lineInHand(), lineInHand() + step);
+    m_lines->move(currentLine(), currentLine() + step);
 }
 
 void frmwlu::updategrid()
@@ -215,7 +214,7 @@ void frmwlu::showLists()
 
 void frmwlu::fillLine(ItemKind kind, const QString& number)
 {
-    const int line = lineInHand();
+    const int line = currentLine();
     if (line < 0)
         return;
     LookUpLine content = m_lines->lines().at(static_cast<std::size_t>(line));
@@ -231,8 +230,8 @@ void frmwlu::saveChanges()
 
 void frmwlu::deleteLine()
 {
-    if (lineInHand() >= 0)
-        m_lines->setLine(lineInHand(), {});
+    if (currentLine() >= 0)
+        m_lines->setLine(currentLine(), {});
     SaveGrid();
 }
 
@@ -326,7 +325,7 @@ void frmwlu::goTo(const QString& number)
 {
     m_records.moveTo(number);
     updategrid();
-    takeInHand(0);
+    goToLine(0);
 }
 
 void frmwlu::nextRecord()
@@ -334,7 +333,7 @@ void frmwlu::nextRecord()
     if (!m_records.next())
         return tellNoMoreRecords();
     updategrid();
-    takeInHand(0);
+    goToLine(0);
 }
 
 void frmwlu::previousRecord()
@@ -342,7 +341,7 @@ void frmwlu::previousRecord()
     if (!m_records.previous())
         tellNoMoreRecords();
     updategrid();
-    takeInHand(0);
+    goToLine(0);
 }
 
 void frmwlu::tellNoMoreRecords()

@@ -70,8 +70,8 @@ private:
     void goTo(const QString& number);
     void tellNoMoreRecords();
     void fillLine(ItemKind kind, const QString& number);
-    [[nodiscard]] int lineInHand() const;
-    void takeInHand(int line);
+    [[nodiscard]] int currentLine() const;
+    void goToLine(int line);
 
     Boxes& m_boxes;
     std::shared_ptr<store::Database> m_database;

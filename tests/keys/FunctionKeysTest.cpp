@@ -99,7 +99,7 @@ QMap<int, ListedKey> listedKeys(int model)
     return keys;
 }
 
-QList<int> boxesOf(const KeyControls& controls, bool KeyControls::Check::*which)
+QList<int> boxesOf(const KeyControls& controls, bool KeyControls::Tick::*which)
 {
     QList<int> boxes;
     for (int index = 0; index < checkCount; ++index) {
@@ -112,7 +112,7 @@ QList<int> boxesOf(const KeyControls& controls, bool KeyControls::Check::*which)
 std::string captions(const KeyControls& controls)
 {
     QStringList lines;
-    for (const int index : boxesOf(controls, &KeyControls::Check::visible))
+    for (const int index : boxesOf(controls, &KeyControls::Tick::visible))
         lines += u"%1 %2"_s.arg(index).arg(controls.Check1[index].caption);
     for (const QString& name : controlNames) {
         if (numberOf(controls, name).visible)
@@ -182,7 +182,7 @@ TEST_P(FunctionKeysTest, EveryKeyIsShownAndSavedAsListed)
         show(id);
         EXPECT_EQ(captions(m_controls), captions(key.page)) << id;
         QStringList differences;
-        const QList<int> all = boxesOf(key.page, &KeyControls::Check::visible);
+        const QList<int> all = boxesOf(key.page, &KeyControls::Tick::visible);
         for (const int box : all) {
             set(key, {box});
             saveAndNote(id, key, QString::number(box), differences);
@@ -238,7 +238,7 @@ TEST(FunctionKeyFieldsTest, OddValuesAreReadAsFarAsTheyGo)
         KeyControls controls;
         FunctionKeys(database, shop.values).GetData(controls);
         std::string text = controls.otherno.value.text();
-        for (const int box : boxesOf(controls, &KeyControls::Check::ticked))
+        for (const int box : boxesOf(controls, &KeyControls::Tick::ticked))
             text += ' ' + std::to_string(box);
         EXPECT_EQ(text, shown) << id << ' ' << fields;
     }

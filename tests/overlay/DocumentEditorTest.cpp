@@ -26,7 +26,7 @@ protected:
     {
         std::vector<int> cells;
         for (int cell = 0; cell < m_editor.document().cellCount(); ++cell) {
-            const Cell& each = m_editor.document().cell(cell);
+            const TextCell& each = m_editor.document().cell(cell);
             EXPECT_EQ(each.background == blue, each.textColour == yellow) << cell;
             if (each.background == blue)
                 cells.push_back(cell);
@@ -89,13 +89,13 @@ const Step steps[] = {
 TEST(CellOrderTest, ArrowsLeadToTheNearestCellAndReadingGoesKeyByKey)
 {
     for (const Step& step : steps) {
-        const auto to = [&](Direction direction) {
+        const auto to = [&](ArrowDirection direction) {
             return neighbour(layoutOf(step.keyboard), step.from, direction);
         };
-        EXPECT_EQ(to(Direction::Left), step.left) << step.from;
-        EXPECT_EQ(to(Direction::Right), step.right) << step.from;
-        EXPECT_EQ(to(Direction::Up), step.up) << step.from;
-        EXPECT_EQ(to(Direction::Down), step.down) << step.from;
+        EXPECT_EQ(to(ArrowDirection::Left), step.left) << step.from;
+        EXPECT_EQ(to(ArrowDirection::Right), step.right) << step.from;
+        EXPECT_EQ(to(ArrowDirection::Up), step.up) << step.from;
+        EXPECT_EQ(to(ArrowDirection::Down), step.down) << step.from;
     }
     const auto order = readingOrder(layoutOf(Keyboard::Dorvik));
     EXPECT_EQ(std::vector(order.begin(), order.begin() + 7), (std::vector{0, 1, 2, 30, 31, 32, 60}));

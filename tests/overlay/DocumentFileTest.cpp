@@ -1,7 +1,7 @@
 // Overlay documents and their files: the contents of a new one, what is read and which files are written.
 #include "overlay/DocumentFile.h"
 
-#include "overlay/OverlayText.h"
+#include "overlay/KeyLines.h"
 #include "tests/platform/FullDisk.h"
 #include "tests/platform/TestFolder.h"
 
@@ -56,7 +56,7 @@ TEST(DocumentFileTest, HasSevenPlainLinesForEachCellAndKeepsEveryAttribute)
     EXPECT_EQ(read, written);
 }
 
-std::string described(const Cell& cell)
+std::string described(const TextCell& cell)
 {
     return u"%1|%2,%3|%4 %5%6%7"_s.arg(cell.text.size() > 10 ? QString::number(cell.text.size()) : cell.text)
         .arg(cell.background.number)
@@ -115,7 +115,7 @@ TEST(DocumentFileTest, SavesCompletelyOrKeepsTheOldFile)
     EXPECT_EQ(failureOf([&] { readDocument(folder.path(), read); }), 75);
 }
 
-TEST(OverlayTextTest, IsSplitAtBlanksOrAtSevenCharacters)
+TEST(KeyLinesTest, IsSplitAtBlanksOrAtSevenCharacters)
 {
     const std::map<QString, QString> lines = {{u"  Coffee "_s, u"|Coffee|"_s},
                                               {u""_s, u"||"_s},

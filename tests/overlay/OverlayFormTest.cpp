@@ -169,7 +169,7 @@ TEST_F(OverlayFormTest, SavesAndOpensAndTellsWhatIsWrong)
     EXPECT_FALSE(test::takeFailure());
 }
 
-TEST_F(OverlayFormTest, ReplacesUnaskedOnlyTheFileInHand)
+TEST_F(OverlayFormTest, ReplacesUnaskedOnlyItsOwnFile)
 {
     m_folder.folder().write("short.Dorvik", "HALF\r\n");
     const QString tea = path("tea.Dorvik");

@@ -117,7 +117,7 @@ TEST_F(Preview, WorksOutACorrectionFromTheMeasuredTestPage)
     EXPECT_NEAR(kept.across.stretch, 1 / 0.99, 0.0001);
     EXPECT_EQ(kept.down, (paper::AxisCorrection{millimetres(-0.5), 1}));
     ASSERT_EQ(m_testPages.size(), 2U);
-    EXPECT_EQ(m_testPages[0].across.offset, millimetres(1)) << "printed under the correction in hand";
+    EXPECT_EQ(m_testPages[0].across.offset, millimetres(1)) << "printed under the current correction";
     EXPECT_EQ(m_testPages[1], kept);
     ASSERT_EQ(m_boxes.shown.size(), 1U) << "of the first test page";
     EXPECT_EQ(m_boxes.shown[0].text, u"Printer Failure"_s);

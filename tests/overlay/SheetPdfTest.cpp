@@ -2,6 +2,7 @@
 // the real keyboard are.
 #include "overlay/SheetPainter.h"
 #include "overlay/SheetPrint.h"
+#include "overlay/TestPage.h"
 #include "paper/PageDevice.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/support/OtherPrograms.h"
@@ -250,7 +251,7 @@ TEST_P(SheetPdf, PrintsTextsInTheMiddleOfTheirWidthAndInsideTheirKeys)
     }
 }
 
-TEST(TestPageTest, HasItsLinesWhereItSaysUnderTheCorrectionInHand)
+TEST(TestPageTest, HasItsLinesWhereItSaysUnderTheCurrentCorrection)
 {
     const TestFolder folder;
     QPdfWriter writer(folder.path("a.pdf"));

@@ -1,4 +1,4 @@
-// The cells of a key, and its place.
+// The keys of an overlay: their places on the sheet and their cells.
 #pragma once
 
 #include "overlay/KeyboardGeometry.h"
@@ -11,8 +11,8 @@ namespace norvane::overlay
 {
 
 /// A key on the sheet. Its cells follow each other, from its upper line down.
-struct KeyPlace {
-    KeyForm form = KeyForm::Plain;
+struct OverlayKey {
+    KeyKind kind = KeyKind::Plain;
     int column = 0; ///< from the left, from 0
     int row = 0;    ///< in its column, from 0
     int firstCell = 0;
@@ -31,25 +31,25 @@ struct KeyPlace {
 };
 
 /// The keys of a keyboard in the order of their cells: down each column, columns from the left.
-class KeyLayout
+class OverlayLayout
 {
 public:
-    explicit KeyLayout(const KeyboardGeometry& geometry);
+    explicit OverlayLayout(const KeyboardGeometry& geometry);
 
-    [[nodiscard]] const std::vector<KeyPlace>& keys() const { return m_keys; }
+    [[nodiscard]] const std::vector<OverlayKey>& keys() const { return m_keys; }
     [[nodiscard]] int cellCount() const { return static_cast<int>(m_keyOfCell.size()); }
     /// @param cell from 0 to cellCount() - 1.
-    [[nodiscard]] const KeyPlace& keyOf(int cell) const;
+    [[nodiscard]] const OverlayKey& keyOf(int cell) const;
 
 private:
-    void addColumn(const KeyboardGeometry& geometry, const ColumnGroup& group, KeyPlace next);
-    void addKey(const KeyboardGeometry& geometry, KeyPlace place);
+    void addColumn(const KeyboardGeometry& geometry, const KeyColumns& group, OverlayKey next);
+    void addKey(const KeyboardGeometry& geometry, OverlayKey key);
 
-    std::vector<KeyPlace> m_keys;
+    std::vector<OverlayKey> m_keys;
     std::vector<std::size_t> m_keyOfCell;
 };
 
 /// Made once for each keyboard.
-[[nodiscard]] const KeyLayout& layoutOf(Keyboard keyboard);
+[[nodiscard]] const OverlayLayout& layoutOf(Keyboard keyboard);
 
 } // namespace norvane::overlay

@@ -1,5 +1,5 @@
-// See OverlayText.h.
-#include "overlay/OverlayText.h"
+// See KeyLines.h.
+#include "overlay/KeyLines.h"
 
 #include "platform/TextFields.h"
 
