@@ -17,11 +17,11 @@ namespace norvane::overlay
 {
 
 /// The cells that a step changed, before and after.
-class DocumentEditor::Step : public QUndoCommand
+class DocumentEditor::CellStep : public QUndoCommand
 {
 public:
     /// @param typing 0 for a separate step; steps of one number and cell become one.
-    Step(DocumentEditor& editor, const QString& name, const Document& before, int typing)
+    CellStep(DocumentEditor& editor, const QString& name, const Document& before, int typing)
         : QUndoCommand(name), m_editor(editor), m_typing(typing)
     {
         for (int cell = 0; cell < before.cellCount(); ++cell) {
@@ -34,18 +34,18 @@ public:
 
     void undo() override
     {
-        for (const Change& change : m_changes)
+        for (const CellChange& change : m_changes)
             m_editor.put(change.cell, change.before);
     }
     void redo() override
     {
-        for (const Change& change : m_changes)
+        for (const CellChange& change : m_changes)
             m_editor.put(change.cell, change.after);
     }
     [[nodiscard]] int id() const override { return m_typing > 0 ? 1 : -1; }
     bool mergeWith(const QUndoCommand* other) override
     {
-        const auto& next = static_cast<const Step&>(*other);
+        const auto& next = static_cast<const CellStep&>(*other);
         if (next.m_typing != m_typing || next.m_changes.front().cell != m_changes.front().cell)
             return false;
         m_changes.front().after = next.m_changes.front().after;
@@ -54,14 +54,14 @@ public:
     }
 
 private:
-    struct Change {
+    struct CellChange {
         int cell;
         TextCell before;
         TextCell after;
     };
     DocumentEditor& m_editor;
     int m_typing;
-    std::vector<Change> m_changes;
+    std::vector<CellChange> m_changes;
 };
 
 DocumentEditor::DocumentEditor(Keyboard keyboard, QObject* parent) : QObject(parent), m_document(keyboard) {}
@@ -88,7 +88,7 @@ void DocumentEditor::edit(const QString& name, const std::function<void(Document
 
 void DocumentEditor::pushChanges(const QString& name, const Document& before, int typing)
 {
-    auto step = std::make_unique<Step>(*this, name, before, typing);
+    auto step = std::make_unique<CellStep>(*this, name, before, typing);
     if (!step->isEmpty())
         m_history.push(step.release());
 }

@@ -65,7 +65,7 @@ Q_SIGNALS:
     void fileNameChanged();
 
 private:
-    class Step;
+    class CellStep;
     void put(int cell, const TextCell& contents);
     void edit(const QString& name, const std::function<void(Document&)>& work, int typing = 0);
     void pushChanges(const QString& name, const Document& before, int typing);

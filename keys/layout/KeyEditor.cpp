@@ -1,6 +1,8 @@
 // See KeyEditor.h.
 #include "keys/layout/KeyEditor.h"
 
+#include <QUndoCommand>
+
 #include <algorithm>
 #include <utility>
 
@@ -29,6 +31,28 @@ KeyCells without(const KeyCells& cells, const KeyCells& others)
 
 } // namespace
 
+/// The keys that a step changed, before and after.
+class KeyEditor::KeyStep : public QUndoCommand
+{
+public:
+    KeyStep(KeyLevel& level, KeyChanges changes) : m_level(level), m_changes(std::move(changes)) {}
+
+    void undo() override
+    {
+        for (const KeyChange& change : m_changes)
+            m_level.setKey(change.cell, change.before);
+    }
+    void redo() override
+    {
+        for (const KeyChange& change : m_changes)
+            m_level.setKey(change.cell, change.after);
+    }
+
+private:
+    KeyLevel& m_level;
+    KeyChanges m_changes;
+};
+
 KeyCells movedBy(KeyCells cells, KeyCell offset)
 {
     for (KeyCell& cell : cells)
@@ -44,8 +68,7 @@ KeyCell upperLeft(const KeyCells& cells)
 
 void KeyEditor::levelWasRead()
 {
-    m_steps.clear();
-    m_done = 0;
+    m_history.clear();
     m_marked.clear();
 }
 
@@ -60,36 +83,17 @@ Refusal KeyEditor::refusalOf(const KeyCells& cells) const
     return std::ranges::any_of(cells, isFixed) ? Refusal::FixedKey : Refusal::None;
 }
 
-void KeyEditor::take(Step step)
+void KeyEditor::make(KeyChanges changes)
 {
-    std::erase_if(step, [](const Change& change) { return change.before == change.after; });
-    if (step.empty())
-        return;
-    m_steps.resize(m_done);
-    m_steps.push_back(std::move(step));
-    redo();
-}
-
-void KeyEditor::undo()
-{
-    if (!canUndo())
-        return;
-    for (const Change& change : m_steps[--m_done])
-        m_level.setKey(change.cell, change.before);
-}
-
-void KeyEditor::redo()
-{
-    if (!canRedo())
-        return;
-    for (const Change& change : m_steps[m_done++])
-        m_level.setKey(change.cell, change.after);
+    std::erase_if(changes, [](const KeyChange& change) { return change.before == change.after; });
+    if (!changes.empty())
+        m_history.push(new KeyStep(m_level, std::move(changes)));
 }
 
 void KeyEditor::assign(const KeyCells& cells, ItemKind kind, const QString& number)
 {
     const std::optional<Key> chosen = m_level.items().keyFor(kind, number);
-    Step step;
+    KeyChanges changes;
     for (const KeyCell cell : cells) {
         Key key = m_level.key(cell);
         const bool isFixed = key.state == KeyState::Fixed;
@@ -99,18 +103,18 @@ void KeyEditor::assign(const KeyCells& cells, ItemKind kind, const QString& numb
             key.text = chosen ? chosen->text : itemTable(kind).missingEntry;
             key.state = isFixed ? KeyState::Fixed : KeyState::Missing;
         }
-        step.push_back(changeOf(cell, key));
+        changes.push_back(changeOf(cell, key));
     }
-    take(std::move(step));
+    make(std::move(changes));
 }
 
 /// Each of @p target does what the cell of @p source at the same place does.
-KeyEditor::Step KeyEditor::copies(const KeyCells& source, const KeyCells& target) const
+KeyEditor::KeyChanges KeyEditor::copies(const KeyCells& source, const KeyCells& target) const
 {
-    Step step;
+    KeyChanges changes;
     for (std::size_t i = 0; i < source.size(); ++i)
-        step.push_back(changeOf(target[i], m_level.key(source[i])));
-    return step;
+        changes.push_back(changeOf(target[i], m_level.key(source[i])));
+    return changes;
 }
 
 Refusal KeyEditor::swap(const KeyCells& cells, KeyCell from, KeyCell to)
@@ -121,10 +125,10 @@ Refusal KeyEditor::swap(const KeyCells& cells, KeyCell from, KeyCell to)
         if (const Refusal refusal = refusalOf(touched); refusal != Refusal::None)
             return refusal;
     }
-    Step step = copies(source, target);
-    const Step back = copies(without(target, source), without(source, target));
-    step.insert(step.end(), back.begin(), back.end());
-    take(std::move(step));
+    KeyChanges changes = copies(source, target);
+    const KeyChanges back = copies(without(target, source), without(source, target));
+    changes.insert(changes.end(), back.begin(), back.end());
+    make(std::move(changes));
     return Refusal::None;
 }
 
@@ -135,7 +139,7 @@ Refusal KeyEditor::copyTo(const KeyCells& cells, KeyCell from, KeyCell to)
         if (const Refusal refusal = refusalOf(touched); refusal != Refusal::None)
             return refusal;
     }
-    take(copies(cells, target));
+    make(copies(cells, target));
     return Refusal::None;
 }
 
@@ -169,10 +173,10 @@ Refusal KeyEditor::clear(const KeyCells& cells)
 {
     if (const Refusal refusal = refusalOf(cells); refusal != Refusal::None)
         return refusal;
-    Step step;
+    KeyChanges changes;
     for (const KeyCell cell : cells)
-        step.push_back(changeOf(cell, unprogrammedKey()));
-    take(std::move(step));
+        changes.push_back(changeOf(cell, unprogrammedKey()));
+    make(std::move(changes));
     return Refusal::None;
 }
 
@@ -181,16 +185,16 @@ Refusal KeyEditor::paste(const KeyCells& cells)
     if (m_copied.empty() || cells.empty())
         return Refusal::NoKeys;
     const KeyCells corners = m_copied.size() == 1 ? cells : KeyCells{upperLeft(cells)};
-    Step step;
+    KeyChanges changes;
     for (const KeyCell corner : corners) {
         for (const Piece& piece : m_copied) {
             const KeyCell cell = corner + piece.offset;
             if (const Refusal refusal = refusalOf({cell}); refusal != Refusal::None)
                 return refusal;
-            step.push_back(changeOf(cell, piece.key));
+            changes.push_back(changeOf(cell, piece.key));
         }
     }
-    take(std::move(step));
+    make(std::move(changes));
     return Refusal::None;
 }
 

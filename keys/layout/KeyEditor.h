@@ -3,6 +3,8 @@
 
 #include "keys/layout/KeyLevel.h"
 
+#include <QUndoStack>
+
 #include <vector>
 
 namespace norvane::keys
@@ -18,8 +20,8 @@ enum class Refusal {
     NoKeys,   ///< nothing was copied or marked
 };
 
-/// Changes the keys of a KeyLevel. Each call is one step of undo(); the steps live until another level is
-/// read. Keys that were copied outlive it, so that they can be pasted into another level.
+/// Changes the keys of a KeyLevel. Each call that changes keys is one step of the history, which lasts until
+/// another level is read. Keys that were copied remain, so that they can be pasted into another level.
 class KeyEditor
 {
 public:
@@ -54,34 +56,31 @@ public:
     /// swap() of the marked keys, the upper left of them to that of @p cells. Removes the mark.
     Refusal swapWithMarked(const KeyCells& cells);
 
-    [[nodiscard]] bool canUndo() const { return m_done > 0; }
-    [[nodiscard]] bool canRedo() const { return m_done < m_steps.size(); }
-    void undo();
-    void redo();
+    [[nodiscard]] QUndoStack& history() { return m_history; }
 
 private:
-    struct Change {
+    class KeyStep;
+    struct KeyChange {
         KeyCell cell;
         Key before;
         Key after;
     };
-    using Step = std::vector<Change>;
+    using KeyChanges = std::vector<KeyChange>;
     struct Piece {
         KeyCell offset; ///< from the upper left of what was copied
         Key key;
     };
 
     [[nodiscard]] Refusal refusalOf(const KeyCells& cells) const;
-    [[nodiscard]] Change changeOf(KeyCell cell, const Key& after) const
+    [[nodiscard]] KeyChange changeOf(KeyCell cell, const Key& after) const
     {
         return {cell, m_level.key(cell), after};
     }
-    [[nodiscard]] Step copies(const KeyCells& source, const KeyCells& target) const;
-    void take(Step step);
+    [[nodiscard]] KeyChanges copies(const KeyCells& source, const KeyCells& target) const;
+    void make(KeyChanges changes);
 
     KeyLevel& m_level;
-    std::vector<Step> m_steps;
-    std::size_t m_done = 0; ///< steps that are not undone
+    QUndoStack m_history;
     std::vector<Piece> m_copied;
     KeyCells m_marked;
 };

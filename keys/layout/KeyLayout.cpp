@@ -1,22 +1,29 @@
-// What the keyboard layout editor does; see KeyLayout.h.
+// See KeyLayout.h.
 #include "keys/layout/KeyLayout.h"
 
 #include "base/LossQuestion.h"
 #include "keys/KeyDatabase.h"
 #include "keys/layout/copylevel.h"
+#include "keys/layout/KeyCellDelegate.h"
+#include "keys/layout/KeyCommands.h"
 #include "keys/layout/KeyGrid.h"
 #include "keys/layout/KeyListPanel.h"
 #include "keys/layout/KeySearch.h"
+#include "keys/layout/LevelRow.h"
 #include "keys/SaveOrTell.h"
 #include "platform/Boxes.h"
 #include "ui/Announcement.h"
+#include "ui/Appearance.h"
+#include "ui/FormKit.h"
 #include "ui/StatusLine.h"
 
-#include <QAction>
+#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -41,6 +48,11 @@ QString refusalText(Refusal refusal)
     }
     return {};
 }
+
+constexpr int findWidth = 180;
+constexpr int narrowestFind = 80;
+/// What a window's frame and a desktop's bars take of the screen.
+constexpr QSize frameRoom(16, 60);
 
 /// As many keys as are chosen on purpose or by mistake: from here on the user is asked.
 constexpr std::size_t askedBlock = 4;
@@ -67,13 +79,100 @@ KeyLayout::KeyLayout(const KeyGeometry& keyboard, ApplicationValues& values, Box
     m_level.read(1);
     Grid1 = new KeyGrid(&m_model, this);
     m_lists = new KeyListPanel(m_database, this);
+    m_levels = new LevelRow(this);
+    m_status = new ui::StatusLine(this);
     layOut();
-    addActions();
+    addCommands();
     connectParts();
     Grid1->setCurrentCell({0, 0});
     showLevel();
     Grid1->setFocus();
     fitScreen();
+}
+
+void KeyLayout::layOut()
+{
+    auto* const body = new QHBoxLayout;
+    body->setSpacing(ui::spacing::groupGap);
+    body->addWidget(Grid1, 1);
+    body->addWidget(m_lists);
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(ui::spacing::formMargin, ui::spacing::controlGap, ui::spacing::formMargin, 0);
+    column->setSpacing(ui::spacing::controlGap);
+    column->addWidget(m_levels);
+    column->addLayout(body, 1);
+    column->addLayout(makeFindRow());
+    column->addWidget(m_status);
+}
+
+void KeyLayout::makeFind(QHBoxLayout& row)
+{
+    m_find = new QLineEdit(this);
+    ui::nameControl(*m_find, u"KeyFind"_s);
+    m_find->setMinimumWidth(ui::scaled(narrowestFind));
+    m_find->setMaximumWidth(ui::scaled(findWidth));
+    m_find->setClearButtonEnabled(true);
+    m_find->setToolTip(u"Marks the keys of this level with this text (Ctrl+F); Enter goes to the next"_s);
+    auto* const label = new QLabel(u"&Find keys:"_s, this);
+    label->setBuddy(m_find);
+    m_findOutcome = new QLabel(this);
+    ui::nameControl(*m_findOutcome, u"KeyFindOutcome"_s);
+    row.addWidget(label);
+    row.addWidget(m_find, 2);
+    row.addWidget(m_findOutcome, 1);
+}
+
+QLayout* KeyLayout::makeFindRow()
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(ui::spacing::controlGap);
+    makeFind(*row);
+    QPushButton* const store = makeFormButton(u"CSCmdBtn1"_s, u"&Save"_s, this);
+    QPushButton* const leave = makeFormButton(u"CSCmdBtn2"_s, u"E&xit"_s, this);
+    connect(store, &QPushButton::clicked, this, &KeyLayout::askAndSave);
+    // Without any question: what is not saved is lost.
+    connect(leave, &QPushButton::clicked, this, [this] { done(Rejected); });
+    for (QPushButton* const button : {store, leave})
+        button->setMinimumWidth(ui::buttonWidth); // in large type the legend needs the room
+    row->addWidget(new KeyLegend(this));
+    row->addSpacing(ui::spacing::groupGap);
+    row->addWidget(store);
+    row->addWidget(leave);
+    return row;
+}
+
+void KeyLayout::connectParts()
+{
+    connect(m_levels, &LevelRow::levelWanted, this, &KeyLayout::changeLevel);
+    connect(m_levels, &LevelRow::copyWanted, this, &KeyLayout::copyLevels);
+    connect(Grid1, &KeyGrid::entered, m_lists, &KeyListPanel::enterList);
+    connect(Grid1, &KeyGrid::currentCellChanged, this, &KeyLayout::tellKey);
+    connect(m_lists, &KeyListPanel::chosen, this, &KeyLayout::assign);
+    connect(m_lists, &KeyListPanel::looked, this, &KeyLayout::tellItem);
+    connect(m_find, &QLineEdit::textChanged, this, &KeyLayout::find);
+    connect(m_find, &QLineEdit::returnPressed, this, &KeyLayout::goToNextFound);
+    connect(&m_model, &KeyGridModel::dropped, this, &KeyLayout::drop);
+}
+
+void KeyLayout::addCommands()
+{
+    const auto* const commands = new KeyCommands(m_editor, *Grid1, this);
+    connect(commands, &KeyCommands::finished, this, &KeyLayout::finish);
+    connect(commands, &KeyCommands::copied, this, [this] { m_status->setNotice(u"Copied"_s); });
+    connect(commands, &KeyCommands::marked, &m_model, &KeyGridModel::refresh);
+    connect(commands, &KeyCommands::findWanted, this, [this] {
+        m_find->setFocus();
+        m_find->selectAll();
+    });
+}
+
+void KeyLayout::fitScreen()
+{
+    const QSize free = screen()->availableSize() - frameRoom;
+    QSize wanted = sizeHint();
+    if (wanted.width() > free.width())
+        wanted.rheight() += Grid1->horizontalScrollBar()->sizeHint().height();
+    resize(wanted.boundedTo(free));
 }
 
 void KeyLayout::updategrid(int level)
@@ -87,9 +186,7 @@ void KeyLayout::showLevel()
 {
     const QString words = u"Keyboard Level. %1"_s.arg(m_level.level());
     setWindowTitle(words);
-    Label1->setText(words);
-    for (std::size_t button = 0; button < m_levels.size(); ++button)
-        m_levels[button]->setChecked(static_cast<int>(button) + 1 == m_level.level());
+    m_levels->showLevel(words, m_level.level());
     find();
     showChanges();
     tellKey();
@@ -194,10 +291,7 @@ void KeyLayout::finish(Refusal refusal)
 
 void KeyLayout::showChanges()
 {
-    m_star->setText(m_level.differs() ? u"*"_s : QString());
-    m_undo->setEnabled(m_editor.canUndo());
-    m_redo->setEnabled(m_editor.canRedo());
-    m_paste->setEnabled(m_editor.canPaste());
+    m_levels->showChanged(m_level.differs());
 }
 
 void KeyLayout::find()

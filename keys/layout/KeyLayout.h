@@ -7,15 +7,12 @@
 
 #include <QDialog>
 
-#include <functional>
 #include <memory>
-#include <vector>
 
-class QAction;
 class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
-class QPushButton;
 
 namespace norvane
 {
@@ -32,6 +29,7 @@ namespace norvane::keys
 
 class KeyGrid;
 class KeyListPanel;
+class LevelRow;
 
 /// The forms KeyLayoutVelmar and KeyLayoutDorvik: one level of the keyboard as a grid, and lists of what can
 /// be put on its keys. Nothing is stored before the user says so.
@@ -55,18 +53,10 @@ protected:
 
 private:
     void layOut();
-    [[nodiscard]] QLayout* makeLevelRow();
-    [[nodiscard]] QPushButton* makeLevelButton(int level);
-    void makeFind(QHBoxLayout& row);
     [[nodiscard]] QLayout* makeFindRow();
+    void makeFind(QHBoxLayout& row);
     void connectParts();
-    void addActions();
-    void addClipboardActions();
-    void addMarkActions();
-    void addFormActions();
-    void addSeparator();
-    QAction* addAction(const QString& name, const QString& caption, const QList<QKeySequence>& keys,
-                       Qt::ShortcutContext context, const std::function<void()>& run);
+    void addCommands();
     void fitScreen();
 
     void updategrid(int level);
@@ -98,15 +88,10 @@ private:
     KeyCells m_found;
     KeyGrid* Grid1;
     KeyListPanel* m_lists;
-    QLabel* Label1;
-    QLabel* m_star;
+    LevelRow* m_levels;
     QLineEdit* m_find;
     QLabel* m_findOutcome;
     ui::StatusLine* m_status;
-    std::vector<QPushButton*> m_levels;
-    QAction* m_paste = nullptr;
-    QAction* m_undo = nullptr;
-    QAction* m_redo = nullptr;
 };
 
 } // namespace norvane::keys

@@ -107,14 +107,14 @@ TEST_F(KeyEditorTest, AChangeIsOneUndoStepAndARefusedOneIsNotAny)
     for (const auto& [act, keysChanged, to, after, refusal] : changes) {
         EXPECT_EQ(change(editor, act, keysChanged, to), refusal);
         EXPECT_EQ(keys(), after);
-        EXPECT_EQ(editor.canUndo(), refusal == Refusal::None);
-        editor.undo();
+        EXPECT_EQ(editor.history().canUndo(), refusal == Refusal::None);
+        editor.history().undo();
         EXPECT_EQ(keys(), untouched);
         if (refusal == Refusal::None)
-            editor.redo();
+            editor.history().redo();
         EXPECT_EQ(keys(), after);
-        editor.undo();
-        EXPECT_FALSE(editor.canUndo());
+        editor.history().undo();
+        EXPECT_FALSE(editor.history().canUndo());
     }
 }
 
@@ -123,12 +123,12 @@ TEST_F(KeyEditorTest, CopiedKeysOutliveTheLevelAndUndoStepsDoNot)
     editor.cut(pair);
     level.read(2);
     editor.levelWasRead();
-    EXPECT_FALSE(editor.canUndo());
+    EXPECT_FALSE(editor.history().canUndo());
     EXPECT_EQ(editor.paste({{3, 3}}), Refusal::None);
     EXPECT_EQ(level.key({3, 4}).function, u"b"_s);
-    editor.undo();
+    editor.history().undo();
     editor.clear({{1, 0}});
-    EXPECT_FALSE(editor.canRedo()) << "a new change takes the place of what was undone";
+    EXPECT_FALSE(editor.history().canRedo()) << "a new change takes the place of what was undone";
 }
 
 } // namespace

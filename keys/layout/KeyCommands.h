@@ -1,0 +1,53 @@
+// What the user does with the chosen keys: the context menu of the grid, and its shortcuts.
+#pragma once
+
+#include "keys/layout/KeyEditor.h"
+
+#include <QObject>
+
+class QAction;
+
+namespace norvane::keys
+{
+
+class KeyGrid;
+
+/// Adds its actions to the grid. Those of the clipboard and of the mark have their shortcuts in the grid
+/// alone, since the same keys work on texts in lists and boxes; Undo, Redo and Find have them in the whole
+/// form.
+class KeyCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p editor and @p grid must outlive this.
+    KeyCommands(KeyEditor& editor, KeyGrid& grid, QObject* parent);
+
+Q_SIGNALS:
+    /// Keys were changed, or @p refusal says why not.
+    void finished(Refusal refusal);
+    void copied();
+    void marked();
+    void findWanted();
+
+private:
+    struct Entry;
+    using Handler = void (KeyCommands::*)();
+
+    void addAction(const Entry& entry);
+    void followEditor();
+    void cut();
+    void copy();
+    void paste();
+    void clear();
+    void mark();
+    void swapWithMarked();
+    void undo();
+    void redo();
+
+    KeyEditor& m_editor;
+    KeyGrid& m_grid;
+    QAction* m_paste = nullptr;
+};
+
+} // namespace norvane::keys
