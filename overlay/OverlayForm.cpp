@@ -2,7 +2,6 @@
 #include "overlay/OverlayForm.h"
 
 #include "base/CustomerSettings.h"
-#include "overlay/ColourStrip.h"
 #include "overlay/KeyboardView.h"
 #include "overlay/KeyClipboard.h"
 #include "overlay/SheetPainter.h"
@@ -12,17 +11,19 @@
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
+#include <QBoxLayout>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
-#include <QFontInfo>
 #include <QGuiApplication>
-#include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QVBoxLayout>
+
+#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,17 +32,9 @@ namespace norvane::overlay
 namespace
 {
 
-/// Larger letters would not fit the sample.
-constexpr double largestSample = 16;
-
-QFont fontOf(const CellFont& font)
-{
-    QFont shown(font.name);
-    shown.setPointSizeF(font.size > 0 ? font.size : CellFont().size);
-    shown.setBold(font.isBold);
-    shown.setItalic(font.isItalic);
-    return shown;
-}
+constexpr int levels = 5;
+constexpr std::array<std::pair<const char*, int>, 6> zooms = {
+    {{"Fit window", 0}, {"75 %", 75}, {"100 %", 100}, {"125 %", 125}, {"150 %", 150}, {"200 %", 200}}};
 
 /// The keyboard of the customer whose database is imported; nothing if the settings do not say.
 std::optional<Keyboard> keyboardInUse(ApplicationValues values)
@@ -56,20 +49,23 @@ std::optional<Keyboard> keyboardInUse(ApplicationValues values)
     }
 }
 
-/// The dialog shows the substitute for a font that this computer does not have. Documents keep its name.
-QString nameOf(const QFont& chosen, const QFont& initial)
-{
-    return QFontInfo(initial).family() == chosen.family() ? initial.family() : chosen.family();
-}
-
 } // namespace
+
+/// An entry of a menu or of the tool bar.
+struct OverlayForm::Entry {
+    const char* name;
+    const char* caption;
+    Handler handler;
+    const char* keys = "";
+    const char* toolTip = "";
+};
 
 OverlayForm::OverlayForm(Keyboard keyboard, const ApplicationValues& values, Boxes& boxes,
                          OverlayDialogs& dialogs, PrinterInUse& printer, QWidget* parent)
-    : QDialog(parent, Qt::Window), m_values(values), m_boxes(boxes), m_dialogs(dialogs), m_editor(keyboard),
+    : QDialog(parent, Qt::Window), m_values(values), m_boxes(boxes), m_editor(keyboard),
       m_files(m_editor, values, boxes, dialogs), m_sheet(m_editor.document(), boxes, dialogs, printer),
-      m_keyboard(new KeyboardView(m_editor, this)), m_colours(new ColourStrip(this)),
-      Label1(new QLabel(u"Sample"_s, this)), StatusBar1(new QStatusBar(this))
+      m_keyboard(new KeyboardView(m_editor, this)),
+      m_style(new StyleChooser(m_editor.style(), dialogs, this)), StatusBar1(new QStatusBar(this))
 {
     ui::nameControl(*this, m_editor.document().geometry().name.toString());
     ui::nameControl(*StatusBar1, u"StatusBar1"_s);
@@ -85,10 +81,126 @@ OverlayForm::OverlayForm(Keyboard keyboard, const ApplicationValues& values, Box
     column->addWidget(StatusBar1);
     connect(m_keyboard, &KeyboardView::currentCellChanged, this, &OverlayForm::showCurrentCell);
     followHistory();
-    showSample();
     showTitle();
     openAtGoodSize();
     m_keyboard->goTo(0);
+}
+
+void OverlayForm::buildMenus(QMenuBar& bar)
+{
+    static constexpr std::array<Entry, 6> files = {{
+        {"New", "&New", &OverlayForm::newFile},
+        {"Open", "&Open", &OverlayForm::openFile},
+        {"Save", "&Save", &OverlayForm::saveFile},
+        {"PrinterSetup", "&Printer Setup", &OverlayForm::setUpPrinter},
+        {"Print", "&Print", &OverlayForm::print},
+        {"Exit", "E&xit", &OverlayForm::reject},
+    }};
+    static constexpr std::array<Entry, 2> colours = {{
+        {"BackGround", "&BackGround", &OverlayForm::chooseBackground},
+        {"TextColour", "&Text Colour", &OverlayForm::chooseTextColour},
+    }};
+    QMenu* const filesMenu = bar.addMenu(u"Files"_s);
+    ui::nameControl(*filesMenu, u"Files"_s);
+    for (const Entry& entry : files)
+        addEntry(*filesMenu, entry);
+    addEntry(bar, {"Font", "&Font", &OverlayForm::chooseFont});
+    QMenu* const coloursMenu = bar.addMenu(u"&Colours"_s);
+    ui::nameControl(*coloursMenu, u"Colours"_s);
+    for (const Entry& entry : colours)
+        addEntry(*coloursMenu, entry);
+    if (m_editor.document().geometry().hasImport)
+        addImportMenu(bar);
+}
+
+void OverlayForm::addEntry(QWidget& menu, const Entry& entry)
+{
+    auto* const action = new QAction(QLatin1StringView(entry.caption), this);
+    action->setObjectName(QLatin1StringView(entry.name));
+    action->setMenuRole(QAction::NoRole);
+    action->setShortcuts(QKeySequence::listFromString(QLatin1StringView(entry.keys)));
+    if (*entry.toolTip != '\0')
+        action->setToolTip(QLatin1StringView(entry.toolTip));
+    connect(action, &QAction::triggered, this, entry.handler);
+    menu.addAction(action);
+}
+
+void OverlayForm::addImportMenu(QMenuBar& bar)
+{
+    QMenu* const menu = bar.addMenu(u"&Import Keyboard"_s);
+    ui::nameControl(*menu, u"ImportKeyboard"_s);
+    for (int level = 1; level <= levels; ++level) {
+        QAction* const action = menu->addAction(u"Import Level&%1"_s.arg(level));
+        action->setObjectName(u"ImportLevel%1"_s.arg(level));
+        connect(action, &QAction::triggered, this, [this, level] { importLevel(level); });
+    }
+}
+
+/// In one row, or in two where large type makes them too wide for the screen.
+QLayout* OverlayForm::makeTools()
+{
+    QToolBar* const actions = makeActionTools();
+    QToolBar* const view = makeViewTools();
+    const int width = actions->sizeHint().width() + view->sizeHint().width();
+    const bool fits = width < screen()->availableSize().width() * 0.94;
+    auto* const tools = new QBoxLayout(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    tools->setSpacing(0);
+    tools->addWidget(actions);
+    tools->addWidget(view, 1);
+    return tools;
+}
+
+QToolBar* OverlayForm::makeActionTools()
+{
+    static constexpr std::array<Entry, 4> edits = {{
+        {"Undo", "Undo", &OverlayForm::undo, "Ctrl+Z", "Takes the last step back (Ctrl+Z)"},
+        {"Redo", "Redo", &OverlayForm::redo, "Ctrl+Y; Ctrl+Shift+Z",
+         "Does again what was taken back (Ctrl+Y)"},
+        {"CopyKey", "Copy key", &OverlayForm::copyKey, "Ctrl+Shift+C",
+         "Copies all lines of the key, with colours and fonts (Ctrl+Shift+C)"},
+        {"PasteKey", "Paste key", &OverlayForm::pasteKey, "Ctrl+Shift+V",
+         "Gives the key the lines, colours and fonts that were copied (Ctrl+Shift+V)"},
+    }};
+    static constexpr std::array<Entry, 3> sheet = {{
+        {"Preview", "Preview", &OverlayForm::preview, "", "The sheet as it will print"},
+        {"SavePdf", "Save as PDF", &OverlayForm::savePdf, "", "Writes the sheet into a PDF file"},
+        {"PrinterCorrection", "Printer correction", &OverlayForm::correctPrinter, "",
+         "Puts right a printer that prints beside the keys"},
+    }};
+    auto* const bar = new QToolBar(this);
+    ui::nameControl(*bar, u"Tools"_s);
+    for (const Entry& entry : edits)
+        addEntry(*bar, entry);
+    m_undo = bar->actions().at(0);
+    m_redo = bar->actions().at(1);
+    m_keyboard->addActions(bar->actions().mid(2));
+    bar->addSeparator();
+    for (const Entry& entry : sheet)
+        addEntry(*bar, entry);
+    return bar;
+}
+
+QToolBar* OverlayForm::makeViewTools()
+{
+    auto* const bar = new QToolBar(this);
+    ui::nameControl(*bar, u"ViewTools"_s);
+    bar->addSeparator();
+    addZoom(*bar);
+    bar->addSeparator();
+    m_style->addTo(*bar);
+    return bar;
+}
+
+void OverlayForm::addZoom(QToolBar& bar)
+{
+    auto* const zoom = new QComboBox(&bar);
+    ui::nameControl(*zoom, u"Zoom"_s, u"Size of the keyboard on the screen"_s);
+    for (const auto& [caption, percent] : zooms)
+        zoom->addItem(QLatin1StringView(caption), percent);
+    zoom->setToolTip(u"Size of the keyboard on the screen"_s);
+    connect(zoom, &QComboBox::currentIndexChanged, this,
+            [this, zoom] { m_keyboard->setZoom(zoom->currentData().toInt()); });
+    bar.addWidget(zoom);
 }
 
 void OverlayForm::followHistory()
@@ -116,6 +228,11 @@ void OverlayForm::reject()
         QDialog::reject();
 }
 
+void OverlayForm::chooseFont()
+{
+    m_style->chooseFont(m_editor.document().cell(m_keyboard->currentCell()).font);
+}
+
 void OverlayForm::newFile()
 {
     m_files.Newfile();
@@ -124,7 +241,7 @@ void OverlayForm::newFile()
 void OverlayForm::openFile()
 {
     m_files.OpenFile();
-    rememberColours();
+    m_style->rememberColours(m_editor.document());
 }
 
 void OverlayForm::saveFile()
@@ -161,70 +278,6 @@ void OverlayForm::savePdf()
     const QString path = m_sheet.savePdf(QDir(m_values.customerPath).filePath(name));
     if (!path.isEmpty())
         tell(u"Saved as %1."_s.arg(QDir::toNativeSeparators(path)));
-}
-
-/// Before the first choice the dialog begins with the font of the cell in use.
-QFont OverlayForm::initialFont() const
-{
-    const auto& chosen = m_editor.style().font;
-    return fontOf(chosen ? *chosen : m_editor.document().cell(m_keyboard->currentCell()).font);
-}
-
-void OverlayForm::chooseFont()
-{
-    const QFont initial = initialFont();
-    const auto chosen = m_dialogs.font(initial);
-    if (!chosen)
-        return;
-    m_editor.style().font = CellFont{nameOf(*chosen, initial), static_cast<float>(chosen->pointSizeF()),
-                                     chosen->bold(), chosen->italic()};
-    showSample();
-}
-
-void OverlayForm::chooseBackground()
-{
-    const auto chosen = m_dialogs.colour(drawnBackground(m_editor.style().background), u"BackGround"_s);
-    if (!chosen)
-        return;
-    m_colours->remember(*chosen);
-    takeBackground(*chosen);
-}
-
-void OverlayForm::chooseTextColour()
-{
-    const auto chosen = m_dialogs.colour(drawnText(m_editor.style().textColour), u"Text Colour"_s);
-    if (!chosen)
-        return;
-    m_colours->remember(*chosen);
-    takeTextColour(*chosen);
-}
-
-void OverlayForm::takeBackground(const QColor& colour)
-{
-    m_editor.style().background = colourOf(colour);
-    showSample();
-}
-
-void OverlayForm::takeTextColour(const QColor& colour)
-{
-    m_editor.style().textColour = colourOf(colour);
-    showSample();
-}
-
-/// A document that was opened offers its own colours again.
-void OverlayForm::rememberColours()
-{
-    QList<QColor> colours;
-    const auto note = [&colours](const QColor& colour) {
-        if (colour != Qt::white && colour != Qt::black && !colours.contains(colour))
-            colours += colour;
-    };
-    for (const TextCell& cell : m_editor.document().cells()) {
-        note(drawnBackground(cell.background));
-        note(drawnText(cell.textColour));
-    }
-    for (const QColor& colour : colours)
-        m_colours->remember(colour);
 }
 
 /// An import that fails has stored nothing. What it changed in the document can be undone like any import.
@@ -275,21 +328,6 @@ void OverlayForm::pasteKey()
     } else {
         m_editor.pasteKey(m_keyboard->currentCell(), cells);
     }
-}
-
-void OverlayForm::showSample()
-{
-    const CurrentStyle& style = m_editor.style();
-    QPalette colours = Label1->palette();
-    colours.setColor(QPalette::Window, drawnBackground(style.background));
-    colours.setColor(QPalette::WindowText, drawnText(style.textColour));
-    Label1->setPalette(colours);
-    if (!style.font)
-        return;
-    QFont shown = fontOf(*style.font);
-    shown.setPointSizeF(qMin(shown.pointSizeF(), largestSample));
-    Label1->setFont(shown);
-    Label1->setText(style.font->name);
 }
 
 void OverlayForm::showTitle()

@@ -4,10 +4,10 @@
 #include "overlay/DocumentEditor.h"
 #include "overlay/FileActions.h"
 #include "overlay/SheetActions.h"
+#include "overlay/StyleChooser.h"
 
 #include <QDialog>
 
-class QLabel;
 class QLayout;
 class QMenu;
 class QMenuBar;
@@ -17,7 +17,6 @@ class QToolBar;
 namespace norvane::overlay
 {
 
-class ColourStrip;
 class KeyboardView;
 
 /// One form for three keyboards, named after its keyboard. Leaving it asks once about changes that were not
@@ -47,7 +46,6 @@ private:
     [[nodiscard]] QToolBar* makeActionTools();
     [[nodiscard]] QToolBar* makeViewTools();
     void addZoom(QToolBar& bar);
-    void addSample(QToolBar& bar);
     void followHistory();
     void openAtGoodSize();
 
@@ -58,8 +56,8 @@ private:
     void print();
     void printUnder(const std::optional<paper::PrinterCorrection>& correction);
     void chooseFont();
-    void chooseBackground();
-    void chooseTextColour();
+    void chooseBackground() { m_style->chooseBackground(); }
+    void chooseTextColour() { m_style->chooseTextColour(); }
     void importLevel(int level);
     [[nodiscard]] QString keyboardNotice() const;
     void undo();
@@ -70,24 +68,17 @@ private:
     void savePdf();
     void correctPrinter() { m_sheet.correctPrinter(this); }
 
-    void takeBackground(const QColor& colour);
-    void takeTextColour(const QColor& colour);
-    [[nodiscard]] QFont initialFont() const;
-    void rememberColours();
-    void showSample();
     void showTitle();
     void showCurrentCell(int cell);
     void tell(const QString& text);
 
     const ApplicationValues& m_values;
     Boxes& m_boxes;
-    OverlayDialogs& m_dialogs;
     DocumentEditor m_editor;
     FileActions m_files;
     SheetActions m_sheet;
     KeyboardView* m_keyboard;
-    ColourStrip* m_colours;
-    QLabel* Label1;
+    StyleChooser* m_style;
     QStatusBar* StatusBar1;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
