@@ -23,7 +23,6 @@ namespace norvane::overlay
 namespace
 {
 
-constexpr double millimetresPerPoint = 25.4 / 72;
 constexpr QColor cutMark{0xd0, 0x20, 0x20};
 constexpr int markSize = 6;
 
@@ -90,7 +89,7 @@ QFont CellEdit::shownFont() const
     QFont shown(m_contents.font.name);
     shown.setBold(m_contents.font.isBold);
     shown.setItalic(m_contents.font.isItalic);
-    shown.setPixelSize(qMax(1, qRound(points * millimetresPerPoint * m_pixelsPerMillimetre)));
+    shown.setPixelSize(qMax(1, qRound(paper::points(points).inMillimetres() * m_pixelsPerMillimetre)));
     return shown;
 }
 

@@ -24,10 +24,10 @@ QFont fontOf(const CellFont& cell)
 
 double millimetresPerUnit(float points)
 {
-    constexpr double millimetresPerPoint = 25.4 / 72;
     constexpr float smallest = 0.1F; // a painter's scale may not vanish
     constexpr float largest = 2160;
-    return points < smallest ? 0 : qMin(points, largest) * millimetresPerPoint / paper::unitsPerSquare;
+    return points < smallest ? 0
+                             : paper::points(qMin(points, largest)).inMillimetres() / paper::unitsPerSquare;
 }
 
 } // namespace

@@ -28,8 +28,8 @@ constexpr double groundMargin = 3;
 constexpr int keyFrame = 1;
 /// Of the surroundings of the current cell that come into view with it, in pixels.
 constexpr int reachPixels = 20;
-constexpr double pixelsPerMillimetre = paper::screenDotsPerInch / 25.4;
-constexpr double smallestScale = 0.45 * pixelsPerMillimetre;
+constexpr double trueScale = paper::screenPixelsPerMillimetre;
+constexpr double smallestScale = 0.45 * trueScale;
 
 /// As screen readers say it.
 QString placeOf(const OverlayKey& key, int cell)
@@ -90,7 +90,7 @@ protected:
 private:
     const OverlayLayout& m_layout;
     QRectF m_bounds; ///< of all keys, in millimetres
-    double m_scale = pixelsPerMillimetre;
+    double m_scale = trueScale;
 };
 
 /// Cells are made in the order of reading, which is the order of Tab then.
@@ -169,7 +169,7 @@ void KeyboardView::setZoom(int percent)
 
 void KeyboardView::placeCells()
 {
-    m_ground->setScale(m_zoom > 0 ? m_zoom * pixelsPerMillimetre / 100 : fittingScale());
+    m_ground->setScale(m_zoom > 0 ? m_zoom * trueScale / 100 : fittingScale());
     for (const OverlayKey& key : m_layout.keys()) {
         QRectF line = key.outline();
         line.setHeight(line.height() / key.cells);
@@ -192,7 +192,7 @@ void KeyboardView::resizeEvent(QResizeEvent* event)
 /// The keyboard in true size.
 QSize KeyboardView::sizeHint() const
 {
-    return (m_ground->sizeInMillimetres() * pixelsPerMillimetre).toSize();
+    return (m_ground->sizeInMillimetres() * trueScale).toSize();
 }
 
 /// A cell that regains the focus from a dialog is the same cell.

@@ -2,6 +2,7 @@
 #include "overlay/OverlayPreview.h"
 
 #include "overlay/CorrectionForm.h"
+#include "overlay/SheetFit.h"
 #include "overlay/SheetPainter.h"
 #include "overlay/SheetView.h"
 #include "platform/Boxes.h"
@@ -80,18 +81,12 @@ void OverlayPreview::addButton(QBoxLayout& row, const QString& name, const QStri
 
 void OverlayPreview::addZoom(QBoxLayout& row)
 {
-    auto* const label = new QLabel(u"&Zoom:"_s, this);
-    m_zoom = new QComboBox(this);
-    m_zoom->addItems({u"Fit page"_s, u"Fit width"_s, u"100 %"_s});
-    m_zoom->setPlaceholderText(u"Own size"_s);
-    m_zoom->setToolTip(u"Ctrl and the mouse wheel, + and - show any size"_s);
-    ui::nameControl(*m_zoom, u"Zoom"_s);
-    label->setBuddy(m_zoom);
-    connect(m_zoom, &QComboBox::activated, m_view,
-            [this](int index) { m_view->setZoom(static_cast<SheetView::Zoom>(index)); });
-    connect(m_view, &SheetView::zoomedFreely, this, [this] { m_zoom->setCurrentIndex(-1); });
-    row.addWidget(label);
-    row.addWidget(m_zoom);
+    using paper::Zoom;
+    QComboBox* const zoom =
+        paper::addZoomBox(row, *m_view, {Zoom::FitPage, Zoom::FitWidth, Zoom::TrueSize}, this);
+    zoom->setPlaceholderText(u"Own size"_s);
+    zoom->setToolTip(u"Ctrl and the mouse wheel, + and - show any size"_s);
+    connect(m_view, &SheetView::zoomedFreely, zoom, [zoom] { zoom->setCurrentIndex(-1); });
 }
 
 QWidget* OverlayPreview::makeNotice()

@@ -8,7 +8,6 @@
 #include <functional>
 
 class QBoxLayout;
-class QComboBox;
 class QLabel;
 class QPushButton;
 
@@ -66,7 +65,6 @@ private:
     const paper::PrinterCorrections& m_corrections;
     Boxes& m_boxes;
     SheetView* m_view;
-    QComboBox* m_zoom = nullptr;
     QLabel* m_notice = nullptr;
     QPushButton* m_move = nullptr;
 };

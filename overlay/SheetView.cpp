@@ -20,21 +20,18 @@ namespace norvane::overlay
 namespace
 {
 
+using paper::Zoom;
+
 constexpr int gap = 10; ///< around the sheet, in pixels
-constexpr double millimetresPerInch = 25.4;
-constexpr double largestZoom = 40;
-constexpr double smallestZoom = 0.5;
+/// In pixels to the millimetre.
+constexpr double smallestSheetScale = 0.5;
 constexpr double zoomStep = 1.25;
-constexpr int arrowStep = 40;
 
 } // namespace
 
 SheetView::SheetView(const Document& document, QWidget* parent)
-    : QAbstractScrollArea(parent), m_document(document)
+    : ZoomedView(Zoom::FitPage, smallestSheetScale, parent), m_document(document)
 {
-    setFocusPolicy(Qt::StrongFocus);
-    for (QScrollBar* const bar : {horizontalScrollBar(), verticalScrollBar()})
-        bar->setSingleStep(arrowStep);
     viewport()->setCursor(Qt::OpenHandCursor);
     setZoom(Zoom::FitPage);
 }
@@ -43,56 +40,33 @@ void SheetView::setTarget(const TargetPrinter& target)
 {
     m_target = target;
     m_outside = keysOutside(m_document.layout(), target);
-    takeScale();
+    updateScale();
 }
 
 void SheetView::setZoom(Zoom zoom)
 {
-    m_zoom = zoom;
     // Bars that come and go would change the room that the sheet is fitted in.
     setHorizontalScrollBarPolicy(zoom == Zoom::FitPage || zoom == Zoom::FitWidth ? Qt::ScrollBarAlwaysOff
                                                                                  : Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(zoom == Zoom::FitPage ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
-    takeScale();
+    ZoomedView::setZoom(zoom);
 }
 
-void SheetView::takeScale()
+QSizeF SheetView::surroundings() const
 {
-    const QRectF sheet = m_target.sheet.rect();
-    const double wide = (viewport()->width() - rulerWidth - 2 * gap) / sheet.width();
-    const double high = (viewport()->height() - rulerWidth - 2 * gap) / sheet.height();
-    switch (m_zoom) {
-    case Zoom::FitPage:
-        m_scale = qMin(wide, high);
-        break;
-    case Zoom::FitWidth:
-        m_scale = wide;
-        break;
-    case Zoom::TrueSize:
-        m_scale = paper::screenDotsPerInch / millimetresPerInch;
-        break;
-    case Zoom::Free:
-        break;
-    }
-    m_scale = qBound(smallestZoom, m_scale, largestZoom);
-    updateBars();
-    viewport()->update();
+    return {rulerWidth + 2 * gap, rulerWidth + 2 * gap};
 }
 
-void SheetView::updateBars()
+QSizeF SheetView::contentsSize() const
 {
-    const QSizeF sheet = m_target.sheet.rect().size() * m_scale;
-    const QSizeF all = sheet + QSizeF(rulerWidth + 2 * gap, rulerWidth + 2 * gap);
-    horizontalScrollBar()->setPageStep(viewport()->width());
-    horizontalScrollBar()->setRange(0, qMax(0, static_cast<int>(all.width()) - viewport()->width()));
-    verticalScrollBar()->setPageStep(viewport()->height());
-    verticalScrollBar()->setRange(0, qMax(0, static_cast<int>(all.height()) - viewport()->height()));
+    return sheetSize() * pixelsPerMillimetre() + surroundings();
 }
 
 /// In whole pixels of the viewport, so that scrolling moves the picture as it is.
 QPointF SheetView::sheetCorner() const
 {
-    const double free = (viewport()->width() - rulerWidth - m_target.sheet.rect().width() * m_scale) / 2;
+    const double free =
+        (viewport()->width() - rulerWidth - m_target.sheet.rect().width() * pixelsPerMillimetre()) / 2;
     return {rulerWidth + std::floor(qMax<double>(gap, free)) - horizontalScrollBar()->value(),
             static_cast<double>(rulerWidth + gap - verticalScrollBar()->value())};
 }
@@ -106,19 +80,13 @@ QPointF SheetView::keysCorner() const
 
 QPointF SheetView::toViewport(QPointF place) const
 {
-    return sheetCorner() + place * m_scale;
-}
-
-void SheetView::setPixelsPerMillimetre(double pixels)
-{
-    m_scale = pixels;
-    setZoom(Zoom::Free);
+    return sheetCorner() + place * pixelsPerMillimetre();
 }
 
 void SheetView::zoomBy(double factor, QPointF fixed)
 {
-    const QPointF place = (fixed - sheetCorner()) / m_scale;
-    setPixelsPerMillimetre(m_scale * factor);
+    const QPointF place = (fixed - sheetCorner()) / pixelsPerMillimetre();
+    setPixelsPerMillimetre(pixelsPerMillimetre() * factor);
     const QPointF moved = toViewport(place) - fixed;
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x()));
     verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y()));
@@ -131,11 +99,11 @@ void SheetView::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(viewport()->rect(), ui::colours::desktop());
     painter.save();
     painter.translate(sheetCorner());
-    painter.scale(m_scale, m_scale);
+    painter.scale(pixelsPerMillimetre(), pixelsPerMillimetre());
     paintSheet(painter);
     paintOutside(painter);
     painter.restore();
-    paintRulers(painter, viewport()->size(), sheetCorner(), m_scale);
+    paintRulers(painter, viewport()->size(), sheetCorner(), pixelsPerMillimetre());
 }
 
 /// The correction's stretch compensates for the printer's error: on the paper it is not seen.
@@ -184,23 +152,13 @@ ui::SpokenItem SheetView::spokenItem(int index) const
         state += u", leaves the printable area"_s;
     const QRectF place = key.outline().translated(keysCorner());
     return {lines.join(u' '), state,
-            QRectF(toViewport(place.topLeft()), place.size() * m_scale).toAlignedRect()};
-}
-
-void SheetView::resizeEvent(QResizeEvent* /*event*/)
-{
-    takeScale();
-}
-
-void SheetView::scrollContentsBy(int /*dx*/, int /*dy*/)
-{
-    viewport()->update();
+            QRectF(toViewport(place.topLeft()), place.size() * pixelsPerMillimetre()).toAlignedRect()};
 }
 
 void SheetView::wheelEvent(QWheelEvent* event)
 {
     if (!event->modifiers().testFlag(Qt::ControlModifier)) {
-        QAbstractScrollArea::wheelEvent(event);
+        ZoomedView::wheelEvent(event);
         return;
     }
     constexpr double notch = 120;
@@ -216,7 +174,7 @@ void SheetView::keyPressEvent(QKeyEvent* event)
     } else if (event->key() == Qt::Key_Minus) {
         zoomBy(1 / zoomStep, middle);
     } else {
-        QAbstractScrollArea::keyPressEvent(event);
+        ZoomedView::keyPressEvent(event);
     }
 }
 

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "overlay/SheetPrint.h"
+#include "paper/ZoomedView.h"
 #include "ui/SpokenItems.h"
-
-#include <QAbstractScrollArea>
 
 namespace norvane::overlay
 {
@@ -12,22 +11,19 @@ namespace norvane::overlay
 /// Shows the whole page between rulers that count millimetres from the paper's edges, the printable area of
 /// the printer, and a mark on each key that leaves it. Zoomed with Ctrl and the wheel, plus and minus; moved
 /// with the bars, the arrows and the mouse. Screen readers find the keys on it.
-class SheetView : public QAbstractScrollArea, public ui::SpokenItems
+class SheetView : public paper::ZoomedView, public ui::SpokenItems
 {
     Q_OBJECT
 
 public:
-    enum class Zoom { FitPage, FitWidth, TrueSize, Free };
-
     /// @p document must outlive this.
     SheetView(const Document& document, QWidget* parent);
 
     /// Shows the sheet as it will be on this printer's paper.
     void setTarget(const TargetPrinter& target);
-    void setZoom(Zoom zoom);
-    [[nodiscard]] double pixelsPerMillimetre() const { return m_scale; }
+    void setZoom(paper::Zoom zoom) override;
     /// A size of the user's own, within limits.
-    void setPixelsPerMillimetre(double pixels);
+    void setPixelsPerMillimetre(double pixels) { zoomTo(pixels); }
     /// Where a place of the paper, in mm from its corner, is in the viewport.
     [[nodiscard]] QPointF toViewport(QPointF place) const;
 
@@ -39,19 +35,18 @@ Q_SIGNALS:
     void zoomedFreely();
 
 protected:
+    [[nodiscard]] QSizeF sheetSize() const override { return m_target.sheet.rect().size(); }
+    [[nodiscard]] QSizeF surroundings() const override;
+    [[nodiscard]] QSizeF contentsSize() const override;
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    void scrollContentsBy(int dx, int dy) override;
 
 private:
     [[nodiscard]] QPointF sheetCorner() const;
     [[nodiscard]] QPointF keysCorner() const;
-    void takeScale();
-    void updateBars();
     void zoomBy(double factor, QPointF fixed);
     void paintSheet(QPainter& painter) const;
     void paintOutside(QPainter& painter) const;
@@ -59,8 +54,6 @@ private:
     const Document& m_document;
     TargetPrinter m_target;
     std::vector<std::size_t> m_outside; ///< keys that leave the printable area
-    Zoom m_zoom = Zoom::FitPage;
-    double m_scale = 1;
     QPoint m_dragged;
 };
 

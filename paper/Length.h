@@ -75,6 +75,15 @@ private:
     return Length::made(count, dotsPerInch);
 }
 
+/// Sizes of fonts; a point is 1/72 inch.
+[[nodiscard]] constexpr Length points(double count)
+{
+    return dots(count, 72);
+}
+
+/// Logical pixels of a screen to the millimetre at true size.
+inline constexpr double screenPixelsPerMillimetre = millimetres(1).inDots(screenDotsPerInch);
+
 /// The nearest pixel of the screen, halves away from zero.
 [[nodiscard]] inline int screenPixels(Length length)
 {

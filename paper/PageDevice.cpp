@@ -1,15 +1,10 @@
 // See PageDevice.h.
 #include "paper/PageDevice.h"
 
+#include "paper/Length.h"
+
 namespace norvane::paper
 {
-namespace
-{
-
-constexpr double millimetresPerInch = 25.4;
-
-} // namespace
-
 PageDevice::PageDevice(QPagedPaintDevice& device, const QPageSize& sheet,
                        QPageLayout::Orientation orientation)
     : m_device(device)
@@ -36,7 +31,8 @@ QPainter& PageDevice::nextPage()
 /// Printers with margins do not use the full page; their origin is inside the margins.
 void PageDevice::startAtCorner()
 {
-    m_painter.scale(m_device.logicalDpiX() / millimetresPerInch, m_device.logicalDpiY() / millimetresPerInch);
+    const Length millimetre = millimetres(1);
+    m_painter.scale(millimetre.inDots(m_device.logicalDpiX()), millimetre.inDots(m_device.logicalDpiY()));
     const QPageLayout layout = m_device.pageLayout();
     if (layout.mode() == QPageLayout::FullPageMode)
         return;

@@ -15,7 +15,7 @@ namespace norvane::reports
 namespace
 {
 
-const double pixelsPerMillimetre = paper::millimetres(1).inDots(paper::screenDotsPerInch);
+constexpr double pixelsPerMillimetre = paper::screenPixelsPerMillimetre;
 constexpr double margin = 5; ///< around charts, in mm
 
 } // namespace

@@ -19,24 +19,16 @@ namespace
 {
 
 constexpr int gap = 12; ///< around pages, in pixels
-constexpr int arrowStep = 40;
+/// In pixels to the millimetre.
+constexpr double smallestScale = 0.2;
 
 } // namespace
 
 PageView::PageView(const ReportDocument& document, QWidget* parent)
-    : QAbstractScrollArea(parent), m_document(document)
+    : ZoomedView(paper::Zoom::FitWidth, smallestScale, parent), m_document(document)
 {
-    setFocusPolicy(Qt::StrongFocus);
-    verticalScrollBar()->setSingleStep(arrowStep);
-    horizontalScrollBar()->setSingleStep(arrowStep);
     // If the bar appeared only with the second page, the first one would become narrower while it is read.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-}
-
-void PageView::setZoom(Zoom zoom)
-{
-    m_zoom = zoom;
-    keepPlace([this] { updateScale(); });
 }
 
 void PageView::updatePages()
@@ -48,13 +40,13 @@ void PageView::updatePages()
 
 double PageView::pagePitch() const
 {
-    return sheet().height() * m_scale + gap;
+    return sheet().height() * pixelsPerMillimetre() + gap;
 }
 
 /// The place of a page in the viewport, in pixels.
 QRectF PageView::pageRect(int page) const
 {
-    const QSizeF size = sheet().size() * m_scale;
+    const QSizeF size = sheet().size() * pixelsPerMillimetre();
     const double left = qMax<double>(gap, (viewport()->width() - size.width()) / 2);
     return {QPointF(left - horizontalScrollBar()->value(),
                     gap + page * pagePitch() - verticalScrollBar()->value()),
@@ -73,46 +65,29 @@ void PageView::goToPage(int page)
     verticalScrollBar()->setValue(static_cast<int>(std::lround(qBound(0, page, last) * pagePitch())));
 }
 
+QSizeF PageView::surroundings() const
+{
+    return {2 * gap, 2 * gap};
+}
+
+QSizeF PageView::contentsSize() const
+{
+    return {sheet().width() * pixelsPerMillimetre() + 2 * gap,
+            gap + m_document.pages().pageCount() * pagePitch()};
+}
+
+/// The same part of the pages remains in sight.
 void PageView::updateScale()
 {
-    const double wide = (viewport()->width() - 2 * gap) / sheet().width();
-    const double high = (viewport()->height() - 2 * gap) / sheet().height();
-    const double trueSize = paper::millimetres(1).inDots(paper::screenDotsPerInch);
-    const double wanted = m_zoom == Zoom::FitWidth  ? wide
-                          : m_zoom == Zoom::FitPage ? qMin(wide, high)
-                                                    : trueSize;
-    m_scale = qMax(wanted, 0.2);
-    updateBars();
-    viewport()->update();
-}
-
-void PageView::updateBars()
-{
-    const double height = gap + m_document.pages().pageCount() * pagePitch();
-    const double width = sheet().width() * m_scale + 2 * gap;
-    verticalScrollBar()->setPageStep(viewport()->height());
-    verticalScrollBar()->setRange(0, qMax(0, static_cast<int>(height) - viewport()->height()));
-    horizontalScrollBar()->setPageStep(viewport()->width());
-    horizontalScrollBar()->setRange(0, qMax(0, static_cast<int>(width) - viewport()->width()));
-}
-
-/// Makes a change of the pages' size and then shows the same part of them as before.
-void PageView::keepPlace(const std::function<void()>& change)
-{
     const double place = verticalScrollBar()->value() / pagePitch();
-    change();
+    ZoomedView::updateScale();
     verticalScrollBar()->setValue(static_cast<int>(std::lround(place * pagePitch())));
     Q_EMIT currentPageChanged();
 }
 
-void PageView::resizeEvent(QResizeEvent* /*event*/)
+void PageView::scrollContentsBy(int dx, int dy)
 {
-    keepPlace([this] { updateScale(); });
-}
-
-void PageView::scrollContentsBy(int /*dx*/, int /*dy*/)
-{
-    viewport()->update();
+    ZoomedView::scrollContentsBy(dx, dy);
     Q_EMIT currentPageChanged();
 }
 
@@ -134,7 +109,7 @@ void PageView::paintPage(QPainter& painter, int page) const
     painter.fillRect(rect, Qt::white);
     painter.save();
     painter.translate(rect.topLeft());
-    painter.scale(m_scale, m_scale);
+    painter.scale(pixelsPerMillimetre(), pixelsPerMillimetre());
     m_document.paint(painter, page);
     if (hasChosen())
         paintChosen(painter, page);
@@ -167,7 +142,7 @@ void PageView::keyPressEvent(QKeyEvent* event)
     } else if (event->key() == Qt::Key_Space) {
         scrollBy((viewport()->height() - arrowStep) * (extends ? -1 : 1));
     } else if (!turnPage(event->key())) {
-        QAbstractScrollArea::keyPressEvent(event);
+        ZoomedView::keyPressEvent(event);
     }
 }
 
@@ -238,7 +213,7 @@ qsizetype PageView::lineAt(QPoint place) const
     for (int page = 0; page < m_document.pages().pageCount(); ++page) {
         const QRectF rect = pageRect(page);
         if (rect.contains(place))
-            return lineOnPage(page, (place.y() - rect.top()) / m_scale);
+            return lineOnPage(page, (place.y() - rect.top()) / pixelsPerMillimetre());
     }
     return -1;
 }
@@ -267,8 +242,8 @@ void PageView::reveal(qsizetype line)
     const auto placed = m_document.pages().placedLines(*page);
     const auto found = std::ranges::find_if(
         placed, [&](const PlacedLine& one) { return one.line == line && !one.isContinued; });
-    const double top = pageRect(*page).top() + found->place.top() * m_scale;
-    const double bottom = top + found->place.height() * m_scale;
+    const double top = pageRect(*page).top() + found->place.top() * pixelsPerMillimetre();
+    const double bottom = top + found->place.height() * pixelsPerMillimetre();
     if (top < 0 || bottom > viewport()->height())
         scrollBy(static_cast<int>(top) - viewport()->height() / 2);
     say(line);
@@ -295,8 +270,8 @@ ui::SpokenItem PageView::spokenItem(int index) const
     for (int column = 0; column < report.columnCount(); ++column)
         cells << printable(report.text(line.line, column));
     cells.removeAll(QString());
-    const QRectF place(pageRect(currentPage()).topLeft() + line.place.topLeft() * m_scale,
-                       line.place.size() * m_scale);
+    const QRectF place(pageRect(currentPage()).topLeft() + line.place.topLeft() * pixelsPerMillimetre(),
+                       line.place.size() * pixelsPerMillimetre());
     return {cells.join(u", "_s), {}, place.toAlignedRect(), isChosen(line)};
 }
 

@@ -1,22 +1,17 @@
 // The pages of a report on the screen, one below the other.
 #pragma once
 
+#include "paper/ZoomedView.h"
 #include "reports/pages/ReportDocument.h"
 #include "ui/SpokenItems.h"
-
-#include <QAbstractScrollArea>
-
-#include <functional>
 
 namespace norvane::reports
 {
 
-enum class Zoom { FitWidth, FitPage, TrueSize };
-
 /// Pages are turned with Page Up, Page Down, Home and End, and scrolled with wheel, arrows and the space bar.
 /// Lines are chosen with the mouse, or with Shift and the arrows from the line that was found or clicked.
 /// Screen readers find the lines of the current page.
-class PageView : public QAbstractScrollArea, public ui::SpokenItems
+class PageView : public paper::ZoomedView, public ui::SpokenItems
 {
     Q_OBJECT
 
@@ -24,7 +19,6 @@ public:
     /// @p document must outlive this.
     PageView(const ReportDocument& document, QWidget* parent);
 
-    void setZoom(Zoom zoom);
     /// To be called when further pages are laid out, or all pages are new.
     void updatePages();
 
@@ -47,8 +41,11 @@ Q_SIGNALS:
     void currentPageChanged();
 
 protected:
+    [[nodiscard]] QSizeF sheetSize() const override { return sheet().size(); }
+    [[nodiscard]] QSizeF surroundings() const override;
+    [[nodiscard]] QSizeF contentsSize() const override;
+    void updateScale() override;
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -60,8 +57,6 @@ private:
     [[nodiscard]] QRectF pageRect(int page) const;
     [[nodiscard]] qsizetype lineAt(QPoint place) const;
     [[nodiscard]] qsizetype lineOnPage(int page, double y) const;
-    void updateScale();
-    void updateBars();
     void paintPage(QPainter& painter, int page) const;
     void paintChosen(QPainter& painter, int page) const;
     void choose(qsizetype line, bool extends);
@@ -71,11 +66,8 @@ private:
     [[nodiscard]] bool isChosen(const PlacedLine& line) const;
     bool turnPage(int key);
     void scrollBy(int pixels);
-    void keepPlace(const std::function<void()>& change);
 
     const ReportDocument& m_document;
-    Zoom m_zoom = Zoom::FitWidth;
-    double m_scale = 1;       ///< pixels to the millimetre
     qsizetype m_anchor = -1;  ///< the line where the selection began; -1 while none is selected
     qsizetype m_current = -1; ///< the line where it ends
 };

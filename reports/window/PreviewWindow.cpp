@@ -165,7 +165,8 @@ QBoxLayout* PreviewWindow::makeButtons()
     addSaveButton(*row);
     addButton(*row, u"CopyButton"_s, u"&Copy lines"_s, &PreviewWindow::copy);
     addButton(*row, u"FindButton"_s, u"&Find"_s, &PreviewWindow::openFind);
-    addZoom(*row);
+    paper::addZoomBox(*row, *m_view, {paper::Zoom::FitWidth, paper::Zoom::FitPage, paper::Zoom::TrueSize},
+                      this);
     addChartSwitch(*row);
     row->addStretch();
     addPageButtons(*row);
@@ -195,19 +196,6 @@ void PreviewWindow::addSaveButton(QBoxLayout& row)
     }
     button->setMenu(menu);
     row.addWidget(button);
-}
-
-void PreviewWindow::addZoom(QBoxLayout& row)
-{
-    auto* const label = new QLabel(u"&Zoom:"_s, this);
-    auto* const zoom = new QComboBox(this);
-    zoom->addItems({u"Fit width"_s, u"Fit page"_s, u"100 %"_s});
-    ui::nameControl(*zoom, u"Zoom"_s);
-    label->setBuddy(zoom);
-    connect(zoom, &QComboBox::currentIndexChanged, this,
-            [this](int index) { m_view->setZoom(static_cast<Zoom>(index)); });
-    row.addWidget(label);
-    row.addWidget(zoom);
 }
 
 /// A report without charts has no switch for them.

@@ -46,7 +46,6 @@ private:
     [[nodiscard]] QBoxLayout* makeButtons();
     QPushButton* addButton(QBoxLayout& row, const QString& name, const QString& caption, Handler handler);
     void addSaveButton(QBoxLayout& row);
-    void addZoom(QBoxLayout& row);
     void addChartSwitch(QBoxLayout& row);
     void addPageButtons(QBoxLayout& row);
     void addKeys();
