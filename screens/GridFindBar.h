@@ -1,10 +1,7 @@
 // The find box above a grid.
 #pragma once
 
-#include <QWidget>
-
-class QLabel;
-class QLineEdit;
+#include "ui/FindBar.h"
 
 namespace norvane::screens
 {
@@ -13,7 +10,7 @@ class GridControl;
 
 /// Goes to the first row with what is typed in its number or text, and to the next such row at each Enter.
 /// The arrow down leads into that row.
-class GridFindBar : public QWidget
+class GridFindBar : public ui::FindBar
 {
     Q_OBJECT
 
@@ -21,11 +18,9 @@ public:
     GridFindBar(GridControl& grid, QWidget* parent);
 
 private:
-    void goOn(int fromRow);
+    void find(int step);
 
     GridControl& m_grid;
-    QLineEdit* m_part;
-    QLabel* m_outcome;
 };
 
 } // namespace norvane::screens

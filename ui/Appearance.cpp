@@ -192,11 +192,16 @@ void centreOn(QWidget& form, const QWidget& frame)
     form.move(qMax(0, (frame.width() - form.width()) / 2), qMax(0, (frame.height() - form.height()) / 2));
 }
 
-void centreOnScreen(QWidget& form, QSize good)
+QRect roomOnScreen(const QWidget& form)
 {
     // Desktops report the size of a frame only after the window is shown.
     constexpr QMargins frame(8, 40, 8, 10);
-    const QRect room = form.screen()->availableGeometry().marginsRemoved(frame);
+    return form.screen()->availableGeometry().marginsRemoved(frame);
+}
+
+void centreOnScreen(QWidget& form, QSize good)
+{
+    const QRect room = roomOnScreen(form);
     QRect place(QPoint(), good.boundedTo(room.size()));
     place.moveCenter(room.center());
     form.setGeometry(place);

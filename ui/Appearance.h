@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QIcon>
 #include <QPalette>
+#include <QRect>
 #include <QSize>
 
 class QApplication;
@@ -79,6 +80,9 @@ void applyAppearance(QApplication& application);
 
 /// Places @p form in the middle of @p frame, but never beyond the frame's upper left corner.
 void centreOn(QWidget& form, const QWidget& frame);
+
+/// The part of the screen that @p form may cover with what is inside its frame.
+[[nodiscard]] QRect roomOnScreen(const QWidget& form);
 
 /// Gives @p form, a window that was not shown yet, the size @p good and the middle of its screen. It is made
 /// smaller where it would not fit with its frame.

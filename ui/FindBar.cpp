@@ -14,25 +14,46 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::ui
 {
-
-FindBar::FindBar(QWidget* parent) : QWidget(parent), m_text(new QLineEdit(this)), m_note(new QLabel(this))
+namespace
 {
-    auto* const label = new QLabel(u"Find &text:"_s, this);
-    auto* const next = makeButton(u"FindNextButton"_s, u"&Next"_s, this);
-    auto* const previous = makeButton(u"FindPreviousButton"_s, u"P&revious"_s, this);
+
+constexpr int usualWidth = 220;
+
+} // namespace
+
+FindBar::FindBar(QWidget* parent)
+    : FindBar({u"FindText"_s, u"Find &text:"_s, {}, usualWidth, usualWidth}, parent)
+{
+    m_text->setClearButtonEnabled(false);
+    addButton(u"FindNextButton"_s, u"&Next"_s, 1);
+    addButton(u"FindPreviousButton"_s, u"P&revious"_s, -1);
+}
+
+FindBar::FindBar(const FindBarParts& parts, QWidget* parent)
+    : QWidget(parent), m_text(new QLineEdit(this)), m_outcome(new QLabel(this)), m_row(new QHBoxLayout(this))
+{
+    nameControl(*m_text, parts.name);
+    nameControl(*m_outcome, parts.name + u"Outcome"_s);
+    m_text->setMinimumWidth(scaled(parts.narrowest));
+    m_text->setMaximumWidth(scaled(parts.widest));
+    m_text->setClearButtonEnabled(true);
+    m_text->setToolTip(parts.toolTip);
+    auto* const label = new QLabel(parts.caption, this);
     label->setBuddy(m_text);
-    nameControl(*m_text, u"FindText"_s);
-    nameControl(*m_note, u"FindNote"_s);
-    auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(spacing::controlGap);
-    for (QWidget* const control : std::initializer_list<QWidget*>{label, m_text, next, previous, m_note})
-        row->addWidget(control, control == m_note ? 1 : 0);
-    m_text->setMinimumWidth(scaled(220));
+    m_row->setContentsMargins({});
+    m_row->setSpacing(spacing::controlGap);
+    m_row->addWidget(label);
+    m_row->addWidget(m_text, 2);
+    m_row->addWidget(m_outcome, 1);
     connect(m_text, &QLineEdit::textEdited, this, [this] { Q_EMIT findWanted(0); });
     connect(m_text, &QLineEdit::returnPressed, this, [this] { Q_EMIT findWanted(1); });
-    connect(next, &QPushButton::clicked, this, [this] { Q_EMIT findWanted(1); });
-    connect(previous, &QPushButton::clicked, this, [this] { Q_EMIT findWanted(-1); });
+}
+
+void FindBar::addButton(const QString& name, const QString& caption, int step)
+{
+    QPushButton* const button = makeButton(name, caption, this);
+    m_row->insertWidget(m_row->indexOf(m_outcome), button);
+    connect(button, &QPushButton::clicked, this, [this, step] { Q_EMIT findWanted(step); });
 }
 
 void FindBar::open()
@@ -42,15 +63,31 @@ void FindBar::open()
     m_text->selectAll();
 }
 
-void FindBar::setFound(bool isFound)
+void FindBar::clear()
 {
-    m_note->setText(isFound || sought().isEmpty() ? QString() : u"Not found."_s);
-    ui::announce(*m_note, m_note->text());
+    m_text->clear();
+    Q_EMIT findWanted(0);
 }
 
 QString FindBar::sought() const
 {
     return m_text->text();
+}
+
+void FindBar::showOutcome(const QString& outcome)
+{
+    m_outcome->setText(outcome);
+    announce(*m_outcome, outcome);
+}
+
+void FindBar::setFound(bool isFound)
+{
+    showOutcome(isFound || sought().isEmpty() ? QString() : u"Not found."_s);
+}
+
+QString FindBar::outcome() const
+{
+    return m_outcome->text();
 }
 
 } // namespace norvane::ui

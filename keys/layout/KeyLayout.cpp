@@ -12,17 +12,13 @@
 #include "keys/layout/LevelRow.h"
 #include "keys/SaveOrTell.h"
 #include "platform/Boxes.h"
-#include "ui/Announcement.h"
 #include "ui/Appearance.h"
-#include "ui/FormKit.h"
+#include "ui/FindBar.h"
 #include "ui/StatusLine.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -49,10 +45,8 @@ QString refusalText(Refusal refusal)
     return {};
 }
 
-constexpr int findWidth = 180;
 constexpr int narrowestFind = 80;
-/// What a window's frame and a desktop's bars take of the screen.
-constexpr QSize frameRoom(16, 60);
+constexpr int widestFind = 180;
 
 /// As many keys as are chosen on purpose or by mistake: from here on the user is asked.
 constexpr std::size_t askedBlock = 4;
@@ -105,28 +99,16 @@ void KeyLayout::layOut()
     column->addWidget(m_status);
 }
 
-void KeyLayout::makeFind(QHBoxLayout& row)
-{
-    m_find = new QLineEdit(this);
-    ui::nameControl(*m_find, u"KeyFind"_s);
-    m_find->setMinimumWidth(ui::scaled(narrowestFind));
-    m_find->setMaximumWidth(ui::scaled(findWidth));
-    m_find->setClearButtonEnabled(true);
-    m_find->setToolTip(u"Marks the keys of this level with this text (Ctrl+F); Enter goes to the next"_s);
-    auto* const label = new QLabel(u"&Find keys:"_s, this);
-    label->setBuddy(m_find);
-    m_findOutcome = new QLabel(this);
-    ui::nameControl(*m_findOutcome, u"KeyFindOutcome"_s);
-    row.addWidget(label);
-    row.addWidget(m_find, 2);
-    row.addWidget(m_findOutcome, 1);
-}
-
 QLayout* KeyLayout::makeFindRow()
 {
     auto* const row = new QHBoxLayout;
     row->setSpacing(ui::spacing::controlGap);
-    makeFind(*row);
+    m_find =
+        new ui::FindBar({u"KeyFind"_s, u"&Find keys:"_s,
+                         u"Marks the keys of this level with this text (Ctrl+F); Enter goes to the next"_s,
+                         narrowestFind, widestFind},
+                        this);
+    row->addWidget(m_find, 1);
     QPushButton* const store = makeFormButton(u"CSCmdBtn1"_s, u"&Save"_s, this);
     QPushButton* const leave = makeFormButton(u"CSCmdBtn2"_s, u"E&xit"_s, this);
     connect(store, &QPushButton::clicked, this, &KeyLayout::askAndSave);
@@ -146,11 +128,10 @@ void KeyLayout::connectParts()
     connect(m_levels, &LevelRow::levelWanted, this, &KeyLayout::changeLevel);
     connect(m_levels, &LevelRow::copyWanted, this, &KeyLayout::copyLevels);
     connect(Grid1, &KeyGrid::entered, m_lists, &KeyListPanel::enterList);
-    connect(Grid1, &KeyGrid::currentCellChanged, this, &KeyLayout::tellKey);
+    connect(Grid1, &KeyGrid::currentCellChanged, this, &KeyLayout::showKey);
     connect(m_lists, &KeyListPanel::chosen, this, &KeyLayout::assign);
-    connect(m_lists, &KeyListPanel::looked, this, &KeyLayout::tellItem);
-    connect(m_find, &QLineEdit::textChanged, this, &KeyLayout::find);
-    connect(m_find, &QLineEdit::returnPressed, this, &KeyLayout::goToNextFound);
+    connect(m_lists, &KeyListPanel::looked, this, &KeyLayout::showItem);
+    connect(m_find, &ui::FindBar::findWanted, this, &KeyLayout::goOnFinding);
     connect(&m_model, &KeyGridModel::dropped, this, &KeyLayout::drop);
 }
 
@@ -160,19 +141,15 @@ void KeyLayout::addCommands()
     connect(commands, &KeyCommands::finished, this, &KeyLayout::finish);
     connect(commands, &KeyCommands::copied, this, [this] { m_status->setNotice(u"Copied"_s); });
     connect(commands, &KeyCommands::marked, &m_model, &KeyGridModel::refresh);
-    connect(commands, &KeyCommands::findWanted, this, [this] {
-        m_find->setFocus();
-        m_find->selectAll();
-    });
+    connect(commands, &KeyCommands::findWanted, m_find, &ui::FindBar::open);
 }
 
 void KeyLayout::fitScreen()
 {
-    const QSize free = screen()->availableSize() - frameRoom;
     QSize wanted = sizeHint();
-    if (wanted.width() > free.width())
+    if (wanted.width() > ui::roomOnScreen(*this).width())
         wanted.rheight() += Grid1->horizontalScrollBar()->sizeHint().height();
-    resize(wanted.boundedTo(free));
+    ui::centreOnScreen(*this, wanted);
 }
 
 void KeyLayout::updategrid(int level)
@@ -189,7 +166,7 @@ void KeyLayout::showLevel()
     m_levels->showLevel(words, m_level.level());
     find();
     showChanges();
-    tellKey();
+    showKey();
 }
 
 std::optional<bool> KeyLayout::askToSave()
@@ -283,7 +260,7 @@ void KeyLayout::finish(Refusal refusal)
     m_model.refresh();
     find();
     showChanges();
-    tellKey();
+    showKey();
     m_status->setNotice(refusalText(refusal));
     if (refusal != Refusal::None)
         m_boxes.beep();
@@ -296,19 +273,20 @@ void KeyLayout::showChanges()
 
 void KeyLayout::find()
 {
-    const QString part = m_find->text().trimmed();
+    const QString part = m_find->sought().trimmed();
     m_found = cellsWith(m_level, part);
     m_model.setFound(m_found);
     const QString outcome = part.isEmpty() ? QString() : u"%1 found"_s.arg(m_found.size());
-    if (outcome != m_findOutcome->text())
-        ui::announce(*m_findOutcome, outcome);
-    m_findOutcome->setText(outcome);
+    if (outcome != m_find->outcome())
+        m_find->showOutcome(outcome);
 }
 
 /// Row by row; the first follows the last.
-void KeyLayout::goToNextFound()
+void KeyLayout::goOnFinding(int step)
 {
-    if (m_found.empty())
+    if (step == 0)
+        find();
+    if (step == 0 || m_found.empty())
         return;
     const auto order = [](KeyCell cell) {
         return std::pair(cell.row, cell.column);
@@ -317,23 +295,23 @@ void KeyLayout::goToNextFound()
     Grid1->setCurrentCell(next == m_found.end() ? m_found.front() : *next);
 }
 
-void KeyLayout::tellKey()
+void KeyLayout::showKey()
 {
     const KeyCell cell = Grid1->currentCell();
     const Key& key = m_level.key(cell);
     const auto number = m_level.geometry().keyNumber(cell);
     m_status->setStep(number ? u"Key %1: %2"_s.arg(*number).arg(key.text) : key.text);
-    tellPlaces(key);
+    showPlaces(key);
 }
 
-void KeyLayout::tellItem(ItemKind kind, const QString& number)
+void KeyLayout::showItem(ItemKind kind, const QString& number)
 {
     const std::optional<Key> key = m_level.items().keyFor(kind, number);
     m_status->setStep(key ? key->text : QString(itemTable(kind).missingEntry));
-    tellPlaces(key.value_or(Key()));
+    showPlaces(key.value_or(Key()));
 }
 
-void KeyLayout::tellPlaces(const Key& key)
+void KeyLayout::showPlaces(const Key& key)
 {
     const std::vector<KeyPlace> places = keysLike(key, m_level, *m_database);
     const bool isItem = !key.function.isEmpty();
@@ -344,7 +322,7 @@ void KeyLayout::tellPlaces(const Key& key)
 
 void KeyLayout::reject()
 {
-    if (!m_find->text().isEmpty()) {
+    if (!m_find->sought().isEmpty()) {
         m_find->clear();
         Grid1->setFocus();
     } else if (!m_editor.marked().empty()) {

@@ -9,10 +9,7 @@
 
 #include <memory>
 
-class QHBoxLayout;
-class QLabel;
 class QLayout;
-class QLineEdit;
 
 namespace norvane
 {
@@ -21,8 +18,9 @@ class Boxes;
 
 namespace norvane::ui
 {
+class FindBar;
 class StatusLine;
-}
+} // namespace norvane::ui
 
 namespace norvane::keys
 {
@@ -54,7 +52,6 @@ protected:
 private:
     void layOut();
     [[nodiscard]] QLayout* makeFindRow();
-    void makeFind(QHBoxLayout& row);
     void connectParts();
     void addCommands();
     void fitScreen();
@@ -74,10 +71,10 @@ private:
     void finish(Refusal refusal);
     void showChanges();
     void find();
-    void goToNextFound();
-    void tellKey();
-    void tellItem(ItemKind kind, const QString& number);
-    void tellPlaces(const Key& key);
+    void goOnFinding(int step);
+    void showKey();
+    void showItem(ItemKind kind, const QString& number);
+    void showPlaces(const Key& key);
 
     const ApplicationValues& m_values;
     Boxes& m_boxes;
@@ -89,8 +86,7 @@ private:
     KeyGrid* Grid1;
     KeyListPanel* m_lists;
     LevelRow* m_levels;
-    QLineEdit* m_find;
-    QLabel* m_findOutcome;
+    ui::FindBar* m_find;
     ui::StatusLine* m_status;
 };
 

@@ -100,10 +100,10 @@ void KeyListPanel::setFilter(const QString& part)
     shownList().model->setFilter(part);
     if (!part.isEmpty())
         shownList().view->selectRow(0);
-    tellCount();
+    showCount();
 }
 
-void KeyListPanel::tellCount()
+void KeyListPanel::showCount()
 {
     const ui::RecordListModel& model = *shownList().model;
     m_count->setText(u"%1 of %2"_s.arg(model.rowCount()).arg(model.recordCount()));

@@ -44,7 +44,7 @@ private:
     void layOut();
     void show(ItemKind kind);
     void setFilter(const QString& part);
-    void tellCount();
+    void showCount();
     void choose(const QModelIndex& index, bool byEnter);
     [[nodiscard]] ItemList& list(ItemKind kind) { return m_lists.at(static_cast<std::size_t>(kind)); }
     [[nodiscard]] ItemList& shownList() { return list(m_kind); }

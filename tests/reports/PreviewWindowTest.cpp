@@ -180,9 +180,9 @@ TEST_F(PreviewTest, FindsATextAndCopiesItsLine)
     EXPECT_EQ(pageText(), u"Page 4 of 10"_s);
     press(Qt::Key_F3, Qt::ShiftModifier);
     EXPECT_EQ(pageText(), u"Page 2 of 10"_s);
-    EXPECT_EQ(control<QLabel>(u"FindNote"_s)->text(), QString());
+    EXPECT_EQ(control<QLabel>(u"FindTextOutcome"_s)->text(), QString());
     QTest::keyClicks(QApplication::focusWidget(), u"x"_s);
-    EXPECT_EQ(control<QLabel>(u"FindNote"_s)->text(), u"Not found."_s);
+    EXPECT_EQ(control<QLabel>(u"FindTextOutcome"_s)->text(), u"Not found."_s);
     press(Qt::Key_Escape);
     ASSERT_TRUE(m_preview && m_preview->isVisible()) << "Escape leaves the search first";
     EXPECT_EQ(copied(), u"77\tArticle 77\t1.125\t2.35\n"_s);

@@ -83,7 +83,7 @@ TEST_F(HelpTest, F1OpensTheGuideAtTheFormAndASearchFindsMore)
     QTest::keyClick(&sought, Qt::Key_Return);
     EXPECT_GT(text.textCursor().position(), first);
     QTest::keyClicks(&sought, u"x"_s);
-    EXPECT_EQ(child<QLabel>(*guide, "FindNote").text(), u"Not found.");
+    EXPECT_EQ(child<QLabel>(*guide, "FindTextOutcome").text(), u"Not found.");
     QTest::keyClick(guide, Qt::Key_Escape);
     EXPECT_TRUE(QTest::qWaitFor([&] { return guide.isNull(); }, 2000));
 }
