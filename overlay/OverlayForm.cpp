@@ -7,9 +7,9 @@
 #include "overlay/SheetPainter.h"
 #include "platform/Boxes.h"
 #include "platform/FailureBox.h"
-#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
+#include "ui/StatusLine.h"
 
 #include <QBoxLayout>
 #include <QClipboard>
@@ -20,7 +20,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
-#include <QStatusBar>
 #include <QToolBar>
 
 #include <array>
@@ -65,10 +64,10 @@ OverlayForm::OverlayForm(Keyboard keyboard, const ApplicationValues& values, Box
     : QDialog(parent, Qt::Window), m_values(values), m_boxes(boxes), m_editor(keyboard),
       m_files(m_editor, values, boxes, dialogs), m_sheet(m_editor.document(), boxes, dialogs, printer),
       m_keyboard(new KeyboardView(m_editor, this)),
-      m_style(new StyleChooser(m_editor.style(), dialogs, this)), StatusBar1(new QStatusBar(this))
+      m_style(new StyleChooser(m_editor.style(), dialogs, this)), StatusBar1(new ui::StatusLine(this))
 {
     ui::nameControl(*this, m_editor.document().geometry().name.toString());
-    ui::nameControl(*StatusBar1, u"StatusBar1"_s);
+    StatusBar1->setSizeGripEnabled(true);
     auto* const bar = new QMenuBar(this);
     ui::nameControl(*bar, u"Menu"_s);
     buildMenus(*bar);
@@ -247,7 +246,7 @@ void OverlayForm::openFile()
 void OverlayForm::saveFile()
 {
     if (m_files.SaveFile())
-        tell(u"Saved as %1."_s.arg(QDir::toNativeSeparators(m_editor.fileName())));
+        StatusBar1->setNotice(u"Saved as %1."_s.arg(QDir::toNativeSeparators(m_editor.fileName())));
 }
 
 void OverlayForm::print()
@@ -258,9 +257,9 @@ void OverlayForm::print()
 void OverlayForm::printUnder(const std::optional<paper::PrinterCorrection>& correction)
 {
     const QString destination = m_sheet.destination(correction);
-    tell(destination);
+    StatusBar1->setNotice(destination);
     if (m_sheet.print(m_files.documentName(), correction)) {
-        tell(u"Sent to the printer. "_s + destination);
+        StatusBar1->setNotice(u"Sent to the printer. "_s + destination);
     } else {
         showCurrentCell(m_keyboard->currentCell());
     }
@@ -277,7 +276,7 @@ void OverlayForm::savePdf()
     const QString name = QFileInfo(m_files.documentName()).completeBaseName() + u".pdf"_s;
     const QString path = m_sheet.savePdf(QDir(m_values.customerPath).filePath(name));
     if (!path.isEmpty())
-        tell(u"Saved as %1."_s.arg(QDir::toNativeSeparators(path)));
+        StatusBar1->setNotice(u"Saved as %1."_s.arg(QDir::toNativeSeparators(path)));
 }
 
 /// An import that fails has stored nothing. What it changed in the document can be undone like any import.
@@ -285,7 +284,7 @@ void OverlayForm::importLevel(int level)
 {
     try {
         m_editor.importLevel(level, m_values.databasePath);
-        tell(u"Level %1 was imported."_s.arg(level) + keyboardNotice());
+        StatusBar1->setNotice(u"Level %1 was imported."_s.arg(level) + keyboardNotice());
     } catch (const RuntimeFailure& failure) {
         showFailure(failure, m_boxes);
     }
@@ -316,7 +315,7 @@ void OverlayForm::redo()
 void OverlayForm::copyKey()
 {
     QGuiApplication::clipboard()->setMimeData(keyToMime(m_editor.copyKey(m_keyboard->currentCell())));
-    tell(u"The key was copied."_s);
+    StatusBar1->setNotice(u"The key was copied."_s);
 }
 
 void OverlayForm::pasteKey()
@@ -324,7 +323,7 @@ void OverlayForm::pasteKey()
     const QMimeData* const mime = QGuiApplication::clipboard()->mimeData();
     const auto cells = mime ? keyFromMime(*mime) : std::vector<TextCell>();
     if (cells.empty()) {
-        tell(u"No key was copied yet."_s);
+        StatusBar1->setNotice(u"No key was copied yet."_s);
     } else {
         m_editor.pasteKey(m_keyboard->currentCell(), cells);
     }
@@ -339,16 +338,11 @@ void OverlayForm::showTitle()
 void OverlayForm::showCurrentCell(int cell)
 {
     if (m_keyboard->isCut(cell)) {
-        tell(u"Wider than its key: only \"%1\" will print."_s.arg(printedText(m_editor.document(), cell)));
+        StatusBar1->setNotice(
+            u"Wider than its key: only \"%1\" will print."_s.arg(printedText(m_editor.document(), cell)));
     } else {
-        StatusBar1->clearMessage();
+        StatusBar1->setNotice({});
     }
-}
-
-void OverlayForm::tell(const QString& text)
-{
-    StatusBar1->showMessage(text);
-    ui::announce(*StatusBar1, text);
 }
 
 } // namespace norvane::overlay

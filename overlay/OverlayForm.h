@@ -11,8 +11,12 @@
 class QLayout;
 class QMenu;
 class QMenuBar;
-class QStatusBar;
 class QToolBar;
+
+namespace norvane::ui
+{
+class StatusLine;
+}
 
 namespace norvane::overlay
 {
@@ -70,7 +74,6 @@ private:
 
     void showTitle();
     void showCurrentCell(int cell);
-    void tell(const QString& text);
 
     const ApplicationValues& m_values;
     Boxes& m_boxes;
@@ -79,7 +82,7 @@ private:
     SheetActions m_sheet;
     KeyboardView* m_keyboard;
     StyleChooser* m_style;
-    QStatusBar* StatusBar1;
+    ui::StatusLine* StatusBar1;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
 };

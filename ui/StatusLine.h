@@ -1,4 +1,4 @@
-// The status line of a form that runs steps one after another.
+// The status line of a form.
 #pragma once
 
 #include <QStatusBar>
@@ -6,8 +6,9 @@
 namespace norvane::ui
 {
 
-/// Shows the current step, its running time, the result of a run, and a notice that remains until it is
-/// replaced. Screen readers say result and notice.
+/// Shows, side by side, the current step of longer work, its running time, the result of a run, and a notice
+/// that remains until it is replaced. An empty text takes the former one away. Screen readers say result and
+/// notice.
 class StatusLine : public QStatusBar
 {
     Q_OBJECT

@@ -8,10 +8,10 @@
 #include "reports/window/ChartPane.h"
 #include "reports/window/PageView.h"
 #include "reports/window/RunProgress.h"
-#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FindBar.h"
 #include "ui/FormKit.h"
+#include "ui/StatusLine.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -28,7 +28,6 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStandardPaths>
-#include <QStatusBar>
 #include <QTimer>
 
 #include <array>
@@ -111,7 +110,7 @@ PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterSource find
     : QWidget(parent, Qt::Window), m_document(std::move(report)), m_boxes(boxes),
       m_findPrinter(std::move(findPrinter)), m_find(new ui::FindBar(this)),
       m_view(new PageView(m_document, this)), m_charts(new ChartPane(m_document, this)),
-      m_status(new QStatusBar(this))
+      m_status(new ui::StatusLine(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"ReportPreview"_s);
@@ -130,7 +129,7 @@ void PreviewWindow::buildControls()
     ui::nameControl(*m_view, u"Pages"_s, spokenHeading(m_document.report().heading));
     ui::nameControl(*m_charts, u"Charts"_s);
     ui::nameControl(*m_find, u"FindBar"_s);
-    ui::nameControl(*m_status, u"StatusBar1"_s);
+    m_status->setSizeGripEnabled(true);
     m_find->hide();
     auto* const column = new QVBoxLayout(this);
     const int margin = ui::spacing::controlGap;
@@ -270,16 +269,10 @@ void PreviewWindow::guarded(const std::function<void(const KeepGoing&)>& act, co
         RunProgress progress(*this, u"The report is being written."_s);
         act([&progress] { return progress.goOn(); });
     } catch (const ReportCancelled&) {
-        tell(whenCancelled);
+        m_status->setNotice(whenCancelled);
     } catch (const ReportError& error) {
         m_boxes.message(error.text(), u"Report Error"_s, BoxIcon::Critical);
     }
-}
-
-void PreviewWindow::tell(const QString& text)
-{
-    m_status->showMessage(text);
-    ui::announce(*m_status, text);
 }
 
 void PreviewWindow::print()
@@ -292,7 +285,7 @@ void PreviewWindow::print()
         return;
     const auto printPages = [&](const KeepGoing& keepGoing) {
         printOn(*job, m_document.report(), m_document.showsCharts(), keepGoing);
-        tell(sentText(*job->printer));
+        m_status->setNotice(sentText(*job->printer));
     };
     guarded(printPages, u"Cancelled. The pages that were ready are printed."_s);
 }
@@ -307,7 +300,7 @@ void PreviewWindow::save(const FileKind& kind)
         return;
     const auto write = [&](const KeepGoing& keepGoing) {
         kind.write(m_document.report(), m_document.showsCharts(), path, keepGoing);
-        tell(u"Saved as %1."_s.arg(QDir::toNativeSeparators(path)));
+        m_status->setNotice(u"Saved as %1."_s.arg(QDir::toNativeSeparators(path)));
     };
     guarded(write, u"Cancelled. Nothing was saved."_s);
 }
@@ -318,7 +311,7 @@ void PreviewWindow::copy()
     const qsizetype first = m_view->hasChosen() ? m_view->firstChosen() : 0;
     const qsizetype last = m_view->hasChosen() ? m_view->lastChosen() : m_document.report().lineCount() - 1;
     QGuiApplication::clipboard()->setText(m_document.linesAsText(first, last));
-    tell(last == first ? u"1 line copied."_s : u"%1 lines copied."_s.arg(last - first + 1));
+    m_status->setNotice(last == first ? u"1 line copied."_s : u"%1 lines copied."_s.arg(last - first + 1));
 }
 
 void PreviewWindow::openFind()

@@ -9,7 +9,6 @@
 class QBoxLayout;
 class QLabel;
 class QPushButton;
-class QStatusBar;
 
 namespace norvane
 {
@@ -17,7 +16,8 @@ class Boxes;
 namespace ui
 {
 class FindBar;
-}
+class StatusLine;
+} // namespace ui
 } // namespace norvane
 
 namespace norvane::reports
@@ -64,7 +64,6 @@ private:
     void leave();
     void escape();
     void guarded(const std::function<void(const KeepGoing&)>& act, const QString& whenCancelled);
-    void tell(const QString& text);
 
     ReportDocument m_document;
     Boxes& m_boxes;
@@ -73,7 +72,7 @@ private:
     PageView* m_view;
     ChartPane* m_charts;
     QLabel* m_pageNumber = nullptr;
-    QStatusBar* m_status;
+    ui::StatusLine* m_status;
 };
 
 } // namespace norvane::reports
