@@ -1,9 +1,8 @@
 // Keeps the main window responsive during long work started by a menu entry.
 #pragma once
 
+#include "ui/EventTurns.h"
 #include "ui/WaitPointer.h"
-
-#include <chrono>
 
 namespace norvane::shell
 {
@@ -27,7 +26,7 @@ public:
 private:
     ui::WaitPointer m_pointer;
     FrmMain& m_main;
-    std::chrono::steady_clock::time_point m_nextTurn;
+    ui::EventTurns m_turns;
 };
 
 } // namespace norvane::shell

@@ -3,6 +3,7 @@ norvane_library(norvane_ui_base MOC
   SOURCES
     "${PROJECT_SOURCE_DIR}/ui/Announcement.cpp"
     "${PROJECT_SOURCE_DIR}/ui/Appearance.cpp"
+    "${PROJECT_SOURCE_DIR}/ui/EventTurns.cpp"
     "${PROJECT_SOURCE_DIR}/ui/FormKit.cpp"
     "${PROJECT_SOURCE_DIR}/ui/FormStyle.cpp"
     "${PROJECT_SOURCE_DIR}/ui/FrmSearch.cpp"

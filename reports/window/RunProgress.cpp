@@ -1,9 +1,8 @@
-// Times when the box comes up and events run; see RunProgress.h.
+// See RunProgress.h.
 #include "reports/window/RunProgress.h"
 
 #include "ui/FormKit.h"
 
-#include <QCoreApplication>
 #include <QMainWindow>
 #include <QStatusBar>
 
@@ -16,14 +15,11 @@ namespace
 
 /// Most reports are ready within this time, and a box would only flash.
 constexpr std::chrono::milliseconds beforeBox{400};
-/// Too short for a user to notice.
-constexpr std::chrono::milliseconds betweenTurns{15};
 
 } // namespace
 
 RunProgress::RunProgress(QWidget& window, QString work)
-    : m_window(window), m_work(std::move(work)), m_boxTime(Clock::now() + beforeBox),
-      m_nextTurn(Clock::now() + betweenTurns)
+    : m_window(window), m_work(std::move(work)), m_boxTime(std::chrono::steady_clock::now() + beforeBox)
 {
 }
 
@@ -54,18 +50,16 @@ QStatusBar* RunProgress::statusBar() const
 
 bool RunProgress::goOn()
 {
-    const auto now = Clock::now();
-    if (now >= m_nextTurn)
-        handleEvents(now);
+    if (m_turns.isDue())
+        handleEvents();
     return !m_isCancelled;
 }
 
-void RunProgress::handleEvents(Clock::time_point now)
+void RunProgress::handleEvents()
 {
-    if (!m_box && now >= m_boxTime)
+    if (!m_box && std::chrono::steady_clock::now() >= m_boxTime)
         showBox();
-    QCoreApplication::processEvents(m_box ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
-    m_nextTurn = Clock::now() + betweenTurns;
+    m_turns.run(m_box ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
 }
 
 void RunProgress::showBox()

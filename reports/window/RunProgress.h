@@ -1,6 +1,7 @@
 // Keeps the windows painted while a report is made, and lets the user cancel it.
 #pragma once
 
+#include "ui/EventTurns.h"
 #include "ui/WaitPointer.h"
 
 #include <QProgressDialog>
@@ -32,8 +33,7 @@ public:
     [[nodiscard]] bool isCancelled() const { return m_isCancelled; }
 
 private:
-    using Clock = std::chrono::steady_clock;
-    void handleEvents(Clock::time_point now);
+    void handleEvents();
     void showBox();
 
     [[nodiscard]] QStatusBar* statusBar() const;
@@ -42,8 +42,8 @@ private:
     QString m_work;
     QString m_step;
     ui::WaitPointer m_pointer;
-    Clock::time_point m_boxTime;
-    Clock::time_point m_nextTurn;
+    std::chrono::steady_clock::time_point m_boxTime;
+    ui::EventTurns m_turns;
     std::unique_ptr<QProgressDialog> m_box;
     bool m_isCancelled = false;
 };
