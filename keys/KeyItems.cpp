@@ -19,10 +19,6 @@ constexpr ItemTable tables[] = {
 };
 // clang-format on
 
-/// Values of KEYLINK that are not function keys.
-constexpr QLatin1StringView pluLink("0");
-constexpr QLatin1StringView lookUpLink("271");
-
 constexpr int shownWidth = 17;
 
 QString zeroFilled(const QString& number, int width)

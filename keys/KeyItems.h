@@ -17,6 +17,11 @@ inline constexpr int lookUpWidth = 18;
 /// Digits of a window look-up's number.
 inline constexpr int wluDigits = 4;
 
+/// Values of KEYLINK that are not function keys.
+inline constexpr QLatin1StringView pluLink{"0"};
+inline constexpr QLatin1StringView lookUpLink{"271"};
+
+/// What a key can hold.
 enum class ItemKind { Function, Plu, LookUp };
 
 /// A record as a list of its table shows it.

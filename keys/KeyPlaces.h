@@ -19,7 +19,7 @@ struct KeyPlace {
 };
 
 /// The matching keys in the current tables, in the order of the levels.
-/// @param link the value of field keylink: "0" a PLU key, "271" a look-up key, else a function key's id
+/// @param link the value of KEYLINK: pluLink, lookUpLink, or the id of a function key
 /// @param number the start of field nlu; empty for all keys of this link
 [[nodiscard]] std::vector<KeyPlace> findKeys(store::Database& database, const KeyGeometry& keyboard,
                                              const QString& link, const QString& number);

@@ -8,6 +8,7 @@
 namespace norvane::overlay
 {
 
+/// Where an arrow key leads.
 enum class ArrowDirection { Left, Right, Up, Down };
 
 /// All cells in the order of reading: key by key along each row of keys, and down the lines of a key.

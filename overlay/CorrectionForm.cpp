@@ -47,17 +47,13 @@ CorrectionForm::CorrectionForm(const QString& printer, const paper::PrinterCorre
     setObjectName(u"PrinterCorrection"_s);
     setWindowTitle(u"Printer Correction - %1"_s.arg(printer));
     QPushButton* const page = ui::makeButton(u"TestPageButton"_s, u"Print &test page"_s, this);
-    QPushButton* const ok = ui::makeButton(u"OkButton"_s, u"&OK"_s, this);
-    QPushButton* const cancel = ui::makeButton(u"CancelButton"_s, u"&Cancel"_s, this);
     page->setAutoDefault(false);
-    ok->setDefault(true);
     connect(page, &QPushButton::clicked, this, &CorrectionForm::printPage);
-    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    QHBoxLayout* const buttons = ui::makeOkCancelRow(*this, {page});
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
     column->addWidget(makeMeasured());
     column->addWidget(makeCorrection());
-    column->addLayout(ui::makeButtonRow({ok, cancel}, {page}));
+    column->addLayout(buttons);
     reset();
     showCorrection(correction);
 }

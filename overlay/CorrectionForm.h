@@ -25,6 +25,7 @@ class CorrectionForm : public QDialog
     Q_OBJECT
 
 public:
+    /// Prints the test page under a correction. @return false when the printer failed.
     using TestPagePrinter = std::function<bool(const paper::PrinterCorrection&)>;
 
     CorrectionForm(const QString& printer, const paper::PrinterCorrection& correction,

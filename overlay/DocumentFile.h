@@ -10,8 +10,8 @@ namespace norvane::overlay
 /// be read too.
 /// @throws RuntimeFailure with Failure::InputPastEnd if the file ends first; Failure::TypeMismatch or
 /// Failure::Overflow for a colour, size, bold or italic value that is invalid, Failure::TextTooLong for a
-/// line too long for a cell, 53 and Failure::PathOrFileAccess if it cannot be read. Cells read before the
-/// failure remain in @p document.
+/// line too long for a cell, Failure::FileNotFound or Failure::PathOrFileAccess if it cannot be read. Cells
+/// read before the failure remain in @p document.
 void readDocument(const QString& path, Document& document);
 
 /// Writes beside @p path and then replaces the old file, which remains intact on any failure. Line breaks in

@@ -62,11 +62,11 @@ void FileActions::OpenFile()
     try {
         m_editor.openFile(path);
     } catch (const RuntimeFailure& failure) {
-        tellFailure(failure);
+        reportFailure(failure);
     }
 }
 
-void FileActions::tellFailure(const RuntimeFailure& failure)
+void FileActions::reportFailure(const RuntimeFailure& failure)
 {
     if (failure.failure() == Failure::InputPastEnd) {
         m_boxes.message(u"Incorrect file format"_s, u"File Error"_s, BoxIcon::Critical);
@@ -101,7 +101,7 @@ bool FileActions::SaveFile()
     try {
         m_editor.saveFile(path);
     } catch (const RuntimeFailure& failure) {
-        tellFailure(failure);
+        reportFailure(failure);
         return false;
     }
     return true;

@@ -36,7 +36,7 @@ public:
 private:
     [[nodiscard]] FileChoice choice(const QString& title, FileChoice::Name name) const;
     [[nodiscard]] QString fileToSave() const;
-    void tellFailure(const RuntimeFailure& failure);
+    void reportFailure(const RuntimeFailure& failure);
 
     DocumentEditor& m_editor;
     const ApplicationValues& m_values;

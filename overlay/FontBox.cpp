@@ -9,7 +9,6 @@
 #include <QFontComboBox>
 #include <QFormLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -45,11 +44,7 @@ FontBox::FontBox(const QFont& initial, QWidget* parent)
 {
     setObjectName(u"FontBox"_s);
     setWindowTitle(u"Font"_s);
-    QPushButton* const ok = ui::makeButton(u"OkButton"_s, u"&OK"_s, this);
-    QPushButton* const cancel = ui::makeButton(u"CancelButton"_s, u"&Cancel"_s, this);
-    ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    QHBoxLayout* const buttons = ui::makeOkCancelRow(*this);
     ui::nameControl(*m_sample, u"FontSample"_s);
     m_sample->setAlignment(Qt::AlignCenter);
     m_sample->setFrameStyle(QFrame::Box);
@@ -60,7 +55,7 @@ FontBox::FontBox(const QFont& initial, QWidget* parent)
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
     column->addWidget(makeControls(initial));
     column->addWidget(m_sample);
-    column->addLayout(ui::makeButtonRow({ok, cancel}));
+    column->addLayout(buttons);
     showSample();
 }
 

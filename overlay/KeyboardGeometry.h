@@ -11,6 +11,7 @@
 namespace norvane::overlay
 {
 
+/// The keyboards that have overlays.
 enum class Keyboard { Dorvik, Velmar, Quelmont };
 
 /// Plain and wide keys have three cells, one for each line of text; a single one has one cell.

@@ -21,6 +21,7 @@ struct PrinterChoice {
 
 /// What a file dialog asks for.
 struct FileChoice {
+    /// Which names the dialog accepts.
     enum class Name {
         Existing, ///< a file that is there
         Any,      ///< a file that may be there or not

@@ -8,7 +8,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPrinterInfo>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -33,16 +32,12 @@ PrinterSetup::PrinterSetup(const PrinterChoice& initial, QWidget* parent)
     fillPrinters(initial.name);
     auto* const label = new QLabel(u"Prin&ter:"_s, this);
     label->setBuddy(PrinterList);
-    QPushButton* const ok = ui::makeButton(u"OkButton"_s, u"&OK"_s, this);
-    QPushButton* const cancel = ui::makeButton(u"CancelButton"_s, u"&Cancel"_s, this);
-    ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    QHBoxLayout* const buttons = ui::makeOkCancelRow(*this);
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::controlGap);
     column->addWidget(label);
     column->addWidget(PrinterList);
     column->addWidget(makeOrientation(initial.orientation));
-    column->addLayout(ui::makeButtonRow({ok, cancel}));
+    column->addLayout(buttons);
 }
 
 /// A chosen printer that was removed since remains in the list: printing reports the failure.

@@ -37,7 +37,7 @@ void drawDown(OverlayPen& pen, Length x, Length y)
     pen.DrawBlock(before(x, tick), y + testLineLength - lineWidth, Qt::black, tick, lineWidth);
 }
 
-void tell(OverlayPen& pen, const QString& printer)
+void explain(OverlayPen& pen, const QString& printer)
 {
     constexpr Length left = millimetres(35);
     constexpr Length width = millimetres(130);
@@ -64,7 +64,7 @@ bool printTestPage(QPagedPaintDevice& device, const TargetPrinter& target)
     const Length half = millimetres(testLineLength.inMillimetres() / 2);
     drawAcross(pen, testLineLeft, testLineTop + half);
     drawDown(pen, testLineLeft + half, testLineTop);
-    tell(pen, target.name);
+    explain(pen, target.name);
     return paper.finish();
 }
 

@@ -13,14 +13,14 @@ constexpr int mostDecimals = 9;
 DecimalBox::DecimalBox(QWidget* parent) : NumberBox(Point::Allowed, parent)
 {
     NumberBox::setValue({});
-    tellRange();
+    showRange();
 }
 
 void DecimalBox::setDecimals(int decimals)
 {
     m_decimals = qBound(0, decimals, mostDecimals);
     setText(shownText(value()));
-    tellRange();
+    showRange();
 }
 
 QString DecimalBox::shownText(const Decimal& value) const

@@ -4,6 +4,7 @@
 #include "ui/Appearance.h"
 
 #include <QAbstractButton>
+#include <QDialog>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
@@ -54,6 +55,16 @@ QHBoxLayout* makeButtonRow(std::initializer_list<QPushButton*> buttons,
     for (QPushButton* const button : buttons)
         row->addWidget(button);
     return row;
+}
+
+QHBoxLayout* makeOkCancelRow(QDialog& form, std::initializer_list<QPushButton*> left)
+{
+    QPushButton* const ok = makeButton(u"OkButton"_s, u"&OK"_s, &form);
+    QPushButton* const cancel = makeButton(u"CancelButton"_s, u"&Cancel"_s, &form);
+    ok->setDefault(true);
+    QObject::connect(ok, &QPushButton::clicked, &form, &QDialog::accept);
+    QObject::connect(cancel, &QPushButton::clicked, &form, &QDialog::reject);
+    return makeButtonRow({ok, cancel}, left);
 }
 
 void rejectNumber(QLineEdit& box, Boxes& boxes)

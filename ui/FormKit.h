@@ -8,6 +8,7 @@
 
 #include <initializer_list>
 
+class QDialog;
 class QHBoxLayout;
 class QLineEdit;
 class QPushButton;
@@ -33,6 +34,9 @@ void nameControl(QWidget& control, const QString& name, const QString& spoken = 
 /// @p buttons at the right edge, those of @p left at the left one. The caller places the row.
 [[nodiscard]] QHBoxLayout* makeButtonRow(std::initializer_list<QPushButton*> buttons,
                                          std::initializer_list<QPushButton*> left = {});
+
+/// A row with "&OK" as the default button, which accepts @p form, and "&Cancel". The caller places it.
+[[nodiscard]] QHBoxLayout* makeOkCancelRow(QDialog& form, std::initializer_list<QPushButton*> left = {});
 
 /// Reports that the number in @p box was too large, resets it to 0 and lets the user type it again. The tool
 /// tip shows the range.

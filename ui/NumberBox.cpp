@@ -70,10 +70,10 @@ NumberBox::NumberBox(Point point, QWidget* parent)
 void NumberBox::setMaximum(const Decimal& maximum)
 {
     m_maximum = maximum;
-    tellRange();
+    showRange();
 }
 
-void NumberBox::tellRange()
+void NumberBox::showRange()
 {
     const QString largest = m_maximum ? shownText(*m_maximum) : QString(Decimal::mostDigits, u'9');
     setToolTip(u"From 0 to "_s + largest);

@@ -34,12 +34,13 @@ Q_SIGNALS:
     void maximumExceeded();
 
 protected:
+    /// Whether a point can be typed.
     enum class Point { None, Allowed };
     NumberBox(Point point, QWidget* parent);
     /// The text shown for @p value while the user is not typing.
     [[nodiscard]] virtual QString shownText(const Decimal& value) const = 0;
     /// Puts the range into the tool tip; after a change of what decides on it.
-    void tellRange();
+    void showRange();
     void focusInEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

@@ -17,6 +17,7 @@ class TextBox : public QLineEdit
     Q_OBJECT
 
 public:
+    /// What can be typed.
     enum class Characters {
         Register, ///< all of the registers' character set, Windows-1252
         Digits,

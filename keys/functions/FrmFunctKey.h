@@ -31,8 +31,8 @@ class FrmFunctKey : public QDialog
     Q_OBJECT
 
 public:
-    /// Leads @p values to the chosen customer's database. @throws as openCustomerDatabase() and FunctionKeys
-    /// do.
+    /// Leads @p values to the chosen customer's database.
+    /// @throws RuntimeFailure as openCustomerDatabase() and FunctionKeys do.
     FrmFunctKey(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
     /// Escape asks about changes, as the window's close button does.

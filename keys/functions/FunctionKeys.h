@@ -17,12 +17,14 @@ namespace norvane::keys
 /// What the editor's controls hold, visible or not. A hidden control keeps its number, and Halo's is saved
 /// with every key.
 struct KeyControls {
+    /// A box of the options.
     struct Tick {
         bool visible = false;
         QString caption;
         bool ticked = false;
         bool operator==(const Tick&) const = default;
     };
+    /// A number with its label.
     struct Number {
         bool visible = false;
         QString caption;
@@ -51,7 +53,7 @@ class FunctionKeys
 {
 public:
     /// Keeps the connection. @p values provide the register model whenever a key is shown.
-    /// @throws RuntimeFailure with Failure::NoCurrentRecord for an empty table, and those of the database.
+    /// @throws RuntimeFailure with Failure::NoCurrentRecord for an empty table, and as Database does.
     FunctionKeys(std::shared_ptr<store::Database> database, const ApplicationValues& values);
 
     /// All keys in their order. The place is the first key afterwards.
@@ -67,7 +69,7 @@ public:
     void GetData(KeyControls& controls) const;
     /// Saves the current key as one step. Every option that is not ticked, and so every hidden one, is
     /// cleared. A key without an amount takes Halo's number unless that is above 21474836.47.
-    /// @throws RuntimeFailure of the database; the record is as it was then.
+    /// @throws RuntimeFailure as Recordset does; the record is unchanged then.
     void SaveData(const KeyControls& controls);
 
 private:

@@ -49,6 +49,7 @@ struct OptionBox {
     std::optional<int> shownAs = {};
 };
 
+/// The controls for the numbers of a key.
 enum class NumberControl { Halo, otherno, otherno2 };
 
 /// Where a number is read when its key is shown.
@@ -61,6 +62,7 @@ struct ShownFrom {
 
 /// Where a number goes when its key is saved, after the boxes have set all flags.
 struct SavedTo {
+    /// What becomes of the digits that the boxes have set.
     enum class Manner {
         Replacing, ///< the number alone is left in the field
         Adding,    ///< to the sum of the boxes

@@ -10,6 +10,7 @@
 namespace norvane::keys
 {
 
+/// Cells in no particular order, each once.
 using KeyCells = std::vector<KeyCell>;
 
 /// Why keys were not changed.

@@ -33,8 +33,8 @@ public:
     /// Stores every key of the level in one transaction, also unchanged ones: a function key's row of NLU
     /// gets its key number whatever it had before, and so does the row of a look-up after its four digits.
     /// @throws RuntimeFailure with Failure::NoCurrentRecord, Failure::TypeMismatch, Failure::DatabaseLocked
-    /// ..., which names the level and its rows. Both tables are then unchanged, and the changes can still be
-    /// saved.
+    /// and others as Recordset does; its text names the level and its rows. Both tables are then unchanged,
+    /// and the changes can still be saved.
     void save();
     /// Whether a save would store another PLU, function or look-up for any key.
     [[nodiscard]] bool differs() const;

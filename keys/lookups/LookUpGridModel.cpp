@@ -58,24 +58,24 @@ void LookUpGridModel::setLines(const LookUpLines& lines)
     }
     m_lines = lines;
     if (!m_lines.empty())
-        tellChange(0, rowCount() - 1);
+        reportChange(0, rowCount() - 1);
 }
 
 void LookUpGridModel::setLine(int line, const LookUpLine& content)
 {
     m_lines.at(static_cast<std::size_t>(line)) = content;
-    tellChange(line, line);
+    reportChange(line, line);
 }
 
 void LookUpGridModel::move(int from, int to)
 {
     if (!moveLine(m_lines, from, to))
         return;
-    tellChange(std::min(from, to), std::max(from, to));
+    reportChange(std::min(from, to), std::max(from, to));
     Q_EMIT moved(to);
 }
 
-void LookUpGridModel::tellChange(int first, int last)
+void LookUpGridModel::reportChange(int first, int last)
 {
     Q_EMIT dataChanged(index(first, 0), index(last, ColumnCount - 1));
 }

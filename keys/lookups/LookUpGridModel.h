@@ -39,7 +39,7 @@ Q_SIGNALS:
     void moved(int to);
 
 private:
-    void tellChange(int first, int last);
+    void reportChange(int first, int last);
 
     LookUpLines m_lines;
 };

@@ -19,13 +19,14 @@ struct LookUpLine {
     LineType type = LineType::Plu;
     QString code = QStringLiteral("0"); ///< PLU number or id of a function key; 0 on an empty line
     QString word = QStringLiteral("PLU");
-    QString item = QStringLiteral("0"); ///< a carriage return parts a number from its description
+    QString item = QStringLiteral("0"); ///< a carriage return is between number and description
 
     [[nodiscard]] bool isEmpty() const;
     /// Whether a save would store the same of both; they may show it in other words.
     bool operator==(const LookUpLine& other) const { return type == other.type && code == other.code; }
 };
 
+/// The lines of a look-up in their order, empty ones included.
 using LookUpLines = std::vector<LookUpLine>;
 
 /// Closes the gaps; used lines keep their order. A used line after more than 20 empty ones moves up by 20

@@ -1,4 +1,4 @@
-// Controls and buttons of the look-up editor; see frmwlu.h.
+// See frmwlu.h.
 #include "keys/lookups/frmwlu.h"
 
 #include "base/CustomerSettings.h"
@@ -38,8 +38,6 @@ constexpr double rowHeightTwips = 500;
 constexpr double columnWidthsTwips[] = {300, 1100, 1900};
 constexpr int cellPadding = 9;
 constexpr int rowsInView = 11;
-/// What field keylink holds for a key that opens a look-up.
-const QString lookUpLink = u"271"_s;
 
 /// As a key's number in table nlu begins.
 QString fourDigits(const QString& number)
@@ -331,7 +329,7 @@ void frmwlu::goTo(const QString& number)
 void frmwlu::nextRecord()
 {
     if (!m_records.next())
-        return tellNoMoreRecords();
+        return reportNoMoreRecords();
     updategrid();
     goToLine(0);
 }
@@ -339,12 +337,12 @@ void frmwlu::nextRecord()
 void frmwlu::previousRecord()
 {
     if (!m_records.previous())
-        tellNoMoreRecords();
+        reportNoMoreRecords();
     updategrid();
     goToLine(0);
 }
 
-void frmwlu::tellNoMoreRecords()
+void frmwlu::reportNoMoreRecords()
 {
     m_boxes.message(u"No more records.."_s, u"Information"_s, BoxIcon::Information);
 }

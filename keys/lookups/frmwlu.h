@@ -37,7 +37,7 @@ class frmwlu : public QDialog
 
 public:
     /// Opens the chosen customer's database and shows its first look-up.
-    /// @throws RuntimeFailure if it cannot be opened or has no look-ups; see LookUpRecords.
+    /// @throws RuntimeFailure as openCustomerDatabase() and LookUpRecords do.
     frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
     /// Escape leads from the lists back to the lines first. Like the window's close button it asks about
@@ -68,7 +68,7 @@ private:
     void previousRecord();
     void selectwlu_Click(int row);
     void goTo(const QString& number);
-    void tellNoMoreRecords();
+    void reportNoMoreRecords();
     void fillLine(ItemKind kind, const QString& number);
     [[nodiscard]] int currentLine() const;
     void goToLine(int line);
