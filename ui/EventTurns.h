@@ -8,8 +8,8 @@
 namespace norvane::ui
 {
 
-/// Spaces out the turns in which long work lets events run: windows are painted before a user notices a delay,
-/// and the work may ask at every record.
+/// Spaces out the turns in which long work lets events run: windows are painted before a user notices a
+/// delay, and the work may ask at every record.
 class EventTurns
 {
 public:
