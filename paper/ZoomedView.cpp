@@ -51,6 +51,7 @@ void ZoomedView::setZoom(Zoom zoom)
 
 void ZoomedView::zoomTo(double pixels)
 {
+    m_zoom = Zoom::Free; // before bars appear, which resizes the viewport
     m_scale = pixels;
     setZoom(Zoom::Free);
 }
