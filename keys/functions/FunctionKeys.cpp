@@ -47,14 +47,14 @@ Decimal numberOf(const QString& text)
     return Decimal::leading(text.toStdString());
 }
 
-QString charactersOf(const QString& text, ShownFrom::Characters characters)
+QString charactersOf(const QString& text, ShownFrom::Extent extent)
 {
-    switch (characters) {
-    case ShownFrom::Characters::First:
+    switch (extent) {
+    case ShownFrom::Extent::First:
         return text.left(1);
-    case ShownFrom::Characters::Last:
+    case ShownFrom::Extent::Last:
         return text.right(1);
-    case ShownFrom::Characters::All:
+    case ShownFrom::Extent::All:
         break;
     }
     return text;
@@ -227,7 +227,7 @@ bool FunctionKeys::isSet(int index) const
 
 void FunctionKeys::showNumber(const NumberField& field, KeyControls& controls) const
 {
-    const Decimal stored = numberOf(charactersOf(textOf(field.from.field), field.from.characters));
+    const Decimal stored = numberOf(charactersOf(textOf(field.from.field), field.from.extent));
     controls.number(field.control) = {true, field.caption, stored.shifted(-field.scale), field.largest};
     if (field.control == NumberControl::Halo)
         chooseDigits(field.digits, controls);

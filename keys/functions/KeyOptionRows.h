@@ -61,12 +61,12 @@ inline NumberField number(NumberControl control, QLatin1StringView caption, Show
 
 inline ShownFrom firstCharacterOf(KeyField field)
 {
-    return {field, ShownFrom::Characters::First};
+    return {field, ShownFrom::Extent::First};
 }
 
 inline ShownFrom lastCharacterOf(KeyField field)
 {
-    return {field, ShownFrom::Characters::Last};
+    return {field, ShownFrom::Extent::Last};
 }
 
 inline SavedTo addedTo(KeyField field)

@@ -55,9 +55,9 @@ enum class NumberControl { Halo, otherno, otherno2 };
 /// Where a number is read when its key is shown.
 struct ShownFrom {
     /// Which characters of the field's text are the number. Some fields have a digit beside packed options.
-    enum class Characters { All, First, Last };
+    enum class Extent { All, First, Last };
     KeyField field;
-    Characters characters = Characters::All;
+    Extent extent = Extent::All;
 };
 
 /// Where a number goes when its key is saved, after the boxes have set all flags.

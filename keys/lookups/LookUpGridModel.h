@@ -14,7 +14,7 @@ class LookUpGridModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { LineColumn, WordColumn, ItemColumn, ColumnCount };
+    enum GridColumn { LineColumn, WordColumn, ItemColumn, ColumnCount };
 
     using QAbstractTableModel::QAbstractTableModel;
 
