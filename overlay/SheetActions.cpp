@@ -91,13 +91,13 @@ bool SheetActions::mayCut() const
     if (cut.empty())
         return true;
     const QString first = excerpt(m_document.cell(cut.front()).text);
-    const QString told =
+    const QString notice =
         cut.size() == 1
             ? u"The text \"%1\" is wider than its key and will be cut."_s.arg(first)
             : u"%1 texts are wider than their keys and will be cut, the first of them is \"%2\"."_s
                   .arg(cut.size())
                   .arg(first);
-    return m_boxes.ask(told + u"\r\rPrint all the same?"_s, u"Print Option"_s);
+    return m_boxes.ask(notice + u"\r\rPrint all the same?"_s, u"Print Option"_s);
 }
 
 QString SheetActions::destination(const std::optional<paper::PrinterCorrection>& correction) const

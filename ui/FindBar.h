@@ -33,10 +33,10 @@ public:
 
     /// Shows the row with its text ready to be typed over.
     void open();
-    /// Takes the text away, which is a new search.
+    /// Empties the box and searches again.
     void clear();
     [[nodiscard]] QString sought() const;
-    /// Shows what a search has come to, and has it said. An empty text is nothing worth mentioning.
+    /// Shows the outcome of a search and has screen readers say it; an empty text shows nothing.
     void showOutcome(const QString& outcome);
     /// Shows whether the last search found something.
     void setFound(bool isFound);
