@@ -34,15 +34,6 @@ std::span<const PluColumn> pluColumns()
     return columns;
 }
 
-std::string filledPluNumber(std::uint64_t number)
-{
-    constexpr std::uint64_t base = 10;
-    std::string digits(pluNumberDigits, '0');
-    for (auto digit = digits.rbegin(); number > 0; ++digit, number /= base)
-        *digit = static_cast<char>('0' + number % base);
-    return digits;
-}
-
 store::Value newPluValue(const PluColumn& column)
 {
     if (!column.isOnScreen)

@@ -7,10 +7,8 @@
 #include <QLatin1StringView>
 #include <QString>
 
-#include <cstdint>
 #include <optional>
 #include <span>
-#include <string>
 
 namespace norvane::articles
 {
@@ -36,13 +34,10 @@ struct PluColumn {
 /// In the order of an export. The first is the number.
 [[nodiscard]] std::span<const PluColumn> pluColumns();
 
-inline constexpr std::size_t pluNumberDigits = 18;
 inline constexpr qsizetype longestDescription = 16; ///< characters of a register
 inline constexpr Decimal highestPrice{99999999, 2}; ///< a register has eight digits for a price
 inline constexpr int priceDecimals = 2;
 
-/// The number as stored in the table, with leading zeros.
-[[nodiscard]] std::string filledPluNumber(std::uint64_t number);
 /// What a new record of the PLU screen holds in a column; nothing in one that is not on it.
 [[nodiscard]] store::Value newPluValue(const PluColumn& column);
 /// What an export shows of a stored text; a register fills it with blanks.

@@ -131,7 +131,7 @@ private:
         std::uint32_t position = 0;
         for (plus.readOnly(places); !plus.atEnd(); plus.moveNext(), ++position) {
             stopUnless(m_keepGoing);
-            const auto key = pluNumberOf(plus.value(number).textView());
+            const auto key = PluNumber::parse(plus.value(number).textView());
             if (const auto line = key ? m_file.take(*key) : std::nullopt)
                 compare(*line, plus, places, position);
         }
@@ -142,7 +142,7 @@ private:
     {
         m_change = {line, position, 0, false};
         m_former = plus.value(places.front()).toUtf8();
-        if (m_former == filledPluNumber(m_file.lines()[line].number))
+        if (m_former == m_file.lines()[line].number.text())
             m_former.clear();
         m_former += '\0';
         m_cells = m_file.cells(line);
@@ -274,7 +274,7 @@ void PluComparison::forEach(const std::function<void(const PluChange& change)>& 
     for (const auto& [line, position, columns, isNew] : m_changes) {
         change.number = takeText(former);
         if (change.number.empty())
-            change.number = filledPluNumber(m_file.lines()[line].number);
+            change.number = m_file.lines()[line].number.text();
         change.isNew = isNew;
         change.position = position;
         change.fields.clear();

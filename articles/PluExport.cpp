@@ -2,8 +2,8 @@
 #include "articles/PluExport.h"
 
 #include "articles/PluColumns.h"
+#include "register/PluNumber.h"
 #include "store/engine/Recordset.h"
-#include "store/engine/SearchableTexts.h"
 
 #include <algorithm>
 
@@ -32,7 +32,7 @@ ReportCell cellOf(const PluColumn& column, const store::Value& value)
 {
     switch (column.content) {
     case PluContent::Number:
-        return store::shownKey(column.field, value.toText());
+        return shownKey(column.field, value.toText());
     case PluContent::Text:
         return exportedText(value);
     default:

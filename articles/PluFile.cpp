@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
@@ -55,15 +54,6 @@ std::string_view withoutByteOrderMark(std::string_view text)
 }
 
 } // namespace
-
-std::optional<std::uint64_t> pluNumberOf(std::string_view text)
-{
-    const std::string_view digits = trimBlanks(text);
-    std::uint64_t number = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    const bool isNumber = error == std::errc() && end == digits.data() + digits.size();
-    return isNumber && digits.size() <= pluNumberDigits ? std::optional(number) : std::nullopt;
-}
 
 PluFile::PluFile(const QByteArray& content, std::optional<char> separator)
     : m_text(withoutByteOrderMark({content.constData(), static_cast<std::size_t>(content.size())}))
@@ -138,7 +128,7 @@ void PluFile::takeLine(std::size_t place)
 void PluFile::takeNumber(std::size_t place)
 {
     const std::string& cell = m_csv.cells()[m_numberPlace];
-    if (const auto number = pluNumberOf(cell)) {
+    if (const auto number = PluNumber::parse(cell)) {
         m_lines.push_back({*number, place, static_cast<std::uint32_t>(m_csv.line())});
         learnDecimalSign();
     } else {
@@ -190,7 +180,7 @@ std::span<const std::string> PluFile::cells(std::uint32_t line) const
     return m_csv.cells();
 }
 
-std::optional<std::uint32_t> PluFile::take(std::uint64_t number)
+std::optional<std::uint32_t> PluFile::take(PluNumber number)
 {
     const auto hasNumber = [&](std::size_t place) {
         return place < m_byNumber.size() && m_lines[m_byNumber[place]].number == number;

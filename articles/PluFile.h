@@ -5,6 +5,7 @@
 #include "articles/DecimalSign.h"
 #include "articles/PluColumns.h"
 #include "articles/PluMistakes.h"
+#include "register/PluNumber.h"
 
 #include <QByteArray>
 
@@ -18,7 +19,7 @@ namespace norvane::articles
 
 /// A line of the file.
 struct PluLine {
-    std::uint64_t number; ///< of up to 18 digits
+    PluNumber number;
     std::size_t place;    ///< in the text
     std::uint32_t line;   ///< counted from 1
     bool isTaken = false; ///< a stored PLU has this number, or a line before this one
@@ -43,7 +44,7 @@ public:
     /// One cell for each column, UTF-8; valid until the next call.
     [[nodiscard]] std::span<const std::string> cells(std::uint32_t line) const;
     /// Takes the line with this number. @return its index; nothing if there is none or it is already taken.
-    [[nodiscard]] std::optional<std::uint32_t> take(std::uint64_t number);
+    [[nodiscard]] std::optional<std::uint32_t> take(PluNumber number);
 
 private:
     void findHeadings(std::optional<char> separator);
@@ -66,9 +67,5 @@ private:
     PluMistakes m_mistakes;
     DecimalSign m_decimalSign;
 };
-
-/// The number of a cell or of the table, blanks around it skipped; nothing if it is not one of up to 18
-/// digits.
-[[nodiscard]] std::optional<std::uint64_t> pluNumberOf(std::string_view text);
 
 } // namespace norvane::articles

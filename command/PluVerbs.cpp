@@ -9,9 +9,9 @@
 #include "customers/CustomerLog.h"
 #include "customers/RunLock.h"
 #include "customers/SafetyCopies.h"
+#include "register/PluNumber.h"
 #include "reports/files/CsvFile.h"
 #include "reports/files/XlsxFile.h"
-#include "store/engine/SearchableTexts.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -111,7 +111,7 @@ private:
     {
         stopIfSignalled();
         const QString number =
-            store::shownKey(articles::pluColumns().front().field, QString::fromStdString(change.number));
+            shownKey(articles::pluColumns().front().field, QString::fromStdString(change.number));
         if (change.isNew)
             take({number, u"new PLU"_s, {}, {}});
         for (const auto& [column, before, after] : change.fields) {

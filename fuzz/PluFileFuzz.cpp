@@ -17,7 +17,7 @@ void requireWhole(const articles::PluFile& file, qint64 lines)
         const articles::PluLine& line = file.lines()[index];
         require(line.line >= 1 && line.line <= lines, "a line that was read is within the file");
         require(file.cells(index).size() == file.columns().size(), "a line has a cell for each column");
-        require(numbers.insert(line.number).second != line.isTaken, "a number is taken once");
+        require(numbers.insert(line.number.value()).second != line.isTaken, "a number is taken once");
     }
     for (const auto& mistake : file.mistakes().first()) {
         require(mistake.line >= 1 && mistake.line <= lines, "a mistake names a line within the file");

@@ -2,7 +2,6 @@
 #include "keys/KeyItems.h"
 
 #include "store/engine/Database.h"
-#include "store/engine/SearchableTexts.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,14 +28,14 @@ QString zeroFilled(const QString& number, int width)
 /// Leading zeros beyond the width are dropped, other digits never are.
 QString shownNumber(const QString& number)
 {
-    return zeroFilled(store::shownKey(u"PLUNUMBER"_s, number), shownWidth);
+    return zeroFilled(unfilledNumber(number), shownWidth);
 }
 
 Key codesFor(ItemKind kind, const QString& number)
 {
     switch (kind) {
     case ItemKind::Plu:
-        return {pluLink, zeroFilled(number, lookUpWidth), {}};
+        return {pluLink, filledPluNumber(number), {}};
     case ItemKind::LookUp:
         return {lookUpLink, zeroFilled(number, wluDigits).leftJustified(lookUpWidth, u'0'), {}};
     case ItemKind::Function:
@@ -123,7 +122,7 @@ Key KeyItems::keyOf(const QString& function, const QString& lookUp)
 
 std::optional<Key> KeyItems::keyFor(ItemKind kind, const QString& number)
 {
-    const auto sought = kind == ItemKind::Function ? number : zeroFilled(number, lookUpWidth);
+    const auto sought = kind == ItemKind::Function ? number : filledPluNumber(number);
     if (!records(kind).seek(store::Seek::Equal, store::Value::text(sought)))
         return std::nullopt;
     const ItemTable& table = itemTable(kind);

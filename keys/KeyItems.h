@@ -1,6 +1,7 @@
 // What keys can do: the functions, PLUs and window look-ups of the customer, and how a key shows them.
 #pragma once
 
+#include "register/PluNumber.h"
 #include "store/engine/Recordset.h"
 
 #include <QLatin1StringView>
@@ -13,7 +14,7 @@ namespace norvane::keys
 {
 
 /// Digits of the number that a key of the NLU file keeps, the register's width.
-inline constexpr int lookUpWidth = 18;
+inline constexpr int lookUpWidth = PluNumber::digits;
 /// Digits of a window look-up's number.
 inline constexpr int wluDigits = 4;
 

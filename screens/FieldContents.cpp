@@ -10,8 +10,6 @@ namespace norvane::screens
 namespace
 {
 
-constexpr int pluNumberDigits = 18;
-
 store::Value shownNumber(const store::Value& value)
 {
     return store::Value::decimal(value.toDecimal());
@@ -40,16 +38,6 @@ store::Value textToStore(const store::Value& content, const store::FieldDefiniti
 }
 
 } // namespace
-
-QString pluNumber(const QString& text)
-{
-    return (QString(pluNumberDigits, u'0') + text).right(pluNumberDigits);
-}
-
-bool isPluNumber(const QString& name)
-{
-    return name.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) == 0;
-}
 
 store::Value shownValue(const BoundField& field, const store::Value& value)
 {

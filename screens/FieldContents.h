@@ -6,11 +6,6 @@
 namespace norvane::screens
 {
 
-/// @p text as the register numbers its PLUs: the last 18 digits, filled with zeros from the left.
-[[nodiscard]] QString pluNumber(const QString& text);
-/// Whether the field or index @p name holds PLU numbers.
-[[nodiscard]] bool isPluNumber(const QString& name);
-
 /// The content of @p field's control for @p value. @throws RuntimeFailure with Failure::TypeMismatch for null
 /// in a whole-number box.
 [[nodiscard]] store::Value shownValue(const BoundField& field, const store::Value& value);

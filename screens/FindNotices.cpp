@@ -2,6 +2,7 @@
 #include "screens/FindNotices.h"
 
 #include "platform/Excerpt.h"
+#include "register/PluNumber.h"
 #include "screens/SaveNotices.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,7 +13,7 @@ namespace norvane::screens
 /// PLU numbers are texts of digits.
 QString kindOfKey(const store::FieldDefinition& field)
 {
-    if (field.name.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) == 0)
+    if (isPluNumberField(field.name))
         return u"PLU number"_s;
     return field.type == store::FieldType::Text ? u"text"_s : u"number"_s;
 }

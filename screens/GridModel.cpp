@@ -4,6 +4,7 @@
 #include "platform/Excerpt.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
+#include "register/PluNumber.h"
 #include "screens/RegisterRules.h"
 #include "screens/SaveNotices.h"
 #include "store/engine/ShortWait.h"
@@ -293,7 +294,7 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
         return false;
     }
     Q_EMIT dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
-    const QString key = store::shownKey(m_records->field(0).name, cell(index.siblingAtColumn(0)).toText());
+    const QString key = shownKey(m_records->field(0).name, cell(index.siblingAtColumn(0)).toText());
     const QString label = headerData(0, Qt::Horizontal, Qt::DisplayRole).toString();
     Q_EMIT stored(recordSaved(recordName({}, label, key)));
     return true;

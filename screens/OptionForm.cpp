@@ -3,6 +3,7 @@
 
 #include "platform/FailureBox.h"
 #include "platform/FilePaths.h"
+#include "register/PluNumber.h"
 #include "screens/FieldPanel.h"
 #include "screens/FindNotices.h"
 #include "screens/GridControl.h"
@@ -200,7 +201,7 @@ bool OptionForm::mayRenumberRecord(const BoundFields& fields)
     if (!number)
         return true;
     const auto shown = [this](const store::Value& key) {
-        return store::shownKey(m_editor->searchedField(1).name, key.toText());
+        return shownKey(m_editor->searchedField(1).name, key.toText());
     };
     return mayRenumber(m_boxes, shownRecord(), shown(number->before), shown(number->after),
                        holdersOfKey(*m_database, m_file.table().table, number->before));
@@ -218,7 +219,7 @@ void OptionForm::keepNumber(BoundFields fields)
 QString OptionForm::shownRecord() const
 {
     const QString field = m_editor->searchedField(1).name;
-    const QString key = m_list ? store::shownKey(field, m_editor->key()) : QString();
+    const QString key = m_list ? shownKey(field, m_editor->key()) : QString();
     return recordName(caption(), CSPict1->labelOf(field), key);
 }
 

@@ -2,6 +2,7 @@
 #include "screens/RecordEditor.h"
 
 #include "platform/FailurePlace.h"
+#include "register/PluNumber.h"
 #include "screens/FieldContents.h"
 #include "store/engine/ShortWait.h"
 
@@ -148,7 +149,8 @@ std::optional<NewNumber> RecordEditor::newNumber(const BoundFields& fields)
         return {};
     const auto& definition = searchedField(1);
     const auto filled = [&](const store::Value& value) {
-        return isPluNumber(definition.name) ? store::Value::text(pluNumber(value.toText())) : value;
+        return isPluNumberField(definition.name) ? store::Value::text(fittedPluNumber(value.toText()))
+                                                 : value;
     };
     const store::Value after = filled(valueToStore(*typed, definition));
     if (after.toText() == filled(before).toText() || hasRecord(m_table.firstIndex, store::Seek::Equal, after))
@@ -185,8 +187,8 @@ void RecordEditor::storeFields(BoundFields& fields)
 
 void RecordEditor::storeField(BoundField& field)
 {
-    if (field.kind == ControlKind::Text && isPluNumber(field.dataField))
-        field.content = store::Value::text(pluNumber(field.content.toText()));
+    if (field.kind == ControlKind::Text && isPluNumberField(field.dataField))
+        field.content = store::Value::text(fittedPluNumber(field.content.toText()));
     if (field.readOnly)
         return;
     const int ordinal = m_records.fieldOrdinal(field.dataField);
@@ -320,7 +322,7 @@ FindOutcome RecordEditor::find(int button, const QString& text)
 {
     const QString& index = indexOf(button);
     namingFile(m_screenFile, [&] { m_records.changeOrder(index); });
-    const auto key = store::Value::text(isPluNumber(index) ? pluNumber(text) : text);
+    const auto key = store::Value::text(isPluNumberField(index) ? fittedPluNumber(text) : text);
     if (!hasRecord(index, store::Seek::AtOrAfter, key) || !m_records.seek(store::Seek::AtOrAfter, key))
         return FindOutcome::Nothing;
     return text.isEmpty() || isAt(searchedField(button), key) ? FindOutcome::Found : FindOutcome::Next;
@@ -329,7 +331,7 @@ FindOutcome RecordEditor::find(int button, const QString& text)
 /// A user who looks for a name types its beginning.
 bool RecordEditor::isAt(const store::FieldDefinition& field, const store::Value& key) const
 {
-    if (field.type != store::FieldType::Text || isPluNumber(field.name))
+    if (field.type != store::FieldType::Text || isPluNumberField(field.name))
         return hasRecord(m_records.index(), store::Seek::Equal, key);
     return m_records.value(field.name).toText().startsWith(key.toText(), Qt::CaseInsensitive);
 }

@@ -1,6 +1,7 @@
 // See RecordListModel.h.
 #include "ui/RecordListModel.h"
 
+#include "register/PluNumber.h"
 #include "store/engine/Recordset.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ RecordListModel::RecordListModel(std::shared_ptr<store::Database> database, Reco
 
 QString RecordListModel::shownNumber(const QString& number) const
 {
-    return store::shownKey(m_source.numberField, number);
+    return shownKey(m_source.numberField, number);
 }
 
 void RecordListModel::readRecords()

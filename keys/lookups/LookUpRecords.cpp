@@ -4,6 +4,7 @@
 #include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
+#include "register/PluNumber.h"
 #include "store/engine/ShortWait.h"
 
 #include <QScopeGuard>
@@ -15,8 +16,6 @@ namespace norvane::keys
 namespace
 {
 
-constexpr int pluDigits = 18;
-const QString zeros(pluDigits, u'0');
 const QString wordOfPlu = u"PLU"_s;
 const QString wordOfFunction = u"Function"_s;
 
@@ -158,7 +157,7 @@ LookUpLine LookUpRecords::readLine(int line)
 LookUpLine LookUpRecords::readPlu(LineType type, const QString& word, const QString& code)
 {
     LookUpLine line{.type = type, .word = word};
-    if (!m_plus.seek(store::Seek::Equal, store::Value::text((zeros + code).right(pluDigits))))
+    if (!m_plus.seek(store::Seek::Equal, store::Value::text(fittedPluNumber(code))))
         return line;
     line.code = m_plus.value(u"plunumber"_s).toText();
     line.item = line.code + u'\r' + m_plus.value(u"description"_s).toText();

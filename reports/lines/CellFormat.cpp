@@ -2,6 +2,7 @@
 #include "reports/lines/CellFormat.h"
 
 #include "platform/Dates.h"
+#include "register/PluNumber.h"
 
 #include <array>
 
@@ -32,14 +33,6 @@ constexpr std::array<NamedFormat, 8> namedFormats{{
 }};
 constexpr qsizetype mostPlaces = 9;
 
-QString withoutLeadingZeros(const QString& text)
-{
-    qsizetype zeros = 0;
-    while (zeros + 1 < text.size() && text.at(zeros) == u'0')
-        ++zeros;
-    return text.mid(zeros);
-}
-
 } // namespace
 
 Alignment CellFormat::alignment() const
@@ -55,7 +48,7 @@ QString CellFormat::text(const store::Value& value) const
     QString plain = value.toText().trimmed();
     switch (kind) {
     case FormatKind::Digits:
-        return withoutLeadingZeros(plain);
+        return unfilledNumber(plain);
     case FormatKind::Date:
     case FormatKind::Day: {
         const QDate day = value.toDate();

@@ -1,6 +1,8 @@
 // See TextTemplate.h.
 #include "reports/lines/TextTemplate.h"
 
+#include "register/PluNumber.h"
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -74,11 +76,7 @@ QString withoutLastComma(const MadeText& made)
 
 QString NameList::keyOf(const store::Value& number)
 {
-    const QString text = number.toText().trimmed();
-    qsizetype zeros = 0;
-    while (zeros + 1 < text.size() && text.at(zeros) == u'0')
-        ++zeros;
-    return text.mid(zeros);
+    return unfilledNumber(number.toText().trimmed());
 }
 
 QString textOf(const TextTemplate& text, const CellFormat& format, const LineFields& fields)

@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <numeric>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::store
 {
 namespace
@@ -18,16 +16,6 @@ std::string lineOf(QString text)
 }
 
 } // namespace
-
-QString shownKey(const QString& keyField, const QString& key)
-{
-    if (keyField.compare("PLUNUMBER"_L1, Qt::CaseInsensitive) != 0)
-        return key;
-    qsizetype zeros = 0;
-    while (zeros + 1 < key.size() && key[zeros] == u'0')
-        ++zeros;
-    return key.sliced(zeros);
-}
 
 void SearchableTexts::clear()
 {

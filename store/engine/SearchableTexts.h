@@ -10,9 +10,6 @@
 namespace norvane::store
 {
 
-/// The record's key as users know it: a PLU number without leading zeros.
-[[nodiscard]] QString shownKey(const QString& keyField, const QString& key);
-
 /// Keeps all texts in two long strings, one to show and one in small letters to search, so that 100,000
 /// records are searched in a few milliseconds and take a few megabytes. Records count from 0.
 class SearchableTexts
