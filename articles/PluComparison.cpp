@@ -2,7 +2,7 @@
 #include "articles/PluComparison.h"
 
 #include "platform/Excerpt.h"
-#include "platform/TextFields.h"
+#include "platform/Trimming.h"
 #include "platform/Windows1252.h"
 #include "reports/files/FormulaGuard.h"
 #include "store/engine/Recordset.h"

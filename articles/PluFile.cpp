@@ -2,7 +2,7 @@
 #include "articles/PluFile.h"
 
 #include "platform/Excerpt.h"
-#include "platform/TextFields.h"
+#include "platform/Trimming.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,6 @@
 
 #include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
-#include "platform/Numbers.h"
 #include "platform/ProfileFile.h"
 
 #include <QDir>
@@ -11,6 +10,15 @@
 
 namespace norvane
 {
+namespace
+{
+
+QString modelSetting(const ApplicationValues& values)
+{
+    return readSetting(values, QStringLiteral("ECRModel"), QStringLiteral("0"));
+}
+
+} // namespace
 
 QString settingsPath(const ApplicationValues& values)
 {
@@ -22,21 +30,23 @@ QString readSetting(const ApplicationValues& values, const QString& key, const Q
     return ProfileFile(settingsPath(values)).value(QStringLiteral("SetupOption"), key, defaultText);
 }
 
-double ecrModel(const ApplicationValues& values)
+const RegisterModel& registerModel(const ApplicationValues& values)
 {
-    const QString stored = readSetting(values, QStringLiteral("ECRModel"), QStringLiteral("0"));
+    const QString stored = modelSetting(values);
     const auto withPlace = [&](const QString& text) {
         return QStringLiteral("%1\nECRModel=%2 in %3").arg(text, stored, settingsPath(values));
     };
-    return atPlace(withPlace, [&] { return toNumber(stored); });
+    return atPlace(withPlace, [&]() -> const RegisterModel& { return modelOfNumber(stored); });
 }
 
-int messageWidth(const ApplicationValues& values)
+const RegisterModel& registerModelByText(const ApplicationValues& values)
 {
-    constexpr int wide = 40;
-    constexpr int narrow = 32;
-    const double model = ecrModel(values);
-    return model == 0 || model == 1 || model == 2 ? wide : narrow;
+    return modelOfText(modelSetting(values));
+}
+
+QString GetModelCode(const ApplicationValues& values)
+{
+    return registerModel(values).code;
 }
 
 QString runNotesName()

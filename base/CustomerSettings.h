@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
+#include "register/RegisterModel.h"
 
 #include <QString>
 
@@ -17,14 +18,18 @@ namespace norvane
 [[nodiscard]] QString readSetting(const ApplicationValues& values, const QString& key,
                                   const QString& defaultText);
 
-/// The register model index ECRModel, default "0", converted to a number.
-/// @throws RuntimeFailure with Failure::TypeMismatch if the value is empty or not a number; the text names
-/// file and key.
-[[nodiscard]] double ecrModel(const ApplicationValues& values);
+/// The customer's register model, which the number ECRModel names; "0" if it is not set.
+/// @throws RuntimeFailure with Failure::TypeMismatch if the value is not a number; the text names file and
+/// key.
+[[nodiscard]] const RegisterModel& registerModel(const ApplicationValues& values);
 
-/// Characters of a message line: the printers of the models 0, 1 and 2 are wider than those of all others.
-/// @throws RuntimeFailure with Failure::TypeMismatch as ecrModel() does.
-[[nodiscard]] int messageWidth(const ApplicationValues& values);
+/// The same by the characters of ECRModel, for the exchange and the options of function keys. Any value is
+/// accepted.
+[[nodiscard]] const RegisterModel& registerModelByText(const ApplicationValues& values);
+
+/// The model word that the converter takes: "Velmaro", "Velmarn" or "Dorvik". @throws RuntimeFailure with
+/// Failure::TypeMismatch as registerModel() does.
+[[nodiscard]] QString GetModelCode(const ApplicationValues& values);
 
 /// The name of the customer whose data @p database holds. After a change of customer the database in use is
 /// still the previous customer's. @return customerName, or else the name of the folder that @p database is

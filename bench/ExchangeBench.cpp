@@ -1,9 +1,9 @@
 // Select All up and Select All down on a full register, with the real tools: how much of the time is the
 // program's own, which register files take it, and the share of the safety copy that is made first.
-#include "base/SharedRoutines.h"
 #include "bench/Ratio.h"
 #include "customers/SafetyCopies.h"
 #include "exchange/ExchangeRunner.h"
+#include "link/ToolRun.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 #include "tests/support/ProgramFolder.h"
@@ -43,7 +43,7 @@ public:
     {
         bookOwn();
         auto result = ChildResult::NotFound;
-        m_tools += bench::secondsOf([&] { result = RunAndWait(values, commandLine); });
+        m_tools += bench::secondsOf([&] { result = link::RunAndWait(values, commandLine); });
         m_since = std::chrono::steady_clock::now();
         return result;
     }
@@ -126,7 +126,7 @@ private:
     link::RunOutside outside(Meter& meter)
     {
         return {.runAndWait = [&](const QString& line) { return meter.tool(m_values, line); },
-                .readStatus = ReadStatusOut,
+                .readStatus = link::ReadStatusOut,
                 .showStep = [&](const QString& text) { meter.step(text); },
                 .showNotice = [](const QString& text) { require(false, qPrintable(text)); },
                 .goOn = [] { return true; },

@@ -1,5 +1,4 @@
 // Work with the registers: the runs of the window, without it.
-#include "base/SharedRoutines.h"
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
@@ -9,6 +8,7 @@
 #include "link/Modem.h"
 #include "link/ResultCodes.h"
 #include "link/SystemClock.h"
+#include "link/ToolRun.h"
 #include "platform/RuntimeFailure.h"
 #include "sales/CollectionRun.h"
 #include "sales/UnclearedSales.h"
@@ -68,9 +68,9 @@ private:
 ChildResult runTool(const ApplicationValues& values, const QString& line)
 {
     stopIfSignalled();
-    const ChildResult result = RunAndWait(values, line, {[](auto) {
-                                              return stopSignal() == 0;
-                                          }});
+    const ChildResult result = link::RunAndWait(values, line, {[](auto) {
+                                                    return stopSignal() == 0;
+                                                }});
     if (result != ChildResult::Ended)
         stopIfSignalled();
     return result;
@@ -79,7 +79,7 @@ ChildResult runTool(const ApplicationValues& values, const QString& line)
 link::RunOutside outsideOf(const Workplace& workplace, const ApplicationValues& values)
 {
     return {.runAndWait = [&values](const QString& line) { return runTool(values, line); },
-            .readStatus = ReadStatusOut,
+            .readStatus = link::ReadStatusOut,
             .showStep = printStep,
             .showNotice = printMessage,
             .goOn =

@@ -4,7 +4,7 @@
 #include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
-#include "platform/TextFields.h"
+#include "platform/Trimming.h"
 #include "store/catalogue/DatabaseCheck.h"
 #include "store/catalogue/Upgrade.h"
 #include "store/engine/Database.h"

@@ -359,10 +359,10 @@ void ExchangeRunner::keepForCustomer(const QString& name)
 
 bool ExchangeRunner::hasSmartCards() const
 {
-    return readSetting(m_values, u"ECRModel"_s, u"0"_s) != "0"_L1;
+    return registerModelByText(m_values).hasCards;
 }
 
-/// Model 0 has no smart card files.
+/// A model without smart cards has no files of them.
 void ExchangeRunner::untickWithoutSmartCards()
 {
     if (hasSmartCards())

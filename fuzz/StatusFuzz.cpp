@@ -1,7 +1,7 @@
 // status.out, in which the transfer tool leaves its result. Input: the file.
-#include "base/SharedRoutines.h"
 #include "fuzz/Target.h"
 #include "link/ResultCodes.h"
+#include "link/ToolRun.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -11,7 +11,7 @@ namespace norvane::fuzz
 void tryInput(std::string_view input)
 {
     scratchFile(u"status.out"_s, input);
-    const QString status = ReadStatusOut();
+    const QString status = link::ReadStatusOut();
     succeeds({Failure::TypeMismatch, Failure::Overflow}, [&] {
         require(!link::resultText(link::resultNumber(status), 0).isEmpty(), "a result has words");
     });

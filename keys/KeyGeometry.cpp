@@ -66,9 +66,9 @@ const KeyGeometry& dorvikKeyboard()
     return dorvik;
 }
 
-const KeyGeometry& keyboardOf(double ecrModel)
+const KeyGeometry& keyboardOf(RegisterFamily family)
 {
-    return ecrModel == 0 || ecrModel == 1 || ecrModel == 2 ? velmar : dorvik;
+    return family == RegisterFamily::Velmar ? velmar : dorvik;
 }
 
 } // namespace norvane::keys

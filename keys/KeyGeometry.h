@@ -1,6 +1,8 @@
 // The keyboards of the register families: where their keys are and in which order registers count them.
 #pragma once
 
+#include "register/RegisterModel.h"
+
 #include <QLatin1StringView>
 
 #include <optional>
@@ -59,7 +61,6 @@ inline constexpr double cellWidthTwips = 1800;
 
 [[nodiscard]] const KeyGeometry& velmarKeyboard();
 [[nodiscard]] const KeyGeometry& dorvikKeyboard();
-/// The keyboard of a register model: 0, 1 and 2 are Velmars, all others Dorviks.
-[[nodiscard]] const KeyGeometry& keyboardOf(double ecrModel);
+[[nodiscard]] const KeyGeometry& keyboardOf(RegisterFamily family);
 
 } // namespace norvane::keys

@@ -1,9 +1,9 @@
 // See LinkForm.h.
 #include "link/LinkForm.h"
 
-#include "base/SharedRoutines.h"
 #include "customers/RunLock.h"
 #include "link/SystemClock.h"
+#include "link/ToolRun.h"
 #include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"

@@ -2,7 +2,7 @@
 #include "link/ToolWait.h"
 
 #include "base/LossQuestion.h"
-#include "base/SharedRoutines.h"
+#include "link/ToolRun.h"
 
 #include <QApplication>
 #include <QKeyEvent>

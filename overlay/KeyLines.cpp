@@ -1,7 +1,7 @@
 // See KeyLines.h.
 #include "overlay/KeyLines.h"
 
-#include "platform/TextFields.h"
+#include "platform/Trimming.h"
 
 namespace norvane::overlay
 {

@@ -40,8 +40,7 @@ std::optional<Keyboard> keyboardInUse(ApplicationValues values)
 {
     values.customerPath = QFileInfo(values.databasePath).path();
     try {
-        const double model = ecrModel(values);
-        const bool isVelmar = model == 0 || model == 1 || model == 2;
+        const bool isVelmar = registerModel(values).family == RegisterFamily::Velmar;
         return isVelmar ? Keyboard::Velmar : Keyboard::Dorvik;
     } catch (const RuntimeFailure&) {
         return std::nullopt;

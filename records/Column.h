@@ -2,7 +2,7 @@
 // says what differs in one direction.
 #pragma once
 
-#include "records/OptionDigits.h"
+#include "records/DigitPart.h"
 
 #include <array>
 #include <cstddef>

@@ -3,13 +3,15 @@
 
 #include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
-#include "base/SharedRoutines.h"
+#include "platform/CommaValues.h"
+#include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
-#include "platform/TextValues.h"
 #include "records/ImportTransaction.h"
 #include "records/RecordWriter.h"
+#include "records/RegisterFiles.h"
 #include "records/TextImport.h"
+#include "register/Firmware.h"
 #include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 
@@ -36,11 +38,11 @@ QString importLine(const RegisterFile& file, const ApplicationValues& values)
 
 QString exportLine(const RegisterFile& file, const ApplicationValues& values)
 {
-    const QString model = GetModelCode(values);
-    const bool isDorvik = model.compare("Dorvik"_L1, Qt::CaseInsensitive) == 0;
+    const RegisterModel& model = registerModel(values);
+    const bool isDorvik = model.family == RegisterFamily::Dorvik;
     const char* operation =
         isDorvik && file.dorvikOperation != nullptr ? file.dorvikOperation : file.exportOperation;
-    return u"convert w%1 f%2.txt t%2.dat %3"_s.arg(model, QString::number(file.number),
+    return u"convert w%1 f%2.txt t%2.dat %3"_s.arg(model.code, QString::number(file.number),
                                                    QLatin1String(operation));
 }
 

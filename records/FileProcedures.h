@@ -4,7 +4,7 @@
 
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "records/RecordText.h"
+#include "records/RecordLines.h"
 
 #include <QString>
 

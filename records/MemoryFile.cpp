@@ -1,10 +1,11 @@
 // See MemoryFile.h.
 #include "records/MemoryFile.h"
 
-#include "base/SharedRoutines.h"
+#include "base/CustomerSettings.h"
 #include "records/ImportTransaction.h"
 #include "records/RecordLayouts.h"
 #include "records/TextImport.h"
+#include "register/Firmware.h"
 #include "store/engine/CommitOnExit.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -30,7 +31,7 @@ constexpr auto newerOperation = "u352"_L1;
 QString conversionLine(const ProcedureContext& context)
 {
     constexpr int olderGeneration = 2;
-    const bool isOlder = GetFirmwareGeneration(context.values, context.boxes) == olderGeneration;
+    const bool isOlder = GetFirmwareGeneration(context.values.appPath, context.boxes) == olderGeneration;
     return u"convert w%1 fMEM.dat t52.txt %2"_s.arg(
         GetModelCode(context.values), isOlder ? QLatin1String(memoryFile.importOperation) : newerOperation);
 }

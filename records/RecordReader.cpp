@@ -2,12 +2,13 @@
 // columns here, so the usual column takes a short path.
 #include "records/RecordReader.h"
 
-#include "base/FieldText.h"
-#include "base/SharedRoutines.h"
 #include "platform/Decimal.h"
 #include "platform/NumberScan.h"
 #include "platform/RuntimeFailure.h"
-#include "records/RecordText.h"
+#include "records/RecordLines.h"
+#include "register/FieldWidth.h"
+#include "register/OptionDigits.h"
+#include "register/RegisterMark.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,10 +1,12 @@
 // Builds the columns of a record; see RecordWriter.h.
 #include "records/RecordWriter.h"
 
-#include "base/FieldText.h"
 #include "platform/Decimal.h"
 #include "platform/Numbers.h"
 #include "platform/Windows1252.h"
+#include "register/FieldWidth.h"
+#include "register/Firmware.h"
+#include "register/RegisterMark.h"
 
 #include <algorithm>
 #include <array>

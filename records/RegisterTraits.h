@@ -15,7 +15,4 @@ struct RegisterTraits {
     std::function<int()> firmwareGeneration;
 };
 
-/// Firmware with fields of its own.
-inline constexpr int newerGeneration = 3;
-
 } // namespace norvane::records

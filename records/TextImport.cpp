@@ -2,12 +2,12 @@
 #include "records/TextImport.h"
 
 #include "base/CustomerSettings.h"
-#include "base/SharedRoutines.h"
+#include "platform/CommaValues.h"
 #include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
-#include "platform/TextValues.h"
 #include "records/ImportTransaction.h"
 #include "records/RecordReader.h"
+#include "register/Firmware.h"
 
 #include <QScopeGuard>
 
@@ -85,9 +85,9 @@ QString textName(const RegisterFile& file)
 
 RegisterTraits traitsOf(const ProcedureContext& context)
 {
-    return {[&context] { return static_cast<std::size_t>(messageWidth(context.values)); },
+    return {[&context] { return static_cast<std::size_t>(registerModel(context.values).messageWidth); },
             [&context] {
-                return GetFirmwareGeneration(context.values, context.boxes);
+                return GetFirmwareGeneration(context.values.appPath, context.boxes);
             }};
 }
 

@@ -1,7 +1,7 @@
 // See PluNumber.h.
 #include "register/PluNumber.h"
 
-#include "platform/TextFields.h"
+#include "platform/Trimming.h"
 
 #include <charconv>
 

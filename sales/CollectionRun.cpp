@@ -1,8 +1,8 @@
 // The steps of a collection as a table, and the run over them; see CollectionRun.h.
 #include "sales/CollectionRun.h"
 
+#include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
-#include "base/SharedRoutines.h"
 #include "customers/CustomerLog.h"
 #include "customers/DataOwner.h"
 #include "link/CommandLines.h"

@@ -1,13 +1,13 @@
 // The five readers as one table, and the engine that reads by it; see PollImport.h.
 #include "sales/PollImport.h"
 
+#include "platform/CommaValues.h"
 #include "platform/Decimal.h"
 #include "platform/FailurePlace.h"
 #include "platform/FilePaths.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
-#include "platform/TextValues.h"
-#include "records/RecordText.h"
+#include "records/RecordLines.h"
 #include "sales/PollStamp.h"
 #include "store/catalogue/SalesTables.h"
 #include "store/engine/CommitOnExit.h"
@@ -115,14 +115,14 @@ public:
     PollReader(const PollFile& file, store::Recordset& records, const ApplicationValues& values,
                QDate collected);
 
-    [[nodiscard]] ImportedReport storeAll(TextValues& text);
+    [[nodiscard]] ImportedReport storeAll(CommaValues& text);
 
 private:
     [[nodiscard]] QString placed(const QString& what) const;
-    void storeRecord(TextValues& text);
+    void storeRecord(CommaValues& text);
     void count();
     void needLayout() const;
-    void readValues(TextValues& text);
+    void readValues(CommaValues& text);
     [[nodiscard]] Value valueOf(std::size_t at, std::string_view text);
     void addRow();
     [[nodiscard]] int ordinal(const char* field) const
@@ -164,7 +164,7 @@ PollReader::PollReader(const PollFile& file, store::Recordset& records, const Ap
         m_ordinals.at(at) = ordinal(file.fields[at]);
 }
 
-ImportedReport PollReader::storeAll(TextValues& text)
+ImportedReport PollReader::storeAll(CommaValues& text)
 {
     while (!text.atEnd()) {
         count();
@@ -178,7 +178,7 @@ QString PollReader::placed(const QString& what) const
     return u"%1, record %2: %3"_s.arg(QLatin1StringView(m_file.name)).arg(m_record).arg(what);
 }
 
-void PollReader::storeRecord(TextValues& text)
+void PollReader::storeRecord(CommaValues& text)
 {
     needLayout();
     readValues(text);
@@ -206,7 +206,7 @@ void PollReader::needLayout() const
     }
 }
 
-void PollReader::readValues(TextValues& text)
+void PollReader::readValues(CommaValues& text)
 {
     m_allZero = true;
     for (std::size_t at = 0; at < m_valuesOfRecord; ++at) {
@@ -265,7 +265,7 @@ ImportedReport importPollFile(const PollFile& file, store::Database& database,
     store::CommitOnExit transaction(database);
     store::Recordset records = database.openTable(QLatin1StringView(file.table));
     const QByteArray content = readWholeFile(joinPath(values.appPath, QLatin1StringView(file.name)));
-    TextValues text({content.constData(), static_cast<std::size_t>(content.size())});
+    CommaValues text({content.constData(), static_cast<std::size_t>(content.size())});
     const ImportedReport report = [&] {
         const store::RowAppend append(database, transaction, QLatin1StringView(file.table));
         return PollReader(file, records, values, collected).storeAll(text);

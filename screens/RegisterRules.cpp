@@ -53,7 +53,6 @@ constexpr RuledField ruledFields[] = {
 
 constexpr int midnight = 2400;
 constexpr int timeDigits = 4;
-constexpr double modelWithoutCards = 0;
 
 /// Eight digits with two after the point, as the price boxes of the PLU screens.
 constexpr Decimal largestPrice{99999999, 2};
@@ -72,7 +71,7 @@ void apply(FieldRule rule, ControlDefinition& control, const ApplicationValues& 
         control.isHexadecimal = true;
         break;
     case FieldRule::MessageLine:
-        narrowTo(control, messageWidth(values));
+        narrowTo(control, registerModel(values).messageWidth);
         break;
     case FieldRule::TimeOfDay:
         control.largest = midnight;
@@ -81,7 +80,7 @@ void apply(FieldRule rule, ControlDefinition& control, const ApplicationValues& 
         control.digits = timeDigits;
         break;
     case FieldRule::CardOption:
-        control.enabled = ecrModel(values) != modelWithoutCards;
+        control.enabled = registerModel(values).hasCards;
         break;
     }
 }

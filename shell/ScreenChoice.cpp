@@ -2,8 +2,8 @@
 #include "shell/ScreenChoice.h"
 
 #include "base/CustomerSettings.h"
-#include "base/SharedRoutines.h"
 #include "platform/FailurePlace.h"
+#include "register/Firmware.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 
@@ -49,11 +49,6 @@ constexpr auto gates = std::to_array<Gate>({
     {"Hotlist"_L1, "hotlist"_L1, "You must upload the Hot List file from the ECR"_L1},
 });
 
-std::size_t columnOf(double model)
-{
-    return model == 0 ? 0 : model == 1 ? 1 : model == 2 ? 2 : 3;
-}
-
 template <typename Table>
 const auto& rowOf(const Table& table, const MenuEntry& entry)
 {
@@ -74,7 +69,7 @@ int firmwareGeneration(const ApplicationValues& values, Boxes& boxes)
     const auto explain = [](const QString& text) {
         return text + u"\rUpload from the ECR first: each upload fetches this file."_s;
     };
-    return atPlace(explain, [&] { return GetFirmwareGeneration(values, boxes); });
+    return atPlace(explain, [&] { return GetFirmwareGeneration(values.appPath, boxes); });
 }
 
 } // namespace
@@ -83,14 +78,14 @@ QString targetOf(const MenuEntry& entry, const ApplicationValues& values)
 {
     if (entry.opens != Opens::ModelScreen && entry.opens != Opens::ModelForm)
         return entry.target;
-    return rowOf(byModel, entry).targets[columnOf(ecrModel(values))];
+    return rowOf(byModel, entry).targets.at(static_cast<std::size_t>(registerModel(values).place));
 }
 
 bool mayOpen(const MenuEntry& entry, const ApplicationValues& values, Boxes& boxes)
 {
     if (entry.opens != Opens::GatedScreen)
         return true;
-    if (firmwareGeneration(values, boxes) == 2) {
+    if (firmwareGeneration(values, boxes) == olderGeneration) {
         boxes.message(u"Option not available on this firmware"_s);
         return false;
     }

@@ -2,9 +2,9 @@
 #include "keys/functions/FunctionKeys.h"
 
 #include "base/CustomerSettings.h"
-#include "base/SharedRoutines.h"
 #include "platform/FailurePlace.h"
 #include "platform/Numbers.h"
+#include "register/OptionDigits.h"
 #include "store/engine/ShortWait.h"
 
 #include <QScopeGuard>
@@ -190,26 +190,26 @@ void FunctionKeys::GetData(KeyControls& controls) const
             .arg(id())
             .arg(tableName, text);
     };
-    const QString ecrModel = readSetting(m_values, u"ECRModel"_s, u"0"_s);
+    const RegisterModel& model = registerModelByText(m_values);
     hideAll(controls);
     controls.description = m_table.value(descriptionField).toText();
     atPlace(explain, [&] {
-        show(optionsOf(id(), keyOptionsTo156()), ecrModel, controls);
-        getdata2(ecrModel, controls);
+        show(optionsOf(id(), keyOptionsTo156()), model, controls);
+        getdata2(model, controls);
     });
 }
 
-void FunctionKeys::getdata2(const QString& ecrModel, KeyControls& controls) const
+void FunctionKeys::getdata2(const RegisterModel& model, KeyControls& controls) const
 {
-    show(optionsOf(id(), keyOptionsFrom157()), ecrModel, controls);
+    show(optionsOf(id(), keyOptionsFrom157()), model, controls);
 }
 
-void FunctionKeys::show(const KeyOptions* options, const QString& ecrModel, KeyControls& controls) const
+void FunctionKeys::show(const KeyOptions* options, const RegisterModel& model, KeyControls& controls) const
 {
     if (options == nullptr)
         return;
     for (const OptionBox& box : options->boxes) {
-        if (includesModel(box.models, ecrModel))
+        if (includes(box.models, model))
             controls.Check1[box.index] = {true, box.caption, isSet(box.shownAs.value_or(box.index))};
     }
     for (const NumberField& field : options->numbers)

@@ -73,8 +73,8 @@ public:
     void SaveData(const KeyControls& controls);
 
 private:
-    void getdata2(const QString& ecrModel, KeyControls& controls) const;
-    void show(const KeyOptions* options, const QString& ecrModel, KeyControls& controls) const;
+    void getdata2(const RegisterModel& model, KeyControls& controls) const;
+    void show(const KeyOptions* options, const RegisterModel& model, KeyControls& controls) const;
     void showNumber(const NumberField& field, KeyControls& controls) const;
     [[nodiscard]] bool isSet(int index) const;
     void storeAll(const KeyControls& controls);

@@ -16,15 +16,15 @@ OptionPlace placeOf(int index)
     return {flags[index / checksOfFlag], index % checksOfFlag < optionsOfDigit, 4 >> index % optionsOfDigit};
 }
 
-bool includesModel(Models models, const QString& ecrModel)
+bool includes(Models models, const RegisterModel& model)
 {
     switch (models) {
     case Models::All:
         return true;
     case Models::Card:
-        return ecrModel != "0"_L1;
+        return model.hasCards;
     case Models::Points:
-        return ecrModel == "2"_L1 || ecrModel == "3"_L1;
+        return model.hasPoints;
     }
     return false;
 }

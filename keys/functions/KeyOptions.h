@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Decimal.h"
+#include "register/RegisterModel.h"
 
 #include <QLatin1StringView>
 #include <QString>
@@ -32,13 +33,13 @@ struct OptionPlace {
 /// The place that belongs to @p index, 0 to 23, whatever the key.
 [[nodiscard]] OptionPlace placeOf(int index);
 
-/// On which register models an option exists. Models are identified by the text of the setting ECRModel.
+/// On which register models an option exists.
 enum class Models {
     All,
-    Card,   ///< all but "0", which knows no smart cards
-    Points, ///< "2" and "3"
+    Card,   ///< those that know smart cards
+    Points, ///< those that take points as payment
 };
-[[nodiscard]] bool includesModel(Models models, const QString& ecrModel);
+[[nodiscard]] bool includes(Models models, const RegisterModel& model);
 
 /// A box of the array Check1.
 struct OptionBox {

@@ -86,7 +86,7 @@ void sizeGrid(QTableView& grid)
 
 frmwlu::frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent)
     : QDialog(parent), m_boxes(boxes), m_database(openCustomerDatabase(values)),
-      m_keyboard(keyboardOf(ecrModel(values))), m_records(m_database),
+      m_keyboard(keyboardOf(registerModel(values).family)), m_records(m_database),
       m_picker(new RecordPicker(u"selectwlu"_s, u"Select WLU"_s, this)), m_lines(new LookUpGridModel(this)),
       m_fields(new LookUpFields(this)), Grid1(makeGrid(m_lines, this)),
       m_lists(new LookUpLists(m_database, this)), m_status(new ui::StatusLine(this))

@@ -1,10 +1,10 @@
 // Makes the shop by the program's own upload and import, with reports from the real tools; see DemoShop.h.
 #include "scripts/demoshop/DemoShop.h"
 
-#include "base/SharedRoutines.h"
 #include "customers/CustomerFolders.h"
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangeRunner.h"
+#include "link/ToolRun.h"
 #include "platform/FilePaths.h"
 #include "platform/FolderLock.h"
 #include "sales/PollImport.h"
@@ -82,13 +82,14 @@ void upload(const ApplicationValues& values)
     QDir::setCurrent(values.appPath);
     AllBoxes all;
     const link::LinkSettings link = link::readLinkSettings(values);
-    exchange::ExchangeRunner(values, link, all,
-                             {.runAndWait = [&](const QString& line) { return RunAndWait(values, line); },
-                              .readStatus = ReadStatusOut,
-                              .showStep = [](const QString&) {},
-                              .showNotice = [](const QString& text) { require(false, text); },
-                              .goOn = [] { return true; },
-                              .boxes = boxes})
+    exchange::ExchangeRunner(
+        values, link, all,
+        {.runAndWait = [&](const QString& line) { return link::RunAndWait(values, line); },
+         .readStatus = link::ReadStatusOut,
+         .showStep = [](const QString&) {},
+         .showNotice = [](const QString& text) { require(false, text); },
+         .goOn = [] { return true; },
+         .boxes = boxes})
         .UploadData();
     require(all.allMoved(), u"the upload was not complete"_s);
 }

@@ -1,7 +1,7 @@
 // The real tools, one after another, on a bank of one register; see TillDays.h.
 #include "scripts/demoshop/TillDays.h"
 
-#include "base/SharedRoutines.h"
+#include "base/CustomerSettings.h"
 #include "link/CommandLines.h"
 #include "platform/ChildProcess.h"
 #include "platform/FilePaths.h"

@@ -5,7 +5,7 @@
 #include "platform/Numbers.h"
 #include "platform/NumberScan.h"
 #include "platform/RuntimeFailure.h"
-#include "platform/TextFields.h"
+#include "platform/Trimming.h"
 
 #include <algorithm>
 #include <cmath>

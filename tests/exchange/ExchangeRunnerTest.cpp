@@ -2,9 +2,9 @@
 // folders, the remaining ticks, the boxes shown.
 #include "exchange/ExchangeRunner.h"
 
-#include "base/SharedRoutines.h"
 #include "customers/CustomerLog.h"
 #include "customers/SafetyCopies.h"
+#include "link/ToolRun.h"
 #include "platform/FilePaths.h"
 #include "tests/store/Rows.h"
 #include "tests/support/AskedFirst.h"
@@ -102,7 +102,7 @@ private:
     [[nodiscard]] link::RunOutside outside()
     {
         return {.runAndWait = [this](const QString& line) { return runTool(line); },
-                .readStatus = ReadStatusOut,
+                .readStatus = link::ReadStatusOut,
                 .showStep = [](const QString&) {},
                 .showNotice = [this](const QString& text) { notices << text; },
                 .goOn = [] { return true; },
@@ -112,7 +112,7 @@ private:
     {
         if (line.startsWith("VELMARCOMM"_L1))
             transfers << line;
-        const ChildResult result = RunAndWait(values, line);
+        const ChildResult result = link::RunAndWait(values, line);
         if (afterTool)
             afterTool(line);
         return result;

@@ -29,7 +29,7 @@ TEST(KeyGeometry, CountsKeysUpTheColumnsAndSkipsFixedCells)
     for (const auto& [keyboard, cell, key] : keysOfCells)
         EXPECT_EQ(keyboard.keyNumber(cell), key) << cell.row << ' ' << cell.column;
     for (const double model : {0.0, 1.0, 2.0, 3.0, -1.0, 1.5}) {
-        const KeyGeometry& keyboard = keyboardOf(model);
+        const KeyGeometry& keyboard = keyboardOf(modelOfNumber(QString::number(model)).family);
         const std::vector<KeyCell> walk = keyboard.walk();
         ASSERT_EQ(walk.size(), model == 0 || model == 1 || model == 2 ? 169U : 158U);
         for (std::size_t key = 0; key < walk.size(); ++key)

@@ -48,7 +48,10 @@ class KeysRoad : public testing::TestWithParam<int>
 protected:
     KeysRoad() { EXPECT_TRUE(m_shop.upload(keyBoxes).isEmpty()); }
 
-    [[nodiscard]] const keys::KeyGeometry& keyboard() const { return keys::keyboardOf(GetParam()); }
+    [[nodiscard]] const keys::KeyGeometry& keyboard() const
+    {
+        return keys::keyboardOf(modelOfNumber(QString::number(GetParam())).family);
+    }
     static void typeInto(QLineEdit& box, const QString& text)
     {
         box.selectAll();

@@ -2,7 +2,7 @@
 // and a bank of registers. Acts by menu entries, clicks and keys, looks at what registers and database hold.
 #pragma once
 
-#include "base/SharedRoutines.h"
+#include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
 #include "shell/FrmMain.h"
 #include "shell/Openers.h"

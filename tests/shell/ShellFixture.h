@@ -2,7 +2,6 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
-#include "base/SharedRoutines.h"
 #include "store/catalogue/Catalogue.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/store/Rows.h"

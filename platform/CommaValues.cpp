@@ -1,5 +1,5 @@
-// Splits a text into its values; see TextValues.h. A report of all PLUs has nearly a million.
-#include "platform/TextValues.h"
+// Splits a text into its values; see CommaValues.h. A report of all PLUs has nearly a million.
+#include "platform/CommaValues.h"
 
 #include <algorithm>
 
@@ -62,12 +62,12 @@ std::string_view withoutEndMark(std::string_view text)
     return text.substr(0, text.find(endMark, behindLast));
 }
 
-TextValues::TextValues(std::string_view text) : m_rest(withoutEndMark(text))
+CommaValues::CommaValues(std::string_view text) : m_rest(withoutEndMark(text))
 {
     m_rest = m_rest.substr(0, m_rest.find_last_not_of(trailingSpace) + 1);
 }
 
-std::optional<std::string_view> TextValues::next()
+std::optional<std::string_view> CommaValues::next()
 {
     if (atEnd())
         return std::nullopt;

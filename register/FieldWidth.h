@@ -1,8 +1,8 @@
-// How texts are written into register records. The functions on views and strings work on bytes and on
-// UTF-16, for bulk work; the named routines use them.
+// Texts in fields of a register's record, which have a fixed width. The functions on views work on bytes and
+// on UTF-16, for bulk work.
 #pragma once
 
-#include "platform/TextFields.h"
+#include "platform/Trimming.h"
 
 #include <QString>
 
@@ -14,28 +14,6 @@
 
 namespace norvane
 {
-
-/// The register's mark in texts, as a byte and in Unicode, and the character used for it in the database.
-inline constexpr int registerMark = 0xFD;
-inline constexpr int shownMark = '^';
-
-/// Each mark of the register becomes "^". Changes @p text, bytes or QString, and returns it.
-template <typename Text>
-Text& EscapeDelimiter(Text& text)
-{
-    using Char = typename Text::value_type;
-    std::replace(text.begin(), text.end(), static_cast<Char>(registerMark), static_cast<Char>(shownMark));
-    return text;
-}
-
-/// Each "^" becomes the register's mark.
-template <typename Text>
-Text& UnescapeDelimiter(Text& text)
-{
-    using Char = typename Text::value_type;
-    std::replace(text.begin(), text.end(), static_cast<Char>(shownMark), static_cast<Char>(registerMark));
-    return text;
-}
 
 /// Appends the trimmed @p text in @p width characters: zeros on the left, the right end kept.
 template <typename Char>
@@ -56,7 +34,8 @@ void appendBlankFilled(std::basic_string<Char>& out, std::type_identity_t<std::b
     out.append(text).append(width - text.size(), ' ');
 }
 
-/// The trimmed @p text without its leading zeros; zeros alone give empty text.
+/// The trimmed @p text without its leading zeros; zeros alone give empty text. For
+/// key links; other numbers use records::StripLeadingZero().
 template <typename Char>
 [[nodiscard]] std::basic_string_view<Char> withoutLeadingZeros(std::basic_string_view<Char> text)
 {
@@ -70,9 +49,5 @@ template <typename Char>
 /// @return the new value. @throws RuntimeFailure with Failure::InvalidArgument if a centred value is longer
 /// than the width.
 QString JustifyField(std::optional<QString>& value, int width, int mode);
-
-/// Trims blanks and removes all leading zeros in @p text; zeros alone become empty text. For key links; other
-/// numbers use records::StripLeadingZero(). @return the new text.
-QString StripLeadingZero(QString& text);
 
 } // namespace norvane

@@ -16,10 +16,10 @@ namespace norvane
 /// trimmed and without the quotes around it. A line end separates two values as a comma does. After an
 /// opening quote without a closing one, the rest, quote included, is one value. Blank lines at the end and
 /// the end mark are not values.
-class TextValues
+class CommaValues
 {
 public:
-    explicit TextValues(std::string_view text);
+    explicit CommaValues(std::string_view text);
 
     [[nodiscard]] bool atEnd() const { return m_rest.empty() && !m_valueDue; }
     /// The next value, which may be empty. @return nothing at the end of the text.

@@ -1,5 +1,5 @@
-// The routines on a field's text; see FieldText.h.
-#include "base/FieldText.h"
+// See FieldWidth.h.
+#include "register/FieldWidth.h"
 
 #include "platform/Excerpt.h"
 #include "platform/Numbers.h"
@@ -44,13 +44,6 @@ QString JustifyField(std::optional<QString>& value, int width, int mode)
     }
     value = QString::fromStdU16String(field);
     return *value;
-}
-
-QString StripLeadingZero(QString& text)
-{
-    const std::u16string given = text.toStdU16String();
-    text = QStringView(withoutLeadingZeros(std::u16string_view(given))).toString();
-    return text;
 }
 
 } // namespace norvane

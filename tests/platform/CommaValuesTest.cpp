@@ -1,5 +1,5 @@
 // The values that are read from the texts of the external tools.
-#include "platform/TextValues.h"
+#include "platform/CommaValues.h"
 
 #include <gtest/gtest.h>
 
@@ -15,12 +15,12 @@ namespace
 std::string valuesOf(std::string_view text)
 {
     std::string all;
-    for (TextValues values(text); const auto value = values.next();)
+    for (CommaValues values(text); const auto value = values.next();)
         all += '[' + std::string(*value) + ']';
     return all;
 }
 
-TEST(TextValuesTest, AreCutAtCommasAndLineEnds)
+TEST(CommaValuesTest, AreCutAtCommasAndLineEnds)
 {
     using namespace std::string_view_literals;
     const std::pair<std::string_view, const char*> texts[] = {

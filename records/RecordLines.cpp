@@ -1,11 +1,12 @@
-// Splitting the text of register records; see RecordText.h.
-#include "records/RecordText.h"
+// Splitting the text of register records; see RecordLines.h.
+#include "records/RecordLines.h"
 
-#include "base/FieldText.h"
 #include "platform/Excerpt.h"
 #include "platform/Numbers.h"
 #include "platform/RuntimeFailure.h"
+#include "platform/Trimming.h"
 #include "platform/Windows1252.h"
+#include "register/RegisterMark.h"
 
 #include <algorithm>
 

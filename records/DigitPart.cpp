@@ -1,5 +1,5 @@
-// The words for the parts of an option digit; see OptionDigits.h.
-#include "records/OptionDigits.h"
+// The words for the parts of an option digit; see DigitPart.h.
+#include "records/DigitPart.h"
 
 #include "records/With.h"
 
