@@ -33,8 +33,6 @@ qint64 recordCount(store::Database& database, const QString& query)
     return database.openQuery(query).recordCount();
 }
 
-} // namespace
-
 PluPoints notedPluPoints(const ApplicationValues& values)
 {
     const QString word = link::readNote(customers::ownerOfData(values), pointsSection, pointsKey);
@@ -42,6 +40,8 @@ PluPoints notedPluPoints(const ApplicationValues& values)
         return PluPoints::Unknown;
     return word == fetchedWord ? PluPoints::Fetched : PluPoints::Wait;
 }
+
+} // namespace
 
 void notePluPoints(const ApplicationValues& values, PluPoints points)
 {

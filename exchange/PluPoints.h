@@ -16,8 +16,7 @@ enum class PluPoints {
     Fetched,
 };
 
-/// Remembered for the customer whose database is open.
-[[nodiscard]] PluPoints notedPluPoints(const ApplicationValues& values);
+/// Remembers @p points for the customer whose database is open.
 void notePluPoints(const ApplicationValues& values, PluPoints points);
 
 /// Whether the points have to be fetched before the PLUs are sent. Follows the table, which a safety copy may

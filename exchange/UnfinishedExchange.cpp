@@ -8,6 +8,8 @@
 
 #include <QStringList>
 
+#include <optional>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::exchange
@@ -45,8 +47,6 @@ QList<int> boxesOf(const QString& numbers)
     return boxes;
 }
 
-} // namespace
-
 std::optional<UnfinishedExchange> unfinishedExchange(const ApplicationValues& values)
 {
     const QStringList words = link::readNote(values, section, unfinishedKey).split(u' ');
@@ -56,6 +56,8 @@ std::optional<UnfinishedExchange> unfinishedExchange(const ApplicationValues& va
         return std::nullopt;
     return exchange;
 }
+
+} // namespace
 
 void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exchange)
 {

@@ -7,8 +7,6 @@
 #include <QDateTime>
 #include <QList>
 
-#include <optional>
-
 namespace norvane::exchange
 {
 
@@ -21,7 +19,6 @@ struct UnfinishedExchange {
     QList<int> boxes; ///< still to do
 };
 
-[[nodiscard]] std::optional<UnfinishedExchange> unfinishedExchange(const ApplicationValues& values);
 /// Remembers @p exchange in place of any other; one without boxes is finished and forgotten.
 void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exchange);
 /// Shows which boxes of the last exchange are still to do, and since when; nothing if there are none.

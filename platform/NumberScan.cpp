@@ -10,6 +10,8 @@ namespace norvane
 namespace
 {
 
+/// Larger exponents are cut to this: beyond every number type, and no sum of two overflows.
+constexpr int exponentLimit = 9999;
 constexpr std::string_view whiteSpace = " \t\r\n";
 
 bool isDigit(char c)
@@ -80,12 +82,13 @@ private:
     std::size_t m_at = 0;
 };
 
-} // namespace
-
+/// The number at the start of @p text, leading blanks not allowed.
 std::optional<ScannedNumber> scanNumber(std::string_view text)
 {
     return Scanner(text).number();
 }
+
+} // namespace
 
 std::optional<ScannedNumber> scanWholeNumber(std::string_view text)
 {

@@ -19,18 +19,12 @@ struct ScannedNumber {
     std::size_t length = 0; ///< how many characters of the text the number takes
 };
 
-/// Larger exponents are cut to this: beyond every number type, and no sum of two overflows.
-inline constexpr int exponentLimit = 9999;
-
-/// The number at the start of @p text, leading blanks not allowed. The exponent letter is E or D and must be
-/// followed by digits.
-/// @return std::nullopt if @p text does not begin with a number.
-[[nodiscard]] std::optional<ScannedNumber> scanNumber(std::string_view text);
-
-/// The number that is all of @p text, white space around it allowed.
+/// The number that is all of @p text, white space around it allowed. The exponent letter is E or D and must
+/// be followed by digits. @return std::nullopt for any other text.
 [[nodiscard]] std::optional<ScannedNumber> scanWholeNumber(std::string_view text);
 
 /// The number at the start of @p text. Blanks, tabs and line feeds are skipped anywhere.
+/// @return std::nullopt if @p text does not begin with a number.
 [[nodiscard]] std::optional<ScannedNumber> scanLeadingNumber(std::string_view text);
 
 /// The nearest double; 0 when the number is too small for one. @return nothing when it is too large.

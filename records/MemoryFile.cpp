@@ -18,7 +18,6 @@ namespace
 /// Not in the catalogue: no box of an exchange stands for it, and its binary file has a name of its own.
 constexpr RegisterFile memoryFile{52,
                                   "memoryallocation",
-                                  "FileMemory",
                                   nullptr,
                                   nullptr,
                                   "u52",
@@ -30,7 +29,6 @@ constexpr auto newerOperation = "u352"_L1;
 
 QString conversionLine(const ProcedureContext& context)
 {
-    constexpr int olderGeneration = 2;
     const bool isOlder = GetFirmwareGeneration(context.values.appPath, context.boxes) == olderGeneration;
     return u"convert w%1 fMEM.dat t52.txt %2"_s.arg(
         GetModelCode(context.values), isOlder ? QLatin1String(memoryFile.importOperation) : newerOperation);

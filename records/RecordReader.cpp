@@ -7,6 +7,7 @@
 #include "platform/RuntimeFailure.h"
 #include "records/RecordLines.h"
 #include "register/FieldWidth.h"
+#include "register/Firmware.h"
 #include "register/OptionDigits.h"
 #include "register/RegisterMark.h"
 

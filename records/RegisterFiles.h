@@ -22,12 +22,11 @@ enum class EmptyTable {
     Skips, ///< no file is touched and nothing is converted
 };
 
-/// One register file. The procedures are known to users and papers by their names.
+/// One register file.
 struct RegisterFile {
     int number;
     const char* table;
-    const char* importer;        ///< name of the procedure that reads the text into the table
-    const char* exporter;        ///< name of the procedure that writes it, nullptr for none
+    const char* exporter;        ///< name of the procedure that writes the text, nullptr for none
     const char* index;           ///< order in which records are written and keys are sought, nullptr for none
     const char* importOperation; ///< what the converter is asked for, binary to text
     const char* exportOperation; ///< text to binary

@@ -1,5 +1,6 @@
 // The real serial line, on Qt's serial port; see SerialLine.h.
 #include "platform/SerialLine.h"
+
 #include "platform/Windows1252.h"
 
 #include <QSerialPort>
