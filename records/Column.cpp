@@ -11,7 +11,7 @@ ScaledColumn ScaledColumn::byLeadingNumber() const
     return with(*this, &ScaledColumn::leading, true);
 }
 
-NumberColumn NumberColumn::asItStands() const
+NumberColumn NumberColumn::withLeadingZeros() const
 {
     return with(*this, &NumberColumn::raw, true);
 }

@@ -63,7 +63,7 @@ struct NumberColumn {
     std::string tail{};    ///< sent after the number
 
     /// Read, a number is stored with its leading zeros.
-    [[nodiscard]] NumberColumn asItStands() const;
+    [[nodiscard]] NumberColumn withLeadingZeros() const;
     /// The register counts in tenths, hundredths ... of the stored number, @p places after the point.
     [[nodiscard]] ScaledColumn scaled(int places) const;
     /// A column that came out as @p usualText is sent as @p otherText instead.

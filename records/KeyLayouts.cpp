@@ -17,8 +17,8 @@ std::vector<ColumnGroup> functionKeyColumns(const std::vector<ColumnGroup>& flag
         "DISP CARD",   "PRINT CARD",  "REDEEM PNTS", "ADD HOTLIST", "DEL HOTLIST"};
     std::vector<ColumnGroup> columns{
         text(12, "DESCRIPTION").keepingMarks().withheldFrom(firstCardKey, cardTexts),
-        number(8, "HALO").asItStands(),
-        number(2, "flag1").asItStands(),
+        number(8, "HALO").withLeadingZeros(),
+        number(2, "flag1").withLeadingZeros(),
     };
     columns.insert(columns.end(), flags.begin(), flags.end());
     return columns;
@@ -38,7 +38,7 @@ const RecordLayout& functionKeyLayout()
         piece("flag2", "0000.00", 0), piece("flag2", "0000.00", 2), piece("flag2", "0000.00", -2).joinedBy("."),
     })};
     static const RecordLayout layout{"id", functionKeyColumns({
-        number(2, "flag2").asItStands(), number(2, "flag3").asItStands(), number(2, "flag4").asItStands(),
+        number(2, "flag2").withLeadingZeros(), number(2, "flag3").withLeadingZeros(), number(2, "flag4").withLeadingZeros(),
     }), {wholeNumbers, amounts}};
     return layout;
 }
@@ -55,7 +55,7 @@ const RecordLayout& keyLinkLayout()
 /// File 17.
 const RecordLayout& numberLookUpLayout()
 {
-    static const RecordLayout layout{"ID", {number(18, "NLU").asItStands()}};
+    static const RecordLayout layout{"ID", {number(18, "NLU").withLeadingZeros()}};
     return layout;
 }
 

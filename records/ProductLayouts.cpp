@@ -57,7 +57,7 @@ const RecordLayout& pluStatusLayout()
 const RecordLayout& pluLayout()
 {
     static const RecordLayout layout{"", {
-        number(18, "PLUNUMBER").asItStands(),
+        number(18, "PLUNUMBER").withLeadingZeros(),
         text(16, "DESCRIPTION"),
         number(2, "GROUPNO"),
         number(4, "PLUSTATUS"),
@@ -98,7 +98,7 @@ const RecordLayout& mixAndMatchLayout()
 const RecordLayout& pluPointsLayout()
 {
     static const RecordLayout layout{"", {
-        number(18, "PLUNUMBER").asItStands(),
+        number(18, "PLUNUMBER").withLeadingZeros(),
         numbered(5, {number(4, "POINT*")}),
     }};
     return layout;

@@ -61,7 +61,7 @@ const RecordLayout& authorityLevelLayout()
 const RecordLayout& timePeriodLayout()
 {
     static const RecordLayout layout{"id", {
-        number(4, "STARTTIME").asItStands(),
+        number(4, "STARTTIME").withLeadingZeros(),
         number(4, "ENDTIME"),
         options({{4, "ACTIVE"}}),
     }};

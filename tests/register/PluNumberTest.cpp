@@ -1,4 +1,4 @@
-// PLU numbers, and the texts that stand in their place.
+// PLU numbers, and other texts in their place.
 #include "register/PluNumber.h"
 
 #include <gtest/gtest.h>
