@@ -35,8 +35,9 @@ public:
     [[nodiscard]] virtual const StoredRow& row() const = 0;
     /// Reads the record again. @return false if it was deleted.
     virtual bool reread() = 0;
-    /// This recordset stored the record with these values.
-    virtual void rowStored(const std::vector<Value>& values) = 0;
+    /// This recordset stored the record with these values. Moves from @p values, whose content is then
+    /// undefined.
+    virtual void rowStored(std::vector<Value>& values) = 0;
     /// This recordset deleted the record.
     virtual void rowDeleted() {}
 };

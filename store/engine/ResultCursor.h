@@ -44,7 +44,7 @@ class RowsInMemory : public ResultCursor
 public:
     RowsInMemory(PreparedStatement& select, const std::vector<std::optional<FieldType>>& types);
     [[nodiscard]] qint64 count() override { return positions(); }
-    void rowStored(const std::vector<Value>&) override {}
+    void rowStored(std::vector<Value>&) override {}
 
 protected:
     [[nodiscard]] qint64 positions() const override { return static_cast<qint64>(m_rows.size()); }
@@ -62,7 +62,7 @@ public:
     /// @p select gives the row id in its last column; @p shape has the chosen fields of the table.
     RowsOfTable(Connection& connection, PreparedStatement& select, std::shared_ptr<const TableShape> shape);
     [[nodiscard]] qint64 count() override { return positions() - m_deleted; }
-    void rowStored(const std::vector<Value>& values) override { m_current.values = values; }
+    void rowStored(std::vector<Value>& values) override { m_current.values.swap(values); }
     void rowDeleted() override;
 
 protected:

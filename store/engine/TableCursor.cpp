@@ -251,11 +251,11 @@ void TableCursor::rowAdded(std::vector<Value>& values, std::int64_t rowId)
     stampNow();
 }
 
-void TableCursor::rowStored(const std::vector<Value>& values)
+void TableCursor::rowStored(std::vector<Value>& values)
 {
     const auto key = static_cast<std::size_t>(std::max(m_keyOrdinal, 0));
     const bool staysInPlace = m_keyOrdinal < 0 || m_rows[m_at].values[key] == values[key];
-    m_rows[m_at].values = values;
+    m_rows[m_at].values.swap(values);
     if (staysInPlace)
         keepReadAhead();
 }

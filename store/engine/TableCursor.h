@@ -45,7 +45,7 @@ public:
     [[nodiscard]] qint64 count() override;
     [[nodiscard]] const StoredRow& row() const override { return m_rows.at(m_at); }
     bool reread() override;
-    void rowStored(const std::vector<Value>& values) override;
+    void rowStored(std::vector<Value>& values) override;
     void rowDeleted() override;
 
 private:
