@@ -59,12 +59,17 @@ Decimal numberOf(std::string_view text)
     return *number;
 }
 
-/// Number fields take the nearest number, text fields, prices, its plain text.
-Value scaledValue(std::string_view text, const ScaledColumn& column)
+/// What the field would make of the decimal, made here: an import has no time for a second conversion.
+Value exactValue(FieldType type, const Decimal& number)
+{
+    return holdsNumbers(type) ? Value::number(number.toDouble()) : Value::text(number.text());
+}
+
+Value scaledValue(FieldType type, std::string_view text, const ScaledColumn& column)
 {
     if (column.leading)
-        return Value::decimal(Decimal::leading(text).shifted(-column.scale));
-    return Value::decimal(numberOf(text).shifted(-column.scale));
+        return exactValue(type, Decimal::leading(text).shifted(-column.scale));
+    return exactValue(type, numberOf(text).shifted(-column.scale));
 }
 
 /// @p utf8 cut to @p characters.
@@ -186,7 +191,7 @@ void RecordReader::store(const NumberColumn& column, const Step& step, std::stri
 
 void RecordReader::store(const ScaledColumn& column, const Step& step, std::string_view text)
 {
-    set(step.target, scaledValue(StripLeadingZero(text), column));
+    set(step.target, scaledValue(step.target.type, StripLeadingZero(text), column));
 }
 
 void RecordReader::store(const CodeColumn& column, const Step& step, std::string_view text)

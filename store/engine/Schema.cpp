@@ -132,7 +132,9 @@ TableShape::TableShape(TableDefinition definition)
 
 void TableShape::fillNew(std::vector<Value>& values) const
 {
-    values.assign(m_defaults.size(), Value());
+    values.resize(m_defaults.size());
+    for (Value& value : values)
+        value.data() = std::monostate();
     for (const std::size_t ordinal : m_withDefault)
         values[ordinal] = m_defaults[ordinal];
 }
