@@ -26,7 +26,7 @@ public:
 private:
     ui::WaitPointer m_pointer;
     FrmMain& m_main;
-    ui::EventTurns m_turns;
+    ui::EventTurns m_turns{std::chrono::milliseconds(0)}; ///< the window greys its menu at once
 };
 
 } // namespace norvane::shell

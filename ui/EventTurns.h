@@ -13,6 +13,12 @@ namespace norvane::ui
 class EventTurns
 {
 public:
+    /// Too short to notice, and long enough for about a thousand records.
+    static constexpr std::chrono::milliseconds between{15};
+
+    /// @param untilFirst the time from now to the first turn.
+    explicit EventTurns(std::chrono::milliseconds untilFirst) : m_next(Clock::now() + untilFirst) {}
+
     /// Whether the last turn, or the beginning of the work, is long enough ago.
     [[nodiscard]] bool isDue() const { return Clock::now() >= m_next; }
     /// Lets pending events run.
@@ -21,10 +27,7 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    /// Too short to notice, and long enough for about a thousand records.
-    static constexpr std::chrono::milliseconds between{15};
-
-    Clock::time_point m_next = Clock::now() + between;
+    Clock::time_point m_next;
 };
 
 } // namespace norvane::ui

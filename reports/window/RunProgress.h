@@ -43,7 +43,7 @@ private:
     QString m_step;
     ui::WaitPointer m_pointer;
     std::chrono::steady_clock::time_point m_boxTime;
-    ui::EventTurns m_turns;
+    ui::EventTurns m_turns{ui::EventTurns::between};
     std::unique_ptr<QProgressDialog> m_box;
     bool m_isCancelled = false;
 };
