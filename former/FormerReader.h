@@ -1,0 +1,87 @@
+// Reads a whole database of the former program, in a process of its own.
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+#include <functional>
+#include <span>
+#include <stdexcept>
+#include <string_view>
+
+namespace norvane::former
+{
+
+/// Why a former database is not taken over.
+enum class FormerProblem {
+    NotReadable, ///< there is no such file, or it may not be read
+    NotFormer,   ///< not a database of the former engine, or its first pages are damaged
+    NewerFormat, ///< of 2007 or later
+    Password,
+    NotOurs,    ///< a database of another program
+    Unreadable, ///< the reader crashed, hung or gave nonsense
+    NoReader,   ///< norvane-former is missing beside the program
+    Cancelled,
+    Changed, ///< the file changed while it was read
+};
+
+/// Ends reading or conversion; nothing was changed.
+class FormerError : public std::runtime_error
+{
+public:
+    /// @param text names the file and the reason.
+    FormerError(FormerProblem problem, const QString& text)
+        : std::runtime_error(text.toStdString()), m_problem(problem), m_text(text)
+    {
+    }
+    [[nodiscard]] FormerProblem problem() const { return m_problem; }
+    [[nodiscard]] const QString& text() const { return m_text; }
+
+private:
+    FormerProblem m_problem;
+    QString m_text;
+};
+
+/// Kinds of former fields, by what their values look like.
+enum class FieldKind { YesNo, Whole, Number, Decimal, Date, Text, Other };
+
+/// A field of a former table.
+struct FormerField {
+    QString name;
+    FieldKind kind = FieldKind::Other;
+};
+
+/// A former table as its definition says.
+struct FormerTable {
+    QString name;
+    qint64 recordCount = 0; ///< that the definition promises
+    QVector<FormerField> fields;
+};
+
+/// Receives what a former database holds, table by table.
+class FormerContents
+{
+public:
+    virtual ~FormerContents() = default;
+    virtual void setFormat(const QString& year) = 0;
+    virtual void beginTable(const FormerTable& table) = 0;
+    /// A record: the raw values of all fields (see FormerValues.h). They are valid during the call.
+    virtual void takeRow(std::span<const std::string_view> values) = 0;
+    /// @param read the records that were read, which may be fewer than the definition promises.
+    virtual void endTable(qint64 read) = 0;
+    /// The file lists a table whose definition is damaged.
+    virtual void takeUnreadableTable(const QString& name) = 0;
+};
+
+/// Asked now and then; it may handle events. @return false to cancel.
+using KeepReading = std::function<bool()>;
+
+/// Reads the file at @p path with norvane-former, which is in @p programFolder.
+/// @throws FormerError, and what @p contents throws.
+void readFormerFile(const QString& path, const QString& programFolder, FormerContents& contents,
+                    const KeepReading& keepReading = {});
+
+/// Whether the file begins as the former engine's databases do. A file that cannot be read does not.
+[[nodiscard]] bool isFormerDatabase(const QString& path);
+
+} // namespace norvane::former

@@ -1,0 +1,35 @@
+// A field of the former engine as text, with every digit that is stored.
+#pragma once
+
+#include "former/reader/Library.h"
+
+#include <string>
+#include <string_view>
+
+namespace norvane::former
+{
+
+/// A field as its table defines it.
+struct FieldShape {
+    std::string name;
+    int type = 0; ///< MDB_TEXT and so on
+    int size = 0; ///< characters of a text
+    int scale = 0;
+};
+
+/// The word for a type: "yesno", "whole", "number", "decimal", "date", "text", or "other" for pictures and
+/// the like, whose contents are not read.
+[[nodiscard]] std::string_view typeWord(int type);
+
+/// A value that is not stored.
+inline constexpr std::string_view nullText = "\\N";
+/// A value that is stored and cannot be shown: a picture, or a date outside of years 100 to 9999.
+inline constexpr std::string_view unreadableText = "\\?";
+
+/// Sets @p text to the value of @p field, which is in the file's page buffer: a yes/no as "1" or "0", whole
+/// numbers and currency with all digits, binary numbers as the shortest text that reads back as the same
+/// number, dates as "2026-11-24T18:30:00", texts in UTF-8. Tab, line ends and backslash become "\t", "\n",
+/// "\r" and "\\".
+void setFieldText(std::string& text, MdbHandle& file, const MdbField& field, const FieldShape& shape);
+
+} // namespace norvane::former
