@@ -33,6 +33,12 @@ std::span<const ExitMeaning> exitMeanings()
         {ExitCode::UnfitServer, "the database there has a later schema or another encoding"_L1},
         {ExitCode::OtherShop, "the shop was published from another folder or under another name"_L1},
         {ExitCode::Vanished, "the shop no longer has what is published; that was left as it is"_L1},
+        {ExitCode::FormerDamaged,
+         "a database of the former program is damaged or short, or would lose something"_L1},
+        {ExitCode::FormerOfAnother, "a database of the former engine belongs to another program"_L1},
+        {ExitCode::FormerTooNew,
+         "a database of the former engine has a newer format than the former program wrote"_L1},
+        {ExitCode::FormerLocked, "a database of the former engine is protected with a password"_L1},
         {ExitCode::Interrupted, "the run was stopped by SIGINT (Ctrl+C)"_L1},
         {ExitCode::Terminated, "the run was stopped by SIGTERM"_L1},
     });

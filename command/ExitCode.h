@@ -33,6 +33,10 @@ enum class ExitCode {
     UnfitServer = 13,
     OtherShop = 14,
     Vanished = 15,
+    FormerDamaged = 16,
+    FormerOfAnother = 17,
+    FormerTooNew = 18,
+    FormerLocked = 19,
     // As shells report them: 128 and the number of the signal.
     Interrupted = 130,
     Terminated = 143,

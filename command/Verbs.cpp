@@ -44,6 +44,16 @@ constexpr auto plusOptions = std::to_array<OptionDefinition>({
     {"dry-run"_L1, {}, "of an import: list what would change, and change nothing"_L1},
     separatorOption,
 });
+constexpr auto convertOptions = std::to_array<OptionDefinition>({
+    {"all"_L1, {}, "every customer whose database was made by the former program"_L1},
+    {"dry-run"_L1, {}, "look at the databases, and change nothing"_L1},
+    {"accept-losses"_L1,
+     {},
+     "convert also where records cannot be read or values do not fit; each folder has a list of them"_L1},
+});
+constexpr auto adoptOptions = std::to_array<OptionDefinition>({
+    {"accept-losses"_L1, {}, "as \"convert\" does"_L1},
+});
 constexpr auto publishOptions = std::to_array<OptionDefinition>({
     {"to"_L1, "CONNECTION"_L1, "\"host=db.example dbname=chain\" or \"postgresql://db.example/chain\""_L1},
     {"vanished"_L1, "keep|remove"_L1,
@@ -70,6 +80,10 @@ constexpr auto all = std::to_array<Verb>({
     {"copies"_L1, "CUSTOMER"_L1, 1, 1, {}, "Lists the safety copies, the latest first."_L1, listCopies},
     {"restore"_L1, "CUSTOMER COPY"_L1, 2, 2, {},
      "Restores the customer from a safety copy, after copying its current state. COPY is a name or its beginning."_L1, restore},
+    {"convert"_L1, "CUSTOMER...|--all"_L1, 0, -1, convertOptions,
+     "Converts databases of the former program, each as a whole or not at all. The old file is kept as velmar.former.mdb."_L1, convertCustomers},
+    {"adopt"_L1, "FOLDER"_L1, 1, 1, adoptOptions,
+     "Copies all customers of a former installation and converts them. FOLDER is left as it is."_L1, adoptInstallation},
     {"publish"_L1, "CUSTOMER..."_L1, 1, -1, publishOptions,
      "Copies the sales and names of shops to the PostgreSQL of their chain: days that are new or have changed."_L1, publish},
 });

@@ -19,6 +19,8 @@ void listCopies(const Workplace& workplace, const Invocation& words);
 void restore(const Workplace& workplace, const Invocation& words);
 void listBoxes(const Workplace& workplace, const Invocation& words);
 void listReports(const Workplace& workplace, const Invocation& words);
+void convertCustomers(const Workplace& workplace, const Invocation& words);
+void adoptInstallation(const Workplace& workplace, const Invocation& words);
 void publish(const Workplace& workplace, const Invocation& words);
 
 } // namespace norvane::command

@@ -107,6 +107,11 @@ ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
     switch (customers::chooseCustomer(values, values.customerName)) {
     case CustomerChoice::Damaged:
         throw CommandError(ExitCode::Unsound, customers::damageReport(values.customerPath));
+    case CustomerChoice::Former:
+        throw CommandError(
+            ExitCode::Unsound,
+            u"The database of \"%1\" was made by the former program. \"norvane-shop convert\" converts it."_s
+                .arg(name));
     case CustomerChoice::InvalidEntry:
     case CustomerChoice::Failed:
         throw none;

@@ -82,8 +82,9 @@ bool hasTemplateCopy(const QString& path, const QString& name)
 bool holdsOnlyCustomerFiles(const QString& path)
 {
     static const QStringList customerFiles{
-        databaseName, databaseName + u"-*"_s, settingsName,  unfinishedCopy,
-        u"*.dat"_s,   u"*.dat.*"_s,           u"norvane*"_s, runNotesName()};
+        databaseName,  databaseName + u"-*"_s, u"velmar.former*"_s, u"velmar.converting*"_s,
+        settingsName,  unfinishedCopy,         u"*.dat"_s,          u"*.dat.*"_s,
+        u"norvane*"_s, runNotesName()};
     const auto entries =
         QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     const auto files = QDir(path).entryList(customerFiles, QDir::Files | QDir::Hidden);
@@ -136,6 +137,8 @@ CustomerChoice takeFolder(ApplicationValues& values, const QString& path)
     if (isFilled && fillFolder(values) == CustomerChoice::Failed)
         return CustomerChoice::Failed;
     const QString database = customerDatabase(path);
+    if (store::isFormerDatabase(database))
+        return CustomerChoice::Former;
     // Each write to a damaged file makes it worse, and a later copy of it replaces the last good one.
     if (!store::damageOf(database).isEmpty())
         return CustomerChoice::Damaged;

@@ -22,6 +22,7 @@ enum class CustomerChoice {
     Taken,        ///< existing folder; its database was upgraded and completed
     NewSettings,  ///< the same, but its settings were missing and are those of the template now
     Damaged,      ///< existing folder; nothing was written to its database
+    Former,       ///< the same: its database is one of the former program (FormerCustomer.h)
     Failed,       ///< refused name or failed step; a created folder is kept
 };
 

@@ -3,9 +3,9 @@
 
 #include "platform/ChildProcess.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QProcess>
 
 #include <array>
@@ -173,16 +173,23 @@ private:
     bool m_isComplete = false;
 };
 
+/// In the program's folder, or beside the running program: a package keeps the two apart.
+QString findReader(const QString& programFolder)
+{
+    const QString found = findProgram(readerProgram, programFolder);
+    return found.isEmpty() ? findProgram(readerProgram, QCoreApplication::applicationDirPath()) : found;
+}
+
 /// Ends the reader, however the reading ends.
 class Reader
 {
 public:
     Reader(const QString& path, const QString& programFolder)
     {
-        const QString program = findProgram(readerProgram, programFolder);
+        const QString program = findReader(programFolder);
         if (program.isEmpty()) {
             fail(FormerProblem::NoReader, path,
-                 u"cannot be read: %1 is missing in the program's folder"_s.arg(readerProgram));
+                 u"cannot be read: the program %1 is missing"_s.arg(readerProgram));
         }
         m_process.setStandardErrorFile(QProcess::nullDevice());
         m_process.start(program, {path});
@@ -240,13 +247,6 @@ void readFormerFile(const QString& path, const QString& programFolder, FormerCon
     }
     if (process.exitCode() != 0 || !lines.isComplete())
         failUnreadable(path, u"the reader stopped early"_s);
-}
-
-bool isFormerDatabase(const QString& path)
-{
-    static constexpr QByteArrayView beginning("\0\1\0\0Standard ", 13);
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.read(beginning.size()) == beginning;
 }
 
 } // namespace norvane::former

@@ -76,12 +76,9 @@ public:
 /// Asked now and then; it may handle events. @return false to cancel.
 using KeepReading = std::function<bool()>;
 
-/// Reads the file at @p path with norvane-former, which is in @p programFolder.
+/// Reads the file at @p path with norvane-former, which is in @p programFolder or beside the running program.
 /// @throws FormerError, and what @p contents throws.
 void readFormerFile(const QString& path, const QString& programFolder, FormerContents& contents,
                     const KeepReading& keepReading = {});
-
-/// Whether the file begins as the former engine's databases do. A file that cannot be read does not.
-[[nodiscard]] bool isFormerDatabase(const QString& path);
 
 } // namespace norvane::former

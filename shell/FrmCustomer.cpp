@@ -2,6 +2,7 @@
 #include "shell/FrmCustomer.h"
 
 #include "customers/CustomerFolders.h"
+#include "shell/ConversionBox.h"
 #include "shell/CopyMenu.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
@@ -107,6 +108,10 @@ void FrmCustomer::takeCustomer()
     case customers::CustomerChoice::Damaged:
         m_boxes.message(customers::damageReport(m_values.customerPath), u"Damaged Database"_s,
                         BoxIcon::Critical);
+        return;
+    case customers::CustomerChoice::Former:
+        if (convertAfterQuestion(m_values.customerPath, m_values.appPath, m_boxes, this))
+            takeCustomer();
         return;
     case customers::CustomerChoice::Taken:
         return accept();

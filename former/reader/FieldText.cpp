@@ -189,7 +189,7 @@ void setFieldText(std::string& text, MdbHandle& file, const MdbField& field, con
     case MDB_MONEY:
         return setLibraryText(text, LibraryText(mdb_money_to_string(&file, field.start)));
     case MDB_NUMERIC:
-        return setLibraryText(text, LibraryText(mdb_numeric_to_string(&file, field.start, shape.scale, 0)));
+        return setLibraryText(text, LibraryText(mdb_numeric_to_string(&file, field.start, 0, shape.scale)));
     case MDB_TEXT:
         return setText(text, file, field);
     case MDB_MEMO:

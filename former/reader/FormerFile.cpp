@@ -60,6 +60,7 @@ struct FreeTable {
 };
 using Table = std::unique_ptr<MdbTableDef, FreeTable>;
 
+/// The library gives the number of places the name of the number of digits, and the other way round.
 FormerTable definitionOf(const MdbTableDef& table)
 {
     FormerTable definition{table.name, table.num_rows, {}};
@@ -67,7 +68,7 @@ FormerTable definitionOf(const MdbTableDef& table)
         const auto* const column = static_cast<const MdbColumn*>(g_ptr_array_index(table.columns, i));
         const int size = column->col_type == MDB_TEXT && !IS_JET3(table.entry->mdb) ? column->col_size / 2
                                                                                     : column->col_size;
-        definition.fields.push_back({column->name, column->col_type, size, column->col_scale});
+        definition.fields.push_back({column->name, column->col_type, size, column->col_prec});
     }
     return definition;
 }

@@ -7,6 +7,7 @@
 #include "store/engine/DatabaseFile.h"
 #include "store/engine/PreparedStatement.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -99,6 +100,13 @@ QString damageOf(const QString& path)
             failure.failure() == Failure::NotOurDatabase || failure.failure() == Failure::DeviceIo;
         return isDamage ? failure.text() : QString();
     }
+}
+
+bool isFormerDatabase(const QString& path)
+{
+    static constexpr QByteArrayView beginning("\0\1\0\0Standard ", 13);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(beginning.size()) == beginning;
 }
 
 } // namespace norvane::store

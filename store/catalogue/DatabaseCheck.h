@@ -15,4 +15,8 @@ namespace norvane::store
 /// unfinished work of a crashed program.
 [[nodiscard]] QString damageOf(const QString& path);
 
+/// Whether the file at @p path begins as the databases of the former program do. A file that cannot be read
+/// does not.
+[[nodiscard]] bool isFormerDatabase(const QString& path);
+
 } // namespace norvane::store

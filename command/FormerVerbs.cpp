@@ -1,0 +1,255 @@
+// Customers of the former program: converts their databases, and takes over a whole installation.
+#include "command/StopSignals.h"
+#include "command/TerminalBoxes.h"
+#include "command/Verbs.h"
+#include "customers/CustomerFolders.h"
+#include "customers/FormerCustomer.h"
+#include "former/ConversionReport.h"
+#include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
+#include "store/catalogue/DatabaseCheck.h"
+#include "store/engine/Database.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::command
+{
+namespace
+{
+
+constexpr auto acceptLosses = "accept-losses"_L1;
+
+ExitCode codeOf(former::FormerProblem problem)
+{
+    switch (problem) {
+    case former::FormerProblem::NotOurs:
+        return ExitCode::FormerOfAnother;
+    case former::FormerProblem::NewerFormat:
+        return ExitCode::FormerTooNew;
+    case former::FormerProblem::Password:
+        return ExitCode::FormerLocked;
+    case former::FormerProblem::NotFormer:
+    case former::FormerProblem::Unreadable:
+        return ExitCode::FormerDamaged;
+    case former::FormerProblem::Cancelled:
+        return ExitCode::Stopped;
+    case former::FormerProblem::NotReadable:
+    case former::FormerProblem::NoReader:
+    case former::FormerProblem::Changed:
+        break;
+    }
+    return ExitCode::Failed;
+}
+
+/// Whether the file opens as a database of ours.
+bool isOurs(const QString& database)
+{
+    try {
+        const store::Database opened(database);
+        return true;
+    } catch (const RuntimeFailure&) {
+        return false;
+    }
+}
+
+/// Converts one folder after the other and lists how each ended.
+class ConversionRun
+{
+public:
+    ConversionRun(const Workplace& workplace, const Invocation& words)
+        : m_workplace(workplace), m_isDryRun(words.has("dry-run"_L1))
+    {
+        catchStopSignals();
+    }
+
+    /// A folder that cannot be converted is left as it was, and the next one is taken.
+    void convert(const QString& name, const QString& folder)
+    {
+        stopIfSignalled();
+        try {
+            takeFolder(name, folder);
+        } catch (const former::FormerError& error) {
+            note(name, codeOf(error.problem()), error.text());
+        } catch (const RuntimeFailure& failure) {
+            if (failure.failure() == Failure::UserInterrupt)
+                throw;
+            note(name, command::codeOf(failure), failure.text());
+        }
+    }
+    void note(const QString& name, ExitCode code, const QString& text)
+    {
+        addRow(name, u"not converted"_s, {}, text);
+        if (m_code == ExitCode::Done)
+            m_code = code;
+    }
+    /// @throws CommandError with the code of the first that was not converted.
+    void end() const
+    {
+        m_workplace.show(m_listing);
+        if (m_code != ExitCode::Done)
+            throw CommandError(m_code, {});
+    }
+
+private:
+    void takeFolder(const QString& name, const QString& folder)
+    {
+        const QString database = customers::customerDatabase(folder);
+        if (isOurs(database)) {
+            addRow(name, u"nothing to do"_s, {}, {});
+        } else if (m_isDryRun) {
+            look(name, former::examine(database, m_workplace.appPath, goOn));
+        } else {
+            convertFolder(name, folder);
+        }
+    }
+
+    void look(const QString& name, const former::Examination& found)
+    {
+        const QStringList losses = former::lossesInWords(found);
+        addRow(name, losses.isEmpty() ? u"can be converted"_s : u"would lose something"_s, found.recordCount,
+               losses.join(u' '));
+        if (!losses.isEmpty() && m_code == ExitCode::Done)
+            m_code = ExitCode::FormerDamaged;
+    }
+
+    void convertFolder(const QString& name, const QString& folder)
+    {
+        QString refused;
+        const customers::ConversionWatch watch{
+            goOn, [&](const former::Examination& found) { return accepts(found, refused); },
+            [](qint64, qint64) {
+                return goOn();
+            }};
+        try {
+            const auto done =
+                customers::convertCustomer(folder, m_workplace.appPath, m_workplace.boxes, watch);
+            addRow(name, u"converted"_s, done.records, leftOutInWords(done));
+        } catch (const former::FormerError& error) {
+            if (refused.isEmpty())
+                throw;
+            note(name, ExitCode::FormerDamaged, refused);
+        }
+    }
+
+    /// What would be lost is accepted by an option alone. Sets @p refused to it otherwise.
+    bool accepts(const former::Examination& found, QString& refused)
+    {
+        const QStringList losses = former::lossesInWords(found);
+        const QString question = u"Not everything in it can be kept:\r%1\r\rConvert it all the same?"_s;
+        if (losses.isEmpty() ||
+            askBeforeLoss(m_workplace.boxes, question.arg(losses.join(u'\r')), acceptLosses))
+            return true;
+        refused = losses.join(u' ');
+        return false;
+    }
+
+    static bool goOn()
+    {
+        stopIfSignalled();
+        return true;
+    }
+
+    static QString leftOutInWords(const former::Converted& done)
+    {
+        return done.leftOut.isEmpty()
+                   ? QString()
+                   : u"%1 records left out, see %2"_s.arg(done.leftOut.size()).arg(done.reportFile);
+    }
+
+    void addRow(const QString& name, const QString& result, const QVariant& records, const QString& note)
+    {
+        tellStep(u"%1: %2"_s.arg(name, result));
+        m_listing.add({name, result, records, note});
+    }
+
+    const Workplace& m_workplace;
+    Listing m_listing{{u"Name"_s, u"Result"_s, u"Records"_s, u"Note"_s}};
+    ExitCode m_code = ExitCode::Done;
+    bool m_isDryRun;
+};
+
+/// The folders of the program whose database was made by the former program.
+QStringList formerCustomers(const QString& appPath)
+{
+    QStringList names;
+    const QDir folder(appPath);
+    for (const QString& name :
+         folder.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
+        if (store::isFormerDatabase(customers::customerDatabase(folder.filePath(name))))
+            names << name;
+    }
+    return names;
+}
+
+/// Files of a former customer in the order in which they are copied: after a copy that was cut off, what is
+/// missing is not taken for a new customer's.
+QStringList filesToCopy(const QDir& customer)
+{
+    QStringList files = customer.entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    files.removeIf([](const QString& name) { return name.endsWith(".ldb"_L1, Qt::CaseInsensitive); });
+    const QString database = QFileInfo(customers::customerDatabase(customer.path())).fileName();
+    files.removeOne(database);
+    files.prepend(database);
+    return files;
+}
+
+/// @return what could not be copied; empty on success.
+QString copyCustomer(const QDir& from, const QString& to)
+{
+    if (!QDir().mkpath(to))
+        return to;
+    for (const QString& name : filesToCopy(from)) {
+        stopIfSignalled();
+        const QString copy =
+            joinPath(to, name.compare("velmar.mdb"_L1, Qt::CaseInsensitive) == 0 ? u"velmar.mdb"_s : name);
+        if (!QFile::copy(from.filePath(name), copy))
+            return copy;
+        QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
+    }
+    return {};
+}
+
+} // namespace
+
+void convertCustomers(const Workplace& workplace, const Invocation& words)
+{
+    const bool isAll = words.has("all"_L1);
+    if (isAll == !words.operands.isEmpty())
+        throw CommandError(ExitCode::Usage, u"Name customers, or all of them with --all."_s);
+    ConversionRun run(workplace, words);
+    for (const QString& name : isAll ? formerCustomers(workplace.appPath) : words.operands) {
+        const ApplicationValues values = findCustomer(workplace, name);
+        run.convert(values.customerName, values.customerPath);
+    }
+    run.end();
+}
+
+void adoptInstallation(const Workplace& workplace, const Invocation& words)
+{
+    const QDir installation(workplace.userFile(words.operands.front()));
+    if (!installation.exists())
+        throw CommandError(ExitCode::BadFile, u"There is no folder %1."_s.arg(installation.path()));
+    ConversionRun run(workplace, words);
+    for (const QString& name : formerCustomers(installation.path())) {
+        const QString folder = joinPath(workplace.appPath, name);
+        if (pathExists(folder)) {
+            run.note(name, ExitCode::BadFile, u"There is a customer of this name already."_s);
+            continue;
+        }
+        const QString failed = copyCustomer(QDir(installation.filePath(name)), folder);
+        if (failed.isEmpty()) {
+            run.convert(name, folder);
+        } else {
+            QDir(folder).removeRecursively();
+            run.note(name, ExitCode::Unwritable,
+                     u"%1 cannot be written."_s.arg(QDir::toNativeSeparators(failed)));
+        }
+    }
+    run.end();
+}
+
+} // namespace norvane::command
