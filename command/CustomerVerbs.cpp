@@ -10,6 +10,7 @@
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/Catalogue.h"
+#include "store/catalogue/DatabaseCheck.h"
 #include "store/catalogue/SalesTables.h"
 #include "store/engine/BoundQuery.h"
 
@@ -65,11 +66,14 @@ QVariant salesInWords(const QString& database)
     }
 }
 
-/// Why no command takes a customer of this name; empty when commands do.
+/// Why no command takes a customer of this name, or what it needs first; empty when commands do.
 QString noteOn(const Workplace& workplace, const QString& name)
 {
-    return customers::foldersNamed(workplace.appPath, name).isEmpty()
-               ? u"rename the folder: no command takes its name"_s
+    const QStringList folders = customers::foldersNamed(workplace.appPath, name);
+    if (folders.isEmpty())
+        return u"rename the folder: no command takes its name"_s;
+    return store::isFormerDatabase(customers::customerDatabase(folders.front()))
+               ? u"made by the former program: convert it"_s
                : QString();
 }
 

@@ -27,6 +27,12 @@ QString shownCount(qint64 count)
     return QLocale().toString(count);
 }
 
+/// "1 record", "2,300 records".
+QString counted(qint64 count, QLatin1StringView word)
+{
+    return shownCount(count) + u' ' + word + (count == 1 ? u""_s : u"s"_s);
+}
+
 QString shortTableInWords(const ShortTable& table)
 {
     if (table.promised < 0)
@@ -84,8 +90,8 @@ void addPart(QStringList& report, const QString& heading, const QStringList& lin
 
 QStringList findingsInWords(const Examination& found)
 {
-    QStringList lines{u"Format of %1, %2 tables, %3 records"_s.arg(
-        found.format, shownCount(found.tables.size()), shownCount(found.recordCount))};
+    QStringList lines{u"Format of %1, %2, %3"_s.arg(found.format, counted(found.tables.size(), "table"_L1),
+                                                    counted(found.recordCount, "record"_L1))};
     if (found.firstSales.isValid()) {
         const QLocale locale;
         lines << u"Sales from %1 to %2"_s.arg(locale.toString(found.firstSales, QLocale::ShortFormat),
@@ -132,7 +138,7 @@ QString writeConversionReport(const QString& customerPath, const Examination& fo
     report += findingsInWords(found);
     QStringList tables;
     for (const FoundTable& table : found.tables)
-        tables << u"%1: %2 records"_s.arg(table.name).arg(table.records);
+        tables << u"%1: %2"_s.arg(table.name, counted(table.records, "record"_L1));
     addPart(report, u"Tables"_s, tables);
     addPart(report, u"Records that could not be read"_s, missingInWords(found));
     QStringList unfit = unfitInWords(found);

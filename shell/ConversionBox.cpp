@@ -73,11 +73,10 @@ void tellOfLeftOut(const former::Converted& done, Boxes& boxes)
 {
     if (done.leftOut.isEmpty())
         return;
-    boxes.message(
-        u"%1 records were left out: their keys were there already, or they had none.\r\rSee %2 in the "
-        "customer's folder."_s.arg(done.leftOut.size())
-            .arg(done.reportFile),
-        failureTitle, BoxIcon::Exclamation);
+    boxes.message(u"Left out: %1 records whose key was there already, or that had none.\r\rSee %2 in the "
+                  "customer's folder."_s.arg(done.leftOut.size())
+                      .arg(done.reportFile),
+                  failureTitle, BoxIcon::Exclamation);
 }
 
 } // namespace
