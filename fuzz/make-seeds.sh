@@ -13,7 +13,7 @@ trap 'rm -rf "$work"' EXIT
 export ASAN_OPTIONS=detect_leaks=0
 
 rm -rf "$seeds"
-mkdir -p "$seeds"/{records,procedures,poll,status,profile,screens,layouts,formulas,overlay,plufile}
+mkdir -p "$seeds"/{records,procedures,poll,status,profile,screens,layouts,formulas,overlay,plufile,former}
 
 byte() { printf "\\x$(printf %02x "$1")"; }
 
@@ -87,6 +87,11 @@ done
 
 printf 'Number,Description,Group,Status,Price 1\r\n17,"Tea, black",1,1,2.50\r\n018,Coffee,2,1,3\r\n' > "$seeds/plufile/commas"
 printf '\xef\xbb\xbfPLU report;;\r\nNumber;Price 2;Description\r\n17;2,50;"said ""tea"""\r\n17;1;\r\n;;\r\n' > "$seeds/plufile/semicolons"
+
+# A record, the head of the file, a definition.
+printf '\003\017\360\101' > "$seeds/former/record"
+printf '\000\000\024\002' > "$seeds/former/version"
+printf '\003\000\055\377\003\000\105\014' > "$seeds/former/definition"
 
 # Words from which formulas, report files and screens are made.
 dictionary() { tr -d '\r' | sort -u | sed 's/.*/"&"/' > "$seeds/$1.dict"; }

@@ -1,0 +1,69 @@
+// Databases of the former program. Input: changes to a whole small one, four bytes each: the page, the place in
+// it (two bytes) and the new byte. The real reader reads it in a process of its own.
+#include "former/Conversion.h"
+#include "former/ConversionReport.h"
+#include "fuzz/Target.h"
+#include "tests/support/FormerWriter.h"
+
+#include <QFile>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::fuzz
+{
+namespace
+{
+
+using test::FormerType, test::FormerWriter;
+
+const QByteArray& wholeDatabase()
+{
+    static const QByteArray database = [] {
+        FormerWriter writer;
+        writer.add({u"PLUDATA"_s,
+                    {{u"PLUNUMBER"_s, FormerType::Text, 18},
+                     {u"DESCRIPTION"_s, FormerType::Memo},
+                     {u"GROUPNO"_s, FormerType::Integer},
+                     {u"INactive"_s, FormerType::YesNo},
+                     {u"STOCKLINK"_s, FormerType::Double},
+                     {u"PRICE1"_s, FormerType::Currency},
+                     {u"PRICE2"_s, FormerType::Numeric, 2}},
+                    {{u"000000000000001001"_s, u"Tea"_s, 1, true, 5.0, 12500, u"1.25"_s},
+                     {u"000000000000001002"_s, u"Crème"_s, 2, false, QVariant(), 0, u"-3.10"_s}}});
+        return writer.content();
+    }();
+    return database;
+}
+
+QByteArray changed(std::string_view input)
+{
+    QByteArray database = wholeDatabase();
+    while (input.size() >= 4) {
+        const qsizetype page = takeByte(input);
+        const qsizetype high = takeByte(input);
+        const qsizetype place = page * 4096 + (high * 256 + takeByte(input)) % 4096;
+        const char byte = static_cast<char>(takeByte(input));
+        if (place < database.size())
+            database[place] = byte;
+    }
+    return database;
+}
+
+} // namespace
+
+void tryInput(std::string_view input)
+{
+    const QString path = scratchFile(u"velmar.mdb"_s, changed(input).toStdString());
+    try {
+        const auto found = former::examine(path, QStringLiteral(READER_FOLDER));
+        require(!former::conversionQuestion(found).isEmpty(), "there is a question");
+        (void)former::convertDatabase(scratchFolder(), QStringLiteral(READER_FOLDER), found);
+    } catch (const former::FormerError& error) {
+        require(error.problem() != former::FormerProblem::Changed, "the second reading finds what the first did");
+        require(!error.text().isEmpty(), "a refusal says why");
+    }
+    for (const char* made : {"velmar.mdb", "velmar.former.mdb", "norvane-conversion.txt"})
+        QFile::remove(scratchFolder() + u'/' + QLatin1StringView(made));
+}
+
+} // namespace norvane::fuzz
