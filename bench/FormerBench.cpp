@@ -1,5 +1,5 @@
-// Converting a year of sales of the former program beside the least that could do it: mdb-export writes the same
-// table to a file, and a loop binds as many rows into one prepared insert.
+// Converting a year of sales of the former program beside the least that could do it: mdb-export writes the
+// same table to a file, and a loop binds as many rows into one prepared insert.
 #include "bench/BareDatabase.h"
 #include "bench/Ratio.h"
 #include "former/Conversion.h"
@@ -28,17 +28,16 @@ constexpr int days = 397;
 
 QByteArray yearOfSales()
 {
-    test::FormerRows sales{u"PLUSALES"_s,
-                           {{u"ID"_s, FormerType::Text, 18}, {u"SALESDATE"_s, FormerType::Date}},
-                           {}};
+    test::FormerRows sales{
+        u"PLUSALES"_s, {{u"ID"_s, FormerType::Text, 18}, {u"SALESDATE"_s, FormerType::Date}}, {}};
     for (const char* name : {"PROMO", "WASTE", "COUNT1", "VALUE1", "COUNT2", "VALUE2", "COUNT3", "VALUE3"})
         sales.columns.append({QString::fromLatin1(name), FormerType::Double});
     for (int day = 0; day < days; ++day) {
         const QDateTime date(QDate(2025, 10, 24).addDays(day), QTime(0, 0));
         for (int plu = 0; plu < plusPerDay; ++plu) {
             const double count = (day * 31 + plu) % 200;
-            sales.rows.append({u"%1"_s.arg(1000 + plu, 18, 10, QChar(u'0')), date, 0.0, 0.0, count, count * 2.35, 0.0, 0.0,
-                               1.0, 2.6});
+            sales.rows.append({u"%1"_s.arg(1000 + plu, 18, 10, QChar(u'0')), date, 0.0, 0.0, count,
+                               count * 2.35, 0.0, 0.0, 1.0, 2.6});
         }
     }
     FormerWriter writer;
@@ -89,7 +88,8 @@ void convertYearOfSales(benchmark::State& state)
             QProcess exporter;
             exporter.setStandardOutputFile(folder.filePath(u"export.csv"_s));
             exporter.start(u"mdb-export"_s, {path, u"PLUSALES"_s});
-            require(exporter.waitForFinished(-1) && exporter.exitCode() == 0, "mdb-export (package mdbtools)");
+            require(exporter.waitForFinished(-1) && exporter.exitCode() == 0,
+                    "mdb-export (package mdbtools)");
             insertBare(folder.filePath(u"bare.mdb"_s));
         });
 }

@@ -1,5 +1,5 @@
-// Databases of the former program. Input: changes to a whole small one, four bytes each: the page, the place in
-// it (two bytes) and the new byte. The real reader reads it in a process of its own.
+// Databases of the former program. Input: changes to a whole small one, four bytes each: the page, the place
+// in it (two bytes) and the new byte. The real reader reads it in a process of its own.
 #include "former/Conversion.h"
 #include "former/ConversionReport.h"
 #include "fuzz/Target.h"
@@ -59,7 +59,8 @@ void tryInput(std::string_view input)
         require(!former::conversionQuestion(found).isEmpty(), "there is a question");
         (void)former::convertDatabase(scratchFolder(), QStringLiteral(READER_FOLDER), found);
     } catch (const former::FormerError& error) {
-        require(error.problem() != former::FormerProblem::Changed, "the second reading finds what the first did");
+        require(error.problem() != former::FormerProblem::Changed,
+                "the second reading finds what the first did");
         require(!error.text().isEmpty(), "a refusal says why");
     }
     for (const char* made : {"velmar.mdb", "velmar.former.mdb", "norvane-conversion.txt"})
