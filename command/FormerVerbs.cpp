@@ -23,7 +23,7 @@ namespace
 
 constexpr auto acceptLosses = "accept-losses"_L1;
 
-ExitCode codeOf(former::FormerProblem problem)
+ExitCode exitCodeOf(former::FormerProblem problem)
 {
     switch (problem) {
     case former::FormerProblem::NotOurs:
@@ -73,11 +73,11 @@ public:
         try {
             takeFolder(name, folder);
         } catch (const former::FormerError& error) {
-            note(name, codeOf(error.problem()), error.text());
+            note(name, exitCodeOf(error.problem()), error.text());
         } catch (const RuntimeFailure& failure) {
             if (failure.failure() == Failure::UserInterrupt)
                 throw;
-            note(name, command::codeOf(failure), failure.text());
+            note(name, codeOf(failure), failure.text());
         }
     }
     void note(const QString& name, ExitCode code, const QString& text)
@@ -162,7 +162,7 @@ private:
 
     void addRow(const QString& name, const QString& result, const QVariant& records, const QString& note)
     {
-        tellStep(u"%1: %2"_s.arg(name, result));
+        printStep(u"%1: %2"_s.arg(name, result));
         m_listing.add({name, result, records, note});
     }
 

@@ -26,7 +26,7 @@ former::Converted convertCustomer(const QString& customerPath, const QString& pr
     if (lock == nullptr)
         cancel();
     const former::Examination found =
-        former::examine(customerDatabase(customerPath), programFolder, watch.keepReading);
+        former::examine(customerDatabase(customerPath), programFolder, watch.keepGoing);
     if (!watch.accepts(found))
         cancel();
     LoggedWork work(customerPath, u"conversion"_s);

@@ -12,7 +12,7 @@ namespace norvane::customers
 /// Who watches a conversion, and decides about it.
 struct ConversionWatch {
     /// Called while the former database is looked through. @return false to cancel.
-    former::KeepReading keepReading;
+    KeepGoing keepGoing;
     /// Asked once it is known what the database holds. @return false to leave it as it is.
     std::function<bool(const former::Examination& found)> accepts;
     /// Called with the records stored and all that there are. @return false to cancel.

@@ -6,6 +6,7 @@
 #include "former/TablePlan.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
+#include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 #include "store/sales/RowAppend.h"
@@ -42,7 +43,7 @@ const auto unfinishedName = u"velmar.converting"_s;
 class Storing : public FormerContents
 {
 public:
-    Storing(Database& database, const store::Transaction& open, Converted& done)
+    Storing(Database& database, const store::CommitOnExit& open, Converted& done)
         : m_database(database), m_open(open), m_done(done)
     {
     }
@@ -107,7 +108,7 @@ private:
     }
 
     Database& m_database;
-    const store::Transaction& m_open;
+    const store::CommitOnExit& m_open;
     Converted& m_done;
     TablePlans m_plans;
     TablePlan m_plan;
@@ -125,7 +126,7 @@ Converted storeAll(const QString& from, const QString& to, const QString& progra
     Converted done;
     Database::create(to, {});
     Database database(to);
-    store::Transaction transaction(database);
+    store::CommitOnExit transaction(database);
     Storing storing(database, transaction, done);
     readFormerFile(from, programFolder, storing,
                    [&] { return !progress || progress(done.records + done.leftOut.size()); });

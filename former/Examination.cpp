@@ -112,11 +112,11 @@ private:
 
 } // namespace
 
-Examination examine(const QString& path, const QString& programFolder, const KeepReading& keepReading)
+Examination examine(const QString& path, const QString& programFolder, const KeepGoing& keepGoing)
 {
     const auto begun = std::chrono::steady_clock::now();
     Examiner examiner;
-    readFormerFile(path, programFolder, examiner, keepReading);
+    readFormerFile(path, programFolder, examiner, keepGoing);
     Examination& found = examiner.found();
     found.readingTime =
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - begun);

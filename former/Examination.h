@@ -56,6 +56,6 @@ inline constexpr qsizetype mostUnfitValues = 1000;
 /// Reads the database at @p path.
 /// @throws FormerError, also FormerProblem::NotOurs for a file without a table of PLUs.
 [[nodiscard]] Examination examine(const QString& path, const QString& programFolder,
-                                  const KeepReading& keepReading = {});
+                                  const KeepGoing& keepGoing = {});
 
 } // namespace norvane::former

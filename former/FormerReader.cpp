@@ -212,7 +212,7 @@ private:
     QProcess m_process;
 };
 
-void readAll(QProcess& process, const QString& path, Lines& lines, const KeepReading& keepReading)
+void readAll(QProcess& process, const QString& path, Lines& lines, const KeepGoing& keepGoing)
 {
     QElapsedTimer silence;
     silence.start();
@@ -224,7 +224,7 @@ void readAll(QProcess& process, const QString& path, Lines& lines, const KeepRea
         }
         if (silence.elapsed() > mostSilentMilliseconds)
             failUnreadable(path, u"the reader hangs"_s);
-        if (keepReading && !keepReading())
+        if (keepGoing && !keepGoing())
             throw FormerError(FormerProblem::Cancelled, u"The conversion was cancelled."_s);
     }
     lines.take(process.readAllStandardOutput());
@@ -233,12 +233,12 @@ void readAll(QProcess& process, const QString& path, Lines& lines, const KeepRea
 } // namespace
 
 void readFormerFile(const QString& path, const QString& programFolder, FormerContents& contents,
-                    const KeepReading& keepReading)
+                    const KeepGoing& keepGoing)
 {
     Reader reader(path, programFolder);
     QProcess& process = reader.process();
     Lines lines(path, contents);
-    readAll(process, path, lines, keepReading);
+    readAll(process, path, lines, keepGoing);
     if (process.exitStatus() != QProcess::NormalExit)
         failUnreadable(path, u"the reader crashed"_s);
     for (const Refusal& refusal : refusals) {

@@ -1,12 +1,13 @@
 // Reads a whole database of the former program, in a process of its own.
 #pragma once
 
+#include "platform/KeepGoing.h"
+#include "platform/TextError.h"
+
 #include <QString>
 #include <QVector>
 
-#include <functional>
 #include <span>
-#include <stdexcept>
 #include <string_view>
 
 namespace norvane::former
@@ -26,20 +27,15 @@ enum class FormerProblem {
 };
 
 /// Ends reading or conversion; nothing was changed.
-class FormerError : public std::runtime_error
+class FormerError : public TextError
 {
 public:
     /// @param text names the file and the reason.
-    FormerError(FormerProblem problem, const QString& text)
-        : std::runtime_error(text.toStdString()), m_problem(problem), m_text(text)
-    {
-    }
+    FormerError(FormerProblem problem, const QString& text) : TextError(text), m_problem(problem) {}
     [[nodiscard]] FormerProblem problem() const { return m_problem; }
-    [[nodiscard]] const QString& text() const { return m_text; }
 
 private:
     FormerProblem m_problem;
-    QString m_text;
 };
 
 /// Kinds of former fields, by what their values look like.
@@ -73,12 +69,9 @@ public:
     virtual void takeUnreadableTable(const QString& name) = 0;
 };
 
-/// Asked now and then; it may handle events. @return false to cancel.
-using KeepReading = std::function<bool()>;
-
 /// Reads the file at @p path with norvane-former, which is in @p programFolder or beside the running program.
 /// @throws FormerError, and what @p contents throws.
 void readFormerFile(const QString& path, const QString& programFolder, FormerContents& contents,
-                    const KeepReading& keepReading = {});
+                    const KeepGoing& keepGoing = {});
 
 } // namespace norvane::former

@@ -83,9 +83,9 @@ Loss setNumber(Value& value, double number, FieldType type)
     if (!isExactIn(number, type))
         return Loss::Emptied;
     if (number == std::trunc(number) && std::abs(number) <= largestExactWhole) {
-        value.setWhole(static_cast<std::int64_t>(number));
+        value = Value::whole(static_cast<std::int64_t>(number));
     } else {
-        value.setNumber(number);
+        value = Value::number(number);
     }
     return Loss::None;
 }
@@ -100,10 +100,10 @@ Loss setRaw(Value& value, std::string_view raw, FieldKind kind, FieldType type)
 {
     switch (kind) {
     case FieldKind::YesNo:
-        value.setYesNo(raw == "1");
+        value = Value::yesNo(raw == "1");
         return Loss::None;
     case FieldKind::Whole:
-        value.setWhole(numberOf<std::int64_t>(raw));
+        value = Value::whole(numberOf<std::int64_t>(raw));
         return Loss::None;
     case FieldKind::Number:
         return setNumber(value, numberOf<double>(raw), type);
@@ -143,12 +143,12 @@ void cutText(Value& value, int size)
 Loss convertValue(Value& value, std::string_view raw, FieldKind kind, const FieldDefinition& field,
                   const QString& table)
 {
-    value.setNull();
+    value = Value();
     if (raw == nullText)
         return Loss::None;
     Loss loss = raw == unreadableText ? Loss::Emptied : setRaw(value, raw, kind, field.type);
     if (loss == Loss::Emptied) {
-        value.setNull();
+        value = Value();
         return loss;
     }
     try {
@@ -158,7 +158,7 @@ Loss convertValue(Value& value, std::string_view raw, FieldKind kind, const Fiel
             loss = Loss::Cut;
     } catch (const RuntimeFailure& failure) {
         if (failure.failure() != Failure::TextTooLong) {
-            value.setNull();
+            value = Value();
             return Loss::Emptied;
         }
         cutText(value, field.size);
