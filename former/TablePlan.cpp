@@ -42,6 +42,8 @@ bool TablePlans::plan(TablePlan& plan, const FormerTable& table)
     m_planned.insert(known->name);
     plan.table.name = known->name;
     planFields(plan, table, *known);
+    if (plan.table.fields.isEmpty())
+        return false;
     if (store::fieldNamed(plan.table, known->searchedField) != nullptr)
         plan.table.searchedField = known->searchedField;
     for (const auto& index : known->indexes) {

@@ -25,7 +25,8 @@ struct TablePlan {
 class TablePlans
 {
 public:
-    /// @return false for a table that the catalogue does not know, or that the file has twice.
+    /// @return false for a table that the catalogue does not know, that the file has twice, or without a
+    /// known field.
     [[nodiscard]] bool plan(TablePlan& plan, const FormerTable& table);
 
 private:

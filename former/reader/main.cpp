@@ -25,12 +25,22 @@ using namespace norvane::former;
 constexpr rlim_t mostMemory = rlim_t{1} << 30;
 constexpr rlim_t mostSeconds = 600;
 
+// AddressSanitizer takes terabytes of addresses for itself.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool limitsMemory = false;
+#elif defined(__has_feature)
+constexpr bool limitsMemory = !__has_feature(address_sanitizer);
+#else
+constexpr bool limitsMemory = true;
+#endif
+
 void limitThisProcess()
 {
-    for (const auto& [what, most] : {std::pair{RLIMIT_AS, mostMemory}, std::pair{RLIMIT_CPU, mostSeconds}}) {
-        const rlimit limit{most, most};
-        setrlimit(what, &limit);
-    }
+    const rlimit time{mostSeconds, mostSeconds};
+    setrlimit(RLIMIT_CPU, &time);
+    const rlimit memory{mostMemory, mostMemory};
+    if (limitsMemory)
+        setrlimit(RLIMIT_AS, &memory);
 }
 
 /// Lines for the parent. The library may print what it likes to standard output, so it gets none.
