@@ -161,7 +161,7 @@ std::string_view typeWord(int type)
 void setFieldText(std::string& text, MdbHandle& file, const MdbField& field, const FieldShape& shape)
 {
     if (shape.type == MDB_BOOL) {
-        text = field.is_null != 0 ? "0" : "1";
+        text.assign(1, field.is_null != 0 ? '0' : '1');
         return;
     }
     if (field.is_null != 0) {
