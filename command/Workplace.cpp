@@ -9,6 +9,7 @@
 #include "customers/SafetyCopies.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
+#include "store/catalogue/Upgrade.h"
 #include "store/engine/Database.h"
 
 #include <QDir>
@@ -95,10 +96,13 @@ ApplicationValues findCustomer(const Workplace& workplace, const QString& name)
     return values;
 }
 
-ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
+namespace
+{
+
+/// @throws CommandError when the customer cannot be used.
+void choose(const Workplace& workplace, ApplicationValues& values, const QString& name)
 {
     using customers::CustomerChoice;
-    ApplicationValues values = findCustomer(workplace, name);
     const CommandError none(ExitCode::NoCustomer,
                             u"The customer \"%1\" has no database %2."_s.arg(name, values.databasePath));
     // Choosing a missing customer would create it.
@@ -122,7 +126,17 @@ ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
     case CustomerChoice::Taken:
         break;
     }
+}
+
+} // namespace
+
+ApplicationValues takeCustomer(const Workplace& workplace, const QString& name)
+{
+    ApplicationValues values = findCustomer(workplace, name);
+    choose(workplace, values, name);
     checkOpens(values.databasePath);
+    // As the window does at its start.
+    store::UpgradeUnitDescription(values.databasePath);
     return values;
 }
 

@@ -136,6 +136,13 @@ void paintFocus(QPainter& painter, const QRectF& place, const QPalette& palette)
     painter.restore();
 }
 
+void drawArrow(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter)
+{
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    const auto group = isEnabled ? QPalette::Active : QPalette::Disabled;
+    paintArrow(painter, option.rect, turnOf(element), option.palette.color(group, QPalette::ButtonText));
+}
+
 } // namespace
 
 bool isDark(const QPalette& palette)
@@ -151,12 +158,8 @@ void FormStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     const auto drawBase = [&](const QStyleOption& drawn) {
         QProxyStyle::drawPrimitive(element, &drawn, painter, widget);
     };
-    if (isArrow(element)) {
-        const bool isEnabled = option->state.testFlag(State_Enabled);
-        const auto group = isEnabled ? QPalette::Active : QPalette::Disabled;
-        return paintArrow(*painter, option->rect, turnOf(element),
-                          option->palette.color(group, QPalette::ButtonText));
-    }
+    if (isArrow(element))
+        return drawArrow(element, *option, *painter);
     switch (element) {
     case PE_IndicatorCheckBox:
     case PE_IndicatorRadioButton:

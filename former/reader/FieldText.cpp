@@ -131,6 +131,31 @@ int fixedWidth(int type)
     }
 }
 
+/// A value of a fixed width that begins at @p start of the page.
+void setFixedValue(std::string& text, MdbHandle& file, int start, const FieldShape& shape)
+{
+    switch (shape.type) {
+    case MDB_BYTE:
+        return setNumber(text, static_cast<int>(mdb_get_byte(file.pg_buf, start)));
+    case MDB_INT:
+        return setNumber(text, static_cast<std::int16_t>(mdb_get_int16(file.pg_buf, start)));
+    case MDB_LONGINT:
+        return setNumber(text, static_cast<std::int32_t>(mdb_get_int32(file.pg_buf, start)));
+    case MDB_FLOAT:
+        return setBinaryNumber(text, mdb_get_single(file.pg_buf, start));
+    case MDB_DOUBLE:
+        return setBinaryNumber(text, mdb_get_double(file.pg_buf, start));
+    case MDB_DATETIME:
+        return setDate(text, mdb_get_double(file.pg_buf, start));
+    case MDB_MONEY:
+        return setLibraryText(text, LibraryText(mdb_money_to_string(&file, start)));
+    case MDB_NUMERIC:
+        return setLibraryText(text, LibraryText(mdb_numeric_to_string(&file, start, 0, shape.scale)));
+    default:
+        text = unreadableText;
+    }
+}
+
 } // namespace
 
 std::string_view typeWord(int type)
@@ -174,29 +199,13 @@ void setFieldText(std::string& text, MdbHandle& file, const MdbField& field, con
         return;
     }
     switch (shape.type) {
-    case MDB_BYTE:
-        return setNumber(text, static_cast<int>(mdb_get_byte(file.pg_buf, field.start)));
-    case MDB_INT:
-        return setNumber(text, static_cast<std::int16_t>(mdb_get_int16(file.pg_buf, field.start)));
-    case MDB_LONGINT:
-        return setNumber(text, static_cast<std::int32_t>(mdb_get_int32(file.pg_buf, field.start)));
-    case MDB_FLOAT:
-        return setBinaryNumber(text, mdb_get_single(file.pg_buf, field.start));
-    case MDB_DOUBLE:
-        return setBinaryNumber(text, mdb_get_double(file.pg_buf, field.start));
-    case MDB_DATETIME:
-        return setDate(text, mdb_get_double(file.pg_buf, field.start));
-    case MDB_MONEY:
-        return setLibraryText(text, LibraryText(mdb_money_to_string(&file, field.start)));
-    case MDB_NUMERIC:
-        return setLibraryText(text, LibraryText(mdb_numeric_to_string(&file, field.start, 0, shape.scale)));
     case MDB_TEXT:
         return setText(text, file, field);
     case MDB_MEMO:
         return setLibraryText(
             text, LibraryText(mdb_col_to_string(&file, file.pg_buf, field.start, MDB_MEMO, field.siz)));
     default:
-        text = unreadableText;
+        setFixedValue(text, file, field.start, shape);
     }
 }
 
