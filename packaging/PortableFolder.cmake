@@ -1,7 +1,7 @@
 # Runs while the portable folder is built, after the program is in program/: copies the libraries and plugins
 # that not every desktop has, and their licences. qt_plugins: folder of the toolkit's plugins.
 set(folder "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
-set(programs "${folder}/program/norvane" "${folder}/program/norvane-shop")
+set(programs "${folder}/program/norvane" "${folder}/program/norvane-shop" "${folder}/program/norvane-former")
 
 # Plugins for X11 and offscreen windows, pictures, typing of accents, printers.
 set(plugins
