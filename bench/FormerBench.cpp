@@ -3,8 +3,6 @@
 #include "bench/BareDatabase.h"
 #include "bench/Ratio.h"
 #include "former/Conversion.h"
-#include "store/catalogue/Catalogue.h"
-#include "store/engine/Database.h"
 #include "tests/support/FormerWriter.h"
 
 #include <benchmark/benchmark.h>
@@ -49,8 +47,10 @@ QByteArray yearOfSales()
 void insertBare(const QString& path)
 {
     QFile::remove(path);
-    store::Database::create(path, store::catalogue());
     const bench::BareDatabase database(path);
+    database.run(
+        "create table PLUSALES (ID text, SALESDATE text, PROMO real, WASTE real, COUNT1 real, VALUE1 real, "
+        "COUNT2 real, VALUE2 real, COUNT3 real, VALUE3 real)");
     database.run("begin");
     sqlite3_stmt* const insert = database.prepare(
         "insert into PLUSALES (ID, SALESDATE, PROMO, WASTE, COUNT1, VALUE1, COUNT2, VALUE2, COUNT3, VALUE3) "

@@ -9,6 +9,7 @@
 
 #include <benchmark/benchmark.h>
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QTimer>
@@ -102,7 +103,9 @@ void convertAll(const QString& path, double rate, const utilities::WalkFrame& fr
     boxes.answers.push_back(true);
     boxes.typed.push_back(QString::number(rate));
     ApplicationValues values;
-    values.appPath = QFileInfo(path).path();
+    values.customerPath = QFileInfo(path).path();
+    values.appPath = values.customerPath + u"/app"_s;
+    QDir().mkpath(values.appPath);
     values.databasePath = path;
     utilities::runPriceUtility(conversion(), values, boxes, frame);
     require(boxes.shown.size() == 3, "the question, the rate and the end");

@@ -181,8 +181,9 @@ QByteArray FormerWriter::header() const
 int FormerWriter::writeMap(const QVector<int>& pages)
 {
     const int page = newPage();
-    QByteArray map(m_isOld ? 128 : 64, '\0');
     const int first = pages.isEmpty() ? 0 : pages.first();
+    const int needed = pages.isEmpty() ? 0 : (pages.last() - first) / 8 + 1;
+    QByteArray map(std::max(m_isOld ? 128 : 64, needed), '\0');
     for (const int owned : pages) {
         char& bits = map[(owned - first) / 8];
         bits = static_cast<char>(bits | (1 << ((owned - first) % 8)));
