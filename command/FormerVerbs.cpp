@@ -204,7 +204,7 @@ QString copyCustomer(const QDir& from, const QString& to)
         return to;
     for (const QString& name : filesToCopy(from)) {
         stopIfSignalled();
-        const QString copy =
+        QString copy =
             joinPath(to, name.compare("velmar.mdb"_L1, Qt::CaseInsensitive) == 0 ? u"velmar.mdb"_s : name);
         if (!QFile::copy(from.filePath(name), copy))
             return copy;

@@ -31,7 +31,7 @@ former::Converted convertCustomer(const QString& customerPath, const QString& pr
         cancel();
     LoggedWork work(customerPath, u"conversion"_s);
     try {
-        const auto done = work.during([&] {
+        auto done = work.during([&] {
             return former::convertDatabase(customerPath, programFolder, found, [&](qint64 stored) {
                 return !watch.progress || watch.progress(stored, found.recordCount);
             });

@@ -171,7 +171,7 @@ void keepFormer(const QString& path, const QString& kept)
 /// The name velmar.mdb goes from the old file to the new one in one step.
 QString exchangeFiles(const QString& folder, const QString& former, const QString& made)
 {
-    const QString kept = freeName(QDir(folder));
+    QString kept = freeName(QDir(folder));
     const QString keptPath = joinPath(folder, kept);
     keepFormer(former, keptPath);
     std::error_code error;

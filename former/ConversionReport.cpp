@@ -43,10 +43,11 @@ QString shortTableInWords(const ShortTable& table)
 
 QString unfitInWords(const UnfitValue& value)
 {
-    if (value.isKey)
+    if (value.isKey) {
         return u"%1, record %2 has no %3 and is left out."_s.arg(value.table)
             .arg(value.record)
             .arg(value.field);
+    }
     return u"%1, record %2, %3: \"%4\" becomes %5."_s.arg(value.table)
         .arg(value.record)
         .arg(value.field, value.value, value.kept.isEmpty() ? u"empty"_s : u'"' + value.kept + u'"');

@@ -94,7 +94,7 @@ void setDate(std::string& text, double stored)
 /// A text of @p size bytes in the page. In UTF-8 a letter takes up to three bytes.
 void setText(std::string& text, MdbHandle& file, const MdbField& field)
 {
-    std::array<char, 4 * MDB_PGSIZE> utf8{};
+    std::array<char, std::size_t{4} * MDB_PGSIZE> utf8{};
     const int length = mdb_unicode2ascii(&file, static_cast<const char*>(field.value),
                                          static_cast<size_t>(field.siz), utf8.data(), utf8.size());
     setEscaped(text, {utf8.data(), static_cast<size_t>(std::max(length, 0))});

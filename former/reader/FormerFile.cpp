@@ -107,11 +107,10 @@ FormerFile::FormerFile(const char* path) : m_refusal(lookAt(path))
     if (m_refusal != Refusal::None)
         return;
     m_file.reset(mdb_open(path, MDB_NOFLAGS));
-    if (m_file == nullptr) {
-        m_refusal = Refusal::NotFormer;
-    } else if (hasPassword(*m_file)) {
+    // The password is in the page that opening has read; the list of tables comes after it.
+    if (m_file != nullptr && hasPassword(*m_file)) {
         m_refusal = Refusal::Password;
-    } else if (mdb_read_catalog(m_file.get(), MDB_TABLE) == nullptr) {
+    } else if (m_file == nullptr || mdb_read_catalog(m_file.get(), MDB_TABLE) == nullptr) {
         m_refusal = Refusal::NotFormer;
     } else {
         m_isCutOff =

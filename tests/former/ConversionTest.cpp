@@ -56,7 +56,7 @@ TEST_P(BothFormats, RecordsOfManyPagesKeepTheirOrderAndDeletedOnesStayDeleted)
     for (int i = 2; i <= 5; ++i) {
         table.columns.append({u"Europrice%1"_s.arg(i), FormerType::Text, 255});
         for (QVariantList& row : table.rows)
-            row.append(i == 3 ? QVariant() : QVariant(QString(i * 30, u'x')));
+            row.append(i == 3 ? QVariant() : QVariant(QString(qsizetype{i} * 30, u'x')));
     }
     table.deleted = {0, 7, 399};
     FormerWriter writer(GetParam());

@@ -26,10 +26,11 @@ TEST(Damage, FilesThatAreNotReadSayWhy)
     EXPECT_EQ(FormerShop(other.content()).problem(),
               "/velmar.mdb is a database of another program: it has no table of PLUs.");
     const QByteArray whole = databaseWith(plus());
-    for (const int length : {0, 10, 4096, 3 * 4096})
+    for (const int length : {0, 10, 4096, 3 * 4096}) {
         EXPECT_EQ(FormerShop(whole.first(length)).problem(),
                   "/velmar.mdb is too short, damaged or not a database of the former program.")
             << length;
+    }
 }
 
 QVector<QVariantList> manyRows()
@@ -48,7 +49,8 @@ TEST(Damage, MissingRecordsAreCounted)
     writer.add({u"RECIPE"_s, {{u"RECIPENO"_s, FormerType::Long}}, {{1}}, 5});
     QByteArray content = writer.content();
     const int page = writer.dataPages(0).at(1);
-    content.replace(page * writer.pageSize(), writer.pageSize(), QByteArray(writer.pageSize(), '\0'));
+    content.replace(qsizetype{page} * writer.pageSize(), writer.pageSize(),
+                    QByteArray(writer.pageSize(), '\0'));
     const FormerShop shop(content);
     const Examination found = shop.examined();
     ASSERT_EQ(found.shortTables.size(), 2);

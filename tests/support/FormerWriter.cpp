@@ -321,7 +321,7 @@ QByteArray FormerWriter::fixedBytes(const FormerColumn& column, const QVariant& 
 
 QByteArray FormerWriter::variableBytes(const FormerColumn& column, const QVariant& value) const
 {
-    const QByteArray text = textBytes(value.toString());
+    QByteArray text = textBytes(value.toString());
     if (column.type == FormerType::Text)
         return text;
     // A memo in the record itself: its length, the mark of that, and room for a page that is not needed.
