@@ -1,6 +1,7 @@
 // The lines of norvane-former; see FormerReader.h and reader/main.cpp.
 #include "former/FormerReader.h"
 
+#include "former/ReaderMarks.h"
 #include "platform/ChildProcess.h"
 
 #include <QCoreApplication>
@@ -32,18 +33,18 @@ QString shown(const QString& path)
     return QDir::toNativeSeparators(path);
 }
 
-struct Refusal {
-    int exitCode;
+struct RefusedFile {
+    Refusal refusal;
     FormerProblem problem;
     const char* reason;
 };
-/// The exit codes of norvane-former.
-constexpr Refusal refusals[] = {
-    {3, FormerProblem::NotReadable, "cannot be read"},
-    {4, FormerProblem::NotFormer, "is too short, damaged or not a database of the former program"},
-    {5, FormerProblem::NewerFormat,
+constexpr RefusedFile refusals[] = {
+    {Refusal::NotReadable, FormerProblem::NotReadable, "cannot be read"},
+    {Refusal::NotFormer, FormerProblem::NotFormer,
+     "is too short, damaged or not a database of the former program"},
+    {Refusal::NewerFormat, FormerProblem::NewerFormat,
      "has a format newer than that of 2003, which the former program never wrote"},
-    {6, FormerProblem::Password,
+    {Refusal::Password, FormerProblem::Password,
      "is protected with a password. Remove the password with the program that set it"},
 };
 
@@ -241,9 +242,9 @@ void readFormerFile(const QString& path, const QString& programFolder, FormerCon
     readAll(process, path, lines, keepGoing);
     if (process.exitStatus() != QProcess::NormalExit)
         failUnreadable(path, u"the reader crashed"_s);
-    for (const Refusal& refusal : refusals) {
-        if (process.exitCode() == refusal.exitCode)
-            fail(refusal.problem, path, QString::fromLatin1(refusal.reason));
+    for (const RefusedFile& refused : refusals) {
+        if (process.exitCode() == static_cast<int>(refused.refusal))
+            fail(refused.problem, path, QString::fromLatin1(refused.reason));
     }
     if (process.exitCode() != 0 || !lines.isComplete())
         failUnreadable(path, u"the reader stopped early"_s);

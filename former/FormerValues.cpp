@@ -1,6 +1,7 @@
 // Conversion of single values; see FormerValues.h.
 #include "former/FormerValues.h"
 
+#include "former/ReaderMarks.h"
 #include "platform/Excerpt.h"
 #include "platform/RuntimeFailure.h"
 #include "store/engine/FieldConversion.h"
@@ -19,8 +20,6 @@ using store::FieldDefinition;
 using store::FieldType;
 using store::Value;
 
-constexpr std::string_view nullText = "\\N";
-constexpr std::string_view unreadableText = "\\?";
 constexpr std::size_t dayLength = 10; // 2026-11-24
 constexpr std::string_view midnight = "T00:00:00";
 /// Whole numbers up to here are exact in a double.

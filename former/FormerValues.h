@@ -14,7 +14,7 @@ namespace norvane::former
 enum class Loss {
     None,
     Cut,     ///< a text is longer than the field: its end; a date has a time of day: the time
-    Emptied, ///< all of it: a number is too large or not exact, a text is no number, a picture
+    Emptied, ///< all of it: a number is too large or not exact, a text is not a number, a picture
 };
 
 /// Sets @p value to what @p field of @p table holds of @p raw, a value as norvane-former writes it. Currency,

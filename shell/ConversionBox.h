@@ -11,7 +11,7 @@ namespace norvane::shell
 {
 
 /// Asks whether to convert the database in the folder @p customerPath; Yes converts it with a progress box
-/// that can be cancelled. What goes wrong is told in a box.
+/// that can be cancelled. A box reports failures.
 /// @return whether the customer has a database of ours now.
 [[nodiscard]] bool convertAfterQuestion(const QString& customerPath, const QString& programFolder,
                                         Boxes& boxes, QWidget* window);

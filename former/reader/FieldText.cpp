@@ -58,7 +58,7 @@ void setNumber(std::string& text, Number number)
     text.assign(digits.begin(), end);
 }
 
-/// An infinite number or one that is none cannot be shown.
+/// Infinity and NaN cannot be shown.
 template <typename Number>
 void setBinaryNumber(std::string& text, Number number)
 {

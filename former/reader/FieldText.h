@@ -2,6 +2,7 @@
 #pragma once
 
 #include "former/reader/Library.h"
+#include "former/ReaderMarks.h"
 
 #include <string>
 #include <string_view>
@@ -20,11 +21,6 @@ struct FieldShape {
 /// The word for a type: "yesno", "whole", "number", "decimal", "date", "text", or "other" for pictures and
 /// the like, whose contents are not read.
 [[nodiscard]] std::string_view typeWord(int type);
-
-/// A value that is not stored.
-inline constexpr std::string_view nullText = "\\N";
-/// A value that is stored and cannot be shown: a picture, or a date outside of years 100 to 9999.
-inline constexpr std::string_view unreadableText = "\\?";
 
 /// Sets @p text to the value of @p field, which is in the file's page buffer: a yes/no as "1" or "0", whole
 /// numbers and currency with all digits, binary numbers as the shortest text that reads back as the same

@@ -14,15 +14,6 @@
 namespace norvane::former
 {
 
-/// Why a file is not read. The number is the exit code of the program.
-enum class Refusal {
-    None = 0,
-    NotReadable = 3, ///< there is no such file, or it may not be read
-    NotFormer = 4,   ///< too short, or no database of the former engine
-    NewerFormat = 5, ///< of 2007 or later
-    Password = 6,
-};
-
 /// A table as its definition says.
 struct FormerTable {
     std::string name;

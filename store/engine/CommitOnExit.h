@@ -7,10 +7,10 @@ namespace norvane::store
 class Connection;
 class Database;
 
-/// A transaction that commits when it goes out of scope, also while an exception passes: work done before a
-/// failure is kept, for a file read halfway is worth more to a shop than none, and the user is told which
-/// line failed. Only a killed process or a power cut rolls back. Nesting is allowed: the outermost one
-/// counts. Work that must be stored wholly or not at all uses allOrNothing() of AllOrNothing.h.
+/// A transaction that commits when it goes out of scope, also while an exception passes. Work done before a
+/// failure is kept: half a file is worth more to a shop than none, and the message names the line that
+/// failed. Only a killed process or a power cut rolls back. Nesting is allowed: the outermost one counts.
+/// Work that must be stored wholly or not at all uses allOrNothing() of AllOrNothing.h.
 class CommitOnExit
 {
 public:

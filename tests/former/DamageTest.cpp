@@ -68,7 +68,7 @@ TEST(Damage, ACutOffPageGivesNoRecordsOfNothing)
     writer.add(plus(manyRows()));
     const QByteArray content = writer.content();
     const int page = writer.dataPages(0).constLast();
-    // The list of tables follows the records, so the file with the cut page is put together anew.
+    // Other pages follow, so the cut page is replaced within the file.
     QByteArray cut = content;
     cut.replace(page * 4096 + 1000, 3096, QByteArray(3096, '\0'));
     const FormerShop shop(cut + QByteArray(100, '\0'));
