@@ -136,6 +136,19 @@ void paintFocus(QPainter& painter, const QRectF& place, const QPalette& palette)
     painter.restore();
 }
 
+/// With an arrow in the size of the type.
+template <typename Draw>
+void drawCombo(const QStyleOptionComboBox& combo, const QRect& arrow, QPainter& painter, const Draw& drawBase)
+{
+    QStyleOptionComboBox withoutArrow(combo);
+    withoutArrow.subControls &= ~QStyle::SC_ComboBoxArrow;
+    makeFrameVisible(withoutArrow.palette);
+    drawBase(withoutArrow);
+    paintArrow(painter, arrow, 0, combo.palette.color(QPalette::ButtonText));
+    if (combo.state.testFlag(QStyle::State_HasFocus))
+        paintFocus(painter, combo.rect, combo.palette);
+}
+
 void drawArrow(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter)
 {
     const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
@@ -213,13 +226,7 @@ void FormStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     if (title && isHighContrast()) {
         drawBase(readableTitle(*title));
     } else if (combo) {
-        QStyleOptionComboBox withoutArrow(*combo);
-        withoutArrow.subControls &= ~SC_ComboBoxArrow;
-        makeFrameVisible(withoutArrow.palette);
-        drawBase(withoutArrow);
-        paintArrow(*painter, placeOf(SC_ComboBoxArrow), 0, option->palette.color(QPalette::ButtonText));
-        if (option->state.testFlag(State_HasFocus))
-            paintFocus(*painter, option->rect, option->palette);
+        drawCombo(*combo, placeOf(SC_ComboBoxArrow), *painter, drawBase);
     } else {
         drawBase(*option);
         if (control == CC_ScrollBar && isHighContrast()) {

@@ -108,14 +108,19 @@ TEST_F(RefusalTest, ReportsWhyNothingIsPublished)
     EXPECT_EQ(query(u"SELECT count(*) FROM pg_namespace WHERE nspname = 'norvane'"_s), "0");
     EXPECT_FALSE(pathExists(m_folder.path("Corner Shop/norvane-chain.ini")));
     EXPECT_FALSE(pathExists(m_folder.path("nowhere")));
+}
 
+TEST_F(RefusalTest, AUserWhoMayOnlyReadPublishesNothing)
+{
+    EXPECT_EQ(query(u"CREATE ROLE reader LOGIN"_s), "");
     EXPECT_EQ(publish({cornerShop}).code, 0);
     EXPECT_EQ(
         query(
-            u"GRANT USAGE ON SCHEMA norvane TO guest; GRANT SELECT ON ALL TABLES IN SCHEMA norvane TO guest"_s),
+            u"GRANT USAGE ON SCHEMA norvane TO reader; GRANT SELECT ON ALL TABLES IN SCHEMA norvane TO reader"_s),
         "");
     change(cornerShop, "update MIXSALES set QUANTITY = 9");
-    expectRefused(publish({cornerShop}, to(m_database, u"guest"_s)), 12, u"The rights are insufficient"_s);
+    expectRefused(publish({cornerShop}, postgres().connection(m_database, u"reader"_s)), 12,
+                  u"The rights are insufficient"_s);
     EXPECT_EQ(months(), "01=1 02=2 03=3");
 }
 

@@ -157,6 +157,11 @@ TEST_F(FrmFunctKeyTest, KeysOfAllKindsAreShownTypedAndSaved)
             EXPECT_EQ(check(index).isChecked(), std::ranges::count(ticks, index) == 1) << key << ' ' << index;
         EXPECT_EQ(m_form->size().boundedTo({1024, 700}), size);
     }
+}
+
+TEST_F(FrmFunctKeyTest, ACaptionShowsOneAmpersand)
+{
+    open();
     select("232");
     EXPECT_EQ(check(8).text(), u"Tip Amt Adds To Grs && Net TTLs") << "shows one ampersand";
 }

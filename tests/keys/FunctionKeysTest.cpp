@@ -207,31 +207,32 @@ TEST_P(FunctionKeysTest, EveryKeyIsShownAndSavedAsListed)
 INSTANTIATE_TEST_SUITE_P(Models, FunctionKeysTest, testing::Range(0, 4));
 
 /// What a damaged or foreign table may hold, and what some keys read elsewhere than they write it.
+constexpr struct {
+    int id;
+    const char* fields;
+    const char* shown; ///< otherno and ticked boxes
+} oddValues[] = {
+    {119, "flag3 = 407", "7 12"},
+    {119, "flag3 = null", "0"},
+    {119, "flag3 = -45", "5"},
+    {18, "flag3 = null, flag1 = 98", "0"},
+    {18, "flag3 = 1234567", "1 16"},
+    {18, "flag1 = 37, flag3 = 0", "0 1 2 3 4 5"},
+    {21, "flag3 = 12", "2 14"},
+    {21, "flag3 = 40", "0 12"},
+    {190, "flag1 = 1234567", "1234567"},
+    {190, "flag1 = -3", "-3"},
+    {20, "flag2 = 3, flag4 = 7", "7"},
+    {223, "flag3 = 5, flag4 = 9", "5"},
+    {214, "flag3 = 40", "0"},
+    {217, "flag3 = 4, flag4 = 6", "6 12"},
+};
+
 TEST(FunctionKeyFieldsTest, OddValuesAreReadAsFarAsTheyGo)
 {
-    struct {
-        int id;
-        const char* fields;
-        const char* shown; ///< otherno and ticked boxes
-    } const rows[] = {
-        {119, "flag3 = 407", "7 12"},
-        {119, "flag3 = null", "0"},
-        {119, "flag3 = -45", "5"},
-        {18, "flag3 = null, flag1 = 98", "0"},
-        {18, "flag3 = 1234567", "1 16"},
-        {18, "flag1 = 37, flag3 = 0", "0 1 2 3 4 5"},
-        {21, "flag3 = 12", "2 14"},
-        {21, "flag3 = 40", "0 12"},
-        {190, "flag1 = 1234567", "1234567"},
-        {190, "flag1 = -3", "-3"},
-        {20, "flag2 = 3, flag4 = 7", "7"},
-        {223, "flag3 = 5, flag4 = 9", "5"},
-        {214, "flag3 = 40", "0"},
-        {217, "flag3 = 4, flag4 = 6", "6 12"},
-    };
     const KeyShop shop("3");
     const auto database = shop.open();
-    for (const auto& [id, fields, shown] : rows) {
+    for (const auto& [id, fields, shown] : oddValues) {
         database->execute(u"delete * from FUNCTIONKEY"_s);
         addRecord(*database, "FUNCTIONKEY", {{"id", whole(id)}});
         database->execute(u"update FUNCTIONKEY set "_s + QLatin1String(fields));

@@ -50,6 +50,10 @@ TEST_F(DocumentEditorTest, ADoubleClickColoursAWhiteKeyOrOneCell)
         m_editor.history().undo();
         EXPECT_EQ(blueCells(), std::vector<int>());
     }
+}
+
+TEST_F(DocumentEditorTest, ADoubleClickColoursOneCellOfAKeyThatIsNotWhite)
+{
     m_editor.doubleClick(4);
     m_editor.doubleClick(3);
     EXPECT_EQ(blueCells(), (std::vector{3, 4})) << "the key is no longer all white";

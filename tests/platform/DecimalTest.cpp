@@ -31,22 +31,23 @@ TEST(Decimal, TextsComeBackPlain)
         EXPECT_FALSE(Decimal::parse(text)) << text;
 }
 
+constexpr struct {
+    const char* number;
+    int places;
+    const char* text;
+    const char* rounded; ///< to as many places first
+} spelledNumbers[] = {{"12.3", 2, "12.30", "12.30"},
+                      {"-0.5", 0, "-0.5", "-1"},
+                      {"0", 3, "0.000", "0.000"},
+                      {"1.50", 1, "1.5", "1.5"},
+                      {"999999999999999999", 2, "999999999999999999.00", "999999999999999999.00"},
+                      {"2.345", 2, "2.345", "2.35"},
+                      {"-0.004", 2, "-0.004", "0.00"},
+                      {"9.999", 2, "9.999", "10.00"}};
+
 TEST(Decimal, IsSpelledWithAtLeastSoManyPlaces)
 {
-    const struct {
-        const char* number;
-        int places;
-        const char* text;
-        const char* rounded; ///< to as many places first
-    } rows[] = {{"12.3", 2, "12.30", "12.30"},
-                {"-0.5", 0, "-0.5", "-1"},
-                {"0", 3, "0.000", "0.000"},
-                {"1.50", 1, "1.5", "1.5"},
-                {"999999999999999999", 2, "999999999999999999.00", "999999999999999999.00"},
-                {"2.345", 2, "2.345", "2.35"},
-                {"-0.004", 2, "-0.004", "0.00"},
-                {"9.999", 2, "9.999", "10.00"}};
-    for (const auto& row : rows) {
+    for (const auto& row : spelledNumbers) {
         const auto number = *Decimal::parse(row.number);
         EXPECT_EQ(number.text(row.places), row.text);
         EXPECT_EQ(number.rounded(row.places).text(row.places), row.rounded);

@@ -58,23 +58,24 @@ TEST(ProfileFile, ReadsAsTheFormerPlatformDid)
     EXPECT_EQ(valueIn(file, "Telephone", " "), QString());
 }
 
+constexpr const char* written[][3] = {
+    {"not in another section", "[x]\nPort=1\n[setupoption]\n\n[y]\n",
+     "[x]\nPort=1\n[setupoption]\nPort= 3\n\n[y]\n"},
+    {"after the last key", "[SetupOption]\n\na=1\n\n\n[y]\nb=1\n",
+     "[SetupOption]\n\na=1\nPort= 3\n\n\n[y]\nb=1\n"},
+    {"a comment is no key", "[SetupOption]\r\n;Port=1\r\n", "[SetupOption]\r\n;Port=1\r\nPort= 3\r\n"},
+    {"open last line, appended", "[SetupOption]\na=1", "[SetupOption]\na=1\nPort= 3\n"},
+    {"foreign bytes", "[SetupOption]\n\x81\xFF=\xE4\nnonsense\n",
+     "[SetupOption]\n\x81\xFF=\xE4\nnonsense\nPort= 3\n"},
+    {"marked UTF-8", "\xEF\xBB\xBF[SetupOption]\nn=\xC3\xA4\n",
+     "\xEF\xBB\xBF[SetupOption]\nn=\xC3\xA4\nPort= 3\n"},
+    {"new section", "[x]\na=1", "[x]\na=1\n[SetupOption]\nPort= 3\n"},
+    {"empty file", "", "[SetupOption]\r\nPort= 3\r\n"},
+};
+
 TEST(ProfileFile, WritesOneKeyAndKeepsEveryOtherByte)
 {
-    constexpr const char* rows[][3] = {
-        {"not in another section", "[x]\nPort=1\n[setupoption]\n\n[y]\n",
-         "[x]\nPort=1\n[setupoption]\nPort= 3\n\n[y]\n"},
-        {"after the last key", "[SetupOption]\n\na=1\n\n\n[y]\nb=1\n",
-         "[SetupOption]\n\na=1\nPort= 3\n\n\n[y]\nb=1\n"},
-        {"a comment is no key", "[SetupOption]\r\n;Port=1\r\n", "[SetupOption]\r\n;Port=1\r\nPort= 3\r\n"},
-        {"open last line, appended", "[SetupOption]\na=1", "[SetupOption]\na=1\nPort= 3\n"},
-        {"foreign bytes", "[SetupOption]\n\x81\xFF=\xE4\nnonsense\n",
-         "[SetupOption]\n\x81\xFF=\xE4\nnonsense\nPort= 3\n"},
-        {"marked UTF-8", "\xEF\xBB\xBF[SetupOption]\nn=\xC3\xA4\n",
-         "\xEF\xBB\xBF[SetupOption]\nn=\xC3\xA4\nPort= 3\n"},
-        {"new section", "[x]\na=1", "[x]\na=1\n[SetupOption]\nPort= 3\n"},
-        {"empty file", "", "[SetupOption]\r\nPort= 3\r\n"},
-    };
-    for (const auto& [what, before, after] : rows)
+    for (const auto& [what, before, after] : written)
         EXPECT_EQ(afterWriting(before, "Port", " 3"), after) << what;
     EXPECT_EQ(afterWriting("", "Telephone", "Ä€"), "[SetupOption]\r\nTelephone=\xC4\x80\r\n");
     EXPECT_FALSE(ProfileFile::write(TestFolder().path("none/setup.ini"), section, section, section));

@@ -114,7 +114,7 @@ protected:
     QPointer<PreviewWindow> m_preview = new PreviewWindow(longReport(), m_boxes, m_finder, nullptr);
 };
 
-TEST_F(PreviewTest, AScreenReaderFindsLinesOfThePageAndPointsOfTheCharts)
+TEST_F(PreviewTest, AScreenReaderFindsTheLinesOfThePage)
 {
     auto& pages = *QAccessible::queryAccessibleInterface(control(u"Pages"_s));
     EXPECT_EQ(pages.text(QAccessible::Name),
@@ -129,7 +129,10 @@ TEST_F(PreviewTest, AScreenReaderFindsLinesOfThePageAndPointsOfTheCharts)
     EXPECT_EQ(chosen, "2, Article 2, 1.125, 2.35");
     EXPECT_EQ(pages.childAt(pages.child(1)->rect().center().x(), pages.child(1)->rect().center().y()),
               pages.child(1));
+}
 
+TEST_F(PreviewTest, AScreenReaderFindsThePointsOfTheCharts)
+{
     auto& charts = *QAccessible::queryAccessibleInterface(control<QScrollArea>(u"Charts"_s)->widget());
     EXPECT_EQ(charts.childCount(), 15 + 6 + 31);
     EXPECT_EQ(charts.child(16)->text(QAccessible::Name), u"Label 1 94.50"_s);

@@ -173,6 +173,10 @@ TEST_F(GridTest, FindsRowsByNumberOrText)
         QTest::keyClick(control(form, "GridFind"), Qt::Key_Return);
         EXPECT_EQ(current(), next);
     }
+}
+
+TEST_F(GridTest, RemainsAtTheOnlyOrTheLastMatch)
+{
     type(form, "GridFind", "699");
     QTest::keyClick(control(form, "GridFind"), Qt::Key_Return);
     EXPECT_EQ(current(), "699") << "the only one, again";

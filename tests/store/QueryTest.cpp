@@ -28,25 +28,26 @@ protected:
     Database m_database{m_folder.path()};
 };
 
+constexpr std::pair<const char*, const char*> screenWords[] = {
+    {"select number, groupno from items", "1|1 2|2 3|3"},
+    {"SELECT [Number] FROM [ITEMS] WHERE [tax/X] = True ORDER BY [number] DESC;", "3 1"},
+    {"select number from items where [TAX/x]=False", "2"},
+    {"select number from items where description = \"It's \"\"2\"\"\"", "2"},
+    {"select number from items where description = 'it''s \"3\"'", "3"},
+    {"select number from items where description like '*2*'", "2"},
+    {"select number from items where number like \"?\" and groupno > 2", "3"},
+    {"select top 2 number from items order by number desc", "3 2"},
+    {"select number from items where [OPENEURO&LOCALDRAWER] >= #12/02/2003#", "2 3"},
+    {"select number & '-' & groupno as both from items where items!groupno = 1", "1-1"},
+    {"select [#OfCondiments] from items order by [#OfCondiments]", "2 3 100"},
+    {"select count(*), sum(groupno) from items", "3|6"},
+    {"select distinct [TAX/x] from items order by 1 desc", "False True"},
+    {"select number from items where number = 'True'", ""},
+};
+
 TEST_F(QueryTest, TakesTheWordsOfTheScreens)
 {
-    const std::pair<const char*, const char*> cases[] = {
-        {"select number, groupno from items", "1|1 2|2 3|3"},
-        {"SELECT [Number] FROM [ITEMS] WHERE [tax/X] = True ORDER BY [number] DESC;", "3 1"},
-        {"select number from items where [TAX/x]=False", "2"},
-        {"select number from items where description = \"It's \"\"2\"\"\"", "2"},
-        {"select number from items where description = 'it''s \"3\"'", "3"},
-        {"select number from items where description like '*2*'", "2"},
-        {"select number from items where number like \"?\" and groupno > 2", "3"},
-        {"select top 2 number from items order by number desc", "3 2"},
-        {"select number from items where [OPENEURO&LOCALDRAWER] >= #12/02/2003#", "2 3"},
-        {"select number & '-' & groupno as both from items where items!groupno = 1", "1-1"},
-        {"select [#OfCondiments] from items order by [#OfCondiments]", "2 3 100"},
-        {"select count(*), sum(groupno) from items", "3|6"},
-        {"select distinct [TAX/x] from items order by 1 desc", "False True"},
-        {"select number from items where number = 'True'", ""},
-    };
-    for (const auto& [sql, rows] : cases)
+    for (const auto& [sql, rows] : screenWords)
         EXPECT_EQ(found(QString::fromUtf8(sql)), rows) << sql;
 }
 
