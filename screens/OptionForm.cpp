@@ -23,7 +23,8 @@ namespace norvane::screens
 {
 
 OptionForm::OptionForm(const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes,
-                       ReportRunner* reports, std::shared_ptr<LostChangesList> losses)
+                       ReportRunner* reports, std::shared_ptr<LostChangesList> losses,
+                       const ScreenTools& tools)
     : m_values(values), m_boxes(boxes), m_reports(reports), m_file(screenFilePath),
       m_databasePath(values.databasePath),
       m_losses(losses ? std::move(losses) : std::make_shared<LostChangesList>()), m_sideRoom(*this)
@@ -33,7 +34,7 @@ OptionForm::OptionForm(const QString& screenFilePath, const ApplicationValues& v
     buildWindow();
     buildControls();
     buildList();
-    buildButtons();
+    buildButtons(tools);
     takeUndoKey();
     ShowFields();
     CSPict1->focusFirst();

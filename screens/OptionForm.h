@@ -8,6 +8,7 @@
 #include "screens/RecordEditor.h"
 #include "screens/ReportRunner.h"
 #include "screens/ScreenReader.h"
+#include "screens/ScreenTool.h"
 #include "screens/SideRoom.h"
 #include "screens/TypedChanges.h"
 #include "store/engine/Database.h"
@@ -41,11 +42,13 @@ class OptionForm : public QWidget
 public:
     /// @param reports opened by the print button, which is greyed without it.
     /// @param losses where dropped changes are kept; a separate list without one.
+    /// @param tools of the menu "More", which is not shown without one.
     /// @throws RuntimeFailure with Failure::UnknownName for an unknown table, index or field,
     /// Failure::NoCurrentRecord for an empty table, Failure::TypeMismatch for a bad number or word in the
     /// file, and those of the database; the text names the screen file.
     OptionForm(const QString& screenFilePath, const ApplicationValues& values, Boxes& boxes,
-               ReportRunner* reports = nullptr, std::shared_ptr<LostChangesList> losses = nullptr);
+               ReportRunner* reports = nullptr, std::shared_ptr<LostChangesList> losses = nullptr,
+               const ScreenTools& tools = {});
     ~OptionForm() override;
 
     [[nodiscard]] QSize sizeHint() const override { return m_size; }
@@ -90,7 +93,8 @@ private:
     void openTable();
     void buildWindow();
     void buildControls();
-    void buildButtons();
+    void buildButtons(const ScreenTools& tools);
+    [[nodiscard]] QPushButton* addToolsButton(const ScreenTools& tools, QHBoxLayout& row);
     [[nodiscard]] QPushButton* addButton(const ButtonRow& entry, QHBoxLayout& row);
     void buildList();
     [[nodiscard]] QString textField() const;

@@ -13,6 +13,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -102,7 +103,7 @@ const QVector<OptionForm::ButtonRow>& OptionForm::buttonRows()
     return rows;
 }
 
-void OptionForm::buildButtons()
+void OptionForm::buildButtons(const ScreenTools& tools)
 {
     auto* const row = new QHBoxLayout;
     row->setContentsMargins(ui::spacing::formMargin, 0, ui::spacing::formMargin, ui::spacing::controlGap);
@@ -116,6 +117,8 @@ void OptionForm::buildButtons()
         if (isShown)
             shown += button;
     }
+    if (QPushButton* const more = addToolsButton(tools, *row))
+        shown += more;
     findChild<QPushButton*>(u"PrintReport"_s)->setEnabled(m_reports != nullptr);
     fitButtons(shown);
     layOut(row);
@@ -131,6 +134,30 @@ QPushButton* OptionForm::addButton(const ButtonRow& entry, QHBoxLayout& row)
     if (entry.beginsRightGroup)
         row.addStretch();
     row.addWidget(button, 1);
+    return button;
+}
+
+/// @return nullptr if none of @p tools is for this screen.
+QPushButton* OptionForm::addToolsButton(const ScreenTools& tools, QHBoxLayout& row)
+{
+    auto* const menu = new QMenu(this);
+    menu->setObjectName(u"MoreMenu"_s);
+    for (const ScreenTool& tool : tools) {
+        if (tool.forManyRecords && !m_list)
+            continue;
+        QAction* const action = menu->addAction(tool.caption, this, [this, use = tool.use] { use(*this); });
+        action->setObjectName(tool.name);
+        action->setShortcut(tool.keys);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        addAction(action);
+    }
+    if (menu->isEmpty()) {
+        delete menu;
+        return nullptr;
+    }
+    QPushButton* const button = ui::makeButton(u"MoreTools"_s, u"&More"_s, this);
+    button->setMenu(menu);
+    row.insertWidget(row.count() - 1, button, 1);
     return button;
 }
 

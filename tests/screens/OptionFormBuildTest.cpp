@@ -73,6 +73,28 @@ TEST_F(OptionFormBuildTest, ButtonsAreThoseOfTheFileAndTabEndsInThem)
     EXPECT_FALSE(control(open(groups + "[visiblekeys]\nShowsaverecord=no\n"), "SaveRecord")->isVisible());
 }
 
+TEST_F(OptionFormBuildTest, ToolsAreInAMenuAndHaveTheirKeys)
+{
+    QStringList used;
+    const auto opened = [&](const QByteArray& buttons) {
+        screen(groups + "[visiblekeys]\n" + buttons);
+        auto form = std::make_unique<OptionForm>(
+            m_screenFilePath, m_values, m_boxes, nullptr, nullptr,
+            ScreenTools{{u"Many"_s, u"&Many"_s, QKeySequence(u"Ctrl+T"_s), [&](auto&) {
+                             used += u"many"_s;
+                         }}});
+        form->show();
+        QApplication::setActiveWindow(form.get());
+        return form;
+    };
+    EXPECT_EQ(opened("ShowNextrecord=NO\n")->findChild<QPushButton*>(u"MoreTools"_s), nullptr);
+    const auto form = opened("ShowNextrecord=YES\n");
+    QTest::keyClick(form.get(), Qt::Key_T, Qt::ControlModifier);
+    auto* const menu = control<QPushButton>(form, "MoreTools")->menu();
+    QTest::keyClick(menu, Qt::Key_M);
+    EXPECT_EQ(used, (QStringList{u"many"_s, u"many"_s}));
+}
+
 TEST_F(OptionFormBuildTest, ControlsTakeTheirPropertiesFromTheFile)
 {
     const QByteArray longText(300, 'x');
