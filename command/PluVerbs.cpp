@@ -75,13 +75,6 @@ void failWith(const articles::PluMistakes& mistakes, const QString& path)
         u"%1 has mistakes: %2. Nothing was changed.%3"_s.arg(path).arg(mistakes.count()).arg(further));
 }
 
-/// @throws RuntimeFailure with Failure::UserInterrupt after a signal.
-bool untilSignalled()
-{
-    stopIfSignalled();
-    return true;
-}
-
 /// A file that is compared with the PLUs of a customer.
 class FileOfPlus
 {

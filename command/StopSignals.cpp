@@ -39,4 +39,10 @@ void stopIfSignalled()
         throw RuntimeFailure(Failure::UserInterrupt, QStringLiteral("stopped by a signal"));
 }
 
+bool untilSignalled()
+{
+    stopIfSignalled();
+    return true;
+}
+
 } // namespace norvane::command

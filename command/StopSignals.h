@@ -14,5 +14,7 @@ void catchStopSignals();
 /// To be called where a run can stop: everything stored so far is consistent.
 /// @throws RuntimeFailure with Failure::UserInterrupt after a signal.
 void stopIfSignalled();
+/// The same for work that asks whether to go on. @return true.
+bool untilSignalled();
 
 } // namespace norvane::command

@@ -44,6 +44,11 @@ constexpr auto plusOptions = std::to_array<OptionDefinition>({
     {"dry-run"_L1, {}, "of an import: list what would change, and change nothing"_L1},
     separatorOption,
 });
+constexpr auto copyProgrammeOptions = std::to_array<OptionDefinition>({
+    {"tables"_L1, "NAME,..."_L1,
+     "what to copy: plu, groups, messages and other parts, or the names of tables"_L1},
+    {"dry-run"_L1, {}, "list what would change, and change nothing"_L1},
+});
 constexpr auto convertOptions = std::to_array<OptionDefinition>({
     {"all"_L1, {}, "every customer whose database was made by the former program"_L1},
     {"dry-run"_L1, {}, "look at the databases, and change nothing"_L1},
@@ -80,6 +85,8 @@ constexpr auto all = std::to_array<Verb>({
     {"copies"_L1, "CUSTOMER"_L1, 1, 1, {}, "Lists the safety copies, the latest first."_L1, listCopies},
     {"restore"_L1, "CUSTOMER COPY"_L1, 2, 2, {},
      "Restores the customer from a safety copy, after copying its current state. COPY is a name or its beginning."_L1, restore},
+    {"copy-programme"_L1, "FROM TO..."_L1, 2, -1, copyProgrammeOptions,
+     "Copies parts of the programme of the customer FROM to other customers: each gets all of it or nothing. What would change is listed first. Points, sales and what registers of another model cannot hold are left out."_L1, copyProgramme},
     {"convert"_L1, "CUSTOMER...|--all"_L1, 0, -1, convertOptions,
      "Converts databases of the former program, each as a whole or not at all. The old file is kept as velmar.former.mdb."_L1, convertCustomers},
     {"adopt"_L1, "FOLDER"_L1, 1, 1, adoptOptions,

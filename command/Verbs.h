@@ -21,6 +21,7 @@ void listBoxes(const Workplace& workplace, const Invocation& words);
 void listReports(const Workplace& workplace, const Invocation& words);
 void convertCustomers(const Workplace& workplace, const Invocation& words);
 void adoptInstallation(const Workplace& workplace, const Invocation& words);
+void copyProgramme(const Workplace& workplace, const Invocation& words);
 void publish(const Workplace& workplace, const Invocation& words);
 
 } // namespace norvane::command

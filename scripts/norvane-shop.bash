@@ -30,12 +30,13 @@ _norvane_shop()
 
     if [ "$COMP_CWORD" -eq 1 ]; then
         # The help names each command at the beginning of a line.
-        mapfile -t choices < <("$1" --help 2>/dev/null | sed -n 's/^norvane-shop \([a-z]*\).*/\1/p')
+        mapfile -t choices < <("$1" --help 2>/dev/null | sed -n 's/^norvane-shop \([a-z-]*\).*/\1/p')
     elif [ "${COMP_WORDS[COMP_CWORD - 1]}" = --vanished ]; then
         choices=(keep remove)
     elif [ "${COMP_WORDS[COMP_CWORD - 1]}" = --separator ]; then
         choices=(comma semicolon tab)
-    elif [ "${word#-}" = "$word" ] && { [ "$COMP_CWORD" -eq 2 ] || [ "${COMP_WORDS[1]}" = publish ]; }; then
+    elif [ "${word#-}" = "$word" ] && { [ "$COMP_CWORD" -eq 2 ] ||
+        [[ ${COMP_WORDS[1]} =~ ^(publish|copy-programme)$ ]]; }; then
         mapfile -t choices < <(_norvane_shop_customers "$1")
     else
         mapfile -t choices < <("$1" help "${COMP_WORDS[1]}" 2>/dev/null | sed -n 's/^ *\(--[a-z-]*\).*/\1/p')

@@ -1,0 +1,201 @@
+// Copies parts of one customer's programme to others.
+#include "base/CustomerSettings.h"
+#include "command/StopSignals.h"
+#include "command/TerminalBoxes.h"
+#include "command/Verbs.h"
+#include "customers/CustomerFolders.h"
+#include "platform/FolderLock.h"
+#include "programme/PartCopy.h"
+#include "programme/ProgrammeParts.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::command
+{
+namespace
+{
+
+/// A shop that receives the parts. Not moved: the comparison refers to its database.
+struct ReceivingShop {
+    explicit ReceivingShop(ApplicationValues shop)
+        : values(std::move(shop)), database(values.databasePath), model(registerModel(values))
+    {
+    }
+
+    ApplicationValues values;
+    store::Database database;
+    const RegisterModel& model;
+    std::unique_ptr<FolderLock> lock;
+    std::optional<programme::PartComparison> comparison;
+};
+
+/// Lists what would change at all shops, then changes one shop after the other.
+class ProgrammeCopyRun
+{
+public:
+    ProgrammeCopyRun(const Workplace& workplace, const ApplicationValues& from, programme::ChosenParts parts,
+                     bool isDryRun)
+        : m_workplace(workplace), m_from(from), m_database(from.databasePath), m_model(registerModel(from)),
+          m_parts(std::move(parts)), m_isDryRun(isDryRun)
+    {
+        catchStopSignals();
+    }
+
+    void add(const QString& name)
+    {
+        attempt(name, [&] { compareWith(name); });
+    }
+    void show() const
+    {
+        m_workplace.show({u"Shop"_s, u"Table"_s, u"Record"_s, u"Field"_s, u"Old"_s, u"New"_s},
+                         [this](const auto& take) {
+                             for (const auto& shop : m_shops)
+                                 listChanges(*shop, take);
+                         });
+    }
+    void copy()
+    {
+        for (const auto& shop : m_shops) {
+            const QString& name = shop->values.customerName;
+            attempt(name, [&] {
+                const QString done = programme::copyParts(*shop->comparison, m_from.customerName,
+                                                          shop->values, untilSignalled);
+                printStep(u"%1: %2"_s.arg(name, done));
+            });
+        }
+    }
+    /// @throws CommandError with the code of the first shop that failed.
+    void end() const
+    {
+        if (m_code != ExitCode::Done)
+            throw CommandError(m_code, {});
+    }
+
+private:
+    /// The other shops follow, whatever happens with one.
+    template <typename Work>
+    void attempt(const QString& name, Work&& work)
+    {
+        stopIfSignalled();
+        try {
+            work();
+        } catch (const CommandError& error) {
+            note(name, error.code(), error.text());
+        } catch (const RuntimeFailure& failure) {
+            if (failure.failure() == Failure::UserInterrupt)
+                throw;
+            note(name, codeOf(failure), failure.text());
+        }
+    }
+    void note(const QString& name, ExitCode code, const QString& text)
+    {
+        printMessage(u"%1: nothing was copied. %2"_s.arg(name, text).trimmed());
+        if (m_code == ExitCode::Done)
+            m_code = code;
+    }
+
+    void compareWith(const QString& name)
+    {
+        auto shop = std::make_unique<ReceivingShop>(takeCustomer(m_workplace, name));
+        if (isNamed(shop->values.customerPath))
+            return;
+        if (!m_isDryRun)
+            shop->lock = lockOf(shop->values);
+        shop->comparison.emplace(programme::ShopData{m_database, m_model},
+                                 programme::ShopData{shop->database, shop->model}, m_parts, untilSignalled);
+        for (const auto& what : shop->comparison->leftOut())
+            printMessage(u"%1: left out: %2"_s.arg(shop->values.customerName, what.inWords()));
+        m_shops.push_back(std::move(shop));
+    }
+    [[nodiscard]] bool isNamed(const QString& path) const
+    {
+        return std::ranges::any_of(m_shops,
+                                   [&](const auto& shop) { return shop->values.customerPath == path; });
+    }
+    [[nodiscard]] std::unique_ptr<FolderLock> lockOf(const ApplicationValues& values) const
+    {
+        auto lock = FolderLock::take(values.customerPath, m_workplace.boxes);
+        if (lock == nullptr) {
+            const bool isWritable = QFileInfo(values.customerPath).isWritable();
+            throw CommandError(isWritable ? ExitCode::Busy : ExitCode::Unwritable, {});
+        }
+        return lock;
+    }
+
+    static void listChanges(const ReceivingShop& shop,
+                            const std::function<void(const QVariantList& row)>& take)
+    {
+        using programme::ChangeKind;
+        const auto list = [&](const programme::RecordChange& change) {
+            const QVariantList place{shop.values.customerName, change.table, change.record};
+            if (change.kind == ChangeKind::New)
+                return take(place + QVariantList{u"new record"_s, {}, change.text});
+            if (change.kind == ChangeKind::Gone)
+                return take(place + QVariantList{u"removed record"_s, change.text, {}});
+            for (const auto& field : change.fields) {
+                if (field.refusal.isEmpty())
+                    take(place + QVariantList{field.field, field.before, field.after});
+            }
+        };
+        shop.comparison->forEach(list, untilSignalled);
+    }
+
+    const Workplace& m_workplace;
+    const ApplicationValues& m_from;
+    store::Database m_database;
+    const RegisterModel& m_model;
+    programme::ChosenParts m_parts;
+    bool m_isDryRun;
+    std::vector<std::unique_ptr<ReceivingShop>> m_shops;
+    ExitCode m_code = ExitCode::Done;
+};
+
+/// @throws CommandError Usage without tables and for a name that is neither a part nor a table.
+QStringList tablesToCopy(const Invocation& words)
+{
+    QStringList parts;
+    for (const auto& part : programme::programmeParts())
+        parts << part.name;
+    const QString hint = u"Name parts or tables after --tables: %1."_s.arg(parts.join(u", "_s));
+    QStringList unknown;
+    QStringList tables =
+        programme::tablesNamed(words.value("tables"_L1).split(u',', Qt::SkipEmptyParts), unknown);
+    if (!unknown.isEmpty()) {
+        throw CommandError(ExitCode::Usage,
+                           u"There is no part or table \"%1\". %2"_s.arg(unknown.first(), hint));
+    }
+    if (tables.isEmpty())
+        throw CommandError(ExitCode::Usage, hint);
+    return tables;
+}
+
+} // namespace
+
+void copyProgramme(const Workplace& workplace, const Invocation& words)
+{
+    const QStringList tables = tablesToCopy(words);
+    const ApplicationValues from = takeCustomer(workplace, words.operands.front());
+    const QStringList targets = words.operands.sliced(1);
+    for (const QString& target : targets) {
+        if (customers::foldersNamed(workplace.appPath, target).contains(from.customerPath)) {
+            throw CommandError(ExitCode::Usage,
+                               u"\"%1\" is the customer whose programme is copied."_s.arg(target));
+        }
+    }
+    const bool isDryRun = words.has("dry-run"_L1);
+    ProgrammeCopyRun run(workplace, from, {tables, {}}, isDryRun);
+    std::ranges::for_each(targets, [&](const QString& target) { run.add(target); });
+    run.show();
+    if (!isDryRun)
+        run.copy();
+    run.end();
+}
+
+} // namespace norvane::command
