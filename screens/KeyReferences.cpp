@@ -1,6 +1,7 @@
 // See KeyReferences.h.
 #include "screens/KeyReferences.h"
 
+#include "store/catalogue/RecordReferences.h"
 #include "store/engine/BoundQuery.h"
 
 #include <QStringList>
@@ -16,51 +17,13 @@ namespace norvane::screens
 namespace
 {
 
-/// A field with the number of a record of table @p to. "*" in the field and the condition means the numbers
-/// from first to last: a record with several such fields counts once.
-struct Reference {
-    QLatin1StringView to;
-    QLatin1StringView holder; ///< what the user calls a record with this field; several take an "s"
-    QLatin1StringView table;
-    QLatin1StringView field;
-    int first = 1;
-    int last = 1;
-    QLatin1StringView condition = "1"_L1; ///< in the engine's words: when the field is such a number
-};
-
-/// NLU holds the number of a PLU where KEYLINK holds 0 at the same place of its order; ids do not count.
-constexpr QLatin1StringView keyOfPlu{
-    "rowid IN (SELECT at FROM"
-    " (SELECT rowid AS at, row_number() OVER (ORDER BY id, rowid) AS place FROM nlu) JOIN"
-    " (SELECT keylink, row_number() OVER (ORDER BY id, rowid) AS place FROM keylink) USING (place)"
-    " WHERE keylink = '0')"};
-
-constexpr Reference references[] = {
-    {"PLUDATA"_L1, "key"_L1, "NLU"_L1, "nlu"_L1, 1, 1, keyOfPlu},
-    // Lines of the types PLU and condiment; the others are function keys.
-    {"PLUDATA"_L1, "look-up"_L1, "WLU"_L1, "codenumber*"_L1, 1, 50, "wlutype* IN (0, 1)"_L1},
-    {"PLUDATA"_L1, "link"_L1, "PLUDATA"_L1, "STOCKLINK"_L1},
-    {"PLUDATA"_L1, "link"_L1, "PLUSTATUS"_L1, "LINKEDPLU"_L1},
-    {"GROUPS"_L1, "PLU"_L1, "PLUDATA"_L1, "GROUPNO"_L1},
-    {"GROUPS"_L1, "status group"_L1, "PLUSTATUS"_L1, "GROUPLINK*"_L1, 2, 3},
-    {"PLUSTATUS"_L1, "PLU"_L1, "PLUDATA"_L1, "PLUSTATUS"_L1},
-    {"MIXNMATCH"_L1, "PLU"_L1, "PLUDATA"_L1, "MIXNMATCH"_L1},
-    {"PRODUCTMIX"_L1, "PLU"_L1, "PLUDATA"_L1, "PRODUCTMIX"_L1},
-    {"RECIPE"_L1, "PLU"_L1, "PLUDATA"_L1, "RECIPENO"_L1},
-    {"AUTHORITYLEVEL"_L1, "employee"_L1, "EMPLOYEE"_L1, "AUTHORITYLEVEL"_L1},
-    {"JOBCODE"_L1, "employee"_L1, "EMPLOYEE"_L1, "JOB*CODE"_L1, 1, 6},
-    {"PAYRATE"_L1, "employee"_L1, "EMPLOYEE"_L1, "PAYRATE*"_L1, 1, 6},
-    {"EMPLOYEE"_L1, "system option"_L1, "GENERALFUNCTIONS"_L1, "EMPLOYEENO*"_L1, 1, 10},
-    {"EMPLOYEE"_L1, "system option"_L1, "TRAININGMODEOPTIONS"_L1, "trainingemployee"_L1},
-};
-
 QString numbered(QString text, int number)
 {
     return text.replace(u'*', QString::number(number));
 }
 
 /// A database of a former version may lack a table or a field.
-bool isIn(const store::Database& database, const Reference& reference)
+bool isIn(const store::Database& database, const store::RecordReference& reference)
 {
     if (!database.hasTable(reference.table))
         return false;
@@ -71,7 +34,7 @@ bool isIn(const store::Database& database, const Reference& reference)
     });
 }
 
-std::string countOf(const Reference& reference)
+std::string countOf(const store::RecordReference& reference)
 {
     QStringList fields;
     for (int number = reference.first; number <= reference.last; ++number)
@@ -79,7 +42,7 @@ std::string countOf(const Reference& reference)
     return u"SELECT count(*) FROM %1 WHERE %2"_s.arg(reference.table, fields.join(u" OR "_s)).toStdString();
 }
 
-int holders(store::Database& database, const Reference& reference, const store::Value& key)
+int holders(store::Database& database, const store::RecordReference& reference, const store::Value& key)
 {
     store::BoundQuery query(database, countOf(reference), {key}, reference.table);
     return query.next() ? static_cast<int>(query.value(0).toNumber()) : 0;
@@ -91,7 +54,7 @@ using Counts = std::vector<std::pair<QLatin1StringView, int>>;
 Counts counts(store::Database& database, const QString& table, const store::Value& key)
 {
     Counts counted;
-    for (const Reference& reference : references) {
+    for (const store::RecordReference& reference : store::recordReferences()) {
         if (table.compare(reference.to, Qt::CaseInsensitive) != 0 || !isIn(database, reference))
             continue;
         if (counted.empty() || counted.back().first != reference.holder)
