@@ -23,7 +23,7 @@ namespace
 const auto readerProgram = u"norvane-former"_s;
 /// Short enough to keep a window responsive.
 constexpr int millisecondsBetweenLooks = 40;
-/// A reader that says nothing for so long hangs.
+/// A reader without output for so long hangs.
 constexpr qint64 mostSilentMilliseconds = 30'000;
 /// No record is longer: it has up to 255 fields, and all but memos are short.
 constexpr qsizetype longestLine = 64 << 20;
@@ -82,7 +82,7 @@ FieldKind kindOf(std::string_view word)
     return FieldKind::Other;
 }
 
-/// Hands the reader's lines on. A line that is out of place means that the reader is not to be trusted.
+/// Passes on what the reader's lines say. After a line that is out of place nothing in them can be trusted.
 class Lines
 {
 public:
@@ -115,7 +115,7 @@ private:
             beginRows();
             m_contents.takeRow(rest);
         } else if (!takesDefinition(word, rest)) {
-            failUnreadable(m_path, u"the reader gave a line that is out of place"_s);
+            failUnreadable(m_path, u"the reader wrote a line that is out of place"_s);
         }
     }
 
@@ -127,7 +127,7 @@ private:
         } else if (word == "table" && m_state == State::Tables && rest.size() == 2) {
             m_table = {fromUtf8(rest[0]), wholeOf(rest[1]), {}};
             m_state = State::Fields;
-        } else if (word == "field" && m_state == State::Fields && rest.size() == 3) {
+        } else if (word == "field" && m_state == State::Fields && rest.size() == 2) {
             m_table.fields.append({fromUtf8(rest[0]), kindOf(rest[1])});
         } else if (word == "tableend" && m_state >= State::Fields && rest.size() == 1) {
             if (m_state == State::Fields)
@@ -217,7 +217,7 @@ void readAll(QProcess& process, const QString& path, Lines& lines, const KeepGoi
 {
     QElapsedTimer silence;
     silence.start();
-    // After the end of the process its last lines are still there to be read.
+    // The last lines of a process that has ended are still to be read.
     while (process.waitForReadyRead(millisecondsBetweenLooks) || process.state() != QProcess::NotRunning) {
         if (process.bytesAvailable() > 0) {
             lines.take(process.readAllStandardOutput());

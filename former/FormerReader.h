@@ -13,14 +13,14 @@
 namespace norvane::former
 {
 
-/// Why a former database is not taken over.
+/// Why a former database is not converted.
 enum class FormerProblem {
     NotReadable, ///< there is no such file, or it may not be read
     NotFormer,   ///< not a database of the former engine, or its first pages are damaged
     NewerFormat, ///< of 2007 or later
     Password,
     NotOurs,    ///< a database of another program
-    Unreadable, ///< the reader crashed, hung or gave nonsense
+    Unreadable, ///< the reader crashed, hung or wrote nonsense
     NoReader,   ///< norvane-former is missing beside the program
     Cancelled,
     Changed, ///< the file changed while it was read

@@ -13,9 +13,8 @@ namespace norvane::former
 /// A field as its table defines it.
 struct FieldShape {
     std::string name;
-    int type = 0; ///< MDB_TEXT and so on
-    int size = 0; ///< characters of a text
-    int scale = 0;
+    int type = 0;  ///< MDB_TEXT and so on
+    int scale = 0; ///< places of a numeric
 };
 
 /// The word for a type: "yesno", "whole", "number", "decimal", "date", "text", or "other" for pictures and

@@ -18,12 +18,12 @@ constexpr std::size_t oldPasswordSize = 20;
 constexpr std::size_t passwordSize = 40;
 constexpr int madeAt = 0x72;
 
-/// Where every file of the engine tells its name and version.
+/// Where every file of the engine has its name and version.
 constexpr std::size_t nameAt = 4;
 constexpr std::string_view engineName = "Standard ";
 constexpr std::size_t versionAt = 0x14;
 
-/// Looks before the library does: it takes any file for a database.
+/// Checks the file first, because the library takes any file for a database.
 Refusal lookAt(const char* path)
 {
     std::ifstream file(path, std::ios::binary);
@@ -38,8 +38,8 @@ Refusal lookAt(const char* path)
     return head[versionAt] > MDB_VER_JET4 ? Refusal::NewerFormat : Refusal::None;
 }
 
-/// Whether the deciphered first page holds a password. In the format of 2000 the day on which the file was
-/// made lies over it.
+/// Whether the deciphered first page holds a password. In the format of 2000 the password is masked with the
+/// day on which the file was made.
 bool hasPassword(MdbHandle& file)
 {
     std::array<unsigned char, 4> mask{};
@@ -60,21 +60,19 @@ struct FreeTable {
 };
 using Table = std::unique_ptr<MdbTableDef, FreeTable>;
 
-/// The library gives the number of places the name of the number of digits, and the other way round.
-FormerTable definitionOf(const MdbTableDef& table)
+/// The library confuses two names: its col_prec has the number of places.
+TableShape definitionOf(const MdbTableDef& table)
 {
-    FormerTable definition{table.name, table.num_rows, {}};
+    TableShape definition{table.name, table.num_rows, {}};
     for (guint i = 0; i < table.num_cols; ++i) {
         const auto* const column = static_cast<const MdbColumn*>(g_ptr_array_index(table.columns, i));
-        const int size = column->col_type == MDB_TEXT && !IS_JET3(table.entry->mdb) ? column->col_size / 2
-                                                                                    : column->col_size;
-        definition.fields.push_back({column->name, column->col_type, size, column->col_prec});
+        definition.fields.push_back({column->name, column->col_type, column->col_prec});
     }
     return definition;
 }
 
 /// Sets @p texts to the record that the library has just fetched. @return false for a damaged one.
-bool setRow(std::vector<std::string>& texts, MdbTableDef& table, const FormerTable& definition)
+bool setRow(std::vector<std::string>& texts, MdbTableDef& table, const TableShape& definition)
 {
     MdbHandle& file = *table.entry->mdb;
     int start = 0;
@@ -90,8 +88,8 @@ bool setRow(std::vector<std::string>& texts, MdbTableDef& table, const FormerTab
     return true;
 }
 
-/// What the library makes of a page that the file does not hold whole.
-bool isEmptyRow(const std::vector<std::string>& texts, const FormerTable& definition)
+/// What the library returns for a record of a page that is cut off.
+bool isEmptyRow(const std::vector<std::string>& texts, const TableShape& definition)
 {
     for (std::size_t i = 0; i < texts.size(); ++i) {
         if (definition.fields[i].type != MDB_BOOL && texts[i] != nullText)
@@ -134,14 +132,14 @@ std::vector<std::string> FormerFile::tableNames() const
     return names;
 }
 
-void FormerFile::readTable(const std::string& name, const std::function<void(const FormerTable&)>& begin,
+void FormerFile::readTable(const std::string& name, const std::function<void(const TableShape&)>& begin,
                            const std::function<void(std::span<const std::string>)>& takeRow) const
 {
     std::string wanted = name;
     const Table table(mdb_read_table_by_name(m_file.get(), wanted.data(), MDB_TABLE));
     if (table == nullptr || mdb_read_columns(table.get()) == nullptr || table->num_cols > MDB_MAX_COLS)
         return;
-    const FormerTable definition = definitionOf(*table);
+    const TableShape definition = definitionOf(*table);
     begin(definition);
     std::vector<std::string> texts(definition.fields.size());
     mdb_rewind_table(table.get());

@@ -15,13 +15,13 @@ namespace norvane::former
 {
 
 /// A table as its definition says.
-struct FormerTable {
+struct TableShape {
     std::string name;
     std::uint32_t recordCount = 0;
     std::vector<FieldShape> fields;
 };
 
-/// An open file. Whatever it holds may come from strangers, so it is read in a process of its own.
+/// An open file. It may come from strangers, so it is read in a process of its own.
 class FormerFile
 {
 public:
@@ -35,7 +35,7 @@ public:
     /// Calls @p begin with the definition of the table and @p takeRow with each of its records: the values as
     /// texts (see FieldText.h), in the order of the definition's fields. Nothing is called for a table whose
     /// definition cannot be read.
-    void readTable(const std::string& name, const std::function<void(const FormerTable&)>& begin,
+    void readTable(const std::string& name, const std::function<void(const TableShape&)>& begin,
                    const std::function<void(std::span<const std::string>)>& takeRow) const;
 
 private:

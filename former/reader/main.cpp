@@ -6,7 +6,7 @@
 // Lines, with tabs between their parts (see FieldText.h for values):
 //   format  2000
 //   table   PLUDATA  267             the records that its definition promises
-//   field   PLUNUMBER  text  18      the size of a text in characters
+//   field   PLUNUMBER  text          the words of typeWord()
 //   row     000000000000001001  Espresso  1  ...
 //   tableend  267                    the records that were read
 //   end
@@ -73,7 +73,7 @@ private:
     std::string m_line;
 };
 
-void writeDefinition(Lines& lines, const FormerTable& table)
+void writeDefinition(Lines& lines, const TableShape& table)
 {
     lines.begin("table");
     lines.add(table.name);
@@ -83,7 +83,6 @@ void writeDefinition(Lines& lines, const FormerTable& table)
         lines.begin("field");
         lines.add(field.name);
         lines.add(typeWord(field.type));
-        lines.add(std::to_string(field.size));
         lines.end();
     }
 }
@@ -94,7 +93,7 @@ void writeTable(Lines& lines, const FormerFile& file, const std::string& name)
     bool isKnown = false;
     file.readTable(
         name,
-        [&](const FormerTable& table) {
+        [&](const TableShape& table) {
             isKnown = true;
             writeDefinition(lines, table);
         },

@@ -97,10 +97,10 @@ TEST(Damage, AReaderThatFailsIsASentence)
     EXPECT_EQ(problemWithReader("kill -SEGV $$"), "is damaged: the reader crashed.");
     EXPECT_EQ(problemWithReader("printf 'format\\t2000\\n'"), "is damaged: the reader stopped early.");
     EXPECT_EQ(problemWithReader("printf 'format\\t2000\\nrow\\t1\\nend\\n'"),
-              "is damaged: the reader gave a line that is out of place.");
+              "is damaged: the reader wrote a line that is out of place.");
     EXPECT_EQ(
-        problemWithReader("printf 'format\\t2000\\ntable\\tA\\t1\\nfield\\tB\\twhole\\t4\\nrow\\t1\\t2\\n'"),
-        "is damaged: the reader gave a line that is out of place.");
+        problemWithReader("printf 'format\\t2000\\ntable\\tA\\t1\\nfield\\tB\\twhole\\nrow\\t1\\t2\\n'"),
+        "is damaged: the reader wrote a line that is out of place.");
     EXPECT_EQ(problemWithReader("exit 9"), "is damaged: the reader stopped early.");
 }
 
