@@ -1,6 +1,7 @@
 // Storing, and the exchange of the files; see Conversion.h.
 #include "former/Conversion.h"
 
+#include "base/ApplicationValues.h"
 #include "former/ConversionReport.h"
 #include "former/FormerValues.h"
 #include "former/TablePlan.h"
@@ -13,6 +14,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QScopeGuard>
 
 #include <filesystem>
@@ -29,7 +31,6 @@ using store::Database;
 using store::Recordset;
 using store::Value;
 
-const auto databaseName = u"velmar.mdb"_s;
 const auto unfinishedName = u"velmar.converting"_s;
 
 [[noreturn]] void failChanged(const QString& path)
@@ -39,7 +40,7 @@ const auto unfinishedName = u"velmar.converting"_s;
                           QDir::toNativeSeparators(path)));
 }
 
-/// Stores table after table; each is added to the file when it comes.
+/// Stores table after table, each of which is added to the file when its definition is read.
 class Storing : public FormerContents
 {
 public:
@@ -119,7 +120,7 @@ private:
     qint64 m_record = 0;
 };
 
-/// Everything in one transaction: a file that is not complete is removed.
+/// In one transaction, which is fast; the caller removes a file that is not complete.
 Converted storeAll(const QString& from, const QString& to, const QString& programFolder,
                    const ConversionProgress& progress)
 {
@@ -134,7 +135,7 @@ Converted storeAll(const QString& from, const QString& to, const QString& progra
     return done;
 }
 
-/// A name for the former database that is not taken: an earlier conversion may have left one.
+/// A free name for the former database: an earlier conversion may have left one.
 QString freeName(const QDir& folder)
 {
     QString name = u"velmar.former.mdb"_s;
@@ -165,6 +166,8 @@ void keepFormer(const QString& path, const QString& kept)
     if (!error)
         return;
     std::filesystem::copy_file(nativePath(path), nativePath(kept), error);
+    if (error)
+        QFile::remove(kept);
     failWith(error, kept);
 }
 
@@ -187,11 +190,12 @@ QString exchangeFiles(const QString& folder, const QString& former, const QStrin
 Converted convertDatabase(const QString& customerPath, const QString& programFolder, const Examination& found,
                           const ConversionProgress& progress)
 {
-    const QString former = existingPath(joinPath(customerPath, databaseName));
+    const QString former = existingPath(joinPath(customerPath, databaseFileName));
     const QString made = joinPath(customerPath, unfinishedName);
     auto removeMade = qScopeGuard([&made] { QFile::remove(made); });
     Converted done = storeAll(former, made, programFolder, progress);
-    if (done.records + done.leftOut.size() != found.recordCount)
+    if (QFileInfo(former).lastModified() != found.fileTime ||
+        done.records + done.leftOut.size() != found.recordCount)
         failChanged(former);
     done.keptAs = exchangeFiles(customerPath, former, made);
     removeMade.dismiss();

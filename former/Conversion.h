@@ -23,11 +23,11 @@ struct Converted {
 /// Called now and then with the records stored so far. @return false to cancel.
 using ConversionProgress = std::function<bool(qint64 stored)>;
 
-/// Makes a new velmar.mdb of the one in the folder @p customerPath, which is kept as velmar.former.mdb with
-/// every byte. Values that do not fit are cut or left out as @p found lists them, records that cannot be read
+/// Makes a new velmar.mdb from the one in the folder @p customerPath, which is kept as velmar.former.mdb with
+/// every byte. Values that do not fit are cut or left out as @p found lists them; records that cannot be read
 /// are missing. The new file takes its place in one step: whatever happens, the folder always holds either
 /// the old or the complete new database under the name velmar.mdb.
-/// @throws FormerError, also FormerProblem::Changed when the file is not what @p found tells of, and
+/// @throws FormerError, with FormerProblem::Changed if the file changed since @p found was made, and
 /// RuntimeFailure with Failure::DiskFull, Failure::PathOrFileAccess ...; the folder is then as it was.
 Converted convertDatabase(const QString& customerPath, const QString& programFolder, const Examination& found,
                           const ConversionProgress& progress = {});

@@ -6,6 +6,7 @@
 #include "store/catalogue/SalesTables.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -116,8 +117,9 @@ Examination examine(const QString& path, const QString& programFolder, const Kee
 {
     const auto begun = std::chrono::steady_clock::now();
     Examiner examiner;
-    readFormerFile(path, programFolder, examiner, keepGoing);
     Examination& found = examiner.found();
+    found.fileTime = QFileInfo(path).lastModified();
+    readFormerFile(path, programFolder, examiner, keepGoing);
     found.readingTime =
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - begun);
     const auto hasPlus = [](const FoundTable& table) {

@@ -4,6 +4,7 @@
 #include "former/FormerReader.h"
 
 #include <QDate>
+#include <QDateTime>
 #include <QStringList>
 #include <QVector>
 
@@ -20,7 +21,7 @@ struct ShortTable {
     qint64 read = 0;
 };
 
-/// A value that its field cannot hold whole.
+/// A value of which its field can hold only a part, or nothing.
 struct UnfitValue {
     QString table;
     qint64 record = 0; ///< counted from 1, as the file has them
@@ -30,14 +31,15 @@ struct UnfitValue {
     bool isKey = false; ///< of a field that may not be empty: the whole record is left out
 };
 
-/// A table that was found, and the catalogue knows.
+/// A table of the file that the catalogue has.
 struct FoundTable {
     QString name;
     qint64 records = 0;
 };
 
 struct Examination {
-    QString format; ///< the year of the format: "1997" or "2000"
+    QDateTime fileTime; ///< of the last change before the file was read
+    QString format;     ///< the year of the format: "1997" or "2000"
     QVector<FoundTable> tables;
     qint64 recordCount = 0; ///< of the tables
     QDate firstSales;       ///< invalid without sales

@@ -164,16 +164,33 @@ TEST(Conversion, TablesAndFieldsOfOthersAreListedAndTheOldFileIsKept)
     EXPECT_EQ(shop.rows(u"select description from pludata"_s), "Tea");
 }
 
-TEST(Conversion, CancelledItLeavesTheFolderAsItWas)
+FormerProblem problemOfConversion(const FormerShop& shop, const Examination& found,
+                                  const ConversionProgress& progress)
 {
-    const QByteArray content = databaseWith(plus());
-    const FormerShop shop(content);
+    try {
+        (void)convertDatabase(shop.folder().path(), QStringLiteral(READER_FOLDER), found, progress);
+    } catch (const FormerError& error) {
+        return error.problem();
+    }
+    ADD_FAILURE() << "it was converted";
+    return {};
+}
+
+TEST(Conversion, CancelledOrWithAChangedFileItLeavesTheFolderAsItWas)
+{
+    const FormerShop shop(databaseWith(plus()));
     const Examination found = shop.examined();
-    EXPECT_THROW((void)convertDatabase(shop.folder().path(), QStringLiteral(READER_FOLDER), found,
-                                       [](qint64) { return false; }),
-                 FormerError);
+    EXPECT_EQ(problemOfConversion(shop, found, [](qint64) { return false; }), FormerProblem::Cancelled);
+    // The former program stored a price: as many records, at a later time.
+    const QByteArray changed = databaseWith(plus({{u"000000000000001001"_s, u"Tea"_s, u"1.3"_s}}));
+    shop.folder().write("velmar.mdb", changed);
+    QFile file(shop.folder().path("velmar.mdb"));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.setFileTime(found.fileTime.addSecs(5), QFileDevice::FileModificationTime);
+    file.close();
+    EXPECT_EQ(problemOfConversion(shop, found, {}), FormerProblem::Changed);
     EXPECT_EQ(shop.folder().names(), QStringList{u"velmar.mdb"_s});
-    EXPECT_EQ(shop.folder().read("velmar.mdb"), content);
+    EXPECT_EQ(shop.folder().read("velmar.mdb"), changed);
 }
 
 } // namespace
