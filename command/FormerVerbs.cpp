@@ -6,6 +6,7 @@
 #include "customers/FormerCustomer.h"
 #include "former/ConversionReport.h"
 #include "platform/FilePaths.h"
+#include "platform/FolderLock.h"
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/DatabaseCheck.h"
 #include "store/engine/Database.h"
@@ -13,6 +14,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -118,6 +120,9 @@ private:
 
     void convertFolder(const QString& name, const QString& folder)
     {
+        const auto lock = FolderLock::take(folder, m_workplace.boxes);
+        if (lock == nullptr)
+            return note(name, codeOfRefusedLock({folder}), u"Nothing was started."_s);
         QString refused;
         const customers::ConversionWatch watch{
             goOn, [&](const former::Examination& found) { return accepts(found, refused); },
@@ -125,9 +130,8 @@ private:
                 return goOn();
             }};
         try {
-            const auto done =
-                customers::convertCustomer(folder, m_workplace.appPath, m_workplace.boxes, watch);
-            addRow(name, u"converted"_s, done.records, leftOutInWords(done));
+            const auto done = customers::convertCustomer(folder, m_workplace.appPath, watch);
+            addRow(name, u"converted"_s, done.records, former::leftOutInWords(done));
         } catch (const former::FormerError& error) {
             if (refused.isEmpty())
                 throw;
@@ -139,7 +143,7 @@ private:
     bool accepts(const former::Examination& found, QString& refused)
     {
         const QStringList losses = former::lossesInWords(found);
-        const QString question = u"Not everything in it can be kept:\r%1\r\rConvert it all the same?"_s;
+        const QString question = u"Not everything in it can be kept:\r%1\r\rConvert it anyway?"_s;
         if (losses.isEmpty() ||
             askBeforeLoss(m_workplace.boxes, question.arg(losses.join(u'\r')), acceptLosses))
             return true;
@@ -151,13 +155,6 @@ private:
     {
         stopIfSignalled();
         return true;
-    }
-
-    static QString leftOutInWords(const former::Converted& done)
-    {
-        return done.leftOut.isEmpty()
-                   ? QString()
-                   : u"%1 records left out, see %2"_s.arg(done.leftOut.size()).arg(done.reportFile);
     }
 
     void addRow(const QString& name, const QString& result, const QVariant& records, const QString& note)
@@ -185,8 +182,8 @@ QStringList formerCustomers(const QString& appPath)
     return names;
 }
 
-/// Files of a former customer in the order in which they are copied: after a copy that was cut off, what is
-/// missing is not taken for a new customer's.
+/// Files of a former customer in the order in which they are copied. The database is the first: a folder
+/// without one would be filled like that of a new customer after a copy that was cut off.
 QStringList filesToCopy(const QDir& customer)
 {
     QStringList files = customer.entryList(QDir::Files | QDir::Hidden, QDir::Name);
@@ -197,19 +194,22 @@ QStringList filesToCopy(const QDir& customer)
     return files;
 }
 
+/// All files or none: a part of a customer would be taken for the whole one later.
 /// @return what could not be copied; empty on success.
 QString copyCustomer(const QDir& from, const QString& to)
 {
     if (!QDir().mkpath(to))
         return to;
+    auto removePart = qScopeGuard([&to] { QDir(to).removeRecursively(); });
     for (const QString& name : filesToCopy(from)) {
         stopIfSignalled();
-        QString copy =
-            joinPath(to, name.compare("velmar.mdb"_L1, Qt::CaseInsensitive) == 0 ? u"velmar.mdb"_s : name);
+        const bool isDatabase = name.compare(databaseFileName, Qt::CaseInsensitive) == 0;
+        QString copy = joinPath(to, isDatabase ? QString(databaseFileName) : name);
         if (!QFile::copy(from.filePath(name), copy))
             return copy;
         QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
     }
+    removePart.dismiss();
     return {};
 }
 
@@ -244,7 +244,6 @@ void adoptInstallation(const Workplace& workplace, const Invocation& words)
         if (failed.isEmpty()) {
             run.convert(name, folder);
         } else {
-            QDir(folder).removeRecursively();
             run.note(name, ExitCode::Unwritable,
                      u"%1 cannot be written."_s.arg(QDir::toNativeSeparators(failed)));
         }

@@ -1,7 +1,6 @@
 // See Workplace.h.
 #include "command/Workplace.h"
 
-#include "command/ExitCode.h"
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "customers/CustomerFolders.h"
@@ -16,6 +15,8 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 #include <QTemporaryDir>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -145,11 +146,14 @@ std::unique_ptr<customers::RunLock> lockFor(const Workplace& workplace, const Ap
     // A killed run would leave the lock but no line in the log.
     catchStopSignals();
     auto lock = customers::RunLock::take(values, workplace.boxes);
-    if (lock == nullptr) {
-        const bool isWritable = canWriteIn(values.appPath) && canWriteIn(values.customerPath);
-        throw CommandError(isWritable ? ExitCode::Busy : ExitCode::Unwritable, {});
-    }
+    if (lock == nullptr)
+        throw CommandError(codeOfRefusedLock({values.appPath, values.customerPath}), {});
     return lock;
+}
+
+ExitCode codeOfRefusedLock(const QStringList& folders)
+{
+    return std::ranges::all_of(folders, canWriteIn) ? ExitCode::Busy : ExitCode::Unwritable;
 }
 
 } // namespace norvane::command

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
+#include "command/ExitCode.h"
 #include "command/Listing.h"
 #include "platform/Boxes.h"
 
@@ -50,5 +51,8 @@ struct Workplace {
 /// written.
 [[nodiscard]] std::unique_ptr<customers::RunLock> lockFor(const Workplace& workplace,
                                                           const ApplicationValues& values);
+
+/// Why the lock of one of @p folders was not taken: Busy, or Unwritable if a new file cannot be made in it.
+[[nodiscard]] ExitCode codeOfRefusedLock(const QStringList& folders);
 
 } // namespace norvane::command

@@ -1,9 +1,8 @@
-// Look, decide, convert; see FormerCustomer.h.
+// Examine, ask, convert; see FormerCustomer.h.
 #include "customers/FormerCustomer.h"
 
 #include "customers/CustomerFolders.h"
 #include "customers/CustomerLog.h"
-#include "platform/FolderLock.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,12 +18,9 @@ namespace
 
 } // namespace
 
-former::Converted convertCustomer(const QString& customerPath, const QString& programFolder, Boxes& boxes,
+former::Converted convertCustomer(const QString& customerPath, const QString& programFolder,
                                   const ConversionWatch& watch)
 {
-    const auto lock = FolderLock::take(customerPath, boxes);
-    if (lock == nullptr)
-        cancel();
     const former::Examination found =
         former::examine(customerDatabase(customerPath), programFolder, watch.keepGoing);
     if (!watch.accepts(found))

@@ -37,8 +37,8 @@ QString shortTableInWords(const ShortTable& table)
 {
     if (table.promised < 0)
         return u"The table %1 cannot be read at all."_s.arg(table.name);
-    return u"The table %1 has %2 records, and %3 can be read."_s.arg(table.name, shownCount(table.promised),
-                                                                     shownCount(table.read));
+    return u"The table %1 has %2, and %3 can be read."_s.arg(table.name, counted(table.promised, "record"_L1),
+                                                             shownCount(table.read));
 }
 
 QString unfitInWords(const UnfitValue& value)
@@ -109,6 +109,18 @@ QStringList lossesInWords(const Examination& found)
     QStringList lines = shortened(missing, missing.size());
     lines += shortened(unfitInWords(found), found.unfitCount);
     return lines;
+}
+
+QString leftOutInWords(const Converted& done)
+{
+    if (done.leftOut.isEmpty())
+        return {};
+    const bool isOne = done.leftOut.size() == 1;
+    const QString words = counted(done.leftOut.size(), "record"_L1) +
+                          (isOne ? u" was left out: it has the key of an earlier one, or no key."_s
+                                 : u" were left out: each has the key of an earlier one, or no key."_s);
+    return done.reportFile.isEmpty() ? words
+                                     : words + u" See %1 in the customer's folder."_s.arg(done.reportFile);
 }
 
 QString durationInWords(const Examination& found)

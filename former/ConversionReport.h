@@ -10,8 +10,10 @@ namespace norvane::former
 [[nodiscard]] QStringList findingsInWords(const Examination& found);
 /// What would be lost, in lines for the user; empty when nothing would.
 [[nodiscard]] QStringList lossesInWords(const Examination& found);
-/// The whole question before a conversion; of @p found with losses it asks for them too.
+/// The whole question before a conversion, with the losses if there are any.
 [[nodiscard]] QString conversionQuestion(const Examination& found);
+/// "1 record was left out ...", and where it is named; empty if all records were stored.
+[[nodiscard]] QString leftOutInWords(const Converted& done);
 /// About how long the conversion takes: "about 5 seconds".
 [[nodiscard]] QString durationInWords(const Examination& found);
 

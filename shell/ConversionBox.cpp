@@ -4,6 +4,7 @@
 #include "base/LossQuestion.h"
 #include "customers/FormerCustomer.h"
 #include "former/ConversionReport.h"
+#include "platform/FolderLock.h"
 #include "platform/RuntimeFailure.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
@@ -68,15 +69,11 @@ private:
     std::chrono::steady_clock::time_point m_appearance = std::chrono::steady_clock::now() + untilAppearance;
 };
 
-/// Whatever was left out beyond what the question told.
-void tellOfLeftOut(const former::Converted& done, Boxes& boxes)
+/// Only storing finds records without a key of their own, after the question was answered.
+void showLeftOut(const former::Converted& done, Boxes& boxes)
 {
-    if (done.leftOut.isEmpty())
-        return;
-    boxes.message(u"Left out: %1 records whose key was there already, or that had none.\r\rSee %2 in the "
-                  "customer's folder."_s.arg(done.leftOut.size())
-                      .arg(done.reportFile),
-                  failureTitle, BoxIcon::Exclamation);
+    if (const QString words = former::leftOutInWords(done); !words.isEmpty())
+        boxes.message(words, failureTitle, BoxIcon::Exclamation);
 }
 
 } // namespace
@@ -84,6 +81,9 @@ void tellOfLeftOut(const former::Converted& done, Boxes& boxes)
 bool convertAfterQuestion(const QString& customerPath, const QString& programFolder, Boxes& boxes,
                           QWidget* window)
 {
+    const auto lock = FolderLock::take(customerPath, boxes);
+    if (lock == nullptr)
+        return false;
     ConversionBox box(window);
     const customers::ConversionWatch watch{[&box] { return box.goOn(); },
                                            [&](const former::Examination& found) {
@@ -94,9 +94,9 @@ bool convertAfterQuestion(const QString& customerPath, const QString& programFol
                                                return box.showStored(stored, all);
                                            }};
     try {
-        const auto done = customers::convertCustomer(customerPath, programFolder, boxes, watch);
+        const auto done = customers::convertCustomer(customerPath, programFolder, watch);
         box.hide();
-        tellOfLeftOut(done, boxes);
+        showLeftOut(done, boxes);
         return true;
     } catch (const former::FormerError& error) {
         if (error.problem() != former::FormerProblem::Cancelled)

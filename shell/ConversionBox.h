@@ -1,4 +1,4 @@
-// Takes over a customer of the former program, with a question and a progress box.
+// Converts a customer of the former program, with a question and a progress box.
 #pragma once
 
 #include "platform/Boxes.h"

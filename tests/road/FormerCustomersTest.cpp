@@ -1,9 +1,11 @@
 // The command line takes over customers of the former program, one by one and whole installations.
+#include "platform/FolderLock.h"
 #include "store/engine/Database.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/road/RunCommand.h"
 #include "tests/store/Rows.h"
 #include "tests/support/FormerWriter.h"
+#include "tests/support/RecordingBoxes.h"
 
 namespace norvane
 {
@@ -73,6 +75,10 @@ TEST_F(FormerCustomers, ConvertsThoseThatLoseNothing)
     EXPECT_EQ(m_folder.read("Short/velmar.mdb"), database(5));
     EXPECT_EQ(files("Secret"), (QStringList{u"setup.ini"_s, u"velmar.mdb"_s}));
 
+    test::RecordingBoxes boxes;
+    auto lock = FolderLock::take(m_folder.path("Short"), boxes);
+    EXPECT_EQ(run({u"convert"_s, u"Short"_s}).code, 5);
+    lock.reset();
     EXPECT_EQ(run({u"convert"_s, u"Short"_s}).code, 16);
     EXPECT_EQ(run({u"convert"_s, u"Short"_s, u"--accept-losses"_s}).code, 0);
     EXPECT_EQ(test::rowsOf(m_folder.path("Short/velmar.mdb"), u"select description from pludata"_s), "Tea");

@@ -61,7 +61,7 @@ TEST_F(FormerCustomerTest, YesConvertsAndOpensIt)
     m_boxes.answers = {true};
     EXPECT_EQ(choose(), QDialog::Accepted);
     ASSERT_EQ(m_boxes.shown.size(), 2U);
-    EXPECT_TRUE(m_boxes.shown[1].text.startsWith(u"Left out: 1 records"_s));
+    EXPECT_TRUE(m_boxes.shown[1].text.startsWith(u"1 record was left out: it has the key"_s));
     EXPECT_EQ(test::rowsOf(m_folder.path("app/Cafe/velmar.mdb"), u"select description from pludata"_s),
               "Tea");
     EXPECT_EQ(m_folder.read("app/Cafe/velmar.former.mdb"), m_former);
