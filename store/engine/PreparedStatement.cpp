@@ -208,6 +208,11 @@ QString PreparedStatement::text(int column)
     return QString::fromUtf8(text, sqlite3_column_bytes(m_statement.get(), column));
 }
 
+sqlite3_value* PreparedStatement::stored(int column)
+{
+    return sqlite3_column_value(m_statement.get(), column);
+}
+
 int PreparedStatement::columnCount() const
 {
     return sqlite3_column_count(m_statement.get());

@@ -13,6 +13,7 @@
 
 struct sqlite3;
 struct sqlite3_stmt;
+struct sqlite3_value;
 
 namespace norvane::store
 {
@@ -50,6 +51,8 @@ public:
     void read(int column, std::optional<FieldType> type, Value& value);
     [[nodiscard]] std::int64_t whole(int column);
     [[nodiscard]] QString text(int column);
+    /// As the engine holds it; valid until the next step.
+    [[nodiscard]] sqlite3_value* stored(int column);
 
     [[nodiscard]] int columnCount() const;
     [[nodiscard]] QString columnName(int column) const;
