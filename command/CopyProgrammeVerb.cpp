@@ -4,15 +4,11 @@
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
 #include "customers/CustomerFolders.h"
-#include "platform/FolderLock.h"
-#include "programme/PartCopy.h"
 #include "programme/ProgrammeParts.h"
-
-#include <QFileInfo>
+#include "programme/ReceivingShop.h"
 
 #include <algorithm>
 #include <memory>
-#include <optional>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,20 +17,6 @@ namespace norvane::command
 {
 namespace
 {
-
-/// A shop that receives the parts. Not moved: the comparison refers to its database.
-struct ReceivingShop {
-    explicit ReceivingShop(ApplicationValues shop)
-        : values(std::move(shop)), database(values.databasePath), model(registerModel(values))
-    {
-    }
-
-    ApplicationValues values;
-    store::Database database;
-    const RegisterModel& model;
-    std::unique_ptr<FolderLock> lock;
-    std::optional<programme::PartComparison> comparison;
-};
 
 /// Lists what would change at all shops, then changes one shop after the other.
 class ProgrammeCopyRun
@@ -63,11 +45,8 @@ public:
     void copy()
     {
         for (const auto& shop : m_shops) {
-            const QString& name = shop->values.customerName;
-            attempt(name, [&] {
-                const QString done = programme::copyParts(*shop->comparison, m_from.customerName,
-                                                          shop->values, untilSignalled);
-                printStep(u"%1: %2"_s.arg(name, done));
+            attempt(shop->name(), [&] {
+                printStep(u"%1: %2"_s.arg(shop->name(), shop->copy(m_from.customerName, untilSignalled)));
             });
         }
     }
@@ -103,48 +82,31 @@ private:
 
     void compareWith(const QString& name)
     {
-        auto shop = std::make_unique<ReceivingShop>(takeCustomer(m_workplace, name));
-        if (isNamed(shop->values.customerPath))
+        auto shop = std::make_unique<programme::ReceivingShop>(takeCustomer(m_workplace, name));
+        if (isNamed(shop->folder()))
             return;
         if (!m_isDryRun)
-            shop->lock = lockOf(shop->values);
-        shop->comparison.emplace(programme::ShopData{m_database, m_model},
-                                 programme::ShopData{shop->database, shop->model}, m_parts, untilSignalled);
-        for (const auto& what : shop->comparison->leftOut())
-            printMessage(u"%1: left out: %2"_s.arg(shop->values.customerName, what.inWords()));
+            shop->lock();
+        shop->compare({m_database, m_model}, m_parts, untilSignalled);
+        for (const auto& what : shop->comparison().leftOut())
+            printMessage(u"%1: left out: %2"_s.arg(shop->name(), what.inWords()));
         m_shops.push_back(std::move(shop));
     }
-    [[nodiscard]] bool isNamed(const QString& path) const
+    [[nodiscard]] bool isNamed(const QString& folder) const
     {
-        return std::ranges::any_of(m_shops,
-                                   [&](const auto& shop) { return shop->values.customerPath == path; });
-    }
-    [[nodiscard]] std::unique_ptr<FolderLock> lockOf(const ApplicationValues& values) const
-    {
-        auto lock = FolderLock::take(values.customerPath, m_workplace.boxes);
-        if (lock == nullptr) {
-            const bool isWritable = QFileInfo(values.customerPath).isWritable();
-            throw CommandError(isWritable ? ExitCode::Busy : ExitCode::Unwritable, {});
-        }
-        return lock;
+        return std::ranges::any_of(m_shops, [&](const auto& shop) { return shop->folder() == folder; });
     }
 
-    static void listChanges(const ReceivingShop& shop,
+    static void listChanges(const programme::ReceivingShop& shop,
                             const std::function<void(const QVariantList& row)>& take)
     {
-        using programme::ChangeKind;
         const auto list = [&](const programme::RecordChange& change) {
-            const QVariantList place{shop.values.customerName, change.table, change.record};
-            if (change.kind == ChangeKind::New)
-                return take(place + QVariantList{u"new record"_s, {}, change.text});
-            if (change.kind == ChangeKind::Gone)
-                return take(place + QVariantList{u"removed record"_s, change.text, {}});
-            for (const auto& field : change.fields) {
-                if (field.refusal.isEmpty())
-                    take(place + QVariantList{field.field, field.before, field.after});
-            }
+            forEachLine(change, [&](const programme::ChangeLine& line) {
+                take({shop.name(), change.table, change.record, line.what, line.before, line.after});
+            });
+            return true;
         };
-        shop.comparison->forEach(list, untilSignalled);
+        shop.comparison().forEach(list, untilSignalled);
     }
 
     const Workplace& m_workplace;
@@ -153,7 +115,7 @@ private:
     const RegisterModel& m_model;
     programme::ChosenParts m_parts;
     bool m_isDryRun;
-    std::vector<std::unique_ptr<ReceivingShop>> m_shops;
+    std::vector<std::unique_ptr<programme::ReceivingShop>> m_shops;
     ExitCode m_code = ExitCode::Done;
 };
 

@@ -106,15 +106,27 @@ void PartComparison::leaveOut(const LeftOut& what)
     }
 }
 
-void PartComparison::forEach(const std::function<void(const RecordChange& change)>& take,
+void PartComparison::forEach(const std::function<bool(const RecordChange& change)>& take,
                              const KeepGoing& keepGoing) const
 {
     for (const QString& table : m_parts.tables) {
         PartWalk walk(m_from, m_to, table, m_parts.records);
         while (walk.next(keepGoing)) {
-            if (walk.change().isCopied())
-                take(walk.change());
+            if (walk.change().isCopied() && !take(walk.change()))
+                return;
         }
+    }
+}
+
+void forEachLine(const RecordChange& change, const std::function<void(const ChangeLine& line)>& take)
+{
+    if (change.kind == ChangeKind::New)
+        return take({u"new record"_s, {}, change.text});
+    if (change.kind == ChangeKind::Gone)
+        return take({u"removed record"_s, change.text, {}});
+    for (const FieldChange& field : change.fields) {
+        if (field.refusal.isEmpty())
+            take({field.field, field.before, field.after});
     }
 }
 

@@ -34,6 +34,16 @@ struct ChangeCounts {
     [[nodiscard]] QString inWords() const;
 };
 
+/// A line of a list of changes: a field, or "new record" or "removed record" with the text of the record.
+struct ChangeLine {
+    QString what;
+    QString before;
+    QString after;
+};
+
+/// Calls @p take with each line of what is copied of @p change.
+void forEachLine(const RecordChange& change, const std::function<void(const ChangeLine& line)>& take);
+
 /// Something that is not copied: a table, a record or a field of some records.
 struct LeftOut {
     QString table;
@@ -70,10 +80,9 @@ public:
 
     [[nodiscard]] const ChangeCounts& counts() const { return m_counts; }
     [[nodiscard]] const QList<LeftOut>& leftOut() const { return m_leftOut; }
-    /// Calls @p take with each change that copying makes, without what is left out, table by table and by
-    /// key.
+    /// Calls @p take with each change that copying makes, table by table and by key, until it returns false.
     /// @throws RuntimeFailure as the constructor does
-    void forEach(const std::function<void(const RecordChange& change)>& take,
+    void forEach(const std::function<bool(const RecordChange& change)>& take,
                  const KeepGoing& keepGoing = {}) const;
 
 private:

@@ -49,6 +49,7 @@ protected:
                                        change.text);
             for (const FieldChange& field : change.fields)
                 lines << u"%1 %2>%3"_s.arg(field.field, field.before, field.after);
+            return true;
         });
         return lines.join(u"; "_s);
     }
