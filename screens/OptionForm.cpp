@@ -184,15 +184,26 @@ bool OptionForm::save()
         keepNumber(fields);
         return false;
     }
+    if (!storeRecord(fields))
+        return false;
+    showUnchanged(fields);
+    Q_EMIT noticeChanged(recordSaved(shownRecord()));
+    reloadList();
+    return true;
+}
+
+/// @return false if the record was refused.
+bool OptionForm::storeRecord(BoundFields& fields)
+{
+    auto work = recordWork();
+    const QString done = m_editor->isAdding() ? u"Added "_s : u"Saved "_s;
     const auto refusal = m_editor->save(fields);
     if (refusal) {
         CSPict1->showContents(fields);
         tellRefusal(*refusal);
         return false;
     }
-    showUnchanged(fields);
-    Q_EMIT noticeChanged(recordSaved(shownRecord()));
-    reloadList();
+    work.setName(done + shownRecord());
     return true;
 }
 
@@ -237,7 +248,11 @@ void OptionForm::deleteRecord()
 {
     if (!m_boxes.ask(u"Are You Sure?"_s, u"Delete Record"_s, BoxIcon::Critical, BoxAnswer::No))
         return;
-    m_editor->deleteRecord();
+    {
+        auto work = recordWork();
+        work.setName(u"Deleted "_s + shownRecord());
+        m_editor->deleteRecord();
+    }
     reloadList();
     ShowFields();
 }

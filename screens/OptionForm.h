@@ -12,6 +12,7 @@
 #include "screens/SideRoom.h"
 #include "screens/TypedChanges.h"
 #include "store/engine/Database.h"
+#include "store/engine/WorkHistory.h"
 
 #include <QWidget>
 
@@ -58,9 +59,13 @@ public:
     /// Shows the record, and the rows of a grid, as they now are in the file, which another screen, a price
     /// change or an upload may have changed; a record with unsaved input is unchanged.
     void refresh();
+    /// The same, and the list. A screen whose record is gone goes to the first one.
+    void refreshAll();
     /// Returns to the record whose changes this screen, or an earlier one of the same file, dropped last, and
     /// restores them to the controls. The current input is kept in their place.
     void getBack();
+    /// From now on, what is saved, added and deleted can be undone from @p history.
+    void setHistory(std::shared_ptr<store::WorkHistory> history) { m_history = std::move(history); }
     [[nodiscard]] QString screenFile() const { return m_file.path(); }
     [[nodiscard]] QString databasePath() const { return m_databasePath; }
 
@@ -110,6 +115,7 @@ private:
     void startRecord();
     void saveRecord();
     [[nodiscard]] bool save();
+    [[nodiscard]] bool storeRecord(BoundFields& fields);
     [[nodiscard]] bool mayRenumberRecord(const BoundFields& fields);
     void keepNumber(BoundFields fields);
     /// "PLU 1001"; the caption for the only record of a screen.
@@ -132,6 +138,7 @@ private:
     void showUnchanged(const BoundFields& fields);
     void showStar();
     [[nodiscard]] std::optional<LostChanges> unsavedChanges() const;
+    [[nodiscard]] store::RecordedWork recordWork();
     void drop(std::optional<LostChanges> changes);
     [[nodiscard]] bool mayLeave();
     void returnTo(const LostChanges& lost);
@@ -151,6 +158,7 @@ private:
     bool m_failed = false;        ///< it closes, and does nothing any more
     std::optional<TypedChanges> m_typed;
     std::shared_ptr<LostChangesList> m_losses;
+    std::shared_ptr<store::WorkHistory> m_history;
     QString m_notice; ///< what the action that is under way has dropped or saved, said at its end
     QSize m_size;
     SideRoom m_sideRoom; ///< for the open list

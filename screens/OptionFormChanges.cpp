@@ -30,6 +30,23 @@ bool OptionForm::eventFilter(QObject* box, QEvent* event)
     return (isUndo && !m_typed->exist()) || QWidget::eventFilter(box, event);
 }
 
+store::RecordedWork OptionForm::recordWork()
+{
+    return {m_history.get(), *m_database, m_databasePath, {m_file.table().table}};
+}
+
+void OptionForm::refreshAll()
+{
+    refresh();
+    attempt([this] {
+        if (!m_editor->isAdding() && !m_typed->exist() && !m_editor->reread()) {
+            m_editor->goToFirst();
+            showRecord();
+        }
+        reloadList();
+    });
+}
+
 void OptionForm::showStar()
 {
     setWindowModified(m_typed->exist());

@@ -203,7 +203,7 @@ void RecordEditor::deleteRecord()
     } else {
         deleteCurrent();
     }
-    needingRecords([this] { m_records.moveFirst(); });
+    goToFirst();
 }
 
 void RecordEditor::deleteCurrent()
@@ -234,16 +234,20 @@ bool RecordEditor::reread()
 {
     const store::ShortWait wait(*m_database);
     try {
-        return isStillThere() || (m_seen.empty() ? goToFirst() : goBackTo(m_seen));
+        if (isStillThere())
+            return true;
+        if (!m_seen.empty())
+            return goBackTo(m_seen);
+        m_records.moveFirst();
+        return true;
     } catch (const RuntimeFailure&) {
         return false; // what needs the record next reports it
     }
 }
 
-bool RecordEditor::goToFirst()
+void RecordEditor::goToFirst()
 {
-    m_records.moveFirst();
-    return true;
+    needingRecords([this] { m_records.moveFirst(); });
 }
 
 bool RecordEditor::goBackTo(const std::vector<store::Value>& seen)

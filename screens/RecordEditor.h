@@ -77,6 +77,8 @@ public:
     /// key, as after an upload, and no record by the first one. Drops unsaved changes.
     /// @return false if there is no such record either, or the file cannot be read.
     [[nodiscard]] bool reread();
+    /// @throws RuntimeFailure with Failure::NoCurrentRecord if the table is empty.
+    void goToFirst();
     /// All fields of the record as last shown or stored; empty while there is none.
     [[nodiscard]] const std::vector<store::Value>& seen() const { return m_seen; }
     /// Goes to the record with the number of @p seen; the chosen index is kept.
@@ -113,7 +115,6 @@ private:
     void remember();
     [[nodiscard]] bool isOverwritten(const BoundField& field) const;
     [[nodiscard]] bool isStillThere();
-    [[nodiscard]] bool goToFirst();
     [[nodiscard]] const QString& indexOf(int button) const;
     [[nodiscard]] bool isAt(const store::FieldDefinition& field, const store::Value& key) const;
     [[nodiscard]] bool isNumber(const BoundField& field) const;

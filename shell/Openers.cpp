@@ -10,6 +10,7 @@
 #include "shell/MainStatusBar.h"
 #include "shell/OverlayOpeners.h"
 #include "shell/ReportOpeners.h"
+#include "shell/UndoWork.h"
 #include "shell/UtilityOpeners.h"
 
 #include <QMdiSubWindow>
@@ -55,7 +56,10 @@ void openCollection(FrmMain& main, const ApplicationValues& values, Boxes& boxes
 class Screens
 {
 public:
-    Screens(ApplicationValues& values, Boxes& boxes) : m_values(values), m_boxes(boxes) {}
+    Screens(ApplicationValues& values, Boxes& boxes, std::shared_ptr<store::WorkHistory> history)
+        : m_values(values), m_boxes(boxes), m_history(std::move(history))
+    {
+    }
 
     /// Notices of a screen are shown in the status bar. A screen that comes to the front reads its record
     /// again, and all screens do after a menu entry: others may have changed it.
@@ -64,6 +68,7 @@ public:
         auto reports = std::make_unique<ScreenReports>(main, m_values, m_boxes);
         auto* const form = new screens::OptionForm(screenFile, m_values, m_boxes, reports.get(), m_losses);
         reports.release()->setParent(form);
+        form->setHistory(m_history);
         QObject::connect(form, &screens::OptionForm::noticeChanged, &main.statusBar1(),
                          &MainStatusBar::setNotice);
         QObject::connect(form, &screens::OptionForm::nothingToGetBack, &main,
@@ -78,12 +83,13 @@ public:
         return *form;
     }
 
-    /// In the screen that lost changes last, which is opened again if the user has left it.
+    /// In the screen that lost changes last, which is opened again if the user has left it. Without such
+    /// changes, the latest stored work is undone.
     void getBack(FrmMain& main)
     {
         const QString file = m_losses->latestScreen(m_values.databasePath);
         if (file.isEmpty())
-            return;
+            return openOrTell(m_boxes, [&] { undo(main); });
         const auto forms = main.findChildren<screens::OptionForm*>();
         const auto found = std::ranges::find_if(forms, [&](const screens::OptionForm* form) {
             return form->screenFile() == file && form->databasePath() == m_values.databasePath;
@@ -96,8 +102,17 @@ public:
     }
 
 private:
+    void undo(FrmMain& main)
+    {
+        const QString notice = undoLatestWork(m_values, m_boxes, *m_history);
+        for (auto* const form : main.findChildren<screens::OptionForm*>())
+            form->refreshAll();
+        main.statusBar1().setNotice(notice);
+    }
+
     ApplicationValues& m_values;
     Boxes& m_boxes;
+    std::shared_ptr<store::WorkHistory> m_history;
     std::shared_ptr<screens::LostChangesList> m_losses = std::make_shared<screens::LostChangesList>();
 };
 
@@ -112,11 +127,12 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
     openers.insert(u"FrmsalesComm"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
         openCollection(main, values, boxes);
     });
-    openers.insert(makeUtilityOpeners(values, boxes));
+    const auto history = std::make_shared<store::WorkHistory>();
+    openers.insert(makeUtilityOpeners(values, boxes, history));
     openers.insert(makeReportOpeners(values, boxes));
     openers.insert(makeKeyOpeners(values, boxes));
     openers.insert(makeOverlayOpeners(values, boxes));
-    const auto editors = std::make_shared<Screens>(values, boxes);
+    const auto editors = std::make_shared<Screens>(values, boxes, history);
     return {openers, [editors](FrmMain& main, const QString& file) { editors->open(main, file); },
             [editors](FrmMain& main) {
                 editors->getBack(main);

@@ -15,7 +15,7 @@ namespace
 {
 
 void runUtility(FrmMain& main, const utilities::PriceUtility& utility, const ApplicationValues& values,
-                Boxes& boxes)
+                Boxes& boxes, store::WorkHistory& history)
 {
     std::optional<LongWork> work;
     const auto begin = [&] {
@@ -27,7 +27,7 @@ void runUtility(FrmMain& main, const utilities::PriceUtility& utility, const App
     const auto showNotice = [&](const QString& text) {
         main.statusBar1().setNotice(text);
     };
-    utilities::runPriceUtility(utility, values, boxes, {begin, everyRow, showNotice});
+    utilities::runPriceUtility(utility, values, boxes, {begin, everyRow, showNotice, &history});
 }
 
 /// The status bar's panel counts the seconds in which the converter is open.
@@ -44,12 +44,14 @@ void runConversion(FrmMain& main, const utilities::LogoConversion& conversion,
 
 } // namespace
 
-FrmMain::FormOpeners makeUtilityOpeners(const ApplicationValues& values, Boxes& boxes)
+FrmMain::FormOpeners makeUtilityOpeners(const ApplicationValues& values, Boxes& boxes,
+                                        const std::shared_ptr<store::WorkHistory>& history)
 {
     FrmMain::FormOpeners openers;
     for (const auto& utility : utilities::priceUtilities()) {
-        openers.insert(utility.handler,
-                       [&](FrmMain& main, const MenuEntry&) { runUtility(main, utility, values, boxes); });
+        openers.insert(utility.handler, [&, history](FrmMain& main, const MenuEntry&) {
+            runUtility(main, utility, values, boxes, *history);
+        });
     }
     for (const auto& conversion : utilities::logoConversions()) {
         openers.insert(conversion.handler, [&](FrmMain& main, const MenuEntry&) {

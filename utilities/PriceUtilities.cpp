@@ -237,13 +237,18 @@ QString PriceRun::copyRefusal() const
 
 void PriceRun::change()
 {
+    if (deletesSales())
+        return empty(m_utility.emptied, m_values.databasePath);
+    if (!m_database)
+        m_database.emplace(m_values.databasePath);
+    store::RecordedWork work(m_frame.history, *m_database, m_values.databasePath, {u"PLUDATA"_s});
+    work.setName(nameInLog());
     if (m_plus) {
         m_frame.begins();
         m_changed = transferPrices(*m_database, *m_plus, m_utility.fields, m_rate, m_frame.everyRow);
+    } else {
+        m_changed = m_database->execute(m_utility.statement);
     }
-    if (!m_utility.statement.isEmpty())
-        m_changed = store::Database(m_values.databasePath).execute(m_utility.statement);
-    empty(m_utility.emptied, m_values.databasePath);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
+#include "store/engine/WorkHistory.h"
 #include "utilities/PriceWalk.h"
 
 #include <QLatin1StringView>
@@ -43,6 +44,8 @@ struct WalkFrame {
     std::function<void()> everyRow; ///< called before each record, so it must be cheap
     /// Shows what is about to change while the user is asked, and afterwards the way back; empty for neither.
     std::function<void(const QString& text)> showNotice;
+    /// Where the work is recorded so that it can be undone; nullptr for nowhere.
+    store::WorkHistory* history = nullptr;
 };
 
 /// Asks (Enter means No), changes the database in use and reports success. Also asks before it uses a rate

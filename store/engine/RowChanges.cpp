@@ -125,14 +125,22 @@ public:
         }
         for (qsizetype i = 0; i < m_fields.size(); ++i) {
             const auto place = static_cast<std::size_t>(i);
-            const auto* const field = fieldNamed(m_table, m_fields[i]);
-            if (field != nullptr && newValues[place] != oldValues[place])
-                all.push_back({m_table.name, record, field->name, shownValue(*field, newValues[place]),
-                               shownValue(*field, oldValues[place])});
+            if (const auto* const field = fieldNamed(m_table, m_fields[i]))
+                addTo(all, record, *field, newValues[place], oldValues[place]);
         }
     }
 
 private:
+    /// What looks alike is not shown: an empty text and blanks, or no and an option that was never set.
+    void addTo(std::vector<FieldDifference>& all, const QString& record, const FieldDefinition& field,
+               const Value& now, const Value& then) const
+    {
+        const QString shownNow = shownValue(field, now);
+        const QString shownThen = shownValue(field, then);
+        if (shownNow != shownThen)
+            all.push_back({m_table.name, record, field.name, shownNow, shownThen});
+    }
+
     [[nodiscard]] QString recordOf(const std::vector<Value>& values) const
     {
         if (m_table.indexes.isEmpty())

@@ -1,0 +1,82 @@
+// Ctrl+Z takes back what was stored: the latest first, with a question.
+#include "tests/shell/FrameFixture.h"
+
+namespace norvane::shell
+{
+namespace
+{
+
+class UndoTest : public FrameFixture
+{
+protected:
+    /// Presses Ctrl+Z where the focus is and answers the question. @return the question.
+    std::string undo(bool yes = true)
+    {
+        m_boxes.shown.clear();
+        m_boxes.answers = {yes};
+        QWidget* const focus = QApplication::focusWidget();
+        QTest::keyClick(focus == nullptr ? &*m_main : focus, Qt::Key_Z, Qt::ControlModifier);
+        return m_boxes.shown.empty() ? std::string() : m_boxes.shown.front().text.toStdString();
+    }
+    static void expectAsked(const std::string& question, const std::string& work, const std::string& change)
+    {
+        EXPECT_TRUE(question.starts_with("Undo \"" + work + "\" of ")) << question;
+        EXPECT_NE(question.find("?\r\r" + change), std::string::npos) << question;
+    }
+};
+
+TEST_F(UndoTest, EachWorkIsUndoneTheLatestFirst)
+{
+    QWidget& screen = open("PLUMENU");
+    type(screen, pluName, "Stout");
+    save(screen);
+    m_boxes.answers = {true};
+    letter(Qt::Key_D);
+    EXPECT_TRUE(soon([this] { return plus() == "Cider 3"; })) << plus();
+    m_boxes.answers = {true};
+    child<QAction>(*m_main, "ResetPrice").trigger();
+    EXPECT_EQ(plus(), "Cider 0.00");
+    EXPECT_TRUE(undo(false).starts_with("Undo \"Reset Prices\" of "));
+    EXPECT_EQ(plus(), "Cider 0.00") << "after No";
+    undo();
+    EXPECT_EQ(plus(), "Cider 3");
+    EXPECT_EQ(notice(), "Undone: Reset Prices, 1 record");
+    expectAsked(undo(), "Deleted PLU 1001", "PLUDATA 1001 is added again");
+    EXPECT_EQ(plus(), "Stout 2.5|Cider 3");
+    expectAsked(undo(), "Saved PLU 1001", "PLUDATA 1001, DESCRIPTION: Stout becomes Lager");
+    EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
+    EXPECT_EQ(undo(), "");
+    EXPECT_EQ(notice(), "There is nothing to undo");
+}
+
+TEST_F(UndoTest, ANewRecordIsDeletedAgain)
+{
+    QWidget& screen = open("PLUMENU");
+    letter(Qt::Key_A);
+    EXPECT_TRUE(soon([&] { return shown(screen, pluName).empty(); }));
+    type(screen, pluNumber, "555");
+    save(screen);
+    EXPECT_EQ(plus(), " 0|Lager 2.5|Cider 3");
+    expectAsked(undo(), "Added PLU 555", "PLUDATA 555 is deleted");
+    EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
+    EXPECT_EQ(shown(screen, pluName), "Lager") << "the screen left the deleted record";
+}
+
+TEST_F(UndoTest, WhatSomebodyChangedSinceRemains)
+{
+    QWidget& screen = open("PLUMENU");
+    type(screen, pluName, "Stout");
+    save(screen);
+    m_boxes.answers = {true};
+    child<QAction>(*m_main, "ResetPrice").trigger();
+    execute(u"update PLUDATA set PRICE1 = '9' where DESCRIPTION = 'Stout'"_s);
+    const std::string question = undo();
+    EXPECT_TRUE(question.ends_with("1 record was changed since and remains as it is")) << question;
+    EXPECT_EQ(plus(), "Stout 9|Cider 3");
+    EXPECT_TRUE(undo().starts_with("\"Saved PLU 1001\" of ")) << "refused";
+    EXPECT_EQ(plus(), "Stout 9|Cider 3");
+    EXPECT_EQ(notice(), "Not undone: Saved PLU 1001");
+}
+
+} // namespace
+} // namespace norvane::shell
