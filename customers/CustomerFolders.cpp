@@ -42,14 +42,20 @@ bool isDirection(const QString& part)
     return !part.isEmpty() && std::ranges::all_of(part, [](QChar c) { return c == u'.' || c == u' '; });
 }
 
-/// Whether @p name can only lead to a folder inside the program's. A colon ends a drive or begins a hidden
-/// stream.
+bool isUnfinished(const QString& part)
+{
+    return part.startsWith(unfinishedPrefix, Qt::CaseInsensitive);
+}
+
+/// Whether @p name can only lead to a customer's folder inside the program's. A colon ends a drive or begins
+/// a hidden stream.
 bool staysInside(const QString& name)
 {
     const QString path = QString(name).replace(u'\\', u'/');
     if (path.startsWith(u'/') || path.contains(u':') || path.contains(QChar::Null))
         return false;
-    return std::ranges::none_of(path.split(u'/'), isDirection);
+    return std::ranges::none_of(path.split(u'/'),
+                                [](const QString& part) { return isDirection(part) || isUnfinished(part); });
 }
 
 /// Makes the folder with its name as typed; the folders above it are matched in any case.
@@ -157,13 +163,30 @@ CustomerChoice makeCustomer(ApplicationValues& values, const QString& path)
 
 } // namespace
 
-QStringList customerFolders(const QString& appPath)
+QStringList customerNames(const QString& appPath)
 {
     // A customer's name may begin with a dot, which some platforms take for hidden.
     QStringList names = QDir(appPath).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot,
                                                 QDir::Name | QDir::IgnoreCase);
+    names.removeIf(isUnfinished);
+    return names;
+}
+
+QStringList customerFolders(const QString& appPath)
+{
+    QStringList names = customerNames(appPath);
     std::ranges::for_each(names, toUpperCase);
     return names;
+}
+
+QString folderFor(const QString& appPath, const QString& typed)
+{
+    if (trimBlanks(typed).isEmpty() || !staysInside(typed))
+        return {};
+    QString path = joinPath(appPath, typed);
+    while (path.endsWith(QDir::separator()))
+        path.chop(1);
+    return path;
 }
 
 QStringList foldersNamed(const QString& appPath, const QString& name)
@@ -211,11 +234,9 @@ CustomerChoice chooseCustomer(ApplicationValues& values, const QString& typed)
     values.customerName = typed;
     if (trimBlanks(typed).isEmpty())
         return CustomerChoice::InvalidEntry;
-    if (!staysInside(typed))
+    const QString path = folderFor(values.appPath, typed);
+    if (path.isEmpty())
         return CustomerChoice::Failed;
-    QString path = joinPath(values.appPath, typed);
-    while (path.endsWith(QDir::separator()))
-        path.chop(1);
     return makeFolder(path) ? makeCustomer(values, path) : takeFolder(values, existingPath(path));
 }
 

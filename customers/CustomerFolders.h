@@ -8,8 +8,19 @@
 namespace norvane::customers
 {
 
-/// All folders in @p appPath, in upper case and sorted by name, with or without a database in them.
+/// How the name of a folder begins in which a customer is being made. It is no customer's until it is
+/// renamed.
+inline constexpr QLatin1StringView unfinishedPrefix{"norvane-unfinished."};
+
+/// All folders in @p appPath as spelled on disk and sorted by name, with or without a database in them.
+[[nodiscard]] QStringList customerNames(const QString& appPath);
+
+/// The same in upper case.
 [[nodiscard]] QStringList customerFolders(const QString& appPath);
+
+/// The folder that a customer named @p typed has or would have. Nothing is made.
+/// @return empty text for a name that chooseCustomer() does not take.
+[[nodiscard]] QString folderFor(const QString& appPath, const QString& typed);
 
 /// The folders in @p appPath that @p name may mean: the exact match, or all that differ only in case. None
 /// for a blank name and for one that leads out of the program's folder. Opens nothing.

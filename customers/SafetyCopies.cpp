@@ -5,6 +5,7 @@
 #include "base/LossQuestion.h"
 #include "customers/CustomerFolders.h"
 #include "customers/CustomerLog.h"
+#include "customers/UnfinishedFolder.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/DatabaseCheck.h"
@@ -78,48 +79,13 @@ void removeOldCopies(const QString& customerPath, const QDateTime& now)
     }
 }
 
-/// A folder that is removed again unless it is kept.
-class UnfinishedFolder
-{
-public:
-    explicit UnfinishedFolder(const QString& path) : m_folder(path)
-    {
-        // Removing what a link leads to would empty somebody else's folder.
-        if (QFileInfo(path).isSymLink()) {
-            QFile::remove(path);
-        } else {
-            m_folder.removeRecursively();
-        }
-        if (QFileInfo(path).isSymLink() || !m_folder.mkpath(u"."_s))
-            throw RuntimeFailure(Failure::PathOrFileAccess, u"The folder %1 cannot be made."_s.arg(path));
-    }
-    ~UnfinishedFolder()
-    {
-        if (!m_isKept)
-            m_folder.removeRecursively();
-    }
-    UnfinishedFolder(const UnfinishedFolder&) = delete;
-    UnfinishedFolder& operator=(const UnfinishedFolder&) = delete;
-
-    void keepAs(const QString& path)
-    {
-        m_isKept = QDir().rename(m_folder.path(), path);
-        if (!m_isKept)
-            throw RuntimeFailure(Failure::PathOrFileAccess, u"The folder %1 cannot be made."_s.arg(path));
-    }
-
-private:
-    QDir m_folder;
-    bool m_isKept = false;
-};
-
 /// @param what nothing: the files alone.
 SafetyCopy makeCopy(const QString& customerPath, const QString& reason, std::optional<store::CopyOf> what,
                     const QDateTime& now)
 {
     const QString folder = copiesFolder(customerPath);
     UnfinishedFolder unfinished(joinPath(folder, u"unfinished"_s));
-    const QString path = joinPath(folder, u"unfinished"_s);
+    const QString path = unfinished.path();
     if (what)
         store::copyDatabase(customerDatabase(customerPath), joinPath(path, databaseFileName), *what);
     copyFiles(customerPath, path);

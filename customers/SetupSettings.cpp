@@ -61,6 +61,18 @@ SettingValue readValue(const ApplicationValues& values, const Setting& setting)
     return {atPlace(withPlace, [&] { return indexOf(setting, stored); }), {}};
 }
 
+} // namespace
+
+std::span<const Setting> settings()
+{
+    return table;
+}
+
+QStringList itemsOf(const Setting& setting)
+{
+    return setting.items.toString().split(u'|');
+}
+
 QString storedText(const Setting& setting, const SettingValue& value)
 {
     switch (setting.form) {
@@ -72,18 +84,6 @@ QString storedText(const Setting& setting, const SettingValue& value)
         break;
     }
     return value.text.toUpper();
-}
-
-} // namespace
-
-std::span<const Setting> settings()
-{
-    return table;
-}
-
-QStringList itemsOf(const Setting& setting)
-{
-    return setting.items.toString().split(u'|');
 }
 
 QList<SettingValue> readSettings(const ApplicationValues& values)

@@ -42,6 +42,9 @@ struct SettingValue {
     bool operator==(const SettingValue&) const = default;
 };
 
+/// What setup.ini has for a value: " 2" for an index with room for a sign, texts in upper case.
+[[nodiscard]] QString storedText(const Setting& setting, const SettingValue& value);
+
 /// Reads all settings of the customer, in the order of settings().
 /// @throws RuntimeFailure with Failure::TypeMismatch or Failure::Overflow if an index is not a whole number,
 /// Failure::InvalidArgument if it is outside its list; the text names file and key.

@@ -142,6 +142,16 @@ QStringList commonFields(const TableDefinition& table, const TableDefinition& co
     return names;
 }
 
+/// Puts rows of the file at @p from in place of those of the table. @return how many.
+qint64 replaceRows(Database& database, const QString& table, const QStringList& fields, const QString& from)
+{
+    sqlite3* const handle = connectionOf(database).handle();
+    database.execute(u"delete * from [%1]"_s.arg(table));
+    // Emptying dropped the totals of months too: nothing is left for the triggers to do.
+    const TriggersAtRest rest(handle);
+    return PreparedStatement(handle, moveRows(table, fields, otherFile, "main"), from).run();
+}
+
 bool isWhole(sqlite3* handle, const QString& table, const QString& path)
 {
     PreparedStatement check(
@@ -227,21 +237,28 @@ void copyDatabase(const QString& from, const QString& to, CopyOf what)
 
 void restoreTables(Database& database, const QString& copy)
 {
-    Database copied(copy);
-    sqlite3* const handle = connectionOf(database).handle();
-    const AttachedFile source(handle, existingPath(copy));
+    const Database copied(copy);
+    (void)takeTables(database, copy, copied.tableNames());
+}
+
+qint64 takeTables(Database& database, const QString& from, const QStringList& tables,
+                  const QStringList& omittedFields)
+{
+    const Database other(from);
+    const AttachedFile source(connectionOf(database).handle(), existingPath(from));
+    qint64 rows = 0;
     allOrNothing(database, [&] {
-        for (const QString& name : copied.tableNames()) {
-            if (!database.hasTable(name))
+        for (const QString& name : tables) {
+            if (!database.hasTable(name) || !other.hasTable(name))
                 continue;
             const TableDefinition table = database.table(name);
-            database.execute(u"delete * from [%1]"_s.arg(table.name));
-            // Emptying dropped the totals of months too: nothing is left for the triggers to do.
-            const TriggersAtRest rest(handle);
-            run(handle, moveRows(table.name, commonFields(table, copied.table(name)), otherFile, "main"),
-                copy);
+            QStringList fields = commonFields(table, other.table(name));
+            fields.removeIf(
+                [&](const QString& field) { return omittedFields.contains(field, Qt::CaseInsensitive); });
+            rows += replaceRows(database, table.name, fields, from);
         }
     });
+    return rows;
 }
 
 QStringList rebuildDatabase(const QString& copy, const QString& damaged, const QString& to)

@@ -25,6 +25,12 @@ void copyDatabase(const QString& from, const QString& to, CopyOf what);
 /// @throws RuntimeFailure as Database does for @p copy, and what the engine reports for @p database.
 void restoreTables(Database& database, const QString& copy);
 
+/// The same for @p tables alone, from the database at @p from, which is not written to. Tables that only one
+/// of the two has are left out. Fields named in @p omittedFields become null, as in a new record without a
+/// default. @return how many rows were taken. @throws RuntimeFailure as restoreTables().
+qint64 takeTables(Database& database, const QString& from, const QStringList& tables,
+                  const QStringList& omittedFields = {});
+
 /// Creates a new database at @p to if the one at @p damaged can no longer be used: the tables of the copy at
 /// @p copy in the current layout, and those that the copy lacks with the rows still readable in the damaged
 /// file. The damaged file may be missing. A file at @p to is replaced.
