@@ -136,10 +136,8 @@ void listCustomers(const Workplace& workplace, const Invocation& /*words*/)
 {
     Listing listing({u"Name"_s, u"Model"_s, u"Registers"_s, u"Last exchange"_s, u"Last sales"_s, u"Note"_s});
     // Names as they are on disk: those of the window, in upper case, would have to be looked for.
-    const QDir folder(workplace.appPath);
-    for (const QString& name :
-         folder.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
-        if (isCustomer(folder.filePath(name)))
+    for (const QString& name : customers::customerNames(workplace.appPath)) {
+        if (isCustomer(QDir(workplace.appPath).filePath(name)))
             listing.add(customerRow(workplace, name));
     }
     workplace.show(listing);

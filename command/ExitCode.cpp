@@ -39,6 +39,7 @@ std::span<const ExitMeaning> exitMeanings()
         {ExitCode::FormerTooNew,
          "a database of the former engine has a newer format than the former program wrote"_L1},
         {ExitCode::FormerLocked, "a database of the former engine is protected with a password"_L1},
+        {ExitCode::CustomerExists, "there is a customer or file of the new name already"_L1},
         {ExitCode::Interrupted, "the run was stopped by SIGINT (Ctrl+C)"_L1},
         {ExitCode::Terminated, "the run was stopped by SIGTERM"_L1},
     });

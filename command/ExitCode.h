@@ -37,6 +37,7 @@ enum class ExitCode {
     FormerOfAnother = 17,
     FormerTooNew = 18,
     FormerLocked = 19,
+    CustomerExists = 20,
     // As shells report them: 128 and the number of the signal.
     Interrupted = 130,
     Terminated = 143,

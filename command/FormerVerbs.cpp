@@ -173,10 +173,8 @@ private:
 QStringList formerCustomers(const QString& appPath)
 {
     QStringList names;
-    const QDir folder(appPath);
-    for (const QString& name :
-         folder.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
-        if (store::isFormerDatabase(customers::customerDatabase(folder.filePath(name))))
+    for (const QString& name : customers::customerNames(appPath)) {
+        if (store::isFormerDatabase(customers::customerDatabase(QDir(appPath).filePath(name))))
             names << name;
     }
     return names;

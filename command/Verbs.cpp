@@ -19,6 +19,16 @@ constexpr auto common = std::to_array<OptionDefinition>({
     {"help"_L1, {}, "what a command does, as \"help COMMAND\" and \"-h\" do"_L1},
     {"version"_L1, {}, "the version of the program"_L1},
 });
+constexpr auto newOptions = std::to_array<OptionDefinition>({
+    {"like"_L1, "OTHER"_L1,
+     "take settings, programme and overlay documents of this customer; never its sales, points or log"_L1},
+    {"without"_L1, "PART,..."_L1,
+     "of what --like takes leave out: settings, overlays, plu, status, groups, mixes, functions, keyboards, lookups, cards, options, messages, staff, times, taxes, or tables by name"_L1},
+    {"model"_L1, "MODEL"_L1,
+     "as Setup lists it, or a part that only one model has: Dorvik, V3, Card, -V2"_L1},
+    {"registers"_L1, "N"_L1, "how many registers, 1 to 32"_L1},
+    {"port"_L1, "N"_L1, "the serial port, 1 to 4"_L1},
+});
 constexpr auto fetchOptions = std::to_array<OptionDefinition>({
     {"accept-fewer"_L1,
      {},
@@ -71,6 +81,10 @@ constexpr auto all = std::to_array<Verb>({
     {"customers"_L1, {}, 0, 0, {}, "Lists the customers: model, registers, last exchange, last day of sales."_L1, listCustomers},
     {"check"_L1, "CUSTOMER"_L1, 1, 1, {},
      "Looks for damage in the database, for missing tables and fields, for settings that cannot be, and for mistakes in the screens and reports of this installation."_L1, checkCustomer},
+    {"new"_L1, "CUSTOMER"_L1, 1, 1, newOptions,
+     "Makes a customer with the standard settings and no records, or one like another."_L1, newCustomer},
+    {"set"_L1, "CUSTOMER KEY=VALUE..."_L1, 2, -1, {},
+     "Changes settings: Port, Baud, ConnectionType, NoOfECRs, ModemReset, ModemString, Telephone, ECRModel, ModemDelay. VALUE is an entry of the list in Setup, or a part that only one entry has: Baud=9600, ECRModel=V3."_L1, setSettings},
     {"fetch"_L1, "CUSTOMER [BOX...]"_L1, 1, -1, fetchOptions,
      "Uploads from register 1 what the boxes name, as the exchange dialog does; without a box, all of it."_L1, fetch},
     {"send"_L1, "CUSTOMER [BOX...]"_L1, 1, -1, sendOptions,

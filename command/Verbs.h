@@ -10,6 +10,8 @@ namespace norvane::command
 // All throw CommandError, and what the product throws.
 void listCustomers(const Workplace& workplace, const Invocation& words);
 void checkCustomer(const Workplace& workplace, const Invocation& words);
+void newCustomer(const Workplace& workplace, const Invocation& words);
+void setSettings(const Workplace& workplace, const Invocation& words);
 void fetch(const Workplace& workplace, const Invocation& words);
 void send(const Workplace& workplace, const Invocation& words);
 void collect(const Workplace& workplace, const Invocation& words);

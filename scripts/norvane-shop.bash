@@ -21,7 +21,7 @@ _norvane_shop_quoted()
 
 _norvane_shop()
 {
-    local word=${COMP_WORDS[COMP_CWORD]} quote= choice
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} quote= choice
     local -a choices
     case $word in
         [\"\']*) quote=${word:0:1} word=${word:1} ;;
@@ -31,12 +31,15 @@ _norvane_shop()
     if [ "$COMP_CWORD" -eq 1 ]; then
         # The help names each command at the beginning of a line.
         mapfile -t choices < <("$1" --help 2>/dev/null | sed -n 's/^norvane-shop \([a-z-]*\).*/\1/p')
-    elif [ "${COMP_WORDS[COMP_CWORD - 1]}" = --vanished ]; then
+    elif [ "$before" = --vanished ]; then
         choices=(keep remove)
-    elif [ "${COMP_WORDS[COMP_CWORD - 1]}" = --separator ]; then
+    elif [ "$before" = --separator ]; then
         choices=(comma semicolon tab)
-    elif [ "${word#-}" = "$word" ] && { [ "$COMP_CWORD" -eq 2 ] ||
-        [[ ${COMP_WORDS[1]} =~ ^(publish|copy-programme)$ ]]; }; then
+    elif [ "${word#-}" = "$word" ] && case $before:${COMP_WORDS[1]} in
+            new:new) false ;; # a name that does not exist yet
+            --like:* | *:publish | *:copy-programme) true ;;
+            *) [ "$COMP_CWORD" -eq 2 ] ;;
+        esac; then
         mapfile -t choices < <(_norvane_shop_customers "$1")
     else
         mapfile -t choices < <("$1" help "${COMP_WORDS[1]}" 2>/dev/null | sed -n 's/^ *\(--[a-z-]*\).*/\1/p')
