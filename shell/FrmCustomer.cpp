@@ -4,6 +4,7 @@
 #include "customers/CustomerFolders.h"
 #include "shell/ConversionBox.h"
 #include "shell/CopyMenu.h"
+#include "shell/NewShopDialog.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
@@ -34,9 +35,9 @@ FrmCustomer::FrmCustomer(ApplicationValues& values, Boxes& boxes, QWidget* paren
     ui::nameControl(*List1, u"List1"_s, u"Select Existing Customer"_s);
     ui::nameControl(*text1, u"text1"_s, u"Customer to open, or to create"_s);
     setWindowTitle(u"Select Customer"_s);
+    List1->addItems(customers::customerFolders(m_values.appPath));
     layOut();
     connectList();
-    List1->addItems(customers::customerFolders(m_values.appPath));
     text1->setFocus();
 }
 
@@ -49,7 +50,16 @@ void FrmCustomer::layOut()
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(ui::spacing::groupGap);
     column->addWidget(makeFrame());
-    column->addWidget(CSCmdBtn1, 0, Qt::AlignRight);
+    column->addLayout(makeButtons());
+}
+
+QLayout* FrmCustomer::makeButtons()
+{
+    auto* const CmdNewLike = ui::makeButton(u"CmdNewLike"_s, u"New Customer &Like..."_s, this);
+    CmdNewLike->setAutoDefault(false);
+    CmdNewLike->setEnabled(List1->count() > 0);
+    connect(CmdNewLike, &QPushButton::clicked, this, &FrmCustomer::makeLikeAnother);
+    return ui::makeButtonRow({CSCmdBtn1}, {CmdNewLike});
 }
 
 QGroupBox* FrmCustomer::makeFrame()
@@ -130,6 +140,23 @@ void FrmCustomer::welcomeNewCustomer()
     m_boxes.message(
         u"Your new database has been created please\rupload program from your cash register.  \r"_s,
         u"Information "_s, BoxIcon::Information);
+}
+
+/// The new customer is taken as if its name had been typed. It has a programme already, so there is nothing
+/// to upload.
+void FrmCustomer::makeLikeAnother()
+{
+    NewShopDialog dialog(m_values.appPath, text1->text(), m_boxes, this);
+    if (dialog.exec() != Accepted)
+        return;
+    text1->setText(dialog.name());
+    takeCustomer();
+    if (!isVisible()) {
+        m_boxes.message(dialog.summary() + u"\r\rCheck the setup and what only one shop has, such as its "
+                                           "address in the messages, then download the programme to the "
+                                           "cash registers."_s,
+                        u"Information"_s, BoxIcon::Information);
+    }
 }
 
 /// A name that was refused has set the customer's name already.

@@ -38,11 +38,13 @@ private:
     void endProgram();
     void layOut();
     [[nodiscard]] QGroupBox* makeFrame();
+    [[nodiscard]] QLayout* makeButtons();
     void connectList();
     void copyChosenRow();
     void showCopies(QPoint place);
     void takeCustomer();
     void welcomeNewCustomer();
+    void makeLikeAnother();
 
     ApplicationValues& m_values;
     const ApplicationValues m_before;

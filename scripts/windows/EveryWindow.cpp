@@ -11,6 +11,7 @@
 #include "overlay/OverlayPreview.h"
 #include "overlay/PrinterSetup.h"
 #include "overlay/SystemDialogs.h"
+#include "platform/ProfileFile.h"
 #include "reports/window/Report.h"
 #include "sales/Frmreports.h"
 #include "scripts/windows/FilledShop.h"
@@ -18,6 +19,7 @@
 #include "shell/FrmCustomer.h"
 #include "shell/frmSplash.h"
 #include "shell/frmSysInfo.h"
+#include "shell/NewShopDialog.h"
 #include "shell/SystemReport.h"
 #include "store/engine/Database.h"
 #include "ui/FrmSearch.h"
@@ -72,6 +74,15 @@ constexpr Dialog dialogs[] = {
     {"customer",
      [](Ground& g, QWidget* p) -> QWidget* {
          return new shell::FrmCustomer(g.values, g.shop.boxes(), p);
+     }},
+    {"new-shop",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         // With the longest notice about models.
+         ProfileFile::write(g.shop.folder().appFile(u"setup.ini"_s), u"SetupOption"_s, u"ECRModel"_s, u"3"_s);
+         auto* const dialog =
+             new shell::NewShopDialog(g.values.appPath, g.values.customerName, g.shop.boxes(), p);
+         dialog->findChild<QAbstractButton*>(u"TakeSettings"_s)->click();
+         return dialog;
      }},
     {"copies",
      [](Ground& g, QWidget* p) -> QWidget* {
