@@ -3,7 +3,7 @@
 #include "former/Conversion.h"
 #include "former/ConversionReport.h"
 #include "fuzz/Target.h"
-#include "tests/support/FormerWriter.h"
+#include "tests/support/FormerSample.h"
 
 #include <QFile>
 
@@ -14,22 +14,11 @@ namespace norvane::fuzz
 namespace
 {
 
-using test::FormerType, test::FormerWriter;
-
 const QByteArray& wholeDatabase()
 {
     static const QByteArray database = [] {
-        FormerWriter writer;
-        writer.add({u"PLUDATA"_s,
-                    {{u"PLUNUMBER"_s, FormerType::Text, 18},
-                     {u"DESCRIPTION"_s, FormerType::Memo},
-                     {u"GROUPNO"_s, FormerType::Integer},
-                     {u"INactive"_s, FormerType::YesNo},
-                     {u"STOCKLINK"_s, FormerType::Double},
-                     {u"PRICE1"_s, FormerType::Currency},
-                     {u"PRICE2"_s, FormerType::Numeric, 2}},
-                    {{u"000000000000001001"_s, u"Tea"_s, 1, true, 5.0, 12500, u"1.25"_s},
-                     {u"000000000000001002"_s, u"Crème"_s, 2, false, QVariant(), 0, u"-3.10"_s}}});
+        test::FormerWriter writer;
+        writer.add(test::plusOfEveryType());
         return writer.content();
     }();
     return database;

@@ -89,7 +89,7 @@ printf 'Number,Description,Group,Status,Price 1\r\n17,"Tea, black",1,1,2.50\r\n0
 printf '\xef\xbb\xbfPLU report;;\r\nNumber;Price 2;Description\r\n17;2,50;"said ""tea"""\r\n17;1;\r\n;;\r\n' > "$seeds/plufile/semicolons"
 
 # A record, the head of the file, a definition.
-printf '\003\017\360\101' > "$seeds/former/record"
+printf '\004\017\360\101' > "$seeds/former/record"
 printf '\000\000\024\002' > "$seeds/former/version"
 printf '\003\000\055\377\003\000\105\014' > "$seeds/former/definition"
 

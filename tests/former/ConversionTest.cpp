@@ -1,5 +1,6 @@
 // Former databases of both formats become ours, value by value.
 #include "tests/former/FormerShop.h"
+#include "tests/support/FormerSample.h"
 
 #include <QDateTime>
 
@@ -17,23 +18,7 @@ INSTANTIATE_TEST_SUITE_P(Formats, BothFormats,
 TEST_P(BothFormats, EveryTypeKeepsItsValue)
 {
     FormerWriter writer(GetParam());
-    writer.add({u"PLUDATA"_s,
-                {{u"plunumber"_s, FormerType::Text, 18},
-                 {u"Description"_s, FormerType::Memo},
-                 {u"groupno"_s, FormerType::Byte},
-                 {u"PLUSTATUS"_s, FormerType::Integer},
-                 {u"WLUNUMBER"_s, FormerType::Long},
-                 {u"INactive"_s, FormerType::YesNo},
-                 {u"PRESET"_s, FormerType::YesNo},
-                 {u"STOCKLINK"_s, FormerType::Double},
-                 {u"PRICE1"_s, FormerType::Currency},
-                 {u"PRICE2"_s, FormerType::Numeric, 3},
-                 {u"PRICE3"_s, FormerType::Single},
-                 {u"PRICE4"_s, FormerType::Text, 20}},
-                {{u"000000000000001001"_s, u"Café Crème ß"_s, 200, -300, 70000, true, false,
-                  123456789012345.0, -12345678, u"-123456789012345.678"_s, 0.1F, u" 1.5"_s},
-                 {u"000000000000001002"_s, QVariant(), QVariant(), QVariant(), QVariant(), false, true,
-                  QVariant(), QVariant(), QVariant(), QVariant(), QVariant()}}});
+    writer.add(norvane::test::plusOfEveryType());
     const FormerShop shop(writer.content());
     const Examination found = shop.examined();
     EXPECT_EQ(found.format, GetParam() == FormerWriter::Format::Of1997 ? u"1997"_s : u"2000"_s);

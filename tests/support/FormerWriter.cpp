@@ -1,12 +1,10 @@
 // Pages, definitions and records; see FormerWriter.h.
 #include "tests/support/FormerWriter.h"
 
-#include <QDateTime>
-#include <QtEndian>
+#include "tests/support/FormerBytes.h"
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace norvane::test
 {
@@ -14,29 +12,6 @@ namespace
 {
 
 using namespace Qt::Literals::StringLiterals;
-
-template <typename Number>
-QByteArray little(Number number)
-{
-    QByteArray bytes(sizeof number, '\0');
-    const Number stored = qToLittleEndian(number);
-    std::memcpy(bytes.data(), &stored, sizeof stored);
-    return bytes;
-}
-QByteArray word(int number)
-{
-    return little(static_cast<quint16>(number));
-}
-QByteArray byte(int number)
-{
-    return QByteArray(1, static_cast<char>(number));
-}
-QByteArray binary(double number)
-{
-    quint64 bits = 0;
-    std::memcpy(&bits, &number, sizeof bits);
-    return little(bits);
-}
 
 bool isVariable(FormerType type)
 {
@@ -83,25 +58,6 @@ void cipher(QByteArray& page, int from, int size)
         char& letter = page.data()[from + static_cast<int>(n)];
         letter = static_cast<char>(static_cast<unsigned char>(letter) ^ mask);
     }
-}
-
-double daysOf(const QVariant& value)
-{
-    const QDateTime moment = value.toDateTime();
-    const QDate dayZero(1899, 12, 30);
-    return static_cast<double>(dayZero.daysTo(moment.date())) +
-           static_cast<double>(moment.time().msecsSinceStartOfDay()) / 86'400'000.0;
-}
-
-/// Sixteen bytes as four words, the highest first, each with its lowest byte first.
-QByteArray numericBytes(const QString& decimal)
-{
-    QString digits = decimal;
-    const bool isNegative = digits.startsWith(u'-');
-    digits.remove(u'-').remove(u'.');
-    const quint64 number = digits.toULongLong();
-    return byte(isNegative ? 0x80 : 0) + QByteArray(8, '\0') + little(static_cast<quint32>(number >> 32)) +
-           little(static_cast<quint32>(number));
 }
 
 } // namespace
@@ -167,7 +123,7 @@ QByteArray FormerWriter::header() const
     const double made = 45'000;
     QByteArray password = m_password.leftJustified(m_isOld ? 20 : 40, '\0', true);
     if (!m_isOld) {
-        page.replace(0x72, 8, binary(made));
+        page.replace(0x72, 8, binary<quint64>(made));
         const QByteArray mask = little(static_cast<quint32>(made));
         for (int i = 0; i < password.size(); ++i)
             password[i] = static_cast<char>(password.at(i) ^ mask.at(i % 4));
@@ -214,38 +170,43 @@ QByteArray FormerWriter::columnEntry(const FormerColumn& column, int number, int
            word(number) + misc + word(0) + flags + byte(1) + little(quint32{0}) + word(offset) + word(size);
 }
 
-/// Definitions of many fields run over several pages.
-void FormerWriter::writeDefinition(const FormerRows& table, int page, int mapPage)
+/// The fields of @p table: their entries one after the other, then their names.
+QByteArray FormerWriter::columnBytes(const FormerRows& table, int& variables) const
 {
-    const auto count = static_cast<int>(table.columns.size());
-    const auto isKept = [&table](int row) {
-        return !table.deleted.contains(row);
-    };
-    int records = 0;
-    for (int row = 0; row < table.rows.size(); ++row)
-        records += isKept(row) ? 1 : 0;
     QByteArray entries;
     QByteArray names;
-    int variable = 0;
     int offset = 0;
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < table.columns.size(); ++i) {
         const FormerColumn& column = table.columns.at(i);
-        entries += columnEntry(column, i, isVariable(column.type) ? variable++ : variable, offset);
+        entries += columnEntry(column, i, isVariable(column.type) ? variables++ : variables, offset);
         offset += fixedSize(column.type);
         const QByteArray name =
             m_isOld ? column.name.toLatin1()
                     : QByteArray(reinterpret_cast<const char*>(column.name.utf16()), column.name.size() * 2);
-        names += (m_isOld ? byte(static_cast<int>(name.size())) : word(static_cast<int>(name.size()))) + name;
+        names += number(static_cast<int>(name.size())) + name;
     }
+    return entries + names;
+}
+
+QByteArray FormerWriter::definitionBytes(const FormerRows& table, int mapPage) const
+{
+    const auto count = static_cast<int>(table.columns.size());
+    const auto kept = table.rows.size() - table.deleted.size();
+    const auto promised = static_cast<quint32>(table.promised < 0 ? kept : table.promised);
+    int variables = 0;
+    const QByteArray columns = columnBytes(table, variables);
     const QByteArray map = byte(0) + byte(mapPage) + byte(mapPage >> 8) + byte(mapPage >> 16);
-    const auto promised = static_cast<quint32>(table.promised < 0 ? records : table.promised);
     QByteArray block = m_isOld ? little(promised) + little(quint32{0})
-                               : little(quint32{0}) + little(promised) + QByteArray(16, '\0');
-    if (!m_isOld)
-        block += QByteArray(4, '\0');
-    block += byte(0x4E) + word(count) + word(variable) + word(count) + QByteArray(8, '\0') + map + map;
-    block += entries + names + word(0xFFFF);
-    block.prepend(little(static_cast<quint32>(block.size())));
+                               : little(quint32{0}) + little(promised) + QByteArray(20, '\0');
+    block += byte(0x4E) + word(count) + word(variables) + word(count) + QByteArray(8, '\0') + map + map;
+    block += columns + word(0xFFFF);
+    return little(static_cast<quint32>(block.size())) + block;
+}
+
+/// Definitions of many fields run over several pages.
+void FormerWriter::writeDefinition(const FormerRows& table, int page, int mapPage)
+{
+    const QByteArray block = definitionBytes(table, mapPage);
     const int room = pageSize() - 8;
     for (int at = 0, current = page; at < block.size(); at += room) {
         const int next = at + room < block.size() ? newPage() : 0;
@@ -300,16 +261,12 @@ QByteArray FormerWriter::fixedBytes(const FormerColumn& column, const QVariant& 
         return word(value.toInt());
     case FormerType::Long:
         return little(static_cast<qint32>(value.toInt()));
-    case FormerType::Single: {
-        const float number = value.toFloat();
-        quint32 bits = 0;
-        std::memcpy(&bits, &number, sizeof bits);
-        return little(bits);
-    }
+    case FormerType::Single:
+        return binary<quint32>(value.toFloat());
     case FormerType::Double:
-        return binary(value.toDouble());
+        return binary<quint64>(value.toDouble());
     case FormerType::Date:
-        return binary(daysOf(value));
+        return binary<quint64>(daysOf(value));
     case FormerType::Currency:
         return little(static_cast<qint64>(value.toLongLong())); // in ten-thousandths
     case FormerType::Numeric:
@@ -329,52 +286,71 @@ QByteArray FormerWriter::variableBytes(const FormerColumn& column, const QVarian
     return little(size | 0x80000000U) + QByteArray(8, '\0') + text;
 }
 
-QByteArray FormerWriter::rowBytes(const FormerRows& table, const QVariantList& row) const
+QByteArray FormerWriter::number(int value) const
 {
-    const auto count = static_cast<int>(table.columns.size());
-    const auto number = [this](int value) {
-        return m_isOld ? byte(value) : word(value);
-    };
-    QByteArray bytes = number(count);
-    QByteArray mask((count + 7) / 8, '\0');
-    QVector<int> offsets;
-    for (int i = 0; i < count; ++i) {
-        const FormerColumn& column = table.columns.at(i);
-        const bool isSet = column.type == FormerType::YesNo ? row.at(i).toBool() : row.at(i).isValid();
-        if (isSet)
+    return m_isOld ? byte(value) : word(value);
+}
+
+/// A bit for each field that is not null, or that is yes.
+QByteArray FormerWriter::maskOf(const FormerRows& table, const QVariantList& row)
+{
+    QByteArray mask((table.columns.size() + 7) / 8, '\0');
+    for (int i = 0; i < table.columns.size(); ++i) {
+        const bool isYesNo = table.columns.at(i).type == FormerType::YesNo;
+        if (isYesNo ? row.at(i).toBool() : row.at(i).isValid())
             mask[i / 8] = static_cast<char>(mask.at(i / 8) | (1 << (i % 8)));
-        if (!isVariable(column.type)) {
-            const QByteArray value = row.at(i).isValid() ? fixedBytes(column, row.at(i)) : QByteArray();
-            bytes += value.leftJustified(fixedSize(column.type), '\0', true);
-        }
     }
-    for (int i = 0; i < count; ++i) {
+    return mask;
+}
+
+/// The offset of an old record is one byte; a table tells at which offset each further 256 begin. It may make
+/// the record longer by another 256, so that it has one entry more, which says nothing.
+QByteArray FormerWriter::jumpsOf(const QVector<int>& offsets, int size)
+{
+    int jumps = (size - 1) / 256;
+    jumps = (size + jumps - 1) / 256;
+    QByteArray bytes;
+    for (int jump = jumps; jump >= 1; --jump) {
+        const auto first = std::ranges::find_if(offsets, [jump](int offset) { return offset >= 256 * jump; });
+        bytes += byte(first != offsets.cend() ? static_cast<int>(first - offsets.cbegin()) : 0xFF);
+    }
+    return bytes;
+}
+
+/// The values of a variable length, each appended to @p bytes. @return where each begins, and the last ends.
+QVector<int> FormerWriter::addVariables(QByteArray& bytes, const FormerRows& table,
+                                        const QVariantList& row) const
+{
+    QVector<int> offsets;
+    for (int i = 0; i < table.columns.size(); ++i) {
         if (!isVariable(table.columns.at(i).type))
             continue;
         offsets.append(static_cast<int>(bytes.size()));
         if (row.at(i).isValid())
             bytes += variableBytes(table.columns.at(i), row.at(i));
     }
+    if (!offsets.isEmpty())
+        offsets.append(static_cast<int>(bytes.size()));
+    return offsets;
+}
+
+QByteArray FormerWriter::rowBytes(const FormerRows& table, const QVariantList& row) const
+{
+    QByteArray bytes = number(static_cast<int>(table.columns.size()));
+    for (int i = 0; i < table.columns.size(); ++i) {
+        const FormerColumn& column = table.columns.at(i);
+        const QByteArray value = row.at(i).isValid() ? fixedBytes(column, row.at(i)) : QByteArray();
+        bytes += value.leftJustified(fixedSize(column.type), '\0', true);
+    }
+    const QByteArray mask = maskOf(table, row);
+    const QVector<int> offsets = addVariables(bytes, table, row);
     if (offsets.isEmpty())
         return bytes + mask;
-    const auto variables = static_cast<int>(offsets.size());
-    offsets.append(static_cast<int>(bytes.size()));
-    for (int i = variables; i >= 0; --i)
-        bytes += number(offsets.at(i));
-    if (m_isOld) {
-        // An offset is one byte; a table tells at which one each further 256 begin. It may make the row
-        // longer by another 256, so that it has one entry more, which says nothing.
-        const auto whole = static_cast<int>(bytes.size() + 1 + mask.size());
-        int jumps = (whole - 1) / 256;
-        jumps = (whole + jumps - 1) / 256;
-        for (int jump = jumps; jump >= 1; --jump) {
-            int first = 0;
-            while (first < offsets.size() && offsets.at(first) < 256 * jump)
-                ++first;
-            bytes += byte(first < offsets.size() ? first : 0xFF);
-        }
-    }
-    return bytes + number(variables) + mask;
+    for (auto offset = offsets.crbegin(); offset != offsets.crend(); ++offset)
+        bytes += number(*offset);
+    if (m_isOld)
+        bytes += jumpsOf(offsets, static_cast<int>(bytes.size() + 1 + mask.size()));
+    return bytes + number(static_cast<int>(offsets.size()) - 1) + mask;
 }
 
 } // namespace norvane::test

@@ -65,11 +65,18 @@ private:
     void put(int page, int at, const QByteArray& bytes);
     void addTable(const FormerRows& table, int definitionPage);
     void writeDefinition(const FormerRows& table, int page, int mapPage);
+    [[nodiscard]] QByteArray definitionBytes(const FormerRows& table, int mapPage) const;
+    [[nodiscard]] QByteArray columnBytes(const FormerRows& table, int& variables) const;
     QVector<int> writeRows(const FormerRows& table, int definitionPage);
     int writeMap(const QVector<int>& pages);
     [[nodiscard]] QByteArray columnEntry(const FormerColumn& column, int number, int variableNumber,
                                          int offset) const;
+    /// A byte in the old format, two in the newer one.
+    [[nodiscard]] QByteArray number(int value) const;
     [[nodiscard]] QByteArray rowBytes(const FormerRows& table, const QVariantList& row) const;
+    QVector<int> addVariables(QByteArray& bytes, const FormerRows& table, const QVariantList& row) const;
+    [[nodiscard]] static QByteArray maskOf(const FormerRows& table, const QVariantList& row);
+    [[nodiscard]] static QByteArray jumpsOf(const QVector<int>& offsets, int size);
     [[nodiscard]] QByteArray textBytes(const QString& text) const;
     [[nodiscard]] QByteArray fixedBytes(const FormerColumn& column, const QVariant& value) const;
     [[nodiscard]] QByteArray variableBytes(const FormerColumn& column, const QVariant& value) const;
