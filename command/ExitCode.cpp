@@ -20,7 +20,7 @@ std::span<const ExitMeaning> exitMeanings()
         {ExitCode::NoSuchName,
          "there is no such box, report or copy, or the name fits several, also that of the customer"_L1},
         {ExitCode::Busy,
-         "another exchange, collection, price run or publication is at work with the customer"_L1},
+         "another exchange, collection, price run, publication or conversion is at work with the customer"_L1},
         {ExitCode::Stopped,
          "the run stopped before its end: a register's answer, or a question answered No"_L1},
         {ExitCode::Unwritable, "a file or folder cannot be written"_L1},

@@ -61,7 +61,7 @@ constexpr auto copyProgrammeOptions = std::to_array<OptionDefinition>({
 });
 constexpr auto convertOptions = std::to_array<OptionDefinition>({
     {"all"_L1, {}, "every customer whose database was made by the former program"_L1},
-    {"dry-run"_L1, {}, "look at the databases, and change nothing"_L1},
+    {"dry-run"_L1, {}, "report what would happen, and change nothing"_L1},
     {"accept-losses"_L1,
      {},
      "convert also where records cannot be read or values do not fit; each folder has a list of them"_L1},

@@ -20,7 +20,7 @@ const auto reportName = u"norvane-conversion.txt"_s;
 /// A message box stays small; the report file has them all.
 constexpr qsizetype mostLinesInBox = 5;
 /// Storing takes about so many times as long as reading.
-constexpr int storingFactor = 4;
+constexpr int storingFactor = 2;
 
 QString shownCount(qint64 count)
 {
@@ -105,8 +105,14 @@ QStringList findingsInWords(const Examination& found)
 
 QStringList lossesInWords(const Examination& found)
 {
+    QStringList lines;
+    if (found.isOpen) {
+        lines
+            << u"The former program has the file open, as velmar.ldb shows: what it stores from now on would "
+               "be missing. Close it first, or delete velmar.ldb if it was left behind."_s;
+    }
     const QStringList missing = missingInWords(found);
-    QStringList lines = shortened(missing, missing.size());
+    lines += shortened(missing, missing.size());
     lines += shortened(unfitInWords(found), found.unfitCount);
     return lines;
 }

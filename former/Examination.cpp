@@ -3,6 +3,7 @@
 
 #include "former/FormerValues.h"
 #include "former/TablePlan.h"
+#include "platform/FilePaths.h"
 #include "store/catalogue/SalesTables.h"
 
 #include <QDir>
@@ -118,7 +119,9 @@ Examination examine(const QString& path, const QString& programFolder, const Kee
     const auto begun = std::chrono::steady_clock::now();
     Examiner examiner;
     Examination& found = examiner.found();
-    found.fileTime = QFileInfo(path).lastModified();
+    const QFileInfo file(path);
+    found.fileTime = file.lastModified();
+    found.isOpen = pathExists(joinPath(file.path(), file.completeBaseName() + u".ldb"_s));
     readFormerFile(path, programFolder, examiner, keepGoing);
     found.readingTime =
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - begun);

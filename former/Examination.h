@@ -49,6 +49,7 @@ struct Examination {
     QVector<ShortTable> shortTables;
     QVector<UnfitValue> unfitValues; ///< the first of them
     qint64 unfitCount = 0;
+    bool isOpen = false; ///< velmar.ldb is beside it: the former program works with it, or did not close it
     std::chrono::milliseconds readingTime{0};
 };
 

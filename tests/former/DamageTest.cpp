@@ -77,6 +77,13 @@ TEST(Damage, ACutOffPageGivesNoRecordsOfNothing)
     EXPECT_EQ(shop.examined().shortTables.size(), 1);
 }
 
+TEST(Damage, AFileThatTheFormerProgramHasOpenIsAskedAbout)
+{
+    const FormerShop shop(databaseWith(plus()));
+    shop.folder().write("VELMAR.LDB", "");
+    EXPECT_TRUE(conversionQuestion(shop.examined()).contains(u"has the file open, as velmar.ldb shows"_s));
+}
+
 /// A reader that is not the real one.
 std::string problemWithReader(const char* script)
 {
