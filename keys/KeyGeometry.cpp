@@ -15,8 +15,8 @@ constexpr FixedCell dorvikFixed[] = {
     {{0, 1}, "Journal Feed\rFIXED"_L1},
 };
 
-constexpr KeyGeometry velmar{"KeyLayoutVelmar"_L1, 13, 13, 169, {}};
-constexpr KeyGeometry dorvik{"KeyLayoutDorvik"_L1, 10, 16, 158, dorvikFixed};
+constexpr KeyGeometry velmar{"KeyLayoutVelmar"_L1, 13, 13, keysOfLevel(RegisterFamily::Velmar), {}};
+constexpr KeyGeometry dorvik{"KeyLayoutDorvik"_L1, 10, 16, keysOfLevel(RegisterFamily::Dorvik), dorvikFixed};
 
 } // namespace
 

@@ -12,7 +12,7 @@
 namespace norvane::keys
 {
 
-inline constexpr int levelCount = 5;
+inline constexpr int levelCount = keyboardLevels;
 
 /// Place of a cell of the grid, row and column from 0.
 struct KeyCell {

@@ -20,6 +20,14 @@ struct RegisterModel {
     bool hasPoints;   ///< takes points of a smart card as payment
 };
 
+/// Levels of a keyboard, and the keys of a level that can be programmed: so many rows belong to it in each of
+/// the tables KEYLINK and NLU.
+inline constexpr int keyboardLevels = 5;
+[[nodiscard]] constexpr int keysOfLevel(RegisterFamily family)
+{
+    return family == RegisterFamily::Velmar ? 169 : 158;
+}
+
 /// The model for the value of the setting ECRModel, read as a number. A number that is not in the list is a
 /// Dorvik. @throws RuntimeFailure with Failure::TypeMismatch if @p setting is empty or not a number.
 [[nodiscard]] const RegisterModel& modelOfNumber(const QString& setting);

@@ -267,17 +267,39 @@ QString FieldPanel::labelOf(const QString& dataField) const
     return control == m_controls.end() ? QString() : ui::spokenName(*control->widget);
 }
 
+BoundField FieldPanel::contentOfControl(const Control& control)
+{
+    return {control.definition.kind, control.definition.dataField,
+            control.definition.readOnly.value_or(false), contentOf(control.definition.kind, *control.widget)};
+}
+
 BoundFields FieldPanel::contents() const
 {
     BoundFields fields;
     for (const Control& control : m_controls) {
-        if (isBound(control.definition)) {
-            fields.append({control.definition.kind, control.definition.dataField,
-                           control.definition.readOnly.value_or(false),
-                           contentOf(control.definition.kind, *control.widget)});
-        }
+        if (isBound(control.definition))
+            fields += contentOfControl(control);
     }
     return fields;
+}
+
+BoundFields FieldPanel::entries() const
+{
+    BoundFields fields;
+    for (const Control& control : m_controls) {
+        if (isBound(control.definition) && !control.definition.readOnly.value_or(false) &&
+            control.definition.enabled.value_or(true))
+            fields += contentOfControl(control);
+    }
+    return fields;
+}
+
+QLineEdit* FieldPanel::entryBox(const QString& dataField) const
+{
+    const auto control = std::ranges::find_if(m_controls, [&](const Control& known) {
+        return isBoundTo(known.definition, dataField) && isEditable(known.definition, *known.widget);
+    });
+    return control == m_controls.end() ? nullptr : qobject_cast<QLineEdit*>(control->widget);
 }
 
 void FieldPanel::showContents(const BoundFields& fields)

@@ -42,6 +42,10 @@ public:
 
     /// The controls that are bound to fields, in the order of the file, with what they show.
     [[nodiscard]] BoundFields contents() const;
+    /// Of contents() those that the user may change.
+    [[nodiscard]] BoundFields entries() const;
+    /// The box for @p dataField that the user may type into; nullptr if there is none.
+    [[nodiscard]] QLineEdit* entryBox(const QString& dataField) const;
     /// Shows @p fields, which come from contents().
     void showContents(const BoundFields& fields);
     /// The one grid of the screen, nullptr without one.
@@ -78,6 +82,7 @@ private:
     void chain(const QVector<Control>& ordered);
     [[nodiscard]] static QWidget* firstEditable(const QVector<Control>& ordered, const QString& except);
     void focusOn(QWidget* control);
+    [[nodiscard]] static BoundField contentOfControl(const Control& control);
 
     std::shared_ptr<store::Database> m_database;
     QWidget* m_picture; ///< parent of the controls

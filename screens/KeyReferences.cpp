@@ -1,7 +1,6 @@
 // See KeyReferences.h.
 #include "screens/KeyReferences.h"
 
-#include "store/catalogue/RecordReferences.h"
 #include "store/engine/BoundQuery.h"
 
 #include <QStringList>
@@ -16,23 +15,6 @@ namespace norvane::screens
 {
 namespace
 {
-
-QString numbered(QString text, int number)
-{
-    return text.replace(u'*', QString::number(number));
-}
-
-/// A database of a former version may lack a table or a field.
-bool isIn(const store::Database& database, const store::RecordReference& reference)
-{
-    if (!database.hasTable(reference.table))
-        return false;
-    const auto fields = database.table(reference.table).fields;
-    const QString first = numbered(reference.field, reference.first);
-    return std::ranges::any_of(fields, [&first](const store::FieldDefinition& field) {
-        return field.name.compare(first, Qt::CaseInsensitive) == 0;
-    });
-}
 
 std::string countOf(const store::RecordReference& reference)
 {
@@ -88,6 +70,19 @@ QString wordsOf(const Counts& counted)
 }
 
 } // namespace
+
+QString numbered(QString text, int number)
+{
+    return text.replace(u'*', QString::number(number));
+}
+
+bool isIn(const store::Database& database, const store::RecordReference& reference)
+{
+    if (!database.hasTable(reference.table))
+        return false;
+    const store::TableDefinition table = database.table(reference.table);
+    return fieldNamed(table, numbered(reference.field, reference.first)) != nullptr;
+}
 
 KeyHolders holdersOfKey(store::Database& database, const QString& table, const store::Value& key)
 {

@@ -1,6 +1,7 @@
 // Which records refer to a record of a table by its number.
 #pragma once
 
+#include "store/catalogue/RecordReferences.h"
 #include "store/engine/Database.h"
 #include "store/engine/Value.h"
 
@@ -8,6 +9,11 @@
 
 namespace norvane::screens
 {
+
+/// @p text with @p number in the place of its "*".
+[[nodiscard]] QString numbered(QString text, int number);
+/// Whether @p database has the field of @p reference; one of a former version may lack it.
+[[nodiscard]] bool isIn(const store::Database& database, const store::RecordReference& reference);
 
 /// What holds a number.
 struct KeyHolders {

@@ -34,7 +34,8 @@ OptionForm::OptionForm(const QString& screenFilePath, const ApplicationValues& v
     buildWindow();
     buildControls();
     buildList();
-    buildButtons(tools);
+    buildUses();
+    buildButtons(ownTools() + tools);
     takeUndoKey();
     ShowFields();
     CSPict1->focusFirst();
@@ -79,8 +80,10 @@ void OptionForm::showRecord()
 void OptionForm::showUnchanged(const BoundFields& fields)
 {
     CSPict1->showContents(fields);
+    m_marks.clear();
     m_typed->begin();
     showStar();
+    recountUses();
 }
 
 void OptionForm::refresh()
@@ -90,6 +93,7 @@ void OptionForm::refresh()
             grid->reread();
         if (!m_editor->isAdding() && !m_typed->exist() && m_editor->reread())
             showRecord();
+        recountUses();
     });
 }
 
@@ -246,7 +250,8 @@ void OptionForm::tellRefusal(const RuntimeFailure& failure)
 
 void OptionForm::deleteRecord()
 {
-    if (!m_boxes.ask(u"Are You Sure?"_s, u"Delete Record"_s, BoxIcon::Critical, BoxAnswer::No))
+    if (!mayDelete() ||
+        !m_boxes.ask(u"Are You Sure?"_s, u"Delete Record"_s, BoxIcon::Critical, BoxAnswer::No))
         return;
     {
         auto work = recordWork();

@@ -4,6 +4,8 @@
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 #include "platform/RuntimeFailure.h"
+#include "screens/EntryMarks.h"
+#include "screens/KeyUses.h"
 #include "screens/LostChanges.h"
 #include "screens/RecordEditor.h"
 #include "screens/ReportRunner.h"
@@ -31,6 +33,7 @@ namespace norvane::screens
 class FieldPanel;
 class GridControl;
 class RecordList;
+class UsesButton;
 
 /// Builds itself from a screen file over the database at databasePath.
 /// Each instance has its own connection and position, so that several may be open on one table. The title has
@@ -66,6 +69,10 @@ public:
     void getBack();
     /// From now on, what is saved, added and deleted can be undone from @p history.
     void setHistory(std::shared_ptr<store::WorkHistory> history) { m_history = std::move(history); }
+    /// Starts a new record with what the screen shows, and with the fields of the shown record that have no
+    /// control here. Its number and text are left to the user; for a PLU the next free number is proposed.
+    /// What was typed and not saved is dropped as by Add.
+    void addLikeThis();
     [[nodiscard]] QString screenFile() const { return m_file.path(); }
     [[nodiscard]] QString databasePath() const { return m_databasePath; }
 
@@ -99,12 +106,15 @@ private:
     void buildWindow();
     void buildControls();
     void buildButtons(const ScreenTools& tools);
+    [[nodiscard]] ScreenTools ownTools() const;
     [[nodiscard]] QPushButton* addToolsButton(const ScreenTools& tools, QHBoxLayout& row);
     [[nodiscard]] QPushButton* addButton(const ButtonRow& entry, QHBoxLayout& row);
     void buildList();
+    void buildUses();
     [[nodiscard]] QString textField() const;
     void layOut(QHBoxLayout* buttons);
     void addFindBar(GridControl& grid, QVBoxLayout& column);
+    void addUsesRow(QVBoxLayout& column);
     void fitButtons(const QVector<QPushButton*>& shown);
 
     void attempt(const std::function<void()>& act);
@@ -124,7 +134,14 @@ private:
     [[nodiscard]] QString spokenRecord() const;
     [[nodiscard]] QString unsavedRecord() const;
     void tellRefusal(const RuntimeFailure& failure);
+    [[nodiscard]] bool mayDelete();
     void deleteRecord();
+    [[nodiscard]] KeyUses usesOfRecord(int atMost);
+    [[nodiscard]] std::optional<KeyUses> readUses(int atMost);
+    void recountUses();
+    void startLike(const std::vector<store::Value>& record, BoundFields fields);
+    [[nodiscard]] store::Value proposedNumber(const BoundField& number);
+    void markEntries();
     void nextRecord();
     void previousRecord();
     void findRecord(int element);
@@ -155,6 +172,8 @@ private:
     std::unique_ptr<RecordEditor> m_editor;
     FieldPanel* CSPict1 = nullptr;
     RecordList* m_list = nullptr; ///< beside screens that walk several records
+    UsesButton* m_uses = nullptr; ///< on such screens whose records others refer to
+    EntryMarks m_marks;           ///< of a new record like another
     bool m_failed = false;        ///< it closes, and does nothing any more
     std::optional<TypedChanges> m_typed;
     std::shared_ptr<LostChangesList> m_losses;

@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyle>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -169,6 +170,8 @@ void OptionForm::layOut(QHBoxLayout* buttons)
     auto* const column = new QVBoxLayout;
     column->setSpacing(ui::spacing::controlGap);
     column->addWidget(CSPict1, 1);
+    if (m_uses)
+        addUsesRow(*column);
     column->addWidget(line);
     column->addLayout(buttons);
     auto* const row = new QHBoxLayout(this);
@@ -231,7 +234,8 @@ void OptionForm::fitButtons(const QVector<QPushButton*>& shown)
     const int width =
         qBound(ui::scaled(narrowestButton), (m_size.width() - besides) / count, ui::scaled(ui::buttonWidth));
     for (QPushButton* const button : shown) {
-        const int text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+        const int arrow = button->menu() ? style()->pixelMetric(QStyle::PM_MenuButtonIndicator) : 0;
+        const int text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() + arrow;
         button->setMinimumWidth(qMin(width, text + 2 * ui::spacing::controlGap));
         button->setMaximumWidth(width);
     }

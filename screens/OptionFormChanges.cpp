@@ -125,6 +125,7 @@ void OptionForm::putBack(const LostChanges& lost)
 {
     if (lost.isNew) {
         startRecord();
+        m_editor->copyUnshown(lost.seen, CSPict1->contents());
     } else {
         showRecord();
         m_editor->setSeen(lost.seen);

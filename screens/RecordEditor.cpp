@@ -101,6 +101,18 @@ void RecordEditor::add(BoundFields& fields)
     m_records.addNew();
 }
 
+void RecordEditor::copyUnshown(const std::vector<store::Value>& record, const BoundFields& shown)
+{
+    QStringList bound{searchedField(1).name};
+    for (const BoundField& field : shown)
+        bound += field.dataField.trimmed();
+    for (int ordinal = 0; ordinal < static_cast<int>(record.size()); ++ordinal) {
+        if (!bound.contains(m_records.field(ordinal).name, Qt::CaseInsensitive))
+            m_records.setValue(ordinal, store::Value(record[static_cast<std::size_t>(ordinal)]));
+    }
+    m_seen = record;
+}
+
 /// Reads the record again, even if an earlier save was refused and has left its edit open.
 void RecordEditor::beginEdit()
 {

@@ -57,6 +57,10 @@ public:
     void showNothing(BoundFields& fields);
     /// Blanks @p fields and starts a new record, which is stored by save() only.
     void add(BoundFields& fields);
+    /// Copies from @p record, all fields of a record of this table, to the new record what no control of
+    /// @p shown is bound to. The number of the record is not copied. The new record counts as seen in the
+    /// state of @p record, of which an empty one copies nothing.
+    void copyUnshown(const std::vector<store::Value>& record, const BoundFields& shown);
     /// Whether a save of @p fields would write over values that another screen or program has stored since
     /// showFields().
     [[nodiscard]] bool wouldOverwrite(const BoundFields& fields);

@@ -28,6 +28,11 @@ constexpr Reason reasons[] = {
     {Failure::RecordDeleted, "the record was deleted meanwhile"_L1},
 };
 
+QString placesInWords(int count)
+{
+    return count == 1 ? u"1 place"_s : u"%1 places"_s.arg(count);
+}
+
 } // namespace
 
 bool mayOverwrite(Boxes& boxes)
@@ -47,6 +52,22 @@ bool mayRenumber(Boxes& boxes, const QString& record, const QString& before, con
     if (holders.count > 0)
         text += u" They keep the old number and will not find this record any more."_s;
     return askBeforeLoss(boxes, text + u"\r\rSave it under the new number?"_s);
+}
+
+bool mayDeleteUsed(Boxes& boxes, const QString& record, const KeyUses& uses)
+{
+    if (uses.count == 0)
+        return true;
+    QString text = u"%1 is used in %2:\r\r"_s.arg(record, placesInWords(uses.count)) + uses.first.join(u'\r');
+    if (const auto more = uses.count - uses.first.size(); more > 0)
+        text += u"\rand %1 more"_s.arg(more);
+    return askBeforeLoss(boxes, text + (uses.count == 1 ? u"\r\rIt will be without this record. Delete it?"_s
+                                                        : u"\r\rThey will be without it. Delete it?"_s));
+}
+
+QString newLike(const QString& record)
+{
+    return u"A new record like %1. Type its number and description, then press Save"_s.arg(record);
 }
 
 UnsavedAnswer askToSave(Boxes& boxes, const QString& record)

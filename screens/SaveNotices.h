@@ -1,9 +1,10 @@
-// Questions before a save and messages after it.
+// Questions before a save or a deletion, and messages after it.
 #pragma once
 
 #include "platform/Boxes.h"
 #include "platform/RuntimeFailure.h"
 #include "screens/KeyReferences.h"
+#include "screens/KeyUses.h"
 
 #include <QString>
 
@@ -18,6 +19,13 @@ namespace norvane::screens
 /// to a record by its number keeps the old one. @param holders of the old number.
 [[nodiscard]] bool mayRenumber(Boxes& boxes, const QString& record, const QString& before,
                                const QString& after, const KeyHolders& holders);
+
+/// Asks whether to delete @p record ("PLU 1001"), which @p uses would then be without. A record that nothing
+/// uses is not asked about. @return true to delete it.
+[[nodiscard]] bool mayDeleteUsed(Boxes& boxes, const QString& record, const KeyUses& uses);
+
+/// Says that the new record is like @p record, and what to do next.
+[[nodiscard]] QString newLike(const QString& record);
 
 /// Asks what to do with changes to @p record ("PLU 1001") before a control leads away from them.
 [[nodiscard]] UnsavedAnswer askToSave(Boxes& boxes, const QString& record);

@@ -25,6 +25,8 @@ constexpr RecordReference references[] = {
     {"PLUDATA"_L1, "look-up"_L1, "WLU"_L1, "codenumber*"_L1, 1, 50, "wlutype* IN (0, 1)"_L1},
     {"PLUDATA"_L1, "link"_L1, "PLUDATA"_L1, "STOCKLINK"_L1},
     {"PLUDATA"_L1, "link"_L1, "PLUSTATUS"_L1, "LINKEDPLU"_L1},
+    // Parts of the kind PLU; the others are ingredients and recipes.
+    {"PLUDATA"_L1, "recipe"_L1, "RECIPE"_L1, "recipe*"_L1, 1, 20, "item* = 1"_L1},
     {"GROUPS"_L1, "PLU"_L1, "PLUDATA"_L1, "GROUPNO"_L1},
     {"GROUPS"_L1, "status group"_L1, "PLUSTATUS"_L1, "GROUPLINK*"_L1, 2, 3},
     {"PLUSTATUS"_L1, "PLU"_L1, "PLUDATA"_L1, "PLUSTATUS"_L1},

@@ -49,8 +49,8 @@ protected:
                     "'12.34', " +
                     QByteArray(group) + ")");
         }
-        execute("insert into PLUDATA values ('000000000000000005', 'Lager', '2.5', 1)");
-        execute("insert into PLUDATA values ('000000000000000123', 'Claret', '2.5', 1)");
+        execute("insert into PLUDATA values ('000000000000000005', 'Lager', '2.5', 9)");
+        execute("insert into PLUDATA values ('000000000000000123', 'Claret', '2.5', 9)");
     }
 
     void execute(const QByteArray& sql) const

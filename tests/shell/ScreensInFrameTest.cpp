@@ -75,7 +75,8 @@ TEST_F(ScreensInFrameTest, ANewNumberForAnArticleIsAskedForWithWhatHoldsTheOldOn
     saveAs("999");
     EXPECT_EQ(plus(), "Stout 2.5|Cider 3");
     EXPECT_EQ(notice(), "Saved PLU 999");
-    EXPECT_TRUE(saveAs("1001").text.contains(u"999 is used by no key, look-up or link.\r\rSave it"_s));
+    EXPECT_TRUE(
+        saveAs("1001").text.contains(u"999 is used by no key, look-up, link or recipe.\r\rSave it"_s));
     letter(Qt::Key_A);
     EXPECT_TRUE(soon([] { return QApplication::focusWidget()->objectName() == QLatin1String(pluNumber); }))
         << "of a new record";
