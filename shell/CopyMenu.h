@@ -22,7 +22,6 @@ public:
 
 private:
     void addCopy(const customers::SafetyCopy& copy);
-    static void restore(const ApplicationValues& values, Boxes& boxes, const customers::SafetyCopy& copy);
 
     ApplicationValues m_values;
     Boxes& m_boxes;

@@ -3,6 +3,7 @@
 
 #include "customers/CustomerFolders.h"
 #include "shell/ConversionBox.h"
+#include "shell/CopiesDialog.h"
 #include "shell/CopyMenu.h"
 #include "shell/NewShopDialog.h"
 #include "ui/Appearance.h"
@@ -59,7 +60,13 @@ QLayout* FrmCustomer::makeButtons()
     CmdNewLike->setAutoDefault(false);
     CmdNewLike->setEnabled(List1->count() > 0);
     connect(CmdNewLike, &QPushButton::clicked, this, &FrmCustomer::makeLikeAnother);
-    return ui::makeButtonRow({CSCmdBtn1}, {CmdNewLike});
+    auto* const CmdCopies = ui::makeButton(u"CmdCopies"_s, u"Safety &Copies..."_s, this);
+    CmdCopies->setAutoDefault(false);
+    CmdCopies->setEnabled(false);
+    connect(CmdCopies, &QPushButton::clicked, this, &FrmCustomer::showCopiesOfChosen);
+    connect(List1, &QListWidget::itemSelectionChanged, CmdCopies,
+            [this, CmdCopies] { CmdCopies->setEnabled(!List1->selectedItems().isEmpty()); });
+    return ui::makeButtonRow({CSCmdBtn1}, {CmdNewLike, CmdCopies});
 }
 
 QGroupBox* FrmCustomer::makeFrame()
@@ -103,6 +110,12 @@ void FrmCustomer::showCopies(QPoint place)
         return;
     auto* const menu = new CopyMenu(m_values.appPath, line->text(), m_boxes, this);
     menu->popup(List1->viewport()->mapToGlobal(place));
+}
+
+void FrmCustomer::showCopiesOfChosen()
+{
+    if (const auto chosen = List1->selectedItems(); !chosen.isEmpty())
+        CopiesDialog(m_values.appPath, chosen.first()->text(), m_boxes, this).exec();
 }
 
 void FrmCustomer::takeCustomer()

@@ -42,6 +42,7 @@ private:
     void connectList();
     void copyChosenRow();
     void showCopies(QPoint place);
+    void showCopiesOfChosen();
     void takeCustomer();
     void welcomeNewCustomer();
     void makeLikeAnother();

@@ -1,5 +1,6 @@
-// The context menu of a customer's line.
+// The safety copies of a customer: the context menu of its line, and the window.
 #include "customers/SafetyCopies.h"
+#include "shell/CopiesDialog.h"
 #include "shell/FrmCustomer.h"
 #include "tests/shell/ShellFixture.h"
 #include "tests/support/FormTest.h"
@@ -48,6 +49,31 @@ TEST_F(CopyMenuTest, RestoresTheCustomerAfterAQuestion)
     chooseLastCopy();
     EXPECT_EQ(plus(), "1");
     EXPECT_TRUE(m_boxes.shown.back().text.startsWith(u"CAFE is as it was on"_s));
+}
+
+TEST_F(CopyMenuTest, TheWindowMakesComparesAndRestoresCopies)
+{
+    execute(u"insert into PLUDATA (PLUNUMBER, PRICE1) values ('1', '2.5')"_s);
+    CopiesDialog dialog(m_values.appPath, u"CAFE"_s, m_boxes, nullptr);
+    dialog.show();
+    EXPECT_FALSE(child<QPushButton>(dialog, "RestoreCopy").isEnabled()) << "there is no copy yet";
+    child<QPushButton>(dialog, "MakeCopy").click();
+    auto& list = child<QTreeWidget>(dialog, "CopyList");
+    ASSERT_EQ(list.topLevelItemCount(), 1);
+    EXPECT_EQ(list.topLevelItem(0)->text(1), u"by hand"_s);
+    const auto differences = [&dialog] {
+        child<QPushButton>(dialog, "CompareCopy").click();
+        return child<QPlainTextEdit>(dialog, "CopyDifferences").toPlainText().toStdString();
+    };
+    EXPECT_EQ(differences(), "Nothing");
+    execute(u"update PLUDATA set PRICE1 = '3'"_s);
+    execute(u"insert into PLUDATA (PLUNUMBER) values ('2')"_s);
+    setModel("3");
+    EXPECT_EQ(differences(), "PLUDATA: 0 new, 1 changed, 1 gone\nSettings");
+    m_boxes.answers = {true};
+    child<QPushButton>(dialog, "RestoreCopy").click();
+    EXPECT_EQ(plus(), "1");
+    EXPECT_EQ(list.topLevelItemCount(), 2) << "the state before the restore is kept";
 }
 
 } // namespace
