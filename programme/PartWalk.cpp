@@ -48,10 +48,15 @@ bool holdsPrice(const QString& table, const store::FieldDefinition& field)
            field.name.contains("PRICE"_L1, Qt::CaseInsensitive);
 }
 
-QString shownValue(FieldType type, const Value& value)
+/// Prices have two places, as on the screen.
+QString shownValue(FieldType type, bool isPrice, const Value& value)
 {
+    constexpr int priceDecimals = 2;
     if (type == FieldType::YesNo)
         return value.isTrue() ? u"Yes"_s : u"No"_s;
+    const auto price = isPrice ? Decimal::parse(value.toUtf8()) : std::nullopt;
+    if (price && price->scale() <= priceDecimals)
+        return QString::fromStdString(price->text(priceDecimals));
     return value.toText().trimmed();
 }
 
@@ -211,8 +216,8 @@ void PartWalk::compareFields()
     for (const Column& column : m_columns) {
         if (!isSame(column)) {
             m_change.fields << FieldChange{
-                column.name, shownValue(column.type, m_target.value(column.target)),
-                shownValue(column.type, m_source.value(column.source)), refusalOf(column)};
+                column.name, shownValue(column.type, column.isPrice, m_target.value(column.target)),
+                shownValue(column.type, column.isPrice, m_source.value(column.source)), refusalOf(column)};
         }
     }
 }
@@ -224,7 +229,7 @@ void PartWalk::listRefused()
         const QString refusal = refusalOf(column);
         if (refusal.isEmpty() || isEmpty(m_source.value(column.source)))
             continue;
-        const QString after = shownValue(column.type, m_source.value(column.source));
+        const QString after = shownValue(column.type, column.isPrice, m_source.value(column.source));
         m_change.fields << FieldChange{column.name, {}, after, refusal};
     }
 }

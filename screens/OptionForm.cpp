@@ -48,6 +48,11 @@ QString OptionForm::caption() const
     return windowTitle().chopped(titleStar.size());
 }
 
+QString OptionForm::labelOf(const QString& field) const
+{
+    return CSPict1->labelOf(field);
+}
+
 void OptionForm::ShowFields()
 {
     showRecord();

@@ -75,6 +75,14 @@ public:
     void addLikeThis();
     [[nodiscard]] QString screenFile() const { return m_file.path(); }
     [[nodiscard]] QString databasePath() const { return m_databasePath; }
+    [[nodiscard]] QString table() const { return m_file.table().table; }
+    /// The stored key of the record shown; empty for a new one.
+    [[nodiscard]] QString recordKey() const { return m_editor->key(); }
+    /// "PLU 1001"; the caption for the only record of a screen.
+    [[nodiscard]] QString shownRecord() const;
+    [[nodiscard]] QString caption() const;
+    /// What the label beside the control of @p field says.
+    [[nodiscard]] QString labelOf(const QString& field) const;
 
 Q_SIGNALS:
     /// The result of the last action, in words for the status bar; empty once the screen shows another
@@ -101,7 +109,6 @@ private:
     };
     [[nodiscard]] static const QVector<ButtonRow>& buttonRows();
 
-    [[nodiscard]] QString caption() const;
     void openTable();
     void buildWindow();
     void buildControls();
@@ -128,8 +135,6 @@ private:
     [[nodiscard]] bool storeRecord(BoundFields& fields);
     [[nodiscard]] bool mayRenumberRecord(const BoundFields& fields);
     void keepNumber(BoundFields fields);
-    /// "PLU 1001"; the caption for the only record of a screen.
-    [[nodiscard]] QString shownRecord() const;
     /// With its text: "PLU 1001, Espresso".
     [[nodiscard]] QString spokenRecord() const;
     [[nodiscard]] QString unsavedRecord() const;

@@ -5,6 +5,7 @@
 #include "platform/FailureBox.h"
 #include "sales/FrmsalesComm.h"
 #include "screens/OptionForm.h"
+#include "shell/CopyTool.h"
 #include "shell/FrameOpeners.h"
 #include "shell/KeyOpeners.h"
 #include "shell/MainStatusBar.h"
@@ -66,7 +67,8 @@ public:
     screens::OptionForm& open(FrmMain& main, const QString& screenFile)
     {
         auto reports = std::make_unique<ScreenReports>(main, m_values, m_boxes);
-        auto* const form = new screens::OptionForm(screenFile, m_values, m_boxes, reports.get(), m_losses);
+        auto* const form =
+            new screens::OptionForm(screenFile, m_values, m_boxes, reports.get(), m_losses, toolsFor(main));
         reports.release()->setParent(form);
         form->setHistory(m_history);
         QObject::connect(form, &screens::OptionForm::noticeChanged, &main.statusBar1(),
@@ -108,6 +110,11 @@ private:
         for (auto* const form : main.findChildren<screens::OptionForm*>())
             form->refreshAll();
         main.statusBar1().setNotice(notice);
+    }
+
+    [[nodiscard]] screens::ScreenTools toolsFor(FrmMain& main)
+    {
+        return {makeCopyTool(main, m_values, m_boxes)};
     }
 
     ApplicationValues& m_values;

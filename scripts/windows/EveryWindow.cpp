@@ -12,6 +12,7 @@
 #include "overlay/PrinterSetup.h"
 #include "overlay/SystemDialogs.h"
 #include "platform/ProfileFile.h"
+#include "programme/CopyToShopsDialog.h"
 #include "reports/window/Report.h"
 #include "sales/Frmreports.h"
 #include "scripts/windows/FilledShop.h"
@@ -87,6 +88,12 @@ constexpr Dialog dialogs[] = {
     {"copies",
      [](Ground& g, QWidget* p) -> QWidget* {
          return new shell::CopyMenu(g.values.appPath, g.values.customerName, g.shop.boxes(), p);
+     }},
+    {"copy-to-customers",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new programme::CopyToShopsDialog(
+             g.values, {u"PLUDATA"_s, u"PLU"_s, u"1"_s, u"PLU 123456789012345678"_s, true, {}},
+             g.shop.boxes(), p);
      }},
     {"exchange",
      [](Ground& g, QWidget* p) -> QWidget* {

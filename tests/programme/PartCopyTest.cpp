@@ -81,7 +81,7 @@ TEST_F(PartCopyTest, WholeTablesBecomeThoseOfTheOtherShopExceptForItsPoints)
     addPlu(*m_from, "1", "Tea", "2.50", 7);
     addPlu(*m_from, "2", "Same  ", "1.50", 7);
     addPlu(*m_from, "4", "Cake", "3.00", 7);
-    addPlu(*m_to, "1", "Tea", "2.00", 9);
+    addPlu(*m_to, "1", "Tea", "2", 9);
     addPlu(*m_to, "2", "Same", " 1.5", 9);
     addPlu(*m_to, "3", "Old", "1.00", 9);
     const auto comparison = compare(plus);

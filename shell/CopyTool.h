@@ -1,0 +1,15 @@
+// "Copy to Other Customers..." in the menu "More" of a screen.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "platform/Boxes.h"
+#include "screens/ScreenTool.h"
+#include "shell/FrmMain.h"
+
+namespace norvane::shell
+{
+
+/// Keeps the references, which must outlive the main window.
+[[nodiscard]] screens::ScreenTool makeCopyTool(FrmMain& main, const ApplicationValues& values, Boxes& boxes);
+
+} // namespace norvane::shell
