@@ -60,7 +60,9 @@ void CopiesDialog::layOut()
     m_list->setHeaderLabels({u"Made"_s, u"Reason"_s, u"Size"_s});
     m_list->setRootIsDecorated(false);
     m_list->setMinimumSize(ui::scaled(copyListSize));
+    m_list->header()->setStretchLastSection(false);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_list->header()->setSectionResizeMode(1, QHeaderView::Stretch);
     m_differences->setReadOnly(true);
     m_differences->setTabChangesFocus(true);
     m_differences->setFixedHeight(ui::scaled(differencesHeight));

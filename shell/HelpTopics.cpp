@@ -16,6 +16,7 @@ constexpr HelpTopic topics[] = {
     {"FrmMain"_L1, "user-guide"_L1},
     {"FrmCustomer"_L1, "choosing-a-customer"_L1},
     {"NewShopDialog"_L1, "a-new-shop"_L1},
+    {"CopiesDialog"_L1, "safety-copies-and-the-log"_L1},
     {"FrmSetup"_L1, "setup"_L1},
     {"frmAbout"_L1, "when-something-goes-wrong"_L1},
     {"frmSysInfo"_L1, "when-something-goes-wrong"_L1},

@@ -16,6 +16,7 @@
 #include "reports/window/Report.h"
 #include "sales/Frmreports.h"
 #include "scripts/windows/FilledShop.h"
+#include "shell/CopiesDialog.h"
 #include "shell/CopyMenu.h"
 #include "shell/FrmCustomer.h"
 #include "shell/frmSplash.h"
@@ -84,6 +85,10 @@ constexpr Dialog dialogs[] = {
              new shell::NewShopDialog(g.values.appPath, g.values.customerName, g.shop.boxes(), p);
          dialog->findChild<QAbstractButton*>(u"TakeSettings"_s)->click();
          return dialog;
+     }},
+    {"safety-copies",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new shell::CopiesDialog(g.values.appPath, g.values.customerName, g.shop.boxes(), p);
      }},
     {"copies",
      [](Ground& g, QWidget* p) -> QWidget* {
