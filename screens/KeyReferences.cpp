@@ -93,4 +93,16 @@ KeyHolders holdersOfKey(store::Database& database, const QString& table, const s
     return found;
 }
 
+QString withoutKeySql(const store::Database& database, const QString& table, const QString& keyField)
+{
+    for (const store::RecordReference& reference : store::recordReferences()) {
+        if (reference.holder == "key"_L1 && table.compare(reference.to, Qt::CaseInsensitive) == 0 &&
+            isIn(database, reference)) {
+            const QString sql = u"%1 NOT IN (SELECT %2 FROM %3 WHERE %2 IS NOT NULL AND %4)"_s;
+            return sql.arg(keyField, reference.field, reference.table, reference.condition);
+        }
+    }
+    return {};
+}
+
 } // namespace norvane::screens

@@ -28,4 +28,9 @@ struct KeyHolders {
 [[nodiscard]] KeyHolders holdersOfKey(store::Database& database, const QString& table,
                                       const store::Value& key);
 
+/// SQL that is true for the records of @p table, with their numbers in @p keyField, that are on no key of a
+/// keyboard. @return empty if they cannot be on keys.
+[[nodiscard]] QString withoutKeySql(const store::Database& database, const QString& table,
+                                    const QString& keyField);
+
 } // namespace norvane::screens

@@ -155,8 +155,10 @@ void OptionForm::reloadList()
 
 void OptionForm::markRecord()
 {
-    if (m_list)
-        m_list->mark(m_editor->key());
+    if (!m_list)
+        return;
+    m_list->mark(m_editor->key());
+    Q_EMIT recordShown(m_editor->key());
 }
 
 void OptionForm::addRecord()
@@ -304,6 +306,12 @@ void OptionForm::findRecord(int element)
     }
     m_boxes.beep();
     m_boxes.message(u"No Record"_s, u"Search"_s, BoxIcon::Exclamation);
+}
+
+void OptionForm::showKey(const QString& key)
+{
+    if (key != m_editor->key())
+        attempt([&] { goTo(key); });
 }
 
 /// As a find by the first index; another screen may have deleted the record since the list was read.

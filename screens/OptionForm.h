@@ -73,6 +73,8 @@ public:
     /// control here. Its number and text are left to the user; for a PLU the next free number is proposed.
     /// What was typed and not saved is dropped as by Add.
     void addLikeThis();
+    /// Shows the record with this stored key. What is typed is asked about first.
+    void showKey(const QString& key);
     [[nodiscard]] QString screenFile() const { return m_file.path(); }
     [[nodiscard]] QString databasePath() const { return m_databasePath; }
     [[nodiscard]] QString table() const { return m_file.table().table; }
@@ -88,6 +90,8 @@ Q_SIGNALS:
     /// The result of the last action, in words for the status bar; empty once the screen shows another
     /// record.
     void noticeChanged(const QString& text);
+    /// Another record is shown, by its stored key; empty for none or a new one.
+    void recordShown(const QString& key);
     /// getBack() has nothing to restore.
     void nothingToGetBack();
 

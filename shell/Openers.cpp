@@ -5,12 +5,14 @@
 #include "platform/FailureBox.h"
 #include "sales/FrmsalesComm.h"
 #include "screens/OptionForm.h"
+#include "screens/table/TableWindow.h"
 #include "shell/CopyTool.h"
 #include "shell/FrameOpeners.h"
 #include "shell/KeyOpeners.h"
 #include "shell/MainStatusBar.h"
 #include "shell/OverlayOpeners.h"
 #include "shell/ReportOpeners.h"
+#include "shell/TableOpeners.h"
 #include "shell/UndoWork.h"
 #include "shell/UtilityOpeners.h"
 
@@ -76,6 +78,7 @@ public:
         QObject::connect(form, &screens::OptionForm::nothingToGetBack, &main,
                          [this, &main] { getBack(main); });
         QObject::connect(&main, &FrmMain::entryDone, form, &screens::OptionForm::refresh);
+        followInTable(main, *form);
         const QMdiSubWindow& child = main.showChild(form);
         QObject::connect(&child, &QMdiSubWindow::windowStateChanged, form,
                          [form](Qt::WindowStates before, Qt::WindowStates now) {
@@ -92,12 +95,9 @@ public:
         const QString file = m_losses->latestScreen(m_values.databasePath);
         if (file.isEmpty())
             return openOrTell(m_boxes, [&] { undo(main); });
-        const auto forms = main.findChildren<screens::OptionForm*>();
-        const auto found = std::ranges::find_if(forms, [&](const screens::OptionForm* form) {
-            return form->screenFile() == file && form->databasePath() == m_values.databasePath;
-        });
         openOrTell(m_boxes, [&] {
-            screens::OptionForm& form = found == forms.end() ? open(main, file) : **found;
+            screens::OptionForm* const known = formOf(main, file, m_values.databasePath);
+            screens::OptionForm& form = known == nullptr ? open(main, file) : *known;
             main.bringToFront(form);
             form.getBack();
         });
@@ -109,12 +109,36 @@ private:
         const QString notice = undoLatestWork(m_values, m_boxes, *m_history);
         for (auto* const form : main.findChildren<screens::OptionForm*>())
             form->refreshAll();
+        for (auto* const table : main.findChildren<screens::TableWindow*>())
+            table->refresh();
         main.statusBar1().setNotice(notice);
     }
 
     [[nodiscard]] screens::ScreenTools toolsFor(FrmMain& main)
     {
-        return {makeCopyTool(main, m_values, m_boxes)};
+        const auto screenOf = [this](FrmMain& frame, const auto&... screen) {
+            return openedForm(frame, screen...);
+        };
+        return {makeTableTool(main, m_values, m_boxes, screenOf), makeCopyTool(main, m_values, m_boxes)};
+    }
+
+    /// @return nullptr if it is not open.
+    static screens::OptionForm* formOf(const FrmMain& main, const QString& file, const QString& database)
+    {
+        const auto forms = main.findChildren<screens::OptionForm*>();
+        const auto found = std::ranges::find_if(forms, [&](const screens::OptionForm* form) {
+            return form->screenFile() == file && form->databasePath() == database;
+        });
+        return found == forms.end() ? nullptr : *found;
+    }
+
+    /// A screen is opened for the database in use only.
+    screens::OptionForm* openedForm(FrmMain& main, const QString& file, const QString& database)
+    {
+        screens::OptionForm* form = formOf(main, file, database);
+        if (form == nullptr && database == m_values.databasePath)
+            openOrTell(m_boxes, [&] { form = &open(main, file); });
+        return form;
     }
 
     ApplicationValues& m_values;

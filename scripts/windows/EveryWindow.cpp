@@ -27,6 +27,7 @@
 #include "ui/FrmSearch.h"
 #include "ui/MessageBoxes.h"
 
+#include <QtTest>
 #include <QtWidgets>
 
 #include <memory>
@@ -219,6 +220,20 @@ void lookAtMenus(shell::FrmMain& frame, const Look& look)
     }
 }
 
+/// Of all PLUs, with a choice made.
+void lookAtTable(FilledShop& shop, QWidget& screen, const QString& name, const Look& look)
+{
+    screen.findChild<QAction*>(u"ShowTable"_s)->trigger();
+    QWidget& table = *shop.frame().findChild<QWidget*>(u"TableWindow"_s);
+    auto& column = *table.findChild<QComboBox*>(u"ChoiceColumn"_s);
+    QTest::keyClicks(&column, column.itemText(1));
+    QTest::keyClick(table.findChild<QComboBox*>(u"Choice"_s), Qt::Key_Down);
+    QApplication::processEvents();
+    look(name, *table.parentWidget());
+    table.close();
+    deleteClosed();
+}
+
 /// With the list of records open beside those that have one.
 void lookAtScreen(FilledShop& shop, const shell::MenuEntry& entry, const QString& name, const Look& look)
 {
@@ -230,6 +245,7 @@ void lookAtScreen(FilledShop& shop, const shell::MenuEntry& entry, const QString
         handle->click();
         QApplication::processEvents();
         look(name + u"-list"_s, *screen.parentWidget());
+        lookAtTable(shop, screen, name + u"-table"_s, look);
     }
     test::press(screen, "ExitForm");
     deleteClosed();
