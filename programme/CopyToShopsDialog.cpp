@@ -78,11 +78,16 @@ CopyToShopsDialog::CopyToShopsDialog(const ApplicationValues& from, ScreenConten
     setWindowTitle(u"Copy to Other Customers"_s);
     layOut();
     listShops();
+    connectChoice();
+    showFound();
+}
+
+void CopyToShopsDialog::connectChoice()
+{
     m_refresh.setSingleShot(true);
     connect(&m_refresh, &QTimer::timeout, this, &CopyToShopsDialog::refresh);
     connect(m_thisRecord, &QRadioButton::toggled, this, &CopyToShopsDialog::choiceChanged);
     connect(m_customers, &QListWidget::itemChanged, this, &CopyToShopsDialog::choiceChanged);
-    showFound();
 }
 
 CopyToShopsDialog::~CopyToShopsDialog() = default;

@@ -59,6 +59,7 @@ private:
     void addDifferences(QBoxLayout& column);
     void addButtons(QBoxLayout& column);
     void listShops();
+    void connectChoice();
     [[nodiscard]] QStringList chosenShops() const;
     [[nodiscard]] ChosenParts chosenParts() const;
     void choiceChanged();

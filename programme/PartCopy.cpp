@@ -103,6 +103,21 @@ public:
     static store::Database& target(const PartComparison& comparison) { return comparison.m_to.database; }
 };
 
+namespace
+{
+
+void copyShop(const QString& customerPath)
+{
+    const auto explain = [](const QString& text) {
+        return u"No safety copy could be made, so nothing was copied. %1"_s.arg(text);
+    };
+    atPlace(explain, [&] {
+        customers::makeSafetyCopy(customerPath, u"before programme copy"_s, store::CopyOf::Programme);
+    });
+}
+
+} // namespace
+
 void applyParts(const PartComparison& comparison, const KeepGoing& keepGoing)
 {
     store::allOrNothing(PartCopy::target(comparison), [&] { PartCopy::run(comparison, keepGoing); });
@@ -112,16 +127,10 @@ QString copyParts(const PartComparison& comparison, const QString& from, const A
                   const KeepGoing& keepGoing)
 {
     customers::LoggedWork work(target.customerPath, u"programme copy from %1"_s.arg(from));
-    const auto explain = [](const QString& text) {
-        return u"No safety copy could be made, so nothing was copied. %1"_s.arg(text);
-    };
     work.during([&] {
         if (comparison.counts().all() == 0)
             return;
-        atPlace(explain, [&] {
-            customers::makeSafetyCopy(target.customerPath, u"before programme copy"_s,
-                                      store::CopyOf::Programme);
-        });
+        copyShop(target.customerPath);
         applyParts(comparison, keepGoing);
     });
     QString result = comparison.counts().inWords();

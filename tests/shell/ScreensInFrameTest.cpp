@@ -160,6 +160,27 @@ TEST_F(ScreensInFrameTest, MineIsKeptOnlyOnRequest)
     EXPECT_EQ(m_boxes.shown, (std::vector{changed, changed}));
 }
 
+TEST_F(ScreensInFrameTest, ItsRecordIsCopiedToAnotherCustomer)
+{
+    m_folder.write("app/BAR/setup.ini", "[SetupOption]\r\nECRModel= 3\r\n");
+    const QString bar = m_folder.path("app/BAR/velmar.mdb");
+    store::Database::create(bar, store::catalogue());
+    execute(u"update PLUDATA set POINT1 = 5"_s);
+    open("PLUMENU");
+    QTimer::singleShot(0, &*m_main, [] {
+        QWidget& dialog = *QApplication::activeModalWidget();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        QTest::keyClick(&child<QListWidget>(dialog, "CustomerList"), Qt::Key_Space);
+        EXPECT_TRUE(soon([&] { return child<QPushButton>(dialog, "CopyButton").isEnabled(); }));
+        letter(Qt::Key_O);
+        EXPECT_TRUE(
+            soon([&] { return child<QLabel>(dialog, "State").text() == "Copied to 1 of 1 customer."_L1; }));
+        letter(Qt::Key_C);
+    });
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(test::rowsOf(bar, u"select DESCRIPTION, PRICE1, POINT1 from PLUDATA"_s), "Lager|2.5|0");
+}
+
 TEST_F(ScreensInFrameTest, AScreenReadsItsRecordAgainWhenItComesToTheFront)
 {
     QWidget& first = open("PLUMENU");
