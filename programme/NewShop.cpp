@@ -18,7 +18,6 @@
 #include <QUuid>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -37,8 +36,8 @@ const QStringList pointFields{u"POINT1"_s, u"POINT2"_s, u"POINT3"_s, u"POINT4"_s
 /// The extensions under which the overlay designer saves.
 const QStringList overlayDocuments{u"*.Dorvik"_s, u"*.Velmar"_s, u"*.ky4"_s};
 
-/// Ingredient inventory and PLU stock.
-constexpr std::array stockFiles{61, 68};
+/// PLU stock: what is on the shelves of the other shop.
+constexpr int stockFile = 81;
 
 /// Longer than making a shop takes: an older unfinished folder is of a program that was killed.
 constexpr qint64 secondsUnfinished = 3600;
@@ -93,8 +92,7 @@ bool isFileWithoutTable(const QString& name)
 {
     bool isNumber = false;
     const int number = name.section(u'.', 0, 0).toInt(&isNumber);
-    return isNumber && records::registerFile(number) == nullptr &&
-           std::ranges::find(stockFiles, number) == stockFiles.end();
+    return isNumber && number != stockFile && records::registerFile(number) == nullptr;
 }
 
 QStringList filesWithoutTable(const QString& folder)

@@ -19,7 +19,8 @@ namespace norvane::programme
 ///
 /// Register files without a table follow from what is taken. Nobody can look into them, and they name records
 /// of the tables by number (a macro presses keys, a printer table routes groups): so they are taken only with
-/// the whole programme, and only for the same model. Those that count the shop's stock are never taken. The
+/// the whole programme, and only for the same model. The stock of the
+/// PLUs is never taken. The
 /// memory allocation, without which no look-up can be edited, goes with the look-ups to a shop of the same
 /// model, until the first upload replaces it.
 struct NewShop {

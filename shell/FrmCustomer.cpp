@@ -165,10 +165,12 @@ void FrmCustomer::makeLikeAnother()
     text1->setText(dialog.name());
     takeCustomer();
     if (!isVisible()) {
-        m_boxes.message(dialog.summary() + u"\r\rCheck the setup and what only one shop has, such as its "
-                                           "address in the messages, then download the programme to the "
-                                           "cash registers."_s,
-                        u"Information"_s, BoxIcon::Information);
+        m_boxes.message(
+            dialog.summary() +
+                u"\r\rCheck the setup and what only one shop has, such as its address in the "
+                "messages. Then download the programme to the cash registers, without PLU Stock and "
+                "other files that the new customer does not have."_s,
+            u"Information"_s, BoxIcon::Information);
     }
 }
 

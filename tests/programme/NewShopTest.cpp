@@ -29,7 +29,7 @@ protected:
         m_folder.write("app/Cafe/setup.ini",
                        "[SetupOption]\r\nECRModel= 3\r\nTelephone=555\r\nModemDelay=9\r\n");
         for (const char* const file :
-             {"43.DAT", "61.dat", "67.dat", "MEM.dat", "43.dat.former", "norvane.log", "exchange.ini",
+             {"43.DAT", "81.dat", "67.dat", "MEM.dat", "43.dat.former", "norvane.log", "exchange.ini",
               "norvane-chain.ini", "copies/2026-11-25 18.30.12 before upload/setup.ini"})
             m_folder.write((QByteArray("app/Cafe/") + file).constData(), "of Cafe");
         m_shop.appPath = m_values.appPath;
