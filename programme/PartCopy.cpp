@@ -70,9 +70,9 @@ private:
     {
         for (int field = 0; field < m_rows.fieldCount(); ++field) {
             const auto& definition = m_rows.field(field);
+            const bool isText = definition.type == FieldType::Text;
             if (definition.required && m_rows.value(field).isNull())
-                m_rows.setValue(field, definition.type == FieldType::Text ? Value::text(QString())
-                                                                          : Value::whole(0));
+                m_rows.setValue(field, isText ? Value::text(QString()) : Value::whole(0));
         }
     }
 

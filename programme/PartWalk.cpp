@@ -19,7 +19,6 @@ namespace
 {
 
 using store::FieldType;
-using store::Recordset;
 using store::Value;
 
 std::string_view withoutBlanks(std::string_view text)
