@@ -158,6 +158,31 @@ void euroConversion(benchmark::State& state)
     shop.checkSums();
 }
 
+/// Undoes the conversion of all PLUs, beside the bare walk, which stores as many.
+void undoConversion(benchmark::State& state)
+{
+    const Shop shop;
+    Rates rates;
+    store::WorkHistory history;
+    double ours = 0;
+    double bare = 0;
+    while (state.KeepRunning()) {
+        const double rate = rates.next();
+        convertAll(shop.database(), rate, {nothing, nothing, noNotice, &history});
+        const store::RowChanges& changes = history.latest(shop.database())->changes;
+        state.counters["megabytes"] = static_cast<double>(changes.size()) / 1e6;
+        const double undo = bench::processorSecondsOf([&] {
+            store::Database database(shop.database());
+            require(changes.takeBack(database) == pluCount, "all PLUs are as before");
+        });
+        history.removeLatest(shop.database());
+        bare += bench::processorSecondsOf([&] { bareConvertAll(shop.bareDatabase(), rate); });
+        ours += undo;
+        state.SetIterationTime(undo);
+    }
+    state.counters["ratio"] = ours / bare;
+}
+
 /// How long a user's click waits at most: the longest time between two turns of the event loop.
 class LongestWait
 {
@@ -232,6 +257,7 @@ void eventsOfEachRow(benchmark::State& state)
 } // namespace
 
 BENCHMARK(euroConversion)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
+BENCHMARK(undoConversion)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 BENCHMARK(eventsOfEachRow)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv)
