@@ -26,13 +26,19 @@ public:
     void goTo(std::size_t place) { m_at = place; }
     /// The cells of the record; valid until the next one.
     [[nodiscard]] std::span<const std::string> cells() const { return {m_cells.data(), m_count}; }
+    /// Adds empty cells to the record up to @p count.
+    void fill(std::size_t count)
+    {
+        while (m_count < count)
+            addCell();
+    }
     /// The line of the text in which the record begins, counted from 1.
     [[nodiscard]] qint64 line() const { return m_line; }
     /// Whether the record's last cell lacks its closing quote and therefore runs to the end of the text.
     [[nodiscard]] bool isUnclosed() const { return m_isUnclosed; }
 
 private:
-    [[nodiscard]] std::string& addCell();
+    std::string& addCell();
     [[nodiscard]] bool atCellEnd() const;
     void readCell();
     void readQuoted(std::string& cell);

@@ -2,7 +2,7 @@
 // split the lines, look each PLU up by a prepared select, store by a prepared update or insert, in one
 // transaction. The checks, the list of differences and all mistakes are ours alone; printing the list is not
 // measured.
-#include "articles/PluUpdate.h"
+#include "articles/SheetUpdate.h"
 #include "bench/Memory.h"
 #include "bench/Shop.h"
 
@@ -134,9 +134,10 @@ void bareImport(const QString& path, const QByteArray& file)
 void ourImport(const QString& path, const QByteArray& file)
 {
     store::Database database(path);
-    const articles::PluComparison comparison(database, file);
+    const articles::TableSheet sheet = articles::pluSheet();
+    const articles::SheetComparison comparison(database, sheet, file);
     require(comparison.mistakes().isEmpty() && comparison.changeCount() == pluCount, "every line differs");
-    articles::applyPluChanges(database, comparison);
+    articles::applySheetChanges(database, comparison);
 }
 
 void PluImport(benchmark::State& state)

@@ -59,6 +59,11 @@ constexpr auto copyProgrammeOptions = std::to_array<OptionDefinition>({
      "what to copy: plu, groups, messages and other parts, or the names of tables"_L1},
     {"dry-run"_L1, {}, "list what would change, and change nothing"_L1},
 });
+constexpr auto tableOptions = std::to_array<OptionDefinition>({
+    plusOptions[0],
+    separatorOption,
+    mapOption,
+});
 constexpr auto convertOptions = std::to_array<OptionDefinition>({
     {"all"_L1, {}, "every customer whose database was made by the former program"_L1},
     {"dry-run"_L1, {}, "report what would happen, and change nothing"_L1},
@@ -93,9 +98,12 @@ constexpr auto all = std::to_array<Verb>({
     {"report"_L1, "CUSTOMER NAME"_L1, 2, 2, reportOptions,
      "Writes a report: plusales, finsales, clerksales, timesales, mixsales, pluprice or any layout of the program's folder."_L1, report},
     {"plus"_L1, "CUSTOMER export|import FILE"_L1, 3, 3, plusOptions,
-     "Exports number, description, group, status and prices of all PLUs as FILE.csv or FILE.xlsx; imports such a CSV file: known PLUs are changed, new ones added, all or nothing."_L1, movePlus},
+     "Exports number, description, group, status and prices of all PLUs as FILE.csv or FILE.xlsx; imports such a file: known PLUs are changed, new ones added, all or nothing."_L1, movePlus},
+    {"table"_L1, "CUSTOMER TABLE export|import FILE"_L1, 4, 4, tableOptions,
+     "The same with all fields of a table, under the names that reports use. Only PLUs are added; sales are only exported."_L1, moveTable},
     {"boxes"_L1, {}, 0, 0, {}, "Lists the boxes of the exchange dialog, which fetch and send take by number or name."_L1, listBoxes},
     {"reports"_L1, {}, 0, 0, {}, "Lists the reports with their titles and the periods that --period takes."_L1, listReports},
+    {"tables"_L1, {}, 0, 0, {}, "Lists the tables that \"table\" takes, with the number of their fields."_L1, listTables},
     {"copies"_L1, "CUSTOMER"_L1, 1, 1, {}, "Lists the safety copies, the latest first."_L1, listCopies},
     {"restore"_L1, "CUSTOMER COPY"_L1, 2, 2, {},
      "Restores the customer from a safety copy, after copying its current state. COPY is a name or its beginning."_L1, restore},

@@ -7,6 +7,11 @@
 namespace norvane::command
 {
 
+inline constexpr OptionDefinition mapOption{
+    QLatin1StringView("map"), QLatin1StringView("PAIRS"),
+    QLatin1StringView("of an import: columns with other headings, as \"Price=PRICE1,Remark=\"; one without a "
+                      "field is skipped")};
+
 // All throw CommandError, and what the product throws.
 void listCustomers(const Workplace& workplace, const Invocation& words);
 void checkCustomer(const Workplace& workplace, const Invocation& words);
@@ -17,6 +22,8 @@ void send(const Workplace& workplace, const Invocation& words);
 void collect(const Workplace& workplace, const Invocation& words);
 void report(const Workplace& workplace, const Invocation& words);
 void movePlus(const Workplace& workplace, const Invocation& words);
+void moveTable(const Workplace& workplace, const Invocation& words);
+void listTables(const Workplace& workplace, const Invocation& words);
 void listCopies(const Workplace& workplace, const Invocation& words);
 void restore(const Workplace& workplace, const Invocation& words);
 void listBoxes(const Workplace& workplace, const Invocation& words);

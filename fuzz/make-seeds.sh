@@ -13,7 +13,7 @@ trap 'rm -rf "$work"' EXIT
 export ASAN_OPTIONS=detect_leaks=0
 
 rm -rf "$seeds"
-mkdir -p "$seeds"/{records,procedures,poll,status,profile,screens,layouts,formulas,overlay,plufile,former}
+mkdir -p "$seeds"/{records,procedures,poll,status,profile,screens,layouts,formulas,overlay,plufile,xlsx,former}
 
 byte() { printf "\\x$(printf %02x "$1")"; }
 
@@ -87,6 +87,13 @@ done
 
 printf 'Number,Description,Group,Status,Price 1\r\n17,"Tea, black",1,1,2.50\r\n018,Coffee,2,1,3\r\n' > "$seeds/plufile/commas"
 printf '\xef\xbb\xbfPLU report;;\r\nNumber;Price 2;Description\r\n17;2,50;"said ""tea"""\r\n17;1;\r\n;;\r\n' > "$seeds/plufile/semicolons"
+
+# The parts of a spreadsheet, one in each seed.
+printf '\001<worksheet><sheetData><row r="1"><c r="A1" t="inlineStr"><is><t>Number</t></is></c><c r="B1" t="s"><v>0</v></c></row><row r="3"><c r="A3"><v>17</v></c><c r="B3" s="1"><f>A3</f><v>1.1000000000000001</v></c><c t="b"><v>1</v></c><c t="e"><v>#N/A</v></c></row></sheetData><mergeCells><mergeCell ref="A1:B2"/></mergeCells></worksheet>' > "$seeds/xlsx/sheet"
+printf '\002<styleSheet><numFmts><numFmt numFmtId="164" formatCode="[h]:mm"/></numFmts><cellXfs><xf numFmtId="0"/><xf numFmtId="164"/></cellXfs></styleSheet>' > "$seeds/xlsx/styles"
+printf '\003<sst><si><t>Tea</t></si><si><r><t>Co_x000D_</t></r><rPh><t>ko</t></rPh></si></sst>' > "$seeds/xlsx/texts"
+printf '\004<workbook xmlns:r="r"><sheets><sheet name="a" r:id="rId2"/></sheets></workbook>' > "$seeds/xlsx/workbook"
+printf '\005<Relationships><Relationship Id="rId2" Type="http://x/worksheet" Target="/xl/worksheets/sheet2.xml"/></Relationships>' > "$seeds/xlsx/relations"
 
 # A record, the head of the file, a definition.
 printf '\004\017\360\101' > "$seeds/former/record"

@@ -30,8 +30,8 @@ NOT_PRODUCT = {"bench", "data", "fuzz", "packaging", "scripts", "tests", "tools"
 # Test programs that are elsewhere than in tests/<folder>, with the cases to run.
 OTHER_TESTS = {
     "chain": {"chain_test": "*"},
-    "articles": {"road_test": "*PluFile*"},
-    "command": {"road_test": "*CommandLine*:*PluFile*:Night*"},
+    "articles": {"road_test": "*PluFile*:*TableFile*"},
+    "command": {"road_test": "*CommandLine*:*PluFile*:*TableFile*:Night*"},
     "customers": {"shell_forms_test": "FrmSetup*"},
     "paper": {"overlay_sheet_test": "*", "overlay_print_queue_test": "*", "reports_pages_test": "*"},
 }

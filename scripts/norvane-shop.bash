@@ -35,6 +35,10 @@ _norvane_shop()
         choices=(keep remove)
     elif [ "$before" = --separator ]; then
         choices=(comma semicolon tab)
+    elif [ "${COMP_WORDS[1]}" = table ] && [ "$COMP_CWORD" -eq 3 ]; then
+        mapfile -t choices < <("$1" tables 2>/dev/null | sed -e 1d -e 's/ .*//')
+    elif [[ ${COMP_WORDS[1]} = plus && $COMP_CWORD -eq 3 || ${COMP_WORDS[1]} = table && $COMP_CWORD -eq 4 ]]; then
+        choices=(export import)
     elif [ "${word#-}" = "$word" ] && case $before:${COMP_WORDS[1]} in
             new:new) false ;; # a name that does not exist yet
             --like:* | *:publish | *:copy-programme) true ;;

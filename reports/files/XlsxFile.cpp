@@ -25,6 +25,7 @@ namespace
 
 constexpr lxw_row_t headingRow = 4;
 constexpr paper::Length letterWidth = paper::millimetres(1.9); ///< in which a spreadsheet counts widths
+constexpr qsizetype mostRows = 1048576;                        ///< of a sheet
 constexpr std::size_t longestNumber = 15;                      ///< digits that a spreadsheet keeps
 
 /// "0", "#,##0.00", with the currency in quotes before it; a number of varying places shows those that it
@@ -224,6 +225,8 @@ QByteArray spreadsheet(const ReportData& report, const QString& path, const Keep
 
 void writeXlsx(const ReportData& report, const QString& path, const KeepGoing& keepGoing)
 {
+    if (report.lineCount() >= mostRows - headingRow)
+        failWriting(path, u"a spreadsheet has at most %1 rows; write CSV."_s.arg(mostRows));
     replaceFile(path, spreadsheet(report, path, keepGoing));
 }
 

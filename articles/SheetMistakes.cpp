@@ -1,12 +1,12 @@
-// See PluMistakes.h.
-#include "articles/PluMistakes.h"
+// See SheetMistakes.h.
+#include "articles/SheetMistakes.h"
 
 #include <algorithm>
 
 namespace norvane::articles
 {
 
-void PluMistakes::add(PluMistake mistake)
+void SheetMistakes::add(SheetMistake mistake)
 {
     ++m_count;
     m_kept.push_back(std::move(mistake));
@@ -15,10 +15,10 @@ void PluMistakes::add(PluMistake mistake)
         m_kept = first();
 }
 
-std::vector<PluMistake> PluMistakes::first() const
+std::vector<SheetMistake> SheetMistakes::first() const
 {
     auto mistakes = m_kept;
-    std::ranges::stable_sort(mistakes, {}, &PluMistake::line);
+    std::ranges::stable_sort(mistakes, {}, &SheetMistake::line);
     mistakes.resize(std::min(mistakes.size(), mostKept));
     return mistakes;
 }

@@ -1,5 +1,5 @@
 // Spreadsheets of PLUs: whatever somebody saved as CSV.
-#include "articles/PluFile.h"
+#include "articles/SheetFile.h"
 #include "fuzz/Target.h"
 
 #include <algorithm>
@@ -10,11 +10,11 @@ namespace norvane::fuzz
 namespace
 {
 
-void requireWhole(const articles::PluFile& file, qint64 lines)
+void requireWhole(const articles::SheetFile& file, qint64 lines)
 {
     std::unordered_set<std::uint64_t> numbers;
     for (std::uint32_t index = 0; index < file.lines().size(); ++index) {
-        const articles::PluLine& line = file.lines()[index];
+        const articles::SheetLine& line = file.lines()[index];
         require(line.line >= 1 && line.line <= lines, "a line that was read is within the file");
         require(file.cells(index).size() == file.columns().size(), "a line has a cell for each column");
         require(numbers.insert(line.number.value()).second != line.isTaken, "a number is taken once");
@@ -32,7 +32,8 @@ void tryInput(std::string_view input)
     const QByteArray content(input.data(), static_cast<qsizetype>(input.size()));
     const auto ends =
         std::count(input.begin(), input.end(), '\n') + std::count(input.begin(), input.end(), '\r');
-    requireWhole(articles::PluFile(content, {}), ends + 1);
+    static const articles::TableSheet sheet = articles::pluSheet();
+    requireWhole(articles::SheetFile(sheet, content), ends + 1);
 }
 
 } // namespace norvane::fuzz

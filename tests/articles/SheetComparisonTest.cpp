@@ -1,5 +1,5 @@
 // What keeps a file of PLUs from being imported, and what cancelling leaves.
-#include "articles/PluUpdate.h"
+#include "articles/SheetUpdate.h"
 #include "store/catalogue/Catalogue.h"
 #include "store/engine/Recordset.h"
 #include "tests/platform/TestFolder.h"
@@ -52,16 +52,17 @@ void PrintTo(const Misfit& misfit, std::ostream* out)
     *out << misfit.name;
 }
 
-class PluMistake : public testing::TestWithParam<Misfit>
+class MistakenFile : public testing::TestWithParam<Misfit>
 {
 };
 
-TEST_P(PluMistake, NamesLineColumnAndReason)
+TEST_P(MistakenFile, NamesLineColumnAndReason)
 {
     PluShop shop;
-    const PluComparison comparison(shop.database(), GetParam().content);
+    const TableSheet sheet = pluSheet();
+    const SheetComparison comparison(shop.database(), sheet, GetParam().content);
     std::string mistakes;
-    for (const auto& [line, column, reason] : comparison.mistakes().first())
+    for (const auto& [line, column, reason, place] : comparison.mistakes().first())
         mistakes += std::to_string(line) + '|' + column.toStdString() + '|' + reason.toStdString() + '\n';
     EXPECT_EQ(mistakes, std::string(GetParam().mistakes) + '\n');
 }
@@ -108,10 +109,10 @@ const Misfit misfits[] = {
     {"unknown_keys", "Number,Group,Status\n1,7,1\n2,8,x\n",
      "2|Status|there is no status 1\n3|Group|there is no group 8\n3|Status|\"x\" is not a number"},
 };
-INSTANTIATE_TEST_SUITE_P(Files, PluMistake, testing::ValuesIn(misfits),
+INSTANTIATE_TEST_SUITE_P(Files, MistakenFile, testing::ValuesIn(misfits),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(PluUpdate, StoresNothingOnceCancelled)
+TEST(SheetUpdate, StoresNothingOnceCancelled)
 {
     PluShop shop;
     const QByteArray content = prices + "1,2\n2,3\n900000000000000000,4\n";
@@ -119,15 +120,16 @@ TEST(PluUpdate, StoresNothingOnceCancelled)
     const KeepGoing once = [&asked] {
         return asked++ == 0;
     };
-    EXPECT_EQ(test::failureOf([&] { PluComparison(shop.database(), content, {}, once); }), 18);
+    const TableSheet sheet = pluSheet();
+    EXPECT_EQ(test::failureOf([&] { SheetComparison(shop.database(), sheet, content, {}, once); }), 18);
 
-    const PluComparison comparison(shop.database(), content);
+    const SheetComparison comparison(shop.database(), sheet, content);
     EXPECT_EQ(comparison.changeCount(), 3U);
     EXPECT_EQ(comparison.newCount(), 2U);
     asked = 0;
-    EXPECT_EQ(test::failureOf([&] { applyPluChanges(shop.database(), comparison, once); }), 18);
+    EXPECT_EQ(test::failureOf([&] { applySheetChanges(shop.database(), comparison, once); }), 18);
     EXPECT_EQ(shop.pluCount(), 1);
-    applyPluChanges(shop.database(), comparison);
+    applySheetChanges(shop.database(), comparison);
     EXPECT_EQ(shop.pluCount(), 3);
 }
 
