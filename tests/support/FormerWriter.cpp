@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ranges>
 
 namespace norvane::test
 {
@@ -346,8 +347,8 @@ QByteArray FormerWriter::rowBytes(const FormerRows& table, const QVariantList& r
     const QVector<int> offsets = addVariables(bytes, table, row);
     if (offsets.isEmpty())
         return bytes + mask;
-    for (auto offset = offsets.crbegin(); offset != offsets.crend(); ++offset)
-        bytes += number(*offset);
+    for (const int offset : std::views::reverse(offsets))
+        bytes += number(offset);
     if (m_isOld)
         bytes += jumpsOf(offsets, static_cast<int>(bytes.size() + 1 + mask.size()));
     return bytes + number(static_cast<int>(offsets.size()) - 1) + mask;
