@@ -234,6 +234,19 @@ void lookAtTable(FilledShop& shop, QWidget& screen, const QString& name, const L
     deleteClosed();
 }
 
+/// The list of the places that use the record; the button counts them first.
+void lookAtUses(QPushButton& uses, const QString& name, const Look& look)
+{
+    constexpr int longestCount = 1000;
+    if (!QTest::qWaitFor([&] { return uses.isEnabled(); }, longestCount))
+        return;
+    uses.click();
+    QApplication::processEvents();
+    QWidget* const list = uses.findChild<QListWidget*>(u"UsesList"_s)->window();
+    look(name, *list);
+    list->close();
+}
+
 /// With the list of records open beside those that have one.
 void lookAtScreen(FilledShop& shop, const shell::MenuEntry& entry, const QString& name, const Look& look)
 {
@@ -245,6 +258,8 @@ void lookAtScreen(FilledShop& shop, const shell::MenuEntry& entry, const QString
         handle->click();
         QApplication::processEvents();
         look(name + u"-list"_s, *screen.parentWidget());
+        if (auto* const uses = screen.findChild<QPushButton*>(u"RecordUses"_s))
+            lookAtUses(*uses, name + u"-uses"_s, look);
         lookAtTable(shop, screen, name + u"-table"_s, look);
     }
     test::press(screen, "ExitForm");
