@@ -82,6 +82,7 @@ void UsesButton::showList()
     if (!uses || uses->count == 0)
         return;
     auto* const frame = new QFrame(this, Qt::Popup);
+    ui::nameControl(*frame, u"UsesFrame"_s);
     frame->setAttribute(Qt::WA_DeleteOnClose);
     frame->setFrameShape(QFrame::StyledPanel);
     frame->setWindowTitle(u"Where Used"_s);

@@ -26,6 +26,7 @@ constexpr HelpTopic topics[] = {
     {"ReportPreview"_L1, "the-preview"_L1},
     {"OptionForm"_L1, "screens"_L1},
     {"FrmSearch"_L1, "screens"_L1},
+    {"UsesFrame"_L1, "screens"_L1},
     {"CopyToShopsDialog"_L1, "copying-to-other-customers"_L1},
     {"TableWindow"_L1, "many-records-at-once"_L1},
     {"KeyLayoutVelmar"_L1, "keyboards"_L1},
