@@ -119,7 +119,8 @@ private:
         const auto screenOf = [this](FrmMain& frame, const auto&... screen) {
             return openedForm(frame, screen...);
         };
-        return {makeTableTool(main, m_values, m_boxes, screenOf), makeCopyTool(main, m_values, m_boxes)};
+        return {makeTableTool(main, m_values, m_boxes, screenOf, m_history),
+                makeCopyTool(main, m_values, m_boxes)};
     }
 
     /// @return nullptr if it is not open.

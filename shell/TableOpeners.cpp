@@ -5,6 +5,7 @@
 #include "screens/OptionForm.h"
 #include "screens/table/TableWindow.h"
 #include "shell/FrmMain.h"
+#include "shell/MainStatusBar.h"
 #include "ui/WaitPointer.h"
 
 #include <QMdiSubWindow>
@@ -43,6 +44,9 @@ void addTable(FrmMain& main, screens::TableWindow* table, const ScreenOf& screen
     QObject::connect(
         table, &screens::TableWindow::recordWanted, &main,
         [&main, table, screenOf](const QString& key) { showRecord(main, *table, key, screenOf); });
+    QObject::connect(table, &screens::TableWindow::noticeChanged, &main.statusBar1(),
+                     &MainStatusBar::setNotice);
+    QObject::connect(table, &screens::TableWindow::stored, &main, &FrmMain::entryDone);
     QObject::connect(&main, &FrmMain::entryDone, table, &screens::TableWindow::refresh);
     const QMdiSubWindow& child = main.showChild(table);
     QObject::connect(&child, &QMdiSubWindow::windowStateChanged, table,
@@ -55,9 +59,9 @@ void addTable(FrmMain& main, screens::TableWindow* table, const ScreenOf& screen
 } // namespace
 
 screens::ScreenTool makeTableTool(FrmMain& main, const ApplicationValues& values, Boxes& boxes,
-                                  const ScreenOf& screenOf)
+                                  const ScreenOf& screenOf, std::shared_ptr<store::WorkHistory> history)
 {
-    const auto open = [&main, &values, &boxes, screenOf](screens::OptionForm& form) {
+    const auto open = [&main, &values, &boxes, screenOf, history](screens::OptionForm& form) {
         openOrTell(boxes, [&] {
             const ui::WaitPointer wait;
             screens::TableWindow* table = tableOf(main, form);
@@ -66,7 +70,7 @@ screens::ScreenTool makeTableTool(FrmMain& main, const ApplicationValues& values
                                                   [&form](const QString& field) {
                                                       return form.labelOf(field);
                                                   }},
-                                                 values, screens::ColumnMemory::ofThisUser());
+                                                 values, boxes, screens::ColumnMemory::ofThisUser());
                 addTable(main, table, screenOf);
             }
             main.bringToFront(*table);

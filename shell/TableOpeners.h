@@ -6,6 +6,12 @@
 #include "screens/ScreenTool.h"
 
 #include <functional>
+#include <memory>
+
+namespace norvane::store
+{
+class WorkHistory;
+}
 
 namespace norvane::shell
 {
@@ -18,9 +24,11 @@ using ScreenOf =
     std::function<screens::OptionForm*(FrmMain& main, const QString& file, const QString& database)>;
 
 /// The tool that opens the table of a screen's records, of which each screen file has one.
-/// @param screenOf shows a record that is chosen in the table. Keeps the references.
+/// @param screenOf shows a record that is chosen in the table. @param history for undoing what is saved in
+/// it. Keeps the references.
 [[nodiscard]] screens::ScreenTool makeTableTool(FrmMain& main, const ApplicationValues& values, Boxes& boxes,
-                                                const ScreenOf& screenOf);
+                                                const ScreenOf& screenOf,
+                                                std::shared_ptr<store::WorkHistory> history);
 
 /// From now on the table of @p form's screen file, if one is open, marks the record that @p form shows.
 void followInTable(FrmMain& main, screens::OptionForm& form);

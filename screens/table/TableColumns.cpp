@@ -45,7 +45,7 @@ QVector<ListEntry> entriesOf(const ControlDefinition& control, store::Database& 
 QString numberText(const TableColumn& column, const store::Value& value)
 {
     const std::string plain = value.toUtf8();
-    const auto number = plain.empty() ? std::optional(Decimal()) : Decimal::parse(plain);
+    const auto number = plain.empty() ? std::optional(Decimal()) : numberOfText(plain);
     if (!number)
         return QString::fromStdString(plain);
     if (column.kind() == ControlKind::Decimal)
@@ -71,6 +71,13 @@ QString keyFieldOf(const store::TableDefinition& table, const QString& index)
 
 } // namespace
 
+std::optional<Decimal> numberOfText(std::string_view text)
+{
+    const auto digits =
+        std::ranges::count_if(text, [](char character) { return character >= '0' && character <= '9'; });
+    return digits > Decimal::mostDigits ? std::nullopt : Decimal::parse(text);
+}
+
 bool TableColumn::isEditable() const
 {
     return !isKey && !control.readOnly.value_or(false) && control.enabled.value_or(true);
@@ -88,7 +95,7 @@ int TableColumn::decimals() const
 
 const ListEntry* TableColumn::entryOf(const store::Value& value) const
 {
-    const auto number = Decimal::parse(value.toUtf8());
+    const auto number = numberOfText(value.toUtf8());
     const auto found = std::ranges::find_if(
         entries, [&number](const ListEntry& entry) { return number && entry.value.toDecimal() == *number; });
     return found == entries.end() ? nullptr : &*found;

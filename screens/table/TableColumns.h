@@ -9,6 +9,8 @@
 #include <QVector>
 
 #include <functional>
+#include <optional>
+#include <string_view>
 
 namespace norvane::screens
 {
@@ -45,6 +47,9 @@ struct TableColumn {
 };
 
 using TableColumns = QVector<TableColumn>;
+
+/// The number that @p text is; nothing for any other text and for more digits than a number may have.
+[[nodiscard]] std::optional<Decimal> numberOfText(std::string_view text);
 
 /// A table and what is shown of it.
 struct TableSource {

@@ -1,9 +1,14 @@
 // See TableModel.h.
 #include "screens/table/TableModel.h"
 
+#include "platform/Excerpt.h"
+#include "screens/table/CellInput.h"
+
 #include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::screens
 {
@@ -43,6 +48,32 @@ void TableModel::setChoices(std::vector<TableChoice> choices)
     resetBy([&] { m_rows.setChoices(std::move(choices)); });
 }
 
+void TableModel::changeEdits(const std::function<void(PendingEdits&)>& change)
+{
+    change(m_edits);
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    Q_EMIT editsChanged();
+}
+
+const PendingEdit* TableModel::editAt(const QModelIndex& index) const
+{
+    return m_edits.isEmpty() ? nullptr : m_edits.find(m_rows.rowId(index.row()), index.column());
+}
+
+const store::Value& TableModel::value(int row, int column) const
+{
+    const PendingEdit* const edit = editAt(index(row, column));
+    return edit ? edit->after : m_rows.value(row, column);
+}
+
+PendingEdit TableModel::editOf(int row, int column, store::Value value) const
+{
+    const store::Value before = m_rows.value(row, column);
+    const bool isSame = this->column(column).text(before) == this->column(column).text(value);
+    return {m_rows.rowId(row), column, m_rows.key(row).toUtf8(), before, isSame ? before : std::move(value)};
+}
+
 void TableModel::sort(int column, Qt::SortOrder order)
 {
     resetBy([&] { m_rows.sortBy(column, order); });
@@ -71,11 +102,13 @@ int TableModel::columnCount(const QModelIndex& parent) const
 
 QVariant TableModel::font(const QModelIndex& index) const
 {
-    if (index.row() != m_marked)
+    const bool isEdited = editAt(index) != nullptr;
+    if (index.row() != m_marked && !isEdited)
         return {};
-    QFont bold;
-    bold.setBold(true);
-    return bold;
+    QFont font;
+    font.setBold(index.row() == m_marked);
+    font.setItalic(isEdited);
+    return font;
 }
 
 /// "0 Not used" is pale.
@@ -91,16 +124,44 @@ QVariant TableModel::data(const QModelIndex& index, int role) const
     const TableColumn& column = this->column(index.column());
     switch (role) {
     case Qt::DisplayRole:
-        return column.text(m_rows.value(index.row(), index.column()));
+    case Qt::EditRole:
+        return column.text(value(index.row(), index.column()));
+    case Qt::ToolTipRole:
+        return editAt(index)
+                   ? QVariant(u"Not stored yet. Before: %1"_s.arg(column.text(editAt(index)->before)))
+                   : QVariant();
     case Qt::TextAlignmentRole:
         return static_cast<int>((column.isOfDigits() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::FontRole:
         return font(index);
     case Qt::ForegroundRole:
-        return pen(column, m_rows.value(index.row(), index.column()));
+        return pen(column, value(index.row(), index.column()));
     default:
         return {};
     }
+}
+
+Qt::ItemFlags TableModel::flags(const QModelIndex& index) const
+{
+    const auto flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    return column(index.column()).isEditable() ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool TableModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    const QString text = value.toString();
+    if (role != Qt::EditRole || text == index.data(Qt::EditRole).toString())
+        return false;
+    CellInput input = cellInput(column(index.column()), text);
+    if (!input.value) {
+        Q_EMIT refused(index, text,
+                       u"%1: \"%2\" %3"_s.arg(column(index.column()).label, excerpt(text), input.refusal));
+        return false;
+    }
+    changeEdits([&](PendingEdits& edits) {
+        edits.add({editOf(index.row(), index.column(), std::move(*input.value))});
+    });
+    return true;
 }
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const

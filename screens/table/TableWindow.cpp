@@ -1,20 +1,32 @@
 // See TableWindow.h.
 #include "screens/table/TableWindow.h"
 
+#include "base/LossQuestion.h"
+#include "screens/SaveNotices.h"
 #include "screens/table/ChoiceBar.h"
+#include "screens/table/PastedBlock.h"
+#include "screens/table/PendingPanel.h"
+#include "screens/table/TableGrid.h"
 #include "screens/table/TableModel.h"
+#include "screens/table/TableSave.h"
+#include "store/engine/WorkHistory.h"
 #include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FilteredList.h"
 #include "ui/FormKit.h"
+#include "ui/WaitPointer.h"
 
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -23,45 +35,33 @@ namespace norvane::screens
 namespace
 {
 
-/// Pixels at the usual font.
+/// At the usual font, in pixels.
 constexpr QSize usualSize(1040, 540);
-constexpr int rowPixels = 22;
-constexpr int widestColumn = 220;
-constexpr int columnPadding = 14; ///< the marked record is shown in bold
-/// Rows by which columns are fitted.
-constexpr int rowsToFit = 40;
-
-std::shared_ptr<store::Database> opened(const QString& path)
-{
-    return std::make_shared<store::Database>(path);
-}
-
-void fitColumns(QTableView& view)
-{
-    view.resizeColumnsToContents();
-    for (int column = 0; column < view.model()->columnCount(); ++column)
-        view.setColumnWidth(column, view.columnWidth(column) + ui::scaled(columnPadding));
-}
+/// Lines that a box shows at most.
+constexpr qsizetype mostLines = 12;
 
 } // namespace
 
-TableWindow::TableWindow(const TableOrder& order, const ApplicationValues& values, ColumnMemory memory,
-                         QWidget* parent)
+TableWindow::TableWindow(const TableOrder& order, const ApplicationValues& values, Boxes& boxes,
+                         ColumnMemory memory, QWidget* parent)
     : QWidget(parent), m_screenFile(order.screenFile), m_databasePath(order.databasePath),
-      m_memory(std::move(memory)), m_database(opened(order.databasePath)),
+      m_caption(order.caption), m_values(values), m_boxes(boxes), m_memory(std::move(memory)),
+      m_history(order.history), m_database(std::make_shared<store::Database>(order.databasePath)),
       m_model(new TableModel(
           m_database, tableSource(*m_database, ScreenReader(order.screenFile), values, order.labelOf), this)),
       m_choices(new ChoiceBar(choicesOf(*m_database, m_model->rows().source(), QDate::currentDate()), this)),
-      m_view(makeView()), m_count(new QLabel(this))
+      m_view(new TableGrid(*m_model, this)), m_pending(new PendingPanel(*m_model, this)),
+      m_count(new QLabel(this))
 {
     ui::nameControl(*this, u"TableWindow"_s);
-    setWindowTitle(u"Table of %1"_s.arg(order.caption));
-    m_view->setAccessibleName(windowTitle());
+    setWindowTitle(u"Table of %1"_s.arg(order.caption) + u"[*]"_s);
+    m_view->setAccessibleName(order.caption);
     ui::nameControl(*m_count, u"TableCount"_s);
-    auto* const columns = ui::makeButton(u"TableColumns"_s, u"&Columns"_s, this);
-    buildColumnsMenu(*columns);
-    layOut(columns);
+    buildView();
+    buildFilters();
+    layOut();
     showCount();
+    m_choices->box().setFocus();
 }
 
 QSize TableWindow::sizeHint() const
@@ -69,38 +69,40 @@ QSize TableWindow::sizeHint() const
     return ui::scaled(usualSize);
 }
 
-QTableView* TableWindow::makeView()
+void TableWindow::buildView()
 {
-    auto* const view = new QTableView(this);
-    ui::nameControl(*view, u"TableView"_s);
-    view->setModel(m_model);
-    view->setAlternatingRowColors(true);
-    view->setTabKeyNavigation(false);
-    view->setEditTriggers(QTableView::NoEditTriggers);
-    view->setHorizontalScrollMode(QTableView::ScrollPerPixel);
-    view->verticalHeader()->hide();
-    view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    view->verticalHeader()->setMinimumSectionSize(ui::scaled(rowPixels));
-    view->verticalHeader()->setDefaultSectionSize(ui::scaled(rowPixels));
-    QHeaderView& header = *view->horizontalHeader();
-    header.setHighlightSections(false);
-    header.setMaximumSectionSize(ui::scaled(widestColumn));
-    header.setResizeContentsPrecision(rowsToFit);
-    header.setSortIndicatorClearable(true);
-    header.setSortIndicator(-1, Qt::AscendingOrder);
-    fitColumns(*view);
-    connect(&header, &QHeaderView::sortIndicatorChanged, this,
+    connect(m_view->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
             [this](int column, Qt::SortOrder order) { chooseAgain([&] { m_model->sort(column, order); }); });
-    view->horizontalHeader()->setSectionsClickable(true);
-    view->horizontalHeader()->setSortIndicatorShown(true);
-    connect(view, &QTableView::activated, this, &TableWindow::openRecord);
-    return view;
+    connect(m_view, &QTableView::activated, this, &TableWindow::openRecord);
+    connect(m_view, &TableGrid::pasteWanted, this, &TableWindow::paste);
+    connect(m_model, &TableModel::editsChanged, this,
+            [this] { setWindowModified(!m_model->edits().isEmpty()); });
+    // The cell can be opened again only after the view has closed its editor.
+    connect(
+        m_model, &TableModel::refused, this,
+        [this](const QModelIndex& index, const QString& text, const QString& why) {
+            Q_EMIT noticeChanged(why);
+            m_boxes.beep();
+            m_view->retry(index, text);
+        },
+        Qt::QueuedConnection);
+}
+
+QPushButton* TableWindow::makeSaveButton()
+{
+    auto* const button = ui::makeButton(u"SaveChanges"_s, u"&Save Changes"_s, this);
+    button->setEnabled(false);
+    connect(m_model, &TableModel::editsChanged, button,
+            [this, button] { button->setEnabled(!m_model->edits().isEmpty()); });
+    connect(button, &QPushButton::clicked, this, &TableWindow::save);
+    return button;
 }
 
 /// A column that is not shown still takes part in the filter.
-void TableWindow::buildColumnsMenu(QPushButton& button)
+QPushButton* TableWindow::makeColumnsButton()
 {
-    auto* const menu = new QMenu(&button);
+    auto* const button = ui::makeButton(u"TableColumns"_s, u"&Columns"_s, this);
+    auto* const menu = new QMenu(button);
     const QStringList hidden = m_memory.hidden(m_screenFile);
     for (int column = 0; column < m_model->columnCount(); ++column) {
         const TableColumn& shown = m_model->column(column);
@@ -112,7 +114,8 @@ void TableWindow::buildColumnsMenu(QPushButton& button)
         m_view->setColumnHidden(column, !action->isChecked());
         connect(action, &QAction::toggled, this, [this, column](bool on) { showColumn(column, on); });
     }
-    button.setMenu(menu);
+    button->setMenu(menu);
+    return button;
 }
 
 void TableWindow::showColumn(int column, bool isShown)
@@ -126,17 +129,22 @@ void TableWindow::showColumn(int column, bool isShown)
     m_memory.keepHidden(m_screenFile, hidden);
 }
 
-void TableWindow::layOut(QPushButton* columns)
+void TableWindow::layOut()
 {
     auto* const exit = ui::makeButton(u"ExitTable"_s, u"E&xit"_s, this);
     connect(exit, &QPushButton::clicked, this, &QWidget::close);
-    QHBoxLayout* const buttons = ui::makeButtonRow({exit}, {columns});
+    QHBoxLayout* const buttons = ui::makeButtonRow({makeSaveButton(), exit}, {makeColumnsButton()});
     buttons->insertWidget(1, m_count);
     auto* const column = new QVBoxLayout(this);
     column->setSpacing(ui::spacing::controlGap);
     column->addWidget(m_choices);
     column->addWidget(m_view, 1);
+    column->addWidget(m_pending);
     column->addLayout(buttons);
+}
+
+void TableWindow::buildFilters()
+{
     m_choices->box().setList(m_view);
     connect(&m_choices->box(), &QLineEdit::textChanged, this,
             [this](const QString& text) { chooseAgain([&] { m_model->setFilter(text); }); });
@@ -144,7 +152,67 @@ void TableWindow::layOut(QPushButton* columns)
             [this] { openRecord(m_view->currentIndex()); });
     connect(m_choices, &ChoiceBar::choicesChanged, this,
             [this] { chooseAgain([&] { m_model->setChoices(m_choices->chosen()); }); });
-    m_choices->box().setFocus();
+}
+
+/// A save that stores nothing keeps the list.
+void TableWindow::save()
+{
+    const ui::WaitPointer wait;
+    ApplicationValues values = m_values;
+    values.databasePath = m_databasePath;
+    const TableSource& source = m_model->rows().source();
+    const auto key = std::ranges::find_if(source.columns, &TableColumn::isKey);
+    const QString record = recordName(m_caption, key == source.columns.end() ? QString() : key->label);
+    QString notice;
+    m_model->changeEdits([&](PendingEdits& edits) {
+        notice = saveEdits(*m_database, {source, m_caption, record, values, m_history.get()}, edits, m_boxes);
+    });
+    chooseAgain([this] { m_model->reload(); });
+    Q_EMIT noticeChanged(notice);
+    if (m_model->edits().isEmpty())
+        Q_EMIT stored();
+}
+
+bool TableWindow::mayPaste(const QStringList& refusals, std::size_t taken)
+{
+    if (refusals.isEmpty())
+        return true;
+    QStringList lines = refusals.first(qMin(mostLines, refusals.size()));
+    if (refusals.size() > mostLines)
+        lines += u"and %1 more"_s.arg(refusals.size() - mostLines);
+    const QString refused = u"These cells cannot be pasted:\r\r"_s + lines.join(u'\r');
+    if (taken > 0)
+        return askBeforeLoss(m_boxes, refused + u"\r\rPaste the other %1?"_s.arg(taken));
+    m_boxes.message(refused, pleaseCheck, BoxIcon::Exclamation);
+    return false;
+}
+
+/// A single cell goes into all chosen cells.
+void TableWindow::paste()
+{
+    const QVector<QStringList> cells = cellsOfText(QGuiApplication::clipboard()->text());
+    const bool isSingle = cells.size() == 1 && cells.first().size() == 1;
+    PasteTarget target{isSingle ? m_view->chosenRows() : m_view->rowsFromChoice(),
+                       m_view->columnsFromChoice()};
+    const auto rows = isSingle ? static_cast<qsizetype>(target.rows.size()) : 1;
+    PastePlan plan =
+        planPaste(*m_model, target, isSingle ? QVector<QStringList>(rows, cells.first()) : cells);
+    if (!mayPaste(plan.refusals, plan.edits.size()))
+        return Q_EMIT noticeChanged(u"Nothing was pasted"_s);
+    const auto pasted = plan.edits.size();
+    m_model->changeEdits([&](PendingEdits& edits) { edits.add(std::move(plan.edits)); });
+    Q_EMIT noticeChanged(u"Pasted %1 cells. Press Save Changes to store them"_s.arg(pasted));
+}
+
+void TableWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_model->edits().isEmpty())
+        return;
+    const QString question = u"Changes in the table of %1 are not saved."_s.arg(m_caption);
+    const UnsavedAnswer answer = m_boxes.askToSave(question, u"Unsaved Changes"_s);
+    if (answer == UnsavedAnswer::Save)
+        save();
+    event->setAccepted(answer == UnsavedAnswer::Discard || m_model->edits().isEmpty());
 }
 
 /// Changes which rows are shown, or their order; the current record remains the current one if it is still

@@ -13,13 +13,18 @@
 
 class QLabel;
 class QPushButton;
-class QTableView;
-class QVBoxLayout;
+
+namespace norvane::store
+{
+class WorkHistory;
+}
 
 namespace norvane::screens
 {
 
 class ChoiceBar;
+class PendingPanel;
+class TableGrid;
 class TableModel;
 
 /// What a table is opened for.
@@ -28,17 +33,19 @@ struct TableOrder {
     QString databasePath;
     QString caption; ///< of the screen: "PLUs"
     std::function<QString(const QString& field)> labelOf;
+    std::shared_ptr<store::WorkHistory> history = {}; ///< for undoing what was saved
 };
 
 /// Shows all records in the columns of their screen, sorted by a click on a heading and filtered by a text
-/// and by choices. Enter or a double click asks for the record's screen.
+/// and by choices. Enter or a double click asks for the record's screen. What is entered into cells is listed
+/// and stored by "Save Changes"; closing the window asks first.
 class TableWindow : public QWidget
 {
     Q_OBJECT
 
 public:
     /// @throws RuntimeFailure as tableSource() and the database.
-    TableWindow(const TableOrder& order, const ApplicationValues& values, ColumnMemory memory,
+    TableWindow(const TableOrder& order, const ApplicationValues& values, Boxes& boxes, ColumnMemory memory,
                 QWidget* parent = nullptr);
 
     [[nodiscard]] QString screenFile() const { return m_screenFile; }
@@ -56,12 +63,23 @@ public:
 Q_SIGNALS:
     /// The user wants to see the record with this key on its screen.
     void recordWanted(const QString& key);
+    /// The result of the last action, in words for the status bar.
+    void noticeChanged(const QString& text);
+    /// Records were stored.
+    void stored();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private:
-    void build(const TableOrder& order);
-    [[nodiscard]] QTableView* makeView();
-    void buildColumnsMenu(QPushButton& button);
-    void layOut(QPushButton* columns);
+    void buildView();
+    [[nodiscard]] QPushButton* makeColumnsButton();
+    [[nodiscard]] QPushButton* makeSaveButton();
+    void buildFilters();
+    void layOut();
+    void save();
+    void paste();
+    [[nodiscard]] bool mayPaste(const QStringList& refusals, std::size_t taken);
     void showColumn(int column, bool isShown);
     void showCount();
     void chooseAgain(const std::function<void()>& change);
@@ -69,11 +87,16 @@ private:
 
     QString m_screenFile;
     QString m_databasePath;
+    QString m_caption;
+    const ApplicationValues& m_values;
+    Boxes& m_boxes;
     ColumnMemory m_memory;
+    std::shared_ptr<store::WorkHistory> m_history;
     std::shared_ptr<store::Database> m_database;
     TableModel* m_model;
     ChoiceBar* m_choices;
-    QTableView* m_view;
+    TableGrid* m_view;
+    PendingPanel* m_pending;
     QLabel* m_count;
 };
 

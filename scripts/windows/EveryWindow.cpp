@@ -220,16 +220,19 @@ void lookAtMenus(shell::FrmMain& frame, const Look& look)
     }
 }
 
-/// Of all PLUs, with a choice made.
+/// With a choice made and a change that is not stored.
 void lookAtTable(FilledShop& shop, QWidget& screen, const QString& name, const Look& look)
 {
     screen.findChild<QAction*>(u"ShowTable"_s)->trigger();
     QWidget& table = *shop.frame().findChild<QWidget*>(u"TableWindow"_s);
+    QAbstractItemModel& cells = *table.findChild<QTableView*>(u"TableView"_s)->model();
+    cells.setData(cells.index(0, 1), u"Another text"_s);
     auto& column = *table.findChild<QComboBox*>(u"ChoiceColumn"_s);
     QTest::keyClicks(&column, column.itemText(1));
     QTest::keyClick(table.findChild<QComboBox*>(u"Choice"_s), Qt::Key_Down);
     QApplication::processEvents();
     look(name, *table.parentWidget());
+    shop.boxes().unsavedAnswers = {UnsavedAnswer::Discard};
     table.close();
     deleteClosed();
 }

@@ -1,73 +1,12 @@
-// The table as a user works with it.
-#include "screens/table/TableWindow.h"
-
-#include "tests/screens/table/TableShop.h"
-#include "tests/support/FormTest.h"
+// What the table shows.
+#include "tests/screens/table/TableWindowFixture.h"
 
 namespace norvane::screens
 {
 namespace
 {
 
-class TableWindowTest : public test::TableShop
-{
-protected:
-    TableWindowTest() { open(); }
-
-    void open()
-    {
-        window = std::make_unique<TableWindow>(TableOrder{m_folder.path("test.scn"), m_values.databasePath,
-                                                          u"PLUs"_s,
-                                                          [](const QString& field) {
-                                                              return field;
-                                                          }},
-                                               m_values, ColumnMemory(m_folder.path("tables.ini")));
-        QObject::connect(window.get(), &TableWindow::recordWanted, window.get(),
-                         [this](const QString& key) { wanted += key; });
-        window->show();
-        QApplication::setActiveWindow(window.get());
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        view = window->findChild<QTableView*>(u"TableView"_s);
-    }
-    /// The cells of a row that are in view.
-    [[nodiscard]] std::string row(int number) const
-    {
-        QStringList cells;
-        for (int column = 0; column < view->model()->columnCount(); ++column) {
-            if (!view->isColumnHidden(column))
-                cells += view->model()->index(number, column).data().toString();
-        }
-        return number < view->model()->rowCount() ? cells.join(u'|').toStdString() : "";
-    }
-    [[nodiscard]] std::string count() const
-    {
-        return test::child<QLabel>(*window, "TableCount").text().toStdString();
-    }
-    void filter(const char* text) const
-    {
-        auto& box = test::child<QLineEdit>(*window, "TableFilter");
-        box.setFocus();
-        box.selectAll();
-        QTest::keyClicks(&box, QString::fromUtf8(text));
-    }
-    /// Picks an entry as a user does.
-    void pick(const char* list, const char* entry) const
-    {
-        auto& box = test::child<QComboBox>(*window, list);
-        box.setFocus();
-        QTest::keyClicks(&box, QString::fromUtf8(entry));
-    }
-    void clickHeading(int column) const
-    {
-        QHeaderView& header = *view->horizontalHeader();
-        const QPoint place(header.sectionViewportPosition(column) + 5, header.height() / 2);
-        QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, place);
-    }
-
-    std::unique_ptr<TableWindow> window;
-    QTableView* view = nullptr;
-    QStringList wanted;
-};
+using TableWindowTest = TableWindowFixture;
 
 TEST_F(TableWindowTest, AFilterAndChoicesAndAHeadingDecideWhatIsShown)
 {

@@ -1,0 +1,130 @@
+// See PendingPanel.h.
+#include "screens/table/PendingPanel.h"
+
+#include "register/PluNumber.h"
+#include "screens/table/TableModel.h"
+#include "screens/table/TableStore.h"
+#include "ui/Appearance.h"
+#include "ui/FormKit.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::screens
+{
+namespace
+{
+
+/// Pixels at the usual font.
+constexpr int listPixels = 110;
+constexpr std::array<int, 4> columnPixels{130, 160, 200, 200};
+constexpr int pendingRowPixels = 20;
+constexpr std::array headings{"Record", "Column", "Stored", "New"};
+
+} // namespace
+
+/// The changes of a table in their order.
+class PendingPanel::Model : public QAbstractTableModel
+{
+public:
+    explicit Model(const TableModel& table, QObject* parent) : QAbstractTableModel(parent), m_table(table) {}
+
+    void showChanges()
+    {
+        beginResetModel();
+        m_count = m_table.edits().size();
+        endResetModel();
+    }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : m_count;
+    }
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(headings.size());
+    }
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+            return {};
+        return QString::fromLatin1(headings.at(static_cast<std::size_t>(section)));
+    }
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (role != Qt::DisplayRole)
+            return {};
+        const PendingEdit& edit = m_table.edits().at(index.row());
+        const TableColumn& column = m_table.column(edit.column);
+        const std::array<QString, 4> cells{
+            shownKey(m_table.rows().source().keyField, QString::fromStdString(edit.key)), column.label,
+            column.text(edit.before), column.text(edit.after)};
+        const QString text = cells.at(static_cast<std::size_t>(index.column()));
+        const bool isNo = column.kind() == ControlKind::Check && index.column() >= 2 && text.isEmpty();
+        return isNo ? u"No"_s : text;
+    }
+
+private:
+    const TableModel& m_table;
+    int m_count = 0;
+};
+
+PendingPanel::PendingPanel(TableModel& table, QWidget* parent)
+    : QWidget(parent), m_table(table), m_model(new Model(table, this)), m_view(new QTableView(this)),
+      m_heading(new QLabel(this))
+{
+    ui::nameControl(*m_view, u"PendingView"_s, u"Changes that are not stored yet"_s);
+    m_view->setModel(m_model);
+    m_view->setSelectionBehavior(QTableView::SelectRows);
+    m_view->setTabKeyNavigation(false);
+    m_view->setFixedHeight(ui::scaled(listPixels));
+    m_view->verticalHeader()->hide();
+    m_view->verticalHeader()->setMinimumSectionSize(ui::scaled(pendingRowPixels));
+    m_view->verticalHeader()->setDefaultSectionSize(ui::scaled(pendingRowPixels));
+    m_view->horizontalHeader()->setStretchLastSection(true);
+    for (std::size_t column = 0; column < columnPixels.size(); ++column)
+        m_view->setColumnWidth(static_cast<int>(column), ui::scaled(columnPixels.at(column)));
+    auto* const takeBackButton = ui::makeButton(u"TakeBack"_s, u"&Take Back"_s, this);
+    takeBackButton->setToolTip(u"Takes the chosen changes back"_s);
+    connect(takeBackButton, &QPushButton::clicked, this, &PendingPanel::takeBack);
+    connect(new QShortcut(QKeySequence::Delete, m_view, {}, {}, Qt::WidgetShortcut), &QShortcut::activated,
+            this, &PendingPanel::takeBack);
+    connect(&table, &TableModel::editsChanged, this, &PendingPanel::showChanges);
+    ui::nameControl(*m_heading, u"PendingHeading"_s);
+    auto* const row = new QHBoxLayout;
+    row->addWidget(m_heading, 1);
+    row->addWidget(takeBackButton);
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(ui::spacing::controlGap);
+    column->addLayout(row);
+    column->addWidget(m_view);
+    showChanges();
+}
+
+void PendingPanel::showChanges()
+{
+    m_model->showChanges();
+    const auto& edits = m_table.edits().all();
+    m_heading->setText(u"Not stored yet: "_s + amountOf(edits));
+    setVisible(!edits.empty());
+}
+
+void PendingPanel::takeBack()
+{
+    std::vector<int> places;
+    for (const QModelIndex& index : m_view->selectionModel()->selectedRows())
+        places.push_back(index.row());
+    m_table.changeEdits([&](PendingEdits& edits) { edits.remove(std::move(places)); });
+}
+
+} // namespace norvane::screens
