@@ -9,18 +9,18 @@ namespace norvane::chain
 /// Reasons why a publication fails.
 enum class ChainFailure {
     BadConnection,  ///< the text is not a connection string
-    Unreachable,    ///< no server there, no such database, or it refused the login
+    Unreachable,    ///< no server, no such database, or the login was refused
     ConnectionLost, ///< in the middle of the work
     NoRights,
     Unfit,     ///< a schema of another version, or another encoding
     OtherShop, ///< the shop of that name, or of that folder, is another one
-    Busy,      ///< somebody publishes the same shop
-    BadRows,   ///< the shop holds what no table takes, such as sales without a PLU
+    Busy,      ///< another program is publishing the same shop
+    BadRows,   ///< rows that no table accepts, such as sales without a PLU
     Unwritable,
     Refused ///< by the server for any other reason
 };
 
-/// Nothing of the step that met it is stored. The text is one sentence, and no password is in it.
+/// Nothing from the failed step is stored. The text is one sentence and contains no password.
 class ChainError : public TextError
 {
 public:

@@ -6,6 +6,7 @@ namespace norvane::overlay
 namespace
 {
 
+/// The number has red in its lowest byte.
 QColor drawn(Colour colour, const QColor& systemColour)
 {
     if (colour.isSystem())
