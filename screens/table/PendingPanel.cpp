@@ -82,6 +82,22 @@ PendingPanel::PendingPanel(TableModel& table, QWidget* parent)
     : QWidget(parent), m_table(table), m_model(new Model(table, this)), m_view(new QTableView(this)),
       m_heading(new QLabel(this))
 {
+    layOutView();
+    ui::nameControl(*m_heading, u"PendingHeading"_s);
+    connect(&table, &TableModel::editsChanged, this, &PendingPanel::showChanges);
+    auto* const row = new QHBoxLayout;
+    row->addWidget(m_heading, 1);
+    row->addWidget(makeTakeBackButton());
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(ui::spacing::controlGap);
+    column->addLayout(row);
+    column->addWidget(m_view);
+    showChanges();
+}
+
+void PendingPanel::layOutView()
+{
     ui::nameControl(*m_view, u"PendingView"_s, u"Changes that are not stored yet"_s);
     m_view->setModel(m_model);
     m_view->setSelectionBehavior(QTableView::SelectRows);
@@ -93,22 +109,16 @@ PendingPanel::PendingPanel(TableModel& table, QWidget* parent)
     m_view->horizontalHeader()->setStretchLastSection(true);
     for (std::size_t column = 0; column < columnPixels.size(); ++column)
         m_view->setColumnWidth(static_cast<int>(column), ui::scaled(columnPixels.at(column)));
-    auto* const takeBackButton = ui::makeButton(u"TakeBack"_s, u"&Take Back"_s, this);
-    takeBackButton->setToolTip(u"Takes the chosen changes back"_s);
-    connect(takeBackButton, &QPushButton::clicked, this, &PendingPanel::takeBack);
+}
+
+QPushButton* PendingPanel::makeTakeBackButton()
+{
+    auto* const button = ui::makeButton(u"TakeBack"_s, u"&Take Back"_s, this);
+    button->setToolTip(u"Takes the chosen changes back"_s);
+    connect(button, &QPushButton::clicked, this, &PendingPanel::takeBack);
     connect(new QShortcut(QKeySequence::Delete, m_view, {}, {}, Qt::WidgetShortcut), &QShortcut::activated,
             this, &PendingPanel::takeBack);
-    connect(&table, &TableModel::editsChanged, this, &PendingPanel::showChanges);
-    ui::nameControl(*m_heading, u"PendingHeading"_s);
-    auto* const row = new QHBoxLayout;
-    row->addWidget(m_heading, 1);
-    row->addWidget(takeBackButton);
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins({});
-    column->setSpacing(ui::spacing::controlGap);
-    column->addLayout(row);
-    column->addWidget(m_view);
-    showChanges();
+    return button;
 }
 
 void PendingPanel::showChanges()

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class QLabel;
+class QPushButton;
 class QTableView;
 
 namespace norvane::screens
@@ -21,6 +22,8 @@ public:
     explicit PendingPanel(TableModel& table, QWidget* parent = nullptr);
 
 private:
+    void layOutView();
+    [[nodiscard]] QPushButton* makeTakeBackButton();
     void showChanges();
     void takeBack();
 

@@ -99,10 +99,13 @@ TEST(XlsxReader, RefusesWhatIsNotASpreadsheet)
     parts.remove("xl/worksheets/sheet2.xml");
     EXPECT_EQ(textOf(parts), "has no sheet");
     EXPECT_EQ(textOf({{"mimetype", "text"}}), "has no workbook");
+}
 
+TEST(XlsxReader, RefusesDamagedProtectedAndEncryptedFiles)
+{
     const TestFolder folder;
     const QString path = folder.path("x.xlsx");
-    test::writeArchive(path, whole);
+    test::writeArchive(path, spreadsheetParts("</sheetData>"));
     QByteArray content = folder.read("x.xlsx");
     const auto refusal = [&](const QByteArray& bytes) {
         folder.write("x.xlsx", bytes);

@@ -93,7 +93,10 @@ TEST_P(TableFileOfOneModel, IsImportedByTheCommandLine)
     EXPECT_EQ(rates(), "1|9.25 2|8");
     EXPECT_EQ(customers::lastLogged(m_shop.values().customerPath, {u"PAYRATE import"_s})->result,
               u"1 changed, 0 new");
+}
 
+TEST_P(TableFileOfOneModel, IsRefusedWithACodeForEachReason)
+{
     for (const auto& [table, direction, options, code] :
          {std::tuple(u"payrates"_s, u"export"_s, QStringList{}, 4),
           {u"MIXSALES"_s, u"import"_s, {}, 2},

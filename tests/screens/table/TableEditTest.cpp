@@ -80,36 +80,37 @@ TEST_F(TableEditTest, TypedCellsAreListedAndStoredTogether)
     EXPECT_EQ(plus(), untouched);
 }
 
+constexpr struct {
+    const char* column;
+    const char* input;
+    const char* outcome; ///< the text then shown, or "!" and why not
+} inputs[] = {
+    {"PRICE1", "2,5", "2.50"},
+    {"PRICE1", "", "0.00"},
+    {"PRICE1", "1.234", "!has more than 2 decimals"},
+    {"PRICE1", "-1", "!is not a number from 0 up"},
+    {"PRICE1", "1.2.3", "!is not a number from 0 up"},
+    {"PRICE1", "1000000", "!is more than a register holds"},
+    {"PRICE1", "12345678901234567890", "!has more than 18 digits"},
+    {"PIECECOUNT", "9999", "9999"},
+    {"PIECECOUNT", "10000", "!is more than a register holds"},
+    {"PIECECOUNT", "two", "!is not a number from 0 up"},
+    {"GROUPNO", "3", "3 Drinks"},
+    {"GROUPNO", "drinks", "3 Drinks"},
+    {"GROUPNO", "3 Drinks", "3 Drinks"},
+    {"GROUPNO", "2", "!is not in the list"},
+    {"INactive", "TRUE", "Yes"},
+    {"INactive", "maybe", "!is neither Yes nor No"},
+    {"DESCRIPTION", "Flat White\n", "Flat White"},
+    {"DESCRIPTION", "Flat\nWhite", "!has more than one line"},
+    {"DESCRIPTION", "A very long article name", "!has more than 16 characters"},
+    {"DESCRIPTION", "\u0416", "!has characters that registers do not have"},
+};
+
 TEST_F(TableEditTest, InputIsCheckedByTheRulesOfTheScreen)
 {
-    const struct {
-        const char* column;
-        const char* input;
-        const char* outcome; ///< the text then shown, or "!" and why not
-    } cases[] = {
-        {"PRICE1", "2,5", "2.50"},
-        {"PRICE1", "", "0.00"},
-        {"PRICE1", "1.234", "!has more than 2 decimals"},
-        {"PRICE1", "-1", "!is not a number from 0 up"},
-        {"PRICE1", "1.2.3", "!is not a number from 0 up"},
-        {"PRICE1", "1000000", "!is more than a register holds"},
-        {"PRICE1", "12345678901234567890", "!has more than 18 digits"},
-        {"PIECECOUNT", "9999", "9999"},
-        {"PIECECOUNT", "10000", "!is more than a register holds"},
-        {"PIECECOUNT", "two", "!is not a number from 0 up"},
-        {"GROUPNO", "3", "3 Drinks"},
-        {"GROUPNO", "drinks", "3 Drinks"},
-        {"GROUPNO", "3 Drinks", "3 Drinks"},
-        {"GROUPNO", "2", "!is not in the list"},
-        {"INactive", "TRUE", "Yes"},
-        {"INactive", "maybe", "!is neither Yes nor No"},
-        {"DESCRIPTION", "Flat White\n", "Flat White"},
-        {"DESCRIPTION", "Flat\nWhite", "!has more than one line"},
-        {"DESCRIPTION", "A very long article name", "!has more than 16 characters"},
-        {"DESCRIPTION", "\u0416", "!has characters that registers do not have"},
-    };
     const TableSource table = source();
-    for (const auto& [name, text, outcome] : cases) {
+    for (const auto& [name, text, outcome] : inputs) {
         const auto column = std::ranges::find_if(table.columns, [name = name](const TableColumn& known) {
             return known.field.name == QLatin1String(name);
         });
