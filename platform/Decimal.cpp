@@ -183,6 +183,17 @@ Decimal Decimal::dividedBy(const Decimal& divisor, int digits) const
     return Decimal(rounded.m_coefficient, scale - surplus).shifted(0);
 }
 
+/// Each coefficient is below 10^18, so their sum fits.
+Decimal Decimal::plus(const Decimal& summand) const
+{
+    const int scale = std::max(m_scale, summand.m_scale);
+    const std::int64_t sum = multiplied(m_coefficient, scale - m_scale) +
+                             multiplied(summand.m_coefficient, scale - summand.m_scale);
+    if (std::abs(sum) >= powerOfTen(mostDigits))
+        failOverflow();
+    return {sum, scale};
+}
+
 Decimal Decimal::times(const Decimal& factor) const
 {
     Decimal a = *this;

@@ -47,6 +47,7 @@ public:
     [[nodiscard]] Decimal rounded(int places) const;
     /// The quotient to @p digits significant digits (up to 17), halves away from zero. @p divisor is not 0.
     [[nodiscard]] Decimal dividedBy(const Decimal& divisor, int digits) const;
+    [[nodiscard]] Decimal plus(const Decimal& summand) const;
     /// The product. One of more than 18 digits is rounded: places of the longer factor are dropped first.
     [[nodiscard]] Decimal times(const Decimal& factor) const;
     /// Rounded to the whole number, halves away from zero.

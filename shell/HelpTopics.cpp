@@ -29,6 +29,7 @@ constexpr HelpTopic topics[] = {
     {"UsesFrame"_L1, "screens"_L1},
     {"CopyToShopsDialog"_L1, "copying-to-other-customers"_L1},
     {"TableWindow"_L1, "many-records-at-once"_L1},
+    {"SetFieldDialog"_L1, "many-records-at-once"_L1},
     {"KeyLayoutVelmar"_L1, "keyboards"_L1},
     {"KeyLayoutDorvik"_L1, "keyboards"_L1},
     {"copylevel"_L1, "copy-levels"_L1},

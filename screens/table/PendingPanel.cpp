@@ -1,7 +1,7 @@
 // See PendingPanel.h.
 #include "screens/table/PendingPanel.h"
 
-#include "register/PluNumber.h"
+#include "screens/table/EditsModel.h"
 #include "screens/table/TableModel.h"
 #include "screens/table/TableStore.h"
 #include "ui/Appearance.h"
@@ -28,59 +28,12 @@ namespace
 constexpr int listPixels = 110;
 constexpr std::array<int, 4> columnPixels{130, 160, 200, 200};
 constexpr int pendingRowPixels = 20;
-constexpr std::array headings{"Record", "Column", "Stored", "New"};
 
 } // namespace
 
-/// The changes of a table in their order.
-class PendingPanel::Model : public QAbstractTableModel
-{
-public:
-    explicit Model(const TableModel& table, QObject* parent) : QAbstractTableModel(parent), m_table(table) {}
-
-    void showChanges()
-    {
-        beginResetModel();
-        m_count = m_table.edits().size();
-        endResetModel();
-    }
-
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override
-    {
-        return parent.isValid() ? 0 : m_count;
-    }
-    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override
-    {
-        return parent.isValid() ? 0 : static_cast<int>(headings.size());
-    }
-    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override
-    {
-        if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-            return {};
-        return QString::fromLatin1(headings.at(static_cast<std::size_t>(section)));
-    }
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override
-    {
-        if (role != Qt::DisplayRole)
-            return {};
-        const PendingEdit& edit = m_table.edits().at(index.row());
-        const TableColumn& column = m_table.column(edit.column);
-        const std::array<QString, 4> cells{
-            shownKey(m_table.rows().source().keyField, QString::fromStdString(edit.key)), column.label,
-            column.text(edit.before), column.text(edit.after)};
-        const QString text = cells.at(static_cast<std::size_t>(index.column()));
-        const bool isNo = column.kind() == ControlKind::Check && index.column() >= 2 && text.isEmpty();
-        return isNo ? u"No"_s : text;
-    }
-
-private:
-    const TableModel& m_table;
-    int m_count = 0;
-};
-
 PendingPanel::PendingPanel(TableModel& table, QWidget* parent)
-    : QWidget(parent), m_table(table), m_model(new Model(table, this)), m_view(new QTableView(this)),
-      m_heading(new QLabel(this))
+    : QWidget(parent), m_table(table), m_model(new EditsModel(table, table.edits().all(), this)),
+      m_view(new QTableView(this)), m_heading(new QLabel(this))
 {
     layOutView();
     ui::nameControl(*m_heading, u"PendingHeading"_s);

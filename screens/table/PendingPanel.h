@@ -10,6 +10,7 @@ class QTableView;
 namespace norvane::screens
 {
 
+class EditsModel;
 class TableModel;
 
 /// Shows record, column, old and new value of each change. Delete, or the button, takes the chosen ones back.
@@ -27,9 +28,8 @@ private:
     void showChanges();
     void takeBack();
 
-    class Model;
     TableModel& m_table;
-    Model* m_model;
+    EditsModel* m_model;
     QTableView* m_view;
     QLabel* m_heading;
 };

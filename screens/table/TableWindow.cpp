@@ -6,6 +6,7 @@
 #include "screens/table/ChoiceBar.h"
 #include "screens/table/PastedBlock.h"
 #include "screens/table/PendingPanel.h"
+#include "screens/table/SetFieldDialog.h"
 #include "screens/table/TableGrid.h"
 #include "screens/table/TableModel.h"
 #include "screens/table/TableSave.h"
@@ -27,6 +28,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -133,8 +135,10 @@ void TableWindow::layOut()
 {
     auto* const exit = ui::makeButton(u"ExitTable"_s, u"E&xit"_s, this);
     connect(exit, &QPushButton::clicked, this, &QWidget::close);
-    QHBoxLayout* const buttons = ui::makeButtonRow({makeSaveButton(), exit}, {makeColumnsButton()});
-    buttons->insertWidget(1, m_count);
+    auto* const setField = ui::makeButton(u"SetField"_s, u"Set a &Field..."_s, this);
+    connect(setField, &QPushButton::clicked, this, &TableWindow::setField);
+    QHBoxLayout* const buttons = ui::makeButtonRow({makeSaveButton(), exit}, {makeColumnsButton(), setField});
+    buttons->insertWidget(2, m_count);
     auto* const column = new QVBoxLayout(this);
     column->setSpacing(ui::spacing::controlGap);
     column->addWidget(m_choices);
@@ -202,6 +206,26 @@ void TableWindow::paste()
     const auto pasted = plan.edits.size();
     m_model->changeEdits([&](PendingEdits& edits) { edits.add(std::move(plan.edits)); });
     Q_EMIT noticeChanged(u"Pasted %1 cells. Press Save Changes to store them"_s.arg(pasted));
+}
+
+/// In the chosen records, or in all that are shown if not more than one is chosen.
+void TableWindow::setField()
+{
+    std::vector<int> rows = m_view->chosenRows();
+    const bool areChosen = rows.size() > 1;
+    if (!areChosen) {
+        rows.resize(static_cast<std::size_t>(m_model->rowCount()));
+        std::iota(rows.begin(), rows.end(), 0);
+    }
+    const QString scope =
+        (areChosen ? u"the %1 chosen records"_s : u"all %1 records that are shown"_s).arg(rows.size());
+    SetFieldDialog dialog(*m_model, std::move(rows), m_view->currentIndex().column(), scope, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    auto edits = dialog.takeEdits();
+    const auto count = edits.size();
+    m_model->changeEdits([&](PendingEdits& all) { all.add(std::move(edits)); });
+    Q_EMIT noticeChanged(u"Changed %1 records. Press Save Changes to store them"_s.arg(count));
 }
 
 void TableWindow::closeEvent(QCloseEvent* event)

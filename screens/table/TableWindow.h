@@ -79,6 +79,7 @@ private:
     void layOut();
     void save();
     void paste();
+    void setField();
     [[nodiscard]] bool mayPaste(const QStringList& refusals, std::size_t taken);
     void showColumn(int column, bool isShown);
     void showCount();

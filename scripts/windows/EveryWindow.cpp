@@ -220,6 +220,19 @@ void lookAtMenus(shell::FrmMain& frame, const Look& look)
     }
 }
 
+/// With a preview of all records.
+void lookAtSetField(QWidget& table, const QString& name, const Look& look)
+{
+    QTimer::singleShot(0, &table, [&] {
+        auto* const dialog = table.findChild<QDialog*>(u"SetFieldDialog"_s);
+        dialog->findChild<QLineEdit*>(u"NewValue"_s)->setText(u"1"_s);
+        dialog->findChild<QComboBox*>(u"HowToSet"_s)->setCurrentIndex(1);
+        look(name, *dialog);
+        dialog->reject();
+    });
+    table.findChild<QPushButton*>(u"SetField"_s)->click();
+}
+
 /// With a choice made and a change that is not stored.
 void lookAtTable(FilledShop& shop, QWidget& screen, const QString& name, const Look& look)
 {
@@ -232,6 +245,7 @@ void lookAtTable(FilledShop& shop, QWidget& screen, const QString& name, const L
     QTest::keyClick(table.findChild<QComboBox*>(u"Choice"_s), Qt::Key_Down);
     QApplication::processEvents();
     look(name, *table.parentWidget());
+    lookAtSetField(table, name + u"-field"_s, look);
     shop.boxes().unsavedAnswers = {UnsavedAnswer::Discard};
     table.close();
     deleteClosed();
