@@ -27,6 +27,7 @@ namespace
 {
 
 constexpr QSize previewSize{560, 220};
+constexpr int previewRowPixels = 20;
 constexpr qsizetype shownRefusals = 3;
 constexpr std::chrono::milliseconds restBeforePlan{200};
 
@@ -113,6 +114,8 @@ void SetFieldDialog::buildPreview()
     m_view->setTabKeyNavigation(false);
     m_view->setMinimumSize(ui::scaled(previewSize));
     m_view->verticalHeader()->hide();
+    m_view->verticalHeader()->setMinimumSectionSize(ui::scaled(previewRowPixels));
+    m_view->verticalHeader()->setDefaultSectionSize(ui::scaled(previewRowPixels));
     m_view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     ui::nameControl(*m_summary, u"SummaryOfChanges"_s);
     m_summary->setWordWrap(true);
