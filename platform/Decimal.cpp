@@ -255,7 +255,7 @@ double Decimal::toDouble() const
 std::weak_ordering Decimal::operator<=>(const Decimal& other) const
 {
     if (m_scale < other.m_scale)
-        return 0 <=> (other <=> *this);
+        return 0 <=> (other <=> *this); // NOLINT(modernize-use-nullptr): see Decimal.h
     const int surplus = m_scale - other.m_scale;
     const std::int64_t whole = surplus > mostDigits ? 0 : m_coefficient / powerOfTen(surplus);
     if (whole != other.m_coefficient)

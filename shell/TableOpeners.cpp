@@ -59,18 +59,18 @@ void addTable(FrmMain& main, screens::TableWindow* table, const ScreenOf& screen
 } // namespace
 
 screens::ScreenTool makeTableTool(FrmMain& main, const ApplicationValues& values, Boxes& boxes,
-                                  const ScreenOf& screenOf, std::shared_ptr<store::WorkHistory> history)
+                                  const ScreenOf& screenOf,
+                                  const std::shared_ptr<store::WorkHistory>& history)
 {
     const auto open = [&main, &values, &boxes, screenOf, history](screens::OptionForm& form) {
         openOrTell(boxes, [&] {
             const ui::WaitPointer wait;
             screens::TableWindow* table = tableOf(main, form);
             if (table == nullptr) {
-                table = new screens::TableWindow({form.screenFile(), form.databasePath(), form.caption(),
-                                                  [&form](const QString& field) {
-                                                      return form.labelOf(field);
-                                                  }},
-                                                 values, boxes, screens::ColumnMemory::ofThisUser());
+                table = new screens::TableWindow(
+                    {form.screenFile(), form.databasePath(), form.caption(),
+                     [&form](const QString& field) { return form.labelOf(field); }, history},
+                    values, boxes, screens::ColumnMemory::ofThisUser());
                 addTable(main, table, screenOf);
             }
             main.bringToFront(*table);

@@ -28,7 +28,7 @@ using ScreenOf =
 /// it. Keeps the references.
 [[nodiscard]] screens::ScreenTool makeTableTool(FrmMain& main, const ApplicationValues& values, Boxes& boxes,
                                                 const ScreenOf& screenOf,
-                                                std::shared_ptr<store::WorkHistory> history);
+                                                const std::shared_ptr<store::WorkHistory>& history);
 
 /// From now on the table of @p form's screen file, if one is open, marks the record that @p form shows.
 void followInTable(FrmMain& main, screens::OptionForm& form);

@@ -55,9 +55,10 @@ QString wrongCharacters(const ControlDefinition& control, const QString& text)
 {
     if (control.characters.compare("NUMERIC"_L1, Qt::CaseInsensitive) == 0)
         return std::ranges::all_of(text, isDigit) ? QString() : u"has other characters than digits"_s;
-    if (control.isHexadecimal)
+    if (control.isHexadecimal) {
         return std::ranges::all_of(text, isHexDigit) ? QString()
                                                      : u"has other characters than 0 to 9, A to F"_s;
+    }
     return fitsWindows1252(text) ? QString() : u"has characters that registers do not have"_s;
 }
 
@@ -150,9 +151,10 @@ CellInput cellInput(const TableColumn& column, const Decimal& number)
 {
     if (number < Decimal())
         return refused(u"is less than 0"_s);
-    if (number != number.rounded(column.decimals()))
+    if (number != number.rounded(column.decimals())) {
         return refused(column.decimals() == 0 ? u"is not a whole number"_s
                                               : u"has more than %1 decimals"_s.arg(column.decimals()));
+    }
     if (number > largestOf(column) || isAboveLargest(number, column.field.name))
         return refused(u"is more than a register holds"_s);
     return stored(column, store::Value::decimal(number));

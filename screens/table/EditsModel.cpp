@@ -55,7 +55,7 @@ QVariant EditsModel::data(const QModelIndex& index, int role) const
     const std::array<QString, editHeadings.size()> cells{
         shownKey(m_table.rows().source().keyField, QString::fromStdString(edit.key)), column.label,
         column.text(edit.before), column.text(edit.after)};
-    const QString text = cells.at(static_cast<std::size_t>(index.column()));
+    const QString& text = cells.at(static_cast<std::size_t>(index.column()));
     const bool isNo = column.kind() == ControlKind::Check && index.column() >= 2 && text.isEmpty();
     return isNo ? u"No"_s : text;
 }

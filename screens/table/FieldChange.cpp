@@ -106,7 +106,7 @@ private:
                 u"%1: the new value %2"_s.arg(shownKey(m_table.rows().source().keyField, key), input.refusal);
             return;
         }
-        PendingEdit edit = m_table.editOf(row, m_change.column, std::move(*input.value));
+        PendingEdit edit = m_table.editOf(row, m_change.column, *input.value);
         if (edit.before != edit.after || m_table.edits().find(edit.row, edit.column) != nullptr)
             m_plan.edits.push_back(std::move(edit));
     }

@@ -101,7 +101,7 @@ public:
         CellInput input = cellInput(definition, text);
         if (!input.value)
             return refuse(row, definition.label, text, input.refusal);
-        plan.edits.push_back(m_table.editOf(place, at, std::move(*input.value)));
+        plan.edits.push_back(m_table.editOf(place, at, *input.value));
     }
 
     PastePlan plan;

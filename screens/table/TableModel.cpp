@@ -67,11 +67,11 @@ const store::Value& TableModel::value(int row, int column) const
     return edit ? edit->after : m_rows.value(row, column);
 }
 
-PendingEdit TableModel::editOf(int row, int column, store::Value value) const
+PendingEdit TableModel::editOf(int row, int column, const store::Value& value) const
 {
     const store::Value before = m_rows.value(row, column);
     const bool isSame = this->column(column).text(before) == this->column(column).text(value);
-    return {m_rows.rowId(row), column, m_rows.key(row).toUtf8(), before, isSame ? before : std::move(value)};
+    return {m_rows.rowId(row), column, m_rows.key(row).toUtf8(), before, isSame ? before : value};
 }
 
 void TableModel::sort(int column, Qt::SortOrder order)
@@ -158,9 +158,7 @@ bool TableModel::setData(const QModelIndex& index, const QVariant& value, int ro
                        u"%1: \"%2\" %3"_s.arg(column(index.column()).label, excerpt(text), input.refusal));
         return false;
     }
-    changeEdits([&](PendingEdits& edits) {
-        edits.add({editOf(index.row(), index.column(), std::move(*input.value))});
-    });
+    changeEdits([&](PendingEdits& edits) { edits.add({editOf(index.row(), index.column(), *input.value)}); });
     return true;
 }
 

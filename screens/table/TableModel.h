@@ -36,7 +36,7 @@ public:
     /// Changes them as @p change says.
     void changeEdits(const std::function<void(PendingEdits&)>& change);
     /// The change of a cell to @p value; none, with its value before and after alike, if it shows the same.
-    [[nodiscard]] PendingEdit editOf(int row, int column, store::Value value) const;
+    [[nodiscard]] PendingEdit editOf(int row, int column, const store::Value& value) const;
     /// What a cell would hold if all changes were stored.
     [[nodiscard]] const store::Value& value(int row, int column) const;
 

@@ -49,6 +49,23 @@ TEST_F(UndoTest, EachWorkIsUndoneTheLatestFirst)
     EXPECT_EQ(notice(), "There is nothing to undo");
 }
 
+TEST_F(UndoTest, WhatATableStoredIsUndoneFromItsScreen)
+{
+    QWidget& screen = open("PLUMENU");
+    child<QAction>(screen, "ShowTable").trigger();
+    QWidget& table = front();
+    auto& cells = *child<QTableView>(table, "TableView").model();
+    cells.setData(cells.index(0, 1), u"Stout"_s);
+    cells.setData(cells.index(1, 1), u"Perry"_s);
+    child<QPushButton>(table, "SaveChanges").click();
+    EXPECT_EQ(plus(), "Stout 2.5|Perry 3");
+    m_main->bringToFront(screen);
+    child<QLineEdit>(screen, pluName).setFocus();
+    const std::string question = undo();
+    EXPECT_NE(question.find("DESCRIPTION: Stout becomes Lager"), std::string::npos) << question << notice();
+    EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
+}
+
 TEST_F(UndoTest, ANewRecordIsDeletedAgain)
 {
     QWidget& screen = open("PLUMENU");

@@ -59,10 +59,11 @@ protected:
         execute("insert into NLU (ID, NLU) values (1, '000000000000000030'), (2, '000000000000000009')");
         for (const char* sale :
              {"'000000000000000005', '2026-06-01', 1", "'000000000000000030', '2026-11-01', 2",
-              "'000000000000001001', '2026-11-01', 0"})
+              "'000000000000001001', '2026-11-01', 0"}) {
             execute(
                 QByteArray("insert into PLUSALES (ID, SALESDATE, COUNT1, PROMO, WASTE, VALUE1) values (") +
                 sale + ", 0, 0, 0)");
+        }
         m_folder.write("test.scn", QByteArray(pluScreen).replace("\n", "\r\n"));
     }
 
