@@ -97,6 +97,7 @@ TEST_P(TableFileOfOneModel, IsImportedByTheCommandLine)
 
 TEST_P(TableFileOfOneModel, IsRefusedWithACodeForEachReason)
 {
+    writeWholeFile(file(u"rates.csv"_s), "Number;Wage;Remark\n1;9,25;more\n");
     for (const auto& [table, direction, options, code] :
          {std::tuple(u"payrates"_s, u"export"_s, QStringList{}, 4),
           {u"MIXSALES"_s, u"import"_s, {}, 2},
