@@ -31,7 +31,7 @@ std::string placeholders(std::size_t count)
 /// Prices are stored as texts and ordered as numbers.
 std::string orderOf(const TableColumn& column)
 {
-    const std::string field = store::quotedName(column.field.name);
+    std::string field = store::quotedName(column.field.name);
     if (column.field.type != store::FieldType::Text || column.isKey)
         return field;
     return column.isNumber() ? "CAST(" + field + " AS REAL)" : field + " COLLATE NOCASE";

@@ -198,15 +198,16 @@ std::size_t RowChanges::takeBack(Database& database) const
         std::vector<TableBack> tables;
         for (const Table& table : m_tables)
             tables.emplace_back(connectionOf(database), table.name, table.fields);
-        for (auto row = m_rows.rbegin(); row != m_rows.rend(); ++row) {
-            TableBack& table = tables[row->table];
-            if (!isAsLeft(table.now(row->rowId), row->after))
+        for (std::size_t i = m_rows.size(); i > 0; --i) {
+            const Row& row = m_rows[i - 1];
+            TableBack& table = tables[row.table];
+            if (!isAsLeft(table.now(row.rowId), row.after))
                 continue;
             ++restored;
-            if (row->before.empty()) {
-                table.remove(row->rowId);
+            if (row.before.empty()) {
+                table.remove(row.rowId);
             } else {
-                table.restore(row->rowId, row->before, row->after != 0);
+                table.restore(row.rowId, row.before, row.after != 0);
             }
         }
     });

@@ -32,13 +32,15 @@ protected:
                        "[SetupOption]\r\nECRModel= 3\r\nTelephone=555\r\nModemDelay=9\r\n");
         for (const char* const file :
              {"43.DAT", "67.dat", "MEM.dat", "43.dat.former", "norvane.log", "exchange.ini",
-              "norvane-chain.ini", "copies/2026-11-25 18.30.12 before upload/setup.ini"})
+              "norvane-chain.ini", "copies/2026-11-25 18.30.12 before upload/setup.ini"}) {
             m_folder.write((QByteArray("app/Cafe/") + file).constData(), "of Cafe");
+        }
         for (const auto& row : exchange::uploadPlan()) {
-            if (exchange::boxName(row.box) == u"PLU Stock"_s)
+            if (exchange::boxName(row.box) == u"PLU Stock"_s) {
                 m_folder.write(
                     QByteArray("app/Cafe/%.dat").replace("%", QByteArray::number(row.file)).constData(),
                     "12");
+            }
         }
         m_shop.appPath = m_values.appPath;
         m_shop.name = u"Bar"_s;

@@ -11,6 +11,8 @@ namespace norvane::store::test
 namespace
 {
 
+using norvane::test::runElsewhere;
+
 class RowChangesTest : public testing::Test
 {
 protected:

@@ -347,8 +347,8 @@ QByteArray FormerWriter::rowBytes(const FormerRows& table, const QVariantList& r
     const QVector<int> offsets = addVariables(bytes, table, row);
     if (offsets.isEmpty())
         return bytes + mask;
-    for (const int offset : std::views::reverse(offsets))
-        bytes += number(offset);
+    for (qsizetype i = offsets.size(); i > 0; --i)
+        bytes += number(offsets.at(i - 1));
     if (m_isOld)
         bytes += jumpsOf(offsets, static_cast<int>(bytes.size() + 1 + mask.size()));
     return bytes + number(static_cast<int>(offsets.size()) - 1) + mask;
