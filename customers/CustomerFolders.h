@@ -8,8 +8,8 @@
 namespace norvane::customers
 {
 
-/// How the name of a folder begins in which a customer is being made. It is no customer's until it is
-/// renamed.
+/// The beginning of a folder's name while a customer is being made in it. Such a folder is not a customer:
+/// it gets the customer's name once it is complete.
 inline constexpr QLatin1StringView unfinishedPrefix{"norvane-unfinished."};
 
 /// All folders in @p appPath as spelled on disk and sorted by name, with or without a database in them.

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
-#include "platform/Boxes.h"
+#include "platform/SilentBoxes.h"
 #include "store/engine/Database.h"
 
 #include <functional>
@@ -27,24 +27,5 @@ void undone(const std::function<void()>& work);
 
 /// The setting for the kind of register, 0 to 3.
 void setModel(int model);
-
-/// Boxes without a user: every question gets the answer that loses nothing.
-class SilentBoxes : public Boxes
-{
-public:
-    void message(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/) override {}
-    bool ask(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/,
-             BoxAnswer /*preset*/) override
-    {
-        return false;
-    }
-    QString input(const QString& /*prompt*/, const QString& /*title*/, const QString& /*initial*/) override
-    {
-        return {};
-    }
-    QString fileToOpen(const FileRequest& /*request*/) override { return {}; }
-    QString fileToSave(const FileRequest& /*request*/) override { return {}; }
-    void beep() override {}
-};
 
 } // namespace norvane::fuzz

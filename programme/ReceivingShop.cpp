@@ -4,6 +4,7 @@
 #include "base/CustomerSettings.h"
 #include "customers/CustomerFolders.h"
 #include "platform/FilePaths.h"
+#include "platform/SilentBoxes.h"
 #include "programme/PartCopy.h"
 
 #include <QFileInfo>
@@ -18,23 +19,10 @@ namespace
 {
 
 /// Keeps the text of a message, which is reported with the name of the shop.
-class NotingBoxes : public Boxes
+class NotingBoxes : public SilentBoxes
 {
 public:
     void message(const QString& text, const QString& /*title*/, BoxIcon /*icon*/) override { m_text = text; }
-    bool ask(const QString& /*text*/, const QString& /*title*/, BoxIcon /*icon*/,
-             BoxAnswer /*preset*/) override
-    {
-        return false;
-    }
-    QString input(const QString& /*prompt*/, const QString& /*title*/, const QString& /*initial*/) override
-    {
-        return {};
-    }
-    QString fileToOpen(const FileRequest& /*request*/) override { return {}; }
-    QString fileToSave(const FileRequest& /*request*/) override { return {}; }
-    void beep() override {}
-
     [[nodiscard]] const QString& text() const { return m_text; }
 
 private:

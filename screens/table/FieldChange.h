@@ -34,8 +34,8 @@ struct ChangeRounding {
 /// None comes first.
 [[nodiscard]] std::span<const ChangeRounding> changeRoundings();
 
-/// The nearest number that @p rounding allows, halves up; 0, which is no price, remains 0. @param decimals of
-/// the column. @throws RuntimeFailure with Failure::Overflow beyond 18 digits.
+/// The nearest number that @p rounding allows, halves up; 0 remains 0, since it stands for a missing price.
+/// @param decimals of the column. @throws RuntimeFailure with Failure::Overflow beyond 18 digits.
 [[nodiscard]] Decimal roundedBy(const ChangeRounding& rounding, const Decimal& number, int decimals);
 
 struct FieldChange {

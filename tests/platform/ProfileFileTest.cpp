@@ -63,7 +63,7 @@ constexpr const char* written[][3] = {
      "[x]\nPort=1\n[setupoption]\nPort= 3\n\n[y]\n"},
     {"after the last key", "[SetupOption]\n\na=1\n\n\n[y]\nb=1\n",
      "[SetupOption]\n\na=1\nPort= 3\n\n\n[y]\nb=1\n"},
-    {"a comment is no key", "[SetupOption]\r\n;Port=1\r\n", "[SetupOption]\r\n;Port=1\r\nPort= 3\r\n"},
+    {"a comment is not a key", "[SetupOption]\r\n;Port=1\r\n", "[SetupOption]\r\n;Port=1\r\nPort= 3\r\n"},
     {"open last line, appended", "[SetupOption]\na=1", "[SetupOption]\na=1\nPort= 3\n"},
     {"foreign bytes", "[SetupOption]\n\x81\xFF=\xE4\nnonsense\n",
      "[SetupOption]\n\x81\xFF=\xE4\nnonsense\nPort= 3\n"},
