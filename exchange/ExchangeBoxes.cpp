@@ -77,4 +77,14 @@ QString serialPortNote()
            u"to ensure all new settings are initialised\r"_s;
 }
 
+QList<int> tickedBoxes(const TickBoxes& ticks)
+{
+    QList<int> boxes;
+    for (int box = 0; box < boxCount; ++box) {
+        if (ticks.isTicked(box))
+            boxes << box;
+    }
+    return boxes;
+}
+
 } // namespace norvane::exchange

@@ -46,4 +46,7 @@ public:
     virtual void setTicked(int box, bool ticked) = 0;
 };
 
+/// The boxes that are ticked, in index order.
+[[nodiscard]] QList<int> tickedBoxes(const TickBoxes& ticks);
+
 } // namespace norvane::exchange

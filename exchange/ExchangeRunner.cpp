@@ -5,19 +5,14 @@
 #include "base/LossQuestion.h"
 #include "customers/DataOwner.h"
 #include "customers/SafetyCopies.h"
-#include "exchange/MoveDataFile.h"
 #include "exchange/MovedFiles.h"
 #include "exchange/PluPoints.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
 #include "link/RunNotes.h"
-#include "platform/FilePaths.h"
-#include "platform/RuntimeFailure.h"
 #include "records/MemoryFile.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
-
-#include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -36,21 +31,6 @@ const QString oldFileFetched =
 const QString oldResultOfSend =
     u"An old result would count, and the file as sent, though the registers may not have it."_s;
 
-QString dataFile(int file)
-{
-    return u"%1.dat"_s.arg(file);
-}
-
-/// Length of a register file in the working directory.
-qint64 lengthOf(const QString& name)
-{
-    if (!pathExists(name)) {
-        throw RuntimeFailure(Failure::FileNotFound,
-                             u"The file %1 is missing. Upload it from the ECR first."_s.arg(name));
-    }
-    return QFileInfo(existingPath(name)).size();
-}
-
 } // namespace
 
 ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::LinkSettings& link,
@@ -66,7 +46,8 @@ ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::Link
                                                       } else {
                                                           commit();
                                                       }
-                                                  }}
+                                                  }},
+      m_keptFiles(values, m_outside)
 {
 }
 
@@ -144,7 +125,7 @@ bool ExchangeRunner::logged(customers::LoggedWork& work, bool (ExchangeRunner::*
 QString ExchangeRunner::stoppedText(const QString& reason) const
 {
     const QString stopped = u"stopped at %1: %2"_s.arg(m_place, reason);
-    const QList<int> left = tickedBoxes();
+    const QList<int> left = tickedBoxes(m_ticks);
     return left.isEmpty() ? stopped : u"%1; still to do: %2"_s.arg(stopped, boxNames(left));
 }
 
@@ -155,7 +136,7 @@ bool ExchangeRunner::upload()
         !open(u"Memory allocation"_s, link::uploadLine(m_link, link::memorySuffix), {memoryFile})) {
         return false;
     }
-    keepForCustomer(memoryFile);
+    m_keptFiles.keep(memoryFile);
     return records::FileMemory(m_procedures) && moveBoxes(uploadPlan(), &ExchangeRunner::uploadRow);
 }
 
@@ -172,24 +153,14 @@ bool ExchangeRunner::download()
 /// the boxes of the run before it are still to do.
 void ExchangeRunner::begin(Direction direction)
 {
-    m_exchange = {direction, QDateTime::currentDateTime(), tickedBoxes()};
+    m_exchange = {direction, QDateTime::currentDateTime(), tickedBoxes(m_ticks)};
     if (!m_exchange.boxes.isEmpty())
         noteExchange(m_values, m_exchange);
 }
 
-QList<int> ExchangeRunner::tickedBoxes() const
-{
-    QList<int> boxes;
-    for (int box = 0; box < boxCount; ++box) {
-        if (m_ticks.isTicked(box))
-            boxes << box;
-    }
-    return boxes;
-}
-
 void ExchangeRunner::noteBoxesLeft()
 {
-    const QList<int> left = tickedBoxes();
+    const QList<int> left = tickedBoxes(m_ticks);
     if (left == m_exchange.boxes)
         return;
     m_exchange.boxes = left;
@@ -239,7 +210,7 @@ bool ExchangeRunner::uploadRow(const UploadRow& row)
         return false;
     if (records::hasImporter(row.file) && !importFile(row.file))
         return false;
-    keepForCustomer(dataFile(row.file));
+    m_keptFiles.keep(dataFile(row.file));
     ++m_filesMoved;
     return true;
 }
@@ -266,7 +237,7 @@ bool ExchangeRunner::downloadRow(const DownloadRow& row)
         return false;
     const bool fromTable = records::hasExporter(row.file);
     if (!fromTable)
-        return !takeKeptFile(row) || sendFile(row, fromTable);
+        return !m_keptFiles.takeForSend(row) || sendFile(row, fromTable);
     switch (records::exportRegisterFile(row.file, m_procedures)) {
     case records::Exported::Nothing:
         return true;
@@ -284,7 +255,7 @@ bool ExchangeRunner::sendFile(const DownloadRow& row, bool fromTable)
     link::WatchedStep step(m_outside, {link::statusFile});
     step.run(link::downloadLine(m_link, QLatin1String(row.literal)));
     if (fromTable)
-        copyAfterSend(row);
+        m_keptFiles.copyAfterSend(row);
     if (!succeeded() || !step.mayGoOn(oldResultOfSend))
         return false;
     ++m_filesMoved;
@@ -322,39 +293,6 @@ bool ExchangeRunner::convert(const records::Conversion& conversion)
     link::WatchedStep step(m_outside, {conversion.target});
     step.run(conversion.commandLine);
     return step.mayGoOn(conversion.consequence);
-}
-
-/// Without a table the customer's kept copy is sent, never a file found in the program's folder, which may be
-/// another customer's. @return whether there is a file to send.
-bool ExchangeRunner::takeKeptFile(const DownloadRow& row)
-{
-    const QString name = dataFile(row.file);
-    if (!pathExists(joinPath(m_values.customerPath, name)))
-        m_outside.showNotice(u"The customer's folder holds no %1. Upload it from the ECR first."_s.arg(name));
-    // The transfer tool gets the name in capitals and would send an old file of that spelling.
-    link::keepLatestSpelling(joinPath(m_values.appPath, name));
-    MoveDataFile(m_values.customerPath, m_values.appPath, name);
-    return row.copy != Copy::FromCustomerUnlessEmpty || lengthOf(name) > 0;
-}
-
-void ExchangeRunner::copyAfterSend(const DownloadRow& row)
-{
-    if (row.copy == Copy::ToCustomerAfter) {
-        keepForCustomer(dataFile(row.file));
-    } else if (row.copy == Copy::FromCustomerAfter) {
-        MoveDataFile(m_values.customerPath, m_values.appPath, dataFile(row.file));
-    }
-}
-
-/// The customer's copy is the only store of a file without a table. It is kept if a tool reports success but
-/// has written no file.
-void ExchangeRunner::keepForCustomer(const QString& name)
-{
-    if (!pathExists(joinPath(m_values.appPath, name)))
-        return;
-    if (keepFormerCopy(m_values.appPath, m_values.customerPath, name))
-        m_outside.showNotice(u"%1 came empty. The former copy is kept as %1.former."_s.arg(name));
-    MoveDataFile(m_values.appPath, m_values.customerPath, name);
 }
 
 bool ExchangeRunner::hasSmartCards() const

@@ -6,6 +6,7 @@
 #include "customers/CustomerLog.h"
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangePlan.h"
+#include "exchange/KeptFiles.h"
 #include "exchange/UnfinishedExchange.h"
 #include "link/LinkSettings.h"
 #include "link/WatchedStep.h"
@@ -61,16 +62,12 @@ private:
     bool uploadRow(const UploadRow& row);
     bool downloadRow(const DownloadRow& row);
     [[nodiscard]] bool convert(const records::Conversion& conversion);
-    [[nodiscard]] bool takeKeptFile(const DownloadRow& row);
-    void copyAfterSend(const DownloadRow& row);
-    void keepForCustomer(const QString& name);
     void untickWithoutSmartCards();
     [[nodiscard]] bool importFile(int file);
     [[nodiscard]] bool mayTouchPoints(int file);
     [[nodiscard]] bool sendFile(const DownloadRow& row, bool fromTable);
     void notePluCount();
     void begin(Direction direction);
-    [[nodiscard]] QList<int> tickedBoxes() const;
     void noteBoxesLeft();
     [[nodiscard]] bool hasSmartCards() const;
     bool succeeded();
@@ -82,6 +79,7 @@ private:
     TickBoxes& m_ticks;
     link::RunOutside m_outside;
     records::ProcedureContext m_procedures;
+    KeptFiles m_keptFiles;
     UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
     int m_filesMoved = 0;
     QString m_result; ///< of a complete run
