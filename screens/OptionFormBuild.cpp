@@ -7,13 +7,13 @@
 #include "screens/OptionForm.h"
 #include "screens/RecordList.h"
 #include "screens/RegisterRules.h"
+#include "screens/ToolMenu.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStyle>
@@ -141,24 +141,16 @@ QPushButton* OptionForm::addButton(const ButtonRow& entry, QHBoxLayout& row)
 /// @return nullptr if none of @p tools is for this screen.
 QPushButton* OptionForm::addToolsButton(const ScreenTools& tools, QHBoxLayout& row)
 {
-    auto* const menu = new QMenu(this);
-    menu->setObjectName(u"MoreMenu"_s);
+    QVector<MenuTool> shown;
     for (const ScreenTool& tool : tools) {
-        if (tool.forManyRecords && !m_list)
-            continue;
-        QAction* const action = menu->addAction(tool.caption, this, [this, use = tool.use] { use(*this); });
-        action->setObjectName(tool.name);
-        action->setShortcut(tool.keys);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        addAction(action);
+        if (!tool.forManyRecords || m_list)
+            shown += {tool.name, tool.caption, tool.keys, [this, use = tool.use] {
+                          use(*this);
+                      }};
     }
-    if (menu->isEmpty()) {
-        delete menu;
-        return nullptr;
-    }
-    QPushButton* const button = ui::makeButton(u"MoreTools"_s, u"&More"_s, this);
-    button->setMenu(menu);
-    row.insertWidget(row.count() - 1, button, 1);
+    QPushButton* const button = makeMoreButton(shown, *this);
+    if (button != nullptr)
+        row.insertWidget(row.count() - 1, button, 1);
     return button;
 }
 

@@ -10,6 +10,7 @@
 #include "screens/table/TableGrid.h"
 #include "screens/table/TableModel.h"
 #include "screens/table/TableSave.h"
+#include "screens/ToolMenu.h"
 #include "store/engine/WorkHistory.h"
 #include "ui/Announcement.h"
 #include "ui/Appearance.h"
@@ -61,7 +62,7 @@ TableWindow::TableWindow(const TableOrder& order, const ApplicationValues& value
     ui::nameControl(*m_count, u"TableCount"_s);
     buildView();
     buildFilters();
-    layOut();
+    layOut(order.tools);
     showCount();
     m_choices->box().setFocus();
 }
@@ -131,7 +132,18 @@ void TableWindow::showColumn(int column, bool isShown)
     m_memory.keepHidden(m_screenFile, hidden);
 }
 
-void TableWindow::layOut()
+/// @return nullptr without tools.
+QPushButton* TableWindow::makeToolsButton(const TableTools& tools)
+{
+    QVector<MenuTool> entries;
+    for (const TableTool& tool : tools)
+        entries += {tool.name, tool.caption, tool.keys, [this, use = tool.use] {
+                        use(*this);
+                    }};
+    return makeMoreButton(entries, *this);
+}
+
+void TableWindow::layOut(const TableTools& tools)
 {
     auto* const exit = ui::makeButton(u"ExitTable"_s, u"E&xit"_s, this);
     connect(exit, &QPushButton::clicked, this, &QWidget::close);
@@ -139,6 +151,8 @@ void TableWindow::layOut()
     connect(setField, &QPushButton::clicked, this, &TableWindow::setField);
     QHBoxLayout* const buttons = ui::makeButtonRow({makeSaveButton(), exit}, {makeColumnsButton(), setField});
     buttons->insertWidget(2, m_count);
+    if (QPushButton* const more = makeToolsButton(tools))
+        buttons->insertWidget(2, more);
     auto* const column = new QVBoxLayout(this);
     column->setSpacing(ui::spacing::controlGap);
     column->addWidget(m_choices);
@@ -213,10 +227,8 @@ void TableWindow::setField()
 {
     std::vector<int> rows = m_view->chosenRows();
     const bool areChosen = rows.size() > 1;
-    if (!areChosen) {
-        rows.resize(static_cast<std::size_t>(m_model->rowCount()));
-        std::iota(rows.begin(), rows.end(), 0);
-    }
+    if (!areChosen)
+        rows = allRows();
     const QString scope =
         (areChosen ? u"the %1 chosen records"_s : u"all %1 records that are shown"_s).arg(rows.size());
     SetFieldDialog dialog(*m_model, std::move(rows), m_view->currentIndex().column(), scope, this);
@@ -258,6 +270,47 @@ void TableWindow::showCount()
     m_count->setText(rows.size() == rows.total() ? u"%1 records"_s.arg(rows.total())
                                                  : u"%1 of %2 records"_s.arg(rows.size()).arg(rows.total()));
     ui::announce(*m_count, m_count->text());
+}
+
+const TableSource& TableWindow::source() const
+{
+    return m_model->rows().source();
+}
+
+bool TableWindow::hasEdits() const
+{
+    return !m_model->edits().isEmpty();
+}
+
+QString TableWindow::currentKey() const
+{
+    const QModelIndex current = m_view->currentIndex();
+    return current.isValid() ? m_model->rows().key(current.row()).toText() : QString();
+}
+
+std::vector<int> TableWindow::allRows() const
+{
+    std::vector<int> rows(static_cast<std::size_t>(m_model->rowCount()));
+    std::iota(rows.begin(), rows.end(), 0);
+    return rows;
+}
+
+QStringList TableWindow::keysOf(const std::vector<int>& rows) const
+{
+    QStringList keys;
+    for (const int row : rows)
+        keys += m_model->rows().key(row).toText();
+    return keys;
+}
+
+QStringList TableWindow::chosenKeys() const
+{
+    return keysOf(m_view->chosenRows());
+}
+
+QStringList TableWindow::shownKeys() const
+{
+    return keysOf(allRows());
 }
 
 void TableWindow::mark(const QString& key)

@@ -5,11 +5,13 @@
 #include "platform/Boxes.h"
 #include "screens/table/ColumnMemory.h"
 #include "screens/table/TableColumns.h"
+#include "screens/table/TableTool.h"
 
 #include <QWidget>
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QLabel;
 class QPushButton;
@@ -34,6 +36,7 @@ struct TableOrder {
     QString caption; ///< of the screen: "PLUs"
     std::function<QString(const QString& field)> labelOf;
     std::shared_ptr<store::WorkHistory> history = {}; ///< for undoing what was saved
+    TableTools tools = {};                            ///< of the menu "More", which is not shown without one
 };
 
 /// Shows all records in the columns of their screen, sorted by a click on a heading and filtered by a text
@@ -50,6 +53,18 @@ public:
 
     [[nodiscard]] QString screenFile() const { return m_screenFile; }
     [[nodiscard]] QString databasePath() const { return m_databasePath; }
+    /// Of the screen: "PLUs".
+    [[nodiscard]] QString caption() const { return m_caption; }
+    /// The table with its columns, as the screen shows them.
+    [[nodiscard]] const TableSource& source() const;
+    /// The stored key of the current record; empty for none.
+    [[nodiscard]] QString currentKey() const;
+    /// Those of all records with a chosen cell, from the top.
+    [[nodiscard]] QStringList chosenKeys() const;
+    /// Those of all records that the filters leave, in their order.
+    [[nodiscard]] QStringList shownKeys() const;
+    /// Whether something entered is not saved.
+    [[nodiscard]] bool hasEdits() const;
     [[nodiscard]] QSize sizeHint() const override;
 
     /// Highlights the record that the screen shows, by its stored key, and goes to it if it is another one
@@ -76,7 +91,8 @@ private:
     [[nodiscard]] QPushButton* makeColumnsButton();
     [[nodiscard]] QPushButton* makeSaveButton();
     void buildFilters();
-    void layOut();
+    [[nodiscard]] QPushButton* makeToolsButton(const TableTools& tools);
+    void layOut(const TableTools& tools);
     void save();
     void paste();
     void setField();
@@ -84,6 +100,8 @@ private:
     void showColumn(int column, bool isShown);
     void showCount();
     void chooseAgain(const std::function<void()>& change);
+    [[nodiscard]] std::vector<int> allRows() const;
+    [[nodiscard]] QStringList keysOf(const std::vector<int>& rows) const;
     void openRecord(const QModelIndex& index);
 
     QString m_screenFile;

@@ -18,7 +18,7 @@ protected:
     {
         window = std::make_unique<TableWindow>(
             TableOrder{m_folder.path("test.scn"), m_values.databasePath, u"PLUs"_s,
-                       [](const QString& field) { return field; }, m_history},
+                       [](const QString& field) { return field; }, m_history, m_tools},
             m_values, m_boxes, ColumnMemory(m_folder.path("tables.ini")));
         QObject::connect(window.get(), &TableWindow::recordWanted, window.get(),
                          [this](const QString& key) { wanted += key; });
@@ -65,6 +65,7 @@ protected:
     }
 
     std::shared_ptr<store::WorkHistory> m_history = std::make_shared<store::WorkHistory>();
+    TableTools m_tools;
     test::RecordingBoxes m_boxes;
     std::unique_ptr<TableWindow> window;
     QTableView* view = nullptr;

@@ -59,6 +59,26 @@ TEST_F(TableWindowTest, HiddenColumnsAreRememberedAndStillSearched)
     EXPECT_EQ(count(), "1 of 4 records");
 }
 
+TEST_F(TableWindowTest, AToolKnowsTheCurrentTheChosenAndTheShownRecords)
+{
+    QString seen;
+    m_tools = {{u"See"_s, u"Se&e"_s, QKeySequence(u"Ctrl+E"_s), [&seen](const TableWindow& table) {
+                    const QStringList all = table.chosenKeys() + QStringList(u"of"_s) + table.shownKeys();
+                    seen = table.currentKey() + u':' + all.join(u' ');
+                    seen.remove(u"00000000000000"_s);
+                }}};
+    open();
+    clickHeading(1);
+    filter("drinks");
+    view->selectRow(0);
+    view->selectionModel()->select(view->model()->index(1, 2), QItemSelectionModel::Select);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_E, Qt::ControlModifier);
+    EXPECT_EQ(seen, u"0009:0009 0005 of 0009 0005"_s);
+    filter("nothing like it");
+    QTest::keyClick(test::child<QPushButton>(*window, "MoreTools").menu(), Qt::Key_E);
+    EXPECT_EQ(seen, u":of"_s);
+}
+
 TEST_F(TableWindowTest, ARefreshShowsWhatOthersStoredAndKeepsThePlace)
 {
     clickHeading(1);
