@@ -194,10 +194,10 @@ void LinkForm::leave()
     QDialog::reject();
 }
 
-RunOutside LinkForm::outside()
+RunOutside LinkForm::outside(const QString& folder)
 {
-    return {.runAndWait = [this](const QString& line) { return m_tool.run(m_values, line); },
-            .readStatus = ReadStatusOut,
+    return {.runAndWait = [this, folder](const QString& line) { return m_tool.run(m_values, line, folder); },
+            .readStatus = [folder] { return readStatusOutIn(folder); },
             .showStep = [this](const QString& text) { showStep(text); },
             .showNotice = [this](const QString& text) { StatusBar1->setNotice(text); },
             .goOn = [this] { return !m_exitPressed; },

@@ -84,7 +84,8 @@ protected:
     [[nodiscard]] bool exitPressed() const { return m_exitPressed; }
 
     /// The outside of a run that shows its steps in this form; the form must outlive it.
-    [[nodiscard]] RunOutside outside();
+    /// @param folder in which the tools work; empty for the working directory
+    [[nodiscard]] RunOutside outside(const QString& folder = {});
 
     const ApplicationValues& m_values;
     Boxes& m_boxes;

@@ -11,15 +11,21 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::link
 {
 
-ChildResult RunAndWait(const ApplicationValues& values, const QString& commandLine, const ChildWatch& watch)
+ChildResult RunAndWait(const ApplicationValues& values, const QString& commandLine, const ChildWatch& watch,
+                       const QString& folder)
 {
     QCoreApplication::processEvents();
-    return runAndWait(commandLine, values.appPath, watch);
+    return runAndWait(commandLine, values.appPath, watch, folder);
 }
 
 QString ReadStatusOut()
 {
-    const QByteArray content = readWholeFile(u"status.out"_s);
+    return readStatusOutIn({});
+}
+
+QString readStatusOutIn(const QString& folder)
+{
+    const QByteArray content = readWholeFile(joinPath(folder, u"status.out"_s));
     CommaValues values({content.constData(), static_cast<std::size_t>(content.size())});
     // An empty place is not a value: a line end too many must not turn an error into a success.
     std::string_view last;

@@ -146,7 +146,7 @@ void ToolWait::setExit(QWidget* exit, std::function<void(bool leaves)> show)
     m_showLeaving = std::move(show);
 }
 
-ChildResult ToolWait::run(const ApplicationValues& values, const QString& commandLine)
+ChildResult ToolWait::run(const ApplicationValues& values, const QString& commandLine, const QString& folder)
 {
     const QString tool = commandWords(commandLine).value(0).section(u'/', -1);
     m_shown = std::chrono::seconds(0);
@@ -159,7 +159,8 @@ ChildResult ToolWait::run(const ApplicationValues& values, const QString& comman
         });
         result = RunAndWait(values, commandLine, {[&](auto running) {
                                 return goOn(tool, running);
-                            }});
+                            }},
+                            folder);
     }
     handOver();
     return result;

@@ -64,8 +64,10 @@ public:
     /// will close when the running tool ends, because of what the user did meanwhile.
     void setExit(QWidget* exit, std::function<void(bool leaves)> show);
 
-    /// Lets pending events run once, then runs the tool. @return Crashed, too, when the user ended it.
-    [[nodiscard]] ChildResult run(const ApplicationValues& values, const QString& commandLine);
+    /// Lets pending events run once, then runs the tool in @p folder, or else in the working directory.
+    /// @return Crashed, too, when the user ended it.
+    [[nodiscard]] ChildResult run(const ApplicationValues& values, const QString& commandLine,
+                                  const QString& folder = {});
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

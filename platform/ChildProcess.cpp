@@ -92,7 +92,8 @@ QString findProgram(const QString& name, const QString& programFolder)
     return {};
 }
 
-ChildResult runAndWait(const QString& commandLine, const QString& programFolder, const ChildWatch& watch)
+ChildResult runAndWait(const QString& commandLine, const QString& programFolder, const ChildWatch& watch,
+                       const QString& workingFolder)
 {
     QStringList words = commandWords(commandLine);
     const QString program = words.isEmpty() ? QString() : findProgram(words.takeFirst(), programFolder);
@@ -102,6 +103,7 @@ ChildResult runAndWait(const QString& commandLine, const QString& programFolder,
     QProcess child;
     child.setProcessChannelMode(QProcess::ForwardedChannels);
     child.setInputChannelMode(QProcess::ForwardedInputChannel);
+    child.setWorkingDirectory(workingFolder);
     bindToParent(child);
     child.start(program, words);
     if (!child.waitForStarted(-1))

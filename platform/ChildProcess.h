@@ -28,10 +28,11 @@ struct ChildWatch {
     std::function<bool(std::chrono::milliseconds running)> goOn;
 };
 
-/// Starts @p commandLine in the working directory with this process's environment and waits for its end
-/// without a time limit. The exit code is not returned: the tools report through their files. On Linux the
-/// child is killed when this program dies.
-ChildResult runAndWait(const QString& commandLine, const QString& programFolder,
-                       const ChildWatch& watch = {});
+/// Starts @p commandLine with this process's environment and waits for its end without a time limit. The exit
+/// code is not returned: the tools report through their files. On Linux the child is killed when this program
+/// dies.
+/// @param workingFolder of the child; empty for the working directory of this process
+ChildResult runAndWait(const QString& commandLine, const QString& programFolder, const ChildWatch& watch = {},
+                       const QString& workingFolder = {});
 
 } // namespace norvane

@@ -141,19 +141,20 @@ QString extentInWords(const TextExtent& extent)
 }
 
 /// A register sends whole tables, so a text that is much shorter is more often a damaged one.
-bool mayReplace(const RegisterFile& file, store::Database& database, Boxes& boxes)
+bool mayReplace(const RegisterFile& file, store::Database& database, const ProcedureContext& context)
 {
-    if (file.upload != Upload::ReplacesTable || !pathExists(textName(file)))
+    const QString path = joinPath(context.folder, textName(file));
+    if (file.upload != Upload::ReplacesTable || !pathExists(path))
         return true;
     const qint64 former = database.openTable(QLatin1String(file.table)).recordCount();
     if (former < fewestWorthAsking)
         return true;
-    const QByteArray content = readWholeFile(textName(file));
+    const QByteArray content = readWholeFile(path);
     const TextExtent extent =
         extentOf(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
     if (extent.lines * 2 >= former && !extent.isCutOff)
         return true;
-    return askBeforeLoss(boxes,
+    return askBeforeLoss(context.boxes,
                          u"%1 %2. It would replace the table %3, which has %4.\r\r"
                          u"No keeps the table as it is, so that the file can be uploaded again. Yes is right "
                          u"when the register itself has fewer records now.\r\r"
@@ -190,7 +191,7 @@ Imported importRegisterFile(int number, const ProcedureContext& context)
         return Imported::Refused;
 
     store::Database database(context.values.databasePath);
-    if (!mayReplace(file, database, context.boxes))
+    if (!mayReplace(file, database, context))
         return Imported::TooFew;
     store::CommitOnExit transaction(database);
     ImportCounts counts;
@@ -199,7 +200,7 @@ Imported importRegisterFile(int number, const ProcedureContext& context)
     };
     importOrPutBack(
         transaction, context.boxes, [&] { return keepQuestion(file, counts); },
-        [&] { importText(file, database, traitsOf(context), counts); }, commit);
+        [&] { importText(file, database, context, counts); }, commit);
     commit();
     return Imported::File;
 }

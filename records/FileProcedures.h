@@ -32,6 +32,8 @@ struct ProcedureContext {
     std::function<void(int file, const std::function<void()>& commit)> store = [](int, const auto& commit) {
         commit();
     };
+    /// Where NN.txt is read; empty for the working directory. The converter has to work there too.
+    QString folder{};
 };
 
 /// Whether the register file with this number has a procedure for the direction.

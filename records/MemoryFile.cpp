@@ -47,7 +47,7 @@ bool FileMemory(const ProcedureContext& context)
     ImportCounts counts;
     importOrPutBack(
         transaction, context.boxes, [&] { return keepQuestion(memoryFile, counts); },
-        [&] { importText(memoryFile, database, traitsOf(context), counts); });
+        [&] { importText(memoryFile, database, context, counts); });
     transaction.commit();
     return true;
 }

@@ -91,7 +91,7 @@ RegisterTraits traitsOf(const ProcedureContext& context)
             }};
 }
 
-void importText(const RegisterFile& file, store::Database& database, const RegisterTraits& traits,
+void importText(const RegisterFile& file, store::Database& database, const ProcedureContext& context,
                 ImportCounts& counts)
 {
     store::Recordset records = database.openTable(QLatin1String(file.table));
@@ -100,8 +100,8 @@ void importText(const RegisterFile& file, store::Database& database, const Regis
     // The table is emptied before the text file is opened, so it stays empty if that file is missing.
     if (file.upload == Upload::ReplacesTable)
         counts.former = database.execute(u"delete * from %1"_s.arg(QLatin1String(file.table)));
-    const QByteArray content = readWholeFile(textName(file));
-    Import import(file, records, traits);
+    const QByteArray content = readWholeFile(joinPath(context.folder, textName(file)));
+    Import import(file, records, traitsOf(context));
     const auto count = qScopeGuard([&] { counts.read = import.stored(); });
     import.storeAll(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
 }

@@ -23,12 +23,12 @@ struct ImportCounts {
     qint64 read = 0;
 };
 
-/// Stores each line of the file's text in the working directory, in the table that the file replaces or
+/// Stores each line of the file's text in the folder of @p context, in the table that the file replaces or
 /// updates. @p counts is right after a failure too.
 /// @throws RuntimeFailure with Failure::FileNotFound when the text is missing: a table to be replaced is
 /// empty then; for a bad line what RecordReader::read and Recordset::update throw, its text naming file, line
 /// and column.
-void importText(const RegisterFile& file, store::Database& database, const RegisterTraits& traits,
+void importText(const RegisterFile& file, store::Database& database, const ProcedureContext& context,
                 ImportCounts& counts);
 
 /// The question after a failed import, for importOrPutBack().

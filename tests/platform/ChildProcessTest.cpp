@@ -35,6 +35,9 @@ TEST(ChildProcess, RunsAToolOfTheProgramFolderInTheWorkingDirectory)
     putProbe(program, "VELMARCOMM");
     EXPECT_EQ(run("velmarcomm log out s9  c1 \"N 67.DAT\""), ChildResult::Ended);
     EXPECT_EQ(working.read("out"), QDir::currentPath().toLocal8Bit() + "\ns9\nc1\nN 67.DAT\n");
+    const TestFolder elsewhere;
+    EXPECT_EQ(runAndWait(u"velmarcomm log out"_s, program.path(), {}, elsewhere.path()), ChildResult::Ended);
+    EXPECT_EQ(elsewhere.read("out"), elsewhere.path().toLocal8Bit() + "\n");
     EXPECT_EQ(run("VELMARCOMM crash"), ChildResult::Crashed);
     EXPECT_EQ(run("no_such_tool -U 52"), ChildResult::NotFound);
     EXPECT_EQ(run(""), ChildResult::NotFound);
