@@ -7,6 +7,7 @@
 #include "screens/table/TableModel.h"
 #include "screens/table/TableStore.h"
 #include "screens/table/TableWindow.h"
+#include "store/engine/WorkHistory.h"
 #include "ui/MessageBoxes.h"
 
 #include <QHeaderView>
@@ -105,12 +106,14 @@ void sortColumn(benchmark::State& state)
     times.report(state);
 }
 
-/// Adds 20 cents to every price and stores them.
-void raiseAll(const QString& path, const QString& screenFile, const ApplicationValues& values)
+/// Adds 20 cents to every price and stores them. @param history nullptr to keep nothing for an undo
+void raiseAll(const Shop& shop, store::WorkHistory* history)
 {
+    const QString path = shop.database();
     const auto database = std::make_shared<store::Database>(path);
     screens::TableModel table(
-        database, screens::tableSource(*database, screens::ScreenReader(screenFile), values, labelOf));
+        database,
+        screens::tableSource(*database, screens::ScreenReader(shop.screenFile), shop.values, labelOf));
     const auto& columns = table.rows().columns();
     const auto price = std::find_if(columns.begin(), columns.end(), [](const screens::TableColumn& column) {
         return column.field.name == QLatin1StringView("PRICE1");
@@ -122,9 +125,11 @@ void raiseAll(const QString& path, const QString& screenFile, const ApplicationV
                                       QStringLiteral("0.20"),
                                       0,
                                       {}};
-    const auto plan = screens::planChange(table, change, rows);
+    auto plan = screens::planChange(table, change, rows);
     require(plan.edits.size() == pluCount, "all prices change");
-    storeEdits(*database, table.rows().source(), plan.edits);
+    table.changeEdits([&](screens::PendingEdits& edits) { edits.add(std::move(plan.edits)); });
+    const store::RecordedWork recorded(history, *database, path, {table.rows().source().table});
+    storeEdits(*database, table.rows().source(), table.edits().all());
 }
 
 void bareRaiseAll(const QString& path)
@@ -150,7 +155,21 @@ void setField(benchmark::State& state)
     const Shop shop;
     const Shop bare;
     bench::compare(
-        state, [&] { raiseAll(shop.database(), shop.screenFile, shop.values); },
+        state, [&] { raiseAll(shop, nullptr); }, [&] { bareRaiseAll(bare.database()); });
+}
+
+/// With what undoing it needs.
+void setFieldToUndo(benchmark::State& state)
+{
+    const Shop shop;
+    const Shop bare;
+    bench::compare(
+        state,
+        [&] {
+            store::WorkHistory history;
+            raiseAll(shop, &history);
+            require(history.latest(shop.database())->changes.count() == pluCount, "all can be undone");
+        },
         [&] { bareRaiseAll(bare.database()); });
 }
 
@@ -160,6 +179,7 @@ BENCHMARK(openTable)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(filterKey)->Unit(benchmark::kMillisecond)->Iterations(60);
 BENCHMARK(sortColumn)->Unit(benchmark::kMillisecond)->Iterations(12);
 BENCHMARK(setField)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4);
+BENCHMARK(setFieldToUndo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4);
 
 int main(int argc, char** argv)
 {

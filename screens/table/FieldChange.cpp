@@ -69,44 +69,52 @@ public:
         if (computes() && !amount)
             return {{}, {u"\"%1\" is not a number"_s.arg(excerpt(m_change.text))}};
         m_amount = amount.value_or(Decimal());
-        for (const int row : rows)
-            take(row);
+        const auto held = m_table.rows().valuesOf(rows, {m_change.column, m_change.source});
+        for (std::size_t place = 0; place < rows.size(); ++place)
+            take(rows[place], {held[place][0], held[place][1], held[place][2]});
         return std::move(m_plan);
     }
 
 private:
+    /// What is stored of a record.
+    struct Stored {
+        const store::Value& field;  ///< in the column that is set
+        const store::Value& source; ///< in the one to copy from
+        const store::Value& key;
+    };
+
     [[nodiscard]] bool computes() const
     {
         return m_change.kind == ChangeKind::Amount || m_change.kind == ChangeKind::Percent;
     }
 
-    [[nodiscard]] CellInput inputOf(int row) const
+    [[nodiscard]] CellInput inputOf(int row, const Stored& stored) const
     {
         if (m_change.kind == ChangeKind::Value)
             return cellInput(m_column, m_change.text);
         if (m_change.kind == ChangeKind::Copy) {
             const TableColumn& source = m_table.column(m_change.source);
-            return cellInput(m_column, source.text(m_table.value(row, m_change.source)));
+            return cellInput(m_column, source.text(m_table.value(row, m_change.source, stored.source)));
         }
-        const Decimal number = m_table.value(row, m_change.column).toDecimal();
+        const Decimal number = m_table.value(row, m_change.column, stored.field).toDecimal();
         return cellInput(m_column, Computation(m_change, m_column, m_amount).of(number));
     }
 
-    void take(int row)
+    void take(int row, const Stored& stored)
     {
         CellInput input;
         try {
-            input = inputOf(row);
+            input = inputOf(row, stored);
         } catch (const RuntimeFailure& failure) {
             input.refusal = failure.text();
         }
         if (!input.value) {
-            const QString key = m_table.rows().key(row).toText();
+            const QString& keyField = m_table.rows().source().keyField;
             m_plan.refusals +=
-                u"%1: the new value %2"_s.arg(shownKey(m_table.rows().source().keyField, key), input.refusal);
+                u"%1: the new value %2"_s.arg(shownKey(keyField, stored.key.toText()), input.refusal);
             return;
         }
-        PendingEdit edit = m_table.editOf(row, m_change.column, *input.value);
+        PendingEdit edit = m_table.editOf(row, m_change.column, stored.key, stored.field, *input.value);
         if (edit.before != edit.after || m_table.edits().find(edit.row, edit.column) != nullptr)
             m_plan.edits.push_back(std::move(edit));
     }

@@ -27,8 +27,10 @@ void PendingEdits::add(std::vector<PendingEdit> edits)
     std::vector<PendingEdit> all = std::move(m_edits);
     all.reserve(all.size() + edits.size());
     std::ranges::move(edits, std::back_inserter(all));
-    std::ranges::stable_sort(all, {}, cellOf);
+    if (!std::ranges::is_sorted(all, {}, cellOf))
+        std::ranges::stable_sort(all, {}, cellOf);
     m_edits.clear();
+    m_edits.reserve(all.size());
     for (PendingEdit& edit : all) {
         if (m_edits.empty() || cellOf(m_edits.back()) != cellOf(edit)) {
             m_edits.push_back(std::move(edit));

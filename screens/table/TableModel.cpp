@@ -67,11 +67,24 @@ const store::Value& TableModel::value(int row, int column) const
     return edit ? edit->after : m_rows.value(row, column);
 }
 
+const store::Value& TableModel::value(int row, int column, const store::Value& stored) const
+{
+    const PendingEdit* const edit = editAt(index(row, column));
+    return edit ? edit->after : stored;
+}
+
 PendingEdit TableModel::editOf(int row, int column, const store::Value& value) const
 {
     const store::Value before = m_rows.value(row, column);
+    return editOf(row, column, m_rows.key(row), before, value);
+}
+
+PendingEdit TableModel::editOf(int row, int column, const store::Value& key, store::Value before,
+                               const store::Value& value) const
+{
     const bool isSame = this->column(column).text(before) == this->column(column).text(value);
-    return {m_rows.rowId(row), column, m_rows.key(row).toUtf8(), before, isSame ? before : value};
+    store::Value after = isSame ? before : value;
+    return {m_rows.rowId(row), column, key.toUtf8(), std::move(before), std::move(after)};
 }
 
 void TableModel::sort(int column, Qt::SortOrder order)

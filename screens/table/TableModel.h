@@ -37,8 +37,13 @@ public:
     void changeEdits(const std::function<void(PendingEdits&)>& change);
     /// The change of a cell to @p value; none, with its value before and after alike, if it shows the same.
     [[nodiscard]] PendingEdit editOf(int row, int column, const store::Value& value) const;
+    /// The same if the cell, of the record with the number @p key, is known to hold @p before.
+    [[nodiscard]] PendingEdit editOf(int row, int column, const store::Value& key, store::Value before,
+                                     const store::Value& value) const;
     /// What a cell would hold if all changes were stored.
     [[nodiscard]] const store::Value& value(int row, int column) const;
+    /// The same if the cell is known to hold @p stored.
+    [[nodiscard]] const store::Value& value(int row, int column, const store::Value& stored) const;
 
     [[nodiscard]] TableRows& rows() { return m_rows; }
     [[nodiscard]] const TableRows& rows() const { return m_rows; }

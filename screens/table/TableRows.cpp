@@ -13,7 +13,7 @@ namespace norvane::screens
 namespace
 {
 
-constexpr int rowsOfBlock = 64;
+constexpr std::size_t rowsOfBlock = 64;
 /// Some screens full of rows.
 constexpr std::size_t mostBlocks = 32;
 /// So many are read within a moment that nobody notices.
@@ -40,17 +40,19 @@ std::string orderOf(const TableColumn& column)
 } // namespace
 
 TableRows::TableRows(std::shared_ptr<store::Database> database, TableSource source)
-    : m_database(std::move(database)), m_source(std::move(source))
+    : m_database(std::move(database)), m_source(std::move(source)),
+      m_allColumns(static_cast<std::size_t>(m_source.columns.size()))
 {
+    std::iota(m_allColumns.begin(), m_allColumns.end(), 0);
     reload();
 }
 
-/// The fields of a row after its row id: the columns, then the key.
-std::string TableRows::select() const
+/// The fields of a row after its row id: @p chosen columns, then the key.
+std::string TableRows::select(const std::vector<int>& chosen) const
 {
     std::string sql = "SELECT rowid";
-    for (const TableColumn& column : columns())
-        sql += ", " + store::quotedName(column.field.name);
+    for (const int column : chosen)
+        sql += ", " + store::quotedName(columns().at(column).field.name);
     return sql + ", " + store::quotedName(m_source.keyField) + " FROM " + store::quotedName(m_source.table);
 }
 
@@ -164,7 +166,7 @@ bool TableRows::prepareTexts()
     if (first == m_ids.size())
         return false;
     const std::size_t end = std::min(first + textsAtOnce, m_ids.size());
-    store::BoundQuery rows(*m_database, select() + " WHERE rowid BETWEEN ? AND ? ORDER BY rowid",
+    store::BoundQuery rows(*m_database, select(m_allColumns) + " WHERE rowid BETWEEN ? AND ? ORDER BY rowid",
                            {store::Value::whole(m_ids[first]), store::Value::whole(m_ids[end - 1])},
                            m_source.table);
     RowTexts texts(columns());
@@ -197,37 +199,44 @@ int TableRows::rowOfKey(const QString& key) const
     return row.next() ? rowOf(std::get<std::int64_t>(row.value(0).data())) : -1;
 }
 
-void TableRows::readBlock(int block)
+/// The rows of a block are sought one by one; more rows are found sooner by a walk over all.
+std::vector<TableRows::Values> TableRows::valuesOf(const std::vector<int>& rows,
+                                                   const std::vector<int>& columns) const
 {
-    const int first = block * rowsOfBlock;
-    const int count = std::min(rowsOfBlock, size() - first);
-    std::vector<store::Value> ids;
     std::unordered_map<qint64, std::size_t> places;
-    for (int row = 0; row < count; ++row) {
-        places.emplace(rowId(first + row), ids.size());
-        ids.push_back(store::Value::whole(rowId(first + row)));
+    std::vector<store::Value> ids;
+    for (const int row : rows) {
+        places.emplace(rowId(row), places.size());
+        if (rows.size() <= rowsOfBlock)
+            ids.push_back(store::Value::whole(rowId(row)));
     }
-    const auto fields = static_cast<std::size_t>(columns().size()) + 1;
-    auto& rows = m_blocks[block];
-    rows.assign(static_cast<std::size_t>(count), Values(fields));
-    store::BoundQuery query(*m_database, select() + " WHERE rowid IN (" + placeholders(ids.size()) + ")", ids,
-                            m_source.table);
+    const std::string sought = ids.empty() ? "" : " WHERE rowid IN (" + placeholders(ids.size()) + ")";
+    store::BoundQuery query(*m_database, select(columns) + sought, ids, m_source.table);
+    std::vector<Values> all(rows.size(), Values(columns.size() + 1));
     while (query.next()) {
-        Values& values = rows[places.at(std::get<std::int64_t>(query.value(0).data()))];
-        for (std::size_t field = 0; field < fields; ++field)
-            values[field] = query.value(static_cast<int>(field) + 1);
+        const auto place = places.find(std::get<std::int64_t>(query.value(0).data()));
+        for (std::size_t field = 0; place != places.end() && field <= columns.size(); ++field)
+            all[place->second][field] = query.value(static_cast<int>(field) + 1);
     }
+    return all;
 }
 
-const store::Value& TableRows::read(int row, std::size_t place)
+void TableRows::readBlock(std::size_t block)
 {
-    const int block = row / rowsOfBlock;
+    std::vector<int> rows(std::min(rowsOfBlock, m_shown.size() - block * rowsOfBlock));
+    std::iota(rows.begin(), rows.end(), static_cast<int>(block * rowsOfBlock));
+    m_blocks[block] = valuesOf(rows, m_allColumns);
+}
+
+const store::Value& TableRows::read(int row, std::size_t field)
+{
+    const std::size_t block = static_cast<std::size_t>(row) / rowsOfBlock;
     if (!m_blocks.contains(block)) {
         if (m_blocks.size() >= mostBlocks)
             m_blocks.clear();
         readBlock(block);
     }
-    return m_blocks.at(block).at(static_cast<std::size_t>(row % rowsOfBlock)).at(place);
+    return m_blocks.at(block).at(static_cast<std::size_t>(row) % rowsOfBlock).at(field);
 }
 
 const store::Value& TableRows::value(int row, int column)

@@ -48,15 +48,17 @@ public:
     /// What a row holds in a column, as it is stored; null for a record that was deleted meanwhile.
     [[nodiscard]] const store::Value& value(int row, int column);
     [[nodiscard]] const store::Value& key(int row);
+    using Values = std::vector<store::Value>; ///< of some columns, then the key
+    /// The same of many rows: what each of @p rows holds in @p columns, then its key.
+    [[nodiscard]] std::vector<Values> valuesOf(const std::vector<int>& rows,
+                                               const std::vector<int>& columns) const;
 
 private:
-    using Values = std::vector<store::Value>; ///< of the columns, then the key
-
-    [[nodiscard]] std::string select() const;
+    [[nodiscard]] std::string select(const std::vector<int>& columns) const;
     [[nodiscard]] std::string orderSql() const;
     [[nodiscard]] int ordinalOf(qint64 rowId) const;
-    [[nodiscard]] const store::Value& read(int row, std::size_t place);
-    void readBlock(int block);
+    [[nodiscard]] const store::Value& read(int row, std::size_t field);
+    void readBlock(std::size_t block);
     [[nodiscard]] store::Value version() const;
     void readOrder();
     void readChosen();
@@ -64,17 +66,18 @@ private:
 
     std::shared_ptr<store::Database> m_database;
     TableSource m_source;
-    store::Value m_version;                                ///< of the file, when the rows were read
-    std::vector<qint64> m_ids;                             ///< ascending; an ordinal is a place in it
-    std::vector<int> m_order;                              ///< all ordinals, as sorted
-    std::vector<int> m_shown;                              ///< those that pass the filters
-    std::vector<bool> m_chosen;                            ///< by ordinal: whether it meets the choices
-    FoldedTexts m_texts;                                   ///< by ordinal
-    std::unordered_map<int, std::vector<Values>> m_blocks; ///< rows last read, by their block
+    store::Value m_version;     ///< of the file, when the rows were read
+    std::vector<qint64> m_ids;  ///< ascending; an ordinal is a place in it
+    std::vector<int> m_order;   ///< all ordinals, as sorted
+    std::vector<int> m_shown;   ///< those that pass the filters
+    std::vector<bool> m_chosen; ///< by ordinal: whether it meets the choices
+    FoldedTexts m_texts;        ///< by ordinal
+    std::unordered_map<std::size_t, std::vector<Values>> m_blocks; ///< rows last read, by their block
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     QString m_filter;
     std::vector<TableChoice> m_choices;
+    std::vector<int> m_allColumns;
 };
 
 } // namespace norvane::screens

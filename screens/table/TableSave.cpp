@@ -68,6 +68,8 @@ private:
     /// What the user agrees to overwrite counts as seen.
     bool mayGoOn()
     {
+        if (areFresh(m_database, m_table.source, m_edits.all()))
+            return true;
         FreshEdits fresh = freshEdits(m_database, m_table.source, m_edits.all());
         if (!fresh.conflicts.empty() && !askBeforeLoss(m_boxes, questionOf(fresh.conflicts)))
             return false;

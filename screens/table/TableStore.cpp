@@ -4,10 +4,12 @@
 #include "platform/RuntimeFailure.h"
 #include "store/engine/AllOrNothing.h"
 #include "store/engine/BoundQuery.h"
+#include "store/engine/FieldWriter.h"
 #include "store/engine/QuotedName.h"
-#include "store/engine/Recordset.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 #include <unordered_map>
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,18 +24,25 @@ using Edits = std::vector<PendingEdit>;
 /// The columns that some edit changes, in order.
 std::vector<int> columnsOf(const Edits& edits)
 {
-    std::vector<int> columns;
+    std::set<int> columns;
     for (const PendingEdit& edit : edits)
-        columns.push_back(edit.column);
-    std::ranges::sort(columns);
-    columns.erase(std::unique(columns.begin(), columns.end()), columns.end());
-    return columns;
+        columns.insert(edit.column);
+    return {columns.begin(), columns.end()};
 }
 
-/// The place of @p column among @p columns, which has it.
-std::size_t placeIn(const std::vector<int>& columns, int column)
+/// Row id, number and then these columns.
+std::string selectOf(const TableSource& source, const std::vector<int>& columns)
 {
-    return static_cast<std::size_t>(std::ranges::lower_bound(columns, column) - columns.begin());
+    std::string sql = "SELECT rowid, " + store::quotedName(source.keyField);
+    for (const int column : columns)
+        sql += ", " + store::quotedName(source.columns.at(column).field.name);
+    return sql + " FROM " + store::quotedName(source.table);
+}
+
+/// The place of @p column in such a row; @p columns have it.
+int placeIn(const std::vector<int>& columns, int column)
+{
+    return static_cast<int>(std::ranges::lower_bound(columns, column) - columns.begin()) + 2;
 }
 
 qint64 wholeOf(const store::Value& value)
@@ -64,7 +73,8 @@ public:
     FreshEdits run()
     {
         sortByCell(m_edits);
-        store::BoundQuery rows(m_database, select(), {}, m_source.table);
+        store::BoundQuery rows(m_database, selectOf(m_source, m_columns) + " ORDER BY rowid", {},
+                               m_source.table);
         auto edit = m_edits.begin();
         while (edit != m_edits.end() && rows.next()) {
             const qint64 row = wholeOf(rows.value(0));
@@ -79,14 +89,6 @@ public:
     }
 
 private:
-    [[nodiscard]] std::string select() const
-    {
-        std::string sql = "SELECT rowid, " + store::quotedName(m_source.keyField);
-        for (const int column : m_columns)
-            sql += ", " + store::quotedName(m_source.columns.at(column).field.name);
-        return sql + " FROM " + store::quotedName(m_source.table) + " ORDER BY rowid";
-    }
-
     /// Records whose row is gone may have come back in another one.
     void findMoved()
     {
@@ -120,7 +122,7 @@ private:
         using enum EditConflict::Kind;
         PendingEdit fresh = edit;
         fresh.key = rows.value(1).toUtf8();
-        fresh.before = rows.value(static_cast<int>(placeIn(m_columns, edit.column)) + 2);
+        fresh.before = rows.value(placeIn(m_columns, edit.column));
         if (fresh.key != edit.key)
             m_fresh.conflicts.push_back({Renumbered, edit, store::Value::text(fresh.key)});
         if (fresh.before != edit.before)
@@ -135,36 +137,60 @@ private:
     FreshEdits m_fresh;
 };
 
-/// The fields that some edit changes, of all records.
-QString queryOf(const TableSource& source, const std::vector<int>& columns)
+/// Walks the records beside the edits, which are in the order of their rows.
+class FreshCheck
 {
-    QStringList fields;
-    for (const int column : columns)
-        fields += u"[%1]"_s.arg(source.columns.at(column).field.name);
-    return u"select %1 from [%2] order by [rowid]"_s.arg(fields.join(u", "_s), source.table);
-}
+public:
+    FreshCheck(store::Database& database, const TableSource& source, const Edits& edits)
+        : m_columns(columnsOf(edits)), m_edits(edits),
+          m_rows(database, selectOf(source, m_columns) + " WHERE rowid BETWEEN ? AND ? ORDER BY rowid",
+                 {store::Value::whole(edits.front().row), store::Value::whole(edits.back().row)},
+                 source.table)
+    {
+    }
+
+    /// Whether each record is there with its number and what the edit has before.
+    bool run()
+    {
+        auto edit = m_edits.begin();
+        while (edit != m_edits.end() && m_rows.next()) {
+            const qint64 row = wholeOf(m_rows.value(0));
+            for (; edit != m_edits.end() && edit->row == row; ++edit) {
+                if (!isFresh(*edit))
+                    return false;
+            }
+        }
+        return edit == m_edits.end();
+    }
+
+private:
+    bool isFresh(const PendingEdit& edit)
+    {
+        const store::Value& key = m_rows.value(1);
+        return (key.isText() ? key.textView() == edit.key : key.toUtf8() == edit.key) &&
+               m_rows.value(placeIn(m_columns, edit.column)) == edit.before;
+    }
+
+    std::vector<int> m_columns;
+    const Edits& m_edits;
+    store::BoundQuery m_rows;
+};
 
 void storeRows(store::Database& database, const TableSource& source, const Edits& edits)
 {
-    const std::vector<int> columns = columnsOf(edits);
-    store::Recordset records = database.openQuery(queryOf(source, columns));
-    store::BoundQuery rows(database,
-                           "SELECT rowid FROM " + store::quotedName(source.table) + " ORDER BY rowid", {},
-                           source.table);
-    auto edit = edits.begin();
-    for (qint64 position = 0; edit != edits.end() && rows.next(); ++position) {
-        const qint64 row = wholeOf(rows.value(0));
-        if (edit->row != row)
-            continue;
-        records.moveTo(position);
-        records.edit();
-        for (; edit != edits.end() && edit->row == row; ++edit)
-            records.setValue(static_cast<int>(placeIn(columns, edit->column)), store::Value(edit->after));
-        records.update();
-    }
+    std::map<int, store::FieldWriter> writers;
+    for (const int column : columnsOf(edits))
+        writers.try_emplace(column, database, source.table, source.columns.at(column).field);
+    for (const PendingEdit& edit : edits)
+        writers.at(edit.column).store(edit.row, edit.before, edit.after);
 }
 
 } // namespace
+
+bool areFresh(store::Database& database, const TableSource& source, const Edits& edits)
+{
+    return edits.empty() || FreshCheck(database, source, edits).run();
+}
 
 FreshEdits freshEdits(store::Database& database, const TableSource& source, const Edits& edits)
 {
@@ -174,7 +200,7 @@ FreshEdits freshEdits(store::Database& database, const TableSource& source, cons
 void storeEdits(store::Database& database, const TableSource& source, const Edits& edits)
 {
     store::allOrNothing(database, [&] {
-        if (!freshEdits(database, source, edits).conflicts.empty()) {
+        if (!areFresh(database, source, edits)) {
             throw RuntimeFailure(Failure::EngineFailure,
                                  u"records were changed meanwhile. Press Save Changes again to see them"_s);
         }

@@ -10,6 +10,11 @@
 namespace norvane::screens
 {
 
+/// Whether every record is there and holds what the user saw. @p edits are in the order of their rows.
+/// @throws RuntimeFailure as the database reports.
+[[nodiscard]] bool areFresh(store::Database& database, const TableSource& source,
+                            const std::vector<PendingEdit>& edits);
+
 /// A change whose record is not what the user saw.
 struct EditConflict {
     enum class Kind { Changed, Renumbered, Deleted };
@@ -30,8 +35,8 @@ struct FreshEdits {
 [[nodiscard]] FreshEdits freshEdits(store::Database& database, const TableSource& source,
                                     const std::vector<PendingEdit>& edits);
 
-/// Stores all of @p edits or none. @throws RuntimeFailure with Failure::EngineFailure if a record is not what
-/// the edits say, and as the database reports.
+/// Stores all of @p edits, which are in the order of their rows, or none. @throws RuntimeFailure with
+/// Failure::EngineFailure if a record is not what the edits say, and as the database reports.
 void storeEdits(store::Database& database, const TableSource& source, const std::vector<PendingEdit>& edits);
 
 /// "17 changes in 12 records". @p edits are in the order of their rows.

@@ -3,11 +3,12 @@
 
 #include "store/engine/Connection.h"
 #include "store/engine/RowImage.h"
+#include "store/engine/Savepoint.h"
 
 #include <sqlite3.h>
 
 #include <new>
-#include <unordered_map>
+#include <unordered_set>
 
 namespace norvane::store
 {
@@ -15,9 +16,10 @@ namespace norvane::store
 /// What the engine reports before it changes a row.
 struct ChangeRecorder::Recording {
     RowChanges changes;
-    std::vector<RowImages> rows;                                       ///< of each table
-    std::vector<std::unordered_map<std::int64_t, std::size_t>> places; ///< the same: rows by their ids
-    bool isIncomplete = false;                                         ///< memory ran out
+    std::vector<RowImages> rows;                         ///< of each table
+    std::vector<std::unordered_set<std::int64_t>> known; ///< the same: ids of the rows that are recorded
+    std::string image;                                   ///< of the row being recorded; its memory is kept
+    bool isIncomplete = false;                           ///< memory ran out
 
     static void take(void* recording, sqlite3* handle, int operation, const char* file, const char* table,
                      sqlite3_int64 rowId, sqlite3_int64 newRowId);
@@ -36,15 +38,15 @@ std::size_t ChangeRecorder::Recording::placeOf(const char* table) const
 
 void ChangeRecorder::Recording::keep(sqlite3* handle, bool isInsert, std::size_t table, std::int64_t rowId)
 {
-    if (!places[table].emplace(rowId, changes.m_rows.size()).second)
+    if (!known[table].insert(rowId).second)
         return;
-    auto& row = changes.m_rows.emplace_back(RowChanges::Row{table, rowId, {}, 0});
+    image.clear();
     for (int column = 0; !isInsert && column < sqlite3_preupdate_count(handle); ++column) {
         sqlite3_value* value = nullptr;
         if (sqlite3_preupdate_old(handle, column, &value) == SQLITE_OK)
-            appendValue(row.before, value);
+            appendValue(image, value);
     }
-    row.before.shrink_to_fit();
+    changes.m_rows.push_back({table, rowId, image, 0});
 }
 
 /// The engine is plain C: no exception may pass through it.
@@ -68,7 +70,7 @@ ChangeRecorder::ChangeRecorder(Database& database, const QStringList& tables)
     for (const QString& table : tables) {
         auto& rows = m_recording->rows.emplace_back(handle, table);
         m_recording->changes.m_tables.push_back({table, rows.fields()});
-        m_recording->places.emplace_back();
+        m_recording->known.emplace_back();
     }
     sqlite3_preupdate_hook(handle, Recording::take, m_recording.get());
 }
@@ -80,9 +82,12 @@ ChangeRecorder::~ChangeRecorder()
 
 RowChanges ChangeRecorder::finish()
 {
-    sqlite3_preupdate_hook(connectionOf(m_database).handle(), nullptr, nullptr);
+    sqlite3* const handle = connectionOf(m_database).handle();
+    sqlite3_preupdate_hook(handle, nullptr, nullptr);
     if (m_recording->isIncomplete)
         return {};
+    // Otherwise the engine would lock and unlock the file for each row.
+    const Savepoint reading(handle);
     auto& rows = m_recording->changes.m_rows;
     std::erase_if(rows, [this](RowChanges::Row& row) {
         const std::string& now = m_recording->rows[row.table].read(row.rowId);
