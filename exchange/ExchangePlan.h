@@ -6,6 +6,10 @@
 namespace norvane::exchange
 {
 
+/// Files with special rules.
+inline constexpr int pluFile = 67;
+inline constexpr int pluPointsFile = 71;
+
 /// A file fetched from the register and kept in the customer's folder. The file catalogue knows the procedure
 /// that loads its table, and files without one are only kept.
 struct UploadRow {

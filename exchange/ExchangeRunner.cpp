@@ -14,6 +14,8 @@
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 
+#include <QScopeGuard>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::exchange
@@ -22,8 +24,6 @@ namespace
 {
 
 const QString memoryFile = u"MEM.dat"_s;
-constexpr int pluFile = 67;
-constexpr int pluPointsFile = 71;
 
 const QString oldResult = u"The exchange would go on as if a register had answered."_s;
 const QString oldFileFetched =
@@ -47,8 +47,11 @@ ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::Link
                                                           commit();
                                                       }
                                                   }},
-      m_keptFiles(values, m_outside)
+      m_keptFiles(values, m_outside), m_ledger(values)
 {
+    m_procedures.lineWritten = [this](std::string_view line) {
+        m_ledger.addLine(line);
+    };
 }
 
 bool ExchangeRunner::UploadData()
@@ -113,6 +116,7 @@ void ExchangeRunner::showLastBox()
 
 bool ExchangeRunner::logged(customers::LoggedWork& work, bool (ExchangeRunner::*sequence)())
 {
+    const auto ended = qScopeGuard([this] { m_ledger.end(); });
     const bool isComplete = work.during([&] { return (this->*sequence)(); },
                                         [this](const QString& failure) { return stoppedText(failure); });
     work.setResult(isComplete ? QString(customers::completeResult) : stoppedText(m_stop));
@@ -156,6 +160,7 @@ void ExchangeRunner::begin(Direction direction)
     m_exchange = {direction, QDateTime::currentDateTime(), tickedBoxes(m_ticks)};
     if (!m_exchange.boxes.isEmpty())
         noteExchange(m_values, m_exchange);
+    m_ledger.begin(direction, m_exchange.boxes, m_link.registers());
 }
 
 void ExchangeRunner::noteBoxesLeft()
@@ -204,13 +209,15 @@ bool ExchangeRunner::moveBox(int box, std::span<const Row> rows, bool (ExchangeR
 bool ExchangeRunner::uploadRow(const UploadRow& row)
 {
     showStep("Upload", row.box, row.file);
+    m_ledger.beginFile(row.file);
     link::WatchedStep step(m_outside, {link::statusFile, dataFile(row.file)});
     step.run(link::uploadLine(m_link, QLatin1String(row.literal)));
-    if (!succeeded() || !step.mayGoOn(oldFileFetched))
+    if (!succeeded() || !mayGoOn(step, oldFileFetched))
         return false;
     if (records::hasImporter(row.file) && !importFile(row.file))
         return false;
     m_keptFiles.keep(dataFile(row.file));
+    m_ledger.fetched();
     ++m_filesMoved;
     return true;
 }
@@ -233,6 +240,7 @@ bool ExchangeRunner::importFile(int file)
 bool ExchangeRunner::downloadRow(const DownloadRow& row)
 {
     showStep("Download", row.box, row.file);
+    m_ledger.beginFile(row.file);
     if (!mayTouchPoints(row.file))
         return false;
     const bool fromTable = records::hasExporter(row.file);
@@ -252,12 +260,14 @@ bool ExchangeRunner::downloadRow(const DownloadRow& row)
 
 bool ExchangeRunner::sendFile(const DownloadRow& row, bool fromTable)
 {
+    m_ledger.sending();
     link::WatchedStep step(m_outside, {link::statusFile});
     step.run(link::downloadLine(m_link, QLatin1String(row.literal)));
     if (fromTable)
         m_keptFiles.copyAfterSend(row);
-    if (!succeeded() || !step.mayGoOn(oldResultOfSend))
+    if (!succeeded() || !mayGoOn(step, oldResultOfSend))
         return false;
+    m_ledger.sent();
     ++m_filesMoved;
     if (row.file == pluFile)
         notePluCount();
@@ -292,7 +302,15 @@ bool ExchangeRunner::convert(const records::Conversion& conversion)
 {
     link::WatchedStep step(m_outside, {conversion.target});
     step.run(conversion.commandLine);
-    return step.mayGoOn(conversion.consequence);
+    return mayGoOn(step, conversion.consequence);
+}
+
+/// What moves after a step that failed is not known.
+bool ExchangeRunner::mayGoOn(const link::WatchedStep& step, const QString& consequence)
+{
+    if (!step.isComplete())
+        m_ledger.doubt();
+    return step.mayGoOn(consequence);
 }
 
 bool ExchangeRunner::hasSmartCards() const

@@ -7,6 +7,7 @@
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangePlan.h"
 #include "exchange/KeptFiles.h"
+#include "exchange/LedgerRun.h"
 #include "exchange/UnfinishedExchange.h"
 #include "link/LinkSettings.h"
 #include "link/WatchedStep.h"
@@ -62,6 +63,7 @@ private:
     bool uploadRow(const UploadRow& row);
     bool downloadRow(const DownloadRow& row);
     [[nodiscard]] bool convert(const records::Conversion& conversion);
+    [[nodiscard]] bool mayGoOn(const link::WatchedStep& step, const QString& consequence);
     void untickWithoutSmartCards();
     [[nodiscard]] bool importFile(int file);
     [[nodiscard]] bool mayTouchPoints(int file);
@@ -80,6 +82,7 @@ private:
     link::RunOutside m_outside;
     records::ProcedureContext m_procedures;
     KeptFiles m_keptFiles;
+    LedgerRun m_ledger;
     UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
     int m_filesMoved = 0;
     QString m_result; ///< of a complete run

@@ -21,6 +21,8 @@ struct LinkSettings {
     QString rangeWord;  ///< last register of the range, "1T" to "32T"
 
     [[nodiscard]] bool isModem() const { return connectionType == u"MODEM"; }
+    /// How many registers there are.
+    [[nodiscard]] int registers() const { return rangeWord.left(rangeWord.size() - 1).toInt(); }
 };
 
 /// The registers that a download or a collection speaks with, in words: "register 1", "registers 1 to 3".

@@ -8,8 +8,8 @@
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "records/ImportTransaction.h"
-#include "records/RecordWriter.h"
 #include "records/RegisterFiles.h"
+#include "records/RegisterLines.h"
 #include "records/TextImport.h"
 #include "register/Firmware.h"
 #include "store/engine/CommitOnExit.h"
@@ -72,32 +72,22 @@ private:
 };
 
 /// @return the first text that holds a comma.
-std::string writeRecords(const RegisterFile& file, store::Recordset& records, TextOutput& output,
-                         const ProcedureContext& context)
-{
-    records.moveFirst();
-    RecordWriter writer(file.layout(), records, traitsOf(context));
-    records.readOnly(writer.fields());
-    std::string text;
-    for (; !records.atEnd(); records.moveNext()) {
-        writer.appendLine(text);
-        if (text.size() >= writeBlock) {
-            output.write(text);
-            text.clear();
-        }
-    }
-    output.write(text);
-    return writer.textWithComma();
-}
-
-/// @return the first text that holds a comma.
 std::string writeText(const RegisterFile& file, const ProcedureContext& context)
 {
     TextOutput output(joinPath(context.values.appPath, textName(file)));
     store::Database database(context.values.databasePath);
-    store::Recordset records = database.openTable(QLatin1String(file.table));
-    records.setIndex(QLatin1String(file.index));
-    return writeRecords(file, records, output, context);
+    std::string text;
+    std::string comma =
+        forEachLine(file, database, traitsOf(context), [&](std::string_view line, const auto&) {
+            context.lineWritten(line);
+            text += line;
+            if (text.size() >= writeBlock) {
+                output.write(text);
+                text.clear();
+            }
+        });
+    output.write(text);
+    return comma;
 }
 
 bool mayPartColumns(const RegisterFile& file, const std::string& textWithComma, Boxes& boxes)

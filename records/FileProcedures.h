@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <functional>
+#include <string_view>
 
 namespace norvane::records
 {
@@ -34,6 +35,9 @@ struct ProcedureContext {
     };
     /// Where NN.txt is read; empty for the working directory. The converter has to work there too.
     QString folder{};
+    /// Gets each line that a Write... procedure puts into NN.txt, closed by CR LF.
+    std::function<void(std::string_view line)> lineWritten = [](std::string_view) {
+    };
 };
 
 /// Whether the register file with this number has a procedure for the direction.

@@ -1,0 +1,26 @@
+// What a send of a register file would write now.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "exchange/LineDigests.h"
+#include "store/engine/Database.h"
+
+#include <optional>
+
+namespace norvane::exchange
+{
+
+/// The lines that a send would make from the table, or the customer's kept copy of a file without a table.
+/// Reads only. @param generation of the registers' firmware.
+/// @return nothing if there is nothing to send: an empty table, an empty or missing copy.
+/// @throws RuntimeFailure what the database throws and records::forEachLine() except for an empty table.
+[[nodiscard]] std::optional<Digests> sendContent(const ApplicationValues& values, store::Database& database,
+                                                 int file, int generation);
+
+/// The number of lines, quickly; 1 for a file without a table, 0 if there is nothing to send.
+[[nodiscard]] qint64 sendLines(const ApplicationValues& values, store::Database& database, int file);
+
+/// Digest of the customer's kept copy of a file without a table; nothing if it is empty or missing.
+[[nodiscard]] std::optional<Digests> keptContent(const ApplicationValues& values, int file);
+
+} // namespace norvane::exchange
