@@ -1,4 +1,5 @@
 // Work with the registers: the runs of the window, without it.
+#include "command/ExchangeRun.h"
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
@@ -145,24 +146,12 @@ std::set<int> boxesOf(const QStringList& names)
 void exchangeWith(const Workplace& workplace, const Invocation& words, exchange::Direction direction)
 {
     const ApplicationValues values = takeCustomer(workplace, words.operands.front());
-    Ticks ticks(boxesOf(words.operands.mid(1)));
+    const std::set<int> boxes = boxesOf(words.operands.mid(1));
     const auto lock = lockFor(workplace, values);
-    const link::LinkSettings link = link::readLinkSettings(values);
-    RegisterLine line;
-    exchange::ExchangeRunner runner(values, link, ticks, outsideOf(workplace, values));
-    try {
-        if (line.connect(link) == link::modemFailed) {
-            runner.logFailedCall(direction, link::resultInWords(link::modemFailed));
-            throw CommandError(ExitCode::Stopped, u"Communications Error: Modem Failure"_s);
-        }
-    } catch (const RuntimeFailure& stop) {
-        runner.logFailedCall(direction, stop.text());
-        throw;
-    }
-    const bool isUpload = direction == exchange::Direction::Upload;
-    if (!(isUpload ? runner.UploadData() : runner.downloaddata()))
-        throw CommandError(runner.lacksCopy() ? ExitCode::Unwritable : ExitCode::Stopped, {});
-    printStep(runner.resultInWords());
+    const ExchangeEnd end = moveBoxes(workplace, values, boxes, direction);
+    if (end.code != ExitCode::Done)
+        throw CommandError(end.code, end.message);
+    printStep(end.words);
 }
 
 /// The option that answers Yes to the question of the next collection; empty if it would ask nothing.
@@ -174,6 +163,29 @@ QString clearHint(const ApplicationValues& values)
 }
 
 } // namespace
+
+ExchangeEnd moveBoxes(const Workplace& workplace, const ApplicationValues& values, std::set<int> boxes,
+                      exchange::Direction direction)
+{
+    const link::LinkSettings link = link::readLinkSettings(values);
+    Ticks ticks(std::move(boxes));
+    RegisterLine line;
+    exchange::ExchangeRunner runner(values, link, ticks, outsideOf(workplace, values));
+    try {
+        if (line.connect(link) == link::modemFailed) {
+            runner.logFailedCall(direction, link::resultInWords(link::modemFailed));
+            return {ExitCode::Stopped, runner.stopInWords(), u"Communications Error: Modem Failure"_s};
+        }
+    } catch (const RuntimeFailure& stop) {
+        runner.logFailedCall(direction, stop.text());
+        throw;
+    }
+    const bool isUpload = direction == exchange::Direction::Upload;
+    const bool isComplete = isUpload ? runner.UploadData() : runner.downloaddata();
+    if (isComplete)
+        return {ExitCode::Done, runner.resultInWords(), {}};
+    return {runner.lacksCopy() ? ExitCode::Unwritable : ExitCode::Stopped, runner.stopInWords(), {}};
+}
 
 void fetch(const Workplace& workplace, const Invocation& words)
 {

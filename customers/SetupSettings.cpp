@@ -6,6 +6,7 @@
 #include "platform/Numbers.h"
 #include "platform/ProfileFile.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -71,6 +72,11 @@ std::span<const Setting> settings()
 QStringList itemsOf(const Setting& setting)
 {
     return setting.items.toString().split(u'|');
+}
+
+QString modelInWords(const RegisterModel& model)
+{
+    return itemsOf(*std::ranges::find(table, "ECRModel"_L1, &Setting::key))[model.place];
 }
 
 QString storedText(const Setting& setting, const SettingValue& value)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
+#include "register/RegisterModel.h"
 
 #include <QLatin1StringView>
 #include <QList>
@@ -34,6 +35,9 @@ struct Setting {
 
 /// The entries of the list that @p setting is chosen from.
 [[nodiscard]] QStringList itemsOf(const Setting& setting);
+
+/// The model as the dialog lists it: "Velmar +V3".
+[[nodiscard]] QString modelInWords(const RegisterModel& model);
 
 /// The dialog's value of a setting: the list index (-1 for none) or the text.
 struct SettingValue {

@@ -1,6 +1,9 @@
 // The download plan. Order and letters differ from the upload's. The copies decide which file a later step
 // finds.
 #include "exchange/ExchangePlan.h"
+#include "records/RegisterFiles.h"
+
+#include <QLatin1StringView>
 
 namespace norvane::exchange
 {
@@ -84,6 +87,16 @@ constexpr DownloadRow downloadRows[] = {
 std::span<const DownloadRow> downloadPlan()
 {
     return downloadRows;
+}
+
+std::optional<int> boxSending(QStringView table)
+{
+    for (const DownloadRow& row : downloadRows) {
+        const records::RegisterFile* const file = records::registerFile(row.file);
+        if (file != nullptr && table.compare(QLatin1StringView(file->table), Qt::CaseInsensitive) == 0)
+            return row.box;
+    }
+    return std::nullopt;
 }
 
 } // namespace norvane::exchange

@@ -1,6 +1,9 @@
 // The files moved by an upload and a download, in order: one row for each register file of a box.
 #pragma once
 
+#include <QStringView>
+
+#include <optional>
 #include <span>
 
 namespace norvane::exchange
@@ -39,6 +42,10 @@ struct DownloadRow {
 /// All rows in the order of execution.
 [[nodiscard]] std::span<const UploadRow> uploadPlan();
 [[nodiscard]] std::span<const DownloadRow> downloadPlan();
+
+/// The box that sends the records of a table; nothing if the registers have no file of them. That of the PLUs
+/// ticks the one of their points.
+[[nodiscard]] std::optional<int> boxSending(QStringView table);
 
 /// The rows of one box; they are adjacent in a plan.
 template <typename Row>

@@ -74,6 +74,7 @@ bool ExchangeRunner::loggedUpload()
     const QString refusal = customers::refusalOfCopy(m_values, u"before upload"_s);
     if (!refusal.isEmpty()) {
         work.setResult(refusal);
+        m_stopped = refusal;
         m_lacksCopy = true;
         m_lastBox = {refusal, pleaseCheck, BoxIcon::Exclamation};
         return false;
@@ -102,7 +103,8 @@ customers::LoggedWork ExchangeRunner::logLine(Direction direction) const
 void ExchangeRunner::logFailedCall(Direction direction, const QString& reason)
 {
     m_place = u"the call"_s;
-    logLine(direction).setResult(stoppedText(reason));
+    m_stopped = stoppedText(reason);
+    logLine(direction).setResult(m_stopped);
 }
 
 /// After everything else: the box may stay open unattended.
@@ -119,7 +121,8 @@ bool ExchangeRunner::logged(customers::LoggedWork& work, bool (ExchangeRunner::*
     const auto ended = qScopeGuard([this] { m_ledger.end(); });
     const bool isComplete = work.during([&] { return (this->*sequence)(); },
                                         [this](const QString& failure) { return stoppedText(failure); });
-    work.setResult(isComplete ? QString(customers::completeResult) : stoppedText(m_stop));
+    m_stopped = isComplete ? QString() : stoppedText(m_stop);
+    work.setResult(isComplete ? QString(customers::completeResult) : m_stopped);
     const QString moved = movedFiles(m_filesMoved, m_exchange.direction, m_link);
     m_result = isComplete ? u"%1, %2"_s.arg(moved, work.secondsInWords()) : QString();
     return isComplete;

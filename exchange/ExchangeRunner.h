@@ -44,6 +44,8 @@ public:
     void logFailedCall(Direction direction, const QString& reason);
     /// What a complete run has moved: "36 files from register 1, 12 s". Empty for any other.
     [[nodiscard]] const QString& resultInWords() const { return m_result; }
+    /// Where and why another run stopped: "stopped at file 67: result 8: Time Out; still to do: PLU, Group".
+    [[nodiscard]] const QString& stopInWords() const { return m_stopped; }
     /// Whether the upload did not start because no safety copy could be made; a message was shown then.
     [[nodiscard]] bool lacksCopy() const { return m_lacksCopy; }
 
@@ -85,7 +87,8 @@ private:
     LedgerRun m_ledger;
     UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
     int m_filesMoved = 0;
-    QString m_result; ///< of a complete run
+    QString m_result;  ///< of a complete run
+    QString m_stopped; ///< of any other
     bool m_lacksCopy = false;
     bool m_givesUpPoints = false; ///< the user sends PLUs though their points wait
     QString m_place;              ///< in progress: "file 67", "the opening exchange"

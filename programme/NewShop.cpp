@@ -17,8 +17,6 @@
 #include <QDateTime>
 #include <QUuid>
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::programme
@@ -189,13 +187,6 @@ void removeLeftovers(const QString& appPath)
     }
 }
 
-/// The model as the setup dialog lists it.
-QString inWords(const RegisterModel& model)
-{
-    const auto all = customers::settings();
-    return customers::itemsOf(*std::ranges::find(all, modelKey, &customers::Setting::key))[model.place];
-}
-
 } // namespace
 
 QStringList allProgrammeTables()
@@ -258,8 +249,8 @@ QString modelNotice(const NewShop& shop)
     const RegisterModel& other = modelOfOther(shop);
     QStringList sentences{
         u"The model of %1 is %2, that of the new customer %3. Records are taken as they are; "
-        "screens show what the new model has."_s.arg(QDir(shop.likePath).dirName(), inWords(other),
-                                                     inWords(model))};
+        "screens show what the new model has."_s.arg(
+            QDir(shop.likePath).dirName(), customers::modelInWords(other), customers::modelInWords(model))};
     for (const ProgrammePart& part : programmeParts()) {
         const QString table = tablesOf(part).front();
         if (const QString reason = refusalOf(shop, table); !reason.isEmpty() && shop.tables.contains(table))
