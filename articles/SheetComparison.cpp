@@ -228,7 +228,7 @@ private:
         const QString text = reports::unguarded(cell);
         if (isBefore(cell) || isBefore(text))
             return;
-        note(place, faultOf(*m_file.columns()[place], text), before.toStdString());
+        note(place, faultOf(*m_file.columns()[place], text), stored);
     }
 
     void compareDigits(std::size_t place, std::string_view cell, const Value& stored)
@@ -238,14 +238,14 @@ private:
         const bool isSame = isDigits(before) && isDigits(cell) && store::compareDigits(before, cell) == 0;
         if (isSame || cell == before || (cell.empty() && !column.mayBeNone))
             return;
-        note(place, faultOfDigits(column, cell), before);
+        note(place, faultOfDigits(column, cell), stored);
     }
 
     void compareHexadecimal(std::size_t place, std::string_view cell, const Value& stored)
     {
         const std::string before = exportedText(stored).toStdString();
         if (cell != before)
-            note(place, faultOfHexadecimal(*m_file.columns()[place], cell), before);
+            note(place, faultOfHexadecimal(*m_file.columns()[place], cell), stored);
     }
 
     void compareYesNo(std::size_t place, std::string_view cell, const Value& stored)
@@ -253,8 +253,7 @@ private:
         const auto yes = yesNoOf(cell);
         if (cell.empty() || yes == stored.isTrue())
             return;
-        note(place, yes ? QString() : u"\"%1\" is neither Yes nor No"_s.arg(excerptOfUtf8(cell)),
-             stored.isNull() ? std::string() : storedYesNo(stored.isTrue()));
+        note(place, yes ? QString() : u"\"%1\" is neither Yes nor No"_s.arg(excerptOfUtf8(cell)), stored);
     }
 
     void compareNumber(std::size_t place, std::string_view cell, const Value& stored)
@@ -266,11 +265,11 @@ private:
         const auto before = exportedNumber(stored);
         if (number && before && *number == *before && isExported(column, cell, *before))
             return;
-        note(place, faultOfNumber(column, cell, number), before ? before->text() : std::string());
+        note(place, faultOfNumber(column, cell, number), stored);
     }
 
     /// Notes that a cell changes a field, or what is wrong with it.
-    void note(std::size_t place, const QString& fault, const std::string& before)
+    void note(std::size_t place, const QString& fault, const Value& stored)
     {
         if (!fault.isEmpty()) {
             const SheetLine& line = m_file.lines()[m_change.line];
@@ -280,7 +279,8 @@ private:
         }
         ++m_change.columns;
         m_former += static_cast<char>(place + 1);
-        m_former += before.c_str(); // NOLINT(readability-redundant-string-cstr): without zero bytes
+        // Without zero bytes. NOLINTNEXTLINE(readability-redundant-string-cstr)
+        m_former += comparedValue(*m_file.columns()[place], stored).c_str();
         m_former += '\0';
     }
 
@@ -350,6 +350,21 @@ void SheetComparison::forEach(const std::function<void(const SheetChange& change
             change.fields.push_back({&column, takeText(former), valueOf(column, cells[place])});
         }
         take(change);
+    }
+}
+
+std::string comparedValue(const SheetColumn& column, const store::Value& stored)
+{
+    switch (column.content) {
+    case CellContent::YesNo:
+        return stored.isNull() ? std::string() : storedYesNo(stored.isTrue());
+    case CellContent::Key:
+    case CellContent::Number: {
+        const auto number = exportedNumber(stored);
+        return number ? number->text() : std::string();
+    }
+    default:
+        return exportedText(stored).toStdString();
     }
 }
 

@@ -72,6 +72,8 @@ private:
     std::string m_former;
 };
 
+/// A stored value as a comparison has it before a change; empty for what was never set.
+[[nodiscard]] std::string comparedValue(const SheetColumn& column, const store::Value& stored);
 /// A value of the column as the listing shows it: prices with two places and a point, "Yes" and "No".
 [[nodiscard]] QString shownSheetValue(const SheetColumn& column, const std::string& value);
 

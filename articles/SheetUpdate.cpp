@@ -83,18 +83,22 @@ void storeKnown(store::Recordset& records, const TableSheet& sheet, const SheetC
 void applySheetChanges(store::Database& database, const SheetComparison& comparison,
                        const KeepGoing& keepGoing)
 {
+    store::allOrNothing(database, [&] { storeSheetChanges(database, comparison, keepGoing); });
+}
+
+void storeSheetChanges(store::Database& database, const SheetComparison& comparison,
+                       const KeepGoing& keepGoing)
+{
     const TableSheet& sheet = comparison.sheet();
-    store::allOrNothing(database, [&] {
-        auto known = database.openQuery(recordsOf(sheet));
-        Additions additions(database, sheet);
-        comparison.forEach([&](const SheetChange& change) {
-            stopUnless(keepGoing);
-            if (change.isNew) {
-                additions.store(change);
-            } else {
-                storeKnown(known, sheet, change);
-            }
-        });
+    auto known = database.openQuery(recordsOf(sheet));
+    Additions additions(database, sheet);
+    comparison.forEach([&](const SheetChange& change) {
+        stopUnless(keepGoing);
+        if (change.isNew) {
+            additions.store(change);
+        } else {
+            storeKnown(known, sheet, change);
+        }
     });
 }
 

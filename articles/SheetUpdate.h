@@ -14,4 +14,8 @@ namespace norvane::articles
 void applySheetChanges(store::Database& database, const SheetComparison& comparison,
                        const KeepGoing& keepGoing = {});
 
+/// The same in a transaction of the caller's, who undoes it after a failure.
+void storeSheetChanges(store::Database& database, const SheetComparison& comparison,
+                       const KeepGoing& keepGoing = {});
+
 } // namespace norvane::articles
