@@ -1,5 +1,6 @@
 // Work with the registers: the runs of the window, without it.
 #include "command/ExchangeRun.h"
+#include "command/RegisterTools.h"
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
@@ -9,7 +10,6 @@
 #include "link/Modem.h"
 #include "link/ResultCodes.h"
 #include "link/SystemClock.h"
-#include "link/ToolRun.h"
 #include "platform/RuntimeFailure.h"
 #include "sales/CollectionRun.h"
 #include "sales/UnclearedSales.h"
@@ -63,33 +63,6 @@ private:
     link::LinkSettings m_link;
     bool m_isCalling = false;
 };
-
-/// After a signal no further tool starts, and the running one is killed. The child may have received the
-/// signal as well, so a crash is not reported then; a tool that still ended by itself counts.
-ChildResult runTool(const ApplicationValues& values, const QString& line)
-{
-    stopIfSignalled();
-    const ChildResult result = link::RunAndWait(values, line, {[](auto) {
-                                                    return stopSignal() == 0;
-                                                }});
-    if (result != ChildResult::Ended)
-        stopIfSignalled();
-    return result;
-}
-
-link::RunOutside outsideOf(const Workplace& workplace, const ApplicationValues& values)
-{
-    return {.runAndWait = [&values](const QString& line) { return runTool(values, line); },
-            .readStatus = link::ReadStatusOut,
-            .showStep = printStep,
-            .showNotice = printMessage,
-            .goOn =
-                [] {
-                    stopIfSignalled();
-                    return true;
-                },
-            .boxes = workplace.boxes};
-}
 
 class Ticks : public exchange::TickBoxes
 {
@@ -170,7 +143,8 @@ ExchangeEnd moveBoxes(const Workplace& workplace, const ApplicationValues& value
     const link::LinkSettings link = link::readLinkSettings(values);
     Ticks ticks(std::move(boxes));
     RegisterLine line;
-    exchange::ExchangeRunner runner(values, link, ticks, outsideOf(workplace, values));
+    RegisterTools tools(workplace, values);
+    exchange::ExchangeRunner runner(values, link, ticks, tools.outside());
     try {
         if (line.connect(link) == link::modemFailed) {
             runner.logFailedCall(direction, link::resultInWords(link::modemFailed));
@@ -202,9 +176,10 @@ void collect(const Workplace& workplace, const Invocation& words)
     const ApplicationValues values = takeCustomer(workplace, words.operands.front());
     const auto lock = lockFor(workplace, values);
     RegisterLine line;
+    RegisterTools tools(workplace, values);
     sales::CollectionRun run(values, {.connectLink = [&line](const auto& link) { return line.connect(link); },
                                       .disconnectLink = [&line] { line.disconnect(); },
-                                      .run = outsideOf(workplace, values)});
+                                      .run = tools.outside()});
     const auto clearFirst = words.has("clear-first"_L1) ? sales::ClearFirst::Yes : sales::ClearFirst::Ask;
     try {
         if (!run.collect(clearFirst))

@@ -119,16 +119,25 @@ void ExchangeRunner::showLastBox()
 bool ExchangeRunner::logged(customers::LoggedWork& work, bool (ExchangeRunner::*sequence)())
 {
     const auto ended = qScopeGuard([this] { m_ledger.end(); });
-    const bool isComplete = work.during([&] { return (this->*sequence)(); },
-                                        [this](const QString& failure) { return stoppedText(failure); });
-    m_stopped = isComplete ? QString() : stoppedText(m_stop);
+    const bool isComplete = work.during(
+        [&] { return (this->*sequence)(); },
+        [this](const QString& failure) { return stoppedText(link::withLastWords(m_outside, failure)); });
+    m_stopped = isComplete ? QString() : stoppedText(whyStopped());
     work.setResult(isComplete ? QString(customers::completeResult) : m_stopped);
     const QString moved = movedFiles(m_filesMoved, m_exchange.direction, m_link);
     m_result = isComplete ? u"%1, %2"_s.arg(moved, work.secondsInWords()) : QString();
     return isComplete;
 }
 
-/// "stopped at file 67: result 8: Time Out; still to do: PLU, Group".
+/// A run that was not left and ends without a result was answered No.
+QString ExchangeRunner::whyStopped() const
+{
+    if (m_isLeft)
+        return u"left by the user"_s;
+    return link::withLastWords(m_outside, m_failed ? link::resultInWords(*m_failed) : u"answered No"_s);
+}
+
+/// "stopped at file 67: result 8: Time Out (register 2 does not answer); still to do: PLU, Group".
 QString ExchangeRunner::stoppedText(const QString& reason) const
 {
     const QString stopped = u"stopped at %1: %2"_s.arg(m_place, reason);
@@ -196,7 +205,7 @@ bool ExchangeRunner::moveBox(int box, std::span<const Row> rows, bool (ExchangeR
     for (const Row& row : rows) {
         m_place = u"file %1"_s.arg(row.file);
         if (!m_outside.goOn()) {
-            m_stop = u"left by the user"_s;
+            m_isLeft = true;
             return false;
         }
         if (!(this->*moveRow)(row))
@@ -333,9 +342,10 @@ void ExchangeRunner::untickWithoutSmartCards()
 bool ExchangeRunner::succeeded()
 {
     const QString status = m_outside.readStatus();
-    if (link::resultNumber(status) == 0)
+    const int result = link::resultNumber(status);
+    if (result == 0)
         return true;
-    m_stop = link::resultInWords(link::resultNumber(status));
+    m_failed = result;
     m_lastBox = {u"Communications Error "_s + status, u"Communication result"_s};
     return false;
 }

@@ -13,6 +13,7 @@
 #include "link/WatchedStep.h"
 #include "records/FileProcedures.h"
 
+#include <optional>
 #include <span>
 
 namespace norvane::exchange
@@ -55,6 +56,7 @@ private:
     void showLastBox();
     [[nodiscard]] customers::LoggedWork logLine(Direction direction) const;
     [[nodiscard]] bool logged(customers::LoggedWork& work, bool (ExchangeRunner::*sequence)());
+    [[nodiscard]] QString whyStopped() const;
     [[nodiscard]] QString stoppedText(const QString& reason) const;
     bool upload();
     bool download();
@@ -92,8 +94,8 @@ private:
     bool m_lacksCopy = false;
     bool m_givesUpPoints = false; ///< the user sends PLUs though their points wait
     QString m_place;              ///< in progress: "file 67", "the opening exchange"
-    /// Why the run stops. A step that ends it without a result of the tool was answered No.
-    QString m_stop = QStringLiteral("answered No");
+    std::optional<int> m_failed;  ///< the result that stops the run
+    bool m_isLeft = false;
     /// Ends the run; without a text no box is shown.
     struct {
         QString text;

@@ -2,6 +2,7 @@
 #include "link/LinkForm.h"
 
 #include "customers/RunLock.h"
+#include "link/RunReport.h"
 #include "link/SystemClock.h"
 #include "link/ToolRun.h"
 #include "ui/Announcement.h"
@@ -12,6 +13,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScopeGuard>
+
+#include <algorithm>
 
 namespace norvane::link
 {
@@ -29,6 +32,8 @@ LinkForm::LinkForm(const char* name, const char* runCaption, const ApplicationVa
     CSCmdBtn1 = addButton("CSCmdBtn1", "E&xit");
     connect(CSCmdBtn1, &QPushButton::clicked, this, &LinkForm::reject);
     StatusBar1 = new ui::StatusLine(this);
+    m_report = new RunReport(this);
+    connect(m_report, &RunReport::appeared, this, &LinkForm::stayOnScreen);
     m_tool.setExit(CSCmdBtn1,
                    [this](bool leaves) { StatusBar1->setNotice(leaves ? leavingNotice() : QString()); });
 }
@@ -76,6 +81,7 @@ void LinkForm::layOut(QLayout* content, const QList<QPushButton*>& others)
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addLayout(inner);
     whole->addWidget(StatusBar1);
+    whole->addWidget(m_report);
     whole->setSizeConstraint(QLayout::SetFixedSize);
     tabToButtonsLast(others);
 }
@@ -114,6 +120,8 @@ void LinkForm::beginRun()
     m_exitPressed = false;
     StatusBar1->setNotice({});
     StatusBar1->setResult({});
+    m_step.clear();
+    m_report->empty();
     Communicate->setEnabled(false);
 }
 
@@ -131,8 +139,30 @@ bool LinkForm::endRun()
 
 void LinkForm::showStep(const QString& text)
 {
+    m_words.clear();
+    m_step = text.trimmed();
     StatusBar1->setStep(text);
     ui::announce(*StatusBar1, text);
+}
+
+ChildResult LinkForm::runTool(const QString& commandLine, const QString& folder)
+{
+    m_words.clear();
+    const ChildResult result = m_tool.run(m_values, commandLine, folder, &m_words);
+    m_report->addWords(m_step, m_words.text());
+    return result;
+}
+
+/// The form has grown downwards. One that is a child of the main window can be scrolled to.
+void LinkForm::stayOnScreen()
+{
+    if (!isWindow())
+        return;
+    layout()->activate();
+    const QRect room = ui::roomOnScreen(*this);
+    const int below = geometry().bottom() - room.bottom();
+    const int above = geometry().top() - room.top();
+    move(x(), y() - std::clamp(below, 0, std::max(above, 0)));
 }
 
 int LinkForm::connectLink(const LinkSettings& link)
@@ -196,7 +226,7 @@ void LinkForm::leave()
 
 RunOutside LinkForm::outside(const QString& folder)
 {
-    return {.runAndWait = [this, folder](const QString& line) { return m_tool.run(m_values, line, folder); },
+    return {.runAndWait = [this, folder](const QString& line) { return runTool(line, folder); },
             .readStatus = [folder] { return readStatusOutIn(folder); },
             .showStep = [this](const QString& text) { showStep(text); },
             .showNotice = [this](const QString& text) { StatusBar1->setNotice(text); },
@@ -204,9 +234,10 @@ RunOutside LinkForm::outside(const QString& folder)
             .boxes = m_timedBoxes,
             .beforeLastBox = [this] { endBeforeLastBox(); },
             .beginAgain = [this] { return takeLock(); },
-            .millisecondsOpen =
+            .millisecondsOpen = [this] { return m_timedBoxes.millisecondsOpen(); },
+            .lastWords =
                 [this] {
-                    return m_timedBoxes.millisecondsOpen();
+                    return m_words.lastLine();
                 }};
 }
 

@@ -9,6 +9,7 @@
 #include "link/RunOutside.h"
 #include "link/TimedBoxes.h"
 #include "link/ToolWait.h"
+#include "link/ToolWords.h"
 #include "platform/SerialLine.h"
 #include "ui/WaitPointer.h"
 
@@ -32,6 +33,8 @@ class StatusLine;
 
 namespace norvane::link
 {
+
+class RunReport;
 
 /// Base of the forms that speak with the registers. A run handles events while the modem waits and once
 /// before each tool, so that the user can leave. While a tool runs the window is painted, but keys and clicks
@@ -59,8 +62,8 @@ protected:
 
     /// Makes a button; layOut() places it.
     [[nodiscard]] QPushButton* addButton(const char* name, const char* caption);
-    /// Puts @p content above a row of buttons, @p others before Communicate and Exit, and the status bar
-    /// below. The form gets a fixed size.
+    /// Puts @p content above a row of buttons, @p others before Communicate and Exit, and below the
+    /// status bar and, while there is one, the report of the run. The form has the size that these need.
     void layOut(QLayout* content, const QList<QPushButton*>& others = {});
 
     /// Asked at a press of Communicate, before everything else.
@@ -99,6 +102,8 @@ private:
     void communicate();
     [[nodiscard]] bool takeLock();
     void showStep(const QString& text);
+    [[nodiscard]] ChildResult runTool(const QString& commandLine, const QString& folder);
+    void stayOnScreen();
     void beginRun();
     [[nodiscard]] bool endRun();
     [[nodiscard]] int dial();
@@ -106,6 +111,9 @@ private:
 
     TimedBoxes m_timedBoxes; ///< of a run
     ToolWait m_tool;
+    ToolWords m_words; ///< of the last tool
+    QString m_step;    ///< as the status bar shows it
+    RunReport* m_report = nullptr;
     std::unique_ptr<SerialLine> m_line;
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<Modem> m_modem;

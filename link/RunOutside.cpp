@@ -18,6 +18,12 @@ ChildResult runTool(const RunOutside& outside, const QString& commandLine)
     return result;
 }
 
+QString withLastWords(const RunOutside& outside, const QString& reason)
+{
+    const QString words = outside.lastWords();
+    return words.isEmpty() ? reason : u"%1 (%2)"_s.arg(reason, words);
+}
+
 void tellEndedByAnswer(const RunOutside& outside)
 {
     outside.showNotice(u"Ended at your answer No."_s);

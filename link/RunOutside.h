@@ -37,11 +37,18 @@ struct RunOutside {
     std::function<qint64()> millisecondsOpen = [] {
         return qint64{0};
     };
+    /// The last line that the last tool of the step said, shortened; empty if it said nothing.
+    std::function<QString()> lastWords = [] {
+        return QString();
+    };
 };
 
 /// Runs a tool and shows a message if it could not be started or crashed. The run continues even then:
 /// status.out keeps the previous result.
 ChildResult runTool(const RunOutside& outside, const QString& commandLine);
+
+/// Why a step failed, with the tool's own last line: "result 8: Time Out (register 2 does not answer)".
+[[nodiscard]] QString withLastWords(const RunOutside& outside, const QString& reason);
 
 /// Reports that the user's No to a question has ended the run.
 void tellEndedByAnswer(const RunOutside& outside);

@@ -146,7 +146,8 @@ void ToolWait::setExit(QWidget* exit, std::function<void(bool leaves)> show)
     m_showLeaving = std::move(show);
 }
 
-ChildResult ToolWait::run(const ApplicationValues& values, const QString& commandLine, const QString& folder)
+ChildResult ToolWait::run(const ApplicationValues& values, const QString& commandLine, const QString& folder,
+                          ToolWords* words)
 {
     const QString tool = commandWords(commandLine).value(0).section(u'/', -1);
     m_shown = std::chrono::seconds(0);
@@ -157,10 +158,14 @@ ChildResult ToolWait::run(const ApplicationValues& values, const QString& comman
             qApp->removeEventFilter(this);
             m_showRunning({});
         });
-        result = RunAndWait(values, commandLine, {[&](auto running) {
-                                return goOn(tool, running);
-                            }},
-                            folder);
+        ChildWatch watch{.goOn = [&](auto running) {
+            return goOn(tool, running);
+        }};
+        if (words != nullptr)
+            watch.output = [words](const QByteArray& bytes) {
+                words->add(bytes);
+            };
+        result = RunAndWait(values, commandLine, watch, folder);
     }
     handOver();
     return result;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
+#include "link/ToolWords.h"
 #include "platform/Boxes.h"
 #include "platform/ChildProcess.h"
 
@@ -65,9 +66,10 @@ public:
     void setExit(QWidget* exit, std::function<void(bool leaves)> show);
 
     /// Lets pending events run once, then runs the tool in @p folder, or else in the working directory.
+    /// @param words gets what the tool says; nullptr leaves it to the terminal, if there is one
     /// @return Crashed, too, when the user ended it.
     [[nodiscard]] ChildResult run(const ApplicationValues& values, const QString& commandLine,
-                                  const QString& folder = {});
+                                  const QString& folder = {}, ToolWords* words = nullptr);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -51,9 +51,18 @@ void waitForEnd(QProcess& child, const ChildWatch& watch)
     running.start();
     // The watch may let events run, so that the child's end is noticed there.
     while (child.state() != QProcess::NotRunning && !child.waitForFinished(millisecondsBetweenLooks)) {
-        if (!watch.goOn(std::chrono::milliseconds(running.elapsed())))
+        if (watch.goOn && !watch.goOn(std::chrono::milliseconds(running.elapsed())))
             child.kill();
     }
+}
+
+/// Each piece is taken as it comes, also while the watch has a box open: a full pipe would block the child,
+/// and a talkative one would fill the memory.
+void passOutput(QProcess& child, const ChildWatch& watch)
+{
+    child.setProcessChannelMode(watch.output ? QProcess::MergedChannels : QProcess::ForwardedChannels);
+    if (watch.output)
+        QObject::connect(&child, &QProcess::readyRead, [&] { watch.output(child.readAll()); });
 }
 
 /// Ends the child when this program dies. Otherwise it would keep talking to the registers while the lock of
@@ -101,18 +110,14 @@ ChildResult runAndWait(const QString& commandLine, const QString& programFolder,
         return ChildResult::NotFound;
 
     QProcess child;
-    child.setProcessChannelMode(QProcess::ForwardedChannels);
-    child.setInputChannelMode(QProcess::ForwardedInputChannel);
+    passOutput(child, watch);
+    child.setStandardInputFile(QProcess::nullDevice());
     child.setWorkingDirectory(workingFolder);
     bindToParent(child);
     child.start(program, words);
     if (!child.waitForStarted(-1))
         return ChildResult::NotStarted;
-    if (watch.goOn) {
-        waitForEnd(child, watch);
-    } else {
-        child.waitForFinished(-1);
-    }
+    waitForEnd(child, watch);
     return child.exitStatus() == QProcess::NormalExit ? ChildResult::Ended : ChildResult::Crashed;
 }
 

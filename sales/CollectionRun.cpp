@@ -158,7 +158,7 @@ void CollectionRun::logCall(const std::function<void()>& makeCall)
                                m_outside.run.millisecondsOpen);
     work.during(makeCall, [this](const QString& failure) {
         // What was read before the failure may have been kept.
-        return stoppedText(failure, u"the registers were not cleared"_s);
+        return stoppedText(link::withLastWords(m_outside.run, failure), u"the registers were not cleared"_s);
     });
     work.setResult(m_isCleared ? QString(customers::completeResult)
                                : stoppedText(whyStopped(), u"nothing stored"_s));
@@ -170,13 +170,15 @@ void CollectionRun::logCall(const std::function<void()>& makeCall)
 
 QString CollectionRun::whyStopped() const
 {
-    if (m_failed)
-        return link::resultInWords(m_dialResult == link::modemFailed ? m_dialResult : *m_failed);
-    return hasLeft() ? u"left by the user"_s : u"answered No"_s;
+    if (m_dialResult == link::modemFailed)
+        return link::resultInWords(m_dialResult);
+    if (!m_failed && hasLeft())
+        return u"left by the user"_s;
+    return link::withLastWords(m_outside.run, m_failed ? link::resultInWords(*m_failed) : u"answered No"_s);
 }
 
-/// "stopped at Consolidate Reports: result 8: Time Out; nothing stored". @p beforeStoring ends the text of a
-/// run that has not stored the reports.
+/// "stopped at Consolidate Reports: result 8: Time Out (register 2 does not answer); nothing stored". @p
+/// beforeStoring ends the text of a run that has not stored the reports.
 QString CollectionRun::stoppedText(const QString& reason, const QString& beforeStoring) const
 {
     const QString stored = u"the sales are stored; still to do: clear the registers"_s;

@@ -15,6 +15,11 @@ namespace norvane::exchange
 namespace
 {
 
+using test::child;
+
+/// In the log: what the tool said.
+const QString said = u" (VELMARCOMM: fault file: result 8 at register 1)"_s;
+
 class FrmCommTest : public test::LinkFormTest<FrmComm>
 {
 protected:
@@ -81,6 +86,35 @@ TEST_F(FrmCommTest, NamesAToolThatIsMissingAndAsksBeforeTheFormerResultCounts)
     EXPECT_FALSE(box(11).isChecked());
 }
 
+/// Of a tool that says too much, in bytes that no window can show, asks something, and leaves a process
+/// behind that holds on to its output.
+TEST_F(FrmCommTest, ShowsWhatTheToolsOfARunSaid)
+{
+    const auto& report = child<QPlainTextEdit>(form, "RunReport");
+    box(2).click();
+    upload();
+    EXPECT_TRUE(report.isHidden()) << "nothing was said";
+    folder.precede("VELMARCOMM", "read answer; sleep 30 & head -c 3000000 /dev/zero | tr '\\0' x\n"
+                                 "printf '\\n\\033[31mGel\\366scht\\033[0m\\007\\n' >&2");
+    folder.setFaults("[Off]\nFile=1\nResult=8\n");
+    box(2).click();
+    upload();
+    EXPECT_TRUE(report.isVisible());
+    EXPECT_GE(report.y(), child<QStatusBar>(form, "StatusBar1").geometry().bottom());
+    const QString text = report.toPlainText();
+    EXPECT_TRUE(text.contains(u"\nUpload Group, file 1:\n...\nxxx"_s));
+    EXPECT_TRUE(text.endsWith(u"xxx\nGelöscht\\x07\nVELMARCOMM: fault file: result 8 at register 1"_s))
+        << text.right(300).toStdString();
+    EXPECT_EQ(logged().result, u"stopped at file 1: result 8: Time Out%1; still to do: Group"_s.arg(said));
+    EXPECT_EQ(boxes.shown.back().text, u"Communications Error 8");
+
+    QFile::remove(folder.appFile(u"VELMARCOMM"_s));
+    EXPECT_TRUE(QFile::rename(folder.appFile(u"VELMARCOMM.real"_s), folder.appFile(u"VELMARCOMM"_s)));
+    folder.setFaults("");
+    upload();
+    EXPECT_TRUE(report.isHidden());
+}
+
 /// As after a change of customer: the tables of the former shop are still open.
 TEST_F(FrmCommTest, AsksBeforeItFillsTheTablesOfAnotherCustomer)
 {
@@ -141,7 +175,7 @@ TEST_F(FrmCommTest, LetsOtherRunsStartWhileItsLastBoxIsOpen)
         results << logged().result;
     };
     upload();
-    EXPECT_EQ(results.takeLast(), u"stopped at the opening exchange: result 8: Time Out");
+    EXPECT_EQ(results.takeLast(), u"stopped at the opening exchange: result 8: Time Out"_s + said);
     useModem();
     for (const auto& [connects, beginning, result] :
          {std::tuple(true, "Communications Error 8", "stopped at the opening exchange: result 8: Time Out"),

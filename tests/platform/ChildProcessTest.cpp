@@ -12,6 +12,8 @@
 #include <thread>
 #include <unistd.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane
 {
 namespace
@@ -64,6 +66,37 @@ TEST(ChildProcess, AWatchSeesTheChildRunAndCanEndIt)
                              return true;
                          }}),
               ChildResult::Ended);
+}
+
+/// A child that is still running after this counts as hanging.
+constexpr auto patience = std::chrono::seconds(10);
+
+/// What @p script writes, run by a shell.
+QByteArray outputOf(const QByteArray& script)
+{
+    QByteArray output;
+    const TestFolder folder;
+    const auto result = runAndWait(u"sh -c \"%1\""_s.arg(QString::fromUtf8(script)), folder.path(),
+                                   {[](auto running) { return running < patience; },
+                                    [&output](const QByteArray& bytes) {
+                                        output += bytes;
+                                    }});
+    EXPECT_EQ(result, ChildResult::Ended) << script.toStdString();
+    return output;
+}
+
+TEST(ChildProcess, WhatItWritesIsTakenWithoutMakingItWait)
+{
+    int pipeOfInput[2];
+    ASSERT_EQ(pipe(pipeOfInput), 0);
+    const int before = dup(STDIN_FILENO);
+    dup2(pipeOfInput[0], STDIN_FILENO);
+    const auto restore = qScopeGuard([before] { dup2(before, STDIN_FILENO); });
+    EXPECT_EQ(outputOf("cat; echo end"), "end\n") << "nobody answers a question of a tool";
+    EXPECT_EQ(outputOf("echo one; echo two >&2; exec >&- 2>&-; sleep 0.2"), "one\ntwo\n");
+    EXPECT_EQ(outputOf("head -c 5000000 /dev/zero").size(), 5000000) << "more than any pipe holds";
+    EXPECT_EQ(outputOf("sleep 30 & echo started"), "started\n") << "the pipe is still open";
+    EXPECT_LT(outputOf("yes & echo started").size(), 5000000);
 }
 
 /// Killed as from outside, with its tool hanging. @return the number of the tool's process.

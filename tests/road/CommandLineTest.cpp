@@ -145,9 +145,12 @@ TEST_P(CommandLineOfOneShop, ShowsByItsExitCodeWhatWasRefused)
 TEST_P(CommandLineOfOneShop, ShowsByItsExitCodeWhatStoppedARun)
 {
     m_shop.folder().setFaults("[Off]\nCommand=open\nResult=8\n");
+    m_shop.folder().precede("VELMARCOMM", "printf '\\033[1mopening \\377\\n'");
     const Ended stopped = run({u"fetch"_s, shopName, u"1"_s});
     EXPECT_EQ(stopped.code, 6);
     EXPECT_TRUE(stopped.err.contains(u"Communications Error"_s)) << stopped.err.toStdString();
+    EXPECT_EQ(stopped.err.count(u"opening ÿ\nVELMARCOMM: fault file: result 8"_s), 1) << "said once";
+    EXPECT_EQ(stopped.out, QString()) << "left to the command";
     EXPECT_TRUE(run({u"customers"_s, u"--json"_s}).out.contains(u"\"lastExchange\": null"_s));
     m_shop.folder().setFaults({});
     auto lock = FolderLock::take(m_shop.values().customerPath, m_shop.boxes());

@@ -125,7 +125,8 @@ TEST(Night, OfTwoShopsWithARegisterOffCanBeRepeated)
     EXPECT_DOUBLE_EQ(north.takings(), rung);
     EXPECT_EQ(north.logged(), u"registers 1 to 3, complete"_s);
     EXPECT_EQ(south.logged(),
-              u"registers 1 to 3, stopped at Consolidate Reports: result 8: Time Out; nothing stored"_s);
+              u"registers 1 to 3, stopped at Consolidate Reports: result 8: Time Out (VELMARCOMM: fault "
+              u"file: result 8 at register 2); nothing stored"_s);
     EXPECT_EQ(south.report(), QStringList());
 
     const std::string sales = north.sales();

@@ -121,7 +121,9 @@ TEST_P(SalesDay, IsStoredOnceAndTheNextDayBesideIt)
     EXPECT_EQ(collect(), u"Consolidate Reports"_s);
     EXPECT_EQ(m_shop.boxes().shown,
               (std::vector{test::ShownBox{u"8. Time Out"_s, u"Communications Error"_s}}));
-    EXPECT_EQ(logged(), u"stopped at Consolidate Reports: result 8: Time Out; nothing stored"_s);
+    EXPECT_EQ(logged(),
+              u"stopped at Consolidate Reports: result 8: Time Out (VELMARCOMM: fault file: result 8 at "
+              u"register 2); nothing stored"_s);
     m_shop.folder().setFaults({});
     EXPECT_TRUE(collect().startsWith(done));
     expectTablesHoldWhatWasRung();

@@ -70,8 +70,9 @@ TEST_F(FrmsalesCommTest, EndsAtAResultThatIsNotAccepted)
         EXPECT_TRUE(form.isVisible());
         EXPECT_EQ(logged().endsWith(u"nothing stored"_s), !end.imported);
     }
-    EXPECT_EQ(logged(), u"stopped at Clear Data at ECR: result 15: Report Clear Error; the sales are stored; "
-                        u"still to do: clear the registers");
+    EXPECT_EQ(logged(),
+              u"stopped at Clear Data at ECR: result 15: Report Clear Error (VELMARCOMM: fault file: "
+              u"result 15 at register 1); the sales are stored; still to do: clear the registers");
 }
 
 TEST_F(FrmsalesCommTest, AsksBeforeItStoresSalesWithThoseOfAnotherCustomer)

@@ -40,6 +40,14 @@ public:
         QFile::remove(m_folder.path("registers/faults.log"));
         m_folder.write("registers/faults.ini", sections);
     }
+    /// Has a tool run the shell's @p script each time before it does its work.
+    void precede(const char* tool, const QByteArray& script) const
+    {
+        const QString path = appFile(QLatin1String(tool));
+        EXPECT_TRUE(QFile::rename(path, path + u".real"_s));
+        writeWholeFile(path, "#!/bin/sh\n" + script + "\nexec \"$0.real\" \"$@\"\n");
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner);
+    }
     /// Takes "VELMARCOMM" or "convert" away.
     void removeTool(const char* name) const
     {

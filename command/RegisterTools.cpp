@@ -1,0 +1,52 @@
+// See RegisterTools.h.
+#include "command/RegisterTools.h"
+
+#include "command/StopSignals.h"
+#include "command/TerminalBoxes.h"
+#include "link/ToolRun.h"
+
+namespace norvane::command
+{
+
+/// After a signal no further tool starts, and the running one is killed. The child may have received the
+/// signal as well, so a crash is not reported then; a tool that still ended by itself counts.
+ChildResult RegisterTools::run(const QString& line)
+{
+    stopIfSignalled();
+    m_words.clear();
+    const ChildResult result = link::RunAndWait(m_values, line,
+                                                {.goOn = [](auto) { return stopSignal() == 0; },
+                                                 .output =
+                                                     [this](const QByteArray& bytes) {
+                                                         m_words.add(bytes);
+                                                     }});
+    if (const QString words = m_words.text(); !words.isEmpty())
+        printMessage(words);
+    if (result != ChildResult::Ended)
+        stopIfSignalled();
+    return result;
+}
+
+link::RunOutside RegisterTools::outside()
+{
+    return {.runAndWait = [this](const QString& line) { return run(line); },
+            .readStatus = link::ReadStatusOut,
+            .showStep =
+                [this](const QString& text) {
+                    m_words.clear();
+                    printStep(text);
+                },
+            .showNotice = printMessage,
+            .goOn =
+                [] {
+                    stopIfSignalled();
+                    return true;
+                },
+            .boxes = m_workplace.boxes,
+            .lastWords =
+                [this] {
+                    return m_words.lastLine();
+                }};
+}
+
+} // namespace norvane::command

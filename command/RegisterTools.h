@@ -1,0 +1,36 @@
+// The tools of an exchange or a collection without a window.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "command/Workplace.h"
+#include "link/RunOutside.h"
+#include "link/ToolWords.h"
+
+namespace norvane::command
+{
+
+/// Runs the tools one after another. What they say goes to standard error, each tool's when it has ended, so
+/// that standard output is left to what the command itself writes.
+class RegisterTools
+{
+public:
+    /// Both must outlive it.
+    RegisterTools(const Workplace& workplace, const ApplicationValues& values)
+        : m_workplace(workplace), m_values(values)
+    {
+    }
+    RegisterTools(const RegisterTools&) = delete;
+    RegisterTools& operator=(const RegisterTools&) = delete;
+
+    /// The outside of a run that uses these tools; they must outlive it.
+    [[nodiscard]] link::RunOutside outside();
+
+private:
+    [[nodiscard]] ChildResult run(const QString& line);
+
+    const Workplace& m_workplace;
+    const ApplicationValues& m_values;
+    link::ToolWords m_words; ///< of the last tool of the step
+};
+
+} // namespace norvane::command

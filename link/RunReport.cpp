@@ -1,0 +1,66 @@
+// See RunReport.h.
+#include "link/RunReport.h"
+
+#include "ui/FormKit.h"
+
+#include <QScrollBar>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::link
+{
+namespace
+{
+
+/// Lines that show at once: what a failed step says, and what its result means.
+constexpr int linesShown = 7;
+/// Beyond these the first ones go: a tool may say much at each of a hundred steps.
+constexpr int mostLines = 2000;
+
+} // namespace
+
+RunReport::RunReport(QWidget* parent) : QPlainTextEdit(parent)
+{
+    ui::nameControl(*this, u"RunReport"_s, u"What the tools said"_s);
+    setReadOnly(true);
+    setTabChangesFocus(true);
+    setMaximumBlockCount(mostLines);
+    setFrameShape(NoFrame);
+    hide();
+}
+
+void RunReport::empty()
+{
+    clear();
+    m_lastStep.clear();
+    hide();
+}
+
+void RunReport::addWords(const QString& step, const QString& words)
+{
+    if (words.isEmpty())
+        return;
+    if (!step.isEmpty() && step != m_lastStep)
+        add(step + u':');
+    m_lastStep = step;
+    add(words);
+}
+
+void RunReport::add(const QString& text)
+{
+    appendPlainText(text);
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    if (isHidden()) {
+        show();
+        Q_EMIT appeared();
+    }
+}
+
+/// As wide as the form makes it.
+QSize RunReport::sizeHint() const
+{
+    const int margins = qRound(2 * document()->documentMargin()) + 2 * frameWidth();
+    return {0, linesShown * fontMetrics().lineSpacing() + margins};
+}
+
+} // namespace norvane::link

@@ -1,0 +1,34 @@
+// The part of a form below its status bar that says more about a run.
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace norvane::link
+{
+
+/// What the tools of a run said, step by step. It can be read and copied, and is hidden while it is empty.
+class RunReport : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit RunReport(QWidget* parent);
+
+    void empty();
+    /// Adds @p words under the name of their step; nothing if there are none.
+    void addWords(const QString& step, const QString& words);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+Q_SIGNALS:
+    /// The first text came, and the form grows.
+    void appeared();
+
+private:
+    void add(const QString& text);
+
+    QString m_lastStep; ///< that has words here
+};
+
+} // namespace norvane::link
