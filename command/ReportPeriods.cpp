@@ -2,6 +2,7 @@
 #include "command/ReportPeriods.h"
 
 #include "command/ExitCode.h"
+#include "sales/ReportEntries.h"
 
 #include <algorithm>
 #include <array>
@@ -13,21 +14,29 @@ namespace norvane::command
 namespace
 {
 
-/// The word of a period on the command line, and how the formulas of the menu say it.
+/// The word of a period on the command line, and how formulas name it.
 struct PeriodWord {
     QLatin1StringView word;
-    QLatin1StringView inFormula; ///< empty for one day, which the user chooses
+    QLatin1StringView inFormula; ///< empty for one day
+    bool isOfMenu = false;
 };
 constexpr auto periods = std::to_array<PeriodWord>({
-    {dayPeriod, {}},
-    {"week"_L1, "WeekToDateFromSun"_L1},
-    {"month"_L1, "monthtodate"_L1},
-    {"year"_L1, "YearToDate"_L1},
+    {"day"_L1, {}, true},
+    {"week"_L1, "WeekToDateFromSun"_L1, true},
+    {"month"_L1, "monthtodate"_L1, true},
+    {"year"_L1, "YearToDate"_L1, true},
+    {"yesterday"_L1, "yesterday"_L1},
+    {"lastweek"_L1, "lastweekfromsun"_L1},
+    {"lastweek-monday"_L1, "lastweekfrommon"_L1},
+    {"lastmonth"_L1, "lastmonth"_L1},
+    {"lastquarter"_L1, "lastquarter"_L1},
+    {"lastyear"_L1, "lastyear"_L1},
 });
 
+/// Any period that the menu does not have is made from the entry for a single day.
 bool isOfPeriod(const sales::ReportEntry& entry, const PeriodWord& period)
 {
-    if (period.inFormula.isEmpty())
+    if (period.inFormula.isEmpty() || !period.isOfMenu)
         return entry.formula.isEmpty() && entry.mode && !entry.mode->isEmpty();
     return entry.formula.endsWith(period.inFormula);
 }
@@ -42,6 +51,13 @@ const sales::ReportEntry* findEntry(const QString& name, const PeriodWord& perio
     return entry == entries.end() ? nullptr : &*entry;
 }
 
+[[noreturn]] void failWithout(const QString& name, const QString& what)
+{
+    const QStringList words = periodsOf(name);
+    const QString known = words.isEmpty() ? QString() : u" It has: %1."_s.arg(words.join(u", "_s));
+    throw CommandError(ExitCode::Usage, u"The report %1 has no %2."_s.arg(name, what) + known);
+}
+
 } // namespace
 
 QStringList periodsOf(const QString& name)
@@ -54,15 +70,25 @@ QStringList periodsOf(const QString& name)
     return words;
 }
 
-const sales::ReportEntry& entryOfPeriod(const QString& name, const QString& period)
+ReportSelection selectionOfPeriod(const QString& name, const QString& period, QDate today)
 {
     const auto* const word = std::ranges::find(periods, period, &PeriodWord::word);
     const auto* const entry = word == periods.end() ? nullptr : findEntry(name, *word);
-    if (entry != nullptr)
-        return *entry;
-    const QStringList words = periodsOf(name);
-    const QString known = words.isEmpty() ? QString() : u" It has: %1."_s.arg(words.join(u", "_s));
-    throw CommandError(ExitCode::Usage, u"The report %1 has no period \"%2\"."_s.arg(name, period) + known);
+    if (entry == nullptr)
+        failWithout(name, u"period \"%1\""_s.arg(period));
+    if (!word->isOfMenu)
+        return {sales::titleWithoutPeriod(*entry), sales::dayFieldOf(*entry) + u" in "_s + word->inFormula};
+    if (entry->formula.isEmpty())
+        return {entry->title, *sales::formulaOfDay(*entry->mode, today)};
+    return {entry->title, entry->formula};
+}
+
+ReportSelection selectionOfDays(const QString& name, const reports::Period& days)
+{
+    const auto* const entry = findEntry(name, periods.front());
+    if (entry == nullptr)
+        failWithout(name, u"periods"_s);
+    return {sales::titleWithoutPeriod(*entry), reports::formulaOf(sales::dayFieldOf(*entry), days)};
 }
 
 } // namespace norvane::command

@@ -1,24 +1,30 @@
 // Words of the command line for the periods of the reports in the menu.
 #pragma once
 
-#include "sales/ReportEntries.h"
+#include "reports/formula/Period.h"
 
-#include <QLatin1StringView>
 #include <QString>
 #include <QStringList>
 
 namespace norvane::command
 {
 
-/// The period that is one day.
-inline constexpr QLatin1StringView dayPeriod("day");
+/// Heading and selection of a report over a period.
+struct ReportSelection {
+    QString title;
+    QString formula;
+};
 
-/// The periods of the report @p name ("plusales") in the menu: "day", "week", "month", "year".
+/// The periods of the report @p name ("plusales"): "day", "week", "month" and "year" to date as in the menu,
+/// and the complete ones before today, such as "lastmonth".
 /// @return an empty list for a layout that the menu does not use.
 [[nodiscard]] QStringList periodsOf(const QString& name);
 
-/// The menu entry for a report and a period.
+/// The selection of a report and a period by its word, seen from @p today.
 /// @throws CommandError Usage for a report without that period; the text lists its periods.
-[[nodiscard]] const sales::ReportEntry& entryOfPeriod(const QString& name, const QString& period);
+[[nodiscard]] ReportSelection selectionOfPeriod(const QString& name, const QString& period, QDate today);
+
+/// The same for days from one to another.
+[[nodiscard]] ReportSelection selectionOfDays(const QString& name, const reports::Period& days);
 
 } // namespace norvane::command

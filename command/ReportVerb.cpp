@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -27,19 +28,34 @@ QDate dayOf(const QString& text)
     return day;
 }
 
-/// Formula and heading as the menu's entry for that period sets them.
-void selectPeriod(reports::ReportRequest& request, const QString& name, const Invocation& words)
+/// @throws CommandError Usage for a first day after the last one.
+reports::Period daysOf(const Invocation& words)
 {
-    const bool ofOneDay = words.has("day"_L1);
-    if (!ofOneDay && !words.has("period"_L1))
-        return;
-    const auto& entry = entryOfPeriod(name, ofOneDay ? QString(dayPeriod) : words.value("period"_L1));
-    request.reportTitle = entry.title;
-    request.selectionFormula = entry.formula;
-    if (entry.formula.isEmpty()) {
-        const QDate day = ofOneDay ? dayOf(words.value("day"_L1)) : request.now.date();
-        request.selectionFormula = *sales::formulaOfDay(*entry.mode, day);
-    }
+    const reports::Period days{dayOf(words.value("from"_L1)), dayOf(words.value("to"_L1)), {}};
+    if (days.from > days.to)
+        throw CommandError(ExitCode::Usage, u"The first day is after the last one."_s);
+    return days;
+}
+
+std::optional<ReportSelection> selectionOf(const QString& name, const Invocation& words, QDate today)
+{
+    if (words.has("day"_L1))
+        return selectionOfPeriod(name, u"day"_s, dayOf(words.value("day"_L1)));
+    if (words.has("period"_L1))
+        return selectionOfPeriod(name, words.value("period"_L1), today);
+    if (words.has("from"_L1))
+        return selectionOfDays(name, daysOf(words));
+    return std::nullopt;
+}
+
+reports::ComparedWith comparedWith(const Invocation& words)
+{
+    if (!words.has("compare"_L1))
+        return reports::ComparedWith::Nothing;
+    const QString with = words.value("compare"_L1);
+    if (with != "before"_L1 && with != "year"_L1)
+        throw CommandError(ExitCode::Usage, u"\"%1\" is neither before nor year."_s.arg(with));
+    return with == "year"_L1 ? reports::ComparedWith::YearEarlier : reports::ComparedWith::PeriodBefore;
 }
 
 struct FileFormat {
@@ -65,8 +81,14 @@ void checkWords(const Invocation& words)
 {
     if (std::ranges::none_of(formats, [&](const auto& format) { return words.has(format.option); }))
         throw CommandError(ExitCode::Usage, u"Name a file with --pdf, --csv or --xlsx."_s);
-    if (words.has("day"_L1) && words.has("period"_L1))
-        throw CommandError(ExitCode::Usage, u"Either --day or --period."_s);
+    const bool hasDays = words.has("from"_L1);
+    if (hasDays != words.has("to"_L1))
+        throw CommandError(ExitCode::Usage, u"Name both --from and --to."_s);
+    const int chosen = int{words.has("day"_L1)} + int{words.has("period"_L1)} + int{hasDays};
+    if (chosen > 1)
+        throw CommandError(ExitCode::Usage, u"Either --day or --period or --from and --to."_s);
+    if (chosen == 0 && words.has("compare"_L1))
+        throw CommandError(ExitCode::Usage, u"--compare needs a period."_s);
 }
 
 } // namespace
@@ -86,7 +108,11 @@ void report(const Workplace& workplace, const Invocation& words)
     request.dataFile = values.databasePath;
     request.customer = customerOf(values, values.databasePath);
     request.now = QDateTime::currentDateTime();
-    selectPeriod(request, name, words);
+    request.comparedWith = comparedWith(words);
+    if (const auto selection = selectionOf(name, words, request.now.date())) {
+        request.reportTitle = selection->title;
+        request.selectionFormula = selection->formula;
+    }
     const reports::ReportData data = reports::runReport(request);
     for (const auto& format : formats) {
         if (words.has(format.option)) {

@@ -43,8 +43,13 @@ constexpr auto collectOptions = std::to_array<OptionDefinition>({
     {"clear-first"_L1, {}, "first clear sales that are stored and were not cleared at all registers"_L1},
 });
 constexpr auto reportOptions = std::to_array<OptionDefinition>({
-    {"period"_L1, "PERIOD"_L1, "day, week, month or year: the period that ends today"_L1},
+    {"period"_L1, "PERIOD"_L1,
+     "day, week, month or year: the period that ends today; yesterday, lastweek (from Sunday), lastweek-monday, lastmonth, lastquarter or lastyear"_L1},
     {"day"_L1, "DAY"_L1, "the sales of one day: 2026-11-25"_L1},
+    {"from"_L1, "DAY"_L1, "the sales of all days from this one"_L1},
+    {"to"_L1, "DAY"_L1, "to this one"_L1},
+    {"compare"_L1, "before|year"_L1,
+     "beside the period before, or the same days a year earlier, with difference and per cent"_L1},
     {"pdf"_L1, "FILE"_L1, "write the pages; \"-\" for standard output, here and below"_L1},
     {"csv"_L1, "FILE"_L1, "write the lines as CSV"_L1},
     {"xlsx"_L1, "FILE"_L1, "write the lines as a spreadsheet"_L1},

@@ -3,12 +3,17 @@
 
 #include "base/CustomerSettings.h"
 #include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
+#include "reports/lines/SalesDays.h"
+#include "sales/PeriodChooser.h"
+#include "store/engine/Database.h"
 #include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
 #include <QCalendarWidget>
 #include <QGroupBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTextCharFormat>
@@ -32,15 +37,27 @@ QRadioButton* makeTarget(const QString& name, const QString& caption, QLayout& p
     return target;
 }
 
+reports::ReportRequest requestOf(const ReportEntry& entry, const ApplicationValues& values)
+{
+    reports::ReportRequest request;
+    request.reportFile = joinPath(values.appPath, entry.file);
+    request.dataFile = values.databasePath;
+    request.customer = customerOf(values, values.databasePath);
+    request.selectionFormula = entry.formula;
+    (entry.titleUse == TitleUse::Report ? request.reportTitle : request.windowTitle) = entry.title;
+    return request;
+}
+
 } // namespace
 
-Frmreports::Frmreports(const ApplicationValues& values, Boxes& boxes, reports::ReportRequest request,
+Frmreports::Frmreports(const ApplicationValues& values, Boxes& boxes, const ReportEntry& entry,
                        reports::Runner runner, QWidget* parent)
-    : QDialog(parent), m_values(values), m_request(std::move(request)),
-      Report1(*this, boxes, std::move(runner)), CSCal(new QCalendarWidget(this))
+    : QDialog(parent), m_values(values), m_entry(entry), m_request(requestOf(entry, values)),
+      Report1(*this, boxes, std::move(runner)), CSCal(new QCalendarWidget(this)),
+      m_legend(new QLabel(u"Days with sales are bold"_s, this))
 {
     setObjectName(u"Frmreports"_s);
-    m_request.customer = customerOf(values, values.databasePath);
+    setWindowTitle(entry.title);
     layOut();
     loadForm();
 }
@@ -52,6 +69,7 @@ void Frmreports::layOut()
     CSCal->setFirstDayOfWeek(Qt::Sunday); // as the week of the reports to date
     CSCal->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     connect(CSCal, &QCalendarWidget::selectionChanged, this, &Frmreports::tellDay);
+    connect(CSCal, &QCalendarWidget::currentPageChanged, this, &Frmreports::markDaysOfSales);
     colourDays();
     CSCal->findChild<QWidget*>(u"qt_calendar_prevmonth"_s)->setAccessibleName(u"Previous month"_s);
     CSCal->findChild<QWidget*>(u"qt_calendar_nextmonth"_s)->setAccessibleName(u"Next month"_s);
@@ -66,8 +84,20 @@ void Frmreports::layOut()
 
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
     column->addWidget(CSCal);
+    column->addWidget(m_legend);
+    addPeriods(*column);
     column->addWidget(makeTargets());
     column->addLayout(ui::makeButtonRow({Generate, CmdExit}));
+}
+
+void Frmreports::addPeriods(QVBoxLayout& column)
+{
+    if (dayFieldOf(m_entry).isEmpty())
+        return;
+    m_period = new PeriodChooser(periodOf(m_entry), this);
+    column.addWidget(m_period);
+    connect(m_period, &PeriodChooser::periodChanged, CSCal,
+            [this] { CSCal->setEnabled(m_period->isOfMenu()); });
 }
 
 /// The calendar's own red and grey are too pale on some grounds.
@@ -99,27 +129,55 @@ QWidget* Frmreports::makeTargets()
 void Frmreports::loadForm()
 {
     CSCal->setVisible(!m_values.reportMode.isEmpty());
+    m_legend->setVisible(!m_values.reportMode.isEmpty());
     CSCal->setSelectedDate(QDate::currentDate());
+    markDaysOfSales();
     tellDay();
+}
+
+/// Those of the month that is shown. A database that cannot be read marks none: the report itself will tell.
+void Frmreports::markDaysOfSales()
+{
+    const QDate first(CSCal->yearShown(), CSCal->monthShown(), 1);
+    m_daysOfSales.clear();
+    try {
+        store::Database database(m_values.databasePath);
+        m_daysOfSales = reports::collectedDays(database, {first, first.addMonths(1).addDays(-1), {}});
+    } catch (const RuntimeFailure&) {
+        m_legend->clear();
+    }
+    QTextCharFormat sold;
+    sold.setFontWeight(QFont::Bold);
+    CSCal->setDateTextFormat({}, {});
+    for (const QDate day : m_daysOfSales)
+        CSCal->setDateTextFormat(day, sold);
 }
 
 /// For screen readers: the fields of the calendar hold the numbers of days only.
 void Frmreports::tellDay()
 {
-    const QString day = locale().toString(CSCal->selectedDate());
+    QString day = locale().toString(CSCal->selectedDate());
+    if (!m_daysOfSales.contains(CSCal->selectedDate()))
+        day += u", no sales"_s;
     CSCal->findChild<QWidget*>(u"qt_calendar_calendarview"_s)
         ->setAccessibleName(u"Day of the report: "_s + day);
     if (isVisible())
         ui::announce(*CSCal, day);
 }
 
-/// In any other mode the formula of the menu entry is kept.
+/// In any other mode the formula of the menu entry is kept. Another period is not in the title of the entry.
 void Frmreports::generate()
 {
     if (const auto formula = formulaOfDay(m_values.reportMode, CSCal->selectedDate()))
         m_request.selectionFormula = *formula;
-    Report1.run(m_request,
-                Option1->isChecked() ? reports::Destination::Window : reports::Destination::Printer);
+    reports::ReportRequest request = m_request;
+    if (m_period != nullptr)
+        request.comparedWith = m_period->comparedWith();
+    if (m_period != nullptr && !m_period->isOfMenu()) {
+        request.selectionFormula = m_period->formula(dayFieldOf(m_entry));
+        request.reportTitle = titleWithoutPeriod(m_entry);
+    }
+    Report1.run(request, Option1->isChecked() ? reports::Destination::Window : reports::Destination::Printer);
 }
 
 /// The mode is set first: the dialog reads it when it is created. The price list sets none, so that after a
@@ -129,14 +187,7 @@ void showReport(const ReportEntry& entry, ApplicationValues& values, Boxes& boxe
 {
     if (entry.mode)
         values.reportMode = *entry.mode;
-    reports::ReportRequest request;
-    request.reportFile = joinPath(values.appPath, entry.file);
-    request.dataFile = values.databasePath;
-    request.selectionFormula = entry.formula;
-    (entry.titleUse == TitleUse::Report ? request.reportTitle : request.windowTitle) = entry.title;
-    Frmreports form(values, boxes, std::move(request), runner, parent);
-    form.setWindowTitle(entry.title);
-    form.exec();
+    Frmreports(values, boxes, entry, runner, parent).exec();
 }
 
 } // namespace norvane::sales

@@ -7,8 +7,12 @@
 
 #include <QDialog>
 
+#include <set>
+
 class QCalendarWidget;
+class QLabel;
 class QRadioButton;
+class QVBoxLayout;
 
 namespace norvane
 {
@@ -18,30 +22,38 @@ class Boxes;
 namespace norvane::sales
 {
 
-/// Asks for a target and, depending on the application's report mode, for a day. It remains open, so that a
-/// report can be generated for further days or printed again. Enter generates, Escape leaves.
+class PeriodChooser;
+
+/// Asks for a target, for a period and, depending on the application's report mode, for a day. It remains
+/// open, so that a report can be generated for further days or printed again. Enter generates, Escape leaves.
 class Frmreports : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Shows the calendar at today, as the current report mode requires. @p values must outlive the dialog.
-    /// @param request what the dialog runs; it sets the day and the name of the shop.
-    Frmreports(const ApplicationValues& values, Boxes& boxes, reports::ReportRequest request,
+    /// Shows the calendar at today, as the current report mode requires.
+    /// @param values, entry must outlive the dialog; it reports on the database in use.
+    Frmreports(const ApplicationValues& values, Boxes& boxes, const ReportEntry& entry,
                reports::Runner runner, QWidget* parent = nullptr);
 
 private:
     void layOut();
+    void addPeriods(QVBoxLayout& column);
     void colourDays();
+    void markDaysOfSales();
     [[nodiscard]] QWidget* makeTargets();
     void loadForm();
     void tellDay();
     void generate();
 
     const ApplicationValues& m_values;
-    reports::ReportRequest m_request;
+    const ReportEntry& m_entry;
+    reports::ReportRequest m_request; ///< of the menu entry
     reports::Report Report1;
     QCalendarWidget* CSCal;
+    QLabel* m_legend;                  ///< of the calendar
+    std::set<QDate> m_daysOfSales;     ///< of the month in the calendar
+    PeriodChooser* m_period = nullptr; ///< nullptr for the price list
     QRadioButton* Option1;
 };
 

@@ -54,6 +54,31 @@ constexpr auto prefixes = std::to_array<DayPrefix>({
 });
 // clang-format on
 
+/// How titles end, and what the list of periods shows for that.
+struct TitleEnd {
+    QLatin1StringView end;
+    QLatin1StringView period;
+};
+constexpr auto titleEnds = std::to_array<TitleEnd>({
+    {" by Date."_L1, "Day in the calendar"_L1},
+    {" Month to Date"_L1, "Month to date"_L1},
+    {" Week to Date"_L1, "Week to date"_L1},
+    {" Year to Date"_L1, "Year to date"_L1},
+});
+
+const TitleEnd* endOf(const ReportEntry& entry)
+{
+    const auto* const found = std::ranges::find_if(
+        titleEnds, [&entry](const TitleEnd& each) { return entry.title.endsWith(each.end); });
+    return found == titleEnds.end() ? nullptr : found;
+}
+
+const DayPrefix* prefixOf(const QString& mode)
+{
+    const auto* const prefix = std::ranges::find(prefixes, mode, &DayPrefix::mode);
+    return prefix == prefixes.end() ? nullptr : prefix;
+}
+
 } // namespace
 
 std::span<const ReportEntry> reportEntries()
@@ -61,10 +86,29 @@ std::span<const ReportEntry> reportEntries()
     return entries;
 }
 
+QString dayFieldOf(const ReportEntry& entry)
+{
+    const auto* const prefix = entry.mode ? prefixOf(QString(*entry.mode)) : nullptr;
+    const QString formula = prefix != nullptr ? prefix->text : entry.formula;
+    return formula.left(formula.indexOf(u'}') + 1);
+}
+
+QString periodOf(const ReportEntry& entry)
+{
+    const auto* const end = endOf(entry);
+    return end == nullptr ? QString() : QString(end->period);
+}
+
+QString titleWithoutPeriod(const ReportEntry& entry)
+{
+    const auto* const end = endOf(entry);
+    return end == nullptr ? entry.title : entry.title.chopped(end->end.size());
+}
+
 std::optional<QString> formulaOfDay(const QString& mode, QDate day)
 {
-    const auto* const prefix = std::ranges::find(prefixes, mode, &DayPrefix::mode);
-    if (prefix == prefixes.end())
+    const auto* const prefix = prefixOf(mode);
+    if (prefix == nullptr)
         return std::nullopt;
     return u"%1%2,%3,%4)"_s.arg(prefix->text).arg(day.year()).arg(day.month()).arg(day.day());
 }

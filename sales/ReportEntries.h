@@ -30,6 +30,14 @@ struct ReportEntry {
 
 [[nodiscard]] std::span<const ReportEntry> reportEntries();
 
+/// The field with the day of a sale, as the entry's formula names it: "{PLUSALES.SALESDATE}".
+/// @return empty text for the price list, which has no days.
+[[nodiscard]] QString dayFieldOf(const ReportEntry& entry);
+/// The entry's own period as a list shows it: "Month to date", "Day in the calendar".
+[[nodiscard]] QString periodOf(const ReportEntry& entry);
+/// Its title for another period: "PLU Sales Report".
+[[nodiscard]] QString titleWithoutPeriod(const ReportEntry& entry);
+
 /// The selection formula for the sales of @p day: "{PLUSALES.SALESDATE} = date(2004,5,7)" for "DAILYPLU".
 /// @return nothing if @p mode does not ask for a day.
 [[nodiscard]] std::optional<QString> formulaOfDay(const QString& mode, QDate day);

@@ -32,6 +32,7 @@ struct ReportColumn {
     int leastDecimals = 0; ///< places that are always shown
     int mostDecimals = 0;  ///< further places are rounded off, halves away from zero
     NumberDress dress = {};
+    bool isCompared = false; ///< beside the same number of another period, if the report has one
 };
 
 /// A cell as it is stored, never rounded: nothing, a text, a number or a day.

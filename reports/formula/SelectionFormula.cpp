@@ -191,7 +191,7 @@ private:
             m_tokens.failExpecting(u"a range such as date(2026,1,1) to date(2026,1,31)"_s);
         const auto period = namedPeriod(word.text, m_today);
         if (!period)
-            m_tokens.failExpecting(u"monthtodate, WeekToDateFromSun, YearToDate or a range"_s);
+            m_tokens.failExpecting(u"monthtodate, lastmonth or another period, or a range"_s);
         m_tokens.take();
         auto condition = joined(Condition::Kind::All,
                                 {tested(field, ">=", {std::nullopt, Value::date(period->from), word.column}),

@@ -211,7 +211,7 @@ constexpr std::array<KeyRule, 2> joinKeys{{
     {u"Find", true, "a field of a table that is not read yet, such as {PLUDATA.PLUNUMBER}"_L1, takeFind},
     {u"By", true, "a field by whose value the record is found, such as {PLUSALES.ID}"_L1, takeBy},
 }};
-constexpr std::array<KeyRule, 9> columnKeys{{
+constexpr std::array<KeyRule, 10> columnKeys{{
     {u"Heading", false, "the heading of the column"_L1, [](const QString& value, LayoutTarget& target) { target.column->column.heading = value; return true; }},
     {u"Format", false, "Text, Digits, Money, Quantity, Date, Time, YesNo or a pattern such as 0.00"_L1, takeColumnFormat},
     {u"Words", false, "words for numbers, such as 0;None,1;Added"_L1, takeWords},
@@ -220,6 +220,7 @@ constexpr std::array<KeyRule, 9> columnKeys{{
     {u"Width", true, "millimetres from 1 to 280"_L1, takeWidth},
     {u"Align", false, "Left, Centre or Right"_L1, [](const QString& value, LayoutTarget& target) { return takeChoice(value, alignments, target.column->column.alignment); }},
     {u"Total", false, "YES or NO, and YES only for a number"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.column->isTotalled) && (target.column->number || !target.column->isTotalled); }},
+    {u"Compare", false, "YES or NO, and YES only for a number"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.column->column.isCompared) && (target.column->number || !target.column->column.isCompared); }},
     {u"Show", false, "numbers that are not all zero where the column is shown"_L1, [](const QString& value, LayoutTarget& target) { target.column->shownIf = parseExpressions(value, target.fields()); return true; }},
 }};
 constexpr KeyRule furtherValue{u"Value2", false, "a text with fields"_L1, [](const QString& value, LayoutTarget& target) { target.column->text.further.push_back(parseTemplate(value, target.fields())); return !target.column->number; }};

@@ -4,6 +4,7 @@
 #include "platform/RuntimeFailure.h"
 #include "reports/formula/ExactNumbers.h"
 #include "reports/formula/SelectionFormula.h"
+#include "reports/lines/ComparedReport.h"
 #include "reports/lines/LayoutReader.h"
 #include "reports/lines/LineBuilder.h"
 #include "reports/lines/ReportQuery.h"
@@ -65,7 +66,8 @@ class Run
 {
 public:
     Run(const ReportRequest& request, const KeepGoing& keepGoing)
-        : m_request(request), m_layout(readLayout(request.reportFile)), m_query(request, m_layout, keepGoing)
+        : m_keepGoing(keepGoing), m_request(request), m_layout(readLayout(request.reportFile)),
+          m_query(request, m_layout, keepGoing)
     {
     }
 
@@ -84,9 +86,11 @@ public:
         setHeading(data.heading);
         if (data.lineCount() == 0)
             data.heading.notice = notice();
-        data.page = {isLandscape(data), m_layout.orientation == Orientation::Automatic};
+        setPage(data);
         return data;
     }
+    /// What make() has made beside the other period of the request.
+    ReportData compared(const ReportData& data);
 
 private:
     void select();
@@ -99,8 +103,10 @@ private:
     void setHeading(ReportHeading& heading) const;
     [[nodiscard]] QString subtitle() const;
     [[nodiscard]] QString notice() const;
-    [[nodiscard]] bool isLandscape(const ReportData& data) const;
+    void setPage(ReportData& data) const;
+    [[nodiscard]] Period otherPeriod() const;
 
+    const KeepGoing& m_keepGoing;
     const ReportRequest& m_request;
     ReportLayout m_layout;
     ReportQuery m_query;
@@ -251,14 +257,43 @@ QString Run::notice() const
     return m_period ? u"%1: %2."_s.arg(nothing, m_period->text()) : nothing + u'.';
 }
 
-bool Run::isLandscape(const ReportData& data) const
+void Run::setPage(ReportData& data) const
 {
     paper::Length width;
     for (const auto& column : data.columns())
         width = width + column.width;
-    const bool isWide = width > uprightWidth;
-    return m_layout.orientation == Orientation::Landscape ||
-           (m_layout.orientation == Orientation::Automatic && isWide);
+    const bool isAutomatic = m_layout.orientation == Orientation::Automatic;
+    data.page = {m_layout.orientation == Orientation::Landscape || (isAutomatic && width > uprightWidth),
+                 isAutomatic};
+}
+
+Period Run::otherPeriod() const
+{
+    const bool isPeriod = m_period && !m_period->isOpen() && m_isOnlyPeriod;
+    const bool hasNumber = std::ranges::any_of(
+        m_layout.columns, [](const ColumnLayout& column) { return column.column.isCompared; });
+    if (!isPeriod || !hasNumber) {
+        throw ReportError(u"%1 cannot be compared with another period: %2."_s.arg(
+            m_layout.path,
+            hasNumber ? u"its selection is not a period"_s : u"no column of the layout has Compare=YES"_s));
+    }
+    return m_request.comparedWith == ComparedWith::YearEarlier ? yearEarlier(*m_period)
+                                                               : periodBefore(*m_period);
+}
+
+ReportData Run::compared(const ReportData& data)
+{
+    const Period period = otherPeriod();
+    ReportRequest request = m_request;
+    request.selectionFormula = formulaOf(m_layout.source.day()->text(), period);
+    Run other(request, m_keepGoing);
+    const ReportData before = other.make();
+    ReportData both = comparedReport(data, before);
+    both.heading.subtitle += u"; before: %1"_s.arg(before.heading.subtitle);
+    if (both.lineCount() > 0)
+        both.heading.notice.clear();
+    setPage(both);
+    return both;
 }
 
 } // namespace
@@ -266,7 +301,9 @@ bool Run::isLandscape(const ReportData& data) const
 ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing)
 {
     try {
-        return Run(request, keepGoing).make();
+        Run run(request, keepGoing);
+        ReportData data = run.make();
+        return request.comparedWith == ComparedWith::Nothing ? data : run.compared(data);
     } catch (const RuntimeFailure& failure) {
         throw ReportError(u"%1: %2"_s.arg(request.dataFile, failure.text()));
     }

@@ -11,6 +11,9 @@
 namespace norvane::reports
 {
 
+/// The second period of a report, if it has one.
+enum class ComparedWith { Nothing, PeriodBefore, YearEarlier };
+
 /// What a report is run over.
 struct ReportRequest {
     QString reportFile;       ///< path of the layout; found without regard to case
@@ -22,11 +25,13 @@ struct ReportRequest {
     QDateTime now; ///< the moment of the run: periods end on this day
     /// Called with the name of each step that takes long.
     std::function<void(const QString& step)> showStep = {};
+    ComparedWith comparedWith = ComparedWith::Nothing;
 };
 
 /// @return the report. When no row is selected, its heading has a notice that says so.
-/// @throws ReportError for a layout, formula, database or number that is not as it should be, and
-/// ReportCancelled when @p keepGoing returns false.
+/// @throws ReportError for a layout, formula, database or number that is not as it should be, for a
+/// comparison of a selection that is more or less than a period or of a layout without a number to compare,
+/// and ReportCancelled when @p keepGoing returns false.
 [[nodiscard]] ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing = {});
 
 } // namespace norvane::reports

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
 #include <string>
 
 namespace norvane::reports
@@ -43,14 +42,30 @@ void collectDays(store::Database& database, const char* table, const Period& per
         days.insert(query.value(0).toDate());
 }
 
-} // namespace
-
-std::optional<SalesDays> salesDays(store::Database& database, const Period& period, QDate today,
-                                   const std::function<bool()>& keepGoing)
+/// Also the last day before the period, or else the first of all.
+std::set<QDate> daysWithLast(store::Database& database, const Period& period,
+                             const std::function<bool()>& keepGoing)
 {
     std::set<QDate> days;
     for (const char* const table : tables)
         collectDays(database, table, period, keepGoing, days);
+    return days;
+}
+
+} // namespace
+
+std::set<QDate> collectedDays(store::Database& database, const Period& period,
+                              const std::function<bool()>& keepGoing)
+{
+    auto days = daysWithLast(database, period, keepGoing);
+    days.erase(days.begin(), days.lower_bound(period.from));
+    return days;
+}
+
+std::optional<SalesDays> salesDays(store::Database& database, const Period& period, QDate today,
+                                   const std::function<bool()>& keepGoing)
+{
+    const auto days = daysWithLast(database, period, keepGoing);
     if (days.empty())
         return std::nullopt;
     SalesDays found{std::max(period.from, *days.begin()),

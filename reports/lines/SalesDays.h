@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <optional>
+#include <set>
 
 namespace norvane::reports
 {
@@ -17,6 +18,11 @@ struct SalesDays {
     QDate last;
     int uncollected = 0; ///< days from first to last without a row in any table of sales
 };
+
+/// The days of @p period, which is not open, with a row in any table of sales.
+/// @throws RuntimeFailure what the database reports.
+[[nodiscard]] std::set<QDate> collectedDays(store::Database& database, const Period& period,
+                                            const std::function<bool()>& keepGoing = {});
 
 /// @param period not open. @return nothing when no day of the period can be expected to have sales.
 /// @throws RuntimeFailure what the database reports.

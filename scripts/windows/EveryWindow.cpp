@@ -141,7 +141,8 @@ constexpr Dialog dialogs[] = {
     {"reports",
      [](Ground& g, QWidget* p) -> QWidget* {
          g.values.reportMode = u"DAILYPLU"_s;
-         return new sales::Frmreports(g.values, g.shop.boxes(), {}, reports::runReport, p);
+         return new sales::Frmreports(g.values, g.shop.boxes(), sales::reportEntries().front(),
+                                      reports::runReport, p);
      }},
     {"system-info",
      [](Ground& g, QWidget* p) -> QWidget* {

@@ -67,7 +67,7 @@ TEST_F(CommandWords, NamesThatOtherCommandsTakeAreListed)
     const auto withPeriod = [](const QString& name, const QString& period) {
         return QStringList{u"report"_s, u"SHOP"_s, name, u"--csv"_s, u"-"_s, u"--period"_s, period};
     };
-    expectUsage(withPeriod(u"plusales"_s, u"decade"_s), u"It has: day, week, month, year."_s);
+    expectUsage(withPeriod(u"plusales"_s, u"decade"_s), u"It has: day, week, month, year, yesterday,"_s);
     expectUsage(withPeriod(u"pluprice"_s, u"day"_s), u"The report pluprice has no period \"day\"."_s);
 }
 

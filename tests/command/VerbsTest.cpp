@@ -54,7 +54,31 @@ TEST_F(Verbs, AReportOfADayHasTheSalesOfThatDayInEveryFormat)
     };
     expectUsage(withDay(u"24.11.2026"_s), u"\"24.11.2026\" is not a day such as 2026-11-25."_s);
     expectUsage(withDay(u"2026-11-24"_s) + QStringList{u"--period"_s, u"week"_s},
-                u"Either --day or --period."_s);
+                u"Either --day or --period or --from and --to."_s);
+}
+
+TEST_F(Verbs, AReportOfAnyPeriodIsComparedWithAnother)
+{
+    const QDate lastMonth = QDate::currentDate().addMonths(-1);
+    sell(QDate(lastMonth.year(), lastMonth.month(), 1).toString(Qt::ISODate), u"24.25"_s);
+    sell(u"2025-02-28"_s, u"50"_s);
+    sell(u"2025-03-01"_s, u"40"_s);
+    sell(u"2025-04-01"_s, u"7"_s);
+    const QStringList report{u"report"_s, u"SHOP"_s, u"finsales"_s, u"--csv"_s, u"-"_s};
+    const auto reported = [&](const QStringList& options) {
+        return run(report + options).out;
+    };
+    EXPECT_TRUE(reported({u"--period"_s, u"lastmonth"_s}).contains(u",24.25"_s));
+    const QString march =
+        reported({u"--from"_s, u"2025-03-01"_s, u"--to"_s, u"2025-03-31"_s, u"--compare"_s, u"before"_s});
+    EXPECT_TRUE(march.contains(u",40.00,50.00,-10.00,-20.0"_s)) << march.toStdString();
+
+    expectUsage(report + QStringList{u"--from"_s, u"2025-03-01"_s}, u"Name both --from and --to."_s);
+    expectUsage(report + QStringList{u"--from"_s, u"2025-03-02"_s, u"--to"_s, u"2025-03-01"_s},
+                u"The first day is after the last one."_s);
+    expectUsage(report + QStringList{u"--compare"_s, u"year"_s}, u"--compare needs a period."_s);
+    expectUsage(report + QStringList{u"--period"_s, u"week"_s, u"--compare"_s, u"month"_s},
+                u"\"month\" is neither before nor year."_s);
 }
 
 /// On a terminal the locale's spreadsheet is the reader, elsewhere a script.

@@ -1,4 +1,5 @@
 // Formulas over rows of a real database: which rows they find, and where a mistake is reported.
+#include "reports/formula/Period.h"
 #include "tests/reports/ReportShop.h"
 
 namespace norvane::reports::test
@@ -69,7 +70,7 @@ TEST_F(Selection, FindsTheRowsThatItNames)
         EXPECT_EQ(found(QString::fromUtf16(formula)), rows) << QString::fromUtf16(formula).toStdString();
 }
 
-const std::tuple<const char16_t*, QDate, const char16_t*> namedPeriods[] = {
+const std::tuple<const char16_t*, QDate, const char16_t*> periodTitles[] = {
     {u"in monthtodate", {2026, 11, 25}, u"Month to date, 01/11/2026 to 25/11/2026"},
     {u"in monthtodate", {2026, 11, 1}, u"Month to date, 01/11/2026"},
     {u"in WeekToDateFromSun", {2026, 11, 22}, u"Week to date, 22/11/2026"}, // a Sunday
@@ -77,13 +78,22 @@ const std::tuple<const char16_t*, QDate, const char16_t*> namedPeriods[] = {
     {u"in WeekToDateFromSun", {2027, 1, 1}, u"Week to date, 27/12/2026 to 01/01/2027"},
     {u"in YearToDate", {2028, 2, 29}, u"Year to date, 01/01/2028 to 29/02/2028"},
     {u"in monthtodate", {2028, 2, 29}, u"Month to date, 01/02/2028 to 29/02/2028"},
+    {u"in yesterday", {2028, 3, 1}, u"Yesterday, 29/02/2028"},
+    {u"in LastWeekFromSun", {2026, 11, 22}, u"Last week from Sunday, 15/11/2026 to 21/11/2026"},
+    {u"in lastweekfromsun", {2026, 11, 21}, u"Last week from Sunday, 08/11/2026 to 14/11/2026"},
+    {u"in lastweekfrommon", {2026, 11, 22}, u"Last week from Monday, 09/11/2026 to 15/11/2026"},
+    {u"in lastweekfrommon", {2027, 1, 4}, u"Last week from Monday, 28/12/2026 to 03/01/2027"},
+    {u"in lastmonth", {2028, 3, 31}, u"Last month, 01/02/2028 to 29/02/2028"},
+    {u"in lastquarter", {2027, 1, 1}, u"Last quarter, 01/10/2026 to 31/12/2026"},
+    {u"in lastquarter", {2026, 6, 30}, u"Last quarter, 01/01/2026 to 31/03/2026"},
+    {u"in lastyear", {2026, 1, 1}, u"Last year, 01/01/2025 to 31/12/2025"},
     {u"= date(2028,2,29)", {2028, 3, 1}, u"Tuesday, 29/02/2028"},
     {u"> date(2026,1,31)", {2026, 11, 25}, u"From 01/02/2026"},
 };
 
 TEST_F(Selection, NamesItsPeriodAndEndsItToday)
 {
-    for (const auto& [formula, today, subtitle] : namedPeriods) {
+    for (const auto& [formula, today, subtitle] : periodTitles) {
         const QString whole = u"{FINANCIALSALES.SALESDATE} "_s + QString::fromUtf16(formula);
         const auto data = runReport(request(whole, today));
         EXPECT_EQ(data.heading.subtitle, QString::fromUtf16(subtitle));
@@ -91,6 +101,37 @@ TEST_F(Selection, NamesItsPeriodAndEndsItToday)
     }
     EXPECT_EQ(runReport(request(u"{PLUSALES.SALESDATE} in YearToDate"_s)).heading.subtitle,
               u"The selection names another table (PLUSALES)"_s);
+}
+
+/// A period, the one before it and the same a year earlier.
+struct Compared {
+    QDate from;
+    QDate to;
+    const char* before;
+    const char* earlier;
+};
+const Compared comparedPeriods[] = {
+    {{2026, 11, 25}, {2026, 11, 25}, "2026-11-24 2026-11-24", "2025-11-26 2025-11-26"}, // both a Wednesday
+    {{2026, 11, 1}, {2026, 11, 1}, "2026-10-31 2026-10-31", "2025-11-02 2025-11-02"},
+    {{2026, 11, 15}, {2026, 11, 21}, "2026-11-08 2026-11-14", "2025-11-16 2025-11-22"},
+    {{2026, 11, 3}, {2026, 11, 20}, "2026-10-16 2026-11-02", "2025-11-03 2025-11-20"},
+    {{2026, 3, 1}, {2026, 3, 31}, "2026-02-01 2026-02-28", "2025-03-01 2025-03-31"},
+    {{2029, 2, 1}, {2029, 2, 28}, "2029-01-01 2029-01-31", "2028-02-01 2028-02-29"},
+    {{2028, 3, 1}, {2028, 3, 30}, "2028-02-01 2028-02-29", "2027-03-01 2027-03-30"}, // month to date
+    {{2026, 10, 1}, {2026, 12, 31}, "2026-07-01 2026-09-30", "2025-10-01 2025-12-31"},
+    {{2028, 1, 1}, {2028, 5, 14}, "2027-01-01 2027-05-14", "2027-01-01 2027-05-14"}, // year to date
+    {{2026, 1, 1}, {2026, 12, 31}, "2025-01-01 2025-12-31", "2025-01-01 2025-12-31"},
+};
+
+TEST(Periods, HaveOneBeforeAndOneAYearEarlier)
+{
+    const auto days = [](const Period& period) {
+        return (period.from.toString(Qt::ISODate) + u' ' + period.to.toString(Qt::ISODate)).toStdString();
+    };
+    for (const auto& [from, to, before, earlier] : comparedPeriods) {
+        EXPECT_EQ(days(periodBefore({from, to, {}})), before) << days({from, to, {}});
+        EXPECT_EQ(days(yearEarlier({from, to, {}})), earlier) << days({from, to, {}});
+    }
 }
 
 const std::pair<const char16_t*, const char*> formulaMistakes[] = {

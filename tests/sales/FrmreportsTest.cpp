@@ -1,6 +1,9 @@
 // The report dialog as a user works it: what it asks of the report control, entry by entry.
 #include "sales/Frmreports.h"
 
+#include "store/catalogue/Catalogue.h"
+#include "tests/platform/TestFolder.h"
+#include "tests/store/Rows.h"
 #include "tests/support/FormTest.h"
 
 namespace norvane::sales
@@ -127,6 +130,58 @@ TEST_F(FrmreportsTest, CanBeWorkedFromTheKeyboard)
         EXPECT_TRUE(generated().endsWith(u"{MIXSALES.SALESDATE} = date(%1)"_s.arg(yesterday)));
         QTest::keyClick(m_form->windowHandle(), Qt::Key_G, Qt::AltModifier);
         EXPECT_TRUE(QTest::qWaitFor([this] { return m_requests.size() == 2; }));
+    });
+}
+
+TEST_F(FrmreportsTest, OffersOtherPeriodsAndAComparison)
+{
+    const auto choose = [this](const char* name, const QString& entry) {
+        auto& box = control<QComboBox>(name);
+        box.setFocus();
+        QTest::keyClicks(&box, entry);
+        EXPECT_TRUE(box.currentText().startsWith(entry));
+    };
+    open("PLUSalesByDate_Click", [&] {
+        EXPECT_EQ(control<QComboBox>("Period").currentText(), u"Day in the calendar"_s);
+        choose("Period", u"Last month"_s);
+        EXPECT_FALSE(control<QCalendarWidget>("CSCal").isEnabled());
+        EXPECT_EQ(generated(), u"plusales.rpt|PLU Sales Report||{PLUSALES.SALESDATE} in lastmonth"_s);
+        EXPECT_EQ(m_requests.back().comparedWith, reports::ComparedWith::Nothing);
+        choose("ComparedWith", u"The same a year"_s);
+        choose("Period", u"Days from"_s);
+        control<QDateEdit>("PeriodFrom").setDate({2026, 2, 3});
+        control<QDateEdit>("PeriodTo").setDate({2026, 1, 1});
+        EXPECT_EQ(generated(), u"plusales.rpt|PLU Sales Report||{PLUSALES.SALESDATE} in date(2026,2,3) to "
+                               "date(2026,2,3)"_s);
+        EXPECT_EQ(m_requests.back().comparedWith, reports::ComparedWith::YearEarlier);
+        QTest::keyClick(&control<QComboBox>("Period"), Qt::Key_Home);
+        EXPECT_TRUE(control<QCalendarWidget>("CSCal").isEnabled());
+        EXPECT_TRUE(generated().startsWith(u"plusales.rpt|PLU Sales Report by Date.||"_s));
+    });
+    open("clerkweek_Click", [&] {
+        choose("ComparedWith", u"The period before"_s);
+        EXPECT_TRUE(generated().endsWith(u"in WeekToDateFromSun"_s));
+        EXPECT_EQ(m_requests.back().comparedWith, reports::ComparedWith::PeriodBefore);
+    });
+    open("Pluprice_Click", [&] { EXPECT_EQ(m_form->findChild<QWidget*>(u"Period"_s), nullptr); });
+}
+
+TEST_F(FrmreportsTest, MarksTheDaysWithSales)
+{
+    const test::TestFolder folder;
+    m_values.databasePath = folder.path("velmar.mdb");
+    store::Database::create(m_values.databasePath, store::catalogue());
+    const QDate first(QDate::currentDate().year(), QDate::currentDate().month(), 1);
+    test::execute(m_values.databasePath, u"insert into TIMESALES (ID, SALESDATE) values (1, '%1')"_s.arg(
+                                             first.addMonths(-1).addDays(3).toString(Qt::ISODate)));
+    open("ClerkDate_Click", [&] {
+        auto& calendar = control<QCalendarWidget>("CSCal");
+        calendar.showPreviousMonth();
+        const auto weight = [&](int day) {
+            return calendar.dateTextFormat(first.addMonths(-1).addDays(day - 1)).fontWeight();
+        };
+        EXPECT_EQ(weight(4), QFont::Bold);
+        EXPECT_NE(weight(5), QFont::Bold);
     });
 }
 

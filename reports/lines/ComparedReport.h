@@ -1,0 +1,15 @@
+// Two periods of one report side by side.
+#pragma once
+
+#include "reports/data/ReportData.h"
+
+namespace norvane::reports
+{
+
+/// The lines of @p now with those of @p before beside them. Both come from one layout. The columns before the
+/// first compared one tell the lines apart; each compared column is followed by its number in the other
+/// period, the change and the change in per cent, which is a dash where the other period has zero. Other
+/// columns are left out. Heading, page and charts are those of @p now.
+[[nodiscard]] ReportData comparedReport(const ReportData& now, const ReportData& before);
+
+} // namespace norvane::reports
