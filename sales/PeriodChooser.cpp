@@ -78,12 +78,8 @@ void PeriodChooser::layOut()
     rows->addRow(u"&Compare with:"_s, m_compared);
 }
 
-/// They keep their room, so that the dialog keeps its size.
 void PeriodChooser::showDays()
 {
-    QSizePolicy policy = m_days->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    m_days->setSizePolicy(policy);
     m_days->setVisible(m_period->currentData() == pickedDays);
 }
 
