@@ -73,6 +73,8 @@ public:
     /// control here. Its number and text are left to the user; for a PLU the next free number is proposed.
     /// What was typed and not saved is dropped as by Add.
     void addLikeThis();
+    /// Saves, and starts the next record like the saved one.
+    void addAnother();
     /// Shows the record with this stored key. What is typed is asked about first.
     void showKey(const QString& key);
     [[nodiscard]] QString screenFile() const { return m_file.path(); }

@@ -39,7 +39,19 @@ ScreenTools OptionForm::ownTools() const
     if (!m_file.buttons().add)
         return {};
     return {
-        {u"AddLikeThis"_s, u"Add &Like This"_s, QKeySequence(u"Ctrl+D"_s), &OptionForm::addLikeThis, false}};
+        {u"AddLikeThis"_s, u"Add &Like This"_s, QKeySequence(u"Ctrl+D"_s), &OptionForm::addLikeThis, false},
+        {u"AddAnother"_s, u"Save and Add &Another"_s, QKeySequence(u"Ctrl+Shift+D"_s),
+         &OptionForm::addAnother, false}};
+}
+
+void OptionForm::addAnother()
+{
+    attempt([this] {
+        if (!save())
+            return;
+        m_notice = recordSaved(shownRecord()) + u". "_s + newLike(u"it"_s);
+        addLikeThis();
+    });
 }
 
 void OptionForm::addLikeThis()

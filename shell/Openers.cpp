@@ -5,15 +5,15 @@
 #include "platform/FailureBox.h"
 #include "sales/FrmsalesComm.h"
 #include "screens/OptionForm.h"
-#include "screens/table/TableWindow.h"
 #include "shell/CopyTool.h"
 #include "shell/FrameOpeners.h"
+#include "shell/FrameRecords.h"
 #include "shell/KeyOpeners.h"
 #include "shell/MainStatusBar.h"
 #include "shell/OverlayOpeners.h"
 #include "shell/ReportOpeners.h"
 #include "shell/TableOpeners.h"
-#include "shell/UndoWork.h"
+#include "shell/TableTools.h"
 #include "shell/UtilityOpeners.h"
 
 #include <QMdiSubWindow>
@@ -94,7 +94,7 @@ public:
     {
         const QString file = m_losses->latestScreen(m_values.databasePath);
         if (file.isEmpty())
-            return openOrTell(m_boxes, [&] { undo(main); });
+            return openOrTell(m_boxes, [&] { undoStored(main, m_values, m_boxes, *m_history); });
         openOrTell(m_boxes, [&] {
             screens::OptionForm* const known = formOf(main, file, m_values.databasePath);
             screens::OptionForm& form = known == nullptr ? open(main, file) : *known;
@@ -104,23 +104,13 @@ public:
     }
 
 private:
-    void undo(FrmMain& main)
-    {
-        const QString notice = undoLatestWork(m_values, m_boxes, *m_history);
-        for (auto* const form : main.findChildren<screens::OptionForm*>())
-            form->refreshAll();
-        for (auto* const table : main.findChildren<screens::TableWindow*>())
-            table->refresh();
-        main.statusBar1().setNotice(notice);
-    }
-
     [[nodiscard]] screens::ScreenTools toolsFor(FrmMain& main)
     {
         const auto screenOf = [this](FrmMain& frame, const auto&... screen) {
             return openedForm(frame, screen...);
         };
-        return {makeTableTool(main, m_values, m_boxes, screenOf, m_history),
-                makeCopyTool(main, m_values, m_boxes)};
+        return {makeTableTool({main, m_values, m_boxes, screenOf, m_history}),
+                makeCopyTool(main, m_values, m_boxes), makeCopiesTool(main, m_values, m_boxes)};
     }
 
     /// @return nullptr if it is not open.

@@ -6,6 +6,7 @@
 #include "screens/table/TableWindow.h"
 #include "shell/FrmMain.h"
 #include "shell/MainStatusBar.h"
+#include "shell/TableTools.h"
 #include "ui/WaitPointer.h"
 
 #include <QMdiSubWindow>
@@ -29,21 +30,12 @@ screens::TableWindow* tableOf(const FrmMain& main, const screens::OptionForm& fo
     return found == open.end() ? nullptr : *found;
 }
 
-void showRecord(FrmMain& main, const screens::TableWindow& table, const QString& key,
-                const ScreenOf& screenOf)
-{
-    if (screens::OptionForm* const form = screenOf(main, table.screenFile(), table.databasePath())) {
-        main.bringToFront(*form);
-        form->showKey(key);
-    }
-}
-
 /// A table reads its records again when it comes to the front and after a menu entry, as screens do.
-void addTable(FrmMain& main, screens::TableWindow* table, const ScreenOf& screenOf)
+void addTable(const TableSurroundings& around, screens::TableWindow* table)
 {
-    QObject::connect(
-        table, &screens::TableWindow::recordWanted, &main,
-        [&main, table, screenOf](const QString& key) { showRecord(main, *table, key, screenOf); });
+    FrmMain& main = around.main;
+    QObject::connect(table, &screens::TableWindow::recordWanted, &main,
+                     [around, table](const QString& key) { showOnScreen(around, *table, key); });
     QObject::connect(table, &screens::TableWindow::noticeChanged, &main.statusBar1(),
                      &MainStatusBar::setNotice);
     QObject::connect(table, &screens::TableWindow::stored, &main, &FrmMain::entryDone);
@@ -56,28 +48,43 @@ void addTable(FrmMain& main, screens::TableWindow* table, const ScreenOf& screen
                      });
 }
 
+screens::TableWindow* openTable(const TableSurroundings& around, screens::OptionForm& form)
+{
+    const ui::WaitPointer wait;
+    auto* const table =
+        new screens::TableWindow({form.screenFile(), form.databasePath(), form.caption(),
+                                  [&form](const QString& field) { return form.labelOf(field); },
+                                  around.history, makeTableTools(around, form)},
+                                 around.values, around.boxes, screens::ColumnMemory::ofThisUser());
+    addTable(around, table);
+    return table;
+}
+
 } // namespace
 
-screens::ScreenTool makeTableTool(FrmMain& main, const ApplicationValues& values, Boxes& boxes,
-                                  const ScreenOf& screenOf,
-                                  const std::shared_ptr<store::WorkHistory>& history)
+screens::ScreenTool makeTableTool(const TableSurroundings& around)
 {
-    const auto open = [&main, &values, &boxes, screenOf, history](screens::OptionForm& form) {
-        openOrTell(boxes, [&] {
-            const ui::WaitPointer wait;
-            screens::TableWindow* table = tableOf(main, form);
-            if (table == nullptr) {
-                table = new screens::TableWindow(
-                    {form.screenFile(), form.databasePath(), form.caption(),
-                     [&form](const QString& field) { return form.labelOf(field); }, history},
-                    values, boxes, screens::ColumnMemory::ofThisUser());
-                addTable(main, table, screenOf);
-            }
-            main.bringToFront(*table);
+    const auto open = [around](screens::OptionForm& form) {
+        openOrTell(around.boxes, [&] {
+            screens::TableWindow* table = tableOf(around.main, form);
+            if (table == nullptr)
+                table = openTable(around, form);
+            around.main.bringToFront(*table);
             table->goTo(form.recordKey());
         });
     };
     return {u"ShowTable"_s, u"&Table of All Records"_s, QKeySequence(u"Ctrl+T"_s), open};
+}
+
+screens::OptionForm* showOnScreen(const TableSurroundings& around, const screens::TableWindow& table,
+                                  const QString& key)
+{
+    screens::OptionForm* const form = around.screenOf(around.main, table.screenFile(), table.databasePath());
+    if (form != nullptr) {
+        around.main.bringToFront(*form);
+        form->showKey(key);
+    }
+    return form;
 }
 
 void followInTable(FrmMain& main, screens::OptionForm& form)

@@ -4,13 +4,14 @@
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 #include "screens/ScreenTool.h"
+#include "store/engine/WorkHistory.h"
 
 #include <functional>
 #include <memory>
 
-namespace norvane::store
+namespace norvane::screens
 {
-class WorkHistory;
+class TableWindow;
 }
 
 namespace norvane::shell
@@ -23,12 +24,22 @@ class FrmMain;
 using ScreenOf =
     std::function<screens::OptionForm*(FrmMain& main, const QString& file, const QString& database)>;
 
+/// What a table works with. Keeps the references.
+struct TableSurroundings {
+    FrmMain& main;
+    const ApplicationValues& values;
+    Boxes& boxes;
+    ScreenOf screenOf;                           ///< shows a record that is chosen in the table
+    std::shared_ptr<store::WorkHistory> history; ///< for undoing what is saved in it
+};
+
 /// The tool that opens the table of a screen's records, of which each screen file has one.
-/// @param screenOf shows a record that is chosen in the table. @param history for undoing what is saved in
-/// it. Keeps the references.
-[[nodiscard]] screens::ScreenTool makeTableTool(FrmMain& main, const ApplicationValues& values, Boxes& boxes,
-                                                const ScreenOf& screenOf,
-                                                const std::shared_ptr<store::WorkHistory>& history);
+[[nodiscard]] screens::ScreenTool makeTableTool(const TableSurroundings& around);
+
+/// Brings the screen of @p table to the front with the record @p key; a screen with something typed asks
+/// first and may keep its record. @return nullptr if it cannot be opened, after a message.
+screens::OptionForm* showOnScreen(const TableSurroundings& around, const screens::TableWindow& table,
+                                  const QString& key);
 
 /// From now on the table of @p form's screen file, if one is open, marks the record that @p form shows.
 void followInTable(FrmMain& main, screens::OptionForm& form);

@@ -46,7 +46,7 @@ public:
         if (!store(amount))
             return u"Nothing was stored: there is no safety copy"_s;
         m_edits.clear();
-        return u"Saved %1. Ctrl+Z on a screen undoes it"_s.arg(amount);
+        return u"Saved %1. Ctrl+Z undoes it"_s.arg(amount);
     }
 
 private:

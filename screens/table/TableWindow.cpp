@@ -1,7 +1,9 @@
 // See TableWindow.h.
 #include "screens/table/TableWindow.h"
 
+#include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
+#include "register/PluNumber.h"
 #include "screens/SaveNotices.h"
 #include "screens/table/ChoiceBar.h"
 #include "screens/table/PastedBlock.h"
@@ -11,6 +13,8 @@
 #include "screens/table/TableModel.h"
 #include "screens/table/TableSave.h"
 #include "screens/ToolMenu.h"
+#include "screens/UsesButton.h"
+#include "store/engine/ShortWait.h"
 #include "store/engine/WorkHistory.h"
 #include "ui/Announcement.h"
 #include "ui/Appearance.h"
@@ -23,13 +27,16 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -42,6 +49,8 @@ namespace
 constexpr QSize usualSize(1040, 540);
 /// Lines that a box shows at most.
 constexpr qsizetype mostLines = 12;
+/// Changes that are kept for taking back, in all states of the list together.
+constexpr std::size_t mostEarlier = 100'000;
 
 } // namespace
 
@@ -62,6 +71,7 @@ TableWindow::TableWindow(const TableOrder& order, const ApplicationValues& value
     ui::nameControl(*m_count, u"TableCount"_s);
     buildView();
     buildFilters();
+    buildUses();
     layOut(order.tools);
     showCount();
     m_choices->box().setFocus();
@@ -78,8 +88,7 @@ void TableWindow::buildView()
             [this](int column, Qt::SortOrder order) { chooseAgain([&] { m_model->sort(column, order); }); });
     connect(m_view, &QTableView::activated, this, &TableWindow::openRecord);
     connect(m_view, &TableGrid::pasteWanted, this, &TableWindow::paste);
-    connect(m_model, &TableModel::editsChanged, this,
-            [this] { setWindowModified(!m_model->edits().isEmpty()); });
+    connect(m_model, &TableModel::editsChanged, this, &TableWindow::rememberEdits);
     // The cell can be opened again only after the view has closed its editor.
     connect(
         m_model, &TableModel::refused, this,
@@ -151,6 +160,8 @@ void TableWindow::layOut(const TableTools& tools)
     connect(setField, &QPushButton::clicked, this, &TableWindow::setField);
     QHBoxLayout* const buttons = ui::makeButtonRow({makeSaveButton(), exit}, {makeColumnsButton(), setField});
     buttons->insertWidget(2, m_count);
+    if (m_uses != nullptr)
+        buttons->insertWidget(2, m_uses);
     if (QPushButton* const more = makeToolsButton(tools))
         buttons->insertWidget(2, more);
     auto* const column = new QVBoxLayout(this);
@@ -164,12 +175,68 @@ void TableWindow::layOut(const TableTools& tools)
 void TableWindow::buildFilters()
 {
     m_choices->box().setList(m_view);
+    m_choices->box().installEventFilter(this);
     connect(&m_choices->box(), &QLineEdit::textChanged, this,
             [this](const QString& text) { chooseAgain([&] { m_model->setFilter(text); }); });
     connect(&m_choices->box(), &QLineEdit::returnPressed, this,
             [this] { openRecord(m_view->currentIndex()); });
     connect(m_choices, &ChoiceBar::choicesChanged, this,
             [this] { chooseAgain([&] { m_model->setChoices(m_choices->chosen()); }); });
+}
+
+bool TableWindow::eventFilter(QObject* box, QEvent* event)
+{
+    const bool isUndo = event->type() == QEvent::ShortcutOverride &&
+                        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Undo);
+    return (isUndo && !m_choices->box().isUndoAvailable()) || QWidget::eventFilter(box, event);
+}
+
+void TableWindow::rememberEdits()
+{
+    const PendingEdits& edits = m_model->edits();
+    setWindowModified(!edits.isEmpty());
+    if (edits.isEmpty())
+        m_earlier.clear();
+    m_earlier.push_back(edits);
+    while (m_earlier.size() > 2 && m_earlier.size() * static_cast<std::size_t>(edits.size()) > mostEarlier)
+        m_earlier.erase(m_earlier.begin());
+}
+
+bool TableWindow::takeBackLatest()
+{
+    if (!hasEdits())
+        return false;
+    if (m_earlier.size() < 2) {
+        Q_EMIT noticeChanged(u"Choose other changes in the list below, and press Take Back"_s);
+        return true;
+    }
+    m_earlier.pop_back();
+    PendingEdits before = std::move(m_earlier.back());
+    m_earlier.pop_back();
+    m_model->changeEdits([&before](PendingEdits& edits) { edits = std::move(before); });
+    Q_EMIT noticeChanged(u"The latest change was taken back"_s);
+    return true;
+}
+
+void TableWindow::buildUses()
+{
+    if (!canBeUsed(source().table))
+        return;
+    m_uses = new UsesButton([this](int atMost) { return readUses(atMost); }, this);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, m_uses, &UsesButton::recount);
+    connect(new QShortcut(QKeySequence(u"Ctrl+R"_s), this, {}, {}, Qt::WidgetWithChildrenShortcut),
+            &QShortcut::activated, m_uses, &QPushButton::click);
+}
+
+std::optional<KeyUses> TableWindow::readUses(int atMost)
+{
+    const store::ShortWait wait(*m_database);
+    try {
+        return usesOfKey(*m_database, source().table, store::Value::text(currentKey()),
+                         keysOfLevel(registerModelByText(m_values).family), atMost);
+    } catch (const RuntimeFailure&) {
+        return std::nullopt; // the button says so; the table can be used without them
+    }
 }
 
 /// A save that stores nothing keeps the list.

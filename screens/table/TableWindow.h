@@ -3,7 +3,9 @@
 
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
+#include "screens/KeyUses.h"
 #include "screens/table/ColumnMemory.h"
+#include "screens/table/PendingEdits.h"
 #include "screens/table/TableColumns.h"
 #include "screens/table/TableTool.h"
 
@@ -11,6 +13,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QLabel;
@@ -28,6 +31,7 @@ class ChoiceBar;
 class PendingPanel;
 class TableGrid;
 class TableModel;
+class UsesButton;
 
 /// What a table is opened for.
 struct TableOrder {
@@ -72,6 +76,9 @@ public:
     void mark(const QString& key);
     /// Highlights it and goes to it in any case.
     void goTo(const QString& key);
+    /// Takes back the latest change that is not stored: a cell, a pasted block, a field of many records.
+    /// @return false if there is none.
+    bool takeBackLatest();
     /// Shows the records as they now are in the file.
     void refresh();
 
@@ -84,6 +91,8 @@ Q_SIGNALS:
     void stored();
 
 protected:
+    /// Leaves Ctrl+Z in the filter to the table while there is nothing typed to undo.
+    bool eventFilter(QObject* box, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -93,6 +102,9 @@ private:
     void buildFilters();
     [[nodiscard]] QPushButton* makeToolsButton(const TableTools& tools);
     void layOut(const TableTools& tools);
+    void buildUses();
+    [[nodiscard]] std::optional<KeyUses> readUses(int atMost);
+    void rememberEdits();
     void save();
     void paste();
     void setField();
@@ -117,6 +129,8 @@ private:
     TableGrid* m_view;
     PendingPanel* m_pending;
     QLabel* m_count;
+    UsesButton* m_uses = nullptr;               ///< of records to which others refer
+    std::vector<PendingEdits> m_earlier = {{}}; ///< what was not stored before each change, and now
 };
 
 } // namespace norvane::screens

@@ -49,6 +49,28 @@ TEST_F(UndoTest, EachWorkIsUndoneTheLatestFirst)
     EXPECT_EQ(notice(), "There is nothing to undo");
 }
 
+TEST_F(UndoTest, ATableUndoesWhatIsNotStoredAndThenWhatIsStored)
+{
+    child<QAction>(open("PLUMENU"), "ShowTable").trigger();
+    auto& cells = *child<QTableView>(front(), "TableView").model();
+    const auto names = [&cells] {
+        return (cells.index(0, 1).data().toString() + u' ' + cells.index(1, 1).data().toString())
+            .toStdString();
+    };
+    cells.setData(cells.index(0, 1), u"Stout"_s);
+    child<QPushButton>(front(), "SaveChanges").click();
+    cells.setData(cells.index(0, 1), u"Bitter"_s);
+    cells.setData(cells.index(1, 1), u"Perry"_s);
+    child<QLineEdit>(front(), "TableFilter").setFocus();
+    EXPECT_EQ(undo(), "");
+    EXPECT_EQ(names(), "Bitter Cider");
+    EXPECT_EQ(undo(), "");
+    EXPECT_EQ(names(), "Stout Cider");
+    EXPECT_NE(undo().find("DESCRIPTION: Stout becomes Lager"), std::string::npos);
+    EXPECT_EQ(names(), "Lager Cider");
+    EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
+}
+
 TEST_F(UndoTest, WhatATableStoredIsUndoneFromItsScreen)
 {
     QWidget& screen = open("PLUMENU");

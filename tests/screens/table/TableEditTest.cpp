@@ -69,7 +69,7 @@ TEST_F(TableEditTest, TypedCellsAreListedAndStoredTogether)
     test::press(*window, "TakeBack");
     save();
     EXPECT_EQ(plus(), "Lager|2.75|3|False Coke Zero|11.5|3|True Café|9.8|1|True Menu|0.00|0|False");
-    EXPECT_EQ(notice, "Saved 3 changes in 3 records. Ctrl+Z on a screen undoes it");
+    EXPECT_EQ(notice, "Saved 3 changes in 3 records. Ctrl+Z undoes it");
     EXPECT_EQ(pending(), "");
     EXPECT_EQ(log().count('\n'), 1);
     EXPECT_TRUE(log().contains("Table PLUs, 3 changes in 3 records")) << log().data();
