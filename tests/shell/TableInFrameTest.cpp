@@ -78,16 +78,17 @@ TEST_F(TableInFrameTest, ARecordLikeTheCurrentOneIsAddedOnItsScreen)
 
 TEST_F(TableInFrameTest, SaysWhereTheCurrentRecordIsUsed)
 {
-    execute(u"insert into NLU (ID, NLU) values (7, '000000000000001002')"_s);
+    execute(u"insert into KEYLINK (ID, KEYLINK) values (1, '0')"_s);
+    execute(u"insert into NLU (ID, NLU) values (1, '000000000000001002')"_s);
     open("PLUMENU");
     showTable();
     auto& button = child<QPushButton>(front(), "RecordUses");
-    QTRY_COMPARE(button.text(), u"Not Used Anywhere"_s);
+    EXPECT_TRUE(soon([&] { return button.text() == u"Not Used Anywhere"_s; }));
     auto& view = child<QTableView>(front(), "TableView");
     view.selectRow(1);
-    QTRY_COMPARE(button.text(), u"Used in 1 Place..."_s);
+    EXPECT_TRUE(soon([&] { return button.text() == u"Used in 1 Place..."_s; }));
     QTest::keyClick(&view, Qt::Key_R, Qt::ControlModifier);
-    EXPECT_EQ(child<QListWidget>(front(), "UsesList").item(0)->text(), u"Keyboard level 1, NLU key 7"_s);
+    EXPECT_EQ(child<QListWidget>(front(), "UsesList").item(0)->text(), u"Keyboard level 1, key 1"_s);
 }
 
 TEST_F(TableInFrameTest, ARestoredSafetyCopyShowsAtOnce)

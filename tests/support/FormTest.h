@@ -32,6 +32,14 @@ template <typename Object>
     return *found;
 }
 
+/// Waits until @p condition holds, a few seconds at most; QTRY_VERIFY and its like fail in programs of their
+/// own library only.
+template <typename Condition>
+[[nodiscard]] bool soon(Condition condition)
+{
+    return QTest::qWaitFor(condition, 3000);
+}
+
 inline void press(const QObject& form, QAnyStringView button)
 {
     QTest::mouseClick(&child<QAbstractButton>(form, button), Qt::LeftButton);

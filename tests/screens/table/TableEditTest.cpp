@@ -124,7 +124,8 @@ TEST_F(TableEditTest, ARefusedInputIsOpenAgainInItsCell)
 {
     goTo(0, 3);
     type("7x");
-    QTRY_COMPARE(QString::fromStdString(notice), u"PRICE1: \"7x\" is not a number from 0 up"_s);
+    EXPECT_TRUE(test::soon([this] { return notice == "PRICE1: \"7x\" is not a number from 0 up"; }))
+        << notice;
     auto* const box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
     ASSERT_NE(box, nullptr);
     EXPECT_EQ(box->text(), u"7x"_s);
