@@ -2,29 +2,20 @@
 #include "screens/table/TableWindow.h"
 
 #include "base/CustomerSettings.h"
-#include "base/LossQuestion.h"
-#include "register/PluNumber.h"
-#include "screens/SaveNotices.h"
+#include "platform/RuntimeFailure.h"
+#include "register/RegisterModel.h"
 #include "screens/table/ChoiceBar.h"
-#include "screens/table/PastedBlock.h"
 #include "screens/table/PendingPanel.h"
-#include "screens/table/SetFieldDialog.h"
 #include "screens/table/TableGrid.h"
 #include "screens/table/TableModel.h"
-#include "screens/table/TableSave.h"
 #include "screens/ToolMenu.h"
 #include "screens/UsesButton.h"
 #include "store/engine/ShortWait.h"
-#include "store/engine/WorkHistory.h"
 #include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FilteredList.h"
 #include "ui/FormKit.h"
-#include "ui/WaitPointer.h"
 
-#include <QClipboard>
-#include <QCloseEvent>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -34,7 +25,6 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -47,10 +37,6 @@ namespace
 
 /// At the usual font, in pixels.
 constexpr QSize usualSize(1040, 540);
-/// Lines that a box shows at most.
-constexpr qsizetype mostLines = 12;
-/// Changes that are kept for taking back, in all states of the list together.
-constexpr std::size_t mostEarlier = 100'000;
 
 } // namespace
 
@@ -141,6 +127,17 @@ void TableWindow::showColumn(int column, bool isShown)
     m_memory.keepHidden(m_screenFile, hidden);
 }
 
+/// About the current record, and about all.
+QHBoxLayout* TableWindow::makeRecordRow()
+{
+    auto* const row = new QHBoxLayout;
+    if (m_uses != nullptr)
+        row->addWidget(m_uses);
+    row->addStretch();
+    row->addWidget(m_count);
+    return row;
+}
+
 /// @return nullptr without tools.
 QPushButton* TableWindow::makeToolsButton(const TableTools& tools)
 {
@@ -159,15 +156,13 @@ void TableWindow::layOut(const TableTools& tools)
     auto* const setField = ui::makeButton(u"SetField"_s, u"Set a &Field..."_s, this);
     connect(setField, &QPushButton::clicked, this, &TableWindow::setField);
     QHBoxLayout* const buttons = ui::makeButtonRow({makeSaveButton(), exit}, {makeColumnsButton(), setField});
-    buttons->insertWidget(2, m_count);
-    if (m_uses != nullptr)
-        buttons->insertWidget(2, m_uses);
     if (QPushButton* const more = makeToolsButton(tools))
         buttons->insertWidget(2, more);
     auto* const column = new QVBoxLayout(this);
     column->setSpacing(ui::spacing::controlGap);
     column->addWidget(m_choices);
     column->addWidget(m_view, 1);
+    column->addLayout(makeRecordRow());
     column->addWidget(m_pending);
     column->addLayout(buttons);
 }
@@ -191,33 +186,6 @@ bool TableWindow::eventFilter(QObject* box, QEvent* event)
     return (isUndo && !m_choices->box().isUndoAvailable()) || QWidget::eventFilter(box, event);
 }
 
-void TableWindow::rememberEdits()
-{
-    const PendingEdits& edits = m_model->edits();
-    setWindowModified(!edits.isEmpty());
-    if (edits.isEmpty())
-        m_earlier.clear();
-    m_earlier.push_back(edits);
-    while (m_earlier.size() > 2 && m_earlier.size() * static_cast<std::size_t>(edits.size()) > mostEarlier)
-        m_earlier.erase(m_earlier.begin());
-}
-
-bool TableWindow::takeBackLatest()
-{
-    if (!hasEdits())
-        return false;
-    if (m_earlier.size() < 2) {
-        Q_EMIT noticeChanged(u"Choose other changes in the list below, and press Take Back"_s);
-        return true;
-    }
-    m_earlier.pop_back();
-    PendingEdits before = std::move(m_earlier.back());
-    m_earlier.pop_back();
-    m_model->changeEdits([&before](PendingEdits& edits) { edits = std::move(before); });
-    Q_EMIT noticeChanged(u"The latest change was taken back"_s);
-    return true;
-}
-
 void TableWindow::buildUses()
 {
     if (!canBeUsed(source().table))
@@ -237,85 +205,6 @@ std::optional<KeyUses> TableWindow::readUses(int atMost)
     } catch (const RuntimeFailure&) {
         return std::nullopt; // the button says so; the table can be used without them
     }
-}
-
-/// A save that stores nothing keeps the list.
-void TableWindow::save()
-{
-    const ui::WaitPointer wait;
-    ApplicationValues values = m_values;
-    values.databasePath = m_databasePath;
-    const TableSource& source = m_model->rows().source();
-    const auto key = std::ranges::find_if(source.columns, &TableColumn::isKey);
-    const QString record = recordName(m_caption, key == source.columns.end() ? QString() : key->label);
-    QString notice;
-    m_model->changeEdits([&](PendingEdits& edits) {
-        notice = saveEdits(*m_database, {source, m_caption, record, values, m_history.get()}, edits, m_boxes);
-    });
-    chooseAgain([this] { m_model->reload(); });
-    Q_EMIT noticeChanged(notice);
-    if (m_model->edits().isEmpty())
-        Q_EMIT stored();
-}
-
-bool TableWindow::mayPaste(const QStringList& refusals, std::size_t taken)
-{
-    if (refusals.isEmpty())
-        return true;
-    QStringList lines = refusals.first(qMin(mostLines, refusals.size()));
-    if (refusals.size() > mostLines)
-        lines += u"and %1 more"_s.arg(refusals.size() - mostLines);
-    const QString refused = u"These cells cannot be pasted:\r\r"_s + lines.join(u'\r');
-    if (taken > 0)
-        return askBeforeLoss(m_boxes, refused + u"\r\rPaste the other %1?"_s.arg(taken));
-    m_boxes.message(refused, pleaseCheck, BoxIcon::Exclamation);
-    return false;
-}
-
-/// A single cell goes into all chosen cells.
-void TableWindow::paste()
-{
-    const QVector<QStringList> cells = cellsOfText(QGuiApplication::clipboard()->text());
-    const bool isSingle = cells.size() == 1 && cells.first().size() == 1;
-    PasteTarget target{isSingle ? m_view->chosenRows() : m_view->rowsFromChoice(),
-                       m_view->columnsFromChoice()};
-    const auto rows = isSingle ? static_cast<qsizetype>(target.rows.size()) : 1;
-    PastePlan plan =
-        planPaste(*m_model, target, isSingle ? QVector<QStringList>(rows, cells.first()) : cells);
-    if (!mayPaste(plan.refusals, plan.edits.size()))
-        return Q_EMIT noticeChanged(u"Nothing was pasted"_s);
-    const auto pasted = plan.edits.size();
-    m_model->changeEdits([&](PendingEdits& edits) { edits.add(std::move(plan.edits)); });
-    Q_EMIT noticeChanged(u"Pasted %1 cells. Press Save Changes to store them"_s.arg(pasted));
-}
-
-/// In the chosen records, or in all that are shown if not more than one is chosen.
-void TableWindow::setField()
-{
-    std::vector<int> rows = m_view->chosenRows();
-    const bool areChosen = rows.size() > 1;
-    if (!areChosen)
-        rows = allRows();
-    const QString scope =
-        (areChosen ? u"the %1 chosen records"_s : u"all %1 records that are shown"_s).arg(rows.size());
-    SetFieldDialog dialog(*m_model, std::move(rows), m_view->currentIndex().column(), scope, this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    auto edits = dialog.takeEdits();
-    const auto count = edits.size();
-    m_model->changeEdits([&](PendingEdits& all) { all.add(std::move(edits)); });
-    Q_EMIT noticeChanged(u"Changed %1 records. Press Save Changes to store them"_s.arg(count));
-}
-
-void TableWindow::closeEvent(QCloseEvent* event)
-{
-    if (m_model->edits().isEmpty())
-        return;
-    const QString question = u"Changes in the table of %1 are not saved."_s.arg(m_caption);
-    const UnsavedAnswer answer = m_boxes.askToSave(question, u"Unsaved Changes"_s);
-    if (answer == UnsavedAnswer::Save)
-        save();
-    event->setAccepted(answer == UnsavedAnswer::Discard || m_model->edits().isEmpty());
 }
 
 /// Changes which rows are shown, or their order; the current record remains the current one if it is still

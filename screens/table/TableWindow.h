@@ -16,6 +16,7 @@
 #include <optional>
 #include <vector>
 
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -100,6 +101,7 @@ private:
     [[nodiscard]] QPushButton* makeColumnsButton();
     [[nodiscard]] QPushButton* makeSaveButton();
     void buildFilters();
+    [[nodiscard]] QHBoxLayout* makeRecordRow();
     [[nodiscard]] QPushButton* makeToolsButton(const TableTools& tools);
     void layOut(const TableTools& tools);
     void buildUses();
