@@ -26,7 +26,7 @@ TableTool addLikeThis(const TableSurroundings& around)
     return {u"AddLikeThis"_s, u"Add &Like This"_s, QKeySequence(u"Ctrl+D"_s), [around](TableWindow& table) {
                 const QString key = table.currentKey();
                 if (key.isEmpty())
-                    return Q_EMIT table.noticeChanged(u"There is no record to copy"_s);
+                    return Q_EMIT table.noticeChanged(u"Choose a record first"_s);
                 screens::OptionForm* const form = showOnScreen(around, table, key);
                 if (form != nullptr && form->recordKey() == key)
                     form->addLikeThis();
