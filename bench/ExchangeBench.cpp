@@ -1,9 +1,14 @@
 // Select All up and Select All down on a full register, with the real tools: how much of the time is the
-// program's own, which register files take it, and the share of the safety copy that is made first.
+// program's own, which register files take it, the shares of the safety copy that is made first and of the
+// ledger.
 #include "bench/Ratio.h"
 #include "customers/SafetyCopies.h"
 #include "exchange/ExchangeRunner.h"
+#include "exchange/UnsentChanges.h"
 #include "link/ToolRun.h"
+#include "platform/SilentBoxes.h"
+#include "records/RegisterLines.h"
+#include "records/TextImport.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
 #include "tests/support/ProgramFolder.h"
@@ -16,6 +21,7 @@
 #include <array>
 #include <cstdio>
 #include <map>
+#include <string>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -114,6 +120,28 @@ public:
     }
     /// The copy that an upload begins with, alone.
     void copy() { require(customers::copyBeforeJob(m_values, m_boxes, u"bench"_s), "copied"); }
+    /// What an exchange does for the ledger, alone.
+    double ledgerSeconds(exchange::Direction direction)
+    {
+        const auto lines = direction == exchange::Direction::Download ? allLines() : Lines();
+        exchange::LedgerRun ledger(m_values);
+        return bench::secondsOf([&] {
+            ledger.begin(direction, {}, 1);
+            for (const auto& row : exchange::downloadPlan()) {
+                ledger.beginFile(row.file);
+                direction == exchange::Direction::Upload ? ledger.fetched() : send(ledger, lines, row.file);
+            }
+            ledger.end();
+        });
+    }
+    /// One PLU of all has another price.
+    void changeOnePrice()
+    {
+        store::Database(m_values.databasePath)
+            .execute(u"update PLUDATA set PRICE1='77.77' where PLUNUMBER = "
+                     u"(select max(PLUNUMBER) from PLUDATA)"_s);
+    }
+    [[nodiscard]] exchange::AllChanges changes() const { return exchange::unsentChanges(m_values); }
     /// Removes a file from the register, so that only a send can restore it.
     void emptyRegister() { require(QFile::remove(pluFile()), "the register's PLUs go"); }
     void checkRegister()
@@ -123,6 +151,33 @@ public:
     }
 
 private:
+    using Lines = std::map<int, std::vector<std::string>>;
+
+    /// The lines of every file, made from its table.
+    Lines allLines()
+    {
+        SilentBoxes boxes;
+        store::Database database(m_values.databasePath);
+        const records::ProcedureContext context{m_values, boxes, {}};
+        Lines all;
+        for (const auto& file : records::registerFiles()) {
+            if (file.exporter == nullptr || database.openTable(QLatin1String(file.table)).recordCount() == 0)
+                continue;
+            records::forEachLine(
+                file, database, records::traitsOf(context),
+                [&](std::string_view line, const auto&) { all[file.number].emplace_back(line); });
+        }
+        return all;
+    }
+    static void send(exchange::LedgerRun& ledger, const Lines& lines, int file)
+    {
+        if (const auto found = lines.find(file); found != lines.end()) {
+            for (const std::string& line : found->second)
+                ledger.addLine(line);
+        }
+        ledger.sending();
+        ledger.sent();
+    }
     link::RunOutside outside(Meter& meter)
     {
         return {.runAndWait = [&](const QString& line) { return meter.tool(m_values, line); },
@@ -152,9 +207,11 @@ void printSplit(const Meter& meter)
 
 /// The time of an iteration is the program's own; the counter holds that of the tools with their starts.
 template <typename Before, typename After>
-void selectAll(benchmark::State& state, Shop& shop, bool (exchange::ExchangeRunner::*sequence)(),
-               Before before, After after)
+void selectAll(benchmark::State& state, Shop& shop, exchange::Direction direction, Before before, After after)
 {
+    const auto sequence = direction == exchange::Direction::Upload ? &exchange::ExchangeRunner::UploadData
+                                                                   : &exchange::ExchangeRunner::downloaddata;
+    double ledger = 0;
     double tools = 0;
     double own = 0;
     double copy = 0;
@@ -164,6 +221,7 @@ void selectAll(benchmark::State& state, Shop& shop, bool (exchange::ExchangeRunn
         copy += bench::secondsOf([&] { shop.copy(); });
         last = shop.run(sequence);
         after();
+        ledger += shop.ledgerSeconds(direction);
         state.SetIterationTime(last.own());
         own += last.own();
         tools += last.tools();
@@ -171,6 +229,8 @@ void selectAll(benchmark::State& state, Shop& shop, bool (exchange::ExchangeRunn
     state.counters["tools_ms"] = tools * 1000 / static_cast<double>(state.iterations());
     state.counters["copy_ms"] = copy * 1000 / static_cast<double>(state.iterations());
     state.counters["copy_share"] = copy / (own + tools);
+    state.counters["ledger_ms"] = ledger * 1000 / static_cast<double>(state.iterations());
+    state.counters["ledger_share"] = ledger / (own + tools);
     printSplit(last);
 }
 
@@ -180,7 +240,7 @@ void selectAllUp(benchmark::State& state)
     // What is copied is the full programme, as before any upload but the first.
     shop.run(&exchange::ExchangeRunner::UploadData);
     selectAll(
-        state, shop, &exchange::ExchangeRunner::UploadData, [] {}, [&] { shop.checkTable(); });
+        state, shop, exchange::Direction::Upload, [] {}, [&] { shop.checkTable(); });
 }
 
 void selectAllDown(benchmark::State& state)
@@ -188,12 +248,23 @@ void selectAllDown(benchmark::State& state)
     Shop shop(static_cast<int>(state.range()));
     shop.run(&exchange::ExchangeRunner::UploadData);
     selectAll(
-        state, shop, &exchange::ExchangeRunner::downloaddata, [&] { shop.emptyRegister(); },
+        state, shop, exchange::Direction::Download, [&] { shop.emptyRegister(); },
         [&] { shop.checkRegister(); });
+}
+
+/// The dots of the exchange dialog.
+void lookForChanges(benchmark::State& state)
+{
+    Shop shop(static_cast<int>(state.range()));
+    shop.run(&exchange::ExchangeRunner::UploadData);
+    shop.changeOnePrice();
+    for (auto _ : state)
+        require(shop.changes().at(exchange::pluBox).records == 1, "one record is not sent");
 }
 
 } // namespace
 
+BENCHMARK(lookForChanges)->Arg(10000)->Arg(mostPlus)->Unit(benchmark::kMillisecond);
 BENCHMARK(selectAllUp)
     ->Arg(10000)
     ->Arg(mostPlus)

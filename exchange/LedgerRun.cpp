@@ -9,7 +9,6 @@
 #include "platform/SilentBoxes.h"
 #include "records/FileProcedures.h"
 #include "register/Firmware.h"
-#include "store/engine/Database.h"
 
 #include <algorithm>
 
@@ -61,6 +60,7 @@ void LedgerRun::end()
     if (m_hasBegun)
         m_ledger.save(m_values);
     m_hasBegun = false;
+    m_database.reset();
 }
 
 void LedgerRun::beginFile(int file)
@@ -100,8 +100,9 @@ void LedgerRun::fetched()
 {
     if (m_isDoubtful)
         return;
-    store::Database database(m_values.databasePath);
-    auto lines = sendContent(m_values, database, m_file, latestGeneration(m_values));
+    if (!m_database)
+        m_database.emplace(m_values.databasePath);
+    auto lines = sendContent(m_values, *m_database, m_file, latestGeneration(m_values));
     const LedgerEntry known = knownEntry(m_file);
     LedgerEntry entry = entryOf(std::move(lines).value_or(Digests()));
     entry.registers = std::min(entry.registers, known.registers);

@@ -4,6 +4,7 @@
 #include "base/ApplicationValues.h"
 #include "exchange/ExchangeLedger.h"
 #include "exchange/UnfinishedExchange.h"
+#include "store/engine/Database.h"
 
 #include <QList>
 
@@ -48,6 +49,7 @@ private:
 
     const ApplicationValues& m_values;
     ExchangeLedger m_ledger;
+    std::optional<store::Database> m_database; ///< opened once, which takes longer than most tables
     bool m_hasBegun = false;
     int m_registers = 0;
     int m_file = 0;
