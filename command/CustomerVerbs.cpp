@@ -1,11 +1,10 @@
 // Customers: which there are, and whether one is sound.
 #include "base/CustomerSettings.h"
+#include "command/CustomerList.h"
 #include "command/InstallationCheck.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
-#include "customers/CustomerFolders.h"
 #include "customers/CustomerLog.h"
-#include "customers/SafetyCopies.h"
 #include "customers/SetupSettings.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
@@ -14,7 +13,6 @@
 #include "store/catalogue/SalesTables.h"
 #include "store/engine/BoundQuery.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -66,36 +64,16 @@ QVariant salesInWords(const QString& database)
     }
 }
 
-/// Why no command takes a customer of this name, or what it needs first; empty when commands do.
-QString noteOn(const Workplace& workplace, const QString& name)
-{
-    const QStringList folders = customers::foldersNamed(workplace.appPath, name);
-    if (folders.isEmpty())
-        return u"rename the folder: no command takes its name"_s;
-    return store::isFormerDatabase(customers::customerDatabase(folders.front()))
-               ? u"made by the former program: convert it"_s
-               : QString();
-}
-
-/// Whether a folder is a customer's, also when the database was lost.
-bool isCustomer(const QString& folder)
-{
-    return pathExists(customers::customerDatabase(folder)) || pathExists(joinPath(folder, u"setup.ini"_s)) ||
-           !customers::safetyCopies(folder).isEmpty();
-}
-
 QVariantList customerRow(const Workplace& workplace, const QString& name)
 {
-    ApplicationValues values;
-    values.appPath = workplace.appPath;
-    values.customerPath = existingPath(joinPath(workplace.appPath, name));
+    const ApplicationValues values = listedCustomer(workplace, name);
     const auto exchange =
         customers::lastLogged(values.customerPath, {u"upload"_s, u"download"_s}, customers::completeResult);
     return {name,
             settingInWords(values, "ECRModel"_L1),
             settingInWords(values, "NoOfECRs"_L1),
             exchange ? QVariant(exchange->begun) : QVariant(),
-            salesInWords(customers::customerDatabase(values.customerPath)),
+            salesInWords(values.databasePath),
             noteOn(workplace, name)};
 }
 
@@ -135,11 +113,8 @@ QStringList faultySettings(const ApplicationValues& values)
 void listCustomers(const Workplace& workplace, const Invocation& /*words*/)
 {
     Listing listing({u"Name"_s, u"Model"_s, u"Registers"_s, u"Last exchange"_s, u"Last sales"_s, u"Note"_s});
-    // Names as they are on disk: those of the window, in upper case, would have to be looked for.
-    for (const QString& name : customers::customerNames(workplace.appPath)) {
-        if (isCustomer(QDir(workplace.appPath).filePath(name)))
-            listing.add(customerRow(workplace, name));
-    }
+    for (const QString& name : allCustomers(workplace))
+        listing.add(customerRow(workplace, name));
     workplace.show(listing);
 }
 

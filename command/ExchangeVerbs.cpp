@@ -116,10 +116,35 @@ std::set<int> boxesOf(const QStringList& names)
     return boxes;
 }
 
+/// What is left of the last exchange; nothing if it was complete or went the other way.
+std::set<int> unfinishedBoxes(const ApplicationValues& values, exchange::Direction direction)
+{
+    const auto unfinished = exchange::unfinishedExchange(values);
+    if (!unfinished || unfinished->direction != direction)
+        return {};
+    return {unfinished->boxes.begin(), unfinished->boxes.end()};
+}
+
+/// The boxes that the command line names.
+std::set<int> wantedBoxes(const Invocation& words, const ApplicationValues& values,
+                          exchange::Direction direction)
+{
+    const QStringList names = words.operands.mid(1);
+    if (!words.has("unfinished"_L1))
+        return boxesOf(names);
+    if (!names.isEmpty())
+        throw CommandError(ExitCode::Usage, u"Name boxes or use --unfinished, not both."_s);
+    return unfinishedBoxes(values, direction);
+}
+
 void exchangeWith(const Workplace& workplace, const Invocation& words, exchange::Direction direction)
 {
     const ApplicationValues values = takeCustomer(workplace, words.operands.front());
-    const std::set<int> boxes = boxesOf(words.operands.mid(1));
+    const std::set<int> boxes = wantedBoxes(words, values, direction);
+    if (boxes.empty()) {
+        printStep(u"Nothing is unfinished."_s);
+        return;
+    }
     const auto lock = lockFor(workplace, values);
     const ExchangeEnd end = moveBoxes(workplace, values, boxes, direction);
     if (end.code != ExitCode::Done)

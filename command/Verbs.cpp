@@ -29,15 +29,19 @@ constexpr auto newOptions = std::to_array<OptionDefinition>({
     {"registers"_L1, "N"_L1, "how many registers, 1 to 32"_L1},
     {"port"_L1, "N"_L1, "the serial port, 1 to 4"_L1},
 });
+constexpr OptionDefinition unfinishedOption{
+    "unfinished"_L1, {}, "what is left of the last exchange, if it went this way and did not finish"_L1};
 constexpr auto fetchOptions = std::to_array<OptionDefinition>({
     {"accept-fewer"_L1,
      {},
      "replace a table also with a file that has fewer than half of its records, or is cut off"_L1},
+    unfinishedOption,
 });
 constexpr auto sendOptions = std::to_array<OptionDefinition>({
     {"overwrite-points"_L1,
      {},
      "send PLUs also when their points were not uploaded; the registers lose the points that they hold"_L1},
+    unfinishedOption,
 });
 constexpr auto collectOptions = std::to_array<OptionDefinition>({
     {"clear-first"_L1, {}, "first clear sales that are stored and were not cleared at all registers"_L1},
@@ -89,6 +93,8 @@ constexpr auto publishOptions = std::to_array<OptionDefinition>({
 // clang-format off
 constexpr auto all = std::to_array<Verb>({
     {"customers"_L1, {}, 0, 0, {}, "Lists the customers: model, registers, last exchange, last day of sales."_L1, listCustomers},
+    {"status"_L1, "[CUSTOMER...]"_L1, 0, -1, {},
+     "Lists how the shops stand: last exchange, records not sent to all registers, sales not cleared, days without a collection. Changes nothing and waits for no other run."_L1, showStatus},
     {"check"_L1, "CUSTOMER"_L1, 1, 1, {},
      "Looks for damage in the database, for missing tables and fields, for settings that cannot be, and for mistakes in the screens and reports of this installation."_L1, checkCustomer},
     {"new"_L1, "CUSTOMER"_L1, 1, 1, newOptions,

@@ -14,6 +14,7 @@ inline constexpr OptionDefinition mapOption{
 
 // All throw CommandError, and what the product throws.
 void listCustomers(const Workplace& workplace, const Invocation& words);
+void showStatus(const Workplace& workplace, const Invocation& words);
 void checkCustomer(const Workplace& workplace, const Invocation& words);
 void newCustomer(const Workplace& workplace, const Invocation& words);
 void setSettings(const Workplace& workplace, const Invocation& words);

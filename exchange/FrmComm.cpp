@@ -45,7 +45,7 @@ QString registersOf(const ApplicationValues& values)
 
 FrmComm::FrmComm(QString exchangeMode, const ApplicationValues& values, Boxes& boxes, QWidget* parent)
     : LinkForm("FrmComm", "&OK", values, boxes, parent), m_exchangeMode(std::move(exchangeMode)),
-      m_way(new QLabel(this))
+      m_way(new QLabel(this)), m_changes(new QLabel(this))
 {
     setModal(true);
     m_way->setObjectName(u"Way"_s);
@@ -60,7 +60,9 @@ FrmComm::FrmComm(QString exchangeMode, const ApplicationValues& values, Boxes& b
     content->setSpacing(ui::spacing::groupGap);
     content->addWidget(m_way);
     content->addWidget(areaOfBoxes());
-    layOut(content, {CSCmdBtn2});
+    content->addWidget(m_changes);
+    buildTickChanged();
+    layOut(content, isUpload() ? QList{CSCmdBtn2} : QList{CSCmdBtn2, m_tickChanged});
     check1.front()->setFocus();
 }
 
@@ -70,7 +72,19 @@ void FrmComm::buildBoxes()
         const auto index = static_cast<std::size_t>(box);
         check1[index] = new QCheckBox(QLatin1String(boxCaptions()[index]), this);
         ui::nameControl(*check1[index], u"check1_%1"_s.arg(box));
+        m_dots[index] = new ChangeDot(this);
+        m_dots[index]->setObjectName(u"Dot_%1"_s.arg(box));
     }
+    m_changes->setObjectName(u"Changes"_s);
+}
+
+void FrmComm::buildTickChanged()
+{
+    if (isUpload())
+        return;
+    m_tickChanged = addButton("TickChanged", "Tick &What Changed");
+    m_tickChanged->setEnabled(false);
+    connect(m_tickChanged, &QPushButton::clicked, this, &FrmComm::tickChanged);
 }
 
 /// The buttons remain reachable on a small screen in large type.
@@ -89,8 +103,13 @@ QLayout* FrmComm::columnOfBoxes(int first, int end) const
 {
     auto* column = new QVBoxLayout;
     column->setSpacing(ui::spacing::controlGap);
-    for (int box = first; box < end; ++box)
-        column->addWidget(check1[static_cast<std::size_t>(box)]);
+    for (auto box = static_cast<std::size_t>(first); box < static_cast<std::size_t>(end); ++box) {
+        auto* const row = new QHBoxLayout;
+        row->setSpacing(ui::spacing::controlGap);
+        row->addWidget(m_dots[box]);
+        row->addWidget(check1[box], 1);
+        column->addLayout(row);
+    }
     column->addStretch();
     return column;
 }
@@ -98,6 +117,11 @@ QLayout* FrmComm::columnOfBoxes(int first, int end) const
 bool FrmComm::isUpload() const
 {
     return m_exchangeMode == "UPLOAD"_L1;
+}
+
+Direction FrmComm::direction() const
+{
+    return isUpload() ? Direction::Upload : Direction::Download;
 }
 
 void FrmComm::showWay()
@@ -130,14 +154,72 @@ void FrmComm::showEvent(QShowEvent* event)
 {
     showWay();
     if (!event->spontaneous())
-        tellUnfinishedExchange(m_values, m_boxes);
+        tickUnfinished();
     LinkForm::showEvent(event);
+    lookForChanges();
+}
+
+void FrmComm::tickUnfinished()
+{
+    for (const int box : offerUnfinishedExchange(m_values, direction(), m_boxes))
+        setTicked(box, true);
+}
+
+void FrmComm::lookForChanges()
+{
+    m_changes->setText(u"Looking for changes that were not sent ..."_s);
+    m_look.look(m_values);
+}
+
+/// An upload loses what was changed here, but nothing that only some registers have.
+void FrmComm::showChanges(const AllChanges& changes)
+{
+    bool isAny = false;
+    for (int box = 0; box < boxCount; ++box) {
+        BoxChanges shown = changes.at(static_cast<std::size_t>(box));
+        if (isUpload())
+            shown.mayBeAtSome = shown.isNotAtAll = false;
+        showChanges(box, shown);
+        isAny = isAny || shown.isUnsent();
+    }
+    if (m_tickChanged != nullptr)
+        m_tickChanged->setEnabled(isAny);
+    if (!isAny) {
+        m_changes->setText(u"There are no changes that were not sent."_s);
+    } else if (isUpload()) {
+        m_changes->setText(u"A dot marks changes that were not sent: an upload replaces them."_s);
+    } else {
+        m_changes->setText(u"A dot marks what was not sent to all registers."_s);
+    }
+}
+
+void FrmComm::showChanges(int box, const BoxChanges& changes)
+{
+    const auto index = static_cast<std::size_t>(box);
+    const QString words = changesInWords(changes);
+    check1.at(index)->setToolTip(words);
+    check1.at(index)->setAccessibleDescription(words);
+    m_dots.at(index)->setToolTip(words);
+    const auto mark = changes.mayBeAtSome ? ChangeDot::Mark::Ring : ChangeDot::Mark::Filled;
+    m_dots.at(index)->setMark(changes.isUnsent() ? mark : ChangeDot::Mark::None);
+}
+
+void FrmComm::tickChanged()
+{
+    for (int box = 0; box < boxCount; ++box) {
+        if (m_dots.at(static_cast<std::size_t>(box))->mark() != ChangeDot::Mark::None)
+            setTicked(box, true);
+    }
 }
 
 void FrmComm::run()
 {
     // A finished run shows what it moved and no step; the ticks that are left say what did not move.
-    const auto ended = qScopeGuard([this] { StatusBar1->setStep({}); });
+    m_look.stop();
+    const auto ended = qScopeGuard([this] {
+        StatusBar1->setStep({});
+        lookForChanges();
+    });
     exchange();
 }
 
@@ -152,8 +234,7 @@ void FrmComm::exchange()
         return;
     ExchangeRunner runner(m_values, link, *this, outside());
     if (result == link::modemFailed) {
-        runner.logFailedCall(isUpload() ? Direction::Upload : Direction::Download,
-                             link::resultInWords(result));
+        runner.logFailedCall(direction(), link::resultInWords(result));
         hangUp();
         endBeforeLastBox();
         m_boxes.message(u"Modem Failure"_s, u"Communications Error"_s);

@@ -1,7 +1,10 @@
 // The exchange dialog: the user ticks what is to move between database and registers and presses OK.
 #pragma once
 
+#include "exchange/ChangeDot.h"
+#include "exchange/ChangesLook.h"
 #include "exchange/ExchangeBoxes.h"
+#include "exchange/UnfinishedExchange.h"
 #include "link/LinkForm.h"
 
 #include <array>
@@ -28,18 +31,25 @@ protected:
     [[nodiscard]] bool mayStart() override;
     void run() override;
     [[nodiscard]] QString leavingNotice() const override;
-    /// First shows what the last exchange left undone.
+    /// First shows what the last exchange left undone, and offers to tick it.
     void showEvent(QShowEvent* event) override;
 
 private:
     [[nodiscard]] bool isUpload() const;
+    [[nodiscard]] Direction direction() const;
     void buildBoxes();
+    void buildTickChanged();
     void showWay();
     [[nodiscard]] QString wayInWords() const;
     [[nodiscard]] QWidget* areaOfBoxes() const;
     [[nodiscard]] QLayout* columnOfBoxes(int first, int end) const;
 
     void selectAll();
+    void tickUnfinished();
+    void lookForChanges();
+    void showChanges(const AllChanges& changes);
+    void showChanges(int box, const BoxChanges& changes);
+    void tickChanged();
     void exchange();
     void noteSerialPort();
     void runSequence(ExchangeRunner& runner);
@@ -51,6 +61,12 @@ private:
     QLabel* m_way; ///< the customer of the tables, and the registers
     std::array<QCheckBox*, boxCount> check1{};
     QPushButton* CSCmdBtn2 = nullptr;
+    std::array<ChangeDot*, boxCount> m_dots{};
+    QLabel* m_changes;                    ///< what the dots mean
+    QPushButton* m_tickChanged = nullptr; ///< of a download
+    ChangesLook m_look{[this](const AllChanges& changes) {
+        showChanges(changes);
+    }};
 };
 
 } // namespace norvane::exchange

@@ -8,8 +8,6 @@
 
 #include <QStringList>
 
-#include <optional>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::exchange
@@ -47,6 +45,16 @@ QList<int> boxesOf(const QString& numbers)
     return boxes;
 }
 
+QString tickQuestion(Direction direction)
+{
+    return direction == Direction::Upload
+               ? u"Tick these boxes?"_s
+               : u"Tick these boxes? A download always goes to all registers. Those that have it already get "
+                 u"it once more, which does no harm."_s;
+}
+
+} // namespace
+
 std::optional<UnfinishedExchange> unfinishedExchange(const ApplicationValues& values)
 {
     const QStringList words = link::readNote(values, section, unfinishedKey).split(u' ');
@@ -57,8 +65,6 @@ std::optional<UnfinishedExchange> unfinishedExchange(const ApplicationValues& va
     return exchange;
 }
 
-} // namespace
-
 void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exchange)
 {
     const QStringList words{directionWord(exchange.direction), exchange.started.toString(Qt::ISODate),
@@ -66,16 +72,19 @@ void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exc
     link::writeNote(values, section, unfinishedKey, exchange.boxes.isEmpty() ? QString() : words.join(u' '));
 }
 
-void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes)
+QList<int> offerUnfinishedExchange(const ApplicationValues& values, Direction direction, Boxes& boxes)
 {
     const auto exchange = unfinishedExchange(values);
     if (!exchange)
-        return;
-    const QString direction = exchange->direction == Direction::Upload ? u"upload"_s : u"download"_s;
-    boxes.message(u"The %1 of %2 did not finish.\r\rStill to do: %3.\r\r"
-                  u"To finish it, tick these boxes for the %1."_s.arg(direction, shownTime(exchange->started),
-                                                                      boxNames(exchange->boxes)),
-                  pleaseCheck, BoxIcon::Exclamation);
+        return {};
+    const QString name = exchange->direction == Direction::Upload ? u"upload"_s : u"download"_s;
+    const QString left = u"The %1 of %2 did not finish.\r\rStill to do: %3.\r\r"_s.arg(
+        name, shownTime(exchange->started), boxNames(exchange->boxes));
+    if (exchange->direction == direction)
+        return boxes.ask(left + tickQuestion(direction), pleaseCheck) ? exchange->boxes : QList<int>();
+    boxes.message(left + u"To finish it, tick these boxes for the %1."_s.arg(name), pleaseCheck,
+                  BoxIcon::Exclamation);
+    return {};
 }
 
 } // namespace norvane::exchange

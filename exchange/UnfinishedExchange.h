@@ -7,6 +7,8 @@
 #include <QDateTime>
 #include <QList>
 
+#include <optional>
+
 namespace norvane::exchange
 {
 
@@ -21,7 +23,11 @@ struct UnfinishedExchange {
 
 /// Remembers @p exchange in place of any other; one without boxes is finished and forgotten.
 void noteExchange(const ApplicationValues& values, const UnfinishedExchange& exchange);
-/// Shows which boxes of the last exchange are still to do, and since when; nothing if there are none.
-void tellUnfinishedExchange(const ApplicationValues& values, Boxes& boxes);
+/// The last exchange, if boxes of it are still to do.
+[[nodiscard]] std::optional<UnfinishedExchange> unfinishedExchange(const ApplicationValues& values);
+/// Shows which boxes of the last exchange are still to do, and since when; nothing if there are none. If it
+/// went in @p direction, asks whether to do them now.
+/// @return the boxes to tick: those of the exchange after a Yes.
+QList<int> offerUnfinishedExchange(const ApplicationValues& values, Direction direction, Boxes& boxes);
 
 } // namespace norvane::exchange

@@ -221,10 +221,50 @@ TEST_F(FrmCommTest, ShowsAtTheNextOpeningWhatAnExchangeLeftUndone)
              {u"The upload of "_s + today, u"Still to do: All System Options, All Messages.\r"_s})
             EXPECT_TRUE(boxes.shown[0].text.contains(part)) << boxes.shown[0].text.toStdString();
     }
+    for (const int index : {4, 6})
+        box(index).setChecked(false);
+    reopen();
+    EXPECT_FALSE(box(4).isChecked()) << "No ticks nothing";
+    boxes.answers = {true};
+    reopen();
+    EXPECT_TRUE(box(4).isChecked() && box(6).isChecked() && !box(2).isChecked());
     folder.setFaults("");
     upload();
     reopen();
     EXPECT_TRUE(boxes.shown.empty());
+}
+
+/// Waits for the look in the background, then takes what the dialog says below its boxes.
+std::string changesIn(const FrmComm& dialog)
+{
+    const auto& label = child<QLabel>(dialog, "Changes");
+    EXPECT_TRUE(QTest::qWaitFor([&label] { return !label.text().startsWith("Looking"_L1); }, 30000));
+    return label.text().toStdString();
+}
+
+TEST_F(FrmCommTest, MarksWhatWasNotSentAndTicksIt)
+{
+    box(2).click();
+    upload();
+    EXPECT_EQ(changesIn(form), "There are no changes that were not sent.");
+    store::Database(values.databasePath).execute(u"update GROUPS set DESCRIPTION='Mine' where GROUPNO < 3"_s);
+    form.hide();
+    form.show();
+    EXPECT_EQ(changesIn(form), "A dot marks changes that were not sent: an upload replaces them.");
+    EXPECT_EQ(box(2).accessibleDescription(), u"2 records not sent");
+    EXPECT_EQ(box(2).toolTip(), u"2 records not sent");
+    EXPECT_EQ(box(4).accessibleDescription(), QString());
+
+    FrmComm download(u"DOWNLOAD"_s, values, boxes);
+    download.show();
+    EXPECT_EQ(changesIn(download), "A dot marks what was not sent to all registers.");
+    test::press(download, "TickChanged");
+    for (int index = 0; index < boxCount; ++index)
+        EXPECT_EQ(child<QCheckBox>(download, u"check1_%1"_s.arg(index)).isChecked(), index == 2);
+    test::press(download, "Communicate");
+    EXPECT_EQ(changesIn(download), "There are no changes that were not sent.");
+    EXPECT_FALSE(child<QPushButton>(download, "TickChanged").isEnabled());
+    EXPECT_EQ(child<QCheckBox>(download, "check1_2").accessibleDescription(), QString());
 }
 
 TEST_F(FrmCommTest, KeepsTheFormerCopyOfAFileThatComesEmpty)

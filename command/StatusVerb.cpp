@@ -1,0 +1,102 @@
+// How the shops stand: the last exchange, what was not sent, sales that were not cleared or collected.
+#include "command/CustomerList.h"
+#include "command/Verbs.h"
+#include "customers/CustomerLog.h"
+#include "exchange/UnsentChanges.h"
+#include "platform/RuntimeFailure.h"
+#include "sales/UnclearedSales.h"
+
+#include <QDate>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::command
+{
+namespace
+{
+
+/// What was not sent, of all boxes together.
+struct Unsent {
+    qint64 records = 0;
+    int files = 0;
+    QList<int> boxes;
+};
+
+Unsent unsentOf(const ApplicationValues& values)
+{
+    Unsent unsent;
+    const exchange::AllChanges changes = exchange::unsentChanges(values);
+    for (int box = 0; box < exchange::boxCount; ++box) {
+        const auto& changed = changes.at(static_cast<std::size_t>(box));
+        unsent.records += changed.records;
+        unsent.files += changed.files;
+        if (changed.isUnsent())
+            unsent.boxes << box;
+    }
+    return unsent;
+}
+
+/// What its notes and log say, which needs no database.
+QVariantList exchangeOf(const ApplicationValues& values)
+{
+    const auto last = customers::lastLogged(values.customerPath, {u"upload"_s, u"download"_s});
+    if (!last)
+        return {{}, {}, {}};
+    return {last->begun, u"%1, %2"_s.arg(last->work, last->registers), last->result};
+}
+
+/// A clock that was set back has no days before today.
+QVariant daysWithoutCollection(const ApplicationValues& values)
+{
+    const QDateTime stored = sales::readLastCollection(values).stored;
+    if (!stored.isValid())
+        return {};
+    return std::max(qint64{0}, stored.date().daysTo(QDate::currentDate()));
+}
+
+QVariant unclearedSince(const ApplicationValues& values)
+{
+    const auto uncleared = sales::unclearedCollection(values);
+    return uncleared ? QVariant(uncleared->stored) : QVariant();
+}
+
+/// @throws RuntimeFailure if the database or the settings cannot be read.
+QVariantList databaseOf(const ApplicationValues& values)
+{
+    const Unsent unsent = unsentOf(values);
+    return {unsent.records, unsent.files, exchange::boxNames(unsent.boxes), unclearedSince(values)};
+}
+
+QVariantList statusRow(const Workplace& workplace, const ApplicationValues& values)
+{
+    QVariantList ofDatabase{{}, {}, {}, {}};
+    QString note = noteOn(workplace, values.customerName);
+    try {
+        if (note.isEmpty())
+            ofDatabase = databaseOf(values);
+    } catch (const RuntimeFailure& failure) {
+        note = failure.text().simplified();
+    }
+    return QVariantList{values.customerName} + exchangeOf(values) + ofDatabase +
+           QVariantList{daysWithoutCollection(values), note};
+}
+
+} // namespace
+
+void showStatus(const Workplace& workplace, const Invocation& words)
+{
+    Listing listing({u"Name"_s, u"Last exchange"_s, u"Direction"_s, u"Result"_s, u"Records not sent"_s,
+                     u"Files not sent"_s, u"Boxes not sent"_s, u"Sales not cleared"_s,
+                     u"Days without collection"_s, u"Note"_s});
+    if (words.operands.isEmpty()) {
+        for (const QString& name : allCustomers(workplace))
+            listing.add(statusRow(workplace, listedCustomer(workplace, name)));
+    }
+    for (const QString& name : words.operands)
+        listing.add(statusRow(workplace, findCustomer(workplace, name)));
+    workplace.show(listing);
+}
+
+} // namespace norvane::command
