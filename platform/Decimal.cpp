@@ -84,17 +84,26 @@ std::string pointed(std::string digits, int places)
     return digits;
 }
 
-Decimal fromScanned(const ScannedNumber& number)
+/// @return nothing if it has too many digits, those of 1e20 included.
+std::optional<Decimal> fittingNumber(const ScannedNumber& number)
 {
     int scale = number.scale;
     const auto digits = significant(number.digits, scale);
-    if (digits.size() > mostDigits)
-        failOverflow();
+    if (static_cast<int>(digits.size()) - std::min(scale, 0) > mostDigits)
+        return std::nullopt;
     std::int64_t coefficient = 0;
     addDigits(coefficient, digits);
     if (number.negative)
         coefficient = -coefficient;
     return Decimal(coefficient, scale).shifted(0);
+}
+
+Decimal fromScanned(const ScannedNumber& number)
+{
+    const auto fitting = fittingNumber(number);
+    if (!fitting)
+        failOverflow();
+    return *fitting;
 }
 
 } // namespace
@@ -120,6 +129,14 @@ std::optional<Decimal> Decimal::parse(std::string_view text)
         return spelledPlainly;
     const auto number = scanWholeNumber(text);
     return number ? std::optional(fromScanned(*number)) : std::nullopt;
+}
+
+std::optional<Decimal> Decimal::tryParse(std::string_view text)
+{
+    if (const auto spelledPlainly = plain(text))
+        return spelledPlainly;
+    const auto number = scanWholeNumber(text);
+    return number ? fittingNumber(*number) : std::nullopt;
 }
 
 Decimal Decimal::leading(std::string_view text)

@@ -27,8 +27,10 @@ public:
     /// @return nothing for any other form and for more than 18 digits.
     [[nodiscard]] static std::optional<Decimal> plain(std::string_view text);
     /// Reads a whole text such as "-12.340" (blanks around it allowed). @return nothing if it is not a
-    /// number.
+    /// number. @throws RuntimeFailure with Failure::Overflow for a number of more than 18 digits.
     [[nodiscard]] static std::optional<Decimal> parse(std::string_view text);
+    /// The same for what a user may type: nothing also for a number of more than 18 digits.
+    [[nodiscard]] static std::optional<Decimal> tryParse(std::string_view text);
     /// The number at the start of @p text, blanks skipped: "12abc" is 12, and "x", which has none, is 0.
     [[nodiscard]] static Decimal leading(std::string_view text);
     /// The shortest decimal that converts to the binary @p number.

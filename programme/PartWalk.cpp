@@ -35,8 +35,8 @@ std::string_view withoutZeros(std::string_view digits)
 
 bool isSamePrice(const std::string& one, const std::string& other)
 {
-    const auto first = Decimal::parse(one.empty() ? "0" : one);
-    const auto second = Decimal::parse(other.empty() ? "0" : other);
+    const auto first = Decimal::tryParse(one.empty() ? "0" : one);
+    const auto second = Decimal::tryParse(other.empty() ? "0" : other);
     return first && second && *first == *second;
 }
 
@@ -53,7 +53,7 @@ QString shownValue(FieldType type, bool isPrice, const Value& value)
     constexpr int priceDecimals = 2;
     if (type == FieldType::YesNo)
         return value.isTrue() ? u"Yes"_s : u"No"_s;
-    const auto price = isPrice ? Decimal::parse(value.toUtf8()) : std::nullopt;
+    const auto price = isPrice ? Decimal::tryParse(value.toUtf8()) : std::nullopt;
     if (price && price->scale() <= priceDecimals)
         return QString::fromStdString(price->text(priceDecimals));
     return value.toText().trimmed();

@@ -56,7 +56,7 @@ QString formatted(const store::Value& value, const QString& format)
 {
     QString text = value.toText();
     const QString zeros = zerosOf(format);
-    const auto number = zeros.isEmpty() ? std::nullopt : Decimal::parse(text.toStdString());
+    const auto number = zeros.isEmpty() ? std::nullopt : Decimal::tryParse(text.toStdString());
     if (!number)
         return text;
     const QString shown = formatNumber(text, zeros);

@@ -30,12 +30,12 @@ class SameValue
 {
 public:
     explicit SameValue(const QString& value)
-        : m_text(value.trimmed()), m_number(Decimal::parse(value.toStdString()))
+        : m_text(value.trimmed()), m_number(Decimal::tryParse(value.toStdString()))
     {
     }
     [[nodiscard]] bool operator()(const QString& other) const
     {
-        const auto number = m_number ? Decimal::parse(other.toStdString()) : std::nullopt;
+        const auto number = m_number ? Decimal::tryParse(other.toStdString()) : std::nullopt;
         return number ? *number == *m_number : other.trimmed() == m_text;
     }
 

@@ -96,7 +96,7 @@ CellInput numberInput(const TableColumn& column, QString text)
     const auto points = text.count(u'.');
     if (std::ranges::count_if(text, isDigit) + points != text.size() || points > 1 || text == u"."_s)
         return refused(u"is not a number from 0 up"_s);
-    const auto number = numberOfText(text.toStdString());
+    const auto number = Decimal::tryParse(text.toStdString());
     return number ? cellInput(column, *number)
                   : refused(u"has more than %1 digits"_s.arg(Decimal::mostDigits));
 }
@@ -105,7 +105,7 @@ CellInput numberInput(const TableColumn& column, QString text)
 CellInput listInput(const TableColumn& column, const QString& text)
 {
     const QString sought = text.simplified();
-    const auto number = numberOfText(sought.toStdString());
+    const auto number = Decimal::tryParse(sought.toStdString());
     const auto isMeant = [&](const ListEntry& entry) {
         const QString shown = entry.shown.simplified();
         return (number && entry.value.toDecimal() == *number) ||

@@ -27,7 +27,7 @@ std::optional<Decimal> signedNumber(const QString& typed)
     QString text = typed.trimmed().replace(u',', u'.');
     if (text.startsWith(u'+'))
         text.remove(0, 1);
-    return text.isEmpty() ? std::nullopt : numberOfText(text.toStdString());
+    return text.isEmpty() ? std::nullopt : Decimal::tryParse(text.toStdString());
 }
 
 /// The new numbers of a change by amount or per cent.

@@ -159,6 +159,11 @@ TEST(Decimal, PricesSurviveAConversionToTheNearestBinaryNumber)
     }
     // At most eighteen digits are exact.
     EXPECT_EQ(failureOf([] { (void)Decimal::parse("1234567890123456789"); }), 6);
+    for (const char* tooLong : {"1234567890123456789", "1e18", "-12345678901234567.89"})
+        EXPECT_FALSE(Decimal::tryParse(tooLong)) << tooLong;
+    EXPECT_EQ(Decimal::tryParse(" 0000000000000000000012.50 ")->text(), "12.5");
+    EXPECT_EQ(Decimal::tryParse("1e17")->text(), "100000000000000000");
+    EXPECT_EQ(Decimal::tryParse("0e99")->text(), "0");
     EXPECT_EQ(failureOf([] { (void)Decimal(123, 0).shifted(16); }), 6);
     EXPECT_EQ(failureOf([] { (void)Decimal::fromDouble(1e30); }), 6);
 }
