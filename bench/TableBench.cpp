@@ -106,6 +106,30 @@ void sortColumn(benchmark::State& state)
     times.report(state);
 }
 
+/// Somebody else stores a record while a filter is set.
+void refreshFiltered(benchmark::State& state)
+{
+    Shop shop;
+    const auto window = shop.open();
+    QTest::keyClicks(window->findChild<QLineEdit*>(QStringLiteral("TableFilter")), QStringLiteral("le 123"));
+    const auto* const rows = window->findChild<QTableView*>()->model();
+    const int before = rows->rowCount();
+    bench::Times times;
+    int number = 0;
+    for (auto _ : state) {
+        bench::BareDatabase(shop.database())
+            .run(QStringLiteral("update PLUDATA set DESCRIPTION = 'Article 123' where _rowid_ = %1")
+                     .arg(++number)
+                     .toUtf8());
+        times.add([&] {
+            window->refresh();
+            QApplication::processEvents();
+        });
+    }
+    require(rows->rowCount() == before + number, "the changed records are found");
+    times.report(state);
+}
+
 /// Adds 20 cents to every price and stores them. @param history nullptr to keep nothing for an undo
 void raiseAll(const Shop& shop, store::WorkHistory* history)
 {
@@ -178,6 +202,7 @@ void setFieldToUndo(benchmark::State& state)
 BENCHMARK(openTable)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(filterKey)->Unit(benchmark::kMillisecond)->Iterations(60);
 BENCHMARK(sortColumn)->Unit(benchmark::kMillisecond)->Iterations(12);
+BENCHMARK(refreshFiltered)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(setField)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4);
 BENCHMARK(setFieldToUndo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4);
 

@@ -1,6 +1,8 @@
 // See RowTexts.h.
 #include "screens/table/RowTexts.h"
 
+#include "store/engine/QuotedName.h"
+
 namespace norvane::screens
 {
 namespace
@@ -17,29 +19,38 @@ bool isNothing(const store::Value& value)
 } // namespace
 
 RowTexts::RowTexts(const TableColumns& columns)
-    : m_columns(columns), m_entries(static_cast<std::size_t>(columns.size()))
 {
-    for (qsizetype column = 0; column < columns.size(); ++column) {
-        for (const ListEntry& entry : columns[column].entries) {
-            m_entries[static_cast<std::size_t>(column)].emplace(entry.value.toDecimal().toWhole(),
-                                                                entry.shown.toStdString());
-        }
+    for (const TableColumn& column : columns) {
+        if (column.kind() == ControlKind::Check)
+            continue;
+        m_columns.push_back(&column);
+        auto& entries = m_entries.emplace_back();
+        for (const ListEntry& entry : column.entries)
+            entries.emplace(entry.value.toDecimal().toWhole(), entry.shown.toStdString());
     }
+}
+
+std::string RowTexts::select(const QString& table) const
+{
+    std::string sql = "SELECT rowid";
+    for (const TableColumn* const column : m_columns)
+        sql += ", " + store::quotedName(column->field.name);
+    return sql + " FROM " + store::quotedName(table);
 }
 
 const std::string& RowTexts::of(store::BoundQuery& query)
 {
     m_text.clear();
-    for (std::size_t column = 0; column < m_entries.size(); ++column)
+    for (std::size_t column = 0; column < m_columns.size(); ++column)
         append(column, query.value(static_cast<int>(column) + 1));
     return m_text;
 }
 
 void RowTexts::append(std::size_t place, const store::Value& value)
 {
-    const TableColumn& column = m_columns.at(static_cast<qsizetype>(place));
-    if (isNothing(value) || column.kind() == ControlKind::Check)
+    if (isNothing(value))
         return;
+    const TableColumn& column = *m_columns[place];
     const auto& entries = m_entries[place];
     if (value.isWhole() && entries.contains(std::get<std::int64_t>(value.data()))) {
         m_text += entries.at(std::get<std::int64_t>(value.data()));

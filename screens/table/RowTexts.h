@@ -16,17 +16,20 @@ namespace norvane::screens
 class RowTexts
 {
 public:
+    /// @param columns must outlive it
     explicit RowTexts(const TableColumns& columns);
 
-    /// Of the current row of @p query, which has the columns after its first value. Lives until the next one.
+    /// Begins a statement that reads the row id and the columns with a text.
+    [[nodiscard]] std::string select(const QString& table) const;
+    /// Of the current row of such a query. Lives until the next one.
     [[nodiscard]] const std::string& of(store::BoundQuery& query);
 
 private:
     void append(std::size_t column, const store::Value& value);
     void appendNumber(const TableColumn& column, const store::Value& value);
 
-    const TableColumns& m_columns;
-    /// The entries of lists, which would take long to look for.
+    std::vector<const TableColumn*> m_columns;
+    /// For each the entries of lists, which would take long to look for.
     std::vector<std::unordered_map<std::int64_t, std::string>> m_entries;
     std::string m_text;
 };

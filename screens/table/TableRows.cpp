@@ -166,10 +166,10 @@ bool TableRows::prepareTexts()
     if (first == m_ids.size())
         return false;
     const std::size_t end = std::min(first + textsAtOnce, m_ids.size());
-    store::BoundQuery rows(*m_database, select(m_allColumns) + " WHERE rowid BETWEEN ? AND ? ORDER BY rowid",
-                           {store::Value::whole(m_ids[first]), store::Value::whole(m_ids[end - 1])},
-                           m_source.table);
     RowTexts texts(columns());
+    store::BoundQuery rows(
+        *m_database, texts.select(m_source.table) + " WHERE rowid BETWEEN ? AND ? ORDER BY rowid",
+        {store::Value::whole(m_ids[first]), store::Value::whole(m_ids[end - 1])}, m_source.table);
     bool isLeft = rows.next();
     for (std::size_t ordinal = first; ordinal < end; ++ordinal) {
         while (isLeft && std::get<std::int64_t>(rows.value(0).data()) < m_ids[ordinal])
