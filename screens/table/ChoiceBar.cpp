@@ -4,9 +4,9 @@
 #include "ui/Appearance.h"
 #include "ui/FilteredList.h"
 #include "ui/FormKit.h"
+#include "ui/WrappingRow.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -20,6 +20,7 @@ namespace
 /// Pixels at the usual font.
 constexpr int textWidth = 190;
 constexpr int listWidth = 150;
+constexpr int widestButton = 300; ///< of its words
 
 QComboBox* makeList(const QString& name, const QString& spoken, QWidget* parent)
 {
@@ -40,12 +41,10 @@ ChoiceBar::ChoiceBar(QVector<ColumnChoices> choices, QWidget* parent)
 {
     m_text->setPlaceholderText(u"Part of any column"_s);
     m_text->setAccessibleName(u"Part of any column"_s);
-    m_text->setMaximumWidth(ui::scaled(textWidth));
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(ui::spacing::controlGap);
+    m_text->setFixedWidth(ui::scaled(textWidth));
+    auto* const row = new ui::WrappingRow(ui::spacing::controlGap);
     for (QWidget* const part : std::initializer_list<QWidget*>{m_text, m_column, m_choice})
         row->addWidget(part);
-    row->addStretch();
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(ui::spacing::controlGap);
@@ -105,21 +104,23 @@ void ChoiceBar::showMade()
     m_buttons->hide();
     m_buttons->deleteLater();
     m_buttons = new QWidget(this);
-    auto* const row = new QHBoxLayout(m_buttons);
-    row->setContentsMargins({});
-    for (auto made = m_made.cbegin(); made != m_made.cend(); ++made) {
-        const ColumnChoices& column = m_choices[made.key()];
-        const QString caption = column.label + u": "_s + column.choices[made.value()].caption;
-        auto* const button =
-            new QPushButton(QString(caption).replace(u'&', u"&&"_s) + u"  \u00d7"_s, m_buttons);
-        ui::nameControl(*button, u"Made"_s + QString::number(made.key()), u"Remove the filter "_s + caption);
-        button->setToolTip(u"Removes this filter"_s);
-        connect(button, &QPushButton::clicked, this, [this, key = made.key()] { takeBack(key); });
-        row->addWidget(button);
-    }
-    row->addStretch();
+    auto* const row = new ui::WrappingRow(ui::spacing::controlGap, m_buttons);
+    for (auto made = m_made.cbegin(); made != m_made.cend(); ++made)
+        row->addWidget(makeButton(made.key(), made.value()));
     layout()->addWidget(m_buttons);
     m_buttons->setVisible(!m_made.isEmpty());
+}
+
+QPushButton* ChoiceBar::makeButton(int column, int choice)
+{
+    const ColumnChoices& choices = m_choices[column];
+    const QString caption = choices.label + u": "_s + choices.choices[choice].caption;
+    const QString words = fontMetrics().elidedText(caption, Qt::ElideRight, ui::scaled(widestButton));
+    auto* const button = new QPushButton(QString(words).replace(u'&', u"&&"_s) + u"  \u00d7"_s, m_buttons);
+    ui::nameControl(*button, u"Made"_s + QString::number(column), u"Remove the filter "_s + caption);
+    button->setToolTip(u"Removes the filter "_s + caption);
+    connect(button, &QPushButton::clicked, this, [this, column] { takeBack(column); });
+    return button;
 }
 
 std::vector<TableChoice> ChoiceBar::chosen() const

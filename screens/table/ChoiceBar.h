@@ -7,7 +7,7 @@
 #include <QWidget>
 
 class QComboBox;
-class QHBoxLayout;
+class QPushButton;
 
 namespace norvane::ui
 {
@@ -38,6 +38,7 @@ private:
     void fillChoices();
     void choose(int row);
     void showMade();
+    [[nodiscard]] QPushButton* makeButton(int column, int choice);
     void takeBack(int column);
 
     QVector<ColumnChoices> m_choices;
