@@ -45,7 +45,7 @@ QVector<ListEntry> entriesOf(const ControlDefinition& control, store::Database& 
 QString numberText(const TableColumn& column, const store::Value& value)
 {
     const std::string plain = value.toUtf8();
-    const auto number = plain.empty() ? std::optional(Decimal()) : numberOfText(plain);
+    const auto number = plain.empty() ? std::optional(Decimal()) : Decimal::tryParse(plain);
     if (!number)
         return QString::fromStdString(plain);
     if (column.kind() == ControlKind::Decimal)
@@ -71,16 +71,17 @@ QString keyFieldOf(const store::TableDefinition& table, const QString& index)
 
 } // namespace
 
-std::optional<Decimal> numberOfText(std::string_view text)
-{
-    const auto digits =
-        std::ranges::count_if(text, [](char character) { return character >= '0' && character <= '9'; });
-    return digits > Decimal::mostDigits ? std::nullopt : Decimal::parse(text);
-}
-
 bool TableColumn::isEditable() const
 {
     return !isKey && !control.readOnly.value_or(false) && control.enabled.value_or(true);
+}
+
+QString TableColumn::whyLocked() const
+{
+    if (isKey)
+        return u"%1 is changed only on the record's screen. Enter opens it"_s.arg(label);
+    return control.readOnly.value_or(false) ? u"%1 is only shown, on the record's screen too"_s.arg(label)
+                                            : u"%1 is not an option of this register"_s.arg(label);
 }
 
 bool TableColumn::isOfDigits() const
@@ -95,7 +96,7 @@ int TableColumn::decimals() const
 
 const ListEntry* TableColumn::entryOf(const store::Value& value) const
 {
-    const auto number = numberOfText(value.toUtf8());
+    const auto number = Decimal::tryParse(value.toUtf8());
     const auto found = std::ranges::find_if(
         entries, [&number](const ListEntry& entry) { return number && entry.value.toDecimal() == *number; });
     return found == entries.end() ? nullptr : &*found;

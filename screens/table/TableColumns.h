@@ -9,8 +9,6 @@
 #include <QVector>
 
 #include <functional>
-#include <optional>
-#include <string_view>
 
 namespace norvane::screens
 {
@@ -38,6 +36,8 @@ struct TableColumn {
     [[nodiscard]] bool isOfDigits() const;
     /// Keys are changed on the screen only, which asks about the records that refer to them.
     [[nodiscard]] bool isEditable() const;
+    /// Why it is not editable, for the status bar.
+    [[nodiscard]] QString whyLocked() const;
     /// Places after the point of a number.
     [[nodiscard]] int decimals() const;
     /// The entry of @p value, nullptr if the list has none.
@@ -47,9 +47,6 @@ struct TableColumn {
 };
 
 using TableColumns = QVector<TableColumn>;
-
-/// The number that @p text is; nothing for any other text and for more digits than a number may have.
-[[nodiscard]] std::optional<Decimal> numberOfText(std::string_view text);
 
 /// A table and what is shown of it.
 struct TableSource {

@@ -30,6 +30,15 @@ constexpr int columnPadding = 14; ///< the marked record is shown in bold
 /// Rows by which columns are fitted.
 constexpr int rowsToFit = 40;
 
+/// Whether a key would change a cell; Escape does not.
+bool isInput(const QEvent* event)
+{
+    const auto* const key = dynamic_cast<const QKeyEvent*>(event);
+    if (key == nullptr || key->text().isEmpty())
+        return false;
+    return key->text().front().isPrint() || key->key() == Qt::Key_Delete || key->key() == Qt::Key_Backspace;
+}
+
 } // namespace
 
 TableGrid::TableGrid(TableModel& model, QWidget* parent) : QTableView(parent), m_model(model)
@@ -148,16 +157,27 @@ void TableGrid::copy() const
 bool TableGrid::toggleChosen()
 {
     const QModelIndex current = currentIndex();
-    if (!current.isValid() || m_model.column(current.column()).kind() != ControlKind::Check)
+    if (!current.flags().testFlag(Qt::ItemIsEditable) ||
+        m_model.column(current.column()).kind() != ControlKind::Check)
         return false;
     const CellInput input =
         cellInput(m_model.column(current.column()), current.data().toString().isEmpty() ? u"Yes"_s : u"No"_s);
     std::vector<PendingEdit> edits;
     for (const int row : chosenRows()) {
-        if (current.flags().testFlag(Qt::ItemIsEditable) && input.value)
+        if (input.value)
             edits.push_back(m_model.editOf(row, current.column(), *input.value));
     }
     m_model.changeEdits([&](PendingEdits& pending) { pending.add(std::move(edits)); });
+    return true;
+}
+
+/// What the base class does not edit, it looks for in the column; there is a filter for that.
+bool TableGrid::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const bool isTyped = trigger == EditKeyPressed || (trigger == AnyKeyPressed && isInput(event));
+    if (!isTyped || !index.isValid() || index.flags().testFlag(Qt::ItemIsEditable))
+        return QTableView::edit(index, trigger, event);
+    Q_EMIT refused(m_model.column(index.column()).whyLocked());
     return true;
 }
 

@@ -25,16 +25,19 @@ public:
     /// The rows with a chosen cell, from the top.
     [[nodiscard]] std::vector<int> chosenRows() const;
 
-Q_SIGNALS:
-    void pasteWanted();
-
-public:
     void copy() const;
     /// Columns in view, from that of the first chosen cell on.
     [[nodiscard]] std::vector<int> columnsFromChoice() const;
     [[nodiscard]] std::vector<int> rowsFromChoice() const;
 
+Q_SIGNALS:
+    void pasteWanted();
+    /// The user has typed into a cell that cannot be changed: @p why, in words for the status bar.
+    void refused(const QString& why);
+
 protected:
+    using QTableView::edit;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

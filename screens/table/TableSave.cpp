@@ -36,12 +36,12 @@ public:
     QString run()
     {
         if (!mayGoOn())
-            return u"Nothing was stored. Your changes are still in the list"_s;
+            return keptNotice();
         if (m_edits.isEmpty())
             return u"Nothing was stored: the records were deleted"_s;
         const auto lock = customers::RunLock::take(m_owner, m_boxes);
         if (lock == nullptr)
-            return u"Nothing was stored: another run is using the customer"_s;
+            return keptNotice();
         const QString amount = amountOf(m_edits.all());
         if (!store(amount))
             return u"Nothing was stored: there is no safety copy"_s;
@@ -50,6 +50,9 @@ public:
     }
 
 private:
+    /// After a box that has said why.
+    static QString keptNotice() { return u"Nothing was stored. Your changes are still in the list"_s; }
+
     bool store(const QString& amount)
     {
         customers::LoggedWork work(m_owner.customerPath, u"Table %1, %2"_s.arg(m_table.caption, amount));

@@ -75,15 +75,21 @@ void TableWindow::buildView()
     connect(m_view, &QTableView::activated, this, &TableWindow::openRecord);
     connect(m_view, &TableGrid::pasteWanted, this, &TableWindow::paste);
     connect(m_model, &TableModel::editsChanged, this, &TableWindow::rememberEdits);
+    connect(m_view, &TableGrid::refused, this, &TableWindow::refuse);
     // The cell can be opened again only after the view has closed its editor.
     connect(
         m_model, &TableModel::refused, this,
         [this](const QModelIndex& index, const QString& text, const QString& why) {
-            Q_EMIT noticeChanged(why);
-            m_boxes.beep();
+            refuse(why);
             m_view->retry(index, text);
         },
         Qt::QueuedConnection);
+}
+
+void TableWindow::refuse(const QString& why)
+{
+    Q_EMIT noticeChanged(why);
+    m_boxes.beep();
 }
 
 QPushButton* TableWindow::makeSaveButton()

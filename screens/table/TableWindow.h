@@ -107,6 +107,7 @@ private:
     void buildUses();
     [[nodiscard]] std::optional<KeyUses> readUses(int atMost);
     void rememberEdits();
+    void refuse(const QString& why);
     void save();
     void paste();
     void setField();

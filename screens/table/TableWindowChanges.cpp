@@ -100,7 +100,7 @@ void TableWindow::paste()
     const auto rows = isSingle ? static_cast<qsizetype>(target.rows.size()) : 1;
     PastePlan plan =
         planPaste(*m_model, target, isSingle ? QVector<QStringList>(rows, cells.first()) : cells);
-    if (!mayPaste(plan.refusals, plan.edits.size()))
+    if (!mayPaste(plan.refusals, plan.edits.size()) || plan.edits.empty())
         return Q_EMIT noticeChanged(u"Nothing was pasted"_s);
     const auto pasted = plan.edits.size();
     m_model->changeEdits([&](PendingEdits& edits) { edits.add(std::move(plan.edits)); });
@@ -114,6 +114,8 @@ void TableWindow::setField()
     const bool areChosen = rows.size() > 1;
     if (!areChosen)
         rows = allRows();
+    if (rows.empty())
+        return refuse(u"No record is shown that could be changed"_s);
     const QString scope =
         (areChosen ? u"the %1 chosen records"_s : u"all %1 records that are shown"_s).arg(rows.size());
     SetFieldDialog dialog(*m_model, std::move(rows), m_view->currentIndex().column(), scope, this);

@@ -9,6 +9,9 @@
 namespace norvane::screens
 {
 
+/// The names, prices and groups of the shop's PLUs, and whether they are inactive.
+inline const auto untouched = "Lager|2.5|3|False Coke Zero|10|3|True Café|9.8|1|False Menu|0.00|0|False";
+
 class TableWindowFixture : public test::TableShop
 {
 protected:
@@ -63,6 +66,44 @@ protected:
         const QPoint place(header.sectionViewportPosition(column) + 5, header.height() / 2);
         QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, place);
     }
+
+    void goTo(int row, int column) const
+    {
+        view->setFocus();
+        view->selectionModel()->setCurrentIndex(view->model()->index(row, column),
+                                                QItemSelectionModel::ClearAndSelect);
+    }
+    /// Types into the cell with the focus, then presses @p key.
+    void type(const char* text, Qt::Key key = Qt::Key_Return) const
+    {
+        QTest::keyClicks(view, QString::fromUtf8(text).left(1));
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text).mid(1));
+        QTest::keyClick(QApplication::focusWidget(), key);
+    }
+    void paste(const char* text) const
+    {
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
+        QTest::keyClick(view, Qt::Key_V, Qt::ControlModifier);
+    }
+    /// The list of changes.
+    [[nodiscard]] std::string pending() const
+    {
+        const auto& list = *test::child<QTableView>(*window, "PendingView").model();
+        QStringList lines;
+        for (int row = 0; row < list.rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < list.columnCount(); ++column)
+                cells += list.index(row, column).data().toString();
+            lines += cells.join(u'|');
+        }
+        return lines.join(u' ').toStdString();
+    }
+    void save() const { test::press(*window, "SaveChanges"); }
+    [[nodiscard]] std::string plus() const
+    {
+        return rows("select DESCRIPTION, PRICE1, GROUPNO, INactive from PLUDATA order by PLUNUMBER");
+    }
+    [[nodiscard]] QByteArray log() const { return m_folder.read("SHOP/norvane.log"); }
 
     std::shared_ptr<store::WorkHistory> m_history = std::make_shared<store::WorkHistory>();
     TableTools m_tools;

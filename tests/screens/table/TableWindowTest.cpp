@@ -27,6 +27,54 @@ TEST_F(TableWindowTest, AFilterAndChoicesAndAHeadingDecideWhatIsShown)
     EXPECT_EQ(count(), "3 of 4 records") << "and Menu, which has no price";
 }
 
+TEST_F(TableWindowTest, ManyFiltersGoOnInTheNextLine)
+{
+    const std::pair<const char*, const char*> choices[] = {{"DESCRIPTION", "not"}, {"GROUPNO", "3"},
+                                                           {"PRICE1", "has"},      {"PIECECOUNT", "0"},
+                                                           {"INactive", "No"},     {"MODIFIER", "not"}};
+    const auto choose = [this](const char* list, const char* entry) {
+        auto& box = test::child<QComboBox>(*window, list);
+        box.setCurrentIndex(box.findText(QString::fromUtf8(entry), Qt::MatchStartsWith));
+        Q_EMIT box.activated(box.currentIndex());
+    };
+    window->resize(500, 500);
+    for (const auto& [column, choice] : choices) {
+        choose("ChoiceColumn", column);
+        choose("Choice", choice);
+    }
+    QApplication::processEvents();
+    EXPECT_LT(window->width(), 550);
+    QRegion taken;
+    int shown = 0;
+    for (const auto* button : window->findChildren<QPushButton*>(QRegularExpression(u"^Made"_s))) {
+        if (!button->isVisible())
+            continue;
+        ++shown;
+        const QRect place(button->mapTo(window.get(), QPoint(0, 0)), button->size());
+        EXPECT_TRUE(window->rect().contains(place) && !taken.intersects(place))
+            << button->text().toStdString();
+        taken += place;
+    }
+    EXPECT_EQ(shown, 6);
+    EXPECT_GT(taken.boundingRect().height(), 50) << "two lines";
+    EXPECT_FALSE(taken.intersects(view->geometry()));
+}
+
+TEST_F(TableWindowTest, AFilterThatMatchesNothingLeavesNothingToChange)
+{
+    filter("nothing like it");
+    QGuiApplication::clipboard()->setText(u"x"_s);
+    for (const Qt::Key key : {Qt::Key_C, Qt::Key_V})
+        QTest::keyClick(view, key, Qt::ControlModifier);
+    EXPECT_EQ(notice, "Nothing was pasted");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"x"_s);
+    for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Return, Qt::Key_Space, Qt::Key_Down})
+        QTest::keyClick(view, key);
+    test::press(*window, "SetField");
+    EXPECT_EQ(notice, "No record is shown that could be changed");
+    EXPECT_TRUE(wanted.isEmpty() && m_boxes.shown.empty());
+}
+
 TEST_F(TableWindowTest, EnterAndADoubleClickOpenTheRecordAndTheTableFollowsTheScreen)
 {
     filter("coke");
