@@ -2,7 +2,6 @@
 #include "screens/GridControl.h"
 
 #include "paper/Length.h"
-#include "screens/GridModel.h"
 #include "ui/Appearance.h"
 #include "ui/TextBox.h"
 
@@ -67,12 +66,21 @@ void GridControl::showQuery(const std::shared_ptr<store::Database>& database,
     connect(grid, &GridModel::stored, this, &GridControl::stored);
     delete model();
     setModel(grid);
+    if (m_recorder)
+        grid->setRecorder(m_recorder);
     for (int column = 0; column < definition.gridColumns.size(); ++column) {
         const GridColumn& given = definition.gridColumns[column];
         if (given.width)
             setColumnWidth(column, ui::scaled(paper::screenPixels(paper::twips(*given.width))));
         setColumnHidden(column, !given.visible);
     }
+}
+
+void GridControl::setRecorder(const GridModel::Recorder& recorder)
+{
+    m_recorder = recorder;
+    if (auto* const grid = static_cast<GridModel*>(model()))
+        grid->setRecorder(recorder);
 }
 
 void GridControl::reread()

@@ -1,6 +1,7 @@
 // The grid of a screen.
 #pragma once
 
+#include "screens/GridModel.h"
 #include "screens/ScreenDefinition.h"
 #include "store/engine/Database.h"
 
@@ -22,6 +23,8 @@ public:
     /// Shows the query of @p definition under its headings, replacing the previous content.
     /// @throws RuntimeFailure as the constructor of GridModel.
     void showQuery(const std::shared_ptr<store::Database>& database, const ControlDefinition& definition);
+    /// As GridModel::setRecorder(), for all contents.
+    void setRecorder(const GridModel::Recorder& recorder);
     /// Shows the rows as they now are in the file, which a price change or an upload may have changed. The
     /// row with the same key remains current. A grid with a cell being edited is unchanged.
     void reread();
@@ -46,6 +49,8 @@ private:
     /// Takes away what is too low for a row.
     void cutToWholeRows();
     [[nodiscard]] int lastVisibleRow() const;
+
+    GridModel::Recorder m_recorder;
 };
 
 } // namespace norvane::screens

@@ -283,20 +283,24 @@ void GridModel::storeCell(const QModelIndex& index, const QString& text)
     m_rows[static_cast<std::size_t>(index.row())] = readRow(index.row());
 }
 
+QString GridModel::recordOf(const QModelIndex& index) const
+{
+    const QString key = shownKey(m_records->field(0).name, cell(index.siblingAtColumn(0)).toText());
+    return recordName({}, headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), key);
+}
+
 bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
     if (role != Qt::EditRole || value.toString() == cell(index).toText())
         return false;
     try {
-        storeCell(index, value.toString());
+        m_recorder(recordOf(index), [&] { storeCell(index, value.toString()); });
     } catch (const RuntimeFailure& failure) {
         Q_EMIT refused(index, nothingStored(failure));
         return false;
     }
     Q_EMIT dataChanged(this->index(index.row(), 0), this->index(index.row(), columnCount() - 1));
-    const QString key = shownKey(m_records->field(0).name, cell(index.siblingAtColumn(0)).toText());
-    const QString label = headerData(0, Qt::Horizontal, Qt::DisplayRole).toString();
-    Q_EMIT stored(recordSaved(recordName({}, label, key)));
+    Q_EMIT stored(recordSaved(recordOf(index)));
     return true;
 }
 

@@ -8,8 +8,10 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace norvane::screens
@@ -38,6 +40,11 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
+    /// Does what stores a cell of the record that is called so ("PLU 1001").
+    using Recorder = std::function<void(const QString& record, const std::function<void()>& store)>;
+    /// From now on, cells are stored by @p recorder, which can undo it later.
+    void setRecorder(Recorder recorder) { m_recorder = std::move(recorder); }
+
     /// Reads again the first @p rows, or a few more, of those that were read; the others are read when
     /// needed. Leaves them unchanged if the file cannot be read.
     /// @param current a row, or -1. @return the row that the record of @p current now has.
@@ -63,6 +70,7 @@ private:
     void shrinkTo(int rows);
     void fetchTo(int row);
     void readTexts();
+    [[nodiscard]] QString recordOf(const QModelIndex& index) const;
     void storeCell(const QModelIndex& index, const QString& text);
     [[nodiscard]] store::Value priceOf(int column, QString text) const;
     [[nodiscard]] store::Value valueOf(int column, const QString& text) const;
@@ -74,6 +82,9 @@ private:
     int m_total = 0;
     std::vector<Row> m_rows;        ///< those read so far
     store::SearchableTexts m_texts; ///< of all rows, after the first search
+    Recorder m_recorder = [](const QString& /*record*/, const std::function<void()>& store) {
+        store();
+    };
 };
 
 } // namespace norvane::screens

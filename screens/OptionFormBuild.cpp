@@ -7,6 +7,7 @@
 #include "screens/OptionForm.h"
 #include "screens/RecordList.h"
 #include "screens/RegisterRules.h"
+#include "screens/SaveNotices.h"
 #include "screens/ToolMenu.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
@@ -183,6 +184,11 @@ void OptionForm::addFindBar(GridControl& grid, QVBoxLayout& column)
 {
     grid.setAccessibleName(caption());
     connect(&grid, &GridControl::stored, this, &OptionForm::noticeChanged);
+    grid.setRecorder([this](const QString& record, const std::function<void()>& store) {
+        auto work = recordWork();
+        work.setName(recordSaved(record));
+        store();
+    });
     auto* const bar = new GridFindBar(grid, this);
     column.insertWidget(0, bar);
     m_size.rheight() += bar->sizeHint().height() + column.spacing();

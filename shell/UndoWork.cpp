@@ -3,6 +3,7 @@
 
 #include "customers/CustomerLog.h"
 #include "customers/RunLock.h"
+#include "platform/Excerpt.h"
 
 #include <QFileInfo>
 
@@ -15,6 +16,7 @@ namespace
 
 constexpr auto title = "Undo"_L1;
 constexpr std::size_t mostShown = 10;
+constexpr std::size_t mostNamed = 3;
 
 QString records(std::size_t count)
 {
@@ -23,12 +25,22 @@ QString records(std::size_t count)
 
 QString lineOf(const store::FieldDifference& difference)
 {
-    const auto& [table, record, field, now, then] = difference;
+    const auto& [table, record, field, now, then, wereUnset] = difference;
     const QString place = u"%1 %2"_s.arg(table, record).trimmed();
+    if (wereUnset)
+        return u"%1, unset again, which screens show as 0: %2"_s.arg(place, excerpt(field));
     if (field.isEmpty())
         return (now.isEmpty() ? u"%1 is added again"_s : u"%1 is deleted"_s).arg(place);
     return u"%1, %2: %3 becomes %4"_s.arg(place, field, now.isEmpty() ? u"empty"_s : now,
                                           then.isEmpty() ? u"empty"_s : then);
+}
+
+/// "PLUDATA 1001, PLUDATA 1002 and 3 more".
+QString changedRows(const store::RowChanges& changes, store::Database& database, std::size_t count)
+{
+    const QStringList names = changes.rowsChangedSince(database, mostNamed);
+    const auto more = count - static_cast<std::size_t>(names.size());
+    return names.join(u", "_s) + (more > 0 ? u" and %1 more"_s.arg(more) : QString());
 }
 
 /// What the undo would do, for the question.
@@ -43,18 +55,21 @@ QString explanation(const store::RowChanges& changes, store::Database& database,
     if (isCut)
         lines << u"... %1 in all"_s.arg(records(changes.count() - changedSince));
     if (changedSince > 0) {
-        const QString was = changedSince == 1 ? u"was changed since and remains as it is"_s
-                                              : u"were changed since and remain as they are"_s;
-        lines << u"%1 %2"_s.arg(records(changedSince), was);
+        lines << changedRows(changes, database, changedSince) +
+                     (changedSince == 1 ? u" was changed since and remains as it is"_s
+                                        : u" were changed since and remain as they are"_s);
     }
     return lines.join(u'\r');
 }
 
-QString refuse(const store::FinishedWork& work, Boxes& boxes)
+QString refuse(const store::FinishedWork& work, store::Database& database, Boxes& boxes)
 {
+    const std::size_t count = work.changes.count();
     boxes.message(
-        u"\"%1\" of %2 cannot be undone: what it changed was changed again since, in another window, "
-        u"by an upload or by another program."_s.arg(work.name, work.ended.toString(u"hh:mm"_s)),
+        u"\"%1\" of %2 cannot be undone: %3 %4 changed again since, in another window, by an upload "
+        "or by another program."_s.arg(work.name, work.ended.toString(u"hh:mm"_s),
+                                       changedRows(work.changes, database, count),
+                                       count == 1 ? u"was"_s : u"were"_s),
         title, BoxIcon::Exclamation);
     return u"Not undone: "_s + work.name;
 }
@@ -84,7 +99,7 @@ QString undoLatestWork(const ApplicationValues& values, Boxes& boxes, store::Wor
     const std::size_t changedSince = work.changes.changedSince(database);
     if (changedSince == work.changes.count()) {
         history.removeLatest(values.databasePath);
-        return refuse(work, boxes);
+        return refuse(work, database, boxes);
     }
     const QString question = u"Undo \"%1\" of %2?\r\r%3"_s.arg(
         work.name, work.ended.toString(u"hh:mm"_s), explanation(work.changes, database, changedSince));

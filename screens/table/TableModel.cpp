@@ -124,10 +124,10 @@ QVariant TableModel::font(const QModelIndex& index) const
     return font;
 }
 
-/// "0 Not used" is pale.
+/// "0 Not used" is pale; "Ingredient" is not, which is stored as 0 too.
 QVariant TableModel::pen(const TableColumn& column, const store::Value& value)
 {
-    if (column.kind() != ControlKind::Combo || value.toNumber() != 0)
+    if (column.kind() != ControlKind::Combo || !column.text(value).startsWith(u'0'))
         return {};
     return QGuiApplication::palette().color(QPalette::PlaceholderText);
 }

@@ -38,6 +38,14 @@ namespace
 /// At the usual font, in pixels.
 constexpr QSize usualSize(1040, 540);
 
+/// Of the screen "Mix and Match Table", too.
+QString titleOf(QString caption)
+{
+    if (caption.endsWith(u" Table"_s))
+        caption.chop(u" Table"_s.size());
+    return u"Table of "_s + caption;
+}
+
 } // namespace
 
 TableWindow::TableWindow(const TableOrder& order, const ApplicationValues& values, Boxes& boxes,
@@ -52,7 +60,7 @@ TableWindow::TableWindow(const TableOrder& order, const ApplicationValues& value
       m_count(new QLabel(this))
 {
     ui::nameControl(*this, u"TableWindow"_s);
-    setWindowTitle(u"Table of %1"_s.arg(order.caption) + u"[*]"_s);
+    setWindowTitle(titleOf(order.caption) + u"[*]"_s);
     m_view->setAccessibleName(order.caption);
     ui::nameControl(*m_count, u"TableCount"_s);
     buildView();

@@ -14,4 +14,7 @@ using Look = std::function<void(const QString& name, QWidget& window)>;
 /// The main window with its menus, every screen on a model that has it, every dialog and box.
 void lookAtEveryWindow(const Look& look);
 
+/// The table of every screen that has one, wide enough for its columns up to a limit, with some records.
+void lookAtEveryTable(const Look& look);
+
 } // namespace norvane::windows

@@ -1,8 +1,8 @@
 // Opens every window and lists the texts that cannot be read: cut, covered, too pale, or off a small screen.
-//   check_windows [--scale 2] [--font 150] [--dark | --contrast] [--pictures <folder>]
-// --scale is the number of pixels to a point, --font the size of the system's font in percent. The screen has
-// 1024 x 768 points. What a screen reader could not say is a fault as well. Prints a line for each fault; the
-// exit code is 1 if there is one.
+//   check_windows [--scale 2] [--font 150] [--dark | --contrast] [--tables] [--pictures <folder>]
+// --tables opens the tables of all screens instead, wider than the screen. --scale is the number of pixels to
+// a point, --font the size of the system's font in percent. The screen has 1024 x 768 points. What a screen
+// reader could not say is a fault as well. Prints a line for each fault; the exit code is 1 if there is one.
 #include "scripts/windows/EveryWindow.h"
 #include "scripts/windows/SpokenControls.h"
 #include "scripts/windows/TextCheck.h"
@@ -32,6 +32,7 @@ struct Setting {
     int fontPercent = 100;
     bool isDark = false;
     bool hasContrast = false;
+    bool isForTables = false;
     QString pictures;
 };
 
@@ -42,10 +43,11 @@ Setting settingOf(const QStringList& words)
                        {u"font"_s, {}, u"n"_s, u"100"_s},
                        {u"dark"_s, {}},
                        {u"contrast"_s, {}},
+                       {u"tables"_s, {}},
                        {u"pictures"_s, {}, u"folder"_s}});
     parser.process(words);
     return {parser.value(u"scale"_s).toInt(), parser.value(u"font"_s).toInt(), parser.isSet(u"dark"_s),
-            parser.isSet(u"contrast"_s), parser.value(u"pictures"_s)};
+            parser.isSet(u"contrast"_s),      parser.isSet(u"tables"_s),       parser.value(u"pictures"_s)};
 }
 
 /// The screen that the windows open on. Before the application is made.
@@ -178,7 +180,10 @@ int main(int argc, char** argv)
     setUpDesktop(setting);
     norvane::ui::applyAppearance(application);
     Check check(setting);
-    norvane::windows::lookAtEveryWindow(
-        [&check](const QString& name, QWidget& window) { check.look(name, window); });
+    const auto look = [&check](const QString& name, QWidget& window) {
+        check.look(name, window);
+    };
+    setting.isForTables ? norvane::windows::lookAtEveryTable(look)
+                        : norvane::windows::lookAtEveryWindow(look);
     return check.end();
 }

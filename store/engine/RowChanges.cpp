@@ -123,14 +123,33 @@ public:
                            oldValues.empty() ? QString() : record});
             return;
         }
+        QStringList unset;
         for (qsizetype i = 0; i < m_fields.size(); ++i) {
             const auto place = static_cast<std::size_t>(i);
-            if (const auto* const field = fieldNamed(m_table, m_fields[i]))
+            const auto* const field = fieldNamed(m_table, m_fields[i]);
+            if (field != nullptr && isUnset(*field, newValues[place], oldValues[place])) {
+                unset += field->name;
+            } else if (field != nullptr) {
                 addTo(all, record, *field, newValues[place], oldValues[place]);
+            }
         }
+        if (!unset.isEmpty())
+            all.push_back({m_table.name, record, unset.join(u", "_s), u"0"_s, {}, true});
+    }
+
+    /// "PLUDATA 1001".
+    [[nodiscard]] QString nameOf(const std::string& image) const
+    {
+        return u"%1 %2"_s.arg(m_table.name, recordOf(valuesOf(image))).trimmed();
     }
 
 private:
+    static bool isUnset(const FieldDefinition& field, const Value& now, const Value& then)
+    {
+        return field.type != FieldType::YesNo && then.isNull() &&
+               Decimal::parse(now.toText().toStdString()) == Decimal();
+    }
+
     /// What looks alike is not shown: an empty text and blanks, or no and an option that was never set.
     void addTo(std::vector<FieldDifference>& all, const QString& record, const FieldDefinition& field,
                const Value& now, const Value& then) const
@@ -173,6 +192,22 @@ std::size_t RowChanges::changedSince(Database& database) const
     return static_cast<std::size_t>(std::ranges::count_if(m_rows, [&tables](const Row& row) {
         return !isAsLeft(tables[row.table].read(row.rowId), row.after);
     }));
+}
+
+QStringList RowChanges::rowsChangedSince(Database& database, std::size_t most) const
+{
+    QStringList names;
+    for (const Row& row : m_rows) {
+        if (static_cast<std::size_t>(names.size()) >= most)
+            break;
+        const Table& table = m_tables[row.table];
+        RowImages rows(connectionOf(database).handle(), table.name, table.fields);
+        const std::string& now = rows.read(row.rowId);
+        if (!isAsLeft(now, row.after))
+            names += RowComparison(database.table(table.name), table.fields)
+                         .nameOf(row.before.empty() ? now : row.before);
+    }
+    return names;
 }
 
 std::vector<FieldDifference> RowChanges::differences(Database& database, std::size_t most) const

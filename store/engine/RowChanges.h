@@ -20,6 +20,8 @@ struct FieldDifference {
     QString field;  ///< empty if the whole record is added or deleted
     QString now;    ///< empty for a record that is added
     QString then;   ///< empty for a record that is deleted
+    /// Numbers that were never set, which screens show as 0: @c field has the names of all of them.
+    bool wereUnset = false;
 };
 
 /// The changed rows of one piece of work. ChangeRecorder makes it. The values are kept as bytes: as objects,
@@ -35,6 +37,8 @@ public:
     /// How many of the rows have changed again since the work, or were deleted or replaced.
     /// @throws RuntimeFailure as the database reports.
     [[nodiscard]] std::size_t changedSince(Database& database) const;
+    /// The names of such rows: "PLUDATA 1001". @throws RuntimeFailure as the database reports.
+    [[nodiscard]] QStringList rowsChangedSince(Database& database, std::size_t most) const;
     /// What takeBack() would change: the first @p most differences, in the order of the work.
     /// @throws RuntimeFailure as the database reports.
     [[nodiscard]] std::vector<FieldDifference> differences(Database& database, std::size_t most) const;

@@ -127,7 +127,7 @@ TEST_F(RowChangesTest, NamesWhatWouldBeDifferent)
 {
     const RowChanges recording = recorded([this] { changeDeleteAndAdd(); });
     std::string found;
-    for (const auto& [table, record, field, now, then] : recording.differences(m_database, 10))
+    for (const auto& [table, record, field, now, then, wereUnset] : recording.differences(m_database, 10))
         found += u"%1 %2 %3: %4 -> %5\n"_s.arg(table, record, field, now, then).toStdString();
     EXPECT_EQ(found, "Items 01 GROUPNO: 4 -> -7\nItems 01 ROUNDON%: 2 -> 0.1\nItems 01 TAX/x: no -> yes\n"
                      "Items 02 :  -> 02\nItems 04 : 04 -> \n");
