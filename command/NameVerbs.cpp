@@ -7,6 +7,8 @@
 
 #include <QDir>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::command
@@ -14,13 +16,13 @@ namespace norvane::command
 namespace
 {
 
-/// The title of a layout, or what is wrong with its file.
-QString titleOf(const QString& path)
+/// Title and periods of a layout, or what is wrong with its file.
+std::pair<QString, QString> titleAndPeriods(const QString& path)
 {
     try {
-        return reports::readLayout(path).title;
+        return {reports::readLayout(path).title, periodsOf(path).join(u", "_s)};
     } catch (const reports::ReportError& error) {
-        return error.text();
+        return {error.text(), {}};
     }
 }
 
@@ -39,8 +41,8 @@ void listReports(const Workplace& workplace, const Invocation& /*words*/)
     Listing listing({u"Name"_s, u"Title"_s, u"Periods"_s});
     const QDir folder(workplace.appPath);
     for (const QString& file : folder.entryList({u"*.rpt"_s}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
-        const QString name = QFileInfo(file).completeBaseName();
-        listing.add({name, titleOf(folder.filePath(file)), periodsOf(name).join(u", "_s)});
+        const auto [title, periods] = titleAndPeriods(folder.filePath(file));
+        listing.add({QFileInfo(file).completeBaseName(), title, periods});
     }
     workplace.show(listing);
 }

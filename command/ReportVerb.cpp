@@ -37,14 +37,14 @@ reports::Period daysOf(const Invocation& words)
     return days;
 }
 
-std::optional<ReportSelection> selectionOf(const QString& name, const Invocation& words, QDate today)
+std::optional<ReportSelection> selectionOf(const QString& path, const Invocation& words, QDate today)
 {
     if (words.has("day"_L1))
-        return selectionOfPeriod(name, u"day"_s, dayOf(words.value("day"_L1)));
+        return selectionOfPeriod(path, u"day"_s, dayOf(words.value("day"_L1)));
     if (words.has("period"_L1))
-        return selectionOfPeriod(name, words.value("period"_L1), today);
+        return selectionOfPeriod(path, words.value("period"_L1), today);
     if (words.has("from"_L1))
-        return selectionOfDays(name, daysOf(words));
+        return selectionOfDays(path, daysOf(words));
     return std::nullopt;
 }
 
@@ -109,7 +109,7 @@ void report(const Workplace& workplace, const Invocation& words)
     request.customer = customerOf(values, values.databasePath);
     request.now = QDateTime::currentDateTime();
     request.comparedWith = comparedWith(words);
-    if (const auto selection = selectionOf(name, words, request.now.date())) {
+    if (const auto selection = selectionOf(request.reportFile, words, request.now.date())) {
         request.reportTitle = selection->title;
         request.selectionFormula = selection->formula;
     }

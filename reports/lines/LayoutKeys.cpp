@@ -224,10 +224,11 @@ constexpr std::array<KeyRule, 10> columnKeys{{
     {u"Show", false, "numbers that are not all zero where the column is shown"_L1, [](const QString& value, LayoutTarget& target) { target.column->shownIf = parseExpressions(value, target.fields()); return true; }},
 }};
 constexpr KeyRule furtherValue{u"Value2", false, "a text with fields"_L1, [](const QString& value, LayoutTarget& target) { target.column->text.further.push_back(parseTemplate(value, target.fields())); return !target.column->number; }};
-constexpr std::array<KeyRule, 3> groupKeys{{
+constexpr std::array<KeyRule, 4> groupKeys{{
     {u"By", true, "a field such as {PLUDATA.GROUPNO}"_L1, takeGroupBy},
     {u"Heading", true, "a text with fields"_L1, [](const QString& value, LayoutTarget& target) { target.layout.group->heading.text = parseTemplate(value, target.fields()); return true; }},
     {u"Missing", false, "a text"_L1, [](const QString& value, LayoutTarget& target) { target.layout.group->heading.missing = parseTemplate(value, target.fields()); return true; }},
+    {u"Lines", false, "YES, or NO for groups alone"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.layout.group->showsLines); }},
 }};
 constexpr auto sortExpected = "a field, with \"by value\" or \"descending\" after it or nothing"_L1;
 constexpr std::array<KeyRule, 3> sortKeys{{

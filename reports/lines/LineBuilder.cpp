@@ -116,7 +116,8 @@ void LineBuilder::add(const LineFields& fields)
         return;
     if (m_layout.group)
         changeGroup(fields);
-    addDetail(fields);
+    if (!m_layout.group || m_layout.group->showsLines)
+        addDetail(fields);
     m_groupTotals.add(m_numbers.numbers());
     m_totals.add(m_numbers.numbers());
     m_charts.addLine(fields, {m_numbers.numbers(), m_whole});
@@ -146,7 +147,8 @@ void LineBuilder::changeGroup(const LineFields& fields)
     m_group = group;
     m_groupHeading =
         isNone && !heading.missing.isEmpty() ? textOf(heading.missing, {}, fields) : textOf(heading, fields);
-    m_data.addLine(LineKind::GroupHeading, {m_groupHeading});
+    if (m_layout.group->showsLines)
+        m_data.addLine(LineKind::GroupHeading, {m_groupHeading});
 }
 
 void LineBuilder::closeGroup()
@@ -154,8 +156,11 @@ void LineBuilder::closeGroup()
     if (!m_group)
         return;
     m_charts.addGroup(m_groupHeading, {m_groupTotals.texts(), m_whole});
-    if (m_isTotalled)
+    if (!m_layout.group->showsLines) {
+        addTotal(LineKind::Detail, m_groupTotals, m_groupHeading);
+    } else if (m_isTotalled) {
         addTotal(LineKind::Subtotal, m_groupTotals, u"Total %1"_s.arg(m_groupHeading));
+    }
     m_groupTotals = SlotTotals(m_layout.source.fields.size());
 }
 

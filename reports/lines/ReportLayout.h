@@ -69,6 +69,7 @@ struct ColumnLayout {
 struct GroupLayout {
     Slot by = 0;
     LineText heading;
+    bool showsLines = true; ///< otherwise the group is one line, with its heading and totals
 };
 
 /// Where the points of a chart come from.

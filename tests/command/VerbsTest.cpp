@@ -69,6 +69,9 @@ TEST_F(Verbs, AReportOfAnyPeriodIsComparedWithAnother)
         return run(report + options).out;
     };
     EXPECT_TRUE(reported({u"--period"_s, u"lastmonth"_s}).contains(u",24.25"_s));
+    QStringList outsideTheMenu = report;
+    outsideTheMenu[2] = u"groupsales"_s;
+    EXPECT_EQ(run(outsideTheMenu + QStringList{u"--period"_s, u"lastmonth"_s}).code, 0);
     const QString march =
         reported({u"--from"_s, u"2025-03-01"_s, u"--to"_s, u"2025-03-31"_s, u"--compare"_s, u"before"_s});
     EXPECT_TRUE(march.contains(u",40.00,50.00,-10.00,-20.0"_s)) << march.toStdString();

@@ -60,6 +60,18 @@ TEST_F(SalesReports, PluSalesAreGroupedWithNamesAndExactTotals)
     EXPECT_EQ(data.charts[0].points[1].label, u"999"_s);
 }
 
+TEST_F(SalesReports, GroupsAloneHaveALineEach)
+{
+    shop.add("PLUSALES", pluFields,
+             {"3|2026-11-25|0|0|2|5|0|0", "100|2026-11-25|0|0|1|1.5|0|0", "20|2026-11-25|0|0|0|0|0|0",
+              "7|2026-11-25|0|0|1|3.5|0|0"});
+    const auto data = run("groupsales.rpt");
+    EXPECT_EQ(headingsOf(data), "Group|Quantity|Value|Share %");
+    EXPECT_EQ(linesOf(data), "1 DRINKS|3|6.50|65.0\nNo group|1|3.50|35.0\n# Total|4|10.00|100.0");
+    ASSERT_EQ(data.charts.size(), 1U) << "a course needs two days";
+    EXPECT_EQ(data.charts[0].points.front().label, u"1 DRINKS"_s);
+}
+
 TEST_F(SalesReports, LevelsAreColumnsIfAnyButTheFirstHasSales)
 {
     shop.add("PLUSALES", pluFields,
