@@ -5,6 +5,7 @@
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "reports/lines/SalesDays.h"
+#include "sales/MoreReports.h"
 #include "sales/PeriodChooser.h"
 #include "store/engine/Database.h"
 #include "ui/Announcement.h"
@@ -52,9 +53,9 @@ reports::ReportRequest requestOf(const ReportEntry& entry, const ApplicationValu
 
 Frmreports::Frmreports(const ApplicationValues& values, Boxes& boxes, const ReportEntry& entry,
                        reports::Runner runner, QWidget* parent)
-    : QDialog(parent), m_values(values), m_entry(entry), m_request(requestOf(entry, values)),
-      Report1(*this, boxes, std::move(runner)), CSCal(new QCalendarWidget(this)),
-      m_legend(new QLabel(u"Days with sales are bold"_s, this))
+    : QDialog(parent), m_values(values), m_boxes(boxes), m_runner(runner), m_entry(entry),
+      m_request(requestOf(entry, values)), Report1(*this, boxes, std::move(runner)),
+      CSCal(new QCalendarWidget(this)), m_legend(new QLabel(u"Days with sales are bold"_s, this))
 {
     setObjectName(u"Frmreports"_s);
     setWindowTitle(entry.title);
@@ -87,7 +88,11 @@ void Frmreports::layOut()
     column->addWidget(m_legend);
     addPeriods(*column);
     column->addWidget(makeTargets());
-    column->addLayout(ui::makeButtonRow({Generate, CmdExit}));
+    auto* const more = ui::makeButton(u"MoreReports"_s, u"&More Reports..."_s, this);
+    more->setAutoDefault(false);
+    connect(more, &QPushButton::clicked, this,
+            [this] { MoreReports(m_values, m_boxes, m_runner, this).exec(); });
+    column->addLayout(ui::makeButtonRow({Generate, CmdExit}, {more}));
 }
 
 void Frmreports::addPeriods(QVBoxLayout& column)

@@ -47,6 +47,8 @@ private:
     void generate();
 
     const ApplicationValues& m_values;
+    Boxes& m_boxes;
+    reports::Runner m_runner;
     const ReportEntry& m_entry;
     reports::ReportRequest m_request; ///< of the menu entry
     reports::Report Report1;

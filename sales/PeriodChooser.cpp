@@ -51,10 +51,11 @@ PeriodChooser::PeriodChooser(const QString& menuPeriod, QWidget* parent)
 
 void PeriodChooser::fill(const QString& menuPeriod)
 {
-    m_period->addItem(menuPeriod, QString());
+    if (!menuPeriod.isEmpty())
+        m_period->addItem(menuPeriod, QString());
     const QDate today = QDate::currentDate();
     for (const auto& period : reports::namedPeriods()) {
-        if (period.last(today) < today)
+        if (menuPeriod.isEmpty() || period.last(today) < today)
             m_period->addItem(period.name, QString(period.word));
     }
     m_period->addItem(u"Days from ... to ..."_s, QString(pickedDays));
@@ -85,7 +86,7 @@ void PeriodChooser::showDays()
 
 bool PeriodChooser::isOfMenu() const
 {
-    return m_period->currentIndex() == 0;
+    return m_period->currentData().toString().isEmpty();
 }
 
 QString PeriodChooser::formula(const QString& field) const

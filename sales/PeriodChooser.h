@@ -17,7 +17,8 @@ class PeriodChooser : public QWidget
     Q_OBJECT
 
 public:
-    /// @param menuPeriod the entry's own period, as the list shows it: "Month to date"
+    /// @param menuPeriod the entry's own period, as the list shows it: "Month to date"; empty for a report
+    /// outside the menu, for which periods to date are offered, too
     PeriodChooser(const QString& menuPeriod, QWidget* parent);
 
     [[nodiscard]] bool isOfMenu() const;

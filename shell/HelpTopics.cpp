@@ -23,6 +23,7 @@ constexpr HelpTopic topics[] = {
     {"FrmComm"_L1, "fetching-and-sending-programmes"_L1},
     {"FrmsalesComm"_L1, "collecting-the-days-sales"_L1},
     {"Frmreports"_L1, "from-the-menu"_L1},
+    {"MoreReports"_L1, "more-reports"_L1},
     {"ReportPreview"_L1, "the-preview"_L1},
     {"OptionForm"_L1, "screens"_L1},
     {"FrmSearch"_L1, "screens"_L1},

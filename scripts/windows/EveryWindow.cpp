@@ -15,6 +15,7 @@
 #include "programme/CopyToShopsDialog.h"
 #include "reports/window/Report.h"
 #include "sales/Frmreports.h"
+#include "sales/MoreReports.h"
 #include "scripts/windows/FilledShop.h"
 #include "shell/CopiesDialog.h"
 #include "shell/CopyMenu.h"
@@ -143,6 +144,10 @@ constexpr Dialog dialogs[] = {
          g.values.reportMode = u"DAILYPLU"_s;
          return new sales::Frmreports(g.values, g.shop.boxes(), sales::reportEntries().front(),
                                       reports::runReport, p);
+     }},
+    {"more-reports",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new sales::MoreReports(g.values, g.shop.boxes(), reports::runReport, p);
      }},
     {"system-info",
      [](Ground& g, QWidget* p) -> QWidget* {

@@ -1,6 +1,7 @@
 // The report dialog as a user works it: what it asks of the report control, entry by entry.
 #include "sales/Frmreports.h"
 
+#include "sales/MoreReports.h"
 #include "store/catalogue/Catalogue.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/store/Rows.h"
@@ -165,6 +166,45 @@ TEST_F(FrmreportsTest, OffersOtherPeriodsAndAComparison)
         EXPECT_EQ(m_requests.back().comparedWith, reports::ComparedWith::PeriodBefore);
     });
     open("Pluprice_Click", [&] { EXPECT_EQ(m_form->findChild<QWidget*>(u"Period"_s), nullptr); });
+}
+
+TEST_F(FrmreportsTest, ListsTheReportsOutsideTheMenu)
+{
+    const test::TestFolder app;
+    m_values.appPath = app.path();
+    m_values.customerPath = app.path("Cafe");
+    ASSERT_TRUE(QDir(app.path()).mkdir(u"Cafe"_s));
+    const QByteArray body = "[Column1]\r\nValue={ID}\r\nWidth=20\r\n";
+    app.write("plusales.rpt", "[Report]\r\nTitle=Of the menu\r\nTable=PLUSALES\r\n" + body);
+    app.write("list.rpt", "; All groups.\r\n[Report]\r\nTitle=Groups\r\nTable=GROUPS\r\n" +
+                              QByteArray(body).replace("{ID}", "{GROUPNO}"));
+    app.write("broken.rpt", "[Report]\r\nTable=NONE\r\n");
+    app.write("Cafe/own.rpt",
+              "; Times\r\n; of the shop\r\n[Report]\r\nTitle=Own\r\nTable=TIMESALES\r\n" + body);
+    MoreReports form(m_values, m_boxes, [this](const reports::ReportRequest& request, const KeepGoing&) {
+        m_requests.push_back(request);
+        return reports::ReportData();
+    });
+    auto& list = test::child<QTreeWidget>(form, "Layouts");
+    QStringList shown;
+    for (int row = 0; row < list.topLevelItemCount(); ++row)
+        shown << list.topLevelItem(row)->text(0) + u'|' + list.topLevelItem(row)->text(2);
+    ASSERT_EQ(shown.size(), 3) << shown.join(u'\n').toStdString();
+    EXPECT_EQ(shown[0], u"Own|Times of the shop"_s);
+    EXPECT_TRUE(shown[1].startsWith(u"broken.rpt|"_s) && shown[1].contains(u"key Title"_s));
+    EXPECT_EQ(shown[2], u"Groups|All groups."_s);
+    form.show();
+    QTest::keyClick(&test::child<QComboBox>(form, "Period"), Qt::Key_End);
+    QTest::keyClick(&test::child<QComboBox>(form, "Period"), Qt::Key_Up);
+    QTest::keyClick(&list, Qt::Key_Return);
+    ASSERT_EQ(m_requests.size(), 1U);
+    EXPECT_EQ(m_requests.back().selectionFormula, u"{TIMESALES.SALESDATE} in lastyear"_s);
+    list.setCurrentItem(list.topLevelItem(1));
+    EXPECT_FALSE(test::child<QPushButton>(form, "ShowReport").isEnabled());
+    list.setCurrentItem(list.topLevelItem(2));
+    QTest::mouseClick(&test::child<QPushButton>(form, "ShowReport"), Qt::LeftButton);
+    EXPECT_EQ(m_requests.back().selectionFormula, QString());
+    EXPECT_FALSE(test::child<QComboBox>(form, "Period").isEnabled());
 }
 
 TEST_F(FrmreportsTest, MarksTheDaysWithSales)
