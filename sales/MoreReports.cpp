@@ -56,7 +56,6 @@ void MoreReports::fillList()
         auto* const item = new QTreeWidgetItem(
             m_list, {report.title, report.isOfShop ? shop : u"Program"_s, report.description});
         item->setToolTip(2, report.description);
-        item->setDisabled(report.isFaulty);
     }
     m_list->header()->resizeSection(0, ui::scaled(titleWidth));
 }
