@@ -44,7 +44,9 @@ OtherReport reportIn(const QString& path, bool isOfShop)
         const auto day = layout.source.day();
         return {path, layout.title, commentOf(path), day ? day->text() : QString(), isOfShop};
     } catch (const reports::ReportError& error) {
-        return {path, QFileInfo(path).fileName(), error.text(), {}, isOfShop, true};
+        QString mistake = error.text();
+        mistake.remove(path + u", "_s);
+        return {path, QFileInfo(path).fileName(), mistake, {}, isOfShop, true};
     }
 }
 
