@@ -33,6 +33,16 @@ TableTool addLikeThis(const TableSurroundings& around)
             }};
 }
 
+/// On screens that can delete.
+TableTool deleteChosen(const TableSurroundings& around)
+{
+    return {u"DeleteRecords"_s, u"&Delete Records..."_s, QKeySequence(u"Ctrl+Delete"_s),
+            [around](TableWindow& table) {
+                openOrTell(around.boxes, [&] { table.deleteChosen(); });
+                refreshRecords(around.main);
+            }};
+}
+
 /// What is not stored yet comes first.
 TableTool undo(const TableSurroundings& around)
 {
@@ -60,8 +70,11 @@ std::function<void(Window&)> showCopies(FrmMain& main, const ApplicationValues& 
 screens::TableTools makeTableTools(const TableSurroundings& around, const screens::OptionForm& form)
 {
     screens::TableTools tools;
-    if (screens::ScreenReader(form.screenFile()).buttons().add)
+    const screens::ScreenButtons buttons = screens::ScreenReader(form.screenFile()).buttons();
+    if (buttons.add)
         tools += addLikeThis(around);
+    if (buttons.remove)
+        tools += deleteChosen(around);
     tools += undo(around);
     tools += {u"SafetyCopies"_s,
               u"&Safety Copies..."_s,

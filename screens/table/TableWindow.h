@@ -33,6 +33,7 @@ class PendingPanel;
 class TableGrid;
 class TableModel;
 class UsesButton;
+struct TableInUse;
 
 /// What a table is opened for.
 struct TableOrder {
@@ -80,6 +81,8 @@ public:
     /// Takes back the latest change that is not stored: a cell, a pasted block, a field of many records.
     /// @return false if there is none.
     bool takeBackLatest();
+    /// Deletes the records with a chosen cell after a question. Changes that are not stored come first.
+    void deleteChosen();
     /// Shows the records as they now are in the file.
     void refresh();
 
@@ -107,6 +110,7 @@ private:
     void buildUses();
     [[nodiscard]] std::optional<KeyUses> readUses(int atMost);
     void rememberEdits();
+    [[nodiscard]] TableInUse inUse() const;
     void refuse(const QString& why);
     void save();
     void paste();

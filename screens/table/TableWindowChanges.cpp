@@ -1,8 +1,11 @@
 // Changes in the cells: entering many, taking them back, storing them; see TableWindow.h.
+#include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
+#include "register/RegisterModel.h"
 #include "screens/SaveNotices.h"
 #include "screens/table/PastedBlock.h"
 #include "screens/table/SetFieldDialog.h"
+#include "screens/table/TableDelete.h"
 #include "screens/table/TableGrid.h"
 #include "screens/table/TableModel.h"
 #include "screens/table/TableSave.h"
@@ -57,19 +60,35 @@ bool TableWindow::takeBackLatest()
     return true;
 }
 
+TableInUse TableWindow::inUse() const
+{
+    ApplicationValues values = m_values;
+    values.databasePath = m_databasePath;
+    const auto key = std::ranges::find_if(source().columns, &TableColumn::isKey);
+    const QString record = recordName(m_caption, key == source().columns.end() ? QString() : key->label);
+    return {source(), m_caption, record, values, m_history.get()};
+}
+
+void TableWindow::deleteChosen()
+{
+    const QStringList keys = chosenKeys();
+    if (keys.isEmpty())
+        return Q_EMIT noticeChanged(u"Choose records first"_s);
+    if (hasEdits())
+        return Q_EMIT noticeChanged(u"Save your changes first, or take them back"_s);
+    const int keysPerLevel = keysOfLevel(registerModelByText(m_values).family);
+    const QString notice = deleteRecords(*m_database, inUse(), keys, keysPerLevel, m_boxes);
+    chooseAgain([this] { m_model->reload(); });
+    Q_EMIT noticeChanged(notice);
+}
+
 /// A save that stores nothing keeps the list.
 void TableWindow::save()
 {
     const ui::WaitPointer wait;
-    ApplicationValues values = m_values;
-    values.databasePath = m_databasePath;
-    const TableSource& source = m_model->rows().source();
-    const auto key = std::ranges::find_if(source.columns, &TableColumn::isKey);
-    const QString record = recordName(m_caption, key == source.columns.end() ? QString() : key->label);
     QString notice;
-    m_model->changeEdits([&](PendingEdits& edits) {
-        notice = saveEdits(*m_database, {source, m_caption, record, values, m_history.get()}, edits, m_boxes);
-    });
+    m_model->changeEdits(
+        [&](PendingEdits& edits) { notice = saveEdits(*m_database, inUse(), edits, m_boxes); });
     chooseAgain([this] { m_model->reload(); });
     Q_EMIT noticeChanged(notice);
     if (m_model->edits().isEmpty())

@@ -75,6 +75,35 @@ TEST_F(UndoTest, ATableUndoesWhatIsNotStoredAndThenWhatIsStored)
     EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
 }
 
+TEST_F(UndoTest, RecordsDeletedInATableComeBackTogether)
+{
+    execute(u"update PLUDATA set STOCKLINK = 1002 where DESCRIPTION = 'Lager'"_s);
+    QWidget& screen = open("PLUMENU");
+    child<QAction>(screen, "ShowTable").trigger();
+    auto& view = child<QTableView>(front(), "TableView");
+    view.setFocus();
+    view.selectAll();
+    const auto pressDelete = [&](bool yes) {
+        m_boxes.answers = {yes};
+        QTest::keyClick(&view, Qt::Key_Delete, Qt::ControlModifier);
+    };
+    addPlu(u"1003', 'Perry', '4"_s);
+    pressDelete(false);
+    EXPECT_EQ(m_boxes.shown.back().text.toStdString(), "Delete 2 records from the table of PLUs?\r\rPLU 1002 "
+                                                       "is used in 1 place\r\rThey will be without it.");
+    EXPECT_EQ(m_boxes.shown.back().preset, BoxAnswer::No);
+    EXPECT_EQ(plus(), "Lager 2.5|Cider 3|Perry 4");
+    view.clearSelection();
+    view.selectRow(0);
+    view.selectionModel()->select(view.model()->index(1, 2), QItemSelectionModel::Select);
+    pressDelete(true);
+    EXPECT_EQ(plus(), "Perry 4");
+    EXPECT_EQ(view.model()->rowCount(), 1);
+    EXPECT_EQ(shown(screen, pluName), "Perry") << "the screen left the deleted record";
+    EXPECT_NE(undo().find("PLUDATA 1001 is added again\rPLUDATA 1002 is added again"), std::string::npos);
+    EXPECT_EQ(plus(), "Lager 2.5|Cider 3|Perry 4");
+}
+
 TEST_F(UndoTest, WhatATableStoredIsUndoneFromItsScreen)
 {
     QWidget& screen = open("PLUMENU");
