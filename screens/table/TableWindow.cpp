@@ -206,6 +206,8 @@ void TableWindow::buildUses()
         return;
     m_uses = new UsesButton([this](int atMost) { return readUses(atMost); }, this);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, m_uses, &UsesButton::recount);
+    // No row may be left, and then none becomes the current one.
+    connect(m_model, &QAbstractItemModel::modelReset, m_uses, &UsesButton::recount);
     connect(new QShortcut(QKeySequence(u"Ctrl+R"_s), this, {}, {}, Qt::WidgetWithChildrenShortcut),
             &QShortcut::activated, m_uses, &QPushButton::click);
 }

@@ -62,7 +62,11 @@ TEST_F(TableWindowTest, ManyFiltersGoOnInTheNextLine)
 
 TEST_F(TableWindowTest, AFilterThatMatchesNothingLeavesNothingToChange)
 {
+    view->setCurrentIndex(view->model()->index(1, 0));
+    auto& uses = test::child<QPushButton>(*window, "RecordUses");
+    QTRY_VERIFY(uses.isEnabled());
     filter("nothing like it");
+    QTRY_VERIFY(!uses.isEnabled());
     QGuiApplication::clipboard()->setText(u"x"_s);
     for (const Qt::Key key : {Qt::Key_C, Qt::Key_V})
         QTest::keyClick(view, key, Qt::ControlModifier);
