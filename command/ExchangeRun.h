@@ -3,7 +3,9 @@
 
 #include "command/Workplace.h"
 #include "exchange/UnfinishedExchange.h"
+#include "link/FailedStep.h"
 
+#include <optional>
 #include <set>
 
 namespace norvane::command
@@ -14,6 +16,8 @@ struct ExchangeEnd {
     ExitCode code = ExitCode::Done;
     QString words;   ///< "1 file to registers 1 to 3, 12 s", or where and why it stopped
     QString message; ///< about a stop, for the user; empty if a message was already shown
+    std::optional<link::FailedStep> failed; ///< the step that a result has ended
+    QString toolWords;                      ///< of the last tool
 };
 
 /// Moves @p boxes. The caller holds the lock of the run.

@@ -1,5 +1,6 @@
 // Work with the registers: the runs of the window, without it.
 #include "command/ExchangeRun.h"
+#include "command/Listing.h"
 #include "command/RegisterTools.h"
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
@@ -137,6 +138,18 @@ std::set<int> wantedBoxes(const Invocation& words, const ApplicationValues& valu
     return unfinishedBoxes(values, direction);
 }
 
+/// A run for programs: only with --json, since scripts that look at the exit code expect no output.
+void showEnd(const Workplace& workplace, const QString& work, const ExchangeEnd& end)
+{
+    if (!workplace.asJson)
+        return;
+    Listing listing({u"Work"_s, u"Complete"_s, u"Result"_s, u"Code"_s, u"Meaning"_s, u"Tool words"_s});
+    listing.add({work, end.code == ExitCode::Done, end.words,
+                 end.failed ? QVariant(end.failed->result) : QVariant(),
+                 end.failed ? QVariant(inWords(*end.failed)) : QVariant(), end.toolWords});
+    workplace.show(listing);
+}
+
 void exchangeWith(const Workplace& workplace, const Invocation& words, exchange::Direction direction)
 {
     const ApplicationValues values = takeCustomer(workplace, words.operands.front());
@@ -147,6 +160,7 @@ void exchangeWith(const Workplace& workplace, const Invocation& words, exchange:
     }
     const auto lock = lockFor(workplace, values);
     const ExchangeEnd end = moveBoxes(workplace, values, boxes, direction);
+    showEnd(workplace, direction == exchange::Direction::Upload ? u"upload"_s : u"download"_s, end);
     if (end.code != ExitCode::Done)
         throw CommandError(end.code, end.message);
     printStep(end.words);
@@ -172,8 +186,12 @@ ExchangeEnd moveBoxes(const Workplace& workplace, const ApplicationValues& value
     exchange::ExchangeRunner runner(values, link, ticks, tools.outside());
     try {
         if (line.connect(link) == link::modemFailed) {
-            runner.logFailedCall(direction, link::resultInWords(link::modemFailed));
-            return {ExitCode::Stopped, runner.stopInWords(), u"Communications Error: Modem Failure"_s};
+            runner.endWithoutCall(direction);
+            return {ExitCode::Stopped,
+                    runner.stopInWords(),
+                    u"Communications Error: Modem Failure"_s,
+                    tools.failed(),
+                    {}};
         }
     } catch (const RuntimeFailure& stop) {
         runner.logFailedCall(direction, stop.text());
@@ -182,8 +200,12 @@ ExchangeEnd moveBoxes(const Workplace& workplace, const ApplicationValues& value
     const bool isUpload = direction == exchange::Direction::Upload;
     const bool isComplete = isUpload ? runner.UploadData() : runner.downloaddata();
     if (isComplete)
-        return {ExitCode::Done, runner.resultInWords(), {}};
-    return {runner.lacksCopy() ? ExitCode::Unwritable : ExitCode::Stopped, runner.stopInWords(), {}};
+        return {ExitCode::Done, runner.resultInWords(), {}, {}, tools.words()};
+    return {runner.lacksCopy() ? ExitCode::Unwritable : ExitCode::Stopped,
+            runner.stopInWords(),
+            {},
+            tools.failed(),
+            tools.words()};
 }
 
 void fetch(const Workplace& workplace, const Invocation& words)
@@ -207,7 +229,14 @@ void collect(const Workplace& workplace, const Invocation& words)
                                       .run = tools.outside()});
     const auto clearFirst = words.has("clear-first"_L1) ? sales::ClearFirst::Yes : sales::ClearFirst::Ask;
     try {
-        if (!run.collect(clearFirst))
+        const bool isComplete = run.collect(clearFirst);
+        showEnd(workplace, u"collection"_s,
+                {isComplete ? ExitCode::Done : ExitCode::Stopped,
+                 isComplete ? run.resultInWords() : run.stopInWords(),
+                 {},
+                 tools.failed(),
+                 tools.words()});
+        if (!isComplete)
             throw CommandError(ExitCode::Stopped, clearHint(values));
         printStep(run.resultInWords());
     } catch (const RuntimeFailure&) {

@@ -43,9 +43,11 @@ link::RunOutside RegisterTools::outside()
                     return true;
                 },
             .boxes = m_workplace.boxes,
-            .lastWords =
-                [this] {
-                    return m_words.lastLine();
+            .lastWords = [this] { return m_words.lastLine(); },
+            .explain =
+                [this](const link::FailedStep& step) {
+                    m_failed = step;
+                    printMessage(inWords(step));
                 }};
 }
 

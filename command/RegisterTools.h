@@ -6,6 +6,8 @@
 #include "link/RunOutside.h"
 #include "link/ToolWords.h"
 
+#include <optional>
+
 namespace norvane::command
 {
 
@@ -25,12 +27,18 @@ public:
     /// The outside of a run that uses these tools; they must outlive it.
     [[nodiscard]] link::RunOutside outside();
 
+    /// The step that a result has ended, if one has.
+    [[nodiscard]] const std::optional<link::FailedStep>& failed() const { return m_failed; }
+    /// What the last tool of the last step said.
+    [[nodiscard]] QString words() const { return m_words.text(); }
+
 private:
     [[nodiscard]] ChildResult run(const QString& line);
 
     const Workplace& m_workplace;
     const ApplicationValues& m_values;
     link::ToolWords m_words; ///< of the last tool of the step
+    std::optional<link::FailedStep> m_failed;
 };
 
 } // namespace norvane::command

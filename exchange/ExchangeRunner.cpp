@@ -47,7 +47,7 @@ ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::Link
                                                           commit();
                                                       }
                                                   }},
-      m_keptFiles(values, m_outside), m_ledger(values)
+      m_keptFiles(values, m_outside), m_ledger(values), m_progress(values, m_outside.millisecondsOpen)
 {
     m_procedures.lineWritten = [this](std::string_view line) {
         m_ledger.addLine(line);
@@ -100,9 +100,15 @@ customers::LoggedWork ExchangeRunner::logLine(Direction direction) const
             u"register 1"_s + customers::ofChosenCustomer(m_values), m_outside.millisecondsOpen};
 }
 
+void ExchangeRunner::endWithoutCall(Direction direction)
+{
+    logFailedCall(direction, link::resultInWords(link::modemFailed));
+    m_outside.explain(m_stop.failedStep(link::modemFailed, false));
+}
+
 void ExchangeRunner::logFailedCall(Direction direction, const QString& reason)
 {
-    m_place = u"the call"_s;
+    m_stop.place = u"the call"_s;
     m_stopped = stoppedText(reason);
     logLine(direction).setResult(m_stopped);
 }
@@ -112,37 +118,37 @@ void ExchangeRunner::showLastBox()
 {
     if (m_lastBox.text.isEmpty())
         return;
+    if (m_stop.result)
+        m_outside.explain(m_stop.failedStep(*m_stop.result, isInTurn()));
     m_outside.beforeLastBox();
     m_outside.boxes.message(m_lastBox.text, m_lastBox.title, m_lastBox.icon);
 }
 
+/// Only the files of a send go to several registers.
+bool ExchangeRunner::isInTurn() const
+{
+    return m_exchange.direction == Direction::Download && m_stop.box && m_link.registers() > 1;
+}
+
 bool ExchangeRunner::logged(customers::LoggedWork& work, bool (ExchangeRunner::*sequence)())
 {
-    const auto ended = qScopeGuard([this] { m_ledger.end(); });
+    const auto ended = qScopeGuard([this] {
+        m_ledger.end();
+        m_progress.end();
+    });
     const bool isComplete = work.during(
         [&] { return (this->*sequence)(); },
         [this](const QString& failure) { return stoppedText(link::withLastWords(m_outside, failure)); });
-    m_stopped = isComplete ? QString() : stoppedText(whyStopped());
+    m_stopped = isComplete ? QString() : stoppedText(m_stop.reason(m_outside));
     work.setResult(isComplete ? QString(customers::completeResult) : m_stopped);
     const QString moved = movedFiles(m_filesMoved, m_exchange.direction, m_link);
     m_result = isComplete ? u"%1, %2"_s.arg(moved, work.secondsInWords()) : QString();
     return isComplete;
 }
 
-/// A run that was not left and ends without a result was answered No.
-QString ExchangeRunner::whyStopped() const
-{
-    if (m_isLeft)
-        return u"left by the user"_s;
-    return link::withLastWords(m_outside, m_failed ? link::resultInWords(*m_failed) : u"answered No"_s);
-}
-
-/// "stopped at file 67: result 8: Time Out (register 2 does not answer); still to do: PLU, Group".
 QString ExchangeRunner::stoppedText(const QString& reason) const
 {
-    const QString stopped = u"stopped at %1: %2"_s.arg(m_place, reason);
-    const QList<int> left = tickedBoxes(m_ticks);
-    return left.isEmpty() ? stopped : u"%1; still to do: %2"_s.arg(stopped, boxNames(left));
+    return m_stop.inWords(reason, tickedBoxes(m_ticks));
 }
 
 bool ExchangeRunner::upload()
@@ -173,6 +179,9 @@ void ExchangeRunner::begin(Direction direction)
     if (!m_exchange.boxes.isEmpty())
         noteExchange(m_values, m_exchange);
     m_ledger.begin(direction, m_exchange.boxes, m_link.registers());
+    m_progress.begin(direction, direction == Direction::Upload
+                                    ? filesOfBoxes(uploadPlan(), m_exchange.boxes, hasSmartCards())
+                                    : filesOfBoxes(downloadPlan(), m_exchange.boxes, hasSmartCards()));
 }
 
 void ExchangeRunner::noteBoxesLeft()
@@ -202,15 +211,19 @@ bool ExchangeRunner::moveBoxes(std::span<const Row> plan, bool (ExchangeRunner::
 template <typename Row>
 bool ExchangeRunner::moveBox(int box, std::span<const Row> rows, bool (ExchangeRunner::*moveRow)(const Row&))
 {
+    m_stop.box = box;
     for (const Row& row : rows) {
-        m_place = u"file %1"_s.arg(row.file);
+        m_stop.place = u"file %1"_s.arg(row.file);
         if (!m_outside.goOn()) {
-            m_isLeft = true;
+            m_stop.isLeft = true;
             return false;
         }
+        m_outside.showProgress(m_progress.beginFile(row.file));
         if (!(this->*moveRow)(row))
             return false;
+        m_progress.endFile();
     }
+    m_stop.box.reset();
     m_ticks.setTicked(box, false);
     // Reloading or sending the PLUs clears their points, so these have to follow.
     if (box == pluBox)
@@ -345,7 +358,7 @@ bool ExchangeRunner::succeeded()
     const int result = link::resultNumber(status);
     if (result == 0)
         return true;
-    m_failed = result;
+    m_stop.result = result;
     m_lastBox = {u"Communications Error "_s + status, u"Communication result"_s};
     return false;
 }
@@ -354,7 +367,7 @@ bool ExchangeRunner::succeeded()
 bool ExchangeRunner::open(const QString& name, const QString& commandLine, const QStringList& expected)
 {
     m_outside.showStep(name);
-    m_place = u"the "_s + name.toLower();
+    m_stop.place = u"the "_s + name.toLower();
     link::WatchedStep step(m_outside, expected + QStringList{link::statusFile});
     step.run(commandLine);
     return succeeded() && step.mayGoOn(oldResult);

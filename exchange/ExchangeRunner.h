@@ -6,6 +6,8 @@
 #include "customers/CustomerLog.h"
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangePlan.h"
+#include "exchange/ExchangeProgress.h"
+#include "exchange/ExchangeStop.h"
 #include "exchange/KeptFiles.h"
 #include "exchange/LedgerRun.h"
 #include "exchange/UnfinishedExchange.h"
@@ -13,7 +15,6 @@
 #include "link/WatchedStep.h"
 #include "records/FileProcedures.h"
 
-#include <optional>
 #include <span>
 
 namespace norvane::exchange
@@ -41,7 +42,9 @@ public:
     /// Makes the files from the tables, or takes the kept ones, and sends them to registers 1 to n.
     /// @throws as UploadData, and 53 when the kept bitmap file is missing.
     bool downloaddata();
-    /// Logs that the modem reached no register, so that nothing was moved, and why.
+    /// Logs that the modem reached no register, so that nothing was moved, and explains it.
+    void endWithoutCall(Direction direction);
+    /// Logs that the call failed for another reason.
     void logFailedCall(Direction direction, const QString& reason);
     /// What a complete run has moved: "36 files from register 1, 12 s". Empty for any other.
     [[nodiscard]] const QString& resultInWords() const { return m_result; }
@@ -56,7 +59,7 @@ private:
     void showLastBox();
     [[nodiscard]] customers::LoggedWork logLine(Direction direction) const;
     [[nodiscard]] bool logged(customers::LoggedWork& work, bool (ExchangeRunner::*sequence)());
-    [[nodiscard]] QString whyStopped() const;
+    [[nodiscard]] bool isInTurn() const;
     [[nodiscard]] QString stoppedText(const QString& reason) const;
     bool upload();
     bool download();
@@ -87,15 +90,14 @@ private:
     records::ProcedureContext m_procedures;
     KeptFiles m_keptFiles;
     LedgerRun m_ledger;
+    ExchangeProgress m_progress;
     UnfinishedExchange m_exchange; ///< this run, with the boxes that are left
     int m_filesMoved = 0;
     QString m_result;  ///< of a complete run
     QString m_stopped; ///< of any other
     bool m_lacksCopy = false;
     bool m_givesUpPoints = false; ///< the user sends PLUs though their points wait
-    QString m_place;              ///< in progress: "file 67", "the opening exchange"
-    std::optional<int> m_failed;  ///< the result that stops the run
-    bool m_isLeft = false;
+    ExchangeStop m_stop;
     /// Ends the run; without a text no box is shown.
     struct {
         QString text;

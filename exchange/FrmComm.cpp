@@ -234,7 +234,7 @@ void FrmComm::exchange()
         return;
     ExchangeRunner runner(m_values, link, *this, outside());
     if (result == link::modemFailed) {
-        runner.logFailedCall(direction(), link::resultInWords(result));
+        runner.endWithoutCall(direction());
         hangUp();
         endBeforeLastBox();
         m_boxes.message(u"Modem Failure"_s, u"Communications Error"_s);

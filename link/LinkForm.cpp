@@ -22,7 +22,11 @@ namespace norvane::link
 LinkForm::LinkForm(const char* name, const char* runCaption, const ApplicationValues& values, Boxes& boxes,
                    QWidget* parent)
     : QDialog(parent), m_values(values), m_boxes(boxes), m_timedBoxes(boxes),
-      m_tool(this, boxes, [this](const QString& text) { StatusBar1->setRunning(text); }),
+      m_tool(this, boxes,
+             [this](const QString& text) {
+                 StatusBar1->setRunning(text);
+                 showProgress();
+             }),
       m_line(makeSerialLine()), m_clock(std::make_unique<SystemClock>())
 {
     ui::nameControl(*this, QLatin1String(name));
@@ -33,7 +37,7 @@ LinkForm::LinkForm(const char* name, const char* runCaption, const ApplicationVa
     connect(CSCmdBtn1, &QPushButton::clicked, this, &LinkForm::reject);
     StatusBar1 = new ui::StatusLine(this);
     m_report = new RunReport(this);
-    connect(m_report, &RunReport::appeared, this, &LinkForm::stayOnScreen);
+    connect(m_report, &RunReport::cameOrWent, this, &LinkForm::fitFrame);
     m_tool.setExit(CSCmdBtn1,
                    [this](bool leaves) { StatusBar1->setNotice(leaves ? leavingNotice() : QString()); });
 }
@@ -130,6 +134,8 @@ bool LinkForm::endRun()
 {
     const bool leaves = m_exitPressed && m_work == Work::Moving;
     m_work = Work::None;
+    m_progress = {};
+    showProgress();
     m_lock.reset();
     m_waitPointer.reset();
     Communicate->setEnabled(true);
@@ -153,16 +159,25 @@ ChildResult LinkForm::runTool(const QString& commandLine, const QString& folder)
     return result;
 }
 
-/// The form has grown downwards. One that is a child of the main window can be scrolled to.
-void LinkForm::stayOnScreen()
+/// Counts down while a tool runs.
+void LinkForm::showProgress()
 {
-    if (!isWindow())
-        return;
+    const std::chrono::milliseconds ago(m_sinceProgress.isValid() ? m_sinceProgress.elapsed() : 0);
+    StatusBar1->setProgress(m_progress.inWords(ago));
+}
+
+/// The form has grown downwards, or shrunk. The frame of a child of the main window does not follow by
+/// itself.
+void LinkForm::fitFrame()
+{
     layout()->activate();
-    const QRect room = ui::roomOnScreen(*this);
-    const int below = geometry().bottom() - room.bottom();
-    const int above = geometry().top() - room.top();
-    move(x(), y() - std::clamp(below, 0, std::max(above, 0)));
+    QWidget& frame = isWindow() ? *this : *parentWidget();
+    if (!isWindow())
+        frame.setFixedSize(frame.sizeHint());
+    const QRect room = isWindow() ? ui::roomOnScreen(*this) : frame.parentWidget()->rect();
+    const int below = frame.geometry().bottom() - room.bottom();
+    const int above = frame.geometry().top() - room.top();
+    frame.move(frame.x(), frame.y() - std::clamp(below, 0, std::max(above, 0)));
 }
 
 int LinkForm::connectLink(const LinkSettings& link)
@@ -235,9 +250,13 @@ RunOutside LinkForm::outside(const QString& folder)
             .beforeLastBox = [this] { endBeforeLastBox(); },
             .beginAgain = [this] { return takeLock(); },
             .millisecondsOpen = [this] { return m_timedBoxes.millisecondsOpen(); },
-            .lastWords =
-                [this] {
-                    return m_words.lastLine();
+            .lastWords = [this] { return m_words.lastLine(); },
+            .explain = [this](const FailedStep& step) { m_report->explain(inWords(step)); },
+            .showProgress =
+                [this](const RunProgress& progress) {
+                    m_progress = progress;
+                    m_sinceProgress.start();
+                    showProgress();
                 }};
 }
 

@@ -14,6 +14,7 @@
 #include "ui/WaitPointer.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 
 #include <memory>
 #include <optional>
@@ -103,7 +104,8 @@ private:
     [[nodiscard]] bool takeLock();
     void showStep(const QString& text);
     [[nodiscard]] ChildResult runTool(const QString& commandLine, const QString& folder);
-    void stayOnScreen();
+    void fitFrame();
+    void showProgress();
     void beginRun();
     [[nodiscard]] bool endRun();
     [[nodiscard]] int dial();
@@ -114,6 +116,8 @@ private:
     ToolWords m_words; ///< of the last tool
     QString m_step;    ///< as the status bar shows it
     RunReport* m_report = nullptr;
+    RunProgress m_progress;
+    QElapsedTimer m_sinceProgress;
     std::unique_ptr<SerialLine> m_line;
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<Modem> m_modem;

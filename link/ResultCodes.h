@@ -18,6 +18,16 @@ inline constexpr int descriptionsPolled = 101;
 /// The same for a list or a log, without the leading number: "result 8: Time Out".
 [[nodiscard]] QString resultInWords(int status);
 
+/// What a result means for the user.
+struct ResultMeaning {
+    QString happened; ///< "a register did not answer"
+    QString helps;    ///< one or more sentences
+    /// A register gave it, so that those before it were served. Any other result stops the tool before the
+    /// first.
+    bool isOfOneRegister = false;
+};
+[[nodiscard]] ResultMeaning resultMeaning(int status);
+
 /// A value of status.out as a number; empty text counts as 0.
 /// @throws RuntimeFailure with Failure::TypeMismatch if it is not a number, Failure::Overflow if it does not
 /// fit 32 bits.

@@ -5,6 +5,8 @@
 #include "platform/FilePaths.h"
 #include "platform/ProfileFile.h"
 
+#include <limits>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::link
@@ -25,6 +27,12 @@ QString notesPath(const ApplicationValues& values)
 QString readNote(const ApplicationValues& values, QLatin1StringView section, QLatin1StringView key)
 {
     return ProfileFile(notesPath(values)).value(QString(section), QString(key));
+}
+
+QString readLongNote(const ApplicationValues& values, QLatin1StringView section, QLatin1StringView key)
+{
+    constexpr int anyLength = std::numeric_limits<int>::max();
+    return ProfileFile(notesPath(values)).value(QString(section), QString(key), {}, anyLength);
 }
 
 void writeNote(const ApplicationValues& values, QLatin1StringView section, QLatin1StringView key,

@@ -11,6 +11,9 @@ namespace norvane::link
 /// A note of the customer, in exchange.ini. @return empty text when there is none.
 [[nodiscard]] QString readNote(const ApplicationValues& values, QLatin1StringView section,
                                QLatin1StringView key);
+/// The same for a note of any length.
+[[nodiscard]] QString readLongNote(const ApplicationValues& values, QLatin1StringView section,
+                                   QLatin1StringView key);
 /// Replaces a note. A folder that cannot be written to keeps the former one: the run matters more.
 void writeNote(const ApplicationValues& values, QLatin1StringView section, QLatin1StringView key,
                const QString& value);

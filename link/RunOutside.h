@@ -1,6 +1,8 @@
 // What a run of the tools needs from outside.
 #pragma once
 
+#include "link/FailedStep.h"
+#include "link/RunProgress.h"
 #include "platform/Boxes.h"
 #include "platform/ChildProcess.h"
 
@@ -40,6 +42,12 @@ struct RunOutside {
     /// The last line that the last tool of the step said, shortened; empty if it said nothing.
     std::function<QString()> lastWords = [] {
         return QString();
+    };
+    /// Shows what a result means that has ended the run; called before the box that names it.
+    std::function<void(const FailedStep& step)> explain = [](const FailedStep& /*step*/) {
+    };
+    /// Shows how far the run is.
+    std::function<void(const RunProgress& progress)> showProgress = [](const RunProgress& /*progress*/) {
     };
 };
 

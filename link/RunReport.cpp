@@ -1,6 +1,8 @@
 // See RunReport.h.
 #include "link/RunReport.h"
 
+#include "ui/Announcement.h"
+#include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
 #include <QScrollBar>
@@ -13,7 +15,7 @@ namespace
 {
 
 /// Lines that show at once: what a failed step says, and what its result means.
-constexpr int linesShown = 7;
+constexpr int linesShown = 8;
 /// Beyond these the first ones go: a tool may say much at each of a hundred steps.
 constexpr int mostLines = 2000;
 
@@ -21,11 +23,12 @@ constexpr int mostLines = 2000;
 
 RunReport::RunReport(QWidget* parent) : QPlainTextEdit(parent)
 {
-    ui::nameControl(*this, u"RunReport"_s, u"What the tools said"_s);
+    ui::nameControl(*this, u"RunReport"_s, u"About this run"_s);
     setReadOnly(true);
     setTabChangesFocus(true);
     setMaximumBlockCount(mostLines);
     setFrameShape(NoFrame);
+    document()->setDocumentMargin(ui::spacing::controlGap);
     hide();
 }
 
@@ -33,7 +36,7 @@ void RunReport::empty()
 {
     clear();
     m_lastStep.clear();
-    hide();
+    setShown(false);
 }
 
 void RunReport::addWords(const QString& step, const QString& words)
@@ -46,14 +49,25 @@ void RunReport::addWords(const QString& step, const QString& words)
     add(words);
 }
 
+void RunReport::explain(const QString& text)
+{
+    add(document()->isEmpty() ? text : u'\n' + text);
+    ui::announce(*this, text);
+}
+
 void RunReport::add(const QString& text)
 {
     appendPlainText(text);
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
-    if (isHidden()) {
-        show();
-        Q_EMIT appeared();
-    }
+    setShown(true);
+}
+
+void RunReport::setShown(bool isShown)
+{
+    if (isShown != isHidden())
+        return;
+    setVisible(isShown);
+    Q_EMIT cameOrWent();
 }
 
 /// As wide as the form makes it.

@@ -1,4 +1,4 @@
-// The part of a form below its status bar that says more about a run.
+// The part of a form below its status bar that says more about a run than fits there.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -6,7 +6,8 @@
 namespace norvane::link
 {
 
-/// What the tools of a run said, step by step. It can be read and copied, and is hidden while it is empty.
+/// What the tools of a run said, step by step, and what the result means that has ended it. It can be read
+/// and copied, and is hidden while it is empty.
 class RunReport : public QPlainTextEdit
 {
     Q_OBJECT
@@ -17,16 +18,19 @@ public:
     void empty();
     /// Adds @p words under the name of their step; nothing if there are none.
     void addWords(const QString& step, const QString& words);
+    /// Adds @p text, below a free line if there are words.
+    void explain(const QString& text);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
-    /// The first text came, and the form grows.
-    void appeared();
+    /// The form has another size now.
+    void cameOrWent();
 
 private:
     void add(const QString& text);
+    void setShown(bool isShown);
 
     QString m_lastStep; ///< that has words here
 };

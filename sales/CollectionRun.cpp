@@ -146,9 +146,19 @@ void CollectionRun::loggedCall(const std::function<void()>& makeCall)
     m_failed.reset();
     logCall(makeCall);
     if (m_failed) {
+        m_outside.run.explain(failedStep());
         m_outside.run.beforeLastBox();
         m_outside.run.boxes.message(link::resultText(*m_failed, m_dialResult), u"Communications Error"_s);
     }
+}
+
+link::FailedStep CollectionRun::failedStep() const
+{
+    const bool clears = !m_tasks.isEmpty() && m_tasks.front() != Task::Collect;
+    const QString next = clears
+                             ? u"The sales are stored; the registers are still to be cleared."_s
+                             : u"Then collect again: nothing was stored, and the registers keep the sales."_s;
+    return {m_dialResult == link::modemFailed ? m_dialResult : *m_failed, m_place, m_isInTurn, next};
 }
 
 void CollectionRun::logCall(const std::function<void()>& makeCall)
@@ -160,8 +170,8 @@ void CollectionRun::logCall(const std::function<void()>& makeCall)
         // What was read before the failure may have been kept.
         return stoppedText(link::withLastWords(m_outside.run, failure), u"the registers were not cleared"_s);
     });
-    work.setResult(m_isCleared ? QString(customers::completeResult)
-                               : stoppedText(whyStopped(), u"nothing stored"_s));
+    m_stopped = m_isCleared ? QString() : stoppedText(whyStopped(), u"nothing stored"_s);
+    work.setResult(m_isCleared ? QString(customers::completeResult) : m_stopped);
     if (m_isCleared) {
         m_result =
             u"%1 rows of sales stored, %2"_s.arg(QLocale().toString(m_rowsStored), work.secondsInWords());
@@ -204,6 +214,7 @@ bool CollectionRun::mayClearAgain() const
 void CollectionRun::call()
 {
     m_place = u"the call"_s;
+    m_isInTurn = false;
     m_dialResult = m_outside.connectLink(m_link);
     // A user who left while the modem dialled has hung up already.
     if (hasLeft())
@@ -290,6 +301,7 @@ std::optional<int> CollectionRun::runStep(const ToolStep& step)
         m_ended = true;
         return std::nullopt;
     }
+    m_isInTurn = step.line == link::salesLine && m_link.registers() > 1;
     m_place = step.statusText != nullptr ? QString::fromLatin1(step.statusText) : u"the opening exchange"_s;
     if (step.passesWaiting)
         noteNewerSales(m_values);

@@ -50,6 +50,8 @@ public:
     bool collect(ClearFirst clearFirst = ClearFirst::Ask);
     /// What a complete run has stored: "3,776 rows of sales stored, 12 s". Empty for any other.
     [[nodiscard]] const QString& resultInWords() const { return m_result; }
+    /// Where and why any other has stopped.
+    [[nodiscard]] const QString& stopInWords() const { return m_stopped; }
 
 private:
     struct ToolStep;
@@ -77,6 +79,7 @@ private:
     void logCall(const std::function<void()>& makeCall);
     void call();
     [[nodiscard]] QString whyStopped() const;
+    [[nodiscard]] link::FailedStep failedStep() const;
     [[nodiscard]] QString stoppedText(const QString& reason, const QString& beforeStoring) const;
 
     const ApplicationValues& m_values;
@@ -84,12 +87,14 @@ private:
     link::LinkSettings m_link;
     int m_dialResult = 0;
     QString m_place;               ///< the step in progress, for the log
+    bool m_isInTurn = false;       ///< the step goes to several registers, one after another
     std::optional<int> m_failed;   ///< the result that stopped the run
     QList<Task> m_tasks;           ///< those that are left, the next one first
     bool m_stepIsComplete = false; ///< the last step's tool wrote what it has to
     bool m_isStored = false;
     qint64 m_rowsStored = 0;
-    QString m_result; ///< of a complete run
+    QString m_result;  ///< of a complete run
+    QString m_stopped; ///< of any other
     bool m_isCleared = false;
     bool m_ended = false; ///< the user left, or rejected files left by a tool
     ReportOrigin m_origin = ReportOrigin::ThisRun;

@@ -3,6 +3,8 @@
 
 #include <QStatusBar>
 
+class QLabel;
+
 namespace norvane::ui
 {
 
@@ -19,11 +21,14 @@ public:
     void setStep(const QString& text);
     void setRunning(const QString& text);
     void setResult(const QString& text);
+    /// How far the work is, at the right edge. Hidden while the other texts need the room.
+    void setProgress(const QString& text);
     void setNotice(const QString& text);
 
 private:
     void showAll();
 
+    QLabel* m_progress;
     QString m_step;
     QString m_running;
     QString m_result;

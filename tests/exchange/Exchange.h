@@ -81,6 +81,7 @@ public:
     Ticks ticks;
     QStringList transfers; ///< lines of the transfer tool
     QStringList notices;
+    QString explained; ///< the result that stopped the run
     /// Runs after each line of a tool.
     std::function<void(const QString& line)> afterTool;
 
@@ -89,6 +90,7 @@ private:
     {
         transfers.clear();
         notices.clear();
+        explained.clear();
         boxes.shown.clear();
         ticks.ticked = wanted;
         const link::LinkSettings link = link::readLinkSettings(values);
@@ -102,7 +104,11 @@ private:
                 .showStep = [](const QString&) {},
                 .showNotice = [this](const QString& text) { notices << text; },
                 .goOn = [] { return true; },
-                .boxes = boxes};
+                .boxes = boxes,
+                .explain =
+                    [this](const link::FailedStep& step) {
+                        explained = inWords(step);
+                    }};
     }
     ChildResult runTool(const QString& line)
     {

@@ -107,6 +107,14 @@ TEST(ExchangeRunner, FetchesEveryFileFromOneRegisterAndSendsItToAll)
     EXPECT_EQ(shop.files(), files);
     EXPECT_TRUE(shop.ticks.ticked.empty());
     EXPECT_TRUE(shop.boxes.shown.empty());
+
+    shop.folder.setFaults("[Off]\nTool=VELMARCOMM\nFile=67\nRegister=2\nResult=8\n");
+    shop.download({0});
+    const QString start = u"Result 8 at file 67 (PLU): a register did not answer.\n"_s;
+    EXPECT_TRUE(shop.explained.startsWith(start + u"The registers before this one have done the step"_s));
+    shop.folder.setFaults("[Off]\nTool=VELMARCOMM\nFile=67\nResult=8\n");
+    shop.upload({0});
+    EXPECT_TRUE(shop.explained.startsWith(start + u"Switch it on"_s)) << "there is one register";
 }
 
 /// A run that stops, and how its result in the log begins.

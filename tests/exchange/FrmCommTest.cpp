@@ -103,7 +103,8 @@ TEST_F(FrmCommTest, ShowsWhatTheToolsOfARunSaid)
     EXPECT_GE(report.y(), child<QStatusBar>(form, "StatusBar1").geometry().bottom());
     const QString text = report.toPlainText();
     EXPECT_TRUE(text.contains(u"\nUpload Group, file 1:\n...\nxxx"_s));
-    EXPECT_TRUE(text.endsWith(u"xxx\nGelöscht\\x07\nVELMARCOMM: fault file: result 8 at register 1"_s))
+    EXPECT_TRUE(text.contains(u"xxx\nGelöscht\\x07\nVELMARCOMM: fault file: result 8 at register 1\n\n"
+                              u"Result 8 at file 1 (Group): a register did not answer.\nSwitch it on"_s))
         << text.right(300).toStdString();
     EXPECT_EQ(logged().result, u"stopped at file 1: result 8: Time Out%1; still to do: Group"_s.arg(said));
     EXPECT_EQ(boxes.shown.back().text, u"Communications Error 8");
@@ -113,6 +114,26 @@ TEST_F(FrmCommTest, ShowsWhatTheToolsOfARunSaid)
     folder.setFaults("");
     upload();
     EXPECT_TRUE(report.isHidden());
+}
+
+TEST_F(FrmCommTest, ShowsHowFarItIsAndFromTheSecondTimeOnHowLongItWillTake)
+{
+    const auto& progress = child<QLabel>(form, "Progress");
+    folder.setFaults("[Slow]\nFile=29\nHang=1\n");
+    for (const auto& last : {u"file 2 of 2"_s, u"file 2 of 2, about 1 s left"_s}) {
+        QStringList shown;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            if (progress.isVisible() && !shown.contains(progress.text()))
+                shown << progress.text();
+        });
+        look.start(20);
+        for (const int index : {2, 5})
+            box(index).setChecked(true);
+        upload();
+        EXPECT_TRUE(shown.contains(last)) << shown.join(u'|').toStdString();
+        EXPECT_TRUE(progress.isHidden());
+    }
 }
 
 /// As after a change of customer: the tables of the former shop are still open.

@@ -4,6 +4,8 @@
 #include "tests/road/RunCommand.h"
 #include "tests/road/Shop.h"
 
+#include <QJsonDocument>
+
 namespace norvane
 {
 namespace
@@ -151,6 +153,10 @@ TEST_P(CommandLineOfOneShop, ShowsByItsExitCodeWhatStoppedARun)
     EXPECT_TRUE(stopped.err.contains(u"Communications Error"_s)) << stopped.err.toStdString();
     EXPECT_EQ(stopped.err.count(u"opening ÿ\nVELMARCOMM: fault file: result 8"_s), 1) << "said once";
     EXPECT_EQ(stopped.out, QString()) << "left to the command";
+    const auto told = QJsonDocument::fromJson(run({u"fetch"_s, shopName, u"1"_s, u"--json"_s}).out.toUtf8());
+    EXPECT_EQ(told[0][u"code"_s].toInt(), 8);
+    EXPECT_TRUE(told[0][u"meaning"_s].toString().contains(u"a register did not answer"_s));
+    EXPECT_TRUE(told[0][u"toolWords"_s].toString().startsWith(u"opening ÿ\nVELMARCOMM"_s));
     EXPECT_TRUE(run({u"customers"_s, u"--json"_s}).out.contains(u"\"lastExchange\": null"_s));
     m_shop.folder().setFaults({});
     auto lock = FolderLock::take(m_shop.values().customerPath, m_shop.boxes());

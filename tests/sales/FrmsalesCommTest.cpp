@@ -73,6 +73,11 @@ TEST_F(FrmsalesCommTest, EndsAtAResultThatIsNotAccepted)
     EXPECT_EQ(logged(),
               u"stopped at Clear Data at ECR: result 15: Report Clear Error (VELMARCOMM: fault file: "
               u"result 15 at register 1); the sales are stored; still to do: clear the registers");
+    const QString report = test::child<QPlainTextEdit>(form, "RunReport").toPlainText();
+    EXPECT_TRUE(report.contains(u"Result 15 at Clear Data at ECR: a register did not clear its reports.\n"
+                                u"The registers before this one"_s) &&
+                report.endsWith(u"The sales are stored; the registers are still to be cleared."_s))
+        << report.toStdString();
 }
 
 TEST_F(FrmsalesCommTest, AsksBeforeItStoresSalesWithThoseOfAnotherCustomer)

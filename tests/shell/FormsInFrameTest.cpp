@@ -41,6 +41,26 @@ TEST_F(FormsInFrameTest, AccessLettersOfSmallWindowsComeBeforeTheMenu)
     EXPECT_TRUE(m_main->isVisible());
 }
 
+/// The frame of the form grows with it.
+TEST_F(FormsInFrameTest, ACollectionShowsWhatAToolSaid)
+{
+    const test::WorkingDirectory here(m_folder.path("app"));
+    m_folder.write("app/VELMARCOMM", "#!/bin/sh\necho no answer\necho 8 >status.out\n");
+    QFile::setPermissions(m_folder.path("app/VELMARCOMM"), QFile::ReadOwner | QFile::ExeOwner);
+    QWidget& form = open("CollectSales");
+    QWidget& frame = *form.parentWidget();
+    const auto& report = child<QPlainTextEdit>(form, "RunReport");
+    int seen = 0;
+    m_boxes.whileOpen = [&](const test::ShownBox&) {
+        EXPECT_TRUE(report.toPlainText().startsWith(u"Get Memory:\nno answer\n\nResult 8 at Get Memory"_s));
+        EXPECT_TRUE(frame.rect().contains({report.mapTo(&frame, QPoint()), report.size()}));
+        EXPECT_TRUE(frame.parentWidget()->rect().contains(frame.geometry()));
+        ++seen;
+    };
+    child<QPushButton>(form, "Communicate").click();
+    EXPECT_EQ(seen, 1);
+}
+
 /// Another customer is chosen; the key editors lead over to its data, which is still empty.
 TEST_F(FormsInFrameTest, AKeyEditorThatCannotOpenClosesAlone)
 {
