@@ -170,11 +170,12 @@ void LinkForm::showProgress()
 /// itself.
 void LinkForm::fitFrame()
 {
-    layout()->activate();
     QWidget& frame = isWindow() ? *this : *parentWidget();
+    const QRect room = isWindow() ? ui::roomOnScreen(*this) : frame.parentWidget()->rect();
+    m_report->setRoom(room.height() - (layout()->totalSizeHint().height() - m_report->sizeHint().height()));
+    layout()->activate();
     if (!isWindow())
         frame.setFixedSize(frame.sizeHint());
-    const QRect room = isWindow() ? ui::roomOnScreen(*this) : frame.parentWidget()->rect();
     const int below = frame.geometry().bottom() - room.bottom();
     const int above = frame.geometry().top() - room.top();
     frame.move(frame.x(), frame.y() - std::clamp(below, 0, std::max(above, 0)));

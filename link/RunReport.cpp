@@ -7,6 +7,8 @@
 
 #include <QScrollBar>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::link
@@ -14,8 +16,9 @@ namespace norvane::link
 namespace
 {
 
-/// Lines that show at once: what a failed step says, and what its result means.
+/// Lines that show at once, where there is room: what a failed step says, and what its result means.
 constexpr int linesShown = 8;
+constexpr int fewestLines = 3;
 /// Beyond these the first ones go: a tool may say much at each of a hundred steps.
 constexpr int mostLines = 2000;
 
@@ -70,11 +73,19 @@ void RunReport::setShown(bool isShown)
     Q_EMIT cameOrWent();
 }
 
+void RunReport::setRoom(int height)
+{
+    m_room = height;
+    updateGeometry();
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
 /// As wide as the form makes it.
 QSize RunReport::sizeHint() const
 {
     const int margins = qRound(2 * document()->documentMargin()) + 2 * frameWidth();
-    return {0, linesShown * fontMetrics().lineSpacing() + margins};
+    const int lines = std::clamp((m_room - margins) / fontMetrics().lineSpacing(), fewestLines, linesShown);
+    return {0, lines * fontMetrics().lineSpacing() + margins};
 }
 
 } // namespace norvane::link

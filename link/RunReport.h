@@ -21,6 +21,8 @@ public:
     /// Adds @p text, below a free line if there are words.
     void explain(const QString& text);
 
+    /// In large type on a small screen fewer lines show at once. @param height pixels that the form has left
+    void setRoom(int height);
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -32,6 +34,7 @@ private:
     void add(const QString& text);
     void setShown(bool isShown);
 
+    int m_room = QWIDGETSIZE_MAX;
     QString m_lastStep; ///< that has words here
 };
 
