@@ -332,6 +332,12 @@ SheetComparison::SheetComparison(store::Database& database, const TableSheet& sh
     SheetComparer(database, *this, keepGoing).run();
 }
 
+bool SheetComparison::changesTheSame(const SheetComparison& other) const
+{
+    return m_changes == other.m_changes && m_former == other.m_former &&
+           m_mistakes.count() == other.m_mistakes.count();
+}
+
 void SheetComparison::forEach(const std::function<void(const SheetChange& change)>& take) const
 {
     const char* former = m_former.c_str();

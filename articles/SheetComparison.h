@@ -50,6 +50,10 @@ public:
     /// Of known and new PLUs.
     [[nodiscard]] std::size_t changeCount() const { return m_changes.size(); }
     [[nodiscard]] std::size_t newCount() const { return m_newCount; }
+    /// Lines that change nothing. Only of a file without mistakes.
+    [[nodiscard]] std::size_t unchangedCount() const { return m_file.lines().size() - m_changes.size(); }
+    /// Whether @p other, of the same file, found the same changes of the same values.
+    [[nodiscard]] bool changesTheSame(const SheetComparison& other) const;
     /// Calls @p take with each change: by number, then new records in the order of the file.
     void forEach(const std::function<void(const SheetChange& change)>& take) const;
 
@@ -60,6 +64,7 @@ private:
         std::uint32_t position; ///< of a known record
         std::uint16_t columns;  ///< how many are changed
         bool isNew;
+        bool operator==(const Change&) const = default;
     };
 
     const TableSheet& m_sheet;

@@ -16,9 +16,6 @@ namespace norvane::articles
 namespace
 {
 
-constexpr int linesForHeadings = 5;
-constexpr auto separators = std::to_array({';', ',', '\t'});
-
 bool isUtf8(std::string_view text)
 {
     return QUtf8StringView(text.data(), static_cast<qsizetype>(text.size())).isValidUtf8();
@@ -46,19 +43,19 @@ QString lettersOf(std::size_t column)
     return name;
 }
 
-std::string_view withoutByteOrderMark(std::string_view text)
+} // namespace
+
+std::string_view csvTextOf(const QByteArray& content)
 {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    std::string_view text(content.constData(), static_cast<std::size_t>(content.size()));
     if (text.starts_with(byteOrderMark))
         text.remove_prefix(byteOrderMark.size());
     return text;
 }
 
-} // namespace
-
 SheetFile::SheetFile(const TableSheet& sheet, const QByteArray& content, SheetReading reading)
-    : m_sheet(sheet), m_reading(std::move(reading)),
-      m_text(withoutByteOrderMark({content.constData(), static_cast<std::size_t>(content.size())}))
+    : m_sheet(sheet), m_reading(std::move(reading)), m_text(csvTextOf(content))
 {
     if (!isUtf8(m_text)) {
         add(brokenLine(m_text), {}, {}, u"the file is not UTF-8; save it as \"CSV UTF-8\""_s);
@@ -111,7 +108,7 @@ bool SheetFile::hasHeadings() const
 
 void SheetFile::findHeadings()
 {
-    for (const char sign : separators) {
+    for (const char sign : csvSeparators) {
         if (m_reading.separator.value_or(sign) != sign)
             continue;
         m_csv = CsvReader(m_text, sign);
@@ -138,10 +135,11 @@ void SheetFile::takeHeading(std::size_t place)
 {
     const QString shown = excerptOfUtf8(cells()[place]);
     const QString heading = headingOf(cells()[place]);
+    const QString ofFile = QString::fromStdString(cells()[place]).trimmed().toLower();
     const auto column = std::ranges::find_if(m_sheet.columns, [&](const SheetColumn& each) {
         return heading.compare(each.heading, Qt::CaseInsensitive) == 0;
     });
-    if (heading.isEmpty() && m_reading.headings.contains(shown.trimmed().toLower())) {
+    if (heading.isEmpty() && m_reading.headings.contains(ofFile)) {
         m_columns.push_back(nullptr);
     } else if (column == m_sheet.columns.end()) {
         add(line(), place, shown, u"there is no such column"_s);

@@ -9,13 +9,22 @@
 #include <QByteArray>
 #include <QHash>
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 namespace norvane::articles
 {
+
+/// What may separate the cells of a file, in the order in which they are tried.
+inline constexpr auto csvSeparators = std::to_array({';', ',', '\t'});
+/// The line of headings is among the first lines of a file.
+inline constexpr int linesForHeadings = 5;
+/// The text of a file without the mark that many begin with. @param content must outlive it
+[[nodiscard]] std::string_view csvTextOf(const QByteArray& content);
 
 /// How the text of a file is to be read.
 struct SheetReading {

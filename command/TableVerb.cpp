@@ -1,6 +1,6 @@
 // Exports tables to spreadsheets and imports them.
 #include "articles/SheetExport.h"
-#include "articles/SheetUpdate.h"
+#include "articles/SheetImport.h"
 #include "articles/SpreadsheetError.h"
 #include "articles/XlsxReader.h"
 #include "base/CustomerSettings.h"
@@ -8,20 +8,19 @@
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
-#include "customers/CustomerLog.h"
 #include "customers/RunLock.h"
-#include "customers/SafetyCopies.h"
 #include "programme/ProgrammeParts.h"
 #include "register/PluNumber.h"
 #include "reports/files/CsvFile.h"
 #include "reports/files/XlsxFile.h"
 #include "store/catalogue/Catalogue.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <functional>
+#include <memory>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -81,29 +80,6 @@ QHash<QString, QString> mappedHeadings(const SheetJob& job)
     return headings;
 }
 
-articles::SheetReading readingOf(const SheetJob& job, bool isSpreadsheet)
-{
-    return {isSpreadsheet ? articles::spreadsheetSeparator : separatorToRead(job.words), mappedHeadings(job),
-            isSpreadsheet};
-}
-
-/// @throws CommandError BadFile
-QByteArray contentOf(const QString& path, bool isSpreadsheet)
-{
-    QFile file(path);
-    if (QFileInfo(path).isDir())
-        throw CommandError(ExitCode::BadFile, u"%1 is a folder."_s.arg(path));
-    if (!file.open(QIODevice::ReadOnly))
-        throw CommandError(ExitCode::BadFile, u"%1 cannot be read: %2."_s.arg(path, file.errorString()));
-    if (!isSpreadsheet)
-        return file.readAll();
-    try {
-        return articles::spreadsheetText(path, untilSignalled);
-    } catch (const articles::SpreadsheetError& error) {
-        throw CommandError(ExitCode::BadFile, u"%1 %2."_s.arg(path, error.text()));
-    }
-}
-
 /// @throws CommandError BadFile when there are any.
 void failWith(const articles::SheetMistakes& mistakes, const QString& path)
 {
@@ -119,82 +95,61 @@ void failWith(const articles::SheetMistakes& mistakes, const QString& path)
         u"%1 has mistakes: %2. Nothing was changed.%3"_s.arg(path).arg(mistakes.count()).arg(further));
 }
 
-/// A file that is compared with the records of a customer.
-class ComparedFile
+/// Compares the file with the records of the customer. @throws CommandError BadFile
+std::unique_ptr<articles::ComparedSheet> compared(const SheetJob& job)
 {
-public:
-    /// @throws CommandError BadFile
-    explicit ComparedFile(const SheetJob& job)
-        : m_job(job), m_path(job.workplace.userFile(job.file())),
-          m_isSpreadsheet(articles::isSpreadsheet(m_path)), m_content(contentOf(m_path, m_isSpreadsheet)),
-          m_database(job.values.databasePath),
-          m_comparison(m_database, job.sheet, m_content, readingOf(job, m_isSpreadsheet), untilSignalled)
-    {
+    const QString path = job.workplace.userFile(job.file());
+    try {
+        auto file = std::make_unique<articles::ComparedSheet>(job.values.databasePath, job.sheet,
+                                                              articles::sheetContent(path, untilSignalled));
+        const auto separator = file->content().isFromSpreadsheet
+                                   ? std::optional(articles::spreadsheetSeparator)
+                                   : separatorToRead(job.words);
+        file->compare({separator, mappedHeadings(job)}, untilSignalled);
+        return file;
+    } catch (const articles::SpreadsheetError& error) {
+        throw CommandError(ExitCode::BadFile, u"%1 %2."_s.arg(path, error.text()));
     }
+}
 
-    [[nodiscard]] const articles::SheetComparison& comparison() const { return m_comparison; }
-    /// Lists what the file changes. @throws CommandError BadFile for one with mistakes.
-    void show() const
-    {
-        failWith(m_comparison.mistakes(), m_path);
-        m_job.workplace.show({u"Number"_s, u"Field"_s, u"Old"_s, u"New"_s}, [this](const auto& take) {
-            m_comparison.forEach([&](const articles::SheetChange& change) { addRows(change, take); });
-        });
-    }
-    void apply() { articles::applySheetChanges(m_database, m_comparison, untilSignalled); }
-
-private:
-    void addRows(const articles::SheetChange& change,
-                 const std::function<void(const QVariantList& row)>& take) const
-    {
-        stopIfSignalled();
-        const QString number =
-            shownKey(m_job.sheet.columns.front().field, QString::fromStdString(change.number));
-        if (change.isNew)
-            take({number, u"new %1"_s.arg(m_job.sheet.name), {}, {}});
-        for (const auto& [column, before, after] : change.fields) {
-            take({number, column->heading, articles::shownSheetValue(*column, before),
-                  articles::shownSheetValue(*column, after)});
-        }
-    }
-
-    const SheetJob& m_job;
-    QString m_path;
-    bool m_isSpreadsheet;
-    QByteArray m_content;
-    store::Database m_database;
-    articles::SheetComparison m_comparison;
-};
-
-/// @return what was done, for the log.
-QString importFrom(ComparedFile& file, const SheetJob& job, customers::LoggedWork& work)
+void addRows(const articles::SheetChange& change, const SheetJob& job,
+             const std::function<void(const QVariantList& row)>& take)
 {
-    const articles::SheetComparison& comparison = file.comparison();
-    if (!comparison.mistakes().isEmpty())
-        work.setResult(u"refused: the file has mistakes"_s);
-    file.show();
-    if (comparison.changeCount() > 0) {
-        const QString reason = u"before %1 import"_s.arg(job.sheet.name);
-        if (!customers::copyBeforeJob(job.values, job.workplace.boxes, reason)) {
-            work.setResult(u"not started: no safety copy"_s);
-            throw CommandError(ExitCode::Unwritable, {});
-        }
-        file.apply();
+    stopIfSignalled();
+    const QString number = shownKey(job.sheet.columns.front().field, QString::fromStdString(change.number));
+    if (change.isNew)
+        take({number, u"new %1"_s.arg(job.sheet.name), {}, {}});
+    for (const auto& [column, before, after] : change.fields) {
+        take({number, column->heading, articles::shownSheetValue(*column, before),
+              articles::shownSheetValue(*column, after)});
     }
-    return u"%1 changed, %2 new"_s.arg(comparison.changeCount() - comparison.newCount())
-        .arg(comparison.newCount());
+}
+
+/// Lists what the file changes. @throws CommandError BadFile for one with mistakes.
+void show(const articles::SheetComparison& comparison, const SheetJob& job)
+{
+    failWith(comparison.mistakes(), job.workplace.userFile(job.file()));
+    job.workplace.show({u"Number"_s, u"Field"_s, u"Old"_s, u"New"_s}, [&](const auto& take) {
+        comparison.forEach([&](const articles::SheetChange& change) { addRows(change, job, take); });
+    });
 }
 
 void importFrom(const SheetJob& job)
 {
     const auto lock = lockFor(job.workplace, job.values);
-    customers::LoggedWork work(job.values.customerPath, u"%1 import"_s.arg(job.sheet.name));
-    const QString result = work.during([&] {
-        ComparedFile file(job);
-        return importFrom(file, job, work);
-    });
-    work.setResult(result);
-    printStep(result);
+    std::unique_ptr<articles::ComparedSheet> file;
+    const auto compare = [&]() -> articles::ComparedSheet& {
+        file = compared(job);
+        return *file;
+    };
+    const auto review = [&](const articles::SheetComparison& comparison) {
+        show(comparison, job);
+    };
+    const auto result = articles::importSheet({job.values, job.sheet, job.workplace.boxes}, {compare, review},
+                                              untilSignalled);
+    if (!result)
+        throw CommandError(ExitCode::Unwritable, {});
+    printStep(*result);
 }
 
 /// @return whether the words ask for an export. @throws CommandError Usage
@@ -213,7 +168,7 @@ void move(const SheetJob& job)
     } else if (job.sheet.index.isEmpty()) {
         throw CommandError(ExitCode::Usage, u"The table %1 is only exported."_s.arg(job.sheet.table));
     } else if (job.words.has("dry-run"_L1)) {
-        ComparedFile(job).show();
+        show(compared(job)->comparison(), job);
     } else {
         importFrom(job);
     }

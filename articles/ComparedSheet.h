@@ -1,0 +1,45 @@
+// A file of records beside the table that it is for.
+#pragma once
+
+#include "articles/SheetComparison.h"
+#include "articles/SheetContent.h"
+
+#include <memory>
+
+namespace norvane::articles
+{
+
+/// Owns all that a comparison needs: the file, which is read once, the sheet and the database. It may be
+/// compared again, in another way or because records have changed meanwhile.
+class ComparedSheet
+{
+public:
+    /// @throws RuntimeFailure as the database reports.
+    ComparedSheet(const QString& databasePath, TableSheet sheet, SheetContent content)
+        : m_sheet(std::move(sheet)), m_content(std::move(content)), m_database(databasePath)
+    {
+    }
+    ComparedSheet(const ComparedSheet&) = delete;
+    ComparedSheet& operator=(const ComparedSheet&) = delete;
+
+    [[nodiscard]] const TableSheet& sheet() const { return m_sheet; }
+    [[nodiscard]] const SheetContent& content() const { return m_content; }
+    [[nodiscard]] store::Database& database() { return m_database; }
+
+    /// Compares in the way of @p reading, whose format is that of the file. The former comparison remains if
+    /// this one fails. @throws RuntimeFailure as SheetComparison.
+    void compare(SheetReading reading, const KeepGoing& keepGoing = {});
+    /// Compares again in the same way. @return whether the file would change the same as before.
+    [[nodiscard]] bool isStillTrue(const KeepGoing& keepGoing = {});
+    /// Only after compare().
+    [[nodiscard]] const SheetComparison& comparison() const { return *m_comparison; }
+
+private:
+    TableSheet m_sheet;
+    SheetContent m_content;
+    store::Database m_database;
+    SheetReading m_reading;
+    std::unique_ptr<SheetComparison> m_comparison;
+};
+
+} // namespace norvane::articles
