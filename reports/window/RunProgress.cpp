@@ -18,8 +18,9 @@ constexpr std::chrono::milliseconds beforeBox{400};
 
 } // namespace
 
-RunProgress::RunProgress(QWidget& window, QString work)
-    : m_window(window), m_work(std::move(work)), m_boxTime(std::chrono::steady_clock::now() + beforeBox)
+RunProgress::RunProgress(QWidget& window, QString work, QString title)
+    : m_window(window), m_work(std::move(work)), m_title(std::move(title)),
+      m_boxTime(std::chrono::steady_clock::now() + beforeBox)
 {
 }
 
@@ -68,7 +69,7 @@ void RunProgress::showBox()
     const QString text = m_step.isEmpty() ? m_work : m_step;
     m_box = std::make_unique<QProgressDialog>(text, u"&Cancel"_s, 0, 0, &m_window);
     ui::nameControl(*m_box, u"RunProgress"_s);
-    m_box->setWindowTitle(u"Report"_s);
+    m_box->setWindowTitle(m_title);
     m_box->setWindowModality(Qt::ApplicationModal);
     QObject::connect(m_box.get(), &QProgressDialog::canceled, m_box.get(), [this] { m_isCancelled = true; });
     m_box->show();

@@ -1,4 +1,4 @@
-// Keeps the windows painted while a report is made, and lets the user cancel it.
+// Keeps the windows painted while a report is made or a file imported, and lets the user cancel it.
 #pragma once
 
 #include "ui/EventTurns.h"
@@ -20,8 +20,8 @@ namespace norvane::reports
 class RunProgress
 {
 public:
-    /// @param window the window below the box. @param work the text of the box.
-    RunProgress(QWidget& window, QString work);
+    /// @param window the window below the box. @param work, title the texts of the box.
+    RunProgress(QWidget& window, QString work, QString title = QStringLiteral("Report"));
     ~RunProgress();
     RunProgress(const RunProgress&) = delete;
     RunProgress& operator=(const RunProgress&) = delete;
@@ -40,6 +40,7 @@ private:
 
     QWidget& m_window;
     QString m_work;
+    QString m_title;
     QString m_step;
     ui::WaitPointer m_pointer;
     std::chrono::steady_clock::time_point m_boxTime;
