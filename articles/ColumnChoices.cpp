@@ -42,7 +42,8 @@ ColumnChoices::ColumnChoices(const TableSheet& sheet, const ColumnNames& names, 
                              const HeadingMap& map, QWidget* parent)
     : QScrollArea(parent), m_sheet(sheet)
 {
-    ui::nameControl(*this, u"ColumnChoices"_s, u"Columns of the file"_s);
+    ui::nameControl(*this, u"ColumnChoices"_s);
+    setFocusPolicy(Qt::NoFocus); // its lists take the keyboard
     auto* const list = new QWidget(this);
     auto* const grid = new QGridLayout(list);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -57,6 +58,8 @@ ColumnChoices::ColumnChoices(const TableSheet& sheet, const ColumnNames& names, 
     setWidget(list);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
+    if (!m_rows.empty())
+        setFocusProxy(m_rows.front().box);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFixedWidth(list->sizeHint().width() + verticalScrollBar()->sizeHint().width() +
                   ui::spacing::controlGap);

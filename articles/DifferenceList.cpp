@@ -10,7 +10,7 @@ namespace norvane::articles
 namespace
 {
 
-constexpr std::array listHeadings{"Kind"_L1, "Record"_L1, "Column"_L1, "Stored"_L1, "New, or why not"_L1};
+constexpr std::array listHeadings{"Kind"_L1, "Record"_L1, "Column"_L1, "Stored"_L1, "New value"_L1};
 
 QString wordOf(DifferenceKind kind)
 {

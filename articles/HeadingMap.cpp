@@ -4,7 +4,6 @@
 #include "platform/FilePaths.h"
 
 #include <QSettings>
-#include <QUrl>
 
 #include <algorithm>
 #include <functional>
@@ -17,10 +16,10 @@ namespace norvane::articles
 namespace
 {
 
-/// Initialisation files give some signs in names a meaning.
+/// A name in an initialisation file is never empty, as a heading may be.
 QString keyOfHeading(const TableSheet& sheet, const QString& heading)
 {
-    return u"%1/%2"_s.arg(sheet.table, QString::fromLatin1(QUrl::toPercentEncoding(u'=' + heading)));
+    return u"%1/_%2"_s.arg(sheet.table, heading);
 }
 
 const SheetColumn* columnOfField(const TableSheet& sheet, const QString& field)
@@ -34,7 +33,29 @@ bool isSameHeading(const QString& left, const QString& right)
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
+/// Whether a file with this heading could mean another column than that of @p field.
+bool meansAnother(const TableSheet& sheet, const ColumnNames& names, const QString& name,
+                  const QString& field)
+{
+    const bool isName =
+        std::ranges::any_of(names, [&](const QString& known) { return isSameHeading(known, name); });
+    return isName || std::ranges::any_of(sheet.columns, [&](const SheetColumn& column) {
+               return column.field != field &&
+                      (isSameHeading(column.heading, name) || isSameHeading(column.field, name));
+           });
+}
+
 } // namespace
+
+ColumnNames columnNames(const TableSheet& sheet, const std::vector<FieldLabel>& labels)
+{
+    ColumnNames names;
+    for (const auto& [field, label] : labels) {
+        const bool isClear = !label.isEmpty() && !meansAnother(sheet, names, label, field);
+        names.insert(field, isClear ? label : u"%1 (%2)"_s.arg(label, field).trimmed());
+    }
+    return names;
+}
 
 QString nameOf(const SheetColumn& column, const ColumnNames& names)
 {

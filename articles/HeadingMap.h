@@ -13,6 +13,15 @@ namespace norvane::articles
 /// What the user calls the columns, by their fields: the labels of the screen.
 using ColumnNames = QHash<QString, QString>;
 
+/// A field and its label on the screen.
+struct FieldLabel {
+    QString field;
+    QString label;
+};
+/// Names that mean one column each, so that they can be the headings of a file: a label that another column
+/// has, or that is the heading of another one, is followed by its field.
+[[nodiscard]] ColumnNames columnNames(const TableSheet& sheet, const std::vector<FieldLabel>& labels);
+
 /// The name of @p column for the user: that of the screen, or its heading where the screen does not show it.
 [[nodiscard]] QString nameOf(const SheetColumn& column, const ColumnNames& names);
 

@@ -45,13 +45,6 @@ constexpr auto kindEntries = std::to_array<KindEntry>({
     {"New records"_L1, DifferenceKind::New},
 });
 
-QLabel* captionOf(const QString& text, QWidget& control, QWidget& form)
-{
-    auto* const label = new QLabel(text, &form);
-    label->setBuddy(&control);
-    return label;
-}
-
 } // namespace
 
 ImportDialog::ImportDialog(ImportOrder order, Boxes& boxes, QWidget* parent)
@@ -65,6 +58,7 @@ ImportDialog::ImportDialog(ImportOrder order, Boxes& boxes, QWidget* parent)
     buildColumns();
     layOut();
     compare();
+    (m_columns->hasNumber() ? static_cast<QWidget*>(m_view) : m_columns)->setFocus();
 }
 
 ImportDialog::~ImportDialog() = default;
@@ -118,10 +112,12 @@ void ImportDialog::layOut()
     m_view = makeList();
     fillKinds();
     auto* const columns = new QVBoxLayout;
-    columns->addWidget(captionOf(u"C&olumns of the file"_s, *m_columns, *this));
+    columns->addWidget(new QLabel(u"Columns of the file"_s, this));
     columns->addWidget(m_columns, 1);
+    auto* const caption = new QLabel(u"&Show"_s, this);
+    caption->setBuddy(m_kinds);
     auto* const kinds = new QHBoxLayout;
-    kinds->addWidget(captionOf(u"&Show"_s, *m_kinds, *this));
+    kinds->addWidget(caption);
     kinds->addWidget(m_kinds);
     kinds->addStretch();
     auto* const found = new QVBoxLayout;
@@ -131,7 +127,10 @@ void ImportDialog::layOut()
     content->setSpacing(ui::spacing::groupGap);
     content->addLayout(columns);
     content->addLayout(found, 1);
-    QVBoxLayout* const all = ui::makeFormColumn(*this, ui::spacing::groupGap);
+    constexpr int margin = ui::spacing::formMargin;
+    auto* const all = new QVBoxLayout(this);
+    all->setContentsMargins(margin, margin, margin, margin);
+    all->setSpacing(ui::spacing::groupGap);
     all->addLayout(content, 1);
     all->addLayout(makeButtons());
     resize(ui::scaled(usualSize).boundedTo(screen()->availableSize() * roomOfScreen));
@@ -203,7 +202,7 @@ void ImportDialog::importFile()
     accept();
 }
 
-/// @return what was imported; empty after a message if another run uses the customer or there is no copy.
+/// @return what was imported; empty after a message if another run uses the customer or no copy can be made.
 QString ImportDialog::imported()
 {
     const auto lock = customers::RunLock::take(m_order.values, m_boxes);
@@ -227,8 +226,7 @@ QString ImportDialog::imported()
     };
     const auto result = importSheet({m_order.values, m_file.sheet(), m_boxes, m_order.history.get()},
                                     {compare, review}, goOn);
-    return result ? u"Imported %1: %2. Ctrl+Z on a screen undoes it"_s.arg(m_order.fileName, *result)
-                  : QString();
+    return result ? u"Imported %1: %2. Ctrl+Z undoes it"_s.arg(m_order.fileName, *result) : QString();
 }
 
 void ImportDialog::compareAgain(const QString& why)

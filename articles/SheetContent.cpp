@@ -31,7 +31,10 @@ QStringList cellsOfLine(const CsvReader& csv, bool isFromSpreadsheet)
 std::pair<qsizetype, bool> fitnessOf(const QStringList& cells,
                                      const std::function<bool(const QString& heading)>& isKnown)
 {
-    return {std::ranges::count_if(cells, isKnown), cells.size() > 1};
+    const auto isFilled = [](const QString& cell) {
+        return !cell.isEmpty();
+    };
+    return {std::ranges::count_if(cells, isKnown), std::ranges::count_if(cells, isFilled) > 1};
 }
 
 } // namespace
@@ -64,7 +67,7 @@ SheetHeadings headingsOf(const SheetContent& content,
         for (int tried = 0; tried < linesForHeadings && csv.next(); ++tried) {
             QStringList cells = cellsOfLine(csv, content.isFromSpreadsheet);
             const auto found = fitnessOf(cells, isKnown);
-            if (cells.join(QString()).isEmpty() || (best.separator && found <= fitness))
+            if (cells.join(u""_s).isEmpty() || (best.separator && found <= fitness))
                 continue;
             best = {sign, std::move(cells)};
             fitness = found;

@@ -31,7 +31,7 @@ struct SheetHeadings {
 [[nodiscard]] SheetContent sheetContent(const QString& path, const KeepGoing& keepGoing = {});
 
 /// The line, among the first that are not empty, with the most headings that @p isKnown accepts. If it
-/// accepts none, the first line that has more than one cell: a title has one.
+/// accepts none, the first line with more than one filled cell: a title has one.
 [[nodiscard]] SheetHeadings headingsOf(const SheetContent& content,
                                        const std::function<bool(const QString& heading)>& isKnown);
 

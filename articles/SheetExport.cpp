@@ -75,7 +75,14 @@ void forEachRecord(store::Recordset& records, const std::function<void()>& take)
         take();
 }
 
-/// For each column. Numbers are never rounded: importing the file again must restore the stored values.
+/// Places of a number. It is never rounded: importing the file again must restore the stored value.
+int decimalsOf(const SheetColumn& column, const store::Value& value)
+{
+    const auto number = column.content == CellContent::Number ? exportedNumber(value) : std::nullopt;
+    return number ? number->scale() : 0;
+}
+
+/// For each column.
 std::vector<int> mostDecimals(const TableSheet& sheet, store::Recordset& records)
 {
     std::vector<int> most;
@@ -83,10 +90,8 @@ std::vector<int> mostDecimals(const TableSheet& sheet, store::Recordset& records
         most.push_back(column.decimals);
     forEachRecord(records, [&] {
         for (std::size_t place = 0; place < most.size(); ++place) {
-            if (sheet.columns[place].content != CellContent::Number)
-                continue;
-            if (const auto number = exportedNumber(records.value(static_cast<int>(place))))
-                most[place] = std::max(most[place], number->scale());
+            const store::Value& value = records.value(static_cast<int>(place));
+            most[place] = std::max(most[place], decimalsOf(sheet.columns[place], value));
         }
     });
     return most;
@@ -108,6 +113,33 @@ reports::ReportData exportedSheet(store::Database& database, const TableSheet& s
             cells.push_back(cellOf(sheet.columns[place], records.value(static_cast<int>(place))));
         data.addLine(reports::LineKind::Detail, std::move(cells));
     });
+    return data;
+}
+
+reports::ReportData
+exportedRows(const std::vector<ExportedColumn>& columns, int rows,
+             const std::function<const store::Value&(int row, std::size_t column)>& valueAt)
+{
+    std::vector<int> decimals;
+    for (const ExportedColumn& each : columns)
+        decimals.push_back(each.column.decimals);
+    for (int row = 0; row < rows; ++row) {
+        for (std::size_t place = 0; place < columns.size(); ++place)
+            decimals[place] =
+                std::max(decimals[place], decimalsOf(columns[place].column, valueAt(row, place)));
+    }
+    std::vector<reports::ReportColumn> layouts;
+    for (std::size_t place = 0; place < columns.size(); ++place) {
+        layouts.push_back(layoutOf(columns[place].column, decimals[place]));
+        layouts.back().heading = columns[place].heading;
+    }
+    reports::ReportData data(std::move(layouts));
+    for (int row = 0; row < rows; ++row) {
+        std::vector<ReportCell> cells;
+        for (std::size_t place = 0; place < columns.size(); ++place)
+            cells.push_back(cellOf(columns[place].column, valueAt(row, place)));
+        data.addLine(reports::LineKind::Detail, std::move(cells));
+    }
     return data;
 }
 

@@ -31,7 +31,7 @@ struct ImportSteps {
 };
 
 /// Stores what the file changes, unless it has mistakes. @return "3 changed, 1 new", as in the log; nothing
-/// after a message if there is no safety copy.
+/// after a message if no safety copy can be made.
 /// @throws RuntimeFailure as applySheetChanges(), and what the steps throw. Nothing is stored then.
 [[nodiscard]] std::optional<QString> importSheet(const ImportPlace& place, const ImportSteps& steps,
                                                  const KeepGoing& keepGoing = {});

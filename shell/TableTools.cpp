@@ -9,6 +9,7 @@
 #include "shell/CopiesDialog.h"
 #include "shell/FrameRecords.h"
 #include "shell/FrmMain.h"
+#include "shell/TableFiles.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -76,6 +77,7 @@ screens::TableTools makeTableTools(const TableSurroundings& around, const screen
     if (buttons.remove)
         tools += deleteChosen(around);
     tools += undo(around);
+    tools += makeFileTools(around);
     tools += {u"SafetyCopies"_s,
               u"&Safety Copies..."_s,
               {},

@@ -11,6 +11,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -104,6 +105,19 @@ QMessageBox::StandardButton show(const QString& text, const QString& title, BoxI
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
+/// A name gets the ending of the kind of file that is chosen: "prices.csv" becomes "prices.pdf".
+void followFilter(QFileDialog& box)
+{
+    QObject::connect(&box, &QFileDialog::filterSelected, &box, [&box](const QString& filter) {
+        static const QRegularExpression ending(u"\\(\\*\\.(\\w+)\\)"_s);
+        const QString suffix = ending.match(filter).captured(1);
+        const QFileInfo named(box.selectedFiles().value(0));
+        box.setDefaultSuffix(suffix);
+        if (!suffix.isEmpty() && !named.isDir() && !named.completeBaseName().isEmpty())
+            box.selectFile(named.completeBaseName() + u'.' + suffix);
+    });
+}
+
 /// This program asks before a file is replaced: the toolkit's question has other words and another preset.
 QString chosenFile(const FileRequest& request, QFileDialog::AcceptMode mode)
 {
@@ -114,6 +128,8 @@ QString chosenFile(const FileRequest& request, QFileDialog::AcceptMode mode)
     const bool opens = mode == QFileDialog::AcceptOpen;
     box.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     box.setDefaultSuffix(request.suffix);
+    if (!opens)
+        followFilter(box);
     box.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     return box.exec() == QDialog::Accepted ? box.selectedFiles().value(0) : QString();
 }

@@ -249,6 +249,16 @@ const TableSource& TableWindow::source() const
     return m_model->rows().source();
 }
 
+std::vector<int> TableWindow::shownColumns() const
+{
+    std::vector<int> columns;
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (!m_view->isColumnHidden(column))
+            columns.push_back(column);
+    }
+    return columns;
+}
+
 bool TableWindow::hasEdits() const
 {
     return !m_model->edits().isEmpty();

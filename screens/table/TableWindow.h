@@ -69,8 +69,14 @@ public:
     [[nodiscard]] QStringList chosenKeys() const;
     /// Those of all records that the filters leave, in their order.
     [[nodiscard]] QStringList shownKeys() const;
+    /// What the table shows, changes that are not saved included.
+    [[nodiscard]] const TableModel& model() const { return *m_model; }
+    /// The columns of the model that are not hidden.
+    [[nodiscard]] std::vector<int> shownColumns() const;
     /// Whether something entered is not saved.
     [[nodiscard]] bool hasEdits() const;
+    /// Asks what to do with what is not saved. @return whether nothing is left of it.
+    [[nodiscard]] bool settleEdits();
     [[nodiscard]] QSize sizeHint() const override;
 
     /// Highlights the record that the screen shows, by its stored key, and goes to it if it is another one

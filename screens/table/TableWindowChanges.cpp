@@ -146,15 +146,22 @@ void TableWindow::setField()
     Q_EMIT noticeChanged(u"Changed %1 records. Press Save Changes to store them"_s.arg(count));
 }
 
-void TableWindow::closeEvent(QCloseEvent* event)
+bool TableWindow::settleEdits()
 {
-    if (m_model->edits().isEmpty())
-        return;
+    if (!hasEdits())
+        return true;
     const QString question = u"Changes in the table of %1 are not saved."_s.arg(m_caption);
     const UnsavedAnswer answer = m_boxes.askToSave(question, u"Unsaved Changes"_s);
     if (answer == UnsavedAnswer::Save)
         save();
-    event->setAccepted(answer == UnsavedAnswer::Discard || m_model->edits().isEmpty());
+    if (answer == UnsavedAnswer::Discard)
+        m_model->changeEdits([](PendingEdits& edits) { edits.clear(); });
+    return !hasEdits();
+}
+
+void TableWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(settleEdits());
 }
 
 } // namespace norvane::screens

@@ -1,6 +1,7 @@
 // The windows as tables, by how they open; see EveryWindow.h.
 #include "scripts/windows/EveryWindow.h"
 
+#include "articles/ImportDialog.h"
 #include "exchange/FrmComm.h"
 #include "keys/functions/FrmFunctKey.h"
 #include "keys/layout/copylevel.h"
@@ -74,6 +75,15 @@ QWidget* preview(Ground& ground, QWidget* parent)
                                        ground.corrections, ground.shop.boxes(), parent);
 }
 
+/// A file with changes, mistakes, and a heading that is nobody's.
+QWidget* importOfFile(Ground& ground, QWidget* parent)
+{
+    const QByteArray text = "Number;Description;Price 1;Remarks of the wholesaler\n"
+                            "1;Another text;2,50;a\n2;A text that is too long;2,50;b\n4711;New;x;c\n";
+    return new articles::ImportDialog({ground.values, articles::pluSheet(), {}, u"wholesaler.csv"_s, {text}},
+                                      ground.shop.boxes(), parent);
+}
+
 constexpr Dialog dialogs[] = {
     {"customer",
      [](Ground& g, QWidget* p) -> QWidget* {
@@ -102,6 +112,7 @@ constexpr Dialog dialogs[] = {
              g.values, {u"PLUDATA"_s, u"PLU"_s, u"1"_s, u"PLU 123456789012345678"_s, true, {}},
              g.shop.boxes(), p);
      }},
+    {"import", &importOfFile},
     {"exchange",
      [](Ground& g, QWidget* p) -> QWidget* {
          return new exchange::FrmComm(u"UPLOAD"_s, g.values, g.shop.boxes(), p);
