@@ -4,10 +4,20 @@
 #include "articles/SheetComparison.h"
 #include "articles/SheetContent.h"
 
+#include <QDate>
+
 #include <memory>
+#include <optional>
 
 namespace norvane::articles
 {
+
+/// The day on which a file is to be stored.
+struct StoreDay {
+    QDate day;
+    QString customerPath; ///< of the lists that are planned until then
+    int messageWidth;     ///< characters of a message line on the customer's registers
+};
 
 /// Owns all that a comparison needs: the file, which is read once, the sheet and the database. It may be
 /// compared again, in another way or because records have changed meanwhile.
@@ -26,6 +36,8 @@ public:
     [[nodiscard]] const SheetContent& content() const { return m_content; }
     [[nodiscard]] store::Database& database() { return m_database; }
 
+    /// From now on compares with the records as they will be on @p day; nothing for those that are stored.
+    void setDay(std::optional<StoreDay> day) { m_day = std::move(day); }
     /// Compares in the way of @p reading, whose format is that of the file. The former comparison remains if
     /// this one fails. @throws RuntimeFailure as SheetComparison.
     void compare(SheetReading reading, const KeepGoing& keepGoing = {});
@@ -35,10 +47,14 @@ public:
     [[nodiscard]] const SheetComparison& comparison() const { return *m_comparison; }
 
 private:
+    [[nodiscard]] std::unique_ptr<SheetComparison> compared(const SheetReading& reading,
+                                                            const KeepGoing& keepGoing);
+
     TableSheet m_sheet;
     SheetContent m_content;
     store::Database m_database;
     SheetReading m_reading;
+    std::optional<StoreDay> m_day;
     std::unique_ptr<SheetComparison> m_comparison;
 };
 

@@ -25,13 +25,14 @@ namespace
 struct StateWord {
     PlannedState state;
     QLatin1StringView ending; ///< of a file's name
+    QLatin1StringView words;  ///< for the user
 };
 constexpr auto stateWords = std::to_array<StateWord>({
-    {PlannedState::Unsent, ".unsent.csv"_L1},
-    {PlannedState::Done, ".done.csv"_L1},
-    {PlannedState::Cancelled, ".cancelled.csv"_L1},
+    {PlannedState::Unsent, ".unsent.csv"_L1, "stored, not sent"_L1},
+    {PlannedState::Done, ".done.csv"_L1, "done"_L1},
+    {PlannedState::Cancelled, ".cancelled.csv"_L1, "cancelled"_L1},
     // The ending of all others, too.
-    {PlannedState::Planned, ".csv"_L1},
+    {PlannedState::Planned, ".csv"_L1, "planned"_L1},
 });
 
 QString plannedFolder(const QString& customerPath)
@@ -98,6 +99,11 @@ void passOnToLater(const QString& customerPath, const ReadList& list, Change cha
 }
 
 } // namespace
+
+QString stateInWords(PlannedState state)
+{
+    return std::ranges::find(stateWords, state, &StateWord::state)->words;
+}
 
 PlannedList PlannedFile::read() const
 {

@@ -19,6 +19,9 @@ enum class PlannedState {
     Cancelled, ///< nothing, but it can be planned again
 };
 
+/// "planned", "stored, not sent", "done", "cancelled".
+[[nodiscard]] QString stateInWords(PlannedState state);
+
 /// A list's file in the folder "planned" of the customer's folder: "7 PLUDATA 2027-01-01.csv".
 struct PlannedFile {
     int number = 0; ///< of the customer's lists; none is used twice

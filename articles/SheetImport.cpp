@@ -1,6 +1,7 @@
 // See SheetImport.h.
 #include "articles/SheetImport.h"
 
+#include "articles/PlannedChanges.h"
 #include "articles/SheetUpdate.h"
 #include "customers/CustomerLog.h"
 #include "customers/SafetyCopies.h"
@@ -29,6 +30,15 @@ bool storeChanges(const ImportPlace& place, ComparedSheet& file, const KeepGoing
     return true;
 }
 
+/// @return the number of the list, or 0 if there was nothing to plan.
+int planChanges(const ImportPlace& place, const SheetComparison& comparison, const ImportPlan& plan)
+{
+    if (comparison.changeCount() == 0 || !comparison.mistakes().isEmpty())
+        return 0;
+    return addPlannedList(place.values.customerPath,
+                          plannedListFrom(comparison, plan.day, plan.model, plan.source));
+}
+
 } // namespace
 
 QString changesInWords(const SheetComparison& comparison)
@@ -54,6 +64,24 @@ std::optional<QString> importSheet(const ImportPlace& place, const ImportSteps& 
         work.setResult(result);
         return result;
     });
+}
+
+QString planSheet(const ImportPlace& place, const ImportSteps& steps, const ImportPlan& plan)
+{
+    customers::LoggedWork work(place.values.customerPath, u"planning of %1 import"_s.arg(place.sheet.name));
+    const QString result = work.during([&] {
+        const SheetComparison& comparison = steps.compare().comparison();
+        if (!comparison.mistakes().isEmpty())
+            work.setResult(u"refused: the file has mistakes"_s);
+        steps.review(comparison);
+        const QString day = plan.day.toString(Qt::ISODate);
+        const int number = planChanges(place, comparison, plan);
+        return number == 0
+                   ? u"nothing for %1: the file changes nothing"_s.arg(day)
+                   : u"list %1 for %2: %3"_s.arg(QString::number(number), day, changesInWords(comparison));
+    });
+    work.setResult(result);
+    return result;
 }
 
 } // namespace norvane::articles

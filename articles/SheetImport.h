@@ -5,6 +5,8 @@
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 
+#include <QDate>
+
 #include <functional>
 #include <optional>
 
@@ -35,6 +37,19 @@ struct ImportSteps {
 /// @throws RuntimeFailure as applySheetChanges(), and what the steps throw. Nothing is stored then.
 [[nodiscard]] std::optional<QString> importSheet(const ImportPlace& place, const ImportSteps& steps,
                                                  const KeepGoing& keepGoing = {});
+
+/// An import that is stored later.
+struct ImportPlan {
+    QDate day;
+    QString model;  ///< of the customer's registers, as the setup dialog lists it
+    QString source; ///< the file
+};
+
+/// Keeps what the file changes as a list of planned changes, unless it has mistakes. The file is compared
+/// with the records as they will be on that day.
+/// @return "list 7 for 2027-01-01: 3 changed, 1 new", as in the log.
+/// @throws RuntimeFailure as addPlannedList(), and what the steps throw. Nothing is planned then.
+[[nodiscard]] QString planSheet(const ImportPlace& place, const ImportSteps& steps, const ImportPlan& plan);
 
 /// "3 changed, 1 new".
 [[nodiscard]] QString changesInWords(const SheetComparison& comparison);

@@ -38,6 +38,7 @@ enum class ExitCode {
     FormerTooNew = 18,
     FormerLocked = 19,
     CustomerExists = 20,
+    NotAsPlanned = 21,
     // As shells report them: 128 and the number of the signal.
     Interrupted = 130,
     Terminated = 143,

@@ -95,6 +95,14 @@ QStringList verbFirst(const QStringList& words)
 
 } // namespace
 
+QDate Invocation::day(QLatin1StringView option) const
+{
+    const QDate day = QDate::fromString(value(option), Qt::ISODate);
+    if (!day.isValid())
+        throw CommandError(ExitCode::Usage, u"\"%1\" is not a day such as 2026-11-25."_s.arg(value(option)));
+    return day;
+}
+
 std::optional<QString> requestedHelp(const QStringList& words)
 {
     if (words.value(0) == "help"_L1)

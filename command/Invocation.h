@@ -3,6 +3,7 @@
 
 #include "command/ExitCode.h"
 
+#include <QDate>
 #include <QHash>
 #include <QLatin1StringView>
 #include <QStringList>
@@ -27,6 +28,8 @@ struct Invocation {
 
     [[nodiscard]] bool has(QLatin1StringView option) const { return options.contains(option); }
     [[nodiscard]] QString value(QLatin1StringView option) const { return options.value(option); }
+    /// @throws CommandError Usage if the value is not a day.
+    [[nodiscard]] QDate day(QLatin1StringView option) const;
 };
 
 struct Workplace;

@@ -20,18 +20,10 @@ namespace norvane::command
 namespace
 {
 
-QDate dayOf(const QString& text)
-{
-    const QDate day = QDate::fromString(text, Qt::ISODate);
-    if (!day.isValid())
-        throw CommandError(ExitCode::Usage, u"\"%1\" is not a day such as 2026-11-25."_s.arg(text));
-    return day;
-}
-
 /// @throws CommandError Usage for a first day after the last one.
 reports::Period daysOf(const Invocation& words)
 {
-    const reports::Period days{dayOf(words.value("from"_L1)), dayOf(words.value("to"_L1)), {}};
+    const reports::Period days{words.day("from"_L1), words.day("to"_L1), {}};
     if (days.from > days.to)
         throw CommandError(ExitCode::Usage, u"The first day is after the last one."_s);
     return days;
@@ -40,7 +32,7 @@ reports::Period daysOf(const Invocation& words)
 std::optional<ReportSelection> selectionOf(const QString& path, const Invocation& words, QDate today)
 {
     if (words.has("day"_L1))
-        return selectionOfPeriod(path, u"day"_s, dayOf(words.value("day"_L1)));
+        return selectionOfPeriod(path, u"day"_s, words.day("day"_L1));
     if (words.has("period"_L1))
         return selectionOfPeriod(path, words.value("period"_L1), today);
     if (words.has("from"_L1))

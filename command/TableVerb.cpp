@@ -9,6 +9,7 @@
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
 #include "customers/RunLock.h"
+#include "customers/SetupSettings.h"
 #include "programme/ProgrammeParts.h"
 #include "register/PluNumber.h"
 #include "reports/files/CsvFile.h"
@@ -39,6 +40,16 @@ struct SheetJob {
     QString notice; ///< in place of records if there are none
 
     [[nodiscard]] const QString& file() const { return words.operands.back(); }
+    /// On which an import is stored; nothing for now. @throws CommandError Usage
+    [[nodiscard]] std::optional<QDate> day() const
+    {
+        if (!words.has("on"_L1))
+            return std::nullopt;
+        const QDate day = words.day("on"_L1);
+        if (day < QDate::currentDate())
+            throw CommandError(ExitCode::Usage, u"%1 is past."_s.arg(day.toString(Qt::ISODate)));
+        return day;
+    }
 };
 
 void exportTo(const SheetJob& job)
@@ -105,6 +116,8 @@ std::unique_ptr<articles::ComparedSheet> compared(const SheetJob& job)
         const auto separator = file->content().isFromSpreadsheet
                                    ? std::optional(articles::spreadsheetSeparator)
                                    : separatorToRead(job.words);
+        if (const auto day = job.day())
+            file->setDay({{*day, job.values.customerPath, registerModel(job.values).messageWidth}});
         file->compare({separator, mappedHeadings(job)}, untilSignalled);
         return file;
     } catch (const articles::SpreadsheetError& error) {
@@ -145,8 +158,14 @@ void importFrom(const SheetJob& job)
     const auto review = [&](const articles::SheetComparison& comparison) {
         show(comparison, job);
     };
-    const auto result = articles::importSheet({job.values, job.sheet, job.workplace.boxes}, {compare, review},
-                                              untilSignalled);
+    const articles::ImportPlace place{job.values, job.sheet, job.workplace.boxes};
+    if (const auto day = job.day()) {
+        const QString model = customers::modelInWords(registerModel(job.values));
+        printStep(
+            articles::planSheet(place, {compare, review}, {*day, model, job.workplace.userFile(job.file())}));
+        return;
+    }
+    const auto result = articles::importSheet(place, {compare, review}, untilSignalled);
     if (!result)
         throw CommandError(ExitCode::Unwritable, {});
     printStep(*result);

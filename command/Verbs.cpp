@@ -61,7 +61,13 @@ constexpr auto reportOptions = std::to_array<OptionDefinition>({
 });
 constexpr auto plusOptions = std::to_array<OptionDefinition>({
     {"dry-run"_L1, {}, "of an import: list what would change, and change nothing"_L1},
+    {"on"_L1, "DAY"_L1, "of an import: store it on this day, 2027-01-01, when apply-planned runs"_L1},
     separatorOption,
+});
+constexpr auto plannedOptions = std::to_array<OptionDefinition>({
+    {"show"_L1, "LIST"_L1, "the changes of one list of one customer, by its number"_L1},
+    {"cancel"_L1, "LIST"_L1, "cancel a list; its file is kept"_L1},
+    {"plan-again"_L1, "LIST"_L1, "plan a cancelled list again"_L1},
 });
 constexpr auto copyProgrammeOptions = std::to_array<OptionDefinition>({
     {"tables"_L1, "NAME,..."_L1,
@@ -70,6 +76,7 @@ constexpr auto copyProgrammeOptions = std::to_array<OptionDefinition>({
 });
 constexpr auto tableOptions = std::to_array<OptionDefinition>({
     plusOptions[0],
+    plusOptions[1],
     separatorOption,
     mapOption,
 });
@@ -112,6 +119,10 @@ constexpr auto all = std::to_array<Verb>({
      "Exports number, description, group, status and prices of all PLUs as FILE.csv or FILE.xlsx; imports such a file: known PLUs are changed, new ones added, all or nothing."_L1, movePlus},
     {"table"_L1, "CUSTOMER TABLE export|import FILE"_L1, 4, 4, tableOptions,
      "The same with all fields of a table, under the names that reports use. Only PLUs are added; sales are only exported."_L1, moveTable},
+    {"planned"_L1, "[CUSTOMER...]"_L1, 0, -1, plannedOptions,
+     "Lists the changes that are stored later; without a customer, those of all."_L1, listPlanned},
+    {"apply-planned"_L1, "[CUSTOMER...]"_L1, 0, -1, sendOptions,
+     "Stores planned changes whose day has come, of all customers or those named, and sends them to the registers; also what an earlier call could not send."_L1, applyPlanned},
     {"boxes"_L1, {}, 0, 0, {}, "Lists the boxes of the exchange dialog, which fetch and send take by number or name."_L1, listBoxes},
     {"reports"_L1, {}, 0, 0, {}, "Lists the reports with their titles and the periods that --period takes."_L1, listReports},
     {"tables"_L1, {}, 0, 0, {}, "Lists the tables that \"table\" takes, with the number of their fields."_L1, listTables},

@@ -24,6 +24,8 @@ void collect(const Workplace& workplace, const Invocation& words);
 void report(const Workplace& workplace, const Invocation& words);
 void movePlus(const Workplace& workplace, const Invocation& words);
 void moveTable(const Workplace& workplace, const Invocation& words);
+void listPlanned(const Workplace& workplace, const Invocation& words);
+void applyPlanned(const Workplace& workplace, const Invocation& words);
 void listTables(const Workplace& workplace, const Invocation& words);
 void listCopies(const Workplace& workplace, const Invocation& words);
 void restore(const Workplace& workplace, const Invocation& words);

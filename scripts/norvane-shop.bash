@@ -35,13 +35,15 @@ _norvane_shop()
         choices=(keep remove)
     elif [ "$before" = --separator ]; then
         choices=(comma semicolon tab)
+    elif [[ $before = --on || $before = --show || $before = --cancel || $before = --plan-again ]]; then
+        choices=() # a day, the number of a list
     elif [ "${COMP_WORDS[1]}" = table ] && [ "$COMP_CWORD" -eq 3 ]; then
         mapfile -t choices < <("$1" tables 2>/dev/null | sed -e 1d -e 's/ .*//')
     elif [[ ${COMP_WORDS[1]} = plus && $COMP_CWORD -eq 3 || ${COMP_WORDS[1]} = table && $COMP_CWORD -eq 4 ]]; then
         choices=(export import)
     elif [ "${word#-}" = "$word" ] && case $before:${COMP_WORDS[1]} in
             new:new) false ;; # a name that does not exist yet
-            --like:* | *:publish | *:copy-programme) true ;;
+            --like:* | *:publish | *:copy-programme | *:planned | *:apply-planned) true ;;
             *) [ "$COMP_CWORD" -eq 2 ] ;;
         esac; then
         mapfile -t choices < <(_norvane_shop_customers "$1")
