@@ -2,6 +2,7 @@
 #include "articles/DifferenceList.h"
 
 #include "register/PluNumber.h"
+#include "store/catalogue/Catalogue.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,6 +35,26 @@ void DifferenceList::list(const SheetComparison& comparison, const ColumnNames& 
     m_isCut = comparison.mistakes().count() > SheetMistakes::mostKept;
     addMistakes(comparison.mistakes());
     comparison.forEach([&](const SheetChange& change) { addChange(change, comparison.sheet(), names); });
+    choose();
+    endResetModel();
+}
+
+void DifferenceList::list(const PlannedList& planned)
+{
+    beginResetModel();
+    m_lines.clear();
+    m_counts = {};
+    m_isCut = false;
+    const auto* const table = store::catalogueTable(planned.table);
+    const QString keyField = table == nullptr ? QString() : table->fields.front().name;
+    for (const auto& [number, isNew, fields] : planned.records) {
+        const auto kind = isNew ? DifferenceKind::New : DifferenceKind::Changed;
+        const QString record = shownKey(keyField, number);
+        if (isNew)
+            add({kind, record, {}, {}, u"new record"_s});
+        for (const auto& [heading, before, after] : fields)
+            add({kind, record, heading, before, after});
+    }
     choose();
     endResetModel();
 }

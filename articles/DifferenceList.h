@@ -2,6 +2,7 @@
 #pragma once
 
 #include "articles/HeadingMap.h"
+#include "articles/PlannedList.h"
 #include "articles/SheetComparison.h"
 
 #include <QAbstractTableModel>
@@ -37,6 +38,8 @@ public:
 
     /// Lists what @p comparison has found. @param names of the columns for the user
     void list(const SheetComparison& comparison, const ColumnNames& names);
+    /// Lists what is planned.
+    void list(const PlannedList& planned);
     void clear();
     /// Shows only lines of this kind; nothing for all.
     void showOnly(std::optional<DifferenceKind> kind);

@@ -4,8 +4,11 @@
 #include "articles/ColumnChoices.h"
 #include "articles/DifferenceList.h"
 #include "articles/SheetImport.h"
+#include "base/CustomerSettings.h"
 #include "customers/RunLock.h"
+#include "customers/SetupSettings.h"
 #include "platform/RuntimeFailure.h"
+#include "platform/ShownTime.h"
 #include "reports/window/RunProgress.h"
 #include "store/engine/ShortWait.h"
 #include "ui/Announcement.h"
@@ -14,6 +17,7 @@
 #include "ui/FormKit.h"
 
 #include <QComboBox>
+#include <QDateEdit>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
@@ -22,6 +26,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -51,7 +56,8 @@ ImportDialog::ImportDialog(ImportOrder order, Boxes& boxes, QWidget* parent)
     : QDialog(parent), m_order(std::move(order)),
       m_file(m_order.values.databasePath, std::move(m_order.sheet), std::move(m_order.content)),
       m_boxes(boxes), m_list(new DifferenceList(this)), m_kinds(new QComboBox(this)),
-      m_state(new QLabel(this)), m_import(ui::makeButton(u"ImportButton"_s, u"&Import"_s, this))
+      m_day(new QDateEdit(QDate::currentDate(), this)), m_state(new QLabel(this)),
+      m_import(ui::makeButton(u"ImportButton"_s, u"&Import"_s, this))
 {
     ui::nameControl(*this, u"ImportDialog"_s);
     setWindowTitle(u"Import %1"_s.arg(m_order.fileName));
@@ -93,6 +99,16 @@ void ImportDialog::fillKinds()
     connect(m_kinds, &QComboBox::currentIndexChanged, this, &ImportDialog::showKind);
 }
 
+void ImportDialog::prepareDay()
+{
+    ui::nameControl(*m_day, u"StoreOn"_s);
+    m_day->setDisplayFormat(shownDayFormat());
+    m_day->setCalendarPopup(true);
+    m_day->setMinimumDate(m_day->date());
+    m_day->setKeyboardTracking(false);
+    connect(m_day, &QDateEdit::dateChanged, this, &ImportDialog::chooseDay);
+}
+
 QHBoxLayout* ImportDialog::makeButtons()
 {
     QPushButton* const close = ui::makeButton(u"CloseButton"_s, u"&Close"_s, this);
@@ -111,6 +127,7 @@ void ImportDialog::layOut()
 {
     m_view = makeList();
     fillKinds();
+    prepareDay();
     auto* const columns = new QVBoxLayout;
     columns->addWidget(new QLabel(u"Columns of the file"_s, this));
     columns->addWidget(m_columns, 1);
@@ -120,6 +137,10 @@ void ImportDialog::layOut()
     kinds->addWidget(caption);
     kinds->addWidget(m_kinds);
     kinds->addStretch();
+    auto* const day = new QLabel(u"S&tore on"_s, this);
+    day->setBuddy(m_day);
+    kinds->addWidget(day);
+    kinds->addWidget(m_day);
     auto* const found = new QVBoxLayout;
     found->addLayout(kinds);
     found->addWidget(m_view, 1);
@@ -134,6 +155,21 @@ void ImportDialog::layOut()
     all->addLayout(content, 1);
     all->addLayout(makeButtons());
     resize(ui::scaled(usualSize).boundedTo(screen()->availableSize() * roomOfScreen));
+}
+
+bool ImportDialog::isPlanned() const
+{
+    return m_day->date() > m_day->minimumDate();
+}
+
+/// Earlier lists may change what the file would change.
+void ImportDialog::chooseDay()
+{
+    const int width = registerModel(m_order.values).messageWidth;
+    m_file.setDay(isPlanned() ? std::optional(StoreDay{m_day->date(), m_order.values.customerPath, width})
+                              : std::nullopt);
+    m_import->setText(isPlanned() ? u"&Plan"_s : u"&Import"_s);
+    compare();
 }
 
 void ImportDialog::compare()
@@ -172,8 +208,10 @@ QString ImportDialog::findings() const
     } else if (comparison.changeCount() == 0) {
         parts += u"The file changes nothing: %1 unchanged."_s.arg(comparison.unchangedCount());
     } else {
-        parts += u"%1, %2 unchanged. Nothing is stored before you press Import."_s.arg(
-            changesInWords(comparison), QString::number(comparison.unchangedCount()));
+        const QString next = isPlanned() ? u"Nothing is planned before you press Plan."_s
+                                         : u"Nothing is stored before you press Import."_s;
+        parts += u"%1, %2 unchanged. %3"_s.arg(changesInWords(comparison),
+                                               QString::number(comparison.unchangedCount()), next);
     }
     if (m_list->isCut())
         parts += u"Not all lines are listed."_s;
@@ -202,7 +240,8 @@ void ImportDialog::importFile()
     accept();
 }
 
-/// @return what was imported; empty after a message if another run uses the customer or no copy can be made.
+/// @return what was imported or planned; empty after a message if another run uses the customer or no
+/// copy can be made.
 QString ImportDialog::imported()
 {
     const auto lock = customers::RunLock::take(m_order.values, m_boxes);
@@ -224,15 +263,21 @@ QString ImportDialog::imported()
                                  u"Records were changed after the file was compared."_s);
         }
     };
-    const auto result = importSheet({m_order.values, m_file.sheet(), m_boxes, m_order.history.get()},
-                                    {compare, review}, goOn);
+    const ImportPlace place{m_order.values, m_file.sheet(), m_boxes, m_order.history.get()};
+    if (isPlanned()) {
+        const QString model = customers::modelInWords(registerModel(m_order.values));
+        return u"Planned: %1. \"Planned Changes...\" in the menu More shows it"_s.arg(
+            planSheet(place, {compare, review}, {m_day->date(), model, m_order.fileName}));
+    }
+    const auto result = importSheet(place, {compare, review}, goOn);
     return result ? u"Imported %1: %2. Ctrl+Z undoes it"_s.arg(m_order.fileName, *result) : QString();
 }
 
 void ImportDialog::compareAgain(const QString& why)
 {
     compare();
-    m_boxes.message(u"Nothing was imported. %1\r\rThe list shows what the file would change now."_s.arg(why),
+    m_boxes.message(u"Nothing was %2. %1\r\rThe list shows what the file would change now."_s.arg(
+                        why, isPlanned() ? u"planned"_s : u"imported"_s),
                     u"Import"_s, BoxIcon::Exclamation);
 }
 

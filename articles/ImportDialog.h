@@ -11,6 +11,7 @@
 #include <memory>
 
 class QComboBox;
+class QDateEdit;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -55,6 +56,9 @@ private:
     void buildColumns();
     [[nodiscard]] QTableView* makeList();
     void fillKinds();
+    void prepareDay();
+    [[nodiscard]] bool isPlanned() const;
+    void chooseDay();
     [[nodiscard]] QHBoxLayout* makeButtons();
     void layOut();
     void compare();
@@ -74,6 +78,7 @@ private:
     DifferenceList* m_list;
     ColumnChoices* m_columns = nullptr;
     QComboBox* m_kinds;
+    QDateEdit* m_day; ///< on which the file is stored: today at once
     QTableView* m_view = nullptr;
     QLabel* m_state;
     QPushButton* m_import;

@@ -7,10 +7,16 @@
 namespace norvane
 {
 
+/// The form of a day, for controls.
+[[nodiscard]] inline QString shownDayFormat()
+{
+    return QStringLiteral("dd/MM/yyyy");
+}
+
 /// "07/05/2004", day before month.
 [[nodiscard]] inline QString shownDay(const QDate& day)
 {
-    return day.toString(QStringLiteral("dd/MM/yyyy"));
+    return day.toString(shownDayFormat());
 }
 
 /// "07/05/2004 18:30".

@@ -31,6 +31,7 @@ constexpr HelpTopic topics[] = {
     {"CopyToShopsDialog"_L1, "copying-to-other-customers"_L1},
     {"TableWindow"_L1, "many-articles-at-once"_L1},
     {"SetFieldDialog"_L1, "many-articles-at-once"_L1},
+    {"PlannedDialog"_L1, "prices-with-a-date"_L1},
     {"ImportDialog"_L1, "many-articles-at-once"_L1},
     {"KeyLayoutVelmar"_L1, "keyboards"_L1},
     {"KeyLayoutDorvik"_L1, "keyboards"_L1},

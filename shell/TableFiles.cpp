@@ -2,6 +2,7 @@
 #include "shell/TableFiles.h"
 
 #include "articles/ImportDialog.h"
+#include "articles/PlannedDialog.h"
 #include "articles/SheetExport.h"
 #include "articles/SpreadsheetError.h"
 #include "base/CustomerSettings.h"
@@ -239,8 +240,15 @@ screens::TableTools makeFileTools(const TableSurroundings& around)
     const auto imported = [around](TableWindow& window) {
         openOrTell(around.boxes, [&] { importTable(window, around); });
     };
+    const auto planned = [around](TableWindow& window) {
+        openOrTell(around.boxes, [&] {
+            articles::PlannedDialog(tableOfFile(window, around.values).owner, around.boxes, &around.main)
+                .exec();
+        });
+    };
     return {{u"ExportTable"_s, u"&Export..."_s, {}, exported},
-            {u"ImportTable"_s, u"&Import..."_s, {}, imported}};
+            {u"ImportTable"_s, u"&Import..."_s, {}, imported},
+            {u"PlannedChanges"_s, u"&Planned Changes..."_s, {}, planned}};
 }
 
 } // namespace norvane::shell

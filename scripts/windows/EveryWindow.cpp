@@ -2,6 +2,7 @@
 #include "scripts/windows/EveryWindow.h"
 
 #include "articles/ImportDialog.h"
+#include "articles/PlannedDialog.h"
 #include "exchange/FrmComm.h"
 #include "keys/functions/FrmFunctKey.h"
 #include "keys/layout/copylevel.h"
@@ -12,6 +13,7 @@
 #include "overlay/OverlayPreview.h"
 #include "overlay/PrinterSetup.h"
 #include "overlay/SystemDialogs.h"
+#include "platform/FilePaths.h"
 #include "platform/ProfileFile.h"
 #include "programme/CopyToShopsDialog.h"
 #include "reports/window/Report.h"
@@ -84,6 +86,21 @@ QWidget* importOfFile(Ground& ground, QWidget* parent)
                                       ground.shop.boxes(), parent);
 }
 
+/// A list, a cancelled one and a damaged one.
+QWidget* plannedChanges(Ground& ground, QWidget* parent)
+{
+    const QString& folder = ground.values.customerPath;
+    const articles::PlannedRecord record{
+        u"000000000000004711"_s, true, {{u"Description"_s, {}, u"New article"_s}}};
+    for (const int month : {1, 2, 3}) {
+        (void)articles::addPlannedList(
+            folder, {{2027, month, 1}, u"PLUDATA"_s, {}, {}, u"New Year.xlsx"_s, {record}});
+    }
+    articles::cancelPlannedList(folder, articles::plannedFiles(folder)[1]);
+    writeWholeFile(articles::plannedFiles(folder)[2].path, "damaged");
+    return new articles::PlannedDialog(ground.values, ground.shop.boxes(), parent);
+}
+
 constexpr Dialog dialogs[] = {
     {"customer",
      [](Ground& g, QWidget* p) -> QWidget* {
@@ -113,6 +130,7 @@ constexpr Dialog dialogs[] = {
              g.shop.boxes(), p);
      }},
     {"import", &importOfFile},
+    {"planned", &plannedChanges},
     {"exchange",
      [](Ground& g, QWidget* p) -> QWidget* {
          return new exchange::FrmComm(u"UPLOAD"_s, g.values, g.shop.boxes(), p);

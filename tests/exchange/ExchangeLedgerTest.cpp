@@ -1,6 +1,5 @@
 // What counts as not sent after real exchanges with a bank of registers.
 #include "base/CustomerSettings.h"
-#include "exchange/ChangedRecords.h"
 #include "exchange/UnsentChanges.h"
 #include "platform/ProfileFile.h"
 #include "tests/exchange/Exchange.h"
@@ -196,30 +195,6 @@ TEST(ExchangeLedger, PointsFollowTheirPlus)
     shop.folder.setFaults("");
     shop.uploadPlusWithoutPoints();
     EXPECT_FALSE(changesOf(shop, pluPointsBox).isUnsent()) << "the points are those of the register";
-}
-
-TEST(ExchangeLedger, NamesTheRecordsOfATableThatChanged)
-{
-    Exchange shop(2);
-    const auto keys = [&shop](const QString& table, const QString& key) {
-        std::string text;
-        for (const store::Value& value : changedRecords(shop.values, table, key))
-            text += value.toUtf8() + ' ';
-        return text;
-    };
-    shop.upload({pluBox, groupBox});
-    EXPECT_EQ(keys(u"groups"_s, u"GROUPNO"_s), "");
-    rename(shop, 3, "Third");
-    rename(shop, 5, "Fifth");
-    EXPECT_EQ(keys(u"groups"_s, u"GROUPNO"_s), "3 5 ");
-    const std::string plu = test::rowsOf(shop.values.databasePath, u"select max(PLUNUMBER) from PLUDATA"_s);
-    test::execute(shop.values.databasePath,
-                  u"update PLUDATA set PRICE1='9.99', POINT1=5 where PLUNUMBER='%1'"_s.arg(
-                      QString::fromStdString(plu)));
-    EXPECT_EQ(keys(u"PLUDATA"_s, u"PLUNUMBER"_s), plu + ' ') << "once, for its price and its points";
-    EXPECT_EQ(keys(u"PLUSALES"_s, u"ID"_s), "") << "not a table of a register file";
-    EXPECT_TRUE(QFile::remove(ledgerOf(shop)));
-    EXPECT_TRUE(keys(u"GROUPS"_s, u"GROUPNO"_s).starts_with("1 2 3 4 5 ")) << "never sent";
 }
 
 } // namespace
