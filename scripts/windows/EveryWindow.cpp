@@ -90,12 +90,9 @@ QWidget* importOfFile(Ground& ground, QWidget* parent)
 QWidget* plannedChanges(Ground& ground, QWidget* parent)
 {
     const QString& folder = ground.values.customerPath;
-    const articles::PlannedRecord record{
-        u"000000000000004711"_s, true, {{u"Description"_s, {}, u"New article"_s}}};
-    for (const int month : {1, 2, 3}) {
-        (void)articles::addPlannedList(
-            folder, {{2027, month, 1}, u"PLUDATA"_s, {}, {}, u"New Year.xlsx"_s, {record}});
-    }
+    const articles::PlannedRecord record{u"4711"_s, true, {{u"Description"_s, {}, u"New article"_s}}};
+    for (const int month : {1, 2, 3})
+        (void)articles::addPlannedList(folder, {{2027, month, 1}, u"PLUDATA"_s, {}, {}, {}, {record}});
     articles::cancelPlannedList(folder, articles::plannedFiles(folder)[1]);
     writeWholeFile(articles::plannedFiles(folder)[2].path, "damaged");
     return new articles::PlannedDialog(ground.values, ground.shop.boxes(), parent);
