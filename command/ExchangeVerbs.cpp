@@ -8,10 +8,13 @@
 #include "customers/RunLock.h"
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangeRunner.h"
+#include "exchange/RegisterComparison.h"
 #include "link/Modem.h"
 #include "link/ResultCodes.h"
 #include "link/SystemClock.h"
 #include "platform/RuntimeFailure.h"
+#include "programme/ProgrammeParts.h"
+#include "records/RegisterFiles.h"
 #include "sales/CollectionRun.h"
 #include "sales/UnclearedSales.h"
 
@@ -150,6 +153,71 @@ void showEnd(const Workplace& workplace, const QString& work, const ExchangeEnd&
     workplace.show(listing);
 }
 
+/// Boxes whose tables a part of a programme has, or a table by its name.
+QList<int> boxesOfPart(const QString& name)
+{
+    QStringList unknown;
+    const QStringList tables = programme::tablesNamed({name}, unknown);
+    QList<int> boxes;
+    for (const exchange::UploadRow& row : exchange::uploadPlan()) {
+        const records::RegisterFile* const file = records::registerFile(row.file);
+        if (file != nullptr && tables.contains(QLatin1String(file->table), Qt::CaseInsensitive) &&
+            row.box != exchange::pluPointsBox)
+            boxes << row.box;
+    }
+    return boxes;
+}
+
+/// Boxes to compare, named as for an exchange or by a part of the programme.
+QList<int> boxesToCompare(const QStringList& names)
+{
+    std::set<int> boxes;
+    for (const QString& name : names) {
+        const QList<int> ofPart = boxesOfPart(name);
+        if (ofPart.isEmpty()) {
+            boxes.insert(boxOf(name));
+        } else {
+            boxes.insert(ofPart.begin(), ofPart.end());
+        }
+    }
+    if (names.isEmpty())
+        boxes = boxesOf({});
+    return {boxes.begin(), boxes.end()};
+}
+
+/// Fetches for a comparison; the line is free again afterwards.
+exchange::RegisterComparison fetchToCompare(const Workplace& workplace, const ApplicationValues& values,
+                                            const QList<int>& boxes)
+{
+    const link::LinkSettings link = link::readLinkSettings(values);
+    auto scratch = std::make_unique<exchange::ScratchShop>(values);
+    RegisterLine line;
+    if (line.connect(link) == link::modemFailed)
+        throw CommandError(ExitCode::Stopped, u"Communications Error: Modem Failure"_s);
+    RegisterTools tools(workplace, values, scratch->folder());
+    exchange::FetchedFiles fetched =
+        exchange::RegisterFetch(values, link, *scratch, tools.outside()).fetch(boxes);
+    return {values, std::move(scratch), std::move(fetched)};
+}
+
+void showComparison(const Workplace& workplace, const exchange::RegisterComparison& comparison,
+                    qint64& different)
+{
+    const auto rows = [&](const auto& take) {
+        different = 0;
+        comparison.forEach(
+            [&](const exchange::ComparedLine& line) {
+                different += line.isOneWay ? 0 : 1;
+                take({line.table, line.record, line.field, line.here, line.there,
+                      line.isOneWay ? QVariant(true) : QVariant(), line.remark});
+                return true;
+            },
+            untilSignalled);
+    };
+    workplace.show({u"Table"_s, u"Record"_s, u"Field"_s, u"Here"_s, u"Register"_s, u"One way"_s, u"Remark"_s},
+                   rows);
+}
+
 void exchangeWith(const Workplace& workplace, const Invocation& words, exchange::Direction direction)
 {
     const ApplicationValues values = takeCustomer(workplace, words.operands.front());
@@ -216,6 +284,22 @@ void fetch(const Workplace& workplace, const Invocation& words)
 void send(const Workplace& workplace, const Invocation& words)
 {
     exchangeWith(workplace, words, exchange::Direction::Download);
+}
+
+void compare(const Workplace& workplace, const Invocation& words)
+{
+    const ApplicationValues values = takeCustomer(workplace, words.operands.front());
+    const QList<int> boxes = boxesToCompare(words.operands.mid(1));
+    const auto lock = lockFor(workplace, values);
+    const exchange::RegisterComparison comparison = fetchToCompare(workplace, values, boxes);
+    qint64 different = 0;
+    showComparison(workplace, comparison, different);
+    for (const QString& note : comparison.notes())
+        printMessage(note);
+    if (!comparison.fetched().stopped.isEmpty())
+        throw CommandError(ExitCode::Stopped, {});
+    if (different > 0)
+        throw CommandError(ExitCode::Different, {});
 }
 
 void collect(const Workplace& workplace, const Invocation& words)

@@ -42,6 +42,7 @@ std::span<const ExitMeaning> exitMeanings()
         {ExitCode::CustomerExists, "there is a customer or file of the new name already"_L1},
         {ExitCode::NotAsPlanned,
          "planned changes were not stored, all or some: somebody changed the same fields since, or the register model"_L1},
+        {ExitCode::Different, "the customer and the register differ"_L1},
         {ExitCode::Interrupted, "the run was stopped by SIGINT (Ctrl+C)"_L1},
         {ExitCode::Terminated, "the run was stopped by SIGTERM"_L1},
     });

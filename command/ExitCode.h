@@ -39,6 +39,7 @@ enum class ExitCode {
     FormerLocked = 19,
     CustomerExists = 20,
     NotAsPlanned = 21,
+    Different = 22,
     // As shells report them: 128 and the number of the signal.
     Interrupted = 130,
     Terminated = 143,

@@ -19,7 +19,8 @@ ChildResult RegisterTools::run(const QString& line)
                                                  .output =
                                                      [this](const QByteArray& bytes) {
                                                          m_words.add(bytes);
-                                                     }});
+                                                     }},
+                                                m_folder);
     if (const QString words = m_words.text(); !words.isEmpty())
         printMessage(words);
     if (result != ChildResult::Ended)
@@ -30,7 +31,7 @@ ChildResult RegisterTools::run(const QString& line)
 link::RunOutside RegisterTools::outside()
 {
     return {.runAndWait = [this](const QString& line) { return run(line); },
-            .readStatus = link::ReadStatusOut,
+            .readStatus = [this] { return link::readStatusOutIn(m_folder); },
             .showStep =
                 [this](const QString& text) {
                     m_words.clear();

@@ -7,6 +7,7 @@
 #include "link/ToolWords.h"
 
 #include <optional>
+#include <utility>
 
 namespace norvane::command
 {
@@ -16,9 +17,9 @@ namespace norvane::command
 class RegisterTools
 {
 public:
-    /// Both must outlive it.
-    RegisterTools(const Workplace& workplace, const ApplicationValues& values)
-        : m_workplace(workplace), m_values(values)
+    /// @param folder in which the tools work; empty for the working directory. The others must outlive it.
+    RegisterTools(const Workplace& workplace, const ApplicationValues& values, QString folder = {})
+        : m_workplace(workplace), m_values(values), m_folder(std::move(folder))
     {
     }
     RegisterTools(const RegisterTools&) = delete;
@@ -37,6 +38,7 @@ private:
 
     const Workplace& m_workplace;
     const ApplicationValues& m_values;
+    QString m_folder;
     link::ToolWords m_words; ///< of the last tool of the step
     std::optional<link::FailedStep> m_failed;
 };

@@ -112,6 +112,8 @@ constexpr auto all = std::to_array<Verb>({
      "Uploads from register 1 what the boxes name, as the exchange dialog does; without a box, all of it."_L1, fetch},
     {"send"_L1, "CUSTOMER [BOX...]"_L1, 1, -1, sendOptions,
      "Downloads to all registers what the boxes name; without a box, all of it."_L1, send},
+    {"compare"_L1, "CUSTOMER [BOX|PART...]"_L1, 1, -1, {},
+     "Lists what differs between the customer and register 1, and changes nothing in either. PART is a part of the programme as \"copy-programme\" takes it, or a table. Values that travel in one direction only are marked and do not count."_L1, compare},
     {"collect"_L1, "CUSTOMER"_L1, 1, 1, collectOptions, "Collects the sales of all registers, stores them and clears them there."_L1, collect},
     {"report"_L1, "CUSTOMER NAME"_L1, 2, 2, reportOptions,
      "Writes a report: plusales, finsales, clerksales, timesales, mixsales, pluprice or any layout of the program's folder."_L1, report},

@@ -20,6 +20,7 @@ void newCustomer(const Workplace& workplace, const Invocation& words);
 void setSettings(const Workplace& workplace, const Invocation& words);
 void fetch(const Workplace& workplace, const Invocation& words);
 void send(const Workplace& workplace, const Invocation& words);
+void compare(const Workplace& workplace, const Invocation& words);
 void collect(const Workplace& workplace, const Invocation& words);
 void report(const Workplace& workplace, const Invocation& words);
 void movePlus(const Workplace& workplace, const Invocation& words);

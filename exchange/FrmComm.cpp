@@ -2,6 +2,7 @@
 #include "exchange/FrmComm.h"
 
 #include "customers/DataOwner.h"
+#include "exchange/CompareDialog.h"
 #include "exchange/ExchangeRunner.h"
 #include "link/ResultCodes.h"
 #include "platform/RuntimeFailure.h"
@@ -62,7 +63,10 @@ FrmComm::FrmComm(QString exchangeMode, const ApplicationValues& values, Boxes& b
     content->addWidget(areaOfBoxes());
     content->addWidget(m_changes);
     buildTickChanged();
-    layOut(content, isUpload() ? QList{CSCmdBtn2} : QList{CSCmdBtn2, m_tickChanged});
+    QPushButton* const comparing = addRunButton("CompareButton", "Co&mpare with Register...");
+    connect(comparing, &QPushButton::clicked, this, &FrmComm::compare);
+    layOut(content,
+           isUpload() ? QList{CSCmdBtn2, comparing} : QList{CSCmdBtn2, m_tickChanged, comparing});
     check1.front()->setFocus();
 }
 
@@ -228,19 +232,70 @@ void FrmComm::exchange()
 {
     noteSerialPort();
     const link::LinkSettings link = link::readLinkSettings(m_values);
+    ExchangeRunner runner(m_values, link, *this, outside());
+    if (connects(link, &runner))
+        runSequence(runner);
+}
+
+/// @param runner logs a call that failed; nullptr for work that is not logged.
+bool FrmComm::connects(const link::LinkSettings& link, ExchangeRunner* runner)
+{
     const int result = connectLink(link);
     // Exit has hung up; show nothing.
     if (exitPressed())
-        return;
-    ExchangeRunner runner(m_values, link, *this, outside());
-    if (result == link::modemFailed) {
-        runner.endWithoutCall(direction());
-        hangUp();
-        endBeforeLastBox();
-        m_boxes.message(u"Modem Failure"_s, u"Communications Error"_s);
+        return false;
+    if (result != link::modemFailed)
+        return true;
+    if (runner != nullptr)
+        runner->endWithoutCall(direction());
+    hangUp();
+    endBeforeLastBox();
+    m_boxes.message(u"Modem Failure"_s, u"Communications Error"_s);
+    return false;
+}
+
+/// The ticks remain: a comparison moves nothing.
+void FrmComm::compare()
+{
+    if (tickedBoxes(*this).isEmpty()) {
+        m_boxes.message(u"Tick what to compare first."_s, u"Compare with Register"_s, BoxIcon::Information);
         return;
     }
-    runSequence(runner);
+    std::unique_ptr<RegisterComparison> found;
+    const bool remains = runAs([&] { found = fetchToCompare(); });
+    if (!remains || found == nullptr)
+        return;
+    CompareDialog dialog(std::move(found), m_boxes, m_history, this);
+    dialog.exec();
+    lookForChanges();
+}
+
+/// @return nothing after a failed call, and if nothing came; a message was shown then.
+std::unique_ptr<RegisterComparison> FrmComm::fetchToCompare()
+{
+    const link::LinkSettings link = link::readLinkSettings(m_values);
+    if (!connects(link, nullptr))
+        return nullptr;
+    const auto ended = qScopeGuard([this] {
+        hangUp();
+        StatusBar1->setStep({});
+    });
+    QString failure;
+    try {
+        auto scratch = std::make_unique<ScratchShop>(m_values);
+        FetchedFiles fetched =
+            RegisterFetch(m_values, link, *scratch, outside(scratch->folder())).fetch(tickedBoxes(*this));
+        if (fetched.wasLeft || !fetched.files.isEmpty())
+            return std::make_unique<RegisterComparison>(m_values, std::move(scratch), std::move(fetched));
+        failure = fetched.stopped;
+    } catch (const RuntimeFailure& error) {
+        failure = error.text();
+    }
+    hangUp();
+    endBeforeLastBox();
+    m_boxes.message(u"Nothing was compared. Stopped at %1"_s.arg(failure), u"Compare with Register"_s,
+                    BoxIcon::Exclamation);
+    return nullptr;
 }
 
 void FrmComm::noteSerialPort()

@@ -8,14 +8,21 @@
 #include "link/LinkForm.h"
 
 #include <array>
+#include <memory>
 
 class QCheckBox;
 class QLabel;
+
+namespace norvane::store
+{
+class WorkHistory;
+}
 
 namespace norvane::exchange
 {
 
 class ExchangeRunner;
+class RegisterComparison;
 
 /// Serves both directions; the menu gives the dialog its caption. All boxes start unticked. Closing takes
 /// effect after the current file.
@@ -26,6 +33,9 @@ class FrmComm : public link::LinkForm, private TickBoxes
 public:
     /// @param exchangeMode "UPLOAD" fetches from one register, anything else sends to all.
     FrmComm(QString exchangeMode, const ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
+
+    /// What a comparison takes over from a register is added to @p history, which must outlive the form.
+    void setHistory(store::WorkHistory* history) { m_history = history; }
 
 protected:
     [[nodiscard]] bool mayStart() override;
@@ -50,6 +60,9 @@ private:
     void showChanges(const AllChanges& changes);
     void showChanges(int box, const BoxChanges& changes);
     void tickChanged();
+    void compare();
+    [[nodiscard]] std::unique_ptr<RegisterComparison> fetchToCompare();
+    [[nodiscard]] bool connects(const link::LinkSettings& link, ExchangeRunner* runner);
     void exchange();
     void noteSerialPort();
     void runSequence(ExchangeRunner& runner);
@@ -67,6 +80,7 @@ private:
     ChangesLook m_look{[this](const AllChanges& changes) {
         showChanges(changes);
     }};
+    store::WorkHistory* m_history = nullptr;
 };
 
 } // namespace norvane::exchange

@@ -30,7 +30,7 @@ LinkForm::LinkForm(const char* name, const char* runCaption, const ApplicationVa
       m_line(makeSerialLine()), m_clock(std::make_unique<SystemClock>())
 {
     ui::nameControl(*this, QLatin1String(name));
-    Communicate = addButton("Communicate", runCaption);
+    Communicate = addRunButton("Communicate", runCaption);
     Communicate->setDefault(true);
     connect(Communicate, &QPushButton::clicked, this, &LinkForm::communicate);
     CSCmdBtn1 = addButton("CSCmdBtn1", "E&xit");
@@ -59,6 +59,12 @@ QPushButton* LinkForm::addButton(const char* name, const char* caption)
     QPushButton* const button = ui::makeButton(QLatin1String(name), QLatin1String(caption), this);
     button->setAutoDefault(false);
     return button;
+}
+
+QPushButton* LinkForm::addRunButton(const char* name, const char* caption)
+{
+    m_runButtons << addButton(name, caption);
+    return m_runButtons.back();
 }
 
 QHBoxLayout* LinkForm::buttonRow(const QList<QPushButton*>& others) const
@@ -100,16 +106,23 @@ void LinkForm::tabToButtonsLast(const QList<QPushButton*>& others)
 
 void LinkForm::communicate()
 {
-    if (m_work != Work::None || !mayStart() || !takeLock())
-        return;
+    if (m_work == Work::None && mayStart())
+        runAs([this] { run(); });
+}
+
+bool LinkForm::runAs(const std::function<void()>& work)
+{
+    if (m_work != Work::None || !takeLock())
+        return false;
     beginRun();
     bool leavesNow = false;
     {
         const auto ended = qScopeGuard([&] { leavesNow = endRun(); });
-        run();
+        work();
     }
     if (leavesNow)
         leave();
+    return !leavesNow && !m_exitPressed;
 }
 
 bool LinkForm::takeLock()
@@ -126,7 +139,7 @@ void LinkForm::beginRun()
     StatusBar1->setResult({});
     m_step.clear();
     m_report->empty();
-    Communicate->setEnabled(false);
+    enableRuns(false);
 }
 
 /// @return whether the user asked to leave while tools were at work.
@@ -138,9 +151,15 @@ bool LinkForm::endRun()
     showProgress();
     m_lock.reset();
     m_waitPointer.reset();
-    Communicate->setEnabled(true);
+    enableRuns(true);
     Communicate->setFocus();
     return leaves;
+}
+
+void LinkForm::enableRuns(bool enabled)
+{
+    for (QPushButton* button : m_runButtons)
+        button->setEnabled(enabled);
 }
 
 void LinkForm::showStep(const QString& text)

@@ -16,6 +16,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -63,6 +64,8 @@ protected:
 
     /// Makes a button; layOut() places it.
     [[nodiscard]] QPushButton* addButton(const char* name, const char* caption);
+    /// The same for a button that calls runAs(). It cannot be pressed during a run.
+    [[nodiscard]] QPushButton* addRunButton(const char* name, const char* caption);
     /// Puts @p content above a row of buttons, @p others before Communicate and Exit, and below the
     /// status bar and, while there is one, the report of the run. The form has the size that these need.
     void layOut(QLayout* content, const QList<QPushButton*>& others = {});
@@ -71,6 +74,9 @@ protected:
     [[nodiscard]] virtual bool mayStart() = 0;
     /// One press of Communicate.
     virtual void run() = 0;
+    /// Does @p work as a run, under the lock and with the exit as in run(). @return whether it was done and
+    /// the form remains open.
+    bool runAs(const std::function<void()>& work);
     /// Shown when the user leaves while tools are at work.
     [[nodiscard]] virtual QString leavingNotice() const = 0;
 
@@ -108,6 +114,7 @@ private:
     void showProgress();
     void beginRun();
     [[nodiscard]] bool endRun();
+    void enableRuns(bool enabled);
     [[nodiscard]] int dial();
     void leave();
 
@@ -121,7 +128,8 @@ private:
     std::unique_ptr<SerialLine> m_line;
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<Modem> m_modem;
-    LinkSettings m_link; ///< of the last run
+    LinkSettings m_link;              ///< of the last run
+    QList<QPushButton*> m_runButtons; ///< begin a run
     bool m_isConnected = false;
     std::unique_ptr<customers::RunLock> m_lock; ///< while a run works
     /// What a run is busy with.

@@ -73,7 +73,7 @@ PartComparison::PartComparison(const ShopData& from, const ShopData& to, ChosenP
     });
     ChangeSum sum;
     for (const QString& table : std::as_const(m_parts.tables)) {
-        PartWalk walk(m_from, m_to, table, m_parts.records);
+        PartWalk walk(m_from, m_to, table, m_parts);
         while (walk.next(keepGoing)) {
             sum.add(walk.change());
             leaveOut(walk.change());
@@ -110,7 +110,7 @@ void PartComparison::forEach(const std::function<bool(const RecordChange& change
                              const KeepGoing& keepGoing) const
 {
     for (const QString& table : m_parts.tables) {
-        PartWalk walk(m_from, m_to, table, m_parts.records);
+        PartWalk walk(m_from, m_to, table, m_parts);
         while (walk.next(keepGoing)) {
             if (walk.change().isCopied() && !take(walk.change()))
                 return;

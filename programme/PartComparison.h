@@ -8,20 +8,11 @@
 #include <QCryptographicHash>
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 
 namespace norvane::programme
 {
-
-/// What a user chose to copy.
-struct ChosenParts {
-    QStringList tables; ///< spelled as in the catalogue
-    /// Keys of records of the only table, as stored. Empty for whole tables: records that only the other shop
-    /// has are then removed there.
-    QStringList records;
-};
 
 /// Records that copying stores or removes.
 struct ChangeCounts {

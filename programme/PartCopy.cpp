@@ -89,7 +89,7 @@ public:
     {
         ChangeSum sum;
         for (const QString& table : comparison.m_parts.tables) {
-            PartWalk walk(comparison.m_from, comparison.m_to, table, comparison.m_parts.records);
+            PartWalk walk(comparison.m_from, comparison.m_to, table, comparison.m_parts);
             PartWriter writer(comparison.m_to.database, table);
             while (walk.next(keepGoing)) {
                 sum.add(walk.change());
@@ -121,6 +121,16 @@ void copyShop(const QString& customerPath)
 void applyParts(const PartComparison& comparison, const KeepGoing& keepGoing)
 {
     store::allOrNothing(PartCopy::target(comparison), [&] { PartCopy::run(comparison, keepGoing); });
+}
+
+void applyParts(const std::vector<PartComparison>& comparisons, const KeepGoing& keepGoing)
+{
+    if (comparisons.empty())
+        return;
+    store::allOrNothing(PartCopy::target(comparisons.front()), [&] {
+        for (const PartComparison& comparison : comparisons)
+            PartCopy::run(comparison, keepGoing);
+    });
 }
 
 QString copyParts(const PartComparison& comparison, const QString& from, const ApplicationValues& target,

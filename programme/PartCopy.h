@@ -4,6 +4,8 @@
 #include "base/ApplicationValues.h"
 #include "programme/PartComparison.h"
 
+#include <vector>
+
 namespace norvane::programme
 {
 
@@ -13,7 +15,11 @@ namespace norvane::programme
 /// compared, Failure::UserInterrupt when @p keepGoing returns false, and as the database reports.
 void applyParts(const PartComparison& comparison, const KeepGoing& keepGoing = {});
 
-/// The same with a safety copy before, if there is something to change, and a line in the log of the shop.
+/// The same of several comparisons with one shop.
+void applyParts(const std::vector<PartComparison>& comparisons, const KeepGoing& keepGoing = {});
+
+/// The same of one with a safety copy before, if there is something to change, and a line in the log of the
+/// shop.
 /// @param from the name of the shop that is copied
 /// @param target the other shop; its folder must be locked
 /// @return what was done: "2 new, 1 changed, 0 gone".

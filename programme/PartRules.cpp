@@ -101,9 +101,11 @@ struct OwnField {
     QLatin1StringView field; ///< how its name begins
 };
 
+constexpr OwnField countedField{"PLUDATA"_L1, "POINT"_L1};
+
 /// Registers count points; a shop has its own number and range of registers.
 constexpr OwnField ownFields[] = {
-    {"PLUDATA"_L1, "POINT"_L1},
+    countedField,
     {"smode"_L1,   "storenumber"_L1},
     {"smode"_L1,   "FirstRegister"_L1},
     {"smode"_L1,   "LastRegister"_L1},
@@ -136,6 +138,11 @@ QString reasonOf(const RegisterModel& from, const RegisterModel& to, Wanted want
 bool belongsToShop(QStringView table, QStringView field)
 {
     return std::ranges::any_of(ownFields, [&](const OwnField& row) { return isAbout(row, table, field); });
+}
+
+bool isCountedByRegisters(QStringView table, QStringView field)
+{
+    return isAbout(countedField, table, field);
 }
 
 QString refusalOfTable(QStringView table, const RegisterModel& from, const RegisterModel& to)

@@ -21,6 +21,9 @@ struct CopiedField {
 /// registers count, its number in the chain.
 [[nodiscard]] bool belongsToShop(QStringView table, QStringView field);
 
+/// Whether the registers of a shop count the field, so that it is never the same in two places.
+[[nodiscard]] bool isCountedByRegisters(QStringView table, QStringView field);
+
 /// Why nothing of @p table can be copied between registers of these models; empty if it can.
 [[nodiscard]] QString refusalOfTable(QStringView table, const RegisterModel& from, const RegisterModel& to);
 /// Why @p field cannot be copied between registers of these models; empty if it can.

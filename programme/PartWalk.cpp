@@ -64,6 +64,23 @@ bool isEmpty(const Value& value)
     return value.isText() ? withoutBlanks(value.textView()).empty() : value.toNumber() == 0;
 }
 
+bool isSameOf(FieldType type, bool isPrice, const Value& one, const Value& other)
+{
+    if (one == other)
+        return true;
+    switch (type) {
+    case FieldType::Digits:
+        return withoutZeros(one.toUtf8()) == withoutZeros(other.toUtf8());
+    case FieldType::Text:
+        return withoutBlanks(one.toUtf8()) == withoutBlanks(other.toUtf8()) ||
+               (isPrice && isSamePrice(one.toUtf8(), other.toUtf8()));
+    case FieldType::Date:
+        return false;
+    default:
+        return one.toNumber() == other.toNumber();
+    }
+}
+
 int compareNumbers(double one, double other)
 {
     return one < other ? -1 : static_cast<int>(one > other);
@@ -89,6 +106,17 @@ QString keyOf(const QString& table)
 
 } // namespace
 
+bool isSameValue(const QString& table, const store::FieldDefinition& field, const Value& one,
+                 const Value& other)
+{
+    return isSameOf(field.type, holdsPrice(table, field), one, other);
+}
+
+QString shownField(const QString& table, const store::FieldDefinition& field, const Value& value)
+{
+    return shownValue(field.type, holdsPrice(table, field), value);
+}
+
 bool RecordChange::isCopied() const
 {
     const auto isStored = [](const FieldChange& field) {
@@ -97,9 +125,9 @@ bool RecordChange::isCopied() const
     return refusal.isEmpty() && (kind != ChangeKind::Changed || std::ranges::any_of(fields, isStored));
 }
 
-PartWalk::PartWalk(const ShopData& from, const ShopData& to, const QString& table, QStringList records)
-    : m_from(from), m_to(to), m_table(table), m_records(std::move(records)),
-      m_source(from.database.openTable(table)), m_target(to.database.openTable(table))
+PartWalk::PartWalk(const ShopData& from, const ShopData& to, const QString& table, const ChosenParts& parts)
+    : m_from(from), m_to(to), m_table(table), m_parts(parts), m_source(from.database.openTable(table)),
+      m_target(to.database.openTable(table))
 {
     const QString key = keyOf(table);
     m_sourceKey = m_source.fieldOrdinal(key);
@@ -109,6 +137,11 @@ PartWalk::PartWalk(const ShopData& from, const ShopData& to, const QString& tabl
     m_change.table = table;
 }
 
+bool PartWalk::isCompared(const QString& field) const
+{
+    return !belongsToShop(m_table, field) || (m_parts.isOneShop && !isCountedByRegisters(m_table, field));
+}
+
 void PartWalk::chooseColumns()
 {
     const auto source = m_from.database.table(m_table);
@@ -116,7 +149,7 @@ void PartWalk::chooseColumns()
     std::vector<int> targetFields{m_targetKey};
     for (int target = 0; target < m_target.fieldCount(); ++target) {
         const auto& field = m_target.field(target);
-        if (target == m_targetKey || belongsToShop(m_table, field.name) ||
+        if (target == m_targetKey || !isCompared(field.name) ||
             store::fieldNamed(source, field.name) == nullptr)
             continue;
         const int ordinal = m_source.fieldOrdinal(field.name);
@@ -139,7 +172,7 @@ void PartWalk::skipKeyless()
 
 bool PartWalk::next(const KeepGoing& keepGoing)
 {
-    while (m_records.isEmpty() ? advance() : takeNextRecord()) {
+    while (m_parts.records.isEmpty() ? advance() : takeNextRecord()) {
         stopUnless(keepGoing);
         if (describe())
             return true;
@@ -149,9 +182,9 @@ bool PartWalk::next(const KeepGoing& keepGoing)
 
 bool PartWalk::takeNextRecord()
 {
-    if (m_nextRecord == m_records.size())
+    if (m_nextRecord == m_parts.records.size())
         return false;
-    const QString& record = m_records[m_nextRecord++];
+    const QString& record = m_parts.records[m_nextRecord++];
     m_hasSource = m_source.seek(store::Seek::Equal, Value::text(record));
     if (!m_hasSource) {
         throw RuntimeFailure(Failure::RecordDeleted,
@@ -216,7 +249,8 @@ void PartWalk::compareFields()
         if (!isSame(column)) {
             m_change.fields << FieldChange{
                 column.name, shownValue(column.type, column.isPrice, m_target.value(column.target)),
-                shownValue(column.type, column.isPrice, m_source.value(column.source)), refusalOf(column)};
+                shownValue(column.type, column.isPrice, m_source.value(column.source)),
+                refusalOfDifferent(column)};
         }
     }
 }
@@ -235,21 +269,8 @@ void PartWalk::listRefused()
 
 bool PartWalk::isSame(const Column& column) const
 {
-    const Value& one = m_source.value(column.source);
-    const Value& other = m_target.value(column.target);
-    if (one == other)
-        return true;
-    switch (column.type) {
-    case FieldType::Digits:
-        return withoutZeros(one.toUtf8()) == withoutZeros(other.toUtf8());
-    case FieldType::Text:
-        return withoutBlanks(one.toUtf8()) == withoutBlanks(other.toUtf8()) ||
-               (column.isPrice && isSamePrice(one.toUtf8(), other.toUtf8()));
-    case FieldType::Date:
-        return false;
-    default:
-        return one.toNumber() == other.toNumber();
-    }
+    return isSameOf(column.type, column.isPrice, m_source.value(column.source),
+                    m_target.value(column.target));
 }
 
 QString PartWalk::refusalOf(const Column& column) const
@@ -260,6 +281,15 @@ QString PartWalk::refusalOf(const Column& column) const
     while (text.endsWith(u' '))
         text.chop(1);
     return refusalOfField({m_table, column.name, m_number, text}, m_from.model, m_to.model);
+}
+
+QString PartWalk::refusalOfDifferent(const Column& column) const
+{
+    QString refusal = refusalOf(column);
+    if (refusal.isEmpty() && m_parts.refusal)
+        refusal = m_parts.refusal({m_table, column.name, targetKey(), m_source.value(column.source),
+                                   m_target.value(column.target)});
+    return refusal;
 }
 
 const Value& PartWalk::key() const

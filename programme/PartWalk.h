@@ -22,6 +22,36 @@ struct ShopData {
     const RegisterModel& model;
 };
 
+/// Whether the two values of a field are the same, as PartWalk compares them.
+[[nodiscard]] bool isSameValue(const QString& table, const store::FieldDefinition& field,
+                               const store::Value& one, const store::Value& other);
+
+/// A value as a list of differences shows it.
+[[nodiscard]] QString shownField(const QString& table, const store::FieldDefinition& field,
+                                 const store::Value& value);
+
+/// A field of a changed record that is different, while the walk is there.
+struct DifferentField {
+    const QString& table;
+    const QString& field;
+    const store::Value& key;  ///< of the record at the other shop
+    const store::Value& from; ///< what would be copied
+    const store::Value& to;   ///< what the other shop has
+};
+
+/// What a user chose to copy or to compare.
+struct ChosenParts {
+    QStringList tables; ///< spelled as in the catalogue
+    /// Keys of records of the only table, as stored. Empty for whole tables: records that only the other shop
+    /// has are then removed there.
+    QStringList records{};
+    /// Both are one shop at two times: what belongs to a shop is compared too, except for what its registers
+    /// count.
+    bool isOneShop = false;
+    /// Why a field of a changed record is not copied, beside the rules of the models; empty text if it is.
+    std::function<QString(const DifferentField& field)> refusal{};
+};
+
 enum class ChangeKind {
     New,     ///< the other shop has no such record
     Changed, ///< it has other values
@@ -55,10 +85,9 @@ struct RecordChange {
 class PartWalk
 {
 public:
-    /// @param records keys of the only records to compare, as stored; empty for all of the table
-    /// @throws RuntimeFailure as the databases report, with Failure::UnknownName for a table that one of them
-    /// lacks.
-    PartWalk(const ShopData& from, const ShopData& to, const QString& table, QStringList records);
+    /// @param parts must outlive this. @throws RuntimeFailure as the databases report, with
+    /// Failure::UnknownName for a table that one of them lacks.
+    PartWalk(const ShopData& from, const ShopData& to, const QString& table, const ChosenParts& parts);
 
     /// Goes to the next difference. @return false if there is none.
     /// @throws RuntimeFailure with Failure::UserInterrupt when @p keepGoing returns false, with
@@ -68,6 +97,8 @@ public:
 
     /// The record's key at the other shop, for one that it has.
     [[nodiscard]] const store::Value& targetKey() const { return m_target.value(m_targetKey); }
+    /// The record's key at the shop that is copied, for one that it has.
+    [[nodiscard]] const store::Value& sourceKey() const { return m_source.value(m_sourceKey); }
     /// Gives each field that is to be stored for a new or changed record to @p take: its name at the other
     /// shop and its new value.
     void forEachCopiedField(
@@ -83,6 +114,7 @@ private:
         int target;
     };
 
+    [[nodiscard]] bool isCompared(const QString& field) const;
     void chooseColumns();
     void skipKeyless();
     [[nodiscard]] bool advance();
@@ -94,13 +126,14 @@ private:
     void listRefused();
     [[nodiscard]] bool isSame(const Column& column) const;
     [[nodiscard]] QString refusalOf(const Column& column) const;
+    [[nodiscard]] QString refusalOfDifferent(const Column& column) const;
     [[nodiscard]] const store::Value& key() const;
     [[nodiscard]] QString text() const;
 
     ShopData m_from;
     ShopData m_to;
     QString m_table;
-    QStringList m_records;
+    const ChosenParts& m_parts;
     qsizetype m_nextRecord = 0;
     store::Recordset m_source;
     store::Recordset m_target;

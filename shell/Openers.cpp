@@ -37,11 +37,13 @@ struct Direction {
 constexpr Direction upload{"UploadVelmar"_L1, "UPLOAD"_L1, "Upload From ECR"_L1};
 constexpr Direction download{"DownloadVelmar"_L1, "DOWNLOAD"_L1, "Download to ECR"_L1};
 
-void openExchange(FrmMain& main, const MenuEntry& entry, const ApplicationValues& values, Boxes& boxes)
+void openExchange(FrmMain& main, const MenuEntry& entry, const ApplicationValues& values, Boxes& boxes,
+                  store::WorkHistory& history)
 {
     const Direction& direction = entry.name == upload.entry ? upload : download;
     exchange::FrmComm dialog(direction.mode, values, boxes, &main);
     dialog.setWindowTitle(direction.caption);
+    dialog.setHistory(&history);
     dialog.exec();
 }
 
@@ -143,13 +145,13 @@ private:
 FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
 {
     FrmMain::FormOpeners openers = makeFrameOpeners(values, boxes);
-    openers.insert(u"FrmComm"_s, [&values, &boxes](FrmMain& main, const MenuEntry& entry) {
-        openExchange(main, entry, values, boxes);
+    const auto history = std::make_shared<store::WorkHistory>();
+    openers.insert(u"FrmComm"_s, [&values, &boxes, history](FrmMain& main, const MenuEntry& entry) {
+        openExchange(main, entry, values, boxes, *history);
     });
     openers.insert(u"FrmsalesComm"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
         openCollection(main, values, boxes);
     });
-    const auto history = std::make_shared<store::WorkHistory>();
     openers.insert(makeUtilityOpeners(values, boxes, history));
     openers.insert(makeReportOpeners(values, boxes));
     openers.insert(makeKeyOpeners(values, boxes));

@@ -8,7 +8,6 @@
 #include "tests/support/AskedFirst.h"
 
 #include <map>
-#include <set>
 
 namespace norvane::exchange
 {

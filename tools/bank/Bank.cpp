@@ -7,6 +7,7 @@
 #include "tools/bank/TextRecords.h"
 #include "tools/bank/ToolFailure.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -109,7 +110,9 @@ void Register::save() const
 
 std::optional<Bank> Bank::find(const QString& toolFolder)
 {
-    for (const auto& folder : {QDir::currentPath(), toolFolder}) {
+    // A link to the tool may be started in another folder than its own.
+    const QString startedIn = QFileInfo(QCoreApplication::arguments().value(0)).absolutePath();
+    for (const auto& folder : {QDir::currentPath(), startedIn, toolFolder}) {
         if (const auto found = bankFolderBeside(folder))
             return Bank(*found);
     }

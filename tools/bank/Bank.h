@@ -41,7 +41,8 @@ class Bank
 public:
     explicit Bank(QString folder) : m_folder(std::move(folder)) {}
 
-    /// Looks for registers.ini in the working directory, then in @p toolFolder.
+    /// Looks for registers.ini in the working directory, then beside the tool or the link by which it was
+    /// started, then in @p toolFolder.
     static std::optional<Bank> find(const QString& toolFolder);
 
     [[nodiscard]] QString folder() const { return m_folder; }
