@@ -21,6 +21,7 @@ constexpr HelpTopic topics[] = {
     {"frmAbout"_L1, "when-something-goes-wrong"_L1},
     {"frmSysInfo"_L1, "when-something-goes-wrong"_L1},
     {"FrmComm"_L1, "fetching-and-sending-programmes"_L1},
+    {"CompareDialog"_L1, "comparing-with-a-register"_L1},
     {"FrmsalesComm"_L1, "collecting-the-days-sales"_L1},
     {"Frmreports"_L1, "from-the-menu"_L1},
     {"MoreReports"_L1, "more-reports"_L1},

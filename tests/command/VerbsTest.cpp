@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 
 namespace norvane::test
 {
@@ -55,6 +56,25 @@ TEST_F(Verbs, AReportOfADayHasTheSalesOfThatDayInEveryFormat)
     expectUsage(withDay(u"24.11.2026"_s), u"\"24.11.2026\" is not a day such as 2026-11-25."_s);
     expectUsage(withDay(u"2026-11-24"_s) + QStringList{u"--period"_s, u"week"_s},
                 u"Either --day or --period or --from and --to."_s);
+}
+
+TEST_F(Verbs, AComparisonListsWhatDiffersAndHasACodeForIt)
+{
+    ASSERT_EQ(run({u"fetch"_s, u"SHOP"_s, u"group"_s, u"vat"_s}).code, 0);
+    EXPECT_EQ(listed({u"compare"_s, u"SHOP"_s, u"groups"_s, u"taxes"_s}), QJsonArray());
+    execute(m_shop.databasePath, u"update TAXRATES set notax=77 where ID=2"_s);
+    EXPECT_EQ(listed({u"compare"_s, u"SHOP"_s, u"TAXRATES"_s})[0][u"oneWay"_s], true);
+    execute(m_shop.databasePath, u"update GROUPS set DESCRIPTION='OTHER' where GROUPNO=3"_s);
+    const QJsonObject line = listed({u"compare"_s, u"SHOP"_s, u"3"_s}, 22)[0].toObject();
+    EXPECT_EQ(line[u"here"_s], u"OTHER"_s);
+    EXPECT_EQ(line[u"register"_s], u"Beer & Cider"_s);
+    m_folder.setFaults("[Off]\nCommand=fetch\nFile=29\nResult=8\n");
+    const Ended stopped = run({u"compare"_s, u"SHOP"_s, u"group"_s, u"vat"_s});
+    EXPECT_EQ(stopped.code, 6);
+    EXPECT_TRUE(stopped.out.contains(u"Beer & Cider"_s));
+    EXPECT_TRUE(stopped.err.contains(u"Not compared, or only in part: Vat Rates."_s))
+        << stopped.err.toStdString();
+    expectRefusal(4, {u"compare"_s, u"SHOP"_s, u"nothing"_s}, u"There is no box \"nothing\""_s);
 }
 
 TEST_F(Verbs, AReportOfAnyPeriodIsComparedWithAnother)

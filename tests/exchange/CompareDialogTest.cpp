@@ -99,8 +99,9 @@ TEST_F(CompareDialogTest, EndsWithTheFormAndSaysWhyNothingCame)
     folder.setFaults("[Off]\nCommand=open\nResult=8\n");
     compare(nullptr);
     ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown[0].text,
-              u"Nothing was compared. Stopped at the opening exchange: result 8: Time Out"_s);
+    EXPECT_TRUE(boxes.shown[0].text.startsWith(
+        "Nothing was compared. Stopped at the opening exchange: result 8: Time Out"_L1))
+        << boxes.shown[0].text.toStdString();
     folder.setFaults("");
     pressEscapeSoon();
     compare(nullptr);
