@@ -10,7 +10,6 @@
 
 #include <QHeaderView>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QScreen>
@@ -29,7 +28,6 @@ namespace
 
 constexpr QSize dialogSize{860, 500};
 constexpr double roomOfScreen = 0.94;
-constexpr int notesHeight = 72;
 constexpr int leastColumn = 72;
 constexpr int mostLines = 5000;
 constexpr int keyRole = Qt::UserRole;
@@ -52,9 +50,8 @@ QString differences(qint64 count)
 CompareDialog::CompareDialog(std::unique_ptr<RegisterComparison> comparison, Boxes& boxes,
                              store::WorkHistory* history, QWidget* parent)
     : QDialog(parent), m_comparison(std::move(comparison)), m_boxes(boxes), m_history(history),
-      m_lines(new QStandardItemModel(0, static_cast<int>(headings.size()), this)),
-      m_notes(new QListWidget(this)), m_state(new QLabel(this)),
-      m_use(ui::makeButton(u"UseButton"_s, u"&Use the Register's Values"_s, this)),
+      m_lines(new QStandardItemModel(0, static_cast<int>(headings.size()), this)), m_notes(new QLabel(this)),
+      m_state(new QLabel(this)), m_use(ui::makeButton(u"UseButton"_s, u"&Use the Register's Values"_s, this)),
       m_close(ui::makeButton(u"CloseButton"_s, u"&Close"_s, this))
 {
     ui::nameControl(*this, u"CompareDialog"_s);
@@ -73,12 +70,12 @@ void CompareDialog::layOut()
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(ui::spacing::controlGap);
-    addTable(*column);
-    ui::nameControl(*m_notes, u"NoteList"_s, u"Notes"_s);
-    m_notes->setFixedHeight(ui::scaled(notesHeight));
+    m_notes->setObjectName(u"Notes"_s);
+    m_notes->setTextFormat(Qt::PlainText);
     m_notes->setWordWrap(true);
-    column->addWidget(labelFor(u"&Notes"_s, *m_notes));
     column->addWidget(m_notes);
+    column->addSpacing(ui::spacing::controlGap);
+    addTable(*column);
     column->addSpacing(ui::spacing::controlGap);
     addButtons(*column);
     resize(ui::scaled(dialogSize).boundedTo(screen()->availableSize() * roomOfScreen));
@@ -87,7 +84,7 @@ void CompareDialog::layOut()
 void CompareDialog::addTable(QBoxLayout& column)
 {
     m_lines->setHorizontalHeaderLabels(headings);
-    m_table = ui::makeListTable(u"Differences"_s, u"Differences"_s, m_lines, this);
+    m_table = ui::makeListTable(u"ComparedLines"_s, u"Differences"_s, m_lines, this);
     m_table->setEditTriggers(QTableView::NoEditTriggers);
     m_table->setSelectionMode(QTableView::ExtendedSelection);
     m_table->horizontalHeader()->show();
@@ -167,9 +164,11 @@ void CompareDialog::addLine(const ComparedLine& line)
 
 void CompareDialog::showNotes()
 {
-    m_notes->addItems(m_comparison->notes());
-    m_notes->addItem(u"A download sends the values here to the registers; an upload would replace them with "
-                     u"those of the register. Points of PLUs are not compared."_s);
+    const QStringList lines =
+        m_comparison->notes()
+        << u"A download would send the values here to the registers, an upload would bring "
+           u"those of register 1. Points of PLUs are not compared."_s;
+    m_notes->setText(lines.join(u'\n'));
 }
 
 void CompareDialog::showFound()

@@ -11,7 +11,6 @@
 
 class QBoxLayout;
 class QLabel;
-class QListWidget;
 class QPushButton;
 class QStandardItemModel;
 class QTableView;
@@ -55,7 +54,7 @@ private:
     store::WorkHistory* m_history;
     QStandardItemModel* m_lines;
     QTableView* m_table = nullptr; ///< of them
-    QListWidget* m_notes;
+    QLabel* m_notes;
     QLabel* m_state;
     QPushButton* m_use;
     QPushButton* m_close;

@@ -7,7 +7,6 @@
 #include "tests/support/LinkFormTest.h"
 
 #include <QDir>
-#include <QListWidget>
 #include <QTableView>
 
 namespace norvane::exchange
@@ -76,7 +75,7 @@ private:
 TEST_F(CompareDialogTest, TakesOverTheChosenRecordsAndListsWhatIsLeft)
 {
     compare([this](CompareDialog& dialog) {
-        auto& table = test::child<QTableView>(dialog, "Differences");
+        auto& table = test::child<QTableView>(dialog, "ComparedLines");
         auto& use = test::child<QPushButton>(dialog, "UseButton");
         EXPECT_EQ(state(dialog), u"2 differences, and 1 in values that travel one way only (in italics)."_s);
         EXPECT_EQ(table.model()->rowCount(), 3);
