@@ -40,6 +40,12 @@ QLabel* labelFor(const QString& text, QWidget& control)
     return label;
 }
 
+QString oneWayInWords(qint64 count)
+{
+    return count == 1 ? u"; 1 value in italics travels one way only"_s
+                      : u"; %1 values in italics travel one way only"_s.arg(count);
+}
+
 QString differences(qint64 count)
 {
     return count == 1 ? u"1 difference"_s : u"%1 differences"_s.arg(count);
@@ -60,6 +66,7 @@ CompareDialog::CompareDialog(std::unique_ptr<RegisterComparison> comparison, Box
     layOut();
     showNotes();
     choiceChanged();
+    m_table->setFocus();
 }
 
 CompareDialog::~CompareDialog() = default;
@@ -175,7 +182,7 @@ void CompareDialog::showFound()
 {
     QString text = m_different == 0 ? u"There are no differences"_s : differences(m_different);
     if (m_oneWay > 0)
-        text += u", and %1 in values that travel one way only (in italics)"_s.arg(m_oneWay);
+        text += oneWayInWords(m_oneWay);
     if (m_different + m_oneWay > mostLines)
         text += u"; the first %1 are listed"_s.arg(mostLines);
     text = m_done.isEmpty() ? text + u'.' : u"%1. %2."_s.arg(m_done, text);

@@ -65,8 +65,7 @@ FrmComm::FrmComm(QString exchangeMode, const ApplicationValues& values, Boxes& b
     buildTickChanged();
     QPushButton* const comparing = addRunButton("CompareButton", "Co&mpare with Register...");
     connect(comparing, &QPushButton::clicked, this, &FrmComm::compare);
-    layOut(content,
-           isUpload() ? QList{CSCmdBtn2, comparing} : QList{CSCmdBtn2, m_tickChanged, comparing});
+    layOut(content, isUpload() ? QList{CSCmdBtn2, comparing} : QList{CSCmdBtn2, m_tickChanged, comparing});
     check1.front()->setFocus();
 }
 

@@ -77,13 +77,13 @@ TEST_F(CompareDialogTest, TakesOverTheChosenRecordsAndListsWhatIsLeft)
     compare([this](CompareDialog& dialog) {
         auto& table = test::child<QTableView>(dialog, "ComparedLines");
         auto& use = test::child<QPushButton>(dialog, "UseButton");
-        EXPECT_EQ(state(dialog), u"2 differences, and 1 in values that travel one way only (in italics)."_s);
+        EXPECT_EQ(state(dialog), u"2 differences; 1 value in italics travels one way only."_s);
         EXPECT_EQ(table.model()->rowCount(), 3);
         EXPECT_FALSE(use.isEnabled());
         table.selectRow(0);
         use.click();
         EXPECT_TRUE(
-            state(dialog).startsWith("Used the register's values of 1 record. 1 difference, and 1 in"_L1));
+            state(dialog).startsWith("Used the register's values of 1 record. 1 difference; 1 value in"_L1));
         EXPECT_EQ(table.model()->index(0, 3).data(), u"NEW"_s);
         EXPECT_FALSE(use.isEnabled());
     });
