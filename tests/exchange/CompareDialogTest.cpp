@@ -3,10 +3,10 @@
 
 #include "exchange/FrmComm.h"
 #include "store/engine/WorkHistory.h"
+#include "tests/exchange/TemporaryPlace.h"
 #include "tests/store/Rows.h"
 #include "tests/support/LinkFormTest.h"
 
-#include <QDir>
 #include <QTableView>
 
 namespace norvane::exchange
@@ -54,6 +54,7 @@ protected:
     }
 
     store::WorkHistory history;
+    test::TemporaryPlace place;
 
 private:
     static void actOnDialog(QTimer& timer, bool& isOpen,
@@ -105,7 +106,7 @@ TEST_F(CompareDialogTest, EndsWithTheFormAndSaysWhyNothingCame)
     pressEscapeSoon();
     compare(nullptr);
     EXPECT_FALSE(form.isVisible());
-    EXPECT_EQ(QDir::temp().entryList({u"norvane-compare-*"_s}, QDir::Dirs), QStringList());
+    EXPECT_EQ(place.scratchFolders(), QStringList());
     EXPECT_EQ(boxes.shown.size(), 1U);
     EXPECT_TRUE(othersMayStart());
 }

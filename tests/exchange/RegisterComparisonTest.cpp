@@ -7,6 +7,7 @@
 #include "platform/ProfileFile.h"
 #include "store/engine/WorkHistory.h"
 #include "tests/exchange/Exchange.h"
+#include "tests/exchange/TemporaryPlace.h"
 
 #include <QDirIterator>
 
@@ -78,12 +79,9 @@ public:
         }
         return files;
     }
-    static QStringList scratchFolders()
-    {
-        return QDir::temp().entryList({u"norvane-compare-*"_s}, QDir::Dirs);
-    }
 
     test::ProgramFolder folder;
+    test::TemporaryPlace place;
     ApplicationValues values;
     test::RecordingBoxes boxes;
     QStringList lines; ///< of the tools
@@ -107,19 +105,6 @@ private:
     }
 
     link::LinkSettings m_link;
-};
-
-/// Where scratch folders are made.
-class TemporaryFolder
-{
-public:
-    explicit TemporaryFolder(const char* path) { qputenv("TMPDIR", path); }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() { qputenv("TMPDIR", m_former); }
-
-private:
-    QByteArray m_former = qgetenv("TMPDIR");
 };
 
 class RegisterComparisonTest : public testing::TestWithParam<int>
@@ -152,7 +137,7 @@ TEST_P(RegisterComparisonTest, ListsNothingAfterAnUploadThenWhatWasEditedThenWha
     const auto before = shop.everyFile();
     shop.lines.clear();
     EXPECT_EQ(shop.listed(), "");
-    EXPECT_EQ(UploadedShop::scratchFolders(), QStringList());
+    EXPECT_EQ(shop.place.scratchFolders(), QStringList());
     EXPECT_EQ(shop.everyFile(), before) << "neither here nor at the register";
     EXPECT_TRUE(shop.lines.contains(u"VELMARCOMM s9 c1  N67.DAT -U 67"_s));
 
@@ -226,9 +211,9 @@ TEST(RegisterComparisonOf, EndsWithAReasonAndLeavesNoFolder)
     EXPECT_EQ(stopped(""),
               "the opening exchange: the program convert wrote no 52.txt. Perhaps the register is of "
               "another model than Setup says");
-    EXPECT_EQ(UploadedShop::scratchFolders(), QStringList());
+    EXPECT_EQ(shop.place.scratchFolders(), QStringList());
     EXPECT_TRUE(shop.boxes.shown.empty());
-    const TemporaryFolder nowhere("/dev/null/nowhere");
+    const test::TemporaryPlace nowhere(u"/dev/null/nowhere"_s);
     EXPECT_EQ(test::failureOf([&] { (void)shop.compare({2}); }), 75);
 }
 
