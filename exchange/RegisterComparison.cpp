@@ -17,7 +17,8 @@
 
 #include <QFileInfo>
 
-#include <deque>
+#include <optional>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "programme/PartWalk.h"
+#include "records/FileProcedures.h"
 #include "records/RecordEcho.h"
 
 #include <QHash>
