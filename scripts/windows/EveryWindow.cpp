@@ -3,7 +3,6 @@
 
 #include "articles/ImportDialog.h"
 #include "articles/PlannedDialog.h"
-#include "exchange/CompareDialog.h"
 #include "exchange/FrmComm.h"
 #include "keys/functions/FrmFunctKey.h"
 #include "keys/layout/copylevel.h"
@@ -132,13 +131,6 @@ constexpr Dialog dialogs[] = {
     {"exchange",
      [](Ground& g, QWidget* p) -> QWidget* {
          return new exchange::FrmComm(u"UPLOAD"_s, g.values, g.shop.boxes(), p);
-     }},
-    {"compare",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         exchange::FetchedFiles fetched{{67, 1}, {4, 11}, u"file 4: result 8: Time Out"_s, false, {}};
-         auto comparison = std::make_unique<exchange::RegisterComparison>(
-             g.values, std::make_unique<exchange::ScratchShop>(g.values), fetched);
-         return new exchange::CompareDialog(std::move(comparison), g.shop.boxes(), nullptr, p);
      }},
     {"keys-velmar",
      [](Ground& g, QWidget* p) -> QWidget* {
