@@ -19,22 +19,6 @@ qint64 recordCount(store::Database& database, const records::RegisterFile& file)
     return database.openTable(QLatin1String(file.table)).recordCount();
 }
 
-Digests linesOf(const ApplicationValues& values, store::Database& database, const records::RegisterFile& file,
-                int generation)
-{
-    Digests lines;
-    LineDigester digester(file.number);
-    const auto width = static_cast<std::size_t>(registerModel(values).messageWidth);
-    records::forEachLine(file, database,
-                         {[width] { return width; },
-                          [generation] {
-                              return generation;
-                          }},
-                         [&](std::string_view line, const auto&) { lines.push_back(digester.next(line)); });
-    std::ranges::sort(lines);
-    return lines;
-}
-
 } // namespace
 
 std::optional<Digests> keptContent(const ApplicationValues& values, int file)
@@ -46,15 +30,38 @@ std::optional<Digests> keptContent(const ApplicationValues& values, int file)
     return Digests{digestOf({bytes.data(), static_cast<std::size_t>(bytes.size())})};
 }
 
+void forEachSendLine(const ApplicationValues& values, store::Database& database, const SendLines& lines,
+                     const std::function<void(std::uint64_t line, const store::Value& key)>& take)
+{
+    const records::RegisterFile& file = *records::registerFile(lines.file);
+    if (recordCount(database, file) == 0)
+        return;
+    LineDigester digester(file.number);
+    const auto width = static_cast<std::size_t>(registerModel(values).messageWidth);
+    const store::Value none;
+    const auto takeLine = [&](std::string_view line, const store::Recordset& record) {
+        take(digester.next(line), lines.keyField.isEmpty() ? none : record.value(lines.keyField));
+    };
+    records::forEachLine(file, database,
+                         {[width] { return width; },
+                          [&lines] {
+                              return lines.generation;
+                          }},
+                         takeLine, lines.keyField);
+}
+
 std::optional<Digests> sendContent(const ApplicationValues& values, store::Database& database, int file,
                                    int generation)
 {
     if (!records::hasExporter(file))
         return keptContent(values, file);
-    const records::RegisterFile& known = *records::registerFile(file);
-    if (recordCount(database, known) == 0)
+    Digests lines;
+    forEachSendLine(values, database, {file, generation},
+                    [&lines](std::uint64_t line, const auto&) { lines.push_back(line); });
+    if (lines.empty())
         return std::nullopt;
-    return linesOf(values, database, known, generation);
+    std::ranges::sort(lines);
+    return lines;
 }
 
 qint64 sendLines(const ApplicationValues& values, store::Database& database, int file)

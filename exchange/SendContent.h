@@ -4,11 +4,25 @@
 #include "base/ApplicationValues.h"
 #include "exchange/LineDigests.h"
 #include "store/engine/Database.h"
+#include "store/engine/Value.h"
 
+#include <functional>
 #include <optional>
 
 namespace norvane::exchange
 {
+
+/// Lines of a file with a table, for a walk over them.
+struct SendLines {
+    int file;
+    int generation;     ///< of the registers' firmware
+    QString keyField{}; ///< of the table; empty for none
+};
+
+/// Gives the digest of each line that a send would make, and the value of the key field; none for an empty
+/// table. @throws RuntimeFailure as sendContent().
+void forEachSendLine(const ApplicationValues& values, store::Database& database, const SendLines& lines,
+                     const std::function<void(std::uint64_t line, const store::Value& key)>& take);
 
 /// The lines that a send would make from the table, or the customer's kept copy of a file without a table.
 /// Reads only. @param generation of the registers' firmware.

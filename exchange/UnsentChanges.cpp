@@ -64,20 +64,19 @@ private:
     int m_registers;
 };
 
-/// Points that were not fetched after their PLUs are those of the registers.
-bool isLeftOut(const DownloadRow& row, const ApplicationValues& values)
-{
-    if (row.box >= firstSmartCardBox && !registerModelByText(values).hasCards)
-        return true;
-    return row.file == pluPointsFile && pluPointsWait(values);
-}
-
 QString counted(qint64 count, const QString& one, const QString& several)
 {
     return count == 1 ? one : several.arg(count);
 }
 
 } // namespace
+
+bool isLeftOut(const DownloadRow& row, const ApplicationValues& values)
+{
+    if (row.box >= firstSmartCardBox && !registerModelByText(values).hasCards)
+        return true;
+    return row.file == pluPointsFile && pluPointsWait(values);
+}
 
 AllChanges unsentChanges(const ApplicationValues& values, const std::function<bool()>& goOn)
 {

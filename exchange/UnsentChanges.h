@@ -3,6 +3,7 @@
 
 #include "base/ApplicationValues.h"
 #include "exchange/ExchangeBoxes.h"
+#include "exchange/ExchangePlan.h"
 
 #include <QString>
 
@@ -34,6 +35,10 @@ using AllChanges = std::array<BoxChanges, boxCount>;
 /// @throws RuntimeFailure if database or settings cannot be read.
 [[nodiscard]] AllChanges unsentChanges(
     const ApplicationValues& values, const std::function<bool()>& goOn = [] { return true; });
+
+/// Whether a file is never unsent: the model does not have it, or the registers' points were not fetched
+/// after their PLUs and so are not those of the table.
+[[nodiscard]] bool isLeftOut(const DownloadRow& row, const ApplicationValues& values);
 
 /// "3 records not sent, some registers may have it"; empty if nothing is unsent.
 [[nodiscard]] QString changesInWords(const BoxChanges& changes);

@@ -14,13 +14,14 @@ namespace norvane::records
 {
 
 /// Takes a line in the register's character set, closed by CR LF. The recordset is on the record that it was
-/// made from, and has read only the fields that lines are made from and the one that the index sorts by.
+/// made from.
 using TakeLine = std::function<void(std::string_view line, const store::Recordset& record)>;
 
 /// Makes a line from each record of the table, in the order of the file's index.
+/// @param alsoRead a field that is read with those that lines are made from; all others show null.
 /// @return the first text with a comma, as RecordWriter::textWithComma().
 /// @throws RuntimeFailure with Failure::NoCurrentRecord if the table is empty, and what RecordWriter throws.
 std::string forEachLine(const RegisterFile& file, store::Database& database, const RegisterTraits& traits,
-                        const TakeLine& take);
+                        const TakeLine& take, const QString& alsoRead = {});
 
 } // namespace norvane::records

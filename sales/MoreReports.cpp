@@ -19,8 +19,8 @@ namespace
 {
 
 /// At the usual font, in pixels.
-constexpr QSize listSize(720, 280);
-constexpr int titleWidth = 220;
+constexpr QSize listSize(620, 260);
+constexpr int titleWidth = 200;
 
 } // namespace
 
