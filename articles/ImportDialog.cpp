@@ -234,10 +234,17 @@ void ImportDialog::importFile()
     }
     if (m_notice.isEmpty())
         return;
+    accept();
+}
+
+/// Columns are remembered also when the user closes the dialog to mend mistakes in the file.
+void ImportDialog::done(int result)
+{
     HeadingMap chosen = m_columns->map();
     erase_if(chosen, [this](const auto& entry) { return m_proposed.value(entry.key()) == entry.value(); });
-    HeadingMemory::ofCustomer(m_order.values.customerPath).keep(chosen, m_file.sheet());
-    accept();
+    if (m_columns->hasNumber())
+        HeadingMemory::ofCustomer(m_order.values.customerPath).keep(chosen, m_file.sheet());
+    QDialog::done(result);
 }
 
 /// @return what was imported or planned; empty after a message if another run uses the customer or no

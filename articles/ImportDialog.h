@@ -52,6 +52,8 @@ public:
     /// After it was accepted: what was imported, for the status bar.
     [[nodiscard]] const QString& notice() const { return m_notice; }
 
+    void done(int result) override;
+
 private:
     void buildColumns();
     [[nodiscard]] QTableView* makeList();

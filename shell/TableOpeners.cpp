@@ -1,6 +1,7 @@
 // See TableOpeners.h.
 #include "shell/TableOpeners.h"
 
+#include "exchange/ChangedRecords.h"
 #include "platform/FailureBox.h"
 #include "screens/OptionForm.h"
 #include "screens/table/TableWindow.h"
@@ -9,6 +10,7 @@
 #include "shell/TableTools.h"
 #include "ui/WaitPointer.h"
 
+#include <QFileInfo>
 #include <QMdiSubWindow>
 
 #include <algorithm>
@@ -48,14 +50,27 @@ void addTable(const TableSurroundings& around, screens::TableWindow* table)
                      });
 }
 
+/// The registers are those of the customer whose database it is, who need not be the chosen one.
+std::vector<store::Value> unsentKeys(ApplicationValues values, const QString& databasePath,
+                                     const screens::TableSource& source)
+{
+    values.databasePath = databasePath;
+    values.customerPath = QFileInfo(databasePath).path();
+    return exchange::changedRecords(values, source.table, source.keyField);
+}
+
 screens::TableWindow* openTable(const TableSurroundings& around, screens::OptionForm& form)
 {
     const ui::WaitPointer wait;
+    screens::TableOrder order{
+        form.screenFile(), form.databasePath(),
+        form.caption(),    [&form](const QString& field) { return form.labelOf(field); },
+        around.history,    makeTableTools(around, form)};
+    order.unsentKeys = [&values = around.values, path = form.databasePath()](const auto& source) {
+        return unsentKeys(values, path, source);
+    };
     auto* const table =
-        new screens::TableWindow({form.screenFile(), form.databasePath(), form.caption(),
-                                  [&form](const QString& field) { return form.labelOf(field); },
-                                  around.history, makeTableTools(around, form)},
-                                 around.values, around.boxes, screens::ColumnMemory::ofThisUser());
+        new screens::TableWindow(order, around.values, around.boxes, screens::ColumnMemory::ofThisUser());
     addTable(around, table);
     return table;
 }

@@ -5,6 +5,9 @@
 #include "store/catalogue/SalesTables.h"
 #include "store/engine/QuotedName.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::screens
@@ -84,6 +87,20 @@ QVector<ColumnChoices> choicesOf(const store::Database& database, const TableSou
             all += choices;
     }
     return all;
+}
+
+ColumnChoices choiceOfUnsent(const TableSource& source, std::function<std::vector<store::Value>()> keys)
+{
+    const std::string sql = store::quotedName(source.keyField) + " IN (SELECT value FROM json_each(?))";
+    return {u"Registers"_s, {{u"changed since the last download"_s, sql, {}, std::move(keys)}}};
+}
+
+store::Value keysAsJson(const std::vector<store::Value>& keys)
+{
+    QJsonArray list;
+    for (const store::Value& key : keys)
+        list.append(key.isText() ? QJsonValue(key.toText()) : QJsonValue(key.toNumber()));
+    return store::Value::text(QString::fromUtf8(QJsonDocument(list).toJson(QJsonDocument::Compact)));
 }
 
 } // namespace norvane::screens

@@ -4,6 +4,7 @@
 #include "screens/table/TableColumns.h"
 #include "store/engine/Value.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,8 @@ struct TableChoice {
     QString caption; ///< within its column: "3 Drinks", "has a price"
     std::string sql; ///< a question mark for each of the values
     std::vector<store::Value> values;
+    /// Keys that are looked up when the choice is made; their list, in JSON, is a further question mark.
+    std::function<std::vector<store::Value>()> keys = {};
 };
 
 /// The choices of one column.
@@ -27,5 +30,13 @@ struct ColumnChoices {
 /// whether they are on a key, and whether they were sold in the last 90 days before @p today.
 [[nodiscard]] QVector<ColumnChoices> choicesOf(const store::Database& database, const TableSource& source,
                                                QDate today);
+
+/// The choice of the records that the registers do not have as they are here.
+/// @param keys of these records, as they are when the choice is made
+[[nodiscard]] ColumnChoices choiceOfUnsent(const TableSource& source,
+                                           std::function<std::vector<store::Value>()> keys);
+
+/// A list of keys for SQL's json_each().
+[[nodiscard]] store::Value keysAsJson(const std::vector<store::Value>& keys);
 
 } // namespace norvane::screens

@@ -117,6 +117,8 @@ void TableRows::readChosen()
     for (const TableChoice& choice : m_choices) {
         sql += " AND (" + choice.sql + ")";
         values.insert(values.end(), choice.values.begin(), choice.values.end());
+        if (choice.keys)
+            values.push_back(keysAsJson(choice.keys()));
     }
     store::BoundQuery rows(*m_database, sql, values, m_source.table);
     while (rows.next()) {

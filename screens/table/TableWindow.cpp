@@ -46,6 +46,15 @@ QString titleOf(QString caption)
     return u"Table of "_s + caption;
 }
 
+QVector<ColumnChoices> allChoices(const TableOrder& order, const store::Database& database,
+                                  const TableSource& source)
+{
+    auto all = choicesOf(database, source, QDate::currentDate());
+    if (order.unsentKeys)
+        all.prepend(choiceOfUnsent(source, [look = order.unsentKeys, source] { return look(source); }));
+    return all;
+}
+
 } // namespace
 
 TableWindow::TableWindow(const TableOrder& order, const ApplicationValues& values, Boxes& boxes,
@@ -55,7 +64,7 @@ TableWindow::TableWindow(const TableOrder& order, const ApplicationValues& value
       m_history(order.history), m_database(std::make_shared<store::Database>(order.databasePath)),
       m_model(new TableModel(
           m_database, tableSource(*m_database, ScreenReader(order.screenFile), values, order.labelOf), this)),
-      m_choices(new ChoiceBar(choicesOf(*m_database, m_model->rows().source(), QDate::currentDate()), this)),
+      m_choices(new ChoiceBar(allChoices(order, *m_database, m_model->rows().source()), this)),
       m_view(new TableGrid(*m_model, this)), m_pending(new PendingPanel(*m_model, this)),
       m_count(new QLabel(this))
 {

@@ -43,6 +43,8 @@ struct TableOrder {
     std::function<QString(const QString& field)> labelOf;
     std::shared_ptr<store::WorkHistory> history = {}; ///< for undoing what was saved
     TableTools tools = {};                            ///< of the menu "More", which is not shown without one
+    /// The keys of the records that the registers do not have as they are here.
+    std::function<std::vector<store::Value>(const TableSource& source)> unsentKeys = {};
 };
 
 /// Shows all records in the columns of their screen, sorted by a click on a heading and filtered by a text

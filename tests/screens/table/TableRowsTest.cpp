@@ -77,6 +77,20 @@ TEST_F(TableRowsTest, SortsNumbersByValueAndTextsInAnyCase)
     EXPECT_EQ(shown(), "Lager|Coke Zero|Café|cake");
 }
 
+TEST_F(TableRowsTest, KeysOfAChoiceAreLookedUpWhenItIsMade)
+{
+    const int key = column("PLUNUMBER");
+    std::vector<store::Value> unsent{m_rows.value(1, key), m_rows.value(3, key)};
+    m_rows.setChoices({choiceOfUnsent(m_rows.source(), [&unsent] { return unsent; }).choices.front()});
+    EXPECT_EQ(shown("PLUNUMBER"), "9|1001");
+    unsent.pop_back();
+    m_rows.reload();
+    EXPECT_EQ(shown("PLUNUMBER"), "9");
+    unsent.clear();
+    m_rows.reload();
+    EXPECT_EQ(shown("PLUNUMBER"), "");
+}
+
 TEST_F(TableRowsTest, AFilterLooksIntoAllColumnsAndKeepsTheOrder)
 {
     m_rows.sortBy(column("PRICE1"), Qt::DescendingOrder);
