@@ -13,7 +13,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::store
 {
 
-Connection::Connection(const QString& path) : m_path(existingPath(path)), m_sqlite(openDatabaseFile(m_path))
+Connection::Connection(const QString& path, IfLocked ifLocked)
+    : m_path(existingPath(path)),
+      m_sqlite(openDatabaseFile(m_path, ifLocked == IfLocked::Wait ? busyMilliseconds : 0))
 {
 }
 

@@ -16,7 +16,7 @@ namespace norvane::store
 class Connection
 {
 public:
-    explicit Connection(const QString& path);
+    Connection(const QString& path, IfLocked ifLocked);
 
     [[nodiscard]] sqlite3* handle() const { return m_sqlite.getHandle(); }
     [[nodiscard]] const QString& path() const { return m_path; }

@@ -54,7 +54,10 @@ Connection& connectionOf(Database& database)
     return *database.m_connection;
 }
 
-Database::Database(const QString& path) : m_connection(std::make_unique<Connection>(path)) {}
+Database::Database(const QString& path, IfLocked ifLocked)
+    : m_connection(std::make_unique<Connection>(path, ifLocked))
+{
+}
 Database::~Database() = default;
 
 void Database::create(const QString& path, const QVector<TableDefinition>& tables)

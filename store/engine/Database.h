@@ -17,6 +17,12 @@ class Recordset;
 /// The version of the engine, such as "3.40.1".
 [[nodiscard]] QString engineVersion();
 
+/// What happens when another program holds the file.
+enum class IfLocked {
+    Wait, ///< until it is free, for some seconds
+    Fail  ///< at once, with Failure::DatabaseLocked
+};
+
 /// An open database. Names of tables, fields and indexes match without regard to case. Not shared between
 /// threads. Open recordsets must be destroyed before it.
 class Database
@@ -24,8 +30,8 @@ class Database
 public:
     /// Opens an existing file without writing to it. @throws RuntimeFailure with Failure::FileNotFound when
     /// it is missing, Failure::NotOurDatabase if it is not a database of this program, is damaged or belongs
-    /// to the former engine, Failure::PathOrFileAccess when it cannot be read.
-    explicit Database(const QString& path);
+    /// to the former engine, Failure::PathOrFileAccess when it cannot be read, Failure::DatabaseLocked.
+    explicit Database(const QString& path, IfLocked ifLocked = IfLocked::Wait);
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;

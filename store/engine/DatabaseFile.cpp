@@ -117,12 +117,12 @@ void stopCountingMemory()
     Q_UNUSED(result)
 }
 
-SQLite::Database openEngine(const QString& path, int flags)
+SQLite::Database openEngine(const QString& path, int flags, int wait = busyMilliseconds)
 {
     stopCountingMemory();
     try {
         // An absolute path is never taken for a web-like address.
-        return SQLite::Database(QFileInfo(path).absoluteFilePath().toStdString(), flags, busyMilliseconds);
+        return SQLite::Database(QFileInfo(path).absoluteFilePath().toStdString(), flags, wait);
     } catch (const SQLite::Exception& failure) {
         throw RuntimeFailure(Failure::PathOrFileAccess, u"Path/File access error: %1 (%2)"_s.arg(
                                                             shown(path), QString::fromUtf8(failure.what())));
@@ -156,21 +156,21 @@ void putInPlace(const QString& from, const QString& to)
 
 } // namespace
 
-SQLite::Database openUnreadDatabaseFile(const QString& path)
+SQLite::Database openUnreadDatabaseFile(const QString& path, int wait)
 {
     if (!QFileInfo::exists(path))
         throw RuntimeFailure(Failure::FileNotFound, u"File not found: %1"_s.arg(shown(path)));
     // A connection is never shared between threads, so the engine need not lock itself at every call; that is
     // a fifth of the time of an import.
-    auto database = openEngine(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
+    auto database = openEngine(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, wait);
     checkHeader(database.getHandle(), path);
     prepareConnection(database, path);
     return database;
 }
 
-SQLite::Database openDatabaseFile(const QString& path)
+SQLite::Database openDatabaseFile(const QString& path, int wait)
 {
-    auto database = openUnreadDatabaseFile(path);
+    auto database = openUnreadDatabaseFile(path, wait);
     // The first look at the tables finds a file that was cut short or is damaged at its root.
     run(database.getHandle(), "SELECT 1 FROM norvane_field LIMIT 1", path);
     return database;
