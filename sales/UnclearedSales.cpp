@@ -49,12 +49,16 @@ std::optional<LastCollection> unclearedCollection(const ApplicationValues& value
     LastCollection last = readLastCollection(values);
     if (!last.uncleared)
         return std::nullopt;
-    if (!isOtherCustomers(values)) {
-        store::Database database(values.databasePath);
-        if (!isStillStored(last, database))
-            return std::nullopt;
-    }
-    return last;
+    if (isOtherCustomers(values))
+        return last;
+    store::Database database(values.databasePath);
+    return unclearedCollection(values, database);
+}
+
+std::optional<LastCollection> unclearedCollection(const ApplicationValues& values, store::Database& database)
+{
+    LastCollection last = readLastCollection(values);
+    return last.uncleared && isStillStored(last, database) ? std::optional(std::move(last)) : std::nullopt;
 }
 
 bool mayBeCleared(const std::optional<LastCollection>& collection)

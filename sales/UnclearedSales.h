@@ -10,6 +10,9 @@ namespace norvane::sales
 /// tables no longer hold its sales: these are to be stored again.
 /// @throws RuntimeFailure what opening the database throws.
 [[nodiscard]] std::optional<LastCollection> unclearedCollection(const ApplicationValues& values);
+/// The same for the customer's own database, which is open already.
+[[nodiscard]] std::optional<LastCollection> unclearedCollection(const ApplicationValues& values,
+                                                                store::Database& database);
 
 /// Whether a clear loses nothing: everything that the registers would clear is stored.
 [[nodiscard]] bool mayBeCleared(const std::optional<LastCollection>& collection);

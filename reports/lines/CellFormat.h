@@ -25,12 +25,6 @@ enum class FormatKind {
     Words ///< a word for each number
 };
 
-/// How money is shown at a shop.
-struct MoneyFormat {
-    int decimals = 2;
-    QString currency; ///< sign before the number; empty for none
-};
-
 /// How a cell shows its value.
 struct CellFormat {
     FormatKind kind = FormatKind::Text;

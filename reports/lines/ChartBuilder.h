@@ -1,6 +1,7 @@
 // Collects the points of a report's charts.
 #pragma once
 
+#include "reports/lines/MoneyFormat.h"
 #include "reports/lines/ReportLayout.h"
 #include "reports/lines/TextTemplate.h"
 

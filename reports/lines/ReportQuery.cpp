@@ -2,7 +2,6 @@
 #include "reports/lines/ReportQuery.h"
 
 #include "platform/RuntimeFailure.h"
-#include "platform/Windows1252.h"
 #include "reports/lines/LineStatement.h"
 #include "store/catalogue/Catalogue.h"
 #include "store/engine/BoundQuery.h"
@@ -14,14 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::reports
 {
-namespace
-{
-
-constexpr int usualDecimals = 2;
-constexpr int mostMoneyDecimals = 3;
-
-} // namespace
-
 ReportQuery::ReportQuery(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing)
     : m_layout(layout), m_keepGoing(keepGoing), m_showStep(request.showStep), m_dataFile(request.dataFile),
       m_database(request.dataFile)
@@ -124,36 +115,6 @@ std::optional<SalesDays> ReportQuery::salesDays(const Period& period)
     if (period.isOpen())
         return std::nullopt;
     return reports::salesDays(m_database, period, m_today, m_keepGoing);
-}
-
-/// The field in the first record of a table of settings; null if there is none.
-store::Value ReportQuery::setting(const QString& table, const QString& field)
-{
-    if (!m_database.hasTable(table))
-        return {};
-    store::BoundQuery query(
-        m_database, u"SELECT \"%1\" FROM \"%2\" ORDER BY ID LIMIT 1"_s.arg(field, table).toStdString(), {},
-        m_dataFile);
-    return query.next() ? query.value(0) : store::Value();
-}
-
-/// The registers keep the sign as the code of a character.
-QString ReportQuery::currencySign()
-{
-    constexpr double lowest = 33;
-    constexpr double highest = 255;
-    const double code = setting(u"GENERALPRINTOPTION"_s, u"HOMESYMBOL"_s).toNumber();
-    if (code < lowest || code > highest)
-        return {};
-    return fromWindows1252(QByteArray(1, static_cast<char>(static_cast<int>(code))));
-}
-
-MoneyFormat ReportQuery::moneyFormat()
-{
-    const store::Value places = setting(u"smode"_s, u"DECIMALPlace"_s);
-    const double decimals = places.isNull() ? usualDecimals : places.toNumber();
-    const bool isUsual = decimals < 0 || decimals > mostMoneyDecimals;
-    return {isUsual ? usualDecimals : static_cast<int>(decimals), currencySign()};
 }
 
 void ReportQuery::readNames(const MoneyFormat& money)

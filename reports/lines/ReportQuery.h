@@ -1,6 +1,7 @@
 // Runs the statements of one report on the customer's database.
 #pragma once
 
+#include "reports/lines/MoneyFormat.h"
 #include "reports/lines/ReportLayout.h"
 #include "reports/lines/ReportRun.h"
 #include "reports/lines/SalesDays.h"
@@ -29,16 +30,14 @@ public:
     void run(const LineSource& source, const std::function<void(const LineFields&)>& take);
     /// See SalesDays; nothing for a report over a table without sales too.
     [[nodiscard]] std::optional<SalesDays> salesDays(const Period& period);
-    /// How this shop shows money: with two decimal places and no currency sign if its settings have none.
-    [[nodiscard]] MoneyFormat moneyFormat();
+    /// See moneyFormatOf().
+    [[nodiscard]] MoneyFormat moneyFormat() { return moneyFormatOf(m_database); }
     /// Fills the lists of names that the layout looks up.
     /// @param money for names that are amounts.
     void readNames(const MoneyFormat& money);
 
 private:
     void checkTables() const;
-    [[nodiscard]] store::Value setting(const QString& table, const QString& field);
-    [[nodiscard]] QString currencySign();
     void readList(NameList& list, const MoneyFormat& money);
     [[nodiscard]] std::string monthRows(const LineSource& source);
     void addUpMissing(store::MonthTotals& totals, const store::DayRange& days);

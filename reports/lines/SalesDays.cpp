@@ -42,7 +42,8 @@ void collectDays(store::Database& database, const char* table, const Period& per
         days.insert(query.value(0).toDate());
 }
 
-/// Also the last day before the period, or else the first of all.
+} // namespace
+
 std::set<QDate> daysWithLast(store::Database& database, const Period& period,
                              const std::function<bool()>& keepGoing)
 {
@@ -51,8 +52,6 @@ std::set<QDate> daysWithLast(store::Database& database, const Period& period,
         collectDays(database, table, period, keepGoing, days);
     return days;
 }
-
-} // namespace
 
 std::set<QDate> collectedDays(store::Database& database, const Period& period,
                               const std::function<bool()>& keepGoing)

@@ -19,6 +19,12 @@ struct SalesDays {
     int uncollected = 0; ///< days from first to last without a row in any table of sales
 };
 
+/// The days of @p period with a row in any table of sales, and the last such day before it, or else the first
+/// of all up to its end.
+/// @param period not open. @throws RuntimeFailure what the database reports.
+[[nodiscard]] std::set<QDate> daysWithLast(store::Database& database, const Period& period,
+                                           const std::function<bool()>& keepGoing = {});
+
 /// The days of @p period, which is not open, with a row in any table of sales.
 /// @throws RuntimeFailure what the database reports.
 [[nodiscard]] std::set<QDate> collectedDays(store::Database& database, const Period& period,
