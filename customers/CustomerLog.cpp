@@ -70,6 +70,34 @@ std::optional<LogLine> lastIn(const QByteArray& lines, const QStringList& works,
     return std::nullopt;
 }
 
+/// The lines of @p text that began at @p since or later, in their order.
+QList<LogLine> linesSince(const QByteArray& text, const QDateTime& since)
+{
+    QList<LogLine> lines;
+    for (const QByteArray& each : text.split('\n')) {
+        if (LogLine line = lineOf(each); line.begun.isValid() && line.begun >= since)
+            lines.append(std::move(line));
+    }
+    return lines;
+}
+
+/// @throws RuntimeFailure with Failure::PathOrFileAccess.
+QList<LogLine> loggedSince(const QString& customerPath, const QDateTime& since)
+{
+    QFile log(logPath(customerPath));
+    if (!log.exists())
+        return {};
+    if (!log.open(QIODevice::ReadOnly)) {
+        throw RuntimeFailure(Failure::PathOrFileAccess,
+                             u"Path/File access error: %1 (%2)"_s.arg(log.fileName(), log.errorString()));
+    }
+    const QByteArray end = endOf(log, fewBytes);
+    const bool isWhole = log.size() <= fewBytes;
+    const QDateTime first = lineOf(end.left(end.indexOf('\n'))).begun;
+    const bool reachesBack = isWhole || (first.isValid() && first < since);
+    return linesSince(reachesBack ? end : endOf(log, log.size()), since);
+}
+
 void dropOlderHalf(const QString& path)
 {
     QFile log(path);
@@ -113,6 +141,25 @@ QStringList lastLogLines(const QString& customerPath, int count)
         return {};
     const QStringList lines = QString::fromUtf8(endOf(log, fewBytes)).split(u'\n', Qt::SkipEmptyParts);
     return lines.mid(std::max(qsizetype{0}, lines.size() - count));
+}
+
+bool wentWrong(const LogLine& line)
+{
+    static const QStringList mustBeComplete{u"upload"_s, u"download"_s, u"collection"_s};
+    return mustBeComplete.contains(line.work)
+               ? line.result != completeResult
+               : line.result.startsWith(u"ended by "_s) || line.result.startsWith(u"stopped "_s);
+}
+
+QList<LogLine> openTroubles(const QString& customerPath, const QDateTime& since)
+{
+    QList<LogLine> latest;
+    for (LogLine& line : loggedSince(customerPath, since)) {
+        latest.removeIf([&line](const LogLine& earlier) { return earlier.work == line.work; });
+        latest.append(std::move(line));
+    }
+    latest.removeIf([](const LogLine& line) { return !wentWrong(line); });
+    return latest;
 }
 
 LoggedWork::LoggedWork(QString customerPath, const QString& work, const QString& registers,

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QElapsedTimer>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -37,6 +38,15 @@ inline constexpr QLatin1StringView completeResult("complete");
 
 /// The last @p count lines of the log as they are in the file, or all that it has; empty without a log.
 [[nodiscard]] QStringList lastLogLines(const QString& customerPath, int count);
+
+/// Whether @p line is of work that did not do all that it should: an exchange or a collection that is not
+/// complete, or any work that a failure or a signal ended.
+[[nodiscard]] bool wentWrong(const LogLine& line);
+
+/// What went wrong since @p since and was not done since then: of each work the latest line, if that went
+/// wrong. The earliest first; empty without a log.
+/// @throws RuntimeFailure with Failure::PathOrFileAccess for a log that cannot be read.
+[[nodiscard]] QList<LogLine> openTroubles(const QString& customerPath, const QDateTime& since);
 
 /// Work in progress. It is logged when this ends, as failed unless a result was set before.
 class LoggedWork

@@ -40,6 +40,28 @@ TEST(CustomerLog, HasALineForEachJobAlsoForOneThatFailed)
     EXPECT_FALSE(lastLogged(folder.path(), {u"upload"_s}, completeResult));
 }
 
+TEST(CustomerLog, TellsWhatWentWrongAndWasNotRepeated)
+{
+    const test::TestFolder folder;
+    EXPECT_TRUE(openTroubles(folder.path(), {}).isEmpty()) << "without a log";
+    const QByteArray old = "2026-11-20 08:00:00\tdownload\t\tstopped\t0.1 s\n";
+    folder.write("norvane.log", old.repeated(1000) +
+                                    "2026-11-25 13:00:00\tcollection\t\tstopped; nothing stored\t0.1 s\n"
+                                    "2026-11-25 13:01:00\tupload\t\tcomplete\t0.1 s\n"
+                                    "2026-11-25 14:00:00\tcollection\t\tcomplete\t0.1 s\n"
+                                    "2026-11-25 15:00:00\tpublication\t\t2 days, 9 rows\t0.1 s\n"
+                                    "2026-11-25 16:00:00\trestore\t\tended by a failure\t0.1 s\n"
+                                    "2026-11-25 17:00:00\tupload\t\tThe disk is full\t0.1 s\n");
+    const auto open = [&](QDate day) {
+        QStringList works;
+        for (const LogLine& line : openTroubles(folder.path(), day.startOfDay()))
+            works << line.work;
+        return works.join(u' ').toStdString();
+    };
+    EXPECT_EQ(open(QDate(2026, 11, 25)), "restore upload");
+    EXPECT_EQ(open(QDate(2026, 11, 19)), "download restore upload") << "beyond the last lines";
+}
+
 TEST(CustomerLog, LosesItsOlderHalfBeyondAMegabyte)
 {
     const test::TestFolder folder;
