@@ -120,6 +120,7 @@ bool LinkForm::runAs(const std::function<void()>& work)
         const auto ended = qScopeGuard([&] { leavesNow = endRun(); });
         work();
     }
+    Q_EMIT runEnded();
     if (leavesNow)
         leave();
     return !leavesNow && !m_exitPressed;

@@ -56,6 +56,10 @@ public Q_SLOTS:
     /// immediately.
     void reject() override;
 
+Q_SIGNALS:
+    /// A run has ended, however it ended; it may have changed any table.
+    void runEnded();
+
 protected:
     /// @p name becomes the form's object name, @p runCaption is the caption of the button Communicate.
     LinkForm(const char* name, const char* runCaption, const ApplicationValues& values, Boxes& boxes,

@@ -2,9 +2,11 @@
 #include "shell/FrameOpeners.h"
 
 #include "platform/FailureBox.h"
+#include "shell/CopiesDialog.h"
 #include "shell/frmAbout.h"
 #include "shell/FrmCustomer.h"
 #include "shell/FrmSetup.h"
+#include "shell/frmSysInfo.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -56,6 +58,12 @@ FrmMain::FormOpeners makeFrameOpeners(ApplicationValues& values, Boxes& boxes)
     });
     openers.insert(u"frmAbout"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
         main.showShared(u"frmAbout"_s, [&] { return new frmAbout(values, boxes, main.statusBar1()); });
+    });
+    openers.insert(u"CopiesDialog"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
+        CopiesDialog(values.appPath, values.customerName, boxes, &main).exec();
+    });
+    openers.insert(u"frmSysInfo"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
+        showSystemInfo(values, boxes, &main);
     });
     openers.insert(u"FrmCustomer"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
         changeCustomer(main, values, boxes);

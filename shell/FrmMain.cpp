@@ -254,6 +254,7 @@ void FrmMain::showCustomer()
 {
     StatusBar1->setStatusText(u"Customer Database "_s + m_values.customerName);
     showDataInUse();
+    Q_EMIT customerShown();
 }
 
 void FrmMain::showDataInUse()

@@ -56,6 +56,10 @@ public:
     void showShared(const QString& name, const std::function<QWidget*()>& make,
                     FormSize size = FormSize::Fixed);
     void bringToFront(const QWidget& form);
+    /// Where the child windows are.
+    [[nodiscard]] QMdiArea& area() { return *m_area; }
+    /// Opens what @p entry is for, as the menu does; it need not be in the menu.
+    void choose(const MenuEntry& entry);
     /// Closes the window and its child windows without asking.
     void unload();
 
@@ -66,8 +70,10 @@ public:
 Q_SIGNALS:
     /// The window was closed; the program ends.
     void unloaded();
-    /// A menu entry has done its work, which may have changed any table.
+    /// A menu entry or a run has done its work, which may have changed any table.
     void entryDone();
+    /// The status bar names another customer.
+    void customerShown();
 
 protected:
     /// Asks first, however the user closes the window.
@@ -81,7 +87,6 @@ private:
     void placeOnScreen();
     void takeMenuKey();
     void takeUndoKey();
-    void choose(const MenuEntry& entry);
     void open(const MenuEntry& entry);
     void openScreen(const MenuEntry& entry);
     void openForm(const MenuEntry& entry);

@@ -14,6 +14,7 @@ namespace
 
 constexpr HelpTopic topics[] = {
     {"FrmMain"_L1, "user-guide"_L1},
+    {"OverviewPanel"_L1, "the-overview"_L1},
     {"FrmCustomer"_L1, "choosing-a-customer"_L1},
     {"NewShopDialog"_L1, "a-new-shop"_L1},
     {"CopiesDialog"_L1, "safety-copies-and-the-log"_L1},

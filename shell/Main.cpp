@@ -5,6 +5,7 @@
 #include "shell/FrmMain.h"
 #include "shell/HelpKey.h"
 #include "shell/Openers.h"
+#include "shell/Overview.h"
 #include "shell/Program.h"
 #include "shell/StartSequence.h"
 #include "ui/Appearance.h"
@@ -29,6 +30,7 @@ int runProgram(Boxes& boxes)
     }
     const shell::HelpKey help(existingPath(joinPath(values.appPath, u"user-guide.html"_s)), boxes);
     shell::FrmMain mainWindow(values, boxes, shell::makeOpeners(values, boxes));
+    new shell::Overview(mainWindow, values, shell::OverviewMemory::ofThisUser());
     QObject::connect(&mainWindow, &shell::FrmMain::unloaded, qApp, [] { QCoreApplication::exit(0); });
     if (!shell::StartSequence(values, boxes, mainWindow, shell::machineSecondsSinceMidnight).run())
         return 0;

@@ -47,12 +47,14 @@ void openExchange(FrmMain& main, const MenuEntry& entry, const ApplicationValues
     dialog.exec();
 }
 
-/// The user can end the program while the modem dials. The form must hang up then, as its own exit does.
+/// The user can end the program while the modem dials. The form must hang up then, as its own exit does. It
+/// remains open after a run.
 void openCollection(FrmMain& main, const ApplicationValues& values, Boxes& boxes)
 {
     main.showShared(u"FrmsalesComm"_s, [&] {
         auto* const form = new sales::FrmsalesComm(values, boxes);
         QObject::connect(&main, &FrmMain::unloaded, form, &QDialog::reject);
+        QObject::connect(form, &sales::FrmsalesComm::runEnded, &main, &FrmMain::entryDone);
         return form;
     });
 }

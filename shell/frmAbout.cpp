@@ -3,14 +3,12 @@
 
 #include "shell/AboutLabels.h"
 #include "shell/frmSysInfo.h"
-#include "shell/SystemReport.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPrinterInfo>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -85,20 +83,8 @@ QLayout* frmAbout::makeButtons()
     QPushButton* const cmdSysInfo = ui::makeButton(u"cmdSysInfo"_s, u"&System Info..."_s, this);
     setKeys(cmdOK, cmdOK);
     connect(cmdOK, &QPushButton::clicked, this, &QWidget::close);
-    connect(cmdSysInfo, &QPushButton::clicked, this, &frmAbout::startSysInfo);
+    connect(cmdSysInfo, &QPushButton::clicked, this, [this] { showSystemInfo(m_values, m_boxes, this); });
     return ui::makeButtonRow({cmdOK, cmdSysInfo});
-}
-
-void frmAbout::startSysInfo()
-{
-    const QString report = systemReport(m_values, QPrinterInfo::availablePrinterNames());
-    if (report.isEmpty()) {
-        m_boxes.message(u"System Information Is Unavailable At This Time"_s);
-        return;
-    }
-    auto* const window = new frmSysInfo(report, this);
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->open();
 }
 
 } // namespace norvane::shell

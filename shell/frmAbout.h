@@ -21,7 +21,6 @@ public:
 private:
     void layOut();
     [[nodiscard]] QLayout* makeButtons();
-    void startSysInfo();
 
     const ApplicationValues& m_values;
     Boxes& m_boxes;

@@ -1,6 +1,7 @@
 // See frmSysInfo.h.
 #include "shell/frmSysInfo.h"
 
+#include "shell/SystemReport.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
@@ -8,6 +9,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
+#include <QPrinterInfo>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -44,6 +46,18 @@ frmSysInfo::frmSysInfo(const QString& report, QWidget* parent) : QDialog(parent)
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::controlGap);
     column->addWidget(text);
     column->addLayout(ui::makeButtonRow({copy, done}));
+}
+
+void showSystemInfo(const ApplicationValues& values, Boxes& boxes, QWidget* parent)
+{
+    const QString report = systemReport(values, QPrinterInfo::availablePrinterNames());
+    if (report.isEmpty()) {
+        boxes.message(u"System Information Is Unavailable At This Time"_s);
+        return;
+    }
+    auto* const window = new frmSysInfo(report, parent);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->open();
 }
 
 } // namespace norvane::shell

@@ -1,6 +1,9 @@
 // The window with what a dealer's support asks for.
 #pragma once
 
+#include "base/ApplicationValues.h"
+#include "platform/Boxes.h"
+
 #include <QDialog>
 
 namespace norvane::shell
@@ -14,5 +17,9 @@ class frmSysInfo : public QDialog
 public:
     frmSysInfo(const QString& report, QWidget* parent);
 };
+
+/// Opens it in front of @p parent, without waiting until it is closed; a box says when there is nothing to
+/// show.
+void showSystemInfo(const ApplicationValues& values, Boxes& boxes, QWidget* parent);
 
 } // namespace norvane::shell
