@@ -244,7 +244,6 @@ void show(QWidget& window)
 
 void lookAtMenus(shell::FrmMain& frame, const Look& look)
 {
-    look(u"main"_s, frame);
     for (QMenu* const menu : frame.findChildren<QMenu*>()) {
         menu->popup({});
         look(u"menu-"_s + menu->objectName(), *menu);
@@ -386,6 +385,7 @@ void lookAtEveryWindow(const Look& look)
         FilledShop shop(model);
         lookAtScreens(shop, seen, look);
         if (model == modelOrder[0]) {
+            lookAtOverview(shop, look);
             lookAtMenus(shop.frame(), look);
             lookAtFormsInFrame(shop, look);
             lookAtDialogs(shop, dialogs, look);
