@@ -1,40 +1,14 @@
 // The windows as tables, by how they open; see EveryWindow.h.
 #include "scripts/windows/EveryWindow.h"
 
-#include "articles/ImportDialog.h"
-#include "articles/PlannedDialog.h"
-#include "exchange/FrmComm.h"
-#include "keys/functions/FrmFunctKey.h"
-#include "keys/layout/copylevel.h"
-#include "keys/layout/KeyLayout.h"
-#include "keys/lookups/frmwlu.h"
-#include "overlay/CorrectionForm.h"
-#include "overlay/OverlayForm.h"
-#include "overlay/OverlayPreview.h"
-#include "overlay/PrinterSetup.h"
-#include "overlay/SystemDialogs.h"
-#include "platform/FilePaths.h"
-#include "platform/ProfileFile.h"
-#include "programme/CopyToShopsDialog.h"
 #include "reports/window/Report.h"
-#include "sales/Frmreports.h"
-#include "sales/MoreReports.h"
+#include "scripts/windows/EveryDialog.h"
 #include "scripts/windows/FilledShop.h"
-#include "shell/CopiesDialog.h"
-#include "shell/CopyMenu.h"
-#include "shell/FrmCustomer.h"
-#include "shell/frmSplash.h"
-#include "shell/frmSysInfo.h"
-#include "shell/NewShopDialog.h"
-#include "shell/SystemReport.h"
-#include "store/engine/Database.h"
 #include "ui/FrmSearch.h"
 #include "ui/MessageBoxes.h"
 
 #include <QtTest>
 #include <QtWidgets>
-
-#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -42,160 +16,6 @@ namespace norvane::windows
 {
 namespace
 {
-
-/// What a dialog is made with. Names are as long as users give them.
-struct Ground {
-    explicit Ground(FilledShop& filled) : shop(filled) {}
-
-    FilledShop& shop;
-    ApplicationValues values = shop.values();
-    overlay::SystemDialogs dialogs;
-    overlay::PrinterInUse printer;
-    store::Database database = store::Database(values.databasePath);
-    overlay::Document document = overlay::Document(overlay::Keyboard::Velmar);
-    paper::PrinterCorrections corrections = paper::PrinterCorrections(shop.folder().appFile(u"none.ini"_s));
-};
-
-struct Dialog {
-    const char* name;
-    QWidget* (*make)(Ground& ground, QWidget* parent);
-};
-
-QWidget* designer(overlay::Keyboard keyboard, Ground& ground, QWidget* parent)
-{
-    auto* const form = new overlay::OverlayForm(keyboard, ground.values, ground.shop.boxes(), ground.dialogs,
-                                                ground.printer, parent);
-    if (auto* const import = form->findChild<QAction*>(u"ImportLevel1"_s))
-        import->trigger();
-    return form;
-}
-
-QWidget* preview(Ground& ground, QWidget* parent)
-{
-    const paper::Sheet portrait{QPageLayout::Portrait};
-    return new overlay::OverlayPreview(ground.document, {u"Office on the first floor"_s, portrait, {}}, {},
-                                       ground.corrections, ground.shop.boxes(), parent);
-}
-
-/// A file with changes, mistakes, and a heading that is nobody's.
-QWidget* importOfFile(Ground& ground, QWidget* parent)
-{
-    const QByteArray text = "Number;Description;Price 1;Remarks of the wholesaler\n"
-                            "1;Another text;2,50;a\n2;A text that is too long;2,50;b\n4711;New;x;c\n";
-    return new articles::ImportDialog({ground.values, articles::pluSheet(), {}, u"wholesaler.csv"_s, {text}},
-                                      ground.shop.boxes(), parent);
-}
-
-/// A list, a cancelled one and a damaged one.
-QWidget* plannedChanges(Ground& ground, QWidget* parent)
-{
-    const QString& folder = ground.values.customerPath;
-    const articles::PlannedRecord record{u"4711"_s, true, {{u"Description"_s, {}, u"New article"_s}}};
-    for (const int month : {1, 2, 3})
-        (void)articles::addPlannedList(folder, {{2027, month, 1}, u"PLUDATA"_s, {}, {}, {}, {record}});
-    articles::cancelPlannedList(folder, articles::plannedFiles(folder)[1]);
-    writeWholeFile(articles::plannedFiles(folder)[2].path, "damaged");
-    return new articles::PlannedDialog(ground.values, ground.shop.boxes(), parent);
-}
-
-constexpr Dialog dialogs[] = {
-    {"customer",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new shell::FrmCustomer(g.values, g.shop.boxes(), p);
-     }},
-    {"new-shop",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         // With the longest notice about models.
-         ProfileFile::write(g.shop.folder().appFile(u"setup.ini"_s), u"SetupOption"_s, u"ECRModel"_s, u"3"_s);
-         auto* const dialog =
-             new shell::NewShopDialog(g.values.appPath, g.values.customerName, g.shop.boxes(), p);
-         dialog->findChild<QAbstractButton*>(u"TakeSettings"_s)->click();
-         return dialog;
-     }},
-    {"safety-copies",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new shell::CopiesDialog(g.values.appPath, g.values.customerName, g.shop.boxes(), p);
-     }},
-    {"copies",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new shell::CopyMenu(g.values.appPath, g.values.customerName, g.shop.boxes(), p);
-     }},
-    {"copy-to-customers",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new programme::CopyToShopsDialog(
-             g.values, {u"PLUDATA"_s, u"PLU"_s, u"1"_s, u"PLU 123456789012345678"_s, true, {}},
-             g.shop.boxes(), p);
-     }},
-    {"import", &importOfFile},
-    {"planned", &plannedChanges},
-    {"exchange",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new exchange::FrmComm(u"UPLOAD"_s, g.values, g.shop.boxes(), p);
-     }},
-    {"keys-velmar",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new keys::KeyLayout(keys::velmarKeyboard(), g.values, g.shop.boxes(), p);
-     }},
-    {"copy-level",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new keys::copylevel(g.database, keys::velmarKeyboard(), g.values, g.shop.boxes(), p);
-     }},
-    {"function-keys",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new keys::FrmFunctKey(g.values, g.shop.boxes(), p);
-     }},
-    {"look-ups",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new keys::frmwlu(g.values, g.shop.boxes(), p);
-     }},
-    {"overlay-velmar",
-     [](Ground& g, QWidget* p) {
-         return designer(overlay::Keyboard::Velmar, g, p);
-     }},
-    {"overlay-quelmont",
-     [](Ground& g, QWidget* p) {
-         return designer(overlay::Keyboard::Quelmont, g, p);
-     }},
-    {"overlay-preview", &preview},
-    {"printer-correction",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new overlay::CorrectionForm(u"Office"_s, {}, {}, g.shop.boxes(), p);
-     }},
-    {"printer-setup",
-     [](Ground& /*g*/, QWidget* p) -> QWidget* {
-         return new overlay::PrinterSetup({}, p);
-     }},
-    {"reports",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         g.values.reportMode = u"DAILYPLU"_s;
-         return new sales::Frmreports(g.values, g.shop.boxes(), sales::reportEntries().front(),
-                                      reports::runReport, p);
-     }},
-    {"more-reports",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new sales::MoreReports(g.values, g.shop.boxes(), reports::runReport, p);
-     }},
-    {"system-info",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new shell::frmSysInfo(shell::systemReport(g.values, {}), p);
-     }},
-    {"splash",
-     [](Ground& g, QWidget* /*p*/) -> QWidget* {
-         return new shell::frmSplash(g.shop.frame().statusBar1());
-     }},
-};
-
-/// The keyboard of the model, which has separate tables.
-constexpr Dialog dorvikDialogs[] = {
-    {"keys-dorvik",
-     [](Ground& g, QWidget* p) -> QWidget* {
-         return new keys::KeyLayout(keys::dorvikKeyboard(), g.values, g.shop.boxes(), p);
-     }},
-    {"overlay-dorvik",
-     [](Ground& g, QWidget* p) {
-         return designer(overlay::Keyboard::Dorvik, g, p);
-     }},
-};
 
 /// Boxes that wait for an answer, with the longest texts that the program has for them.
 struct WaitingBox {
@@ -235,12 +55,6 @@ constexpr WaitingBox waitingBoxes[] = {
 
 /// Windows inside the frame, by their menu entries.
 constexpr const char* formsInFrame[] = {"DataSetup", "About", "CollectSales", "Quelmontkeyboard"};
-
-void show(QWidget& window)
-{
-    window.show();
-    QApplication::processEvents();
-}
 
 void lookAtMenus(shell::FrmMain& frame, const Look& look)
 {
@@ -336,17 +150,6 @@ void lookAtFormsInFrame(FilledShop& shop, const Look& look)
     }
 }
 
-void lookAtDialogs(FilledShop& shop, std::span<const Dialog> table, const Look& look)
-{
-    Ground ground(shop);
-    for (const Dialog& dialog : table) {
-        const std::unique_ptr<QWidget> window(dialog.make(ground, &shop.frame()));
-        window->setAttribute(Qt::WA_DeleteOnClose, false);
-        show(*window);
-        look(QLatin1String(dialog.name), *window);
-    }
-}
-
 void lookAtBoxes(QWidget& frame, const Look& look)
 {
     ui::MessageBoxes boxes;
@@ -388,12 +191,12 @@ void lookAtEveryWindow(const Look& look)
             lookAtOverview(shop, look);
             lookAtMenus(shop.frame(), look);
             lookAtFormsInFrame(shop, look);
-            lookAtDialogs(shop, dialogs, look);
+            lookAtDialogs(shop, look);
             lookAtReport(shop, look);
             lookAtBoxes(shop.frame(), look);
         }
         if (model == 3)
-            lookAtDialogs(shop, dorvikDialogs, look);
+            lookAtDorvikDialogs(shop, look);
     }
 }
 
