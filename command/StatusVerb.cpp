@@ -4,7 +4,9 @@
 #include "customers/CustomerLog.h"
 #include "exchange/UnsentChanges.h"
 #include "platform/RuntimeFailure.h"
+#include "sales/RecentTakings.h"
 #include "sales/UnclearedSales.h"
+#include "store/engine/Database.h"
 
 #include <QDate>
 
@@ -47,13 +49,15 @@ QVariantList exchangeOf(const ApplicationValues& values)
     return {last->begun, u"%1, %2"_s.arg(last->work, last->registers), last->result};
 }
 
-/// A clock that was set back has no days before today.
+/// Sales that came into the database in another way have a day but no note. A clock that was set back has no
+/// days before today.
 QVariant daysWithoutCollection(const ApplicationValues& values)
 {
-    const QDateTime stored = sales::readLastCollection(values).stored;
-    if (!stored.isValid())
-        return {};
-    return std::max(qint64{0}, stored.date().daysTo(QDate::currentDate()));
+    const QDate today = QDate::currentDate();
+    store::Database database(values.databasePath);
+    const QDate last = std::max(sales::readLastCollection(values).stored.date(),
+                                sales::recentTakings(database, today).lastCollected);
+    return last.isValid() ? QVariant(std::max(qint64{0}, last.daysTo(today))) : QVariant();
 }
 
 QVariant unclearedSince(const ApplicationValues& values)
@@ -66,12 +70,13 @@ QVariant unclearedSince(const ApplicationValues& values)
 QVariantList databaseOf(const ApplicationValues& values)
 {
     const Unsent unsent = unsentOf(values);
-    return {unsent.records, unsent.files, exchange::boxNames(unsent.boxes), unclearedSince(values)};
+    return {unsent.records, unsent.files, exchange::boxNames(unsent.boxes), unclearedSince(values),
+            daysWithoutCollection(values)};
 }
 
 QVariantList statusRow(const Workplace& workplace, const ApplicationValues& values)
 {
-    QVariantList ofDatabase{{}, {}, {}, {}};
+    QVariantList ofDatabase{{}, {}, {}, {}, {}};
     QString note = noteOn(workplace, values.customerName);
     try {
         if (note.isEmpty())
@@ -79,8 +84,7 @@ QVariantList statusRow(const Workplace& workplace, const ApplicationValues& valu
     } catch (const RuntimeFailure& failure) {
         note = failure.text().simplified();
     }
-    return QVariantList{values.customerName} + exchangeOf(values) + ofDatabase +
-           QVariantList{daysWithoutCollection(values), note};
+    return QVariantList{values.customerName} + exchangeOf(values) + ofDatabase + QVariantList{note};
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "platform/FolderLock.h"
 #include "tests/road/RunCommand.h"
 #include "tests/road/Shop.h"
+#include "tests/store/Rows.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -92,6 +93,10 @@ TEST_F(UnfinishedSend, StatusListsEveryShopAlsoDuringARunAndOneThatCannotBeRead)
     EXPECT_EQ(status(u"Healthy"_s)[u"note"].toString(), QString());
     EXPECT_EQ(status(u"Healthy"_s)[u"daysWithoutCollection"].toInt(), 3);
     EXPECT_TRUE(status(cornerShop)[u"daysWithoutCollection"].isNull());
+    test::execute(joinPath(m_shop.folder().appFile(cornerShop), u"velmar.mdb"_s),
+                  u"insert into TIMESALES (ID, SALESDATE) values (1, '%1')"_s.arg(
+                      QDate::currentDate().addDays(-2).toString(Qt::ISODate)));
+    EXPECT_EQ(status(cornerShop)[u"daysWithoutCollection"].toInt(), 2) << "stored in another way";
     EXPECT_EQ(run({u"status"_s, u"nowhere"_s}).code, 3);
 }
 
