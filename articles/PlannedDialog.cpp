@@ -51,6 +51,7 @@ void PlannedDialog::layOut()
     ui::nameControl(*m_lists, u"PlannedLists"_s, plannedTitle);
     m_lists->setHeaderLabels({u"List"_s, u"Store on"_s, u"Table"_s, u"Records"_s, u"State"_s, u"From"_s});
     m_lists->setRootIsDecorated(false);
+    m_lists->setAllColumnsShowFocus(true);
     m_lists->setMinimumSize(ui::scaled(listsSize));
     m_lists->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_lists->header()->setStretchLastSection(false);
