@@ -175,8 +175,10 @@ void addCell(Texts& texts, const QAbstractItemView& view, const QModelIndex& cel
                                                  : Qt::Alignment::fromInt(ownAlignment.toUInt());
     const QSize need = fitsItself(view) ? QSize() : QSize(view.sizeHintForIndex(cell).width(), 0);
     add(texts, *view.viewport(), text, place, need, alignment);
-    if (fitsItself(view))
-        texts.last().letters = place;
+    const int margin = view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1;
+    texts.last().letters =
+        fitsItself(view) ? place
+                         : placeOf(*view.viewport(), text, alignment, place.adjusted(margin, 0, -margin, 0));
 }
 
 void addCells(Texts& texts, const QAbstractItemView& view)
