@@ -36,7 +36,8 @@ QByteArray bytesOf(const Digests& lines)
 {
     const auto count = static_cast<qsizetype>(lines.size());
     QByteArray bytes(count * digestSize, Qt::Uninitialized);
-    qToLittleEndian<std::uint64_t>(lines.data(), count, bytes.data());
+    if (count > 0)
+        qToLittleEndian<std::uint64_t>(lines.data(), count, bytes.data());
     return bytes;
 }
 
@@ -44,7 +45,8 @@ Digests digestsOf(const QByteArray& bytes)
 {
     const qsizetype count = bytes.size() / digestSize;
     Digests lines(static_cast<std::size_t>(count));
-    qFromLittleEndian<std::uint64_t>(bytes.data(), count, lines.data());
+    if (count > 0)
+        qFromLittleEndian<std::uint64_t>(bytes.data(), count, lines.data());
     return lines;
 }
 
