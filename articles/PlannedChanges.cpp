@@ -66,9 +66,10 @@ Expectations expectationsOf(const PlannedList& list, Change change)
 {
     Expectations expectations;
     for (const PlannedRecord& record : list.records) {
-        for (const auto& [heading, before, after] : record.fields)
+        for (const auto& [heading, before, after] : record.fields) {
             expectations[{record.number, heading}] =
                 change == Change::Comes ? std::pair(before, after) : std::pair(after, before);
+        }
     }
     return expectations;
 }

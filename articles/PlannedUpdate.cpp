@@ -115,9 +115,10 @@ private:
     {
         std::vector<bool> isUsed(m_sheet.columns.size());
         for (const PlannedRecord& record : list.records) {
-            for (const PlannedField& field : record.fields)
+            for (const PlannedField& field : record.fields) {
                 isUsed[static_cast<std::size_t>(columnWith(m_sheet, field.heading) -
                                                 m_sheet.columns.data())] = true;
+            }
         }
         for (std::size_t place = 1; place < isUsed.size(); ++place) {
             if (isUsed[place])

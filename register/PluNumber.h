@@ -24,7 +24,8 @@ public:
     /// As the tables hold it: 18 digits with leading zeros.
     [[nodiscard]] std::string text() const;
     [[nodiscard]] std::uint64_t value() const { return m_value; }
-    auto operator<=>(const PluNumber&) const = default;
+    // The check takes the 0 that an order is compared with for a null pointer.
+    auto operator<=>(const PluNumber&) const = default; // NOLINT(modernize-use-nullptr)
 
 private:
     explicit PluNumber(std::uint64_t value) : m_value(value) {}

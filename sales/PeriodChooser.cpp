@@ -1,6 +1,7 @@
 // See PeriodChooser.h.
 #include "sales/PeriodChooser.h"
 
+#include "reports/formula/Period.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 

@@ -104,6 +104,7 @@ reports::ReportData shownTexts(const TableOfFile& table)
     data.page.mayTurn = true;
     for (int row = 0; row < model.rowCount(); ++row) {
         std::vector<reports::ReportCell> cells;
+        cells.reserve(shown.size());
         for (const int column : shown)
             cells.emplace_back(model.column(column).text(model.value(row, column)));
         data.addLine(reports::LineKind::Detail, std::move(cells));

@@ -161,8 +161,8 @@ Period periodBefore(const Period& period)
 Period yearEarlier(const Period& period)
 {
     constexpr int monthsOfYear = 12;
-    constexpr int weekdays = 7;
-    constexpr int weeksOfYear = 52;
+    constexpr qint64 weekdays = 7;
+    constexpr qint64 weeksOfYear = 52;
     const bool isShort = period.from.daysTo(period.to) < weekdays;
     return isShort && !monthsOf(period) ? daysEarlier(period, weekdays * weeksOfYear)
                                         : monthsEarlier(period, monthsOfYear);

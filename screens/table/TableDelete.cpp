@@ -39,9 +39,10 @@ QStringList usedLines(store::Database& database, const TableInUse& table, const 
     const auto counts = countUses(database, table.source.table, keysPerLevel);
     QStringList lines;
     for (const QString& key : keys) {
-        if (const int count = counts.value(key); count > 0)
+        if (const int count = counts.value(key); count > 0) {
             lines += u"%1 %2 is used in %3"_s.arg(table.recordName, shownKey(table.source.keyField, key),
                                                   count == 1 ? u"1 place"_s : u"%1 places"_s.arg(count));
+        }
     }
     return lines;
 }

@@ -165,10 +165,11 @@ QHBoxLayout* TableWindow::makeRecordRow()
 QPushButton* TableWindow::makeToolsButton(const TableTools& tools)
 {
     QVector<MenuTool> entries;
-    for (const TableTool& tool : tools)
+    for (const TableTool& tool : tools) {
         entries += {tool.name, tool.caption, tool.keys, [this, use = tool.use] {
                         use(*this);
                     }};
+    }
     return makeMoreButton(entries, *this);
 }
 

@@ -27,9 +27,10 @@ public:
         store::Database::create(m_folder.path("velmar.mdb"), store::catalogue());
         m_database.emplace(m_folder.path("velmar.mdb"));
         test::addRecord(*m_database, "GROUPS", {{"GROUPNO", test::whole(7)}});
-        for (const char* const number : {"000000000000000001", "000000000000000002", "000000000000000003"})
+        for (const char* const number : {"000000000000000001", "000000000000000002", "000000000000000003"}) {
             test::addRecord(*m_database, "PLUDATA",
                             {{"PLUNUMBER", test::text(number)}, {"PRICE1", test::text("1.2")}});
+        }
     }
 
     void execute(const QString& sql) { m_database->execute(sql); }
