@@ -69,7 +69,7 @@ std::optional<QString> importSheet(const ImportPlace& place, const ImportSteps& 
 QString planSheet(const ImportPlace& place, const ImportSteps& steps, const ImportPlan& plan)
 {
     customers::LoggedWork work(place.values.customerPath, u"planning of %1 import"_s.arg(place.sheet.name));
-    const QString result = work.during([&] {
+    QString result = work.during([&] {
         const SheetComparison& comparison = steps.compare().comparison();
         if (!comparison.mistakes().isEmpty())
             work.setResult(u"refused: the file has mistakes"_s);

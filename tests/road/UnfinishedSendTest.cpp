@@ -30,7 +30,7 @@ protected:
     {
         const Ended ended = run({u"status"_s, u"--json"_s});
         EXPECT_EQ(ended.code, 0) << ended.err.toStdString();
-        for (const QJsonValue& line : QJsonDocument::fromJson(ended.out.toUtf8()).array()) {
+        for (const QJsonValue line : QJsonDocument::fromJson(ended.out.toUtf8()).array()) {
             if (line[u"name"].toString() == name)
                 return line.toObject();
         }
