@@ -2,6 +2,7 @@
 #include "keys/layout/KeyCellDelegate.h"
 
 #include "keys/layout/KeyGridModel.h"
+#include "keys/layout/KeyText.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
@@ -43,17 +44,17 @@ constexpr std::array<Look, 6> looks{{
 /// A key that is not programmed needs no explanation.
 constexpr auto explainedLooks = std::span(looks).subspan(1);
 
-constexpr int padding = 4;
-constexpr int markSize = 8;
-/// Smaller than the forms' font: a letter and 17 digits must fit into a key's width.
-constexpr int numberFontPixels = 10;
-constexpr int leastFontPixels = 7;
 constexpr int strongLine = 2;
 constexpr int legendGap = 14;
 
+KeyState stateOf(const QModelIndex& index)
+{
+    return static_cast<KeyState>(index.data(KeyGridModel::StateRole).toInt());
+}
+
 const Look& lookOf(const QModelIndex& index)
 {
-    return looks.at(static_cast<std::size_t>(index.data(KeyGridModel::StateRole).toInt()));
+    return looks.at(static_cast<std::size_t>(stateOf(index)));
 }
 
 QColor groundOf(const Look& look)
@@ -64,11 +65,6 @@ QColor groundOf(const Look& look)
 QColor textColour()
 {
     return colours::yielding(colours::text, QPalette::Text);
-}
-
-int markPixels()
-{
-    return ui::scaled(markSize);
 }
 
 QPainterPath lockPath(const QRectF& place)
@@ -127,41 +123,13 @@ void paintMark(QPainter& painter, const Look& look, const QRectF& place)
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-/// Fonts differ in width, and no digit may be cut.
-QFont fittingFont(QFont font, int pixels, const QString& text, int width)
-{
-    font.setPixelSize(pixels);
-    while (pixels > leastFontPixels && QFontMetrics(font).horizontalAdvance(text) > width)
-        font.setPixelSize(--pixels);
-    return font;
-}
-
-/// The number above, in small digits, and the description below it.
-void paintNumbered(QPainter& painter, const QRect& place, const QString& text)
-{
-    const QString number = text.section(u' ', 0, 0);
-    const QString description = text.section(u' ', 1);
-    const QFont usual = painter.font();
-    painter.setFont(fittingFont(usual, ui::scaled(numberFontPixels), number, place.width()));
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop, number);
-    const QRect besideMark = place.adjusted(0, 0, -markPixels() - 1, 0);
-    painter.setFont(fittingFont(usual, ui::fontPixels(), description, besideMark.width()));
-    painter.drawText(besideMark, Qt::AlignLeft | Qt::AlignBottom, description);
-}
-
 void paintText(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index)
 {
-    QString text = index.data().toString();
-    const auto state = static_cast<KeyState>(index.data(KeyGridModel::StateRole).toInt());
-    const QRect place = option.rect.adjusted(padding, padding, -padding, -padding);
+    const KeyState state = stateOf(index);
     painter.setFont(option.font);
     painter.setPen(state == KeyState::Unprogrammed ? colours::yielding(colours::greyedText, QPalette::Text)
                                                    : textColour());
-    if (state == KeyState::Plu || state == KeyState::LookUp) {
-        paintNumbered(painter, place, text);
-    } else {
-        painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text.replace(u'\r', u'\n'));
-    }
+    paintKeyText(painter, option.rect, index.data().toString(), state);
 }
 
 void paintFrame(QPainter& painter, const QRect& cell, const QPen& pen, int inset)
@@ -200,9 +168,7 @@ void KeyCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
         painter->fillRect(option.rect, chosen);
     }
     paintText(*painter, option, index);
-    const int mark = markPixels();
-    const QPoint corner = option.rect.bottomRight() - QPoint(mark + padding, mark + padding);
-    paintMark(*painter, look, QRectF(corner, QSizeF(mark, mark)));
+    paintMark(*painter, look, keyMarkPlace(option.rect, stateOf(index)));
     paintFrames(*painter, option, index);
     painter->restore();
 }
@@ -222,23 +188,23 @@ QSize KeyLegend::sizeHint() const
     const QFontMetrics metrics(font());
     int width = 0;
     for (const Look& look : explainedLooks)
-        width += metrics.horizontalAdvance(look.words) + markPixels() + 2 * padding + legendGap;
-    return {width, metrics.height() + 2 * padding};
+        width += metrics.horizontalAdvance(look.words) + keyMarkPixels() + 2 * keyPadding + legendGap;
+    return {width, metrics.height() + 2 * keyPadding};
 }
 
 void KeyLegend::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    const int mark = markPixels();
+    const int mark = keyMarkPixels();
     int x = 0;
     for (const Look& look : explainedLooks) {
         const int words = painter.fontMetrics().horizontalAdvance(look.words);
-        const QRect place(x, 0, mark + 3 * padding + words, height());
+        const QRect place(x, 0, mark + 3 * keyPadding + words, height());
         painter.fillRect(place, groundOf(look));
         painter.setPen(textColour());
-        painter.drawText(place.adjusted(mark + 2 * padding, 0, 0, 0), Qt::AlignVCenter, look.words);
-        paintMark(painter, look, QRectF(x + padding, (height() - mark) / 2.0, mark, mark));
-        x += place.width() + legendGap - padding;
+        painter.drawText(place.adjusted(mark + 2 * keyPadding, 0, 0, 0), Qt::AlignVCenter, look.words);
+        paintMark(painter, look, QRectF(x + keyPadding, (height() - mark) / 2.0, mark, mark));
+        x += place.width() + legendGap - keyPadding;
     }
 }
 

@@ -31,7 +31,7 @@ struct KeyCommands::Entry {
 KeyCommands::KeyCommands(KeyEditor& editor, KeyGrid& grid, QObject* parent)
     : QObject(parent), m_editor(editor), m_grid(grid)
 {
-    static constexpr std::array<Entry, 12> entries = {{
+    static constexpr std::array<Entry, 17> entries = {{
         {"Cut", "Cu&t", "Ctrl+X", inGrid, &KeyCommands::cut},
         {"Copy", "&Copy", "Ctrl+C", inGrid, &KeyCommands::copy},
         {"Paste", "&Paste", "Ctrl+V", inGrid, &KeyCommands::paste},
@@ -44,24 +44,35 @@ KeyCommands::KeyCommands(KeyEditor& editor, KeyGrid& grid, QObject* parent)
         {"Redo", "&Redo", "Ctrl+Y; Ctrl+Shift+Z", inForm, &KeyCommands::redo},
         {},
         {"Find", "&Find", "Ctrl+F", inForm, &KeyCommands::findWanted},
+        {},
+        {"WholeKeyboard", "&Whole Keyboard", "Ctrl+0", inForm, &KeyCommands::showAll},
+        {"Smaller", "S&maller", "Ctrl+-", inForm, &KeyCommands::reduce},
+        {"Larger", "La&rger", "Ctrl++; Ctrl+=", inForm, &KeyCommands::enlarge},
+        {"Lists", "L&ists", "F9", inForm, nullptr},
     }};
     for (const Entry& entry : entries)
         addAction(entry);
     followEditor();
+    for (const char* const name : {"WholeKeyboard", "Smaller", "Larger", "Lists"})
+        m_view += findChild<QAction*>(QLatin1StringView(name));
+    m_lists = m_view.last();
+    m_lists->setCheckable(true);
+    m_lists->setChecked(true);
 }
 
 void KeyCommands::addAction(const Entry& entry)
 {
     auto* const action = new QAction(QLatin1StringView(entry.caption), this);
     m_grid.addAction(action);
-    if (entry.handler == nullptr) {
+    if (*entry.name == '\0') {
         action->setSeparator(true);
         return;
     }
     action->setObjectName(QLatin1StringView(entry.name));
     action->setShortcuts(QKeySequence::listFromString(QLatin1StringView(entry.keys)));
     action->setShortcutContext(entry.context);
-    connect(action, &QAction::triggered, this, entry.handler);
+    if (entry.handler != nullptr)
+        connect(action, &QAction::triggered, this, entry.handler);
 }
 
 /// Undo, Redo and Paste are disabled while they would do nothing.
@@ -121,6 +132,21 @@ void KeyCommands::redo()
 {
     m_editor.history().redo();
     Q_EMIT finished(Refusal::None);
+}
+
+void KeyCommands::showAll()
+{
+    m_grid.fitKeyboard();
+}
+
+void KeyCommands::enlarge()
+{
+    m_grid.zoomBy(1);
+}
+
+void KeyCommands::reduce()
+{
+    m_grid.zoomBy(-1);
 }
 
 } // namespace norvane::keys

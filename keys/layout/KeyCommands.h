@@ -3,6 +3,7 @@
 
 #include "keys/layout/KeyEditor.h"
 
+#include <QList>
 #include <QObject>
 
 class QAction;
@@ -13,8 +14,7 @@ namespace norvane::keys
 class KeyGrid;
 
 /// Adds its actions to the grid. Those of the clipboard and of the mark have their shortcuts in the grid
-/// alone, since the same keys work on texts in lists and boxes; Undo, Redo and Find have them in the whole
-/// form.
+/// alone, since the same keys work on texts in lists and boxes; the others have them in the whole form.
 class KeyCommands : public QObject
 {
     Q_OBJECT
@@ -22,6 +22,11 @@ class KeyCommands : public QObject
 public:
     /// @p editor and @p grid must outlive this.
     KeyCommands(KeyEditor& editor, KeyGrid& grid, QObject* parent);
+
+    /// Those that deserve a button, too.
+    [[nodiscard]] QList<QAction*> viewActions() const { return m_view; }
+    /// Whether the lists are shown. Checked at first.
+    [[nodiscard]] QAction& lists() const { return *m_lists; }
 
 Q_SIGNALS:
     /// Keys were changed, or @p refusal says why not.
@@ -44,10 +49,15 @@ private:
     void swapWithMarked();
     void undo();
     void redo();
+    void showAll();
+    void enlarge();
+    void reduce();
 
     KeyEditor& m_editor;
     KeyGrid& m_grid;
     QAction* m_paste = nullptr;
+    QAction* m_lists = nullptr;
+    QList<QAction*> m_view;
 };
 
 } // namespace norvane::keys

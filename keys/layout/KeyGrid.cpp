@@ -2,8 +2,7 @@
 #include "keys/layout/KeyGrid.h"
 
 #include "keys/layout/KeyCellDelegate.h"
-#include "paper/Length.h"
-#include "ui/Appearance.h"
+#include "keys/layout/KeyZoom.h"
 #include "ui/FormKit.h"
 
 #include <QDrag>
@@ -11,6 +10,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -21,18 +21,15 @@ namespace norvane::keys
 namespace
 {
 
-int pixels(double twips)
-{
-    return static_cast<int>(ui::scaled(paper::twips(twips).inDots(paper::screenDotsPerInch)));
-}
-
-void fixSections(QHeaderView& header, double twips)
+void fixSections(QHeaderView& header)
 {
     header.hide();
     header.setSectionResizeMode(QHeaderView::Fixed);
     header.setMinimumSectionSize(1);
-    header.setDefaultSectionSize(pixels(twips));
 }
+
+/// What a wheel reports for one of its notches; a touch pad reports parts of it.
+constexpr int wheelNotch = 120;
 
 } // namespace
 
@@ -41,8 +38,9 @@ KeyGrid::KeyGrid(KeyGridModel* model, QWidget* parent) : QTableView(parent)
     ui::nameControl(*this, u"Grid1"_s, u"Keys of the level"_s);
     setModel(model);
     setItemDelegate(new KeyCellDelegate(this));
-    fixSections(*verticalHeader(), cellHeightTwips);
-    fixSections(*horizontalHeader(), cellWidthTwips);
+    for (QHeaderView* const header : {verticalHeader(), horizontalHeader()})
+        fixSections(*header);
+    setKeySize(KeyZoom::usualSize());
     setTabKeyNavigation(false);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ExtendedSelection);
@@ -75,6 +73,59 @@ KeyCells KeyGrid::chosenCells() const
     if (cells.empty() && currentIndex().isValid())
         cells.push_back(currentCell());
     return cells;
+}
+
+QSize KeyGrid::keySize() const
+{
+    return {horizontalHeader()->defaultSectionSize(), verticalHeader()->defaultSectionSize()};
+}
+
+int KeyGrid::zoomPercent() const
+{
+    return KeyZoom::percentOf(keySize());
+}
+
+/// The current key keeps in sight: it is what the user looks at.
+void KeyGrid::setKeySize(QSize key)
+{
+    horizontalHeader()->setDefaultSectionSize(key.width());
+    verticalHeader()->setDefaultSectionSize(key.height());
+    if (currentIndex().isValid())
+        scrollTo(currentIndex());
+    Q_EMIT zoomChanged();
+}
+
+/// Without regard to the bars that scroll: once all keys fit, there are none.
+void KeyGrid::fitKeyboard()
+{
+    m_fits = true;
+    setKeySize(KeyZoom::fitting({model()->columnCount(), model()->rowCount()}, maximumViewportSize()));
+}
+
+void KeyGrid::zoomBy(int steps)
+{
+    m_fits = false;
+    setKeySize(KeyZoom::sizeAt(zoomPercent() + steps * KeyZoom::stepPercent));
+}
+
+void KeyGrid::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    if (m_fits)
+        fitKeyboard();
+}
+
+void KeyGrid::wheelEvent(QWheelEvent* event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QTableView::wheelEvent(event);
+        return;
+    }
+    m_wheel += event->angleDelta().y();
+    if (const int steps = m_wheel / wheelNotch; steps != 0)
+        zoomBy(steps);
+    m_wheel %= wheelNotch;
+    event->accept();
 }
 
 QSize KeyGrid::sizeHint() const

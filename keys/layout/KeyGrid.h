@@ -27,6 +27,13 @@ public:
     /// The current cell among them.
     [[nodiscard]] KeyCells chosenCells() const;
 
+    /// Shows the whole keyboard, and goes on doing so while the grid changes its size, until another zoom is
+    /// set.
+    void fitKeyboard();
+    /// Makes the keys @p steps of the zoom larger, or smaller if negative.
+    void zoomBy(int steps);
+    [[nodiscard]] int zoomPercent() const;
+
     /// As large as all keys need.
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -34,8 +41,11 @@ Q_SIGNALS:
     /// The user asked to choose an item for the current cell.
     void entered();
     void currentCellChanged();
+    void zoomChanged();
 
 protected:
+    void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -45,11 +55,15 @@ protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
+    void setKeySize(QSize key);
+    [[nodiscard]] QSize keySize() const;
     void extendTo(const QModelIndex& end);
     void chooseCurrent();
 
     QPersistentModelIndex m_anchor; ///< where a choice of several keys began
     bool m_extends = false;
+    bool m_fits = false;           ///< the keys follow the size of the grid
+    int m_wheel = 0;               ///< turned with Ctrl, less than a notch
     bool m_pressedOutside = false; ///< the mouse went down on a cell that was not chosen
 };
 

@@ -9,17 +9,19 @@
 #include "keys/layout/KeyGrid.h"
 #include "keys/layout/KeyListPanel.h"
 #include "keys/layout/KeySearch.h"
+#include "keys/layout/KeyViewRow.h"
 #include "keys/layout/LevelRow.h"
 #include "keys/SaveOrTell.h"
 #include "platform/Boxes.h"
 #include "ui/Appearance.h"
 #include "ui/FindBar.h"
 #include "ui/StatusLine.h"
+#include "ui/WrappingRow.h"
 
+#include <QAction>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QPushButton>
-#include <QScrollBar>
 
 #include <algorithm>
 
@@ -72,6 +74,7 @@ KeyLayout::KeyLayout(const KeyGeometry& keyboard, ApplicationValues& values, Box
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     m_level.read(1);
     Grid1 = new KeyGrid(&m_model, this);
+    m_commands = new KeyCommands(m_editor, *Grid1, this);
     m_lists = new KeyListPanel(m_database, this);
     m_levels = new LevelRow(this);
     m_status = new ui::StatusLine(this);
@@ -93,7 +96,10 @@ void KeyLayout::layOut()
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(ui::spacing::formMargin, ui::spacing::controlGap, ui::spacing::formMargin, 0);
     column->setSpacing(ui::spacing::controlGap);
-    column->addWidget(m_levels);
+    auto* const head = new ui::WrappingRow(ui::spacing::controlGap);
+    head->addWidget(m_levels);
+    head->addWidget(new KeyViewRow(m_commands->viewActions(), this));
+    column->addLayout(head);
     column->addLayout(body, 1);
     column->addLayout(makeFindRow());
     column->addWidget(m_status);
@@ -127,7 +133,9 @@ void KeyLayout::connectParts()
 {
     connect(m_levels, &LevelRow::levelWanted, this, &KeyLayout::changeLevel);
     connect(m_levels, &LevelRow::copyWanted, this, &KeyLayout::copyLevels);
-    connect(Grid1, &KeyGrid::entered, m_lists, &KeyListPanel::enterList);
+    connect(Grid1, &KeyGrid::entered, this, &KeyLayout::enterList);
+    connect(Grid1, &KeyGrid::zoomChanged, this,
+            [this] { m_status->setNotice(u"Zoom %1 %"_s.arg(Grid1->zoomPercent())); });
     connect(Grid1, &KeyGrid::currentCellChanged, this, &KeyLayout::showKey);
     connect(m_lists, &KeyListPanel::chosen, this, &KeyLayout::assign);
     connect(m_lists, &KeyListPanel::looked, this, &KeyLayout::showItem);
@@ -137,18 +145,30 @@ void KeyLayout::connectParts()
 
 void KeyLayout::addCommands()
 {
-    const auto* const commands = new KeyCommands(m_editor, *Grid1, this);
-    connect(commands, &KeyCommands::finished, this, &KeyLayout::finish);
-    connect(commands, &KeyCommands::copied, this, [this] { m_status->setNotice(u"Copied"_s); });
-    connect(commands, &KeyCommands::marked, &m_model, &KeyGridModel::refresh);
-    connect(commands, &KeyCommands::findWanted, m_find, &ui::FindBar::open);
+    connect(m_commands, &KeyCommands::finished, this, &KeyLayout::finish);
+    connect(m_commands, &KeyCommands::copied, this, [this] { m_status->setNotice(u"Copied"_s); });
+    connect(m_commands, &KeyCommands::marked, &m_model, &KeyGridModel::refresh);
+    connect(m_commands, &KeyCommands::findWanted, m_find, &ui::FindBar::open);
+    connect(&m_commands->lists(), &QAction::toggled, m_lists, &QWidget::setVisible);
+    connect(&m_commands->lists(), &QAction::toggled, this, [this] { Grid1->setFocus(); });
+}
+
+/// Enter on a key leads to the lists, also while they are folded away.
+void KeyLayout::enterList()
+{
+    m_commands->lists().setChecked(true);
+    m_lists->enterList();
 }
 
 void KeyLayout::fitScreen()
 {
     QSize wanted = sizeHint();
-    if (wanted.width() > ui::roomOnScreen(*this).width())
-        wanted.rheight() += Grid1->horizontalScrollBar()->sizeHint().height();
+    const QSize room = ui::roomOnScreen(*this).size();
+    if (wanted.width() > room.width()) {
+        // As high as there is room: names get a second line.
+        wanted.setHeight(room.height());
+        Grid1->fitKeyboard();
+    }
     ui::centreOnScreen(*this, wanted);
 }
 

@@ -25,6 +25,7 @@ class StatusLine;
 namespace norvane::keys
 {
 
+class KeyCommands;
 class KeyGrid;
 class KeyListPanel;
 class LevelRow;
@@ -55,6 +56,7 @@ private:
     void connectParts();
     void addCommands();
     void fitScreen();
+    void enterList();
 
     void updategrid(int level);
     void showLevel();
@@ -84,6 +86,7 @@ private:
     KeyGridModel m_model{m_level, m_editor};
     KeyCells m_found;
     KeyGrid* Grid1;
+    KeyCommands* m_commands;
     KeyListPanel* m_lists;
     LevelRow* m_levels;
     ui::FindBar* m_find;

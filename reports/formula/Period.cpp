@@ -3,7 +3,6 @@
 
 #include "platform/ShownTime.h"
 
-#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -118,12 +117,6 @@ Period daysEarlier(const Period& period, qint64 days)
 }
 
 } // namespace
-
-bool Period::isToDate() const
-{
-    return std::ranges::any_of(
-        periods, [this](const NamedPeriod& known) { return known.last == same && name == known.name; });
-}
 
 QString Period::text() const
 {
