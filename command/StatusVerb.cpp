@@ -19,27 +19,6 @@ namespace norvane::command
 namespace
 {
 
-/// What was not sent, of all boxes together.
-struct Unsent {
-    qint64 records = 0;
-    int files = 0;
-    QList<int> boxes;
-};
-
-Unsent unsentOf(const ApplicationValues& values)
-{
-    Unsent unsent;
-    const exchange::AllChanges changes = exchange::unsentChanges(values);
-    for (int box = 0; box < exchange::boxCount; ++box) {
-        const auto& changed = changes.at(static_cast<std::size_t>(box));
-        unsent.records += changed.records;
-        unsent.files += changed.files;
-        if (changed.isUnsent())
-            unsent.boxes << box;
-    }
-    return unsent;
-}
-
 /// What its notes and log say, which needs no database.
 QVariantList exchangeOf(const ApplicationValues& values)
 {
@@ -69,9 +48,9 @@ QVariant unclearedSince(const ApplicationValues& values)
 /// @throws RuntimeFailure if the database or the settings cannot be read.
 QVariantList databaseOf(const ApplicationValues& values)
 {
-    const Unsent unsent = unsentOf(values);
-    return {unsent.records, unsent.files, exchange::boxNames(unsent.boxes), unclearedSince(values),
-            daysWithoutCollection(values)};
+    const exchange::UnsentTotal unsent = exchange::totalOf(exchange::unsentChanges(values));
+    return {unsent.changes.records, unsent.changes.files, exchange::boxNames(unsent.boxes),
+            unclearedSince(values), daysWithoutCollection(values)};
 }
 
 QVariantList statusRow(const Workplace& workplace, const ApplicationValues& values)

@@ -78,6 +78,21 @@ bool isLeftOut(const DownloadRow& row, const ApplicationValues& values)
     return row.file == pluPointsFile && pluPointsWait(values);
 }
 
+UnsentTotal totalOf(const AllChanges& changes)
+{
+    UnsentTotal total;
+    for (int box = 0; box < boxCount; ++box) {
+        const BoxChanges& each = changes.at(static_cast<std::size_t>(box));
+        if (each.isUnsent())
+            total.boxes << box;
+        total.changes.records += each.records;
+        total.changes.files += each.files;
+        total.changes.mayBeAtSome |= each.mayBeAtSome;
+        total.changes.isNotAtAll |= each.isNotAtAll;
+    }
+    return total;
+}
+
 AllChanges unsentChanges(const ApplicationValues& values, const std::function<bool()>& goOn)
 {
     AllChanges changes;

@@ -5,6 +5,7 @@
 #include "exchange/ExchangeBoxes.h"
 #include "exchange/ExchangePlan.h"
 
+#include <QList>
 #include <QString>
 
 #include <array>
@@ -28,6 +29,14 @@ struct BoxChanges {
 };
 
 using AllChanges = std::array<BoxChanges, boxCount>;
+
+/// Of all boxes together, and the boxes with something unsent.
+struct UnsentTotal {
+    BoxChanges changes;
+    QList<int> boxes;
+};
+
+[[nodiscard]] UnsentTotal totalOf(const AllChanges& changes);
 
 /// Compares what a send would write now with the ledger. Reads only, and walks the tables that were sent or
 /// fetched before. It may run in a thread of its own.

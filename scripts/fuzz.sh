@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# usage: scripts/fuzz.sh [--seconds N | --runs N] [--jobs N] [TARGET...]
+# usage: scripts/fuzz.sh [--seconds N | --runs N] [--jobs N] [--seed N] [TARGET...]
 # Builds the fuzz targets (all when none is named) and runs each for N seconds (60) or N inputs, --jobs at a
-# time (2). New inputs are kept in build/fuzz-corpus, findings in build/fuzz-findings;
-# build/fuzz-corpus/runs.txt has a line for every run. The exit code is 1 if there is a finding.
+# time (2). With --seed a run can be repeated; without it, each run tries other inputs. New inputs are kept in
+# build/fuzz-corpus, findings in build/fuzz-findings; build/fuzz-corpus/runs.txt has a line for every run.
+# The exit code is 1 if there is a finding.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -11,10 +12,11 @@ jobs=2
 targets=()
 while [ $# -gt 0 ]; do
   case "$1" in
-    --seconds) limit=("-max_total_time=$2"); shift 2 ;;
-    --runs) limit=("-runs=$2"); shift 2 ;;
+    --seconds) limit[0]="-max_total_time=$2"; shift 2 ;;
+    --runs) limit[0]="-runs=$2"; shift 2 ;;
+    --seed) limit+=("-seed=$2"); shift 2 ;;
     --jobs) jobs=$2; shift 2 ;;
-    -*) echo "usage: scripts/fuzz.sh [--seconds N | --runs N] [--jobs N] [TARGET...]" >&2; exit 2 ;;
+    -*) echo "usage: scripts/fuzz.sh [--seconds N | --runs N] [--jobs N] [--seed N] [TARGET...]" >&2; exit 2 ;;
     *) targets+=("$1"); shift ;;
   esac
 done

@@ -137,24 +137,13 @@ void readUnsentLine(Sources& sources, OverviewLine& line)
 }
 
 /// "3 records not sent (PLU, Group)".
-QString unsentInWords(const exchange::AllChanges& changes, exchange::BoxChanges& all)
+QString unsentInWords(const exchange::UnsentTotal& total)
 {
-    QList<int> boxes;
-    for (int box = 0; box < exchange::boxCount; ++box) {
-        const exchange::BoxChanges& each = changes.at(static_cast<std::size_t>(box));
-        if (!each.isUnsent())
-            continue;
-        boxes << box;
-        all.records += each.records;
-        all.files += each.files;
-        all.mayBeAtSome |= each.mayBeAtSome;
-        all.isNotAtAll |= each.isNotAtAll;
-    }
-    if (boxes.isEmpty())
+    if (total.boxes.isEmpty())
         return u"nothing"_s;
-    return u"%1 (%2)"_s.arg(exchange::changesInWords(all), boxes.size() > mostBoxes
-                                                               ? u"%1 boxes"_s.arg(boxes.size())
-                                                               : exchange::boxNames(boxes));
+    return u"%1 (%2)"_s.arg(exchange::changesInWords(total.changes),
+                            total.boxes.size() > mostBoxes ? u"%1 boxes"_s.arg(total.boxes.size())
+                                                           : exchange::boxNames(total.boxes));
 }
 
 void readCopies(Sources& sources, OverviewLine& line)
@@ -247,9 +236,9 @@ OverviewLine readUnsent(const ApplicationValues& values, const std::function<boo
     OverviewLine line = unreadUnsent();
     const ApplicationValues own = ownValues(values);
     try {
-        exchange::BoxChanges all;
-        line.text = unsentInWords(exchange::unsentChanges(own, goOn), all);
-        line.needsAttention = all.mayBeAtSome || all.isNotAtAll;
+        const auto total = exchange::totalOf(exchange::unsentChanges(own, goOn));
+        line.text = unsentInWords(total);
+        line.needsAttention = total.changes.mayBeAtSome || total.changes.isNotAtAll;
     } catch (const RuntimeFailure& failure) {
         line.text = cannotBeRead(failure, own);
         line.needsAttention = true;

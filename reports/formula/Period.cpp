@@ -3,6 +3,7 @@
 
 #include "platform/ShownTime.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -117,6 +118,12 @@ Period daysEarlier(const Period& period, qint64 days)
 }
 
 } // namespace
+
+bool Period::isToDate() const
+{
+    return std::ranges::any_of(
+        periods, [this](const NamedPeriod& known) { return known.last == same && name == known.name; });
+}
 
 QString Period::text() const
 {

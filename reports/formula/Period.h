@@ -18,6 +18,8 @@ struct Period {
     QString name; ///< "Month to date"; empty for days that were picked
 
     [[nodiscard]] bool isOpen() const { return !from.isValid() || !to.isValid(); }
+    /// Whether it is a named period that ends today.
+    [[nodiscard]] bool isToDate() const;
     /// "Month to date, 01/11/2026 to 25/11/2026"; "Wednesday, 25/11/2026" for one day that was
     /// picked.
     [[nodiscard]] QString text() const;

@@ -57,7 +57,7 @@ private:
     QDate m_next; ///< the day that is expected next
 };
 
-QString uncollectedText(int days)
+QString uncollectedText(std::size_t days)
 {
     return days == 1 ? u"1 day without a collection"_s : u"%1 days without a collection"_s.arg(days);
 }
@@ -65,8 +65,8 @@ QString uncollectedText(int days)
 class Run
 {
 public:
-    Run(const ReportRequest& request, const KeepGoing& keepGoing)
-        : m_keepGoing(keepGoing), m_request(request), m_layout(readLayout(request.reportFile)),
+    Run(const ReportRequest& request, ReportLayout layout, const KeepGoing& keepGoing)
+        : m_keepGoing(keepGoing), m_request(request), m_layout(std::move(layout)),
           m_query(request, m_layout, keepGoing)
     {
     }
@@ -91,6 +91,8 @@ public:
     }
     /// What make() has made beside the other period of the request.
     ReportData compared(const ReportData& data);
+    /// Adds the days without a collection below all lines, unless the period is one day or ends today.
+    void listMissing(ReportData& data) const;
 
 private:
     void select();
@@ -237,8 +239,8 @@ QString Run::subtitle() const
     QStringList parts;
     if (m_period)
         parts.append(m_period->text());
-    if (m_days && m_days->uncollected > 0 && m_period->from != m_period->to)
-        parts.append(uncollectedText(m_days->uncollected));
+    if (m_days && !m_days->missing.empty() && m_period->from != m_period->to)
+        parts.append(uncollectedText(m_days->missing.size()));
     if (!m_isOnlyPeriod)
         parts.append(u"selected by %1"_s.arg(shortened(m_request.selectionFormula)));
     if (!m_otherTables.isEmpty())
@@ -286,7 +288,7 @@ ReportData Run::compared(const ReportData& data)
     const Period period = otherPeriod();
     ReportRequest request = m_request;
     request.selectionFormula = formulaOf(m_layout.source.day()->text(), period);
-    Run other(request, m_keepGoing);
+    Run other(request, m_layout, m_keepGoing);
     const ReportData before = other.make();
     ReportData both = comparedReport(data, before);
     both.heading.subtitle += u"; before: %1"_s.arg(before.heading.subtitle);
@@ -296,14 +298,27 @@ ReportData Run::compared(const ReportData& data)
     return both;
 }
 
+void Run::listMissing(ReportData& data) const
+{
+    constexpr std::size_t mostListed = 40;
+    const bool isListed = m_days && !m_days->missing.empty() && data.lineCount() > 0;
+    if (!isListed || m_period->from == m_period->to || m_period->isToDate())
+        return;
+    data.addLine(LineKind::GroupHeading,
+                 {u"Without a collection: "_s + textOfDays(m_days->missing, mostListed)});
+}
+
 } // namespace
 
 ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing)
 {
     try {
-        Run run(request, keepGoing);
+        Run run(request, readLayout(request.reportFile), keepGoing);
         ReportData data = run.make();
-        return request.comparedWith == ComparedWith::Nothing ? data : run.compared(data);
+        if (request.comparedWith != ComparedWith::Nothing)
+            data = run.compared(data);
+        run.listMissing(data);
+        return data;
     } catch (const RuntimeFailure& failure) {
         throw ReportError(u"%1: %2"_s.arg(request.dataFile, failure.text()));
     }

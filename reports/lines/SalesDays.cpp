@@ -8,6 +8,8 @@
 #include <array>
 #include <string>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace norvane::reports
 {
 namespace
@@ -42,6 +44,12 @@ void collectDays(store::Database& database, const char* table, const Period& per
         days.insert(query.value(0).toDate());
 }
 
+/// A shop may be closed on one weekday, so that is told.
+QString shortDay(QDate day)
+{
+    return day.toString(u"ddd dd/MM/yyyy");
+}
+
 } // namespace
 
 std::set<QDate> daysWithLast(store::Database& database, const Period& period,
@@ -68,12 +76,30 @@ std::optional<SalesDays> salesDays(store::Database& database, const Period& peri
     if (days.empty())
         return std::nullopt;
     SalesDays found{std::max(period.from, *days.begin()),
-                    std::min(period.to, days.contains(today) ? today : today.addDays(-1))};
+                    std::min(period.to, days.contains(today) ? today : today.addDays(-1)),
+                    {}};
     if (found.first > found.last)
         return std::nullopt;
-    const auto collected = std::distance(days.lower_bound(found.first), days.upper_bound(found.last));
-    found.uncollected = static_cast<int>(found.first.daysTo(found.last) + 1 - collected);
+    for (QDate day = found.first; day <= found.last; day = day.addDays(1)) {
+        if (!days.contains(day))
+            found.missing.push_back(day);
+    }
     return found;
+}
+
+QString textOfDays(const std::vector<QDate>& days, std::size_t most)
+{
+    QStringList texts;
+    std::size_t next = 0;
+    while (next < days.size() && texts.size() < static_cast<qsizetype>(most)) {
+        const std::size_t first = next++;
+        while (next < days.size() && days[next] == days[next - 1].addDays(1))
+            ++next;
+        const QString from = shortDay(days[first]);
+        texts.append(next - first == 1 ? from : u"%1 to %2"_s.arg(from, shortDay(days[next - 1])));
+    }
+    const QString text = texts.join(u", "_s);
+    return next < days.size() ? u"%1 and %2 more days"_s.arg(text).arg(days.size() - next) : text;
 }
 
 } // namespace norvane::reports

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <set>
+#include <vector>
 
 namespace norvane::reports
 {
@@ -16,7 +17,7 @@ namespace norvane::reports
 struct SalesDays {
     QDate first;
     QDate last;
-    int uncollected = 0; ///< days from first to last without a row in any table of sales
+    std::vector<QDate> missing; ///< days from first to last without a row in any table of sales
 };
 
 /// The days of @p period with a row in any table of sales, and the last such day before it, or else the first
@@ -34,5 +35,9 @@ struct SalesDays {
 /// @throws RuntimeFailure what the database reports.
 [[nodiscard]] std::optional<SalesDays> salesDays(store::Database& database, const Period& period, QDate today,
                                                  const std::function<bool()>& keepGoing);
+
+/// "Sun 01/11/2026, Sun 08/11/2026 to Tue 10/11/2026": days that follow each other are put together, and
+/// after @p most such entries comes "and 7 more days".
+[[nodiscard]] QString textOfDays(const std::vector<QDate>& days, std::size_t most);
 
 } // namespace norvane::reports

@@ -1,5 +1,6 @@
 // The reports of the sales menu over a small shop.
 #include "platform/FilePaths.h"
+#include "reports/lines/SalesDays.h"
 #include "tests/reports/ReportShop.h"
 #include "tests/store/Elsewhere.h"
 
@@ -155,6 +156,30 @@ TEST_F(SalesReports, ACourseOverDaysShowsTheDaysWithoutSales)
     EXPECT_TRUE(year.starts_with("Year to date, 01/01/2026 to 25/11/2026; 49 days without a collection: "
                                  "03/10=9 04/10=0 "));
     EXPECT_TRUE(year.ends_with(" 20/11=2.5 21/11=0 22/11=0 23/11=0 24/11=4"));
+}
+
+/// Not for a period that ends today or is one day, which say it above the lines only.
+TEST_F(SalesReports, DaysWithoutACollectionAreListedBelowTheLines)
+{
+    shop.add("TIMESALES", "ID|SALESDATE|QUANTITY|VALUE",
+             {"1|2026-10-03|1|9", "1|2026-10-05|1|2", "1|2026-10-09|1|4", "1|2026-11-24|1|1"});
+    const auto lastLine = [this](const char* period, ComparedWith with = ComparedWith::Nothing) {
+        auto request = shop.request(ReportShop::installed("timesales.rpt"),
+                                    u"{TIMESALES.SALESDATE} in "_s + QLatin1String(period));
+        request.comparedWith = with;
+        const auto lines = QString::fromStdString(linesOf(runReport(request)));
+        return lines.section(u'\n', -1).toStdString();
+    };
+    const char* const listed = "> Without a collection: Sun 04/10/2026, Tue 06/10/2026 to Thu 08/10/2026";
+    EXPECT_EQ(lastLine("date(2026,10,1) to date(2026,10,9)"), listed);
+    EXPECT_EQ(lastLine("date(2026,10,1) to date(2026,10,9)", ComparedWith::PeriodBefore), listed);
+    EXPECT_EQ(lastLine("lastmonth"), std::string(listed) + ", Sat 10/10/2026 to Sat 31/10/2026");
+    EXPECT_TRUE(lastLine("monthtodate").starts_with("# |Total"));
+    EXPECT_TRUE(lastLine("WeekToDateFromSun").starts_with("# |Total"));
+    std::vector<QDate> days;
+    for (int day = 0; day < 50; ++day)
+        days.push_back(QDate(2026, 1, 1).addDays(2 * day));
+    EXPECT_TRUE(textOfDays(days, 2).endsWith(u"Sat 03/01/2026 and 48 more days"_s));
 }
 
 TEST_F(SalesReports, ThePriceListShowsEuroPricesWhereAnyIsSet)

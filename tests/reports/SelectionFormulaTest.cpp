@@ -30,7 +30,9 @@ protected:
     }
     [[nodiscard]] std::string found(const QString& formula) const
     {
+        // Below the lines may be the list of days without a collection.
         return QString::fromStdString(linesOf(runReport(request(formula))))
+            .section(u"\n> "_s, 0, 0)
             .replace(u'\n', u' ')
             .toStdString();
     }
