@@ -37,6 +37,8 @@ constexpr HelpTopic topics[] = {
     {"ImportDialog"_L1, "many-articles-at-once"_L1},
     {"KeyLayoutVelmar"_L1, "keyboards"_L1},
     {"KeyLayoutDorvik"_L1, "keyboards"_L1},
+    {"KeyFinder"_L1, "find-and-compare-keys"_L1},
+    {"CompareLevels"_L1, "find-and-compare-keys"_L1},
     {"copylevel"_L1, "copy-levels"_L1},
     {"FrmFunctKey"_L1, "function-keys"_L1},
     {"frmwlu"_L1, "window-look-ups"_L1},

@@ -11,6 +11,7 @@
 #include "keys/layout/KeySearch.h"
 #include "keys/layout/KeyViewRow.h"
 #include "keys/layout/LevelRow.h"
+#include "keys/layout/LevelTools.h"
 #include "keys/SaveOrTell.h"
 #include "platform/Boxes.h"
 #include "ui/Appearance.h"
@@ -79,6 +80,7 @@ KeyLayout::KeyLayout(const KeyGeometry& keyboard, ApplicationValues& values, Box
     m_levels = new LevelRow(this);
     m_status = new ui::StatusLine(this);
     layOut();
+    addTools();
     addCommands();
     connectParts();
     Grid1->setCurrentCell({0, 0});
@@ -109,11 +111,10 @@ QLayout* KeyLayout::makeFindRow()
 {
     auto* const row = new QHBoxLayout;
     row->setSpacing(ui::spacing::controlGap);
-    m_find =
-        new ui::FindBar({u"KeyFind"_s, u"&Find keys:"_s,
-                         u"Marks the keys of this level with this text (Ctrl+F); Enter goes to the next"_s,
-                         narrowestFind, widestFind},
-                        this);
+    m_find = new ui::FindBar({u"KeyFind"_s, u"&Find keys:"_s,
+                              u"Marks the keys of this level with this text; Enter goes to the next"_s,
+                              narrowestFind, widestFind},
+                             this);
     row->addWidget(m_find, 1);
     QPushButton* const store = makeFormButton(u"CSCmdBtn1"_s, u"&Save"_s, this);
     QPushButton* const leave = makeFormButton(u"CSCmdBtn2"_s, u"E&xit"_s, this);
@@ -148,7 +149,7 @@ void KeyLayout::addCommands()
     connect(m_commands, &KeyCommands::finished, this, &KeyLayout::finish);
     connect(m_commands, &KeyCommands::copied, this, [this] { m_status->setNotice(u"Copied"_s); });
     connect(m_commands, &KeyCommands::marked, &m_model, &KeyGridModel::refresh);
-    connect(m_commands, &KeyCommands::findWanted, m_find, &ui::FindBar::open);
+    connect(m_commands, &KeyCommands::findWanted, m_tools, &LevelTools::find);
     connect(&m_commands->lists(), &QAction::toggled, m_lists, &QWidget::setVisible);
     connect(&m_commands->lists(), &QAction::toggled, this, [this] { Grid1->setFocus(); });
 }
@@ -158,6 +159,14 @@ void KeyLayout::enterList()
 {
     m_commands->lists().setChecked(true);
     m_lists->enterList();
+}
+
+void KeyLayout::addTools()
+{
+    m_tools = new LevelTools({m_level, m_editor, *Grid1, m_database, m_values, m_boxes, *this});
+    m_levels->addTools(m_tools->menuButton());
+    connect(m_tools, &LevelTools::placeWanted, this, &KeyLayout::goTo);
+    connect(m_tools, &LevelTools::itemWanted, this, &KeyLayout::itemWanted);
 }
 
 void KeyLayout::fitScreen()
@@ -240,6 +249,24 @@ void KeyLayout::copyLevels()
     updategrid(isCopied ? form.copiedTo() : m_level.level());
 }
 
+/// On another level, changes of this one are asked about first.
+void KeyLayout::goTo(const KeyPlace& place, KeyCell cell)
+{
+    if (place.level != m_level.level()) {
+        if (m_level.differs() && !leaveLevel())
+            return;
+        updategrid(place.level);
+    }
+    Grid1->setCurrentCell(cell);
+    Grid1->scrollTo(Grid1->currentIndex());
+}
+
+void KeyLayout::itemsChanged()
+{
+    m_level.readItems();
+    finish(Refusal::None);
+}
+
 void KeyLayout::assign(ItemKind kind, const QString& number, bool byEnter)
 {
     const KeyCells cells = m_editor.programmable(Grid1->chosenCells());
@@ -289,6 +316,7 @@ void KeyLayout::finish(Refusal refusal)
 void KeyLayout::showChanges()
 {
     m_levels->showChanged(m_level.differs());
+    m_tools->levelChanged();
 }
 
 void KeyLayout::find()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
+#include "keys/KeyPlaces.h"
 #include "keys/layout/KeyEditor.h"
 #include "keys/layout/KeyGridModel.h"
 
@@ -29,6 +30,7 @@ class KeyCommands;
 class KeyGrid;
 class KeyListPanel;
 class LevelRow;
+class LevelTools;
 
 /// The forms KeyLayoutVelmar and KeyLayoutDorvik: one level of the keyboard as a grid, and lists of what can
 /// be put on its keys. Nothing is stored before the user says so.
@@ -47,6 +49,13 @@ public:
     /// asks about changes, which only "E&xit" throws away unasked.
     void reject() override;
 
+    /// The texts of the keys again: their items may be others now.
+    void itemsChanged();
+
+Q_SIGNALS:
+    /// The user asked to see the record of an item, by its number without leading zeros.
+    void itemWanted(norvane::keys::ItemKind kind, const QString& number);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -55,6 +64,7 @@ private:
     [[nodiscard]] QLayout* makeFindRow();
     void connectParts();
     void addCommands();
+    void addTools();
     void fitScreen();
     void enterList();
 
@@ -66,6 +76,7 @@ private:
     [[nodiscard]] bool leaveLevel();
     void changeLevel(int level);
     void copyLevels();
+    void goTo(const KeyPlace& place, KeyCell cell);
 
     void assign(ItemKind kind, const QString& number, bool byEnter);
     [[nodiscard]] bool mayAssign(const KeyCells& cells, ItemKind kind, const QString& number);
@@ -89,6 +100,7 @@ private:
     KeyCommands* m_commands;
     KeyListPanel* m_lists;
     LevelRow* m_levels;
+    LevelTools* m_tools = nullptr;
     ui::FindBar* m_find;
     ui::StatusLine* m_status;
 };

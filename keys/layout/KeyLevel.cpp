@@ -78,6 +78,16 @@ void KeyLevel::read(int level)
     m_level = level;
 }
 
+void KeyLevel::readItems()
+{
+    for (const KeyCell cell : m_geometry.walk()) {
+        for (std::vector<Key>* const keys : {&m_keys, &m_stored}) {
+            Key& key = (*keys)[indexOf(cell)];
+            key = m_items.keyOf(key.function, key.lookUp);
+        }
+    }
+}
+
 /// A lock of another program is found before any row is written.
 QString KeyLevel::notSaved(const QString& failure) const
 {

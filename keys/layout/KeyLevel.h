@@ -30,6 +30,9 @@ public:
     /// @throws RuntimeFailure with Failure::NoCurrentRecord if a table has fewer rows than the level needs,
     /// Failure::Conversion for a code that is not a number; the level shown before is then kept.
     void read(int level);
+    /// Reads the texts of all keys again: the items may have other names now, or be gone.
+    /// @throws RuntimeFailure with Failure::Conversion for a code that is not a number.
+    void readItems();
     /// Stores every key of the level in one transaction, also unchanged ones: a function key's row of NLU
     /// gets its key number whatever it had before, and so does the row of a look-up after its four digits.
     /// @throws RuntimeFailure with Failure::NoCurrentRecord, Failure::TypeMismatch, Failure::DatabaseLocked

@@ -77,6 +77,12 @@ void LevelRow::showLevel(const QString& name, int level)
         m_levels[button]->setChecked(static_cast<int>(button) + 1 == level);
 }
 
+void LevelRow::addTools(QPushButton* button)
+{
+    auto* const row = static_cast<QHBoxLayout*>(layout());
+    row->insertWidget(row->count() - 1, button); // before the stretch
+}
+
 void LevelRow::showChanged(bool isChanged)
 {
     m_star->setText(isChanged ? u"*"_s : QString());

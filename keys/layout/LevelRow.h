@@ -24,6 +24,8 @@ public:
     /// @param name as the window's title has it. @param level from 1.
     void showLevel(const QString& name, int level);
     void showChanged(bool isChanged);
+    /// Places @p button after the others.
+    void addTools(QPushButton* button);
 
 Q_SIGNALS:
     void levelWanted(int level);

@@ -6,7 +6,9 @@
 #include "exchange/CompareDialog.h"
 #include "exchange/FrmComm.h"
 #include "keys/functions/FrmFunctKey.h"
+#include "keys/layout/CompareLevels.h"
 #include "keys/layout/copylevel.h"
+#include "keys/layout/KeyFinder.h"
 #include "keys/layout/KeyLayout.h"
 #include "keys/lookups/frmwlu.h"
 #include "overlay/CorrectionForm.h"
@@ -46,11 +48,19 @@ namespace
 struct Ground {
     explicit Ground(FilledShop& filled) : shop(filled) {}
 
+    [[nodiscard]] const keys::KeyLevel& levelOne()
+    {
+        level.read(1);
+        return level;
+    }
+
     FilledShop& shop;
     ApplicationValues values = shop.values();
     overlay::SystemDialogs dialogs;
     overlay::PrinterInUse printer;
     store::Database database = store::Database(values.databasePath);
+    std::shared_ptr<store::Database> connection = std::make_shared<store::Database>(values.databasePath);
+    keys::KeyLevel level = keys::KeyLevel(keys::velmarKeyboard(), connection);
     overlay::Document document = overlay::Document(overlay::Keyboard::Velmar);
     paper::PrinterCorrections corrections = paper::PrinterCorrections(shop.folder().appFile(u"none.ini"_s));
 };
@@ -141,6 +151,14 @@ constexpr Dialog dialogs[] = {
     {"keys-velmar",
      [](Ground& g, QWidget* p) -> QWidget* {
          return new keys::KeyLayout(keys::velmarKeyboard(), g.values, g.shop.boxes(), p);
+     }},
+    {"find-keys",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new keys::KeyFinder(g.levelOne(), g.connection, p);
+     }},
+    {"compare-levels",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new keys::CompareLevels(g.levelOne(), g.connection, g.shop.boxes(), p);
      }},
     {"copy-level",
      [](Ground& g, QWidget* p) -> QWidget* {

@@ -240,7 +240,7 @@ TEST_F(KeyLayoutTest, FindsKeysOfTheLevelAndTheItemOnAllLevels)
     shop.execute("update keylink set keylink = '6' where id = 21");
     boxes.answers = {false};
     press("CSCmdBtn3");
-    key(Qt::Key_F, Qt::ControlModifier);
+    key(Qt::Key_F, Qt::AltModifier);
     QTest::keyClicks(QApplication::focusWidget(), u"c"_s);
     QTest::keyClicks(QApplication::focusWidget(), u"as"_s);
     EXPECT_EQ(label("KeyFindOutcome"), "2 found");

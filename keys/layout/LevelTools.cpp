@@ -1,0 +1,97 @@
+// See LevelTools.h.
+#include "keys/layout/LevelTools.h"
+
+#include "keys/layout/CompareLevels.h"
+#include "keys/layout/KeyFinder.h"
+#include "keys/layout/KeyGrid.h"
+#include "keys/layout/KeyWords.h"
+#include "keys/layout/LevelRow.h"
+#include "platform/FailureBox.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QPushButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::keys
+{
+
+/// A menu entry; without a name a separator.
+struct LevelTools::Entry {
+    const char* name = "";
+    const char* caption = "";
+    const char* keys = "";
+    Handler handler = nullptr;
+};
+
+LevelTools::LevelTools(const LevelGround& ground)
+    : QObject(&ground.form), m_ground(ground),
+      m_button(makeFormButton(u"MoreButton"_s, u"&More"_s, &ground.form))
+{
+    m_button->setMenu(new QMenu(m_button));
+    m_button->menu()->setObjectName(u"MoreMenu"_s);
+    addActions();
+    connect(&ground.grid, &QTableView::doubleClicked, this, &LevelTools::openItem);
+}
+
+/// The entries of a key are in the context menu of the keys, too.
+void LevelTools::addActions()
+{
+    static constexpr Entry entries[] = {
+        {"OpenItem", "&Open Item of Key", "Ctrl+Return; Ctrl+Enter", &LevelTools::openItem},
+        {},
+        {"FindKeys", "&Find on All Levels...", "", &LevelTools::find},
+        {"CompareLevels", "&Compare Levels...", "Ctrl+L", &LevelTools::compareLevels},
+    };
+    for (const Entry& entry : entries) {
+        auto* const action = new QAction(QLatin1StringView(entry.caption), this);
+        m_button->menu()->addAction(action);
+        if (entry.handler == nullptr) {
+            action->setSeparator(true);
+            continue;
+        }
+        action->setObjectName(QLatin1StringView(entry.name));
+        action->setShortcuts(QKeySequence::listFromString(QLatin1StringView(entry.keys)));
+        m_ground.form.addAction(action);
+        connect(action, &QAction::triggered, this, entry.handler);
+    }
+    m_ground.grid.addAction(findChild<QAction*>(u"OpenItem"_s));
+}
+
+void LevelTools::levelChanged()
+{
+    if (m_finder != nullptr && m_finder->isVisible())
+        m_finder->refresh();
+}
+
+void LevelTools::find()
+{
+    if (m_finder == nullptr) {
+        m_finder = new KeyFinder(m_ground.level, m_ground.database, &m_ground.form);
+        connect(m_finder, &KeyFinder::placeWanted, this, &LevelTools::placeWanted);
+        connect(m_finder, &KeyFinder::itemWanted, this, &LevelTools::itemWanted);
+    }
+    m_finder->openToType();
+}
+
+/// An item that does not exist has no record.
+void LevelTools::openItem()
+{
+    const Key& key = m_ground.level.key(m_ground.grid.currentCell());
+    if (key.function.isEmpty() || key.state == KeyState::Missing || key.state == KeyState::Fixed)
+        m_ground.boxes.beep();
+    else
+        Q_EMIT itemWanted(kindOf(key.function), shownItemNumber(key));
+}
+
+void LevelTools::compareLevels()
+{
+    openOrTell(m_ground.boxes, [this] {
+        CompareLevels dialog(m_ground.level, m_ground.database, m_ground.boxes, &m_ground.form);
+        if (dialog.exec() == QDialog::Accepted)
+            Q_EMIT placeWanted(dialog.wantedPlace(), dialog.wantedCell());
+    });
+}
+
+} // namespace norvane::keys

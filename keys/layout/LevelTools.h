@@ -1,0 +1,70 @@
+// What can be done with whole levels, and with what keys hold: the menu "More" of the editor.
+#pragma once
+
+#include "base/ApplicationValues.h"
+#include "keys/KeyPlaces.h"
+#include "keys/layout/KeyEditor.h"
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+
+class QPushButton;
+class QWidget;
+
+namespace norvane
+{
+class Boxes;
+}
+
+namespace norvane::keys
+{
+
+class KeyFinder;
+class KeyGrid;
+
+/// What the tools work on. All of it must outlive them.
+struct LevelGround {
+    KeyLevel& level;
+    KeyEditor& editor;
+    KeyGrid& grid;
+    const std::shared_ptr<store::Database>& database;
+    const ApplicationValues& values;
+    Boxes& boxes;
+    QWidget& form;
+};
+
+/// Has its shortcuts in the whole form.
+class LevelTools : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit LevelTools(const LevelGround& ground);
+
+    /// The button with the menu, to be placed by the form.
+    [[nodiscard]] QPushButton* menuButton() const { return m_button; }
+    /// Keys were changed, or another level is shown.
+    void levelChanged();
+    void find();
+
+Q_SIGNALS:
+    void placeWanted(const norvane::keys::KeyPlace& place, const norvane::keys::KeyCell& cell);
+    /// The user asked to see the record of an item, by its number without leading zeros.
+    void itemWanted(norvane::keys::ItemKind kind, const QString& number);
+
+private:
+    using Handler = void (LevelTools::*)();
+    struct Entry;
+
+    void addActions();
+    void openItem();
+    void compareLevels();
+
+    LevelGround m_ground;
+    QPushButton* m_button;
+    KeyFinder* m_finder = nullptr; ///< once it was opened
+};
+
+} // namespace norvane::keys
