@@ -26,7 +26,7 @@ namespace
 
 constexpr QSize comparisonSize(1320, 700);
 constexpr int listHeight = 150;
-constexpr int sideColumnWidth = 320;
+constexpr int sideColumnWidth = 440;
 
 int levelBeside(int level)
 {

@@ -20,6 +20,7 @@ namespace
 
 constexpr int narrowestKey = 34;
 constexpr int lowestKey = 26;
+constexpr int keyFontPixels = 9;
 
 /// Two keyboards side by side have no room for 17 digits.
 class ShortModel : public KeyGridModel
@@ -71,6 +72,9 @@ void ComparedSide::makeGrid(const QString& name)
     ui::nameControl(*m_grid, name + u"Keys"_s, name + u" keys"_s);
     m_grid->setModel(m_model.get());
     m_grid->setItemDelegate(new KeyCellDelegate(m_grid));
+    QFont small = m_grid->font();
+    small.setPixelSize(ui::scaled(keyFontPixels));
+    m_grid->setFont(small);
     stretch(*m_grid->horizontalHeader(), narrowestKey);
     stretch(*m_grid->verticalHeader(), lowestKey);
     m_grid->setEditTriggers(QTableView::NoEditTriggers);
