@@ -42,6 +42,7 @@ reports::ReportRequest requestOf(const ReportEntry& entry, const ApplicationValu
 {
     reports::ReportRequest request;
     request.reportFile = joinPath(values.appPath, entry.file);
+    request.programFolder = values.appPath;
     request.dataFile = values.databasePath;
     request.customer = customerOf(values, values.databasePath);
     request.selectionFormula = entry.formula;

@@ -95,6 +95,7 @@ void MoreReports::run(reports::Destination destination)
         return;
     reports::ReportRequest request;
     request.reportFile = report->path;
+    request.programFolder = m_values.appPath;
     request.dataFile = m_values.databasePath;
     request.customer = customerOf(m_values, m_values.databasePath);
     if (!report->dayField.isEmpty()) {

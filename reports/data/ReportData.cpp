@@ -51,6 +51,24 @@ void ReportData::addLine(LineKind kind, std::vector<ReportCell> cells)
         addCell(m_cells[column], cells[column]);
 }
 
+void ReportData::setLinkValue(const QString& value)
+{
+    m_linkValues.resize(m_kinds.size());
+    m_linkValues.back() = value;
+}
+
+std::optional<QString> ReportData::linkValue(qsizetype line) const
+{
+    const auto place = static_cast<std::size_t>(line);
+    return line >= 0 && place < m_linkValues.size() ? m_linkValues[place] : std::nullopt;
+}
+
+int ReportData::namingColumns() const
+{
+    const auto number = std::ranges::find(m_columns, ColumnKind::Number, &ReportColumn::kind);
+    return static_cast<int>(number - m_columns.begin());
+}
+
 void ReportData::addCell(Cells& cells, const ReportCell& cell)
 {
     if (const auto* text = std::get_if<QString>(&cell)) {

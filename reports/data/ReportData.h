@@ -6,6 +6,7 @@
 #include "platform/Decimal.h"
 #include "reports/data/Alignment.h"
 #include "reports/data/Chart.h"
+#include "reports/data/ReportLink.h"
 #include "reports/data/ShownNumber.h"
 
 #include <QDate>
@@ -13,6 +14,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -72,6 +74,7 @@ public:
     ReportHeading heading;
     PageSetup page;
     std::vector<Chart> charts;
+    std::optional<ReportLink> link; ///< of the lines that have a value for it
 
     explicit ReportData(std::vector<ReportColumn> columns = {});
 
@@ -80,6 +83,11 @@ public:
 
     /// Adds a line; @p cells beyond the columns are an error of the caller, missing ones remain empty.
     void addLine(LineKind kind, std::vector<ReportCell> cells);
+    /// What the last line added opens by the link of the report.
+    void setLinkValue(const QString& value);
+    [[nodiscard]] std::optional<QString> linkValue(qsizetype line) const;
+    /// Columns before the first number; their texts tell the lines apart.
+    [[nodiscard]] int namingColumns() const;
     /// Removes the columns for which @p isKept is false, with their cells.
     void keepColumns(const std::vector<bool>& isKept);
     [[nodiscard]] qsizetype lineCount() const { return static_cast<qsizetype>(m_kinds.size()); }
@@ -102,6 +110,7 @@ private:
 
     std::vector<ReportColumn> m_columns;
     std::vector<LineKind> m_kinds;
+    std::vector<std::optional<QString>> m_linkValues; ///< up to the last line that has one
     std::vector<Cells> m_cells;
     std::string m_texts; ///< of all cells, one after the other, in UTF-8
 };

@@ -16,7 +16,9 @@ using ColumnOf = std::function<std::string(const FieldName&)>;
 
 bool isTest(const Condition& condition)
 {
-    return condition.kind == Condition::Kind::Test || condition.kind == Condition::Kind::TwoFields;
+    using Kind = Condition::Kind;
+    return condition.kind == Kind::Test || condition.kind == Kind::TwoFields ||
+           condition.kind == Kind::Nothing;
 }
 
 /// Whether all fields of a test can be read; a table that cannot is added to @p others.
@@ -104,6 +106,8 @@ public:
         case Condition::Kind::TwoFields:
             return '(' + m_column(condition.field) + ' ' + condition.comparison + ' ' +
                    m_column(condition.other) + ')';
+        case Condition::Kind::Nothing:
+            return '(' + namesNothingSql(condition.field, m_column(condition.field)) + ')';
         case Condition::Kind::Not:
             return "(NOT " + write(condition.parts.front()) + ')';
         case Condition::Kind::Any:
@@ -172,6 +176,11 @@ bool mentions(const Condition& condition, const std::function<bool(const FieldNa
         return isWanted(condition.field) || (condition.other.table && isWanted(condition.other));
     return std::ranges::any_of(condition.parts,
                                [&isWanted](const auto& part) { return mentions(part, isWanted); });
+}
+
+std::string namesNothingSql(const FieldName& field, const std::string& column)
+{
+    return field.isText() ? "ifnull(ltrim(" + column + ", '0 '), '') = ''" : "ifnull(" + column + ", 0) = 0";
 }
 
 std::string conditionSql(const Condition& condition, const ColumnOf& column,

@@ -19,11 +19,12 @@ namespace norvane::reports
 /// A parsed formula: tests of fields, joined by and, or and not.
 struct Condition {
     enum class Kind {
-        All,      ///< all parts; without parts: always true
-        Any,      ///< of the parts
-        Not,      ///< the one part
-        Test,     ///< a field against a value
-        TwoFields ///< a field against another one
+        All,       ///< all parts; without parts: always true
+        Any,       ///< of the parts
+        Not,       ///< the one part
+        Test,      ///< a field against a value
+        TwoFields, ///< a field against another one
+        Nothing    ///< a field that names no record: null, 0, blank or zeros alone
     };
 
     Kind kind = Kind::All;
@@ -53,6 +54,9 @@ struct Condition {
 /// Whether any test names a field for which @p isWanted is true.
 [[nodiscard]] bool mentions(const Condition& condition,
                             const std::function<bool(const FieldName&)>& isWanted);
+
+/// True for a row in which @p column, that of @p field, names no record. It is never null.
+[[nodiscard]] std::string namesNothingSql(const FieldName& field, const std::string& column);
 
 /// The condition as SQL with a question mark for each value. The values are added to @p values, in that
 /// order.

@@ -49,6 +49,7 @@ public:
     [[nodiscard]] qsizetype lineOf(const QString& key) const { return m_lines.value(key, -1); }
     [[nodiscard]] LineKind kind(qsizetype line) const { return m_data.lineKind(line); }
     [[nodiscard]] ReportCell cell(qsizetype line, int column) const { return m_data.cell(line, column); }
+    [[nodiscard]] std::optional<QString> linkValue(qsizetype line) const { return m_data.linkValue(line); }
     [[nodiscard]] QString name(qsizetype line) const { return m_data.plainText(line, 0); }
 
 private:
@@ -184,6 +185,8 @@ private:
                 addNumbers(cells, cellOf(m_now, now, i), cellOf(m_before, before, i));
         }
         m_result.addLine(named.kind(line), std::move(cells));
+        if (const auto value = named.linkValue(line))
+            m_result.setLinkValue(*value);
     }
 
     [[nodiscard]] static ReportCell cellOf(const ComparedLines& lines, qsizetype line, std::size_t compared)
@@ -223,6 +226,7 @@ ReportData comparedReport(const ReportData& now, const ReportData& before)
     result.heading = now.heading;
     result.page = now.page;
     result.charts = now.charts;
+    result.link = now.link;
     return result;
 }
 

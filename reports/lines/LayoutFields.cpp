@@ -16,14 +16,6 @@ const Join* joinOf(const ReportLayout& layout, const store::TableDefinition* tab
     return found == layout.joins.end() ? nullptr : &*found;
 }
 
-/// Follows the joins back to the field of the report's own table by which the record of @p field is found.
-FieldName rootOf(const ReportLayout& layout, FieldName field)
-{
-    while (const auto* join = joinOf(layout, field.table))
-        field = join->of;
-    return field;
-}
-
 std::shared_ptr<const NameList> nameListOf(ReportLayout& layout, const FieldName& name, qsizetype column)
 {
     const auto same =
@@ -62,6 +54,13 @@ std::optional<SortKey> parseSortKey(QStringView text, const store::TableDefiniti
     if (tokens.current().kind != TokenKind::End)
         return std::nullopt;
     return key;
+}
+
+FieldName rootOf(const ReportLayout& layout, FieldName field)
+{
+    while (const auto* join = joinOf(layout, field.table))
+        field = join->of;
+    return field;
 }
 
 void checkField(const ReportLayout& layout, const LineSource& source, const FieldName& field,

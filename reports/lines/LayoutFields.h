@@ -13,6 +13,9 @@ namespace norvane::reports
 /// @throws FormulaError
 [[nodiscard]] std::optional<SortKey> parseSortKey(QStringView text, const store::TableDefinition* own);
 
+/// Follows the joins back to the field of the report's own table by which the record of @p field is found.
+[[nodiscard]] FieldName rootOf(const ReportLayout& layout, FieldName field);
+
 /// @throws FormulaError for a field that @p source cannot provide: one of a table that is not read, or one
 /// that is neither the same in all rows of a line nor a number to be added up.
 void checkField(const ReportLayout& layout, const LineSource& source, const FieldName& field,

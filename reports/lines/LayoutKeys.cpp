@@ -146,6 +146,26 @@ bool takeGroupBy(const QString& value, LayoutTarget& target)
     return true;
 }
 
+bool takeLinkReport(const QString& value, LayoutTarget& target)
+{
+    target.layout.link.emplace().report = value;
+    return value.endsWith(".rpt"_L1, Qt::CaseInsensitive) && !value.contains(u'/') && !value.contains(u'\\');
+}
+
+/// Lines that are groups alone are told apart by the field of the group.
+bool takeLinkField(const QString& value, LayoutTarget& target)
+{
+    const auto fields = parseFields(value, target.table());
+    const auto& source = *target.source;
+    if (fields.size() != 1 || source.isSum(fields.front()))
+        return false;
+    if (target.layout.group && !target.layout.group->showsLines && fields.front() != source.groupBy)
+        return false;
+    target.layout.link->field = fields.front();
+    target.layout.link->slot = target.fields().slotOf(fields.front(), 1);
+    return true;
+}
+
 bool takeChartBy(const QString& value, LayoutTarget& target)
 {
     const auto fields = parseFields(value, target.table());
@@ -230,6 +250,10 @@ constexpr std::array<KeyRule, 4> groupKeys{{
     {u"Missing", false, "a text"_L1, [](const QString& value, LayoutTarget& target) { target.layout.group->heading.missing = parseTemplate(value, target.fields()); return true; }},
     {u"Lines", false, "YES, or NO for groups alone"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.layout.group->showsLines); }},
 }};
+constexpr std::array<KeyRule, 2> linkKeys{{
+    {u"Report", true, "the name of a report file, such as articledays.rpt"_L1, takeLinkReport},
+    {u"Field", true, "a field that tells the lines apart, such as {PLUSALES.ID}; of groups alone, that of [Group]"_L1, takeLinkField},
+}};
 constexpr auto sortExpected = "a field, with \"by value\" or \"descending\" after it or nothing"_L1;
 constexpr std::array<KeyRule, 3> sortKeys{{
     {u"Key1", true, sortExpected, takeSort},
@@ -255,8 +279,8 @@ constexpr std::array<KeyRule, 11> chartKeys{{
 
 const LayoutKeys& layoutKeys()
 {
-    static constexpr LayoutKeys keys{reportKeys, joinKeys,  columnKeys,  groupKeys,
-                                     sortKeys,   chartKeys, furtherValue};
+    static constexpr LayoutKeys keys{reportKeys, joinKeys,  columnKeys, groupKeys,
+                                     sortKeys,   chartKeys, linkKeys,   furtherValue};
     return keys;
 }
 

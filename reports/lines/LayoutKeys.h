@@ -40,6 +40,7 @@ struct LayoutKeys {
     std::span<const KeyRule> group;
     std::span<const KeyRule> sort;
     std::span<const KeyRule> chart;
+    std::span<const KeyRule> link;
     KeyRule furtherValue; ///< of a column, after its value: Value2 and so on
 };
 [[nodiscard]] const LayoutKeys& layoutKeys();

@@ -37,6 +37,8 @@ public:
             readKeys(u"Group"_s, layoutKeys().group, target);
         if (hasSection(u"Sort"_s))
             readKeys(u"Sort"_s, layoutKeys().sort, target);
+        if (hasSection(u"Link"_s))
+            readKeys(u"Link"_s, layoutKeys().link, target);
         readCharts();
         return std::move(m_layout);
     }
@@ -55,14 +57,15 @@ private:
     /// gap in the numbers.
     void checkSections() const
     {
-        static const QRegularExpression known(u"^(Report|Group|Sort|(Join|Column|Chart)([1-9][0-9]{0,3}))$"_s,
-                                              QRegularExpression::CaseInsensitiveOption);
+        static const QRegularExpression known(
+            u"^(Report|Group|Sort|Link|(Join|Column|Chart)([1-9][0-9]{0,3}))$"_s,
+            QRegularExpression::CaseInsensitiveOption);
         const QStringList sections = m_file.sections();
         for (const QString& section : sections) {
             const auto match = known.match(section);
             if (!match.hasMatch()) {
                 fail(u"section [%1]"_s.arg(section),
-                     u"Report, Join1, Column1, Group, Sort or Chart1 is expected"_s);
+                     u"Report, Join1, Column1, Group, Sort, Link or Chart1 is expected"_s);
             }
             const QString before = match.captured(2) + QString::number(match.captured(3).toInt() - 1);
             if (match.captured(3).toInt() > 1 && !sections.contains(before, Qt::CaseInsensitive))

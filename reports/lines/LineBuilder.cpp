@@ -3,6 +3,7 @@
 
 #include "platform/RuntimeFailure.h"
 #include "reports/formula/ExactNumbers.h"
+#include "reports/lines/LineFilters.h"
 
 #include <algorithm>
 
@@ -158,6 +159,7 @@ void LineBuilder::closeGroup()
     m_charts.addGroup(m_groupHeading, {m_groupTotals.texts(), m_whole});
     if (!m_layout.group->showsLines) {
         addTotal(LineKind::Detail, m_groupTotals, m_groupHeading);
+        setLink(*m_group);
     } else if (m_isTotalled) {
         addTotal(LineKind::Subtotal, m_groupTotals, u"Total %1"_s.arg(m_groupHeading));
     }
@@ -171,6 +173,14 @@ void LineBuilder::addDetail(const LineFields& fields)
     for (const auto& column : m_layout.columns)
         cells.push_back(cell(column, fields));
     m_data.addLine(LineKind::Detail, std::move(cells));
+    if (m_layout.link)
+        setLink(fields.at(static_cast<std::size_t>(m_layout.link->slot)));
+}
+
+void LineBuilder::setLink(const store::Value& value)
+{
+    if (m_layout.link)
+        m_data.setLinkValue(filterValue(value));
 }
 
 ReportCell LineBuilder::cell(const ColumnLayout& column, const LineFields& fields) const

@@ -60,6 +60,7 @@ private:
     void changeGroup(const LineFields& fields);
     void closeGroup();
     void addDetail(const LineFields& fields);
+    void setLink(const store::Value& value);
     void addTotal(LineKind kind, const SlotTotals& totals, const QString& label);
     [[nodiscard]] ReportCell cell(const ColumnLayout& column, const LineFields& fields) const;
     [[nodiscard]] static std::optional<ReportCell> shortNumber(const ColumnLayout& column,

@@ -44,6 +44,8 @@ public:
         for (const auto& key : source.order)
             need(key.field);
         collectConditionFields(condition);
+        if (source.where)
+            collectConditionFields(*source.where);
         // A join may be found by a field of an earlier join, so the last join is looked at first.
         for (std::size_t number = joins.size(); number-- > 0;) {
             if (isJoined(*joins[number].table))
@@ -221,9 +223,7 @@ private:
     /// True, and so last, for a row without a group: the register left the number empty or put zeros there.
     [[nodiscard]] std::string isNoGroup(const FieldName& field) const
     {
-        const std::string group = column(field, !m_source.addsUp());
-        const std::string left = field.isText() ? "ltrim(" + group + ", '0 ')" : group;
-        return "ifnull(" + left + (field.isText() ? ", '') = ''" : ", 0) = 0");
+        return namesNothingSql(field, column(field, !m_source.addsUp()));
     }
 
     [[nodiscard]] std::string orderTerm(const SortKey& key) const

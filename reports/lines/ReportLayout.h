@@ -72,6 +72,13 @@ struct GroupLayout {
     bool showsLines = true; ///< otherwise the group is one line, with its heading and totals
 };
 
+/// What the lines open: another layout, filtered by the value of a field in the line.
+struct LinkLayout {
+    QString report; ///< file name of the layout
+    FieldName field;
+    Slot slot = 0;
+};
+
 /// Where the points of a chart come from.
 enum class PointSource { Lines, Groups, Query };
 
@@ -99,6 +106,7 @@ struct ReportLayout {
     std::vector<Join> joins;
     std::vector<ColumnLayout> columns;
     std::optional<GroupLayout> group;
+    std::optional<LinkLayout> link;
     bool showsZeroLines = true;
     bool showsEmptyRecords = false; ///< of a list
     std::vector<std::shared_ptr<NameList>> nameLists;

@@ -2,6 +2,7 @@
 #include "reports/lines/ReportQuery.h"
 
 #include "platform/RuntimeFailure.h"
+#include "reports/lines/LayoutFields.h"
 #include "reports/lines/LineStatement.h"
 #include "store/catalogue/Catalogue.h"
 #include "store/engine/BoundQuery.h"
@@ -68,8 +69,8 @@ std::string ReportQuery::monthRows(const LineSource& source)
     if (!source.addsUp() || !day || source.isKey(*day) || !isOnlyPeriod(m_condition, *day))
         return {};
     const auto period = periodOf(m_condition, *day);
-    const auto needsRows = [&source](const FieldName& field) {
-        return !source.isKey(field);
+    const auto needsRows = [&](const FieldName& field) {
+        return !source.isKey(rootOf(m_layout, field));
     };
     if (!period || period->isOpen() || (source.where && mentions(*source.where, needsRows)))
         return {};

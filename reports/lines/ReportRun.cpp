@@ -7,6 +7,7 @@
 #include "reports/lines/ComparedReport.h"
 #include "reports/lines/LayoutReader.h"
 #include "reports/lines/LineBuilder.h"
+#include "reports/lines/LineFilters.h"
 #include "reports/lines/ReportQuery.h"
 
 #include <algorithm>
@@ -87,7 +88,14 @@ public:
         if (data.lineCount() == 0)
             data.heading.notice = notice();
         setPage(data);
+        if (m_layout.link)
+            data.link = linkOf(m_layout, m_request.filters);
         return data;
+    }
+    [[nodiscard]] bool hasComparedColumn() const
+    {
+        return std::ranges::any_of(m_layout.columns,
+                                   [](const ColumnLayout& column) { return column.column.isCompared; });
     }
     /// What make() has made beside the other period of the request.
     ReportData compared(const ReportData& data);
@@ -134,6 +142,7 @@ void Run::select()
         } else {
             m_isOnlyPeriod = condition.isAlwaysTrue();
         }
+        addFilters(m_layout, m_request.filters, m_otherTables);
         m_query.select(condition, today);
     } catch (const FormulaError& error) {
         throw ReportError(u"%1: mistake in the selection formula, %2."_s.arg(m_layout.path, error.text()));
@@ -237,6 +246,8 @@ void Run::setHeading(ReportHeading& heading) const
 QString Run::subtitle() const
 {
     QStringList parts;
+    for (const LineFilter& filter : m_request.filters)
+        parts.append(filter.name);
     if (m_period)
         parts.append(m_period->text());
     if (m_days && !m_days->missing.empty() && m_period->from != m_period->to)
@@ -272,8 +283,7 @@ void Run::setPage(ReportData& data) const
 Period Run::otherPeriod() const
 {
     const bool isPeriod = m_period && !m_period->isOpen() && m_isOnlyPeriod;
-    const bool hasNumber = std::ranges::any_of(
-        m_layout.columns, [](const ColumnLayout& column) { return column.column.isCompared; });
+    const bool hasNumber = hasComparedColumn();
     if (!isPeriod || !hasNumber) {
         throw ReportError(u"%1 cannot be compared with another period: %2."_s.arg(
             m_layout.path,
@@ -288,6 +298,7 @@ ReportData Run::compared(const ReportData& data)
     const Period period = otherPeriod();
     ReportRequest request = m_request;
     request.selectionFormula = formulaOf(m_layout.source.day()->text(), period);
+    request.filters.clear(); // the layout has them already
     Run other(request, m_layout, m_keepGoing);
     const ReportData before = other.make();
     ReportData both = comparedReport(data, before);
@@ -315,7 +326,10 @@ ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing)
     try {
         Run run(request, readLayout(request.reportFile), keepGoing);
         ReportData data = run.make();
-        if (request.comparedWith != ComparedWith::Nothing)
+        // A link from a compared report may lead to one that has nothing to compare.
+        const bool isAlone = request.comparedWith == ComparedWith::Nothing ||
+                             (!request.filters.empty() && !run.hasComparedColumn());
+        if (!isAlone)
             data = run.compared(data);
         run.listMissing(data);
         return data;

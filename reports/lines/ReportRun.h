@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <functional>
+#include <vector>
 
 namespace norvane::reports
 {
@@ -26,6 +27,8 @@ struct ReportRequest {
     /// Called with the name of each step that takes long.
     std::function<void(const QString& step)> showStep = {};
     ComparedWith comparedWith = ComparedWith::Nothing;
+    QString programFolder = {};           ///< where links find layouts that are not beside the report's own
+    std::vector<LineFilter> filters = {}; ///< of the lines that led here, see LineFilters.h
 };
 
 /// @return the report. When no row is selected, its heading has a notice that says so.

@@ -17,8 +17,12 @@ public:
     /// @p document must outlive this.
     ChartPane(const ReportDocument& document, QWidget* parent);
 
+    /// Shows the charts of another document.
+    void setDocument(const ReportDocument& document);
+
 private:
     class Sheet;
+    Sheet* m_sheet;
 };
 
 } // namespace norvane::reports

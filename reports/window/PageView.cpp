@@ -2,6 +2,8 @@
 #include "reports/window/PageView.h"
 
 #include "reports/data/PrintableText.h"
+#include "reports/pages/LinkPlaces.h"
+#include "reports/window/LinkMarks.h"
 #include "ui/Appearance.h"
 
 #include <QKeyEvent>
@@ -10,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,11 +27,43 @@ constexpr double smallestScale = 0.2;
 
 } // namespace
 
+struct PageView::PagePoint {
+    int page;
+    QPointF place; ///< in mm
+};
+
 PageView::PageView(const ReportDocument& document, QWidget* parent)
-    : ZoomedView(paper::Zoom::FitWidth, smallestScale, parent), m_document(document)
+    : ZoomedView(paper::Zoom::FitWidth, smallestScale, parent), m_document(&document)
 {
     // If the bar appeared only with the second page, the first one would become narrower while it is read.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+void PageView::setDocument(const ReportDocument& document)
+{
+    m_document = &document;
+    m_anchor = m_current = m_hovered = m_pressed = -1;
+    updateScale();
+    goToPage(0);
+    updatePages();
+}
+
+void PageView::offerLinks()
+{
+    m_offersLinks = true;
+    viewport()->setMouseTracking(true);
+    viewport()->update();
+}
+
+ReadingPlace PageView::readingPlace() const
+{
+    return {verticalScrollBar()->value() / pagePitch(), m_current};
+}
+
+void PageView::goTo(const ReadingPlace& place)
+{
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(place.page * pagePitch())));
+    choose(place.line < m_document->report().lineCount() ? place.line : -1, false);
 }
 
 void PageView::updatePages()
@@ -56,12 +91,12 @@ QRectF PageView::pageRect(int page) const
 int PageView::currentPage() const
 {
     const int middle = verticalScrollBar()->value() + viewport()->height() / 3;
-    return qBound(0, static_cast<int>((middle - gap) / pagePitch()), m_document.pages().pageCount() - 1);
+    return qBound(0, static_cast<int>((middle - gap) / pagePitch()), m_document->pages().pageCount() - 1);
 }
 
 void PageView::goToPage(int page)
 {
-    const int last = m_document.pages().pageCount() - 1;
+    const int last = m_document->pages().pageCount() - 1;
     verticalScrollBar()->setValue(static_cast<int>(std::lround(qBound(0, page, last) * pagePitch())));
 }
 
@@ -73,7 +108,7 @@ QSizeF PageView::surroundings() const
 QSizeF PageView::contentsSize() const
 {
     return {sheet().width() * pixelsPerMillimetre() + 2 * gap,
-            gap + m_document.pages().pageCount() * pagePitch()};
+            gap + m_document->pages().pageCount() * pagePitch()};
 }
 
 /// The same part of the pages remains in sight.
@@ -96,7 +131,7 @@ void PageView::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), ui::colours::desktop());
     const auto first = static_cast<int>((verticalScrollBar()->value() - gap) / pagePitch());
-    for (int page = qMax(0, first); page < m_document.pages().pageCount(); ++page) {
+    for (int page = qMax(0, first); page < m_document->pages().pageCount(); ++page) {
         if (pageRect(page).top() > viewport()->height())
             return;
         paintPage(painter, page);
@@ -110,7 +145,9 @@ void PageView::paintPage(QPainter& painter, int page) const
     painter.save();
     painter.translate(rect.topLeft());
     painter.scale(pixelsPerMillimetre(), pixelsPerMillimetre());
-    m_document.paint(painter, page);
+    m_document->paint(painter, page);
+    if (m_offersLinks)
+        paintLinkMarks(painter, *m_document, page, m_hovered);
     if (hasChosen())
         paintChosen(painter, page);
     painter.restore();
@@ -125,7 +162,7 @@ void PageView::paintChosen(QPainter& painter, int page) const
 {
     QColor colour = ui::colours::accent;
     colour.setAlphaF(0.25F);
-    for (const PlacedLine& line : m_document.pages().placedLines(page)) {
+    for (const PlacedLine& line : m_document->pages().placedLines(page)) {
         if (isChosen(line))
             painter.fillRect(line.place, colour);
     }
@@ -133,6 +170,8 @@ void PageView::paintChosen(QPainter& painter, int page) const
 
 void PageView::keyPressEvent(QKeyEvent* event)
 {
+    if (m_offersLinks && useLinks(*event))
+        return;
     const bool extends = event->modifiers().testFlag(Qt::ShiftModifier);
     const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
     if (step != 0 && extends && hasChosen()) {
@@ -144,6 +183,38 @@ void PageView::keyPressEvent(QKeyEvent* event)
     } else if (!turnPage(event->key())) {
         ZoomedView::keyPressEvent(event);
     }
+}
+
+bool PageView::useLinks(const QKeyEvent& event)
+{
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const bool isArrow = event.key() == Qt::Key_Down || event.key() == Qt::Key_Up;
+    if (isArrow && event.modifiers() == Qt::ControlModifier) {
+        chooseLink(event.key() == Qt::Key_Down ? 1 : -1);
+        return true;
+    }
+    if (!isEnter || !m_document->report().linkValue(m_current))
+        return false;
+    Q_EMIT linkOpened(m_current);
+    return true;
+}
+
+/// From the chosen line, or from the first one of the current page.
+void PageView::chooseLink(int step)
+{
+    const qsizetype from = hasChosen() ? m_current + step : m_document->pages().page(currentPage()).firstLine;
+    const qsizetype found = nextLink(m_document->report(), from, step);
+    if (found >= 0)
+        showLine(found);
+}
+
+void PageView::hover(qsizetype line)
+{
+    if (line == m_hovered)
+        return;
+    m_hovered = line;
+    viewport()->setCursor(line < 0 ? Qt::ArrowCursor : Qt::PointingHandCursor);
+    viewport()->update();
 }
 
 bool PageView::turnPage(int key)
@@ -160,7 +231,7 @@ bool PageView::turnPage(int key)
         goToPage(0);
         return true;
     case Qt::Key_End:
-        goToPage(m_document.pages().pageCount() - 1);
+        goToPage(m_document->pages().pageCount() - 1);
         return true;
     default:
         return false;
@@ -174,14 +245,36 @@ void PageView::scrollBy(int pixels)
 
 void PageView::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton)
-        choose(lineAt(event->pos()), event->modifiers().testFlag(Qt::ShiftModifier));
+    if (event->button() == Qt::BackButton || event->button() == Qt::ForwardButton)
+        Q_EMIT goWanted(event->button() == Qt::BackButton ? -1 : 1);
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_pressed = event->modifiers() == Qt::NoModifier ? linkAt(event->pos()) : -1;
+    choose(lineAt(event->pos()), event->modifiers().testFlag(Qt::ShiftModifier));
+}
+
+/// Lines are chosen by pressing and dragging; only a click that does not move to another line opens one.
+void PageView::mouseReleaseEvent(QMouseEvent* event)
+{
+    const qsizetype pressed = std::exchange(m_pressed, -1);
+    if (event->button() == Qt::LeftButton && pressed >= 0 && linkAt(event->pos()) == pressed)
+        Q_EMIT linkOpened(pressed);
+}
+
+bool PageView::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::Leave)
+        hover(-1);
+    return ZoomedView::viewportEvent(event);
 }
 
 void PageView::mouseMoveEvent(QMouseEvent* event)
 {
-    if (event->buttons().testFlag(Qt::LeftButton))
+    if (event->buttons().testFlag(Qt::LeftButton)) {
         choose(lineAt(event->pos()), true);
+    } else {
+        hover(linkAt(event->pos()));
+    }
 }
 
 /// A press beside the lines chooses nothing; a drag there changes nothing.
@@ -197,30 +290,44 @@ void PageView::choose(qsizetype line, bool extends)
 
 void PageView::extendBy(int lines)
 {
-    choose(qBound<qsizetype>(0, m_current + lines, m_document.report().lineCount() - 1), true);
+    choose(qBound<qsizetype>(0, m_current + lines, m_document->report().lineCount() - 1), true);
     reveal(m_current);
 }
 
 void PageView::chooseAll()
 {
-    m_anchor = m_document.report().lineCount() > 0 ? 0 : -1;
-    m_current = m_document.report().lineCount() - 1;
+    m_anchor = m_document->report().lineCount() > 0 ? 0 : -1;
+    m_current = m_document->report().lineCount() - 1;
     viewport()->update();
+}
+
+std::optional<PageView::PagePoint> PageView::pagePointAt(QPoint place) const
+{
+    for (int page = 0; page < m_document->pages().pageCount(); ++page) {
+        const QRectF rect = pageRect(page);
+        if (rect.contains(place))
+            return PagePoint{page, (place - rect.topLeft()) / pixelsPerMillimetre()};
+    }
+    return std::nullopt;
 }
 
 qsizetype PageView::lineAt(QPoint place) const
 {
-    for (int page = 0; page < m_document.pages().pageCount(); ++page) {
-        const QRectF rect = pageRect(page);
-        if (rect.contains(place))
-            return lineOnPage(page, (place.y() - rect.top()) / pixelsPerMillimetre());
-    }
-    return -1;
+    const auto point = pagePointAt(place);
+    return point ? lineOnPage(point->page, point->place.y()) : -1;
+}
+
+qsizetype PageView::linkAt(QPoint place) const
+{
+    const auto point = pagePointAt(place);
+    return point && m_offersLinks
+               ? reports::linkAt(m_document->report(), m_document->pages(), point->page, point->place)
+               : -1;
 }
 
 qsizetype PageView::lineOnPage(int page, double y) const
 {
-    for (const PlacedLine& line : m_document.pages().placedLines(page)) {
+    for (const PlacedLine& line : m_document->pages().placedLines(page)) {
         if (!line.isContinued && y >= line.place.top() && y < line.place.bottom())
             return line.line;
     }
@@ -236,10 +343,10 @@ void PageView::showLine(qsizetype line)
 /// Scrolls a line that is out of sight to the middle of the view.
 void PageView::reveal(qsizetype line)
 {
-    const auto page = m_document.pages().pageOfLine(line);
+    const auto page = m_document->pages().pageOfLine(line);
     if (!page)
         return;
-    const auto placed = m_document.pages().placedLines(*page);
+    const auto placed = m_document->pages().placedLines(*page);
     const auto found = std::ranges::find_if(
         placed, [&](const PlacedLine& one) { return one.line == line && !one.isContinued; });
     const double top = pageRect(*page).top() + found->place.top() * pixelsPerMillimetre();
@@ -251,7 +358,7 @@ void PageView::reveal(qsizetype line)
 
 void PageView::say(qsizetype line)
 {
-    const auto placed = m_document.pages().placedLines(currentPage());
+    const auto placed = m_document->pages().placedLines(currentPage());
     const auto found = std::ranges::find(placed, line, &PlacedLine::line);
     if (found != placed.end())
         ui::sayItem(*this, static_cast<int>(found - placed.begin()));
@@ -259,20 +366,22 @@ void PageView::say(qsizetype line)
 
 int PageView::spokenItemCount() const
 {
-    return static_cast<int>(m_document.pages().placedLines(currentPage()).size());
+    return static_cast<int>(m_document->pages().placedLines(currentPage()).size());
 }
 
 ui::SpokenItem PageView::spokenItem(int index) const
 {
-    const PlacedLine line = m_document.pages().placedLines(currentPage()).at(static_cast<std::size_t>(index));
-    const ReportData& report = m_document.report();
+    const PlacedLine line =
+        m_document->pages().placedLines(currentPage()).at(static_cast<std::size_t>(index));
+    const ReportData& report = m_document->report();
     QStringList cells;
     for (int column = 0; column < report.columnCount(); ++column)
         cells << printable(report.text(line.line, column));
     cells.removeAll(QString());
     const QRectF place(pageRect(currentPage()).topLeft() + line.place.topLeft() * pixelsPerMillimetre(),
                        line.place.size() * pixelsPerMillimetre());
-    return {cells.join(u", "_s), {}, place.toAlignedRect(), isChosen(line)};
+    const bool isLink = m_offersLinks && report.linkValue(line.line);
+    return {cells.join(u", "_s), isLink ? u"Link"_s : QString(), place.toAlignedRect(), isChosen(line)};
 }
 
 } // namespace norvane::reports

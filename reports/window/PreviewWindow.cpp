@@ -2,12 +2,13 @@
 #include "reports/window/PreviewWindow.h"
 
 #include "platform/Boxes.h"
-#include "reports/files/CsvFile.h"
-#include "reports/files/PdfFile.h"
-#include "reports/files/XlsxFile.h"
+#include "reports/lines/LineFilters.h"
 #include "reports/window/ChartPane.h"
+#include "reports/window/FileKinds.h"
+#include "reports/window/HistoryBar.h"
 #include "reports/window/PageView.h"
 #include "reports/window/RunProgress.h"
+#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FindBar.h"
 #include "ui/FormKit.h"
@@ -23,7 +24,6 @@
 #include <QMenu>
 #include <QPrinter>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
@@ -42,29 +42,6 @@ namespace
 constexpr QSize goodSize{1060, 800};
 constexpr int pagesAtOnce = 40;
 
-/// "2026-11-01 to 2026-11-25", which sorts by day in a folder.
-QString periodOf(const ReportHeading& heading)
-{
-    QStringList days;
-    for (const QDate day : {heading.from, heading.to}) {
-        const QString text = day.toString(Qt::ISODate);
-        if (!text.isEmpty() && !days.contains(text))
-            days << text;
-    }
-    return days.join(u" to "_s);
-}
-
-/// The name of a file: the shop, a title such as "PLU Sales Report by Date." and the period.
-QString fileName(const ReportHeading& heading)
-{
-    static const QRegularExpression unfit(u"[^\\w -]+"_s, QRegularExpression::UseUnicodePropertiesOption);
-    QStringList parts{heading.customer, heading.title, periodOf(heading)};
-    for (QString& part : parts)
-        part = part.remove(unfit).simplified();
-    parts.removeAll(QString());
-    return parts.join(u" - "_s);
-}
-
 QString documents()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
@@ -80,53 +57,86 @@ QString spokenHeading(const ReportHeading& heading)
 
 } // namespace
 
-struct PreviewWindow::FileKind {
-    const char* name;
-    const char* caption;
-    const char* filter;
-    const char* suffix;
-    FileWriter write;
-
-    static const std::array<FileKind, 3>& all();
-};
-
-const std::array<PreviewWindow::FileKind, 3>& PreviewWindow::FileKind::all()
-{
-    static constexpr std::array<FileKind, 3> kinds = {{
-        {"SavePdf", "&PDF, as printed...", "PDF (*.pdf)", "pdf", writePdf},
-        {"SaveXlsx", "&Spreadsheet (XLSX)...", "Spreadsheet (*.xlsx)", "xlsx",
-         [](const ReportData& report, bool, const QString& path, const KeepGoing& keepGoing) {
-             writeXlsx(report, path, keepGoing);
-         }},
-        {"SaveCsv", "&Values (CSV)...", "Values (*.csv)", "csv",
-         [](const ReportData& report, bool, const QString& path, const KeepGoing& keepGoing) {
-             writeCsv(report, path, keepGoing);
-         }},
-    }};
-    return kinds;
-}
-
 PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterSource findPrinter, QWidget* parent)
-    : QWidget(parent, Qt::Window), m_document(std::move(report)), m_boxes(boxes),
-      m_findPrinter(std::move(findPrinter)), m_find(new ui::FindBar(this)),
-      m_view(new PageView(m_document, this)), m_charts(new ChartPane(m_document, this)),
-      m_status(new ui::StatusLine(this))
+    : QWidget(parent, Qt::Window), m_history({{}, std::make_shared<ReportDocument>(std::move(report))}),
+      m_boxes(boxes), m_findPrinter(std::move(findPrinter)), m_find(new ui::FindBar(this)),
+      m_way(new HistoryBar(this)), m_view(new PageView(document(), this)),
+      m_charts(new ChartPane(document(), this)), m_status(new ui::StatusLine(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"ReportPreview"_s);
-    setWindowTitle(m_document.report().heading.windowTitle);
     // The first page appears immediately; the others are laid out while it is shown.
-    m_document.pages().layOut(1);
+    document().pages().layOut(1);
     buildControls();
     addKeys();
     openAtGoodSize();
+    showHeading();
     showPageNumber();
     QTimer::singleShot(0, this, &PreviewWindow::layOutMore);
 }
 
+void PreviewWindow::showHeading()
+{
+    const ReportHeading& heading = document().report().heading;
+    setWindowTitle(heading.windowTitle);
+    m_view->setAccessibleName(spokenHeading(heading));
+    m_chartSwitch->setVisible(document().hasCharts());
+    m_charts->setVisible(document().hasCharts() && m_chartSwitch->isChecked());
+}
+
+void PreviewWindow::followLinks(ReportRequest request, Runner runner)
+{
+    m_history.current().request = std::move(request);
+    m_runner = std::move(runner);
+    m_view->offerLinks();
+    if (document().report().link)
+        m_status->setNotice(u"A click on a line, or Ctrl+Down and Enter, opens what it is made of."_s);
+}
+
+void PreviewWindow::openLink(qsizetype line)
+{
+    auto request = linkedRequest(m_history.current().request, document().report(), line);
+    if (!request)
+        return;
+    withReportBox(m_boxes, [&] {
+        auto report = makeReport(m_runner, *request, *this);
+        if (!report)
+            return;
+        m_history.current().place = m_view->readingPlace();
+        m_history.follow({std::move(*request), std::make_shared<ReportDocument>(std::move(*report))});
+        showCurrent();
+    });
+}
+
+void PreviewWindow::go(int steps)
+{
+    if (!m_history.has(steps))
+        return;
+    m_history.current().place = m_view->readingPlace();
+    m_history.go(steps);
+    showCurrent();
+}
+
+/// Reports that were shown before are as they were, but for the switch of the charts.
+void PreviewWindow::showCurrent()
+{
+    if (document().showsCharts() != m_chartSwitch->isChecked())
+        document().setShowsCharts(m_chartSwitch->isChecked());
+    const ReadingPlace place = m_history.current().place;
+    document().pages().layOut(1 + static_cast<int>(place.page));
+    m_view->setDocument(document());
+    m_view->goTo(place);
+    m_charts->setDocument(document());
+    m_way->showHistory(m_history);
+    showHeading();
+    m_status->setNotice({});
+    ui::announce(*m_view, m_view->accessibleName());
+    layOutMore();
+}
+
 void PreviewWindow::buildControls()
 {
-    ui::nameControl(*m_view, u"Pages"_s, spokenHeading(m_document.report().heading));
+    ui::nameControl(*m_view, u"Pages"_s);
     ui::nameControl(*m_charts, u"Charts"_s);
     ui::nameControl(*m_find, u"FindBar"_s);
     m_status->setSizeGripEnabled(true);
@@ -136,11 +146,15 @@ void PreviewWindow::buildControls()
     column->setContentsMargins(margin, margin, margin, 0);
     column->setSpacing(margin);
     column->addLayout(makeButtons());
+    column->addWidget(m_way);
     column->addWidget(m_find);
     column->addWidget(makeContent(), 1);
     column->addWidget(m_status);
     connect(m_find, &ui::FindBar::findWanted, this, &PreviewWindow::find);
     connect(m_view, &PageView::currentPageChanged, this, &PreviewWindow::showPageNumber);
+    connect(m_view, &PageView::linkOpened, this, &PreviewWindow::openLink);
+    connect(m_view, &PageView::goWanted, this, &PreviewWindow::go);
+    connect(m_way, &HistoryBar::goWanted, this, &PreviewWindow::go);
     m_view->setFocus();
 }
 
@@ -152,7 +166,6 @@ QWidget* PreviewWindow::makeContent()
     content->setStretchFactor(0, 1);
     content->setSizes({goodSize.width() * 2 / 3, goodSize.width() / 3});
     content->setChildrenCollapsible(false);
-    m_charts->setVisible(m_document.hasCharts());
     return content;
 }
 
@@ -188,7 +201,7 @@ void PreviewWindow::addSaveButton(QBoxLayout& row)
     QPushButton* const button = ui::makeButton(u"SaveButton"_s, u"&Save as"_s, this);
     button->setMinimumWidth(ui::buttonWidth);
     auto* const menu = new QMenu(button);
-    for (const FileKind& kind : FileKind::all()) {
+    for (const FileKind& kind : fileKinds()) {
         QAction* const action =
             menu->addAction(QLatin1String(kind.caption), this, [this, &kind] { save(kind); });
         action->setObjectName(QLatin1String(kind.name));
@@ -197,16 +210,14 @@ void PreviewWindow::addSaveButton(QBoxLayout& row)
     row.addWidget(button);
 }
 
-/// A report without charts has no switch for them.
 void PreviewWindow::addChartSwitch(QBoxLayout& row)
 {
-    auto* const charts = new QCheckBox(u"C&hart"_s, this);
-    ui::nameControl(*charts, u"ChartSwitch"_s);
-    charts->setToolTip(u"Shows the chart here, on paper and in the PDF"_s);
-    charts->setChecked(true);
-    charts->setVisible(m_document.hasCharts());
-    connect(charts, &QCheckBox::toggled, this, &PreviewWindow::switchCharts);
-    row.addWidget(charts);
+    m_chartSwitch = new QCheckBox(u"C&hart"_s, this);
+    ui::nameControl(*m_chartSwitch, u"ChartSwitch"_s);
+    m_chartSwitch->setToolTip(u"Shows the chart here, on paper and in the PDF"_s);
+    m_chartSwitch->setChecked(true);
+    connect(m_chartSwitch, &QCheckBox::toggled, this, &PreviewWindow::switchCharts);
+    row.addWidget(m_chartSwitch);
 }
 
 void PreviewWindow::addPageButtons(QBoxLayout& row)
@@ -249,7 +260,7 @@ void PreviewWindow::openAtGoodSize()
 
 void PreviewWindow::layOutMore()
 {
-    const bool isMore = m_document.pages().layOut(pagesAtOnce);
+    const bool isMore = document().pages().layOut(pagesAtOnce);
     m_view->updatePages();
     if (isMore)
         QTimer::singleShot(0, this, &PreviewWindow::layOutMore);
@@ -258,7 +269,7 @@ void PreviewWindow::layOutMore()
 void PreviewWindow::showPageNumber()
 {
     const QString count =
-        m_document.pages().isComplete() ? QString::number(m_document.pages().pageCount()) : u"..."_s;
+        document().pages().isComplete() ? QString::number(document().pages().pageCount()) : u"..."_s;
     m_pageNumber->setText(u"Page %1 of %2"_s.arg(m_view->currentPage() + 1).arg(count));
 }
 
@@ -277,14 +288,14 @@ void PreviewWindow::guarded(const std::function<void(const KeepGoing&)>& act, co
 
 void PreviewWindow::print()
 {
-    m_document.pages().layOutAll();
+    document().pages().layOutAll();
     m_view->updatePages();
     const auto job =
-        askForPrint(m_findPrinter, {m_document.pages().pageCount(), m_view->currentPage() + 1}, this);
+        askForPrint(m_findPrinter, {document().pages().pageCount(), m_view->currentPage() + 1}, this);
     if (!job)
         return;
     const auto printPages = [&](const KeepGoing& keepGoing) {
-        printOn(*job, m_document.report(), m_document.showsCharts(), keepGoing);
+        printOn(*job, document().report(), document().showsCharts(), keepGoing);
         m_status->setNotice(sentText(*job->printer));
     };
     guarded(printPages, u"Cancelled. The pages that were ready are printed."_s);
@@ -293,13 +304,13 @@ void PreviewWindow::print()
 void PreviewWindow::save(const FileKind& kind)
 {
     const QString suffix = QLatin1String(kind.suffix);
-    const QString suggested = fileName(m_document.report().heading) + u'.' + suffix;
+    const QString suggested = fileNameFor(document().report().heading) + u'.' + suffix;
     const QString path = m_boxes.fileToSave(
         {u"Save Report"_s, QDir(documents()).filePath(suggested), QLatin1String(kind.filter), suffix});
     if (path.isEmpty())
         return;
     const auto write = [&](const KeepGoing& keepGoing) {
-        kind.write(m_document.report(), m_document.showsCharts(), path, keepGoing);
+        kind.write(document().report(), document().showsCharts(), path, keepGoing);
         m_status->setNotice(u"Saved as %1."_s.arg(QDir::toNativeSeparators(path)));
     };
     guarded(write, u"Cancelled. Nothing was saved."_s);
@@ -309,8 +320,8 @@ void PreviewWindow::save(const FileKind& kind)
 void PreviewWindow::copy()
 {
     const qsizetype first = m_view->hasChosen() ? m_view->firstChosen() : 0;
-    const qsizetype last = m_view->hasChosen() ? m_view->lastChosen() : m_document.report().lineCount() - 1;
-    QGuiApplication::clipboard()->setText(m_document.linesAsText(first, last));
+    const qsizetype last = m_view->hasChosen() ? m_view->lastChosen() : document().report().lineCount() - 1;
+    QGuiApplication::clipboard()->setText(document().linesAsText(first, last));
     m_status->setNotice(last == first ? u"1 line copied."_s : u"%1 lines copied."_s.arg(last - first + 1));
 }
 
@@ -332,11 +343,11 @@ void PreviewWindow::findPrevious()
 void PreviewWindow::find(int step)
 {
     const qsizetype start = m_view->hasChosen() ? m_view->firstChosen() + step : 0;
-    const qsizetype found = m_document.findLine(m_find->sought(), start, step < 0 ? -1 : 1);
+    const qsizetype found = document().findLine(m_find->sought(), start, step < 0 ? -1 : 1);
     m_find->setFound(found >= 0);
     if (found < 0)
         return;
-    m_document.pages().layOutAll();
+    document().pages().layOutAll();
     m_view->updatePages();
     m_view->showLine(found);
 }
@@ -344,8 +355,8 @@ void PreviewWindow::find(int step)
 void PreviewWindow::switchCharts(bool shows)
 {
     m_charts->setVisible(shows);
-    m_document.setShowsCharts(shows);
-    m_document.pages().layOutAll();
+    document().setShowsCharts(shows);
+    document().pages().layOutAll();
     m_view->updatePages();
 }
 

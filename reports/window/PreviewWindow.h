@@ -1,12 +1,14 @@
 // A report on the screen, to be read, searched, printed and saved.
 #pragma once
 
-#include "reports/pages/ReportDocument.h"
+#include "reports/window/PreviewHistory.h"
 #include "reports/window/Printing.h"
+#include "reports/window/ReportMaker.h"
 
 #include <QWidget>
 
 class QBoxLayout;
+class QCheckBox;
 class QLabel;
 class QPushButton;
 
@@ -24,7 +26,9 @@ namespace norvane::reports
 {
 
 class ChartPane;
+class HistoryBar;
 class PageView;
+struct FileKind;
 
 /// A separate window that is deleted when it closes. It is above @p parent and can be used while that is
 /// modal. It prints and saves what it shows.
@@ -35,13 +39,18 @@ class PreviewWindow : public QWidget
 public:
     PreviewWindow(ReportData report, Boxes& boxes, PrinterSource findPrinter, QWidget* parent);
 
+    /// Offers what the lines of the report open, made by @p runner; the report is that of @p request.
+    void followLinks(ReportRequest request, Runner runner);
+
 private:
     using Handler = void (PreviewWindow::*)();
-    using FileWriter = void (*)(const ReportData& report, bool showsCharts, const QString& path,
-                                const KeepGoing& keepGoing);
-    struct FileKind;
 
+    [[nodiscard]] ReportDocument& document() { return *m_history.current().document; }
     void buildControls();
+    void showHeading();
+    void openLink(qsizetype line);
+    void go(int steps);
+    void showCurrent();
     [[nodiscard]] QWidget* makeContent();
     [[nodiscard]] QBoxLayout* makeButtons();
     QPushButton* addButton(QBoxLayout& row, const QString& name, const QString& caption, Handler handler);
@@ -65,12 +74,15 @@ private:
     void escape();
     void guarded(const std::function<void(const KeepGoing&)>& act, const QString& whenCancelled);
 
-    ReportDocument m_document;
+    PreviewHistory m_history;
+    Runner m_runner;
     Boxes& m_boxes;
     PrinterSource m_findPrinter;
     ui::FindBar* m_find;
+    HistoryBar* m_way;
     PageView* m_view;
     ChartPane* m_charts;
+    QCheckBox* m_chartSwitch = nullptr;
     QLabel* m_pageNumber = nullptr;
     ui::StatusLine* m_status;
 };

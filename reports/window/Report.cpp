@@ -2,8 +2,6 @@
 #include "reports/window/Report.h"
 
 #include "paper/DefaultPrinter.h"
-#include "platform/Boxes.h"
-#include "platform/RuntimeFailure.h"
 #include "reports/window/PreviewWindow.h"
 #include "reports/window/RunProgress.h"
 
@@ -49,51 +47,27 @@ void Report::run(ReportRequest request, Destination destination)
     if (m_isRunning)
         return;
     const QScopedValueRollback running(m_isRunning, true);
-    const auto showError = [this](const QString& text) {
-        m_boxes.message(text, u"Report Error"_s, BoxIcon::Critical);
-    };
-    try {
-        if (auto report = runnerResult(std::move(request)))
-            deliver(std::move(*report), destination);
-    } catch (const ReportCancelled&) {
-        return;
-    } catch (const ReportError& error) {
-        showError(error.text());
-    } catch (const RuntimeFailure& failure) {
-        showError(failure.text());
-    }
-}
-
-/// Nothing when the user cancelled.
-std::optional<ReportData> Report::runnerResult(ReportRequest request)
-{
-    RunProgress progress(m_window, u"The report is being made."_s);
     request.now = QDateTime::currentDateTime();
-    request.showStep = [&progress](const QString& step) {
-        progress.showStep(step);
-    };
-    try {
-        return m_runner(request, [&progress] { return progress.goOn(); });
-    } catch (const ReportError&) {
-        if (progress.isCancelled())
-            return std::nullopt;
-        throw;
-    }
+    withReportBox(m_boxes, [&] {
+        if (auto report = makeReport(m_runner, request, m_window))
+            deliver(std::move(*report), std::move(request), destination);
+    });
 }
 
-void Report::deliver(ReportData report, Destination destination)
+void Report::deliver(ReportData report, ReportRequest request, Destination destination)
 {
     if (destination == Destination::Window) {
-        preview(std::move(report));
+        preview(std::move(report), std::move(request));
         return;
     }
     RunProgress progress(m_window, u"The report is being printed."_s);
     printReport(report, true, m_findPrinter, [&progress] { return progress.goOn(); });
 }
 
-void Report::preview(ReportData report)
+void Report::preview(ReportData report, ReportRequest request)
 {
     m_previews.emplace_back(new PreviewWindow(std::move(report), m_boxes, m_findPrinter, m_window.window()));
+    m_previews.back()->followLinks(std::move(request), m_runner);
     m_previews.back()->show();
 }
 

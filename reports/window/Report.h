@@ -1,13 +1,11 @@
 // The report control of a form: it runs reports into a preview window or straight to the printer.
 #pragma once
 
-#include "reports/lines/ReportRun.h"
 #include "reports/window/Printing.h"
+#include "reports/window/ReportMaker.h"
 
 #include <QPointer>
 
-#include <functional>
-#include <optional>
 #include <vector>
 
 class QWidget;
@@ -28,9 +26,6 @@ enum class Destination {
     Printer ///< the system's default printer, without a question
 };
 
-/// What makes a report's lines: runReport() of the engine.
-using Runner = std::function<ReportData(const ReportRequest&, const KeepGoing&)>;
-
 /// Runs reports for a form, which it must not outlive. Previews remain open when the form closes; they close
 /// with the window that the form belongs to.
 class Report
@@ -50,9 +45,8 @@ public:
     void run(ReportRequest request, Destination destination = Destination::Window);
 
 private:
-    [[nodiscard]] std::optional<ReportData> runnerResult(ReportRequest request);
-    void deliver(ReportData report, Destination destination);
-    void preview(ReportData report);
+    void deliver(ReportData report, ReportRequest request, Destination destination);
+    void preview(ReportData report, ReportRequest request);
 
     QWidget& m_window;
     Boxes& m_boxes;

@@ -13,6 +13,7 @@ constexpr const char* good = "[Report]\r\nTitle=PLU\r\nTable=PLUSALES\r\nLines={
                              "[Column2]\r\nFormat=Money\r\nValue={VALUE1}\r\nWidth=20\r\nTotal=YES\r\n"
                              "[Group]\r\nBy={PLUDATA.GROUPNO}\r\nHeading=Group {PLUDATA.GROUPNO}\r\n"
                              "[Sort]\r\nKey1={ID} by value\r\n"
+                             "[Link]\r\nReport=days.rpt\r\nField={ID}\r\n"
                              "[Chart1]\r\nKind=Shares\r\nTitle=Shares\r\nFrom=Groups\r\nValue={VALUE1}\r\n";
 
 struct Mistake {
@@ -60,6 +61,11 @@ const Mistake mistakes[] = {
      "key Value41: there is no such key"},
     {"unknown_order", "Key1={ID} by value", "Key1={ID} upwards",
      "section [Sort], key Key1: expected is a field"},
+    {"link_by_a_sum", "Field={ID}", "Field={VALUE1}", "section [Link], key Field: expected is a field that"},
+    {"link_of_groups_alone_by_a_line", "Heading=Group {PLUDATA.GROUPNO}",
+     "Heading=Group {PLUDATA.GROUPNO}\r\nLines=NO", "section [Link], key Field: expected is a field that"},
+    {"link_out_of_the_folder", "Report=days.rpt", "Report=../days.rpt",
+     "section [Link], key Report: expected is the name of a report file"},
     {"unknown_kind_of_chart", "Kind=Shares", "Kind=Pie",
      "section [Chart1], key Kind: expected is Ranking, Course or Shares"},
     {"chart_without_labels", "Shares\r\nFrom=Groups", "Shares\r\nFrom=Lines",
