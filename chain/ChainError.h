@@ -14,7 +14,7 @@ enum class ChainFailure {
     NoRights,
     Unfit,     ///< a schema of another version, or another encoding
     OtherShop, ///< the shop of that name, or of that folder, is another one
-    Busy,      ///< another program is publishing the same shop
+    Busy,      ///< another program is publishing the same shop, holds a lock or the server is too slow
     BadRows,   ///< rows that no table accepts, such as sales without a PLU
     Unwritable,
     Refused ///< by the server for any other reason

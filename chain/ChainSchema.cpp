@@ -1,7 +1,12 @@
 // The steps from an empty database to the current schema, and the partitions; see ChainSchema.h.
 #include "chain/ChainSchema.h"
 
+#include "chain/ChainComments.h"
+#include "chain/ChainTables.h"
 #include "chain/ChainViews.h"
+#include "chain/Partitions.h"
+#include "chain/RangeTotals.h"
+#include "chain/Rollups.h"
 
 #include <algorithm>
 #include <array>
@@ -76,9 +81,31 @@ std::vector<std::string> tableStatements()
     return all;
 }
 
+/// The former views were those that the next step replaces.
+std::vector<std::string> nothing()
+{
+    return {};
+}
+
+/// Totals of days and months, and what reads them. The publication of each shop brings its own days into the
+/// new form; see Rollups.h. Numbers of shops come from findShop(): a column that counts by itself cannot be
+/// copied to all servers of a cluster.
+std::vector<std::string> totalStatements()
+{
+    std::vector<std::string> all{
+        "ALTER TABLE shops ALTER COLUMN shop DROP IDENTITY IF EXISTS",
+        "ALTER TABLE published_days ADD quantity numeric, ADD takings numeric, ADD net_sales numeric, "
+        "ADD kept_digest text, ADD rolled_up boolean NOT NULL DEFAULT false",
+    };
+    for (const auto& more :
+         {rollupStatements(), viewStatements(), rangeFunctions(), partitionFunctions(), commentStatements()})
+        all.insert(all.end(), more.begin(), more.end());
+    return all;
+}
+
 /// Each step upgrades a schema by one version; the first creates version 1.
 using SchemaStep = std::vector<std::string> (*)();
-constexpr auto steps = std::to_array<SchemaStep>({tableStatements, viewStatements});
+constexpr auto steps = std::to_array<SchemaStep>({tableStatements, nothing, totalStatements});
 constexpr int currentVersion = static_cast<int>(steps.size());
 constexpr const char* versionTable = "chain_version";
 
@@ -149,19 +176,27 @@ void takeSteps(pqxx::work& work)
             server.user(), QLatin1StringView(schemaName), server.where()));
 }
 
-std::string partitionOf(const SalesTable& table, QDate month)
+void refuseLater(const Server& server, int version)
 {
-    return std::string(table.name) + month.toString(u"_yyyy_MM"_s).toStdString();
+    if (version <= currentVersion)
+        return;
+    throw ChainError(ChainFailure::Unfit,
+                     u"The schema %1 has version %2 and this program knows versions up to %3 (%4): a later "
+                     "program made it, so publish with that one."_s.arg(QLatin1StringView(schemaName))
+                         .arg(version)
+                         .arg(currentVersion)
+                         .arg(server.where()));
 }
 
-std::string partitionStatement(const SalesTable& table, QDate month)
+void upgrade(Server& server)
 {
-    const auto word = [](QDate day) {
-        return '\'' + day.toString(Qt::ISODate).toStdString() + '\'';
-    };
-    return "CREATE TABLE IF NOT EXISTS " + partitionOf(table, month) + " PARTITION OF " +
-           std::string(table.name) + " FOR VALUES FROM (" + word(month) + ") TO (" +
-           word(month.addMonths(1)) + ')';
+    try {
+        server.transact(takeSteps);
+    } catch (const ChainError& error) {
+        if (error.failure() == ChainFailure::NoRights)
+            failWithoutRights(server);
+        throw;
+    }
 }
 
 } // namespace
@@ -174,44 +209,22 @@ void lockSchema(pqxx::work& work)
 void prepareSchema(Server& server)
 {
     const int version = installedVersion(server);
-    if (version > currentVersion) {
-        throw ChainError(
-            ChainFailure::Unfit,
-            u"The schema %1 has version %2 and this program knows versions up to %3 (%4): a later "
-            "program made it, so publish with that one."_s.arg(QLatin1StringView(schemaName))
-                .arg(version)
-                .arg(currentVersion)
-                .arg(server.where()));
-    }
-    if (version == currentVersion)
-        return;
-    try {
-        server.transact(takeSteps);
-    } catch (const ChainError& error) {
-        if (error.failure() == ChainFailure::NoRights)
-            failWithoutRights(server);
-        throw;
-    }
+    refuseLater(server, version);
+    if (version != currentVersion)
+        upgrade(server);
+    makeMonthsAhead(server);
 }
 
-void makePartitions(Server& server, QDate day)
+bool isSchemaCurrent(Server& server)
 {
-    const QDate month(day.year(), day.month(), 1);
-    std::vector<std::string> missing;
-    server.transact([&](pqxx::work& work) {
-        for (const auto& table : salesTables()) {
-            if (!exists(work, partitionOf(table, month)))
-                missing.push_back(partitionStatement(table, month));
-        }
-    });
-    if (missing.empty())
-        return;
-    // A separate transaction: until it ends nobody else can write to the tables.
-    server.transact([&](pqxx::work& work) {
-        lockSchema(work);
-        for (const std::string& statement : missing)
-            work.exec0(statement);
-    });
+    const int version = installedVersion(server);
+    refuseLater(server, version);
+    if (version >= 0 && version < currentVersion) {
+        throw ChainError(ChainFailure::Unfit,
+                         u"The schema %1 is of a former program (%2): a publication upgrades it first."_s.arg(
+                             QLatin1StringView(schemaName), server.where()));
+    }
+    return version == currentVersion;
 }
 
 } // namespace norvane::chain

@@ -7,6 +7,7 @@
 
 #include <QUuid>
 
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -58,13 +59,14 @@ std::optional<Shop> shopBy(pqxx::work& work, const char* column, const std::stri
 }
 
 /// The shop of the folder's id has another name: the folder was renamed, or is a copy.
-void rename(pqxx::work& work, const ShopFolder& folder, const Shop& shop, bool adopt)
+[[noreturn]] void failRenamed(const ShopFolder& folder, const Shop& shop)
 {
-    if (!adopt) {
-        failOther(
-            u"\"%1\" was published as \"%2\": if the folder was renamed, publish it with --adopt; if it "
-            "is a copy for another shop, remove %3 from it."_s.arg(folder.name, shop.name, idFile));
-    }
+    failOther(u"\"%1\" was published as \"%2\": if the folder was renamed, publish it with --adopt; if it "
+              "is a copy for another shop, remove %3 from it."_s.arg(folder.name, shop.name, idFile));
+}
+
+void rename(pqxx::work& work, const ShopFolder& folder, const Shop& shop)
+{
     work.exec_params0("UPDATE shops SET name = $1, folded_name = $2 WHERE shop = $3",
                       folder.name.toStdString(), foldedName(folder), shop.number);
 }
@@ -81,43 +83,76 @@ std::string ownId(const ShopFolder& folder, QString id)
 }
 
 /// The shop of the folder's name has another id: it belongs to another machine, or the folder was recreated.
-/// From now on the shop has the id of this folder, so that the former folder cannot overwrite its days.
-void takeOver(pqxx::work& work, const ShopFolder& folder, const QString& id, const Shop& shop,
-              const Server& server, bool adopt)
+[[noreturn]] void failElsewhere(const Shop& shop, const Server& server)
 {
-    if (!adopt) {
-        failOther(
-            u"The shop \"%1\" was published from another folder (%2): rename one of the two, or, if this "
-            "folder continues that shop, publish it with --adopt."_s.arg(shop.name, server.where()));
-    }
+    failOther(u"The shop \"%1\" was published from another folder (%2): rename one of the two, or, if this "
+              "folder continues that shop, publish it with --adopt."_s.arg(shop.name, server.where()));
+}
+
+/// From now on the shop has the id of this folder, so that the former folder cannot overwrite its days.
+void takeOver(pqxx::work& work, const ShopFolder& folder, const QString& id, const Shop& shop)
+{
     work.exec_params0("UPDATE shops SET folder_id = $1 WHERE shop = $2", ownId(folder, id), shop.number);
+}
+
+/// Also after the last shop was removed by hand and its sales were not.
+int nextNumber(pqxx::work& work)
+{
+    int last = 0;
+    for (const char* table : {"shops", "published_days"}) {
+        last = std::max(last,
+                        work.exec1(std::string("SELECT coalesce(max(shop), 0) FROM ") + table)[0].as<int>());
+    }
+    return last + 1;
 }
 
 int addShop(pqxx::work& work, const ShopFolder& folder, const QString& id)
 {
-    return work
-        .exec_params1("INSERT INTO shops (name, folded_name, folder_id) VALUES ($1, $2, $3) RETURNING shop",
-                      folder.name.toStdString(), foldedName(folder), ownId(folder, id))[0]
-        .as<int>();
+    const int number = nextNumber(work);
+    work.exec_params0("INSERT INTO shops (shop, name, folded_name, folder_id) VALUES ($1, $2, $3, $4)",
+                      number, folder.name.toStdString(), foldedName(folder), ownId(folder, id));
+    return number;
 }
 
-int shopOf(pqxx::work& work, const ShopFolder& folder, const Server& server, bool adopt)
+/// The shops of a folder's id and of its name, which usually are one.
+struct Candidates {
+    QString id;
+    std::optional<Shop> byId;
+    std::optional<Shop> byName;
+};
+
+Candidates candidates(pqxx::work& work, const ShopFolder& folder, const Server& server, bool adopt)
 {
     const QString id = readId(folder);
-    const auto byId = shopBy(work, "folder_id", id.toStdString());
-    const auto byName = shopBy(work, "folded_name", foldedName(folder));
-    if (byId && byName && byId->number != byName->number) {
+    Candidates found{id, shopBy(work, "folder_id", id.toStdString()),
+                     shopBy(work, "folded_name", foldedName(folder))};
+    if (found.byId && found.byName && found.byId->number != found.byName->number) {
         failOther(
             u"\"%1\" was published as \"%2\", and there is another shop \"%3\" (%4): rename the folder."_s
-                .arg(folder.name, byId->name, byName->name, server.where()));
+                .arg(folder.name, found.byId->name, found.byName->name, server.where()));
     }
-    if (byId && !byName)
-        rename(work, folder, *byId, adopt);
-    if (byName && !byId)
-        takeOver(work, folder, id, *byName, server, adopt);
-    if (byId || byName)
-        return byId ? byId->number : byName->number;
-    return addShop(work, folder, id);
+    if (found.byId && !found.byName && !adopt)
+        failRenamed(folder, *found.byId);
+    if (found.byName && !found.byId && !adopt)
+        failElsewhere(*found.byName, server);
+    return found;
+}
+
+int numberOf(const Candidates& found)
+{
+    if (found.byId)
+        return found.byId->number;
+    return found.byName ? found.byName->number : 0;
+}
+
+int shopOf(pqxx::work& work, const ShopFolder& folder, const Candidates& found)
+{
+    if (found.byId && !found.byName)
+        rename(work, folder, *found.byId);
+    if (found.byName && !found.byId)
+        takeOver(work, folder, found.id, *found.byName);
+    const int number = numberOf(found);
+    return number == 0 ? addShop(work, folder, found.id) : number;
 }
 
 } // namespace
@@ -128,8 +163,15 @@ int findShop(Server& server, const ShopFolder& folder, bool adopt)
     server.transact([&](pqxx::work& work) {
         // Two simultaneous first publications would use a name twice.
         lockSchema(work);
-        shop = shopOf(work, folder, server, adopt);
+        shop = shopOf(work, folder, candidates(work, folder, server, adopt));
     });
+    return shop;
+}
+
+int findPublishedShop(Server& server, const ShopFolder& folder, bool adopt)
+{
+    int shop = 0;
+    server.transact([&](pqxx::work& work) { shop = numberOf(candidates(work, folder, server, adopt)); });
     return shop;
 }
 

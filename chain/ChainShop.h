@@ -24,6 +24,9 @@ struct ShopFolder {
 /// other shops; Unwritable when the id cannot be kept.
 [[nodiscard]] int findShop(Server& server, const ShopFolder& folder, bool adopt);
 
+/// The same without changing anything, here or there. @return 0 for a shop that was never published.
+[[nodiscard]] int findPublishedShop(Server& server, const ShopFolder& folder, bool adopt);
+
 /// While it lives, no other program publishes the shop.
 class ShopLock
 {

@@ -23,11 +23,11 @@ constexpr ChainColumn financialItems[] = {{"ID", "line", Content::Whole}};
 
 /// No poll file fills the sales by group: they are those of the PLUs.
 constexpr auto sales = std::to_array<SalesTable>({
-    {plus,       "plu_sales",       pluItems, 0},
-    {times,      "time_sales",      timeItems, 0},
-    {clerks,     "employee_sales",  employeeItems, 0},
-    {mixes,      "mix_sales",       mixItems, 2},
-    {financials, "financial_sales", financialItems, 0},
+    {plus,       "plu_sales",       pluItems, 0, Totalled::EveryRow},
+    {times,      "time_sales",      timeItems, 0, Totalled::No},
+    {clerks,     "employee_sales",  employeeItems, 0, Totalled::No},
+    {mixes,      "mix_sales",       mixItems, 2, Totalled::No},
+    {financials, "financial_sales", financialItems, 0, Totalled::NetSales},
 });
 
 constexpr ChainColumn pluNames[] = {
@@ -96,11 +96,19 @@ std::vector<std::string> addedFields(const SalesTable& table)
     return all;
 }
 
+std::vector<std::string> summedColumnsOf(const SalesTable& table)
+{
+    std::vector<std::string> all;
+    for (const std::string& field : addedFields(table))
+        all.push_back(QString::fromStdString(field).toLower().toStdString());
+    return all;
+}
+
 std::vector<std::string> columnsOf(const SalesTable& table)
 {
     auto all = namesOf(table.items);
-    for (const std::string& field : addedFields(table))
-        all.push_back(QString::fromStdString(field).toLower().toStdString());
+    for (const std::string& column : summedColumnsOf(table))
+        all.push_back(column);
     return all;
 }
 

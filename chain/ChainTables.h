@@ -24,6 +24,13 @@ struct ChainColumn {
     Content content;
 };
 
+/// The rows of a day that make its takings and quantity, or its net sales.
+enum class Totalled {
+    No,
+    EveryRow,
+    NetSales ///< the line of the financial report
+};
+
 /// Sales by day: one row for each item and day of a shop, with the sum of its collections. Beside the columns
 /// that name the item it has every field of the catalogue's table that rows are added up by.
 struct SalesTable {
@@ -32,6 +39,7 @@ struct SalesTable {
     std::span<const ChainColumn> items;
     int places; ///< the shop's database stores the sums multiplied by ten to this power, as the register
                 ///< sends them
+    Totalled totalled;
 };
 
 /// What the numbers of sales mean now. The first column is the key.
@@ -47,6 +55,8 @@ struct NameTable {
 /// The items' columns, then those that are added up: "VALUE1" as "value1".
 [[nodiscard]] std::vector<std::string> columnsOf(const SalesTable& table);
 [[nodiscard]] std::vector<std::string> columnsOf(const NameTable& table);
+/// Those that are added up: "value1".
+[[nodiscard]] std::vector<std::string> summedColumnsOf(const SalesTable& table);
 /// The fields of the source that are added up. @pre the catalogue has the source.
 [[nodiscard]] std::vector<std::string> addedFields(const SalesTable& table);
 

@@ -2,6 +2,7 @@
 #include "chain/NamePublisher.h"
 
 #include "chain/CopyStream.h"
+#include "chain/Rollups.h"
 #include "chain/SourceRows.h"
 
 namespace norvane::chain
@@ -22,15 +23,23 @@ public:
     {
         const RowsDigest read = readNames(m_database, table);
         const auto known = published(table);
-        const bool isEmptied = read.rows == 0 && !known.empty() && known[0][1].as<qint64>() > 0;
-        if (isEmptied && !mayEmpty)
+        if (isEmptied(read, known) && !mayEmpty)
             return false;
         if (known.empty() || known[0][0].as<std::string>() != read.digest)
             replace(table);
         return true;
     }
 
+    bool isEmptied(const NameTable& table)
+    {
+        return isEmptied(readNames(m_database, table), published(table));
+    }
+
 private:
+    static bool isEmptied(const RowsDigest& read, const pqxx::result& known)
+    {
+        return read.rows == 0 && !known.empty() && known[0][1].as<qint64>() > 0;
+    }
     pqxx::result published(const NameTable& table)
     {
         return m_work.exec_params(
@@ -40,6 +49,8 @@ private:
 
     void replace(const NameTable& table)
     {
+        const bool hasGroups = std::string_view(table.name) == "plus";
+        const std::string former = hasGroups ? groupsOfPlus() : "";
         m_work.exec_params0("DELETE FROM " + std::string(table.name) + " WHERE shop = $1", m_shop);
         auto columns = columnsOf(table);
         columns.insert(columns.begin(), "shop");
@@ -49,13 +60,27 @@ private:
             readNames(m_database, table, [&stream](const std::string& line) { stream.add(line); });
         stream.complete();
         note(table, copied);
+        if (hasGroups && former != groupsOfPlus())
+            rollUpGroups(m_work, m_shop);
     }
 
+    /// Changes when a PLU goes to another group; a price does not matter.
+    std::string groupsOfPlus()
+    {
+        return m_work
+            .exec_params1("SELECT coalesce(md5(string_agg(plu || ' ' || coalesce(group_no, -1), ',' ORDER BY "
+                          "plu)), '') FROM plus WHERE shop = $1",
+                          m_shop)[0]
+            .as<std::string>();
+    }
+
+    /// Deleted and inserted: on a cluster an upsert takes no function such as that of the default.
     void note(const NameTable& table, const RowsDigest& copied)
     {
+        m_work.exec_params0("DELETE FROM published_names WHERE shop = $1 AND table_name = $2", m_shop,
+                            std::string(table.name));
         m_work.exec_params0("INSERT INTO published_names (shop, table_name, digest, row_count) "
-                            "VALUES ($1, $2, $3, $4) ON CONFLICT (shop, table_name) DO UPDATE SET "
-                            "digest = excluded.digest, row_count = excluded.row_count, published_at = now()",
+                            "VALUES ($1, $2, $3, $4)",
                             m_shop, std::string(table.name), copied.digest, copied.rows);
     }
 
@@ -80,6 +105,19 @@ QStringList publishNames(Server& server, store::Database& database, int shop, co
         }
     });
     return spared;
+}
+
+QStringList vanishedNames(Server& server, store::Database& database, int shop)
+{
+    QStringList emptied;
+    server.transact([&](pqxx::work& work) {
+        NamePublisher publisher(server, work, database, shop);
+        for (const auto& table : nameTables()) {
+            if (publisher.isEmptied(table))
+                emptied << QLatin1StringView(table.name);
+        }
+    });
+    return emptied;
 }
 
 } // namespace norvane::chain

@@ -15,4 +15,7 @@ namespace norvane::chain
 QStringList publishNames(Server& server, store::Database& database, int shop, const ShopLock& lock,
                          bool mayEmpty);
 
+/// The tables of names that are published and empty in the shop. Changes nothing.
+QStringList vanishedNames(Server& server, store::Database& database, int shop);
+
 } // namespace norvane::chain

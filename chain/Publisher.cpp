@@ -4,8 +4,11 @@
 #include "chain/ChainSchema.h"
 #include "chain/CopyStream.h"
 #include "chain/NamePublisher.h"
+#include "chain/Partitions.h"
+#include "chain/Rollups.h"
 #include "chain/SourceRows.h"
 #include "platform/Dates.h"
+#include "platform/RuntimeFailure.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -23,6 +26,11 @@ std::string arrayOf(const QList<QDate>& days)
     return u"{%1}"_s.arg(all.join(u',')).toStdString();
 }
 
+QDate firstOfMonth(QDate day)
+{
+    return {day.year(), day.month(), 1};
+}
+
 /// The days of each month together.
 QList<QList<QDate>> monthsOf(QList<QDate> days)
 {
@@ -34,6 +42,20 @@ QList<QList<QDate>> monthsOf(QList<QDate> days)
         months.last().append(day);
     }
     return months;
+}
+
+/// What was sent of a day.
+struct SentDay {
+    qint64 rows = 0;
+    DayTotals plus{};       ///< empty if none were collected
+    DayTotals financials{}; ///< of the net sales
+};
+using Sent = std::map<QDate, SentDay>;
+
+/// The rows of a day are at fault; other days can be published all the same.
+bool isOfDay(const RuntimeFailure& failure)
+{
+    return failure.failure() == Failure::Overflow || failure.failure() == Failure::UnknownNameInQuery;
 }
 
 class ShopPublisher
@@ -48,13 +70,16 @@ public:
     Published publish();
 
 private:
+    void convertFormerMonths();
     void settleVanished(DayComparison& comparison);
+    void removeVanished(const QList<QDate>& days);
     void keepAsPublished(const QList<QDate>& days);
     void publishMonth(const QList<QDate>& days);
+    void publishOrLeaveOut(QDate day);
+    void publishTogether(const QList<QDate>& days);
     void removeDays(pqxx::work& work, const QList<QDate>& days) const;
-    void copyTable(pqxx::work& work, std::size_t table, const QList<QDate>& days,
-                   std::map<QDate, qint64>& rows);
-    void noteDays(pqxx::work& work, const std::map<QDate, qint64>& rows);
+    void copyTable(pqxx::work& work, std::size_t table, Sent& days);
+    void noteDays(pqxx::work& work, const Sent& days);
 
     Server& m_server;
     const PublishOptions& m_options;
@@ -62,15 +87,18 @@ private:
     ShopLock m_lock;
     store::Database m_database;
     std::optional<ShopDays> m_days;
+    PublishedDays m_publishedDays;
     Published m_published;
 };
 
 Published ShopPublisher::publish()
 {
+    convertFormerMonths();
     m_published.vanishedNames =
         publishNames(m_server, m_database, m_shop, m_lock, m_options.vanished == Vanished::Remove);
     m_days.emplace(m_database);
-    DayComparison comparison = compareDays(*m_days, publishedDays(m_server, m_shop));
+    m_publishedDays = publishedDays(m_server, m_shop);
+    DayComparison comparison = compareDays(*m_days, m_publishedDays);
     m_days->keep();
     m_published.same = comparison.same;
     m_published.vanished = comparison.vanished;
@@ -80,29 +108,51 @@ Published ShopPublisher::publish()
     return m_published;
 }
 
+void ShopPublisher::convertFormerMonths()
+{
+    std::vector<QDate> months;
+    m_server.transact([&](pqxx::work& work) { months = formerMonths(work, m_shop); });
+    for (const QDate month : months) {
+        m_server.transact([&](pqxx::work& work) {
+            m_lock.holdIn(work);
+            convertMonth(work, m_shop, month);
+        });
+    }
+}
+
 void ShopPublisher::settleVanished(DayComparison& comparison)
 {
     if (comparison.vanished.isEmpty())
         return;
     if (m_options.vanished == Vanished::Remove) {
-        m_server.transact([&](pqxx::work& work) {
-            m_lock.holdIn(work);
-            removeDays(work, comparison.vanished);
-        });
+        removeVanished(comparison.vanished);
         return;
     }
+    const QList<QDate> remaining = takeHeldBack(*m_days, comparison, m_publishedDays, m_options.vanished);
+    m_published.heldBack = static_cast<int>(remaining.size());
     if (m_options.vanished == Vanished::Keep)
-        keepAsPublished(comparison.vanished + comparison.changed);
-    m_published.heldBack = static_cast<int>(comparison.changed.size());
-    comparison.changed.clear();
+        keepAsPublished(comparison.vanished + remaining);
+}
+
+void ShopPublisher::removeVanished(const QList<QDate>& days)
+{
+    m_server.transact([&](pqxx::work& work) {
+        m_lock.holdIn(work);
+        removeDays(work, days);
+        for (const auto& month : monthsOf(days))
+            rollUp(work, m_shop, firstOfMonth(month.first()));
+    });
 }
 
 void ShopPublisher::keepAsPublished(const QList<QDate>& days)
 {
     m_server.transact([&](pqxx::work& work) {
         m_lock.holdIn(work);
-        work.exec_params0("UPDATE published_days SET kept = true WHERE shop = $1 AND day = ANY($2::date[])",
-                          m_shop, arrayOf(days));
+        for (const QDate day : days) {
+            work.exec_params0(
+                "UPDATE published_days SET kept = true, kept_digest = $3 WHERE shop = $1 AND day = $2",
+                m_shop, isoDay(day), m_days->has(day) ? m_days->digestIfSound(day) : "");
+        }
     });
 }
 
@@ -111,20 +161,57 @@ void ShopPublisher::publishMonth(const QList<QDate>& days)
     if (m_options.step)
         m_options.step(u"%1: %2 days"_s.arg(days.first().toString(u"yyyy-MM"_s)).arg(days.size()));
     makePartitions(m_server, days.first());
-    std::map<QDate, qint64> rows;
+    try {
+        publishTogether(days);
+        return;
+    } catch (const ChainError& error) {
+        if (error.failure() != ChainFailure::BadRows)
+            throw;
+    } catch (const RuntimeFailure& failure) {
+        if (!isOfDay(failure))
+            throw;
+    }
     for (const QDate day : days)
-        rows[day] = 0;
+        publishOrLeaveOut(day);
+}
+
+/// Says which day it is, if the message does not.
+void ShopPublisher::publishOrLeaveOut(QDate day)
+{
+    QString what;
+    try {
+        publishTogether({day});
+        return;
+    } catch (const ChainError& error) {
+        if (error.failure() != ChainFailure::BadRows)
+            throw;
+        what = error.text();
+    } catch (const RuntimeFailure& failure) {
+        if (!isOfDay(failure))
+            throw;
+        what = failure.text();
+    }
+    const QString name = day.toString(Qt::ISODate);
+    m_published.unsound << (what.contains(name) ? what : name + u": "_s + what);
+}
+
+void ShopPublisher::publishTogether(const QList<QDate>& days)
+{
+    Sent sent;
+    for (const QDate day : days)
+        sent[day] = {};
     m_server.transact([&](pqxx::work& work) {
         m_lock.holdIn(work);
         removeDays(work, days);
         for (std::size_t table = 0; table < salesTables().size(); ++table)
-            copyTable(work, table, days, rows);
-        noteDays(work, rows);
+            copyTable(work, table, sent);
+        noteDays(work, sent);
+        rollUp(work, m_shop, firstOfMonth(days.first()));
     });
     m_days->keep();
     m_published.days += static_cast<int>(days.size());
-    for (const auto& [day, count] : rows)
-        m_published.rows += count;
+    for (const auto& [day, what] : sent)
+        m_published.rows += what.rows;
 }
 
 void ShopPublisher::removeDays(pqxx::work& work, const QList<QDate>& days) const
@@ -141,28 +228,46 @@ void ShopPublisher::removeDays(pqxx::work& work, const QList<QDate>& days) const
 }
 
 /// Sends the days while reading them: they are never all in memory.
-void ShopPublisher::copyTable(pqxx::work& work, std::size_t table, const QList<QDate>& days,
-                              std::map<QDate, qint64>& rows)
+void ShopPublisher::copyTable(pqxx::work& work, std::size_t table, Sent& days)
 {
     const auto& source = salesTables()[table];
     auto columns = columnsOf(source);
     columns.insert(columns.begin(), {"shop", "day"});
     CopyStream stream(m_server, work, source.name, columns);
-    for (const QDate day : days) {
+    for (auto& [day, sent] : days) {
         stream.setLeading(std::to_string(m_shop) + '\t' + isoDay(day) + '\t');
         const RowsDigest read =
             readDay(m_database, source, day, [&stream](const std::string& line) { stream.add(line); });
         m_days->setDigest(day, table, read.digest);
-        rows[day] += read.rows;
+        sent.rows += read.rows;
+        if (read.totals)
+            (source.totalled == Totalled::EveryRow ? sent.plus : sent.financials) = *read.totals;
     }
     stream.complete();
 }
 
-void ShopPublisher::noteDays(pqxx::work& work, const std::map<QDate, qint64>& rows)
+void ShopPublisher::noteDays(pqxx::work& work, const Sent& days)
 {
-    for (const auto& [day, count] : rows) {
-        work.exec_params0("INSERT INTO published_days (shop, day, digest, row_count) VALUES ($1, $2, $3, $4)",
-                          m_shop, isoDay(day), m_days->digestOf(day), count);
+    for (const auto& [day, sent] : days) {
+        work.exec_params0("INSERT INTO published_days (shop, day, digest, row_count, quantity, takings, "
+                          "net_sales, rolled_up) VALUES ($1, $2, $3, $4, nullif($5, '')::numeric, "
+                          "nullif($6, '')::numeric, nullif($7, '')::numeric, true)",
+                          m_shop, isoDay(day), m_days->digestOf(day), sent.rows, sent.plus.quantity,
+                          sent.plus.value, sent.financials.value);
+    }
+}
+
+/// Reads the day as if it were sent.
+void addPreviewOf(QDate day, store::Database& database, Published& preview)
+{
+    try {
+        qint64 rows = 0;
+        for (const auto& table : salesTables())
+            rows += readDay(database, table, day).rows;
+        ++preview.days;
+        preview.rows += rows;
+    } catch (const ChainError& error) {
+        preview.unsound << error.text();
     }
 }
 
@@ -171,6 +276,26 @@ void ShopPublisher::noteDays(pqxx::work& work, const std::map<QDate, qint64>& ro
 Published publishShop(Server& server, const ShopFolder& folder, const PublishOptions& options)
 {
     return ShopPublisher(server, folder, options).publish();
+}
+
+Published previewShop(Server& server, const ShopFolder& folder, const PublishOptions& options)
+{
+    const int shop = isSchemaCurrent(server) ? findPublishedShop(server, folder, options.adopt) : 0;
+    store::Database database(folder.databasePath);
+    ShopDays days(database);
+    const PublishedDays published = shop == 0 ? PublishedDays() : publishedDays(server, shop);
+    DayComparison comparison = compareDays(days, published);
+    Published preview;
+    preview.same = comparison.same;
+    preview.vanished = comparison.vanished;
+    if (shop != 0 && options.vanished != Vanished::Remove)
+        preview.vanishedNames = vanishedNames(server, database, shop);
+    if (!comparison.vanished.isEmpty() && options.vanished != Vanished::Remove)
+        preview.heldBack =
+            static_cast<int>(takeHeldBack(days, comparison, published, options.vanished).size());
+    for (const QDate day : comparison.missing + comparison.changed)
+        addPreviewOf(day, database, preview);
+    return preview;
 }
 
 } // namespace norvane::chain

@@ -1,6 +1,7 @@
 // See Server.h.
 #include "chain/Server.h"
 
+#include <algorithm>
 #include <array>
 #include <libpq-fe.h>
 
@@ -51,8 +52,13 @@ QString valueOf(const Options& options, std::initializer_list<QLatin1StringView>
     return {};
 }
 
+/// As the user named it.
 QString placeOf(const Options& options)
 {
+    const QString service = valueOf(options, {"service"_L1});
+    if (!service.isEmpty() && optionOf(options, "host"_L1).isEmpty() &&
+        optionOf(options, "dbname"_L1).isEmpty())
+        return u"service=%1"_s.arg(service);
     const QString host = valueOf(options, {"host"_L1, "hostaddr"_L1});
     return u"database %1 at %2"_s.arg(valueOf(options, {"dbname"_L1, "user"_L1}),
                                       host.isEmpty() ? u"the local socket"_s : host);
@@ -64,16 +70,74 @@ void setUnlessSet(const char* variable, const char* value)
         qputenv(variable, value);
 }
 
-/// The server reported that it is shutting down or closing the connection.
-bool isFarewell(const pqxx::sql_error& error)
+struct Setting {
+    QLatin1StringView name;
+    QLatin1StringView value;
+};
+
+/// Of the client's end of the line, which libpq takes from the connection string only: a line that is dead
+/// ends in 30 s, not in hours.
+constexpr auto lineSettings = std::to_array<Setting>({
+    {"keepalives_idle"_L1, "10"_L1},
+    {"keepalives_interval"_L1, "5"_L1},
+    {"keepalives_count"_L1, "4"_L1},
+    {"tcp_user_timeout"_L1, "30000"_L1}, // milliseconds
+});
+
+/// Of the session. The server's end of the line ends as soon, so that the next publication finds the shop
+/// free. Settings of the user, the database or the connection string win.
+constexpr const char* sessionSettings =
+    "SELECT set_config(s.name, v.value, false) FROM pg_catalog.pg_settings s JOIN (VALUES "
+    "('lock_timeout', '20s'), ('statement_timeout', '10min'), ('client_connection_check_interval', '5s'), "
+    "('tcp_keepalives_idle', '10'), ('tcp_keepalives_interval', '5'), ('tcp_keepalives_count', '4'), "
+    "('tcp_user_timeout', '30s')) v (name, value) ON v.name = s.name WHERE s.source = 'default'";
+
+QString quoted(QString value)
 {
-    return error.sqlstate().starts_with("57P") || error.sqlstate().starts_with("08");
+    return u'\'' + value.replace(u'\\', u"\\\\"_s).replace(u'\'', u"\\'"_s) + u'\'';
 }
 
-/// The rows are at fault, not the server.
-bool isOfRows(const pqxx::sql_error& error)
+/// The connection string with the settings of the line that it leaves open.
+std::string withLineSettings(const Options& options)
 {
-    return error.sqlstate().starts_with("22") || error.sqlstate().starts_with("23");
+    QStringList all;
+    for (const auto* option = options.get(); option->keyword != nullptr; ++option) {
+        if (option->val != nullptr)
+            all << QLatin1StringView(option->keyword) + u'=' + quoted(QString::fromUtf8(option->val));
+    }
+    for (const auto& [name, value] : lineSettings) {
+        if (optionOf(options, name).isEmpty())
+            all << name + u'=' + value;
+    }
+    return all.join(u' ').toStdString();
+}
+
+/// What an answer of the server means, by the beginning of its state.
+struct Answer {
+    const char* state;
+    ChainFailure failure;
+    QLatin1StringView sentence;
+};
+constexpr auto lost = "The connection to PostgreSQL was lost"_L1;
+constexpr auto answers = std::to_array<Answer>({
+    {"57P", ChainFailure::ConnectionLost, lost}, // it is shutting down
+    {"08", ChainFailure::ConnectionLost, lost},
+    {"22", ChainFailure::BadRows, "PostgreSQL does not take what the shop holds"_L1},
+    {"23", ChainFailure::BadRows, "PostgreSQL does not take what the shop holds"_L1},
+    {"42501", ChainFailure::NoRights, "The rights are insufficient"_L1},
+    {"55P03", ChainFailure::Busy,
+     "Another program holds a lock in PostgreSQL for too long; the next publication continues here"_L1},
+    {"57014", ChainFailure::Busy,
+     "PostgreSQL takes too long for one step, which was given up; the next publication continues here"_L1},
+    {"40", ChainFailure::Busy,
+     "Another program did the same in PostgreSQL at the same time; the next publication continues here"_L1},
+    {"", ChainFailure::Refused, "PostgreSQL refused"_L1},
+});
+
+const Answer& answerOf(std::string_view state)
+{
+    return *std::ranges::find_if(answers,
+                                 [state](const Answer& each) { return state.starts_with(each.state); });
 }
 
 } // namespace
@@ -82,6 +146,7 @@ Server::Server(const QString& connection)
 {
     connect(connection);
     checkEncoding();
+    transact([](pqxx::work& work) { work.exec(sessionSettings); });
 }
 
 void Server::connect(const QString& connection)
@@ -93,7 +158,7 @@ void Server::connect(const QString& connection)
     setUnlessSet("PGCONNECT_TIMEOUT", "10");
     setUnlessSet("PGAPPNAME", "norvane-shop");
     try {
-        m_connection = std::make_unique<Connection>(connection.toStdString());
+        m_connection = std::make_unique<Connection>(withLineSettings(options));
         m_connection->set_client_encoding("UTF8");
         m_connection->set_variable("search_path", std::string(schemaName) + ", pg_temp");
         m_connection->set_variable("client_min_messages", "warning");
@@ -120,14 +185,12 @@ void Server::transact(const std::function<void(pqxx::work&)>& work)
         pqxx::work transaction(*m_connection);
         work(transaction);
         transaction.commit();
-    } catch (const pqxx::insufficient_privilege& error) {
-        fail(ChainFailure::NoRights, u"The rights are insufficient"_s, error.what());
+    } catch (const pqxx::insufficient_privilege& error) { // these two come without a state
+        failAsAnswered("42501", error.what());
+    } catch (const pqxx::transaction_rollback& error) {
+        failAsAnswered("40", error.what());
     } catch (const pqxx::sql_error& error) {
-        if (isFarewell(error))
-            failGone(error.what());
-        if (isOfRows(error))
-            fail(ChainFailure::BadRows, u"PostgreSQL does not take what the shop holds"_s, error.what());
-        fail(ChainFailure::Refused, u"PostgreSQL refused"_s, error.what());
+        failAsAnswered(error.sqlstate(), error.what());
     } catch (const pqxx::in_doubt_error&) {
         // The library's own sentence asks for a check by hand.
         failGone("the connection was lost while rows were being committed; the next publication finds out "
@@ -143,9 +206,15 @@ QString Server::user() const
     return QString::fromUtf8(m_connection->username());
 }
 
+void Server::failAsAnswered(std::string_view state, const char* what) const
+{
+    const Answer& answer = answerOf(state);
+    fail(answer.failure, answer.sentence, what);
+}
+
 void Server::failGone(const char* what) const
 {
-    fail(ChainFailure::ConnectionLost, u"The connection to PostgreSQL was lost"_s, what);
+    fail(ChainFailure::ConnectionLost, lost, what);
 }
 
 void Server::fail(ChainFailure failure, const QString& sentence, const char* what) const

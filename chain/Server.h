@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 
 namespace norvane::chain
 {
@@ -35,6 +36,7 @@ public:
 private:
     void connect(const QString& connection);
     void checkEncoding();
+    [[noreturn]] void failAsAnswered(std::string_view state, const char* what) const;
     [[noreturn]] void failGone(const char* what) const;
     [[noreturn]] void fail(ChainFailure failure, const QString& sentence, const char* what) const;
     [[nodiscard]] QString plain(const char* what) const;

@@ -10,6 +10,7 @@
 #include <QCryptographicHash>
 
 #include <algorithm>
+#include <iterator>
 
 namespace norvane::chain
 {
@@ -24,6 +25,18 @@ QDate dayOf(const pqxx::field& field)
     return QDate::fromString(QString::fromUtf8(field.c_str()), Qt::ISODate);
 }
 
+Decimal numberOf(const std::string& text)
+{
+    return Decimal::tryParse(text).value_or(Decimal());
+}
+
+bool isSame(const PublishedDay& published, const std::string& digest)
+{
+    if (published.digest == digest)
+        return true;
+    return published.isKept && (!published.keptDigest || *published.keptDigest == digest);
+}
+
 } // namespace
 
 PublishedDays publishedDays(Server& server, int shop)
@@ -31,8 +44,16 @@ PublishedDays publishedDays(Server& server, int shop)
     PublishedDays days;
     server.transact([&](pqxx::work& work) {
         for (const auto& row : work.exec_params(
-                 "SELECT to_char(day, 'YYYY-MM-DD'), digest, kept FROM published_days WHERE shop = $1", shop))
-            days[dayOf(row[0])] = {row[1].as<std::string>(), row[2].as<bool>()};
+                 "SELECT to_char(day, 'YYYY-MM-DD'), digest, kept, kept_digest, coalesce(quantity, 0), "
+                 "coalesce(net_sales, 0) FROM published_days WHERE shop = $1",
+                 shop)) {
+            PublishedDay day{row[1].as<std::string>(), row[2].as<bool>()};
+            if (!row[3].is_null())
+                day.keptDigest = row[3].as<std::string>();
+            day.quantity = numberOf(row[4].c_str());
+            day.netSales = numberOf(row[5].c_str());
+            days[dayOf(row[0])] = day;
+        }
     });
     return days;
 }
@@ -78,6 +99,34 @@ std::string ShopDays::digestOf(QDate day)
         .toStdString();
 }
 
+std::string ShopDays::digestIfSound(QDate day)
+{
+    try {
+        return digestOf(day);
+    } catch (const ChainError& error) {
+        if (error.failure() != ChainFailure::BadRows)
+            throw;
+        return {};
+    }
+}
+
+bool ShopDays::hasLess(QDate day, const PublishedDay& published) const
+{
+    Decimal quantity;
+    Decimal netSales;
+    for (const auto& table : salesTables()) {
+        if (table.totalled == Totalled::No)
+            continue;
+        const auto totals = readDay(m_database, table, day).totals.value_or(DayTotals{"0", "0"});
+        if (table.totalled == Totalled::EveryRow) {
+            quantity = numberOf(totals.quantity);
+        } else {
+            netSales = numberOf(totals.value);
+        }
+    }
+    return quantity < published.quantity || netSales < published.netSales;
+}
+
 void ShopDays::setDigest(QDate day, std::size_t table, const std::string& digest)
 {
     std::string& known = m_digests.at(day).at(table);
@@ -118,7 +167,7 @@ DayComparison compareDays(ShopDays& days, const PublishedDays& published)
         const auto known = published.find(day);
         if (known == published.end()) {
             comparison.missing << day;
-        } else if (known->second.isKept || known->second.digest == days.digestOf(day)) {
+        } else if (isSame(known->second, days.digestIfSound(day))) {
             ++comparison.same;
         } else {
             comparison.changed << day;
@@ -129,6 +178,18 @@ DayComparison compareDays(ShopDays& days, const PublishedDays& published)
             comparison.vanished << day;
     }
     return comparison;
+}
+
+QList<QDate> takeHeldBack(const ShopDays& days, DayComparison& comparison, const PublishedDays& published,
+                          Vanished vanished)
+{
+    const auto isHeldBack = [&](QDate day) {
+        return vanished == Vanished::Ask || days.hasLess(day, published.at(day));
+    };
+    QList<QDate> heldBack;
+    std::ranges::copy_if(comparison.changed, std::back_inserter(heldBack), isHeldBack);
+    comparison.changed.removeIf([&](QDate day) { return heldBack.contains(day); });
+    return heldBack;
 }
 
 } // namespace norvane::chain

@@ -7,6 +7,7 @@
 #include <QDate>
 
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -17,17 +18,27 @@ namespace norvane::chain
 /// columns, with tabs between.
 using RowSink = std::function<void(const std::string& line)>;
 
+/// Exact sums of a day, as texts.
+struct DayTotals {
+    std::string quantity;
+    std::string value;
+};
+
 /// What was read, to be compared with what was read another time.
 struct RowsDigest {
     std::string digest;
-    qint64 rows = 0;
+    qint64 rows = 0; ///< that were passed on
+    /// Of the rows that SalesTable::totalled says; nothing if the day has no row at all.
+    std::optional<DayTotals> totals{};
 };
 
 /// All days of which the table holds sales, without reading the rows of them.
 [[nodiscard]] std::set<QDate> daysOf(store::Database& database, const SalesTable& table);
 
-/// Reads the items of a day in the order of their numbers, the collections of the day added exactly.
-/// @throws RuntimeFailure as the database reports, with Failure::UnknownNameInQuery for an infinite number.
+/// Reads the items of a day in the order of their numbers, the collections of the day added exactly. Rows of
+/// nothing but zeros belong to the digest, but are not passed on: most PLUs are not sold on most days.
+/// @throws ChainError BadRows, naming day and item, for rows that PostgreSQL cannot take: without an item,
+/// with one that is not a number, with an infinite sum. @throws RuntimeFailure as the database reports.
 RowsDigest readDay(store::Database& database, const SalesTable& table, QDate day, const RowSink& sink = {});
 
 /// Reads the names in the order of their numbers.

@@ -97,11 +97,12 @@ class PublishRun
 {
 public:
     PublishRun(const Workplace& workplace, const Invocation& words)
-        : m_workplace(workplace),
-          m_words(words), m_options{vanishedOf(words), words.has("adopt"_L1), [](const QString& text) {
-                                        stopIfSignalled();
-                                        printStep(text);
-                                    }}
+        : m_workplace(workplace), m_words(words),
+          m_isPreview(words.has("dry-run"_L1)), m_options{vanishedOf(words), words.has("adopt"_L1),
+                                                          [](const QString& text) {
+                                                              stopIfSignalled();
+                                                              printStep(text);
+                                                          }}
     {
     }
 
@@ -114,10 +115,13 @@ private:
     void publishAll(chain::Server& server, const std::vector<ApplicationValues>& customers);
     void publishOrReport(chain::Server& server, const ApplicationValues& customer);
     void publish(chain::Server& server, const ApplicationValues& customer);
+    [[nodiscard]] chain::Published publishLogged(chain::Server& server, const chain::ShopFolder& folder);
+    void show(const chain::ShopFolder& folder, const chain::Published& published);
     void note(ExitCode code, const QString& text);
 
     const Workplace& m_workplace;
     const Invocation& m_words;
+    bool m_isPreview;
     chain::PublishOptions m_options;
     Listing m_listing{{u"Shop"_s, u"Days"_s, u"Rows"_s, u"Unchanged"_s, u"Vanished"_s}};
     ExitCode m_code = ExitCode::Done;
@@ -128,7 +132,8 @@ void PublishRun::run()
     const auto customers = takeCustomers();
     try {
         chain::Server server(m_words.value("to"_L1));
-        chain::prepareSchema(server);
+        if (!m_isPreview)
+            chain::prepareSchema(server);
         publishAll(server, customers);
     } catch (const chain::ChainError& error) {
         rethrow(error);
@@ -198,17 +203,27 @@ void PublishRun::publish(chain::Server& server, const ApplicationValues& custome
         note(ExitCode::Busy, u"\"%1\" was not published."_s.arg(shopName(customer)));
         return;
     }
-    customers::LoggedWork work(customer.customerPath, u"publication"_s);
-    const QString name = shopName(customer);
-    const auto published = work.during([&] {
-        stopIfSignalled();
-        return chain::publishShop(server, {name, customer.customerPath, customer.databasePath}, m_options);
-    });
+    const chain::ShopFolder folder{shopName(customer), customer.customerPath, customer.databasePath};
+    stopIfSignalled();
+    show(folder, m_isPreview ? chain::previewShop(server, folder, m_options) : publishLogged(server, folder));
+}
+
+chain::Published PublishRun::publishLogged(chain::Server& server, const chain::ShopFolder& folder)
+{
+    customers::LoggedWork work(folder.customerPath, u"publication"_s);
+    const auto published = work.during([&] { return chain::publishShop(server, folder, m_options); });
     work.setResult(u"%1 days, %2 rows"_s.arg(published.days).arg(published.rows));
-    m_listing.add({name, published.days, published.rows, published.same, published.vanished.size()});
+    return published;
+}
+
+void PublishRun::show(const chain::ShopFolder& folder, const chain::Published& published)
+{
+    m_listing.add({folder.name, published.days, published.rows, published.same, published.vanished.size()});
+    for (const QString& day : published.unsound)
+        note(ExitCode::Unsound, u"%1: %2 The day is not published."_s.arg(folder.name, day));
     const bool hasVanished = !published.vanished.isEmpty() || !published.vanishedNames.isEmpty();
     if (m_options.vanished == Vanished::Ask && hasVanished)
-        note(ExitCode::Vanished, vanishedText(name, published));
+        note(ExitCode::Vanished, vanishedText(folder.name, published));
 }
 
 void PublishRun::note(ExitCode code, const QString& text)

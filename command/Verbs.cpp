@@ -95,6 +95,7 @@ constexpr auto publishOptions = std::to_array<OptionDefinition>({
     {"vanished"_L1, "keep|remove"_L1,
      "of days that are published and that the shop no longer has: keep them and report them no more, or delete them"_L1},
     {"adopt"_L1, {}, "go on with a shop that was published from another folder or under another name"_L1},
+    {"dry-run"_L1, {}, "list what would be published, and change nothing"_L1},
 });
 
 // clang-format off

@@ -55,7 +55,9 @@ TEST_F(PublishTest, PublishesSalesAndNamesOnce)
          "2026-11-02|Food|-0.10"},
         {u"SELECT plu, description, takings FROM takings_by_plu WHERE day = '2026-11-01'"_s,
          "0002|Tab\there|39.03"},
-        {u"SELECT count(*) FROM pg_inherits WHERE inhparent = 'plu_sales'::regclass"_s, "2"},
+        {u"SELECT group_name, quantity, takings FROM group_takings('2026-10-31', '2026-11-01')"_s,
+         "Food|6|39.33"},
+        {u"SELECT starts_at, takings FROM time_takings('2026-11-01', '2026-11-30')"_s, "09:30|39.03"},
     };
     EXPECT_EQ(published({cornerShop}), "3 8 0 0");
     for (int run = 0; run < 2; ++run) {
@@ -138,6 +140,37 @@ TEST_F(PublishTest, NeverEmptiesAShopThatWasReset)
     change(cornerShop, "delete from FINANCIALSALES where SALESDATE = '2026-11-03'");
     EXPECT_EQ(published({cornerShop, u"--vanished"_s, u"remove"_s}), "0 0 1 1");
     EXPECT_EQ(query(days + u"; SELECT count(*) FROM employees"_s), "31 01 02 0") << "kept days remain";
+}
+
+TEST_F(PublishTest, KeepsWhatVanishedAndTakesLaterCorrections)
+{
+    EXPECT_EQ(published({cornerShop}), "3 8 0 0");
+    // The 31st is gone, the 1st lost its PLUs, the 2nd was corrected.
+    change(cornerShop,
+           "delete from PLUSALES where SALESDATE < '2026-11-02'; update PLUSALES set COUNT1 = 5, VALUE1 = 6");
+    EXPECT_EQ(published({cornerShop, u"--vanished"_s, u"keep"_s}), "1 1 0 1");
+    const QString days = u"SELECT string_agg(takings::text, ' ' ORDER BY day) FROM takings_by_day"_s;
+    EXPECT_EQ(query(days), "0.30 39.03 6.00");
+    EXPECT_EQ(published({cornerShop}), "0 0 2 0");
+    change(cornerShop, "insert into PLUSALES (ID, SALESDATE, PROMO, WASTE, COUNT1, VALUE1) values "
+                       "('0001', '2026-10-31', 0, 0, 1, 0.5), ('0001', '2026-11-01', 0, 0, 9, 50)");
+    EXPECT_EQ(published({cornerShop}), "2 7 1 0");
+    EXPECT_EQ(query(days), "0.50 50.00 6.00");
+    EXPECT_EQ(query(u"SELECT takings FROM takings_by_shop"_s), "56.50");
+}
+
+TEST_F(PublishTest, APreviewChangesNothing)
+{
+    const QStringList preview{cornerShop, u"--dry-run"_s};
+    EXPECT_EQ(published(preview), "3 8 0 0");
+    EXPECT_EQ(query(u"SELECT count(*) FROM pg_namespace WHERE nspname = 'norvane'"_s), "0");
+    EXPECT_FALSE(pathExists(m_folder.path("Corner Shop/norvane-chain.ini")));
+    EXPECT_EQ(published({cornerShop}), "3 8 0 0");
+    change(cornerShop,
+           "delete from PLUSALES where SALESDATE = '2026-10-31'; update FINANCIALSALES set VALUE = 1");
+    EXPECT_EQ(published(preview, 15), "0 0 1 1");
+    EXPECT_EQ(published(preview + QStringList{u"--vanished"_s, u"remove"_s}), "1 6 1 1");
+    EXPECT_EQ(query(u"SELECT count(*), sum(net_sales) FROM takings_by_day"_s), "3|39.03");
 }
 
 TEST_F(PublishTest, KnowsAShopByItsFolder)

@@ -1,0 +1,143 @@
+// See Rollups.h.
+#include "chain/Rollups.h"
+
+#include "chain/ChainTables.h"
+#include "platform/Dates.h"
+#include "store/catalogue/SalesTables.h"
+
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace norvane::chain
+{
+namespace
+{
+
+constexpr auto monthTotals = std::to_array<Rollup>({
+    {"shop_months",
+     "first_day date NOT NULL, last_day date NOT NULL, days integer NOT NULL, quantity numeric, "
+     "takings numeric, net_sales numeric",
+     "",
+     "SELECT shop, $2::date, min(day), max(day), count(*), sum(quantity), sum(takings), sum(net_sales) "
+     "FROM published_days WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop"},
+    {"plu_months", "plu text COLLATE \"C\" NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
+     ", plu",
+     "SELECT shop, $2::date, plu, sum(count1) + sum(count2) + sum(count3) + sum(count4) + sum(count5), "
+     "sum(value1) + sum(value2) + sum(value3) + sum(value4) + sum(value5) "
+     "FROM plu_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, plu"},
+    {"group_months", "group_no integer NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
+     ", group_no",
+     "SELECT m.shop, m.month, coalesce(p.group_no, -1), sum(m.quantity), sum(m.takings) "
+     "FROM plu_months m LEFT JOIN plus p ON p.shop = m.shop AND p.plu = m.plu "
+     "WHERE m.shop = $1 AND m.month >= $2 AND m.month < $3 "
+     "GROUP BY m.shop, m.month, coalesce(p.group_no, -1)"},
+    {"time_months", "period integer NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
+     ", period",
+     "SELECT shop, $2::date, period, sum(quantity), sum(value) FROM time_sales "
+     "WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, period"},
+});
+
+/// A bound of months that PostgreSQL reads as before or after all others.
+constexpr const char* beforeAll = "-infinity";
+constexpr const char* afterAll = "infinity";
+
+void write(pqxx::work& work, const Rollup& rollup, int shop, const std::string& first, const std::string& end)
+{
+    const std::string name = rollup.name;
+    work.exec_params0("DELETE FROM " + name + " WHERE shop = $1 AND month >= $2 AND month < $3", shop, first,
+                      end);
+    work.exec_params0("INSERT INTO " + name + ' ' + rollup.select, shop, first, end);
+}
+
+std::string declarationOf(const Rollup& rollup)
+{
+    return std::string("CREATE TABLE ") + rollup.name + " (shop integer NOT NULL, month date NOT NULL, " +
+           rollup.columns + ", PRIMARY KEY (shop, month" + rollup.key + "))";
+}
+
+/// Nothing but zeros in all columns that are added up.
+std::string zeroCondition(const SalesTable& days)
+{
+    std::string all;
+    for (const std::string& column : summedColumnsOf(days))
+        all += " AND " + column + " = 0";
+    return all;
+}
+
+/// A day of which a report was collected has totals, 0 if it sold nothing.
+std::string totalsStatement(const std::string& assignments, const std::string& source)
+{
+    return "UPDATE published_days d SET " + assignments + " FROM (SELECT shop, day, " + source +
+           " WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, day) t "
+           "WHERE d.shop = $1 AND t.shop = d.shop AND d.day = t.day";
+}
+
+std::vector<std::string> conversionStatements()
+{
+    std::vector<std::string> all{
+        totalsStatement("quantity = t.quantity, takings = t.takings", std::string("sum(") + pluQuantity +
+                                                                          ") AS quantity, sum(" + pluTakings +
+                                                                          ") AS takings FROM plu_sales"),
+        totalsStatement("net_sales = t.net_sales", "coalesce(sum(value) FILTER (WHERE line = " +
+                                                       std::to_string(store::salestable::netSalesLine) +
+                                                       "), 0) AS net_sales FROM financial_sales")};
+    for (const auto& days : salesTables()) {
+        all.push_back("DELETE FROM " + std::string(days.name) +
+                      " WHERE shop = $1 AND day >= $2 AND day < $3" + zeroCondition(days));
+    }
+    all.emplace_back("UPDATE published_days SET rolled_up = true WHERE shop = $1 AND day >= $2 AND day < $3");
+    return all;
+}
+
+} // namespace
+
+std::span<const Rollup> rollups()
+{
+    return monthTotals;
+}
+
+std::vector<std::string> rollupStatements()
+{
+    std::vector<std::string> all;
+    for (const auto& rollup : monthTotals)
+        all.push_back(declarationOf(rollup));
+    // For one PLU, and for one month, of all shops. Equal keys of an index share one entry, so these are
+    // small.
+    for (const char* index :
+         {"plu_sales (plu)", "plu_months (plu)", "plu_months (month)", "published_days (day)"})
+        all.push_back(std::string("CREATE INDEX ON ") + index);
+    return all;
+}
+
+void rollUp(pqxx::work& work, int shop, QDate month)
+{
+    for (const auto& rollup : monthTotals)
+        write(work, rollup, shop, isoDay(month), isoDay(month.addMonths(1)));
+}
+
+void rollUpGroups(pqxx::work& work, int shop)
+{
+    const auto* const groups =
+        std::ranges::find(monthTotals, std::string_view("group_months"), &Rollup::name);
+    write(work, *groups, shop, beforeAll, afterAll);
+}
+
+void convertMonth(pqxx::work& work, int shop, QDate month)
+{
+    for (const std::string& statement : conversionStatements())
+        work.exec_params0(statement, shop, isoDay(month), isoDay(month.addMonths(1)));
+    rollUp(work, shop, month);
+}
+
+std::vector<QDate> formerMonths(pqxx::work& work, int shop)
+{
+    std::vector<QDate> all;
+    for (const auto& row : work.exec_params("SELECT DISTINCT date_trunc('month', day::timestamp)::date::text "
+                                            "FROM published_days WHERE shop = $1 AND NOT rolled_up",
+                                            shop))
+        all.push_back(QDate::fromString(QString::fromUtf8(row[0].c_str()), Qt::ISODate));
+    return all;
+}
+
+} // namespace norvane::chain

@@ -1,0 +1,47 @@
+// Monthly totals beside the days, so that years of a chain are added up in no time.
+#pragma once
+
+#include "chain/Server.h"
+
+#include <QDate>
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace norvane::chain
+{
+
+/// A table with one row for each month and item of a shop. Publications rewrite the months that they change,
+/// in the same transaction, so a total always is that of its days.
+struct Rollup {
+    const char* name;
+    const char* columns; ///< after shop and month, as a declaration
+    const char* key;     ///< columns of the key after shop and month
+    const char* select;  ///< the rows of the shop $1 from the month $2 until before $3
+};
+
+/// A roll-up may read those before it.
+[[nodiscard]] std::span<const Rollup> rollups();
+/// The statements that make their tables and indexes.
+[[nodiscard]] std::vector<std::string> rollupStatements();
+
+/// Quantity and takings of a row of plu_sales, over all price levels.
+inline constexpr const char* pluQuantity = "count1 + count2 + count3 + count4 + count5";
+inline constexpr const char* pluTakings = "value1 + value2 + value3 + value4 + value5";
+
+/// The group of PLUs without one, in group_months: a key has no empty values.
+inline constexpr int noGroup = -1;
+
+/// Adds up a month of a shop again.
+void rollUp(pqxx::work& work, int shop, QDate month);
+/// The groups of all months, after PLUs have changed their groups.
+void rollUpGroups(pqxx::work& work, int shop);
+
+/// Brings months into the present form that a former program published: totals of each day, no rows of
+/// nothing but zeros, roll-ups.
+void convertMonth(pqxx::work& work, int shop, QDate month);
+/// The months of a shop of which that is left to do.
+[[nodiscard]] std::vector<QDate> formerMonths(pqxx::work& work, int shop);
+
+} // namespace norvane::chain
