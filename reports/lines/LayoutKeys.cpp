@@ -42,6 +42,8 @@ constexpr std::array<std::pair<QLatin1String, Alignment>, 3> alignments{
     {{"Left"_L1, Alignment::Left}, {"Centre"_L1, Alignment::Centre}, {"Right"_L1, Alignment::Right}}};
 constexpr std::array<std::pair<QLatin1String, ChartKind>, 3> chartKinds{
     {{"Ranking"_L1, ChartKind::Ranking}, {"Course"_L1, ChartKind::Course}, {"Shares"_L1, ChartKind::Shares}}};
+constexpr std::array<std::pair<QLatin1String, RankPart>, 3> rankParts{
+    {{"Share"_L1, RankPart::Share}, {"Cumulated"_L1, RankPart::Cumulated}, {"Letter"_L1, RankPart::Letter}}};
 constexpr std::array<std::pair<QLatin1String, PointSource>, 2> pointSources{
     {{"Lines"_L1, PointSource::Lines}, {"Groups"_L1, PointSource::Groups}}};
 
@@ -112,6 +114,52 @@ bool takeColumnValue(const QString& value, LayoutTarget& target)
     if (layout.format.kind == FormatKind::Date && layout.text.text.parts.size() == 1)
         layout.column.kind = ColumnKind::Date;
     return true;
+}
+
+/// Shares have one decimal place unless the column's format says otherwise.
+bool takeRank(const QString& value, LayoutTarget& target)
+{
+    auto& layout = *target.column;
+    if (!target.layout.classes || layout.number || !layout.text.text.isEmpty() ||
+        !takeChoice(value, rankParts, layout.rank))
+        return false;
+    if (layout.rank == RankPart::Letter)
+        return true;
+    if (!layout.format.isNumber())
+        layout.format = {FormatKind::Number, 1, 1, {}};
+    layout.column.kind = ColumnKind::Number;
+    layout.column.alignment = Alignment::Right;
+    layout.column.leastDecimals = layout.format.leastDecimals;
+    layout.column.mostDecimals = layout.format.mostDecimals;
+    return true;
+}
+
+bool takeTotal(const QString& value, LayoutTarget& target)
+{
+    auto& layout = *target.column;
+    return takeYesNo(value, layout.isTotalled) &&
+           (layout.number || layout.rank == RankPart::Share || !layout.isTotalled);
+}
+
+bool takeClassBy(const QString& value, LayoutTarget& target)
+{
+    target.layout.classes.emplace().by = parseExpression(value, target.fields());
+    return target.layout.source.addsUp();
+}
+
+/// Ascending, above 0 and up to 100. Classes are letters, so there are at most 25 limits.
+bool takeLimits(const QString& value, LayoutTarget& target)
+{
+    constexpr std::size_t mostLimits = 25;
+    auto& limits = target.layout.classes->limits;
+    for (const QString& text : value.split(u',')) {
+        const auto limit = Decimal::tryParse(text.toStdString());
+        const Decimal least = limits.empty() ? Decimal() : limits.back();
+        if (!limit || *limit <= least || *limit > Decimal(100, 0))
+            return false;
+        limits.push_back(*limit);
+    }
+    return limits.size() <= mostLimits;
 }
 
 bool takeWidth(const QString& value, LayoutTarget& target)
@@ -231,15 +279,21 @@ constexpr std::array<KeyRule, 2> joinKeys{{
     {u"Find", true, "a field of a table that is not read yet, such as {PLUDATA.PLUNUMBER}"_L1, takeFind},
     {u"By", true, "a field by whose value the record is found, such as {PLUSALES.ID}"_L1, takeBy},
 }};
-constexpr std::array<KeyRule, 10> columnKeys{{
+constexpr std::array<KeyRule, 3> classKeys{{
+    {u"By", true, "a number computed from fields, in a report with Lines"_L1, takeClassBy},
+    {u"Limits", true, "per cents in ascending order, such as 80,95"_L1, takeLimits},
+    {u"Heading", false, "a text with {class} and {lines}"_L1, [](const QString& value, LayoutTarget& target) { target.layout.classes->heading = value; return true; }},
+}};
+constexpr std::array<KeyRule, 11> columnKeys{{
     {u"Heading", false, "the heading of the column"_L1, [](const QString& value, LayoutTarget& target) { target.column->column.heading = value; return true; }},
     {u"Format", false, "Text, Digits, Money, Quantity, Date, Time, YesNo or a pattern such as 0.00"_L1, takeColumnFormat},
     {u"Words", false, "words for numbers, such as 0;None,1;Added"_L1, takeWords},
-    {u"Value", true, "fields such as {PLUSALES.ID}"_L1, takeColumnValue},
+    {u"Value", false, "fields such as {PLUSALES.ID}"_L1, takeColumnValue},
+    {u"Class", false, "Share, Cumulated or Letter in place of Value, in a report with section Classes"_L1, takeRank},
     {u"Missing", false, "a text"_L1, [](const QString& value, LayoutTarget& target) { target.column->text.missing = parseTemplate(value, target.fields()); return true; }},
     {u"Width", true, "millimetres from 1 to 280"_L1, takeWidth},
     {u"Align", false, "Left, Centre or Right"_L1, [](const QString& value, LayoutTarget& target) { return takeChoice(value, alignments, target.column->column.alignment); }},
-    {u"Total", false, "YES or NO, and YES only for a number"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.column->isTotalled) && (target.column->number || !target.column->isTotalled); }},
+    {u"Total", false, "YES or NO, and YES only for a number"_L1, takeTotal},
     {u"Compare", false, "YES or NO, and YES only for a number"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.column->column.isCompared) && (target.column->number || !target.column->column.isCompared); }},
     {u"Show", false, "numbers that are not all zero where the column is shown"_L1, [](const QString& value, LayoutTarget& target) { target.column->shownIf = parseExpressions(value, target.fields()); return true; }},
 }};
@@ -279,8 +333,8 @@ constexpr std::array<KeyRule, 11> chartKeys{{
 
 const LayoutKeys& layoutKeys()
 {
-    static constexpr LayoutKeys keys{reportKeys, joinKeys,  columnKeys, groupKeys,
-                                     sortKeys,   chartKeys, linkKeys,   furtherValue};
+    static constexpr LayoutKeys keys{reportKeys, joinKeys,  classKeys, columnKeys,  groupKeys,
+                                     sortKeys,   chartKeys, linkKeys,  furtherValue};
     return keys;
 }
 

@@ -36,6 +36,7 @@ struct KeyRule {
 struct LayoutKeys {
     std::span<const KeyRule> report;
     std::span<const KeyRule> join;
+    std::span<const KeyRule> classes;
     std::span<const KeyRule> column;
     std::span<const KeyRule> group;
     std::span<const KeyRule> sort;

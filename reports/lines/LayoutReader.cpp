@@ -32,7 +32,11 @@ public:
         LayoutTarget target{m_layout, &m_layout.source};
         readKeys(u"Report"_s, layoutKeys().report, target);
         readJoins();
+        if (hasSection(u"Classes"_s))
+            readKeys(u"Classes"_s, layoutKeys().classes, target);
         readColumns();
+        if (m_layout.classes && hasSection(u"Group"_s))
+            fail(u"section [Group]"_s, u"a report has either groups or classes"_s);
         if (hasSection(u"Group"_s))
             readKeys(u"Group"_s, layoutKeys().group, target);
         if (hasSection(u"Sort"_s))
@@ -58,14 +62,14 @@ private:
     void checkSections() const
     {
         static const QRegularExpression known(
-            u"^(Report|Group|Sort|Link|(Join|Column|Chart)([1-9][0-9]{0,3}))$"_s,
+            u"^(Report|Classes|Group|Sort|Link|(Join|Column|Chart)([1-9][0-9]{0,3}))$"_s,
             QRegularExpression::CaseInsensitiveOption);
         const QStringList sections = m_file.sections();
         for (const QString& section : sections) {
             const auto match = known.match(section);
             if (!match.hasMatch()) {
                 fail(u"section [%1]"_s.arg(section),
-                     u"Report, Join1, Column1, Group, Sort, Link or Chart1 is expected"_s);
+                     u"Report, Join1, Classes, Column1, Group, Sort, Link or Chart1 is expected"_s);
             }
             const QString before = match.captured(2) + QString::number(match.captured(3).toInt() - 1);
             if (match.captured(3).toInt() > 1 && !sections.contains(before, Qt::CaseInsensitive))
@@ -137,6 +141,9 @@ private:
         for (int number = 2; number <= mostValues; ++number)
             further.append(u"Value%1"_s.arg(number));
         readKeys(section, layoutKeys().column, target, further);
+        const ColumnLayout& column = *target.column;
+        if (!column.number && column.text.text.isEmpty() && column.rank == RankPart::None)
+            fail(section, u"Value", u"it is missing; expected is fields such as {PLUSALES.ID}"_s);
         for (const QString& key : further) {
             KeyRule rule = layoutKeys().furtherValue;
             rule.key = key;
@@ -168,7 +175,7 @@ private:
             LayoutTarget target{m_layout, &m_layout.source};
             target.chart = &chart;
             readKeys(section, layoutKeys().chart, target);
-            if (chart.from == PointSource::Groups && !m_layout.group)
+            if (chart.from == PointSource::Groups && !m_layout.hasGroups())
                 fail(section, u"From", u"the report has no groups"_s);
             if (chart.from != PointSource::Groups && chart.label.text.isEmpty())
                 fail(section, u"Label", u"it is missing; expected is a text with fields"_s);

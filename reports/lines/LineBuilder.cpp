@@ -23,76 +23,13 @@ std::size_t labelColumnOf(const ReportLayout& layout)
 {
     const auto& columns = layout.columns;
     const auto isWord = [](const ColumnLayout& column) {
-        return !column.number && column.format.kind != FormatKind::Digits && column.shownIf.empty();
+        return !column.number && column.rank == RankPart::None && column.format.kind != FormatKind::Digits && column.shownIf.empty();
     };
     const auto word = std::ranges::find_if(columns, isWord);
     return word == columns.end() ? 0 : static_cast<std::size_t>(word - columns.begin());
 }
 
-bool isRecordNumber(const LineSource& source, const FieldName& field)
-{
-    const auto& indexes = field.table->indexes;
-    const bool isIndexed = !indexes.isEmpty() && indexes.first().field == field.name();
-    return field.table != source.table || source.isKey(field) || isIndexed;
-}
-
 } // namespace
-
-void SlotTotals::add(const std::vector<std::string>& numbers)
-{
-    for (std::size_t i = 0; i < numbers.size(); ++i) {
-        if (numbers[i] != "0")
-            m_totals[i].add(std::string_view(numbers[i]));
-    }
-}
-
-std::vector<std::string> SlotTotals::texts() const
-{
-    std::vector<std::string> texts;
-    for (const auto& total : m_totals)
-        texts.push_back(total.text());
-    return texts;
-}
-
-LineNumbers::LineNumbers(const ReportLayout& layout)
-    : m_isUsed(layout.source.fields.size()), m_isValue(layout.source.fields.size()),
-      m_numbers(layout.source.fields.size(), "0")
-{
-    for (const auto& column : layout.columns) {
-        if (column.number)
-            column.number->markSlots(m_isUsed);
-        for (const auto& expression : column.shownIf)
-            expression.markSlots(m_isUsed);
-    }
-    for (const auto& chart : layout.charts) {
-        if (chart.from != PointSource::Query)
-            chart.value->markSlots(m_isUsed);
-    }
-    for (std::size_t i = 0; i < m_isValue.size(); ++i) {
-        m_isValue[i] = m_isUsed[i] && !isRecordNumber(layout.source, layout.source.fields[i]);
-        m_isSum.push_back(layout.source.isSum(layout.source.fields[i]));
-    }
-}
-
-void LineNumbers::read(const LineFields& fields)
-{
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        if (m_isUsed[i] && m_isSum[i]) {
-            m_numbers[i].assign(fields[i].textView());
-        } else if (m_isUsed[i]) {
-            m_numbers[i] = exactText(fields[i]);
-        }
-    }
-}
-
-bool LineNumbers::areZero() const
-{
-    for (std::size_t i = 0; i < m_numbers.size(); ++i) {
-        if (m_isValue[i] && m_numbers[i] != "0")
-            return false;
-    }
-    return true;
-}
 
 LineBuilder::LineBuilder(const ReportLayout& layout, ReportData& data, ChartBuilder& charts,
                          std::vector<std::string> whole)
@@ -110,13 +47,16 @@ LineBuilder::LineBuilder(const ReportLayout& layout, ReportData& data, ChartBuil
     }
 }
 
-void LineBuilder::add(const LineFields& fields)
+void LineBuilder::add(const LineFields& fields, const LineRank& rank)
 {
     m_numbers.read(fields);
+    m_rank = rank;
     if (isLeftOut(fields))
         return;
     if (m_layout.group)
         changeGroup(fields);
+    else if (m_layout.hasGroups())
+        changeClass();
     if (!m_layout.group || m_layout.group->showsLines)
         addDetail(fields);
     m_groupTotals.add(m_numbers.numbers());
@@ -144,11 +84,26 @@ void LineBuilder::changeGroup(const LineFields& fields)
     const store::Value group = isNone ? store::Value() : by;
     if (m_group && *m_group == group)
         return;
+    openGroup(group, isNone && !heading.missing.isEmpty() ? textOf(heading.missing, {}, fields)
+                                                          : textOf(heading, fields));
+}
+
+void LineBuilder::changeClass()
+{
+    const auto group = store::Value::text(m_rank.letter);
+    if (m_group && *m_group == group)
+        return;
+    QString heading = m_layout.classes->heading;
+    heading.replace("{class}"_L1, m_rank.letter, Qt::CaseInsensitive);
+    openGroup(group, heading.replace("{lines}"_L1, QString::number(m_rank.linesOfClass), Qt::CaseInsensitive));
+}
+
+void LineBuilder::openGroup(const store::Value& group, const QString& heading)
+{
     closeGroup();
     m_group = group;
-    m_groupHeading =
-        isNone && !heading.missing.isEmpty() ? textOf(heading.missing, {}, fields) : textOf(heading, fields);
-    if (m_layout.group->showsLines)
+    m_groupHeading = heading;
+    if (!m_layout.group || m_layout.group->showsLines)
         m_data.addLine(LineKind::GroupHeading, {m_groupHeading});
 }
 
@@ -157,7 +112,7 @@ void LineBuilder::closeGroup()
     if (!m_group)
         return;
     m_charts.addGroup(m_groupHeading, {m_groupTotals.texts(), m_whole});
-    if (!m_layout.group->showsLines) {
+    if (m_layout.group && !m_layout.group->showsLines) {
         addTotal(LineKind::Detail, m_groupTotals, m_groupHeading);
         setLink(*m_group);
     } else if (m_isTotalled) {
@@ -185,6 +140,8 @@ void LineBuilder::setLink(const store::Value& value)
 
 ReportCell LineBuilder::cell(const ColumnLayout& column, const LineFields& fields) const
 {
+    if (column.rank != RankPart::None)
+        return rankCell(column.rank);
     if (column.number) {
         const auto slot = column.number->loneSlot();
         if (slot && fields.at(static_cast<std::size_t>(*slot)).isNull())
@@ -197,6 +154,23 @@ ReportCell LineBuilder::cell(const ColumnLayout& column, const LineFields& field
     }
     const QString text = textOf(column.text, fields);
     return text.isEmpty() ? ReportCell() : ReportCell(text);
+}
+
+ReportCell LineBuilder::rankCell(RankPart part) const
+{
+    if (part == RankPart::Letter)
+        return m_rank.letter;
+    const auto& share = part == RankPart::Share ? m_rank.share : m_rank.cumulated;
+    return share ? ReportCell(*share) : ReportCell(noRank.toString());
+}
+
+/// The share of several lines is that of their numbers together.
+ReportCell LineBuilder::totalOf(const ColumnLayout& column, const std::vector<std::string>& numbers) const
+{
+    if (column.rank == RankPart::None)
+        return number(column, numbers);
+    const auto share = shareOf(*m_layout.classes, {numbers, m_whole});
+    return share ? ReportCell(*share) : ReportCell(noRank.toString());
 }
 
 /// @return nothing where the number has more digits than a Decimal holds.
@@ -254,7 +228,7 @@ void LineBuilder::addTotal(LineKind kind, const SlotTotals& totals, const QStrin
     std::vector<ReportCell> cells(m_layout.columns.size());
     for (std::size_t i = 0; i < cells.size(); ++i) {
         if (m_layout.columns[i].isTotalled)
-            cells[i] = number(m_layout.columns[i], numbers);
+            cells[i] = totalOf(m_layout.columns[i], numbers);
     }
     if (!m_layout.columns[m_labelColumn].isTotalled)
         cells[m_labelColumn] = label;

@@ -1,9 +1,10 @@
 // Makes the lines of a report from the rows that its query finds: headings, details, subtotals and total.
 #pragma once
 
-#include "platform/DecimalTotal.h"
 #include "reports/data/ReportData.h"
 #include "reports/lines/ChartBuilder.h"
+#include "reports/lines/LineNumbers.h"
+#include "reports/lines/LineRanks.h"
 #include "reports/lines/ReportLayout.h"
 #include "reports/lines/TextTemplate.h"
 
@@ -14,35 +15,6 @@
 namespace norvane::reports
 {
 
-/// Exact totals of the numbers in the slots.
-class SlotTotals
-{
-public:
-    explicit SlotTotals(std::size_t count) : m_totals(count) {}
-    void add(const std::vector<std::string>& numbers);
-    [[nodiscard]] std::vector<std::string> texts() const;
-
-private:
-    std::vector<DecimalTotal> m_totals;
-};
-
-/// The numbers of a line as exact decimals. Slots not used in any calculation remain "0".
-class LineNumbers
-{
-public:
-    explicit LineNumbers(const ReportLayout& layout);
-    void read(const LineFields& fields);
-    [[nodiscard]] const std::vector<std::string>& numbers() const { return m_numbers; }
-    /// Whether all amounts of the line are zero; the number of its record does not count.
-    [[nodiscard]] bool areZero() const;
-
-private:
-    std::vector<bool> m_isUsed;  ///< some column or chart calculates with the slot
-    std::vector<bool> m_isSum;   ///< the query gives it as the text of an exact decimal
-    std::vector<bool> m_isValue; ///< an amount, and not the number of a record
-    std::vector<std::string> m_numbers;
-};
-
 /// Makes lines from rows in their order. Totals of the whole report, if the layout needs them, are passed in
 /// before the first row.
 class LineBuilder
@@ -51,13 +23,16 @@ public:
     LineBuilder(const ReportLayout& layout, ReportData& data, ChartBuilder& charts,
                 std::vector<std::string> whole);
 
-    void add(const LineFields& fields);
+    /// @param rank of the line, in a report with classes.
+    void add(const LineFields& fields, const LineRank& rank = {});
     /// Closes the last group, adds the total and removes columns that have nothing to show.
     void finish();
 
 private:
     [[nodiscard]] bool isLeftOut(const LineFields& fields) const;
     void changeGroup(const LineFields& fields);
+    void changeClass();
+    void openGroup(const store::Value& group, const QString& heading);
     void closeGroup();
     void addDetail(const LineFields& fields);
     void setLink(const store::Value& value);
@@ -67,6 +42,8 @@ private:
                                                                const SlotNumbers& numbers);
     [[nodiscard]] ReportCell number(const ColumnLayout& column,
                                     const std::vector<std::string>& numbers) const;
+    [[nodiscard]] ReportCell rankCell(RankPart part) const;
+    [[nodiscard]] ReportCell totalOf(const ColumnLayout& column, const std::vector<std::string>& numbers) const;
     void noteShown();
 
     const ReportLayout& m_layout;
@@ -74,6 +51,7 @@ private:
     ChartBuilder& m_charts;
     std::vector<std::string> m_whole;
     LineNumbers m_numbers;
+    LineRank m_rank;
     SlotTotals m_groupTotals;
     SlotTotals m_totals;
     std::optional<store::Value> m_group; ///< of the lines that come now

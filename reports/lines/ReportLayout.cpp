@@ -37,10 +37,16 @@ bool ReportLayout::reads(const store::TableDefinition& table) const
            std::ranges::any_of(joins, [&table](const Join& join) { return join.table == &table; });
 }
 
+bool ReportLayout::hasGroups() const
+{
+    return group || (classes && !classes->heading.isEmpty());
+}
+
 bool ReportLayout::needsWhole() const
 {
-    return std::ranges::any_of(
-        columns, [](const ColumnLayout& column) { return column.number && column.number->needsWhole(); });
+    return classes || std::ranges::any_of(columns, [](const ColumnLayout& column) {
+               return column.number && column.number->needsWhole();
+           });
 }
 
 } // namespace norvane::reports

@@ -54,12 +54,16 @@ struct LineSource {
     Slot slotOf(const FieldName& field);
 };
 
+/// What a column of a report with classes shows in place of a value.
+enum class RankPart { None, Share, Cumulated, Letter };
+
 /// A column of a report.
 struct ColumnLayout {
     ReportColumn column; ///< the decimal places of money are set when the report runs
     CellFormat format;
     std::optional<Expression> number; ///< of a column of numbers
     LineText text;                    ///< of a column of texts or days
+    RankPart rank = RankPart::None;
     bool isTotalled = false;
     /// The column is shown if one of these is not zero in any line; always if there are none.
     std::vector<Expression> shownIf;
@@ -77,6 +81,13 @@ struct LinkLayout {
     QString report; ///< file name of the layout
     FieldName field;
     Slot slot = 0;
+};
+
+/// Lines in the order of a number, the largest first, with classes by their cumulated shares; see LineRanks.h.
+struct ClassLayout {
+    Expression by;
+    std::vector<Decimal> limits; ///< per cent, ascending: that of class A first; the last class has none
+    QString heading;             ///< of a class, with {class} and {lines} in it; empty for none
 };
 
 /// Where the points of a chart come from.
@@ -107,6 +118,7 @@ struct ReportLayout {
     std::vector<ColumnLayout> columns;
     std::optional<GroupLayout> group;
     std::optional<LinkLayout> link;
+    std::optional<ClassLayout> classes; ///< never beside groups
     bool showsZeroLines = true;
     bool showsEmptyRecords = false; ///< of a list
     std::vector<std::shared_ptr<NameList>> nameLists;
@@ -114,7 +126,9 @@ struct ReportLayout {
 
     /// Whether it reads @p table: its own or a joined one.
     [[nodiscard]] bool reads(const store::TableDefinition& table) const;
-    /// Whether a column uses totals of the whole report, as shares do.
+    /// Whether lines come one after another with headings and totals: groups, or classes with a heading.
+    [[nodiscard]] bool hasGroups() const;
+    /// Whether a column uses totals of the whole report, as shares do, or classes need all lines.
     [[nodiscard]] bool needsWhole() const;
 };
 

@@ -70,6 +70,9 @@ public:
         : m_keepGoing(keepGoing), m_request(request), m_layout(std::move(layout)),
           m_query(request, m_layout, keepGoing)
     {
+        // An article may be in another class in the other period, and a line is in one place only.
+        if (m_layout.classes && request.comparedWith != ComparedWith::Nothing)
+            m_layout.classes->heading.clear();
     }
 
     ReportData make()
@@ -186,11 +189,13 @@ void Run::addWholeLines(ReportData& data, ChartBuilder& charts)
     m_query.run(m_layout.source, [&](const LineFields& fields) {
         numbers.read(fields);
         totals.add(numbers.numbers());
-        lines.push_back(fields);
+        if (m_layout.showsZeroLines || !numbers.areZero())
+            lines.push_back(fields);
     });
+    const auto ranks = m_layout.classes ? rankLines(m_layout, lines) : std::vector<LineRank>(lines.size());
     LineBuilder builder(m_layout, data, charts, totals.texts());
-    for (const auto& fields : lines)
-        builder.add(fields);
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        builder.add(lines[i], ranks[i]);
     builder.finish();
 }
 
