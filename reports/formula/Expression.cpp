@@ -37,6 +37,18 @@ namespace
 {
 
 constexpr int quotientDigits = 17;
+constexpr int minutesOfHour = 60;
+constexpr int minutesOfDay = 24 * minutesOfHour;
+
+/// Of a time as registers write it: 930 is 9:30.
+std::optional<int> minutesOf(const std::optional<Decimal>& time)
+{
+    constexpr std::int64_t hundred = 100;
+    const std::int64_t digits = time ? time->toWhole() : -1;
+    if (digits < 0 || digits % hundred >= minutesOfHour || digits > minutesOfDay / minutesOfHour * hundred)
+        return std::nullopt;
+    return static_cast<int>(digits / hundred * minutesOfHour + digits % hundred);
+}
 
 } // namespace
 
@@ -133,7 +145,21 @@ private:
             parts.push_back(sum());
             return closed(made(Kind::Whole, std::move(parts)));
         }
+        if (m_tokens.takeWord(u"hours"))
+            return hours();
+        if (m_tokens.takeWord(u"days")) {
+            m_tokens.expectSymbol(u"(");
+            return closed(made(Kind::Days, {}));
+        }
         return m_tokens.current().kind == TokenKind::Number ? number() : field();
+    }
+
+    Expression hours()
+    {
+        m_tokens.expectSymbol(u"(");
+        auto from = sum();
+        m_tokens.expectSymbol(u",");
+        return closed(pair(Kind::Hours, std::move(from), sum()));
     }
 
     Expression closed(Expression expression)
@@ -244,7 +270,11 @@ std::optional<Decimal> Expression::value(const SlotNumbers& numbers) const
     case Kind::Quotient:
         return quotient(numbers);
     case Kind::Whole:
-        return m_parts.front().value({numbers.whole, numbers.whole});
+        return m_parts.front().value({numbers.whole, numbers.whole, numbers.days});
+    case Kind::Hours:
+        return hours(numbers);
+    case Kind::Days:
+        return Decimal(numbers.days, 0);
     }
     return std::nullopt;
 }
@@ -289,6 +319,20 @@ std::optional<Decimal> Expression::quotient(const SlotNumbers& numbers) const
     if (*right == Decimal())
         return std::nullopt;
     return left->dividedBy(*right, quotientDigits);
+}
+
+/// A period that ends before it begins is over midnight, and one that ends with the minute 59 is a whole hour:
+/// 22:00 to 01:59 are four. @return nothing for what is not a time, and where both are
+/// the same, as in a record that is not set.
+std::optional<Decimal> Expression::hours(const SlotNumbers& numbers) const
+{
+    const auto from = minutesOf(m_parts.front().value(numbers));
+    const auto to = minutesOf(m_parts.back().value(numbers));
+    if (!from || !to || *from == *to)
+        return std::nullopt;
+    const int end = *to % minutesOfHour == minutesOfHour - 1 ? *to + 1 : *to;
+    const int minutes = end > *from ? end - *from : end - *from + minutesOfDay;
+    return Decimal(minutes, 0).dividedBy(Decimal(minutesOfHour, 0), quotientDigits);
 }
 
 Expression parseExpression(QStringView text, const FieldSlots& fields)

@@ -34,6 +34,7 @@ struct FieldSlots {
 struct SlotNumbers {
     std::span<const std::string> here;  ///< of one line, or totals of a group or of the report
     std::span<const std::string> whole; ///< totals of the whole report; empty unless an expression uses them
+    int days = 0;                       ///< of the period with a collection; 0 if they are not counted
 };
 
 /// A parsed expression. Additions are exact; products and quotients have 17 digits at least.
@@ -55,10 +56,11 @@ public:
 
 private:
     friend class ExpressionParser;
-    enum class Kind { Field, Number, Sum, Difference, Product, Quotient, Whole };
+    enum class Kind { Field, Number, Sum, Difference, Product, Quotient, Whole, Hours, Days };
 
     [[nodiscard]] bool addTo(class ExactTotal& total, const SlotNumbers& numbers, bool negative) const;
     [[nodiscard]] std::optional<Decimal> quotient(const SlotNumbers& numbers) const;
+    [[nodiscard]] std::optional<Decimal> hours(const SlotNumbers& numbers) const;
 
     Kind m_kind = Kind::Number;
     Slot m_slot = 0;
@@ -67,7 +69,8 @@ private:
 };
 
 /// Reads fields in braces, numbers, + - * /, brackets, sum(a, b, {T.F1} to {T.F5}) over all that it lists,
-/// and total(x): the value of x over the whole report.
+/// total(x): the value of x over the whole report, hours(a, b): the hours from one time of day to another,
+/// and days(): the days of the period with a collection.
 /// @throws FormulaError
 [[nodiscard]] Expression parseExpression(QStringView text, const FieldSlots& fields);
 

@@ -251,6 +251,15 @@ bool takeBy(const QString& value, LayoutTarget& target)
     return true;
 }
 
+/// Only one join can add lines, and only to lines that are made by the field it is found by.
+bool takeWhole(const QString& value, LayoutTarget& target)
+{
+    if (!takeYesNo(value, target.join->isWhole))
+        return false;
+    return !target.join->isWhole || (target.source->keys == std::vector{target.join->of} &&
+                                     std::ranges::none_of(target.layout.joins, &Join::isWhole));
+}
+
 bool takeMost(const QString& value, LayoutTarget& target)
 {
     constexpr int limit = 100;
@@ -266,18 +275,20 @@ bool takeValueFormat(const QString& value, LayoutTarget& target)
 
 // Keys are read in the order of these rows: a table before its fields, a format before its value.
 // clang-format off
-constexpr std::array<KeyRule, 7> reportKeys{{
+constexpr std::array<KeyRule, 8> reportKeys{{
     {u"Title", true, "the heading of the report"_L1, [](const QString& value, LayoutTarget& target) { target.layout.title = value; return true; }},
     {u"Table", true, "a table of the customer's database"_L1, takeTable},
     {u"Lines", false, "the fields of the table that make a line, such as {PLUSALES.ID}"_L1, takeLines},
     {u"ZeroLines", false, "YES or NO"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.layout.showsZeroLines); }},
+    {u"ZeroIn", false, "numbers that are all zero in the lines to be shown"_L1, [](const QString& value, LayoutTarget& target) { target.layout.zeroIn = parseExpressions(value, target.fields()); return true; }},
     {u"EmptyRecords", false, "YES or NO"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.layout.showsEmptyRecords); }},
     {u"Orientation", false, "Automatic, Portrait or Landscape"_L1, [](const QString& value, LayoutTarget& target) { return takeChoice(value, orientations, target.layout.orientation); }},
     {u"Where", false, "a condition on fields of the report's table"_L1, takeWhere},
 }};
-constexpr std::array<KeyRule, 2> joinKeys{{
+constexpr std::array<KeyRule, 3> joinKeys{{
     {u"Find", true, "a field of a table that is not read yet, such as {PLUDATA.PLUNUMBER}"_L1, takeFind},
     {u"By", true, "a field by whose value the record is found, such as {PLUSALES.ID}"_L1, takeBy},
+    {u"All", false, "YES or NO, and YES once, for the only field of Lines"_L1, takeWhole},
 }};
 constexpr std::array<KeyRule, 3> classKeys{{
     {u"By", true, "a number computed from fields, in a report with Lines"_L1, takeClassBy},

@@ -29,20 +29,29 @@ std::size_t labelColumnOf(const ReportLayout& layout)
     return word == columns.end() ? 0 : static_cast<std::size_t>(word - columns.begin());
 }
 
+/// Whether the field is what makes a record worth a line.
+bool isContent(const ReportLayout& layout, const FieldName& field)
+{
+    if (!layout.source.addsUp())
+        return !isRecordNumber(layout.source, field);
+    const auto whole = std::ranges::find_if(layout.joins, &Join::isWhole);
+    return whole != layout.joins.end() && field.table == whole->table && field != whole->key;
+}
+
 } // namespace
 
 LineBuilder::LineBuilder(const ReportLayout& layout, ReportData& data, ChartBuilder& charts,
-                         std::vector<std::string> whole)
-    : m_layout(layout), m_data(data), m_charts(charts), m_whole(std::move(whole)), m_numbers(layout),
+                         std::vector<std::string> whole, int days)
+    : m_layout(layout), m_data(data), m_charts(charts), m_whole(std::move(whole)), m_days(days),
+      m_numbers(layout),
       m_groupTotals(layout.source.fields.size()), m_totals(layout.source.fields.size()),
       m_labelColumn(labelColumnOf(layout)),
       m_isTotalled(std::ranges::any_of(layout.columns, &ColumnLayout::isTotalled))
 {
     for (const auto& column : layout.columns)
         m_isShown.push_back(column.shownIf.empty());
-    const LineSource& source = layout.source;
-    for (std::size_t slot = 0; !source.addsUp() && slot < source.fields.size(); ++slot) {
-        if (!isRecordNumber(source, source.fields[slot]))
+    for (std::size_t slot = 0; slot < layout.source.fields.size(); ++slot) {
+        if (isContent(layout, layout.source.fields[slot]))
             m_contents.push_back(slot);
     }
 }
@@ -61,16 +70,22 @@ void LineBuilder::add(const LineFields& fields, const LineRank& rank)
         addDetail(fields);
     m_groupTotals.add(m_numbers.numbers());
     m_totals.add(m_numbers.numbers());
-    m_charts.addLine(fields, {m_numbers.numbers(), m_whole});
+    m_charts.addLine(fields, all(m_numbers.numbers()));
     noteShown();
 }
 
-/// A line without amounts, or in a list a record in which nothing but its number is set.
+/// A line without amounts, or a record in which nothing but its number is set: of a list, or of a join that
+/// adds lines for all of its records.
 bool LineBuilder::isLeftOut(const LineFields& fields) const
 {
-    if (!m_layout.showsZeroLines && m_numbers.areZero())
+    const auto isSet = [this](const Expression& expression) {
+        const auto value = expression.value(all(m_numbers.numbers()));
+        return value && *value != Decimal();
+    };
+    if (std::ranges::any_of(m_layout.zeroIn, isSet) || (!m_layout.showsZeroLines && m_numbers.areZero()))
         return true;
-    if (m_layout.showsEmptyRecords || m_contents.empty())
+    if (m_layout.showsEmptyRecords || m_contents.empty() ||
+        (m_layout.source.addsUp() && !m_numbers.areZero()))
         return false;
     return std::ranges::all_of(m_contents,
                                [&fields](std::size_t slot) { return namesNothing(fields.at(slot)); });
@@ -111,7 +126,8 @@ void LineBuilder::closeGroup()
 {
     if (!m_group)
         return;
-    m_charts.addGroup(m_groupHeading, {m_groupTotals.texts(), m_whole});
+    const auto totals = m_groupTotals.texts();
+    m_charts.addGroup(m_groupHeading, all(totals));
     if (m_layout.group && !m_layout.group->showsLines) {
         addTotal(LineKind::Detail, m_groupTotals, m_groupHeading);
         setLink(*m_group);
@@ -169,7 +185,7 @@ ReportCell LineBuilder::totalOf(const ColumnLayout& column, const std::vector<st
 {
     if (column.rank == RankPart::None)
         return number(column, numbers);
-    const auto share = shareOf(*m_layout.classes, {numbers, m_whole});
+    const auto share = shareOf(*m_layout.classes, all(numbers));
     return share ? ReportCell(*share) : ReportCell(noRank.toString());
 }
 
@@ -193,12 +209,12 @@ std::optional<ReportCell> LineBuilder::shortNumber(const ColumnLayout& column, c
 /// be calculated, and the cell says so.
 ReportCell LineBuilder::number(const ColumnLayout& column, const std::vector<std::string>& numbers) const
 {
-    const SlotNumbers all{numbers, m_whole};
-    if (auto cell = shortNumber(column, all))
+    const SlotNumbers from = all(numbers);
+    if (auto cell = shortNumber(column, from))
         return *std::move(cell);
     try {
         const std::string rounded =
-            roundedText(column.number->exactValue(all).value_or("0"), column.column.mostDecimals);
+            roundedText(column.number->exactValue(from).value_or("0"), column.column.mostDecimals);
         if (!isLong(rounded))
             return decimalOf(rounded);
         if (rounded.size() <= longestSumShown)
@@ -216,7 +232,7 @@ void LineBuilder::noteShown()
         for (const auto& expression : m_layout.columns[i].shownIf) {
             if (m_isShown[i])
                 break;
-            const auto value = expression.value({m_numbers.numbers(), m_whole});
+            const auto value = expression.value(all(m_numbers.numbers()));
             m_isShown[i] = value && *value != Decimal();
         }
     }

@@ -16,12 +16,12 @@ namespace norvane::reports
 {
 
 /// Makes lines from rows in their order. Totals of the whole report, if the layout needs them, are passed in
-/// before the first row.
+/// before the first row, and so is the number of days with a collection.
 class LineBuilder
 {
 public:
     LineBuilder(const ReportLayout& layout, ReportData& data, ChartBuilder& charts,
-                std::vector<std::string> whole);
+                std::vector<std::string> whole, int days);
 
     /// @param rank of the line, in a report with classes.
     void add(const LineFields& fields, const LineRank& rank = {});
@@ -29,6 +29,11 @@ public:
     void finish();
 
 private:
+    /// What expressions are calculated from; @p numbers must outlive it.
+    [[nodiscard]] SlotNumbers all(const std::vector<std::string>& numbers) const
+    {
+        return {numbers, m_whole, m_days};
+    }
     [[nodiscard]] bool isLeftOut(const LineFields& fields) const;
     void changeGroup(const LineFields& fields);
     void changeClass();
@@ -50,6 +55,7 @@ private:
     ReportData& m_data;
     ChartBuilder& m_charts;
     std::vector<std::string> m_whole;
+    int m_days;
     LineNumbers m_numbers;
     LineRank m_rank;
     SlotTotals m_groupTotals;
@@ -57,7 +63,7 @@ private:
     std::optional<store::Value> m_group; ///< of the lines that come now
     QString m_groupHeading;
     std::vector<bool> m_isShown;
-    std::vector<std::size_t> m_contents; ///< slots of a list's records other than their number
+    std::vector<std::size_t> m_contents; ///< slots of records other than their number
     std::size_t m_labelColumn;
     bool m_isTotalled;
 };

@@ -41,6 +41,8 @@ LineNumbers::LineNumbers(const ReportLayout& layout)
         for (const auto& expression : column.shownIf)
             expression.markSlots(m_isUsed);
     }
+    for (const auto& expression : layout.zeroIn)
+        expression.markSlots(m_isUsed);
     if (layout.classes)
         layout.classes->by.markSlots(m_isUsed);
     for (const auto& chart : layout.charts) {

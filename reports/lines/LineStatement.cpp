@@ -43,6 +43,11 @@ public:
             need(*source.groupBy);
         for (const auto& key : source.order)
             need(key.field);
+        const auto whole = std::ranges::find_if(joins, &Join::isWhole);
+        if (whole != joins.end() && source.addsUp() && source.isKey(whole->of)) {
+            m_whole = &*whole;
+            need(m_whole->key);
+        }
         collectConditionFields(condition);
         if (source.where)
             collectConditionFields(*source.where);
@@ -60,8 +65,12 @@ public:
             if (isJoined(*m_joins[i].table))
                 with += (with.empty() ? "WITH " : ", ") + joinTable(i);
         }
-        if (m_source.addsUp())
+        if (m_whole != nullptr) {
+            with += ", s AS MATERIALIZED (" + sums() + ')';
+            with += ", l AS MATERIALIZED (SELECT * FROM s UNION ALL " + unmetRecords() + ')';
+        } else if (m_source.addsUp()) {
             with += (with.empty() ? "WITH " : ", ") + ("l AS MATERIALIZED (" + sums() + ')');
+        }
         m_statement.sql = with + " SELECT " + list() + " FROM " + lines() + order();
         return std::move(m_statement);
     }
@@ -136,13 +145,16 @@ private:
     {
         std::string sql;
         for (const auto& join : m_joins) {
-            if (!isJoined(*join.table))
-                continue;
-            const std::string name = joinName(*join.table);
-            sql.append(" LEFT JOIN ").append(name).append(" ON ").append(name).append(".k = ");
-            sql += meeting(join, column(join.of, below));
+            if (isJoined(*join.table))
+                sql += leftJoin(join, below);
         }
         return sql;
+    }
+
+    [[nodiscard]] std::string leftJoin(const Join& join, bool below) const
+    {
+        const std::string name = joinName(*join.table);
+        return " LEFT JOIN " + name + " ON " + name + ".k = " + meeting(join, column(join.of, below));
     }
 
     [[nodiscard]] std::string rows() const
@@ -184,6 +196,53 @@ private:
         }
         return "SELECT " + columns + " FROM " + rows() + (m_joinsBelow ? joined(true) : std::string()) +
                where() + " GROUP BY " + groups;
+    }
+
+    /// Lines of zeros for the records of the whole join that no row meets. A record without a number is none.
+    std::string unmetRecords()
+    {
+        std::string columns;
+        for (const auto& field : m_fields) {
+            if (field.table == m_source.table)
+                columns += (columns.empty() ? "" : ", ") + (field == m_whole->of ? wholeKey() : "'0'");
+        }
+        const std::string joins = unmetJoins();
+        const std::string met = "SELECT " + alias(m_whole->of) + " FROM s WHERE " + alias(m_whole->of);
+        return "SELECT " + columns + " FROM " + joinName(*m_whole->table) + joins + " WHERE " +
+               wholeKey() + " NOT IN (" + met + " IS NOT NULL) AND " + wholeKey() +
+               (m_whole->key.isText() || m_whole->of.isText() ? " NOT IN ('', '0')" : " <> 0") +
+               unmetCondition();
+    }
+
+    [[nodiscard]] std::string wholeKey() const { return joinName(*m_whole->table) + ".k"; }
+
+    /// The tables that are found from a record of the whole join.
+    std::string unmetJoins()
+    {
+        std::string sql;
+        m_unmet = {m_whole->table};
+        for (const auto& join : m_joins) {
+            if (!isJoined(*join.table) || std::ranges::find(m_unmet, join.of.table) == m_unmet.end())
+                continue;
+            sql += leftJoin(join, true);
+            m_unmet.push_back(join.table);
+        }
+        return sql;
+    }
+
+    /// What the selection asks of these tables; its days are for the rows of sales.
+    std::string unmetCondition()
+    {
+        QStringList others;
+        const auto reads = [this](const store::TableDefinition& table) {
+            return std::ranges::find(m_unmet, &table) != m_unmet.end();
+        };
+        const Condition condition = restrictedTo(m_condition, reads, others);
+        const auto named = [this](const FieldName& field) {
+            return column(field, true);
+        };
+        return condition.isAlwaysTrue() ? std::string()
+                                        : " AND " + conditionSql(condition, named, m_statement.values);
     }
 
     [[nodiscard]] std::string list() const
@@ -247,6 +306,8 @@ private:
     const std::string& m_rows;
     std::vector<FieldName> m_fields; ///< those of the source first, then those that only the statement needs
     bool m_joinsBelow = false;
+    const Join* m_whole = nullptr; ///< adds lines for records that no row meets
+    std::vector<const store::TableDefinition*> m_unmet;
     LineStatement m_statement;
 };
 

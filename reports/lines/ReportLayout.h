@@ -21,6 +21,8 @@ struct Join {
     const store::TableDefinition* table = nullptr;
     FieldName key; ///< of the joined table; the first of several records with the same key counts
     FieldName of;  ///< of the report's table or of an earlier join
+    /// Records that no row meets give lines too, with zeros; lines are then made by @c of alone.
+    bool isWhole = false;
 };
 
 /// How a field sorts lines: as it is stored, texts of digits by their value, or the largest first.
@@ -120,7 +122,8 @@ struct ReportLayout {
     std::optional<LinkLayout> link;
     std::optional<ClassLayout> classes; ///< never beside groups
     bool showsZeroLines = true;
-    bool showsEmptyRecords = false; ///< of a list
+    std::vector<Expression> zeroIn; ///< only lines in which all of these are zero are shown
+    bool showsEmptyRecords = false; ///< of a list, or of a join that is whole
     std::vector<std::shared_ptr<NameList>> nameLists;
     std::vector<ChartLayout> charts;
 

@@ -2,6 +2,7 @@
 #include "reports/lines/ReportQuery.h"
 
 #include "platform/RuntimeFailure.h"
+#include "reports/lines/KeyNames.h"
 #include "reports/lines/LayoutFields.h"
 #include "reports/lines/LineStatement.h"
 #include "store/catalogue/Catalogue.h"
@@ -129,6 +130,10 @@ void ReportQuery::readList(NameList& list, const MoneyFormat& money)
 {
     if (!m_database.hasTable(list.name.table->name))
         return;
+    if (list.isOfKeys()) {
+        list.names = keysByPlu(m_database, m_dataFile, m_keepGoing);
+        return;
+    }
     const QString sql =
         u"SELECT \"%1\", \"%2\" FROM \"%3\""_s.arg(list.key.name(), list.name.name(), list.name.table->name);
     store::BoundQuery query(m_database, sql.toStdString(), {}, m_dataFile, m_keepGoing);

@@ -83,9 +83,9 @@ public:
         m_query.readNames(money);
         ReportData data(columns());
         ChartBuilder charts(m_layout);
-        addLines(data, charts);
         if (m_period)
             m_days = m_query.salesDays(*m_period);
+        addLines(data, charts);
         addCharts(data, charts, money);
         setHeading(data.heading);
         if (data.lineCount() == 0)
@@ -110,6 +110,7 @@ private:
     void setMoney(const MoneyFormat& money);
     [[nodiscard]] std::vector<ReportColumn> columns() const;
     void addLines(ReportData& data, ChartBuilder& charts);
+    [[nodiscard]] int collectedDays() const;
     void addWholeLines(ReportData& data, ChartBuilder& charts);
     void addCharts(ReportData& data, ChartBuilder& charts, const MoneyFormat& money);
     void runChart(ChartPoints& points);
@@ -175,9 +176,15 @@ void Run::addLines(ReportData& data, ChartBuilder& charts)
 {
     if (m_layout.needsWhole())
         return addWholeLines(data, charts);
-    LineBuilder builder(m_layout, data, charts, {});
+    LineBuilder builder(m_layout, data, charts, {}, collectedDays());
     m_query.run(m_layout.source, [&builder](const LineFields& fields) { builder.add(fields); });
     builder.finish();
+}
+
+/// @return 0 where no days can be counted.
+int Run::collectedDays() const
+{
+    return m_days ? static_cast<int>(m_days->first.daysTo(m_days->last)) + 1 - m_days->uncollected : 0;
 }
 
 /// Shares of the whole are known only when all lines are read, so the lines are kept until then.
@@ -193,7 +200,7 @@ void Run::addWholeLines(ReportData& data, ChartBuilder& charts)
             lines.push_back(fields);
     });
     const auto ranks = m_layout.classes ? rankLines(m_layout, lines) : std::vector<LineRank>(lines.size());
-    LineBuilder builder(m_layout, data, charts, totals.texts());
+    LineBuilder builder(m_layout, data, charts, totals.texts(), collectedDays());
     for (std::size_t i = 0; i < lines.size(); ++i)
         builder.add(lines[i], ranks[i]);
     builder.finish();

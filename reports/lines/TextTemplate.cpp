@@ -74,6 +74,11 @@ QString withoutLastComma(const MadeText& made)
 
 } // namespace
 
+bool NameList::isOfKeys() const
+{
+    return name.table->name == "NLU"_L1 && name.name() == "NLU"_L1;
+}
+
 QString NameList::keyOf(const store::Value& number)
 {
     return unfilledNumber(number.toText().trimmed());

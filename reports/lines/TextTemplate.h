@@ -20,6 +20,8 @@ struct NameList {
     FieldName key;                 ///< the field of the same table that its first index orders by
     QHash<QString, QString> names; ///< by keyOf()
 
+    /// Whether it names the keys on which the number is, in place of a record.
+    [[nodiscard]] bool isOfKeys() const;
     /// A number as lists compare it: registers fill numbers up with zeros and blanks.
     [[nodiscard]] static QString keyOf(const store::Value& number);
 };

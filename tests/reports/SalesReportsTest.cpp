@@ -73,6 +73,23 @@ TEST_F(SalesReports, GroupsAloneHaveALineEach)
     EXPECT_EQ(data.charts[0].points.front().label, u"1 DRINKS"_s);
 }
 
+// Two days of three had a collection; a period's hours go over midnight, up to :59, or are not known.
+TEST_F(SalesReports, TakingsPerHourAreThoseOfADay)
+{
+    shop.add("TIMEPERIOD", "id|STARTTIME|ENDTIME", {"1|0900|1030", "2|2200|159", "3|2400|2460"});
+    shop.add("TIMESALES", "ID|SALESDATE|QUANTITY|VALUE",
+             {"1|2026-11-23|4|6", "1|2026-11-25|0|0.3", "2|2026-11-25|2|16", "3|2026-11-25|0|1",
+              "4|2026-11-25|1|1", "2|2026-11-22|9|99"});
+    const auto data = run("hours.rpt", u"{TIMESALES.SALESDATE} in date(2026,11,23) to date(2026,11,25)"_s);
+    EXPECT_EQ(headingsOf(data), "Time|Quantity|Value|Average|Value a day|Hours|Value an hour");
+    EXPECT_EQ(linesOf(data), "09:00 to 10:30|4|6.30|1.58|3.15|1.5|2.10\n"
+                             "22:00 to 01:59|2|16.00|8.00|8.00|4.0|2.00\n"
+                             "24:00 to 24:60|0|1.00||0.50\n"
+                             "Period 4|1|1.00|1.00|0.50\n"
+                             "# Total|7|24.30|3.47|12.15");
+    EXPECT_TRUE(linesOf(run("hours.rpt")).starts_with("09:00 to 10:30|4|6.30|1.58||1.5\n"));
+}
+
 TEST_F(SalesReports, LevelsAreColumnsIfAnyButTheFirstHasSales)
 {
     shop.add("PLUSALES", pluFields,
