@@ -184,7 +184,10 @@ void Run::addLines(ReportData& data, ChartBuilder& charts)
 /// @return 0 where no days can be counted.
 int Run::collectedDays() const
 {
-    return m_days ? static_cast<int>(m_days->first.daysTo(m_days->last)) + 1 - m_days->uncollected : 0;
+    if (!m_days)
+        return 0;
+    const qint64 days = m_days->first.daysTo(m_days->last) + 1;
+    return static_cast<int>(days) - static_cast<int>(m_days->missing.size());
 }
 
 /// Shares of the whole are known only when all lines are read, so the lines are kept until then.

@@ -86,7 +86,8 @@ TEST_F(SalesReports, TakingsPerHourAreThoseOfADay)
                              "22:00 to 01:59|2|16.00|8.00|8.00|4.0|2.00\n"
                              "24:00 to 24:60|0|1.00||0.50\n"
                              "Period 4|1|1.00|1.00|0.50\n"
-                             "# Total|7|24.30|3.47|12.15");
+                             "# Total|7|24.30|3.47|12.15\n"
+                             "> Without a collection: Tue 24/11/2026");
     EXPECT_TRUE(linesOf(run("hours.rpt")).starts_with("09:00 to 10:30|4|6.30|1.58||1.5\n"));
 }
 
