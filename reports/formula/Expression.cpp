@@ -321,9 +321,9 @@ std::optional<Decimal> Expression::quotient(const SlotNumbers& numbers) const
     return left->dividedBy(*right, quotientDigits);
 }
 
-/// A period that ends before it begins is over midnight, and one that ends with the minute 59 is a whole hour:
-/// 22:00 to 01:59 are four. @return nothing for what is not a time, and where both are
-/// the same, as in a record that is not set.
+/// A period that ends before it begins is over midnight, and one that ends with the minute 59 is a whole
+/// hour: 22:00 to 01:59 are four. @return nothing for what is not a time, and where both are the same, as in
+/// a record that is not set.
 std::optional<Decimal> Expression::hours(const SlotNumbers& numbers) const
 {
     const auto from = minutesOf(m_parts.front().value(numbers));

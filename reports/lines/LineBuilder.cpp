@@ -23,7 +23,8 @@ std::size_t labelColumnOf(const ReportLayout& layout)
 {
     const auto& columns = layout.columns;
     const auto isWord = [](const ColumnLayout& column) {
-        return !column.number && column.rank == RankPart::None && column.format.kind != FormatKind::Digits && column.shownIf.empty();
+        return !column.number && column.rank == RankPart::None && column.format.kind != FormatKind::Digits &&
+               column.shownIf.empty();
     };
     const auto word = std::ranges::find_if(columns, isWord);
     return word == columns.end() ? 0 : static_cast<std::size_t>(word - columns.begin());
@@ -43,8 +44,7 @@ bool isContent(const ReportLayout& layout, const FieldName& field)
 LineBuilder::LineBuilder(const ReportLayout& layout, ReportData& data, ChartBuilder& charts,
                          std::vector<std::string> whole, int days)
     : m_layout(layout), m_data(data), m_charts(charts), m_whole(std::move(whole)), m_days(days),
-      m_numbers(layout),
-      m_groupTotals(layout.source.fields.size()), m_totals(layout.source.fields.size()),
+      m_numbers(layout), m_groupTotals(layout.source.fields.size()), m_totals(layout.source.fields.size()),
       m_labelColumn(labelColumnOf(layout)),
       m_isTotalled(std::ranges::any_of(layout.columns, &ColumnLayout::isTotalled))
 {
@@ -110,7 +110,8 @@ void LineBuilder::changeClass()
         return;
     QString heading = m_layout.classes->heading;
     heading.replace("{class}"_L1, m_rank.letter, Qt::CaseInsensitive);
-    openGroup(group, heading.replace("{lines}"_L1, QString::number(m_rank.linesOfClass), Qt::CaseInsensitive));
+    openGroup(group,
+              heading.replace("{lines}"_L1, QString::number(m_rank.linesOfClass), Qt::CaseInsensitive));
 }
 
 void LineBuilder::openGroup(const store::Value& group, const QString& heading)

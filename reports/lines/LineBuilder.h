@@ -48,7 +48,8 @@ private:
     [[nodiscard]] ReportCell number(const ColumnLayout& column,
                                     const std::vector<std::string>& numbers) const;
     [[nodiscard]] ReportCell rankCell(RankPart part) const;
-    [[nodiscard]] ReportCell totalOf(const ColumnLayout& column, const std::vector<std::string>& numbers) const;
+    [[nodiscard]] ReportCell totalOf(const ColumnLayout& column,
+                                     const std::vector<std::string>& numbers) const;
     void noteShown();
 
     const ReportLayout& m_layout;

@@ -112,7 +112,8 @@ private:
 
     [[nodiscard]] QString letter() const
     {
-        return m_whole <= Decimal() ? noRank.toString() : QString(QChar(u'A' + static_cast<char16_t>(m_class)));
+        return m_whole <= Decimal() ? noRank.toString()
+                                    : QString(QChar(u'A' + static_cast<char16_t>(m_class)));
     }
 
     const ClassLayout& m_classes;

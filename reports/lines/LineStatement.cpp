@@ -208,8 +208,8 @@ private:
         }
         const std::string joins = unmetJoins();
         const std::string met = "SELECT " + alias(m_whole->of) + " FROM s WHERE " + alias(m_whole->of);
-        return "SELECT " + columns + " FROM " + joinName(*m_whole->table) + joins + " WHERE " +
-               wholeKey() + " NOT IN (" + met + " IS NOT NULL) AND " + wholeKey() +
+        return "SELECT " + columns + " FROM " + joinName(*m_whole->table) + joins + " WHERE " + wholeKey() +
+               " NOT IN (" + met + " IS NOT NULL) AND " + wholeKey() +
                (m_whole->key.isText() || m_whole->of.isText() ? " NOT IN ('', '0')" : " <> 0") +
                unmetCondition();
     }

@@ -85,7 +85,8 @@ struct LinkLayout {
     Slot slot = 0;
 };
 
-/// Lines in the order of a number, the largest first, with classes by their cumulated shares; see LineRanks.h.
+/// Lines in the order of a number, the largest first, with classes by their cumulated shares; see
+/// LineRanks.h.
 struct ClassLayout {
     Expression by;
     std::vector<Decimal> limits; ///< per cent, ascending: that of class A first; the last class has none

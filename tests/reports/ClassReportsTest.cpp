@@ -29,18 +29,20 @@ protected:
     void sell(std::initializer_list<const char*> rows) const { shop.add("PLUSALES", articleFields, rows); }
     [[nodiscard]] ReportData run(ComparedWith with = ComparedWith::Nothing) const
     {
-        auto request = shop.request(ReportShop::installed("abc.rpt"), u"{PLUSALES.SALESDATE} in monthtodate"_s);
+        auto request =
+            shop.request(ReportShop::installed("abc.rpt"), u"{PLUSALES.SALESDATE} in monthtodate"_s);
         request.comparedWith = with;
         return runReport(request);
     }
     /// A layout with these classes and their letters.
     [[nodiscard]] QString layout(const char* classes) const
     {
-        shop.folder().write("own.rpt", QByteArray("[Report]\r\nTitle=Own\r\nTable=PLUSALES\r\nLines={ID}\r\n"
-                                                  "[Classes]\r\n") +
-                                           classes +
-                                           "\r\n[Column1]\r\nValue={ID}\r\nWidth=20\r\n"
-                                           "[Column2]\r\nClass=Letter\r\nWidth=20\r\n[Sort]\r\nKey1={ID}\r\n");
+        shop.folder().write("own.rpt",
+                            QByteArray("[Report]\r\nTitle=Own\r\nTable=PLUSALES\r\nLines={ID}\r\n"
+                                       "[Classes]\r\n") +
+                                classes +
+                                "\r\n[Column1]\r\nValue={ID}\r\nWidth=20\r\n"
+                                "[Column2]\r\nClass=Letter\r\nWidth=20\r\n[Sort]\r\nKey1={ID}\r\n");
         return shop.folder().path("own.rpt");
     }
 
@@ -72,8 +74,8 @@ TEST_F(ClassReports, HaveArticlesWithEqualTakingsTogether)
 // These numbers have no exact binary form: the first line has exactly 80 per cent.
 TEST_F(ClassReports, HaveRefundsInTheLastAndOthersAfterTheLimit)
 {
-    sell({"3|2026-11-02|8|0.8|0|0|0|0", "5|2026-11-02|1|0.15|0|0|0|0",
-          "7|2026-11-02|1|0.06|0|0|0|0", "9|2026-11-02|-1|-0.01|0|0|0|0"});
+    sell({"3|2026-11-02|8|0.8|0|0|0|0", "5|2026-11-02|1|0.15|0|0|0|0", "7|2026-11-02|1|0.06|0|0|0|0",
+          "9|2026-11-02|-1|-0.01|0|0|0|0"});
     EXPECT_EQ(test::linesOf(run()), "> Class A, articles: 1\n"
                                     "3|COLA|DRINKS|8|0.80|80.0|80.0|A\n"
                                     "= |Total Class A, articles: 1||8|0.80|80.0\n"
@@ -111,7 +113,9 @@ TEST_F(ClassReports, TakeLimitsOfALayoutAndNameItsMistakes)
     sell({"1|2026-11-02|1|50|0|0|0|0", "2|2026-11-02|1|30|0|0|0|0", "3|2026-11-02|1|20|0|0|0|0"});
     EXPECT_EQ(test::linesOf(runReport(shop.request(layout("By={VALUE1}\r\nLimits=12.5,50.5,81")))),
               "1|A\n2|B\n3|C");
-    const auto mistake = [this](const char* classes) { return test::errorOf(shop.request(layout(classes))); };
+    const auto mistake = [this](const char* classes) {
+        return test::errorOf(shop.request(layout(classes)));
+    };
     for (const char* const limits : {"80,70", "0,80", "80,100.1", "80,,90", "many"}) {
         EXPECT_NE(mistake(QByteArray("By={VALUE1}\r\nLimits=") + limits)
                       .find("section [Classes], key Limits: expected is per cents in ascending order"),

@@ -56,19 +56,20 @@ TEST_F(UnsoldReport, ListsTheProgrammeWithoutWhatWasSoldOrIsGone)
     EXPECT_EQ(linesOf(u"{PLUSALES.SALESDATE} in lastmonth and {PLUSALES.ID} <> \"x\""_s), unsoldOfOctober);
     EXPECT_EQ(linesOf(u"{PLUSALES.SALESDATE} in lastmonth and {PLUDATA.GROUPNO} = 2"_s),
               "> 2 FOOD\n20|CRISPS|1.10||2");
-    EXPECT_EQ(linesOf(u"{PLUSALES.SALESDATE} = date(2026,11,25)"_s), "> 1 DRINKS\n3|COLA|1.45\n5|JUICE|2.00\n7|WATER|0.90||inactive\n"
-                                    "> 2 FOOD\n20|CRISPS|1.10");
+    EXPECT_EQ(linesOf(u"{PLUSALES.SALESDATE} = date(2026,11,25)"_s),
+              "> 1 DRINKS\n3|COLA|1.45\n5|JUICE|2.00\n7|WATER|0.90||inactive\n"
+              "> 2 FOOD\n20|CRISPS|1.10");
 }
 
 TEST_F(UnsoldReport, NamesTheKeysByTheKeyboardOfTheShop)
 {
-    norvane::test::runElsewhere(shop.path(),
-                       "with recursive n(i) as (select 1 union all select i + 1 from n where i < 900) "
-                       "insert into KEYLINK (ID, KEYLINK) select 901 - i, case when i in (1, 2) then '' "
-                       "else '0' end from n; "
-                       "with recursive n(i) as (select 1 union all select i + 1 from n where i < 900) "
-                       "insert into NLU (ID, NLU) select 901 - i, case i when 899 then '000000000000000003' "
-                       "when 897 then '3' when 730 then '3' when 3 then '7' end from n");
+    norvane::test::runElsewhere(
+        shop.path(), "with recursive n(i) as (select 1 union all select i + 1 from n where i < 900) "
+                     "insert into KEYLINK (ID, KEYLINK) select 901 - i, case when i in (1, 2) then '' "
+                     "else '0' end from n; "
+                     "with recursive n(i) as (select 1 union all select i + 1 from n where i < 900) "
+                     "insert into NLU (ID, NLU) select 901 - i, case i when 899 then '000000000000000003' "
+                     "when 897 then '3' when 730 then '3' when 3 then '7' end from n");
     const auto day = u"{PLUSALES.SALESDATE} = date(2026,11,25)"_s;
     shop.folder().write("setup.ini", "[SetupOption]\r\nECRModel=0\r\n");
     EXPECT_TRUE(linesOf(day).starts_with(
