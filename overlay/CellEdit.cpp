@@ -43,6 +43,23 @@ void paintCutMark(QPainter& painter, const QRect& cell)
     painter.drawPolygon(mark.data(), static_cast<int>(mark.size()));
 }
 
+/// Visible on every colour that a key may have: a veil, and stripes at both sides.
+void paintSelected(QPainter& painter, const QRect& cell)
+{
+    constexpr int veilAlpha = 0x38;
+    constexpr int stripe = 4;
+    QColor veil = ui::colours::accent;
+    veil.setAlpha(veilAlpha);
+    painter.fillRect(cell, veil);
+    for (const int left : {cell.left(), cell.right() - stripe + 1}) {
+        painter.fillRect(QRect(left, cell.top(), stripe, cell.height()), Qt::white);
+        painter.fillRect(QRect(left, cell.top(), stripe - 1, cell.height()), ui::colours::accent);
+    }
+}
+
+/// How far beyond its key a drag of text may stray, in shares of the key.
+constexpr double strayShare = 0.2;
+
 } // namespace
 
 CellEdit::CellEdit(QWidget* parent) : TextBox(parent)
@@ -61,6 +78,12 @@ void CellEdit::showContents(const TextCell& contents, const PrintedText& printed
     if (text() != contents.text)
         setText(contents.text);
     takeLook();
+}
+
+void CellEdit::setSelected(bool isSelected)
+{
+    m_isSelected = isSelected;
+    update();
 }
 
 void CellEdit::setPixelsPerMillimetre(double pixels)
@@ -104,6 +127,8 @@ void CellEdit::paintEvent(QPaintEvent* event)
         painter.setPen(QPen(ui::colours::accent, 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
+    if (m_isSelected)
+        paintSelected(painter, rect());
     if (m_printed.isCut)
         paintCutMark(painter, rect());
 }
@@ -150,7 +175,7 @@ bool CellEdit::walk(const QKeyEvent& event)
 {
     const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
     if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter)
-        return modifiers == Qt::NoModifier && walkByArrow(event.key());
+        return walkByArrow(event);
     if (modifiers == Qt::ShiftModifier) {
         Q_EMIT previousWanted();
     } else {
@@ -159,16 +184,26 @@ bool CellEdit::walk(const QKeyEvent& event)
     return true;
 }
 
-bool CellEdit::walkByArrow(int key)
+/// With Shift an arrow selects keys, where it does not select letters.
+bool CellEdit::walkByArrow(const QKeyEvent& event)
 {
     static const QHash<int, ArrowDirection> ways{{Qt::Key_Left, ArrowDirection::Left},
                                                  {Qt::Key_Right, ArrowDirection::Right},
                                                  {Qt::Key_Up, ArrowDirection::Up},
                                                  {Qt::Key_Down, ArrowDirection::Down}};
+    const int key = event.key();
+    const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    const bool isPlain = modifiers == Qt::NoModifier;
     const bool isSideways = key == Qt::Key_Left || key == Qt::Key_Right;
-    if (!ways.contains(key) || (isSideways && !leadsOut(key)))
+    if (!ways.contains(key) || (!isPlain && modifiers != Qt::ShiftModifier))
         return false;
-    Q_EMIT wayChosen(ways.value(key));
+    if (isSideways && !leadsOut(key) && (isPlain || !m_isSelected))
+        return false;
+    if (isPlain) {
+        Q_EMIT wayChosen(ways.value(key));
+    } else {
+        Q_EMIT extended(ways.value(key));
+    }
     return true;
 }
 
@@ -176,6 +211,9 @@ void CellEdit::focusInEvent(QFocusEvent* event)
 {
     TextBox::focusInEvent(event);
     takeLook();
+    m_isEnteredByMouse = event->reason() == Qt::MouseFocusReason;
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        Q_EMIT walked();
     Q_EMIT entered();
 }
 
@@ -186,19 +224,59 @@ void CellEdit::focusOutEvent(QFocusEvent* event)
     Q_EMIT left();
 }
 
+/// With Shift in the text that is being edited, letters are selected.
+bool CellEdit::pickKey(const QMouseEvent& event)
+{
+    const bool reaches = event.modifiers() == Qt::ShiftModifier && m_isEnteredByMouse;
+    if (event.button() != Qt::LeftButton || (!reaches && event.modifiers() != Qt::ControlModifier))
+        return false;
+    Q_EMIT keyPicked(reaches);
+    return true;
+}
+
 void CellEdit::mousePressEvent(QMouseEvent* event)
 {
     m_pressedAt = event->pos();
+    m_isKeyDrag = false;
+    m_isPick = pickKey(*event);
+    m_isEnteredByMouse = false;
+    if (m_isPick)
+        return;
+    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier)
+        Q_EMIT pressed();
     TextBox::mousePressEvent(event);
 }
 
-/// A drag selects text and is not a click.
+bool CellEdit::leavesKey(QPoint position) const
+{
+    const int across = static_cast<int>(m_keyArea.width() * strayShare);
+    const int down = static_cast<int>(m_keyArea.height() * strayShare);
+    return !m_keyArea.adjusted(-across, -down, across, down).contains(position);
+}
+
+void CellEdit::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint position = mapToParent(event->pos());
+    if (m_isPick)
+        return;
+    if (!event->buttons().testFlag(Qt::LeftButton) || (!m_isKeyDrag && !leavesKey(position))) {
+        TextBox::mouseMoveEvent(event);
+        return;
+    }
+    m_isKeyDrag = true;
+    deselect();
+    Q_EMIT draggedTo(mapToParent(m_pressedAt), position);
+}
+
+/// A drag selects text or keys and is not a click.
 void CellEdit::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (std::exchange(m_isPick, false))
+        return;
     TextBox::mouseReleaseEvent(event);
     const bool isSecond = std::exchange(m_isDoubleClick, false);
     const bool isDrag = (event->pos() - m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
-    if (event->button() == Qt::LeftButton && !isSecond && !isDrag)
+    if (event->button() == Qt::LeftButton && !isSecond && !isDrag && !std::exchange(m_isKeyDrag, false))
         Q_EMIT clicked();
 }
 

@@ -71,6 +71,15 @@ std::vector<int> readingOrder(const OverlayLayout& layout)
     return cells;
 }
 
+QString placeName(const OverlayLayout& layout, int cell)
+{
+    const OverlayKey& key = layout.keyOf(cell);
+    return QStringLiteral("Column %1, key %2, line %3")
+        .arg(key.column + 1)
+        .arg(key.row + 1)
+        .arg(cell - key.firstCell + 1);
+}
+
 int neighbour(const OverlayLayout& layout, int cell, ArrowDirection direction)
 {
     const Middle from = middleOf(layout, cell);

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <map>
 #include <vector>
 
 namespace norvane::overlay
@@ -51,6 +52,22 @@ struct TextCell {
     bool operator==(const TextCell&) const = default;
 };
 
+/// The colours of the keys of a group of PLUs.
+struct GroupColours {
+    Colour background = white;
+    Colour textColour = black;
+
+    bool operator==(const GroupColours&) const = default;
+};
+
+/// What is remembered with a document, in a file of its own: see NotesFile.
+struct DocumentNotes {
+    int level = 0; ///< imported last, from 1; 0 for none
+    std::map<int, GroupColours> groups; ///< by the group's number
+
+    bool operator==(const DocumentNotes&) const = default;
+};
+
 /// The most characters that a cell holds; a file with a longer line is not an overlay.
 inline constexpr int cellTextLimit = 32767;
 
@@ -71,11 +88,15 @@ public:
     [[nodiscard]] const TextCell& cell(int index) const { return m_cells[static_cast<std::size_t>(index)]; }
     [[nodiscard]] TextCell& cell(int index) { return m_cells[static_cast<std::size_t>(index)]; }
 
+    [[nodiscard]] const DocumentNotes& notes() const { return m_notes; }
+    [[nodiscard]] DocumentNotes& notes() { return m_notes; }
+
     bool operator==(const Document&) const = default;
 
 private:
     Keyboard m_keyboard;
     std::vector<TextCell> m_cells;
+    DocumentNotes m_notes;
 };
 
 } // namespace norvane::overlay

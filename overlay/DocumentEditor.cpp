@@ -3,6 +3,7 @@
 
 #include "overlay/DocumentFile.h"
 #include "overlay/LevelImport.h"
+#include "overlay/NotesFile.h"
 #include "platform/FilePaths.h"
 
 #include <QUndoCommand>
@@ -24,23 +25,27 @@ public:
     CellStep(DocumentEditor& editor, const QString& name, const Document& before, int typing)
         : QUndoCommand(name), m_editor(editor), m_typing(typing)
     {
+        m_notesBefore = before.notes();
+        m_notesAfter = editor.m_document.notes();
         for (int cell = 0; cell < before.cellCount(); ++cell) {
             if (before.cell(cell) != editor.m_document.cell(cell))
                 m_changes.push_back({cell, before.cell(cell), editor.m_document.cell(cell)});
         }
     }
 
-    [[nodiscard]] bool isEmpty() const { return m_changes.empty(); }
+    [[nodiscard]] bool isEmpty() const { return m_changes.empty() && m_notesBefore == m_notesAfter; }
 
     void undo() override
     {
         for (const CellChange& change : m_changes)
             m_editor.put(change.cell, change.before);
+        m_editor.m_document.notes() = m_notesBefore;
     }
     void redo() override
     {
         for (const CellChange& change : m_changes)
             m_editor.put(change.cell, change.after);
+        m_editor.m_document.notes() = m_notesAfter;
     }
     [[nodiscard]] int id() const override { return m_typing > 0 ? 1 : -1; }
     bool mergeWith(const QUndoCommand* other) override
@@ -62,6 +67,8 @@ private:
     DocumentEditor& m_editor;
     int m_typing;
     std::vector<CellChange> m_changes;
+    DocumentNotes m_notesBefore;
+    DocumentNotes m_notesAfter;
 };
 
 DocumentEditor::DocumentEditor(Keyboard keyboard, QObject* parent) : QObject(parent), m_document(keyboard) {}
@@ -115,7 +122,11 @@ void DocumentEditor::newFile(const QString& path)
 void DocumentEditor::openFile(const QString& path)
 {
     restart(path, {});
-    edit(u"Open"_s, [&path](Document& document) { readDocument(path, document); });
+    edit(u"Open"_s, [&path](Document& document) {
+        document.notes() = {};
+        readDocument(path, document);
+        document.notes() = readNotes(path, document.keyboard());
+    });
     m_history.clear();
     restart(path, existingPath(path));
 }
@@ -123,6 +134,7 @@ void DocumentEditor::openFile(const QString& path)
 void DocumentEditor::saveFile(const QString& path)
 {
     writeDocument(path, m_document);
+    writeNotes(path, m_document);
     m_history.setClean();
     restart(path, existingPath(path));
 }
@@ -173,7 +185,25 @@ void DocumentEditor::importLevel(int level, const QString& databasePath)
 {
     endTyping();
     edit(u"Import Level%1"_s.arg(level),
-         [&](Document& document) { importdata(document, level, databasePath); });
+         [&](Document& document) {
+             importdata(document, level, databasePath);
+             document.notes().level = level;
+         });
+}
+
+void DocumentEditor::change(const QString& name, const std::function<void(Document&)>& work)
+{
+    endTyping();
+    edit(name, work);
+}
+
+void DocumentEditor::changeCells(const QString& name, const std::vector<int>& cells,
+                                 const std::function<void(TextCell&)>& work)
+{
+    change(name, [&](Document& document) {
+        for (const int cell : cells)
+            work(document.cell(cell));
+    });
 }
 
 std::vector<TextCell> DocumentEditor::copyKey(int cell) const

@@ -45,7 +45,7 @@ public:
     void newFile(const QString& path);
     /// @throws RuntimeFailure as readDocument() does. What was read by then is a step of the history.
     void openFile(const QString& path);
-    /// @throws RuntimeFailure as writeDocument() does.
+    /// @throws RuntimeFailure as writeDocument() and writeNotes() do.
     void saveFile(const QString& path);
 
     void setText(int cell, const QString& text);
@@ -59,6 +59,12 @@ public:
     [[nodiscard]] std::vector<TextCell> copyKey(int cell) const;
     /// Gives the key of @p cell as many of @p cells as it has.
     void pasteKey(int cell, const std::vector<TextCell>& cells);
+
+    /// All that @p work does to the document is one step called @p name.
+    void change(const QString& name, const std::function<void(Document&)>& work);
+    /// The same for each of @p cells.
+    void changeCells(const QString& name, const std::vector<int>& cells,
+                     const std::function<void(TextCell&)>& work);
 
 Q_SIGNALS:
     void cellChanged(int cell);

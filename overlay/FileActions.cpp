@@ -92,12 +92,21 @@ QString FileActions::fileToSave() const
     }
 }
 
-/// A document that cannot be written remains open, so that it can be saved elsewhere.
 bool FileActions::SaveFile()
 {
     const QString path = fileToSave();
-    if (path.isEmpty())
-        return false;
+    return !path.isEmpty() && write(path);
+}
+
+bool FileActions::saveChanges()
+{
+    const QString path = m_editor.fileName();
+    return path.isEmpty() || m_editor.replacesOther(path) ? SaveFile() : write(path);
+}
+
+/// A document that cannot be written remains open, so that it can be saved elsewhere.
+bool FileActions::write(const QString& path)
+{
     try {
         m_editor.saveFile(path);
     } catch (const RuntimeFailure& failure) {

@@ -27,6 +27,8 @@ public:
     void OpenFile();
     /// @return whether the document was written.
     bool SaveFile();
+    /// Writes the document into its own file. Without one, or when another is there, as SaveFile().
+    bool saveChanges();
     /// Asks whether changes are to be saved or dropped, if there are any. @return false when the user keeps
     /// them or they could not be saved.
     [[nodiscard]] bool mayDropChanges();
@@ -36,6 +38,7 @@ public:
 private:
     [[nodiscard]] FileChoice choice(const QString& title, FileChoice::Name name) const;
     [[nodiscard]] QString fileToSave() const;
+    bool write(const QString& path);
     void reportFailure(const RuntimeFailure& failure);
 
     DocumentEditor& m_editor;

@@ -7,6 +7,7 @@
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QResizeEvent>
@@ -30,12 +31,6 @@ constexpr int keyFrame = 1;
 constexpr int reachPixels = 20;
 constexpr double trueScale = paper::screenPixelsPerMillimetre;
 constexpr double smallestScale = 0.45 * trueScale;
-
-/// As screen readers say it.
-QString placeOf(const OverlayKey& key, int cell)
-{
-    return u"Column %1, key %2, line %3"_s.arg(key.column + 1).arg(key.row + 1).arg(cell - key.firstCell + 1);
-}
 
 QRectF boundsOf(const OverlayLayout& layout)
 {
@@ -75,6 +70,10 @@ public:
         const QPoint end(pixel(place.right() - m_bounds.left()), pixel(place.bottom() - m_bounds.top()));
         return {corner, end - QPoint(1, 1)};
     }
+    [[nodiscard]] QPointF millimetres(QPoint pixel) const
+    {
+        return QPointF(pixel) / m_scale + m_bounds.topLeft();
+    }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
@@ -97,7 +96,7 @@ private:
 KeyboardView::KeyboardView(DocumentEditor& editor, QWidget* parent)
     : QScrollArea(parent), m_editor(editor), m_layout(editor.document().layout()),
       m_ground(new Ground(m_layout, this)), m_cells(static_cast<std::size_t>(m_layout.cellCount())),
-      m_order(readingOrder(m_layout))
+      m_order(readingOrder(m_layout)), m_selection(m_layout)
 {
     ui::nameControl(*this, u"Keyboard"_s);
     setFocusPolicy(Qt::NoFocus);
@@ -120,6 +119,7 @@ void KeyboardView::makeCell(int cell)
     ui::nameControl(*edit, u"RichTextBox1_%1"_s.arg(cell));
     showCell(cell);
     connectCell(cell);
+    connectSelection(cell);
 }
 
 void KeyboardView::connectCell(int cell)
@@ -138,14 +138,90 @@ void KeyboardView::connectCell(int cell)
             [this, cell](ArrowDirection direction) { goTo(neighbour(m_layout, cell, direction)); });
 }
 
+void KeyboardView::connectSelection(int cell)
+{
+    const auto* const edit = m_cells[static_cast<std::size_t>(cell)];
+    const auto clear = [this] {
+        select(&KeySelection::clear);
+    };
+    const auto current = [this] {
+        return m_layout.keyIndex(m_current);
+    };
+    connect(edit, &CellEdit::pressed, this, clear);
+    connect(edit, &CellEdit::walked, this, clear);
+    connect(edit, &CellEdit::draggedTo, this, &KeyboardView::selectBetween);
+    connect(edit, &CellEdit::extended, this, [this, current](ArrowDirection direction) {
+        select([&](KeySelection& keys) { keys.extend(current(), direction); });
+        ensureWidgetVisible(m_cells[static_cast<std::size_t>(m_layout.key(m_selection.end()).firstCell)]);
+    });
+    // The press has made its cell the current one already.
+    connect(edit, &CellEdit::keyPicked, this, [this, current](bool reaches) {
+        select([&](KeySelection& keys) {
+            if (reaches) {
+                keys.extendTo(m_layout.keyIndex(m_cameFrom), current());
+            } else {
+                keys.toggle(current());
+            }
+        });
+    });
+}
+
+/// Only cells whose state changes are painted again.
+void KeyboardView::select(const std::function<void(KeySelection&)>& work)
+{
+    const KeySelection before = m_selection;
+    work(m_selection);
+    if (m_selection == before)
+        return;
+    for (int cell = 0; cell < m_layout.cellCount(); ++cell) {
+        const int key = m_layout.keyIndex(cell);
+        if (m_selection.has(key) == before.has(key))
+            continue;
+        m_cells[static_cast<std::size_t>(cell)]->setSelected(m_selection.has(key));
+        nameCell(cell);
+    }
+    Q_EMIT selectionChanged();
+}
+
+void KeyboardView::selectBetween(QPoint from, QPoint to)
+{
+    const QRectF area = QRectF(m_ground->millimetres(from), m_ground->millimetres(to)).normalized();
+    select([&area](KeySelection& keys) { keys.selectArea(area); });
+    ensureVisible(to.x(), to.y(), reachPixels, reachPixels);
+}
+
+std::vector<int> KeyboardView::chosenCells() const
+{
+    KeySelection chosen = m_selection;
+    if (chosen.isEmpty())
+        chosen.select({m_layout.keyIndex(m_current)});
+    return chosen.cells();
+}
+
+void KeyboardView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && !m_selection.isEmpty()) {
+        select(&KeySelection::clear);
+    } else {
+        QScrollArea::keyPressEvent(event);
+    }
+}
+
 void KeyboardView::showCell(int cell)
 {
     const Document& document = m_editor.document();
     const QString printed = printedText(document, cell);
     CellEdit& edit = *m_cells[static_cast<std::size_t>(cell)];
     edit.showContents(document.cell(cell), {printed, printed.size() < document.cell(cell).text.size()});
-    edit.setAccessibleName(placeOf(m_layout.keyOf(cell), cell) +
-                           (edit.isCut() ? u", wider than its key"_s : QString()));
+    nameCell(cell);
+}
+
+void KeyboardView::nameCell(int cell)
+{
+    CellEdit& edit = *m_cells[static_cast<std::size_t>(cell)];
+    edit.setAccessibleName(placeName(m_layout, cell) +
+                           (edit.isCut() ? u", wider than its key"_s : QString()) +
+                           (m_selection.has(m_layout.keyIndex(cell)) ? u", selected"_s : QString()));
 }
 
 bool KeyboardView::isCut(int cell) const
@@ -176,6 +252,7 @@ void KeyboardView::placeCells()
         for (int cell = key.firstCell; cell <= key.lastCell(); ++cell) {
             CellEdit& edit = *m_cells[static_cast<std::size_t>(cell)];
             edit.setGeometry(m_ground->pixels(line));
+            edit.setKeyArea(m_ground->pixels(key.outline()));
             edit.setPixelsPerMillimetre(m_ground->scale());
             line.translate(0, line.height());
         }
@@ -189,6 +266,11 @@ void KeyboardView::resizeEvent(QResizeEvent* event)
         placeCells();
 }
 
+double KeyboardView::shownScale() const
+{
+    return m_ground->scale() / trueScale;
+}
+
 /// The keyboard in true size.
 QSize KeyboardView::sizeHint() const
 {
@@ -198,10 +280,16 @@ QSize KeyboardView::sizeHint() const
 /// A cell that regains the focus from a dialog is the same cell.
 void KeyboardView::enter(int cell)
 {
-    if (std::exchange(m_current, cell) == cell)
+    m_cameFrom = std::exchange(m_current, cell);
+    if (m_cameFrom == cell)
         return;
     ensureWidgetVisible(m_cells[static_cast<std::size_t>(cell)], reachPixels, reachPixels);
     Q_EMIT currentCellChanged(cell);
+}
+
+void KeyboardView::show(int cell)
+{
+    enter(cell);
 }
 
 void KeyboardView::goTo(int cell)

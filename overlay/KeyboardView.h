@@ -1,10 +1,11 @@
 // The cells of an overlay at the places of the keyboard's keys.
 #pragma once
 
-#include "overlay/CellOrder.h"
+#include "overlay/KeySelection.h"
 
 #include <QScrollArea>
 
+#include <functional>
 #include <vector>
 
 namespace norvane::overlay
@@ -15,7 +16,8 @@ class DocumentEditor;
 
 /// Shows a document in the shape of its keyboard, as large as fits or in a fixed size, and passes typed text
 /// and clicks to the editor. Tab, Enter and the arrow keys move through the cells, whose menus offer the
-/// actions of this widget.
+/// actions of this widget. A drag over several keys, Shift with the arrow keys or a click, and Ctrl with a
+/// click select keys; Escape, a click and walking on end the selection.
 class KeyboardView : public QScrollArea
 {
     Q_OBJECT
@@ -31,20 +33,34 @@ public:
     /// Scrolls to @p cell and gives it the focus.
     void goTo(int cell);
     [[nodiscard]] QSize sizeHint() const override;
+    /// Scrolls to @p cell and makes it the current one, without the focus.
+    void show(int cell);
+    /// Selects what @p work selects and shows it.
+    void select(const std::function<void(KeySelection&)>& work);
+    [[nodiscard]] const KeySelection& selection() const { return m_selection; }
+    /// The cells of the selected keys, or those of the current key if none is selected.
+    [[nodiscard]] std::vector<int> chosenCells() const;
+    /// Pixels to the millimetre, in shares of true size.
+    [[nodiscard]] double shownScale() const;
     /// Whether a part of the cell's text will not print.
     [[nodiscard]] bool isCut(int cell) const;
 
 Q_SIGNALS:
     void currentCellChanged(int cell);
+    void selectionChanged();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     class Ground;
     void makeCell(int cell);
     void connectCell(int cell);
+    void connectSelection(int cell);
     void showCell(int cell);
+    void nameCell(int cell);
+    void selectBetween(QPoint from, QPoint to);
     void placeCells();
     void enter(int cell);
     void step(int cell, int by);
@@ -55,8 +71,10 @@ private:
     Ground* m_ground;
     std::vector<CellEdit*> m_cells; ///< by index
     std::vector<int> m_order;       ///< of reading
+    KeySelection m_selection;
     int m_zoom = 0;
     int m_current = 0;
+    int m_cameFrom = 0; ///< current before
 };
 
 } // namespace norvane::overlay

@@ -4,7 +4,10 @@
 #include "base/CustomerSettings.h"
 #include "overlay/KeyboardView.h"
 #include "overlay/KeyClipboard.h"
+#include "overlay/KeysMenu.h"
+#include "overlay/LevelImport.h"
 #include "overlay/SheetPainter.h"
+#include "overlay/ZoomBox.h"
 #include "platform/Boxes.h"
 #include "platform/FailureBox.h"
 #include "ui/Appearance.h"
@@ -13,7 +16,6 @@
 
 #include <QBoxLayout>
 #include <QClipboard>
-#include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -31,9 +33,6 @@ namespace norvane::overlay
 namespace
 {
 
-constexpr int levels = 5;
-constexpr std::array<std::pair<const char*, int>, 6> zooms = {
-    {{"Fit window", 0}, {"75 %", 75}, {"100 %", 100}, {"125 %", 125}, {"150 %", 150}, {"200 %", 200}}};
 
 /// The keyboard of the customer whose database is imported; nothing if the settings do not say.
 std::optional<Keyboard> keyboardInUse(ApplicationValues values)
@@ -86,12 +85,13 @@ OverlayForm::OverlayForm(Keyboard keyboard, const ApplicationValues& values, Box
 
 void OverlayForm::buildMenus(QMenuBar& bar)
 {
-    static constexpr std::array<Entry, 6> files = {{
-        {"New", "&New", &OverlayForm::newFile},
-        {"Open", "&Open", &OverlayForm::openFile},
-        {"Save", "&Save", &OverlayForm::saveFile},
+    static constexpr std::array<Entry, 7> files = {{
+        {"New", "&New", &OverlayForm::newFile, "Ctrl+N"},
+        {"Open", "&Open", &OverlayForm::openFile, "Ctrl+O"},
+        {"Save", "&Save", &OverlayForm::saveFile, "Ctrl+Shift+S"},
+        {"SaveChanges", "Save C&hanges", &OverlayForm::saveChanges, "Ctrl+S"},
         {"PrinterSetup", "&Printer Setup", &OverlayForm::setUpPrinter},
-        {"Print", "&Print", &OverlayForm::print},
+        {"Print", "&Print", &OverlayForm::print, "Ctrl+P"},
         {"Exit", "E&xit", &OverlayForm::reject},
     }};
     static constexpr std::array<Entry, 2> colours = {{
@@ -109,6 +109,14 @@ void OverlayForm::buildMenus(QMenuBar& bar)
         addEntry(*coloursMenu, entry);
     if (m_editor.document().geometry().hasImport)
         addImportMenu(bar);
+    addKeysMenu(bar);
+}
+
+void OverlayForm::addKeysMenu(QMenuBar& bar)
+{
+    auto* const keys = new KeysMenu(m_editor, *m_keyboard, *m_style, m_values.databasePath, this);
+    keys->addTo(bar);
+    connect(keys, &KeysMenu::noticed, this, [this](const QString& text) { StatusBar1->setNotice(text); });
 }
 
 void OverlayForm::addEntry(QWidget& menu, const Entry& entry)
@@ -127,7 +135,7 @@ void OverlayForm::addImportMenu(QMenuBar& bar)
 {
     QMenu* const menu = bar.addMenu(u"&Import Keyboard"_s);
     ui::nameControl(*menu, u"ImportKeyboard"_s);
-    for (int level = 1; level <= levels; ++level) {
+    for (int level = 1; level <= overlayLevels; ++level) {
         QAction* const action = menu->addAction(u"Import Level&%1"_s.arg(level));
         action->setObjectName(u"ImportLevel%1"_s.arg(level));
         connect(action, &QAction::triggered, this, [this, level] { importLevel(level); });
@@ -183,22 +191,10 @@ QToolBar* OverlayForm::makeViewTools()
     auto* const bar = new QToolBar(this);
     ui::nameControl(*bar, u"ViewTools"_s);
     bar->addSeparator();
-    addZoom(*bar);
+    bar->addWidget(new ZoomBox(*m_keyboard, this));
     bar->addSeparator();
     m_style->addTo(*bar);
     return bar;
-}
-
-void OverlayForm::addZoom(QToolBar& bar)
-{
-    auto* const zoom = new QComboBox(&bar);
-    ui::nameControl(*zoom, u"Zoom"_s, u"Size of the keyboard on the screen"_s);
-    for (const auto& [caption, percent] : zooms)
-        zoom->addItem(QLatin1StringView(caption), percent);
-    zoom->setToolTip(u"Size of the keyboard on the screen"_s);
-    connect(zoom, &QComboBox::currentIndexChanged, this,
-            [this, zoom] { m_keyboard->setZoom(zoom->currentData().toInt()); });
-    bar.addWidget(zoom);
 }
 
 void OverlayForm::followHistory()
@@ -244,7 +240,17 @@ void OverlayForm::openFile()
 
 void OverlayForm::saveFile()
 {
-    if (m_files.SaveFile())
+    showSaved(m_files.SaveFile());
+}
+
+void OverlayForm::saveChanges()
+{
+    showSaved(m_files.saveChanges());
+}
+
+void OverlayForm::showSaved(bool isSaved)
+{
+    if (isSaved)
         StatusBar1->setNotice(u"Saved as %1."_s.arg(QDir::toNativeSeparators(m_editor.fileName())));
 }
 
@@ -283,7 +289,7 @@ void OverlayForm::importLevel(int level)
 {
     try {
         m_editor.importLevel(level, m_values.databasePath);
-        StatusBar1->setNotice(u"Level %1 was imported."_s.arg(level) + keyboardNotice());
+        StatusBar1->setNotice(u"Level %1 was imported."_s.arg(level) + keyboardNotice() + groupNotice());
     } catch (const RuntimeFailure& failure) {
         showFailure(failure, m_boxes);
     }
@@ -297,6 +303,13 @@ QString OverlayForm::keyboardNotice() const
         return {};
     return u" It is a level of a %1: the texts may be on the wrong keys of this %2."_s.arg(
         geometryOf(*used).name, m_editor.document().geometry().name);
+}
+
+QString OverlayForm::groupNotice() const
+{
+    return m_editor.document().notes().groups.empty()
+               ? QString()
+               : u" \"Keys / Colour by Group\" gives the groups their colours."_s;
 }
 
 void OverlayForm::undo()

@@ -46,16 +46,18 @@ private:
     void buildMenus(QMenuBar& bar);
     void addEntry(QWidget& menu, const Entry& entry);
     void addImportMenu(QMenuBar& bar);
+    void addKeysMenu(QMenuBar& bar);
     [[nodiscard]] QLayout* makeTools();
     [[nodiscard]] QToolBar* makeActionTools();
     [[nodiscard]] QToolBar* makeViewTools();
-    void addZoom(QToolBar& bar);
     void followHistory();
     void openAtGoodSize();
 
     void newFile();
     void openFile();
     void saveFile();
+    void saveChanges();
+    void showSaved(bool isSaved);
     void setUpPrinter() { m_sheet.setUpPrinter(); }
     void print();
     void printUnder(const std::optional<paper::PrinterCorrection>& correction);
@@ -64,6 +66,8 @@ private:
     void chooseTextColour() { m_style->chooseTextColour(); }
     void importLevel(int level);
     [[nodiscard]] QString keyboardNotice() const;
+    /// That the groups have colours, if any has.
+    [[nodiscard]] QString groupNotice() const;
     void undo();
     void redo();
     void copyKey();

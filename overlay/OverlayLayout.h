@@ -40,6 +40,13 @@ public:
     [[nodiscard]] int cellCount() const { return static_cast<int>(m_keyOfCell.size()); }
     /// @param cell from 0 to cellCount() - 1.
     [[nodiscard]] const OverlayKey& keyOf(int cell) const;
+    /// Place in keys() of the key that has @p cell.
+    [[nodiscard]] int keyIndex(int cell) const
+    {
+        return static_cast<int>(m_keyOfCell[static_cast<std::size_t>(cell)]);
+    }
+    /// @param index from 0 to the number of keys - 1.
+    [[nodiscard]] const OverlayKey& key(int index) const { return m_keys[static_cast<std::size_t>(index)]; }
 
 private:
     void addColumn(const KeyboardGeometry& geometry, const KeyColumns& group, OverlayKey next);

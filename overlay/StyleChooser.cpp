@@ -71,6 +71,7 @@ void StyleChooser::chooseFont(const CellFont& current)
     m_style.font = CellFont{nameOf(*chosen, initial), static_cast<float>(chosen->pointSizeF()),
                             chosen->bold(), chosen->italic()};
     showSample();
+    Q_EMIT fontChosen();
 }
 
 void StyleChooser::chooseBackground()
@@ -95,12 +96,14 @@ void StyleChooser::takeBackground(const QColor& colour)
 {
     m_style.background = colourOf(colour);
     showSample();
+    Q_EMIT backgroundChosen();
 }
 
 void StyleChooser::takeTextColour(const QColor& colour)
 {
     m_style.textColour = colourOf(colour);
     showSample();
+    Q_EMIT textColourChosen();
 }
 
 void StyleChooser::rememberColours(const Document& document)

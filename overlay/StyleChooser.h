@@ -32,6 +32,11 @@ public:
     /// Offers the colours of @p document, except black and white, as colours used last.
     void rememberColours(const Document& document);
 
+Q_SIGNALS:
+    void backgroundChosen();
+    void textColourChosen();
+    void fontChosen();
+
 private:
     void takeBackground(const QColor& colour);
     void takeTextColour(const QColor& colour);

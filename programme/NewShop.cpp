@@ -33,6 +33,8 @@ const QStringList pointFields{u"POINT1"_s, u"POINT2"_s, u"POINT3"_s, u"POINT4"_s
 
 /// The extensions under which the overlay designer saves.
 const QStringList overlayDocuments{u"*.Dorvik"_s, u"*.Velmar"_s, u"*.ky4"_s};
+/// What it remembers with them.
+const QStringList overlayNotes{u"*.Dorvik.notes"_s, u"*.Velmar.notes"_s, u"*.ky4.notes"_s};
 
 /// PLU stock: what is on the shelves of the other shop.
 constexpr int stockFile = 81;
@@ -140,6 +142,7 @@ void takeFromOther(const NewShop& shop, const QString& folder, TakenOver& taken)
         const QDir other(shop.likePath);
         taken.overlays =
             copyFiles(other.entryList(overlayDocuments, QDir::Files, QDir::Name), shop.likePath, folder);
+        (void)copyFiles(other.entryList(overlayNotes, QDir::Files, QDir::Name), shop.likePath, folder);
     }
 }
 

@@ -12,10 +12,13 @@
 #include "keys/layout/KeyLayout.h"
 #include "keys/lookups/frmwlu.h"
 #include "overlay/CorrectionForm.h"
+#include "overlay/FindDialog.h"
+#include "overlay/KeyKinds.h"
 #include "overlay/OverlayForm.h"
 #include "overlay/OverlayPreview.h"
 #include "overlay/PrinterSetup.h"
 #include "overlay/SystemDialogs.h"
+#include "overlay/WholeWordsDialog.h"
 #include "platform/FilePaths.h"
 #include "platform/ProfileFile.h"
 #include "programme/CopyToShopsDialog.h"
@@ -77,6 +80,22 @@ QWidget* designer(overlay::Keyboard keyboard, Ground& ground, QWidget* parent)
     if (auto* const import = form->findChild<QAction*>(u"ImportLevel1"_s))
         import->trigger();
     return form;
+}
+
+/// With texts that do not fit.
+QWidget* wholeWords(Ground& ground, QWidget* parent)
+{
+    ground.document.cell(39).text = u"A VERY LONG NAME OF INCOMPREHENSIBILITIES"_s;
+    const overlay::ProgrammeTexts none(ground.document.layout().keys().size());
+    return new overlay::WholeWordsDialog(ground.document, {13, 14}, none, parent);
+}
+
+/// The dialog's keyboard goes with its designer, which is not shown.
+QWidget* findAndReplace(Ground& ground, QWidget* parent)
+{
+    QWidget* const form = designer(overlay::Keyboard::Velmar, ground, parent);
+    form->findChild<QAction*>(u"FindEntry"_s)->trigger();
+    return form->findChild<overlay::FindDialog*>();
 }
 
 QWidget* preview(Ground& ground, QWidget* parent)
@@ -180,6 +199,12 @@ constexpr Dialog dialogs[] = {
      [](Ground& g, QWidget* p) {
          return designer(overlay::Keyboard::Quelmont, g, p);
      }},
+    {"overlay-kinds",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         return new overlay::KeyKinds(g.document, g.values.databasePath, p);
+     }},
+    {"overlay-whole-words", &wholeWords},
+    {"overlay-find", &findAndReplace},
     {"overlay-preview", &preview},
     {"printer-correction",
      [](Ground& g, QWidget* p) -> QWidget* {
