@@ -37,7 +37,7 @@ KeyKinds::KeyKinds(const Document& document, QString databasePath, QWidget* pare
     setObjectName(u"KeyKinds"_s);
     setWindowTitle(u"Select by Kind or Group"_s);
     ui::nameControl(*m_level, u"KindsLevel"_s);
-    ui::nameControl(*m_list, u"Kinds"_s);
+    ui::nameControl(*m_list, u"Kinds"_s, u"Kinds and groups"_s);
     ui::nameControl(*m_failure, u"KindsFailure"_s);
     for (int level = 1; level <= overlayLevels; ++level)
         m_level->addItem(u"Level %1"_s.arg(level));
