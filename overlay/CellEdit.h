@@ -45,7 +45,7 @@ Q_SIGNALS:
     void pressed();                          ///< by a mouse without Shift or Ctrl, which begins something new
     void keyPicked(bool reaches);            ///< with Shift for all keys up to this, with Ctrl for this one
     void draggedTo(QPoint from, QPoint to);  ///< beyond the key, in the parent's pixels
-    void menuOpens(QMenu* menu); ///< further entries may be added
+    void menuOpens(QMenu* menu);             ///< further entries may be added
     void nextWanted();
     void previousWanted();
 

@@ -62,7 +62,7 @@ struct GroupColours {
 
 /// What is remembered with a document, in a file of its own: see NotesFile.
 struct DocumentNotes {
-    int level = 0; ///< imported last, from 1; 0 for none
+    int level = 0;                      ///< imported last, from 1; 0 for none
     std::map<int, GroupColours> groups; ///< by the group's number
 
     bool operator==(const DocumentNotes&) const = default;

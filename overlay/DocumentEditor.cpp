@@ -184,11 +184,10 @@ void DocumentEditor::giveColours(Document& document, int cell) const
 void DocumentEditor::importLevel(int level, const QString& databasePath)
 {
     endTyping();
-    edit(u"Import Level%1"_s.arg(level),
-         [&](Document& document) {
-             importdata(document, level, databasePath);
-             document.notes().level = level;
-         });
+    edit(u"Import Level%1"_s.arg(level), [&](Document& document) {
+        importdata(document, level, databasePath);
+        document.notes().level = level;
+    });
 }
 
 void DocumentEditor::change(const QString& name, const std::function<void(Document&)>& work)

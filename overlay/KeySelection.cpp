@@ -12,7 +12,8 @@ constexpr double leastArea = 0.01; ///< mm
 
 } // namespace
 
-KeySelection::KeySelection(const OverlayLayout& layout) : m_layout(&layout), m_isSelected(layout.keys().size())
+KeySelection::KeySelection(const OverlayLayout& layout)
+    : m_layout(&layout), m_isSelected(layout.keys().size())
 {
 }
 

@@ -96,8 +96,10 @@ void KeysMenu::connectStyle()
                 work();
         };
     };
-    connect(&m_style, &StyleChooser::backgroundChosen, this, onSelection([this] { giveColours(true, false); }));
-    connect(&m_style, &StyleChooser::textColourChosen, this, onSelection([this] { giveColours(false, true); }));
+    connect(&m_style, &StyleChooser::backgroundChosen, this,
+            onSelection([this] { giveColours(true, false); }));
+    connect(&m_style, &StyleChooser::textColourChosen, this,
+            onSelection([this] { giveColours(false, true); }));
     connect(&m_style, &StyleChooser::fontChosen, this, onSelection([this] { giveFont(); }));
 }
 
@@ -129,7 +131,8 @@ void KeysMenu::selectKind()
     m_keyboard.select([&](KeySelection& keys) { keys.select(dialog.choice().keys); });
     m_group = dialog.choice().group;
     if (m_group > 0)
-        Q_EMIT noticed(u"%1: colours that you choose are remembered for this group."_s.arg(dialog.choice().name));
+        Q_EMIT noticed(
+            u"%1: colours that you choose are remembered for this group."_s.arg(dialog.choice().name));
 }
 
 void KeysMenu::change(const QString& name, const std::function<void(TextCell&)>& work)
@@ -173,8 +176,7 @@ void KeysMenu::toggle(const QString& name, const std::function<bool&(TextCell&)>
 {
     const auto cells = m_keyboard.chosenCells();
     m_editor.change(name, [&](Document& document) {
-        const bool isSet =
-            std::ranges::all_of(cells, [&](int cell) { return style(document.cell(cell)); });
+        const bool isSet = std::ranges::all_of(cells, [&](int cell) { return style(document.cell(cell)); });
         for (const int cell : cells)
             style(document.cell(cell)) = !isSet;
     });

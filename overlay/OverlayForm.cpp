@@ -33,7 +33,6 @@ namespace norvane::overlay
 namespace
 {
 
-
 /// The keyboard of the customer whose database is imported; nothing if the settings do not say.
 std::optional<Keyboard> keyboardInUse(ApplicationValues values)
 {

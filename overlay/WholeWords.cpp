@@ -96,7 +96,8 @@ public:
         for (const QChar letter : text) {
             auto found = letters.widths.find(letter);
             if (found == letters.widths.end())
-                found = letters.widths.insert(letter, letters.font.width(QStringView(&letter, 1)).inMillimetres());
+                found = letters.widths.insert(letter,
+                                              letters.font.width(QStringView(&letter, 1)).inMillimetres());
             width += *found;
         }
         return width * font.size / measuredSize;

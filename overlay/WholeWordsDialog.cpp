@@ -56,6 +56,7 @@ WholeWordsDialog::WholeWordsDialog(const Document& document, std::vector<int> se
     ui::nameControl(*m_summary, u"WholeWordsSummary"_s);
     ui::nameControl(*m_unfit, u"UnfitKeys"_s, u"Texts that do not fit"_s);
     m_summary->setWordWrap(true);
+    m_unfit->setWordWrap(true);
     m_unfit->setMinimumSize(ui::scaled(unfitListSize));
     column->addWidget(m_summary);
     column->addWidget(m_unfit);

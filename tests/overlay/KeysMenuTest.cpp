@@ -38,10 +38,7 @@ protected:
                 number, QString::number(row), row % 3 == 0 ? u"7"_s : u"9"_s));
         }
     }
-    [[nodiscard]] const KeySelection& selection()
-    {
-        return m_form->findChild<KeyboardView*>()->selection();
-    }
+    [[nodiscard]] const KeySelection& selection() { return m_form->findChild<KeyboardView*>()->selection(); }
     void drag(int from, int to)
     {
         const QPoint end = cell(from).mapFromGlobal(cell(to).mapToGlobal(cell(to).rect().center()));
@@ -215,7 +212,8 @@ TEST_F(KeysMenuTest, SetsWholeWordsAndListsWhatDoesNotFit)
         EXPECT_EQ(list.count(), 143) << "with letters this large no burger fits";
         dialog.findChild<QDoubleSpinBox*>(u"SmallestSize"_s)->setValue(6);
         ASSERT_EQ(list.count(), 1);
-        EXPECT_TRUE(list.item(0)->text().startsWith(u"Column 2, key 13: \"INCOMPREHENSIBILITY ER 14\" fits at "_s))
+        EXPECT_TRUE(
+            list.item(0)->text().startsWith(u"Column 2, key 13: \"INCOMPREHENSIBILITY ER 14\" fits at "_s))
             << qPrintable(list.item(0)->text());
     });
     EXPECT_EQ(key(72), u"HAMBURGER|15|"_s);

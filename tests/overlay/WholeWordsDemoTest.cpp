@@ -27,10 +27,11 @@ TEST(WholeWordsDemoTest, LevelOneOfTheDemoShopHasNoBrokenWord)
 {
     const test::ProgramFolder folder{2, 1};
     const test::TestFolder scratch;
-    ASSERT_EQ(QProcess::execute(QStringLiteral(DEMO_SHOP),
-                                {folder.appPath(), u"--tools"_s, QStringLiteral(TOOLS_FOLDER), u"--scratch"_s,
-                                 scratch.path(), u"--first"_s, u"2025-12-24"_s, u"--last"_s, u"2025-12-24"_s}),
-              0);
+    ASSERT_EQ(
+        QProcess::execute(QStringLiteral(DEMO_SHOP),
+                          {folder.appPath(), u"--tools"_s, QStringLiteral(TOOLS_FOLDER), u"--scratch"_s,
+                           scratch.path(), u"--first"_s, u"2025-12-24"_s, u"--last"_s, u"2025-12-24"_s}),
+        0);
     const QString database = folder.appFile(u"DEMO CAFE/velmar.mdb"_s);
     Document document(Keyboard::Velmar);
     importdata(document, 1, database);
