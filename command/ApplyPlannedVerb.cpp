@@ -36,10 +36,7 @@ using articles::PlannedList, articles::PlannedState, articles::ReadList;
 class DueChanges
 {
 public:
-    /// Gets what went wrong with a list, and goes on.
-    using Note = std::function<void(ExitCode code, const QString& text)>;
-
-    DueChanges(const Workplace& workplace, ApplicationValues values, Note note)
+    DueChanges(const Workplace& workplace, ApplicationValues values, DueNote note)
         : m_workplace(workplace), m_values(std::move(values)), m_note(std::move(note))
     {
     }
@@ -167,7 +164,7 @@ private:
 
     const Workplace& m_workplace;
     ApplicationValues m_values;
-    Note m_note;
+    DueNote m_note;
     QStringList m_results;
     bool m_isCopied = false;
 };
@@ -210,7 +207,7 @@ private:
 
     void apply(const QString& name)
     {
-        if (!hasWork(findCustomer(m_workplace, name)))
+        if (!hasDueChanges(findCustomer(m_workplace, name)))
             return;
         const ApplicationValues values = takeCustomer(m_workplace, name);
         const auto lock = lockFor(m_workplace, values);
@@ -221,19 +218,6 @@ private:
                 m_listing.add({QFileInfo(values.customerPath).fileName(), due.inWords()});
         });
         due.storeAndSend();
-    }
-
-    /// A customer whose lists all wait is not opened.
-    [[nodiscard]] static bool hasWork(const ApplicationValues& values)
-    {
-        bool isDamaged = false;
-        const auto planned = articles::readLists(values.customerPath, PlannedState::Planned,
-                                                 [&isDamaged](const QString&) { isDamaged = true; });
-        return isDamaged ||
-               std::ranges::any_of(
-                   articles::plannedFiles(values.customerPath),
-                   [](const articles::PlannedFile& file) { return file.state == PlannedState::Unsent; }) ||
-               (!planned.empty() && planned.front().list.day <= QDate::currentDate());
     }
 
     void note(const QString& name, ExitCode code, const QString& text)
@@ -256,6 +240,33 @@ private:
 };
 
 } // namespace
+
+bool hasDueChanges(const ApplicationValues& values)
+{
+    bool isDamaged = false;
+    const auto planned = articles::readLists(values.customerPath, PlannedState::Planned,
+                                             [&isDamaged](const QString&) { isDamaged = true; });
+    return isDamaged ||
+           std::ranges::any_of(
+               articles::plannedFiles(values.customerPath),
+               [](const articles::PlannedFile& file) { return file.state == PlannedState::Unsent; }) ||
+           (!planned.empty() && planned.front().list.day <= QDate::currentDate());
+}
+
+QString applyDueChanges(const Workplace& workplace, const ApplicationValues& values, const DueNote& note)
+{
+    DueChanges due(workplace, values, note);
+    try {
+        due.storeAndSend();
+    } catch (const CommandError& error) {
+        note(error.code(), error.text());
+    } catch (const RuntimeFailure& failure) {
+        if (failure.failure() == Failure::UserInterrupt)
+            throw;
+        note(codeOf(failure), failure.text());
+    }
+    return due.inWords();
+}
 
 void applyPlanned(const Workplace& workplace, const Invocation& words)
 {

@@ -1,8 +1,13 @@
 // Safety copies: which there are, and the way back to one.
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
+#include "customers/CopiesElsewhere.h"
+#include "customers/CustomerFolders.h"
 #include "customers/RunLock.h"
 #include "customers/SafetyCopies.h"
+#include "platform/FilePaths.h"
+
+#include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,6 +33,41 @@ customers::SafetyCopy copyOf(const QString& customerPath, const QString& name)
     throw CommandError(ExitCode::NoSuchName, why.arg(name));
 }
 
+/// A safety copy is a folder.
+bool isCopyElsewhere(const QString& path)
+{
+    return path.endsWith(".zip"_L1, Qt::CaseInsensitive) && QFileInfo(path).isFile();
+}
+
+/// The customer, which need not exist. @throws CommandError as findCustomer(); Usage for a name that no
+/// folder can have.
+ApplicationValues customerToRestore(const Workplace& workplace, const QString& name)
+{
+    const QStringList folders = customers::foldersNamed(workplace.appPath, name);
+    if (folders.size() > 1)
+        return findCustomer(workplace, name);
+    ApplicationValues values;
+    values.appPath = workplace.appPath;
+    values.customerName = name;
+    // Also one whose database was lost, and with it everything by which it is known.
+    values.customerPath = folders.isEmpty() ? customers::folderFor(workplace.appPath, name) : folders.front();
+    values.databasePath = customers::customerDatabase(values.customerPath);
+    if (values.customerPath.isEmpty())
+        throw CommandError(ExitCode::Usage, u"\"%1\" cannot be the name of a customer."_s.arg(name));
+    return values;
+}
+
+/// A new customer has no folder to lock: it gets its name when it is complete.
+void restoreFromElsewhere(const Workplace& workplace, const Invocation& words)
+{
+    const QString copy = workplace.userFile(words.operands[1]);
+    const ApplicationValues values = customerToRestore(workplace, words.operands[0]);
+    const auto lock = pathExists(values.customerPath) ? lockFor(workplace, values) : nullptr;
+    const QString notice = customers::restoreCopyElsewhere(copy, values.customerPath, [] {});
+    if (!notice.isEmpty())
+        printMessage(notice);
+}
+
 } // namespace
 
 void listCopies(const Workplace& workplace, const Invocation& words)
@@ -41,6 +81,10 @@ void listCopies(const Workplace& workplace, const Invocation& words)
 
 void restore(const Workplace& workplace, const Invocation& words)
 {
+    if (isCopyElsewhere(workplace.userFile(words.operands[1]))) {
+        restoreFromElsewhere(workplace, words);
+        return;
+    }
     const ApplicationValues values = findCustomer(workplace, words.operands[0]);
     const auto copy = copyOf(values.customerPath, words.operands[1]);
     const auto lock = lockFor(workplace, values);

@@ -259,6 +259,7 @@ ExchangeEnd moveBoxes(const Workplace& workplace, const ApplicationValues& value
                     runner.stopInWords(),
                     u"Communications Error: Modem Failure"_s,
                     tools.failed(),
+                    {},
                     {}};
         }
     } catch (const RuntimeFailure& stop) {
@@ -268,12 +269,13 @@ ExchangeEnd moveBoxes(const Workplace& workplace, const ApplicationValues& value
     const bool isUpload = direction == exchange::Direction::Upload;
     const bool isComplete = isUpload ? runner.UploadData() : runner.downloaddata();
     if (isComplete)
-        return {ExitCode::Done, runner.resultInWords(), {}, {}, tools.words()};
+        return {ExitCode::Done, runner.resultInWords(), {}, {}, tools.words(), {}};
     return {runner.lacksCopy() ? ExitCode::Unwritable : ExitCode::Stopped,
             runner.stopInWords(),
             {},
             tools.failed(),
-            tools.words()};
+            tools.words(),
+            {}};
 }
 
 void fetch(const Workplace& workplace, const Invocation& words)
@@ -302,27 +304,53 @@ void compare(const Workplace& workplace, const Invocation& words)
         throw CommandError(ExitCode::Different, {});
 }
 
-void collect(const Workplace& workplace, const Invocation& words)
+QDate dayToBook(const Invocation& words, QDate today)
 {
-    const ApplicationValues values = takeCustomer(workplace, words.operands.front());
-    const auto lock = lockFor(workplace, values);
+    constexpr int mostDaysBack = 7;
+    if (!words.has("day"_L1))
+        return {};
+    const QDate day = words.day("day"_L1);
+    if (day > today || day.daysTo(today) > mostDaysBack) {
+        throw CommandError(
+            ExitCode::Usage,
+            u"Sales are booked for today or one of the %1 days before it, not for %2."_s.arg(mostDaysBack)
+                .arg(day.toString(Qt::ISODate)));
+    }
+    return day;
+}
+
+ExchangeEnd collectSales(const Workplace& workplace, const ApplicationValues& values,
+                         sales::ClearFirst clearFirst, std::function<QDate()> dayToBook)
+{
     RegisterLine line;
     RegisterTools tools(workplace, values);
     sales::CollectionRun run(values, {.connectLink = [&line](const auto& link) { return line.connect(link); },
                                       .disconnectLink = [&line] { line.disconnect(); },
-                                      .run = tools.outside()});
+                                      .run = tools.outside(),
+                                      .dayToBook = std::move(dayToBook)});
+    const bool isComplete = run.collect(clearFirst);
+    return {isComplete ? ExitCode::Done : ExitCode::Stopped,
+            isComplete ? run.resultInWords() : run.stopInWords(),
+            {},
+            tools.failed(),
+            tools.words(),
+            run.bookedDay()};
+}
+
+void collect(const Workplace& workplace, const Invocation& words)
+{
+    const QDate given = dayToBook(words, QDate::currentDate());
+    const ApplicationValues values = takeCustomer(workplace, words.operands.front());
+    const auto lock = lockFor(workplace, values);
     const auto clearFirst = words.has("clear-first"_L1) ? sales::ClearFirst::Yes : sales::ClearFirst::Ask;
     try {
-        const bool isComplete = run.collect(clearFirst);
-        showEnd(workplace, u"collection"_s,
-                {isComplete ? ExitCode::Done : ExitCode::Stopped,
-                 isComplete ? run.resultInWords() : run.stopInWords(),
-                 {},
-                 tools.failed(),
-                 tools.words()});
-        if (!isComplete)
-            throw CommandError(ExitCode::Stopped, clearHint(values));
-        printStep(run.resultInWords());
+        const ExchangeEnd end = collectSales(workplace, values, clearFirst, [given] {
+            return given.isValid() ? given : QDate::currentDate();
+        });
+        showEnd(workplace, u"collection"_s, end);
+        if (end.code != ExitCode::Done)
+            throw CommandError(end.code, clearHint(values));
+        printStep(end.words);
     } catch (const RuntimeFailure&) {
         if (const QString hint = clearHint(values); !hint.isEmpty())
             printMessage(hint);

@@ -1,6 +1,7 @@
 // Publishes shops to the PostgreSQL of their chain.
 #include "chain/ChainSchema.h"
 #include "chain/Publisher.h"
+#include "command/PublishEnds.h"
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
@@ -75,22 +76,6 @@ Vanished vanishedOf(const Invocation& words)
 QString shopName(const ApplicationValues& customer)
 {
     return QFileInfo(customer.customerPath).fileName();
-}
-
-QString vanishedText(const QString& name, const chain::Published& published)
-{
-    QStringList parts;
-    if (!published.vanished.isEmpty()) {
-        parts << u"%1 published days (%2 to %3)"_s.arg(published.vanished.size())
-                     .arg(published.vanished.first().toString(Qt::ISODate),
-                          published.vanished.last().toString(Qt::ISODate));
-    }
-    if (!published.vanishedNames.isEmpty())
-        parts << u"all %1"_s.arg(published.vanishedNames.join(u", "_s));
-    QString text = u"\"%1\" no longer has %2: they remain as published."_s.arg(name, parts.join(u" and "_s));
-    if (published.heldBack > 0)
-        text += u" So do %1 days that differ."_s.arg(published.heldBack);
-    return text + u" Was the shop reset? --vanished keep keeps them, --vanished remove deletes them."_s;
 }
 
 class PublishRun
@@ -235,6 +220,32 @@ void PublishRun::note(ExitCode code, const QString& text)
 }
 
 } // namespace
+
+ExitCode codeOf(const chain::ChainError& error)
+{
+    return rowOf(error).code;
+}
+
+bool isOfShop(const chain::ChainError& error)
+{
+    return rowOf(error).isOfShop;
+}
+
+QString vanishedText(const QString& name, const chain::Published& published)
+{
+    QStringList parts;
+    if (!published.vanished.isEmpty()) {
+        parts << u"%1 published days (%2 to %3)"_s.arg(published.vanished.size())
+                     .arg(published.vanished.first().toString(Qt::ISODate),
+                          published.vanished.last().toString(Qt::ISODate));
+    }
+    if (!published.vanishedNames.isEmpty())
+        parts << u"all %1"_s.arg(published.vanishedNames.join(u", "_s));
+    QString text = u"\"%1\" no longer has %2: they remain as published."_s.arg(name, parts.join(u" and "_s));
+    if (published.heldBack > 0)
+        text += u" So do %1 days that differ."_s.arg(published.heldBack);
+    return text + u" Was the shop reset? --vanished keep keeps them, --vanished remove deletes them."_s;
+}
 
 void publish(const Workplace& workplace, const Invocation& words)
 {

@@ -22,7 +22,7 @@ ChildResult RegisterTools::run(const QString& line)
                                                      }},
                                                 m_folder);
     if (const QString words = m_words.text(); !words.isEmpty())
-        printMessage(words);
+        m_workplace.message(words);
     if (result != ChildResult::Ended)
         stopIfSignalled();
     return result;
@@ -37,7 +37,7 @@ link::RunOutside RegisterTools::outside()
                     m_words.clear();
                     printStep(text);
                 },
-            .showNotice = printMessage,
+            .showNotice = [this](const QString& text) { m_workplace.message(text); },
             .goOn =
                 [] {
                     stopIfSignalled();
@@ -48,7 +48,7 @@ link::RunOutside RegisterTools::outside()
             .explain =
                 [this](const link::FailedStep& step) {
                     m_failed = step;
-                    printMessage(inWords(step));
+                    m_workplace.message(inWords(step));
                 }};
 }
 

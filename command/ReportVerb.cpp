@@ -1,16 +1,10 @@
 // Writes a report to files.
-#include "base/CustomerSettings.h"
 #include "command/CsvOption.h"
-#include "command/ReportPeriods.h"
+#include "command/ReportFiles.h"
 #include "command/Verbs.h"
 #include "platform/FilePaths.h"
-#include "reports/files/CsvFile.h"
-#include "reports/files/PdfFile.h"
-#include "reports/files/XlsxFile.h"
-#include "reports/lines/ReportRun.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -44,34 +38,16 @@ reports::ComparedWith comparedWith(const Invocation& words)
 {
     if (!words.has("compare"_L1))
         return reports::ComparedWith::Nothing;
-    const QString with = words.value("compare"_L1);
-    if (with != "before"_L1 && with != "year"_L1)
-        throw CommandError(ExitCode::Usage, u"\"%1\" is neither before nor year."_s.arg(with));
-    return with == "year"_L1 ? reports::ComparedWith::YearEarlier : reports::ComparedWith::PeriodBefore;
+    const QString word = words.value("compare"_L1);
+    const auto with = comparisonNamed(word);
+    if (!with)
+        throw CommandError(ExitCode::Usage, u"\"%1\" is neither before nor year."_s.arg(word));
+    return *with;
 }
-
-struct FileFormat {
-    QLatin1StringView option;
-    void (*write)(const reports::ReportData& report, const QString& path, const reports::CsvSigns& signs);
-};
-constexpr auto formats = std::to_array<FileFormat>({
-    {"pdf"_L1,
-     [](const reports::ReportData& report, const QString& path, const reports::CsvSigns& /*signs*/) {
-         reports::writePdf(report, true, path);
-     }},
-    {"csv"_L1,
-     [](const reports::ReportData& report, const QString& path, const reports::CsvSigns& signs) {
-         reports::writeCsvWith(signs, report, path);
-     }},
-    {"xlsx"_L1,
-     [](const reports::ReportData& report, const QString& path, const reports::CsvSigns& /*signs*/) {
-         reports::writeXlsx(report, path);
-     }},
-});
 
 void checkWords(const Invocation& words)
 {
-    if (std::ranges::none_of(formats, [&](const auto& format) { return words.has(format.option); }))
+    if (std::ranges::none_of(fileFormats(), [&](const auto& format) { return words.has(format.name); }))
         throw CommandError(ExitCode::Usage, u"Name a file with --pdf, --csv or --xlsx."_s);
     const bool hasDays = words.has("from"_L1);
     if (hasDays != words.has("to"_L1))
@@ -91,25 +67,22 @@ void report(const Workplace& workplace, const Invocation& words)
     const reports::CsvSigns signs = signsToWrite(words);
     const ApplicationValues values = takeCustomer(workplace, words.operands[0]);
     const QString name = words.operands[1];
-    reports::ReportRequest request;
-    request.reportFile = joinPath(workplace.appPath, name + u".rpt"_s);
-    if (!pathExists(request.reportFile)) {
+    const QString path = joinPath(workplace.appPath, name + u".rpt"_s);
+    if (!pathExists(path)) {
         throw CommandError(ExitCode::NoSuchName,
                            u"There is no report \"%1\" in %2."_s.arg(name, workplace.appPath));
     }
-    request.dataFile = values.databasePath;
-    request.customer = customerOf(values, values.databasePath);
-    request.now = QDateTime::currentDateTime();
-    request.comparedWith = comparedWith(words);
-    if (const auto selection = selectionOf(request.reportFile, words, request.now.date())) {
-        request.reportTitle = selection->title;
-        request.selectionFormula = selection->formula;
-    }
+    const QDateTime now = QDateTime::currentDateTime();
+    const auto with = comparedWith(words);
+    const auto selection = selectionOf(path, words, now.date());
+    reports::ReportRequest request =
+        selection ? reportRequest(values, path, now, *selection) : reportRequest(values, path, now);
+    request.comparedWith = with;
     const reports::ReportData data = reports::runReport(request);
-    for (const auto& format : formats) {
-        if (words.has(format.option)) {
-            workplace.writeUserFile(words.value(format.option),
-                                    [&](const QString& path) { format.write(data, path, signs); });
+    for (const auto& format : fileFormats()) {
+        if (words.has(format.name)) {
+            workplace.writeUserFile(words.value(format.name),
+                                    [&](const QString& file) { format.write(data, file, signs); });
         }
     }
 }

@@ -45,6 +45,20 @@ constexpr auto sendOptions = std::to_array<OptionDefinition>({
 });
 constexpr auto collectOptions = std::to_array<OptionDefinition>({
     {"clear-first"_L1, {}, "first clear sales that are stored and were not cleared at all registers"_L1},
+    {"day"_L1, "DAY"_L1,
+     "book the sales for this day, 2026-11-25, as a shop that closes after midnight needs it"_L1},
+});
+constexpr auto nightOptions = std::to_array<OptionDefinition>({
+    {"to"_L1, "CONNECTION"_L1, "publish to this PostgreSQL, as \"publish\" does"_L1},
+    {"reports"_L1, "DIR"_L1,
+     "write the PLU sales of each day into this folder, beside what reports.ini lists"_L1},
+    {"wait"_L1, "TIME"_L1, "for a shop that another program is at work with: 90s, 10m, 2h"_L1},
+    {"retry"_L1, "N"_L1, "how often shops that did not answer are tried again, after the others"_L1},
+    {"every"_L1, "TIME"_L1, "how long to wait before that; 10m without this option"_L1},
+    {"day"_L1, "DAY"_L1, "book the sales for this day instead of that of the collection"_L1},
+    {"copies"_L1, "DIR"_L1, "copy each shop into this folder, as \"copy\" does"_L1},
+    {"again"_L1, {}, "collect and copy also the shops of which a night did so in the last eight hours"_L1},
+    {"html"_L1, "FILE"_L1, "write the summary as a page"_L1},
 });
 constexpr auto reportOptions = std::to_array<OptionDefinition>({
     {"period"_L1, "PERIOD"_L1,
@@ -68,6 +82,9 @@ constexpr auto plannedOptions = std::to_array<OptionDefinition>({
     {"show"_L1, "LIST"_L1, "the changes of one list of one customer, by its number"_L1},
     {"cancel"_L1, "LIST"_L1, "cancel a list; its file is kept"_L1},
     {"plan-again"_L1, "LIST"_L1, "plan a cancelled list again"_L1},
+});
+constexpr auto copyOptions = std::to_array<OptionDefinition>({
+    {"to"_L1, "DIR"_L1, "an existing folder, as on another disk; each customer has a folder there"_L1},
 });
 constexpr auto copyProgrammeOptions = std::to_array<OptionDefinition>({
     {"tables"_L1, "NAME,..."_L1,
@@ -116,6 +133,8 @@ constexpr auto all = std::to_array<Verb>({
     {"compare"_L1, "CUSTOMER [BOX|PART...]"_L1, 1, -1, {},
      "Lists what differs between the customer and register 1, and changes nothing in either. PART is a part of the programme as \"copy-programme\" takes it, or a table. Values that travel in one direction only are marked and do not count."_L1, compare},
     {"collect"_L1, "CUSTOMER"_L1, 1, 1, collectOptions, "Collects the sales of all registers, stores them and clears them there."_L1, collect},
+    {"night"_L1, "[CUSTOMER...]"_L1, 0, -1, nightOptions,
+     "For a timer: stores planned changes, collects the sales, writes the reports of reports.ini, publishes and copies, of all customers or those named, one after another. A second run of the same night does what is left."_L1, night},
     {"report"_L1, "CUSTOMER NAME"_L1, 2, 2, reportOptions,
      "Writes a report: plusales, finsales, clerksales, timesales, mixsales, pluprice or any layout of the program's folder."_L1, report},
     {"plus"_L1, "CUSTOMER export|import FILE"_L1, 3, 3, plusOptions,
@@ -131,7 +150,11 @@ constexpr auto all = std::to_array<Verb>({
     {"tables"_L1, {}, 0, 0, {}, "Lists the tables that \"table\" takes, with the number of their fields."_L1, listTables},
     {"copies"_L1, "CUSTOMER"_L1, 1, 1, {}, "Lists the safety copies, the latest first."_L1, listCopies},
     {"restore"_L1, "CUSTOMER COPY"_L1, 2, 2, {},
-     "Restores the customer from a safety copy, after copying its current state. COPY is a name or its beginning."_L1, restore},
+     "Restores the customer from a safety copy, after copying its current state. COPY is a name or its beginning, or the file of a copy elsewhere, from which a new customer can be made, too."_L1, restore},
+    {"copy"_L1, "CUSTOMER..."_L1, 1, -1, copyOptions,
+     "Copies customers with programme, sales and documents to a folder elsewhere, one compressed file each, and checks it. Of older copies there remain the latest of 7 days, 4 weeks and 12 months."_L1, copyElsewhere},
+    {"verify"_L1, "FILE|DIR..."_L1, 1, -1, {},
+     "Reads copies elsewhere to their end and checks their databases. Changes nothing."_L1, verifyCopies},
     {"copy-programme"_L1, "FROM TO..."_L1, 2, -1, copyProgrammeOptions,
      "Copies parts of the programme of the customer FROM to other customers: each gets all of it or nothing. What would change is listed first. Points, sales and what registers of another model cannot hold are left out."_L1, copyProgramme},
     {"convert"_L1, "CUSTOMER...|--all"_L1, 0, -1, convertOptions,

@@ -28,6 +28,8 @@ void moveTable(const Workplace& workplace, const Invocation& words);
 void listPlanned(const Workplace& workplace, const Invocation& words);
 void applyPlanned(const Workplace& workplace, const Invocation& words);
 void listTables(const Workplace& workplace, const Invocation& words);
+void copyElsewhere(const Workplace& workplace, const Invocation& words);
+void verifyCopies(const Workplace& workplace, const Invocation& words);
 void listCopies(const Workplace& workplace, const Invocation& words);
 void restore(const Workplace& workplace, const Invocation& words);
 void listBoxes(const Workplace& workplace, const Invocation& words);
@@ -35,6 +37,7 @@ void listReports(const Workplace& workplace, const Invocation& words);
 void convertCustomers(const Workplace& workplace, const Invocation& words);
 void adoptInstallation(const Workplace& workplace, const Invocation& words);
 void copyProgramme(const Workplace& workplace, const Invocation& words);
+void night(const Workplace& workplace, const Invocation& words);
 void publish(const Workplace& workplace, const Invocation& words);
 
 } // namespace norvane::command

@@ -41,6 +41,11 @@ void Workplace::writeUserFile(const QString& name,
     print(readWholeFile(path));
 }
 
+void Workplace::message(const QString& text) const
+{
+    (tell ? tell : printMessage)(text);
+}
+
 void Workplace::show(const Listing& listing) const
 {
     show(listing.headings(), listing.rows());

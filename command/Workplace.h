@@ -26,12 +26,16 @@ struct Workplace {
     QString startedIn; ///< where the user was: files named on the command line are looked for there
     bool asJson = false;
     Boxes& boxes;
+    /// Receives what the tools say and what a failed step means; empty for standard error.
+    std::function<void(const QString& text)> tell = {};
 
     /// The path of a file that the user named.
     [[nodiscard]] QString userFile(const QString& name) const;
     /// Has @p write write the file that the user named; "-" is standard output.
     /// @throws CommandError Unwritable, and what @p write throws.
     void writeUserFile(const QString& name, const std::function<void(const QString& path)>& write) const;
+    /// Passes a text on to tell().
+    void message(const QString& text) const;
     /// Writes a listing to standard output.
     void show(const Listing& listing) const;
     void show(const QStringList& headings, const Rows& rows) const;

@@ -11,7 +11,6 @@
 #include "sales/PollStamp.h"
 #include "sales/UnclearedSales.h"
 
-#include <QDate>
 #include <QLocale>
 #include <QScopeGuard>
 
@@ -351,7 +350,8 @@ bool CollectionRun::convertReports()
 Stored CollectionRun::importReports()
 {
     // One day for all reports, also when the imports run across midnight.
-    const auto [outcome, rows] = storeReports(m_values, m_outside.run.boxes, QDate::currentDate(), m_origin);
+    m_bookedDay = m_outside.dayToBook();
+    const auto [outcome, rows] = storeReports(m_values, m_outside.run.boxes, m_bookedDay, m_origin);
     m_rowsStored = rows;
     return outcome;
 }

@@ -6,6 +6,7 @@
 #include "link/WatchedStep.h"
 #include "sales/ReportStore.h"
 
+#include <QDate>
 #include <QList>
 #include <QString>
 
@@ -22,6 +23,10 @@ struct CollectionOutside {
     /// Hangs up a modem; nothing on a direct link.
     std::function<void()> disconnectLink;
     link::RunOutside run;
+    /// Asked when the sales are stored: the day that they are booked for.
+    std::function<QDate()> dayToBook = [] {
+        return QDate::currentDate();
+    };
 };
 
 /// What to do about sales of an earlier collection that are stored and not cleared at all registers.
@@ -50,6 +55,8 @@ public:
     bool collect(ClearFirst clearFirst = ClearFirst::Ask);
     /// What a complete run has stored: "3,776 rows of sales stored, 12 s". Empty for any other.
     [[nodiscard]] const QString& resultInWords() const { return m_result; }
+    /// The day that the sales were booked for; invalid if none were stored.
+    [[nodiscard]] QDate bookedDay() const { return m_isStored ? m_bookedDay : QDate(); }
     /// Where and why any other has stopped.
     [[nodiscard]] const QString& stopInWords() const { return m_stopped; }
 
@@ -92,6 +99,7 @@ private:
     QList<Task> m_tasks;           ///< those that are left, the next one first
     bool m_stepIsComplete = false; ///< the last step's tool wrote what it has to
     bool m_isStored = false;
+    QDate m_bookedDay;
     qint64 m_rowsStored = 0;
     QString m_result;  ///< of a complete run
     QString m_stopped; ///< of any other

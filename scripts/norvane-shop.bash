@@ -33,10 +33,14 @@ _norvane_shop()
         mapfile -t choices < <("$1" --help 2>/dev/null | sed -n 's/^norvane-shop \([a-z-]*\).*/\1/p')
     elif [ "$before" = --vanished ]; then
         choices=(keep remove)
+    elif [[ $before = --to && ${COMP_WORDS[1]} = copy || $before = --copies || $before = --reports || $before = --html ||
+        ${COMP_WORDS[1]} = verify && ${word#-} = "$word" ]]; then
+        choices=() # a file or folder
     elif [ "$before" = --separator ]; then
         choices=(comma semicolon tab)
-    elif [[ $before = --on || $before = --show || $before = --cancel || $before = --plan-again ]]; then
-        choices=() # a day, the number of a list
+    elif [[ $before = --on || $before = --show || $before = --cancel || $before = --plan-again ||
+        $before = --day || $before = --wait || $before = --retry || $before = --every ]]; then
+        choices=() # a day, a time, the number of a list
     elif [ "${COMP_WORDS[1]}" = table ] && [ "$COMP_CWORD" -eq 3 ]; then
         mapfile -t choices < <("$1" tables 2>/dev/null | sed -e 1d -e 's/ .*//')
     elif [ "${COMP_WORDS[1]}" = compare ] && [ "$COMP_CWORD" -ge 3 ] && [ "${word#-}" = "$word" ]; then
@@ -45,7 +49,7 @@ _norvane_shop()
         choices=(export import)
     elif [ "${word#-}" = "$word" ] && case $before:${COMP_WORDS[1]} in
             new:new) false ;; # a name that does not exist yet
-            --like:* | *:publish | *:copy-programme | *:planned | *:apply-planned) true ;;
+            --like:* | *:publish | *:night | *:copy | *:copy-programme | *:planned | *:apply-planned) true ;;
             *) [ "$COMP_CWORD" -eq 2 ] ;;
         esac; then
         mapfile -t choices < <(_norvane_shop_customers "$1")

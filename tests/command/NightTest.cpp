@@ -1,0 +1,290 @@
+// Nights of several shops with registers of their own: one is dead, one locked, one damaged, midnight comes in
+// between, the night is killed and repeated.
+#include "command/NightRun.h"
+#include "command/TerminalBoxes.h"
+#include "platform/FolderLock.h"
+#include "platform/ProfileFile.h"
+#include "tests/command/CommandTest.h"
+#include "tests/store/Rows.h"
+#include "tests/support/OtherPrograms.h"
+#include "tests/support/RecordingBoxes.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <map>
+
+namespace norvane::test
+{
+namespace
+{
+
+/// The speed of a shop's line leads the transfer tool to a bank of its own.
+constexpr auto speeds = std::to_array({"1200", "2400", "9600", "19200"});
+
+constexpr auto toOwnBank = R"sh(case $1 in s2) r=1200 ;; s4) r=2400 ;; s9) r=9600 ;; s1) r=19200 ;; *) r=$1 ;; esac
+printf '[Bank]\r\nFolder=../registers-%s\r\n' "$r" > registers.ini
+if [ -f midnight-at ] && case "$*" in *"$(cat midnight-at)"*) true ;; *) false ;; esac; then touch midnight; fi
+if [ -f kill ] && read -r when what < kill && case " $*" in *"$what"*) true ;; *) false ;; esac; then
+    rm kill
+    [ "$when" = before ] || "$0.real" "$@"
+    kill -9 $PPID
+    exit 1
+fi)sh";
+
+class NightOfShops : public CommandTest
+{
+protected:
+    NightOfShops() { m_folder.precede("VELMARCOMM", toOwnBank); }
+
+    void makeShop(const QString& name)
+    {
+        const auto line = m_shops.size();
+        m_shops[name] = m_folder.makeCustomer(name);
+        m_lines[name] = QString::fromLatin1(speeds.at(line));
+        ProfileFile::write(joinPath(m_shops[name].customerPath, u"setup.ini"_s), u"SetupOption"_s, u"Baud"_s,
+                           QString::number(line));
+        EXPECT_EQ(QProcess::execute(u"cp"_s, {u"-r"_s, m_folder.bankPath(), bankOf(name)}), 0);
+    }
+    [[nodiscard]] QString bankOf(const QString& shop) const
+    {
+        return m_folder.bankPath() + u'-' + m_lines.at(shop);
+    }
+    /// @return the takings as the register prints them.
+    double ring(const QString& shop, int seed = 5) const
+    {
+        const QByteArray said = outputOf(QString::fromUtf8(RINGSALES_TOOL),
+                                         {bankOf(shop), u"--seed"_s, QString::number(seed)});
+        double takings = 0;
+        for (const QByteArray& line : said.split('\n'))
+            takings += line.mid(line.lastIndexOf(' ') + 1).toDouble() * (line.contains("net sales") ? 1 : 0);
+        return takings;
+    }
+    void setFaults(const QString& shop, const QByteArray& sections) const
+    {
+        writeWholeFile(joinPath(bankOf(shop), u"faults.ini"_s), sections);
+    }
+    void writeApp(const QString& name, const QByteArray& text) const
+    {
+        writeWholeFile(m_folder.appFile(name), text);
+    }
+    /// "30/11/2026|1234.5" for each day.
+    [[nodiscard]] std::string takings(const QString& shop) const
+    {
+        return rowsOf(m_shops.at(shop).databasePath,
+                      u"select SALESDATE, round(sum(VALUE), 2) from FINANCIALSALES where ID = 2 group by "
+                      "SALESDATE order by SALESDATE"_s);
+    }
+    [[nodiscard]] double total(const QString& shop) const
+    {
+        return QByteArray::fromStdString(rowsOf(m_shops.at(shop).databasePath,
+                                                u"select sum(VALUE) from FINANCIALSALES where ID = 2"_s))
+            .toDouble();
+    }
+    [[nodiscard]] QStringList reports() const
+    {
+        return QDir(m_folder.appFile(u"out"_s)).entryList(QDir::Files, QDir::Name);
+    }
+
+    std::map<QString, ApplicationValues> m_shops;
+    std::map<QString, QString> m_lines;
+};
+
+/// A night in this process, whose clock passes midnight when a tool's line says so.
+class NightAtMidnight : public NightOfShops
+{
+protected:
+    using ShopNight = command::ShopNight;
+    using NightOptions = command::NightOptions;
+
+    NightAtMidnight()
+    {
+        writeApp(u"reports.ini"_s, "[Daily]\nReport=finsales\nPeriod=day\nFormat=csv\nFolder=out\n"
+                                   "[Monthly]\nReport=finsales\nPeriod=month\nFormat=csv, xlsx\nFolder=out\n");
+    }
+    [[nodiscard]] QDateTime now() const
+    {
+        return pathExists(m_folder.appFile(u"midnight"_s)) ? QDateTime(QDate(2026, 12, 1), QTime(0, 5))
+                                                           : QDateTime(QDate(2026, 11, 30), QTime(23, 50));
+    }
+    std::map<QString, ShopNight> runAll(const NightOptions& options,
+                                        const std::function<void()>& betweenRounds = {}) const
+    {
+        command::TerminalBoxes boxes({});
+        const command::Workplace workplace{m_folder.appPath(), m_folder.appPath(), false, boxes, {}};
+        QStringList names;
+        for (const auto& [name, values] : m_shops)
+            names << name;
+        const command::NightClock clock{[this] { return now(); },
+                                        [&](auto) {
+                                            if (betweenRounds)
+                                                betweenRounds();
+                                        }};
+        std::vector<ShopNight> results;
+        command::runNight(workplace, names, options, clock, [](const auto&, bool) {}, results);
+        std::map<QString, ShopNight> byName;
+        for (const auto& result : results)
+            byName[result.shop] = result;
+        return byName;
+    }
+};
+
+TEST_F(NightAtMidnight, EachShopIsBookedAndReportedUnderTheDayOfItsOwnCollection)
+{
+    for (const auto& name : {u"ALE"_s, u"BAR"_s, u"CAFE"_s})
+        makeShop(name);
+    std::map<QString, QString> rung;
+    for (const auto& [name, values] : m_shops)
+        rung[name] = QString::number(ring(name));
+    setFaults(u"CAFE"_s, "[Off]\nCommand=consolidate\nResult=8\n");
+    // The collection of the second shop has begun when midnight comes.
+    writeApp(u"midnight-at"_s, "2400 F1 1T -P");
+    NightOptions options;
+    options.retries = 1;
+    const auto first = runAll(options, [this] { setFaults(u"CAFE"_s, {}); });
+    for (const auto& [name, day] :
+         {std::pair(u"ALE"_s, u"2026-11-30"_s), {u"BAR"_s, u"2026-12-01"_s}, {u"CAFE"_s, u"2026-12-01"_s}}) {
+        EXPECT_EQ(first.at(name).code(), command::ExitCode::Done) << first.at(name).inWords().toStdString();
+        const auto booked = QDate::fromString(day, Qt::ISODate).toString(u"dd/MM/yyyy|"_s) + rung[name];
+        EXPECT_EQ(takings(name), booked.toStdString());
+        EXPECT_EQ(first.at(name).day.toString(Qt::ISODate).toStdString(), day.toStdString());
+    }
+    const QStringList written{u"ALE Daily 2026-11-30.csv"_s, u"ALE Monthly 2026-11.csv"_s,
+                              u"ALE Monthly 2026-11.xlsx"_s, u"BAR Daily 2026-12-01.csv"_s,
+                              u"CAFE Daily 2026-12-01.csv"_s};
+    EXPECT_EQ(reports().join(u'\n').toStdString(), written.join(u'\n').toStdString());
+    EXPECT_TRUE(readWholeFile(m_folder.appFile(u"out/BAR Daily 2026-12-01.csv"_s)).contains(rung[u"BAR"_s].toLatin1()));
+
+    const std::string before = takings(u"ALE"_s) + takings(u"BAR"_s);
+    for (const QString& file : written)
+        EXPECT_TRUE(QFile::remove(m_folder.appFile(u"out/"_s + file)));
+    for (const auto& [name, again] : runAll({}))
+        EXPECT_TRUE(again.inWords().endsWith(u": nothing to do"_s)) << again.inWords().toStdString();
+    EXPECT_EQ(takings(u"ALE"_s) + takings(u"BAR"_s), before);
+    EXPECT_EQ(reports(), QStringList()) << "written once";
+}
+
+/// Sales of a shop that closes at three belong to the day before; a month that a missed timer left out is made
+/// up for by a later night, once.
+TEST_F(NightAtMidnight, ADayCanBeginLateAndMissedReportsAreMadeUpFor)
+{
+    makeShop(u"BAR"_s);
+    writeApp(u"BAR/night.ini"_s, "[Night]\nDayBegins=3:00\n");
+    writeApp(u"midnight"_s, {});
+    const double rung = ring(u"BAR"_s);
+    EXPECT_EQ(runAll({}).at(u"BAR"_s).day, QDate(2026, 11, 30));
+    EXPECT_EQ(reports().size(), 3) << reports().join(u' ').toStdString();
+    for (const char* const day : {"2026-09-30", "2026-10-02", "2026-11-28"}) {
+        execute(m_shops[u"BAR"_s].databasePath,
+                u"insert into FINANCIALSALES (ID, SALESDATE, QUANTITY, VALUE) values (2, '%1', 1, 10)"_s.arg(
+                    QLatin1StringView(day)));
+    }
+    const QString notes = m_folder.appFile(u"BAR/exchange.ini"_s);
+    ProfileFile::write(notes, u"Night"_s, u"Report month Monthly"_s, u"2026-08-31 0"_s);
+    ProfileFile::write(notes, u"Night"_s, u"Report day Daily"_s, u"2026-10-01 0"_s);
+    QDir(m_folder.appFile(u"out"_s)).removeRecursively();
+    EXPECT_EQ(runAll({}).at(u"BAR"_s).steps.at(3).words, u"9 reports written"_s);
+    EXPECT_EQ(reports().filter(u"csv"_s),
+              (QStringList{u"BAR Daily 2026-10-02.csv"_s, u"BAR Daily 2026-11-28.csv"_s,
+                           u"BAR Daily 2026-11-30.csv"_s, u"BAR Monthly 2026-09.csv"_s,
+                           u"BAR Monthly 2026-10.csv"_s, u"BAR Monthly 2026-11.csv"_s}));
+    const QByteArray month = readWholeFile(m_folder.appFile(u"out/BAR Monthly 2026-11.csv"_s));
+    EXPECT_TRUE(month.contains(QByteArray::number(rung + 10, 'f', 2))) << month.toStdString();
+}
+
+TEST_F(NightOfShops, WhatCannotBeDoneIsInSummaryAndExitCodeAndStopsNothingElse)
+{
+    for (const auto& name : {u"ALE"_s, u"BAR"_s, u"CAFE"_s, u"DELI"_s})
+        makeShop(name);
+    (void)m_folder.makeCustomer(u"LOST"_s);
+    EXPECT_TRUE(QFile::remove(m_folder.appFile(u"LOST/velmar.mdb"_s)));
+    const double rung = ring(u"DELI"_s);
+    writeApp(u"ALE/velmar.mdb"_s, QByteArray(8192, 'x'));
+    setFaults(u"BAR"_s, "[Off]\nCommand=consolidate\nResult=8\n");
+    writeApp(u"reports.ini"_s, "[Daily]\nReport=finsales\nPeriod=day\nFormat=csv\nFolder=out\n"
+                               "[Bad]\nReport=finsales\nPeroid=day\nFormat=doc\n");
+    RecordingBoxes boxes;
+    auto lock = FolderLock::take(m_shops[u"CAFE"_s].customerPath, boxes);
+    QProcess script;
+    script.start(u"sh"_s, {u"-c"_s,
+                           u"\"$0\" night --json --html night.html --folder \"$1\"; echo $?; cat"_s,
+                           QString::fromUtf8(COMMAND), m_folder.appPath()});
+    script.write("the rest of a list");
+    script.closeWriteChannel();
+    EXPECT_TRUE(script.waitForFinished(-1));
+    QByteArray out = script.readAllStandardOutput();
+    EXPECT_TRUE(out.endsWith("8\nthe rest of a list")) << out.toStdString();
+    out.truncate(out.lastIndexOf(']') + 1);
+    std::map<QString, QJsonObject> rows;
+    for (const QJsonValue row : QJsonDocument::fromJson(out).array())
+        rows[row[u"shop"_s].toString()] = row.toObject();
+    ASSERT_EQ(rows.size(), 5U) << out.toStdString();
+    for (const auto& [name, code] :
+         {std::pair(u"ALE"_s, 8), {u"BAR"_s, 9}, {u"CAFE"_s, 9}, {u"DELI"_s, 9}, {u"LOST"_s, 3}})
+        EXPECT_EQ(rows[name][u"code"_s].toInt(), code) << name.toStdString();
+    EXPECT_EQ(rows[u"BAR"_s][u"leftToDo"_s], u"settings, sales"_s);
+    EXPECT_EQ(rows[u"CAFE"_s][u"leftToDo"_s], u"settings, sales"_s);
+    EXPECT_EQ(rows[u"DELI"_s][u"leftToDo"_s], u"settings"_s);
+    EXPECT_EQ(rows[u"DELI"_s][u"settings"_s].toString(),
+              u"reports.ini, line 8: There is no key \"Peroid\". There are: Report, Period, Format, Folder, "
+              "Compare.\nreports.ini, line 9: Format is \"doc\"; expected is pdf, csv or xlsx, or several "
+              "with commas between."_s);
+    EXPECT_DOUBLE_EQ(total(u"DELI"_s), rung);
+    EXPECT_EQ(reports().size(), 1);
+    const QByteArray page = readWholeFile(m_folder.appFile(u"night.html"_s));
+    EXPECT_TRUE(page.contains("0 of 5 shops are complete, 5 left.")) << page.toStdString();
+    EXPECT_TRUE(page.contains("&quot;Peroid&quot;"));
+
+    // A lock that is given back in time is waited for.
+    writeApp(u"reports.ini"_s, {});
+    QProcess waiting;
+    waiting.start(QString::fromUtf8(COMMAND),
+                  {u"night"_s, u"cafe"_s, u"CAFE"_s, u"--wait"_s, u"1m"_s, u"--folder"_s, m_folder.appPath()});
+    EXPECT_FALSE(waiting.waitForFinished(1500));
+    lock.reset();
+    EXPECT_TRUE(waiting.waitForFinished(-1));
+    EXPECT_EQ(waiting.exitCode(), 0) << waiting.readAllStandardError().toStdString();
+    EXPECT_EQ(waiting.readAllStandardOutput().count("CAFE: "), 1);
+}
+
+/// Each moment: a day is rung, the night dies there, and the next one makes up for it.
+TEST_F(NightOfShops, AKilledNightLosesNothingAndCountsNothingTwice)
+{
+    makeShop(u"ALE"_s);
+    double rung = 0;
+    int seed = 0;
+    for (const char* const moment :
+         {"before -U 52", "after -U 250", "before -Z", "after -Z", "before -P", "after -P", "before -C", "after -C"}) {
+        rung += ring(u"ALE"_s, ++seed);
+        writeApp(u"kill"_s, moment + QByteArray("\n"));
+        EXPECT_EQ(run({u"night"_s, u"--again"_s}).code, 9) << moment << " (the signal)";
+        EXPECT_FALSE(pathExists(m_folder.appFile(u"kill"_s)));
+        const Ended again = run({u"night"_s, u"--again"_s});
+        EXPECT_EQ(again.code, 0) << moment << ' ' << again.err.toStdString();
+        EXPECT_EQ(qRound(total(u"ALE"_s) * 100), qRound(rung * 100)) << moment;
+    }
+    EXPECT_EQ(run({u"night"_s}).out, u"ALE: nothing to do\n1 of 1 shops are complete.\n"_s);
+}
+
+TEST_F(NightOfShops, SalesCanBeBookedForADayBefore)
+{
+    makeShop(u"ALE"_s);
+    ring(u"ALE"_s);
+    const QDate today = QDate::currentDate();
+    const auto collect = [this](const QDate& day) {
+        return run({u"collect"_s, u"ALE"_s, u"--day"_s, day.toString(Qt::ISODate)});
+    };
+    EXPECT_EQ(collect(today.addDays(1)).code, 2);
+    EXPECT_EQ(collect(today.addDays(-8)).code, 2);
+    EXPECT_EQ(takings(u"ALE"_s), "");
+    EXPECT_EQ(collect(today.addDays(-1)).code, 0);
+    EXPECT_TRUE(takings(u"ALE"_s).starts_with(today.addDays(-1).toString(u"dd/MM/yyyy|"_s).toStdString()))
+        << takings(u"ALE"_s);
+    for (const char* const words : {"--wait 5", "--retry x", "--every", "--day 2020-01-01"})
+        EXPECT_EQ(run(QStringList{u"night"_s} + QString::fromLatin1(words).split(u' ')).code, 2) << words;
+}
+
+} // namespace
+} // namespace norvane::test
