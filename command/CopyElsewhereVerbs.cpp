@@ -20,8 +20,7 @@ namespace
 class CopyRun
 {
 public:
-    CopyRun(const Workplace& workplace, QString folder)
-        : m_workplace(workplace), m_folder(std::move(folder))
+    CopyRun(const Workplace& workplace, QString folder) : m_workplace(workplace), m_folder(std::move(folder))
     {
     }
 
@@ -56,8 +55,7 @@ private:
             throw CommandError(codeOfRefusedLock({values.customerPath}), u"not copied."_s);
         const auto made = customers::makeCopyElsewhere(values.customerPath, m_folder,
                                                        QDateTime::currentDateTime(), stopIfSignalled);
-        m_listing.add(
-            {QFileInfo(values.customerPath).fileName(), made.path, QFileInfo(made.path).size()});
+        m_listing.add({QFileInfo(values.customerPath).fileName(), made.path, QFileInfo(made.path).size()});
     }
     void note(const QString& name, ExitCode code, const QString& text)
     {

@@ -22,14 +22,14 @@ struct NightOptions {
     std::chrono::seconds waitForLock{0};
     int retries = 0;
     std::chrono::seconds betweenRetries{0};
-    QDate day; ///< to book sales for; invalid for that of each collection
+    QDate day;          ///< to book sales for; invalid for that of each collection
     bool again = false; ///< collect and copy also where this night has done so already
 };
 
 /// What came of a step at one shop.
 struct NightEnd {
     ExitCode code = ExitCode::Done;
-    QString words; ///< what was done, or what went wrong; empty when there was nothing to do
+    QString words;         ///< what was done, or what went wrong; empty when there was nothing to do
     bool mayRetry = false; ///< a later attempt can go better
 
     [[nodiscard]] bool isDone() const { return code == ExitCode::Done; }

@@ -21,14 +21,19 @@ bool isOfServer(ExitCode code)
     return code == ExitCode::NoServer || code == ExitCode::ConnectionLost;
 }
 
+/// A vanished or unsound day is left to do, whatever else was published.
 NightEnd endOf(const chain::Published& published, const QString& name)
 {
+    QStringList left = published.unsound;
     if (!published.vanished.isEmpty() || !published.vanishedNames.isEmpty())
-        return {ExitCode::Vanished, vanishedText(name, published), false};
+        left << vanishedText(name, published);
+    if (!left.isEmpty())
+        return {published.unsound.isEmpty() ? ExitCode::Vanished : ExitCode::Unsound, left.join(u'\n'),
+                false};
     if (published.days == 0)
         return {};
-    return {ExitCode::Done, published.days == 1 ? u"1 day published"_s : u"%1 days published"_s.arg(published.days),
-            false};
+    return {ExitCode::Done,
+            published.days == 1 ? u"1 day published"_s : u"%1 days published"_s.arg(published.days), false};
 }
 
 } // namespace
@@ -53,7 +58,9 @@ NightEnd NightChain::publish(const ApplicationValues& values)
         customers::LoggedWork work(values.customerPath, u"publication"_s);
         const auto published = work.during([&] {
             chain::PublishOptions options;
-            options.step = [](const QString& /*text*/) { stopIfSignalled(); };
+            options.step = [](const QString& /*text*/) {
+                stopIfSignalled();
+            };
             return chain::publishShop(server, {name, values.customerPath, values.databasePath}, options);
         });
         work.setResult(u"%1 days, %2 rows"_s.arg(published.days).arg(published.rows));

@@ -26,7 +26,9 @@ inline void sleepUnlessStopped(std::chrono::milliseconds left)
 
 /// A test sets another, to let midnight come between two shops.
 struct NightClock {
-    std::function<QDateTime()> now = [] { return QDateTime::currentDateTime(); };
+    std::function<QDateTime()> now = [] {
+        return QDateTime::currentDateTime();
+    };
     std::function<void(std::chrono::milliseconds)> sleep = sleepUnlessStopped;
 };
 

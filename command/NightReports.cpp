@@ -39,7 +39,8 @@ class WrittenNote
 public:
     WrittenNote(const ApplicationValues& values, const NightReport& report)
         : m_values(values),
-          m_key(QUrl::toPercentEncoding(u"Report %1 %2"_s.arg(report.period->word, report.section), " ").trimmed())
+          m_key(QUrl::toPercentEncoding(u"Report %1 %2"_s.arg(report.period->word, report.section), " ")
+                    .trimmed())
     {
     }
     [[nodiscard]] Written read() const
@@ -107,8 +108,7 @@ QString layoutOf(const ApplicationValues& values, const QString& name)
         if (pathExists(path))
             return path;
     }
-    throw CommandError(ExitCode::NoSuchName,
-                       u"There is no report \"%1\" in %2."_s.arg(name, values.appPath));
+    throw CommandError(ExitCode::NoSuchName, u"There is no report \"%1\" in %2."_s.arg(name, values.appPath));
 }
 
 ReportSelection selectionOfClosed(const QString& path, const reports::Period& period)

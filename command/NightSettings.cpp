@@ -92,9 +92,8 @@ constexpr auto nightRules = std::to_array<SettingRule<NightSettings>>({
 /// Names of files on other systems have none of these, and notes no "=".
 bool canNameFiles(const QString& section)
 {
-    return !section.isEmpty() && std::ranges::none_of(section, [](QChar c) {
-        return c < u' ' || u"/\\:*?\"<>|="_s.contains(c);
-    });
+    return !section.isEmpty() &&
+           std::ranges::none_of(section, [](QChar c) { return c < u' ' || u"/\\:*?\"<>|="_s.contains(c); });
 }
 
 QString missingKey(const NightReport& report)
@@ -117,7 +116,8 @@ public:
     {
         m_report.section = heading.section;
         if (!canNameFiles(heading.section)) {
-            file.addMistake(heading.number, u"[%1] cannot be a part of a file's name."_s.arg(heading.section));
+            file.addMistake(heading.number,
+                            u"[%1] cannot be a part of a file's name."_s.arg(heading.section));
         }
     }
     void take(const SettingLine& line) { takeSetting<NightReport>(m_file, line, reportRules, m_report); }

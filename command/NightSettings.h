@@ -37,7 +37,7 @@ struct NightSettings {
     QTime dayBegins{0, 0};
     QString copies; ///< folder for copies elsewhere; empty for none
     std::vector<NightReport> reports;
-    QStringList mistakes; ///< with file, line and reason; a report with one is left out
+    QStringList mistakes;   ///< with file, line and reason; a report with one is left out
     bool isDayKnown = true; ///< false when night.ini has a mistake
 };
 [[nodiscard]] NightSettings readNightSettings(const QString& appPath, const QString& customerPath);

@@ -101,9 +101,12 @@ const std::array<NightShop::Step, nightStepNames.size()> NightShop::steps{
 
 NightShop::NightShop(const Workplace& workplace, QString name, const NightOptions& options,
                      const NightClock& clock, NightChain& chain)
-    : m_options(options), m_clock(clock), m_chain(chain), m_boxes(std::make_unique<Boxes>(m_said)),
-      m_workplace{workplace.appPath, workplace.startedIn, false, *m_boxes,
-                  [this](const QString& text) { m_said << text; }},
+    : m_options(options), m_clock(clock), m_chain(chain),
+      m_boxes(std::make_unique<Boxes>(m_said)), m_workplace{workplace.appPath, workplace.startedIn, false,
+                                                            *m_boxes,
+                                                            [this](const QString& text) {
+                                                                m_said << text;
+                                                            }},
       m_name(std::move(name)), m_result{m_name, {}, {}, {}}
 {
 }
@@ -225,8 +228,8 @@ NightEnd NightShop::collect()
     if (!m_settings.isDayKnown)
         return {ExitCode::BadFile, u"not collected: night.ini may say for which day"_s, false};
     const auto lock = waitFor([this] { return lockFor(m_workplace, m_values); });
-    const ExchangeEnd end = collectSales(m_workplace, m_values, sales::ClearFirst::Yes,
-                                         [this] { return dayToBook(); });
+    const ExchangeEnd end =
+        collectSales(m_workplace, m_values, sales::ClearFirst::Yes, [this] { return dayToBook(); });
     if (end.day.isValid())
         m_result.day = end.day;
     if (end.code != ExitCode::Done)
@@ -252,12 +255,8 @@ NightEnd NightShop::report()
     const NightDays days{lastClosedDay(), m_clock.now()};
     std::vector<NightReport> reports = m_settings.reports;
     if (!m_options.reports.isEmpty()) {
-        reports.push_back({{},
-                           u"plusales"_s,
-                           &nightPeriods().front(),
-                           {&fileFormats().front()},
-                           m_options.reports,
-                           {}});
+        reports.push_back(
+            {{}, u"plusales"_s, &nightPeriods().front(), {&fileFormats().front()}, m_options.reports, {}});
     }
     for (const NightReport& report : reports) {
         const NightEnd written = guarded([&] {
@@ -268,7 +267,8 @@ NightEnd NightShop::report()
             addFailure(end, written.code, written.words);
     }
     if (files > 0)
-        end.words = (files == 1 ? u"1 report written"_s : u"%1 reports written"_s.arg(files)) + (end.isDone() ? QString() : u"; "_s + end.words);
+        end.words = (files == 1 ? u"1 report written"_s : u"%1 reports written"_s.arg(files)) +
+                    (end.isDone() ? QString() : u"; "_s + end.words);
     return end;
 }
 

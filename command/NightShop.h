@@ -19,8 +19,8 @@ class FolderLock;
 namespace norvane::command
 {
 
-/// Does the steps of a night at one shop. Each can be done again and then does what is left, so that an attempt
-/// that was killed, or a second run of the same night, does nothing twice.
+/// Does the steps of a night at one shop. Each can be done again and then does what is left, so that an
+/// attempt that was killed, or a second run of the same night, does nothing twice.
 class NightShop
 {
 public:

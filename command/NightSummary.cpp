@@ -52,8 +52,7 @@ QString pageHeadings()
 
 qsizetype countLeft(const std::vector<ShopNight>& shops)
 {
-    return std::ranges::count_if(shops,
-                                 [](const ShopNight& shop) { return shop.code() != ExitCode::Done; });
+    return std::ranges::count_if(shops, [](const ShopNight& shop) { return shop.code() != ExitCode::Done; });
 }
 
 QString headline(const std::vector<ShopNight>& shops)
@@ -114,7 +113,7 @@ QByteArray nightPage(const std::vector<ShopNight>& shops, const QDateTime& begun
     const auto moment = u"yyyy-MM-dd HH:mm"_s;
     QString page = QString(pageHead).arg(u"Night of %1"_s.arg(begun.toString(u"yyyy-MM-dd"_s)));
     page += u"<p>%1 From %2 to %3.</p>\n<table>\n"_s.arg(headline(shops), begun.toString(moment),
-                                                        ended.toString(moment));
+                                                         ended.toString(moment));
     page += pageHeadings();
     for (const ShopNight& shop : shops)
         page += pageRow(shop);

@@ -47,9 +47,9 @@ int countOf(const Invocation& words, QLatin1StringView option)
     bool isNumber = false;
     const int count = words.value(option).toInt(&isNumber);
     if (!isNumber || count < 0 || count > most) {
-        throw CommandError(ExitCode::Usage, u"--%1 needs a number from 0 to %2, not \"%3\"."_s.arg(option)
-                                                .arg(most)
-                                                .arg(words.value(option)));
+        throw CommandError(ExitCode::Usage,
+                           u"--%1 needs a number from 0 to %2, not \"%3\"."_s.arg(option).arg(most).arg(
+                               words.value(option)));
     }
     return count;
 }
@@ -111,7 +111,9 @@ Listing listingOf(const std::vector<ShopNight>& shops)
 class NightShown
 {
 public:
-    NightShown(const Workplace& workplace, const Invocation& words) : m_workplace(workplace), m_words(words) {}
+    NightShown(const Workplace& workplace, const Invocation& words) : m_workplace(workplace), m_words(words)
+    {
+    }
 
     void showShop(const ShopNight& shop, bool isLast) const
     {
@@ -174,8 +176,8 @@ void night(const Workplace& workplace, const Invocation& words)
         throw;
     }
     shown.showAll(results);
-    const auto left = std::ranges::find_if(
-        results, [](const ShopNight& shop) { return shop.code() != ExitCode::Done; });
+    const auto left =
+        std::ranges::find_if(results, [](const ShopNight& shop) { return shop.code() != ExitCode::Done; });
     if (left != results.end())
         throw CommandError(left->code(), {});
 }

@@ -52,8 +52,9 @@ void takeSetting(SettingsFile& file, const SettingLine& line, std::span<const Se
         if (line.key.compare(rule.key, Qt::CaseInsensitive) != 0)
             continue;
         if (!rule.take(line.value, target)) {
-            file.addMistake(line.number, QStringLiteral("%1 is \"%2\"; expected is %3.")
-                                             .arg(rule.key, line.value, rule.expected));
+            file.addMistake(
+                line.number,
+                QStringLiteral("%1 is \"%2\"; expected is %3.").arg(rule.key, line.value, rule.expected));
         }
         return;
     }

@@ -33,8 +33,8 @@ namespace
 const auto copyNameFormat = u"yyyy-MM-dd HH.mm.ss"_s;
 const auto copySuffix = u".zip"_s;
 
-/// Of the customer's own folder: the database is copied as of one moment, and what is noted about the registers
-/// is true of today only.
+/// Of the customer's own folder: the database is copied as of one moment, and what is noted about the
+/// registers is true of today only.
 const QStringList& leftOutFiles()
 {
     static const QStringList patterns{u"velmar.*"_s, u"norvane.lock"_s, u"norvane.sent"_s, runNotesName()};
@@ -114,9 +114,18 @@ struct KeptSpan {
     QString (*span)(QDate day);
 };
 constexpr auto keptSpans = std::to_array<KeptSpan>({
-    {&CopyRule::days, [](QDate day) { return day.toString(Qt::ISODate); }},
-    {&CopyRule::weeks, [](QDate day) { return day.addDays(1 - day.dayOfWeek()).toString(Qt::ISODate); }},
-    {&CopyRule::months, [](QDate day) { return day.toString(u"yyyy-MM"_s); }},
+    {&CopyRule::days,
+     [](QDate day) {
+         return day.toString(Qt::ISODate);
+     }},
+    {&CopyRule::weeks,
+     [](QDate day) {
+         return day.addDays(1 - day.dayOfWeek()).toString(Qt::ISODate);
+     }},
+    {&CopyRule::months,
+     [](QDate day) {
+         return day.toString(u"yyyy-MM"_s);
+     }},
 });
 
 /// The latest copy of each of the last spans.

@@ -46,7 +46,7 @@ zip_fileinfo detailsOf(const QString& path)
         return static_cast<uInt>(number);
     };
     zip_fileinfo details{};
-    details.tmz_date = {plain(time.second()), plain(time.minute()),    plain(time.hour()),
+    details.tmz_date = {plain(time.second()), plain(time.minute()),   plain(time.hour()),
                         plain(day.day()),     plain(day.month() - 1), plain(day.year())};
     return details;
 }

@@ -35,8 +35,9 @@ public:
 
     /// Names of the files.
     [[nodiscard]] const QStringList& names() const { return m_names; }
-    /// Reads a file of the archive to its end and compares its sum. Its content goes to @p path unless this is
-    /// empty. @throws RuntimeFailure with Failure::NotOurDatabase for damaged content, and what writing throws.
+    /// Reads a file of the archive to its end and compares its sum. Its content goes to @p path unless this
+    /// is empty. @throws RuntimeFailure with Failure::NotOurDatabase for damaged content, and what writing
+    /// throws.
     void unpack(const QString& name, const QString& path, const std::function<void()>& goOn);
 
 private:

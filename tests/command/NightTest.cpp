@@ -1,5 +1,5 @@
-// Nights of several shops with registers of their own: one is dead, one locked, one damaged, midnight comes in
-// between, the night is killed and repeated.
+// Nights of several shops with registers of their own: one is dead, one locked, one damaged, midnight comes
+// in between, the night is killed and repeated.
 #include "command/NightRun.h"
 #include "command/TerminalBoxes.h"
 #include "platform/FolderLock.h"
@@ -24,7 +24,8 @@ namespace
 /// The speed of a shop's line leads the transfer tool to a bank of its own.
 constexpr auto speeds = std::to_array({"1200", "2400", "9600", "19200"});
 
-constexpr auto toOwnBank = R"sh(case $1 in s2) r=1200 ;; s4) r=2400 ;; s9) r=9600 ;; s1) r=19200 ;; *) r=$1 ;; esac
+constexpr auto toOwnBank =
+    R"sh(case $1 in s2) r=1200 ;; s4) r=2400 ;; s9) r=9600 ;; s1) r=19200 ;; *) r=$1 ;; esac
 printf '[Bank]\r\nFolder=../registers-%s\r\n' "$r" > registers.ini
 if [ -f midnight-at ] && case "$*" in *"$(cat midnight-at)"*) true ;; *) false ;; esac; then touch midnight; fi
 if [ -f kill ] && read -r when what < kill && case " $*" in *"$what"*) true ;; *) false ;; esac; then
@@ -55,8 +56,8 @@ protected:
     /// @return the takings as the register prints them.
     double ring(const QString& shop, int seed = 5) const
     {
-        const QByteArray said = outputOf(QString::fromUtf8(RINGSALES_TOOL),
-                                         {bankOf(shop), u"--seed"_s, QString::number(seed)});
+        const QByteArray said =
+            outputOf(QString::fromUtf8(RINGSALES_TOOL), {bankOf(shop), u"--seed"_s, QString::number(seed)});
         double takings = 0;
         for (const QByteArray& line : said.split('\n'))
             takings += line.mid(line.lastIndexOf(' ') + 1).toDouble() * (line.contains("net sales") ? 1 : 0);
@@ -101,8 +102,9 @@ protected:
 
     NightAtMidnight()
     {
-        writeApp(u"reports.ini"_s, "[Daily]\nReport=finsales\nPeriod=day\nFormat=csv\nFolder=out\n"
-                                   "[Monthly]\nReport=finsales\nPeriod=month\nFormat=csv, xlsx\nFolder=out\n");
+        writeApp(u"reports.ini"_s,
+                 "[Daily]\nReport=finsales\nPeriod=day\nFormat=csv\nFolder=out\n"
+                 "[Monthly]\nReport=finsales\nPeriod=month\nFormat=csv, xlsx\nFolder=out\n");
     }
     [[nodiscard]] QDateTime now() const
     {
@@ -123,7 +125,8 @@ protected:
                                                 betweenRounds();
                                         }};
         std::vector<ShopNight> results;
-        command::runNight(workplace, names, options, clock, [](const auto&, bool) {}, results);
+        command::runNight(
+            workplace, names, options, clock, [](const auto&, bool) {}, results);
         std::map<QString, ShopNight> byName;
         for (const auto& result : results)
             byName[result.shop] = result;
@@ -155,7 +158,8 @@ TEST_F(NightAtMidnight, EachShopIsBookedAndReportedUnderTheDayOfItsOwnCollection
                               u"ALE Monthly 2026-11.xlsx"_s, u"BAR Daily 2026-12-01.csv"_s,
                               u"CAFE Daily 2026-12-01.csv"_s};
     EXPECT_EQ(reports().join(u'\n').toStdString(), written.join(u'\n').toStdString());
-    EXPECT_TRUE(readWholeFile(m_folder.appFile(u"out/BAR Daily 2026-12-01.csv"_s)).contains(rung[u"BAR"_s].toLatin1()));
+    EXPECT_TRUE(readWholeFile(m_folder.appFile(u"out/BAR Daily 2026-12-01.csv"_s))
+                    .contains(rung[u"BAR"_s].toLatin1()));
 
     const std::string before = takings(u"ALE"_s) + takings(u"BAR"_s);
     for (const QString& file : written)
@@ -166,8 +170,8 @@ TEST_F(NightAtMidnight, EachShopIsBookedAndReportedUnderTheDayOfItsOwnCollection
     EXPECT_EQ(reports(), QStringList()) << "written once";
 }
 
-/// Sales of a shop that closes at three belong to the day before; a month that a missed timer left out is made
-/// up for by a later night, once.
+/// Sales of a shop that closes at three belong to the day before; a month that a missed timer left out is
+/// made up for by a later night, once.
 TEST_F(NightAtMidnight, ADayCanBeginLateAndMissedReportsAreMadeUpFor)
 {
     makeShop(u"BAR"_s);
@@ -208,8 +212,7 @@ TEST_F(NightOfShops, WhatCannotBeDoneIsInSummaryAndExitCodeAndStopsNothingElse)
     RecordingBoxes boxes;
     auto lock = FolderLock::take(m_shops[u"CAFE"_s].customerPath, boxes);
     QProcess script;
-    script.start(u"sh"_s, {u"-c"_s,
-                           u"\"$0\" night --json --html night.html --folder \"$1\"; echo $?; cat"_s,
+    script.start(u"sh"_s, {u"-c"_s, u"\"$0\" night --json --html night.html --folder \"$1\"; echo $?; cat"_s,
                            QString::fromUtf8(COMMAND), m_folder.appPath()});
     script.write("the rest of a list");
     script.closeWriteChannel();
@@ -240,8 +243,8 @@ TEST_F(NightOfShops, WhatCannotBeDoneIsInSummaryAndExitCodeAndStopsNothingElse)
     // A lock that is given back in time is waited for.
     writeApp(u"reports.ini"_s, {});
     QProcess waiting;
-    waiting.start(QString::fromUtf8(COMMAND),
-                  {u"night"_s, u"cafe"_s, u"CAFE"_s, u"--wait"_s, u"1m"_s, u"--folder"_s, m_folder.appPath()});
+    waiting.start(QString::fromUtf8(COMMAND), {u"night"_s, u"cafe"_s, u"CAFE"_s, u"--wait"_s, u"1m"_s,
+                                               u"--folder"_s, m_folder.appPath()});
     EXPECT_FALSE(waiting.waitForFinished(1500));
     lock.reset();
     EXPECT_TRUE(waiting.waitForFinished(-1));
@@ -255,8 +258,8 @@ TEST_F(NightOfShops, AKilledNightLosesNothingAndCountsNothingTwice)
     makeShop(u"ALE"_s);
     double rung = 0;
     int seed = 0;
-    for (const char* const moment :
-         {"before -U 52", "after -U 250", "before -Z", "after -Z", "before -P", "after -P", "before -C", "after -C"}) {
+    for (const char* const moment : {"before -U 52", "after -U 250", "before -Z", "after -Z", "before -P",
+                                     "after -P", "before -C", "after -C"}) {
         rung += ring(u"ALE"_s, ++seed);
         writeApp(u"kill"_s, moment + QByteArray("\n"));
         EXPECT_EQ(run({u"night"_s, u"--again"_s}).code, 9) << moment << " (the signal)";

@@ -53,7 +53,8 @@ protected:
         return m_folder.path(("app/" + QByteArray(name)).constData());
     }
 
-    static inline const GoOn goOn = [] {};
+    static inline const GoOn goOn = [] {
+    };
 };
 
 TEST_F(CopiesElsewhereTest, ANewCustomerIsMadeFromACopyCompletely)
@@ -134,7 +135,8 @@ TEST_F(CopiesElsewhereTest, WithoutRoomOrDiskOrSoundDatabaseNothingIsLeft)
                                          }),
                  RuntimeFailure);
     EXPECT_EQ(copiesElsewhere(elsewhere(), u"Cafe"_s).size(), 0);
-    EXPECT_EQ(QDir(elsewhere() + u"/Cafe"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    EXPECT_EQ(QDir(elsewhere() + u"/Cafe"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList());
 }
 
 /// Two copies each day of two years: of the last days, weeks and months the latest remain.
@@ -143,7 +145,8 @@ TEST(CopyRule, KeepsTheLatestOfSevenDaysFourWeeksAndTwelveMonths)
     QList<CopyElsewhere> copies;
     for (QDate day(2025, 1, 1); day <= QDate(2026, 11, 26); day = day.addDays(1)) {
         for (const int hour : {5, 23})
-            copies.prepend({day.toString(Qt::ISODate) + u' ' + QString::number(hour), {day, QTime(hour, 30)}});
+            copies.prepend(
+                {day.toString(Qt::ISODate) + u' ' + QString::number(hour), {day, QTime(hour, 30)}});
     }
     QStringList kept;
     for (const auto& copy : copies)
