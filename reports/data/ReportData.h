@@ -66,6 +66,8 @@ struct PageSetup {
     bool mayTurn = false;     ///< an upright sheet is turned where the columns do not fit side by side
 };
 
+struct ReportBlock;
+
 /// The lines of a report. They are added in their order; lines and columns count from 0. A list can have a
 /// hundred thousand lines, so a cell takes at most nine bytes and its text.
 class ReportData
@@ -74,7 +76,8 @@ public:
     ReportHeading heading;
     PageSetup page;
     std::vector<Chart> charts;
-    std::optional<ReportLink> link; ///< of the lines that have a value for it
+    std::optional<ReportLink> link;  ///< of the lines that have a value for it
+    std::vector<ReportBlock> blocks; ///< of a summary: its lines are those of the blocks, each as a group
 
     explicit ReportData(std::vector<ReportColumn> columns = {});
 
@@ -113,6 +116,26 @@ private:
     std::vector<std::optional<QString>> m_linkValues; ///< up to the last line that has one
     std::vector<Cells> m_cells;
     std::string m_texts; ///< of all cells, one after the other, in UTF-8
+};
+
+/// What a block of a summary looks like.
+enum class BlockKind {
+    Figure, ///< one large number
+    Table,
+    HeatMap, ///< a table whose numbers are the darker the larger they are
+    Days     ///< a text with the days that have no collection
+};
+
+/// Where a block is on the page. Figures are side by side above all others.
+enum class BlockPlace { Left, Right, Wide };
+
+/// A block of a summary. Its table has the name of each line in its first column and numbers in all others.
+struct ReportBlock {
+    QString title;
+    BlockKind kind = BlockKind::Table;
+    BlockPlace place = BlockPlace::Left;
+    ReportData table;        ///< what the page shows
+    qsizetype firstLine = 0; ///< the line of the summary with the title; the lines of the table follow it
 };
 
 } // namespace norvane::reports

@@ -119,16 +119,6 @@ Decimal negative(const Decimal& number)
     return {-number.coefficient(), number.scale()};
 }
 
-ReportCell percentOf(const Decimal& change, const Decimal& before)
-{
-    constexpr int significant = 12;
-    constexpr int hundred = 2;
-    if (before.coefficient() == 0)
-        return u"–"_s;
-    const Decimal whole = before.coefficient() < 0 ? negative(before) : before;
-    return change.dividedBy(whole, significant).shifted(hundred);
-}
-
 class Merge
 {
 public:
@@ -206,7 +196,7 @@ private:
         }
         const Decimal change = number->plus(negative(*other));
         cells.emplace_back(change);
-        cells.push_back(percentOf(change, *other));
+        cells.push_back(changePercent(change, *other));
     }
 
     const ComparedLines& m_now;
@@ -217,6 +207,16 @@ private:
 };
 
 } // namespace
+
+ReportCell changePercent(const Decimal& change, const Decimal& before)
+{
+    constexpr int significant = 12;
+    constexpr int hundred = 2;
+    if (before.coefficient() == 0)
+        return u"–"_s;
+    const Decimal whole = before.coefficient() < 0 ? negative(before) : before;
+    return change.dividedBy(whole, significant).shifted(hundred);
+}
 
 ReportData comparedReport(const ReportData& now, const ReportData& before)
 {

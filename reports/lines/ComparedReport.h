@@ -12,4 +12,7 @@ namespace norvane::reports
 /// columns are left out. Heading, page and charts are those of @p now.
 [[nodiscard]] ReportData comparedReport(const ReportData& now, const ReportData& before);
 
+/// The change in per cent, a dash where @p before is zero.
+[[nodiscard]] ReportCell changePercent(const Decimal& change, const Decimal& before);
+
 } // namespace norvane::reports

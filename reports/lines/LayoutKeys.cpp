@@ -2,6 +2,7 @@
 #include "reports/lines/LayoutKeys.h"
 
 #include "reports/formula/SelectionFormula.h"
+#include "reports/lines/LayoutValues.h"
 #include "reports/lines/TemplateParser.h"
 #include "store/catalogue/Catalogue.h"
 
@@ -14,25 +15,6 @@ namespace norvane::reports
 {
 namespace
 {
-
-bool takeYesNo(const QString& value, bool& flag)
-{
-    flag = value.compare("YES"_L1, Qt::CaseInsensitive) == 0;
-    return flag || value.compare("NO"_L1, Qt::CaseInsensitive) == 0;
-}
-
-template <typename Choice, std::size_t count>
-bool takeChoice(const QString& value, const std::array<std::pair<QLatin1String, Choice>, count>& choices,
-                Choice& choice)
-{
-    for (const auto& [name, meaning] : choices) {
-        if (value.compare(name, Qt::CaseInsensitive) == 0) {
-            choice = meaning;
-            return true;
-        }
-    }
-    return false;
-}
 
 constexpr std::array<std::pair<QLatin1String, Orientation>, 3> orientations{
     {{"Automatic"_L1, Orientation::Automatic},

@@ -15,6 +15,7 @@ struct LayoutTarget {
     Join* join = nullptr;
     ColumnLayout* column = nullptr;
     ChartLayout* chart = nullptr;
+    BlockLayout* block = nullptr;
 
     [[nodiscard]] const store::TableDefinition* table() const { return layout.source.table; }
     [[nodiscard]] FieldSlots fields() const { return fieldSlots(layout, *source); }

@@ -4,6 +4,7 @@
 #include "platform/FilePaths.h"
 #include "platform/ProfileFile.h"
 #include "reports/data/ReportError.h"
+#include "reports/lines/BlockKeys.h"
 #include "reports/lines/LayoutKeys.h"
 
 #include <QFileInfo>
@@ -24,13 +25,21 @@ constexpr int mostValues = 40;
 class LayoutReader
 {
 public:
-    explicit LayoutReader(const QString& path) : m_file(path) { m_layout.path = path; }
+    /// @param block "Block1" for the table of a summary's block, whose sections are called so, with a point
+    /// before the usual names
+    LayoutReader(const QString& path, const ProfileFile& file, const QString& block = {})
+        : m_file(file), m_block(block)
+    {
+        m_layout.path = path;
+    }
 
     ReportLayout read()
     {
-        checkSections();
         LayoutTarget target{m_layout, &m_layout.source};
-        readKeys(u"Report"_s, layoutKeys().report, target);
+        readKeys(u"Report"_s, layoutKeys().report, target,
+                 m_block.isEmpty() ? QStringList() : keyNames(blockKeys()));
+        if (hasSection(u"Block1"_s))
+            return readBlocks();
         readJoins();
         if (hasSection(u"Classes"_s))
             readKeys(u"Classes"_s, layoutKeys().classes, target);
@@ -47,6 +56,28 @@ public:
         return std::move(m_layout);
     }
 
+    /// Without this check a misspelled section would be ignored silently, and so would every section after a
+    /// gap in the numbers.
+    void checkSections() const
+    {
+        static const QRegularExpression known(
+            u"^(Report|Classes|Link|(Block[1-9][0-9]?\\.(?!Chart))?(Group|Sort|(Join|Column|Chart)([1-9][0-9]{0,3}))|(Block)([1-9][0-9]?))$"_s,
+            QRegularExpression::CaseInsensitiveOption);
+        const QStringList sections = m_file.sections();
+        for (const QString& section : sections) {
+            const auto match = known.match(section);
+            if (!match.hasMatch()) {
+                fail(u"section [%1]"_s.arg(section),
+                     u"Report, Join1, Classes, Column1, Group, Sort, Link, Chart1 or Block1 is expected"_s);
+            }
+            const int number = (match.captured(5) + match.captured(7)).toInt();
+            const QString before =
+                match.captured(2) + match.captured(4) + match.captured(6) + QString::number(number - 1);
+            if (number > 1 && !sections.contains(before, Qt::CaseInsensitive))
+                fail(u"section [%1]"_s.arg(section), u"there is no section [%1] before it"_s.arg(before));
+        }
+    }
+
 private:
     [[noreturn]] void fail(const QString& place, const QString& text) const
     {
@@ -54,56 +85,46 @@ private:
     }
     [[noreturn]] void fail(const QString& section, QStringView key, const QString& text) const
     {
-        fail(u"section [%1], key %2"_s.arg(section, key), text);
+        fail(u"section [%1], key %2"_s.arg(sectionOf(section), key), text);
     }
 
-    /// Without this check a misspelled section would be ignored silently, and so would every section after a
-    /// gap in the numbers.
-    void checkSections() const
+    /// The keys of a block's table are in the block's own section.
+    [[nodiscard]] QString sectionOf(const QString& name) const
     {
-        static const QRegularExpression known(
-            u"^(Report|Classes|Group|Sort|Link|(Join|Column|Chart)([1-9][0-9]{0,3}))$"_s,
-            QRegularExpression::CaseInsensitiveOption);
-        const QStringList sections = m_file.sections();
-        for (const QString& section : sections) {
-            const auto match = known.match(section);
-            if (!match.hasMatch()) {
-                fail(u"section [%1]"_s.arg(section),
-                     u"Report, Join1, Classes, Column1, Group, Sort, Link or Chart1 is expected"_s);
-            }
-            const QString before = match.captured(2) + QString::number(match.captured(3).toInt() - 1);
-            if (match.captured(3).toInt() > 1 && !sections.contains(before, Qt::CaseInsensitive))
-                fail(u"section [%1]"_s.arg(section), u"there is no section [%1] before it"_s.arg(before));
-        }
+        if (m_block.isEmpty())
+            return name;
+        return name == "Report"_L1 ? m_block : m_block + u'.' + name;
     }
 
     void readKeys(const QString& section, std::span<const KeyRule> rules, LayoutTarget& target,
                   const QStringList& others = {}) const
     {
-        for (const QString& key : m_file.keys(section)) {
+        for (const QString& key : m_file.keys(sectionOf(section))) {
             if (others.contains(key, Qt::CaseInsensitive))
                 continue;
             const auto isIt = [&key](const KeyRule& rule) {
                 return rule.key.compare(key, Qt::CaseInsensitive) == 0;
             };
             if (std::ranges::none_of(rules, isIt))
-                fail(section, key, u"there is no such key; expected are %1"_s.arg(keyNames(rules)));
+                fail(
+                    section, key,
+                    u"there is no such key; expected are %1"_s.arg((keyNames(rules) + others).join(u", "_s)));
         }
         for (const auto& rule : rules)
             readKey(section, rule, target);
     }
 
-    [[nodiscard]] static QString keyNames(std::span<const KeyRule> rules)
+    [[nodiscard]] static QStringList keyNames(std::span<const KeyRule> rules)
     {
         QStringList names;
         for (const auto& rule : rules)
             names.append(rule.key.toString());
-        return names.join(u", "_s);
+        return names;
     }
 
     void readKey(const QString& section, const KeyRule& rule, LayoutTarget& target) const
     {
-        const QString value = m_file.value(section, rule.key, {}, profileValueLimit + 1);
+        const QString value = m_file.value(sectionOf(section), rule.key, {}, profileValueLimit + 1);
         if (value.size() > profileValueLimit)
             fail(section, rule.key, u"it has more than %1 characters"_s.arg(profileValueLimit));
         if (value.isEmpty() && rule.isRequired)
@@ -121,7 +142,7 @@ private:
 
     [[nodiscard]] bool hasSection(const QString& name) const
     {
-        return m_file.sections().contains(name, Qt::CaseInsensitive);
+        return m_file.sections().contains(sectionOf(name), Qt::CaseInsensitive);
     }
 
     void readJoins()
@@ -154,7 +175,8 @@ private:
     void readColumns()
     {
         if (!hasSection(u"Column1"_s))
-            fail(u"section [Column1]"_s, u"it is missing; a report has one column at least"_s);
+            fail(u"section [%1]"_s.arg(sectionOf(u"Column1"_s)),
+                 u"it is missing; a report has one column at least"_s);
         for (int number = 1; hasSection(u"Column%1"_s.arg(number)); ++number) {
             ColumnLayout column;
             LayoutTarget target{m_layout, &m_layout.source};
@@ -183,7 +205,35 @@ private:
         }
     }
 
-    ProfileFile m_file;
+    ReportLayout readBlocks()
+    {
+        if (hasSection(u"Column1"_s))
+            fail(u"section [Column1]"_s, u"a summary has blocks in place of columns"_s);
+        for (int number = 1; hasSection(u"Block%1"_s.arg(number)); ++number)
+            m_layout.blocks.push_back(readBlock(u"Block%1"_s.arg(number)));
+        return std::move(m_layout);
+    }
+
+    BlockLayout readBlock(const QString& section)
+    {
+        BlockLayout block;
+        LayoutTarget target{m_layout};
+        target.block = &block;
+        readKeys(section, blockKeys(), target, keyNames(layoutKeys().report));
+        const bool hasTable = hasSection(section + u".Column1"_s);
+        const bool needsTable = block.kind != BlockKind::Days && block.of == 0 && !block.isQuotient();
+        if (hasTable != needsTable) {
+            fail(u"section [%1.Column1]"_s.arg(section),
+                 needsTable ? u"it is missing; a block has one column at least"_s
+                            : u"this block has no table of its own"_s);
+        }
+        if (needsTable)
+            block.table = std::make_shared<ReportLayout>(LayoutReader(m_layout.path, m_file, section).read());
+        return block;
+    }
+
+    const ProfileFile& m_file;
+    QString m_block;
     ReportLayout m_layout;
 };
 
@@ -194,7 +244,10 @@ ReportLayout readLayout(const QString& path)
     const QString found = existingPath(path);
     if (!QFileInfo(found).isFile())
         throw ReportError(u"%1: the report's layout was not found."_s.arg(path));
-    return LayoutReader(found).read();
+    const ProfileFile file(found);
+    LayoutReader reader(found, file);
+    reader.checkSections();
+    return reader.read();
 }
 
 } // namespace norvane::reports

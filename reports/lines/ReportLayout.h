@@ -5,6 +5,7 @@
 #include "reports/formula/Condition.h"
 #include "reports/formula/Expression.h"
 #include "reports/formula/FieldName.h"
+#include "reports/lines/BlockLayout.h"
 #include "reports/lines/TextTemplate.h"
 
 #include <QString>
@@ -127,6 +128,7 @@ struct ReportLayout {
     bool showsEmptyRecords = false; ///< of a list, or of a join that is whole
     std::vector<std::shared_ptr<NameList>> nameLists;
     std::vector<ChartLayout> charts;
+    std::vector<BlockLayout> blocks; ///< of a summary, which has no columns
 
     /// Whether it reads @p table: its own or a joined one.
     [[nodiscard]] bool reads(const store::TableDefinition& table) const;

@@ -5,10 +5,12 @@
 #include "reports/formula/ExactNumbers.h"
 #include "reports/formula/SelectionFormula.h"
 #include "reports/lines/ComparedReport.h"
+#include "reports/lines/DayFiller.h"
 #include "reports/lines/LayoutReader.h"
 #include "reports/lines/LineBuilder.h"
 #include "reports/lines/LineFilters.h"
 #include "reports/lines/ReportQuery.h"
+#include "reports/lines/SummaryRun.h"
 
 #include <algorithm>
 
@@ -29,34 +31,10 @@ QString shortened(const QString& formula)
     return formula.size() <= longestShownFormula ? formula : formula.left(longestShownFormula) + u"..."_s;
 }
 
-/// Adds the days without sales to a chart over days, at zero.
-class DayFiller
+Period otherPeriod(const ReportRequest& request, const Period& period)
 {
-public:
-    DayFiller(ChartPoints& points, std::size_t daySlot, std::size_t slots)
-        : m_points(points), m_daySlot(daySlot), m_fields(slots), m_zeros(slots, "0")
-    {
-    }
-
-    void begin(QDate first) { m_next = first; }
-    /// Adds the days before @p day, which comes next. An invalid day adds nothing.
-    void fillUpTo(QDate day)
-    {
-        for (; m_next.isValid() && day.isValid() && m_next < day; m_next = m_next.addDays(1)) {
-            m_fields[m_daySlot] = store::Value::date(m_next);
-            m_points.add(textOf(m_points.layout().label, m_fields), {m_zeros, {}}, m_next);
-        }
-        if (day.isValid())
-            m_next = day.addDays(1);
-    }
-
-private:
-    ChartPoints& m_points;
-    std::size_t m_daySlot;
-    LineFields m_fields;
-    std::vector<std::string> m_zeros;
-    QDate m_next; ///< the day that is expected next
-};
+    return request.comparedWith == ComparedWith::YearEarlier ? yearEarlier(period) : periodBefore(period);
+}
 
 QString uncollectedText(std::size_t days)
 {
@@ -104,6 +82,9 @@ public:
     ReportData compared(const ReportData& data);
     /// Adds the days without a collection below all lines, unless the period is one day or ends today.
     void listMissing(ReportData& data) const;
+    /// Of a summary, whose blocks are made by runs of their own. @throws ReportError for a selection that is
+    /// more or less than a period or nothing.
+    SummaryFrame frame();
 
 private:
     void select();
@@ -304,8 +285,7 @@ Period Run::otherPeriod() const
             m_layout.path,
             hasNumber ? u"its selection is not a period"_s : u"no column of the layout has Compare=YES"_s));
     }
-    return m_request.comparedWith == ComparedWith::YearEarlier ? yearEarlier(*m_period)
-                                                               : periodBefore(*m_period);
+    return reports::otherPeriod(m_request, *m_period);
 }
 
 ReportData Run::compared(const ReportData& data)
@@ -334,12 +314,52 @@ void Run::listMissing(ReportData& data) const
                  {u"Without a collection: "_s + textOfDays(m_days->missing, mostListed)});
 }
 
+SummaryFrame Run::frame()
+{
+    select();
+    if (!m_isOnlyPeriod || (m_period && m_period->isOpen()))
+        throw ReportError(u"%1 is a summary of a period, and its selection is none."_s.arg(m_layout.path));
+    SummaryFrame frame;
+    frame.period = m_period;
+    if (m_period)
+        m_days = m_query.salesDays(*m_period);
+    if (m_days)
+        frame.missing = m_days->missing;
+    setHeading(frame.heading);
+    frame.heading.notice = notice();
+    return frame;
+}
+
+/// A summary of all days is compared with nothing.
+SummaryFrame frameOf(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing)
+{
+    SummaryFrame frame = Run(request, layout, keepGoing).frame();
+    if (request.comparedWith == ComparedWith::Nothing || !frame.period)
+        return frame;
+    frame.before = otherPeriod(request, *frame.period);
+    ReportRequest other = request;
+    other.selectionFormula = formulaOf(layout.source.day()->text(), *frame.before);
+    frame.heading.subtitle += u"; before: %1"_s.arg(Run(other, layout, keepGoing).frame().heading.subtitle);
+    return frame;
+}
+
+ReportData summary(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing)
+{
+    return runSummary(request, layout, frameOf(request, layout, keepGoing),
+                      [&keepGoing](const ReportRequest& of, const ReportLayout& block) {
+                          return Run(of, block, keepGoing).make();
+                      });
+}
+
 } // namespace
 
 ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing)
 {
     try {
-        Run run(request, readLayout(request.reportFile), keepGoing);
+        ReportLayout layout = readLayout(request.reportFile);
+        if (!layout.blocks.empty())
+            return summary(request, layout, keepGoing);
+        Run run(request, std::move(layout), keepGoing);
         ReportData data = run.make();
         // A link from a compared report may lead to one that has nothing to compare.
         const bool isAlone = request.comparedWith == ComparedWith::Nothing ||

@@ -18,8 +18,8 @@ namespace
 namespace salestable = store::salestable;
 
 /// A collection leaves out lines that are zero, so a day may have rows in one table only.
-constexpr std::array tables{salestable::times, salestable::clerks, salestable::plus, salestable::mixes,
-                            salestable::financials};
+constexpr std::array tablesOfSales{salestable::times, salestable::clerks, salestable::plus, salestable::mixes,
+                                   salestable::financials};
 
 /// From the last day before the period, or else the first of all, each step finds the next day by the index:
 /// a table of many years is not read completely.
@@ -56,7 +56,7 @@ std::set<QDate> daysWithLast(store::Database& database, const Period& period,
                              const std::function<bool()>& keepGoing)
 {
     std::set<QDate> days;
-    for (const char* const table : tables)
+    for (const char* const table : tablesOfSales)
         collectDays(database, table, period, keepGoing, days);
     return days;
 }

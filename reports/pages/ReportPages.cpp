@@ -15,7 +15,8 @@ namespace
 
 constexpr paper::Margins margins{paper::millimetres(14), paper::millimetres(12), paper::millimetres(14),
                                  paper::millimetres(12)};
-constexpr double chartGap = 8; ///< around charts, in mm
+constexpr double chartGap = 8;  ///< around charts, in mm
+constexpr double blocksTop = 3; ///< between the heading and a summary's blocks
 
 paper::Sheet sheetOf(bool isLandscape)
 {
@@ -86,6 +87,11 @@ ReportPages::ReportPages(const ReportData& report, const PageFont& font, bool sh
       m_charts(drawableCharts(showsCharts))
 {
     m_frame = makeFrame(report, font, m_lines, columns.isLandscape);
+    if (report.blocks.empty())
+        return;
+    m_frame.columnHeadings.setHeight(0);
+    m_frame.body.setTop(m_frame.heading.bottom() + blocksTop);
+    m_blocks.emplace(report, font, m_frame.body);
 }
 
 std::vector<std::size_t> ReportPages::drawableCharts(bool showsCharts) const
@@ -119,6 +125,11 @@ void ReportPages::layOutAll()
 void ReportPages::layOutPage()
 {
     ReportPage page{m_nextLine, m_nextLine, {}, {}};
+    if (m_blocks) {
+        page.endLine = m_nextLine = m_report.lineCount();
+        m_pages.push_back(std::move(page));
+        return;
+    }
     const bool hasLines = m_nextLine < m_report.lineCount();
     m_y = hasLines ? m_frame.body.top() : m_frame.columnHeadings.top() + chartGap;
     if (hasLines)
@@ -224,6 +235,8 @@ double ReportPages::height(qsizetype first, qsizetype end) const
 
 std::vector<PlacedLine> ReportPages::placedLines(int index) const
 {
+    if (m_blocks)
+        return m_blocks->lines();
     std::vector<PlacedLine> placed;
     QPointF corner = m_frame.body.topLeft();
     const auto place = [&](qsizetype line, bool isContinued) {

@@ -1,7 +1,9 @@
 // A report broken into pages. All lengths are in millimetres from the sheet's upper left corner.
 #pragma once
 
+#include "reports/pages/BlockPage.h"
 #include "reports/pages/LineLayout.h"
+#include "reports/pages/PlacedLine.h"
 
 #include <QRectF>
 
@@ -10,13 +12,6 @@
 
 namespace norvane::reports
 {
-
-/// A line and its place on a page.
-struct PlacedLine {
-    qsizetype line = 0;
-    QRectF place;
-    bool isContinued = false; ///< a group's heading once more, above its lines on a further page
-};
 
 /// A chart and its place on a page.
 struct PlacedChart {
@@ -71,6 +66,8 @@ public:
     }
     [[nodiscard]] const PageFrame& frame() const { return m_frame; }
     [[nodiscard]] const LineLayout& lines() const { return m_lines; }
+    /// The only page of a summary; nothing for other reports.
+    [[nodiscard]] const std::optional<BlockPage>& blocks() const { return m_blocks; }
     [[nodiscard]] std::vector<PlacedLine> placedLines(int page) const;
     /// The page of @p line; nothing while it is not laid out.
     [[nodiscard]] std::optional<int> pageOfLine(qsizetype line) const;
@@ -91,6 +88,7 @@ private:
     const ReportData& m_report;
     PageFrame m_frame;
     LineLayout m_lines;
+    std::optional<BlockPage> m_blocks;
     std::vector<std::size_t> m_charts; ///< still to be placed, the next one last
     std::vector<ReportPage> m_pages;
     qsizetype m_nextLine = 0;

@@ -52,6 +52,8 @@ void ReportPainter::paint(QPainter& painter, int index) const
     painter.setRenderHint(QPainter::Antialiasing);
     const ReportPage& page = m_pages.page(index);
     paintHeading(painter, index);
+    if (const auto& blocks = m_pages.blocks())
+        return blocks->paint(painter);
     if (page.hasLines())
         paintColumnHeadings(painter);
     for (const PlacedLine& line : m_pages.placedLines(index))

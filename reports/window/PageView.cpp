@@ -314,7 +314,7 @@ std::optional<PageView::PagePoint> PageView::pagePointAt(QPoint place) const
 qsizetype PageView::lineAt(QPoint place) const
 {
     const auto point = pagePointAt(place);
-    return point ? lineOnPage(point->page, point->place.y()) : -1;
+    return point ? lineOnPage(point->page, point->place) : -1;
 }
 
 qsizetype PageView::linkAt(QPoint place) const
@@ -325,10 +325,10 @@ qsizetype PageView::linkAt(QPoint place) const
                : -1;
 }
 
-qsizetype PageView::lineOnPage(int page, double y) const
+qsizetype PageView::lineOnPage(int page, QPointF place) const
 {
     for (const PlacedLine& line : m_document->pages().placedLines(page)) {
-        if (!line.isContinued && y >= line.place.top() && y < line.place.bottom())
+        if (!line.isContinued && line.place.contains(place))
             return line.line;
     }
     return -1;

@@ -72,7 +72,7 @@ private:
     [[nodiscard]] std::optional<PagePoint> pagePointAt(QPoint place) const;
     [[nodiscard]] qsizetype lineAt(QPoint place) const;
     [[nodiscard]] qsizetype linkAt(QPoint place) const;
-    [[nodiscard]] qsizetype lineOnPage(int page, double y) const;
+    [[nodiscard]] qsizetype lineOnPage(int page, QPointF place) const;
     void paintPage(QPainter& painter, int page) const;
     void paintChosen(QPainter& painter, int page) const;
     void choose(qsizetype line, bool extends);
