@@ -27,13 +27,17 @@ class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
 
+namespace norvane::ui
+{
+class UsesButton;
+}
+
 namespace norvane::screens
 {
 
 class FieldPanel;
 class GridControl;
 class RecordList;
-class UsesButton;
 
 /// Builds itself from a screen file over the database at databasePath.
 /// Each instance has its own connection and position, so that several may be open on one table. The title has
@@ -182,10 +186,10 @@ private:
     std::shared_ptr<store::Database> m_database;
     std::unique_ptr<RecordEditor> m_editor;
     FieldPanel* CSPict1 = nullptr;
-    RecordList* m_list = nullptr; ///< beside screens that walk several records
-    UsesButton* m_uses = nullptr; ///< on such screens whose records others refer to
-    EntryMarks m_marks;           ///< of a new record like another
-    bool m_failed = false;        ///< it closes, and does nothing any more
+    RecordList* m_list = nullptr;     ///< beside screens that walk several records
+    ui::UsesButton* m_uses = nullptr; ///< on such screens whose records others refer to
+    EntryMarks m_marks;               ///< of a new record like another
+    bool m_failed = false;            ///< it closes, and does nothing any more
     std::optional<TypedChanges> m_typed;
     std::shared_ptr<LostChangesList> m_losses;
     std::shared_ptr<store::WorkHistory> m_history;

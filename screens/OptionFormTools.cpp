@@ -6,7 +6,7 @@
 #include "screens/FreeNumber.h"
 #include "screens/OptionForm.h"
 #include "screens/SaveNotices.h"
-#include "screens/UsesButton.h"
+#include "screens/ShownUses.h"
 #include "store/engine/ShortWait.h"
 #include "ui/Appearance.h"
 
@@ -110,7 +110,7 @@ void OptionForm::buildUses()
 {
     if (!m_list || !canBeUsed(m_file.table().table))
         return;
-    m_uses = new UsesButton([this](int atMost) { return readUses(atMost); }, this);
+    m_uses = new ui::UsesButton([this](int atMost) { return shownUses(readUses(atMost)); }, this);
     auto* const shortcut =
         new QShortcut(QKeySequence(u"Ctrl+R"_s), this, {}, {}, Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, m_uses, &QPushButton::click);

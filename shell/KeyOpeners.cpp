@@ -5,6 +5,7 @@
 #include "keys/layout/KeyLayout.h"
 #include "keys/lookups/frmwlu.h"
 #include "platform/FailureBox.h"
+#include "shell/KeyItemOpener.h"
 #include "shell/MainStatusBar.h"
 
 #include <memory>
@@ -16,7 +17,15 @@ namespace norvane::shell
 namespace
 {
 
-using MakeForm = std::unique_ptr<QDialog> (*)(ApplicationValues& values, Boxes& boxes, FrmMain& main);
+/// What the forms are made with.
+struct KeyGround {
+    ApplicationValues& values;
+    Boxes& boxes;
+    FrmMain& main;
+    std::shared_ptr<store::WorkHistory> history;
+};
+
+using MakeForm = std::unique_ptr<QDialog> (*)(const KeyGround& ground);
 
 struct KeyForm {
     QLatin1StringView name;
@@ -25,22 +34,28 @@ struct KeyForm {
 };
 
 template <const keys::KeyGeometry& (*keyboard)()>
-std::unique_ptr<QDialog> makeLayout(ApplicationValues& values, Boxes& boxes, FrmMain& main)
+std::unique_ptr<QDialog> makeLayout(const KeyGround& ground)
 {
-    return std::make_unique<keys::KeyLayout>(keyboard(), values, boxes, &main);
+    auto form = std::make_unique<keys::KeyLayout>(keyboard(), ground.values, ground.boxes, &ground.main);
+    const KeyItemGround around{*form, ground.values, ground.boxes, ground.history};
+    QObject::connect(form.get(), &keys::KeyLayout::itemWanted, form.get(),
+                     [around](keys::ItemKind kind, const QString& number) {
+                         openOrTell(around.boxes, [&] { openKeyItem(around, kind, number); });
+                     });
+    return form;
 }
 
-std::unique_ptr<QDialog> makeFunctionKeys(ApplicationValues& values, Boxes& boxes, FrmMain& main)
+std::unique_ptr<QDialog> makeFunctionKeys(const KeyGround& ground)
 {
-    auto form = std::make_unique<keys::FrmFunctKey>(values, boxes, &main);
-    QObject::connect(form.get(), &keys::FrmFunctKey::noticeChanged, &main.statusBar1(),
+    auto form = std::make_unique<keys::FrmFunctKey>(ground.values, ground.boxes, &ground.main);
+    QObject::connect(form.get(), &keys::FrmFunctKey::noticeChanged, &ground.main.statusBar1(),
                      &MainStatusBar::setNotice);
     return form;
 }
 
-std::unique_ptr<QDialog> makeLookUps(ApplicationValues& values, Boxes& boxes, FrmMain& main)
+std::unique_ptr<QDialog> makeLookUps(const KeyGround& ground)
 {
-    return std::make_unique<keys::frmwlu>(values, boxes, &main);
+    return std::make_unique<keys::frmwlu>(ground.values, ground.boxes, &ground.main);
 }
 
 constexpr KeyForm keyForms[] = {
@@ -52,25 +67,26 @@ constexpr KeyForm keyForms[] = {
 };
 
 /// The editor works on the chosen customer's data, and so does everything else from then on.
-void openKeyForm(const KeyForm& entry, ApplicationValues& values, Boxes& boxes, FrmMain& main)
+void openKeyForm(const KeyForm& entry, const KeyGround& ground)
 {
     if (!entry.notice.isEmpty())
-        boxes.message(entry.notice);
+        ground.boxes.message(entry.notice);
     std::unique_ptr<QDialog> form;
-    openOrTell(boxes, [&] { form = entry.make(values, boxes, main); });
-    main.showCustomer();
+    openOrTell(ground.boxes, [&] { form = entry.make(ground); });
+    ground.main.showCustomer();
     if (form)
         form->exec();
 }
 
 } // namespace
 
-FrmMain::FormOpeners makeKeyOpeners(ApplicationValues& values, Boxes& boxes)
+FrmMain::FormOpeners makeKeyOpeners(ApplicationValues& values, Boxes& boxes,
+                                    std::shared_ptr<store::WorkHistory> history)
 {
     FrmMain::FormOpeners openers;
     for (const KeyForm& form : keyForms) {
-        openers.insert(form.name, [&values, &boxes, &form](FrmMain& main, const MenuEntry&) {
-            openKeyForm(form, values, boxes, main);
+        openers.insert(form.name, [&values, &boxes, history, &form](FrmMain& main, const MenuEntry&) {
+            openKeyForm(form, {values, boxes, main, history});
         });
     }
     return openers;

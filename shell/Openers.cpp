@@ -156,7 +156,7 @@ FrmMain::Openers makeOpeners(ApplicationValues& values, Boxes& boxes)
     });
     openers.insert(makeUtilityOpeners(values, boxes, history));
     openers.insert(makeReportOpeners(values, boxes));
-    openers.insert(makeKeyOpeners(values, boxes));
+    openers.insert(makeKeyOpeners(values, boxes, history));
     openers.insert(makeOverlayOpeners(values, boxes));
     const auto editors = std::make_shared<Screens>(values, boxes, history);
     return {openers, [editors](FrmMain& main, const QString& file) { editors->open(main, file); },

@@ -1,7 +1,9 @@
 // Controls and buttons of the function key editor; see FrmFunctKey.h.
 #include "keys/functions/FrmFunctKey.h"
 
+#include "base/CustomerSettings.h"
 #include "keys/functions/OptionColumns.h"
+#include "keys/ItemUsesButton.h"
 #include "keys/KeyDatabase.h"
 #include "keys/RecordPicker.h"
 #include "keys/SaveOrTell.h"
@@ -66,11 +68,14 @@ int widestNumberCaption(const QLabel& label)
 } // namespace
 
 FrmFunctKey::FrmFunctKey(ApplicationValues& values, Boxes& boxes, QWidget* parent)
-    : QDialog(parent), m_boxes(boxes), m_keys(openCustomerDatabase(values), values)
+    : QDialog(parent), m_boxes(boxes), m_database(openCustomerDatabase(values)), m_keys(m_database, values)
 {
     ui::nameControl(*this, u"FrmFunctKey"_s);
     setWindowTitle(u"Function Keys"_s);
     makeControls();
+    m_uses = makeUsesButton(
+        *m_database, keyboardOf(registerModelByText(values).family), ItemKind::Function,
+        [this] { return selectkey->currentData().toString(); }, this);
     layOut();
     Form_Load();
 }
@@ -144,7 +149,7 @@ void FrmFunctKey::layOut()
     rows->addLayout(makeGrid());
     rows->addWidget(m_options);
     column->addWidget(new ui::FittingArea(contents));
-    column->addLayout(ui::makeButtonRow({SaveRecord, ExitForm}));
+    column->addLayout(ui::makeButtonRow({SaveRecord, ExitForm}, {m_uses}));
 }
 
 void FrmFunctKey::Form_Load()
@@ -164,6 +169,16 @@ void FrmFunctKey::selectkey_Click(int row)
     readControls();
     m_shown = m_controls;
     SaveRecord->setEnabled(true);
+    m_uses->recount();
+}
+
+void FrmFunctKey::showKey(const QString& number)
+{
+    const int row = selectkey->findData(number);
+    if (row < 0)
+        return;
+    selectkey->setCurrentIndex(row);
+    selectkey_Click(row);
 }
 
 /// @return false when nothing was stored.

@@ -16,6 +16,7 @@ class DecimalBox;
 class IntegerBox;
 class NumberBox;
 class TextBox;
+class UsesButton;
 } // namespace norvane::ui
 
 namespace norvane::keys
@@ -35,6 +36,8 @@ public:
     /// @throws RuntimeFailure as openCustomerDatabase() and FunctionKeys do.
     FrmFunctKey(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
+    /// Shows the key of this number as a choice in the list does; nothing happens if there is none.
+    void showKey(const QString& number);
     /// Escape asks about changes, as the window's close button does.
     void reject() override;
 
@@ -67,6 +70,7 @@ private:
     void readControls();
 
     Boxes& m_boxes;
+    std::shared_ptr<store::Database> m_database;
     FunctionKeys m_keys;
     KeyControls m_controls;
     KeyControls m_shown; ///< as the controls held it when the key was shown or saved
@@ -77,6 +81,7 @@ private:
     QVector<NumberRow> m_numbers;
     OptionColumns* m_options;
     QPushButton* SaveRecord;
+    ui::UsesButton* m_uses;
 };
 
 } // namespace norvane::keys

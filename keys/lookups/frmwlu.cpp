@@ -3,6 +3,7 @@
 
 #include "base/CustomerSettings.h"
 #include "base/LossQuestion.h"
+#include "keys/ItemUsesButton.h"
 #include "keys/KeyDatabase.h"
 #include "keys/KeyPlaces.h"
 #include "keys/lookups/LookUpFields.h"
@@ -89,7 +90,9 @@ frmwlu::frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent)
       m_keyboard(keyboardOf(registerModel(values).family)), m_records(m_database),
       m_picker(new RecordPicker(u"selectwlu"_s, u"Select WLU"_s, this)), m_lines(new LookUpGridModel(this)),
       m_fields(new LookUpFields(this)), Grid1(makeGrid(m_lines, this)),
-      m_lists(new LookUpLists(m_database, this)), m_status(new ui::StatusLine(this))
+      m_lists(new LookUpLists(m_database, this)), m_status(new ui::StatusLine(this)),
+      m_uses(makeUsesButton(
+          *m_database, m_keyboard, ItemKind::LookUp, [this] { return m_records.storedNumber(); }, this))
 {
     setObjectName(u"frmwlu"_s);
     setWindowTitle(u"WLU Programming"_s);
@@ -149,7 +152,7 @@ QHBoxLayout* frmwlu::makeButtons()
     auto* const remove = button(u"CSCmdBtn3"_s, u"Delete Line"_s, &frmwlu::deleteLine);
     auto* const save = button(u"CSCmdBtn1"_s, u"&Save"_s, &frmwlu::saveChanges);
     auto* const exit = button(u"CSCmdBtn2"_s, u"E&xit"_s, &frmwlu::leave);
-    return ui::makeButtonRow({remove, save, exit}, {previous, next});
+    return ui::makeButtonRow({remove, save, exit}, {previous, next, m_uses});
 }
 
 void frmwlu::connectControls()
@@ -199,6 +202,7 @@ void frmwlu::updategrid()
     m_lines->setLines(lookUp.lines);
     m_shown = entered();
     m_status->setNotice({});
+    m_uses->recount();
     showLists();
 }
 
@@ -317,6 +321,12 @@ void frmwlu::selectwlu_Click(int row)
     } else {
         m_picker->showRecord(m_records.storedNumber());
     }
+}
+
+void frmwlu::showRecord(const QString& number)
+{
+    if (m_records.find(number))
+        goTo(number);
 }
 
 void frmwlu::goTo(const QString& number)

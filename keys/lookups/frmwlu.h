@@ -19,7 +19,8 @@ class Boxes;
 namespace norvane::ui
 {
 class StatusLine;
-}
+class UsesButton;
+} // namespace norvane::ui
 
 namespace norvane::keys
 {
@@ -40,6 +41,8 @@ public:
     /// @throws RuntimeFailure as openCustomerDatabase() and LookUpRecords do.
     frmwlu(ApplicationValues& values, Boxes& boxes, QWidget* parent = nullptr);
 
+    /// Goes to the look-up of this number; nothing happens if there is none.
+    void showRecord(const QString& number);
     /// Escape leads from the lists back to the lines first. Like the window's close button it asks about
     /// changes, which "E&xit" throws away unasked.
     void reject() override;
@@ -84,6 +87,7 @@ private:
     QTableView* Grid1;
     LookUpLists* m_lists;
     ui::StatusLine* m_status;
+    ui::UsesButton* m_uses;
 };
 
 } // namespace norvane::keys

@@ -4,12 +4,12 @@
 #include "base/CustomerSettings.h"
 #include "platform/RuntimeFailure.h"
 #include "register/RegisterModel.h"
+#include "screens/ShownUses.h"
 #include "screens/table/ChoiceBar.h"
 #include "screens/table/PendingPanel.h"
 #include "screens/table/TableGrid.h"
 #include "screens/table/TableModel.h"
 #include "screens/ToolMenu.h"
-#include "screens/UsesButton.h"
 #include "store/engine/ShortWait.h"
 #include "ui/Announcement.h"
 #include "ui/Appearance.h"
@@ -214,10 +214,11 @@ void TableWindow::buildUses()
 {
     if (!canBeUsed(source().table))
         return;
-    m_uses = new UsesButton([this](int atMost) { return readUses(atMost); }, this);
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, m_uses, &UsesButton::recount);
+    m_uses = new ui::UsesButton([this](int atMost) { return shownUses(readUses(atMost)); }, this);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, m_uses,
+            &ui::UsesButton::recount);
     // No row may be left, and then none becomes the current one.
-    connect(m_model, &QAbstractItemModel::modelReset, m_uses, &UsesButton::recount);
+    connect(m_model, &QAbstractItemModel::modelReset, m_uses, &ui::UsesButton::recount);
     connect(new QShortcut(QKeySequence(u"Ctrl+R"_s), this, {}, {}, Qt::WidgetWithChildrenShortcut),
             &QShortcut::activated, m_uses, &QPushButton::click);
 }

@@ -25,6 +25,11 @@ namespace norvane::store
 class WorkHistory;
 }
 
+namespace norvane::ui
+{
+class UsesButton;
+}
+
 namespace norvane::screens
 {
 
@@ -32,7 +37,6 @@ class ChoiceBar;
 class PendingPanel;
 class TableGrid;
 class TableModel;
-class UsesButton;
 struct TableInUse;
 
 /// What a table is opened for.
@@ -144,7 +148,7 @@ private:
     TableGrid* m_view;
     PendingPanel* m_pending;
     QLabel* m_count;
-    UsesButton* m_uses = nullptr;               ///< of records to which others refer
+    ui::UsesButton* m_uses = nullptr;           ///< of records to which others refer
     std::vector<PendingEdits> m_earlier = {{}}; ///< what was not stored before each change, and now
 };
 

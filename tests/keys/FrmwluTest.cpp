@@ -253,5 +253,22 @@ TEST_F(FrmwluTest, EscapeLeavesTheListsThenAsksAboutChangesWhichExitDrops)
     EXPECT_EQ(m_boxes.shown.size(), 2U);
 }
 
+TEST_F(FrmwluTest, ListsWhereTheLookUpShownIsUsed)
+{
+    auto& button = control<QPushButton>("RecordUses");
+    EXPECT_TRUE(norvane::test::soon([&] { return button.text() == u"Used in 3 Places..."_s; }));
+    QTest::keyClick(m_form.get(), Qt::Key_R, Qt::ControlModifier);
+    const auto& list = control<QListWidget>("UsesList");
+    ASSERT_EQ(list.count(), 3);
+    EXPECT_EQ(list.item(1)->text(), u"Keyboard level 2, key 1"_s);
+    EXPECT_EQ(list.item(2)->text(), u"Link of window look-up 2 \"Payment\""_s);
+    QApplication::activePopupWidget()->close();
+    m_form->showRecord(u"2"_s);
+    EXPECT_TRUE(norvane::test::soon([&] { return button.text() == u"Not Used Anywhere"_s; }));
+    EXPECT_EQ(control<QLineEdit>("WLUNumber").text(), u"2"_s);
+    m_form->showRecord(u"77"_s);
+    EXPECT_EQ(control<QLineEdit>("WLUNumber").text(), u"2"_s);
+}
+
 } // namespace
 } // namespace norvane::keys

@@ -1,5 +1,5 @@
 // See UsesButton.h.
-#include "screens/UsesButton.h"
+#include "ui/UsesButton.h"
 
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
@@ -12,7 +12,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace norvane::screens
+namespace norvane::ui
 {
 namespace
 {
@@ -22,7 +22,7 @@ constexpr int restMilliseconds = 80;
 constexpr int listedUses = 500;
 constexpr int visibleUses = 12;
 
-QString captionOf(const std::optional<KeyUses>& uses)
+QString captionOf(const std::optional<Uses>& uses)
 {
     if (!uses)
         return u"Uses Not Known"_s;
@@ -31,10 +31,10 @@ QString captionOf(const std::optional<KeyUses>& uses)
     return uses->count == 1 ? u"Used in 1 Place..."_s : u"Used in %1 Places..."_s.arg(uses->count);
 }
 
-QListWidget* makeList(const KeyUses& uses, QWidget* parent)
+QListWidget* makeList(const Uses& uses, QWidget* parent)
 {
     auto* const list = new QListWidget(parent);
-    ui::nameControl(*list, u"UsesList"_s, u"Where used"_s);
+    nameControl(*list, u"UsesList"_s, u"Where used"_s);
     list->setFrameShape(QFrame::NoFrame);
     list->setUniformItemSizes(true);
     list->setSpacing(1);
@@ -44,16 +44,16 @@ QListWidget* makeList(const KeyUses& uses, QWidget* parent)
     list->setCurrentRow(0);
     const int rows = qMin(list->count(), visibleUses);
     list->setFixedHeight(rows * (list->sizeHintForRow(0) + 2 * list->spacing()) + 2);
-    list->setMinimumWidth(list->sizeHintForColumn(0) + ui::scaled(2 * ui::spacing::groupGap));
+    list->setMinimumWidth(list->sizeHintForColumn(0) + scaled(2 * spacing::groupGap));
     return list;
 }
 
 } // namespace
 
 UsesButton::UsesButton(Reader reader, QWidget* parent)
-    : QPushButton(captionOf(KeyUses{}), parent), m_read(std::move(reader)), m_rest(new QTimer(this))
+    : QPushButton(captionOf(Uses{}), parent), m_read(std::move(reader)), m_rest(new QTimer(this))
 {
-    ui::nameControl(*this, u"RecordUses"_s);
+    nameControl(*this, u"RecordUses"_s);
     setToolTip(u"Keys, look-ups, links, recipes and other records that use this one (Ctrl+R)"_s);
     setAutoDefault(true);
     setEnabled(false);
@@ -82,7 +82,7 @@ void UsesButton::showList()
     if (!uses || uses->count == 0)
         return;
     auto* const frame = new QFrame(this, Qt::Popup);
-    ui::nameControl(*frame, u"UsesFrame"_s);
+    nameControl(*frame, u"UsesFrame"_s);
     frame->setAttribute(Qt::WA_DeleteOnClose);
     frame->setFrameShape(QFrame::StyledPanel);
     frame->setWindowTitle(u"Where Used"_s);
@@ -105,4 +105,4 @@ void UsesButton::placeList(QWidget& list) const
     list.move(below.x(), below.y() <= lowest ? below.y() : mapToGlobal(rect().topLeft()).y() - list.height());
 }
 
-} // namespace norvane::screens
+} // namespace norvane::ui

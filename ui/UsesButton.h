@@ -1,17 +1,22 @@
 // The button that says in how many places a record is used, and lists them.
 #pragma once
 
-#include "screens/KeyUses.h"
-
 #include <QPushButton>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
 
 class QTimer;
 
-namespace norvane::screens
+namespace norvane::ui
 {
+
+/// The places that use a record, in words.
+struct Uses {
+    int count = 0;
+    QStringList first; ///< some of them
+};
 
 /// Says "Used in 3 Places..." of the record on a screen; a press shows them. It is greyed for a record that
 /// nothing uses.
@@ -22,7 +27,7 @@ class UsesButton : public QPushButton
 public:
     /// Reads the uses of the record on the screen now, of which so many are described. @return nothing if
     /// they cannot be read, such as while another program holds the database.
-    using Reader = std::function<std::optional<KeyUses>(int atMost)>;
+    using Reader = std::function<std::optional<Uses>(int atMost)>;
 
     UsesButton(Reader reader, QWidget* parent);
 
@@ -39,4 +44,4 @@ private:
     QTimer* m_rest;
 };
 
-} // namespace norvane::screens
+} // namespace norvane::ui
