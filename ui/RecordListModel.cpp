@@ -4,7 +4,10 @@
 #include "register/PluNumber.h"
 #include "store/engine/Recordset.h"
 
+#include <QHash>
+
 #include <algorithm>
+#include <utility>
 
 namespace norvane::ui
 {
@@ -38,7 +41,8 @@ void RecordListModel::reload()
 {
     beginResetModel();
     readRecords();
-    m_shown = m_texts.containing(m_filter);
+    m_only.reset();
+    chooseShown();
     m_marked = m_markedNumber.isEmpty() ? -1 : m_texts.find(m_markedNumber);
     endResetModel();
 }
@@ -47,8 +51,44 @@ void RecordListModel::setFilter(const QString& part)
 {
     beginResetModel();
     m_filter = part.trimmed();
-    m_shown = m_texts.containing(m_filter);
+    chooseShown();
     endResetModel();
+}
+
+void RecordListModel::showOnly(const std::optional<QStringList>& numbers)
+{
+    beginResetModel();
+    m_only.reset();
+    if (numbers)
+        m_only = recordsOf(*numbers);
+    chooseShown();
+    endResetModel();
+}
+
+/// In one pass over all records, however many numbers there are.
+std::vector<int> RecordListModel::recordsOf(const QStringList& numbers) const
+{
+    QHash<QString, std::size_t> places;
+    for (const QString& number : numbers) {
+        if (const QString shown = shownNumber(number); !places.contains(shown))
+            places.insert(shown, static_cast<std::size_t>(places.size()));
+    }
+    std::vector<int> records(static_cast<std::size_t>(places.size()), -1);
+    for (int record = 0; record < m_texts.size(); ++record) {
+        if (const auto place = places.constFind(m_texts.number(record)); place != places.cend())
+            records[*place] = record;
+    }
+    std::erase(records, -1);
+    return records;
+}
+
+void RecordListModel::chooseShown()
+{
+    m_shown = m_texts.containing(m_filter);
+    if (!m_only)
+        return;
+    const std::vector<int> withText = std::exchange(m_shown, *m_only);
+    std::erase_if(m_shown, [&](int record) { return !std::ranges::binary_search(withText, record); });
 }
 
 void RecordListModel::mark(const QString& number)

@@ -7,6 +7,7 @@
 #include <QAbstractTableModel>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace norvane::ui
@@ -31,17 +32,21 @@ public:
     RecordListModel(std::shared_ptr<store::Database> database, RecordListSource source,
                     QObject* parent = nullptr);
 
-    /// Reads the records again from the file; the filter is kept.
+    /// Reads the records again from the file; the filter is kept, and showOnly() ends.
     void reload();
     /// Shows only records with @p part in number or text.
     void setFilter(const QString& part);
+    /// Shows only the records of @p numbers, in this order, that have the filter's text; nothing ends it.
+    /// Numbers without a record are left out.
+    void showOnly(const std::optional<QStringList>& numbers);
     /// Sets the record that the form shows; an empty text for none.
     void mark(const QString& number);
 
     [[nodiscard]] int recordCount() const { return m_texts.size(); }
     /// Empty without records.
     [[nodiscard]] QString lastNumber() const;
-    /// Row of the marked record, -1 if it is filtered out or there is none.
+    /// Row of the marked record, -1 if it is filtered out or there is none. Not while showOnly() has an
+    /// order.
     [[nodiscard]] int markedRow() const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -51,12 +56,15 @@ public:
 private:
     [[nodiscard]] QString shownNumber(const QString& number) const;
     void readRecords();
+    [[nodiscard]] std::vector<int> recordsOf(const QStringList& numbers) const;
+    void chooseShown();
 
     std::shared_ptr<store::Database> m_database;
     RecordListSource m_source;
     store::SearchableTexts m_texts;
     QString m_filter;
-    std::vector<int> m_shown; ///< records by row
+    std::optional<std::vector<int>> m_only; ///< records in the order shown
+    std::vector<int> m_shown;               ///< records by row
     QString m_markedNumber;
     int m_marked = -1; ///< record
 };

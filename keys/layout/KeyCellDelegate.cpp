@@ -144,6 +144,8 @@ void paintFrames(QPainter& painter, const QStyleOptionViewItem& option, const QM
 {
     if (index.data(KeyGridModel::FoundRole).toBool())
         paintFrame(painter, option.rect, QPen(colours::found, strongLine), strongLine);
+    if (index.data(KeyGridModel::PreviewRole).toBool())
+        paintFrame(painter, option.rect, QPen(colours::yielding(colours::accent, QPalette::Highlight), 1), 1);
     if (index.data(KeyGridModel::MarkedRole).toBool())
         paintFrame(painter, option.rect, QPen(textColour(), 1, Qt::DashLine), strongLine);
     // Also while the keyboard is in a list: a choice there is for this key.

@@ -31,7 +31,7 @@ struct KeyCommands::Entry {
 KeyCommands::KeyCommands(KeyEditor& editor, KeyGrid& grid, QObject* parent)
     : QObject(parent), m_editor(editor), m_grid(grid)
 {
-    static constexpr std::array<Entry, 17> entries = {{
+    static constexpr std::array<Entry, 18> entries = {{
         {"Cut", "Cu&t", "Ctrl+X", inGrid, &KeyCommands::cut},
         {"Copy", "&Copy", "Ctrl+C", inGrid, &KeyCommands::copy},
         {"Paste", "&Paste", "Ctrl+V", inGrid, &KeyCommands::paste},
@@ -49,15 +49,23 @@ KeyCommands::KeyCommands(KeyEditor& editor, KeyGrid& grid, QObject* parent)
         {"Smaller", "S&maller", "Ctrl+-", inForm, &KeyCommands::reduce},
         {"Larger", "La&rger", "Ctrl++; Ctrl+=", inForm, &KeyCommands::enlarge},
         {"Lists", "L&ists", "F9", inForm, nullptr},
+        {"Fill", "Fill &Keys", "Ctrl+L", inForm, nullptr},
     }};
     for (const Entry& entry : entries)
         addAction(entry);
     followEditor();
-    for (const char* const name : {"WholeKeyboard", "Smaller", "Larger", "Lists"})
+    addSwitches();
+}
+
+void KeyCommands::addSwitches()
+{
+    for (const char* const name : {"WholeKeyboard", "Smaller", "Larger", "Lists", "Fill"})
         m_view += findChild<QAction*>(QLatin1StringView(name));
-    m_lists = m_view.last();
+    m_lists = m_view[3];
+    m_fill = m_view[4];
     m_lists->setCheckable(true);
     m_lists->setChecked(true);
+    m_fill->setCheckable(true);
 }
 
 void KeyCommands::addAction(const Entry& entry)

@@ -27,6 +27,8 @@ public:
     [[nodiscard]] QList<QAction*> viewActions() const { return m_view; }
     /// Whether the lists are shown. Checked at first.
     [[nodiscard]] QAction& lists() const { return *m_lists; }
+    /// Whether many keys are being filled at once.
+    [[nodiscard]] QAction& fill() const { return *m_fill; }
 
 Q_SIGNALS:
     /// Keys were changed, or @p refusal says why not.
@@ -40,6 +42,7 @@ private:
     using Handler = void (KeyCommands::*)();
 
     void addAction(const Entry& entry);
+    void addSwitches();
     void followEditor();
     void cut();
     void copy();
@@ -57,6 +60,7 @@ private:
     KeyGrid& m_grid;
     QAction* m_paste = nullptr;
     QAction* m_lists = nullptr;
+    QAction* m_fill = nullptr;
     QList<QAction*> m_view;
 };
 

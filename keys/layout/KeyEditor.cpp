@@ -11,13 +11,6 @@ namespace norvane::keys
 namespace
 {
 
-/// Row by row, so that a block and its new place are in the same order whatever was clicked first.
-KeyCells sorted(KeyCells cells)
-{
-    std::ranges::sort(cells, {}, [](KeyCell cell) { return std::pair(cell.row, cell.column); });
-    return cells;
-}
-
 /// Those of @p cells that are not among @p others.
 KeyCells without(const KeyCells& cells, const KeyCells& others)
 {
@@ -52,6 +45,12 @@ private:
     KeyLevel& m_level;
     KeyChanges m_changes;
 };
+
+KeyCells inReadingOrder(KeyCells cells)
+{
+    std::ranges::sort(cells, {}, [](KeyCell cell) { return std::pair(cell.row, cell.column); });
+    return cells;
+}
 
 KeyCells movedBy(KeyCells cells, KeyCell offset)
 {
@@ -108,6 +107,14 @@ void KeyEditor::assign(const KeyCells& cells, ItemKind kind, const QString& numb
     make(std::move(changes));
 }
 
+void KeyEditor::place(const std::vector<PlacedKey>& keys)
+{
+    KeyChanges changes;
+    for (const PlacedKey& placed : keys)
+        changes.push_back(changeOf(placed.cell, placed.key));
+    make(std::move(changes));
+}
+
 /// Each of @p target does what the cell of @p source at the same place does.
 KeyEditor::KeyChanges KeyEditor::copies(const KeyCells& source, const KeyCells& target) const
 {
@@ -119,7 +126,7 @@ KeyEditor::KeyChanges KeyEditor::copies(const KeyCells& source, const KeyCells& 
 
 Refusal KeyEditor::swap(const KeyCells& cells, KeyCell from, KeyCell to)
 {
-    const KeyCells source = sorted(cells);
+    const KeyCells source = inReadingOrder(cells);
     const KeyCells target = movedBy(source, to - from);
     for (const KeyCells& touched : {target, source}) {
         if (const Refusal refusal = refusalOf(touched); refusal != Refusal::None)

@@ -13,6 +13,12 @@ namespace norvane::keys
 /// Cells in no particular order, each once.
 using KeyCells = std::vector<KeyCell>;
 
+/// A cell and what its key is to do.
+struct PlacedKey {
+    KeyCell cell;
+    Key key;
+};
+
 /// Why keys were not changed.
 enum class Refusal {
     None,
@@ -34,6 +40,8 @@ public:
     /// Puts the item @p number on keys. If the item does not exist, only the cells show it. A fixed cell
     /// shows the text only and keeps its function.
     void assign(const KeyCells& cells, ItemKind kind, const QString& number);
+    /// Puts each key on its cell, which is not a fixed one.
+    void place(const std::vector<PlacedKey>& keys);
     /// Swaps @p cells, of which @p from moves to @p to, with the keys there. Where both blocks overlap, the
     /// displaced keys fill the freed places.
     Refusal swap(const KeyCells& cells, KeyCell from, KeyCell to);
@@ -86,6 +94,9 @@ private:
     KeyCells m_marked;
 };
 
+/// Row by row from the left, so that a block and its new place are in the same order whatever was clicked
+/// first.
+[[nodiscard]] KeyCells inReadingOrder(KeyCells cells);
 [[nodiscard]] KeyCells movedBy(KeyCells cells, KeyCell offset);
 /// The first row and the first column of @p cells, which may not be empty.
 [[nodiscard]] KeyCell upperLeft(const KeyCells& cells);

@@ -33,7 +33,7 @@ constexpr int wheelNotch = 120;
 
 } // namespace
 
-KeyGrid::KeyGrid(KeyGridModel* model, QWidget* parent) : QTableView(parent)
+KeyGrid::KeyGrid(KeyGridModel* model, QWidget* parent) : QTableView(parent), m_keys(*model)
 {
     ui::nameControl(*this, u"Grid1"_s, u"Keys of the level"_s);
     setModel(model);
@@ -73,6 +73,11 @@ KeyCells KeyGrid::chosenCells() const
     if (cells.empty() && currentIndex().isValid())
         cells.push_back(currentCell());
     return cells;
+}
+
+void KeyGrid::showPreview(const std::vector<PlacedKey>& keys)
+{
+    m_keys.setPreview(keys);
 }
 
 QSize KeyGrid::keySize() const

@@ -27,6 +27,9 @@ public:
     /// The current cell among them.
     [[nodiscard]] KeyCells chosenCells() const;
 
+    /// KeyGridModel::setPreview().
+    void showPreview(const std::vector<PlacedKey>& keys);
+
     /// Shows the whole keyboard, and goes on doing so while the grid changes its size, until another zoom is
     /// set.
     void fitKeyboard();
@@ -60,6 +63,7 @@ private:
     void extendTo(const QModelIndex& end);
     void chooseCurrent();
 
+    KeyGridModel& m_keys;
     QPersistentModelIndex m_anchor; ///< where a choice of several keys began
     bool m_extends = false;
     bool m_fits = false;           ///< the keys follow the size of the grid

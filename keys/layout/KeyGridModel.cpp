@@ -47,6 +47,22 @@ void KeyGridModel::setFound(KeyCells cells)
     refresh();
 }
 
+void KeyGridModel::setPreview(const std::vector<PlacedKey>& keys)
+{
+    if (keys.empty() && m_preview.isEmpty())
+        return;
+    m_preview.clear();
+    for (const PlacedKey& placed : keys)
+        m_preview.insert(numberOf(placed.cell), placed.key);
+    refresh();
+}
+
+const Key& KeyGridModel::shownKey(KeyCell cell) const
+{
+    const auto preview = m_preview.constFind(numberOf(cell));
+    return preview == m_preview.cend() ? m_level.key(cell) : *preview;
+}
+
 int KeyGridModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : m_level.geometry().rows;
@@ -60,7 +76,7 @@ int KeyGridModel::columnCount(const QModelIndex& parent) const
 QVariant KeyGridModel::data(const QModelIndex& index, int role) const
 {
     const KeyCell cell = cellOf(index);
-    const Key& key = m_level.key(cell);
+    const Key& key = shownKey(cell);
     switch (role) {
     case Qt::DisplayRole:
         return key.text;
@@ -74,6 +90,8 @@ QVariant KeyGridModel::data(const QModelIndex& index, int role) const
         return isAmong(m_found, cell);
     case MarkedRole:
         return isAmong(m_editor.marked(), cell);
+    case PreviewRole:
+        return m_preview.contains(numberOf(cell));
     default:
         return {};
     }
@@ -85,7 +103,9 @@ QString KeyGridModel::spokenState(KeyCell cell) const
     QStringList words;
     if (const auto number = m_level.geometry().keyNumber(cell))
         words += u"Key %1"_s.arg(*number);
-    words += stateWords[static_cast<std::size_t>(m_level.key(cell).state)];
+    words += stateWords[static_cast<std::size_t>(shownKey(cell).state)];
+    if (m_preview.contains(numberOf(cell)))
+        words += u"preview"_s;
     if (isAmong(m_editor.marked(), cell))
         words += u"marked"_s;
     if (isAmong(m_found, cell))
@@ -96,7 +116,7 @@ QString KeyGridModel::spokenState(KeyCell cell) const
 /// The first line cannot contain "<", so that descriptions are never read as markup.
 QString KeyGridModel::toolTip(KeyCell cell) const
 {
-    const Key& key = m_level.key(cell);
+    const Key& key = shownKey(cell);
     const QString state = stateWords[static_cast<std::size_t>(key.state)];
     const auto number = m_level.geometry().keyNumber(cell);
     if (!number)

@@ -4,6 +4,7 @@
 #include "keys/layout/KeyEditor.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 
 namespace norvane::keys
 {
@@ -19,6 +20,7 @@ public:
         StateRole = Qt::UserRole, ///< KeyState as a number
         FoundRole,                ///< whether the last search has found the cell
         MarkedRole,               ///< whether the key is marked for a swap
+        PreviewRole,              ///< whether the cell shows what was not put on its key yet
     };
 
     KeyGridModel(const KeyLevel& level, const KeyEditor& editor, QObject* parent = nullptr);
@@ -27,6 +29,9 @@ public:
     void refresh();
     /// Marks the cells that a search has found; they remain marked until the next search.
     void setFound(KeyCells cells);
+
+    /// Shows these keys in place of the level's own, which they would replace.
+    void setPreview(const std::vector<PlacedKey>& keys);
 
     [[nodiscard]] static KeyCell cellOf(const QModelIndex& index) { return {index.row(), index.column()}; }
 
@@ -46,12 +51,15 @@ Q_SIGNALS:
     void dropped(const KeyCell& target, bool copies);
 
 private:
+    [[nodiscard]] const Key& shownKey(KeyCell cell) const;
+    [[nodiscard]] int numberOf(KeyCell cell) const { return cell.row * columnCount() + cell.column; }
     [[nodiscard]] QString toolTip(KeyCell cell) const;
     [[nodiscard]] QString spokenState(KeyCell cell) const;
 
     const KeyLevel& m_level;
     const KeyEditor& m_editor;
     KeyCells m_found;
+    QHash<int, Key> m_preview; ///< by numberOf()
 };
 
 } // namespace norvane::keys

@@ -6,8 +6,10 @@
 #include "keys/layout/copylevel.h"
 #include "keys/layout/KeyCellDelegate.h"
 #include "keys/layout/KeyCommands.h"
+#include "keys/layout/KeyFillBar.h"
 #include "keys/layout/KeyGrid.h"
 #include "keys/layout/KeyListPanel.h"
+#include "keys/layout/KeyQuestions.h"
 #include "keys/layout/KeySearch.h"
 #include "keys/layout/KeyViewRow.h"
 #include "keys/layout/LevelRow.h"
@@ -33,37 +35,11 @@ namespace norvane::keys
 namespace
 {
 
-QString refusalText(Refusal refusal)
-{
-    switch (refusal) {
-    case Refusal::FixedKey:
-        return u"A fixed key does the same on every register and cannot be moved or replaced."_s;
-    case Refusal::Outside:
-        return u"The keys would be outside the keyboard."_s;
-    case Refusal::NoKeys:
-        return u"No keys were copied or marked."_s;
-    case Refusal::None:
-        break;
-    }
-    return {};
-}
-
 constexpr int narrowestFind = 80;
 constexpr int widestFind = 180;
 
 /// As many keys as are chosen on purpose or by mistake: from here on the user is asked.
 constexpr std::size_t askedBlock = 4;
-
-QString blockQuestion(std::size_t keys)
-{
-    return u"%1 keys are selected. Put this entry on all of them?"_s.arg(keys);
-}
-
-QString pluFunctionQuestion()
-{
-    return u"Function key 200 goes to the registers as \"0200\", which is a PLU key there, and comes back "
-           u"from them as a PLU key.\r\rPut it on the key all the same?"_s;
-}
 
 } // namespace
 
@@ -77,6 +53,7 @@ KeyLayout::KeyLayout(const KeyGeometry& keyboard, ApplicationValues& values, Box
     Grid1 = new KeyGrid(&m_model, this);
     m_commands = new KeyCommands(m_editor, *Grid1, this);
     m_lists = new KeyListPanel(m_database, this);
+    m_fill = new KeyFillBar(m_level, *Grid1, *m_lists, this);
     m_levels = new LevelRow(this);
     m_status = new ui::StatusLine(this);
     layOut();
@@ -103,6 +80,7 @@ void KeyLayout::layOut()
     head->addWidget(new KeyViewRow(m_commands->viewActions(), this));
     column->addLayout(head);
     column->addLayout(body, 1);
+    column->addWidget(m_fill);
     column->addLayout(makeFindRow());
     column->addWidget(m_status);
 }
@@ -140,6 +118,10 @@ void KeyLayout::connectParts()
     connect(Grid1, &KeyGrid::currentCellChanged, this, &KeyLayout::showKey);
     connect(m_lists, &KeyListPanel::chosen, this, &KeyLayout::assign);
     connect(m_lists, &KeyListPanel::looked, this, &KeyLayout::showItem);
+    connect(&m_commands->fill(), &QAction::toggled, this, &KeyLayout::showFill);
+    connect(m_lists, &KeyListPanel::marksEntered, this, &KeyLayout::fillOrShowFill);
+    connect(m_fill, &KeyFillBar::cancelled, this, [this] { m_commands->fill().setChecked(false); });
+    connect(m_fill, &KeyFillBar::putWanted, this, &KeyLayout::fill);
     connect(m_find, &ui::FindBar::findWanted, this, &KeyLayout::goOnFinding);
     connect(&m_model, &KeyGridModel::dropped, this, &KeyLayout::drop);
 }
@@ -193,6 +175,7 @@ void KeyLayout::showLevel()
     const QString words = u"Keyboard Level. %1"_s.arg(m_level.level());
     setWindowTitle(words);
     m_levels->showLevel(words, m_level.level());
+    m_fill->showPreview();
     find();
     showChanges();
     showKey();
@@ -273,9 +256,51 @@ void KeyLayout::assign(ItemKind kind, const QString& number, bool byEnter)
     if (mayAssign(cells, kind, number)) {
         m_editor.assign(cells.empty() ? KeyCells{Grid1->currentCell()} : cells, kind, number);
         finish(Refusal::None);
+        if (m_lists->goesOn())
+            goToNextKey();
     }
-    if (byEnter)
+    if (byEnter && !m_lists->goesOn())
         Grid1->setFocus();
+}
+
+void KeyLayout::goToNextKey()
+{
+    const KeyCell last = inReadingOrder(Grid1->chosenCells()).back();
+    Grid1->setCurrentCell(keyAfter(m_level.geometry(), last).value_or(last));
+}
+
+void KeyLayout::showFill(bool isOpen)
+{
+    m_fill->setOpen(isOpen);
+    if (isOpen)
+        enterList();
+    else
+        Grid1->setFocus();
+}
+
+/// What Enter begins with several rows marked, Enter ends.
+void KeyLayout::fillOrShowFill()
+{
+    if (m_commands->fill().isChecked())
+        m_fill->put();
+    else
+        m_commands->fill().setChecked(true);
+}
+
+/// The user has seen on which keys the items go.
+void KeyLayout::fill(const FillPlan& plan)
+{
+    const auto comesBackAsPlu = [](const PlacedKey& placed) {
+        return placed.key.function == pluFunction;
+    };
+    if (std::ranges::any_of(plan.keys, comesBackAsPlu) && !askBeforeLoss(m_boxes, pluFunctionQuestion()))
+        return;
+    m_commands->fill().setChecked(false);
+    m_editor.place(plan.keys);
+    finish(Refusal::None);
+    Grid1->setCurrentCell(plan.keys.back().cell);
+    goToNextKey();
+    m_status->setNotice(u"Filled %1 keys"_s.arg(plan.keys.size()));
 }
 
 bool KeyLayout::mayAssign(const KeyCells& cells, ItemKind kind, const QString& number)
@@ -305,6 +330,7 @@ void KeyLayout::drop(KeyCell target, bool copies)
 void KeyLayout::finish(Refusal refusal)
 {
     m_model.refresh();
+    m_fill->showPreview();
     find();
     showChanges();
     showKey();
@@ -370,7 +396,9 @@ void KeyLayout::showPlaces(const Key& key)
 
 void KeyLayout::reject()
 {
-    if (!m_find->sought().isEmpty()) {
+    if (m_commands->fill().isChecked()) {
+        m_commands->fill().setChecked(false);
+    } else if (!m_find->sought().isEmpty()) {
         m_find->clear();
         Grid1->setFocus();
     } else if (!m_editor.marked().empty()) {

@@ -27,6 +27,8 @@ namespace norvane::keys
 {
 
 class KeyCommands;
+class KeyFillBar;
+struct FillPlan;
 class KeyGrid;
 class KeyListPanel;
 class LevelRow;
@@ -80,6 +82,10 @@ private:
 
     void assign(ItemKind kind, const QString& number, bool byEnter);
     [[nodiscard]] bool mayAssign(const KeyCells& cells, ItemKind kind, const QString& number);
+    void goToNextKey();
+    void showFill(bool isOpen);
+    void fillOrShowFill();
+    void fill(const FillPlan& plan);
     void drop(KeyCell target, bool copies);
     void finish(Refusal refusal);
     void showChanges();
@@ -99,6 +105,7 @@ private:
     KeyGrid* Grid1;
     KeyCommands* m_commands;
     KeyListPanel* m_lists;
+    KeyFillBar* m_fill;
     LevelRow* m_levels;
     LevelTools* m_tools = nullptr;
     ui::FindBar* m_find;
