@@ -49,7 +49,7 @@ KeyCommands::KeyCommands(KeyEditor& editor, KeyGrid& grid, QObject* parent)
         {"Smaller", "S&maller", "Ctrl+-", inForm, &KeyCommands::reduce},
         {"Larger", "La&rger", "Ctrl++; Ctrl+=", inForm, &KeyCommands::enlarge},
         {"Lists", "L&ists", "F9", inForm, nullptr},
-        {"Fill", "Fill &Keys", "Ctrl+L", inForm, nullptr},
+        {"Fill", "Fill &Keys", "Ctrl+K", inForm, nullptr},
     }};
     for (const Entry& entry : entries)
         addAction(entry);

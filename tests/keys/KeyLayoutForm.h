@@ -12,7 +12,7 @@ namespace norvane::keys::test
 class KeyLayoutForm : public testing::Test
 {
 protected:
-    KeyLayoutForm()
+    explicit KeyLayoutForm(const KeyGeometry& geometry = dorvikKeyboard()) : keyboard(geometry)
     {
         shop.addKeyboard(keyboard.keysPerLevel);
         shop.addItems();
@@ -105,7 +105,7 @@ protected:
         return QTest::qWaitFor(happened);
     }
 
-    const KeyGeometry& keyboard = dorvikKeyboard();
+    const KeyGeometry& keyboard;
     KeyShop shop{"3"};
     norvane::test::RecordingBoxes boxes;
     std::unique_ptr<KeyLayout> form;
