@@ -107,10 +107,10 @@ void KeyEditor::assign(const KeyCells& cells, ItemKind kind, const QString& numb
     make(std::move(changes));
 }
 
-void KeyEditor::place(const std::vector<PlacedKey>& keys)
+void KeyEditor::place(const std::vector<FilledKey>& keys)
 {
     KeyChanges changes;
-    for (const PlacedKey& placed : keys)
+    for (const FilledKey& placed : keys)
         changes.push_back(changeOf(placed.cell, placed.key));
     make(std::move(changes));
 }

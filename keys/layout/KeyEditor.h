@@ -14,7 +14,7 @@ namespace norvane::keys
 using KeyCells = std::vector<KeyCell>;
 
 /// A cell and what its key is to do.
-struct PlacedKey {
+struct FilledKey {
     KeyCell cell;
     Key key;
 };
@@ -41,7 +41,7 @@ public:
     /// shows the text only and keeps its function.
     void assign(const KeyCells& cells, ItemKind kind, const QString& number);
     /// Puts each key on its cell, which is not a fixed one.
-    void place(const std::vector<PlacedKey>& keys);
+    void place(const std::vector<FilledKey>& keys);
     /// Swaps @p cells, of which @p from moves to @p to, with the keys there. Where both blocks overlap, the
     /// displaced keys fill the freed places.
     Refusal swap(const KeyCells& cells, KeyCell from, KeyCell to);

@@ -22,7 +22,7 @@ struct FillWish {
 
 /// What a fill would do.
 struct FillPlan {
-    std::vector<PlacedKey> keys; ///< in reading order
+    std::vector<FilledKey> keys; ///< in reading order
     int inUse = 0;               ///< those of them that were programmed
     qsizetype withoutRoom = 0;   ///< items beyond the last key
     int placed = 0;              ///< items left out since another key has them

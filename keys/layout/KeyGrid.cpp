@@ -75,7 +75,7 @@ KeyCells KeyGrid::chosenCells() const
     return cells;
 }
 
-void KeyGrid::showPreview(const std::vector<PlacedKey>& keys)
+void KeyGrid::showPreview(const std::vector<FilledKey>& keys)
 {
     m_keys.setPreview(keys);
 }

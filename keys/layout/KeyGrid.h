@@ -28,7 +28,7 @@ public:
     [[nodiscard]] KeyCells chosenCells() const;
 
     /// KeyGridModel::setPreview().
-    void showPreview(const std::vector<PlacedKey>& keys);
+    void showPreview(const std::vector<FilledKey>& keys);
 
     /// Shows the whole keyboard, and goes on doing so while the grid changes its size, until another zoom is
     /// set.

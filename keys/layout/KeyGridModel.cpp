@@ -47,12 +47,12 @@ void KeyGridModel::setFound(KeyCells cells)
     refresh();
 }
 
-void KeyGridModel::setPreview(const std::vector<PlacedKey>& keys)
+void KeyGridModel::setPreview(const std::vector<FilledKey>& keys)
 {
     if (keys.empty() && m_preview.isEmpty())
         return;
     m_preview.clear();
-    for (const PlacedKey& placed : keys)
+    for (const FilledKey& placed : keys)
         m_preview.insert(numberOf(placed.cell), placed.key);
     refresh();
 }

@@ -31,7 +31,7 @@ public:
     void setFound(KeyCells cells);
 
     /// Shows these keys in place of the level's own, which they would replace.
-    void setPreview(const std::vector<PlacedKey>& keys);
+    void setPreview(const std::vector<FilledKey>& keys);
 
     [[nodiscard]] static KeyCell cellOf(const QModelIndex& index) { return {index.row(), index.column()}; }
 

@@ -36,7 +36,7 @@ protected:
         const FillPlan plan =
             planFill(level, {cells, ItemKind::Plu, plus.split(u' '), skipsUsed, skipsPlaced});
         QStringList shown;
-        for (const PlacedKey& placed : plan.keys) {
+        for (const FilledKey& placed : plan.keys) {
             shown += u"%1,%2=%3"_s.arg(placed.cell.row)
                          .arg(placed.cell.column)
                          .arg(unfilledNumber(placed.key.lookUp));
