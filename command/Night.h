@@ -35,16 +35,26 @@ struct NightEnd {
     [[nodiscard]] bool isDone() const { return code == ExitCode::Done; }
 };
 
+/// A step in words.
+struct NightStepName {
+    QLatin1StringView name; ///< "Sales"
+    QLatin1StringView left; ///< when it is left to do: "sales not complete"
+};
 /// The steps of a night in their order. A step that failed does not stop the following ones.
-inline constexpr std::array nightStepNames{
-    QLatin1StringView("Settings"), QLatin1StringView("Planned changes"), QLatin1StringView("Sales"),
-    QLatin1StringView("Reports"),  QLatin1StringView("Publication"),     QLatin1StringView("Copy")};
+inline constexpr auto nightSteps = std::to_array<NightStepName>({
+    {QLatin1StringView("Folder"), QLatin1StringView("folder not in order")},
+    {QLatin1StringView("Planned changes"), QLatin1StringView("planned changes not complete")},
+    {QLatin1StringView("Sales"), QLatin1StringView("sales not complete")},
+    {QLatin1StringView("Reports"), QLatin1StringView("reports not complete")},
+    {QLatin1StringView("Publication"), QLatin1StringView("publication not complete")},
+    {QLatin1StringView("Copy"), QLatin1StringView("not copied")},
+});
 
 /// What came of a night at one shop.
 struct ShopNight {
     QString shop;
     QDate day; ///< that the sales were booked for; invalid if this night has stored none
-    std::array<NightEnd, nightStepNames.size()> steps;
+    std::array<NightEnd, nightSteps.size()> steps;
     QStringList said; ///< by the tools, and what boxes showed
 
     /// Of the first step that is not done.

@@ -77,7 +77,10 @@ public:
 
     void message(const QString& text, const QString& title, BoxIcon /*icon*/) override
     {
-        m_said << QString(title.isEmpty() ? text : u"%1: %2"_s.arg(title, text)).replace(u'\r', u'\n');
+        const QString plain = QString(text).replace(u'\r', u'\n').replace(u"\n\n"_s, u"\n"_s);
+        const QString said = title.isEmpty() || title == pleaseCheck ? plain : u"%1: %2"_s.arg(title, plain);
+        if (!m_said.contains(said))
+            m_said << said;
     }
     bool ask(const QString& text, const QString& title, BoxIcon icon, BoxAnswer /*preset*/) override
     {
@@ -95,7 +98,7 @@ private:
     QStringList& m_said;
 };
 
-const std::array<NightShop::Step, nightStepNames.size()> NightShop::steps{
+const std::array<NightShop::Step, nightSteps.size()> NightShop::steps{
     &NightShop::readSettings, &NightShop::applyPlanned, &NightShop::collect,
     &NightShop::report,       &NightShop::publish,      &NightShop::copy};
 
@@ -142,8 +145,9 @@ void NightShop::attemptSteps()
 /// Boxes that ended a step have said why.
 NightEnd NightShop::failed(ExitCode code, const QString& text) const
 {
-    const bool mayRetry = code == ExitCode::Busy;
-    return {code, text.isEmpty() && !m_said.isEmpty() ? m_said.last() : text, mayRetry};
+    if (code == ExitCode::Busy)
+        return {code, u"another program is at work with it"_s, true};
+    return {code, text.isEmpty() && !m_said.isEmpty() ? m_said.last() : text, false};
 }
 
 NightEnd NightShop::guarded(const std::function<NightEnd()>& work)
@@ -213,11 +217,15 @@ bool NightShop::isCollected() const
     return !m_options.again && isWithinNight(readCollected(m_values).at, m_clock.now());
 }
 
+/// Until the set time it is still the day before.
+QDate NightShop::today() const
+{
+    return m_clock.now().addMSecs(-m_settings.dayBegins.msecsSinceStartOfDay()).date();
+}
+
 QDate NightShop::dayToBook() const
 {
-    if (m_options.day.isValid())
-        return m_options.day;
-    return m_clock.now().addMSecs(-m_settings.dayBegins.msecsSinceStartOfDay()).date();
+    return m_options.day.isValid() ? m_options.day : today();
 }
 
 /// Sales that are stored and not cleared are cleared first: the next collection would count them twice.
@@ -243,7 +251,7 @@ NightEnd NightShop::collect()
 QDate NightShop::lastClosedDay() const
 {
     const QDateTime now = m_clock.now();
-    const QDate yesterday = now.date().addDays(-1);
+    const QDate yesterday = today().addDays(-1);
     const Collected collected = readCollected(m_values);
     return isWithinNight(collected.at, now) ? std::max(collected.day, yesterday) : yesterday;
 }
@@ -280,7 +288,7 @@ NightEnd NightShop::publish()
     return m_chain.publish(m_values);
 }
 
-/// One copy a night.
+/// One copy a night, and another when sales came after it.
 NightEnd NightShop::copy()
 {
     const QString wanted = m_options.copies.isEmpty() ? m_settings.copies : m_options.copies;
@@ -288,7 +296,9 @@ NightEnd NightShop::copy()
         return {};
     const QString folder = QDir(m_workplace.appPath).absoluteFilePath(wanted);
     const auto former = customers::copiesElsewhere(folder, m_result.shop);
-    if (!m_options.again && !former.isEmpty() && isWithinNight(former.front().made, m_clock.now()))
+    const bool isCopied = !former.isEmpty() && isWithinNight(former.front().made, m_clock.now()) &&
+                          !(former.front().made < readCollected(m_values).at);
+    if (isCopied && !m_options.again)
         return {};
     const auto lock = lockFolder();
     const auto made =

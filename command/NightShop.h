@@ -38,7 +38,7 @@ public:
 private:
     class Boxes;
     using Step = NightEnd (NightShop::*)();
-    static const std::array<Step, nightStepNames.size()> steps;
+    static const std::array<Step, nightSteps.size()> steps;
 
     void attemptSteps();
     [[nodiscard]] NightEnd guarded(const std::function<NightEnd()>& work);
@@ -51,6 +51,7 @@ private:
     [[nodiscard]] NightEnd copy();
     [[nodiscard]] std::unique_ptr<FolderLock> lockFolder();
     [[nodiscard]] bool isCollected() const;
+    [[nodiscard]] QDate today() const;
     [[nodiscard]] QDate dayToBook() const;
     [[nodiscard]] QDate lastClosedDay() const;
     template <typename Take>

@@ -44,8 +44,8 @@ QString pageHeadings()
     };
     add(u"Shop"_s);
     add(u"Day"_s);
-    for (const auto& name : nightStepNames)
-        add(name);
+    for (const auto& step : nightSteps)
+        add(step.name);
     add(u"Left to do"_s);
     return u"<tr>%1</tr>\n"_s.arg(row);
 }
@@ -81,7 +81,7 @@ QString ShopNight::leftToDo() const
     QStringList names;
     for (std::size_t step = 0; step < steps.size(); ++step) {
         if (!steps.at(step).isDone())
-            names << QString(nightStepNames.at(step)).toLower();
+            names << QString(nightSteps.at(step).name).toLower();
     }
     return names.join(u", "_s);
 }
@@ -91,9 +91,9 @@ QString ShopNight::inWords() const
     QStringList parts;
     for (std::size_t step = 0; step < steps.size(); ++step) {
         const NightEnd& end = steps.at(step);
-        const QString left = u"%1 left to do: "_s.arg(QString(nightStepNames.at(step)).toLower());
-        if (!end.words.isEmpty())
-            parts << (end.isDone() ? QString() : left) + end.words.simplified();
+        const QString left = end.isDone() ? QString() : nightSteps.at(step).left + u": "_s;
+        if (!end.isDone() || !end.words.isEmpty())
+            parts << left + end.words.simplified();
     }
     return u"%1: %2"_s.arg(shop, parts.isEmpty() ? u"nothing to do"_s : parts.join(u"; "_s));
 }

@@ -94,8 +94,8 @@ QStringList namesOf(const Workplace& workplace, const Invocation& words)
 Listing listingOf(const std::vector<ShopNight>& shops)
 {
     QStringList headings{u"Shop"_s, u"Day"_s};
-    for (const auto& name : nightStepNames)
-        headings << name;
+    for (const auto& step : nightSteps)
+        headings << step.name;
     Listing listing(headings + QStringList{u"Left to do"_s, u"Code"_s});
     for (const ShopNight& shop : shops) {
         QVariantList row{shop.shop, shop.day.isValid() ? QVariant(shop.day) : QVariant()};

@@ -47,14 +47,20 @@ QString ageSince(const QDateTime& written)
     return seconds < 2 * day ? counted(seconds / hour, "hour") : counted(seconds / day, "day");
 }
 
-/// The files that a name may mean, the one written last first.
+/// The files that a name may mean, the one written last first. Only these are looked at: asking for the times
+/// of all files of the program's folder, for each of the names that a step waits for, would take longer than
+/// some steps.
 QFileInfoList spellingsOf(const QString& path)
 {
     const QFileInfo wanted(path);
-    QFileInfoList files = wanted.dir().entryInfoList(QDir::Files | QDir::Hidden | QDir::System, QDir::Time);
-    files.removeIf([&wanted](const QFileInfo& file) {
-        return file.fileName().compare(wanted.fileName(), Qt::CaseInsensitive) != 0;
-    });
+    const QDir folder = wanted.dir();
+    QFileInfoList files;
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Unsorted)) {
+        if (name.compare(wanted.fileName(), Qt::CaseInsensitive) == 0)
+            files << QFileInfo(folder, name);
+    }
+    std::ranges::stable_sort(files, std::ranges::greater(),
+                             [](const QFileInfo& file) { return file.lastModified(); });
     return files;
 }
 

@@ -227,10 +227,10 @@ TEST_F(NightOfShops, WhatCannotBeDoneIsInSummaryAndExitCodeAndStopsNothingElse)
     for (const auto& [name, code] :
          {std::pair(u"ALE"_s, 8), {u"BAR"_s, 9}, {u"CAFE"_s, 9}, {u"DELI"_s, 9}, {u"LOST"_s, 3}})
         EXPECT_EQ(rows[name][u"code"_s].toInt(), code) << name.toStdString();
-    EXPECT_EQ(rows[u"BAR"_s][u"leftToDo"_s], u"settings, sales"_s);
-    EXPECT_EQ(rows[u"CAFE"_s][u"leftToDo"_s], u"settings, sales"_s);
-    EXPECT_EQ(rows[u"DELI"_s][u"leftToDo"_s], u"settings"_s);
-    EXPECT_EQ(rows[u"DELI"_s][u"settings"_s].toString(),
+    EXPECT_EQ(rows[u"BAR"_s][u"leftToDo"_s], u"folder, sales"_s);
+    EXPECT_EQ(rows[u"CAFE"_s][u"leftToDo"_s], u"folder, sales"_s);
+    EXPECT_EQ(rows[u"DELI"_s][u"leftToDo"_s], u"folder"_s);
+    EXPECT_EQ(rows[u"DELI"_s][u"folder"_s].toString(),
               u"reports.ini, line 8: There is no key \"Peroid\". There are: Report, Period, Format, Folder, "
               "Compare.\nreports.ini, line 9: Format is \"doc\"; expected is pdf, csv or xlsx, or several "
               "with commas between."_s);

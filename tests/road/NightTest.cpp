@@ -127,7 +127,7 @@ TEST(Night, OfTwoShopsWithARegisterOffCanBeRepeated)
 
     EXPECT_EQ(north.night(chain), u"0 "_s);
     const QString failed = south.night(chain);
-    EXPECT_TRUE(failed.startsWith(u"6 South Gate: sales left to do: stopped at Consolidate Reports"_s))
+    EXPECT_TRUE(failed.startsWith(u"6 South Gate: sales not complete: stopped at Consolidate Reports"_s))
         << failed.toStdString();
     EXPECT_TRUE(failed.contains(u"8. Time Out"_s)) << failed.toStdString();
     EXPECT_DOUBLE_EQ(north.takings(), rung);
