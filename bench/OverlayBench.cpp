@@ -1,15 +1,21 @@
 // Overlay documents of the largest keyboard: opened, saved, written as a PDF, looked at before printing.
 #include "bench/Ratio.h"
 #include "bench/WidgetMain.h"
+#include "overlay/DocumentEditor.h"
 #include "overlay/DocumentFile.h"
+#include "overlay/KeyboardView.h"
 #include "overlay/OverlayPreview.h"
 #include "overlay/SheetView.h"
+#include "overlay/WholeWords.h"
 #include "tests/support/RecordingBoxes.h"
 
 #include <benchmark/benchmark.h>
+#include <QApplication>
 #include <QFileInfo>
 #include <QImage>
 #include <QTemporaryDir>
+
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -59,6 +65,41 @@ void writePdf(benchmark::State& state)
     state.counters["kilobytes"] = static_cast<double>(QFileInfo(path).size()) / 1000;
 }
 
+/// All cells of the keyboard; every key becomes shorter.
+void setInWholeWords(benchmark::State& state)
+{
+    Document document(Keyboard::Velmar);
+    for (int cell = 0; cell < document.cellCount(); ++cell)
+        document.cell(cell).text = u"Longer Than Its Line %1"_s.arg(cell);
+    std::vector<int> keys(document.layout().keys().size());
+    std::iota(keys.begin(), keys.end(), 0);
+    const ProgrammeTexts programme(keys.size(), {u"One"_s, u"Two"_s, u"Three"_s, u"Four"_s, u"Five"_s});
+    for (auto _ : state) {
+        Document changed = document;
+        const auto result = setWholeWords(changed, keys, programme, usualSmallestSize);
+        require(result.unfit.size() > 100, "three lines of four words are too long");
+    }
+}
+
+/// A step of Shift and an arrow, or of a drag: from half of the keys to all of them and back, with the
+/// painting of what changes.
+void selectKeys(benchmark::State& state)
+{
+    DocumentEditor editor(Keyboard::Velmar);
+    editor.change(u"Fill"_s, [](Document& document) { document = fullDocument(); });
+    KeyboardView view(editor, nullptr);
+    view.resize(1200, 900);
+    view.show();
+    QApplication::processEvents();
+    bool isLarge = false;
+    for (auto _ : state) {
+        isLarge = !isLarge;
+        view.select([isLarge](KeySelection& keys) { keys.selectBlock(0, isLarge ? 168 : 90); });
+        QApplication::processEvents();
+    }
+    require(!view.selection().isEmpty(), "keys are selected");
+}
+
 /// From the creation of the dialog to its first paint.
 void openPreview(benchmark::State& state)
 {
@@ -88,6 +129,8 @@ void movePreview(benchmark::State& state)
 
 BENCHMARK(saveAndOpen)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(writePdf)->Unit(benchmark::kMillisecond);
+BENCHMARK(setInWholeWords)->Unit(benchmark::kMillisecond);
+BENCHMARK(selectKeys)->Unit(benchmark::kMillisecond);
 BENCHMARK(openPreview)->Unit(benchmark::kMillisecond);
 BENCHMARK(movePreview)->Arg(1)->Arg(4)->Arg(10)->Arg(40)->Unit(benchmark::kMillisecond);
 

@@ -72,7 +72,7 @@ void KeysMenu::addTo(QMenuBar& bar)
         {"WholeWordsEntry", "&Whole Words...", &KeysMenu::setWholeWords},
         {"FindEntry", "Fin&d and Replace...", &KeysMenu::find, "Ctrl+F; Ctrl+H"},
     };
-    QMenu* const menu = bar.addMenu(u"&Keys"_s);
+    QMenu* const menu = bar.addMenu(u"K&eys"_s);
     ui::nameControl(*menu, u"Keys"_s);
     for (const Entry& entry : entries) {
         if (entry.needsProgramme && !m_editor.document().geometry().hasImport)

@@ -94,6 +94,8 @@ public:
         Letters& letters = lettersFor(font);
         double width = 0;
         for (const QChar letter : text) {
+            if (letter == softHyphen) // does not print
+                continue;
             auto found = letters.widths.find(letter);
             if (found == letters.widths.end())
                 found = letters.widths.insert(letter,

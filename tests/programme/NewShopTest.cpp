@@ -80,6 +80,8 @@ TEST_F(NewShopTest, HasAllButWhatBelongsToTheOtherShopAlone)
         expected << u"till"_s + overlay::geometryOf(keyboard).files.extension.sliced(1).toString().toUpper();
         m_folder.write(("app/Cafe/" + expected.last().toUtf8()).constData(), "cells");
     }
+    expected << expected.last() + u".notes"_s;
+    m_folder.write(("app/Cafe/" + expected.last().toUtf8()).constData(), "colours");
     expected.sort();
     const TakenOver taken = makeNewShop(m_shop, m_boxes);
     EXPECT_EQ(entries(), expected);

@@ -168,7 +168,11 @@ TEST_F(FormsInFrameTest, TheDesignersOfTwoKeyboardsAndTheLayoutOfTheModelAreModa
 TEST_F(FormsInFrameTest, ADesignerBesideTheMenuIsAskedBeforeTheEnd)
 {
     QWidget& beside = open("Quelmontkeyboard");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_GT(child<QComboBox>(beside, "Zoom").currentIndex(), 0);
     EXPECT_EQ(menuBy([] { letter(Qt::Key_C); }), u"Colours"_s) << "its own menu comes first";
+    EXPECT_EQ(menuBy([] { letter(Qt::Key_E); }), u"Keys"_s);
+    EXPECT_EQ(menuBy([] { letter(Qt::Key_K); }), u"KeyboardPrint"_s) << "left to the main menu";
     EXPECT_EQ(&open("Quelmontkeyboard"), &beside) << "one at a time";
     type(beside, "RichTextBox1_0", "TEA");
     m_main->close();
