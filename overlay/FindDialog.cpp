@@ -101,7 +101,7 @@ void FindDialog::findNextCell()
 void FindDialog::showCell(int cell)
 {
     const OverlayLayout& layout = m_editor.document().layout();
-    m_keyboard.show(cell);
+    m_keyboard.makeCurrent(cell);
     m_keyboard.select([key = layout.keyIndex(cell)](KeySelection& keys) { keys.select({key}); });
     m_outcome->setText(placeName(layout, cell));
 }

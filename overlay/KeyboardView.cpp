@@ -287,7 +287,7 @@ void KeyboardView::enter(int cell)
     Q_EMIT currentCellChanged(cell);
 }
 
-void KeyboardView::show(int cell)
+void KeyboardView::makeCurrent(int cell)
 {
     enter(cell);
 }

@@ -34,7 +34,7 @@ public:
     void goTo(int cell);
     [[nodiscard]] QSize sizeHint() const override;
     /// Scrolls to @p cell and makes it the current one, without the focus.
-    void show(int cell);
+    void makeCurrent(int cell);
     /// Selects what @p work selects and shows it.
     void select(const std::function<void(KeySelection&)>& work);
     [[nodiscard]] const KeySelection& selection() const { return m_selection; }

@@ -220,7 +220,7 @@ void KeysMenu::setWholeWords()
     WholeWordsDialog dialog(document, m_keyboard.selection().keys(),
                             readProgrammeTexts(document.keyboard(), m_databasePath), m_form);
     connect(&dialog, &WholeWordsDialog::keyShown, this,
-            [&](int key) { m_keyboard.show(document.layout().key(key).firstCell); });
+            [&](int key) { m_keyboard.makeCurrent(document.layout().key(key).firstCell); });
     if (dialog.exec() != QDialog::Accepted)
         return;
     m_editor.change(u"Whole Words"_s, [&](Document& changed) { changed = dialog.outcome(); });
