@@ -2,6 +2,7 @@
 // wait for, and a save of a level beside a bare loop that updates the same rows.
 #include "bench/Shop.h"
 #include "bench/WidgetMain.h"
+#include "keys/layout/KeyGrid.h"
 #include "keys/layout/KeyLayout.h"
 #include "keys/layout/KeyLevel.h"
 #include "keys/lookups/frmwlu.h"
@@ -9,7 +10,9 @@
 #include "store/engine/Recordset.h"
 #include "ui/MessageBoxes.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -28,6 +31,8 @@ using bench::require;
 constexpr int pluCount = 100000;
 constexpr int functionCount = 266;
 constexpr int lookUpCount = 99;
+/// A laptop's screen without its bars.
+constexpr QSize laptop{1354, 720};
 
 void addRow(store::Recordset& rows, const char* numberField, const store::Value& number,
             const char* textField, const QString& text)
@@ -179,6 +184,109 @@ void filterPlus(benchmark::State& state)
     times.report(state);
 }
 
+void pressKey(QWidget& control, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QKeyEvent press(QEvent::KeyPress, key, modifiers);
+    QApplication::sendEvent(&control, &press);
+    QApplication::processEvents();
+}
+
+/// All keys in view, one step of the zoom after the other, each of them painted.
+void zoomKeys(benchmark::State& state)
+{
+    Shop shop;
+    NoBoxes boxes;
+    bench::Times times;
+    const auto form = open(shop, boxes);
+    form->resize(laptop);
+    auto& grid = *form->findChild<keys::KeyGrid*>(QStringLiteral("Grid1"));
+    grid.fitKeyboard();
+    QApplication::processEvents();
+    int step = 0;
+    for (auto _ : state) {
+        const int before = grid.zoomPercent();
+        times.add([&] {
+            grid.zoomBy(step++ % 8 < 4 ? 1 : -1);
+            QApplication::processEvents();
+        });
+        require(grid.zoomPercent() != before, "the keys have another size");
+    }
+    times.report(state);
+}
+
+/// The block grows by a row or column of keys with each press; its current key is sought on all levels.
+void selectKeys(benchmark::State& state)
+{
+    Shop shop;
+    NoBoxes boxes;
+    bench::Times times;
+    const auto form = open(shop, boxes);
+    form->resize(laptop);
+    auto& grid = *form->findChild<keys::KeyGrid*>(QStringLiteral("Grid1"));
+    grid.fitKeyboard();
+    QApplication::processEvents();
+    int step = 0;
+    for (auto _ : state) {
+        if (step++ % 24 == 0)
+            grid.setCurrentCell({0, 0});
+        times.add([&] { pressKey(grid, step % 2 == 0 ? Qt::Key_Right : Qt::Key_Down, Qt::ShiftModifier); });
+    }
+    require(grid.chosenCells().size() > 1, "a block is chosen");
+    times.report(state);
+}
+
+/// A level filled from the first rows of 100,000 PLUs, from the preview to the level that has changed.
+void fillLevel(benchmark::State& state)
+{
+    Shop shop;
+    NoBoxes boxes;
+    bench::Times previews;
+    bench::Times fills;
+    const auto form = open(shop, boxes);
+    form->findChild<QRadioButton*>(QStringLiteral("plucode"))->click();
+    auto& list = *form->findChild<QTableView*>(QStringLiteral("plulist"));
+    for (const char* const box : {"FillSkipsUsed", "FillSkipsPlaced"})
+        form->findChild<QCheckBox*>(QLatin1String(box))->setChecked(false);
+    auto* const fill = form->findChild<QAction*>(QStringLiteral("Fill"));
+    int first = 0;
+    for (auto _ : state) {
+        form->findChild<keys::KeyGrid*>(QStringLiteral("Grid1"))->setCurrentCell({0, 0});
+        fill->setChecked(true);
+        QApplication::processEvents();
+        const auto rows = QItemSelection(list.model()->index(first, 0), list.model()->index(first + 199, 1));
+        first += 200;
+        previews.add([&] {
+            list.selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+            QApplication::processEvents();
+        });
+        fills.add([&] {
+            form->findChild<QPushButton*>(QStringLiteral("FillPut"))->click();
+            QApplication::processEvents();
+        });
+        require(!fill->isChecked(), "the level is filled");
+    }
+    fills.report(state);
+    state.counters["preview_ms"] = previews.average();
+}
+
+/// All of 100,000 PLUs marked at once, with the preview.
+void markAllPlus(benchmark::State& state)
+{
+    Shop shop;
+    NoBoxes boxes;
+    bench::Times times;
+    const auto form = open(shop, boxes);
+    form->findChild<QRadioButton*>(QStringLiteral("plucode"))->click();
+    form->findChild<QAction*>(QStringLiteral("Fill"))->setChecked(true);
+    auto& list = *form->findChild<QTableView*>(QStringLiteral("plulist"));
+    for (auto _ : state) {
+        list.clearSelection();
+        QApplication::processEvents();
+        times.add([&] { pressKey(list, Qt::Key_A, Qt::ControlModifier); });
+    }
+    times.report(state);
+}
+
 /// Opened with the list of all PLUs beside its 50 lines.
 void openLookUps(benchmark::State& state)
 {
@@ -273,6 +381,10 @@ void saveLevel(benchmark::State& state)
 BENCHMARK(openEditor)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(changeLevel)->Unit(benchmark::kMillisecond)->Iterations(50);
 BENCHMARK(filterPlus)->Unit(benchmark::kMillisecond)->Iterations(60);
+BENCHMARK(zoomKeys)->Unit(benchmark::kMillisecond)->Iterations(60);
+BENCHMARK(selectKeys)->Unit(benchmark::kMillisecond)->Iterations(96);
+BENCHMARK(fillLevel)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(markAllPlus)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(openLookUps)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(nextLookUp)->Unit(benchmark::kMillisecond)->Iterations(90);
 BENCHMARK(saveLevel)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(50);

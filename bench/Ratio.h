@@ -62,9 +62,10 @@ public:
         m_worst = std::max(m_worst, ms);
         ++m_count;
     }
+    [[nodiscard]] double average() const { return m_sum / m_count; }
     void report(benchmark::State& state) const
     {
-        state.counters["processor_ms"] = m_sum / m_count;
+        state.counters["processor_ms"] = average();
         state.counters["worst_ms"] = m_worst;
     }
 

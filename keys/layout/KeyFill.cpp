@@ -72,22 +72,25 @@ QString counted(qsizetype count, const QString& what)
 
 } // namespace
 
+qsizetype mostItems(const KeyGeometry& keyboard)
+{
+    return 2 * static_cast<qsizetype>(keyboard.keysPerLevel);
+}
+
 FillPlan planFill(KeyLevel& level, const FillWish& wish)
 {
     FillPlan plan;
     const KeyCells room = roomFor(level, wish);
-    // Of a list of 100,000, no more than these can find a key: each key of the level may have one already.
-    const qsizetype examined = std::min<qsizetype>(wish.numbers.size(), 2 * level.geometry().keysPerLevel);
     std::vector<Key> keys;
-    for (const QString& number : wish.numbers.first(examined)) {
+    for (const QString& number : wish.numbers) {
         if (const std::optional<Key> key = level.items().keyFor(wish.kind, number))
             keys.push_back(*key);
     }
-    plan.gone = static_cast<int>(examined - std::ssize(keys));
+    plan.gone = static_cast<int>(wish.numbers.size() - std::ssize(keys));
     if (wish.skipsPlaced)
         plan.placed = leaveOutPlaced(keys, level, room);
     const std::size_t filled = std::min(keys.size(), room.size());
-    plan.withoutRoom = std::ssize(keys) - static_cast<qsizetype>(filled) + wish.numbers.size() - examined;
+    plan.withoutRoom = std::ssize(keys) - static_cast<qsizetype>(filled) + wish.further;
     for (std::size_t i = 0; i < filled; ++i) {
         plan.inUse += level.key(room[i]).state != KeyState::Unprogrammed;
         plan.keys.push_back({room[i], keys[i]});

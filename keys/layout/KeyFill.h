@@ -16,6 +16,7 @@ struct FillWish {
     KeyCells cells; ///< a block; a single cell means all keys from there to the end of the level
     ItemKind kind = ItemKind::Plu;
     QStringList numbers;      ///< in the order of the keys
+    qsizetype further = 0;    ///< items after these, which find no key
     bool skipsUsed = false;   ///< keys that are programmed keep what they do
     bool skipsPlaced = false; ///< an item that another key of the level has is left out
 };
@@ -28,6 +29,9 @@ struct FillPlan {
     int placed = 0;              ///< items left out since another key has them
     int gone = 0;                ///< numbers of no item in the tables
 };
+
+/// As many items as can find a key of a level at all: each key may have one of them already.
+[[nodiscard]] qsizetype mostItems(const KeyGeometry& keyboard);
 
 /// Row by row from the left, without fixed keys. An item is left out for a key only that keeps what it does.
 [[nodiscard]] FillPlan planFill(KeyLevel& level, const FillWish& wish);

@@ -78,8 +78,8 @@ void KeyFillBar::setOpen(bool isOpen)
 
 FillWish KeyFillBar::wish() const
 {
-    const MarkedItems items = m_lists.marked();
-    return {m_grid.chosenCells(), items.kind, items.numbers, m_skipsUsed->isChecked(),
+    const MarkedItems items = m_lists.marked(mostItems(m_level.geometry()));
+    return {m_grid.chosenCells(),      items.kind, items.numbers, items.further, m_skipsUsed->isChecked(),
             m_skipsPlaced->isChecked()};
 }
 

@@ -36,6 +36,16 @@ constexpr ItemList::Names rows[] = {
 
 constexpr int panelPixels = 260;
 
+/// First and last row of each range that is selected, in the order of the rows.
+std::vector<std::pair<int, int>> rowRanges(const QTableView& view)
+{
+    std::vector<std::pair<int, int>> ranges;
+    for (const QItemSelectionRange& range : view.selectionModel()->selection())
+        ranges.emplace_back(range.top(), range.bottom());
+    std::ranges::sort(ranges);
+    return ranges;
+}
+
 } // namespace
 
 KeyListPanel::KeyListPanel(const std::shared_ptr<store::Database>& database, QWidget* parent)
@@ -176,17 +186,15 @@ void KeyListPanel::setMarking(bool isMarking)
         markAll();
 }
 
-MarkedItems KeyListPanel::marked() const
+MarkedItems KeyListPanel::marked(qsizetype most) const
 {
-    MarkedItems items{m_kind, {}};
+    MarkedItems items{m_kind, {}, 0};
     const QAbstractItemModel& model = *shownList().model;
-    std::vector<std::pair<int, int>> ranges;
-    for (const QItemSelectionRange& range : shownList().view->selectionModel()->selection())
-        ranges.emplace_back(range.top(), range.bottom());
-    std::ranges::sort(ranges);
-    for (const auto& [top, bottom] : ranges) {
-        for (int row = top; row <= bottom; ++row)
-            items.numbers += ItemList::numberAt(model.index(row, 0));
+    for (const auto& [top, bottom] : rowRanges(*shownList().view)) {
+        const auto listed = std::min<qsizetype>(bottom - top + 1, most - items.numbers.size());
+        for (qsizetype row = 0; row < listed; ++row)
+            items.numbers += ItemList::numberAt(model.index(top + static_cast<int>(row), 0));
+        items.further += bottom - top + 1 - listed;
     }
     return items;
 }

@@ -24,6 +24,7 @@ namespace norvane::keys
 struct MarkedItems {
     ItemKind kind = ItemKind::Function;
     QStringList numbers;
+    qsizetype further = 0; ///< how many more there are
 };
 
 /// Function keys, PLUs and window look-ups, one list of them shown, with a box that filters it. A table is
@@ -43,7 +44,8 @@ public:
     void clearFilter();
     /// From here on rows are marked for a fill, all at once where a filter or a choice is set.
     void setMarking(bool isMarking);
-    [[nodiscard]] MarkedItems marked() const;
+    /// The first @p most marked rows: of a long list nobody needs all.
+    [[nodiscard]] MarkedItems marked(qsizetype most) const;
     /// Whether the next key follows once an item was put on one.
     [[nodiscard]] bool goesOn() const;
 

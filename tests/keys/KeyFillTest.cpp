@@ -34,7 +34,7 @@ protected:
                                      bool skipsPlaced)
     {
         const FillPlan plan =
-            planFill(level, {cells, ItemKind::Plu, plus.split(u' '), skipsUsed, skipsPlaced});
+            planFill(level, {cells, ItemKind::Plu, plus.split(u' '), 0, skipsUsed, skipsPlaced});
         QStringList shown;
         for (const FilledKey& placed : plan.keys) {
             shown += u"%1,%2=%3"_s.arg(placed.cell.row)
@@ -82,6 +82,8 @@ TEST_F(KeyFillTest, FromASingleKeyTheFillGoesOnToTheEndOfTheLevel)
     EXPECT_EQ(filled({{0, 15}}, u"1 2 4"_s, true, true), "0,15=1 1,0=2 1,3=4: 3 keys.");
     EXPECT_EQ(filled({{9, 14}}, u"1 2 4"_s, true, true), "9,14=1 9,15=2: 2 keys. Left out: 1 without room.");
     EXPECT_EQ(filled({{0, 0}}, u"1"_s, true, true), "0,2=1: 1 key.");
+    const FillWish ofMany{{{9, 15}}, ItemKind::Plu, {u"1"_s, u"2"_s}, 99998, true, true};
+    EXPECT_EQ(planText(planFill(level, ofMany)), u"1 key. Left out: 99999 without room."_s);
     EXPECT_EQ(keyAfter(keyboard, {9, 15}), std::nullopt);
 }
 

@@ -78,6 +78,28 @@ protected:
         m_shop.boxes().answers.clear();
     }
 
+    /// As the tables have them, in their order.
+    [[nodiscard]] QByteArrayList pluNumbers() const
+    {
+        const auto numbers =
+            test::rowsOf(m_shop.values().databasePath, u"select plunumber from pludata order by plunumber"_s);
+        return QByteArray::fromStdString(numbers).split(' ');
+    }
+    /// Fills the keys from a cell on with the PLUs of these numbers, also those in use.
+    void fillKeys(keys::KeyCell from, const QString& range)
+    {
+        m_shop.choose("KeyboardLocation", [&](const QDialog& form) {
+            auto& grid = test::child<QTableView>(form, "Grid1");
+            grid.setCurrentIndex(grid.model()->index(from.row, from.column));
+            test::press(form, "FillButton");
+            test::child<QRadioButton>(form, "plucode").click();
+            typeInto(test::child<QLineEdit>(form, "ListFilter"), range);
+            for (const char* const skips : {"FillSkipsUsed", "FillSkipsPlaced"})
+                test::child<QCheckBox>(form, skips).click();
+            test::press(form, "FillPut");
+            leave(form, "CSCmdBtn1", "CSCmdBtn2");
+        });
+    }
     /// Fills the first three lines of a look-up that was empty: PLUs 4 and 2 of the list, function key 5.
     void fillLookUp()
     {
@@ -183,6 +205,13 @@ protected:
         const QList<QByteArray> lines = readWholeFile(journal).trimmed().split('\n');
         return lines.last().split(',').at(lines.first().split(',').indexOf("plu"));
     }
+    /// What both tables hold for all keys of all levels.
+    [[nodiscard]] std::string keyTables() const
+    {
+        const QString& path = m_shop.values().databasePath;
+        return test::rowsOf(path, u"select keylink from keylink order by id"_s) +
+               test::rowsOf(path, u"select nlu from nlu order by id"_s);
+    }
     void sendAndStartAnew()
     {
         EXPECT_TRUE(m_shop.download(keyBoxes).isEmpty());
@@ -205,11 +234,6 @@ TEST_P(KeysRoad, KeysAndLookUpsReachARegisterAndASecondCustomer)
     fillLookUp();
     const QString lookUp = shownLookUp();
     EXPECT_TRUE(lookUp.startsWith(u"15|Favourites|2|0|1|1|1|PLU "_s)) << lookUp.toStdString();
-    const auto keyTables = [this] {
-        const QString& path = m_shop.values().databasePath;
-        return test::rowsOf(path, u"select keylink from keylink order by id"_s) +
-               test::rowsOf(path, u"select nlu from nlu order by id"_s);
-    };
     const std::string keys = keyTables();
     sendAndStartAnew();
     EXPECT_EQ(rungOn(to), article);
@@ -222,6 +246,31 @@ TEST_P(KeysRoad, KeysAndLookUpsReachARegisterAndASecondCustomer)
     EXPECT_EQ(record.at(10) + ' ' + record.at(11), "40 000500000000000000");
     EXPECT_EQ(keyTables(), keys);
     EXPECT_EQ(shownLookUp(), lookUp);
+}
+
+TEST_P(KeysRoad, AFilledLevelReachesARegisterAndASecondCustomer)
+{
+    const keys::KeyCell first{0, 0}; // a fixed key on a Dorvik
+    const std::string before = keyTables();
+    const QByteArrayList plus = pluNumbers();
+    ASSERT_GE(plus.size(), 20);
+    fillKeys(first, QString::fromLatin1(plus.front() + ".." + plus.at(19)));
+    const std::string keys = keyTables();
+    EXPECT_NE(keys, before);
+    sendAndStartAnew();
+    EXPECT_EQ(keyTables(), keys);
+    const QList<QByteArrayList> links = m_shop.recordsOf(1, linkFile);
+    const QList<QByteArrayList> numbers = m_shop.recordsOf(1, numberFile);
+    QByteArrayList onKeys;
+    for (int cell = 0; onKeys.size() < 20; ++cell) {
+        const auto number = keyboard().keyNumber({cell / keyboard().columns, cell % keyboard().columns});
+        if (!number)
+            continue;
+        EXPECT_EQ(links.at(*number - 1).first(), "0200");
+        onKeys += numbers.at(*number - 1).first();
+    }
+    EXPECT_EQ(onKeys, plus.first(20));
+    EXPECT_EQ(rungOn({1, 0}), onKeys.at(keyboard().columns - std::ssize(keyboard().fixedCells)));
 }
 
 TEST_P(KeysRoad, FunctionKeysArriveExceptForWhatTheirPackingLoses)
