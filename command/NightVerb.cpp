@@ -8,6 +8,8 @@
 #include "platform/RuntimeFailure.h"
 #include "platform/WholeFile.h"
 
+#include <QProcess>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -162,7 +164,7 @@ void night(const Workplace& workplace, const Invocation& words)
     const NightOptions options = optionsOf(workplace, words);
     const QStringList names = namesOf(workplace, words);
     // A list of shops that a script reads from standard input must not be eaten by anything that runs here.
-    if (std::freopen("/dev/null", "r", stdin) == nullptr)
+    if (std::freopen(qPrintable(QProcess::nullDevice()), "r", stdin) == nullptr)
         std::fclose(stdin);
     catchStopSignals();
     const NightShown shown(workplace, words);

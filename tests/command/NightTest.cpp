@@ -271,6 +271,80 @@ TEST_F(NightOfShops, AKilledNightLosesNothingAndCountsNothingTwice)
     EXPECT_EQ(run({u"night"_s}).out, u"ALE: nothing to do\n1 of 1 shops are complete.\n"_s);
 }
 
+/// A copy that was cut off has no name yet; the next one takes its place.
+TEST_F(NightOfShops, CopiesAreMadeOnceANightAndNeverHalf)
+{
+    makeShop(u"ALE"_s);
+    const QString elsewhere = m_folder.appFile(u"../elsewhere"_s);
+    writeApp(u"night.ini"_s, "[Night]\nCopies=../elsewhere\n");
+    EXPECT_EQ(run({u"night"_s}).code, 7) << "the disk is not connected";
+    EXPECT_TRUE(QDir().mkpath(elsewhere));
+    // Large enough to be caught while it is written.
+    QByteArray large(qsizetype{40} * 1024 * 1024, '\0');
+    for (qsizetype at = 0; at < large.size(); ++at)
+        large[at] = static_cast<char>((at * at) >> 7U);
+    writeApp(u"ALE/large.Velmar"_s, large);
+    QProcess killed;
+    killed.start(QString::fromUtf8(COMMAND), {u"night"_s, u"--folder"_s, m_folder.appPath()});
+    while (!pathExists(elsewhere + u"/ALE/unfinished/copy.zip"_s) && !killed.waitForFinished(1)) {
+    }
+    killed.kill();
+    EXPECT_TRUE(killed.waitForFinished(-1));
+    EXPECT_EQ(killed.exitStatus(), QProcess::CrashExit);
+    const auto copies = [&elsewhere] {
+        return QDir(elsewhere + u"/ALE"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    };
+    EXPECT_EQ(copies(), QStringList{u"unfinished"_s});
+
+    const Ended made = run({u"night"_s});
+    EXPECT_TRUE(made.out.contains(u"ALE: copied to "_s)) << made.out.toStdString() << made.err.toStdString();
+    EXPECT_EQ(copies().size(), 1);
+    EXPECT_TRUE(run({u"night"_s}).out.contains(u"ALE: nothing to do"_s));
+    EXPECT_EQ(run({u"verify"_s, elsewhere}).code, 0);
+
+    const QString copy = elsewhere + u"/ALE/"_s + copies().front();
+    EXPECT_EQ(run({u"restore"_s, u"NEW"_s, copy}).code, 0);
+    EXPECT_EQ(readWholeFile(m_folder.appFile(u"NEW/large.Velmar"_s)), large);
+    EXPECT_TRUE(QFile::remove(m_folder.appFile(u"ALE/velmar.mdb"_s)));
+    EXPECT_EQ(run({u"restore"_s, u"ale"_s, copy}).code, 0);
+    EXPECT_EQ(run({u"check"_s, u"ALE"_s}).code, 0);
+    writeWholeFile(copy, readWholeFile(copy).chopped(100));
+    EXPECT_EQ(run({u"verify"_s, elsewhere}).code, 8);
+    EXPECT_EQ(run({u"restore"_s, u"NEWER"_s, copy}).code, 8);
+    EXPECT_EQ(run({u"copy"_s, u"NEW"_s, u"NOBODY"_s, u"--to"_s, elsewhere}).code, 3);
+    EXPECT_TRUE(pathExists(elsewhere + u"/NEW"_s)) << "the other one is copied";
+}
+
+/// What is set in a shop's folder counts for it; where the day may be wrong, nothing is collected.
+TEST_F(NightOfShops, AShopsOwnSettingsTakeThePlaceOfTheProgramsOnes)
+{
+    makeShop(u"ALE"_s);
+    makeShop(u"BAR"_s);
+    writeApp(u"reports.ini"_s, "; all shops\n[Daily]\nReport=finsales\nPeriod=day\nFormat=csv\nFolder=out\n"
+                               "[Weekly]\nReport=nothing\nPeriod=week\nFormat=csv\nFolder=out\n");
+    writeApp(u"BAR/reports.ini"_s, "[daily]\nReport=mine\nPeriod=day\nFormat=CSV\nFolder=own\n"
+                                   "Compare=year\n[a/b]\nno key\n[Short]\nReport=mine\n");
+    writeApp(u"BAR/mine.rpt"_s, readWholeFile(m_folder.appFile(u"finsales.rpt"_s)));
+    writeApp(u"ALE/night.ini"_s, "[Night]\nDayBegins=25:00\n[Other]\n");
+    ring(u"BAR"_s);
+    const Ended ended = run({u"night"_s});
+    EXPECT_EQ(ended.code, 9);
+    for (const QString& text :
+         {u"night.ini, line 2: DayBegins is \"25:00\"; expected is a time before noon, such as 4:00."_s,
+          u"night.ini, line 3: There is no section [Other], only [Night]."_s,
+          u"sales not complete: not collected: night.ini may say for which day"_s,
+          u"reports.ini, line 7: [a/b] cannot be a part of a file's name."_s,
+          u"reports.ini, line 8: \"no key\" is neither a [section] nor Key=Value."_s,
+          u"reports.ini, line 9: [Short] has no key Period."_s})
+        EXPECT_TRUE(ended.err.contains(text)) << text.toStdString() << ended.err.toStdString();
+    EXPECT_EQ(takings(u"ALE"_s), "");
+    EXPECT_EQ(reports(), QStringList());
+    const QString own = u"own/BAR daily %1.csv"_s.arg(QDate::currentDate().toString(Qt::ISODate));
+    const QByteArray written = readWholeFile(m_folder.appFile(own));
+    EXPECT_EQ(written.left(written.indexOf('\n')).count(','), 9)
+        << "beside the year before: " << written.toStdString();
+}
+
 TEST_F(NightOfShops, SalesCanBeBookedForADayBefore)
 {
     makeShop(u"ALE"_s);

@@ -156,6 +156,27 @@ TEST(Night, OfTwoShopsWithARegisterOffCanBeRepeated)
         << chainSales(server).toStdString();
 }
 
+/// The server stops between two shops' nights and is there again for the repetition.
+TEST(Night, WithoutServerEverythingElseIsDoneAndThePublicationFollows)
+{
+    test::PostgresServer server;
+    ASSERT_TRUE(test::PostgresServer::isInstalled() && server.start());
+    server.makeDatabase(u"chain"_s);
+    const QString chain = server.connection(u"chain"_s);
+    const Branch north(u"North Gate"_s);
+    const double rung = north.ring();
+    server.stop();
+    const QString without = north.night(chain);
+    EXPECT_TRUE(without.startsWith(u"10 North Gate: 3"_s)) << without.toStdString();
+    EXPECT_TRUE(without.contains(u"publication not complete: "_s)) << without.toStdString();
+    EXPECT_DOUBLE_EQ(north.takings(), rung);
+    const std::string sales = north.sales();
+    ASSERT_TRUE(server.start());
+    EXPECT_EQ(north.night(chain), u"0 "_s);
+    EXPECT_EQ(north.sales(), sales);
+    EXPECT_TRUE(chainSales(server).endsWith(u"North Gate|"_s + QString::number(rung, 'f', 2)));
+}
+
 /// Three days at two shops. At one of them register 2 cannot be cleared on the second evening.
 TEST(Night, AfterAClearThatFailedCountsNothingTwice)
 {
