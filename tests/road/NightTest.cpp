@@ -167,7 +167,7 @@ TEST(Night, WithoutServerEverythingElseIsDoneAndThePublicationFollows)
     const double rung = north.ring();
     server.stop();
     const QString without = north.night(chain);
-    EXPECT_TRUE(without.startsWith(u"10 North Gate: 3"_s)) << without.toStdString();
+    EXPECT_TRUE(without.startsWith(u"10 North Gate: "_s)) << without.toStdString();
     EXPECT_TRUE(without.contains(u"publication not complete: "_s)) << without.toStdString();
     EXPECT_DOUBLE_EQ(north.takings(), rung);
     const std::string sales = north.sales();
