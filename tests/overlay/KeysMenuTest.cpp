@@ -158,6 +158,14 @@ TEST_F(KeysMenuTest, AGroupKeepsItsColoursForTheNextImport)
     fillShop();
     open(Keyboard::Velmar);
     choose("ImportLevel1");
+    chooseIn<KeyKinds>("SelectKind", [](KeyKinds& dialog) {
+        auto& level = *dialog.findChild<QComboBox*>();
+        level.setCurrentIndex(1);
+        EXPECT_TRUE(
+            dialog.findChild<QLabel*>(u"KindsFailure"_s)->text().contains(u"level 2 ends at row 338"_s));
+        EXPECT_FALSE(dialog.findChild<QPushButton*>(u"SelectButton"_s)->isEnabled());
+        level.setCurrentIndex(0);
+    });
     selectKind(u"Functions: 13"_s);
     EXPECT_EQ(selection().keys().back(), 12);
     selectKind(u"Numeric keys: 12"_s);
