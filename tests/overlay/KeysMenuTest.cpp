@@ -39,15 +39,21 @@ protected:
         }
     }
     [[nodiscard]] const KeySelection& selection() { return m_form->findChild<KeyboardView*>()->selection(); }
-    void drag(int from, int to)
+    void drag(int from, int to) { drag(from, to, to); }
+    void drag(int from, int over, int to)
     {
-        const QPoint end = cell(from).mapFromGlobal(cell(to).mapToGlobal(cell(to).rect().center()));
         QTest::mousePress(&cell(from), Qt::LeftButton);
-        for (int step = 1; step <= 4; ++step) {
-            const QPoint start = cell(from).rect().center();
-            QTest::mouseMove(&cell(from), start + (end - start) * step / 4);
+        for (const int next : {over, to}) {
+            for (const int share : {2, 1})
+                QTest::mouseMove(&cell(from), placeOf(from) + (placeIn(from, next) - placeOf(from)) / share);
         }
-        QTest::mouseRelease(&cell(from), Qt::LeftButton, {}, end);
+        QTest::mouseRelease(&cell(from), Qt::LeftButton, {}, placeIn(from, to));
+    }
+    QPoint placeOf(int index) { return cell(index).rect().center(); }
+    /// The middle of cell @p index, seen from another.
+    QPoint placeIn(int seenFrom, int index)
+    {
+        return cell(seenFrom).mapFromGlobal(cell(index).mapToGlobal(placeOf(index)));
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
@@ -92,6 +98,10 @@ TEST_F(KeysMenuTest, SelectsByMouse)
     EXPECT_TRUE(cell(4).accessibleName().endsWith(u", selected"_s));
     drag(0, 39);
     EXPECT_EQ(selection().count(), 2) << "a straight drag, and a new one";
+    drag(6, 39, 6);
+    EXPECT_EQ(selection().keys(), std::vector{2}) << "there and back";
+    EXPECT_EQ(saved(6), "|16777215|0|Arial|8|True|False");
+    drag(0, 39);
     QTest::mouseClick(&cell(120), Qt::LeftButton, Qt::ControlModifier);
     QTest::mouseClick(&cell(0), Qt::LeftButton, Qt::ControlModifier);
     EXPECT_EQ(selection().keys(), (std::vector{13, 40}));
@@ -191,7 +201,8 @@ TEST_F(KeysMenuTest, AGroupKeepsItsColoursForTheNextImport)
     EXPECT_EQ(colourOf(74) + colourOf(77) + colourOf(41), "#0000ff#ffffff#ffffff") << "rows 15, 14 and 26";
     choose("Undo");
     EXPECT_EQ(colourOf(74), "#ffffff");
-    m_folder.folder().write("tea.Velmar.notes", "[Overlay]\r\nKeyboard=Dorvik\r\nLevel=1\r\n");
+    m_folder.folder().write("tea.Velmar.notes",
+                            "[Overlay]\nKeyboard=Dorvik\nLevel=1\n[Group 7]\nBackGround=1\nTextColour=2\n");
     m_dialogs.files = {path("tea.Velmar")};
     m_boxes.unsavedAnswers = {UnsavedAnswer::Discard};
     choose("Open");
@@ -253,6 +264,9 @@ TEST_F(KeysMenuTest, FindsAndReplaces)
     sought.setText(u"ER"_s);
     dialog.findChild<QLineEdit*>(u"ReplaceText"_s)->setText(u"CHEESE"_s);
     dialog.findChild<QCheckBox*>(u"MatchCase"_s)->setChecked(true);
+    click("FindNextButton");
+    click("FindNextButton");
+    EXPECT_EQ(outcome.text(), u"Column 3, key 1, line 2"_s) << "not the line above";
     click("ReplaceAllButton");
     EXPECT_EQ(outcome.text(), u"Replaced in 144 lines."_s);
     EXPECT_EQ(key(72), u"HAMBURG|CHEESE |15"_s);
