@@ -35,12 +35,12 @@ std::string everything(int plus, int years)
            "insert into GROUPS (GROUPNO, DESCRIPTION) " +
            bench::numbersTo(49) + "select i, 'GROUP ' || i from n" +
            rowsOf("PLUSALES (ID, SALESDATE, PROMO, WASTE, COUNT1, VALUE1)",
-                  "printf('%018d', k), day, 0, 0, (k * 31 + i * 7) % 50, ((k * 31 + i * 7) % 50) * 1.25", plus,
-                  days) +
+                  "printf('%018d', k), day, 0, 0, (k * 31 + i * 7) % 50, ((k * 31 + i * 7) % 50) * 1.25",
+                  plus, days) +
            rowsOf("TIMESALES (ID, SALESDATE, QUANTITY, VALUE)", "k, day, k, k * 1.25", 24, days) +
            rowsOf("FINANCIALSALES (ID, SALESDATE, QUANTITY, VALUE)", "k, day, k, k * 1.25", 80, days) +
-           rowsOf("CLERKSALES (ID, CLERKID, SALESDATE, QUANTITY, VALUE)", "k % 40, k / 40 + 1, day, k, k * 1.25",
-                  400, days);
+           rowsOf("CLERKSALES (ID, CLERKID, SALESDATE, QUANTITY, VALUE)",
+                  "k % 40, k / 40 + 1, day, k, k * 1.25", 400, days);
 }
 
 class Shop : public bench::Shop
@@ -70,7 +70,8 @@ struct PeriodOfSummary {
 /// The value of each PLU alone, in binary numbers.
 void addUpBare(const BareDatabase& bare, const std::string& rows)
 {
-    sqlite3_stmt* const select = bare.prepare(("select ID, sum(VALUE1) from " + rows + " group by ID").c_str());
+    sqlite3_stmt* const select =
+        bare.prepare(("select ID, sum(VALUE1) from " + rows + " group by ID").c_str());
     double total = 0;
     while (sqlite3_step(select) == SQLITE_ROW)
         total += sqlite3_column_double(select, 1);

@@ -61,7 +61,7 @@ public:
         m_query.readNames(money);
         ReportData data(columns());
         ChartBuilder charts(m_layout);
-        if (m_period)
+        if (m_period && !m_days)
             m_days = m_query.salesDays(*m_period);
         addLines(data, charts);
         addCharts(data, charts, money);
@@ -73,6 +73,8 @@ public:
             data.link = linkOf(m_layout, m_request.filters);
         return data;
     }
+    /// The days of the period, where they are known before make().
+    void setDays(const std::optional<SalesDays>& days) { m_days = days; }
     [[nodiscard]] bool hasComparedColumn() const
     {
         return std::ranges::any_of(m_layout.columns,
@@ -320,11 +322,9 @@ SummaryFrame Run::frame()
     if (!m_isOnlyPeriod || (m_period && m_period->isOpen()))
         throw ReportError(u"%1 is a summary of a period, and its selection is none."_s.arg(m_layout.path));
     SummaryFrame frame;
-    frame.period = m_period;
     if (m_period)
         m_days = m_query.salesDays(*m_period);
-    if (m_days)
-        frame.missing = m_days->missing;
+    frame.now = {m_period, m_days};
     setHeading(frame.heading);
     frame.heading.notice = notice();
     return frame;
@@ -334,20 +334,23 @@ SummaryFrame Run::frame()
 SummaryFrame frameOf(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing)
 {
     SummaryFrame frame = Run(request, layout, keepGoing).frame();
-    if (request.comparedWith == ComparedWith::Nothing || !frame.period)
+    if (request.comparedWith == ComparedWith::Nothing || !frame.now.period)
         return frame;
-    frame.before = otherPeriod(request, *frame.period);
     ReportRequest other = request;
-    other.selectionFormula = formulaOf(layout.source.day()->text(), *frame.before);
-    frame.heading.subtitle += u"; before: %1"_s.arg(Run(other, layout, keepGoing).frame().heading.subtitle);
+    other.selectionFormula = formulaOf(layout.source.day()->text(), otherPeriod(request, *frame.now.period));
+    const SummaryFrame before = Run(other, layout, keepGoing).frame();
+    frame.before = before.now;
+    frame.heading.subtitle += u"; before: %1"_s.arg(before.heading.subtitle);
     return frame;
 }
 
 ReportData summary(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing)
 {
     return runSummary(request, layout, frameOf(request, layout, keepGoing),
-                      [&keepGoing](const ReportRequest& of, const ReportLayout& block) {
-                          return Run(of, block, keepGoing).make();
+                      [&keepGoing](const ReportRequest& of, const ReportLayout& block, const auto& days) {
+                          Run run(of, block, keepGoing);
+                          run.setDays(days);
+                          return run.make();
                       });
 }
 

@@ -156,9 +156,9 @@ private:
             lines.now = quotient(block, &BlockLines::now);
             lines.before = quotient(block, &BlockLines::before);
         } else if (block.table) {
-            lines.now = linesOf(block, m_frame.period);
+            lines.now = linesOf(block, m_frame.now);
             if (m_frame.before && hasCompared(lines.now))
-                lines.before = linesOf(block, m_frame.before);
+                lines.before = linesOf(block, *m_frame.before);
         }
         const bool isCompared = m_frame.before && lines.before.columnCount() > 0;
         lines.both = isCompared ? comparedReport(lines.now, lines.before) : lines.now;
@@ -166,13 +166,13 @@ private:
     }
 
     /// A list, such as the settings of the registers, has no period and does not tell that there are sales.
-    [[nodiscard]] ReportData linesOf(const BlockLayout& block, const std::optional<Period>& period)
+    [[nodiscard]] ReportData linesOf(const BlockLayout& block, const SummaryPeriod& of)
     {
         const auto day = block.table->source.day();
         ReportRequest request = m_request;
-        request.selectionFormula = day && period ? formulaOf(day->text(), *period) : QString();
+        request.selectionFormula = day && of.period ? formulaOf(day->text(), *of.period) : QString();
         request.comparedWith = ComparedWith::Nothing;
-        ReportData lines = m_run(request, *block.table);
+        ReportData lines = m_run(request, *block.table, day ? of.days : std::nullopt);
         m_hasSales = m_hasSales || (day && lines.lineCount() > 0);
         return block.kind == BlockKind::Figure ? figureOf(lines, block.title) : std::move(lines);
     }
@@ -208,7 +208,7 @@ private:
         case BlockKind::HeatMap:
             return weekTable(own.now, m_frame.heading.from, m_frame.heading.to);
         case BlockKind::Days:
-            return daysTable(m_frame.missing);
+            return daysTable(m_frame.now.days ? m_frame.now.days->missing : std::vector<QDate>());
         default:
             return blockTable(own.both, block);
         }

@@ -3,19 +3,30 @@
 
 #include "reports/lines/ReportLayout.h"
 #include "reports/lines/ReportRun.h"
+#include "reports/lines/SalesDays.h"
+
+#include <functional>
+#include <optional>
 
 namespace norvane::reports
 {
 
+/// A period of a summary, and what is known about its days.
+struct SummaryPeriod {
+    std::optional<Period> period; ///< nothing for all days
+    std::optional<SalesDays> days = {};
+};
+
 /// The lines of @p layout over the selection of @p request, never compared.
-using LayoutRunner = std::function<ReportData(const ReportRequest& request, const ReportLayout& layout)>;
+/// @param days of the selection, which is looked up only once for all blocks.
+using LayoutRunner = std::function<ReportData(const ReportRequest& request, const ReportLayout& layout,
+                                              const std::optional<SalesDays>& days)>;
 
 /// The heading of a summary over its period, and what else the runs of its blocks need.
 struct SummaryFrame {
     ReportHeading heading;
-    std::vector<QDate> missing;   ///< days of the period without a collection
-    std::optional<Period> period; ///< nothing for all days
-    std::optional<Period> before; ///< of a comparison
+    SummaryPeriod now;
+    std::optional<SummaryPeriod> before; ///< of a comparison
 };
 
 /// @return the summary: its blocks, and their lines one after the other, each block as a group. A period
