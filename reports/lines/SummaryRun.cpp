@@ -139,9 +139,7 @@ public:
             if (tables.back().lineCount() == 0)
                 tables.back() = noLines();
         }
-        ReportData data;
-        if (m_hasSales)
-            data = together(tables);
+        ReportData data = together(m_hasSales ? tables : std::vector<ReportData>());
         data.heading = m_frame.heading;
         if (m_hasSales)
             data.heading.notice.clear();
