@@ -257,6 +257,15 @@ private:
     QHash<QString, std::size_t> m_places;
 };
 
+/// The columns beside the sum; a single day is the sum.
+std::vector<int> shownWeekdays(QDate from, QDate to)
+{
+    auto days = weekdaysOf(from, to);
+    if (days.size() == 1)
+        days.clear();
+    return days;
+}
+
 std::vector<ReportCell> weekCells(const QString& name, const WeekTotals::Row& row,
                                   const std::vector<int>& days)
 {
@@ -304,7 +313,7 @@ ReportData quotientOf(const ReportData& first, const ReportData& second, const Q
 ReportData weekTable(const ReportData& data, QDate from, QDate to)
 {
     const int number = columnsOfKind(data, true).back();
-    const auto days = weekdaysOf(from, to);
+    const auto days = shownWeekdays(from, to);
     std::vector<ReportColumn> columns{nameColumn(columnOf(data, columnsOfKind(data, false).at(1)).heading)};
     for (const int day : days) {
         columns.push_back(columnOf(data, number));

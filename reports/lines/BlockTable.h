@@ -21,7 +21,7 @@ namespace norvane::reports
                                     ReportColumn number);
 
 /// Lines of a day, a text and a number, added up by text and day of the week: a line for each text, a column
-/// for each day of the week that @p from to @p to has, and one for their sum.
+/// for each day of the week that @p from to @p to has, if these are several, and one for their sum.
 [[nodiscard]] ReportData weekTable(const ReportData& data, QDate from, QDate to);
 
 /// One line with @p days as a text.

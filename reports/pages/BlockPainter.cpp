@@ -18,7 +18,9 @@ namespace
 // Heights at scale 1.
 constexpr double blockTitleHeight = 5.6;
 constexpr double blockRowPitch = 3.9;
-constexpr double figureHeight = 17;
+constexpr double figureHeight = 12.6;
+constexpr double comparedHeight = 17; ///< of a figure with the other period below it
+constexpr int comparedColumns = 4;
 constexpr double cellGap = 2.2; ///< between the numbers of two columns
 constexpr double titleSize = 3.3;
 
@@ -54,7 +56,7 @@ QStringList BlockPainter::rowsOfText(double width) const
 double BlockPainter::height(double width) const
 {
     if (m_block.kind == BlockKind::Figure)
-        return figureHeight * m_scale;
+        return (m_block.table.columnCount() < comparedColumns ? figureHeight : comparedHeight) * m_scale;
     const auto rows = m_block.table.columnCount() == 1 ? rowsOfText(width).size()
                                                        : m_block.table.lineCount() + (hasHeadings() ? 1 : 0);
     return blockTitleHeight * m_scale + static_cast<double>(rows) * rowHeight();
@@ -108,11 +110,10 @@ void BlockPainter::paintFigure(QPainter& painter, const QRectF& place) const
     };
     draw(m_block.title, {textSize * m_scale, false, ink::pale});
     draw(table.text(0, 1), {numberSize * m_scale, true});
-    constexpr int compared = 4;
-    if (table.columnCount() < compared)
+    if (table.columnCount() < comparedColumns)
         return;
-    const QString change = table.text(0, compared - 1);
-    const bool isRise = !change.startsWith(u'-') && isNumber(table.cell(0, compared - 1));
+    const QString change = table.text(0, comparedColumns - 1);
+    const bool isRise = !change.startsWith(u'-') && isNumber(table.cell(0, comparedColumns - 1));
     draw(u"%1 %  before %2"_s.arg((isRise ? u"+"_s : QString()) + change, table.text(0, 2)), style());
 }
 
@@ -192,7 +193,7 @@ void BlockPainter::paintHeat(QPainter& painter, const QRectF& place) const
     const ReportData& table = m_block.table;
     const double largest = largestHeat(table);
     for (qsizetype line = 0; line < table.lineCount(); ++line) {
-        for (int column = 1; column + 1 < table.columnCount(); ++column) {
+        for (int column = 1; column < endOfHeat(table); ++column) {
             const ReportCell cell = table.cell(line, column);
             const auto* const number = std::get_if<Decimal>(&cell);
             if (number != nullptr && table.lineKind(line) == LineKind::Detail)

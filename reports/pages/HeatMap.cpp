@@ -18,11 +18,17 @@ int mixed(int end, double part)
 
 } // namespace
 
+int endOfHeat(const ReportData& table)
+{
+    constexpr int nameAndSum = 2;
+    return table.columnCount() > nameAndSum ? table.columnCount() - 1 : table.columnCount();
+}
+
 double largestHeat(const ReportData& table)
 {
     double largest = 0;
     for (qsizetype line = 0; line < table.lineCount(); ++line) {
-        for (int column = 1; column + 1 < table.columnCount(); ++column) {
+        for (int column = 1; column < endOfHeat(table); ++column) {
             const ReportCell cell = table.cell(line, column);
             if (const auto* number = std::get_if<Decimal>(&cell);
                 number && table.lineKind(line) == LineKind::Detail)

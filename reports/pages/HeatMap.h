@@ -8,8 +8,10 @@
 namespace norvane::reports
 {
 
-/// The largest number inside the table, its totals left out: the last column and the last line. Never below
-/// 0.
+/// The column after the last one with a shade: that of the sums has none beside others.
+[[nodiscard]] int endOfHeat(const ReportData& table);
+
+/// The largest number with a shade, never below 0. Lines with totals have none.
 [[nodiscard]] double largestHeat(const ReportData& table);
 
 /// The background of a number: white for nothing and what is below it, and the darker the larger it is. Black

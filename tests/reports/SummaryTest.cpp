@@ -154,6 +154,8 @@ TEST_F(Summary, PeriodsWithoutSalesSaySoAndWholeYearsHaveAllDays)
     EXPECT_EQ(block(year, u"Net sales"_s), "Net sales|12.73|0.00|–");
     EXPECT_EQ(block(run(u"date(2026,11,6) to date(2026,11,7)"_s), u"Takings by hour"_s),
               "06:00 to 08:59|0.13|0.00|0.13\nPeriod 9|0.00|0.10|0.10\n# Total|0.13|0.10|0.23");
+    EXPECT_EQ(block(run(u"date(2026,11,6) to date(2026,11,6)"_s), u"Takings by hour"_s),
+              "06:00 to 08:59|0.13\n# Total|0.13");
     auto request = shop.request(ReportShop::installed("daysummary.rpt"), u"{PLUSALES.ID} = 3"_s);
     EXPECT_NE(errorOf(request).find("is a summary of a period"), std::string::npos);
 }
