@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QTextCharFormat>
 #include <QVBoxLayout>
 
@@ -91,6 +92,8 @@ void Frmreports::layOut()
     column->addWidget(makeTargets());
     auto* const more = ui::makeButton(u"MoreReports"_s, u"&More Reports..."_s, this);
     more->setAutoDefault(false);
+    more->setToolTip(u"Ctrl+R"_s);
+    connect(new QShortcut(QKeySequence(u"Ctrl+R"_s), this), &QShortcut::activated, more, &QPushButton::click);
     connect(more, &QPushButton::clicked, this,
             [this] { MoreReports(m_values, m_boxes, m_runner, this).exec(); });
     column->addLayout(ui::makeButtonRow({Generate, CmdExit}, {more}));

@@ -2,14 +2,19 @@
 #include "sales/MoreReports.h"
 
 #include "base/CustomerSettings.h"
+#include "platform/Boxes.h"
 #include "sales/PeriodChooser.h"
+#include "sales/ShopLayouts.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
+#include <QDir>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,58 +24,82 @@ namespace
 {
 
 /// At the usual font, in pixels.
-constexpr QSize listSize(620, 260);
+constexpr QSize listSize(760, 300);
 constexpr int titleWidth = 200;
+constexpr int periodWidth = 60;
 
 } // namespace
 
 MoreReports::MoreReports(const ApplicationValues& values, Boxes& boxes, reports::Runner runner,
                          QWidget* parent)
-    : QDialog(parent), m_values(values), m_report(*this, boxes, std::move(runner)),
+    : QDialog(parent), m_values(values), m_boxes(boxes), m_report(*this, boxes, std::move(runner)),
       m_reports(otherReports(values)), m_list(new QTreeWidget(this)),
       m_period(new PeriodChooser(QString(), this)), m_show(ui::makeButton(u"ShowReport"_s, u"&Show"_s, this)),
-      m_print(ui::makeButton(u"PrintReport"_s, u"P&rint"_s, this))
+      m_print(ui::makeButton(u"PrintReport"_s, u"P&rint"_s, this)),
+      m_copy(ui::makeButton(u"CopyLayout"_s, u"&Copy and Open"_s, this)),
+      m_open(ui::makeButton(u"OpenLayout"_s, u"&Open"_s, this))
 {
     setObjectName(u"MoreReports"_s);
     setWindowTitle(u"More Reports"_s);
-    fillList();
     layOut();
+    fillList();
     connect(m_list, &QTreeWidget::currentItemChanged, this, &MoreReports::showChoice);
     // Enter reaches the default button as well, so it is left to that.
     connect(m_list, &QTreeWidget::itemDoubleClicked, this, [this] { run(reports::Destination::Window); });
     connect(m_show, &QPushButton::clicked, this, [this] { run(reports::Destination::Window); });
     connect(m_print, &QPushButton::clicked, this, [this] { run(reports::Destination::Printer); });
+    connect(m_copy, &QPushButton::clicked, this, &MoreReports::copyAndOpen);
+    connect(m_open, &QPushButton::clicked, this, &MoreReports::open);
     m_list->setCurrentItem(m_list->topLevelItem(0));
     showChoice();
 }
 
 void MoreReports::fillList()
 {
-    ui::nameControl(*m_list, u"Layouts"_s, u"Reports"_s);
-    m_list->setHeaderLabels({u"Report"_s, u"Of"_s, u"What it shows"_s});
-    m_list->setRootIsDecorated(false);
-    m_list->setAllColumnsShowFocus(true);
-    m_list->setMinimumSize(ui::scaled(listSize));
+    m_list->clear();
     const QString shop = customerOf(m_values, m_values.databasePath);
     for (const OtherReport& report : m_reports) {
-        auto* const item = new QTreeWidgetItem(
-            m_list, {report.title, report.isOfShop ? shop : u"Program"_s, report.description});
-        item->setToolTip(2, report.description);
+        auto* const item = new QTreeWidgetItem(m_list, {report.title, report.isOfShop ? shop : u"Program"_s,
+                                                        report.dayField.isEmpty() ? u"None"_s : u"Any"_s,
+                                                        report.description});
+        item->setToolTip(3, report.description);
     }
-    m_list->header()->resizeSection(0, ui::scaled(titleWidth));
+}
+
+/// Reads the folders again and chooses the layout at @p path.
+void MoreReports::choosePath(const QString& path)
+{
+    m_reports = otherReports(m_values);
+    fillList();
+    const auto found = std::ranges::find(m_reports, path, &OtherReport::path);
+    m_list->setCurrentItem(m_list->topLevelItem(static_cast<int>(found - m_reports.begin())));
 }
 
 void MoreReports::layOut()
 {
-    auto* const exit = ui::makeButton(u"ExitReports"_s, u"E&xit"_s, this);
-    connect(exit, &QPushButton::clicked, this, &QDialog::reject);
-    m_show->setDefault(true);
-    for (QPushButton* const other : {m_print, exit})
-        other->setAutoDefault(false);
+    ui::nameControl(*m_list, u"Layouts"_s, u"Reports"_s);
+    m_list->setHeaderLabels({u"Report"_s, u"Of"_s, u"Period"_s, u"What it shows"_s});
+    m_list->setRootIsDecorated(false);
+    m_list->setAllColumnsShowFocus(true);
+    m_list->setMinimumSize(ui::scaled(listSize));
+    m_list->header()->resizeSection(0, ui::scaled(titleWidth));
+    m_list->header()->resizeSection(2, ui::scaled(periodWidth));
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
     column->addWidget(m_list);
     column->addWidget(m_period);
-    column->addLayout(ui::makeButtonRow({m_show, m_print, exit}));
+    addButtons(*column);
+}
+
+void MoreReports::addButtons(QVBoxLayout& column)
+{
+    auto* const exit = ui::makeButton(u"ExitReports"_s, u"E&xit"_s, this);
+    connect(exit, &QPushButton::clicked, this, &QDialog::reject);
+    m_show->setDefault(true);
+    for (QPushButton* const other : {m_print, m_copy, m_open, exit})
+        other->setAutoDefault(false);
+    m_copy->setToolTip(u"Puts a copy into the customer's folder and opens it in an editor"_s);
+    m_open->setToolTip(u"Opens a layout of the customer's folder in an editor"_s);
+    column.addLayout(ui::makeButtonRow({m_show, m_print, exit}, {m_copy, m_open}));
 }
 
 const OtherReport* MoreReports::chosen() const
@@ -86,23 +115,55 @@ void MoreReports::showChoice()
     m_period->setEnabled(report != nullptr && !report->dayField.isEmpty());
     for (QPushButton* const button : {m_show, m_print})
         button->setEnabled(report != nullptr && !report->isFaulty);
+    m_copy->setEnabled(report != nullptr);
+    m_open->setEnabled(report != nullptr && report->isOfShop);
+}
+
+reports::ReportRequest MoreReports::requestOf(const OtherReport& report) const
+{
+    reports::ReportRequest request;
+    request.reportFile = report.path;
+    request.programFolder = m_values.appPath;
+    request.dataFile = m_values.databasePath;
+    request.customer = customerOf(m_values, m_values.databasePath);
+    if (!report.dayField.isEmpty()) {
+        request.selectionFormula = m_period->formula(report.dayField);
+        request.comparedWith = m_period->comparedWith();
+    }
+    return request;
 }
 
 void MoreReports::run(reports::Destination destination)
 {
     const OtherReport* const report = chosen();
-    if (report == nullptr || report->isFaulty)
+    if (report != nullptr && !report->isFaulty)
+        m_report.run(requestOf(*report), destination);
+}
+
+void MoreReports::copyAndOpen()
+{
+    const OtherReport* const report = chosen();
+    if (report == nullptr)
         return;
-    reports::ReportRequest request;
-    request.reportFile = report->path;
-    request.programFolder = m_values.appPath;
-    request.dataFile = m_values.databasePath;
-    request.customer = customerOf(m_values, m_values.databasePath);
-    if (!report->dayField.isEmpty()) {
-        request.selectionFormula = m_period->formula(report->dayField);
-        request.comparedWith = m_period->comparedWith();
-    }
-    m_report.run(request, destination);
+    reports::withReportBox(m_boxes, [&] {
+        choosePath(copyLayout(report->path, m_values.customerPath));
+        open();
+    });
+}
+
+void MoreReports::open()
+{
+    const OtherReport* const report = chosen();
+    if (report == nullptr)
+        return;
+    const QString path = report->path;
+    m_report.runAndFollow(requestOf(*report));
+    openInEditor(path, *this, [this, path] {
+        m_boxes.message(
+            u"The system has no editor for this file:\r%1\r\rOpen it in any editor for plain "
+            "text. The preview follows it each time it is saved."_s.arg(QDir::toNativeSeparators(path)),
+            u"More Reports"_s, BoxIcon::Information);
+    });
 }
 
 } // namespace norvane::sales

@@ -8,6 +8,7 @@
 #include <QDialog>
 
 class QTreeWidget;
+class QVBoxLayout;
 
 namespace norvane
 {
@@ -19,7 +20,9 @@ namespace norvane::sales
 
 class PeriodChooser;
 
-/// Lists the layouts with title and description and runs the chosen one over a period. It remains open.
+/// Lists the layouts with title, description and period, and runs the chosen one over a period. A copy of
+/// one, or one of the shop's own, opens in the system's editor beside a preview that follows it. The dialog
+/// remains open.
 class MoreReports : public QDialog
 {
     Q_OBJECT
@@ -32,17 +35,25 @@ public:
 private:
     void fillList();
     void layOut();
+    void addButtons(QVBoxLayout& column);
+    void choosePath(const QString& path);
     void showChoice();
     [[nodiscard]] const OtherReport* chosen() const;
+    [[nodiscard]] reports::ReportRequest requestOf(const OtherReport& report) const;
     void run(reports::Destination destination);
+    void copyAndOpen();
+    void open();
 
     const ApplicationValues& m_values;
+    Boxes& m_boxes;
     reports::Report m_report;
     std::vector<OtherReport> m_reports;
     QTreeWidget* m_list;
     PeriodChooser* m_period;
     QPushButton* m_show;
     QPushButton* m_print;
+    QPushButton* m_copy;
+    QPushButton* m_open;
 };
 
 } // namespace norvane::sales

@@ -79,6 +79,7 @@ FrmMain::FrmMain(const ApplicationValues& values, Boxes& boxes, Openers openers)
     buildMenu();
     takeMenuKey();
     takeUndoKey();
+    takeReportsKey();
     placeOnScreen();
 }
 
@@ -114,6 +115,14 @@ void FrmMain::takeUndoKey()
     connect(undo, &QShortcut::activated, this, [this] {
         if (m_openers.lostScreen && !m_working)
             m_openers.lostScreen(*this);
+    });
+}
+
+/// Screens have Ctrl+R for where a record is used.
+void FrmMain::takeReportsKey()
+{
+    connect(new QShortcut(QKeySequence(u"Ctrl+Shift+R"_s), this), &QShortcut::activated, this, [this] {
+        choose({{}, "MoreReports"_L1, "More Reports..."_L1, Opens::Form, "MoreReports"_L1});
     });
 }
 

@@ -87,6 +87,7 @@ private:
     void placeOnScreen();
     void takeMenuKey();
     void takeUndoKey();
+    void takeReportsKey();
     void open(const MenuEntry& entry);
     void openScreen(const MenuEntry& entry);
     void openForm(const MenuEntry& entry);

@@ -4,6 +4,7 @@
 #include "base/CustomerSettings.h"
 #include "reports/window/Report.h"
 #include "sales/Frmreports.h"
+#include "sales/MoreReports.h"
 
 #include <algorithm>
 
@@ -32,6 +33,9 @@ FrmMain::FormOpeners makeReportOpeners(ApplicationValues& values, Boxes& boxes)
     FrmMain::FormOpeners openers;
     openers.insert(u"Frmreports"_s, [&values, &boxes](FrmMain& main, const MenuEntry& entry) {
         sales::showReport(reportOf(entry), values, boxes, &main, reports::runReport);
+    });
+    openers.insert(u"MoreReports"_s, [&values, &boxes](FrmMain& main, const MenuEntry&) {
+        sales::MoreReports(values, boxes, reports::runReport, &main).exec();
     });
     return openers;
 }

@@ -27,8 +27,10 @@ class LayoutReader
 public:
     /// @param block "Block1" for the table of a summary's block, whose sections are called so, with a point
     /// before the usual names
-    LayoutReader(const QString& path, const ProfileFile& file, const QString& block = {})
-        : m_file(file), m_block(block)
+    /// @param mistakes takes all mistakes; without it the first one is thrown.
+    LayoutReader(const QString& path, const ProfileFile& file, std::vector<LayoutMistake>* mistakes,
+                 const QString& block = {})
+        : m_file(file), m_mistakes(mistakes), m_block(block)
     {
         m_layout.path = path;
     }
@@ -36,22 +38,20 @@ public:
     ReportLayout read()
     {
         LayoutTarget target{m_layout, &m_layout.source};
-        readKeys(u"Report"_s, layoutKeys().report, target,
-                 m_block.isEmpty() ? QStringList() : keyNames(blockKeys()));
+        // What follows names fields of the tables that are read here.
+        if (!reads([&] { readReport(target); }))
+            return std::move(m_layout);
         if (hasSection(u"Block1"_s))
             return readBlocks();
-        readJoins();
-        if (hasSection(u"Classes"_s))
-            readKeys(u"Classes"_s, layoutKeys().classes, target);
+        if (!reads([this] { readJoins(); }))
+            return std::move(m_layout);
+        readIfThere(u"Classes"_s, layoutKeys().classes, target);
         readColumns();
         if (m_layout.classes && hasSection(u"Group"_s))
-            fail(u"section [Group]"_s, u"a report has either groups or classes"_s);
-        if (hasSection(u"Group"_s))
-            readKeys(u"Group"_s, layoutKeys().group, target);
-        if (hasSection(u"Sort"_s))
-            readKeys(u"Sort"_s, layoutKeys().sort, target);
-        if (hasSection(u"Link"_s))
-            readKeys(u"Link"_s, layoutKeys().link, target);
+            reads([this] { fail(u"Group"_s, {}, u"a report has either groups or classes"_s); });
+        readIfThere(u"Group"_s, layoutKeys().group, target);
+        readIfThere(u"Sort"_s, layoutKeys().sort, target);
+        readIfThere(u"Link"_s, layoutKeys().link, target);
         readCharts();
         return std::move(m_layout);
     }
@@ -64,28 +64,57 @@ public:
             u"^(Report|Classes|Link|(Block[1-9][0-9]?\\.(?!Chart))?(Group|Sort|(Join|Column|Chart)([1-9][0-9]{0,3}))|(Block)([1-9][0-9]?))$"_s,
             QRegularExpression::CaseInsensitiveOption);
         const QStringList sections = m_file.sections();
-        for (const QString& section : sections) {
-            const auto match = known.match(section);
-            if (!match.hasMatch()) {
-                fail(u"section [%1]"_s.arg(section),
-                     u"Report, Join1, Classes, Column1, Group, Sort, Link, Chart1 or Block1 is expected"_s);
-            }
-            const int number = (match.captured(5) + match.captured(7)).toInt();
-            const QString before =
-                match.captured(2) + match.captured(4) + match.captured(6) + QString::number(number - 1);
-            if (number > 1 && !sections.contains(before, Qt::CaseInsensitive))
-                fail(u"section [%1]"_s.arg(section), u"there is no section [%1] before it"_s.arg(before));
-        }
+        for (const QString& section : sections)
+            reads([&] { checkSection(section, known.match(section), sections); });
     }
 
 private:
-    [[noreturn]] void fail(const QString& place, const QString& text) const
-    {
-        throw ReportError(u"%1, %2: %3"_s.arg(m_layout.path, place, text));
-    }
     [[noreturn]] void fail(const QString& section, QStringView key, const QString& text) const
     {
-        fail(u"section [%1], key %2"_s.arg(sectionOf(section), key), text);
+        const QString name = sectionOf(section);
+        const QString keyName = key.toString();
+        throw LayoutError(m_layout.path, {lineInLayout(m_layout.path, name, keyName), name, keyName, text});
+    }
+
+    /// Does @p act. @return false if it failed and its mistake was noted.
+    template <typename Act>
+    bool reads(const Act& act) const
+    {
+        try {
+            act();
+            return true;
+        } catch (const LayoutError& error) {
+            if (m_mistakes == nullptr)
+                throw;
+            m_mistakes->push_back(error.mistake());
+            return false;
+        }
+    }
+
+    void checkSection(const QString& section, const QRegularExpressionMatch& match,
+                      const QStringList& sections) const
+    {
+        if (!match.hasMatch()) {
+            fail(section, {},
+                 u"Report, Join1, Classes, Column1, Group, Sort, Link, Chart1 or Block1 is expected"_s);
+        }
+        const int number = (match.captured(5) + match.captured(7)).toInt();
+        const QString before =
+            match.captured(2) + match.captured(4) + match.captured(6) + QString::number(number - 1);
+        if (number > 1 && !sections.contains(before, Qt::CaseInsensitive))
+            fail(section, {}, u"there is no section [%1] before it"_s.arg(before));
+    }
+
+    void readReport(LayoutTarget& target) const
+    {
+        readKeys(u"Report"_s, layoutKeys().report, target,
+                 m_block.isEmpty() ? QStringList() : keyNames(blockKeys()));
+    }
+
+    void readIfThere(const QString& section, std::span<const KeyRule> rules, LayoutTarget& target) const
+    {
+        if (hasSection(section))
+            reads([&] { readKeys(section, rules, target); });
     }
 
     /// The keys of a block's table are in the block's own section.
@@ -105,10 +134,10 @@ private:
             const auto isIt = [&key](const KeyRule& rule) {
                 return rule.key.compare(key, Qt::CaseInsensitive) == 0;
             };
-            if (std::ranges::none_of(rules, isIt))
-                fail(
-                    section, key,
-                    u"there is no such key; expected are %1"_s.arg((keyNames(rules) + others).join(u", "_s)));
+            if (std::ranges::any_of(rules, isIt))
+                continue;
+            const QString expected = (keyNames(rules) + others).join(u", "_s);
+            reads([&] { fail(section, key, u"there is no such key; expected are %1"_s.arg(expected)); });
         }
         for (const auto& rule : rules)
             readKey(section, rule, target);
@@ -175,42 +204,46 @@ private:
     void readColumns()
     {
         if (!hasSection(u"Column1"_s))
-            fail(u"section [%1]"_s.arg(sectionOf(u"Column1"_s)),
-                 u"it is missing; a report has one column at least"_s);
+            reads([this] { fail(u"Column1"_s, {}, u"it is missing; a report has one column at least"_s); });
         for (int number = 1; hasSection(u"Column%1"_s.arg(number)); ++number) {
             ColumnLayout column;
             LayoutTarget target{m_layout, &m_layout.source};
             target.column = &column;
-            readColumn(u"Column%1"_s.arg(number), target);
-            // Headings of groups are in the first column.
-            if (number == 1 && !column.shownIf.empty())
-                fail(u"Column1"_s, u"Show", u"the first column is always shown"_s);
+            reads([&] {
+                readColumn(u"Column%1"_s.arg(number), target);
+                // Headings of groups are in the first column.
+                if (number == 1 && !column.shownIf.empty())
+                    fail(u"Column1"_s, u"Show", u"the first column is always shown"_s);
+            });
             m_layout.columns.push_back(std::move(column));
         }
     }
 
     void readCharts()
     {
-        for (int number = 1; hasSection(u"Chart%1"_s.arg(number)); ++number) {
-            const QString section = u"Chart%1"_s.arg(number);
-            ChartLayout chart;
-            LayoutTarget target{m_layout, &m_layout.source};
-            target.chart = &chart;
-            readKeys(section, layoutKeys().chart, target);
-            if (chart.from == PointSource::Groups && !m_layout.hasGroups())
-                fail(section, u"From", u"the report has no groups"_s);
-            if (chart.from != PointSource::Groups && chart.label.text.isEmpty())
-                fail(section, u"Label", u"it is missing; expected is a text with fields"_s);
-            m_layout.charts.push_back(std::move(chart));
-        }
+        for (int number = 1; hasSection(u"Chart%1"_s.arg(number)); ++number)
+            reads([&] { readChart(u"Chart%1"_s.arg(number)); });
+    }
+
+    void readChart(const QString& section)
+    {
+        ChartLayout chart;
+        LayoutTarget target{m_layout, &m_layout.source};
+        target.chart = &chart;
+        readKeys(section, layoutKeys().chart, target);
+        if (chart.from == PointSource::Groups && !m_layout.hasGroups())
+            fail(section, u"From", u"the report has no groups"_s);
+        if (chart.from != PointSource::Groups && chart.label.text.isEmpty())
+            fail(section, u"Label", u"it is missing; expected is a text with fields"_s);
+        m_layout.charts.push_back(std::move(chart));
     }
 
     ReportLayout readBlocks()
     {
         if (hasSection(u"Column1"_s))
-            fail(u"section [Column1]"_s, u"a summary has blocks in place of columns"_s);
+            reads([this] { fail(u"Column1"_s, {}, u"a summary has blocks in place of columns"_s); });
         for (int number = 1; hasSection(u"Block%1"_s.arg(number)); ++number)
-            m_layout.blocks.push_back(readBlock(u"Block%1"_s.arg(number)));
+            reads([&] { m_layout.blocks.push_back(readBlock(u"Block%1"_s.arg(number))); });
         return std::move(m_layout);
     }
 
@@ -223,31 +256,45 @@ private:
         const bool hasTable = hasSection(section + u".Column1"_s);
         const bool needsTable = block.kind != BlockKind::Days && block.of == 0 && !block.isQuotient();
         if (hasTable != needsTable) {
-            fail(u"section [%1.Column1]"_s.arg(section),
+            fail(section + u".Column1"_s, {},
                  needsTable ? u"it is missing; a block has one column at least"_s
                             : u"this block has no table of its own"_s);
         }
         if (needsTable)
-            block.table = std::make_shared<ReportLayout>(LayoutReader(m_layout.path, m_file, section).read());
+            block.table = std::make_shared<ReportLayout>(
+                LayoutReader(m_layout.path, m_file, m_mistakes, section).read());
         return block;
     }
 
     const ProfileFile& m_file;
+    std::vector<LayoutMistake>* m_mistakes;
     QString m_block;
     ReportLayout m_layout;
 };
 
-} // namespace
-
-ReportLayout readLayout(const QString& path)
+ReportLayout read(const QString& path, std::vector<LayoutMistake>* mistakes)
 {
     const QString found = existingPath(path);
     if (!QFileInfo(found).isFile())
         throw ReportError(u"%1: the report's layout was not found."_s.arg(path));
     const ProfileFile file(found);
-    LayoutReader reader(found, file);
+    LayoutReader reader(found, file, mistakes);
     reader.checkSections();
     return reader.read();
+}
+
+} // namespace
+
+ReportLayout readLayout(const QString& path)
+{
+    return read(path, nullptr);
+}
+
+std::vector<LayoutMistake> layoutMistakes(const QString& path)
+{
+    std::vector<LayoutMistake> mistakes;
+    (void)read(path, &mistakes);
+    return mistakes;
 }
 
 } // namespace norvane::reports

@@ -31,6 +31,7 @@ public:
 
     [[nodiscard]] const HistoryStop& current() const { return m_stops[m_current]; }
     [[nodiscard]] HistoryStop& current() { return m_stops[m_current]; }
+    [[nodiscard]] HistoryStop& first() { return m_stops.front(); }
     [[nodiscard]] bool isAlone() const { return m_stops.size() == 1; }
     /// Whether there is a report @p steps forward, or back for -1.
     [[nodiscard]] bool has(int steps) const

@@ -2,13 +2,13 @@
 #include "reports/window/PreviewWindow.h"
 
 #include "platform/Boxes.h"
-#include "reports/lines/LineFilters.h"
+#include "reports/data/ReportError.h"
 #include "reports/window/ChartPane.h"
 #include "reports/window/FileKinds.h"
 #include "reports/window/HistoryBar.h"
+#include "reports/window/MistakePane.h"
 #include "reports/window/PageView.h"
 #include "reports/window/RunProgress.h"
-#include "ui/Announcement.h"
 #include "ui/Appearance.h"
 #include "ui/FindBar.h"
 #include "ui/FormKit.h"
@@ -60,7 +60,7 @@ QString spokenHeading(const ReportHeading& heading)
 PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterSource findPrinter, QWidget* parent)
     : QWidget(parent, Qt::Window), m_history({{}, std::make_shared<ReportDocument>(std::move(report))}),
       m_boxes(boxes), m_findPrinter(std::move(findPrinter)), m_find(new ui::FindBar(this)),
-      m_way(new HistoryBar(this)), m_view(new PageView(document(), this)),
+      m_way(new HistoryBar(this)), m_view(new PageView(document(), this)), m_mistakes(new MistakePane(this)),
       m_charts(new ChartPane(document(), this)), m_status(new ui::StatusLine(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -81,57 +81,13 @@ void PreviewWindow::showHeading()
     setWindowTitle(heading.windowTitle);
     m_view->setAccessibleName(spokenHeading(heading));
     m_chartSwitch->setVisible(document().hasCharts());
-    m_charts->setVisible(document().hasCharts() && m_chartSwitch->isChecked());
+    showPanes();
 }
 
-void PreviewWindow::followLinks(ReportRequest request, Runner runner)
+/// Mistakes take the place of the charts: beside both the pages would be too small to read.
+void PreviewWindow::showPanes()
 {
-    m_history.current().request = std::move(request);
-    m_runner = std::move(runner);
-    m_view->offerLinks();
-    if (document().report().link)
-        m_status->setNotice(u"A click on a line, or Ctrl+Down and Enter, opens what it is made of."_s);
-}
-
-void PreviewWindow::openLink(qsizetype line)
-{
-    auto request = linkedRequest(m_history.current().request, document().report(), line);
-    if (!request)
-        return;
-    withReportBox(m_boxes, [&] {
-        auto report = makeReport(m_runner, *request, *this);
-        if (!report)
-            return;
-        m_history.current().place = m_view->readingPlace();
-        m_history.follow({std::move(*request), std::make_shared<ReportDocument>(std::move(*report))});
-        showCurrent();
-    });
-}
-
-void PreviewWindow::go(int steps)
-{
-    if (!m_history.has(steps))
-        return;
-    m_history.current().place = m_view->readingPlace();
-    m_history.go(steps);
-    showCurrent();
-}
-
-/// Reports that were shown before are as they were, but for the switch of the charts.
-void PreviewWindow::showCurrent()
-{
-    if (document().showsCharts() != m_chartSwitch->isChecked())
-        document().setShowsCharts(m_chartSwitch->isChecked());
-    const ReadingPlace place = m_history.current().place;
-    document().pages().layOut(1 + static_cast<int>(place.page));
-    m_view->setDocument(document());
-    m_view->goTo(place);
-    m_charts->setDocument(document());
-    m_way->showHistory(m_history);
-    showHeading();
-    m_status->setNotice({});
-    ui::announce(*m_view, m_view->accessibleName());
-    layOutMore();
+    m_charts->setVisible(document().hasCharts() && m_chartSwitch->isChecked() && m_mistakes->isHidden());
 }
 
 void PreviewWindow::buildControls()
@@ -163,8 +119,9 @@ QWidget* PreviewWindow::makeContent()
     auto* const content = new QSplitter(this);
     content->addWidget(m_view);
     content->addWidget(m_charts);
+    content->addWidget(m_mistakes);
     content->setStretchFactor(0, 1);
-    content->setSizes({goodSize.width() * 2 / 3, goodSize.width() / 3});
+    content->setSizes({goodSize.width() * 2 / 3, goodSize.width() / 3, goodSize.width() / 3});
     content->setChildrenCollapsible(false);
     return content;
 }
@@ -354,7 +311,7 @@ void PreviewWindow::find(int step)
 
 void PreviewWindow::switchCharts(bool shows)
 {
-    m_charts->setVisible(shows);
+    showPanes();
     document().setShowsCharts(shows);
     document().pages().layOutAll();
     m_view->updatePages();

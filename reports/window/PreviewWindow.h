@@ -27,6 +27,8 @@ namespace norvane::reports
 
 class ChartPane;
 class HistoryBar;
+class LayoutWatch;
+class MistakePane;
 class PageView;
 struct FileKind;
 
@@ -41,6 +43,9 @@ public:
 
     /// Offers what the lines of the report open, made by @p runner; the report is that of @p request.
     void followLinks(ReportRequest request, Runner runner);
+    /// Makes the report again whenever its layout is saved, and lists the mistakes of the file beside the
+    /// last report that could be made. After followLinks().
+    void followLayout();
 
 private:
     using Handler = void (PreviewWindow::*)();
@@ -48,7 +53,12 @@ private:
     [[nodiscard]] ReportDocument& document() { return *m_history.current().document; }
     void buildControls();
     void showHeading();
+    void showHint();
+    void showPanes();
     void openLink(qsizetype line);
+    [[nodiscard]] std::optional<ReportData> made(const ReportRequest& request);
+    void makeAgain();
+    void replaceFirst(ReportData report);
     void go(int steps);
     void showCurrent();
     [[nodiscard]] QWidget* makeContent();
@@ -81,6 +91,9 @@ private:
     ui::FindBar* m_find;
     HistoryBar* m_way;
     PageView* m_view;
+    MistakePane* m_mistakes;
+    LayoutWatch* m_watch = nullptr;
+    bool m_isMaking = false;
     ChartPane* m_charts;
     QCheckBox* m_chartSwitch = nullptr;
     QLabel* m_pageNumber = nullptr;

@@ -2,9 +2,11 @@
 #include "reports/window/Report.h"
 
 #include "paper/DefaultPrinter.h"
+#include "platform/TextError.h"
 #include "reports/window/PreviewWindow.h"
 #include "reports/window/RunProgress.h"
 
+#include <QFileInfo>
 #include <QScopedValueRollback>
 
 using namespace Qt::Literals::StringLiterals;
@@ -54,6 +56,25 @@ void Report::run(ReportRequest request, Destination destination)
     });
 }
 
+void Report::runAndFollow(ReportRequest request)
+{
+    if (m_isRunning)
+        return;
+    const QScopedValueRollback running(m_isRunning, true);
+    request.now = QDateTime::currentDateTime();
+    ReportData report;
+    try {
+        auto made = makeReport(m_runner, request, m_window);
+        if (!made)
+            return;
+        report = std::move(*made);
+    } catch (const TextError&) {
+        // The preview tells what is wrong.
+        report.heading.title = report.heading.windowTitle = QFileInfo(request.reportFile).fileName();
+    }
+    preview(std::move(report), std::move(request)).followLayout();
+}
+
 void Report::deliver(ReportData report, ReportRequest request, Destination destination)
 {
     if (destination == Destination::Window) {
@@ -64,11 +85,12 @@ void Report::deliver(ReportData report, ReportRequest request, Destination desti
     printReport(report, true, m_findPrinter, [&progress] { return progress.goOn(); });
 }
 
-void Report::preview(ReportData report, ReportRequest request)
+PreviewWindow& Report::preview(ReportData report, ReportRequest request)
 {
     m_previews.emplace_back(new PreviewWindow(std::move(report), m_boxes, m_findPrinter, m_window.window()));
     m_previews.back()->followLinks(std::move(request), m_runner);
     m_previews.back()->show();
+    return *m_previews.back();
 }
 
 } // namespace norvane::reports

@@ -44,9 +44,13 @@ public:
     /// Error". After an error, or if the user cancelled, everything is as before the run.
     void run(ReportRequest request, Destination destination = Destination::Window);
 
+    /// Runs @p request into a preview that follows its layout each time it is saved. A layout with mistakes
+    /// opens a preview that lists them.
+    void runAndFollow(ReportRequest request);
+
 private:
     void deliver(ReportData report, ReportRequest request, Destination destination);
-    void preview(ReportData report, ReportRequest request);
+    PreviewWindow& preview(ReportData report, ReportRequest request);
 
     QWidget& m_window;
     Boxes& m_boxes;

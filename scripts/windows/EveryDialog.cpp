@@ -23,8 +23,10 @@
 #include "platform/ProfileFile.h"
 #include "programme/CopyToShopsDialog.h"
 #include "reports/lines/ReportRun.h"
+#include "reports/window/PreviewWindow.h"
 #include "sales/Frmreports.h"
 #include "sales/MoreReports.h"
+#include "sales/ShopLayouts.h"
 #include "scripts/windows/FilledShop.h"
 #include "shell/CopiesDialog.h"
 #include "shell/CopyMenu.h"
@@ -35,6 +37,7 @@
 #include "shell/SystemReport.h"
 #include "store/engine/Database.h"
 
+#include <QTest>
 #include <QtWidgets>
 
 #include <memory>
@@ -124,6 +127,30 @@ QWidget* plannedChanges(Ground& ground, QWidget* parent)
     articles::cancelPlannedList(folder, articles::plannedFiles(folder)[1]);
     writeWholeFile(articles::plannedFiles(folder)[2].path, "damaged");
     return new articles::PlannedDialog(ground.values, ground.shop.boxes(), parent);
+}
+
+/// The copy of a layout, saved with two mistakes after the preview was opened.
+QWidget* followedReport(Ground& ground, QWidget* parent)
+{
+    reports::ReportRequest request;
+    request.reportFile =
+        sales::copyLayout(joinPath(ground.values.appPath, u"groupsales.rpt"_s), ground.values.customerPath);
+    request.programFolder = ground.values.appPath;
+    request.dataFile = ground.values.databasePath;
+    request.customer = ground.values.customerName;
+    request.now = QDateTime::currentDateTime();
+    auto* const window = new reports::PreviewWindow(
+        reports::runReport(request), ground.shop.boxes(), [] { return nullptr; }, parent);
+    window->followLinks(request, reports::runReport);
+    window->followLayout();
+    const QByteArray layout = readWholeFile(request.reportFile);
+    writeWholeFile(request.reportFile,
+                   QByteArray(layout)
+                       .replace("Heading=Quantity", "Haeding=Quantity")
+                       .replace("{GROUPS.DESCRIPTION}\r\nWidth=66", "{GROUPS.NAME}\r\nWidth=66"));
+    (void)QTest::qWaitFor(
+        [window] { return window->findChild<QWidget*>(u"Mistakes"_s)->isVisibleTo(window); });
+    return window;
 }
 
 constexpr Dialog dialogs[] = {
@@ -224,6 +251,7 @@ constexpr Dialog dialogs[] = {
      [](Ground& g, QWidget* p) -> QWidget* {
          return new sales::MoreReports(g.values, g.shop.boxes(), reports::runReport, p);
      }},
+    {"report-mistakes", &followedReport},
     {"system-info",
      [](Ground& g, QWidget* p) -> QWidget* {
          return new shell::frmSysInfo(shell::systemReport(g.values, {}), p);

@@ -168,6 +168,21 @@ TEST_F(FrmreportsTest, OffersOtherPeriodsAndAComparison)
     open("Pluprice_Click", [&] { EXPECT_EQ(m_form->findChild<QWidget*>(u"Period"_s), nullptr); });
 }
 
+TEST_F(FrmreportsTest, OpensTheOtherReportsByKey)
+{
+    open("Finweek_Click", [this] {
+        bool isOpen = false;
+        QTimer::singleShot(0, [&] {
+            auto* const more = QApplication::activeModalWidget();
+            isOpen = more != nullptr && more->objectName() == u"MoreReports"_s;
+            if (isOpen)
+                QTest::keyClick(more, Qt::Key_Escape);
+        });
+        QTest::keyClick(m_form->focusWidget(), Qt::Key_R, Qt::ControlModifier);
+        EXPECT_TRUE(isOpen);
+    });
+}
+
 TEST_F(FrmreportsTest, ListsTheReportsOutsideTheMenu)
 {
     const test::TestFolder app;
@@ -188,11 +203,13 @@ TEST_F(FrmreportsTest, ListsTheReportsOutsideTheMenu)
     auto& list = test::child<QTreeWidget>(form, "Layouts");
     QStringList shown;
     for (int row = 0; row < list.topLevelItemCount(); ++row)
-        shown << list.topLevelItem(row)->text(0) + u'|' + list.topLevelItem(row)->text(2);
+        shown << list.topLevelItem(row)->text(0) + u'|' + list.topLevelItem(row)->text(2) + u'|' +
+                     list.topLevelItem(row)->text(3);
     ASSERT_EQ(shown.size(), 3) << shown.join(u'\n').toStdString();
-    EXPECT_EQ(shown[0], u"Own|Times of the shop"_s);
-    EXPECT_TRUE(shown[1].startsWith(u"broken.rpt|"_s) && shown[1].contains(u"key Title"_s));
-    EXPECT_EQ(shown[2], u"Groups|All groups."_s);
+    EXPECT_EQ(shown[0], u"Own|Any|Times of the shop"_s);
+    EXPECT_TRUE(shown[1].startsWith(u"broken.rpt|"_s) &&
+                shown[1].contains(u"line 1, section [Report], key Title"_s));
+    EXPECT_EQ(shown[2], u"Groups|None|All groups."_s);
     form.show();
     QTest::keyClick(&test::child<QComboBox>(form, "Period"), Qt::Key_End);
     QTest::keyClick(&test::child<QComboBox>(form, "Period"), Qt::Key_Up);
@@ -205,6 +222,50 @@ TEST_F(FrmreportsTest, ListsTheReportsOutsideTheMenu)
     QTest::mouseClick(&test::child<QPushButton>(form, "ShowReport"), Qt::LeftButton);
     EXPECT_EQ(m_requests.back().selectionFormula, QString());
     EXPECT_FALSE(test::child<QComboBox>(form, "Period").isEnabled());
+}
+
+// A program in the folder of the test stands for the system's; it notes what it is asked to open.
+TEST_F(FrmreportsTest, CopiesALayoutForTheShopAndOpensIt)
+{
+    const test::TestFolder app;
+    m_values.appPath = app.path();
+    m_values.customerPath = app.path("Cafe");
+    m_values.databasePath = app.path("Cafe/velmar.mdb");
+    ASSERT_TRUE(QDir(app.path()).mkpath(u"Cafe"_s) && QDir(app.path()).mkpath(u"bin"_s));
+    store::Database::create(m_values.databasePath, store::catalogue());
+    const QByteArray layout = "; Names\r\n[Report]\r\nTitle=Groups\r\nTable=GROUPS\r\n"
+                              "[Column1]\r\nValue={DESCRIPTION}\r\nWidth=50\r\n";
+    app.write("list.rpt", layout);
+    app.write("Cafe/List.rpt", "the shop's own");
+    const QByteArray programs = qgetenv("PATH");
+    qputenv("PATH", app.path("bin").toLocal8Bit());
+    const auto restore = qScopeGuard([&] { qputenv("PATH", programs); });
+    MoreReports form(m_values, m_boxes, reports::runReport);
+    form.show();
+    auto& list = test::child<QTreeWidget>(form, "Layouts");
+    list.setCurrentItem(list.topLevelItem(1));
+    ASSERT_EQ(list.currentItem()->text(0), u"Groups"_s);
+    EXPECT_FALSE(test::child<QPushButton>(form, "OpenLayout").isEnabled()) << "the program's is only copied";
+
+    test::press(form, "CopyLayout");
+    ASSERT_TRUE(test::soon([this] { return m_boxes.shown.size() == 1; })) << "there is no editor";
+    const QString copy = app.path("Cafe/list 2.rpt");
+    EXPECT_TRUE(m_boxes.shown[0].text.contains(QDir::toNativeSeparators(copy)));
+    EXPECT_EQ(app.read("Cafe/List.rpt"), "the shop's own");
+    EXPECT_EQ(app.read("Cafe/list 2.rpt"), layout);
+    EXPECT_EQ(list.currentItem()->text(1), u"Cafe"_s) << "the copy is chosen";
+    auto* const preview = form.findChild<QWidget*>(u"ReportPreview"_s);
+    ASSERT_TRUE(preview && preview->isVisible());
+    app.write("Cafe/list 2.rpt", QByteArray(layout).replace("Title=Groups", "Title=Mine"));
+    EXPECT_TRUE(test::soon([&] { return preview->windowTitle() == u"Mine"_s; }));
+
+    app.write("bin/xdg-open", "#!/bin/sh\nprintf %s \"$1\" > '" + app.path("opened").toLocal8Bit() + "'\n");
+    QFile::setPermissions(app.path("bin/xdg-open"), QFile::ReadOwner | QFile::ExeOwner);
+    test::press(form, "OpenLayout");
+    EXPECT_TRUE(test::soon([&] { return QFileInfo(app.path("opened")).size() > 0; }));
+    EXPECT_EQ(app.read("opened"), copy.toLocal8Bit());
+    EXPECT_EQ(m_boxes.shown.size(), 1U);
+    EXPECT_EQ(QDir(app.path("Cafe")).entryList({u"*.rpt"_s}).size(), 2);
 }
 
 TEST_F(FrmreportsTest, MarksTheDaysWithSales)

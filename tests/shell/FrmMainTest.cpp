@@ -25,6 +25,8 @@ protected:
             EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
             m_opened = QString(entry.name);
         });
+        m_openers.forms.insert(u"MoreReports"_s,
+                               [this](FrmMain&, const MenuEntry& entry) { m_opened = QString(entry.name); });
         m_main.emplace(m_values, m_boxes, m_openers);
         m_main->show();
     }
@@ -85,6 +87,13 @@ TEST_F(FrmMainTest, EntriesOpenTheirFileOrForm)
         EXPECT_EQ(std::exchange(m_opened, {}), opened) << entry;
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     }
+}
+
+TEST_F(FrmMainTest, AKeyOpensTheReportsOutsideTheMenu)
+{
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&*m_main));
+    QTest::keyClick(&*m_main, Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(m_opened, u"MoreReports"_s);
 }
 
 TEST_F(FrmMainTest, SetupAndAboutOpenOnceInTheMiddleAndUseTheStatusBar)
