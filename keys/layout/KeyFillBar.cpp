@@ -85,7 +85,7 @@ FillWish KeyFillBar::wish() const
 
 void KeyFillBar::showPreview()
 {
-    if (!isVisible())
+    if (isHidden())
         return;
     const FillWish wished = wish();
     m_plan = planFill(m_level, wished);

@@ -97,13 +97,18 @@ void KeyGrid::setKeySize(QSize key)
     verticalHeader()->setDefaultSectionSize(key.height());
     if (currentIndex().isValid())
         scrollTo(currentIndex());
+}
+
+void KeyGrid::fitKeyboard()
+{
+    m_fits = true;
+    fitNow();
     Q_EMIT zoomChanged();
 }
 
 /// Without regard to the bars that scroll: once all keys fit, there are none.
-void KeyGrid::fitKeyboard()
+void KeyGrid::fitNow()
 {
-    m_fits = true;
     setKeySize(KeyZoom::fitting({model()->columnCount(), model()->rowCount()}, maximumViewportSize()));
 }
 
@@ -111,13 +116,14 @@ void KeyGrid::zoomBy(int steps)
 {
     m_fits = false;
     setKeySize(KeyZoom::sizeAt(zoomPercent() + steps * KeyZoom::stepPercent));
+    Q_EMIT zoomChanged();
 }
 
 void KeyGrid::resizeEvent(QResizeEvent* event)
 {
     QTableView::resizeEvent(event);
     if (m_fits)
-        fitKeyboard();
+        fitNow();
 }
 
 void KeyGrid::wheelEvent(QWheelEvent* event)

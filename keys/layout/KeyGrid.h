@@ -44,6 +44,7 @@ Q_SIGNALS:
     /// The user asked to choose an item for the current cell.
     void entered();
     void currentCellChanged();
+    /// By the user, not with the size of the grid.
     void zoomChanged();
 
 protected:
@@ -58,6 +59,7 @@ protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
+    void fitNow();
     void setKeySize(QSize key);
     [[nodiscard]] QSize keySize() const;
     void extendTo(const QModelIndex& end);

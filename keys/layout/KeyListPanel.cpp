@@ -182,7 +182,9 @@ void KeyListPanel::markAll()
 void KeyListPanel::setMarking(bool isMarking)
 {
     m_isMarking = isMarking;
-    if (isMarking && shownList().view->selectionModel()->selectedRows().size() < 2)
+    if (!isMarking)
+        shownList().view->clearSelection(); // the next Enter is for one entry again
+    else if (shownList().view->selectionModel()->selectedRows().size() < 2)
         markAll();
 }
 

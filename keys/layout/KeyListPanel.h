@@ -42,7 +42,8 @@ public:
     void enterList();
     /// Shows all entries again.
     void clearFilter();
-    /// From here on rows are marked for a fill, all at once where a filter or a choice is set.
+    /// From here on rows are marked for a fill, all at once where a filter or a choice is set; or they no
+    /// longer are, and the marks go.
     void setMarking(bool isMarking);
     /// The first @p most marked rows: of a long list nobody needs all.
     [[nodiscard]] MarkedItems marked(qsizetype most) const;

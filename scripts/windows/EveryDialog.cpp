@@ -85,6 +85,18 @@ QWidget* designer(overlay::Keyboard keyboard, Ground& ground, QWidget* parent)
     return form;
 }
 
+/// With the preview of a group in place of keys that are in use.
+QWidget* fillKeys(Ground& ground, QWidget* parent)
+{
+    auto* const form =
+        new keys::KeyLayout(keys::velmarKeyboard(), ground.values, ground.shop.boxes(), parent);
+    form->findChild<QAbstractButton*>(u"plucode"_s)->click();
+    form->findChild<QAction*>(u"Fill"_s)->trigger();
+    form->findChild<QAbstractButton*>(u"FillSkipsUsed"_s)->click();
+    form->findChild<QComboBox*>(u"ListChoice"_s)->setCurrentIndex(2);
+    return form;
+}
+
 /// With texts that do not fit.
 QWidget* wholeWords(Ground& ground, QWidget* parent)
 {
@@ -198,6 +210,7 @@ constexpr Dialog dialogs[] = {
      [](Ground& g, QWidget* p) -> QWidget* {
          return new keys::KeyLayout(keys::velmarKeyboard(), g.values, g.shop.boxes(), p);
      }},
+    {"fill-keys", &fillKeys},
     {"find-keys",
      [](Ground& g, QWidget* p) -> QWidget* {
          return new keys::KeyFinder(g.levelOne(), g.connection, p);

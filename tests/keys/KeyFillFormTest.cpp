@@ -97,6 +97,8 @@ TEST_P(KeyFillFormTest, TheMouseMarksRowsAndKeysSeesThePreviewAndPutsThemThereIn
     EXPECT_TRUE(isChanged());
     EXPECT_EQ(grid().currentCell(), (KeyCell{3, 3})) << "the next key";
     EXPECT_FALSE(control<QWidget>("FillPut").isVisible());
+    EXPECT_TRUE(status().ends_with("Filled 5 keys")) << status();
+    EXPECT_FALSE(plus().selectionModel()->hasSelection());
     control<QAction>("Undo").trigger();
     EXPECT_EQ(block(), empty);
     EXPECT_FALSE(isChanged() || control<QAction>("Undo").isEnabled());
