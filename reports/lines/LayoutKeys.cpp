@@ -120,7 +120,7 @@ bool takeTotal(const QString& value, LayoutTarget& target)
 {
     auto& layout = *target.column;
     return takeYesNo(value, layout.isTotalled) &&
-           (layout.number || layout.rank == RankPart::Share || !layout.isTotalled);
+           (layout.number || layout.rank == RankPart::Share || layout.rank == RankPart::Cumulated || !layout.isTotalled);
 }
 
 bool takeClassBy(const QString& value, LayoutTarget& target)

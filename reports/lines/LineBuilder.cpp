@@ -181,12 +181,14 @@ ReportCell LineBuilder::rankCell(RankPart part) const
     return share ? ReportCell(*share) : ReportCell(noRank.toString());
 }
 
-/// The share of several lines is that of their numbers together.
+/// The share of several lines is that of their numbers together, the cumulated share that of all lines up to
+/// them.
 ReportCell LineBuilder::totalOf(const ColumnLayout& column, const std::vector<std::string>& numbers) const
 {
     if (column.rank == RankPart::None)
         return number(column, numbers);
-    const auto share = shareOf(*m_layout.classes, all(numbers));
+    const auto sums = column.rank == RankPart::Share ? numbers : m_totals.texts();
+    const auto share = shareOf(*m_layout.classes, all(sums));
     return share ? ReportCell(*share) : ReportCell(noRank.toString());
 }
 

@@ -66,12 +66,13 @@ int LineLayout::firstColumn(qsizetype line, int column) const
     return column;
 }
 
-/// The column that the text of @p column may run to.
+/// The column that the text of @p column may run to. A number remains under its heading.
 int LineLayout::lastColumn(qsizetype line, int column) const
 {
-    const LineKind kind = m_report.lineKind(line);
+    const bool isLabel = m_report.lineKind(line) != LineKind::Detail &&
+                         std::holds_alternative<QString>(m_report.cell(line, column));
     const int end = m_report.columnCount() - 1;
-    while (kind != LineKind::Detail && column < end && isSameBand(column, column + 1) &&
+    while (isLabel && column < end && isSameBand(column, column + 1) &&
            m_report.cell(line, column + 1) == ReportCell())
         ++column;
     return column;

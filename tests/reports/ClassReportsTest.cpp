@@ -62,11 +62,11 @@ TEST_F(ClassReports, HaveArticlesWithEqualTakingsTogether)
                                    "7|WATER|DRINKS|1|0.10|10.0|80.0|A\n"
                                    "9|TEA||1|0.10|10.0|90.0|A\n" // as much as water
                                    "20|CRISPS||1|0.10|10.0|100.0|A\n"
-                                   "= |Total Class A, articles: 5||7|1.00|100.0\n"
+                                   "= |Total Class A, articles: 5||7|1.00|100.0|100.0\n"
                                    "> Class C, articles: 1\n"
                                    "999|||2|0.00|0.0|100.0|C\n"
-                                   "= |Total Class C, articles: 1||2|0.00|0.0\n"
-                                   "# |Total||9|1.00|100.0");
+                                   "= |Total Class C, articles: 1||2|0.00|0.0|100.0\n"
+                                   "# |Total||9|1.00|100.0|100.0");
     ASSERT_EQ(data.charts.size(), 1U);
     EXPECT_EQ(data.charts[0].points.front().label, u"Class A, articles: 5"_s);
 }
@@ -78,23 +78,23 @@ TEST_F(ClassReports, HaveRefundsInTheLastAndOthersAfterTheLimit)
           "9|2026-11-02|-1|-0.01|0|0|0|0"});
     EXPECT_EQ(test::linesOf(run()), "> Class A, articles: 1\n"
                                     "3|COLA|DRINKS|8|0.80|80.0|80.0|A\n"
-                                    "= |Total Class A, articles: 1||8|0.80|80.0\n"
+                                    "= |Total Class A, articles: 1||8|0.80|80.0|80.0\n"
                                     "> Class B, articles: 1\n"
                                     "5|JUICE|DRINKS|1|0.15|15.0|95.0|B\n"
-                                    "= |Total Class B, articles: 1||1|0.15|15.0\n"
+                                    "= |Total Class B, articles: 1||1|0.15|15.0|95.0\n"
                                     "> Class C, articles: 2\n"
                                     "7|WATER|DRINKS|1|0.06|6.0|101.0|C\n"
                                     "9|TEA||-1|-0.01|-1.0|100.0|C\n"
-                                    "= |Total Class C, articles: 2||0|0.05|5.0\n"
-                                    "# |Total||9|1.00|100.0");
+                                    "= |Total Class C, articles: 2||0|0.05|5.0|100.0\n"
+                                    "# |Total||9|1.00|100.0|100.0");
 }
 
 TEST_F(ClassReports, HaveDashesWhereTheSumIsNotAboveZero)
 {
     sell({"3|2026-11-02|1|2|0|0|0|0", "5|2026-11-02|-1|-2|0|0|0|0"});
     EXPECT_EQ(test::linesOf(run()), "> Class –, articles: 2\n3|COLA|DRINKS|1|2.00|–|–|–\n"
-                                    "5|JUICE|DRINKS|-1|-2.00|–|–|–\n= |Total Class –, articles: 2||0|0.00|–\n"
-                                    "# |Total||0|0.00|–");
+                                    "5|JUICE|DRINKS|-1|-2.00|–|–|–\n= |Total Class –, articles: 2||0|0.00|–|–\n"
+                                    "# |Total||0|0.00|–|–");
     sell({"7|2026-11-02|1|1e300|0|0|0|0"});
     EXPECT_NE(test::linesOf(run()).find("3|COLA|DRINKS|1|2.00|–|–|–"), std::string::npos);
 }
