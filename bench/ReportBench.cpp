@@ -24,12 +24,14 @@ public:
     using bench::Shop::Shop;
 
     [[nodiscard]] reports::ReportData run(const char* layout, const QString& formula = {},
+                                          reports::ComparedWith with = {},
                                           QDate today = QDate(2026, 12, 19)) const
     {
         reports::ReportRequest request;
         request.reportFile = QStringLiteral(REPORT_FILES "/") + QLatin1StringView(layout);
         request.dataFile = database();
         request.selectionFormula = formula;
+        request.comparedWith = with;
         request.now = QDateTime(today, QTime(20, 0));
         return reports::runReport(request, [] { return true; });
     }
@@ -102,9 +104,15 @@ void addUpBare(const BareDatabase& bare, const std::string& rows)
     require(total > 0, "something was sold");
 }
 
-void PeriodReport(benchmark::State& state)
+const Shop& longShop()
 {
     static const Shop shop(sales(5000, bench::salesYears(2)));
+    return shop;
+}
+
+void PeriodReport(benchmark::State& state)
+{
+    const Shop& shop = longShop();
     const QString day = u"{PLUSALES.SALESDATE} "_s;
     const PeriodOfSales periods[] = {
         {"day", day + u"= date(2026,12,19)"_s, {{2026, 12, 19}, {2026, 12, 19}}},
@@ -127,6 +135,43 @@ void PeriodReport(benchmark::State& state)
         [&] { addUpBare(bare, rows); });
 }
 BENCHMARK(PeriodReport)->DenseRange(0, 3)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// A report over a period, from the formula to its lines.
+struct TimedReport {
+    const char* label;
+    const char* layout;
+    const char* days; ///< of the formula
+    reports::ComparedWith with = reports::ComparedWith::Nothing;
+};
+
+void AnyReport(benchmark::State& state)
+{
+    using enum reports::ComparedWith;
+    constexpr TimedReport timed[] = {
+        {"last month", "plusales.rpt", "in lastmonth"},
+        {"last year", "plusales.rpt", "in lastyear"},
+        {"a year from mid-month to mid-month", "plusales.rpt", "in date(2025,11,14) to date(2026,11,17)"},
+        {"all years", "plusales.rpt", "in date(2017,1,2) to date(2026,12,18)"},
+        {"ABC of last month", "abc.rpt", "in lastmonth"},
+        {"ABC of last year", "abc.rpt", "in lastyear"},
+        {"without sales, one day", "unsold.rpt", "= date(2026,12,19)"},
+        {"groups of last year", "groupsales.rpt", "in lastyear"},
+        {"last month and the one before", "plusales.rpt", "in lastmonth", PeriodBefore},
+        {"last month and a year earlier", "plusales.rpt", "in lastmonth", YearEarlier},
+        {"year to date and a year earlier", "plusales.rpt", "in YearToDate", YearEarlier},
+        {"ABC, year to date and a year earlier", "abc.rpt", "in YearToDate", YearEarlier},
+    };
+    const TimedReport& report = timed[state.range(0)];
+    state.SetLabel(report.label);
+    const QString formula = u"{PLUSALES.SALESDATE} "_s + QLatin1StringView(report.days);
+    const auto run = [&] { return longShop().run(report.layout, formula, report.with); };
+    (void)run(); // adds up ended months, as the import does
+    bench::Times times;
+    for (auto _ : state)
+        times.add([&] { require(run().heading.notice.isEmpty(), "there are lines"); });
+    times.report(state);
+}
+BENCHMARK(AnyReport)->DenseRange(0, 11)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

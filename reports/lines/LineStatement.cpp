@@ -2,7 +2,7 @@
 //
 //   WITH j0 AS MATERIALIZED (SELECT <number by value> AS k, "DESCRIPTION" AS c1, min(_rowid_) FROM "PLUDATA"
 //                            GROUP BY 1),
-//        l AS MATERIALIZED (SELECT <ID by value> AS c0, exact_sum(b."PROMO") AS c2 FROM "PLUSALES" b
+//        l AS (SELECT <ID by value> AS c0, exact_sum(b."PROMO") AS c2 FROM "PLUSALES" b
 //                           WHERE b."SALESDATE" >= ? GROUP BY 1)
 //   SELECT l.c0, j0.c1, l.c2 FROM l LEFT JOIN j0 ON j0.k = l.c0 ORDER BY ...
 //
@@ -22,12 +22,9 @@ namespace norvane::reports
 namespace
 {
 
-/// Registers fill numbers up with zeros and blanks. Without these, "007" and 7 are the same text. Of zeros
-/// alone one is left.
 std::string byValue(const std::string& column)
 {
-    const std::string trimmed = "trim(" + column + ")";
-    return "ifnull(nullif(ltrim(" + trimmed + ",'0'),''),substr(" + trimmed + ",-1))";
+    return "by_value(" + column + ')';
 }
 
 class Writer
@@ -69,7 +66,7 @@ public:
             with += ", s AS MATERIALIZED (" + sums() + ')';
             with += ", l AS MATERIALIZED (SELECT * FROM s UNION ALL " + unmetRecords() + ')';
         } else if (m_source.addsUp()) {
-            with += (with.empty() ? "WITH " : ", ") + ("l AS MATERIALIZED (" + sums() + ')');
+            with += (with.empty() ? "WITH " : ", ") + ("l AS (" + sums() + ')');
         }
         m_statement.sql = with + " SELECT " + list() + " FROM " + lines() + order();
         return std::move(m_statement);
@@ -154,7 +151,10 @@ private:
     [[nodiscard]] std::string leftJoin(const Join& join, bool below) const
     {
         const std::string name = joinName(*join.table);
-        return " LEFT JOIN " + name + " ON " + name + ".k = " + meeting(join, column(join.of, below));
+        const std::string of = column(join.of, below);
+        // The keys of lines are by value already.
+        const bool isDone = !below && m_source.isKey(join.of) && join.of.isText();
+        return " LEFT JOIN " + name + " ON " + name + ".k = " + (isDone ? of : meeting(join, of));
     }
 
     [[nodiscard]] std::string rows() const

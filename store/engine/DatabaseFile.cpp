@@ -2,6 +2,7 @@
 #include "store/engine/DatabaseFile.h"
 
 #include "platform/RuntimeFailure.h"
+#include "store/engine/ByValue.h"
 #include "store/engine/ExactSum.h"
 #include "store/engine/FieldConversion.h"
 #include "store/engine/Schema.h"
@@ -105,6 +106,7 @@ void prepareConnection(SQLite::Database& database, const QString& path)
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_create_collation_v2(handle, digitsCollation, SQLITE_UTF8, nullptr, compareInEngine, nullptr);
     addExactSum(handle);
+    addByValue(handle);
     for (const char* sql : settings)
         run(handle, sql, path);
 }
