@@ -119,8 +119,8 @@ bool takeRank(const QString& value, LayoutTarget& target)
 bool takeTotal(const QString& value, LayoutTarget& target)
 {
     auto& layout = *target.column;
-    return takeYesNo(value, layout.isTotalled) &&
-           (layout.number || layout.rank == RankPart::Share || layout.rank == RankPart::Cumulated || !layout.isTotalled);
+    return takeYesNo(value, layout.isTotalled) && (layout.number || layout.rank == RankPart::Share ||
+                                                   layout.rank == RankPart::Cumulated || !layout.isTotalled);
 }
 
 bool takeClassBy(const QString& value, LayoutTarget& target)

@@ -55,13 +55,24 @@ public:
         }
     }
 
+    LineStatement writeRecords(const Join& join, const std::vector<store::Value>& others)
+    {
+        std::string keys = "SELECT k AS " + alias(join.of) + " FROM " + joinName(*join.table);
+        for (const auto& other : others) {
+            keys += m_statement.values.empty() ? " UNION VALUES (?)" : ", (?)";
+            m_statement.values.push_back(other);
+        }
+        const std::string with = joinTables() + ", l AS (" + keys + ")";
+        m_statement.sql = with + " SELECT " + column(join.of, false);
+        for (const auto& field : m_source.fields)
+            m_statement.sql += field.table == m_source.table ? "" : ", " + column(field, false);
+        m_statement.sql += " FROM l" + joined(false) + order();
+        return std::move(m_statement);
+    }
+
     LineStatement write()
     {
-        std::string with;
-        for (std::size_t i = 0; i < m_joins.size(); ++i) {
-            if (isJoined(*m_joins[i].table))
-                with += (with.empty() ? "WITH " : ", ") + joinTable(i);
-        }
+        std::string with = joinTables();
         if (m_whole != nullptr) {
             with += ", s AS MATERIALIZED (" + sums() + ')';
             with += ", l AS MATERIALIZED (SELECT * FROM s UNION ALL " + unmetRecords() + ')';
@@ -73,6 +84,16 @@ public:
     }
 
 private:
+    [[nodiscard]] std::string joinTables() const
+    {
+        std::string with;
+        for (std::size_t i = 0; i < m_joins.size(); ++i) {
+            if (isJoined(*m_joins[i].table))
+                with += (with.empty() ? "WITH " : ", ") + joinTable(i);
+        }
+        return with;
+    }
+
     void need(const FieldName& field)
     {
         if (std::ranges::find(m_fields, field) == m_fields.end())
@@ -237,12 +258,16 @@ private:
         const auto reads = [this](const store::TableDefinition& table) {
             return std::ranges::find(m_unmet, &table) != m_unmet.end();
         };
-        const Condition condition = restrictedTo(m_condition, reads, others);
         const auto named = [this](const FieldName& field) {
             return column(field, true);
         };
-        return condition.isAlwaysTrue() ? std::string()
-                                        : " AND " + conditionSql(condition, named, m_statement.values);
+        std::string sql;
+        for (const Condition& whole : {m_condition, m_source.where.value_or(Condition())}) {
+            const Condition condition = restrictedTo(whole, reads, others);
+            if (!condition.isAlwaysTrue())
+                sql += " AND " + conditionSql(condition, named, m_statement.values);
+        }
+        return sql;
     }
 
     [[nodiscard]] std::string list() const
@@ -317,6 +342,33 @@ LineStatement makeLineStatement(const LineSource& source, const std::vector<Join
                                 const Condition& condition, const std::string& rows)
 {
     return Writer(source, joins, condition, rows).write();
+}
+
+const Join* recordJoinOf(const LineSource& source, const std::vector<Join>& joins, const Condition& condition)
+{
+    const auto isOther = [&source](const FieldName& field) {
+        return field.table != source.table;
+    };
+    const auto isSum = [&source](const SortKey& key) {
+        return source.isSum(key.field);
+    };
+    if (source.keys.size() != 1 || std::ranges::any_of(joins, &Join::isWhole) ||
+        std::ranges::any_of(source.order, isSum) || mentions(condition, isOther) ||
+        (source.where && mentions(*source.where, isOther)))
+        return nullptr;
+    const auto found = std::ranges::find(joins, source.keys.front(), &Join::of);
+    const bool isUsed =
+        found != joins.end() && std::ranges::any_of(source.fields, [&found](const FieldName& field) {
+            return field.table == found->table;
+        });
+    return isUsed ? &*found : nullptr;
+}
+
+LineStatement makeRecordStatement(const LineSource& source, const std::vector<Join>& joins,
+                                  const std::vector<store::Value>& others)
+{
+    const Join* const join = recordJoinOf(source, joins, {});
+    return Writer(source, joins, {}, {}).writeRecords(*join, others);
 }
 
 } // namespace norvane::reports

@@ -21,4 +21,16 @@ struct LineStatement {
 [[nodiscard]] LineStatement makeLineStatement(const LineSource& source, const std::vector<Join>& joins,
                                               const Condition& condition, const std::string& rows = {});
 
+/// The join by which the lines of @p source can be put in order without their sums: each line is made by its
+/// key, and neither order nor conditions need more than the records that are found by it. @return nullptr
+/// where one statement has to do it all.
+[[nodiscard]] const Join* recordJoinOf(const LineSource& source, const std::vector<Join>& joins,
+                                       const Condition& condition);
+
+/// A statement for the records of such a join in the order of the lines: the key, and then the fields of
+/// @p source that are not of its own table, in the order of their slots. @param others are keys without a
+/// record, which have a place, too.
+[[nodiscard]] LineStatement makeRecordStatement(const LineSource& source, const std::vector<Join>& joins,
+                                                const std::vector<store::Value>& others);
+
 } // namespace norvane::reports

@@ -4,9 +4,7 @@
 #include "platform/RuntimeFailure.h"
 #include "reports/lines/KeyNames.h"
 #include "reports/lines/LayoutFields.h"
-#include "reports/lines/LineStatement.h"
 #include "store/catalogue/Catalogue.h"
-#include "store/engine/BoundQuery.h"
 #include "store/engine/ShortWait.h"
 
 #include <QLocale>
@@ -17,7 +15,8 @@ namespace norvane::reports
 {
 ReportQuery::ReportQuery(const ReportRequest& request, const ReportLayout& layout, const KeepGoing& keepGoing)
     : m_layout(layout), m_keepGoing(keepGoing), m_showStep(request.showStep), m_dataFile(request.dataFile),
-      m_database(request.dataFile)
+      m_database(request.dataFile),
+      m_records(request.records ? request.records : std::make_shared<RecordCache>())
 {
     checkTables();
 }
@@ -45,16 +44,29 @@ void ReportQuery::select(const Condition& condition, QDate today)
 
 void ReportQuery::run(const LineSource& source, const std::function<void(const LineFields&)>& take)
 {
-    auto statement = makeLineStatement(source, m_layout.joins, m_condition, monthRows(source));
+    if (hasFewRecords(recordJoinOf(source, m_layout.joins, m_condition)))
+        return runByRecords(source, take);
+    runWhole(source, take);
+}
+
+void ReportQuery::runWhole(const LineSource& source, const std::function<void(const LineFields&)>& take)
+{
+    LineFields fields(source.fields.size());
+    read(makeLineStatement(source, m_layout.joins, m_condition, monthRows(source)),
+         [&](store::BoundQuery& query) {
+             for (std::size_t i = 0; i < fields.size(); ++i)
+                 fields[i] = query.value(static_cast<int>(i));
+             take(fields);
+         });
+}
+
+void ReportQuery::read(LineStatement statement, const std::function<void(store::BoundQuery&)>& take)
+{
     store::BoundQuery query(m_database, statement.sql, std::move(statement.values), m_layout.path,
                             m_keepGoing);
-    LineFields fields(source.fields.size());
     try {
-        while (query.next()) {
-            for (std::size_t i = 0; i < fields.size(); ++i)
-                fields[i] = query.value(static_cast<int>(i));
-            take(fields);
-        }
+        while (query.next())
+            take(query);
     } catch (const RuntimeFailure&) {
         if (query.wasGivenUp())
             throw ReportCancelled();

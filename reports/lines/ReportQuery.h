@@ -1,11 +1,14 @@
 // Runs the statements of one report on the customer's database.
 #pragma once
 
+#include "reports/lines/LineStatement.h"
 #include "reports/lines/MoneyFormat.h"
+#include "reports/lines/RecordRows.h"
 #include "reports/lines/ReportLayout.h"
 #include "reports/lines/ReportRun.h"
 #include "reports/lines/SalesDays.h"
 #include "reports/lines/TextTemplate.h"
+#include "store/engine/BoundQuery.h"
 #include "store/engine/Database.h"
 #include "store/sales/MonthTotals.h"
 
@@ -38,6 +41,14 @@ public:
 
 private:
     void checkTables() const;
+    void read(LineStatement statement, const std::function<void(store::BoundQuery&)>& take);
+    void runWhole(const LineSource& source, const std::function<void(const LineFields&)>& take);
+    void runByRecords(const LineSource& source, const std::function<void(const LineFields&)>& take);
+    [[nodiscard]] bool hasFewRecords(const Join* join);
+    [[nodiscard]] std::shared_ptr<const RecordRows> recordsFor(const LineSource& source,
+                                                               const std::vector<LineFields>& lines);
+    [[nodiscard]] std::shared_ptr<RecordRows> readRecords(const LineSource& source,
+                                                          std::vector<store::Value> others);
     void readList(NameList& list, const MoneyFormat& money);
     [[nodiscard]] std::string monthRows(const LineSource& source);
     void addUpMissing(store::MonthTotals& totals, const store::DayRange& days);
@@ -48,6 +59,7 @@ private:
     const std::function<void(const QString&)>& m_showStep;
     QString m_dataFile;
     store::Database m_database;
+    std::shared_ptr<RecordCache> m_records;
     Condition m_condition;
     QDate m_today;
     bool m_mayAddUp = true; ///< false once months could not be added up

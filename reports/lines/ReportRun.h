@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace norvane::reports
@@ -14,6 +15,8 @@ namespace norvane::reports
 
 /// The second period of a report, if it has one.
 enum class ComparedWith { Nothing, PeriodBefore, YearEarlier };
+
+class RecordCache;
 
 /// What a report is run over.
 struct ReportRequest {
@@ -29,6 +32,7 @@ struct ReportRequest {
     ComparedWith comparedWith = ComparedWith::Nothing;
     QString programFolder = {};           ///< where links find layouts that are not beside the report's own
     std::vector<LineFilter> filters = {}; ///< of the lines that led here, see LineFilters.h
+    std::shared_ptr<RecordCache> records = nullptr; ///< what the reports of a form share; see RecordRows.h
 };
 
 /// @return the report. When no row is selected, its heading has a notice that says so.

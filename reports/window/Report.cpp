@@ -3,6 +3,7 @@
 
 #include "paper/DefaultPrinter.h"
 #include "platform/TextError.h"
+#include "reports/lines/RecordRows.h"
 #include "reports/window/PreviewWindow.h"
 #include "reports/window/RunProgress.h"
 
@@ -27,7 +28,8 @@ void moveToWindow(QWidget& preview, QWidget* window)
 } // namespace
 
 Report::Report(QWidget& window, Boxes& boxes, Runner runner)
-    : m_window(window), m_boxes(boxes), m_runner(std::move(runner)), m_findPrinter(paper::defaultPrinter)
+    : m_window(window), m_boxes(boxes), m_runner(std::move(runner)), m_findPrinter(paper::defaultPrinter),
+      m_records(std::make_shared<RecordCache>())
 {
 }
 
@@ -50,6 +52,7 @@ void Report::run(ReportRequest request, Destination destination)
         return;
     const QScopedValueRollback running(m_isRunning, true);
     request.now = QDateTime::currentDateTime();
+    request.records = m_records;
     withReportBox(m_boxes, [&] {
         if (auto report = makeReport(m_runner, request, m_window))
             deliver(std::move(*report), std::move(request), destination);

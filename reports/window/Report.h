@@ -6,6 +6,7 @@
 
 #include <QPointer>
 
+#include <memory>
 #include <vector>
 
 class QWidget;
@@ -57,6 +58,7 @@ private:
     Runner m_runner;
     PrinterSource m_findPrinter;
     bool m_isRunning = false;
+    std::shared_ptr<RecordCache> m_records;
     std::vector<QPointer<PreviewWindow>> m_previews;
 };
 

@@ -92,9 +92,10 @@ TEST_F(ClassReports, HaveRefundsInTheLastAndOthersAfterTheLimit)
 TEST_F(ClassReports, HaveDashesWhereTheSumIsNotAboveZero)
 {
     sell({"3|2026-11-02|1|2|0|0|0|0", "5|2026-11-02|-1|-2|0|0|0|0"});
-    EXPECT_EQ(test::linesOf(run()), "> Class –, articles: 2\n3|COLA|DRINKS|1|2.00|–|–|–\n"
-                                    "5|JUICE|DRINKS|-1|-2.00|–|–|–\n= |Total Class –, articles: 2||0|0.00|–|–\n"
-                                    "# |Total||0|0.00|–|–");
+    EXPECT_EQ(test::linesOf(run()),
+              "> Class –, articles: 2\n3|COLA|DRINKS|1|2.00|–|–|–\n"
+              "5|JUICE|DRINKS|-1|-2.00|–|–|–\n= |Total Class –, articles: 2||0|0.00|–|–\n"
+              "# |Total||0|0.00|–|–");
     sell({"7|2026-11-02|1|1e300|0|0|0|0"});
     EXPECT_NE(test::linesOf(run()).find("3|COLA|DRINKS|1|2.00|–|–|–"), std::string::npos);
 }

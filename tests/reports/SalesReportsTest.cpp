@@ -1,5 +1,6 @@
 // The reports of the sales menu over a small shop.
 #include "platform/FilePaths.h"
+#include "reports/lines/RecordRows.h"
 #include "reports/lines/SalesDays.h"
 #include "tests/reports/ReportShop.h"
 #include "tests/store/Elsewhere.h"
@@ -89,6 +90,31 @@ TEST_F(SalesReports, TakingsPerHourAreThoseOfADay)
                              "# Total|7|24.30|3.47|12.15\n"
                              "> Without a collection: Tue 24/11/2026");
     EXPECT_TRUE(linesOf(run("hours.rpt")).starts_with("09:00 to 10:30|4|6.30|1.58||1.5\n"));
+}
+
+// Names are kept between the reports of a form; sales of an article that is gone are not among them.
+TEST_F(SalesReports, NextReportOfAFormHasTheNamesOfNow)
+{
+    shop.add("PLUSALES", pluFields, {"3|2026-11-25|0|0|2|5|0|0", "999|2026-11-25|0|0|1|1|0|0"});
+    auto request = shop.request(ReportShop::installed("plusales.rpt"));
+    request.records = std::make_shared<RecordCache>();
+    const auto lines = [&request] {
+        return linesOf(runReport(request));
+    };
+    const std::string first = lines();
+    EXPECT_NE(first.find("3|COLA|2|5.00"), std::string::npos);
+    EXPECT_EQ(lines(), first);
+    norvane::test::runElsewhere(shop.path(), "update PLUDATA set DESCRIPTION = 'LEMONADE', GROUPNO = 2 where "
+                                             "PLUNUMBER like '%03'");
+    shop.add("PLUSALES", pluFields, {"998|2026-11-25|0|0|1|1|0|0", "20|2026-11-24|0|0|1|1|0|0"});
+    EXPECT_EQ(lines(), "> 2 FOOD\n3|LEMONADE|2|5.00|0|0|62.5\n20|CRISPS|1|1.00|0|0|12.5\n"
+                       "= |Total 2 FOOD|3|6.00|0|0|75.0\n> No group\n998||1|1.00|0|0|12.5\n"
+                       "999||1|1.00|0|0|12.5\n= |Total No group|2|2.00|0|0|25.0\n# |Total|5|8.00|0|0|100.0");
+    auto day =
+        shop.request(ReportShop::installed("plusales.rpt"), u"{PLUSALES.SALESDATE} = date(2026,11,24)"_s);
+    day.records = request.records;
+    EXPECT_EQ(linesOf(runReport(day)), "> 2 FOOD\n20|CRISPS|1|1.00|0|0|100.0\n"
+                                       "= |Total 2 FOOD|1|1.00|0|0|100.0\n# |Total|1|1.00|0|0|100.0");
 }
 
 TEST_F(SalesReports, LevelsAreColumnsIfAnyButTheFirstHasSales)
