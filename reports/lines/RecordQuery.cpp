@@ -132,9 +132,10 @@ std::shared_ptr<const RecordRows> ReportQuery::recordsFor(const LineSource& sour
 std::shared_ptr<RecordRows> ReportQuery::readRecords(const LineSource& source,
                                                      std::vector<store::Value> others)
 {
-    const auto size = static_cast<std::size_t>(std::ranges::count_if(source.fields, [&source](const FieldName& field) {
-                          return field.table != source.table;
-                      })) + 1;
+    const auto size =
+        static_cast<std::size_t>(std::ranges::count_if(
+            source.fields, [&source](const FieldName& field) { return field.table != source.table; })) +
+        1;
     auto records = std::make_shared<RecordRows>();
     read(makeRecordStatement(source, m_layout.joins, others),
          [&](store::BoundQuery& query) { records->add(rowOf(query, size)); });

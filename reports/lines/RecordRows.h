@@ -40,7 +40,8 @@ public:
     };
 
     /// @return nullptr if the records of @p statement were not kept in this state.
-    [[nodiscard]] std::shared_ptr<const RecordRows> find(const State& state, const std::string& statement) const;
+    [[nodiscard]] std::shared_ptr<const RecordRows> find(const State& state,
+                                                         const std::string& statement) const;
     void keep(const State& state, const std::string& statement, std::shared_ptr<const RecordRows> records);
 
 private:
