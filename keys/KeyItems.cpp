@@ -132,4 +132,12 @@ std::optional<Key> KeyItems::keyFor(ItemKind kind, const QString& number)
     return key;
 }
 
+Key KeyItems::missingKey(ItemKind kind, const QString& number)
+{
+    Key key = codesFor(kind, number);
+    key.text = itemTable(kind).missingKey;
+    key.state = KeyState::Missing;
+    return key;
+}
+
 } // namespace norvane::keys

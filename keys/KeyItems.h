@@ -84,6 +84,8 @@ public:
     [[nodiscard]] Key keyOf(const QString& function, const QString& lookUp);
     /// The key that opens the item with @p number. @return nothing if there is no such item.
     [[nodiscard]] std::optional<Key> keyFor(ItemKind kind, const QString& number);
+    /// The key of an item with @p number that is in no table.
+    [[nodiscard]] static Key missingKey(ItemKind kind, const QString& number);
 
 private:
     [[nodiscard]] store::Recordset& records(ItemKind kind)

@@ -39,6 +39,7 @@ constexpr HelpTopic topics[] = {
     {"KeyLayoutDorvik"_L1, "keyboards"_L1},
     {"KeyFinder"_L1, "find-and-compare-keys"_L1},
     {"CompareLevels"_L1, "find-and-compare-keys"_L1},
+    {"ImportLevel"_L1, "a-level-for-other-shops"_L1},
     {"copylevel"_L1, "copy-levels"_L1},
     {"FrmFunctKey"_L1, "function-keys"_L1},
     {"frmwlu"_L1, "window-look-ups"_L1},

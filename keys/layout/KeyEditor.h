@@ -5,6 +5,7 @@
 
 #include <QUndoStack>
 
+#include <utility>
 #include <vector>
 
 namespace norvane::keys

@@ -105,6 +105,8 @@ void KeyLayout::addTools()
     m_levels->addTools(m_tools->menuButton());
     connect(m_tools, &LevelTools::placeWanted, this, &KeyLayout::goTo);
     connect(m_tools, &LevelTools::itemWanted, this, &KeyLayout::itemWanted);
+    connect(m_tools, &LevelTools::changed, this, [this] { finish(Refusal::None); });
+    connect(m_tools, &LevelTools::noticed, m_status, &ui::StatusLine::setNotice);
 }
 
 void KeyLayout::fitScreen()

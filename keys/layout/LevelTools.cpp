@@ -27,6 +27,7 @@ struct LevelTools::Entry {
 
 LevelTools::LevelTools(const LevelGround& ground)
     : QObject(&ground.form), m_ground(ground),
+      m_exchange(ground.level, ground.editor, ground.database, ground.values, ground.boxes, ground.form),
       m_button(makeFormButton(u"MoreButton"_s, u"&More"_s, &ground.form))
 {
     m_button->setMenu(new QMenu(m_button));
@@ -43,6 +44,9 @@ void LevelTools::addActions()
         {},
         {"FindKeys", "&Find on All Levels...", "", &LevelTools::find},
         {"CompareLevels", "&Compare Levels...", "Ctrl+L", &LevelTools::compareLevels},
+        {},
+        {"ExportLevel", "&Export Level...", "", &LevelTools::exportLevel},
+        {"ImportLevelFile", "&Import Level...", "", &LevelTools::importLevel},
     };
     for (const Entry& entry : entries) {
         auto* const action = new QAction(QLatin1StringView(entry.caption), this);
@@ -92,6 +96,19 @@ void LevelTools::compareLevels()
         if (dialog.exec() == QDialog::Accepted)
             Q_EMIT placeWanted(dialog.wantedPlace(), dialog.wantedCell());
     });
+}
+
+void LevelTools::exportLevel()
+{
+    Q_EMIT noticed(m_exchange.exportLevel());
+}
+
+void LevelTools::importLevel()
+{
+    const QString outcome = m_exchange.importLevel();
+    if (!outcome.isEmpty())
+        Q_EMIT changed();
+    Q_EMIT noticed(outcome);
 }
 
 } // namespace norvane::keys

@@ -4,6 +4,7 @@
 #include "base/ApplicationValues.h"
 #include "keys/KeyPlaces.h"
 #include "keys/layout/KeyEditor.h"
+#include "keys/layout/LevelExchange.h"
 
 #include <QObject>
 
@@ -54,6 +55,11 @@ Q_SIGNALS:
     /// The user asked to see the record of an item, by its number without leading zeros.
     void itemWanted(norvane::keys::ItemKind kind, const QString& number);
 
+    /// Keys were changed, by one step of the history.
+    void changed();
+    /// The outcome of the last tool, in words.
+    void noticed(const QString& text);
+
 private:
     using Handler = void (LevelTools::*)();
     struct Entry;
@@ -61,8 +67,11 @@ private:
     void addActions();
     void openItem();
     void compareLevels();
+    void exportLevel();
+    void importLevel();
 
     LevelGround m_ground;
+    LevelExchange m_exchange;
     QPushButton* m_button;
     KeyFinder* m_finder = nullptr; ///< once it was opened
 };

@@ -8,6 +8,7 @@
 #include "keys/functions/FrmFunctKey.h"
 #include "keys/layout/CompareLevels.h"
 #include "keys/layout/copylevel.h"
+#include "keys/layout/ImportLevel.h"
 #include "keys/layout/KeyFinder.h"
 #include "keys/layout/KeyLayout.h"
 #include "keys/lookups/frmwlu.h"
@@ -165,6 +166,17 @@ QWidget* followedReport(Ground& ground, QWidget* parent)
     return window;
 }
 
+/// From a shop with other articles.
+QWidget* levelImport(Ground& /*ground*/, QWidget* parent)
+{
+    const keys::LevelImport plan{
+        {},
+        {u"Key 4: PLU 123456789012345678 An article of 24 chars"_s, u"Key 158: Look-up 12 Breakfast"_s},
+        {u"Key 1: PLU 1001 Cola is here PLU 123456789012345678 Cola"_s},
+        117};
+    return new keys::ImportLevel(plan, 1, parent);
+}
+
 constexpr Dialog dialogs[] = {
     {"customer",
      [](Ground& g, QWidget* p) -> QWidget* {
@@ -219,6 +231,7 @@ constexpr Dialog dialogs[] = {
      [](Ground& g, QWidget* p) -> QWidget* {
          return new keys::CompareLevels(g.levelOne(), g.connection, g.shop.boxes(), p);
      }},
+    {"import-level", &levelImport},
     {"copy-level",
      [](Ground& g, QWidget* p) -> QWidget* {
          return new keys::copylevel(g.database, keys::velmarKeyboard(), g.values, g.shop.boxes(), p);

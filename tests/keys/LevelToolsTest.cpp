@@ -187,5 +187,50 @@ TEST_F(LevelToolsTest, ComparesLevelsAndGoesToAKeyOfEither)
     EXPECT_EQ(boxes.shown.size(), 1U) << "the cleared key was asked about";
 }
 
+TEST_F(LevelToolsTest, ALevelGoesToAnotherOneAsAFileAndBackWithOneUndo)
+{
+    const QString path = shop.folder.path("bakery.keys");
+    boxes.typed = {path, path, path, path};
+    control<QAction>("ExportLevel").trigger();
+    const auto importLevel = [this](const char* button) {
+        QTimer::singleShot(0, form.get(), [this, button] {
+            auto& dialog = control<QDialog>("ImportLevel");
+            const auto& lines = norvane::test::child<QListWidget>(dialog, "ImportLines");
+            EXPECT_EQ(lines.item(1)->text(), u"Key 2: PLU 1001 Cola"_s);
+            EXPECT_TRUE(norvane::test::child<QPushButton>(dialog, "CancelButton").isDefault());
+            norvane::test::press(dialog, button);
+        });
+        control<QAction>("ImportLevelFile").trigger();
+    };
+    boxes.answers = {false};
+    norvane::test::press(*form, "CSCmdBtn4");
+    boxes.shown.clear();
+    shop.execute("delete * from PLUDATA where DESCRIPTION = 'Cola'");
+    const auto textOf = [this](int number) {
+        return grid()
+            .model()
+            ->index(cellOf(number).row, cellOf(number).column)
+            .data()
+            .toString()
+            .toStdString();
+    };
+    importLevel("CancelButton");
+    EXPECT_EQ(textOf(1), "Function Key");
+    importLevel("ImportButton");
+    EXPECT_EQ(textOf(1), "CASH");
+    EXPECT_EQ(textOf(2), "PLU ITEM");
+    EXPECT_EQ(control<QLabel>("LevelChanged").text(), u"*"_s);
+    control<QAction>("Undo").trigger();
+    EXPECT_EQ(textOf(1), "Function Key");
+    EXPECT_EQ(control<QLabel>("LevelChanged").text(), u""_s);
+    shop.folder.write("bakery.keys",
+                      "Norvane keyboard level\nKeyboard: Velmar, 169 keys\nKey\tKind\tNumber\tName");
+    control<QAction>("ImportLevelFile").trigger();
+    ASSERT_FALSE(boxes.shown.empty());
+    EXPECT_TRUE(
+        boxes.shown.back().text.startsWith(u"bakery.keys was not imported.\r\rThis level is of another "
+                                           "keyboard (Velmar, 169 keys)."_s));
+}
+
 } // namespace
 } // namespace norvane::keys
