@@ -2,9 +2,11 @@
 // wait for, and a save of a level beside a bare loop that updates the same rows.
 #include "bench/Shop.h"
 #include "bench/WidgetMain.h"
+#include "keys/layout/CompareLevels.h"
 #include "keys/layout/KeyGrid.h"
 #include "keys/layout/KeyLayout.h"
 #include "keys/layout/KeyLevel.h"
+#include "keys/layout/LevelSearch.h"
 #include "keys/lookups/frmwlu.h"
 #include "store/engine/CommitOnExit.h"
 #include "store/engine/Recordset.h"
@@ -327,6 +329,64 @@ void nextLookUp(benchmark::State& state)
     times.report(state);
 }
 
+/// Reads the second level and lists what it does otherwise.
+void compareLevels(benchmark::State& state)
+{
+    const Shop shop;
+    const auto database = std::make_shared<store::Database>(shop.database());
+    keys::KeyLevel level(shop.keyboard, database);
+    level.read(1);
+    bench::Times times;
+    for (auto _ : state) {
+        std::size_t differences = 0;
+        times.add([&] {
+            keys::KeyLevel other(shop.keyboard, database);
+            other.read(2);
+            differences = keys::differencesOf(level, other).size();
+        });
+        require(differences == static_cast<std::size_t>(shop.keyboard.keysPerLevel), "all keys differ");
+    }
+    times.report(state);
+}
+
+/// The window with both keyboards and the list.
+void openComparison(benchmark::State& state)
+{
+    Shop shop;
+    NoBoxes boxes;
+    const auto database = std::make_shared<store::Database>(shop.database());
+    keys::KeyLevel level(shop.keyboard, database);
+    level.read(1);
+    bench::Times times;
+    for (auto _ : state) {
+        times.add([&] {
+            keys::CompareLevels window(level, database, boxes, nullptr);
+            window.show();
+            QApplication::processEvents();
+        });
+    }
+    times.report(state);
+}
+
+/// All keys of five levels, or the PLUs that are on none of them.
+template <keys::KeyFilter filter>
+void searchLevels(benchmark::State& state)
+{
+    const Shop shop;
+    const auto database = std::make_shared<store::Database>(shop.database());
+    keys::KeyLevel level(shop.keyboard, database);
+    level.read(1);
+    bench::Times times;
+    for (auto _ : state) {
+        std::size_t hits = 0;
+        times.add([&] {
+            hits = keys::searchKeys(keys::keysOfAllLevels(level, database), filter, *database).size();
+        });
+        require(hits >= 845, "keys or PLUs");
+    }
+    times.report(state);
+}
+
 /// Every function key gets another function each time, so that both sides have rows to write.
 void saveLevel(benchmark::State& state)
 {
@@ -387,6 +447,10 @@ BENCHMARK(fillLevel)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(markAllPlus)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(openLookUps)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(nextLookUp)->Unit(benchmark::kMillisecond)->Iterations(90);
+BENCHMARK(compareLevels)->Unit(benchmark::kMillisecond)->Iterations(50);
+BENCHMARK(openComparison)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(searchLevels<keys::KeyFilter::Programmed>)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(searchLevels<keys::KeyFilter::OnNoKey>)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(saveLevel)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(50);
 
 int main(int argc, char** argv)

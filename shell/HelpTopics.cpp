@@ -40,6 +40,7 @@ constexpr HelpTopic topics[] = {
     {"KeyFinder"_L1, "find-and-compare-keys"_L1},
     {"CompareLevels"_L1, "find-and-compare-keys"_L1},
     {"ImportLevel"_L1, "a-level-for-other-shops"_L1},
+    {"MapPreview"_L1, "a-level-on-paper"_L1},
     {"copylevel"_L1, "copy-levels"_L1},
     {"FrmFunctKey"_L1, "function-keys"_L1},
     {"frmwlu"_L1, "window-look-ups"_L1},

@@ -5,7 +5,6 @@
 
 #include <QUndoStack>
 
-#include <utility>
 #include <vector>
 
 namespace norvane::keys

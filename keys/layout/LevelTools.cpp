@@ -6,6 +6,8 @@
 #include "keys/layout/KeyGrid.h"
 #include "keys/layout/KeyWords.h"
 #include "keys/layout/LevelRow.h"
+#include "keys/layout/MapPreview.h"
+#include "paper/DefaultPrinter.h"
 #include "platform/FailureBox.h"
 
 #include <QAction>
@@ -47,6 +49,8 @@ void LevelTools::addActions()
         {},
         {"ExportLevel", "&Export Level...", "", &LevelTools::exportLevel},
         {"ImportLevelFile", "&Import Level...", "", &LevelTools::importLevel},
+        {},
+        {"ShowMap", "&Map on Paper...", "Ctrl+P", &LevelTools::showMap},
     };
     for (const Entry& entry : entries) {
         auto* const action = new QAction(QLatin1StringView(entry.caption), this);
@@ -109,6 +113,12 @@ void LevelTools::importLevel()
     if (!outcome.isEmpty())
         Q_EMIT changed();
     Q_EMIT noticed(outcome);
+}
+
+void LevelTools::showMap()
+{
+    LevelMap map(m_ground.level, m_ground.values.customerName, QDateTime::currentDateTime());
+    MapPreview(std::move(map), m_ground.boxes, paper::defaultPrinter, &m_ground.form).exec();
 }
 
 } // namespace norvane::keys

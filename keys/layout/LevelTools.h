@@ -69,6 +69,7 @@ private:
     void compareLevels();
     void exportLevel();
     void importLevel();
+    void showMap();
 
     LevelGround m_ground;
     LevelExchange m_exchange;

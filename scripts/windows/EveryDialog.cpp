@@ -11,6 +11,7 @@
 #include "keys/layout/ImportLevel.h"
 #include "keys/layout/KeyFinder.h"
 #include "keys/layout/KeyLayout.h"
+#include "keys/layout/MapPreview.h"
 #include "keys/lookups/frmwlu.h"
 #include "overlay/CorrectionForm.h"
 #include "overlay/FindDialog.h"
@@ -232,6 +233,12 @@ constexpr Dialog dialogs[] = {
          return new keys::CompareLevels(g.levelOne(), g.connection, g.shop.boxes(), p);
      }},
     {"import-level", &levelImport},
+    {"level-map",
+     [](Ground& g, QWidget* p) -> QWidget* {
+         keys::LevelMap map(g.levelOne(), g.values.customerName, QDateTime::currentDateTime());
+         return new keys::MapPreview(
+             std::move(map), g.shop.boxes(), [] { return nullptr; }, p);
+     }},
     {"copy-level",
      [](Ground& g, QWidget* p) -> QWidget* {
          return new keys::copylevel(g.database, keys::velmarKeyboard(), g.values, g.shop.boxes(), p);

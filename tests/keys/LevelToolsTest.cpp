@@ -232,5 +232,27 @@ TEST_F(LevelToolsTest, ALevelGoesToAnotherOneAsAFileAndBackWithOneUndo)
                                            "keyboard (Velmar, 169 keys)."_s));
 }
 
+TEST_F(LevelToolsTest, TheMapOfALevelIsASheetOfA4WithItsKeysInTheirPlaces)
+{
+    const QString path = shop.folder.path("map.pdf");
+    boxes.typed = {path};
+    QTimer::singleShot(0, form.get(), [this] {
+        auto& preview = control<QDialog>("MapPreview");
+        EXPECT_EQ(preview.windowTitle(), u"Keyboard Dorvik, level 1"_s);
+        auto& map = *QAccessible::queryAccessibleInterface(&control<QWidget>("MapView"));
+        ASSERT_EQ(map.childCount(), 160);
+        EXPECT_EQ(map.child(0)->text(QAccessible::Name), u"Receipt Feed FIXED"_s);
+        EXPECT_EQ(map.child(9 * 16)->text(QAccessible::Name), u"Key 1: Function 5 CASH"_s);
+        EXPECT_EQ(map.child(8 * 16)->text(QAccessible::Name), u"Key 2: PLU 1001 Cola"_s);
+        norvane::test::press(preview, "SaveButton");
+        norvane::test::press(preview, "CloseButton");
+    });
+    key(Qt::Key_P, Qt::ControlModifier);
+    const QByteArray pdf = shop.folder.read("map.pdf");
+    EXPECT_TRUE(pdf.startsWith("%PDF")) << boxes.shown.size();
+    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 842"))
+        << pdf.mid(pdf.indexOf("/MediaBox"), 40).toStdString() << " is A4, across";
+}
+
 } // namespace
 } // namespace norvane::keys
