@@ -1,12 +1,10 @@
 // The editors of keyboards and look-ups over 100,000 PLUs and full keyboards: their own time for what users
 // wait for, and a save of a level beside a bare loop that updates the same rows.
-#include "bench/Shop.h"
+#include "bench/KeyboardShop.h"
 #include "bench/WidgetMain.h"
-#include "keys/layout/CompareLevels.h"
 #include "keys/layout/KeyGrid.h"
 #include "keys/layout/KeyLayout.h"
 #include "keys/layout/KeyLevel.h"
-#include "keys/layout/LevelSearch.h"
 #include "keys/lookups/frmwlu.h"
 #include "store/engine/CommitOnExit.h"
 #include "store/engine/Recordset.h"
@@ -28,83 +26,12 @@ namespace
 {
 
 using namespace norvane;
+using bench::functionCount, bench::lookUpCount, bench::pluCount;
 using bench::require;
+using Shop = bench::KeyboardShop;
 
-constexpr int pluCount = 100000;
-constexpr int functionCount = 266;
-constexpr int lookUpCount = 99;
 /// A laptop's screen without its bars.
 constexpr QSize laptop{1354, 720};
-
-void addRow(store::Recordset& rows, const char* numberField, const store::Value& number,
-            const char* textField, const QString& text)
-{
-    rows.addNew();
-    rows.setValue(QLatin1String(numberField), number);
-    rows.setValue(QLatin1String(textField), store::Value::text(text));
-    rows.update();
-}
-
-/// A PLU or a function on every key of all levels.
-class Shop : public bench::Shop
-{
-public:
-    Shop()
-    {
-        store::Database open(database());
-        const store::CommitOnExit all(open);
-        fillItems(open);
-        fillKeys(open);
-        fillLookUps(open);
-    }
-
-    const keys::KeyGeometry& keyboard = keys::velmarKeyboard();
-
-private:
-    static void fillItems(store::Database& database)
-    {
-        store::Recordset plus = database.openTable(QStringLiteral("PLUDATA"));
-        for (int plu = 1; plu <= pluCount; ++plu) {
-            addRow(plus, "PLUNUMBER", store::Value::text(bench::pluNumber(plu)), "DESCRIPTION",
-                   QStringLiteral("Article %1").arg(plu % 977));
-        }
-        store::Recordset functions = database.openTable(QStringLiteral("FUNCTIONKEY"));
-        for (int id = 1; id <= functionCount; ++id) {
-            addRow(functions, "id", store::Value::whole(id), "DESCRIPTION",
-                   QStringLiteral("FUNCTION %1").arg(id));
-        }
-    }
-    void fillKeys(store::Database& database) const
-    {
-        store::Recordset links = database.openTable(QStringLiteral("KEYLINK"));
-        store::Recordset numbers = database.openTable(QStringLiteral("NLU"));
-        for (int row = 1; row <= keys::levelCount * keyboard.keysPerLevel; ++row) {
-            const int function = row % 4 == 0 ? row % functionCount + 1 : 0;
-            addRow(links, "ID", store::Value::whole(row), "KEYLINK", QString::number(function));
-            addRow(numbers, "ID", store::Value::whole(row), "NLU",
-                   QString::fromStdString(bench::pluNumber(row * 100)));
-        }
-    }
-
-    static void fillLookUps(store::Database& database)
-    {
-        store::Recordset memory = database.openTable(QStringLiteral("MEMORYALLOCATION"));
-        addRow(memory, "WLU", store::Value::text(QString::number(lookUpCount)), "LINES/PLU",
-               QString::number(keys::mostLookUpLines));
-        store::Recordset lookUps = database.openTable(QStringLiteral("WLU"));
-        for (int number = 1; number <= lookUpCount; ++number) {
-            lookUps.addNew();
-            lookUps.setValue(QStringLiteral("WLUno"), store::Value::whole(number));
-            lookUps.setValue(QStringLiteral("Allowplu"), store::Value::yesNo(true));
-            for (int line = 1; line <= keys::mostLookUpLines; ++line) {
-                lookUps.setValue(QStringLiteral("wlutype%1").arg(line), store::Value::whole(0));
-                lookUps.setValue(QStringLiteral("codenumber%1").arg(line),
-                                 store::Value::text(QString::number(number * 1000 + line)));
-            }
-            lookUps.update();
-        }
-    }
-};
 
 class NoBoxes : public ui::MessageBoxes
 {
@@ -329,64 +256,6 @@ void nextLookUp(benchmark::State& state)
     times.report(state);
 }
 
-/// Reads the second level and lists what it does otherwise.
-void compareLevels(benchmark::State& state)
-{
-    const Shop shop;
-    const auto database = std::make_shared<store::Database>(shop.database());
-    keys::KeyLevel level(shop.keyboard, database);
-    level.read(1);
-    bench::Times times;
-    for (auto _ : state) {
-        std::size_t differences = 0;
-        times.add([&] {
-            keys::KeyLevel other(shop.keyboard, database);
-            other.read(2);
-            differences = keys::differencesOf(level, other).size();
-        });
-        require(differences == static_cast<std::size_t>(shop.keyboard.keysPerLevel), "all keys differ");
-    }
-    times.report(state);
-}
-
-/// The window with both keyboards and the list.
-void openComparison(benchmark::State& state)
-{
-    Shop shop;
-    NoBoxes boxes;
-    const auto database = std::make_shared<store::Database>(shop.database());
-    keys::KeyLevel level(shop.keyboard, database);
-    level.read(1);
-    bench::Times times;
-    for (auto _ : state) {
-        times.add([&] {
-            keys::CompareLevels window(level, database, boxes, nullptr);
-            window.show();
-            QApplication::processEvents();
-        });
-    }
-    times.report(state);
-}
-
-/// All keys of five levels, or the PLUs that are on none of them.
-template <keys::KeyFilter filter>
-void searchLevels(benchmark::State& state)
-{
-    const Shop shop;
-    const auto database = std::make_shared<store::Database>(shop.database());
-    keys::KeyLevel level(shop.keyboard, database);
-    level.read(1);
-    bench::Times times;
-    for (auto _ : state) {
-        std::size_t hits = 0;
-        times.add([&] {
-            hits = keys::searchKeys(keys::keysOfAllLevels(level, database), filter, *database).size();
-        });
-        require(hits >= 845, "keys or PLUs");
-    }
-    times.report(state);
-}
-
 /// Every function key gets another function each time, so that both sides have rows to write.
 void saveLevel(benchmark::State& state)
 {
@@ -447,10 +316,6 @@ BENCHMARK(fillLevel)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(markAllPlus)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(openLookUps)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(nextLookUp)->Unit(benchmark::kMillisecond)->Iterations(90);
-BENCHMARK(compareLevels)->Unit(benchmark::kMillisecond)->Iterations(50);
-BENCHMARK(openComparison)->Unit(benchmark::kMillisecond)->Iterations(20);
-BENCHMARK(searchLevels<keys::KeyFilter::Programmed>)->Unit(benchmark::kMillisecond)->Iterations(20);
-BENCHMARK(searchLevels<keys::KeyFilter::OnNoKey>)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(saveLevel)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(50);
 
 int main(int argc, char** argv)

@@ -68,7 +68,7 @@ void paintBox(QPainter& painter, const QRectF& place, KeyState state)
 }
 
 /// The item's number, for a PLU or look-up; what is missing is named whole.
-QString itemOf(const Key& key)
+QString mapNumberOf(const Key& key)
 {
     const KeyWords words = wordsOf(key);
     const bool isNumbered = key.state == KeyState::Plu || key.state == KeyState::LookUp;
@@ -164,7 +164,7 @@ void LevelMap::paintNumbers(QPainter& painter, KeyCell cell) const
     const QString shown = number ? QString::number(*number) : QString();
     m_font.draw(painter, row, shown, smallStyle, Alignment::Left);
     row.setLeft(row.left() + m_font.width(shown, smallStyle) + pad);
-    m_font.draw(painter, row, itemOf(key(cell)), {numberSize, true}, Alignment::Right);
+    m_font.draw(painter, row, mapNumberOf(key(cell)), {numberSize, true}, Alignment::Right);
 }
 
 /// In the largest letters in which no word is broken and all rows fit; in the smallest ones what is left over
