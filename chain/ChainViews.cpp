@@ -49,7 +49,7 @@ std::vector<View> views()
         {"best_sellers",
          "SELECT shop, shop_name, rank() OVER (PARTITION BY shop ORDER BY takings DESC) AS rank, "
          "plu, description, quantity, round(takings, 2) AS takings FROM (" +
-             pluTotals("(current_date - 29)", "current_date") + ") b WHERE takings <> 0"},
+             recentPluTotals() + ") b WHERE takings <> 0"},
         {"shops_without_collection_yesterday",
          "SELECT s.shop, s.name AS shop_name, max(m.last_day) AS last_day, "
          "current_date - max(m.last_day) AS days_ago "

@@ -7,6 +7,7 @@
 #include "chain/Partitions.h"
 #include "chain/Rollups.h"
 #include "chain/SourceRows.h"
+#include "chain/SumCheck.h"
 #include "platform/Dates.h"
 #include "platform/RuntimeFailure.h"
 
@@ -58,6 +59,26 @@ bool isOfDay(const RuntimeFailure& failure)
     return failure.failure() == Failure::Overflow || failure.failure() == Failure::UnknownNameInQuery;
 }
 
+/// Days whose sums differ count as changed.
+void addDifferentSums(DayComparison& comparison, Published& published, Server& server,
+                      store::Database& database, int shop)
+{
+    for (const auto& [day, text] : differentDays(server, database, shop)) {
+        if (comparison.changed.contains(day))
+            continue;
+        published.differences << text;
+        comparison.changed << day;
+        --comparison.same;
+    }
+}
+
+void addWrongMonths(const std::vector<QDate>& months, Published& published)
+{
+    for (const QDate month : months)
+        published.differences << u"%1: totals of the month are not those of its days."_s.arg(
+            month.toString(u"yyyy-MM"_s));
+}
+
 class ShopPublisher
 {
 public:
@@ -71,6 +92,8 @@ public:
 
 private:
     void convertFormerMonths();
+    void convertMonths(const std::vector<QDate>& months);
+    void mendMonths();
     void settleVanished(DayComparison& comparison);
     void removeVanished(const QList<QDate>& days);
     void keepAsPublished(const QList<QDate>& days);
@@ -100,8 +123,12 @@ Published ShopPublisher::publish()
     m_publishedDays = publishedDays(m_server, m_shop);
     DayComparison comparison = compareDays(*m_days, m_publishedDays);
     m_days->keep();
+    if (m_options.comparesSums)
+        addDifferentSums(comparison, m_published, m_server, m_database, m_shop);
     m_published.same = comparison.same;
     m_published.vanished = comparison.vanished;
+    if (m_options.comparesSums)
+        mendMonths();
     settleVanished(comparison);
     for (const auto& days : monthsOf(comparison.missing + comparison.changed))
         publishMonth(days);
@@ -112,12 +139,24 @@ void ShopPublisher::convertFormerMonths()
 {
     std::vector<QDate> months;
     m_server.transact([&](pqxx::work& work) { months = formerMonths(work, m_shop); });
+    convertMonths(months);
+}
+
+void ShopPublisher::convertMonths(const std::vector<QDate>& months)
+{
     for (const QDate month : months) {
         m_server.transact([&](pqxx::work& work) {
             m_lock.holdIn(work);
             convertMonth(work, m_shop, month);
         });
     }
+}
+
+void ShopPublisher::mendMonths()
+{
+    const auto months = wrongMonths(m_server, m_shop);
+    addWrongMonths(months, m_published);
+    convertMonths(months);
 }
 
 void ShopPublisher::settleVanished(DayComparison& comparison)
@@ -286,6 +325,10 @@ Published previewShop(Server& server, const ShopFolder& folder, const PublishOpt
     const PublishedDays published = shop == 0 ? PublishedDays() : publishedDays(server, shop);
     DayComparison comparison = compareDays(days, published);
     Published preview;
+    if (options.comparesSums && shop != 0) {
+        addDifferentSums(comparison, preview, server, database, shop);
+        addWrongMonths(wrongMonths(server, shop), preview);
+    }
     preview.same = comparison.same;
     preview.vanished = comparison.vanished;
     if (shop != 0 && options.vanished != Vanished::Remove)

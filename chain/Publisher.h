@@ -18,6 +18,7 @@ struct PublishOptions {
     Vanished vanished = Vanished::Ask;
     bool adopt = false;                              ///< see findShop()
     std::function<void(const QString& text)> step{}; ///< called before each month
+    bool comparesSums = false; ///< trusts no digest: publishes days of which any sum differs
 };
 
 /// Result of one publication.
@@ -28,6 +29,7 @@ struct Published {
     QList<QDate> vanished;     ///< published days that the shop no longer has
     QStringList vanishedNames; ///< tables of names that are published and empty in the shop
     int heldBack = 0;          ///< days that differ and remain as published because others vanished
+    QStringList differences;   ///< a sentence for each day or month whose sums differed
     QStringList unsound;       ///< a sentence for each day that PostgreSQL cannot take, which was left out
 };
 

@@ -44,63 +44,96 @@ constexpr auto ranges = std::to_array<Range>({
      "LEFT JOIN time_periods p ON p.shop = t.shop AND p.period = t.period"},
 });
 
+/// The bounds of a range as expressions of PostgreSQL: days from first until before end, months from start
+/// until before finish.
+struct Bounds {
+    std::string first;
+    std::string end;
+    std::string start;
+    std::string finish;
+};
+
 /// The beginning of a month that is next to a day.
 std::string nearestMonth(const std::string& day)
 {
     return "date_trunc('month', (" + day + " + 15)::timestamp)::date";
 }
 
-/// The end of the months of a range. Nothing is sold after today, so a range until now takes the month of
-/// today as a whole and reads no day of it.
-std::string lastMonthEnd(const std::string& last)
+Bounds boundsOf(const std::string& first, const std::string& last)
 {
-    return "CASE WHEN " + last + " >= current_date - 1 THEN (date_trunc('month', " + last +
-           "::timestamp) + interval '1 month')::date ELSE " + nearestMonth(last + " + 1") + " END";
+    const std::string end = '(' + last + " + 1)";
+    return {first, end, nearestMonth(first), nearestMonth(end)};
 }
 
-/// Both sides of a bound: the days between the end of the range and the nearest month. The server reads no
-/// partition without such days.
-std::string between(const std::string& bound, const std::string& month)
+/// The last 30 days. Nothing is sold after today, so the month of today is taken as a whole. Each bound is
+/// asked for once and not for every row.
+Bounds lastDays()
 {
-    return "(d.day >= least(" + bound + ", " + month + ") AND d.day < greatest(" + bound + ", " + month +
-           "))";
+    return {"(SELECT current_date - 29)", "(SELECT current_date + 1)",
+            "(SELECT " + nearestMonth("(current_date - 29)") + ')',
+            "(SELECT (date_trunc('month', current_date::timestamp) + interval '1 month')::date)"};
 }
 
-/// Shop, item, quantity and takings, added up with names of shops: a name that is asked for becomes a number
-/// before sales are read.
-std::string totals(const Range& range, const std::string& first, const std::string& last)
+/// Days that are added to the months or taken away from them.
+struct Edge {
+    std::string from;
+    std::string until; ///< the day after
+    const char* sign;
+};
+
+std::array<Edge, 4> edgesOf(const Bounds& bounds)
 {
-    const std::string start = nearestMonth(first);
-    const std::string end = lastMonthEnd(last);
-    const std::string item = range.item;
-    const std::string isInRange = "d.day >= " + first + " AND d.day <= " + last;
-    const auto edge = [&](const char* sum) {
-        return "CASE WHEN " + isInRange + " THEN " + sum + " ELSE -(" + sum + ") END";
+    const auto least = [](const std::string& one, const std::string& other) {
+        return "least(" + one + ", " + other + ')';
     };
-    return "SELECT s.shop, s.name AS shop_name, u." + item +
-           ", sum(u.quantity) AS quantity, sum(u.takings) AS takings FROM (SELECT shop, " + item +
-           ", quantity, takings FROM " + range.months + " WHERE month >= " + start + " AND month < " + end +
-           " UNION ALL SELECT d.shop, " + range.dayItem + ", " + edge(range.quantity) + ", " +
-           edge(range.takings) + " FROM " + range.days + " d " + range.dayJoin + " WHERE (" +
-           between(first, start) + " OR " + between('(' + last + " + 1)", end) + ") AND (" + isInRange +
-           ") <> (d.day >= " + start + " AND d.day < " + end +
-           ")) u JOIN shops s ON s.shop = u.shop GROUP BY "
-           "s.shop, u." +
-           item + " HAVING sum(u.quantity) <> 0 OR sum(u.takings) <> 0";
+    const auto greatest = [](const std::string& one, const std::string& other) {
+        return "greatest(" + one + ", " + other + ')';
+    };
+    return {{{bounds.first, least(bounds.start, bounds.end), ""},
+             {greatest(bounds.finish, bounds.first), bounds.end, ""},
+             {bounds.start, least(bounds.first, bounds.finish), "-"},
+             {greatest(bounds.end, bounds.start), bounds.finish, "-"}}};
 }
 
-std::string selectOf(const Range& range, const std::string& first, const std::string& last,
-                     const std::string& takings)
+std::string monthsOf(const Range& range, const Bounds& bounds)
+{
+    return "SELECT s.shop, s.name AS shop_name, m." + std::string(range.item) +
+           ", m.quantity, m.takings FROM " + range.months +
+           " m JOIN shops s ON s.shop = m.shop WHERE m.month >= " + bounds.start + " AND m.month < " +
+           bounds.finish;
+}
+
+std::string daysOf(const Range& range, const Edge& edge)
+{
+    return " UNION ALL SELECT s.shop, s.name, " + std::string(range.dayItem) + ", " + edge.sign + '(' +
+           range.quantity + "), " + edge.sign + '(' + range.takings + ") FROM " + range.days +
+           " d JOIN shops s ON s.shop = d.shop " + range.dayJoin + " WHERE d.day >= " + edge.from +
+           " AND d.day < " + edge.until;
+}
+
+/// Shop, item, quantity and takings, added up. Each source has the shops beside it: a shop whose name is
+/// asked for becomes a number before its sales are read.
+std::string totals(const Range& range, const Bounds& bounds)
+{
+    std::string sources = monthsOf(range, bounds);
+    for (const Edge& edge : edgesOf(bounds))
+        sources += daysOf(range, edge);
+    return "SELECT shop, shop_name, " + std::string(range.item) +
+           ", sum(quantity) AS quantity, sum(takings) AS takings FROM (" + sources +
+           ") u GROUP BY shop, shop_name, " + range.item + " HAVING sum(quantity) <> 0 OR sum(takings) <> 0";
+}
+
+std::string selectOf(const Range& range, const Bounds& bounds, const std::string& takings)
 {
     return "SELECT t.shop, t.shop_name, " + std::string(range.columns) + ", t.quantity, " + takings +
-           " AS takings FROM (" + totals(range, first, last) + ") t " + range.names;
+           " AS takings FROM (" + totals(range, bounds) + ") t " + range.names;
 }
 
 } // namespace
 
-std::string pluTotals(const std::string& first, const std::string& last)
+std::string recentPluTotals()
 {
-    return selectOf(ranges.front(), first, last, "t.takings");
+    return selectOf(ranges.front(), lastDays(), "t.takings");
 }
 
 std::vector<std::string> rangeFunctions()
@@ -113,7 +146,7 @@ std::vector<std::string> rangeFunctions()
                       range.declared +
                       ", quantity numeric, takings numeric) LANGUAGE sql STABLE "
                       "BEGIN ATOMIC " +
-                      selectOf(range, "from_day", "to_day", "round(t.takings, 2)") + "; END");
+                      selectOf(range, boundsOf("from_day", "to_day"), "round(t.takings, 2)") + "; END");
     }
     return all;
 }

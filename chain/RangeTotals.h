@@ -7,9 +7,9 @@
 namespace norvane::chain
 {
 
-/// The select of a chain's best sellers, PLU by PLU and not rounded, from @p first to @p last, which are
-/// expressions of PostgreSQL: shop, shop_name, plu, description, group_no, group_name, quantity, takings.
-[[nodiscard]] std::string pluTotals(const std::string& first, const std::string& last);
+/// A select of the last 30 days of every PLU, not rounded: shop, shop_name, plu, description, group_no,
+/// group_name, quantity, takings.
+[[nodiscard]] std::string recentPluTotals();
 
 /// The functions plu_takings, group_takings and time_takings, which take a first and a last day; see
 /// docs/chain.md.

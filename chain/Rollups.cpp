@@ -14,7 +14,11 @@ namespace norvane::chain
 namespace
 {
 
-constexpr auto monthTotals = std::to_array<Rollup>({
+const std::string pluMonths =
+    std::string("SELECT shop, $2::date, plu, sum(") + pluQuantity + "), sum(" + pluTakings +
+    ") FROM plu_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, plu";
+
+const auto monthTotals = std::to_array<Rollup>({
     {"shop_months",
      "first_day date NOT NULL, last_day date NOT NULL, days integer NOT NULL, quantity numeric, "
      "takings numeric, net_sales numeric",
@@ -22,10 +26,7 @@ constexpr auto monthTotals = std::to_array<Rollup>({
      "SELECT shop, $2::date, min(day), max(day), count(*), sum(quantity), sum(takings), sum(net_sales) "
      "FROM published_days WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop"},
     {"plu_months", "plu text COLLATE \"C\" NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
-     ", plu",
-     "SELECT shop, $2::date, plu, sum(count1) + sum(count2) + sum(count3) + sum(count4) + sum(count5), "
-     "sum(value1) + sum(value2) + sum(value3) + sum(value4) + sum(value5) "
-     "FROM plu_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, plu"},
+     ", plu", pluMonths.c_str()},
     {"group_months", "group_no integer NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
      ", group_no",
      "SELECT m.shop, m.month, coalesce(p.group_no, -1), sum(m.quantity), sum(m.takings) "
@@ -90,6 +91,26 @@ std::vector<std::string> conversionStatements()
     return all;
 }
 
+std::vector<QDate> monthsWhere(pqxx::work& work, int shop, const std::string& condition)
+{
+    std::vector<QDate> all;
+    for (const auto& row : work.exec_params("SELECT DISTINCT date_trunc('month', day::timestamp)::date::text "
+                                            "FROM published_days WHERE shop = $1" +
+                                                condition + " ORDER BY 1",
+                                            shop))
+        all.push_back(QDate::fromString(QString::fromUtf8(row[0].c_str()), Qt::ISODate));
+    return all;
+}
+
+/// Days whose totals are not those of their PLUs.
+const std::string wrongDays =
+    std::string("SELECT d.day FROM published_days d LEFT JOIN (SELECT shop, day, sum(") + pluQuantity +
+    ") AS quantity, sum(" + pluTakings +
+    ") AS takings FROM plu_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, day) t "
+    "ON t.shop = d.shop AND t.day = d.day WHERE d.shop = $1 AND d.day >= $2 AND d.day < $3 "
+    "AND (coalesce(d.quantity, 0) <> coalesce(t.quantity, 0) OR coalesce(d.takings, 0) <> "
+    "coalesce(t.takings, 0))";
+
 } // namespace
 
 std::span<const Rollup> rollups()
@@ -132,12 +153,25 @@ void convertMonth(pqxx::work& work, int shop, QDate month)
 
 std::vector<QDate> formerMonths(pqxx::work& work, int shop)
 {
-    std::vector<QDate> all;
-    for (const auto& row : work.exec_params("SELECT DISTINCT date_trunc('month', day::timestamp)::date::text "
-                                            "FROM published_days WHERE shop = $1 AND NOT rolled_up",
-                                            shop))
-        all.push_back(QDate::fromString(QString::fromUtf8(row[0].c_str()), Qt::ISODate));
-    return all;
+    return monthsWhere(work, shop, " AND NOT rolled_up");
+}
+
+std::vector<QDate> monthsOf(pqxx::work& work, int shop)
+{
+    return monthsWhere(work, shop, "");
+}
+
+bool isRolledUp(pqxx::work& work, int shop, QDate month)
+{
+    const auto isEmpty = [&](const std::string& select) {
+        return work.exec_params(select + " LIMIT 1", shop, isoDay(month), isoDay(month.addMonths(1))).empty();
+    };
+    return isEmpty(wrongDays) && std::ranges::all_of(monthTotals, [&](const Rollup& rollup) {
+               const std::string stored = std::string("SELECT * FROM ") + rollup.name +
+                                          " WHERE shop = $1 AND month >= $2 AND month < $3";
+               return isEmpty("(" + stored + " EXCEPT " + rollup.select + ") UNION ALL (" + rollup.select +
+                              " EXCEPT " + stored + ")");
+           });
 }
 
 } // namespace norvane::chain

@@ -26,9 +26,14 @@ struct Rollup {
 /// The statements that make their tables and indexes.
 [[nodiscard]] std::vector<std::string> rollupStatements();
 
-/// Quantity and takings of a row of plu_sales, over all price levels.
-inline constexpr const char* pluQuantity = "count1 + count2 + count3 + count4 + count5";
-inline constexpr const char* pluTakings = "value1 + value2 + value3 + value4 + value5";
+/// Quantity and takings of a row of plu_sales, over all price levels. Most are sold at the first one only,
+/// and comparing with 0 takes a third of the time of adding.
+inline constexpr const char* pluQuantity =
+    "CASE WHEN count2 = 0 AND count3 = 0 AND count4 = 0 AND count5 = 0 THEN count1 "
+    "ELSE count1 + count2 + count3 + count4 + count5 END";
+inline constexpr const char* pluTakings =
+    "CASE WHEN value2 = 0 AND value3 = 0 AND value4 = 0 AND value5 = 0 THEN value1 "
+    "ELSE value1 + value2 + value3 + value4 + value5 END";
 
 /// The group of PLUs without one, in group_months: a key has no empty values.
 inline constexpr int noGroup = -1;
@@ -43,5 +48,10 @@ void rollUpGroups(pqxx::work& work, int shop);
 void convertMonth(pqxx::work& work, int shop, QDate month);
 /// The months of a shop of which that is left to do.
 [[nodiscard]] std::vector<QDate> formerMonths(pqxx::work& work, int shop);
+
+/// All months in which a shop has published a day.
+[[nodiscard]] std::vector<QDate> monthsOf(pqxx::work& work, int shop);
+/// Whether the totals of a month, those of its days included, are what the sales add up to.
+[[nodiscard]] bool isRolledUp(pqxx::work& work, int shop, QDate month);
 
 } // namespace norvane::chain

@@ -2,8 +2,8 @@
 #include "chain/SourceRows.h"
 
 #include "chain/ChainError.h"
+#include "chain/RowText.h"
 #include "platform/Dates.h"
-#include "platform/Decimal.h"
 #include "platform/DecimalTotal.h"
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/SalesTables.h"
@@ -12,7 +12,6 @@
 
 #include <QCryptographicHash>
 
-#include <optional>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -29,74 +28,6 @@ constexpr const char* digestForm = "2:";
 
 /// As exact_sum() writes it.
 constexpr std::string_view zero = "0";
-
-/// PostgreSQL has no character 0.
-std::string withoutNulls(const Value& value)
-{
-    std::string text = value.toUtf8();
-    std::erase(text, '\0');
-    return text;
-}
-
-QString trimmed(const Value& value)
-{
-    return QString::fromStdString(withoutNulls(value)).trimmed();
-}
-
-/// Nothing for a price that was never set.
-std::optional<std::string> textOf(const Value& value, Content content)
-{
-    switch (content) {
-    case Content::Number: {
-        const auto number = Decimal::parse(value.toUtf8());
-        return number ? std::optional(number->text()) : std::nullopt;
-    }
-    case Content::Time:
-        return clockTime(trimmed(value)).toStdString();
-    case Content::Text: // filled with blanks by a register
-        return trimmed(value).toStdString();
-    case Content::Key:
-        return withoutNulls(value);
-    case Content::Whole:
-        break;
-    }
-    return value.toUtf8();
-}
-
-void appendEscaped(std::string& line, const std::string& text)
-{
-    static constexpr std::string_view special = "\\\t\n\r";
-    static constexpr std::string_view letters = "\\tnr";
-    for (const char c : text) {
-        if (const auto at = special.find(c); at != std::string_view::npos) {
-            line += '\\';
-            line += letters[at];
-        } else {
-            line += c;
-        }
-    }
-}
-
-void appendValue(std::string& line, const Value& value, Content content)
-{
-    if (const auto text = value.isNull() ? std::nullopt : textOf(value, content)) {
-        appendEscaped(line, *text);
-    } else {
-        line += "\\N";
-    }
-}
-
-void appendSum(std::string& line, std::string_view sum, int places)
-{
-    if (places == 0) {
-        line += sum;
-        return;
-    }
-    const auto number = Decimal::parse(sum);
-    if (!number)
-        throw RuntimeFailure(Failure::Overflow, u"Overflow"_s);
-    line += number->shifted(-places).text();
-}
 
 /// Digest and number of rows while they are read.
 class Reading
@@ -242,13 +173,19 @@ std::string ofDay(const SalesTable& table)
            store::quotedName(store::salestable::day) + " = ?";
 }
 
-std::string dayStatement(const SalesTable& table, const std::string& condition = {})
+std::string sumsOf(const SalesTable& table)
 {
     std::string sums;
     for (const std::string& field : addedFields(table))
         sums += ", exact_sum(" + store::quotedName(field) + ')';
+    return sums;
+}
+
+std::string dayStatement(const SalesTable& table, const std::string& condition = {})
+{
     const std::string items = itemsOf(table);
-    return "SELECT " + items + sums + ofDay(table) + condition + " GROUP BY " + items + " ORDER BY " + items;
+    return "SELECT " + items + sumsOf(table) + ofDay(table) + condition + " GROUP BY " + items +
+           " ORDER BY " + items;
 }
 
 /// The items of a day, each as the values of its columns.
@@ -337,6 +274,22 @@ RowsDigest readDay(store::Database& database, const SalesTable& table, QDate day
             failForInfiniteItem(database, table, day);
         throw;
     }
+}
+
+DaySums sumsByDay(store::Database& database, const SalesTable& table)
+{
+    const std::string day = store::quotedName(store::salestable::day);
+    store::BoundQuery query(database,
+                            "SELECT " + day + sumsOf(table) + " FROM " + store::quotedName(table.source) +
+                                " GROUP BY " + day,
+                            {}, QLatin1StringView(table.source));
+    DaySums all;
+    while (query.next()) {
+        auto& sums = all[query.value(0).toDate()];
+        for (int at = 1; at < query.columnCount(); ++at)
+            appendSum(sums.emplace_back(), query.value(at).textView(), table.places);
+    }
+    return all;
 }
 
 RowsDigest readNames(store::Database& database, const NameTable& table, const RowSink& sink)

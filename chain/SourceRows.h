@@ -7,6 +7,7 @@
 #include <QDate>
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -40,6 +41,11 @@ struct RowsDigest {
 /// @throws ChainError BadRows, naming day and item, for rows that PostgreSQL cannot take: without an item,
 /// with one that is not a number, with an infinite sum. @throws RuntimeFailure as the database reports.
 RowsDigest readDay(store::Database& database, const SalesTable& table, QDate day, const RowSink& sink = {});
+
+/// The exact sums of each day, in the order of the table's columns that are added up.
+using DaySums = std::map<QDate, std::vector<std::string>>;
+/// Reads all days of a table. @throws RuntimeFailure as readDay() does.
+[[nodiscard]] DaySums sumsByDay(store::Database& database, const SalesTable& table);
 
 /// Reads the names in the order of their numbers.
 RowsDigest readNames(store::Database& database, const NameTable& table, const RowSink& sink = {});

@@ -2,6 +2,7 @@
 #include "chain/ChainSchema.h"
 #include "chain/Publisher.h"
 #include "command/PublishEnds.h"
+#include "command/PublishRun.h"
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
@@ -78,16 +79,26 @@ QString shopName(const ApplicationValues& customer)
     return QFileInfo(customer.customerPath).fileName();
 }
 
+QStringList headings(bool comparesSums)
+{
+    QStringList all{u"Shop"_s, u"Days"_s, u"Rows"_s, u"Unchanged"_s, u"Vanished"_s};
+    if (comparesSums)
+        all << u"Differences"_s;
+    return all;
+}
+
 class PublishRun
 {
 public:
-    PublishRun(const Workplace& workplace, const Invocation& words)
+    PublishRun(const Workplace& workplace, const Invocation& words, bool comparesSums)
         : m_workplace(workplace), m_words(words),
           m_isPreview(words.has("dry-run"_L1)), m_options{vanishedOf(words), words.has("adopt"_L1),
                                                           [](const QString& text) {
                                                               stopIfSignalled();
                                                               printStep(text);
-                                                          }}
+                                                          },
+                                                          comparesSums},
+          m_listing(headings(comparesSums))
     {
     }
 
@@ -102,27 +113,25 @@ private:
     void publish(chain::Server& server, const ApplicationValues& customer);
     [[nodiscard]] chain::Published publishLogged(chain::Server& server, const chain::ShopFolder& folder);
     void show(const chain::ShopFolder& folder, const chain::Published& published);
+    void showDifferences(const QString& name, const QStringList& differences);
     void note(ExitCode code, const QString& text);
 
     const Workplace& m_workplace;
     const Invocation& m_words;
     bool m_isPreview;
     chain::PublishOptions m_options;
-    Listing m_listing{{u"Shop"_s, u"Days"_s, u"Rows"_s, u"Unchanged"_s, u"Vanished"_s}};
+    Listing m_listing;
     ExitCode m_code = ExitCode::Done;
 };
 
 void PublishRun::run()
 {
     const auto customers = takeCustomers();
-    try {
-        chain::Server server(m_words.value("to"_L1));
+    withServer(m_words, [&](chain::Server& server) {
         if (!m_isPreview)
             chain::prepareSchema(server);
         publishAll(server, customers);
-    } catch (const chain::ChainError& error) {
-        rethrow(error);
-    }
+    });
     if (m_code != ExitCode::Done)
         throw CommandError(m_code, {});
 }
@@ -203,12 +212,28 @@ chain::Published PublishRun::publishLogged(chain::Server& server, const chain::S
 
 void PublishRun::show(const chain::ShopFolder& folder, const chain::Published& published)
 {
-    m_listing.add({folder.name, published.days, published.rows, published.same, published.vanished.size()});
+    QVariantList line{folder.name, published.days, published.rows, published.same, published.vanished.size()};
+    if (m_options.comparesSums)
+        line << published.differences.size();
+    m_listing.add(line);
+    showDifferences(folder.name, published.differences);
     for (const QString& day : published.unsound)
         note(ExitCode::Unsound, u"%1: %2 The day is not published."_s.arg(folder.name, day));
     const bool hasVanished = !published.vanished.isEmpty() || !published.vanishedNames.isEmpty();
     if (m_options.vanished == Vanished::Ask && hasVanished)
         note(ExitCode::Vanished, vanishedText(folder.name, published));
+}
+
+/// What was mended is no failure.
+void PublishRun::showDifferences(const QString& name, const QStringList& differences)
+{
+    constexpr qsizetype most = 20;
+    for (const QString& difference : differences.first(std::min(most, differences.size())))
+        printMessage(name + u": "_s + difference);
+    if (differences.size() > most)
+        printMessage(u"%1: and %2 more."_s.arg(name).arg(differences.size() - most));
+    if (m_isPreview && !differences.isEmpty())
+        note(ExitCode::Unsound, {});
 }
 
 void PublishRun::note(ExitCode code, const QString& text)
@@ -247,11 +272,26 @@ QString vanishedText(const QString& name, const chain::Published& published)
     return text + u" Was the shop reset? --vanished keep keeps them, --vanished remove deletes them."_s;
 }
 
-void publish(const Workplace& workplace, const Invocation& words)
+void withServer(const Invocation& words, const std::function<void(chain::Server&)>& work)
 {
     if (!words.has("to"_L1))
         throw CommandError(ExitCode::Usage, u"Name the PostgreSQL with --to."_s);
-    PublishRun(workplace, words).run();
+    try {
+        chain::Server server(words.value("to"_L1));
+        work(server);
+    } catch (const chain::ChainError& error) {
+        rethrow(error);
+    }
+}
+
+void publishShops(const Workplace& workplace, const Invocation& words, bool comparesSums)
+{
+    PublishRun(workplace, words, comparesSums).run();
+}
+
+void publish(const Workplace& workplace, const Invocation& words)
+{
+    publishShops(workplace, words, false);
 }
 
 } // namespace norvane::command

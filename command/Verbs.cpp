@@ -163,6 +163,8 @@ constexpr auto all = std::to_array<Verb>({
      "Copies all customers of a former installation and converts them. FOLDER is left as it is."_L1, adoptInstallation},
     {"publish"_L1, "CUSTOMER..."_L1, 1, -1, publishOptions,
      "Copies the sales and names of shops to the PostgreSQL of their chain: days that are new or have changed."_L1, publish},
+    {"chain"_L1, "check CUSTOMER..."_L1, 1, -1, publishOptions,
+     "Compares all sums of shops with those in the PostgreSQL of their chain, reports what differs, and publishes it again."_L1, manageChain},
 });
 // clang-format on
 

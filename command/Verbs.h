@@ -39,5 +39,6 @@ void adoptInstallation(const Workplace& workplace, const Invocation& words);
 void copyProgramme(const Workplace& workplace, const Invocation& words);
 void night(const Workplace& workplace, const Invocation& words);
 void publish(const Workplace& workplace, const Invocation& words);
+void manageChain(const Workplace& workplace, const Invocation& words);
 
 } // namespace norvane::command

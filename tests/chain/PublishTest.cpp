@@ -159,6 +159,37 @@ TEST_F(PublishTest, KeepsWhatVanishedAndTakesLaterCorrections)
     EXPECT_EQ(query(u"SELECT takings FROM takings_by_shop"_s), "56.50");
 }
 
+TEST_F(PublishTest, ACheckMendsWhatDiffersFromTheShop)
+{
+    EXPECT_EQ(published({cornerShop}), "3 8 0 0");
+    const auto check = [this](const QStringList& words = {}) {
+        return runCommand(m_folder.path(), QStringList{u"chain"_s, u"check"_s, cornerShop, u"--to"_s,
+                                                       postgres().connection(m_database)} +
+                                               words);
+    };
+    EXPECT_EQ(check().err, QString());
+    // Somebody changed the chain by hand; no digest shows it.
+    EXPECT_EQ(
+        query(
+            u"UPDATE mix_sales SET quantity = 3; UPDATE plu_months SET takings = 99 WHERE month = '2026-10-01'"_s),
+        "");
+    const QString differences =
+        u"Corner Shop: 2026-11-01: quantity of mix_sales is 2 in the shop and 3 in the chain.\n"
+        "Corner Shop: 2026-10: totals of the month are not those of its days.\n"_s;
+    const Ended preview = check({u"--dry-run"_s});
+    EXPECT_EQ(preview.code, 8);
+    EXPECT_EQ(preview.err, differences);
+    EXPECT_EQ(query(u"SELECT quantity FROM mix_sales"_s), "3");
+    const Ended mended = check();
+    EXPECT_EQ(mended.code, 0);
+    EXPECT_TRUE(mended.err.startsWith(differences)) << mended.err.toStdString();
+    EXPECT_EQ(
+        query(
+            u"SELECT quantity FROM mix_sales; SELECT takings FROM plu_takings('2026-10-01', '2026-10-31')"_s),
+        "2 0.30");
+    EXPECT_EQ(check().err, QString());
+}
+
 TEST_F(PublishTest, APreviewChangesNothing)
 {
     const QStringList preview{cornerShop, u"--dry-run"_s};
