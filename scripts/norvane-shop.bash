@@ -45,11 +45,13 @@ _norvane_shop()
         mapfile -t choices < <("$1" tables 2>/dev/null | sed -e 1d -e 's/ .*//')
     elif [ "${COMP_WORDS[1]}" = compare ] && [ "$COMP_CWORD" -ge 3 ] && [ "${word#-}" = "$word" ]; then
         choices=(plu status groups mixes functions keyboards lookups cards options messages staff times taxes)
+    elif [ "${COMP_WORDS[1]}" = chain ] && [ "$COMP_CWORD" -eq 2 ]; then
+        choices=(check)
     elif [[ ${COMP_WORDS[1]} = plus && $COMP_CWORD -eq 3 || ${COMP_WORDS[1]} = table && $COMP_CWORD -eq 4 ]]; then
         choices=(export import)
     elif [ "${word#-}" = "$word" ] && case $before:${COMP_WORDS[1]} in
             new:new) false ;; # a name that does not exist yet
-            --like:* | *:publish | *:night | *:copy | *:copy-programme | *:planned | *:apply-planned) true ;;
+            --like:* | *:publish | *:chain | *:night | *:copy | *:copy-programme | *:planned | *:apply-planned) true ;;
             *) [ "$COMP_CWORD" -eq 2 ] ;;
         esac; then
         mapfile -t choices < <(_norvane_shop_customers "$1")

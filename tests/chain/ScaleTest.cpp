@@ -155,6 +155,17 @@ TEST_F(ScaleTest, CanBeDistributedByShop)
     for (const auto& [what, sql] : offences)
         EXPECT_EQ(query(sql), "") << what;
 
+    QFile guide(QString::fromUtf8(CHAIN_GUIDE));
+    ASSERT_TRUE(guide.open(QIODevice::ReadOnly));
+    static const QRegularExpression distributed(u"create_distributed_table\\('norvane\\.(\\w+)', 'shop'"_s);
+    QStringList named;
+    for (auto each = distributed.globalMatch(QString::fromUtf8(guide.readAll())); each.hasNext();)
+        named << each.next().captured(1);
+    named.sort();
+    EXPECT_EQ(named.join(u' ').toStdString(),
+              query(u"SELECT relname COLLATE \"C\" %1 ORDER BY 1"_s.arg(spread)))
+        << "the statements of docs/chain.md";
+
     const QString log = postgres().query(
         m_database, u"SELECT pg_read_file(current_setting('data_directory') || '/../log')"_s);
     static const QRegularExpression change(u"LOG:  .*: (INSERT INTO|UPDATE|DELETE FROM|COPY) (\\w+)(.*)"_s);
