@@ -99,10 +99,10 @@ QWidget* fillKeys(Ground& ground, QWidget* parent)
     return form;
 }
 
-/// With texts that do not fit.
+/// With a text that does not fit, as long as a name in the programme can be.
 QWidget* wholeWords(Ground& ground, QWidget* parent)
 {
-    ground.document.cell(39).text = u"A VERY LONG NAME OF INCOMPREHENSIBILITIES"_s;
+    ground.document.cell(39).text = u"INCOMPREHENSIBLE"_s;
     const overlay::ProgrammeTexts none(ground.document.layout().keys().size());
     return new overlay::WholeWordsDialog(ground.document, {13, 14}, none, parent);
 }
