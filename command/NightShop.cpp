@@ -112,6 +112,7 @@ NightShop::NightShop(const Workplace& workplace, QString name, const NightOption
                                                             }},
       m_name(std::move(name)), m_result{m_name, {}, {}, {}}
 {
+    m_result.steps.front() = {ExitCode::Stopped, u"not begun"_s, false};
 }
 
 NightShop::~NightShop() = default;
@@ -137,8 +138,14 @@ void NightShop::attempt()
 void NightShop::attemptSteps()
 {
     for (std::size_t step = 0; step < steps.size(); ++step) {
-        stopIfSignalled();
-        keepEnd(m_result.steps.at(step), guarded([&] { return (this->*steps.at(step))(); }));
+        NightEnd& end = m_result.steps.at(step);
+        try {
+            stopIfSignalled();
+            keepEnd(end, guarded([&] { return (this->*steps.at(step))(); }));
+        } catch (const RuntimeFailure&) {
+            end = {ExitCode::Stopped, u"stopped by a signal"_s, false};
+            throw;
+        }
     }
 }
 

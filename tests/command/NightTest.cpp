@@ -345,6 +345,17 @@ TEST_F(NightOfShops, AShopsOwnSettingsTakeThePlaceOfTheProgramsOnes)
         << "beside the year before: " << written.toStdString();
 }
 
+TEST_F(NightOfShops, AStoppedNightSaysWhatItHasNotDone)
+{
+    for (const auto& name : {u"ALE"_s, u"BAR"_s, u"CAFE"_s})
+        makeShop(name);
+    m_folder.precede("convert", "case $(cat registers.ini) in *2400*) kill -TERM $PPID ;; esac");
+    const Ended stopped = run({u"night"_s});
+    EXPECT_EQ(stopped.code, 143) << stopped.err.toStdString();
+    EXPECT_TRUE(stopped.out.endsWith(u"1 of 3 shops are complete, 2 left.\n  BAR: sales\n  CAFE: folder\n"_s))
+        << stopped.out.toStdString();
+}
+
 TEST_F(NightOfShops, SalesCanBeBookedForADayBefore)
 {
     makeShop(u"ALE"_s);
