@@ -37,7 +37,8 @@ const auto copySuffix = u".zip"_s;
 /// registers is true of today only.
 const QStringList& leftOutFiles()
 {
-    static const QStringList patterns{u"velmar.*"_s, u"norvane.lock"_s, u"norvane.sent"_s, runNotesName()};
+    static const QStringList patterns{u"velmar.*"_s, u"norvane.lock"_s, u"norvane.sent"_s,
+                                      QString(sumsFileName), runNotesName()};
     return patterns;
 }
 /// Of its folders: the safety copies.
@@ -157,9 +158,7 @@ void readAll(const QString& path, const QString& databasePath, const GoOn& goOn)
     const QString database = databaseIn(archive);
     if (database.isEmpty())
         throw RuntimeFailure(Failure::NotOurDatabase, u"The copy %1 has no database."_s.arg(path));
-    const QStringList names = archive.names();
-    for (const QString& name : names)
-        archive.unpack(name, name == database ? databasePath : QString(), goOn);
+    archive.unpack([&](const QString& name) { return name == database ? databasePath : QString(); }, goOn);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
@@ -51,6 +52,12 @@ zip_fileinfo detailsOf(const QString& path)
     return details;
 }
 
+/// A line of sha256sum.
+QByteArray sumLine(const QCryptographicHash& sum, const QString& name)
+{
+    return sum.result().toHex() + "  " + name.toUtf8() + '\n';
+}
+
 class ArchiveWriter
 {
 public:
@@ -70,20 +77,25 @@ public:
     void add(const ArchivedFile& file, const std::function<void()>& goOn)
     {
         const auto source = openToRead(file.path);
-        begin(file);
+        QCryptographicHash sum(QCryptographicHash::Sha256);
+        begin(file.name, detailsOf(file.path));
         while (!source->atEnd()) {
             goOn();
             const QByteArray bytes = source->read(piece);
             if (bytes.isEmpty())
                 throw RuntimeFailure(Failure::PathOrFileAccess, u"%1 cannot be read."_s.arg(file.path));
-            if (zipWriteInFileInZip(m_zip, bytes.constData(), static_cast<unsigned>(bytes.size())) != ZIP_OK)
-                failWriting(m_path);
+            sum.addData(bytes);
+            write(bytes);
         }
-        if (zipCloseFileInZip(m_zip) != ZIP_OK)
-            failWriting(m_path);
+        end();
+        m_sums += sumLine(sum, file.name);
     }
-    void finish()
+    /// Adds the sums of all files to their folder.
+    void finish(const QString& folder)
     {
+        begin(folder + u'/' + sumsFileName, {});
+        write(m_sums);
+        end();
         if (zipClose(std::exchange(m_zip, nullptr), nullptr) != ZIP_OK)
             failWriting(m_path);
     }
@@ -93,17 +105,27 @@ private:
     {
         return zipOpen64(QFile::encodeName(path).constData(), APPEND_STATUS_CREATE);
     }
-    void begin(const ArchivedFile& file)
+    void begin(const QString& name, const zip_fileinfo& details)
     {
         constexpr int zip64 = 1;
-        const zip_fileinfo details = detailsOf(file.path);
-        if (zipOpenNewFileInZip4_64(m_zip, file.name.toUtf8().constData(), &details, nullptr, 0, nullptr, 0,
+        if (zipOpenNewFileInZip4_64(m_zip, name.toUtf8().constData(), &details, nullptr, 0, nullptr, 0,
                                     nullptr, Z_DEFLATED, compression, 0, -MAX_WBITS, DEF_MEM_LEVEL,
                                     Z_DEFAULT_STRATEGY, nullptr, 0, madeByUnix, unicodeNames,
                                     zip64) != ZIP_OK)
             failWriting(m_path);
     }
+    void write(const QByteArray& bytes)
+    {
+        if (zipWriteInFileInZip(m_zip, bytes.constData(), static_cast<unsigned>(bytes.size())) != ZIP_OK)
+            failWriting(m_path);
+    }
+    void end()
+    {
+        if (zipCloseFileInZip(m_zip) != ZIP_OK)
+            failWriting(m_path);
+    }
 
+    QByteArray m_sums;
     QString m_path;
     zipFile m_zip;
 };
@@ -134,7 +156,7 @@ void writeArchive(const QString& path, const QList<ArchivedFile>& files, const s
     ArchiveWriter writer(path);
     for (const ArchivedFile& file : files)
         writer.add(file, goOn);
-    writer.finish();
+    writer.finish(files.front().name.section(u'/', 0, 0));
     syncToDisk(path);
 }
 
@@ -176,27 +198,54 @@ void CopyArchive::readNames()
     }
 }
 
-void CopyArchive::unpack(const QString& name, const QString& path, const std::function<void()>& goOn)
+void CopyArchive::read(const QString& name, const std::function<void(QByteArrayView piece)>& take)
 {
     constexpr int exactCase = 1;
-    QFile target(path);
-    if (!path.isEmpty() && !target.open(QIODevice::WriteOnly))
-        throw RuntimeFailure(Failure::PathOrFileAccess, u"%1 cannot be written."_s.arg(path));
     if (unzLocateFile(m_zip.get(), name.toUtf8().constData(), exactCase) != UNZ_OK ||
         unzOpenCurrentFile(m_zip.get()) != UNZ_OK)
         failDamaged(u"%1 cannot be read."_s.arg(name));
     QByteArray bytes(piece, '\0');
     int count = 0;
-    do {
-        goOn();
-        count = unzReadCurrentFile(m_zip.get(), bytes.data(), static_cast<unsigned>(bytes.size()));
-        if (count > 0 && !path.isEmpty() && target.write(bytes.constData(), count) != count)
-            failWriting(path);
-    } while (count > 0);
+    while ((count = unzReadCurrentFile(m_zip.get(), bytes.data(), static_cast<unsigned>(bytes.size()))) > 0)
+        take(QByteArrayView(bytes).first(count));
     if (unzCloseCurrentFile(m_zip.get()) != UNZ_OK || count < 0)
         failDamaged(u"%1 has other content than was written."_s.arg(name));
+}
+
+/// @return its line of the sums.
+QByteArray CopyArchive::unpackFile(const QString& name, const QString& path,
+                                   const std::function<void()>& goOn)
+{
+    QFile target(path);
+    if (!path.isEmpty() && !target.open(QIODevice::WriteOnly))
+        throw RuntimeFailure(Failure::PathOrFileAccess, u"%1 cannot be written."_s.arg(path));
+    QCryptographicHash sum(QCryptographicHash::Sha256);
+    read(name, [&](QByteArrayView bytes) {
+        goOn();
+        sum.addData(bytes);
+        if (!path.isEmpty() && target.write(bytes.data(), bytes.size()) != bytes.size())
+            failWriting(path);
+    });
     if (!path.isEmpty() && !target.flush())
         failWriting(path);
+    return sumLine(sum, name);
+}
+
+/// The files are read in the order in which they were written.
+void CopyArchive::unpack(const std::function<QString(const QString& name)>& target,
+                         const std::function<void()>& goOn)
+{
+    QByteArray written;
+    QByteArray found;
+    for (const QString& name : m_names) {
+        if (name.endsWith(u'/' + sumsFileName)) {
+            read(name, [&written](QByteArrayView bytes) { written += bytes; });
+        } else {
+            found += unpackFile(name, target(name), goOn);
+        }
+    }
+    if (written != found)
+        failDamaged(u"its files are not those that were written."_s);
 }
 
 } // namespace norvane::customers

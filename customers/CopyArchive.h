@@ -1,6 +1,8 @@
 // A zip archive that holds a copy of a customer.
 #pragma once
 
+#include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -16,7 +18,12 @@ struct ArchivedFile {
     QString name;
 };
 
-/// Writes a new archive at @p path, to the disk and not only to the system's memory.
+/// The file of an archive that lists the SHA-256 sums of the others, as sha256sum does. The format protects
+/// the content of each file only, not which files there are and what they are called.
+inline constexpr QLatin1StringView sumsFileName("norvane.sums");
+
+/// Writes a new archive at @p path with the sums, to the disk and not only to the system's memory.
+/// @param files not empty; all in one folder of the archive.
 /// @param goOn called between pieces; may throw. @throws RuntimeFailure with Failure::PathOrFileAccess,
 /// Failure::DiskFull.
 void writeArchive(const QString& path, const QList<ArchivedFile>& files, const std::function<void()>& goOn);
@@ -35,16 +42,21 @@ public:
 
     /// Names of the files.
     [[nodiscard]] const QStringList& names() const { return m_names; }
-    /// Reads a file of the archive to its end and compares its sum. Its content goes to @p path unless this
-    /// is empty. @throws RuntimeFailure with Failure::NotOurDatabase for damaged content, and what writing
-    /// throws.
-    void unpack(const QString& name, const QString& path, const std::function<void()>& goOn);
+    /// Reads all files to their end and compares them with the sums. The content of each goes to the path
+    /// that
+    /// @p target gives for its name; to none if that is empty.
+    /// @throws RuntimeFailure with Failure::NotOurDatabase if anything is not as it was written, and what
+    /// writing throws.
+    void unpack(const std::function<QString(const QString& name)>& target, const std::function<void()>& goOn);
 
 private:
     struct Closer {
         void operator()(void* zip) const;
     };
     void readNames();
+    void read(const QString& name, const std::function<void(QByteArrayView piece)>& take);
+    [[nodiscard]] QByteArray unpackFile(const QString& name, const QString& path,
+                                        const std::function<void()>& goOn);
     [[noreturn]] void failDamaged(const QString& reason) const;
 
     QString m_path;

@@ -36,16 +36,14 @@ const QStringList& keptAsTheyAre()
 QString unpackInto(const QString& folder, const QString& path, const GoOn& goOn)
 {
     CopyArchive archive(path);
-    QString shop;
-    const QStringList names = archive.names();
-    for (const QString& name : names) {
-        shop = name.section(u'/', 0, 0);
-        const QString target = joinPath(folder, name.section(u'/', 1));
+    const auto targetOf = [&folder](const QString& name) {
+        QString target = joinPath(folder, name.section(u'/', 1));
         if (!QDir().mkpath(QFileInfo(target).path()))
             throw RuntimeFailure(Failure::PathOrFileAccess, u"%1 cannot be written."_s.arg(target));
-        archive.unpack(name, target, goOn);
-    }
-    return shop;
+        return target;
+    };
+    archive.unpack(targetOf, goOn);
+    return archive.names().value(0).section(u'/', 0, 0);
 }
 
 void checkUnpacked(const QString& folder, const QString& path)

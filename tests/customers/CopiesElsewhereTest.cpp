@@ -114,6 +114,7 @@ TEST_F(CopiesElsewhereTest, ADamagedCopyIsFoundAndRestoresNothing)
         expectDamage(changed, "a bit");
     }
     expectDamage(QByteArray(sound).replace("Cafe/73.dat", "../../3.dat"), "a way out");
+    expectDamage(QByteArray(sound).replace("Cafe/73.dat", "Cafe/72.dat"), "another name");
     EXPECT_EQ(m_folder.names().filter(u".dat"_s), QStringList());
 }
 
