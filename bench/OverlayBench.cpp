@@ -60,7 +60,7 @@ void writePdf(benchmark::State& state)
     const QString path = folder.filePath(u"a.pdf"_s);
     const Document document = fullDocument();
     for (auto _ : state)
-        writeSheetPdf(document, QPageLayout::Landscape, path);
+        writeSheetPdf(document, {}, path);
     require(QFileInfo(path).size() > 5000, "the sheet was written");
     state.counters["kilobytes"] = static_cast<double>(QFileInfo(path).size()) / 1000;
 }

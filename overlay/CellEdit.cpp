@@ -86,6 +86,12 @@ void CellEdit::setSelected(bool isSelected)
     update();
 }
 
+void CellEdit::setOnPaper(bool isOnPaper)
+{
+    m_isOnPaper = isOnPaper;
+    update();
+}
+
 void CellEdit::setPixelsPerMillimetre(double pixels)
 {
     m_pixelsPerMillimetre = pixels;
@@ -121,7 +127,7 @@ void CellEdit::paintEvent(QPaintEvent* event)
     if (hasFocus())
         TextBox::paintEvent(event);
     QPainter painter(this);
-    if (!hasFocus())
+    if (!hasFocus() && !m_isOnPaper)
         paintPrinted(painter);
     if (hasFocus()) {
         painter.setPen(QPen(ui::colours::accent, 2));
@@ -129,7 +135,7 @@ void CellEdit::paintEvent(QPaintEvent* event)
     }
     if (m_isSelected)
         paintSelected(painter, rect());
-    if (m_printed.isCut)
+    if (m_printed.isCut && !m_isOnPaper)
         paintCutMark(painter, rect());
 }
 

@@ -29,6 +29,8 @@ public:
     [[nodiscard]] bool isCut() const { return m_printed.isCut; }
     /// Whether the cell is of a selected key.
     void setSelected(bool isSelected);
+    /// On paper, only the cell that is typed in paints its contents; the others are on the ground below.
+    void setOnPaper(bool isOnPaper);
     /// The key of this cell, in the parent's pixels: a drag selects text within it and keys beyond.
     void setKeyArea(const QRect& area) { m_keyArea = area; }
     /// Size of the keyboard on the screen.
@@ -77,6 +79,7 @@ private:
     QPoint m_pressedAt;
     QRect m_keyArea;
     bool m_isSelected = false;
+    bool m_isOnPaper = false;
     bool m_isDoubleClick = false;
     bool m_isEnteredByMouse = false; ///< by the press that follows
     bool m_isPick = false;

@@ -3,17 +3,16 @@
 
 #include "overlay/CellEdit.h"
 #include "overlay/DocumentEditor.h"
+#include "overlay/KeyboardGround.h"
 #include "overlay/SheetPainter.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
 
 #include <QKeyEvent>
 #include <QMenu>
-#include <QPainter>
 #include <QResizeEvent>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -23,79 +22,17 @@ namespace norvane::overlay
 namespace
 {
 
-/// Around the keys, in millimetres.
-constexpr double groundMargin = 3;
-/// A key's frame, in pixels.
-constexpr int keyFrame = 1;
 /// Of the surroundings of the current cell that come into view with it, in pixels.
 constexpr int reachPixels = 20;
 constexpr double trueScale = paper::screenPixelsPerMillimetre;
 constexpr double smallestScale = 0.45 * trueScale;
 
-QRectF boundsOf(const OverlayLayout& layout)
-{
-    QRectF bounds;
-    for (const OverlayKey& key : layout.keys())
-        bounds |= key.outline();
-    return bounds.adjusted(-groundMargin, -groundMargin, groundMargin, groundMargin);
-}
-
 } // namespace
-
-/// The keyboard below the cells: frames of keys on a plain ground.
-class KeyboardView::Ground : public QWidget
-{
-public:
-    Ground(const OverlayLayout& layout, QWidget* parent)
-        : QWidget(parent), m_layout(layout), m_bounds(boundsOf(layout))
-    {
-    }
-
-    [[nodiscard]] QSizeF sizeInMillimetres() const { return m_bounds.size(); }
-    [[nodiscard]] double scale() const { return m_scale; }
-    void setScale(double scale)
-    {
-        m_scale = scale;
-        const QSizeF whole = m_bounds.size() * scale;
-        resize(static_cast<int>(whole.width()), static_cast<int>(whole.height()));
-        update();
-    }
-    /// Edges of cells that touch fall on the same pixel.
-    [[nodiscard]] QRect pixels(const QRectF& place) const
-    {
-        const auto pixel = [this](double length) {
-            return static_cast<int>(std::lround(length * m_scale));
-        };
-        const QPoint corner(pixel(place.left() - m_bounds.left()), pixel(place.top() - m_bounds.top()));
-        const QPoint end(pixel(place.right() - m_bounds.left()), pixel(place.bottom() - m_bounds.top()));
-        return {corner, end - QPoint(1, 1)};
-    }
-    [[nodiscard]] QPointF millimetres(QPoint pixel) const
-    {
-        return QPointF(pixel) / m_scale + m_bounds.topLeft();
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QPainter painter(this);
-        painter.fillRect(rect(), ui::colours::desktop());
-        painter.setPen(QPen(ui::colours::greyedText, keyFrame));
-        painter.setBrush(Qt::white);
-        for (const OverlayKey& key : m_layout.keys())
-            painter.drawRect(pixels(key.outline()).adjusted(-keyFrame, -keyFrame, 0, 0));
-    }
-
-private:
-    const OverlayLayout& m_layout;
-    QRectF m_bounds; ///< of all keys, in millimetres
-    double m_scale = trueScale;
-};
 
 /// Cells are made in the order of reading, which is the order of Tab then.
 KeyboardView::KeyboardView(DocumentEditor& editor, QWidget* parent)
     : QScrollArea(parent), m_editor(editor), m_layout(editor.document().layout()),
-      m_ground(new Ground(m_layout, this)), m_cells(static_cast<std::size_t>(m_layout.cellCount())),
+      m_ground(new KeyboardGround(m_layout, this)), m_cells(static_cast<std::size_t>(m_layout.cellCount())),
       m_order(readingOrder(m_layout)), m_selection(m_layout)
 {
     ui::nameControl(*this, u"Keyboard"_s);
@@ -214,6 +151,14 @@ void KeyboardView::showCell(int cell)
     CellEdit& edit = *m_cells[static_cast<std::size_t>(cell)];
     edit.showContents(document.cell(cell), {printed, printed.size() < document.cell(cell).text.size()});
     nameCell(cell);
+    m_ground->refreshPaper();
+}
+
+void KeyboardView::setAsPrinted(bool isAsPrinted)
+{
+    m_ground->showPaper(isAsPrinted ? &m_editor.document() : nullptr);
+    for (CellEdit* const cell : m_cells)
+        cell->setOnPaper(isAsPrinted);
 }
 
 void KeyboardView::nameCell(int cell)

@@ -13,6 +13,7 @@ namespace norvane::overlay
 
 class CellEdit;
 class DocumentEditor;
+class KeyboardGround;
 
 /// Shows a document in the shape of its keyboard, as large as fits or in a fixed size, and passes typed text
 /// and clicks to the editor. Tab, Enter and the arrow keys move through the cells, whose menus offer the
@@ -28,6 +29,8 @@ public:
 
     /// @param percent of true size; 0 for what fits into the window.
     void setZoom(int percent);
+    /// Whether the keys look as they will on paper, with what covers what, or as cells to type in.
+    void setAsPrinted(bool isAsPrinted);
     /// The cell that has or had the focus last.
     [[nodiscard]] int currentCell() const { return m_current; }
     /// Scrolls to @p cell and gives it the focus.
@@ -54,7 +57,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    class Ground;
     void makeCell(int cell);
     void connectCell(int cell);
     void connectSelection(int cell);
@@ -68,7 +70,7 @@ private:
 
     DocumentEditor& m_editor;
     const OverlayLayout& m_layout;
-    Ground* m_ground;
+    KeyboardGround* m_ground;
     std::vector<CellEdit*> m_cells; ///< by index
     std::vector<int> m_order;       ///< of reading
     KeySelection m_selection;

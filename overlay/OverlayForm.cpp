@@ -59,7 +59,8 @@ struct OverlayForm::Entry {
 OverlayForm::OverlayForm(Keyboard keyboard, const ApplicationValues& values, Boxes& boxes,
                          OverlayDialogs& dialogs, PrinterInUse& printer, QWidget* parent)
     : QDialog(parent, Qt::Window), m_values(values), m_boxes(boxes), m_editor(keyboard),
-      m_files(m_editor, values, boxes, dialogs), m_sheet(m_editor.document(), boxes, dialogs, printer),
+      m_files(m_editor, values, boxes, dialogs),
+      m_sheet(m_editor.document(), boxes, dialogs, printer, values.customerName),
       m_keyboard(new KeyboardView(m_editor, this)),
       m_style(new StyleChooser(m_editor.style(), dialogs, this)), StatusBar1(new ui::StatusLine(this))
 {
@@ -191,6 +192,11 @@ QToolBar* OverlayForm::makeViewTools()
     ui::nameControl(*bar, u"ViewTools"_s);
     bar->addSeparator();
     bar->addWidget(new ZoomBox(*m_keyboard, this));
+    QAction* const asPrinted = bar->addAction(u"As printed"_s, m_keyboard, &KeyboardView::setAsPrinted);
+    asPrinted->setObjectName(u"AsPrinted"_s);
+    asPrinted->setCheckable(true);
+    asPrinted->setShortcut(Qt::Key_F8);
+    asPrinted->setToolTip(u"Shows the keys as they will be on paper (F8)"_s);
     bar->addSeparator();
     m_style->addTo(*bar);
     return bar;

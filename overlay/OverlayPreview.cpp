@@ -63,7 +63,10 @@ void OverlayPreview::buildControls()
     addButton(*row, u"PrintButton"_s, u"&Print"_s, &OverlayPreview::print);
     addButton(*row, u"SaveButton"_s, u"&Save as PDF"_s, &OverlayPreview::savePdf);
     addButton(*row, u"CorrectionButton"_s, u"Printer &correction"_s, &OverlayPreview::correct);
+    addButton(*row, u"OptionsButton"_s, u"Mar&ks and paper"_s, &OverlayPreview::chooseOptions)
+        ->setEnabled(m_actions.chooseOptions != nullptr);
     addZoom(*row);
+    m_turn = addButton(*row, u"PageButton"_s, u"Other pa&ge"_s, &OverlayPreview::turnPage);
     row->addStretch();
     addButton(*row, u"CloseButton"_s, u"C&lose"_s, &OverlayPreview::reject);
     column->addLayout(row);
@@ -71,12 +74,14 @@ void OverlayPreview::buildControls()
     column->addWidget(m_view, 1);
 }
 
-void OverlayPreview::addButton(QBoxLayout& row, const QString& name, const QString& caption, Handler handler)
+QPushButton* OverlayPreview::addButton(QBoxLayout& row, const QString& name, const QString& caption,
+                                       Handler handler)
 {
     QPushButton* const button = ui::makeButton(name, caption, this);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, handler);
     row.addWidget(button);
+    return button;
 }
 
 void OverlayPreview::addZoom(QBoxLayout& row)
@@ -127,6 +132,21 @@ void OverlayPreview::correct()
         take(form.correction());
 }
 
+/// A correction that could not be stored stays in force.
+void OverlayPreview::chooseOptions()
+{
+    if (auto chosen = m_actions.chooseOptions(this)) {
+        chosen->correction = m_target.correction;
+        m_target = *std::move(chosen);
+        showTarget();
+    }
+}
+
+void OverlayPreview::turnPage()
+{
+    m_view->showPage((m_view->page() + 1) % m_view->pageCount());
+}
+
 void OverlayPreview::moveSheet()
 {
     if (const auto moved = correctionToFit(m_document.layout(), m_target))
@@ -151,6 +171,7 @@ void OverlayPreview::showTarget()
     m_notice->setText(notices.join(u'\n'));
     m_view->setAccessibleName(notices.isEmpty() ? u"The sheet as it will print"_s : m_notice->text());
     m_notice->parentWidget()->setVisible(!notices.isEmpty());
+    m_turn->setVisible(m_view->pageCount() > 1);
     const bool hasPrinter = !m_target.name.isEmpty();
     findChild<QPushButton*>(u"CorrectionButton"_s)->setEnabled(hasPrinter);
     m_move->setVisible(hasPrinter && !keysOutside(m_document.layout(), m_target).empty() &&
@@ -167,6 +188,8 @@ QString OverlayPreview::outsideNotice() const
         notice += u"The sheet is wider than the page. "_s;
         if (m_target.sheet.orientation == QPageLayout::Portrait)
             notice += u"Choose Landscape in Printer Setup. "_s;
+        if (m_target.options.mayTakeTwoPages)
+            notice += u"Two pages are not enough either. "_s;
     }
     const QString area =
         m_target.name.isEmpty()

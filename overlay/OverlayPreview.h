@@ -6,6 +6,7 @@
 #include <QDialog>
 
 #include <functional>
+#include <optional>
 
 class QBoxLayout;
 class QLabel;
@@ -28,6 +29,8 @@ struct PreviewActions {
     std::function<void()> savePdf;
     /// Prints the test page under a correction. @return false when the printer failed.
     std::function<bool(const paper::PrinterCorrection&)> printTestPage;
+    /// Asks for marks and paper, above a window. @return what prints then; nothing if the user cancels.
+    std::function<std::optional<TargetPrinter>(QWidget*)> chooseOptions = {};
 };
 
 /// Shows a document as a printer will print it, lists the keys that it cannot print completely and the texts
@@ -46,12 +49,14 @@ private:
     using Handler = void (OverlayPreview::*)();
 
     void buildControls();
-    void addButton(QBoxLayout& row, const QString& name, const QString& caption, Handler handler);
+    QPushButton* addButton(QBoxLayout& row, const QString& name, const QString& caption, Handler handler);
     void addZoom(QBoxLayout& row);
     [[nodiscard]] QWidget* makeNotice();
     void print();
     void savePdf();
     void correct();
+    void chooseOptions();
+    void turnPage();
     void moveSheet();
     void take(const paper::PrinterCorrection& correction);
     void showTarget();
@@ -67,6 +72,7 @@ private:
     SheetView* m_view;
     QLabel* m_notice = nullptr;
     QPushButton* m_move = nullptr;
+    QPushButton* m_turn = nullptr;
 };
 
 } // namespace norvane::overlay

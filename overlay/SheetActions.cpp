@@ -3,6 +3,7 @@
 
 #include "overlay/CorrectionForm.h"
 #include "overlay/OverlayPreview.h"
+#include "overlay/SheetOptionsForm.h"
 #include "overlay/SheetPainter.h"
 #include "overlay/TestPage.h"
 #include "paper/DefaultPrinter.h"
@@ -11,6 +12,7 @@
 #include "platform/Excerpt.h"
 #include "platform/RuntimeFailure.h"
 
+#include <QDate>
 #include <QPrinterInfo>
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,8 +38,8 @@ std::unique_ptr<QPrinter> findPrinter(const PrinterChoice& choice)
 }
 
 SheetActions::SheetActions(const Document& document, Boxes& boxes, OverlayDialogs& dialogs,
-                           PrinterInUse& printer)
-    : m_document(document), m_boxes(boxes), m_dialogs(dialogs), m_printer(printer)
+                           PrinterInUse& printer, QString shop)
+    : m_document(document), m_boxes(boxes), m_dialogs(dialogs), m_printer(printer), m_shop(std::move(shop))
 {
 }
 
@@ -51,7 +53,7 @@ std::unique_ptr<QPrinter> SheetActions::printerForSheet() const
 {
     auto printer = m_printer.find(m_printer.choice);
     if (printer) {
-        printer->setPageSize(QPageSize(QPageSize::A4));
+        printer->setPageSize(pageSizeOf(m_options.format));
         printer->setPageOrientation(m_printer.choice.orientation);
         paper::askForHighQuality(*printer);
     }
@@ -60,14 +62,49 @@ std::unique_ptr<QPrinter> SheetActions::printerForSheet() const
 
 TargetPrinter SheetActions::targetOf(const QPrinter& printer) const
 {
-    return {printer.printerName(), paper::sheetOf(printer), m_corrections.of(printer.printerName())};
+    return {printer.printerName(), paper::sheetOf(printer), m_corrections.of(printer.printerName()),
+            m_options, caption()};
+}
+
+TargetPrinter SheetActions::pdfTarget() const
+{
+    return {QString(),
+            {m_printer.choice.orientation, paper::usualMargins, m_options.format},
+            {},
+            m_options,
+            caption()};
+}
+
+/// "DEMO CAFE, Velmar keyboard, level 1, 2026-11-26".
+QString SheetActions::caption() const
+{
+    QStringList parts{m_shop, u"%1 keyboard"_s.arg(m_document.geometry().name)};
+    if (m_document.notes().level > 0)
+        parts << u"level %1"_s.arg(m_document.notes().level);
+    parts << QDate::currentDate().toString(Qt::ISODate);
+    parts.removeAll(QString());
+    return parts.join(u", "_s);
+}
+
+std::optional<TargetPrinter> SheetActions::chooseOptions(QWidget* parent)
+{
+    SheetOptionsForm form(m_options, m_copies, parent);
+    if (form.exec() != QDialog::Accepted)
+        return std::nullopt;
+    m_options = form.options();
+    m_copies = form.copies();
+    if (!m_keptOptions.keep(m_options)) {
+        m_boxes.message(u"The choice could not be stored. It holds until the designer is closed."_s,
+                        u"Marks and Paper"_s, BoxIcon::Exclamation);
+    }
+    return target();
 }
 
 /// Without a printer the sheet is seen as a PDF will have it.
 TargetPrinter SheetActions::target() const
 {
     const auto printer = printerForSheet();
-    return printer ? targetOf(*printer) : TargetPrinter{QString(), {m_printer.choice.orientation}, {}};
+    return printer ? targetOf(*printer) : pdfTarget();
 }
 
 bool SheetActions::printOn(const QString& name, const std::optional<paper::PrinterCorrection>& correction,
@@ -109,8 +146,9 @@ QString SheetActions::destination(const std::optional<paper::PrinterCorrection>&
         in.across.stretch == in.down.stretch
             ? percentOf(in.across.stretch)
             : u"%1 across, %2 down"_s.arg(percentOf(in.across.stretch), percentOf(in.down.stretch));
-    return u"Printer: %1. Paper: A4 %2. Scale: %3."_s.arg(
-        used.name.isEmpty() ? u"none"_s : used.name, isLandscape ? u"landscape"_s : u"portrait"_s, scale);
+    return u"Printer: %1. Paper: %2 %3. Scale: %4."_s.arg(
+        used.name.isEmpty() ? u"none"_s : used.name, formatName(used.sheet.format),
+        isLandscape ? u"landscape"_s : u"portrait"_s, scale);
 }
 
 bool SheetActions::print(const QString& name, const std::optional<paper::PrinterCorrection>& correction)
@@ -118,6 +156,7 @@ bool SheetActions::print(const QString& name, const std::optional<paper::Printer
     if (!m_boxes.confirm(u"Start Printing?"_s, u"Print Option"_s) || !mayCut())
         return false;
     const auto paint = [this](QPrinter& printer, const TargetPrinter& target) {
+        printer.setCopyCount(m_copies);
         return printSheet(m_document, printer, target);
     };
     const bool isPrinted = printOn(name, correction, paint);
@@ -132,7 +171,7 @@ QString SheetActions::savePdf(const QString& suggested)
     if (path.isEmpty())
         return {};
     try {
-        writeSheetPdf(m_document, m_printer.choice.orientation, path);
+        writeSheetPdf(m_document, pdfTarget(), path);
         return path;
     } catch (const RuntimeFailure& failure) {
         m_boxes.message(failure.text(), u"Save as PDF"_s, BoxIcon::Critical);
@@ -145,8 +184,9 @@ void SheetActions::preview(std::function<void(const paper::PrinterCorrection&)> 
 {
     OverlayPreview window(m_document, target(),
                           {std::move(print), std::move(savePdf),
-                           [this](const paper::PrinterCorrection& tried) {
-                               return printTest(tried);
+                           [this](const paper::PrinterCorrection& tried) { return printTest(tried); },
+                           [this](QWidget* above) {
+                               return chooseOptions(above);
                            }},
                           m_corrections, m_boxes, parent);
     window.exec();

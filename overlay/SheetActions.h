@@ -33,7 +33,9 @@ struct PrinterInUse {
 class SheetActions
 {
 public:
-    SheetActions(const Document& document, Boxes& boxes, OverlayDialogs& dialogs, PrinterInUse& printer);
+    /// @param shop whose keyboard it is, for the caption.
+    SheetActions(const Document& document, Boxes& boxes, OverlayDialogs& dialogs, PrinterInUse& printer,
+                 QString shop = {});
 
     void setUpPrinter();
     /// Printer, paper and scale of the next print, in words. @param correction as for print().
@@ -58,6 +60,9 @@ private:
     [[nodiscard]] TargetPrinter target() const;
     [[nodiscard]] TargetPrinter targetOf(const QPrinter& printer) const;
     [[nodiscard]] std::unique_ptr<QPrinter> printerForSheet() const;
+    [[nodiscard]] TargetPrinter pdfTarget() const;
+    [[nodiscard]] QString caption() const;
+    [[nodiscard]] std::optional<TargetPrinter> chooseOptions(QWidget* parent);
     [[nodiscard]] bool mayCut() const;
     [[nodiscard]] bool printOn(const QString& name, const std::optional<paper::PrinterCorrection>& correction,
                                const Painter& paint) const;
@@ -67,6 +72,10 @@ private:
     Boxes& m_boxes;
     OverlayDialogs& m_dialogs;
     PrinterInUse& m_printer;
+    QString m_shop;
+    KeptSheetOptions m_keptOptions = KeptSheetOptions::ofThisUser();
+    SheetOptions m_options = m_keptOptions.read();
+    int m_copies = 1; ///< until the designer is closed
     paper::PrinterCorrections m_corrections = paper::PrinterCorrections::ofThisComputer();
 };
 

@@ -1,6 +1,8 @@
 // See SheetFit.h.
 #include "overlay/SheetFit.h"
 
+#include "overlay/SheetPages.h"
+
 #include <algorithm>
 
 namespace norvane::overlay
@@ -10,12 +12,10 @@ namespace
 
 using paper::millimetres;
 
-/// The margins reported by a printer are accurate to a dot.
-constexpr double tolerance = 0.05;
-
 QRectF printable(const TargetPrinter& target)
 {
-    return target.sheet.printableRect().adjusted(-tolerance, -tolerance, tolerance, tolerance);
+    return target.sheet.printableRect().adjusted(-marginTolerance, -marginTolerance, marginTolerance,
+                                                 marginTolerance);
 }
 
 QRectF allKeys(const OverlayLayout& layout, const TargetPrinter& target)
@@ -44,9 +44,14 @@ std::vector<std::size_t> keysOutside(const OverlayLayout& layout, const TargetPr
 {
     const QTransform place = placeOnPaper(target);
     const QRectF area = printable(target);
+    const std::vector<SheetPage> pages = pagesOf(layout, target);
     std::vector<std::size_t> outside;
     for (std::size_t key = 0; key < layout.keys().size(); ++key) {
-        if (!area.contains(place.mapRect(layout.keys()[key].outline())))
+        const bool isWhole = std::ranges::any_of(pages, [&](const SheetPage& page) {
+            const QRectF outline = layout.keys()[key].outline().translated(page.moved, 0);
+            return page.has(layout.keys()[key]) && area.contains(place.mapRect(outline));
+        });
+        if (!isWhole)
             outside.push_back(key);
     }
     return outside;
@@ -62,7 +67,7 @@ std::optional<paper::PrinterCorrection> correctionToFit(const OverlayLayout& lay
 {
     const QRectF keys = allKeys(layout, target);
     const QRectF area = target.sheet.printableRect();
-    if (keys.width() > area.width() + tolerance || keys.height() > area.height() + tolerance)
+    if (keys.width() > area.width() + marginTolerance || keys.height() > area.height() + marginTolerance)
         return std::nullopt;
     return paper::PrinterCorrection{
         moved(target.correction.across, moveInto(keys.left(), keys.right(), area.left(), area.right())),

@@ -32,8 +32,9 @@ SheetPainter::SheetPainter(QPainter& painter, const Document& document)
     painter.setRenderHint(QPainter::TextAntialiasing);
 }
 
-void SheetPainter::paint()
+void SheetPainter::paint(const std::function<bool(const OverlayKey&)>& has)
 {
+    m_has = has;
     m_nextKey = 0;
     for (const KeyColumns& group : m_geometry.columns) {
         for (int column = 0; column < group.columns; ++column) {
@@ -54,14 +55,19 @@ void SheetPainter::printRun(const KeyRun& run)
 
 void SheetPainter::SmallKeys(int count)
 {
-    for (int key = 0; key < count; ++key)
-        printThreeLines(takeKey());
+    for (int index = 0; index < count; ++index) {
+        const OverlayKey& key = takeKey();
+        if (m_has(key))
+            printThreeLines(key);
+    }
 }
 
 void SheetPainter::DoubleKeys(int count)
 {
     for (int index = 0; index < count; ++index) {
         const OverlayKey& key = takeKey();
+        if (!m_has(key))
+            continue;
         if (key.kind == KeyKind::Single) {
             printSingle(key);
         } else {

@@ -3,6 +3,8 @@
 
 #include "overlay/OverlayPen.h"
 
+#include <functional>
+
 namespace norvane::overlay
 {
 
@@ -13,8 +15,8 @@ public:
     /// @param painter in millimetres from the corner of the printable area. Both must outlive this.
     SheetPainter(QPainter& painter, const Document& document);
 
-    /// All keys: down each column, columns from the left.
-    void paint();
+    /// The keys that @p has says: down each column, columns from the left.
+    void paint(const std::function<bool(const OverlayKey&)>& has = [](const OverlayKey&) { return true; });
 
 private:
     /// Prints the next @p count keys of three lines.
@@ -34,6 +36,7 @@ private:
     const KeyboardGeometry& m_geometry;
     OverlayPen m_pen;
     std::size_t m_nextKey = 0;
+    std::function<bool(const OverlayKey&)> m_has;
 };
 
 /// The part of a cell's text that prints: as much as reaches the width of its key.

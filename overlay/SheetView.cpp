@@ -40,7 +40,15 @@ void SheetView::setTarget(const TargetPrinter& target)
 {
     m_target = target;
     m_outside = keysOutside(m_document.layout(), target);
+    m_pages = pagesOf(m_document.layout(), target);
+    m_page = std::min(m_page, pageCount() - 1);
     updateScale();
+}
+
+void SheetView::showPage(int page)
+{
+    m_page = page;
+    viewport()->update();
 }
 
 void SheetView::setZoom(Zoom zoom)
@@ -115,7 +123,7 @@ void SheetView::paintSheet(QPainter& painter) const
     painter.setClipRect(sheet);
     painter.translate(keysCorner());
     painter.setRenderHint(QPainter::Antialiasing);
-    SheetPainter(painter, m_document).paint();
+    paintPage(painter, m_document, m_target, shownPage());
     painter.restore();
     QPen pen(ui::colours::greyedText, 0, Qt::DashLine);
     painter.setPen(pen);
@@ -124,14 +132,15 @@ void SheetView::paintSheet(QPainter& painter) const
 
 void SheetView::paintOutside(QPainter& painter) const
 {
-    painter.translate(keysCorner());
+    painter.translate(keysCorner() + QPointF(shownPage().moved, 0));
     QColor colour = ui::colours::warning;
     painter.setPen(QPen(colour, 0.5));
     colour.setAlphaF(0.15F);
     painter.setBrush(colour);
     for (const std::size_t index : m_outside) {
         const OverlayKey& key = m_document.layout().keys()[index];
-        painter.drawRect(key.outline());
+        if (shownPage().has(key))
+            painter.drawRect(key.outline());
     }
 }
 
@@ -150,7 +159,7 @@ ui::SpokenItem SheetView::spokenItem(int index) const
     QString state = u"Column %1, key %2"_s.arg(key.column + 1).arg(key.row + 1);
     if (std::ranges::find(m_outside, static_cast<std::size_t>(index)) != m_outside.end())
         state += u", leaves the printable area"_s;
-    const QRectF place = key.outline().translated(keysCorner());
+    const QRectF place = key.outline().translated(keysCorner() + QPointF(shownPage().moved, 0));
     return {lines.join(u' '), state,
             QRectF(toViewport(place.topLeft()), place.size() * pixelsPerMillimetre()).toAlignedRect()};
 }

@@ -1,7 +1,7 @@
 // The sheet on the screen as it will be on the paper.
 #pragma once
 
-#include "overlay/SheetPrint.h"
+#include "overlay/SheetPages.h"
 #include "paper/ZoomedView.h"
 #include "ui/SpokenItems.h"
 
@@ -21,6 +21,11 @@ public:
 
     /// Shows the sheet as it will be on this printer's paper.
     void setTarget(const TargetPrinter& target);
+    [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
+    /// The page that is shown, from 0.
+    [[nodiscard]] int page() const { return m_page; }
+    /// @param page from 0 to pageCount() - 1.
+    void showPage(int page);
     void setZoom(paper::Zoom zoom) override;
     /// A size of the user's own, within limits.
     void setPixelsPerMillimetre(double pixels) { zoomTo(pixels); }
@@ -46,6 +51,7 @@ protected:
 
 private:
     [[nodiscard]] QPointF sheetCorner() const;
+    [[nodiscard]] const SheetPage& shownPage() const { return m_pages[static_cast<std::size_t>(m_page)]; }
     [[nodiscard]] QPointF keysCorner() const;
     void zoomBy(double factor, QPointF fixed);
     void paintSheet(QPainter& painter) const;
@@ -53,6 +59,8 @@ private:
 
     const Document& m_document;
     TargetPrinter m_target;
+    std::vector<SheetPage> m_pages{SheetPage()};
+    int m_page = 0;
     std::vector<std::size_t> m_outside; ///< keys that leave the printable area
     QPoint m_dragged;
 };

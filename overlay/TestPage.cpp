@@ -57,7 +57,7 @@ void explain(OverlayPen& pen, const QString& printer)
 
 bool printTestPage(QPagedPaintDevice& device, const TargetPrinter& target)
 {
-    paper::PageDevice paper(device, QPageSize(QPageSize::A4), target.sheet.orientation);
+    paper::PageDevice paper(device, pageSizeOf(target.sheet.format), target.sheet.orientation);
     QPainter& painter = paper.nextPage();
     painter.setTransform(target.correction.transform(), true);
     OverlayPen pen(painter, geometryOf(Keyboard::Dorvik));

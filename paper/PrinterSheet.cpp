@@ -31,11 +31,13 @@ Sheet sheetOf(const QPrinter& printer)
 {
     QPageLayout layout = printer.pageLayout();
     layout.setUnits(QPageLayout::Millimeter);
+    const bool isLetter = layout.pageSize().id() == QPageSize::Letter;
+    const SheetFormat format = isLetter ? SheetFormat::Letter : SheetFormat::A4;
     const Margins margins = inMillimetres(layout.minimumMargins());
     if (margins == Margins())
-        return {layout.orientation(), usualMargins};
+        return {layout.orientation(), usualMargins, format};
     const bool isTurned = layout.orientation() == QPageLayout::Landscape;
-    return {layout.orientation(), isTurned ? turned(margins) : margins};
+    return {layout.orientation(), isTurned ? turned(margins) : margins, format};
 }
 
 } // namespace norvane::paper

@@ -8,8 +8,8 @@ class QPrinter;
 namespace norvane::paper
 {
 
-/// The A4 sheet of @p printer as set up: its orientation, and the margins that it cannot print in. A printer
-/// that reports no margins gets the usual ones.
+/// The sheet of @p printer as set up: its orientation, and the margins that it cannot print in. A printer
+/// that reports no margins gets the usual ones. A size other than Letter counts as A4.
 [[nodiscard]] Sheet sheetOf(const QPrinter& printer);
 
 } // namespace norvane::paper

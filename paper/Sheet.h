@@ -1,4 +1,4 @@
-// A sheet of A4 as a printer takes it.
+// A sheet as a printer takes it.
 #pragma once
 
 #include "paper/Length.h"
@@ -22,13 +22,16 @@ struct Margins {
 /// Of a PDF, and of printers that do not report theirs.
 inline constexpr Margins usualMargins{millimetres(5), millimetres(5), millimetres(5), millimetres(5)};
 
+enum class SheetFormat { A4, Letter };
+
 /// A sheet of paper with its margins.
 struct Sheet {
     QPageLayout::Orientation orientation = QPageLayout::Landscape;
     Margins margins = usualMargins;
+    SheetFormat format = SheetFormat::A4;
 
-    [[nodiscard]] constexpr Length width() const { return isLandscape() ? longEdge : shortEdge; }
-    [[nodiscard]] constexpr Length height() const { return isLandscape() ? shortEdge : longEdge; }
+    [[nodiscard]] constexpr Length width() const { return isLandscape() ? longEdge() : shortEdge(); }
+    [[nodiscard]] constexpr Length height() const { return isLandscape() ? shortEdge() : longEdge(); }
     /// In mm from the sheet's upper left corner.
     [[nodiscard]] QRectF rect() const { return {0, 0, width().inMillimetres(), height().inMillimetres()}; }
     [[nodiscard]] QRectF printableRect() const
@@ -40,9 +43,9 @@ struct Sheet {
     bool operator==(const Sheet&) const = default;
 
 private:
-    static constexpr Length longEdge = millimetres(297);
-    static constexpr Length shortEdge = millimetres(210);
-
+    [[nodiscard]] constexpr bool isA4() const { return format == SheetFormat::A4; }
+    [[nodiscard]] constexpr Length longEdge() const { return millimetres(isA4() ? 297 : 279.4); }
+    [[nodiscard]] constexpr Length shortEdge() const { return millimetres(isA4() ? 210 : 215.9); }
     [[nodiscard]] constexpr bool isLandscape() const { return orientation == QPageLayout::Landscape; }
 };
 

@@ -52,6 +52,7 @@ constexpr HelpTopic topics[] = {
     {"FindReplace"_L1, "many-keys-at-once"_L1},
     {"PrinterSetup"_L1, "keyboard-overlays-on-paper"_L1},
     {"OverlayPreview"_L1, "before-it-is-printed"_L1},
+    {"SheetOptions"_L1, "marks-and-paper"_L1},
     {"PrinterCorrection"_L1, "a-printer-that-prints-beside-the-keys"_L1},
     {pleaseCheck, "questions-before-something-is-lost"_L1},
 };

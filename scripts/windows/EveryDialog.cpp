@@ -19,6 +19,7 @@
 #include "overlay/OverlayForm.h"
 #include "overlay/OverlayPreview.h"
 #include "overlay/PrinterSetup.h"
+#include "overlay/SheetOptionsForm.h"
 #include "overlay/SystemDialogs.h"
 #include "overlay/WholeWordsDialog.h"
 #include "platform/FilePaths.h"
@@ -273,6 +274,10 @@ constexpr Dialog dialogs[] = {
     {"printer-setup",
      [](Ground& /*g*/, QWidget* p) -> QWidget* {
          return new overlay::PrinterSetup({}, p);
+     }},
+    {"overlay-marks",
+     [](Ground& /*g*/, QWidget* p) -> QWidget* {
+         return new overlay::SheetOptionsForm({}, 1, p);
      }},
     {"reports",
      [](Ground& g, QWidget* p) -> QWidget* {

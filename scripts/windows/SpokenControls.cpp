@@ -22,6 +22,8 @@ QString shownIn(const QObject* control)
         return page->toPlainText();
     if (const auto* const spin = qobject_cast<const QDoubleSpinBox*>(control))
         return spin->cleanText();
+    if (const auto* const spin = qobject_cast<const QSpinBox*>(control))
+        return spin->cleanText();
     if (const auto* const day = qobject_cast<const QDateTimeEdit*>(control))
         return day->text();
     if (const auto* const list = qobject_cast<const QComboBox*>(control)) {

@@ -25,5 +25,35 @@ TEST(KeyboardViewTest, HasEveryCellOnTheKeyboardWithoutOverlap)
     }
 }
 
+/// The sheet of a Velmar is white below 12 mm of a key, and a text may be wider than its cell.
+TEST(KeyboardViewTest, ShowsAsPrintedWhatTheOutlinesCover)
+{
+    DocumentEditor editor(Keyboard::Velmar);
+    KeyboardView view(editor, nullptr);
+    view.resize(1200, 900);
+    view.show();
+    const auto* const cell = view.findChild<QLineEdit*>(QStringLiteral("RichTextBox1_5"));
+    const auto shown = [&] {
+        const QPoint foot(cell->geometry().center().x(), cell->geometry().bottom() - 2);
+        return view.widget()->grab().toImage().pixelColor(foot);
+    };
+    const auto colour = [&](int number) {
+        editor.changeCells(QStringLiteral("Colour"), {5},
+                           [number](TextCell& changed) { changed.background = {number}; });
+    };
+    colour(255);
+    EXPECT_EQ(shown(), QColor(Qt::red));
+    view.setAsPrinted(true);
+    EXPECT_EQ(shown(), QColor(Qt::white));
+    const auto band = [&] {
+        return view.widget()->grab().toImage().pixelColor(cell->geometry().topLeft() + QPoint(6, 4));
+    };
+    EXPECT_EQ(band(), QColor(Qt::red));
+    colour(0xff0000);
+    EXPECT_EQ(band(), QColor(Qt::blue)) << "it follows the document";
+    view.setAsPrinted(false);
+    EXPECT_EQ(shown(), QColor(Qt::blue));
+}
+
 } // namespace
 } // namespace norvane::overlay

@@ -24,6 +24,12 @@ protected:
                                      [this](const paper::PrinterCorrection& correction) {
                                          m_testPages.push_back(correction);
                                          return m_testPages.size() > 1;
+                                     },
+                                     [target](QWidget* /*above*/) {
+                                         TargetPrinter chosen = target;
+                                         chosen.sheet.format = paper::SheetFormat::Letter;
+                                         chosen.options.mayTakeTwoPages = true;
+                                         return chosen;
                                      }};
         m_preview = std::make_unique<OverlayPreview>(m_document, target, actions, m_corrections, m_boxes);
         m_preview->resize(1100, 850);
@@ -74,6 +80,21 @@ TEST_F(Preview, MarksTheKeysThatAPrinterCannotReachAndMovesTheSheet)
     EXPECT_EQ(m_corrections.of(u"Office"_s).across.offset, millimetres(0)) << "fits already";
     EXPECT_EQ(at(8 + 18 + 8, 5 + 7), QColor(Qt::red));
     EXPECT_EQ(at(8 + 8, 5 + 13), QColor(Qt::white));
+}
+
+TEST_F(Preview, TurnsThePagesOfASheetThatTakesTwo)
+{
+    Document document(Keyboard::Dorvik);
+    document.cell(document.layout().cellCount() - 2).background = {255};
+    open(document, office);
+    EXPECT_FALSE(child<QPushButton>(*m_preview, "PageButton").isVisible());
+    press(*m_preview, "OptionsButton");
+    EXPECT_EQ(notice(), "");
+    const QPoint onSecond(5 + 18 + 8,
+                          5 + 9 * 15 + 7); // the last key is beside the column that both pages have
+    EXPECT_EQ(at(onSecond.x(), onSecond.y()), QColor(Qt::white));
+    press(*m_preview, "PageButton");
+    EXPECT_EQ(at(onSecond.x(), onSecond.y()), QColor(Qt::red));
 }
 
 TEST_F(Preview, NamesWhatWillNotBePrinted)

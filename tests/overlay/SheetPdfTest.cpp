@@ -1,5 +1,7 @@
 // The sheets on paper, measured: a PDF of each keyboard, ten dots to the millimetre, beside where the keys of
 // the real keyboard are.
+#include "overlay/SheetFit.h"
+#include "overlay/SheetPages.h"
 #include "overlay/SheetPainter.h"
 #include "overlay/SheetPrint.h"
 #include "overlay/TestPage.h"
@@ -8,6 +10,7 @@
 #include "tests/support/OtherPrograms.h"
 
 #include <QPdfWriter>
+#include <QSet>
 
 namespace norvane::test
 {
@@ -102,12 +105,24 @@ class Page
 {
 public:
     explicit Page(const QString& pdf) : m_image(pdfPage(pdf, 1)) { EXPECT_NEAR(m_image.width(), 2970, 1); }
-    static Page of(const Document& document)
+    static Page of(const Document& document, const TargetPrinter& target = {})
     {
         const TestFolder folder;
-        writeSheetPdf(document, QPageLayout::Landscape, folder.path("a.pdf"));
+        writeSheetPdf(document, target, folder.path("a.pdf"));
         EXPECT_LT(QFileInfo(folder.path("a.pdf")).size(), 500 * 1000);
         return Page(folder.path("a.pdf"));
+    }
+    /// Where the other page differs within an area.
+    [[nodiscard]] QRectF difference(const Page& other, const QRectF& area) const
+    {
+        QRectF differing;
+        for (int y = static_cast<int>(area.top() * 10); y < area.bottom() * 10; ++y) {
+            for (int x = static_cast<int>(area.left() * 10); x < area.right() * 10; ++x) {
+                if (m_image.pixel(x, y) != other.m_image.pixel(x, y))
+                    differing |= QRectF(x / 10.0, y / 10.0, 0.1, 0.1);
+            }
+        }
+        return differing;
     }
     /// The colour at a dot, each part full or empty.
     [[nodiscard]] QRgb at(double x, double y) const
@@ -249,6 +264,65 @@ TEST_P(SheetPdf, PrintsTextsInTheMiddleOfTheirWidthAndInsideTheirKeys)
             }
         }
     }
+}
+
+TEST_P(SheetPdf, HasMarksBesideItsKeysThatMoveNoKey)
+{
+    Document document(GetParam().keyboard);
+    for (int cell = 0; cell < document.cellCount(); ++cell) {
+        document.cell(cell).text = u"Hg"_s;
+        document.cell(cell).background = colourOf(QColor(colourOfCell(cell)));
+    }
+    const Page plain = Page::of(document);
+    TargetPrinter target;
+    target.options = {true, true, true, true, true};
+    target.caption = u"DEMO CAFE, level 1"_s;
+    const Page marked = Page::of(document, target);
+    QRectF keys;
+    for (const OverlayKey& key : document.layout().keys()) {
+        const QRectF place = key.outline().translated(5, 5);
+        keys |= place;
+        // A line of a single key is over its grey outline.
+        EXPECT_EQ(marked.difference(plain, place.adjusted(0.2, 0.2, -0.2, -0.2)), QRectF()) << key.firstCell;
+        EXPECT_FALSE(marked.difference(plain, place.adjusted(-0.1, 2, -place.width() + 0.1, -2)).isEmpty());
+    }
+    const QRectF line = marked.difference(plain, {keys.right() + 0.3, 50, 0.4, 50});
+    EXPECT_NEAR(line.center().x(), keys.right() + 0.5, 0.1);
+    EXPECT_NEAR(line.height(), 50, 0.2);
+    const QRectF mark = marked.darkPart({keys.left() - 0.7, keys.bottom() + 1, 0.4, 6});
+    EXPECT_NEAR(mark.top(), keys.bottom() + 1.5, 0.2);
+    EXPECT_NEAR(mark.height(), 4, 0.2);
+}
+
+TEST(SheetPages, LayOverEachOtherInOneColumnWhereThePaperIsTooSmall)
+{
+    Document document(Keyboard::Dorvik);
+    for (int cell = 0; cell < document.cellCount(); ++cell)
+        document.cell(cell).text = QString::number(document.layout().keyOf(cell).column);
+    TargetPrinter target{{}, {QPageLayout::Landscape, paper::usualMargins, paper::SheetFormat::Letter}, {}};
+    const TestFolder folder;
+    const auto columnsOn = [&](int page) {
+        writeSheetPdf(document, target, folder.path("a.pdf"));
+        const QString number = QString::number(page);
+        const QString text = QString::fromUtf8(
+            outputOf(u"pdftotext"_s, {u"-f"_s, number, u"-l"_s, number, folder.path("a.pdf"), u"-"_s}));
+        const QStringList words = text.simplified().split(u' ');
+        return QSet<QString>(words.begin(), words.end());
+    };
+    EXPECT_FALSE(columnsOn(1).contains(u"15"_s)) << "beyond the paper";
+    EXPECT_FALSE(keysOutside(document.layout(), target).empty());
+    target.options.mayTakeTwoPages = true;
+    const auto first = columnsOn(1);
+    const auto second = columnsOn(2);
+    EXPECT_TRUE(first.contains(u"0"_s) && first.contains(u"14"_s) && !first.contains(u"15"_s));
+    EXPECT_TRUE(second.contains(u"14"_s) && second.contains(u"15"_s) && !second.contains(u"13"_s));
+    EXPECT_TRUE(keysOutside(document.layout(), target).empty());
+    EXPECT_EQ(pdfPage(folder.path("a.pdf"), 1).width(), 2794);
+
+    target.sheet.margins.right = paper::millimetres(180);
+    EXPECT_EQ(pagesOf(document.layout(), target).size(), 1U) << "two pages are not enough";
+    target.sheet.margins.right = paper::millimetres(260);
+    EXPECT_EQ(pagesOf(document.layout(), target).size(), 1U) << "no page holds a column";
 }
 
 TEST(TestPageTest, HasItsLinesWhereItSaysUnderTheCurrentCorrection)
