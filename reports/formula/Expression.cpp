@@ -252,6 +252,15 @@ bool Expression::needsWhole() const
            std::ranges::any_of(m_parts, [](const Expression& part) { return part.needsWhole(); });
 }
 
+bool Expression::addsUp() const
+{
+    if (m_kind == Kind::Number)
+        return m_number == Decimal();
+    return m_kind == Kind::Field ||
+           ((m_kind == Kind::Sum || m_kind == Kind::Difference) &&
+            std::ranges::all_of(m_parts, [](const Expression& part) { return part.addsUp(); }));
+}
+
 std::optional<Decimal> Expression::value(const SlotNumbers& numbers) const
 {
     switch (m_kind) {

@@ -49,6 +49,8 @@ public:
     [[nodiscard]] std::optional<std::string> exactValue(const SlotNumbers& numbers) const;
     /// Whether it uses totals of the whole report.
     [[nodiscard]] bool needsWhole() const;
+    /// Whether its value for several lines together is the sum of its values for each.
+    [[nodiscard]] bool addsUp() const;
     /// Marks the slots that it reads.
     void markSlots(std::vector<bool>& slots) const;
     /// The slot of an expression that is only a field.

@@ -16,8 +16,6 @@ namespace norvane::reports
 namespace
 {
 
-/// More bars than this cannot be distinguished on a page.
-constexpr std::size_t mostDays = 62;
 /// So many parts have a place in the legend, and the others together one more.
 constexpr std::size_t mostShares = 10;
 
@@ -56,7 +54,7 @@ Chart ChartPoints::finished(const MoneyFormat& money)
         return {};
     if (m_layout.kind != ChartKind::Course) {
         keepLargest();
-    } else if (m_points.size() > mostDays && m_days.size() == m_points.size()) {
+    } else if (m_points.size() > mostDaysOfCourse && m_days.size() == m_points.size()) {
         putMonthsTogether();
     }
     const CellFormat& format = m_layout.valueFormat;

@@ -12,6 +12,9 @@
 namespace norvane::reports
 {
 
+/// More bars than this cannot be distinguished on a page: a course over more days becomes one over months.
+inline constexpr std::size_t mostDaysOfCourse = 62;
+
 /// One chart in the making. It takes all points first; finished() then keeps the largest, or adds up days to
 /// months when there are too many.
 class ChartPoints

@@ -46,6 +46,7 @@ struct LineSource {
     std::optional<FieldName> groupBy; ///< lines are sorted by it first; those without a group come last
     std::vector<SortKey> order;
     std::optional<Condition> where; ///< of the layout; rows must pass the user's selection as well
+    bool isByMonth = false; ///< by the day, but all days of a month may be put together at its first one
 
     [[nodiscard]] bool addsUp() const { return !keys.empty(); }
     [[nodiscard]] bool isKey(const FieldName& field) const;

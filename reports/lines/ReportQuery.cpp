@@ -79,7 +79,8 @@ void ReportQuery::read(LineStatement statement, const std::function<void(store::
 std::string ReportQuery::monthRows(const LineSource& source)
 {
     const auto day = source.day();
-    if (!source.addsUp() || !day || source.isKey(*day) || !isOnlyPeriod(m_condition, *day))
+    if (!source.addsUp() || !day || (source.isKey(*day) && !source.isByMonth) ||
+        !isOnlyPeriod(m_condition, *day))
         return {};
     const auto period = periodOf(m_condition, *day);
     const auto needsRows = [&](const FieldName& field) {

@@ -206,15 +206,18 @@ void Run::addCharts(ReportData& data, ChartBuilder& charts, const MoneyFormat& m
 
 void Run::runChart(ChartPoints& points)
 {
-    const auto& source = *points.layout().query;
+    LineSource source = *points.layout().query;
     const auto key = static_cast<std::size_t>(std::ranges::find(source.fields, source.keys.front()) -
                                               source.fields.begin());
     const bool isOverDays = key < source.fields.size() && source.day() == source.keys.front();
     DayFiller filler(points, key, source.fields.size());
     std::vector<std::string> numbers(source.fields.size());
     bool hasRows = false;
-    if (isOverDays && m_days)
+    if (isOverDays && m_days) {
         filler.begin(m_days->first);
+        source.isByMonth = points.layout().kind == ChartKind::Course && points.layout().value->addsUp() &&
+                           m_days->first.daysTo(m_days->last) >= qint64{mostDaysOfCourse};
+    }
     m_query.run(source, [&](const LineFields& fields) {
         std::ranges::transform(fields, numbers.begin(), exactText);
         const QDate day = isOverDays ? fields[key].toDate() : QDate();

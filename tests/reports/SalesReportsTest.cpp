@@ -117,6 +117,36 @@ TEST_F(SalesReports, NextReportOfAFormHasTheNamesOfNow)
                                        "= |Total 2 FOOD|1|1.00|0|0|100.0\n# |Total|1|1.00|0|0|100.0");
 }
 
+// The course over months comes from their totals, but not where the value of a month is no sum of days.
+TEST_F(SalesReports, CourseOverManyDaysIsTheSameFromTotalsOfMonths)
+{
+    norvane::test::runElsewhere(
+        shop.path(), "insert into TIMESALES (ID, SALESDATE, QUANTITY, VALUE) with recursive days(day) as "
+                     "(select '2026-06-14' union all select date(day, '+1 day') from days where day < "
+                     "'2026-11-20') select 1, day, 2, round(0.1 * strftime('%d', day), 1) from days where "
+                     "strftime('%d', day) <> '01'");
+    shop.folder().write("course.rpt", readWholeFile(ReportShop::installed("timesales.rpt")) +
+                                          "\r\n[Chart3]\r\nKind=Course\r\nTitle=Price\r\n"
+                                          "By={TIMESALES.SALESDATE}\r\nFormat=Day\r\n"
+                                          "Label={TIMESALES.SALESDATE}\r\n"
+                                          "Value={TIMESALES.VALUE} / {TIMESALES.QUANTITY}\r\n");
+    const QString period = u"{TIMESALES.SALESDATE} in date(2026,5,1) to date(2026,11,10)"_s;
+    const auto pointsOf = [&](const QString& formula) {
+        QStringList points;
+        for (const auto& chart : runReport(shop.request(shop.folder().path("course.rpt"), formula)).charts) {
+            for (const auto& point : chart.points)
+                points << point.label + u'=' + QString::fromStdString(point.value.text());
+        }
+        return points.join(u' ').toStdString();
+    };
+    const std::string points = pointsOf(period);
+    EXPECT_NE(points.find("06/2026=37.4 07/2026=49.5 08/2026=49.5 09/2026=46.4 10/2026=49.5 11/2026=5.4"),
+              std::string::npos)
+        << points;
+    EXPECT_NE(points.find("06/2026=18.7"), std::string::npos);
+    EXPECT_EQ(points, pointsOf(period + u" and {TIMESALES.ID} = 1"_s));
+}
+
 TEST_F(SalesReports, LevelsAreColumnsIfAnyButTheFirstHasSales)
 {
     shop.add("PLUSALES", pluFields,
