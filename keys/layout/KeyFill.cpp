@@ -92,7 +92,8 @@ FillPlan planFill(KeyLevel& level, const FillWish& wish)
     const std::size_t filled = std::min(keys.size(), room.size());
     plan.withoutRoom = std::ssize(keys) - static_cast<qsizetype>(filled) + wish.further;
     for (std::size_t i = 0; i < filled; ++i) {
-        plan.inUse += level.key(room[i]).state != KeyState::Unprogrammed;
+        if (level.key(room[i]).state != KeyState::Unprogrammed)
+            ++plan.inUse;
         plan.keys.push_back({room[i], keys[i]});
     }
     return plan;

@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <initializer_list>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::keys
