@@ -73,6 +73,7 @@ void tryInput(std::string_view input)
 {
     const ApplicationValues& values = shop();
     const QString path = scratchFile(u"a.rpt"_s, input);
+    static_cast<void>(reportsWell([&] { static_cast<void>(reports::layoutMistakes(path)); }));
     if (!reportsWell([&] { static_cast<void>(reports::readLayout(path)); }))
         return;
     reports::ReportRequest request;

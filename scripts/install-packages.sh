@@ -9,7 +9,7 @@ set -euo pipefail
 packages=(
   g++ cmake ninja-build ccache git
   qt6-base-dev qt6-serialport-dev libgl-dev
-  libsqlitecpp-dev libsqlite3-dev libxlsxwriter-dev libminizip-dev zlib1g-dev libpqxx-dev mdbtools-dev
+  libsqlitecpp-dev libsqlite3-dev libxlsxwriter-dev libqpdf-dev libminizip-dev zlib1g-dev libpqxx-dev mdbtools-dev
   lowdown
   poppler-utils unzip xvfb dbus-daemon at-spi2-core
   libgtest-dev libgmock-dev libbenchmark-dev postgresql-15

@@ -10,11 +10,14 @@ namespace norvane::reports
 {
 
 bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device,
-                 const KeepGoing& keepGoing, PageSpan span)
+                 const KeepGoing& keepGoing, PageSpan span,
+                 const std::function<void(const ReportPages&)>& laidOut)
 {
     const PageFont font;
     ReportPages pages(report, font, showsCharts);
     pages.layOutAll();
+    if (laidOut)
+        laidOut(pages);
     const ReportPainter painter(report, pages, font);
     paper::PageDevice paper(device, QPageSize(QPageSize::A4),
                             pages.frame().isLandscape() ? QPageLayout::Landscape : QPageLayout::Portrait);

@@ -2,8 +2,9 @@
 #pragma once
 
 #include "reports/data/KeepGoing.h"
-#include "reports/data/ReportData.h"
+#include "reports/pages/ReportPages.h"
 
+#include <functional>
 #include <limits>
 
 class QPagedPaintDevice;
@@ -17,9 +18,11 @@ struct PageSpan {
     int last = std::numeric_limits<int>::max();
 };
 
-/// Paints the pages of @p span on @p device, a printer or a PDF. @return false when the device failed.
+/// Paints the pages of @p span on @p device, a printer or a PDF. @p laidOut is shown all pages before.
+/// @return false when the device failed.
 /// @throws ReportCancelled between two pages. A printer still prints the pages painted before.
 [[nodiscard]] bool paintReport(const ReportData& report, bool showsCharts, QPagedPaintDevice& device,
-                               const KeepGoing& keepGoing, PageSpan span = {});
+                               const KeepGoing& keepGoing, PageSpan span = {},
+                               const std::function<void(const ReportPages&)>& laidOut = {});
 
 } // namespace norvane::reports

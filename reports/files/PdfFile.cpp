@@ -2,6 +2,7 @@
 #include "reports/files/PdfFile.h"
 
 #include "reports/files/PagedReport.h"
+#include "reports/files/PdfOutline.h"
 #include "reports/files/TargetFile.h"
 
 #include <QBuffer>
@@ -18,9 +19,13 @@ void writePdf(const ReportData& report, bool showsCharts, const QString& path, c
     content.open(QIODevice::WriteOnly);
     QPdfWriter writer(&content);
     writer.setTitle(report.heading.title);
-    if (!paintReport(report, showsCharts, writer, keepGoing))
+    std::vector<OutlineEntry> outline;
+    const auto noteOutline = [&](const ReportPages& pages) {
+        outline = outlineOf(report, pages);
+    };
+    if (!paintReport(report, showsCharts, writer, keepGoing, {}, noteOutline))
         failWriting(path, u"the pages could not be painted."_s);
-    replaceFile(path, content.data());
+    replaceFile(path, withOutline(content.data(), outline));
 }
 
 } // namespace norvane::reports

@@ -8,7 +8,7 @@
 namespace norvane::reports
 {
 
-/// The pages as they are printed, with the charts if @p showsCharts.
+/// The pages as they are printed, with the charts if @p showsCharts, and an outline of groups and charts.
 /// @throws ReportError with file and reason when it cannot be written, and ReportCancelled.
 void writePdf(const ReportData& report, bool showsCharts, const QString& path,
               const KeepGoing& keepGoing = {});

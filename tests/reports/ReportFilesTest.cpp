@@ -10,6 +10,7 @@
 #include "tests/support/OtherPrograms.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 namespace norvane::test
@@ -102,6 +103,37 @@ TEST_F(ReportFiles, HaveTheNumbersOfThePreview)
     }
     EXPECT_TRUE(pdf.contains(u"Friday, 7 May 2004 Page 1 of 2"_s) || pdf.contains(u"Page 2 of 2"_s));
     EXPECT_TRUE(pdf.contains(u"Coffee (continued)"_s));
+}
+
+/// "Coffee 1" for each entry of a PDF's outline, with its page, as another program reads them.
+std::string outlineIn(const QString& path)
+{
+    static const QRegularExpression item(u"<item page=\"(\\d+)\">([^<]*)</item>"_s);
+    const QString xml = QString::fromUtf8(outputOf(u"pdftohtml"_s, {u"-xml"_s, u"-i"_s, u"-stdout"_s, path}));
+    QStringList entries;
+    for (const auto& match : item.globalMatch(xml))
+        entries << match.captured(2) + u' ' + match.captured(1);
+    return entries.join(u'|').toStdString();
+}
+
+TEST_F(ReportFiles, APdfHasGroupsAndChartsInItsOutline)
+{
+    ReportData report = emptySales();
+    addGroup(report, u"Coffee"_s, 70);
+    addGroup(report, u"Thé ☕"_s, 3);
+    writePdf(report, true, m_folder.path("groups.pdf"));
+    EXPECT_EQ(outlineIn(m_folder.path("groups.pdf")), "Coffee 1|Thé ☕ 2");
+
+    ReportData alone = emptySales();
+    alone.link = ReportLink{u"articlesales.rpt"_s, u"{PLUDATA.GROUPNO}"_s, {}};
+    alone.addLine(LineKind::Detail, {u"1 DRINKS"_s});
+    alone.setLinkValue(u"1"_s);
+    alone.addLine(LineKind::GrandTotal, {u"Total"_s});
+    alone.charts = {sampleChart(ChartKind::Ranking, 15)};
+    writePdf(alone, true, m_folder.path("alone.pdf"));
+    EXPECT_EQ(outlineIn(m_folder.path("alone.pdf")), "1 DRINKS 1|Best-selling PLUs 1");
+    writePdf(alone, false, m_folder.path("alone.pdf"));
+    EXPECT_EQ(outlineIn(m_folder.path("alone.pdf")), "1 DRINKS 1") << "without its charts";
 }
 
 TEST_F(ReportFiles, SayWhenThereAreNoLines)
