@@ -4,6 +4,7 @@
 #include "overlay/SheetPainter.h"
 #include "ui/Appearance.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <cmath>
@@ -51,6 +52,18 @@ void KeyboardGround::refreshPaper()
 {
     m_paper = {};
     update();
+}
+
+void KeyboardGround::mousePressEvent(QMouseEvent* event)
+{
+    m_pressedAt = event->pos();
+    Q_EMIT draggedTo(m_pressedAt, m_pressedAt);
+}
+
+void KeyboardGround::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons().testFlag(Qt::LeftButton))
+        Q_EMIT draggedTo(m_pressedAt, event->pos());
 }
 
 QRect KeyboardGround::pixels(const QRectF& place) const

@@ -14,6 +14,8 @@ class Document;
 /// The keyboard in its shape: frames of keys on a plain ground, or the sheet as it will be on paper.
 class KeyboardGround : public QWidget
 {
+    Q_OBJECT
+
 public:
     KeyboardGround(const OverlayLayout& layout, QWidget* parent);
 
@@ -29,7 +31,13 @@ public:
     [[nodiscard]] QRect pixels(const QRectF& place) const;
     [[nodiscard]] QPointF millimetres(QPoint pixel) const;
 
+Q_SIGNALS:
+    /// A press between the keys, and each move of a drag that began there.
+    void draggedTo(QPoint from, QPoint to);
+
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -39,6 +47,7 @@ private:
     const OverlayLayout& m_layout;
     QRectF m_bounds; ///< of all keys, in millimetres
     double m_scale;
+    QPoint m_pressedAt;
     const Document* m_document = nullptr; ///< null while frames are shown
     QPixmap m_paper;                      ///< null if it is outdated
 };

@@ -45,6 +45,7 @@ KeyboardView::KeyboardView(DocumentEditor& editor, QWidget* parent)
     for (const int cell : m_order)
         makeCell(cell);
     setWidget(m_ground);
+    connect(m_ground, &KeyboardGround::draggedTo, this, &KeyboardView::selectBetween);
     placeCells();
     connect(&m_editor, &DocumentEditor::cellChanged, this, &KeyboardView::showCell);
 }

@@ -98,6 +98,11 @@ TEST_F(KeysMenuTest, SelectsByMouse)
     EXPECT_TRUE(cell(4).accessibleName().endsWith(u", selected"_s));
     drag(0, 39);
     EXPECT_EQ(selection().count(), 2) << "a straight drag, and a new one";
+    QWidget& ground = *cell(0).parentWidget();
+    QTest::mousePress(&ground, Qt::LeftButton, {}, cell(0).geometry().topLeft() - QPoint(5, 5));
+    QTest::mouseMove(&ground, cell(42).geometry().center());
+    QTest::mouseRelease(&ground, Qt::LeftButton);
+    EXPECT_EQ(selection().keys(), (std::vector{0, 1, 13, 14})) << "begun beside the keys";
     drag(6, 39, 6);
     EXPECT_EQ(selection().keys(), std::vector{2}) << "there and back";
     EXPECT_EQ(saved(6), "|16777215|0|Arial|8|True|False");
