@@ -27,9 +27,10 @@ NightEnd endOf(const chain::Published& published, const QString& name)
     QStringList left = published.unsound;
     if (!published.vanished.isEmpty() || !published.vanishedNames.isEmpty())
         left << vanishedText(name, published);
-    if (!left.isEmpty())
-        return {published.unsound.isEmpty() ? ExitCode::Vanished : ExitCode::Unsound, left.join(u'\n'),
-                false};
+    if (!left.isEmpty()) {
+        const auto code = published.unsound.isEmpty() ? ExitCode::Vanished : ExitCode::Unsound;
+        return {code, left.join(u'\n'), false};
+    }
     if (published.days == 0)
         return {};
     return {ExitCode::Done,
@@ -67,7 +68,7 @@ NightEnd NightChain::publish(const ApplicationValues& values)
         return endOf(published, name);
     } catch (const chain::ChainError& error) {
         const ExitCode code = codeOf(error);
-        const NightEnd end{code, error.text(), isOfServer(code) || code == ExitCode::Busy};
+        NightEnd end{code, error.text(), isOfServer(code) || code == ExitCode::Busy};
         if (!isOfShop(error)) {
             m_server.reset();
             // The next shop connects again when the connection was lost on the way.

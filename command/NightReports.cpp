@@ -104,7 +104,7 @@ std::vector<reports::Period> duePeriods(const NightPeriod& kind, QDate closed, c
 QString layoutOf(const ApplicationValues& values, const QString& name)
 {
     for (const QString& folder : {values.customerPath, values.appPath}) {
-        const QString path = joinPath(folder, name + u".rpt"_s);
+        QString path = joinPath(folder, name + u".rpt"_s);
         if (pathExists(path))
             return path;
     }

@@ -281,9 +281,10 @@ NightEnd NightShop::report()
         if (!written.isDone())
             addFailure(end, written.code, written.words);
     }
-    if (files > 0)
-        end.words = (files == 1 ? u"1 report written"_s : u"%1 reports written"_s.arg(files)) +
-                    (end.isDone() ? QString() : u"; "_s + end.words);
+    if (files > 0) {
+        const QString written = files == 1 ? u"1 report written"_s : u"%1 reports written"_s.arg(files);
+        end.words = end.isDone() ? written : written + u"; "_s + end.words;
+    }
     return end;
 }
 

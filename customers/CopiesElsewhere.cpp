@@ -217,7 +217,7 @@ CopyElsewhere makeCopyElsewhere(const QString& customerPath, const QString& fold
     }
     LoggedWork work(customerPath, u"copy elsewhere"_s);
     const QString shop = QDir(customerPath).dirName();
-    const CopyElsewhere copy =
+    CopyElsewhere copy =
         work.during([&] { return makeCopyIn(joinPath(folder, shop), customerPath, now, goOn); });
     for (const CopyElsewhere& surplus : surplusCopies(copiesElsewhere(folder, shop), rule))
         QFile::remove(surplus.path);
