@@ -5,6 +5,7 @@
 #include "platform/Dates.h"
 #include "store/catalogue/SalesTables.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;
@@ -14,30 +15,44 @@ namespace norvane::chain
 namespace
 {
 
-const std::string pluMonths =
-    std::string("SELECT shop, $2::date, plu, sum(") + pluQuantity + "), sum(" + pluTakings +
-    ") FROM plu_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, plu";
+/// Totals of months. One may read those before it.
+struct Rollup {
+    const char* name;
+    const char* columns; ///< after shop and month, as a declaration
+    const char* key;     ///< columns of the key after shop and month
+    // The rows of the shop $1 from the month $2 until before $3.
+    const char* items;    ///< the columns before the sums
+    const char* quantity; ///< what is added up
+    const char* takings;
+    const char* more; ///< after the sums
+    const char* source;
+};
 
-const auto monthTotals = std::to_array<Rollup>({
+constexpr auto monthTotals = std::to_array<Rollup>({
     {"shop_months",
      "first_day date NOT NULL, last_day date NOT NULL, days integer NOT NULL, quantity numeric, "
      "takings numeric, net_sales numeric",
-     "",
-     "SELECT shop, $2::date, min(day), max(day), count(*), sum(quantity), sum(takings), sum(net_sales) "
-     "FROM published_days WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop"},
+     "", "shop, $2::date, min(day), max(day), count(*)", "quantity", "takings", ", sum(net_sales)",
+     "published_days WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop"},
     {"plu_months", "plu text COLLATE \"C\" NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
-     ", plu", pluMonths.c_str()},
+     ", plu", "shop, $2::date, plu", pluQuantity, pluTakings, "",
+     "plu_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, plu"},
+    // A key has no empty values: -1 is the group of PLUs without one.
     {"group_months", "group_no integer NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
-     ", group_no",
-     "SELECT m.shop, m.month, coalesce(p.group_no, -1), sum(m.quantity), sum(m.takings) "
-     "FROM plu_months m LEFT JOIN plus p ON p.shop = m.shop AND p.plu = m.plu "
+     ", group_no", "m.shop, m.month, coalesce(p.group_no, -1)", "m.quantity", "m.takings", "",
+     "plu_months m LEFT JOIN plus p ON p.shop = m.shop AND p.plu = m.plu "
      "WHERE m.shop = $1 AND m.month >= $2 AND m.month < $3 "
      "GROUP BY m.shop, m.month, coalesce(p.group_no, -1)"},
     {"time_months", "period integer NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
-     ", period",
-     "SELECT shop, $2::date, period, sum(quantity), sum(value) FROM time_sales "
-     "WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, period"},
+     ", period", "shop, $2::date, period", "quantity", "value", "",
+     "time_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, period"},
 });
+
+std::string selectOf(const Rollup& rollup)
+{
+    return std::string("SELECT ") + rollup.items + ", sum(" + rollup.quantity + "), sum(" + rollup.takings +
+           ')' + rollup.more + " FROM " + rollup.source;
+}
 
 /// A bound of months that PostgreSQL reads as before or after all others.
 constexpr const char* beforeAll = "-infinity";
@@ -48,7 +63,7 @@ void write(pqxx::work& work, const Rollup& rollup, int shop, const std::string& 
     const std::string name = rollup.name;
     work.exec_params0("DELETE FROM " + name + " WHERE shop = $1 AND month >= $2 AND month < $3", shop, first,
                       end);
-    work.exec_params0("INSERT INTO " + name + ' ' + rollup.select, shop, first, end);
+    work.exec_params0("INSERT INTO " + name + ' ' + selectOf(rollup), shop, first, end);
 }
 
 std::string declarationOf(const Rollup& rollup)
@@ -103,20 +118,17 @@ std::vector<QDate> monthsWhere(pqxx::work& work, int shop, const std::string& co
 }
 
 /// Days whose totals are not those of their PLUs.
-const std::string wrongDays =
-    std::string("SELECT d.day FROM published_days d LEFT JOIN (SELECT shop, day, sum(") + pluQuantity +
-    ") AS quantity, sum(" + pluTakings +
-    ") AS takings FROM plu_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, day) t "
-    "ON t.shop = d.shop AND t.day = d.day WHERE d.shop = $1 AND d.day >= $2 AND d.day < $3 "
-    "AND (coalesce(d.quantity, 0) <> coalesce(t.quantity, 0) OR coalesce(d.takings, 0) <> "
-    "coalesce(t.takings, 0))";
+std::string wrongDays()
+{
+    return std::string("SELECT d.day FROM published_days d LEFT JOIN (SELECT shop, day, sum(") + pluQuantity +
+           ") AS quantity, sum(" + pluTakings +
+           ") AS takings FROM plu_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, day) t "
+           "ON t.shop = d.shop AND t.day = d.day WHERE d.shop = $1 AND d.day >= $2 AND d.day < $3 "
+           "AND (coalesce(d.quantity, 0) <> coalesce(t.quantity, 0) OR coalesce(d.takings, 0) <> "
+           "coalesce(t.takings, 0))";
+}
 
 } // namespace
-
-std::span<const Rollup> rollups()
-{
-    return monthTotals;
-}
 
 std::vector<std::string> rollupStatements()
 {
@@ -168,11 +180,12 @@ bool isRolledUp(pqxx::work& work, int shop, QDate month)
     const auto isEmpty = [&](const std::string& select) {
         return work.exec_params(select + " LIMIT 1", shop, isoDay(month), isoDay(month.addMonths(1))).empty();
     };
-    return isEmpty(wrongDays) && std::ranges::all_of(monthTotals, [&](const Rollup& rollup) {
+    return isEmpty(wrongDays()) && std::ranges::all_of(monthTotals, [&](const Rollup& rollup) {
                const std::string stored = std::string("SELECT * FROM ") + rollup.name +
                                           " WHERE shop = $1 AND month >= $2 AND month < $3";
-               return isEmpty("(" + stored + " EXCEPT " + rollup.select + ") UNION ALL (" + rollup.select +
-                              " EXCEPT " + stored + ")");
+               const std::string summed = selectOf(rollup);
+               return isEmpty("(" + stored + " EXCEPT " + summed + ") UNION ALL (" + summed + " EXCEPT " +
+                              stored + ")");
            });
 }
 

@@ -5,25 +5,15 @@
 
 #include <QDate>
 
-#include <span>
 #include <string>
 #include <vector>
 
 namespace norvane::chain
 {
 
-/// A table with one row for each month and item of a shop. Publications rewrite the months that they change,
-/// in the same transaction, so a total always is that of its days.
-struct Rollup {
-    const char* name;
-    const char* columns; ///< after shop and month, as a declaration
-    const char* key;     ///< columns of the key after shop and month
-    const char* select;  ///< the rows of the shop $1 from the month $2 until before $3
-};
-
-/// A roll-up may read those before it.
-[[nodiscard]] std::span<const Rollup> rollups();
-/// The statements that make their tables and indexes.
+/// The statements that make the tables of totals, one row for each month and item of a shop, and their
+/// indexes. Publications rewrite the months that they change, in the same transaction, so a total always is
+/// that of its days.
 [[nodiscard]] std::vector<std::string> rollupStatements();
 
 /// Quantity and takings of a row of plu_sales, over all price levels. Most are sold at the first one only,
@@ -34,9 +24,6 @@ inline constexpr const char* pluQuantity =
 inline constexpr const char* pluTakings =
     "CASE WHEN value2 = 0 AND value3 = 0 AND value4 = 0 AND value5 = 0 THEN value1 "
     "ELSE value1 + value2 + value3 + value4 + value5 END";
-
-/// The group of PLUs without one, in group_months: a key has no empty values.
-inline constexpr int noGroup = -1;
 
 /// Adds up a month of a shop again.
 void rollUp(pqxx::work& work, int shop, QDate month);

@@ -196,8 +196,9 @@ void Server::transact(const std::function<void(pqxx::work&)>& work)
         failGone("the connection was lost while rows were being committed; the next publication finds out "
                  "whether they were.");
     } catch (const pqxx::failure& failure) {
-        // The message is the library's: the connection has failed.
-        failGone(failure.what());
+        // The message is the library's: the connection has failed. It cannot quote a line that is dead.
+        const bool isDead = std::string_view(failure.what()).starts_with("Could not obtain client encoding");
+        failGone(isDead ? "the line or the server no longer answers." : failure.what());
     }
 }
 
