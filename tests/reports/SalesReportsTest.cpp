@@ -106,6 +106,7 @@ TEST_F(SalesReports, NextReportOfAFormHasTheNamesOfNow)
     EXPECT_EQ(lines(), first);
     norvane::test::runElsewhere(shop.path(), "update PLUDATA set DESCRIPTION = 'LEMONADE', GROUPNO = 2 where "
                                              "PLUNUMBER like '%03'");
+    EXPECT_NE(lines().find("> 2 FOOD\n3|LEMONADE|2|5.00"), std::string::npos);
     shop.add("PLUSALES", pluFields, {"998|2026-11-25|0|0|1|1|0|0", "20|2026-11-24|0|0|1|1|0|0"});
     EXPECT_EQ(lines(), "> 2 FOOD\n3|LEMONADE|2|5.00|0|0|62.5\n20|CRISPS|1|1.00|0|0|12.5\n"
                        "= |Total 2 FOOD|3|6.00|0|0|75.0\n> No group\n998||1|1.00|0|0|12.5\n"
