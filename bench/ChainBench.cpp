@@ -3,6 +3,7 @@
 // NORVANE_CHAIN_MONTHS=12 make 14 million rows of PLU sales, in some five minutes and three gigabytes of the
 // temporary folder. A run without them makes a small chain. As in a shop, two of five PLUs are sold on a day.
 #include "bench/Memory.h"
+#include "chain/ChainPages.h"
 #include "chain/ChainSchema.h"
 #include "chain/Partitions.h"
 #include "chain/Rollups.h"
@@ -10,6 +11,7 @@
 #include "tests/support/PostgresServer.h"
 
 #include <QCoreApplication>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <array>
@@ -162,6 +164,15 @@ void ask(chain::Server& server, const Query& query, benchmark::State& state)
     }
 }
 
+/// A page for each shop and one for all.
+void writePages(chain::Server& server, benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    for (auto _ : state)
+        state.SetIterationTime(bench::secondsOf(
+            [&] { benchmark::DoNotOptimize(chain::writeChainPages(server, folder.path())); }));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -178,5 +189,9 @@ int main(int argc, char** argv)
             ->UseManualTime()
             ->Unit(benchmark::kMillisecond);
     }
+    benchmark::RegisterBenchmark("pages", [&](benchmark::State& state) { writePages(server, state); })
+        ->Iterations(1)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
     benchmark::RunSpecifiedBenchmarks();
 }

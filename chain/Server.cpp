@@ -1,6 +1,8 @@
 // See Server.h.
 #include "chain/Server.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <array>
 #include <libpq-fe.h>

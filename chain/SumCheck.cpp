@@ -14,7 +14,7 @@ namespace norvane::chain
 namespace
 {
 
-QDate dayOf(const pqxx::field& field)
+QDate publishedDay(const pqxx::field& field)
 {
     return QDate::fromString(QString::fromUtf8(field.c_str()), Qt::ISODate);
 }
@@ -39,7 +39,7 @@ DaySums sumsInChain(pqxx::work& work, const SalesTable& table, int shop)
     for (const auto& row : work.exec_params("SELECT to_char(day, 'YYYY-MM-DD')" + sums + " FROM " +
                                                 table.name + " WHERE shop = $1 GROUP BY day",
                                             shop)) {
-        auto& day = all[dayOf(row[0])];
+        auto& day = all[publishedDay(row[0])];
         for (pqxx::row::size_type at = 1; at < row.size(); ++at)
             day.push_back(withoutTrailingZeros(row[at].c_str()));
     }
@@ -53,7 +53,7 @@ std::vector<QDate> comparedDays(pqxx::work& work, int shop)
     for (const auto& row : work.exec_params("SELECT to_char(day, 'YYYY-MM-DD') FROM published_days "
                                             "WHERE shop = $1 AND NOT kept ORDER BY day",
                                             shop))
-        days.push_back(dayOf(row[0]));
+        days.push_back(publishedDay(row[0]));
     return days;
 }
 

@@ -114,6 +114,13 @@ constexpr auto publishOptions = std::to_array<OptionDefinition>({
     {"adopt"_L1, {}, "go on with a shop that was published from another folder or under another name"_L1},
     {"dry-run"_L1, {}, "list what would be published, and change nothing"_L1},
 });
+constexpr auto chainOptions = std::to_array<OptionDefinition>({
+    publishOptions[0],
+    publishOptions[1],
+    publishOptions[2],
+    publishOptions[3],
+    {"out"_L1, "DIR"_L1, "an existing folder for the pages"_L1},
+});
 
 // clang-format off
 constexpr auto all = std::to_array<Verb>({
@@ -163,8 +170,8 @@ constexpr auto all = std::to_array<Verb>({
      "Copies all customers of a former installation and converts them. FOLDER is left as it is."_L1, adoptInstallation},
     {"publish"_L1, "CUSTOMER..."_L1, 1, -1, publishOptions,
      "Copies the sales and names of shops to the PostgreSQL of their chain: days that are new or have changed."_L1, publish},
-    {"chain"_L1, "check CUSTOMER..."_L1, 1, -1, publishOptions,
-     "Compares all sums of shops with those in the PostgreSQL of their chain, reports what differs, and publishes it again."_L1, manageChain},
+    {"chain"_L1, "check CUSTOMER... | pages"_L1, 1, -1, chainOptions,
+     "check: compares all sums of shops with those in the PostgreSQL of their chain, reports what differs, and publishes it again. pages: writes a site for the browser about all shops, from what they published."_L1, manageChain},
 });
 // clang-format on
 

@@ -39,14 +39,14 @@ _norvane_shop()
     elif [ "$before" = --separator ]; then
         choices=(comma semicolon tab)
     elif [[ $before = --on || $before = --show || $before = --cancel || $before = --plan-again ||
-        $before = --day || $before = --wait || $before = --retry || $before = --every ]]; then
+        $before = --day || $before = --wait || $before = --retry || $before = --every || $before = --out ]]; then
         choices=() # a day, a time, the number of a list
     elif [ "${COMP_WORDS[1]}" = table ] && [ "$COMP_CWORD" -eq 3 ]; then
         mapfile -t choices < <("$1" tables 2>/dev/null | sed -e 1d -e 's/ .*//')
     elif [ "${COMP_WORDS[1]}" = compare ] && [ "$COMP_CWORD" -ge 3 ] && [ "${word#-}" = "$word" ]; then
         choices=(plu status groups mixes functions keyboards lookups cards options messages staff times taxes)
     elif [ "${COMP_WORDS[1]}" = chain ] && [ "$COMP_CWORD" -eq 2 ]; then
-        choices=(check)
+        choices=(check pages)
     elif [[ ${COMP_WORDS[1]} = plus && $COMP_CWORD -eq 3 || ${COMP_WORDS[1]} = table && $COMP_CWORD -eq 4 ]]; then
         choices=(export import)
     elif [ "${word#-}" = "$word" ] && case $before:${COMP_WORDS[1]} in
