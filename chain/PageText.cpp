@@ -156,7 +156,7 @@ QString tableText(const PageSection& shown, const QList<PageRow>& rows)
 QString foldedTable(const PageSection& shown, const QList<PageRow>& rows)
 {
     constexpr qsizetype mostBelowChart = 20;
-    const QString table = tableText(shown, rows);
+    QString table = tableText(shown, rows);
     if (!shown.hasBars || rows.size() <= mostBelowChart)
         return table;
     return u"<details><summary>Figures</summary>\n%1</details>\n"_s.arg(table);

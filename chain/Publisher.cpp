@@ -74,9 +74,10 @@ void addDifferentSums(DayComparison& comparison, Published& published, Server& s
 
 void addWrongMonths(const std::vector<QDate>& months, Published& published)
 {
-    for (const QDate month : months)
+    for (const QDate month : months) {
         published.differences << u"%1: totals of the month are not those of its days."_s.arg(
             month.toString(u"yyyy-MM"_s));
+    }
 }
 
 class ShopPublisher
@@ -333,9 +334,10 @@ Published previewShop(Server& server, const ShopFolder& folder, const PublishOpt
     preview.vanished = comparison.vanished;
     if (shop != 0 && options.vanished != Vanished::Remove)
         preview.vanishedNames = vanishedNames(server, database, shop);
-    if (!comparison.vanished.isEmpty() && options.vanished != Vanished::Remove)
+    if (!comparison.vanished.isEmpty() && options.vanished != Vanished::Remove) {
         preview.heldBack =
             static_cast<int>(takeHeldBack(days, comparison, published, options.vanished).size());
+    }
     for (const QDate day : comparison.missing + comparison.changed)
         addPreviewOf(day, database, preview);
     return preview;

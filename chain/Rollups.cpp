@@ -133,6 +133,7 @@ std::string wrongDays()
 std::vector<std::string> rollupStatements()
 {
     std::vector<std::string> all;
+    all.reserve(monthTotals.size());
     for (const auto& rollup : monthTotals)
         all.push_back(declarationOf(rollup));
     // For one PLU, and for one month, of all shops. Equal keys of an index share one entry, so these are

@@ -130,9 +130,10 @@ void KeysMenu::selectKind()
         return;
     m_keyboard.select([&](KeySelection& keys) { keys.select(dialog.choice().keys); });
     m_group = dialog.choice().group;
-    if (m_group > 0)
+    if (m_group > 0) {
         Q_EMIT noticed(
             u"%1: colours that you choose are remembered for this group."_s.arg(dialog.choice().name));
+    }
 }
 
 void KeysMenu::change(const QString& name, const std::function<void(TextCell&)>& work)

@@ -97,9 +97,10 @@ public:
             if (letter == softHyphen) // does not print
                 continue;
             auto found = letters.widths.find(letter);
-            if (found == letters.widths.end())
+            if (found == letters.widths.end()) {
                 found = letters.widths.insert(letter,
                                               letters.font.width(QStringView(&letter, 1)).inMillimetres());
+            }
             width += *found;
         }
         return width * font.size / measuredSize;

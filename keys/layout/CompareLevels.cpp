@@ -117,10 +117,11 @@ void CompareLevels::connectSide(ComparedSide& side, ComparedSide& other)
     connect(&side, &ComparedSide::cellChosen, this, [this, &other](const KeyCell& cell) {
         other.showCell(cell);
         const auto line = std::ranges::find(m_found, cell, &KeyDifference::cell);
-        if (line == m_found.end())
+        if (line == m_found.end()) {
             m_list->clearSelection();
-        else
+        } else {
             m_list->selectRow(static_cast<int>(line - m_found.begin()));
+        }
     });
 }
 

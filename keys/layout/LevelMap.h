@@ -41,7 +41,8 @@ public:
 private:
     [[nodiscard]] const Key& key(KeyCell cell) const
     {
-        return m_keys[static_cast<std::size_t>(cell.row * m_keyboard.columns + cell.column)];
+        const int place = cell.row * m_keyboard.columns + cell.column;
+        return m_keys[static_cast<std::size_t>(place)];
     }
     void paintHeading(QPainter& painter) const;
     void paintKey(QPainter& painter, KeyCell cell) const;

@@ -133,9 +133,10 @@ void MapPreview::print()
                       "or save the map as a PDF file."_s);
     }
     job->printer->setDocName(m_map.title());
-    if (!m_map.print(*job->printer) || !paper::isThere(*job->printer))
+    if (!m_map.print(*job->printer) || !paper::isThere(*job->printer)) {
         return refuse(
             u"The printer %1 does not print. Is it still there?"_s.arg(job->printer->printerName()));
+    }
     m_status->setNotice(reports::sentText(*job->printer));
 }
 

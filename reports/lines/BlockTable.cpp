@@ -79,9 +79,10 @@ public:
             nameColumn(m_texts.empty() ? QString() : columnOf(m_data, m_texts.front()).heading)};
         for (const int column : m_numbers)
             columns.push_back(columnOf(m_data, column));
-        if (m_block.hasShare)
+        if (m_block.hasShare) {
             columns.push_back(
                 {u"Share %"_s, paper::millimetres(20), Alignment::Right, ColumnKind::Number, 1, 1});
+        }
         ReportData table(std::move(columns));
         for (BlockRow& row : m_rows)
             add(table, LineKind::Detail, std::move(row));
@@ -148,8 +149,9 @@ private:
             });
         }
         std::ranges::stable_sort(m_rows, [this, main](const BlockRow& one, const BlockRow& other) {
-            const auto order = numberOf(one.numbers[main]) <=> numberOf(other.numbers[main]);
-            return m_block.cut.smallestFirst ? order < 0 : order > 0;
+            const Decimal left = numberOf(one.numbers[main]);
+            const Decimal right = numberOf(other.numbers[main]);
+            return m_block.cut.smallestFirst ? left < right : right < left;
         });
     }
 
@@ -161,10 +163,11 @@ private:
         if (most == 0 || m_rows.size() <= most + (keepsRest ? 1 : 0))
             return;
         BlockRow rest{u"and %1 more"_s.arg(m_rows.size() - most), std::vector<ReportCell>(m_numbers.size())};
-        for (std::size_t number = 0; number < m_numbers.size() && m_total; ++number)
+        for (std::size_t number = 0; number < m_numbers.size() && m_total; ++number) {
             rest.numbers[number] = isPercent(number) ? changePercent(numberOf(rest.numbers[number - 1]),
                                                                      numberOf(rest.numbers[number - 2]))
                                                      : sumOfRest(number, most);
+        }
         m_rows.resize(most);
         if (keepsRest)
             m_rows.push_back(std::move(rest));
@@ -215,6 +218,7 @@ std::vector<int> weekdaysOf(QDate from, QDate to)
     const bool isShort = from.isValid() && to.isValid() && from.daysTo(to) < weekdays;
     const int count = isShort ? static_cast<int>(std::max<qint64>(from.daysTo(to), 0)) + 1 : weekdays;
     std::vector<int> days;
+    days.reserve(weekdays);
     for (int day = 0; day < count; ++day)
         days.push_back(((isShort ? from.dayOfWeek() : Qt::Sunday) - 1 + day) % weekdays + 1);
     return days;

@@ -260,9 +260,10 @@ private:
                  needsTable ? u"it is missing; a block has one column at least"_s
                             : u"this block has no table of its own"_s);
         }
-        if (needsTable)
+        if (needsTable) {
             block.table = std::make_shared<ReportLayout>(
                 LayoutReader(m_layout.path, m_file, m_mistakes, section).read());
+        }
         return block;
     }
 

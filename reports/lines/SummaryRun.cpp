@@ -55,6 +55,7 @@ ReportData pageTable(const ReportData& table)
     ReportData page(std::move(columns));
     for (qsizetype line = 0; line < table.lineCount(); ++line) {
         std::vector<ReportCell> cells;
+        cells.reserve(kept.size());
         for (const int column : kept)
             cells.push_back(table.cell(line, column));
         page.addLine(table.lineKind(line), std::move(cells));

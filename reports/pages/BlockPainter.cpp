@@ -196,9 +196,10 @@ void BlockPainter::paintHeat(QPainter& painter, const QRectF& place) const
         for (int column = 1; column < endOfHeat(table); ++column) {
             const ReportCell cell = table.cell(line, column);
             const auto* const number = std::get_if<Decimal>(&cell);
-            if (number != nullptr && table.lineKind(line) == LineKind::Detail)
+            if (number != nullptr && table.lineKind(line) == LineKind::Detail) {
                 painter.fillRect(cellRect(lineRect(place, line), column),
                                  heatColour(number->toDouble(), largest));
+            }
         }
     }
 }

@@ -125,7 +125,7 @@ TEST_F(CopiesElsewhereTest, WithoutRoomOrDiskOrSoundDatabaseNothingIsLeft)
                  RuntimeFailure);
     EXPECT_FALSE(pathExists(m_folder.path("unplugged")));
     {
-        const test::FullDisk full(100 * 1024);
+        const test::FullDisk full(rlim_t{100} * 1024);
         EXPECT_THROW((void)copy(), RuntimeFailure);
     }
     int pieces = 0;
@@ -145,9 +145,10 @@ TEST(CopyRule, KeepsTheLatestOfSevenDaysFourWeeksAndTwelveMonths)
 {
     QList<CopyElsewhere> copies;
     for (QDate day(2025, 1, 1); day <= QDate(2026, 11, 26); day = day.addDays(1)) {
-        for (const int hour : {5, 23})
+        for (const int hour : {5, 23}) {
             copies.prepend(
                 {day.toString(Qt::ISODate) + u' ' + QString::number(hour), {day, QTime(hour, 30)}});
+        }
     }
     QStringList kept;
     for (const auto& copy : copies)

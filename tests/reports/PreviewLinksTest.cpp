@@ -3,6 +3,8 @@
 #include "tests/reports/ReportShop.h"
 #include "tests/support/FormTest.h"
 
+#include <QPrinter>
+
 namespace norvane::test
 {
 namespace
