@@ -46,14 +46,13 @@ CorrectionForm::CorrectionForm(const QString& printer, const paper::PrinterCorre
 {
     setObjectName(u"PrinterCorrection"_s);
     setWindowTitle(u"Printer Correction - %1"_s.arg(printer));
-    QPushButton* const page = ui::makeButton(u"TestPageButton"_s, u"Print &test page"_s, this);
-    page->setAutoDefault(false);
-    connect(page, &QPushButton::clicked, this, &CorrectionForm::printPage);
-    QHBoxLayout* const buttons = ui::makeOkCancelRow(*this, {page});
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
     column->addWidget(makeMeasured());
     column->addWidget(makeCorrection());
-    column->addLayout(buttons);
+    QPushButton* const page = ui::makeButton(u"TestPageButton"_s, u"Print &test page"_s, this);
+    page->setAutoDefault(false);
+    connect(page, &QPushButton::clicked, this, &CorrectionForm::printPage);
+    column->addLayout(ui::makeOkCancelRow(*this, {page}));
     reset();
     showCorrection(correction);
 }

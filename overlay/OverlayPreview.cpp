@@ -79,6 +79,7 @@ QPushButton* OverlayPreview::addButton(QBoxLayout& row, const QString& name, con
 {
     QPushButton* const button = ui::makeButton(name, caption, this);
     button->setAutoDefault(false);
+    button->setMinimumWidth(0); // as wide as its caption: in large type the row needs the room
     connect(button, &QPushButton::clicked, this, handler);
     row.addWidget(button);
     return button;

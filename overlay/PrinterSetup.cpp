@@ -32,12 +32,11 @@ PrinterSetup::PrinterSetup(const PrinterChoice& initial, QWidget* parent)
     fillPrinters(initial.name);
     auto* const label = new QLabel(u"Prin&ter:"_s, this);
     label->setBuddy(PrinterList);
-    QHBoxLayout* const buttons = ui::makeOkCancelRow(*this);
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::controlGap);
     column->addWidget(label);
     column->addWidget(PrinterList);
     column->addWidget(makeOrientation(initial.orientation));
-    column->addLayout(buttons);
+    column->addLayout(ui::makeOkCancelRow(*this));
 }
 
 /// A chosen printer that was removed since remains in the list: printing reports the failure.

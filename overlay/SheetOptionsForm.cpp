@@ -21,12 +21,10 @@ constexpr std::array formats{paper::SheetFormat::A4, paper::SheetFormat::Letter}
 
 } // namespace
 
-SheetOptionsForm::SheetOptionsForm(const SheetOptions& initial, int copies, QWidget* parent)
-    : QDialog(parent), PaperList(new QComboBox(this)), Copies(new QSpinBox(this))
+SheetOptionsForm::SheetOptionsForm(const SheetOptions& initial, int copies, QWidget* parent) : QDialog(parent)
 {
     setObjectName(u"SheetOptions"_s);
     setWindowTitle(u"Marks and Paper"_s);
-    QHBoxLayout* const buttons = ui::makeOkCancelRow(*this);
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::controlGap);
     m_boxes.reserve(sheetOptionRows.size());
     for (const SheetOptionRow& row : sheetOptionRows) {
@@ -36,10 +34,12 @@ SheetOptionsForm::SheetOptionsForm(const SheetOptions& initial, int copies, QWid
         m_boxes.push_back(box);
         column->addWidget(box);
     }
+    PaperList = new QComboBox(this); // after the boxes, as Tab goes
     ui::nameControl(*PaperList, u"PaperList"_s);
     for (const paper::SheetFormat format : formats)
         PaperList->addItem(formatName(format));
     PaperList->setCurrentText(formatName(initial.format));
+    Copies = new QSpinBox(this);
     ui::nameControl(*Copies, u"Copies"_s);
     Copies->setRange(1, mostCopies);
     Copies->setValue(copies);
@@ -47,7 +47,7 @@ SheetOptionsForm::SheetOptionsForm(const SheetOptions& initial, int copies, QWid
     fields->addRow(u"&Paper:"_s, PaperList);
     fields->addRow(u"C&opies:"_s, Copies);
     column->addLayout(fields);
-    column->addLayout(buttons);
+    column->addLayout(ui::makeOkCancelRow(*this));
 }
 
 SheetOptions SheetOptionsForm::options() const

@@ -28,8 +28,8 @@ public:
 
 private:
     std::vector<QCheckBox*> m_boxes; ///< one for each of sheetOptionRows
-    QComboBox* PaperList;
-    QSpinBox* Copies;
+    QComboBox* PaperList = nullptr;
+    QSpinBox* Copies = nullptr;
 };
 
 } // namespace norvane::overlay

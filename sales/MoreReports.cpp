@@ -24,8 +24,10 @@ namespace
 {
 
 /// At the usual font, in pixels.
-constexpr QSize listSize(760, 300);
+constexpr QSize goodSize(960, 480);
+constexpr QSize leastListSize(400, 200);
 constexpr int titleWidth = 200;
+constexpr int sourceWidth = 100;
 constexpr int periodWidth = 60;
 
 } // namespace
@@ -34,10 +36,11 @@ MoreReports::MoreReports(const ApplicationValues& values, Boxes& boxes, reports:
                          QWidget* parent)
     : QDialog(parent), m_values(values), m_boxes(boxes), m_report(*this, boxes, std::move(runner)),
       m_reports(otherReports(values)), m_list(new QTreeWidget(this)),
-      m_period(new PeriodChooser(QString(), this)), m_show(ui::makeButton(u"ShowReport"_s, u"&Show"_s, this)),
-      m_print(ui::makeButton(u"PrintReport"_s, u"P&rint"_s, this)),
+      m_period(new PeriodChooser(QString(), this)),
       m_copy(ui::makeButton(u"CopyLayout"_s, u"&Copy and Open"_s, this)),
-      m_open(ui::makeButton(u"OpenLayout"_s, u"&Open"_s, this))
+      m_open(ui::makeButton(u"OpenLayout"_s, u"&Open"_s, this)),
+      m_show(ui::makeButton(u"ShowReport"_s, u"&Show"_s, this)),
+      m_print(ui::makeButton(u"PrintReport"_s, u"P&rint"_s, this))
 {
     setObjectName(u"MoreReports"_s);
     setWindowTitle(u"More Reports"_s);
@@ -81,13 +84,16 @@ void MoreReports::layOut()
     m_list->setHeaderLabels({u"Report"_s, u"Of"_s, u"Period"_s, u"What it shows"_s});
     m_list->setRootIsDecorated(false);
     m_list->setAllColumnsShowFocus(true);
-    m_list->setMinimumSize(ui::scaled(listSize));
+    m_list->setMinimumSize(ui::scaled(leastListSize));
     m_list->header()->resizeSection(0, ui::scaled(titleWidth));
+    m_list->header()->resizeSection(1, ui::scaled(sourceWidth));
     m_list->header()->resizeSection(2, ui::scaled(periodWidth));
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::groupGap);
+    column->setSizeConstraint(QLayout::SetDefaultConstraint); // descriptions are long
     column->addWidget(m_list);
     column->addWidget(m_period);
     addButtons(*column);
+    ui::centreOnScreen(*this, ui::scaled(goodSize));
 }
 
 void MoreReports::addButtons(QVBoxLayout& column)

@@ -50,10 +50,10 @@ private:
     std::vector<OtherReport> m_reports;
     QTreeWidget* m_list;
     PeriodChooser* m_period;
-    QPushButton* m_show;
-    QPushButton* m_print;
     QPushButton* m_copy;
     QPushButton* m_open;
+    QPushButton* m_show;
+    QPushButton* m_print;
 };
 
 } // namespace norvane::sales

@@ -17,6 +17,8 @@ namespace
 /// What the base style reserves for the arrow of a combo box.
 constexpr int usualComboArrow = 19;
 /// Half the width of an arrow.
+/// Height that a line of a list has more than its letters.
+constexpr int moreForLine = 3;
 constexpr double usualArrow = 4;
 constexpr double focusPen = 2;
 
@@ -260,6 +262,9 @@ QSize FormStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QWidget* widget) const
 {
     const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type == CT_ItemViewItem)
+        return whole +
+               QSize(0, scaled(moreForLine)); // or the current line loses the lower ends of its letters
     return type == CT_ComboBox ? whole + QSize(moreForCombo(), 0) : whole;
 }
 

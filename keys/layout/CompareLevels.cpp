@@ -26,7 +26,6 @@ namespace
 
 constexpr QSize comparisonSize(1320, 700);
 constexpr int listHeight = 150;
-constexpr int sideColumnWidth = 440;
 
 int levelBeside(int level)
 {
@@ -57,8 +56,7 @@ CompareLevels::CompareLevels(const KeyLevel& shown, const std::shared_ptr<store:
                              Boxes& boxes, QWidget* parent)
     : QDialog(parent), m_boxes(boxes), m_left(new ComparedSide(shown, database, u"Left"_s, this)),
       m_right(new ComparedSide(shown, database, u"Right"_s, this)),
-      m_differences(new QStandardItemModel(0, 3, this)), m_count(new QLabel(this)),
-      m_goLeft(ui::makeButton(u"GoLeft"_s, {}, this)), m_goRight(ui::makeButton(u"GoRight"_s, {}, this))
+      m_differences(new QStandardItemModel(0, 3, this)), m_count(new QLabel(this))
 {
     setObjectName(u"CompareLevels"_s);
     setWindowTitle(u"Compare Levels"_s);
@@ -79,7 +77,7 @@ void CompareLevels::makeList()
 {
     m_list = ui::makeListTable(u"DifferenceList"_s, u"Differences"_s, m_differences, this);
     ui::fitFirstColumn(*m_list, u"Key 169"_s);
-    m_list->setColumnWidth(1, ui::scaled(sideColumnWidth));
+    m_list->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     m_list->setFixedHeight(ui::scaled(listHeight));
     m_list->horizontalHeader()->show();
     connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -96,6 +94,8 @@ void CompareLevels::layOut()
     sides->setSpacing(ui::spacing::groupGap);
     sides->addWidget(m_left);
     sides->addWidget(m_right);
+    m_goLeft = ui::makeButton(u"GoLeft"_s, {}, this); // after the list, as Tab goes
+    m_goRight = ui::makeButton(u"GoRight"_s, {}, this);
     QPushButton* const leave = ui::makeButton(u"CloseCompare"_s, u"&Close"_s, this);
     connect(leave, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_goLeft, &QPushButton::clicked, this, [this] { goTo(*m_left); });

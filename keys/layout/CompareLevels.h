@@ -55,8 +55,8 @@ private:
     QStandardItemModel* m_differences;
     QTableView* m_list = nullptr; ///< of them
     QLabel* m_count;
-    QPushButton* m_goLeft;
-    QPushButton* m_goRight;
+    QPushButton* m_goLeft = nullptr;
+    QPushButton* m_goRight = nullptr;
     std::vector<KeyDifference> m_found;
     KeyPlace m_wanted;
     KeyCell m_cell;

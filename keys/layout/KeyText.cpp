@@ -14,6 +14,9 @@ namespace
 {
 
 constexpr int markSize = 8;
+/// Free left of the top of a PLU's triangle. With it four digits fit on the keys of two keyboards side by
+/// side.
+constexpr int markCorner = 3;
 /// Smaller than the forms' font: a letter and 17 digits must fit into a key's width.
 constexpr int numberFontPixels = 10;
 constexpr int leastFontPixels = 7;
@@ -120,8 +123,8 @@ void paintKeyText(QPainter& painter, const QRect& cell, const QString& text, Key
     }
     const QRect besideMark = place.adjusted(0, 0, -keyMarkPixels() - 1, 0);
     const QFont usual = painter.font();
-    const int line = paintNumber(painter, isNarrow(cell) ? besideMark : place, text.section(u' ', 0, 0),
-                                 qRound(ui::scaled(numberFontPixels) * letters));
+    const int line = paintNumber(painter, isNarrow(cell) ? besideMark.adjusted(0, 0, markCorner, 0) : place,
+                                 text.section(u' ', 0, 0), qRound(ui::scaled(numberFontPixels) * letters));
     painter.setFont(usual);
     paintWords(painter, (isNarrow(cell) ? place : besideMark).adjusted(0, line, 0, 0), text.section(u' ', 1),
                Qt::AlignBottom, pixels);

@@ -52,6 +52,7 @@ LevelRow::LevelRow(QWidget* parent)
     for (int level = 1; level <= levelCount; ++level)
         addLevelButton(level, *row);
     QPushButton* const copy = makeFormButton(u"CSCmdBtn8"_s, u"Copy Levels"_s, this);
+    copy->setMinimumWidth(0); // in large type the row needs the room
     connect(copy, &QPushButton::clicked, this, &LevelRow::copyWanted);
     row->addSpacing(ui::spacing::groupGap);
     row->addWidget(copy);
@@ -79,8 +80,10 @@ void LevelRow::showLevel(const QString& name, int level)
 
 void LevelRow::addTools(QPushButton* button)
 {
+    button->setMinimumWidth(0);
     auto* const row = static_cast<QHBoxLayout*>(layout());
     row->insertWidget(row->count() - 1, button); // before the stretch
+    setTabOrder(findChild<QPushButton*>(u"CSCmdBtn8"_s), button);
 }
 
 void LevelRow::showChanged(bool isChanged)

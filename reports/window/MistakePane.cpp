@@ -38,7 +38,7 @@ MistakePane::MistakePane(QWidget* parent)
     ui::nameControl(*m_heading, u"MistakeHeading"_s);
     ui::nameControl(*m_reason, u"MistakeReason"_s);
     ui::nameControl(*m_list, u"Mistakes"_s, u"Mistakes of the layout"_s);
-    m_list->setHeaderLabels({u"Line"_s, u"Key"_s, u"What is wrong"_s});
+    m_list->setHeaderLabels({u"Line"_s, u"Key"_s, u"Mistake"_s});
     m_list->setRootIsDecorated(false);
     m_list->setAllColumnsShowFocus(true);
     m_list->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
