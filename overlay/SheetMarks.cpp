@@ -43,7 +43,16 @@ public:
         }
     }
 
-    void drawEdge() { m_painter.drawRect(m_edge); }
+    /// The second page of two ends at the dashed line, which must be seen as such.
+    void drawEdge()
+    {
+        const QPolygonF ends(
+            {m_edge.topLeft(), m_edge.topRight(), m_edge.bottomRight(), m_edge.bottomLeft()});
+        if (m_page.isCutLeft)
+            m_painter.drawPolyline(ends);
+        else
+            m_painter.drawPolygon(ends);
+    }
 
     void cropCorners()
     {
@@ -53,10 +62,7 @@ public:
         }
     }
 
-    void drawCaption(const QString& caption)
-    {
-        write({m_edge.left() + captionGap, m_edge.bottom() + captionGap}, caption);
-    }
+    void drawCaption(const QString& caption) { write(m_edge.left() + captionGap, Qt::AlignLeft, caption); }
 
     /// A dashed line in the gap before the column that both pages have.
     void drawOverlap()
@@ -68,9 +74,10 @@ public:
         pen.setDashPattern({20, 10});
         m_painter.setPen(pen);
         m_painter.drawLine(QPointF(x, m_edge.top()), QPointF(x, below));
-        write({x + captionGap, m_edge.bottom() + captionGap},
-              m_page.isCutLeft ? u"Page 2 of 2: cut along the dashed line"_s
-                               : u"Page 1 of 2: page 2 begins here"_s);
+        if (m_page.isCutLeft)
+            write(x + captionGap, Qt::AlignLeft, u"Page 2 of 2: cut here"_s);
+        else
+            write(x - captionGap, Qt::AlignRight, u"Page 1 of 2: page 2 begins here"_s);
     }
 
 private:
@@ -82,14 +89,16 @@ private:
         m_painter.drawLine(QPointF(x, y + down * markGap), QPointF(x, y + down * (markGap + markLength)));
     }
 
-    void write(QPointF place, const QString& text)
+    /// Below the sheet. Between two columns at most, or a crop mark would run through it.
+    void write(double x, Qt::AlignmentFlag side, const QString& text)
     {
         m_painter.save();
-        m_painter.translate(place);
+        m_painter.translate(x, m_edge.bottom() + captionGap);
         m_painter.scale(letterSize / paper::unitsPerSquare, letterSize / paper::unitsPerSquare);
         m_painter.setFont(paper::unrounded(QFont(u"Arial"_s)));
         m_painter.setPen(Qt::black);
-        m_painter.drawText(QPointF(0, paper::unitsPerSquare), text);
+        const double width = side == Qt::AlignRight ? m_painter.fontMetrics().horizontalAdvance(text) : 0;
+        m_painter.drawText(QPointF(-width, paper::unitsPerSquare), text);
         m_painter.restore();
     }
 

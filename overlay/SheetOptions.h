@@ -33,7 +33,7 @@ struct SheetOptionRow {
 inline constexpr std::array sheetOptionRows{
     SheetOptionRow{"KeyOutlines", "&Fine outlines of the keys", &SheetOptions::hasKeyOutlines},
     SheetOptionRow{"SheetEdge", "&Edge of the sheet", &SheetOptions::hasSheetEdge},
-    SheetOptionRow{"CropMarks", "&Crop marks at its corners", &SheetOptions::hasCropMarks},
+    SheetOptionRow{"CropMarks", "C&rop marks at its corners", &SheetOptions::hasCropMarks},
     SheetOptionRow{"Caption", "A &line with shop, keyboard, level and date", &SheetOptions::hasCaption},
     SheetOptionRow{"TwoPages", "&Two pages where the paper is too small", &SheetOptions::mayTakeTwoPages},
 };

@@ -45,7 +45,7 @@ SheetOptionsForm::SheetOptionsForm(const SheetOptions& initial, int copies, QWid
     Copies->setValue(copies);
     auto* const fields = new QFormLayout;
     fields->addRow(u"&Paper:"_s, PaperList);
-    fields->addRow(u"C&opies:"_s, Copies);
+    fields->addRow(u"Cop&ies:"_s, Copies);
     column->addLayout(fields);
     column->addLayout(ui::makeOkCancelRow(*this));
 }

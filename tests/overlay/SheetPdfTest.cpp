@@ -318,6 +318,13 @@ TEST(SheetPages, LayOverEachOtherInOneColumnWhereThePaperIsTooSmall)
     EXPECT_TRUE(second.contains(u"14"_s) && second.contains(u"15"_s) && !second.contains(u"13"_s));
     EXPECT_TRUE(keysOutside(document.layout(), target).empty());
     EXPECT_EQ(pdfPage(folder.path("a.pdf"), 1).width(), 2794);
+    const auto isWhite = [&](int page, QRect area) {
+        const QImage part = pdfPage(folder.path("a.pdf"), page).copy(area);
+        QImage white = part;
+        white.fill(Qt::white);
+        return part == white;
+    };
+    EXPECT_TRUE(isWhite(1, {2570, 1550, 220, 40}) && isWhite(2, {405, 1550, 500, 40})) << "cut or crossed";
 
     target.sheet.margins.right = paper::millimetres(180);
     EXPECT_EQ(pagesOf(document.layout(), target).size(), 1U) << "two pages are not enough";
