@@ -47,7 +47,9 @@ void LevelExchange::remember(const QString& path)
 
 QString LevelExchange::exportLevel()
 {
-    const QString path = m_boxes.fileToSave({u"Export Level"_s, m_folder, levelFiles, u"keys"_s});
+    const QString name = u"%1, level %2.keys"_s.arg(m_values.customerName).arg(m_level.level());
+    const QString path =
+        m_boxes.fileToSave({u"Export Level"_s, QDir(m_folder).filePath(name), levelFiles, u"keys"_s});
     if (path.isEmpty())
         return {};
     remember(path);

@@ -38,13 +38,14 @@ LevelTools::LevelTools(const LevelGround& ground)
     connect(&ground.grid, &QTableView::doubleClicked, this, &LevelTools::openItem);
 }
 
-/// The entries of a key are in the context menu of the keys, too.
+/// The entries of a key are in the context menu of the keys, too. Ctrl+F belongs to the form and is only
+/// named.
 void LevelTools::addActions()
 {
     static constexpr Entry entries[] = {
         {"OpenItem", "&Open Item of Key", "Ctrl+Return; Ctrl+Enter", &LevelTools::openItem},
         {},
-        {"FindKeys", "&Find on All Levels...", "", &LevelTools::find},
+        {"FindKeys", "&Find on All Levels...\tCtrl+F", "", &LevelTools::find},
         {"CompareLevels", "&Compare Levels...", "Ctrl+L", &LevelTools::compareLevels},
         {},
         {"ExportLevel", "&Export Level...", "", &LevelTools::exportLevel},
@@ -78,9 +79,17 @@ void LevelTools::find()
     if (m_finder == nullptr) {
         m_finder = new KeyFinder(m_ground.level, m_ground.database, &m_ground.form);
         connect(m_finder, &KeyFinder::placeWanted, this, &LevelTools::placeWanted);
-        connect(m_finder, &KeyFinder::itemWanted, this, &LevelTools::itemWanted);
+        connect(m_finder, &KeyFinder::itemWanted, this, &LevelTools::openFound);
     }
     m_finder->openToType();
+}
+
+/// Some window managers bring the editor back in front of the list when the item is closed.
+void LevelTools::openFound(ItemKind kind, const QString& number)
+{
+    Q_EMIT itemWanted(kind, number);
+    m_finder->raise();
+    m_finder->activateWindow();
 }
 
 /// An item that does not exist has no record.

@@ -66,6 +66,7 @@ private:
 
     void addActions();
     void openItem();
+    void openFound(ItemKind kind, const QString& number);
     void compareLevels();
     void exportLevel();
     void importLevel();
