@@ -149,6 +149,7 @@ void KeyLayout::itemsChanged()
 {
     m_level.readItems();
     finish(Refusal::None);
+    m_tools->itemClosed();
 }
 
 void KeyLayout::assign(ItemKind kind, const QString& number, bool byEnter)

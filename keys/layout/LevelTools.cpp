@@ -84,12 +84,21 @@ void LevelTools::find()
     m_finder->openToType();
 }
 
-/// Some window managers bring the editor back in front of the list when the item is closed.
 void LevelTools::openFound(ItemKind kind, const QString& number)
 {
+    m_isFound = true;
     Q_EMIT itemWanted(kind, number);
+}
+
+/// Some window managers bring the editor back in front of the list of hits.
+void LevelTools::itemClosed()
+{
+    if (m_finder == nullptr || !m_finder->isVisible())
+        return;
     m_finder->raise();
-    m_finder->activateWindow();
+    if (m_isFound)
+        m_finder->activateWindow();
+    m_isFound = false;
 }
 
 /// An item that does not exist has no record.

@@ -48,6 +48,8 @@ public:
     [[nodiscard]] QPushButton* menuButton() const { return m_button; }
     /// Keys were changed, or another level is shown.
     void levelChanged();
+    /// The record of an item, which itemWanted() asked for, was closed.
+    void itemClosed();
     void find();
 
 Q_SIGNALS:
@@ -76,6 +78,7 @@ private:
     LevelExchange m_exchange;
     QPushButton* m_button;
     KeyFinder* m_finder = nullptr; ///< once it was opened
+    bool m_isFound = false;        ///< the open item was opened from the list of hits
 };
 
 } // namespace norvane::keys
