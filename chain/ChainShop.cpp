@@ -39,9 +39,9 @@ void writeId(const ShopFolder& folder, const QString& id)
         throw ChainError(ChainFailure::Unwritable, u"%1 could not be written."_s.arg(path));
 }
 
-std::string foldedName(const ShopFolder& folder)
+std::string folded(const QString& name)
 {
-    return folder.name.toCaseFolded().toStdString();
+    return name.toCaseFolded().toStdString();
 }
 
 std::optional<Shop> shopBy(pqxx::work& work, const char* column, const std::string& value)
@@ -68,7 +68,7 @@ std::optional<Shop> shopBy(pqxx::work& work, const char* column, const std::stri
 void rename(pqxx::work& work, const ShopFolder& folder, const Shop& shop)
 {
     work.exec_params0("UPDATE shops SET name = $1, folded_name = $2 WHERE shop = $3",
-                      folder.name.toStdString(), foldedName(folder), shop.number);
+                      folder.name.toStdString(), folded(folder.name), shop.number);
 }
 
 /// The folder's own id, a new one for a folder that has none. It is stored first: if it were lost, the next
@@ -106,12 +106,33 @@ int nextNumber(pqxx::work& work)
     return last + 1;
 }
 
-int addShop(pqxx::work& work, const ShopFolder& folder, const QString& id)
+int addShop(pqxx::work& work, const QString& name, const std::string& id)
 {
     const int number = nextNumber(work);
     work.exec_params0("INSERT INTO shops (shop, name, folded_name, folder_id) VALUES ($1, $2, $3, $4)",
-                      number, folder.name.toStdString(), foldedName(folder), ownId(folder, id));
+                      number, name.toStdString(), folded(name), id);
     return number;
+}
+
+/// The login of a shop sees its own shop only, so others are new to it.
+void requireAdder(pqxx::work& work, const ShopFolder& folder, const Server& server)
+{
+    if (work.exec1("SELECT has_table_privilege('shops', 'INSERT')")[0].as<bool>())
+        return;
+    throw ChainError(
+        ChainFailure::NoRights,
+        u"%1 may not publish \"%2\" (%3): it is not the shop of this user, or the owner of the "
+        "chain has not added it with chain add-shop."_s.arg(server.user(), folder.name, server.where()));
+}
+
+/// The owner can add a shop before there is a folder.
+bool hasPublished(pqxx::work& work, const Shop& shop)
+{
+    return work
+        .exec_params1("SELECT EXISTS (SELECT FROM published_names WHERE shop = $1) OR "
+                      "EXISTS (SELECT FROM published_days WHERE shop = $1)",
+                      shop.number)[0]
+        .as<bool>();
 }
 
 /// The shops of a folder's id and of its name, which usually are one.
@@ -125,7 +146,7 @@ Candidates candidates(pqxx::work& work, const ShopFolder& folder, const Server& 
 {
     const QString id = readId(folder);
     Candidates found{id, shopBy(work, "folder_id", id.toStdString()),
-                     shopBy(work, "folded_name", foldedName(folder))};
+                     shopBy(work, "folded_name", folded(folder.name))};
     if (found.byId && found.byName && found.byId->number != found.byName->number) {
         failOther(
             u"\"%1\" was published as \"%2\", and there is another shop \"%3\" (%4): rename the folder."_s
@@ -133,7 +154,7 @@ Candidates candidates(pqxx::work& work, const ShopFolder& folder, const Server& 
     }
     if (found.byId && !found.byName && !adopt)
         failRenamed(folder, *found.byId);
-    if (found.byName && !found.byId && !adopt)
+    if (found.byName && !found.byId && !adopt && hasPublished(work, *found.byName))
         failElsewhere(*found.byName, server);
     return found;
 }
@@ -145,14 +166,16 @@ int numberOf(const Candidates& found)
     return found.byName ? found.byName->number : 0;
 }
 
-int shopOf(pqxx::work& work, const ShopFolder& folder, const Candidates& found)
+int shopOf(pqxx::work& work, const ShopFolder& folder, const Candidates& found, const Server& server)
 {
     if (found.byId && !found.byName)
         rename(work, folder, *found.byId);
     if (found.byName && !found.byId)
         takeOver(work, folder, found.id, *found.byName);
-    const int number = numberOf(found);
-    return number == 0 ? addShop(work, folder, found.id) : number;
+    if (const int number = numberOf(found); number != 0)
+        return number;
+    requireAdder(work, folder, server);
+    return addShop(work, folder.name, ownId(folder, found.id));
 }
 
 } // namespace
@@ -163,7 +186,7 @@ int findShop(Server& server, const ShopFolder& folder, bool adopt)
     server.transact([&](pqxx::work& work) {
         // Two simultaneous first publications would use a name twice.
         lockSchema(work);
-        shop = shopOf(work, folder, candidates(work, folder, server, adopt));
+        shop = shopOf(work, folder, candidates(work, folder, server, adopt), server);
     });
     return shop;
 }
@@ -171,8 +194,20 @@ int findShop(Server& server, const ShopFolder& folder, bool adopt)
 int findPublishedShop(Server& server, const ShopFolder& folder, bool adopt)
 {
     int shop = 0;
-    server.transact([&](pqxx::work& work) { shop = numberOf(candidates(work, folder, server, adopt)); });
+    server.transact([&](pqxx::work& work) {
+        shop = numberOf(candidates(work, folder, server, adopt));
+        if (shop == 0)
+            requireAdder(work, folder, server);
+    });
     return shop;
+}
+
+int shopNamed(pqxx::work& work, const QString& name)
+{
+    lockSchema(work);
+    const auto found = shopBy(work, "folded_name", folded(name));
+    return found ? found->number
+                 : addShop(work, name, QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString());
 }
 
 ShopLock::ShopLock(Server& server, int shop, const QString& name)

@@ -19,13 +19,17 @@ struct ShopFolder {
 /// norvane-chain.ini, and by its name, without regard to case: two folders of one name on two machines are
 /// two shops, and a copy of a folder is another shop, too, until the user says otherwise.
 /// @param adopt the user says that the folder is the shop: it takes over the shop of its name, or gives the
-/// shop of its id its name.
+/// shop of its id its name. A shop of which nothing is published belongs to the first folder of its name.
 /// @throws ChainError OtherShop when name and id do not fit together and @p adopt is false, or both belong to
-/// other shops; Unwritable when the id cannot be kept.
+/// other shops; Unwritable when the id cannot be kept; NoRights for a new shop and a user who may not add
+/// one.
 [[nodiscard]] int findShop(Server& server, const ShopFolder& folder, bool adopt);
 
 /// The same without changing anything, here or there. @return 0 for a shop that was never published.
 [[nodiscard]] int findPublishedShop(Server& server, const ShopFolder& folder, bool adopt);
+
+/// The shop of that name, a new one if there is none.
+[[nodiscard]] int shopNamed(pqxx::work& work, const QString& name);
 
 /// While it lives, no other program publishes the shop.
 class ShopLock

@@ -27,16 +27,35 @@ Result lastOf(PGconn* connection)
     return last;
 }
 
+std::string joinedNames(const std::vector<std::string>& columns)
+{
+    std::string all;
+    for (const std::string& column : columns)
+        all.append(all.empty() ? "" : ",").append(column);
+    return all;
+}
+
+bool isHeldToOwnRows(pqxx::work& work, const std::string& table)
+{
+    return work.exec_params1("SELECT row_security_active($1)", table)[0].as<bool>();
+}
+
+/// It has the name of the table, as messages about its rows do.
+std::string stagedName(const std::string& table)
+{
+    return "pg_temp." + table;
+}
+
 } // namespace
 
 CopyStream::CopyStream(const Server& server, pqxx::work& work, const char* table,
                        const std::vector<std::string>& columns)
-    : m_handle(server.handle())
+    : m_handle(server.handle()), m_work(work), m_table(table), m_columns(joinedNames(columns)),
+      m_isStaged(isHeldToOwnRows(work, m_table))
 {
-    std::string names;
-    for (const std::string& column : columns)
-        names.append(names.empty() ? "" : ",").append(column);
-    work.exec("COPY " + std::string(table) + '(' + names + ") FROM STDIN");
+    if (m_isStaged)
+        work.exec0("CREATE TEMPORARY TABLE " + m_table + " (LIKE " + m_table + ") ON COMMIT DROP");
+    work.exec("COPY " + (m_isStaged ? stagedName(m_table) : m_table) + '(' + m_columns + ") FROM STDIN");
 }
 
 CopyStream::~CopyStream()
@@ -61,8 +80,10 @@ void CopyStream::complete()
     if (PQputCopyEnd(m_handle, nullptr) != 1)
         failBroken();
     const Result result = lastOf(m_handle);
-    if (PQresultStatus(result.get()) == PGRES_COMMAND_OK)
+    if (PQresultStatus(result.get()) == PGRES_COMMAND_OK) {
+        insertStaged();
         return;
+    }
     const char* const state = PQresultErrorField(result.get(), PG_DIAG_SQLSTATE);
     if (state == nullptr)
         failBroken();
@@ -74,6 +95,15 @@ void CopyStream::send()
     if (!m_rows.empty() && PQputCopyData(m_handle, m_rows.data(), static_cast<int>(m_rows.size())) != 1)
         failBroken();
     m_rows.clear();
+}
+
+void CopyStream::insertStaged()
+{
+    if (!m_isStaged)
+        return;
+    m_work.exec0("INSERT INTO " + m_table + '(' + m_columns + ") SELECT " + m_columns + " FROM " +
+                 stagedName(m_table));
+    m_work.exec0("DROP TABLE " + stagedName(m_table));
 }
 
 void CopyStream::failBroken() const

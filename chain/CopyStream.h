@@ -12,6 +12,9 @@ namespace norvane::chain
 /// One COPY by the calls of libpq: libpqxx's own stream formats each value and sends every row as a separate
 /// message, and years of sales would take twice as long. Nothing else can be done in the transaction until
 /// complete(); without it, the destructor abandons the rows.
+///
+/// A table whose row security applies to the user takes no COPY. Then a temporary table receives the rows,
+/// and complete() inserts them.
 class CopyStream
 {
 public:
@@ -33,9 +36,14 @@ public:
 
 private:
     void send();
+    void insertStaged();
     [[noreturn]] void failBroken() const;
 
     Connection::Handle m_handle;
+    pqxx::work& m_work;
+    std::string m_table;
+    std::string m_columns; ///< "shop,day,plu"
+    bool m_isStaged;
     bool m_isOpen = true;
     std::string m_leading;
     std::string m_rows; ///< not sent yet

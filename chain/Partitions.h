@@ -12,7 +12,7 @@ namespace norvane::chain
 {
 
 /// The function make_month, which makes the partitions of a month. It has the rights of the schema's owner,
-/// so that a role that may only write its own shop gets its months.
+/// so that a role that may only write its own shop gets its months: those of the last twelve years.
 [[nodiscard]] std::vector<std::string> partitionFunctions();
 
 /// Makes the partitions that hold the month of @p day, unless they are there. A partition that was made by

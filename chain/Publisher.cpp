@@ -200,7 +200,6 @@ void ShopPublisher::publishMonth(const QList<QDate>& days)
 {
     if (m_options.step)
         m_options.step(u"%1: %2 days"_s.arg(days.first().toString(u"yyyy-MM"_s)).arg(days.size()));
-    makePartitions(m_server, days.first());
     try {
         publishTogether(days);
         return;
@@ -237,6 +236,7 @@ void ShopPublisher::publishOrLeaveOut(QDate day)
 
 void ShopPublisher::publishTogether(const QList<QDate>& days)
 {
+    makePartitions(m_server, days.first());
     Sent sent;
     for (const QDate day : days)
         sent[day] = {};

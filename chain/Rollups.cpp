@@ -144,6 +144,14 @@ std::vector<std::string> rollupStatements()
     return all;
 }
 
+std::vector<std::string> rollupNames()
+{
+    std::vector<std::string> all;
+    for (const auto& rollup : monthTotals)
+        all.emplace_back(rollup.name);
+    return all;
+}
+
 void rollUp(pqxx::work& work, int shop, QDate month)
 {
     // The server has no statistics of a month that has just begun and would sort its sales.

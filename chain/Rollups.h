@@ -16,6 +16,9 @@ namespace norvane::chain
 /// that of its days.
 [[nodiscard]] std::vector<std::string> rollupStatements();
 
+/// "shop_months" and so on.
+[[nodiscard]] std::vector<std::string> rollupNames();
+
 /// Quantity and takings of a row of plu_sales, over all price levels. Most are sold at the first one only,
 /// and comparing with 0 takes a third of the time of adding.
 inline constexpr const char* pluQuantity =

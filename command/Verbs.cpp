@@ -170,8 +170,8 @@ constexpr auto all = std::to_array<Verb>({
      "Copies all customers of a former installation and converts them. FOLDER is left as it is."_L1, adoptInstallation},
     {"publish"_L1, "CUSTOMER..."_L1, 1, -1, publishOptions,
      "Copies the sales and names of shops to the PostgreSQL of their chain: days that are new or have changed."_L1, publish},
-    {"chain"_L1, "check CUSTOMER... | pages"_L1, 1, -1, chainOptions,
-     "check: compares all sums of shops with those in the PostgreSQL of their chain, reports what differs, and publishes it again. pages: writes a site for the browser about all shops, from what they published."_L1, manageChain},
+    {"chain"_L1, "check CUSTOMER... | pages | init | add-shop NAME"_L1, 1, -1, chainOptions,
+     "check: compares all sums of shops with those in the PostgreSQL of their chain, reports what differs, and publishes it again. pages: writes a site for the browser about all shops, from what they published. init and add-shop, as the owner of the chain: make its schema and roles, and a user for one shop, who may read and write the rows of this shop only."_L1, manageChain},
 });
 // clang-format on
 

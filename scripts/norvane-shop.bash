@@ -46,7 +46,9 @@ _norvane_shop()
     elif [ "${COMP_WORDS[1]}" = compare ] && [ "$COMP_CWORD" -ge 3 ] && [ "${word#-}" = "$word" ]; then
         choices=(plu status groups mixes functions keyboards lookups cards options messages staff times taxes)
     elif [ "${COMP_WORDS[1]}" = chain ] && [ "$COMP_CWORD" -eq 2 ]; then
-        choices=(check pages)
+        choices=(check pages init add-shop)
+    elif [ "${COMP_WORDS[1]}" = chain ] && [ "${COMP_WORDS[2]}" != check ] && [ "$word" = "${word#-}" ]; then
+        choices=() # no shops of this computer
     elif [[ ${COMP_WORDS[1]} = plus && $COMP_CWORD -eq 3 || ${COMP_WORDS[1]} = table && $COMP_CWORD -eq 4 ]]; then
         choices=(export import)
     elif [ "${word#-}" = "$word" ] && case $before:${COMP_WORDS[1]} in
