@@ -168,9 +168,10 @@ void ask(chain::Server& server, const Query& query, benchmark::State& state)
 void writePages(chain::Server& server, benchmark::State& state)
 {
     const QTemporaryDir folder;
-    for (auto _ : state)
+    for (auto _ : state) {
         state.SetIterationTime(bench::secondsOf(
             [&] { benchmark::DoNotOptimize(chain::writeChainPages(server, folder.path())); }));
+    }
 }
 
 } // namespace

@@ -128,6 +128,7 @@ std::string columnStatement()
 std::vector<std::string> commentStatements()
 {
     std::vector<std::string> all;
+    all.reserve(relationComments.size() + 1);
     for (const auto& [name, text] : relationComments)
         all.push_back(std::string("COMMENT ON ") + name + " IS '" + text + '\'');
     all.push_back(columnStatement());

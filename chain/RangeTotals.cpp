@@ -139,6 +139,7 @@ std::string recentPluTotals()
 std::vector<std::string> rangeFunctions()
 {
     std::vector<std::string> all;
+    all.reserve(ranges.size());
     for (const auto& range : ranges) {
         // Such a body finds its tables whatever the search path of the reader is.
         all.push_back("CREATE OR REPLACE FUNCTION " + std::string(range.name) +

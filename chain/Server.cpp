@@ -86,9 +86,9 @@ constexpr auto lineSettings = std::to_array<Setting>({
     {"tcp_user_timeout"_L1, "30000"_L1}, // milliseconds
 });
 
-/// Of the session. The server's end of the line ends as soon, so that the next publication finds the shop
+/// Of the connection. The server's end of the line ends as soon, so that the next publication finds the shop
 /// free. Settings of the user, the database or the connection string win.
-constexpr const char* sessionSettings =
+constexpr const char* connectionSettings =
     "SELECT set_config(s.name, v.value, false) FROM pg_catalog.pg_settings s JOIN (VALUES "
     "('lock_timeout', '20s'), ('statement_timeout', '10min'), ('client_connection_check_interval', '5s'), "
     "('tcp_keepalives_idle', '10'), ('tcp_keepalives_interval', '5'), ('tcp_keepalives_count', '4'), "
@@ -148,7 +148,7 @@ Server::Server(const QString& connection)
 {
     connect(connection);
     checkEncoding();
-    transact([](pqxx::work& work) { work.exec(sessionSettings); });
+    transact([](pqxx::work& work) { work.exec(connectionSettings); });
 }
 
 void Server::connect(const QString& connection)

@@ -48,10 +48,11 @@ public:
     {
         const QPolygonF ends(
             {m_edge.topLeft(), m_edge.topRight(), m_edge.bottomRight(), m_edge.bottomLeft()});
-        if (m_page.isCutLeft)
+        if (m_page.isCutLeft) {
             m_painter.drawPolyline(ends);
-        else
+        } else {
             m_painter.drawPolygon(ends);
+        }
     }
 
     void cropCorners()
@@ -74,10 +75,11 @@ public:
         pen.setDashPattern({20, 10});
         m_painter.setPen(pen);
         m_painter.drawLine(QPointF(x, m_edge.top()), QPointF(x, below));
-        if (m_page.isCutLeft)
+        if (m_page.isCutLeft) {
             write(x + captionGap, Qt::AlignLeft, u"Page 2 of 2: cut here"_s);
-        else
+        } else {
             write(x - captionGap, Qt::AlignRight, u"Page 1 of 2: page 2 begins here"_s);
+        }
     }
 
 private:

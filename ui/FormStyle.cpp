@@ -262,9 +262,10 @@ QSize FormStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QWidget* widget) const
 {
     const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
-    if (type == CT_ItemViewItem)
+    if (type == CT_ItemViewItem) {
         return whole +
                QSize(0, scaled(moreForLine)); // or the current line loses the lower ends of its letters
+    }
     return type == CT_ComboBox ? whole + QSize(moreForCombo(), 0) : whole;
 }
 

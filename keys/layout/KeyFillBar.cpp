@@ -72,10 +72,11 @@ void KeyFillBar::setOpen(bool isOpen)
     setVisible(isOpen);
     m_grid.setDragEnabled(!isOpen);
     m_lists.setMarking(isOpen);
-    if (isOpen)
+    if (isOpen) {
         showPreview();
-    else
+    } else {
         m_grid.showPreview({});
+    }
 }
 
 FillWish KeyFillBar::wish() const

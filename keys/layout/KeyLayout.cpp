@@ -174,19 +174,21 @@ void KeyLayout::goToNextKey()
 void KeyLayout::showFill(bool isOpen)
 {
     m_fill->setOpen(isOpen);
-    if (isOpen)
+    if (isOpen) {
         enterList();
-    else
+    } else {
         Grid1->setFocus();
+    }
 }
 
 /// What Enter begins with several rows marked, Enter ends.
 void KeyLayout::fillOrShowFill()
 {
-    if (m_commands->fill().isChecked())
+    if (m_commands->fill().isChecked()) {
         m_fill->put();
-    else
+    } else {
         m_commands->fill().setChecked(true);
+    }
 }
 
 /// The user has seen on which keys the items go.

@@ -182,10 +182,11 @@ void KeyListPanel::markAll()
 void KeyListPanel::setMarking(bool isMarking)
 {
     m_isMarking = isMarking;
-    if (!isMarking)
+    if (!isMarking) {
         shownList().view->clearSelection(); // the next Enter is for one entry again
-    else if (shownList().view->selectionModel()->selectedRows().size() < 2)
+    } else if (shownList().view->selectionModel()->selectedRows().size() < 2) {
         markAll();
+    }
 }
 
 MarkedItems KeyListPanel::marked(qsizetype most) const
@@ -241,10 +242,11 @@ void KeyListPanel::clicked(const QModelIndex& index)
 void KeyListPanel::enter()
 {
     QTableView& view = *shownList().view;
-    if (m_isMarking || view.selectionModel()->selectedRows().size() > 1)
+    if (m_isMarking || view.selectionModel()->selectedRows().size() > 1) {
         Q_EMIT marksEntered();
-    else
+    } else {
         choose(view.currentIndex(), true);
+    }
     if (goesOn())
         m_filter->selectAll();
 }

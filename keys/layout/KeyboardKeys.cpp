@@ -49,10 +49,11 @@ KeyboardKeys keysOfAllLevels(const KeyLevel& shown, const std::shared_ptr<store:
     KeyLevel reader(shown.geometry(), database);
     KeyboardKeys all;
     for (int level = 1; level <= levelCount; ++level) {
-        if (level == shown.level())
+        if (level == shown.level()) {
             add(all, shown);
-        else
+        } else {
             addStored(all, reader, level);
+        }
     }
     return all;
 }

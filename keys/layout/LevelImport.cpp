@@ -91,10 +91,11 @@ private:
     {
         const QString item =
             QStringList{u"Key %1:"_s.arg(number), words.kind, words.number, words.name}.join(u' ').trimmed();
-        if (found)
+        if (found) {
             m_plan.renamed += item + u" is here "_s + keyInWords(*found);
-        else
+        } else {
             m_plan.missing += item;
+        }
     }
 
     KeyItems& m_items;

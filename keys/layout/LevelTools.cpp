@@ -105,10 +105,11 @@ void LevelTools::itemClosed()
 void LevelTools::openItem()
 {
     const Key& key = m_ground.level.key(m_ground.grid.currentCell());
-    if (key.function.isEmpty() || key.state == KeyState::Missing || key.state == KeyState::Fixed)
+    if (key.function.isEmpty() || key.state == KeyState::Missing || key.state == KeyState::Fixed) {
         m_ground.boxes.beep();
-    else
+    } else {
         Q_EMIT itemWanted(kindOf(key.function), shownItemNumber(key));
+    }
 }
 
 void LevelTools::compareLevels()

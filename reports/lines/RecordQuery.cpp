@@ -47,10 +47,11 @@ public:
     const LineFields& join(LineFields& sums, const LineFields& record)
     {
         for (std::size_t i = 0; i < m_fields.size(); ++i) {
-            if (m_places[i].isOwn)
+            if (m_places[i].isOwn) {
                 std::swap(m_fields[i], sums[m_places[i].at]);
-            else
+            } else {
                 m_fields[i] = record[m_places[i].at];
+            }
         }
         return m_fields;
     }

@@ -22,7 +22,7 @@ ReportBlock tableBlock(const QString& title, BlockPlace place, int lines, BlockK
     for (int line = 0; line < lines; ++line) {
         block.table.addLine(LineKind::Detail,
                             {u"A name that is much too long for half a page %1"_s.arg(line),
-                             Decimal(100 * line, 2), Decimal(-100, 2), Decimal(1234567, 2)});
+                             Decimal(std::int64_t{100} * line, 2), Decimal(-100, 2), Decimal(1234567, 2)});
     }
     return block;
 }

@@ -202,9 +202,10 @@ TEST_F(FrmreportsTest, ListsTheReportsOutsideTheMenu)
     });
     auto& list = test::child<QTreeWidget>(form, "Layouts");
     QStringList shown;
-    for (int row = 0; row < list.topLevelItemCount(); ++row)
+    for (int row = 0; row < list.topLevelItemCount(); ++row) {
         shown << list.topLevelItem(row)->text(0) + u'|' + list.topLevelItem(row)->text(2) + u'|' +
                      list.topLevelItem(row)->text(3);
+    }
     ASSERT_EQ(shown.size(), 3) << shown.join(u'\n').toStdString();
     EXPECT_EQ(shown[0], u"Own|Any|Times of the shop"_s);
     EXPECT_TRUE(shown[1].startsWith(u"broken.rpt|"_s) &&
