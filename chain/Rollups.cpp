@@ -147,6 +147,7 @@ std::vector<std::string> rollupStatements()
 std::vector<std::string> rollupNames()
 {
     std::vector<std::string> all;
+    all.reserve(monthTotals.size());
     for (const auto& rollup : monthTotals)
         all.emplace_back(rollup.name);
     return all;

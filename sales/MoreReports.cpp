@@ -52,7 +52,7 @@ MoreReports::MoreReports(const ApplicationValues& values, Boxes& boxes, reports:
     connect(m_show, &QPushButton::clicked, this, [this] { run(reports::Destination::Window); });
     connect(m_print, &QPushButton::clicked, this, [this] { run(reports::Destination::Printer); });
     connect(m_copy, &QPushButton::clicked, this, &MoreReports::copyAndOpen);
-    connect(m_open, &QPushButton::clicked, this, &MoreReports::open);
+    connect(m_open, &QPushButton::clicked, this, &MoreReports::openLayout);
     m_list->setCurrentItem(m_list->topLevelItem(0));
     showChoice();
 }
@@ -153,11 +153,11 @@ void MoreReports::copyAndOpen()
         return;
     reports::withReportBox(m_boxes, [&] {
         choosePath(copyLayout(report->path, m_values.customerPath));
-        open();
+        openLayout();
     });
 }
 
-void MoreReports::open()
+void MoreReports::openLayout()
 {
     const OtherReport* const report = chosen();
     if (report == nullptr)

@@ -42,7 +42,7 @@ private:
     [[nodiscard]] reports::ReportRequest requestOf(const OtherReport& report) const;
     void run(reports::Destination destination);
     void copyAndOpen();
-    void open();
+    void openLayout();
 
     const ApplicationValues& m_values;
     Boxes& m_boxes;
