@@ -37,11 +37,11 @@ void checkShops(const Workplace& workplace, const Invocation& words)
     publishShops(workplace, words, true);
 }
 
-void writePages(const Workplace& /*workplace*/, const Invocation& words)
+void writePages(const Workplace& workplace, const Invocation& words)
 {
-    const QString folder = words.value("out"_L1);
-    if (folder.isEmpty() || !words.operands.isEmpty())
+    if (words.value("out"_L1).isEmpty() || !words.operands.isEmpty())
         throw CommandError(ExitCode::Usage, u"chain pages --to CONNECTION --out DIR"_s);
+    const QString folder = workplace.userFile(words.value("out"_L1));
     if (!QFileInfo(folder).isDir())
         throw CommandError(ExitCode::Unwritable, u"There is no folder %1."_s.arg(folder));
     withServer(words, [&](chain::Server& server) {

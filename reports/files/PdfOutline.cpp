@@ -4,12 +4,11 @@
 #include "reports/data/PrintableText.h"
 #include "reports/data/ReportError.h"
 
-// The library's own older pointers are not used.
-#define POINTERHOLDER_TRANSITION 4
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
+// The library's C++ headers are not for C++20 with every compiler.
+#include <qpdf/qpdf-c.h>
 
-#include <exception>
+#include <memory>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,48 +30,96 @@ bool hasGroups(const ReportData& report)
     return false;
 }
 
-double heightOf(QPDFObjectHandle page)
-{
-    QPDFObjectHandle box = page.getKey("/MediaBox");
-    return box.isArray() && box.getArrayNItems() == 4 ? box.getArrayItem(3).getNumericValue() : usualHeight;
-}
+struct Cleaner {
+    void operator()(_qpdf_data* pdf) const { qpdf_cleanup(&pdf); }
+};
 
-QPDFObjectHandle placeOf(const OutlineEntry& entry, const std::vector<QPDFObjectHandle>& pages)
+/// A PDF with its objects, which are numbers of the library and live as long as the PDF.
+class Outlined
 {
-    const QPDFObjectHandle& page = pages.at(static_cast<std::size_t>(entry.page));
-    QPDFObjectHandle place = QPDFObjectHandle::newArray();
-    place.appendItem(page);
-    place.appendItem(QPDFObjectHandle::newName("/XYZ"));
-    place.appendItem(QPDFObjectHandle::newNull());
-    place.appendItem(QPDFObjectHandle::newReal(heightOf(page) - entry.top * pointsPerMillimetre, 1));
-    place.appendItem(QPDFObjectHandle::newNull());
-    return place;
-}
-
-/// Items of an outline form a chain in both directions.
-void addOutline(QPDF& pdf, const std::vector<OutlineEntry>& entries)
-{
-    const auto pages = pdf.getAllPages();
-    QPDFObjectHandle outline = pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
-    QPDFObjectHandle last;
-    for (const OutlineEntry& entry : entries) {
-        QPDFObjectHandle item = pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
-        item.replaceKey("/Title", QPDFObjectHandle::newUnicodeString(entry.title.toStdString()));
-        item.replaceKey("/Parent", outline);
-        item.replaceKey("/Dest", placeOf(entry, pages));
-        if (last.isInitialized()) {
-            last.replaceKey("/Next", item);
-            item.replaceKey("/Prev", last);
-        } else {
-            outline.replaceKey("/First", item);
-        }
-        last = item;
+public:
+    explicit Outlined(const QByteArray& pdf)
+    {
+        qpdf_silence_errors(m_pdf.get());
+        check(qpdf_read_memory(m_pdf.get(), "report", pdf.constData(),
+                               static_cast<unsigned long long>(pdf.size()), nullptr));
     }
-    outline.replaceKey("/Type", QPDFObjectHandle::newName("/Outlines"));
-    outline.replaceKey("/Last", last);
-    outline.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(entries.size())));
-    pdf.getRoot().replaceKey("/Outlines", outline);
-}
+
+    /// Items of an outline form a chain in both directions.
+    void add(const std::vector<OutlineEntry>& entries)
+    {
+        const qpdf_oh outline = newDictionary();
+        std::optional<qpdf_oh> last;
+        for (const OutlineEntry& entry : entries) {
+            const qpdf_oh item = newDictionary();
+            set(item, "/Title", qpdf_oh_new_unicode_string(m_pdf.get(), entry.title.toUtf8().constData()));
+            set(item, "/Parent", outline);
+            set(item, "/Dest", placeOf(entry));
+            if (last) {
+                set(*last, "/Next", item);
+                set(item, "/Prev", *last);
+            } else {
+                set(outline, "/First", item);
+            }
+            last = item;
+        }
+        set(outline, "/Type", qpdf_oh_new_name(m_pdf.get(), "/Outlines"));
+        set(outline, "/Last", last.value());
+        set(outline, "/Count", qpdf_oh_new_integer(m_pdf.get(), static_cast<long long>(entries.size())));
+        set(qpdf_get_root(m_pdf.get()), "/Outlines", outline);
+    }
+
+    [[nodiscard]] QByteArray written()
+    {
+        check(qpdf_init_write_memory(m_pdf.get()));
+        check(qpdf_write(m_pdf.get()));
+        const auto size = static_cast<qsizetype>(qpdf_get_buffer_length(m_pdf.get()));
+        return {reinterpret_cast<const char*>(qpdf_get_buffer(m_pdf.get())), size};
+    }
+
+private:
+    void check(QPDF_ERROR_CODE code)
+    {
+        if ((code & QPDF_ERRORS) == 0)
+            return;
+        const qpdf_error error = qpdf_get_error(m_pdf.get());
+        throw ReportError(u"The outline of the PDF cannot be written: %1"_s.arg(
+            QString::fromUtf8(qpdf_get_error_full_text(m_pdf.get(), error))));
+    }
+
+    [[nodiscard]] qpdf_oh newDictionary()
+    {
+        return qpdf_make_indirect_object(m_pdf.get(), qpdf_oh_new_dictionary(m_pdf.get()));
+    }
+
+    void set(qpdf_oh dictionary, const char* key, qpdf_oh value)
+    {
+        qpdf_oh_replace_key(m_pdf.get(), dictionary, key, value);
+    }
+
+    [[nodiscard]] double heightOf(qpdf_oh page)
+    {
+        const qpdf_oh box = qpdf_oh_get_key(m_pdf.get(), page, "/MediaBox");
+        const bool isBox = qpdf_oh_is_array(m_pdf.get(), box) != QPDF_FALSE &&
+                           qpdf_oh_get_array_n_items(m_pdf.get(), box) == 4;
+        return isBox ? qpdf_oh_get_numeric_value(m_pdf.get(), qpdf_oh_get_array_item(m_pdf.get(), box, 3))
+                     : usualHeight;
+    }
+
+    [[nodiscard]] qpdf_oh placeOf(const OutlineEntry& entry)
+    {
+        const qpdf_oh page = qpdf_get_page_n(m_pdf.get(), static_cast<std::size_t>(entry.page));
+        const double top = heightOf(page) - entry.top * pointsPerMillimetre;
+        const qpdf_oh place = qpdf_oh_new_array(m_pdf.get());
+        for (const qpdf_oh item :
+             {page, qpdf_oh_new_name(m_pdf.get(), "/XYZ"), qpdf_oh_new_null(m_pdf.get()),
+              qpdf_oh_new_real_from_double(m_pdf.get(), top, 1), qpdf_oh_new_null(m_pdf.get())})
+            qpdf_oh_append_item(m_pdf.get(), place, item);
+        return place;
+    }
+
+    std::unique_ptr<_qpdf_data, Cleaner> m_pdf{qpdf_init()};
+};
 
 } // namespace
 
@@ -99,20 +146,9 @@ QByteArray withOutline(const QByteArray& pdf, const std::vector<OutlineEntry>& e
 {
     if (entries.empty())
         return pdf;
-    try {
-        QPDF document;
-        document.processMemoryFile("report", pdf.constData(), static_cast<std::size_t>(pdf.size()));
-        addOutline(document, entries);
-        QPDFWriter writer(document);
-        writer.setOutputMemory();
-        writer.write();
-        const auto written = writer.getBufferSharedPointer();
-        return {reinterpret_cast<const char*>(written->getBuffer()),
-                static_cast<qsizetype>(written->getSize())};
-    } catch (const std::exception& error) {
-        throw ReportError(
-            u"The outline of the PDF cannot be written: %1"_s.arg(QString::fromUtf8(error.what())));
-    }
+    Outlined outlined(pdf);
+    outlined.add(entries);
+    return outlined.written();
 }
 
 } // namespace norvane::reports
