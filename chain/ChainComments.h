@@ -1,4 +1,4 @@
-// What a person who looks into the database is told about tables and columns.
+// Comments on tables and columns, for people who read the database.
 #pragma once
 
 #include <string>

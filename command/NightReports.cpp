@@ -33,7 +33,7 @@ struct Written {
     qint64 rows = -1;
 };
 
-/// The note of a report has its period in the key, so that another period begins afresh.
+/// The key has the period, so the note of one period says nothing about another.
 class WrittenNote
 {
 public:

@@ -224,7 +224,7 @@ void PublishRun::show(const chain::ShopFolder& folder, const chain::Published& p
         note(ExitCode::Vanished, vanishedText(folder.name, published));
 }
 
-/// What was mended is no failure.
+/// A difference that was mended is not a failure.
 void PublishRun::showDifferences(const QString& name, const QStringList& differences)
 {
     constexpr qsizetype most = 20;

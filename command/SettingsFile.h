@@ -58,7 +58,7 @@ void takeSetting(SettingsFile& file, const SettingLine& line, std::span<const Se
         }
         return;
     }
-    file.addMistake(line.number, QStringLiteral("There is no key \"%1\". There are: %2.")
+    file.addMistake(line.number, QStringLiteral("Unknown key \"%1\". The keys are: %2.")
                                      .arg(line.key, known.join(QStringLiteral(", "))));
 }
 

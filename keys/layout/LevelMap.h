@@ -18,7 +18,7 @@ namespace norvane::keys
 inline constexpr paper::Sheet mapSheet{QPageLayout::Landscape, paper::usualMargins};
 
 /// Keys are where they are on the keyboard. Each shows its number, that of its item, and as much of the name
-/// as fits; what it does is told by the grey of its ground, and by a cross if its item does not exist.
+/// as fits. The grey of its background shows what it does; a cross marks an item that does not exist.
 class LevelMap
 {
 public:

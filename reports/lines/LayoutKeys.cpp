@@ -182,7 +182,7 @@ bool takeLinkReport(const QString& value, LayoutTarget& target)
     return value.endsWith(".rpt"_L1, Qt::CaseInsensitive) && !value.contains(u'/') && !value.contains(u'\\');
 }
 
-/// Lines that are groups alone are told apart by the field of the group.
+/// A report that shows only groups identifies each line by the field of its group.
 bool takeLinkField(const QString& value, LayoutTarget& target)
 {
     const auto fields = parseFields(value, target.table());

@@ -11,7 +11,7 @@
 namespace norvane::reports
 {
 
-/// Whether a field numbers records and is no amount: it is joined, a key of the lines or indexed.
+/// Whether a field numbers records and is not an amount: it is joined, a key of the lines or indexed.
 [[nodiscard]] bool isRecordNumber(const LineSource& source, const FieldName& field);
 
 /// Exact totals of the numbers in the slots.

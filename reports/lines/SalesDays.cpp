@@ -44,7 +44,7 @@ void collectDays(store::Database& database, const char* table, const Period& per
         days.insert(query.value(0).toDate());
 }
 
-/// A shop may be closed on one weekday, so that is told.
+/// Includes the weekday: a shop may be closed on the same day every week.
 QString shortDay(QDate day)
 {
     return day.toString(u"ddd dd/MM/yyyy");

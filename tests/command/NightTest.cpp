@@ -231,7 +231,7 @@ TEST_F(NightOfShops, WhatCannotBeDoneIsInSummaryAndExitCodeAndStopsNothingElse)
     EXPECT_EQ(rows[u"CAFE"_s][u"leftToDo"_s], u"folder, sales"_s);
     EXPECT_EQ(rows[u"DELI"_s][u"leftToDo"_s], u"folder"_s);
     EXPECT_EQ(rows[u"DELI"_s][u"folder"_s].toString(),
-              u"reports.ini, line 8: There is no key \"Peroid\". There are: Report, Period, Format, Folder, "
+              u"reports.ini, line 8: Unknown key \"Peroid\". The keys are: Report, Period, Format, Folder, "
               "Compare.\nreports.ini, line 9: Format is \"doc\"; expected is pdf, csv or xlsx, or several "
               "with commas between."_s);
     EXPECT_DOUBLE_EQ(total(u"DELI"_s), rung);

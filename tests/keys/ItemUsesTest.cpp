@@ -37,7 +37,7 @@ TEST(ItemUses, ListsKeysOfAllLevelsAndLookUps)
               "Keyboard level 5, key 169 | Window look-up 3 \"Steak \"%1\"\", line 50 | "
               "Window look-up 12 \"Sauces\", line 1");
     EXPECT_EQ(uses(ItemKind::LookUp, "3"), "");
-    EXPECT_EQ(uses(ItemKind::LookUp, "0"), "") << "0 is no link";
+    EXPECT_EQ(uses(ItemKind::LookUp, "0"), "") << "0 is not a link";
 }
 
 } // namespace

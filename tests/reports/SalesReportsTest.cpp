@@ -118,7 +118,7 @@ TEST_F(SalesReports, NextReportOfAFormHasTheNamesOfNow)
                                        "= |Total 2 FOOD|1|1.00|0|0|100.0\n# |Total|1|1.00|0|0|100.0");
 }
 
-// The course over months comes from their totals, but not where the value of a month is no sum of days.
+// The course over months comes from their totals, but not where the value of a month is not a sum of days.
 TEST_F(SalesReports, CourseOverManyDaysIsTheSameFromTotalsOfMonths)
 {
     norvane::test::runElsewhere(
