@@ -16,6 +16,7 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QPushButton>
+#include <QScrollBar>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -109,15 +110,12 @@ void KeyLayout::addTools()
     connect(m_tools, &LevelTools::noticed, m_status, &ui::StatusLine::setNotice);
 }
 
+/// Keys open in their usual size. Where not all columns fit, the bar that scrolls gets room of its own.
 void KeyLayout::fitScreen()
 {
     QSize wanted = sizeHint();
-    const QSize room = ui::roomOnScreen(*this).size();
-    if (wanted.width() > room.width()) {
-        // As high as there is room: names get a second line.
-        wanted.setHeight(room.height());
-        Grid1->fitKeyboard();
-    }
+    if (wanted.width() > ui::roomOnScreen(*this).width())
+        wanted.rheight() += Grid1->horizontalScrollBar()->sizeHint().height();
     ui::centreOnScreen(*this, wanted);
 }
 

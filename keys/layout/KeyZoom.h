@@ -13,7 +13,7 @@ public:
     /// One turn of the wheel, or one press of a button.
     static constexpr int stepPercent = 10;
 
-    /// A key as large as every keyboard's grid has it.
+    /// The size in which the keys of every keyboard open.
     [[nodiscard]] static QSize usualSize();
     /// A key of so many per cent of the usual size, or of the nearest size that is allowed.
     [[nodiscard]] static QSize sizeAt(int percent);

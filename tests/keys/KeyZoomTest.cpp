@@ -40,6 +40,13 @@ protected:
     }
 };
 
+TEST_F(KeyZoomTest, KeysOpenInTheirUsualSizeAlsoWhereNotAllOfThemFit)
+{
+    EXPECT_FALSE(showsAllKeys());
+    EXPECT_EQ(grid().columnWidth(0), 120) << "1800 twips";
+    EXPECT_EQ(grid().rowHeight(0), 40) << "600 twips";
+}
+
 TEST_F(KeyZoomTest, TheWholeKeyboardIsInViewAndFollowsTheWindowUntilItIsZoomed)
 {
     turnWheel(-3);
