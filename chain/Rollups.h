@@ -1,4 +1,4 @@
-// Monthly totals beside the days, so that years of a chain are added up in no time.
+// Monthly totals beside the days, so that years of a chain are added up quickly.
 #pragma once
 
 #include "chain/Server.h"

@@ -1,4 +1,4 @@
-// How the shops stand: the last exchange, what was not sent, sales that were not cleared or collected.
+// The state of each shop: the last exchange, what was not sent, sales that were not cleared or collected.
 #include "command/CustomerList.h"
 #include "command/Verbs.h"
 #include "customers/CustomerLog.h"

@@ -126,7 +126,7 @@ constexpr auto chainOptions = std::to_array<OptionDefinition>({
 constexpr auto all = std::to_array<Verb>({
     {"customers"_L1, {}, 0, 0, {}, "Lists the customers: model, registers, last exchange, last day of sales."_L1, listCustomers},
     {"status"_L1, "[CUSTOMER...]"_L1, 0, -1, {},
-     "Lists how the shops stand: last exchange, records not sent to all registers, sales not cleared, days without a collection. Changes nothing and waits for no other run."_L1, showStatus},
+     "Lists the state of each shop: last exchange, records not sent to all registers, sales not cleared, days without a collection. Changes nothing and waits for no other run."_L1, showStatus},
     {"check"_L1, "CUSTOMER"_L1, 1, 1, {},
      "Looks for damage in the database, for missing tables and fields, for settings that cannot be, and for mistakes in the screens and reports of this installation."_L1, checkCustomer},
     {"new"_L1, "CUSTOMER"_L1, 1, 1, newOptions,

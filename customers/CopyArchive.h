@@ -42,9 +42,8 @@ public:
 
     /// Names of the files.
     [[nodiscard]] const QStringList& names() const { return m_names; }
-    /// Reads all files to their end and compares them with the sums. The content of each goes to the path
-    /// that
-    /// @p target gives for its name; to none if that is empty.
+    /// Reads all files to their end and compares them with the sums. The content of each is written to the
+    /// path that @p target gives for its name, and not at all if that is empty.
     /// @throws RuntimeFailure with Failure::NotOurDatabase if anything is not as it was written, and what
     /// writing throws.
     void unpack(const std::function<QString(const QString& name)>& target, const std::function<void()>& goOn);

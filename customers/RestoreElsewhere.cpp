@@ -24,7 +24,7 @@ namespace
 const auto chainIdentity = u"norvane-chain.ini"_s;
 
 /// Of an existing customer these are not put back: a list that was stored since would be stored again, and
-/// the log tells also of what came after the copy. Settings and register files are restored with the tables.
+/// the log also has what came after the copy. Settings and register files are restored with the tables.
 const QStringList& keptAsTheyAre()
 {
     static const QStringList patterns{u"velmar.mdb"_s, u"planned/*"_s, u"norvane.log"_s,

@@ -46,7 +46,8 @@ SafetyCopy makeSafetyCopy(const QString& customerPath, const QString& reason, st
 /// about the registers. The database is restored completely or not at all; the files follow it. A damaged
 /// database is kept beside a new one, which receives the sales that can still be read.
 /// @return what the user must know about a damaged database; empty if there was none.
-/// @throws RuntimeFailure as makeSafetyCopy(), and 3343 for a damaged copy, before anything was changed.
+/// @throws RuntimeFailure as makeSafetyCopy(), and with Failure::NotOurDatabase for a damaged copy, before
+/// anything was changed.
 QString restoreSafetyCopy(const QString& customerPath, const SafetyCopy& copy);
 
 /// Copies the customers that a job is about to change: the one whose database is in use and, if different,

@@ -36,11 +36,11 @@ public:
     /// @return whether all ticked boxes moved, as downloaddata() does. Both write a line to the customer's
     /// log.
     /// @throws RuntimeFailure with Failure::FileNotFound when status.out or a text file is missing,
-    /// Failure::TypeMismatch when status.out holds no number or the model is invalid, and as the importers
+    /// Failure::TypeMismatch when status.out has no number or the model is invalid, and as the importers
     /// throw.
     bool UploadData();
     /// Makes the files from the tables, or takes the kept ones, and sends them to registers 1 to n.
-    /// @throws as UploadData, and 53 when the kept bitmap file is missing.
+    /// @throws as UploadData, and Failure::FileNotFound when the kept bitmap file is missing.
     bool downloaddata();
     /// Logs that the modem reached no register, so that nothing was moved, and explains it.
     void endWithoutCall(Direction direction);

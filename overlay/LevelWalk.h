@@ -34,7 +34,7 @@ private:
 class LevelWalk
 {
 public:
-    /// @throws RuntimeFailure with Failure::NoCurrentRecord if the tables end below @p level.
+    /// @throws RuntimeFailure with Failure::NoCurrentRecord if the tables end before @p level begins.
     LevelWalk(store::Database& database, int level, int keysALevel);
 
     /// What the key does. @throws RuntimeFailure with Failure::NoCurrentRecord after the last row.

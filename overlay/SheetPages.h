@@ -26,8 +26,8 @@ struct SheetPage {
     }
 };
 
-/// One page, whatever leaves it; two if the target's options allow them and the keys fit on two, but not on
-/// one.
+/// One page, even if keys do not fit on it; two if the target's options allow them and the keys fit on two,
+/// but not on one.
 [[nodiscard]] std::vector<SheetPage> pagesOf(const OverlayLayout& layout, const TargetPrinter& target);
 
 /// Left edge of the keys of a column, in mm from the corner of the printable area.

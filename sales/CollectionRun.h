@@ -50,8 +50,8 @@ public:
     /// nothing.
     /// @return whether the sales were stored and the registers cleared.
     /// @throws RuntimeFailure with Failure::FileNotFound when status.out is missing, Failure::TypeMismatch
-    /// when it holds no number or the model is none, 6 and Failure::TypeMismatch for link settings, and as
-    /// storeReports() throws.
+    /// when it has no number or the model is invalid, Failure::Overflow and Failure::TypeMismatch for link
+    /// settings, and as storeReports() throws.
     bool collect(ClearFirst clearFirst = ClearFirst::Ask);
     /// What a complete run has stored: "3,776 rows of sales stored, 12 s". Empty for any other.
     [[nodiscard]] const QString& resultInWords() const { return m_result; }

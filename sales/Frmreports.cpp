@@ -144,7 +144,7 @@ void Frmreports::loadForm()
     tellDay();
 }
 
-/// Those of the month that is shown. A database that cannot be read marks none: the report itself will tell.
+/// Those of the month that is shown. A database that cannot be read marks none: the report says why.
 void Frmreports::markDaysOfSales()
 {
     const QDate first(CSCal->yearShown(), CSCal->monthShown(), 1);

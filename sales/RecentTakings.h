@@ -27,7 +27,7 @@ struct RecentTakings {
 
 /// The @p count days up to @p today, from the line of the financial report that its chart draws, too. Reads
 /// these days only, however many years of sales there are.
-/// @throws RuntimeFailure what the database reports; with Failure::Overflow for a sum of more than 18 digits.
+/// @throws RuntimeFailure as the database reports; with Failure::Overflow for a sum of more than 18 digits.
 [[nodiscard]] RecentTakings recentTakings(store::Database& database, QDate today, int count = 7);
 
 } // namespace norvane::sales

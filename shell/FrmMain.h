@@ -36,8 +36,8 @@ public:
     struct Openers {
         FormOpeners forms;
         ScreenOpener screen;
-        /// Opens the screen whose changes were lost last, with them. For Ctrl+Z while no child window is
-        /// open.
+        /// Opens the screen whose changes were lost last, with them; without any, undoes what was stored
+        /// last. For Ctrl+Z while no child window is active.
         std::function<void(FrmMain&)> lostScreen = {};
     };
 

@@ -36,7 +36,7 @@ public:
     void reload();
     /// Shows only records with @p part in number or text.
     void setFilter(const QString& part);
-    /// Shows only the records of @p numbers, in this order, that have the filter's text; nothing ends it.
+    /// Shows only the records of @p numbers, in this order, that have the filter's text; without a list all.
     /// Numbers without a record are left out.
     void showOnly(const std::optional<QStringList>& numbers);
     /// Sets the record that the form shows; an empty text for none.

@@ -47,8 +47,9 @@ public:
     KeyLayout(const KeyGeometry& keyboard, ApplicationValues& values, Boxes& boxes,
               QWidget* parent = nullptr);
 
-    /// Escape first clears a search and marks, then leads back to the grid. Like the window's close button it
-    /// asks about changes, which only "E&xit" throws away unasked.
+    /// Escape ends a fill, clears a search, removes marks or leads back to the grid, whichever comes first.
+    /// Otherwise it closes the form and, like the window's close button, asks about changes, which only
+    /// "E&xit" drops unasked.
     void reject() override;
 
     /// The texts of the keys again: their items may be others now.

@@ -141,7 +141,7 @@ void KeyListPanel::readChoices()
         m_choice->addItem(choice.name);
 }
 
-/// Two numbers in the box stand above a group: they name every PLU themselves.
+/// Two numbers in the box come before a chosen group: they name every PLU themselves.
 void KeyListPanel::choosePlus()
 {
     const ui::WaitPointer wait;

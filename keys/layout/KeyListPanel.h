@@ -42,10 +42,10 @@ public:
     void enterList();
     /// Shows all entries again.
     void clearFilter();
-    /// From here on rows are marked for a fill, all at once where a filter or a choice is set; or they no
-    /// longer are, and the marks go.
+    /// Begins or ends marking rows for a fill. Where a filter or a choice is set, all rows are marked at
+    /// first; the end removes the marks.
     void setMarking(bool isMarking);
-    /// The first @p most marked rows: of a long list nobody needs all.
+    /// The first @p most marked rows: a long list has more than a level has keys.
     [[nodiscard]] MarkedItems marked(qsizetype most) const;
     /// Whether the next key follows once an item was put on one.
     [[nodiscard]] bool goesOn() const;

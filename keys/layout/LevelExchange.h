@@ -24,7 +24,7 @@ public:
     LevelExchange(KeyLevel& level, KeyEditor& editor, const std::shared_ptr<store::Database>& database,
                   const ApplicationValues& values, Boxes& boxes, QWidget& form);
 
-    /// @return what became of it, in words; empty if the user cancelled or it failed, after a message.
+    /// @return the outcome in words; empty if the user cancelled, or if it failed and a message was shown.
     [[nodiscard]] QString exportLevel();
     /// One step of the history. @return as exportLevel().
     [[nodiscard]] QString importLevel();

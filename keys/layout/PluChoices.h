@@ -22,13 +22,13 @@ struct PluChoice {
 };
 
 /// What sold best in the month before @p today, then a choice for each group, also for one without PLUs.
-/// @throws RuntimeFailure what the database reports.
+/// @throws RuntimeFailure as the database reports.
 [[nodiscard]] std::vector<PluChoice> pluChoices(store::Database& database, QDate today);
 
 /// "1001..1024" are all PLUs from the one to the other. @return nothing for any other text.
 [[nodiscard]] std::optional<PluChoice> pluRange(const QString& text);
 
-/// The numbers of the PLUs, as the tables have them. @throws RuntimeFailure what the database reports.
+/// The numbers of the PLUs, as the tables have them. @throws RuntimeFailure as the database reports.
 [[nodiscard]] QStringList pluNumbers(store::Database& database, const PluChoice& choice);
 
 } // namespace norvane::keys

@@ -89,7 +89,7 @@ public:
     /// What the last line added opens by the link of the report.
     void setLinkValue(const QString& value);
     [[nodiscard]] std::optional<QString> linkValue(qsizetype line) const;
-    /// Columns before the first number; their texts tell the lines apart.
+    /// Columns before the first number, whose texts identify a line.
     [[nodiscard]] int namingColumns() const;
     /// Removes the columns for which @p isKept is false, with their cells.
     void keepColumns(const std::vector<bool>& isKept);

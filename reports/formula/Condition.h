@@ -59,8 +59,7 @@ struct Condition {
 [[nodiscard]] std::string namesNothingSql(const FieldName& field, const std::string& column);
 
 /// The condition as SQL with a question mark for each value. The values are added to @p values, in that
-/// order.
-/// @p column gives the name of a field in the statement.
+/// order. @param column gives the name of a field in the statement.
 [[nodiscard]] std::string conditionSql(const Condition& condition,
                                        const std::function<std::string(const FieldName&)>& column,
                                        std::vector<store::Value>& values);

@@ -155,7 +155,7 @@ private:
         });
     }
 
-    /// A single line beyond the limit needs no more room than the words that would stand for it.
+    /// A single line beyond the limit needs no more room than the words that would take its place.
     void cut()
     {
         const auto most = static_cast<std::size_t>(m_block.cut.most);

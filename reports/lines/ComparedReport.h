@@ -7,7 +7,7 @@ namespace norvane::reports
 {
 
 /// The lines of @p now with those of @p before beside them. Both come from one layout. The columns before the
-/// first compared one tell the lines apart; each compared column is followed by its number in the other
+/// first compared one identify a line; each compared column is followed by its number in the other
 /// period, the change and the change in per cent, which is a dash where the other period has zero. Other
 /// columns are left out. Heading, page and charts are those of @p now.
 [[nodiscard]] ReportData comparedReport(const ReportData& now, const ReportData& before);

@@ -13,7 +13,7 @@ namespace norvane::reports
 
 /// "Level 1 key 117, Level 3 keys 117, 118" by the number of the PLU without leading zeros. How many keys a
 /// level has is read from the customer's settings beside the database.
-/// @throws RuntimeFailure what the database reports.
+/// @throws RuntimeFailure as the database reports.
 [[nodiscard]] QHash<QString, QString> keysByPlu(store::Database& database, const QString& dataFile,
                                                 const std::function<bool()>& keepGoing);
 

@@ -55,7 +55,7 @@ void restrict(std::optional<Condition>& where, const Condition& filter)
     where = std::move(all);
 }
 
-/// The texts that tell a line from others: those before its first number.
+/// The texts that identify a line: those before its first number.
 QString nameOf(const ReportData& data, qsizetype line)
 {
     QStringList texts;

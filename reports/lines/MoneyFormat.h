@@ -15,7 +15,7 @@ struct MoneyFormat {
 };
 
 /// That of the registers' settings in @p database: two decimal places and no currency sign if there are none.
-/// @throws RuntimeFailure what the database reports.
+/// @throws RuntimeFailure as the database reports.
 [[nodiscard]] MoneyFormat moneyFormatOf(store::Database& database);
 
 } // namespace norvane::reports

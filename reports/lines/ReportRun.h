@@ -36,7 +36,7 @@ struct ReportRequest {
 };
 
 /// @return the report. When no row is selected, its heading has a notice that says so.
-/// @throws ReportError for a layout, formula, database or number that is not as it should be, for a
+/// @throws ReportError for a layout or formula with a mistake, a database or number that cannot be used, a
 /// comparison of a selection that is more or less than a period or of a layout without a number to compare,
 /// and ReportCancelled when @p keepGoing returns false.
 [[nodiscard]] ReportData runReport(const ReportRequest& request, const KeepGoing& keepGoing = {});

@@ -22,17 +22,17 @@ struct SalesDays {
 
 /// The days of @p period with a row in any table of sales, and the last such day before it, or else the first
 /// of all up to its end.
-/// @param period not open. @throws RuntimeFailure what the database reports.
+/// @param period not open. @throws RuntimeFailure as the database reports.
 [[nodiscard]] std::set<QDate> daysWithLast(store::Database& database, const Period& period,
                                            const std::function<bool()>& keepGoing = {});
 
 /// The days of @p period, which is not open, with a row in any table of sales.
-/// @throws RuntimeFailure what the database reports.
+/// @throws RuntimeFailure as the database reports.
 [[nodiscard]] std::set<QDate> collectedDays(store::Database& database, const Period& period,
                                             const std::function<bool()>& keepGoing = {});
 
 /// @param period not open. @return nothing when no day of the period can be expected to have sales.
-/// @throws RuntimeFailure what the database reports.
+/// @throws RuntimeFailure as the database reports.
 [[nodiscard]] std::optional<SalesDays> salesDays(store::Database& database, const Period& period, QDate today,
                                                  const std::function<bool()>& keepGoing);
 

@@ -32,7 +32,7 @@ bool isSameColumn(const ReportColumn& one, const ReportColumn& other)
 }
 
 /// The columns of a block as the narrower page shows them: "Before" and "%" after the number that they
-/// belong to, and not the change, which both tell.
+/// belong to. The change is left out, because it follows from these two.
 ReportData pageTable(const ReportData& table)
 {
     std::vector<ReportColumn> columns;
@@ -164,7 +164,7 @@ private:
         return lines;
     }
 
-    /// A list, such as the settings of the registers, has no period and does not tell that there are sales.
+    /// A list, such as the settings of the registers, has no period, and its lines are not sales.
     [[nodiscard]] ReportData linesOf(const BlockLayout& block, const SummaryPeriod& of)
     {
         const auto day = block.table->source.day();

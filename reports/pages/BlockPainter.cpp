@@ -143,7 +143,7 @@ double BlockPainter::numberWidth(int column) const
     return width + cellGap * m_scale;
 }
 
-/// Names take what the numbers leave; those of a heat map stand in columns of one width.
+/// Names take what the numbers leave; those of a heat map are in columns of one width.
 QRectF BlockPainter::cellRect(const QRectF& row, int column) const
 {
     const int count = m_block.table.columnCount();

@@ -72,7 +72,7 @@ void Report::runAndFollow(ReportRequest request)
             return;
         report = std::move(*made);
     } catch (const TextError&) {
-        // The preview tells what is wrong.
+        // The preview shows what is wrong.
         report.heading.title = report.heading.windowTitle = QFileInfo(request.reportFile).fileName();
     }
     preview(std::move(report), std::move(request)).followLayout();

@@ -20,7 +20,7 @@ inline constexpr int busyMilliseconds = 5000;
 [[nodiscard]] SQLite::Database openUnreadDatabaseFile(const QString& path, int wait = busyMilliseconds);
 
 /// Makes a file beside @p path and puts it in its place once it is complete.
-/// @throws RuntimeFailure with Failure::PathOrFileAccess, 61.
+/// @throws RuntimeFailure with Failure::PathOrFileAccess, Failure::DiskFull.
 void createDatabaseFile(const QString& path, const QVector<TableDefinition>& tables);
 
 } // namespace norvane::store
