@@ -205,7 +205,7 @@ void PublishRun::publish(chain::Server& server, const ApplicationValues& custome
 chain::Published PublishRun::publishLogged(chain::Server& server, const chain::ShopFolder& folder)
 {
     customers::LoggedWork work(folder.customerPath, u"publication"_s);
-    const auto published = work.during([&] { return chain::publishShop(server, folder, m_options); });
+    auto published = work.during([&] { return chain::publishShop(server, folder, m_options); });
     work.setResult(u"%1 days, %2 rows"_s.arg(published.days).arg(published.rows));
     return published;
 }

@@ -251,9 +251,9 @@ TEST_F(SalesReports, DaysWithoutACollectionAreListedBelowTheLines)
     EXPECT_EQ(lastLine("lastmonth"), std::string(listed) + ", Sat 10/10/2026 to Sat 31/10/2026");
     EXPECT_TRUE(lastLine("monthtodate").starts_with("# |Total"));
     EXPECT_TRUE(lastLine("WeekToDateFromSun").starts_with("# |Total"));
-    std::vector<QDate> days;
-    for (int day = 0; day < 50; ++day)
-        days.push_back(QDate(2026, 1, 1).addDays(2 * day));
+    std::vector<QDate> days(50, QDate(2026, 1, 1));
+    for (std::size_t i = 1; i < days.size(); ++i)
+        days[i] = days[i - 1].addDays(2);
     EXPECT_TRUE(textOfDays(days, 2).endsWith(u"Sat 03/01/2026 and 48 more days"_s));
 }
 
