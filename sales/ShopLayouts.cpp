@@ -39,7 +39,7 @@ bool isFailure(int code)
 QString copyLayout(const QString& path, const QString& folder)
 {
     QFile file(path);
-    const QString copy = freeName(path, QDir(folder));
+    QString copy = freeName(path, QDir(folder));
     if (!file.open(QIODevice::ReadOnly))
         throw reports::ReportError(u"%1: %2"_s.arg(path, file.errorString()));
     if (const auto error = replaceWholeFile(copy, file.readAll()))

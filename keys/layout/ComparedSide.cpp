@@ -30,7 +30,7 @@ public:
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override
     {
-        const QVariant content = KeyGridModel::data(index, role);
+        QVariant content = KeyGridModel::data(index, role);
         const auto state = static_cast<KeyState>(KeyGridModel::data(index, StateRole).toInt());
         if (role != Qt::DisplayRole || (state != KeyState::Plu && state != KeyState::LookUp))
             return content;

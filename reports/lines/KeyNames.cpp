@@ -55,8 +55,9 @@ QHash<QString, QString> keysByPlu(store::Database& database, const QString& data
                                   const std::function<bool()>& keepGoing)
 {
     const int perLevel = keysPerLevelOf(dataFile);
-    store::BoundQuery rows(database, keysStatement, {store::Value::whole(keyboardLevels * perLevel)},
-                           dataFile, keepGoing);
+    store::BoundQuery rows(database, keysStatement,
+                           {store::Value::whole(std::int64_t{keyboardLevels} * perLevel)}, dataFile,
+                           keepGoing);
     QHash<QString, PluKeys> all;
     while (rows.next()) {
         const int row = static_cast<int>(rows.value(1).toNumber()) - 1;

@@ -62,10 +62,11 @@ void LineBuilder::add(const LineFields& fields, const LineRank& rank)
     m_rank = rank;
     if (isLeftOut(fields))
         return;
-    if (m_layout.group)
+    if (m_layout.group) {
         changeGroup(fields);
-    else if (m_layout.hasGroups())
+    } else if (m_layout.hasGroups()) {
         changeClass();
+    }
     if (!m_layout.group || m_layout.group->showsLines)
         addDetail(fields);
     m_groupTotals.add(m_numbers.numbers());

@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QPointer>
+#include <QPrinter>
 
 namespace norvane::test
 {

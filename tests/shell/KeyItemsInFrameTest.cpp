@@ -1,5 +1,6 @@
 // From a key of the keyboard to the item that it holds, and back, as the program opens them.
 #include "tests/shell/FrameFixture.h"
+#include "tests/store/Elsewhere.h"
 
 namespace norvane::shell
 {
