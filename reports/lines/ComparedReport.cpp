@@ -94,6 +94,11 @@ std::vector<ReportColumn> columnsOf(const ComparedLines& lines)
         ReportColumn column = lines.column(compared);
         const QString heading = column.heading;
         columns.push_back(column);
+        if (column.kind != ColumnKind::Number) {
+            column.heading = heading + u" before"_s;
+            columns.push_back(std::move(column));
+            continue;
+        }
         column.width = std::max(column.width, leastWidth);
         for (const char16_t* const after : {u" before", u" change"}) {
             column.heading = heading + QString::fromUtf16(after);
@@ -105,11 +110,10 @@ std::vector<ReportColumn> columnsOf(const ComparedLines& lines)
     return columns;
 }
 
-/// @return nothing for a number that does not fit a decimal and is a text.
+/// @return nothing for a number that does not fit a decimal and is a text, and where there is none, as in the
+/// total of a column without totals.
 std::optional<Decimal> numberIn(const ReportCell& cell)
 {
-    if (std::holds_alternative<std::monostate>(cell))
-        return Decimal();
     const auto* const number = std::get_if<Decimal>(&cell);
     return number == nullptr ? std::nullopt : std::optional(*number);
 }
@@ -122,12 +126,13 @@ Decimal negative(const Decimal& number)
 class Merge
 {
 public:
-    Merge(const ComparedLines& now, const ComparedLines& before)
-        : m_now(now), m_before(before), m_result(columnsOf(now))
+    Merge(const ComparedLines& now, const ComparedLines& before, OtherLines others)
+        : m_now(now), m_before(before), m_others(others), m_result(columnsOf(now))
     {
     }
 
-    /// Lines that only one of the periods has are placed between those that both have, by their first column.
+    /// Lines that only one of the periods has are placed between those that both have, by their first column,
+    /// or those of the other period last.
     ReportData all()
     {
         for (;;) {
@@ -156,6 +161,8 @@ private:
     {
         if (m_other >= m_before.count() || m_now.lineOf(m_before.key(m_other)) >= 0)
             return false;
+        if (m_others == OtherLines::Last && m_line < m_now.count() && m_now.kind(m_line) == LineKind::Detail)
+            return false;
         if (m_line >= m_now.count() || m_before.lineOf(m_now.key(m_line)) >= 0)
             return true;
         return m_now.kind(m_line) == LineKind::Detail && m_before.kind(m_other) == LineKind::Detail &&
@@ -172,16 +179,35 @@ private:
             cells.push_back(named.cell(line, column));
         if (named.kind(line) != LineKind::GroupHeading) {
             for (std::size_t i = 0; i < m_now.compared().size(); ++i)
-                addNumbers(cells, cellOf(m_now, now, i), cellOf(m_before, before, i));
+                addCompared(cells, i, now, before);
         }
         m_result.addLine(named.kind(line), std::move(cells));
         if (const auto value = named.linkValue(line))
             m_result.setLinkValue(*value);
     }
 
+    void addCompared(std::vector<ReportCell>& cells, std::size_t compared, qsizetype now,
+                     qsizetype before) const
+    {
+        ReportCell cell = cellOf(m_now, now, compared);
+        ReportCell other = cellOf(m_before, before, compared);
+        if (now < 0 && other == ReportCell())
+            cell = {};
+        if (before < 0 && cell == ReportCell())
+            other = {};
+        if (m_now.column(m_now.compared()[compared]).kind == ColumnKind::Number)
+            return addNumbers(cells, cell, other);
+        cells.push_back(cell);
+        cells.push_back(other);
+    }
+
+    /// Where a period does not have the line, its numbers are zero and its texts dashes.
     [[nodiscard]] static ReportCell cellOf(const ComparedLines& lines, qsizetype line, std::size_t compared)
     {
-        return line < 0 ? ReportCell() : lines.cell(line, lines.compared()[compared]);
+        const int column = lines.compared()[compared];
+        if (line >= 0)
+            return lines.cell(line, column);
+        return lines.column(column).kind == ColumnKind::Number ? ReportCell(Decimal()) : ReportCell(u"–"_s);
     }
 
     static void addNumbers(std::vector<ReportCell>& cells, const ReportCell& now, const ReportCell& before)
@@ -201,6 +227,7 @@ private:
 
     const ComparedLines& m_now;
     const ComparedLines& m_before;
+    OtherLines m_others;
     ReportData m_result;
     qsizetype m_line = 0; ///< next of each
     qsizetype m_other = 0;
@@ -218,11 +245,11 @@ ReportCell changePercent(const Decimal& change, const Decimal& before)
     return change.dividedBy(whole, significant).shifted(hundred);
 }
 
-ReportData comparedReport(const ReportData& now, const ReportData& before)
+ReportData comparedReport(const ReportData& now, const ReportData& before, OtherLines others)
 {
     const ComparedLines lines(now);
-    const ComparedLines others(before);
-    ReportData result = Merge(lines, others).all();
+    const ComparedLines earlier(before);
+    ReportData result = Merge(lines, earlier, others).all();
     result.heading = now.heading;
     result.page = now.page;
     result.charts = now.charts;

@@ -123,6 +123,13 @@ bool takeTotal(const QString& value, LayoutTarget& target)
                                                    layout.rank == RankPart::Cumulated || !layout.isTotalled);
 }
 
+bool takeCompare(const QString& value, LayoutTarget& target)
+{
+    ColumnLayout& layout = *target.column;
+    const bool canBe = layout.number || layout.rank == RankPart::Letter;
+    return takeYesNo(value, layout.column.isCompared) && (canBe || !layout.column.isCompared);
+}
+
 bool takeClassBy(const QString& value, LayoutTarget& target)
 {
     target.layout.classes.emplace().by = parseExpression(value, target.fields());
@@ -287,7 +294,7 @@ constexpr std::array<KeyRule, 11> columnKeys{{
     {u"Width", true, "millimetres from 1 to 280"_L1, takeWidth},
     {u"Align", false, "Left, Centre or Right"_L1, [](const QString& value, LayoutTarget& target) { return takeChoice(value, alignments, target.column->column.alignment); }},
     {u"Total", false, "YES or NO, and YES only for a number"_L1, takeTotal},
-    {u"Compare", false, "YES or NO, and YES only for a number"_L1, [](const QString& value, LayoutTarget& target) { return takeYesNo(value, target.column->column.isCompared) && (target.column->number || !target.column->column.isCompared); }},
+    {u"Compare", false, "YES or NO, and YES only for a number or the letter of a class"_L1, takeCompare},
     {u"Show", false, "numbers that are not all zero where the column is shown"_L1, [](const QString& value, LayoutTarget& target) { target.column->shownIf = parseExpressions(value, target.fields()); return true; }},
 }};
 constexpr KeyRule furtherValue{u"Value2", false, "a text with fields"_L1, [](const QString& value, LayoutTarget& target) { target.column->text.further.push_back(parseTemplate(value, target.fields())); return !target.column->number; }};

@@ -301,7 +301,8 @@ ReportData Run::compared(const ReportData& data)
     request.filters.clear(); // the layout has them already
     Run other(request, m_layout, m_keepGoing);
     const ReportData before = other.make();
-    ReportData both = comparedReport(data, before);
+    ReportData both =
+        comparedReport(data, before, m_layout.classes ? OtherLines::Last : OtherLines::ByFirstColumn);
     both.heading.subtitle += u"; before: %1"_s.arg(before.heading.subtitle);
     if (both.lineCount() > 0)
         both.heading.notice.clear();

@@ -100,12 +100,16 @@ TEST_F(ClassReports, HaveDashesWhereTheSumIsNotAboveZero)
     EXPECT_NE(test::linesOf(run()).find("3|COLA|DRINKS|1|2.00|–|–|–"), std::string::npos);
 }
 
-TEST_F(ClassReports, HaveNoHeadingsBesideAnotherPeriod)
+// What was sold in the other period only comes last, whatever it sold there.
+TEST_F(ClassReports, HaveTheLettersOfBothPeriodsButNoHeadings)
 {
-    sell({"3|2026-11-02|1|9|0|0|0|0", "5|2026-11-02|1|1|0|0|0|0", "5|2026-10-02|1|8|0|0|0|0"});
+    sell({"3|2026-11-02|1|9|0|0|0|0", "5|2026-11-02|1|1|0|0|0|0", "5|2026-10-02|1|8|0|0|0|0",
+          "20|2026-10-02|1|20|0|0|0|0"});
     const auto data = run(ComparedWith::PeriodBefore);
-    EXPECT_TRUE(test::linesOf(data).starts_with("3|COLA|DRINKS|1|0|1|–|9.00|0.00|9.00|–\n"
-                                                "5|JUICE|DRINKS|1|1|0|0.0|1.00|8.00|-7.00|-87.5\n# |"))
+    EXPECT_TRUE(test::headingsOf(data).ends_with("|Value %|Class|Class before"));
+    EXPECT_TRUE(test::linesOf(data).starts_with("3|COLA|DRINKS|1|0|1|–|9.00|0.00|9.00|–|A|–\n"
+                                                "5|JUICE|DRINKS|1|1|0|0.0|1.00|8.00|-7.00|-87.5|B|A\n"
+                                                "20|CRISPS||0|1|-1|-100.0|0.00|20.00|-20.00|-100.0|–|A\n# |"))
         << test::linesOf(data);
 }
 
