@@ -44,9 +44,21 @@ using ReportCell = std::variant<std::monostate, QString, Decimal, QDate>;
 enum class LineKind : std::uint8_t {
     GroupHeading, ///< its text is in the first cell and spans the whole line
     Detail,
-    Subtotal,  ///< of the group that ends here; its label is in the first text column
-    GrandTotal ///< likewise, at the end of the report
+    Subtotal,   ///< of the group that ends here; its label is in the first text column
+    GrandTotal, ///< likewise, at the end of the report
+    Remark      ///< about the whole report, below its totals; its text is placed as that of a heading
 };
+
+/// Whether a line of the kind is a text over the whole line, without cells.
+[[nodiscard]] constexpr bool isText(LineKind kind)
+{
+    return kind == LineKind::GroupHeading || kind == LineKind::Remark;
+}
+/// Whether a line of the kind is set off from the lines with the numbers.
+[[nodiscard]] constexpr bool isBold(LineKind kind)
+{
+    return kind != LineKind::Detail && kind != LineKind::Remark;
+}
 
 /// The texts above the lines and around them on every page.
 struct ReportHeading {

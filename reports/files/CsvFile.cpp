@@ -96,7 +96,8 @@ void writeCsvWith(const CsvSigns& signs, const ReportData& report, const QString
         csv.addValue(guarded(printable(column.heading)));
     csv.endLine();
     for (qsizetype line = 0; line < report.lineCount(); ++line) {
-        addLine(csv, report, line, signs.decimal);
+        if (report.lineKind(line) != LineKind::Remark)
+            addLine(csv, report, line, signs.decimal);
         needGoOn(keepGoing);
     }
     replaceFile(path, csv.content());

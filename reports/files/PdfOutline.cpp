@@ -30,6 +30,16 @@ bool hasGroups(const ReportData& report)
     return false;
 }
 
+/// The heading of a group, or the texts that name a line: "100 TEA".
+QString nameOf(const ReportData& report, qsizetype line)
+{
+    QStringList texts{report.text(line, 0)};
+    for (int column = 1; column < report.namingColumns(); ++column)
+        texts << report.text(line, column);
+    texts.removeAll(QString());
+    return texts.join(u' ');
+}
+
 struct Cleaner {
     void operator()(_qpdf_data* pdf) const { qpdf_cleanup(&pdf); }
 };
@@ -67,6 +77,9 @@ public:
         set(outline, "/Last", last.value());
         set(outline, "/Count", qpdf_oh_new_integer(m_pdf.get(), static_cast<long long>(entries.size())));
         set(qpdf_get_root(m_pdf.get()), "/Outlines", outline);
+        // Of a single page all entries are on the screen already.
+        if (qpdf_get_num_pages(m_pdf.get()) > 1)
+            set(qpdf_get_root(m_pdf.get()), "/PageMode", qpdf_oh_new_name(m_pdf.get(), "/UseOutlines"));
     }
 
     [[nodiscard]] QByteArray written()
@@ -134,7 +147,7 @@ std::vector<OutlineEntry> outlineOf(const ReportData& report, const ReportPages&
     for (int page = 0; page < pages.pageCount(); ++page) {
         for (const PlacedLine& line : pages.placedLines(page)) {
             if (isEntry(line))
-                entries.push_back({printable(report.text(line.line, 0)), page, line.place.top()});
+                entries.push_back({printable(nameOf(report, line.line)), page, line.place.top()});
         }
         for (const PlacedChart& chart : pages.page(page).charts)
             entries.push_back({report.charts[chart.chart].title, page, chart.place.top()});

@@ -114,7 +114,7 @@ private:
     }
     [[nodiscard]] lxw_format* format(qsizetype line, int column) const
     {
-        const bool isBold = m_report.lineKind(line) != LineKind::Detail;
+        const bool isBold = reports::isBold(m_report.lineKind(line));
         const int place = isBold ? m_report.columnCount() + column : column;
         return m_formats[static_cast<std::size_t>(place)];
     }

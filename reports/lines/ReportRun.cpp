@@ -316,8 +316,7 @@ void Run::listMissing(ReportData& data) const
     const bool isListed = m_days && !m_days->missing.empty() && data.lineCount() > 0;
     if (!isListed || m_period->from == m_period->to || m_period->isToDate())
         return;
-    data.addLine(LineKind::GroupHeading,
-                 {u"Without a collection: "_s + textOfDays(m_days->missing, mostListed)});
+    data.addLine(LineKind::Remark, {u"Without a collection: "_s + textOfDays(m_days->missing, mostListed)});
 }
 
 SummaryFrame Run::frame()

@@ -87,7 +87,7 @@ double widestWord(const QString& heading, const PageFont& font)
     return widest;
 }
 
-/// Headings of groups run over the whole line, so they do not count.
+/// Headings of groups and remarks run over the whole line, so they do not count.
 double widestValue(const ReportData& report, int column, const PageFont& font)
 {
     const ReportColumn& shown = report.columns()[static_cast<std::size_t>(column)];
@@ -97,7 +97,7 @@ double widestValue(const ReportData& report, int column, const PageFont& font)
         shown.kind == ColumnKind::Text ? std::min(leastTextWidth, shown.width.inMillimetres()) : 0;
     for (qsizetype line = 0; line < report.lineCount(); ++line) {
         const LineKind kind = report.lineKind(line);
-        if (kind != LineKind::GroupHeading) {
+        if (!isText(kind)) {
             widest = std::max(widest,
                               std::visit(kind == LineKind::Detail ? plain : bold, report.cell(line, column)));
         }

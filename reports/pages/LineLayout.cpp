@@ -10,7 +10,7 @@ namespace
 
 constexpr double rowPitch = 1.35;    ///< height of a row as a multiple of the letters' size
 constexpr double linePadding = 0.35; ///< above and below the text of a line, in mm
-constexpr double headingLead = 1.6;  ///< more space above the heading of a group, in mm
+constexpr double headingLead = 1.6;  ///< more space above the heading of a group or a remark, in mm
 
 /// From the rows of each band to the row that it begins in, and the end of the last one.
 std::vector<int> topsOf(const std::vector<int>& rows)
@@ -30,7 +30,7 @@ LineLayout::LineLayout(const ReportData& report, const PageFont& font, ColumnPla
 
 TextStyle LineLayout::style(qsizetype line) const
 {
-    return {m_places.textSize, m_report.lineKind(line) != LineKind::Detail};
+    return {m_places.textSize, isBold(m_report.lineKind(line))};
 }
 
 double LineLayout::rowHeight() const
@@ -40,7 +40,7 @@ double LineLayout::rowHeight() const
 
 double LineLayout::lead(qsizetype line) const
 {
-    return linePadding + (m_report.lineKind(line) == LineKind::GroupHeading ? headingLead : 0);
+    return linePadding + (isText(m_report.lineKind(line)) ? headingLead : 0);
 }
 
 double LineLayout::height(qsizetype line) const

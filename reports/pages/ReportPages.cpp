@@ -53,9 +53,10 @@ PageFrame makeFrame(const ReportData& report, const PageFont& font, const LineLa
     return frame;
 }
 
-bool isTotal(LineKind kind)
+/// Whether the line ends what is above it.
+bool isEnd(LineKind kind)
 {
-    return kind == LineKind::Subtotal || kind == LineKind::GrandTotal;
+    return kind == LineKind::Subtotal || kind == LineKind::GrandTotal || kind == LineKind::Remark;
 }
 
 ColumnPlaces columnsOn(bool isLandscape, const ReportData& report, const PageFont& font)
@@ -168,7 +169,7 @@ void ReportPages::takeLine(ReportPage& page)
     const LineKind kind = m_report.lineKind(m_nextLine);
     if (kind == LineKind::GroupHeading) {
         m_group = m_nextLine;
-    } else if (isTotal(kind)) {
+    } else if (isEnd(kind)) {
         m_group.reset();
     }
     m_y += m_lines.height(m_nextLine);
@@ -213,7 +214,7 @@ double ReportPages::rowHeight(std::size_t count, double width) const
 }
 
 /// The end of the block that begins at @p line and should be kept on one page: a heading with the first line
-/// below it, and any line with the totals that follow it.
+/// below it, and any line with the totals and remarks that follow it.
 qsizetype ReportPages::blockEnd(qsizetype line) const
 {
     const qsizetype end = m_report.lineCount();
@@ -221,7 +222,7 @@ qsizetype ReportPages::blockEnd(qsizetype line) const
         ++line;
     do {
         ++line;
-    } while (line < end && isTotal(m_report.lineKind(line)));
+    } while (line < end && isEnd(m_report.lineKind(line)));
     return line;
 }
 

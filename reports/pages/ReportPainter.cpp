@@ -29,6 +29,8 @@ void paintBackground(QPainter& painter, const QRectF& place, LineKind kind)
     case LineKind::Detail:
         drawRule(painter, place, place.bottom(), hairline, ink::line);
         break;
+    case LineKind::Remark:
+        break;
     case LineKind::Subtotal:
         drawRule(painter, place, place.top(), thinLine, ink::rule);
         break;

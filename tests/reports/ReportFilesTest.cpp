@@ -126,14 +126,30 @@ TEST_F(ReportFiles, APdfHasGroupsAndChartsInItsOutline)
 
     ReportData alone = emptySales();
     alone.link = ReportLink{u"articlesales.rpt"_s, u"{PLUDATA.GROUPNO}"_s, {}};
-    alone.addLine(LineKind::Detail, {u"1 DRINKS"_s});
-    alone.setLinkValue(u"1"_s);
+    alone.addLine(LineKind::Detail, {u"100"_s, u"TEA"_s});
+    alone.setLinkValue(u"100"_s);
     alone.addLine(LineKind::GrandTotal, {u"Total"_s});
     alone.charts = {sampleChart(ChartKind::Ranking, 15)};
     writePdf(alone, true, m_folder.path("alone.pdf"));
-    EXPECT_EQ(outlineIn(m_folder.path("alone.pdf")), "1 DRINKS 1|Best-selling PLUs 1");
+    EXPECT_EQ(outlineIn(m_folder.path("alone.pdf")), "100 TEA 1|Best-selling PLUs 1");
     writePdf(alone, false, m_folder.path("alone.pdf"));
-    EXPECT_EQ(outlineIn(m_folder.path("alone.pdf")), "1 DRINKS 1") << "without its charts";
+    EXPECT_EQ(outlineIn(m_folder.path("alone.pdf")), "100 TEA 1") << "without its charts";
+}
+
+// It is not a group, and other programs read only the lines of a CSV file.
+TEST_F(ReportFiles, HaveARemarkOnPagesAndInTheSpreadsheetOnly)
+{
+    ReportData report = emptySales();
+    addGroup(report, u"Coffee"_s, 2);
+    writeCsv(report, m_folder.path("plain.csv"));
+    report.addLine(LineKind::Remark, {u"Without a collection: Sun 04/10/2026"_s});
+    writePdf(report, true, m_folder.path("a.pdf"));
+    writeCsv(report, m_folder.path("a.csv"));
+    writeXlsx(report, m_folder.path("a.xlsx"));
+    EXPECT_EQ(outlineIn(m_folder.path("a.pdf")), "Coffee 1");
+    EXPECT_EQ(m_folder.read("a.csv"), m_folder.read("plain.csv"));
+    EXPECT_TRUE(pdfLines(m_folder.path("a.pdf")).contains(u"Without a collection: Sun 04/10/2026"_s));
+    EXPECT_EQ(sheetRows(m_folder.path("a.xlsx")).last(), u"\"Without a collection: Sun 04/10/2026\"|"_s);
 }
 
 TEST_F(ReportFiles, SayWhenThereAreNoLines)

@@ -69,7 +69,7 @@ private:
 };
 
 /// The lines with "|" between the cells, each begun by what it is: "> " a group's heading, "= " a subtotal,
-/// "# " the total.
+/// "# " the total, "; " a remark.
 inline std::string linesOf(const ReportData& data)
 {
     QStringList lines;
@@ -79,7 +79,7 @@ inline std::string linesOf(const ReportData& data)
             cells.append(data.text(line, column));
         while (cells.size() > 1 && cells.last().isEmpty())
             cells.removeLast();
-        static constexpr const char* marks[] = {"> ", "", "= ", "# "};
+        static constexpr const char* marks[] = {"> ", "", "= ", "# ", "; "};
         lines.append(QLatin1String(marks[static_cast<int>(data.lineKind(line))]) + cells.join(u'|'));
     }
     return lines.join(u'\n').toStdString();

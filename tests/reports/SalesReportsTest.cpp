@@ -88,8 +88,12 @@ TEST_F(SalesReports, TakingsPerHourAreThoseOfADay)
                              "24:00 to 24:60|0|1.00||0.50\n"
                              "Period 4|1|1.00|1.00|0.50\n"
                              "# Total|7|24.30|3.47|12.15\n"
-                             "> Without a collection: Tue 24/11/2026");
+                             "; Without a collection: Tue 24/11/2026");
     EXPECT_TRUE(linesOf(run("hours.rpt")).starts_with("09:00 to 10:30|4|6.30|1.58||1.5\n"));
+    auto request = shop.request(ReportShop::installed("hours.rpt"), u"{TIMESALES.SALESDATE} in yesterday"_s);
+    request.comparedWith = ComparedWith::PeriodBefore;
+    EXPECT_TRUE(linesOf(runReport(request)).ends_with("# Total|0|4|-4|-100.0|0.00|6.00|-6.00|-100.0"))
+        << "nothing below columns without totals: " << linesOf(runReport(request));
 }
 
 // Names are kept between the reports of a form; sales of an article that is gone are not among them.
@@ -245,7 +249,7 @@ TEST_F(SalesReports, DaysWithoutACollectionAreListedBelowTheLines)
         const auto lines = QString::fromStdString(linesOf(runReport(request)));
         return lines.section(u'\n', -1).toStdString();
     };
-    const char* const listed = "> Without a collection: Sun 04/10/2026, Tue 06/10/2026 to Thu 08/10/2026";
+    const char* const listed = "; Without a collection: Sun 04/10/2026, Tue 06/10/2026 to Thu 08/10/2026";
     EXPECT_EQ(lastLine("date(2026,10,1) to date(2026,10,9)"), listed);
     EXPECT_EQ(lastLine("date(2026,10,1) to date(2026,10,9)", ComparedWith::PeriodBefore), listed);
     EXPECT_EQ(lastLine("lastmonth"), std::string(listed) + ", Sat 10/10/2026 to Sat 31/10/2026");

@@ -32,7 +32,7 @@ protected:
     {
         // Below the lines may be the list of days without a collection.
         return QString::fromStdString(linesOf(runReport(request(formula))))
-            .section(u"\n> "_s, 0, 0)
+            .section(u"\n; "_s, 0, 0)
             .replace(u'\n', u' ')
             .toStdString();
     }

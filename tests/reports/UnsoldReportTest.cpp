@@ -34,7 +34,7 @@ protected:
     [[nodiscard]] std::string linesOf(const QString& formula) const
     {
         const std::string lines = test::linesOf(run(formula));
-        return lines.substr(0, lines.find("\n> Without a collection"));
+        return lines.substr(0, lines.find("\n; Without a collection"));
     }
     [[nodiscard]] ReportData run(const QString& formula) const
     {
