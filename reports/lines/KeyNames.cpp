@@ -22,6 +22,17 @@ constexpr auto keysStatement =
     "SELECT nlu, place FROM links JOIN numbers USING (place) "
     "WHERE keylink = '0' AND place <= ?1 ORDER BY place";
 
+constexpr int lookUpLines = 50;
+
+/// The number of a look-up, then type and code of each of its lines.
+std::string lookUpStatement()
+{
+    QString fields = u"WLUno"_s;
+    for (int line = 1; line <= lookUpLines; ++line)
+        fields += u", wlutype%1, codenumber%1"_s.arg(line);
+    return u"SELECT %1 FROM WLU ORDER BY WLUno"_s.arg(fields).toStdString();
+}
+
 int keysPerLevelOf(const QString& dataFile)
 {
     const ProfileFile settings(QFileInfo(dataFile).path() + u"/setup.ini"_s);
@@ -32,6 +43,7 @@ struct PluKeys {
     QString text;
     int level = 0; ///< of the last key
     bool hasSeveral = false;
+    QStringList lookUps = {};
 };
 
 /// "key 117" becomes "keys 117, 118" with the second key of a level.
@@ -49,24 +61,84 @@ void addKey(PluKeys& keys, int level, int key)
     keys.level = level;
 }
 
+/// "Level 1 key 117, look-ups 3, 4".
+QString textOf(const PluKeys& keys)
+{
+    if (keys.lookUps.isEmpty())
+        return keys.text;
+    const QString lookUps =
+        (keys.lookUps.size() == 1 ? u"look-up "_s : u"look-ups "_s) + keys.lookUps.join(u", "_s);
+    return keys.text.isEmpty() ? lookUps : keys.text + u", "_s + lookUps;
+}
+
+/// PLUs of the look-up in the row, as such or as condiments.
+QStringList plusOfLookUp(store::BoundQuery& row)
+{
+    constexpr double function = 2; ///< the type of a line with a function key
+    QStringList plus;
+    for (int line = 0; line < lookUpLines; ++line) {
+        const QString plu = unfilledNumber(row.value(2 * line + 2).toText().trimmed());
+        if (row.value(2 * line + 1).toNumber() < function && !plu.isEmpty() && plu != u"0"_s)
+            plus << plu;
+    }
+    plus.removeDuplicates();
+    return plus;
+}
+
+class KeysOfPlus
+{
+public:
+    KeysOfPlus(store::Database& database, QString dataFile, const std::function<bool()>& keepGoing)
+        : m_database(database), m_dataFile(std::move(dataFile)), m_keepGoing(keepGoing)
+    {
+        addKeys();
+        if (database.hasTable(u"WLU"_s))
+            addLookUps();
+    }
+
+    [[nodiscard]] QHash<QString, QString> texts() const
+    {
+        QHash<QString, QString> texts;
+        for (auto keys = m_keys.cbegin(); keys != m_keys.cend(); ++keys)
+            texts.insert(keys.key(), textOf(*keys));
+        return texts;
+    }
+
+private:
+    void addKeys()
+    {
+        const int perLevel = keysPerLevelOf(m_dataFile);
+        store::BoundQuery rows(m_database, keysStatement,
+                               {store::Value::whole(std::int64_t{keyboardLevels} * perLevel)}, m_dataFile,
+                               m_keepGoing);
+        while (rows.next()) {
+            const int row = static_cast<int>(rows.value(1).toNumber()) - 1;
+            addKey(m_keys[unfilledNumber(rows.value(0).toText().trimmed())], row / perLevel + 1,
+                   row % perLevel + 1);
+        }
+    }
+
+    void addLookUps()
+    {
+        store::BoundQuery rows(m_database, lookUpStatement(), {}, m_dataFile, m_keepGoing);
+        while (rows.next()) {
+            for (const QString& plu : plusOfLookUp(rows))
+                m_keys[plu].lookUps << rows.value(0).toText();
+        }
+    }
+
+    store::Database& m_database;
+    QString m_dataFile;
+    const std::function<bool()>& m_keepGoing;
+    QHash<QString, PluKeys> m_keys;
+};
+
 } // namespace
 
 QHash<QString, QString> keysByPlu(store::Database& database, const QString& dataFile,
                                   const std::function<bool()>& keepGoing)
 {
-    const int perLevel = keysPerLevelOf(dataFile);
-    store::BoundQuery rows(database, keysStatement,
-                           {store::Value::whole(std::int64_t{keyboardLevels} * perLevel)}, dataFile,
-                           keepGoing);
-    QHash<QString, PluKeys> all;
-    while (rows.next()) {
-        const int row = static_cast<int>(rows.value(1).toNumber()) - 1;
-        addKey(all[unfilledNumber(rows.value(0).toText().trimmed())], row / perLevel + 1, row % perLevel + 1);
-    }
-    QHash<QString, QString> texts;
-    for (auto keys = all.cbegin(); keys != all.cend(); ++keys)
-        texts.insert(keys.key(), keys->text);
-    return texts;
+    return KeysOfPlus(database, dataFile, keepGoing).texts();
 }
 
 } // namespace norvane::reports

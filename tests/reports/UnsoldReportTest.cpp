@@ -70,10 +70,13 @@ TEST_F(UnsoldReport, NamesTheKeysByTheKeyboardOfTheShop)
                      "with recursive n(i) as (select 1 union all select i + 1 from n where i < 900) "
                      "insert into NLU (ID, NLU) select 901 - i, case i when 899 then '000000000000000003' "
                      "when 897 then '3' when 730 then '3' when 3 then '7' end from n");
+    shop.add("WLU", "WLUno|wlutype1|codenumber1|wlutype2|codenumber2|wlutype50|codenumber50",
+             {"1|0|0|0|3|1|000000000000000003", "12|2|5|1|7|0|3"}); // line 1 of the second is function key 5
     const auto day = u"{PLUSALES.SALESDATE} = date(2026,11,25)"_s;
     shop.folder().write("setup.ini", "[SetupOption]\r\nECRModel=0\r\n");
     EXPECT_TRUE(linesOf(day).starts_with(
-        "> 1 DRINKS\n3|COLA|Level 1 keys 2, 4, Level 2 key 2|1.45\n5|JUICE||2.00\n7|WATER||0.90|inactive"))
+        "> 1 DRINKS\n3|COLA|Level 1 keys 2, 4, Level 2 key 2, look-ups 1, 12|1.45\n5|JUICE||2.00\n"
+        "7|WATER|look-up 12|0.90|inactive"))
         << linesOf(day);
     shop.folder().write("setup.ini", "[SetupOption]\r\nECRModel=5\r\n");
     EXPECT_NE(linesOf(day).find("Level 1 keys 2, 4, Level 2 key 13"), std::string::npos);
