@@ -7,6 +7,8 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <numeric>
+#include <ranges>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -23,10 +25,15 @@ constexpr double comparedHeight = 17; ///< of a figure with the other period bel
 constexpr int comparedColumns = 4;
 constexpr double cellGap = 2.2; ///< between the numbers of two columns
 constexpr double titleSize = 3.3;
+constexpr double smallestLetters = 0.6; ///< of a table with large numbers
 
-bool isNumber(const ReportCell& cell)
+/// "+4.2 %", or a dash where nothing can be divided by.
+QString changeText(const ReportData& figure, int column)
 {
-    return std::holds_alternative<Decimal>(cell);
+    const QString change = figure.text(0, column);
+    if (!std::holds_alternative<Decimal>(figure.cell(0, column)))
+        return u"–"_s;
+    return (change.startsWith(u'-') ? QString() : u"+"_s) + change + u" %"_s;
 }
 
 } // namespace
@@ -87,12 +94,14 @@ void BlockPainter::paint(QPainter& painter, const QRectF& place) const
     paintTitle(painter, place);
     if (m_block.table.columnCount() == 1)
         return paintText(painter, place);
+    const bool isHeat = m_block.kind == BlockKind::HeatMap;
+    const Columns columns = isHeat ? heatColumnsIn(place.width()) : columnsIn(place.width());
     if (hasHeadings())
-        paintHeadings(painter, lineRect(place, -1));
-    if (m_block.kind == BlockKind::HeatMap)
-        paintHeat(painter, place);
+        paintHeadings(painter, lineRect(place, -1), columns);
+    if (isHeat)
+        paintHeat(painter, place, columns);
     for (qsizetype line = 0; line < m_block.table.lineCount(); ++line)
-        paintLine(painter, lineRect(place, line), line);
+        paintLine(painter, lineRect(place, line), columns, line);
 }
 
 /// The number, and below it that of the other period and the change in per cent.
@@ -112,9 +121,7 @@ void BlockPainter::paintFigure(QPainter& painter, const QRectF& place) const
     draw(table.text(0, 1), {numberSize * m_scale, true});
     if (table.columnCount() < comparedColumns)
         return;
-    const QString change = table.text(0, comparedColumns - 1);
-    const bool isRise = !change.startsWith(u'-') && isNumber(table.cell(0, comparedColumns - 1));
-    draw(u"%1 %  before %2"_s.arg((isRise ? u"+"_s : QString()) + change, table.text(0, 2)), style());
+    draw(u"%1  before %2"_s.arg(changeText(table, comparedColumns - 1), table.text(0, 2)), style());
 }
 
 void BlockPainter::paintTitle(QPainter& painter, const QRectF& place) const
@@ -143,52 +150,92 @@ double BlockPainter::numberWidth(int column) const
     return width + cellGap * m_scale;
 }
 
-/// Names take what the numbers leave; those of a heat map are in columns of one width.
-QRectF BlockPainter::cellRect(const QRectF& row, int column) const
+/// The widest name, or so much of it that a reader knows it.
+double BlockPainter::nameWidth() const
 {
-    const int count = m_block.table.columnCount();
-    if (m_block.kind == BlockKind::HeatMap) {
-        constexpr double nameParts = 1.5;
-        const double part = row.width() / (count - 1 + nameParts);
-        return column == 0
-                   ? QRectF(row.left(), row.top(), nameParts * part, row.height())
-                   : QRectF(row.left() + (nameParts + column - 1) * part, row.top(), part, row.height());
-    }
-    double right = row.right();
-    for (int other = count - 1; other > column; --other)
-        right -= numberWidth(other);
-    const double left = column == 0 ? row.left() : right - numberWidth(column);
-    return {left, row.top(), std::max(0.0, right - left), row.height()};
+    constexpr double enough = 24;
+    double width = 0;
+    for (qsizetype line = 0; line < m_block.table.lineCount(); ++line)
+        width = std::max(width, m_font.width(m_block.table.text(line, 0), style()));
+    return std::min(width, enough * m_scale);
 }
 
-void BlockPainter::paintHeadings(QPainter& painter, const QRectF& place) const
+/// Names take what the numbers leave. Large numbers are in smaller letters before no name is left.
+BlockPainter::Columns BlockPainter::columnsIn(double width) const
 {
-    const TextStyle pale{textSize * m_scale, false, ink::pale};
+    Columns columns;
+    columns.widths.reserve(static_cast<std::size_t>(m_block.table.columnCount()));
+    columns.widths.push_back(0);
+    for (int column = 1; column < m_block.table.columnCount(); ++column)
+        columns.widths.push_back(numberWidth(column));
+    const double needed = std::accumulate(columns.widths.begin(), columns.widths.end(), nameWidth());
+    columns.letters = std::clamp(width / needed, smallestLetters, 1.0);
+    double left = width;
+    for (double& own : columns.widths | std::views::reverse) {
+        own *= columns.letters;
+        left -= own;
+        columns.lefts.insert(columns.lefts.begin(), left);
+    }
+    columns.widths.front() = std::max(0.0, left);
+    columns.lefts.front() = 0;
+    return columns;
+}
+
+/// The numbers are in columns of one width.
+BlockPainter::Columns BlockPainter::heatColumnsIn(double width) const
+{
+    constexpr double nameParts = 1.5;
+    const int count = m_block.table.columnCount();
+    const double part = width / (count - 1 + nameParts);
+    Columns columns;
+    columns.lefts.reserve(static_cast<std::size_t>(count));
+    columns.widths.reserve(static_cast<std::size_t>(count));
+    columns.lefts.push_back(0);
+    columns.widths.push_back(nameParts * part);
+    for (int column = 1; column < count; ++column) {
+        columns.lefts.push_back((nameParts + column - 1) * part);
+        columns.widths.push_back(part);
+        columns.letters = std::min(columns.letters, part / numberWidth(column));
+    }
+    columns.letters = std::max(columns.letters, smallestLetters);
+    return columns;
+}
+
+QRectF BlockPainter::cellRect(const QRectF& row, const Columns& columns, int column)
+{
+    const auto place = static_cast<std::size_t>(column);
+    return {row.left() + columns.lefts[place], row.top(), columns.widths[place], row.height()};
+}
+
+void BlockPainter::paintHeadings(QPainter& painter, const QRectF& row, const Columns& columns) const
+{
+    const TextStyle pale{textSize * m_scale * columns.letters, false, ink::pale};
     for (int column = 1; column < m_block.table.columnCount(); ++column) {
-        const QRectF cell = cellRect(place, column).adjusted(0, 0, -cellGap / 4 * m_scale, 0);
+        const QRectF cell = cellRect(row, columns, column).adjusted(0, 0, -cellGap / 4 * m_scale, 0);
         m_font.draw(painter, cell, m_block.table.columns()[static_cast<std::size_t>(column)].heading, pale,
                     Alignment::Right);
     }
 }
 
 /// A name that is too long is cut with three dots.
-void BlockPainter::paintLine(QPainter& painter, const QRectF& row, qsizetype line) const
+void BlockPainter::paintLine(QPainter& painter, const QRectF& row, const Columns& columns,
+                             qsizetype line) const
 {
     const ReportData& table = m_block.table;
     const bool isTotal = table.lineKind(line) != LineKind::Detail;
-    const TextStyle style = this->style(isTotal);
+    const TextStyle style{textSize * m_scale * columns.letters, isTotal};
     painter.fillRect(isTotal ? QRectF(row.left(), row.top(), row.width(), thinLine)
                              : QRectF(row.left(), row.bottom() - hairline, row.width(), hairline),
                      isTotal ? ink::rule : ink::line);
     for (int column = 0; column < table.columnCount(); ++column) {
-        const QRectF cell = cellRect(row, column).adjusted(0, 0, -cellGap / 4 * m_scale, 0);
+        const QRectF cell = cellRect(row, columns, column).adjusted(0, 0, -cellGap / 4 * m_scale, 0);
         const QString text = table.text(line, column);
         m_font.draw(painter, cell, column == 0 ? m_font.elided(text, style, cell.width()) : text, style,
                     column == 0 ? Alignment::Left : Alignment::Right);
     }
 }
 
-void BlockPainter::paintHeat(QPainter& painter, const QRectF& place) const
+void BlockPainter::paintHeat(QPainter& painter, const QRectF& place, const Columns& columns) const
 {
     const ReportData& table = m_block.table;
     const double largest = largestHeat(table);
@@ -197,7 +244,7 @@ void BlockPainter::paintHeat(QPainter& painter, const QRectF& place) const
             const ReportCell cell = table.cell(line, column);
             const auto* const number = std::get_if<Decimal>(&cell);
             if (number != nullptr && table.lineKind(line) == LineKind::Detail) {
-                painter.fillRect(cellRect(lineRect(place, line), column),
+                painter.fillRect(cellRect(lineRect(place, line), columns, column),
                                  heatColour(number->toDouble(), largest));
             }
         }

@@ -6,6 +6,8 @@
 
 #include <QRectF>
 
+#include <vector>
+
 class QPainter;
 
 namespace norvane::reports
@@ -32,17 +34,27 @@ public:
     static constexpr double textSize = 2.7;
 
 private:
+    /// Where the columns of a table are, from its left edge.
+    struct Columns {
+        double letters = 1; ///< size of the letters, less than 1 where large numbers need the room
+        std::vector<double> lefts = {};
+        std::vector<double> widths = {};
+    };
+
     [[nodiscard]] TextStyle style(bool isBold = false) const { return {textSize * m_scale, isBold}; }
     [[nodiscard]] bool hasHeadings() const;
     [[nodiscard]] double rowHeight() const;
     [[nodiscard]] double numberWidth(int column) const;
-    [[nodiscard]] QRectF cellRect(const QRectF& row, int column) const;
+    [[nodiscard]] double nameWidth() const;
+    [[nodiscard]] Columns columnsIn(double width) const;
+    [[nodiscard]] Columns heatColumnsIn(double width) const;
+    [[nodiscard]] static QRectF cellRect(const QRectF& row, const Columns& columns, int column);
     [[nodiscard]] QStringList rowsOfText(double width) const;
     void paintFigure(QPainter& painter, const QRectF& place) const;
     void paintTitle(QPainter& painter, const QRectF& place) const;
-    void paintHeadings(QPainter& painter, const QRectF& place) const;
-    void paintLine(QPainter& painter, const QRectF& row, qsizetype line) const;
-    void paintHeat(QPainter& painter, const QRectF& place) const;
+    void paintHeadings(QPainter& painter, const QRectF& row, const Columns& columns) const;
+    void paintLine(QPainter& painter, const QRectF& row, const Columns& columns, qsizetype line) const;
+    void paintHeat(QPainter& painter, const QRectF& place, const Columns& columns) const;
     void paintText(QPainter& painter, const QRectF& place) const;
 
     const ReportBlock& m_block;

@@ -21,6 +21,8 @@ constexpr double sizeStep = 0.05;
 constexpr double leastTextWidth = 12;
 /// A word with letters may be broken where it is wider than this, in mm.
 constexpr double longestWord = 24;
+/// The name of a line, in the first column, is not broken up to this width, in mm.
+constexpr double longestName = 30;
 /// Room for the rounding of widths, in mm.
 constexpr double slack = 0.05;
 
@@ -29,33 +31,53 @@ bool isNumber(QStringView word)
     return std::ranges::none_of(word, [](QChar letter) { return letter.isLetter(); });
 }
 
-/// The width of a cell that must not be cut, in mm. Numbers are measured by their count of digits and not
-/// formatted, since lists may have 100,000 lines. For texts the widest word counts.
-class WidestCell
+/// Of a cell or a column, in mm, in letters of the usual size and without margins.
+struct ContentWidth {
+    double needed = 0; ///< what must not be split: a number, or the widest word of a text
+    double whole = 0;  ///< the whole content in one row
+
+    void include(const ContentWidth& other)
+    {
+        needed = std::max(needed, other.needed);
+        whole = std::max(whole, other.whole);
+    }
+};
+
+/// Numbers are measured by their count of digits and not formatted, since lists may have 100,000 lines.
+class CellMeasure
 {
 public:
-    WidestCell(const ReportColumn& column, const PageFont& font, bool isBold)
+    CellMeasure(const ReportColumn& column, const PageFont& font, bool isBold)
         : m_column(column), m_font(font), m_style{usualSize, isBold},
           m_digit(font.width(QStringLiteral("0"), {usualSize, isBold})),
           m_sign(font.width(QStringLiteral("-"), {usualSize, isBold})),
+          m_blank(font.width(QStringLiteral(" "), {usualSize, isBold})),
           m_separator(font.width(QLocale().groupSeparator(), {usualSize, isBold})),
           m_currency(font.width(column.dress.currency, {usualSize, isBold})),
           m_day(font.width(shownDay({2028, 12, 28}), {usualSize, isBold}))
     {
     }
 
-    double operator()(std::monostate) const { return 0; }
-    double operator()(const QString& words) const
+    ContentWidth operator()(std::monostate) const { return {}; }
+    ContentWidth operator()(const QString& words) const
     {
-        double widest = 0;
+        ContentWidth text;
         for (const QStringView word : QStringTokenizer(words, u' ')) {
             const double width = m_font.width(word, m_style);
-            widest = std::max(widest, isNumber(word) ? width : std::min(width, longestWord));
+            text.needed = std::max(text.needed, isNumber(word) ? width : std::min(width, longestWord));
+            text.whole += width + m_blank;
         }
-        return widest;
+        return text;
     }
-    double operator()(const QDate&) const { return m_day; }
-    double operator()(const Decimal& number) const
+    ContentWidth operator()(const QDate&) const { return {m_day, m_day}; }
+    ContentWidth operator()(const Decimal& number) const
+    {
+        const double width = widthOf(number);
+        return {width, width};
+    }
+
+private:
+    [[nodiscard]] double widthOf(const Decimal& number) const
     {
         int whole = std::max(1, number.digits() - number.scale());
         const int places = std::clamp(number.scale(), m_column.leastDecimals,
@@ -68,12 +90,12 @@ public:
                (places > 0 ? m_sign : 0) + (number < Decimal() ? m_sign : 0);
     }
 
-private:
     const ReportColumn& m_column;
     const PageFont& m_font;
     TextStyle m_style;
     double m_digit;
     double m_sign;
+    double m_blank;
     double m_separator;
     double m_currency;
     double m_day;
@@ -88,21 +110,22 @@ double widestWord(const QString& heading, const PageFont& font)
 }
 
 /// Headings of groups and remarks run over the whole line, so they do not count.
-double widestValue(const ReportData& report, int column, const PageFont& font)
+ContentWidth valueWidth(const ReportData& report, int column, const PageFont& font)
 {
     const ReportColumn& shown = report.columns()[static_cast<std::size_t>(column)];
-    const WidestCell plain(shown, font, false);
-    const WidestCell bold(shown, font, true);
-    double widest =
-        shown.kind == ColumnKind::Text ? std::min(leastTextWidth, shown.width.inMillimetres()) : 0;
+    const CellMeasure plain(shown, font, false);
+    const CellMeasure bold(shown, font, true);
+    ContentWidth width;
+    if (shown.kind == ColumnKind::Text)
+        width.needed = std::min(leastTextWidth, shown.width.inMillimetres());
     for (qsizetype line = 0; line < report.lineCount(); ++line) {
         const LineKind kind = report.lineKind(line);
-        if (!isText(kind)) {
-            widest = std::max(widest,
-                              std::visit(kind == LineKind::Detail ? plain : bold, report.cell(line, column)));
-        }
+        if (!isText(kind))
+            width.include(std::visit(kind == LineKind::Detail ? plain : bold, report.cell(line, column)));
     }
-    return widest;
+    if (column == 0)
+        width.needed = std::max(width.needed, std::min(width.whole, longestName));
+    return width;
 }
 
 double sum(const std::vector<double>& widths)
@@ -112,12 +135,24 @@ double sum(const std::vector<double>& widths)
 
 /// Widths of columns in mm.
 struct Widths {
-    std::vector<double> needed; ///< what must not be split, in letters of the usual size, without margins
+    std::vector<ContentWidth> contents;
     std::vector<double> wanted; ///< by the layout
 
     [[nodiscard]] double needs(std::size_t column, double size) const
     {
-        return needed[column] * size / usualSize + 2 * cellMargin + slack;
+        return withMargins(contents[column].needed, size);
+    }
+    /// By the layout, but no more than the contents need in one row.
+    [[nodiscard]] double fills(std::size_t column, double size) const
+    {
+        return std::max(needs(column, size),
+                        std::min(wanted[column], withMargins(contents[column].whole, size)));
+    }
+
+private:
+    [[nodiscard]] static double withMargins(double width, double size)
+    {
+        return width * size / usualSize + 2 * cellMargin + slack;
     }
 };
 
@@ -126,7 +161,9 @@ Widths widthsOf(const ReportData& report, const PageFont& font)
     Widths widths;
     for (int column = 0; column < report.columnCount(); ++column) {
         const ReportColumn& shown = report.columns()[static_cast<std::size_t>(column)];
-        widths.needed.push_back(std::max(widestWord(shown.heading, font), widestValue(report, column, font)));
+        ContentWidth content = valueWidth(report, column, font);
+        content.needed = std::max(content.needed, widestWord(shown.heading, font));
+        widths.contents.push_back(content);
         widths.wanted.push_back(shown.width.inMillimetres());
     }
     return widths;
@@ -137,7 +174,7 @@ std::vector<std::size_t> bandEnds(const Widths& widths, double size, double widt
 {
     std::vector<std::size_t> ends;
     double used = 0;
-    for (std::size_t column = 0; column < widths.needed.size(); ++column) {
+    for (std::size_t column = 0; column < widths.contents.size(); ++column) {
         const double own = widths.needs(column, size);
         if (used > 0 && used + own > width) {
             ends.push_back(column);
@@ -145,7 +182,7 @@ std::vector<std::size_t> bandEnds(const Widths& widths, double size, double widt
         }
         used += own;
     }
-    ends.push_back(widths.needed.size());
+    ends.push_back(widths.contents.size());
     return ends;
 }
 
@@ -159,22 +196,35 @@ double fittingSize(const Widths& widths, double width)
     return std::max(size, smallestSize);
 }
 
-/// The layout's widths where there is room. Else each column gives up the same part of what it can spare.
+/// Takes @p surplus from the widths, from each the same part of what it has beyond its least width.
+/// @return what is still too much.
+double takeSpare(std::vector<double>& widths, const std::vector<double>& least, double surplus)
+{
+    const double spare = sum(widths) - sum(least);
+    if (surplus <= 0 || spare <= 0)
+        return surplus;
+    const double part = std::min(1.0, surplus / spare);
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        widths[column] -= (widths[column] - least[column]) * part;
+    return surplus - spare;
+}
+
+/// The layout's widths where there is room. Else the columns give up what remains empty, and only then texts
+/// are broken.
 std::vector<double> fittedWidths(const Widths& widths, std::size_t first, std::size_t end, double size,
                                  double width)
 {
     std::vector<double> fitted;
-    double needed = 0;
+    std::vector<double> filled;
+    std::vector<double> needed;
+    for (auto* const kind : {&fitted, &filled, &needed})
+        kind->reserve(end - first);
     for (std::size_t column = first; column < end; ++column) {
-        needed += widths.needs(column, size);
-        fitted.push_back(std::max(widths.needs(column, size), widths.wanted[column]));
+        needed.push_back(widths.needs(column, size));
+        filled.push_back(widths.fills(column, size));
+        fitted.push_back(std::max(needed.back(), widths.wanted[column]));
     }
-    const double surplus = sum(fitted) - width;
-    const double spare = sum(fitted) - needed;
-    for (std::size_t column = first; surplus > 0 && spare > 0 && column < end; ++column) {
-        double& own = fitted[column - first];
-        own -= (own - widths.needs(column, size)) * std::min(1.0, surplus / spare);
-    }
+    takeSpare(fitted, needed, takeSpare(fitted, filled, sum(fitted) - width));
     return fitted;
 }
 

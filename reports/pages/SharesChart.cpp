@@ -45,7 +45,8 @@ QString percentage(double part, double whole)
 
 void paintDisc(QPainter& painter, const QRectF& disc, const std::vector<ChartPoint>& parts, double whole)
 {
-    painter.setPen(QPen(Qt::white, 0.4));
+    // The edge of a whole disc would be a line to its middle.
+    painter.setPen(parts.size() == 1 ? QPen(Qt::NoPen) : QPen(Qt::white, 0.4));
     double start = fullTurn / 4;
     for (std::size_t part = 0; part < parts.size(); ++part) {
         const double span = parts[part].value.toDouble() / whole * fullTurn;

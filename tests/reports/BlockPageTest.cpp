@@ -80,11 +80,12 @@ TEST(BlockPageTest, HasEveryLineOnceOnOnePageHoweverManyThereAre)
     EXPECT_GT(size, 1.2) << "letters are still readable";
 }
 
-/// Names are cut so that they end before the numbers, which are never cut.
-TEST(BlockPageTest, NamesEndBeforeTheNumbers)
+/// White between the texts of the last line, in mm from @p least on: wider than between words. Expects that
+/// nothing is painted beside the line.
+std::vector<double> gapsOfLastLine(ReportBlock block, double least)
 {
     const PageFont font;
-    const ReportData report = summaryOf({tableBlock(u"Groups"_s, BlockPlace::Left, 5)});
+    const ReportData report = summaryOf({std::move(block)});
     ReportPages pages(report, font, true);
     pages.layOutAll();
     QImage picture(2100, 2970, QImage::Format_RGB32);
@@ -102,14 +103,40 @@ TEST(BlockPageTest, NamesEndBeforeTheNumbers)
         }
         return false;
     };
-    int gaps = 0;
+    std::vector<double> gaps;
     double white = 0;
-    for (double x = line.left(); x < line.right(); x += 0.1) {
+    for (double x = line.left(); x < line.right() - 1; x += 0.1) {
+        if (isInked(x) && white > least)
+            gaps.push_back(white);
         white = isInked(x) ? 0 : white + 0.1;
-        gaps += white > 1.55 && white <= 1.65 ? 1 : 0; // wider than between words
     }
-    EXPECT_EQ(gaps, 3) << "between the name and three numbers";
     EXPECT_FALSE(isInked(line.right() + 0.5));
+    return gaps;
+}
+
+/// Names are cut so that they end before the numbers, which are never cut.
+TEST(BlockPageTest, NamesEndBeforeTheNumbers)
+{
+    EXPECT_EQ(gapsOfLastLine(tableBlock(u"Groups"_s, BlockPlace::Left, 5), 1.5).size(), 3U)
+        << "between the name and three numbers";
+}
+
+// Numbers of nine digits before the point, for each day of the week and beside another period.
+TEST(BlockPageTest, LargeNumbersRemainApartAndLeaveRoomForNames)
+{
+    for (const auto& [kind, place, numbers] : {std::tuple(BlockKind::HeatMap, BlockPlace::Wide, 8),
+                                               std::tuple(BlockKind::Table, BlockPlace::Left, 4)}) {
+        std::vector<ReportColumn> columns{textColumn({}, 60)};
+        std::vector<ReportCell> cells{u"Breakfast"_s};
+        for (int number = 0; number < numbers; ++number) {
+            columns.push_back(numberColumn(u"Value"_s, 20, 2, 2));
+            columns.back().dress = {true, u"£"_s};
+            cells.emplace_back(Decimal(11638120012, 2));
+        }
+        ReportBlock block{u"Block"_s, kind, place, ReportData(columns)};
+        block.table.addLine(LineKind::Detail, cells);
+        EXPECT_EQ(gapsOfLastLine(std::move(block), 0.7).size(), static_cast<std::size_t>(numbers));
+    }
 }
 
 TEST(HeatMapTest, IsDarkerForMoreAndReadableEverywhere)

@@ -141,6 +141,28 @@ TEST(ReportPagesTest, DoNotSplitNumbersOrWordsOfHeadings)
     }
 }
 
+// As beside another period: numbers in columns much wider than they are.
+TEST(ReportPagesTest, ColumnsGiveUpEmptyRoomBeforeTextsAreBroken)
+{
+    std::vector<ReportColumn> columns{textColumn(u"Time"_s, 40)};
+    std::vector<ReportCell> cells{u"06:00 to 07:59"_s};
+    for (int number = 0; number < 12; ++number) {
+        columns.push_back(numberColumn(u"Value"_s, 30, 2, 2));
+        cells.emplace_back(Decimal(123456, 2));
+    }
+    ReportData report(columns);
+    report.addLine(LineKind::Detail, cells);
+    report.page.isLandscape = true;
+    const Paged paged(report);
+    EXPECT_EQ(paged.pages.lines().cells(0).front().rows, QStringList(u"06:00 to 07:59"_s));
+    EXPECT_EQ(paged.pages.lines().places().bandCount(), 1);
+    // Numbers that need the whole width make the letters smaller, and do not break the name.
+    for (std::size_t number = 1; number < cells.size(); ++number)
+        cells[number] = Decimal(123456789012, 2);
+    report.addLine(LineKind::Detail, cells);
+    EXPECT_EQ(Paged(report).pages.lines().cells(1).front().rows.size(), 1);
+}
+
 TEST(PageFontTest, KeepsEveryLetterOverSeveralRows)
 {
     const PageFont font;
