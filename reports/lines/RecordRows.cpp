@@ -28,6 +28,7 @@ std::optional<std::size_t> RecordRows::placeOf(const store::Value& key) const
 
 std::shared_ptr<const RecordRows> RecordCache::find(const State& state, const std::string& statement) const
 {
+    const std::scoped_lock lock(m_mutex);
     const auto found = m_records.find(statement);
     return state == m_state && found != m_records.end() ? found->second : nullptr;
 }
@@ -36,6 +37,7 @@ void RecordCache::keep(const State& state, const std::string& statement,
                        std::shared_ptr<const RecordRows> records)
 {
     constexpr std::size_t most = 8;
+    const std::scoped_lock lock(m_mutex);
     if (state != m_state || m_records.size() >= most)
         m_records.clear();
     m_state = state;

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -28,7 +29,8 @@ private:
     std::unordered_map<std::string, std::size_t> m_places;
 };
 
-/// The records of the latest reports of a form. They are read again once the database has changed.
+/// The records of the latest reports of a form. They are read again once the database has changed. Reports
+/// that are made in different threads share them.
 class RecordCache
 {
 public:
@@ -45,6 +47,7 @@ public:
     void keep(const State& state, const std::string& statement, std::shared_ptr<const RecordRows> records);
 
 private:
+    mutable std::mutex m_mutex;
     State m_state;
     std::unordered_map<std::string, std::shared_ptr<const RecordRows>> m_records; ///< by their statement
 };

@@ -42,16 +42,16 @@ QPushButton* HistoryBar::makeButton(const QString& name, const QString& caption,
     button->setMinimumWidth(ui::buttonWidth);
     button->setToolTip(key);
     connect(button, &QPushButton::clicked, this, [this, steps] { Q_EMIT goWanted(steps); });
-    // A key works while the row is hidden as well, and then there is nowhere to go.
+    // A key works while the row is hidden as well: back cancels what the first report opens.
     connect(new QShortcut(QKeySequence(key), parentWidget()), &QShortcut::activated, button,
             &QPushButton::click);
     return button;
 }
 
-void HistoryBar::showHistory(const PreviewHistory& history)
+void HistoryBar::showHistory(const PreviewHistory& history, bool isOpening)
 {
     setVisible(!history.isAlone());
-    m_back->setEnabled(history.has(-1));
+    m_back->setEnabled(history.has(-1) || isOpening);
     m_forward->setEnabled(history.has(1));
     m_path->setText(history.path());
     m_path->setToolTip(history.path());

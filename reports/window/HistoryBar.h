@@ -19,7 +19,8 @@ class HistoryBar : public QWidget
 public:
     explicit HistoryBar(QWidget* parent);
 
-    void showHistory(const PreviewHistory& history);
+    /// @param isOpening a report is being made that follows the current one, and back cancels it
+    void showHistory(const PreviewHistory& history, bool isOpening);
 
 Q_SIGNALS:
     void goWanted(int steps); ///< -1 back, 1 forward

@@ -6,6 +6,7 @@
 #include "reports/window/ChartPane.h"
 #include "reports/window/HistoryBar.h"
 #include "reports/window/LayoutWatch.h"
+#include "reports/window/MakingBar.h"
 #include "reports/window/MistakePane.h"
 #include "reports/window/PageView.h"
 #include "reports/window/PreviewWindow.h"
@@ -14,7 +15,6 @@
 
 #include <QCheckBox>
 #include <QDir>
-#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -67,23 +67,33 @@ void PreviewWindow::openLink(qsizetype line)
     auto request = linkedRequest(m_history.current().request, document().report(), line);
     if (!request)
         return;
-    withReportBox(m_boxes, [&] {
-        auto report = made(*request);
-        if (!report)
-            return;
-        m_history.current().place = m_view->readingPlace();
-        m_history.follow({std::move(*request), std::make_shared<ReportDocument>(std::move(*report))});
-        showCurrent();
+    if (m_making->isMaking() && !m_makesLinked)
+        m_watch->reportAgain();
+    m_makesLinked = true;
+    const QString text = u"The report of %1 is being made."_s.arg(request->filters.back().name);
+    m_making->make(m_runner, std::move(*request), text, [this](BackgroundRun& run) {
+        withReportBox(m_boxes, [&] { showLinked(run); });
+        m_way->showHistory(m_history, false);
     });
+    m_way->showHistory(m_history, m_making->isMaking());
 }
 
-/// Nothing while another report is being made, or when the user cancelled.
-std::optional<ReportData> PreviewWindow::made(const ReportRequest& request)
+void PreviewWindow::showLinked(BackgroundRun& run)
 {
-    if (m_isMaking)
-        return std::nullopt;
-    const QScopedValueRollback making(m_isMaking, true);
-    return makeReport(m_runner, request, *this);
+    auto report = std::make_shared<ReportDocument>(run.take());
+    m_history.current().place = m_view->readingPlace();
+    m_history.follow({run.request(), std::move(report)});
+    showCurrent();
+}
+
+/// @return whether a report was being made.
+bool PreviewWindow::cancelMaking()
+{
+    if (!m_making->cancel())
+        return false;
+    m_way->showHistory(m_history, false);
+    m_status->setNotice(u"Cancelled."_s);
+    return true;
 }
 
 void PreviewWindow::followLayout()
@@ -98,20 +108,27 @@ void PreviewWindow::followLayout()
 
 void PreviewWindow::makeAgain()
 {
-    if (m_isMaking)
+    if (m_making->isMaking() && m_makesLinked)
         return m_watch->reportAgain();
+    m_makesLinked = false;
     ReportRequest request = m_history.first().request;
     request.now = QDateTime::currentDateTime();
+    m_making->make(m_runner, std::move(request), u"The report is being made again."_s,
+                   [this](BackgroundRun& run) { showAgain(run); });
+}
+
+void PreviewWindow::showAgain(BackgroundRun& run)
+{
+    const QString& path = run.request().reportFile;
     std::vector<LayoutMistake> mistakes;
     try {
-        if (auto report = made(request))
-            replaceFirst(std::move(*report));
+        replaceFirst(run.take());
     } catch (const ReportError& error) {
-        mistakes = mistakesIn(request.reportFile, error.text());
+        mistakes = mistakesIn(path, error.text());
     } catch (const RuntimeFailure& failure) {
         mistakes.push_back({0, {}, {}, failure.text()});
     }
-    m_mistakes->showMistakes(request.reportFile, mistakes);
+    m_mistakes->showMistakes(path, mistakes);
     showPanes();
 }
 
@@ -126,8 +143,11 @@ void PreviewWindow::replaceFirst(ReportData report)
         showCurrent();
 }
 
+/// From a report that is being made, back is the one that is shown.
 void PreviewWindow::go(int steps)
 {
+    if (m_makesLinked && cancelMaking() && steps < 0)
+        return;
     if (!m_history.has(steps))
         return;
     m_history.current().place = m_view->readingPlace();
@@ -145,7 +165,7 @@ void PreviewWindow::showCurrent()
     m_view->setDocument(document());
     m_view->goTo(place);
     m_charts->setDocument(document());
-    m_way->showHistory(m_history);
+    m_way->showHistory(m_history, false);
     showHeading();
     showHint();
     ui::announce(*m_view, m_view->accessibleName());

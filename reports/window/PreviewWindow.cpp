@@ -6,6 +6,7 @@
 #include "reports/window/ChartPane.h"
 #include "reports/window/FileKinds.h"
 #include "reports/window/HistoryBar.h"
+#include "reports/window/MakingBar.h"
 #include "reports/window/MistakePane.h"
 #include "reports/window/PageView.h"
 #include "reports/window/RunProgress.h"
@@ -60,8 +61,9 @@ QString spokenHeading(const ReportHeading& heading)
 PreviewWindow::PreviewWindow(ReportData report, Boxes& boxes, PrinterSource findPrinter, QWidget* parent)
     : QWidget(parent, Qt::Window), m_history({{}, std::make_shared<ReportDocument>(std::move(report))}),
       m_boxes(boxes), m_findPrinter(std::move(findPrinter)), m_find(new ui::FindBar(this)),
-      m_way(new HistoryBar(this)), m_view(new PageView(document(), this)), m_mistakes(new MistakePane(this)),
-      m_charts(new ChartPane(document(), this)), m_status(new ui::StatusLine(this))
+      m_way(new HistoryBar(this)), m_making(new MakingBar(this)), m_view(new PageView(document(), this)),
+      m_mistakes(new MistakePane(this)), m_charts(new ChartPane(document(), this)),
+      m_status(new ui::StatusLine(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"ReportPreview"_s);
@@ -103,6 +105,7 @@ void PreviewWindow::buildControls()
     column->setSpacing(margin);
     column->addLayout(makeButtons());
     column->addWidget(m_way);
+    column->addWidget(m_making);
     column->addWidget(m_find);
     column->addWidget(makeContent(), 1);
     column->addWidget(m_status);
@@ -111,6 +114,7 @@ void PreviewWindow::buildControls()
     connect(m_view, &PageView::linkOpened, this, &PreviewWindow::openLink);
     connect(m_view, &PageView::goWanted, this, &PreviewWindow::go);
     connect(m_way, &HistoryBar::goWanted, this, &PreviewWindow::go);
+    connect(m_making, &MakingBar::cancelWanted, this, &PreviewWindow::cancelMaking);
     m_view->setFocus();
 }
 
@@ -245,14 +249,16 @@ void PreviewWindow::guarded(const std::function<void(const KeepGoing&)>& act, co
 
 void PreviewWindow::print()
 {
-    document().pages().layOutAll();
+    const auto shown =
+        m_history.current().document; // another one may be shown before the question is answered
+    shown->pages().layOutAll();
     m_view->updatePages();
     const auto job =
-        askForPrint(m_findPrinter, {document().pages().pageCount(), m_view->currentPage() + 1}, this);
+        askForPrint(m_findPrinter, {shown->pages().pageCount(), m_view->currentPage() + 1}, this);
     if (!job)
         return;
     const auto printPages = [&](const KeepGoing& keepGoing) {
-        printOn(*job, document().report(), document().showsCharts(), keepGoing);
+        printOn(*job, shown->report(), shown->showsCharts(), keepGoing);
         m_status->setNotice(sentText(*job->printer));
     };
     guarded(printPages, u"Cancelled. The pages that were ready are printed."_s);
@@ -261,13 +267,14 @@ void PreviewWindow::print()
 void PreviewWindow::save(const FileKind& kind)
 {
     const QString suffix = QLatin1String(kind.suffix);
-    const QString suggested = fileNameFor(document().report().heading) + u'.' + suffix;
+    const auto shown = m_history.current().document; // as for printing
+    const QString suggested = fileNameFor(shown->report().heading) + u'.' + suffix;
     const QString path = m_boxes.fileToSave(
         {u"Save Report"_s, QDir(documents()).filePath(suggested), QLatin1String(kind.filter), suffix});
     if (path.isEmpty())
         return;
     const auto write = [&](const KeepGoing& keepGoing) {
-        kind.write(document().report(), document().showsCharts(), path, keepGoing);
+        kind.write(shown->report(), shown->showsCharts(), path, keepGoing);
         m_status->setNotice(u"Saved as %1."_s.arg(QDir::toNativeSeparators(path)));
     };
     guarded(write, u"Cancelled. Nothing was saved."_s);
@@ -322,11 +329,12 @@ void PreviewWindow::leave()
     close();
 }
 
-/// Closes the search row if it is open, else the window.
+/// Closes the search row if it is open, else cancels what is being made, else closes the window.
 void PreviewWindow::escape()
 {
     if (!m_find->isVisible()) {
-        leave();
+        if (!cancelMaking())
+            leave();
         return;
     }
     m_find->hide();

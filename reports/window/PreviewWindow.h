@@ -25,9 +25,11 @@ class StatusLine;
 namespace norvane::reports
 {
 
+class BackgroundRun;
 class ChartPane;
 class HistoryBar;
 class LayoutWatch;
+class MakingBar;
 class MistakePane;
 class PageView;
 struct FileKind;
@@ -41,7 +43,8 @@ class PreviewWindow : public QWidget
 public:
     PreviewWindow(ReportData report, Boxes& boxes, PrinterSource findPrinter, QWidget* parent);
 
-    /// Offers what the lines of the report open, made by @p runner; the report is that of @p request.
+    /// Offers what the lines of the report open, made by @p runner in a thread of its own; the report is that
+    /// of @p request.
     void followLinks(ReportRequest request, Runner runner);
     /// Makes the report again whenever its layout is saved, and lists the mistakes of the file beside the
     /// last report that could be made. After followLinks().
@@ -56,8 +59,10 @@ private:
     void showHint();
     void showPanes();
     void openLink(qsizetype line);
-    [[nodiscard]] std::optional<ReportData> made(const ReportRequest& request);
+    void showLinked(BackgroundRun& run);
+    bool cancelMaking();
     void makeAgain();
+    void showAgain(BackgroundRun& run);
     void replaceFirst(ReportData report);
     void go(int steps);
     void showCurrent();
@@ -90,10 +95,11 @@ private:
     PrinterSource m_findPrinter;
     ui::FindBar* m_find;
     HistoryBar* m_way;
+    MakingBar* m_making;
     PageView* m_view;
     MistakePane* m_mistakes;
     LayoutWatch* m_watch = nullptr;
-    bool m_isMaking = false;
+    bool m_makesLinked = false; ///< and not the report itself, when one is made
     ChartPane* m_charts;
     QCheckBox* m_chartSwitch = nullptr;
     QLabel* m_pageNumber = nullptr;

@@ -1,9 +1,13 @@
 // What a user does with the lines of a preview that open other reports.
+#include "reports/window/MakingBar.h"
 #include "reports/window/PreviewWindow.h"
 #include "tests/reports/ReportShop.h"
 #include "tests/support/FormTest.h"
 
 #include <QPrinter>
+#include <QThread>
+
+#include <atomic>
 
 namespace norvane::test
 {
@@ -28,6 +32,9 @@ protected:
         m_preview->followLinks(request, [this](const ReportRequest& wanted, const KeepGoing& keepGoing) {
             if (m_isGone)
                 throw ReportError(u"articlesales.rpt: the report's layout was not found."_s);
+            wanted.showStep(u"Adding up"_s);
+            for (; m_isHeld; QThread::msleep(1))
+                needGoOn(keepGoing);
             return runReport(wanted, keepGoing);
         });
         m_preview->resize(1000, 800);
@@ -69,10 +76,18 @@ protected:
         const QRect line = lineOf(name);
         const int x = atText ? line.left() + line.width() / 10 : line.right() - line.width() / 10;
         QTest::mouseClick(pages()->viewport(), Qt::LeftButton, modifiers, {x, line.center().y()});
+        waitUntilMade();
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        waitUntilMade();
+    }
+    [[nodiscard]] bool isMaking() const { return m_preview->findChild<MakingBar*>()->isMaking(); }
+    /// Unless the report is held back.
+    void waitUntilMade() const
+    {
+        EXPECT_TRUE(m_isHeld || !m_preview || soon([this] { return !isMaking(); }));
     }
     [[nodiscard]] QString copied()
     {
@@ -82,7 +97,8 @@ protected:
 
     reports::test::ReportShop shop;
     RecordingBoxes m_boxes;
-    bool m_isGone = false;
+    std::atomic<bool> m_isGone = false;
+    std::atomic<bool> m_isHeld = false; ///< reports that lines open are not finished
     QPointer<PreviewWindow> m_preview;
 };
 
@@ -171,6 +187,59 @@ TEST_F(PreviewLinks, ALayoutThatIsGoneLeavesTheReportAsItIs)
     m_isGone = false;
     click(u"1 DRINKS"_s);
     EXPECT_EQ(title(), u"Article Sales"_s);
+}
+
+TEST_F(PreviewLinks, WhatIsOnTheScreenIsUsedWhileTheNextReportIsMade)
+{
+    m_isHeld = true;
+    click(u"1 DRINKS"_s);
+    EXPECT_FALSE(control("MakingBar")->isVisible()) << "a row that flashes";
+    ASSERT_TRUE(soon([this] { return control("MakingBar")->isVisible(); }));
+    EXPECT_EQ(control<QLabel>("MakingStep")->text(), u"The report of 1 DRINKS is being made. Adding up."_s);
+    press(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), u"food"_s);
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(copied().startsWith(u"2 FOOD"_s));
+    EXPECT_EQ(title(), u"Group Sales"_s);
+    m_isHeld = false;
+    EXPECT_TRUE(soon([this] { return title() == u"Article Sales"_s; }));
+    EXPECT_EQ(path(), u"Group Sales › 1 DRINKS"_s);
+    EXPECT_FALSE(control("MakingBar")->isVisible());
+    press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_TRUE(copied().startsWith(u"2 FOOD"_s)) << "as it was left";
+}
+
+TEST_F(PreviewLinks, WhatIsBeingMadeIsCancelledByBackEscapeOrAnotherLine)
+{
+    const std::function<void()> ways[] = {
+        [this] { press(Qt::Key_Left, Qt::AltModifier); },
+        [this] { press(Qt::Key_Escape); },
+        [this] {
+            QTest::mouseClick(pages()->viewport(), Qt::BackButton, {}, {50, 50});
+        },
+        [this] { control<QPushButton>("CancelMakingButton")->click(); },
+    };
+    for (const auto& cancel : ways) {
+        m_isHeld = true;
+        click(u"1 DRINKS"_s);
+        ASSERT_TRUE(isMaking());
+        cancel();
+        EXPECT_FALSE(isMaking());
+        m_isHeld = false;
+        QTest::qWait(1);
+        EXPECT_EQ(title(), u"Group Sales"_s);
+        EXPECT_EQ(path(), QString());
+    }
+    m_isHeld = true;
+    click(u"1 DRINKS"_s);
+    click(u"2 FOOD"_s);
+    m_isHeld = false;
+    EXPECT_TRUE(soon([this] { return path() == u"Group Sales › 2 FOOD"_s; }));
+    m_isHeld = true;
+    click(u"20, CRISPS"_s);
+    m_preview->close();
+    EXPECT_TRUE(soon([this] { return m_preview.isNull(); }));
+    EXPECT_TRUE(m_boxes.shown.empty());
 }
 
 // The switch of the charts is the reader's, not a report's.
