@@ -71,7 +71,7 @@ void Frmreports::layOut()
     CSCal->setGridVisible(false);
     CSCal->setFirstDayOfWeek(Qt::Sunday); // as the week of the reports to date
     CSCal->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    connect(CSCal, &QCalendarWidget::selectionChanged, this, &Frmreports::tellDay);
+    connect(CSCal, &QCalendarWidget::selectionChanged, this, &Frmreports::announceDay);
     connect(CSCal, &QCalendarWidget::currentPageChanged, this, &Frmreports::markDaysOfSales);
     colourDays();
     CSCal->findChild<QWidget*>(u"qt_calendar_prevmonth"_s)->setAccessibleName(u"Previous month"_s);
@@ -141,7 +141,7 @@ void Frmreports::loadForm()
     m_legend->setVisible(!m_values.reportMode.isEmpty());
     CSCal->setSelectedDate(QDate::currentDate());
     markDaysOfSales();
-    tellDay();
+    announceDay();
 }
 
 /// Those of the month that is shown. A database that cannot be read marks none: the report says why.
@@ -163,7 +163,7 @@ void Frmreports::markDaysOfSales()
 }
 
 /// For screen readers: the fields of the calendar hold the numbers of days only.
-void Frmreports::tellDay()
+void Frmreports::announceDay()
 {
     QString day = locale().toString(CSCal->selectedDate());
     if (!m_daysOfSales.contains(CSCal->selectedDate()))

@@ -43,7 +43,7 @@ private:
     void markDaysOfSales();
     [[nodiscard]] QWidget* makeTargets();
     void loadForm();
-    void tellDay();
+    void announceDay();
     void generate();
 
     const ApplicationValues& m_values;

@@ -9,6 +9,7 @@
 #include "ui/FormKit.h"
 
 #include <QDir>
+#include <QEvent>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -69,12 +70,22 @@ void MoreReports::fillList()
     }
 }
 
-/// Reads the folders again and chooses the layout at @p path.
-void MoreReports::choosePath(const QString& path)
+void MoreReports::changeEvent(QEvent* event)
 {
-    m_reports = otherReports(m_values);
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    auto reports = otherReports(m_values);
+    const OtherReport* const now = chosen();
+    if (reports != m_reports)
+        showReports(std::move(reports), now == nullptr ? QString() : QString(now->path));
+}
+
+void MoreReports::showReports(std::vector<OtherReport> reports, const QString& chosenPath)
+{
+    m_reports = std::move(reports);
     fillList();
-    const auto found = std::ranges::find(m_reports, path, &OtherReport::path);
+    const auto found = std::ranges::find(m_reports, chosenPath, &OtherReport::path);
     m_list->setCurrentItem(m_list->topLevelItem(static_cast<int>(found - m_reports.begin())));
 }
 
@@ -152,7 +163,8 @@ void MoreReports::copyAndOpen()
     if (report == nullptr)
         return;
     reports::withReportBox(m_boxes, [&] {
-        choosePath(copyLayout(report->path, m_values.customerPath));
+        const QString copy = copyLayout(report->path, m_values.customerPath);
+        showReports(otherReports(m_values), copy);
         openLayout();
     });
 }

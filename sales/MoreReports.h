@@ -32,11 +32,15 @@ public:
     MoreReports(const ApplicationValues& values, Boxes& boxes, reports::Runner runner,
                 QWidget* parent = nullptr);
 
+protected:
+    /// Lists the layouts again: an editor may have changed them while it was in front.
+    void changeEvent(QEvent* event) override;
+
 private:
     void fillList();
     void layOut();
     void addButtons(QVBoxLayout& column);
-    void choosePath(const QString& path);
+    void showReports(std::vector<OtherReport> reports, const QString& chosenPath);
     void showChoice();
     [[nodiscard]] const OtherReport* chosen() const;
     [[nodiscard]] reports::ReportRequest requestOf(const OtherReport& report) const;

@@ -18,6 +18,8 @@ struct OtherReport {
     QString dayField;    ///< the field with the day of a sale, as formulas name it; empty without days
     bool isOfShop = false;
     bool isFaulty = false;
+
+    bool operator==(const OtherReport&) const = default;
 };
 
 /// Those in the program's folder and in the customer's, by title; the customer's come first.

@@ -259,6 +259,15 @@ TEST_F(FrmreportsTest, CopiesALayoutForTheShopAndOpensIt)
     ASSERT_TRUE(preview && preview->isVisible());
     app.write("Cafe/list 2.rpt", QByteArray(layout).replace("Title=Groups", "Title=Mine"));
     EXPECT_TRUE(test::soon([&] { return preview->windowTitle() == u"Mine"_s; }));
+    auto& show = test::child<QPushButton>(form, "ShowReport");
+    for (const bool isFaulty : {true, false}) {
+        preview->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(preview));
+        app.write("Cafe/list 2.rpt", isFaulty ? QByteArray("[Report]\r\n") : layout);
+        form.activateWindow();
+        EXPECT_TRUE(test::soon([&] { return show.isEnabled() != isFaulty; })) << "the list is read again";
+        EXPECT_EQ(list.currentItem()->text(1), u"Cafe"_s);
+    }
 
     app.write("bin/xdg-open", "#!/bin/sh\nprintf %s \"$1\" > '" + app.path("opened").toLocal8Bit() + "'\n");
     QFile::setPermissions(app.path("bin/xdg-open"), QFile::ReadOwner | QFile::ExeOwner);
