@@ -157,12 +157,12 @@ private:
         if (value.size() > profileValueLimit)
             fail(section, rule.key, u"it has more than %1 characters"_s.arg(profileValueLimit));
         if (value.isEmpty() && rule.isRequired)
-            fail(section, rule.key, u"it is missing; expected is %1"_s.arg(rule.expected));
+            fail(section, rule.key, u"it is missing; expected %1"_s.arg(rule.expected));
         if (value.isEmpty())
             return;
         try {
             if (!rule.take(value, target)) {
-                fail(section, rule.key, u"expected is %1, but \"%2\" was found"_s.arg(rule.expected, value));
+                fail(section, rule.key, u"expected %1, but found \"%2\""_s.arg(rule.expected, value));
             }
         } catch (const FormulaError& error) {
             fail(section, rule.key, error.text());
@@ -193,7 +193,7 @@ private:
         readKeys(section, layoutKeys().column, target, further);
         const ColumnLayout& column = *target.column;
         if (!column.number && column.text.text.isEmpty() && column.rank == RankPart::None)
-            fail(section, u"Value", u"it is missing; expected is fields such as {PLUSALES.ID}"_s);
+            fail(section, u"Value", u"it is missing; expected fields such as {PLUSALES.ID}"_s);
         for (const QString& key : further) {
             KeyRule rule = layoutKeys().furtherValue;
             rule.key = key;
@@ -234,7 +234,7 @@ private:
         if (chart.from == PointSource::Groups && !m_layout.hasGroups())
             fail(section, u"From", u"the report has no groups"_s);
         if (chart.from != PointSource::Groups && chart.label.text.isEmpty())
-            fail(section, u"Label", u"it is missing; expected is a text with fields"_s);
+            fail(section, u"Label", u"it is missing; expected a text with fields"_s);
         m_layout.charts.push_back(std::move(chart));
     }
 

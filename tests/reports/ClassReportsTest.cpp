@@ -123,7 +123,7 @@ TEST_F(ClassReports, TakeLimitsOfALayoutAndNameItsMistakes)
     };
     for (const char* const limits : {"80,70", "0,80", "80,100.1", "80,,90", "many"}) {
         EXPECT_NE(mistake(QByteArray("By={VALUE1}\r\nLimits=") + limits)
-                      .find("section [Classes], key Limits: expected is per cents in ascending order"),
+                      .find("section [Classes], key Limits: expected per cents in ascending order"),
                   std::string::npos)
             << limits;
     }

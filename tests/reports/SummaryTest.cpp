@@ -170,13 +170,13 @@ TEST_F(Summary, MistakesInBlocksAreNamed)
     const std::string table = "Table=PLUSALES\nLines={ID}\n[Block1.Column1]\nValue={ID}\nWidth=9\n";
     const BlockMistake inBlocks[] = {
         {"Kind=Table\n", "[Block1], key Title: it is missing"},
-        {"Title=A\nKind=Tabel\n", "[Block1], key Kind: expected is Figure"},
-        {"Title=A\nOf=1\n", "[Block1], key Of: expected is the number of an earlier block"},
-        {"Title=A\nQuotient=1,2\n", "[Block1], key Quotient: expected is"},
-        {"Title=A\nLargest=0\n", "[Block1], key Largest: expected is a whole number"},
+        {"Title=A\nKind=Tabel\n", "[Block1], key Kind: expected Figure"},
+        {"Title=A\nOf=1\n", "[Block1], key Of: expected the number of an earlier block"},
+        {"Title=A\nQuotient=1,2\n", "[Block1], key Quotient: expected "},
+        {"Title=A\nLargest=0\n", "[Block1], key Largest: expected a whole number"},
         {"Title=A\nPalce=Left\n", "[Block1], key Palce: there is no such key"},
         {"Title=A\n[Block1.Colum1]\nValue=1\n", "[Block1.Colum1]: Report, Join1"},
-        {"Title=A\nTable=SALES\n", "[Block1], key Table: expected is a table"},
+        {"Title=A\nTable=SALES\n", "[Block1], key Table: expected a table"},
         {"Title=A\nKind=Days\n", "[Block1.Column1]: this block has no table of its own"},
     };
     for (const auto& [keys, message] : inBlocks) {
