@@ -54,7 +54,7 @@ KeysMenu::KeysMenu(DocumentEditor& editor, KeyboardView& keyboard, StyleChooser&
     connect(&m_keyboard, &KeyboardView::selectionChanged, this, &KeysMenu::showSelection);
 }
 
-void KeysMenu::addTo(QMenuBar& bar)
+QMenu& KeysMenu::addTo(QMenuBar& bar)
 {
     static constexpr Entry entries[] = {
         {"SelectAllKeys", "Select &All", &KeysMenu::selectAll, "Ctrl+Shift+A"},
@@ -85,6 +85,7 @@ void KeysMenu::addTo(QMenuBar& bar)
         if (entry.handler)
             connect(action, &QAction::triggered, this, entry.handler);
     }
+    return *menu;
 }
 
 /// Without a selection, a choice is for the clicks that follow.

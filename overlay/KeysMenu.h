@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+class QMenu;
 class QMenuBar;
 class QWidget;
 
@@ -31,7 +32,7 @@ public:
     KeysMenu(DocumentEditor& editor, KeyboardView& keyboard, StyleChooser& style, QString databasePath,
              QWidget* form);
 
-    void addTo(QMenuBar& bar);
+    QMenu& addTo(QMenuBar& bar);
 
 Q_SIGNALS:
     /// What the status bar says.

@@ -85,11 +85,10 @@ OverlayForm::OverlayForm(Keyboard keyboard, const ApplicationValues& values, Box
 
 void OverlayForm::buildMenus(QMenuBar& bar)
 {
-    static constexpr std::array<Entry, 7> files = {{
+    static constexpr std::array<Entry, 6> files = {{
         {"New", "&New", &OverlayForm::newFile, "Ctrl+N"},
         {"Open", "&Open", &OverlayForm::openFile, "Ctrl+O"},
         {"Save", "&Save", &OverlayForm::saveFile, "Ctrl+Shift+S"},
-        {"SaveChanges", "Save C&hanges", &OverlayForm::saveChanges, "Ctrl+S"},
         {"PrinterSetup", "&Printer Setup", &OverlayForm::setUpPrinter},
         {"Print", "&Print", &OverlayForm::print, "Ctrl+P"},
         {"Exit", "E&xit", &OverlayForm::reject},
@@ -115,7 +114,9 @@ void OverlayForm::buildMenus(QMenuBar& bar)
 void OverlayForm::addKeysMenu(QMenuBar& bar)
 {
     auto* const keys = new KeysMenu(m_editor, *m_keyboard, *m_style, m_values.databasePath, this);
-    keys->addTo(bar);
+    QMenu& menu = keys->addTo(bar);
+    menu.addSeparator();
+    addEntry(menu, {"SaveChanges", "Save C&hanges", &OverlayForm::saveChanges, "Ctrl+S"});
     connect(keys, &KeysMenu::noticed, this, [this](const QString& text) { StatusBar1->setNotice(text); });
 }
 

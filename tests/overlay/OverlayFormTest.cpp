@@ -1,6 +1,8 @@
 // The designer as a dealer works it: cells, colours and fonts by mouse and keys, files, printing, leaving.
 #include "tests/overlay/OverlayFormFixture.h"
 
+#include <QMenuBar>
+
 namespace norvane::overlay
 {
 namespace
@@ -35,6 +37,32 @@ TEST_F(OverlayFormTest, AsksForFilesAsEachKeyboardHasThem)
         EXPECT_EQ(m_form->findChild<QAction*>(u"ImportLevel5"_s) != nullptr, keyboard != Keyboard::Quelmont);
     }
     EXPECT_TRUE(m_boxes.shown.empty());
+}
+
+/// "Files(&New|&Open)" and so on.
+QString menusOf(const OverlayForm& form)
+{
+    QStringList menus;
+    for (const QAction* const entry : form.findChild<QMenuBar*>()->actions()) {
+        QStringList captions;
+        for (const QAction* const each : entry->menu() ? entry->menu()->actions() : QList<QAction*>())
+            captions << each->text();
+        menus << u"%1(%2)"_s.arg(entry->text(), captions.join(u'|'));
+    }
+    return menus.join(u' ');
+}
+
+TEST_F(OverlayFormTest, HasTheMenusThatDealersKnowAndFurtherOnesAfterThem)
+{
+    const auto everyKeyboard = u"Files(&New|&Open|&Save|&Printer Setup|&Print|E&xit) &Font() "
+                               "&Colours(&BackGround|&Text Colour) "_s;
+    open(Keyboard::Quelmont);
+    EXPECT_TRUE(menusOf(*m_form).startsWith(everyKeyboard + u"K&eys("_s)) << menusOf(*m_form).toStdString();
+    open(Keyboard::Velmar);
+    EXPECT_TRUE(menusOf(*m_form).startsWith(
+        everyKeyboard + u"&Import Keyboard(Import Level&1|Import Level&2|Import Level&3|Import Level&4|"
+                        "Import Level&5) K&eys("_s))
+        << menusOf(*m_form).toStdString();
 }
 
 TEST_F(OverlayFormTest, SavesAndOpensAndTellsWhatIsWrong)
