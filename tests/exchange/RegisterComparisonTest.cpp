@@ -38,7 +38,7 @@ public:
         EXPECT_TRUE(ExchangeRunner(values, m_link, ticks, outside({})).downloaddata());
     }
 
-    /// The comparison of @p boxes; all if none is named.
+    /// The comparison of @p boxesToCompare; of all boxes if none is named.
     [[nodiscard]] RegisterComparison compare(const QList<int>& boxesToCompare = {})
     {
         auto scratch = std::make_unique<ScratchShop>(values);
