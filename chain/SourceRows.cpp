@@ -26,8 +26,21 @@ using store::Value;
 /// Prefix of a digest. Change it with anything that changes what is read.
 constexpr const char* digestForm = "2:";
 
-/// As exact_sum() writes it.
+/// As exact_sums() writes it.
 constexpr std::string_view zero = "0";
+
+/// Calls @p use with the place and the text of each sum of exact_sums().
+template <typename Use>
+void eachSum(std::string_view sums, Use use)
+{
+    for (std::size_t place = 0;; ++place) {
+        const auto end = sums.find('\t');
+        use(place, sums.substr(0, end));
+        if (end == std::string_view::npos)
+            return;
+        sums.remove_prefix(end + 1);
+    }
+}
 
 /// Digest and number of rows while they are read.
 class Reading
@@ -84,8 +97,10 @@ public:
     DayReader(store::BoundQuery& query, const SalesTable& table, QDate day)
         : m_query(query), m_table(table), m_day(day)
     {
-        for (const std::string& column : summedColumnsOf(table))
+        for (const std::string& column : summedColumnsOf(table)) {
             m_totals.push_back(totalOf(column));
+            m_zeros.append(m_zeros.empty() ? 0 : 1, '\t').append(zero);
+        }
     }
 
     RowsDigest read(const RowSink& sink)
@@ -123,19 +138,20 @@ private:
     /// @return whether any is not 0.
     bool appendSums()
     {
-        bool isSold = false;
-        const bool isTotalled = isOfTotals();
-        for (std::size_t at = 0; at < m_totals.size(); ++at) {
-            const auto sum = m_query.value(static_cast<int>(m_table.items.size() + at)).textView();
-            m_line += '\t';
-            appendSum(m_line, sum, m_table.places);
-            if (sum == zero)
-                continue;
-            isSold = true;
-            if (isTotalled && m_totals[at] != nullptr)
-                m_totals[at]->add(sum);
+        const auto sums = m_query.value(static_cast<int>(m_table.items.size())).textView();
+        m_line += '\t';
+        if (sums == m_zeros) {
+            m_line += sums;
+            return false;
         }
-        return isSold;
+        const bool isTotalled = isOfTotals();
+        eachSum(sums, [&](std::size_t place, std::string_view sum) {
+            m_line.append(place == 0 ? 0 : 1, '\t');
+            appendSum(m_line, sum, m_table.places);
+            if (isTotalled && m_totals[place] != nullptr && sum != zero)
+                m_totals[place]->add(sum);
+        });
+        return true;
     }
     /// Promotions and waste are part of the counts.
     DecimalTotal* totalOf(const std::string& column)
@@ -156,6 +172,7 @@ private:
     DecimalTotal m_quantity;
     DecimalTotal m_value;
     std::vector<DecimalTotal*> m_totals; ///< by column; null for one that no total has
+    std::string m_zeros;                 ///< the sums of an item that was not sold
     std::string m_line;
 };
 
@@ -175,10 +192,10 @@ std::string ofDay(const SalesTable& table)
 
 std::string sumsOf(const SalesTable& table)
 {
-    std::string sums;
+    std::string fields;
     for (const std::string& field : addedFields(table))
-        sums += ", exact_sum(" + store::quotedName(field) + ')';
-    return sums;
+        fields += (fields.empty() ? "" : ", ") + store::quotedName(field);
+    return ", exact_sums(" + fields + ')';
 }
 
 std::string dayStatement(const SalesTable& table, const std::string& condition = {})
@@ -286,8 +303,9 @@ DaySums sumsByDay(store::Database& database, const SalesTable& table)
     DaySums all;
     while (query.next()) {
         auto& sums = all[query.value(0).toDate()];
-        for (int at = 1; at < query.columnCount(); ++at)
-            appendSum(sums.emplace_back(), query.value(at).textView(), table.places);
+        eachSum(query.value(1).textView(), [&](std::size_t, std::string_view sum) {
+            appendSum(sums.emplace_back(), sum, table.places);
+        });
     }
     return all;
 }

@@ -41,6 +41,15 @@ TEST_F(ExactSumTest, AddsEveryDoubleAsItsShortestDecimal)
     EXPECT_EQ(failureOf([&] { sumOf("(1), (9e999)"); }), 3061) << "an infinite number has no total";
 }
 
+TEST_F(ExactSumTest, AddsSeveralColumnsAtOnce)
+{
+    const QString rows = u"(values (1, 0.1, 'x', '2'), (1, 0.2, null, 1e22), (2, 9e999, 4, -3))"_s;
+    EXPECT_EQ(answer(u"select exact_sums(column2, column3, column4) from %1 where column1 = 1"_s.arg(rows)),
+              "0.3\t0\t10000000000000000000002");
+    EXPECT_EQ(failureOf([&] { answer(u"select exact_sums(column1, column2) from "_s + rows); }), 3061);
+    EXPECT_EQ(answer(u"select exact_sums(COUNT1) is null from Items"_s), "1") << "no rows at all";
+}
+
 TEST_F(ExactSumTest, LosesNothingOverManyRowsAndGroups)
 {
     const QString rows = u"(with recursive n(i) as (select 1 union all select i + 1 from n where i < 100000) "
