@@ -2,8 +2,12 @@
 #include "chain/NamePublisher.h"
 
 #include "chain/CopyStream.h"
+#include "chain/NameCheck.h"
 #include "chain/Rollups.h"
 #include "chain/SourceRows.h"
+
+#include <map>
+#include <vector>
 
 namespace norvane::chain
 {
@@ -13,38 +17,62 @@ namespace
 class NamePublisher
 {
 public:
-    NamePublisher(const Server& server, pqxx::work& work, store::Database& database, int shop)
-        : m_server(server), m_work(work), m_database(database), m_shop(shop)
+    NamePublisher(Server& server, pqxx::work& work, store::Database& database, int shop,
+                  const NameOptions& options)
+        : m_server(server), m_work(work), m_database(database), m_shop(shop), m_options(options)
     {
+        for (const auto& row : work.exec_params(
+                 "SELECT table_name, digest, row_count FROM published_names WHERE shop = $1", shop))
+            m_known[row[0].c_str()] = {row[1].c_str(), row[2].as<qint64>()};
     }
 
-    /// @return false when the table is empty in the shop and was not emptied.
-    bool publish(const NameTable& table, bool mayEmpty)
+    PublishedNames publish()
     {
-        const RowsDigest read = readNames(m_database, table);
-        const auto known = published(table);
-        if (isEmptied(read, known) && !mayEmpty)
-            return false;
-        if (known.empty() || known[0][0].as<std::string>() != read.digest)
-            replace(table);
-        return true;
+        for (const NameTable* const table : different())
+            replace(*table);
+        return m_found;
     }
 
-    bool isEmptied(const NameTable& table)
+    PublishedNames preview()
     {
-        return isEmptied(readNames(m_database, table), published(table));
+        (void)different();
+        return m_found;
     }
 
 private:
-    static bool isEmptied(const RowsDigest& read, const pqxx::result& known)
+    /// The tables to be published.
+    std::vector<const NameTable*> different()
     {
-        return read.rows == 0 && !known.empty() && known[0][1].as<qint64>() > 0;
+        std::vector<const NameTable*> all;
+        for (const auto& table : nameTables()) {
+            const RowsDigest read = readNames(m_database, table);
+            const auto known = m_known.find(table.name);
+            if (isEmptied(read, known)) {
+                m_found.vanished << QLatin1StringView(table.name);
+                if (!m_options.mayEmpty)
+                    continue;
+            }
+            if (known == m_known.end() || known->second.digest != read.digest || hasOtherRows(table))
+                all.push_back(&table);
+        }
+        return all;
     }
-    pqxx::result published(const NameTable& table)
+
+    using Known = std::map<std::string, RowsDigest>;
+
+    [[nodiscard]] bool isEmptied(const RowsDigest& read, Known::const_iterator known) const
     {
-        return m_work.exec_params(
-            "SELECT digest, row_count FROM published_names WHERE shop = $1 AND table_name = $2", m_shop,
-            std::string(table.name));
+        return read.rows == 0 && known != m_known.end() && known->second.rows > 0;
+    }
+
+    bool hasOtherRows(const NameTable& table)
+    {
+        if (!m_options.comparesRows)
+            return false;
+        const QString difference = nameDifference(m_work, m_database, table, m_shop);
+        if (!difference.isEmpty())
+            m_found.differences << difference;
+        return !difference.isEmpty();
     }
 
     void replace(const NameTable& table)
@@ -84,40 +112,34 @@ private:
                             m_shop, std::string(table.name), copied.digest, copied.rows);
     }
 
-    const Server& m_server;
+    Server& m_server;
     pqxx::work& m_work;
     store::Database& m_database;
     int m_shop;
+    const NameOptions& m_options;
+    Known m_known; ///< by the name of the table
+    PublishedNames m_found;
 };
 
 } // namespace
 
-QStringList publishNames(Server& server, store::Database& database, int shop, const ShopLock& lock,
-                         bool mayEmpty)
+PublishedNames publishNames(Server& server, store::Database& database, int shop, const ShopLock& lock,
+                            const NameOptions& options)
 {
-    QStringList spared;
+    PublishedNames published;
     server.transact([&](pqxx::work& work) {
         lock.holdIn(work);
-        NamePublisher publisher(server, work, database, shop);
-        for (const auto& table : nameTables()) {
-            if (!publisher.publish(table, mayEmpty))
-                spared << QLatin1StringView(table.name);
-        }
+        published = NamePublisher(server, work, database, shop, options).publish();
     });
-    return spared;
+    return published;
 }
 
-QStringList vanishedNames(Server& server, store::Database& database, int shop)
+PublishedNames previewNames(Server& server, store::Database& database, int shop, const NameOptions& options)
 {
-    QStringList emptied;
-    server.transact([&](pqxx::work& work) {
-        NamePublisher publisher(server, work, database, shop);
-        for (const auto& table : nameTables()) {
-            if (publisher.isEmptied(table))
-                emptied << QLatin1StringView(table.name);
-        }
-    });
-    return emptied;
+    PublishedNames found;
+    server.transact(
+        [&](pqxx::work& work) { found = NamePublisher(server, work, database, shop, options).preview(); });
+    return found;
 }
 
 } // namespace norvane::chain

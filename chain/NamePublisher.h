@@ -9,13 +9,23 @@
 namespace norvane::chain
 {
 
-/// Publishes the tables of names that have changed, all in one transaction.
-/// @param mayEmpty whether a table that is empty in the shop may be emptied.
-/// @return the tables that were not for that reason, by their names in PostgreSQL.
-QStringList publishNames(Server& server, store::Database& database, int shop, const ShopLock& lock,
-                         bool mayEmpty);
+/// Choices of a publication of names.
+struct NameOptions {
+    bool mayEmpty = false;     ///< a table that is empty in the shop
+    bool comparesRows = false; ///< trusts no digest
+};
 
-/// The tables of names that are published and empty in the shop. Changes nothing.
-QStringList vanishedNames(Server& server, store::Database& database, int shop);
+/// Result of a publication of names.
+struct PublishedNames {
+    QStringList vanished; ///< tables that are published and empty in the shop, by their names in PostgreSQL
+    QStringList differences; ///< a sentence for each table whose rows differed, although nothing has changed
+};
+
+/// Publishes the tables of names that have changed, all in one transaction.
+PublishedNames publishNames(Server& server, store::Database& database, int shop, const ShopLock& lock,
+                            const NameOptions& options);
+
+/// What publishNames() would find. Changes nothing.
+PublishedNames previewNames(Server& server, store::Database& database, int shop, const NameOptions& options);
 
 } // namespace norvane::chain

@@ -72,6 +72,18 @@ void addDifferentSums(DayComparison& comparison, Published& published, Server& s
     }
 }
 
+NameOptions nameOptions(const PublishOptions& options)
+{
+    return {options.vanished == Vanished::Remove, options.comparesSums};
+}
+
+void addNames(const PublishedNames& found, const PublishOptions& options, Published& published)
+{
+    published.differences = found.differences;
+    if (options.vanished != Vanished::Remove)
+        published.vanishedNames = found.vanished;
+}
+
 void addWrongMonths(const std::vector<QDate>& months, Published& published)
 {
     for (const QDate month : months) {
@@ -118,8 +130,8 @@ private:
 Published ShopPublisher::publish()
 {
     convertFormerMonths();
-    m_published.vanishedNames =
-        publishNames(m_server, m_database, m_shop, m_lock, m_options.vanished == Vanished::Remove);
+    addNames(publishNames(m_server, m_database, m_shop, m_lock, nameOptions(m_options)), m_options,
+             m_published);
     m_days.emplace(m_database);
     m_publishedDays = publishedDays(m_server, m_shop);
     DayComparison comparison = compareDays(*m_days, m_publishedDays);
@@ -326,14 +338,14 @@ Published previewShop(Server& server, const ShopFolder& folder, const PublishOpt
     const PublishedDays published = shop == 0 ? PublishedDays() : publishedDays(server, shop);
     DayComparison comparison = compareDays(days, published);
     Published preview;
+    if (shop != 0)
+        addNames(previewNames(server, database, shop, nameOptions(options)), options, preview);
     if (options.comparesSums && shop != 0) {
         addDifferentSums(comparison, preview, server, database, shop);
         addWrongMonths(wrongMonths(server, shop), preview);
     }
     preview.same = comparison.same;
     preview.vanished = comparison.vanished;
-    if (shop != 0 && options.vanished != Vanished::Remove)
-        preview.vanishedNames = vanishedNames(server, database, shop);
     if (!comparison.vanished.isEmpty() && options.vanished != Vanished::Remove) {
         preview.heldBack =
             static_cast<int>(takeHeldBack(days, comparison, published, options.vanished).size());

@@ -110,8 +110,8 @@ constexpr auto adoptOptions = std::to_array<OptionDefinition>({
 constexpr auto publishOptions = std::to_array<OptionDefinition>({
     {"to"_L1, "CONNECTION"_L1, "\"host=db.example dbname=chain\" or \"postgresql://db.example/chain\""_L1},
     {"vanished"_L1, "keep|remove"_L1,
-     "of days that are published and that the shop no longer has: keep them and report them no more, or delete them"_L1},
-    {"adopt"_L1, {}, "go on with a shop that was published from another folder or under another name"_L1},
+     "of days that are published and that the shop no longer has: keep them and no longer report them, or delete them"_L1},
+    {"adopt"_L1, {}, "continue a shop that was published from another folder or under another name"_L1},
     {"dry-run"_L1, {}, "list what would be published, and change nothing"_L1},
 });
 constexpr auto chainOptions = std::to_array<OptionDefinition>({
@@ -171,7 +171,7 @@ constexpr auto all = std::to_array<Verb>({
     {"publish"_L1, "CUSTOMER..."_L1, 1, -1, publishOptions,
      "Copies the sales and names of shops to the PostgreSQL of their chain: days that are new or have changed."_L1, publish},
     {"chain"_L1, "check CUSTOMER... | pages | init | add-shop NAME"_L1, 1, -1, chainOptions,
-     "check: compares all sums of shops with those in the PostgreSQL of their chain, reports what differs, and publishes it again. pages: writes a site for the browser about all shops, from what they published. init and add-shop, as the owner of the chain: make its schema and roles, and a user for one shop, who may read and write the rows of this shop only."_L1, manageChain},
+     "check: compares all sums and names of shops with those in the PostgreSQL of their chain, reports what differs, and publishes it again. pages: writes a site for the browser about all shops, from what they published. init and add-shop, as the owner of the chain: make its schema and roles, and a user for one shop, who may read and write the rows of this shop only."_L1, manageChain},
 });
 // clang-format on
 

@@ -169,12 +169,16 @@ TEST_F(PublishTest, ACheckMendsWhatDiffersFromTheShop)
     };
     EXPECT_EQ(check().err, QString());
     // Somebody changed the chain by hand; no digest shows it.
-    EXPECT_EQ(
-        query(
-            u"UPDATE mix_sales SET quantity = 3; UPDATE plu_months SET takings = 99 WHERE month = '2026-10-01'"_s),
-        "");
+    EXPECT_EQ(query(u"UPDATE mix_sales SET quantity = 3; UPDATE plu_months SET takings = 99 WHERE month = "
+                    u"'2026-10-01'; "
+                    "UPDATE plus SET price1 = 9 WHERE plu = '0002'; INSERT INTO plus VALUES (1, '0009'); "
+                    "UPDATE time_periods SET ends_at = ''; DELETE FROM groups"_s),
+              "");
     const QString differences =
-        u"Corner Shop: 2026-11-01: quantity of mix_sales is 2 in the shop and 3 in the chain.\n"
+        u"Corner Shop: plus differs in 0002 and 1 more.\n"
+        "Corner Shop: groups differs in 1.\n"
+        "Corner Shop: time_periods differs in 1.\n"
+        "Corner Shop: 2026-11-01: quantity of mix_sales is 2 in the shop and 3 in the chain.\n"
         "Corner Shop: 2026-10: totals of the month are not those of its days.\n"_s;
     const Ended preview = check({u"--dry-run"_s});
     EXPECT_EQ(preview.code, 8);
@@ -185,8 +189,9 @@ TEST_F(PublishTest, ACheckMendsWhatDiffersFromTheShop)
     EXPECT_TRUE(mended.err.startsWith(differences)) << mended.err.toStdString();
     EXPECT_EQ(
         query(
-            u"SELECT quantity FROM mix_sales; SELECT takings FROM plu_takings('2026-10-01', '2026-10-31')"_s),
-        "2 0.30");
+            u"SELECT quantity FROM mix_sales; SELECT takings FROM plu_takings('2026-10-01', '2026-10-31'); "
+            "SELECT plu, price1 FROM plus ORDER BY plu; SELECT description, ends_at FROM groups, time_periods"_s),
+        "2 0.30 0001|1.5 0002|12.34 Food|12:00");
     EXPECT_EQ(check().err, QString());
 }
 
