@@ -16,8 +16,9 @@ struct ShopUser {
 /// there already remains. Readers may also read what is added to the schema later. The roles belong to the
 /// whole server, as PostgreSQL's roles do.
 ///
-/// The owner and others that had rights before keep them. Only members of the role of shops are held to
-/// their own rows, by policies of the tables; partitions need none because no shop has rights to them.
+/// The owner and others that had rights before keep them. Only members of the role of shops are
+/// restricted to their own rows, by policies of the tables; partitions need none because no shop has rights
+/// to them.
 /// @throws ChainError NoRights for a user who does not own the tables or may not make roles, Busy.
 void prepareRights(Server& server);
 

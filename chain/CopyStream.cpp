@@ -35,11 +35,6 @@ std::string joinedNames(const std::vector<std::string>& columns)
     return all;
 }
 
-bool isHeldToOwnRows(pqxx::work& work, const std::string& table)
-{
-    return work.exec_params1("SELECT row_security_active($1)", table)[0].as<bool>();
-}
-
 /// It has the name of the table, as messages about its rows do.
 std::string stagedName(const std::string& table)
 {
@@ -48,10 +43,10 @@ std::string stagedName(const std::string& table)
 
 } // namespace
 
-CopyStream::CopyStream(const Server& server, pqxx::work& work, const char* table,
+CopyStream::CopyStream(Server& server, pqxx::work& work, const char* table,
                        const std::vector<std::string>& columns)
     : m_handle(server.handle()), m_work(work), m_table(table), m_columns(joinedNames(columns)),
-      m_isStaged(isHeldToOwnRows(work, m_table))
+      m_isStaged(server.isHeldToOwnRows(work))
 {
     if (m_isStaged)
         work.exec0("CREATE TEMPORARY TABLE " + m_table + " (LIKE " + m_table + ") ON COMMIT DROP");

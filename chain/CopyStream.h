@@ -19,8 +19,7 @@ class CopyStream
 {
 public:
     /// @param work a transaction of @p server. @throws pqxx::failure as the server refuses.
-    CopyStream(const Server& server, pqxx::work& work, const char* table,
-               const std::vector<std::string>& columns);
+    CopyStream(Server& server, pqxx::work& work, const char* table, const std::vector<std::string>& columns);
     ~CopyStream();
     CopyStream(const CopyStream&) = delete;
     CopyStream& operator=(const CopyStream&) = delete;
@@ -31,7 +30,8 @@ public:
     /// pass it on.
     /// @throws pqxx::broken_connection
     void add(const std::string& rest);
-    /// Sends what is left. @throws pqxx::sql_error if the server refuses the rows, pqxx::broken_connection
+    /// Sends the remaining rows. @throws pqxx::sql_error if the server refuses the rows,
+    /// pqxx::broken_connection
     void complete();
 
 private:

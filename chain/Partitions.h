@@ -15,8 +15,12 @@ namespace norvane::chain
 /// so that a role that may only write its own shop gets its months: those of the last twelve years.
 [[nodiscard]] std::vector<std::string> partitionFunctions();
 
+/// @throws ChainError BadRows for a day of another century: each month is a table for all shops.
+void requireChainDay(QDate day);
+
 /// Makes the partitions that hold the month of @p day, unless they are there. A partition that was made by
-/// one shop serves all. Nobody who reads or writes is kept waiting, nor waited for.
+/// one shop serves all. Readers and writers do not wait for it, and it does not wait for them.
+/// @throws ChainError BadRows as requireChainDay() does, also for a month that the user may not make.
 void makePartitions(Server& server, QDate day);
 
 /// Makes those of the coming months, so that the first day of a month finds its own. A server where that has

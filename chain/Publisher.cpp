@@ -268,15 +268,14 @@ void ShopPublisher::publishTogether(const QList<QDate>& days)
 
 void ShopPublisher::removeDays(pqxx::work& work, const QList<QDate>& days) const
 {
-    const auto remove = [&](const std::string& table) {
-        // The range lets the server pass over all other partitions.
-        work.exec_params0("DELETE FROM " + table +
-                              " WHERE shop = $1 AND day BETWEEN $2 AND $3 AND day = ANY($4::date[])",
-                          m_shop, isoDay(days.first()), isoDay(days.last()), arrayOf(days));
-    };
+    // The range lets the server pass over all other partitions.
+    const std::string ofDays = " WHERE shop = " + std::to_string(m_shop) + " AND day BETWEEN '" +
+                               isoDay(days.first()) + "' AND '" + isoDay(days.last()) + "' AND day = ANY('" +
+                               arrayOf(days) + "'::date[]);\n";
+    std::string all = "DELETE FROM published_days" + ofDays;
     for (const auto& table : salesTables())
-        remove(std::string(table.name));
-    remove("published_days");
+        all += "DELETE FROM " + std::string(table.name) + ofDays;
+    work.exec(all);
 }
 
 /// Sends the days while reading them: they are never all in memory.
@@ -300,19 +299,26 @@ void ShopPublisher::copyTable(pqxx::work& work, std::size_t table, Sent& days)
 
 void ShopPublisher::noteDays(pqxx::work& work, const Sent& days)
 {
+    const auto orNull = [](const std::string& number) {
+        return number.empty() ? "NULL" : number;
+    };
+    std::string rows;
     for (const auto& [day, sent] : days) {
-        work.exec_params0("INSERT INTO published_days (shop, day, digest, row_count, quantity, takings, "
-                          "net_sales, rolled_up) VALUES ($1, $2, $3, $4, nullif($5, '')::numeric, "
-                          "nullif($6, '')::numeric, nullif($7, '')::numeric, true)",
-                          m_shop, isoDay(day), m_days->digestOf(day), sent.rows, sent.plus.quantity,
-                          sent.plus.value, sent.financials.value);
+        rows += (rows.empty() ? " (" : ", (") + std::to_string(m_shop) + ", '" + isoDay(day) + "', '" +
+                m_days->digestOf(day) + "', " + std::to_string(sent.rows) + ", " +
+                orNull(sent.plus.quantity) + ", " + orNull(sent.plus.value) + ", " +
+                orNull(sent.financials.value) + ", true)";
     }
+    work.exec0("INSERT INTO published_days (shop, day, digest, row_count, quantity, takings, net_sales, "
+               "rolled_up) VALUES" +
+               rows);
 }
 
 /// Reads the day as if it were sent.
 void addPreviewOf(QDate day, store::Database& database, Published& preview)
 {
     try {
+        requireChainDay(day);
         qint64 rows = 0;
         for (const auto& table : salesTables())
             rows += readDay(database, table, day).rows;

@@ -58,12 +58,22 @@ std::string selectOf(const Rollup& rollup)
 constexpr const char* beforeAll = "-infinity";
 constexpr const char* afterAll = "infinity";
 
-void write(pqxx::work& work, const Rollup& rollup, int shop, const std::string& first, const std::string& end)
+/// A statement with the values in the place of its parameters: those of several statements reach the server
+/// in one message.
+std::string withValues(std::string statement, int shop, const std::string& first, const std::string& end)
+{
+    const std::array values{std::to_string(shop), '\'' + first + '\'', '\'' + end + '\''};
+    for (std::size_t at = 0; (at = statement.find('$', at)) != std::string::npos;)
+        statement.replace(at, 2, values.at(static_cast<std::size_t>(statement[at + 1] - '1')));
+    return statement + ";\n";
+}
+
+std::string writing(const Rollup& rollup, int shop, const std::string& first, const std::string& end)
 {
     const std::string name = rollup.name;
-    work.exec_params0("DELETE FROM " + name + " WHERE shop = $1 AND month >= $2 AND month < $3", shop, first,
-                      end);
-    work.exec_params0("INSERT INTO " + name + ' ' + selectOf(rollup), shop, first, end);
+    return withValues("DELETE FROM " + name + " WHERE shop = $1 AND month >= $2 AND month < $3", shop, first,
+                      end) +
+           withValues("INSERT INTO " + name + ' ' + selectOf(rollup), shop, first, end);
 }
 
 std::string declarationOf(const Rollup& rollup)
@@ -156,16 +166,17 @@ std::vector<std::string> rollupNames()
 void rollUp(pqxx::work& work, int shop, QDate month)
 {
     // The server has no statistics of a month that has just begun and would sort its sales.
-    work.exec0("SET LOCAL enable_sort = off");
+    std::string all = "SET LOCAL enable_sort = off;\n";
     for (const auto& rollup : monthTotals)
-        write(work, rollup, shop, isoDay(month), isoDay(month.addMonths(1)));
+        all += writing(rollup, shop, isoDay(month), isoDay(month.addMonths(1)));
+    work.exec(all);
 }
 
 void rollUpGroups(pqxx::work& work, int shop)
 {
     const auto* const groups =
         std::ranges::find(monthTotals, std::string_view("group_months"), &Rollup::name);
-    write(work, *groups, shop, beforeAll, afterAll);
+    work.exec(writing(*groups, shop, beforeAll, afterAll));
 }
 
 void convertMonth(pqxx::work& work, int shop, QDate month)

@@ -34,7 +34,7 @@ std::optional<std::string> textOf(const Value& value, Content content)
 {
     switch (content) {
     case Content::Number: {
-        const auto number = Decimal::parse(value.toUtf8());
+        const auto number = Decimal::tryParse(value.toUtf8());
         return number ? std::optional(number->text()) : std::nullopt;
     }
     case Content::Time:

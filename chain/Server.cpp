@@ -124,9 +124,10 @@ constexpr auto lost = "The connection to PostgreSQL was lost"_L1;
 constexpr auto answers = std::to_array<Answer>({
     {"57P", ChainFailure::ConnectionLost, lost}, // it is shutting down
     {"08", ChainFailure::ConnectionLost, lost},
-    {"22", ChainFailure::BadRows, "PostgreSQL does not take what the shop holds"_L1},
-    {"23", ChainFailure::BadRows, "PostgreSQL does not take what the shop holds"_L1},
+    {"22", ChainFailure::BadRows, "PostgreSQL does not accept a value of the shop"_L1},
+    {"23", ChainFailure::BadRows, "PostgreSQL does not accept a value of the shop"_L1},
     {"42501", ChainFailure::NoRights, "The rights are insufficient"_L1},
+    {"53100", ChainFailure::Refused, "The disk of PostgreSQL is full"_L1},
     {"55P03", ChainFailure::Busy,
      "Another program holds a lock in PostgreSQL for too long; the next publication continues here"_L1},
     {"57014", ChainFailure::Busy,
@@ -147,8 +148,12 @@ const Answer& answerOf(std::string_view state)
 Server::Server(const QString& connection)
 {
     connect(connection);
-    checkEncoding();
-    transact([](pqxx::work& work) { work.exec(connectionSettings); });
+    std::string encoding;
+    transact([&](pqxx::work& work) {
+        encoding = work.exec1("SHOW server_encoding")[0].as<std::string>();
+        work.exec(connectionSettings);
+    });
+    checkEncoding(encoding);
 }
 
 void Server::connect(const QString& connection)
@@ -170,10 +175,8 @@ void Server::connect(const QString& connection)
 }
 
 /// A register's text has characters that other encodings lack, and SQL_ASCII stores any bytes unchecked.
-void Server::checkEncoding()
+void Server::checkEncoding(const std::string& encoding) const
 {
-    std::string encoding;
-    transact([&](pqxx::work& work) { encoding = work.exec1("SHOW server_encoding")[0].as<std::string>(); });
     if (encoding != "UTF8") {
         throw ChainError(ChainFailure::Unfit,
                          u"The encoding %1 cannot hold the names of all PLUs (%2): create the database with "
@@ -202,6 +205,14 @@ void Server::transact(const std::function<void(pqxx::work&)>& work)
         const bool isDead = std::string_view(failure.what()).starts_with("Could not obtain client encoding");
         failGone(isDead ? "the line or the server no longer answers." : failure.what());
     }
+}
+
+bool Server::isHeldToOwnRows(pqxx::work& work)
+{
+    // Policies are made for all tables at once.
+    if (!m_isHeldToOwnRows)
+        m_isHeldToOwnRows = work.exec1("SELECT row_security_active('published_days')")[0].as<bool>();
+    return *m_isHeldToOwnRows;
 }
 
 QString Server::user() const

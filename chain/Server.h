@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace norvane::chain
@@ -27,6 +28,9 @@ public:
     /// Does @p work in one transaction: completely or not at all. @throws ChainError.
     void transact(const std::function<void(pqxx::work&)>& work);
 
+    /// Whether row security restricts the user to the rows of one shop. The server is asked once.
+    [[nodiscard]] bool isHeldToOwnRows(pqxx::work& work);
+
     /// "database chain at db.example", for sentences.
     [[nodiscard]] const QString& where() const { return m_where; }
     [[nodiscard]] QString user() const;
@@ -35,7 +39,7 @@ public:
 
 private:
     void connect(const QString& connection);
-    void checkEncoding();
+    void checkEncoding(const std::string& encoding) const;
     [[noreturn]] void failAsAnswered(std::string_view state, const char* what) const;
     [[noreturn]] void failGone(const char* what) const;
     [[noreturn]] void fail(ChainFailure failure, const QString& sentence, const char* what) const;
@@ -44,6 +48,7 @@ private:
     QString m_where;
     QString m_password; ///< never shown
     std::unique_ptr<Connection> m_connection;
+    std::optional<bool> m_isHeldToOwnRows;
 };
 
 } // namespace norvane::chain
