@@ -56,7 +56,7 @@ public:
 private:
     [[nodiscard]] QString subtitleOf(const Subject& subject) const
     {
-        const QString day = u"Sales until %1"_s.arg(QString::fromStdString(m_today));
+        const QString day = u"Written on %1"_s.arg(QString::fromStdString(m_today));
         return subject.isEmpty() ? day : day + u". <a href=\"index.html\">All shops</a>"_s;
     }
 

@@ -9,7 +9,9 @@ namespace norvane::chain
 /// How a column of a section is shown.
 enum class PageColumn {
     Text,
+    Name,   ///< a text that may take several lines
     Number, ///< as the server has rounded it, to the right
+    Share,  ///< the same in per cent, with a bar beside it
     Shop    ///< the number of a shop, which makes the next column a link to its page
 };
 
@@ -25,7 +27,8 @@ struct PageSection {
     /// first day of the last 30 and today are $1 and $2.
     const char* query;
     std::span<const PageHeading> headings;
-    bool hasBars; ///< of the second column, and of the third beside it as that of a year earlier
+    bool hasBars;     ///< of the second column, and of the third beside it as that of a year earlier
+    const char* note; ///< how to read it, may be empty
 };
 
 [[nodiscard]] std::span<const PageSection> pageSections();

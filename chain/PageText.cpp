@@ -2,6 +2,7 @@
 #include "chain/PageText.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -10,15 +11,25 @@ namespace norvane::chain
 namespace
 {
 
-/// Readable without colours. Wide tables scroll in themselves on a telephone.
+/// Readable without colours. Wide tables scroll in themselves on a telephone, where charts have fewer and
+/// larger labels. Paper has neither scroll bars nor what is folded.
 constexpr auto style = R"(
 body { font: 16px/1.4 sans-serif; margin: 1.5em auto; max-width: 60em; padding: 0 1em; color: #1c2530; background: #fff; }
 h1 { margin-bottom: 0; } h2 { margin-top: 2em; font-size: 1.15em; } p { margin: .3em 0; color: #45525f; }
 .wide { overflow-x: auto; } table { border-collapse: collapse; min-width: 50%; }
 th, td { padding: .25em .8em .25em 0; border-bottom: 1px solid #d5dbe1; text-align: left; white-space: nowrap; }
 th { color: #45525f; font-weight: 600; } .n { text-align: right; font-variant-numeric: tabular-nums; }
+.w { white-space: normal; }
 svg { display: block; width: 100%; height: auto; margin-bottom: .6em; } svg text { font: 11px sans-serif; fill: #45525f; }
+svg.share { width: 7em; height: .7em; margin: 0; }
 .now { fill: #24527a; } .before { fill: #b9c4ce; } a { color: #1d4f80; }
+@media screen and (max-width: 40em) {
+body { padding: 0 .5em; } svg text { font-size: 18px; } svg text.second { display: none; } svg.share { width: 4em; }
+}
+@media print {
+body { font-size: 11px; margin: 0; max-width: none; } .wide { overflow: visible; } details { display: none; }
+h2 { break-after: avoid; } tr, svg { break-inside: avoid; } a { color: inherit; text-decoration: none; }
+}
 )"_L1;
 
 /// Of a chart, in its own units.
@@ -33,6 +44,17 @@ QString cellText(const QString& text)
     return text.isNull() ? u"\u2013"_s : text.toHtmlEscaped();
 }
 
+/// "12345.60" as "12,345.60".
+QString groupedText(QString number)
+{
+    constexpr qsizetype digits = 3;
+    const qsizetype first = number.startsWith(u'-') ? 1 : 0;
+    const qsizetype point = number.indexOf(u'.');
+    for (qsizetype at = (point < 0 ? number.size() : point) - digits; at > first; at -= digits)
+        number.insert(at, u',');
+    return number;
+}
+
 /// The heights of bars need no exact numbers.
 double sizeOf(const QString& number)
 {
@@ -42,11 +64,10 @@ double sizeOf(const QString& number)
 class Bars
 {
 public:
-    /// @param hasBefore a year earlier is in the third column.
-    Bars(const QList<PageRow>& rows, bool hasBefore) : m_rows(rows), m_hasBefore(hasBefore)
+    explicit Bars(const QList<PageRow>& rows) : m_rows(rows)
     {
         for (const PageRow& row : rows)
-            m_highest = std::max({m_highest, sizeOf(row[1]), hasBefore ? sizeOf(row[2]) : 0});
+            m_highest = std::max({m_highest, sizeOf(row[1]), sizeOf(row[2])});
     }
 
     [[nodiscard]] QString text(const QString& title) const
@@ -81,47 +102,71 @@ private:
         const PageRow& row = m_rows[place];
         const double left = room() * static_cast<double>(place);
         const double width = room() * barShare;
-        QString tip = u"%1: %2"_s.arg(cellText(row[0]), cellText(row[1]));
-        QString text = u"<g>"_s;
-        if (m_hasBefore) {
-            tip += u", a year earlier %1"_s.arg(cellText(row[2]));
-            text +=
-                barText("before", left, width, row[2]) + barText("now", left + width / 4, width / 2, row[1]);
-        } else {
-            text += barText("now", left, width, row[1]);
-        }
+        const QString tip = u"%1: %2, a year earlier %3"_s.arg(
+            cellText(row[0]), cellText(groupedText(row[1])), cellText(groupedText(row[2])));
+        QString text = u"<g>"_s + barText("before", left, width, row[2]) +
+                       barText("now", left + width / 4, width / 2, row[1]);
         text += u"<title>%1</title></g>\n"_s.arg(tip);
         const qsizetype step = std::max(qsizetype{1}, m_rows.size() / mostLabels);
         if (place % step == 0)
-            text += labelText(left, step, row[0]);
+            text += labelText(left, place / step % 2 == 1, row[0]);
         return text;
     }
 
-    /// As many letters as have room before the next label.
-    [[nodiscard]] QString labelText(double left, qsizetype step, const QString& label) const
+    /// @param isSecond every second label has no room on a telephone.
+    [[nodiscard]] static QString labelText(double left, bool isSecond, const QString& label)
     {
-        constexpr double letterWidth = 7;
-        const auto letters = static_cast<qsizetype>(room() * static_cast<double>(step) / letterWidth);
-        return u"<text x=\"%1\" y=\"%2\">%3</text>\n"_s.arg(left, 0, 'f', 1)
+        return u"<text%1 x=\"%2\" y=\"%3\">%4</text>\n"_s.arg(isSecond ? u" class=\"second\""_s : QString())
+            .arg(left, 0, 'f', 1)
             .arg(chartHeight + labelHeight - 3)
-            .arg(label.left(letters).toHtmlEscaped());
+            .arg(label.toHtmlEscaped());
     }
 
     const QList<PageRow>& m_rows;
-    bool m_hasBefore;
     double m_highest = 0;
 };
 
+/// The tag of a cell, "td" or "th", with the class of its column.
+QString cellTag(QLatin1StringView tag, PageColumn kind)
+{
+    switch (kind) {
+    case PageColumn::Number:
+    case PageColumn::Share:
+        return u"<%1 class=\"n\">"_s.arg(tag);
+    case PageColumn::Name:
+        return u"<%1 class=\"w\">"_s.arg(tag);
+    case PageColumn::Text:
+    case PageColumn::Shop:
+        break;
+    }
+    return u"<%1>"_s.arg(tag);
+}
+
 QString headText(const PageSection& shown)
 {
-    QString text = u"<tr>"_s;
+    QString text = u"<thead><tr>"_s;
     for (const PageHeading& heading : shown.headings) {
         if (heading.kind == PageColumn::Shop)
             continue;
-        text += heading.kind == PageColumn::Number ? u"<th class=\"n\">"_s : u"<th>"_s;
-        text += QLatin1StringView(heading.text) + u"</th>"_s;
+        text += cellTag("th"_L1, heading.kind) + QLatin1StringView(heading.text) + u"</th>"_s;
+        if (heading.kind == PageColumn::Share)
+            text += u"<th></th>"_s;
     }
-    return text + u"</tr>\n"_s;
+    return text + u"</tr></thead>\n"_s;
+}
+
+/// A bar in a cell after that of the number, the whole width for everything.
+QString shareText(const QString& percent)
+{
+    return u"<td><svg class=\"share\" viewBox=\"0 0 100 10\" preserveAspectRatio=\"none\" "
+           "aria-hidden=\"true\"><rect class=\"now\" width=\"%1\" height=\"10\"/></svg></td>"_s.arg(
+               std::min(sizeOf(percent), 100.0), 0, 'f', 1);
+}
+
+QString contentText(const QString& cell, PageColumn kind)
+{
+    const bool isNumber = kind == PageColumn::Number || kind == PageColumn::Share;
+    return cellText(isNumber ? groupedText(cell) : cell);
 }
 
 QString rowText(const PageSection& shown, const PageRow& row)
@@ -133,13 +178,14 @@ QString rowText(const PageSection& shown, const PageRow& row)
         const PageColumn kind = shown.headings[place].kind;
         if (kind == PageColumn::Shop) {
             shop = cell;
-        } else if (!shop.isEmpty()) {
-            text += u"<td><a href=\"%1\">%2</a></td>"_s.arg(shopPageName(shop), cellText(cell));
-            shop.clear();
-        } else {
-            text += (kind == PageColumn::Number ? u"<td class=\"n\">"_s : u"<td>"_s) + cellText(cell) +
-                    u"</td>"_s;
+            continue;
         }
+        QString content = contentText(cell, kind);
+        if (const QString linked = std::exchange(shop, {}); !linked.isEmpty())
+            content = u"<a href=\"%1\">%2</a>"_s.arg(shopPageName(linked), content);
+        text += cellTag("td"_L1, kind) + content + u"</td>"_s;
+        if (kind == PageColumn::Share)
+            text += shareText(cell);
     }
     return text + u"</tr>\n"_s;
 }
@@ -162,11 +208,6 @@ QString foldedTable(const PageSection& shown, const QList<PageRow>& rows)
     return u"<details><summary>Figures</summary>\n%1</details>\n"_s.arg(table);
 }
 
-bool comparesYears(const PageSection& shown)
-{
-    return QLatin1StringView(shown.headings[2].text) == "A year earlier"_L1;
-}
-
 } // namespace
 
 QString shopPageName(const QString& shop)
@@ -181,9 +222,9 @@ QString sectionText(const PageSection& shown, const QList<PageRow>& rows)
     const QString title = QString::fromLatin1(shown.title);
     QString text = u"<section>\n<h2>%1</h2>\n"_s.arg(title.toHtmlEscaped());
     if (shown.hasBars)
-        text += Bars(rows, comparesYears(shown)).text(title);
-    if (shown.hasBars && comparesYears(shown))
-        text += u"<p>Dark: takings. Pale: a year earlier.</p>\n"_s;
+        text += Bars(rows).text(title);
+    if (*shown.note != '\0')
+        text += u"<p>%1</p>\n"_s.arg(QLatin1StringView(shown.note));
     return text + foldedTable(shown, rows) + u"</section>\n"_s;
 }
 

@@ -70,7 +70,7 @@ TEST_F(PagesTest, ShowTheSumsOfTheChainAndOfEachShop)
     const QString shop = textOf("shop-2.html");
     EXPECT_TRUE(shop.startsWith(u"Tea & <b>Cakes|"_s)) << shop.toStdString();
     EXPECT_TRUE(shop.contains(u"|Hot \"&\"|482.85|30|100.0|"_s));
-    EXPECT_TRUE(shop.endsWith(u"|0001|Tea </td>|482.85|30"_s));
+    EXPECT_TRUE(shop.endsWith(u"|Tea </td>|482.85|30|0001"_s));
     EXPECT_FALSE(shop.contains(cornerShop));
     EXPECT_TRUE(shop.contains(QDate::currentDate().addDays(-29).toString(Qt::ISODate) + u"|32.19|29.00|"_s));
 
@@ -78,6 +78,24 @@ TEST_F(PagesTest, ShowTheSumsOfTheChainAndOfEachShop)
     ASSERT_EQ(publish({odd}).code, 0);
     ASSERT_EQ(pages().code, 0);
     EXPECT_TRUE(textOf("index.html").contains(u"|483.85|435.00|"_s)) << "the pages are replaced";
+}
+
+TEST_F(PagesTest, CompareTheSameDaysAndIgnoreAWrongClock)
+{
+    makeShop(cornerShop);
+    change(cornerShop,
+           "insert into PLUSALES (ID, SALESDATE, PROMO, WASTE, COUNT1, VALUE1) values "
+           "('0001', date('now', 'localtime'), 0, 0, 1, 1234567.5), ('0001', '2099-01-05', 0, 0, 1, 7), "
+           "('0001', date('now', 'localtime', '-1 year'), 0, 0, 1, 1000000), "
+           "('0001', date('now', 'localtime', '-1 year', '+1 day'), 0, 0, 1, 500000)");
+    ASSERT_EQ(publish({cornerShop}).code, 0);
+    ASSERT_EQ(pages().code, 0);
+    const QString today = QDate::currentDate().toString(Qt::ISODate);
+    const QString all = textOf("index.html");
+    EXPECT_TRUE(all.contains(u'|' + today.left(7) + u"|1,234,567.50|1,000,000.00|23.5|"_s))
+        << all.toStdString();
+    EXPECT_TRUE(all.contains(u"|Days ago|Corner Shop|"_s + today + u"|0|"_s)) << all.toStdString();
+    EXPECT_FALSE(all.contains(u"2099"_s));
 }
 
 TEST_F(PagesTest, AreRefusedWithASentence)
