@@ -103,9 +103,20 @@ std::vector<std::string> totalStatements()
     return all;
 }
 
+/// Days that a register with a wrong clock sold in the future are not the last ones, and no shard of a
+/// cluster is taken for a table.
+std::vector<std::string> clockStatements()
+{
+    auto all = viewStatements();
+    for (const std::string& statement : partitionFunctions())
+        all.push_back(statement);
+    return all;
+}
+
 /// Each step upgrades a schema by one version; the first creates version 1.
 using SchemaStep = std::vector<std::string> (*)();
-constexpr auto steps = std::to_array<SchemaStep>({tableStatements, nothing, totalStatements});
+constexpr auto steps =
+    std::to_array<SchemaStep>({tableStatements, nothing, totalStatements, clockStatements});
 constexpr int currentVersion = static_cast<int>(steps.size());
 constexpr const char* versionTable = "chain_version";
 
@@ -167,8 +178,14 @@ void takeSteps(pqxx::work& work)
     work.exec0("UPDATE chain_version SET version = " + std::to_string(currentVersion));
 }
 
-[[noreturn]] void failWithoutRights(const Server& server)
+[[noreturn]] void failWithoutRights(const Server& server, bool isThere)
 {
+    if (isThere) {
+        throw ChainError(
+            ChainFailure::NoRights,
+            u"%1 may not upgrade the schema %2 (%3): let its owner run chain init with this program."_s.arg(
+                server.user(), QLatin1StringView(schemaName), server.where()));
+    }
     throw ChainError(
         ChainFailure::NoRights,
         u"%1 may not make the schema %2 (%3): let the owner of the database run CREATE SCHEMA %2 "
@@ -188,13 +205,14 @@ void refuseLater(const Server& server, int version)
                          .arg(server.where()));
 }
 
-void upgrade(Server& server)
+/// @param isThere whether there is an older one.
+void upgrade(Server& server, bool isThere)
 {
     try {
         server.transact(takeSteps);
     } catch (const ChainError& error) {
         if (error.failure() == ChainFailure::NoRights)
-            failWithoutRights(server);
+            failWithoutRights(server, isThere);
         throw;
     }
 }
@@ -211,7 +229,7 @@ void prepareSchema(Server& server)
     const int version = installedVersion(server);
     refuseLater(server, version);
     if (version != currentVersion)
-        upgrade(server);
+        upgrade(server, version >= 0);
     makeMonthsAhead(server);
 }
 

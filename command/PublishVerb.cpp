@@ -244,6 +244,12 @@ void PublishRun::note(ExitCode code, const QString& text)
         m_code = code;
 }
 
+/// "1 day", "3 published days".
+QString daysText(qsizetype count, const QString& kind = {})
+{
+    return u"%1 %2%3"_s.arg(count).arg(kind, count == 1 ? u"day"_s : u"days"_s);
+}
+
 } // namespace
 
 ExitCode codeOf(const chain::ChainError& error)
@@ -260,15 +266,15 @@ QString vanishedText(const QString& name, const chain::Published& published)
 {
     QStringList parts;
     if (!published.vanished.isEmpty()) {
-        parts << u"%1 published days (%2 to %3)"_s.arg(published.vanished.size())
-                     .arg(published.vanished.first().toString(Qt::ISODate),
-                          published.vanished.last().toString(Qt::ISODate));
+        parts << u"%1 (%2 to %3)"_s.arg(daysText(published.vanished.size(), u"published "_s),
+                                        published.vanished.first().toString(Qt::ISODate),
+                                        published.vanished.last().toString(Qt::ISODate));
     }
     if (!published.vanishedNames.isEmpty())
         parts << u"all %1"_s.arg(published.vanishedNames.join(u", "_s));
     QString text = u"\"%1\" no longer has %2: they remain as published."_s.arg(name, parts.join(u" and "_s));
     if (published.heldBack > 0)
-        text += u" So do %1 days that differ."_s.arg(published.heldBack);
+        text += u" So does what differs in %1."_s.arg(daysText(published.heldBack));
     return text + u" Was the shop reset? --vanished keep keeps them, --vanished remove deletes them."_s;
 }
 

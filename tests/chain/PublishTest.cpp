@@ -128,7 +128,7 @@ TEST_F(PublishTest, NeverEmptiesAShopThatWasReset)
     EXPECT_EQ(
         message.err.toStdString(),
         "\"Corner Shop\" no longer has 2 published days (2026-10-31 to 2026-11-02) and all employees: they "
-        "remain as published. So do 1 days that differ. Was the shop reset? --vanished keep keeps them, "
+        "remain as published. So does what differs in 1 day. Was the shop reset? --vanished keep keeps them, "
         "--vanished remove deletes them.\n");
     EXPECT_EQ(query(days), "31 01 02 03");
     EXPECT_EQ(query(u"SELECT takings, net_sales FROM takings_by_day WHERE day = '2026-11-01'"_s),

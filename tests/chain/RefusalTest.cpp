@@ -128,7 +128,7 @@ TEST_F(RefusalTest, LeavesALaterSchemaUnchanged)
 {
     EXPECT_EQ(publish({cornerShop}).code, 0);
     EXPECT_EQ(query(u"UPDATE chain_version SET version = 99"_s), "");
-    expectRefused(publish({cornerShop}), 13, u"has version 99 and this program knows versions up to 3"_s);
+    expectRefused(publish({cornerShop}), 13, u"has version 99 and this program knows versions up to 4"_s);
 }
 
 TEST_F(RefusalTest, ContinuesAfterTheConnectionBrokeBetweenRows)
@@ -273,6 +273,9 @@ TEST_F(RefusalTest, ADayWithBadRowsDoesNotStopTheOthers)
         {"update PLUSALES set COUNT1 = 1, ID = null", u"PLUSALES of 2026-02-05 has a row without plu."_s},
         {"delete from PLUSALES; update MIXSALES set ID = 9999999999 where SALESDATE = '2026-02-05'",
          u"MIXSALES of 2026-02-05 has mix \"9999999999\", which is not a whole number."_s},
+        {"delete from MIXSALES where SALESDATE = '2026-02-05'; insert into MIXSALES values (1, '1970-01-01', "
+         "1, 0)",
+         u"1970-01-01 is too long ago, or too far ahead, for the chain: was the clock of a register wrong?"_s},
     };
     for (const auto& [sql, text] : damages) {
         change(cornerShop, sql);

@@ -108,11 +108,16 @@ TEST_F(RightsTest, AShopPublishesAndChecksWithItsOwnLogin)
         EXPECT_EQ(refused.code, 12) << refused.err.toStdString();
         EXPECT_TRUE(refused.err.contains(u"may not publish \"Other\""_s)) << refused.err.toStdString();
     }
+    EXPECT_EQ(query(u"UPDATE chain_version SET version = 3"_s), "");
+    const Ended former = publish({cornerShop}, asShop());
+    EXPECT_EQ(former.code, 12);
+    EXPECT_TRUE(former.err.contains(u"may not upgrade the schema norvane"_s)) << former.err.toStdString();
+    EXPECT_EQ(chain({u"init"_s}).code, 0);
     // A month for each day of a register's wrong clock would be a table for everybody.
     change(cornerShop, "insert into MIXSALES values (5, '2009-03-01', 100, 0), (5, '2026-03-02', 100, 0)");
     const Ended old = publish({cornerShop}, asShop());
     EXPECT_EQ(old.code, 8);
-    EXPECT_TRUE(old.err.contains(u"no month is made for 2009-03-01"_s)) << old.err.toStdString();
+    EXPECT_TRUE(old.err.contains(u"2009-03-01 is too long ago"_s)) << old.err.toStdString();
     EXPECT_EQ(query(u"SELECT count(*) FROM mix_sales WHERE shop = 2"_s), "3");
 }
 
