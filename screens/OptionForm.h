@@ -10,9 +10,9 @@
 #include "screens/RecordEditor.h"
 #include "screens/ReportRunner.h"
 #include "screens/ScreenReader.h"
-#include "screens/ScreenTool.h"
 #include "screens/SideRoom.h"
 #include "screens/TypedChanges.h"
+#include "screens/WindowTool.h"
 #include "store/engine/Database.h"
 #include "store/engine/WorkHistory.h"
 

@@ -20,6 +20,9 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::screens
@@ -142,13 +145,9 @@ QPushButton* OptionForm::addButton(const ButtonRow& entry, QHBoxLayout& row)
 /// @return nullptr if none of @p tools is for this screen.
 QPushButton* OptionForm::addToolsButton(const ScreenTools& tools, QHBoxLayout& row)
 {
-    QVector<MenuTool> shown;
-    for (const ScreenTool& tool : tools) {
-        if (!tool.forManyRecords || m_list)
-            shown += {tool.name, tool.caption, tool.keys, [this, use = tool.use] {
-                          use(*this);
-                      }};
-    }
+    ScreenTools shown;
+    std::ranges::copy_if(tools, std::back_inserter(shown),
+                         [this](const ScreenTool& tool) { return !tool.forManyRecords || m_list; });
     QPushButton* const button = makeMoreButton(shown, *this);
     if (button != nullptr)
         row.insertWidget(row.count() - 1, button, 1);

@@ -3,7 +3,6 @@
 
 #include "ui/FormKit.h"
 
-#include <QAction>
 #include <QMenu>
 
 using namespace Qt::Literals::StringLiterals;
@@ -11,22 +10,24 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::screens
 {
 
-QPushButton* makeMoreButton(const QVector<MenuTool>& tools, QWidget& window)
+QPushButton* makeEmptyMoreButton(QWidget& window)
 {
-    if (tools.isEmpty())
-        return nullptr;
     auto* const menu = new QMenu(&window);
     menu->setObjectName(u"MoreMenu"_s);
-    for (const MenuTool& tool : tools) {
-        QAction* const action = menu->addAction(tool.caption, &window, tool.use);
-        action->setObjectName(tool.name);
-        action->setShortcut(tool.keys);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        window.addAction(action);
-    }
     QPushButton* const button = ui::makeButton(u"MoreTools"_s, u"&More"_s, &window);
     button->setMenu(menu);
     return button;
+}
+
+QAction* addToMenu(const QPushButton& more, QWidget& window, const QString& name, const QString& caption,
+                   const QKeySequence& keys)
+{
+    QAction* const action = more.menu()->addAction(caption);
+    action->setObjectName(name);
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    window.addAction(action);
+    return action;
 }
 
 } // namespace norvane::screens

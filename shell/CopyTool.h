@@ -3,7 +3,7 @@
 
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
-#include "screens/ScreenTool.h"
+#include "screens/WindowTool.h"
 #include "shell/FrmMain.h"
 
 namespace norvane::shell

@@ -1,7 +1,7 @@
 // "Export..." and "Import..." of the table of a screen's records.
 #pragma once
 
-#include "screens/table/TableTool.h"
+#include "screens/WindowTool.h"
 #include "shell/TableOpeners.h"
 
 namespace norvane::shell

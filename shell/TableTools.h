@@ -1,7 +1,7 @@
 // What the tables of records offer in their menu "More".
 #pragma once
 
-#include "screens/table/TableTool.h"
+#include "screens/WindowTool.h"
 #include "shell/TableOpeners.h"
 
 namespace norvane::shell

@@ -161,18 +161,6 @@ QHBoxLayout* TableWindow::makeRecordRow()
     return row;
 }
 
-/// @return nullptr without tools.
-QPushButton* TableWindow::makeToolsButton(const TableTools& tools)
-{
-    QVector<MenuTool> entries;
-    for (const TableTool& tool : tools) {
-        entries += {tool.name, tool.caption, tool.keys, [this, use = tool.use] {
-                        use(*this);
-                    }};
-    }
-    return makeMoreButton(entries, *this);
-}
-
 void TableWindow::layOut(const TableTools& tools)
 {
     auto* const exit = ui::makeButton(u"ExitTable"_s, u"E&xit"_s, this);
@@ -180,7 +168,7 @@ void TableWindow::layOut(const TableTools& tools)
     auto* const setField = ui::makeButton(u"SetField"_s, u"Set a &Field..."_s, this);
     connect(setField, &QPushButton::clicked, this, &TableWindow::setField);
     QHBoxLayout* const buttons = ui::makeButtonRow({makeSaveButton(), exit}, {makeColumnsButton(), setField});
-    if (QPushButton* const more = makeToolsButton(tools))
+    if (QPushButton* const more = makeMoreButton(tools, *this))
         buttons->insertWidget(2, more);
     auto* const column = new QVBoxLayout(this);
     column->setSpacing(ui::spacing::controlGap);

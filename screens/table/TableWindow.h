@@ -7,7 +7,7 @@
 #include "screens/table/ColumnMemory.h"
 #include "screens/table/PendingEdits.h"
 #include "screens/table/TableColumns.h"
-#include "screens/table/TableTool.h"
+#include "screens/WindowTool.h"
 
 #include <QWidget>
 
@@ -117,7 +117,6 @@ private:
     [[nodiscard]] QPushButton* makeSaveButton();
     void buildFilters();
     [[nodiscard]] QHBoxLayout* makeRecordRow();
-    [[nodiscard]] QPushButton* makeToolsButton(const TableTools& tools);
     void layOut(const TableTools& tools);
     void buildUses();
     [[nodiscard]] std::optional<KeyUses> readUses(int atMost);
