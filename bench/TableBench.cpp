@@ -197,6 +197,31 @@ void setFieldToUndo(benchmark::State& state)
         [&] { bareRaiseAll(bare.database()); });
 }
 
+/// Undoes that, as Ctrl+Z does: first it counts what somebody else has changed meanwhile. Beside a bare loop
+/// that sets the field again.
+void undoField(benchmark::State& state)
+{
+    const Shop shop;
+    const Shop bare;
+    double ours = 0;
+    double bareSeconds = 0;
+    while (state.KeepRunning()) {
+        store::WorkHistory history;
+        raiseAll(shop, &history);
+        const store::RowChanges& changes = history.latest(shop.database())->changes;
+        state.counters["megabytes"] = static_cast<double>(changes.size()) / 1e6;
+        const double undo = bench::processorSecondsOf([&] {
+            store::Database database(shop.database());
+            require(changes.changedSince(database) == 0, "nobody else has changed a row");
+            require(changes.takeBack(database) == pluCount, "all rows are as before");
+        });
+        bareSeconds += bench::processorSecondsOf([&] { bareRaiseAll(bare.database()); });
+        ours += undo;
+        state.SetIterationTime(undo);
+    }
+    state.counters["ratio"] = ours / bareSeconds;
+}
+
 } // namespace
 
 BENCHMARK(openTable)->Unit(benchmark::kMillisecond)->Iterations(10);
@@ -205,6 +230,7 @@ BENCHMARK(sortColumn)->Unit(benchmark::kMillisecond)->Iterations(12);
 BENCHMARK(refreshFiltered)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(setField)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4);
 BENCHMARK(setFieldToUndo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4);
+BENCHMARK(undoField)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4);
 
 int main(int argc, char** argv)
 {

@@ -3,6 +3,7 @@
 
 #include "screens/OptionForm.h"
 #include "screens/table/TableWindow.h"
+#include "shell/FieldLabels.h"
 #include "shell/FrmMain.h"
 #include "shell/MainStatusBar.h"
 #include "shell/UndoWork.h"
@@ -20,7 +21,14 @@ void refreshRecords(const FrmMain& main)
 
 void undoStored(FrmMain& main, const ApplicationValues& values, Boxes& boxes, store::WorkHistory& history)
 {
-    const QString notice = undoLatestWork(values, boxes, history);
+    FieldLabels labels(values);
+    const UndoNames names{
+        [&labels](const QString& table, const QString& key) { return labels.record(table, key); },
+        [&labels](const QString& table, const QString& field) { return labels.field(table, field); },
+        [&labels](const QString& table, const QString& field, const QString& plain) {
+            return labels.value(table, field, plain);
+        }};
+    const QString notice = undoLatestWork(values, boxes, history, names);
     refreshRecords(main);
     main.statusBar1().setNotice(notice);
 }

@@ -3,7 +3,6 @@
 
 #include "customers/CustomerLog.h"
 #include "customers/RunLock.h"
-#include "platform/Excerpt.h"
 
 #include <QFileInfo>
 
@@ -23,56 +22,85 @@ QString records(std::size_t count)
     return count == 1 ? u"1 record"_s : u"%1 records"_s.arg(count);
 }
 
-QString lineOf(const store::FieldDifference& difference)
+QString numbers(int count)
 {
-    const auto& [table, record, field, now, then, wereUnset] = difference;
-    const QString place = u"%1 %2"_s.arg(table, record).trimmed();
-    if (wereUnset)
-        return u"%1, unset again, which screens show as 0: %2"_s.arg(place, excerpt(field));
-    if (field.isEmpty())
-        return (now.isEmpty() ? u"%1 is added again"_s : u"%1 is deleted"_s).arg(place);
-    return u"%1, %2: %3 becomes %4"_s.arg(place, field, now.isEmpty() ? u"empty"_s : now,
-                                          then.isEmpty() ? u"empty"_s : then);
+    return count == 1 ? u"1 number"_s : u"%1 numbers"_s.arg(count);
 }
 
-/// "PLUDATA 1001, PLUDATA 1002 and 3 more".
-QString changedRows(const store::RowChanges& changes, store::Database& database, std::size_t count)
+/// The texts of the question and of the refusal.
+class UndoTexts
 {
-    const QStringList names = changes.rowsChangedSince(database, mostNamed);
-    const auto more = count - static_cast<std::size_t>(names.size());
-    return names.join(u", "_s) + (more > 0 ? u" and %1 more"_s.arg(more) : QString());
-}
-
-/// What the undo would do, for the question.
-QString explanation(const store::RowChanges& changes, store::Database& database, std::size_t changedSince)
-{
-    auto differences = changes.differences(database, mostShown + 1);
-    const bool isCut = differences.size() > mostShown;
-    differences.resize(std::min(differences.size(), mostShown));
-    QStringList lines;
-    for (const auto& difference : differences)
-        lines << lineOf(difference);
-    if (isCut)
-        lines << u"... %1 in all"_s.arg(records(changes.count() - changedSince));
-    if (changedSince > 0) {
-        lines << changedRows(changes, database, changedSince) +
-                     (changedSince == 1 ? u" was changed since and remains as it is"_s
-                                        : u" were changed since and remain as they are"_s);
+public:
+    UndoTexts(const store::FinishedWork& work, store::Database& database, const UndoNames& names)
+        : m_work(work), m_database(database), m_names(names)
+    {
     }
-    return lines.join(u'\r');
-}
 
-QString refuse(const store::FinishedWork& work, store::Database& database, Boxes& boxes)
-{
-    const std::size_t count = work.changes.count();
-    boxes.message(
-        u"\"%1\" of %2 cannot be undone: %3 %4 changed again since, in another window, by an upload "
-        "or by another program."_s.arg(work.name, work.ended.toString(u"hh:mm"_s),
-                                       changedRows(work.changes, database, count),
-                                       count == 1 ? u"was"_s : u"were"_s),
-        title, BoxIcon::Exclamation);
-    return u"Not undone: "_s + work.name;
-}
+    [[nodiscard]] QString question(std::size_t changedSince) const
+    {
+        return u"Undo \"%1\" of %2?\r\r%3"_s.arg(m_work.name, time(), explanation(changedSince));
+    }
+
+    [[nodiscard]] QString refusal() const
+    {
+        const std::size_t count = m_work.changes.count();
+        return u"\"%1\" of %2 cannot be undone: %3 %4 changed again since, in another window, by an upload "
+               "or by another program."_s.arg(m_work.name, time(), changedRows(count),
+                                              count == 1 ? u"was"_s : u"were"_s);
+    }
+
+private:
+    [[nodiscard]] QString time() const { return m_work.ended.toString(u"hh:mm"_s); }
+
+    [[nodiscard]] QString lineOf(const store::FieldDifference& difference) const
+    {
+        const auto& [table, key, field, now, then, unset] = difference;
+        const QString record = m_names.record(table, key);
+        if (unset > 0) {
+            return u"%1: %2 %3 empty again, which screens show as 0"_s.arg(
+                record, numbers(unset), unset == 1 ? u"becomes"_s : u"become"_s);
+        }
+        if (field.isEmpty())
+            return (now.isEmpty() ? u"%1 is added again"_s : u"%1 is deleted again"_s).arg(record);
+        const auto shown = [&](const QString& value) {
+            return value.isEmpty() ? u"empty"_s : m_names.value(table, field, value);
+        };
+        return u"%1, %2: %3 becomes %4"_s.arg(record, m_names.field(table, field), shown(now), shown(then));
+    }
+
+    /// "PLU 1001, PLU 1002 and 3 more".
+    [[nodiscard]] QString changedRows(std::size_t count) const
+    {
+        QStringList named;
+        for (const auto& [table, key] : m_work.changes.rowsChangedSince(m_database, mostNamed))
+            named << m_names.record(table, key);
+        const auto more = count - static_cast<std::size_t>(named.size());
+        return named.join(u", "_s) + (more > 0 ? u" and %1 more"_s.arg(more) : QString());
+    }
+
+    /// What the undo would do.
+    [[nodiscard]] QString explanation(std::size_t changedSince) const
+    {
+        auto differences = m_work.changes.differences(m_database, mostShown + 1);
+        const bool isCut = differences.size() > mostShown;
+        differences.resize(std::min(differences.size(), mostShown));
+        QStringList lines;
+        for (const auto& difference : differences)
+            lines << lineOf(difference);
+        if (isCut)
+            lines << u"... %1 in all"_s.arg(records(m_work.changes.count() - changedSince));
+        if (changedSince > 0) {
+            lines << changedRows(changedSince) + (changedSince == 1
+                                                      ? u" was changed since and remains as it is"_s
+                                                      : u" were changed since and remain as they are"_s);
+        }
+        return lines.join(u'\r');
+    }
+
+    const store::FinishedWork& m_work;
+    store::Database& m_database;
+    const UndoNames& m_names;
+};
 
 /// @return how many records were restored; nothing while another run works with the customer.
 std::optional<std::size_t> takeBack(const store::FinishedWork& work, store::Database& database,
@@ -89,21 +117,22 @@ std::optional<std::size_t> takeBack(const store::FinishedWork& work, store::Data
 
 } // namespace
 
-QString undoLatestWork(const ApplicationValues& values, Boxes& boxes, store::WorkHistory& history)
+QString undoLatestWork(const ApplicationValues& values, Boxes& boxes, store::WorkHistory& history,
+                       const UndoNames& names)
 {
     const store::FinishedWork* const latest = history.latest(values.databasePath);
     if (latest == nullptr)
         return u"There is nothing to undo"_s;
     store::Database database(values.databasePath);
     const store::FinishedWork work = *latest;
+    const UndoTexts texts(work, database, names);
     const std::size_t changedSince = work.changes.changedSince(database);
     if (changedSince == work.changes.count()) {
         history.removeLatest(values.databasePath);
-        return refuse(work, database, boxes);
+        boxes.message(texts.refusal(), title, BoxIcon::Exclamation);
+        return u"Not undone: "_s + work.name;
     }
-    const QString question = u"Undo \"%1\" of %2?\r\r%3"_s.arg(
-        work.name, work.ended.toString(u"hh:mm"_s), explanation(work.changes, database, changedSince));
-    if (!boxes.ask(question, title, BoxIcon::Question, BoxAnswer::No))
+    if (!boxes.ask(texts.question(changedSince), title, BoxIcon::Question, BoxAnswer::No))
         return {};
     const auto restored = takeBack(work, database, values, boxes);
     if (!restored)

@@ -69,9 +69,15 @@ public:
         if (computes() && !amount)
             return {{}, {u"\"%1\" is not a number"_s.arg(excerpt(m_change.text))}};
         m_amount = amount.value_or(Decimal());
-        const auto held = m_table.rows().valuesOf(rows, {m_change.column, m_change.source});
-        for (std::size_t place = 0; place < rows.size(); ++place)
-            take(rows[place], {held[place][0], held[place][1], held[place][2]});
+        std::vector<int> columns{m_change.column};
+        if (m_change.kind == ChangeKind::Copy)
+            columns.push_back(m_change.source);
+        const auto held = m_table.rows().valuesOf(rows, columns);
+        m_plan.edits.reserve(rows.size());
+        for (std::size_t place = 0; place < rows.size(); ++place) {
+            const auto& values = held[place];
+            take(rows[place], {values.front(), values[columns.size() - 1], values.back()});
+        }
         return std::move(m_plan);
     }
 
@@ -79,7 +85,7 @@ private:
     /// What is stored of a record.
     struct Stored {
         const store::Value& field;  ///< in the column that is set
-        const store::Value& source; ///< in the one to copy from
+        const store::Value& source; ///< in the one to copy from, if any
         const store::Value& key;
     };
 

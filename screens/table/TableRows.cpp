@@ -205,19 +205,23 @@ int TableRows::rowOfKey(const QString& key) const
 std::vector<TableRows::Values> TableRows::valuesOf(const std::vector<int>& rows,
                                                    const std::vector<int>& columns) const
 {
-    std::unordered_map<qint64, std::size_t> places;
+    std::vector<std::pair<qint64, std::size_t>> places; // by row id
+    places.reserve(rows.size());
+    for (const int row : rows)
+        places.emplace_back(rowId(row), places.size());
+    std::ranges::sort(places);
     std::vector<store::Value> ids;
-    for (const int row : rows) {
-        places.emplace(rowId(row), places.size());
-        if (rows.size() <= rowsOfBlock)
-            ids.push_back(store::Value::whole(rowId(row)));
-    }
+    for (std::size_t place = 0; place < rows.size() && rows.size() <= rowsOfBlock; ++place)
+        ids.push_back(store::Value::whole(places[place].first));
     const std::string sought = ids.empty() ? "" : " WHERE rowid IN (" + placeholders(ids.size()) + ")";
-    store::BoundQuery query(*m_database, select(columns) + sought, ids, m_source.table);
+    store::BoundQuery query(*m_database, select(columns) + sought + " ORDER BY rowid", ids, m_source.table);
     std::vector<Values> all(rows.size(), Values(columns.size() + 1));
-    while (query.next()) {
-        const auto place = places.find(std::get<std::int64_t>(query.value(0).data()));
-        for (std::size_t field = 0; place != places.end() && field <= columns.size(); ++field)
+    auto place = places.cbegin();
+    while (place != places.cend() && query.next()) {
+        const auto id = std::get<std::int64_t>(query.value(0).data());
+        place = std::find_if(place, places.cend(), [id](const auto& each) { return each.first >= id; });
+        for (std::size_t field = 0; place != places.cend() && place->first == id && field <= columns.size();
+             ++field)
             all[place->second][field] = query.value(static_cast<int>(field) + 1);
     }
     return all;

@@ -26,6 +26,8 @@ public:
 
 private:
     struct Recording;
+    void stop();
+
     Database& m_database;
     std::unique_ptr<Recording> m_recording;
 };

@@ -4,11 +4,12 @@
 #include "register/PluNumber.h"
 #include "store/engine/AllOrNothing.h"
 #include "store/engine/Connection.h"
-#include "store/engine/RowIds.h"
 #include "store/engine/RowImage.h"
+#include "store/engine/Savepoint.h"
+#include "store/engine/TableBack.h"
 
 #include <algorithm>
-#include <numeric>
+#include <ranges>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,80 +18,8 @@ namespace norvane::store
 namespace
 {
 
-std::string listOf(const QStringList& fields, const char* after)
-{
-    std::string list;
-    for (const QString& field : fields)
-        list.append(list.empty() ? "" : ", ").append(quotedName(field)).append(after);
-    return list;
-}
-
-std::string insertOf(const QString& table, const QStringList& fields)
-{
-    std::string marks;
-    for (qsizetype i = 0; i < fields.size(); ++i)
-        marks += "?, ";
-    return "INSERT INTO " + quotedName(table) + " (" + listOf(fields, "") + ", _rowid_) VALUES (" + marks +
-           "?)";
-}
-
-std::string updateOf(const QString& table, const QStringList& fields)
-{
-    return "UPDATE " + quotedName(table) + " SET " + listOf(fields, " = ?") + " WHERE _rowid_ = ?";
-}
-
-/// The rows of one table on their way back. A statement is prepared when the first row needs it.
-class TableBack
-{
-public:
-    TableBack(Connection& connection, const QString& table, const QStringList& fields)
-        : m_connection(connection), m_table(table), m_fields(fields),
-          m_rows(connection.handle(), table, fields)
-    {
-    }
-
-    [[nodiscard]] const std::string& now(std::int64_t rowId) { return m_rows.read(rowId); }
-
-    void restore(std::int64_t rowId, const std::string& before, bool isThere)
-    {
-        auto& statement = isThere ? m_update : m_insert;
-        if (!statement)
-            statement.emplace(prepare(isThere ? updateOf(m_table, m_fields) : insertOf(m_table, m_fields)));
-        const auto values = valuesOf(before);
-        int parameter = 0;
-        for (const Value& value : values)
-            statement->bind(++parameter, value);
-        statement->bind(++parameter, rowId);
-        statement->run();
-    }
-
-    void remove(std::int64_t rowId)
-    {
-        if (!m_delete) {
-            retireAllRowIds(m_connection, *m_connection.shape(m_table));
-            m_delete.emplace(prepare("DELETE FROM " + quotedName(m_table) + " WHERE _rowid_ = ?"));
-        }
-        m_delete->bind(1, rowId);
-        m_delete->run();
-    }
-
-private:
-    [[nodiscard]] PreparedStatement prepare(const std::string& sql) const
-    {
-        return {m_connection.handle(), sql, u"%1, table %2."_s.arg(m_connection.path(), m_table)};
-    }
-
-    Connection& m_connection;
-    QString m_table;
-    QStringList m_fields;
-    RowImages m_rows;
-    std::optional<PreparedStatement> m_insert;
-    std::optional<PreparedStatement> m_update;
-    std::optional<PreparedStatement> m_delete;
-};
-
 /// Whether a row that is now @p now is still as the work left it.
-bool isAsLeft(const std::string& now, std::uint64_t after)
+bool isAsLeft(std::string_view now, std::uint64_t after)
 {
     return now.empty() ? after == 0 : after == digestOf(now);
 }
@@ -110,7 +39,7 @@ public:
     {
     }
 
-    void addTo(std::vector<FieldDifference>& all, const std::string& now, const std::string& then) const
+    void addTo(std::vector<FieldDifference>& all, std::string_view now, std::string_view then) const
     {
         const auto newValues = valuesOf(now);
         const auto oldValues = valuesOf(then);
@@ -123,24 +52,23 @@ public:
                            oldValues.empty() ? QString() : record});
             return;
         }
-        QStringList unset;
+        int unset = 0;
         for (qsizetype i = 0; i < m_fields.size(); ++i) {
             const auto place = static_cast<std::size_t>(i);
             const auto* const field = fieldNamed(m_table, m_fields[i]);
             if (field != nullptr && isUnset(*field, newValues[place], oldValues[place])) {
-                unset += field->name;
+                ++unset;
             } else if (field != nullptr) {
                 addTo(all, record, *field, newValues[place], oldValues[place]);
             }
         }
-        if (!unset.isEmpty())
-            all.push_back({m_table.name, record, unset.join(u", "_s), u"0"_s, {}, true});
+        if (unset > 0)
+            all.push_back({m_table.name, record, {}, {}, {}, unset});
     }
 
-    /// "PLUDATA 1001".
-    [[nodiscard]] QString nameOf(const std::string& image) const
+    [[nodiscard]] RecordName nameOf(std::string_view image) const
     {
-        return u"%1 %2"_s.arg(m_table.name, recordOf(valuesOf(image))).trimmed();
+        return {m_table.name, recordOf(valuesOf(image))};
     }
 
 private:
@@ -180,71 +108,89 @@ private:
 
 std::size_t RowChanges::size() const
 {
-    return std::accumulate(m_rows.begin(), m_rows.end(), m_rows.capacity() * sizeof(Row),
-                           [](std::size_t sum, const Row& row) { return sum + row.before.capacity(); });
+    return m_rows.capacity() * sizeof(Row) + m_images.capacity();
+}
+
+template <typename Take>
+void RowChanges::walk(Database& database, Take take) const
+{
+    sqlite3* const handle = connectionOf(database).handle();
+    const Savepoint reading(handle);
+    std::vector<RowImages> tables;
+    for (const Table& table : m_tables)
+        tables.emplace_back(handle, table.name, table.fields);
+    for (const Row& row : m_rows) {
+        const std::string& now = tables[row.table].read(row.rowId);
+        if (!take(row, now, isAsLeft(now, row.after)))
+            return;
+    }
 }
 
 std::size_t RowChanges::changedSince(Database& database) const
 {
-    std::vector<RowImages> tables;
-    for (const Table& table : m_tables)
-        tables.emplace_back(connectionOf(database).handle(), table.name, table.fields);
-    return static_cast<std::size_t>(std::ranges::count_if(m_rows, [&tables](const Row& row) {
-        return !isAsLeft(tables[row.table].read(row.rowId), row.after);
-    }));
+    std::size_t count = 0;
+    walk(database, [&](const Row&, const std::string&, bool isAsItWasLeft) {
+        count += isAsItWasLeft ? 0 : 1;
+        return true;
+    });
+    return count;
 }
 
-QStringList RowChanges::rowsChangedSince(Database& database, std::size_t most) const
+std::vector<RecordName> RowChanges::rowsChangedSince(Database& database, std::size_t most) const
 {
-    QStringList names;
-    for (const Row& row : m_rows) {
-        if (static_cast<std::size_t>(names.size()) >= most)
-            break;
-        const Table& table = m_tables[row.table];
-        RowImages rows(connectionOf(database).handle(), table.name, table.fields);
-        const std::string& now = rows.read(row.rowId);
-        if (!isAsLeft(now, row.after))
-            names += RowComparison(database.table(table.name), table.fields)
-                         .nameOf(row.before.empty() ? now : row.before);
-    }
+    std::vector<RecordName> names;
+    walk(database, [&](const Row& row, const std::string& now, bool isAsItWasLeft) {
+        const auto& [table, fields] = m_tables[row.table];
+        if (!isAsItWasLeft)
+            names.push_back(
+                RowComparison(database.table(table), fields).nameOf(row.length == 0 ? now : before(row)));
+        return names.size() < most;
+    });
     return names;
 }
 
 std::vector<FieldDifference> RowChanges::differences(Database& database, std::size_t most) const
 {
     std::vector<FieldDifference> all;
-    for (const Row& row : m_rows) {
-        if (all.size() >= most)
-            break;
-        const Table& table = m_tables[row.table];
-        RowImages rows(connectionOf(database).handle(), table.name, table.fields);
-        const std::string& now = rows.read(row.rowId);
-        if (isAsLeft(now, row.after))
-            RowComparison(database.table(table.name), table.fields).addTo(all, now, row.before);
-    }
+    walk(database, [&](const Row& row, const std::string& now, bool isAsItWasLeft) {
+        const auto& [table, fields] = m_tables[row.table];
+        if (isAsItWasLeft)
+            RowComparison(database.table(table), fields).addTo(all, now, before(row));
+        return all.size() < most;
+    });
     all.resize(std::min(all.size(), most));
     return all;
 }
 
+/// Finds out first what each row needs: a walk in the order of the work is quick.
 std::size_t RowChanges::takeBack(Database& database) const
 {
     std::size_t restored = 0;
     allOrNothing(database, [&] {
         std::vector<TableBack> tables;
-        for (const Table& table : m_tables)
-            tables.emplace_back(connectionOf(database), table.name, table.fields);
-        for (std::size_t i = m_rows.size(); i > 0; --i) {
-            const Row& row = m_rows[i - 1];
-            TableBack& table = tables[row.table];
-            if (!isAsLeft(table.now(row.rowId), row.after))
-                continue;
-            ++restored;
-            if (row.before.empty()) {
-                table.remove(row.rowId);
+        tables.reserve(m_tables.size());
+        for (const auto& [table, fields] : m_tables)
+            tables.emplace_back(connectionOf(database), table, fields);
+        std::vector<std::pair<const Row*, TableBack::Update*>> rows;
+        rows.reserve(m_rows.size());
+        walk(database, [&](const Row& row, const std::string& now, bool isAsItWasLeft) {
+            const bool isChanged = row.length > 0 && row.after != 0;
+            if (isAsItWasLeft)
+                rows.emplace_back(&row, isChanged ? &tables[row.table].updateFor(now, before(row)) : nullptr);
+            return true;
+        });
+        // The latest change first: keys were free in that order.
+        for (const auto& [row, update] : std::views::reverse(rows)) {
+            TableBack& table = tables[row->table];
+            if (update != nullptr) {
+                table.update(row->rowId, *update, before(*row));
+            } else if (row->length > 0) {
+                table.insert(row->rowId, before(*row));
             } else {
-                table.restore(row.rowId, row.before, row.after != 0);
+                table.remove(row->rowId);
             }
         }
+        restored = rows.size();
     });
     return restored;
 }

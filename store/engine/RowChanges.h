@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace norvane::store
@@ -20,8 +21,15 @@ struct FieldDifference {
     QString field;  ///< empty if the whole record is added or deleted
     QString now;    ///< empty for a record that is added
     QString then;   ///< empty for a record that is deleted
-    /// Numbers that were never set, which screens show as 0: @c field has the names of all of them.
-    bool wereUnset = false;
+    /// Numbers that were never set and are 0, which looks the same on screens: so many of the record's, in
+    /// place of a field.
+    int unset = 0;
+};
+
+/// A record, for the user.
+struct RecordName {
+    QString table;
+    QString key; ///< the value of the table's first index
 };
 
 /// The changed rows of one piece of work. ChangeRecorder makes it. The values are kept as bytes: as objects,
@@ -37,8 +45,8 @@ public:
     /// How many of the rows have changed again since the work, or were deleted or replaced.
     /// @throws RuntimeFailure as the database reports.
     [[nodiscard]] std::size_t changedSince(Database& database) const;
-    /// The names of such rows: "PLUDATA 1001". @throws RuntimeFailure as the database reports.
-    [[nodiscard]] QStringList rowsChangedSince(Database& database, std::size_t most) const;
+    /// The first such rows. @throws RuntimeFailure as the database reports.
+    [[nodiscard]] std::vector<RecordName> rowsChangedSince(Database& database, std::size_t most) const;
     /// What takeBack() would change: the first @p most differences, in the order of the work.
     /// @throws RuntimeFailure as the database reports.
     [[nodiscard]] std::vector<FieldDifference> differences(Database& database, std::size_t most) const;
@@ -59,12 +67,24 @@ private:
     struct Row {
         std::size_t table;
         std::int64_t rowId;
-        std::string before;      ///< all values; empty for a record that the work added
+        std::size_t from;        ///< of its values before the work in m_images
+        std::size_t length;      ///< 0 for a record that the work added
         std::uint64_t after = 0; ///< digest of the values; 0 for a record that the work deleted
     };
 
+    [[nodiscard]] std::string_view before(const Row& row) const
+    {
+        return std::string_view(m_images).substr(row.from, row.length);
+    }
+
+    /// Calls @p take with each row, its values now (empty if it is gone) and whether they are as the work
+    /// left them, until it returns false.
+    template <typename Take>
+    void walk(Database& database, Take take) const;
+
     std::vector<Table> m_tables;
     std::vector<Row> m_rows; ///< in the order of their first change
+    std::string m_images;    ///< all values of the rows
 };
 
 } // namespace norvane::store

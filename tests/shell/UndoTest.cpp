@@ -36,17 +36,16 @@ TEST_F(UndoTest, EachWorkIsUndoneTheLatestFirst)
     m_boxes.answers = {true};
     child<QAction>(*m_main, "ResetPrice").trigger();
     EXPECT_EQ(plus(), "Cider 0.00");
-    EXPECT_TRUE(undo(false).starts_with("Undo \"Reset Prices\" of "));
+    expectAsked(undo(false), "Reset Prices", "PLU 1002, Price 1: 0.00 becomes 3.00");
     EXPECT_EQ(plus(), "Cider 0.00") << "after No";
     undo();
     EXPECT_EQ(plus(), "Cider 3");
     EXPECT_EQ(notice(), "Undone: Reset Prices, 1 record");
-    expectAsked(undo(), "Deleted PLU 1001", "PLUDATA 1001 is added again");
+    expectAsked(undo(), "Deleted PLU 1001", "PLU 1001 is added again");
     EXPECT_EQ(plus(), "Stout 2.5|Cider 3");
     const std::string question = undo();
-    expectAsked(question, "Saved PLU 1001", "PLUDATA 1001, DESCRIPTION: Stout becomes Lager");
-    EXPECT_NE(question.find("\rPLUDATA 1001, unset again, which screens show as 0: PRICE2, "),
-              std::string::npos)
+    expectAsked(question, "Saved PLU 1001", "PLU 1001, Description: Stout becomes Lager\r");
+    EXPECT_TRUE(question.ends_with("\rPLU 1001: 4 numbers become empty again, which screens show as 0"))
         << question;
     EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
     EXPECT_EQ(undo(), "");
@@ -70,7 +69,7 @@ TEST_F(UndoTest, ATableUndoesWhatIsNotStoredAndThenWhatIsStored)
     EXPECT_EQ(names(), "Bitter Cider");
     EXPECT_EQ(undo(), "");
     EXPECT_EQ(names(), "Stout Cider");
-    EXPECT_NE(undo().find("DESCRIPTION: Stout becomes Lager"), std::string::npos);
+    EXPECT_NE(undo().find("Description: Stout becomes Lager"), std::string::npos);
     EXPECT_EQ(names(), "Lager Cider");
     EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
 }
@@ -100,7 +99,7 @@ TEST_F(UndoTest, RecordsDeletedInATableComeBackTogether)
     EXPECT_EQ(plus(), "Perry 4");
     EXPECT_EQ(view.model()->rowCount(), 1);
     EXPECT_EQ(shown(screen, pluName), "Perry") << "the screen left the deleted record";
-    EXPECT_NE(undo().find("PLUDATA 1001 is added again\rPLUDATA 1002 is added again"), std::string::npos);
+    EXPECT_NE(undo().find("PLU 1001 is added again\rPLU 1002 is added again"), std::string::npos);
     EXPECT_EQ(plus(), "Lager 2.5|Cider 3|Perry 4");
 }
 
@@ -117,7 +116,7 @@ TEST_F(UndoTest, WhatATableStoredIsUndoneFromItsScreen)
     m_main->bringToFront(screen);
     child<QLineEdit>(screen, pluName).setFocus();
     const std::string question = undo();
-    EXPECT_NE(question.find("DESCRIPTION: Stout becomes Lager"), std::string::npos) << question << notice();
+    EXPECT_NE(question.find("Description: Stout becomes Lager"), std::string::npos) << question << notice();
     EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
 }
 
@@ -130,7 +129,7 @@ TEST_F(UndoTest, ACellOfAGridIsUndoneWhereverItIsShown)
     auto& grid = child<QTableView>(euro, "gridcontrol_0");
     grid.model()->setData(grid.model()->index(0, 2), u"1.25"_s);
     grid.setFocus();
-    expectAsked(undo(), "Saved PLU 1001", "PLUDATA 1001, ");
+    expectAsked(undo(), "Saved PLU 1001", "PLU 1001, Euro price 1: 1.25 becomes empty");
     EXPECT_NE(grid.model()->index(0, 2).data(), u"1.25"_s);
     EXPECT_EQ(table.index(0, 1).data(), u"Lager"_s);
 }
@@ -143,7 +142,7 @@ TEST_F(UndoTest, ANewRecordIsDeletedAgain)
     type(screen, pluNumber, "555");
     save(screen);
     EXPECT_EQ(plus(), " 0|Lager 2.5|Cider 3");
-    expectAsked(undo(), "Added PLU 555", "PLUDATA 555 is deleted");
+    expectAsked(undo(), "Added PLU 555", "PLU 555 is deleted again");
     EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
     EXPECT_EQ(shown(screen, pluName), "Lager") << "the screen left the deleted record";
 }
@@ -157,11 +156,11 @@ TEST_F(UndoTest, WhatSomebodyChangedSinceRemains)
     child<QAction>(*m_main, "ResetPrice").trigger();
     execute(u"update PLUDATA set PRICE1 = '9' where DESCRIPTION = 'Stout'"_s);
     const std::string question = undo();
-    EXPECT_TRUE(question.ends_with("PLUDATA 1001 was changed since and remains as it is")) << question;
+    EXPECT_TRUE(question.ends_with("PLU 1001 was changed since and remains as it is")) << question;
     EXPECT_EQ(plus(), "Stout 9|Cider 3");
     const std::string refusal = undo();
     EXPECT_TRUE(refusal.starts_with("\"Saved PLU 1001\" of ")) << refusal;
-    EXPECT_NE(refusal.find(": PLUDATA 1001 was changed again since"), std::string::npos) << refusal;
+    EXPECT_NE(refusal.find(": PLU 1001 was changed again since"), std::string::npos) << refusal;
     EXPECT_EQ(plus(), "Stout 9|Cider 3");
     EXPECT_EQ(notice(), "Not undone: Saved PLU 1001");
 }

@@ -77,6 +77,29 @@ TEST_F(RowChangesTest, TakesBackChangesDeletionsAndAdditions)
     EXPECT_EQ(rows(), m_before);
 }
 
+TEST_F(RowChangesTest, KnowsFieldsThatStatementsOfBeforeChangeAgain)
+{
+    auto items = m_database.openTable(u"items"_s);
+    const auto setGroup = [&items](const char* number, int newGroup) {
+        items.seek(Seek::Equal, text(number));
+        items.edit();
+        items.setValue(u"GROUPNO"_s, Value::whole(newGroup));
+        items.update();
+    };
+    setGroup("01", 5);
+    const std::string before = rows();
+    const RowChanges recording = recorded([&] {
+        for (const char* const number : {"03", "01", "02", "01"})
+            setGroup(number, 8);
+        m_database.execute(u"update items set [ROUNDON%] = 7, description = 'x' where number = '01'"_s);
+        setGroup("02", 300);
+    });
+    EXPECT_EQ(recording.count(), 2U) << "02 is what it was";
+    EXPECT_EQ(recording.changedSince(m_database), 0U);
+    EXPECT_EQ(recording.takeBack(m_database), 2U);
+    EXPECT_EQ(rows(), before);
+}
+
 TEST_F(RowChangesTest, ARecordsetAtARowSeesItAgain)
 {
     auto items = m_database.openTable(u"items"_s);
@@ -127,7 +150,7 @@ TEST_F(RowChangesTest, NamesWhatWouldBeDifferent)
 {
     const RowChanges recording = recorded([this] { changeDeleteAndAdd(); });
     std::string found;
-    for (const auto& [table, record, field, now, then, wereUnset] : recording.differences(m_database, 10))
+    for (const auto& [table, record, field, now, then, unset] : recording.differences(m_database, 10))
         found += u"%1 %2 %3: %4 -> %5\n"_s.arg(table, record, field, now, then).toStdString();
     EXPECT_EQ(found, "Items 01 GROUPNO: 4 -> -7\nItems 01 ROUNDON%: 2 -> 0.1\nItems 01 TAX/x: no -> yes\n"
                      "Items 02 :  -> 02\nItems 04 : 04 -> \n");
