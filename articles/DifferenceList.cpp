@@ -33,13 +33,13 @@ void DifferenceList::list(const SheetComparison& comparison, const ColumnNames& 
     m_lines.clear();
     m_counts = {};
     m_isCut = comparison.mistakes().count() > SheetMistakes::mostKept;
-    addMistakes(comparison.mistakes());
+    addMistakes(comparison.mistakes(), comparison.sheet(), names);
     comparison.forEach([&](const SheetChange& change) { addChange(change, comparison.sheet(), names); });
     choose();
     endResetModel();
 }
 
-void DifferenceList::list(const PlannedList& planned)
+void DifferenceList::list(const PlannedList& planned, const HeadingLabels& labels)
 {
     beginResetModel();
     m_lines.clear();
@@ -53,7 +53,7 @@ void DifferenceList::list(const PlannedList& planned)
         if (isNew)
             add({kind, record, {}, {}, u"new record"_s});
         for (const auto& [heading, before, after] : fields)
-            add({kind, record, heading, before, after});
+            add({kind, record, labels.value(heading, heading), before, after});
     }
     choose();
     endResetModel();
@@ -94,10 +94,14 @@ void DifferenceList::add(Difference line)
     }
 }
 
-void DifferenceList::addMistakes(const SheetMistakes& mistakes)
+void DifferenceList::addMistakes(const SheetMistakes& mistakes, const TableSheet& sheet,
+                                 const ColumnNames& names)
 {
-    for (const auto& [line, column, reason, place] : mistakes.first())
-        add({DifferenceKind::Mistake, place, column, {}, reason});
+    for (const auto& [line, heading, reason, place] : mistakes.first()) {
+        const auto column = std::ranges::find(sheet.columns, heading, &SheetColumn::heading);
+        const QString name = column == sheet.columns.end() ? heading : nameOf(*column, names);
+        add({DifferenceKind::Mistake, place, name, {}, reason});
+    }
 }
 
 /// A new record may have only a number.

@@ -16,6 +16,9 @@ namespace norvane::articles
 
 enum class DifferenceKind { Mistake, Changed, New };
 
+/// What users call the columns of a table, by the headings of its files.
+using HeadingLabels = QHash<QString, QString>;
+
 /// A line of the list.
 struct Difference {
     DifferenceKind kind;
@@ -38,8 +41,8 @@ public:
 
     /// Lists what @p comparison has found. @param names of the columns for the user
     void list(const SheetComparison& comparison, const ColumnNames& names);
-    /// Lists what is planned.
-    void list(const PlannedList& planned);
+    /// Lists what is planned. @param labels of the columns for the user, by their headings
+    void list(const PlannedList& planned, const HeadingLabels& labels);
     void clear();
     /// Shows only lines of this kind; nothing for all.
     void showOnly(std::optional<DifferenceKind> kind);
@@ -54,7 +57,7 @@ public:
 
 private:
     void add(Difference line);
-    void addMistakes(const SheetMistakes& mistakes);
+    void addMistakes(const SheetMistakes& mistakes, const TableSheet& sheet, const ColumnNames& names);
     void addChange(const SheetChange& change, const TableSheet& sheet, const ColumnNames& names);
     void choose();
 

@@ -192,9 +192,20 @@ void ImportDialog::compare()
     showFound();
 }
 
+/// The last column, with the reasons of mistakes, gets what the others leave.
+void ImportDialog::fitColumns()
+{
+    for (std::size_t column = 0; column < columnPixels.size(); ++column) {
+        const int place = static_cast<int>(column);
+        m_view->resizeColumnToContents(place);
+        m_view->setColumnWidth(place, qMin(m_view->columnWidth(place), ui::scaled(columnPixels.at(column))));
+    }
+}
+
 void ImportDialog::showFound()
 {
     m_list->list(m_file.comparison(), m_order.names);
+    fitColumns();
     m_import->setEnabled(m_file.comparison().mistakes().isEmpty() && m_file.comparison().changeCount() > 0);
     say(findings());
 }

@@ -64,6 +64,7 @@ private:
     [[nodiscard]] QHBoxLayout* makeButtons();
     void layOut();
     void compare();
+    void fitColumns();
     void showFound();
     [[nodiscard]] QString findings() const;
     void showKind();

@@ -1,7 +1,6 @@
 // Controls of the window of planned changes; see PlannedDialog.h.
 #include "articles/PlannedDialog.h"
 
-#include "articles/DifferenceList.h"
 #include "articles/SpreadsheetError.h"
 #include "customers/RunLock.h"
 #include "platform/ShownTime.h"
@@ -35,9 +34,9 @@ constexpr std::array changePixels{72, 150, 150, 130};
 
 } // namespace
 
-PlannedDialog::PlannedDialog(ApplicationValues values, Boxes& boxes, QWidget* parent)
-    : QDialog(parent), m_values(std::move(values)), m_boxes(boxes), m_lists(new QTreeWidget(this)),
-      m_changes(new DifferenceList(this))
+PlannedDialog::PlannedDialog(ApplicationValues values, LabelsOf labelsOf, Boxes& boxes, QWidget* parent)
+    : QDialog(parent), m_values(std::move(values)), m_labelsOf(std::move(labelsOf)), m_boxes(boxes),
+      m_lists(new QTreeWidget(this)), m_changes(new DifferenceList(this))
 {
     ui::nameControl(*this, u"PlannedDialog"_s);
     setWindowTitle(u"%1 of %2"_s.arg(plannedTitle, m_values.customerName));
@@ -138,10 +137,12 @@ void PlannedDialog::showChanges()
     const Row* const row = chosen();
     m_cancel->setEnabled(row != nullptr && row->file.state == PlannedState::Planned);
     m_again->setEnabled(row != nullptr && row->file.state == PlannedState::Cancelled);
-    m_changes->list({});
+    m_changes->clear();
     try {
-        if (row != nullptr)
-            m_changes->list(row->file.read());
+        if (row != nullptr) {
+            const PlannedList list = row->file.read();
+            m_changes->list(list, m_labelsOf(list.table));
+        }
     } catch (const TextError&) {
         // Damaged, or renamed since it was listed.
         return;

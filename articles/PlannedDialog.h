@@ -1,11 +1,14 @@
 // The changes of a customer that are stored later: what each list changes, cancelling one.
 #pragma once
 
+#include "articles/DifferenceList.h"
 #include "articles/PlannedChanges.h"
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 
 #include <QDialog>
+
+#include <functional>
 
 class QLayout;
 class QPushButton;
@@ -15,8 +18,6 @@ class QTreeWidget;
 namespace norvane::articles
 {
 
-class DifferenceList;
-
 /// Lists what is planned, what is stored and not sent yet, and what was cancelled; the earliest day first.
 /// Failures are shown in a box, and the dialog remains open.
 class PlannedDialog : public QDialog
@@ -24,8 +25,11 @@ class PlannedDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// What users call the columns of a table.
+    using LabelsOf = std::function<HeadingLabels(const QString& table)>;
+
     /// @param values of the customer who owns the data @param boxes must outlive it
-    PlannedDialog(ApplicationValues values, Boxes& boxes, QWidget* parent);
+    PlannedDialog(ApplicationValues values, LabelsOf labelsOf, Boxes& boxes, QWidget* parent);
 
 private:
     void layOut();
@@ -50,6 +54,7 @@ private:
     [[nodiscard]] const Row* chosen() const;
 
     ApplicationValues m_values;
+    LabelsOf m_labelsOf;
     Boxes& m_boxes;
     std::vector<Row> m_rows;
     QTreeWidget* m_lists;

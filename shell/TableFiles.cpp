@@ -15,6 +15,7 @@
 #include "reports/window/RunProgress.h"
 #include "screens/table/TableModel.h"
 #include "screens/table/TableWindow.h"
+#include "shell/FieldLabels.h"
 #include "shell/FrmMain.h"
 #include "shell/MainStatusBar.h"
 #include "store/catalogue/Catalogue.h"
@@ -231,6 +232,20 @@ void importTable(TableWindow& window, const TableSurroundings& around)
     main.statusBar1().setNotice(dialog.notice());
 }
 
+articles::HeadingLabels headingLabels(const QString& table, FieldLabels& labels)
+{
+    articles::HeadingLabels result;
+    const auto* const known = store::catalogueTable(table);
+    if (known == nullptr)
+        return result;
+    for (const articles::SheetColumn& column : articles::tableSheet(*known, 0).columns) {
+        const QString label = labels.field(table, column.field);
+        if (label != column.field)
+            result.insert(column.heading, label);
+    }
+    return result;
+}
+
 } // namespace
 
 screens::TableTools makeFileTools(const TableSurroundings& around)
@@ -243,7 +258,11 @@ screens::TableTools makeFileTools(const TableSurroundings& around)
     };
     const auto planned = [around](TableWindow& window) {
         openOrTell(around.boxes, [&] {
-            articles::PlannedDialog(tableOfFile(window, around.values).owner, around.boxes, &around.main)
+            const ApplicationValues owner = tableOfFile(window, around.values).owner;
+            FieldLabels labels(owner);
+            articles::PlannedDialog(
+                owner, [&labels](const QString& table) { return headingLabels(table, labels); }, around.boxes,
+                &around.main)
                 .exec();
         });
     };

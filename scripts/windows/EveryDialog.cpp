@@ -141,7 +141,8 @@ QWidget* plannedChanges(Ground& ground, QWidget* parent)
         (void)articles::addPlannedList(folder, {{2027, month, 1}, u"PLUDATA"_s, {}, {}, {}, {record}});
     articles::cancelPlannedList(folder, articles::plannedFiles(folder)[1]);
     writeWholeFile(articles::plannedFiles(folder)[2].path, "damaged");
-    return new articles::PlannedDialog(ground.values, ground.shop.boxes(), parent);
+    return new articles::PlannedDialog(
+        ground.values, [](const QString&) { return articles::HeadingLabels(); }, ground.shop.boxes(), parent);
 }
 
 /// The copy of a layout, saved with two mistakes after the preview was opened.

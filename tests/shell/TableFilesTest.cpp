@@ -1,5 +1,5 @@
 // Files of a table out of the real main window, and back into it.
-#include "tests/shell/FrameFixture.h"
+#include "tests/shell/TableFixture.h"
 #include "tests/support/OtherPrograms.h"
 
 namespace norvane::shell
@@ -7,16 +7,14 @@ namespace norvane::shell
 namespace
 {
 
-class TableFilesTest : public FrameFixture
+class TableFilesTest : public TableFixture
 {
 protected:
     TableFilesTest()
     {
         execute(u"insert into GROUPS (GROUPNO, DESCRIPTION) values (3, 'Drinks')"_s);
         execute(u"update PLUDATA set GROUPNO = 3 where DESCRIPTION = 'Cider'"_s);
-        m_screen = &open("PLUMENU");
-        child<QAction>(*m_screen, "ShowTable").trigger();
-        m_table = &front();
+        openTable();
     }
     /// @return the file, as bytes.
     QByteArray exportTo(const char* file)
@@ -26,45 +24,10 @@ protected:
         QFile written(m_folder.path(file));
         return written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
     }
-    /// Does @p act in the dialog that imports @p file, and closes it if it is still open.
-    void importFrom(const QString& file, const std::function<void(QDialog& dialog)>& act)
-    {
-        m_boxes.typed = {file};
-        bool isOpen = false;
-        QTimer wait;
-        QObject::connect(&wait, &QTimer::timeout, m_table, [&] {
-            auto* const dialog = m_main->findChild<QDialog*>(u"ImportDialog"_s);
-            if (dialog == nullptr || !dialog->isVisible() || std::exchange(isOpen, true))
-                return;
-            act(*dialog);
-            if (dialog->isVisible())
-                dialog->reject();
-        });
-        wait.start(1);
-        child<QAction>(*m_table, "ImportTable").trigger();
-        EXPECT_EQ(isOpen, !file.isEmpty());
-    }
     void importText(const QByteArray& text, const std::function<void(QDialog& dialog)>& act)
     {
         m_folder.write("app/in.csv", text);
-        importFrom(m_folder.path("app/in.csv"), act);
-    }
-    /// "Changed|1001|Price 1|2.50|2.60", line by line.
-    static std::string list(const QDialog& dialog)
-    {
-        const auto& model = *child<QTableView>(dialog, "Differences").model();
-        QStringList lines;
-        for (int row = 0; row < model.rowCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < model.columnCount(); ++column)
-                cells += model.index(row, column).data().toString();
-            lines += cells.join(u'|');
-        }
-        return lines.join(u'\n').toStdString();
-    }
-    static std::string state(const QDialog& dialog)
-    {
-        return child<QLabel>(dialog, "State").text().toStdString();
+        EXPECT_TRUE(importFrom(m_folder.path("app/in.csv"), act));
     }
     static bool mayImport(const QDialog& dialog)
     {
@@ -80,19 +43,16 @@ protected:
         QFile file(m_folder.path("app/Cafe/norvane.log"));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-
-    QWidget* m_screen;
-    QWidget* m_table;
 };
 
 TEST_F(TableFilesTest, WhatIsShownGoesIntoFilesThatCanBeImportedAgain)
 {
     for (const char* const file : {"app/out.csv", "app/out.xlsx"}) {
         EXPECT_FALSE(exportTo(file).isEmpty());
-        importFrom(m_folder.path(file), [](const QDialog& dialog) {
+        EXPECT_TRUE(importFrom(m_folder.path(file), [](const QDialog& dialog) {
             EXPECT_EQ(state(dialog), "The file changes nothing: 2 unchanged.");
             EXPECT_FALSE(mayImport(dialog));
-        });
+        }));
     }
     auto& view = child<QTableView>(*m_table, "TableView");
     view.sortByColumn(1, Qt::AscendingOrder);
@@ -121,12 +81,12 @@ TEST_F(TableFilesTest, AnImportIsListedStoredLoggedAndUndone)
 {
     importText("PLU number;Price 1;Description\n1001;2,60;Lager\n1002;3;Cider\n7;1;Tea\n",
                [&](const QDialog& dialog) {
-                   EXPECT_EQ(list(dialog), "Changed|1001|Price 1|2.50|2.60\nNew|7|||new PLU\nNew|7|Price "
-                                           "1|0.00|1.00\nNew|7|Description||Tea");
+                   EXPECT_EQ(lines(dialog), "Changed|1001|Price 1|2.50|2.60\nNew|7|||new PLU\nNew|7|Price "
+                                            "1|0.00|1.00\nNew|7|Description||Tea");
                    EXPECT_EQ(state(dialog),
                              "1 changed, 1 new, 1 unchanged. Nothing is stored before you press Import.");
                    pick(dialog, "DifferenceKinds", "Changed records");
-                   EXPECT_EQ(list(dialog), "Changed|1001|Price 1|2.50|2.60");
+                   EXPECT_EQ(lines(dialog), "Changed|1001|Price 1|2.50|2.60");
                    EXPECT_EQ(plus(), "Lager 2.5|Cider 3");
                    press(dialog);
                });
@@ -150,10 +110,10 @@ TEST_F(TableFilesTest, NothingIsStoredOfAFileWithMistakes)
         "PLU number,Price 1,Group\n1001,2.60,3\n1002,cheap,9\n12345678901234567890,1,3\n",
         [](const QDialog& dialog) {
             EXPECT_EQ(
-                list(dialog),
+                lines(dialog),
                 "Mistake|line 3|Price 1||\"cheap\" is not a price\n"
                 "Mistake|line 3|Group||there is no group 9\n"
-                "Mistake|line 4|Number||\"12345678901234567890\" is not a PLU number of up to 18 digits\n"
+                "Mistake|line 4|PLU number||\"12345678901234567890\" is not a PLU number of up to 18 digits\n"
                 "Changed|1001|Price 1|2.50|2.60\nChanged|1001|Group|0|3");
             EXPECT_EQ(state(dialog), "Mistakes: 3. Nothing can be imported before they are mended.");
             EXPECT_FALSE(mayImport(dialog));
@@ -182,9 +142,9 @@ TEST_F(TableFilesTest, TheShopRemembersWhatHeadingsMean)
     importText(file, press);
     EXPECT_EQ(plus(), "Lager 2.6|Cider 3");
     importText(QByteArray(file).replace("2.60", "2.70"), [](const QDialog& dialog) {
-        EXPECT_EQ(list(dialog), "Changed|1001|Price 1|2.60|2.70");
+        EXPECT_EQ(lines(dialog), "Changed|1001|Price 1|2.60|2.70");
         pick(dialog, "ColumnChoice3", "Price 1");
-        EXPECT_EQ(list(dialog), "Mistake|line 2|Supplier||the column is there twice");
+        EXPECT_EQ(lines(dialog), "Mistake|line 2|Supplier||the column is there twice");
     });
 }
 
@@ -197,7 +157,7 @@ TEST_F(TableFilesTest, WhatOthersChangedMeanwhileIsComparedAgain)
                   "Nothing was imported. Records were changed after the file was compared.\r\r"
                   "The list shows what the file would change now.");
         EXPECT_EQ(plus(), "Lager 2.55|Cider 3");
-        EXPECT_EQ(list(dialog), "Changed|1001|Price 1|2.55|2.60");
+        EXPECT_EQ(lines(dialog), "Changed|1001|Price 1|2.55|2.60");
         press(dialog);
     });
     EXPECT_EQ(plus(), "Lager 2.6|Cider 3");
