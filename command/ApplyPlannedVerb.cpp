@@ -36,7 +36,7 @@ using articles::PlannedList, articles::PlannedState, articles::ReadList;
 class DueChanges
 {
 public:
-    DueChanges(const Workplace& workplace, ApplicationValues values, DueNote note)
+    DueChanges(const Workplace& workplace, ApplicationValues values, FailureNote note)
         : m_workplace(workplace), m_values(std::move(values)), m_note(std::move(note))
     {
     }
@@ -164,12 +164,12 @@ private:
 
     const Workplace& m_workplace;
     ApplicationValues m_values;
-    DueNote m_note;
+    FailureNote m_note;
     QStringList m_results;
     bool m_isCopied = false;
 };
 
-/// One customer after the other, whatever happens with one.
+/// Stores and sends what is due of several customers.
 class ApplyRun
 {
 public:
@@ -178,33 +178,11 @@ public:
     /// @throws CommandError with the code of the first thing that went wrong, RuntimeFailure after a signal.
     void run(const QStringList& names)
     {
-        try {
-            for (const QString& name : names)
-                attempt(name);
-        } catch (const RuntimeFailure&) {
-            show();
-            throw;
-        }
-        show();
-        if (m_code != ExitCode::Done)
-            throw CommandError(m_code, {});
+        m_run.forEach(
+            names, [this](const QString& name) { apply(name); }, [this] { show(); });
     }
 
 private:
-    void attempt(const QString& name)
-    {
-        stopIfSignalled();
-        try {
-            apply(name);
-        } catch (const CommandError& error) {
-            note(name, error.code(), error.text());
-        } catch (const RuntimeFailure& failure) {
-            if (failure.failure() == Failure::UserInterrupt)
-                throw;
-            note(name, codeOf(failure), failure.text());
-        }
-    }
-
     void apply(const QString& name)
     {
         if (!hasDueChanges(findCustomer(m_workplace, name)))
@@ -212,19 +190,12 @@ private:
         const ApplicationValues values = takeCustomer(m_workplace, name);
         const auto lock = lockFor(m_workplace, values);
         DueChanges due(m_workplace, values,
-                       [&](ExitCode code, const QString& text) { note(name, code, text); });
+                       [&](ExitCode code, const QString& text) { m_run.note(name, code, text); });
         const auto report = qScopeGuard([&] {
             if (!due.inWords().isEmpty())
                 m_listing.add({QFileInfo(values.customerPath).fileName(), due.inWords()});
         });
         due.storeAndSend();
-    }
-
-    void note(const QString& name, ExitCode code, const QString& text)
-    {
-        printMessage(u"%1: %2"_s.arg(name, text.isEmpty() ? u"not finished."_s : text));
-        if (m_code == ExitCode::Done)
-            m_code = code;
     }
 
     /// A timer that had nothing to do mails nothing.
@@ -236,7 +207,7 @@ private:
 
     const Workplace& m_workplace;
     Listing m_listing{{u"Shop"_s, u"Result"_s}};
-    ExitCode m_code = ExitCode::Done;
+    CustomerRun m_run{u"not finished."_s};
 };
 
 } // namespace
@@ -253,18 +224,10 @@ bool hasDueChanges(const ApplicationValues& values)
            (!planned.empty() && planned.front().list.day <= QDate::currentDate());
 }
 
-QString applyDueChanges(const Workplace& workplace, const ApplicationValues& values, const DueNote& note)
+QString applyDueChanges(const Workplace& workplace, const ApplicationValues& values, const FailureNote& note)
 {
     DueChanges due(workplace, values, note);
-    try {
-        due.storeAndSend();
-    } catch (const CommandError& error) {
-        note(error.code(), error.text());
-    } catch (const RuntimeFailure& failure) {
-        if (failure.failure() == Failure::UserInterrupt)
-            throw;
-        note(codeOf(failure), failure.text());
-    }
+    attempt([&due] { due.storeAndSend(); }, note);
     return due.inWords();
 }
 

@@ -1,10 +1,9 @@
 // Copies of customers elsewhere: making and checking them.
+#include "command/CustomerRun.h"
 #include "command/StopSignals.h"
-#include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
 #include "customers/CopiesElsewhere.h"
 #include "platform/FolderLock.h"
-#include "platform/RuntimeFailure.h"
 
 #include <QDirIterator>
 #include <QFileInfo>
@@ -17,58 +16,17 @@ namespace norvane::command
 namespace
 {
 
-class CopyRun
+/// @return the row of the listing: shop, path and size of the copy. @throws CommandError, RuntimeFailure
+QVariantList copyShop(const Workplace& workplace, const QString& name, const QString& folder)
 {
-public:
-    CopyRun(const Workplace& workplace, QString folder) : m_workplace(workplace), m_folder(std::move(folder))
-    {
-    }
-
-    /// One customer after the other, whatever happens with one.
-    void run(const QStringList& names)
-    {
-        for (const QString& name : names)
-            attempt(name);
-        m_workplace.show(m_listing);
-        if (m_code != ExitCode::Done)
-            throw CommandError(m_code, {});
-    }
-
-private:
-    void attempt(const QString& name)
-    {
-        try {
-            copy(name);
-        } catch (const CommandError& error) {
-            note(name, error.code(), error.text());
-        } catch (const RuntimeFailure& failure) {
-            if (failure.failure() == Failure::UserInterrupt)
-                throw;
-            note(name, codeOf(failure), failure.text());
-        }
-    }
-    void copy(const QString& name)
-    {
-        const ApplicationValues values = takeCustomer(m_workplace, name);
-        const auto lock = FolderLock::take(values.customerPath, m_workplace.boxes);
-        if (lock == nullptr)
-            throw CommandError(codeOfRefusedLock({values.customerPath}), u"not copied."_s);
-        const auto made = customers::makeCopyElsewhere(values.customerPath, m_folder,
-                                                       QDateTime::currentDateTime(), stopIfSignalled);
-        m_listing.add({QFileInfo(values.customerPath).fileName(), made.path, QFileInfo(made.path).size()});
-    }
-    void note(const QString& name, ExitCode code, const QString& text)
-    {
-        printMessage(u"%1: %2"_s.arg(name, text));
-        if (m_code == ExitCode::Done)
-            m_code = code;
-    }
-
-    const Workplace& m_workplace;
-    QString m_folder;
-    Listing m_listing{{u"Shop"_s, u"Copy"_s, u"Bytes"_s}};
-    ExitCode m_code = ExitCode::Done;
-};
+    const ApplicationValues values = takeCustomer(workplace, name);
+    const auto lock = FolderLock::take(values.customerPath, workplace.boxes);
+    if (lock == nullptr)
+        throw CommandError(codeOfRefusedLock({values.customerPath}), {});
+    const auto made = customers::makeCopyElsewhere(values.customerPath, folder, QDateTime::currentDateTime(),
+                                                   stopIfSignalled);
+    return {QFileInfo(values.customerPath).fileName(), made.path, QFileInfo(made.path).size()};
+}
 
 /// A file as named, or all copies below a folder.
 QStringList copiesNamed(const QString& path)
@@ -92,7 +50,12 @@ void copyElsewhere(const Workplace& workplace, const Invocation& words)
     if (!words.has("to"_L1))
         throw CommandError(ExitCode::Usage, u"Name a folder with --to."_s);
     catchStopSignals();
-    CopyRun(workplace, workplace.userFile(words.value("to"_L1))).run(words.operands);
+    const QString folder = workplace.userFile(words.value("to"_L1));
+    Listing listing({u"Shop"_s, u"Copy"_s, u"Bytes"_s});
+    CustomerRun(u"not copied."_s)
+        .forEach(
+            words.operands, [&](const QString& name) { listing.add(copyShop(workplace, name, folder)); },
+            [&] { workplace.show(listing); });
 }
 
 void verifyCopies(const Workplace& workplace, const Invocation& words)

@@ -1,5 +1,6 @@
 // Copies parts of one customer's programme to others.
 #include "base/CustomerSettings.h"
+#include "command/CustomerRun.h"
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
@@ -32,7 +33,7 @@ public:
 
     void add(const QString& name)
     {
-        attempt(name, [&] { compareWith(name); });
+        m_run.attempt(name, [&] { compareWith(name); });
     }
     void show() const
     {
@@ -45,41 +46,15 @@ public:
     void copy()
     {
         for (const auto& shop : m_shops) {
-            attempt(shop->name(), [&] {
+            m_run.attempt(shop->name(), [&] {
                 printStep(u"%1: %2"_s.arg(shop->name(), shop->copy(m_from.customerName, untilSignalled)));
             });
         }
     }
     /// @throws CommandError with the code of the first shop that failed.
-    void end() const
-    {
-        if (m_code != ExitCode::Done)
-            throw CommandError(m_code, {});
-    }
+    void end() const { m_run.end(); }
 
 private:
-    /// The other shops follow, whatever happens with one.
-    template <typename Work>
-    void attempt(const QString& name, Work&& work)
-    {
-        stopIfSignalled();
-        try {
-            work();
-        } catch (const CommandError& error) {
-            note(name, error.code(), error.text());
-        } catch (const RuntimeFailure& failure) {
-            if (failure.failure() == Failure::UserInterrupt)
-                throw;
-            note(name, codeOf(failure), failure.text());
-        }
-    }
-    void note(const QString& name, ExitCode code, const QString& text)
-    {
-        printMessage(u"%1: nothing was copied. %2"_s.arg(name, text).trimmed());
-        if (m_code == ExitCode::Done)
-            m_code = code;
-    }
-
     void compareWith(const QString& name)
     {
         auto shop = std::make_unique<programme::ReceivingShop>(takeCustomer(m_workplace, name));
@@ -116,7 +91,7 @@ private:
     programme::ChosenParts m_parts;
     bool m_isDryRun;
     std::vector<std::unique_ptr<programme::ReceivingShop>> m_shops;
-    ExitCode m_code = ExitCode::Done;
+    CustomerRun m_run{u"nothing was copied."_s};
 };
 
 /// @throws CommandError Usage without tables and for a name that is neither a part nor a table.

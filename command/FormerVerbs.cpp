@@ -1,4 +1,5 @@
 // Customers of the former program: converts their databases, and takes over a whole installation.
+#include "command/CustomerRun.h"
 #include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
@@ -68,19 +69,19 @@ public:
         catchStopSignals();
     }
 
-    /// A folder that cannot be converted is left as it was, and the next one is taken.
-    void convert(const QString& name, const QString& folder)
+    /// A customer that cannot be converted is left as it was; the next one follows.
+    void convert(const QString& name)
     {
-        stopIfSignalled();
-        try {
-            takeFolder(name, folder);
-        } catch (const former::FormerError& error) {
-            note(name, exitCodeOf(error.problem()), error.text());
-        } catch (const RuntimeFailure& failure) {
-            if (failure.failure() == Failure::UserInterrupt)
-                throw;
-            note(name, codeOf(failure), failure.text());
-        }
+        attempt(
+            [&] {
+                const ApplicationValues values = findCustomer(m_workplace, name);
+                try {
+                    takeFolder(values.customerName, values.customerPath);
+                } catch (const former::FormerError& error) {
+                    throw CommandError(exitCodeOf(error.problem()), error.text());
+                }
+            },
+            [&](ExitCode code, const QString& text) { note(name, code, text); });
     }
     void note(const QString& name, ExitCode code, const QString& text)
     {
@@ -219,10 +220,8 @@ void convertCustomers(const Workplace& workplace, const Invocation& words)
     if (isAll == !words.operands.isEmpty())
         throw CommandError(ExitCode::Usage, u"Name customers, or all of them with --all."_s);
     ConversionRun run(workplace, words);
-    for (const QString& name : isAll ? formerCustomers(workplace.appPath) : words.operands) {
-        const ApplicationValues values = findCustomer(workplace, name);
-        run.convert(values.customerName, values.customerPath);
-    }
+    for (const QString& name : isAll ? formerCustomers(workplace.appPath) : words.operands)
+        run.convert(name);
     run.end();
 }
 
@@ -230,17 +229,22 @@ void adoptInstallation(const Workplace& workplace, const Invocation& words)
 {
     const QDir installation(workplace.userFile(words.operands.front()));
     if (!installation.exists())
-        throw CommandError(ExitCode::BadFile, u"There is no folder %1."_s.arg(installation.path()));
+        throw CommandError(ExitCode::Usage, u"There is no folder %1."_s.arg(installation.path()));
+    const QStringList names = formerCustomers(installation.path());
+    if (names.isEmpty()) {
+        throw CommandError(ExitCode::NoCustomer,
+                           u"There is no customer of the former program in %1."_s.arg(installation.path()));
+    }
     ConversionRun run(workplace, words);
-    for (const QString& name : formerCustomers(installation.path())) {
+    for (const QString& name : names) {
         const QString folder = joinPath(workplace.appPath, name);
         if (pathExists(folder)) {
-            run.note(name, ExitCode::BadFile, u"There is a customer of this name already."_s);
+            run.note(name, ExitCode::CustomerExists, u"There is a customer or file of this name already."_s);
             continue;
         }
         const QString failed = copyCustomer(QDir(installation.filePath(name)), folder);
         if (failed.isEmpty()) {
-            run.convert(name, folder);
+            run.convert(name);
         } else {
             run.note(name, ExitCode::Unwritable,
                      u"%1 cannot be written."_s.arg(QDir::toNativeSeparators(failed)));

@@ -1,10 +1,9 @@
 // What the commands for planned changes share.
 #pragma once
 
+#include "command/CustomerRun.h"
 #include "command/Invocation.h"
 #include "command/Workplace.h"
-
-#include <functional>
 
 namespace norvane::command
 {
@@ -15,13 +14,10 @@ namespace norvane::command
 /// Whether a customer has lists that are due or were not sent. It is not opened.
 [[nodiscard]] bool hasDueChanges(const ApplicationValues& values);
 
-/// Gets what went wrong with a list.
-using DueNote = std::function<void(ExitCode code, const QString& text)>;
-
 /// Stores the lists of one customer that are due and sends what they changed. The caller holds the lock of
 /// the run. Failures are given to @p note.
 /// @return "12 PLUs changed, sent to registers 1 to 3". @throws RuntimeFailure after a signal.
 [[nodiscard]] QString applyDueChanges(const Workplace& workplace, const ApplicationValues& values,
-                                      const DueNote& note);
+                                      const FailureNote& note);
 
 } // namespace norvane::command

@@ -61,8 +61,8 @@ protected:
 
 TEST_F(FormerCustomers, ConvertsThoseThatLoseNothing)
 {
-    const Ended looked = run({u"convert"_s, u"Whole"_s, u"--dry-run"_s});
-    EXPECT_EQ(looked.code, 0) << looked.err.toStdString();
+    const Ended looked = run({u"convert"_s, u"Nobody"_s, u"Whole"_s, u"--dry-run"_s});
+    EXPECT_EQ(looked.code, 3) << looked.err.toStdString();
     EXPECT_TRUE(looked.out.contains(u"can be converted"_s));
     EXPECT_EQ(files("Whole"), (QStringList{u"setup.ini"_s, u"velmar.mdb"_s}));
 
@@ -96,8 +96,8 @@ TEST_F(FormerCustomers, AdoptsAnInstallation)
     former.write("Cafe/velmar.ldb", "in use");
     former.write("Drivers/setup.ini", "");
     const Ended ended = run({u"adopt"_s, former.path(), u"--json"_s});
-    EXPECT_EQ(ended.code, 9) << ended.err.toStdString();
-    EXPECT_TRUE(ended.out.contains(u"There is a customer of this name already."_s));
+    EXPECT_EQ(ended.code, 20) << ended.err.toStdString();
+    EXPECT_TRUE(ended.out.contains(u"There is a customer or file of this name already."_s));
     EXPECT_EQ(m_folder.read("Cafe/43.dat"), "kept");
     EXPECT_FALSE(QFile::exists(m_folder.path("Cafe/velmar.ldb")));
     EXPECT_FALSE(QFile::exists(m_folder.path("Drivers")));
@@ -105,6 +105,7 @@ TEST_F(FormerCustomers, AdoptsAnInstallation)
         EXPECT_EQ(test::rowsOf(m_folder.path(taken), u"select description from pludata"_s), "Tea");
     EXPECT_EQ(m_folder.read("Whole/velmar.mdb"), database());
     EXPECT_EQ(former.read("Cafe/VELMAR.MDB"), database());
+    EXPECT_EQ(run({u"adopt"_s, former.path("Drivers")}).code, 3) << "not an installation";
 }
 
 } // namespace
