@@ -1,4 +1,5 @@
 // Safety copies: which there are, and the way back to one.
+#include "command/StopSignals.h"
 #include "command/TerminalBoxes.h"
 #include "command/Verbs.h"
 #include "customers/CopiesElsewhere.h"
@@ -60,6 +61,8 @@ ApplicationValues customerToRestore(const Workplace& workplace, const QString& n
 /// A new customer has no folder to lock: it gets its name when it is complete.
 void restoreFromElsewhere(const Workplace& workplace, const Invocation& words)
 {
+    // Also without a lock the restore is finished first: a half folder would remain.
+    catchStopSignals();
     const QString copy = workplace.userFile(words.operands[1]);
     const ApplicationValues values = customerToRestore(workplace, words.operands[0]);
     const auto lock = pathExists(values.customerPath) ? lockFor(workplace, values) : nullptr;

@@ -144,6 +144,33 @@ void keepLatest(const KeptSpan& kept, int count, const QList<CopyElsewhere>& cop
     }
 }
 
+/// @throws RuntimeFailure with Failure::PathOrFileAccess
+void checkTarget(const QString& customerPath, const QString& folder)
+{
+    // A disk that is not connected must not be replaced by a new folder on this one.
+    if (!QFileInfo(folder).isDir()) {
+        throw RuntimeFailure(Failure::PathOrFileAccess,
+                             u"There is no folder %1. Is its disk connected?"_s.arg(folder));
+    }
+    // Each copy would contain all earlier ones.
+    const QString own = QFileInfo(customerPath).canonicalFilePath() + u'/';
+    const QString target = QFileInfo(folder).canonicalFilePath() + u'/' + QDir(customerPath).dirName() + u'/';
+    if (target.startsWith(own)) {
+        throw RuntimeFailure(
+            Failure::PathOrFileAccess,
+            u"The copies would be in the customer's own folder %1. Choose another disk."_s.arg(customerPath));
+    }
+}
+
+/// Never removes the copy that was just made: after a clock was set back, others have later names.
+void removeSurplus(const QList<CopyElsewhere>& copies, const CopyRule& rule, const QString& made)
+{
+    for (const CopyElsewhere& surplus : surplusCopies(copies, rule)) {
+        if (QFileInfo(surplus.path).fileName() != made)
+            QFile::remove(surplus.path);
+    }
+}
+
 QString databaseIn(const CopyArchive& archive)
 {
     const auto found = std::ranges::find_if(archive.names(), [](const QString& name) {
@@ -210,17 +237,12 @@ QString faultOfCopy(const QString& path, const QString& scratch, const GoOn& goO
 CopyElsewhere makeCopyElsewhere(const QString& customerPath, const QString& folder, const QDateTime& now,
                                 const GoOn& goOn, const CopyRule& rule)
 {
-    // A disk that is not connected must not be replaced by a new folder on this one.
-    if (!QFileInfo(folder).isDir()) {
-        throw RuntimeFailure(Failure::PathOrFileAccess,
-                             u"There is no folder %1. Is its disk connected?"_s.arg(folder));
-    }
+    checkTarget(customerPath, folder);
     LoggedWork work(customerPath, u"copy elsewhere"_s);
     const QString shop = QDir(customerPath).dirName();
     CopyElsewhere copy =
         work.during([&] { return makeCopyIn(joinPath(folder, shop), customerPath, now, goOn); });
-    for (const CopyElsewhere& surplus : surplusCopies(copiesElsewhere(folder, shop), rule))
-        QFile::remove(surplus.path);
+    removeSurplus(copiesElsewhere(folder, shop), rule, QFileInfo(copy.path).fileName());
     work.setResult(copy.path);
     return copy;
 }

@@ -39,7 +39,7 @@ using GoOn = std::function<void()>;
 /// when it was written to the disk and read back; only then are the copies removed that @p rule does not
 /// keep. The caller holds the lock of the folder.
 /// @throws RuntimeFailure with Failure::DiskFull, Failure::PathOrFileAccess, Failure::NotOurDatabase for a
-/// damaged database; nothing is left then.
+/// damaged database; nothing is left then. A target in the customer's own folder is refused, too.
 CopyElsewhere makeCopyElsewhere(const QString& customerPath, const QString& folder, const QDateTime& now,
                                 const GoOn& goOn, const CopyRule& rule = {});
 

@@ -118,12 +118,30 @@ TEST_F(CopiesElsewhereTest, ADamagedCopyIsFoundAndRestoresNothing)
     EXPECT_EQ(m_folder.names().filter(u".dat"_s), QStringList());
 }
 
+TEST_F(CopiesElsewhereTest, TheNewCopyIsKeptWhenTheClockWasSetBack)
+{
+    const auto atHour = [](int hour) {
+        return QDateTime(QDate(2026, 10, 25), QTime(hour, 30));
+    };
+    const CopyElsewhere before = copy(atHour(23));
+    const CopyElsewhere after = copy(atHour(22));
+    EXPECT_TRUE(pathExists(before.path) && pathExists(after.path));
+    (void)copy(atHour(23));
+    EXPECT_EQ(copiesElsewhere(elsewhere(), u"Cafe"_s).size(), 1) << "then the rule holds again";
+}
+
 TEST_F(CopiesElsewhereTest, WithoutRoomOrDiskOrSoundDatabaseNothingIsLeft)
 {
     EXPECT_THROW((void)makeCopyElsewhere(m_values.customerPath, m_folder.path("unplugged"),
                                          QDateTime::currentDateTime(), goOn),
                  RuntimeFailure);
     EXPECT_FALSE(pathExists(m_folder.path("unplugged")));
+    for (const char* const inside : {"app", "app/Cafe", "app/Cafe/copies"}) {
+        EXPECT_THROW((void)makeCopyElsewhere(m_values.customerPath, m_folder.path(inside),
+                                             QDateTime::currentDateTime(), goOn),
+                     RuntimeFailure)
+            << inside;
+    }
     {
         const test::FullDisk full(rlim_t{100} * 1024);
         EXPECT_THROW((void)copy(), RuntimeFailure);
