@@ -12,6 +12,10 @@
 
 #include <csignal>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#endif
+
 using namespace norvane;
 using namespace norvane::command;
 using namespace Qt::Literals::StringLiterals;
@@ -69,6 +73,18 @@ ExitCode guarded(const QStringList& words)
     return ExitCode::Failed;
 }
 
+/// Otherwise the next file that is opened would take the number of a stream that the caller has closed, and
+/// receive what is printed.
+void occupyStandardStreams()
+{
+#ifdef Q_OS_UNIX
+    for (int stream = 0; stream <= 2; ++stream) {
+        if (::fcntl(stream, F_GETFD) < 0)
+            (void)::open("/dev/null", O_RDONLY);
+    }
+#endif
+}
+
 /// The toolkit's notices about the machine must not end up in a script's mail.
 void keepToolkitQuiet(QtMsgType type, const QMessageLogContext& /*place*/, const QString& text)
 {
@@ -80,6 +96,7 @@ void keepToolkitQuiet(QtMsgType type, const QMessageLogContext& /*place*/, const
 
 int main(int argc, char** argv)
 {
+    occupyStandardStreams();
     qInstallMessageHandler(keepToolkitQuiet);
     // Pages are painted with the fonts of the system, but no window opens.
     qputenv("QT_QPA_PLATFORM", "offscreen");

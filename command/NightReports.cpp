@@ -121,7 +121,7 @@ ReportSelection selectionOfClosed(const QString& path, const reports::Period& pe
 QString fileOf(const Workplace& workplace, const ApplicationValues& values, const NightReport& report,
                const reports::Period& period)
 {
-    const QString folder = QDir(workplace.appPath).absoluteFilePath(report.folder);
+    const QString folder = QDir::cleanPath(QDir(workplace.appPath).absoluteFilePath(report.folder));
     if (!QDir().mkpath(folder))
         throw CommandError(ExitCode::Unwritable, u"The folder %1 cannot be made."_s.arg(folder));
     QStringList words{QFileInfo(values.customerPath).fileName()};
@@ -133,9 +133,8 @@ QString fileOf(const Workplace& workplace, const ApplicationValues& values, cons
 
 /// @return how many files.
 int writeReport(const Workplace& workplace, const ApplicationValues& values, const NightReport& report,
-                const reports::Period& period, const QDateTime& now)
+                const QString& path, const reports::Period& period, const QDateTime& now)
 {
-    const QString path = layoutOf(values, report.report);
     reports::ReportRequest request = reportRequest(values, path, now, selectionOfClosed(path, period));
     request.comparedWith = report.comparedWith;
     const QString file = fileOf(workplace, values, report, period);
@@ -150,11 +149,17 @@ int writeReport(const Workplace& workplace, const ApplicationValues& values, con
 int writeDueReports(const Workplace& workplace, const ApplicationValues& values, const NightReport& report,
                     const NightDays& days)
 {
+    // A wrong name is reported from the first night on, not at the end of the first quarter.
+    const QString path = layoutOf(values, report.report);
     const WrittenNote note(values, report);
+    Written written = note.read();
+    // By a clock that was ahead; there would be no report until that day comes.
+    if (written.end > days.now.date())
+        written = {};
     store::Database database(values.databasePath);
     int files = 0;
-    for (const auto& period : duePeriods(*report.period, days.closed, note.read(), database)) {
-        files += writeReport(workplace, values, report, period, days.now);
+    for (const auto& period : duePeriods(*report.period, days.closed, written, database)) {
+        files += writeReport(workplace, values, report, path, period, days.now);
         note.write({period.to, sales::rowsOfDay(database, period.to)});
     }
     return files;

@@ -67,7 +67,7 @@ bool takeFolder(const QString& value, NightReport& report)
 constexpr auto reportRules = std::to_array<SettingRule<NightReport>>({
     {"Report"_L1, "the name of a layout, such as plusales"_L1, takeReport},
     {"Period"_L1, "day, week (from Sunday), week-monday, month, quarter or year"_L1, takePeriod},
-    {"Format"_L1, "pdf, csv or xlsx, or several with commas between"_L1, takeFormats},
+    {"Format"_L1, "pdf, csv or xlsx, or several of them with commas between"_L1, takeFormats},
     {"Folder"_L1, "a folder"_L1, takeFolder},
     {"Compare"_L1, "before or year"_L1, takeComparison},
 });
@@ -107,6 +107,15 @@ QString missingKey(const NightReport& report)
     return report.folder.isEmpty() ? u"Folder"_s : QString();
 }
 
+/// The number of the first line with this section; the file has one.
+int firstLineOf(const SettingsFile& file, const QString& section)
+{
+    const auto isSame = [&section](const SettingLine& line) {
+        return line.section.compare(section, Qt::CaseInsensitive) == 0;
+    };
+    return std::ranges::find_if(file.lines, isSame)->number;
+}
+
 /// A section of the file, from its own line on.
 class ReportSection
 {
@@ -119,6 +128,9 @@ public:
             file.addMistake(heading.number,
                             u"[%1] cannot be a part of a file's name."_s.arg(heading.section));
         }
+        // It would take the place of the first one.
+        if (const int first = firstLineOf(file, heading.section); first != heading.number)
+            file.addMistake(heading.number, u"[%1] is already in line %2."_s.arg(heading.section).arg(first));
     }
     void take(const SettingLine& line) { takeSetting<NightReport>(m_file, line, reportRules, m_report); }
     /// @return false when there was a mistake.

@@ -1,7 +1,7 @@
 // The steps of a night as a table, and what each does; see NightShop.h.
 #include "command/NightShop.h"
 
-#include "command/CustomerList.h"
+#include "command/CustomerRun.h"
 #include "command/ExchangeRun.h"
 #include "command/NightReports.h"
 #include "command/PlannedVerbs.h"
@@ -11,7 +11,6 @@
 #include "link/RunNotes.h"
 #include "platform/FolderLock.h"
 #include "platform/RuntimeFailure.h"
-#include "reports/data/ReportError.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -26,7 +25,7 @@ namespace norvane::command
 namespace
 {
 
-/// "2026-11-26T23:31:05 2026-11-26": when, and the day that the sales were booked for.
+/// "2026-11-26T22:31:05Z 2026-11-26": when, and the day that the sales were booked for.
 constexpr auto collectedKey = "Collected"_L1;
 /// A shop that a night has collected is not collected again for so long: it is the same night.
 constexpr qint64 secondsOfNight = qint64{8} * 3600;
@@ -119,7 +118,6 @@ NightShop::~NightShop() = default;
 
 void NightShop::attempt()
 {
-    stopIfSignalled();
     m_said.clear();
     m_waitUntil = m_clock.now().addSecs(m_options.waitForLock.count());
     const NightEnd taken = guarded([this] {
@@ -140,7 +138,6 @@ void NightShop::attemptSteps()
     for (std::size_t step = 0; step < steps.size(); ++step) {
         NightEnd& end = m_result.steps.at(step);
         try {
-            stopIfSignalled();
             keepEnd(end, guarded([&] { return (this->*steps.at(step))(); }));
         } catch (const RuntimeFailure&) {
             end = {ExitCode::Stopped, u"stopped by a signal"_s, false};
@@ -159,24 +156,10 @@ NightEnd NightShop::failed(ExitCode code, const QString& text) const
 
 NightEnd NightShop::guarded(const std::function<NightEnd()>& work)
 {
-    try {
-        return work();
-    } catch (const CommandError& error) {
-        return failed(error.code(), error.text());
-    } catch (const RuntimeFailure& failure) {
-        if (failure.failure() == Failure::UserInterrupt)
-            throw;
-        return failed(codeOf(failure), failure.text());
-    } catch (const reports::ReportCancelled&) {
-        stopIfSignalled();
-        return failed(ExitCode::Failed, u"cancelled"_s);
-    } catch (const reports::TargetError& error) {
-        return failed(ExitCode::Unwritable, error.text());
-    } catch (const TextError& error) {
-        return failed(ExitCode::Failed, error.text());
-    } catch (const std::exception& failure) {
-        return failed(ExitCode::Failed, u"internal error: %1"_s.arg(QString::fromLocal8Bit(failure.what())));
-    }
+    NightEnd end;
+    command::attempt([&] { end = work(); },
+                     [&](ExitCode code, const QString& text) { end = failed(code, text); });
+    return end;
 }
 
 /// Takes a lock that another program holds as soon as it is free, within the time of --wait.
@@ -221,13 +204,14 @@ NightEnd NightShop::applyPlanned()
 
 bool NightShop::isCollected() const
 {
-    return !m_options.again && isWithinNight(readCollected(m_values).at, m_clock.now());
+    return m_hasCollected || (!m_options.again && isWithinNight(readCollected(m_values).at, m_clock.now()));
 }
 
-/// Until the set time it is still the day before.
+/// Until the set time it is still the day before, also on a day that summer time makes longer or shorter.
 QDate NightShop::today() const
 {
-    return m_clock.now().addMSecs(-m_settings.dayBegins.msecsSinceStartOfDay()).date();
+    const QDateTime now = m_clock.now();
+    return now.time() < m_settings.dayBegins ? now.date().addDays(-1) : now.date();
 }
 
 QDate NightShop::dayToBook() const
@@ -249,8 +233,10 @@ NightEnd NightShop::collect()
         m_result.day = end.day;
     if (end.code != ExitCode::Done)
         return {end.code, end.words, end.code == ExitCode::Stopped};
-    link::writeNote(m_values, nightNotes, collectedKey,
-                    u"%1 %2"_s.arg(m_clock.now().toString(Qt::ISODate), end.day.toString(Qt::ISODate)));
+    link::writeNote(
+        m_values, nightNotes, collectedKey,
+        u"%1 %2"_s.arg(m_clock.now().toUTC().toString(Qt::ISODate), end.day.toString(Qt::ISODate)));
+    m_hasCollected = true;
     return {ExitCode::Done, u"%1, booked for %2"_s.arg(end.words, end.day.toString(Qt::ISODate)), false};
 }
 
@@ -306,11 +292,12 @@ NightEnd NightShop::copy()
     const auto former = customers::copiesElsewhere(folder, m_result.shop);
     const bool isCopied = !former.isEmpty() && isWithinNight(former.front().made, m_clock.now()) &&
                           !(former.front().made < readCollected(m_values).at);
-    if (isCopied && !m_options.again)
+    if (isCopied && (m_hasCopied || !m_options.again))
         return {};
     const auto lock = lockFolder();
     const auto made =
         customers::makeCopyElsewhere(m_values.customerPath, folder, m_clock.now(), stopIfSignalled);
+    m_hasCopied = true;
     return {ExitCode::Done, u"copied to %1"_s.arg(made.path), false};
 }
 

@@ -67,6 +67,9 @@ private:
     ApplicationValues m_values;
     NightSettings m_settings;
     QDateTime m_waitUntil; ///< for locks
+    // By this run: the option "again" is about earlier ones.
+    bool m_hasCollected = false;
+    bool m_hasCopied = false;
     ShopNight m_result;
 };
 

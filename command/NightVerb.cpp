@@ -108,6 +108,18 @@ Listing listingOf(const std::vector<ShopNight>& shops)
     return listing;
 }
 
+/// What is left to do, and below it what the tools and boxes said beside the reason.
+QString withToolWords(const ShopNight& shop)
+{
+    const QString reason = shop.inWords();
+    QString text = reason;
+    for (const QString& said : shop.said) {
+        if (!reason.contains(said.simplified()))
+            text += u"\n  "_s + said.trimmed().replace(u'\n', u"\n  "_s);
+    }
+    return text;
+}
+
 /// The night on the command line: lines on standard output; what is left, with what the tools said, on
 /// standard error, which a timer mails.
 class NightShown
@@ -117,30 +129,48 @@ public:
     {
     }
 
-    void showShop(const ShopNight& shop, bool isLast) const
+    void showShop(const ShopNight& shop, bool isLast)
     {
         const bool isComplete = shop.code() == ExitCode::Done;
         if (!isComplete && isLast) {
-            QString text = shop.inWords();
-            for (const QString& said : shop.said)
-                text += u"\n  "_s + said.trimmed().replace(u'\n', u"\n  "_s);
-            printMessage(text);
+            printMessage(withToolWords(shop));
         } else if (!m_workplace.asJson) {
-            print((shop.inWords() + (isComplete ? u"\n"_s : u"; tried again later\n"_s)).toLocal8Bit());
+            write(shop.inWords() + (isComplete ? u"\n"_s : u"; tried again later\n"_s));
         }
     }
-    void showAll(const std::vector<ShopNight>& shops) const
+    void showAll(const std::vector<ShopNight>& shops)
     {
         if (m_workplace.asJson) {
-            m_workplace.show(listingOf(shops));
+            unlessUnwritable([&] { m_workplace.show(listingOf(shops)); });
         } else {
-            print(nightInWords(shops).toLocal8Bit());
+            write(nightInWords(shops));
         }
         if (m_words.has("html"_L1))
-            writePage(shops);
+            unlessUnwritable([&] { writePage(shops); });
+    }
+    /// @throws CommandError Unwritable if something could not be written.
+    void end() const
+    {
+        if (!m_unwritable.isEmpty())
+            throw CommandError(ExitCode::Unwritable, {});
     }
 
 private:
+    void write(const QString& text)
+    {
+        unlessUnwritable([&text] { print(text.toLocal8Bit()); });
+    }
+    /// A full disk below the output, or a reader that left, must not keep the other shops from their night.
+    void unlessUnwritable(const std::function<void()>& show)
+    {
+        try {
+            show();
+        } catch (const CommandError& error) {
+            if (!m_unwritable.contains(error.text()))
+                printMessage(error.text());
+            m_unwritable << error.text();
+        }
+    }
     void writePage(const std::vector<ShopNight>& shops) const
     {
         const QByteArray page = nightPage(shops, m_begun, QDateTime::currentDateTime());
@@ -155,6 +185,7 @@ private:
     const Workplace& m_workplace;
     const Invocation& m_words;
     QDateTime m_begun = QDateTime::currentDateTime();
+    QStringList m_unwritable; ///< why
 };
 
 } // namespace
@@ -163,11 +194,14 @@ void night(const Workplace& workplace, const Invocation& words)
 {
     const NightOptions options = optionsOf(workplace, words);
     const QStringList names = namesOf(workplace, words);
+    // As when the disk with the customers is not connected.
+    if (names.isEmpty())
+        throw CommandError(ExitCode::NoCustomer, u"There is no customer in %1."_s.arg(workplace.appPath));
     // A list of shops that a script reads from standard input must not be eaten by anything that runs here.
     if (std::freopen(qPrintable(QProcess::nullDevice()), "r", stdin) == nullptr)
         std::fclose(stdin);
     catchStopSignals();
-    const NightShown shown(workplace, words);
+    NightShown shown(workplace, words);
     std::vector<ShopNight> results;
     try {
         runNight(
@@ -182,6 +216,7 @@ void night(const Workplace& workplace, const Invocation& words)
         std::ranges::find_if(results, [](const ShopNight& shop) { return shop.code() != ExitCode::Done; });
     if (left != results.end())
         throw CommandError(left->code(), {});
+    shown.end();
 }
 
 } // namespace norvane::command

@@ -54,7 +54,7 @@ void takeSetting(SettingsFile& file, const SettingLine& line, std::span<const Se
         if (!rule.take(line.value, target)) {
             file.addMistake(
                 line.number,
-                QStringLiteral("%1 is \"%2\"; expected is %3.").arg(rule.key, line.value, rule.expected));
+                QStringLiteral("%1 is \"%2\"; it must be %3.").arg(rule.key, line.value, rule.expected));
         }
         return;
     }

@@ -26,6 +26,9 @@ void catchStopSignals()
         if (std::signal(signal, remember) == SIG_IGN)
             std::signal(signal, SIG_IGN);
     }
+#ifdef SIGPIPE
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
 }
 
 int stopSignal()

@@ -5,7 +5,8 @@ namespace norvane::command
 {
 
 /// From now on the first SIGINT or SIGTERM is remembered for stopSignal(); a second one has its default
-/// effect. A signal that is ignored, such such as that of a shell's background job, is still ignored.
+/// effect. A signal that is ignored, such as that of a shell's background job, is still ignored. SIGPIPE is
+/// ignored: a reader that leaves must not end work with a register.
 void catchStopSignals();
 
 /// The number of the signal that asks the run to stop, 0 before one.

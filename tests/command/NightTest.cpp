@@ -1,201 +1,42 @@
-// Nights of several shops with registers of their own: one is dead, one locked, one damaged, midnight comes
-// in between, the night is killed and repeated.
-#include "command/NightRun.h"
-#include "command/TerminalBoxes.h"
+// Nights of several shops with registers of their own: one is dead, one locked, one damaged, the night is
+// killed and repeated.
 #include "platform/FolderLock.h"
-#include "platform/ProfileFile.h"
-#include "tests/command/CommandTest.h"
-#include "tests/store/Rows.h"
-#include "tests/support/OtherPrograms.h"
+#include "tests/command/NightOfShops.h"
 #include "tests/support/RecordingBoxes.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <map>
 
 namespace norvane::test
 {
 namespace
 {
 
-/// The speed of a shop's line leads the transfer tool to a bank of its own.
-constexpr auto speeds = std::to_array({"1200", "2400", "9600", "19200"});
-
-constexpr auto toOwnBank =
-    R"sh(case $1 in s2) r=1200 ;; s4) r=2400 ;; s9) r=9600 ;; s1) r=19200 ;; *) r=$1 ;; esac
-printf '[Bank]\r\nFolder=../registers-%s\r\n' "$r" > registers.ini
-if [ -f midnight-at ] && case "$*" in *"$(cat midnight-at)"*) true ;; *) false ;; esac; then touch midnight; fi
-if [ -f kill ] && read -r when what < kill && case " $*" in *"$what"*) true ;; *) false ;; esac; then
-    rm kill
-    [ "$when" = before ] || "$0.real" "$@"
-    kill -9 $PPID
-    exit 1
-fi)sh";
-
-class NightOfShops : public CommandTest
+TEST_F(NightOfShops, OutputThatNobodyTakesStopsNoShop)
 {
-protected:
-    NightOfShops() { m_folder.precede("VELMARCOMM", toOwnBank); }
-
-    void makeShop(const QString& name)
-    {
-        const auto line = m_shops.size();
-        m_shops[name] = m_folder.makeCustomer(name);
-        m_lines[name] = QString::fromLatin1(speeds.at(line));
-        ProfileFile::write(joinPath(m_shops[name].customerPath, u"setup.ini"_s), u"SetupOption"_s, u"Baud"_s,
-                           QString::number(line));
-        EXPECT_EQ(QProcess::execute(u"cp"_s, {u"-r"_s, m_folder.bankPath(), bankOf(name)}), 0);
-    }
-    [[nodiscard]] QString bankOf(const QString& shop) const
-    {
-        return m_folder.bankPath() + u'-' + m_lines.at(shop);
-    }
-    /// @return the takings as the register prints them.
-    double ring(const QString& shop, int seed = 5) const
-    {
-        const QByteArray said =
-            outputOf(QString::fromUtf8(RINGSALES_TOOL), {bankOf(shop), u"--seed"_s, QString::number(seed)});
-        double takings = 0;
-        for (const QByteArray& line : said.split('\n'))
-            takings += line.mid(line.lastIndexOf(' ') + 1).toDouble() * (line.contains("net sales") ? 1 : 0);
-        return takings;
-    }
-    void setFaults(const QString& shop, const QByteArray& sections) const
-    {
-        writeWholeFile(joinPath(bankOf(shop), u"faults.ini"_s), sections);
-    }
-    void writeApp(const QString& name, const QByteArray& text) const
-    {
-        writeWholeFile(m_folder.appFile(name), text);
-    }
-    /// "30/11/2026|1234.5" for each day.
-    [[nodiscard]] std::string takings(const QString& shop) const
-    {
-        return rowsOf(m_shops.at(shop).databasePath,
-                      u"select SALESDATE, round(sum(VALUE), 2) from FINANCIALSALES where ID = 2 group by "
-                      "SALESDATE order by SALESDATE"_s);
-    }
-    [[nodiscard]] double total(const QString& shop) const
-    {
-        return QByteArray::fromStdString(rowsOf(m_shops.at(shop).databasePath,
-                                                u"select sum(VALUE) from FINANCIALSALES where ID = 2"_s))
-            .toDouble();
-    }
-    [[nodiscard]] QStringList reports() const
-    {
-        return QDir(m_folder.appFile(u"out"_s)).entryList(QDir::Files, QDir::Name);
-    }
-
-    std::map<QString, ApplicationValues> m_shops;
-    std::map<QString, QString> m_lines;
-};
-
-/// A night in this process, whose clock passes midnight when a tool's line says so.
-class NightAtMidnight : public NightOfShops
-{
-protected:
-    using ShopNight = command::ShopNight;
-    using NightOptions = command::NightOptions;
-
-    NightAtMidnight()
-    {
-        writeApp(u"reports.ini"_s,
-                 "[Daily]\nReport=finsales\nPeriod=day\nFormat=csv\nFolder=out\n"
-                 "[Monthly]\nReport=finsales\nPeriod=month\nFormat=csv, xlsx\nFolder=out\n");
-    }
-    [[nodiscard]] QDateTime now() const
-    {
-        return pathExists(m_folder.appFile(u"midnight"_s)) ? QDateTime(QDate(2026, 12, 1), QTime(0, 5))
-                                                           : QDateTime(QDate(2026, 11, 30), QTime(23, 50));
-    }
-    std::map<QString, ShopNight> runAll(const NightOptions& options,
-                                        const std::function<void()>& betweenRounds = {}) const
-    {
-        command::TerminalBoxes boxes({});
-        const command::Workplace workplace{m_folder.appPath(), m_folder.appPath(), false, boxes, {}};
-        QStringList names;
+    makeShop(u"ALE"_s);
+    makeShop(u"BAR"_s);
+    double rung = 0;
+    int seed = 0;
+    for (const char* const output : {">/dev/full", ">&-", "| true"}) {
         for (const auto& [name, values] : m_shops)
-            names << name;
-        const command::NightClock clock{[this] { return now(); },
-                                        [&](auto) {
-                                            if (betweenRounds)
-                                                betweenRounds();
-                                        }};
-        std::vector<ShopNight> results;
-        command::runNight(
-            workplace, names, options, clock, [](const auto&, bool) {}, results);
-        std::map<QString, ShopNight> byName;
-        for (const auto& result : results)
-            byName[result.shop] = result;
-        return byName;
+            rung += ring(name, ++seed);
+        const QString line = u"{ \"$0\" night --again --html night.html --folder \"$1\"; echo $? >code; } "_s;
+        (void)outputOf(u"sh"_s, {u"-c"_s, line + QString::fromLatin1(output), QString::fromUtf8(COMMAND),
+                                 m_folder.appPath()});
+        EXPECT_EQ(qRound((total(u"ALE"_s) + total(u"BAR"_s)) * 100), qRound(rung * 100)) << output;
+        EXPECT_TRUE(readWholeFile(u"night.html"_s).contains("2 of 2 shops are complete."));
+        EXPECT_EQ(readWholeFile(u"code"_s).trimmed(), "7") << output;
     }
-};
-
-TEST_F(NightAtMidnight, EachShopIsBookedAndReportedUnderTheDayOfItsOwnCollection)
-{
-    for (const auto& name : {u"ALE"_s, u"BAR"_s, u"CAFE"_s})
-        makeShop(name);
-    std::map<QString, QString> rung;
-    for (const auto& [name, values] : m_shops)
-        rung[name] = QString::number(ring(name));
-    setFaults(u"CAFE"_s, "[Off]\nCommand=consolidate\nResult=8\n");
-    // The collection of the second shop has begun when midnight comes.
-    writeApp(u"midnight-at"_s, "2400 F1 1T -P");
-    NightOptions options;
-    options.retries = 1;
-    const auto first = runAll(options, [this] { setFaults(u"CAFE"_s, {}); });
-    for (const auto& [name, day] :
-         {std::pair(u"ALE"_s, u"2026-11-30"_s), {u"BAR"_s, u"2026-12-01"_s}, {u"CAFE"_s, u"2026-12-01"_s}}) {
-        EXPECT_EQ(first.at(name).code(), command::ExitCode::Done) << first.at(name).inWords().toStdString();
-        const auto booked = QDate::fromString(day, Qt::ISODate).toString(u"dd/MM/yyyy|"_s) + rung[name];
-        EXPECT_EQ(takings(name), booked.toStdString());
-        EXPECT_EQ(first.at(name).day.toString(Qt::ISODate).toStdString(), day.toStdString());
-    }
-    const QStringList written{u"ALE Daily 2026-11-30.csv"_s, u"ALE Monthly 2026-11.csv"_s,
-                              u"ALE Monthly 2026-11.xlsx"_s, u"BAR Daily 2026-12-01.csv"_s,
-                              u"CAFE Daily 2026-12-01.csv"_s};
-    EXPECT_EQ(reports().join(u'\n').toStdString(), written.join(u'\n').toStdString());
-    EXPECT_TRUE(readWholeFile(m_folder.appFile(u"out/BAR Daily 2026-12-01.csv"_s))
-                    .contains(rung[u"BAR"_s].toLatin1()));
-
-    const std::string before = takings(u"ALE"_s) + takings(u"BAR"_s);
-    for (const QString& file : written)
-        EXPECT_TRUE(QFile::remove(m_folder.appFile(u"out/"_s + file)));
-    for (const auto& [name, again] : runAll({}))
-        EXPECT_TRUE(again.inWords().endsWith(u": nothing to do"_s)) << again.inWords().toStdString();
-    EXPECT_EQ(takings(u"ALE"_s) + takings(u"BAR"_s), before);
-    EXPECT_EQ(reports(), QStringList()) << "written once";
 }
 
-/// Sales of a shop that closes at three belong to the day before; a month that a missed timer left out is
-/// made up for by a later night, once.
-TEST_F(NightAtMidnight, ADayCanBeginLateAndMissedReportsAreMadeUpFor)
+TEST_F(NightOfShops, ANightOfNoShopOrWithAnEmptyOptionIsAMistake)
 {
-    makeShop(u"BAR"_s);
-    writeApp(u"BAR/night.ini"_s, "[Night]\nDayBegins=3:00\n");
-    writeApp(u"midnight"_s, {});
-    const double rung = ring(u"BAR"_s);
-    EXPECT_EQ(runAll({}).at(u"BAR"_s).day, QDate(2026, 11, 30));
-    EXPECT_EQ(reports().size(), 3) << reports().join(u' ').toStdString();
-    for (const char* const day : {"2026-09-30", "2026-10-02", "2026-11-28"}) {
-        execute(m_shops[u"BAR"_s].databasePath,
-                u"insert into FINANCIALSALES (ID, SALESDATE, QUANTITY, VALUE) values (2, '%1', 1, 10)"_s.arg(
-                    QLatin1StringView(day)));
-    }
-    const QString notes = m_folder.appFile(u"BAR/exchange.ini"_s);
-    ProfileFile::write(notes, u"Night"_s, u"Report month Monthly"_s, u"2026-08-31 0"_s);
-    ProfileFile::write(notes, u"Night"_s, u"Report day Daily"_s, u"2026-10-01 0"_s);
-    QDir(m_folder.appFile(u"out"_s)).removeRecursively();
-    EXPECT_EQ(runAll({}).at(u"BAR"_s).steps.at(3).words, u"9 reports written"_s);
-    EXPECT_EQ(reports().filter(u"csv"_s),
-              (QStringList{u"BAR Daily 2026-10-02.csv"_s, u"BAR Daily 2026-11-28.csv"_s,
-                           u"BAR Daily 2026-11-30.csv"_s, u"BAR Monthly 2026-09.csv"_s,
-                           u"BAR Monthly 2026-10.csv"_s, u"BAR Monthly 2026-11.csv"_s}));
-    const QByteArray month = readWholeFile(m_folder.appFile(u"out/BAR Monthly 2026-11.csv"_s));
-    EXPECT_TRUE(month.contains(QByteArray::number(rung + 10, 'f', 2))) << month.toStdString();
+    expectRefusal(3, {u"night"_s}, u"There is no customer in "_s);
+    makeShop(u"ALE"_s);
+    for (const QString& option : {u"--to"_s, u"--copies"_s, u"--reports"_s, u"--html"_s})
+        expectUsage({u"night"_s, option, {}}, option + u" needs a value."_s);
 }
 
 TEST_F(NightOfShops, WhatCannotBeDoneIsInSummaryAndExitCodeAndStopsNothingElse)
@@ -232,8 +73,8 @@ TEST_F(NightOfShops, WhatCannotBeDoneIsInSummaryAndExitCodeAndStopsNothingElse)
     EXPECT_EQ(rows[u"DELI"_s][u"leftToDo"_s], u"folder"_s);
     EXPECT_EQ(rows[u"DELI"_s][u"folder"_s].toString(),
               u"reports.ini, line 8: Unknown key \"Peroid\". The keys are: Report, Period, Format, Folder, "
-              "Compare.\nreports.ini, line 9: Format is \"doc\"; expected is pdf, csv or xlsx, or several "
-              "with commas between."_s);
+              "Compare.\nreports.ini, line 9: Format is \"doc\"; it must be pdf, csv or xlsx, or several "
+              "of them with commas between."_s);
     EXPECT_DOUBLE_EQ(total(u"DELI"_s), rung);
     EXPECT_EQ(reports().size(), 1);
     const QByteArray page = readWholeFile(m_folder.appFile(u"night.html"_s));
@@ -311,7 +152,8 @@ TEST_F(NightOfShops, CopiesAreMadeOnceANightAndNeverHalf)
     writeWholeFile(copy, readWholeFile(copy).chopped(100));
     EXPECT_EQ(run({u"verify"_s, elsewhere}).code, 8);
     EXPECT_EQ(run({u"restore"_s, u"NEWER"_s, copy}).code, 8);
-    EXPECT_EQ(run({u"copy"_s, u"NEW"_s, u"NOBODY"_s, u"--to"_s, elsewhere}).code, 3);
+    expectRefusal(3, {u"copy"_s, u"NOBODY"_s, u"NEW"_s, u"--to"_s, elsewhere},
+                  u"NOBODY: not copied. There is no customer"_s);
     EXPECT_TRUE(pathExists(elsewhere + u"/NEW"_s)) << "the other one is copied";
 }
 
@@ -322,20 +164,23 @@ TEST_F(NightOfShops, AShopsOwnSettingsTakeThePlaceOfTheProgramsOnes)
     makeShop(u"BAR"_s);
     writeApp(u"reports.ini"_s, "; all shops\n[Daily]\nReport=finsales\nPeriod=day\nFormat=csv\nFolder=out\n"
                                "[Weekly]\nReport=nothing\nPeriod=week\nFormat=csv\nFolder=out\n");
-    writeApp(u"BAR/reports.ini"_s, "[daily]\nReport=mine\nPeriod=day\nFormat=CSV\nFolder=own\n"
-                                   "Compare=year\n[a/b]\nno key\n[Short]\nReport=mine\n");
+    writeApp(u"BAR/reports.ini"_s,
+             "[daily]\nReport=mine\nPeriod=day\nFormat=CSV\nFolder=own\n"
+             "Compare=year\n[a/b]\nno key\n[Short]\nReport=mine\n[DAILY]\nReport=mine\n");
     writeApp(u"BAR/mine.rpt"_s, readWholeFile(m_folder.appFile(u"finsales.rpt"_s)));
     writeApp(u"ALE/night.ini"_s, "[Night]\nDayBegins=25:00\n[Other]\n");
     ring(u"BAR"_s);
     const Ended ended = run({u"night"_s});
     EXPECT_EQ(ended.code, 9);
     for (const QString& text :
-         {u"night.ini, line 2: DayBegins is \"25:00\"; expected is a time before noon, such as 4:00."_s,
+         {u"night.ini, line 2: DayBegins is \"25:00\"; it must be a time before noon, such as 4:00."_s,
           u"night.ini, line 3: There is no section [Other], only [Night]."_s,
           u"sales not complete: not collected: night.ini may say for which day"_s,
           u"reports.ini, line 7: [a/b] cannot be a part of a file's name."_s,
           u"reports.ini, line 8: \"no key\" is neither a [section] nor Key=Value."_s,
-          u"reports.ini, line 9: [Short] has no key Period."_s})
+          u"reports.ini, line 9: [Short] has no key Period."_s,
+          u"reports.ini, line 11: [DAILY] is already in line 1."_s, u"ALE: folder not in order: night.ini"_s,
+          u"reports not complete: There is no report \"nothing\""_s})
         EXPECT_TRUE(ended.err.contains(text)) << text.toStdString() << ended.err.toStdString();
     EXPECT_EQ(takings(u"ALE"_s), "");
     EXPECT_EQ(reports(), QStringList());
