@@ -141,12 +141,17 @@ std::set<int> wantedBoxes(const Invocation& words, const ApplicationValues& valu
     return unfinishedBoxes(values, direction);
 }
 
+Listing emptyEnd()
+{
+    return Listing({u"Work"_s, u"Complete"_s, u"Result"_s, u"Code"_s, u"Meaning"_s, u"Tool words"_s});
+}
+
 /// A run for programs: only with --json, since scripts that look at the exit code expect no output.
 void showEnd(const Workplace& workplace, const QString& work, const ExchangeEnd& end)
 {
     if (!workplace.asJson)
         return;
-    Listing listing({u"Work"_s, u"Complete"_s, u"Result"_s, u"Code"_s, u"Meaning"_s, u"Tool words"_s});
+    Listing listing = emptyEnd();
     listing.add({work, end.code == ExitCode::Done, end.words,
                  end.failed ? QVariant(end.failed->result) : QVariant(),
                  end.failed ? QVariant(inWords(*end.failed)) : QVariant(), end.toolWords});
@@ -223,6 +228,8 @@ void exchangeWith(const Workplace& workplace, const Invocation& words, exchange:
     const ApplicationValues values = takeCustomer(workplace, words.operands.front());
     const std::set<int> boxes = wantedBoxes(words, values, direction);
     if (boxes.empty()) {
+        if (workplace.asJson)
+            workplace.show(emptyEnd());
         printStep(u"Nothing is unfinished."_s);
         return;
     }

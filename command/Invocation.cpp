@@ -43,6 +43,18 @@ void checkOperands(const Verb& verb, qsizetype count)
         throw CommandError(ExitCode::Usage, u"Usage: %1"_s.arg(usageOf(verb)));
 }
 
+/// A variable that a script has not set must not mean the current folder, or no publication.
+void checkValues(const Verb& verb, const Invocation& invocation)
+{
+    for (const auto& options : {commonOptions(), verb.options}) {
+        for (const auto& option : options) {
+            if (!option.value.isEmpty() && invocation.has(option.name) &&
+                invocation.value(option.name).isEmpty())
+                throw CommandError(ExitCode::Usage, u"--%1 needs a value."_s.arg(option.name));
+        }
+    }
+}
+
 QString optionLines(std::span<const OptionDefinition> options)
 {
     QString lines;
@@ -135,6 +147,7 @@ std::pair<const Verb*, Invocation> parse(const QStringList& words)
     checkOperands(verb, invocation.operands.size());
     for (const QString& name : parser.optionNames())
         invocation.options.insert(name, parser.value(name));
+    checkValues(verb, invocation);
     return {&verb, invocation};
 }
 

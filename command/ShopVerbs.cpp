@@ -54,7 +54,7 @@ customers::StoredSetting settingOf(const QString& key, const QString& words)
     for (const auto& part : programme::programmeParts())
         parts << part.name;
     throw CommandError(ExitCode::Usage,
-                       u"There is no part \"%1\". There are: %2, and each table by its name."_s.arg(
+                       u"There is no part \"%1\". The parts are: %2, and each table by its name."_s.arg(
                            names.join(u"\", \""_s), parts.join(u", "_s)));
 }
 
@@ -114,6 +114,18 @@ QString madeInWords(const programme::NewShop& shop, const programme::TakenOver& 
     return shop.settings.isEmpty() ? text : u"%1; %2"_s.arg(text, wordsOf(shop.settings));
 }
 
+/// One sentence, or for programs a listing of one row.
+void show(const Workplace& workplace, const QString& shop, const QString& result, const QString& sentence)
+{
+    if (!workplace.asJson) {
+        print((sentence + u".\n"_s).toLocal8Bit());
+        return;
+    }
+    Listing listing({u"Shop"_s, u"Result"_s});
+    listing.add({shop, result});
+    workplace.show(listing);
+}
+
 } // namespace
 
 void newCustomer(const Workplace& workplace, const Invocation& words)
@@ -123,7 +135,8 @@ void newCustomer(const Workplace& workplace, const Invocation& words)
     catchStopSignals();
     try {
         const auto taken = programme::makeNewShop(shop, workplace.boxes);
-        print((madeInWords(shop, taken) + u".\n"_s).toLocal8Bit());
+        const QString made = madeInWords(shop, taken);
+        show(workplace, shop.name, made, made);
         if (taken.lacksTelephone)
             printMessage(programme::telephoneNotice());
     } catch (const programme::NewShopError& error) {
@@ -147,7 +160,8 @@ void setSettings(const Workplace& workplace, const Invocation& words)
     customers::LoggedWork work(values.customerPath, u"settings"_s);
     work.during([&] { customers::storeSettings(values.customerPath, changes); });
     work.setResult(wordsOf(changes));
-    print(u"%1: %2.\n"_s.arg(values.customerName, wordsOf(changes)).toLocal8Bit());
+    show(workplace, values.customerName, wordsOf(changes),
+         u"%1: %2"_s.arg(values.customerName, wordsOf(changes)));
 }
 
 } // namespace norvane::command

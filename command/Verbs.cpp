@@ -43,6 +43,7 @@ constexpr auto sendOptions = std::to_array<OptionDefinition>({
      "send PLUs also when their points were not uploaded; the registers lose the points that they hold"_L1},
     unfinishedOption,
 });
+constexpr auto applyPlannedOptions = std::to_array<OptionDefinition>({sendOptions[0]});
 constexpr auto collectOptions = std::to_array<OptionDefinition>({
     {"clear-first"_L1, {}, "first clear sales that are stored and were not cleared at all registers"_L1},
     {"day"_L1, "DAY"_L1,
@@ -52,12 +53,12 @@ constexpr auto nightOptions = std::to_array<OptionDefinition>({
     {"to"_L1, "CONNECTION"_L1, "publish to this PostgreSQL, as \"publish\" does"_L1},
     {"reports"_L1, "DIR"_L1,
      "write the PLU sales of each day into this folder, beside what reports.ini lists"_L1},
-    {"wait"_L1, "TIME"_L1, "for a shop that another program is at work with: 90s, 10m, 2h"_L1},
+    {"wait"_L1, "TIME"_L1, "how long to wait for a shop that another program is using: 90s, 10m, 2h"_L1},
     {"retry"_L1, "N"_L1, "how often shops that did not answer are tried again, after the others"_L1},
     {"every"_L1, "TIME"_L1, "how long to wait before that; 10m without this option"_L1},
     {"day"_L1, "DAY"_L1, "book the sales for this day instead of that of the collection"_L1},
     {"copies"_L1, "DIR"_L1, "copy each shop into this folder, as \"copy\" does"_L1},
-    {"again"_L1, {}, "collect and copy also the shops of which a night did so in the last eight hours"_L1},
+    {"again"_L1, {}, "collect and copy all shops, also those that were done in the last eight hours"_L1},
     {"html"_L1, "FILE"_L1, "write the summary as a page"_L1},
 });
 constexpr auto reportOptions = std::to_array<OptionDefinition>({
@@ -128,7 +129,7 @@ constexpr auto all = std::to_array<Verb>({
     {"status"_L1, "[CUSTOMER...]"_L1, 0, -1, {},
      "Lists the state of each shop: last exchange, records not sent to all registers, sales not cleared, days without a collection. Changes nothing and waits for no other run."_L1, showStatus},
     {"check"_L1, "CUSTOMER"_L1, 1, 1, {},
-     "Looks for damage in the database, for missing tables and fields, for settings that cannot be, and for mistakes in the screens and reports of this installation."_L1, checkCustomer},
+     "Looks for damage in the database, for missing tables and fields, for impossible settings, and for mistakes in the screens and reports of this installation."_L1, checkCustomer},
     {"new"_L1, "CUSTOMER"_L1, 1, 1, newOptions,
      "Makes a customer with the standard settings and no records, or one like another."_L1, newCustomer},
     {"set"_L1, "CUSTOMER KEY=VALUE..."_L1, 2, -1, {},
@@ -150,7 +151,7 @@ constexpr auto all = std::to_array<Verb>({
      "The same with all fields of a table, under the names that reports use. Only PLUs are added; sales are only exported."_L1, moveTable},
     {"planned"_L1, "[CUSTOMER...]"_L1, 0, -1, plannedOptions,
      "Lists the changes that are stored later; without a customer, those of all."_L1, listPlanned},
-    {"apply-planned"_L1, "[CUSTOMER...]"_L1, 0, -1, sendOptions,
+    {"apply-planned"_L1, "[CUSTOMER...]"_L1, 0, -1, applyPlannedOptions,
      "Stores planned changes whose day has come, of all customers or those named, and sends them to the registers; also what an earlier call could not send."_L1, applyPlanned},
     {"boxes"_L1, {}, 0, 0, {}, "Lists the boxes of the exchange dialog, which fetch and send take by number or name."_L1, listBoxes},
     {"reports"_L1, {}, 0, 0, {}, "Lists the reports with their titles and the periods that --period takes."_L1, listReports},
@@ -159,7 +160,7 @@ constexpr auto all = std::to_array<Verb>({
     {"restore"_L1, "CUSTOMER COPY"_L1, 2, 2, {},
      "Restores the customer from a safety copy, after copying its current state. COPY is a name or its beginning, or the file of a copy elsewhere, from which a new customer can be made, too."_L1, restore},
     {"copy"_L1, "CUSTOMER..."_L1, 1, -1, copyOptions,
-     "Copies customers with programme, sales and documents to a folder elsewhere, one compressed file each, and checks it. Of older copies there remain the latest of 7 days, 4 weeks and 12 months."_L1, copyElsewhere},
+     "Copies customers with programme, sales and documents to a folder elsewhere, one compressed file each, and checks it. Keeps the latest copies of 7 days, 4 weeks and 12 months."_L1, copyElsewhere},
     {"verify"_L1, "FILE|DIR..."_L1, 1, -1, {},
      "Reads copies elsewhere to their end and checks their databases. Changes nothing."_L1, verifyCopies},
     {"copy-programme"_L1, "FROM TO..."_L1, 2, -1, copyProgrammeOptions,

@@ -29,7 +29,7 @@ bool isSame(QStringView left, QStringView right)
     for (const Setting& setting : settings())
         keys << setting.key;
     throw SettingError(
-        u"There is no setting \"%1\". There are: %2, %3."_s.arg(key, keys.join(u", "_s), modemDelay));
+        u"There is no setting \"%1\". The settings are: %2, %3."_s.arg(key, keys.join(u", "_s), modemDelay));
 }
 
 /// The entry that the words mean; -1 if none or several have them.

@@ -34,7 +34,7 @@ _norvane_shop()
     elif [ "$before" = --vanished ]; then
         choices=(keep remove)
     elif [[ $before = --to && ${COMP_WORDS[1]} = copy || $before = --copies || $before = --reports || $before = --html ||
-        ${COMP_WORDS[1]} = verify && ${word#-} = "$word" ]]; then
+        ${COMP_WORDS[1]} =~ ^(verify|adopt)$ && ${word#-} = "$word" ]]; then
         choices=() # a file or folder
     elif [ "$before" = --separator ]; then
         choices=(comma semicolon tab)
@@ -53,7 +53,8 @@ _norvane_shop()
         choices=(export import)
     elif [ "${word#-}" = "$word" ] && case $before:${COMP_WORDS[1]} in
             new:new) false ;; # a name that does not exist yet
-            --like:* | *:publish | *:chain | *:night | *:copy | *:copy-programme | *:planned | *:apply-planned) true ;;
+            --like:* | *:publish | *:chain | *:night | *:copy | *:copy-programme | *:planned | *:apply-planned | \
+                *:status | *:convert) true ;;
             *) [ "$COMP_CWORD" -eq 2 ] ;;
         esac; then
         mapfile -t choices < <(_norvane_shop_customers "$1")

@@ -32,6 +32,37 @@ TEST_F(CommandWords, HelpIsGivenInEveryUsualWay)
     expectUsage({}, all);
 }
 
+/// The help is made from the table of commands, the manual is written by hand.
+TEST_F(CommandWords, TheManualHasEveryOptionAndExitCode)
+{
+    const QString manual =
+        QString::fromUtf8(readWholeFile(QString::fromUtf8(MANUAL))).replace(u"\\-"_s, u"-"_s);
+    const QStringList sections = manual.split(u"\n.TP\n"_s);
+    QStringList ofCommand;
+    QString command;
+    int options = 0;
+    for (const QString& line : run({u"--help"_s}).out.split(u'\n')) {
+        if (line.startsWith(u"norvane-shop "_s)) {
+            command = line.section(u' ', 1, 1);
+            ofCommand = sections.filter(
+                QRegularExpression(u"\\A\\.BI? \"?([a-z]+\\\\fR and \\\\fP)?%1(?![a-z-])"_s.arg(command)));
+        } else if (line.startsWith("    --"_L1)) {
+            const QString option = line.trimmed().section(u' ', 0, 0);
+            const QStringList& places = command.isEmpty() ? sections : ofCommand;
+            EXPECT_FALSE(places.filter(option).isEmpty())
+                << command.toStdString() << ' ' << option.toStdString();
+            ++options;
+        } else if (line == "With every command:"_L1) {
+            command.clear();
+        } else if (const QString code = line.trimmed().section(u' ', 0, 0);
+                   command.isEmpty() && code.toInt() > 0) {
+            EXPECT_TRUE(sections.filter(line.trimmed().replace(u"  "_s, u"\n"_s)).size() == 1)
+                << line.toStdString();
+        }
+    }
+    EXPECT_GT(options, 40);
+}
+
 TEST_F(CommandWords, CommonOptionsMayComeBeforeTheCommand)
 {
     const ApplicationValues shop = m_folder.makeCustomer(u"SHOP"_s);

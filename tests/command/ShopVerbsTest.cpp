@@ -4,6 +4,8 @@
 #include "tests/store/Rows.h"
 #include "tests/support/RecordingBoxes.h"
 
+#include <QJsonDocument>
+
 namespace norvane::test
 {
 namespace
@@ -64,7 +66,7 @@ TEST_F(ShopVerbs, SetChangesAllSettingsOrNone)
     const auto set = [](const QString& second) {
         return QStringList{u"set"_s, u"SHOP"_s, u"Port=1"_s, second};
     };
-    expectUsage(set(u"Bauds=1"_s), u"There are: Port, Baud, "_s);
+    expectUsage(set(u"Bauds=1"_s), u"The settings are: Port, Baud, "_s);
     expectUsage(set(u"Baud=2"_s), u"It can be: 2400, 4800, 9600, 19200."_s);
     expectUsage(set(u"Telephone=1\nBaud= 0"_s), u"in one line"_s);
     expectUsage(set(u"ModemDelay=-1"_s), u"seconds"_s);
@@ -73,6 +75,20 @@ TEST_F(ShopVerbs, SetChangesAllSettingsOrNone)
     const auto lock = FolderLock::take(shop.customerPath, boxes);
     expectRefusal(5, set(u"Baud=2400"_s), u"Nothing was started"_s);
     EXPECT_EQ(settings(u"SHOP"_s), after);
+}
+
+/// A program parses whatever a command prints.
+TEST_F(ShopVerbs, WithJsonNothingElseIsPrinted)
+{
+    for (const auto& [words, text] : {std::pair("new SHOP", "SHOP is a new customer"),
+                                      {"set SHOP Port=2", "Port=Port 2"},
+                                      {"fetch SHOP --unfinished", nullptr}}) {
+        const Ended ended = run(QString::fromLatin1(words).split(u' ') + QStringList{u"--json"_s});
+        EXPECT_EQ(ended.code, 0) << words << ended.err.toStdString();
+        const QJsonDocument json = QJsonDocument::fromJson(ended.out.toUtf8());
+        EXPECT_TRUE(json.isArray()) << words << ended.out.toStdString();
+        EXPECT_EQ(json[0][u"result"_s].toString(), QString::fromLatin1(text)) << words;
+    }
 }
 
 } // namespace
