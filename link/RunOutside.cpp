@@ -6,15 +6,27 @@ using namespace Qt::Literals::StringLiterals;
 namespace norvane::link
 {
 
+QString endInWords(ChildResult result)
+{
+    switch (result) {
+    case ChildResult::Ended:
+        break;
+    case ChildResult::Crashed:
+        return u"crashed"_s;
+    case ChildResult::NotFound:
+        return u"was not found"_s;
+    case ChildResult::NotStarted:
+        return u"could not be started"_s;
+    }
+    return {};
+}
+
 ChildResult runTool(const RunOutside& outside, const QString& commandLine)
 {
     const ChildResult result = outside.runAndWait(commandLine);
-    const QString program = commandWords(commandLine).value(0);
-    if (result == ChildResult::Crashed) {
-        outside.showNotice(u"The program %1 crashed."_s.arg(program));
-    } else if (result != ChildResult::Ended) {
-        outside.showNotice(u"The program %1 was not found."_s.arg(program));
-    }
+    if (result != ChildResult::Ended)
+        outside.showNotice(
+            u"The program %1 %2."_s.arg(commandWords(commandLine).value(0), endInWords(result)));
     return result;
 }
 

@@ -51,6 +51,10 @@ struct RunOutside {
     };
 };
 
+/// How a tool ended that did not end by itself, for "The program convert ...": "crashed", "was not found",
+/// "could not be started".
+[[nodiscard]] QString endInWords(ChildResult result);
+
 /// Runs a tool and shows a message if it could not be started or crashed. The run continues even then:
 /// status.out keeps the previous result.
 ChildResult runTool(const RunOutside& outside, const QString& commandLine);

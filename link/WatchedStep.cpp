@@ -42,16 +42,11 @@ bool WatchedStep::mayGoOn(const QString& consequence) const
 
 QString WatchedStep::whatWentWrong() const
 {
-    switch (m_result) {
-    case ChildResult::Ended:
+    if (m_result == ChildResult::Ended)
         return u"The program %1 did not write what this step needs. Found:"_s.arg(m_tool);
-    case ChildResult::Crashed:
-        return u"The program %1 crashed. Found:"_s.arg(m_tool);
-    case ChildResult::NotFound:
-    case ChildResult::NotStarted:
-        break;
-    }
-    return u"The program %1 was not found. Found of earlier runs:"_s.arg(m_tool);
+    const bool hasRun = m_result == ChildResult::Crashed;
+    return u"The program %1 %2. %3:"_s.arg(m_tool, endInWords(m_result),
+                                           hasRun ? u"Found"_s : u"Found of earlier runs"_s);
 }
 
 /// A crashed tool may have stopped in the middle of any of its files.

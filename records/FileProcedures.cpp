@@ -58,12 +58,16 @@ public:
         }
     }
 
+    /// A disk takes a part of the text until it is full. The reason comes with the next part.
     void write(const std::string& text)
     {
-        const auto size = static_cast<qint64>(text.size());
-        if (m_file.write(text.data(), size) != size) {
-            throw RuntimeFailure(Failure::DiskFull,
-                                 u"Disk full: %1 (%2)"_s.arg(m_file.fileName(), m_file.errorString()));
+        for (std::string_view rest = text; !rest.empty();) {
+            const qint64 written = m_file.write(rest.data(), static_cast<qint64>(rest.size()));
+            if (written <= 0) {
+                throw RuntimeFailure(Failure::DiskFull,
+                                     u"Disk full: %1 (%2)"_s.arg(m_file.fileName(), m_file.errorString()));
+            }
+            rest.remove_prefix(static_cast<std::size_t>(written));
         }
     }
 

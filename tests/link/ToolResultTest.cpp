@@ -29,7 +29,8 @@ TEST(ToolResult, IsReportedWhenTheToolCrashedOrIsMissing)
 {
     test::RecordingBoxes boxes;
     QStringList notices;
-    for (const ChildResult result : {ChildResult::Ended, ChildResult::Crashed, ChildResult::NotStarted}) {
+    for (const ChildResult result :
+         {ChildResult::Ended, ChildResult::Crashed, ChildResult::NotFound, ChildResult::NotStarted}) {
         const RunOutside outside{.runAndWait = [result](const QString&) { return result; },
                                  .readStatus = [] { return QString(); },
                                  .showStep = [](const QString&) {},
@@ -39,7 +40,8 @@ TEST(ToolResult, IsReportedWhenTheToolCrashedOrIsMissing)
         EXPECT_EQ(runTool(outside, u"convert w1 f1.dat"_s), result);
     }
     EXPECT_EQ(notices,
-              QStringList({u"The program convert crashed."_s, u"The program convert was not found."_s}));
+              QStringList({u"The program convert crashed."_s, u"The program convert was not found."_s,
+                           u"The program convert could not be started."_s}));
 }
 
 } // namespace

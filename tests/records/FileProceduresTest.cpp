@@ -1,6 +1,7 @@
 // What an upload and a download do with the converter, the table and the files, and what they leave when
 // something is missing.
 #include "records/RegisterFiles.h"
+#include "tests/platform/FullDisk.h"
 #include "tests/records/Shop.h"
 #include "tests/support/AskedFirst.h"
 
@@ -174,6 +175,11 @@ TEST(FileProceduresTest, FailsWhenTheDiskIsFull)
     QFile::remove(shop.folder.path("1.txt"));
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), shop.folder.path("1.txt")));
     EXPECT_EQ(failureOf([&] { exportRegisterFile(1, shop.context()); }), 61);
+    QFile::remove(shop.folder.path("1.txt"));
+    const norvane::test::FullDisk disk(5);
+    const QString text = failureTextOf([&] { exportRegisterFile(1, shop.context()); });
+    EXPECT_TRUE(text.endsWith("1.txt (File too large)"_L1))
+        << "a part of it was written: " << text.toStdString();
 }
 
 TEST(FileProceduresTest, LeavesTheTableAsItWasWhenTheProgramIsKilled)
