@@ -79,6 +79,10 @@ void FrmComm::buildBoxes()
         m_dots[index]->setObjectName(u"Dot_%1"_s.arg(box));
     }
     m_changes->setObjectName(u"Changes"_s);
+    m_changes->setTextFormat(Qt::PlainText);
+    // A long reason must not widen the dialog.
+    m_changes->setWordWrap(true);
+    m_changes->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
 void FrmComm::buildTickChanged()
@@ -172,6 +176,14 @@ void FrmComm::lookForChanges()
 {
     m_changes->setText(u"Looking for changes that were not sent ..."_s);
     m_look.look(m_values);
+}
+
+/// Without dots: OK reports what is wrong once more.
+void FrmComm::showFound(const FoundChanges& found)
+{
+    showChanges(found.changes);
+    if (found.failure)
+        m_changes->setText(u"What was not sent is not known: %1"_s.arg(found.failure->text().simplified()));
 }
 
 /// An upload loses what was changed here, but nothing that only some registers have.
@@ -286,14 +298,13 @@ std::unique_ptr<RegisterComparison> FrmComm::fetchToCompare()
             RegisterFetch(m_values, link, *scratch, outside(scratch->folder())).fetch(tickedBoxes(*this));
         if (fetched.wasLeft || !fetched.files.isEmpty())
             return std::make_unique<RegisterComparison>(m_values, std::move(scratch), std::move(fetched));
-        failure = fetched.stopped;
+        failure = u"Stopped at %1."_s.arg(fetched.stopped);
     } catch (const RuntimeFailure& error) {
         failure = error.text();
     }
     hangUp();
     endBeforeLastBox();
-    m_boxes.message(u"Nothing was compared. Stopped at %1"_s.arg(failure), u"Compare with Register"_s,
-                    BoxIcon::Exclamation);
+    m_boxes.message(u"Nothing was compared. "_s + failure, u"Compare with Register"_s, BoxIcon::Exclamation);
     return nullptr;
 }
 

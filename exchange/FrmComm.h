@@ -57,6 +57,7 @@ private:
     void selectAll();
     void tickUnfinished();
     void lookForChanges();
+    void showFound(const FoundChanges& found);
     void showChanges(const AllChanges& changes);
     void showChanges(int box, const BoxChanges& changes);
     void tickChanged();
@@ -77,8 +78,8 @@ private:
     std::array<ChangeDot*, boxCount> m_dots{};
     QLabel* m_changes;                    ///< what the dots mean
     QPushButton* m_tickChanged = nullptr; ///< of a download
-    ChangesLook m_look{[this](const AllChanges& changes) {
-        showChanges(changes);
+    ChangesLook m_look{[this](const FoundChanges& found) {
+        showFound(found);
     }};
     store::WorkHistory* m_history = nullptr;
 };

@@ -1,4 +1,4 @@
-// The overview of a shop as the main window shows it behind its child windows.
+// The overview of a shop as the main window shows it below its child windows.
 #pragma once
 
 #include "shell/ShopOverview.h"

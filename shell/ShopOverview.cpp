@@ -4,7 +4,6 @@
 #include "customers/CustomerFolders.h"
 #include "customers/CustomerLog.h"
 #include "customers/SafetyCopies.h"
-#include "exchange/UnsentChanges.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/ShownTime.h"
 #include "sales/RecentTakings.h"
@@ -30,14 +29,6 @@ constexpr qsizetype mostLetters = 120;
 /// More boxes are counted instead of named.
 constexpr qsizetype mostBoxes = 4;
 const QTime noon(12, 0);
-
-/// With the customer's own database, whichever is open.
-ApplicationValues ownValues(const ApplicationValues& values)
-{
-    ApplicationValues own = values;
-    own.databasePath = customers::customerDatabase(values.customerPath);
-    return own;
-}
 
 /// What the sources read from. Database and sales are read when the first line asks for them.
 class Sources
@@ -191,11 +182,11 @@ constexpr LineRow lineRows[] = {
 };
 
 /// Without the folder, which is the same for all: the text has to fit.
-QString cannotBeRead(const RuntimeFailure& failure, const ApplicationValues& values)
+QString cannotBeRead(const RuntimeFailure& failure, const QString& customerPath)
 {
     if (failure.failure() == Failure::DatabaseLocked)
         return u"cannot be read now: another program is working on the database"_s;
-    const QString folder = QFileInfo(values.databasePath).path();
+    const QString folder = QFileInfo(customers::customerDatabase(customerPath)).path();
     return u"cannot be read: "_s + failure.text().simplified().remove(folder + u'/');
 }
 
@@ -205,7 +196,7 @@ OverviewLine readLine(const LineRow& row, Sources& sources, ShopOverview& overvi
     try {
         row.read(sources, line);
     } catch (const RuntimeFailure& failure) {
-        line.text = cannotBeRead(failure, sources.values());
+        line.text = cannotBeRead(failure, sources.values().customerPath);
         line.needsAttention = true;
         overview.isBusy = overview.isBusy || failure.failure() == Failure::DatabaseLocked;
     }
@@ -213,6 +204,13 @@ OverviewLine readLine(const LineRow& row, Sources& sources, ShopOverview& overvi
 }
 
 } // namespace
+
+ApplicationValues ownValues(const ApplicationValues& values)
+{
+    ApplicationValues own = values;
+    own.databasePath = customers::customerDatabase(values.customerPath);
+    return own;
+}
 
 ShopOverview readOverview(const ApplicationValues& values, const QDateTime& now, const OverviewLine& unsent)
 {
@@ -231,18 +229,17 @@ OverviewLine unreadUnsent()
     return {Subject::Unsent, QString(unsentCaption), u"being compared ..."_s, false, {}};
 }
 
-OverviewLine readUnsent(const ApplicationValues& values, const std::function<bool()>& goOn)
+OverviewLine unsentLine(const QString& customerPath, const exchange::FoundChanges& found)
 {
     OverviewLine line = unreadUnsent();
-    const ApplicationValues own = ownValues(values);
-    try {
-        const auto total = exchange::totalOf(exchange::unsentChanges(own, goOn));
-        line.text = unsentInWords(total);
-        line.needsAttention = total.changes.mayBeAtSome || total.changes.isNotAtAll;
-    } catch (const RuntimeFailure& failure) {
-        line.text = cannotBeRead(failure, own);
+    if (found.failure) {
+        line.text = cannotBeRead(*found.failure, customerPath);
         line.needsAttention = true;
+        return line;
     }
+    const auto total = exchange::totalOf(found.changes);
+    line.text = unsentInWords(total);
+    line.needsAttention = total.changes.mayBeAtSome || total.changes.isNotAtAll;
     return line;
 }
 

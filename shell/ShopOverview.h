@@ -2,11 +2,11 @@
 #pragma once
 
 #include "base/ApplicationValues.h"
+#include "exchange/ChangesLook.h"
 
 #include <QDateTime>
 #include <QString>
 
-#include <functional>
 #include <vector>
 
 namespace norvane::shell
@@ -52,10 +52,11 @@ struct ShopOverview {
 [[nodiscard]] ShopOverview readOverview(const ApplicationValues& values, const QDateTime& now,
                                         const OverviewLine& unsent);
 
-/// Reads the line about what the chosen customer's own database has and its registers do not. It walks the
-/// tables, which takes a tenth of a second and more, and may wait for another program; it may run in a thread
-/// of its own. @param goOn returns false to end it early, with a line that is incomplete.
-[[nodiscard]] OverviewLine readUnsent(const ApplicationValues& values, const std::function<bool()>& goOn);
+/// The line about what a customer's own database has and its registers do not, from what a look with
+/// ownValues() has found. Looking walks the tables, which takes a tenth of a second and more.
+[[nodiscard]] OverviewLine unsentLine(const QString& customerPath, const exchange::FoundChanges& found);
+/// With the chosen customer's own database, whichever is open.
+[[nodiscard]] ApplicationValues ownValues(const ApplicationValues& values);
 /// The line until it is read.
 [[nodiscard]] OverviewLine unreadUnsent();
 

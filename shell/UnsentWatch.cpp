@@ -6,17 +6,8 @@
 #include <QFileInfo>
 #include <QHash>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace norvane::shell
 {
-
-UnsentWatch::~UnsentWatch()
-{
-    m_goesOn = false;
-    if (m_reading != nullptr)
-        m_reading->wait();
-}
 
 UnsentWatch::State UnsentWatch::stateOf(const ApplicationValues& values)
 {
@@ -28,30 +19,19 @@ UnsentWatch::State UnsentWatch::stateOf(const ApplicationValues& values)
     return state;
 }
 
+/// A reading that is going on is never stopped for another one: it might wait for the database.
 OverviewLine UnsentWatch::line(const ApplicationValues& values)
 {
     const State state = stateOf(values);
-    if (m_reading == nullptr && state != m_known)
+    if (!m_look.isLooking() && state != m_known)
         begin(values, state);
     return m_known.customerPath == values.customerPath ? m_line : unreadUnsent();
 }
 
-/// A reading that is going on is never stopped for another one: it might wait for the database.
 void UnsentWatch::begin(const ApplicationValues& values, const State& state)
 {
-    const auto take = [this, state](const OverviewLine& line) {
-        m_reading->wait();
-        m_reading.reset();
-        m_known = state;
-        m_line = line;
-        Q_EMIT found();
-    };
-    m_reading.reset(QThread::create([this, values, take] {
-        const OverviewLine line = readUnsent(values, [this] { return m_goesOn.load(); });
-        QMetaObject::invokeMethod(
-            this, [take, line] { take(line); }, Qt::QueuedConnection);
-    }));
-    m_reading->start();
+    m_reading = state;
+    m_look.look(ownValues(values));
 }
 
 } // namespace norvane::shell

@@ -1,27 +1,22 @@
 // The line of the overview that takes longer to read than a window may wait.
 #pragma once
 
+#include "exchange/ChangesLook.h"
 #include "shell/ShopOverview.h"
 
 #include <QObject>
-#include <QThread>
-
-#include <atomic>
-#include <memory>
 
 namespace norvane::shell
 {
 
-/// Reads in a thread of its own what the registers do not have yet, and only if a file in the customer's
-/// folder has changed since the last time.
+/// Looks for what the registers do not have yet, and only if a file in the customer's folder has changed
+/// since the last time.
 class UnsentWatch : public QObject
 {
     Q_OBJECT
 
 public:
     explicit UnsentWatch(QObject* parent) : QObject(parent) {}
-    /// Waits for a reading to end.
-    ~UnsentWatch() override;
 
     /// The line as it was last read for the chosen customer, or one that says that it is being read. Begins a
     /// reading if it may be outdated.
@@ -42,9 +37,13 @@ private:
     void begin(const ApplicationValues& values, const State& state);
 
     State m_known; ///< of m_line
+    State m_reading;
     OverviewLine m_line;
-    std::unique_ptr<QThread> m_reading;
-    std::atomic<bool> m_goesOn = true;
+    exchange::ChangesLook m_look{[this](const exchange::FoundChanges& changes) {
+        m_known = m_reading;
+        m_line = unsentLine(m_known.customerPath, changes);
+        Q_EMIT found();
+    }};
 };
 
 } // namespace norvane::shell

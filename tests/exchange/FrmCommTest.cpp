@@ -286,6 +286,13 @@ TEST_F(FrmCommTest, MarksWhatWasNotSentAndTicksIt)
     EXPECT_EQ(changesIn(download), "There are no changes that were not sent.");
     EXPECT_FALSE(child<QPushButton>(download, "TickChanged").isEnabled());
     EXPECT_EQ(child<QCheckBox>(download, "check1_2").accessibleDescription(), QString());
+
+    writeWholeFile(values.databasePath, "damaged");
+    download.hide();
+    download.show();
+    EXPECT_TRUE(
+        changesIn(download).starts_with("What was not sent is not known: Unrecognized database format"));
+    EXPECT_FALSE(child<QPushButton>(download, "TickChanged").isEnabled());
 }
 
 TEST_F(FrmCommTest, KeepsTheFormerCopyOfAFileThatComesEmpty)
