@@ -131,8 +131,11 @@ private:
 
     void send()
     {
-        auto unsent = articles::readLists(m_values.customerPath, PlannedState::Unsent,
-                                          [this](const QString& text) { m_note(ExitCode::BadFile, text); });
+        auto unsent =
+            articles::readLists(m_values.customerPath, PlannedState::Unsent, [this](const QString& text) {
+                m_note(ExitCode::BadFile,
+                       text + u". Its changes are stored. Send their box, then delete the file."_s);
+            });
         std::set<int> boxes;
         for (const ReadList& each : unsent) {
             if (const auto box = exchange::boxSending(each.list.table))

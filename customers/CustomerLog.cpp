@@ -1,6 +1,7 @@
 // The log file; see CustomerLog.h.
 #include "customers/CustomerLog.h"
 
+#include "platform/Excerpt.h"
 #include "platform/FilePaths.h"
 #include "platform/WholeFile.h"
 
@@ -26,10 +27,10 @@ QString logPath(const QString& customerPath)
     return joinPath(customerPath, u"norvane.log"_s);
 }
 
-/// A result may contain the text of a box; it is kept on one line.
+/// A result may contain the text of a box, which is kept on one line, or bytes that a tool has written.
 QString oneLine(const QString& text)
 {
-    return text.simplified();
+    return visibleControls(text.simplified());
 }
 
 QByteArray lineText(const LogLine& line)

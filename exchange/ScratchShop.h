@@ -3,13 +3,15 @@
 
 #include "base/ApplicationValues.h"
 
+#include <QLockFile>
 #include <QTemporaryDir>
 
 namespace norvane::exchange
 {
 
 /// A temporary folder with the settings of a customer and an empty database. It serves as program's folder
-/// and customer's folder at once, so that everything a fetch writes is in it. Removed at the end.
+/// and customer's folder at once, so that everything a fetch writes is in it. Removed at the end, and if the
+/// program is killed before, by the next one.
 class ScratchShop
 {
 public:
@@ -21,6 +23,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    QLockFile m_inUse; ///< in the folder; a killed program leaves one that can be taken over
     ApplicationValues m_values;
 };
 

@@ -105,6 +105,27 @@ TEST_F(Planned, PricesThatWereNotSentAreSentByTheNextCall)
     EXPECT_EQ(run({u"apply-planned"_s}).out, QString());
 }
 
+TEST_F(Planned, ADamagedListThatWasNotSentIsReportedAndTheOthersAreSent)
+{
+    EXPECT_EQ(plan(0, "2.5").code, 0);
+    m_folder.setFaults("[Off]\nCommand=send\nResult=8\n");
+    EXPECT_EQ(run({u"apply-planned"_s}).code, 6);
+    m_folder.setFaults({});
+    const articles::PlannedFile unsent = articles::plannedFiles(m_shop.customerPath).front();
+    const QByteArray damaged = readWholeFile(unsent.path).replace("2.50", "3.00");
+    writeWholeFile(unsent.path, damaged);
+    EXPECT_EQ(plan(1, "2.6").code, 0);
+
+    const Ended applied = run({u"apply-planned"_s});
+    EXPECT_EQ(applied.code, 9);
+    EXPECT_TRUE(applied.out.contains(u"1 PLU changed, sent to register 1"_s)) << applied.out.toStdString();
+    EXPECT_TRUE(applied.err.contains(
+        u"is damaged, or was changed after it was planned. Its changes are stored. Send their box, "_s))
+        << applied.err.toStdString();
+    EXPECT_EQ(changed(), "2.5 2.6");
+    EXPECT_EQ(readWholeFile(unsent.path), damaged);
+}
+
 TEST_F(Planned, RecordsOfOtherTablesAreSentInTheirBox)
 {
     EXPECT_EQ(run({u"fetch"_s, u"SHOP"_s, u"Group"_s}).code, 0);

@@ -1,5 +1,6 @@
 // What commands write that need no register: reports of a day, copies, findings.
 #include "tests/command/CommandTest.h"
+#include "tests/exchange/TemporaryPlace.h"
 #include "tests/store/Rows.h"
 
 #include <QJsonArray>
@@ -75,6 +76,30 @@ TEST_F(Verbs, AComparisonListsWhatDiffersAndHasACodeForIt)
     EXPECT_TRUE(stopped.err.contains(u"Not compared, or only in part: Vat Rates."_s))
         << stopped.err.toStdString();
     expectRefusal(4, {u"compare"_s, u"SHOP"_s, u"nothing"_s}, u"There is no box \"nothing\""_s);
+}
+
+TEST_F(Verbs, AComparisonRemovesTheFolderOfOneThatWasKilled)
+{
+    const TemporaryPlace place;
+    m_folder.precede("VELMARCOMM", "cd \"${0%/*}\"; if rm kill; then kill -9 $PPID; exit; fi; cd -");
+    writeWholeFile(m_folder.appFile(u"kill"_s), "");
+    (void)run({u"compare"_s, u"SHOP"_s, u"group"_s});
+    const QStringList left = place.scratchFolders();
+    EXPECT_EQ(left.size(), 1);
+    (void)run({u"compare"_s, u"SHOP"_s, u"group"_s});
+    EXPECT_EQ(place.scratchFolders(), QStringList());
+}
+
+TEST_F(Verbs, AStatusThatATerminalWouldObeyIsShownInTerminalAndLog)
+{
+    m_folder.precede("VELMARCOMM", "printf '\\033[2J' > status.out; exit");
+    const Ended ended = run({u"send"_s, u"SHOP"_s, u"group"_s});
+    EXPECT_EQ(ended.code, 1);
+    for (const QString& text :
+         {ended.err, QString::fromUtf8(readWholeFile(m_folder.appFile(u"SHOP/norvane.log"_s)))}) {
+        EXPECT_TRUE(text.contains(u"status.out contains \"\\x1b[2J\""_s)) << text.toStdString();
+        EXPECT_FALSE(text.contains(u'\x1b'));
+    }
 }
 
 TEST_F(Verbs, AReportOfAnyPeriodIsComparedWithAnother)
