@@ -27,8 +27,8 @@ bool isMadeFrom(const QString& table, int file)
 /// Of a file that was never sent nothing is known.
 LedgerEntry known(const ExchangeLedger& ledger, int file, const ApplicationValues& values)
 {
-    const LedgerEntry* const entry = ledger.entry(file);
-    return entry != nullptr && isOfModel(*entry, values) ? *entry : LedgerEntry();
+    const LedgerEntry* const entry = ledger.entry(file, modelOf(values));
+    return entry != nullptr ? *entry : LedgerEntry();
 }
 
 } // namespace

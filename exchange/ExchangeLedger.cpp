@@ -74,7 +74,8 @@ QByteArray soundContent(const QString& path)
 {
     QByteArray content;
     try {
-        if (pathExists(path))
+        // A device or pipe of that name would never end.
+        if (QFileInfo(existingPath(path)).isFile())
             content = readWholeFile(path);
     } catch (const RuntimeFailure&) {
         return {};
@@ -100,9 +101,9 @@ QByteArray contentOf(const std::map<int, LedgerEntry>& entries, const QString& s
 
 } // namespace
 
-bool isOfModel(const LedgerEntry& entry, const ApplicationValues& values)
+int modelOf(const ApplicationValues& values)
 {
-    return entry.model == registerModelByText(values).place;
+    return registerModelByText(values).place;
 }
 
 ExchangeLedger ExchangeLedger::read(const ApplicationValues& values)
@@ -134,10 +135,10 @@ void ExchangeLedger::save(const ApplicationValues& values) const
         QFile::remove(path);
 }
 
-const LedgerEntry* ExchangeLedger::entry(int file) const
+const LedgerEntry* ExchangeLedger::entry(int file, int model) const
 {
     const auto found = m_entries.find(file);
-    return found == m_entries.end() ? nullptr : &found->second;
+    return found == m_entries.end() || found->second.model != model ? nullptr : &found->second;
 }
 
 } // namespace norvane::exchange

@@ -17,14 +17,14 @@ struct LedgerEntry {
     Digests lines;       ///< that registers 1 to n are known to have
     QDateTime since;     ///< when they were sent or fetched
     int registers = 0;   ///< n; a fetch counts for all that the customer had then
-    int model = 0;       ///< RegisterModel::place: another model has none of these lines
+    int model = 0;       ///< modelOf() then: another model has none of these lines
     int generation = -1; ///< of the firmware, on which some lines depend
     /// A send of other content did not succeed: some registers may have it.
     bool mayBeAtSome = false;
 };
 
-/// Whether the customer's registers are still of the model that the entry is about.
-[[nodiscard]] bool isOfModel(const LedgerEntry& entry, const ApplicationValues& values);
+/// Which model the customer's registers are of: RegisterModel::place. Reads the settings.
+[[nodiscard]] int modelOf(const ApplicationValues& values);
 
 /// The entries of a customer by register file. A file without one counts as never sent.
 class ExchangeLedger
@@ -36,8 +36,9 @@ public:
     /// written is removed: without it all is sent once more, with an old one changes would be forgotten.
     void save(const ApplicationValues& values) const;
 
-    /// @return nullptr for a file of which nothing is known.
-    [[nodiscard]] const LedgerEntry* entry(int file) const;
+    /// @param model that the customer's registers are of
+    /// @return nullptr for a file of which nothing is known, or only of registers of another model.
+    [[nodiscard]] const LedgerEntry* entry(int file, int model) const;
     void set(int file, LedgerEntry entry) { m_entries[file] = std::move(entry); }
     void forget(int file) { m_entries.erase(file); }
 

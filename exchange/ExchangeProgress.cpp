@@ -18,6 +18,9 @@ namespace
 /// "Upload=67:1520 65:110": milliseconds by file.
 constexpr auto timesSection = "Times"_L1;
 
+/// No file takes a day. A greater number was not written by this program, and sums of such would overflow.
+constexpr qint64 longestTime = std::chrono::milliseconds(std::chrono::hours(24)).count();
+
 QLatin1StringView keyOf(Direction direction)
 {
     return direction == Direction::Upload ? "Upload"_L1 : "Download"_L1;
@@ -28,7 +31,7 @@ QMap<int, qint64> formerTimes(const ApplicationValues& values, Direction directi
     QMap<int, qint64> times;
     for (const QString& word : link::readLongNote(values, timesSection, keyOf(direction)).split(u' ')) {
         const qint64 time = word.section(u':', 1).toLongLong();
-        if (time > 0)
+        if (time > 0 && time <= longestTime)
             times[word.section(u':', 0, 0).toInt()] = time;
     }
     return times;

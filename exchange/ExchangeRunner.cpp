@@ -49,6 +49,9 @@ ExchangeRunner::ExchangeRunner(const ApplicationValues& values, const link::Link
                                                   }},
       m_keptFiles(values, m_outside), m_ledger(values), m_progress(values, m_outside.millisecondsOpen)
 {
+    m_procedures.recordRead = [this](const store::Recordset& record) {
+        m_ledger.addRecord(record);
+    };
     m_procedures.lineWritten = [this](std::string_view line) {
         m_ledger.addLine(line);
     };

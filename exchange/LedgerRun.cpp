@@ -6,37 +6,22 @@
 #include "exchange/ExchangePlan.h"
 #include "exchange/SendContent.h"
 #include "platform/RuntimeFailure.h"
-#include "platform/SilentBoxes.h"
 #include "records/FileProcedures.h"
-#include "register/Firmware.h"
 
 #include <algorithm>
 
 namespace norvane::exchange
 {
-namespace
-{
-
-/// Of the register that was last spoken to; -1 if it is not known.
-int latestGeneration(const ApplicationValues& values)
-{
-    try {
-        SilentBoxes boxes;
-        return GetFirmwareGeneration(values.appPath, boxes);
-    } catch (const RuntimeFailure&) {
-        return -1;
-    }
-}
-
-} // namespace
 
 void LedgerRun::begin(Direction direction, const QList<int>& boxes, int registers)
 {
     m_ledger = ExchangeLedger::read(m_values);
     m_registers = registers;
+    m_model = modelOf(m_values);
     m_hasBegun = true;
     if (direction == Direction::Download)
         expectSend(boxes);
+    m_generation.reset();
 }
 
 /// In the file alone: what is known in memory is written at the end.
@@ -67,6 +52,7 @@ void LedgerRun::beginFile(int file)
 {
     m_file = file;
     m_digester.emplace(file);
+    m_fetched.emplace(m_values, file);
     m_lines.clear();
     m_isDoubtful = false;
 }
@@ -74,6 +60,12 @@ void LedgerRun::beginFile(int file)
 void LedgerRun::addLine(std::string_view line)
 {
     m_lines.push_back(m_digester->next(line));
+}
+
+void LedgerRun::addRecord(const store::Recordset& record)
+{
+    if (m_fetched)
+        m_fetched->add(record);
 }
 
 void LedgerRun::sending()
@@ -100,11 +92,16 @@ void LedgerRun::fetched()
 {
     if (m_isDoubtful)
         return;
-    if (!m_database)
-        m_database.emplace(m_values.databasePath);
-    auto lines = sendContent(m_values, *m_database, m_file, latestGeneration(m_values));
+    Digests lines;
+    try {
+        lines = fetchedLines();
+    } catch (const RuntimeFailure&) {
+        // The upload is complete. Its file counts as never sent.
+        m_ledger.forget(m_file);
+        return;
+    }
     const LedgerEntry known = knownEntry(m_file);
-    LedgerEntry entry = entryOf(std::move(lines).value_or(Digests()));
+    LedgerEntry entry = entryOf(std::move(lines));
     entry.registers = std::min(entry.registers, known.registers);
     if (known.mayBeAtSome && entry.registers > 1) {
         entry.lines = inBoth(entry.lines, known.lines);
@@ -113,17 +110,34 @@ void LedgerRun::fetched()
     m_ledger.set(m_file, std::move(entry));
 }
 
-/// What is known of the file, or that nothing is.
-LedgerEntry LedgerRun::knownEntry(int file) const
+Digests LedgerRun::fetchedLines()
 {
-    const LedgerEntry* const known = m_ledger.entry(file);
-    return known != nullptr && isOfModel(*known, m_values) ? *known : entryOf({});
+    if (!m_database)
+        m_database.emplace(m_values.databasePath);
+    if (auto lines = m_fetched->takeAll(*m_database))
+        return *std::move(lines);
+    return sendContent(m_values, *m_database, m_file, generation()).value_or(Digests());
 }
 
-LedgerEntry LedgerRun::entryOf(Digests lines) const
+/// What is known of the file, or that nothing is.
+LedgerEntry LedgerRun::knownEntry(int file)
 {
-    return {std::move(lines), QDateTime::currentDateTime(), m_registers, registerModelByText(m_values).place,
-            latestGeneration(m_values)};
+    const LedgerEntry* const known = m_ledger.entry(file, m_model);
+    return known != nullptr ? *known : entryOf({});
+}
+
+LedgerEntry LedgerRun::entryOf(Digests lines)
+{
+    return {std::move(lines), QDateTime::currentDateTime(), m_registers, m_model, generation()};
+}
+
+/// The memory file is fetched before the first file. Looking for it at each file took half of the ledger's
+/// time.
+int LedgerRun::generation()
+{
+    if (!m_generation)
+        m_generation = generationIn(m_values.appPath);
+    return *m_generation;
 }
 
 /// Registers with cards forget the points of their PLUs with the PLUs.

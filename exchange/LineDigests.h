@@ -21,6 +21,8 @@ public:
     /// @param file number of a register file; the lines of one without a table are never counted.
     explicit LineDigester(int file);
     [[nodiscard]] std::uint64_t next(std::string_view line);
+    /// Whether a line has another digest at another place.
+    [[nodiscard]] bool isPlaced() const { return m_isPlaced; }
 
 private:
     bool m_isPlaced;

@@ -3,13 +3,13 @@
 
 #include "base/CustomerSettings.h"
 #include "exchange/ExchangeBoxes.h"
+#include "exchange/SendContent.h"
 #include "link/CommandLines.h"
 #include "link/ResultCodes.h"
 #include "link/WatchedStep.h"
 #include "platform/FilePaths.h"
 #include "platform/RuntimeFailure.h"
 #include "records/MemoryFile.h"
-#include "register/Firmware.h"
 
 #include <QFile>
 
@@ -119,10 +119,8 @@ bool RegisterFetch::runTool(const QString& line, const QString& written)
 {
     const ChildResult result = link::runTool(m_outside, line);
     const QString tool = commandWords(line).value(0);
-    if (result == ChildResult::Crashed)
-        return stop(u"the program %1 crashed"_s.arg(tool));
     if (result != ChildResult::Ended)
-        return stop(u"the program %1 was not found"_s.arg(tool));
+        return stop(u"the program %1 %2"_s.arg(tool, link::endInWords(result)));
     if (pathExists(joinPath(m_scratch.folder(), written)))
         return true;
     const QString cause = written.endsWith(".txt"_L1)
@@ -131,20 +129,19 @@ bool RegisterFetch::runTool(const QString& line, const QString& written)
     return stop(u"the program %1 wrote no %2"_s.arg(tool, written) + cause);
 }
 
+/// Without the full stop that a failure's text has, since more may follow.
 bool RegisterFetch::stop(const QString& reason)
 {
-    m_fetched.stopped = u"%1: %2"_s.arg(m_place, reason);
+    m_fetched.stopped = u"%1: %2"_s.arg(m_place, reason.endsWith(u'.') ? reason.chopped(1) : reason);
     return false;
 }
 
 /// Columns and texts of some files depend on it.
 void RegisterFetch::lookAtFirmware()
 {
-    if (!pathExists(joinPath(m_customer.customerPath, memoryName)))
-        return;
-    const int here = GetFirmwareGeneration(m_customer.customerPath, m_noBoxes);
-    const int there = GetFirmwareGeneration(m_scratch.folder(), m_noBoxes);
-    if (here != there) {
+    const int here = generationIn(m_customer.customerPath);
+    const int there = generationIn(m_scratch.folder());
+    if (here >= 0 && there >= 0 && here != there) {
         m_fetched.notice =
             u"The register has firmware of generation %1, the one of the last upload had %2."_s.arg(there)
                 .arg(here);

@@ -36,7 +36,8 @@ public:
     RegisterFetch& operator=(const RegisterFetch&) = delete;
     ~RegisterFetch() = default;
 
-    /// Fetches the files of @p boxes except the points, which registers count, and what the model has not.
+    /// Fetches the files of @p boxes except the points, which registers count, and those that the model does
+    /// not have.
     /// A failure ends it as a tool's does.
     /// @throws RuntimeFailure with Failure::UserInterrupt after a signal.
     FetchedFiles fetch(const QList<int>& boxes);

@@ -4,8 +4,11 @@
 #include "base/CustomerSettings.h"
 #include "exchange/KeptFiles.h"
 #include "platform/FilePaths.h"
+#include "platform/RuntimeFailure.h"
+#include "platform/SilentBoxes.h"
 #include "records/FileProcedures.h"
 #include "records/RegisterLines.h"
+#include "register/Firmware.h"
 
 #include <algorithm>
 
@@ -20,6 +23,28 @@ qint64 recordCount(store::Database& database, const records::RegisterFile& file)
 }
 
 } // namespace
+
+int generationIn(const QString& folder)
+{
+    try {
+        SilentBoxes boxes;
+        return GetFirmwareGeneration(folder, boxes);
+    } catch (const RuntimeFailure&) {
+        return -1;
+    }
+}
+
+records::RegisterTraits sendTraits(const ApplicationValues& values, int generation)
+{
+    const auto width = [&values, known = 0]() mutable {
+        if (known == 0)
+            known = registerModel(values).messageWidth;
+        return static_cast<std::size_t>(known);
+    };
+    return {width, [generation] {
+                return generation;
+            }};
+}
 
 std::optional<Digests> keptContent(const ApplicationValues& values, int file)
 {
@@ -37,17 +62,11 @@ void forEachSendLine(const ApplicationValues& values, store::Database& database,
     if (recordCount(database, file) == 0)
         return;
     LineDigester digester(file.number);
-    const auto width = static_cast<std::size_t>(registerModel(values).messageWidth);
     const store::Value none;
     const auto takeLine = [&](std::string_view line, const store::Recordset& record) {
         take(digester.next(line), lines.keyField.isEmpty() ? none : record.value(lines.keyField));
     };
-    records::forEachLine(file, database,
-                         {[width] { return width; },
-                          [&lines] {
-                              return lines.generation;
-                          }},
-                         takeLine, lines.keyField);
+    records::forEachLine(file, database, sendTraits(values, lines.generation), takeLine, lines.keyField);
 }
 
 std::optional<Digests> sendContent(const ApplicationValues& values, store::Database& database, int file,

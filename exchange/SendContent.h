@@ -3,6 +3,7 @@
 
 #include "base/ApplicationValues.h"
 #include "exchange/LineDigests.h"
+#include "records/RegisterTraits.h"
 #include "store/engine/Database.h"
 #include "store/engine/Value.h"
 
@@ -11,6 +12,13 @@
 
 namespace norvane::exchange
 {
+
+/// Generation of the firmware by the memory file in a folder; -1 if it is not known.
+[[nodiscard]] int generationIn(const QString& folder);
+
+/// What the lines of a send depend on besides their table.
+/// @param values must outlive the traits; @p generation of the registers' firmware
+[[nodiscard]] records::RegisterTraits sendTraits(const ApplicationValues& values, int generation);
 
 /// Lines of a file with a table, for a walk over them.
 struct SendLines {

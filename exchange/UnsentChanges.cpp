@@ -25,14 +25,13 @@ class Comparison
 public:
     explicit Comparison(const ApplicationValues& values)
         : m_values(values), m_ledger(ExchangeLedger::read(values)), m_database(values.databasePath),
-          m_registers(link::readLinkSettings(values).registers())
+          m_registers(link::readLinkSettings(values).registers()), m_model(modelOf(values))
     {
     }
 
     void add(int file, BoxChanges& box)
     {
-        const LedgerEntry* const entry = m_ledger.entry(file);
-        if (entry != nullptr && isOfModel(*entry, m_values)) {
+        if (const LedgerEntry* const entry = m_ledger.entry(file, m_model)) {
             addKnown(file, *entry, box);
         } else {
             count(file, sendLines(m_values, m_database, file), box);
@@ -62,6 +61,7 @@ private:
     ExchangeLedger m_ledger;
     store::Database m_database;
     int m_registers;
+    int m_model;
 };
 
 QString counted(qint64 count, const QString& one, const QString& several)

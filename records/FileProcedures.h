@@ -5,6 +5,7 @@
 #include "base/ApplicationValues.h"
 #include "platform/Boxes.h"
 #include "records/RecordLines.h"
+#include "store/engine/Recordset.h"
 
 #include <QString>
 
@@ -35,6 +36,10 @@ struct ProcedureContext {
     };
     /// Where NN.txt is read; empty for the working directory. The converter has to work there too.
     QString folder{};
+    /// Gets the recordset on each record that a File... procedure has read, as it is stored. A failure puts
+    /// the table back afterwards or keeps it as it then is.
+    std::function<void(const store::Recordset& record)> recordRead = [](const store::Recordset&) {
+    };
     /// Gets each line that a Write... procedure puts into NN.txt, closed by CR LF.
     std::function<void(std::string_view line)> lineWritten = [](std::string_view) {
     };

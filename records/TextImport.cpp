@@ -22,8 +22,9 @@ namespace
 class Import
 {
 public:
-    Import(const RegisterFile& file, store::Recordset& records, const RegisterTraits& traits)
-        : m_file(file), m_records(records), m_reader(file.layout(), records, traits)
+    Import(const RegisterFile& file, store::Recordset& records, const ProcedureContext& context)
+        : m_file(file), m_records(records), m_context(context),
+          m_reader(file.layout(), records, traitsOf(context))
     {
     }
 
@@ -56,8 +57,7 @@ private:
     void addRecord(std::string_view line, qint64 number)
     {
         m_records.addNew();
-        m_reader.read(line, number);
-        m_records.update();
+        readRecord(line, number);
     }
 
     void updateRecord(std::string_view line, qint64 number)
@@ -66,12 +66,19 @@ private:
         if (!m_records.seek(store::Seek::Equal, store::Value::text(plainFromRegister(takeField(rest)))))
             return;
         m_records.edit();
+        readRecord(line, number);
+    }
+
+    void readRecord(std::string_view line, qint64 number)
+    {
         m_reader.read(line, number);
         m_records.update();
+        m_context.recordRead(m_records);
     }
 
     const RegisterFile& m_file;
     store::Recordset& m_records;
+    const ProcedureContext& m_context;
     RecordReader m_reader;
     qint64 m_stored = 0;
 };
@@ -101,7 +108,7 @@ void importText(const RegisterFile& file, store::Database& database, const Proce
     if (file.upload == Upload::ReplacesTable)
         counts.former = database.execute(u"delete * from %1"_s.arg(QLatin1String(file.table)));
     const QByteArray content = readWholeFile(joinPath(context.folder, textName(file)));
-    Import import(file, records, traitsOf(context));
+    Import import(file, records, context);
     const auto count = qScopeGuard([&] { counts.read = import.stored(); });
     import.storeAll(withoutEndMark({content.constData(), static_cast<std::size_t>(content.size())}));
 }

@@ -182,6 +182,23 @@ TEST(ExchangeLedger, WithoutASoundLedgerOfThisShopEverythingCounts)
     EXPECT_EQ(changesOf(shop, groupBox), all) << "other registers";
 }
 
+/// As many lines as PLUs, but one PLU twice and another not at all.
+TEST(ExchangeLedger, AFetchedTextWithOnePluTwiceCountsAsTheTableThatItLeft)
+{
+    Exchange shop(2);
+    shop.afterTool = [](const QString& line) {
+        if (!line.contains(u"t71.txt"_s))
+            return;
+        QByteArrayList lines = readWholeFile(u"71.txt"_s).split('\n');
+        lines[1] = lines[0].replace("0000,0000", "0000,0007");
+        writeWholeFile(u"71.txt"_s, lines.join('\n'));
+    };
+    shop.upload({pluBox});
+    EXPECT_EQ(unsent(shop), "");
+    EXPECT_EQ(test::rowsOf(shop.values.databasePath, u"select count(*) from PLUDATA where POINT1 is null"_s),
+              "1");
+}
+
 /// Registers with cards forget the points with the PLUs.
 TEST(ExchangeLedger, PointsFollowTheirPlus)
 {

@@ -85,6 +85,7 @@ public:
     ApplicationValues values;
     test::RecordingBoxes boxes;
     QStringList lines; ///< of the tools
+    std::function<void(const QString& folder)> afterTool;
     std::function<bool()> goOn = [] {
         return true;
     };
@@ -95,7 +96,10 @@ private:
         return {.runAndWait =
                     [this, workingFolder](const QString& line) {
                         lines << line;
-                        return link::RunAndWait(values, line, {}, workingFolder);
+                        const ChildResult result = link::RunAndWait(values, line, {}, workingFolder);
+                        if (afterTool)
+                            afterTool(workingFolder);
+                        return result;
                     },
                 .readStatus = [workingFolder] { return link::readStatusOutIn(workingFolder); },
                 .showStep = [](const QString&) {},
@@ -136,7 +140,11 @@ TEST_P(RegisterComparisonTest, ListsNothingAfterAnUploadThenWhatWasEditedThenWha
     UploadedShop shop(GetParam());
     const auto before = shop.everyFile();
     shop.lines.clear();
-    EXPECT_EQ(shop.listed(), "");
+    {
+        const ScratchShop inUse(shop.values);
+        EXPECT_EQ(shop.listed(), "");
+        EXPECT_EQ(shop.place.scratchFolders(), QStringList{QFileInfo(inUse.folder()).fileName()});
+    }
     EXPECT_EQ(shop.place.scratchFolders(), QStringList());
     EXPECT_EQ(shop.everyFile(), before) << "neither here nor at the register";
     EXPECT_TRUE(shop.lines.contains(u"VELMARCOMM s9 c1  N67.DAT -U 67"_s));
@@ -205,6 +213,14 @@ TEST(RegisterComparisonOf, EndsWithAReasonAndLeavesNoFolder)
         "model than Setup says";
     EXPECT_EQ(stopped("Command=fetch\nFile=1\nCrash=1\n"), "file 1: the program VELMARCOMM crashed");
     EXPECT_EQ(stopped("Command=fetch\nFile=1\nBytesLeft=20\n"), noText);
+    shop.afterTool = [](const QString& folder) {
+        writeWholeFile(joinPath(folder, u"1.txt"_s), QByteArray(50, 'x'));
+    };
+    EXPECT_EQ(stopped(""),
+              "file 1: 1.txt, line 1, column 1: The text is too long. Field DESCRIPTION of table "
+              "GROUPS holds 12 characters, not \"" +
+                  std::string(50, 'x') + "\"");
+    shop.afterTool = {};
     EXPECT_EQ(stopped("Command=fetch\nFile=1\nStatus=none\n"),
               "file 1: the program VELMARCOMM wrote no status.out");
     ProfileFile::write(settingsPath(shop.values), u"SetupOption"_s, "ECRModel"_L1, u"3"_s);
@@ -225,6 +241,8 @@ TEST(RegisterComparisonOf, NamesOtherFirmwareAndFilesThatWereNeverUploaded)
     const RegisterComparison comparison = shop.compare({12, 16});
     EXPECT_EQ(comparison.notes().join(u'\n').toStdString(),
               "The register has firmware of generation 3, the one of the last upload had 2.");
+    writeWholeFile(joinPath(shop.values.customerPath, u"MEM.dat"_s), "");
+    EXPECT_EQ(shop.compare({12}).notes(), QStringList()) << "not known";
     const QString listed = QString::fromStdString(shop.listed(comparison));
     EXPECT_TRUE(listed.startsWith(" Ingredient Inventory, file 61 : 5 bytes of "_L1));
     EXPECT_TRUE(listed.endsWith(
