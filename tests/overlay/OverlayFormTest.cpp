@@ -247,13 +247,13 @@ TEST_F(OverlayFormTest, PrintsOnceAndTellsWhatFails)
     m_printFile = path("sheet.pdf");
     m_boxes.shown.clear();
     m_boxes.answers = {false, true, false, true, true};
-    QStringList told;
+    QStringList notices;
     m_boxes.whileOpen = [&](const ShownBox& box) {
         if (box == startPrinting)
-            told += status();
+            notices += status();
     };
     choose("Print");
-    EXPECT_EQ(told, QStringList{u"Printer: none. Paper: A4 portrait. Scale: 100 %."_s});
+    EXPECT_EQ(notices, QStringList{u"Printer: none. Paper: A4 portrait. Scale: 100 %."_s});
     m_boxes.shown.clear();
     choose("Print");
     EXPECT_FALSE(QFile::exists(m_printFile));
@@ -298,7 +298,7 @@ TEST_F(OverlayFormTest, ImportsALevelAndStaysWhenRowsAreMissing)
                               "KEYLINK, which has only 170. Upload \"Key Link\" and \"PLU & WLU "
                               "Relocation\" from the register, then import the level again."_s,
                               applicationTitle(), BoxIcon::Critical})});
-    EXPECT_EQ(cell(0).text() + cell(36).text(), u"TEAfunctio"_s) << "what was read and typed stays";
+    EXPECT_EQ(cell(0).text() + cell(36).text(), u"TEAfunctio"_s) << "what was read and typed remains";
 }
 
 TEST_F(OverlayFormTest, LeavingAsksOnceAboutUnsavedChanges)
