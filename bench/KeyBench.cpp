@@ -42,13 +42,41 @@ public:
     }
 };
 
-std::unique_ptr<keys::KeyLayout> open(Shop& shop, Boxes& boxes)
+template <typename Form, typename... Parts>
+std::unique_ptr<Form> shown(Parts&&... parts)
 {
-    auto form = std::make_unique<keys::KeyLayout>(shop.keyboard, shop.values, boxes);
+    auto form = std::make_unique<Form>(std::forward<Parts>(parts)...);
     form->show();
     QApplication::processEvents();
     return form;
 }
+
+/// The editor of a full keyboard, on its first level.
+struct OpenEditor {
+    template <typename Control>
+    [[nodiscard]] Control& control(QAnyStringView name) const
+    {
+        return *form->findChild<Control*>(name.toString());
+    }
+    [[nodiscard]] keys::KeyGrid& grid() const { return control<keys::KeyGrid>("Grid1"); }
+    /// All keys on a laptop.
+    void fitLaptop() const
+    {
+        form->resize(laptop);
+        grid().fitKeyboard();
+        QApplication::processEvents();
+    }
+    [[nodiscard]] QTableView& listOfPlus() const
+    {
+        control<QRadioButton>("plucode").click();
+        QApplication::processEvents();
+        return control<QTableView>("plulist");
+    }
+
+    Shop shop = {};
+    NoBoxes boxes = {};
+    std::unique_ptr<keys::KeyLayout> form = shown<keys::KeyLayout>(shop.keyboard, shop.values, boxes);
+};
 
 void openEditor(benchmark::State& state)
 {
@@ -57,7 +85,7 @@ void openEditor(benchmark::State& state)
     bench::Times times;
     for (auto _ : state) {
         std::unique_ptr<keys::KeyLayout> form;
-        times.add([&] { form = open(shop, boxes); });
+        times.add([&] { form = shown<keys::KeyLayout>(shop.keyboard, shop.values, boxes); });
         require(
             form->findChild<QTableView*>(QStringLiteral("Grid1"))->model()->index(12, 0).data().toString() ==
                 QStringLiteral("P00000000000000100 Article 100"),
@@ -68,19 +96,17 @@ void openEditor(benchmark::State& state)
 
 void changeLevel(benchmark::State& state)
 {
-    Shop shop;
-    NoBoxes boxes;
+    const OpenEditor editor;
     bench::Times times;
-    const auto form = open(shop, boxes);
     int level = 1;
     for (auto _ : state) {
         level = level % keys::levelCount + 1;
-        auto* const button = form->findChild<QPushButton*>(QStringLiteral("CSCmdBtn%1").arg(level + 2));
+        auto& button = editor.control<QPushButton>(QStringLiteral("CSCmdBtn%1").arg(level + 2));
         times.add([&] {
-            button->click();
+            button.click();
             QApplication::processEvents();
         });
-        require(form->windowTitle().endsWith(QString::number(level)), "the level is shown");
+        require(editor.form->windowTitle().endsWith(QString::number(level)), "the level is shown");
     }
     times.report(state);
 }
@@ -88,24 +114,20 @@ void changeLevel(benchmark::State& state)
 /// Replaces the filter, or adds to it, as a typist does, and lets the list paint.
 void filterPlus(benchmark::State& state)
 {
-    Shop shop;
-    NoBoxes boxes;
+    const OpenEditor editor;
     bench::Times times;
-    const auto form = open(shop, boxes);
-    form->findChild<QRadioButton*>(QStringLiteral("plucode"))->click();
-    QApplication::processEvents();
-    auto* const box = form->findChild<QLineEdit*>(QStringLiteral("ListFilter"));
-    const auto* const list = form->findChild<QTableView*>(QStringLiteral("plulist"))->model();
+    const auto* const list = editor.listOfPlus().model();
+    auto& box = editor.control<QLineEdit>("ListFilter");
     require(list->rowCount() == pluCount, "all PLUs");
     const QString typed = QStringLiteral("art123");
     int stroke = 0;
     for (auto _ : state) {
         const QChar key = typed[stroke % typed.size()];
         if (stroke++ % 3 == 0)
-            box->selectAll();
+            box.selectAll();
         times.add([&] {
             QKeyEvent press(QEvent::KeyPress, key.unicode(), Qt::NoModifier, QString(key));
-            QApplication::sendEvent(box, &press);
+            QApplication::sendEvent(&box, &press);
             QApplication::processEvents();
         });
     }
@@ -123,14 +145,10 @@ void pressKey(QWidget& control, Qt::Key key, Qt::KeyboardModifiers modifiers)
 /// All keys in view, one step of the zoom after the other, each of them painted.
 void zoomKeys(benchmark::State& state)
 {
-    Shop shop;
-    NoBoxes boxes;
+    const OpenEditor editor;
     bench::Times times;
-    const auto form = open(shop, boxes);
-    form->resize(laptop);
-    auto& grid = *form->findChild<keys::KeyGrid*>(QStringLiteral("Grid1"));
-    grid.fitKeyboard();
-    QApplication::processEvents();
+    editor.fitLaptop();
+    keys::KeyGrid& grid = editor.grid();
     int step = 0;
     for (auto _ : state) {
         const int before = grid.zoomPercent();
@@ -146,14 +164,10 @@ void zoomKeys(benchmark::State& state)
 /// The block grows by a row or column of keys with each press; its current key is sought on all levels.
 void selectKeys(benchmark::State& state)
 {
-    Shop shop;
-    NoBoxes boxes;
+    const OpenEditor editor;
     bench::Times times;
-    const auto form = open(shop, boxes);
-    form->resize(laptop);
-    auto& grid = *form->findChild<keys::KeyGrid*>(QStringLiteral("Grid1"));
-    grid.fitKeyboard();
-    QApplication::processEvents();
+    editor.fitLaptop();
+    keys::KeyGrid& grid = editor.grid();
     int step = 0;
     for (auto _ : state) {
         if (step++ % 24 == 0)
@@ -167,20 +181,17 @@ void selectKeys(benchmark::State& state)
 /// A level filled from the first rows of 100,000 PLUs, from the preview to the level that has changed.
 void fillLevel(benchmark::State& state)
 {
-    Shop shop;
-    NoBoxes boxes;
+    const OpenEditor editor;
     bench::Times previews;
     bench::Times fills;
-    const auto form = open(shop, boxes);
-    form->findChild<QRadioButton*>(QStringLiteral("plucode"))->click();
-    auto& list = *form->findChild<QTableView*>(QStringLiteral("plulist"));
+    const QTableView& list = editor.listOfPlus();
     for (const char* const box : {"FillSkipsUsed", "FillSkipsPlaced"})
-        form->findChild<QCheckBox*>(QLatin1String(box))->setChecked(false);
-    auto* const fill = form->findChild<QAction*>(QStringLiteral("Fill"));
+        editor.control<QCheckBox>(box).setChecked(false);
+    auto& fill = editor.control<QAction>("Fill");
     int first = 0;
     for (auto _ : state) {
-        form->findChild<keys::KeyGrid*>(QStringLiteral("Grid1"))->setCurrentCell({0, 0});
-        fill->setChecked(true);
+        editor.grid().setCurrentCell({0, 0});
+        fill.setChecked(true);
         QApplication::processEvents();
         const auto rows = QItemSelection(list.model()->index(first, 0), list.model()->index(first + 199, 1));
         first += 200;
@@ -189,10 +200,10 @@ void fillLevel(benchmark::State& state)
             QApplication::processEvents();
         });
         fills.add([&] {
-            form->findChild<QPushButton*>(QStringLiteral("FillPut"))->click();
+            editor.control<QPushButton>("FillPut").click();
             QApplication::processEvents();
         });
-        require(!fill->isChecked(), "the level is filled");
+        require(!fill.isChecked(), "the level is filled");
     }
     fills.report(state);
     state.counters["preview_ms"] = previews.average();
@@ -201,13 +212,10 @@ void fillLevel(benchmark::State& state)
 /// All of 100,000 PLUs marked at once, with the preview.
 void markAllPlus(benchmark::State& state)
 {
-    Shop shop;
-    NoBoxes boxes;
+    const OpenEditor editor;
     bench::Times times;
-    const auto form = open(shop, boxes);
-    form->findChild<QRadioButton*>(QStringLiteral("plucode"))->click();
-    form->findChild<QAction*>(QStringLiteral("Fill"))->setChecked(true);
-    auto& list = *form->findChild<QTableView*>(QStringLiteral("plulist"));
+    QTableView& list = editor.listOfPlus();
+    editor.control<QAction>("Fill").setChecked(true);
     for (auto _ : state) {
         list.clearSelection();
         QApplication::processEvents();
@@ -224,11 +232,7 @@ void openLookUps(benchmark::State& state)
     bench::Times times;
     for (auto _ : state) {
         std::unique_ptr<keys::frmwlu> form;
-        times.add([&] {
-            form = std::make_unique<keys::frmwlu>(shop.values, boxes);
-            form->show();
-            QApplication::processEvents();
-        });
+        times.add([&] { form = shown<keys::frmwlu>(shop.values, boxes); });
         require(form->findChild<QTableView*>(QStringLiteral("plulist"))->model()->rowCount() == pluCount,
                 "all PLUs");
     }
@@ -240,9 +244,8 @@ void nextLookUp(benchmark::State& state)
     Shop shop;
     NoBoxes boxes;
     bench::Times times;
-    keys::frmwlu form(shop.values, boxes);
-    form.show();
-    auto* const button = form.findChild<QPushButton*>(QStringLiteral("NextRecord"));
+    const auto form = shown<keys::frmwlu>(shop.values, boxes);
+    auto* const button = form->findChild<QPushButton*>(QStringLiteral("NextRecord"));
     int number = 1;
     for (auto _ : state) {
         times.add([&] {
@@ -251,7 +254,7 @@ void nextLookUp(benchmark::State& state)
         });
         ++number;
     }
-    require(form.findChild<QLineEdit*>(QStringLiteral("WLUNumber"))->text() == QString::number(number),
+    require(form->findChild<QLineEdit*>(QStringLiteral("WLUNumber"))->text() == QString::number(number),
             "one after another");
     times.report(state);
 }

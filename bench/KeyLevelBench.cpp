@@ -13,22 +13,28 @@ namespace
 
 using namespace norvane;
 
+/// The first level of full keyboards.
+struct ReadLevel {
+    ReadLevel() { level.read(1); }
+
+    bench::KeyboardShop shop = {};
+    std::shared_ptr<store::Database> database = std::make_shared<store::Database>(shop.database());
+    keys::KeyLevel level{shop.keyboard, database};
+};
+
 /// Reads the second level and lists what it does otherwise.
 void compareLevels(benchmark::State& state)
 {
-    const bench::KeyboardShop shop;
-    const auto database = std::make_shared<store::Database>(shop.database());
-    keys::KeyLevel level(shop.keyboard, database);
-    level.read(1);
+    const ReadLevel first;
     bench::Times times;
     for (auto _ : state) {
         std::size_t differences = 0;
         times.add([&] {
-            keys::KeyLevel other(shop.keyboard, database);
+            keys::KeyLevel other(first.shop.keyboard, first.database);
             other.read(2);
-            differences = keys::differencesOf(level, other).size();
+            differences = keys::differencesOf(first.level, other).size();
         });
-        bench::require(differences == static_cast<std::size_t>(shop.keyboard.keysPerLevel),
+        bench::require(differences == static_cast<std::size_t>(first.shop.keyboard.keysPerLevel),
                        "all keys differ");
     }
     times.report(state);
@@ -37,15 +43,12 @@ void compareLevels(benchmark::State& state)
 /// The window with both keyboards and the list.
 void openComparison(benchmark::State& state)
 {
-    const bench::KeyboardShop shop;
+    const ReadLevel first;
     ui::MessageBoxes boxes;
-    const auto database = std::make_shared<store::Database>(shop.database());
-    keys::KeyLevel level(shop.keyboard, database);
-    level.read(1);
     bench::Times times;
     for (auto _ : state) {
         times.add([&] {
-            keys::CompareLevels window(level, database, boxes, nullptr);
+            keys::CompareLevels window(first.level, first.database, boxes, nullptr);
             window.show();
             QApplication::processEvents();
         });
@@ -57,15 +60,14 @@ void openComparison(benchmark::State& state)
 template <keys::KeyFilter filter>
 void searchLevels(benchmark::State& state)
 {
-    const bench::KeyboardShop shop;
-    const auto database = std::make_shared<store::Database>(shop.database());
-    keys::KeyLevel level(shop.keyboard, database);
-    level.read(1);
+    const ReadLevel first;
     bench::Times times;
     for (auto _ : state) {
         std::size_t hits = 0;
         times.add([&] {
-            hits = keys::searchKeys(keys::keysOfAllLevels(level, database), filter, *database).size();
+            hits =
+                keys::searchKeys(keys::keysOfAllLevels(first.level, first.database), filter, *first.database)
+                    .size();
         });
         bench::require(hits >= 845, "keys or PLUs");
     }
