@@ -94,7 +94,7 @@ QWidget* CorrectionForm::makeCorrection()
     auto* const frame = new QGroupBox(u"Correction of this printer"_s, this);
     auto* const grid = new QGridLayout(frame);
     m_across.offset = addBox(*grid, u"OffsetAcross"_s, u"Move to the &right (less than 0: to the left):"_s);
-    m_down.offset = addBox(*grid, u"OffsetDown"_s, u"Move do&wn (less than 0: up):"_s);
+    m_down.offset = addBox(*grid, u"OffsetDown"_s, u"&Move down (less than 0: up):"_s);
     m_across.stretch = addBox(*grid, u"StretchAcross"_s, u"&Width of the printed sheet:"_s);
     m_down.stretch = addBox(*grid, u"StretchDown"_s, u"&Height of the printed sheet:"_s);
     const double largest = paper::largestOffset.inMillimetres();

@@ -38,7 +38,7 @@ MoreReports::MoreReports(const ApplicationValues& values, Boxes& boxes, reports:
     : QDialog(parent), m_values(values), m_boxes(boxes), m_report(*this, boxes, std::move(runner)),
       m_reports(otherReports(values)), m_list(new QTreeWidget(this)),
       m_period(new PeriodChooser(QString(), this)),
-      m_copy(ui::makeButton(u"CopyLayout"_s, u"&Copy and Open"_s, this)),
+      m_copy(ui::makeButton(u"CopyLayout"_s, u"Cop&y and Open"_s, this)),
       m_open(ui::makeButton(u"OpenLayout"_s, u"&Open"_s, this)),
       m_show(ui::makeButton(u"ShowReport"_s, u"&Show"_s, this)),
       m_print(ui::makeButton(u"PrintReport"_s, u"P&rint"_s, this))

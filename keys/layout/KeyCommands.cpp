@@ -46,8 +46,8 @@ KeyCommands::KeyCommands(KeyEditor& editor, KeyGrid& grid, QObject* parent)
         {"Find", "&Find", "Ctrl+F", inForm, &KeyCommands::findWanted},
         {},
         {"WholeKeyboard", "&Whole Keyboard", "Ctrl+0", inForm, &KeyCommands::showAll},
-        {"Smaller", "S&maller", "Ctrl+-", inForm, &KeyCommands::reduce},
-        {"Larger", "La&rger", "Ctrl++; Ctrl+=", inForm, &KeyCommands::enlarge},
+        {"Smaller", "Sm&aller", "Ctrl+-", inForm, &KeyCommands::reduce},
+        {"Larger", "Lar&ger", "Ctrl++; Ctrl+=", inForm, &KeyCommands::enlarge},
         {"Lists", "L&ists", "F9", inForm, nullptr},
         {"Fill", "Fill &Keys", "Ctrl+K", inForm, nullptr},
     }};

@@ -1,9 +1,12 @@
 // Opens every window and lists the texts that cannot be read: cut, covered, too pale, or off a small screen.
-//   check_windows [--scale 2] [--font 150] [--dark | --contrast] [--tables] [--pictures <folder>]
-// --tables opens the tables of all screens instead, wider than the screen. --scale is the number of pixels to
-// a point, --font the size of the system's font in percent. The screen has 1024 x 768 points. What a screen
-// reader could not say is a fault as well. Prints a line for each fault; the exit code is 1 if there is one.
+//   check_windows [--screen 1366x768] [--scale 2] [--font 150] [--dark | --contrast] [--tables]
+//                 [--pictures <folder>]
+// --tables opens the tables of all screens instead, wider than the screen. --screen is the size of the screen
+// in points, 1024 x 768 without it, --scale the number of pixels to a point, --font the size of the system's
+// font in percent. What a screen reader could not say is a fault as well, and so is an access letter that
+// leads to two controls. Prints a line for each fault; the exit code is 1 if there is one.
 #include "scripts/windows/EveryWindow.h"
+#include "scripts/windows/LetterCheck.h"
 #include "scripts/windows/SpokenControls.h"
 #include "scripts/windows/TextCheck.h"
 #include "shell/HelpTopics.h"
@@ -23,11 +26,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
-constexpr QSize screenSize{1024, 768};
 /// What the title of a window takes of the screen.
 constexpr int titleHeight = 30;
 
 struct Setting {
+    QSize screen;
     int scale = 1;
     int fontPercent = 100;
     bool isDark = false;
@@ -39,21 +42,28 @@ struct Setting {
 Setting settingOf(const QStringList& words)
 {
     QCommandLineParser parser;
-    parser.addOptions({{u"scale"_s, {}, u"n"_s, u"1"_s},
+    parser.addOptions({{u"screen"_s, {}, u"points"_s, u"1024x768"_s},
+                       {u"scale"_s, {}, u"n"_s, u"1"_s},
                        {u"font"_s, {}, u"n"_s, u"100"_s},
                        {u"dark"_s, {}},
                        {u"contrast"_s, {}},
                        {u"tables"_s, {}},
                        {u"pictures"_s, {}, u"folder"_s}});
     parser.process(words);
-    return {parser.value(u"scale"_s).toInt(), parser.value(u"font"_s).toInt(), parser.isSet(u"dark"_s),
-            parser.isSet(u"contrast"_s),      parser.isSet(u"tables"_s),       parser.value(u"pictures"_s)};
+    const QStringList points = parser.value(u"screen"_s).split(u'x');
+    return {{points.first().toInt(), points.last().toInt()},
+            parser.value(u"scale"_s).toInt(),
+            parser.value(u"font"_s).toInt(),
+            parser.isSet(u"dark"_s),
+            parser.isSet(u"contrast"_s),
+            parser.isSet(u"tables"_s),
+            parser.value(u"pictures"_s)};
 }
 
 /// The screen that the windows open on. Before the application is made.
 void setUpScreen(const Setting& setting, const QString& configuration)
 {
-    const QSize pixels = screenSize * setting.scale;
+    const QSize pixels = setting.screen * setting.scale;
     QFile file(configuration);
     if (!file.open(QFile::WriteOnly))
         qFatal("cannot write %s", qPrintable(configuration));
@@ -101,9 +111,10 @@ void setUpDesktop(const Setting& setting)
         QApplication::setPalette(contrastPalette());
 }
 
-QString tooLarge(const QWidget& window)
+QString tooLarge(const QWidget& window, QSize room)
 {
-    const QSize room = screenSize - QSize(0, titleHeight);
+    if (!qobject_cast<const QMenu*>(&window))
+        room.rheight() -= titleHeight;
     return window.isWindow() && room.expandedTo(window.size()) != room
                ? u"%1 x %2 is larger than the screen"_s.arg(window.width()).arg(window.height())
                : QString();
@@ -134,14 +145,19 @@ public:
         const QImage picture = window.grab().toImage();
         if (!m_setting.pictures.isEmpty())
             picture.save(QDir(m_setting.pictures).filePath(name + u".png"_s));
-        for (const QString& fault : QStringList{tooLarge(window), withoutHelp(window)} +
+        for (const QString& fault : QStringList{tooLarge(window, m_setting.screen), withoutHelp(window)} +
                                         norvane::windows::unreadableTexts(window, picture) +
-                                        norvane::windows::unspokenControls(window))
+                                        norvane::windows::unspokenControls(window) +
+                                        m_letters.repeated(window))
             print(name, fault);
     }
     /// @return the exit code.
-    [[nodiscard]] int end() const
+    [[nodiscard]] int end()
     {
+        if (!m_setting.isForTables) {
+            for (const QString& fault : m_letters.unusedExceptions())
+                print(u"fixed letters"_s, fault);
+        }
         std::printf("%d windows, %d faults\n", m_windows, m_faults);
         return m_faults == 0 ? 0 : 1;
     }
@@ -156,6 +172,7 @@ private:
     }
 
     const Setting& m_setting;
+    norvane::windows::LetterCheck m_letters;
     int m_windows = 0;
     int m_faults = 0;
 };
@@ -175,7 +192,7 @@ int main(int argc, char** argv)
     const QTemporaryDir folder;
     setUpScreen(setting, folder.filePath(u"screen.json"_s));
     QApplication application(argc, argv);
-    if (QGuiApplication::primaryScreen()->size() != screenSize)
+    if (QGuiApplication::primaryScreen()->size() != setting.screen)
         qFatal("the screen has another size");
     setUpDesktop(setting);
     norvane::ui::applyAppearance(application);

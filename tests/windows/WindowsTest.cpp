@@ -1,4 +1,5 @@
 // Every window under the settings that users have, and the faults that the search must find.
+#include "scripts/windows/LetterCheck.h"
 #include "scripts/windows/SpokenControls.h"
 #include "scripts/windows/TextCheck.h"
 
@@ -110,6 +111,41 @@ TEST(TextCheckTest, FindsWhatAScreenReaderCannotSay)
         const QString faults = unspokenControls(form).join(u'\n');
         EXPECT_EQ(faults.isEmpty(), *each.found == '\0') << faults.toStdString();
         EXPECT_TRUE(faults.contains(QLatin1String(each.found))) << faults.toStdString();
+    }
+}
+
+TEST(LetterCheckTest, FindsLettersThatLeadToTwoControlsInViewOrTwoEntriesOfAMenu)
+{
+    const struct {
+        void (*spoil)(QWidget& form, QWidget& label);
+        const char* found; ///< empty if it is not a fault
+    } cases[] = {
+        {[](QWidget&, QWidget&) {}, ""},
+        {[](QWidget& form, QWidget&) { new QCheckBox(u"&Send"_s, &form); }, "button \"&Save record\", "},
+        {[](QWidget& form, QWidget&) { (new QCheckBox(u"&Send"_s, &form))->hide(); }, ""},
+        {[](QWidget& form, QWidget&) { new QGroupBox(u"&Stock && Supply"_s, &form); }, "Alt+S"},
+        {[](QWidget&, QWidget& label) { static_cast<QLabel&>(label).setText(u"&Supplier"_s); }, ""},
+        {[](QWidget& form, QWidget& label) {
+             static_cast<QLabel&>(label).setText(u"&Supplier"_s);
+             static_cast<QLabel&>(label).setBuddy(form.findChild<QLineEdit*>());
+         },
+         "label \"&Supplier\""},
+        {[](QWidget& form, QWidget&) { (new QMenu(&form))->addAction(u"&Save"_s); }, ""},
+        {[](QWidget& form, QWidget&) {
+             auto* const menu = new QMenu(&form);
+             menu->addAction(u"&Copy"_s);
+             menu->addAction(u"&Clear"_s);
+         },
+         "Alt+C"},
+    };
+    for (const auto& each : cases) {
+        QWidget form;
+        fill(form);
+        each.spoil(form, *form.findChild<QWidget*>(u"label"_s));
+        LetterCheck check;
+        const QString faults = check.repeated(form).join(u'\n');
+        EXPECT_EQ(faults.isEmpty(), *each.found == '\0') << faults.toStdString() << (&each - cases);
+        EXPECT_TRUE(faults.contains(QLatin1String(each.found))) << faults.toStdString() << (&each - cases);
     }
 }
 
