@@ -3,6 +3,7 @@
 
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
+#include "ui/ScreenShare.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -24,8 +25,8 @@ QString summaryOf(const LevelImport& plan, int level)
                        .arg(plan.keys.size())
                        .arg(level);
     if (!plan.missing.isEmpty()) {
-        text += u" What is missing in this shop is listed first: these keys will point at nothing until it "
-                "is made."_s;
+        text += u" Items that this shop does not have are listed first: until they are made, their keys will "
+                "point at nothing."_s;
     }
     return text + u" Nothing is stored before you save the level."_s;
 }
@@ -67,7 +68,7 @@ ImportLevel::ImportLevel(const LevelImport& plan, int level, QWidget* parent) : 
     column->addWidget(summary);
     column->addWidget(list, 1);
     column->addLayout(ui::makeButtonRow({import, cancel}));
-    resize(ui::scaled(importSize));
+    resize(ui::scaledOnScreen(*this, importSize));
     cancel->setFocus();
 }
 

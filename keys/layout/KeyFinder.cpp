@@ -4,6 +4,8 @@
 #include "ui/Appearance.h"
 #include "ui/FilteredList.h"
 #include "ui/FormKit.h"
+#include "ui/KeptInFront.h"
+#include "ui/ScreenShare.h"
 #include "ui/WaitPointer.h"
 
 #include <QAction>
@@ -55,6 +57,7 @@ KeyFinder::KeyFinder(const KeyLevel& level, std::shared_ptr<store::Database> dat
     ui::fitFirstColumn(*m_list, longestPlace);
     layOut();
     connectControls();
+    new ui::KeptInFront(*this);
     refresh();
 }
 
@@ -72,7 +75,7 @@ void KeyFinder::layOut()
         button->setAutoDefault(false); // Enter belongs to the list
     column->addLayout(ui::makeButtonRow({leave}, {m_open}));
     m_text->setList(m_list);
-    resize(ui::scaled(finderSize));
+    resize(ui::scaledOnScreen(*this, finderSize));
 }
 
 void KeyFinder::connectControls()
@@ -86,6 +89,8 @@ void KeyFinder::connectControls()
     connect(m_list, &QTableView::clicked, this, &KeyFinder::goTo);
     connect(m_list, &QTableView::activated, this, &KeyFinder::goTo);
     connect(m_list, &QTableView::doubleClicked, this, &KeyFinder::openItem);
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this] { m_open->setEnabled(canOpen()); });
     connect(m_open, &QPushButton::clicked, this, &KeyFinder::openItem);
     auto* const byKeys = new QAction(this);
     byKeys->setShortcuts(QKeySequence::listFromString(u"Ctrl+Return; Ctrl+Enter"_s));
@@ -133,7 +138,7 @@ void KeyFinder::chooseFirst()
 {
     if (m_hits->rowCount() > 0)
         m_list->selectRow(0);
-    m_open->setEnabled(m_hits->rowCount() > 0);
+    m_open->setEnabled(canOpen());
     showCount();
 }
 
@@ -154,12 +159,21 @@ void KeyFinder::goTo(const QModelIndex& index)
         Q_EMIT placeWanted(key->place, key->cell);
 }
 
-void KeyFinder::openItem()
+/// An item that does not exist has no record; the first one would be shown in its place.
+bool KeyFinder::canOpen() const
 {
     const QModelIndex index = m_list->currentIndex();
     if (!index.isValid())
+        return false;
+    const std::optional<PlacedKey>& key = m_hits->hit(index.row()).key;
+    return !key || key->key.state != KeyState::Missing;
+}
+
+void KeyFinder::openItem()
+{
+    if (!canOpen())
         return;
-    const KeyHit hit = m_hits->hit(index.row());
+    const KeyHit hit = m_hits->hit(m_list->currentIndex().row());
     Q_EMIT itemWanted(hit.kind, hit.number);
 }
 

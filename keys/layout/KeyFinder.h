@@ -46,6 +46,7 @@ private:
     void showCount();
     void chooseFirst();
     void goTo(const QModelIndex& index);
+    [[nodiscard]] bool canOpen() const;
     void openItem();
     void placeBeside();
 

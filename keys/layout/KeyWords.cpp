@@ -47,7 +47,7 @@ QString keyInWords(const Key& key)
     const auto [kind, number, name] = wordsOf(key);
     if (kind.isEmpty())
         return u"not programmed"_s;
-    const QString item = kind + u' ' + number;
+    const QString item = number.isEmpty() ? kind + u" without a number"_s : kind + u' ' + number;
     return key.state == KeyState::Missing ? item + u", which does not exist"_s : item + u' ' + name;
 }
 

@@ -3,6 +3,7 @@
 
 #include "base/LossQuestion.h"
 #include "keys/layout/ImportLevel.h"
+#include "keys/layout/KeyboardKeys.h"
 #include "keys/layout/LevelFile.h"
 #include "platform/FailureBox.h"
 #include "platform/FilePaths.h"
@@ -12,6 +13,8 @@
 
 #include <QDir>
 #include <QFile>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -58,7 +61,11 @@ QString LevelExchange::exportLevel()
                         QString(pleaseCheck), BoxIcon::Exclamation);
         return {};
     }
-    return u"Level %1 exported to %2"_s.arg(m_level.level()).arg(QFileInfo(path).fileName());
+    const QString outcome = u"Level %1 exported to %2"_s.arg(m_level.level()).arg(QFileInfo(path).fileName());
+    const auto left = std::ranges::count_if(
+        keysOf(m_level), [](const PlacedKey& placed) { return !isExportable(placed.key); });
+    return left == 0 ? outcome
+                     : outcome + u". Keys left out, since their number is not valid: %1"_s.arg(left);
 }
 
 QString LevelExchange::importLevel()

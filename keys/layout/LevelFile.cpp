@@ -69,6 +69,15 @@ bool isNumberOf(ItemKind kind, const QString& number)
            (kind != ItemKind::Function || kindOf(number) == ItemKind::Function);
 }
 
+/// Not programmed, where the number is one that no item can have: the whole file would be refused.
+KeyWords writtenWords(const Key& key)
+{
+    KeyWords words = wordsOf(key);
+    if (!isExportable(key))
+        words = {};
+    return words;
+}
+
 [[noreturn]] void refuse(qsizetype line, const QString& why)
 {
     throw LevelFileError(u"Line %1: %2"_s.arg(line).arg(why));
@@ -118,12 +127,18 @@ int keyOfLine(const QStringList& cells, qsizetype line, const std::vector<bool>&
 
 } // namespace
 
+bool isExportable(const Key& key)
+{
+    const KeyWords words = wordsOf(key);
+    return words.kind.isEmpty() || isNumberOf(kindOf(key.function), words.number);
+}
+
 QByteArray levelText(const KeyLevel& level, const QString& shop)
 {
     QStringList lines{firstLine, keyboardMark + keyboardName(level.geometry()), u"Shop: "_s + onOneLine(shop),
                       u"Level: %1"_s.arg(level.level()), columnsLine};
     for (const PlacedKey& placed : keysOf(level)) {
-        const KeyWords words = wordsOf(placed.key);
+        const KeyWords words = writtenWords(placed.key);
         lines +=
             QStringList{QString::number(placed.place.key), words.kind, words.number, onOneLine(words.name)}
                 .join(u'\t');

@@ -22,8 +22,12 @@ public:
     using TextError::TextError;
 };
 
+/// Whether @p key is empty or its item has a number that readLevelText() takes, be it of an item that does
+/// not exist.
+[[nodiscard]] bool isExportable(const Key& key);
+
 /// The level as it is shown, in UTF-8: a heading, then a line for each key with its number, kind, number of
-/// the item and name, separated by tabs.
+/// the item and name, separated by tabs. A key that is not exportable is written as not programmed.
 [[nodiscard]] QByteArray levelText(const KeyLevel& level, const QString& shop);
 
 /// What the keys hold, key number 1 first. @throws LevelFileError for another file, a level of another

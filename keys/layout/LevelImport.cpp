@@ -92,7 +92,7 @@ private:
         const QString item =
             QStringList{u"Key %1:"_s.arg(number), words.kind, words.number, words.name}.join(u' ').trimmed();
         if (found) {
-            m_plan.renamed += item + u" is here "_s + keyInWords(*found);
+            m_plan.renamed += item + u" is "_s + keyInWords(*found) + u" here"_s;
         } else {
             m_plan.missing += item;
         }

@@ -14,6 +14,8 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace norvane::keys
@@ -90,15 +92,11 @@ void LevelTools::openFound(ItemKind kind, const QString& number)
     Q_EMIT itemWanted(kind, number);
 }
 
-/// Some window managers bring the editor back in front of the list of hits.
+/// The list of hits has the focus again if the item was opened from there.
 void LevelTools::itemClosed()
 {
-    if (m_finder == nullptr || !m_finder->isVisible())
-        return;
-    m_finder->raise();
-    if (m_isFound)
+    if (std::exchange(m_isFound, false) && m_finder->isVisible())
         m_finder->activateWindow();
-    m_isFound = false;
 }
 
 /// An item that does not exist has no record.
@@ -106,6 +104,7 @@ void LevelTools::openItem()
 {
     const Key& key = m_ground.level.key(m_ground.grid.currentCell());
     if (key.function.isEmpty() || key.state == KeyState::Missing || key.state == KeyState::Fixed) {
+        Q_EMIT noticed(u"This key has no item to open"_s);
         m_ground.boxes.beep();
     } else {
         Q_EMIT itemWanted(kindOf(key.function), shownItemNumber(key));

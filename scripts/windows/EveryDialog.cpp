@@ -175,7 +175,7 @@ QWidget* levelImport(Ground& /*ground*/, QWidget* parent)
     const keys::LevelImport plan{
         std::vector<keys::FilledKey>(169),
         {u"Key 4: PLU 123456789012345678 An article of 24 chars"_s, u"Key 158: Look-up 12 Breakfast"_s},
-        {u"Key 1: PLU 1001 Cola is here PLU 123456789012345678 Cola"_s},
+        {u"Key 1: PLU 1001 Cola is PLU 123456789012345678 Cola here"_s},
         117};
     return new keys::ImportLevel(plan, 1, parent);
 }

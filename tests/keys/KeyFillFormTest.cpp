@@ -136,7 +136,7 @@ TEST_P(KeyFillFormTest, TheKeyboardAloneFillsABlockFromAGroup)
     EXPECT_EQ(plan(), "6 keys, 6 of them in use. Left out: 34 without room.");
     control<QLineEdit>("ListFilter").setFocus();
     QTest::keyClicks(QApplication::focusWidget(), u"20..22"_s);
-    EXPECT_EQ(block(), ". 20 21 22 . . . . . .") << "two numbers stand above the group";
+    EXPECT_EQ(block(), ". 20 21 22 . . . . . .") << "two numbers replace the group";
     key(Qt::Key_Return);
     EXPECT_TRUE(grid().hasFocus() && isChanged());
     EXPECT_EQ(block(), ". 20 21 22 . . . . . .");

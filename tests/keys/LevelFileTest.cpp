@@ -84,9 +84,9 @@ TEST(LevelFile, ItemsAreFoundByNameWhereTheNumberIsAnothers)
     to.level.read(1);
     const LevelImport plan = to.plan(exported().replace("\tLemonade", "\tJuice"));
     EXPECT_EQ(plan.missing, (QStringList{u"Key 4: PLU 4711"_s, u"Key 158: Look-up 12 Breakfast"_s}));
-    EXPECT_EQ(plan.renamed.join(u'\n'), u"Key 1: PLU 1001 Cola is here PLU 7 Cola\n"
-                                        "Key 2: PLU 1002 Juice is here PLU 1002 Lemonade\n"
-                                        "Key 3: Function 5 CASH is here Function 5 NOTES"_s);
+    EXPECT_EQ(plan.renamed.join(u'\n'), u"Key 1: PLU 1001 Cola is PLU 7 Cola here\n"
+                                        "Key 2: PLU 1002 Juice is PLU 1002 Lemonade here\n"
+                                        "Key 3: Function 5 CASH is Function 5 NOTES here"_s);
     KeyEditor editor(to.level);
     editor.place(plan.keys);
     EXPECT_EQ(to.textOf(1), u"PLU 7 Cola"_s);
@@ -97,6 +97,19 @@ TEST(LevelFile, ItemsAreFoundByNameWhereTheNumberIsAnothers)
     editor.history().undo();
     EXPECT_EQ(to.textOf(1), u"not programmed"_s);
     EXPECT_FALSE(editor.history().canUndo()) << "one step";
+}
+
+TEST(LevelFile, LeavesOutKeysWhoseNumberNoItemCanHave)
+{
+    Shop shop;
+    shop.level.read(2);
+    shop.level.setKey(shop.cellOf(1), {u"0"_s, {}, u"PLU ITEM"_s, KeyState::Missing});
+    shop.level.setKey(shop.cellOf(2), {u"-5"_s, {}, u"Function Key"_s, KeyState::Missing});
+    shop.put(3, ItemKind::Plu, "1001");
+    EXPECT_EQ(shop.textOf(1), u"PLU without a number, which does not exist"_s);
+    const QByteArray text = levelText(shop.level, u"Bar"_s);
+    EXPECT_TRUE(text.contains("\r\n1\t\t\t\r\n2\t\t\t\r\n3\tPLU\t1001\tCola\r\n")) << text.toStdString();
+    EXPECT_EQ(shop.plan(text).changed, 2) << "the file can be read";
 }
 
 TEST(LevelFile, RefusesOtherFilesWithAReason)

@@ -127,6 +127,8 @@ TEST_F(LevelToolsTest, FiltersKeysThatPointAtNothingAndItemsOnNoKey)
     };
     show(1);
     EXPECT_EQ(hits(), "Level 3 key 6");
+    EXPECT_FALSE(control<QPushButton>("OpenFound").isEnabled());
+    key(Qt::Key_Return, Qt::ControlModifier); // nor another item in its place
     show(2);
     EXPECT_EQ(hits(), "Level 1 key 2, Level 3 key 5");
     show(3);
