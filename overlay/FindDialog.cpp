@@ -104,6 +104,18 @@ void FindDialog::showCell(int cell)
     m_keyboard.makeCurrent(cell);
     m_keyboard.select([key = layout.keyIndex(cell)](KeySelection& keys) { keys.select({key}); });
     m_outcome->setText(placeName(layout, cell));
+    const QRect place = m_keyboard.placeOnScreen(cell);
+    keepOff(place.adjusted(0, -2 * place.height(), 0, 2 * place.height())); // the whole key
+}
+
+/// Moves to the other half of the screen if @p place were hidden otherwise.
+void FindDialog::keepOff(const QRect& place)
+{
+    if (!frameGeometry().intersects(place))
+        return;
+    const QRect room = ui::roomOnScreen(*this);
+    const bool isAbove = place.center().y() > room.center().y();
+    move(x(), isAbove ? room.top() : room.bottom() - frameGeometry().height());
 }
 
 /// A text over two lines cannot be replaced: nobody could say where its replacement is to be broken.

@@ -39,6 +39,7 @@ private:
     void replace();
     void replaceAll();
     void showCell(int cell);
+    void keepOff(const QRect& place);
 
     DocumentEditor& m_editor;
     KeyboardView& m_keyboard;

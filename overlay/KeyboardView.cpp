@@ -238,6 +238,12 @@ void KeyboardView::makeCurrent(int cell)
     enter(cell);
 }
 
+QRect KeyboardView::placeOnScreen(int cell) const
+{
+    const CellEdit& edit = *m_cells[static_cast<std::size_t>(cell)];
+    return {edit.mapToGlobal(QPoint()), edit.size()};
+}
+
 void KeyboardView::goTo(int cell)
 {
     m_cells[static_cast<std::size_t>(cell)]->setFocus(Qt::TabFocusReason);

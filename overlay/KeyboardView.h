@@ -38,6 +38,8 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     /// Scrolls to @p cell and makes it the current one, without the focus.
     void makeCurrent(int cell);
+    /// Where @p cell is on the screen.
+    [[nodiscard]] QRect placeOnScreen(int cell) const;
     /// Selects what @p work selects and shows it.
     void select(const std::function<void(KeySelection&)>& work);
     [[nodiscard]] const KeySelection& selection() const { return m_selection; }

@@ -224,7 +224,7 @@ void OverlayForm::openAtGoodSize()
 
 void OverlayForm::reject()
 {
-    if (mayLeave())
+    if (m_files.mayDropChanges())
         QDialog::reject();
 }
 

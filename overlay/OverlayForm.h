@@ -34,9 +34,8 @@ public:
     OverlayForm(Keyboard keyboard, const ApplicationValues& values, Boxes& boxes, OverlayDialogs& dialogs,
                 PrinterInUse& printer, QWidget* parent = nullptr);
 
-    /// Asks what to do with unsaved changes when a window with this form in it is closed.
-    [[nodiscard]] bool mayLeave() { return m_files.mayDropChanges(); }
-    /// The user leaves with the entry "E&xit", the Escape key or the window's close button.
+    /// The user leaves with the entry "E&xit", the Escape key or the window's close button; unsaved changes
+    /// are asked about.
     void reject() override;
 
 private:

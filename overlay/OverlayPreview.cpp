@@ -133,7 +133,7 @@ void OverlayPreview::correct()
         take(form.correction());
 }
 
-/// A correction that could not be stored stays in force.
+/// A correction that could not be stored remains in use.
 void OverlayPreview::chooseOptions()
 {
     if (auto chosen = m_actions.chooseOptions(this)) {

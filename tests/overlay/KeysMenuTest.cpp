@@ -283,6 +283,17 @@ TEST_F(KeysMenuTest, FindsAndReplaces)
     EXPECT_TRUE(m_form->isVisible());
     choose("Undo");
     EXPECT_EQ(key(72), u"HAMBURG|ER |15"_s);
+
+    type(60, "ONLY");
+    press(Qt::Key_F, Qt::ControlModifier);
+    sought.setText(u"ONLY"_s);
+    const auto isHidden = [&] {
+        return dialog.frameGeometry().contains(cell(60).mapToGlobal(cell(60).rect().center()));
+    };
+    dialog.move(cell(60).mapToGlobal(QPoint(-40, -40)));
+    EXPECT_TRUE(isHidden());
+    click("FindNextButton");
+    EXPECT_FALSE(isHidden()) << "the dialog moves off what it has found";
 }
 
 TEST_F(KeysMenuTest, HasTheKeysThatEveryProgramHas)
