@@ -298,6 +298,19 @@ void FrmMain::endWork()
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
+/// The answer before says nothing about what would be lost. Each window asks as when it is closed alone, in
+/// front of the others. @return false if one remains open.
+bool FrmMain::closeChanged()
+{
+    const auto open = m_area->subWindowList();
+    return std::ranges::all_of(open, [this](QMdiSubWindow* child) {
+        if (!child->widget() || !child->widget()->isWindowModified())
+            return true;
+        m_area->setActiveSubWindow(child);
+        return child->close();
+    });
+}
+
 void FrmMain::closeEvent(QCloseEvent* event)
 {
     if (m_working) {
@@ -307,6 +320,7 @@ void FrmMain::closeEvent(QCloseEvent* event)
     }
     m_unloading =
         m_unloading || m_boxes.ask(u"Are You Sure?"_s, u"Exit Program"_s, BoxIcon::Question, BoxAnswer::No);
+    m_unloading = m_unloading && closeChanged();
     event->setAccepted(m_unloading);
     if (m_unloading)
         Q_EMIT unloaded();

@@ -60,7 +60,7 @@ public:
     [[nodiscard]] QMdiArea& area() { return *m_area; }
     /// Opens what @p entry is for, as the menu does; it need not be in the menu.
     void choose(const MenuEntry& entry);
-    /// Closes the window and its child windows without asking.
+    /// Closes the window and its child windows; only those with unsaved changes ask.
     void unload();
 
     /// Nothing can be opened or closed until endWork(); see LongWork.
@@ -76,7 +76,7 @@ Q_SIGNALS:
     void customerShown();
 
 protected:
-    /// Asks first, however the user closes the window.
+    /// Asks first, however the user closes the window, and again for each child window with unsaved changes.
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -94,6 +94,7 @@ private:
     void place(QMdiSubWindow& child);
     [[nodiscard]] bool coversAnother(const QMdiSubWindow& child) const;
     void showDataInUse();
+    [[nodiscard]] bool closeChanged();
 
     const ApplicationValues& m_values;
     Boxes& m_boxes;

@@ -4,8 +4,6 @@
 #include "overlay/OverlayForm.h"
 #include "overlay/SystemDialogs.h"
 
-#include <QEvent>
-
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
@@ -18,26 +16,6 @@ namespace
 using overlay::Keyboard;
 using overlay::OverlayForm;
 
-/// The main window closes without asking the forms in it. So unsaved overlays are asked about first.
-class CloseQuestion : public QObject
-{
-public:
-    CloseQuestion(FrmMain& main, OverlayForm& form) : QObject(&form), m_form(form)
-    {
-        main.installEventFilter(this);
-    }
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        if (event->type() != QEvent::Close || m_form.mayLeave())
-            return false;
-        event->ignore();
-        return true;
-    }
-
-private:
-    OverlayForm& m_form;
-};
-
 /// What the designers share as long as the program runs.
 struct Shared {
     overlay::SystemDialogs dialogs;
@@ -48,9 +26,7 @@ void openBeside(FrmMain& main, Keyboard keyboard, const ApplicationValues& value
                 Shared& shared)
 {
     const auto make = [&] {
-        auto* const form = new OverlayForm(keyboard, values, boxes, shared.dialogs, shared.printer);
-        new CloseQuestion(main, *form);
-        return form;
+        return new OverlayForm(keyboard, values, boxes, shared.dialogs, shared.printer);
     };
     main.showShared(overlay::geometryOf(keyboard).name.toString(), make, FrmMain::FormSize::Free);
 }

@@ -197,5 +197,34 @@ TEST_F(ScreensInFrameTest, AScreenReadsItsRecordAgainWhenItComesToTheFront)
     EXPECT_EQ(shown(second, pluName), "Porter") << "the record with this number";
 }
 
+TEST_F(ScreensInFrameTest, TheEndAsksForEachWindowWithUnsavedChanges)
+{
+    QSignalSpy ended(&*m_main, &FrmMain::unloaded);
+    type(open("PLUMENU"), pluName, "Stout");
+    QWidget& second = open("PLUMENU");
+    child<QPushButton>(second, "NextRecord").click();
+    type(second, pluName, "Perry");
+    open("PLUMENU");
+    const auto end = [this](std::deque<UnsavedAnswer> unsaved) {
+        m_boxes.shown.clear();
+        m_boxes.answers = {true};
+        m_boxes.unsavedAnswers = std::move(unsaved);
+        m_main->close();
+        QStringList texts;
+        for (const test::ShownBox& box : m_boxes.shown)
+            texts += box.text.section(u" ["_s, 0, 0);
+        return texts;
+    };
+    EXPECT_EQ(end({UnsavedAnswer::Save, UnsavedAnswer::Cancel}),
+              (QStringList{u"Are You Sure?"_s, u"Changes to PLU 1001 are not saved."_s,
+                           u"Changes to PLU 1002 are not saved."_s}));
+    EXPECT_EQ(ended.size(), 0);
+    EXPECT_EQ(&front(), &second) << "the one that was asked about";
+    EXPECT_EQ(end({UnsavedAnswer::Discard}),
+              (QStringList{u"Are You Sure?"_s, u"Changes to PLU 1002 are not saved."_s}));
+    EXPECT_EQ(ended.size(), 1);
+    EXPECT_EQ(plus(), "Stout 2.5|Cider 3");
+}
+
 } // namespace
 } // namespace norvane::shell
