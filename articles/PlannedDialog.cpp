@@ -7,6 +7,7 @@
 #include "ui/Appearance.h"
 #include "ui/FilteredList.h"
 #include "ui/FormKit.h"
+#include "ui/ScreenShare.h"
 
 #include <QFileInfo>
 #include <QHeaderView>
@@ -29,7 +30,10 @@ namespace
 
 const auto plannedTitle = u"Planned Changes"_s;
 constexpr QSize listsSize{640, 150};
-constexpr int changesHeight = 220;
+constexpr QSize changesSize{640, 220};
+/// Of the height of a small screen, where large type would make both higher.
+constexpr double listsShare = 0.25;
+constexpr double changesShare = 0.35;
 constexpr std::array changePixels{72, 150, 150, 130};
 
 } // namespace
@@ -51,7 +55,7 @@ void PlannedDialog::layOut()
     m_lists->setHeaderLabels({u"List"_s, u"Store on"_s, u"Table"_s, u"Records"_s, u"State"_s, u"From"_s});
     m_lists->setRootIsDecorated(false);
     m_lists->setAllColumnsShowFocus(true);
-    m_lists->setMinimumSize(ui::scaled(listsSize));
+    m_lists->setMinimumSize(ui::scaledOnScreen(*this, listsSize, listsShare));
     m_lists->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_lists->header()->setStretchLastSection(false);
     QTableView* const changes = makeChanges();
@@ -70,7 +74,7 @@ QTableView* PlannedDialog::makeChanges()
         ui::makeListTable(u"PlannedValues"_s, u"What the list changes"_s, m_changes, this);
     view->horizontalHeader()->show();
     view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    view->setMinimumHeight(ui::scaled(changesHeight));
+    view->setMinimumHeight(ui::scaledOnScreen(*this, changesSize, changesShare).height());
     for (std::size_t column = 0; column < changePixels.size(); ++column)
         view->setColumnWidth(static_cast<int>(column), ui::scaled(changePixels.at(column)));
     return view;

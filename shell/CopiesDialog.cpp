@@ -10,6 +10,7 @@
 #include "shell/RestoreCopy.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
+#include "ui/ScreenShare.h"
 #include "ui/WaitPointer.h"
 
 #include <QDirIterator>
@@ -29,7 +30,10 @@ namespace
 {
 
 constexpr QSize copyListSize{520, 200};
-constexpr int differencesHeight = 120;
+constexpr QSize differencesSize{520, 120};
+/// Of the height of a small screen, where large type would make both higher.
+constexpr double listShare = 0.4;
+constexpr double differencesShare = 0.25;
 
 qint64 sizeOf(const customers::SafetyCopy& copy)
 {
@@ -59,13 +63,13 @@ void CopiesDialog::layOut()
     ui::nameControl(*m_differences, u"CopyDifferences"_s);
     m_list->setHeaderLabels({u"Made"_s, u"Reason"_s, u"Size"_s});
     m_list->setRootIsDecorated(false);
-    m_list->setMinimumSize(ui::scaled(copyListSize));
+    m_list->setMinimumSize(ui::scaledOnScreen(*this, copyListSize, listShare));
     m_list->header()->setStretchLastSection(false);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_list->header()->setSectionResizeMode(1, QHeaderView::Stretch);
     m_differences->setReadOnly(true);
     m_differences->setTabChangesFocus(true);
-    m_differences->setFixedHeight(ui::scaled(differencesHeight));
+    m_differences->setFixedHeight(ui::scaledOnScreen(*this, differencesSize, differencesShare).height());
     auto* const label = new QLabel(u"What a restore would change:"_s, this);
     label->setBuddy(m_differences);
     QVBoxLayout* const column = ui::makeFormColumn(*this, ui::spacing::controlGap);

@@ -4,6 +4,7 @@
 #include "shell/SystemReport.h"
 #include "ui/Appearance.h"
 #include "ui/FormKit.h"
+#include "ui/ScreenShare.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -21,6 +22,7 @@ namespace
 {
 
 constexpr QSize textSize{640, 400};
+constexpr double textShare = 0.8; ///< of the height of a small screen, at most
 
 } // namespace
 
@@ -34,7 +36,7 @@ frmSysInfo::frmSysInfo(const QString& report, QWidget* parent) : QDialog(parent)
     text->setReadOnly(true);
     text->setTabChangesFocus(true);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    text->setMinimumSize(ui::scaled(textSize));
+    text->setMinimumSize(ui::scaledOnScreen(*this, textSize, textShare));
     QPushButton* const copy = ui::makeButton(u"CopyButton"_s, u"&Copy"_s, this);
     QPushButton* const done = ui::makeButton(u"CloseButton"_s, u"C&lose"_s, this);
     done->setDefault(true);
