@@ -70,6 +70,16 @@ public:
         return std::move(m_statement);
     }
 
+    LineStatement writeRows()
+    {
+        std::string columns;
+        for (const auto& field : m_source.fields)
+            columns += (columns.empty() ? "" : ", ") + (m_source.isKey(field) ? keyOf(field) : plain(field));
+        m_statement.sql = "SELECT " + columns + " FROM " + rows();
+        m_statement.sql += where();
+        return std::move(m_statement);
+    }
+
     LineStatement write()
     {
         std::string with = joinTables();
@@ -156,7 +166,7 @@ private:
     {
         if (field.table != m_source.table)
             return joinName(*field.table) + '.' + alias(field);
-        return below ? "b." + store::quotedName(field.name()) : "l." + alias(field);
+        return below ? plain(field) : "l." + alias(field);
     }
 
     [[nodiscard]] std::string joined(bool below) const
@@ -198,6 +208,17 @@ private:
         return sql;
     }
 
+    /// A field of the report's own table, in a row.
+    [[nodiscard]] static std::string plain(const FieldName& field)
+    {
+        return "b." + store::quotedName(field.name());
+    }
+
+    [[nodiscard]] static std::string keyOf(const FieldName& field)
+    {
+        return field.isText() ? byValue(plain(field)) : plain(field);
+    }
+
     std::string sums()
     {
         std::string columns;
@@ -206,11 +227,10 @@ private:
         for (const auto& field : m_fields) {
             if (field.table != m_source.table)
                 continue;
-            const std::string plain = "b." + store::quotedName(field.name());
             ++number;
-            std::string value = "exact_sum(" + plain + ')';
+            std::string value = "exact_sum(" + plain(field) + ')';
             if (m_source.isKey(field)) {
-                value = field.isText() ? byValue(plain) : plain;
+                value = keyOf(field);
                 groups += (groups.empty() ? "" : ", ") + std::to_string(number);
             }
             columns += (columns.empty() ? "" : ", ") + value + " AS " + alias(field);
@@ -362,6 +382,11 @@ const Join* recordJoinOf(const LineSource& source, const std::vector<Join>& join
             return field.table == found->table;
         });
     return isUsed ? &*found : nullptr;
+}
+
+LineStatement makeRowStatement(const LineSource& source, const Condition& condition, const std::string& rows)
+{
+    return Writer(source, {}, condition, rows).writeRows();
 }
 
 LineStatement makeRecordStatement(const LineSource& source, const std::vector<Join>& joins,

@@ -27,6 +27,11 @@ struct LineStatement {
 [[nodiscard]] const Join* recordJoinOf(const LineSource& source, const std::vector<Join>& joins,
                                        const Condition& condition);
 
+/// A statement for the rows that makeLineStatement() adds up where nothing is joined: the fields of @p
+/// source, those that are keys by value.
+[[nodiscard]] LineStatement makeRowStatement(const LineSource& source, const Condition& condition,
+                                             const std::string& rows);
+
 /// A statement for the records of such a join in the order of the lines: the key, and then the fields of
 /// @p source that are not of its own table, in the order of their slots. @param others are keys without a
 /// record, which have a place, too.

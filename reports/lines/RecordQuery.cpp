@@ -1,6 +1,7 @@
 // The part of a query that reads sums and records apart; see ReportQuery.h. A day's sums take a few
 // milliseconds, the names and the order of 5,000 lines three times as long, and they are the same in the next
 // report.
+#include "reports/lines/LineSums.h"
 #include "reports/lines/ReportQuery.h"
 #include "store/engine/FileChanges.h"
 #include "store/engine/QuotedName.h"
@@ -89,9 +90,10 @@ bool ReportQuery::hasFewRecords(const Join* join)
 void ReportQuery::runByRecords(const LineSource& source, const std::function<void(const LineFields&)>& take)
 {
     const LineSource sums = sumsOf(source);
-    std::vector<LineFields> lines;
-    read(makeLineStatement(sums, {}, m_condition, monthRows(sums)),
-         [&](store::BoundQuery& query) { lines.push_back(rowOf(query, sums.fields.size())); });
+    LineSums added;
+    read(makeRowStatement(sums, m_condition, monthRows(sums)),
+         [&added](store::BoundQuery& query) { added.add(query); });
+    std::vector<LineFields> lines = added.lines();
     const auto records = recordsFor(source, lines);
     if (!records)
         return runWhole(source, take);

@@ -3,16 +3,11 @@
 
 namespace norvane::reports
 {
-namespace
-{
 
-/// A null is not the same as an empty text.
 std::string keyTextOf(const store::Value& key)
 {
     return key.isNull() ? std::string() : '=' + key.toUtf8();
 }
-
-} // namespace
 
 void RecordRows::add(LineFields row)
 {

@@ -14,6 +14,9 @@
 namespace norvane::reports
 {
 
+/// The key of a line as a text, by which it is searched; null is not the same as an empty text.
+[[nodiscard]] std::string keyTextOf(const store::Value& key);
+
 /// Records in the order of a report's lines. The first field of a row is the key of the line.
 class RecordRows
 {

@@ -3,6 +3,7 @@
 
 #include "platform/RuntimeFailure.h"
 #include "store/engine/Connection.h"
+#include "store/engine/ExactSum.h"
 #include "store/engine/PreparedStatement.h"
 
 #include <sqlite3.h>
@@ -89,6 +90,11 @@ const Value& BoundQuery::value(int column)
     Value& value = m_row[static_cast<std::size_t>(column)];
     m_statement->read(column, std::nullopt, value);
     return value;
+}
+
+void BoundQuery::addTo(int column, DecimalTotal& total)
+{
+    addExactly(total, m_statement->stored(column));
 }
 
 } // namespace norvane::store

@@ -10,6 +10,11 @@
 #include <string>
 #include <vector>
 
+namespace norvane
+{
+class DecimalTotal;
+}
+
 namespace norvane::store
 {
 
@@ -41,6 +46,9 @@ public:
     [[nodiscard]] int columnCount() const;
     /// The column counted from 0, of the kind that is stored. Lives until the next row is asked for.
     [[nodiscard]] const Value& value(int column);
+    /// Adds the column of this row as exact_sum() does: null and what is not a number count as 0.
+    /// @throws RuntimeFailure with Failure::Overflow for an infinite number.
+    void addTo(int column, DecimalTotal& total);
 
 private:
     bool mayGoOn() noexcept;

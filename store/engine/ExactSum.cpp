@@ -46,23 +46,6 @@ std::string_view textOf(sqlite3_value* value)
     return {text, static_cast<std::size_t>(sqlite3_value_bytes(value))};
 }
 
-void addTo(DecimalTotal& total, sqlite3_value* value)
-{
-    switch (sqlite3_value_type(value)) {
-    case SQLITE_FLOAT:
-        total.add(sqlite3_value_double(value));
-        break;
-    case SQLITE_INTEGER:
-        total.add(std::int64_t{sqlite3_value_int64(value)});
-        break;
-    case SQLITE_TEXT:
-        total.add(textOf(value));
-        break;
-    default: // null and blobs are not numbers
-        break;
-    }
-}
-
 /// No exception may pass through the engine.
 void addRow(sqlite3_context* context, int, sqlite3_value** values) noexcept
 {
@@ -72,7 +55,7 @@ void addRow(sqlite3_context* context, int, sqlite3_value** values) noexcept
         return;
     }
     try {
-        addTo(*total, values[0]);
+        addExactly(*total, values[0]);
     } catch (const RuntimeFailure& failure) {
         sqlite3_result_error(context, failure.what(), -1);
     }
@@ -129,6 +112,23 @@ void giveTotal(sqlite3_context* context) noexcept
 }
 
 } // namespace
+
+void addExactly(DecimalTotal& total, sqlite3_value* value)
+{
+    switch (sqlite3_value_type(value)) {
+    case SQLITE_FLOAT:
+        total.add(sqlite3_value_double(value));
+        break;
+    case SQLITE_INTEGER:
+        total.add(std::int64_t{sqlite3_value_int64(value)});
+        break;
+    case SQLITE_TEXT:
+        total.add(textOf(value));
+        break;
+    default: // null and blobs are not numbers
+        break;
+    }
+}
 
 void addExactSum(sqlite3* handle)
 {

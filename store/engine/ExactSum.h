@@ -2,6 +2,12 @@
 #pragma once
 
 struct sqlite3;
+struct sqlite3_value;
+
+namespace norvane
+{
+class DecimalTotal;
+}
 
 namespace norvane::store
 {
@@ -24,5 +30,9 @@ namespace norvane::store
 /// exact_sums(x, y, ...) is for wide tables: the exact_sum of each column with tabs between, in half the
 /// time; null if there was nothing to add.
 void addExactSum(sqlite3* handle);
+
+/// Adds a value to a total by the same rules. @throws RuntimeFailure with Failure::Overflow for an infinite
+/// number.
+void addExactly(DecimalTotal& total, sqlite3_value* value);
 
 } // namespace norvane::store
