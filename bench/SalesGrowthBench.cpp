@@ -237,8 +237,9 @@ void totalMonth(benchmark::State& state)
     GrowingShop& grown = shopOf(state, Keeps::Totals);
     const QDate last = grown.dayBefore(0);
     store::MonthTotals totals(grown.open(), u"PLUSALES"_s);
+    const QDate month(last.year(), last.month(), 1);
     while (state.KeepRunning())
-        totals.addUp(QDate(last.year(), last.month(), 1).addMonths(-1));
+        totals.addUp({month.addMonths(-1), month.addDays(-1)});
 }
 
 constexpr int reads = 3;

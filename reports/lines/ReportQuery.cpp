@@ -102,7 +102,8 @@ std::string ReportQuery::monthRows(const LineSource& source)
         if (!fields.contains(key.name()))
             fields.append(key.name());
     }
-    return totals.rows(days, fields).toStdString();
+    using enum store::MonthTotals::Longest;
+    return totals.rows(days, fields, source.isByMonth ? Month : Year).toStdString();
 }
 
 /// Another program that reads can keep the totals from being stored for any time. Reading the rows takes less
@@ -112,16 +113,19 @@ void ReportQuery::addUpMissing(store::MonthTotals& totals, const store::DayRange
     if (!m_mayAddUp)
         return;
     const store::ShortWait wait(m_database);
-    m_mayAddUp = totals.addUpMissing(days, m_today, [this](QDate month) { return beginMonth(month); });
+    m_mayAddUp =
+        totals.addUpMissing(days, m_today, [this](const store::DayRange& time) { return beginTotals(time); });
     if (!m_mayAddUp && m_showStep)
         m_showStep(u"Reading the sales day by day"_s);
 }
 
 /// A database without totals of months, as earlier versions made it, takes some seconds for each year, once.
-bool ReportQuery::beginMonth(QDate month) const
+bool ReportQuery::beginTotals(const store::DayRange& time) const
 {
+    const bool isMonth = time.first.month() == time.last.month();
+    const QString words = QLocale().toString(time.first, isMonth ? u"MMMM yyyy"_s : u"yyyy"_s);
     if (m_showStep)
-        m_showStep(u"Adding up the sales of %1"_s.arg(QLocale().toString(month, u"MMMM yyyy"_s)));
+        m_showStep(u"Adding up the sales of %1"_s.arg(words));
     return !m_keepGoing || m_keepGoing();
 }
 

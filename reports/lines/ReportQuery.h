@@ -52,7 +52,7 @@ private:
     void readList(NameList& list, const MoneyFormat& money);
     [[nodiscard]] std::string monthRows(const LineSource& source);
     void addUpMissing(store::MonthTotals& totals, const store::DayRange& days);
-    [[nodiscard]] bool beginMonth(QDate month) const;
+    [[nodiscard]] bool beginTotals(const store::DayRange& time) const;
 
     const ReportLayout& m_layout;
     const KeepGoing& m_keepGoing;

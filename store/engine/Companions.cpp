@@ -10,14 +10,14 @@ namespace norvane::store
 namespace
 {
 
-std::string totalsDeclaration(const TableDefinition& table)
+std::string totalsDeclaration(const TableDefinition& table, const QString& name)
 {
     std::string columns;
     for (const auto& field : table.fields) {
         columns += columns.empty() ? "" : ", ";
         columns += isAddedUp(field) ? quotedName(field.name) + " ANY" : columnDeclaration(field);
     }
-    return "CREATE TABLE " + quotedName(monthTotalsName(table.name)) + " (" + columns + ") STRICT";
+    return "CREATE TABLE " + quotedName(name) + " (" + columns + ") STRICT";
 }
 
 /// The day of the row that a trigger runs for. @p row is the engine's word for it: NEW or OLD.
@@ -36,7 +36,7 @@ std::string replacedDay(const TableDefinition& table)
 
 std::string dropMonthOf(const TableDefinition& table, const std::string& day)
 {
-    return "DELETE FROM " + quotedName(addedMonthsName(table.name)) + " WHERE month = substr(" + day +
+    return "DELETE FROM " + quotedName(monthLevelOf(table.name).list) + " WHERE month = substr(" + day +
            ", 1, 7); ";
 }
 
@@ -80,16 +80,36 @@ Companion indexOn(const QString& table, const QString& field)
             "CREATE INDEX " + quotedName(name) + " ON " + quotedName(table) + " (" + quotedName(field) + ')'};
 }
 
-} // namespace
-
-QString addedMonthsName(const QString& table)
+std::vector<Companion> tablesOf(const TableDefinition& table, const TotalsLevel& level)
 {
-    return u"norvane_added_months_"_s + table;
+    return {{Companion::Kind::Table, level.list,
+             "CREATE TABLE " + quotedName(level.list) + " (month TEXT PRIMARY KEY) STRICT, WITHOUT ROWID"},
+            {Companion::Kind::Table, level.totals, totalsDeclaration(table, level.totals)},
+            indexOn(level.totals, table.searchedField)};
 }
 
-QString monthTotalsName(const QString& table)
+/// Totals are dropped as soon as their time is no longer listed.
+Companion dropTotals(const TableDefinition& table, const TotalsLevel& level)
 {
-    return u"norvane_month_totals_"_s + table;
+    return trigger(level.list, "AFTER DELETE", u"delete"_s,
+                   block("DELETE FROM " + quotedName(level.totals) + " WHERE " +
+                         quotedName(table.searchedField) + " = OLD.month || '-01'; "));
+}
+
+} // namespace
+
+TotalsLevel monthLevelOf(const QString& table)
+{
+    const QString list = u"norvane_added_months_"_s + table;
+    return {1, list, u"norvane_month_totals_"_s + table, u"select month from [%1]"_s.arg(list)};
+}
+
+TotalsLevel yearLevelOf(const QString& table)
+{
+    const QString list = u"norvane_added_years_"_s + table;
+    return {12, list, u"norvane_year_totals_"_s + table,
+            u"select month from [%1] y where 12 = (select count(*) from [%2] where month between "
+            "y.month and substr(y.month, 1, 4) || '-12')"_s.arg(list, monthLevelOf(table).list)};
 }
 
 Companion searchIndexOf(const TableDefinition& table)
@@ -99,19 +119,25 @@ Companion searchIndexOf(const TableDefinition& table)
 
 std::vector<Companion> monthCompanionsOf(const TableDefinition& table)
 {
-    const QString months = addedMonthsName(table.name);
-    const QString totals = monthTotalsName(table.name);
-    std::vector<Companion> all{
-        {Companion::Kind::Table, months,
-         "CREATE TABLE " + quotedName(months) + " (month TEXT PRIMARY KEY) STRICT, WITHOUT ROWID"},
-        {Companion::Kind::Table, totals, totalsDeclaration(table)},
-        indexOn(totals, table.searchedField),
-    };
+    const TotalsLevel level = monthLevelOf(table.name);
+    std::vector<Companion> all = tablesOf(table, level);
     for (Companion& each : rowTriggers(table, {}, dropMonthOf))
         all.push_back(std::move(each));
-    all.push_back(trigger(months, "AFTER DELETE", u"delete"_s,
-                          block("DELETE FROM " + quotedName(totals) + " WHERE " +
-                                quotedName(table.searchedField) + " = OLD.month || '-01'; ")));
+    all.push_back(dropTotals(table, level));
+    return all;
+}
+
+std::vector<Companion> yearCompanionsOf(const TableDefinition& table)
+{
+    const TotalsLevel level = yearLevelOf(table.name);
+    const QString months = monthLevelOf(table.name).list;
+    const std::string dropYear = "DELETE FROM " + quotedName(level.list) + " WHERE month = substr(";
+    std::vector<Companion> all = tablesOf(table, level);
+    all.push_back(
+        trigger(months, "AFTER INSERT", u"insert year"_s, block(dropYear + "NEW.month, 1, 4) || '-01'; ")));
+    all.push_back(
+        trigger(months, "AFTER DELETE", u"delete year"_s, block(dropYear + "OLD.month, 1, 4) || '-01'; ")));
+    all.push_back(dropTotals(table, level));
     return all;
 }
 

@@ -37,7 +37,9 @@ namespace
 /// The tables that the triggers of @p table keep correct, as far as the file has them.
 QStringList tablesOfTriggers(sqlite3* handle, const QString& table)
 {
-    QStringList names{addedMonthsName(table), monthTotalsName(table), dayDigestsName(table)};
+    QStringList names{dayDigestsName(table)};
+    for (const TotalsLevel& level : {monthLevelOf(table), yearLevelOf(table)})
+        names << level.list << level.totals;
     names.removeIf([&](const QString& each) { return !Schema(handle).declarationOf(each); });
     return names;
 }

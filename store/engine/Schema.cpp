@@ -301,7 +301,8 @@ void Schema::addCompanions(const TableDefinition& table)
     const Companion index = searchIndexOf(*existing);
     if (!declarationOf(index.name))
         run(index.declaration, u"Table %1."_s.arg(table.name));
-    for (const auto& companions : {monthCompanionsOf(*existing), dayCompanionsOf(*existing)}) {
+    for (const auto& companions :
+         {monthCompanionsOf(*existing), yearCompanionsOf(*existing), dayCompanionsOf(*existing)}) {
         if (!hasAll(companions))
             makeAnew(companions);
     }

@@ -1,13 +1,13 @@
-// Adding up months and the queries that read them; see MonthTotals.h.
+// Adding up months and years and the queries that read them; see MonthTotals.h.
 #include "store/sales/MonthTotals.h"
 
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/Catalogue.h"
-#include "store/engine/Companions.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Database.h"
 #include "store/engine/PreparedStatement.h"
 #include "store/engine/Savepoint.h"
+#include "store/sales/TotalsQuery.h"
 
 #include <algorithm>
 
@@ -18,34 +18,14 @@ namespace norvane::store
 namespace
 {
 
-/// The engine joins some hundred selects at most. No shop has sales of more months.
-constexpr qsizetype mostMonths = 400;
-
-QDate lastOfMonth(QDate first)
-{
-    return first.addMonths(1).addDays(-1);
-}
-
-/// The first days of the months that are completely inside.
-QVector<QDate> wholeMonths(const DayRange& days)
-{
-    QVector<QDate> months;
-    QDate month(days.first.year(), days.first.month(), 1);
-    if (month < days.first)
-        month = month.addMonths(1);
-    for (; lastOfMonth(month) <= days.last; month = month.addMonths(1))
-        months.append(month);
-    return months;
-}
-
 Value dayValue(QDate day)
 {
     return Value::date(day);
 }
 
-Value monthValue(QDate month)
+Value keyValue(QDate first)
 {
-    return Value::text(month.toString(u"yyyy-MM"_s));
+    return Value::text(keyOfTotals(first));
 }
 
 std::string joined(const QVector<FieldDefinition>& fields, std::string (*wordsOf)(const FieldDefinition&))
@@ -73,36 +53,12 @@ std::string groupWords(const FieldDefinition& field)
     return quotedName(field.name) + (field.type == FieldType::Text ? " COLLATE BINARY" : "");
 }
 
-void run(sqlite3* handle, const std::string& sql, const QString& table, const std::vector<Value>& values)
+void run(sqlite3* handle, const std::string& sql, const QString& table, const Value& value)
 {
     PreparedStatement statement(handle, sql, table);
-    for (int i = 0; i < static_cast<int>(values.size()); ++i)
-        statement.bind(i + 1, values[static_cast<std::size_t>(i)]);
+    statement.bind(1, value);
     statement.run();
 }
-
-QString bracketed(const QString& name)
-{
-    return u'[' + name + u']';
-}
-
-/// One member of a union: the wanted columns of some days.
-class SourcePart
-{
-public:
-    SourcePart(QString columns, QString day) : m_columns(std::move(columns)), m_day(std::move(day)) {}
-
-    [[nodiscard]] QString of(const QString& table, const DayRange& days) const
-    {
-        return u"select %1 from %2 where %3 between '%4' and '%5'"_s.arg(m_columns, bracketed(table), m_day,
-                                                                         days.first.toString(Qt::ISODate),
-                                                                         days.last.toString(Qt::ISODate));
-    }
-
-private:
-    QString m_columns;
-    QString m_day;
-};
 
 /// The catalogue knows by which field a table's rows are found; the file knows which fields it has.
 TableDefinition salesTable(const TableDefinition& existing)
@@ -118,59 +74,106 @@ TableDefinition salesTable(const TableDefinition& existing)
     return table;
 }
 
+/// The levels for which the file has tables and triggers, the longest times first. Totals of years are right
+/// only as long as those of months are.
+std::vector<TotalsLevel> levelsOf(const TableDefinition& table, sqlite3* handle)
+{
+    const Schema schema(handle);
+    if (!schema.hasAll(monthCompanionsOf(table)))
+        return {};
+    if (!schema.hasAll(yearCompanionsOf(table)))
+        return {monthLevelOf(table.name)};
+    return {yearLevelOf(table.name), monthLevelOf(table.name)};
+}
+
 } // namespace
 
 MonthTotals::MonthTotals(Database& database, const QString& table)
     : m_connection(connectionOf(database)), m_table(salesTable(database.table(table))),
-      m_available(Schema(m_connection.handle()).hasAll(monthCompanionsOf(m_table)))
+      m_levels(levelsOf(m_table, m_connection.handle()))
 {
 }
 
-QVector<QDate> MonthTotals::missing(const DayRange& days, QDate today) const
+QVector<DayRange> MonthTotals::missing(const TotalsLevel& level, const DayRange& days) const
 {
-    if (!m_available)
-        return {};
-    PreparedStatement isMissing(
-        m_connection.handle(),
-        "SELECT NOT EXISTS (SELECT 1 FROM " + quotedName(addedMonthsName(m_table.name)) +
-            " WHERE month = ?1) AND EXISTS (SELECT 1 FROM " + quotedName(m_table.name) + " WHERE " +
-            quotedName(m_table.searchedField) + " BETWEEN ?2 AND ?3)",
-        m_table.name);
-    QVector<QDate> months = wholeMonths({days.first, std::min(days.last, today.addDays(-1))});
-    months.removeIf([&isMissing](QDate month) {
-        const Value values[] = {monthValue(month), dayValue(month), dayValue(lastOfMonth(month))};
+    PreparedStatement isMissing(m_connection.handle(),
+                                "SELECT ?1 NOT IN (" + level.entries.toStdString() +
+                                    ") AND EXISTS (SELECT 1 FROM " + quotedName(m_table.name) + " WHERE " +
+                                    quotedName(m_table.searchedField) + " BETWEEN ?2 AND ?3)",
+                                m_table.name);
+    QVector<DayRange> times = wholeTimes(level, days);
+    times.removeIf([&isMissing](const DayRange& time) {
+        const Value values[] = {keyValue(time.first), dayValue(time.first), dayValue(time.last)};
         const StatementRun run(isMissing);
         for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
             isMissing.bind(i + 1, values[i]);
         return !isMissing.step() || isMissing.whole(0) == 0;
     });
-    return months;
+    return times;
 }
 
-void MonthTotals::addUp(QDate month)
+QVector<DayRange> MonthTotals::missing(const DayRange& days, QDate today) const
 {
-    sqlite3* handle = m_connection.handle();
-    const std::string months = quotedName(addedMonthsName(m_table.name));
-    const std::string totals = quotedName(monthTotalsName(m_table.name));
-    const std::string day = quotedName(m_table.searchedField);
-    Savepoint savepoint(handle);
-    run(handle, "DELETE FROM " + months + " WHERE month = ?", m_table.name, {monthValue(month)});
-    run(handle,
-        "INSERT INTO " + totals + " SELECT " + joined(m_table.fields, totalOf) + " FROM " +
-            quotedName(m_table.name) + " WHERE " + day + " BETWEEN ?1 AND ?2 GROUP BY " +
-            joined(m_table.fields, groupWords),
-        m_table.name, {dayValue(month), dayValue(lastOfMonth(month))});
-    run(handle, "INSERT INTO " + months + " VALUES (?)", m_table.name, {monthValue(month)});
+    QVector<DayRange> times;
+    for (auto level = m_levels.rbegin(); level != m_levels.rend(); ++level)
+        times += missing(*level, {days.first, std::min(days.last, today.addDays(-1))});
+    return times;
+}
+
+/// A year needs totals of all its months, also of those without rows: whatever changes a row of them drops
+/// the month, and with it the year.
+void MonthTotals::addUp(const DayRange& time)
+{
+    const auto level = std::ranges::find_if(
+        m_levels, [&time](const TotalsLevel& each) { return !wholeTimes(each, time).isEmpty(); });
+    if (level == m_levels.end())
+        return;
+    Savepoint savepoint(m_connection.handle());
+    const std::span<const TotalsLevel> shorter(level + 1, m_levels.end());
+    for (const TotalsLevel& each : shorter)
+        addUpAbsent(each, time);
+    addUp(*level, shorter, time);
     savepoint.keep();
 }
 
-bool MonthTotals::addUpMissing(const DayRange& days, QDate today, const std::function<bool(QDate)>& step)
+void MonthTotals::addUpAbsent(const TotalsLevel& level, const DayRange& days)
+{
+    for (const DayRange& time : wholeTimes(level, days)) {
+        PreparedStatement isListed(m_connection.handle(), "SELECT ? IN (" + level.entries.toStdString() + ')',
+                                   level.list);
+        const Value key = keyValue(time.first);
+        isListed.bind(1, key);
+        if (isListed.step() && isListed.whole(0) == 0) {
+            isListed.reset();
+            addUp(level, {}, time);
+        }
+    }
+}
+
+void MonthTotals::addUp(const TotalsLevel& level, std::span<const TotalsLevel> from, const DayRange& time)
+{
+    sqlite3* handle = m_connection.handle();
+    const std::string list = quotedName(level.list);
+    const std::string totals = quotedName(level.totals);
+    run(handle, "DELETE FROM " + list + " WHERE month = ?", m_table.name, keyValue(time.first));
+    run(handle, "DELETE FROM " + totals + " WHERE " + quotedName(m_table.searchedField) + " = ?",
+        m_table.name, dayValue(time.first));
+    run(handle,
+        "INSERT INTO " + totals + " SELECT " + joined(m_table.fields, totalOf) + " FROM " +
+            TotalsQuery(m_table, from, {}).rows(time).toStdString() + " GROUP BY " +
+            joined(m_table.fields, groupWords),
+        m_table.name, dayValue(time.first));
+    run(handle, "INSERT INTO " + list + " VALUES (?)", m_table.name, keyValue(time.first));
+}
+
+bool MonthTotals::addUpMissing(const DayRange& days, QDate today,
+                               const std::function<bool(const DayRange&)>& step)
 {
     try {
-        for (const QDate month : missing(days, today)) {
-            if (step && !step(month))
+        for (const DayRange& time : missing(days, today)) {
+            if (step && !step(time))
                 return false;
-            addUp(month);
+            addUp(time);
         }
         return true;
     } catch (const RuntimeFailure&) {
@@ -178,29 +181,10 @@ bool MonthTotals::addUpMissing(const DayRange& days, QDate today, const std::fun
     }
 }
 
-QString MonthTotals::rows(const DayRange& days, const QStringList& fields) const
+QString MonthTotals::rows(const DayRange& days, const QStringList& fields, Longest longest) const
 {
-    QStringList columns;
-    for (const auto& field : m_table.fields) {
-        if (fields.isEmpty() || fields.contains(field.name, Qt::CaseInsensitive))
-            columns.append(bracketed(field.name));
-    }
-    const SourcePart part(columns.join(u", "_s), bracketed(m_table.searchedField));
-    const auto months = m_available ? wholeMonths(days) : QVector<QDate>();
-    if (months.isEmpty() || months.size() > mostMonths)
-        return u'(' + part.of(m_table.name, days) + u')';
-    QStringList parts{part.of(monthTotalsName(m_table.name), {months.first(), months.last()})};
-    // The query itself looks which months have totals, so it never reads a month twice or not at all.
-    for (const QDate month : months) {
-        parts.append(part.of(m_table.name, {month, lastOfMonth(month)}) +
-                     u" and not exists (select 1 from %1 where month = '%2')"_s.arg(
-                         bracketed(addedMonthsName(m_table.name)), monthValue(month).toText()));
-    }
-    if (days.first < months.first())
-        parts.append(part.of(m_table.name, {days.first, months.first().addDays(-1)}));
-    if (lastOfMonth(months.last()) < days.last)
-        parts.append(part.of(m_table.name, {lastOfMonth(months.last()).addDays(1), days.last}));
-    return u'(' + parts.join(u" union all "_s) + u')';
+    const std::size_t skipped = longest == Longest::Month && m_levels.size() > 1 ? 1 : 0;
+    return TotalsQuery(m_table, std::span(m_levels).subspan(skipped), fields).rows(days);
 }
 
 } // namespace norvane::store

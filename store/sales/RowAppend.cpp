@@ -15,7 +15,7 @@ namespace norvane::store
 RowAppend::RowAppend(Database& database, const CommitOnExit&, const QString& table)
     : m_connection(connectionOf(database)), m_table(m_connection.shape(table)->name())
 {
-    if (!Schema(m_connection.handle()).declarationOf(addedMonthsName(m_table)))
+    if (!Schema(m_connection.handle()).declarationOf(monthLevelOf(m_table).list))
         return;
     PreparedStatement last(m_connection.handle(), "SELECT max(_rowid_) FROM " + quotedName(m_table), m_table);
     m_lastRow = last.step() ? last.whole(0) : 0;
@@ -52,7 +52,7 @@ void RowAppend::dropKept()
     const QString first = days.text(0);
     const QString last = days.text(1);
     days.reset();
-    dropBetween(addedMonthsName(m_table), "month", first.left(lengthOfMonth), last.left(lengthOfMonth));
+    dropBetween(monthLevelOf(m_table).list, "month", first.left(lengthOfMonth), last.left(lengthOfMonth));
     if (Schema(handle).declarationOf(dayDigestsName(m_table)))
         dropBetween(dayDigestsName(m_table), "day", first, last);
 }

@@ -332,6 +332,34 @@ TEST_F(PeriodReports, APeriodOfMonthsShowsWhatItsDaysAddUpTo)
         << "each month once";
 }
 
+// A chart over the months of years that have totals is not made from the totals of these years.
+TEST_F(PeriodReports, AYearIsAddedUpOnceAndItsMonthsRemainInACourse)
+{
+    shop.folder().write("course.rpt", readWholeFile(ReportShop::installed("timesales.rpt")) +
+                                          "\r\n[Chart3]\r\nKind=Course\r\nTitle=Takings\r\n"
+                                          "By={TIMESALES.SALESDATE}\r\nFormat=Day\r\n"
+                                          "Label={TIMESALES.SALESDATE}\r\nValue={TIMESALES.VALUE}\r\n");
+    auto request = shop.request(shop.folder().path("course.rpt"),
+                                u"{TIMESALES.SALESDATE} in date(2027,1,1) to date(2028,2,29)"_s);
+    request.now = QDate(2028, 3, 1).startOfDay();
+    request.showStep = [this](const QString& step) {
+        steps.append(step);
+    };
+    for (int run = 0; run < 2; ++run) {
+        const ReportData data = runReport(request);
+        EXPECT_EQ(linesOf(data), "1|Period 1|121|12.10|8.4\n2|Period 2|121|132.44|91.6\n"
+                                 "# |Total|242|144.54|100.0");
+        QStringList points;
+        for (const auto& point : data.charts.back().points)
+            points << point.label + u'=' + QString::number(point.value.toDouble(), 'f', 2);
+        EXPECT_TRUE(points.join(u' ').endsWith(
+            u" 10/2027=0.00 11/2027=35.55 12/2027=37.82 01/2028=37.82 02/2028=33.35"_s))
+            << points.join(u' ').toStdString();
+    }
+    EXPECT_EQ(steps.size(), 5);
+    EXPECT_EQ(steps.back(), u"Adding up the sales of 2027"_s);
+}
+
 TEST_F(PeriodReports, AReportWaitsOnceForAnotherReader)
 {
     const norvane::test::ReadingElsewhere reader(shop.path());
