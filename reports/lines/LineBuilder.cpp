@@ -75,15 +75,29 @@ void LineBuilder::add(const LineFields& fields, const LineRank& rank)
     noteShown();
 }
 
+/// Most amounts of a line are zero, such as those of the price levels that a shop does not use.
+bool LineBuilder::isZeroField(const Expression& expression) const
+{
+    const auto slot = expression.loneSlot();
+    return slot && m_numbers.numbers()[static_cast<std::size_t>(*slot)] == "0";
+}
+
+bool LineBuilder::isSet(const Expression& expression) const
+{
+    if (isZeroField(expression))
+        return false;
+    const auto value = expression.value(all(m_numbers.numbers()));
+    return value && *value != Decimal();
+}
+
 /// A line without amounts, or a record in which nothing but its number is set: of a list, or of a join that
 /// adds lines for all of its records.
 bool LineBuilder::isLeftOut(const LineFields& fields) const
 {
-    const auto isSet = [this](const Expression& expression) {
-        const auto value = expression.value(all(m_numbers.numbers()));
-        return value && *value != Decimal();
+    const auto isAmount = [this](const Expression& expression) {
+        return isSet(expression);
     };
-    if (std::ranges::any_of(m_layout.zeroIn, isSet) || (!m_layout.showsZeroLines && m_numbers.areZero()))
+    if (std::ranges::any_of(m_layout.zeroIn, isAmount) || (!m_layout.showsZeroLines && m_numbers.areZero()))
         return true;
     if (m_layout.showsEmptyRecords || m_contents.empty() ||
         (m_layout.source.addsUp() && !m_numbers.areZero()))
@@ -164,7 +178,7 @@ ReportCell LineBuilder::cell(const ColumnLayout& column, const LineFields& field
         const auto slot = column.number->loneSlot();
         if (slot && fields.at(static_cast<std::size_t>(*slot)).isNull())
             return {};
-        return number(column, m_numbers.numbers());
+        return isZeroField(*column.number) ? Decimal() : number(column, m_numbers.numbers());
     }
     if (column.column.kind == ColumnKind::Date) {
         const QDate day = fields.at(static_cast<std::size_t>(*column.text.text.parts.front().slot)).toDate();
@@ -236,8 +250,7 @@ void LineBuilder::noteShown()
         for (const auto& expression : m_layout.columns[i].shownIf) {
             if (m_isShown[i])
                 break;
-            const auto value = expression.value(all(m_numbers.numbers()));
-            m_isShown[i] = value && *value != Decimal();
+            m_isShown[i] = isSet(expression);
         }
     }
 }

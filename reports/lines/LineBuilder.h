@@ -34,6 +34,8 @@ private:
     {
         return {numbers, m_whole, m_days};
     }
+    [[nodiscard]] bool isZeroField(const Expression& expression) const;
+    [[nodiscard]] bool isSet(const Expression& expression) const;
     [[nodiscard]] bool isLeftOut(const LineFields& fields) const;
     void changeGroup(const LineFields& fields);
     void changeClass();
