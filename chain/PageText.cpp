@@ -28,7 +28,7 @@ body { padding: 0 .5em; } svg text { font-size: 18px; } svg text.second { displa
 }
 @media print {
 body { font-size: 11px; margin: 0; max-width: none; } .wide { overflow: visible; } details { display: none; }
-h2 { break-after: avoid; } tr, svg { break-inside: avoid; } a { color: inherit; text-decoration: none; }
+h2 { break-after: avoid; margin-top: 1.2em; } th, td { padding: .1em .8em .1em 0; } tr, svg { break-inside: avoid; } a { color: inherit; text-decoration: none; }
 }
 )"_L1;
 

@@ -254,11 +254,16 @@ void ShopPublisher::publishTogether(const QList<QDate>& days)
         sent[day] = {};
     m_server.transact([&](pqxx::work& work) {
         m_lock.holdIn(work);
+        const bool isNewDay = days.size() == 1 && !isInTotals(work, m_shop, days.first());
         removeDays(work, days);
         for (std::size_t table = 0; table < salesTables().size(); ++table)
             copyTable(work, table, sent);
         noteDays(work, sent);
-        rollUp(work, m_shop, firstOfMonth(days.first()));
+        if (isNewDay) {
+            addDay(work, m_shop, days.first());
+        } else {
+            rollUp(work, m_shop, firstOfMonth(days.first()));
+        }
     });
     m_days->keep();
     m_published.days += static_cast<int>(days.size());

@@ -26,6 +26,7 @@ struct Rollup {
     const char* takings;
     const char* more; ///< after the sums
     const char* source;
+    const char* days; ///< the table of days that is added up, null for totals of something else
 };
 
 constexpr auto monthTotals = std::to_array<Rollup>({
@@ -33,19 +34,20 @@ constexpr auto monthTotals = std::to_array<Rollup>({
      "first_day date NOT NULL, last_day date NOT NULL, days integer NOT NULL, quantity numeric, "
      "takings numeric, net_sales numeric",
      "", "shop, $2::date, min(day), max(day), count(*)", "quantity", "takings", ", sum(net_sales)",
-     "published_days WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop"},
+     "published_days WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop", nullptr},
     {"plu_months", "plu text COLLATE \"C\" NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
-     ", plu", "shop, $2::date, plu", pluQuantity, pluTakings, "",
-     "plu_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, plu"},
+     ", plu", "shop, date_trunc('month', $2::date::timestamp)::date, plu", pluQuantity, pluTakings, "",
+     "plu_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, plu", "plu_sales"},
     // A key has no empty values: -1 is the group of PLUs without one.
     {"group_months", "group_no integer NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
      ", group_no", "m.shop, m.month, coalesce(p.group_no, -1)", "m.quantity", "m.takings", "",
      "plu_months m LEFT JOIN plus p ON p.shop = m.shop AND p.plu = m.plu "
      "WHERE m.shop = $1 AND m.month >= $2 AND m.month < $3 "
-     "GROUP BY m.shop, m.month, coalesce(p.group_no, -1)"},
+     "GROUP BY m.shop, m.month, coalesce(p.group_no, -1)",
+     nullptr},
     {"time_months", "period integer NOT NULL, quantity numeric NOT NULL, takings numeric NOT NULL",
-     ", period", "shop, $2::date, period", "quantity", "value", "",
-     "time_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, period"},
+     ", period", "shop, date_trunc('month', $2::date::timestamp)::date, period", "quantity", "value", "",
+     "time_sales WHERE shop = $1 AND day >= $2 AND day < $3 GROUP BY shop, period", "time_sales"},
 });
 
 std::string selectOf(const Rollup& rollup)
@@ -74,6 +76,21 @@ std::string writing(const Rollup& rollup, int shop, const std::string& first, co
     return withValues("DELETE FROM " + name + " WHERE shop = $1 AND month >= $2 AND month < $3", shop, first,
                       end) +
            withValues("INSERT INTO " + name + ' ' + selectOf(rollup), shop, first, end);
+}
+
+/// Adds a day that the totals do not contain.
+std::string adding(const Rollup& rollup, int shop, QDate day)
+{
+    const std::string name = rollup.name;
+    return withValues("INSERT INTO " + name + ' ' + selectOf(rollup) + " ON CONFLICT (shop, month" +
+                          rollup.key + ") DO UPDATE SET quantity = " + name +
+                          ".quantity + excluded.quantity, takings = " + name + ".takings + excluded.takings",
+                      shop, isoDay(day), isoDay(day.addDays(1)));
+}
+
+std::string writingMonth(const Rollup& rollup, int shop, QDate month)
+{
+    return writing(rollup, shop, isoDay(month), isoDay(month.addMonths(1)));
 }
 
 std::string declarationOf(const Rollup& rollup)
@@ -168,7 +185,28 @@ void rollUp(pqxx::work& work, int shop, QDate month)
     // The server has no statistics of a month that has just begun and would sort its sales.
     std::string all = "SET LOCAL enable_sort = off;\n";
     for (const auto& rollup : monthTotals)
-        all += writing(rollup, shop, isoDay(month), isoDay(month.addMonths(1)));
+        all += writingMonth(rollup, shop, month);
+    work.exec(all);
+}
+
+bool isInTotals(pqxx::work& work, int shop, QDate day)
+{
+    return std::ranges::any_of(monthTotals, [&](const Rollup& rollup) {
+        return rollup.days != nullptr &&
+               !work.exec(withValues(std::string("SELECT shop FROM ") + rollup.days +
+                                         " WHERE shop = $1 AND day = $2 LIMIT 1",
+                                     shop, isoDay(day), {}))
+                    .empty();
+    });
+}
+
+void addDay(pqxx::work& work, int shop, QDate day)
+{
+    std::string all;
+    for (const auto& rollup : monthTotals) {
+        all += rollup.days != nullptr ? adding(rollup, shop, day)
+                                      : writingMonth(rollup, shop, {day.year(), day.month(), 1});
+    }
     work.exec(all);
 }
 

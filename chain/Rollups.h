@@ -30,6 +30,10 @@ inline constexpr const char* pluTakings =
 
 /// Adds up a month of a shop again.
 void rollUp(pqxx::work& work, int shop, QDate month);
+/// Whether sales of the day are published, and so are part of the totals of its month.
+[[nodiscard]] bool isInTotals(pqxx::work& work, int shop, QDate day);
+/// Adds a day that was not in the totals: a nightly publication does not read the whole month again.
+void addDay(pqxx::work& work, int shop, QDate day);
 /// The groups of all months, after PLUs have changed their groups.
 void rollUpGroups(pqxx::work& work, int shop);
 
