@@ -66,10 +66,17 @@ int LineLayout::firstColumn(qsizetype line, int column) const
     return column;
 }
 
-/// The column that the text of @p column may run to. A number remains under its heading.
+/// The first column names the line, whatever it holds.
+bool LineLayout::isOfNumbers(int column) const
+{
+    return column > 0 && m_report.columns()[static_cast<std::size_t>(column)].kind == ColumnKind::Number;
+}
+
+/// The column that the text of @p column may run to. A number remains under its heading, and so does the dash
+/// in place of one.
 int LineLayout::lastColumn(qsizetype line, int column) const
 {
-    const bool isLabel = m_report.lineKind(line) != LineKind::Detail &&
+    const bool isLabel = m_report.lineKind(line) != LineKind::Detail && !isOfNumbers(column) &&
                          std::holds_alternative<QString>(m_report.cell(line, column));
     const int end = m_report.columnCount() - 1;
     while (isLabel && column < end && isSameBand(column, column + 1) &&
@@ -134,7 +141,7 @@ CellBox LineLayout::cellBox(qsizetype line, int column) const
     const ColumnPlace place = textPlace(line, column);
     if (!std::holds_alternative<QString>(m_report.cell(line, column)))
         return {place, {text}, shown.alignment};
-    const bool isLabel = lastColumn(line, column) > firstColumn(line, column);
+    const bool isLabel = !isOfNumbers(column) && lastColumn(line, column) > firstColumn(line, column);
     return {place, m_font.wrapped(text, style(line), place.width),
             isLabel ? Alignment::Left : shown.alignment};
 }

@@ -38,6 +38,7 @@ public:
 private:
     [[nodiscard]] ColumnPlace textPlace(qsizetype line, int column) const;
     [[nodiscard]] int firstColumn(qsizetype line, int column) const;
+    [[nodiscard]] bool isOfNumbers(int column) const;
     [[nodiscard]] int lastColumn(qsizetype line, int column) const;
     [[nodiscard]] bool isSameBand(int column, int other) const;
     [[nodiscard]] qsizetype rowsOfCell(qsizetype line, int column) const;

@@ -163,6 +163,22 @@ TEST(ReportPagesTest, ColumnsGiveUpEmptyRoomBeforeTextsAreBroken)
     EXPECT_EQ(Paged(report).pages.lines().cells(1).front().rows.size(), 1);
 }
 
+TEST(ReportPagesTest, TheLabelOfATotalRunsOnAndTheDashInPlaceOfANumberDoesNot)
+{
+    ReportData report({textColumn(u"Time"_s, 20), textColumn(u"Note"_s, 40),
+                       numberColumn(u"Change %"_s, 30, 1, 1), numberColumn(u"Value"_s, 30, 2, 2)});
+    report.addLine(LineKind::Detail, {u"06:00"_s, u"Early"_s, Decimal(125, 1), Decimal(100, 2)});
+    report.addLine(LineKind::GrandTotal, {u"Total of all hours"_s, {}, u"–"_s});
+    const Paged paged(report);
+    const auto detail = paged.pages.lines().cells(0);
+    const auto total = paged.pages.lines().cells(1);
+    ASSERT_EQ(total.size(), 2U);
+    EXPECT_EQ(total[0].rows.size(), 1);
+    EXPECT_NEAR(total[0].place.right(), detail[1].place.right(), 0.01);
+    EXPECT_EQ(total[1].alignment, Alignment::Right);
+    EXPECT_NEAR(total[1].place.right(), detail[2].place.right(), 0.01);
+}
+
 TEST(PageFontTest, KeepsEveryLetterOverSeveralRows)
 {
     const PageFont font;
