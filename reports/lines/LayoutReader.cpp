@@ -125,8 +125,9 @@ private:
         return name == "Report"_L1 ? m_block : m_block + u'.' + name;
     }
 
+    /// @param others keys that are read elsewhere. @param shownOthers how a mistake lists them, if shorter.
     void readKeys(const QString& section, std::span<const KeyRule> rules, LayoutTarget& target,
-                  const QStringList& others = {}) const
+                  const QStringList& others = {}, const QStringList& shownOthers = {}) const
     {
         for (const QString& key : m_file.keys(sectionOf(section))) {
             if (others.contains(key, Qt::CaseInsensitive))
@@ -136,8 +137,10 @@ private:
             };
             if (std::ranges::any_of(rules, isIt))
                 continue;
-            const QString expected = (keyNames(rules) + others).join(u", "_s);
-            reads([&] { fail(section, key, u"there is no such key; expected are %1"_s.arg(expected)); });
+            const QStringList expected = keyNames(rules) + (shownOthers.isEmpty() ? others : shownOthers);
+            reads([&] {
+                fail(section, key, u"there is no such key; expected %1"_s.arg(expected.join(u", "_s)));
+            });
         }
         for (const auto& rule : rules)
             readKey(section, rule, target);
@@ -190,7 +193,8 @@ private:
         QStringList further;
         for (int number = 2; number <= mostValues; ++number)
             further.append(u"Value%1"_s.arg(number));
-        readKeys(section, layoutKeys().column, target, further);
+        readKeys(section, layoutKeys().column, target, further,
+                 {u"%1 to %2"_s.arg(further.first(), further.last())});
         const ColumnLayout& column = *target.column;
         if (!column.number && column.text.text.isEmpty() && column.rank == RankPart::None)
             fail(section, u"Value", u"it is missing; expected fields such as {PLUSALES.ID}"_s);

@@ -58,7 +58,9 @@ const Mistake mistakes[] = {
     {"order_by_a_table_that_is_not_read", "Key1={ID} by value", "Key1={GROUPS.GROUPNO}",
      "key Key1: column 1: the report does not read table GROUPS"},
     {"too_many_parts_of_a_value", "Value={VALUE1}\r\nW", "Value={VALUE1}\r\nValue41=x\r\nW",
-     "key Value41: there is no such key"},
+     "key Value41: there is no such key; expected Heading, Format, Words, Value, Class, Missing, Width, "
+     "Align, "
+     "Total, Compare, Show, Value2 to Value40"},
     {"unknown_order", "Key1={ID} by value", "Key1={ID} upwards",
      "section [Sort], key Key1: expected a field"},
     {"link_by_a_sum", "Field={ID}", "Field={VALUE1}", "section [Link], key Field: expected a field that"},
