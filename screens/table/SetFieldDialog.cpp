@@ -144,7 +144,18 @@ void SetFieldDialog::showKinds()
             m_kind->addItem(row.label, static_cast<int>(row.kind));
     }
     m_kind->setCurrentIndex(qMax(0, m_kind->findText(chosen)));
+    proposeSource();
     showChoices();
+}
+
+/// Prices are copied from prices: the first other column with a control of this kind.
+void SetFieldDialog::proposeSource()
+{
+    const int field = m_column->currentData().toInt();
+    for (int each = 0; each < m_table.columnCount(); ++each) {
+        if (each != field && m_table.column(each).kind() == m_table.column(field).kind())
+            return m_source->setCurrentIndex(m_source->findData(each));
+    }
 }
 
 void SetFieldDialog::showChoices()
@@ -167,8 +178,18 @@ FieldChange SetFieldDialog::change() const
             changeRoundings()[static_cast<std::size_t>(m_rounding->currentIndex())]};
 }
 
+void SetFieldDialog::accept()
+{
+    const bool isDue = m_rest.isActive();
+    if (isDue)
+        showPlan();
+    if (m_ok->isEnabled() && (!isDue || m_plan.refusals.isEmpty()))
+        QDialog::accept();
+}
+
 void SetFieldDialog::showPlan()
 {
+    m_rest.stop();
     const ui::WaitPointer wait;
     const bool isUntouched = m_text->text().isEmpty() && kind() != ChangeKind::Copy;
     m_plan = isUntouched ? FieldPlan{} : planChange(m_table, change(), m_rows);

@@ -34,12 +34,16 @@ public:
 
     [[nodiscard]] std::vector<PendingEdit> takeEdits() { return std::move(m_plan.edits); }
 
+    /// Makes a plan first that is still due, and remains open if that one refuses a row.
+    void accept() override;
+
 private:
     void addColumns(int column);
     [[nodiscard]] QFormLayout* makeQuestions(const QString& scope);
     void buildPreview();
     void layOut(const QString& scope);
     void showKinds();
+    void proposeSource();
     void showChoices();
     void showPlan();
     [[nodiscard]] FieldChange change() const;

@@ -69,6 +69,24 @@ protected:
     }
 };
 
+TEST_F(SetFieldTest, CopiesFromAColumnOfTheSameKindUnlessAnotherIsChosen)
+{
+    setField([](QDialog& dialog) {
+        choose(dialog, "FieldToSet", "PIECECOUNT");
+        choose(dialog, "HowToSet", "Copy from");
+        EXPECT_EQ(test::child<QComboBox>(dialog, "SourceField").currentText(), u"MODIFIER"_s);
+    });
+    save();
+    EXPECT_EQ(rows("select PIECECOUNT from PLUDATA"), "7 7 7 7");
+    setField([](QDialog& dialog) {
+        choose(dialog, "FieldToSet", "PRICE1");
+        choose(dialog, "HowToSet", "Copy from");
+        choose(dialog, "SourceField", "PIECECOUNT");
+    });
+    save();
+    EXPECT_EQ(prices(), "7 7 7 7");
+}
+
 TEST_F(SetFieldTest, RaisesPricesOfTheRecordsThatAreShown)
 {
     filter("e"); // all but Café
