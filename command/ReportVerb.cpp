@@ -17,7 +17,7 @@ namespace
 /// @throws CommandError Usage for a first day after the last one.
 reports::Period daysOf(const Invocation& words)
 {
-    const reports::Period days{words.day("from"_L1), words.day("to"_L1), {}};
+    reports::Period days{words.day("from"_L1), words.day("to"_L1), {}};
     if (days.from > days.to)
         throw CommandError(ExitCode::Usage, u"The first day is after the last one."_s);
     return days;

@@ -81,7 +81,7 @@ void openKeyForm(const KeyForm& entry, const KeyGround& ground)
 } // namespace
 
 FrmMain::FormOpeners makeKeyOpeners(ApplicationValues& values, Boxes& boxes,
-                                    std::shared_ptr<store::WorkHistory> history)
+                                    const std::shared_ptr<store::WorkHistory>& history)
 {
     FrmMain::FormOpeners openers;
     for (const KeyForm& form : keyForms) {

@@ -12,6 +12,6 @@ namespace norvane::shell
 /// By form name ("KeyLayoutVelmar"). Keeps the references, which must outlive the main window. What is stored
 /// on the screen of an article that a keyboard opened can be undone from @p history.
 [[nodiscard]] FrmMain::FormOpeners makeKeyOpeners(ApplicationValues& values, Boxes& boxes,
-                                                  std::shared_ptr<store::WorkHistory> history);
+                                                  const std::shared_ptr<store::WorkHistory>& history);
 
 } // namespace norvane::shell

@@ -9,8 +9,6 @@ namespace norvane
 namespace
 {
 
-using test::Shop;
-
 /// PLUs, function keys, look-ups, PLU and WLU relocation, key links.
 const test::BoxNumbers keyBoxes{0, 3, 7, 21, 24};
 constexpr int functionFile = 2;
