@@ -70,7 +70,7 @@ void addColumns(sqlite3_context* context, int count, sqlite3_value** values) noe
     }
     try {
         for (DecimalTotal& total : *totals)
-            addTo(total, *values++);
+            addExactly(total, *values++);
     } catch (const RuntimeFailure& failure) {
         sqlite3_result_error(context, failure.what(), -1);
     }
