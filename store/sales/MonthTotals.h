@@ -35,7 +35,7 @@ public:
     /// infinite number.
     void addUp(const DayRange& time);
     /// Adds up all that are missing(), in their order. @p step is called before each; returning false ends
-    /// it. A month takes a quarter of a second with 5,000 PLUs, and so does a year of such months.
+    /// it. A month takes a quarter of a second with 5,000 PLUs, and a year of such months less.
     /// @return false if some are still missing: the file cannot be written, or @p step ended it. rows() then
     /// reads the rows of these months.
     bool addUpMissing(const DayRange& days, QDate today,
