@@ -145,7 +145,7 @@ TEST_F(NightAtMidnight, ALaterRoundRepeatsOnlyWhatFailed)
     setFaults(u"BAR"_s, "[Off]\nCommand=consolidate\nResult=8\n");
     NightOptions options;
     options.again = true;
-    options.retries = 2;
+    options.retries = 1;
     options.copies = m_folder.appFile(u"elsewhere"_s);
     EXPECT_TRUE(QDir().mkpath(options.copies));
     const auto shop = runAll(options).at(u"BAR"_s);
