@@ -4,7 +4,7 @@
 #include "bench/Shop.h"
 #include "reports/lines/RecordRows.h"
 #include "reports/lines/ReportRun.h"
-#include "store/sales/MonthTotals.h"
+#include "store/sales/SalesTotals.h"
 
 #include <benchmark/benchmark.h>
 
@@ -131,7 +131,7 @@ void PeriodReport(benchmark::State& state)
     std::string rows;
     {
         store::Database database(shop.database());
-        rows = store::MonthTotals(database, u"PLUSALES"_s).rows(period.days).toStdString();
+        rows = store::SalesTotals(database, u"PLUSALES"_s).rows(period.days).toStdString();
     }
     const BareDatabase bare(shop.database());
     bench::compare(

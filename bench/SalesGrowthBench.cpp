@@ -2,7 +2,7 @@
 // week, a month and a year, beside what a bare statement takes. A run makes one year; NORVANE_SALES_YEARS=10
 // makes them all, in some minutes and five gigabytes of the temporary folder. Times are processor times.
 #include "bench/GrowingShop.h"
-#include "store/sales/MonthTotals.h"
+#include "store/sales/SalesTotals.h"
 
 #include <benchmark/benchmark.h>
 #include <QFileInfo>
@@ -178,7 +178,7 @@ QString sums(const char* aggregate)
 /// The totals of every PLU, line by line, exact.
 void readReport(store::Database& database, const store::DayRange& days)
 {
-    const store::MonthTotals totals(database, u"PLUSALES"_s);
+    const store::SalesTotals totals(database, u"PLUSALES"_s);
     store::Recordset lines =
         database.openQuery(u"select ID, %1 from %2 group by ID"_s.arg(sums("exact_sum"), totals.rows(days)));
     int plus = 0;
@@ -225,7 +225,7 @@ void readPeriod(benchmark::State& state, const Period& period)
 {
     GrowingShop& grown = shopOf(state, Keeps::Totals);
     const store::DayRange days{period.first(grown.dayBefore(0)), grown.dayBefore(0)};
-    require(store::MonthTotals(grown.open(), u"PLUSALES"_s).addUpMissing(days, days.last), "totals");
+    require(store::SalesTotals(grown.open(), u"PLUSALES"_s).addUpMissing(days, days.last), "totals");
     const bench::BareDatabase bare(grown.database());
     bench::compare(
         state, [&] { readReport(grown.open(), days); }, [&] { readBare(bare, bareStatement(days)); });
@@ -236,7 +236,7 @@ void totalMonth(benchmark::State& state)
 {
     GrowingShop& grown = shopOf(state, Keeps::Totals);
     const QDate last = grown.dayBefore(0);
-    store::MonthTotals totals(grown.open(), u"PLUSALES"_s);
+    store::SalesTotals totals(grown.open(), u"PLUSALES"_s);
     const QDate month(last.year(), last.month(), 1);
     while (state.KeepRunning())
         totals.addUp({month.addMonths(-1), month.addDays(-1)});

@@ -4,7 +4,7 @@
 #include "bench/Shop.h"
 #include "reports/formula/Period.h"
 #include "reports/lines/ReportRun.h"
-#include "store/sales/MonthTotals.h"
+#include "store/sales/SalesTotals.h"
 
 #include <benchmark/benchmark.h>
 
@@ -96,7 +96,7 @@ void SummaryOfPeriod(benchmark::State& state)
     std::string rows;
     {
         store::Database database(shop.database());
-        rows = store::MonthTotals(database, u"PLUSALES"_s).rows(days).toStdString();
+        rows = store::SalesTotals(database, u"PLUSALES"_s).rows(days).toStdString();
     }
     const BareDatabase bare(shop.database());
     bench::compare(

@@ -13,8 +13,8 @@
 #include "store/engine/CommitOnExit.h"
 #include "store/engine/Database.h"
 #include "store/engine/Recordset.h"
-#include "store/sales/MonthTotals.h"
 #include "store/sales/RowAppend.h"
+#include "store/sales/SalesTotals.h"
 
 #include <algorithm>
 #include <array>
@@ -249,7 +249,7 @@ void PollReader::addRow()
 void addUpEndedMonths(store::Database& database, const QString& table, QDate collected)
 {
     const QDate month(collected.year(), collected.month(), 1);
-    store::MonthTotals(database, table).addUpMissing({month.addYears(-1), month.addDays(-1)}, collected);
+    store::SalesTotals(database, table).addUpMissing({month.addYears(-1), month.addDays(-1)}, collected);
 }
 
 } // namespace

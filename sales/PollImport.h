@@ -53,7 +53,7 @@ struct ImportedReport {
 /// Appends a row to the reader's table for each record of its file, dated @p collected: the file does not say
 /// when its sales were made. On a failure, the rows before it have been added; a transaction of the caller
 /// decides whether to keep them. On success, earlier months of the year without totals get them, see
-/// store/sales/MonthTotals.h.
+/// store/sales/SalesTotals.h.
 /// @throws RuntimeFailure with Failure::FileNotFound if the file is missing; naming file and record, with
 /// Failure::InputPastEnd if the last record is short, Failure::TypeMismatch for a value that is empty or not
 /// a number, Failure::Overflow for one that is too large, Failure::TextTooLong for an item's code that is too

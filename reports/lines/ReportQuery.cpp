@@ -88,7 +88,7 @@ std::string ReportQuery::monthRows(const LineSource& source)
     };
     if (!period || period->isOpen() || (source.where && mentions(*source.where, needsRows)))
         return {};
-    store::MonthTotals totals(m_database, source.table->name);
+    store::SalesTotals totals(m_database, source.table->name);
     if (!totals.available())
         return {};
     const store::DayRange days{period->from, period->to};
@@ -102,13 +102,13 @@ std::string ReportQuery::monthRows(const LineSource& source)
         if (!fields.contains(key.name()))
             fields.append(key.name());
     }
-    using enum store::MonthTotals::Longest;
+    using enum store::SalesTotals::Longest;
     return totals.rows(days, fields, source.isByMonth ? Month : Year).toStdString();
 }
 
 /// Another program that reads can keep the totals from being stored for any time. Reading the rows takes less
 /// time than waiting for it, and a report has several queries that would each wait.
-void ReportQuery::addUpMissing(store::MonthTotals& totals, const store::DayRange& days)
+void ReportQuery::addUpMissing(store::SalesTotals& totals, const store::DayRange& days)
 {
     if (!m_mayAddUp)
         return;

@@ -10,7 +10,7 @@
 #include "reports/lines/TextTemplate.h"
 #include "store/engine/BoundQuery.h"
 #include "store/engine/Database.h"
-#include "store/sales/MonthTotals.h"
+#include "store/sales/SalesTotals.h"
 
 #include <functional>
 
@@ -51,7 +51,7 @@ private:
                                                           std::vector<store::Value> others);
     void readList(NameList& list, const MoneyFormat& money);
     [[nodiscard]] std::string monthRows(const LineSource& source);
-    void addUpMissing(store::MonthTotals& totals, const store::DayRange& days);
+    void addUpMissing(store::SalesTotals& totals, const store::DayRange& days);
     [[nodiscard]] bool beginTotals(const store::DayRange& time) const;
 
     const ReportLayout& m_layout;

@@ -33,7 +33,7 @@ public:
     /// @p levels are those that the file has, the longest times first. @p fields: all if it is empty.
     TotalsQuery(const TableDefinition& table, std::span<const TotalsLevel> levels, const QStringList& fields);
 
-    /// In brackets, to be used after "from". See MonthTotals::rows().
+    /// In brackets, to be used after "from". See SalesTotals::rows().
     [[nodiscard]] QString rows(const DayRange& days) const;
 
 private:

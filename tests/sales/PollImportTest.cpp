@@ -4,7 +4,7 @@
 #include "platform/RuntimeFailure.h"
 #include "sales/PollStamp.h"
 #include "store/catalogue/Catalogue.h"
-#include "store/sales/MonthTotals.h"
+#include "store/sales/SalesTotals.h"
 #include "tests/platform/TestFolder.h"
 #include "tests/store/Rows.h"
 
@@ -147,7 +147,7 @@ TEST_F(PollImport, AddsUpTheMonthsThatHaveEnded)
                   added)
             << day.toString().toStdString();
         store::Database database(m_values.databasePath);
-        const store::MonthTotals totals(database, u"FINANCIALSALES"_s);
+        const store::SalesTotals totals(database, u"FINANCIALSALES"_s);
         const QString sum = u"select exact_sum(VALUE) from "_s;
         EXPECT_EQ(rows(sum + totals.rows({{2025, 1, 1}, {2026, 12, 31}})), rows(sum + u"FINANCIALSALES"_s));
     }

@@ -3,7 +3,7 @@
 
 #include "store/catalogue/Catalogue.h"
 #include "store/engine/BoundQuery.h"
-#include "store/sales/MonthTotals.h"
+#include "store/sales/SalesTotals.h"
 #include "tests/store/StoreFolder.h"
 
 namespace norvane::store::test
@@ -40,7 +40,7 @@ protected:
                 plus.value(0).toText() + u' ' + plus.value(1).toText() + u' ' + plus.value(2).toText() + u';';
         }
         const DayRange year{{2026, 1, 1}, {2026, 12, 31}};
-        MonthTotals totals(m_database, u"PLUSALES"_s);
+        SalesTotals totals(m_database, u"PLUSALES"_s);
         totals.addUpMissing(year, {2027, 1, 1});
         BoundQuery sales(m_database, "SELECT exact_sum(VALUE1) FROM " + totals.rows(year).toStdString(), {},
                          {});

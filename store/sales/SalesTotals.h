@@ -16,12 +16,12 @@ namespace norvane::store
 /// The totals of one sales table. A month or year has totals only after it was added up. Triggers of the file
 /// drop them when any program adds, changes, deletes or replaces a row of that month, so an existing total is
 /// right. Recordsets, screens and the list of tables do not know them.
-class MonthTotals
+class SalesTotals
 {
 public:
     /// @p table is one that the catalogue finds by a day (TableDefinition::searchedField). The database must
     /// outlive this. @throws RuntimeFailure with Failure::UnknownName if the file has no such table.
-    MonthTotals(Database& database, const QString& table);
+    SalesTotals(Database& database, const QString& table);
 
     /// Whether the file has room and triggers for totals of this table; otherwise rows() reads the rows.
     [[nodiscard]] bool available() const { return !m_levels.empty(); }

@@ -1,5 +1,5 @@
-// Adding up months and years and the queries that read them; see MonthTotals.h.
-#include "store/sales/MonthTotals.h"
+// Adding up months and years and the queries that read them; see SalesTotals.h.
+#include "store/sales/SalesTotals.h"
 
 #include "platform/RuntimeFailure.h"
 #include "store/catalogue/Catalogue.h"
@@ -88,13 +88,13 @@ std::vector<TotalsLevel> levelsOf(const TableDefinition& table, sqlite3* handle)
 
 } // namespace
 
-MonthTotals::MonthTotals(Database& database, const QString& table)
+SalesTotals::SalesTotals(Database& database, const QString& table)
     : m_connection(connectionOf(database)), m_table(salesTable(database.table(table))),
       m_levels(levelsOf(m_table, m_connection.handle()))
 {
 }
 
-QVector<DayRange> MonthTotals::missing(const TotalsLevel& level, const DayRange& days) const
+QVector<DayRange> SalesTotals::missing(const TotalsLevel& level, const DayRange& days) const
 {
     PreparedStatement isMissing(m_connection.handle(),
                                 "SELECT ?1 NOT IN (" + level.entries.toStdString() +
@@ -112,7 +112,7 @@ QVector<DayRange> MonthTotals::missing(const TotalsLevel& level, const DayRange&
     return times;
 }
 
-QVector<DayRange> MonthTotals::missing(const DayRange& days, QDate today) const
+QVector<DayRange> SalesTotals::missing(const DayRange& days, QDate today) const
 {
     QVector<DayRange> times;
     for (auto level = m_levels.rbegin(); level != m_levels.rend(); ++level)
@@ -122,7 +122,7 @@ QVector<DayRange> MonthTotals::missing(const DayRange& days, QDate today) const
 
 /// A year needs totals of all its months, also of those without rows: whatever changes a row of them drops
 /// the month, and with it the year.
-void MonthTotals::addUp(const DayRange& time)
+void SalesTotals::addUp(const DayRange& time)
 {
     const auto level = std::ranges::find_if(
         m_levels, [&time](const TotalsLevel& each) { return !wholeTimes(each, time).isEmpty(); });
@@ -136,7 +136,7 @@ void MonthTotals::addUp(const DayRange& time)
     savepoint.keep();
 }
 
-void MonthTotals::addUpAbsent(const TotalsLevel& level, const DayRange& days)
+void SalesTotals::addUpAbsent(const TotalsLevel& level, const DayRange& days)
 {
     for (const DayRange& time : wholeTimes(level, days)) {
         PreparedStatement isListed(m_connection.handle(), "SELECT ? IN (" + level.entries.toStdString() + ')',
@@ -150,7 +150,7 @@ void MonthTotals::addUpAbsent(const TotalsLevel& level, const DayRange& days)
     }
 }
 
-void MonthTotals::addUp(const TotalsLevel& level, std::span<const TotalsLevel> from, const DayRange& time)
+void SalesTotals::addUp(const TotalsLevel& level, std::span<const TotalsLevel> from, const DayRange& time)
 {
     sqlite3* handle = m_connection.handle();
     const std::string list = quotedName(level.list);
@@ -166,7 +166,7 @@ void MonthTotals::addUp(const TotalsLevel& level, std::span<const TotalsLevel> f
     run(handle, "INSERT INTO " + list + " VALUES (?)", m_table.name, keyValue(time.first));
 }
 
-bool MonthTotals::addUpMissing(const DayRange& days, QDate today,
+bool SalesTotals::addUpMissing(const DayRange& days, QDate today,
                                const std::function<bool(const DayRange&)>& step)
 {
     try {
@@ -181,7 +181,7 @@ bool MonthTotals::addUpMissing(const DayRange& days, QDate today,
     }
 }
 
-QString MonthTotals::rows(const DayRange& days, const QStringList& fields, Longest longest) const
+QString SalesTotals::rows(const DayRange& days, const QStringList& fields, Longest longest) const
 {
     const std::size_t skipped = longest == Longest::Month && m_levels.size() > 1 ? 1 : 0;
     return TotalsQuery(m_table, std::span(m_levels).subspan(skipped), fields).rows(days);

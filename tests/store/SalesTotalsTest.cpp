@@ -1,6 +1,6 @@
 // Totals of whole months and years beside the sales tables: what a report reads through them is what the rows
 // add up to, whoever changed the rows in between.
-#include "store/sales/MonthTotals.h"
+#include "store/sales/SalesTotals.h"
 
 #include "store/catalogue/Catalogue.h"
 #include "store/catalogue/Upgrade.h"
@@ -42,10 +42,10 @@ const DayRange ranges[] = {
     {{1900, 1, 1}, {2028, 12, 31}},
 };
 
-class MonthTotalsTest : public testing::Test
+class SalesTotalsTest : public testing::Test
 {
 protected:
-    MonthTotalsTest()
+    SalesTotalsTest()
     {
         auto sales = m_database.openTable(u"CLERKSALES"_s);
         // Change of year, 29 February, first and last of a month, two collections of one day.
@@ -94,10 +94,10 @@ protected:
 
     StoreFolder m_folder{catalogue()};
     Database m_database{m_folder.path()};
-    MonthTotals m_totals{m_database, u"clerksales"_s};
+    SalesTotals m_totals{m_database, u"clerksales"_s};
 };
 
-TEST_F(MonthTotalsTest, AreTheSumsOfTheRows)
+TEST_F(SalesTotalsTest, AreTheSumsOfTheRows)
 {
     addUpAll();
     EXPECT_EQ(added(), "2027-12 2028-01 2028-02") << "neither empty months nor the running one";
@@ -110,12 +110,12 @@ TEST_F(MonthTotalsTest, AreTheSumsOfTheRows)
     EXPECT_EQ(answer(u"select count(*) from "_s + m_totals.rows(twoYears)), "8")
         << "the year, two months, a day";
     EXPECT_EQ(answer(u"select distinct SALESDATE from "_s +
-                     m_totals.rows({{2027, 1, 1}, {2028, 2, 29}}, {}, MonthTotals::Longest::Month)),
+                     m_totals.rows({{2027, 1, 1}, {2028, 2, 29}}, {}, SalesTotals::Longest::Month)),
               "01/12/2027 01/01/2028 01/02/2028");
     EXPECT_EQ(answer(u"select exact_sum(VALUE) from "_s + m_totals.rows(twoYears, {u"value"_s})), "2.1");
 }
 
-TEST_F(MonthTotalsTest, AMonthIsCompleteWithItsLastDay)
+TEST_F(SalesTotalsTest, AMonthIsCompleteWithItsLastDay)
 {
     const QVector<DayRange> february{{{2028, 2, 1}, {2028, 2, 29}}};
     EXPECT_EQ(m_totals.missing({{2028, 2, 1}, {2028, 2, 29}}, {2028, 3, 1}), february);
@@ -150,7 +150,7 @@ constexpr Change changes[] = {
     {"update CLERKSALES set VALUE = 7.77 where SALESDATE = '2027-05-05'", "2027-12 2028-01 2028-02", ""},
 };
 
-TEST_F(MonthTotalsTest, DropEveryMonthInWhichARowChanges)
+TEST_F(SalesTotalsTest, DropEveryMonthInWhichARowChanges)
 {
     for (const auto& [sql, months, years] : changes) {
         addUpAll();
@@ -173,20 +173,20 @@ TEST_F(MonthTotalsTest, DropEveryMonthInWhichARowChanges)
     EXPECT_EQ(answer(u"select count(*) from norvane_month_totals_CLERKSALES"_s), "0");
 }
 
-TEST_F(MonthTotalsTest, AreMadeForADatabaseOfAnEarlierBuild)
+TEST_F(SalesTotalsTest, AreMadeForADatabaseOfAnEarlierBuild)
 {
     // As an earlier build left it: it had no trigger for rows that are replaced, so the totals are wrong now.
     addUpAll();
     runElsewhere(m_folder.path(), "drop trigger [CLERKSALES replace by insert]");
     runElsewhere(m_folder.path(), "drop trigger [CLERKSALES replace by update]");
     runElsewhere(m_folder.path(), "update or replace CLERKSALES set rowid = 9 where rowid = 7");
-    MonthTotals without(m_database, u"CLERKSALES"_s);
+    SalesTotals without(m_database, u"CLERKSALES"_s);
     EXPECT_FALSE(without.available());
     EXPECT_EQ(reportOf(without.rows(twoYears)), reportOfRows(twoYears));
     EXPECT_TRUE(without.missing(twoYears, today).isEmpty());
 
     completeDatabase(m_folder.path());
-    MonthTotals made(m_database, u"CLERKSALES"_s);
+    SalesTotals made(m_database, u"CLERKSALES"_s);
     EXPECT_EQ(added(), "");
     QVector<QDate> steps;
     EXPECT_FALSE(made.addUpMissing(twoYears, today, [&steps](const DayRange& month) {
@@ -199,20 +199,20 @@ TEST_F(MonthTotalsTest, AreMadeForADatabaseOfAnEarlierBuild)
 }
 
 // A former build made the file: it has totals of months and no room for those of years.
-TEST_F(MonthTotalsTest, YearsAreReadFromTheirMonthsUntilTheFileHasRoom)
+TEST_F(SalesTotalsTest, YearsAreReadFromTheirMonthsUntilTheFileHasRoom)
 {
     m_totals.addUp({{2027, 12, 1}, {2027, 12, 31}});
     changeElsewhere("drop table norvane_added_years_CLERKSALES; drop table norvane_year_totals_CLERKSALES; "
                     "drop trigger [norvane_added_months_CLERKSALES insert year]; "
                     "drop trigger [norvane_added_months_CLERKSALES delete year]");
-    MonthTotals months(m_database, u"CLERKSALES"_s);
+    SalesTotals months(m_database, u"CLERKSALES"_s);
     EXPECT_TRUE(months.addUpMissing(twoYears, today));
     EXPECT_EQ(added(), "2027-12 2028-01 2028-02");
     EXPECT_EQ(reportOf(months.rows(twoYears)), reportOfRows(twoYears));
 
     completeDatabase(m_folder.path());
     EXPECT_EQ(added(), "2027-12 2028-01 2028-02") << "those of months are kept";
-    MonthTotals years(m_database, u"CLERKSALES"_s);
+    SalesTotals years(m_database, u"CLERKSALES"_s);
     EXPECT_TRUE(years.addUpMissing(twoYears, today));
     EXPECT_EQ(addedYears(), "2027-01");
     EXPECT_EQ(totalsOfYears(), "2");
@@ -220,7 +220,7 @@ TEST_F(MonthTotalsTest, YearsAreReadFromTheirMonthsUntilTheFileHasRoom)
 
 // A former build empties the table and its totals of months with the triggers switched off, and does not know
 // of years. Later it adds the months up again.
-TEST_F(MonthTotalsTest, AYearIsNotReadWhenAFormerBuildLeftItBehind)
+TEST_F(SalesTotalsTest, AYearIsNotReadWhenAFormerBuildLeftItBehind)
 {
     addUpAll();
     {
@@ -247,13 +247,13 @@ TEST_F(MonthTotalsTest, AYearIsNotReadWhenAFormerBuildLeftItBehind)
     EXPECT_EQ(addedYears(), "2027-01");
 }
 
-TEST_F(MonthTotalsTest, AProcessThatIsKilledWhileItAddsUpLeavesNothing)
+TEST_F(SalesTotalsTest, AProcessThatIsKilledWhileItAddsUpLeavesNothing)
 {
     const pid_t child = fork();
     if (child == 0) {
         Database database(m_folder.path());
         const CommitOnExit transaction(database);
-        if (MonthTotals(database, u"CLERKSALES"_s).addUpMissing(twoYears, today))
+        if (SalesTotals(database, u"CLERKSALES"_s).addUpMissing(twoYears, today))
             raise(SIGKILL);
         _exit(1);
     }
@@ -267,14 +267,14 @@ TEST_F(MonthTotalsTest, AProcessThatIsKilledWhileItAddsUpLeavesNothing)
     expectRight("added up by the next one");
 }
 
-TEST_F(MonthTotalsTest, AYearThatCannotBeAddedUpListsNoneOfItsMonths)
+TEST_F(SalesTotalsTest, AYearThatCannotBeAddedUpListsNoneOfItsMonths)
 {
     changeElsewhere("insert into CLERKSALES values (9, 1, '2027-12-09', 1, 9e999)");
     EXPECT_EQ(failureOf([this] { m_totals.addUp({{2027, 1, 1}, {2027, 12, 31}}); }), 3061);
     EXPECT_EQ(answer(u"select count(*) from norvane_added_months_CLERKSALES"_s), "0");
 }
 
-TEST_F(MonthTotalsTest, AMonthThatCannotBeAddedUpIsReadFromItsRows)
+TEST_F(SalesTotalsTest, AMonthThatCannotBeAddedUpIsReadFromItsRows)
 {
     runElsewhere(m_folder.path(), "insert into CLERKSALES values (9, 1, '2028-01-09', 1, 9e999)");
     EXPECT_FALSE(m_totals.addUpMissing(twoYears, today));
@@ -282,10 +282,10 @@ TEST_F(MonthTotalsTest, AMonthThatCannotBeAddedUpIsReadFromItsRows)
     EXPECT_EQ(added(), "2027-12");
     const DayRange february{{2028, 2, 1}, {2028, 2, 29}};
     EXPECT_EQ(reportOf(m_totals.rows(february)), reportOfRows(february));
-    EXPECT_EQ(failureOf([this] { MonthTotals(m_database, u"PLUDATA"_s); }), 3265);
+    EXPECT_EQ(failureOf([this] { SalesTotals(m_database, u"PLUDATA"_s); }), 3265);
 }
 
-TEST_F(MonthTotalsTest, AMonthThatCannotBeStoredLeavesTheFileToOthers)
+TEST_F(SalesTotalsTest, AMonthThatCannotBeStoredLeavesTheFileToOthers)
 {
     const norvane::test::ReadingElsewhere reader(m_folder.path());
     const ShortWait wait(m_database);
@@ -306,7 +306,7 @@ std::string daysLeft(const DayDigests& digests)
 const std::map<QDate, std::string> digestedDays{
     {{2028, 2, 1}, "a"}, {{2028, 2, 29}, "b"}, {{2028, 3, 1}, "c"}};
 
-TEST_F(MonthTotalsTest, ADigestIsDroppedWhenARowOfItsDayChanges)
+TEST_F(SalesTotalsTest, ADigestIsDroppedWhenARowOfItsDayChanges)
 {
     const std::pair<const char*, const char*> losses[] = {
         {"insert into CLERKSALES values (1, 1, '2028-02-01', 1, 1)", "29.2=b 1.3=c"},
@@ -329,7 +329,7 @@ TEST_F(MonthTotalsTest, ADigestIsDroppedWhenARowOfItsDayChanges)
         << "some may have missed the change of their rows";
 }
 
-TEST_F(MonthTotalsTest, ADigestIsDroppedWhenARowIsAppendedOrTheTableIsEmptied)
+TEST_F(SalesTotalsTest, ADigestIsDroppedWhenARowIsAppendedOrTheTableIsEmptied)
 {
     DayDigests digests(m_database, u"CLERKSALES"_s);
     digests.keep(digestedDays);
