@@ -48,7 +48,7 @@ const FieldLabels::Screens& FieldLabels::screensOf(const QString& table)
             continue; // the user sees the failure when the screen is opened
         }
     }
-    return *m_screens.insert(table, std::move(screens));
+    return *m_screens.insert(table, screens);
 }
 
 QString FieldLabels::record(const QString& table, const QString& key)
@@ -60,7 +60,7 @@ QString FieldLabels::record(const QString& table, const QString& key)
 QString FieldLabels::field(const QString& table, const QString& name)
 {
     for (const Screen& screen : screensOf(table)) {
-        if (const QString label = screen.labels.field(name); !label.isEmpty())
+        if (QString label = screen.labels.field(name); !label.isEmpty())
             return label;
     }
     return name;

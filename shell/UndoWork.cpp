@@ -54,18 +54,19 @@ private:
 
     [[nodiscard]] QString lineOf(const store::FieldDifference& difference) const
     {
-        const auto& [table, key, field, now, then, unset] = difference;
-        const QString record = m_names.record(table, key);
+        const QString record = m_names.record(difference.table, difference.record);
+        const int unset = difference.unset;
         if (unset > 0) {
             return u"%1: %2 %3 empty again, which screens show as 0"_s.arg(
                 record, numbers(unset), unset == 1 ? u"becomes"_s : u"become"_s);
         }
-        if (field.isEmpty())
-            return (now.isEmpty() ? u"%1 is added again"_s : u"%1 is deleted again"_s).arg(record);
+        if (difference.field.isEmpty())
+            return (difference.now.isEmpty() ? u"%1 is added again"_s : u"%1 is deleted again"_s).arg(record);
         const auto shown = [&](const QString& value) {
-            return value.isEmpty() ? u"empty"_s : m_names.value(table, field, value);
+            return value.isEmpty() ? u"empty"_s : m_names.value(difference.table, difference.field, value);
         };
-        return u"%1, %2: %3 becomes %4"_s.arg(record, m_names.field(table, field), shown(now), shown(then));
+        return u"%1, %2: %3 becomes %4"_s.arg(record, m_names.field(difference.table, difference.field),
+                                              shown(difference.now), shown(difference.then));
     }
 
     /// "PLU 1001, PLU 1002 and 3 more".

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <ranges>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -171,10 +170,11 @@ BlockPainter::Columns BlockPainter::columnsIn(double width) const
     const double needed = std::accumulate(columns.widths.begin(), columns.widths.end(), nameWidth());
     columns.letters = std::clamp(width / needed, smallestLetters, 1.0);
     double left = width;
-    for (double& own : columns.widths | std::views::reverse) {
-        own *= columns.letters;
-        left -= own;
-        columns.lefts.insert(columns.lefts.begin(), left);
+    columns.lefts.resize(columns.widths.size());
+    for (std::size_t column = columns.widths.size(); column-- > 0;) {
+        columns.widths[column] *= columns.letters;
+        left -= columns.widths[column];
+        columns.lefts[column] = left;
     }
     columns.widths.front() = std::max(0.0, left);
     columns.lefts.front() = 0;

@@ -9,7 +9,6 @@
 #include "store/engine/TableBack.h"
 
 #include <algorithm>
-#include <ranges>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -180,7 +179,8 @@ std::size_t RowChanges::takeBack(Database& database) const
             return true;
         });
         // The latest change first: keys were free in that order.
-        for (const auto& [row, update] : std::views::reverse(rows)) {
+        std::ranges::reverse(rows);
+        for (const auto& [row, update] : rows) {
             TableBack& table = tables[row->table];
             if (update != nullptr) {
                 table.update(row->rowId, *update, before(*row));

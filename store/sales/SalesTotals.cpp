@@ -115,8 +115,9 @@ QVector<DayRange> SalesTotals::missing(const TotalsLevel& level, const DayRange&
 QVector<DayRange> SalesTotals::missing(const DayRange& days, QDate today) const
 {
     QVector<DayRange> times;
-    for (auto level = m_levels.rbegin(); level != m_levels.rend(); ++level)
-        times += missing(*level, {days.first, std::min(days.last, today.addDays(-1))});
+    const DayRange ended{days.first, std::min(days.last, today.addDays(-1))};
+    std::for_each(m_levels.rbegin(), m_levels.rend(),
+                  [&](const TotalsLevel& level) { times += missing(level, ended); });
     return times;
 }
 
