@@ -124,9 +124,10 @@ exportedRows(const std::vector<ExportedColumn>& columns, int rows,
     for (const ExportedColumn& each : columns)
         decimals.push_back(each.column.decimals);
     for (int row = 0; row < rows; ++row) {
-        for (std::size_t place = 0; place < columns.size(); ++place)
+        for (std::size_t place = 0; place < columns.size(); ++place) {
             decimals[place] =
                 std::max(decimals[place], decimalsOf(columns[place].column, valueAt(row, place)));
+        }
     }
     std::vector<reports::ReportColumn> layouts;
     for (std::size_t place = 0; place < columns.size(); ++place) {

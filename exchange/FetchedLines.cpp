@@ -41,9 +41,10 @@ void FetchedLines::add(const store::Recordset& record)
 /// second of its key.
 void FetchedLines::addLine(const store::Recordset& record)
 {
-    if (!m_writer)
+    if (!m_writer) {
         m_writer.emplace(records::registerFile(m_file)->layout(), record,
                          sendTraits(m_values, anyGeneration));
+    }
     m_line.clear();
     m_writer->appendLine(m_line);
     const std::string_view key = std::string_view(m_line).substr(0, m_line.find(','));

@@ -24,9 +24,10 @@ QString endInWords(ChildResult result)
 ChildResult runTool(const RunOutside& outside, const QString& commandLine)
 {
     const ChildResult result = outside.runAndWait(commandLine);
-    if (result != ChildResult::Ended)
+    if (result != ChildResult::Ended) {
         outside.showNotice(
             u"The program %1 %2."_s.arg(commandWords(commandLine).value(0), endInWords(result)));
+    }
     return result;
 }
 

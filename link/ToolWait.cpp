@@ -161,10 +161,11 @@ ChildResult ToolWait::run(const ApplicationValues& values, const QString& comman
         ChildWatch watch{.goOn = [&](auto running) {
             return goOn(tool, running);
         }};
-        if (words != nullptr)
+        if (words != nullptr) {
             watch.output = [words](const QByteArray& bytes) {
                 words->add(bytes);
             };
+        }
         result = RunAndWait(values, commandLine, watch, folder);
     }
     handOver();

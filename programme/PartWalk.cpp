@@ -286,9 +286,10 @@ QString PartWalk::refusalOf(const Column& column) const
 QString PartWalk::refusalOfDifferent(const Column& column) const
 {
     QString refusal = refusalOf(column);
-    if (refusal.isEmpty() && m_parts.refusal)
+    if (refusal.isEmpty() && m_parts.refusal) {
         refusal = m_parts.refusal({m_table, column.name, targetKey(), m_source.value(column.source),
                                    m_target.value(column.target)});
+    }
     return refusal;
 }
 

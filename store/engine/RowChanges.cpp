@@ -140,9 +140,10 @@ std::vector<RecordName> RowChanges::rowsChangedSince(Database& database, std::si
     std::vector<RecordName> names;
     walk(database, [&](const Row& row, const std::string& now, bool isAsItWasLeft) {
         const auto& [table, fields] = m_tables[row.table];
-        if (!isAsItWasLeft)
+        if (!isAsItWasLeft) {
             names.push_back(
                 RowComparison(database.table(table), fields).nameOf(row.length == 0 ? now : before(row)));
+        }
         return names.size() < most;
     });
     return names;
