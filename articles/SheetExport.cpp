@@ -121,6 +121,7 @@ exportedRows(const std::vector<ExportedColumn>& columns, int rows,
              const std::function<const store::Value&(int row, std::size_t column)>& valueAt)
 {
     std::vector<int> decimals;
+    decimals.reserve(columns.size());
     for (const ExportedColumn& each : columns)
         decimals.push_back(each.column.decimals);
     for (int row = 0; row < rows; ++row) {
