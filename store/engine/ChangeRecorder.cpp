@@ -70,8 +70,12 @@ void ChangeRecorder::Recording::keepValues(sqlite3* handle)
 
 void ChangeRecorder::Recording::keep(sqlite3* handle, bool isInsert, std::size_t table, std::int64_t rowId)
 {
-    if (!tables[table].rows.add(rowId))
+    if (!tables[table].rows.add(rowId)) {
+        // A row that takes the id of another one, as REPLACE allows, may differ in every field.
+        if (isInsert)
+            tables[table].isChanged.assign(tables[table].fields.size(), true);
         return;
+    }
     const std::size_t from = changes.m_images.size();
     if (!isInsert)
         keepValues(handle);

@@ -23,8 +23,7 @@ public:
     RowsAfter(sqlite3* handle, const QString& table, const QStringList& fields,
               const std::vector<bool>& isChanged);
 
-    /// @param before what the row was; empty for one that was added. Row ids are never given twice: a row
-    /// that was there before is the same one.
+    /// @param before what the row was; empty for one that was added
     /// @return all values, an empty image for a row that was deleted. Valid until the next call.
     /// @throws RuntimeFailure as the engine reports.
     [[nodiscard]] const std::string& read(std::int64_t rowId, std::string_view before);

@@ -100,6 +100,17 @@ TEST_F(RowChangesTest, KnowsFieldsThatStatementsOfBeforeChangeAgain)
     EXPECT_EQ(rows(), before);
 }
 
+TEST_F(RowChangesTest, KnowsAllFieldsOfARowThatWasReplacedUnderItsId)
+{
+    const RowChanges recording = recorded([this] {
+        m_database.execute(u"update items set groupno = 4 where number = '01'"_s);
+        m_database.execute(u"insert or replace into items (_rowid_, number, groupno, description) "
+                           "select _rowid_, number, groupno, 'new' from items where number = '02'"_s);
+    });
+    EXPECT_EQ(recording.takeBack(m_database), 2U);
+    EXPECT_EQ(rows(), m_before);
+}
+
 TEST_F(RowChangesTest, ARecordsetAtARowSeesItAgain)
 {
     auto items = m_database.openTable(u"items"_s);
