@@ -232,8 +232,9 @@ void adoptInstallation(const Workplace& workplace, const Invocation& words)
         throw CommandError(ExitCode::Usage, u"There is no folder %1."_s.arg(installation.path()));
     const QStringList names = formerCustomers(installation.path());
     if (names.isEmpty()) {
-        throw CommandError(ExitCode::NoCustomer,
-                           u"There is no customer of the former program in %1."_s.arg(installation.path()));
+        throw CommandError(
+            ExitCode::NoCustomer,
+            u"No customers of the former program were found in %1."_s.arg(installation.path()));
     }
     ConversionRun run(workplace, words);
     for (const QString& name : names) {

@@ -196,7 +196,7 @@ void night(const Workplace& workplace, const Invocation& words)
     const QStringList names = namesOf(workplace, words);
     // As when the disk with the customers is not connected.
     if (names.isEmpty())
-        throw CommandError(ExitCode::NoCustomer, u"There is no customer in %1."_s.arg(workplace.appPath));
+        throw CommandError(ExitCode::NoCustomer, u"No customers were found in %1."_s.arg(workplace.appPath));
     // A list of shops that a script reads from standard input must not be eaten by anything that runs here.
     if (std::freopen(qPrintable(QProcess::nullDevice()), "r", stdin) == nullptr)
         std::fclose(stdin);

@@ -87,7 +87,7 @@ ApplicationValues findCustomer(const Workplace& workplace, const QString& name)
     });
     if (found.isEmpty()) {
         throw CommandError(ExitCode::NoCustomer,
-                           u"There is no customer \"%1\" in %2."_s.arg(name, workplace.appPath));
+                           u"Customer \"%1\" was not found in %2."_s.arg(name, workplace.appPath));
     }
     if (found.size() > 1) {
         throw CommandError(ExitCode::NoSuchName,

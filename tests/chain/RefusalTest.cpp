@@ -92,7 +92,7 @@ TEST_F(RefusalTest, ReportsWhyNothingIsPublished)
          to(m_database),
          2,
          u"--vanished keep or --vanished remove"_s},
-        {{cornerShop, u"nowhere"_s}, to(m_database), 3, u"There is no customer \"nowhere\""_s},
+        {{cornerShop, u"nowhere"_s}, to(m_database), 3, u"Customer \"nowhere\" was not found"_s},
         {{cornerShop},
          u"host=/nowhere dbname=chain password=hunter2"_s,
          10,

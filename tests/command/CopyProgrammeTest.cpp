@@ -69,7 +69,7 @@ TEST_F(CopyProgramme, AShopThatFailsIsNamedAndTheOthersAreServed)
     const Ended ended = copy(words);
     EXPECT_EQ(ended.code, 8);
     EXPECT_TRUE(ended.err.contains(u"ONE: nothing was copied."_s) &&
-                ended.err.contains(u"There is no customer \"NONE\""_s))
+                ended.err.contains(u"Customer \"NONE\" was not found"_s))
         << ended.err.toStdString();
     EXPECT_EQ(group(m_two), "Drinks");
     RecordingBoxes boxes;

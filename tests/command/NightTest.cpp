@@ -33,7 +33,7 @@ TEST_F(NightOfShops, OutputThatNobodyTakesStopsNoShop)
 
 TEST_F(NightOfShops, ANightOfNoShopOrWithAnEmptyOptionIsAMistake)
 {
-    expectRefusal(3, {u"night"_s}, u"There is no customer in "_s);
+    expectRefusal(3, {u"night"_s}, u"No customers were found in "_s);
     makeShop(u"ALE"_s);
     for (const QString& option : {u"--to"_s, u"--copies"_s, u"--reports"_s, u"--html"_s})
         expectUsage({u"night"_s, option, {}}, option + u" needs a value."_s);
@@ -153,7 +153,7 @@ TEST_F(NightOfShops, CopiesAreMadeOnceANightAndNeverHalf)
     EXPECT_EQ(run({u"verify"_s, elsewhere}).code, 8);
     EXPECT_EQ(run({u"restore"_s, u"NEWER"_s, copy}).code, 8);
     expectRefusal(3, {u"copy"_s, u"NOBODY"_s, u"NEW"_s, u"--to"_s, elsewhere},
-                  u"NOBODY: not copied. There is no customer"_s);
+                  u"NOBODY: not copied. Customer \"NOBODY\" was not found"_s);
     EXPECT_TRUE(pathExists(elsewhere + u"/NEW"_s)) << "the other one is copied";
 }
 
